@@ -17,23 +17,23 @@ const QStringList folders = {QStringLiteral("digest"), QStringLiteral("basic"), 
 
 sockaddr_in loopback(int port)
 {
-    sockaddr_in place = {};
-    place.sin_family = AF_INET;
-    place.sin_port = htons(static_cast<uint16_t>(port));
-    place.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    return place;
+    sockaddr_in address = {};
+    address.sin_family = AF_INET;
+    address.sin_port = htons(static_cast<uint16_t>(port));
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    return address;
 }
 
-/// A port that was free a moment ago.
+/// A free port. Another process may take it before it is used.
 int freePort()
 {
     const int socket = ::socket(AF_INET, SOCK_STREAM, 0);
-    sockaddr_in place = loopback(0);
-    socklen_t length = sizeof(place);
-    auto *name = reinterpret_cast<sockaddr *>(&place);
+    sockaddr_in address = loopback(0);
+    socklen_t length = sizeof(address);
+    auto *name = reinterpret_cast<sockaddr *>(&address);
     const bool isBound = bind(socket, name, length) == 0 && getsockname(socket, name, &length) == 0;
     close(socket);
-    return isBound ? ntohs(place.sin_port) : 0;
+    return isBound ? ntohs(address.sin_port) : 0;
 }
 
 const char *const configuration = R"conf(ServerName 127.0.0.1
@@ -85,8 +85,8 @@ ApacheServer::ApacheServer(const QString &user, const QString &password) : m_por
         m_failure = QStringLiteral("cannot write into ") + m_folder.path();
         return;
     }
-    // The server does not serve as root, and as another user it could not read the folder. In a user
-    // namespace it is told to be another one and stays who it is.
+    // Apache refuses to run as root, and another user could not read the folder. In a user namespace it runs
+    // under another user ID with the rights of this user.
     m_process.setProcessChannelMode(QProcess::MergedChannels);
     m_process.start(
         QStringLiteral("unshare"),
@@ -108,7 +108,7 @@ ApacheServer::ApacheServer(const QString &user, const QString &password) : m_por
     QFile errors(m_folder.filePath(QStringLiteral("errors")));
     if (errors.open(QIODevice::ReadOnly))
         m_failure += QString::fromUtf8(errors.readAll());
-    m_failure += QStringLiteral("the web server does not come up");
+    m_failure += QStringLiteral("the web server does not start");
 }
 
 ApacheServer::~ApacheServer()
@@ -148,12 +148,12 @@ bool ApacheServer::writeFiles(const QString &user, const QString &password) cons
                      write(QStringLiteral("digests"), name + ':' + realm + ':' + digest + '\n') &&
                      write(QStringLiteral("passwords"), name + ":{SHA}" + hash + '\n');
     for (const QString &folder : folders) {
-        const QString place = QStringLiteral("www/") + folder;
-        QDir(m_folder.path()).mkpath(place);
-        isWritten = isWritten && write(place + QStringLiteral("/text"), "OK 东门\r\n") &&
-                    write(place + QStringLiteral("/picture.jpg"), QByteArray("\xFF\xD8picture\0of", 12)) &&
-                    write(place + QStringLiteral("/picture.svg"), "<svg/>") &&
-                    write(place + QStringLiteral("/recording.dav"), QByteArray(300'000, 'd'));
+        const QString path = QStringLiteral("www/") + folder;
+        QDir(m_folder.path()).mkpath(path);
+        isWritten = isWritten && write(path + QStringLiteral("/text"), "OK 东门\r\n") &&
+                    write(path + QStringLiteral("/picture.jpg"), QByteArray("\xFF\xD8picture\0of", 12)) &&
+                    write(path + QStringLiteral("/picture.svg"), "<svg/>") &&
+                    write(path + QStringLiteral("/recording.dav"), QByteArray(300'000, 'd'));
     }
     return isWritten;
 }
@@ -167,8 +167,9 @@ bool ApacheServer::write(const QString &name, const QByteArray &text) const
 bool ApacheServer::isUp() const
 {
     const int socket = ::socket(AF_INET, SOCK_STREAM, 0);
-    const sockaddr_in place = loopback(m_port);
-    const bool answers = connect(socket, reinterpret_cast<const sockaddr *>(&place), sizeof(place)) == 0;
+    const sockaddr_in address = loopback(m_port);
+    const bool isConnected =
+        connect(socket, reinterpret_cast<const sockaddr *>(&address), sizeof(address)) == 0;
     close(socket);
-    return answers;
+    return isConnected;
 }

@@ -4,24 +4,24 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-/// Apache with the folders "digest", "basic" and "open". The first two want the account; "strict" is like
-/// "digest" and refuses a Digest whose address lacks the query, as the server does when it is not told
-/// otherwise. Below each: "text", "picture.jpg", "picture.svg", "recording.dav", "missing".
+/// Apache with the folders "digest", "strict", "basic" and "open". All except "open" require the account.
+/// "strict" refuses a Digest whose URI lacks the query, which is Apache's default. Each folder contains
+/// "text", "picture.jpg", "picture.svg" and "recording.dav".
 class ApacheServer
 {
 public:
-    /// Starts the server and waits until it answers.
+    /// Starts the server and waits until it accepts connections.
     ApacheServer(const QString &user, const QString &password);
     ~ApacheServer();
     ApacheServer(const ApacheServer &) = delete;
     ApacheServer &operator=(const ApacheServer &) = delete;
 
-    /// Why it does not run; empty when it does.
+    /// The reason why the server does not run; empty if it runs.
     [[nodiscard]] const QString &failure() const { return m_failure; }
 
     [[nodiscard]] QString url(const QString &path) const;
 
-    /// "status method address" of each request, oldest first.
+    /// "status method URI" of each request, the oldest first.
     [[nodiscard]] QStringList requests() const;
 
 private:

@@ -18,9 +18,9 @@ namespace {
 
 constexpr int devices = 200;
 constexpr int deadDevices = 10;
-constexpr int answerTime = 200; // milliseconds
+constexpr int responseTime = 200; // milliseconds
 
-/// Cameras that answer slowly, some of them not at all.
+/// Cameras that respond slowly.
 QList<sdk::demo::SceneDevice> scene()
 {
     QList<sdk::demo::SceneDevice> all;
@@ -32,7 +32,7 @@ QList<sdk::demo::SceneDevice> scene()
         device.type = QStringLiteral("IPC");
         device.accounts = {{QStringLiteral("admin"), QStringLiteral("secret1")}};
         device.channels.resize(1);
-        device.faults = {{.fault = sdk::demo::Fault::SlowAnswers, .number = answerTime, .text = {}}};
+        device.faults = {{.fault = sdk::demo::Fault::SlowAnswers, .number = responseTime, .text = {}}};
         all.append(device);
     }
     return all;
@@ -40,7 +40,7 @@ QList<sdk::demo::SceneDevice> scene()
 
 } // namespace
 
-QList<Figure> measureBatches()
+QList<BenchmarkResult> measureBatches()
 {
     const QString family = QStringLiteral("dh");
     const auto clock = std::make_shared<sdk::SystemClock>();
@@ -78,30 +78,31 @@ QList<Figure> measureBatches()
         batch, &Batch::resulted, &tree,
         [&tree](const QStringList &done, const QList<int> &results) { tree.takeResults(done, results, {}); });
     QObject::connect(batch, &Batch::finished, &loop, &QEventLoop::quit);
-    QElapsedTimer sinceTurn;
-    qint64 longestTurn = 0;
-    QTimer turns;
-    QObject::connect(&turns, &QTimer::timeout, &turns, [&] {
-        longestTurn = std::max(longestTurn, sinceTurn.isValid() ? sinceTurn.elapsed() : 0);
-        sinceTurn.start();
+    QElapsedTimer sinceIteration;
+    qint64 longestIteration = 0;
+    QTimer iterations;
+    QObject::connect(&iterations, &QTimer::timeout, &iterations, [&] {
+        longestIteration =
+            std::max(longestIteration, sinceIteration.isValid() ? sinceIteration.elapsed() : 0);
+        sinceIteration.start();
     });
-    turns.start(5ms);
+    iterations.start(5ms);
     loop.exec();
-    turns.stop();
-    const double atOnce = static_cast<double>(time.elapsed()) / 1000;
+    iterations.stop();
+    const double parallel = static_cast<double>(time.elapsed()) / 1000;
 
     time.start();
     factory.systemConfig(family, command, data, ipports);
-    const double oneAfterAnother = static_cast<double>(time.elapsed()) / 1000;
+    const double sequential = static_cast<double>(time.elapsed()) / 1000;
     return {{.subject = QStringLiteral("command to 200 devices, 10 of them dead"),
-             .value = atOnce,
+             .value = parallel,
              .unit = QStringLiteral("s"),
-             .budget = oneAfterAnother / 6,
-             .peer = oneAfterAnother,
+             .budget = sequential / 6,
+             .peer = sequential,
              .largestRatio = 1.0 / 6,
              .peerName = QStringLiteral("one after another")},
-            {.subject = QStringLiteral("longest turn of the event loop meanwhile"),
-             .value = static_cast<double>(longestTurn),
+            {.subject = QStringLiteral("longest iteration of the event loop meanwhile"),
+             .value = static_cast<double>(longestIteration),
              .unit = QStringLiteral("ms"),
              .budget = 50,
              .peer = {},

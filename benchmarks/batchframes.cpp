@@ -42,8 +42,8 @@ constexpr int commandPage = 4;
 /// Milliseconds between two painted frames, in ascending order.
 struct Pauses
 {
-    QList<double> during;  ///< while something runs
-    QList<double> without; ///< on the same page for the same time, while nothing runs: the machine's own
+    QList<double> during;  ///< while the work runs
+    QList<double> without; ///< on the same page for the same time, without work
 };
 
 double longest(const QList<double> &pauses)
@@ -51,24 +51,24 @@ double longest(const QList<double> &pauses)
     return pauses.isEmpty() ? 0 : pauses.constLast();
 }
 
-/// 99 of 100 pauses are not longer.
+/// The 99th percentile.
 double usuallyLongest(const QList<double> &pauses)
 {
     return pauses.isEmpty() ? 0 : pauses.at((pauses.size() - 1) * 99 / 100);
 }
 
-/// The program's window with 200 devices, painted as often as it can be.
-class PaintedProgram
+/// The window's window with 200 devices, painted as often as it can be.
+class PaintedWindow
 {
 public:
-    PaintedProgram()
+    PaintedWindow()
         : m_shell(CommandLine::parse({u"ConfigTools"_s, u"--demo=fleet:200"_s})), m_isOpen(!m_shell.begin())
     {
         if (!m_isOpen)
             return;
         QSignalSpy found(&factory(), &CDeviceFactory::signalSearchDone);
         found.wait(longestBatch);
-        CLocalConfig::getinstance()->setSearchConfigPass(password); // which CGI commands use
+        CLocalConfig::getinstance()->setSearchConfigPass(password); // used by CGI commands
         factory().setDefaultAccount(family, account, password);
         const QVariantList rows = factory().filterData(family, u"nofilter"_s);
         for (const QVariant &entry : rows) {
@@ -93,7 +93,7 @@ public:
     [[nodiscard]] const QStringList &factoryNew() const { return m_factoryNew; }   ///< MACs
     [[nodiscard]] const QStringList &ipports() const { return m_ipports; } ///< of the initialised ones
 
-    /// The encode settings of a device are what a copy takes.
+    /// Opens a session and reads the encode settings, which a copy needs.
     void openSession() const
     {
         QSignalSpy opened(&factory(), &CDeviceFactory::signalSessionOpened);
@@ -102,7 +102,7 @@ public:
         factory().getEncodeInfo(family);
     }
 
-    /// From the start of a batch to its end, on a page.
+    /// The pauses from the start of a batch to its end, on a page.
     [[nodiscard]] Pauses pauses(int page, const std::function<Batch *()> &start)
     {
         return pausesDuring(page, [&] {
@@ -115,7 +115,7 @@ public:
         });
     }
 
-    /// While the configuration page logs in to a device and reads what it shows of it.
+    /// The pauses while the configuration page logs in to a device and reads its settings.
     [[nodiscard]] Pauses pausesOfLogin(const QString &ipport)
     {
         return pausesDuring(configurationPage, [&] {
@@ -127,8 +127,8 @@ public:
         });
     }
 
-    /// What a page opens before a batch and after it, a list or a message, is painted with each frame:
-    /// without a graphics card it doubles the time of a frame.
+    /// Closes the lists and messages that a page opens before and after a batch. They are painted with each
+    /// frame, which doubles the time of a frame without a graphics card.
     void closePopups() const
     {
         const QList<QObject *> objects = window()->findChildren<QObject *>();
@@ -139,8 +139,8 @@ public:
     }
 
 private:
-    /// `work` returns when it has ended, and lets the window be painted meanwhile. Then the window is painted
-    /// for the same time on the same page without it, with the message that the work has left open.
+    /// `work` blocks until it has ended, and processes events meanwhile. Then the window is painted for the
+    /// same time on the same page without work, with the message that the work has left open.
     [[nodiscard]] Pauses pausesDuring(int page, const std::function<void()> &work)
     {
         window()->setProperty("currentTab", page);
@@ -154,7 +154,8 @@ private:
         return {.during = meanwhile, .without = painted([time] { QTest::qWait(time); })};
     }
 
-    /// Milliseconds between the frames that are painted during `work`, and until the page has settled.
+    /// Milliseconds between the frames that are painted during `work` and until the page has settled, in
+    /// ascending order.
     [[nodiscard]] QList<double> painted(const std::function<void()> &work)
     {
         m_pauses.clear();
@@ -179,7 +180,7 @@ private:
         window()->update();
     }
 
-    static constexpr int settlingTime = 1000; // milliseconds: the page has been made and painted
+    static constexpr int settlingTime = 1000; // milliseconds until the page is created and painted
 
     template<typename Type>
     [[nodiscard]] Type *published(const char *name) const
@@ -239,13 +240,13 @@ QString writeWorkbook(const QString &path, const QStringList &ipports)
     return workbook.saveAs(path) ? path : QString();
 }
 
-/// All rows are deleted, so that devices can be added again.
-void deleteRows(const PaintedProgram &program)
+/// Deletes all rows, so that devices can be added again.
+void deleteRows(const PaintedWindow &window)
 {
     QVariantMap rows;
-    for (const QString &mac : program.initialised())
+    for (const QString &mac : window.initialised())
         rows.insert(mac, true);
-    PaintedProgram::factory().setBatchDeleteDevice(family, rows, u"IPV4"_s);
+    PaintedWindow::factory().setBatchDeleteDevice(family, rows, u"IPV4"_s);
 }
 
 QVariantList devicesToAdd(const QStringList &ipports)
@@ -261,42 +262,42 @@ QVariantList devicesToAdd(const QStringList &ipports)
     return devices;
 }
 
-/// A firmware file that fits every device, small enough to be sent at once.
+/// A small firmware file for every device.
 QString writeFirmware(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write("firmware") > 0 ? path : QString();
 }
 
-/// Medians of some runs.
-QList<Figure> figuresOf(const QString &kind, const QList<Pauses> &runs)
+/// The medians of several runs.
+QList<BenchmarkResult> resultsOf(const QString &kind, const QList<Pauses> &runs)
 {
     using Measure = double (*)(const QList<double> &pauses);
-    const auto figure = [&](const QString &measured, Measure measure) {
+    const auto result = [&](const QString &measured, Measure measure) {
         QList<double> during;
         QList<double> without;
         for (const Pauses &run : runs) {
             during.append(measure(run.during));
             without.append(measure(run.without));
         }
-        return Figure{.subject = u"%1 between frames: %2"_s.arg(measured, kind),
-                      .value = median(during),
-                      .unit = u"ms"_s,
-                      .budget = 50,
-                      .peer = median(without),
-                      .largestRatio = {},
-                      .peerName = u"no batch"_s};
+        return BenchmarkResult{.subject = u"%1 between frames: %2"_s.arg(measured, kind),
+                               .value = median(during),
+                               .unit = u"ms"_s,
+                               .budget = 50,
+                               .peer = median(without),
+                               .largestRatio = {},
+                               .peerName = u"no batch"_s};
     };
-    return {figure(u"longest pause"_s, &longest), figure(u"99 % of pauses"_s, &usuallyLongest)};
+    return {result(u"longest pause"_s, &longest), result(u"99 % of pauses"_s, &usuallyLongest)};
 }
 
-/// Each kind of batch some times, with the window on the page that begins it.
+/// Measures each kind of batch several times, on the page that starts it.
 class FrameMeasurement
 {
 public:
-    explicit FrameMeasurement(PaintedProgram &program) : m_program(program) {}
+    explicit FrameMeasurement(PaintedWindow &window) : m_window(window) {}
 
-    [[nodiscard]] QList<Figure> figures()
+    [[nodiscard]] QList<BenchmarkResult> results()
     {
         logins();
         commands();
@@ -304,11 +305,11 @@ public:
         changes();
         upgrades();
         additions();
-        return m_figures;
+        return m_results;
     }
 
 private:
-    /// `prepare` comes before each run and is not measured.
+    /// `prepare` runs before each measurement.
     void measure(const QString &kind, int page, const std::function<Batch *()> &start, int runs = usualRuns,
                  const std::function<void()> &prepare = {})
     {
@@ -316,9 +317,9 @@ private:
         for (int run = 0; run < runs; ++run) {
             if (prepare)
                 prepare();
-            pauses.append(m_program.pauses(page, start));
+            pauses.append(m_window.pauses(page, start));
         }
-        m_figures += figuresOf(kind, pauses);
+        m_results += resultsOf(kind, pauses);
     }
 
     void logins()
@@ -326,32 +327,32 @@ private:
         QList<Pauses> dead;
         QList<Pauses> alive;
         for (int run = 0; run < usualRuns; ++run) {
-            dead.append(m_program.pausesOfLogin(u"10.250.250.25%1:37777"_s.arg(run)));
-            alive.append(m_program.pausesOfLogin(m_program.ipports().at(run)));
+            dead.append(m_window.pausesOfLogin(u"10.250.250.25%1:37777"_s.arg(run)));
+            alive.append(m_window.pausesOfLogin(m_window.ipports().at(run)));
         }
-        m_figures += figuresOf(u"login of a dead device"_s, dead);
-        m_figures += figuresOf(u"login and reading of a device"_s, alive);
+        m_results += resultsOf(u"login of a dead device"_s, dead);
+        m_results += resultsOf(u"login and reading of a device"_s, alive);
     }
 
     void commands()
     {
         measure(u"system command"_s, systemPage, [this] {
-            return m_program.batches().configureSystem(family, u"videoStandard"_s, u"Standard"_s,
-                                                       {{u"videoStandard"_s, 1}}, m_program.ipports());
+            return m_window.batches().configureSystem(family, u"videoStandard"_s, u"Standard"_s,
+                                                      {{u"videoStandard"_s, 1}}, m_window.ipports());
         });
         measure(u"CGI command"_s, commandPage, [this] {
-            return m_program.commands().send(u"Command"_s, m_program.initialised(),
-                                             u"/cgi-bin/magicBox.cgi?action=getDeviceType"_s);
+            return m_window.commands().send(u"Command"_s, m_window.initialised(),
+                                            u"/cgi-bin/magicBox.cgi?action=getDeviceType"_s);
         });
         QString workbook;
         measure(
             u"workbook of commands"_s, commandPage, [&] { return runWorkbook(workbook); }, usualRuns,
-            [&] { workbook = writeWorkbook(m_folder.filePath(u"commands.xlsx"_s), m_program.ipports()); });
+            [&] { workbook = writeWorkbook(m_folder.filePath(u"commands.xlsx"_s), m_window.ipports()); });
     }
 
     Batch *runWorkbook(const QString &path)
     {
-        CgiWorkbooks &workbooks = *m_program.commands().workbooks();
+        CgiWorkbooks &workbooks = *m_window.commands().workbooks();
         QSignalSpy wasRead(&workbooks, &CgiWorkbooks::wasRead);
         workbooks.read(path);
         wasRead.wait(longestBatch);
@@ -360,62 +361,62 @@ private:
         QStringList lines;
         for (const QVariant &line : wasRead.constFirst().constFirst().toList())
             lines.append(line.toMap().value(u"name"_s).toString());
-        m_program.closePopups(); // the page shows the lines first
+        m_window.closePopups(); // the page displays the lines before the start
         return workbooks.run(u"Workbook"_s, lines);
     }
 
     void snapshotsAndCopies()
     {
-        m_program.openSession();
+        m_window.openSession();
         measure(u"snapshots"_s, commandPage, [this] {
-            return m_program.batches().takeSnapshots(family, u"Snapshots"_s, m_program.ipports().constFirst(),
-                                                     {}, m_folder.path());
+            return m_window.batches().takeSnapshots(family, u"Snapshots"_s, m_window.ipports().constFirst(),
+                                                    {}, m_folder.path());
         });
         measure(u"copy of encode settings"_s, configurationPage, [this] {
-            return m_program.batches().copyEncodeSettings(family, u"Copy"_s, m_program.ipports());
+            return m_window.batches().copyEncodeSettings(family, u"Copy"_s, m_window.ipports());
         });
     }
 
     void changes()
     {
-        constexpr int once = 1; // a device has a first password only once
+        constexpr int once = 1; // a device is initialised only once
         measure(
             u"first passwords"_s, addressPage,
             [this] {
-                return m_program.batches().setFirstPasswords(family, u"Passwords"_s, m_program.factoryNew(),
-                                                             account, password);
+                return m_window.batches().setFirstPasswords(family, u"Passwords"_s, m_window.factoryNew(),
+                                                            account, password);
             },
             once);
         QStringList addresses;
-        for (qsizetype number = 0; number < m_program.initialised().size(); ++number)
+        for (qsizetype number = 0; number < m_window.initialised().size(); ++number)
             addresses.append(u"10.1.0.%1"_s.arg(number + 1));
         const auto change = [&] {
-            return m_program.batches().changeAddresses(family, u"Addresses"_s, m_program.initialised(),
-                                                       addresses, u"255.255.0.0"_s, u"10.1.0.254"_s, false);
+            return m_window.batches().changeAddresses(family, u"Addresses"_s, m_window.initialised(),
+                                                      addresses, u"255.255.0.0"_s, u"10.1.0.254"_s, false);
         };
         const auto putBack = [this] {
-            return m_program.batches().putAddressesBack(m_program.batches().current(), u"Back"_s,
-                                                        m_program.initialised());
+            return m_window.batches().putAddressesBack(m_window.batches().current(), u"Back"_s,
+                                                       m_window.initialised());
         };
         QList<Pauses> changed;
         QList<Pauses> back;
         for (int run = 0; run < usualRuns; ++run) {
-            changed.append(m_program.pauses(addressPage, change));
-            back.append(m_program.pauses(addressPage, putBack));
+            changed.append(m_window.pauses(addressPage, change));
+            back.append(m_window.pauses(addressPage, putBack));
         }
-        m_figures += figuresOf(u"addresses"_s, changed);
-        m_figures += figuresOf(u"addresses put back"_s, back);
+        m_results += resultsOf(u"addresses"_s, changed);
+        m_results += resultsOf(u"addresses put back"_s, back);
     }
 
     void upgrades()
     {
-        constexpr int devices = 12; // each is away for a while
-        const QStringList names = m_program.initialised().first(devices);
+        constexpr int devices = 12; // each is offline during its reboot
+        const QStringList names = m_window.initialised().first(devices);
         measure(
-            u"upgrades"_s, upgradePage, [&] { return m_program.upgrading().start(u"Upgrades"_s, names); }, 1,
+            u"upgrades"_s, upgradePage, [&] { return m_window.upgrading().start(u"Upgrades"_s, names); }, 1,
             [&] {
                 const QString path = writeFirmware(m_folder.filePath(u"firmware.bin"_s));
-                const QString refusal = m_program.upgrading().chooseFile(names, path);
+                const QString refusal = m_window.upgrading().chooseFile(names, path);
                 if (!refusal.isEmpty())
                     qWarning("the firmware is refused: %s", qUtf8Printable(refusal));
             });
@@ -424,37 +425,37 @@ private:
     void additions()
     {
         const auto empty = [this] {
-            deleteRows(m_program);
+            deleteRows(m_window);
         };
         measure(
             u"favourites"_s, addressPage,
             [this] {
-                return m_program.adding().addDevices(u"Favourites"_s, devicesToAdd(m_program.ipports()));
+                return m_window.adding().addDevices(u"Favourites"_s, devicesToAdd(m_window.ipports()));
             },
             usualRuns, empty);
         measure(
             u"import of a list"_s, addressPage,
             [this] {
-                QSignalSpy began(&m_program.adding(), &AddingBatches::importBegan);
-                m_program.adding().importList(
-                    u"Import"_s, writeList(m_folder.filePath(u"list.csv"_s), m_program.ipports()));
+                QSignalSpy began(&m_window.adding(), &AddingBatches::importBegan);
+                m_window.adding().importList(u"Import"_s,
+                                             writeList(m_folder.filePath(u"list.csv"_s), m_window.ipports()));
                 began.wait(longestBatch);
-                return m_program.batches().current();
+                return m_window.batches().current();
             },
             usualRuns, empty);
     }
 
     static constexpr int usualRuns = 3;
 
-    PaintedProgram &m_program;
+    PaintedWindow &m_window;
     const QTemporaryDir m_folder;
-    QList<Figure> m_figures;
+    QList<BenchmarkResult> m_results;
 };
 
 } // namespace
 
-QList<Figure> measureBatchFrames()
+QList<BenchmarkResult> measureBatchFrames()
 {
-    PaintedProgram program;
-    return program.isOpen() ? FrameMeasurement(program).figures() : QList<Figure>();
+    PaintedWindow window;
+    return window.isOpen() ? FrameMeasurement(window).results() : QList<BenchmarkResult>();
 }

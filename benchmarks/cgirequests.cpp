@@ -15,7 +15,7 @@ constexpr int runs = 5;
 const QString user = QStringLiteral("admin");
 const QString password = QStringLiteral("secret1");
 
-/// One process of the peer, which asks for the same texts as often: each twice, with Digest.
+/// Runs one process of the peer, which sends the same requests: each twice, with Digest.
 void runPeer(const QString &url)
 {
     QProcess peer;
@@ -31,19 +31,19 @@ void runPeer(const QString &url)
 
 } // namespace
 
-Figure measureCgiRequests()
+BenchmarkResult measureCgiRequests()
 {
-    Figure figure = {.subject = QStringLiteral("%1 commands over HTTP on loopback").arg(commands),
-                     .value = 0,
-                     .unit = QStringLiteral("ms"),
-                     .budget = 1000,
-                     .peer = {},
-                     .largestRatio = 1.1,
-                     .peerName = QStringLiteral("curl")};
+    BenchmarkResult result = {.subject = QStringLiteral("%1 commands over HTTP on loopback").arg(commands),
+                              .value = 0,
+                              .unit = QStringLiteral("ms"),
+                              .budget = 1000,
+                              .peer = {},
+                              .largestRatio = 1.1,
+                              .peerName = QStringLiteral("curl")};
     const ApacheServer server(user, password);
     if (!server.failure().isEmpty()) {
         QTextStream(stderr) << server.failure() << '\n';
-        return figure;
+        return result;
     }
     const QString url = server.url(QStringLiteral("/digest/text?action=read"));
     const CgiSurroundings surroundings = {
@@ -52,10 +52,10 @@ Figure measureCgiRequests()
         .folder = {},
         .localTime = &QDateTime::currentDateTime};
     const CgiProcedure procedure(surroundings, {});
-    // A line for each answer would be measured along.
+    // Log lines would be part of the measured time.
     QLoggingCategory::setFilterRules(QStringLiteral("configtools.cgi.debug=false"));
     int failed = 0;
-    figure.value = medianMilliseconds(runs, [&] {
+    result.value = medianMilliseconds(runs, [&] {
         for (int command = 0; command < commands; ++command) {
             if (procedure.run(url, user, password, QString()).startsWith(failedResult))
                 ++failed;
@@ -63,7 +63,7 @@ Figure measureCgiRequests()
     });
     QLoggingCategory::setFilterRules({});
     if (failed > 0)
-        figure.subject += QStringLiteral(" (%1 failed)").arg(failed);
-    figure.peer = medianMilliseconds(runs, [&] { runPeer(url); });
-    return figure;
+        result.subject += QStringLiteral(" (%1 failed)").arg(failed);
+    result.peer = medianMilliseconds(runs, [&] { runPeer(url); });
+    return result;
 }

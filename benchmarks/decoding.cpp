@@ -1,6 +1,6 @@
 #include "benchmarks/decodingport.h"
-#include "benchmarks/madestream.h"
 #include "benchmarks/measurements.h"
+#include "benchmarks/teststream.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -12,23 +12,23 @@
 
 namespace {
 
-constexpr int pictures = 300;
+constexpr int frameCount = 300;
 constexpr int runs = 5;
 constexpr int patience = 120000;
-constexpr std::uint32_t pieceSize = 65536;
+constexpr std::uint32_t chunkSize = 65536;
 
-/// Pushes a stream into a port of its own and waits for so many pictures.
-void decode(const QByteArray &stream, int wanted)
+/// Decodes a stream with a new port and waits for that many frames.
+void decode(const QByteArray &stream, int frames)
 {
     DecodingPort port;
     const auto *bytes = reinterpret_cast<const std::uint8_t *>(stream.constData());
     const auto size = static_cast<std::uint32_t>(stream.size());
-    for (std::uint32_t place = 0; place < size; place += pieceSize)
-        port.push({bytes + place, std::min(pieceSize, size - place)});
-    port.waitFor(wanted);
+    for (std::uint32_t offset = 0; offset < size; offset += chunkSize)
+        port.push({bytes + offset, std::min(chunkSize, size - offset)});
+    port.waitFor(frames);
 }
 
-/// What the peer says that it took, without its start; nothing when it does not work here.
+/// The time that the peer reports, without its start; nothing if the peer cannot run on this host.
 std::optional<double> peerMilliseconds(const QString &path)
 {
     QProcess peer;
@@ -37,8 +37,8 @@ std::optional<double> peerMilliseconds(const QString &path)
                                           QStringLiteral("1"), QStringLiteral("-i"), path,
                                           QStringLiteral("-f"), QStringLiteral("null"), QStringLiteral("-")});
     peer.waitForFinished(patience);
-    static const QRegularExpression said(QStringLiteral("bench: .*rtime=([0-9.]+)s"));
-    const QRegularExpressionMatch match = said.match(QString::fromUtf8(peer.readAll()));
+    static const QRegularExpression expression(QStringLiteral("bench: .*rtime=([0-9.]+)s"));
+    const QRegularExpressionMatch match = expression.match(QString::fromUtf8(peer.readAll()));
     constexpr double millisecondsPerSecond = 1000;
     return match.hasMatch() ? std::optional(match.captured(1).toDouble() * millisecondsPerSecond)
                             : std::nullopt;
@@ -46,29 +46,29 @@ std::optional<double> peerMilliseconds(const QString &path)
 
 } // namespace
 
-QList<Figure> measureDecoding()
+QList<BenchmarkResult> measureDecoding()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("stream.mkv"));
     QFile file(path);
-    if (!makeStream(path, pictures) || !file.open(QFile::ReadOnly))
+    if (!createTestStream(path, frameCount) || !file.open(QFile::ReadOnly))
         return {};
     const QByteArray stream = file.readAll();
     QList<double> own;
     QList<double> peer;
-    for (int run = 0; run < runs; ++run) { // in turn, so that both feel the same unrest
-        own.append(medianMilliseconds(1, [&] { decode(stream, pictures); }));
+    for (int run = 0; run < runs; ++run) { // alternating, so that both have the same background load
+        own.append(medianMilliseconds(1, [&] { decode(stream, frameCount); }));
         if (const std::optional<double> time = peerMilliseconds(path))
             peer.append(*time);
     }
-    return {{.subject = QStringLiteral("%1 pictures of 1080p H.264 through a port").arg(pictures),
+    return {{.subject = QStringLiteral("%1 frames of 1080p H.264 through a port").arg(frameCount),
              .value = median(own),
              .unit = QStringLiteral("ms"),
              .budget = 3000,
              .peer = peer.isEmpty() ? std::nullopt : std::optional(median(peer)),
-             .largestRatio = 1.11, // nine tenths of its pictures a second
+             .largestRatio = 1.11, // nine tenths of the frame rate of the peer
              .peerName = QStringLiteral("ffmpeg -f null")},
-            {.subject = QStringLiteral("first picture of a port after its key picture"),
+            {.subject = QStringLiteral("first frame of a port after its key frame"),
              .value = medianMilliseconds(runs, [&] { decode(stream.first(stream.size() / 10), 1); }),
              .unit = QStringLiteral("ms"),
              .budget = 300,

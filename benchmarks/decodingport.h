@@ -8,7 +8,7 @@
 #include <mutex>
 #include <span>
 
-/// Opens a port of a separate decoder library, and frees it in the end.
+/// Opens a port of a separate decoder library. The destructor frees it.
 class DecodingPort
 {
 public:
@@ -20,7 +20,7 @@ public:
     /// Blocks while the port's buffer is full.
     void push(std::span<const std::uint8_t> bytes);
 
-    /// Blocks until so many frames were delivered, two minutes at most.
+    /// Blocks until that many frames were delivered, up to two minutes.
     void waitFor(int frames);
 
 private:

@@ -22,9 +22,9 @@ constexpr int runs = 5;
 constexpr int peerRuns = 3; // of several seconds each
 const QString peerName = QStringLiteral("openpyxl");
 
-/// A factory on a simulated site whose time passes as soon as somebody waits: what is left is the tool's own.
-/// Time passes only during an operation here, since the thread that lets it pass takes its share of the
-/// machine.
+/// A factory on a simulated site whose clock advances as soon as a thread waits for it: the measured time
+/// excludes all waiting. The clock advances only during an operation, since the thread that advances it uses
+/// processor time.
 class Site
 {
 public:
@@ -69,7 +69,7 @@ private:
     CDeviceFactory m_factory;
 };
 
-/// The median of what the other library takes, in milliseconds; nothing when it does not work here.
+/// The median time of the other library in milliseconds; nothing if it cannot run on this host.
 std::optional<double> peerMilliseconds(const QStringList &arguments)
 {
     QProcess peer;
@@ -83,14 +83,14 @@ std::optional<double> peerMilliseconds(const QStringList &arguments)
     return isNumber ? std::optional(time) : std::nullopt;
 }
 
-Figure measureExport(const QTemporaryDir &folder)
+BenchmarkResult measureExport(const QTemporaryDir &folder)
 {
     Site site(sdk::demo::FleetGenerator::generate(devices));
     const QStringList macs = site.search();
     const auto write = [&](const QString &name) {
         return site.factory().exportDevice(QStringLiteral("dh"), folder.path(), macs, name);
     };
-    write(QStringLiteral("device.csv")); // the same texts for the peer
+    write(QStringLiteral("device.csv")); // the same strings for the peer
     return {.subject = QStringLiteral("export of %1 devices to xlsx").arg(macs.size()),
             .value = medianMilliseconds(runs, [&] { write(QStringLiteral("device.xlsx")); }),
             .unit = QStringLiteral("ms"),
@@ -101,7 +101,7 @@ Figure measureExport(const QTemporaryDir &folder)
             .peerName = peerName};
 }
 
-Figure measureChange(const QTemporaryDir &folder)
+BenchmarkResult measureChange(const QTemporaryDir &folder)
 {
     const QString path = folder.filePath(QStringLiteral("device.xlsx"));
     constexpr int changedColumn = 19;
@@ -125,7 +125,7 @@ Figure measureChange(const QTemporaryDir &folder)
             .peerName = peerName};
 }
 
-/// A list of devices that can be logged in to.
+/// A list of devices with their accounts.
 QString writeImportList(const QTemporaryDir &folder, const sdk::demo::Scene &scene)
 {
     QFile file(folder.filePath(QStringLiteral("import.csv")));
@@ -142,7 +142,7 @@ QString writeImportList(const QTemporaryDir &folder, const sdk::demo::Scene &sce
     return file.fileName();
 }
 
-Figure measureImport(const QTemporaryDir &folder)
+BenchmarkResult measureImport(const QTemporaryDir &folder)
 {
     sdk::demo::Scene scene = sdk::demo::FleetGenerator::generate(importedDevices * 2);
     scene.devices.removeIf([](const sdk::demo::SceneDevice &device) { return device.accounts.isEmpty(); });
@@ -154,7 +154,7 @@ Figure measureImport(const QTemporaryDir &folder)
         site.import(list);
         imported = site.factory().filterData(QStringLiteral("dh"), QStringLiteral("nofilter")).size();
     });
-    return {.subject = QStringLiteral("import of %1 devices, waits left out").arg(imported),
+    return {.subject = QStringLiteral("import of %1 devices, without waiting for them").arg(imported),
             .value = own,
             .unit = QStringLiteral("ms"),
             .budget = 3000,
@@ -165,7 +165,7 @@ Figure measureImport(const QTemporaryDir &folder)
 
 } // namespace
 
-QList<Figure> measureDeviceFiles()
+QList<BenchmarkResult> measureDeviceFiles()
 {
     const QTemporaryDir folder;
     return {measureExport(folder), measureChange(folder), measureImport(folder)};

@@ -39,7 +39,7 @@ std::vector<sdk::SearchAnswer> makeAnswers(int count)
     return answers;
 }
 
-/// Each thread delivers its share of the answers.
+/// Delivers the responses from several threads.
 void deliver(DeviceStore &store, const std::vector<sdk::SearchAnswer> &answers)
 {
     std::vector<std::thread> library;
@@ -53,8 +53,8 @@ void deliver(DeviceStore &store, const std::vector<sdk::SearchAnswer> &answers)
         thread.join();
 }
 
-/// The tree of the configuration pages, as it is rebuilt while devices are found.
-Figure measureTree(CDeviceFactory &factory)
+/// The rebuild of the configuration pages' tree, which happens while devices are found.
+BenchmarkResult measureTree(CDeviceFactory &factory)
 {
     OVTreeModel tree;
     DeviceTreeRows rows;
@@ -72,10 +72,10 @@ Figure measureTree(CDeviceFactory &factory)
             .peerName = {}};
 }
 
-/// Every row is changed once, the last row first.
-Figure measureChanges(DeviceStore &store, const QString &by,
-                      bool (DeviceStore::*change)(const QString &, const DeviceStore::Change &),
-                      QLatin1StringView key)
+/// Changes every row once, the last row first.
+BenchmarkResult measureChanges(DeviceStore &store, const QString &by,
+                               bool (DeviceStore::*change)(const QString &, const DeviceStore::Change &),
+                               QLatin1StringView key)
 {
     QStringList names;
     for (const QVariant &row : store.ipv4Rows())
@@ -97,7 +97,7 @@ Figure measureChanges(DeviceStore &store, const QString &by,
 
 } // namespace
 
-QList<Figure> measureDeviceLists()
+QList<BenchmarkResult> measureDeviceLists()
 {
     const auto clock = std::make_shared<sdk::SystemClock>();
     const std::vector<sdk::SearchAnswer> answers = makeAnswers(devices);
@@ -109,13 +109,13 @@ QList<Figure> measureDeviceLists()
         });
     };
     const double halfTime = adding(half);
-    const Figure rows = {.subject = QStringLiteral("10,000 answers from four threads into rows"),
-                         .value = adding(answers),
-                         .unit = QStringLiteral("ms"),
-                         .budget = 150,
-                         .peer = halfTime,
-                         .largestRatio = 2.6, // twice, and what the machine's unrest adds
-                         .peerName = QStringLiteral("half as many")};
+    const BenchmarkResult rows = {.subject = QStringLiteral("10,000 responses from four threads to rows"),
+                                  .value = adding(answers),
+                                  .unit = QStringLiteral("ms"),
+                                  .budget = 150,
+                                  .peer = halfTime,
+                                  .largestRatio = 2.6, // twice, with a tolerance for background load
+                                  .peerName = QStringLiteral("half as many")};
 
     const auto store = std::make_shared<DeviceStore>(clock);
     deliver(*store, answers);
@@ -128,19 +128,19 @@ QList<Figure> measureDeviceLists()
     DeviceTableModel model;
     model.setDeviceFactory(&factory);
     bool text = false;
-    const Figure filter = {.subject = QStringLiteral("text filter over 10,000 rows"),
-                           .value =
-                               medianMilliseconds(runs,
-                                                  [&] {
-                                                      text = !text;
-                                                      model.setSearchText(text ? QStringLiteral("77")
-                                                                               : QStringLiteral("机房 9"));
-                                                  }),
-                           .unit = QStringLiteral("ms"),
-                           .budget = 30,
-                           .peer = {},
-                           .largestRatio = {},
-                           .peerName = {}};
+    const BenchmarkResult filter = {.subject = QStringLiteral("text filter over 10,000 rows"),
+                                    .value = medianMilliseconds(runs,
+                                                                [&] {
+                                                                    text = !text;
+                                                                    model.setSearchText(
+                                                                        text ? QStringLiteral("77")
+                                                                             : QStringLiteral("机房 9"));
+                                                                }),
+                                    .unit = QStringLiteral("ms"),
+                                    .budget = 30,
+                                    .peer = {},
+                                    .largestRatio = {},
+                                    .peerName = {}};
     return {
         rows, filter, measureTree(factory),
         measureChanges(*store, QStringLiteral("MAC"), &DeviceStore::changeRow, DeviceRowKey::mac),

@@ -10,10 +10,10 @@ namespace {
 constexpr int devices = 200;
 constexpr int patience = 300000; // milliseconds
 
-/// The peer holds at most 128 answers and crashes on more.
+/// The peer stores at most 128 responses and crashes on more.
 constexpr int peerDevices = 100;
 
-/// Runs a command in the network of a simulated site of `count` devices. Returns what it printed.
+/// Runs a command in the network of a simulated site of `count` devices. Returns its output.
 QByteArray inSite(int count, const QStringList &command)
 {
     QProcess lab;
@@ -25,7 +25,7 @@ QByteArray inSite(int count, const QStringList &command)
     return lab.readAllStandardOutput();
 }
 
-/// A client of the distribution: how many devices it lists, and after how long.
+/// The number of devices that a client of the distribution lists, and its time.
 QString peerText()
 {
     const QString count =
@@ -41,7 +41,7 @@ QString peerText()
 
 } // namespace
 
-QList<Figure> measureDiscovery()
+QList<BenchmarkResult> measureDiscovery()
 {
     QList<double> rows;
     QList<double> behind;
@@ -60,14 +60,14 @@ QList<Figure> measureDiscovery()
         qWarning("the devices of the site were not all found");
         return {};
     }
-    return {{.subject = u"%1 devices on real sockets into rows (%2)"_s.arg(devices).arg(peerText()),
+    return {{.subject = u"%1 devices on real sockets to rows (%2)"_s.arg(devices).arg(peerText()),
              .value = median(rows),
              .unit = u"ms"_s,
              .budget = 5000,
              .peer = median(answers),
              .largestRatio = {},
-             .peerName = u"answers to a probe"_s},
-            {.subject = u"rows after the last answer"_s,
+             .peerName = u"responses to a probe"_s},
+            {.subject = u"rows after the last response"_s,
              .value = median(behind),
              .unit = u"ms"_s,
              .budget = 1000,

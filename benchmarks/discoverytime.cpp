@@ -1,6 +1,6 @@
-// configtools_discoverytime DEVICES: runs in the network of a simulated site (scripts/lab). Prints, for each
-// run, the milliseconds from the start of a search until that many rows are listed, and those from a probe of
-// its own until that many devices have answered it.
+// configtools_discoverytime DEVICES: runs in the network of a simulated site (scripts/lab). Prints two times
+// in milliseconds for each run: from the start of a search until that many rows are listed, and from a
+// separate probe until that many devices have responded to it.
 #include "app/shell.h"
 #include "device/registry/devicefactory.h"
 #include "sdk/onvif/discovery/discoverysockets.h"
@@ -22,7 +22,7 @@ constexpr int runs = 3;
 constexpr int patience = 30000; // milliseconds
 const QString family = u"dh"_s;
 
-/// -1 when they do not all come.
+/// The time until all rows are listed; -1 after a timeout.
 qint64 timeToRows(qsizetype devices)
 {
     CDeviceFactory &factory = *CDeviceFactory::getinstance();
@@ -30,7 +30,7 @@ qint64 timeToRows(qsizetype devices)
     QElapsedTimer timer;
     timer.start();
     factory.startSearch(family);
-    // The rows of the search before it go first, on the thread of the search.
+    // The search first removes the rows of the previous search, on its thread.
     const auto rows = [&] {
         return factory.filterData(family, u"nofilter"_s).size();
     };
@@ -38,11 +38,11 @@ qint64 timeToRows(qsizetype devices)
                            QTest::qWaitFor([&] { return rows() >= devices; }, patience);
     const qint64 time = timer.elapsed();
     if (done.isEmpty())
-        done.wait(patience); // the next search begins with an empty list
+        done.wait(patience); // the next search starts with an empty list
     return areListed ? time : -1;
 }
 
-/// The same of answers to a probe, without anything that is done with them.
+/// The time until all devices have responded to a probe; -1 after a timeout. The responses are not processed.
 qint64 timeToAnswers(qsizetype devices)
 {
     sdk::onvif::DiscoverySockets sockets;
@@ -53,12 +53,12 @@ qint64 timeToAnswers(qsizetype devices)
     sockets.sendToGroups(sdk::onvif::probeMessage(sdk::onvif::ProbeKind::Transmitters));
     while (senders.size() < devices && timer.elapsed() < patience) {
         constexpr int pause = 100;
-        sockets.receive(pause,
-                        [&](std::string_view, const sdk::onvif::SocketAddress &sender, const std::string &) {
-                            const QString address = QString::fromStdString(sdk::onvif::addressText(sender));
-                            if (!address.contains(u':')) // a device answers from both of its addresses
-                                senders.insert(address);
-                        });
+        sockets.receive(
+            pause, [&](std::string_view, const sdk::onvif::SocketAddress &sender, const std::string &) {
+                const QString address = QString::fromStdString(sdk::onvif::addressText(sender));
+                if (!address.contains(u':')) // a device responds from its IPv4 and its IPv6 address
+                    senders.insert(address);
+            });
     }
     return senders.size() >= devices ? timer.elapsed() : -1;
 }
@@ -74,7 +74,7 @@ int main(int argc, char *argv[])
     if (devices < 1 || shell.begin())
         return 2;
     QSignalSpy first(CDeviceFactory::getinstance(), &CDeviceFactory::signalSearchDone);
-    if (!first.wait(patience)) // of the window's own search
+    if (!first.wait(patience)) // of the search at the start of the window
         return 1;
     for (int run = 0; run < runs; ++run) {
         const qint64 answers = timeToAnswers(devices);

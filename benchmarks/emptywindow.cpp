@@ -1,5 +1,4 @@
-// An empty window of the toolkit, on the same kind of application object and graphics interface as the
-// program.
+// An empty window of Qt, with the same type of application object and graphics interface as the application.
 #include <QApplication>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>

@@ -32,7 +32,7 @@ const QStringList &pageKeys()
 
 } // namespace
 
-Figure measureEncodePage()
+BenchmarkResult measureEncodePage()
 {
     const auto clock = std::make_shared<sdk::SystemClock>();
     const auto site = sdk::demo::DemoSite::open(QStringLiteral("office"), clock, nullptr);
@@ -45,7 +45,7 @@ Figure measureEncodePage()
     factory.findAndLoginDevice(family, QStringLiteral("192.168.1.120:8800"), QStringLiteral("admin"),
                                QStringLiteral("Office-2024"));
     factory.getEncodeCaps(family);
-    return {.subject = QStringLiteral("values of the whole encode page"),
+    return {.subject = QStringLiteral("values of the complete encode page"),
             .value = medianMilliseconds(runs,
                                         [&] {
                                             for (const QString &key : pageKeys())

@@ -35,7 +35,7 @@ constexpr int threads = 4;
 constexpr int answersPerSecond = 100'000;
 constexpr auto pause = 10ms;
 
-/// Answers a search under a new MAC each time, until it is stopped.
+/// Sends responses with random MACs to a search until it is stopped.
 class FloodingLibrary : public QuietNetLibrary
 {
 public:
@@ -83,7 +83,7 @@ private:
 
 } // namespace
 
-QList<Figure> measureFlood()
+QList<BenchmarkResult> measureFlood()
 {
     const auto net = std::make_shared<FloodingLibrary>();
     sdk::SdkLibraries libraries;
@@ -95,8 +95,8 @@ QList<Figure> measureFlood()
                                            [] { return SearchSettings{.localDomain = true}; });
     });
     const double before = residentMegabytes(QCoreApplication::applicationPid());
-    QElapsedTimer sinceTurn;
-    qint64 longestTurn = 0;
+    QElapsedTimer sinceIteration;
+    qint64 longestIteration = 0;
     {
         QQuickStyle::setStyle(QStringLiteral("Basic"));
         BatchEngine batchEngine(libraries.clock);
@@ -107,27 +107,28 @@ QList<Figure> measureFlood()
         publishToScene(engine, batchEngine, store, std::make_shared<CertificateStore>(QString()),
                        std::make_shared<AccountStore>(QString()), colours, libraries.net);
         QSignalSpy done(CDeviceFactory::getinstance(), &CDeviceFactory::signalSearchDone);
-        engine.load(QUrl(QStringLiteral("qrc:/qt/qml/configtools/main.qml"))); // searches at once
-        QTest::qWait(500);                                                     // the first picture
+        engine.load(QUrl(QStringLiteral("qrc:/qt/qml/configtools/main.qml"))); // starts a search
+        QTest::qWait(500);                                                     // the first frame
 
-        QTimer turns;
-        QObject::connect(&turns, &QTimer::timeout, &turns, [&] {
-            longestTurn = std::max(longestTurn, sinceTurn.isValid() ? sinceTurn.elapsed() : 0);
-            sinceTurn.start();
+        QTimer iterations;
+        QObject::connect(&iterations, &QTimer::timeout, &iterations, [&] {
+            longestIteration =
+                std::max(longestIteration, sinceIteration.isValid() ? sinceIteration.elapsed() : 0);
+            sinceIteration.start();
         });
-        turns.start(5ms);
+        iterations.start(5ms);
         done.wait(20000);
         QTest::qWait(1000);
-        turns.stop();
+        iterations.stop();
         qDeleteAll(engine.rootObjects());
     }
     const double memory = residentMegabytes(QCoreApplication::applicationPid()) - before;
     CLocalConfig::deleteInstance();
     CGIConfigManage::deleteInstance();
     CDeviceFactory::deleteInstance();
-    const QString subject = QStringLiteral(" while %1 new devices answer").arg(net->answers);
-    return {{.subject = QStringLiteral("longest turn of the window") + subject,
-             .value = static_cast<double>(longestTurn),
+    const QString subject = QStringLiteral(" while %1 new devices respond").arg(net->answers);
+    return {{.subject = QStringLiteral("longest iteration of the event loop") + subject,
+             .value = static_cast<double>(longestIteration),
              .unit = QStringLiteral("ms"),
              .budget = 300,
              .peer = {},

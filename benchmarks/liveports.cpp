@@ -12,7 +12,7 @@ namespace {
 constexpr int ports = 9;
 constexpr std::uint32_t bufferSize = 8388608;
 
-/// A port, and when its pictures come.
+/// A port with the times of its frames.
 class WatchedPort
 {
 public:
@@ -29,19 +29,19 @@ public:
     WatchedPort(const WatchedPort &) = delete;
     WatchedPort &operator=(const WatchedPort &) = delete;
 
-    void send(const QByteArray &piece)
+    void send(const QByteArray &chunk)
     {
-        m_library.DecoderInputData(m_port, reinterpret_cast<const std::uint8_t *>(piece.constData()),
-                                   static_cast<std::uint32_t>(piece.size()));
+        m_library.DecoderInputData(m_port, reinterpret_cast<const std::uint8_t *>(chunk.constData()),
+                                   static_cast<std::uint32_t>(chunk.size()));
     }
 
-    [[nodiscard]] PictureTimes times()
+    [[nodiscard]] FrameTimes times()
     {
         const std::lock_guard lock(m_mutex);
         m_times.end();
         return m_times;
     }
-    [[nodiscard]] double skippedPictures() const
+    [[nodiscard]] double skippedFrames() const
     {
         sdk::DecoderStatus status = {};
         m_library.DecoderGetStatus(m_port, status);
@@ -59,27 +59,27 @@ private:
 
     sdk::ffmpeg::FfmpegDecoderLibrary &m_library;
     std::int32_t m_port = -1;
-    std::mutex m_mutex; // for m_times
-    PictureTimes m_times;
+    std::mutex m_mutex; // guards m_times
+    FrameTimes m_times;
 };
 
 } // namespace
 
-QList<Figure> measureLivePorts(const NumberedStream &stream)
+QList<BenchmarkResult> measureLivePorts(const NumberedStream &stream)
 {
     sdk::ffmpeg::FfmpegDecoderLibrary library;
     std::vector<std::unique_ptr<WatchedPort>> watched;
     const NumberedStream::Time begin = std::chrono::steady_clock::now() + std::chrono::seconds(1);
     for (int port = 0; port < ports; ++port) {
         watched.push_back(
-            std::make_unique<WatchedPort>(library, NumberedStream::beginOf(port, ports, begin)));
+            std::make_unique<WatchedPort>(library, NumberedStream::startOf(port, ports, begin)));
     }
-    stream.send(ports, begin, [&](int port, const QByteArray &piece) { watched[port]->send(piece); });
-    std::vector<PictureTimes> times;
+    stream.send(ports, begin, [&](int port, const QByteArray &chunk) { watched[port]->send(chunk); });
+    std::vector<FrameTimes> times;
     double skipped = 0;
     for (const auto &port : watched) {
         times.push_back(port->times());
-        skipped += port->skippedPictures();
+        skipped += port->skippedFrames();
     }
-    return figuresOf(QStringLiteral("nine decoder ports of 1440p"), times, skipped);
+    return resultsOf(QStringLiteral("nine decoder ports of 1440p"), times, skipped);
 }

@@ -25,7 +25,7 @@ namespace {
 
 constexpr int longWait = 15000;
 
-/// A simulated recorder that is logged in to, for as long as this lives.
+/// A simulated recorder with a session, which ends with this object.
 class LiveSite
 {
 public:
@@ -88,7 +88,7 @@ double processorTime()
     return milliseconds(usage.ru_utime) + milliseconds(usage.ru_stime);
 }
 
-/// Of this process, with what the allocator keeps for later.
+/// Resident memory of this process, including free memory of the allocator.
 double residentMegabytes()
 {
     QFile status(QStringLiteral("/proc/self/status"));
@@ -101,13 +101,13 @@ double residentMegabytes()
     return 0;
 }
 
-void awaitPicture(const VideoItem &video)
+void awaitFrame(const VideoItem &video)
 {
     if (!QTest::qWaitFor([&] { return video.hasPicture(); }, longWait))
-        qWarning("no live picture came");
+        qWarning("no frame arrived");
 }
 
-Figure measureShowing(const LiveSite &site, int width, int height)
+BenchmarkResult measureShowing(const LiveSite &site, int width, int height)
 {
     site.setMainStream(width, height);
     QQuickWindow window;
@@ -117,42 +117,42 @@ Figure measureShowing(const LiveSite &site, int width, int height)
     video.setChannelId(0);
     window.show();
     video.start();
-    awaitPicture(video);
+    awaitFrame(video);
     constexpr int seconds = 5;
-    int pictures = 0;
-    QObject::connect(&window, &QQuickWindow::frameSwapped, &window, [&] { ++pictures; });
+    int frames = 0;
+    QObject::connect(&window, &QQuickWindow::frameSwapped, &window, [&] { ++frames; });
     const double before = processorTime();
     QTest::qWait(seconds * 1000);
     const double spent = processorTime() - before;
     video.stop();
     return {.subject =
-                QStringLiteral("processor time per shown picture, %1p, %2 pictures/s, drawn in software, "
+                QStringLiteral("processor time per displayed frame, %1p, %2 frames/s, drawn in software, "
                                "with the simulated camera")
                     .arg(height)
-                    .arg(pictures / seconds),
-            .value = spent / std::max(pictures, 1),
+                    .arg(frames / seconds),
+            .value = spent / std::max(frames, 1),
             .unit = QStringLiteral("ms"),
-            .budget = 2 * 1000.0 / 25, // of two cores
+            .budget = 2 * 1000.0 / 25, // of two cores, at 25 frames/s
             .peer = {},
             .largestRatio = {},
             .peerName = {}};
 }
 
-QList<Figure> measureStarts(const LiveSite &site)
+QList<BenchmarkResult> measureStarts(const LiveSite &site)
 {
     site.setMainStream(1280, 720);
     constexpr int settled = 10;
     constexpr int starts = 100;
     double settledMemory = 0;
-    QList<double> firstPictures;
+    QList<double> firstFrames;
     VideoItem video;
     video.setChannelId(0);
     for (int start = 1; start <= starts; ++start) {
         QElapsedTimer time;
         time.start();
         video.start();
-        awaitPicture(video);
-        firstPictures.append(static_cast<double>(time.elapsed()));
+        awaitFrame(video);
+        firstFrames.append(static_cast<double>(time.elapsed()));
         video.stop();
         if (start == settled)
             settledMemory = residentMegabytes();
@@ -160,12 +160,12 @@ QList<Figure> measureStarts(const LiveSite &site)
     return {{.subject = QStringLiteral("growth of memory from the 10th to the 100th live view"),
              .value = residentMegabytes() - settledMemory,
              .unit = QStringLiteral("MB"),
-             .budget = 4, // what the allocator does not give back at once
+             .budget = 4, // free memory that the allocator keeps
              .peer = {},
              .largestRatio = {},
              .peerName = {}},
-            {.subject = QStringLiteral("from the start of a live view to its first picture, 720p"),
-             .value = median(firstPictures),
+            {.subject = QStringLiteral("from the start of a live view to its first frame, 720p"),
+             .value = median(firstFrames),
              .unit = QStringLiteral("ms"),
              .budget = 500,
              .peer = {},
@@ -173,8 +173,8 @@ QList<Figure> measureStarts(const LiveSite &site)
              .peerName = {}}};
 }
 
-/// What nine live views in a window leave behind.
-Figure measureMemoryAfterNine(const LiveSite &site)
+/// The growth of memory after nine live views in a window were closed.
+BenchmarkResult measureMemoryAfterNine(const LiveSite &site)
 {
     site.setMainStream(1920, 1080);
     constexpr int views = 9;
@@ -195,7 +195,7 @@ Figure measureMemoryAfterNine(const LiveSite &site)
         }
         window.show();
         for (const auto &video : videos)
-            awaitPicture(*video);
+            awaitFrame(*video);
         QTest::qWait(shownFor);
     }
     QTest::qWait(closedFor);
@@ -210,11 +210,11 @@ Figure measureMemoryAfterNine(const LiveSite &site)
 
 } // namespace
 
-QList<Figure> measureLiveView()
+QList<BenchmarkResult> measureLiveView()
 {
     const LiveSite site;
-    QList<Figure> figures = {measureShowing(site, 1280, 720), measureShowing(site, 1920, 1080)};
-    figures.append(measureMemoryAfterNine(site));
-    figures.append(measureStarts(site));
-    return figures;
+    QList<BenchmarkResult> results = {measureShowing(site, 1280, 720), measureShowing(site, 1920, 1080)};
+    results.append(measureMemoryAfterNine(site));
+    results.append(measureStarts(site));
+    return results;
 }

@@ -23,7 +23,7 @@ namespace {
 
 constexpr int views = 9;
 
-/// Hands a stream to whoever has asked for a channel. Its handle is the number of the channel, from 1.
+/// Sends streams to the handlers of channels. The handle of a stream is the number of its channel, from 1.
 class SendingLibrary : public QuietNetLibrary
 {
 public:
@@ -41,13 +41,13 @@ public:
     }
     bool NetStopRealStream(std::int64_t) override { return true; }
 
-    void send(int channel, const QByteArray &piece)
+    void send(int channel, const QByteArray &chunk)
     {
         const std::lock_guard lock(m_mutex);
         const Receiver &receiver = m_receivers[static_cast<std::size_t>(channel)];
         if (receiver.handler) {
-            receiver.handler(channel + 1, 0, reinterpret_cast<const std::uint8_t *>(piece.constData()),
-                             static_cast<std::uint32_t>(piece.size()), 0, receiver.user);
+            receiver.handler(channel + 1, 0, reinterpret_cast<const std::uint8_t *>(chunk.constData()),
+                             static_cast<std::uint32_t>(chunk.size()), 0, receiver.user);
         }
     }
 
@@ -61,7 +61,7 @@ private:
     std::array<Receiver, views> m_receivers;
 };
 
-/// Nine live views in a window, and when their pictures are on the screen.
+/// Nine live views in a window, with the times at which their frames are on the screen.
 class WatchedWindow
 {
 public:
@@ -70,7 +70,7 @@ public:
         m_window.resize(1280, 720);
         const QSize size = m_window.size() / 3;
         for (int view = 0; view < views; ++view) {
-            m_times.emplace_back(NumberedStream::beginOf(view, views, begin));
+            m_times.emplace_back(NumberedStream::startOf(view, views, begin));
             m_videos.push_back(std::make_unique<VideoItem>(m_window.contentItem()));
             VideoItem &video = *m_videos.back();
             video.setSize(size);
@@ -78,9 +78,9 @@ public:
             video.setChannelId(view);
             video.start();
         }
-        // Both on the thread that draws. A picture is taken over for a frame between the two.
+        // Both run on the render thread. The displayed frames are copied between the two.
         QObject::connect(
-            &m_window, &QQuickWindow::afterSynchronizing, &m_window, [this] { lookAtPictures(); },
+            &m_window, &QQuickWindow::afterSynchronizing, &m_window, [this] { readNumbers(); },
             Qt::DirectConnection);
         QObject::connect(
             &m_window, &QQuickWindow::frameSwapped, &m_window, [this] { noteShown(); }, Qt::DirectConnection);
@@ -90,14 +90,14 @@ public:
     WatchedWindow(const WatchedWindow &) = delete;
     WatchedWindow &operator=(const WatchedWindow &) = delete;
 
-    [[nodiscard]] std::vector<PictureTimes> times()
+    [[nodiscard]] std::vector<FrameTimes> times()
     {
         const std::lock_guard lock(m_mutex);
-        for (PictureTimes &view : m_times)
+        for (FrameTimes &view : m_times)
             view.end();
         return m_times;
     }
-    [[nodiscard]] double skippedPictures() const
+    [[nodiscard]] double skippedFrames() const
     {
         double skipped = 0;
         for (const auto &video : m_videos)
@@ -106,7 +106,7 @@ public:
     }
 
 private:
-    void lookAtPictures()
+    void readNumbers()
     {
         for (std::size_t view = 0; view < views; ++view) {
             m_numbers[view] = m_videos[view]->currentPicture().lookAt([](const DecodedPicture &picture) {
@@ -125,16 +125,16 @@ private:
         }
     }
 
-    std::mutex m_mutex; // for m_times
-    std::vector<PictureTimes> m_times;
-    std::array<int, views> m_numbers = {}; // in the frame that is drawn, on the thread that draws
+    std::mutex m_mutex; // guards m_times
+    std::vector<FrameTimes> m_times;
+    std::array<int, views> m_numbers = {}; // of the frames that are being rendered; used by the render thread
     QQuickWindow m_window;
-    std::vector<std::unique_ptr<VideoItem>> m_videos; // they go before their window
+    std::vector<std::unique_ptr<VideoItem>> m_videos; // destroyed before the window
 };
 
 } // namespace
 
-QList<Figure> measureLiveWindow(const NumberedStream &stream)
+QList<BenchmarkResult> measureLiveWindow(const NumberedStream &stream)
 {
     const auto net = std::make_shared<SendingLibrary>();
     sdk::SdkLibraries libraries;
@@ -145,23 +145,23 @@ QList<Figure> measureLiveWindow(const NumberedStream &stream)
     const QString folder = QDir::currentPath();
     QDir::setCurrent(QFileInfo(QStringLiteral(CONFIGTOOLS_PROGRAM)).path()); // for the shaders
 
-    QList<Figure> figures;
+    QList<BenchmarkResult> results;
     {
         const NumberedStream::Time begin = std::chrono::steady_clock::now() + std::chrono::seconds(3);
         WatchedWindow window(begin);
         std::atomic<bool> isSent = false;
         const std::jthread camera([&] {
-            stream.send(views, begin, [&](int view, const QByteArray &piece) { net->send(view, piece); });
+            stream.send(views, begin, [&](int view, const QByteArray &chunk) { net->send(view, chunk); });
             isSent = true;
         });
         constexpr int longestSending = 90000;
         if (!QTest::qWaitFor([&] { return isSent.load(); }, longestSending))
             qWarning("the streams did not end");
-        figures =
-            figuresOf(QStringLiteral("nine live views of 1440p"), window.times(), window.skippedPictures());
+        results =
+            resultsOf(QStringLiteral("nine live views of 1440p"), window.times(), window.skippedFrames());
     }
     QDir::setCurrent(folder);
     VideoItem::registerLibraries({});
     CDeviceFactory::deleteInstance();
-    return figures;
+    return results;
 }

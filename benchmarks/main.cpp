@@ -1,6 +1,7 @@
-// Measures the program against its budgets and prints a table. Not a test: times depend on the machine.
+// Measures the application, compares the results with their budgets and prints a table. This is not a test:
+// times depend on the host.
 //
-//   configtools_bench [SUBJECT...]     everything, or only the subjects that are named
+//   configtools_bench [SUBJECT...]     all subjects, or only the named ones
 #include "app/shell.h"
 #include "benchmarks/measurements.h"
 #include "benchmarks/numberedstream.h"
@@ -14,14 +15,14 @@ namespace {
 struct Subject
 {
     QString name;
-    std::function<QList<Figure>()> measure;
+    std::function<QList<BenchmarkResult>()> measure;
 };
 
-QList<Figure> measureNineStreams()
+QList<BenchmarkResult> measureNineStreams()
 {
     const NumberedStream stream;
-    if (!stream.isMade()) {
-        qWarning("a live stream cannot be made here");
+    if (!stream.isValid()) {
+        qWarning("a live stream cannot be created on this host");
         return {};
     }
     return measureLivePorts(stream) + measureLiveWindow(stream);
@@ -33,11 +34,11 @@ QList<Subject> subjects()
             {QStringLiteral("files"), measureDeviceFiles},
             {QStringLiteral("encode"),
              [] {
-                 return QList<Figure>{measureEncodePage()};
+                 return QList<BenchmarkResult>{measureEncodePage()};
              }},
             {QStringLiteral("cgi"),
              [] {
-                 return QList<Figure>{measureCgiRequests()};
+                 return QList<BenchmarkResult>{measureCgiRequests()};
              }},
             {QStringLiteral("batch"),
              [] {
@@ -53,14 +54,14 @@ QList<Subject> subjects()
             {QStringLiteral("flood"), measureFlood},
             {QStringLiteral("start"),
              [] {
-                 return QList<Figure>{measureStart()};
+                 return QList<BenchmarkResult>{measureStart()};
              }},
             {QStringLiteral("memory"),
              [] {
-                 return QList<Figure>{measureMemory()};
+                 return QList<BenchmarkResult>{measureMemory()};
              }},
             {QStringLiteral("page"), [] {
-                 return QList<Figure>{measureDevicePage()};
+                 return QList<BenchmarkResult>{measureDevicePage()};
              }}};
 }
 
@@ -72,15 +73,15 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     const QList<Subject> all = subjects();
     QStringList wanted = QApplication::arguments().mid(1);
-    QList<Figure> figures;
+    QList<BenchmarkResult> results;
     for (const Subject &subject : all) {
         if (wanted.isEmpty() || wanted.contains(subject.name))
-            figures.append(subject.measure());
+            results.append(subject.measure());
     }
     for (const Subject &subject : all)
         wanted.removeAll(subject.name);
     for (const QString &unknown : std::as_const(wanted))
-        std::fprintf(stderr, "There is nothing to measure by the name of \"%s\".\n", qUtf8Printable(unknown));
-    printFigures(figures);
+        std::fprintf(stderr, "There is no subject \"%s\".\n", qUtf8Printable(unknown));
+    printResults(results);
     return wanted.isEmpty() ? 0 : 2;
 }

@@ -19,8 +19,8 @@ namespace {
 
 constexpr int runs = 7;
 
-/// Milliseconds from the start of a program to its first picture.
-double timeToFirstPicture(const QString &program, const QStringList &arguments)
+/// Milliseconds from the start of a process to its first frame.
+double timeToFirstFrame(const QString &program, const QStringList &arguments)
 {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -31,9 +31,9 @@ double timeToFirstPicture(const QString &program, const QStringList &arguments)
     QElapsedTimer timer;
     timer.start();
     process.start(program, arguments);
-    QByteArray said;
-    while (!said.contains("first picture") && process.waitForReadyRead(20000))
-        said += process.readAllStandardError();
+    QByteArray output;
+    while (!output.contains("first picture") && process.waitForReadyRead(20000))
+        output += process.readAllStandardError();
     const double time = static_cast<double>(timer.elapsed());
     process.kill();
     process.waitForFinished();
@@ -68,15 +68,15 @@ QQuickItem *itemNamed(QQuickItem *item, const QString &name)
     return nullptr;
 }
 
-void awaitPicture(QQuickWindow *window)
+void awaitFrame(QQuickWindow *window)
 {
     QSignalSpy swapped(window, &QQuickWindow::frameSwapped);
     window->update();
     swapped.wait();
 }
 
-/// The toolkit's own table model, filled from the factory as a page would.
-const char *const toolkitModel = R"(
+/// The table model of Qt, filled with the rows of the factory.
+const char *const qtModel = R"(
 import QtQuick
 import Qt.labs.qmlmodels
 TableModel {
@@ -96,13 +96,13 @@ TableModel {
 
 } // namespace
 
-Figure measureStart()
+BenchmarkResult measureStart()
 {
     QList<double> own;
     QList<double> empty;
-    for (int run = 0; run < runs; ++run) { // in turn, so that both feel the same unrest
-        own.append(timeToFirstPicture(QStringLiteral(CONFIGTOOLS_PROGRAM), {QStringLiteral("--demo")}));
-        empty.append(timeToFirstPicture(QStringLiteral(CONFIGTOOLS_EMPTY_WINDOW), {}));
+    for (int run = 0; run < runs; ++run) { // alternating, so that both have the same background load
+        own.append(timeToFirstFrame(QStringLiteral(CONFIGTOOLS_PROGRAM), {QStringLiteral("--demo")}));
+        empty.append(timeToFirstFrame(QStringLiteral(CONFIGTOOLS_EMPTY_WINDOW), {}));
     }
     return {.subject = QStringLiteral("start to first painted main window"),
             .value = median(own),
@@ -113,7 +113,7 @@ Figure measureStart()
             .peerName = QStringLiteral("an empty window")};
 }
 
-Figure measureDevicePage()
+BenchmarkResult measureDevicePage()
 {
     Shell shell(CommandLine::parse({QStringLiteral("ConfigTools"), QStringLiteral("--demo=fleet:10000")}));
     if (shell.begin())
@@ -125,19 +125,19 @@ Figure measureDevicePage()
     QQuickItem *table = itemNamed(window->contentItem(), QStringLiteral("deviceTable"));
     auto *model = table->property("model").value<DeviceTableModel *>();
     const auto refreshed = [&] {
-        model->toggleSort(QStringLiteral("ipport")); // every row at another place
-        awaitPicture(window);
+        model->toggleSort(QStringLiteral("ipport")); // every row moves
+        awaitFrame(window);
     };
     const double own = medianMilliseconds(runs, refreshed);
 
     QQmlComponent component(shell.engine());
-    component.setData(toolkitModel, QUrl());
-    const std::unique_ptr<QObject> toolkits(component.create());
+    component.setData(qtModel, QUrl());
+    const std::unique_ptr<QObject> qtTable(component.create());
     double peer = 0;
-    if (toolkits) {
+    if (qtTable) {
         peer = medianMilliseconds(3, [&] {
-            QMetaObject::invokeMethod(toolkits.get(), "refresh");
-            awaitPicture(window);
+            QMetaObject::invokeMethod(qtTable.get(), "refresh");
+            awaitFrame(window);
         });
     }
     return {.subject = QStringLiteral("page refresh with %1 rows").arg(model->rowCount()),
@@ -146,20 +146,21 @@ Figure measureDevicePage()
             .budget = 400,
             .peer = peer > 0 ? std::optional(peer) : std::nullopt,
             .largestRatio = {},
-            .peerName = QStringLiteral("the toolkit's TableModel")};
+            .peerName = QStringLiteral("Qt's TableModel")};
 }
 
-Figure measureMemory()
+BenchmarkResult measureMemory()
 {
     QProcess program;
     program.setWorkingDirectory(QFileInfo(QStringLiteral(CONFIGTOOLS_PROGRAM)).path());
     program.start(QStringLiteral(CONFIGTOOLS_PROGRAM), {QStringLiteral("--demo=fleet:10000")});
     constexpr int searchAndRest = 9000;
-    program.waitForFinished(searchAndRest); // it goes on; the search has ended by then
+    program.waitForFinished(
+        searchAndRest); // always times out: the application keeps running after the search
     const double memory = residentMegabytes(program.processId());
     program.kill();
     program.waitForFinished();
-    return {.subject = QStringLiteral("memory of the program with 10,000 rows"),
+    return {.subject = QStringLiteral("memory of the application with 10,000 rows"),
             .value = memory,
             .unit = QStringLiteral("MB"),
             .budget = 250,

@@ -1,57 +1,57 @@
-// What is measured, by subject.
+// The measurements. main.cpp maps subjects to them.
 #pragma once
 
-#include "benchmarks/figures.h"
+#include "benchmarks/benchmarkresult.h"
 
 class NumberedStream;
 
-/// Search answers into rows, the text filter over them, and the device tree.
-[[nodiscard]] QList<Figure> measureDeviceLists();
+/// Search responses to rows, the text filter over them, and the device tree.
+[[nodiscard]] QList<BenchmarkResult> measureDeviceLists();
 
-/// Device lists as files, workbooks against another library for them.
-[[nodiscard]] QList<Figure> measureDeviceFiles();
+/// Export, change and import of device lists. Workbooks are compared with another library.
+[[nodiscard]] QList<BenchmarkResult> measureDeviceFiles();
 
-/// Commands to a web server against another client of the same library.
-[[nodiscard]] Figure measureCgiRequests();
+/// CGI commands to a web server, compared with curl, which uses the same library.
+[[nodiscard]] BenchmarkResult measureCgiRequests();
 
-/// Live pictures on the screen, and what 100 live views leave behind.
-[[nodiscard]] QList<Figure> measureLiveView();
+/// Live video on the screen, and the growth of memory after live views were closed.
+[[nodiscard]] QList<BenchmarkResult> measureLiveView();
 
-/// A live stream of a device over RTSP, against the decoder's own program.
-[[nodiscard]] QList<Figure> measureRtspStream();
+/// A live stream of a device over RTSP, compared with ffmpeg.
+[[nodiscard]] QList<BenchmarkResult> measureRtspStream();
 
-/// A search of a site of 200 devices on real sockets, until all of them are rows.
-[[nodiscard]] QList<Figure> measureDiscovery();
+/// The time of a search until all 200 devices of a site on real sockets are listed.
+[[nodiscard]] QList<BenchmarkResult> measureDiscovery();
 
-/// A command to many devices at once, against the same to one after another.
-[[nodiscard]] QList<Figure> measureBatches();
+/// A command to many devices in parallel, compared with one after another.
+[[nodiscard]] QList<BenchmarkResult> measureBatches();
 
-/// The window while batches of each kind run on 200 devices.
-[[nodiscard]] QList<Figure> measureBatchFrames();
+/// The frame times of the window while batches of each kind run on 200 devices.
+[[nodiscard]] QList<BenchmarkResult> measureBatchFrames();
 
-/// Live streams into pictures, against the decoder's own program on one thread.
-[[nodiscard]] QList<Figure> measureDecoding();
+/// Decoding of a live stream, compared with ffmpeg on one thread.
+[[nodiscard]] QList<BenchmarkResult> measureDecoding();
 
-/// Nine live streams at the pace of their cameras: how late their pictures are where they are decoded.
-[[nodiscard]] QList<Figure> measureLivePorts(const NumberedStream &stream);
+/// Nine live streams in real time: the delay of their decoded frames.
+[[nodiscard]] QList<BenchmarkResult> measureLivePorts(const NumberedStream &stream);
 
 /// The same on the screen.
-[[nodiscard]] QList<Figure> measureLiveWindow(const NumberedStream &stream);
+[[nodiscard]] QList<BenchmarkResult> measureLiveWindow(const NumberedStream &stream);
 
-/// Start of the program against an empty window of the toolkit.
-[[nodiscard]] Figure measureStart();
+/// The start of the application, compared with an empty window of Qt.
+[[nodiscard]] BenchmarkResult measureStart();
 
-/// The page of devices with 10,000 rows.
-[[nodiscard]] Figure measureDevicePage();
+/// The refresh of the device page with 10,000 rows.
+[[nodiscard]] BenchmarkResult measureDevicePage();
 
-/// The values of the whole encode page from what was read of a device, without the library's calls.
-[[nodiscard]] Figure measureEncodePage();
+/// Reading all values of the encode page from the settings of a session, without calls of the library.
+[[nodiscard]] BenchmarkResult measureEncodePage();
 
-/// The window and its memory while a search is answered by more devices than there can be.
-[[nodiscard]] QList<Figure> measureFlood();
+/// The window and its memory while a search receives more responses than a real network can send.
+[[nodiscard]] QList<BenchmarkResult> measureFlood();
 
-/// Resident memory of a process in megabytes.
+/// The resident memory of a process in megabytes.
 [[nodiscard]] double residentMegabytes(qint64 process);
 
-/// The memory of the program with 10,000 rows.
-[[nodiscard]] Figure measureMemory();
+/// The memory of the application with 10,000 rows.
+[[nodiscard]] BenchmarkResult measureMemory();

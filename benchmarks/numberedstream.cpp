@@ -14,8 +14,8 @@ constexpr int bitSide = 64; // pixels
 constexpr int width = 2560;
 constexpr int patience = 300000;
 
-/// The filter that writes the number of each picture into its upper left corner: a square for each bit, the
-/// lowest one first.
+/// The filter that draws the number of each frame in its upper left corner: a square for each bit, the lowest
+/// one first.
 QString numberFilter()
 {
     QString filter;
@@ -29,8 +29,9 @@ QString numberFilter()
     return filter.mid(1);
 }
 
-/// A live stream of 1440p H.264 as its head and its pictures. Empty when it cannot be made here.
-std::vector<QByteArray> makeStream()
+/// The chunks of a live stream of 1440p H.264: the header, then one for each frame. Empty if it cannot be
+/// created on this host.
+std::vector<QByteArray> createStream()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("stream.mkv"));
@@ -45,7 +46,7 @@ std::vector<QByteArray> makeStream()
                  QStringLiteral("-vf"),
                  numberFilter(),
                  QStringLiteral("-frames:v"),
-                 QString::number(NumberedStream::pictures),
+                 QString::number(NumberedStream::frames),
                  QStringLiteral("-c:v"),
                  QStringLiteral("libx264"),
                  QStringLiteral("-preset"),
@@ -67,15 +68,15 @@ std::vector<QByteArray> makeStream()
     if (!maker.waitForFinished(patience) || maker.exitCode() != 0 || !file.open(QFile::ReadOnly))
         return {};
     const QByteArray bytes = file.readAll();
-    const QByteArray cluster = QByteArray::fromHex("1f43b675"); // each holds a picture
-    std::vector<QByteArray> pieces;
+    const QByteArray cluster = QByteArray::fromHex("1f43b675"); // each contains a frame
+    std::vector<QByteArray> chunks;
     for (qsizetype begin = 0; begin < bytes.size();) {
         const qsizetype next = bytes.indexOf(cluster, begin + 1);
         const qsizetype end = next < 0 ? bytes.size() : next;
-        pieces.push_back(bytes.mid(begin, end - begin));
+        chunks.push_back(bytes.mid(begin, end - begin));
         begin = end;
     }
-    return pieces;
+    return chunks;
 }
 
 double milliseconds(std::chrono::steady_clock::duration duration)
@@ -85,40 +86,41 @@ double milliseconds(std::chrono::steady_clock::duration duration)
 
 } // namespace
 
-NumberedStream::NumberedStream() : m_pieces(makeStream()) {}
+NumberedStream::NumberedStream() : m_chunks(createStream()) {}
 
 int NumberedStream::numberOf(const std::uint8_t *luma)
 {
     int number = 0;
     for (int bit = 0; bit < numberBits; ++bit) {
         constexpr int middle = 128;
-        const std::size_t place = std::size_t{width} * bitSide / 2 + std::size_t(bit) * bitSide + bitSide / 2;
-        number |= luma[place] > middle ? 1 << bit : 0;
+        const std::size_t offset =
+            std::size_t{width} * bitSide / 2 + std::size_t(bit) * bitSide + bitSide / 2;
+        number |= luma[offset] > middle ? 1 << bit : 0;
     }
     return number;
 }
 
 void NumberedStream::send(int streams, Time begin,
-                          const std::function<void(int stream, const QByteArray &piece)> &send) const
+                          const std::function<void(int stream, const QByteArray &chunk)> &send) const
 {
     constexpr std::chrono::milliseconds pause{2};
     std::vector<std::size_t> sent(streams, 0);
-    while (sent.back() < m_pieces.size()) {
+    while (sent.back() < m_chunks.size()) {
         const Time now = std::chrono::steady_clock::now();
         for (int stream = 0; stream < streams; ++stream) {
             std::size_t &next = sent[stream];
-            // The head goes with the first picture.
+            // The header is sent with the first frame.
             const auto due = [&] {
-                return beginOf(stream, streams, begin) + period * (std::max<std::size_t>(next, 1) - 1);
+                return startOf(stream, streams, begin) + period * (std::max<std::size_t>(next, 1) - 1);
             };
-            while (next < m_pieces.size() && due() <= now)
-                send(stream, m_pieces[next++]);
+            while (next < m_chunks.size() && due() <= now)
+                send(stream, m_chunks[next++]);
         }
         std::this_thread::sleep_for(pause);
     }
 }
 
-void PictureTimes::note(int number, Time now)
+void FrameTimes::note(int number, Time now)
 {
     if (number == m_number)
         return;
@@ -127,45 +129,45 @@ void PictureTimes::note(int number, Time now)
     ++shown;
     const double lag = milliseconds(now - (m_begin + NumberedStream::period * number));
     longestLag = std::max(longestLag, lag);
-    constexpr int atTheEnd = NumberedStream::pictures - 100;
+    constexpr int atTheEnd = NumberedStream::frames - 100;
     if (number >= atTheEnd)
         lastLag = std::max(lastLag, lag);
 }
 
-void PictureTimes::end()
+void FrameTimes::end()
 {
-    noteGap(std::max(m_last, m_begin + NumberedStream::period * NumberedStream::pictures));
+    noteGap(std::max(m_last, m_begin + NumberedStream::period * NumberedStream::frames));
 }
 
-void PictureTimes::noteGap(Time now)
+void FrameTimes::noteGap(Time now)
 {
     if (m_number >= 0)
         longestGap = std::max(longestGap, milliseconds(now - m_last));
     m_last = now;
 }
 
-QList<Figure> figuresOf(const QString &subject, const std::vector<PictureTimes> &times, double skipped)
+QList<BenchmarkResult> resultsOf(const QString &subject, const std::vector<FrameTimes> &times, double skipped)
 {
-    PictureTimes worst{NumberedStream::Time()};
-    for (const PictureTimes &stream : times) {
+    FrameTimes worst{NumberedStream::Time()};
+    for (const FrameTimes &stream : times) {
         worst.longestGap = std::max(worst.longestGap, stream.longestGap);
         worst.longestLag = std::max(worst.longestLag, stream.longestLag);
         worst.lastLag = std::max(worst.lastLag, stream.lastLag);
         worst.shown += stream.shown;
     }
-    const auto figure = [&subject](const char *what, double value, double budget, const char *unit = "ms") {
-        return Figure{.subject = subject + QString::fromLatin1(what),
-                      .value = value,
-                      .unit = QString::fromLatin1(unit),
-                      .budget = budget,
-                      .peer = {},
-                      .largestRatio = {},
-                      .peerName = {}};
+    const auto result = [&subject](const char *what, double value, double budget, const char *unit = "ms") {
+        return BenchmarkResult{.subject = subject + QString::fromLatin1(what),
+                               .value = value,
+                               .unit = QString::fromLatin1(unit),
+                               .budget = budget,
+                               .peer = {},
+                               .largestRatio = {},
+                               .peerName = {}};
     };
-    const double all = static_cast<double>(times.size()) * NumberedStream::pictures;
-    return {figure(": lag after a minute", worst.lastLag, 1000),
-            figure(": longest lag", worst.longestLag, 1000),
-            figure(": longest time without a picture", worst.longestGap, 1000),
-            figure(": pictures that were not decoded", skipped / all * 100, 100, "%"),
-            figure(": pictures that were not shown", (1 - worst.shown / all) * 100, 100, "%")};
+    const double all = static_cast<double>(times.size()) * NumberedStream::frames;
+    return {result(": lag after a minute", worst.lastLag, 1000),
+            result(": longest lag", worst.longestLag, 1000),
+            result(": longest time without a frame", worst.longestGap, 1000),
+            result(": frames that were not decoded", skipped / all * 100, 100, "%"),
+            result(": frames that were not displayed", (1 - worst.shown / all) * 100, 100, "%")};
 }

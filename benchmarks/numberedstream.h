@@ -1,7 +1,7 @@
-// A live stream whose pictures show their numbers, and what becomes of them.
+// A live stream whose frames display their numbers, and the times of these frames.
 #pragma once
 
-#include "benchmarks/figures.h"
+#include "benchmarks/benchmarkresult.h"
 
 #include <QByteArray>
 
@@ -9,57 +9,58 @@
 #include <functional>
 #include <vector>
 
-/// A minute of 1440p H.264 with 25 pictures a second, as a camera sends it.
+/// A minute of 1440p H.264 with 25 frames per second.
 class NumberedStream
 {
 public:
     using Time = std::chrono::steady_clock::time_point;
 
-    static constexpr int pictures = 1500;
+    static constexpr int frames = 1500;
     static constexpr std::chrono::milliseconds period{40};
     static constexpr std::chrono::milliseconds keyPeriod{2000};
 
-    /// Makes the stream. Its key pictures need no earlier ones.
+    /// Creates the stream.
     NumberedStream();
 
-    /// False when the stream cannot be made here.
-    [[nodiscard]] bool isMade() const { return m_pieces.size() >= pictures; }
+    /// False if the stream cannot be created on this host.
+    [[nodiscard]] bool isValid() const { return m_chunks.size() >= frames; }
 
-    /// When `stream` of `streams` begins, if the first one does at `begin`: their key pictures come apart.
-    [[nodiscard]] static Time beginOf(int stream, int streams, Time begin)
+    /// The start of `stream` if the first of `streams` starts at `begin`. Their key frames are evenly spaced.
+    [[nodiscard]] static Time startOf(int stream, int streams, Time begin)
     {
         return begin + stream * keyPeriod / streams;
     }
 
-    /// Sends so many streams at their times, and returns at the end of the last one.
+    /// Sends that many copies of the stream in real time: calls `send` with each chunk when it is due.
+    /// Returns at the end of the last copy.
     void send(int streams, Time begin,
-              const std::function<void(int stream, const QByteArray &piece)> &send) const;
+              const std::function<void(int stream, const QByteArray &chunk)> &send) const;
 
-    /// The number that a picture shows in its plane Y.
+    /// The number that a frame displays, from its plane Y.
     [[nodiscard]] static int numberOf(const std::uint8_t *luma);
 
 private:
-    std::vector<QByteArray> m_pieces; ///< the head and the pictures
+    std::vector<QByteArray> m_chunks; ///< the header, then one for each frame
 };
 
-/// When the pictures of a stream came. Not thread-safe.
-class PictureTimes
+/// The times of a stream's frames. Not thread-safe.
+class FrameTimes
 {
 public:
     using Time = NumberedStream::Time;
 
-    explicit PictureTimes(Time begin) : m_begin(begin) {}
+    explicit FrameTimes(Time begin) : m_begin(begin) {}
 
-    /// To be told of each picture; the same one again is none.
+    /// To be called for each displayed frame. A repeated frame is ignored.
     void note(int number, Time now);
 
-    /// To be told that the stream has ended.
+    /// To be called after the end of the stream.
     void end();
 
-    double longestGap = 0; ///< between two pictures, in milliseconds
-    double longestLag = 0; ///< of a picture behind its sending
-    double lastLag = 0;    ///< the longest one during the last four seconds
-    int shown = 0;         ///< pictures
+    double longestGap = 0; ///< between two frames, in milliseconds
+    double longestLag = 0; ///< from sending a frame to its display, in milliseconds
+    double lastLag = 0;    ///< the longest lag of the last four seconds
+    int shown = 0;         ///< number of displayed frames
 
 private:
     void noteGap(Time now);
@@ -69,6 +70,6 @@ private:
     int m_number = -1;
 };
 
-/// The figures of some streams. `skipped` is how many pictures of all were left out.
-[[nodiscard]] QList<Figure> figuresOf(const QString &subject, const std::vector<PictureTimes> &times,
-                                      double skipped);
+/// The worst results of several streams. `skipped` is the total number of dropped frames.
+[[nodiscard]] QList<BenchmarkResult> resultsOf(const QString &subject, const std::vector<FrameTimes> &times,
+                                               double skipped);

@@ -1,4 +1,4 @@
-"""What the same work on workbooks takes with openpyxl, as the median in milliseconds.
+"""Prints the median time of the same work on workbooks with openpyxl, in milliseconds.
 
     openpyxlpeer.py write LIST.csv WORKBOOK.xlsx RUNS      writes the cells of a device list as text
     openpyxlpeer.py change WORKBOOK.xlsx COLUMN RUNS       opens, changes one column of every device, and saves
@@ -12,7 +12,7 @@ from openpyxl.cell import WriteOnlyCell
 
 
 def write(rows, path):
-    book = openpyxl.Workbook(write_only=True)  # the quickest way that the library has
+    book = openpyxl.Workbook(write_only=True)  # the fastest mode of the library
     sheet = book.create_sheet()
     for row in rows:
         cells = []

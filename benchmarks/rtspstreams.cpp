@@ -1,6 +1,6 @@
 #include "benchmarks/decodingport.h"
-#include "benchmarks/madestream.h"
 #include "benchmarks/measurements.h"
+#include "benchmarks/teststream.h"
 #include "sdk/onvif/live/rtspstream.h"
 #include "tests/sdk/onvif/rtspserver.h"
 
@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr int pictures = 300;
+constexpr int frameCount = 300;
 constexpr int runs = 5;
 constexpr int patience = 120000;
 constexpr double millisecondsPerSecond = 1000;
@@ -29,7 +29,7 @@ double processMilliseconds()
            static_cast<double>(time.tv_nsec) / nanosecondsPerMillisecond;
 }
 
-/// A stream as a device sends it, as fast as it is taken.
+/// The stream of a device, which sends as fast as the client receives.
 sdk::onvif::RtspScript scriptOf(const QByteArray &container)
 {
     const sdk::onvif::RtpSource source = sdk::onvif::RtpSource::of(container);
@@ -40,16 +40,16 @@ sdk::onvif::RtspScript scriptOf(const QByteArray &container)
     return script;
 }
 
-/// The same at the pace of its pictures.
+/// The same in real time.
 sdk::onvif::RtspScript paced(sdk::onvif::RtspScript script)
 {
-    constexpr qsizetype timePlace = 4;
+    constexpr qsizetype timeOffset = 4;
     constexpr qsizetype timeSize = 4;
     QByteArray last;
     std::chrono::milliseconds due{-period};
     for (sdk::onvif::RtpPacket &packet : script.packets) {
-        if (packet.channel == 0 && packet.bytes.mid(timePlace, timeSize) != last) {
-            last = packet.bytes.mid(timePlace, timeSize);
+        if (packet.channel == 0 && packet.bytes.mid(timeOffset, timeSize) != last) {
+            last = packet.bytes.mid(timeOffset, timeSize);
             due += period;
         }
         packet.due = std::max(due, std::chrono::milliseconds(0));
@@ -57,8 +57,8 @@ sdk::onvif::RtspScript paced(sdk::onvif::RtspScript script)
     return script;
 }
 
-/// Receives and decodes until so many pictures have come.
-void watch(const sdk::onvif::RtspServer &server, int wanted)
+/// Receives and decodes a stream until that many frames were decoded.
+void watch(const sdk::onvif::RtspServer &server, int frames)
 {
     DecodingPort port;
     sdk::onvif::RtspOrder order;
@@ -66,11 +66,11 @@ void watch(const sdk::onvif::RtspServer &server, int wanted)
     sdk::onvif::RtspStream stream(
         order, [&](std::span<const std::uint8_t> bytes) { port.push(bytes); },
         [](sdk::onvif::StreamEnd, const std::string &) {});
-    port.waitFor(wanted);
+    port.waitFor(frames);
     stream.stop();
 }
 
-/// Runs the decoder's own program on a stream. Returns what it said, empty when it does not work here.
+/// Runs ffmpeg on a stream. Returns its output; empty if it cannot run on this host.
 QString peerOutput(const sdk::onvif::RtspServer &server, const QStringList &options)
 {
     QProcess peer;
@@ -86,27 +86,27 @@ QString peerOutput(const sdk::onvif::RtspServer &server, const QStringList &opti
 
 std::optional<double> peerComputing(const sdk::onvif::RtspServer &server)
 {
-    static const QRegularExpression said(QStringLiteral("bench: utime=([0-9.]+)s stime=([0-9.]+)s"));
-    const QRegularExpressionMatch match = said.match(peerOutput(server, {}));
+    static const QRegularExpression expression(QStringLiteral("bench: utime=([0-9.]+)s stime=([0-9.]+)s"));
+    const QRegularExpressionMatch match = expression.match(peerOutput(server, {}));
     if (!match.hasMatch())
         return std::nullopt;
     return (match.captured(1).toDouble() + match.captured(2).toDouble()) * millisecondsPerSecond;
 }
 
-Figure measureComputing(const sdk::onvif::RtspScript &script)
+BenchmarkResult measureComputing(const sdk::onvif::RtspScript &script)
 {
     QList<double> own;
     QList<double> peer;
-    for (int run = 0; run < runs; ++run) { // in turn, so that both feel the same unrest
+    for (int run = 0; run < runs; ++run) { // alternating, so that both have the same background load
         const sdk::onvif::RtspServer server(script);
         const double before = processMilliseconds();
-        watch(server, pictures);
+        watch(server, frameCount);
         const std::chrono::duration<double, std::milli> serving = server.computingTime();
         own.append(processMilliseconds() - before - serving.count());
         if (const std::optional<double> time = peerComputing(server))
             peer.append(*time);
     }
-    return {.subject = QStringLiteral("computing for %1 pictures of 1080p H.264 over RTSP").arg(pictures),
+    return {.subject = QStringLiteral("processor time of %1 frames of 1080p H.264 over RTSP").arg(frameCount),
             .value = median(own),
             .unit = QStringLiteral("ms"),
             .budget = 4000,
@@ -115,7 +115,7 @@ Figure measureComputing(const sdk::onvif::RtspScript &script)
             .peerName = QStringLiteral("ffmpeg -f null")};
 }
 
-Figure measureFirstPicture(const sdk::onvif::RtspScript &script)
+BenchmarkResult measureFirstFrame(const sdk::onvif::RtspScript &script)
 {
     const sdk::onvif::RtspServer server(script);
     QList<double> own;
@@ -126,7 +126,7 @@ Figure measureFirstPicture(const sdk::onvif::RtspScript &script)
             peerOutput(server, {QStringLiteral("-frames:v"), QStringLiteral("1")});
         }));
     }
-    return {.subject = QStringLiteral("from the start of a stream over RTSP to its first picture, 1080p"),
+    return {.subject = QStringLiteral("from the start of a stream over RTSP to its first frame, 1080p"),
             .value = median(own),
             .unit = QStringLiteral("ms"),
             .budget = 500,
@@ -137,15 +137,15 @@ Figure measureFirstPicture(const sdk::onvif::RtspScript &script)
 
 } // namespace
 
-QList<Figure> measureRtspStream()
+QList<BenchmarkResult> measureRtspStream()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("stream.mkv"));
     QFile file(path);
-    if (!makeStream(path, pictures) || !file.open(QFile::ReadOnly)) {
-        qWarning("a live stream cannot be made here");
+    if (!createTestStream(path, frameCount) || !file.open(QFile::ReadOnly)) {
+        qWarning("a live stream cannot be created on this host");
         return {};
     }
     const sdk::onvif::RtspScript script = scriptOf(file.readAll());
-    return {measureComputing(script), measureFirstPicture(paced(script))};
+    return {measureComputing(script), measureFirstFrame(paced(script))};
 }

@@ -1,8 +1,8 @@
-#include "benchmarks/madestream.h"
+#include "benchmarks/teststream.h"
 
 #include <QProcess>
 
-bool makeStream(const QString &path, int pictures)
+bool createTestStream(const QString &path, int frames)
 {
     constexpr int patience = 120000;
     QProcess maker;
@@ -13,7 +13,7 @@ bool makeStream(const QString &path, int pictures)
                                            QStringLiteral("-i"),
                                            QStringLiteral("testsrc2=size=1920x1080:rate=25"),
                                            QStringLiteral("-frames:v"),
-                                           QString::number(pictures),
+                                           QString::number(frames),
                                            QStringLiteral("-c:v"),
                                            QStringLiteral("libx264"),
                                            QStringLiteral("-preset"),
