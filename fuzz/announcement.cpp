@@ -4,7 +4,7 @@
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    fuzz::beQuiet();
+    fuzz::disableLogging();
     const std::string_view datagram(reinterpret_cast<const char *>(data), size);
     const std::string address = "192.0.2.7";
     const auto announcements = sdk::onvif::readDiscoveryMessage(datagram).announcements;
@@ -16,9 +16,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
         device.announcement = announcement;
         device.service = sdk::onvif::serviceOf(announcement, address);
         if (device.service.host != address)
-            qFatal("a device is asked at an address that it has not answered from");
+            qFatal("the service of a device has another address than its sender");
         if (device.service.port < 1 || device.service.port > 65535)
-            qFatal("a port that is none");
+            qFatal("the port is invalid");
         static_cast<void>(sdk::onvif::searchAnswerOf(device));
     }
     return 0;

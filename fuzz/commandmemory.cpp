@@ -3,11 +3,11 @@
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    fuzz::beQuiet();
+    fuzz::disableLogging();
     const fuzz::InputFile file(QStringLiteral("cgicommands.json"), fuzz::bytesOf(data, size));
     CommandMemory memory(file.path());
     if (memory.recent().isEmpty() && memory.favourites().isEmpty())
-        return 0; // to write the file takes much longer than to read it
+        return 0; // writing the file takes much longer than reading it
     memory.setFavourite(QStringLiteral("/cgi-bin/kept"), true);
     memory.remember(QStringLiteral("/cgi-bin/sent"));
     if (memory.recent().size() > CommandMemory::mostRecent ||
@@ -20,6 +20,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     }
     const CommandMemory again(file.path());
     if (again.recent() != memory.recent() || again.favourites() != memory.favourites())
-        qFatal("what was written is read as something else");
+        qFatal("the written commands differ from the read ones");
     return 0;
 }

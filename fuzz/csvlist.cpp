@@ -6,7 +6,7 @@
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    fuzz::beQuiet();
+    fuzz::disableLogging();
     QByteArray bytes = fuzz::bytesOf(data, size);
     QBuffer file(&bytes);
     file.open(QIODevice::ReadOnly);

@@ -1,4 +1,4 @@
-// What the readers under test are given, and what they are to do with it.
+// Inputs of the readers under test.
 #pragma once
 
 #include <QByteArray>
@@ -9,7 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 
-/// Lets one input through a reader. Returns 0; what is wrong ends the process.
+/// Passes one input to a reader. Returns 0. A violated property ends the process.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
 namespace fuzz {
@@ -19,8 +19,8 @@ inline QByteArray bytesOf(const std::uint8_t *data, std::size_t size)
     return QByteArray(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
 }
 
-/// Readers say in the log what is wrong with their input: here that is every line.
-inline void beQuiet()
+/// Disables logging. Readers would log a warning for nearly every input.
+inline void disableLogging()
 {
     [[maybe_unused]] static const bool done = [] {
         QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
@@ -28,7 +28,8 @@ inline void beQuiet()
     }();
 }
 
-/// An input as a file in a folder of its own, for readers that take a path. Gone with the object.
+/// An input as a file in a separate temporary folder, for readers that take a path. The destructor removes
+/// the folder.
 class InputFile
 {
 public:
@@ -36,7 +37,7 @@ public:
     {
         QFile file(m_path);
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("cannot write an input into %s", qUtf8Printable(m_folder.path()));
+            qFatal("cannot write an input to %s", qUtf8Printable(m_folder.path()));
     }
 
     [[nodiscard]] QString folder() const { return m_folder.path(); }

@@ -1,4 +1,4 @@
-// What holds of every device list that was read.
+// The properties of every device list that was read.
 #pragma once
 
 #include "device/dh/lists/devicelistimport.h"
@@ -6,7 +6,7 @@
 
 namespace fuzz {
 
-/// Takes a list as far as it goes without a device: ends the process when a bound was not kept.
+/// Processes a list as far as possible without a device. Ends the process if a limit was exceeded.
 inline void useList(const DeviceListContents &contents)
 {
     if (!contents.refusal.isEmpty() && !contents.lines.empty())
@@ -14,7 +14,7 @@ inline void useList(const DeviceListContents &contents)
     for (const DeviceListLine &line : contents.lines) {
         for (const QString &value : line.values) {
             if (value.size() > maximumListText + 1)
-                qFatal("a text was kept whole");
+                qFatal("a text exceeds the limit");
         }
         QJsonObject row;
         completeFrom(row, line, false);

@@ -7,26 +7,26 @@ namespace {
 
 constexpr std::uint32_t bufferSize = 8388608;
 
-/// Looks at every byte that is delivered.
-void readThrough(std::int32_t, const std::uint8_t *data, std::int32_t size,
-                 const sdk::DecodedFrameInformation *, void *user)
+/// Reads every delivered byte, so that a sanitizer checks the access.
+void readAll(std::int32_t, const std::uint8_t *data, std::int32_t size, const sdk::DecodedFrameInformation *,
+             void *user)
 {
     auto *sum = static_cast<unsigned *>(user);
-    for (std::int32_t place = 0; place < size; ++place)
-        *sum += data[place];
+    for (std::int32_t index = 0; index < size; ++index)
+        *sum += data[index];
 }
 
 } // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    fuzz::beQuiet();
+    fuzz::disableLogging();
     static sdk::ffmpeg::FfmpegDecoderLibrary library;
     unsigned sum = 0;
     std::int32_t port = -1;
     const auto count = static_cast<std::uint32_t>(size);
     if (!library.DecoderAllocPort(port) || !library.DecoderOpenStream(port, nullptr, 0, bufferSize) ||
-        !library.DecoderSetDecodeCallback(port, &readThrough, &sum) || !library.DecoderPlay(port, 0)) {
+        !library.DecoderSetDecodeCallback(port, &readAll, &sum) || !library.DecoderPlay(port, 0)) {
         qFatal("a port cannot be opened");
     }
     if (count <= bufferSize && !library.DecoderInputData(port, data, count))

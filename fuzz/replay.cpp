@@ -1,5 +1,4 @@
-// Lets the files of a folder through a reader, one after the other: inputs that it once choked on, and good
-// ones.
+// Passes the files of a folder to a reader, one after another: inputs that have broken it, and valid ones.
 #include "fuzz/input.h"
 
 #include <QDir>
@@ -22,7 +21,7 @@ int main(int argc, char **argv)
         }
         const QByteArray bytes = file.readAll();
         std::printf("%s\n", qUtf8Printable(name));
-        std::fflush(stdout); // the last one named is the one that broke it
+        std::fflush(stdout); // the last printed name is the input that broke the reader
         LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t *>(bytes.constData()),
                                static_cast<std::size_t>(bytes.size()));
     }

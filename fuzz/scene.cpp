@@ -3,10 +3,10 @@
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    fuzz::beQuiet();
+    fuzz::disableLogging();
     QString error;
     const auto scene = sdk::demo::SceneReader::read(fuzz::bytesOf(data, size), &error);
     if (scene.has_value() != error.isEmpty())
-        qFatal("a refused scene has no reason, or an accepted one has");
+        qFatal("a refused scene has no error, or an accepted scene has one");
     return 0;
 }

@@ -5,14 +5,14 @@
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    fuzz::beQuiet();
+    fuzz::disableLogging();
     sdk::onvif::HttpAnswer answer;
     answer.end = sdk::onvif::HttpEnd::Answered;
     answer.status = 200;
     answer.body.assign(reinterpret_cast<const char *>(data), size);
     const sdk::onvif::SoapAnswer read = sdk::onvif::readSoapAnswer(answer);
     if (read.isOk() != read.content.exists())
-        qFatal("an answer without a content is no success, and one with an error has none");
+        qFatal("a successful response has no content, or a failed one has content");
     if (!read.isOk())
         return 0;
     static_cast<void>(sdk::onvif::readVideoEncoder(read.content));

@@ -4,9 +4,9 @@
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    fuzz::beQuiet();
-    // The rows of the sheet and, behind a null byte, the shared strings. Packed, a fuzzer would hardly get
-    // past the check sums.
+    fuzz::disableLogging();
+    // The input is the rows of the sheet and, after a null byte, the shared strings. They are packed here,
+    // since a fuzzer would hardly generate a valid archive.
     const QByteArray bytes = fuzz::bytesOf(data, size);
     const qsizetype end = bytes.indexOf('\0');
     const QByteArray rows = end < 0 ? bytes : bytes.left(end);
@@ -23,12 +23,12 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
         qFatal("more lines than the limit");
     for (const UpgradeDocumentLine &line : lines) {
         if (line.row < 2)
-            qFatal("a line is in the row of the titles");
+            qFatal("a line is in the title row");
         document.setResult(line.row, QStringLiteral("done"));
     }
     static_cast<void>(document.keep());
     UpgradeDocument again;
     if (!again.open(file.path()).isEmpty() || again.lines().size() != lines.size())
-        qFatal("what was kept is read as something else");
+        qFatal("the saved document differs from the read one");
     return 0;
 }

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// What a device sends to both requests for a command.
+/// The responses of a device to both requests of a command.
 struct Response
 {
     long firstStatus = 0;
@@ -13,7 +13,7 @@ struct Response
     QByteArray headers;
     QByteArray body;
 
-    /// The two status codes on the first line, then the headers up to an empty line, then the body.
+    /// Reads the two status codes in the first line, then the headers up to an empty line, then the body.
     static Response of(const QByteArray &bytes)
     {
         const qsizetype line = bytes.indexOf('\n');
@@ -50,8 +50,8 @@ private:
             HttpOutcome outcome;
             outcome.status = sink ? m_response.secondStatus : m_response.firstStatus;
             constexpr qsizetype chunk = 1000;
-            for (qsizetype place = 0; sink && place < m_response.body.size(); place += chunk) {
-                if (!sink(QByteArrayView(m_response.body.mid(place, chunk)))) {
+            for (qsizetype offset = 0; sink && offset < m_response.body.size(); offset += chunk) {
+                if (!sink(QByteArrayView(m_response.body.mid(offset, chunk)))) {
                     outcome.failure = QStringLiteral("the client has ended the transfer");
                     break;
                 }
@@ -71,13 +71,13 @@ private:
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    fuzz::beQuiet();
+    fuzz::disableLogging();
     const QTemporaryDir folder;
     const Response response = Response::of(fuzz::bytesOf(data, size));
-    const auto letIn = [](const QString &, const QString &, const QString &) {
+    const auto acceptLogin = [](const QString &, const QString &, const QString &) {
         return 0;
     };
-    const CgiSurroundings surroundings = {.checkLogin = letIn,
+    const CgiSurroundings surroundings = {.checkLogin = acceptLogin,
                                           .transport = std::make_shared<RespondingTransport>(response),
                                           .folder = folder.path(),
                                           .localTime = &QDateTime::currentDateTime};
@@ -93,6 +93,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
         return 0;
     QFile file(result);
     if (!file.open(QIODevice::ReadOnly) || file.readAll() != response.body)
-        qFatal("the file is not what the device has sent");
+        qFatal("the file differs from the body of the response");
     return 0;
 }

@@ -14,7 +14,7 @@ namespace {
 constexpr int rows = 40;
 constexpr int columns = 20;
 
-/// A whole file, as a user would choose it.
+/// Reads and changes a complete file.
 void useFile(const QByteArray &bytes)
 {
     const fuzz::InputFile file(QStringLiteral("a.xlsx"), bytes);
@@ -30,11 +30,11 @@ void useFile(const QByteArray &bytes)
         workbook.setBold({{row, 1}, {row, 3}}, true);
     }
     if (workbook.save() && !workbook.open(file.path()))
-        qFatal("what was saved cannot be opened");
+        qFatal("the saved file cannot be opened");
 }
 
-/// The parts of a file: a sheet and, behind a null byte, the shared strings. Packed, a fuzzer would hardly
-/// get past their check sums.
+/// Reads and changes the unpacked parts of a file: a sheet and, after a null byte, the shared strings. A
+/// fuzzer would hardly generate a valid archive.
 void useParts(const QByteArray &bytes)
 {
     sheets::Worksheet sheet;
@@ -53,14 +53,14 @@ void useParts(const QByteArray &bytes)
     sheet.setRowHeight(first + 1, 20);
     sheets::Worksheet again;
     if (!again.load(sheet.bytes()))
-        qFatal("what was changed cannot be read");
+        qFatal("the changed sheet cannot be read");
 }
 
 } // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    fuzz::beQuiet();
+    fuzz::disableLogging();
     const QByteArray bytes = fuzz::bytesOf(data, size);
     if (bytes.startsWith("PK"))
         useFile(bytes);
