@@ -5,7 +5,7 @@ target_compile_options(configtools_flags INTERFACE -Wall -Wextra -Wpedantic -Wsh
 target_compile_definitions(configtools_flags INTERFACE
     QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS QT_STRICT_ITERATORS)
 if(CMAKE_UNITY_BUILD)
-    # Sources that are compiled together are no headers: what their unnamed namespaces hold may be part of their classes.
+    # The warning is wrong for sources that are compiled together: classes may use types of unnamed namespaces.
     target_compile_options(configtools_flags INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
 endif()
 if(CONFIGTOOLS_WARNINGS_ARE_ERRORS)
@@ -16,27 +16,28 @@ if(CONFIGTOOLS_SANITIZER)
     target_link_options(configtools_flags INTERFACE -fsanitize=${CONFIGTOOLS_SANITIZER})
 endif()
 
-# The toolkit's core headers, which nearly every source reads, precompiled once for all targets.
+# Qt's core headers, which nearly every source includes, precompiled once for all targets.
 add_library(configtools_precompiled STATIC ${CMAKE_CURRENT_LIST_DIR}/precompiled.cpp)
 target_link_libraries(configtools_precompiled PUBLIC configtools_flags Qt6::Core)
 target_precompile_headers(configtools_precompiled PRIVATE <QtCore>)
 
-# One folder of the project as one static library: configtools_add_folder(<target> [WITHOUT_TOOLKIT] <sources>...).
-# What it may see is what it links: the link graph is the architecture (docs/architecture.md). WITHOUT_TOOLKIT is for
-# a folder in plain C++.
+# One folder of the project as one static library: configtools_add_folder(<target> [WITHOUT_QT] <sources>...). A folder
+# may only include headers of the libraries that it links (docs/architecture.md). WITHOUT_QT is for a folder in plain
+# C++.
 function(configtools_add_folder target)
-    cmake_parse_arguments(PARSE_ARGV 1 FOLDER "WITHOUT_TOOLKIT" "" "")
+    cmake_parse_arguments(PARSE_ARGV 1 FOLDER "WITHOUT_QT" "" "")
     add_library(${target} STATIC ${FOLDER_UNPARSED_ARGUMENTS})
     target_link_libraries(${target} PUBLIC configtools_flags)
-    if(NOT FOLDER_WITHOUT_TOOLKIT)
+    if(NOT FOLDER_WITHOUT_QT)
         set_target_properties(${target} PROPERTIES AUTOMOC ON)
         target_precompile_headers(${target} REUSE_FROM configtools_precompiled)
     endif()
 endfunction()
 
-# A workbook that users begin from, in each language under its name there: made into the folder template/ beside the
-# program, by a program of the build. The names are known only to the translations, so a stamp stands for each file.
-# configtools_add_template(<name of the program> SOURCES <files>... LIBRARIES <targets>...), also makes the target <name>s.
+# A template workbook for users, in each language: a build tool writes it into the folder template/ of the application.
+# The file names are translated and so unknown here; a stamp file represents each of them.
+# configtools_add_template(<name of the tool> SOURCES <files>... LIBRARIES <targets>...) also creates the target
+# <name>s.
 function(configtools_add_template name)
     cmake_parse_arguments(PARSE_ARGV 1 TEMPLATE "" "" "SOURCES;LIBRARIES")
     add_executable(${name} ${TEMPLATE_SOURCES})
@@ -58,10 +59,10 @@ function(configtools_add_template name)
     add_custom_target(${name}s ALL DEPENDS ${stamps})
 endfunction()
 
-# What the scene's engine says of a broken binding or document, which does not fail by itself.
-set(configtools_scene_complaints "ReferenceError;TypeError;Binding loop;Unable to assign;is not a type;QML [A-Za-z]+:")
+# Errors of the QML engine. They are only logged and do not fail a test by themselves.
+set(configtools_qml_errors "ReferenceError;TypeError;Binding loop;Unable to assign;is not a type;QML [A-Za-z]+:")
 
-# A test program that CTest runs. A complaint of the QML engine fails it, whatever it returns.
+# A test program that CTest runs. A logged error of the QML engine fails it, regardless of its exit code.
 # configtools_add_test(<name> SOURCES <files>... LIBRARIES <targets>... [TIMEOUT <seconds>])
 function(configtools_add_test name)
     cmake_parse_arguments(PARSE_ARGV 1 TEST "" "TIMEOUT" "SOURCES;LIBRARIES")
@@ -78,6 +79,6 @@ function(configtools_add_test name)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${TEST_TIMEOUT}
-        FAIL_REGULAR_EXPRESSION "${configtools_scene_complaints}"
+        FAIL_REGULAR_EXPRESSION "${configtools_qml_errors}"
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
 endfunction()

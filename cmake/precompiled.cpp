@@ -1,1 +1,1 @@
-// Nothing but the precompiled headers of its target.
+// Intentionally empty: the target only has precompiled headers.
