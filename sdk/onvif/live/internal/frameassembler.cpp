@@ -11,7 +11,7 @@ void FrameAssembler::add(std::span<const std::uint8_t> fragment, std::int64_t ti
         return;
     }
     const std::optional<StreamUnit> unit = firstUnit(fragment, m_codec);
-    if (unit && unit->place == 0)
+    if (unit && unit->offset == 0)
         addUnits(fragment, *unit, time);
     else
         append(fragment); // a continued fragment
