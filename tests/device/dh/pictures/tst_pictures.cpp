@@ -1,15 +1,7 @@
-#include "device/batch/batchengine.h"
-#include "device/dh/devicedh.h"
-#include "device/registry/devicefactory.h"
 #include "device/registry/devicerow.h"
-#include "device/registry/devicestore.h"
 #include "device/work/livesession.h"
-#include "media/videoitem.h"
-#include "sdk/clock.h"
-#include "sdk/demo/demosite.h"
-#include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
 #include "tests/datatable.h"
-#include "tests/device/dh/scenedevices.h"
+#include "tests/device/dh/picturesite.h"
 
 #include <QDir>
 #include <QImage>
@@ -27,10 +19,10 @@ const QString cameraPort = QStringLiteral("192.168.1.13:37777");
 const QString freshPort = QStringLiteral("192.168.1.14:37777");
 constexpr int longWait = 30000;
 
-/// What a step has said, a line for each.
-struct Told
+/// The reports and the result of a step.
+struct Report
 {
-    int channelCount = -1; ///< -1: the channels were not told
+    int channelCount = -1; ///< -1: the channels were not reported
     QStringList found;
     QStringList taken;
     StepOutcome outcome;
@@ -38,35 +30,32 @@ struct Told
 
 } // namespace
 
-/// Pictures of a simulated site's devices for an overview, and sessions beside the current one.
-class TestPictures : public QObject
+/// Images of devices for an overview, and sessions in addition to the current one, on a simulated site.
+class TestPictures : public QObject, private PictureSite
 {
     Q_OBJECT
 private:
     QTemporaryDir m_folder;
-    std::shared_ptr<sdk::demo::DemoSite> m_site;
 
-    CDeviceFactory *factory() { return CDeviceFactory::getinstance(); }
-
-    Told take(const QString &ipport, int onlyChannel = -1)
+    Report take(const QString &ipport, int onlyChannel = -1)
     {
-        Told told;
+        Report report;
         PictureOrder order = {.ipport = ipport,
                               .folder = m_folder.filePath(QStringLiteral("pictures")),
                               .onlyChannel = onlyChannel};
-        order.found = [&told](const QVariantList &channels, int channelCount) {
-            told.channelCount = channelCount;
+        order.found = [&report](const QVariantList &channels, int channelCount) {
+            report.channelCount = channelCount;
             for (const QVariant &channel : channels)
-                told.found.append(channel.toMap().value("name").toString());
+                report.found.append(channel.toMap().value("name").toString());
         };
-        order.taken = [&told](int channel, const QString &path, const QString &message) {
-            told.taken.append(QStringLiteral("%1 %2").arg(channel).arg(path.isEmpty() ? message : path));
+        order.taken = [&report](int channel, const QString &path, const QString &message) {
+            report.taken.append(QStringLiteral("%1 %2").arg(channel).arg(path.isEmpty() ? message : path));
         };
         const DeviceStep step = factory()->pictureStep("dh", order);
-        const std::unique_ptr<QThread> thread(QThread::create([&] { told.outcome = step(StepControl()); }));
+        const std::unique_ptr<QThread> thread(QThread::create([&] { report.outcome = step(StepControl()); }));
         thread->start();
         thread->wait();
-        return told;
+        return report;
     }
     [[nodiscard]] QString pictureOf(int channel) const
     {
@@ -88,93 +77,81 @@ private Q_SLOTS:
     void init()
     {
         QDir(m_folder.filePath(QStringLiteral("pictures"))).removeRecursively();
-        sdk::demo::Scene scene;
-        scene.devices = {sceneDevice(recorder, "192.168.1.12", "NVR"), sceneDevice(camera, "192.168.1.13"),
-                         sceneDevice(freshCamera, "192.168.1.14")};
+        QList<sdk::demo::SceneDevice> devices = {sceneDevice(recorder, "192.168.1.12", "NVR"),
+                                                 sceneDevice(camera, "192.168.1.13"),
+                                                 sceneDevice(freshCamera, "192.168.1.14")};
         for (int channel = 0; channel < PictureOrder::maximumChannels + 2; ++channel)
-            scene.devices[0].channels.append({QStringLiteral("C%1").arg(channel), channel == 1});
-        m_site = sdk::demo::DemoSite::create(scene, std::make_shared<sdk::SystemClock>());
-        sdk::SdkLibraries libraries = m_site->libraries();
-        libraries.decoder = std::make_shared<sdk::ffmpeg::FfmpegDecoderLibrary>();
-        VideoItem::registerLibraries(libraries);
-        const auto store = std::make_shared<DeviceStore>(libraries.clock);
+            devices[0].channels.append({QStringLiteral("C%1").arg(channel), channel == 1});
+        openSite(devices);
         for (const auto &[mac, ipport] :
              {std::pair(recorder, recorderPort), {camera, cameraPort}, {freshCamera, freshPort}}) {
-            store->putRow({{DeviceRowKey::mac, mac},
-                           {DeviceRowKey::ipport, ipport},
-                           {DeviceRowKey::username, QStringLiteral("admin")},
-                           {DeviceRowKey::password, QStringLiteral("secret1")},
-                           {DeviceRowKey::state, mac != freshCamera}});
+            m_store->putRow({{DeviceRowKey::mac, mac},
+                             {DeviceRowKey::ipport, ipport},
+                             {DeviceRowKey::username, QStringLiteral("admin")},
+                             {DeviceRowKey::password, QStringLiteral("secret1")},
+                             {DeviceRowKey::state, mac != freshCamera}});
         }
-        CDeviceFactory::registerBackEnd("dh", [libraries, store] {
-            return std::make_shared<CDeviceDH>(store, libraries, [] { return SearchSettings(); });
-        });
         QCOMPARE(factory()->findAndLoginDevice("dh", recorderPort, "admin", "secret1"), 0);
         m_site->requests().clear();
     }
 
-    void cleanup()
-    {
-        CDeviceFactory::deleteInstance();
-        VideoItem::registerLibraries({});
-        m_site.reset();
-    }
+    void cleanup() { closeSite(); }
 
-    void theChannelsOfADeviceAreTaken()
+    void anImageOfEachChannelIsTaken()
     {
         const qint64 before = currentHandle();
-        const Told told = take(recorderPort);
-        QCOMPARE(told.channelCount, PictureOrder::maximumChannels + 2);
-        QCOMPARE(told.found.size(), PictureOrder::maximumChannels);
-        QCOMPARE(told.found.value(1), "C1");
-        QCOMPARE(told.taken.size(), PictureOrder::maximumChannels);
-        QCOMPARE(told.taken.value(0), QStringLiteral("0 通道未连接"));
-        QCOMPARE(told.taken.value(1), "1 " + pictureOf(1));
+        const Report report = take(recorderPort);
+        QCOMPARE(report.channelCount, PictureOrder::maximumChannels + 2);
+        QCOMPARE(report.found.size(), PictureOrder::maximumChannels);
+        QCOMPARE(report.found.value(1), "C1");
+        QCOMPARE(report.taken.size(), PictureOrder::maximumChannels);
+        QCOMPARE(report.taken.value(0), QStringLiteral("0 通道未连接"));
+        QCOMPARE(report.taken.value(1), "1 " + pictureOf(1));
         QVERIFY(!QImage(pictureOf(1)).isNull());
-        QCOMPARE(told.outcome.result, 0);
-        QVERIFY(told.outcome.text.contains("15")); // channels without a camera
+        QCOMPARE(report.outcome.result, 0);
+        QVERIFY(report.outcome.text.contains("15")); // channels without a camera
 
-        const Told single = take(recorderPort, 1);
+        const Report single = take(recorderPort, 1);
         QCOMPARE(single.channelCount, -1);
         QCOMPARE(single.taken, QStringList("1 " + pictureOf(1)));
 
         QCOMPARE(take(cameraPort).taken, QStringList("0 " + pictureOf(0)));
-        // Each in a login of its own, which has ended; the current session goes on.
+        // Each device had a separate login that has ended. The current session continues.
         QCOMPARE(m_site->requests().of("NetLoginSecure").size(), 3);
         QCOMPARE(m_site->requests().of("NetLogout").size(), 3);
         QCOMPARE(currentHandle(), before);
     }
 
-    void aDeviceWithoutPicturesSaysWhy_data()
+    void aDeviceWithoutImagesReportsTheReason_data()
     {
         const auto row = dataTable<sdk::demo::Fault, QString, int, int, QString>(
             {"fault", "ipport", "result", "logins", "taken"});
         row("wrong password", sdk::demo::Fault::WrongPassword, cameraPort, 2, 1, {});
-        row("no first password", sdk::demo::Fault::OddBytes, freshPort, 7, 0, {});
+        row("not initialised", sdk::demo::Fault::OddBytes, freshPort, 7, 0, {});
         row("nothing sent", sdk::demo::Fault::FirstPictureLate, cameraPort, 5, 1,
             QStringLiteral("0 设备没有发送画面"));
     }
 
-    void aDeviceWithoutPicturesSaysWhy()
+    void aDeviceWithoutImagesReportsTheReason()
     {
         QFETCH(sdk::demo::Fault, fault);
         QFETCH(QString, ipport);
         QVERIFY(m_site->setFault(camera, {.fault = fault, .number = 60000}));
-        const Told told = take(ipport);
-        QTEST(told.outcome.result, "result");
-        QTEST(told.taken.join(' '), "taken");
+        const Report report = take(ipport);
+        QTEST(report.outcome.result, "result");
+        QTEST(report.taken.join(' '), "taken");
         QTEST(static_cast<int>(m_site->requests().of("NetLoginSecure").size()),
-              "logins"); // never another one
+              "logins"); // never a second attempt
     }
 
-    void aSessionOfItsOwn()
+    void aSeparateSessionKeepsTheCurrentOne()
     {
         const qint64 current = currentHandle();
         LiveSession session;
         session.setDeviceFactory(factory());
         const QSignalSpy ended(&session, &LiveSession::ended);
         session.open(cameraPort, "admin", "secret1");
-        session.open(cameraPort, "admin", "secret1"); // the first one is given up
+        session.open(cameraPort, "admin", "secret1"); // cancels the first one
         QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, longWait);
         QCOMPARE(ended.last().at(0).toInt(), 0);
         QCOMPARE(ended.last().at(1).toList().size(), 1);
@@ -207,7 +184,7 @@ private Q_SLOTS:
         QVERIFY(!QImage(path).isNull());
         QCOMPARE(m_site->requests().of("NetStartRealStream").last().mac, camera);
 
-        session.open(cameraPort, "admin", "secret1"); // the device answers in the session
+        session.open(cameraPort, "admin", "secret1"); // the session is still valid
         QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 2, longWait);
         QCOMPARE(session.handle(), handle);
         QCOMPARE(asked("NetLoginSecure", camera), logins);
@@ -218,7 +195,7 @@ private Q_SLOTS:
         QCOMPARE(currentHandle(), current);
     }
 
-    void aSessionThatIsRefused()
+    void aRefusedSessionIsReported()
     {
         LiveSession session;
         session.setDeviceFactory(factory());

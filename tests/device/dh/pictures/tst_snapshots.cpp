@@ -1,13 +1,6 @@
 #include "device/batch/batches.h"
-#include "device/dh/devicedh.h"
-#include "device/registry/devicefactory.h"
-#include "device/registry/devicestore.h"
-#include "media/videoitem.h"
-#include "sdk/clock.h"
-#include "sdk/demo/demosite.h"
-#include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
 #include "tests/datatable.h"
-#include "tests/device/dh/scenedevices.h"
+#include "tests/device/dh/picturesite.h"
 #include "tests/files/filecontents.h"
 #include "tests/files/filesizelimit.h"
 
@@ -39,16 +32,13 @@ struct Capture
 } // namespace
 
 /// Snapshots of a simulated recorder: real streams, decoded and written.
-class TestSnapshots : public QObject
+class TestSnapshots : public QObject, private PictureSite
 {
     Q_OBJECT
 private:
     QTemporaryDir m_folder;
-    std::shared_ptr<sdk::demo::DemoSite> m_site;
 
-    CDeviceFactory *factory() { return CDeviceFactory::getinstance(); }
-
-    /// Asks for snapshots and waits for `count` of them.
+    /// Takes snapshots and waits for `count` of them.
     QList<Capture> take(const QString &kind, int channel, const QString &folder, int count)
     {
         const bool isAll = kind == QLatin1String("liveCapture");
@@ -74,31 +64,19 @@ private Q_SLOTS:
     {
         QDir::setCurrent(m_folder.path());
         QDir(QStringLiteral("snap")).removeRecursively();
-        sdk::demo::Scene scene;
-        scene.devices = {sceneDevice(recorder, "192.168.1.12", "NVR"), sceneDevice(other, "192.168.1.13")};
+        QList<sdk::demo::SceneDevice> devices = {sceneDevice(recorder, "192.168.1.12", "NVR"),
+                                                 sceneDevice(other, "192.168.1.13")};
         for (const QString &name : {QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")})
-            scene.devices[0].channels.append({name, name != QLatin1String("B")});
+            devices[0].channels.append({name, name != QLatin1String("B")});
         for (const QString &name : {QStringLiteral("D"), QStringLiteral("E"), QStringLiteral("F")})
-            scene.devices[1].channels.append({name, true});
-        m_site = sdk::demo::DemoSite::create(scene, std::make_shared<sdk::SystemClock>());
-        sdk::SdkLibraries libraries = m_site->libraries();
-        libraries.decoder = std::make_shared<sdk::ffmpeg::FfmpegDecoderLibrary>();
-        VideoItem::registerLibraries(libraries);
-        const auto store = std::make_shared<DeviceStore>(libraries.clock);
-        CDeviceFactory::registerBackEnd("dh", [libraries, store] {
-            return std::make_shared<CDeviceDH>(store, libraries, [] { return SearchSettings(); });
-        });
+            devices[1].channels.append({name, true});
+        openSite(devices);
         QCOMPARE(factory()->findAndLoginDevice("dh", recorderPort, "admin", "secret1"), 0);
     }
 
-    void cleanup()
-    {
-        CDeviceFactory::deleteInstance();
-        VideoItem::registerLibraries({});
-        m_site.reset();
-    }
+    void cleanup() { closeSite(); }
 
-    void everyChannelIsReportedInTurn()
+    void everyChannelIsReportedInOrder()
     {
         const QList<Capture> captures = take("liveCapture", 0, "rec", 3);
         const QList<Capture> expected = {{0, "file:///" + pathOf("rec", 0), {}},
@@ -107,15 +85,15 @@ private Q_SLOTS:
         QCOMPARE(captures, expected);
         const QImage first(pathOf("rec", 0));
         QVERIFY(!first.isNull());
-        QVERIFY(first != QImage(pathOf("rec", 2))); // each channel has a picture of its own
+        QVERIFY(first != QImage(pathOf("rec", 2))); // each channel has a different image
         QVERIFY(!QFile::exists(pathOf("rec", 1)));
 
-        // A quality of 50 quantises as the example table of the standard (ITU-T T.81, K.1) says.
+        // A quality of 50 gives the example table of the standard (ITU-T T.81, K.1).
         const QByteArray quantisation = QByteArray::fromHex("ffdb004300100b0c0e0c0a100e0d0e1211101318");
         QVERIFY(fileContents(pathOf("rec", 0)).contains(quantisation));
     }
 
-    void aChannelIsTakenAgainIntoTheSameFile()
+    void aRetryReplacesTheSameFile()
     {
         QVERIFY(m_site->setFault(recorder, {.fault = sdk::demo::Fault::FirstPictureLate, .number = 1200}));
         const QString path = pathOf("rec", 2);
@@ -126,7 +104,7 @@ private Q_SLOTS:
         QCOMPARE(QDir(QStringLiteral("snap/rec")).entryList(QDir::Files).size(), 1);
     }
 
-    void aDeviceCannotLeadOutOfTheFolder_data()
+    void aDeviceNameCannotLeaveTheFolder_data()
     {
         const auto row = dataTable<QString>({"name"});
         row("up", QStringLiteral("../../rec"));
@@ -134,7 +112,7 @@ private Q_SLOTS:
         row("empty", QString());
     }
 
-    void aDeviceCannotLeadOutOfTheFolder()
+    void aDeviceNameCannotLeaveTheFolder()
     {
         QFETCH(QString, name);
         const QList<Capture> captures = take("againCapture", 0, name, 1);
@@ -147,15 +125,15 @@ private Q_SLOTS:
         QCOMPARE(QDir::cleanPath(path.mid(8)), path.mid(8));
     }
 
-    void aFileThatCannotBeWrittenIsReportedWithTheReason_data()
+    void aFailedWriteReportsItsReason_data()
     {
-        // isFull: the disk; else the folder's name is that of a file
+        // isFull: the disk is full; otherwise a file has the name of the folder
         const auto row = dataTable<bool>({"isFull"});
         row("no folder", false);
         row("full", true);
     }
 
-    void aFileThatCannotBeWrittenIsReportedWithTheReason()
+    void aFailedWriteReportsItsReason()
     {
         QFETCH(bool, isFull);
         QVERIFY(QDir().mkpath(isFull ? "snap/rec" : "snap"));
@@ -174,7 +152,7 @@ private Q_SLOTS:
         QCOMPARE(fileContents(file), QByteArray("kept"));
     }
 
-    void anotherDevicesPictureIsNotTaken()
+    void noImageOfAnotherDeviceIsTaken()
     {
         QVERIFY(m_site->setFault(recorder, {.fault = sdk::demo::Fault::FirstPictureLate, .number = 1000}));
         QSignalSpy taken(factory(), &CDeviceFactory::signalSnapPictureToFile);
@@ -185,13 +163,13 @@ private Q_SLOTS:
         QCOMPARE(taken.at(2).at(2).toString(), QStringLiteral("抓图失败"));
         QVERIFY(!QFile::exists(pathOf("rec", 2)));
         for (const auto &request : m_site->requests().of("NetStartRealStream"))
-            QCOMPARE(request.mac, recorder); // the other one is not bothered
+            QCOMPARE(request.mac, recorder); // the other device gets no request
     }
 
     void allChannelsAreABatch_data()
     {
         const auto row = dataTable<bool, QList<int>, int>({"isStopped", "results", "reported"});
-        row("whole", false, QList<int>{0, snapshotFailed, 0}, 3);
+        row("complete", false, QList<int>{0, snapshotFailed, 0}, 3);
         row("stopped in the first channel", true, QList<int>{notDone, notDone, notDone}, 0);
     }
 
@@ -222,7 +200,7 @@ private Q_SLOTS:
         QCOMPARE(batch->entries().at(1).device.title, "B");
     }
 
-    void theEndOfTheProgramGivesThemUp()
+    void closingCancelsSnapshots()
     {
         QVERIFY(m_site->setFault(recorder, {.fault = sdk::demo::Fault::FirstPictureLate, .number = 60000}));
         factory()->snapPictureToFile("dh", "liveCapture", 0, "rec");
@@ -230,7 +208,7 @@ private Q_SLOTS:
         QElapsedTimer time;
         time.start();
         CDeviceFactory::deleteInstance();
-        QVERIFY(time.elapsed() < 2000); // less than the tries of one channel
+        QVERIFY(time.elapsed() < 2000); // shorter than the attempts for one channel
     }
 };
 
