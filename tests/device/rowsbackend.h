@@ -44,7 +44,7 @@ public:
             ipv6.append(ipv6Row(answer));
     }
 
-    /// Writes how far the upgrade of an IPv4 row is.
+    /// Sets the upgrade result of an IPv4 row.
     void setUpgrade(qsizetype place, UpgradeTools::Result result)
     {
         QJsonObject row = ipv4.at(place).toJsonObject();
@@ -52,7 +52,7 @@ public:
         ipv4[place] = row;
     }
 
-    std::function<void()> beforeReading; ///< before each reading of the IPv4 rows
+    std::function<void()> beforeReading; ///< called before the IPv4 rows are read
     QVariantList ipv4;
     QVariantList ipv6;
 };

@@ -1,4 +1,4 @@
-// Search answers for tests.
+// Search responses for tests.
 #pragma once
 
 #include "sdk/blocktext.h"

@@ -1,4 +1,4 @@
-// Which account a device is asked with, and what becomes of one that it has just taken.
+// The account that is used for a device, and the storage of an account that the device has accepted.
 #include "device/models/accountlist.h"
 #include "favourites/author.h"
 #include "tests/datatable.h"
@@ -30,7 +30,7 @@ private:
 
     [[nodiscard]] QString path() const { return m_folder.filePath("accounts.json"); }
 
-    /// The program starts, and searches.
+    /// Starts the application and searches.
     void start()
     {
         m_list.reset();
@@ -48,7 +48,7 @@ private:
     }
     void setDefault() { m_factory->setDefaultAccount("dh", m_default.account, m_default.password); }
 
-    /// Asks a device for its time, once. Returns the account that it was asked with, and what came of it.
+    /// Reads the clock of a device once. Returns the accounts of the logins and the result code.
     QString asking(const QString &ipport)
     {
         m_site->requests().clear();
@@ -85,19 +85,20 @@ private Q_SLOTS:
         closeSite();
     }
 
-    void aDeviceIsAskedWithOneAccount()
+    void aDeviceIsAccessedWithOneAccount()
     {
         QCOMPARE(asking(first), "admin 0");
         QCOMPARE(asking(second), "admin 1");
         QCOMPARE(m_list->put({}, "Site", "operator", "other-1"), "");
-        QCOMPARE(asking(second), "admin 1"); // it is not tried unasked
+        QCOMPARE(asking(second), "admin 1"); // stored accounts are not tried automatically
         QCOMPARE(m_list->select({secondMac}, "Site"), "");
         QCOMPARE(asking(first), "admin 0");
         QCOMPARE(asking(second), "operator 0");
         QCOMPARE(m_list->get(m_list->rowOfDevice(second)).value("name").toString(), "Site");
         QCOMPARE(m_list->rowOfDevice(first), 0);
 
-        // It is the device's, whatever its address, and goes before the default after each start.
+        // The account belongs to the device regardless of its address, and precedes the default after each
+        // start.
         m_site->changeDevice(secondMac, [](auto &device, const auto &) { device.address = "192.168.1.77"; });
         start();
         QCOMPARE(asking("192.168.1.77:37777"), "operator 0");
@@ -108,7 +109,7 @@ private Q_SLOTS:
                  0);
         QCOMPARE(m_factory->readDeviceDetail("dh", "192.168.1.78:37777").value("loginResult").toInt(), 0);
 
-        // What the user gives for the row goes before it, until the user chooses again.
+        // An account entered for the row precedes it until the user selects one again.
         m_factory->updataDeviceInfo("dh", "username", "guest", secondMac, "");
         QCOMPARE(asking("192.168.1.78:37777"), "guest 1");
         QCOMPARE(m_list->rowOfDevice(secondMac), -1);
@@ -118,15 +119,15 @@ private Q_SLOTS:
         QCOMPARE(asking("192.168.1.78:37777"), "admin 1");
     }
 
-    /// Until the user sets another default account. A search sets the same one again.
-    void anAccountForAllThatFollowTakesThePlaceOfTheDefault()
+    /// It is used until the user sets a different default account. A search sets the same default again.
+    void anAccountForAllFollowingDevicesReplacesTheDefault()
     {
         QCOMPARE(m_list->put({}, "Site", "admin", "secret1"), "");
         QCOMPARE(m_list->select({firstMac}, "Site"), "");
         m_factory->setFollowingAccount("dh", "operator", "other-1");
         setDefault();
         QCOMPARE(asking(second), "operator 0");
-        QCOMPARE(asking(first), "admin 0"); // has one of its own
+        QCOMPARE(asking(first), "admin 0"); // has its own account
         QVERIFY(m_factory->accountOf("dh", second).value("isFollowing").toBool());
         m_default.password = "another";
         setDefault();
@@ -144,7 +145,7 @@ private Q_SLOTS:
         QCOMPARE(asking(second), "operator 0");
     }
 
-    void aFirstPasswordIsUsedFromThenOn_data()
+    void aFirstPasswordIsUsedAfterInitialisation_data()
     {
         const auto row = dataTable<AccountList::Keeping, QString, QString, QString>(
             {"keeping", "nextSearch", "byDefault", "stored"});
@@ -153,15 +154,15 @@ private Q_SLOTS:
         row("not", AccountList::Unkept, "admin 2", "admin 0", "");
     }
 
-    void aFirstPasswordIsUsedFromThenOn()
+    void aFirstPasswordIsUsedAfterInitialisation()
     {
         QFETCH(AccountList::Keeping, keeping);
-        // What was kept for it before is no longer true: it has been reset.
+        // The stored account is outdated: the device has been reset.
         QCOMPARE(m_list->put({}, "Old", "admin", "old-1"), "");
         QCOMPARE(m_list->select({newMac}, "Old"), "");
         const DeviceStep step = m_factory->initialisationStep("dh", newMac, "admin", "first-1");
         QCOMPARE(step(StepControl()).result, 0);
-        QCOMPARE(asking(fresh), "admin 0"); // at once, whatever is kept
+        QCOMPARE(asking(fresh), "admin 0"); // immediately, regardless of the storage
         QCOMPARE(m_list->keepNew({newMac}, keeping), "");
         QCOMPARE(asking(fresh), "admin 0");
         start();
@@ -172,7 +173,7 @@ private Q_SLOTS:
         QVERIFY(!fileContents(path()).contains("first-1"));
     }
 
-    void aChangedPasswordIsUsedFromThenOn()
+    void aChangedPasswordIsUsedAfterTheChange()
     {
         const QVariantMap old = {{"password", "secret1"}};
         const QVariantMap changed = {{"password", "second-2"}};
@@ -211,10 +212,10 @@ private Q_SLOTS:
         const DeviceStep step = m_factory->initialisationStep("dh", newMac, "admin", "first-1");
         QCOMPARE(step(StepControl()).result, 0);
         QVERIFY(!m_list->keepNew({newMac}, AccountList::ForDevices).isEmpty());
-        QCOMPARE(asking(fresh), "admin 0"); // the row still has it
+        QCOMPARE(asking(fresh), "admin 0"); // the row still has the password
     }
 
-    void noPasswordThatIsKeptIsExported()
+    void noStoredPasswordIsExported()
     {
         QCOMPARE(m_list->put({}, "Site", "operator", "other-1"), "");
         QCOMPARE(m_list->select({secondMac}, "Site"), "");
@@ -228,7 +229,7 @@ private Q_SLOTS:
             QVERIFY(m_list->get(row).key("other-1").isEmpty());
     }
 
-    void aDeviceWithoutIdentityHasItUntilTheNextSearch()
+    void aDeviceWithoutIdentityKeepsItsAccountUntilTheNextSearch()
     {
         auto device = sceneDevice("", "192.168.1.20");
         device.accounts = {{"operator", "other-1"}};

@@ -1,4 +1,4 @@
-// The keys that the user has agreed to, in a file, and the list of those that wait.
+// The file of accepted keys, and the list of keys that are not decided yet.
 #include "device/models/certificatelist.h"
 #include "files/filereplacement.h"
 #include "sdk/blocktext.h"
@@ -53,7 +53,7 @@ private Q_SLOTS:
         QFile::remove(m_path);
     }
 
-    void aKeyCountsForItsDevice_data()
+    void aKeyIsAcceptedForItsDeviceOnly_data()
     {
         const auto row = dataTable<std::string, std::string, int, int, int>(
             {"identity", "address", "port", "key", "verdict"});
@@ -66,12 +66,12 @@ private Q_SLOTS:
         row("MAC in capitals", "02:1A:C5:00:40:25", "10.0.0.6", 443, 1, trusted);
         row("another key", mac, "10.0.0.6", 443, 2, changed);
         row("another key, before a search", "", "10.0.0.5", 443, 2, changed);
-        row("another device in its stead", "02:1a:c5:00:40:26", "10.0.0.5", 443, 2, changed);
+        row("another device at its address", "02:1a:c5:00:40:26", "10.0.0.5", 443, 2, changed);
         row("another device", "02:1a:c5:00:40:26", "10.0.0.6", 443, 1, unknown);
         row("another port, before a search", "", "10.0.0.5", 8443, 1, unknown);
     }
 
-    void aKeyCountsForItsDevice()
+    void aKeyIsAcceptedForItsDeviceOnly()
     {
         QFETCH(std::string, identity);
         QFETCH(std::string, address);
@@ -87,14 +87,14 @@ private Q_SLOTS:
         QTEST(int(store.verdictOn(shown(identity, address, key, port))), "verdict");
     }
 
-    void theLastAgreementCounts()
+    void theLastDecisionCounts()
     {
         CertificateStore store(m_path);
         for (const int key : {1, 2}) {
             (void)store.verdictOn(shown(mac, "10.0.0.5", key));
             QCOMPARE(store.agree(store.refused()), "");
         }
-        // Another device gets the address, with the user's consent.
+        // The user accepts another device at the address.
         (void)store.verdictOn(shown("02:1a:c5:00:40:26", "10.0.0.5", 3));
         QCOMPARE(store.refused().constFirst().storedFingerprint, fingerprint(2));
         QCOMPARE(store.agree(store.refused()), "");
@@ -105,19 +105,19 @@ private Q_SLOTS:
         QCOMPARE(fileContents(m_path).count("fingerprint"), 2);
     }
 
-    void aDamagedFileIsKeptAndTrustsNothing_data()
+    void aDamagedFileIsKeptAndNoKeyIsTrusted_data()
     {
         const auto row = dataTable<QByteArray>({"text"});
         const QByteArray begin =
             "{'certificates':[{'identity':'','address':'10.0.0.5','port':443,'fingerprint':'" +
             fingerprint(1).toLatin1() + "'}";
-        row("cut", begin);
+        row("truncated", begin);
         row("another kind", "{'certificates':7}");
         row("empty", "");
         row("a short fingerprint", begin + ",{'identity':'','address':'a','port':443,'fingerprint':'AB'}]}");
     }
 
-    void aDamagedFileIsKeptAndTrustsNothing()
+    void aDamagedFileIsKeptAndNoKeyIsTrusted()
     {
         QFETCH(QByteArray, text);
         text.replace('\'', '"');
@@ -135,7 +135,7 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(m_folder.filePath(kept.constFirst())));
     }
 
-    void aFullDiskTrustsNothing()
+    void aKeyThatCannotBeStoredIsNotTrusted()
     {
         CertificateStore store(m_path);
         (void)store.verdictOn(shown(mac, "10.0.0.5", 1));
@@ -147,8 +147,8 @@ private Q_SLOTS:
         QCOMPARE(store.refused().size(), 1);
     }
 
-    /// As after the first work on a large site, with refusals while the user agrees.
-    void manyDevicesAreAgreedToAtOnce()
+    /// As after the first operation on a large site: further refusals arrive while the user accepts keys.
+    void manyDevicesAreAcceptedTogether()
     {
         CertificateStore store(m_path);
         const auto refuseAll = [&store](int key) {
@@ -170,7 +170,7 @@ private Q_SLOTS:
                 again.verdictOn(shown("device7", "10.0.0.1", 30'007, 8)) == CertificateVerdict::Trusted);
     }
 
-    void aChangeIsTickedOnlyByItself()
+    void aChangedKeyIsOnlyCheckedIndividually()
     {
         auto store = std::make_shared<CertificateStore>(m_path);
         (void)store->verdictOn(shown(mac, "10.0.0.5", 1));

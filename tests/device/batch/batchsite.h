@@ -9,7 +9,7 @@
 
 #include <memory>
 
-/// What the tests of batches share. Each test opens the site in its init() and closes it in its cleanup().
+/// Base class of batch tests. A test opens the site in init() and closes it in cleanup().
 class BatchSite
 {
 protected:

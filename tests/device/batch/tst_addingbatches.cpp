@@ -1,4 +1,4 @@
-// Adding devices in batches: the lines of a device list, and devices that the user names.
+// Adding devices in batches: the lines of a device list, and favourites.
 #include "device/batch/addingbatches.h"
 #include "sdk/demo/demop2pagentlibrary.h"
 #include "tests/datatable.h"
@@ -17,17 +17,17 @@ const QString recorder = QStringLiteral("02:1a:c5:00:00:03");
 const QString recorderId = QStringLiteral("OV7QK2M4");
 constexpr int networkFailure = 5;
 
-/// Lines that a test makes up, each with a step that waits at a gate.
+/// A list whose steps each wait at a gate.
 class MadeUpList : public CDeviceBase
 {
 public:
     MadeUpList() : CDeviceBase(nullptr) {}
 
     int lines = 0;
-    int devices = 0; ///< that the lines are of, by turns
-    QSemaphore gate; ///< lets one step end for each of its resources
+    int devices = 0; ///< number of devices; the lines belong to them in turn
+    QSemaphore gate; ///< each resource lets one step end
     std::mutex mutex;
-    QHash<QString, QList<int>> done; ///< lines by device, in their order
+    QHash<QString, QList<int>> done; ///< completed lines by device, in order
 
     ImportPlan importPlan(const QString &) override
     {
@@ -49,7 +49,7 @@ public:
     }
 };
 
-/// A factory of such lists.
+/// A factory that opens such lists.
 struct MadeUpSite
 {
     explicit MadeUpSite(int atOnce) : m_atOnce(atOnce) {}
@@ -136,18 +136,19 @@ private Q_SLOTS:
         m_engine.reset();
     }
 
-    void everyLineHasItsResult()
+    void everyLineGetsItsResult()
     {
         m_site->setFault(quietCamera, {.fault = sdk::demo::Fault::NoAnswer});
-        import("IpAddress,192.168.1.10,37777,admin,wrong,\n"     // 2
-               "IpAddress,192.168.1.10,37777,admin,wrong,\n"     // 3: not asked, the account may be locked
-               "IpAddress,192.168.1.10,37777,admin,secret1,门\n" // 4
-               "IpAddress,192.168.1.10,37777,admin,secret1,\n"   // 5
-               "Register,192.168.1.10,37777,admin,secret1,\n"    // 6
-               "IpAddress,192.168.1.11,37777,admin,secret1,\n"   // 7
-               "P2P,OV7QK2M4,8800,admin,wrong,\n"                // 8
-               "P2P,OV7QK2M4,8800,admin,secret1,\n"              // 9
-               "P2P,NOBODY,8800,admin,secret1,\n");              // 10
+        import(
+            "IpAddress,192.168.1.10,37777,admin,wrong,\n" // 2
+            "IpAddress,192.168.1.10,37777,admin,wrong,\n" // 3: not sent, because the account could be locked
+            "IpAddress,192.168.1.10,37777,admin,secret1,门\n" // 4
+            "IpAddress,192.168.1.10,37777,admin,secret1,\n"   // 5
+            "Register,192.168.1.10,37777,admin,secret1,\n"    // 6
+            "IpAddress,192.168.1.11,37777,admin,secret1,\n"   // 7
+            "P2P,OV7QK2M4,8800,admin,wrong,\n"                // 8
+            "P2P,OV7QK2M4,8800,admin,secret1,\n"              // 9
+            "P2P,NOBODY,8800,admin,secret1,\n");              // 10
         Batch *batch = m_batches->current();
         QCOMPARE(failuresOf(*m_adding, batch),
                  (QStringList{"2|2", "3|2", "5|13", "6|-1", "7|5", "8|2", "10|5"}));
@@ -158,19 +159,19 @@ private Q_SLOTS:
         const int port = row(recorder).value("ipport").toString().section(':', 1).toInt();
         QCOMPARE(m_site->portAgent().tunnel(m_factory->getP2PWebPort(port))->devicePort, 8080);
 
-        // Only what may go well another time is tried again.
+        // Only lines that may succeed later are retried.
         m_site->clearFault(quietCamera, sdk::demo::Fault::NoAnswer);
-        const QSignalSpy told(m_factory.get(), &CDeviceFactory::signalAddSingleDeviceToTable);
+        const QSignalSpy listChanged(m_factory.get(), &CDeviceFactory::signalAddSingleDeviceToTable);
         Batch *again = m_batches->retry(batch);
         QVERIFY(again);
         QTRY_VERIFY(!again->isRunning());
         QCOMPARE(again->total(), 2);
         QCOMPARE(failuresOf(*m_adding, again), QStringList("10|5"));
         QVERIFY(!row(quietCamera).isEmpty());
-        QCOMPARE(told.size(), 1);
+        QCOMPARE(listChanged.size(), 1);
     }
 
-    void aListThatIsNoneIsRefused()
+    void anInvalidListIsRefused()
     {
         const QSignalSpy refused(m_adding.get(), &AddingBatches::importRefused);
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^Failed to open file: .*/"));
@@ -179,7 +180,7 @@ private Q_SLOTS:
         QVERIFY(!m_batches->current() && !m_factory->busyState()->areRowsHeld());
     }
 
-    void theRestOfAStoppedListIsNamed()
+    void theRestOfAStoppedListIsReported()
     {
         MadeUpSite site(1);
         site.list->lines = site.list->devices = 4;
@@ -192,39 +193,39 @@ private Q_SLOTS:
         QCOMPARE(failuresOf(site.adding, site.batches.current()), (QStringList{"3|15", "4|15"}));
     }
 
-    /// However many lines there are, the pages read the list once a second, and once at the end.
-    void aLongListDoesNotHoldUpTheWindow()
+    /// Regardless of the number of lines, the pages read the list once per second and once at the end.
+    void aLongListDoesNotBlockTheWindow()
     {
         MadeUpSite site(8);
         site.list->lines = 20'000;
         site.list->devices = 5'000;
         site.list->gate.release(site.list->lines);
-        const QSignalSpy told(&site.factory, &CDeviceFactory::signalAddSingleDeviceToTable);
+        const QSignalSpy listChanged(&site.factory, &CDeviceFactory::signalAddSingleDeviceToTable);
         QElapsedTimer time;
         time.start();
         site.adding.importList("Import", "any");
         QTRY_VERIFY_WITH_TIMEOUT(site.batches.current() && !site.batches.isRunning(), 60'000);
         QCOMPARE(site.batches.current()->report()->succeeded(), site.list->lines);
-        QVERIFY(!told.isEmpty());
-        QCOMPARE_LE(told.size(), 1 + time.elapsed() / 1000);
-        // Lines of one device in their order.
+        QVERIFY(!listChanged.isEmpty());
+        QCOMPARE_LE(listChanged.size(), 1 + time.elapsed() / 1000);
+        // The lines of a device are run in order.
         for (const QList<int> &lines : std::as_const(site.list->done))
             QVERIFY(lines.size() == 4 && std::is_sorted(lines.begin(), lines.end()));
     }
 
-    void devicesOfTheUserAreAdded_data()
+    void favouritesAreAdded_data()
     {
-        // words: a part of them
+        // words: part of the message
         const auto row = dataTable<int, QString, int, QString, int, QString>(
             {"mode", "address", "port", "password", "result", "words"});
         row("address", 0, "192.168.1.10", 37777, "secret1", 0, QString());
         row("wrong password", 0, "192.168.1.10", 37777, "wrong", 2, "密码错误");
-        row("in the list already", 0, "192.168.1.11", 37777, "wrong", 13, "设备已存在");
+        row("already listed", 0, "192.168.1.11", 37777, "wrong", 13, "设备已存在");
         row("ID", 1, "OV7QK2M4", 8800, "secret1", 0, QString());
         row("no such ID", 1, "NOBODY", 8800, "secret1", networkFailure, "没有取得通往该设备的本地端口");
     }
 
-    void devicesOfTheUserAreAdded()
+    void favouritesAreAdded()
     {
         QFETCH(int, mode);
         QFETCH(QString, address);
@@ -239,11 +240,11 @@ private Q_SLOTS:
         QCOMPARE(m_adding->addDevices("Favourites", {device}), nullptr); // one at a time
         QTRY_VERIFY(!m_batches->isRunning());
         QCOMPARE(tried.size(), 1);
-        const QVariantMap told = tried.first().first().toList().first().toMap();
-        QCOMPARE(told.value("identity").toString(), "file");
-        QTEST(told.value("result").toInt(), "result");
-        QVERIFY(told.value("words").toString().contains(words));
-        QCOMPARE(m_factory->filterData("dh", "nofilter").size(), told.value("result").toInt() == 0 ? 2 : 1);
+        const QVariantMap result = tried.first().first().toList().first().toMap();
+        QCOMPARE(result.value("identity").toString(), "file");
+        QTEST(result.value("result").toInt(), "result");
+        QVERIFY(result.value("words").toString().contains(words));
+        QCOMPARE(m_factory->filterData("dh", "nofilter").size(), result.value("result").toInt() == 0 ? 2 : 1);
     }
 };
 

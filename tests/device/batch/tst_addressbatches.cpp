@@ -12,7 +12,7 @@ constexpr int networkFailure = 5;
 
 } // namespace
 
-/// Batches that change addresses, and put them back.
+/// Batches that change and restore addresses.
 class TestAddressBatches : public QObject, private BatchSite
 {
     Q_OBJECT
@@ -24,25 +24,33 @@ private:
             addresses.append(device.address);
         return addresses;
     }
+    /// Changes the address of one device. Returns the ended batch; null if it does not end.
+    [[nodiscard]] Batch *change(int device, const QString &address, const QString &mask = "255.255.255.0",
+                                const QString &gateway = {}) const
+    {
+        Batch *batch = m_batches->changeAddresses("dh", "Addresses", {m_devices.at(device).mac}, {address},
+                                                  mask, gateway, false);
+        return QTest::qWaitFor([batch] { return !batch->isRunning(); }) ? batch : nullptr;
+    }
 
 private Q_SLOTS:
     void init() { open(); }
     void cleanup() { close(); }
 
-    void addressesArePutBack_data()
+    void addressesAreRestored_data()
     {
-        const auto row = dataTable<bool>({"areAnswersDoubled"});
-        row("devices answer a search once", false);
-        row("devices answer a search twice", true);
+        const auto row = dataTable<bool>({"respondsTwice"});
+        row("devices respond once to a search", false);
+        row("devices respond twice to a search", true);
     }
 
-    void addressesArePutBack()
+    void addressesAreRestored()
     {
-        QFETCH(const bool, areAnswersDoubled);
-        for (const QString &mac : areAnswersDoubled ? macs() : QStringList())
+        QFETCH(const bool, respondsTwice);
+        for (const QString &mac : respondsTwice ? macs() : QStringList())
             m_site->site->setFault(mac, {.fault = sdk::demo::Fault::AnswerTwice});
         const QStringList before = addresses();
-        // Each device gets the address of the next one: the last one has to leave first.
+        // Each device gets the address of the next one: the last device must be changed first.
         const QStringList wanted = {"192.168.1.2", "192.168.1.3", "192.168.1.4", "192.168.1.5"};
         Batch *batch = m_batches->changeAddresses("dh", "Addresses", macs(), wanted, "255.255.255.0",
                                                   "192.168.1.1", false);
@@ -56,7 +64,7 @@ private Q_SLOTS:
 
         QVERIFY(QThreadPool::globalInstance()->waitForDone(30000)); // the rows have been queried again
         m_site->site->changeDevice(m_devices.at(2).mac, [](auto &device, const auto &) {
-            device.address = "192.168.1.77"; // it does not respond where it was put
+            device.address = "192.168.1.77"; // it does not respond at its new address
         });
         m_site->site->requests().clear();
         QStringList wantedBack;
@@ -76,7 +84,7 @@ private Q_SLOTS:
         QCOMPARE(addresses(), before);
     }
 
-    /// The device does not answer, and the time that its request may take does not pass.
+    /// The device does not respond and the clock is stopped, so the request does not time out.
     void aStopEndsTheWaitForAnAddress()
     {
         m_site->site->setFault(m_devices.at(0).mac, {.fault = sdk::demo::Fault::NoAnswer});
@@ -92,13 +100,11 @@ private Q_SLOTS:
         QCOMPARE(batch->report()->devicesWith(notDone), macs().mid(1));
     }
 
-    /// A search, or the user, has taken its row.
-    void aDeviceWithoutARowIsPutBack()
+    /// A search or the user has removed its row.
+    void aDeviceWithoutARowIsRestored()
     {
         const QString mac = m_devices.at(0).mac;
-        Batch *batch = m_batches->changeAddresses("dh", "Addresses", {mac}, {"192.168.1.50"}, "255.255.0.0",
-                                                  "192.168.1.9", false);
-        QTRY_VERIFY(!batch->isRunning());
+        Batch *batch = change(0, "192.168.1.50", "255.255.0.0", "192.168.1.9");
         QVERIFY(QThreadPool::globalInstance()->waitForDone(30000)); // the row has been queried again
         m_site->factory->setDeleteDevice("dh", mac, "IPV4");
         const QVariantMap entry = m_batches->addressesToPutBack(batch).value(0).toMap();
@@ -111,84 +117,69 @@ private Q_SLOTS:
         QCOMPARE(QStringList({device->address, device->mask, device->gateway}),
                  QStringList({"192.168.1.1", "255.255.255.0", "192.168.1.1"}));
         QCOMPARE(m_site->store->row(mac).value("ipport").toString(), "192.168.1.1:37777");
-        // What a put back that went wrong would send again.
+        // A failed restoration would be sent again.
         QCOMPARE(back->plan().addressesBefore.value(mac).address, "192.168.1.50");
     }
 
-    void anAddressThatAnotherDeviceHasTakenIsNotPutBackUnnoticed()
+    void restoringAnAddressInUseIsAWarning()
     {
-        const auto change = [&](int device, const QString &address) {
-            Batch *batch = m_batches->changeAddresses("dh", "Addresses", {m_devices.at(device).mac},
-                                                      {address}, "255.255.255.0", "", false);
-            return QTest::qWaitFor([batch] { return !batch->isRunning(); }) ? batch : nullptr;
-        };
         Batch *first = change(0, "192.168.1.50");
         BatchPreview preview;
         preview.setDeviceFactory(m_site->factory.get());
         preview.setEntries(m_batches->addressesToPutBack(first));
         QCOMPARE(preview.warningCount(), 0);
-        change(1, "192.168.1.1");
+        QVERIFY(change(1, "192.168.1.1"));
         preview.setEntries(m_batches->addressesToPutBack(first));
         QCOMPARE(preview.warningCount(), 1);
 
         const QVariantMap entry = {{"name", m_devices.at(2).mac}, {"newAddress", "192.168.1.99"}};
         preview.setEntries(
             {entry, QVariantMap{{"name", m_devices.at(3).mac}, {"newAddress", "192.168.1.99"}}});
-        QCOMPARE(preview.warningCount(), 2); // both are to get the same one
+        QCOMPARE(preview.warningCount(), 2); // both would get the same address
         preview.setRangeChecked(0, 0, false);
         QCOMPARE(preview.warningCount(), 0);
     }
 
-    /// Its row shows since then the address that it was asked for.
-    void aDeviceIsPutBackToWhatItHadBeforeAChangeThatFailed()
+    /// Its row shows the requested address since then.
+    void aDeviceIsRestoredAfterAFailedChange()
     {
-        const QStringList mac(m_devices.at(0).mac);
-        const auto change = [&](const QString &address) {
-            Batch *batch =
-                m_batches->changeAddresses("dh", "Addresses", mac, {address}, "255.255.255.0", "", false);
-            return QTest::qWaitFor([batch] { return !batch->isRunning(); }) ? batch : nullptr;
-        };
+        const QString mac = m_devices.at(0).mac;
         const auto wanted = [&](Batch *batch) {
             const QVariantList entries = m_batches->addressesToPutBack(batch);
             return entries.value(0).toMap().value("action").toString();
         };
-        m_site->site->setFault(mac.first(), {.fault = sdk::demo::Fault::NoAnswer});
-        Batch *failed = change("192.168.1.50");
+        m_site->site->setFault(mac, {.fault = sdk::demo::Fault::NoAnswer});
+        Batch *failed = change(0, "192.168.1.50");
         QCOMPARE(failed->report()->failed(), 1);
-        QCOMPARE(wanted(failed), "192.168.1.1"); // the change may have come through
-        m_site->site->clearFault(mac.first(), sdk::demo::Fault::NoAnswer);
-        Batch *done = change("192.168.1.60");
+        QCOMPARE(wanted(failed), "192.168.1.1"); // the change may have been applied
+        m_site->site->clearFault(mac, sdk::demo::Fault::NoAnswer);
+        Batch *done = change(0, "192.168.1.60");
         QCOMPARE(done->report()->succeeded(), 1);
         QCOMPARE(wanted(done), "192.168.1.1");
-        QCOMPARE(wanted(change("192.168.1.70")), "192.168.1.60");
+        QCOMPARE(wanted(change(0, "192.168.1.70")), "192.168.1.60");
     }
 
-    /// Also before the device has been queried again.
-    void theWholeOfAChangeIsPutBack()
+    /// This also works before the device has been queried again.
+    void allFieldsOfAChangeAreRestored()
     {
-        const QStringList mac(m_devices.at(0).mac);
-        const auto change = [&](const QString &address, const QString &mask, const QString &gateway) {
-            Batch *batch =
-                m_batches->changeAddresses("dh", "Addresses", mac, {address}, mask, gateway, false);
-            return QTest::qWaitFor([batch] { return !batch->isRunning(); }) ? batch : nullptr;
-        };
-        change("192.168.5.9", "255.255.0.0", "192.168.0.1");
-        Batch *second = change("192.168.5.10", "255.255.255.0", "192.168.5.1");
-        Batch *back = m_batches->putAddressesBack(second, "Back", mac);
+        const QString mac = m_devices.at(0).mac;
+        QVERIFY(change(0, "192.168.5.9", "255.255.0.0", "192.168.0.1"));
+        Batch *second = change(0, "192.168.5.10", "255.255.255.0", "192.168.5.1");
+        Batch *back = m_batches->putAddressesBack(second, "Back", {mac});
         QTRY_VERIFY(!back->isRunning());
-        const auto device = m_site->site->device(mac.first());
+        const auto device = m_site->site->device(mac);
         QCOMPARE(QStringList({device->address, device->mask, device->gateway}),
                  QStringList({"192.168.5.9", "255.255.0.0", "192.168.0.1"}));
     }
 
-    void noDeviceGetsAnAddressThatIsStillUsed_data()
+    void noDeviceGetsAnAddressInUse_data()
     {
         const auto row = dataTable<sdk::demo::Fault, int>({"fault", "retryable"});
         row("its device refuses another one", sdk::demo::Fault::RefusesAddressChange, 0);
-        row("its device does not answer", sdk::demo::Fault::NoAnswer, 4);
+        row("its device does not respond", sdk::demo::Fault::NoAnswer, 4);
     }
 
-    void noDeviceGetsAnAddressThatIsStillUsed()
+    void noDeviceGetsAnAddressInUse()
     {
         QFETCH(const sdk::demo::Fault, fault);
         m_site->site->setFault(m_devices.at(3).mac, {.fault = fault});
@@ -202,17 +193,17 @@ private Q_SLOTS:
         QTEST(static_cast<int>(batch->retryableDevices().size()), "retryable");
     }
 
-    void addressesOfDevicesThatMayHaveChangedArePutBack_data()
+    void devicesThatMayHaveChangedAreRestored_data()
     {
         const auto row = dataTable<LoginResult, int>({"result", "entries"});
         row("confirmed", LoginResult::Success, 1);
-        row("no answer", LoginResult::NetworkFailure, 1);
-        row("no answer at the new address", LoginResult::Unconfirmed, 1);
-        row("another device answers there", LoginResult::AddressInUse, 1);
+        row("no response", LoginResult::NetworkFailure, 1);
+        row("no response at the new address", LoginResult::Unconfirmed, 1);
+        row("another device responds there", LoginResult::AddressInUse, 1);
         row("refused", LoginResult::Refused, 0);
     }
 
-    void addressesOfDevicesThatMayHaveChangedArePutBack()
+    void devicesThatMayHaveChangedAreRestored()
     {
         QFETCH(const LoginResult, result);
         BatchPlan plan;
@@ -244,16 +235,16 @@ private Q_SLOTS:
     {
         const auto row = dataTable<QStringList, QStringList, QList<qsizetype>, QList<qsizetype>>(
             {"before", "after", "order", "circle"});
-        using Places = QList<qsizetype>;
-        row("nothing shared", QStringList{"a", "b"}, QStringList{"x", "y"}, Places{0, 1}, Places{});
-        row("upwards", QStringList{"a", "b", "c"}, QStringList{"b", "c", "d"}, Places{2, 1, 0}, Places{});
-        row("keeps its own", QStringList{"a", "b"}, QStringList{"a", "c"}, Places{0, 1}, Places{});
-        row("keeps what another one leaves", QStringList{"a", "a"}, QStringList{"a", "b"}, Places{1, 0},
-            Places{});
-        row("dhcp", QStringList{"a", "b"}, QStringList{"", ""}, Places{0, 1}, Places{});
-        row("two of one address", QStringList{"a", "b", "b"}, QStringList{"b", "c", "d"}, Places{1, 2, 0},
-            Places{});
-        row("circle", QStringList{"a", "b", "c"}, QStringList{"b", "a", "z"}, Places{2}, Places{0, 1});
+        using Indexes = QList<qsizetype>;
+        row("nothing shared", QStringList{"a", "b"}, QStringList{"x", "y"}, Indexes{0, 1}, Indexes{});
+        row("upwards", QStringList{"a", "b", "c"}, QStringList{"b", "c", "d"}, Indexes{2, 1, 0}, Indexes{});
+        row("keeps its address", QStringList{"a", "b"}, QStringList{"a", "c"}, Indexes{0, 1}, Indexes{});
+        row("keeps an address that another device leaves", QStringList{"a", "a"}, QStringList{"a", "b"},
+            Indexes{1, 0}, Indexes{});
+        row("dhcp", QStringList{"a", "b"}, QStringList{"", ""}, Indexes{0, 1}, Indexes{});
+        row("two devices with one address", QStringList{"a", "b", "b"}, QStringList{"b", "c", "d"},
+            Indexes{1, 2, 0}, Indexes{});
+        row("circle", QStringList{"a", "b", "c"}, QStringList{"b", "a", "z"}, Indexes{2}, Indexes{0, 1});
     }
 
     void addressesAreOrdered()

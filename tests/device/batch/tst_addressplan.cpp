@@ -12,7 +12,7 @@ class TestAddressPlan : public QObject
 {
     Q_OBJECT
 private:
-    /// Rows as the page hands them over.
+    /// The rows as the page passes them.
     static QVariantList rowsOf(const RowsFactory &site, const QStringList &macs)
     {
         QVariantList rows;
@@ -25,9 +25,9 @@ private:
     }
 
 private Q_SLOTS:
-    void givesAndMarksAddresses_data()
+    void assignsAddressesAndMarksConflicts_data()
     {
-        // marks: of the first two; the third device waits for its password
+        // marks: of the first two devices; the third one is not initialised
         const auto addRow = dataTable<QString, bool, QString, QString, QList<int>>(
             {"start", "same", "mask", "addresses", "marks"});
         constexpr int fine = AddressPlan::Fine;
@@ -44,16 +44,16 @@ private Q_SLOTS:
             {fine, AddressPlan::IsGateway});
         row("into the next subnet", "10.0.0.7", "255.255.255.248", "10.0.0.7 10.0.0.8 10.0.0.9",
             {noDevice, AddressPlan::OutsideSubnet});
-        row("onto a device outside, not onto one's own", "192.168.1.8", mask,
+        row("onto another device, not onto its own address", "192.168.1.8", mask,
             "192.168.1.8 192.168.1.9 192.168.1.10", {fine, taken});
-        row("onto a device of the batch that keeps its address", "192.168.1.20", mask,
+        row("onto an uninitialised device of the batch", "192.168.1.20", mask,
             "192.168.1.20 192.168.1.21 192.168.1.22", {fine, taken});
         row("the same for all", "192.168.1.30", mask, "192.168.1.30 192.168.1.30 192.168.1.30",
             {AddressPlan::TakenInBatch, AddressPlan::TakenInBatch});
-        row("no mask to judge by", "10.0.0.7", "255.0.255.0", "10.0.0.7 10.0.0.8 10.0.0.9", {fine, fine});
+        row("invalid mask", "10.0.0.7", "255.0.255.0", "10.0.0.7 10.0.0.8 10.0.0.9", {fine, fine});
     }
 
-    void givesAndMarksAddresses()
+    void assignsAddressesAndMarksConflicts()
     {
         QFETCH(QString, start);
         QFETCH(bool, same);
@@ -93,7 +93,7 @@ private Q_SLOTS:
         QVERIFY(plan.addressOf(0).isEmpty() && plan.warningCount() == 0);
     }
 
-    void knowsGatewaysOfTheSubnet()
+    void checksThatTheGatewayIsInTheSubnet()
     {
         AddressPlan plan;
         plan.setStartAddress("10.0.1.20");
@@ -124,7 +124,7 @@ private Q_SLOTS:
         QCOMPARE(valuesOf(plan.get(1), "action kind"), "|0");
     }
 
-    void previewsWhatWillHappen()
+    void previewsAddressChanges()
     {
         RowsFactory site;
         site.rows->add({.address = "10.0.0.1", .mac = "m1", .name = "Door"});
@@ -149,14 +149,14 @@ private Q_SLOTS:
         QCOMPARE(preview.warningCount() + preview.skippedCount(), 0);
     }
 
-    /// A device that has its password would be given another one by nobody but its owner.
-    void previewsWhoGetsAFirstPassword()
+    /// Only uninitialised devices get a first password.
+    void previewsWhichDevicesGetAFirstPassword()
     {
         RowsFactory site;
         constexpr auto isNew = sdk::InitialisationBits::Uninitialised;
         site.rows->add({.address = "10.0.0.1", .mac = "m1"});
         site.rows->add({.address = "10.0.0.2", .mac = "m2", .state = isNew});
-        site.rows->add({.address = "10.0.0.2", .mac = "m3", .state = isNew}); // as delivered
+        site.rows->add({.address = "10.0.0.2", .mac = "m3", .state = isNew}); // factory-new
         site.rows->add({.address = "10.0.0.4", .mac = "", .state = isNew});
         DeviceTableModel table;
         table.setDeviceFactory(&site.factory);
@@ -181,9 +181,9 @@ private Q_SLOTS:
         const auto row =
             dataTable<QString, QString, QString, QString>({"before", "after", "gateway", "expected"});
         row("last octet", "192.168.1.", "192.168.1.6", "192.168.1.", "192.168.1.1");
-        row("third octet, the gateway's own end stays", "192.168.1.64", "192.168.2.64", "192.168.1.254",
+        row("third octet, the gateway keeps its last octet", "192.168.1.64", "192.168.2.64", "192.168.1.254",
             "192.168.2.254");
-        row("last octet, over the gateway's own end", "192.168.1.64", "192.168.1.65", "192.168.1.254",
+        row("last octet, replaces the gateway's last octet", "192.168.1.64", "192.168.1.65", "192.168.1.254",
             "192.168.1.1");
         row("no address at all", "", "1.2.3.4.5", "10.0.0.1", "10.0.0.1");
         row("no octet", "192.168.1.10", "1111", "192.168.1.1", "192.168.1.1");

@@ -15,7 +15,7 @@ namespace {
 constexpr int wrongPassword = resultCode(LoginResult::WrongPassword);
 constexpr int success = resultCode(LoginResult::Success);
 
-/// What a batch has reported, and gates that its steps wait at.
+/// The signals of a batch.
 class Record : public BatchWatcher
 {
 public:
@@ -32,7 +32,7 @@ public:
     void held() override { ++holds; }
     void ended() override { ++ends; }
 
-    [[nodiscard]] QList<int> startedPlaces() const
+    [[nodiscard]] QList<int> startedIndexes() const
     {
         const std::lock_guard lock(m_mutex);
         return m_started;
@@ -61,10 +61,10 @@ private:
     std::shared_ptr<sdk::demo::SteppableClock> m_clock;
     std::unique_ptr<BatchEngine> m_engine;
     std::shared_ptr<Record> m_record;
-    QSemaphore m_gate; ///< a step that waits takes one
+    QSemaphore m_gate; ///< a waiting step takes one resource
     std::atomic<int> m_runs = 0;
 
-    /// A step that ends when the gate lets it, or when it is stopped.
+    /// A step that ends when it passes the gate, or when it is stopped.
     BatchItem waiting(const QString &device)
     {
         return {.device = device, .step = [this](const StepControl &control) {
@@ -112,7 +112,7 @@ private Q_SLOTS:
         m_engine.reset();
     }
 
-    void worksOnAFewAtATime_data()
+    void runsALimitedNumberOfStepsAtATime_data()
     {
         const auto row = dataTable<int, int>({"atOnce", "expected"});
         row("one", 1, 1);
@@ -120,7 +120,7 @@ private Q_SLOTS:
         row("more than there are", 20, 6);
     }
 
-    void worksOnAFewAtATime()
+    void runsALimitedNumberOfStepsAtATime()
     {
         QFETCH(int, atOnce);
         QFETCH(int, expected);
@@ -132,28 +132,28 @@ private Q_SLOTS:
             QTRY_COMPARE(m_record->results().size(), ended);
         }
         QTRY_COMPARE(m_record->ends, 1);
-        QList<int> places = m_record->startedPlaces();
+        QList<int> places = m_record->startedIndexes();
         if (expected > 1)
             std::sort(places.begin(), places.end());
         QCOMPARE(places, (QList<int>{0, 1, 2, 3, 4, 5}));
     }
 
-    /// Whichever batches the steps are of, and in the order in which they were asked for.
-    void oneStepOfADeviceAtATime()
+    /// This applies across batches, in the order of the requests.
+    void runsOneStepPerDeviceAtATime()
     {
         const auto other = std::make_shared<Record>();
         start({waiting("a"), waiting("a"), waiting("b")}, {.atOnce = 8});
-        QTRY_COMPARE(m_record->startedPlaces().size(), 2);
+        QTRY_COMPARE(m_record->startedIndexes().size(), 2);
         m_engine->start({waiting("a"), waiting("c")}, {.atOnce = 8}, other);
-        QTRY_COMPARE(other->startedPlaces(), QList<int>{1});
-        QVERIFY(!m_record->startedPlaces().contains(1));
+        QTRY_COMPARE(other->startedIndexes(), QList<int>{1});
+        QVERIFY(!m_record->startedIndexes().contains(1));
         m_gate.release(5);
         QTRY_COMPARE(m_record->ends + other->ends, 2);
         QCOMPARE(m_runs, 5);
     }
 
-    /// It waits for the step that runs, and the next step waits for it.
-    void otherWorkHoldsADevice()
+    /// The hold waits for the running step, and the next step waits for the hold.
+    void otherWorkReservesADevice()
     {
         start({waiting("a")}, {.atOnce = 8});
         QTRY_COMPARE(m_runs, 1);
@@ -172,23 +172,23 @@ private Q_SLOTS:
 
         const auto other = std::make_shared<Record>();
         m_engine->start({waiting("a"), waiting("b")}, {.atOnce = 8}, other);
-        QTRY_COMPARE(other->startedPlaces(), QList<int>{1});
+        QTRY_COMPARE(other->startedIndexes(), QList<int>{1});
         m_gate.release(2);
         QTRY_COMPARE(other->results().size(), 1);
-        QCOMPARE(other->startedPlaces(), QList<int>{1});
+        QCOMPARE(other->startedIndexes(), QList<int>{1});
         release.release();
         QTRY_COMPARE(other->ends, 1);
     }
 
-    void aRefusedAccountIsNotTriedAgain_data()
+    void aRefusedAccountIsNotUsedAgain_data()
     {
         const auto row = dataTable<int, int>({"result", "expectedRuns"});
         row("wrong password", wrongPassword, 1);
         row("locked", resultCode(LoginResult::AccountLocked), 1);
-        row("no answer", resultCode(LoginResult::NetworkFailure), 3);
+        row("no response", resultCode(LoginResult::NetworkFailure), 3);
     }
 
-    void aRefusedAccountIsNotTriedAgain()
+    void aRefusedAccountIsNotUsedAgain()
     {
         QFETCH(int, result);
         QFETCH(int, expectedRuns);
@@ -198,22 +198,23 @@ private Q_SLOTS:
         QCOMPARE(m_record->results(), (QList<std::pair<int, int>>{{0, result}, {1, result}, {2, result}}));
     }
 
-    void wrongPasswordsInARowHoldABatch_data()
+    void consecutiveWrongPasswordsPauseABatch_data()
     {
-        // between: the result of the second of six devices; the others but the last two have a wrong password
+        // between: the result of the second of six devices; all others except the last two have a wrong
+        // password
         const auto row = dataTable<int, int>({"between", "runsUntilHeld"});
         row("done", success, 4);
-        row("right password, next step to come", resultCode(LoginResult::Unknown), 4);
+        row("right password, next step follows", resultCode(LoginResult::Unknown), 4);
         row("logged in, request refused", 999, 4);
-        row("no answer tells nothing", resultCode(LoginResult::NetworkFailure), 3);
-        row("nothing was asked", resultCode(LoginResult::AlreadyListed), 3);
-        row("nothing could be asked", unusableLine, 3);
-        row("certificate not agreed to", resultCode(LoginResult::UnknownCertificate), 3);
+        row("no response", resultCode(LoginResult::NetworkFailure), 3);
+        row("nothing was sent", resultCode(LoginResult::AlreadyListed), 3);
+        row("nothing could be sent", unusableLine, 3);
+        row("certificate not accepted", resultCode(LoginResult::UnknownCertificate), 3);
         row("certificate changed", resultCode(LoginResult::ChangedCertificate), 3);
         row("busy with another upgrade", deviceBusy, 3);
     }
 
-    void wrongPasswordsInARowHoldABatch()
+    void consecutiveWrongPasswordsPauseABatch()
     {
         QFETCH(int, between);
         std::vector<BatchItem> items = {
@@ -227,7 +228,7 @@ private Q_SLOTS:
         QTRY_COMPARE(m_record->ends, 1);
     }
 
-    void nothingOvertakesInTheOrderOfTheList()
+    void stepsOfALaterBatchDoNotOvertake()
     {
         start({waiting("a")}, {.atOnce = 1});
         QTRY_COMPARE(m_runs, 1);
@@ -238,10 +239,10 @@ private Q_SLOTS:
         QTRY_COMPARE(third->ends, 1);
         m_gate.release();
         QTRY_COMPARE(second->ends, 1);
-        QCOMPARE(second->startedPlaces(), QList<int>({0, 1}));
+        QCOMPARE(second->startedIndexes(), QList<int>({0, 1}));
     }
 
-    void stopSkipsWhatWaitsAndReachesWhatRuns()
+    void aStopSkipsWaitingStepsAndReachesRunningOnes()
     {
         const int batch = start(many(100), {.atOnce = 4});
         QTRY_COMPARE(m_runs, 4);
@@ -253,7 +254,7 @@ private Q_SLOTS:
         QCOMPARE(m_record->ends, 1);
     }
 
-    void aHeldBatchCanBeStopped()
+    void aPausedBatchCanBeStopped()
     {
         const int batch =
             start({ending("a", wrongPassword), ending("b")}, {.atOnce = 1, .wrongPasswordsInARow = 1});
@@ -263,7 +264,7 @@ private Q_SLOTS:
         QCOMPARE(m_runs, 1);
     }
 
-    void aStepThatWaitsForItsDeviceGivesItsPlaceAway()
+    void aStepThatWaitsForItsDeviceFreesItsSlot()
     {
         std::vector<BatchItem> items;
         for (int number = 0; number < 5; ++number) {
@@ -280,9 +281,9 @@ private Q_SLOTS:
         QTRY_COMPARE(m_record->ends, 1);
     }
 
-    void aStepLearnsOfItsDeadline()
+    void aStepIsInformedOfItsDeadline()
     {
-        std::atomic<int> pieces = 0; // of its work, each of which has the whole time
+        std::atomic<int> pieces = 0; // parts of its work, each with the full time limit
         start({{.device = "a",
                 .step =
                     [&](const StepControl &control) {
@@ -311,7 +312,7 @@ private Q_SLOTS:
         QCOMPARE(start(many(1), {}), 0);
     }
 
-    void anEmptyBatchEndsAtOnce()
+    void anEmptyBatchEndsImmediately()
     {
         QVERIFY(start({}, {}) > 0);
         QCOMPARE(m_record->ends, 1);

@@ -36,7 +36,7 @@ public:
 
 } // namespace
 
-/// Batches on a simulated site, as the scene starts and follows them.
+/// Batches on a simulated site, started and observed as QML does.
 class TestBatches : public QObject, private BatchSite
 {
     Q_OBJECT
@@ -55,8 +55,8 @@ private Q_SLOTS:
     void everyDeviceIsReported_data()
     {
         const auto row = dataTable<sdk::demo::Fault, int>({"fault", "number"});
-        row("one does not answer", sdk::demo::Fault::NoAnswer, 0);
-        row("one answers after its deadline", sdk::demo::Fault::SlowAnswers, 60000);
+        row("one does not respond", sdk::demo::Fault::NoAnswer, 0);
+        row("one responds after its deadline", sdk::demo::Fault::SlowAnswers, 60000);
     }
 
     void everyDeviceIsReported()
@@ -84,7 +84,7 @@ private Q_SLOTS:
                                                {ipportOf(m_devices.at(3)), 0}}));
         QCOMPARE(batch->done(), 4);
         QCOMPARE(batch->failedDevices(), (QStringList{ipportOf(m_devices.at(1)), ipportOf(m_devices.at(2))}));
-        // Another try with the same password may lock the account.
+        // A further attempt with the same password could lock the account.
         QCOMPARE(batch->retryableDevices(), QStringList{ipportOf(m_devices.at(1))});
 
         QVERIFY(batch->canRetry(identityOf(1)) && !batch->canRetry(identityOf(2)) &&
@@ -96,7 +96,7 @@ private Q_SLOTS:
         QVERIFY(again);
         QTRY_VERIFY(!again->isRunning());
         QCOMPARE(again->report()->succeeded(), 1);
-        // What the retry has left out is not forgotten, and is done with another account.
+        // The devices that the retry skipped are remembered, and succeed with another account.
         QCOMPARE(again->failedBefore(), 1);
         QCOMPARE(again->failedIdentities(), QStringList(identityOf(2)));
         QCOMPARE(m_batches->retry(again), nullptr);
@@ -106,7 +106,7 @@ private Q_SLOTS:
         QCOMPARE(again->retryableDevices(), QStringList(ipportOf(m_devices.at(2))));
     }
 
-    /// Each camera gets its own name; what is too long for a device is not sent.
+    /// Each camera gets its own name. A name that is too long for a device is not sent.
     void camerasGetTheirNames()
     {
         const QStringList names = {"Hall 1", "Hall 2", QString(300, 'x'), "厅 4"};
@@ -127,7 +127,7 @@ private Q_SLOTS:
         QCOMPARE(batch->entries().at(3).outcome.text, "厅 4");
     }
 
-    void anotherBatchWaitsAndAStoppedOneNamesTheRest()
+    void aSecondBatchWaitsAndAStoppedOneReportsTheRest()
     {
         m_site->factory->systemConfig("dh", "loginCheck", {{"password", "secret1"}}, ipportsOf(m_devices));
         m_site->net->passwordGate = std::make_unique<QSemaphore>();
@@ -162,7 +162,8 @@ private Q_SLOTS:
         table.setOnlyFailed(true);
         QCOMPARE(table.failedCount(), 1);
         QCOMPARE(table.get(0).value("mac").toString(), mac);
-        QVERIFY(table.get(0).value("failure").toString().count('\n') == 1); // it is said to be lost, too
+        QVERIFY(table.get(0).value("failure").toString().count('\n') ==
+                1); // the loss of the device is reported as well
 
         m_site->site->clearFault(mac, sdk::demo::Fault::NoAnswer);
         QVERIFY(search());
@@ -173,8 +174,8 @@ private Q_SLOTS:
         QCOMPARE(table.rowCount(), 4);
     }
 
-    /// It was reached: nothing says that its next try fails as well.
-    void aDeviceThatGoesAfterItsLoginMayBeTriedAgain()
+    /// The device was reached, so the next attempt may succeed.
+    void aDeviceLostAfterItsLoginCanBeRetried()
     {
         const QString mac = m_devices.at(0).mac;
         m_site->net->beforeWriting = [&] {
@@ -193,11 +194,11 @@ private Q_SLOTS:
         QVERIFY(refused);
         QTRY_VERIFY(!refused->isRunning());
         QCOMPARE(refused->entries().first().outcome.result, 999);
-        QCOMPARE(refused->retryableDevices(), QStringList()); // it has said no
+        QCOMPARE(refused->retryableDevices(), QStringList()); // the device has refused
     }
 
-    /// The password may have changed: the user learns that the device has not answered.
-    void aDeviceThatGoesBeforeItsNewPasswordSaysSo()
+    /// The password may have changed, so the user is informed that the device did not respond.
+    void aDeviceLostDuringAPasswordChangeIsReported()
     {
         m_site->factory->systemConfig("dh", "loginCheck", {{"password", "secret1"}}, ipportsOf(m_devices));
         m_site->site->setFault(m_devices.at(0).mac, {.fault = sdk::demo::Fault::NoAnswer});
@@ -216,7 +217,7 @@ private Q_SLOTS:
         m_site->site->setFault(m_devices.at(1).mac, {.fault = sdk::demo::Fault::SlowAnswers, .number = 2000});
         BatchPlan plan{.family = "dh", .title = "Standard", .policy = m_batches->usualPolicy()};
         plan.devices = batchDevices(*m_site->factory, "dh", ipportsOf(m_devices));
-        plan.policy.atOnce = 1; // the clock goes on in the wait of one device
+        plan.policy.atOnce = 1; // the clock advances while one device is waiting
         plan.policy.deadline = std::chrono::seconds(1);
         plan.stepOf = [this](const BatchDevice &device) {
             return m_site->factory->systemStep("dh", "videoStandard", {{"videoStandard", 1}}, device.ipport);
@@ -226,22 +227,23 @@ private Q_SLOTS:
         QCOMPARE(batch->report()->succeeded(), 3);
         const QString late = ipportOf(m_devices.at(1));
         QCOMPARE(batch->report()->devicesWith(notDone), QStringList(late));
-        QVERIFY(!batch->textOf(late).isEmpty()); // it was begun
+        QVERIFY(!batch->textOf(late).isEmpty()); // it had started
         QCOMPARE(batch->retryableDevices(), QStringList(late));
-        QVERIFY(!askedMacs("NetSetItem").contains(m_devices.at(1).mac)); // nothing is written after it
+        QVERIFY(
+            !askedMacs("NetSetItem").contains(m_devices.at(1).mac)); // nothing is written after the deadline
     }
 
-    void aRefusalSaysWhatItMeans_data()
+    void aRefusalIsExplained_data()
     {
         const auto row = dataTable<sdk::NetError, QString, bool>({"error", "text", "isRetryable"});
         row("not supported", sdk::NetError::NotSupported, resultName(resultCode(LoginResult::NotSupported)),
             false);
         row("invalid", sdk::NetError::InvalidValue, resultName(resultCode(LoginResult::InvalidValue)), false);
         row("without a reason", sdk::NetError::Refused, "", false);
-        row("no answer", sdk::NetError::ConnectTimeout, CDeviceDH::tr("设备没有应答"), true);
+        row("no response", sdk::NetError::ConnectTimeout, CDeviceDH::tr("设备没有应答"), true);
     }
 
-    void aRefusalSaysWhatItMeans()
+    void aRefusalIsExplained()
     {
         QFETCH(const sdk::NetError, error);
         QFETCH(const bool, isRetryable);
@@ -255,15 +257,15 @@ private Q_SLOTS:
         QVERIFY(m_batches->failedMarks()->wordsOf(identityOf(0)).contains(batch->textOf(device)));
     }
 
-    void anEndDoesNotWaitForDevices_data()
+    void closingDoesNotWaitForDevices_data()
     {
         const auto row = dataTable<QString>({"kind"});
         for (const char *kind : {"system", "passwords", "addresses", "back", "copy", "snapshots"})
             row(kind, kind);
     }
 
-    /// None of the devices answers, and no time passes in which their requests would be given up.
-    void anEndDoesNotWaitForDevices()
+    /// No device responds and the clock is stopped, so no request times out.
+    void closingDoesNotWaitForDevices()
     {
         QFETCH(const QString, kind);
         const QStringList ipports = ipportsOf(m_devices);
@@ -320,8 +322,8 @@ private Q_SLOTS:
         QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
     }
 
-    /// The program does not wait for the devices, and the log names those that got nothing.
-    void anEndInTheMiddleOfABatchNamesTheRest()
+    /// The application does not wait for the devices. The log names those that were not processed.
+    void closingDuringABatchLogsTheRest()
     {
         m_site->factory->systemConfig("dh", "loginCheck", {{"password", "secret1"}}, ipportsOf(m_devices));
         m_site->net->passwordGate = std::make_unique<QSemaphore>();
@@ -338,8 +340,8 @@ private Q_SLOTS:
         QCOMPARE(askedMacs("NetModifyPassword").size(), 2);
     }
 
-    /// What the user has chosen is a device, not an address.
-    void noOtherDeviceGetsWhatIsRetried()
+    /// The user selects a device, not an address.
+    void aRetryReachesTheSameDevice()
     {
         const QString failed = m_devices.at(0).mac;
         m_site->site->setFault(failed, {.fault = sdk::demo::Fault::NoAnswer});
@@ -360,7 +362,7 @@ private Q_SLOTS:
         QCOMPARE(askedMacs("NetLoginSecure"), QStringList());
     }
 
-    void theTimeLeftIsEstimatedAtEachAdvance()
+    void theTimeLeftIsEstimatedAfterEachResult()
     {
         const auto clock = std::make_shared<sdk::demo::SteppableClock>();
         BatchEngine engine(clock);
@@ -376,7 +378,7 @@ private Q_SLOTS:
             };
         };
         Batch batch(engine, plan);
-        const auto end = qScopeGuard([&released] { released.release(4); }); // a failure leaves steps behind
+        const auto end = qScopeGuard([&released] { released.release(4); }); // steps still run after a failure
         QVERIFY(batch.start());
         QCOMPARE(batch.secondsLeft(), -1);
         clock->advance(std::chrono::seconds(3));
@@ -395,7 +397,7 @@ private Q_SLOTS:
         QCOMPARE(batch.secondsLeft(), -1);
     }
 
-    void aRowOfAnUpgradingDeviceIsRefusedAtOnce()
+    void anUpgradingDeviceIsRefusedImmediately()
     {
         const QString mac = m_devices.at(0).mac;
         m_site->factory->updataDeviceInfo("dh", "upgraderes", UpgradeTools::Sending, mac, "");
@@ -408,7 +410,7 @@ private Q_SLOTS:
                                     }}},
                               {.atOnce = 1}, std::make_shared<NoWatcher>());
         const auto release =
-            qScopeGuard([upgrade] { upgrade->release(); }); // a failure must not leave it waiting
+            qScopeGuard([upgrade] { upgrade->release(); }); // the step must not wait after a failure
         Batch *batch = setStandard(ipportsOf(m_devices));
         QVERIFY(batch);
         QTRY_COMPARE_WITH_TIMEOUT(batch->done(), 4, 30000); // the upgrade still runs
@@ -417,8 +419,8 @@ private Q_SLOTS:
         QTRY_VERIFY(!batch->isRunning());
     }
 
-    /// Two rows share an address: the page finds the first one there, the batch works with the second one.
-    void aStepWaitsForThePageAtItsAddress()
+    /// Two rows share an address: the page uses the first one, the batch the second one.
+    void aStepWaitsForThePageThatUsesItsAddress()
     {
         for (const int slow : {0, 1})
             m_site->site->setFault(m_devices.at(slow).mac,
@@ -435,7 +437,7 @@ private Q_SLOTS:
         m_site->factory->runForScene(
             "dh", m_site->factory->loginStep("dh", "192.168.1.1:37777", "admin", "secret1"), {},
             [&isLoggedIn](const SceneOutcome &) { isLoggedIn = true; });
-        QTRY_VERIFY(!askedMacs("NetLoginSecure").isEmpty()); // the answer does not come yet
+        QTRY_VERIFY(!askedMacs("NetLoginSecure").isEmpty()); // the response is delayed
 
         struct Steps
         {
@@ -462,7 +464,7 @@ private Q_SLOTS:
             };
         };
         const Batch *batch = m_batches->start(std::move(plan));
-        QTRY_COMPARE(begun().size(), 2); // as many as may run at the same time
+        QTRY_COMPARE(begun().size(), 2); // the number that may run at the same time
         QVERIFY(!begun().contains(others.first()));
         m_site->letTimePass();
         QTRY_VERIFY(isLoggedIn);
@@ -471,14 +473,14 @@ private Q_SLOTS:
         QCOMPARE(begun().value(2), others.first());
     }
 
-    void rowsOfOneAddressAreOneDevice_data()
+    void rowsWithTheSameAddressAreOneDevice_data()
     {
         const auto row = dataTable<bool, int>({"isByAddress", "tries"});
         row("reached by address", true, 1);
         row("reached by MAC", false, 2);
     }
 
-    void rowsOfOneAddressAreOneDevice()
+    void rowsWithTheSameAddressAreOneDevice()
     {
         QFETCH(const bool, isByAddress);
         std::atomic<int> tries = 0;
@@ -494,7 +496,7 @@ private Q_SLOTS:
         plan.isByAddress = isByAddress;
         Batch *batch = m_batches->start(std::move(plan));
         QTRY_VERIFY(!batch->isRunning());
-        QTEST(tries.load(), "tries"); // the second one would count towards the lock
+        QTEST(tries.load(), "tries"); // a second attempt would count towards the lock
         QCOMPARE(batch->report()->failed(), 2);
     }
 };

@@ -1,4 +1,4 @@
-// Names of channels and cameras from a pattern.
+// Names of channels and cameras that are generated from a pattern.
 #include "device/batch/nameplan.h"
 #include "tests/datatable.h"
 #include "tests/device/rowsbackend.h"
@@ -8,7 +8,7 @@ class TestNamePlan : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void patternsGiveNames_data()
+    void patternsGenerateNames_data()
     {
         const auto row = dataTable<QString, int, int, QStringList, QString, bool>(
             {"pattern", "start", "digits", "names", "fault", "repeated"});
@@ -16,15 +16,15 @@ private Q_SLOTS:
         row("a number twice", "{n}/{n}", 1, 1, {"1/1", "2/2"}, {}, false);
         row("model and address", "{model}-{ip4}", 1, 1, {"B-2230-IR-8", "B-2230-IR-21"}, {}, false);
         row("the same for all", "Hall", 1, 1, {"Hall", "Hall"}, {}, true);
-        row("nothing", "  ", 1, 1, {"", ""}, QStringLiteral("请输入命名规则"), true);
-        row("an unknown part", "{x}", 1, 1, {"{x}", "{x}"}, QStringLiteral("只能使用 {n}、{model} 和 {ip4}"),
-            true);
+        row("empty", " ", 1, 1, {"", ""}, QStringLiteral("请输入命名规则"), true);
+        row("an unknown placeholder", "{x}", 1, 1, {"{x}", "{x}"},
+            QStringLiteral("只能使用 {n}、{model} 和 {ip4}"), true);
         row("too many bytes", QString(128, QChar(0x5385)), 1, 1,
             {QString(128, QChar(0x5385)), QString(128, QChar(0x5385))},
             QStringLiteral("名称过长，最多 255 字节"), true);
     }
 
-    void patternsGiveNames()
+    void patternsGenerateNames()
     {
         QFETCH(QString, pattern);
         QFETCH(int, start);
@@ -47,8 +47,8 @@ private Q_SLOTS:
         QCOMPARE(plan.checkedIdentities(), cameras);
     }
 
-    /// Its channel 1 shows a camera that has a name already.
-    void aRecorderAmongCamerasIsSkippedAndCountsForNothing()
+    /// Its channel 1 shows a camera that already has a name.
+    void aRecorderAmongCamerasIsSkippedAndNotCounted()
     {
         RowsFactory site;
         site.rows->add({.address = "192.168.1.8", .mac = "m0", .name = "B-2230-IR east"});
@@ -70,7 +70,7 @@ private Q_SLOTS:
         QCOMPARE(plan.names(), QStringList({"C1", "C2"}));
     }
 
-    /// A pattern that is typed on keeps what the user has unticked, and its number.
+    /// Editing the pattern keeps the unticked channels and the numbers of the others.
     void anUntickedChannelGetsNoName()
     {
         RowsFactory site;

@@ -1,5 +1,4 @@
-// Upgrades as batches: what the panel, the rows and the documents say, what stops them, and what their
-// preview tells before.
+// Upgrades as batches: their preview, results in the panel, the rows and the documents, and stops.
 #include "device/batch/batchresultmodel.h"
 #include "device/batch/upgradebatches.h"
 #include "device/batch/upgradepreview.h"
@@ -15,13 +14,13 @@ using sdk::demo::Fault;
 
 namespace {
 
-/// A site whose upgrades are batches.
-class BatchSite : public UpgradeSite
+/// A site with upgrades in batches.
+class UpgradeBatchSite : public UpgradeSite
 {
 public:
-    explicit BatchSite(int count, int atOnce = 4) : UpgradeSite(count), m_atOnce(atOnce) {}
+    explicit UpgradeBatchSite(int count, int atOnce = 4) : UpgradeSite(count), m_atOnce(atOnce) {}
 
-    /// Gives the devices of these places a file and upgrades them.
+    /// Sets a file for the devices with these indexes and upgrades them.
     Batch *begin(const QList<int> &places)
     {
         factory->setUpgradeFiles(family, macs(places), file());
@@ -31,7 +30,7 @@ public:
     {
         return passUntil([this] { return !batches.isRunning() && !factory->hasDeviceUpgrading(); });
     }
-    /// What the panel says of the devices of the last batch, the failed ones first.
+    /// The panel's rows of the last batch, failed devices first.
     [[nodiscard]] QStringList panel() const
     {
         BatchResultModel model;
@@ -54,7 +53,7 @@ public:
                             }};
 };
 
-/// What a preview shows of each device.
+/// The preview's row of each device.
 QStringList rowsOf(const UpgradePreview &preview)
 {
     QStringList rows;
@@ -63,7 +62,7 @@ QStringList rowsOf(const UpgradePreview &preview)
     return rows;
 }
 
-/// Why a document cannot be used, when it has been read.
+/// The reason why a document cannot be used, after it has been read.
 QString refusalOf(UpgradePreview &preview, const QString &path)
 {
     QSignalSpy read(&preview, &UpgradePreview::documentRead);
@@ -77,7 +76,7 @@ class TestUpgradeBatches : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    /// A retry of the batch is offered for what the page's own retry takes, too.
+    /// A retry of the batch is also offered for the devices of the page's retry.
     void resultsKeepTheirMeaning()
     {
         const auto results = QMetaEnum::fromType<UpgradeTools::Result>();
@@ -90,10 +89,10 @@ private Q_SLOTS:
         }
     }
 
-    /// As its preview announces: it has not failed.
+    /// As announced by the preview, this is not a failure.
     void aDeviceWithoutAPasswordIsSkipped()
     {
-        BatchSite test(2);
+        UpgradeBatchSite test(2);
         const QSignalSpy ended(&test.upgrades, &UpgradeBatches::ended);
         test.factory->updataDeviceInfo(test.family, "state", false, test.mac(1), "192.168.1.12:37777");
         QVERIFY(test.begin({0, 1}));
@@ -105,9 +104,9 @@ private Q_SLOTS:
         QCOMPARE(test.batches.failedMarks()->count(), 0);
     }
 
-    void everyDeviceHasItsResult()
+    void everyDeviceGetsItsResult()
     {
-        BatchSite test(6);
+        UpgradeBatchSite test(6);
         const QSignalSpy ended(&test.upgrades, &UpgradeBatches::ended);
         test.site->setFault(test.mac(1), {Fault::UpgradeFailsAt, 50});
         test.site->setFault(test.mac(2), {Fault::WrongPassword});
@@ -119,9 +118,9 @@ private Q_SLOTS:
         Batch *batch = test.upgrades.start("Upgrade", test.macs(listed));
         QVERIFY(batch);
         QVERIFY(UpgradeTools::isRunning(test.result(0)));
-        QCOMPARE(test.upgrades.start("Upgrade", test.macs({0})), nullptr); // one at a time
+        QCOMPARE(test.upgrades.start("Upgrade", test.macs({0})), nullptr); // only one batch at a time
         QVERIFY(test.passUntil([&] { return batch->done() == 5; }));
-        QCOMPARE_GT(batch->progress(), 5.0 / 6); // the last one is on its way
+        QCOMPARE_GT(batch->progress(), 5.0 / 6); // the last device is running
         QCOMPARE_LT(batch->progress(), 1);
         QVERIFY(test.passUntilDone());
         QCOMPARE(test.panel(),
@@ -148,19 +147,20 @@ private Q_SLOTS:
         QCOMPARE(test.batches.failedMarks()->count(), 3);
     }
 
-    void aStopLeavesDevicesThatWrite()
+    void aStopDoesNotInterruptWritingDevices()
     {
-        BatchSite test(5, 3);
+        UpgradeBatchSite test(5, 3);
         for (const int place : {1, 2})
             test.site->setFault(test.mac(place), {Fault::UpgradeTakes, 60});
         Batch *batch = test.begin({0, 1, 2, 3, 4});
         QVERIFY(batch);
         QVERIFY(test.passUntil([&] { return test.result(0) == UpgradeTools::Writing; }));
-        test.factory->stopUpgrade(test.family, test.mac(1)); // one alone
+        test.factory->stopUpgrade(test.family, test.mac(1)); // a single device
         QVERIFY(test.passUntil([&] { return batch->done() == 1; }));
-        QVERIFY(test.passUntil([&] { return test.result(3) == UpgradeTools::Sending; })); // in its place
+        QVERIFY(test.passUntil(
+            [&] { return test.result(3) == UpgradeTools::Sending; })); // the next device starts
         batch->stop();
-        QCOMPARE(test.text(4), "已停止，设备未改动"); // at once
+        QCOMPARE(test.text(4), "已停止，设备未改动"); // immediately
         QVERIFY(test.passUntilDone());
         QCOMPARE(test.panel(),
                  QStringList({"192.168.1.12:37777|未执行：已停止，设备未改动",
@@ -175,14 +175,15 @@ private Q_SLOTS:
         }
     }
 
-    void wrongPasswordsHoldABatch()
+    void wrongPasswordsPauseABatch()
     {
-        BatchSite test(8, 1);
+        UpgradeBatchSite test(8, 1);
         for (int place = 0; place < 6; ++place)
             test.site->setFault(test.mac(place), {Fault::WrongPassword});
         const QList<int> all = {0, 1, 2, 3, 4, 5, 6, 7};
         test.factory->setUpgradeFiles(test.family, test.macs(all), test.file());
-        test.factory->setUpgradeFilePath(test.family, test.mac(2), {}); // says nothing about the password
+        test.factory->setUpgradeFilePath(test.family, test.mac(2),
+                                         {}); // does not mean that the password is correct
         Batch *batch = test.upgrades.start("Upgrade", test.macs(all));
         QVERIFY(batch);
         QVERIFY(test.passUntil([&] { return batch->isHeld(); }));
@@ -193,9 +194,9 @@ private Q_SLOTS:
         QCOMPARE(batch->report()->succeeded(), 2);
     }
 
-    void rowsOfOneAddressAreUpgradedOneAfterAnother()
+    void rowsWithTheSameAddressAreUpgradedInSequence()
     {
-        BatchSite test(2);
+        UpgradeBatchSite test(2);
         test.store->changeRow(test.mac(0),
                               [&](QJsonObject &row) { row.insert(DeviceRowKey::ipport, test.ipport(1)); });
         test.site->setFault(test.mac(1), {Fault::WrongPassword});
@@ -203,13 +204,14 @@ private Q_SLOTS:
         QVERIFY(test.passUntilDone());
         QCOMPARE(test.batches.current()->report()->devicesWith(resultCode(LoginResult::WrongPassword)),
                  test.macs({0, 1}));
-        QCOMPARE(test.site->requests().of("NetLoginSecure").size(), 1); // a second try could lock the account
-        QCOMPARE(test.result(1), UpgradeTools::WrongPassword);          // the page's retry leaves it out
+        QCOMPARE(test.site->requests().of("NetLoginSecure").size(),
+                 1);                                           // a second attempt could lock the account
+        QCOMPARE(test.result(1), UpgradeTools::WrongPassword); // the page's retry skips it
     }
 
-    void aDocumentsChosenLinesAreUpgraded()
+    void theSelectedLinesOfADocumentAreUpgraded()
     {
-        BatchSite test(4);
+        UpgradeBatchSite test(4);
         test.store->removeRows({test.mac(1)}); // a document may name devices that are not in the list
         test.factory->setDefaultAccount(test.family, "admin", "other");
         const QString file = test.file();
@@ -233,7 +235,7 @@ private Q_SLOTS:
                               "192.168.1.13:37777|密码错误", "nowhere:37777|数据无效：IP或端口填写错误",
                               "192.168.1.11:37777|成功：2.840.1 → 2.900.0"}));
 
-        // A retry has the account of the document, also where the list does not have the device.
+        // A retry uses the account of the document, even for devices that are not listed.
         test.site->clearFault(test.mac(1), Fault::UpgradeFailsAt);
         QVERIFY(test.batches.retry(batch));
         QVERIFY(test.passUntilDone());
@@ -246,9 +248,9 @@ private Q_SLOTS:
                               "IP或端口填写错误"}));
     }
 
-    void aDocumentThatIsStoppedIsWritten()
+    void resultsOfAStoppedDocumentAreWritten()
     {
-        BatchSite test(2, 1);
+        UpgradeBatchSite test(2, 1);
         const QString path = test.workbook(
             {{test.address(0), {}, {}, {}, test.file()}, {test.address(1), {}, {}, {}, test.file()}});
         const QSignalSpy ended(&test.upgrades, &UpgradeBatches::documentEnded);
@@ -261,9 +263,9 @@ private Q_SLOTS:
         QCOMPARE(test.resultsOf(path, 2), QStringList(2, "已停止，设备未改动"));
     }
 
-    void rowsAreToldOfTogether()
+    void changesOfRowsAreReportedTogether()
     {
-        BatchSite test(1);
+        UpgradeBatchSite test(1);
         QStringList names;
         for (int place = 0; place < 600; ++place) {
             names.append(QStringLiteral("02:%1").arg(place));
@@ -276,35 +278,35 @@ private Q_SLOTS:
         QVERIFY(test.upgrades.start("Upgrade", names));
         QCOMPARE(lists.size(), 1);
         QVERIFY(test.passUntil([&] { return !rows.isEmpty(); }));
-        QVERIFY(rows.first().first().toStringList().size() < 100); // those that have run
+        QVERIFY(rows.first().first().toStringList().size() < 100); // completed devices only
         test.batches.current()->stop();
         QVERIFY(test.passUntilDone());
         QCOMPARE(lists.size(), 2);
     }
 
-    void aFileIsLookedAtOnceForAll_data()
+    void aFileIsReadOnceForAllDevices_data()
     {
-        const auto row = dataTable<QByteArray, QString, QString>({"content", "name", "told"});
+        const auto row = dataTable<QByteArray, QString, QString>({"content", "name", "message"});
         row("good", UpgradeSite::firmware, "good.bin", QString());
         row("damaged", "BRELM-FIRMWARE 1\nversion", "damaged.bin", "damaged.bin：升级文件已损坏");
         row("fits none", "bytes", "C-1_2.9.bin", "C-1_2.9.bin：升级文件不适用于此型号");
         row("fits one", "bytes", "D-1_2.9.bin", "1 台设备不能用此文件升级，请查看结果");
     }
 
-    void aFileIsLookedAtOnceForAll()
+    void aFileIsReadOnceForAllDevices()
     {
         QFETCH(QByteArray, content);
         QFETCH(QString, name);
-        BatchSite test(2);
+        UpgradeBatchSite test(2);
         if (name.startsWith("D-1"))
             test.store->changeRow(test.mac(1),
                                   [](QJsonObject &row) { row.insert(DeviceRowKey::model, "D-1"); });
-        QTEST(test.upgrades.chooseFile(test.macs({0, 1}), test.file(content, name)), "told");
+        QTEST(test.upgrades.chooseFile(test.macs({0, 1}), test.file(content, name)), "message");
     }
 
-    void thePreviewSaysWhatHappens()
+    void thePreviewShowsEachDevice()
     {
-        BatchSite test(6);
+        UpgradeBatchSite test(6);
         const auto change = [&](int place, QLatin1StringView key, const QJsonValue &value) {
             test.store->changeRow(test.mac(place), [&](QJsonObject &row) { row.insert(key, value); });
         };
@@ -341,7 +343,7 @@ private Q_SLOTS:
         QCOMPARE(refusalOf(preview, test.workbook({}, "empty.xlsx")), "文档中没有设备");
         QCOMPARE(refusalOf(preview, test.file()), "文件打开失败");
 
-        // Of two documents that are read at the same time only the later one counts.
+        // If two documents are read at the same time, only the later one is used.
         const QSignalSpy read(&preview, &UpgradePreview::documentRead);
         preview.readDocument(test.file());
         QCOMPARE(refusalOf(preview, path), QString());
@@ -349,10 +351,10 @@ private Q_SLOTS:
         QVERIFY(!test.factory->busyState()->areRowsHeld());
     }
 
-    /// Also when a device does not answer.
-    void theProgramEndsWithinASecond()
+    /// This also applies if a device does not respond.
+    void closingTakesLessThanASecond()
     {
-        BatchSite test(4, 3);
+        UpgradeBatchSite test(4, 3);
         test.site->setFault(test.mac(0), {Fault::UpgradeTakes, 60});
         test.site->setFault(test.mac(3), {Fault::NoAnswer});
         QVERIFY(test.begin({0, 1, 2, 3}));
@@ -360,7 +362,7 @@ private Q_SLOTS:
         test.factory->stopUpgrade(test.family, test.mac(0));
         QVERIFY(test.passUntil([&] { return test.result(3) == UpgradeTools::Preparing; })); // logs in
         QVERIFY(test.factory->busyState()->refusal(BusyState::Close) != QString());
-        QCOMPARE(test.factory->busyState()->refusal(BusyState::Delete), QString()); // of other rows
+        QCOMPARE(test.factory->busyState()->refusal(BusyState::Delete), QString()); // for other rows
         QElapsedTimer time;
         time.start();
         QTest::ignoreMessage(

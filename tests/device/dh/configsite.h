@@ -35,17 +35,16 @@ inline QString ipportOf(const sdk::demo::SceneDevice &device)
     return QStringLiteral("%1:%2").arg(device.address).arg(device.port);
 }
 
-/// The site's library, with devices that do not respond to a request to read one item, and a gate that
-/// requests for a new password wait at.
+/// The site's network library with faults: an item that is not read, failed writes, and a gate for password
+/// changes.
 class SilentNetLibrary : public sdk::demo::DemoNetLibrary
 {
 public:
     using DemoNetLibrary::DemoNetLibrary;
 
-    int silentItem = 0; ///< 0 for none
-    std::unique_ptr<QSemaphore>
-        passwordGate; ///< lets one request through for each of its resources; null for all
-    std::atomic<int> passwordsAtGate = 0; ///< requests that have come to it
+    int silentItem = 0;                       ///< 0 for none
+    std::unique_ptr<QSemaphore> passwordGate; ///< each resource admits one request; null: all pass
+    std::atomic<int> passwordsAtGate = 0;     ///< requests that have reached the gate
 
     bool NetModifyPassword(std::int64_t loginHandle, const sdk::ModifyPasswordInput &input,
                            std::chrono::milliseconds wait) override
@@ -56,7 +55,8 @@ public:
         return DemoNetLibrary::NetModifyPassword(loginHandle, input, wait);
     }
 
-    std::function<void(sdk::EncodeCapabilities &)> changeEncodeCapabilities; ///< of every device; or null
+    std::function<void(sdk::EncodeCapabilities &)>
+        changeEncodeCapabilities; ///< called for every device; may be null
 
     bool NetQueryCapabilities(std::int64_t loginHandle, sdk::CapabilityQuery query, const void *input,
                               void *output, std::chrono::milliseconds wait) override
@@ -67,8 +67,9 @@ public:
         return isAnswered;
     }
 
-    std::function<void()> beforeWriting;            ///< of an item; null for nothing
-    sdk::NetError writeError = sdk::NetError::None; ///< of an item; None: as the device answers
+    std::function<void()> beforeWriting; ///< called before an item is written; may be null
+    sdk::NetError writeError =
+        sdk::NetError::None; ///< reported for written items; None: the device's own error
 
     bool NetSetItem(std::int64_t loginHandle, std::uint32_t item, std::int32_t channel, const void *block,
                     std::uint32_t blockSize, std::chrono::milliseconds wait) override
@@ -94,7 +95,7 @@ public:
     }
 
 private:
-    bool m_isSilent = false; ///< at the last request for an item
+    bool m_isSilent = false; ///< at the last read of an item
 };
 
 class ConfigSite
@@ -118,7 +119,7 @@ public:
         factory->setDefaultAccount(QStringLiteral("dh"), QStringLiteral("admin"), QStringLiteral("secret1"));
     }
 
-    /// Stops the time: who waits for a device waits until it goes on.
+    /// Stops the clock: waits for devices do not end until letTimePass().
     void stopTime() { m_time.reset(); }
     void letTimePass() { m_time = std::make_unique<FlowingClock>(*m_clock); }
     [[nodiscard]] sdk::demo::SteppableClock &clock() const { return *m_clock; }
@@ -135,7 +136,7 @@ public:
     {
         return factory->getConfigData(QStringLiteral("dh"), key);
     }
-    /// What the page shows for several keys.
+    /// The values of several keys, separated by bars.
     [[nodiscard]] QString shown(const QString &keys) const
     {
         QVariantMap values;
@@ -175,7 +176,7 @@ public:
     }
 
 private:
-    // First, so that it outlives what takes its time from it.
+    // Declared first because the objects below use it.
     std::shared_ptr<sdk::demo::SteppableClock> m_clock = std::make_shared<sdk::demo::SteppableClock>();
 
 public:
@@ -186,6 +187,6 @@ public:
     std::unique_ptr<CDeviceFactory> factory;
 
 private:
-    std::unique_ptr<FlowingClock> m_time =
-        std::make_unique<FlowingClock>(*m_clock); // ends first: then nobody waits any more
+    std::unique_ptr<FlowingClock> m_time = std::make_unique<FlowingClock>(
+        *m_clock); // destroyed last: waits of the objects above end while it runs
 };

@@ -1,4 +1,4 @@
-// What the tests of the factory on a simulated site keep.
+// A simulated site and the factory that uses it.
 #pragma once
 
 #include "device/dh/devicedh.h"
@@ -12,7 +12,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-/// A base of test classes. Time passes on the site whenever somebody waits for it.
+/// Base class of tests. The site's clock advances whenever a thread waits for it.
 class FactorySite
 {
 protected:
@@ -32,7 +32,7 @@ protected:
         m_site = sdk::demo::DemoSite::open(sceneName, m_clock, nullptr);
         makeFactory();
     }
-    /// The factory ends while time passes, so that nobody waits any more.
+    /// Destroys the factory while the clock runs, so that no wait blocks it.
     void closeSite()
     {
         m_factory.reset();
@@ -46,7 +46,7 @@ protected:
         QVERIFY(done.wait(20000));
     }
 
-    /// The row of a device as the pages see it.
+    /// The row of a device; empty if it is not listed.
     [[nodiscard]] QJsonObject row(const QString &mac) const
     {
         for (const QVariant &value : m_factory->filterData("dh", "nofilter")) {
@@ -65,7 +65,7 @@ protected:
     std::shared_ptr<DeviceStore> m_store;
     std::unique_ptr<CDeviceFactory> m_factory;
     std::unique_ptr<FlowingClock> m_time;
-    AccountChoice::Stored m_storedAccounts; ///< for the next site
+    AccountChoice::Stored m_storedAccounts; ///< used by the next site
 
 private:
     void makeFactory()

@@ -1,11 +1,11 @@
-// A stepped clock that passes by itself.
+// A stepped clock that advances by itself.
 #pragma once
 
 #include "sdk/demo/steppableclock.h"
 
 #include <thread>
 
-/// Moves a stepped clock on whenever somebody waits for it, as time does.
+/// Advances a stepped clock on a separate thread whenever a thread waits for it.
 class FlowingClock
 {
 public:

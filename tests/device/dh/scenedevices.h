@@ -3,7 +3,7 @@
 
 #include "sdk/demo/scene/scene.h"
 
-/// An initialised device with one account, "admin" with the password "secret1".
+/// An initialised device with the account "admin" and the password "secret1".
 inline sdk::demo::SceneDevice sceneDevice(const QString &mac, const QString &address,
                                           const QString &type = QStringLiteral("IPC"))
 {

@@ -10,11 +10,11 @@ const QString camera = QStringLiteral("02:1a:c5:00:00:01");
 const QString newCamera = QStringLiteral("02:1a:c5:00:00:02");
 const QString recorder = QStringLiteral("02:1a:c5:00:00:03");
 
-/// Accepts every login, as a device of one kind.
-class OneKindLibrary : public QuietNetLibrary
+/// Accepts every login as a device of one type.
+class OneTypeLibrary : public QuietNetLibrary
 {
 public:
-    explicit OneKindLibrary(int typeCode) : m_typeCode(static_cast<std::uint8_t>(typeCode)) {}
+    explicit OneTypeLibrary(int typeCode) : m_typeCode(static_cast<std::uint8_t>(typeCode)) {}
     std::int64_t NetLogin(const char *, std::int32_t, const char *, const char *, std::int32_t, void *,
                           sdk::LoginDeviceInformation &device, std::int32_t &) override
     {
@@ -28,7 +28,7 @@ private:
 
 } // namespace
 
-/// What the scene asks of devices, on a simulated site.
+/// Operations that QML requests of the back end, on a simulated site.
 class TestDeviceDH : public QObject, private FactorySite
 {
     Q_OBJECT
@@ -46,7 +46,7 @@ private Q_SLOTS:
 
     void cleanup() { closeSite(); }
 
-    void aLoginMakesARow()
+    void aLoginAddsARow()
     {
         QSignalSpy added(m_factory.get(), &CDeviceFactory::signalAddSingleDeviceToTable);
         QCOMPARE(m_factory->getLoginDevice("dh", "192.168.1.12", "admin", "secret1", "37777"), 0);
@@ -59,7 +59,7 @@ private Q_SLOTS:
         QCOMPARE(m_factory->getDeviceDetail("dh", recorder).value("submask").toString(), "255.255.255.0");
     }
 
-    void codesOfKindsHaveTheirWords()
+    void typeCodesHaveTheirNames()
     {
         const QMap<int, QString> words = {{19, "SD"},  {20, "IPC"},  {29, "SVR"},   {30, "SVR"},
                                           {31, "NVR"}, {0, "Other"}, {18, "Other"}, {255, "Other"}};
@@ -67,7 +67,7 @@ private Q_SLOTS:
         request.address = "192.168.1.10";
         for (auto word = words.cbegin(); word != words.cend(); ++word) {
             sdk::SdkLibraries libraries;
-            libraries.net = std::make_shared<OneKindLibrary>(word.key());
+            libraries.net = std::make_shared<OneTypeLibrary>(word.key());
             QCOMPARE(loginForRow(libraries, request).row.value("type").toString(), word.value());
         }
     }
@@ -92,7 +92,7 @@ private Q_SLOTS:
         QTEST(row(recorder).value("httpport").toInt(), "webPort");
     }
 
-    void aNewAddressIsWhereTheDeviceAnswersNext()
+    void aDeviceRespondsAtItsNewAddress()
     {
         m_site->changeDevice(camera,
                              [](sdk::demo::SceneDevice &device, const auto &) { device.dhcp = true; });
@@ -107,7 +107,7 @@ private Q_SLOTS:
         QCOMPARE(m_factory->getDeviceDetail("dh", camera).value("gateway").toString(), "192.168.1.254");
     }
 
-    void addressesAreNotSentWhereTheyMustNotBe()
+    void invalidAddressChangesAreNotSent()
     {
         search();
         m_factory->modifyIP("dh", newCamera, "192.168.1.78", "255.255.255.0", "192.168.1.1", false);
@@ -122,9 +122,9 @@ private Q_SLOTS:
         QCOMPARE(row(camera).value("res").toInt(), 0);
         QCOMPARE(row(camera).value("ipport").toString(), ":37777");
         const auto changes = m_site->requests().of("NetModifyDeviceBySearch");
-        QCOMPARE(changes.last().request.value("address"), "192.168.1.79"); // as the device has it now
+        QCOMPARE(changes.last().request.value("address"), "192.168.1.79"); // the device's current address
         QVERIFY(m_site->device(camera)->dhcp);
-        // Until they are found again they are known by their MACs alone, and share no address.
+        // Until a search finds them, they are identified by their MACs and are not in conflict.
         DeviceTableModel table;
         table.setDeviceFactory(m_factory.get());
         QCOMPARE(table.conflictCount(), 0);
@@ -137,7 +137,7 @@ private Q_SLOTS:
         QCOMPARE(row(recorder).value("ipport").toString(), m_site->device(recorder)->address + ":37777");
     }
 
-    void aFirstPasswordIsThePassword()
+    void aFirstPasswordIsRequiredAfterwards()
     {
         search();
         QVERIFY(!row(newCamera).value("state").toBool());
@@ -149,19 +149,20 @@ private Q_SLOTS:
         QCOMPARE(m_factory->getLoginDevice("dh", "192.168.1.11", "admin", "first-2", "37777"), 2);
         QCOMPARE(m_factory->getLoginDevice("dh", "192.168.1.11", "admin", "first-1", "37777"), 0);
 
-        m_factory->setInitAccount("dh", camera, "admin", "first-1"); // has a password already
+        m_factory->setInitAccount("dh", camera, "admin", "first-1"); // already has a password
         QVERIFY(row(camera).value("res").toInt() > 0);
     }
 
-    void workIsSeenWithoutASearch()
+    void rowsAreUpdatedWithoutASearch()
     {
         search();
         m_factory->setInitAccount("dh", newCamera, "admin", "first-1");
         m_factory->modifyIP("dh", newCamera, "192.168.1.78", "255.255.255.0", "192.168.1.1", false);
-        QCOMPARE(row(newCamera).value("res").toInt(), 7); // the row still says that it has no password
+        QCOMPARE(row(newCamera).value("res").toInt(), 7); // the row still shows an uninitialised device
         m_factory->updataDeviceInfo("dh", "username", "installer", newCamera, "");
         m_site->changeDevice(newCamera, [](auto &device, const auto &) { device.name = "West gate"; });
-        // Another device has the address of one that is gone: its response does not pass for that one's.
+        // The camera is removed and another device has its address: the response of that device is not the
+        // camera's.
         const QJsonObject lost = row(camera);
         const QJsonObject other = row(recorder);
         m_site->removeDevice(camera);
@@ -177,14 +178,14 @@ private Q_SLOTS:
         m_factory->modifyIP("dh", newCamera, "192.168.1.78", "255.255.255.0", "192.168.1.1", false);
         QCOMPARE(row(newCamera).value("res").toInt(), 0);
         QVERIFY(m_site->requests().waitFor("NetSearchDevicesByIPsEx", 2));
-        m_factory->refreshDevices("dh", {newCamera}); // ends after the rest of the first one
+        m_factory->refreshDevices("dh", {newCamera}); // ends after the first refresh
         QVERIFY(m_site->requests().waitFor("NetSearchDevicesByIPs", 3));
         QCOMPARE(row(newCamera).value("ipport").toString(), "192.168.1.78:37777");
         QCOMPARE(row(camera), lost);
-        QCOMPARE(row(recorder), other); // it was not asked
+        QCOMPARE(row(recorder), other); // it was not queried
     }
 
-    void aStepDoesNotSucceedWithoutASearchAnswer()
+    void anUnknownDeviceIsNotChanged()
     {
         const QString unknown = "02:1a:c5:ff:ff:ff";
         const int notSupported = 12;
@@ -196,10 +197,10 @@ private Q_SLOTS:
             notSupported);
     }
 
-    void aDeviceThatHasMovedIsFoundByItsMac()
+    void aMovedDeviceIsFoundByItsMac()
     {
         search();
-        m_factory->modifyIP("dh", recorder, {}, {}, {}, true); // the row has no address now
+        m_factory->modifyIP("dh", recorder, {}, {}, {}, true); // the row has no address afterwards
         const auto move = [this](const QString &mac, const QString &address) {
             m_site->changeDevice(mac, [&address](auto &device, const auto &) { device.address = address; });
         };
@@ -210,17 +211,17 @@ private Q_SLOTS:
         QTRY_COMPARE(row(recorder).value("ipport").toString().section(':', 0, 0), "192.168.1.67");
     }
 
-    void aLoginThroughATunnelIsOfAKindOfItsOwn()
+    void aLoginThroughATunnelHasASeparateMode()
     {
         m_factory->findAndLoginDevice("dh", "192.168.1.10:37777", "admin", "secret1");
-        m_factory->findAndLoginDevice("dh", "127.0.0.1:20001", "admin", "secret1"); // leads nowhere
+        m_factory->findAndLoginDevice("dh", "127.0.0.1:20001", "admin", "secret1"); // no tunnel ends there
         const auto logins = m_site->requests().of("NetLoginSecure");
         QCOMPARE(logins.at(0).request.value("mode").toInt(), 0);
         QCOMPARE(logins.at(1).request.value("mode").toInt(), 19);
     }
 
-    /// A page that works on the session does not notice that another one looks whether a password is right.
-    void aCheckedLoginLeavesTheSession()
+    /// A page that uses the session is not affected when another page checks a password.
+    void aPasswordCheckKeepsTheSession()
     {
         QSignalSpy result(m_factory.get(), &CDeviceFactory::signalHighLevelLoginRet);
         QCOMPARE(m_factory->findAndLoginDevice("dh", "192.168.1.10:37777", "admin", "secret1"), 0);
@@ -232,9 +233,9 @@ private Q_SLOTS:
         QCOMPARE(m_factory->checkLogin("none", "192.168.1.12:37777", "admin", "wrong"), 0);
     }
 
-    void faultsEndInRowsAndResults_data()
+    void faultsAreReportedInRowsAndResults_data()
     {
-        // name: of the result that is no success
+        // name: of the result that is not a success
         const auto row = dataTable<QString, int, int, QString>({"mac", "login", "modification", "name"});
         row("wrong password", "02:1a:c5:00:4c:7c", 2, 0, "密码错误");
         row("account locked", "02:1a:c5:00:4c:a1", 3, 0, "账号被锁定");
@@ -243,8 +244,8 @@ private Q_SLOTS:
         row("refuses a new address", "02:1a:c5:00:4d:82", 0, 999, "设备拒绝了此操作");
     }
 
-    /// Each fault of a login and of a modification, by its code and by the name that the user reads.
-    void faultsEndInRowsAndResults()
+    /// Each fault has its result code in the row, and a name for the user.
+    void faultsAreReportedInRowsAndResults()
     {
         QFETCH(QString, mac);
         QFETCH(int, login);
@@ -261,8 +262,8 @@ private Q_SLOTS:
         const QString password = m_site->device(mac)->accounts.value(0).password;
         QCOMPARE(tryToLogIn(password), login);
         if (login == 3)
-            QCOMPARE(tryToLogIn(password), login); // it stays locked
-        // A check of a listed device knows what a login by hand does not: that it has no password yet.
+            QCOMPARE(tryToLogIn(password), login); // the account remains locked
+        // A check of a listed device detects that it is not initialised; a login by address does not.
         const QString ipport = address + ':' + port;
         QCOMPARE(m_factory->checkLogin("dh", ipport, "admin", password), login == 12 ? 7 : login);
         m_factory->modifyIP("dh", mac, "192.168.1.250", "255.255.255.0", "192.168.1.1", false);
@@ -271,10 +272,10 @@ private Q_SLOTS:
         const QString refuses = QStringLiteral("02:1a:c5:00:4d:5d");
         m_factory->setInitAccount("dh", refuses, "admin", "first-1");
         QCOMPARE(row(refuses).value("res").toInt(), 999);
-        QVERIFY(row("02:1a:c5:00:4c:0d").isEmpty()); // the one that never answers
+        QVERIFY(row("02:1a:c5:00:4c:0d").isEmpty()); // the device that never responds
     }
 
-    void aBrokenTunnelIsSeen()
+    void aBrokenTunnelIsReported()
     {
         QCOMPARE(m_factory->getLoginDevice("dh", "192.168.1.12", "admin", "secret1", "37777"), 0);
         QVERIFY(m_factory->updataDeviceInfo("dh", "ipport", "127.0.0.1:20001", recorder, ""));
@@ -286,7 +287,8 @@ private Q_SLOTS:
         QCOMPARE(broken.first(), QVariantList({"OV1", 20001}));
         QCOMPARE(row(recorder).value("res").toInt(), 5);
         m_factory.reset();
-        CDeviceDH::agentMessage(sdk::P2PAgentEvent::TunnelBroken, "OV1", 20001, nullptr); // nobody listens
+        CDeviceDH::agentMessage(sdk::P2PAgentEvent::TunnelBroken, "OV1", 20001,
+                                nullptr); // there is no factory
     }
 };
 

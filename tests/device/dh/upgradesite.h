@@ -18,7 +18,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-/// `count` cameras at 192.168.1.11 and on, each with its row.
+/// `count` cameras from 192.168.1.11 on, each with a row.
 class UpgradeSite
 {
 public:
@@ -49,7 +49,7 @@ public:
     {
         schedule.reset();
         ends.reset();
-        const FlowingClock time(*clock); // a login on its way takes its time
+        const FlowingClock time(*clock); // lets a running login end
         factory.reset();
     }
 
@@ -76,7 +76,7 @@ public:
         return macs;
     }
 
-    /// Starts the upgrade of the devices of these places.
+    /// Starts the upgrade of the devices with these indexes.
     void start(const QList<int> &places, const QString &path) const
     {
         factory->setUpgradeFiles(family, macs(places), path);
@@ -101,7 +101,7 @@ public:
         return isWritten && excel.saveAs(path) ? path : QString();
     }
 
-    /// What a workbook has for its first rows.
+    /// The results in the first `rows` rows of a workbook.
     [[nodiscard]] static QStringList resultsOf(const QString &path, int rows)
     {
         QExcel excel;
@@ -120,7 +120,7 @@ public:
     [[nodiscard]] QString text(int place) const { return value(place, DeviceRowKey::upgradetext).toString(); }
     [[nodiscard]] int percent(int place) const { return value(place, DeviceRowKey::upgrade).toInt(-99); }
 
-    /// Lets the time pass until `isThere` is true.
+    /// Advances the clock until `isThere` returns true. False after a minute.
     template<typename Condition>
     [[nodiscard]] bool passUntil(const Condition &isThere) const
     {

@@ -17,10 +17,10 @@ class TestBusyState : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void aRefusalNamesTheWorksInTheWay_data()
+    void aRefusalNamesTheRunningOperations_data()
     {
-        // named: while one work needs rows, the other the program
-        // namedLater: when only the latter is left
+        // named: while one operation uses the rows and another the application
+        // namedLater: while only the latter runs
         const auto row = dataTable<BusyState::Action, QStringList, QStringList, bool>(
             {"action", "named", "namedLater", "waitsForUpgrades"});
         row("search", BusyState::Search, copying, nothing, true);
@@ -29,7 +29,7 @@ private Q_SLOTS:
         row("close", BusyState::Close, both, both.sliced(1), true);
         row("restart", BusyState::Restart, both, both.sliced(1), true);
     }
-    void aRefusalNamesTheWorksInTheWay()
+    void aRefusalNamesTheRunningOperations()
     {
         QFETCH(BusyState::Action, action);
         QFETCH(QStringList, named);
@@ -60,23 +60,23 @@ private Q_SLOTS:
         QCOMPARE(!state.refusal(action).isEmpty(), waitsForUpgrades);
     }
 
-    void aSearchAndUnsavedInputAreInTheWayOfSomeActions_data()
+    void aSearchAndUnsavedInputBlockSomeActions_data()
     {
         const auto row = dataTable<BusyState::Action, bool, bool>({"action", "waitsForSearch", "losesEdits"});
-        row("search", BusyState::Search, false, false); // the running one is ended first
+        row("search", BusyState::Search, false, false); // a running search is stopped first
         row("delete", BusyState::Delete, false, false);
         row("change an address", BusyState::ChangeAddress, false, false);
         row("close", BusyState::Close, true, true);
         row("restart", BusyState::Restart, true, true);
         row("change the tab", BusyState::ChangeTab, false, true);
     }
-    void aSearchAndUnsavedInputAreInTheWayOfSomeActions()
+    void aSearchAndUnsavedInputBlockSomeActions()
     {
         QFETCH(BusyState::Action, action);
         QFETCH(bool, waitsForSearch);
         BusyState state({});
         const int edits = state.begin(QStringLiteral("page"), BusyState::Edits);
-        QCOMPARE(state.refusal(action), QString()); // the user is asked instead
+        QCOMPARE(state.refusal(action), QString()); // QML asks the user instead
         QTEST(state.losesEdits(action), "losesEdits");
         const int search = state.begin(QStringLiteral("searching"), BusyState::Listing);
         QCOMPARE(state.refusal(action).contains(QStringLiteral("Esc")), waitsForSearch);
@@ -91,7 +91,7 @@ private Q_SLOTS:
         QCOMPARE(state.refusal(action), QString());
     }
 
-    void aReportEndsItsWorkWhateverHappens()
+    void aDestroyedReportEndsItsOperation()
     {
         BusyState state({});
         auto report = std::make_unique<BusyReport>();
@@ -104,14 +104,14 @@ private Q_SLOTS:
 
         report->setActive(true);
         QSignalSpy changes(&state, &BusyState::changed);
-        report->setTitle(both.last()); // meanwhile the rows must not be free for a moment
+        report->setTitle(both.last()); // the rows must remain reserved without a gap
         QCOMPARE(changes.count(), 0);
         QVERIFY(state.refusal(BusyState::Search).contains(both.last()));
         report.reset();
         QVERIFY(!state.areRowsHeld());
     }
 
-    void aNameThatABatchListsTwiceStandsForTwoDevices()
+    void aDeviceListedTwiceCountsAsTwo()
     {
         BatchReport report;
         report.begin({"1", "2", "1", "3", "5"});
@@ -128,7 +128,7 @@ private Q_SLOTS:
         QVERIFY(report.summaryOfRunning().endsWith(QStringLiteral("1 台设备等待执行")));
     }
 
-    void aSearchLeavesRowsThatAreNeeded()
+    void noSearchStartsWhileRowsAreUsed()
     {
         struct SearchingBackEnd : RowsBackEnd
         {
@@ -143,7 +143,7 @@ private Q_SLOTS:
         const int work = factory.busyState()->begin(copying.first(), BusyState::Rows);
         factory.startSearch(QStringLiteral("dh"));
         QCOMPARE(backEnd->searches, 0);
-        QCOMPARE(ends.count(), 1); // who has asked does not wait for ever
+        QCOMPARE(ends.count(), 1); // the caller does not wait forever
         factory.busyState()->end(work);
         factory.startSearch(QStringLiteral("dh"));
         QCOMPARE(backEnd->searches, 1);

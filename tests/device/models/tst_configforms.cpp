@@ -1,4 +1,4 @@
-// What the configuration pages show of values that a back end gives, good ones and bad ones.
+// The configuration forms with valid and invalid values of a back end.
 #include "device/models/cameraform.h"
 #include "device/models/encodeform.h"
 #include "device/registry/devicebase.h"
@@ -57,11 +57,11 @@ private Q_SLOTS:
                              {"bitRate", 2048}};
     }
 
-    void whatWasTakenAtASavingNoLongerCounts()
+    void savedSettingsAreNoLongerCountedAsChanged()
     {
         EncodeForm form;
         form.setDeviceFactory(&m_factory);
-        form.set("curEncodeMode", "H.264 B"); // with its profile
+        form.set("curEncodeMode", "H.264 B"); // together with its profile
         form.set("frameRate", 10);
         form.set("subFrameRate", 10);
         form.set("curSamplingFrequency", "16000");
@@ -75,11 +75,11 @@ private Q_SLOTS:
         form.takeSaved();
         QVERIFY(!of(form.mainStream(), "encodeMode", "changed").toBool());
         m_backEnd->values.remove("takenItems");
-        form.set("frameRate", 20); // no longer what the device has
+        form.set("frameRate", 20); // differs from the device's value
         QCOMPARE(form.changedCount(), 2);
     }
 
-    void whatADeviceIsSetToIsShownThoughItDoesNotOfferIt()
+    void theCurrentValueIsShownEvenIfItIsNotOffered()
     {
         m_backEnd->values.insert("curResolution", "800*600");
         m_backEnd->values.insert("frameRate", 30);
@@ -92,16 +92,16 @@ private Q_SLOTS:
         QCOMPARE(of(stream, "resolution", "names").toStringList(), QStringList({"1080P", "800 × 600"}));
         QCOMPARE(of(stream, "resolution", "index").toInt(), 1);
         QCOMPARE(of(stream, "frameRate", "maximum").toInt(), 30);
-        QCOMPARE(of(stream, "bitRate", "index").toInt(), 2); // a number of one's own
+        QCOMPARE(of(stream, "bitRate", "index").toInt(), 2); // a custom value
         QCOMPARE(of(stream, "bitRate", "value").toInt(), 3000);
         form.set("curResolution", "1080P");
         QCOMPARE(of(form.mainStream(), "resolution", "choices").toStringList(),
-                 QStringList({"1080P", "800*600"})); // there is a way back
-        form.set("bitRate", 3100);                   // none of the steps before and after
+                 QStringList({"1080P", "800*600"})); // the previous value remains selectable
+        form.set("bitRate", 3100);                   // not one of the listed values
         QVERIFY(of(form.mainStream(), "bitRate", "changed").toBool());
     }
 
-    void aVariableBitRateMayBeTheOnlyOne()
+    void theOnlyBitRateControlIsNotSelectable()
     {
         m_backEnd->values.insert("bitstreamControl", 1);
         EncodeForm form;
@@ -114,7 +114,7 @@ private Q_SLOTS:
         QCOMPARE(of(limited.mainStream(), "control", "value").toInt(), 1);
     }
 
-    void badValuesLeaveAWholeForm_data()
+    void invalidValuesGiveACompleteForm_data()
     {
         const auto row = dataTable<QVariantMap>({"values"});
         row("nothing", QVariantMap());
@@ -130,7 +130,7 @@ private Q_SLOTS:
                                        {"picture", 7},
                                        {"curSwitchMode", QStringList()}});
     }
-    void badValuesLeaveAWholeForm()
+    void invalidValuesGiveACompleteForm()
     {
         QFETCH(QVariantMap, values);
         m_backEnd->values = values;
@@ -158,18 +158,18 @@ private Q_SLOTS:
         QVERIFY(!camera.channels().isEmpty());
     }
 
-    void shutters_data()
+    void shutterTimesHaveAnIndex_data()
     {
         const auto row = dataTable<double, double, int>({"shortest", "longest", "place"});
         row("shortest", 0.01, 0.01, 0);
-        row("as devices keep it", static_cast<double>(1000.0F / 30000), static_cast<double>(1000.0F / 30000),
-            1);
+        row("as stored by devices", static_cast<double>(1000.0F / 30000),
+            static_cast<double>(1000.0F / 30000), 1);
         row("longest", 40.0, 40.0, 9);
         row("a range", 0.0, 40.0, -1);
         row("a time that is not listed", 25.0, 25.0, -1);
         row("nothing", 0.0, 0.0, -1);
     }
-    void shutters()
+    void shutterTimesHaveAnIndex()
     {
         QFETCH(double, shortest);
         QFETCH(double, longest);

@@ -52,7 +52,7 @@ private Q_SLOTS:
         m_site.reset();
     }
 
-    void showsTheRowsThatItsFiltersLeave_data()
+    void showsTheRowsThatMatchTheFilters_data()
     {
         const auto row = dataTable<bool, bool, QString, QStringList>(
             {"initialised", "uninitialised", "text", "identities"});
@@ -61,11 +61,11 @@ private Q_SLOTS:
         row("neither", false, false, "", QStringList());
         row("text", true, true, "cam 1", QStringList{"m0", "m2"});
         row("type in small letters", true, true, "nvr", QStringList{"m0"});
-        row("no pattern", true, true, ".*", QStringList());
+        row("not a regular expression", true, true, ".*", QStringList());
         row("text among the initialised", true, false, "168", QStringList{"m0"});
     }
 
-    void showsTheRowsThatItsFiltersLeave()
+    void showsTheRowsThatMatchTheFilters()
     {
         QFETCH(bool, initialised);
         QFETCH(bool, uninitialised);
@@ -77,18 +77,18 @@ private Q_SLOTS:
         QCOMPARE(m_model->totalCount(), 5);
     }
 
-    void rowsOfOneAddressAreTickedApart()
+    void rowsWithTheSameAddressAreTickedSeparately()
     {
         m_site->rows->add({.address = "0.0.0.0", .mac = "m6", .ipVersion = 6});
         m_site->rows->add({.address = "0.0.0.0", .mac = "m7", .ipVersion = 6});
         QJsonObject second = m_site->rows->ipv6.last().toJsonObject();
-        second.insert(DeviceRowKey::duplicate, 1); // as the store notes it
+        second.insert(DeviceRowKey::duplicate, 1); // as the store sets it
         m_site->rows->ipv6.last() = second;
         m_model->setIpv6(true);
         m_model->setChecked(2, true);
         QCOMPARE(column("checked"), QStringList({"false", "false", "true"}));
         QCOMPARE(m_model->checkedCount(), 1);
-        m_model->setIpv6(false); // the other list has ticks of its own
+        m_model->setIpv6(false); // the other list has separate ticks
         m_model->setChecked(0, true);
         m_model->setIpv6(true);
         QCOMPARE(column("checked"), QStringList({"false", "false", "true"}));
@@ -100,7 +100,7 @@ private Q_SLOTS:
     {
         QCOMPARE(column("conflict"), QStringList({"false", "false", "false", "true", "true"}));
         QCOMPARE(m_model->conflictCount(), 2);
-        m_model->setSearchText("cam 2"); // the other row of the conflict is hidden
+        m_model->setSearchText("cam 2"); // the other row in conflict is hidden
         QCOMPARE(column("conflict"), QStringList("true"));
         QCOMPARE(m_model->conflictCount(), 1);
         m_model->setSearchText("");
@@ -109,7 +109,7 @@ private Q_SLOTS:
         QCOMPARE(m_model->conflictCount(), 0);
     }
 
-    void ordersTheValuesOfAColumn_data()
+    void sortsByTheValuesOfAColumn_data()
     {
         const auto row = dataTable<QString, QStringList>({"key", "ordered"});
         row("MACs", "mac",
@@ -125,7 +125,7 @@ private Q_SLOTS:
         row("results", "upgraderes", QStringList{"-1", "0", "2", "10"});
     }
 
-    void ordersTheValuesOfAColumn()
+    void sortsByTheValuesOfAColumn()
     {
         QFETCH(const QString, key);
         QFETCH(const QStringList, ordered);
@@ -140,8 +140,8 @@ private Q_SLOTS:
         QCOMPARE(column(key.toUtf8()), ordered);
     }
 
-    /// While devices are found, rows are changed between any two readings of the list.
-    void aRowThatChangesDuringARefreshHidesNoOther()
+    /// During a search, rows change between two reads of the list.
+    void aRowChangedDuringARefreshHidesNoOther()
     {
         int readings = 0;
         m_site->rows->beforeReading = [&] {
@@ -151,20 +151,20 @@ private Q_SLOTS:
         QCOMPARE(column("identity"), QStringList({"m0", "m2", "m3", "m4"}));
     }
 
-    void ticksOutliveRefreshAndFilterButNotTheirDevice()
+    void ticksRemainUntilTheDeviceIsRemoved()
     {
         m_model->setChecked(0, true);
         m_model->setRangeChecked(2, 99, true);
         QCOMPARE(m_model->checkedMacs(), QStringList({"m0", "m2", "m3", "m4"}));
         QCOMPARE(m_model->checkState(), Qt::PartiallyChecked);
-        m_model->setSearchText("cam 1"); // a hidden row is never part of what is done to the checked ones
+        m_model->setSearchText("cam 1"); // actions on checked rows never include hidden rows
         QCOMPARE(m_model->checkedMacs(), QStringList({"m0", "m2"}));
         QCOMPARE(m_model->checkState(), Qt::Checked);
         m_model->setSearchText("");
         QCOMPARE(m_model->checkedCount(), 4);
 
         const QVariantList rows = m_site->rows->ipv4;
-        m_site->rows->ipv4.clear(); // a new search begins
+        m_site->rows->ipv4.clear(); // a new search starts
         m_model->refresh();
         QCOMPARE(m_model->checkState(), Qt::Unchecked);
         m_site->rows->ipv4 = rows;
@@ -172,7 +172,7 @@ private Q_SLOTS:
         QCOMPARE(m_model->checkedCount(), 0);
     }
 
-    void countsTickedRowsThatAreUpgraded()
+    void countsTickedRowsBeingUpgraded()
     {
         m_site->rows->setUpgrade(0, UpgradeTools::Waiting);
         m_site->rows->setUpgrade(1, UpgradeTools::Writing);
@@ -188,13 +188,13 @@ private Q_SLOTS:
         QCOMPARE(m_model->checkedUpgradingCount(), 0);
     }
 
-    void aGrowingListKeepsItsRows()
+    void existingRowsRemainWhenOthersAreAdded()
     {
         QSignalSpy reset(m_model.get(), &QAbstractItemModel::modelReset);
         QSignalSpy inserted(m_model.get(), &QAbstractItemModel::rowsInserted);
         QSignalSpy changed(m_model.get(), &QAbstractItemModel::dataChanged);
         m_site->rows->add(
-            {.address = "192.168.1.100", .mac = "m9"}); // makes a conflict of a row that was there
+            {.address = "192.168.1.100", .mac = "m9"}); // creates a conflict with an existing row
         m_model->refresh();
         QCOMPARE(reset.size(), 0);
         QCOMPARE(inserted.size(), 1);

@@ -1,4 +1,4 @@
-// Marks of failed devices, and the table and the tree that show only these.
+// Marks of failed devices, and the table and the tree that are filtered by them.
 #include "device/models/devicetablemodel.h"
 #include "device/models/failedmarks.h"
 #include "device/models/treemodel.h"
@@ -17,7 +17,7 @@ constexpr int wrongPassword = resultCode(LoginResult::WrongPassword);
 constexpr int notInitialised = resultCode(LoginResult::NotInitialised);
 constexpr int away = resultCode(LoginResult::NetworkFailure);
 
-using Batches = QList<std::pair<QString, QList<int>>>; ///< work, and results of the device
+using Batches = QList<std::pair<QString, QList<int>>>; ///< operation, and results of the device
 
 } // namespace
 
@@ -36,7 +36,7 @@ private:
         marks.note(work, "title of " + work, outcomes);
     }
 
-    /// A site of four devices, two of them with one reason, and a mark of one that is not found.
+    /// Four devices, two of which failed for the same reason, and a mark of an unlisted device.
     static void fill(RowsBackEnd &rows, FailedMarks &marks)
     {
         rows.add({.address = "10.0.0.10", .mac = "m10", .type = "IPC"});
@@ -57,15 +57,15 @@ private:
     }
 
 private Q_SLOTS:
-    void aMarkLivesUntilTheSameWorkSucceeds_data()
+    void aMarkRemainsUntilTheSameOperationSucceeds_data()
     {
         const auto row = dataTable<Batches, QString>({"batches", "words"});
         const QString password = resultName(wrongPassword);
         row("failed", {{"reboot", {wrongPassword}}}, QStringLiteral("title of reboot：") + password);
         row("succeeded later", {{"reboot", {wrongPassword}}, {"reboot", {succeeded}}}, "");
-        row("another work succeeds", {{"reboot", {wrongPassword}}, {"copy", {succeeded}}},
+        row("another operation succeeds", {{"reboot", {wrongPassword}}, {"copy", {succeeded}}},
             QStringLiteral("title of reboot：") + password);
-        row("two works", {{"copy", {away}}, {"reboot", {wrongPassword}}, {"reboot", {succeeded}}},
+        row("two operations", {{"copy", {away}}, {"reboot", {wrongPassword}}, {"reboot", {succeeded}}},
             QStringLiteral("title of copy：") + resultName(away));
         row("waits for the next step", {{"password", {wrongPassword}}, {"password", {waits}}},
             QStringLiteral("title of password：") + password);
@@ -76,7 +76,7 @@ private Q_SLOTS:
             QStringLiteral("title of lines：") + password);
     }
 
-    void aMarkLivesUntilTheSameWorkSucceeds()
+    void aMarkRemainsUntilTheSameOperationSucceeds()
     {
         QFETCH(Batches, batches);
         FailedMarks marks;
@@ -100,7 +100,7 @@ private Q_SLOTS:
         fill(*site.rows, marks);
         table.setDeviceFactory(&site.factory);
         QCOMPARE(table.get(table.rowOf("m3")).value("failure").toString(), marks.wordsOf("m3"));
-        QCOMPARE(table.failedCount(), 3); // of four marks: one has no row
+        QCOMPARE(table.failedCount(), 3); // one of the four marks has no row
         table.setOnlyFailed(true);
         const bool passwordFirst = resultName(wrongPassword) < resultName(away);
         QCOMPARE(shown(table),
@@ -157,7 +157,7 @@ private Q_SLOTS:
         QCOMPARE(tree.deviceCount(), 1);
         tree.resetItems("removeuninit", "");
         note(marks, "reboot", {{"m10", succeeded}, {"m9", succeeded}, {"m3", succeeded}});
-        QCOMPARE(marks.count(), 1); // of a device that the tree does not have
+        QCOMPARE(marks.count(), 1); // the device is not in the tree
         QCOMPARE(tree.shown(), OVTreeModel::All);
         QCOMPARE(tree.checkedCount(), 2);
     }

@@ -10,7 +10,7 @@ private:
     const SystemTools m_tools;
 
 private Q_SLOTS:
-    void timeZonesAreInTheNumberingOfDevices()
+    void timeZonesHaveTheNumbersOfDevices()
     {
         const QString zones =
             "+00:00 +01:00 +02:00 +03:00 +03:30 +04:00 +04:30 +05:00 +05:30 +05:45 +06:00 +06:30 +07:00 "
@@ -23,7 +23,7 @@ private Q_SLOTS:
             QCOMPARE(m_tools.timeZoneIndex(text), -1);
     }
 
-    void aNewPasswordIsLookedAtInOrder_data()
+    void aNewPasswordIsCheckedInOrder_data()
     {
         const auto row = namedTable<QString, QString, int>({"password", "confirmation", "fault"});
         row("", "", SystemTools::TooWeak);
@@ -38,7 +38,7 @@ private Q_SLOTS:
             SystemTools::LengthOutOfRange);
     }
 
-    void aNewPasswordIsLookedAtInOrder()
+    void aNewPasswordIsCheckedInOrder()
     {
         QFETCH(QString, password);
         QFETCH(QString, confirmation);

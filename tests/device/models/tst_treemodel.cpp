@@ -68,8 +68,8 @@ private Q_SLOTS:
         QCOMPARE(m_model->roleNames().values().size(), 3);
     }
 
-    /// The list is in the order of the answers.
-    void devicesStandInTheOrderOfTheirAddresses()
+    /// The rows of the back end are in the order of the search responses.
+    void devicesAreSortedByAddress()
     {
         for (const char *address : {"10.0.0.30", "10.0.0.9", "9.255.0.1"})
             m_site->rows->add({.address = address, .mac = address, .type = "SD"});
@@ -79,8 +79,8 @@ private Q_SLOTS:
         QCOMPARE(texts().at(1), "SD: 10.0.0.2:37777 10.0.0.9:37777 10.0.0.30:37777");
     }
 
-    /// Of all devices, those that accepted no login, or not the last one.
-    void devicesWithoutALoginAreShownAlone()
+    /// Shows devices without a login or with a failed last login.
+    void canShowOnlyDevicesWithoutALogin()
     {
         const auto noteLogin = [this](qsizetype place, bool loggedIn) {
             QJsonObject row = m_site->rows->ipv4.at(place).toJsonObject();
@@ -102,7 +102,7 @@ private Q_SLOTS:
         QCOMPARE(m_model->loggedOutCount(), 3);
     }
 
-    void thePortIsShownWhereItIsAnotherOne()
+    void anUnusualPortIsShown()
     {
         m_site->rows->add({.address = "10.0.0.3", .mac = "m7", .type = "IPC"});
         QJsonObject other = m_site->rows->ipv4.constLast().toJsonObject();
@@ -118,7 +118,7 @@ private Q_SLOTS:
         QCOMPARE(rows.deviceAt(2), "10.0.0.3:37777");
     }
 
-    void ticksAndResultsOutliveARebuild()
+    void ticksAndResultsRemainAfterARebuild()
     {
         const QModelIndex device = m_model->index(0, 0, m_model->index(0, 0));
         QCOMPARE(m_model->devicesToWatch().size(), m_model->deviceCount());
@@ -132,7 +132,7 @@ private Q_SLOTS:
         QCOMPARE(state(0), Qt::PartiallyChecked);
         QCOMPARE(m_model->index(0, 0, m_model->index(0, 0)).data(OVTreeModel::CopyRetRole), 999);
 
-        // They go with the device to another address, and not to the device that gets the old one.
+        // They follow the device to its new address, and do not pass to a device with the old one.
         QJsonObject moved = m_site->rows->ipv4.at(3).toJsonObject();
         moved.insert("ipport", "10.0.0.9:37777");
         m_site->rows->ipv4[3] = moved;
@@ -142,12 +142,12 @@ private Q_SLOTS:
         QCOMPARE(m_model->index(0, 0, m_model->index(0, 0)).data(OVTreeModel::CopyRetRole), -1);
     }
 
-    void devicesWithoutAMacAreTickedOneByOne()
+    void devicesWithoutAMacAreTickedIndividually()
     {
         for (int device = 0; device < 2; ++device)
             m_site->rows->add({.address = "10.0.0.7", .mac = "", .type = "SD"});
         QJsonObject second = m_site->rows->ipv4.constLast().toJsonObject();
-        second.insert("duplicate", 1); // as the store tells them apart
+        second.insert("duplicate", 1); // as the store distinguishes them
         m_site->rows->ipv4.last() = second;
         m_model->resetItems("removeuninit", "");
         const QModelIndex group = m_model->index(1, 0);
@@ -157,12 +157,12 @@ private Q_SLOTS:
         QCOMPARE(state(1, 2), Qt::Checked);
     }
 
-    void aResultFindsItsDevice()
+    void aResultIsShownAtItsDevice()
     {
         m_model->setResult("10.0.0.5:37777", 999);
         m_model->setResult("10.9.9.9:1", 0);
         m_site->rows->add(
-            {.address = "10.0.0.2", .mac = "m9", .type = "IPC"}); // in conflict with one of the SD
+            {.address = "10.0.0.2", .mac = "m9", .type = "IPC"}); // in conflict with a device of the type SD
         m_model->resetItems("removeuninit", "");
         m_model->setResult("10.0.0.2:37777", 5);
         QCOMPARE(m_model->index(0, 0, m_model->index(0, 0)).data(OVTreeModel::CopyRetRole), 5);
@@ -198,12 +198,12 @@ private Q_SLOTS:
         rows.setOpen(0, false);
         QCOMPARE(titles(), "IPC SD 2:37777 PC-NVR 1:37777 Other 1:37777 6:37777");
         QCOMPARE(rows.rowOf(third), -1);
-        m_model->resetItems("nofilter", ""); // closed it stays
+        m_model->resetItems("nofilter", ""); // the group remains closed
         QCOMPARE(titles(), "IPC SD 2:37777 PC-NVR 1:37777 Other 1:37777 6:37777");
         QCOMPARE(rows.index(0).data(DeviceTreeRows::CountRole).toInt(), 3);
 
         QSignalSpy changed(&rows, &QAbstractItemModel::dataChanged);
-        rows.toggleTick(0); // of the group alone: its devices are not seen
+        rows.toggleTick(0); // the group's row only: its devices are hidden
         QCOMPARE(changed.size(), 1);
         QCOMPARE(m_model->checkedCount(), 3);
         rows.setOpen(0, true);
@@ -217,7 +217,7 @@ private Q_SLOTS:
         QCOMPARE(rows.index(1).data(DeviceTreeRows::DetailRole).toString(), "大厅 · B-2230-IR");
         QCOMPARE(rows.index(3).data(DeviceTreeRows::DetailRole).toString(), "Gate b-2230-IR");
 
-        rows.setOpen(1, false); // no group
+        rows.setOpen(1, false); // not a group
         rows.setOpen(99, false);
         rows.toggleTick(-1);
         QCOMPARE(rows.rowCount(), 11);

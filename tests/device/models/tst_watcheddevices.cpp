@@ -28,16 +28,16 @@ QVariantList channelsNamed(const QStringList &names)
 
 } // namespace
 
-/// The live window's devices, and the way through the list, without a window.
+/// The devices of the live window, and the navigation through the list, without a window.
 class TestWatchedDevices : public QObject
 {
     Q_OBJECT
 private:
     std::unique_ptr<WatchedDevices> m_watched;
-    QStringList m_left; ///< addresses of the channels when a device was removed
+    QStringList m_left; ///< the remaining channels at each removal of a device
     QObject m_companion;
 
-    /// Adds a device as the scene does, which makes a companion for each row.
+    /// Adds a device as QML does, which creates an object for each row.
     void add(int number, const QString &name, const QStringList &channels)
     {
         m_watched->add({rowOf(number, name)});
@@ -55,7 +55,7 @@ private:
 private Q_SLOTS:
     void init() { m_watched = std::make_unique<WatchedDevices>(); }
 
-    void captionsTellDevicesApart_data()
+    void captionsAreUnique_data()
     {
         const auto row = dataTable<QStringList, QStringList, QStringList>({"names", "channels", "captions"});
         row("one device", {"Gate"}, {"C0"}, {"C0"});
@@ -68,7 +68,7 @@ private Q_SLOTS:
             {"Gate 1", "Hall · C0"});
     }
 
-    void captionsTellDevicesApart()
+    void captionsAreUnique()
     {
         QFETCH(const QStringList, names);
         QFETCH(const QStringList, channels);
@@ -80,7 +80,7 @@ private Q_SLOTS:
         QCOMPARE(m_watched->channels().first().toMap().contains("heading"), names.size() > 1);
     }
 
-    void devicesAreAddedOnceAndAsFarAsThereIsRoom()
+    void devicesAreAddedOnceWhileThereIsRoom()
     {
         m_watched->setFirst(ipportOf(0), "D0", channelsNamed({"C0", "C1"}));
         connect(m_watched.get(), &QAbstractItemModel::rowsInserted, this,
@@ -96,14 +96,14 @@ private Q_SLOTS:
         for (int number = 0; number < 20; ++number)
             rows.append(rowOf(number));
         QCOMPARE(m_watched->add(rows).size(), 13);
-        QCOMPARE(m_watched->property("leftOut").toInt(), 4); // 19 but the first device, 15 of them are there
+        QCOMPARE(m_watched->property("leftOut").toInt(), 4); // 19 devices, of which 15 fit
         QVERIFY(m_watched->isFull());
         QCOMPARE(m_watched->add({rowOf(1)}), QVariantList());
         QCOMPARE(m_watched->property("leftOut").toInt(), 0);
     }
 
-    /// The pictures of a device end before its session does.
-    void theChannelsOfADeviceGoBeforeIt()
+    /// The streams of a device end before its session.
+    void theChannelsOfADeviceAreRemovedBeforeIt()
     {
         m_watched->setFirst(ipportOf(0), "D0", channelsNamed({"C0"}));
         add(1, "D1", {"C0", "C1"});
@@ -119,17 +119,17 @@ private Q_SLOTS:
         QCOMPARE(texts("caption"), QStringList("C0"));
     }
 
-    void theWayLeadsOverDevicesThatCanBeWatched_data()
+    void navigationSkipsDevicesThatCannotBeWatched_data()
     {
         const auto row = dataTable<bool, int, int, QString>({"isChosen", "from", "direction", "next"});
-        row("over one that waits for its password", false, 21, 1, ipportOf(23));
+        row("skips an uninitialised device", false, 21, 1, ipportOf(23));
         row("the last one", false, 24, 1, QString());
-        row("back", false, 21, -1, ipportOf(20));
-        row("from none of them", false, 90, 1, ipportOf(20));
-        row("of those that were chosen", true, 20, 1, ipportOf(24));
+        row("backwards", false, 21, -1, ipportOf(20));
+        row("from an unlisted device", false, 90, 1, ipportOf(20));
+        row("among the selected devices", true, 20, 1, ipportOf(24));
     }
 
-    void theWayLeadsOverDevicesThatCanBeWatched()
+    void navigationSkipsDevicesThatCannotBeWatched()
     {
         QFETCH(const bool, isChosen);
         QFETCH(const int, from);

@@ -14,7 +14,7 @@
 
 using namespace std::chrono_literals;
 
-/// The whole way from the factory to the devices of a simulated site, on a clock that is stepped.
+/// Searches by the factory on a simulated site with a stepped clock.
 class TestDeviceSearch : public QObject
 {
     Q_OBJECT
@@ -40,7 +40,7 @@ private:
              }}});
     }
 
-    /// Steps the clock until `spy` has `count` signals.
+    /// Advances the clock until `spy` has `count` signals.
     void stepUntil(const QSignalSpy &spy, qsizetype count)
     {
         const QDeadlineTimer deadline(20s);
@@ -66,7 +66,7 @@ private Q_SLOTS:
     void init() { m_localDomain = true; }
     void cleanup() { m_factory.reset(); }
 
-    void aLocalSearchAsksThreeTimesAndStops()
+    void aLocalSearchSendsThreeRequestsAndStops()
     {
         openSite("office");
         QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
@@ -84,7 +84,7 @@ private Q_SLOTS:
         QVERIFY(m_site->requests().of("NetStopSearchDevices").at(0).time - second.at(0).time >= 3000);
     }
 
-    void aStoppedSearchKeepsWhatItFound()
+    void aStoppedSearchKeepsItsResults()
     {
         openSite("office");
         QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
@@ -97,18 +97,18 @@ private Q_SLOTS:
         const qsizetype found = m_factory->filterData("dh", "nofilter").size();
         QVERIFY(found > 0);
         m_factory->stopSearch("dh");
-        QTRY_COMPARE(done.size(), 1); // the clock stands still
+        QTRY_COMPARE(done.size(), 1); // the clock is not advanced
         QVERIFY(m_factory->filterData("dh", "nofilter").size() >= found);
         QVERIFY(!operations().contains("NetSearchDevicesByIPs"));
         QCOMPARE(operations().count("NetStopSearchDevices"),
                  operations().count("NetStartSearchDevices") + operations().count("NetStartSearchDevicesEx"));
 
-        m_factory->startSearch("dh"); // the next one is not stopped
+        m_factory->startSearch("dh"); // the stop does not affect the next search
         stepUntil(done, 2);
         QCOMPARE(progress.last().first().toInt(), 100);
     }
 
-    void everyReachableDeviceBecomesOneRow()
+    void everyReachableDeviceGetsOneRow()
     {
         openSite("office");
         QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
@@ -140,7 +140,7 @@ private Q_SLOTS:
                     .toString()
                     .startsWith("127.0.0.1:"));
         QCOMPARE(count.last().at(0).toInt(), int(ipv4.size()));
-        QVERIFY(added.size() > 2); // at the start, while the answers come, at the end
+        QVERIFY(added.size() > 2); // at the start, during the responses and at the end
 
         sdk::SearchReport report{};
         report.size = sizeof(report);
@@ -150,7 +150,7 @@ private Q_SLOTS:
         QVERIFY(report.interfaces[0].messagesReceived > report.interfaces[0].devicesFound);
     }
 
-    void aRangeIsAskedBlockByBlockAndForgotten()
+    void aRangeIsSearchedOnceInBlocks()
     {
         m_localDomain = false;
         openSite("office");
@@ -171,7 +171,7 @@ private Q_SLOTS:
         report.size = sizeof(report);
         QVERIFY(m_site->libraries().net->NetGetSearchReport(report));
         QCOMPARE(report.addressesAsked,
-                 246U + 256U + 21U); // each once, though both kinds of answers are asked for
+                 246U + 256U + 21U); // counted once, although two requests are sent to each address
         QVERIFY(report.addressesAnswered > 0 && report.addressesAnswered < 30);
 
         m_site->requests().clear();
@@ -180,7 +180,7 @@ private Q_SLOTS:
         QVERIFY(operations().isEmpty());
     }
 
-    void aFloodedSearchReportsOnceWhatItLeftOut()
+    void aFloodedSearchReportsOmittedDevicesOnce()
     {
         openSite("factory");
         QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
@@ -198,14 +198,14 @@ private Q_SLOTS:
         QCOMPARE(limited.size(), 1);
     }
 
-    void closingInTheMiddleEndsCleanly_data()
+    void closingDuringASearchEndsCleanly_data()
     {
         const auto row = dataTable<bool>({"local"});
         row("local search", true);
         row("range search", false);
     }
 
-    void closingInTheMiddleEndsCleanly()
+    void closingDuringASearchEndsCleanly()
     {
         QFETCH(bool, local);
         m_localDomain = local;
@@ -214,7 +214,7 @@ private Q_SLOTS:
             m_factory->setSearchByIPInfo("dh", *ipv4Number(u"10.0.0.1"), *ipv4Number(u"10.0.16.1"));
         m_factory->startSearch("dh");
         QVERIFY(m_site->requests().waitFor(local ? "NetStartSearchDevices" : "NetSearchDevicesByIPs", 1));
-        m_factory.reset(); // without a step of the clock: nothing may wait for it
+        m_factory.reset(); // the clock is not advanced: no wait may block the end
     }
 };
 

@@ -10,7 +10,7 @@ class TestSearchRange : public QObject
 private Q_SLOTS:
     void readsAddresses_data()
     {
-        // number: -1: no address
+        // number: -1: invalid
         const auto row = dataTable<QString, double>({"text", "number"});
         row("lowest", "0.0.0.0", 0.0);
         row("highest", "255.255.255.255", 4294967295.0);
@@ -31,7 +31,7 @@ private Q_SLOTS:
         QCOMPARE(AddressTools().toNumber(text), std::max(number, 0.0));
     }
 
-    void whatIsTypedIsNotWrongYet()
+    void acceptsBeginningsOfAddresses()
     {
         const AddressTools tools;
         for (const char *text : {"", "1", "192.", "192.168", "192.168.1.2", "010.1.1.1"})
@@ -62,7 +62,7 @@ private Q_SLOTS:
         QTEST(int(AddressTools().searchRangeFault(begin, end)), "fault");
     }
 
-    void coversARangeByBlocks_data()
+    void splitsARangeIntoBlocks_data()
     {
         // blocks: "first last" of each
         const auto row = namedTable<QString, QString, QStringList>({"begin", "end", "blocks"});
@@ -71,15 +71,15 @@ private Q_SLOTS:
         row("192.168.1.5", "192.168.1.5", {"192.168.1.5 192.168.1.5"});
         row("255.255.254.250", "255.255.255.255",
             {"255.255.254.250 255.255.254.255", "255.255.255.0 255.255.255.255"});
-        row("10.0.2.1", "10.0.1.1", {}); // third octet of the end below the begin's
-        row("10.0.1.9", "10.0.1.8", {}); // nothing to ask
+        row("10.0.2.1", "10.0.1.1", {}); // the third octet of the end is less than that of the start
+        row("10.0.1.9", "10.0.1.8", {}); // empty range
         row("0.0.0.0", "10.0.1.8", {});  // no range set
         row("10.0.1.9", "0.0.0.0", {});
-        row("10.0.1.1", "10.1.1.1", {"10.0.1.1 10.0.1.255"}); // the first two octets are not compared
+        row("10.0.1.1", "10.1.1.1", {"10.0.1.1 10.0.1.255"}); // the first two octets are ignored
         row("10.1.1.1", "10.0.5.1", {});
     }
 
-    void coversARangeByBlocks()
+    void splitsARangeIntoBlocks()
     {
         QFETCH(QString, begin);
         QFETCH(QString, end);

@@ -1,4 +1,4 @@
-// The report of a search: what it says, and when devices count as missing.
+// The report of a search: its text, and the number of missing devices.
 #include "device/search/searchreports.h"
 #include "sdk/blocktext.h"
 #include "sdk/searchreportblocks.h"
@@ -12,7 +12,7 @@ using sdk::SearchObstacle;
 
 namespace {
 
-/// An address of an interface with one number of a report.
+/// An address of an interface and its counters in a report.
 struct Address
 {
     std::string interface = "eth0";
@@ -47,7 +47,7 @@ sdk::SearchReport reportOf(const QList<Address> &addresses)
     return report;
 }
 
-/// Reports what it is given.
+/// Returns the report of a test.
 class ReportingLibrary : public QuietNetLibrary
 {
 public:
@@ -65,9 +65,9 @@ class TestSearchReports : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void saysWhatMeansSomething_data()
+    void showsOnlyRelevantLines_data()
     {
-        // text: of all blocks, without what to do about obstacles
+        // text: of all blocks, without the advice on obstacles
         const auto row = dataTable<QList<Address>, QString>({"addresses", "text"});
         row("no interface", {}, "网卡\n! 本机没有可用的网卡\n");
         row("answered over one address family",
@@ -86,7 +86,7 @@ private Q_SLOTS:
             "eth0\n地址: 192.0.2.5/24\n! 系统拒绝发送请求：" + qt_error_string(EACCES) + "\n");
     }
 
-    void saysWhatMeansSomething()
+    void showsOnlyRelevantLines()
     {
         QFETCH(QList<Address>, addresses);
         QFETCH(QString, text);
@@ -100,7 +100,7 @@ private Q_SLOTS:
         QCOMPARE(SearchReportText::textOf(blocks).remove("  \n"), text);
     }
 
-    void theNetworksAreNamedOnce()
+    void eachNetworkIsListedOnce()
     {
         const sdk::SearchReport report =
             reportOf({{.address = "192.0.2.5"},
@@ -112,16 +112,16 @@ private Q_SLOTS:
         QCOMPARE(SearchReportText::networksOf(report), "192.0.2.0/24, 10.1.2.0/24");
     }
 
-    void countsTheAddressesOfOneSearch_data()
+    void countsTheAddressesOfThisSearch_data()
     {
-        // before: addresses asked before the search; after: at its end, as the library counts
+        // before, after: the library's counter of queried addresses at the start and the end of the search
         const auto row = dataTable<bool, int, int, QString>({"localSegment", "before", "after", "asked"});
         row("after other ranges", false, 300, 556, "256 个地址");
         row("with the local segment", true, 200, 256, "256 个地址");
         row("none", true, 256, 0, "");
     }
 
-    void countsTheAddressesOfOneSearch()
+    void countsTheAddressesOfThisSearch()
     {
         QFETCH(bool, localSegment);
         QFETCH(int, before);
@@ -141,10 +141,10 @@ private Q_SLOTS:
         QVERIFY(reports.text().contains(asked));
     }
 
-    void countsNothingOfTheSearchBefore_data()
+    void ignoresCountsOfEarlierSearches_data()
     {
-        // interfaces: as the library counts them before the search of addresses and at its end; text: of all
-        // blocks, without what to do about obstacles
+        // before, after: the library's counters at the start and the end of a search by addresses; text: of
+        // all blocks, without the advice on obstacles
         const auto row = dataTable<QList<Address>, QList<Address>, QString>({"before", "after", "text"});
         const QString asked = "\n按地址搜索\n已询问: 3 个地址\n有应答: 1 个地址\n";
         const QList<Address> answered = {
@@ -166,7 +166,7 @@ private Q_SLOTS:
             "eth0\n地址: 198.51.100.5/24\n" + asked);
     }
 
-    void countsNothingOfTheSearchBefore()
+    void ignoresCountsOfEarlierSearches()
     {
         QFETCH(QList<Address>, before);
         QFETCH(QList<Address>, after);
@@ -184,7 +184,7 @@ private Q_SLOTS:
         net->m_report.addressesAsked = 3;
         net->m_report.addressesAnswered = 1;
         reports.end(1, false);
-        QString shown = reports.text().section("\n\n", 1); // below the time and the summary
+        QString shown = reports.text().section("\n\n", 1); // without the time and the summary
         shown.remove("  在操作系统的网络设置中启用它。\n");
         QCOMPARE(shown, text);
     }
@@ -200,7 +200,7 @@ private Q_SLOTS:
         };
         QCOMPARE(missing(true, "", 5, false), 0);
         QVERIFY(!reports.isIncomplete());
-        QCOMPARE(missing(true, "", 2, true), 0); // it was stopped
+        QCOMPARE(missing(true, "", 2, true), 0); // the search was stopped
         QVERIFY(reports.isIncomplete());
         QCOMPARE(missing(true, "", 3, false), 2);
         QVERIFY(!reports.isIncomplete());

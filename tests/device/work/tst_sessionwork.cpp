@@ -1,4 +1,4 @@
-// Work that the configuration page waits for, while the scene goes on.
+// Operations of the configuration page that run while QML handles events.
 #include "device/work/sessionwork.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
@@ -10,14 +10,14 @@ namespace {
 
 using Begin = std::function<void(SessionWork &work)>;
 
-/// Work that ends when the test says so, whether it is wanted still or not.
+/// An operation whose end is controlled by the test, even if it has been dropped.
 class HeldBackEnd : public CDeviceBase
 {
 public:
     HeldBackEnd() : CDeviceBase(nullptr) {}
 
     int taken = 0;
-    QList<std::function<void()>> ends; ///< of the works, in their order
+    QList<std::function<void()>> ends; ///< of the operations, in order
 
     SceneStep loginStep(const QString &, const QString &, const QString &) override
     {
@@ -46,14 +46,14 @@ private:
     std::unique_ptr<ConfigSite> m_site;
     std::unique_ptr<SessionWork> m_work;
     static constexpr int slowness = 300; ///< milliseconds
-    QStringList m_told;                  ///< signals of the factory and of the work, in their order
+    QStringList m_reported;              ///< signals of the factory and of the operation, in order
 
     void setFault(const SceneDevice &device, Fault fault, int number = 0) const
     {
         m_site->site->setFault(device.mac, {.fault = fault, .number = number, .text = {}});
     }
     void login(const SceneDevice &device) const { m_work->login(ipportOf(device), "admin", "secret1"); }
-    /// Every login but `open` ones was logged out.
+    /// True if all logins except `open` ones were logged out.
     [[nodiscard]] bool loginsAreOpen(qsizetype open) const
     {
         return m_site->asked("NetLoginSecure").size() == m_site->asked("NetLogout").size() + open;
@@ -65,25 +65,25 @@ private Q_SLOTS:
         m_site = std::make_unique<ConfigSite>(QList<SceneDevice>{m_recorder, m_camera});
         m_work = std::make_unique<SessionWork>();
         m_work->setDeviceFactory(m_site->factory.get());
-        m_told.clear();
+        m_reported.clear();
         const CDeviceFactory *factory = m_site->factory.get();
         connect(factory, &CDeviceFactory::signalHighLevelLoginRet, m_work.get(),
-                [this](int result) { m_told.append("login " + QString::number(result)); });
+                [this](int result) { m_reported.append("login " + QString::number(result)); });
         connect(factory, &CDeviceFactory::signalGetDeviceCapRet, m_work.get(), [this](int result) {
-            m_told.append(isDeviceAway(static_cast<std::uint32_t>(result))
-                              ? QString("away")
-                              : "cap " + QString::number(result));
+            m_reported.append(isDeviceAway(static_cast<std::uint32_t>(result))
+                                  ? QString("away")
+                                  : "cap " + QString::number(result));
         });
         connect(factory, &CDeviceFactory::signalChangeEncodeChannel, m_work.get(),
-                [this] { m_told.append("encode channel"); });
+                [this] { m_reported.append("encode channel"); });
         connect(factory, &CDeviceFactory::signalChangeVideoChannel, m_work.get(),
-                [this] { m_told.append("video channel"); });
+                [this] { m_reported.append("video channel"); });
         connect(factory, &CDeviceFactory::signalChangeVideoType, m_work.get(),
-                [this] { m_told.append("video type"); });
+                [this] { m_reported.append("video type"); });
         connect(factory, &CDeviceFactory::signalConfirmEncodeConfig, m_work.get(),
-                [this](const QString &text) { m_told.append(text.isEmpty() ? "saved" : "not saved"); });
-        connect(m_work.get(), &DeviceWork::ended, m_work.get(), [this] { m_told.append("ended"); });
-        connect(m_work.get(), &SessionWork::otherLogin, m_work.get(), [this] { m_told.append("other"); });
+                [this](const QString &text) { m_reported.append(text.isEmpty() ? "saved" : "not saved"); });
+        connect(m_work.get(), &DeviceWork::ended, m_work.get(), [this] { m_reported.append("ended"); });
+        connect(m_work.get(), &SessionWork::otherLogin, m_work.get(), [this] { m_reported.append("other"); });
     }
 
     void cleanup()
@@ -92,9 +92,9 @@ private Q_SLOTS:
         m_site.reset();
     }
 
-    void theSceneGoesOnAndIsToldInOrder_data()
+    void eventsAreHandledAndSignalsKeepTheirOrder_data()
     {
-        const auto row = dataTable<bool, Begin, QStringList>({"isDead", "begin", "told"});
+        const auto row = dataTable<bool, Begin, QStringList>({"isOffline", "begin", "reported"});
         const QString ipport = ipportOf(m_recorder);
         const Begin logIn = [ipport](SessionWork &work) {
             work.login(ipport, "admin", "secret1");
@@ -121,50 +121,51 @@ private Q_SLOTS:
             work.writeName(1, "east");
         };
         row("login", false, logIn, {"login 0", "ended"});
-        row("login, dead", true, logIn, {"login 5", "ended"});
+        row("login, offline", true, logIn, {"login 5", "ended"});
         row("detail", false, detail, {"ended"});
         row("encoding", false, read, {"cap 0", "ended"});
-        row("encoding, dead", true, read, {"away", "ended"});
+        row("encoding, offline", true, read, {"away", "ended"});
         row("channel", false, choose, {"encode channel", "cap 0", "ended"});
-        row("size, dead", true, write, {"not saved", "away", "ended"});
+        row("size, offline", true, write, {"not saved", "away", "ended"});
         row("save", false, save, {"saved", "ended"});
-        row("save, dead", true, save, {"not saved", "away", "ended"});
+        row("save, offline", true, save, {"not saved", "away", "ended"});
         row("image", false, image, {"video channel", "ended"});
-        row("image, dead", true, image, {"away", "ended"}); // nothing is asked after that
-        row("image write, dead", true, changeImage, {"video type", "away", "ended"});
+        row("image, offline", true, image, {"away", "ended"}); // no further request is sent
+        row("image write, offline", true, changeImage, {"video type", "away", "ended"});
         row("names", false, names, {"ended"});
-        row("names, dead", true, names, {"away", "ended"});
-        row("name, dead", true, name, {"away", "ended"});
+        row("names, offline", true, names, {"away", "ended"});
+        row("name, offline", true, name, {"away", "ended"});
     }
 
-    /// A device that dies between the login and the request, and one that answers.
-    void theSceneGoesOnAndIsToldInOrder()
+    /// One device goes offline between the login and the request, the other one responds.
+    void eventsAreHandledAndSignalsKeepTheirOrder()
     {
-        QFETCH(bool, isDead);
+        QFETCH(bool, isOffline);
         QFETCH(Begin, begin);
         QCOMPARE(m_site->login(m_recorder), 0);
         m_site->factory->getEncodeCaps("dh");
         m_site->factory->getCameraConfig("dh");
         m_site->factory->getVideoIn("dh");
-        if (isDead)
+        if (isOffline)
             setFault(m_recorder, Fault::NoAnswer);
         else
             setFault(m_recorder, Fault::SlowAnswers, slowness);
-        m_told.clear();
+        m_reported.clear();
         m_site->stopTime();
         begin(*m_work);
-        QTRY_VERIFY(m_site->clock().waiters() > 0); // the device is being waited for, and events are handled
+        QTRY_VERIFY(m_site->clock().waiters() >
+                    0); // the operation waits for the device while events are handled
         QVERIFY(m_work->isRunning());
         QCOMPARE(m_site->get("sessionDevice").toString(), ipportOf(m_recorder));
         QCOMPARE(m_site->shown("curChannel curVideoChannel"), "0|0");
         QVERIFY(!m_site->get("encodeMode").toStringList().isEmpty());
-        QCOMPARE(m_told, QStringList());
+        QCOMPARE(m_reported, QStringList());
         m_site->letTimePass();
         QTRY_VERIFY(!m_work->isRunning());
-        QTEST(m_told, "told");
+        QTEST(m_reported, "reported");
     }
 
-    void anOutcomeThatIsOnItsWayIsDroppedToo()
+    void aQueuedResultIsDroppedToo()
     {
         const auto backEnd = std::make_shared<HeldBackEnd>();
         CDeviceFactory factory({{"dh", [backEnd] {
@@ -178,26 +179,26 @@ private Q_SLOTS:
         QVERIFY(m_work->isRunning());
         backEnd->ends.at(1)();
         QCOMPARE(backEnd->taken, 1);
-        QCOMPARE(m_told, QStringList("ended"));
+        QCOMPARE(m_reported, QStringList("ended"));
         m_work->setDeviceFactory(nullptr);
     }
 
-    void aLoginThatNobodyTakesIsLoggedOut()
+    void anUnusedLoginIsLoggedOut()
     {
         login(m_recorder);
         QVERIFY(m_site->site->requests().waitFor("NetLoginSecure", 1));
-        m_work.reset(); // the page goes
+        m_work.reset(); // the page is destroyed
         QTRY_VERIFY(loginsAreOpen(0));
         QCOMPARE(m_site->get("loginHandle").toLongLong(), 0);
     }
 
-    /// The live view works with the same session.
-    void anotherPagesLoginDropsTheWork()
+    /// The live view uses the same session.
+    void aLoginOfAnotherPageDropsTheOperation()
     {
         QCOMPARE(m_site->login(m_recorder), 0);
         setFault(m_recorder, Fault::NoAnswer);
         setFault(m_camera, Fault::SlowAnswers, slowness);
-        m_told.clear();
+        m_reported.clear();
         m_site->stopTime();
         m_work->chooseEncoding("curChannel", 1);
         QTRY_COMPARE(m_site->clock().waiters(), 1);
@@ -206,13 +207,13 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitFor([this] {
             if (m_site->clock().waiters() == 2)
                 m_site->clock().advance(std::chrono::milliseconds(slowness));
-            return m_told.contains("other");
+            return m_reported.contains("other");
         }));
         QVERIFY(!m_work->isRunning());
         m_site->letTimePass();
         QTRY_COMPARE(m_site->clock().waiters(), 0);
         QCoreApplication::processEvents();
-        QVERIFY(!m_told.contains("ended") && !m_told.contains("encode channel"));
+        QVERIFY(!m_reported.contains("ended") && !m_reported.contains("encode channel"));
         QCOMPARE(m_site->shown("sessionDevice curChannel"), ipportOf(m_camera) + "|0");
     }
 };

@@ -1,4 +1,4 @@
-// The camera image page on a simulated site: every change is one request of its own.
+// The camera image page on a simulated site: every change is a separate request.
 #include "device/models/encodeform.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
@@ -63,7 +63,7 @@ private:
 private Q_SLOTS:
     void cleanup() { m_site.reset(); }
 
-    void camerasDifferInWhatTheySupport()
+    void eachCameraShowsWhatItSupports()
     {
         open(camera());
         QCOMPARE(supported(), groups);
@@ -91,10 +91,10 @@ private Q_SLOTS:
         QCOMPARE(m_site->get("allSwitchMode").toStringList(), QStringList({"白天"}));
     }
 
-    void aChangeIsWrittenAtOnce_data()
+    void aChangeIsWrittenImmediately_data()
     {
-        // writes: of items
-        // lastItem: some of its fields
+        // writes: the written items
+        // lastItem: some fields of the last one
         const auto addRow = dataTable<QString, QString, QVariant, QStringList, QVariantMap>(
             {"key", "subKey", "value", "writes", "lastItem"});
         const auto row = [&addRow](const char *key, const char *subKey, const QVariant &value,
@@ -108,7 +108,7 @@ private Q_SLOTS:
         row("picture", "saturationSlider", 72, picture, {{"saturation", 72}});
         row("picture", "hue", 73, picture, {{"hue", 73}});
         row("picture", "colorStyle", 3, picture, {{"colorStyle", 3}});
-        row("picture", "gamma", 1000, picture, {{"gamma", 100}}); // into the range
+        row("picture", "gamma", 1000, picture, {{"gamma", 100}}); // limited to the range
         row("sharpness", "", 33, "1318/0@1 20 5000", {{"sharpness", 33}});
         row("mirror", "", true, "1302/0@1 20 5000", {{"mirror", 1}, {"rotate", 0}});
         row("mirror", "Rotate", 3, "1302/0@1 20 5000", {{"rotate", 3}, {"mirror", 0}});
@@ -164,7 +164,7 @@ private Q_SLOTS:
         row("setDefault", "", "", picture, {{"brightness", 50}, {"colorStyle", 2}});
     }
 
-    void aChangeIsWrittenAtOnce()
+    void aChangeIsWrittenImmediately()
     {
         QFETCH(QString, key);
         QFETCH(QString, subKey);
@@ -180,22 +180,22 @@ private Q_SLOTS:
         const QJsonObject written = m_site->asked("NetSetItem").last();
         for (auto field = lastItem.cbegin(); field != lastItem.cend(); ++field)
             QCOMPARE(written.value(field.key()).toVariant().toString(), field.value().toString());
-        // Only one group is read before it is written.
+        // Only "inDefog" is read before it is written.
         QCOMPARE(m_site->asked("NetGetItem").size(), key == "inDefog" ? 1 : 0);
 
-        // The device keeps it, on this channel.
+        // The device stores the value for this channel.
         const QVariant kept = m_site->get(key);
         QVERIFY(kept != before || key == "setDefault");
         QCOMPARE(m_site->login(camera()), 0);
         m_site->set("curVideoChannel", 1);
         read();
-        if (key != "curDayNightMode") // chosen for the page, not by the device
+        if (key != "curDayNightMode") // a setting of the page, not of the device
             QCOMPARE(m_site->get(key), kept);
     }
 
     void configurationsAreWritten_data()
     {
-        // items: written beside it
+        // items: the number of items written in addition
         const auto row = dataTable<QString, QString, int, QString, QString, int>(
             {"key", "subKey", "value", "name", "field", "items"});
         row("brightness", "curBrightness", "", 77, "VideoColor", "brightness", 0);
@@ -236,7 +236,7 @@ private Q_SLOTS:
         QCOMPARE(value("picture", "brightnessSlider").toInt(), 40);
         for (const QString &read : m_site->askedItems("NetGetItem"))
             QVERIFY2(read.contains("/1@0 ") || read.startsWith("1311/"), qPrintable(read));
-        m_site->set("curSwitchMode", 3); // there is none
+        m_site->set("curSwitchMode", 3); // it does not exist
         m_site->set("curSwitchMode", 0);
         m_site->factory->getVideoIn("dh");
         QCOMPARE(value("picture", "hue").toInt(), 12);
@@ -248,7 +248,7 @@ private Q_SLOTS:
         QCOMPARE(byChannel.size(), 1);
     }
 
-    void theColoursOfOneChannelAreNotWrittenToAnother()
+    void coloursAreNotWrittenToAnotherChannel()
     {
         open(camera());
         m_site->set("curVideoChannel", 1);
@@ -266,7 +266,7 @@ private Q_SLOTS:
         QCOMPARE(colours.value("night").toObject().value("hue").toInt(), 88);
     }
 
-    void aRefusedChangeShowsWhatTheDeviceHas()
+    void aRefusedChangeRestoresTheDevicesValue()
     {
         SceneDevice device = camera();
         open(device);
@@ -283,7 +283,7 @@ private Q_SLOTS:
         QCOMPARE(changed.size(), 2);
 
         QSignalSpy result(m_site->factory.get(), &CDeviceFactory::signalGetDeviceCapRet);
-        m_site->site->removeDevice(device.mac); // away: what is known stays
+        m_site->site->removeDevice(device.mac); // offline: the values read before remain
         m_site->set("inDefog", 1, "DefogMode");
         m_site->set("stable", true);
         QCOMPARE(value("stable", "value").toBool(), false);
@@ -292,25 +292,25 @@ private Q_SLOTS:
         QCOMPARE(result.size(), 2);
         read();
         QCOMPARE(result.size(), 3);
-        for (const QList<QVariant> &told : result)
-            QVERIFY(EncodeForm::isDeviceAway(told.first().toInt()));
+        for (const QList<QVariant> &reported : result)
+            QVERIFY(EncodeForm::isDeviceAway(reported.first().toInt()));
         QVERIFY(supported().isEmpty());
     }
 
-    void aModeThatWasNotReadIsReadTheNextTime()
+    void anUnreadModeIsReadAgain()
     {
         const SceneDevice device = camera();
         open(device);
         QSignalSpy result(m_site->factory.get(), &CDeviceFactory::signalGetDeviceCapRet);
         m_site->site->setFault(device.mac, {Fault::NoAnswer, 0, {}});
         m_site->set("curSwitchMode", 1);
-        QVERIFY(supported().isEmpty()); // the items are those of the mode before
+        QVERIFY(supported().isEmpty()); // the read items belong to the previous mode
         m_site->factory->getVideoIn("dh");
-        QCOMPARE(m_site->asked("NetGetItem").size(), 1); // every further one would wait
+        QCOMPARE(m_site->asked("NetGetItem").size(), 1); // every further request would time out
         QCOMPARE(result.size(), 1);
         QVERIFY(EncodeForm::isDeviceAway(result.first().first().toInt()));
         QVERIFY(supported().isEmpty());
-        m_site->set("stable", true); // not over what is not known
+        m_site->set("stable", true); // unread values are not overwritten
         QVERIFY(m_site->asked("NetSetItem").isEmpty());
         m_site->site->clearFault(device.mac, Fault::NoAnswer);
         m_site->factory->getVideoIn("dh");
@@ -318,19 +318,19 @@ private Q_SLOTS:
         QCOMPARE(supported(), groups);
         QCOMPARE(value("picture", "brightnessSlider").toInt(), 40);
 
-        m_site->set("curVideoChannel", 1); // the values are those of the first channel
+        m_site->set("curVideoChannel", 1); // the values belong to the first channel
         m_site->set("stable", true);
         m_site->set("curBrightness", 70);
         QVERIFY(m_site->asked("NetSetItem").isEmpty() && m_site->asked("NetSetNewConfig").isEmpty());
         m_site->site->requests().clear();
-        m_site->net->silentItem = 1108; // after the abilities
+        m_site->net->silentItem = 1108; // read after the capabilities
         m_site->factory->getCameraConfig("dh");
         QCOMPARE(result.size(), 2);
         QVERIFY(EncodeForm::isDeviceAway(result.last().first().toInt()));
         QVERIFY(!m_site->get("curChannelName").isValid());
     }
 
-    void nonsenseIsNotSent()
+    void invalidValuesAreNotSent()
     {
         open(camera());
         m_site->set("picture", "bright", "brightnessSlider");

@@ -1,4 +1,4 @@
-// The encode page on a simulated site: what it shows, what the device is asked, and what comes of it.
+// The encode page on a simulated site: shown values, requests to the device and their results.
 #include "device/models/encodeform.h"
 #include "sdk/encodeblocks.h"
 #include "tests/datatable.h"
@@ -69,8 +69,8 @@ private:
         return m_site->login(device) == 0 ? read() : 99;
     }
 
-    /// Copies the settings of `source` to `target`: what its row says then.
-    /// `prepare` runs when the source has been read.
+    /// Copies the settings of `source` to `target`. Returns the result in the row of `target`.
+    /// `prepare` runs after the source has been read.
     QString copy(
         const SceneDevice &source, const SceneDevice &target, const std::function<void()> &prepare = [] {})
     {
@@ -108,7 +108,7 @@ private:
 private Q_SLOTS:
     void cleanup() { m_site.reset(); }
 
-    void confirmWritesTheEightItems()
+    void savingWritesTheEightItems()
     {
         QCOMPARE(open(recorder()), 0);
         m_site->set("curChannel", 2);
@@ -136,25 +136,26 @@ private Q_SLOTS:
         QCOMPARE(written(1100, 4).value("videoEnable").toInt(), 0);
         QCOMPARE(written(1104, 4).value("audioEnable").toInt(), 0);
 
-        // It is the device's now, on this channel alone, and a later login reads it back.
+        // The device has stored the values for this channel only. A later login reads them.
         QCOMPARE(m_site->login(recorder()), 0);
         QCOMPARE(read(), 0);
         QCOMPARE(m_site->get("curResolution").toString(), "2688*1520");
         m_site->set("curChannel", 2);
         QCOMPARE(read(), 0);
-        QCOMPARE(m_site->shown("curEncodeMode curResolution curBitStream"), "H.264 H|1080P|-1"); // no step
+        QCOMPARE(m_site->shown("curEncodeMode curResolution curBitStream"),
+                 "H.264 H|1080P|-1"); // not a listed bit rate
         QCOMPARE(m_site->shown("subCurSamplingFrequency subSamplingFrequency"), "16000|8000,16000");
     }
 
-    void theSubStreamsSizeIsWrittenAtOnce_data()
+    void theSubStreamsSizeIsWrittenImmediately_data()
     {
-        // limit: what bit rates above are refused, 0 for none
+        // limit: higher bit rates are refused
         const auto row = dataTable<int, int, int>({"limit", "writes", "bitRate"});
-        row("taken", 1000000, 1, 512);
-        row("taken at a lower bit rate", 64, 4, 64); // after 512, 32 and 48
+        row("accepted", 1000000, 1, 512);
+        row("accepted at a lower bit rate", 64, 4, 64); // after 512, 32 and 48
     }
 
-    void theSubStreamsSizeIsWrittenAtOnce()
+    void theSubStreamsSizeIsWrittenImmediately()
     {
         QFETCH(int, limit);
         QFETCH(int, writes);
@@ -178,7 +179,7 @@ private Q_SLOTS:
         QCOMPARE(m_site->asked("NetGetNewConfig").first().value("channel").toInt(), 2);
         QCOMPARE(m_site->asked("NetQueryCapabilities").size(), 1);
         QCOMPARE(m_site->get("subCurResolution").toString(), "CIF");
-        QVERIFY(m_site->get("takenItems").toList().isEmpty()); // it went to another channel
+        QVERIFY(m_site->get("takenItems").toList().isEmpty()); // it was written to another channel
         m_site->site->clearFault(device.mac, Fault::RefusesBitRatesAbove);
         m_site->set("curVideoChannel", 2);
         m_site->set("subCurResolution", "CIF");
@@ -187,10 +188,10 @@ private Q_SLOTS:
         QCOMPARE(written(1100, 4).value("bitRate").toInt(), bitRate);
     }
 
-    void whatADeviceLacksIsNotOffered_data()
+    void missingFeaturesAreNotOffered_data()
     {
-        // missing: of both streams
-        // shown: "exists", "hasAudio", then what can be chosen; the switch of missing sound is not seen
+        // missing: in both streams
+        // shown: "exists", "hasAudio", then the enabled settings; the switch of missing sound is hidden
         using sdk::EncodeValue;
         const auto row = dataTable<QVariantList, QList<EncodeValue>, QString, QString>(
             {"audioFormats", "missing", "shown", "writes"});
@@ -205,7 +206,7 @@ private Q_SLOTS:
         row("the stream", {2, 4}, {EncodeValue::Stream}, "hasAudio audioCompression audioEnable", "");
     }
 
-    void whatADeviceLacksIsNotOffered()
+    void missingFeaturesAreNotOffered()
     {
         QFETCH(QVariantList, audioFormats);
         QFETCH(QList<sdk::EncodeValue>, missing);
@@ -220,7 +221,7 @@ private Q_SLOTS:
                     block.missingValues |= 1U << static_cast<unsigned>(value);
             }
         };
-        // As a device does that has no such items.
+        // A device without the setting does not have the item either.
         if (!missing.isEmpty() && missing.first() == sdk::EncodeValue::Stream)
             m_site->site->setFault(device.mac, {Fault::WithholdsItem, 1100, QString()});
         if (audioFormats.isEmpty())
@@ -265,23 +266,23 @@ private Q_SLOTS:
         m_site->set("curSamplingFrequency", "48000");
         m_site->set("curAudioCompression", "AAC");
         QCOMPARE(m_site->shown(keys), "AAC|48000|16000,48000");
-        m_site->set("curAudioCompression", "G711u"); // of which the device reports none
+        m_site->set("curAudioCompression", "G711u"); // the device reports no frequency of it
         QCOMPARE(m_site->shown(keys), "G711u|8000|8000");
         QCOMPARE(m_site->shown("subCurSamplingFrequency subSamplingFrequency"), "8000|8000");
     }
 
-    void aReadThatFailsSaysWhy_data()
+    void aFailedReadReportsItsReason_data()
     {
-        // overlay: of the main stream's width, empty for none
+        // overlay: of the main stream's width; empty: none
         const auto row = dataTable<std::optional<Fault>, QString, int>({"fault", "overlay", "result"});
         row("refused", Fault::RefusesConfiguration, "", static_cast<int>(sdk::NetError::NotSupported));
         row("no JSON", Fault::OddConfiguration, "", 1);
         row("no capabilities", Fault::RefusesCapabilities, "", 10);
-        row("away", Fault::NoAnswer, "", static_cast<int>(sdk::NetError::ConnectTimeout));
+        row("offline", Fault::NoAnswer, "", static_cast<int>(sdk::NetError::ConnectTimeout));
         row("number out of range", {}, "70000", 1);
     }
 
-    void aReadThatFailsSaysWhy()
+    void aFailedReadReportsItsReason()
     {
         QFETCH(std::optional<Fault>, fault);
         QFETCH(QString, overlay);
@@ -304,11 +305,11 @@ private Q_SLOTS:
         QVERIFY(m_site->get("frameRateMax").toInt() >= 0);
     }
 
-    void whatWasNotReadIsNotWritten_data()
+    void unreadItemsAreNotWritten_data()
     {
-        // fault: when another channel is read
-        // silentItem: 0 for none
-        // writes: of a saving after it, which nothing disturbs
+        // fault: while another channel is read
+        // silentItem: 0: none
+        // writes: of a later save without faults
         const auto row = dataTable<std::optional<Fault>, int, bool, QString, QString>(
             {"fault", "silentItem", "isAway", "reads", "writes"});
         row("refused", Fault::WithholdsItem, 0, false,
@@ -319,7 +320,7 @@ private Q_SLOTS:
         row("no response at all", Fault::NoAnswer, 0, true, "", "");
     }
 
-    void whatWasNotReadIsNotWritten()
+    void unreadItemsAreNotWritten()
     {
         QFETCH(std::optional<Fault>, fault);
         QFETCH(int, silentItem);
@@ -327,11 +328,11 @@ private Q_SLOTS:
         const SceneDevice device = recorder();
         QCOMPARE(open(device), 0);
         m_site->set("curStreamType", 1);
-        QVERIFY(confirm().contains("没有读到")); // these would be the settings of the first stream
+        QVERIFY(confirm().contains("没有读到")); // the read settings belong to the first stream
         m_site->set("curStreamType", 0);
         QCOMPARE(read(), 0);
         m_site->set("curChannel", 2);
-        QVERIFY(confirm().contains("没有读到")); // these would be the settings of the first channel
+        QVERIFY(confirm().contains("没有读到")); // the read settings belong to the first channel
         QVERIFY(m_site->asked("NetSetItem").isEmpty());
         if (fault)
             m_site->site->setFault(device.mac, {*fault, 1104, "Encode"});
@@ -340,7 +341,8 @@ private Q_SLOTS:
         const int result = read();
         QTEST(EncodeForm::isDeviceAway(result), "isAway");
         QTEST(places("NetGetItem"), "reads");
-        QCOMPARE(m_site->asked("NetGetNewConfig").size(), result == 0 ? 2 : 1); // then "VideoColor", too
+        QCOMPARE(m_site->asked("NetGetNewConfig").size(),
+                 result == 0 ? 2 : 1); // "VideoColor" follows only then
         QVERIFY(!m_site->get("audioEnable").isValid());
 
         if (fault)
@@ -358,7 +360,7 @@ private Q_SLOTS:
         QCOMPARE(m_site->get("unreadItems").toStringList().size(), unread);
     }
 
-    void anItemThatOneOfTheDevicesDoesNotTellIsLeftAsItIs_data()
+    void aCopySkipsItemsThatCannotBeRead_data()
     {
         const auto row = dataTable<bool, int, QString>({"ofSource", "item", "names"});
         row("target", false, 1104, "主码流编码音频压缩格式、辅码流编码音频压缩格式");
@@ -366,7 +368,7 @@ private Q_SLOTS:
             "主码流编码音频压缩格式、主码流编码音频格式、辅码流编码音频压缩格式、辅码流编码音频格式配置");
     }
 
-    void anItemThatOneOfTheDevicesDoesNotTellIsLeftAsItIs()
+    void aCopySkipsItemsThatCannotBeRead()
     {
         QFETCH(bool, ofSource);
         QFETCH(int, item);
@@ -380,7 +382,7 @@ private Q_SLOTS:
         QCOMPARE(skipped, "未复制：" + names);
     }
 
-    void aCopyKeepsTheBitRateControlOfADeviceThatHasNoChoice()
+    void aCopyKeepsAFixedBitRateControl()
     {
         const QString skipped = copy(modernCamera(), configDevice(6, "IPC", 1), [this] {
             m_site->set("bitstreamControl", 0);
@@ -394,17 +396,17 @@ private Q_SLOTS:
         QCOMPARE(written(1100, 1).value("bitRateControl").toInt(), 1);
     }
 
-    void aCopyLeavesProfilesThatTheSourceDoesNotHave_data()
+    void aCopyKeepsProfilesThatTheSourceLacks_data()
     {
         // compression: of the source, which reports no profiles
-        // profiles: that the target reports
+        // profiles: reported by the target
         const auto row = dataTable<int, QVariantList, int>({"compression", "profiles", "written"});
         row("H.265", 8, QVariantList{1, 2, 4}, 2);
         row("H.264", 7, QVariantList{1, 4}, 1);
         row("H.264, and the target has none either", 7, QVariantList(), 2);
     }
 
-    void aCopyLeavesProfilesThatTheSourceDoesNotHave()
+    void aCopyKeepsProfilesThatTheSourceLacks()
     {
         QFETCH(int, compression);
         QFETCH(QVariantList, profiles);
@@ -427,7 +429,7 @@ private Q_SLOTS:
         SceneDevice locked = configDevice(5, "IPC", 1);
         locked.faults = {{Fault::WrongPassword}};
         SceneDevice twin = configDevice(6, "IPC", 1);
-        const QJsonObject sub = {{"sizes", list({"352*288", "704*576"})}}; // the small one is set
+        const QJsonObject sub = {{"sizes", list({"352*288", "704*576"})}}; // the small size is selected
         twin.capabilities = {{"encode", QJsonObject{{"sub", sub}}}};
         m_site = std::make_unique<ConfigSite>(QList{modernCamera(), oldCamera(), refusing, locked, twin});
         const QStringList targets = {ipportOf(oldCamera()), ipportOf(refusing), ipportOf(locked),
@@ -435,7 +437,8 @@ private Q_SLOTS:
         for (const SceneDevice &device : {oldCamera(), twin})
             m_site->factory->getLoginDevice("dh", device.address, "admin", "secret1", "37777");
         QSignalSpy results(m_site->factory.get(), &CDeviceFactory::signalRetToCopyConfig);
-        m_site->factory->copyConfigToDevice("dh", {ipportOf(twin)}); // nothing is known that could be copied
+        m_site->factory->copyConfigToDevice("dh",
+                                            {ipportOf(twin)}); // nothing has been read that could be copied
         QCOMPARE(results.takeFirst().at(1).toInt(), 10);
 
         QCOMPARE(m_site->login(modernCamera()), 0);
@@ -446,11 +449,11 @@ private Q_SLOTS:
         m_site->set("subCurBitStream", "3072");
         m_site->site->requests().clear();
         m_site->factory->copyConfigToDevice("dh", targets);
-        QStringList told;
+        QStringList reported;
         for (const QList<QVariant> &result : results)
-            told.append(result.at(0).toString() + ' ' + result.at(1).toString());
-        QCOMPARE(told, QStringList({"192.168.1.2:37777 0", "192.168.1.4:37777 999", "192.168.1.5:37777 2",
-                                    "192.168.1.99:37777 5", "192.168.1.6:37777 0"}));
+            reported.append(result.at(0).toString() + ' ' + result.at(1).toString());
+        QCOMPARE(reported, QStringList({"192.168.1.2:37777 0", "192.168.1.4:37777 999", "192.168.1.5:37777 2",
+                                        "192.168.1.99:37777 5", "192.168.1.6:37777 0"}));
         QCOMPARE(m_site->site->requests().of("NetLogout").size(), 3);
         const auto rowResult = [this](const SceneDevice &device) {
             return m_site->factory->getDeviceInfo("dh", ipportOf(device)).value("result").toString();
@@ -461,7 +464,7 @@ private Q_SLOTS:
         QCOMPARE(m_site->login(twin), 0);
         QCOMPARE(read(), 0);
         QCOMPARE(m_site->shown("curResolution subCurResolution"),
-                 "1080P|D1"); // with a bit rate that it needs
+                 "1080P|D1"); // the larger size allows the bit rate
         QCOMPARE(m_site->get("subBitStream").toStringList().value(m_site->get("subCurBitStream").toInt()),
                  "3072");
         QCOMPARE(m_site->login(oldCamera()), 0);

@@ -1,4 +1,4 @@
-// The tables between codes and texts, and what a capability block lets a page offer.
+// The tables of codes and names, and the choices derived from a capability block.
 #include "device/dh/encode/encodechoices.h"
 #include "tests/datatable.h"
 
@@ -76,7 +76,7 @@ private Q_SLOTS:
         QCOMPARE(ValueTables::audioNameToFormat("g711a"), 0);
     }
 
-    void compressionsFollowMaskAndProfiles_data()
+    void compressionsDependOnMaskAndProfiles_data()
     {
         const auto row =
             dataTable<quint32, quint32, QList<int>, QStringList>({"mask", "count", "profiles", "offered"});
@@ -88,7 +88,7 @@ private Q_SLOTS:
         row("count beyond its bound", h264, 0xFFFFFFFFu, QList<int>({1}), QStringList({"H.264 B"}));
     }
 
-    void compressionsFollowMaskAndProfiles()
+    void compressionsDependOnMaskAndProfiles()
     {
         QFETCH(quint32, mask);
         QFETCH(quint32, count);
@@ -100,7 +100,7 @@ private Q_SLOTS:
         QTEST(EncodeChoices(m_tables, block).compressions(), "offered");
     }
 
-    void resolutionsAreCommonOrByCompression()
+    void resolutionsMayDependOnTheCompression()
     {
         sdk::EncodeCapabilityBlock block = filledBlock();
         block.compressionMask = 1u << 0 | 1u << 8;
@@ -108,7 +108,7 @@ private Q_SLOTS:
         block.sizes.sizes = {{{1920, 1080}, {2688, 1520}, {0, 720}, {800, 600}}};
         block.sizesByCompression[0].count = 1;
         block.sizesByCompression[0].sizes[0] = {1920, 1080};
-        block.sizesByCompression[3].count = 1; // of a compression that it does not have
+        block.sizesByCompression[3].count = 1; // a compression that is not in the mask
         block.sizesByCompression[3].sizes[0] = {352, 288};
         block.sizesByCompression[8].count = 0xFFFFFFFF;
         block.sizesByCompression[8].sizes[0] = {1920, 1080};
@@ -116,23 +116,23 @@ private Q_SLOTS:
         QCOMPARE(choices.resolutions(), QStringList({"1080P", "2688*1520", "800*600"}));
         block.sizesDependOnCompression = 1;
         QCOMPARE(choices.resolutions(), QStringList({"1080P", "1080P"}));
-        block.size = 0; // the device has not filled it
+        block.size = 0; // the device has not filled the block
         QVERIFY(choices.resolutions().isEmpty() && choices.compressions().isEmpty());
         QVERIFY(choices.bitRates().isEmpty() && choices.audioCompressions().isEmpty());
     }
 
-    void bitRatesRunBetweenTheBounds_data()
+    void bitRatesAreBetweenTheBounds_data()
     {
         const auto row =
             dataTable<int, int, QString, QString, int>({"minimum", "maximum", "first", "last", "count"});
         row("all", 32, 30000, "32", "18432", 32);
         row("between steps", 50, 100, "64", "96", 3);
-        row("none between", 50, 60, QString(), QString(), 0);
+        row("none in the range", 50, 60, QString(), QString(), 0);
         row("minimum above every step", 20000, 128, "32", "128", 6);
         row("maximum below every step", 10240, 0, "10240", "18432", 5);
     }
 
-    void bitRatesRunBetweenTheBounds()
+    void bitRatesAreBetweenTheBounds()
     {
         QFETCH(int, minimum);
         QFETCH(int, maximum);
@@ -145,7 +145,7 @@ private Q_SLOTS:
         QTEST(offered.value(offered.size() - 1), "last");
     }
 
-    void chosenTextsBecomeCodes()
+    void selectedNamesHaveCodes()
     {
         QCOMPARE(compressionChoice(m_tables, "H.264 H")->profile, 4);
         QCOMPARE(compressionChoice(m_tables, "H.264  ")->code, 7);

@@ -1,4 +1,4 @@
-// Logins to the devices that a search has found, and requests to devices without a MAC.
+// Logins to the found devices, and requests to devices without a MAC.
 #include "device/dh/devicedh.h"
 #include "device/dh/logins/foundlogins.h"
 #include "device/registry/devicestore.h"
@@ -14,7 +14,7 @@
 
 namespace {
 
-/// Devices that all have one account. Keeps what they were asked.
+/// Devices that all have one account. Records the requests.
 class OneAccountLibrary : public QuietNetLibrary
 {
 public:
@@ -67,7 +67,7 @@ private:
     QStringList m_logins; ///< addresses
 };
 
-/// An answer of a device that reports nothing but its name.
+/// The response of a device that reports only its name.
 sdk::SearchAnswer bareAnswer(const AnswerTexts &texts)
 {
     sdk::SearchAnswer answer = searchAnswer(texts);
@@ -94,7 +94,7 @@ private:
         return libraries;
     }
 
-    /// A search that finds the devices of `m_store`. Returns the addresses that were logged in to.
+    /// Runs the logins of a search that found the devices of `m_store`. Returns their addresses.
     QStringList search(FoundLogins &logins, const QString &account, const QString &password) const
     {
         AccountChoice accounts;
@@ -122,17 +122,17 @@ private Q_SLOTS:
     void rowsAreCompleted()
     {
         m_store->addAnswer(bareAnswer({.address = "192.168.1.10", .mac = "", .uuid = "5f5a"}));
-        m_store->addAnswer(searchAnswer({.address = "192.168.1.11"})); // lacks nothing
+        m_store->addAnswer(searchAnswer({.address = "192.168.1.11"})); // complete
         m_store->addAnswer(bareAnswer(
             {.address = "192.168.1.12", .mac = "m3", .state = sdk::InitialisationBits::Uninitialised}));
         FoundLogins logins(m_store, libraries());
         QCOMPARE(search(logins, "admin", "right"), QStringList("192.168.1.10"));
         QCOMPARE(valuesOf(m_store->rowNamed("uuid:5f5a"), "model vision mac"), "B-1|v9.1|02:1a:c5:00:00:09");
         QCOMPARE(sdk::blockText(m_store->record("uuid:5f5a")->device.serialNumber), "S9");
-        QCOMPARE(search(logins, "", ""), QStringList()); // switched off
+        QCOMPARE(search(logins, "", ""), QStringList()); // disabled
     }
 
-    void aDeviceIsAskedWithItsOwnAccount()
+    void aDeviceIsQueriedWithItsOwnAccount()
     {
         m_store->addAnswer(bareAnswer({.address = "192.168.1.10", .mac = "m7"}));
         m_store->addAnswer(bareAnswer({.address = "192.168.1.11", .mac = "m8"}));
@@ -149,7 +149,7 @@ private Q_SLOTS:
         FoundLogins logins(m_store, libraries());
         QCOMPARE(search(logins, "admin", "wrong"), device);
         QCOMPARE(search(logins, "admin", "wrong"), QStringList());
-        m_store->clear(); // found without its MAC the next time
+        m_store->clear(); // the next search finds it without its MAC
         m_store->addAnswer(bareAnswer({.address = "192.168.1.10", .mac = ""}));
         QCOMPARE(search(logins, "admin", "wrong"), QStringList());
         QCOMPARE(search(logins, "", ""), QStringList());
@@ -159,19 +159,19 @@ private Q_SLOTS:
         QCOMPARE(valuesOf(m_store->row("192.168.1.10:37777"), "model mac"), "B-1|02:1a:c5:00:00:09");
     }
 
-    void aDeviceWithoutAMacTakesRequests_data()
+    void aDeviceWithoutAMacCanBeChanged_data()
     {
-        const auto row = dataTable<QByteArray, bool, bool>({"uuid", "isNew", "isAsked"});
+        const auto row = dataTable<QByteArray, bool, bool>({"uuid", "isNew", "isSent"});
         row("first password", "5f5a", true, true);
         row("address", "5f5a", false, true);
         row("no UUID either", "", true, false);
     }
 
-    void aDeviceWithoutAMacTakesRequests()
+    void aDeviceWithoutAMacCanBeChanged()
     {
         QFETCH(QByteArray, uuid);
         QFETCH(bool, isNew);
-        QFETCH(bool, isAsked);
+        QFETCH(bool, isSent);
         const auto state =
             isNew ? sdk::InitialisationBits::Uninitialised : sdk::InitialisationBits::Initialised;
         m_store->addAnswer(searchAnswer({.mac = "", .state = state, .uuid = uuid.toStdString()}));
@@ -180,9 +180,9 @@ private Q_SLOTS:
         const DeviceStep step = isNew ? backEnd.initialisationStep(name, "admin", "first-1")
                                       : backEnd.addressStep(name, "192.168.1.70", "255.255.255.0", "", false);
         const StepOutcome outcome = step(StepControl());
-        QCOMPARE(outcome.result == 0, isAsked);
+        QCOMPARE(outcome.result == 0, isSent);
         const std::string kind = isNew ? "password" : "address";
-        QCOMPARE(m_net->m_requested, isAsked ? kind + " at 192.168.1.64" : std::string());
+        QCOMPARE(m_net->m_requested, isSent ? kind + " at 192.168.1.64" : std::string());
         QCOMPARE(m_store->rowNamed(name).value("res").toInt(), outcome.result);
     }
 };

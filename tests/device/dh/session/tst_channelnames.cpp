@@ -1,4 +1,4 @@
-// The names of channels on a simulated recorder: read, edited and written, each channel for itself.
+// The names of channels on a simulated recorder: read, edited and written one by one.
 #include "device/models/channelnameform.h"
 #include "device/registry/bytetext.h"
 #include "device/work/sessionwork.h"
@@ -46,7 +46,7 @@ private:
         m_site->site->setFault(m_device.mac, {.fault = fault, .number = number, .text = {}});
     }
 
-    /// A form with the names of the device that is logged in to.
+    /// A form with the names of the current device.
     std::unique_ptr<ChannelNameForm> form() const
     {
         auto form = std::make_unique<ChannelNameForm>();
@@ -63,7 +63,7 @@ private:
 
     void reportSaving() const { m_site->set("channelNamesSaved", true); }
 
-    /// Saves what was changed and returns how that ended for a row.
+    /// Saves the changes and returns the result of a row.
     static ChannelNameForm::Trouble saved(ChannelNameForm &form, int row)
     {
         QSignalSpy saved(&form, &ChannelNameForm::saved);
@@ -72,7 +72,7 @@ private:
     }
 
     /// Saves new names of three channels and returns the arguments of saved().
-    static QVariantList savingOf(ChannelNameForm &form, const QString &name)
+    static QVariantList resultOfSaving(ChannelNameForm &form, const QString &name)
     {
         for (const int row : {3, 4, 5})
             form.set(row, name + QString::number(row));
@@ -104,7 +104,7 @@ private Q_SLOTS:
         setFault(Fault::RefusesItem, 1108);
         m_site->set("channelName", "东门", "5");
         QCOMPARE(result(5), 999);
-        QCOMPARE(finished.size(), 0); // the saving goes on
+        QCOMPARE(finished.size(), 0); // the save continues
         for (const char *channel : {"16", "-1", "", "x"}) {
             QTest::ignoreMessage(QtWarningMsg, QRegularExpression("there is no channel.*"));
             m_site->set("channelName", "x", channel);
@@ -112,14 +112,14 @@ private Q_SLOTS:
         QCOMPARE(m_site->asked("NetSetItem").size(), 2);
     }
 
-    void aSavingEndsEarly_data()
+    void aSaveEndsEarly_data()
     {
         const auto row = dataTable<bool, QVariantList, int>({"isAway", "outcome", "requests"});
-        row("the device is away", true, QVariantList({3, 0, 3}), 1);
+        row("the device is offline", true, QVariantList({3, 0, 3}), 1);
         row("the user stops it", false, QVariantList({3, 1, -1}), 1);
     }
 
-    void aSavingEndsEarly()
+    void aSaveEndsEarly()
     {
         QFETCH(const bool, isAway);
         open(recorder());
@@ -130,28 +130,28 @@ private Q_SLOTS:
             if (!isAway && form->savingRow() == 4)
                 form->stopSaving();
         });
-        QTEST(savingOf(*names, "Hof "), "outcome");
+        QTEST(resultOfSaving(*names, "Hof "), "outcome");
         QTEST(static_cast<int>(m_site->asked("NetSetItem").size()), "requests");
         QVERIFY(!names->isSaving());
     }
 
-    void textsAreCutByBytesBetweenLetters_data()
+    void textsAreTruncatedBetweenCharacters_data()
     {
-        const auto row = dataTable<QString, int, QString>({"text", "bytes", "cut"});
-        row("inside a letter", "大门", 5, "大");
-        row("accent of its own", "ae\u0301", 2, "a");
-        row("beyond the base plane", "a😀b", 4, "a");
-        row("joined signs", "a👨‍👩‍👧", 12, "a");
+        const auto row = dataTable<QString, int, QString>({"text", "bytes", "truncated"});
+        row("inside a character", "大门", 5, "大");
+        row("combining accent", "ae\u0301", 2, "a");
+        row("outside the basic multilingual plane", "a😀b", 4, "a");
+        row("joined characters", "a👨‍👩‍👧", 12, "a");
     }
 
-    void textsAreCutByBytesBetweenLetters()
+    void textsAreTruncatedBetweenCharacters()
     {
         QFETCH(const QString, text);
         QFETCH(const int, bytes);
-        QTEST(ByteText::cutTo(text, bytes), "cut");
+        QTEST(ByteText::cutTo(text, bytes), "truncated");
     }
 
-    void changesCountUntilTheyAreWrittenOrTakenBack()
+    void changesCountUntilTheyAreSavedOrReverted()
     {
         open(recorder());
         const auto names = form();
@@ -168,11 +168,11 @@ private Q_SLOTS:
 
         names->takeBack(3);
         QCOMPARE(saved(*names, 0), ChannelNameForm::None);
-        QCOMPARE(names->get(0).value("name").toString(), "正门"); // without the blanks
+        QCOMPARE(names->get(0).value("name").toString(), "正门"); // without the spaces
         names->set(3, "Hof");
         setFault(Fault::RefusesItem, 1108);
         QCOMPARE(saved(*names, 3), ChannelNameForm::Refused);
-        QCOMPARE(names->changedCount(), 1); // can be tried again
+        QCOMPARE(names->changedCount(), 1); // can be retried
         QCOMPARE(names->failedCount(), 1);
         setFault(Fault::NoAnswer);
         QCOMPARE(saved(*names, 3), ChannelNameForm::Unanswered);
@@ -180,7 +180,7 @@ private Q_SLOTS:
         QCOMPARE(troubleOf(*names, 3), ChannelNameForm::None);
     }
 
-    void aNameThatIsNotToldCanBeGiven()
+    void anUnreadNameCanBeSet()
     {
         open(recorder());
         setFault(Fault::WithholdsItem, 1108);

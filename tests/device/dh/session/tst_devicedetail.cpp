@@ -1,4 +1,4 @@
-// What is known of a device: by a search, and by a login that leaves the current session alone.
+// The details of a device: from a search, and from a login that does not affect the current session.
 #include "device/models/devicedetailmodel.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
@@ -43,7 +43,7 @@ private Q_SLOTS:
     void init() { m_site = std::make_unique<ConfigSite>(QList<SceneDevice>{m_device}); }
     void cleanup() { m_site.reset(); }
 
-    void aLoginTellsPortsChannelsAndDisks()
+    void aLoginReportsPortsChannelsAndDisks()
     {
         QCOMPARE(m_site->login(m_device), 0);
         const QVariant handle = m_site->get("loginHandle");
@@ -59,11 +59,11 @@ private Q_SLOTS:
         QVERIFY(!model.text().contains("secret1"));
 
         QCOMPARE(m_site->get("loginHandle"), handle);
-        QCOMPARE(m_site->asked("NetLogout").size(), 1); // of the login that was made for it
+        QCOMPARE(m_site->asked("NetLogout").size(), 1); // of the separate login
         QCOMPARE(m_site->factory->getDeviceChannelData("dh", "channelNames", 0).size(), 4);
     }
 
-    void aLoginThatFailsSaysWhy()
+    void aFailedLoginReportsItsReason()
     {
         m_site->site->setFault(m_device.mac, {.fault = Fault::WrongPassword, .number = 0, .text = {}});
         QCOMPARE(read(), QVariantMap({{"loginResult", 2}}));

@@ -1,4 +1,4 @@
-// Sessions that are opened while the scene goes on: the present one where it is alive, else a new login.
+// Sessions that are opened in the background: the current one if it is alive, otherwise a new login.
 #include "sdk/netlibrary.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
@@ -42,7 +42,7 @@ private:
         m_site->factory->openSession("dh", ipport, "admin", password, readsChannels);
     }
 
-    /// Waits until as many logins have ended as there were.
+    /// Waits until every login has been logged out.
     [[nodiscard]] bool everyLoginEnds() const
     {
         return QTest::qWaitFor([this] {
@@ -61,10 +61,10 @@ private Q_SLOTS:
         m_site.reset();
     }
 
-    void aNewLoginBringsTheChannels()
+    void aNewLoginReportsTheChannels()
     {
         open(ipportOf(m_recorder));
-        QCOMPARE(m_opened->size(), 0); // nothing is waited for
+        QCOMPARE(m_opened->size(), 0); // the call returns before the login
         QVERIFY(m_opened->wait());
         QCOMPARE(m_opened->first().at(0).toString(), ipportOf(m_recorder));
         QCOMPARE(m_opened->first().at(1).toInt(), 0);
@@ -73,11 +73,11 @@ private Q_SLOTS:
         QCOMPARE(channels.at(0).toMap(),
                  QVariantMap({{"channel", 0}, {"name", "大门"}, {"connected", true}}));
         QCOMPARE(channels.at(1).toMap().value("connected").toBool(), false);
-        QCOMPARE(m_logins->size(), 1); // the other pages hear of it
+        QCOMPARE(m_logins->size(), 1); // the other pages are notified
         QCOMPARE(m_site->get("sessionDevice").toString(), ipportOf(m_recorder));
     }
 
-    void aSessionThatAnswersGoesOn()
+    void anAliveSessionContinues()
     {
         QCOMPARE(m_site->login(m_recorder), 0);
         const QVariant handle = m_site->get("loginHandle");
@@ -90,11 +90,11 @@ private Q_SLOTS:
         QCOMPARE(m_opened->last().at(1).toInt(), 0);
         QVERIFY(m_site->asked("NetGetItem").isEmpty());
         QVERIFY(m_site->asked("NetLoginSecure").isEmpty());
-        QCOMPARE(m_logins->size(), 1); // of the first login: what is not saved yet is not forgotten
+        QCOMPARE(m_logins->size(), 1); // of the first login only, so that pages keep their unsaved changes
         QCOMPARE(m_site->get("loginHandle"), handle);
     }
 
-    void aRestartedDeviceIsLoggedInToAnew()
+    void aRestartedDeviceGetsANewLogin()
     {
         QCOMPARE(m_site->login(m_recorder), 0);
         const qint64 handle = m_site->get("loginHandle").toLongLong();
@@ -126,7 +126,7 @@ private Q_SLOTS:
         QCOMPARE(checked.first().first().toBool(), false);
 
         m_site->factory->openSession("dh", ipportOf(m_recorder), "admin", "secret1", true,
-                                     true); // by the user
+                                     true); // requested by the user
         QVERIFY(m_opened->wait());
         QCOMPARE(m_opened->last().at(1).toInt(), 2);
         QCOMPARE(m_site->asked("NetLoginSecure").size(), 1);
@@ -135,7 +135,7 @@ private Q_SLOTS:
         QCOMPARE(m_opened->last().at(1).toInt(), 0);
     }
 
-    void whatIsGivenUpLeavesNothing()
+    void aCancelledLoginLeavesNoSession()
     {
         open(ipportOf(m_recorder));
         QVERIFY(m_site->site->requests().waitFor("NetLoginSecure", 1));
@@ -144,14 +144,14 @@ private Q_SLOTS:
         QCOMPARE(m_site->get("loginHandle").toLongLong(), 0);
         QCOMPARE(m_opened->size(), 0);
 
-        open(ipportOf(m_recorder)); // overtaken by the next
+        open(ipportOf(m_recorder)); // replaced by the next request
         open(ipportOf(m_camera));
         QVERIFY(m_opened->wait());
         QCOMPARE(m_opened->first().at(0).toString(), ipportOf(m_camera));
         QCOMPARE(m_site->get("sessionDevice").toString(), ipportOf(m_camera));
     }
 
-    void theEndMayComeInTheMidst()
+    void closingDuringALoginEndsCleanly()
     {
         open(ipportOf(m_recorder));
         open("192.168.1.77:37777");

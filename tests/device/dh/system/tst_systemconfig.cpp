@@ -1,4 +1,4 @@
-// System configuration: what devices are asked, what becomes of them, and what their rows are told.
+// System configuration: requests to devices, their effects, and the results in the rows.
 #include "tests/datatable.h"
 #include "tests/device/dh/factorysite.h"
 
@@ -65,7 +65,7 @@ private:
         m_factory->systemConfig("dh", command, data, ipports);
     }
 
-    /// "address:port result" in the order of their coming.
+    /// "last octet of the address, result" in the order of the signals.
     QStringList results() const
     {
         QStringList lines;
@@ -75,7 +75,7 @@ private:
         return lines;
     }
 
-    /// The last request of a kind, without the handle.
+    /// The last request of an operation, without the handle.
     QJsonObject lastRequest(const char *operation) const
     {
         const auto requests = m_site->requests().of(operation);
@@ -123,7 +123,7 @@ private Q_SLOTS:
         QCOMPARE(results(), QStringList());
     }
 
-    void aRefusalIsNamed_data()
+    void aRefusalIsReportedForItsDevice_data()
     {
         const auto row = dataTable<QString, QVariantMap, QString, int, QString>(
             {"command", "data", "fault", "number", "text"});
@@ -136,7 +136,7 @@ private Q_SLOTS:
         row("reset", "resetSystem", QVariantMap(), "refusesReset", 0, "");
     }
 
-    void aRefusalIsNamed()
+    void aRefusalIsReportedForItsDevice()
     {
         QFETCH(QString, command);
         QFETCH(QVariantMap, data);
@@ -177,10 +177,10 @@ private Q_SLOTS:
         });
         run("dstConfig", with(with(daylightSaving(), "dstMode", 0), "dstEnable", false));
         QCOMPARE(valuesOf(configuration("Locales"), "beginWeek beginDay endDay daylightSaving timeFormat"),
-                 "0|1|31|false|dd.MM.yyyy"); // what it does not change stays
+                 "0|1|31|false|dd.MM.yyyy"); // other settings are kept
     }
 
-    void aClockIsReadWithItsDifference()
+    void aClockIsReadWithItsDeviation()
     {
         const auto read = [this](const QString &device) {
             return m_factory->systemStep("dh", "readTime", {}, device)(StepControl());
@@ -189,7 +189,7 @@ private Q_SLOTS:
         run("setTimeByManual", {{"time", ahead.toString("yyyy-MM-dd HH:mm:ss")}});
         const StepOutcome outcome = read(camera);
         QCOMPARE(outcome.result, 0);
-        // Time passes on the site as fast as requests wait.
+        // The site's clock advances with each request.
         static const QRegularExpression text("^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d，快 3 小时 1 分$");
         QVERIFY2(text.match(outcome.text).hasMatch(), qPrintable(outcome.text));
         QCOMPARE(read(absent), (StepOutcome{.result = 5, .text = {}}));
@@ -205,12 +205,12 @@ private Q_SLOTS:
                  QJsonObject({{"size", 4}, {"outputSize", 4}, {"wait", 5000}}));
         m_clock->advance(60s);
         run("rebootDevice");
-        QCOMPARE(results(), QStringList("10 12")); // waits for its first password
+        QCOMPARE(results(), QStringList("10 12")); // not initialised
         QVERIFY(m_site->device(cameraMac)->isUninitialised());
         QVERIFY(configuration("NTP").isEmpty());
     }
 
-    void dataThatMakeNoSenseAreSentToNobody_data()
+    void invalidDataIsNotSent_data()
     {
         const auto addRow = dataTable<QString, QVariantMap>({"command", "data"});
         const auto row = [&addRow](const char *title, const QString &command, const QVariantMap &data = {}) {
@@ -236,17 +236,17 @@ private Q_SLOTS:
         row("third standard", "videoStandard", {{"videoStandard", 3}});
     }
 
-    void dataThatMakeNoSenseAreSentToNobody()
+    void invalidDataIsNotSent()
     {
         QFETCH(QString, command);
         QFETCH(QVariantMap, data);
         m_site->requests().clear();
         run(command, data, {camera, recorder, absent});
-        QCOMPARE(results(), QStringList({"10 999", "11 999", "99 5"})); // the login is judged first
+        QCOMPARE(results(), QStringList({"10 999", "11 999", "99 5"})); // a failed login takes precedence
         QCOMPARE(m_site->requests().all().size(), asked("NetLoginSecure") + asked("NetLogout"));
     }
 
-    void aNewPasswordIsThePassword()
+    void aNewPasswordIsUsedAfterwards()
     {
         m_store->changeRow(recorderMac, [](QJsonObject &row) { row.insert("password", "no longer known"); });
         run("loginCheck", {{"password", "secret1"}}, {camera, absent, recorder});
@@ -258,20 +258,20 @@ private Q_SLOTS:
         QCOMPARE(results(), QStringList("10 0"));
         QCOMPARE(lastRequest("NetModifyPassword"),
                  QJsonObject({{"size", 256}, {"account", "admin"}, {"passwordLength", 11}, {"wait", 10000}}));
-        QCOMPARE(asked("NetLoginSecure"), 3); // no login of its own
+        QCOMPARE(asked("NetLoginSecure"), 3); // no additional login
         QCOMPARE(m_store->row(cameraMac).value("password").toString(), "brand-new-2");
-        run("modifyPassword", {{"password", "newer-still-3"}}, {camera}); // the login is kept still
+        run("modifyPassword", {{"password", "newer-still-3"}}, {camera}); // the login is still open
         QCOMPARE(results(), QStringList("10 0"));
 
         run("cancelLogin", {}, {});
         QTRY_COMPARE(asked("NetLogout"), 2);
         run("modifyPassword", {{"password", "too-late-4"}}, {camera, recorder});
         QCOMPARE(results(), QStringList());
-        run("rebootDevice", {}, {camera}); // with what the row knows
+        run("rebootDevice", {}, {camera}); // with the account of the row
         QCOMPARE(results(), QStringList("10 0"));
     }
 
-    void aPasswordThatIsRefusedChangesNothing()
+    void aRefusedPasswordChangesNothing()
     {
         run("loginCheck", {{"password", "wrong"}}, {camera, recorder});
         QCOMPARE(results(), QStringList({"10 2", "11 2"}));
@@ -281,20 +281,21 @@ private Q_SLOTS:
         run("modifyPassword", {{"password", "brand-new-2"}}, {camera});
         QCOMPARE(results(), QStringList("10 999"));
         QVERIFY(!m_store->row(cameraMac).contains("password"));
-        for (const QString &password : {QString(), QString(64, 'p')}) { // none, and one that would be cut
+        for (const QString &password :
+             {QString(), QString(64, 'p')}) { // an empty one, and one that would be truncated
             run("modifyPassword", {{"password", password}}, {recorder});
             QCOMPARE(results(), QStringList("11 999"));
         }
         QCOMPARE(m_store->row(recorderMac).value("password").toString(), "secret1");
     }
 
-    void keptLoginsAreEnded()
+    void openLoginsAreLoggedOut()
     {
         run("loginCheck", {{"password", "secret1"}}, {camera, recorder});
         run("loginCheck", {{"password", "secret1"}}, {camera});
         QCOMPARE(asked("NetLogout"), 1); // replaced
         run("loginCheck", {{"password", "wrong"}}, {camera});
-        QCOMPARE(asked("NetLogout"), 2); // a check that fails leaves none
+        QCOMPARE(asked("NetLogout"), 2); // a failed check leaves no login
         m_results.reset();
         m_enabled.reset();
         m_factory.reset();

