@@ -1,8 +1,8 @@
 #include "device/batch/batch.h"
 #include "sdk/demo/demosite.h"
+#include "tests/tour/commonsteps.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
-#include "tests/tour/words.h"
 
 using namespace Qt::StringLiterals;
 
@@ -12,14 +12,6 @@ const QString device = u"192.168.1.102:8800"_s;
 const QString otherDevice = u"192.168.1.103:8800"_s;
 const QString branchDevice = u"192.168.1.104:8800"_s;
 const QString branchMac = u"02:1a:c5:00:40:94"_s;
-
-void searchAgain(const Driver &driver)
-{
-    driver.key(Qt::Key_F5);
-    driver.await(u"a search runs"_s, [&] { return driver.window()->property("searching").toBool(); });
-    driver.await(
-        u"the search ends"_s, [&] { return !driver.window()->property("searching").toBool(); }, 30);
-}
 
 int treeRows(const Driver &driver)
 {
@@ -39,12 +31,12 @@ QList<int> setClocks(const Driver &driver, const QStringList &devices)
         results.clear();
         for (const QString &ipport : devices)
             results.append(driver.require(u"device_"_s + ipport)->property("result").toInt());
-        return !results.contains(-1) && driver.find(u"runningText"_s) == nullptr;
+        return !results.contains(-1) && !isBatchRunning(driver);
     });
     return results;
 }
 
-/// Two devices with the default account.
+/// Two devices use the default account.
 void walkDefaultAccount(Driver &driver, sdk::demo::DemoSite &site)
 {
     driver.click(u"tab3"_s);
@@ -54,11 +46,11 @@ void walkDefaultAccount(Driver &driver, sdk::demo::DemoSite &site)
                  u"some of the devices are ticked"_s);
     site.requests().clear();
     driver.check(setClocks(driver, {device, otherDevice}) == QList<int>({0, 0}),
-                 u"the devices take the default account, without a question"_s);
-    driver.check(site.requests().of("NetLoginSecure").size() == 2, u"each is asked once"_s);
+                 u"the devices accept the default account without a question"_s);
+    driver.check(site.requests().of("NetLoginSecure").size() == 2, u"each device gets one login"_s);
 }
 
-/// Devices without a login are shown alone; of a search that begins, no result is left.
+/// The tree can show only devices without a login. A new search removes the results.
 void walkStates(Driver &driver)
 {
     const int all = treeRows(driver);
@@ -69,7 +61,7 @@ void walkStates(Driver &driver)
     driver.click(u"allStates"_s);
     driver.await(u"all devices are shown"_s, [&] { return driver.find(u"device_"_s + device); });
     searchAgain(driver);
-    driver.await(u"the results of the earlier search are gone"_s, [&] {
+    driver.await(u"the results of the earlier search are removed"_s, [&] {
         const QQuickItem *row = driver.find(u"device_"_s + device);
         return row && row->property("result").toInt() == -1 && !driver.find(u"resultSign"_s);
     });
@@ -83,7 +75,7 @@ void fillAccount(const Driver &driver, const QString &name, const QString &accou
     driver.click(u"okButton"_s);
 }
 
-/// A device has another account than most. It is selected for it, and nothing else is tried.
+/// One device has a different account, which is selected for it. No other account is tried.
 void walkAccounts(Driver &driver, sdk::demo::DemoSite &site)
 {
     site.changeDevice(branchMac, [](auto &branch, const auto &) {
@@ -113,13 +105,13 @@ void walkAccounts(Driver &driver, sdk::demo::DemoSite &site)
     driver.report(u"account-choice"_s, u"an account for one device"_s);
     driver.click(u"okButton"_s);
     driver.await(u"the account is selected"_s, [&] { return !driver.find(u"accountsTable"_s); });
-    for (const QString &ipport : {device, otherDevice, branchDevice}) // the ticks are from before
+    for (const QString &ipport : {device, otherDevice, branchDevice}) // some are still ticked
         if (driver.require(u"device_"_s + ipport)->property("tick").toInt() == Qt::Unchecked)
             driver.click(u"tick_"_s + ipport);
     site.requests().clear();
     driver.check(setClocks(driver, {device, branchDevice}) == QList<int>({0, 0}),
-                 u"each device takes its own account"_s);
-    driver.check(site.requests().of("NetLoginSecure").size() == 3, u"none is asked twice"_s);
+                 u"each device accepts its own account"_s);
+    driver.check(site.requests().of("NetLoginSecure").size() == 3, u"no device gets two logins"_s);
     driver.report(u"account-of-device"_s, u"the clocks of three devices with two accounts"_s);
 }
 

@@ -1,6 +1,6 @@
 #include "device/registry/devicefactory.h"
+#include "tests/tour/commonsteps.h"
 #include "tests/tour/steps.h"
-#include "tests/tour/words.h"
 
 #include <QDir>
 
@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString password = u"Office-2024"_s;
-const QString branchAddress = u"192.168.2.21"_s; // a search of the local segment does not find it
+const QString branchAddress = u"192.168.2.21"_s; // not found by a search of the local segment
 const QString remoteId = u"OV7QK2M4X9T3HD58"_s;
 
 QVariantMap deviceAt(const QString &ipport)
@@ -27,7 +27,7 @@ int favourites(const Driver &driver)
     return driver.require(u"favouriteTable"_s)->property("count").toInt();
 }
 
-/// The dialog stays open and says, as a message and under the field, why it does not go on.
+/// The dialog stays open and shows the reason as a message and under the field.
 void expectRefusal(const Driver &driver, const char *message)
 {
     const QString text = translated("AddDeviceDialog", message);
@@ -36,7 +36,7 @@ void expectRefusal(const Driver &driver, const char *message)
     driver.check(driver.find(u"portField"_s) != nullptr, u"the dialog stays open"_s);
 }
 
-/// Fills the fields that both kinds of device have, and asks for the device.
+/// Fills the fields that both dialogs have, and confirms.
 void confirm(const Driver &driver, const QString &port, const QString &withPassword)
 {
     driver.fill(u"portField"_s, port);
@@ -96,7 +96,7 @@ void walkAddingByP2p(Driver &driver)
     confirm(driver, u"8800"_s, password);
     driver.await(u"the dialog stays open and can be used again"_s,
                  [&] { return driver.require(u"p2pIdField"_s)->isEnabled(); });
-    driver.report(u"add-p2p-unknown"_s, u"no port leads to an unknown ID"_s);
+    driver.report(u"add-p2p-unknown"_s, u"an unknown ID has no tunnel"_s);
 
     const int before = rows(driver);
     driver.fill(u"p2pIdField"_s, remoteId);
@@ -113,14 +113,14 @@ void walkAddingFavourites(Driver &driver)
     driver.click(u"addFavouriteItem"_s);
     driver.require(u"favouriteTable"_s);
     driver.check(favourites(driver) == 2, u"two favourites are listed"_s);
-    driver.report(u"favourites"_s, u"what was saved"_s);
+    driver.report(u"favourites"_s, u"the saved favourites"_s);
 
-    // The device at the address is in the list already; the remote one is only logged in to again.
+    // The device at the address is already listed. The remote device gets another login.
     driver.click(u"note0"_s);
     driver.key(Qt::Key_A, Qt::ControlModifier);
     driver.click(u"okButton"_s);
     const QString added = translated("AddDevicesByFavoritesWindow", "已添加");
-    driver.await(u"each row says how it went"_s, [&] {
+    driver.await(u"each row shows its result"_s, [&] {
         return driver.text(u"addResult0"_s) == translated("ResultNames", "设备已存在") &&
                driver.text(u"addResult1"_s) == added;
     });
@@ -138,7 +138,7 @@ void walkChangingFavourites(Driver &driver)
 {
     driver.click(u"editNote0"_s);
     driver.fill(u"noteEditor"_s, u"收银台 till 2"_s);
-    driver.report(u"favourite-note"_s, u"a note is edited in its place"_s);
+    driver.report(u"favourite-note"_s, u"a note is edited in the table"_s);
     driver.key(Qt::Key_Return);
     driver.await(u"the note is changed"_s, [&] { return driver.text(u"note0"_s) == u"收银台 till 2"_s; });
     driver.fill(u"favouriteFilter"_s, u"TILL 2"_s);
@@ -150,7 +150,7 @@ void walkChangingFavourites(Driver &driver)
     driver.click(u"deleteFavourite0"_s);
     driver.report(u"favourite-delete"_s, driver.text(u"messageText"_s));
     driver.key(Qt::Key_Escape);
-    driver.check(favourites(driver) == 2, u"nothing is deleted unconfirmed"_s);
+    driver.check(favourites(driver) == 2, u"nothing is deleted without confirmation"_s);
     for (int left = 1; left >= 0; --left) {
         driver.click(u"deleteFavourite0"_s);
         driver.require(u"messageText"_s);

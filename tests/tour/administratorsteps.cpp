@@ -1,8 +1,9 @@
-// Someone with two hundred devices: new passwords, clocks, copied settings, upgrades.
+// A user with two hundred devices: new passwords, clocks, copied settings, upgrades.
 #include "device/registry/upgradetools.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/scene/fault.h"
 #include "tests/files/filecontents.h"
+#include "tests/tour/commonsteps.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
 
@@ -17,26 +18,21 @@ namespace {
 
 const QString newPassword = u"Fleet-2025"_s;
 
-bool isRunning(const Driver &driver)
-{
-    return driver.find(u"runningText"_s) != nullptr;
-}
-
-/// Waits until a batch has asked `count` devices by `operation`.
+/// Waits until `count` devices have received the request `operation`.
 void awaitRequests(const Driver &driver, sdk::demo::DemoSite &site, const QString &operation, int count)
 {
     driver.await(
-        u"%1 devices are asked"_s.arg(count), [&] { return site.requests().of(operation).size() >= count; },
-        60);
+        u"%1 devices have received a request"_s.arg(count),
+        [&] { return site.requests().of(operation).size() >= count; }, 60);
 }
 
-/// The devices of one kind are found, selected together, and taken back.
+/// The cameras of one model are filtered, selected together and deselected.
 void walkFilter(Driver &driver)
 {
     const Rows rows(driver);
     const int all = rows.count();
     driver.fill(u"searchField"_s, u"B-22"_s);
-    driver.await(u"the cameras of one kind are left"_s,
+    driver.await(u"only the cameras of one model are shown"_s,
                  [&] { return rows.count() > 20 && rows.count() < all; });
     driver.click(u"checkAllBox"_s);
     driver.check(rows.countOf("checked", true) == rows.count(), u"all of them are selected"_s);
@@ -47,29 +43,27 @@ void walkFilter(Driver &driver)
     driver.check(rows.countOf("checked", true) == 0, u"none is selected"_s);
 }
 
-/// What would take the devices or the program away from a running batch is refused, and the batch is named.
+/// A search and closing are refused during a batch. The message names the batch.
 void expectBatchUndisturbed(Driver &driver, const QString &name)
 {
     driver.key(Qt::Key_F5);
     driver.await(u"the search is refused"_s, [&] { return driver.find(u"messageText"_s) != nullptr; });
-    driver.check(driver.text(u"messageText"_s).contains(name) &&
-                     !driver.window()->property("searching").toBool(),
+    driver.check(driver.text(u"messageText"_s).contains(name) && !isSearching(driver),
                  u"the message names the batch: %1"_s.arg(driver.text(u"messageText"_s)));
     driver.click(u"okButton"_s);
-    driver.await(u"the message is gone"_s, [&] { return !driver.find(u"messageText"_s); });
+    driver.await(u"the message is closed"_s, [&] { return !driver.find(u"messageText"_s); });
     driver.check(!driver.window()->close() && driver.window()->isVisible(),
                  u"the window does not close during a batch"_s);
     driver.check(driver.text(u"messageText"_s).contains(name), u"the question names the batch"_s);
     driver.click(u"cancelButton"_s);
-    driver.await(u"the question is gone"_s, [&] { return !driver.find(u"messageText"_s); });
-    driver.check(isRunning(driver), u"the batch still runs"_s);
+    driver.await(u"the question is closed"_s, [&] { return !driver.find(u"messageText"_s); });
+    driver.check(isBatchRunning(driver), u"the batch still runs"_s);
 }
 
-/// Every device has its result at the end, and none was tried with another password than its own.
+/// At the end every device has its result, and no device received a wrong password.
 void expectSuccess(Driver &driver, sdk::demo::DemoSite &site, const QString &step, int devices)
 {
-    driver.await(
-        u"the batch ends"_s, [&] { return !isRunning(driver); }, 120);
+    awaitBatchEnd(driver);
     const QString outcome = QCoreApplication::translate("BatchReport", "%n 台设备成功", "", devices);
     driver.check(driver.text(u"selectedCount"_s).endsWith(outcome) && !driver.find(u"footWarning"_s),
                  u"every device is reported: %1"_s.arg(driver.text(u"selectedCount"_s)));
@@ -80,7 +74,7 @@ void expectSuccess(Driver &driver, sdk::demo::DemoSite &site, const QString &ste
     driver.report(step, driver.text(u"selectedCount"_s));
 }
 
-/// Some cameras of one kind that have taken the new password, in the order of their addresses.
+/// Some cameras of one model that have accepted the new password, in the order of their addresses.
 QList<sdk::demo::SceneDevice> someCameras(const Driver &driver, const sdk::demo::DemoSite &site)
 {
     constexpr int wanted = 3;
@@ -93,7 +87,7 @@ QList<sdk::demo::SceneDevice> someCameras(const Driver &driver, const sdk::demo:
                                 [](const auto &account) { return account.password == newPassword; }))
             found.append(*device);
     }
-    driver.check(found.size() == wanted, u"there are some cameras"_s);
+    driver.check(found.size() == wanted, u"enough cameras have the new password"_s);
     return found;
 }
 
@@ -102,7 +96,7 @@ QString ipportOf(const sdk::demo::SceneDevice &device)
     return u"%1:%2"_s.arg(device.address).arg(device.port);
 }
 
-/// The encode settings of the first camera, on the other ones.
+/// Copies the encode settings of the first camera to the others.
 void walkCopiedSettings(Driver &driver, const QList<sdk::demo::SceneDevice> &cameras)
 {
     driver.click(u"tab2"_s);
@@ -119,9 +113,8 @@ void walkCopiedSettings(Driver &driver, const QList<sdk::demo::SceneDevice> &cam
     driver.click(u"previewButton"_s);
     driver.require(u"previewTable"_s);
     driver.click(u"okButton"_s);
-    driver.await(u"the list is gone"_s, [&] { return !driver.find(u"previewTable"_s); });
-    driver.await(
-        u"the batch ends"_s, [&] { return !isRunning(driver); }, 60);
+    driver.await(u"the preview is closed"_s, [&] { return !driver.find(u"previewTable"_s); });
+    awaitBatchEnd(driver);
     driver.check(!driver.find(u"footWarning"_s), u"each camera has the settings"_s);
     driver.report(u"fleet-copied"_s, driver.text(u"selectedCount"_s));
 }
@@ -131,11 +124,11 @@ void walkSomeUpgrades(Driver &driver, sdk::demo::DemoSite &site, const QList<sdk
     QStringList models;
     for (const sdk::demo::SceneDevice &camera : cameras) {
         models.append(camera.model);
-        site.setFault(camera.mac, {.fault = sdk::demo::Fault::UpgradeTakes, .number = 3, .text = {}});
-        site.setFault(camera.mac, {.fault = sdk::demo::Fault::RebootTakes, .number = 2, .text = {}});
+        site.setFault(camera.mac, {.fault = sdk::demo::Fault::UpgradeTakes, .number = 3});
+        site.setFault(camera.mac, {.fault = sdk::demo::Fault::RebootTakes, .number = 2});
     }
     models.removeDuplicates();
-    const QString firmware = driver.pictureFolder() + u"/cameras_3.000.1.bin"_s;
+    const QString firmware = driver.imageFolder() + u"/cameras_3.000.1.bin"_s;
     driver.check(writeFile(firmware, "BRELM-FIRMWARE 1\nmodel=" + models.join(u',').toLatin1() +
                                          "\nversion=3.000.1\n\n" + QByteArray(100000, '\1')),
                  u"the firmware is written"_s);
@@ -163,8 +156,7 @@ void walkSomeUpgrades(Driver &driver, sdk::demo::DemoSite &site, const QList<sdk
             });
         },
         120);
-    driver.await(
-        u"the upgrades end"_s, [&] { return !isRunning(driver); }, 60);
+    awaitBatchEnd(driver);
     driver.report(u"fleet-upgraded"_s, driver.text(u"upgradeSummary"_s));
     driver.fill(u"upgradeSearchField"_s, QString());
     driver.click(u"tab3"_s);
@@ -176,9 +168,9 @@ void walkAdministrator(Driver &driver, sdk::demo::DemoSite &site)
 {
     const QList<sdk::demo::SceneDevice> scene = site.devices();
     for (const sdk::demo::SceneDevice &device : scene)
-        site.setFault(device.mac, {.fault = sdk::demo::Fault::SlowAnswers, .number = 400, .text = {}});
+        site.setFault(device.mac, {.fault = sdk::demo::Fault::SlowAnswers, .number = 400});
     driver.activate();
-    driver.await(u"the search ends"_s, [&] { return !driver.window()->property("searching").toBool(); });
+    awaitSearchEnd(driver);
     walkFilter(driver);
     driver.click(u"tab3"_s);
     driver.await(u"the tree has devices"_s, [&] { return driver.require(u"allDevicesBox"_s)->isEnabled(); });
@@ -195,7 +187,7 @@ void walkAdministrator(Driver &driver, sdk::demo::DemoSite &site)
     driver.click(u"loginCheckButton"_s);
     driver.await(
         u"the old passwords are checked"_s,
-        [&] { return !isRunning(driver) && driver.require(u"newPasswordField"_s)->isEnabled(); }, 120);
+        [&] { return !isBatchRunning(driver) && driver.require(u"newPasswordField"_s)->isEnabled(); }, 120);
     driver.fill(u"newPasswordField"_s, newPassword);
     driver.fill(u"confirmPasswordField"_s, newPassword);
     site.requests().clear();
@@ -204,7 +196,7 @@ void walkAdministrator(Driver &driver, sdk::demo::DemoSite &site)
     driver.report(u"fleet-preview"_s, driver.text(u"batchCount"_s));
     driver.click(u"okButton"_s);
     awaitRequests(driver, site, u"NetModifyPassword"_s, 3);
-    driver.key(Qt::Key_2, Qt::ControlModifier); // the page is left
+    driver.key(Qt::Key_2, Qt::ControlModifier); // to another page
     driver.key(Qt::Key_4, Qt::ControlModifier);
     expectBatchUndisturbed(driver, QCoreApplication::translate("PageSystemConfig", "修改密码"));
     expectSuccess(driver, site, u"fleet-password"_s, devices);

@@ -1,4 +1,5 @@
 #include "sdk/demo/demosite.h"
+#include "tests/tour/commonsteps.h"
 #include "tests/tour/driver.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
@@ -13,13 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void awaitEnd(const Driver &driver)
-{
-    driver.await(
-        u"the batch ends"_s, [&] { return !driver.find(u"runningText"_s); }, 120);
-}
-
-/// Stops a batch, and sends the devices that were left out in another one.
+/// Stops a batch, and retries the skipped devices in another one.
 void walkStopAndRetry(Driver &driver, sdk::demo::DemoSite &site)
 {
     const auto asked = [&site] {
@@ -29,16 +24,16 @@ void walkStopAndRetry(Driver &driver, sdk::demo::DemoSite &site)
     driver.click(u"setTimeByPCButton"_s);
     driver.require(u"previewTable"_s);
     driver.click(u"okButton"_s);
-    driver.await(u"some devices are asked"_s, [&] { return asked() > 0; });
+    driver.await(u"some devices have received a request"_s, [&] { return asked() > 0; });
     driver.click(u"stopButton"_s);
     driver.require(u"retryFailedButton"_s);
-    driver.check(driver.find(u"footWarning"_s) != nullptr, u"the devices that were left out are counted"_s);
+    driver.check(driver.find(u"footWarning"_s) != nullptr, u"the skipped devices are counted"_s);
     driver.report(u"batch-stopped"_s, driver.text(u"footWarning"_s));
     const int all = QRegularExpression(u"^\\d+"_s).match(driver.text(u"selectedCount"_s)).captured().toInt();
-    driver.check(asked() < all, u"not all devices were asked"_s);
+    driver.check(asked() < all, u"not all devices have received a request"_s);
     driver.click(u"retryFailedButton"_s);
-    awaitEnd(driver);
-    driver.check(!driver.find(u"footWarning"_s) && asked() == all, u"each device was asked once"_s);
+    awaitBatchEnd(driver);
+    driver.check(!driver.find(u"footWarning"_s) && asked() == all, u"each device has received one request"_s);
     driver.report(u"batch-retried"_s, driver.text(u"selectedCount"_s));
 }
 
@@ -53,7 +48,7 @@ void walkSavedResults(Driver &driver, const QString &folder)
     });
 }
 
-/// New addresses for two devices, and their old ones again.
+/// Changes the addresses of two devices and restores them.
 void walkPutBack(Driver &driver, const sdk::demo::DemoSite &site)
 {
     driver.key(Qt::Key_1, Qt::ControlModifier);
@@ -76,18 +71,18 @@ void walkPutBack(Driver &driver, const sdk::demo::DemoSite &site)
     driver.fill(u"newStartField"_s, u"10.16.200.10"_s);
     driver.click(u"okButton"_s);
     driver.await(u"the devices have new addresses"_s, [&] { return !areBack(); });
-    awaitEnd(driver);
+    awaitBatchEnd(driver);
     driver.click(u"batchPanelButton"_s);
     driver.require(u"putBackButton"_s);
     driver.report(u"batch-panel"_s, driver.text(u"batchSummary"_s));
     driver.await(
-        u"no notice fades over the buttons"_s, [&] { return !driver.find(u"toastText"_s); }, 30);
+        u"no notice covers the buttons"_s, [&] { return !driver.find(u"toastText"_s); }, 30);
     driver.click(u"putBackButton"_s);
     driver.require(u"previewTable"_s);
     driver.report(u"batch-put-back-preview"_s, driver.text(u"batchCount"_s));
     driver.click(u"okButton"_s);
     driver.await(u"the devices have their old addresses again"_s, areBack);
-    awaitEnd(driver);
+    awaitBatchEnd(driver);
     driver.report(u"batch-put-back"_s, driver.text(u"batchSummary"_s));
     driver.click(u"okButton"_s); // closes the panel
 }

@@ -1,8 +1,8 @@
 #include "cgi/cgiconfigmanage.h"
 #include "sheets/qexcel.h"
+#include "tests/tour/commonsteps.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
-#include "tests/tour/words.h"
 
 #include <QClipboard>
 #include <QDir>
@@ -18,67 +18,63 @@ namespace {
 
 const QString camera = u"192.168.1.106:8800"_s;
 
-QString answerOf(const Driver &driver, int row)
+QString responseOf(const Driver &driver, int row)
 {
     return Rows(driver, u"cgiTable"_s).value(row, "result").toString();
 }
 
-void awaitIdle(const Driver &driver)
-{
-    driver.await(u"no command is on its way"_s, [&] { return !driver.find(u"runningText"_s); });
-}
-
-/// Sends a command to the device of the first row, and returns the answer.
+/// Sends a command to the device of the first row and returns its response.
 QString send(const Driver &driver, const QString &command)
 {
     driver.fill(u"cgiCommand0"_s, command);
-    driver.key(Qt::Key_Escape); // the offers
+    driver.key(Qt::Key_Escape); // closes the suggestions
     driver.click(u"cgiSend0"_s);
-    awaitIdle(driver);
-    driver.await(u"the answer to \"%1\" is there"_s.arg(command), [&] {
-        return Rows(driver, u"cgiTable"_s).value(0, "url") == command && !answerOf(driver, 0).isEmpty();
+    awaitBatchEnd(driver);
+    driver.await(u"the response to \"%1\" is shown"_s.arg(command), [&] {
+        return Rows(driver, u"cgiTable"_s).value(0, "url") == command && !responseOf(driver, 0).isEmpty();
     });
-    awaitIdle(driver);
-    return answerOf(driver, 0);
+    awaitBatchEnd(driver);
+    return responseOf(driver, 0);
 }
 
-/// Reads the window of an answer, if it is open, and closes it.
-void readAnswerWindow(Driver &driver, const QString &step)
+/// Reports the window of a response, if it is open, and closes it.
+void readResponseWindow(Driver &driver, const QString &step)
 {
     const QQuickItem *lines = driver.find(u"cgiAnswerLines"_s);
     if (!lines)
         return;
     driver.report(step, u"%1 lines"_s.arg(lines->property("count").toInt()));
     driver.key(Qt::Key_Escape);
-    driver.await(u"the window of the answer is closed"_s, [&] { return !driver.find(u"cgiAnswerLines"_s); });
+    driver.await(u"the window of the response is closed"_s,
+                 [&] { return !driver.find(u"cgiAnswerLines"_s); });
 }
 
 void walkOneDevice(Driver &driver)
 {
     driver.fill(u"cgiSearchField"_s, camera.section(u':', 0, 0));
-    driver.await(u"one device is left"_s, [&] { return Rows(driver, u"cgiTable"_s).count() == 1; });
+    driver.await(u"only one device is shown"_s, [&] { return Rows(driver, u"cgiTable"_s).count() == 1; });
     const QString all = send(driver, u"/cgi-bin/device?get=all"_s);
-    driver.check(all.contains(u"version="_s), u"the device tells of itself"_s);
+    driver.check(all.contains(u"version="_s), u"the device reports its version"_s);
     driver.hover(u"cgiAnswer0"_s);
-    driver.await(u"the whole answer is shown"_s, [&] { return driver.find(u"toolTip"_s) != nullptr; });
+    driver.await(u"the complete response is shown"_s, [&] { return driver.find(u"toolTip"_s) != nullptr; });
     driver.report(u"cgi-answer"_s, driver.text(u"toolTip"_s).section(u'\n', 0, 2).replace(u'\n', u' '));
     driver.rightClick(u"cgiAnswer0"_s);
     expectToast(driver, translated("PageCGIConfig", "复制成功"));
-    driver.check(QGuiApplication::clipboard()->text() == all, u"the answer is on the clipboard"_s);
+    driver.check(QGuiApplication::clipboard()->text() == all, u"the response is on the clipboard"_s);
 
     driver.click(u"cgiAnswerOpen0"_s);
     driver.require(u"cgiAnswerLines"_s);
-    readAnswerWindow(driver, u"cgi-answer-window"_s);
+    readResponseWindow(driver, u"cgi-answer-window"_s);
 
     const QString refused = send(driver, u"/cgi-bin/nonsense"_s);
-    driver.check(refused.startsWith(u"Error:"_s), u"what the device does not know is an error"_s);
+    driver.check(refused.startsWith(u"Error:"_s), u"an unknown command is an error"_s);
     driver.fill(u"cgiCommand0"_s, u"cgi-bin/device"_s);
     driver.key(Qt::Key_Return);
     expectToast(driver, translated("CgiSender", "URL格式错误。"));
     driver.report(u"cgi-refused"_s, refused);
 
     const QString picture = send(driver, u"/cgi-bin/snapshot?channel=1"_s);
-    driver.check(picture.endsWith(u".jpg"_s) && !QImage(picture).isNull(), u"a picture is saved"_s);
+    driver.check(picture.endsWith(u".jpg"_s) && !QImage(picture).isNull(), u"an image is saved"_s);
     const QString recording = send(driver, u"/cgi-bin/recording?channel=1&seconds=1"_s);
     driver.check(recording.endsWith(u".dav"_s) && QFileInfo(recording).size() > 0, u"a recording is saved"_s);
     driver.report(u"cgi-files"_s, QFileInfo(picture).fileName() + u' ' + QFileInfo(recording).fileName());
@@ -87,19 +83,19 @@ void walkOneDevice(Driver &driver)
 
     driver.fill(u"cgiCommand0"_s, u"/cgi-bin/dev"_s);
     driver.require(u"cgiOffer0"_s);
-    driver.report(u"cgi-offers"_s, u"what was sent before"_s);
+    driver.report(u"cgi-offers"_s, u"commands sent before"_s);
     driver.key(Qt::Key_Down);
     driver.key(Qt::Key_Return);
     driver.check(Rows(driver, u"cgiTable"_s).value(0, "url") == u"/cgi-bin/device?get=all"_s &&
-                     answerOf(driver, 0) == recording,
-                 u"Enter takes the offer and sends nothing"_s);
+                     responseOf(driver, 0) == recording,
+                 u"Enter accepts the suggestion and sends nothing"_s);
     driver.click(u"cgiStarButton"_s);
 }
 
 void walkBatch(Driver &driver)
 {
     driver.fill(u"cgiSearchField"_s, u"B-2230"_s);
-    driver.await(u"several devices of a model are left"_s,
+    driver.await(u"only devices of a model are shown"_s,
                  [&] { return Rows(driver, u"cgiTable"_s).count() > 2; });
     driver.click(u"batchCgiButton"_s);
     expectToast(driver, translated("PageCGIConfig", "请选择一台设备。"));
@@ -112,7 +108,7 @@ void walkBatch(Driver &driver)
     driver.require(u"previewTable"_s);
     driver.report(u"cgi-batch-preview"_s, driver.text(u"batchCount"_s));
     driver.click(u"okButton"_s);
-    driver.await(u"the end of the batch is said"_s, [&driver] {
+    driver.await(u"the end of the batch is reported"_s, [&driver] {
         const char *context = "CgiSender";
         QStringList ends = {QCoreApplication::translate(context, "批量配置CGI命令已完成", nullptr, 3)};
         for (int accepted = 0; accepted < 3; ++accepted)
@@ -120,19 +116,19 @@ void walkBatch(Driver &driver)
                 QCoreApplication::translate(context, "批量配置CGI命令已完成：成功 %1，失败 %2", nullptr, 3)
                     .arg(accepted)
                     .arg(3 - accepted));
-        const QStringList said = driver.texts(u"toastText"_s);
-        return std::any_of(said.cbegin(), said.cend(),
+        const QStringList notices = driver.texts(u"toastText"_s);
+        return std::any_of(notices.cbegin(), notices.cend(),
                            [&ends](const QString &text) { return ends.contains(text); });
     });
-    awaitIdle(driver);
-    readAnswerWindow(driver, u"cgi-batch-failures"_s); // opens when a device was not done
-    int answers = 0;
+    awaitBatchEnd(driver);
+    readResponseWindow(driver, u"cgi-batch-failures"_s); // open if a device has failed
+    int responses = 0;
     for (int row = 0; row < 3; ++row)
-        answers += answerOf(driver, row).startsWith(u"name="_s) ? 1 : 0;
-    driver.check(answers > 0, u"devices have told their names"_s);
-    driver.report(u"cgi-batch-done"_s, answerOf(driver, 0));
+        responses += responseOf(driver, row).startsWith(u"name="_s) ? 1 : 0;
+    driver.check(responses > 0, u"devices have reported their names"_s);
+    driver.report(u"cgi-batch-done"_s, responseOf(driver, 0));
 
-    // What is typed stays with its row when another one becomes the current one.
+    // A typed command stays in its row when another row becomes the current one.
     driver.click(u"cgiCommand3"_s);
     driver.fill(u"cgiCommand3"_s, u"/cgi-bin/time"_s);
     driver.key(Qt::Key_Escape);
@@ -142,12 +138,12 @@ void walkBatch(Driver &driver)
                  u"each row has its command"_s);
 }
 
-/// The template, filled in as a user does.
+/// Fills in a copy of the template.
 void writeWorkbook(const Driver &driver, const QString &path)
 {
     QFile::remove(path);
     driver.check(QFile::copy(CGIConfigManage::getinstance()->templateFile(), path),
-                 u"the template is beside the program"_s);
+                 u"the template is next to the application"_s);
     const QList<QStringList> lines = {
         {u"192.168.1.106"_s, u"8800"_s, u"admin"_s, u"Office-2024"_s, u"/cgi-bin/device?get=version"_s,
          u"0"_s},

@@ -1,11 +1,11 @@
-// The names of a recorder's channels, and everything that is known of it.
+// The names of a recorder's channels, and its details.
 #include "sdk/camerablocks.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/scene/fault.h"
 #include "tests/files/filecontents.h"
+#include "tests/tour/commonsteps.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
-#include "tests/tour/words.h"
 
 #include <QClipboard>
 #include <QDir>
@@ -37,11 +37,11 @@ bool hasKeyboard(const Driver &driver, int row)
 
 void awaitLogin(const Driver &driver)
 {
-    driver.await(u"the device has answered"_s,
+    driver.await(u"the device has responded"_s,
                  [&] { return driver.text(u"configState"_s) == translated("DeviceState", "已登录"); });
 }
 
-/// How often the recorder was told a name.
+/// The number of names written to the recorder.
 qsizetype writes(sdk::demo::DemoSite &site)
 {
     qsizetype count = 0;
@@ -56,7 +56,7 @@ void openNames(Driver &driver)
     driver.fill(u"treeSearchField"_s, u"192.168.1.120"_s);
     driver.await(u"the recorder is found"_s, [&] { return driver.find(u"device_"_s + recorder) != nullptr; });
     driver.click(u"device_"_s + recorder);
-    driver.require(u"encodeSaveButton"_s); // until the device has answered, clicks are held back
+    driver.require(u"encodeSaveButton"_s); // until the device has responded, clicks are held back
     awaitLogin(driver);
     driver.click(u"configTab2"_s);
     driver.require(u"nameTable"_s);
@@ -67,8 +67,7 @@ void openNames(Driver &driver)
     driver.report(u"names"_s, nameOf(driver, 1));
 }
 
-/// Two names, of which one is too long for the device, though not in letters; the keyboard goes from row to
-/// row.
+/// Edits two names with the keyboard. One of them has too many bytes for the device.
 void walkEditing(Driver &driver)
 {
     driver.fill(u"channelName0"_s, u"正门"_s);
@@ -79,19 +78,19 @@ void walkEditing(Driver &driver)
     driver.await(u"so does Tab"_s, [&] { return hasKeyboard(driver, 2); });
     driver.type(u"x"_s);
     driver.key(Qt::Key_Escape);
-    driver.check(nameOf(driver, 2) == u"停车场入口", u"Escape takes back what was typed"_s);
+    driver.check(nameOf(driver, 2) == u"停车场入口", u"Escape reverts the input"_s);
     driver.key(Qt::Key_Up);
     driver.await(u"and up"_s, [&] { return hasKeyboard(driver, 1); });
     driver.report(u"names-too-long"_s, troubleOf(driver, 1));
     driver.click(u"namesSaveButton"_s);
     driver.await(u"the name that is too long is shown"_s, [&] { return hasKeyboard(driver, 1); });
     driver.click(u"nameWay1"_s);
-    driver.check(nameOf(driver, 1) == QString(85, u'库'), u"it is cut between two letters"_s);
+    driver.check(nameOf(driver, 1) == QString(85, u'库'), u"it is truncated between two characters"_s);
 
     driver.click(u"configTab0"_s);
     driver.report(u"names-leaving"_s, driver.text(u"messageText"_s));
     driver.click(u"cancelButton"_s);
-    driver.await(u"the question is gone"_s, [&] { return !driver.find(u"messageText"_s); });
+    driver.await(u"the question is closed"_s, [&] { return !driver.find(u"messageText"_s); });
 }
 
 void walkSavingNames(Driver &driver, sdk::demo::DemoSite &site)
@@ -104,10 +103,10 @@ void walkSavingNames(Driver &driver, sdk::demo::DemoSite &site)
     });
     driver.report(u"names-saved"_s, driver.texts(u"toastText"_s).join(u' '));
 
-    site.setFault(recorderMac, {.fault = sdk::demo::Fault::RefusesItem, .number = nameItem, .text = {}});
+    site.setFault(recorderMac, {.fault = sdk::demo::Fault::RefusesItem, .number = nameItem});
     driver.fill(u"channelName3"_s, u"Car park 2"_s);
     driver.click(u"namesSaveButton"_s);
-    driver.await(u"the refusal is told in its row"_s, [&] {
+    driver.await(u"the refusal is shown in its row"_s, [&] {
         return troubleOf(driver, 3) == translated("ChannelNameTrouble", "设备没有接受") &&
                !driver.find(u"runningText"_s);
     });
@@ -115,7 +114,7 @@ void walkSavingNames(Driver &driver, sdk::demo::DemoSite &site)
     site.clearFault(recorderMac, sdk::demo::Fault::RefusesItem);
 
     driver.click(u"namesRefreshButton"_s);
-    driver.click(u"okButton"_s); // gives up the refused one
+    driver.click(u"okButton"_s); // discards the refused name
     driver.await(u"the device's own name is back"_s, [&] {
         return driver.find(u"channelName3"_s) && nameOf(driver, 3) == u"Car park, upper level";
     });
@@ -127,7 +126,7 @@ void walkSavingNames(Driver &driver, sdk::demo::DemoSite &site)
     driver.click(u"tab0"_s);
 }
 
-/// The open panel's text as a file, which is not written over unasked.
+/// Exports the text of the open panel. An existing file is not overwritten without a question.
 void exportDetails(Driver &driver, const QString &folder)
 {
     const QString path = folder + u"/192.168.1.120_8800.txt"_s;
@@ -140,11 +139,11 @@ void exportDetails(Driver &driver, const QString &folder)
     driver.await(u"the details are written"_s, saidToast);
     const QByteArray written = fileContents(path);
     driver.check(written.contains(recorderMac.toLatin1()) && written.contains("554"),
-                 u"the file holds what the search and the login have told"_s);
+                 u"the file has the values of the search and of the login"_s);
     driver.check(!written.contains("Office-2024"), u"and no password"_s);
     driver.report(u"detail-exported"_s, QFileInfo(path).fileName());
 
-    driver.check(writeFile(path, "kept"), u"the file is another one"_s);
+    driver.check(writeFile(path, "kept"), u"the file is replaced"_s);
     driver.click(u"detailExportButton"_s);
     driver.answerFileBox(folder);
     driver.await(u"the user is asked"_s, [&] { return driver.text(u"messageText"_s).contains(path); });
@@ -153,21 +152,22 @@ void exportDetails(Driver &driver, const QString &folder)
         return item && item->objectName() == u"cancelButton";
     });
     driver.key(Qt::Key_Escape);
-    driver.await(u"the question is gone"_s, [&] { return !driver.find(u"messageText"_s); });
-    driver.check(fileContents(path) == "kept", u"a file is not written over unasked"_s);
+    driver.await(u"the question is closed"_s, [&] { return !driver.find(u"messageText"_s); });
+    driver.check(fileContents(path) == "kept", u"the file is not overwritten without confirmation"_s);
 }
 
-/// What the search told, then what a login adds; searched, copied and exported.
+/// The details from the search, then from a login: searched, copied and exported.
 void walkDetailPanel(Driver &driver, const QString &folder)
 {
     const int row = Rows(driver).rowOf("ipport", recorder);
     QMetaObject::invokeMethod(driver.require(u"deviceTable"_s), "show", Q_ARG(QVariant, row));
     driver.click(u"detail%1"_s.arg(row));
     driver.report(u"detail-found"_s, driver.texts(u"detailValue"_s).join(u", "_s));
-    driver.check(!driver.texts(u"detailValue"_s).contains(u"554"_s), u"a search does not tell every port"_s);
+    driver.check(!driver.texts(u"detailValue"_s).contains(u"554"_s),
+                 u"a search does not report every port"_s);
     driver.click(u"detailLoginButton"_s);
-    driver.await(u"the login has told the port"_s, [&] {
-        driver.fill(u"detailSearchField"_s, u"RTSP"_s); // held back until the device has answered
+    driver.await(u"the login has reported the port"_s, [&] {
+        driver.fill(u"detailSearchField"_s, u"RTSP"_s); // held back until the device has responded
         return driver.texts(u"detailValue"_s) == QStringList(u"554"_s);
     });
     driver.report(u"detail-search"_s, driver.texts(u"detailValue"_s).join(u", "_s));

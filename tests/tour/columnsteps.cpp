@@ -1,3 +1,4 @@
+#include "tests/tour/commonsteps.h"
 #include "tests/tour/driver.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
@@ -28,7 +29,7 @@ void walkMenu(Driver &driver)
     driver.report(u"column-menu"_s, u"the columns with their check marks"_s);
     driver.click(u"noteItem"_s);
     driver.require(u"head_note"_s);
-    driver.report(u"column-notes"_s, u"all columns in the usual width"_s);
+    driver.report(u"column-notes"_s, u"all columns in the default width"_s);
     openColumnMenu(driver, u"head_num"_s);
     driver.click(u"numItem"_s);
     driver.await(u"the numbers are hidden"_s, [&] { return !driver.find(u"head_num"_s); });
@@ -64,14 +65,14 @@ void walkNote(Driver &driver)
     driver.report(u"note-menu"_s, u"the entry for a note"_s);
     driver.click(u"noteItem"_s);
     driver.fill(u"noteField"_s, u"A"_s + QString(250, u'x'));
-    driver.check(driver.text(u"noteField"_s).size() == 200, u"a note is bounded"_s);
+    driver.check(driver.text(u"noteField"_s).size() == 200, u"the length of a note is limited"_s);
     driver.click(u"okButton"_s);
     driver.await(u"the second note is in its row"_s, [&] {
         return rows.value(3, "note").toString().startsWith(u'A') && !driver.find(u"noteField"_s);
     });
     driver.click(u"head_note"_s);
     driver.click(u"head_note"_s);
-    driver.await(u"the notes come first"_s, [&] { return rows.value(0, "note").toString() == note; });
+    driver.await(u"the notes are at the top"_s, [&] { return rows.value(0, "note").toString() == note; });
     driver.report(u"notes"_s, u"in descending order"_s);
 }
 
@@ -84,7 +85,7 @@ void walkColumns(Driver &driver)
     walkKeys(driver);
     walkNote(driver);
     driver.window()->setGeometry(place);
-    driver.await(u"the window has its place"_s, [&] { return driver.window()->geometry() == place; });
+    driver.await(u"the window has its position"_s, [&] { return driver.window()->geometry() == place; });
     driver.report(u"columns-wide"_s, u"in a larger window"_s);
     driver.click(u"tab1"_s);
     driver.require(u"upgradeTable"_s);
@@ -92,12 +93,12 @@ void walkColumns(Driver &driver)
 
 void walkRestored(Driver &driver)
 {
-    driver.check(driver.find(u"upgradeTable"_s) != nullptr, u"the tab is the one that was left"_s);
-    driver.check(driver.window()->geometry() == place, u"the window is where it was"_s);
-    driver.await(u"the search ends"_s, [&] { return !driver.window()->property("searching").toBool(); });
+    driver.check(driver.find(u"upgradeTable"_s) != nullptr, u"the last tab is open"_s);
+    driver.check(driver.window()->geometry() == place, u"the window has its last position"_s);
+    awaitSearchEnd(driver);
     driver.click(u"tab0"_s);
     const Rows rows(driver);
-    driver.check(rows.value(0, "note").toString() == note, u"the note and the order are there again"_s);
+    driver.check(rows.value(0, "note").toString() == note, u"the note and the order are restored"_s);
     const QQuickItem *mac = driver.require(u"head_mac"_s);
     const QQuickItem *state = driver.require(u"head_state"_s);
     driver.check(mac->x() < state->x() && !driver.find(u"head_num"_s), u"so are the columns"_s);
@@ -106,7 +107,7 @@ void walkRestored(Driver &driver)
     driver.click(u"resetColumnsItem"_s);
     driver.require(u"head_num"_s);
     driver.check(columnsText(driver).isEmpty() && !driver.find(u"head_note"_s), u"the default is back"_s);
-    driver.report(u"columns-reset"_s, u"the usual columns"_s);
+    driver.report(u"columns-reset"_s, u"the default columns"_s);
     driver.click(u"maximiseButton"_s);
     driver.await(u"the window is maximised"_s,
                  [&] { return driver.window()->visibility() == QWindow::Maximized; });
@@ -115,8 +116,8 @@ void walkRestored(Driver &driver)
 void walkRestoredAgain(Driver &driver)
 {
     driver.check(driver.window()->visibility() == QWindow::Maximized, u"the window is maximised again"_s);
-    driver.await(u"the search ends"_s, [&] { return !driver.window()->property("searching").toBool(); });
-    driver.check(!driver.find(u"head_note"_s), u"the columns are the usual ones"_s);
+    awaitSearchEnd(driver);
+    driver.check(!driver.find(u"head_note"_s), u"the columns are the default ones"_s);
     driver.check(driver.find(u"noteSign0"_s) != nullptr, u"the name has the sign of a note"_s);
     driver.click(u"noteSign0"_s);
     driver.check(driver.text(u"noteField"_s) == note, u"the sign opens the note"_s);

@@ -1,36 +1,79 @@
-// What several steps of the tour read and say.
+// Steps that several subjects of the tour share.
 #pragma once
 
 #include "tests/tour/driver.h"
 
 #include <QCoreApplication>
 
-/// A text of the program in the language of the tour.
+/// A string of the application in the language of the tour.
 inline QString translated(const char *context, const char *text)
 {
     return QCoreApplication::translate(context, text);
 }
 
-/// A message to the user: at the field that it is about, in the dialog that is open, or as a notice of the
-/// window.
+/// Waits for a message to the user: at a field, in the open dialog, or as a notice of the window.
 inline void expectToast(const Driver &driver, const QString &text)
 {
-    driver.await(QStringLiteral("\"%1\" is said").arg(text), [&] {
+    driver.await(QStringLiteral("the message \"%1\" is shown").arg(text), [&] {
         return driver.texts(QStringLiteral("toastText")).contains(text) ||
                driver.texts(QStringLiteral("fieldMessage")).contains(text) ||
                driver.texts(QStringLiteral("dialogNotice")).contains(text);
     });
 }
 
-/// Sets the account that found devices are logged in to with.
+inline bool isSearching(const Driver &driver)
+{
+    return driver.window()->property("searching").toBool();
+}
+
+inline void awaitSearchEnd(const Driver &driver, int seconds = 30)
+{
+    driver.await(
+        QStringLiteral("the search ends"), [&] { return !isSearching(driver); }, seconds);
+}
+
+/// Waits for the start and the end of a search that has just been requested.
+inline void awaitSearch(const Driver &driver)
+{
+    driver.await(QStringLiteral("a search runs"), [&] { return isSearching(driver); });
+    awaitSearchEnd(driver);
+}
+
+inline void searchAgain(const Driver &driver)
+{
+    driver.key(Qt::Key_F5);
+    awaitSearch(driver);
+}
+
+inline bool isBatchRunning(const Driver &driver)
+{
+    return driver.find(QStringLiteral("runningText")) != nullptr;
+}
+
+inline void awaitBatchEnd(const Driver &driver, int seconds = 120)
+{
+    driver.await(
+        QStringLiteral("the batch ends"), [&] { return !isBatchRunning(driver); }, seconds);
+}
+
+/// Waits until the configuration page has finished its requests to the device.
+inline void awaitConfigIdle(const Driver &driver)
+{
+    driver.await(
+        QStringLiteral("the configuration page has finished its requests"),
+        [&] {
+            const QString name = QStringLiteral("configState");
+            const QString state = driver.find(name) ? driver.text(name) : QString();
+            return !state.isEmpty() && !state.endsWith(u'…');
+        },
+        30);
+}
+
+/// Sets the default account's password in the search settings. This starts a search.
 inline void setDefaultPassword(const Driver &driver, const QString &password)
 {
-    const auto isSearching = [&] {
-        return driver.window()->property("searching").toBool();
-    };
     driver.click(QStringLiteral("searchSettingsButton"));
     driver.fill(QStringLiteral("passwordField"), password);
     driver.click(QStringLiteral("okButton"));
-    driver.await(QStringLiteral("a search runs"), isSearching);
-    driver.await(QStringLiteral("the search ends"), std::not_fn(isSearching), 30);
+    awaitSearch(driver);
 }

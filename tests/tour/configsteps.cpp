@@ -1,10 +1,10 @@
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/scene/fault.h"
 #include "sdk/encodeblocks.h"
+#include "tests/tour/commonsteps.h"
 #include "tests/tour/scenedevices.h"
 #include "tests/tour/scrolledtree.h"
 #include "tests/tour/steps.h"
-#include "tests/tour/words.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int copiedWhole = 0;
+constexpr int copiedCompletely = 0;
 constexpr int copiedPartly = -3;
 
 const QString first = u"192.168.1.101:8800"_s;
@@ -34,22 +34,14 @@ QString shownBy(const Driver &driver, const QString &choice)
     return driver.require(choice)->property("displayText").toString();
 }
 
-void awaitIdle(const Driver &driver)
-{
-    driver.await(u"the device was asked"_s, [&] {
-        const QString state = driver.find(u"configState"_s) ? driver.text(u"configState"_s) : QString();
-        return !state.isEmpty() && !state.endsWith(u'…');
-    });
-}
-
 void pick(const Driver &driver, const QString &choice, int place)
 {
-    driver.require(choice)->forceActiveFocus(Qt::TabFocusReason); // brings it into view
+    driver.require(choice)->forceActiveFocus(Qt::TabFocusReason); // scrolls it into view
     driver.click(choice);
-    driver.key(Qt::Key_Home); // to the head of a long list
+    driver.key(Qt::Key_Home); // to the start of a long list
     driver.click(u"choice%1"_s.arg(place));
     driver.await(u"the list of \"%1\" is closed"_s.arg(choice), [&] { return !driver.find(u"choice0"_s); });
-    awaitIdle(driver);
+    awaitConfigIdle(driver);
 }
 
 /// Moves a slider with the keyboard.
@@ -59,12 +51,12 @@ void slide(const Driver &driver, const QString &slider, Qt::Key key, int expecte
     driver.key(key);
     driver.await(u"\"%1\" has the number %2"_s.arg(slider).arg(expected),
                  [&] { return numberOf(driver, slider) == expected; });
-    awaitIdle(driver);
+    awaitConfigIdle(driver);
 }
 
 void setNumber(const Driver &driver, const QString &field, int number)
 {
-    driver.require(field)->forceActiveFocus(Qt::TabFocusReason); // brings it into view
+    driver.require(field)->forceActiveFocus(Qt::TabFocusReason); // scrolls it into view
     driver.fill(field, QString::number(number));
     driver.key(Qt::Key_Return);
 }
@@ -72,39 +64,40 @@ void setNumber(const Driver &driver, const QString &field, int number)
 void choose(const Driver &driver, const QString &device)
 {
     driver.click(u"device_"_s + device);
-    awaitIdle(driver);
+    awaitConfigIdle(driver);
 }
 
-/// The recorders stand below the cameras, out of sight.
+/// The recorders are below the cameras, outside the visible area.
 void chooseRecorder(const Driver &driver)
 {
     const QQuickItem *tree = driver.require(u"deviceTree"_s);
     const int rows = tree->property("count").toInt();
     driver.click(u"open_IPC"_s);
-    driver.await(u"the cameras are folded away"_s, [&] {
+    driver.await(u"the group of the cameras is closed"_s, [&] {
         const QQuickItem *row = driver.find(u"device_"_s + recorder);
         return tree->property("count").toInt() < rows && row && row->y() + row->height() < tree->height();
     });
     choose(driver, recorder);
     driver.click(u"open_IPC"_s);
-    driver.await(u"the cameras are there again"_s, [&] { return tree->property("count").toInt() == rows; });
+    driver.await(u"the group of the cameras is open again"_s,
+                 [&] { return tree->property("count").toInt() == rows; });
 }
 
-/// A login that is refused asks for the account, and goes on with it.
+/// A refused login asks for the account and continues with it.
 void walkLogin(Driver &driver)
 {
     driver.click(u"tab2"_s);
     driver.report(u"config-none"_s, driver.text(u"emptyTitle"_s));
     const QQuickItem *deviceTree = driver.require(u"deviceTree"_s);
     {
-        // The first click is one into a tree that has not had the keyboard yet.
+        // The tree has not had the keyboard before the first click.
         const ScrolledTree tree(driver);
         const QString device = tree.clickDevice();
         driver.check(deviceTree->property("chosenDevice").toString() == device,
                      u"the login is one to the device that was clicked"_s);
         driver.require(u"devicePasswordField"_s);
         driver.click(u"cancelButton"_s);
-        driver.await(u"the login is given up"_s, [&] { return !driver.find(u"devicePasswordField"_s); });
+        driver.await(u"the login is cancelled"_s, [&] { return !driver.find(u"devicePasswordField"_s); });
         tree.tickGroup();
         tree.tickDevice();
         driver.turnWheel(deviceTree->mapToScene({1, 1}), 100);
@@ -115,7 +108,7 @@ void walkLogin(Driver &driver)
     driver.fill(u"devicePasswordField"_s, password);
     driver.click(u"okButton"_s);
     driver.require(u"encodeSaveButton"_s);
-    awaitIdle(driver);
+    awaitConfigIdle(driver);
     driver.report(u"config-encode"_s, driver.text(u"configDevice"_s));
 }
 
@@ -127,14 +120,14 @@ void walkStreams(Driver &driver)
     pick(driver, u"mainResolutionChoice"_s, 1);
     pick(driver, u"mainControlChoice"_s, 0);
     driver.check(!driver.require(u"mainQualitySlider"_s)->isEnabled(),
-                 u"a fixed bit rate leaves no choice of quality"_s);
+                 u"the quality is disabled if the bit rate is fixed"_s);
     pick(driver, u"mainControlChoice"_s, 1);
     driver.check(driver.require(u"mainQualitySlider"_s)->isEnabled(),
-                 u"the quality is set where the bit rate varies"_s);
+                 u"the quality is enabled if the bit rate varies"_s);
     slide(driver, u"mainQualitySlider"_s, Qt::Key_Left, 3);
     slide(driver, u"mainFrameRateSlider"_s, Qt::Key_PageDown, 23);
     driver.click(u"mainBitRateChoice"_s);
-    driver.report(u"config-bit-rates"_s, u"steps, and a number of one's own"_s);
+    driver.report(u"config-bit-rates"_s, u"listed bit rates, and a custom one"_s);
     driver.key(Qt::Key_End);
     driver.key(Qt::Key_Return);
     driver.fill(u"mainBitRateField"_s, u"3000"_s);
@@ -145,7 +138,7 @@ void walkStreams(Driver &driver)
     driver.report(u"config-changed"_s, driver.text(u"encodeNotice"_s));
 }
 
-/// What was changed is not lost without a word.
+/// Changes are not discarded without a question.
 void walkLeaving(Driver &driver)
 {
     for (const QString &way : {u"device_"_s + second, u"configTab1"_s, u"tab0"_s}) {
@@ -154,7 +147,7 @@ void walkLeaving(Driver &driver)
         if (way == u"tab0")
             driver.report(u"config-leaving"_s, driver.text(u"messageText"_s));
         driver.click(u"cancelButton"_s);
-        driver.await(u"the question is gone"_s, [&] { return !driver.find(u"messageText"_s); });
+        driver.await(u"the question is closed"_s, [&] { return !driver.find(u"messageText"_s); });
     }
     driver.check(driver.find(u"encodeSaveButton"_s) != nullptr, u"the changes are still there"_s);
 }
@@ -163,7 +156,7 @@ void walkSaving(Driver &driver, sdk::demo::DemoSite &site)
 {
     const QString mac = macOf(site, first);
     const int item = static_cast<int>(sdk::EncodeItem::AudioFormat);
-    site.setFault(mac, {.fault = sdk::demo::Fault::RefusesItem, .number = item, .text = {}});
+    site.setFault(mac, {.fault = sdk::demo::Fault::RefusesItem, .number = item});
     driver.click(u"encodeSaveButton"_s);
     const QString refused = translated("EncodeConfig", "主码流编码音频格式") + u'\n' +
                             translated("EncodeConfig", "辅码流编码音频格式配置") + u'\n' +
@@ -173,19 +166,19 @@ void walkSaving(Driver &driver, sdk::demo::DemoSite &site)
     site.clearFault(mac, sdk::demo::Fault::RefusesItem);
     driver.click(u"encodeSaveButton"_s);
     expectToast(driver, translated("EncodeWork", "保存成功"));
-    awaitIdle(driver);
-    driver.check(!driver.find(u"changeMark"_s), u"nothing is left to be saved"_s);
+    awaitConfigIdle(driver);
+    driver.check(!driver.find(u"changeMark"_s), u"no unsaved change is left"_s);
 
     choose(driver, second);
     driver.click(u"device_"_s + first);
-    awaitIdle(driver);
+    awaitConfigIdle(driver);
     driver.check(driver.text(u"mainBitRateField"_s) == u"3000" &&
                      numberOf(driver, u"mainFrameRateSlider"_s) == 23,
-                 u"the next login reads what was saved"_s);
+                 u"the next login reads the saved values"_s);
     driver.report(u"config-saved"_s, shownBy(driver, u"mainEncodeModeChoice"_s));
 }
 
-/// What a device does not give is neither shown as a value nor written.
+/// Settings that cannot be read are neither shown as values nor written.
 void walkUnread(Driver &driver, sdk::demo::DemoSite &site)
 {
     const QString mac = macOf(site, first);
@@ -193,21 +186,21 @@ void walkUnread(Driver &driver, sdk::demo::DemoSite &site)
     const auto asked = [&](const QString &operation) {
         return site.requests().of(operation).size();
     };
-    site.setFault(mac, {.fault = sdk::demo::Fault::WithholdsItem, .number = item, .text = {}});
+    site.setFault(mac, {.fault = sdk::demo::Fault::WithholdsItem, .number = item});
     driver.click(u"encodeRefreshButton"_s);
-    awaitIdle(driver);
+    awaitConfigIdle(driver);
     driver.check(!driver.require(u"mainAudioSwitch"_s)->isEnabled() &&
                      driver.require(u"mainQualitySlider"_s)->isEnabled(),
-                 u"only what was not read is disabled"_s);
+                 u"only unread settings are disabled"_s);
     driver.report(u"config-unread"_s, driver.text(u"encodeNotice"_s));
     const qsizetype before = asked(u"NetSetItem"_s);
     driver.click(u"encodeSaveButton"_s);
-    awaitIdle(driver);
-    driver.check(asked(u"NetSetItem"_s) == before + 6, u"only what was read is written"_s);
+    awaitConfigIdle(driver);
+    driver.check(asked(u"NetSetItem"_s) == before + 6, u"only read settings are written"_s);
     driver.report(u"config-unread-saved"_s, driver.text(u"encodeNotice"_s));
     site.clearFault(mac, sdk::demo::Fault::WithholdsItem);
     driver.click(u"encodeRefreshButton"_s);
-    awaitIdle(driver);
+    awaitConfigIdle(driver);
 }
 
 int resultOf(const Driver &driver, const QString &device)
@@ -226,12 +219,13 @@ void walkCopying(Driver &driver)
     driver.report(u"config-copy-list"_s, driver.text(u"batchCount"_s));
     driver.click(u"okButton"_s);
     driver.await(u"each device has its result"_s, [&] {
-        return resultOf(driver, second) == copiedWhole && resultOf(driver, old) == copiedPartly &&
-               resultOf(driver, last) == copiedWhole;
+        return resultOf(driver, second) == copiedCompletely && resultOf(driver, old) == copiedPartly &&
+               resultOf(driver, last) == copiedCompletely;
     });
-    driver.await(u"the copying ends"_s, [&] { return !driver.find(u"runningText"_s); });
-    driver.hover(u"resultSign"_s); // of the lowest one
-    driver.await(u"what was not copied is named"_s, [&] { return driver.find(u"toolTip"_s) != nullptr; });
+    awaitBatchEnd(driver);
+    driver.hover(u"resultSign"_s); // of the lowest row
+    driver.await(u"the settings that were not copied are listed"_s,
+                 [&] { return driver.find(u"toolTip"_s) != nullptr; });
     driver.report(u"config-copied"_s, driver.text(u"toolTip"_s));
 }
 
@@ -248,7 +242,7 @@ void walkChannels(Driver &driver)
     driver.report(u"config-old"_s, shownBy(driver, u"mainEncodeModeChoice"_s));
 }
 
-/// Changes that the user gives up are gone.
+/// Discarded changes are removed.
 void walkDiscarding(Driver &driver)
 {
     pick(driver, u"mainControlChoice"_s, 0);
@@ -256,10 +250,10 @@ void walkDiscarding(Driver &driver)
     driver.require(u"messageText"_s);
     driver.click(u"okButton"_s);
     driver.require(u"channelPicture"_s);
-    awaitIdle(driver);
+    awaitConfigIdle(driver);
     driver.click(u"configTab0"_s);
     driver.require(u"encodeSaveButton"_s);
-    awaitIdle(driver);
+    awaitConfigIdle(driver);
     driver.check(driver.require(u"mainControlChoice"_s)->property("currentIndex").toInt() == 1,
                  u"discarded settings are read again"_s);
 }
@@ -268,17 +262,17 @@ void walkImage(Driver &driver, sdk::demo::DemoSite &site)
 {
     choose(driver, first);
     driver.click(u"configTab1"_s);
-    awaitIdle(driver);
-    driver.await(u"the live picture is there"_s,
+    awaitConfigIdle(driver);
+    driver.await(u"the live view shows a frame"_s,
                  [&] { return driver.require(u"liveVideo"_s)->property("hasPicture").toBool(); });
     driver.report(u"config-image"_s, driver.text(u"liveChannelName"_s));
     slide(driver, u"picture_brightnessSlider"_s, Qt::Key_PageUp, 60);
     pick(driver, u"picture_colorStyle"_s, 2);
     driver.click(u"mirror_value"_s);
-    awaitIdle(driver);
+    awaitConfigIdle(driver);
     driver.fill(u"channelNameField"_s, u"East gate"_s);
     driver.key(Qt::Key_Return);
-    awaitIdle(driver);
+    awaitConfigIdle(driver);
     driver.check(driver.text(u"liveChannelName"_s) == u"East gate", u"the channel has its new name"_s);
     driver.click(u"imageSubject1"_s);
     pick(driver, u"shutterChoice"_s, 4);
@@ -288,11 +282,11 @@ void walkImage(Driver &driver, sdk::demo::DemoSite &site)
     setNumber(driver, u"regionLeft"_s, 7000);
     driver.report(u"config-region"_s, driver.text(u"regionComplaint"_s));
     setNumber(driver, u"regionRight"_s, 8000);
-    awaitIdle(driver);
+    awaitConfigIdle(driver);
     driver.check(!driver.find(u"regionComplaint"_s) && driver.text(u"regionLeft"_s) == u"7000",
                  u"both sides of a region are written together"_s);
 
-    site.setFault(macOf(site, first), {.fault = sdk::demo::Fault::RefusesItem, .number = 1318, .text = {}});
+    site.setFault(macOf(site, first), {.fault = sdk::demo::Fault::RefusesItem, .number = 1318});
     driver.click(u"imageSubject0"_s);
     slide(driver, u"picture_hue"_s, Qt::Key_Right, 51);
     const int sharpness = numberOf(driver, u"sharpness_value"_s);
@@ -300,35 +294,35 @@ void walkImage(Driver &driver, sdk::demo::DemoSite &site)
     driver.key(Qt::Key_Right);
     expectToast(driver, translated("ImageWork", "没有修改：%1。显示的是设备现有的值")
                             .arg(translated("EncodeForm", "设备不支持此操作")));
-    driver.check(numberOf(driver, u"sharpness_value"_s) == sharpness, u"what the device refuses goes back"_s);
+    driver.check(numberOf(driver, u"sharpness_value"_s) == sharpness, u"a refused value is reset"_s);
     driver.report(u"config-image-refused"_s, driver.text(u"configState"_s));
     site.clearFault(macOf(site, first), sdk::demo::Fault::RefusesItem);
     driver.click(u"imageDefaultsButton"_s);
     driver.await(u"the defaults are set"_s,
                  [&] { return numberOf(driver, u"picture_brightnessSlider"_s) == 50; });
-    awaitIdle(driver);
+    awaitConfigIdle(driver);
 
     choose(driver, twoLamps);
     driver.click(u"imageSubject2"_s);
     driver.check(driver.find(u"lightControlEx_mixMode"_s) && !driver.find(u"lightControl_controlMode"_s),
-                 u"a camera shows what it has, and no more"_s);
+                 u"a camera shows only the settings that it has"_s);
     pick(driver, u"lightControlEx_Sensitive"_s, 2);
     slide(driver, u"lightControlEx_Brightness"_s, Qt::Key_End, 100);
     driver.report(u"config-light"_s, shownBy(driver, u"lightControlEx_mixMode"_s));
     pick(driver, u"switchModeChoice"_s, 1);
     driver.click(u"imageSubject0"_s);
     driver.check(numberOf(driver, u"picture_brightnessSlider"_s) == 40,
-                 u"the night has a picture of its own"_s);
+                 u"the night has separate image settings"_s);
     chooseRecorder(driver);
     driver.click(u"imageSubject1"_s);
     driver.report(u"config-image-none"_s, driver.text(u"emptyTitle"_s));
 }
 
-/// A device that no longer answers in the login that it gave.
+/// A device that no longer responds in its session.
 void walkLostLogin(Driver &driver, sdk::demo::DemoSite &site)
 {
     const QString mac = macOf(site, last);
-    const sdk::demo::FaultSetting noAnswer = {.fault = sdk::demo::Fault::NoAnswer, .number = 0, .text = {}};
+    const sdk::demo::FaultSetting noAnswer = {.fault = sdk::demo::Fault::NoAnswer};
     const QString loggedIn = translated("DeviceState", "已登录");
     choose(driver, last);
     pick(driver, u"mainControlChoice"_s, 0);
@@ -338,47 +332,47 @@ void walkLostLogin(Driver &driver, sdk::demo::DemoSite &site)
     driver.check(driver.find(u"mainControlChoice"_s) != nullptr, u"the changes are still in view"_s);
     site.clearFault(mac, sdk::demo::Fault::NoAnswer);
     driver.click(u"encodeRefreshButton"_s);
-    driver.click(u"okButton"_s); // give them up
-    awaitIdle(driver);
+    driver.click(u"okButton"_s); // discards the changes
+    awaitConfigIdle(driver);
     driver.check(driver.text(u"configState"_s) == loggedIn, u"refreshing logs in again"_s);
 
     driver.click(u"configTab1"_s);
-    awaitIdle(driver);
+    awaitConfigIdle(driver);
     site.setFault(mac, noAnswer);
     pick(driver, u"switchModeChoice"_s, 1);
     driver.report(u"config-lost"_s, driver.text(u"emptyTitle"_s));
     site.clearFault(mac, sdk::demo::Fault::NoAnswer);
     driver.click(u"device_"_s + last);
-    awaitIdle(driver);
+    awaitConfigIdle(driver);
     driver.check(driver.find(u"switchModeChoice"_s) && driver.text(u"configState"_s) == loggedIn,
-                 u"choosing the device again logs in again"_s);
+                 u"selecting the device again logs in again"_s);
     driver.click(u"configTab0"_s);
-    awaitIdle(driver);
+    awaitConfigIdle(driver);
 }
 
-/// Devices that talk nonsense, and one that is gone.
+/// A device with invalid data, and one that is offline.
 void walkOddDevices(Driver &driver, sdk::demo::DemoSite &site)
 {
     const QString mac = macOf(site, second);
-    site.setFault(mac, {.fault = sdk::demo::Fault::OddCapabilities, .number = 0, .text = {}});
+    site.setFault(mac, {.fault = sdk::demo::Fault::OddCapabilities});
     site.setFault(mac, {.fault = sdk::demo::Fault::OddConfiguration, .number = 0, .text = u"Encode"_s});
     choose(driver, second);
     driver.click(u"imageSubject1"_s);
     driver.report(u"config-odd-image"_s, driver.text(u"configState"_s));
     driver.click(u"configTab0"_s);
     expectToast(driver, translated("ConfigSession", "获取设备配置失败"));
-    awaitIdle(driver);
+    awaitConfigIdle(driver);
     driver.report(u"config-odd-encode"_s, driver.text(u"encodeNotice"_s));
     site.clearFault(mac, sdk::demo::Fault::OddCapabilities);
     site.clearFault(mac, sdk::demo::Fault::OddConfiguration);
 
-    site.setFault(macOf(site, last), {.fault = sdk::demo::Fault::NoAnswer, .number = 0, .text = {}});
+    site.setFault(macOf(site, last), {.fault = sdk::demo::Fault::NoAnswer});
     choose(driver, last);
     driver.report(u"config-away"_s, driver.text(u"configState"_s));
     site.clearFault(macOf(site, last), sdk::demo::Fault::NoAnswer);
     driver.click(u"emptyActionButton"_s);
     driver.require(u"encodeSaveButton"_s);
-    awaitIdle(driver);
+    awaitConfigIdle(driver);
     driver.click(u"tab0"_s);
 }
 

@@ -1,7 +1,7 @@
+#include "tests/tour/commonsteps.h"
 #include "tests/tour/openedaddresses.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
-#include "tests/tour/words.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -22,14 +22,6 @@ void untickAll(const Driver &driver)
         driver.click(u"checkAllBox"_s);
 }
 
-void searchAgain(const Driver &driver)
-{
-    driver.key(Qt::Key_F5);
-    driver.await(u"a search runs"_s, [&] { return driver.window()->property("searching").toBool(); });
-    driver.await(
-        u"the search ends"_s, [&] { return !driver.window()->property("searching").toBool(); }, 30);
-}
-
 /// Types a password twice and presses "OK".
 void offerPassword(const Driver &driver, const QString &password, const QString &confirmation)
 {
@@ -38,12 +30,7 @@ void offerPassword(const Driver &driver, const QString &password, const QString 
     driver.click(u"okButton"_s);
 }
 
-void awaitClosed(const Driver &driver, const QString &name)
-{
-    driver.await(u"\"%1\" is closed"_s.arg(name), [&] { return !driver.find(name); });
-}
-
-/// How many devices of the list get a first password.
+/// The number of devices in the preview that get a first password.
 int offered(const Driver &driver)
 {
     const auto *preview = driver.require(u"initialiseTable"_s)->property("model").value<QObject *>();
@@ -69,26 +56,26 @@ void walkFirstPasswords(Driver &driver)
     driver.report(u"first-password-weak"_s, u"a weak password is refused"_s);
     offerPassword(driver, u"tour2024"_s, u"tour2025"_s);
     expectMessage(driver, "FirstPasswordDialog", "请输入相同的密码");
-    driver.report(u"first-password-differs"_s, u"of medium strength, and mistyped"_s);
+    driver.report(u"first-password-differs"_s, u"medium strength, different confirmation"_s);
     offerPassword(driver, u"Ab1!"_s, u"Ab1!"_s);
     expectMessage(driver, "FirstPasswordDialog", "密码长度应当在8到32个字符范围内");
     driver.report(u"first-password-short"_s, u"strong, but too short"_s);
     offerPassword(driver, u"Tour-2024"_s, u"Tour-2024"_s);
-    awaitClosed(driver, u"firstPasswordField"_s);
-    driver.await(u"three results are there"_s, [&] { return rows.countOf("res", 0) == 3; });
+    driver.awaitGone(u"firstPasswordField"_s);
+    driver.await(u"three results are shown"_s, [&] { return rows.countOf("res", 0) == 3; });
     driver.await(u"the rows show the new state without a search"_s,
                  [&] { return rows.countOf("state", false) == 0; });
     driver.report(u"initialised"_s, u"three devices are initialised"_s);
 
-    // The address can be changed at once.
+    // The address can be changed immediately.
     driver.key(Qt::Key_F, Qt::ControlModifier);
     driver.type(u"192.168.1.110"_s);
-    driver.await(u"one row is left"_s, [&] { return rows.count() == 1; });
+    driver.await(u"only one row is shown"_s, [&] { return rows.count() == 1; });
     driver.click(u"edit0"_s);
     driver.fill(u"newStartField"_s, u"192.168.1.111"_s);
     driver.key(Qt::Key_Return);
-    driver.await(u"the row is found under its old address no more"_s,
-                 [&] { return rows.count() == 0 && !driver.find(u"runningText"_s); });
+    driver.await(u"the row is no longer found by its old address"_s,
+                 [&] { return rows.count() == 0 && !isBatchRunning(driver); });
     driver.click(u"emptyActionButton"_s);
     driver.await(u"a device has another address right after its first password"_s, [&] {
         const int row = rows.rowOf("ipport", u"192.168.1.111:8800"_s);
@@ -123,7 +110,7 @@ void walkBatchAcrossOctet(Driver &driver)
     driver.require(u"messageText"_s);
     driver.report(u"modify-batch-warned"_s, driver.text(u"messageText"_s));
     driver.click(u"okButton"_s);
-    driver.await(u"three results are there"_s, [&] { return rows.countOf("res", 0) == 3; });
+    driver.await(u"three results are shown"_s, [&] { return rows.countOf("res", 0) == 3; });
     driver.report(u"modified-batch"_s, u"three devices have new addresses"_s);
 
     searchAgain(driver);
@@ -131,7 +118,7 @@ void walkBatchAcrossOctet(Driver &driver)
     for (int place = 0; place < 3; ++place) {
         const QString found = rows.value(rows.rowOf("mac", macs.at(place)), "ipport").toString();
         driver.check(found.section(QLatin1Char(':'), 0, 0) == expected.at(place),
-                     u"the device answers at %1 (%2)"_s.arg(expected.at(place), found));
+                     u"the device responds at %1 (%2)"_s.arg(expected.at(place), found));
     }
 }
 
@@ -146,7 +133,7 @@ void walkCollision(Driver &driver)
     driver.fill(u"newStartField"_s, u"192.168.1.230"_s);
     driver.click(u"sameAddressBox"_s);
     driver.require(u"planTable"_s);
-    driver.report(u"modify-same-plan"_s, u"two devices of one address"_s);
+    driver.report(u"modify-same-plan"_s, u"two devices with one address"_s);
     driver.click(u"okButton"_s);
     driver.require(u"messageText"_s);
     driver.click(u"okButton"_s);
@@ -173,15 +160,15 @@ void walkSingle(Driver &driver)
     driver.fill(u"newStartField"_s, rows.value(1, "ipport").toString().section(QLatin1Char(':'), 0, 0));
     driver.fill(u"newGatewayField"_s, u"10.0.0.1"_s);
     driver.click(u"okButton"_s);
-    driver.await(u"both warnings are given, and the other device is named"_s, [&] {
+    driver.await(u"both warnings are shown, and the other device is named"_s, [&] {
         const QStringList warnings = driver.texts(u"fieldMessage"_s);
         return warnings.size() == 2 && warnings.first().contains(rows.value(1, "mac").toString());
     });
     driver.report(u"modify-warned"_s, driver.text(u"fieldMessage"_s));
     driver.fill(u"newStartField"_s, u"192.168.1.231"_s);
-    driver.fill(u"newGatewayField"_s, u"10.0.0.1"_s); // it has followed the address
+    driver.fill(u"newGatewayField"_s, u"10.0.0.1"_s); // the gateway has followed the address
     driver.click(u"okButton"_s);
-    driver.await(u"other warnings are asked about again"_s, [&] {
+    driver.await(u"a different warning asks for confirmation again"_s, [&] {
         return driver.texts(u"fieldMessage"_s).size() == 1 &&
                driver.text(u"okButton"_s) == QCoreApplication::translate("ModifyIPDialog", "仍然修改");
     });
@@ -197,12 +184,12 @@ void walkDetails(Driver &driver)
 {
     const Rows rows(driver);
     driver.click(u"detail1"_s);
-    driver.report(u"detail"_s, u"what is known of a device"_s);
+    driver.report(u"detail"_s, u"the details of a device"_s);
     driver.click(u"okButton"_s);
     driver.check(QGuiApplication::clipboard()->text().contains(rows.value(1, "mac").toString()),
                  u"the details can be copied"_s);
     driver.key(Qt::Key_Escape);
-    awaitClosed(driver, u"detailList"_s);
+    driver.awaitGone(u"detailList"_s);
 
     const OpenedAddresses pages(u"http"_s);
     driver.click(u"web1"_s);
@@ -221,10 +208,10 @@ void walkDeleting(Driver &driver)
     driver.click(u"deleteButton"_s);
     driver.report(u"delete"_s, driver.text(u"messageText"_s));
     driver.click(u"cancelButton"_s);
-    driver.check(rows.count() == before, u"nothing is deleted without a yes"_s);
+    driver.check(rows.count() == before, u"nothing is deleted without confirmation"_s);
     driver.click(u"deleteButton"_s);
     driver.click(u"okButton"_s);
-    driver.await(u"two rows are gone"_s, [&] { return rows.count() == before - 2; });
+    driver.await(u"two rows are removed"_s, [&] { return rows.count() == before - 2; });
     driver.report(u"deleted"_s, u"%1 devices are left"_s.arg(rows.count()));
 }
 

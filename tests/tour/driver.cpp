@@ -25,7 +25,7 @@ QQuickItem *findBelow(QQuickItem *item, const QString &name)
         return nullptr;
     if (item->objectName() == name)
         return item;
-    // The last child first: of two dialogs one over the other, the upper one is meant.
+    // Starts with the last child, so that the upper one of two dialogs is found.
     const QList<QQuickItem *> children = item->childItems();
     for (auto child = children.crbegin(); child != children.crend(); ++child) {
         if (QQuickItem *found = findBelow(*child, name))
@@ -61,7 +61,7 @@ void blankVideo(QQuickItem *item, QPainter &painter)
         blankVideo(child, painter);
 }
 
-/// What is on the window, with live pictures blanked.
+/// The image of the window, with live views painted black.
 QImage withoutVideo(QQuickWindow *window)
 {
     QImage image = window->grabWindow();
@@ -73,10 +73,10 @@ QImage withoutVideo(QQuickWindow *window)
 
 } // namespace
 
-Driver::Driver(QQuickWindow *window, QString pictureFolder)
-    : m_window(window), m_pictureFolder(std::move(pictureFolder))
+Driver::Driver(QQuickWindow *window, QString imageFolder)
+    : m_window(window), m_imageFolder(std::move(imageFolder))
 {
-    QDir().mkpath(m_pictureFolder);
+    QDir().mkpath(m_imageFolder);
 }
 
 void Driver::activate() const
@@ -142,7 +142,7 @@ bool Driver::isUnderNotice(QPoint place) const
             return text->mapRectToScene(text->boundingRect()).marginsAdded(margins).contains(place);
         }))
         return false;
-    QTest::mouseMove(m_window, QPoint(1, 1)); // a notice stays while the pointer is on it
+    QTest::mouseMove(m_window, QPoint(1, 1)); // a notice stays open while the pointer is over it
     return true;
 }
 
@@ -208,15 +208,15 @@ void Driver::type(const QString &text) const
 
 void Driver::fill(const QString &name, const QString &text) const
 {
-    // Near its upper edge: what is wrong with the text may stand under it.
+    // Near the upper edge, because an error message may cover the lower part.
     constexpr int intoField = 8;
     QQuickItem *field = require(name);
     atRest();
     const QPoint place = field->mapToScene(QPointF(field->width() / 2, intoField)).toPoint();
-    // Input may be held back yet after what was done before.
+    // Input may still be blocked after the previous step.
     await(QStringLiteral("\"%1\" has the keyboard").arg(name), [&] {
         QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, place);
-        const QQuickItem *clicked = find(name); // a field may take the place of what it is made for
+        const QQuickItem *clicked = find(name); // an editor may replace the item
         return clicked && clicked->hasActiveFocus();
     });
     key(Qt::Key_A, Qt::ControlModifier);
@@ -229,28 +229,33 @@ void Driver::await(const QString &what, const std::function<bool()> &condition, 
     check(QTest::qWaitFor(condition, seconds * 1000), what);
 }
 
+void Driver::awaitGone(const QString &name) const
+{
+    await(QStringLiteral("\"%1\" is closed").arg(name), [&] { return !find(name); });
+}
+
 void Driver::check(bool condition, const QString &what) const
 {
     if (condition)
         return;
     QTextStream(stdout) << "FAILED: " << what << Qt::endl;
     if (m_window)
-        m_window->grabWindow().save(m_pictureFolder + QStringLiteral("/failed.png"));
-    std::_Exit(EXIT_FAILURE); // the scene is in the middle of something: nothing of it must run any more
+        m_window->grabWindow().save(m_imageFolder + QStringLiteral("/failed.png"));
+    std::_Exit(EXIT_FAILURE); // QML is inside a call and must not continue
 }
 
 void Driver::report(const QString &step, const QString &seen)
 {
     atRest();
     checkNames(m_window->contentItem());
-    const QString picture = QStringLiteral("%1-%2.png").arg(++m_pictures, 2, 10, QLatin1Char('0')).arg(step);
-    // Taking the picture lays out what has changed since the last frame, a counter that climbs for instance.
+    const QString name = QStringLiteral("%1-%2.png").arg(++m_images, 2, 10, QLatin1Char('0')).arg(step);
+    // Grabbing the window updates the layout of items that have changed since the last frame.
     const QImage image = m_window->grabWindow();
-    // A warning fails the tour at its end; the other pictures are seen as well until then.
+    // A warning fails the tour at its end, so that the other images are still checked.
     const QStringList faults = layoutFaults(*m_window);
     for (const QString &fault : faults)
         qWarning().noquote() << "Layout of" << picture + ':' << fault;
-    check(!image.isNull() && image.save(m_pictureFolder + QLatin1Char('/') + picture),
+    check(!image.isNull() && image.save(m_imageFolder + QLatin1Char('/') + picture),
           QStringLiteral("the picture %1 is saved").arg(picture));
     QTextStream(stdout) << picture << ": " << seen << Qt::endl;
 }
@@ -273,8 +278,8 @@ void Driver::checkNames(QQuickItem *item) const
 
 void Driver::atRest() const
 {
-    // Two pictures alike, a moment apart, but for live video: animations have ended. What else moves for good
-    // (a search that runs) is given up on after a while.
+    // Animations have ended when two successive images are equal except for live video. The wait is limited,
+    // because a running search never comes to rest.
     constexpr int tries = 12;
     QImage before;
     for (int attempt = 0; attempt < tries; ++attempt) {

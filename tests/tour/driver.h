@@ -1,5 +1,4 @@
-// Drives the program's window as a user does: looks for what is on it, clicks and types, waits for what
-// follows.
+// Drives the application's window as a user does: finds items, clicks, types and waits for the results.
 #pragma once
 
 #include <QPointer>
@@ -10,23 +9,22 @@
 
 #include <functional>
 
-/// Everything on the main thread. A requirement that is not met ends the tour with a message and a last
-/// picture.
+/// Main thread only. A failed check ends the tour with a message and the image failed.png.
 class Driver
 {
 public:
-    Driver(QQuickWindow *window, QString pictureFolder);
+    Driver(QQuickWindow *window, QString imageFolder);
 
     [[nodiscard]] QQuickWindow *window() const { return m_window; }
-    [[nodiscard]] const QString &pictureFolder() const { return m_pictureFolder; }
+    [[nodiscard]] const QString &imageFolder() const { return m_imageFolder; }
 
-    /// Makes the window the active one, which gets the keys.
+    /// Makes the window active, so that it gets the keys.
     void activate() const;
 
-    /// The visible item with this object name, null when there is none.
+    /// The visible item with this object name; null if there is none.
     [[nodiscard]] QQuickItem *find(const QString &name) const;
 
-    /// The same, waited for; the tour ends when it does not come.
+    /// Waits for the item; the tour fails if it does not appear.
     QQuickItem *require(const QString &name) const;
 
     /// "text" of a visible item.
@@ -35,40 +33,43 @@ public:
     /// "text" of every visible item with this object name.
     [[nodiscard]] QStringList texts(const QString &name) const;
 
-    /// Clicks the middle of an item, once it has come to rest.
+    /// Clicks the centre of an item after animations have ended.
     void click(const QString &name, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
     void hover(const QString &name) const;
     void doubleClick(const QString &name) const;
     void rightClick(const QString &name) const;
-    void turnWheel(QPointF place, int notches) const; ///< upwards; `place` is one of the window
+    void turnWheel(QPointF place, int notches) const; ///< upwards; `place` is a position in the window
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
 
-    /// Types into the item that has the keyboard. Text that no key makes is put in as an input method does.
+    /// Types into the focused item. Characters without a key are entered as by an input method.
     void type(const QString &text) const;
 
     /// Replaces the text of a field.
     void fill(const QString &name, const QString &text) const;
 
-    /// Answers the desktop's box for files and folders with a path, as a user types it.
+    /// Enters a path in the dialog for files and folders.
     void answerFileBox(const QString &path) const;
 
-    /// Goes on when `condition` holds; ends the tour with `what` when it does not within `seconds`.
+    /// Waits until `condition` is true. The tour fails with the message `what` after `seconds`.
     void await(const QString &what, const std::function<bool()> &condition, int seconds = 15) const;
+
+    /// Waits until no item with this object name is visible.
+    void awaitGone(const QString &name) const;
 
     void check(bool condition, const QString &what) const;
 
-    /// Says what a step has seen, and takes its picture once the window is at rest. All that the keyboard
-    /// reaches must have a name for screen readers then. A fault of the layout is a warning.
+    /// Prints `seen` and saves an image after animations have ended. Fails if an item that the keyboard
+    /// reaches has no name for screen readers. A fault of the layout is a warning.
     void report(const QString &step, const QString &seen);
 
 private:
-    /// An item that is at rest and that nothing keeps clicks from.
+    /// Waits until animations have ended and the item accepts clicks.
     [[nodiscard]] QQuickItem *requireForClicks(const QString &name) const;
     [[nodiscard]] bool isUnderNotice(QPoint place) const;
     void atRest() const;
     void checkNames(QQuickItem *item) const;
 
     QPointer<QQuickWindow> m_window;
-    const QString m_pictureFolder;
-    int m_pictures = 0;
+    const QString m_imageFolder;
+    int m_images = 0;
 };

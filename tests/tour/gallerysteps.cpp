@@ -19,23 +19,15 @@ const QStringList chosen = {
     u"192.168.1.101:8800"_s, u"192.168.1.102:8800"_s, refusing, u"192.168.1.104:8800"_s, freshDevice,
     u"192.168.1.121:8801"_s, u"192.168.1.140:8800"_s};
 
-void tick(const Driver &driver, const QStringList &ipports)
-{
-    const Rows rows(driver);
-    for (const QString &ipport : ipports)
-        driver.click(u"check%1"_s.arg(rows.rowOf("ipport", ipport)));
-    driver.check(rows.countOf("checked", true) == ipports.size(), u"the devices are ticked"_s);
-}
-
 void walkPictures(Driver &gallery)
 {
-    gallery.await(u"the first picture is there"_s,
+    gallery.await(u"the first image is shown"_s,
                   [&] { return gallery.find(u"galleryPicture"_s) != nullptr; });
     gallery.report(u"fetching"_s, gallery.text(u"gallerySummary"_s));
     gallery.await(
-        u"all pictures are fetched"_s, [&] { return gallery.find(u"galleryAgainButton"_s) != nullptr; }, 60);
+        u"all images are fetched"_s, [&] { return gallery.find(u"galleryAgainButton"_s) != nullptr; }, 60);
     gallery.check(gallery.texts(u"galleryTitle"_s).size() > chosen.size(),
-                  u"a recorder has a picture for each channel"_s);
+                  u"a recorder has an image for each channel"_s);
     gallery.report(u"fetched"_s,
                    gallery.text(u"gallerySummary"_s) + u", "_s + gallery.text(u"galleryFailures"_s));
     gallery.key(Qt::Key_Right);
@@ -43,15 +35,15 @@ void walkPictures(Driver &gallery)
     gallery.hover(u"galleryTitle"_s);
     gallery.report(u"selected"_s, gallery.text(u"gallerySummary"_s));
     gallery.key(Qt::Key_S, Qt::ControlModifier);
-    gallery.await(u"they are saved"_s, [&] { return gallery.find(u"galleryFolder"_s) != nullptr; });
+    gallery.await(u"the images are saved"_s, [&] { return gallery.find(u"galleryFolder"_s) != nullptr; });
     gallery.report(u"saved"_s, gallery.text(u"gallerySummary"_s));
-    gallery.check(!QImage(u"snap/192.168.1.101_8800/0.jpg"_s).isNull(), u"a picture is in the folder"_s);
+    gallery.check(!QImage(u"snap/192.168.1.101_8800/0.jpg"_s).isNull(), u"an image is in the folder"_s);
     gallery.key(Qt::Key_Home);
 }
 
 void awaitPlaying(const Driver &live, const QList<int> &places)
 {
-    live.await(u"the pictures are there"_s, [&] {
+    live.await(u"the live views show frames"_s, [&] {
         for (const int place : places) {
             const QQuickItem *player = live.find(u"livePlace%1"_s.arg(place));
             if (!player || !player->property("playing").toBool())
@@ -61,7 +53,7 @@ void awaitPlaying(const Driver &live, const QList<int> &places)
     });
 }
 
-void walkWay(Driver &live)
+void walkNavigation(Driver &live)
 {
     awaitPlaying(live, {0});
     live.report(u"first"_s, live.text(u"liveDevicePlace"_s) + u' ' + live.text(u"liveTitle"_s));
@@ -82,7 +74,7 @@ void walkSeveralDevices(Driver &live)
     awaitPlaying(live, {0, 1, 3, 4, 5});
     live.report(u"several"_s, live.texts(u"liveChannelName"_s).join(u", "_s));
     live.click(u"liveRemove1"_s);
-    live.await(u"the device is gone"_s,
+    live.await(u"the device is removed"_s,
                [&] { return !live.texts(u"liveChannelName"_s).join(u' ').contains(u"Reception"_s); });
     live.report(u"removed"_s, live.texts(u"liveChannelName"_s).join(u", "_s));
 }
@@ -91,8 +83,8 @@ void walkSeveralDevices(Driver &live)
 
 void walkGallery(Driver &driver, sdk::demo::DemoSite &site, const QString &folder)
 {
-    site.setFault(refusingMac, {.fault = sdk::demo::Fault::WrongPassword, .number = 0, .text = {}});
-    tick(driver, chosen);
+    site.setFault(refusingMac, {.fault = sdk::demo::Fault::WrongPassword});
+    tickRows(driver, Rows(driver), chosen);
     driver.hover(u"galleryButton"_s);
     driver.report(u"gallery-button"_s, u"%1 devices are ticked"_s.arg(chosen.size()));
     driver.click(u"galleryButton"_s);
@@ -101,7 +93,7 @@ void walkGallery(Driver &driver, sdk::demo::DemoSite &site, const QString &folde
 
     gallery.key(Qt::Key_Return);
     Driver live(awaitWindow(driver, u"liveWindow"_s), folder + u"/live"_s);
-    walkWay(live);
+    walkNavigation(live);
     walkSeveralDevices(live);
     closeLive(driver, live);
     gallery.activate();

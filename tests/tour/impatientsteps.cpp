@@ -1,11 +1,11 @@
-// Someone with a wrong password and much impatience: tries passwords, clicks twice everywhere, presses
-// Escape, changes the tab while devices are at work, and closes the window meanwhile.
+// An impatient user with a wrong password: tries passwords, double-clicks everything, presses Escape, changes
+// the tab during a batch, and closes the window.
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/scene/fault.h"
+#include "tests/tour/commonsteps.h"
 #include "tests/tour/livewindow.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
-#include "tests/tour/words.h"
 
 #include <algorithm>
 
@@ -16,38 +16,30 @@ namespace {
 const QString password = u"Office-2024"_s;
 const QString camera = u"192.168.1.101:8800"_s;
 
-void awaitGone(const Driver &driver, const QString &name)
-{
-    driver.await(u"\"%1\" is gone"_s.arg(name), [&] { return !driver.find(name); });
-}
-
-/// Closing during a search is refused; the refusal is on the window once.
+/// Closing during a search is refused with one message.
 void walkSearch(Driver &driver)
 {
     driver.doubleClick(u"searchButton"_s);
-    driver.await(u"a search runs"_s, [&] { return driver.window()->property("searching").toBool(); });
+    driver.await(u"a search runs"_s, [&] { return isSearching(driver); });
     driver.click(u"closeButton"_s);
     driver.click(u"closeButton"_s);
     const QString refusal = translated("BusyState", "正在搜索，请先停止搜索（Esc）或稍候再关闭");
     expectToast(driver, refusal);
-    driver.check(driver.texts(u"toastText"_s).count(refusal) == 1, u"closing is refused, said once"_s);
+    driver.check(driver.texts(u"toastText"_s).count(refusal) == 1, u"closing is refused with one message"_s);
     driver.report(u"closing-refused"_s, refusal);
     driver.key(Qt::Key_Escape);
-    driver.await(u"the search is stopped"_s,
-                 [&] { return !driver.window()->property("searching").toBool(); });
+    awaitSearchEnd(driver, 15);
     driver.click(u"searchButton"_s);
-    driver.await(u"a search runs"_s, [&] { return driver.window()->property("searching").toBool(); });
-    driver.await(
-        u"the search ends"_s, [&] { return !driver.window()->property("searching").toBool(); }, 30);
+    awaitSearch(driver);
 }
 
-/// What a button opens is open once, however often it is clicked, and closed by one Escape.
+/// A double click opens a dialog once, and one Escape closes it.
 void openTwice(Driver &driver, const QString &button, const QString &sign)
 {
     driver.doubleClick(button);
     driver.require(sign);
     driver.key(Qt::Key_Escape);
-    awaitGone(driver, sign);
+    driver.awaitGone(sign);
     driver.key(Qt::Key_Escape);
     driver.check(driver.window()->isVisible() && !driver.find(sign), u"\"%1\" opened it once"_s.arg(button));
 }
@@ -66,7 +58,7 @@ void walkDoubleClicks(Driver &driver)
     openTwice(driver, u"batchModifyButton"_s, u"newStartField"_s);
     openTwice(driver, u"searchSettingsButton"_s, u"passwordField"_s);
     driver.check(rows.count() == all && rows.countOf("checked", true) == 1, u"the list is as it was"_s);
-    driver.doubleClick(u"live2"_s); // not of the camera that is logged in to later
+    driver.doubleClick(u"live2"_s); // not the camera of the login below
     QQuickWindow *live = awaitWindow(driver, u"liveWindow"_s);
     const QWindowList windows = QGuiApplication::topLevelWindows();
     driver.check(std::ranges::count_if(windows,
@@ -75,13 +67,13 @@ void walkDoubleClicks(Driver &driver)
                                                   window->isVisible();
                                        }) == 1,
                  u"one live window is open"_s);
-    closeLive(driver, Driver(live, driver.pictureFolder()));
+    closeLive(driver, Driver(live, driver.imageFolder()));
     driver.activate();
     driver.click(u"check0"_s);
     driver.report(u"clicked-twice"_s, u"nothing is left open"_s);
 }
 
-/// Each wrong password is sent once and counted; the right one is accepted after them.
+/// Each wrong password is sent once and counted. The correct one is accepted afterwards.
 void walkWrongPasswords(Driver &driver, sdk::demo::DemoSite &site)
 {
     driver.doubleClick(u"tab2"_s);
@@ -100,14 +92,14 @@ void walkWrongPasswords(Driver &driver, sdk::demo::DemoSite &site)
         driver.doubleClick(u"okButton"_s);
     }
     driver.require(u"encodeSaveButton"_s);
-    driver.await(u"the device has answered"_s,
+    driver.await(u"the device has responded"_s,
                  [&] { return driver.text(u"configState"_s) == translated("DeviceState", "已登录"); });
-    awaitGone(driver, u"devicePasswordField"_s); // the dialog fades
+    driver.awaitGone(u"devicePasswordField"_s); // the dialog fades out
     driver.check(site.requests().of("NetLoginSecure").size() == 4, u"the right password is sent once"_s);
     driver.report(u"right-password"_s, driver.text(u"configDevice"_s));
 }
 
-/// A batch is begun once. It goes on while the user looks at the other pages.
+/// A batch is started once. It continues while other pages are shown.
 void walkBatch(Driver &driver, sdk::demo::DemoSite &site)
 {
     const auto asked = [&site] {
@@ -115,7 +107,7 @@ void walkBatch(Driver &driver, sdk::demo::DemoSite &site)
     };
     const QList<sdk::demo::SceneDevice> scene = site.devices();
     for (const sdk::demo::SceneDevice &device : scene)
-        site.setFault(device.mac, {.fault = sdk::demo::Fault::SlowAnswers, .number = 3000, .text = {}});
+        site.setFault(device.mac, {.fault = sdk::demo::Fault::SlowAnswers, .number = 3000});
     driver.click(u"tab3"_s);
     driver.click(u"systemTab0"_s);
     if (driver.require(u"allDevicesBox"_s)->property("checkState").toInt() != Qt::Checked)
@@ -124,7 +116,7 @@ void walkBatch(Driver &driver, sdk::demo::DemoSite &site)
     driver.doubleClick(u"setTimeByPCButton"_s);
     driver.require(u"previewTable"_s);
     driver.click(u"okButton"_s);
-    driver.require(u"messageText"_s); // two devices have one address
+    driver.require(u"messageText"_s); // two devices have the same address
     driver.click(u"okButton"_s);
     driver.require(u"runningText"_s);
     for (int tab = 4; tab >= 0; --tab)
@@ -133,14 +125,14 @@ void walkBatch(Driver &driver, sdk::demo::DemoSite &site)
     driver.report(u"other-page"_s, driver.text(u"runningText"_s));
     driver.click(u"tab3"_s);
     driver.await(
-        u"a device is asked"_s, [&] { return asked() > 0; }, 30);
+        u"a device has received a request"_s, [&] { return asked() > 0; }, 30);
 
     driver.doubleClick(u"closeButton"_s);
     driver.require(u"messageText"_s);
     driver.report(u"closing-asked"_s, driver.text(u"messageText"_s));
     driver.key(Qt::Key_Escape);
-    awaitGone(driver, u"messageText"_s);
-    driver.check(driver.find(u"runningText"_s) != nullptr, u"the question is one, and the batch goes on"_s);
+    driver.awaitGone(u"messageText"_s);
+    driver.check(isBatchRunning(driver), u"the question was asked once, and the batch continues"_s);
 }
 
 } // namespace

@@ -1,7 +1,8 @@
-// An installer with twelve new cameras and recorders, six of which still have the same address: finds them,
-// gives them one password, twelve addresses in one range and names from a pattern, looks at their images,
-// saves these, and exports the list.
+// An installer with twelve new cameras and recorders, six of which still have the same address: searches,
+// sets one password, twelve addresses in one range and names from a pattern, fetches and saves images, and
+// exports the list.
 #include "tests/files/filecontents.h"
+#include "tests/tour/commonsteps.h"
 #include "tests/tour/otherwindow.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
@@ -15,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int devices = 12;
-constexpr int cameras = 9; // of them; the other ones are recorders
+constexpr int cameras = 9; // the other devices are recorders
 constexpr int channelsOfRecorder = 16;
 constexpr int firstHost = 201;
 const QString newPassword = u"Lobby-2026"_s;
@@ -23,20 +24,6 @@ const QString newPassword = u"Lobby-2026"_s;
 QString addressOf(int place)
 {
     return u"192.168.1.%1"_s.arg(firstHost + place);
-}
-
-void awaitEndOfBatch(const Driver &driver)
-{
-    driver.await(
-        u"the batch ends"_s, [&] { return !driver.find(u"runningText"_s); }, 120);
-}
-
-void searchAgain(const Driver &driver)
-{
-    driver.click(u"searchButton"_s);
-    driver.await(u"a search runs"_s, [&] { return driver.window()->property("searching").toBool(); });
-    driver.await(
-        u"the search ends"_s, [&] { return !driver.window()->property("searching").toBool(); }, 30);
 }
 
 void selectAll(const Driver &driver)
@@ -53,14 +40,13 @@ void walkFound(Driver &driver)
     driver.await(
         u"twelve factory-new devices are listed"_s,
         [&] {
-            return !driver.window()->property("searching").toBool() && rows.count() == devices &&
-                   rows.countOf("state", false) == devices;
+            return !isSearching(driver) && rows.count() == devices && rows.countOf("state", false) == devices;
         },
         30);
     driver.report(u"found"_s, driver.text(u"footWarning"_s));
 }
 
-/// The password that factory-new devices get is theirs from then on, also after a search.
+/// The first password is used for the devices afterwards, also after a search.
 void walkFirstPassword(Driver &driver)
 {
     const Rows rows(driver);
@@ -81,11 +67,12 @@ void walkFirstPassword(Driver &driver)
     driver.await(
         u"each device is initialised"_s,
         [&] { return rows.countOf("res", 0) == devices && rows.countOf("state", false) == 0; }, 60);
-    awaitEndOfBatch(driver);
-    driver.await(u"it is said that the account is kept"_s,
+    awaitBatchEnd(driver);
+    driver.await(u"a notice confirms that the account is stored"_s,
                  [&] { return driver.texts(u"toastText"_s).join(u' ').contains(QString::number(devices)); });
     driver.report(u"account-kept"_s, driver.texts(u"toastText"_s).join(u" / "_s));
-    searchAgain(driver);
+    driver.click(u"searchButton"_s);
+    awaitSearch(driver);
     driver.check(rows.countOf("state", false) == 0, u"the next search finds no factory-new device"_s);
 }
 
@@ -102,7 +89,7 @@ void walkAddresses(Driver &driver)
         return rows.rowOf("ipport", addressOf(number) + u":8800"_s);
     };
     driver.await(
-        u"each device has an address of its own"_s,
+        u"each device has a unique address"_s,
         [&] {
             int found = 0;
             for (int number = 0; number < devices; ++number)
@@ -110,7 +97,7 @@ void walkAddresses(Driver &driver)
             return found == devices;
         },
         120);
-    awaitEndOfBatch(driver);
+    awaitBatchEnd(driver);
     driver.check(rows.countOf("conflict", true) == 0 && !driver.find(u"footWarning"_s),
                  u"no two devices have the same address"_s);
     driver.report(u"addresses"_s, driver.text(u"selectedCount"_s));
@@ -119,7 +106,7 @@ void walkAddresses(Driver &driver)
         driver.check(place(number) >= 0, u"a search finds %1"_s.arg(addressOf(number)));
 }
 
-/// Nothing asks for a password: each device takes the one that it was given.
+/// No dialog asks for a password: each device has a stored one.
 void walkNames(Driver &driver)
 {
     driver.click(u"tab2"_s);
@@ -136,10 +123,10 @@ void walkNames(Driver &driver)
     driver.fill(u"patternDigitsField"_s, u"2"_s);
     driver.report(u"names-preview"_s, driver.text(u"patternField"_s));
     driver.click(u"okButton"_s);
-    driver.await(u"the batch begins"_s, [&] { return !driver.find(u"namePreview"_s); });
-    awaitEndOfBatch(driver);
+    driver.await(u"the batch starts"_s, [&] { return !driver.find(u"namePreview"_s); });
+    awaitBatchEnd(driver);
     driver.check(!driver.find(u"devicePasswordField"_s) && !driver.find(u"footWarning"_s),
-                 u"each device has taken its name"_s);
+                 u"each device has accepted its name"_s);
     const Rows tree(driver, u"deviceTree"_s);
     const auto names = [&tree] {
         QStringList details;
@@ -157,8 +144,8 @@ void walkNames(Driver &driver)
     driver.report(u"names"_s, names().join(u", "_s));
 }
 
-/// Every channel of a device has an image, or says why it has none. Returns the files that its images are
-/// saved in.
+/// Checks that every channel of a device has an image or a reason for its absence. Returns the files of the
+/// images.
 QStringList imagesOf(const Driver &gallery, const QString &ipport, bool isRecorder)
 {
     const Rows cells(gallery, u"galleryGrid"_s);
@@ -174,7 +161,7 @@ QStringList imagesOf(const Driver &gallery, const QString &ipport, bool isRecord
             files.append(u"%1/%2.jpg"_s.arg(folder, channel));
         else
             gallery.check(isRecorder && !cells.value(cell, "message").toString().isEmpty(),
-                          u"channel %1 of %2 has an image, or says why it has none"_s.arg(channel, ipport));
+                          u"channel %1 of %2 has an image or shows the reason"_s.arg(channel, ipport));
     }
     gallery.check(channels == (isRecorder ? channelsOfRecorder : 1),
                   u"%1 shows %2 channels"_s.arg(ipport).arg(channels));
@@ -204,7 +191,7 @@ void walkImages(Driver &driver, const QString &folder)
     gallery.report(u"images"_s, gallery.text(u"gallerySummary"_s));
     gallery.click(u"gallerySaveButton"_s);
     gallery.await(
-        u"they are saved"_s, [&] { return gallery.find(u"galleryFolder"_s) != nullptr; }, 60);
+        u"the images are saved"_s, [&] { return gallery.find(u"galleryFolder"_s) != nullptr; }, 60);
     gallery.report(u"images-saved"_s, gallery.text(u"gallerySummary"_s));
     for (const QString &path : std::as_const(images))
         gallery.check(!QImage(path).isNull(), u"%1 is an image"_s.arg(path));
@@ -237,7 +224,7 @@ void walkList(Driver &driver, const QString &folder)
 
 void walkInstaller(Driver &driver)
 {
-    const QString &folder = driver.pictureFolder();
+    const QString &folder = driver.imageFolder();
     driver.activate();
     walkFound(driver);
     walkFirstPassword(driver);

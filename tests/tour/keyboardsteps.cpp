@@ -1,8 +1,9 @@
-// Someone who has only the keyboard.
+// A user without a mouse.
 #include "sdk/demo/demosite.h"
+#include "tests/tour/commonsteps.h"
 #include "tests/tour/rows.h"
+#include "tests/tour/scenedevices.h"
 #include "tests/tour/steps.h"
-#include "tests/tour/words.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -11,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int roundTheWindow = 24; ///< Tabs
+constexpr int tabsAroundWindow = 24; ///< upper limit
 
 bool hasKeyboard(const Driver &driver, const QString &name)
 {
@@ -19,7 +20,7 @@ bool hasKeyboard(const Driver &driver, const QString &name)
     return item && item->hasActiveFocus();
 }
 
-/// Presses a key until the item has the keyboard.
+/// Presses a key until the item has the focus.
 void goTo(const Driver &driver, const QString &name, Qt::Key key, int most)
 {
     for (int presses = 0; presses < most && !hasKeyboard(driver, name); ++presses)
@@ -40,11 +41,11 @@ void take(const Driver &driver, const QString &entry)
     driver.await(u"the menu is closed"_s, [&] { return !driver.find(u"detailItem"_s); });
 }
 
-/// From each control of the page, at most five Tabs lead to the table.
-void walkWayToTheTable(Driver &driver)
+/// At most five Tabs lead from each control of the page to the table.
+void walkToTheTable(Driver &driver)
 {
     driver.key(Qt::Key_1, Qt::ControlModifier);
-    // The control that was used last on the page has the keyboard again.
+    // The last used control of the page has the focus again.
     constexpr int furthest = 5;
     for (int tab = 0; tab < furthest && !hasKeyboard(driver, u"tableRows"_s); ++tab)
         driver.key(Qt::Key_Tab);
@@ -61,7 +62,7 @@ void walkWayToTheTable(Driver &driver)
                                                        {u"initialiseButton"_s, u"initialiseButton"_s},
                                                        {u"initialiseButton"_s, u"ipv4Choice"_s}};
     for (const auto &[first, start] : starts) {
-        goTo(driver, first, Qt::Key_Tab, roundTheWindow);
+        goTo(driver, first, Qt::Key_Tab, tabsAroundWindow);
         goTo(driver, start, Qt::Key_Right, 16);
         goTo(driver, u"tableRows"_s, Qt::Key_Tab, furthest);
     }
@@ -86,14 +87,14 @@ void walkRow(Driver &driver)
     driver.key(Qt::Key_Return);
     driver.require(u"detailLoginButton"_s);
     driver.key(Qt::Key_Return);
-    driver.await(u"the dialog says that it copies"_s,
+    driver.await(u"the dialog confirms the copy"_s,
                  [&] { return driver.find(u"dialogNotice"_s) != nullptr; });
     driver.report(u"keyboard-details"_s, driver.text(u"dialogNotice"_s));
     driver.key(Qt::Key_Escape);
     driver.await(u"the details are closed"_s, [&] { return !driver.find(u"detailLoginButton"_s); });
 }
 
-/// Of the other pages.
+/// The menus of the other pages.
 void walkMenus(Driver &driver)
 {
     for (const Qt::Key page : {Qt::Key_2, Qt::Key_5}) {
@@ -111,17 +112,7 @@ void walkMenus(Driver &driver)
     }
 }
 
-QString macAt(const sdk::demo::DemoSite &site, const QString &ipport)
-{
-    QString mac;
-    site.forEachDevice([&](const sdk::demo::SceneDevice &device) {
-        if (ipport.startsWith(device.address + u':'))
-            mac = device.mac;
-    });
-    return mac;
-}
-
-/// A wrong password twice, then the right one.
+/// A wrong password twice, then the correct one.
 void walkWrongPassword(Driver &driver, sdk::demo::DemoSite &site)
 {
     driver.key(Qt::Key_3, Qt::ControlModifier);
@@ -134,7 +125,7 @@ void walkWrongPassword(Driver &driver, sdk::demo::DemoSite &site)
     driver.key(Qt::Key_Escape);
     driver.await(u"the menu is closed"_s, [&] { return !driver.find(u"detailItem"_s); });
     const Rows tree(driver, u"deviceTree"_s);
-    const QString mac = macAt(site, tree.value(1, "title").toString());
+    const QString mac = macOf(site, tree.value(1, "title").toString());
     site.setFault(mac, {.fault = sdk::demo::Fault::WrongPassword});
     driver.key(Qt::Key_Return);
     const auto shown = [&](const QString &text) {
@@ -162,17 +153,17 @@ bool isNaming(const Driver &driver, const QString &ipport)
            hasKeyboard(driver, u"channelName0"_s);
 }
 
-/// Enter saves the name of a camera and opens the next one, which takes the same account.
+/// Enter saves the name of a camera and opens the next one, which has the same account.
 void walkNaming(Driver &driver)
 {
     goTo(driver, u"configTab0"_s, Qt::Key_Tab, 5);
     driver.key(Qt::Key_Right);
-    // The tabs take no keys while the image settings are read.
-    driver.await(u"the tabs take keys"_s, [&] {
+    // The tabs are disabled while the image settings are read.
+    driver.await(u"the tabs are enabled"_s, [&] {
         return driver.find(u"configTab1"_s) && driver.find(u"configTab1"_s)->isEnabled() &&
                driver.find(u"imageDefaultsButton"_s) && driver.find(u"imageDefaultsButton"_s)->isEnabled();
     });
-    goTo(driver, u"configTab1"_s, Qt::Key_Tab, roundTheWindow);
+    goTo(driver, u"configTab1"_s, Qt::Key_Tab, tabsAroundWindow);
     driver.key(Qt::Key_Right);
     driver.require(u"nameTable"_s);
     goTo(driver, u"tableRows"_s, Qt::Key_Tab, 5);
@@ -195,7 +186,7 @@ void walkNaming(Driver &driver)
     driver.report(u"keyboard-naming"_s, tree.value(1, "detail").toString());
 }
 
-/// Replaces what is in the field that has the keyboard.
+/// Replaces the text of the focused field.
 void retype(const Driver &driver, const QString &text)
 {
     driver.key(Qt::Key_A, Qt::ControlModifier);
@@ -205,18 +196,18 @@ void retype(const Driver &driver, const QString &text)
 /// One pattern names several cameras.
 void walkPattern(Driver &driver)
 {
-    goTo(driver, u"deviceTree"_s, Qt::Key_Backtab, roundTheWindow);
+    goTo(driver, u"deviceTree"_s, Qt::Key_Backtab, tabsAroundWindow);
     driver.key(Qt::Key_Home);
     driver.key(Qt::Key_Space);
     driver.await(u"the cameras are ticked"_s,
                  [&] { return driver.require(u"group_IPC"_s)->property("tick").toInt() == Qt::Checked; });
-    goTo(driver, u"namePatternButton"_s, Qt::Key_Tab, roundTheWindow);
+    goTo(driver, u"namePatternButton"_s, Qt::Key_Tab, tabsAroundWindow);
     driver.key(Qt::Key_Return);
     driver.await(u"the pattern has the keyboard"_s, [&] { return hasKeyboard(driver, u"patternField"_s); });
     retype(driver, u"{model}-{x}"_s);
     driver.key(Qt::Key_Return);
     driver.check(hasKeyboard(driver, u"patternField"_s) && driver.find(u"fieldMessage"_s),
-                 u"a pattern that is none keeps the keyboard"_s);
+                 u"an invalid pattern keeps the focus"_s);
     driver.report(u"keyboard-pattern-refused"_s, driver.text(u"fieldMessage"_s));
     retype(driver, u"Hall {n}-{ip4}"_s);
     goTo(driver, u"patternDigitsField"_s, Qt::Key_Tab, 3);
@@ -230,18 +221,17 @@ void walkPattern(Driver &driver)
     const Rows tree(driver, u"deviceTree"_s);
     driver.await(u"the cameras have their names"_s,
                  [&] { return tree.value(2, "detail").toString().startsWith(u"Hall 02-102"_s); });
-    // Those with another password may hold the batch.
+    // Devices with another password may pause the batch.
     driver.await(
-        u"the batch is held or ends"_s,
-        [&] { return driver.find(u"continueButton"_s) || !driver.find(u"runningText"_s); }, 30);
+        u"the batch is paused or ends"_s,
+        [&] { return driver.find(u"continueButton"_s) || !isBatchRunning(driver); }, 30);
     if (driver.find(u"continueButton"_s)) {
-        goTo(driver, u"continueButton"_s, Qt::Key_Tab, roundTheWindow);
+        goTo(driver, u"continueButton"_s, Qt::Key_Tab, tabsAroundWindow);
         driver.key(Qt::Key_Right);
-        driver.check(hasKeyboard(driver, u"stopButton"_s), u"the other answer is beside it"_s);
+        driver.check(hasKeyboard(driver, u"stopButton"_s), u"the other button is next to it"_s);
         driver.key(Qt::Key_Return);
     }
-    driver.await(
-        u"the batch ends"_s, [&] { return !driver.find(u"runningText"_s); }, 30);
+    awaitBatchEnd(driver);
     driver.report(u"keyboard-named"_s, tree.value(2, "detail").toString());
 }
 
@@ -249,7 +239,7 @@ void walkPattern(Driver &driver)
 
 void walkKeyboard(Driver &driver, sdk::demo::DemoSite &site)
 {
-    walkWayToTheTable(driver);
+    walkToTheTable(driver);
     walkRow(driver);
     walkMenus(driver);
     walkWrongPassword(driver, site);
@@ -260,7 +250,7 @@ void walkKeyboard(Driver &driver, sdk::demo::DemoSite &site)
 
 void walkOutByKeyboard(Driver &driver)
 {
-    goTo(driver, u"searchButton"_s, Qt::Key_Tab, roundTheWindow); // first of the buttons of the title bar
+    goTo(driver, u"searchButton"_s, Qt::Key_Tab, tabsAroundWindow); // the first button of the title bar
     goTo(driver, u"closeButton"_s, Qt::Key_Right, 6);
     driver.key(Qt::Key_Space);
 }

@@ -1,11 +1,11 @@
-// Work on several devices that are reached by open standards: commands, addresses, snapshots and firmware.
+// Batches on devices that use open standards: commands, addresses, snapshots and firmware.
 #include "device/registry/upgradetools.h"
 #include "tests/files/filecontents.h"
+#include "tests/tour/commonsteps.h"
 #include "tests/tour/driver.h"
 #include "tests/tour/livewindow.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
-#include "tests/tour/words.h"
 
 #include <QDir>
 #include <QImage>
@@ -20,22 +20,6 @@ const QStringList cameras = {u"192.168.1.101:80"_s, u"192.168.1.102:80"_s, u"192
 const QString recorder = u"192.168.1.120:80"_s;
 const QString model = u"B-2230-IR"_s; // of the cameras
 const QString newVersion = u"3.000.1"_s;
-
-void awaitEnd(const Driver &driver)
-{
-    driver.await(
-        u"the batch ends"_s, [&] { return !driver.find(u"runningText"_s); }, 120);
-}
-
-/// Ticks the rows of devices in a table.
-void tick(const Driver &driver, const Rows &rows, const QStringList &ipports)
-{
-    for (const QString &ipport : ipports) {
-        const int row = rows.rowOf("ipport", ipport);
-        driver.check(row >= 0, u"%1 is listed"_s.arg(ipport));
-        driver.click(u"check%1"_s.arg(row));
-    }
-}
 
 bool allHave(const Rows &rows, const QStringList &ipports, const QByteArray &role,
              const std::function<bool(const QVariant &value)> &condition)
@@ -60,7 +44,7 @@ void walkCopiedSettings(Driver &driver)
     driver.require(u"previewTable"_s);
     driver.report(u"copy-preview"_s, driver.text(u"batchCount"_s));
     driver.click(u"okButton"_s);
-    awaitEnd(driver);
+    awaitBatchEnd(driver);
     driver.check(!driver.find(u"footWarning"_s), u"each device has the settings"_s);
     driver.report(u"copied"_s, u"encode settings of one camera on two others"_s);
 }
@@ -82,7 +66,7 @@ void walkClocks(Driver &driver)
             });
         },
         40);
-    awaitEnd(driver);
+    awaitBatchEnd(driver);
     driver.report(u"system-batch"_s, u"the clocks of three devices"_s);
 }
 
@@ -90,7 +74,7 @@ void walkCommands(Driver &driver)
 {
     driver.click(u"tab4"_s);
     const Rows rows(driver, u"cgiTable"_s);
-    tick(driver, rows, cameras);
+    tickRows(driver, rows, cameras);
     driver.click(u"batchCgiButton"_s);
     driver.fill(u"batchCgiCommand"_s, u"/cgi-bin/device?get=name"_s);
     driver.click(u"okButton"_s);
@@ -99,15 +83,16 @@ void walkCommands(Driver &driver)
     driver.await(
         u"each device has responded"_s,
         [&] {
-            return allHave(rows, cameras, "result",
-                           [](const QVariant &answer) { return answer.toString().startsWith(u"name="_s); });
+            return allHave(rows, cameras, "result", [](const QVariant &response) {
+                return response.toString().startsWith(u"name="_s);
+            });
         },
         40);
-    awaitEnd(driver);
+    awaitBatchEnd(driver);
     driver.report(u"commands"_s, rows.value(rows.rowOf("ipport", cameras.at(0)), "result").toString());
 }
 
-/// New addresses for two devices, and their old ones again.
+/// Changes the addresses of two devices and restores them.
 void walkAddresses(Driver &driver)
 {
     driver.click(u"tab0"_s);
@@ -115,7 +100,7 @@ void walkAddresses(Driver &driver)
     const Rows rows(driver);
     driver.await(u"all devices are shown"_s, [&] { return rows.count() >= 20; });
     const QStringList changed = cameras.mid(1);
-    tick(driver, rows, changed);
+    tickRows(driver, rows, changed);
     driver.click(u"batchModifyButton"_s);
     driver.fill(u"newStartField"_s, u"192.168.1.220"_s);
     driver.report(u"batch-addresses"_s, u"new addresses for two devices"_s);
@@ -127,19 +112,19 @@ void walkAddresses(Driver &driver)
                    rows.rowOf("ipport", u"192.168.1.221:80"_s) >= 0;
         },
         60);
-    awaitEnd(driver);
+    awaitBatchEnd(driver);
     driver.click(u"batchPanelButton"_s);
     const QString allSucceeded = driver.text(u"batchSummary"_s);
     driver.report(u"batch-panel"_s, allSucceeded);
     driver.await(
-        u"no notice fades over the buttons"_s, [&] { return !driver.find(u"toastText"_s); }, 30);
+        u"no notice covers the buttons"_s, [&] { return !driver.find(u"toastText"_s); }, 30);
     driver.click(u"putBackButton"_s);
     driver.require(u"previewTable"_s);
     driver.click(u"okButton"_s);
     driver.await(
         u"the devices have their old addresses again"_s,
         [&] { return allHave(rows, changed, "ipport", [](const QVariant &) { return true; }); }, 60);
-    awaitEnd(driver);
+    awaitBatchEnd(driver);
     driver.check(driver.text(u"batchSummary"_s) == allSucceeded, u"no device has refused its old address"_s);
     driver.report(u"batch-put-back"_s, driver.text(u"batchSummary"_s));
     driver.click(u"okButton"_s); // closes the panel
@@ -148,18 +133,18 @@ void walkAddresses(Driver &driver)
 
 void walkSnapshots(Driver &driver)
 {
-    Driver live(openLive(driver, recorder), driver.pictureFolder() + u"/recorder"_s);
+    Driver live(openLive(driver, recorder), driver.imageFolder() + u"/recorder"_s);
     live.click(u"liveSnapAllButton"_s);
     const QString expected = translated("SnapshotDialog", "成功 %1").arg(11);
     live.await(
-        u"each channel with a camera is taken"_s,
+        u"each channel with a camera has a snapshot"_s,
         [&] { return live.find(u"snapshotSummary"_s) && live.text(u"snapshotSummary"_s) == expected; }, 90);
     live.report(u"snapshots"_s, live.text(u"snapshotSummary"_s));
     const QDir folder(u"snap/192.168.1.120_80"_s);
     const QStringList files = folder.entryList({u"*.jpg"_s}, QDir::Files);
     live.check(files.size() == 11, u"a file for each connected channel"_s);
     for (const QString &file : files)
-        live.check(!QImage(folder.filePath(file)).isNull(), u"%1 is a picture"_s.arg(file));
+        live.check(!QImage(folder.filePath(file)).isNull(), u"%1 is an image"_s.arg(file));
     live.key(Qt::Key_Escape);
     live.await(u"the snapshots are closed"_s, [&] { return !live.find(u"snapshotGrid"_s); });
     closeLive(driver, live);
@@ -169,13 +154,13 @@ void walkSnapshots(Driver &driver)
 
 void walkUpgrades(Driver &driver)
 {
-    const QString firmware = driver.pictureFolder() + u"/cameras_%1.bin"_s.arg(newVersion);
+    const QString firmware = driver.imageFolder() + u"/cameras_%1.bin"_s.arg(newVersion);
     const QByteArray content = "BRELM-FIRMWARE 1\nmodel=" + model.toLatin1() +
                                "\nversion=" + newVersion.toLatin1() + "\n\n" + QByteArray(2000000, '\1');
     driver.check(writeFile(firmware, content), u"the firmware is written"_s);
     driver.click(u"tab1"_s);
     const Rows rows(driver, u"upgradeTable"_s);
-    tick(driver, rows, cameras);
+    tickRows(driver, rows, cameras);
     driver.click(u"upgradeFileButton"_s);
     driver.answerFileBox(firmware);
     driver.await(u"each has the file"_s, [&] {
@@ -193,7 +178,7 @@ void walkUpgrades(Driver &driver)
                            [](const QVariant &result) { return result.toInt() == UpgradeTools::Success; });
         },
         120);
-    awaitEnd(driver);
+    awaitBatchEnd(driver);
     driver.check(allHave(rows, cameras, "vision",
                          [](const QVariant &version) { return version.toString() == u'v' + newVersion; }),
                  u"the new version is shown"_s);

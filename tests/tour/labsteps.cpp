@@ -1,9 +1,9 @@
-// The main job on devices that are reached by open standards, over real sockets.
+// The main operations on devices that use open standards, over real sockets.
+#include "tests/tour/commonsteps.h"
 #include "tests/tour/driver.h"
 #include "tests/tour/livewindow.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
-#include "tests/tour/words.h"
 
 using namespace Qt::StringLiterals;
 
@@ -13,26 +13,9 @@ const QString camera = u"192.168.1.101:80"_s;
 const QString factoryNew = u"192.168.1.108:80"_s;
 const QString password = u"Office-2024"_s;
 
-void awaitIdle(const Driver &driver)
-{
-    driver.await(
-        u"the device was asked"_s,
-        [&] {
-            const QString state = driver.find(u"configState"_s) ? driver.text(u"configState"_s) : QString();
-            return !state.isEmpty() && !state.endsWith(u'…');
-        },
-        30);
-}
-
-void awaitSearch(const Driver &driver)
-{
-    driver.await(
-        u"the search ends"_s, [&] { return !driver.window()->property("searching").toBool(); }, 60);
-}
-
 void walkFound(Driver &driver)
 {
-    awaitSearch(driver);
+    awaitSearchEnd(driver, 60);
     const Rows rows(driver);
     driver.await(u"the devices of the site are listed"_s, [&] { return rows.count() >= 20; });
     const int row = rows.rowOf("ipport", camera);
@@ -65,14 +48,13 @@ void walkAddress(Driver &driver)
 {
     const Rows rows(driver);
     const QString mac = rows.value(0, "mac").toString();
-    setDefaultPassword(driver, password); // a device changes its address for its administrator only
+    setDefaultPassword(driver, password); // an address change requires the administrator's login
     findDevice(driver, factoryNew);
     driver.click(u"edit0"_s);
     driver.fill(u"newStartField"_s, u"192.168.1.208"_s);
     driver.key(Qt::Key_Return);
     driver.await(
-        u"the address was changed"_s, [&] { return rows.count() == 0 && !driver.find(u"runningText"_s); },
-        40);
+        u"the address was changed"_s, [&] { return rows.count() == 0 && !isBatchRunning(driver); }, 40);
     driver.click(u"emptyActionButton"_s);
     driver.await(
         u"the row has the new address"_s,
@@ -92,26 +74,26 @@ void walkSettings(Driver &driver)
     driver.await(
         u"the encode settings are shown"_s, [&] { return driver.find(u"encodeSaveButton"_s) != nullptr; },
         30);
-    awaitIdle(driver);
+    awaitConfigIdle(driver);
     driver.report(u"encode"_s, driver.text(u"configDevice"_s));
     driver.check(!driver.require(u"mainStreamTypeChoice"_s)->isEnabled(),
-                 u"kinds of streams that the device does not have are not offered"_s);
+                 u"missing stream types are not offered"_s);
     QQuickItem *slider = driver.require(u"mainFrameRateSlider"_s);
     slider->childItems().constFirst()->forceActiveFocus(Qt::TabFocusReason);
     driver.key(Qt::Key_Left);
     const int rate = slider->property("value").toInt();
     driver.click(u"encodeSaveButton"_s);
     expectToast(driver, translated("EncodeWork", "保存成功"));
-    awaitIdle(driver);
+    awaitConfigIdle(driver);
     driver.check(driver.require(u"mainFrameRateSlider"_s)->property("value").toInt() == rate,
                  u"the device has the new frame rate"_s);
-    driver.report(u"encode-saved"_s, u"%1 pictures a second"_s.arg(rate));
+    driver.report(u"encode-saved"_s, u"%1 frames per second"_s.arg(rate));
 
     driver.click(u"configTab1"_s);
     driver.await(
         u"the image settings are shown"_s, [&] { return driver.find(u"group_picture"_s) != nullptr; }, 30);
-    awaitIdle(driver);
-    driver.check(!driver.find(u"picture_hue"_s), u"what the device does not have is hidden"_s);
+    awaitConfigIdle(driver);
+    driver.check(!driver.find(u"picture_hue"_s), u"missing settings are hidden"_s);
     QQuickItem *brightness = driver.require(u"picture_brightnessSlider"_s);
     const int before = brightness->property("value").toInt();
     brightness->childItems().constFirst()->forceActiveFocus(Qt::TabFocusReason);
@@ -119,15 +101,15 @@ void walkSettings(Driver &driver)
     driver.await(u"the brightness is changed"_s, [&] {
         return driver.require(u"picture_brightnessSlider"_s)->property("value").toInt() != before;
     });
-    awaitIdle(driver);
+    awaitConfigIdle(driver);
     driver.report(u"image"_s, u"brightness %1"_s.arg(brightness->property("value").toInt()));
 }
 
 void walkLivePicture(Driver &driver)
 {
-    Driver live(openLive(driver, camera), driver.pictureFolder() + u"/live"_s);
+    Driver live(openLive(driver, camera), driver.imageFolder() + u"/live"_s);
     live.await(
-        u"a live picture is there"_s,
+        u"the live view shows a frame"_s,
         [&] {
             const QQuickItem *player = live.find(u"livePlace0"_s);
             const QQuickItem *video = player ? player->findChild<QQuickItem *>(u"liveVideo"_s) : nullptr;
@@ -150,7 +132,7 @@ void walkSystemTime(Driver &driver)
     driver.report(u"system-time"_s, u"the clock is set"_s);
     driver.click(u"systemTab5"_s);
     driver.check(!driver.require(u"videoStandardButton"_s)->isEnabled(),
-                 u"what no device of this kind has cannot be used"_s);
+                 u"a setting that such devices do not have is disabled"_s);
     driver.report(u"video-standard"_s, u"not available"_s);
 }
 

@@ -12,22 +12,22 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qreal farAway = 1e6;
-constexpr qreal hair = 1.5; ///< pixels that rounding may take
+constexpr qreal tolerance = 1.5; ///< pixels, for rounding
 
-/// What is right although the rules object to it.
+/// Items that are correct despite a reported fault.
 struct Exemption
 {
-    QLatin1StringView name; ///< of the item or of one that it lies in
+    QLatin1StringView name; ///< of the item or of one that contains it
     QLatin1StringView reason;
 };
 constexpr std::array<Exemption, 0> exemptions{};
 
-/// A text or a control that can be seen.
-struct Piece
+/// A visible text or control.
+struct VisibleItem
 {
     const QQuickItem *item;
-    QRectF place; ///< in the window, as far as it can be seen
-    int layer;    ///< 0 for the page, then one for each popup
+    QRectF place; ///< the visible part, in window coordinates
+    int layer;    ///< 0: the page; each popup has its own
     bool isControl;
     bool isTip;
 };
@@ -37,7 +37,7 @@ QString className(const QQuickItem *item)
     return QString::fromLatin1(item->metaObject()->className()).section(u"_QML"_s, 0, 0);
 }
 
-/// The item with its text, and the nearest items around it that have names.
+/// The item with its text, and the nearest enclosing items with names.
 QString described(const QQuickItem *item)
 {
     QString words = className(item);
@@ -71,8 +71,8 @@ bool isControl(const QQuickItem *item)
            item->inherits("QQuickSlider") || item->inherits("QQuickTextField");
 }
 
-/// Where the signs of a text are, without the room above and below them.
-QRectF placeOfSigns(const QQuickItem *text)
+/// The area of the characters of a text, without the space above and below them.
+QRectF areaOfCharacters(const QQuickItem *text)
 {
     const QSizeF size(text->property("contentWidth").toReal(), text->property("contentHeight").toReal());
     const int horizontal = text->property("effectiveHorizontalAlignment").toInt();
@@ -89,26 +89,26 @@ QRectF placeOfSigns(const QQuickItem *text)
     return text->mapRectToScene(QRectF(QPointF(x, y), size).adjusted(0, room, 0, -room));
 }
 
-/// `own` tool tips of the item are switched off.
+/// `own`: the number of the item's tool tips that are disabled.
 bool hasToolTipWith(const QQuickItem *item, const QString &words, int own)
 {
-    // A tip keeps the lines of its text; what is very long is cut in both.
+    // A tool tip keeps line breaks. Only the start of a very long text is compared.
     constexpr qsizetype compared = 100;
     const QString text = words.simplified().left(compared);
     if (item->property("toolTip").toString().simplified().contains(text))
         return true;
     const QList<QQuickItem *> children = item->childItems();
     return std::ranges::count_if(children, [&](const QQuickItem *child) {
-               // Some tips make their text only when they are shown.
+               // Some tool tips create their text when they are shown.
                const QString shown = child->property("text").toString().simplified();
                return className(child) == u"OVToolTip" && (shown.isEmpty() || shown.contains(text));
            }) > own;
 }
 
-bool isShownWhole(const QQuickItem *text)
+bool hasCompleteToolTip(const QQuickItem *text)
 {
     const QString words = text->property("text").toString();
-    constexpr int reach = 4; // items around the text
+    constexpr int reach = 4; // number of enclosing items
     const QQuickItem *around = text->parentItem();
     for (int step = 0; step < reach && around; ++step, around = around->parentItem()) {
         const QVariant own = around->property("showsWholeOnHover");
@@ -118,8 +118,8 @@ bool isShownWhole(const QQuickItem *text)
     return false;
 }
 
-/// Whether a view has made this row in advance, or keeps it for later: it is not drawn.
-bool isRowInReserve(QQuickItem *item)
+/// True if a view keeps this row in its cache, so that it is not drawn.
+bool isCachedRow(QQuickItem *item)
 {
     const QQuickItem *content = item->parentItem();
     QQuickItem *view = content ? content->parentItem() : nullptr;
@@ -127,7 +127,7 @@ bool isRowInReserve(QQuickItem *item)
         return false;
     constexpr qreal inside = 0.5;
     QQuickItem *shown = nullptr;
-    // The name of the type is written as the toolkit has it.
+    // The type name must be written as Qt declares it.
     // clang-format off
     QMetaObject::invokeMethod(view, "itemAt", Q_RETURN_ARG(QQuickItem*, shown),
                               Q_ARG(qreal, item->x() + inside), Q_ARG(qreal, item->y() + inside));
@@ -148,11 +148,11 @@ public:
     [[nodiscard]] QStringList faults() const { return m_faults; }
 
 private:
-    /// What the items around an item leave of it.
+    /// The limits that enclosing items impose on an item.
     struct Frame
     {
-        QRectF shown;  ///< outside nothing is seen
-        QRectF bounds; ///< outside nothing may be, since it cannot be scrolled into view
+        QRectF shown;  ///< items outside are not visible
+        QRectF bounds; ///< items outside are a fault, because they cannot be scrolled into view
         int layer = 0;
         bool isTip = false;
     };
@@ -160,7 +160,7 @@ private:
     void look(QQuickItem *item, Frame frame)
     {
         constexpr qreal unseen = 0.01;
-        if (!item->isVisible() || item->opacity() < unseen || isRowInReserve(item))
+        if (!item->isVisible() || item->opacity() < unseen || isCachedRow(item))
             return;
         if (item->inherits("QQuickPopupItem"))
             frame.layer = ++m_layers;
@@ -185,11 +185,11 @@ private:
         frame.shown &= place;
         const bool scrolls = item->inherits("QQuickFlickable");
         QRectF bounds = frame.bounds & place;
-        if (scrolls && item->property("contentWidth").toReal() > item->width() + hair) {
+        if (scrolls && item->property("contentWidth").toReal() > item->width() + tolerance) {
             bounds.setLeft(-farAway);
             bounds.setRight(farAway);
         }
-        if (scrolls && item->property("contentHeight").toReal() > item->height() + hair) {
+        if (scrolls && item->property("contentHeight").toReal() > item->height() + tolerance) {
             bounds.setTop(-farAway);
             bounds.setBottom(farAway);
         }
@@ -200,10 +200,11 @@ private:
     {
         if (item->property("text").toString().trimmed().isEmpty())
             return;
-        const QRectF place = placeOfSigns(item);
+        const QRectF place = areaOfCharacters(item);
         take(item, place, frame, false);
-        if (item->property("truncated").toBool() && place.intersects(frame.shown) && !isShownWhole(item))
-            object(item, u"is elided, and no tool tip shows the whole"_s);
+        if (item->property("truncated").toBool() && place.intersects(frame.shown) &&
+            !hasCompleteToolTip(item))
+            object(item, u"is elided, and no tool tip shows the complete text"_s);
     }
 
     void takeControl(const QQuickItem *item, const Frame &frame)
@@ -215,31 +216,31 @@ private:
     {
         if (place.isEmpty())
             return;
-        const QRectF allowed = frame.bounds.adjusted(-hair, -hair, hair, hair);
+        const QRectF allowed = frame.bounds.adjusted(-tolerance, -tolerance, tolerance, tolerance);
         if (!allowed.contains(place))
-            object(item, u"is cut: it takes %1, and there is room in %2"_s.arg(written(place),
-                                                                               written(frame.bounds)));
+            object(item, u"is truncated: it needs %1, available is %2"_s.arg(written(place),
+                                                                             written(frame.bounds)));
         const QRectF seen = place & frame.shown;
         if (!seen.isEmpty())
-            m_pieces.append({item, seen, frame.layer, isControl, frame.isTip});
+            m_visibleItems.append({item, seen, frame.layer, isControl, frame.isTip});
     }
 
     void compare()
     {
-        for (qsizetype one = 0; one < m_pieces.size(); ++one) {
-            for (qsizetype other = one + 1; other < m_pieces.size(); ++other)
-                compare(m_pieces.at(one), m_pieces.at(other));
+        for (qsizetype one = 0; one < m_visibleItems.size(); ++one) {
+            for (qsizetype other = one + 1; other < m_visibleItems.size(); ++other)
+                compare(m_visibleItems.at(one), m_visibleItems.at(other));
         }
     }
 
-    void compare(const Piece &one, const Piece &other)
+    void compare(const VisibleItem &one, const VisibleItem &other)
     {
         const QRectF common = one.place & other.place;
-        if (common.width() <= hair || common.height() <= hair)
+        if (common.width() <= tolerance || common.height() <= tolerance)
             return;
         if (one.layer == other.layer) {
             if (!one.item->isAncestorOf(other.item) && !other.item->isAncestorOf(one.item))
-                object(one.item, u"lies over %1, both in %2"_s.arg(described(other.item), written(common)));
+                object(one.item, u"overlaps %1 in %2"_s.arg(described(other.item), written(common)));
             return;
         }
         const bool covers = (one.isTip && other.item->objectName().startsWith(u"head_")) ||
@@ -263,7 +264,7 @@ private:
             m_faults.append(described(item) + u' ' + fault);
     }
 
-    QList<Piece> m_pieces;
+    QList<VisibleItem> m_visibleItems;
     QStringList m_faults;
     int m_layers = 0;
 };

@@ -1,4 +1,4 @@
-// What is wrong with the layout of a window, as it stands at the moment.
+// Faults in the current layout of a window.
 #pragma once
 
 #include <QStringList>
@@ -6,8 +6,8 @@
 class QQuickWindow;
 
 /// One line for each fault, with the name of the item. Faults are:
-/// - a text or a control that is cut by its window, or by what it lies in and cannot be scrolled there,
-/// - a text that is elided, and no tool tip shows the whole of it,
-/// - texts or controls that lie over each other,
+/// - a text or a control that is truncated by its window, or by an enclosing item that does not scroll,
+/// - an elided text without a tool tip that shows it completely,
+/// - overlapping texts or controls,
 /// - a tool tip over the heading of a table.
 [[nodiscard]] QStringList layoutFaults(const QQuickWindow &window);

@@ -14,7 +14,7 @@ namespace {
 
 void expectMessage(const Driver &driver, const QString &expected)
 {
-    driver.await(u"\"%1\" is said"_s.arg(expected), [&] {
+    driver.await(u"the message \"%1\" is shown"_s.arg(expected), [&] {
         const QStringList texts = driver.texts(u"toastText"_s);
         return std::any_of(texts.cbegin(), texts.cend(),
                            [&](const QString &text) { return text.startsWith(expected); });
@@ -43,7 +43,7 @@ void readList(const Driver &driver, const QString &path)
     driver.answerFileBox(path);
 }
 
-/// Puts accounts into a list of comma-separated text, as whoever hands it on fills them in.
+/// Fills the accounts into a CSV list. The device with the MAC `wrongFor` gets a wrong password.
 void fillAccounts(const Driver &driver, const QString &path, const QString &wrongFor)
 {
     QFile file(path);
@@ -78,7 +78,7 @@ void walkLists(Driver &driver, const QString &folder)
     const int before = rows.count();
     while (rows.countOf("checked", true) > 0)
         driver.click(u"checkAllBox"_s);
-    // Devices whose address and password nothing has changed before.
+    // Devices whose address and password no earlier step has changed.
     const QStringList macs = {u"02:1a:c5:00:40:72"_s, u"02:1a:c5:00:40:97"_s, u"02:1a:c5:00:40:bc"_s};
     for (const QString &mac : macs)
         driver.click(u"check%1"_s.arg(rows.rowOf("mac", mac)));
@@ -90,19 +90,19 @@ void walkLists(Driver &driver, const QString &folder)
     deleteTicked(driver);
     driver.await(u"three devices are deleted"_s, [&] { return rows.count() == before - 3; });
     readList(driver, folder + u"/device.csv"_s);
-    driver.await(u"what failed is listed"_s, [&] { return driver.find(u"reportTable"_s) != nullptr; });
+    driver.await(u"the failed lines are listed"_s, [&] { return driver.find(u"reportTable"_s) != nullptr; });
     driver.report(u"import-report"_s, driver.text(u"messageText"_s));
     driver.click(u"okButton"_s);
-    driver.check(rows.count() == before - 1, u"two of three devices are back"_s);
-    driver.check(!driver.find(u"retryFailedButton"_s), u"a wrong password is not tried again"_s);
+    driver.check(rows.count() == before - 1, u"two of three devices are listed again"_s);
+    driver.check(!driver.find(u"retryFailedButton"_s), u"a wrong password is not retried"_s);
     driver.report(u"import-foot"_s, driver.text(u"footWarning"_s));
 
     QFile noList(folder + u"/no-list.xml"_s);
     driver.check(noList.open(QFile::WriteOnly) && noList.write("<cameras/>") > 0,
-                 u"a file that is no list is written"_s);
+                 u"the invalid file is written"_s);
     noList.close();
     readList(driver, noList.fileName());
     expectMessage(driver,
                   translated("导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！"));
-    driver.report(u"import-refused"_s, u"a file that is no list is refused"_s);
+    driver.report(u"import-refused"_s, u"an invalid file is refused"_s);
 }

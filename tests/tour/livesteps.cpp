@@ -2,6 +2,7 @@
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/scene/fault.h"
 #include "sdk/netlibrary.h"
+#include "tests/tour/commonsteps.h"
 #include "tests/tour/driver.h"
 #include "tests/tour/livewindow.h"
 #include "tests/tour/steps.h"
@@ -28,7 +29,7 @@ QQuickItem *videoIn(const Driver &live, int place)
     return player ? player->findChild<QQuickItem *>(u"liveVideo"_s) : nullptr;
 }
 
-QSize pictureSize(const Driver &live, int place)
+QSize frameSize(const Driver &live, int place)
 {
     const QQuickItem *video = videoIn(live, place);
     return video ? video->property("pictureSize").toSize() : QSize();
@@ -36,12 +37,12 @@ QSize pictureSize(const Driver &live, int place)
 
 bool plays(const Driver &live, int place)
 {
-    return !pictureSize(live, place).isEmpty();
+    return !frameSize(live, place).isEmpty();
 }
 
-void awaitPictures(const Driver &live, int places)
+void awaitFrames(const Driver &live, int places)
 {
-    live.await(u"%1 live pictures are there"_s.arg(places), [&] {
+    live.await(u"%1 live views show frames"_s.arg(places), [&] {
         for (int place = 0; place < places; ++place) {
             if (!plays(live, place))
                 return false;
@@ -52,10 +53,10 @@ void awaitPictures(const Driver &live, int places)
 
 void walkCamera(Driver &live)
 {
-    awaitPictures(live, 1);
+    awaitFrames(live, 1);
     live.report(u"camera"_s, live.text(u"liveChannelName"_s));
     live.key(Qt::Key_I);
-    live.await(u"the stream's figures are known"_s,
+    live.await(u"the figures of the stream are shown"_s,
                [&] { return live.text(u"liveFigures"_s).contains(u"H.26"_s); });
     live.report(u"figures"_s, live.text(u"liveFigures"_s).replace(u'\n', u' '));
     live.key(Qt::Key_I);
@@ -71,10 +72,10 @@ void walkCamera(Driver &live)
     QTest::mouseRelease(live.window(), Qt::LeftButton, Qt::NoModifier, from - QPoint(120, 60));
     live.report(u"panned"_s, u"dragged to the left and up"_s);
     live.turnWheel(from, -20);
-    live.check(video->property("zoomLevel").toInt() == 0, u"the whole picture is back"_s);
+    live.check(video->property("zoomLevel").toInt() == 0, u"the complete frame is shown"_s);
 
     live.click(u"liveStretchButton"_s);
-    live.report(u"stretched"_s, u"the picture fills its place"_s);
+    live.report(u"stretched"_s, u"the frame fills its cell"_s);
     live.click(u"liveStretchButton"_s);
     live.click(u"liveSoundButton"_s);
     live.check(video->property("isAudioOutput").toBool(), u"the sound is on"_s);
@@ -82,16 +83,16 @@ void walkCamera(Driver &live)
     live.check(!video->property("isAudioOutput").toBool(), u"the sound is off"_s);
 }
 
-/// The encode page sets another size, and the picture follows.
+/// The encode page sets another frame size, and the live view shows it.
 void walkOtherSize(Driver &driver, Driver &live)
 {
-    const QSize before = pictureSize(live, 0);
+    const QSize before = frameSize(live, 0);
     driver.activate();
     driver.click(u"tab2"_s);
     driver.click(u"device_"_s + camera);
     driver.require(u"mainResolutionChoice"_s);
-    driver.await(u"the device was asked"_s, [&] { return !driver.text(u"configState"_s).endsWith(u'…'); });
-    awaitPictures(live, 1); // the page has logged in again
+    awaitConfigIdle(driver);
+    awaitFrames(live, 1); // the page has logged in again
     const QQuickItem *choice = driver.require(u"mainResolutionChoice"_s);
     const int other = choice->property("currentIndex").toInt() == 0 ? 1 : 0;
     driver.click(u"mainResolutionChoice"_s);
@@ -100,51 +101,51 @@ void walkOtherSize(Driver &driver, Driver &live)
     driver.await(u"the size is chosen"_s, [&] { return driver.find(u"changeMark"_s) != nullptr; });
     driver.report(u"live-other-size"_s, driver.text(u"encodeNotice"_s));
     driver.click(u"encodeSaveButton"_s);
-    live.await(u"the live picture has the new size"_s,
-               [&] { return plays(live, 0) && pictureSize(live, 0) != before; });
-    live.report(u"other-size"_s, u"%1 x %2 instead of %3 x %4"_s.arg(pictureSize(live, 0).width())
-                                     .arg(pictureSize(live, 0).height())
+    live.await(u"the live view has the new size"_s,
+               [&] { return plays(live, 0) && frameSize(live, 0) != before; });
+    live.report(u"other-size"_s, u"%1 x %2 instead of %3 x %4"_s.arg(frameSize(live, 0).width())
+                                     .arg(frameSize(live, 0).height())
                                      .arg(before.width())
                                      .arg(before.height()));
 }
 
 void walkBreak(Driver &live, sdk::demo::DemoSite &site)
 {
-    site.setFault(cameraMac, {.fault = sdk::demo::Fault::DropsStreamAfter, .number = 1, .text = {}});
-    live.await(u"the break is told"_s, [&] { return live.find(u"liveRetryText"_s) != nullptr; });
+    site.setFault(cameraMac, {.fault = sdk::demo::Fault::DropsStreamAfter, .number = 1});
+    live.await(u"the interruption is shown"_s, [&] { return live.find(u"liveRetryText"_s) != nullptr; });
     live.report(u"broken"_s, u"%1, %2"_s.arg(live.text(u"liveStateText"_s), live.text(u"liveRetryText"_s)));
     site.clearFault(cameraMac, sdk::demo::Fault::DropsStreamAfter);
-    awaitPictures(live, 1);
+    awaitFrames(live, 1);
     live.report(u"back"_s, live.text(u"liveChannelName"_s));
 }
 
 void walkRecorder(Driver &live)
 {
-    awaitPictures(live, 4);
+    awaitFrames(live, 4);
     live.report(u"recorder"_s, live.text(u"liveTitle"_s));
-    const QSize small = pictureSize(live, 1);
+    const QSize small = frameSize(live, 1);
     live.doubleClick(u"livePlace1"_s);
-    live.await(u"the enlarged picture is that of the main stream"_s,
-               [&] { return plays(live, 1) && pictureSize(live, 1).width() > small.width(); });
+    live.await(u"the enlarged view shows the main stream"_s,
+               [&] { return plays(live, 1) && frameSize(live, 1).width() > small.width(); });
     live.report(u"enlarged"_s, live.text(u"liveChannelName"_s));
     live.key(Qt::Key_Escape);
-    awaitPictures(live, 4);
+    awaitFrames(live, 4);
     live.click(u"liveChannel6"_s);
-    live.await(u"a channel without a camera says so"_s, [&] {
+    live.await(u"a channel without a camera is reported"_s, [&] {
         return live.texts(u"liveStateText"_s)
             .contains(QCoreApplication::translate("OV_MediaPlayer", "通道未连接"));
     });
     live.report(u"not-connected"_s, live.texts(u"liveStateText"_s).join(u' '));
     live.click(u"liveNineButton"_s);
-    awaitPictures(live, 6);
+    awaitFrames(live, 6);
     live.report(u"nine"_s, live.text(u"livePage"_s));
     live.click(u"liveNextButton"_s);
-    awaitPictures(live, 2);
+    awaitFrames(live, 2);
     live.click(u"liveOneButton"_s);
     live.key(Qt::Key_F11);
     live.await(u"the window fills the screen"_s,
                [&] { return live.window()->visibility() == QWindow::FullScreen; });
-    awaitPictures(live, 1);
+    awaitFrames(live, 1);
     live.report(u"full-screen"_s, live.text(u"liveChannelName"_s));
     live.key(Qt::Key_Escape);
     live.await(u"the window has its frame again"_s,
@@ -154,11 +155,11 @@ void walkRecorder(Driver &live)
 void walkSnapshots(Driver &live)
 {
     live.click(u"liveSnapAllButton"_s);
-    live.await(u"the first snapshot is there"_s, [&] { return live.find(u"snapshotPicture"_s) != nullptr; });
+    live.await(u"the first snapshot is shown"_s, [&] { return live.find(u"snapshotPicture"_s) != nullptr; });
     live.report(u"snapshots-running"_s, live.text(u"snapshotSummary"_s));
     const QString expected = QCoreApplication::translate("SnapshotDialog", "成功 %1，失败 %2").arg(11).arg(5);
     live.await(
-        u"every channel was taken or told why not"_s,
+        u"every channel has a snapshot or a reason"_s,
         [&] { return live.text(u"snapshotSummary"_s) == expected; }, 90);
     live.report(u"snapshots"_s, live.text(u"snapshotSummary"_s));
     live.click(u"snapshotAgain0"_s);
@@ -168,40 +169,40 @@ void walkSnapshots(Driver &live)
     const QStringList files = folder.entryList({u"*.jpg"_s}, QDir::Files);
     live.check(files.size() == 11, u"a file for each connected channel"_s);
     for (const QString &file : files)
-        live.check(!QImage(folder.filePath(file)).isNull(), u"%1 is a picture"_s.arg(file));
+        live.check(!QImage(folder.filePath(file)).isNull(), u"%1 is an image"_s.arg(file));
     live.key(Qt::Key_Escape);
     live.await(u"the snapshots are closed"_s, [&] { return !live.find(u"snapshotGrid"_s); });
 }
 
 void restartRecorder(const Driver &driver, sdk::demo::DemoSite &site, int seconds)
 {
-    site.setFault(recorderMac, {.fault = sdk::demo::Fault::RebootTakes, .number = seconds, .text = {}});
+    site.setFault(recorderMac, {.fault = sdk::demo::Fault::RebootTakes, .number = seconds});
     const qint64 session =
         CDeviceFactory::getinstance()->getConfigData(u"dh"_s, u"loginHandle"_s).toLongLong();
     driver.check(site.libraries().net->NetRebootDevice(session, std::chrono::seconds(1)),
                  u"the recorder restarts"_s);
 }
 
-/// The window is opened while its device restarts: the picture comes by itself.
+/// The window is opened while its device restarts. The stream starts without a user action.
 void walkRestart(Driver &driver, Driver &live, sdk::demo::DemoSite &site)
 {
     constexpr int longerThanALogin = 8;
     restartRecorder(driver, site, longerThanALogin);
     openLive(driver, recorder);
     const QString failure = QCoreApplication::translate("LoginMemory", "%1 没有应答").arg(recorder);
-    live.await(u"it says when it tries again"_s, [&] {
-        const QString told = live.text(u"emptyHint"_s);
-        return told.startsWith(failure) && told != failure;
+    live.await(u"the time of the next attempt is shown"_s, [&] {
+        const QString hint = live.text(u"emptyHint"_s);
+        return hint.startsWith(failure) && hint != failure;
     });
     live.report(u"device-restarts"_s, live.text(u"emptyHint"_s));
-    awaitPictures(live, 4);
+    awaitFrames(live, 4);
     live.report(u"device-restarted"_s, live.text(u"liveTitle"_s));
 
-    constexpr int shorterThanThePatience = 3;
-    restartRecorder(driver, site, shorterThanThePatience);
-    live.await(u"the break of all streams is told"_s,
+    constexpr int shorterThanTheTimeout = 3;
+    restartRecorder(driver, site, shorterThanTheTimeout);
+    live.await(u"the interruption of all streams is shown"_s,
                [&] { return live.texts(u"liveRetryText"_s).size() == 4; });
-    awaitPictures(live, 4);
+    awaitFrames(live, 4);
     live.report(u"device-restarted-while-shown"_s, live.text(u"liveTitle"_s));
     site.clearFault(recorderMac, sdk::demo::Fault::RebootTakes);
 }

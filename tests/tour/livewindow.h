@@ -1,11 +1,11 @@
-// The live window of a device, as a user opens and closes it.
+// Opening and closing the live window of a device.
 #pragma once
 
 #include "tests/tour/otherwindow.h"
 
 #include <QVariantMap>
 
-/// Types an address into the search field of the main window until the device is the first row.
+/// Enters an address in the search field of the main window and waits until the device is the first row.
 inline void findDevice(const Driver &driver, const QString &ipport)
 {
     driver.click(QStringLiteral("tab0"));
@@ -18,7 +18,7 @@ inline void findDevice(const Driver &driver, const QString &ipport)
 
 inline QQuickWindow *openLive(const Driver &driver, const QString &ipport)
 {
-    driver.activate(); // a live window may be before it
+    driver.activate(); // a live window may cover it
     findDevice(driver, ipport);
     driver.click(QStringLiteral("live0"));
     return awaitWindow(driver, QStringLiteral("liveWindow"));

@@ -1,8 +1,8 @@
-// The dark theme, on the pages and dialogs that can be opened without changing a device.
+// The dark theme of the pages and dialogs that can be opened without changing a device.
 #include "app/localconfig.h"
+#include "tests/tour/commonsteps.h"
 #include "tests/tour/livewindow.h"
 #include "tests/tour/steps.h"
-#include "tests/tour/words.h"
 
 #include <QApplication>
 #include <QPalette>
@@ -26,7 +26,7 @@ void choose(const Driver &driver, const QString &choice)
     driver.await(u"the menu is closed"_s, [&] { return !driver.find(u"coloursMenuItem"_s); });
 }
 
-/// What a desktop does when the user changes its colours.
+/// Changes the colours of the desktop.
 void paintDesktop(const QColor &windows, const QColor &words)
 {
     QPalette palette = QGuiApplication::palette();
@@ -41,7 +41,7 @@ void walkChoice(Driver &driver)
     driver.check(!isDark(driver), u"the window is light"_s);
     choose(driver, u"desktop"_s);
     paintDesktop(Qt::black, Qt::white);
-    driver.check(isDark(driver), u"the window follows the desktop at once"_s);
+    driver.check(isDark(driver), u"the window follows the desktop immediately"_s);
     QApplication::setPalette(before);
     driver.check(!isDark(driver), u"and back"_s);
 
@@ -56,7 +56,7 @@ void walkChoice(Driver &driver)
     driver.key(Qt::Key_Escape);
 }
 
-/// Opens a dialog, takes its picture and closes it.
+/// Opens a dialog, saves its image and closes it.
 void showDialog(Driver &driver, const QString &button, const QString &sign, const QString &step)
 {
     driver.click(button);
@@ -112,21 +112,17 @@ void walkConfigurationPage(Driver &driver)
     driver.fill(u"treeSearchField"_s, recorder.section(u':', 0, 0));
     driver.click(u"device_"_s + recorder);
     driver.require(u"encodeSaveButton"_s);
-    const auto awaitIdle = [&] {
-        driver.await(u"the device was asked"_s,
-                     [&] { return driver.text(u"configState"_s) == translated("DeviceState", "已登录"); });
-    };
-    awaitIdle();
+    awaitConfigIdle(driver);
     driver.report(u"encode"_s, driver.text(u"configDevice"_s));
     driver.click(u"configTab1"_s);
     for (const QString &subject : {u"imageSubject0"_s, u"imageSubject1"_s, u"imageSubject2"_s}) {
         driver.click(subject);
-        awaitIdle();
+        awaitConfigIdle(driver);
         driver.report(u"image"_s, subject);
     }
     driver.click(u"configTab2"_s);
     driver.require(u"nameTable"_s);
-    awaitIdle();
+    awaitConfigIdle(driver);
     driver.report(u"names"_s, driver.text(u"channelName0"_s));
     showDialog(driver, u"namePatternButton"_s, u"namePreview"_s, u"name-pattern"_s);
     driver.click(u"configTab0"_s);
@@ -152,9 +148,9 @@ void walkOtherPages(Driver &driver)
 
 void walkLiveWindow(Driver &driver)
 {
-    Driver live(openLive(driver, recorder), driver.pictureFolder() + u"/live"_s);
+    Driver live(openLive(driver, recorder), driver.imageFolder() + u"/live"_s);
     live.await(
-        u"the recorder's pictures are there"_s,
+        u"the live view shows a frame"_s,
         [&] {
             const QQuickItem *video = live.find(u"liveVideo"_s);
             return video && video->property("hasPicture").toBool();

@@ -1,16 +1,16 @@
-// ConfigTools LANGUAGE FOLDER [STAGE]: plays the tour, or one stage of it, in a language and saves its
-// pictures in a folder. The stage "lab", which is no part of the tour, is the main job on the devices of the
-// network that it runs in (scripts/lab), without the simulated site.
+// ConfigTools LANGUAGE FOLDER [STAGE]: plays the tour, or one stage of it, in a language and saves its images
+// in a folder. The stage "lab" is not part of the tour: it runs on the devices of the current network
+// (scripts/lab), without the simulated site.
 //
-// Several processes take part: one that watches, the program that is driven, a second start of it beside the
-// first, and the one that the program starts in its place when its language was changed or the demo site is
-// opened.
+// Several processes take part: the supervisor, the driven application, a second instance of it, and the
+// instance that replaces the application after a change of the language or on opening the demo site.
 
 #include "app/localconfig.h"
 #include "app/messagebox.h"
 #include "app/shell.h"
 #include "sdk/demo/demonetlibrary.h"
 #include "tests/files/filecontents.h"
+#include "tests/tour/commonsteps.h"
 #include "tests/tour/driver.h"
 #include "tests/tour/stages.h"
 #include "tests/tour/steps.h"
@@ -33,21 +33,20 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const char *const stageVariable = "CONFIGTOOLS_TOUR_STAGE";
-const char *const folderVariable = "CONFIGTOOLS_TOUR_FOLDER"; // for the process that opens the demo site
-const QByteArray demoSiteStage = "demosite";                  // follows a stage
+const char *const folderVariable = "CONFIGTOOLS_TOUR_FOLDER"; // for the process of the demo site
+const QByteArray demoSiteStage = "demosite";                  // started by another stage
 constexpr int minutes = 60000;
 
 QtMessageHandler previousHandler = nullptr;
 int warnings = 0;
 
-/// Passes messages on and counts those that must not be: a warning fails the tour, unless the program gives
-/// it by itself, of something odd that it has handled, as it does when a step offers it a file that is no
-/// list.
+/// Forwards messages and counts faults. A warning fails the tour, except warnings of the application itself,
+/// such as that about an invalid list file.
 void countWarnings(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     const bool own = QLatin1StringView(context.category).startsWith(QLatin1String("configtools."));
-    // There is no loudspeaker here. The toolkit says the second one where a list loses rows that it is just
-    // making, the third one where a window that animates is exposed late, and goes on.
+    // There is no sound output. Qt emits the second message when a list loses rows that are being created,
+    // and the third one when an animating window is exposed late. Both are harmless.
     const bool expected = message.startsWith(QLatin1String("PulseAudioService:")) ||
                           message.startsWith(QLatin1String("DelegateModel::cancel: index out range")) ||
                           message.startsWith(QLatin1String("QUnifiedTimer::stopAnimationDriver:"));
@@ -61,7 +60,7 @@ QString otherLanguage(const QString &language)
     return language == QLatin1String("zh_CN") ? u"en_US"_s : u"zh_CN"_s;
 }
 
-/// Written by the last process, for the one that watches.
+/// Written by the last process for the supervisor.
 QString resultFile(const QString &folder)
 {
     return folder + u"/result.txt"_s;
@@ -72,7 +71,7 @@ QString restartFile(const QString &folder)
     return folder + u"/restarted.txt"_s;
 }
 
-void forgetEarlierRuns(const QString &stage, const QString &language)
+void removeEarlierSettings(const QString &stage, const QString &language)
 {
     QFile::remove(QCoreApplication::applicationDirPath() + u"/LocalConfig.ini"_s);
     QDir(QCoreApplication::applicationDirPath() + u"/fav"_s).removeRecursively();
@@ -81,19 +80,18 @@ void forgetEarlierRuns(const QString &stage, const QString &language)
     QFile::remove(QCoreApplication::applicationDirPath() + u"/notes-demo.json"_s);
     CLocalConfig localConfig(QCoreApplication::applicationDirPath());
     localConfig.setLanguage(language);
-    localConfig.setColourScheme(u"light"_s); // whatever the desktop
+    localConfig.setColourScheme(u"light"_s); // regardless of the desktop
     if (const Stage *known = stageOfTour(stage); known && !known->password.isEmpty())
         localConfig.setSearchConfigPass(known->password);
 }
 
-/// Waits until the process that the program has started in its place has written what it saw, and has ended.
-/// Returns what it saw.
+/// Waits until the replacing process has written its result and has ended. Returns the result.
 QByteArray resultOfNextProcess(const QString &folder)
 {
     QByteArray result;
     const bool ended = QTest::qWaitFor(
         [&] {
-            // The first line is the number of the process. One that has ended has no file to run.
+            // The first line is the process ID. The link to the executable disappears when the process ends.
             result = fileContents(resultFile(folder));
             const QByteArray process = result.left(result.indexOf('\n'));
             return !process.isEmpty() &&
@@ -101,16 +99,16 @@ QByteArray resultOfNextProcess(const QString &folder)
         },
         minutes);
     QFile::remove(resultFile(folder));
-    return ended ? result.mid(result.indexOf('\n') + 1) : "FAILED: the program did not start again";
+    return ended ? result.mid(result.indexOf('\n') + 1) : "FAILED: the application did not start again";
 }
 
-/// Starts the program as if for the first time, but for the stages that go on with what an earlier one has
-/// left, and waits for its end.
+/// Starts the application and waits for its end. Its settings are removed before, except for stages that
+/// continue an earlier one.
 bool runStage(const QString &stage, const QString &language, const QString &folder)
 {
     const Stage *known = stageOfTour(stage);
-    if (!known || !known->goesOn)
-        forgetEarlierRuns(stage, language);
+    if (!known || !known->continues)
+        removeEarlierSettings(stage, language);
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QString::fromLatin1(stageVariable), stage);
@@ -121,7 +119,7 @@ bool runStage(const QString &stage, const QString &language, const QString &fold
            program.exitCode() == EXIT_SUCCESS;
 }
 
-/// Whether the process that has followed a stage saw what it should.
+/// True if the process that replaced the application has succeeded.
 bool followed(const QString &folder)
 {
     const QByteArray result = resultOfNextProcess(folder);
@@ -138,12 +136,12 @@ bool playStage(const QString &stage, const QString &language, const QString &fol
     if (succeeded)
         QTextStream(stdout) << "Stage " << stage << ": " << timer.elapsed() / 1000 << " s" << Qt::endl;
     else
-        QTextStream(stdout) << "FAILED: stage " << stage << " did not end as it should" << Qt::endl;
+        QTextStream(stdout) << "FAILED: stage " << stage << " failed" << Qt::endl;
     return succeeded;
 }
 
-/// Plays the stages one after the other, then the subjects that are left, at the end of which the program
-/// starts again in another language.
+/// Plays the stages, then the remaining subjects. At the end of these the application restarts in another
+/// language.
 int watch(const QString &language, const QString &folder)
 {
     QDir(folder).removeRecursively();
@@ -157,7 +155,7 @@ int watch(const QString &language, const QString &folder)
     return succeeded ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
-/// A second start: says on its output what its message box says, and closes that.
+/// In a second instance: prints the text of its message box and closes it.
 void answerMessageBox(const QString &folder)
 {
     auto *closer = new QTimer(qApp);
@@ -189,7 +187,7 @@ void drive(Driver &driver, sdk::demo::DemoSite &site, const QString &language, c
     walkUpgrade(driver, site, folder + u"/upgrade"_s);
     walkSystem(driver, site);
     walkSecondStart(driver, folder);
-    driver.check(warnings == 0, u"no warning was given"_s);
+    driver.check(warnings == 0, u"no warning was logged"_s);
     driver.check(writeFile(restartFile(folder), "restarted"), u"the restart is noted"_s);
     walkLanguageChange(driver, otherLanguage(language));
 }
@@ -197,7 +195,7 @@ void drive(Driver &driver, sdk::demo::DemoSite &site, const QString &language, c
 void driveStage(Driver &driver, sdk::demo::DemoSite *site, const Stage &stage)
 {
     stage.drive(driver, site);
-    driver.check(warnings == 0, u"no warning was given"_s);
+    driver.check(warnings == 0, u"no warning was logged"_s);
     if (stage.leave)
         stage.leave(driver);
     else
@@ -208,43 +206,39 @@ void driveLab(Driver &driver)
 {
     walkLab(driver);
     walkLabBatches(driver);
-    driver.check(warnings == 0, u"no warning was given"_s);
+    driver.check(warnings == 0, u"no warning was logged"_s);
     driver.click(u"closeButton"_s);
 }
 
-/// The program after its restart: it has another language, and closes as any program does. Returns what it
-/// saw.
+/// Checks the language of the restarted application and closes it. Returns the result.
 QByteArray driveRestarted(Driver &driver, const QString &language, const QString &folder)
 {
     const bool changed = CLocalConfig::getinstance()->getLanguage() == otherLanguage(language);
-    driver.await(u"the search of the restarted program ends"_s,
-                 [&] { return !driver.window()->property("searching").toBool(); });
+    awaitSearchEnd(driver);
     driver.window()->grabWindow().save(folder + u"/restarted.png"_s);
     const QString counter = driver.text(u"counterText"_s);
     const bool translated = counter.contains(u"台设备"_s) == (language != QLatin1String("zh_CN"));
     driver.click(u"closeButton"_s);
     return changed && translated
                ? "restarted.png: after the restart \"" + counter.toUtf8() + '"'
-               : "FAILED: the restarted program is not in the other language: " + counter.toUtf8();
+               : "FAILED: the restarted application is not in the other language: " + counter.toUtf8();
 }
 
-/// The demo site, which the program has opened in its place. Returns what it saw.
+/// Checks the demo site that has replaced the application. Returns the result.
 QByteArray driveDemoSite(Driver &driver)
 {
-    driver.await(
-        u"the search of the demo site ends"_s,
-        [&] { return !driver.window()->property("searching").toBool(); }, 30);
+    awaitSearchEnd(driver);
     const QString remark = driver.text(u"titleRemark"_s);
     const int devices = driver.text(u"counterNumber"_s).toInt();
     driver.report(u"demo-site"_s, remark);
     driver.click(u"closeButton"_s);
-    // The account of its devices is on the window.
+    // The window shows the account of the devices.
     return devices > 0 && remark.contains(u"Office-2024"_s)
                ? "the demo site: " + remark.toUtf8()
                : "FAILED: the demo site does not show devices and their account: " + remark.toUtf8();
 }
 
-/// As the program would be started for a stage.
+/// The application's arguments for a stage.
 QStringList argumentsFor(const QByteArray &stage, const QString &folder)
 {
     QString scene = u"office"_s;
@@ -256,8 +250,7 @@ QStringList argumentsFor(const QByteArray &stage, const QString &folder)
     return arguments;
 }
 
-/// The program from its start to its end, driven on the way. One that was started in the place of another
-/// puts what it saw into `result`.
+/// Runs the application and drives it. `result` is set by an instance that has replaced another one.
 int runProgram(const QByteArray &stage, const QString &language, const QString &folder, QByteArray &result)
 {
     Shell shell(CommandLine::parse(argumentsFor(stage, folder)));
@@ -322,6 +315,6 @@ int main(int argc, char *argv[])
     const bool isFine = warnings == 0 && exitCode == 0;
     if (!result.isEmpty())
         writeFile(resultFile(folder), QByteArray::number(QCoreApplication::applicationPid()) + '\n' +
-                                          (isFine ? result : "FAILED: a warning was given"));
+                                          (isFine ? result : "FAILED: a warning was logged"));
     return warnings == 0 ? exitCode : EXIT_FAILURE;
 }

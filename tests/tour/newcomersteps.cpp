@@ -1,9 +1,9 @@
-// Someone whose list stays empty: the only device is out of reach of a search of the local network. It is
-// added by its address, and found with the search settings. Without any device there is the demo site.
+// A user whose list remains empty: a search of the local network does not reach the only device. It is added
+// by its address, and found with other search settings. Without any device the user can open the demo site.
 #include "tests/files/filecontents.h"
+#include "tests/tour/commonsteps.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
-#include "tests/tour/words.h"
 
 using namespace Qt::StringLiterals;
 
@@ -12,20 +12,9 @@ namespace {
 const QString address = u"192.168.7.30"_s;
 const QString password = u"Attic-2026"_s;
 
-bool isSearching(const Driver &driver)
-{
-    return driver.window()->property("searching").toBool();
-}
-
-void awaitEndOfSearch(const Driver &driver)
-{
-    driver.await(
-        u"the search ends"_s, [&] { return !isSearching(driver); }, 30);
-}
-
 void awaitEmptyList(const Driver &driver)
 {
-    awaitEndOfSearch(driver);
+    awaitSearchEnd(driver);
     driver.await(u"nothing is found"_s, [&] {
         return driver.find(u"emptyTitle"_s) &&
                driver.text(u"emptyTitle"_s) == translated("ModifyIPEmptyState", "没有找到设备");
@@ -40,13 +29,13 @@ void awaitDevice(const Driver &driver)
         [&] { return rows.count() == 1 && rows.value(0, "ipport").toString() == address + u":37777"_s; }, 30);
 }
 
-/// A search that finds nothing explains why.
+/// The report of a search without results.
 void walkReport(Driver &driver)
 {
     driver.click(u"emptyLink"_s);
     const QString summary = driver.text(u"reportSummary"_s);
     driver.check(summary == translated("SearchReportText", "没有找到设备。"),
-                 u"the report says what was found"_s);
+                 u"the report states the result"_s);
     driver.report(u"search-report"_s, summary);
     driver.click(u"okButton"_s);
     expectToast(driver, translated("SearchReportDialog", "已复制到剪贴板"));
@@ -75,7 +64,7 @@ void walkSettings(Driver &driver)
     driver.click(u"emptySettingsButton"_s);
     driver.click(u"localDomainBox"_s);
     driver.click(u"okButton"_s);
-    driver.await(u"the page says that the settings name nothing to search"_s, [&] {
+    driver.await(u"the page states that the search settings are empty"_s, [&] {
         return driver.find(u"emptyTitle"_s) &&
                driver.text(u"emptyTitle"_s) == translated("ModifyIPEmptyState", "搜索设置中没有选择网段");
     });
@@ -87,7 +76,7 @@ void walkSettings(Driver &driver)
     driver.report(u"settings"_s, u"another network"_s);
     driver.click(u"okButton"_s);
     awaitDevice(driver);
-    awaitEndOfSearch(driver);
+    awaitSearchEnd(driver);
     driver.report(u"found"_s, driver.text(u"counterText"_s));
 }
 

@@ -1,12 +1,11 @@
-// What the program would open in another one.
+// Addresses that the application opens in other programs.
 #pragma once
 
 #include <QDesktopServices>
 #include <QObject>
 #include <QUrl>
 
-/// Takes the addresses of a scheme that the program opens, such as those of web pages or of files, so that no
-/// other program is started while this object lives.
+/// Receives the URLs of a scheme that the application opens. No other program is started during its lifetime.
 class OpenedAddresses : public QObject
 {
     Q_OBJECT
@@ -17,7 +16,7 @@ public:
     }
     ~OpenedAddresses() override { QDesktopServices::unsetUrlHandler(m_scheme); }
 
-    /// The last one; empty when there was none.
+    /// The last URL; empty if there was none.
     [[nodiscard]] QUrl last() const { return m_last; }
 
 public Q_SLOTS:

@@ -1,11 +1,11 @@
-// The windows beside the main one.
+// Windows other than the main window.
 #pragma once
 
 #include "tests/tour/driver.h"
 
 #include <QGuiApplication>
 
-/// The visible window with this object name, null when there is none.
+/// The visible window with this object name; null if there is none.
 inline QQuickWindow *visibleWindow(const QString &name)
 {
     for (QWindow *candidate : QGuiApplication::topLevelWindows()) {
@@ -15,7 +15,7 @@ inline QQuickWindow *visibleWindow(const QString &name)
     return nullptr;
 }
 
-/// The same, waited for; the tour ends when it does not open.
+/// Waits for the window; the tour fails if it does not open.
 inline QQuickWindow *awaitWindow(const Driver &driver, const QString &name)
 {
     driver.await(QStringLiteral("the window \"%1\" opens").arg(name), [&] {

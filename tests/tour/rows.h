@@ -1,11 +1,11 @@
-// What a table of the window shows.
+// The contents of a table.
 #pragma once
 
 #include "tests/tour/driver.h"
 
 #include <QAbstractItemModel>
 
-/// The rows that a table shows, read from its model by role.
+/// The rows of a table's model, read by role.
 class Rows
 {
 public:
@@ -20,7 +20,7 @@ public:
     {
         return m_model->data(m_model->index(row, 0), m_model->roleNames().key(role));
     }
-    /// The first row with this value, -1 when there is none.
+    /// The first row with this value; -1 if there is none.
     [[nodiscard]] int rowOf(const QByteArray &role, const QVariant &value) const
     {
         int row = count() - 1;
@@ -39,3 +39,14 @@ public:
 private:
     QAbstractItemModel *const m_model;
 };
+
+/// Ticks the rows of devices. None of them is ticked before.
+inline void tickRows(const Driver &driver, const Rows &rows, const QStringList &ipports)
+{
+    for (const QString &ipport : ipports) {
+        const int row = rows.rowOf("ipport", ipport);
+        driver.check(row >= 0, QStringLiteral("%1 is listed").arg(ipport));
+        driver.click(QStringLiteral("check%1").arg(row));
+        driver.check(rows.value(row, "checked").toBool(), QStringLiteral("%1 is ticked").arg(ipport));
+    }
+}

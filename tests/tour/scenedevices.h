@@ -1,11 +1,11 @@
-// The devices of the simulated site, as the steps name them.
+// Devices of the simulated site.
 #pragma once
 
 #include "sdk/demo/demosite.h"
 
 #include <QString>
 
-/// MAC of the device that has this address and port ("192.168.1.101:8800"); empty when there is none.
+/// The MAC of the device with this address and port ("192.168.1.101:8800"); empty if there is none.
 inline QString macOf(const sdk::demo::DemoSite &site, const QString &ipport)
 {
     QString mac;

@@ -23,7 +23,7 @@ QQuickItem *ScrolledTree::lowest(bool isGroup) const
         if (row && row->property("isGroup").toBool() != isGroup)
             row = nullptr;
     }
-    m_driver.check(row != nullptr, u"there is a row of its kind in view"_s);
+    m_driver.check(row != nullptr, u"a matching row is visible"_s);
     return row;
 }
 
@@ -32,7 +32,7 @@ void ScrolledTree::click(const QQuickItem *row, qreal x) const
     QTest::mouseClick(m_driver.window(), Qt::LeftButton, Qt::NoModifier,
                       row->mapToScene({x, row->height() / 2}).toPoint());
     m_driver.check(qFuzzyCompare(m_tree->property("contentY").toReal(), m_end),
-                   u"the tree stays where it is when it is clicked"_s);
+                   u"a click does not scroll the tree"_s);
 }
 
 QString ScrolledTree::clickDevice() const
@@ -40,7 +40,8 @@ QString ScrolledTree::clickDevice() const
     const QQuickItem *row = lowest(false);
     const QString device = row->property("title").toString();
     click(row, row->width() / 2);
-    // A login that is refused takes the keyboard, and with it the mark of the current row.
+    // A refused login opens a dialog. The tree then loses the focus, and the row is no longer marked as
+    // current.
     m_driver.check(row->property("title").toString() == device &&
                        (row->property("current").toBool() || row->property("chosen").toBool()),
                    u"the clicked row of %1 is the current one"_s.arg(device));

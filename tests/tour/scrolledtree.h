@@ -1,10 +1,9 @@
-// A device tree that is scrolled to its end, and what clicks into it do.
+// Clicks into a device tree that is scrolled to its end.
 #pragma once
 
 #include "tests/tour/driver.h"
 
-/// Every click is one into the rows in view. The tour ends when the tree moves under it, or when another row
-/// takes it.
+/// Clicks visible rows. The tour fails if the tree scrolls, or if another row reacts.
 class ScrolledTree
 {
 public:
@@ -13,7 +12,7 @@ public:
     /// Clicks the row of the lowest device. Returns its address.
     [[nodiscard]] QString clickDevice() const;
 
-    // Each ticks by a click into the box, and unticks by a second one.
+    // Each function ticks with a click on the box and unticks with a second one.
 
     void tickDevice() const;
     void tickGroup() const;
@@ -25,5 +24,5 @@ private:
 
     const Driver &m_driver;
     QQuickItem *const m_tree;
-    qreal m_end = 0; ///< "contentY" when it is scrolled to its end
+    qreal m_end = 0; ///< "contentY" at the end of the tree
 };

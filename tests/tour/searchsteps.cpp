@@ -1,13 +1,13 @@
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"
+#include "tests/tour/commonsteps.h"
 #include "tests/tour/steps.h"
-#include "tests/tour/words.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Devices of the site that a search of the local segment lists by an IPv4 address.
+/// The number of IPv4 devices that a search finds.
 int devicesInReach(bool otherSegmentToo)
 {
     int devices = 0;
@@ -20,11 +20,6 @@ int devicesInReach(bool otherSegmentToo)
     return devices;
 }
 
-bool isSearching(const Driver &driver)
-{
-    return driver.window()->property("searching").toBool();
-}
-
 int counter(const Driver &driver)
 {
     return driver.text(u"counterNumber"_s).toInt();
@@ -35,20 +30,14 @@ int rows(const Driver &driver)
     return driver.require(u"deviceTable"_s)->property("count").toInt();
 }
 
-/// The settings stay open and say why they are refused.
+/// The settings stay open and show the reason of the refusal.
 void expectRefusal(const Driver &driver, const char *message)
 {
     expectToast(driver, translated("SearchSettingsDialog", message));
-    driver.check(driver.find(u"okButton"_s) != nullptr, u"settings that are refused stay open"_s);
+    driver.check(driver.find(u"okButton"_s) != nullptr, u"refused settings stay open"_s);
 }
 
-void awaitEndOfSearch(const Driver &driver, int seconds)
-{
-    driver.await(
-        u"the search ends"_s, [&] { return !isSearching(driver); }, seconds);
-}
-
-/// A search of 17 segments takes two minutes. What it has found when it is stopped stays.
+/// Stops a search of 17 segments, which takes two minutes. Its results are kept.
 void walkStop(Driver &driver)
 {
     driver.await(u"a device of the other segment is found"_s, [&] { return counter(driver) > 0; });
@@ -56,28 +45,28 @@ void walkStop(Driver &driver)
     expectToast(driver, translated("BusyState", "正在搜索，请先停止搜索（Esc）或稍候再关闭"));
     driver.report(u"search-running"_s, u"%1 devices so far, closing is refused"_s.arg(counter(driver)));
     driver.click(u"stopButton"_s);
-    awaitEndOfSearch(driver, 10);
+    awaitSearchEnd(driver, 10);
     driver.check(rows(driver) == counter(driver) && counter(driver) > 0,
-                 u"what a stopped search has found stays"_s);
+                 u"the results of a stopped search are kept"_s);
 }
 
 } // namespace
 
 void walkFirstSearch(Driver &driver)
 {
-    // On a busy machine it is over before the tour begins; then another one is looked at in its place.
+    // On a busy machine the first search has ended before the tour starts. Another one is started then.
     if (!isSearching(driver)) {
-        driver.check(counter(driver) > 0, u"the window has searched by itself"_s);
+        driver.check(counter(driver) > 0, u"the application has searched at its start"_s);
         driver.key(Qt::Key_F5);
     }
     driver.await(u"the first search runs"_s, [&] { return isSearching(driver); });
-    driver.report(u"first-search"_s, u"the window searches by itself"_s);
+    driver.report(u"first-search"_s, u"the application searches at its start"_s);
 
     driver.await(u"devices appear while the search runs"_s,
                  [&] { return counter(driver) > 0 && rows(driver) > 0; });
     driver.report(u"counter-climbs"_s, u"%1 devices so far"_s.arg(counter(driver)));
 
-    awaitEndOfSearch(driver, 15);
+    awaitSearchEnd(driver, 15);
     const int expected = devicesInReach(false);
     driver.check(
         counter(driver) == expected && rows(driver) == expected,
@@ -88,7 +77,7 @@ void walkFirstSearch(Driver &driver)
 
 void walkSearchSettings(Driver &driver)
 {
-    // The rows of devices that batches failed with would stay through the searches.
+    // A search keeps the rows of devices with failed batches.
     driver.click(u"clearMarksButton"_s);
     driver.await(u"no device is marked"_s, [&] { return !driver.find(u"clearMarksButton"_s); });
     driver.click(u"searchSettingsButton"_s);
@@ -100,7 +89,7 @@ void walkSearchSettings(Driver &driver)
     driver.fill(u"endIpField"_s, u"192.168.2.254"_s);
     driver.click(u"okButton"_s);
     expectRefusal(driver, "起始ip不可以大于结束ip");
-    driver.report(u"search-settings-begin-above-end"_s, u"the end in front of the begin"_s);
+    driver.report(u"search-settings-begin-above-end"_s, u"the end is less than the start"_s);
     driver.fill(u"endIpField"_s, u"192.168.20.1"_s);
     driver.click(u"okButton"_s);
     expectRefusal(driver, "仅支持跨16个网段搜索");
@@ -122,7 +111,7 @@ void walkSearchSettings(Driver &driver)
     driver.fill(u"endIpField"_s, u"192.168.2.254"_s);
     driver.click(u"okButton"_s);
     driver.await(u"the next search starts"_s, [&] { return isSearching(driver); });
-    awaitEndOfSearch(driver, 30);
+    awaitSearchEnd(driver, 30);
     const int expected = devicesInReach(true);
     driver.check(
         counter(driver) == expected,

@@ -23,7 +23,7 @@ const QList<Stage> &stagesOfTour()
          .drive =
              [](Driver &driver, DemoSite *site) {
                  walkAdministrator(driver, *site);
-                 walkBatches(driver, *site, driver.pictureFolder());
+                 walkBatches(driver, *site, driver.imageFolder());
              }},
         {.name = u"newcomer"_s,
          .scene = emptyScene(),
@@ -67,14 +67,14 @@ const QList<Stage> &stagesOfTour()
              }},
         {.name = u"restored"_s,
          .scene = u"office"_s,
-         .goesOn = true,
+         .continues = true,
          .drive =
              [](Driver &driver, DemoSite *) {
                  walkRestored(driver);
              }},
         {.name = u"restoredagain"_s,
          .scene = u"office"_s,
-         .goesOn = true,
+         .continues = true,
          .drive =
              [](Driver &driver, DemoSite *) {
                  walkRestoredAgain(driver);
@@ -85,7 +85,7 @@ const QList<Stage> &stagesOfTour()
          .drive =
              [](Driver &driver, DemoSite *site) {
                  walkFirstSearch(driver);
-                 walkGallery(driver, *site, driver.pictureFolder() + u"/pictures"_s);
+                 walkGallery(driver, *site, driver.imageFolder() + u"/pictures"_s);
              }},
     };
     return stages;

@@ -1,4 +1,4 @@
-// The stages of the tour: each is one start of the program.
+// The stages of the tour. Each of them is one start of the application.
 #pragma once
 
 #include <QString>
@@ -14,16 +14,16 @@ class DemoSite;
 struct Stage
 {
     QString name;
-    QString scene = {};    ///< the simulated site; empty: none, but the network
-    QString password = {}; ///< of the search settings
-    bool goesOn = false;   ///< with the settings that the stage before has left
+    QString scene = {};     ///< the simulated site; empty: the real network
+    QString password = {};  ///< of the search settings
+    bool continues = false; ///< keeps the settings of the previous stage
     std::function<void(Driver &driver, sdk::demo::DemoSite *site)> drive;
     std::function<void(Driver &driver)> leave =
-        {}; ///< out of the program; empty: with the button of the window
+        {}; ///< closes the application; empty: with the window's button
 };
 
-/// In their order. The first ones are users with the work that each has to do.
+/// In the order of execution. The first stages represent users with their tasks.
 [[nodiscard]] const QList<Stage> &stagesOfTour();
 
-/// The stage with this name, null when there is none.
+/// The stage with this name; null if there is none.
 [[nodiscard]] const Stage *stageOfTour(const QString &name);

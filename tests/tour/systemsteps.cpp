@@ -1,10 +1,10 @@
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/scene/fault.h"
+#include "tests/tour/commonsteps.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/scenedevices.h"
 #include "tests/tour/scrolledtree.h"
 #include "tests/tour/steps.h"
-#include "tests/tour/words.h"
 
 using namespace Qt::StringLiterals;
 
@@ -34,14 +34,14 @@ void tick(const Driver &driver, const QString &device)
 void apply(const Driver &driver, const QString &button, const QList<int> &expected)
 {
     driver.click(button);
-    driver.await(u"%1: the devices' results are as they should"_s.arg(button), [&] {
+    driver.await(u"%1: the devices have the expected results"_s.arg(button), [&] {
         return QList<int>{resultOf(driver, first), resultOf(driver, second), resultOf(driver, third)} ==
                expected;
     });
-    driver.await(u"%1: the run ends"_s.arg(button), [&] { return driver.find(u"runningText"_s) == nullptr; });
+    awaitBatchEnd(driver);
 }
 
-/// The same for a button that shows first what will happen to which device.
+/// The same for a button that first shows a preview of the devices.
 void applyListed(const Driver &driver, const QString &button, const QList<int> &expected)
 {
     driver.click(button);
@@ -55,7 +55,7 @@ void expectRefusal(const Driver &driver, const QString &button, const char *cont
     expectToast(driver, translated(context, message));
 }
 
-/// The three devices stay marked through the search that the new settings begin, and can be shown alone.
+/// The search after the change of the settings keeps the marks of the three devices. They can be filtered.
 void walkFailed(Driver &driver)
 {
     const auto areAlone = [](int rows) {
@@ -78,10 +78,10 @@ void walkTime(Driver &driver)
 {
     setDefaultPassword(driver, u"not the password"_s);
     driver.click(u"tab3"_s);
-    if (driver.find(u"clearMarksButton"_s)) // of what other pages failed with
+    if (driver.find(u"clearMarksButton"_s)) // marks of other pages
         driver.click(u"clearMarksButton"_s);
     {
-        // The first click is one into a tree that has not had the keyboard yet.
+        // The tree has not had the keyboard before the first click.
         const ScrolledTree tree(driver);
         tree.tickGroup();
         tree.tickDevice();
@@ -103,7 +103,7 @@ void walkTime(Driver &driver)
 
     driver.fill(u"manualTimeField"_s, u"2024-02-30 10:00:00"_s);
     expectRefusal(driver, u"setTimeByManualButton"_s, "OVDateTimeField", "请输入正确的时间");
-    driver.report(u"system-no-time"_s, u"a day that there is not"_s);
+    driver.report(u"system-no-time"_s, u"a nonexistent day"_s);
     driver.fill(u"manualTimeField"_s, u"2024-02-29 10:00:00"_s);
     applyListed(driver, u"setTimeByManualButton"_s, {0, 0, 0});
     apply(driver, u"readTimeButton"_s, {0, 0, 0});
@@ -148,30 +148,30 @@ void walkZone(Driver &driver)
     driver.click(u"check2"_s);
     driver.report(u"system-preview"_s, driver.text(u"batchCount"_s));
     apply(driver, u"okButton"_s,
-          {0, noResult, 0}); // not that of the device that was taken out, the last by address
+          {0, noResult, 0}); // the unticked device, the last one by address, has no result
 }
 
 void walkReboot(Driver &driver, sdk::demo::DemoSite &site)
 {
     driver.click(u"systemTab2"_s);
     driver.click(u"autoRebootBox"_s);
-    driver.report(u"system-reboot"_s, u"reboots at regular times, and one at once"_s);
+    driver.report(u"system-reboot"_s, u"regular reboots, and an immediate one"_s);
     tick(driver, second);
     tick(driver, third);
     driver.click(u"rebootButton"_s);
     driver.require(u"messageText"_s);
     driver.report(u"system-reboot-question"_s, driver.text(u"messageText"_s));
     driver.click(u"cancelButton"_s);
-    driver.await(u"the question is gone"_s, [&] { return !driver.find(u"messageText"_s); });
+    driver.await(u"the question is closed"_s, [&] { return !driver.find(u"messageText"_s); });
     driver.click(u"rebootButton"_s);
     driver.click(u"previewButton"_s);
     driver.require(u"previewTable"_s);
     driver.report(u"system-reboot-list"_s, driver.text(u"batchCount"_s));
     apply(driver, u"okButton"_s, {0, noResult, noResult});
 
-    // The first is away now, and stays so for as long as this takes.
+    // The first device is rebooting, and remains offline during this step.
     const QString mac = macOf(site, first);
-    site.setFault(mac, {.fault = sdk::demo::Fault::NoAnswer, .number = 0, .text = {}});
+    site.setFault(mac, {.fault = sdk::demo::Fault::NoAnswer});
     tick(driver, second);
     tick(driver, third);
     applyListed(driver, u"autoMaintainButton"_s, {unreachable, 0, 0});
@@ -187,10 +187,10 @@ void walkPassword(Driver &driver)
     apply(driver, u"loginCheckButton"_s, {noResult, wrongPassword, wrongPassword});
     driver.fill(u"oldPasswordField"_s, password);
     apply(driver, u"loginCheckButton"_s, {noResult, waitsForPassword, waitsForPassword});
-    driver.await(u"the new password is asked for"_s,
+    driver.await(u"the new password can be entered"_s,
                  [&] { return driver.require(u"newPasswordField"_s)->isEnabled(); });
     const QString countdown = driver.text(u"countdownText"_s);
-    driver.await(u"the seconds go by"_s, [&] { return driver.text(u"countdownText"_s) != countdown; });
+    driver.await(u"the countdown runs"_s, [&] { return driver.text(u"countdownText"_s) != countdown; });
     tick(driver, third);
     driver.await(u"another tick closes the editor"_s,
                  [&] { return !driver.require(u"newPasswordField"_s)->isEnabled(); });
@@ -205,7 +205,7 @@ void walkPassword(Driver &driver)
     driver.report(u"system-password"_s, driver.text(u"countdownText"_s));
     applyListed(driver, u"modifyPasswordButton"_s, {noResult, 0, 0});
     driver.check(!driver.require(u"newPasswordField"_s)->isEnabled(),
-                 u"a password that is changed is done with"_s);
+                 u"the editor is closed after the change"_s);
     driver.report(u"system-password-changed"_s, driver.text(u"selectedCount"_s));
 }
 
@@ -218,7 +218,7 @@ void walkVideoAndReset(Driver &driver)
     driver.report(u"system-video"_s, driver.texts(u"chosenText"_s).join(u' '));
 
     driver.click(u"systemTab3"_s);
-    driver.report(u"system-reset"_s, u"what a reset takes away"_s);
+    driver.report(u"system-reset"_s, u"the effects of a reset"_s);
     tick(driver, second);
     driver.click(u"resetButton"_s);
     driver.require(u"messageText"_s);

@@ -3,10 +3,10 @@
 #include "sdk/demo/demosite.h"
 #include "sheets/qexcel.h"
 #include "tests/files/filecontents.h"
+#include "tests/tour/commonsteps.h"
 #include "tests/tour/openedaddresses.h"
 #include "tests/tour/rows.h"
 #include "tests/tour/steps.h"
-#include "tests/tour/words.h"
 
 #include <QDir>
 
@@ -19,14 +19,14 @@ namespace {
 
 const QString password = u"Office-2024"_s;
 const QString newVersion = u"3.000.1"_s;
-const QString newestVersion = u"3.000.2"_s; // of the document
+const QString newestVersion = u"3.000.2"_s; // set by the document
 
 QString firmwareName(const QString &version)
 {
     return u"cameras_%1.bin"_s.arg(version);
 }
 
-bool letsIn(const sdk::demo::DemoSite &site, const QString &mac)
+bool acceptsPassword(const sdk::demo::DemoSite &site, const QString &mac)
 {
     const auto device = site.device(mac);
     return device && !device->isUninitialised() &&
@@ -34,19 +34,19 @@ bool letsIn(const sdk::demo::DemoSite &site, const QString &mac)
                        [](const auto &account) { return account.password == password; });
 }
 
-/// The first rows of the table whose devices can be logged in to.
+/// The first rows whose devices accept the password and have a unique address.
 QList<int> usableRows(const Driver &driver, const Rows &rows, const sdk::demo::DemoSite &site, int count)
 {
     QList<int> found;
     for (int row = 0; row < rows.count() && found.size() < count; ++row) {
-        if (letsIn(site, rows.value(row, "mac").toString()) && !rows.value(row, "conflict").toBool())
+        if (acceptsPassword(site, rows.value(row, "mac").toString()) && !rows.value(row, "conflict").toBool())
             found.append(row);
     }
     driver.check(found.size() == count, u"there are %1 devices to upgrade"_s.arg(count));
     return found;
 }
 
-/// Returns the path.
+/// Writes a firmware file and returns its path.
 QString writeFirmware(const Driver &driver, const QString &folder, const QString &version,
                       const QStringList &models)
 {
@@ -58,7 +58,7 @@ QString writeFirmware(const Driver &driver, const QString &folder, const QString
     return path;
 }
 
-/// Six devices that are quick, but for what is wrong with some.
+/// Makes six devices fast, except for the faults of some.
 void prepareDevices(const Rows &rows, const QList<int> &places, sdk::demo::DemoSite &site)
 {
     for (const int row : places) {
@@ -72,27 +72,21 @@ void prepareDevices(const Rows &rows, const QList<int> &places, sdk::demo::DemoS
     site.setFault(mac(1), {Fault::UpgradeFailsAt, 47});
     site.setFault(mac(2), {Fault::UpgradeHangsAt, 63});
     site.setFault(mac(3), {Fault::UpgradeTakes, 60});
-    // It still writes when the tour has looked at the others.
+    // The device still writes after the other devices have ended.
     site.setFault(mac(5), {Fault::UpgradeTakes, 45});
 }
 
-/// In the list of what will happen.
+/// Confirms the preview.
 void beginUpgrades(Driver &driver, const QString &picture)
 {
     driver.require(u"upgradePreviewTable"_s);
     if (!picture.isEmpty())
         driver.report(picture, driver.text(u"batchCount"_s));
     driver.click(u"okButton"_s);
-    driver.await(u"the list is gone"_s, [&] { return !driver.find(u"upgradePreviewTable"_s); });
+    driver.await(u"the preview is closed"_s, [&] { return !driver.find(u"upgradePreviewTable"_s); });
 }
 
-void awaitEnd(const Driver &driver)
-{
-    driver.await(
-        u"the upgrades end"_s, [&] { return driver.find(u"runningText"_s) == nullptr; }, 120);
-}
-
-/// Nothing disturbs devices that are upgraded, and the program does not end without a question.
+/// A search is refused during upgrades, and closing asks a question.
 void expectHold(Driver &driver)
 {
     driver.click(u"searchButton"_s);
@@ -101,39 +95,41 @@ void expectHold(Driver &driver)
                translated("BusyState", "当前有设备正在升级中，请勿刷新设备！");
     });
     driver.click(u"okButton"_s);
-    driver.await(u"the message is gone"_s, [&] { return driver.find(u"messageText"_s) == nullptr; });
+    driver.await(u"the message is closed"_s, [&] { return driver.find(u"messageText"_s) == nullptr; });
     driver.click(u"closeButton"_s);
     driver.check(driver.text(u"messageText"_s)
                      .endsWith(translated("WindowPopups", "已开始写入的设备会自行完成升级，请勿断电。")),
-                 u"it is said what becomes of devices that write"_s);
+                 u"the question explains that writing devices continue"_s);
     driver.report(u"upgrade-closing"_s, driver.text(u"messageText"_s));
     driver.click(u"cancelButton"_s);
-    driver.await(u"the question is gone"_s, [&] { return driver.find(u"messageText"_s) == nullptr; });
+    driver.await(u"the question is closed"_s, [&] { return driver.find(u"messageText"_s) == nullptr; });
 }
 
-/// The main page leaves a device alone that is upgraded.
+/// The main page does not change a device that is being upgraded.
 void expectRowHeldBack(const Driver &driver, const QString &mac)
 {
     driver.click(u"tab0"_s);
     const int row = Rows(driver).rowOf("mac", mac);
     QMetaObject::invokeMethod(driver.require(u"deviceTable"_s), "show", Q_ARG(QVariant, row));
     const QString edit = u"edit%1"_s.arg(row);
-    // A table reads its changed rows over several frames.
-    driver.await(u"its address cannot be changed"_s, [&] { return !driver.require(edit)->isEnabled(); });
+    // A table updates changed rows over several frames.
+    driver.await(u"its address change is disabled"_s, [&] { return !driver.require(edit)->isEnabled(); });
     driver.hover(edit);
-    driver.await(u"it is said why"_s, [&] {
+    driver.await(u"the reason is shown"_s, [&] {
         return driver.texts(u"toolTip"_s)
             .contains(translated("ModifyIPActions", "设备正在升级，不能修改IP地址"));
     });
     const QString box = u"check%1"_s.arg(row);
     driver.click(box);
-    driver.await(u"it cannot be deleted"_s, [&] { return !driver.require(u"deleteButton"_s)->isEnabled(); });
+    driver.await(u"deleting it is disabled"_s,
+                 [&] { return !driver.require(u"deleteButton"_s)->isEnabled(); });
     driver.click(box);
-    driver.await(u"others can"_s, [&] { return driver.require(u"deleteButton"_s)->isEnabled(); });
+    driver.await(u"deleting others is enabled"_s,
+                 [&] { return driver.require(u"deleteButton"_s)->isEnabled(); });
     driver.click(u"tab1"_s);
 }
 
-/// The devices that were not upgraded: they are shown alone, tried again, stopped, and upgraded at last.
+/// The devices with failed upgrades are filtered, retried, stopped, and finally upgraded.
 void walkFailedUpgrades(Driver &driver, sdk::demo::DemoSite &site, const QStringList &macs,
                         const QString &folder)
 {
@@ -150,29 +146,29 @@ void walkFailedUpgrades(Driver &driver, sdk::demo::DemoSite &site, const QString
     }
     const int all = rows.count();
     driver.click(u"failedFilter"_s);
-    driver.await(u"only those that failed are shown"_s, [&] {
+    driver.await(u"only the failed devices are shown"_s, [&] {
         return rows.count() < all && std::all_of(macs.cbegin(), macs.cend(), [&](const QString &mac) {
                    return rows.rowOf("mac", mac) >= 0;
                });
     });
     driver.report(u"upgrade-failed"_s, driver.text(u"failedFilter"_s));
     driver.click(u"failedFilter"_s);
-    driver.await(u"all are shown"_s, [&] { return rows.count() == all; });
+    driver.await(u"all devices are shown"_s, [&] { return rows.count() == all; });
 
     driver.click(u"upgradeRetryButton"_s);
     beginUpgrades(driver, {});
-    driver.await(u"they get the file"_s, [&] { return allHave(UpgradeTools::Sending); });
+    driver.await(u"the devices receive the file"_s, [&] { return allHave(UpgradeTools::Sending); });
     driver.key(Qt::Key_Escape);
-    driver.await(u"they are stopped"_s, [&] { return allHave(UpgradeTools::Stopped); });
-    awaitEnd(driver);
+    driver.await(u"the devices are stopped"_s, [&] { return allHave(UpgradeTools::Stopped); });
+    awaitBatchEnd(driver);
     driver.report(u"upgrade-stopped"_s, driver.text(u"footWarning"_s));
 
     for (const QString &mac : macs)
         site.setFault(mac, {Fault::UpgradeTakes, 1});
     driver.click(u"retryFailedButton"_s);
     driver.await(
-        u"they go well, too"_s, [&] { return allHave(UpgradeTools::Success); }, 30);
-    awaitEnd(driver);
+        u"the devices are upgraded"_s, [&] { return allHave(UpgradeTools::Success); }, 30);
+    awaitBatchEnd(driver);
     const QString path = folder + u"/results.csv"_s;
     driver.click(u"saveResultsButton"_s);
     driver.answerFileBox(path);
@@ -207,31 +203,31 @@ void walkTableUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &
     driver.click(u"upgradeFile%1"_s.arg(places.at(0)));
     driver.answerFileBox(emptyFile);
     driver.await(u"the empty file is refused"_s, [&] { return result(0) == UpgradeTools::FileEmpty; });
-    driver.check(!driver.find(u"upgradePhase%1"_s.arg(places.at(0))), u"nothing has made progress"_s);
+    driver.check(!driver.find(u"upgradePhase%1"_s.arg(places.at(0))), u"no progress is shown"_s);
     for (const int row : places)
         driver.click(u"check%1"_s.arg(row));
     driver.click(u"upgradeFileButton"_s);
     driver.answerFileBox(firmware);
-    driver.await(u"each has the file"_s, [&] {
+    driver.await(u"each device has the file"_s, [&] {
         return std::all_of(places.cbegin(), places.cend(),
                            [&](int row) { return rows.value(row, "filepath").toString() == firmware; });
     });
     driver.report(u"upgrade-files"_s, u"one file for six devices"_s);
     driver.click(u"upgradeStartButton"_s);
     beginUpgrades(driver, u"upgrade-preview"_s);
-    driver.await(u"four at a time"_s, [&] {
+    driver.await(u"four devices run at a time"_s, [&] {
         return result(0) == UpgradeTools::Sending && result(4) == UpgradeTools::Waiting &&
                rows.value(places.at(0), "upgrade").toInt() > 20;
     });
     driver.report(u"upgrade-running"_s, driver.text(u"runningText"_s));
-    expectRowHeldBack(driver, rows.value(places.at(3), "mac").toString()); // takes long
+    expectRowHeldBack(driver, rows.value(places.at(3), "mac").toString()); // a slow upgrade
     expectHold(driver);
     driver.click(u"upgradeStop%1"_s.arg(places.at(3)));
-    driver.await(u"one is stopped"_s, [&] { return result(3) == UpgradeTools::Stopped; });
+    driver.await(u"one device is stopped"_s, [&] { return result(3) == UpgradeTools::Stopped; });
     driver.await(
-        u"one writes"_s, [&] { return result(5) == UpgradeTools::Writing; }, 60);
-    driver.report(u"upgrade-writing"_s, u"one cannot be stopped any more"_s);
-    awaitEnd(driver);
+        u"one device writes"_s, [&] { return result(5) == UpgradeTools::Writing; }, 60);
+    driver.report(u"upgrade-writing"_s, u"a writing device cannot be stopped"_s);
+    awaitBatchEnd(driver);
     const QList<int> expected = {UpgradeTools::Success, UpgradeTools::Failed,  UpgradeTools::Stuck,
                                  UpgradeTools::Stopped, UpgradeTools::Success, UpgradeTools::Success};
     for (int place = 0; place < 6; ++place)
@@ -247,7 +243,7 @@ void walkTableUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &
     walkFailedUpgrades(driver, site, failed, folder);
 }
 
-/// The template, filled with three devices.
+/// Fills a copy of the template with three devices. Returns its path.
 QString writeDocument(const Driver &driver, const QStringList &addresses, const QString &folder)
 {
     QExcel excel;
@@ -287,16 +283,16 @@ void walkDocumentUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QStrin
     const QString twoOfThree =
         translated("OVFootBar", "%1 %2 / %3").arg(translated("UpgradeWork", "升级文档")).arg(2).arg(3);
     driver.await(u"two of three lines are done"_s, [&] {
-        const QQuickItem *told = driver.find(u"runningText"_s);
-        return told && told->property("text").toString() == twoOfThree;
+        const QQuickItem *progress = driver.find(u"runningText"_s);
+        return progress && progress->property("text").toString() == twoOfThree;
     });
     driver.report(u"upgrade-document-running"_s, driver.text(u"runningText"_s));
     driver.await(
-        u"what has come of it is told"_s,
+        u"the results are reported"_s,
         [&] { return driver.text(u"messageText"_s).contains(QDir::toNativeSeparators(path)); }, 40);
     driver.report(u"upgrade-document-results"_s, driver.text(u"messageText"_s));
     driver.click(u"okButton"_s);
-    driver.await(u"the message is gone"_s, [&] { return driver.find(u"messageText"_s) == nullptr; });
+    driver.await(u"the message is closed"_s, [&] { return driver.find(u"messageText"_s) == nullptr; });
     QExcel excel;
     driver.check(excel.open(path), u"the document can be read"_s);
     driver.check(excel.cellText(2, 6).value_or(QString()).contains(newestVersion) &&

@@ -17,7 +17,8 @@ void walkTabs(Driver &driver)
     driver.key(Qt::Key_5, Qt::ControlModifier);
     driver.report(u"tab4"_s, driver.text(u"batchCgiButton"_s));
     driver.key(Qt::Key_Tab, Qt::ControlModifier);
-    driver.await(u"the tabs go round"_s, [&] { return driver.find(u"deviceTable"_s) != nullptr; });
+    driver.await(u"Ctrl+Tab goes from the last tab to the first"_s,
+                 [&] { return driver.find(u"deviceTable"_s) != nullptr; });
 }
 
 void walkMenus(Driver &driver)
@@ -30,16 +31,16 @@ void walkMenus(Driver &driver)
     for (const QString code : languageCodes) {
         const bool offered = driver.find(u"language_"_s + code) != nullptr;
         driver.check(offered == localConfig.hasTranslation(code),
-                     u"languages are offered that have a translation: %1"_s.arg(code));
+                     u"a language is offered if it has a translation: %1"_s.arg(code));
     }
-    driver.report(u"languages"_s, u"the languages that are there"_s);
+    driver.report(u"languages"_s, u"the available languages"_s);
     driver.key(Qt::Key_Escape);
     driver.key(Qt::Key_Escape);
 
     driver.click(u"menuButton"_s);
     driver.click(u"aboutItem"_s);
     driver.check(driver.text(u"versionText"_s).contains(CLocalConfig::getinstance()->getVersion()),
-                 u"the about box tells the version"_s);
+                 u"the about box shows the version"_s);
     driver.report(u"about"_s, driver.text(u"versionText"_s));
     driver.key(Qt::Key_Escape);
 }
@@ -78,20 +79,20 @@ void walkWindow(Driver &driver)
     walkSize(driver);
 }
 
-void walkSecondStart(Driver &driver, const QString &pictureFolder)
+void walkSecondStart(Driver &driver, const QString &imageFolder)
 {
     QProcess second;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"CONFIGTOOLS_TOUR_STAGE"_s, u"second"_s);
     second.setProcessEnvironment(environment);
     second.start(QCoreApplication::applicationFilePath(),
-                 {CLocalConfig::getinstance()->getLanguage(), pictureFolder});
+                 {CLocalConfig::getinstance()->getLanguage(), imageFolder});
     driver.await(
         u"a second start ends"_s, [&] { return second.state() == QProcess::NotRunning; }, 30);
     driver.check(second.exitStatus() == QProcess::NormalExit && second.exitCode() == 0,
                  u"a second start ends with 0"_s);
-    const QString said = QString::fromUtf8(second.readAllStandardOutput()).trimmed();
-    driver.check(said.contains(QObject::tr("应用程序已经运行!")),
-                 u"a second start says that the program runs: \"%1\""_s.arg(said));
-    driver.report(u"second-start"_s, said);
+    const QString output = QString::fromUtf8(second.readAllStandardOutput()).trimmed();
+    driver.check(output.contains(QObject::tr("应用程序已经运行!")),
+                 u"a second start reports that the application runs: \"%1\""_s.arg(output));
+    driver.report(u"second-start"_s, output);
 }

@@ -1,4 +1,4 @@
-// The check of the tour's layouts finds what is wrong with a window, and nothing else.
+// The layout check of the tour finds faults, and reports no others.
 #include "tests/datatable.h"
 #include "tests/qml/configtools/qmlscene.h"
 #include "tests/tour/layoutcheck.h"
@@ -9,11 +9,11 @@ class TestLayoutCheck : public QObject
 private Q_SLOTS:
     void findsFaults_data()
     {
-        // The scene, and what the check says of it first; "" when there is no fault.
+        // The QML, and the first reported fault; "": none.
         const auto row = dataTable<QByteArray, QString>({"content", "fault"});
         const QByteArray words = "text: 'Words that take some room'";
 
-        row("label beside its field",
+        row("label next to its field",
             "OVFormRow { width: 300; label: 'Name'; OVTextField { text: 'North gate' } }", "");
         row("label that is elided has a tool tip", "OVLabel { width: 40; " + words + " }", "");
         row("label that is elided has none",
@@ -35,26 +35,26 @@ private Q_SLOTS:
                 " }\n"
                 "OVToolTip { shown: false; text: 'other' } }",
             "poor.*is elided");
-        row("paragraph that is cut at its last line",
+        row("paragraph truncated in its last line",
             "OVParagraph { objectName: 'poor'; width: 60; maximumLineCount: 1; elide: Text.ElideRight; " +
                 words + " }",
             "poor.*is elided");
 
         row("button beyond the edge", "OVButton { x: 380; objectName: 'poor'; text: 'Go on' }",
-            "poor.*is cut");
+            "poor.*is truncated");
         row("text beyond the edge", "OVParagraph { x: 380; objectName: 'poor'; " + words + " }",
-            "poor.*is cut");
-        row("text cut by what it lies in",
+            "poor.*is truncated");
+        row("text truncated by an enclosing item",
             "Item { width: 60; height: 30; clip: true; OVParagraph { objectName: 'poor'; " + words + " } }",
-            "poor.*is cut");
+            "poor.*is truncated");
         row("list that is scrolled",
             "ListView { width: 200; height: 50; clip: true; model: 9; delegate: OVButton { text: 'Row' } }",
             "");
         row("list whose rows are too wide",
             "ListView { width: 60; height: 50; clip: true; model: 9\n"
             "delegate: OVButton { objectName: 'poor'; width: 100; text: 'Row' } }",
-            "poor.*is cut");
-        row("what is hidden",
+            "poor.*is truncated");
+        row("hidden items",
             "OVButton { x: 380; visible: false; text: 'Go on' }\n"
             "OVButton { x: 390; opacity: 0; text: 'Go on' }",
             "");
@@ -63,16 +63,16 @@ private Q_SLOTS:
             "OVButton { id: one; text: 'Go on' }\n"
             "OVButton { x: one.width; text: 'Stop' }",
             "");
-        row("buttons over each other",
+        row("overlapping buttons",
             "OVButton { id: one; objectName: 'poor'; text: 'Go on' }\n"
             "OVButton { x: one.width - 4; text: 'Stop' }",
-            "poor.*lies over");
-        row("texts over each other",
+            "poor.*overlaps");
+        row("overlapping texts",
             "OVParagraph { objectName: 'poor'; " + words + " }\nOVParagraph { x: 30; text: 'Others' }",
-            "poor.*lies over");
+            "poor.*overlaps");
         row("text that runs into a field",
             "OVParagraph { objectName: 'poor'; y: 6; " + words + " }\nOVTextField { x: 60 }",
-            "poor.*lies over");
+            "poor.*overlaps");
         row("lines under each other",
             "Column { OVParagraph { " + words + " }\nOVParagraph { " + words + " } }", "");
         row("dialog over the page",
@@ -80,10 +80,10 @@ private Q_SLOTS:
             "OVDialog { visible: true; width: 300; title: 'Question'; OVLabel { " +
                 words + " } }",
             "");
-        row("texts of a dialog over each other",
+        row("overlapping texts of a dialog",
             "OVDialog { visible: true; width: 300; title: 'Question'; OVLabel { objectName: 'poor'; " +
                 words + " }\nOVLabel { x: 20; text: 'Others' } }",
-            "poor.*lies over");
+            "poor.*overlaps");
 
         const QByteArray tip = "OVToolTip { shown: true; text: 'What it does' }";
         row("tool tip over a heading",
@@ -113,8 +113,8 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(window.get()));
         if (content.contains("shown: true"))
             QTRY_VERIFY(findBelow(window->contentItem(), "toolTip", Sight::Visible) != nullptr);
-        const QStringList wanted = fault.split(QStringLiteral(".*")); // item and fault
-        const auto isSaid = [&] {                                     // only when what opens has come to rest
+        const QStringList wanted = fault.split(QStringLiteral(".*")); // the item and the fault
+        const auto isReported = [&] {                                 // after opening animations have ended
             const QStringList faults = layoutFaults(*window);
             return faults.isEmpty()
                        ? fault.isEmpty()
@@ -123,7 +123,7 @@ private Q_SLOTS:
                                  return faults.constFirst().contains(part);
                              });
         };
-        QTRY_VERIFY2_WITH_TIMEOUT(isSaid(), qPrintable(layoutFaults(*window).join('\n')), 2000);
+        QTRY_VERIFY2_WITH_TIMEOUT(isReported(), qPrintable(layoutFaults(*window).join('\n')), 2000);
     }
 };
 
