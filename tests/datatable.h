@@ -6,7 +6,8 @@
 
 #include <array>
 
-/// Adds the columns of a test's data and returns what adds a row: its title and a value for each column.
+/// Adds the columns of a test's data. Returns a function that adds a row: its title and a value for each
+/// column.
 template<typename... Columns>
 auto dataTable(const std::array<const char *, sizeof...(Columns)> &names)
 {
@@ -17,7 +18,7 @@ auto dataTable(const std::array<const char *, sizeof...(Columns)> &names)
     };
 }
 
-/// The same for rows whose titles are their values.
+/// The same for rows whose titles consist of their values.
 template<typename... Columns>
 auto namedTable(const std::array<const char *, sizeof...(Columns)> &names)
 {

@@ -5,8 +5,8 @@
 #include <QStringList>
 #include <QVariantMap>
 
-/// The texts of the values of `keys`, which stand between blanks. Bars part them, commas part entries of a
-/// list.
+/// The values of `keys` (separated by spaces) as text, separated by bars. Entries of a list are separated by
+/// commas.
 inline QString valuesOf(const QVariantMap &object, const QString &keys)
 {
     QStringList texts;

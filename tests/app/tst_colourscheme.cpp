@@ -32,7 +32,7 @@ QPalette paletteOf(const QColor &window, const QColor &words)
     return palette;
 }
 
-/// A session bus of the test's own.
+/// A private session bus.
 class SessionBus
 {
 public:
@@ -61,7 +61,7 @@ private:
 
 } // namespace
 
-/// The part of a desktop's portal that tells its settings.
+/// A fake of the desktop portal's settings interface.
 class Portal : public QObject
 {
     Q_OBJECT
@@ -101,8 +101,8 @@ private:
     const QPalette m_darkPalette = paletteOf(Qt::black, Qt::white);
     std::unique_ptr<QTemporaryDir> m_directory;
 
-    /// A colour of the scene's theme.
-    static QColor colourOfScene(bool isDark, const QByteArray &name)
+    /// A colour of the theme in QML.
+    static QColor colourOfTheme(bool isDark, const QByteArray &name)
     {
         QQmlEngine engine;
         engine.addImportPath("qrc:/qt/qml");
@@ -137,12 +137,12 @@ private Q_SLOTS:
             portal.change(light);
             QTRY_VERIFY(!desktop.isDark());
 
-            // It goes before the palette, and other settings of the desktop are none of this one's business.
+            // The portal takes precedence over the palette. Changes of other settings are ignored.
             QApplication::setPalette(m_darkPalette);
             Q_EMIT portal.SettingChanged("org.freedesktop.appearance", "contrast", QDBusVariant(dark));
             Q_EMIT portal.SettingChanged("org.gnome.desktop.interface", "color-scheme", QDBusVariant(dark));
             portal.change(noPreference);
-            QTRY_VERIFY(desktop.isDark()); // by the palette
+            QTRY_VERIFY(desktop.isDark()); // from the palette
             QCOMPARE(changes.count(), 3);
         }
         QDBusConnection::disconnectFromBus("fake portal");
@@ -150,7 +150,7 @@ private Q_SLOTS:
 
     void followsThePaletteWithoutAPortal()
     {
-        const SessionBus bus; // that nobody answers on
+        const SessionBus bus; // without a portal
         for (const QString &address : {QString(), bus.address(), QStringLiteral("unix:path=/nowhere")}) {
             QApplication::setPalette(m_lightPalette);
             const DesktopScheme desktop(address);
@@ -160,7 +160,7 @@ private Q_SLOTS:
         }
     }
 
-    void choiceGoesBeforeTheDesktopAndIsKept()
+    void theUsersChoiceOverridesTheDesktopAndIsStored()
     {
         CLocalConfig config(m_directory->path());
         DesktopScheme desktop({});
@@ -185,7 +185,7 @@ private Q_SLOTS:
         QCOMPARE(ColourScheme(desktop, config).choice(), "desktop");
     }
 
-    void choiceThatCannotBeKeptCountsUntilTheEnd()
+    void aChoiceThatCannotBeStoredAppliesUntilTheEnd()
     {
         CLocalConfig config(m_directory->path());
         DesktopScheme desktop({});
@@ -199,7 +199,7 @@ private Q_SLOTS:
         QCOMPARE(config.colourScheme(), "desktop");
     }
 
-    void boxesHaveTheColoursOfTheScene()
+    void messageBoxesHaveTheColoursOfTheTheme()
     {
         CLocalConfig config(m_directory->path());
         DesktopScheme desktop({});
@@ -209,11 +209,11 @@ private Q_SLOTS:
         for (const bool isDark : {false, true, false}) {
             scheme.choose(isDark ? "dark" : "light"); // while the box is open
             const QImage image = box.grab().toImage();
-            QCOMPARE(image.pixelColor(10, 10), colourOfScene(isDark, "surface"));
-            QCOMPARE(image.pixelColor(0, image.height() / 2), colourOfScene(isDark, "line"));
+            QCOMPARE(image.pixelColor(10, 10), colourOfTheme(isDark, "surface"));
+            QCOMPARE(image.pixelColor(0, image.height() / 2), colourOfTheme(isDark, "line"));
             const QWidget *button = box.findChild<QPushButton *>();
             QCOMPARE(image.pixelColor(button->geometry().center() - QPoint(button->width() / 2 - 8, 0)),
-                     colourOfScene(isDark, "accent"));
+                     colourOfTheme(isDark, "accent"));
         }
     }
 };

@@ -32,7 +32,7 @@ private:
 
     QString path(const QString &name) const { return m_directory->path() + '/' + name; }
 
-    /// All settings, with bars between them.
+    /// All settings, separated by bars.
     static QString settingsOf(const CLocalConfig &config)
     {
         return QStringLiteral("%1|%2|%3|%4|%5|%6|%7|%8")
@@ -60,7 +60,7 @@ private Q_SLOTS:
 
     void cleanup() { QDesktopServices::unsetUrlHandler("file"); }
 
-    void settingsAreOnDiskAtOnceAndReadAfresh()
+    void settingsAreStoredImmediatelyAndReadAgain()
     {
         CLocalConfig config(m_directory->path());
         const QString password = "a,b;\"c\" = 密码\\";
@@ -79,12 +79,12 @@ private Q_SLOTS:
         QCOMPARE(config.getLanguage(), "fr_FR");
     }
 
-    /// In memory a change takes less than a tick of the clock that files are dated by.
-    void changesWithinATickAreRead()
+    /// In a memory file system two changes can have the same modification time.
+    void changesWithTheSameTimeAreRead()
     {
         const QTemporaryDir memory("/dev/shm/localconfig-XXXXXX");
         if (!memory.isValid())
-            QSKIP("there is no file system in memory"); // only there do two writes get the same time
+            QSKIP("there is no file system in memory"); // needed for equal modification times
         CLocalConfig config(memory.path());
         for (const char *language : {"fr_FR", "de_DE", "es_ES", "it_IT", "nl_NL"}) {
             config.setLanguage(language);
@@ -92,7 +92,7 @@ private Q_SLOTS:
         }
     }
 
-    /// So that a program that ends while it writes leaves the old file, which has another name here.
+    /// A process that ends during a write leaves the old file, which is observed through a second link.
     void aChangeReplacesTheFile()
     {
         CLocalConfig config(m_directory->path());
@@ -102,7 +102,7 @@ private Q_SLOTS:
         QCOMPARE(config.getLanguage(), "de_DE");
     }
 
-    void aDocumentThatIsNotThereIsNamed()
+    void aMissingDocumentIsReported()
     {
         CLocalConfig config(m_directory->path());
         const QSignalSpy requested(&config, &CLocalConfig::documentRequested);
@@ -116,7 +116,7 @@ private Q_SLOTS:
         QCOMPARE(m_opened, QStringList(manual));
     }
 
-    void anExistingFileIsNeverCompleted()
+    void missingKeysAreNotAddedToAnExistingFile()
     {
         write(path("LocalConfig.ini"), "[searchConfig]\nendIP=10.0.0.9\n");
         const CLocalConfig config(m_directory->path());
@@ -124,7 +124,7 @@ private Q_SLOTS:
         QCOMPARE(fileContents(path("LocalConfig.ini")), "[searchConfig]\nendIP=10.0.0.9\n");
     }
 
-    void badSettingsReadAsEmptyAndLoseNoOther_data()
+    void invalidSettingsReadAsEmptyAndKeepTheOthers_data()
     {
         const auto row = dataTable<QByteArray>({"content"});
         row("junk around a key", QByteArray("\x00\xFF]]junk\n[searchConfig]\n=\nendIP=10.0.0.9\n%%", 44));
@@ -132,7 +132,7 @@ private Q_SLOTS:
                                       "otherDomain=1e9\nendIP=10.0.0.9\n[language]\nname=@Size(1 2)\n"));
     }
 
-    void badSettingsReadAsEmptyAndLoseNoOther()
+    void invalidSettingsReadAsEmptyAndKeepTheOthers()
     {
         QFETCH(QByteArray, content);
         write(path("LocalConfig.ini"), content);
@@ -142,18 +142,18 @@ private Q_SLOTS:
         QCOMPARE(settingsOf(config), "en_US|0|0||10.0.0.9|||0");
     }
 
-    void upgradesAtOnceAreBounded_data()
+    void theNumberOfParallelUpgradesIsLimited_data()
     {
         const auto row = dataTable<QByteArray, int>({"value", "atOnce"});
-        row("least", QByteArray("1"), 1);
-        row("most", QByteArray("16"), 16);
+        row("minimum", QByteArray("1"), 1);
+        row("maximum", QByteArray("16"), 16);
         row("none", QByteArray(""), 4);
         row("zero", QByteArray("0"), 4);
         row("too many", QByteArray("17"), 4);
         row("does not fit", QByteArray("4294967297"), 4);
     }
 
-    void upgradesAtOnceAreBounded()
+    void theNumberOfParallelUpgradesIsLimited()
     {
         QFETCH(QByteArray, value);
         QCOMPARE(CLocalConfig(m_directory->path()).upgradesAtOnce(), 4);
@@ -163,8 +163,8 @@ private Q_SLOTS:
         QCOMPARE(CLocalConfig(m_directory->path()).upgradesAtOnce(), 7);
     }
 
-    /// The old settings fit on the disk, the new ones do not.
-    void aFullDiskLosesWritesOnly()
+    /// The disk has room for the old settings, but not for the new ones.
+    void aFullDiskKeepsTheStoredSettings()
     {
         CLocalConfig config(m_directory->path());
         config.setLanguage("de_DE");
@@ -179,7 +179,7 @@ private Q_SLOTS:
         QCOMPARE(QDir(m_directory->path()).entryList(QDir::Files), QStringList("LocalConfig.ini"));
     }
 
-    void languagesWithoutAFileAreRemoved_data()
+    void languagesWithoutAFileAreNotOffered_data()
     {
         const auto row = dataTable<QStringList, QVariantList>({"present", "removed"});
         row("Chinese and English", QStringList{"zh_CN", "en_US"},
@@ -188,7 +188,7 @@ private Q_SLOTS:
         row("no folder", QStringList(), QVariantList{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13});
     }
 
-    void languagesWithoutAFileAreRemoved()
+    void languagesWithoutAFileAreNotOffered()
     {
         QFETCH(QStringList, present);
         for (const QString &code : present)
@@ -203,7 +203,7 @@ private Q_SLOTS:
         QCOMPARE(files, present);
     }
 
-    void aFirstStartTakesTheSystemsLanguage_data()
+    void aFirstStartUsesTheSystemsLanguage_data()
     {
         const auto row = dataTable<QString, QLocale::Language, QString>({"stored", "system", "code"});
         row("Chinese", "", QLocale::Chinese, "zh_CN");
@@ -214,7 +214,7 @@ private Q_SLOTS:
         row("stored, its file lost", "de_DE", QLocale::Chinese, "de_DE");
     }
 
-    void aFirstStartTakesTheSystemsLanguage()
+    void aFirstStartUsesTheSystemsLanguage()
     {
         QFETCH(QString, stored);
         QFETCH(QLocale::Language, system);
@@ -229,7 +229,7 @@ private Q_SLOTS:
         QCOMPARE(config.getLanguage(), code);
     }
 
-    void theLockIsHeldByOneLivingProcess()
+    void theLockIsHeldByOneRunningProcess()
     {
         QProcess first;
         const auto start = [](QProcess &process) {
@@ -241,12 +241,12 @@ private Q_SLOTS:
 
         CLocalConfig config(m_directory->path());
         QVERIFY(config.anotherInstanceRuns());
-        QVERIFY(config.anotherInstanceRuns()); // asking does not take a live lock away
+        QVERIFY(config.anotherInstanceRuns()); // a check does not release the lock of a running process
         QProcess second;
         start(second);
         QCOMPARE(second.readLine().trimmed(), "refused");
 
-        first.kill(); // leaves its segment behind
+        first.kill(); // leaves its shared memory segment behind
         QVERIFY(first.waitForFinished());
         QVERIFY(!config.anotherInstanceRuns());
         QProcess third;

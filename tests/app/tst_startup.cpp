@@ -12,12 +12,12 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-/// What start-up decides before there is a scene. The scene itself is walked by the tour.
+/// The start of the application before QML is loaded. The tour tests the window.
 class TestStartUp : public QObject
 {
     Q_OBJECT
 private:
-    /// Runs a start-up that is to end with a message box. Returns the exit code and the texts of the box.
+    /// Runs a start that ends with a message box. Returns the exit code, and the title and text of the box.
     static std::pair<int, QStringList> refusedStart(const CommandLine &commandLine)
     {
         QStringList texts;
@@ -38,7 +38,8 @@ private:
 private Q_SLOTS:
     void cleanup()
     {
-        // A refused start has told the event loop to end, and that word outlives it until a loop has begun.
+        // A refused start requests the end of the event loop. The request remains pending until a loop has
+        // run.
         QTimer::singleShot(0, qApp, &QApplication::quit);
         QApplication::exec();
     }
@@ -66,9 +67,9 @@ private Q_SLOTS:
         row("nothing", QStringList(), false, "office", true);
         row("scene", QStringList{"--demo", "fleet:20"}, true, "fleet:20", true);
         row("no demo", QStringList{"--no-demo"}, false, "office", true);
-        row("option behind demo", QStringList{"--demo", "--help"}, true, "office", true);
+        row("option after demo", QStringList{"--demo", "--help"}, true, "office", true);
         row("unknown option", QStringList{"--frobnicate"}, false, "office", false);
-        row("stray word", QStringList{"office"}, false, "office", false);
+        row("unexpected argument", QStringList{"office"}, false, "office", false);
     }
 
     void readsTheCommandLine()
@@ -80,7 +81,7 @@ private Q_SLOTS:
         QTEST(commandLine.error.isEmpty(), "understood");
     }
 
-    void aSecondInstanceSaysSoAndEndsWith0()
+    void aSecondInstanceShowsAMessageAndEndsWith0()
     {
         const QTemporaryDir directory;
         CLocalConfig first(directory.path());
@@ -94,19 +95,19 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         sdk::SdkLibraries libraries;
-        QString complaint;
-        QVERIFY(!bindDeviceLibraries(folder.path(), libraries, complaint)); // no file, no complaint
-        QVERIFY(complaint.isEmpty());
+        QString error;
+        QVERIFY(!bindDeviceLibraries(folder.path(), libraries, error)); // without a file there is no error
+        QVERIFY(error.isEmpty());
         QFile file(folder.filePath(bindingFileName));
         QVERIFY(file.open(QFile::WriteOnly));
         file.write("[network]\nfile = absent.so\n");
         file.close();
-        QVERIFY(bindDeviceLibraries(folder.path(), libraries, complaint));
-        QVERIFY2(complaint.contains("absent.so") && complaint.contains("NetInit"), qPrintable(complaint));
+        QVERIFY(bindDeviceLibraries(folder.path(), libraries, error));
+        QVERIFY2(error.contains("absent.so") && error.contains("NetInit"), qPrintable(error));
         QVERIFY(!libraries.net);
     }
 
-    void aBadSceneIsExplained()
+    void anInvalidSceneIsExplained()
     {
         const QString path = QTemporaryDir().filePath("scene.json");
         QTest::ignoreMessage(QtCriticalMsg, QRegularExpression("cannot be opened: .*scene.json"));

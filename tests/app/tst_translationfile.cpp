@@ -5,37 +5,37 @@
 #include <QTest>
 #include <QTranslator>
 
-/// A file of a language is one that others may have made, copied or cut short.
+/// Translation files may come from other sources, or be truncated.
 class TestTranslationFile : public QObject
 {
     Q_OBJECT
 private:
-    QByteArray m_sound;
+    QByteArray m_valid;
 
 private Q_SLOTS:
     void initTestCase()
     {
-        m_sound = fileContents(TRANSLATION);
-        QVERIFY(m_sound.size() > 1000);
+        m_valid = fileContents(TRANSLATION);
+        QVERIFY(m_valid.size() > 1000);
     }
 
-    void theProgramsOwnAreSound()
+    void theApplicationsFileIsValid()
     {
-        QVERIFY(isSoundTranslation(m_sound));
+        QVERIFY(isSoundTranslation(m_valid));
         QTranslator translator;
         QVERIFY(loadTranslation(translator, TRANSLATION));
         QVERIFY(!translator.isEmpty());
     }
 
-    void aCutOneIsNot()
+    void aTruncatedFileIsInvalid()
     {
-        // All of its texts are there when it is cut right before the rules of plurals, which not every
-        // language has: such a file is as good as one that never had them.
+        // A file that is truncated right before the plural rules is complete: not every language has such
+        // rules.
         constexpr char pluralRules = '\x88';
-        for (qsizetype size = 0; size < m_sound.size(); ++size) {
-            if (m_sound.at(size) == pluralRules && m_sound.size() - size < 100)
+        for (qsizetype size = 0; size < m_valid.size(); ++size) {
+            if (m_valid.at(size) == pluralRules && m_valid.size() - size < 100)
                 continue;
-            QVERIFY2(!isSoundTranslation(m_sound.left(size)), qPrintable(QString::number(size)));
+            QVERIFY2(!isSoundTranslation(m_valid.left(size)), qPrintable(QString::number(size)));
         }
     }
 
@@ -45,7 +45,7 @@ private Q_SLOTS:
         QTranslator translator;
         QVERIFY(!loadTranslation(translator, directory.filePath("none.qm")));
         const QString damaged = directory.filePath("damaged.qm");
-        QVERIFY(writeFile(damaged, m_sound.left(m_sound.size() / 2)));
+        QVERIFY(writeFile(damaged, m_valid.left(m_valid.size() / 2)));
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("is damaged"));
         QVERIFY(!loadTranslation(translator, damaged));
         QVERIFY(translator.isEmpty());

@@ -24,8 +24,8 @@ private:
 private Q_SLOTS:
     void init() { m_directory = std::make_unique<QTemporaryDir>(); }
 
-    /// Everything else in the file stays, also keys of other versions.
-    void textsOutliveTheProgram()
+    /// Other contents of the file are kept, including keys of other versions.
+    void stringsAreStoredPersistently()
     {
         QVERIFY(writeFile(path(), "[searchConfig]\nendIP=10.0.0.9\n[view]\ntab=3\nnewer=kept\n"));
         {
@@ -33,8 +33,8 @@ private Q_SLOTS:
             QCOMPARE(memory.text("tab"), "3");
             memory.keep("tab", "1");
             memory.keep("deviceColumns", "-mac name:180 ipport");
-            QCOMPARE(memory.text("tab"), "1"); // at once
-            QCOMPARE(onDisk("view/tab"), "3"); // a moment later, with further texts
+            QCOMPARE(memory.text("tab"), "1"); // immediately
+            QCOMPARE(onDisk("view/tab"), "3"); // written later, together with other strings
         }
         const ViewMemory memory(path());
         QCOMPARE(memory.text("tab"), "1");
@@ -43,7 +43,7 @@ private Q_SLOTS:
         QCOMPARE(onDisk("searchConfig/endIP"), "10.0.0.9");
     }
 
-    void textsAreWrittenByThemselves()
+    void stringsAreWrittenAutomatically()
     {
         const CLocalConfig config(m_directory->path());
         ViewMemory memory(config.settingsPath());
@@ -52,15 +52,15 @@ private Q_SLOTS:
         QCOMPARE(config.getSearchConfigLocalDomain(), 1);
     }
 
-    void badTextsReadAsEmpty_data()
+    void invalidStringsReadAsEmpty_data()
     {
         const auto row = dataTable<QByteArray>({"value"});
         row("a list", "a, b");
-        row("a type of the toolkit", "@Invalid()");
+        row("a type of Qt", "@Invalid()");
         row("too long", QByteArray(5000, 'x'));
     }
 
-    void badTextsReadAsEmpty()
+    void invalidStringsReadAsEmpty()
     {
         QFETCH(const QByteArray, value);
         QVERIFY(writeFile(path(), "[view]\ntab=" + value + "\norder=-name\n"));
@@ -69,8 +69,8 @@ private Q_SLOTS:
         QCOMPARE(memory.text("order"), "-name");
     }
 
-    /// A file with these texts only would count as complete, without the defaults of all other settings.
-    void noFileIsMade()
+    /// A file with only these strings would count as complete and lack the defaults of all other settings.
+    void noFileIsCreated()
     {
         {
             ViewMemory memory(path());
@@ -79,7 +79,7 @@ private Q_SLOTS:
         QVERIFY(QDir(m_directory->path()).isEmpty());
     }
 
-    void aFullDiskIsReportedOnceAndTriedAgain()
+    void aFullDiskIsReportedOnceAndRetried()
     {
         const CLocalConfig config(m_directory->path());
         ViewMemory memory(path());

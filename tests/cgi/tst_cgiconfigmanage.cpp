@@ -181,7 +181,7 @@ private Q_SLOTS:
         row("line ends", "a\r\n\nb\n", QStringList{"a", "", "b"});
         row("long line", QString(500, 'x') + "\n" + QString(501, 'y'),
             QStringList{QString(500, 'x'), QString(500, 'y'), "y"});
-        row("letter of two parts", QString(499, 'x') + key, QStringList{QString(499, 'x'), key});
+        row("character of two parts", QString(499, 'x') + key, QStringList{QString(499, 'x'), key});
         row("too many lines", QString("\n").repeated(100'001),
             QStringList(100'000, "") + QStringList("…（内容过长，已截断）"));
     }

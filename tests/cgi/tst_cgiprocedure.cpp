@@ -271,7 +271,7 @@ private Q_SLOTS:
         };
         const QByteArray ok = "HTTP/1.1 200 OK\r\n";
         row("no status line", sending("hello\r\n\r\nwhat is HTTP?"), "Error:");
-        row("body cut short", sending(ok + "Content-Length: 1000\r\n\r\nbeginning"), "Error:");
+        row("truncated body", sending(ok + "Content-Length: 1000\r\n\r\nbeginning"), "Error:");
         const QByteArray four = "Connection: close\r\nContent-Length: 4\r\n\r\n";
         row("redirection", sending("HTTP/1.1 302 Found\r\nLocation: /elsewhere\r\n" + four + "gone"),
             "Error:服务器连接失败");
@@ -317,7 +317,7 @@ private Q_SLOTS:
         // staysOpen: the connection of the device
         // isStopped: by the user, as soon as something is in the file
         const auto row = dataTable<bool, bool>({"staysOpen", "isStopped"});
-        row("cut short", false, false);
+        row("truncated", false, false);
         row("too slow", true, false);
         row("stopped", true, true);
     }

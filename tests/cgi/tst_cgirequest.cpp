@@ -15,7 +15,7 @@ private Q_SLOTS:
         const auto row = dataTable<QString, QByteArray>({"path", "encoded"});
         row("plain", ":80/cgi-bin/a.cgi?action=read&name=time", ":80/cgi-bin/a.cgi?action=read&name=time");
         row("index in brackets", "/cgi-bin/a?item[0].name=x", "/cgi-bin/a?item[0].name=x");
-        row("blank", "/cgi-bin/a b?c=d e", "/cgi-bin/a%20b?c=d%20e");
+        row("space", "/cgi-bin/a b?c=d e", "/cgi-bin/a%20b?c=d%20e");
         row("Chinese", "/cgi-bin/a?n=东", "/cgi-bin/a?n=%E4%B8%9C");
         // A lone percent sign shows that the input is not encoded.
         row("lone percent sign", "/cgi-bin/a?n=50%&m=%41", "/cgi-bin/a?n=50%25&m=%2541");
@@ -83,8 +83,8 @@ private Q_SLOTS:
         row("GBK", "text/plain; charset=GBK", gbk, text);
         row("GB2312 in quotes", "text/html; Charset=\"gb2312\"; x=y", gbk, text);
         row("UTF-16 with a mark", "text/plain", "\xFF\xFE" + utf16, text);
-        row("UTF-16 without a letter beyond ASCII", "text/plain; charset=utf-16le", QByteArray("O\0K\0", 4),
-            "OK");
+        row("UTF-16 without a character beyond ASCII", "text/plain; charset=utf-16le",
+            QByteArray("O\0K\0", 4), "OK");
         row("not announced", "text/plain", "a=\xB1", QString("a=") + QChar(QChar::ReplacementCharacter));
         row("announced as nothing known", "text/plain; charset=thing", "a=\xB1",
             QString("a=") + QChar(QChar::ReplacementCharacter));

@@ -1,8 +1,8 @@
-# Reads the four documents in DOCUMENTS back as text. A font that cannot be embedded, or a glyph without its
-# character, leaves pages that look right but hold no text to search.
+# Extracts the text of the four documents in DOCUMENTS. Without an embedded font or the characters of its glyphs, pages
+# look correct but contain no searchable text.
 cmake_minimum_required(VERSION 3.25)
 
-# Name of the document, a text of its title, and a text that its last lines must hold.
+# Name of the document, part of its title, and a text that its last lines must contain.
 set(expected
     "manual_en_US|User manual|F5"
     "manual_zh_CN|用户手册|F5"
@@ -14,15 +14,15 @@ foreach(line IN LISTS expected)
     list(POP_FRONT parts name)
     set(document ${DOCUMENTS}/${name}.pdf)
     execute_process(COMMAND pdftotext -enc UTF-8 ${document} -
-        OUTPUT_VARIABLE text ERROR_VARIABLE complaint RESULT_VARIABLE result)
+        OUTPUT_VARIABLE text ERROR_VARIABLE error RESULT_VARIABLE result)
     if(NOT result EQUAL 0)
-        message(SEND_ERROR "${document} cannot be read: ${complaint}")
+        message(SEND_ERROR "${document} cannot be read: ${error}")
         continue()
     endif()
     foreach(part IN LISTS parts)
         string(FIND "${text}" "${part}" position)
         if(position EQUAL -1)
-            message(SEND_ERROR "${document} does not hold the text \"${part}\"")
+            message(SEND_ERROR "${document} does not contain the text \"${part}\"")
         endif()
     endforeach()
     if(NOT text MATCHES "1 ?/ ?[1-9]")

@@ -40,7 +40,7 @@ private Q_SLOTS:
         }
     }
 
-    void aFullDiskLeavesTheOldFileAlone()
+    void aFullDiskKeepsTheOldFile()
     {
         const QString path = m_folder.filePath("full");
         QCOMPARE(replaceFile(path, "old"), "");
@@ -53,7 +53,7 @@ private Q_SLOTS:
         QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files), before);
     }
 
-    void aFileStaysWhatItIs()
+    void linksAndPermissionsAreKept()
     {
         const QString path = m_folder.filePath("private");
         const QString link = m_folder.filePath("link");

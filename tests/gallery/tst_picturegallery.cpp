@@ -204,7 +204,7 @@ private Q_SLOTS:
         devices().release();
         QTRY_VERIFY(!m_batches->isRunning());
         QCoreApplication::processEvents();
-        QCOMPARE(cells(), QStringList("gate: waiting")); // what came of it before does not count
+        QCOMPARE(cells(), QStringList("gate: waiting")); // the earlier result is not shown
         m_gallery->clear();
         QTRY_COMPARE(temporaryFolders(), before); // including files that were written meanwhile
     }

@@ -1,5 +1,5 @@
-// Fails when a file of one folder includes a file of another that it may not see. The link graph says the
-// same, but cannot notice a header that is included and needs no linking.
+// Fails if a file includes a header of a folder that its own folder must not depend on. The link graph does
+// not cover headers that need no linking.
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -18,10 +18,10 @@ namespace {
 struct Folder
 {
     std::string_view name;
-    std::vector<std::string_view> mayInclude; ///< besides itself and its own internal/
+    std::vector<std::string_view> mayInclude; ///< in addition to itself and its internal/
 };
 
-/// The arrows of docs/architecture.md. "*" stands for every folder.
+/// The dependencies of docs/architecture.md. "*" stands for every folder.
 const std::vector<Folder> &folders()
 {
     static const std::vector<Folder> table = {
@@ -104,7 +104,7 @@ const std::vector<Folder> &folders()
     return table;
 }
 
-/// The folder of the table that `path` (from the top of the project) lies in: the longest name that fits.
+/// The folder of the table that contains `path` (relative to the project): the longest matching name.
 const Folder *folderOf(std::string_view path)
 {
     const Folder *found = nullptr;
@@ -117,24 +117,24 @@ const Folder *folderOf(std::string_view path)
     return found;
 }
 
-/// What is wrong with `file` including `included`, if anything is.
+/// The reason why `file` must not include `included`; empty if it may.
 std::optional<std::string> objection(std::string_view file, std::string_view included)
 {
     const Folder *from = folderOf(file);
     if (!from)
-        return "the file lies in a folder that the table in tests/lint/architecture.cpp does not know";
+        return "the folder of the file is missing in the table of tests/lint/architecture.cpp";
     const Folder *to = folderOf(included);
     if (!to || to == from)
-        return std::nullopt; // a file next to it, or of a library
+        return std::nullopt; // a file of the same folder or of an external library
     const auto isAllowed = [to](std::string_view name) {
         return name == "*" || name == to->name;
     };
     if (std::none_of(from->mayInclude.begin(), from->mayInclude.end(), isAllowed))
-        return std::string(from->name) + "/ may not see " + std::string(to->name) + "/";
+        return std::string(from->name) + "/ must not include " + std::string(to->name) + "/";
     // Only the folder itself and its tests include files of internal/.
     const bool isTest = from->name == "tests" || from->name == "benchmarks" || from->name == "fuzz";
     if (!isTest && included.find("/internal/") != std::string_view::npos)
-        return "internal/ is for " + std::string(to->name) + "/ alone";
+        return "internal/ is private to " + std::string(to->name) + "/";
     return std::nullopt;
 }
 
@@ -173,11 +173,11 @@ int checkProject(const fs::path &root)
         }
     }
     if (files == 0)
-        std::cerr << root << " holds no source\n";
+        std::cerr << root << " contains no source\n";
     return faults == 0 && files > 0 ? 0 : 1;
 }
 
-/// The check itself, on includes that must pass and includes that must not.
+/// Tests the check with allowed and forbidden includes.
 int selfTest()
 {
     struct Case
@@ -203,7 +203,7 @@ int selfTest()
     int faults = 0;
     for (const Case &one : cases) {
         if (objection(one.file, one.included).has_value() == one.allowed) {
-            std::cerr << one.file << " including " << one.included << " was judged wrongly\n";
+            std::cerr << one.file << " including " << one.included << " gives the wrong result\n";
             ++faults;
         }
     }

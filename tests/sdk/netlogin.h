@@ -1,11 +1,11 @@
-// A login of the newer kind.
+// A login with NetLoginSecure.
 #pragma once
 
 #include "sdk/blocktext.h"
 #include "sdk/loginblocks.h"
 #include "sdk/netlibrary.h"
 
-/// The handle of the session, 0 for a failure; -1 for one that names another error than the library's last.
+/// The handle of the session; 0 on failure; -1 if the reported error is not the library's last error.
 inline sdk::LLONG logIn(sdk::NetLibrary &net, const char *address, const char *account, const char *password,
                         int port = 80)
 {

@@ -21,7 +21,7 @@ struct NetOperation
     using Run = std::function<bool(sdk::NetLibrary &net, sdk::LLONG session, std::chrono::milliseconds wait)>;
 
     const char *name;
-    bool isHarmless; ///< a device stays as it is
+    bool isHarmless; ///< the device is not changed
     Run run;
 };
 
@@ -52,7 +52,7 @@ Item requestedItem()
     return item;
 }
 
-/// `file` is what an upgrade sends.
+/// `file` is the firmware file of the upgrade.
 inline QList<NetOperation> netOperations(const QByteArray &file)
 {
     using namespace sdk;

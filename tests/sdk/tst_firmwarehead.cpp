@@ -1,4 +1,4 @@
-// Heads and names of firmware files, also of files that others have made.
+// Headers and names of firmware files, including invalid ones.
 #include "sdk/firmwarehead.h"
 #include "tests/datatable.h"
 
@@ -27,7 +27,7 @@ class FirmwareHeadTest : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void heads_data()
+    void readsHeaders_data()
     {
         const auto addRow =
             dataTable<QByteArray, Kind, QByteArray, QByteArray>({"bytes", "kind", "models", "version"});
@@ -37,11 +37,11 @@ private Q_SLOTS:
         };
         const QByteArray first = "BRELM-FIRMWARE 1\n";
         const QByteArray version = "version=2.900.0\n";
-        row("whole", first + "model=A-1, B-2230-IR\n" + version + "\n\0\xff", Kind::Known, "A-1,B-2230-IR",
+        row("complete", first + "model=A-1, B-2230-IR\n" + version + "\n\0\xff", Kind::Known, "A-1,B-2230-IR",
             "2.900.0");
         row("other line ends", "BRELM-FIRMWARE 1\r\nmodel=A-1\r\nversion=1.2\r\n\r\n", Kind::Known, "A-1",
             "1.2");
-        row("letters behind the version", first + "version=V3.000.1.R\n\n", Kind::Known, "", "3.000.1.R");
+        row("characters after the version", first + "version=V3.000.1.R\n\n", Kind::Known, "", "3.000.1.R");
         row("nothing", "", Kind::Unknown);
         row("other file", QByteArray("PK\x03\x04", 4), Kind::Unknown);
         row("other generation", "BRELM-FIRMWARE 2\n" + version + "\n", Kind::Damaged);
@@ -56,7 +56,7 @@ private Q_SLOTS:
         row("too long", first + "x=" + QByteArray(4096, '1') + "\n" + version + "\n", Kind::Damaged);
     }
 
-    void heads()
+    void readsHeaders()
     {
         QFETCH(QByteArray, bytes);
         QFETCH(Kind, kind);
@@ -66,10 +66,10 @@ private Q_SLOTS:
         QTEST(QByteArray::fromStdString(reading.head.version), "version");
     }
 
-    void names_data()
+    void readsFileNames_data()
     {
-        // told: "models version", empty for nothing
-        const auto row = namedTable<QByteArray, QByteArray>({"name", "told"});
+        // reported: "models version"; empty: nothing
+        const auto row = namedTable<QByteArray, QByteArray>({"name", "reported"});
         row("B-2230-IR_2.900.0.bin", "B-2230-IR 2.900.0");
         row("A-1,B-2_v2.900.0_20240506.img", "A-1,B-2 2.900.0");
         row("A-1_V1.2", "A-1 1.2");
@@ -84,15 +84,15 @@ private Q_SLOTS:
         row("", "");
     }
 
-    void names()
+    void readsFileNames()
     {
         QFETCH(QByteArray, name);
         const std::optional<FirmwareHead> head = firmwareHeadOfName(name.toStdString());
         QTEST(head ? line(head->models) + ' ' + QByteArray::fromStdString(head->version) : QByteArray(),
-              "told");
+              "reported");
     }
 
-    void versions_data()
+    void comparesVersions_data()
     {
         const auto row = namedTable<QByteArray, QByteArray, bool>({"one", "other", "isSame"});
         row("3.000.1", "v3.000.1 ", true);
@@ -107,7 +107,7 @@ private Q_SLOTS:
         row("new", "new", false);
     }
 
-    void versions()
+    void comparesVersions()
     {
         QFETCH(QByteArray, one);
         QFETCH(QByteArray, other);

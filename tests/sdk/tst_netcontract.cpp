@@ -1,5 +1,5 @@
-// What every provider of the network library does. Runs on the demo site, and in the network of a simulated
-// site (scripts/lab) on devices that are asked by open standards.
+// Rules of every implementation of the network library. Runs on the demo site, and on simulated devices with
+// open standards in a separate network (scripts/lab).
 #include "sdk/blocktext.h"
 #include "sdk/callstop.h"
 #include "sdk/clock.h"
@@ -32,7 +32,7 @@ const char *const returning = "192.168.1.16";
 const char *const soundless = "192.168.1.17";
 const char *const moving = "192.168.1.18";
 const char *const movingToo = "192.168.1.19";
-const char *const nobody = "192.168.1.99";
+const char *const unusedAddress = "192.168.1.99";
 
 constexpr auto slowness = 600ms; // of the slow device
 constexpr auto usualWait = 5000ms;
@@ -47,7 +47,7 @@ QString nameOf(NetError error)
     return nameOf(static_cast<std::uint32_t>(error));
 }
 
-/// Counts the answers of a search.
+/// Counts the responses of a search.
 struct SearchCounter
 {
     static void take(std::int64_t, const SearchAnswer *, void *user)
@@ -59,11 +59,11 @@ struct SearchCounter
     }
 
     std::atomic<int> count = 0;
-    std::atomic<int> late = 0; ///< after the end
+    std::atomic<int> late = 0; ///< received after the end
     std::atomic<bool> hasEnded = false;
 };
 
-/// What a stream has delivered.
+/// Records the data and the end of a stream.
 class StreamWatcher
 {
 public:
@@ -125,13 +125,13 @@ private:
         return logIn(*m_net, address, account, password);
     }
 
-    /// The outcome of an operation: its error, "done" for none.
+    /// The result of an operation: its error code, or "done".
     QString outcome(const NetOperation &operation, LLONG session, std::chrono::milliseconds wait)
     {
         return operation.run(*m_net, session, wait) ? QString("done") : nameOf(m_net->NetGetLastError());
     }
 
-    /// The outcomes of all operations that are not `expected`, with the names of the operations.
+    /// The names and results of all operations whose result is not `expected`.
     QStringList otherOutcomes(LLONG session, std::chrono::milliseconds wait, const QString &expected)
     {
         QStringList others;
@@ -143,13 +143,13 @@ private:
         return others;
     }
 
-    /// The devices of the scene are numbered alike.
+    /// The last parts of a device's MAC and address are equal.
     static std::string macOf(const std::string &address)
     {
         return "02:1a:c5:00:0c:" + address.substr(address.rfind('.') + 1);
     }
 
-    /// A device may answer for a moment after it was asked to reboot.
+    /// A device may still respond for a moment after a reboot request.
     bool isOffline(LLONG session)
     {
         return !m_net->NetIsDeviceAlive(session, 300ms) &&
@@ -187,7 +187,7 @@ private Q_SLOTS:
     void init() { QVERIFY(m_net->NetInit()); }
     void cleanup() { m_net->NetCleanup(); }
 
-    void worksFromInitToCleanup()
+    void operationsRequireInit()
     {
         const LLONG session = login(good);
         QVERIFY(session > 0);
@@ -200,7 +200,7 @@ private Q_SLOTS:
         for (const NetOperation &operation : std::as_const(m_operations))
             QVERIFY2(!operation.run(*m_net, session, usualWait), operation.name);
         QVERIFY(m_net->NetInit());
-        QVERIFY(!m_net->NetIsDeviceAlive(session, usualWait)); // it has ended
+        QVERIFY(!m_net->NetIsDeviceAlive(session, usualWait)); // the session has ended
         QVERIFY(login(good) > 0);
     }
 
@@ -210,10 +210,10 @@ private Q_SLOTS:
             {"address", "account", "password", "errors"});
         const QStringList wrong = {nameOf(NetError::WrongPassword), nameOf(NetError::WrongPasswordSecure),
                                    nameOf(NetError::NoSuchAccount)};
-        row("right", good, "admin", "Contract-1", {"done"});
+        row("correct", good, "admin", "Contract-1", {"done"});
         row("wrong password", good, "admin", "Contract-9", wrong);
         row("unknown account", good, "someone", "Contract-1", wrong);
-        row("nobody", nobody, "admin", "Contract-1", {nameOf(NetError::ConnectTimeout)});
+        row("no device", unusedAddress, "admin", "Contract-1", {nameOf(NetError::ConnectTimeout)});
         row("refused", refusing, "admin", "Contract-1", {nameOf(NetError::ConnectFailed)});
     }
 
@@ -230,7 +230,7 @@ private Q_SLOTS:
         QVERIFY(!m_net->NetLogout(session));
     }
 
-    void refusesHandlesThatAreNone()
+    void refusesInvalidHandles()
     {
         const LLONG session = login(good);
         QVERIFY(m_net->NetLogout(session));
@@ -253,7 +253,7 @@ private Q_SLOTS:
         }
     }
 
-    void namesWhatIsNotSupported()
+    void reportsUnsupportedOperations()
     {
         const LLONG session = login(good);
         std::array<char, 1000> block{};
@@ -275,14 +275,14 @@ private Q_SLOTS:
         QCOMPARE(nameOf(m_net->NetGetLastError()), expected);
     }
 
-    void namesTheSoundOfADevice_data()
+    void reportsWhetherADeviceHasSound_data()
     {
         const auto row = dataTable<QByteArray, bool>({"address", "hasSound"});
         row("sound", good, true);
         row("none", soundless, false);
     }
 
-    void namesTheSoundOfADevice()
+    void reportsWhetherADeviceHasSound()
     {
         QFETCH(const QByteArray, address);
         QFETCH(const bool, hasSound);
@@ -311,7 +311,7 @@ private Q_SLOTS:
         }
     }
 
-    void servesTwoThreadsOnOneSession()
+    void twoThreadsCanUseOneSession()
     {
         const LLONG session = login(good);
         QVERIFY(session > 0);
@@ -329,7 +329,7 @@ private Q_SLOTS:
         QCOMPARE(other.get().join(", "), QString());
     }
 
-    void aSlowAnswerIsAwaitedForItsTime()
+    void aSlowResponseIsAwaitedUntilTheTimeout()
     {
         const LLONG session = login(slow);
         QVERIFY(session > 0);
@@ -354,7 +354,7 @@ private Q_SLOTS:
         QElapsedTimer timer;
         timer.start();
         do {
-            QVERIFY(m_net->NetCancelCalls(session)); // again, since the call may not have begun
+            QVERIFY(m_net->NetCancelCalls(session)); // repeated, because the call may not have started yet
         } while (call.wait_for(5ms) != std::future_status::ready);
         QVERIFY2(timer.elapsed() < slowness.count() / 2, qPrintable(QString::number(timer.elapsed())));
         QCOMPARE(call.get(), nameOf(NetError::Cancelled));
@@ -381,21 +381,21 @@ private Q_SLOTS:
         QVERIFY(call.get() != "done");
     }
 
-    void aChangeOfAnAddressEnds_data()
+    void anAddressChangeCanBeEnded_data()
     {
-        const auto row = dataTable<QByteArray, bool, int>({"device", "isLate", "looks"});
+        const auto row = dataTable<QByteArray, bool, int>({"device", "isLate", "checks"});
         row("stopped before it is sent", good, false, 0);
-        row("late before it is sent", good, true, 0);
-        row("stopped while the device is awaited", moving, false, 1);
-        row("late while the device is awaited", movingToo, true, 1);
+        row("deadline before it is sent", good, true, 0);
+        row("stopped while waiting for the device", moving, false, 1);
+        row("deadline while waiting for the device", movingToo, true, 1);
     }
 
-    /// The devices take their time, and on real sockets nobody reaches them at the new address.
-    void aChangeOfAnAddressEnds()
+    /// The devices respond slowly. On real sockets they are not reachable at the new address.
+    void anAddressChangeCanBeEnded()
     {
         QFETCH(const QByteArray, device);
         QFETCH(const bool, isLate);
-        QFETCH(const int, looks); // of the provider, before the time is over
+        QFETCH(const int, checks); // checks of the deadline before it expires
         ModifyDeviceInput change{};
         change.size = sizeof(change);
         change.device.ipVersion = 4;
@@ -410,22 +410,22 @@ private Q_SLOTS:
         std::stop_source stop;
         int seen = 0;
         const CallStop callStop(stop.get_token(), [&] {
-            if (seen++ < looks)
+            if (seen++ < checks)
                 return false;
             if (!isLate)
                 stop.request_stop();
             return isLate;
         });
-        if (looks == 0 && !isLate)
+        if (checks == 0 && !isLate)
             stop.request_stop();
         QElapsedTimer timer;
         timer.start();
         QVERIFY(!m_net->NetModifyDeviceBySearch(change, output, usualWait));
         const QString error = nameOf(m_net->NetGetLastError());
         QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
-        if (looks == 0) {
+        if (checks == 0) {
             QCOMPARE(error, nameOf(NetError::Cancelled));
-            QVERIFY(login(device.constData()) > 0); // where it was
+            QVERIFY(login(device.constData()) > 0); // at its old address
         } else {
             const QStringList unanswered = {nameOf(NetError::ConnectTimeout),
                                             nameOf(NetError::NetworkFailure), nameOf(NetError::Unconfirmed)};
@@ -433,7 +433,7 @@ private Q_SLOTS:
         }
     }
 
-    void aDeviceThatIsOfflineIsNamedByEveryOperation()
+    void everyOperationReportsAnOfflineDevice()
     {
         const LLONG session = login(leaving);
         QVERIFY(session > 0 && m_net->NetIsDeviceAlive(session, usualWait));
@@ -446,7 +446,7 @@ private Q_SLOTS:
         first.size = sizeof(first);
         first.port = 80;
         setBlockText(first.mac, "02:1a:c5:00:0c:99");
-        setBlockText(first.address, nobody);
+        setBlockText(first.address, unusedAddress);
         setBlockText(first.account, "admin");
         setBlockText(first.password, "Contract-1");
         DeviceRequestOutput output = {.size = sizeof(output)};
@@ -457,7 +457,7 @@ private Q_SLOTS:
         change.device.ipVersion = 4;
         change.device.port = 80;
         setBlockText(change.device.mac, "02:1a:c5:00:0c:99");
-        setBlockText(change.device.currentAddress, nobody);
+        setBlockText(change.device.currentAddress, unusedAddress);
         setBlockText(change.device.address, "192.168.1.98");
         setBlockText(change.device.subnetMask, "255.255.255.0");
         QVERIFY(!m_net->NetModifyDeviceBySearch(change, output, 300ms));
@@ -480,7 +480,7 @@ private Q_SLOTS:
         QVERIFY(m_net->NetIsDeviceAlive(later, usualWait));
     }
 
-    void anotherPasswordEndsTheSession()
+    void aChangedPasswordEndsTheSession()
     {
         const LLONG session = login(changingPassword);
         QVERIFY(session > 0);
@@ -490,7 +490,7 @@ private Q_SLOTS:
         QVERIFY(login(changingPassword, "admin", "Contract-1-2") > 0);
     }
 
-    void streamsFromItsBeginToItsStop()
+    void aStreamDeliversDataUntilItsStop()
     {
         const LLONG session = login(good);
         const std::int64_t stream = m_net->NetStartRealStream(session, 0, 0, LiveStreamKind::Main);
@@ -499,7 +499,7 @@ private Q_SLOTS:
         QVERIFY(m_net->NetSetRealDataCallback(stream, &StreamWatcher::take, &watcher, 1));
         QVERIFY(m_net->NetStreamFollowUp(stream, 0, 0));
         QTRY_VERIFY_WITH_TIMEOUT(watcher.calls() > 5, 20000);
-        QCOMPARE(watcher.begin(), QByteArray("\x1a\x45\xdf\xa3")); // the container's
+        QCOMPARE(watcher.begin(), QByteArray("\x1a\x45\xdf\xa3")); // the start of the container
         QVERIFY(m_net->NetStopRealStream(stream));
         const int calls = watcher.calls();
         QVERIFY(!m_net->NetStopRealStream(stream));
@@ -508,7 +508,7 @@ private Q_SLOTS:
         QCOMPARE(watcher.ends(), QList<int>());
     }
 
-    void saysWhyAStreamHasEnded()
+    void theEndOfAStreamHasAReason()
     {
         const LLONG session = login(dropping);
         const std::int64_t stream = m_net->NetStartRealStream(session, 0, 0, LiveStreamKind::Main);
@@ -519,11 +519,11 @@ private Q_SLOTS:
                                   20000);
         QVERIFY(m_net->NetIsDeviceAlive(session, usualWait));
         QVERIFY(watcher.calls() > 1 && !watcher.isAfterEnd());
-        QVERIFY(m_net->NetStopRealStream(stream)); // its handle stays until then
+        QVERIFY(m_net->NetStopRealStream(stream)); // the handle is valid until then
         QCOMPARE(watcher.ends().size(), 1);
     }
 
-    void noAnswerComesAfterASearch()
+    void noResponseIsReportedAfterASearch()
     {
         SearchCounter first;
         SearchCounter second;

@@ -177,7 +177,7 @@ private Q_SLOTS:
         // kept: below the home folder
         const auto row = dataTable<bool, bool, QString>({"isFolderGone", "isFolderInTheWay", "kept"});
         row("in its file", false, false, "work/list.xlsx");
-        row("beside it", false, true, "work/list_Result.xlsx");
+        row("next to it", false, true, "work/list_Result.xlsx");
         row("among the documents, which were not there", true, false, "Documents/list_Result.xlsx");
     }
 

@@ -58,7 +58,7 @@ private Q_SLOTS:
         row("shared, with an escape", "<c r='A1' t='s'><v>3</v></c>", "a\rb");
         row("shared, not there", "<c r='A1' t='s'><v>5</v></c>", "");
         row("inline", "<c r='A1' t='inlineStr'><is><t>in <![CDATA[<line>]]></t></is></c>", "in <line>");
-        row("whole number", "<c r='A1'><v>37777</v></c>", "37777");
+        row("integer", "<c r='A1'><v>37777</v></c>", "37777");
         row("number with noise", "<c r='A1'><v>0.30000000000000004</v></c>", "0.3");
         row("number as a power", "<c r='A1'><v>1.5E3</v></c>", "1500");
         row("true", "<c r='A1' t='b'><v>1</v></c>", "TRUE");
@@ -172,7 +172,7 @@ private Q_SLOTS:
         QVERIFY(writeArchive(m_path, ordinary()));
         const QByteArray good = fileContents(m_path);
         row("empty", QByteArray(), "_rels/.rels");
-        row("cut at the end", good.chopped(1), "damaged");
+        row("truncated", good.chopped(1), "damaged");
         const QByteArray compound("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");
         row("older format", compound + QByteArray(504, '\0'), "not a workbook of the format");
         const char16_t stream[] = u"EncryptedPackage";

@@ -1,4 +1,4 @@
-# Takes the texts of the sources into a copy of the translation and looks for those that it lacks.
+# Updates a copy of the translation from the sources and reports missing strings.
 configure_file(${TRANSLATION} ${WORK} COPYONLY)
 execute_process(
     COMMAND ${LUPDATE} -silent -locations none -extensions cpp,h,qml
@@ -9,10 +9,11 @@ file(READ ${WORK} updated)
 string(REGEX MATCHALL "<message[^>]*>" messages "${updated}")
 list(LENGTH messages count)
 if(count LESS 100)
-    message(FATAL_ERROR "Only ${count} texts found: lupdate has not read the sources")
+    message(FATAL_ERROR "Only ${count} strings found: lupdate has not read the sources")
 endif()
 
-# One list item a message, so that each can be matched alone. What would split or join list items is replaced.
+# Converts each message to a list item, so that it can be matched separately. Characters that would split or join
+# list items are replaced.
 string(REPLACE ";" "," flat "${updated}")
 string(REGEX REPLACE "[][\\]" "_" flat "${flat}")
 string(REPLACE "</message>" ";" flat "${flat}")
@@ -29,7 +30,7 @@ foreach(message IN LISTS flat)
            OR message MATCHES "<(translation|numerusform)/>")
         set(fault "empty")
     else()
-        # A number that is filled in must have its place in the translation too.
+        # A translation must contain the placeholders of its source string.
         string(REGEX MATCH "<translation.*" translation "${message}")
         string(REGEX MATCHALL "%[0-9n]" places "${source}")
         foreach(place IN LISTS places)
@@ -45,6 +46,6 @@ foreach(message IN LISTS flat)
     endif()
 endforeach()
 if(faults GREATER 0)
-    message(FATAL_ERROR "${faults} texts to see to: build the target update_translations and translate them")
+    message(FATAL_ERROR "${faults} strings are not translated: build the target update_translations and fill in the translations")
 endif()
-message("${count} texts, all translated")
+message("${count} strings, all translated")

@@ -60,7 +60,7 @@ private Q_SLOTS:
         row("uninitialised", false, true, "", QStringList{"m1"});
         row("neither", false, false, "", QStringList());
         row("text", true, true, "cam 1", QStringList{"m0", "m2"});
-        row("type in small letters", true, true, "nvr", QStringList{"m0"});
+        row("type in lower case", true, true, "nvr", QStringList{"m0"});
         row("not a regular expression", true, true, ".*", QStringList());
         row("text among the initialised", true, false, "168", QStringList{"m0"});
     }

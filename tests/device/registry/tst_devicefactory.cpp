@@ -12,8 +12,8 @@
 
 namespace {
 
-/// Place of a virtual function in its class's table, as calls of other programs find it: the Itanium ABI
-/// keeps it in the pointer to the function.
+/// The index of a virtual function in the table of its class. The Itanium ABI stores it in the pointer to the
+/// function.
 template<typename Function>
 int slotOf(Function function)
 {
@@ -29,7 +29,7 @@ auto slotsOf(Functions... functions)
     return std::array{slotOf(functions)...};
 }
 
-/// A back end that notes what it was called with.
+/// A back end that records its calls.
 class NotingBackEnd : public CDeviceBase
 {
     Q_OBJECT
@@ -79,8 +79,8 @@ private Q_SLOTS:
         m_backEnd->upgrading = false;
     }
 
-    /// Back ends that were built apart from the program find the operations at these places.
-    void theOperationsOfABackEndKeepTheirSlots()
+    /// Separately built back ends depend on these indexes.
+    void operationsOfABackEndKeepTheirIndexes()
     {
         constexpr int slotsOfQObject = 12;
         const std::array slots = slotsOf(
@@ -147,7 +147,7 @@ private Q_SLOTS:
         QCOMPARE(unrelayed, 0);
     }
 
-    void forwardsToTheFamilyThatIsNamed()
+    void forwardsToTheNamedFamily()
     {
         m_factory.setDefaultAccount("hik", "admin", "1");
         m_factory.setDefaultAccount("dh", "root", "2");
@@ -165,7 +165,7 @@ private Q_SLOTS:
             row(family, QString(family));
     }
 
-    /// Every operation that takes a family, with arguments of the right types, however many.
+    /// Calls every operation that takes a family with arguments of the correct types.
     void anUnknownOrEmptyFamilyGivesEmptyValues()
     {
         QFETCH(QString, family);

@@ -1,4 +1,4 @@
-// Notes about devices: which device they belong to, their file, and the table that shows them.
+// Notes about devices: their assignment to devices, their file, and their display in the table.
 #include "device/models/devicetablemodel.h"
 #include "device/registry/devicenotes.h"
 #include "tests/datatable.h"
@@ -22,7 +22,7 @@ Row device(const QString &mac, const QString &identity = {})
 
 } // namespace
 
-/// Rows that can be read one by one as well.
+/// A back end whose rows can also be read individually.
 class SingleRows : public RowsBackEnd
 {
     Q_OBJECT
@@ -82,10 +82,10 @@ private Q_SLOTS:
         QCOMPARE(DeviceNotes(path()).count(), isSame ? 0 : 1);
     }
 
-    void notEveryNoteIsTaken()
+    void someNotesAreRefused()
     {
         DeviceNotes notes(path());
-        const Row unnamed = device("", "10.0.0.5:80"); // the next device may have that address
+        const Row unnamed = device("", "10.0.0.5:80"); // another device may get that address
         QVERIFY(!notes.canNote(unnamed));
         QVERIFY(!notes.setNote(unnamed, "north").isEmpty());
         QVERIFY(!notes.setNote(device("m1"), QString(DeviceNotes::longestNote() + 1, 'x')).isEmpty());
@@ -116,7 +116,7 @@ private Q_SLOTS:
         row("something else", "{\"devices\": []}", "");
         row("partly", "{\"notes\": [{\"device\": \"m1\", \"text\": \"first\"}, {\"device\": 7}, 3]}",
             "first");
-        row("cut", "{\"notes\": [{\"device\": \"m1\", \"text\": \"fir", "");
+        row("truncated", "{\"notes\": [{\"device\": \"m1\", \"text\": \"fir", "");
         row("empty", "", "");
     }
 
@@ -129,7 +129,7 @@ private Q_SLOTS:
         DeviceNotes notes(path());
         QVERIFY(notes.problem().contains("notes.json"));
         QTEST(notes.noteOf(device("m1")), "first");
-        QCOMPARE(fileContents(path()), contents); // until there is something to write
+        QCOMPARE(fileContents(path()), contents); // until notes are written
         QCOMPARE(notes.setNote(device("m2"), "second"), "");
         QCOMPARE(notes.problem(), "");
         QCOMPARE(fileContents(path() + ".damaged2"), contents);
@@ -138,16 +138,16 @@ private Q_SLOTS:
         QCOMPARE(DeviceNotes(path()).noteOf(device("m2")), "second");
     }
 
-    /// It may hold notes, so it is left alone.
+    /// The file may contain notes, so it is not overwritten.
     void aFileThatCannotBeOpenedIsNotWritten()
     {
-        QVERIFY(QDir().mkpath(path())); // also for an administrator
+        QVERIFY(QDir().mkpath(path())); // not writable even for an administrator
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot read .*notes.json"));
         DeviceNotes notes(path());
         QVERIFY(notes.problem().contains("notes.json"));
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot read .*notes.json"));
         QCOMPARE(notes.setNote(device("m1"), "first"), notes.problem());
-        QVERIFY(QDir().rmdir(path())); // the disk is back
+        QVERIFY(QDir().rmdir(path())); // the file can be written again
         QVERIFY(writeFile(path(), "{\"notes\": [{\"device\": \"m2\", \"text\": \"second\"}]}"));
         QCOMPARE(notes.setNote(device("m1"), "first"), "");
         QCOMPARE(notes.noteOf(device("m2")), "second");
@@ -184,13 +184,13 @@ private Q_SLOTS:
         QCOMPARE(table.get(0).value("mac").toString(), "m2");
         table.setSearchText({});
 
-        // A search empties the list and finds the device again, at another address.
+        // A search clears the list and finds the device at another address.
         rows->ipv4.clear();
         table.refresh();
         rows->add({.address = "10.0.9.9", .mac = "m2", .type = "IPC"});
         table.refresh();
         QCOMPARE(table.get(0).value("note").toString(), "north");
-        QVERIFY(!rows->ipv4.first().toJsonObject().contains("note")); // from which list files are written
+        QVERIFY(!rows->ipv4.first().toJsonObject().contains("note")); // the rows are exported to list files
     }
 };
 

@@ -57,7 +57,7 @@ private Q_SLOTS:
         QCOMPARE(m_store->ipv4Rows().value(0).toJsonObject().value("state").toBool(), initialised);
     }
 
-    void theFirstAnswerOfADeviceWins()
+    void theFirstResponseOfADeviceCounts()
     {
         m_store->addAnswer(searchAnswer({.address = "192.168.1.64"}));
         QCOMPARE(valuesOf(m_store->row("02:1a:c5:00:40:17"),
@@ -81,7 +81,7 @@ private Q_SLOTS:
                                              .mac = numberedMac(number),
                                              .ipVersion = ipv4 ? 4 : 6}));
         }
-        for (int number = 19'990; number < 20'003; ++number) // the last three are of further devices
+        for (int number = 19'990; number < 20'003; ++number) // the last three devices exceed the limit
             QVERIFY(!m_store
                          ->addAnswer(searchAnswer({.address = number % 2 ? "fe80::1" : "192.168.1.64",
                                                    .mac = numberedMac(number),
@@ -94,7 +94,7 @@ private Q_SLOTS:
         QVERIFY(m_store->addAnswer(searchAnswer({})).added);
     }
 
-    void aRemovedDeviceStaysAwayUntilTheNextSearch()
+    void aRemovedDeviceIsNotListedUntilTheNextSearch()
     {
         const sdk::SearchAnswer ipv4 = searchAnswer({});
         const sdk::SearchAnswer ipv6 = searchAnswer({.address = "fe80::1", .ipVersion = 6});
@@ -115,7 +115,7 @@ private Q_SLOTS:
         QVERIFY(m_store->addAnswer(ipv6).added);
     }
 
-    void ipv6RowsOfOneAddressAreRemovedApart()
+    void ipv6RowsWithTheSameAddressAreRemovedSeparately()
     {
         for (int number = 0; number < 3; ++number)
             m_store->addAnswer(searchAnswer(
@@ -125,7 +125,7 @@ private Q_SLOTS:
         };
         m_store->removeIPv6Rows({"0.0.0.0:37777"});
         QCOMPARE(names(), QStringList({"1", "2"}));
-        // Neither a row that stays nor one that comes is named as the removed one was.
+        // Neither a remaining nor an added row has the name of the removed one.
         m_store->addAnswer(searchAnswer({.address = "0.0.0.0", .mac = numberedMac(3), .name = "3"}));
         QVERIFY(!m_store->changeRowNamed("0.0.0.0:37777", [](QJsonObject &) {}));
         QCOMPARE(m_store->rowNamed("0.0.0.0:37777#1").value("name").toString(), "1");
@@ -133,7 +133,7 @@ private Q_SLOTS:
         QCOMPARE(names(), QStringList({"1", "3"}));
     }
 
-    void anAddressIsThatOfTheFirstRowThatHasIt()
+    void anAddressBelongsToTheFirstRow()
     {
         const QString shared = "192.168.1.108:37777";
         const auto setAddress = [this](const QString &mac, const QString &ipport) {
@@ -168,7 +168,7 @@ private Q_SLOTS:
         QCOMPARE(rowName(m_store->ipv4Rows().value(0).toJsonObject()), name);
         QCOMPARE(m_store->row(name).value("name").toString(), "gate");
         QCOMPARE(sdk::blockText(m_store->record(name)->device.address), "192.168.1.65");
-        // Another one at the old address is not taken for it, and is found again itself.
+        // Another device at the old address is not mistaken for it, and is recognised itself.
         for (int time = 0; time < 2; ++time)
             m_store->putRow({{"ipport", name}}, searchAnswer({.mac = ""}));
         QCOMPARE(values(m_store->ipv4Rows(), DeviceRowKey::name), QStringList({"gate", ""}));
@@ -177,7 +177,7 @@ private Q_SLOTS:
 
     void aDeviceIsIdentifiedByMacThenUuidThenAddress_data()
     {
-        // first, second: the answers; rows: name and MAC of each row after them
+        // first, second: the responses; rows: name and MAC of each row after them
         const auto row = dataTable<AnswerTexts, AnswerTexts, QStringList>({"first", "second", "rows"});
         const AnswerTexts own = {.mac = "", .uuid = "5f5a"};
         const AnswerTexts withMac = {.mac = "m1", .uuid = "5f5a"};
@@ -199,7 +199,7 @@ private Q_SLOTS:
         QFETCH(AnswerTexts, second);
         QFETCH(QStringList, rows);
         QStringList removed;
-        for (int time = 0; time < 2; ++time) { // nothing that is repeated makes a further row
+        for (int time = 0; time < 2; ++time) { // repeated responses add no rows
             m_store->addAnswer(searchAnswer(first));
             m_store->addAnswer(searchAnswer(second));
             QStringList found;
@@ -216,9 +216,9 @@ private Q_SLOTS:
         QVERIFY(m_store->ipv4Rows().isEmpty());
     }
 
-    void theRowOfAUuidIsThatOfTheMacThatComesInTheNextSearch_data()
+    void aRowWithAUuidGetsTheMacOfTheNextSearch_data()
     {
-        // found: names and MACs of the rows after an answer of the next search; "lost" of the kept row
+        // found: names and MACs of the rows after a response of the next search; "lost" of the kept row
         const auto row =
             dataTable<AnswerTexts, AnswerTexts, QString, bool>({"kept", "answer", "rows", "isLost"});
         const AnswerTexts bare = {.mac = "", .uuid = "5f5a"};
@@ -229,8 +229,8 @@ private Q_SLOTS:
         row("other UUID", bare, {.mac = "m1", .uuid = "6f"}, "uuid:5f5a |m1 m1", true);
     }
 
-    /// What is marked by the name of the row, such as a failure, is still there then.
-    void theRowOfAUuidIsThatOfTheMacThatComesInTheNextSearch()
+    /// Marks that refer to the row's name, such as failures, remain valid.
+    void aRowWithAUuidGetsTheMacOfTheNextSearch()
     {
         QFETCH(AnswerTexts, kept);
         QFETCH(AnswerTexts, answer);
@@ -253,7 +253,7 @@ private Q_SLOTS:
             QCOMPARE(rowsNow(), rows);
             QCOMPARE(m_store->rowNamed("uuid:5f5a").value("lost").toBool(), isLost);
         }
-        // A copy of the UUID is no device of that row.
+        // A device that copies the UUID does not belong to that row.
         m_store->clear();
         m_store->addAnswer(searchAnswer({.mac = "m2", .uuid = "5f5a"}));
         QCOMPARE(m_store->rowNamed("m2").value("mac").toString(), isLost ? "" : "m2");
@@ -269,19 +269,20 @@ private Q_SLOTS:
         QVERIFY(m_store->updateRow(name, moved, "192.168.1.64"));
         QCOMPARE(valuesOf(m_store->rowNamed(name), "ipport mac"), "192.168.1.65:37777|m1");
         QCOMPARE(m_store->nameOf(searchAnswer({.mac = "m2", .uuid = "5f5a"})), QString());
-        // A row at the address of an answer is not passed over for its UUID, which anybody may report.
+        // The row at the address of a response takes precedence over its UUID, because any device may report
+        // that UUID.
         m_store->putRow({{"ipport", "192.168.1.66:37777"}});
         const AnswerTexts listed = {.address = "192.168.1.66", .mac = "", .uuid = "5f5a"};
         QCOMPARE(m_store->nameOf(searchAnswer(listed)), "192.168.1.66:37777");
     }
 
-    void aChangeKeepsWhatAnotherOneWritesMeanwhile()
+    void concurrentChangesOfARowAreKept()
     {
         const QString mac = "02:1a:c5:00:40:17";
         m_store->addAnswer(searchAnswer({}));
         bool overtaken = false;
         m_store->changeRow(mac, [&](QJsonObject &row) {
-            if (!std::exchange(overtaken, true)) // as another thread may do
+            if (!std::exchange(overtaken, true)) // as by another thread
                 m_store->changeRow(mac, [](QJsonObject &same) { same.insert("res", 7); });
             row.insert("upgrade", 50);
         });
@@ -291,9 +292,9 @@ private Q_SLOTS:
         QVERIFY(m_store->ipv4Rows().isEmpty());
     }
 
-    void aRecordIsGivenBackByteForByte_data()
+    void aRecordIsReturnedUnchanged_data()
     {
-        // filling: of the answer, again and again
+        // filling: repeated to fill the record
         const auto row = dataTable<QByteArray>({"filling"});
         row("no zeros", QByteArray(1, 'x'));
         QByteArray runs;
@@ -303,7 +304,7 @@ private Q_SLOTS:
         row("a byte at the end", QByteArray(sizeof(sdk::SearchAnswer) - 1, '\0') + 'x');
     }
 
-    void aRecordIsGivenBackByteForByte()
+    void aRecordIsReturnedUnchanged()
     {
         QFETCH(QByteArray, filling);
         const QByteArray bytes = filling.repeated(sizeof(sdk::SearchAnswer) / filling.size() + 1);
@@ -332,10 +333,10 @@ private Q_SLOTS:
         QCOMPARE(values(m_store->ipv4Rows(), DeviceRowKey::lost), QStringList("true"));
         QCOMPARE(values(m_store->ipv6Rows(), DeviceRowKey::lost), QStringList("true"));
         QCOMPARE(m_store->ipv4Count(), 0);
-        QVERIFY(m_store->record(name)); // requests to the device are still possible
+        QVERIFY(m_store->record(name)); // the device can still be accessed
         QCOMPARE(m_store->rowNamed(name).value("username").toString(), "installer");
 
-        // Another device that has its address now goes before it.
+        // Another device that now has its address takes precedence.
         m_store->addAnswer(searchAnswer({.address = "192.168.1.64", .mac = numberedMac(4)}));
         QCOMPARE(m_store->rowAt("192.168.1.64:37777").value("mac").toString().toStdString(), numberedMac(4));
 
@@ -351,7 +352,7 @@ private Q_SLOTS:
         QVERIFY(m_store->ipv4Rows().isEmpty() && m_store->ipv6Rows().isEmpty());
     }
 
-    void aLoopbackDeviceHeadsTheList()
+    void aLoopbackDeviceIsFirstInTheList()
     {
         for (int number = 0; number < 10; ++number)
             m_store->addAnswer(searchAnswer({.mac = numberedMac(number)}));
@@ -362,11 +363,11 @@ private Q_SLOTS:
         QCOMPARE(macs.first().toStdString(), numberedMac(10));
         QCOMPARE(macs.at(1).toStdString(), numberedMac(0));
         QCOMPARE(macs.last().toStdString(), numberedMac(11));
-        // A row that was put in front is still known.
+        // A row that was moved to the front is still recognised.
         QVERIFY(!m_store->addAnswer(searchAnswer({.address = "127.0.0.1", .mac = numberedMac(10)})).added);
     }
 
-    void textsMayFillTheirFieldsAndHoldAnything()
+    void stringsMayFillTheirFieldsAndContainAnyBytes()
     {
         sdk::SearchAnswer answer = searchAnswer({});
         answer.device.deviceName.fill('n');
@@ -382,7 +383,7 @@ private Q_SLOTS:
         QCOMPARE(row.value("vision").toString(), 'v' + QString(128, QChar::ReplacementCharacter));
     }
 
-    void rowsOfOneSecondAreAnnouncedTogether()
+    void addedRowsAreReportedOncePerSecond()
     {
         int notifications = 0;
         int number = 0;
@@ -394,7 +395,7 @@ private Q_SLOTS:
             add();
         }
         QCOMPARE(notifications, 0);
-        m_clock->advance(705ms); // 999 ms after the first answer, which began the count
+        m_clock->advance(705ms); // 999 ms after the first answer, which started the interval
         add();
         QCOMPARE(notifications, 0);
         m_clock->advance(1ms);
@@ -408,7 +409,7 @@ private Q_SLOTS:
         QCOMPARE(notifications, 2);
     }
 
-    void manyThreadsAddAndOneReads()
+    void threadsCanAddWhileAnotherReads()
     {
         constexpr int devices = 2000;
         std::atomic<int> added = 0;

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// An agent whose mappings a test sets, and which notes what it is asked.
+/// An agent with the mappings of a test, which records its calls.
 class NotingAgent : public sdk::P2PAgentLibrary
 {
 public:
@@ -64,8 +64,8 @@ class TestP2PPorts : public QObject
 private Q_SLOTS:
     void readsItsSettings_data()
     {
-        // file: null: there is none
-        // fault: the setting that is reported
+        // file: null: no file
+        // fault: the reported setting
         const auto row = dataTable<QByteArray, QString, QString>({"file", "started", "fault"});
         row("no file", QByteArray(),
             "init tunnel.kelda.example 7885 relay.kelda.example 443 tamsvelorink kelda "
@@ -98,41 +98,41 @@ private Q_SLOTS:
         QCOMPARE(agent->calls.mid(1), QStringList({"callback", "release"}));
     }
 
-    void handsOutPorts_data()
+    void assignsPorts_data()
     {
-        const auto row = dataTable<QList<int>, int, int, QString>({"existing", "wish", "port", "asked"});
+        const auto row = dataTable<QList<int>, int, int, QString>({"existing", "requested", "port", "asked"});
         row("none there", QList<int>(), 0, 50001, "add ID 37777 0 0");
-        row("a wish for another port", QList{50005}, 37778, 0, QString());
+        row("a request for another port", QList{50005}, 37778, 0, QString());
         row("one there, the device's wished", QList{50005}, 37777, 37777, "add ID 37777 37777 0");
         row("the device's there", QList{37777}, 0, 50001, "add ID 37777 0 0");
         row("the device's there and wished", QList{37777}, 37777, 37777, QString());
         row("more there", QList{37777, 50006, 50007}, 0, 50006, QString());
     }
 
-    void handsOutPorts()
+    void assignsPorts()
     {
         QFETCH(QList<int>, existing);
-        QFETCH(int, wish);
+        QFETCH(int, requested);
         QFETCH(QString, asked);
         const auto agent = std::make_shared<NotingAgent>();
         P2PPorts ports(agent, P2PSettings::builtIn(), &noHandler);
         agent->calls.clear();
         agent->existing = existing;
-        QTEST(ports.portFor("ID", 37777, wish), "port");
+        QTEST(ports.portFor("ID", 37777, requested), "port");
         QCOMPARE(agent->calls.join('\n'), asked);
     }
 
-    /// Two callers that add the same device get the same port: the first one to fail does not take it away.
-    void aPortThatIsNeededStays_data()
+    /// Two callers that add the same device share a port. A failure of one of them does not close it.
+    void aUsedPortRemainsOpen_data()
     {
         const auto row = dataTable<bool, bool, bool, bool>({"others", "isKnown", "isListed", "stays"});
-        row("nobody needs it", false, false, false, false);
+        row("not used", false, false, false, false);
         row("another caller", true, false, false, true);
         row("a known device", false, true, false, true);
         row("a row", false, false, true, true);
     }
 
-    void aPortThatIsNeededStays()
+    void aUsedPortRemainsOpen()
     {
         QFETCH(bool, others);
         QFETCH(bool, isKnown);

@@ -50,9 +50,9 @@ private Q_SLOTS:
         row("one address", "10.0.1.1", "10.0.1.1", 0);
         row("seventeen apart", "10.0.1.1", "10.0.18.1", 2);
         row("other second octet", "10.0.1.1", "10.1.1.1", 2);
-        row("begin above end", "10.0.2.1", "10.0.1.1", 1);
-        row("begin no address", "10.0.1", "10.0.1.1", 3);
-        row("end no address", "10.0.1.1", "printer", 4);
+        row("start above end", "10.0.2.1", "10.0.1.1", 1);
+        row("start is not an address", "10.0.1", "10.0.1.1", 3);
+        row("end is not an address", "10.0.1.1", "printer", 4);
     }
 
     void checksARange()

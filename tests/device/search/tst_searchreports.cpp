@@ -75,7 +75,7 @@ private Q_SLOTS:
              {.address = "fe80::5%eth0", .obstacles = {SearchObstacle::NoAnswer}, .sent = 4}},
             "eth0\n地址: 192.0.2.5/24, fe80::5/24\n已发送: 8 个请求\n已收到: 6 条消息\n找到: 0 台设备\n"
             "未采用: 无法识别的消息 2 条，设备离开网络的通知 1 条\n");
-        row("no answer", {{.obstacles = {SearchObstacle::NoAnswer}, .sent = 4}},
+        row("no response", {{.obstacles = {SearchObstacle::NoAnswer}, .sent = 4}},
             "eth0\n地址: 192.0.2.5/24\n已发送: 4 个请求\n已收到: 0 条消息\n找到: 0 台设备\n! "
             "没有收到任何应答\n");
         row("two interfaces, one without a cable, one switched off",

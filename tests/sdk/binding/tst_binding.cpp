@@ -154,7 +154,7 @@ private Q_SLOTS:
         QCOMPARE(takeNames(), expected.c_str());
     }
 
-    void valuesPassBothWays()
+    void argumentsAndResultsArePassed()
     {
         const SdkLibraries libraries = bound(bindingText(FAKE_LIBRARY, lively));
         QVERIFY(libraries.net);
@@ -177,12 +177,12 @@ private Q_SLOTS:
         QVERIFY(libraries.p2pAgent->OAgent_ClientAddPort("id", 37, port, 0) && port == 38);
     }
 
-    void namesWhatIsMissing_data()
+    void reportsWhatIsMissing_data()
     {
         const auto row = dataTable<std::string, std::string, int, QString>({"from", "to", "kind", "name"});
         row("no entry", "= fakeNetLogout", "= absent", static_cast<int>(Kind::EntryMissing), "absent");
-        row("ordinal of a system without", "= fakeNetLogout", "= 12", static_cast<int>(Kind::EntryMissing),
-            "12");
+        row("ordinal on a system without ordinals", "= fakeNetLogout", "= 12",
+            static_cast<int>(Kind::EntryMissing), "12");
         row("no library", FAKE_LIBRARY, "absent.so", static_cast<int>(Kind::LibraryUnusable), "absent.so");
         row("one function too few", "NetStopUpgrade = fakeNetStopUpgrade\n", "",
             static_cast<int>(Kind::FunctionMissing), "NetStopUpgrade");
@@ -192,12 +192,12 @@ private Q_SLOTS:
         row("no section", "[agent]", "[agents]", static_cast<int>(Kind::SectionMissing), "agent");
         row("section without its file", "[decoder]\nfile", "[decoder]\n# file",
             static_cast<int>(Kind::SectionMissing), "decoder");
-        row("no line of its kind", "NetInit = fakeNetInit", "NetInit", static_cast<int>(Kind::LineUnusable),
+        row("invalid line", "NetInit = fakeNetInit", "NetInit", static_cast<int>(Kind::LineUnusable),
             "NetInit");
         row("line before a section", "[network]\n", "", static_cast<int>(Kind::LineUnusable), "file");
     }
 
-    void namesWhatIsMissing()
+    void reportsWhatIsMissing()
     {
         QFETCH(const std::string, from);
         QFETCH(const std::string, to);

@@ -49,7 +49,7 @@ private Q_SLOTS:
         const auto row = dataTable<QString, QByteArray>({"name", "kept"});
         const QByteArray letters(60, 'a');
         row("one byte too long", QString::fromUtf8(letters + "bcde"), letters + "bcd");
-        row("letter of three bytes ends outside", QString::fromUtf8(letters + "b门"), letters + "b");
+        row("character of three bytes exceeds the limit", QString::fromUtf8(letters + "b门"), letters + "b");
         row("zero inside", u"a\\u0000b"_s, QByteArray("a"));
     }
 
@@ -79,8 +79,8 @@ private Q_SLOTS:
         const QByteArray good = R"({"Https":{"enabled":true,"port":443}})";
         row("unknown name", R"({"Smoke":{"enabled":true}})", "Smoke");
         row("record too small", good, "Https", sizeof(HttpsRecord) - 1);
-        row("cut off", good.chopped(2));
-        row("more behind it", good + '\0' + good);
+        row("truncated", good.chopped(2));
+        row("further text after it", good + '\0' + good);
         row("invalid UTF-8", "{\"Https\":{\"enabled\":true,\"\xff\xfe\":1}}");
         row("too long", good + QByteArray(512 * 1024, ' '));
         row("text as number", R"({"Network":{"dhcp":true,"address":5}})", "Network", sizeof(NetworkRecord));

@@ -1,4 +1,4 @@
-// Scenes: what is said of mistakes in their files and names.
+// Error messages for invalid scene files and names.
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/scene/scenereader.h"
@@ -16,7 +16,7 @@ using namespace sdk::demo;
 
 namespace {
 
-/// A scene of one good device, with `changes` put over its keys.
+/// A scene of one valid device whose keys are overwritten by `changes`.
 QByteArray sceneWith(const QJsonObject &changes)
 {
     QJsonObject device = {{u"mac"_s, u"02:1a:c5:00:00:01"_s},
@@ -44,9 +44,9 @@ class ScenesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void refusesWithClearError_data()
+    void refusesInvalidFilesWithAClearMessage_data()
     {
-        // words: that the complaint must hold
+        // words: required in the error message
         const auto row = dataTable<QByteArray, QStringList>({"json", "words"});
 
         const auto deviceRow = [&row](const char *title, const QString &key, const QJsonValue &value,
@@ -87,7 +87,7 @@ private Q_SLOTS:
             {u"20001"_s, u"20000"_s});
     }
 
-    void refusesWithClearError()
+    void refusesInvalidFilesWithAClearMessage()
     {
         QFETCH(QByteArray, json);
         QFETCH(QStringList, words);
@@ -98,7 +98,7 @@ private Q_SLOTS:
         QVERIFY(!SceneReader::read(json, nullptr));
     }
 
-    void opensFilesAndNamesMistakes()
+    void opensFilesAndReportsInvalidNames()
     {
         QTemporaryDir directory;
         const QString path = directory.filePath(u"mine.json"_s);
@@ -112,7 +112,7 @@ private Q_SLOTS:
         sdk::ProviderInformation provider{};
         provider.size = sizeof(provider);
         site->libraries().net->NetGetProviderInformation(provider);
-        QCOMPARE(provider.defaultPort, 8800); // what a user who adds the device need not enter
+        QCOMPARE(provider.defaultPort, 8800); // the default in the dialog for adding a device
 
         const QList<std::pair<QString, QStringList>> mistakes = {
             {u"ofice"_s, {u"\"ofice\""_s, u"office"_s, u"factory"_s, u"faulty"_s, u"fleet:N"_s}},

@@ -17,7 +17,7 @@ using namespace sdk::demo;
 
 namespace {
 
-/// Keeps the data that it gets, on any thread.
+/// Stores the received data. Thread-safe.
 class Watcher
 {
 public:
@@ -38,7 +38,7 @@ public:
         return m_bytes;
     }
 
-    /// The reasons of what was reported as the stream's end.
+    /// The reported reasons for the end of the stream.
     [[nodiscard]] QList<int> ends() const
     {
         const std::lock_guard lock(m_mutex);
@@ -51,7 +51,7 @@ private:
     QList<int> m_ends;
 };
 
-/// A camera whose streams are small, so that they are quickly encoded.
+/// A camera with small frames, which are encoded quickly.
 SceneDevice smallCamera()
 {
     SceneDevice device;
@@ -66,7 +66,7 @@ SceneDevice smallCamera()
     return device;
 }
 
-/// A site with a session to a small camera, whose pictures come by steps of the clock.
+/// A site with a session to a small camera, which sends frames when the clock is advanced.
 struct StreamSite
 {
     StreamSite()
@@ -87,7 +87,7 @@ struct StreamSite
         return handle != 0 && net->NetSetRealDataCallback(handle, &Watcher::handle, &watcher, 1) ? handle : 0;
     }
 
-    /// Lets the next picture come.
+    /// Advances the clock to the next frame.
     void step() const
     {
         QVERIFY(clock->waitForWaiters(1));
@@ -108,10 +108,10 @@ class StreamsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void streamsEndWithWhatTheyComeFrom_data()
+    void streamsEndWithTheirSource_data()
     {
         using End = std::function<void(const StreamSite &)>;
-        // reason: 0 for an end that its caller has made
+        // reason: 0: the caller has ended the stream
         const auto row = dataTable<End, bool, int>({"end", "handleStays", "reason"});
         const auto lost = static_cast<int>(StreamEndReason::ConnectionLost);
         const auto byDevice = static_cast<int>(StreamEndReason::EndedByDevice);
@@ -121,7 +121,7 @@ private Q_SLOTS:
                 title, [mac, fault](const StreamSite &site) { site.site->setFault(mac, fault); }, true,
                 static_cast<int>(reason));
         };
-        faultRow("no answer", {Fault::NoAnswer}, StreamEndReason::ConnectionLost);
+        faultRow("no response", {Fault::NoAnswer}, StreamEndReason::ConnectionLost);
         faultRow("not initialised", {Fault::NotInitialised}, StreamEndReason::Refused);
         faultRow("dropped", {Fault::DropsStreamAfter, 2}, StreamEndReason::EndedByDevice);
         row(
@@ -144,7 +144,7 @@ private Q_SLOTS:
         row("unplugged", unplug, true, byDevice);
     }
 
-    void streamsEndWithWhatTheyComeFrom()
+    void streamsEndWithTheirSource()
     {
         QFETCH(std::function<void(const StreamSite &)>, end);
         QFETCH(bool, handleStays);
@@ -157,8 +157,8 @@ private Q_SLOTS:
         const QByteArray before = watcher.bytes();
         QVERIFY(before.size() > first);
         end(site);
-        site.clock->advance(30s);                       // beyond a reboot as well
-        QVERIFY(!site.clock->waitForWaiters(1, 100ms)); // nothing runs any more
+        site.clock->advance(30s);                       // longer than a reboot
+        QVERIFY(!site.clock->waitForWaiters(1, 100ms)); // no thread waits for the clock
         QCOMPARE(watcher.bytes(), before);
         QCOMPARE(watcher.ends(), reason == 0 ? QList<int>() : QList<int>{reason});
         QCOMPARE(site.net->NetStopRealStream(handle), handleStays);

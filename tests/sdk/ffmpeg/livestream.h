@@ -1,4 +1,4 @@
-// Live streams as devices send them, made for tests.
+// Live streams for tests.
 #pragma once
 
 #include "sdk/ffmpeg/internal/avpointers.h"
@@ -10,28 +10,28 @@
 
 namespace sdk::ffmpeg {
 
-/// What a picture of a test shows: four patches of one colour each, in reading order.
+/// The content of a test frame: four patches of one colour each, in reading order.
 struct Patches
 {
     struct Colour
     {
-        int y; ///< or red, and so on
+        int y; ///< or red, green, blue
         int u;
         int v;
     };
     std::array<Colour, 4> colours;
 
-    /// Colours that are far from each other, other ones for each number.
+    /// Clearly different colours, which depend on the number.
     [[nodiscard]] static Patches numbered(int number);
 
-    /// The patch that covers a point of a picture or of a plane of it.
+    /// The patch that covers a point of a frame or of one of its planes.
     [[nodiscard]] const Colour &at(int x, int y, int width, int height) const
     {
         return colours.at((y * 2 < height ? 0U : 2U) + (x * 2 < width ? 0U : 1U));
     }
 };
 
-/// How the pictures of a stream are encoded.
+/// The encoding of the frames.
 struct PictureFormat
 {
     const char *encoder = "libx264";
@@ -41,11 +41,11 @@ struct PictureFormat
     int rate = 25;
     AVColorSpace colourSpace = AVCOL_SPC_UNSPECIFIED;
     AVColorRange range = AVCOL_RANGE_UNSPECIFIED;
-    int keyEvery = 5;         ///< pictures
+    int keyEvery = 5;         ///< frames
     const char *options = ""; ///< of the encoder, as "name=value:name=value"
 };
 
-/// How the sound of a stream is encoded.
+/// The encoding of the sound.
 struct SoundFormat
 {
     const char *encoder = "pcm_alaw";
@@ -53,7 +53,7 @@ struct SoundFormat
     int channels = 1;
 };
 
-/// A Matroska stream, written live: what was added comes out at once, in a cluster of its own.
+/// A live Matroska stream: each call returns a separate cluster immediately.
 class LiveStream
 {
 public:
@@ -64,17 +64,17 @@ public:
     LiveStream(const LiveStream &) = delete;
     LiveStream &operator=(const LiveStream &) = delete;
 
-    /// What begins the stream.
+    /// The header of the stream.
     [[nodiscard]] const QByteArray &head() const { return m_head; }
 
-    /// The bytes of the next picture.
+    /// The bytes of the next frame.
     [[nodiscard]] QByteArray picture(const Patches &patches);
 
-    /// Of so many pictures, numbered from `first` on.
+    /// The bytes of several frames, numbered from `first` on.
     [[nodiscard]] QByteArray pictures(int count, int first = 0);
 
     /// The bytes of the next samples: a tone of 500 Hz and a quarter of the largest amplitude. The container
-    /// keeps the last piece back until something else is added.
+    /// keeps the last packet until something else is added.
     [[nodiscard]] QByteArray tone(int samples);
 
 private:

@@ -1,4 +1,4 @@
-// A port with somebody who keeps what it delivers.
+// A port and a receiver that stores its data.
 #pragma once
 
 #include "sdk/blocktext.h"
@@ -22,11 +22,11 @@ struct Delivered
 {
     QByteArray bytes;
     DecodedFrameInformation information;
-    const std::uint8_t *place; ///< where the bytes stood
+    const std::uint8_t *place; ///< address of the delivered bytes
     std::thread::id thread;
 };
 
-/// Keeps copies of what was delivered, from any thread.
+/// Stores copies of the delivered data. Thread-safe.
 class Receiver
 {
 public:
@@ -52,7 +52,7 @@ public:
     [[nodiscard]] QList<Delivered> pictures() const { return all(DecodedFrameType::Picture); }
     [[nodiscard]] QList<Delivered> sounds() const { return all(DecodedFrameType::Sound); }
 
-    /// Samples of all sounds.
+    /// The total number of samples.
     [[nodiscard]] qsizetype sampleCount() const
     {
         qsizetype count = 0;
@@ -61,18 +61,18 @@ public:
         return count;
     }
 
-    std::function<void()> onDelivery; ///< called before anything is kept
+    std::function<void()> onDelivery; ///< called before data is stored
 
 private:
     mutable std::mutex m_mutex;
     QList<Delivered> m_all;
 };
 
-/// A port that plays, until the object goes.
+/// A playing port, until the object is destroyed.
 class TestPort
 {
 public:
-    /// With a clock it is a port for a live stream, which leaves out what is late on that clock.
+    /// With a clock it is a port for a live stream, which skips frames that are late on that clock.
     explicit TestPort(std::uint32_t bufferSize = usualBuffer,
                       const std::shared_ptr<const Clock> &liveClock = nullptr)
         : library(liveClock ? liveClock : std::make_shared<SystemClock>())
@@ -94,7 +94,7 @@ public:
                                         static_cast<std::uint32_t>(bytes.size()));
     }
 
-    /// In pieces of that size. False when one was refused.
+    /// Pushes data in chunks of that size. False if one was refused.
     bool push(const QByteArray &bytes, qsizetype pieceSize)
     {
         for (qsizetype place = 0; place < bytes.size(); place += pieceSize) {
@@ -111,7 +111,7 @@ public:
         return status;
     }
 
-    /// Whether the port is through with all that was pushed.
+    /// True if the port has processed all data.
     [[nodiscard]] bool isIdle() { return status().waitingBytes == 0; }
 
     [[nodiscard]] QString videoCodec() { return textOf(status().videoCodec); }
@@ -129,7 +129,7 @@ private:
     }
 };
 
-/// A line of what the system knows of this process' memory.
+/// A value of /proc/self/status about this process's memory.
 inline double processMegabytes(const QByteArray &name)
 {
     for (const QByteArray &line : fileContents(QStringLiteral("/proc/self/status")).split('\n')) {
@@ -139,8 +139,8 @@ inline double processMegabytes(const QByteArray &name)
     return 0;
 }
 
-/// The largest mean difference of a plane of a picture to what it is to show: about 1 is the encoder's.
-/// A picture without the right number of bytes is far from everything.
+/// The largest mean difference of a plane to the expected frame. The encoder causes about 1. Very large for a
+/// frame with the wrong number of bytes.
 inline double distance(const Delivered &picture, const Patches &patches)
 {
     constexpr double far = 255;

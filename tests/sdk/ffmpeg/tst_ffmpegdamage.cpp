@@ -1,4 +1,4 @@
-// Streams that are damaged, cut off or meant to do harm.
+// Streams that are damaged, truncated or malicious.
 #include "tests/datatable.h"
 #include "tests/sdk/ffmpeg/testport.h"
 
@@ -29,9 +29,9 @@ class FfmpegDamageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void goesOnAfterAHole_data()
+    void continuesAfterAGap_data()
     {
-        // inPicture: where the hole begins, in bytes of the picture with that number
+        // inPicture: the start of the gap, in bytes of the frame with that number
         const auto row = dataTable<PictureFormat, int, int, int>({"format", "inPicture", "begin", "size"});
         const PictureFormat h264{.encoder = "libx264"};
         const PictureFormat h265{.encoder = "libx265"};
@@ -41,7 +41,7 @@ private Q_SLOTS:
         row("MJPEG, the size of a block", mjpeg, 7, 18, 2);
     }
 
-    void goesOnAfterAHole()
+    void continuesAfterAGap()
     {
         QFETCH(PictureFormat, format);
         QFETCH(int, inPicture);
@@ -62,7 +62,7 @@ private Q_SLOTS:
                  qPrintable(QString::number(pictures.size())));
         for (int number = 0; number < inPicture; ++number)
             QVERIFY(distance(pictures.at(number), Patches::numbered(number)) < nearEnough);
-        // The last ones are whole again, from a key picture on.
+        // The frames from the last key frame on are complete again.
         for (int fromEnd = 1; fromEnd <= 5; ++fromEnd) {
             const Delivered &picture = pictures.at(pictures.size() - fromEnd);
             QVERIFY(distance(picture, Patches::numbered(40 - fromEnd)) < nearEnough);
@@ -70,18 +70,18 @@ private Q_SLOTS:
         QVERIFY(port.status().damages > 0);
     }
 
-    void showsNothingBeforeAKeyPicture_data()
+    void showsNothingBeforeAKeyFrame_data()
     {
         const auto row = dataTable<PictureFormat>({"format"});
         row("H.264", {.encoder = "libx264"});
         row("H.265", {.encoder = "libx265"});
     }
 
-    void showsNothingBeforeAKeyPicture()
+    void showsNothingBeforeAKeyFrame()
     {
         QFETCH(PictureFormat, format);
         LiveStream stream(format);
-        static_cast<void>(stream.pictures(2)); // missed
+        static_cast<void>(stream.pictures(2)); // not pushed
         TestPort port;
         QVERIFY(port.push(stream.head() + stream.pictures(6, 2)));
         QTRY_COMPARE(port.receiver.pictures().size(), 3); // numbers 5, 6 and 7
@@ -89,7 +89,7 @@ private Q_SLOTS:
             QVERIFY(distance(port.receiver.pictures().at(place), Patches::numbered(5 + place)) < nearEnough);
     }
 
-    void takesTheNextStream_data()
+    void acceptsTheNextStream_data()
     {
         const auto row = dataTable<QByteArray>({"before"});
         LiveStream h264(PictureFormat{.encoder = "libx264"}, SoundFormat{.encoder = "aac", .rate = 16000});
@@ -111,7 +111,7 @@ private Q_SLOTS:
         }
     }
 
-    void takesTheNextStream()
+    void acceptsTheNextStream()
     {
         QFETCH(QByteArray, before);
         LiveStream next(
@@ -128,9 +128,9 @@ private Q_SLOTS:
         QCOMPARE(port.audioCodec(), QString());
     }
 
-    void marksInsidePicturesAreNone()
+    void ignoresMarkersInsideFrames()
     {
-        // A mark of four bytes comes up in pictures by chance now and then. Samples take any value.
+        // A marker of four bytes can occur in frames by chance. Samples can have any value.
         const SoundFormat pcm{.encoder = "pcm_s16le", .rate = 16000};
         LiveStream stream(pcm);
         TestPort port;
@@ -142,11 +142,11 @@ private Q_SLOTS:
             QVERIFY(port.push(piece, 100));
         }
         QVERIFY(port.push(stream.tone(1600)));
-        QTRY_COMPARE(port.receiver.sampleCount(), 4800); // the last one waits for the next
+        QTRY_COMPARE(port.receiver.sampleCount(), 4800); // the last chunk waits for the next one
         QCOMPARE(port.status().damages, 0U);
     }
 
-    void boundsSizes_data()
+    void limitsFrameSizes_data()
     {
         const auto row = dataTable<QByteArray>({"bytes"});
         LiveStream pictures(mjpeg);
@@ -167,7 +167,7 @@ private Q_SLOTS:
         row("H.264 of 32 x 9000", tall.head() + tall.pictures(2));
     }
 
-    void boundsSizes()
+    void limitsFrameSizes()
     {
         QFETCH(QByteArray, bytes);
         LiveStream next(mjpeg);
@@ -180,9 +180,9 @@ private Q_SLOTS:
         QVERIFY(processMegabytes("VmPeak:") - before < 500);
     }
 
-    void boundsPieces()
+    void limitsBlockSizes()
     {
-        // A cluster without an end, and a block in it that says to have 256 MB.
+        // A cluster without an end that contains a block of allegedly 256 MB.
         const QByteArray swallow(
             "\x1F\x43\xB6\x75\x01\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xE7\x81\x01\xA3\x1F\xFF\xFF\xFE\x81", 21);
         LiveStream stream(mjpeg);
@@ -194,7 +194,7 @@ private Q_SLOTS:
         for (int sent = 0; sent < 12 * 1024 * 1024 && port.receiver.pictures().size() < 3;
              sent += more.size())
             QTRY_VERIFY(port.push(more));
-        QTRY_VERIFY(port.receiver.pictures().size() > 2); // the stream was given up, and taken up again
+        QTRY_VERIFY(port.receiver.pictures().size() > 2); // the stream was dropped, and continued
         QVERIFY(port.status().damages > 0);
     }
 };

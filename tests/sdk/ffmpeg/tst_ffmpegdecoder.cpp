@@ -1,4 +1,4 @@
-// Pictures and sound of whole streams.
+// Frames and sound of complete streams.
 #include "tests/datatable.h"
 #include "tests/sdk/ffmpeg/testport.h"
 
@@ -15,14 +15,14 @@ namespace {
 
 constexpr double nearEnough = 4;
 
-/// A picture of one grey, another one for each number.
+/// A frame of one grey level, which depends on the number.
 Patches greyOf(int number)
 {
     const Patches::Colour grey = {20 + 10 * number, 128, 128};
     return {{grey, grey, grey, grey}};
 }
 
-/// Stands still until it is stepped.
+/// A clock that only advances on request.
 class StandingClock : public Clock
 {
 public:
@@ -41,11 +41,11 @@ class FfmpegDecoderTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void pictures_data()
+    void decodesFrames_data()
     {
         const auto row = dataTable<PictureFormat, QString>({"format", "codec"});
         row("H.264", {.encoder = "libx264"}, "H.264");
-        row("H.264, cut to 1080 lines", {.encoder = "libx264", .width = 192, .height = 1080, .rate = 12},
+        row("H.264, cropped to 1080 lines", {.encoder = "libx264", .width = 192, .height = 1080, .rate = 12},
             "H.264");
         row("H.264, 4:2:2 of 10 bits", {.encoder = "libx264", .pixels = AV_PIX_FMT_YUV422P10}, "H.264");
         row("H.265", {.encoder = "libx265", .width = 98, .height = 70, .rate = 30}, "H.265");
@@ -57,11 +57,11 @@ private Q_SLOTS:
             {.encoder = "mjpeg", .width = 17, .height = 121, .pixels = AV_PIX_FMT_YUVJ444P}, "MJPEG");
     }
 
-    void pictures()
+    void decodesFrames()
     {
         QFETCH(PictureFormat, format);
         QFETCH(QString, codec);
-        constexpr int count = 7; // the ring goes round twice
+        constexpr int count = 7; // twice the size of the ring buffer
         LiveStream stream(format);
         TestPort port;
         QVERIFY(port.push(stream.head() + stream.pictures(count)));
@@ -84,7 +84,7 @@ private Q_SLOTS:
         QCOMPARE(port.status().damages, 0U);
     }
 
-    void colours_data()
+    void decodesColours_data()
     {
         const auto addRow = dataTable<PictureFormat, int>({"format", "colour"});
         const auto row = [&addRow](const char *name, const PictureFormat &format, PictureColour colour) {
@@ -112,7 +112,7 @@ private Q_SLOTS:
             PictureColour::Bt709Full);
     }
 
-    void colours()
+    void decodesColours()
     {
         QFETCH(PictureFormat, format);
         QFETCH(int, colour);
@@ -122,10 +122,10 @@ private Q_SLOTS:
         QTRY_COMPARE(port.receiver.pictures().size(), 1);
         const Delivered picture = port.receiver.pictures().first();
         QCOMPARE(static_cast<int>(picture.information.colour), colour);
-        QVERIFY(distance(picture, Patches::numbered(0)) < nearEnough); // the values are the stream's
+        QVERIFY(distance(picture, Patches::numbered(0)) < nearEnough); // the values are those of the stream
     }
 
-    void sound_data()
+    void decodesSound_data()
     {
         const auto row = dataTable<SoundFormat, QString>({"format", "codec"});
         row("A-law", {.encoder = "pcm_alaw"}, "G.711A");
@@ -134,7 +134,7 @@ private Q_SLOTS:
         row("AAC, two channels", {.encoder = "aac", .rate = 48000, .channels = 2}, "AAC");
     }
 
-    void sound()
+    void decodesSound()
     {
         QFETCH(SoundFormat, format);
         QFETCH(QString, codec);
@@ -143,7 +143,7 @@ private Q_SLOTS:
         QVERIFY(port.push(stream.head() + stream.pictures(1)));
         for (int piece = 0; piece < 10; ++piece)
             QVERIFY(port.push(stream.tone(format.rate / 10)));
-        const int enough = format.rate * 9 / 10; // an encoder keeps its last piece
+        const int enough = format.rate * 9 / 10; // an encoder keeps its last packet
         QTRY_VERIFY(port.receiver.sampleCount() >= enough);
         QCOMPARE(port.receiver.pictures().size(), 1);
 
@@ -154,7 +154,7 @@ private Q_SLOTS:
             const auto *values = reinterpret_cast<const std::int16_t *>(sound.bytes.constData());
             samples.append(QList<std::int16_t>(values, values + sound.bytes.size() / 2));
         }
-        // The middle, where an encoder has swung in: a tone of 500 Hz and its loudness.
+        // The middle, after the start of the encoder: a tone of 500 Hz and its amplitude.
         samples = samples.mid(format.rate / 4, format.rate / 2);
         int risings = 0;
         double squares = 0;
@@ -169,16 +169,16 @@ private Q_SLOTS:
         QCOMPARE(port.status().damages, 0U);
     }
 
-    void takesAnyCut_data()
+    void acceptsChunksOfAnySize_data()
     {
         const auto row = dataTable<int>({"pieceSize"});
         row("bytes", 1);
         row("three", 3);
         row("odd", 1021);
-        row("whole", 10000000);
+        row("complete", 10000000);
     }
 
-    void takesAnyCut()
+    void acceptsChunksOfAnySize()
     {
         QFETCH(int, pieceSize);
         LiveStream first({.encoder = "libx264"}, SoundFormat{.encoder = "aac", .rate = 16000});
@@ -200,7 +200,7 @@ private Q_SLOTS:
         QCOMPARE(port.status().damages, 0U);
     }
 
-    void firstPictureWaitsForNothing_data()
+    void showsTheFirstFrameImmediately_data()
     {
         const auto row = dataTable<PictureFormat>({"format"});
         row("H.264", {.encoder = "libx264"});
@@ -208,11 +208,10 @@ private Q_SLOTS:
         row("MJPEG", {.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P});
     }
 
-    void firstPictureWaitsForNothing()
+    void showsTheFirstFrameImmediately()
     {
         QFETCH(PictureFormat, format);
-        LiveStream stream(format,
-                          SoundFormat{}); // sound that was announced and does not come holds nothing back
+        LiveStream stream(format, SoundFormat{}); // announced sound that does not arrive delays no frame
         TestPort port;
         QVERIFY(port.push(stream.head()));
         for (int number = 0; number < 4; ++number) {
@@ -221,9 +220,9 @@ private Q_SLOTS:
         }
     }
 
-    void ordersPictures()
+    void ordersFramesByTime()
     {
-        // Two pictures between those that they refer to, which are sent first.
+        // Two frames between their reference frames, which are sent first.
         PictureFormat format;
         format.keyEvery = 30;
         format.options = "tune=film:bf=2:b_strategy=0:rc-lookahead=0:x264-params=scenecut=0";
@@ -231,10 +230,10 @@ private Q_SLOTS:
         LiveStream next(PictureFormat{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P});
         TestPort port;
         QVERIFY(port.push(stream.head() + stream.pictures(12)));
-        QVERIFY(port.push(next.head() + next.pictures(1))); // what waits for others comes out at the end
+        QVERIFY(port.push(next.head() + next.pictures(1))); // waiting frames are delivered at the end
         QTRY_COMPARE(port.videoCodec(), QStringLiteral("MJPEG"));
         QTRY_COMPARE(port.receiver.pictures().last().information.colour, PictureColour::Bt601Full);
-        // The last one is what those that the encoder kept back would have come before.
+        // The last frame follows those that the encoder has not returned.
         const QList<Delivered> pictures = port.receiver.pictures();
         QVERIFY(pictures.size() > 8);
         for (int number = 0; number < pictures.size() - 2; ++number) {
@@ -244,12 +243,12 @@ private Q_SLOTS:
         }
     }
 
-    void leavesOutWhatIsLate_data()
+    void skipsLateFrames_data()
     {
-        // format: every fifth picture needs no earlier one
-        // late: pictures after the first one, which is held up
+        // format: every fifth frame is a key frame
+        // late: frames after the first one, which is delayed
         // period: between them
-        // shown: with three that follow in time
+        // shown: including three frames that follow in time
         const auto row = dataTable<PictureFormat, bool, int, int, QList<int>>(
             {"format", "isLive", "late", "period", "shown"});
         const PictureFormat h264{.encoder = "libx264"};
@@ -259,14 +258,14 @@ private Q_SLOTS:
         row("no live stream", h264, false, 6, 500, QList<int>{0, 1, 2, 3, 4, 5, 6, 7, 8, 9});
         row("on from the newest key picture", h264, true, 12, 120, QList<int>{0, 10, 12, 13, 14, 15});
         row("H.265", h265, true, 12, 120, QList<int>{0, 10, 12, 13, 14, 15});
-        row("key pictures only", jpeg, true, 12, 120, QList<int>{0, 12, 13, 14, 15});
+        row("key frames only", jpeg, true, 12, 120, QList<int>{0, 12, 13, 14, 15});
         row("somewhat late, no key picture", h264, true, 3, 120, QList<int>{0, 1, 3, 4, 5, 6});
         row("late, a key picture is near", h264, true, 3, 450, QList<int>{0, 5, 6});
         row("late, a key picture is far", h264, true, 3, 250, QList<int>{0, 1, 3, 4, 5, 6});
         row("too late", h264, true, 3, 5000, QList<int>{0, 5, 6});
     }
 
-    void leavesOutWhatIsLate()
+    void skipsLateFrames()
     {
         QFETCH(PictureFormat, format);
         QFETCH(bool, isLive);
@@ -304,7 +303,7 @@ private Q_SLOTS:
         QCOMPARE(port.status().damages, 0U);
     }
 
-    void whatWaitsForItsTurnIsNotLeftOut()
+    void doesNotSkipWaitingFrames()
     {
         LiveStream stream(PictureFormat{.keyEvery = 50, .options = "bf=2"});
         const QByteArray bytes = stream.head() + stream.pictures(20);
@@ -317,7 +316,7 @@ private Q_SLOTS:
         QVERIFY(library.DecoderOpenStream(port, reinterpret_cast<const std::uint8_t *>(bytes.constData()),
                                           static_cast<std::uint32_t>(bytes.size()), usualBuffer));
         QVERIFY(library.DecoderSetDecodeCallback(port, &Receiver::handle, &receiver));
-        clock->advance(200); // it is late from its first picture on
+        clock->advance(200); // the stream is late from its first frame on
         QVERIFY(library.DecoderPlay(port, 0));
         DecoderStatus status{};
         QTRY_VERIFY(library.DecoderGetStatus(port, status) && status.waitingBytes == 0 &&

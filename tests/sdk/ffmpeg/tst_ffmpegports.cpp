@@ -1,4 +1,4 @@
-// Ports: their states, their buffers, and when handlers run.
+// Ports: their states, their buffers, and the calls of handlers.
 #include "tests/sdk/ffmpeg/testport.h"
 
 #include <atomic>
@@ -24,7 +24,7 @@ class FfmpegPortsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void bufferTakesWhatFits()
+    void theBufferAcceptsDataUntilItIsFull()
     {
         LiveStream stream(mjpeg);
         const QByteArray bytes = stream.head() + stream.pictures(3);
@@ -43,7 +43,7 @@ private Q_SLOTS:
         QVERIFY(library.DecoderGetStatus(port, status));
         QCOMPARE(status.waitingBytes, size);
 
-        QVERIFY(library.DecoderPlay(port, 0)); // what was refused has left nothing behind
+        QVERIFY(library.DecoderPlay(port, 0)); // the refused call has no effect
         QTRY_COMPARE(receiver.pictures().size(), 3);
         const auto waiting = [&] {
             library.DecoderGetStatus(port, status);
@@ -55,7 +55,7 @@ private Q_SLOTS:
         QVERIFY(library.DecoderFreePort(port));
     }
 
-    void removedHandlerRunsNoMore()
+    void aRemovedHandlerIsNotCalled()
     {
         LiveStream stream(mjpeg);
         TestPort port;
@@ -73,11 +73,11 @@ private Q_SLOTS:
         std::future<bool> removal = std::async(std::launch::async, [&] {
             return port.library.DecoderSetDecodeCallback(port.number, nullptr, nullptr);
         });
-        QCOMPARE(removal.wait_for(50ms), std::future_status::timeout); // the handler runs
+        QCOMPARE(removal.wait_for(50ms), std::future_status::timeout); // the handler is still running
         QCOMPARE(port.receiver.pictures().size(), 0);
         leave.set_value();
         QVERIFY(removal.get());
-        // One more may have begun before the removal got its turn, but none after it.
+        // One more call may have started before the removal, but none afterwards.
         const int before = calls;
         QCOMPARE(port.receiver.pictures().size(), before);
         QVERIFY(port.push(stream.pictures(3)));
@@ -92,7 +92,7 @@ private Q_SLOTS:
         QVERIFY(port.library.DecoderStop(port.number));
     }
 
-    void stopsInTheMiddle()
+    void canBeStoppedDuringAStream()
     {
         LiveStream stream(PictureFormat{.encoder = "libx264", .width = 640, .height = 360});
         const QByteArray bytes = stream.head() + stream.pictures(30);
@@ -103,11 +103,10 @@ private Q_SLOTS:
             if (!mayRun)
                 ranAfterStop = true;
         };
-        std::jthread pusher(
-            [&](const std::stop_token &stop) { // as a device does, through the stop and after it
-                while (!stop.stop_requested())
-                    port.push(bytes, 5000);
-            });
+        std::jthread pusher([&](const std::stop_token &stop) { // as a device does, during and after the stop
+            while (!stop.stop_requested())
+                port.push(bytes, 5000);
+        });
         QTRY_VERIFY(port.receiver.pictures().size() >= 2);
         QVERIFY(port.library.DecoderStop(port.number));
         mayRun = false;
@@ -118,7 +117,7 @@ private Q_SLOTS:
         QVERIFY(!ranAfterStop);
     }
 
-    void lastTwoPicturesStay()
+    void theLastTwoFramesRemainValid()
     {
         LiveStream small(mjpeg);
         LiveStream large(

@@ -1,4 +1,4 @@
-// Pictures as files.
+// Frames saved as image files.
 #include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
 #include "tests/datatable.h"
 #include "tests/files/filecontents.h"
@@ -16,7 +16,7 @@ Q_DECLARE_METATYPE(PictureColour)
 
 namespace {
 
-/// A picture of two colours, left and right.
+/// A frame of two colours, left and right.
 QByteArray twoColours(int width, int height, std::array<int, 3> left, std::array<int, 3> right)
 {
     QByteArray bytes;
@@ -54,10 +54,10 @@ class SavedFrameTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void showsTheColours_data()
+    void savesTheColours_data()
     {
         // red: as Y, U and V
-        // greys: as Y: what is shown as 14, 64 and 237
+        // greys: as Y: the values that are shown as 14, 64 and 237
         const auto row = dataTable<int, int, PictureColour, QList<int>, QList<int>>(
             {"width", "height", "colour", "red", "greys"});
         const QList<int> limited = {28, 71, 220};
@@ -74,7 +74,7 @@ private Q_SLOTS:
         row("1080 lines, full", 1920, 1080, PictureColour::Bt709Full, QList<int>{54, 99, 255}, full);
     }
 
-    void showsTheColours()
+    void savesTheColours()
     {
         QFETCH(int, width);
         QFETCH(int, height);
@@ -96,7 +96,7 @@ private Q_SLOTS:
         }
     }
 
-    void refusesWhatIsNoPicture()
+    void refusesInvalidFrames()
     {
         FfmpegDecoderLibrary library;
         const QByteArray picture(200, '\0');
@@ -108,7 +108,7 @@ private Q_SLOTS:
         };
         QVERIFY(!isSaved(nullptr, 8, 8));
         QVERIFY(!isSaved(bytes, 0, 8));
-        QVERIFY(!isSaved(bytes, 8, -1)); // as before the first picture
+        QVERIFY(!isSaved(bytes, 8, -1)); // as before the first frame
         QVERIFY(!isSaved(bytes, 2000000000, 2000000000));
         QVERIFY(!isSaved(bytes, 8, 8, 50, static_cast<SavedPictureType>(2)));
         QVERIFY(!isSaved(bytes, 8, 8, 0));
@@ -119,7 +119,7 @@ private Q_SLOTS:
         QVERIFY(!save(picture, 8, 8, m_folder.filePath(QStringLiteral("no folder/a.jpg"))));
     }
 
-    void replacesWholeOrNotAtAll()
+    void replacesAFileCompletelyOrNotAtAll()
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("0.jpg"));

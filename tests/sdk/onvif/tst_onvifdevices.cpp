@@ -150,7 +150,7 @@ private Q_SLOTS:
         row("wrong password", "192.168.1.103", "wrong", code(NetError::WrongPassword));
         row("wrong password, other login", "192.168.1.104", "wrong", code(NetError::WrongPassword));
         row("factory-new", "192.168.1.108", password, code(NetError::NotSupported));
-        row("nobody there", "192.168.1.199", password, code(NetError::ConnectTimeout));
+        row("no device", "192.168.1.199", password, code(NetError::ConnectTimeout));
     }
 
     void reportsTheReasonOfAFailedLogin()

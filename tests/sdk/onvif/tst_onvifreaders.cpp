@@ -208,7 +208,7 @@ private Q_SLOTS:
         const auto code = [](sdk::NetError error) {
             return static_cast<quint32>(error);
         };
-        row("an answer", envelope("<a xmlns=\"u\"/>"), 200, 0);
+        row("a response", envelope("<a xmlns=\"u\"/>"), 200, 0);
         row("an empty body", envelope({}), 200, code(sdk::NetError::ProtocolMismatch));
         row("a page", "<html><body>Hello</body></html>", 200, code(sdk::NetError::ProtocolMismatch));
         row("no XML, not authorised", "denied", 401, code(sdk::NetError::WrongPassword));
@@ -218,7 +218,7 @@ private Q_SLOTS:
         row("a fault with status 200", fault("ActionNotSupported"), 200, code(sdk::NetError::NotSupported));
         row("a bad value", fault("InvalidArgVal"), 500, code(sdk::NetError::InvalidValue));
         row("another fault", fault("Whatever"), 500, code(sdk::NetError::Refused));
-        row("an answer with an error status", envelope("<a xmlns=\"u\"/>"), 500,
+        row("a response with an error status", envelope("<a xmlns=\"u\"/>"), 500,
             code(sdk::NetError::ProtocolMismatch));
         row("the older envelope",
             R"(<o:Envelope xmlns:o="http://schemas.xmlsoap.org/soap/envelope/"><o:Body><o:Fault>)"

@@ -75,7 +75,7 @@ private Q_SLOTS:
         QVERIFY(initialisationBits(factoryNew.initialisationState) == InitialisationBits::Uninitialised);
     }
 
-    /// Messages that this computer sends to itself represent those of other hosts.
+    /// Messages that this host sends to itself represent those of other hosts.
     void reportsWhatASearchReceived()
     {
         SearchAnswers answers;
@@ -88,7 +88,7 @@ private Q_SLOTS:
         QVERIFY(sockets.open() > 0);
         const QList<std::string> messages = {
             "no message at all", discoveryMessage("Hello", R"(<q:Types xmlns:w="u">w:Printer</q:Types>)"),
-            discoveryMessage("Hello", ""), // nothing of this computer answers at the usual port
+            discoveryMessage("Hello", ""), // this host does not respond at the default port
             discoveryMessage("Hello", "<q:XAddrs>http://192.168.1.101:81/x</q:XAddrs>"),
             discoveryMessage("Bye", "")};
         for (const std::string &message : messages)
@@ -132,7 +132,7 @@ private Q_SLOTS:
     }
 
     /// Factory-new devices have the same address. Each is listed, before the application ends its search,
-    /// also where many accept a connection and do not answer.
+    /// also if many accept a connection and do not respond.
     void listsDevicesThatShareAnAddress()
     {
         constexpr int addresses = 8;

@@ -173,8 +173,8 @@ private Q_SLOTS:
         const auto row = dataTable<Manners, quint32>({"manners", "error"});
         using enum Manner;
         row("usual", Manners{}, 0);
-        row("services do not answer", Manners{{"GetServices", Silent}}, code(NetError::ConnectTimeout));
-        row("profiles do not answer", Manners{{"GetProfiles", Silent}}, code(NetError::ConnectTimeout));
+        row("services do not respond", Manners{{"GetServices", Silent}}, code(NetError::ConnectTimeout));
+        row("profiles do not respond", Manners{{"GetProfiles", Silent}}, code(NetError::ConnectTimeout));
         row("no media service", Manners{{"GetProfiles", Refused}}, 0);
         row("everything open", Manners{{"*", Open}}, code(NetError::NotSupported));
         const Manners partly = {{"GetDeviceInformation", Open}, {"GetUsers", Open}};

@@ -130,7 +130,7 @@ void TestRtspFaults::faultEndsTheStream_data()
     row("no transport", status("SETUP", "461 Unsupported Transport"), "unsupported");
 
     row("stall at the first request", answering("OPTIONS", ""), "no response");
-    row("stall within an answer", answering("DESCRIBE", okay + "Content-Length: 400\r\n\r\nv=0"),
+    row("stall within a response", answering("DESCRIBE", okay + "Content-Length: 400\r\n\r\nv=0"),
         "no response");
     row("stall at the transport", answering("SETUP", ""), "no response");
     row("stall before playing", answering("PLAY", ""), "no response");

@@ -150,7 +150,7 @@ private Q_SLOTS:
     void anInvalidResponseEndsACall_data()
     {
         const auto row = dataTable<int, quint32>({"manner", "error"});
-        row("never answers", Silent, static_cast<quint32>(sdk::NetError::ConnectTimeout));
+        row("never responds", Silent, static_cast<quint32>(sdk::NetError::ConnectTimeout));
         row("never stops", Endless, static_cast<quint32>(sdk::NetError::ProtocolMismatch));
         row("closes in the middle", Closing, static_cast<quint32>(sdk::NetError::NetworkFailure));
         row("redirects", Redirecting, static_cast<quint32>(sdk::NetError::ProtocolMismatch));
@@ -298,7 +298,7 @@ private Q_SLOTS:
     void nothingIsSentToAnotherKey_data()
     {
         const auto row = dataTable<bool, int, quint32>({"hasHandler", "first", "error"});
-        row("nobody decides", false, 0, static_cast<quint32>(sdk::NetError::UnknownCertificate));
+        row("no decision", false, 0, static_cast<quint32>(sdk::NetError::UnknownCertificate));
         row("unknown", true, int(sdk::CertificateVerdict::Unknown),
             static_cast<quint32>(sdk::NetError::UnknownCertificate));
         row("trusted, then changed", true, int(sdk::CertificateVerdict::Trusted), 0);

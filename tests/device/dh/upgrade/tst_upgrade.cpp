@@ -63,7 +63,7 @@ private Q_SLOTS:
         // after: null: the version of the file
         const auto row = dataTable<QString, QString, QString, UpgradeTools::Result, QString>(
             {"before", "inFile", "after", "result", "text"});
-        row("letters after the number", u"2.900.0.R, build 2026-01-01"_s, u"3.000.1"_s,
+        row("characters after the number", u"2.900.0.R, build 2026-01-01"_s, u"3.000.1"_s,
             u"3.000.1.R, build 2026-02-01"_s, UpgradeTools::Success,
             u"升级成功：2.900.0.R, build 2026-01-01 → 3.000.1.R, build 2026-02-01"_s);
         row("the same firmware again", u"3.000.1.R"_s, u"3.000.1"_s, u"3.000.1.R"_s, UpgradeTools::Success,
