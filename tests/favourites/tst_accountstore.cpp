@@ -57,7 +57,7 @@ private Q_SLOTS:
         QCOMPARE(listed(store), "Hall operator hall-1, West admin gate-2");
         QCOMPARE(nameOf(store, {"m1"}), "West"); // its devices follow an account that is renamed
         QCOMPARE(nameOf(store, {"m9", "uuid:3"}), "Hall");
-        QCOMPARE(nameOf(store, {"uuid:2"}), "none"); // the surer identity is there
+        QCOMPARE(nameOf(store, {"uuid:2"}), "none"); // the more reliable identity is known
         QCOMPARE(store.deviceCounts(), (QHash<QString, int>{{"West", 2}, {"Hall", 1}}));
         const QByteArray text = fileContents(m_path);
         QVERIFY(!text.contains("hall-1") && !text.contains("gate-"));
@@ -107,7 +107,7 @@ private Q_SLOTS:
     {
         const auto row = dataTable<QByteArray>({"text"});
         const QByteArray account = "{'name':'Gate','username':'admin','password':'nqDuBsgMB/t7C1f5Yy2bKQ=='}";
-        row("cut", "{'accounts':[" + account);
+        row("truncated", "{'accounts':[" + account);
         row("another kind", "{'accounts':{},'devices':{}}");
         row("empty", "");
         row("no cipher",

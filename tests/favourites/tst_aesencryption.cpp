@@ -108,7 +108,7 @@ private Q_SLOTS:
         row("PKCS#7, count 0", AESEncryption::PKCS7, bytes("616200"), bytes("616200"));
         row("PKCS#7, other bytes before", AESEncryption::PKCS7, bytes("616203"), QByteArray());
         row("ISO, no mark", AESEncryption::ISO, bytes("616200"), bytes("616200"));
-        row("ISO, text behind the mark", AESEncryption::ISO, bytes("61806280ff"), bytes("618062"));
+        row("ISO, data after the mark", AESEncryption::ISO, bytes("61806280ff"), bytes("618062"));
     }
 
     void removesBytesThatLookLikePadding()

@@ -56,7 +56,7 @@ private Q_SLOTS:
         const auto row = dataTable<QString, QString>({"password", "cipherText"});
         row("short", "admin123", "2de7rNKbNWdLWHtGrPU4tw==");
         row("beyond Latin", "pässwörd密码🔑", "km188VPRkWndZfhWHFSTDtY1o0uiZPO59tX/QJVO1xw=");
-        row("whole block", "0123456789abcdef", "Gnk6Ka91S3eEiAjqho6ZCC7UpgM7iaOR3ddz2wZmrfk=");
+        row("complete block", "0123456789abcdef", "Gnk6Ka91S3eEiAjqho6ZCC7UpgM7iaOR3ddz2wZmrfk=");
     }
 
     void enciphersPasswords()
@@ -180,7 +180,7 @@ private Q_SLOTS:
             QString(), QStringList{"", "", "", "", "", "n"});
         row("too long", longest + " ", "文件过大: \"a.json\"", QStringList());
         row("empty", QByteArray(), "文件为空: \"a.json\"", QStringList());
-        row("cut off", QByteArray(R"({"password": "geheim")"),
+        row("truncated", QByteArray(R"({"password": "geheim")"),
             "JSON解析错误 ( \"a.json\" ): \"unterminated string\" at offset 21", QStringList());
         row("deep", QByteArray(100000, '['),
             "JSON解析错误 ( \"a.json\" ): \"too deeply nested document\" at offset 1025", QStringList());

@@ -20,7 +20,7 @@
 class LibraryCalls
 {
 public:
-    /// Returns whether the operation is to succeed.
+    /// Returns true if the operation is to succeed.
     bool add(const QString &operation, const QString &arguments)
     {
         const std::lock_guard lock(m_mutex);
@@ -120,7 +120,7 @@ public:
                picture;
     }
 
-    /// Calls the handler, if one is set, on the calling thread. Returns whether there was one.
+    /// Calls the handler on the calling thread. Returns false if none is set.
     bool deliver(const std::vector<std::uint8_t> &bytes, const sdk::DecodedFrameInformation &information)
     {
         const std::lock_guard lock(m_handlerMutex);
@@ -174,7 +174,7 @@ public:
     [[nodiscard]] std::uint32_t NetGetLastError() const override { return lastError; }
 
     std::atomic<std::uint32_t> lastError = 0;
-    std::mutex mutexOfAnswers; ///< while it is held, the device does not answer a request for a stream
+    std::mutex mutexOfAnswers; ///< while locked, the device does not respond to a request for a stream
 
     bool deliver(const QByteArray &bytes)
     {
@@ -212,7 +212,7 @@ public:
     qint64 loginHandle = 5'000'000'000; // more than 32 bits
 };
 
-/// Counts how often somebody looks at it.
+/// Counts how often it is read.
 class WatchedClock : public sdk::demo::SteppableClock
 {
 public:
@@ -238,7 +238,7 @@ struct FakeLibraries
     }
 };
 
-/// A picture of one colour, given as Y, U and V.
+/// A frame of one colour, given as Y, U and V.
 struct PlainPicture
 {
     PlainPicture(int width, int height, std::uint8_t y, std::uint8_t u, std::uint8_t v,
@@ -260,7 +260,7 @@ struct PlainPicture
     sdk::DecodedFrameInformation information;
 };
 
-/// The texts of the debug messages while it lives, those of the folder under test.
+/// Records the debug messages of the folder under test during its lifetime.
 class MessageLog
 {
 public:

@@ -5,7 +5,7 @@
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/steppableclock.h"
 
-/// Refuses everything; for tests that fill the roles that they need.
+/// Refuses every request. Tests override the operations that they need.
 class QuietNetLibrary : public sdk::demo::DemoNetLibrary
 {
 public:

@@ -1,11 +1,11 @@
-// A sound server whose one output a test listens to.
+// A sound server with one output, which a test records.
 #pragma once
 
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
-/// Runs while it lives, in a folder of its own, and is the one that this process connects to.
+/// Runs during the object's lifetime in a separate folder. This process connects to it.
 class SoundServer
 {
 public:
@@ -30,15 +30,15 @@ public:
                         "--disable-shm=yes", "--realtime=no", "--high-priority=no", "--log-level=error",
                         "--load=module-null-sink " + sink,
                         "--load=module-native-protocol-unix socket=" + socket + " auth-anonymous=1"});
-        // The socket's file is there before the server accepts connections. The toolkit connects only once.
+        // The socket's file exists before the server accepts connections, and Qt connects only once.
         return m_server.waitForStarted() && QTest::qWaitFor([&] { return control({"info"}); }, 10000);
     }
 
-    /// Takes the output away or brings it back.
+    /// Removes or adds the output.
     bool unplug() { return control({"unload-module", "module-null-sink"}); }
     bool plug() { return control(QStringList{"load-module", "module-null-sink"} + sink.split(' ')); }
 
-    /// Hears from now on what the output plays, as one channel of 16-bit samples.
+    /// Starts recording the output as one channel of 16-bit samples.
     bool listen()
     {
         end(m_listener);
@@ -48,7 +48,7 @@ public:
         return m_listener.waitForStarted();
     }
 
-    /// What was heard since listen().
+    /// The samples recorded since listen().
     QByteArray heard()
     {
         m_heard += m_listener.readAllStandardOutput();

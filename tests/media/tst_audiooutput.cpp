@@ -14,7 +14,7 @@ const QString overflow =
 
 } // namespace
 
-/// Sound where there is no output. What is heard is in tst_sound.
+/// Sound without an output device. tst_sound checks the played sound.
 class TestAudioOutput : public QObject
 {
     Q_OBJECT
@@ -27,18 +27,18 @@ private Q_SLOTS:
 
     void cleanupTestCase() { CDeviceFactory::deleteInstance(); }
 
-    void dropsWhatHasNoRoom_data()
+    void dropsDataThatDoesNotFit_data()
     {
         const auto row = dataTable<QList<int>, int, int>({"pieces", "fill", "drops"});
         row("one byte below the limit", QList<int>{102399}, 102399, 0);
         row("exactly the limit", QList<int>{102400}, 0, 1);
         row("reaches the limit exactly", QList<int>{102000, 400}, 102000, 1);
-        row("a smaller one behind a dropped one", QList<int>{102000, 400, 399}, 102399, 1);
+        row("a smaller chunk after a dropped one", QList<int>{102000, 400, 399}, 102399, 1);
         row("beyond 32 bits", QList<int>{1000, 0x7fffffff}, 1000, 1);
         row("negative", QList<int>{1000, -1000}, 1000, 1);
     }
 
-    void dropsWhatHasNoRoom()
+    void dropsDataThatDoesNotFit()
     {
         QFETCH(QList<int>, pieces);
         QFETCH(int, drops);
@@ -52,11 +52,11 @@ private Q_SLOTS:
         QTEST(audio.fill(), "fill");
         QCOMPARE(pushed, pieces.size());
         QCOMPARE(log.take().count(overflow), drops);
-        audio.drain(); // without an output what was gathered is let go
+        audio.drain(); // without an output the buffered data is discarded
         QCOMPARE(audio.fill(), 0);
     }
 
-    void onlyAViewWithSoundListens()
+    void onlyAViewWithSoundReceivesData()
     {
         FakeLibraries fake;
         VideoItem::registerLibraries(fake.libraries());

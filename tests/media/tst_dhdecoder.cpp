@@ -20,7 +20,7 @@ public:
         ++count;
     }
 
-    int count = 0; ///< the decoder's thread writes it, others read it after Stop()
+    int count = 0; ///< written on the decoder's thread, read by others after Stop()
 };
 
 const std::uint8_t *bytesOf(const char *text)
@@ -42,7 +42,7 @@ private Q_SLOTS:
         QVERIFY(decoder.Start());
         const QByteArray piece(1000, 'x');
         const PlainPicture picture(4, 2, 16, 128, 128);
-        for (int picturesShown = 0; picturesShown < 60; ++picturesShown) { // 20 a second for three seconds
+        for (int picturesShown = 0; picturesShown < 60; ++picturesShown) { // 20 per second for three seconds
             decoder.inputData(bytesOf(piece.constData()), 1000);
             fake.decoder->deliver(picture.bytes, picture.information);
             fake.clock->advance(50ms);
@@ -56,7 +56,7 @@ private Q_SLOTS:
         QCOMPARE(figures.damages, 2U);
         QCOMPARE(figures.skippedPictures, 3U);
 
-        fake.clock->advance(500ms); // nothing comes any more
+        fake.clock->advance(500ms); // no data arrives any more
         QCOMPARE(decoder.figures().picturesASecond, 10.0);
         fake.clock->advance(5000ms);
         QCOMPARE(decoder.figures().picturesASecond, 0.0);
@@ -64,8 +64,8 @@ private Q_SLOTS:
         QCOMPARE(decoder.figures().videoCodec, QString());
     }
 
-    /// Data and pictures come from two threads while a third one starts and stops.
-    void aStoppedDecoderCallsNobody()
+    /// Two threads deliver data and frames while a third one starts and stops the decoder.
+    void aStoppedDecoderCallsNoHandler()
     {
         FakeLibraries fake;
         CountingObserver observer;

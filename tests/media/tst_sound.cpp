@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// How loud a tone is in the newest half second, 0 to 1; 0 when less was heard.
+/// The loudness of a tone in the last half second, 0 to 1; 0 if less was recorded.
 double loudness(const QByteArray &heard, double frequency)
 {
     constexpr int count = SoundServer::rate / 2;
@@ -34,7 +34,7 @@ double loudness(const QByteArray &heard, double frequency)
     return 2 * std::hypot(sine, cosine) / count / 32768;
 }
 
-/// A decoder's thread that delivers a tone as it goes on, 20 ms at a time.
+/// A decoder's thread that delivers a continuous tone in chunks of 20 ms.
 class Tone
 {
 public:
@@ -57,7 +57,7 @@ public:
                                           .rate = rate,
                                           .colour = {}});
                   next += 20ms;
-                  std::this_thread::sleep_until(next); // the pace of the sound
+                  std::this_thread::sleep_until(next); // the rate of the sound
               }
           })
     {
@@ -69,7 +69,7 @@ private:
 
 } // namespace
 
-/// What is heard of a live view, on a sound server of the test's own.
+/// The played sound of a live view, on a private sound server.
 class TestSound : public QObject
 {
     Q_OBJECT
@@ -93,7 +93,7 @@ private Q_SLOTS:
 
     void init()
     {
-        cleanup(); // it does not run when this function fails
+        cleanup(); // not called by Qt if this function fails
         m_fake = std::make_unique<FakeLibraries>();
         VideoItem::registerLibraries(m_fake->libraries());
         m_item = std::make_unique<VideoItem>();
@@ -114,14 +114,14 @@ private Q_SLOTS:
         AudioOutput::letGo();
     }
 
-    void isHeard_data()
+    void aToneIsPlayed_data()
     {
         QTest::addColumn<int>("rate");
         QTest::newRow("8 kHz") << 8000;
         QTest::newRow("48 kHz") << 48000;
     }
 
-    void isHeard()
+    void aToneIsPlayed()
     {
         QFETCH(int, rate);
         m_item->setIsAudioOutput(true);
@@ -132,7 +132,7 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(loudness(m_server.heard(), 440) < 0.01, 10000);
     }
 
-    void aNewRateInMidStreamIsHeardAtItsPitch()
+    void aNewSampleRateKeepsThePitch()
     {
         m_item->setIsAudioOutput(true);
         {
@@ -143,7 +143,7 @@ private Q_SLOTS:
         QVERIFY(hears(600));
     }
 
-    void comesBackWithTheOutput()
+    void continuesWhenTheOutputReturns()
     {
         m_item->setIsAudioOutput(true);
         const Tone tone(*m_fake->decoder, 8000, 440);

@@ -21,7 +21,7 @@ const QString streamAsked = "NetStartRealStream(5000000000, 2, 0, 0)";
 const QString handlerSet = "NetSetRealDataCallback(77, handler, 1)";
 const QStringList streamStopped = {"NetSetRealDataCallback(77, null, 1)", "NetStopRealStream(77)"};
 
-/// Runs `call` on a thread as a library has one, and waits for it.
+/// Runs `call` on another thread, as a library does, and waits for its end.
 template<typename Call>
 void onAnotherThread(const Call &call)
 {
@@ -30,7 +30,7 @@ void onAnotherThread(const Call &call)
 
 } // namespace
 
-/// What a live view asks of the libraries and tells the scene. What it draws is in tst_videopicture.
+/// Calls of a live view to the libraries, and its signals. tst_videopicture checks the drawing.
 class TestVideoItem : public QObject
 {
     Q_OBJECT
@@ -74,14 +74,14 @@ private Q_SLOTS:
 
     void startsAndStopsStepByStep_data()
     {
-        // started: calls behind those that start the decoder
+        // started: calls after those that start the decoder
         const auto row = dataTable<QString, QString, QStringList, QStringList, QStringList>(
             {"failing", "text", "started", "stopped", "log"});
         row("all well", "", "", QStringList{streamAsked, handlerSet, "NetStreamFollowUp(77, 2, 0)"},
             streamStopped + decoderStopped, QStringList{"m_lRealHandle 77", "lRealHandle 77"});
         row("stream refused", "NetStartRealStream", "播放失败", (QStringList{streamAsked} + decoderStopped),
             QStringList(), QStringList{"m_lRealHandle 0", "open stream fail"});
-        // The stream that was opened is closed by stop().
+        // stop() closes the open stream.
         row("handler refused", "NetSetRealDataCallback", "播放失败",
             (QStringList{streamAsked, handlerSet} + decoderStopped), streamStopped,
             QStringList{"m_lRealHandle 77", "lRealHandle 77", "open failed"});
@@ -115,7 +115,7 @@ private Q_SLOTS:
         QCOMPARE(m_fake->calls.take(), QStringList());
 
         m_fake->calls.failOnly({});
-        QVERIFY(m_item->start()); // a good start takes the complaint back
+        QVERIFY(m_item->start()); // a successful start clears the error
         QCOMPARE(m_item->text(), QString());
     }
 
@@ -124,7 +124,7 @@ private Q_SLOTS:
         QSignalSpy ended(m_item.get(), &VideoItem::startEnded);
         {
             const std::lock_guard noAnswer(m_fake->net->mutexOfAnswers);
-            m_item->startInBackground(); // returns all the same
+            m_item->startInBackground(); // returns immediately
             QCOMPARE(m_fake->calls.take(), decoderStarted);
             QVERIFY(!m_item->isStreaming());
         }
@@ -136,7 +136,7 @@ private Q_SLOTS:
         m_fake->calls.take();
     }
 
-    void saysWhyThereIsNoStream_data()
+    void reportsWhyThereIsNoStream_data()
     {
         const auto row = dataTable<sdk::NetError, QString, bool>({"error", "text", "mayTryOther"});
         row("unknown", sdk::NetError::None, "播放失败", true);
@@ -147,7 +147,7 @@ private Q_SLOTS:
         row("too many streams", sdk::NetError::DeviceBusy, "播放失败：设备忙，请稍后重试", false);
     }
 
-    void saysWhyThereIsNoStream()
+    void reportsWhyThereIsNoStream()
     {
         QFETCH(const sdk::NetError, error);
         QFETCH(const bool, mayTryOther);
@@ -161,14 +161,14 @@ private Q_SLOTS:
     }
 
     /// The stream that is there in the end belongs to nobody and is closed.
-    void aStopOrTheEndOfTheViewComesBeforeTheAnswer_data()
+    void aStopBeforeTheResponseClosesTheStream_data()
     {
         const auto row = dataTable<bool>({"isStopped"});
         row("stopped", true);
         row("destroyed", false);
     }
 
-    void aStopOrTheEndOfTheViewComesBeforeTheAnswer()
+    void aStopBeforeTheResponseClosesTheStream()
     {
         QFETCH(bool, isStopped);
         QSignalSpy ended(m_item.get(), &VideoItem::startEnded);
@@ -213,8 +213,8 @@ private Q_SLOTS:
         QCOMPARE(m_fake->calls.take(), streamStopped + decoderStopped);
     }
 
-    /// Whether the item tries again is the scene's affair.
-    void saysWhyAStreamHasEnded()
+    /// QML decides about a retry.
+    void reportsWhyAStreamHasEnded()
     {
         QVERIFY(m_item->start());
         QSignalSpy failures(m_item.get(), &VideoItem::videoErrorSig);
@@ -225,14 +225,14 @@ private Q_SLOTS:
         m_item->stop();
         QCOMPARE(m_item->text(), QString("设备结束了视频流"));
 
-        QVERIFY(m_item->start()); // a good start takes it back
+        QVERIFY(m_item->start()); // a successful start clears the reason
         onAnotherThread([this] { m_fake->net->endStream(sdk::StreamEndReason::Refused); });
-        m_item->stop(); // before the item has heard of it
+        m_item->stop(); // before the item has received the event
         QCoreApplication::processEvents();
         QCOMPARE(m_item->text(), QString());
     }
 
-    void tellsThePicture()
+    void reportsSizeAndRateOfFrames()
     {
         QSignalSpy info(m_item.get(), &VideoItem::videoInfoChangedSig);
         QSignalSpy pictures(m_item.get(), &VideoItem::sigVideoDataChanged);
@@ -254,12 +254,13 @@ private Q_SLOTS:
         QCOMPARE(m_item->pictureSize(), QSize(0, 0));
         QVERIFY(!m_item->hasPicture());
         QCOMPARE(info.size(), 3);
-        QCoreApplication::processEvents(); // what the decoder had posted
+        QCoreApplication::processEvents(); // events posted by the decoder
         QCOMPARE(m_item->pictureSize(), QSize(0, 0));
     }
 
-    /// The decoder's bytes have ended when stop() returns, also those of a picture that came meanwhile.
-    void nothingIsLeftOfAStoppedStream()
+    /// No buffer of the decoder is used after stop() has returned, including that of a frame that arrived
+    /// meanwhile.
+    void aStoppedStreamLeavesNothing()
     {
         QVERIFY(m_item->start());
         deliver({6, 4, 50, 128, 128});
@@ -275,7 +276,7 @@ private Q_SLOTS:
         QVERIFY(!m_fake->net->deliver("late"));
     }
 
-    void believesNoSize_data()
+    void ignoresInvalidSizes_data()
     {
         const auto row = dataTable<int, int, int>({"width", "height", "bytes"});
         row("a byte short", 5, 3, 15 + 2 * 6 - 1);
@@ -283,7 +284,7 @@ private Q_SLOTS:
         row("overflowing", 65536, 65536, 12);
     }
 
-    void believesNoSize()
+    void ignoresInvalidSizes()
     {
         QFETCH(int, width);
         QFETCH(int, height);
@@ -298,8 +299,8 @@ private Q_SLOTS:
         QVERIFY(!m_item->savePicture("x.jpg", 50));
     }
 
-    /// A view that is never shown, on a thread that sleeps between its tries, as snapshots need it.
-    void savesThePictureOfAHiddenView()
+    /// A view that is never shown, used on a thread that sleeps between attempts, as for snapshots.
+    void savesAFrameOfAHiddenView()
     {
         QStringList results;
         const std::unique_ptr<QThread> thread(QThread::create([&] {

@@ -17,7 +17,7 @@ namespace {
 constexpr QSize viewSize(320, 180);
 const QColor background(10, 200, 30);
 
-/// What a picture of one colour looks like: exact arithmetic on the values.
+/// The exact RGB colour of a frame of one colour.
 QColor expected(int y, int u, int v, sdk::PictureColour colour)
 {
     const bool full = colour == sdk::PictureColour::Bt601Full || colour == sdk::PictureColour::Bt709Full;
@@ -36,7 +36,7 @@ QColor expected(int y, int u, int v, sdk::PictureColour colour)
     return {bounded(r), bounded(g), bounded(b)};
 }
 
-/// The kind of context that the scene is to have: "core", "es2", "es3", or the usual one.
+/// The OpenGL context of the window: "core", "es2", "es3", or the default.
 QByteArray wantedContext()
 {
     return qgetenv("CONFIGTOOLS_TEST_CONTEXT");
@@ -48,7 +48,7 @@ bool isLike(const QColor &one, const QColor &other)
            std::abs(one.blue() - other.blue()) <= 3;
 }
 
-/// Grey tones from 60 on, a step for each of the cells that the picture is cut into.
+/// Grey levels from 60 on, one for each cell of the frame.
 PlainPicture cells(int width, int height, int columns, int rows)
 {
     PlainPicture picture(width, height, 0, 128, 128, sdk::PictureColour::Bt601Full);
@@ -62,7 +62,7 @@ PlainPicture cells(int width, int height, int columns, int rows)
 
 } // namespace
 
-/// The pixels of a live view in a window, by OpenGL. The window's own colour is seen where it draws nothing.
+/// The pixels of a live view in a window with OpenGL. The window's colour shows where the view draws nothing.
 class TestVideoPicture : public QObject
 {
     Q_OBJECT
@@ -82,13 +82,13 @@ private:
         QCoreApplication::sendPostedEvents(m_item, QEvent::MetaCall);
     }
 
-    /// The colour at a point, in parts of the view.
+    /// The colour at a point, in fractions of the view.
     [[nodiscard]] QColor at(double x, double y) const
     {
         return m_seen.pixelColor(int(x * m_seen.width()), int(y * m_seen.height()));
     }
 
-    /// Empty when the view has the colour there, else what it has.
+    /// Empty if the view has the colour there; otherwise the actual colour.
     [[nodiscard]] QString instead(double x, double y, const QColor &wanted) const
     {
         return isLike(at(x, y), wanted) ? QString() : at(x, y).name() + " instead of " + wanted.name();
@@ -98,7 +98,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
-        QVERIFY(QDir::setCurrent(CONFIGTOOLS_PROGRAM_DIRECTORY)); // where the shaders are
+        QVERIFY(QDir::setCurrent(CONFIGTOOLS_PROGRAM_DIRECTORY)); // contains the shaders
         CDeviceFactory::registerBackEnd("dh", [] { return std::make_shared<SessionBackEnd>(); });
     }
 
@@ -131,7 +131,7 @@ private Q_SLOTS:
 
     void cleanupTestCase() { CDeviceFactory::deleteInstance(); }
 
-    void showsColours_data()
+    void showsTheColoursOfAFrame_data()
     {
         const auto addRow = dataTable<int, int, int, int>({"colour", "y", "u", "v"});
         const QList<QByteArray> names = {"BT.601 limited", "BT.601 full", "BT.709 limited", "BT.709 full"};
@@ -148,7 +148,7 @@ private Q_SLOTS:
         }
     }
 
-    void showsColours()
+    void showsTheColoursOfAFrame()
     {
         QFETCH(int, colour);
         QFETCH(int, y);
@@ -163,9 +163,9 @@ private Q_SLOTS:
         QCOMPARE(instead(0.99, 0.99, wanted), QString());
     }
 
-    /// Lines that are no multiple of the graphics driver's own alignment, and half a sample of U and V at the
-    /// edges. The last column of U and V has a colour of its own and must stay at the edge.
-    void showsOddSizes_data()
+    /// Lines that are not a multiple of the graphics driver's alignment, and half a sample of U and V at the
+    /// edges. The last column of U and V has a different colour and must remain at the edge.
+    void showsFramesOfOddSizes_data()
     {
         const auto row = dataTable<QSize>({"size"});
         row("odd both ways", QSize(33, 17));
@@ -173,7 +173,7 @@ private Q_SLOTS:
         row("one pixel", QSize(1, 1));
     }
 
-    void showsOddSizes()
+    void showsFramesOfOddSizes()
     {
         QFETCH(QSize, size);
         m_item->setFillMode(VideoItem::Stretch);
@@ -196,7 +196,7 @@ private Q_SLOTS:
         m_seen = m_window->grabWindow();
         const QColor red = expected(120, 128, 200, sdk::PictureColour::Bt601Limited);
         QCOMPARE(instead(0.999, 0.5, red), QString());
-        // The sample before the last one has its middle so far to the left.
+        // The centre of the second last sample is that far to the left.
         const double grayFrom = (2.0 * (chromaWidth - 2) + 1) / size.width();
         QCOMPARE(instead(grayFrom - 0.005, 0.5, grey), QString());
         const double halfway = 2.0 * (chromaWidth - 1) / size.width();
@@ -204,12 +204,12 @@ private Q_SLOTS:
         QVERIFY(std::abs(at(halfway, 0.5).red() - mixed.red()) < 12);
     }
 
-    void fillsTheViewOrKeepsItsShape()
+    void fillsTheViewOrKeepsTheAspectRatio()
     {
         deliver(cells(60, 60, 2, 2));
         m_seen = m_window->grabWindow();
         // As high as the view, 180 pixels wide in the middle of 320: from 0.219 to 0.781.
-        QCOMPARE(instead(0.2, 0.5, background), QString()); // transparent beside it
+        QCOMPARE(instead(0.2, 0.5, background), QString()); // transparent next to it
         QCOMPARE(instead(0.8, 0.5, background), QString());
         QCOMPARE(instead(0.3, 0.2, QColor(60, 60, 60)), QString()); // upright, not mirrored
         QCOMPARE(instead(0.7, 0.2, QColor(100, 100, 100)), QString());
@@ -222,14 +222,14 @@ private Q_SLOTS:
         QCOMPARE(instead(0.99, 0.9, QColor(180, 180, 180)), QString());
     }
 
-    void takesANewSizeInMidStream()
+    void showsANewFrameSizeDuringAStream()
     {
         deliver({64, 36, 60, 128, 128, sdk::PictureColour::Bt601Full});
         QVERIFY(isLike(m_window->grabWindow().pixelColor(160, 90), QColor(60, 60, 60)));
-        m_delivered.last().bytes.assign(m_delivered.last().bytes.size(), 128); // the decoder's next picture
+        m_delivered.last().bytes.assign(m_delivered.last().bytes.size(), 128); // the decoder's next frame
         m_item->update();
         QVERIFY(isLike(m_window->grabWindow().pixelColor(160, 90),
-                       QColor(60, 60, 60))); // a paint reads none again
+                       QColor(60, 60, 60))); // painting again reads no frame
         deliver({128, 72, 150, 128, 128, sdk::PictureColour::Bt601Full});
         m_seen = m_window->grabWindow();
         QCOMPARE(instead(0.99, 0.99, QColor(150, 150, 150)), QString());
@@ -246,7 +246,7 @@ private Q_SLOTS:
         QCOMPARE(instead(0.5, 0.5, QColor(200, 200, 200)), QString());
     }
 
-    void isEmptyWithoutAPicture()
+    void isEmptyWithoutAFrame()
     {
         QVERIFY(isLike(m_window->grabWindow().pixelColor(160, 90), background));
         deliver({64, 36, 60, 128, 128});
@@ -255,19 +255,20 @@ private Q_SLOTS:
         m_delivered.clear(); // the decoder's buffers have ended
         QVERIFY(isLike(m_window->grabWindow().pixelColor(160, 90), background));
         QVERIFY(m_item->start());
-        QVERIFY(isLike(m_window->grabWindow().pixelColor(160, 90), background)); // nothing of before
+        QVERIFY(
+            isLike(m_window->grabWindow().pixelColor(160, 90), background)); // nothing of the earlier frame
         deliver({64, 36, 200, 128, 128, sdk::PictureColour::Bt601Full});
         QVERIFY(isLike(m_window->grabWindow().pixelColor(160, 90), QColor(200, 200, 200)));
     }
 
-    void findsShadersBesideTheProgram_data()
+    void findsTheShadersOfTheApplication_data()
     {
         const auto row = dataTable<bool>({"areThere"});
         row("missing", false);
-        row("beside the program", true);
+        row("next to the application", true);
     }
 
-    void findsShadersBesideTheProgram()
+    void findsTheShadersOfTheApplication()
     {
         QFETCH(bool, areThere);
         QDir program(QCoreApplication::applicationDirPath());
@@ -278,7 +279,7 @@ private Q_SLOTS:
         QVERIFY(QDir::setCurrent(QDir::rootPath()));
         MessageLog log;
         delete m_item;
-        m_item = new VideoItem(m_window->contentItem()); // with a renderer of its own
+        m_item = new VideoItem(m_window->contentItem()); // with a separate renderer
         m_item->setSize(viewSize);
         QVERIFY(m_item->start());
         deliver({64, 36, 60, 128, 128, sdk::PictureColour::Bt601Full});

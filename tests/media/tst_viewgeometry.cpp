@@ -7,7 +7,7 @@ namespace {
 
 constexpr QSizeF view(640, 360);
 
-/// The point of the scene that is shown at a point of the view.
+/// The point of the frame that is shown at a point of the view.
 QPointF sceneAt(const ViewGeometry &geometry, const QPointF &point)
 {
     return {geometry.centre().x() + (point.x() / view.width() - 0.5) / geometry.scale(),
@@ -25,7 +25,7 @@ class TestViewGeometry : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void levelsEndAtTheirLimits_data()
+    void zoomLevelsAreLimited_data()
     {
         const auto row = dataTable<QList<double>, int>({"steps", "level"});
         row("one notch", QList<double>{1}, 1);
@@ -36,7 +36,7 @@ private Q_SLOTS:
         row("far out of range", QList<double>{1e300, -1e300, INFINITY}, 20);
     }
 
-    void levelsEndAtTheirLimits()
+    void zoomLevelsAreLimited()
     {
         QFETCH(QList<double>, steps);
         ViewGeometry geometry;
@@ -47,7 +47,7 @@ private Q_SLOTS:
     }
 
     /// Zooming in never touches the limits of the window; zooming out again may.
-    void thePointUnderThePointerStays()
+    void zoomingKeepsThePointUnderThePointer()
     {
         for (const QPointF anchor : {QPointF(320, 180), QPointF(0, 0), QPointF(640, 10), QPointF(100, 300)}) {
             ViewGeometry geometry;
@@ -61,7 +61,7 @@ private Q_SLOTS:
         }
     }
 
-    void theWindowStaysInside_data()
+    void theVisiblePartStaysInsideTheFrame_data()
     {
         const auto row = dataTable<int, QPointF, QPointF>({"level", "drag", "centre"});
         const double half = 0.5 / std::pow(1.2, 4);
@@ -72,7 +72,7 @@ private Q_SLOTS:
         row("no number", 4, QPointF(std::nan(""), 10), QPointF(0.5, 0.5));
     }
 
-    void theWindowStaysInside()
+    void theVisiblePartStaysInsideTheFrame()
     {
         QFETCH(int, level);
         QFETCH(QPointF, drag);
