@@ -1,4 +1,4 @@
-// A window of the program's own QML, for the tests of single pieces of it.
+// A window with QML of the application, for tests of single components.
 #pragma once
 
 #include <QHash>
@@ -18,8 +18,8 @@ Q_IMPORT_QML_PLUGIN(DateTimeValidatorPlugin)
 Q_IMPORT_QML_PLUGIN(VideoItemPlugin)
 Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
 
-/// Opens a window with `content`, drawn without OpenGL. The scene reads `objects`, which are not taken over,
-/// by their names. Null on failure, with a warning that says why.
+/// Opens a window with the QML `content`, drawn without OpenGL. QML accesses `objects` by name; the caller
+/// keeps ownership. Null on failure, with a warning.
 inline std::unique_ptr<QQuickWindow> openScene(QQmlEngine &engine, const QByteArray &content,
                                                const QHash<QString, QObject *> &objects = {})
 {
@@ -44,7 +44,7 @@ enum class Sight
     Visible
 };
 
-/// The first item below `item` with this object name, or the first that can be seen; null when there is none.
+/// The first item below `item` with this object name, or the first visible one; null if there is none.
 inline QQuickItem *findBelow(QQuickItem *item, const QString &name, Sight sight)
 {
     if (sight == Sight::Visible && !item->isVisible())

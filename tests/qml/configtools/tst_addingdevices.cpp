@@ -29,7 +29,7 @@ QStringList argumentsOf(const QSignalSpy &spy)
     return texts;
 }
 
-/// Devices that are added when a test lets them.
+/// A back end whose devices are added when the test opens the gate.
 class GatedDevices : public CDeviceBase
 {
 public:
@@ -37,8 +37,8 @@ public:
 
     QStringList asked; ///< "address password"
     DeviceToAdd last;
-    StepOutcome outcome; ///< of a device whose password is not "wrong"
-    QSemaphore gate;     ///< lets one device be added for each of its resources
+    StepOutcome outcome; ///< result unless the password is "wrong"
+    QSemaphore gate;     ///< each resource lets one device be added
     QThreadPool threads;
 
     QVariant getConfigData(const QString &, const QVariant &) override
@@ -113,7 +113,7 @@ private Q_SLOTS:
         m_threads.reset();
     }
 
-    void refusesWhatIsMissing_data()
+    void missingInputIsRefused_data()
     {
         // fields: name, text, name, text, ...
         const auto row = dataTable<QString, QStringList, QString>({"opener", "fields", "message"});
@@ -128,14 +128,14 @@ private Q_SLOTS:
             "端口范围为1到65535");
     }
 
-    void refusesWhatIsMissing()
+    void missingInputIsRefused()
     {
         QFETCH(QString, opener);
         QFETCH(QStringList, fields);
         QFETCH(QString, message);
         open(opener, fields);
         press("accept");
-        // It is said once, at the field that gets the keyboard.
+        // The message is shown once, at the field that gets the focus.
         QQuickItem *words = findBelow(m_window->contentItem(), "fieldMessage", Sight::Visible);
         QVERIFY(words);
         QCOMPARE(words->property("text").toString(), message);
@@ -145,9 +145,9 @@ private Q_SLOTS:
         QCOMPARE(m_devices->asked, QStringList());
     }
 
-    void addsByHand_data()
+    void aDeviceIsAddedByHand_data()
     {
-        // fieldMessage: at one of the fields of the dialog, which stays
+        // fieldMessage: shown in the dialog, which remains open
         const auto row =
             dataTable<QString, StepOutcome, QString, QString>({"opener", "outcome", "said", "fieldMessage"});
         row("address", "openIp", {}, "设备已添加/1", "");
@@ -157,7 +157,7 @@ private Q_SLOTS:
         row("ID, no port", "openP2p", {.result = 5, .text = "no port"}, "", "");
     }
 
-    void addsByHand()
+    void aDeviceIsAddedByHand()
     {
         QFETCH(QString, opener);
         QFETCH(QString, said);
@@ -165,9 +165,9 @@ private Q_SLOTS:
         m_devices->outcome = outcome;
         open(opener, filled());
         press("accept");
-        press("accept"); // more of them do nothing
+        press("accept"); // further clicks have no effect
         const QSignalSpy painted(m_window.get(), &QQuickWindow::frameSwapped);
-        for (qsizetype frames = 0; frames < 5; ++frames) { // the window goes on
+        for (qsizetype frames = 0; frames < 5; ++frames) { // the window still handles events
             m_window->update();
             QTRY_VERIFY(painted.size() > frames);
         }
@@ -199,20 +199,20 @@ private Q_SLOTS:
         m_devices->threads.waitForDone();
         QCoreApplication::processEvents();
         QVERIFY(m_said->isEmpty() && m_added->isEmpty());
-        open("openIp", filled()); // and another one can be added
+        open("openIp", filled()); // another device can be added
         press("accept");
         m_devices->gate.release();
         QTRY_COMPARE(argumentsOf(*m_said), QStringList("设备已添加/1"));
     }
 
-    void savesFavourites_data()
+    void favouritesAreSaved_data()
     {
         const auto row = dataTable<bool, QString>({"writable", "said"});
         row("saved", true, "设备已添加，并保存到收藏夹/1");
         row("cannot be saved", false, "设备已添加，但无法保存到收藏夹，请检查程序所在文件夹的写入权限/2");
     }
 
-    void savesFavourites()
+    void favouritesAreSaved()
     {
         QFETCH(bool, writable);
         if (!writable) {
@@ -234,8 +234,8 @@ private Q_SLOTS:
                                       QString(50, 'n')}));
     }
 
-    /// They go on when the window is closed, and the window shows the results when it is opened again.
-    void addsFavourites()
+    /// Adding continues after the window is closed. The window shows the results when it is opened again.
+    void favouritesAreAdded()
     {
         const CAuthor author;
         for (const auto &[id, password] : {std::pair("OV1", "wrong"), {"OV2", "p"}, {"OV3", "p"}})
@@ -260,7 +260,7 @@ private Q_SLOTS:
         QTRY_COMPARE(words(), QStringList({"密码错误", running, running}));
         QMetaObject::invokeMethod(window, "reject");
         QTRY_VERIFY(!window->property("visible").toBool());
-        // A device that is added by hand would come between them.
+        // A device added by hand would interrupt them.
         open("openIp", filled());
         press("accept");
         QVERIFY(findBelow(m_window->contentItem(), "dialogNotice", Sight::Visible)
@@ -279,8 +279,8 @@ private Q_SLOTS:
         QVERIFY(!m_site->busyState()->areRowsHeld());
     }
 
-    /// What may be typed into a note is limited; a note that came from elsewhere is not.
-    void aLongNoteIsNotCut()
+    /// Typed notes are limited in length; notes from other sources are not.
+    void aLongNoteIsNotTruncated()
     {
         const CAuthor author;
         const QString note = QString(300, 'n');

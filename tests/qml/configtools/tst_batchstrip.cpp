@@ -1,5 +1,5 @@
-// The foot of a page over the batches of the session: what it says and offers while one runs, while it is
-// held and after its end, and the file of its results.
+// The batch bar of a page: its text and buttons while a batch runs, while it is paused and after its end, and
+// the file of results.
 #include "device/batch/batches.h"
 #include "device/models/devicetablemodel.h"
 #include "device/models/treemodel.h"
@@ -40,7 +40,7 @@ using Results = QList<int>;
 
 } // namespace
 
-/// The box in which the user names a file: answers at once with the test's path.
+/// A replacement of the file dialog that returns the test's path immediately.
 class ChosenFile : public QObject
 {
     Q_OBJECT
@@ -67,7 +67,7 @@ private:
     std::unique_ptr<QQuickWindow> m_window;
     ChosenFile m_file;
     int m_resultAgain = 0;
-    QSemaphore m_gate; ///< lets one step end for each of its resources
+    QSemaphore m_gate; ///< each resource lets one step end
 
     [[nodiscard]] QQuickItem *find(const QByteArray &name) const
     {
@@ -83,7 +83,7 @@ private:
         QVERIFY2(find(button) && find(button)->isEnabled(), button.constData());
         QVERIFY(QMetaObject::invokeMethod(find(button), "clicked"));
     }
-    /// The controls that can be seen, of those that depend on the batch.
+    /// The visible controls that depend on the batch.
     [[nodiscard]] QStringList shown() const
     {
         QStringList names = {"continueButton",     "stopButton",        "retryFailedButton",
@@ -162,13 +162,13 @@ private Q_SLOTS:
         m_gate.acquire(m_gate.available());
     }
 
-    void aHeldBatchAsks_data()
+    void aPausedBatchAsksTheUser_data()
     {
         const auto row = dataTable<QByteArray, QString>({"button", "outcome"});
         row("go on", QByteArray("continueButton"), QStringLiteral("Work：1 台设备成功，2 台设备失败"));
         row("stop", QByteArray("stopButton"), QStringLiteral("Work：2 台设备失败，1 台设备未执行"));
     }
-    void aHeldBatchAsks()
+    void aPausedBatchAsksTheUser()
     {
         QFETCH(QByteArray, button);
         QFETCH(QString, outcome);
@@ -182,7 +182,7 @@ private Q_SLOTS:
         QTRY_COMPARE(text("footWarning"), outcome);
     }
 
-    void theEndOffersWhatHelps_data()
+    void theEndOffersFurtherActions_data()
     {
         const auto row = dataTable<Results, QStringList>({"results", "offered"});
         const QStringList always = {"saveResultsButton", "batchPanelButton"};
@@ -192,7 +192,7 @@ private Q_SLOTS:
             QStringList{"retryFailedButton", "selectFailedButton"} + always);
         row("next step to come", Results{-1, networkFailure, 0}, QStringList("selectFailedButton") + always);
     }
-    void theEndOffersWhatHelps()
+    void theEndOffersFurtherActions()
     {
         QFETCH(Results, results);
         QFETCH(QStringList, offered);
@@ -200,11 +200,11 @@ private Q_SLOTS:
         QTRY_COMPARE(shown(), offered);
     }
 
-    void failedDevicesAreTickedAndTriedAgain()
+    void failedDevicesAreTickedAndRetried()
     {
         m_table->setAllChecked(true);
         m_tree->setCheckedDevices({"m1", "m3"});
-        m_tree->resetItems("search", "10.0.0.1"); // hides the others
+        m_tree->resetItems("search", "10.0.0.1"); // hides the other devices
         Batch *batch = run({0, networkFailure, 0});
         QVERIFY(m_batches->failedMarks()->contains("m2") && m_batches->failedMarks()->count() == 1);
         press("selectFailedButton");
@@ -263,7 +263,7 @@ private Q_SLOTS:
             const QStringList lines = QString::fromUtf8(fileContents(m_file.path)).split("\r\n");
             QCOMPARE(lines.size(), 5);
             QCOMPARE(lines.at(0), "\"" + header.split(',').join("\",\"") + "\"");
-            // A name is no formula.
+            // A name is not interpreted as a formula.
             QCOMPARE(lines.at(2),
                      QStringLiteral("\"10.0.0.2:37777\",\"m2\",\"'=门,\"\"2\"\"\",\"Work\",\"%1\",\"%2\"")
                          .arg(line.at(4), time));
@@ -277,7 +277,7 @@ private Q_SLOTS:
             QCOMPARE(workbook.usedRowCount(), 4);
         }
 
-        // On a full disk the file stays as it was, and the user learns why.
+        // On a full disk the file is not changed, and the user gets the reason.
         const QByteArray before = fileContents(m_file.path);
         {
             const FileSizeLimit limit(16);

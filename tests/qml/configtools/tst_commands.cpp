@@ -1,5 +1,4 @@
-// The field of a command with what it offers, the sending of a row's command, and the bubble that shows an
-// answer.
+// The command field with its suggestions, sending the command of a row, and the tool tip with the response.
 #include "device/models/devicetablemodel.h"
 #include "tests/cgi/commandsite.h"
 #include "tests/datatable.h"
@@ -33,7 +32,7 @@ const char *const page = "    width: 1280; height: 720; visible: true\n"
 
 } // namespace
 
-/// Stands for the object that remembers commands.
+/// A replacement of the command history.
 class Program : public QObject
 {
     Q_OBJECT
@@ -110,15 +109,15 @@ private Q_SLOTS:
         m_site.reset();
     }
 
-    /// The field of a row that is scrolled is offered something in one place and then in another.
-    void offersStandBesideTheField_data()
+    /// The suggestions are at the correct position after scrolling.
+    void suggestionsAreNextToTheField_data()
     {
         const auto row = dataTable<QList<int>>({"places"});
         row("scrolled to the foot", QList<int>{10, 360});
         row("scrolled to the head", QList<int>{360, 10});
     }
 
-    void offersStandBesideTheField()
+    void suggestionsAreNextToTheField()
     {
         QFETCH(QList<int>, places);
         for (const int y : places) {
@@ -130,13 +129,13 @@ private Q_SLOTS:
             QVERIFY(!offers.intersects(place("cgiCommandText")));
             QTest::keyClick(m_window.get(), Qt::Key_Escape);
             QTRY_VERIFY(!find("cgiOffer0"));
-            QTest::keyClick(m_window.get(), Qt::Key_Backspace); // offers again, as for any change
+            QTest::keyClick(m_window.get(), Qt::Key_Backspace); // any change shows suggestions again
             QTest::keyClick(m_window.get(), Qt::Key_Escape);
             QTRY_VERIFY(!find("cgiOffer0"));
         }
     }
 
-    void sendsTheCommandOfARow_data()
+    void theCommandOfARowIsSent_data()
     {
         // url: empty: nothing is sent
         const auto row =
@@ -147,7 +146,7 @@ private Q_SLOTS:
         row("no slash", "cgi-bin/a", "OK", "", "URL格式错误。");
     }
 
-    void sendsTheCommandOfARow()
+    void theCommandOfARowIsSent()
     {
         QFETCH(QString, command);
         QFETCH(QByteArray, answer);
@@ -164,12 +163,12 @@ private Q_SLOTS:
         QTRY_VERIFY(!m_site->batches.isRunning());
         QCOMPARE(m_site->transport->urls, url.isEmpty() ? QStringList() : QStringList(url));
         QTEST(said.value(0).value(0).toString(), "said");
-        if (!url.isEmpty()) // the table shows what the row has
+        if (!url.isEmpty()) // the table shows the result of the row
             QCOMPARE(devices->get(0).value("result").toString(), QString(answer));
     }
 
-    /// The command is sent again with what the user enters.
-    void aRefusedAccountIsAskedFor()
+    /// The command is sent again with the entered account.
+    void aRefusedAccountIsRequestedAgain()
     {
         m_site->devices->rows["a"].insert("url", "/cgi-bin/a");
         m_site->devices->accounts.insert("a", {{"account", "admin"}, {"password", "wrong"}});
@@ -185,8 +184,8 @@ private Q_SLOTS:
         QCOMPARE(m_site->devices->logins, QStringList({"admin wrong", "admin wrong", "admin secret1"}));
     }
 
-    /// Those with the same reason stand together.
-    void aBatchNamesTheDevicesThatAreNotDone()
+    /// Devices are grouped by reason.
+    void aBatchReportsFailedDevices()
     {
         m_site->transport->answer = [](const QByteArray &url) {
             return QByteArray(url.contains("0.a:") ? "Error:b" : url.contains("0.b:") ? "OK" : "Error:a");
@@ -203,7 +202,7 @@ private Q_SLOTS:
         QCOMPARE(said.first().first().toString(), "批量配置CGI命令已完成：成功 1，失败 2");
     }
 
-    /// While another page is shown, no window opens over it.
+    /// No window opens over another page.
     void theEndOfAWorkbookWaitsForThePage()
     {
         open(page);
@@ -218,7 +217,7 @@ private Q_SLOTS:
         QCOMPARE(find("messageText")->property("text").toString(), "first\nsecond");
     }
 
-    void aLongAnswerEndsInTheWindow_data()
+    void aLongResponseFitsTheWindow_data()
     {
         const auto row = dataTable<QString>({"words"});
         row("short", "OK");
@@ -227,7 +226,7 @@ private Q_SLOTS:
         row("line breaks of other kinds", QString("a\u2028b\u000Bc\u000Cd\u0085e\rf").repeated(300));
     }
 
-    void aLongAnswerEndsInTheWindow()
+    void aLongResponseFitsTheWindow()
     {
         QFETCH(QString, words);
         find("answer")->setProperty("words", words);
@@ -238,14 +237,14 @@ private Q_SLOTS:
         QTRY_VERIFY(place("toolTip").bottom() <= place("toolTipNote").top());
     }
 
-    void aToolTipDoesNotStay_data()
+    void aToolTipIsClosed_data()
     {
         QTest::addColumn<QString>("goesWith");
         for (const char *event : {"key", "click", "page"})
             QTest::newRow(event) << event;
     }
 
-    void aToolTipDoesNotStay()
+    void aToolTipIsClosed()
     {
         QFETCH(const QString, goesWith);
         find("answer")->setProperty("words", "OK");

@@ -34,7 +34,7 @@ const char *const heldScene = "    visible: true; width: 400; height: 100\n"
 
 } // namespace
 
-/// The login of the configuration page while other pages log in, too.
+/// The login of the configuration page while other pages log in as well.
 class TestConfigSession : public QObject
 {
     Q_OBJECT
@@ -61,7 +61,7 @@ private:
     {
         return findBelow(m_window->contentItem(), name, Sight::Visible);
     }
-    /// What stands at a field of the login dialog.
+    /// The message at a field of the login dialog.
     [[nodiscard]] QString answerOfDialog() const
     {
         [this] {
@@ -73,7 +73,7 @@ private:
     {
         QVERIFY(QMetaObject::invokeMethod(m_session, "choose", Q_ARG(QVariant, ipportOf(device))));
     }
-    /// A search lists the devices; the row of the recorder holds a password that it refuses.
+    /// A search lists the devices. The row of the recorder has a wrong password.
     void listWithWrongPassword() const
     {
         const QSignalSpy found(m_site->factory.get(), &CDeviceFactory::signalSearchDone);
@@ -82,7 +82,7 @@ private:
         QVERIFY(m_site->factory->updataDeviceInfo("dh", "password", "wrong", m_recorder.mac,
                                                   ipportOf(m_recorder)));
     }
-    /// Into the login dialog.
+    /// Enters text in the login dialog.
     void enter(const char *password, bool isForAll) const
     {
         dialogItem("followingBox")->setProperty("checked", isForAll);
@@ -93,7 +93,7 @@ private:
     {
         return m_site->factory->getDeviceInfo("dh", ipportOf(device)).value("password").toString();
     }
-    /// The dialog of details, opened for a device.
+    /// Opens the details of a device.
     [[nodiscard]] QObject *detailsOf(const sdk::demo::SceneDevice &device) const
     {
         auto *details = m_window->findChild<QObject *>("details");
@@ -129,7 +129,7 @@ private Q_SLOTS:
         m_site.reset();
     }
 
-    void whatIsMeantForOneDeviceDoesNotReachAnother_data()
+    void aWriteDoesNotReachAnotherDevice_data()
     {
         const auto row = dataTable<QByteArray>({"save"});
         row("names", QByteArray("saveNames"));
@@ -137,8 +137,8 @@ private Q_SLOTS:
         row("image", QByteArray("setImage"));
     }
 
-    /// A live view's login comes in the midst of the work.
-    void whatIsMeantForOneDeviceDoesNotReachAnother()
+    /// A live view logs in during an operation.
+    void aWriteDoesNotReachAnotherDevice()
     {
         QFETCH(QByteArray, save);
         call("readNames");
@@ -163,8 +163,8 @@ private Q_SLOTS:
         QCOMPARE(said.last().at(0).toString(), QStringLiteral("设备已重新登录，尚未保存的修改已丢失"));
     }
 
-    /// A login of a dead device holds up neither the window nor another device.
-    void anotherDeviceIsChosenDuringALogin()
+    /// A login to an offline device blocks neither the window nor another device.
+    void anotherDeviceIsSelectedDuringALogin()
     {
         const sdk::demo::FaultSetting noAnswer = {
             .fault = sdk::demo::Fault::NoAnswer, .number = 0, .text = {}};
@@ -181,7 +181,7 @@ private Q_SLOTS:
         }
         choose(m_other);
         QTRY_VERIFY(m_session->property("loggedIn").toBool() &&
-                    !isBusy()); // the dead one is waited for still
+                    !isBusy()); // the offline device has not timed out yet
         QCOMPARE(m_site->clock().waiters(), 1);
         m_site->letTimePass();
         QTRY_COMPARE(m_site->clock().waiters(), 0);
@@ -190,8 +190,8 @@ private Q_SLOTS:
         QVERIFY(m_session->property("loggedIn").toBool());
     }
 
-    /// What is being written is not given up half-way.
-    void anotherDeviceIsChosenDuringASaving()
+    /// A running write is completed.
+    void anotherDeviceIsSelectedDuringASave()
     {
         m_site->site->setFault(m_recorder.mac,
                                {.fault = sdk::demo::Fault::SlowAnswers, .number = 500, .text = {}});
@@ -208,7 +208,7 @@ private Q_SLOTS:
         QCOMPARE(writesTo(m_other), 0);
     }
 
-    /// The details ask for another account as the page does, and count on.
+    /// The details ask for another account like the page, and continue counting attempts.
     void theDetailsAskForAnotherAccount()
     {
         listWithWrongPassword();
@@ -225,8 +225,8 @@ private Q_SLOTS:
         QCOMPARE(passwordOf(m_recorder), "secret1");
     }
 
-    /// The dialog shows what the device has answered; an account for all that follow is tried once, and only
-    /// after it has proved right.
+    /// The dialog shows the result. An account for all following devices is used only after one device has
+    /// accepted it.
     void aWrongPasswordIsCounted()
     {
         listWithWrongPassword();
@@ -242,7 +242,7 @@ private Q_SLOTS:
         m_site->site->requests().clear();
         const StepOutcome step =
             m_site->factory->systemStep("dh", "readTime", {}, ipportOf(m_other))(StepControl());
-        QCOMPARE(step.result, 0); // batches use it as well
+        QCOMPARE(step.result, 0); // also used by batches
         m_site->site->requests().clear();
         choose(m_other);
         QTRY_VERIFY(m_session->property("loggedIn").toBool() && !isBusy());
@@ -252,10 +252,10 @@ private Q_SLOTS:
                                            return request.operation.startsWith("NetLoginSecure");
                                        }),
                  1);
-        // Batches know the account from now on.
+        // Batches use the account afterwards.
         QCOMPARE(passwordOf(m_other), "secret1");
 
-        // The details use it as well; the row gets it once the device has accepted it.
+        // The details use it too. It is stored in the row after the device has accepted it.
         for (const char *key : {"username", "password"})
             m_site->factory->updataDeviceInfo("dh", key, "", m_other.mac, ipportOf(m_other));
         QObject *details = detailsOf(m_other);
@@ -270,8 +270,8 @@ private Q_SLOTS:
         QCOMPARE(passwordOf(m_other), "secret1");
     }
 
-    /// An account is kept for its device once the device has accepted it.
-    void anAcceptedAccountIsKept()
+    /// An account is stored for its device after the device has accepted it.
+    void anAcceptedAccountIsStored()
     {
         const QSignalSpy found(m_site->factory.get(), &CDeviceFactory::signalSearchDone);
         m_site->factory->startSearch("dh");
@@ -291,7 +291,7 @@ private Q_SLOTS:
         QVERIFY(!m_accounts->accountOf({m_recorder.mac}));
     }
 
-    void inputIsHeldWhereTheWorkIs()
+    void inputIsBlockedWhereAnOperationRuns()
     {
         const std::unique_ptr<QQuickWindow> window = openScene(*m_engine, heldScene);
         QVERIFY(window && QTest::qWaitForWindowExposed(window.get()));
@@ -302,7 +302,7 @@ private Q_SLOTS:
         for (const bool isTakenElsewhere : {false, true}) {
             sheet->setProperty("active", true);
             QTest::keyClick(window.get(), Qt::Key_A);
-            inner->forceActiveFocus(); // as a list that closes does
+            inner->forceActiveFocus(); // as when a list closes
             QTRY_COMPARE(window->activeFocusItem(), sheet);
             QTest::keyClick(window.get(), Qt::Key_A);
             QTest::mouseClick(window.get(), Qt::LeftButton, {}, QPoint(100, 50));

@@ -5,12 +5,12 @@ class TestDateTimeValidator : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void textsAreTold_data()
+    void inputIsValidated_data()
     {
         const auto row = namedTable<QString, QString, int>({"format", "text", "state"});
         const QString moment = "yyyy-MM-dd hh:mm:ss";
         row(moment, "2024-02-29 23:59:59", QValidator::Acceptable);
-        row(moment, "2024-03-31 02:30:00", QValidator::Acceptable); // left out by some daylight savings
+        row(moment, "2024-03-31 02:30:00", QValidator::Acceptable); // skipped by some daylight saving times
         row(moment, "", QValidator::Intermediate);
         row(moment, "2024-02-2", QValidator::Intermediate);
         row(moment, "2024-0-29 23:59:59", QValidator::Intermediate); // a digit deleted in the middle
@@ -27,7 +27,7 @@ private Q_SLOTS:
         row("hh:mm", "07-05", QValidator::Invalid);
     }
 
-    void textsAreTold()
+    void inputIsValidated()
     {
         QFETCH(QString, format);
         QFETCH(QString, text);

@@ -1,4 +1,4 @@
-// Boxes over the window: how they are answered, and what they show.
+// Dialogs: their contents, and confirmation with mouse and keyboard.
 #include "device/models/certificatelist.h"
 #include "sdk/blocktext.h"
 #include "tests/datatable.h"
@@ -49,7 +49,7 @@ sdk::CertificateVerdict show(CertificateStore &store, const char *address, char 
 
 } // namespace
 
-/// Rows that change their places without new ones.
+/// Rows that can be reordered.
 class Devices : public QAbstractListModel
 {
     Q_OBJECT
@@ -91,7 +91,7 @@ private Q_SLOTS:
         m_box = m_window->findChild<QObject *>("question");
     }
 
-    void aClickIsMeantForTheRowThatWasPressed()
+    void aClickSelectsTheRowThatWasPressed()
     {
         auto *table = m_window->findChild<QQuickItem *>("table");
         const QQuickItem *row = findBelow(table, "row0", Sight::Visible);
@@ -103,7 +103,7 @@ private Q_SLOTS:
         QCOMPARE(table->property("currentIndex").toInt(), 2);
     }
 
-    void enterAnswers_data()
+    void enterConfirms_data()
     {
         // kind: OVMessageBox's
         const auto row = dataTable<int, bool>({"kind", "isYes"});
@@ -111,7 +111,7 @@ private Q_SLOTS:
         row("a dangerous question: no", 3, false);
     }
 
-    void enterAnswers()
+    void enterConfirms()
     {
         QFETCH(const int, kind);
         QFETCH(const bool, isYes);
@@ -124,8 +124,8 @@ private Q_SLOTS:
         QCOMPARE(rejected.count(), isYes ? 0 : 1);
     }
 
-    /// The button that had the focus when a box went does not have it when the box comes back.
-    void aBoxThatComesBackIsAnsweredAnew()
+    /// The last focused button does not have the focus when the dialog opens again.
+    void aReopenedDialogHasItsDefaultButton()
     {
         show(2);
         const QString cancel = QStringLiteral("cancelButton");
@@ -141,7 +141,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!m_box->property("visible").toBool());
     }
 
-    void anExportShowsWhatDoesNotComeBack()
+    void anExportReportsNamesThatCannotBeImported()
     {
         QObject *files = m_window->findChild<QObject *>("files");
         const QSignalSpy said(files, SIGNAL(said(QString, int)));
@@ -161,8 +161,8 @@ private Q_SLOTS:
         QTest::keyClick(m_window.get(), Qt::Key_Return);
     }
 
-    /// A change is no part of a yes that was meant for new certificates.
-    void certificatesAreAgreedTo()
+    /// Accepting new certificates does not accept a changed one.
+    void certificatesAreAccepted()
     {
         (void)::show(*m_store, "10.0.0.5", 'A');
         QCOMPARE(m_store->agree(m_store->refused()), "");
@@ -182,7 +182,7 @@ private Q_SLOTS:
         QCOMPARE(text("shownFingerprint"), "CC");
         QCOMPARE(text("storedFingerprint"), "AA");
         QVERIFY(!text("changedNotice").isEmpty());
-        QTest::keyClick(m_window.get(), Qt::Key_Return); // the first answer to a warning is no
+        QTest::keyClick(m_window.get(), Qt::Key_Return); // the default answer to a warning is no
         QTRY_VERIFY(!dialog->property("visible").toBool());
         QCOMPARE(m_store->refused().size(), 2);
 
@@ -209,7 +209,7 @@ private:
     QTemporaryDir m_folder;
     std::shared_ptr<CertificateStore> m_store =
         std::make_shared<CertificateStore>(m_folder.filePath("certificates.json"));
-    CertificateList m_certificates{m_store}; // outlives the engine, as what follows
+    CertificateList m_certificates{m_store}; // must outlive the engine, as the members below
     Devices m_devices;
     QQmlEngine m_engine;
     std::unique_ptr<QQuickWindow> m_window;

@@ -16,7 +16,7 @@ const char *const scene =
 
 } // namespace
 
-/// The window with the pictures of many devices, by keyboard and mouse.
+/// The gallery window with keyboard and mouse.
 class TestGalleryWindow : public QObject
 {
     Q_OBJECT
@@ -83,7 +83,7 @@ private Q_SLOTS:
     {
         devices().release();
         m_watched.reset();
-        delete m_window; // the scene does not own it
+        delete m_window; // QML does not own it
         m_scene.reset();
         m_engine.reset();
         m_batches.reset();
@@ -91,7 +91,7 @@ private Q_SLOTS:
         m_site.reset();
     }
 
-    void cellsSayWhatThereIs()
+    void cellsShowTheirState()
     {
         devices().addDevice(20, "gate", {});
         devices().addDevice(21, "shed", {.result = 2});
@@ -111,7 +111,7 @@ private Q_SLOTS:
         QCOMPARE(find("galleryFailures")->property("text").toString(), QStringLiteral("1 幅失败"));
     }
 
-    void theKeyboardReachesEverything()
+    void everyCellIsReachedByKeyboard()
     {
         for (int number = 20; number < 40; ++number)
             devices().addDevice(number, QStringLiteral("D%1").arg(number), {});
@@ -145,10 +145,10 @@ private Q_SLOTS:
         QVERIFY(find("gallerySummary")->property("text").toString().contains("21"));
         QTest::keyClick(m_window, Qt::Key_Escape);
         QVERIFY(!m_window->isVisible());
-        QCOMPARE(m_gallery->property("count").toInt(), 0); // their pictures are gone
+        QCOMPARE(m_gallery->property("count").toInt(), 0); // the images are removed
     }
 
-    void aClickWatchesTheDevice()
+    void aClickOpensTheLiveView()
     {
         devices().addDevice(20, "gate", {});
         devices().addDevice(21, "yard", {.result = 5});
@@ -158,13 +158,13 @@ private Q_SLOTS:
         QCOMPARE(m_watched->size(), 1);
         static_cast<void>(devices().takeOrders());
         click("galleryAgain1");
-        QCOMPARE(m_watched->size(), 1); // that does something else
+        QCOMPARE(m_watched->size(), 1); // has a different effect
         QTRY_VERIFY(!m_batches->isRunning());
         QCOMPARE(devices().takeOrders(), QStringList(PicturesBackEnd::ipportOf(21) + " -1"));
         QCOMPARE(current(), 1);
     }
 
-    void manyPicturesNeedLittle()
+    void manyImagesNeedLittleMemory()
     {
         for (int number = 1; number <= 200; ++number)
             devices().addDevice(number, QStringLiteral("D%1").arg(number), {.result = number > 12 ? 5 : 0});

@@ -1,5 +1,4 @@
-// Work without a mouse: the actions of a row, the way through the controls, and what becomes of rejected
-// input.
+// Use without a mouse: the actions of a row, focus navigation, and rejected input.
 #include "device/batch/batches.h"
 #include "device/models/devicetablemodel.h"
 #include "device/models/treemodel.h"
@@ -108,9 +107,9 @@ private:
         QVERIFY(row);
         QTest::mouseClick(m_window.get(), button, {}, row->mapToScene({150, row->height() / 2}).toPoint());
     }
-    /// The menu with its entries in place.
+    /// Waits until the menu with its entries is open.
     void awaitMenu() const { QTRY_VERIFY(find("detailItem") && find("detailItem")->height() > 0); }
-    /// Goes down to an entry and takes it.
+    /// Selects an entry with the arrow keys and Enter.
     void take(const QString &entry) const
     {
         for (int step = 0; step < 20 && !has(entry); ++step)
@@ -187,17 +186,17 @@ private Q_SLOTS:
         QCOMPARE(currentRow(), 1);
         take("copyAddressItem");
         QCOMPARE(QGuiApplication::clipboard()->text(), "10.0.0.12");
-        QTRY_VERIFY(has("tableRows")); // and the keys go on in the table
+        QTRY_VERIFY(has("tableRows")); // the table has the focus again
     }
 
-    void entriesOfARow_data()
+    void theMenuHasTheEntriesOfItsRow_data()
     {
         const auto row = dataTable<QString, QString>({"entry", "outcome"});
         row("of the page", "editItem", "edit m2");
         row("live view", "liveItem", "live 10.0.0.12:37777");
     }
 
-    void entriesOfARow()
+    void theMenuHasTheEntriesOfItsRow()
     {
         QFETCH(QString, entry);
         focusTable();
@@ -208,7 +207,8 @@ private Q_SLOTS:
         QTEST(done(), "outcome");
     }
 
-    /// What a device without a password cannot do is not offered; neither is a retry of nothing.
+    /// Actions that an uninitialised device does not support are disabled, and so is a retry without
+    /// failures.
     void onlySupportedEntriesAreEnabled()
     {
         clickRow("row3", Qt::RightButton);
@@ -238,7 +238,7 @@ private Q_SLOTS:
         QTEST(m_table->checkedMacs(), "macs");
     }
 
-    void aTreeHasTheMenuToo()
+    void aTreeHasTheMenu()
     {
         QQuickItem *tree = find("deviceTree");
         tree->forceActiveFocus(Qt::TabFocusReason);
@@ -258,7 +258,7 @@ private Q_SLOTS:
         QCOMPARE(QGuiApplication::clipboard()->text(), "m3");
     }
 
-    void boxesOfATreeLookLikeThoseOfATable_data()
+    void checkBoxesOfTreeAndTableLookAlike_data()
     {
         const auto row = dataTable<int>({"ticked"});
         row("none", 0);
@@ -266,8 +266,8 @@ private Q_SLOTS:
         row("all", 2);
     }
 
-    /// Those of all rows and of a group have three states.
-    void boxesOfATreeLookLikeThoseOfATable()
+    /// The boxes for all rows and of a group have three states.
+    void checkBoxesOfTreeAndTableLookAlike()
     {
         QFETCH(const int, ticked);
         m_table->setAllChecked(ticked == 2);
@@ -277,7 +277,7 @@ private Q_SLOTS:
             m_tree->setCheckedDevices({"m1"});
         }
         const auto boxOf = [this](const char *name) {
-            constexpr int size = 12; // inside its border, whose corners show what is behind
+            constexpr int size = 12; // inside its border, whose corners are transparent
             const QQuickItem *item = find(name);
             const QPoint middle = item->mapToScene({item->width() / 2, item->height() / 2}).toPoint();
             const QImage picture = m_window->grabWindow();
@@ -291,17 +291,17 @@ private Q_SLOTS:
         QCOMPARE(boxOf("tick_IPC"), box);
     }
 
-    void keysOfTheTable_data()
+    void keysMoveInTheTable_data()
     {
         const auto row = dataTable<QString, int>({"typed", "current"});
         row("address", "10.0.0.13", 2);
         row("address in two groups", "10.0.1", 3);
-        row("name in small letters", "hall", 1);
-        row("name with a blank", "Hall 2", 2);
+        row("name in lower case", "hall", 1);
+        row("name with a space", "Hall 2", 2);
         row("nothing begins so", "x", 0);
     }
 
-    void keysOfTheTable()
+    void keysMoveInTheTable()
     {
         QFETCH(QString, typed);
         focusTable();
@@ -314,8 +314,8 @@ private Q_SLOTS:
         QCOMPARE(done(), "open m4");
     }
 
-    /// Arrows go from one to the other, Tab leaves all of them.
-    void aGroupOfControlsIsOneStop()
+    /// Arrow keys move within the group, Tab leaves it.
+    void aGroupOfControlsIsOneTabStop()
     {
         find("first")->forceActiveFocus(Qt::TabFocusReason);
         press(Qt::Key_Right);
@@ -326,7 +326,7 @@ private Q_SLOTS:
         QVERIFY(has("first"));
         press(Qt::Key_Tab);
         QVERIFY(has("password"));
-        press(Qt::Key_Tab); // not to the eye
+        press(Qt::Key_Tab); // skips the button that shows the password
         QVERIFY(has("next"));
         press(Qt::Key_Tab);
         QVERIFY(has("head_ipport") || has("checkAllBox"));
@@ -336,8 +336,8 @@ private Q_SLOTS:
         QVERIFY(currentRow() >= 0);
     }
 
-    /// Arrows choose what can be chosen. No device has failed.
-    void theFilterOfATreeIsOneStop()
+    /// Arrow keys select enabled filters. No device has failed.
+    void theFilterOfATreeIsOneTabStop()
     {
         find("treeSearchField")->forceActiveFocus(Qt::TabFocusReason);
         press(Qt::Key_Tab);
@@ -358,8 +358,8 @@ private Q_SLOTS:
         QCOMPARE(m_tree->shown(), OVTreeModel::All);
     }
 
-    /// It is said once, where the keyboard then is.
-    void rejectedInputHasTheKeyboard()
+    /// The message is shown once, at the focused field.
+    void rejectedInputGetsTheFocus()
     {
         QObject *dialog = m_window->findChild<QObject *>("dialog");
         QMetaObject::invokeMethod(dialog, "open");
@@ -368,14 +368,14 @@ private Q_SLOTS:
         press(Qt::Key_Return);
         QVERIFY(has("faulty"));
         QVERIFY(!find("dialogNotice"));
-        // What no field shows stands in the dialog.
+        // A message without a field is shown in the dialog.
         find("faulty")->setProperty("errorText", QString());
         QMetaObject::invokeMethod(dialog, "refuse", Q_ARG(QVariant, "nothing is ticked"));
         QTRY_VERIFY(find("dialogNotice"));
         QMetaObject::invokeMethod(dialog, "close");
     }
 
-    void escapeClearsTheSearchTextBeforeItStopsTheWork()
+    void escapeClearsTheSearchTextBeforeItStopsTheBatch()
     {
         QQuickItem *search = find("search");
         search->forceActiveFocus();
@@ -387,8 +387,8 @@ private Q_SLOTS:
         QCOMPARE(done(), "stopped");
     }
 
-    /// A refusal goes with its reason, another message does not; none of them lies on the rows.
-    void noticesGoWithTheirReason()
+    /// A refusal is removed with its reason, other messages are not. No message covers the rows.
+    void refusalsAreRemovedWithTheirReason()
     {
         QObject *notices = m_window->findChild<QObject *>("notices");
         constexpr int success = 1;

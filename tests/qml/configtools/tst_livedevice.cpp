@@ -15,16 +15,16 @@ const char *const scene = "    visible: true\n"
 
 } // namespace
 
-/// Sessions as a test says.
+/// A factory whose sessions a test controls.
 class SessionFactory : public QObject
 {
     Q_OBJECT
 public:
-    QStringList asked;   ///< "account password", with "channels" where they are to be read
-    int given = 0;       ///< sessions that are not waited for any more
-    QString sessionWith; ///< the address of the device
+    QStringList asked;   ///< "account password", with "channels" if they are to be read
+    int given = 0;       ///< cancelled sessions
+    QString sessionWith; ///< address of the device
 
-    /// Ends what was asked for.
+    /// Ends the requested login.
     void answer(int result, const QString &ipport = device)
     {
         const QVariantList channels = {QVariantMap{{"channel", 0}, {"name", "A"}, {"connected", true}}};
@@ -63,7 +63,7 @@ Q_SIGNALS:
     void signalHighLevelLoginRet(int loginRet);
 };
 
-/// The login of the live window, and what it does about a device that is away.
+/// The login of the live window, and its retries for an offline device.
 class TestLiveDevice : public QObject
 {
     Q_OBJECT
@@ -102,7 +102,7 @@ private Q_SLOTS:
         m_engine.reset();
     }
 
-    void aDeviceThatIsAwayIsTriedAgain()
+    void anOfflineDeviceIsRetried()
     {
         const QSignalSpy opened(m_live, SIGNAL(opened()));
         open();
@@ -115,7 +115,7 @@ private Q_SLOTS:
         QVERIFY(get("busy").toBool());
         m_factory->answer(5);
         QCOMPARE(get("restSeconds").toInt(), 2);
-        call("tryAgain"); // at once
+        call("tryAgain"); // immediately
         QCOMPARE(m_factory->asked, QStringList(3, "admin secret1 channels"));
         m_factory->answer(5);
         QCOMPARE(get("restSeconds").toInt(), 4);
@@ -126,7 +126,7 @@ private Q_SLOTS:
         QVERIFY(!get("resting").toBool());
     }
 
-    void whatTimeDoesNotMendIsNotTriedAgain_data()
+    void permanentFailuresAreNotRetried_data()
     {
         const auto row = dataTable<int>({"result"});
         row("wrong password", 2);
@@ -135,7 +135,7 @@ private Q_SLOTS:
         row("session ended", 16);
     }
 
-    void whatTimeDoesNotMendIsNotTriedAgain()
+    void permanentFailuresAreNotRetried()
     {
         QFETCH(int, result);
         open();
@@ -143,7 +143,7 @@ private Q_SLOTS:
         QVERIFY(!get("resting").toBool() && !get("asking").toBool());
         QVERIFY(!get("failure").toString().isEmpty());
 
-        open(); // as well when it was logged in to before, for a stream
+        open(); // also after an earlier login for a stream
         m_factory->answer(0);
         call("doubt");
         call("look");
@@ -154,28 +154,28 @@ private Q_SLOTS:
         QCOMPARE(m_factory->asked.size(), 3);
     }
 
-    void streamsAreAnsweredForTheDevice()
+    void streamsGetTheStateOfTheDevice()
     {
         open();
         m_factory->answer(0);
-        call("look"); // it has just answered
+        call("look"); // it has just responded
         QCOMPARE(m_answered->last().first().toBool(), true);
         QCOMPARE(m_factory->asked.size(), 1);
         call("doubt");
         call("look");
-        call("look"); // of another stream
+        call("look"); // for another stream
         QCOMPARE(m_factory->asked.size(), 2);
-        QCOMPARE(m_factory->asked.last(), "admin secret1"); // its channels are known
+        QCOMPARE(m_factory->asked.last(), "admin secret1"); // its channels have been read
         m_factory->answer(5);
         QCOMPARE(m_answered->size(), 2);
         QCOMPARE(m_answered->last().first().toBool(), false);
-        QVERIFY(get("loggedIn").toBool() && !get("resting").toBool()); // the streams rest by themselves
+        QVERIFY(get("loggedIn").toBool() && !get("resting").toBool()); // the streams pause on their own
         call("look");
         m_factory->answer(0);
         QCOMPARE(m_answered->last().first().toBool(), true);
     }
 
-    void anotherDeviceIsNotTakenAway()
+    void theSessionOfAnotherDeviceIsKept()
     {
         open();
         m_factory->answer(5);
@@ -183,7 +183,7 @@ private Q_SLOTS:
         QVERIFY(!get("resting").toBool());
         QCOMPARE(m_lost->size(), 0);
 
-        open(other); // without an account of its own
+        open(other); // without a separate account
         QCOMPARE(m_factory->asked.last(), "usual usual-1 channels");
         m_factory->answer(0, other);
         m_factory->logInElsewhere(device);

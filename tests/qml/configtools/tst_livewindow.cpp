@@ -23,8 +23,8 @@ QString ipportOf(int number)
 
 } // namespace
 
-/// Devices whose logins a test decides. Handles are the numbers of the devices, that of the current session
-/// is 1000.
+/// Devices with the login results of a test. A session's handle is the number of its device; that of the
+/// current session is 1000.
 class LiveBackEnd : public RowsBackEnd
 {
     Q_OBJECT
@@ -80,11 +80,11 @@ public:
     }
 
     QString current;           ///< address of the current session's device
-    QHash<int, int> results;   ///< of logins in sessions of their own, by number; 0 for others
-    QHash<int, int> channels;  ///< how many, by number; 1 for others
+    QHash<int, int> results;   ///< of separate sessions, by number; 0 for others
+    QHash<int, int> channels;  ///< channel counts by number; 1 for others
     QHash<int, QString> names; ///< by number; "D20" and so on for others
-    QStringList asked;         ///< for sessions of their own
-    std::shared_ptr<QStringList> open = std::make_shared<QStringList>(); ///< these sessions
+    QStringList asked;         ///< requested separate sessions
+    std::shared_ptr<QStringList> open = std::make_shared<QStringList>(); ///< open separate sessions
 
 private:
     static int numberOf(const QString &ipport) { return ipport.section(u':', 0, 0).section(u'.', 3).toInt(); }
@@ -98,7 +98,7 @@ private:
     }
 };
 
-/// The live window with the list that it was opened from: to the next device, and several devices at once.
+/// The live window and the device list: navigation to the next device, and several devices at the same time.
 class TestLiveWindow : public QObject
 {
     Q_OBJECT
@@ -149,8 +149,7 @@ private:
         QVERIFY(QTest::qWaitForWindowActive(m_window));
         QTRY_VERIFY(find("livePlace0"));
     }
-    /// "login of channel" of the streams that were asked for, in the order of these words: several threads
-    /// ask.
+    /// "login of channel" of the requested streams, sorted, because several threads request them.
     QStringList startedStreams()
     {
         for (const QString &call : m_fake->calls.take()) {
@@ -190,7 +189,7 @@ private Q_SLOTS:
     }
     void cleanup()
     {
-        delete m_window; // the scene does not own it
+        delete m_window; // QML does not own it
         m_scene.reset();
         m_engine.reset();
         m_batches.reset();
@@ -201,27 +200,27 @@ private Q_SLOTS:
         m_fake.reset();
     }
 
-    void theListIsGoneThrough()
+    void navigationFollowsTheList()
     {
         openLive(21);
         QCOMPARE(text("liveDevicePlace"), "2 / 5");
-        QTest::keyClick(m_window, Qt::Key_PageDown); // over the one that waits for its first password
+        QTest::keyClick(m_window, Qt::Key_PageDown); // skips the uninitialised device
         QCOMPARE(text("liveAddress"), ipportOf(23));
         QCOMPARE(text("liveDevicePlace"), "4 / 5");
         click("liveLaterButton");
         QCOMPARE(text("liveTitle"), "D24");
         QVERIFY(!find("liveLaterButton")->isEnabled());
-        QTest::keyClick(m_window, Qt::Key_PageDown); // there is none
+        QTest::keyClick(m_window, Qt::Key_PageDown); // there is no further device
         QCOMPARE(text("liveTitle"), "D24");
         click("liveEarlierButton");
         QTest::keyClick(m_window, Qt::Key_PageUp);
         QTest::keyClick(m_window, Qt::Key_PageUp);
         QCOMPARE(text("liveAddress"), ipportOf(20));
         QVERIFY(!find("liveEarlierButton")->isEnabled() && find("liveLaterButton")->isEnabled());
-        QCOMPARE(m_devices->current, ipportOf(20)); // it is logged in to
+        QCOMPARE(m_devices->current, ipportOf(20)); // the login has succeeded
     }
 
-    void chosenDevicesAreGoneThrough()
+    void navigationFollowsTheSelectedDevices()
     {
         openLive(20, {QVariantMap{{"ipport", ipportOf(20)}}, QVariantMap{{"ipport", ipportOf(24)}}});
         QCOMPARE(text("liveDevicePlace"), "1 / 2");
@@ -241,7 +240,7 @@ private Q_SLOTS:
         QTRY_COMPARE(startedStreams(), QStringList("1000 of 0"));
         click("liveAddButton");
         QTRY_COMPARE(m_devices->asked, (QStringList{ipportOf(21), ipportOf(23)}));
-        // The first channels of the devices, each in its own session. The small picture has the other stream.
+        // The first channels of the devices, each in its own session. The small view shows the sub stream.
         QTRY_COMPARE(startedStreams(), (QStringList{"1000 of 0", "1000 of 0", "21 of 0"}));
         QCOMPARE(textIn(0, "liveChannelName"), "D20 · C0");
         QCOMPARE(textIn(1, "liveChannelName"), "D21 · C0");
@@ -251,17 +250,17 @@ private Q_SLOTS:
         QCOMPARE(text("liveHeading1"), "D21");
         QVERIFY(!find("liveRemove0") && find("liveRemove1"));
 
-        tick({4}); // what streams goes on
+        tick({4}); // running streams continue
         click("liveAddButton");
         QTRY_COMPARE(startedStreams(), (QStringList{"1000 of 0", "1000 of 0", "21 of 0", "24 of 0"}));
         QCOMPARE(textIn(3, "liveChannelName"), "D24 · C0");
 
-        click("liveChannel2"); // the second one of D21, in the place of D20
+        click("liveChannel2"); // the second channel of D21 replaces D20
         QTRY_COMPARE(startedStreams(),
                      (QStringList{"1000 of 0", "1000 of 0", "21 of 0", "21 of 1", "24 of 0"}));
         QCOMPARE(*m_devices->open, (QStringList{ipportOf(21), ipportOf(24)}));
         QCOMPARE(m_devices->asked.size(), 3); // a refused password is not sent again
-        click("liveAddButton");               // all of them are there
+        click("liveAddButton");               // all devices are shown
         QCOMPARE(m_devices->asked.size(), 3);
 
         click("liveRemove1");
@@ -270,14 +269,14 @@ private Q_SLOTS:
         QCOMPARE(textIn(2, "liveChannelName"), "D23");
     }
 
-    /// In its own session; it is no longer asked once it has gone.
-    void anAddedDeviceIsPhotographed()
+    /// The image is taken in the device's own session. A removed device gets no request.
+    void aSnapshotOfAnAddedDeviceIsTaken()
     {
         m_devices->channels = {{21, 2}};
         openLive(20);
         tick({1});
         click("liveAddButton");
-        click("liveChannel2"); // its second channel, in the place of D20
+        click("liveChannel2"); // its second channel replaces D20
         click("liveSnapButton");
         const QString taken = QStringLiteral("1 of 21 for 192.168.1.21_37777");
         QTRY_COMPARE(text("snapshotMessage"), taken);
@@ -288,7 +287,7 @@ private Q_SLOTS:
         QCOMPARE(text("snapshotMessage"), taken);
     }
 
-    void renamedDevicesAreToldApart()
+    void renamedDevicesHaveUniqueCaptions()
     {
         openLive(20);
         tick({1, 3});
@@ -322,7 +321,7 @@ private Q_SLOTS:
             QTest::keyClick(m_window, Qt::Key_PageDown);
         QTRY_VERIFY(m_devices->open->isEmpty());
         if (!isClosed)
-            QCOMPARE(textIn(0, "liveChannelName"), "C0"); // of the one device
+            QCOMPARE(textIn(0, "liveChannelName"), "C0"); // of the remaining device
     }
 };
 

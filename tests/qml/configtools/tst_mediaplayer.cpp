@@ -9,7 +9,7 @@ const char *const scene = "    OV_MediaPlayer {\n"
                           "        connected: true\n"
                           "    }\n";
 
-/// Refuses streams of some kinds.
+/// Refuses streams of some types.
 class PickyNet : public FakeNet
 {
 public:
@@ -44,7 +44,7 @@ private:
 
 } // namespace
 
-/// The place of a live picture: what it does about a stream that fails or breaks.
+/// The media player: its reaction to failed and interrupted streams.
 class TestMediaPlayer : public QObject
 {
     Q_OBJECT
@@ -59,7 +59,7 @@ private:
     QVariant get(const char *name) const { return m_player->property(name); }
     void set(const char *name, const QVariant &value) const { m_player->setProperty(name, value); }
 
-    /// Waits until the player asks for the device, and tells it.
+    /// Waits until the player requests the device's state, and reports it.
     void answer(bool isThere) const
     {
         QTRY_VERIFY(get("asking").toBool());
@@ -109,12 +109,12 @@ private Q_SLOTS:
         m_fake.reset();
     }
 
-    void whatFailsIsTriedAgain()
+    void failedStreamsAreRetried()
     {
         set("active", true);
-        answer(false); // the device is away: no stream is asked for
+        answer(false); // the device is offline: no stream is requested
         QVERIFY(get("resting").toBool() && m_net->started().isEmpty());
-        QTRY_COMPARE(m_asked->size(), 2); // by itself
+        QTRY_COMPARE(m_asked->size(), 2); // automatically
         m_net->refuse({sdk::LiveStreamKind::Main, sdk::LiveStreamKind::Sub});
         answer(true);
         QTRY_COMPARE(m_net->started(), (QStringList{"sub of 2", "main of 2"}));
@@ -126,7 +126,7 @@ private Q_SLOTS:
         QVERIFY(!get("resting").toBool());
 
         const QSignalSpy failed(m_player, SIGNAL(failed()));
-        m_fake->clock->advance(std::chrono::seconds(5)); // nothing comes any more
+        m_fake->clock->advance(std::chrono::seconds(5)); // no data arrives any more
         QTRY_COMPARE(failed.size(), 1);
         QVERIFY(get("resting").toBool() && !get("playing").toBool());
         answer(true);
@@ -140,12 +140,12 @@ private Q_SLOTS:
         answer(true);
         QTRY_COMPARE(m_net->started(), (QStringList{"sub of 2", "main of 2"}));
         deliverPicture();
-        set("channel", 3); // may have one
+        set("channel", 3); // may have a sub stream
         answer(true);
         QTRY_COMPARE(m_net->started().mid(2), (QStringList{"sub of 3", "main of 3"}));
     }
 
-    void onlyTheLastWishCounts()
+    void onlyTheLastRequestCounts()
     {
         set("active", true);
         set("channel", 5);
@@ -156,7 +156,7 @@ private Q_SLOTS:
 
         set("channel", 6);
         QTRY_VERIFY(get("asking").toBool());
-        set("active", false); // the window is closed while it asks
+        set("active", false); // the window is closed during the request
         answerUnasked(true);
         QVERIFY(!get("connecting").toBool());
         QTRY_COMPARE(m_net->started().size(), 1);

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Reports many interfaces, each without an answer.
+/// Reports many interfaces without responses.
 class SilentNetwork : public QuietNetLibrary
 {
 public:
@@ -36,7 +36,7 @@ class TestSearchReport : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void showsAllOfIt()
+    void theCompleteReportIsReachable()
     {
         QTest::failOnWarning(QRegularExpression(".*"));
         SearchReports reports(std::make_shared<SilentNetwork>());
@@ -56,7 +56,7 @@ private Q_SLOTS:
         auto *content = dialog->property("contentItem").value<QQuickItem *>();
         QVERIFY(findBelow(content, "reportBlock11", Sight::Any));
         QVERIFY(dialog->property("height").toReal() < window->height());
-        // What does not fit is reached with the keyboard.
+        // The keyboard scrolls to the hidden part.
         const QQuickItem *last = findBelow(content, "reportBlock11", Sight::Any);
         const qreal before = last->mapToScene({}).y();
         QTest::keyClick(window.get(), Qt::Key_Down);

@@ -1,4 +1,4 @@
-// What the fields of the system page send to a device.
+// Requests sent by the fields of the system page.
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
 #include "tests/qml/configtools/qmlscene.h"
@@ -45,7 +45,7 @@ private Q_SLOTS:
 
     void cleanupTestCase() { m_window.reset(); }
 
-    void fieldsAreSentAsTheyStand_data()
+    void fieldsAreSentAsEntered_data()
     {
         // fields: property of "field" by its name
         const auto row = dataTable<int, QVariantMap, QString, QString>({"panel", "fields", "button", "sent"});
@@ -85,7 +85,7 @@ private Q_SLOTS:
         row("video standard 2", 5, {{standard, 1}}, "videoStandardButton", "standard=2");
     }
 
-    void aServerThatCannotBeOneIsNotSent_data()
+    void anInvalidServerIsNotSent_data()
     {
         const auto row = dataTable<QString, bool>({"server", "sent"});
         row("address", "192.168.1.1", true);
@@ -98,7 +98,7 @@ private Q_SLOTS:
         row("broken IPv6 address", "fd00::1::2", false);
     }
 
-    void aServerThatCannotBeOneIsNotSent()
+    void anInvalidServerIsNotSent()
     {
         QFETCH(QString, server);
         m_window->findChild<QObject *>("panels")->setProperty("currentPanel", 1);
@@ -113,7 +113,7 @@ private Q_SLOTS:
         QCOMPARE(field->property("errorText").toString().isEmpty(), sent);
     }
 
-    void fieldsAreSentAsTheyStand()
+    void fieldsAreSentAsEntered()
     {
         QFETCH(int, panel);
         QFETCH(QVariantMap, fields);

@@ -22,7 +22,7 @@ using Results = QList<int>;
 
 } // namespace
 
-/// The new password of many devices: what becomes of each, and of the time that there is for it.
+/// The new password of many devices: the result of each, and the time limit.
 class TestSystemPassword : public QObject
 {
     Q_OBJECT
@@ -73,7 +73,7 @@ private:
         type("newPasswordField", "Better-2025");
         type("confirmPasswordField", "Better-2025");
         press("modifyPasswordButton");
-        press("okButton"); // of the list of what will happen
+        press("okButton"); // of the preview
         QVERIFY(isRunning());
     }
     void leave() const
@@ -115,7 +115,7 @@ private Q_SLOTS:
                              {{"CDeviceFactoryApi", m_site->factory.get()},
                               {"works", m_batches.get()},
                               {"deviceAccounts", m_accountList.get()},
-                              {"FileDialogsApi", m_batches.get()}, // nothing is asked of these
+                              {"FileDialogsApi", m_batches.get()}, // not used by this test
                               {"LocalConfigApi", m_batches.get()},
                               {"WebPagesApi", m_batches.get()}});
         QVERIFY(m_window);
@@ -140,7 +140,7 @@ private Q_SLOTS:
         m_threads.reset();
     }
 
-    void theNewPasswordIsKept_data()
+    void theNewPasswordIsStored_data()
     {
         const auto row = dataTable<QByteArray, int, QString>({"choice", "devices", "byDefault"});
         row("for the devices", "keepForDevices", 3, "");
@@ -148,8 +148,8 @@ private Q_SLOTS:
         row("not", "keepNot", 0, "");
     }
 
-    /// Of those that have taken it.
-    void theNewPasswordIsKept()
+    /// The password is stored for the devices that have accepted it.
+    void theNewPasswordIsStored()
     {
         QFETCH(QByteArray, choice);
         QFETCH(int, devices);
@@ -166,7 +166,7 @@ private Q_SLOTS:
         QCOMPARE(kept ? kept->password : QString(), devices > 0 ? QString("Better-2025") : QString());
     }
 
-    void aDeviceThatIsTakenOutKeepsItsTime()
+    void unselectingADeviceKeepsTheTimeLimit()
     {
         type("newPasswordField", "Better-2025");
         type("confirmPasswordField", "Better-2025");
@@ -179,9 +179,9 @@ private Q_SLOTS:
         QCOMPARE(m_time->property("devices").toStringList().size(), 1);
     }
 
-    void everyDeviceIsAccountedFor_data()
+    void everyDeviceIsReported_data()
     {
-        // event: while the second device is asked
+        // event: during the request to the second device
         const auto row = dataTable<QString, Results, QString>({"event", "expected", "said"});
         row("nothing", "", Results{0, 0, 0, 0}, "修改密码：4 台设备成功");
         row("another tab", "leave", Results{0, 0, 0, 0}, "修改密码：4 台设备成功");
@@ -193,7 +193,7 @@ private Q_SLOTS:
             "修改密码：3 台设备成功，1 台设备失败");
     }
 
-    void everyDeviceIsAccountedFor()
+    void everyDeviceIsReported()
     {
         QFETCH(QString, event);
         QFETCH(Results, expected);
@@ -230,7 +230,7 @@ private Q_SLOTS:
             QTRY_COMPARE(m_site->asked("NetLogout").size(), keepsLogins ? 0 : 4);
     }
 
-    void aPasswordThatIsHalfTypedOutlivesItsTime()
+    void aPartlyTypedPasswordIsKeptAfterTheTimeLimit()
     {
         type("newPasswordField", "Bett");
         m_time->setProperty("secondsLeft", 15);

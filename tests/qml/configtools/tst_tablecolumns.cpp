@@ -1,4 +1,4 @@
-// The columns of a table as the user arranges them: their text form, and the work of mouse and keyboard.
+// The arrangement of a table's columns: its text form, and changes by mouse and keyboard.
 #include "device/models/devicetablemodel.h"
 #include "qml/configtools/tablecolumns.h"
 #include "tests/datatable.h"
@@ -44,7 +44,7 @@ private:
         columns.setFixedKeys({"operate"});
     }
 
-    /// The shown columns with the widths that the user has chosen, such as "name:180 mac".
+    /// The shown columns with widths set by the user, such as "name:180 mac".
     static QString arrangementOf(const TableColumns &columns)
     {
         QStringList texts;
@@ -91,7 +91,7 @@ private:
         QTest::mouseClick(m_window.get(), Qt::RightButton, {}, middleOf(head(key)));
         awaitMenu();
     }
-    /// The entries are in their places.
+    /// Waits until the menu with its entries is open.
     void awaitMenu() const
     {
         QTRY_VERIFY(entry("resetColumns") && entry("mac") && entry("mac")->y() > 0 &&
@@ -102,7 +102,7 @@ private:
         QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, middleOf(entry(key)));
         QTRY_VERIFY(!entry("resetColumns"));
     }
-    /// The titles in the order in which they stand, none of which lies over another.
+    /// The titles from left to right. Fails if titles overlap.
     [[nodiscard]] QStringList heads(const QString &name) const
     {
         QMap<qreal, QQuickItem *> byPlace;
@@ -154,28 +154,28 @@ private Q_SLOTS:
         m_site.reset();
     }
 
-    void textsAreRead_data()
+    void arrangementsAreRead_data()
     {
         const auto row = dataTable<QString, QString>({"text", "arrangement"});
         const QString usual = "name ipport mac operate";
         row("nothing", "", usual);
         row("order, widths, hidden ones", "mac:150 -name ipport type:90 operate:100",
             "mac:150 ipport type:90 operate:100");
-        row("blanks around", "  mac\tname   ipport -type operate ", "mac name ipport operate");
+        row("surrounding spaces", "  mac\tname   ipport -type operate ", "mac name ipport operate");
         row("widths that make no sense", "name:wide ipport:3 -type mac:99999999999 operate:-7", usual);
         row("columns of another version", "name serial:80 ipport -type -uuid mac operate", usual);
         row("a column twice", "name:100 -name mac name:300", "name:100 ipport mac operate");
-        row("lacking columns stand behind the one before them", "mac name", "mac name ipport operate");
+        row("missing columns follow their predecessor", "mac name", "mac name ipport operate");
         row("all are hidden", "-name -ipport -type -mac -operate", usual);
         row("a fixed one goes nowhere", "-operate:90 mac name ipport", "mac name ipport operate:90");
         row("signs only", "- : -: :5 name::", usual);
         row("too long", QString("mac ").repeated(2000), usual);
     }
 
-    void textsAreRead()
+    void arrangementsAreRead()
     {
         QFETCH(QString, text);
-        TableColumns early; // the text may come before the columns
+        TableColumns early; // the text may be set before the columns
         early.setText(text);
         describe(early);
         QTEST(arrangementOf(early), "arrangement");
@@ -185,8 +185,8 @@ private Q_SLOTS:
         QTEST(arrangementOf(late), "arrangement");
     }
 
-    /// A written arrangement is read as the same one, and the default has no text.
-    void arrangementsAreKept()
+    /// A written arrangement is read unchanged. The default has an empty text.
+    void arrangementsAreWrittenUnchanged()
     {
         TableColumns columns;
         describe(columns);
@@ -201,14 +201,14 @@ private Q_SLOTS:
         describe(other);
         other.setText(columns.text());
         QCOMPARE(arrangementOf(other), arrangementOf(columns));
-        other.setShown("ipport", true); // where it was
+        other.setShown("ipport", true); // at its old position
         QCOMPARE(arrangementOf(other), "mac name:24 ipport type:333 operate");
         other.reset();
         QCOMPARE(other.text(), "");
         QCOMPARE(arrangementOf(other), "name ipport mac operate");
     }
 
-    void oneColumnStays()
+    void theLastColumnCannotBeHidden()
     {
         TableColumns columns;
         describe(columns);
@@ -222,8 +222,8 @@ private Q_SLOTS:
     {
         const auto row = dataTable<QString, QString, QStringList>({"dragged", "to", "order"});
         row("to the front", "mac", "name", {"mac", "name", "ipport", "operate"});
-        row("behind the next", "name", "ipport", {"ipport", "name", "mac", "operate"});
-        row("behind the fixed one", "name", "operate", {"ipport", "mac", "name", "operate"});
+        row("after the next", "name", "ipport", {"ipport", "name", "mac", "operate"});
+        row("after the fixed one", "name", "operate", {"ipport", "mac", "name", "operate"});
         row("a fixed one", "operate", "name", {"name", "ipport", "mac", "operate"});
     }
 
@@ -235,7 +235,7 @@ private Q_SLOTS:
         drag(middleOf(head(dragged)), middleOf(head(to)) + QPoint(forward ? 20 : -20, 0));
         QFETCH(QStringList, order);
         QTRY_COMPARE(heads("table"), order);
-        QCOMPARE(m_window->property("sorted").toString(), ""); // no click
+        QCOMPARE(m_window->property("sorted").toString(), ""); // not a click
         QVERIFY(!findBelow(table(), "dropMark", Sight::Visible));
         QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, middleOf(head("name")));
         QCOMPARE(m_window->property("sorted").toString(), "name");
@@ -257,8 +257,8 @@ private Q_SLOTS:
         };
         QTRY_VERIFY(!isCut());
         const qreal fitting = head("name")->width();
-        QTRY_COMPARE(head("ipport")->x(), head("name")->x() + fitting); // the heads have their places
-        drag(borderOf("name"), borderOf("name") + QPoint(-30, 0));      // so it is no wider than it has to be
+        QTRY_COMPARE(head("ipport")->x(), head("name")->x() + fitting); // the heads are in position
+        drag(borderOf("name"), borderOf("name") + QPoint(-30, 0));      // so it is not wider than necessary
         QTRY_VERIFY(isCut());
         QTest::mouseDClick(m_window.get(), Qt::LeftButton, {}, borderOf("name"));
         QTRY_COMPARE(head("name")->width(), fitting);
@@ -269,7 +269,7 @@ private Q_SLOTS:
         openMenu("name");
         QVERIFY(entry("name")->property("checked").toBool() && !entry("type")->property("checked").toBool());
         QVERIFY(!entry("operate"));
-        QVERIFY(!entry("resetColumns")->isEnabled()); // nothing is changed
+        QVERIFY(!entry("resetColumns")->isEnabled()); // the arrangement is the default
         choose("type");
         QTRY_COMPARE(heads("table"), QStringList({"name", "ipport", "type", "mac", "operate"}));
         for (const char *key : {"name", "ipport", "mac"}) {
@@ -278,7 +278,7 @@ private Q_SLOTS:
         }
         QTRY_COMPARE(heads("table"), QStringList({"type", "operate"}));
         openMenu("type");
-        QVERIFY(!entry("type")->isEnabled()); // the last one
+        QVERIFY(!entry("type")->isEnabled()); // the last shown column
         choose("resetColumns");
         QTRY_COMPARE(heads("table"), QStringList({"name", "ipport", "mac", "operate"}));
         QCOMPARE(text(), "");
@@ -289,7 +289,7 @@ private Q_SLOTS:
         head("name")->forceActiveFocus(Qt::TabFocusReason);
         press(Qt::Key_Right, Qt::ControlModifier);
         QTRY_COMPARE(heads("table"), QStringList({"ipport", "name", "mac", "operate"}));
-        QVERIFY(head("name")->hasActiveFocus()); // and goes on with it
+        QVERIFY(head("name")->hasActiveFocus()); // and keeps the focus
         for (int presses = 0; presses < 4; ++presses)
             press(Qt::Key_Left, Qt::ControlModifier);
         QTRY_COMPARE(heads("table"), QStringList({"name", "ipport", "mac", "operate"}));
@@ -309,11 +309,11 @@ private Q_SLOTS:
             press(Qt::Key_Down);
         press(Qt::Key_Return);
         QTRY_COMPARE(heads("table"), QStringList({"name", "mac", "operate"}));
-        QTRY_VERIFY(head("mac")->hasActiveFocus()); // which has come to its place
+        QTRY_VERIFY(head("mac")->hasActiveFocus()); // which is in position
     }
 
-    /// In a narrow table the title that the keyboard is on comes into view.
-    void titlesComeIntoView()
+    /// In a narrow table the focused title is scrolled into view.
+    void focusedTitlesAreScrolledIntoView()
     {
         table()->setWidth(300);
         const auto isInView = [this](const QString &key) {
@@ -330,8 +330,8 @@ private Q_SLOTS:
         QTRY_VERIFY(head("ipport")->hasActiveFocus() && isInView("ipport"));
     }
 
-    /// The main page's table in a window of the usual size.
-    void notesFitBesideTheOtherColumns()
+    /// The main page's table in a window of the default size.
+    void notesFitNextToTheOtherColumns()
     {
         QQuickItem *wide = findBelow(m_window->contentItem(), "wide", Sight::Visible);
         const QStringList usual = heads("wide");
@@ -346,7 +346,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// Whether a text of the row is cut.
+    /// True if a text of the row is truncated.
     static bool findCut(QQuickItem *item)
     {
         if (item->property("truncated").toBool())

@@ -1,4 +1,4 @@
-// The colours of the light and of the dark theme, and the line that texts stand on.
+// The colours of the light and dark theme, and the base line of texts.
 #include "tests/datatable.h"
 #include "tests/qml/configtools/qmlscene.h"
 
@@ -24,7 +24,7 @@ qreal contrast(const QColor &one, const QColor &other)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-/// The lowest row of a part of the picture in which something dark is written; -1 when there is none.
+/// The lowest row of dark pixels in a part of the image; -1 if there is none.
 int lowestSign(const QImage &picture, const QRect &part)
 {
     constexpr int dark = 120;
@@ -76,13 +76,13 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
     }
 
-    void wordsCanBeRead_data()
+    void textHasEnoughContrast_data()
     {
         const auto row =
             dataTable<bool, QByteArray, QByteArray, QByteArray>({"isDark", "words", "grounds", "veil"});
         const QByteArray panes = "surface background head foot hover pressed row rowAlternate rowConflict "
                                  "rowSelected accentSoft accentSofter";
-        // What is fixed of the light theme has less contrast in places: hints, and the signs of states.
+        // Some fixed colours of the light theme have less contrast: hints and state icons.
         row("light", false, "ink sub accent bad", "surface background foot row", "clear");
         row("dark", true, "ink sub faint accent accentHover accentPressed ok warn warnInk bad badHover",
             panes, "clear");
@@ -100,7 +100,7 @@ private Q_SLOTS:
         }
     }
 
-    void wordsCanBeRead()
+    void textHasEnoughContrast()
     {
         QFETCH(bool, isDark);
         QFETCH(QByteArray, words);
@@ -120,7 +120,7 @@ private Q_SLOTS:
         }
     }
 
-    void rowsDiffer()
+    void rowsHaveDifferentColours()
     {
         // Every kind of row, and a row under the pointer.
         for (const bool isDark : {false, true}) {
@@ -137,7 +137,7 @@ private Q_SLOTS:
         }
     }
 
-    void textsStandOnOneLine_data()
+    void textsHaveTheSameBaseLine_data()
     {
         const auto row = namedTable<QString>({"text"});
         row("大门");
@@ -145,7 +145,7 @@ private Q_SLOTS:
         row("12");
     }
 
-    void textsStandOnOneLine()
+    void textsHaveTheSameBaseLine()
     {
         QFETCH(QString, text);
         QQmlEngine engine;
@@ -156,13 +156,13 @@ private Q_SLOTS:
         QVERIFY(window);
         QVERIFY(QTest::qWaitForWindowExposed(window.get()));
         const QImage picture = window->grabWindow();
-        // Of the label, and of the field within its frame.
+        // The areas of the label, and of the field without its frame.
         const int line = lowestSign(picture, {0, 4, 80, 24});
         QVERIFY(line > 0);
         QCOMPARE(lowestSign(picture, {106, 4, 68, 24}), line);
     }
 
-    void windowChangesAtOnce()
+    void theWindowChangesImmediately()
     {
         QObject *theme = m_window->property("theme").value<QObject *>();
         for (const bool isDark : {false, true, false}) {
@@ -170,7 +170,7 @@ private Q_SLOTS:
             const auto isPainted = [&] {
                 const QImage picture = m_window->grabWindow();
                 return picture.pixelColor(4, 4) == colour(isDark, "background") &&
-                       picture.pixelColor(30, 36) == colour(isDark, "surface"); // of the button
+                       picture.pixelColor(30, 36) == colour(isDark, "surface"); // the colour of the button
             };
             QTRY_VERIFY(isPainted());
         }

@@ -1,4 +1,4 @@
-// What the upgrade page does with its devices: the file, the question, and the notices at the end.
+// The upgrade page: selecting the file, the question, and the notices at the end.
 #include "device/batch/upgradebatches.h"
 #include "device/models/devicetablemodel.h"
 #include "tests/device/dh/upgradesite.h"
@@ -24,7 +24,7 @@ const char *const scene = "    id: window\n"
 
 } // namespace
 
-/// The box in which the user names a file: answers at once with the test's path.
+/// A replacement of the file dialog that returns the test's path immediately.
 class ChosenFile : public QObject
 {
     Q_OBJECT
@@ -109,7 +109,7 @@ private Q_SLOTS:
         call("chooseFileForChecked");
         call("startChecked");
         awaitOpened("upgradePreview");
-        m_table->setAllChecked(false); // what was asked about counts
+        m_table->setAllChecked(false); // the devices of the question are upgraded
         accept("upgradePreview");
         QTRY_VERIFY(m_batches->isRunning());
         QVERIFY(m_site->passUntil([this] { return m_table->get(0).value("upgrade").toInt() > 0; }));
@@ -118,7 +118,7 @@ private Q_SLOTS:
         QCOMPARE(said().last(), "1 台设备未升级成功，请查看结果");
         QCOMPARE(m_table->get(0).value("upgradetext").toString(), "升级成功：2.840.1 → 2.900.0");
 
-        // Rows that the filter hides are tried again, too.
+        // Rows that the filter hides are retried too.
         m_site->site->clearFault(m_site->mac(1), Fault::UpgradeFailsAt);
         m_table->setSearchText("nothing");
         call("retry");
@@ -130,7 +130,7 @@ private Q_SLOTS:
         QCOMPARE(said().last(), "没有可以重试的设备");
     }
 
-    void nothingBeginsWithDevicesThatGetNoFile()
+    void noUpgradeStartsWithoutAFile()
     {
         m_table->setAllChecked(true);
         m_file.path = m_site->file("BRELM-FIRMWARE 1\nversion");

@@ -1,4 +1,4 @@
-// The place of the window, as it is kept and restored.
+// The stored and restored position of the window.
 #include "qml/configtools/windowplace.h"
 #include "tests/datatable.h"
 #include "tests/qml/configtools/qmlscene.h"
@@ -16,7 +16,7 @@ class TestWindowPlace : public QObject
 {
     Q_OBJECT
 private:
-    /// A window that a place was stored for.
+    /// A window with a stored position.
     static std::unique_ptr<QQuickWindow> open(QQmlEngine &engine, const QByteArray &stored)
     {
         return openScene(engine, "id: window\n    width: 600; height: 400; minimumWidth: 300; visible: true\n"
@@ -30,16 +30,17 @@ private:
     }
 
 private Q_SLOTS:
-    void placesAreHeldAgainstTheScreens_data()
+    void positionsAreLimitedToTheScreens_data()
     {
         const auto row = dataTable<QRect, QList<QRect>, QRect>({"wanted", "screens", "place"});
         row("as it was", {100, 80, 1280, 720}, twoScreens, {100, 80, 1280, 720});
         row("on the second screen", {2000, 50, 1100, 700}, twoScreens, {2000, 50, 1100, 700});
-        row("the second screen is gone", {2000, 50, 1100, 700}, {twoScreens.first()}, {820, 50, 1100, 700});
+        row("the second screen is removed", {2000, 50, 1100, 700}, {twoScreens.first()},
+            {820, 50, 1100, 700});
         row("far away", {-30'000, 90'000, 1280, 720}, twoScreens, {0, 320, 1280, 720});
         row("the title bar is above the screen", {100, -30, 1280, 720}, twoScreens, {100, 0, 1280, 720});
         row("only the buttons are seen", {-1180, 100, 1280, 720}, twoScreens, {0, 100, 1280, 720});
-        row("partly beside the screen", {-300, 900, 1280, 720}, twoScreens, {-300, 900, 1280, 720});
+        row("partly outside the screen", {-300, 900, 1280, 720}, twoScreens, {-300, 900, 1280, 720});
         row("on two screens", {1500, 100, 1280, 720}, twoScreens, {1500, 100, 1280, 720});
         row("larger than the screen", {0, 0, 9000, 9000}, twoScreens, {0, 0, 1920, 1040});
         row("smaller than it may be", {10, 10, 1, 1}, twoScreens, {10, 10, 640, 360});
@@ -47,21 +48,21 @@ private Q_SLOTS:
             {0, 0, 600, 300});
     }
 
-    void placesAreHeldAgainstTheScreens()
+    void positionsAreLimitedToTheScreens()
     {
         QFETCH(QRect, wanted);
         QFETCH(QList<QRect>, screens);
         QTEST(WindowPlace::fitted(wanted, least, screens), "place");
     }
 
-    void aWindowOpensWhereItWas_data()
+    void aWindowOpensAtItsLastPosition_data()
     {
         const auto row = dataTable<QByteArray, QRect, bool>({"stored", "normal", "maximised"});
         row("place and size", "30 40 500 300", {30, 40, 500, 300}, false);
         row("maximised", "30 40 500 300 maximised", {30, 40, 500, 300}, true);
     }
 
-    void aWindowOpensWhereItWas()
+    void aWindowOpensAtItsLastPosition()
     {
         QFETCH(const QByteArray, stored);
         QFETCH(const QRect, normal);
@@ -72,11 +73,11 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(window.get()));
         QCOMPARE(window->visibility() == QWindow::Maximized, maximised);
         QCOMPARE(textOf(*window), QString(stored));
-        if (!maximised) // this platform gives a maximised window its own size
+        if (!maximised) // on this platform a maximised window has a special size
             QCOMPARE(window->geometry(), normal);
     }
 
-    void badTextsChangeNothing_data()
+    void invalidTextChangesNothing_data()
     {
         const auto row = namedTable<QByteArray>({"stored"});
         for (const char *stored : {"", "maximised", "1 2 3", "1 2 300 400 minimised", "1,2 300 400",
@@ -84,7 +85,7 @@ private Q_SLOTS:
             row(stored);
     }
 
-    void badTextsChangeNothing()
+    void invalidTextChangesNothing()
     {
         QFETCH(const QByteArray, stored);
         QQmlEngine engine;
@@ -94,8 +95,8 @@ private Q_SLOTS:
         QCOMPARE(window->visibility(), QWindow::Windowed);
     }
 
-    /// The size that it goes back to is kept with it.
-    void theSizeOfAMaximisedWindowIsKept()
+    /// The normal size of a maximised window is stored as well.
+    void theNormalSizeOfAMaximisedWindowIsStored()
     {
         QQmlEngine engine;
         const auto window = open(engine, "");
