@@ -10,7 +10,7 @@
 
 namespace {
 
-/// A page reads the whole list when it learns of new rows.
+/// Pages read the complete list after each notification of new rows.
 constexpr int addedRowsInterval = 1000; // milliseconds
 
 bool isSuccess(const StepOutcome &outcome)
@@ -107,7 +107,7 @@ Batch *AddingBatches::addDevices(const QString &title, const QVariantList &devic
     BatchPlan plan = {.family = dhFamily, .title = title, .policy = m_batches.usualPolicy()};
     QHash<QString, DeviceToAdd> targets; // by the names in the batch
     QHash<QString, QString> identities;
-    QHash<std::pair<QString, QString>, qsizetype> accounts; // a number stands for each: it is no secret
+    QHash<std::pair<QString, QString>, qsizetype> accounts; // number of each account: no secret in `login`
     for (const QVariant &value : devices) {
         const QVariantMap values = value.toMap();
         const DeviceToAdd target = deviceToAdd(values);

@@ -6,36 +6,35 @@
 #include <QThreadPool>
 #include <QVariantList>
 
-/// Devices that are added to the list in batches, for the scene: those of a device list that was read from a
-/// file, and those that the user names.
+/// Adds devices to the device list in batches: devices of a list file, and devices that the user enters.
 ///
-/// Lives on the scene's thread. Files are read on a thread of its own.
+/// Lives on the main thread. Files are read on a separate thread.
 class AddingBatches : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(bool reading READ isReading NOTIFY readingChanged)
 public:
-    /// `factory` and `batches` live longer than this.
+    /// `factory` and `batches` must outlive this object.
     AddingBatches(CDeviceFactory &factory, Batches &batches, QObject *parent = nullptr);
 
-    /// Waits for the file that is being read.
+    /// Waits until the current file is read.
     ~AddingBatches() override;
 
-    /// A list is being read.
+    /// Whether a list file is being read.
     [[nodiscard]] bool isReading() const { return m_work != 0; }
 
-    /// Reads a device list, and begins to log in to its devices as it is read. `path` may be a "file:///"
-    /// address. importBegan() or importRefused() follows, unless the batches refuse it. Does nothing while a
-    /// list is being read.
+    /// Reads a device list file on a separate thread, then starts a batch that logs in to its devices. `path`
+    /// is a path or a "file:///" URL. importBegan() or importRefused() follows, unless another batch is
+    /// running. Does nothing while a list is being read.
     Q_INVOKABLE void importList(const QString &title, const QString &path);
 
-    /// The lines of an import, or of its retry, that brought no device: maps as importFailure() makes them.
-    /// Of the last list that was read only.
+    /// The failed lines of an import or of its retry, as maps made by importFailure(). Valid for the latest
+    /// list only.
     Q_INVOKABLE [[nodiscard]] QVariantList importFailures(Batch *batch) const;
 
-    /// Adds devices: maps of "identity", by which tried() names it, "mode" (0 by address, 1 by P2P ID),
-    /// "address", "port", "account" and "password". Returns the batch, or null when it does not begin. The
-    /// scene does not own it.
+    /// Adds devices. `devices` are maps of "identity" (used in tried()), "mode" (0 by address, 1 by P2P ID),
+    /// "address", "port", "account" and "password". Returns the batch, null if it was not started. QML does
+    /// not own it.
     Q_INVOKABLE Batch *addDevices(const QString &title, const QVariantList &devices);
 
 Q_SIGNALS:
@@ -43,30 +42,30 @@ Q_SIGNALS:
     void importBegan(Batch *batch);
     void importRefused(const QString &reason);
 
-    /// What has come of devices of addDevices(), also in a retry: maps of "identity", "result" and "words" in
-    /// the user's language.
+    /// Results of devices of addDevices() or of its retry: maps of "identity", "result" (a LoginResult) and
+    /// "words" (message in the user's language).
     void tried(const QVariantList &results);
 
 private:
-    /// A list that was read, as a batch.
+    /// A list file as a batch.
     struct List
     {
-        QString refusal; ///< why there is none, in the user's language
+        QString refusal; ///< why the file cannot be imported, in the user's language; empty on success
         BatchPlan plan;
-        QHash<QString, ImportPlace> places; ///< by the names of the lines
+        QHash<QString, ImportPlace> places; ///< position in the file, by the name of the line
     };
 
     [[nodiscard]] List readList(const QString &title, const QString &path) const; ///< on any thread
     void takeList(List &list);
     void noteRows(const QList<BatchOutcome> &outcomes);
-    /// Tells the pages of new rows at the end of a batch, whichever began it: it may be a retry.
+    /// Notifies pages of new rows at the end of any batch: a retry is started elsewhere.
     void noteEnd();
 
     CDeviceFactory &m_factory;
     Batches &m_batches;
     QThreadPool m_readers;                ///< one thread
-    int m_work = 0;                       ///< of the reading, in the busy state; 0 for none
-    QTimer m_news;                        ///< runs from a new row until the pages are notified
+    int m_work = 0;                       ///< id of the reading in BusyState; 0 while not reading
+    QTimer m_news;                        ///< delays the notification of pages after a new row
     bool m_hasNewRows = false;            ///< since the end of the last batch
-    QHash<QString, ImportPlace> m_places; ///< of the last list that was read, by the names of its lines
+    QHash<QString, ImportPlace> m_places; ///< of the latest list, by the name of the line
 };

@@ -7,7 +7,7 @@
 
 AddressOrder addressOrder(const QList<AddressChange> &changes)
 {
-    QMultiHash<QString, qsizetype> owners; // by the address that they leave
+    QMultiHash<QString, qsizetype> owners; // changes by old address
     for (qsizetype index = 0; index < changes.size(); ++index) {
         if (changes.at(index).oldAddress != changes.at(index).newAddress)
             owners.insert(changes.at(index).oldAddress, index);
@@ -18,7 +18,7 @@ AddressOrder addressOrder(const QList<AddressChange> &changes)
         const QString &wanted = changes.at(index).newAddress;
         if (wanted.isEmpty())
             continue;
-        // Also for a device that keeps its address: others with the same one leave it first.
+        // Includes a device that keeps its address: others with that address leave it first.
         const QList<qsizetype> before = owners.values(wanted);
         for (const qsizetype owner : before) {
             followers[owner].append(index);
@@ -27,7 +27,7 @@ AddressOrder addressOrder(const QList<AddressChange> &changes)
     }
 
     AddressOrder result;
-    std::set<qsizetype> ready; // the first one of the list is next
+    std::set<qsizetype> ready; // ordered: the first change of the list is next
     for (qsizetype index = 0; index < changes.size(); ++index) {
         if (waitsFor.at(index) == 0)
             ready.insert(index);

@@ -1,24 +1,26 @@
-// The order in which the devices of a batch get their new addresses.
+// The order of the address changes of a batch.
 #pragma once
 
 #include <QList>
 #include <QString>
 
-/// One change of an address.
+/// The change of one device's address.
 struct AddressChange
 {
     QString oldAddress;
-    QString newAddress; ///< empty when it is not known
+    QString newAddress; ///< empty if unknown (DHCP)
 };
 
+/// Result of addressOrder().
 struct AddressOrder
 {
-    QList<qsizetype> order; ///< indices of the changes
-    /// Indices of changes that cannot be ordered, since each device of them gets the address of another one.
+    QList<qsizetype> order; ///< indexes of the changes
+    /// Indexes of the changes that cannot be ordered: a circle of devices that exchange addresses, and those
+    /// that depend on it.
     QList<qsizetype> circle;
 };
 
-/// A device that gets the address of another one of the batch comes after it, so that no device gets an
-/// address that still responds. Otherwise the order is that of the list. Devices that share an address,
-/// before or after, do not wait for each other.
+/// Orders the changes so that no device gets an address that another device of the batch still has. Otherwise
+/// keeps the given order. Devices with the same old address, or with the same new address, do not depend on
+/// each other. Any thread.
 [[nodiscard]] AddressOrder addressOrder(const QList<AddressChange> &changes);

@@ -43,16 +43,16 @@ void AddressPlan::prepare()
     const std::optional<std::uint32_t> start = ipv4Number(m_startAddress);
     m_numbers.clear();
     m_timesGiven.clear();
-    QSet<QString> leaving; // devices that give their addresses up
+    QSet<QString> leaving; // devices that will leave their address
     std::uint32_t step = 0;
     for (int row = 0; row < rowCount(); ++row) {
         if (!start || !isChecked(row)) {
             m_numbers.append(std::nullopt);
             continue;
         }
-        m_numbers.append(*start + step); // over the highest address it begins at the lowest again
+        m_numbers.append(*start + step); // wraps around after the highest address
         step += m_sameAddress ? 0 : 1;
-        // A device that refuses keeps the address that it has.
+        // A device that will not be changed keeps its address.
         if (hindranceOf(row).isEmpty()) {
             ++m_timesGiven[*m_numbers.constLast()];
             leaving.insert(identityOf(deviceAt(row)));
@@ -70,7 +70,7 @@ void AddressPlan::prepare()
 
 QString AddressPlan::hindranceOf(int row) const
 {
-    // The request goes to a MAC or a UUID that the device itself has reported.
+    // The request needs the MAC or UUID that the device itself has reported.
     const QString hindrance = BatchPreview::hindranceOf(row);
     const QVariantMap device = deviceAt(row);
     const bool isNameless =
@@ -93,7 +93,7 @@ AddressPlan::Mark AddressPlan::markOf(int row) const
         return IsGateway;
     const std::optional<std::uint32_t> mask = ipv4Number(m_mask);
     if (!mask || !isSubnetMask(*mask))
-        return Fine; // the field says that the mask is none
+        return Fine; // the mask field shows that the mask is invalid
     if ((*number & *mask) != (ipv4Number(m_startAddress).value_or(0) & *mask))
         return OutsideSubnet;
     const std::uint32_t host = *number & ~*mask;

@@ -1,4 +1,4 @@
-// Which address each device of a batch will get, and what will be wrong with it.
+// Preview of a batch of address changes.
 #pragma once
 
 #include "device/batch/batchpreview.h"
@@ -10,12 +10,12 @@
 #include <optional>
 #include <utility>
 
-/// The addresses of a batch: the k-th ticked device gets the start address plus k, as a 32-bit number, or all
-/// get the start address, or each gets one by DHCP. A mark says what will be wrong with an address; it
-/// informs and changes no address.
+/// Computes the new addresses of a batch: the k-th checked device gets the start address plus k as a 32-bit
+/// number, or all devices get the start address, or each device uses DHCP. A mark is the problem of an
+/// address; it is information only. Lives on the main thread.
 ///
-/// A row is in conflict when its address collides. Its "action" is its new address, empty while the start
-/// address is none. It also has "mark".
+/// "action" of a row is its new address, empty while the start address is invalid. A row has the additional
+/// key "mark" (a Mark). Marks of collisions set the row's conflict role.
 class AddressPlan : public BatchPreview
 {
     Q_OBJECT
@@ -26,15 +26,16 @@ class AddressPlan : public BatchPreview
     Q_PROPERTY(bool sameAddress READ sameAddress WRITE setSameAddress NOTIFY judged)
     Q_PROPERTY(bool dhcp READ dhcp WRITE setDhcp NOTIFY judged)
 public:
+    /// The problem of a new address.
     enum Mark
     {
         Fine,
-        NotChanged,      ///< the device will not take an address: its note says why
-        TakenByOther,    ///< a device that keeps its address has this one
-        TakenInBatch,    ///< another device of the batch gets it too
-        IsGateway,       ///< the gateway has it
+        NotChanged,      ///< the address of the device cannot be changed; "note" has the reason
+        TakenByOther,    ///< in use by a device that keeps its address
+        TakenInBatch,    ///< planned for several devices of the batch
+        IsGateway,       ///< equal to the gateway
         OutsideSubnet,   ///< not in the subnet of the start address
-        NoDeviceAddress, ///< the address of the subnet itself, or of all its devices
+        NoDeviceAddress, ///< network or broadcast address of the subnet
     };
     Q_ENUM(Mark)
 
@@ -51,19 +52,19 @@ public:
     [[nodiscard]] bool dhcp() const { return m_dhcp; }
     void setDhcp(bool dhcp);
 
-    /// True when the gateway is not in the subnet of the start address; false while one of the texts is not
-    /// valid.
+    /// Whether the gateway is outside the subnet of the start address; false while start address, mask or
+    /// gateway is invalid.
     [[nodiscard]] bool isGatewayOutside() const;
 
-    /// What the device in this place gets; empty when there is no such place, the device is not ticked, or
-    /// there is no start address.
+    /// The new address of a row. Empty if `row` is out of range or not checked, or the start address is
+    /// invalid.
     Q_INVOKABLE [[nodiscard]] QString addressOf(int row) const;
 
-    /// addressOf() of the ticked rows, in the order of checkedIdentities().
+    /// The new addresses of the checked rows, in the order of checkedIdentities().
     Q_INVOKABLE [[nodiscard]] QStringList addresses() const;
 
-    /// The device that has the address of this place, as the user knows it: model and MAC, or its address and
-    /// port when it reports neither. Empty when no other device has it.
+    /// The device that keeps the address planned for this row: model and MAC, or address and port if it
+    /// reports neither. Empty if there is none.
     Q_INVOKABLE [[nodiscard]] QString otherDeviceAt(int row) const;
 
 protected:
@@ -90,7 +91,7 @@ private:
     bool m_sameAddress = false;
     bool m_dhcp = false;
 
-    QList<std::optional<std::uint32_t>> m_numbers; ///< new addresses by row; none of unticked ones
-    QHash<std::uint32_t, int> m_timesGiven;        ///< to devices that take one
+    QList<std::optional<std::uint32_t>> m_numbers; ///< new addresses by row; nullopt if not checked
+    QHash<std::uint32_t, int> m_timesGiven;        ///< number of devices by new address
     QHash<std::uint32_t, QString> m_taken;         ///< devices that keep their addresses, by address
 };

@@ -11,8 +11,8 @@ namespace {
 
 constexpr int frame = 16; // milliseconds
 
-/// The engine would hold the refusal of a device back until its upgrade has ended: the upgrade is a step of
-/// it.
+/// Suffix of the engine's key for a device that is being upgraded. Without it, the engine would delay the
+/// refusal until the upgrade, which is a step of the engine, has ended.
 const QString upgradingMark = QStringLiteral(" upgrade");
 
 bool isRefusedLogin(int result)
@@ -22,7 +22,7 @@ bool isRefusedLogin(int result)
            result == resultCode(LoginResult::AccountLocked);
 }
 
-/// The same for the same account and password.
+/// Hash of an account and its password, to detect a change without storing the password.
 QByteArray loginMark(const DeviceAccount &account)
 {
     QCryptographicHash hash(QCryptographicHash::Sha256);
@@ -32,7 +32,7 @@ QByteArray loginMark(const DeviceAccount &account)
     return hash.result();
 }
 
-/// Whether the work was to be done with a device, and was not.
+/// Whether the device failed or was not reached.
 bool isFailure(int result)
 {
     return result != BatchReport::Succeeded && result != BatchReport::Waiting &&
@@ -46,7 +46,7 @@ StepOutcome refuseForUpgrade(const StepControl & /*control*/)
 
 } // namespace
 
-/// Gathers what the engine's threads report until the scene's thread takes it.
+/// Collects the reports of the engine's threads until the main thread takes them.
 class Batch::Mailbox : public BatchWatcher
 {
 public:
@@ -98,7 +98,7 @@ public:
         return std::exchange(m_news, {});
     }
 
-    /// The batch goes: nothing is posted to it any more.
+    /// Called before the batch is destroyed: nothing is posted to it afterwards.
     void close()
     {
         const std::lock_guard lock(m_mutex);
@@ -164,7 +164,7 @@ bool Batch::start()
     items.reserve(static_cast<std::size_t>(m_plan.devices.size()));
     const auto isPrepared = std::make_shared<std::once_flag>();
     for (const BatchDevice &device : std::as_const(m_plan.devices)) {
-        // Of rows that share an address, steps that go by MAC ask different devices.
+        // Rows that share an address are different devices for steps that use the MAC.
         const QString login =
             m_plan.isByAddress ? device.login : device.login + QLatin1Char('\n') + device.identity;
         if (device.isUpgrading)
@@ -207,7 +207,8 @@ int Batch::secondsLeft() const
     const qint64 elapsed = m_engine.now() - m_start;
     if (!m_isRunning || m_advance.progress <= 0 || elapsed < earliest)
         return -1;
-    // The estimate is that of the last advance. When its time has passed without another one, none is known.
+    // The estimate is from the last advance. It is unknown once its time has passed without a further
+    // advance.
     const double total = static_cast<double>(m_advance.elapsed) / m_advance.progress;
     const double left = total - static_cast<double>(elapsed);
     return left < 0 ? -1 : static_cast<int>(left / 1000);

@@ -12,10 +12,10 @@
 #include <memory>
 #include <mutex>
 
-/// One batch of the session, for the scene: how far it is and what has come of each device. What its steps
-/// report on the engine's threads arrives here in groups, one for each painted frame at most.
+/// One batch, for QML: its progress and the result of each device. Reports of the engine's threads arrive
+/// here in groups, at most one for each painted frame.
 ///
-/// Lives on the scene's thread.
+/// Lives on the main thread; created and owned by Batches.
 class Batch : public QObject
 {
     Q_OBJECT
@@ -38,147 +38,148 @@ class Batch : public QObject
     Q_PROPERTY(QDateTime began READ began CONSTANT)
     Q_PROPERTY(QDateTime ended READ ended NOTIFY changed)
 public:
-    /// What has come of a device.
+    /// A device with its result.
     struct Entry
     {
         BatchDevice device;
         StepOutcome outcome = {.result = BatchReport::NotDone, .text = {}};
-        QDateTime time;               ///< of the outcome; invalid when nothing was done
-        QString refusedAccount = {};  ///< the device has not accepted, when the plan knows accounts
-        QByteArray refusedLogin = {}; ///< compared with the account of a retry; holds no password
+        QDateTime time;               ///< of the outcome; invalid while there is none
+        QString refusedAccount = {};  ///< account that the device refused, if the plan has accountOf
+        QByteArray refusedLogin = {}; ///< hash of the refused account and password, compared for a retry
     };
 
-    /// `engine` lives longer than this.
+    /// `engine` must outlive this object.
     Batch(BatchEngine &engine, BatchPlan plan, QObject *parent = nullptr);
     ~Batch() override;
 
-    /// To be called once. Returns false when the engine does not take the batch.
+    /// Starts the batch; may be called once. Returns false if the engine does not accept it.
     bool start();
 
-    /// Name of the work, or of the step that its devices wait for and are not given.
+    /// Name of the work; after giveUpWaiting() the name of the step that was cancelled.
     [[nodiscard]] const QString &title() const { return m_title; }
-    /// How many devices there are of each kind, in the user's language.
+    /// The number of devices for each kind of result, in the user's language.
     [[nodiscard]] QString summary() const;
     [[nodiscard]] int total() const { return static_cast<int>(m_entries.size()); }
     [[nodiscard]] int done() const { return m_done; }
-    /// From 0 to 1. Devices count when they are done, unless noteProgress() knows more.
+    /// 0 to 1: the finished devices, or the value of noteProgress() if that is greater.
     [[nodiscard]] double progress() const;
-    /// How far the devices are that are not done, with the others: for steps that take long.
+    /// Sets the progress (0 to 1) of all devices together. For batches with long steps.
     void noteProgress(double progress);
 
-    /// Address and port of a device that is being worked on, or its name when it has no address; empty when
-    /// there is none.
+    /// Address and port of a device with a running step, or its name if it has no address; empty if no step
+    /// runs.
     [[nodiscard]] QString device() const;
     [[nodiscard]] bool isRunning() const { return m_isRunning; }
     [[nodiscard]] bool isStopping() const { return m_isRunning && m_isStopping; }
 
-    /// Too many devices in a row have refused the password: the user decides whether it goes on.
+    /// Whether the batch is paused, because too many devices in a row refused the password, until the user
+    /// decides.
     [[nodiscard]] bool isHeld() const { return m_isRunning && m_isHeld && !m_isStopping; }
 
-    /// How many refused passwords in a row hold the batch.
+    /// The number of refused passwords in a row after which the batch is paused; 0: never.
     [[nodiscard]] int refusalsInARow() const { return m_plan.policy.wrongPasswordsInARow; }
 
-    /// Names of the accounts that devices have not accepted, in a line; empty when the plan knows none.
+    /// The accounts that devices refused, as one line; empty if the plan has no accountOf.
     [[nodiscard]] QString refusedAccounts() const;
 
-    /// Devices that this batch, which retries another one, has left out, and that failed or were not done
-    /// there.
+    /// For a retry: the number of failed or not done devices of the earlier batches that the retry left out.
     [[nodiscard]] int failedBefore() const;
 
-    /// Estimated at the last advance of the progress. -1 while there is nothing to estimate from, and when
-    /// the time has passed without a further advance.
+    /// Estimated remaining seconds. -1 in the first two seconds, without progress, and when the estimate has
+    /// passed without further progress.
     [[nodiscard]] int secondsLeft() const;
     [[nodiscard]] BatchReport *report() { return &m_report; }
-    /// Whether Batches::putAddressesBack() can undo it.
+    /// Whether Batches::putAddressesBack() can revert the batch.
     [[nodiscard]] bool changesAddresses() const { return !m_plan.addressesBefore.isEmpty(); }
     [[nodiscard]] const QDateTime &began() const { return m_began; }
     [[nodiscard]] const QDateTime &ended() const { return m_ended; }
     [[nodiscard]] const QList<Entry> &entries() const { return m_entries; }
     [[nodiscard]] const BatchPlan &plan() const { return m_plan; }
 
-    /// Whether the batch may be retried, now or after accounts have changed.
+    /// Whether a device may be retried, now or after its account has changed.
     [[nodiscard]] bool hasRetryable() const;
 
-    /// What its steps were made from, such as a password, is kept only as long as it may be retried.
+    /// Releases the step maker of the plan, which may hold a password. The batch cannot be retried
+    /// afterwards.
     void forgetSteps();
 
-    /// Leaves out what was not begun. Running steps end at their next safe point.
+    /// Stops the batch: steps that have not started are dropped, running steps end at their next safe point.
     Q_INVOKABLE void stop();
 
-    /// Goes on after isHeld().
+    /// Continues a paused batch.
     Q_INVOKABLE void resume();
 
-    /// The devices that wait for the next step, which is named `title`, do not get it: they are not done.
+    /// Sets the devices that wait for a further step to NotDone. `title` is the name of that step.
     Q_INVOKABLE void giveUpWaiting(const QString &title);
 
-    /// The batch whose devices this one tries again.
+    /// Sets the batch that this batch retries.
     void setRetryOf(Batch *earlier);
 
-    /// The accounts of devices have changed: with another one, a device may be tried again.
+    /// Accounts of devices may have changed, which can make a refused device retryable. Emits changed().
     void noteAccounts();
 
-    /// The devices that a retry is for: those of this batch and those that it has left out.
+    /// The devices for a retry: those of this batch and of the batches that it retries.
     [[nodiscard]] QList<BatchDevice> devicesToRetry() const;
 
-    /// Identities of the devices that failed or were not done, by which pages tick their rows. As the next
-    /// ones, also those that this batch has left out.
+    /// Identities of the devices that failed or were not done, including those of the batches that this one
+    /// retries. Pages check their rows by them.
     Q_INVOKABLE [[nodiscard]] QStringList failedIdentities() const;
 
-    /// Names of the devices that may succeed in a retry.
+    /// Names of the devices of devicesToRetry().
     Q_INVOKABLE [[nodiscard]] QStringList retryableDevices() const;
 
-    /// Names of the devices of this batch that failed or were not done.
+    /// Names of the devices of this batch that have not succeeded.
     Q_INVOKABLE [[nodiscard]] QStringList failedDevices() const;
 
-    /// Why no device of the batch can be tried again, in the user's language; empty when one can.
+    /// Why no device of the batch can be retried, in the user's language; empty if one can.
     [[nodiscard]] QString retryRefusal() const;
 
-    /// Whether the batch has ended and the device with this identity may succeed in a retry.
+    /// Whether the batch has ended and the device with this identity can be retried.
     Q_INVOKABLE [[nodiscard]] bool canRetry(const QString &identity) const;
 
-    /// What a device's outcome says beside its code, here or else in the batch that this one retries; empty
-    /// when there is nothing.
+    /// The text of a device's outcome, from this batch or from the one that it retries; empty if there is
+    /// none.
     Q_INVOKABLE [[nodiscard]] QString textOf(const QString &device) const;
     Q_INVOKABLE [[nodiscard]] QStringList textsOf(const QStringList &devices) const;
 
-    /// Maps of "device" and "words" for those of the devices that are in this batch, or else in the one that
-    /// it retries: what the outcome says, or the meaning of its code.
+    /// Maps of "device" and "words" for those of the devices that are in this batch or in the one that it
+    /// retries. "words" is the text of the outcome, or the name of its result.
     Q_INVOKABLE [[nodiscard]] QVariantList wordsOf(const QStringList &devices) const;
 
-    /// The devices that have succeeded until now, in the order in which their results came, but for the first
-    /// `known` ones.
+    /// The devices that have succeeded until now, in the order of their results, without the first `known`
+    /// ones.
     Q_INVOKABLE [[nodiscard]] QStringList succeededDevices(int known) const;
 
-    /// Devices that succeeded but whose outcome says something: they could not take everything.
+    /// The number of devices that succeeded with a text: they did not accept everything.
     Q_INVOKABLE [[nodiscard]] int partlyDone() const;
 
 Q_SIGNALS:
     void changed();
 
-    /// Names of devices and their results, in the order in which they came. At the end of the batch also
-    /// those of the devices that were not done.
+    /// Names of devices and their results, in the order of completion. At the end of the batch also the
+    /// devices that were not done.
     void resulted(const QStringList &devices, const QList<int> &results);
 
-    void finished(); ///< once, the last one
+    void finished(); ///< emitted once, as the last signal
 
 private:
     class Mailbox;
 
-    /// The last growth of the progress.
+    /// The last increase of the progress.
     struct Advance
     {
         double progress = 0;
         qint64 elapsed = 0; ///< milliseconds since the start of the batch
     };
 
-    /// The first of the batch's steps that runs does the preparation before.
+    /// The step of a device. The first step that runs executes the plan's preparation before.
     [[nodiscard]] DeviceStep preparedStep(const BatchDevice &device,
                                           const std::shared_ptr<std::once_flag> &flag) const;
     [[nodiscard]] bool isRetryable(const Entry &entry) const;
-    [[nodiscard]] bool hasOtherAccount(const Entry &entry) const; ///< than it has refused
-    /// Its entries, and behind them those of the batches that it retries of devices that it has left out.
+    [[nodiscard]] bool hasOtherAccount(const Entry &entry) const; ///< than the refused account
+    /// The entries of this batch, then those of the batches that it retries without devices listed already.
     [[nodiscard]] QList<const Entry *> allEntries() const;
-    /// Here or else in the batch that this one retries; null when there is none.
+    /// The entry in this batch or in the batches that it retries; null if there is none.
     [[nodiscard]] const Entry *find(const QString &device) const;
     void takeNews();
     void noteAdvance();
@@ -192,17 +193,17 @@ private:
     BatchReport m_report;
     QPointer<Batch> m_retryOf; ///< not owned
     QList<Entry> m_entries;
-    QHash<QString, qsizetype> m_places; ///< in m_entries, by the device's name
+    QHash<QString, qsizetype> m_places; ///< indexes in m_entries, by device name
     const std::shared_ptr<Mailbox> m_mailbox;
     QTimer m_frame;
-    QStringList m_succeeded;    ///< in the order in which they came
-    QList<qsizetype> m_running; ///< places of running steps, in the order of their start
+    QStringList m_succeeded;    ///< in the order of completion
+    QList<qsizetype> m_running; ///< indexes of running steps, in the order of their start
     QDateTime m_began;
     QDateTime m_ended;
-    qint64 m_start = 0; ///< milliseconds on the clock of the engine
-    int m_number = 0;   ///< in the engine
+    qint64 m_start = 0; ///< milliseconds on the engine's clock
+    int m_number = 0;   ///< of this batch in the engine
     int m_done = 0;
-    double m_progress = 0; ///< as noted
+    double m_progress = 0; ///< of noteProgress()
     Advance m_advance;
     bool m_isRunning = false;
     bool m_isStopping = false;

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Whether another try with the same account may lock it.
+/// Whether a further attempt with the same account may lock it.
 bool isRefusal(int result)
 {
     return result == resultCode(LoginResult::NoSuchAccount) ||
@@ -20,7 +20,7 @@ bool isRefusal(int result)
            result == resultCode(LoginResult::AccountLocked);
 }
 
-/// Whether the device has let the account in, whatever came of the request that followed.
+/// Whether the device has accepted the login, regardless of the result of the request.
 bool wasLoggedIn(int result)
 {
     switch (static_cast<LoginResult>(result)) {
@@ -139,7 +139,7 @@ BatchEngine::Taken BatchEngine::takeLocked()
             const std::size_t place = it->second.back();
             if (isInUse(batch->items[place].device)) {
                 if (batch->policy.atOnce == 1)
-                    break; // nothing overtakes in the order of the list
+                    break; // with one step at a time, the list order is kept strictly
                 continue;
             }
             Taken taken{
@@ -174,7 +174,7 @@ bool BatchEngine::hasWorkLocked() const
 
 void BatchEngine::work(const std::stop_token &stop)
 {
-    sdk::giveWayToWindow(); // a batch begins with as many steps as it may have at the same time
+    sdk::giveWayToWindow(); // a batch starts as many steps as it may run in parallel
     for (;;) {
         Taken taken;
         {
@@ -234,7 +234,7 @@ StepOutcome BatchEngine::perform(Taken &taken, bool &holdsPlace)
         }
         const auto refusal = batch.refusals.constFind({taken.item.device, taken.item.login});
         if (refusal != batch.refusals.cend()) {
-            taken.item.step = nullptr; // its destruction writes the row, which comes before finished()
+            taken.item.step = nullptr; // its destructor updates the row; must precede finished()
             return *refusal;
         }
     }
@@ -250,7 +250,7 @@ StepOutcome BatchEngine::perform(Taken &taken, bool &holdsPlace)
 void BatchEngine::releasePlace(Batch &batch, bool &holdsPlace)
 {
     const std::lock_guard lock(m_mutex);
-    // Each step that waits occupies a thread: beyond this number, it keeps its place.
+    // Each waiting step occupies a thread. If no thread is left for another step, it keeps its slot.
     if (!holdsPlace || (m_threads.size() >= maximumThreads && m_idleThreads == 0))
         return;
     holdsPlace = false;
@@ -278,7 +278,7 @@ bool BatchEngine::noteLocked(const Taken &taken, const StepOutcome &outcome)
 void BatchEngine::stop(int number)
 {
     std::shared_ptr<Batch> batch;
-    std::vector<DeviceStep> notBegun; // may do something when they go: not under the lock
+    std::vector<DeviceStep> notBegun; // their destructors may call back: destroyed without the lock
     bool hasEnded = false;
     {
         const std::lock_guard lock(m_mutex);
@@ -301,7 +301,7 @@ void BatchEngine::stop(int number)
         if (hasEnded)
             m_batches.erase(found);
     }
-    batch->stop.request_stop(); // runs what the steps have registered
+    batch->stop.request_stop(); // runs the stop callbacks of the steps
     if (hasEnded)
         batch->watcher->ended();
 }
@@ -358,7 +358,7 @@ void BatchEngine::requestEnd()
         for (const auto &[number, batch] : m_batches)
             numbers.push_back(number);
     }
-    m_changed.notify_all(); // who waits for a device
+    m_changed.notify_all(); // wakes hold()
     for (const int number : numbers)
         stop(number);
 }

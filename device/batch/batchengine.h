@@ -1,4 +1,4 @@
-// Runs the steps of batches on threads of its own.
+// Runs the steps of batches on worker threads.
 #pragma once
 
 #include "device/registry/devicestep.h"
@@ -19,71 +19,71 @@
 /// One step of a batch.
 struct BatchItem
 {
-    QString device;     ///< two steps of one device never run at the same time, whichever batches they are of
-    QString login = {}; ///< tells apart the accounts that the steps of one device use; empty for one
+    QString device;     ///< key; two steps of one device never run in parallel, also of different batches
+    QString login = {}; ///< key of the account that the step uses; empty if all steps use one account
     DeviceStep step;
 };
 
-/// How the steps of a batch follow each other.
+/// Limits of a batch.
 struct BatchPolicy
 {
-    int atOnce = 8;                        ///< devices that are worked on at the same time, 1 or more
-    std::chrono::milliseconds deadline{0}; ///< of a step, after which it is to end; 0 for none
-    int wrongPasswordsInARow = 0;          ///< that hold the batch until resume(); 0 for any number
+    int atOnce = 8;                        ///< maximum number of steps in parallel, 1 or more
+    std::chrono::milliseconds deadline{0}; ///< of each step; 0: none
+    int wrongPasswordsInARow = 0;          ///< refused passwords in a row that pause the batch; 0: never
 };
 
-/// Learns of a batch. Called on threads of the engine, without a lock; one batch's calls may come from
-/// several threads at the same time, except for ended(), which is the last one.
+/// Receives the events of a batch. Called on the engine's threads without a lock. Calls for one batch may
+/// come from several threads in parallel, except for ended(), which is the last call.
 class BatchWatcher
 {
 public:
     virtual ~BatchWatcher() = default;
 
-    /// `place` is an index of the batch's items.
+    /// `place` is the index of the item in the batch.
     virtual void started(std::size_t place) = 0;
     virtual void finished(std::size_t place, const StepOutcome &outcome) = 0;
 
-    /// Too many devices in a row have refused the password. What runs goes on, nothing new begins.
+    /// The batch is paused: too many devices in a row refused the password. Running steps continue.
     virtual void held() = 0;
 
-    /// Items that were not finished are not done.
+    /// Items without a finished() call were not run.
     virtual void ended() = 0;
 };
 
-/// Thread-safe. Steps of one device keep their order. After a device has refused an account, or is locked,
-/// its further steps with that account in the batch end with the same outcome and are not run: each try
-/// counts towards its lock.
+/// Runs the steps of batches on up to 80 threads. Steps of one device keep their order. After a device has
+/// refused an account, further steps of the batch with that device and account are not run and get the same
+/// outcome, because each attempt counts towards the device's lock. Thread-safe.
 class BatchEngine
 {
 public:
     static constexpr std::size_t maximumThreads = 80;
 
-    /// Deadlines are times of `clock`. Without one (null) steps have none.
+    /// Deadlines use `clock`. Null: steps have no deadline.
     explicit BatchEngine(std::shared_ptr<const sdk::Clock> clock);
 
-    /// Ends.
+    /// Calls end().
     ~BatchEngine();
     BatchEngine(const BatchEngine &) = delete;
     BatchEngine &operator=(const BatchEngine &) = delete;
 
-    /// Milliseconds on the clock of the deadlines; without it on one of the system.
+    /// Milliseconds of the deadlines' clock; without one, of the system clock.
     [[nodiscard]] std::int64_t now() const;
 
-    /// Returns the batch's number, 0 when the engine has ended or there is no thread to be had. An empty
-    /// batch ends at once, in this call. The engine keeps the watcher until ended() has returned.
+    /// Starts a batch. Returns its number, 0 if the engine has ended or no thread can be created. An empty
+    /// batch ends during this call. The engine keeps the watcher until ended() has returned.
     int start(std::vector<BatchItem> items, const BatchPolicy &policy, std::shared_ptr<BatchWatcher> watcher);
 
-    /// Adds a step behind the others. Returns false when the batch has ended, or is stopped.
+    /// Appends a step to a running batch. Returns false if the batch has ended or is stopped.
     bool append(int number, BatchItem item);
 
-    /// Starts nothing new of a batch, lets those of its steps go and asks the running ones to end. Does
-    /// nothing for one that has ended.
+    /// Stops a batch: destroys the steps that have not started, and requests the running steps to end. Does
+    /// nothing if the batch has ended.
     void stop(int number);
 
-    /// Goes on with a batch that is held.
+    /// Continues a paused batch.
     void resume(int number);
 
-    /// Keeps the steps of a device from beginning as long as it exists. The engine outlives it.
+    /// Reservation of a device: no step of the device starts while it exists. The engine must outlive it.
     class Hold
     {
     public:
@@ -100,46 +100,48 @@ public:
         QString m_device;
     };
 
-    /// For work on a device that is no step: blocks until no step of it runs, `stop` is requested or the
-    /// engine ends. Several may hold a device at the same time.
+    /// Reserves a device for work outside a batch. Blocks until no step of the device runs. Returns an empty
+    /// Hold if `stop` is requested or the engine ends. A device may have several reservations.
     [[nodiscard]] Hold hold(const QString &device, const std::stop_token &stop);
 
-    /// Stops every batch, and starts none any more. Does not wait for the steps that run.
+    /// Stops all batches and refuses new ones. Does not wait for running steps.
     void requestEnd();
 
-    /// The same, and waits for them.
+    /// requestEnd(), then joins the threads.
     void end();
 
 private:
-    /// The steps of one device that are still to come, as indices of the items in their order.
+    /// The steps of one device that have not started, as indexes of the items; the last element is the next
+    /// step.
     using Waiting = std::vector<std::size_t>;
 
     struct Batch
     {
-        std::vector<BatchItem> items; ///< append() moves them
+        std::vector<BatchItem> items; ///< append() may reallocate it
         BatchPolicy policy;
         std::shared_ptr<BatchWatcher> watcher;
-        std::map<std::size_t, Waiting> waiting; ///< by the first index; the last one of each is the next
-        QHash<QString, Waiting> following;      ///< further steps of devices with a running step of the batch
+        std::map<std::size_t, Waiting> waiting; ///< devices without a running step, by next index
+        QHash<QString, Waiting> following;      ///< remaining steps of devices with a running step, by device
         QHash<std::pair<QString, QString>, StepOutcome> refusals; ///< by device and login
         std::stop_source stop;
-        std::size_t running = 0; ///< steps
-        int placesTaken = 0;     ///< of policy.atOnce
+        std::size_t running = 0; ///< number of running steps
+        int placesTaken = 0;     ///< used slots of policy.atOnce
         int wrongPasswords = 0;  ///< in a row
         bool isHeld = false;
         bool isStopped = false;
     };
 
-    /// A step that a thread has taken.
+    /// A step that a thread has removed from its batch to run it.
     struct Taken
     {
-        std::shared_ptr<Batch> batch; ///< null: there is none
+        std::shared_ptr<Batch> batch; ///< null: no step is ready
         int number = 0;
         std::size_t place = 0;
         BatchItem item;
     };
 
-    [[nodiscard]] bool isInUse(const QString &device) const; ///< with the lock
+    // Functions ending in "Locked", and isInUse(), require m_mutex to be locked.
+    [[nodiscard]] bool isInUse(const QString &device) const;
     [[nodiscard]] Taken takeLocked();
     [[nodiscard]] bool hasWorkLocked() const;
     void addThreadsLocked();
@@ -147,15 +149,15 @@ private:
     void run(Taken taken);
     [[nodiscard]] StepOutcome perform(Taken &taken, bool &holdsPlace);
     void releasePlace(Batch &batch, bool &holdsPlace);
-    /// Returns true when the batch is held from now on.
+    /// Updates the count of refused passwords. Returns true if this pauses the batch.
     [[nodiscard]] static bool noteLocked(const Taken &taken, const StepOutcome &outcome);
 
     const std::shared_ptr<const sdk::Clock> m_clock;
     std::mutex m_mutex;
     std::condition_variable_any m_changed;
-    std::map<int, std::shared_ptr<Batch>> m_batches; ///< that have not ended, by number
+    std::map<int, std::shared_ptr<Batch>> m_batches; ///< running batches by number
     QSet<QString> m_busyDevices;                     ///< devices with a running step
-    QHash<QString, int> m_heldDevices;               ///< how many hold a device
+    QHash<QString, int> m_heldDevices;               ///< number of reservations by device
     int m_lastNumber = 0;
     std::size_t m_idleThreads = 0;
     bool m_hasEnded = false;

@@ -17,11 +17,11 @@ namespace {
 
 constexpr int wrongPasswordsInARow = 5;
 
-/// Of the requests that a step makes, each has a time of its own, up to 5 s.
+/// Each request of a step has a separate timeout of up to 5 s.
 constexpr std::chrono::milliseconds stepDeadline = std::chrono::seconds(60);
 
-/// Which system commands do the same work: a clock that was not set by this computer may be set by hand, and
-/// the change of a password has two steps.
+/// Id of the work of a system command. Both ways to set the clock are one work, as are both steps of a
+/// password change.
 QString workOf(const QString &command)
 {
     if (command == QLatin1String("setTimeByPC") || command == QLatin1String("setTimeByManual"))
@@ -29,14 +29,14 @@ QString workOf(const QString &command)
     return command == QLatin1String("loginCheck") ? QStringLiteral("modifyPassword") : command;
 }
 
-/// Whether a device may have another address after a change of it with this result.
+/// Whether the address of a device may have changed although the change has this result.
 bool mayBeChanged(int result)
 {
     return result == BatchReport::Succeeded || result == resultCode(LoginResult::NetworkFailure) ||
            result == resultCode(LoginResult::Unconfirmed) || result == resultCode(LoginResult::AddressInUse);
 }
 
-/// How far the upgrade of a device is, as its row shows it: an UpgradeTools::Result.
+/// The upgrade state in a device's row, an UpgradeTools::Result.
 int upgradeOf(CDeviceFactory &factory, const QString &family, const BatchDevice &device)
 {
     const QJsonObject row = factory.deviceRow(family, device.identity);
@@ -49,7 +49,7 @@ Batches::Batches(CDeviceFactory &factory, BatchEngine &engine, std::function<int
     : QObject(parent), m_factory(factory), m_engine(engine), m_atOnce(std::move(atOnce))
 {
     m_files.setMaxThreadCount(1);
-    // Before a search, the user may have entered another default account.
+    // The user may have entered another default account before the search.
     connect(&m_factory, &CDeviceFactory::signalSearchDone, this, &Batches::noteAccounts);
 }
 
@@ -100,7 +100,7 @@ Batch *Batches::configureSystem(const QString &family, const QString &command, c
              [this, family, command, values](const BatchDevice &device) {
                  return m_factory.systemStep(family, command, values, device.ipport);
              },
-         // The old password is typed.
+         // A password change uses the old password that the user enters, not the account of the row.
          .accountOf = workOf(command) == QLatin1String("modifyPassword") ? nullptr : rowAccounts(family),
          .isByAddress = true,
          .changesRows = command == QLatin1String("resetSystem")});
@@ -125,7 +125,7 @@ Batch *Batches::nameCameras(const QString &family, const QString &title, const Q
                       return [step, name](const StepControl &control) {
                           StepOutcome outcome = step(control);
                           if (outcome.result == BatchReport::Succeeded)
-                              outcome.text = name; // for the record
+                              outcome.text = name; // for the results file
                           return outcome;
                       };
                   },
@@ -215,7 +215,7 @@ BatchDevice Batches::deviceNow(const BatchPlan &plan, const Batch::Entry &entry)
         return batchDevice(m_factory, plan.family, entry.device.identity);
     BatchDevice device = entry.device;
     const QString given = entry.outcome.result == BatchReport::Succeeded ? entry.outcome.text : QString();
-    if (!given.isEmpty()) // nothing but the colon is known of an address by DHCP
+    if (!given.isEmpty()) // after a change to DHCP the address is unknown: ":port"
         device.ipport = (given == QLatin1String("DHCP") ? QString() : given) + QLatin1Char(':') +
                         device.ipport.section(QLatin1Char(':'), 1);
     return device;
@@ -241,7 +241,7 @@ Batch *Batches::putAddressesBack(Batch *batch, const QString &title, const QStri
 std::optional<AddressSettings> Batches::settingsBeforeFailure(const QString &identity) const
 {
     const QJsonObject row = m_factory.deviceRow(QStringLiteral("dh"), identity);
-    if (!row.value(DeviceRowKey::unconfirmed).toBool()) // it was found again meanwhile
+    if (!row.value(DeviceRowKey::unconfirmed).toBool()) // the device was found again since
         return std::nullopt;
     const auto last = std::find_if(m_kept.crbegin(), m_kept.crend(), [&identity](const Batch *batch) {
         return batch->plan().addressesBefore.contains(identity);
@@ -256,7 +256,7 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
     QList<AddressChange> changes;
     for (const BatchDevice &device : std::as_const(plan.devices)) {
         const QVariantMap detail = m_factory.getDeviceDetail(plan.family, device.name);
-        // Of a device that is not listed only the address is known: the rest is what it is to get.
+        // Of a device without a row only the address is known; the other values are those of the target.
         const AddressSettings target = targets.value(device.identity);
         const AddressSettings shown = {
             .address = device.ipport.section(QLatin1Char(':'), 0, 0),
@@ -279,7 +279,7 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
         ordered.append(plan.devices.at(place));
     plan.devices = ordered;
     plan.policy = {.atOnce = 1, .deadline = stepDeadline, .wrongPasswordsInARow = wrongPasswordsInARow};
-    // Of two rows with one address, the same device may refuse the account.
+    // The steps go by MAC, but two rows with one address may be one device, which may refuse the account.
     plan.isByAddress = true;
     plan.accountOf = rowAccounts(plan.family);
     const auto occupied = std::make_shared<OccupiedAddresses>(plan);
@@ -297,12 +297,12 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
                                    .text = tr("地址 %1 仍由设备 %2 使用").arg(target.address, holder->title)};
             }
             StepOutcome outcome = step(control);
-            // The same request again is confirmed when the device can be reached at its new address.
+            // After Unconfirmed, a repeated request succeeds if the device can be reached at its new address.
             outcome.isUnanswered =
                 outcome.isUnanswered || outcome.result == resultCode(LoginResult::Unconfirmed);
             if (outcome.result == BatchReport::Succeeded) {
                 occupied->leave(device.identity);
-                outcome.text = target.dhcp ? QStringLiteral("DHCP") : target.address; // for the record
+                outcome.text = target.dhcp ? QStringLiteral("DHCP") : target.address; // for the results file
             } else if (!maySucceedLater(outcome)) {
                 occupied->stay(device.identity);
             }
@@ -355,7 +355,7 @@ Batch *Batches::takeSnapshots(const QString &family, const QString &title, const
          .devices = channels,
          .policy = {.atOnce = 1, .deadline = stepDeadline},
          .stepOf = [stepOfChannel](const BatchDevice &channel) { return stepOfChannel.value(channel.name); },
-         .canBeRetried = false}); // the dialog of the snapshots takes single channels again
+         .canBeRetried = false}); // the snapshot dialog retries single channels itself
 }
 
 Batch *Batches::retry(Batch *batch)
@@ -386,7 +386,7 @@ Batch *Batches::retryWhere(Batch *batch, const QString &identity)
     return again;
 }
 
-/// Of steps that go to addresses: another device may have the address since the batch was made.
+/// Removes devices whose row has another address now: another device may have the old address.
 void Batches::leaveOutMoved(BatchPlan &plan)
 {
     QStringList moved;
@@ -451,7 +451,7 @@ void Batches::giveUp() const
         return;
     current()->stop();
     QStringList notDone;
-    QStringList writing; // these go on without the program
+    QStringList writing; // devices that continue without the application
     for (const Batch::Entry &entry : current()->entries()) {
         const int upgrade = upgradeOf(m_factory, current()->plan().family, entry.device);
         const bool isWriting = UpgradeTools::isRunning(upgrade) && !UpgradeTools::canStop(upgrade);
@@ -489,8 +489,8 @@ Batch *Batches::start(BatchPlan plan)
         batch->title(), batch->plan().holdsRows ? BusyState::Rows : BusyState::Program);
     connect(batch, &Batch::finished, this, [this, batch, work] { finish(batch, work); });
     connect(batch, &Batch::resulted, this, [this, batch] {
-        // Devices that waited for the next step do not get it. While the user is asked, the pages show what
-        // has failed.
+        // At the end, and when the batch is paused, the pages show the failed devices. Devices that wait for
+        // a further step which was cancelled count as well.
         if (!batch->isRunning() || batch->isHeld())
             markFailed(*batch);
     });
@@ -528,7 +528,7 @@ void Batches::finish(Batch *batch, int work)
     m_factory.busyState()->end(work);
     markFailed(*batch);
     if (!batch->hasRetryable())
-        batch->forgetSteps(); // they may hold a password
+        batch->forgetSteps(); // the step maker may hold a password
     Q_EMIT runningChanged();
 }
 
@@ -539,7 +539,7 @@ void Batches::markFailed(const Batch &batch)
     QList<FailedMarks::Outcome> outcomes;
     outcomes.reserve(batch.entries().size());
     for (const Batch::Entry &entry : batch.entries()) {
-        if (!entry.time.isValid() && batch.isRunning()) // still to come
+        if (!entry.time.isValid() && batch.isRunning()) // not reached yet
             continue;
         outcomes.append({.identity = entry.device.identity,
                          .result = entry.outcome.result,

@@ -12,10 +12,10 @@
 class CDeviceFactory;
 class DeviceStore;
 
-/// The batches of the session, and the place where the scene starts one. One batch runs at a time; another
-/// one is refused until it has ended. While it runs, the busy state knows it.
+/// Starts batches and keeps those of the session. One batch runs at a time; starting another one is refused
+/// until it has ended. A running batch is registered in BusyState.
 ///
-/// Lives on the scene's thread.
+/// Lives on the main thread.
 class Batches : public QObject
 {
     Q_OBJECT
@@ -23,100 +23,100 @@ class Batches : public QObject
     Q_PROPERTY(bool running READ isRunning NOTIFY runningChanged)
     Q_PROPERTY(FailedMarks *failedMarks READ failedMarks CONSTANT)
 public:
-    /// Batches that are kept, the running one included.
+    /// Maximum number of batches that are kept, including the running one.
     static constexpr int maximumKept = 50;
 
-    /// `factory` and `engine` live longer than this. `atOnce` tells how many devices are worked on at the
-    /// same time.
+    /// `factory` and `engine` must outlive this object. `atOnce` returns the maximum number of devices in
+    /// parallel.
     Batches(CDeviceFactory &factory, BatchEngine &engine, std::function<int()> atOnce,
             QObject *parent = nullptr);
 
-    /// Waits for results that are being written.
+    /// Waits until pending result files are written.
     ~Batches() override;
 
-    /// The last one that was started; null before the first.
+    /// The latest batch; null before the first.
     [[nodiscard]] Batch *current() const { return m_kept.isEmpty() ? nullptr : m_kept.constLast(); }
     [[nodiscard]] bool isRunning() const { return current() && current()->isRunning(); }
     [[nodiscard]] const QList<Batch *> &kept() const { return m_kept; }
 
-    /// The devices that the batches of the session failed with or did not come to.
+    /// Marks of the devices that failed, or were not reached, in the batches of the session.
     [[nodiscard]] FailedMarks *failedMarks() { return &m_failedMarks; }
 
-    /// Keeps the rows of marked devices in `store` through searches, until their marks are gone.
+    /// Keeps the rows of marked devices in `store` through searches.
     void keepFailedIn(const std::shared_ptr<DeviceStore> &store);
 
-    // Each starts a batch and returns it, or null after refused(). The scene does not own it.
+    // Each function below starts a batch and returns it, or null after refused(). QML does not own the batch.
 
-    /// A command of systemConfig(), for devices by address and port. For "setTimeByPC" each device gets the
-    /// time of its own request.
+    /// Runs a command of CDeviceBase::systemConfig() for devices by address and port. "setTimeByPC" sends
+    /// each device the time of its own request.
     Q_INVOKABLE Batch *configureSystem(const QString &family, const QString &command, const QString &title,
                                        const QVariantMap &data, const QStringList &ipports);
 
-    /// A name for the first channel of each device, at its place in `names`. Devices go by address and port.
-    /// The row of a camera that has taken its name shows it.
+    /// Sets the name of channel 1 of each device; `names` is parallel to `ipports`. Updates the name in the
+    /// rows of cameras.
     Q_INVOKABLE Batch *nameCameras(const QString &family, const QString &title, const QStringList &ipports,
                                    const QStringList &names);
 
-    /// First passwords for factory-new devices, one after another in the order of the list.
+    /// Initialises factory-new devices with an account, one device after another.
     Q_INVOKABLE Batch *setFirstPasswords(const QString &family, const QString &title, const QStringList &macs,
                                          const QString &account, const QString &password);
 
-    /// A new address for each device, at its place in `addresses`; none with DHCP. One after another in the
-    /// order of the list, but a device that gets the address of another one comes after it. Refused when
-    /// there is no such order.
+    /// Changes the addresses of devices; `addresses` is parallel to `macs`, and is ignored with `dhcp`. One
+    /// device after another in list order, but a device that gets the address of another one comes after it.
+    /// Refused if devices exchange addresses in a circle.
     Q_INVOKABLE Batch *changeAddresses(const QString &family, const QString &title, const QStringList &macs,
                                        const QStringList &addresses, const QString &mask,
                                        const QString &gateway, bool dhcp);
 
-    /// What putAddressesBack() gives to which device, as BatchPreview::setEntries() takes it: the settings
-    /// that the changed devices of an ended changeAddresses() had before. A device that has not answered is
-    /// one of them: it may have changed its address nevertheless.
+    /// The devices and settings of putAddressesBack(), as entries for BatchPreview::setEntries(): the
+    /// settings before an ended changeAddresses(). Includes devices that did not respond, since their address
+    /// may have changed nevertheless.
     Q_INVOKABLE [[nodiscard]] QVariantList addressesToPutBack(Batch *batch) const;
 
-    /// Puts the addresses of these devices of the batch back, by identity. Devices that do not respond at the
-    /// addresses of their rows, or that have no row any more, are searched by their MACs first.
+    /// Restores the addresses of the devices of the batch with these identities. Devices that do not respond
+    /// at their rows' addresses, or have no row, are searched by MAC first.
     Q_INVOKABLE Batch *putAddressesBack(Batch *batch, const QString &title, const QStringList &identities);
 
-    /// The encode settings of the current session's channel, for devices by address and port.
+    /// Copies the encode settings of the current session's channel to devices by address and port.
     Q_INVOKABLE Batch *copyEncodeSettings(const QString &family, const QString &title,
                                           const QStringList &ipports);
 
-    /// Snapshots of all channels of the current session, one after another. `ipport` names its device,
-    /// `channelNames` its channels, `folder` the folder of the pictures.
+    /// Saves a snapshot of each channel of the current session to `folder`, one after another. `ipport` is
+    /// the address and port of its device, `channelNames` are shown in the results.
     Q_INVOKABLE Batch *takeSnapshots(const QString &family, const QString &title, const QString &ipport,
                                      const QStringList &channelNames, const QString &folder);
 
-    /// The program ends during the batch that runs: it is stopped, and the log names the devices that are not
-    /// done.
+    /// Stops the running batch because the application closes, and logs the devices that are not done.
     Q_INVOKABLE void giveUp() const;
 
-    /// The devices of an ended batch again that may succeed in another try.
+    /// Repeats an ended batch for the devices that may succeed now.
     Q_INVOKABLE Batch *retry(Batch *batch);
 
-    /// The same for the device with this identity only.
+    /// Same for the device with this identity only.
     Q_INVOKABLE Batch *retryDevice(Batch *batch, const QString &identity);
 
-    /// Writes what has come of each device until now to a file, on a thread of its own: a workbook, or
-    /// comma-separated text for a name that ends in ".csv". resultsSaved() follows.
+    /// Writes the results of a batch to a file on a separate thread: a workbook, or comma-separated text if
+    /// the name ends in ".csv". resultsSaved() follows.
     Q_INVOKABLE void saveResults(Batch *batch, const QString &path);
 
-    /// The same for all batches that are kept, in one file.
+    /// Same for all kept batches, in one file.
     Q_INVOKABLE void saveAllResults(const QString &path);
 
-    /// The accounts of devices have changed.
+    /// Accounts of devices have changed: refused devices of the latest batch may be retryable.
     void noteAccounts() const;
 
-    /// For a plan whose steps log in with the accounts of the rows.
+    /// BatchPlan::accountOf for steps that log in with the accounts of the rows.
     [[nodiscard]] std::function<DeviceAccount(const BatchDevice &device)>
     rowAccounts(const QString &family) const;
 
-    /// How many devices are worked on at the same time, and how long a step may take, unless the work says
-    /// otherwise.
+    /// The default policy: devices in parallel as set by the user, deadline of 60 s, pause after 5 refusals.
     [[nodiscard]] BatchPolicy usualPolicy() const;
 
-    /// Whether a batch may start now; otherwise refused() says why not.
+    /// Whether a batch can start now. If not, emits refused() with the reason.
     Q_INVOKABLE [[nodiscard]] bool mayStart();
 
+    /// Starts a batch with this plan. Returns null after refused() if another batch runs or no thread is
+    /// free.
     Batch *start(BatchPlan plan);
 
 Q_SIGNALS:
@@ -124,37 +124,36 @@ Q_SIGNALS:
     void runningChanged();
     void refused(const QString &message);
 
-    void retried(Batch *earlier, Batch *again); ///< before the first result of `again`
+    void retried(Batch *earlier, Batch *again); ///< emitted before the first result of `again`
 
-    /// `reason` tells why the file could not be written, in the words of the system; the file is then as it
-    /// was. Empty on success.
+    /// `reason` is the system's error message; the file is unchanged in that case. Empty on success.
     void resultsSaved(const QString &path, const QString &reason);
 
 private:
-    /// Whether the addresses of the devices are looked up before they are changed.
+    /// Whether the devices are searched by MAC before their addresses are changed.
     enum class Locating
     {
         None,
         Before,
     };
 
-    /// `targets` hold what each device gets, by identity.
+    /// `targets` are the new settings by identity.
     Batch *startAddresses(BatchPlan plan, const QHash<QString, AddressSettings> &targets,
                           Locating locating = Locating::None);
-    /// A device of an ended batch as its row shows it now; as the batch left it when it has no row any more.
+    /// The current row of a device of an ended batch; without a row, its state after the batch.
     [[nodiscard]] BatchDevice deviceNow(const BatchPlan &plan, const Batch::Entry &entry) const;
-    /// What a device had before the last change of its address, if that failed: its row shows since then what
-    /// it was asked for.
+    /// The settings before the last address change of a device, if that failed. Its row shows the new address
+    /// since then.
     [[nodiscard]] std::optional<AddressSettings> settingsBeforeFailure(const QString &identity) const;
-    /// With an empty identity, all devices.
+    /// Retries the device with this identity, or all devices if it is empty.
     Batch *retryWhere(Batch *batch, const QString &identity);
     void leaveOutMoved(BatchPlan &plan);
-    /// A recorder has a name of its own, apart from that of its first channel.
+    /// Updates the row of a camera. A recorder's name is separate from the name of its channel 1.
     void noteCameraName(const QString &family, const BatchDevice &device, const QString &name);
     void saveRecords(const QList<BatchRecord> &records, const QString &path);
     void finish(Batch *batch, int work);
     void markFailed(const Batch &batch);
-    /// Whether addresses may be changed now; otherwise refused() says why not.
+    /// Whether BusyState allows address changes now. If not, emits refused() with the reason.
     [[nodiscard]] bool mayChangeAddresses();
 
     CDeviceFactory &m_factory;

@@ -42,7 +42,7 @@ void BatchHistory::show(Batch *batch)
 
 void BatchHistory::takeNewest()
 {
-    // A view keeps its current row over changes of single rows, but not over a reset.
+    // Single rows are removed and inserted: a reset would lose the current row of the view.
     while (!m_shown.isEmpty() && !m_batches->kept().contains(m_shown.constLast())) {
         const int last = rowCount() - 1;
         beginRemoveRows(QModelIndex(), last, last);

@@ -5,9 +5,9 @@
 
 #include <QPointer>
 
-/// The batches of the session for a table, the newest first. Keys of a row: "title", "time" (of its start),
-/// "counts" (how many devices are done of all, at the end how many of them did not fail), "running" and
-/// "complete" (it has ended, and no device has failed or was left out). Lives on the scene's thread.
+/// The batches of the session as table rows, newest first. Keys of a row: "title", "time" (of its start),
+/// "counts" ("done / total" while running, then "not failed / total"), "running" and "complete" (ended
+/// without failed or not done devices). Lives on the main thread.
 class BatchHistory : public DialogRows
 {
     Q_OBJECT

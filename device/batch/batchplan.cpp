@@ -8,7 +8,7 @@
 
 BatchDevice batchDevice(CDeviceFactory &factory, const QString &family, const QString &name)
 {
-    // Rows are found by MAC or by address; a MAC has more than one colon, or none.
+    // `name` is a MAC or "address:port".
     QJsonObject row = factory.deviceRow(family, name);
     if (row.isEmpty())
         row = QJsonObject::fromVariantMap(factory.getDeviceInfo(family, name));
@@ -24,7 +24,7 @@ QList<BatchDevice> batchDevices(CDeviceFactory &factory, const QString &family, 
 {
     QList<BatchDevice> devices;
     devices.reserve(names.size());
-    QStringList different = names; // one that is named twice is asked once
+    QStringList different = names;
     different.removeDuplicates();
     for (const QString &name : std::as_const(different))
         devices.append(batchDevice(factory, family, name));
@@ -47,14 +47,14 @@ QHash<QString, QJsonObject> rowsByAddress(const QVariantList &rows)
 
 QString workKey(const QJsonObject &rowThere, const QString &ipport, const QString &identity)
 {
-    if (ipport.isEmpty() || ipport.startsWith(QLatin1Char(':'))) // waits for an address by DHCP
+    if (ipport.isEmpty() || ipport.startsWith(QLatin1Char(':'))) // no address yet: waiting for DHCP
         return identity;
     return rowThere.isEmpty() ? ipport : rowName(rowThere);
 }
 
 QString macOf(const BatchDevice &device)
 {
-    // A row without a MAC is named by the device's UUID or by the address that it was found with.
+    // The identity of a device without MAC is its UUID, or the address at which it was found.
     const bool isOther = device.identity == device.ipport || device.identity.contains(QLatin1Char('.')) ||
                          device.identity.startsWith(uuidPrefix);
     return isOther ? QString() : device.identity;
@@ -79,7 +79,7 @@ bool maySucceedLater(const StepOutcome &outcome)
     case resultCode(LoginResult::NetworkFailure):
     case resultCode(LoginResult::Upgrading):
     case resultCode(LoginResult::NotDone):
-    case resultCode(LoginResult::UnknownCertificate): // the user may have agreed meanwhile
+    case resultCode(LoginResult::UnknownCertificate): // the user may have accepted it since
     case resultCode(LoginResult::ChangedCertificate):
     case deviceBusy:
     case upgradeFailed:

@@ -1,4 +1,4 @@
-// What a batch is to do.
+// The devices and the work of a batch.
 #pragma once
 
 #include "device/accounts/accountchoice.h"
@@ -14,7 +14,7 @@
 
 class CDeviceFactory;
 
-/// What a device had before its address was changed.
+/// Network settings of a device.
 struct AddressSettings
 {
     QString address;
@@ -26,96 +26,96 @@ struct AddressSettings
 /// A device of a batch.
 struct BatchDevice
 {
-    QString name;       ///< as the page names it that asks for the batch: its address and port, or its MAC
-    QString identity;   ///< the name of its row
-    QString ipport;     ///< as of the start of the batch
-    QString title;      ///< its name and model, for the user
-    QString login = {}; ///< as BatchItem has it
-    QString key = {};   ///< see workKey(); as of the start of the batch
-    bool isUpgrading = false; ///< its firmware is being upgraded when the batch starts: it is not asked
+    QString name;             ///< name that the page uses: address and port, or MAC
+    QString identity;         ///< name of its row, see rowName()
+    QString ipport;           ///< address and port at the start of the batch
+    QString title;            ///< name and model, shown to the user
+    QString login = {};       ///< see BatchItem::login
+    QString key = {};         ///< see workKey(); set at the start of the batch
+    bool isUpgrading = false; ///< being upgraded at the start of the batch: gets no request
 };
 
-/// What has come of a device of a batch.
+/// Result of one device of a batch.
 struct BatchOutcome
 {
     BatchDevice device;
     StepOutcome outcome;
 };
 
+/// Definition of a batch.
 struct BatchPlan
 {
     QString family; ///< of the devices
-    QString title;  ///< of the work, for the user
+    QString title;  ///< name of the work, shown to the user
 
-    /// Tells which batches do the same work: one that succeeds with a device makes up for one that failed.
-    /// Empty: those of the same title.
+    /// Id of the work. Success in a batch removes the failed marks of earlier batches with the same id.
+    /// Empty: `title` is the id.
     QString work = {};
 
     QList<BatchDevice> devices = {};
     BatchPolicy policy = {};
 
-    /// Makes the step of a device. Called on the scene's thread, at the start and at each retry.
+    /// Makes the step of a device. Called on the main thread, at the start and at each retry.
     std::function<DeviceStep(const BatchDevice &device)> stepOf = {};
 
-    /// The account that a step logs in to a device with at present: after a refused login, another try helps
-    /// once it has changed. Called on the scene's thread; empty when the plan itself has the accounts.
+    /// The account that the step of a device uses now. After a refused login, a device is retried only if
+    /// this account has changed. Called on the main thread. Empty if the steps use other accounts.
     std::function<DeviceAccount(const BatchDevice &device)> accountOf = {};
 
-    /// Runs once in each batch, also in a retry, on the thread of its first step and before that; may be
+    /// Runs once in each batch and each retry, on the thread of the first step, before that step. May be
     /// empty.
     DeviceStep preparation = {};
 
-    /// Takes what has come of devices, in the order in which it came, once for each painted frame at most,
-    /// and at the end of the batch that of the devices that it did not come to. Called on the scene's thread;
-    /// may be empty.
+    /// Receives the results of devices in the order of completion, at most once for each painted frame, and
+    /// at the end of the batch those of devices that were not reached. Called on the main thread. May be
+    /// empty.
     std::function<void(const QList<BatchOutcome> &outcomes)> takeOutcomes = {};
 
-    /// Whether the steps log in at the addresses of the devices: of two rows with one address, the same
-    /// device responds.
+    /// Whether the steps log in by address. Two rows with one address are then the same device.
     bool isByAddress = false;
 
-    /// Whether another batch may do it for some of the devices again.
+    /// Whether failed devices can be retried in another batch.
     bool canBeRetried = true;
 
-    /// Whether the devices that were reached are queried again at the end, since what their rows show
-    /// changes.
+    /// Whether the work changes values in the rows. If so, the reached devices are queried again at the end.
     bool changesRows = false;
 
-    /// Whether no row of the list may be removed meanwhile. The back end keeps the row of a device that is
-    /// being upgraded by itself.
+    /// Whether rows may not be removed from the list while the batch runs. Not needed for upgrades: the back
+    /// end keeps the row of a device that is being upgraded.
     bool holdsRows = true;
 
-    /// Whether the rows hold the results, in "res". A step writes its own; the batch writes those of devices
-    /// that were not done.
+    /// Whether results are written to "res" of the rows. The steps write their own results; the batch writes
+    /// those of devices that were not done.
     bool notesResults = false;
 
-    /// Whether the devices that it fails with are marked. Work that only looks at devices leaves no marks.
+    /// Whether failed devices get a mark (FailedMarks). False for work that only reads from devices.
     bool marksFailed = true;
 
-    /// Whether the rows say already that their devices are being upgraded, by this batch.
+    /// Whether an upgrade state in a row is that of this batch itself, and is no reason to skip the device.
     bool rowsShowIt = false;
 
-    QHash<QString, AddressSettings> addressesBefore = {}; ///< by identity; of a batch that changes addresses
+    QHash<QString, AddressSettings> addressesBefore = {}; ///< by identity; only for address changes
 };
 
-/// The device that a page names by address and port or by MAC.
+/// Makes the BatchDevice of a device that a page names by address and port or by MAC. Main thread.
 [[nodiscard]] BatchDevice batchDevice(CDeviceFactory &factory, const QString &family, const QString &name);
+/// Same for several devices; duplicate names are removed.
 [[nodiscard]] QList<BatchDevice> batchDevices(CDeviceFactory &factory, const QString &family,
                                               const QStringList &names);
 
-/// Rows by "ipport". Several rows may have one: the first of them, a lost one only if there is no other.
+/// Rows by "ipport". Of several rows with one address the first; an offline one only if there is no other.
 [[nodiscard]] QHash<QString, QJsonObject> rowsByAddress(const QVariantList &rows);
 
-/// The name of a device at an address and port in the engine. Batches and pages reserve the device under this
-/// name. `rowThere` is the first row of that address, a lost one only if
-/// there is no other; empty when there is none. `identity` names a device that has no address.
+/// The key of a device in BatchEngine. Batches and pages reserve the device with it. `rowThere` is the row
+/// for `ipport` from rowsByAddress(), empty if there is none. `identity` is the key of a device without
+/// address.
 [[nodiscard]] QString workKey(const QJsonObject &rowThere, const QString &ipport, const QString &identity);
 
-/// Empty for a device that has none.
+/// The MAC of a device; empty if it has none.
 [[nodiscard]] QString macOf(const BatchDevice &device);
 
-/// What has come of a device, in the user's language.
+/// The result of a device in the user's language.
 [[nodiscard]] QString outcomeText(const StepOutcome &outcome);
 
-/// Whether another try with the same data may succeed.
+/// Whether a retry with the same data may succeed.
 [[nodiscard]] bool maySucceedLater(const StepOutcome &outcome);

@@ -10,12 +10,12 @@
 
 namespace {
 
-// Of an entry that brings them.
+// Keys of setEntries() in addition to row keys.
 const QString actionKey = QStringLiteral("action");
 const QString hindranceKey = QStringLiteral("hindrance");
 const QString newAddressKey = QStringLiteral("newAddress");
 
-/// What a preview keeps of a device.
+/// The values of a device that a row keeps.
 QVariantMap shownOf(const QVariantMap &device, const QString &identity)
 {
     QVariantMap shown = {
@@ -90,7 +90,7 @@ void BatchPreview::setEntries(const QVariantList &entries)
         const QVariant ipport = entry.value(DeviceRowKey::ipport);
         QVariantMap row = shownOf(listed.value(listed.contains(name) ? name : ipport.toString()), name);
         if (row.value(DeviceRowKey::mac).toString().isEmpty() && entry.contains(DeviceRowKey::mac))
-            row.insert(DeviceRowKey::mac, entry.value(DeviceRowKey::mac)); // of a device that is not listed
+            row.insert(DeviceRowKey::mac, entry.value(DeviceRowKey::mac)); // device without a row
         QStringList titles = {entry.value(QStringLiteral("title")).toString(),
                               row.value(QStringLiteral("title")).toString()};
         titles.removeAll(QString());
@@ -116,7 +116,7 @@ QHash<QString, QVariantMap> BatchPreview::devicesByName() const
         device.insert(QStringLiteral("identity"), rowName(row));
         devices.insert(rowName(row), device);
         const auto known = devices.constFind(ipport);
-        if (known == devices.cend() || known->value(DeviceRowKey::lost).toBool()) // as operations find it
+        if (known == devices.cend() || known->value(DeviceRowKey::lost).toBool()) // same choice as operations
             devices.insert(ipport, device);
     }
     return devices;
@@ -143,7 +143,7 @@ void BatchPreview::readList()
                                   .trimmed();
         m_listed.append(
             {.identity = rowName(row), .ipport = ipport, .words = words.isEmpty() ? ipport : words});
-        // A lost device may have left its address to another one.
+        // The address of an offline device may be used by another device now.
         m_devicesAt[ipport] += row.value(DeviceRowKey::lost).toBool() ? 0 : 1;
         m_identitiesAt.insert(ipport.left(ipport.lastIndexOf(QLatin1Char(':'))), rowName(row));
     }
@@ -251,7 +251,7 @@ void BatchPreview::rejudge()
 QVariantMap BatchPreview::valuesOf(int row) const
 {
     QVariantMap values = DeviceSelection::valuesOf(row);
-    const Judgement judgement = m_judgements.value(row); // none yet in the middle of setRows()
+    const Judgement judgement = m_judgements.value(row); // not computed yet during setRows()
     values.insert(DeviceRowKey::num, row + 1);
     values.insert(QStringLiteral("action"), judgement.action);
     values.insert(QStringLiteral("note"), judgement.note);

@@ -1,4 +1,4 @@
-// What a batch will do with each of its devices.
+// Preview of a batch: the planned work of each device.
 #pragma once
 
 #include "device/models/deviceselection.h"
@@ -8,12 +8,12 @@
 
 class CDeviceFactory;
 
-/// The devices of a batch that is about to begin, with what will happen to each. A note warns of what may go
-/// wrong, or says why the batch will not do anything with the device. A device that the user unticks takes no
-/// part in the batch, and has no note.
+/// The devices of a planned batch as table rows, each with its action and a note. The note is a warning, or
+/// the reason why the device will be skipped. A device that the user unchecks does not take part in the batch
+/// and has no note. Lives on the main thread.
 ///
-/// Keys of a row: "num", "title" (name and model), "mac", "ipport", "identity", "checked", "action" (what
-/// happens; empty when nothing does), "note" and "kind".
+/// Keys of a row: "num" (from 1), "title" (name and model), "mac", "ipport", "identity", "checked", "action"
+/// (empty if nothing is done), "note" and "kind" (a Kind).
 class BatchPreview : public DeviceSelection
 {
     Q_OBJECT
@@ -23,11 +23,12 @@ class BatchPreview : public DeviceSelection
     Q_PROPERTY(int warningCount READ warningCount NOTIFY judged)
     Q_PROPERTY(int skippedCount READ skippedCount NOTIFY judged)
 public:
+    /// Kind of a row.
     enum Kind
     {
         Planned,
         Warned,
-        Skipped, ///< the batch will report it, but do nothing with it
+        Skipped, ///< part of the batch, but gets no request
     };
     Q_ENUM(Kind)
 
@@ -36,30 +37,30 @@ public:
     [[nodiscard]] CDeviceFactory *deviceFactory() const;
     void setDeviceFactory(CDeviceFactory *deviceFactory);
 
-    /// What happens to each device, in words.
+    /// The default text of "action".
     [[nodiscard]] QString action() const { return m_action; }
     void setAction(const QString &action);
 
-    [[nodiscard]] int warningCount() const { return m_warningCount; } ///< of ticked rows
+    [[nodiscard]] int warningCount() const { return m_warningCount; } ///< among checked rows
     [[nodiscard]] int skippedCount() const { return m_skippedCount; }
 
-    /// Takes device rows, as a DeviceTableModel has them, all of them ticked.
+    /// Sets the devices from rows of a DeviceTableModel, all of them checked.
     Q_INVOKABLE void setDevices(const QVariantList &rows);
 
-    /// Takes the devices that have these addresses and ports.
+    /// Sets the devices with these addresses and ports.
     Q_INVOKABLE void setAddresses(const QStringList &ipports);
 
-    /// Takes what is planned: maps of "name", by which checkedIdentities() names the entry, "ipport",
-    /// "action" and, if wanted, "title" (before that of the device), "mac" (of one that is not listed),
-    /// "hindrance" (why nothing happens to it) and "newAddress" (that it gets). The device is the one of that
-    /// name, or else the first one of that address and port.
+    /// Sets the devices and actions: maps of "name" (returned by checkedIdentities()), "ipport", "action"
+    /// and, optionally, "title" (put before that of the device), "mac" (of a device without a row),
+    /// "hindrance" (reason to skip the device) and "newAddress". The row of a device is found by "name",
+    /// otherwise by "ipport".
     Q_INVOKABLE void setEntries(const QVariantList &entries);
 
-    /// "ipport" of the ticked rows, and of the others, in their order.
+    // "ipport" of the checked rows, and of the others, in row order.
     Q_INVOKABLE [[nodiscard]] QStringList checkedAddresses() const { return addressesOf(true); }
     Q_INVOKABLE [[nodiscard]] QStringList uncheckedAddresses() const { return addressesOf(false); }
 
-    /// What the warnings are about, a line for each device, the first few of them.
+    /// The warnings, one line for each device; the first three.
     Q_INVOKABLE [[nodiscard]] QString warnings() const;
 
 Q_SIGNALS:
@@ -67,32 +68,34 @@ Q_SIGNALS:
     void judged();
 
 protected:
-    /// What will come of a device.
+    /// The planned result of a row.
     struct Judgement
     {
         Kind kind = Planned;
         QString action = {};
         QString note = {};
-        bool isConflict = false; ///< the row stands out
+        bool isConflict = false; ///< the row is highlighted
     };
 
-    /// The devices of the list, as they were when the devices of the batch were taken.
+    /// A device of the list at the time when the devices were set.
     struct ListedDevice
     {
         QString identity;
         QString ipport;
-        QString words; ///< model and MAC, or the address and port when it reports neither
+        QString words; ///< model and MAC; address and port if it reports neither
     };
 
-    /// Of a ticked row.
+    /// The judgement of a checked row.
     [[nodiscard]] virtual Judgement judgementOf(int row) const;
 
-    /// Before judgementOf() is asked for each row, when the ticks have changed or rejudge() was called.
+    /// Called before judgementOf() is called for each row: after a change of the checked rows and by
+    /// rejudge().
     virtual void prepare() {}
 
+    /// Computes the judgements of all rows again and emits judged().
     void rejudge();
 
-    /// Why nothing can be done with the device of a row; empty when it can.
+    /// Reason to skip the device of a row; empty if there is none.
     [[nodiscard]] virtual QString hindranceOf(int row) const;
     [[nodiscard]] const QList<ListedDevice> &listedDevices() const { return m_listed; }
     [[nodiscard]] QVariantMap deviceAt(int row) const { return DeviceSelection::valuesOf(row); }
@@ -104,20 +107,20 @@ protected:
 private:
     [[nodiscard]] QStringList addressesOf(bool checked) const;
     [[nodiscard]] QVariantList listedRows() const;
-    /// The devices of the list by name, and the first one of each address by that.
+    /// The devices of the list by name, and by "ipport" (the first one with that address).
     [[nodiscard]] QHash<QString, QVariantMap> devicesByName() const;
     void readList();
-    /// Whether another device than `identity` gets `address` as well, or has it in the list and keeps it.
+    /// Whether a device other than `identity` gets `address` too, or has it and keeps it.
     [[nodiscard]] bool isTaken(const QString &address, const QString &identity) const;
 
-    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
+    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before this object
     QString m_action;
     QList<ListedDevice> m_listed;
-    QHash<QString, int> m_devicesAt;             ///< devices of the list by address and port
-    QMultiHash<QString, QString> m_identitiesAt; ///< of the list, by address
-    QSet<QString> m_readdressed;                 ///< identities of ticked rows with a new address
-    QHash<QString, int> m_newAddresses;          ///< ticked rows by the address that they get
-    QList<Judgement> m_judgements;               ///< by row; empty ones of unticked rows
+    QHash<QString, int> m_devicesAt;             ///< number of devices of the list by address and port
+    QMultiHash<QString, QString> m_identitiesAt; ///< identities of the list by address
+    QSet<QString> m_readdressed;                 ///< identities of checked rows with a new address
+    QHash<QString, int> m_newAddresses;          ///< number of checked rows by new address
+    QList<Judgement> m_judgements;               ///< by row; default values for unchecked rows
     int m_warningCount = 0;
     int m_skippedCount = 0;
 };

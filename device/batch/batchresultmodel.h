@@ -6,23 +6,24 @@
 #include <QPointer>
 #include <QTimer>
 
-/// The devices of a batch for a table, by their states and in the order of the batch. Keys of a row: "device"
-/// (its address and port), "mac" (empty where it has none), "name" (and model), "result" in words, "time" and
-/// "state". While the batch runs the rows follow it several times a second. Lives on the scene's thread.
+/// The devices of a batch as table rows, ordered by state and then as in the batch. Keys of a row: "device"
+/// (address and port), "mac" (empty if unknown), "name" (and model), "result" (text), "time" and "state" (a
+/// State). Updated every 250 ms while the batch runs. Lives on the main thread.
 class BatchResultModel : public DialogRows
 {
     Q_OBJECT
     Q_PROPERTY(Batch *batch READ batch WRITE setBatch NOTIFY batchChanged)
     Q_PROPERTY(bool onlyFailed READ onlyFailed WRITE setOnlyFailed NOTIFY onlyFailedChanged)
 public:
+    /// State of a device, in the order of the rows.
     enum State
     {
         Failed,
         NotDone,
-        Skipped, ///< because of its state
-        Waiting, ///< for the next step
+        Skipped, ///< no request was sent because of the device's state
+        Waiting, ///< for a further step of the work
         Succeeded,
-        ToCome, ///< the running batch has not come to it yet
+        ToCome, ///< the running batch has not reached it yet
     };
     Q_ENUM(State)
 
@@ -31,7 +32,7 @@ public:
     [[nodiscard]] Batch *batch() const { return m_batch; }
     void setBatch(Batch *batch);
 
-    /// Whether the devices that succeeded, wait or were skipped are left out.
+    /// Whether only devices that failed or were not done are shown.
     [[nodiscard]] bool onlyFailed() const { return m_onlyFailed; }
     void setOnlyFailed(bool only);
 
@@ -49,6 +50,6 @@ private:
 
     QPointer<Batch> m_batch; ///< not owned
     bool m_onlyFailed = false;
-    QList<qsizetype> m_places; ///< of the shown rows, in the batch's entries
+    QList<qsizetype> m_places; ///< index in the batch's entries, by row
     QTimer m_reloading;
 };

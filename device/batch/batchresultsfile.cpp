@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr QByteArrayView byteOrderMark("\xEF\xBB\xBF"); // tells spreadsheet applications the encoding
+constexpr QByteArrayView byteOrderMark("\xEF\xBB\xBF"); // spreadsheet applications detect UTF-8 by it
 
 QStringList titles()
 {
@@ -36,7 +36,7 @@ QList<QStringList> linesOf(const QList<BatchRecord> &records)
     return lines;
 }
 
-/// Always in quotes. A name comes from a device: a spreadsheet application must not take it for a formula.
+/// A quoted field. Names come from devices: a leading formula character is escaped.
 QByteArray csvField(const QString &text)
 {
     QString field = text;

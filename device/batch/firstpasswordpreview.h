@@ -1,11 +1,11 @@
-// Which devices get their first password.
+// Preview of a batch of initialisations.
 #pragma once
 
 #include "device/batch/batchpreview.h"
 
-/// The devices that the user has ticked for their first password: the factory-new ones at the top, then those
-/// that will not get one. A row also has "type" and "vision", the version of the device. They are reached by
-/// their MACs: it does not matter whether they share an address.
+/// The devices that the user has checked for initialisation: factory-new devices first, then those that will
+/// be skipped. Additional keys of a row: "type" and "vision" (firmware version). The devices are reached by
+/// MAC, so a shared address is not a conflict. Lives on the main thread.
 class FirstPasswordPreview : public BatchPreview
 {
     Q_OBJECT
@@ -13,10 +13,10 @@ class FirstPasswordPreview : public BatchPreview
 public:
     explicit FirstPasswordPreview(QObject *parent = nullptr) : BatchPreview(parent) {}
 
-    /// Takes device rows, as a DeviceTableModel has them, all of them ticked.
+    /// Sets the devices from rows of a DeviceTableModel, all of them checked.
     Q_INVOKABLE void setTicked(const QVariantList &rows);
 
-    /// Ticked devices that get a password, and their identities.
+    // Number and identities of the checked devices that will be initialised.
     [[nodiscard]] int deviceCount() const { return checkedCount() - skippedCount(); }
     Q_INVOKABLE [[nodiscard]] QStringList identities() const;
 

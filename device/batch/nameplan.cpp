@@ -18,7 +18,7 @@ QVariantMap entryOf(const QString &name, const QString &title, const QString &ip
             {QString(DeviceRowKey::ipport), ipport}};
 }
 
-/// The last number of the IPv4 address; empty for another address.
+/// The last number of the IPv4 address; empty for an IPv6 address.
 QString lastNumberOf(const QString &ipport)
 {
     static const QRegularExpression ending(QStringLiteral("(\\d+):\\d+$"));
@@ -61,7 +61,7 @@ bool NamePlan::isRecorder(int row) const
 
 QString NamePlan::nameOf(int row, int number) const
 {
-    // One pass: a model may hold what looks like a part of the pattern.
+    // One pass, since a model may contain text that looks like a part of the pattern.
     static const QRegularExpression parts(QStringLiteral("\\{(n|model|ip4)\\}"));
     QString name;
     qsizetype taken = 0;

@@ -1,4 +1,4 @@
-// Which name each channel, or the first channel of each camera, will get.
+// Preview of a batch of channel names.
 #pragma once
 
 #include "device/batch/batchpreview.h"
@@ -7,11 +7,12 @@
 
 #include <utility>
 
-/// Names from one pattern: {n} is the place of the row counted from `start`, with `digits` digits at least,
-/// {model} the model of the device, {ip4} the last number of its IPv4 address. A row's "action" is its name.
+/// Makes names from one pattern: {n} is the number of the row counted from `start` with at least `digits`
+/// digits, {model} the model of the device, {ip4} the last number of its IPv4 address. "action" of a row is
+/// its name. Lives on the main thread.
 ///
-/// A recorder among cameras is skipped: its channel 1 shows a camera of its own. It gets no name and no
-/// number.
+/// A recorder in a list of cameras is skipped and gets neither name nor number, because its channel 1 shows
+/// one of its cameras.
 class NamePlan : public BatchPreview
 {
     Q_OBJECT
@@ -20,7 +21,7 @@ class NamePlan : public BatchPreview
     Q_PROPERTY(int digits READ digits WRITE setDigits NOTIFY judged)
     /// Why the pattern cannot be used, in the user's language; empty if it can.
     Q_PROPERTY(QString fault READ fault NOTIFY judged)
-    /// Whether the pattern gives all rows of one model the same name, and there are several rows.
+    /// Whether there are several rows and the pattern gives all rows of one model the same name.
     Q_PROPERTY(bool repeated READ isRepeated NOTIFY judged)
 public:
     explicit NamePlan(QObject *parent = nullptr) : BatchPreview(parent) {}
@@ -34,15 +35,16 @@ public:
     [[nodiscard]] QString fault() const { return m_fault; }
     [[nodiscard]] bool isRepeated() const;
 
-    /// The channels of the device at `ipport`, named by their numbers from 0, or these cameras, named by
-    /// their addresses and ports. All are ticked.
+    /// Sets the channels of the device at `ipport`; the name of a row is the channel number from 0.
     Q_INVOKABLE void takeChannels(const QString &ipport, int count);
+    /// Sets the cameras; the name of a row is address and port. All rows are checked in both cases.
     Q_INVOKABLE void takeCameras(const QStringList &ipports);
 
-    /// How many of these devices are cameras.
+    /// The number of cameras among these devices.
     Q_INVOKABLE [[nodiscard]] int countCameras(const QStringList &ipports) const;
 
-    /// Of the ticked rows but for recorders: by what the plan was made of, and their names in the same order.
+    // The names of the checked rows without recorders (see takeChannels() and takeCameras()), and the planned
+    // names in the same order.
     Q_INVOKABLE [[nodiscard]] QStringList namedIdentities() const;
     Q_INVOKABLE [[nodiscard]] QStringList names() const;
 
@@ -60,13 +62,13 @@ private:
     }
 
     [[nodiscard]] QString nameOf(int row, int number) const;
-    [[nodiscard]] bool isRecorder(int row) const; ///< among cameras
+    [[nodiscard]] bool isRecorder(int row) const; ///< false for channels
     [[nodiscard]] QString faultOfPattern() const;
 
     QString m_pattern;
     int m_start = 1;
     int m_digits = 1;
-    QStringList m_names; ///< by row, empty for recorders
+    QStringList m_names; ///< by row; empty for recorders
     bool m_ofCameras = false;
     QString m_fault;
 };

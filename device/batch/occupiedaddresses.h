@@ -9,19 +9,19 @@
 #include <algorithm>
 #include <optional>
 
-/// The addresses that devices of a batch have until they have got another one. The steps that use it run one
-/// after another.
+/// The addresses that devices of a batch still have. Used by steps that run one after another; not
+/// thread-safe.
 class OccupiedAddresses
 {
 public:
-    /// A device that has an address which another one is to get.
+    /// The device that still has an address.
     struct Holder
     {
         QString title;      ///< its title or identity
-        bool stays = false; ///< its own change has failed, and another try cannot succeed
+        bool stays = false; ///< its change has failed, and a retry cannot succeed
     };
 
-    /// A device may have the address of its row, or still the one that it had before changes that failed.
+    /// A device may have the address of its row, or the address before its failed changes: both are occupied.
     explicit OccupiedAddresses(const BatchPlan &plan)
     {
         for (const BatchDevice &device : plan.devices) {
@@ -34,7 +34,7 @@ public:
         }
     }
 
-    /// A device other than `identity` that still has `address`.
+    /// A device other than `identity` that still has `address`; nullopt if there is none.
     [[nodiscard]] std::optional<Holder> holderOf(const QString &address, const QString &identity) const
     {
         const auto [begin, end] = m_devices.equal_range(address);
@@ -45,19 +45,19 @@ public:
         return Holder{.title = m_titles.value(*other), .stays = m_staying.contains(*other)};
     }
 
-    /// The device has got another address.
+    /// The device has another address now.
     void leave(const QString &identity)
     {
         for (const QString &address : m_addresses.values(identity))
             m_devices.remove(address, identity);
     }
 
-    /// The device keeps its address, also in another try.
+    /// The change of the device has failed permanently: it keeps its address.
     void stay(const QString &identity) { m_staying.insert(identity); }
 
 private:
     QMultiHash<QString, QString> m_devices;   ///< identities by address
-    QMultiHash<QString, QString> m_addresses; ///< by identity
+    QMultiHash<QString, QString> m_addresses; ///< addresses by identity
     QHash<QString, QString> m_titles;         ///< by identity
     QSet<QString> m_staying;                  ///< identities
 };

@@ -13,16 +13,16 @@
 namespace {
 
 constexpr int newsInterval = 250;  // milliseconds
-constexpr qsizetype fewRows = 500; // more are read with the whole list
+constexpr qsizetype fewRows = 500; // for more rows, the complete list is read
 
-/// Its preview announces it: what a device without a password would answer does not matter.
+/// Step of an uninitialised device, which the preview shows as skipped: sends no request.
 StepOutcome skipUninitialised(const StepControl & /*control*/)
 {
     return {.result = BatchReport::NotInitialised, .text = {}};
 }
 
-/// The steps of a document's lines, as long as they are to be run. Another try has none: it is made of the
-/// row, or of what the back end remembers of the line.
+/// The steps of a document's lines; each can be taken once. A retry makes the step from the row or from the
+/// line that the back end keeps.
 class DocumentSteps
 {
 public:
@@ -37,7 +37,7 @@ public:
 
 private:
     CDeviceFactory &m_factory;
-    QHash<QString, DeviceStep> m_steps; ///< by the names of the lines
+    QHash<QString, DeviceStep> m_steps; ///< by the name of the line
 };
 
 } // namespace
@@ -77,7 +77,7 @@ BatchPlan UpgradeBatches::usualPlan(const QString &title)
     BatchPlan plan = {.family = dhFamily, .title = title, .work = QStringLiteral("upgrade")};
     plan.policy = m_batches.usualPolicy();
     plan.policy.atOnce = m_atOnce();
-    plan.policy.deadline = {}; // an upgrade has limits of its own
+    plan.policy.deadline = {}; // an upgrade has separate limits
     plan.changesRows = true;
     plan.holdsRows = false;
     plan.takeOutcomes = [this](const QList<BatchOutcome> &outcomes) {
@@ -103,7 +103,7 @@ Batch *UpgradeBatches::start(const QString &title, const QStringList &identities
 
 Batch *UpgradeBatches::startDocument(const QString &title, const QString &path, const QStringList &lines)
 {
-    if (!m_batches.mayStart()) // before the document is opened
+    if (!m_batches.mayStart()) // checked before the document is opened
         return nullptr;
     QList<int> numbers;
     for (const QString &line : lines)
@@ -122,7 +122,7 @@ Batch *UpgradeBatches::startDocument(const QString &title, const QString &path, 
     plan.stepOf = [steps](const BatchDevice &device) {
         return steps->take(device);
     };
-    m_isDocumentOpen = true; // also of one that is refused
+    m_isDocumentOpen = true; // also if the document is refused
     return begin(std::move(plan), Source::Document);
 }
 
@@ -189,7 +189,7 @@ void UpgradeBatches::tellRows()
 void UpgradeBatches::noteRoundEnd()
 {
     const QString text = m_isDocumentOpen ? m_factory.upgradeDocumentResult(dhFamily) : QString();
-    if (text.isEmpty()) // it is still worked on
+    if (text.isEmpty()) // not finished yet
         return;
     m_isDocumentOpen = false;
     Q_EMIT documentEnded(text, m_factory.upgradeDocumentSuccesses(dhFamily) > 0);

@@ -4,49 +4,50 @@
 
 #include <QPointer>
 
-/// Firmware upgrades as batches, for the scene: of devices of the list, and of those of a document.
+/// Firmware upgrades as batches: of devices in the list, and of the lines of an upgrade document (a
+/// workbook).
 ///
-/// Lives on the scene's thread.
+/// Lives on the main thread.
 class UpgradeBatches : public QObject
 {
     Q_OBJECT
-    /// The last one, of the list or of a document; null before the first.
+    /// The latest upgrade batch; null before the first.
     Q_PROPERTY(Batch *last READ last NOTIFY lastChanged)
 public:
-    /// `factory` and `batches` live longer than this. `atOnce` returns how many devices are upgraded at the
-    /// same time.
+    /// `factory` and `batches` must outlive this object. `atOnce` returns the maximum number of upgrades in
+    /// parallel.
     UpgradeBatches(CDeviceFactory &factory, Batches &batches, std::function<int()> atOnce,
                    QObject *parent = nullptr);
 
     [[nodiscard]] Batch *last() const { return m_batch; }
 
-    /// Gives the devices of these rows a file. Returns a message for the user, in the user's language; empty
-    /// when all of them can be upgraded with it.
+    /// Sets the firmware file of these rows. Returns an error message in the user's language; empty if all
+    /// devices can be upgraded with it.
     Q_INVOKABLE [[nodiscard]] QString chooseFile(const QStringList &identities, const QString &path);
 
-    // Each returns the batch, or null when it does not begin. The scene does not own it.
+    // Each function below returns the batch, or null if it was not started. QML does not own the batch.
 
-    /// Upgrades the devices of these rows, each with the file of its row.
+    /// Upgrades the devices of these rows, each with the file in its row.
     Q_INVOKABLE Batch *start(const QString &title, const QStringList &identities);
 
-    /// Upgrades devices of a document: those of the lines with these numbers. documentEnded() follows, also
-    /// when the document is refused, and after a retry, whose results are written into it as well.
+    /// Upgrades the devices of the document lines with these numbers. documentEnded() follows, also if the
+    /// document is refused, and after a retry, whose results are written to the document as well.
     Q_INVOKABLE Batch *startDocument(const QString &title, const QString &path, const QStringList &lines);
 
 Q_SIGNALS:
     void lastChanged();
 
-    /// Rows of the list have changed. Emitted a few times a second while devices are upgraded, and at the
-    /// end.
+    /// Rows of the list have changed. Emitted up to four times a second while devices are upgraded, and at
+    /// the end.
     void rowsChanged(const QStringList &identities);
 
-    /// The same for so many rows that the page does better to read the list.
+    /// Same for more than 500 rows: reading the complete list is faster.
     void listChanged();
 
-    /// Of a batch of listed devices: how many were upgraded, failed, or were stopped before.
+    /// A batch of listed devices has ended; the numbers of devices by result.
     void ended(int upgraded, int failed, int notDone);
 
-    /// The results of the document are in its file. `text` is a message for the user.
+    /// The results are written to the document file. `text` is a message for the user.
     void documentEnded(const QString &text, bool hasSuccess);
 
 private:
@@ -59,7 +60,8 @@ private:
     [[nodiscard]] BatchPlan usualPlan(const QString &title);
     Batch *begin(BatchPlan plan, Source source);
     void follow(Batch *batch, Source source);
-    /// A device was not asked, since one at the same address had refused the account: its row says so, too.
+    /// Writes a refusal to the rows of devices that got no request because another row with the same address
+    /// was refused.
     void noteRefusals(const QList<BatchOutcome> &outcomes);
     void noteProgress(int percent);
     void tellRows();
@@ -68,8 +70,8 @@ private:
     CDeviceFactory &m_factory;
     Batches &m_batches;
     const std::function<int()> m_atOnce;
-    QPointer<Batch> m_batch;        ///< the last one
-    Source m_source = Source::List; ///< its
-    bool m_isDocumentOpen = false;  ///< its results are to come
-    QTimer m_news;                  ///< runs from a change of a row until rowsChanged()
+    QPointer<Batch> m_batch;        ///< the latest batch
+    Source m_source = Source::List; ///< of m_batch
+    bool m_isDocumentOpen = false;  ///< documentEnded() is pending
+    QTimer m_news;                  ///< delays rowsChanged() after a change
 };

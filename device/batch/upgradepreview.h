@@ -1,4 +1,4 @@
-// What upgrades will do with each of their devices.
+// Preview of a batch of firmware upgrades.
 #pragma once
 
 #include "device/batch/batchpreview.h"
@@ -6,9 +6,9 @@
 
 #include <stop_token>
 
-/// The devices that are about to be upgraded: those of rows, or those of a document's lines. A row's "action"
-/// is the file that the device gets, with its version. A row also has "vision", the version of the device;
-/// its "num" is the number of the line, and its "identity" too, when it is one of a document.
+/// The devices that will be upgraded, from rows or from the lines of an upgrade document. "action" of a row
+/// is the name of the firmware file with its version. Additional key: "vision", the device's current version.
+/// For a document, "num" and "identity" are the number of the line. Lives on the main thread.
 class UpgradePreview : public BatchPreview
 {
     Q_OBJECT
@@ -17,18 +17,18 @@ public:
     explicit UpgradePreview(QObject *parent = nullptr) : BatchPreview(parent) {}
     ~UpgradePreview() override;
 
-    /// Ticked devices that can be upgraded.
+    /// The number of checked devices that can be upgraded.
     [[nodiscard]] int upgradeCount() const { return checkedCount() - skippedCount(); }
 
-    /// Takes the devices of these rows with the files that they have.
+    /// Sets the devices of these rows, each with the file in its row.
     Q_INVOKABLE void setIdentities(const QStringList &identities);
 
-    /// Reads a document on a thread of the back end, and takes its lines. documentRead() follows, unless
-    /// another one is read meanwhile.
+    /// Reads an upgrade document on a thread of the back end and sets the devices of its lines.
+    /// documentRead() follows, unless another document is read before that.
     Q_INVOKABLE void readDocument(const QString &path);
 
 Q_SIGNALS:
-    /// `refusal` says why there are no lines, in the user's language; it is empty when there are some.
+    /// `refusal` is the reason why there are no lines, in the user's language; empty on success.
     void documentRead(const QString &refusal);
 
 protected:
@@ -36,21 +36,21 @@ protected:
     [[nodiscard]] QVariantMap valuesOf(int row) const override;
 
 private:
-    /// What a device has, and what it gets.
+    /// Planned upgrade of a row.
     struct Upgrade
     {
-        QString device;  ///< its version
-        QString file;    ///< without the folder
-        QString version; ///< of the file; empty when it is not known
+        QString device;  ///< current version of the device
+        QString file;    ///< name without folder
+        QString version; ///< of the file; empty if unknown
         int refusal = UpgradeTools::None;
-        int line = 0; ///< of a document
+        int line = 0; ///< of a document; 0 for a row
     };
 
     void takeDocument(const QVariantMap &document);
     void endReading();
     [[nodiscard]] QString identityAt(int row) const;
 
-    QHash<QString, Upgrade> m_upgrades; ///< by the identities of the rows
-    std::stop_source m_reading;         ///< of the document that is read
-    int m_work = 0;                     ///< the reading in the busy state; 0 for none
+    QHash<QString, Upgrade> m_upgrades; ///< by identity
+    std::stop_source m_reading;         ///< stops the reading of a document
+    int m_work = 0;                     ///< id of the reading in BusyState; 0 while not reading
 };
