@@ -79,7 +79,7 @@ QStringList AccountList::unused() const
 
 QString AccountList::removeUnused()
 {
-    load(); // a device may have been given one of them since
+    load(); // an account may have been assigned to a device since the last load()
     QString failure;
     const QStringList names = unused();
     for (qsizetype place = 0; place < names.size() && failure.isEmpty(); ++place)
@@ -171,7 +171,7 @@ int AccountList::countUnidentified(const QStringList &devices) const
 
 void AccountList::keepForDevices(const QList<Device> &devices, QString &failure)
 {
-    // Those of one batch have the same account.
+    // Devices of one batch usually have the same account: one write for each run of equal accounts.
     for (qsizetype first = 0; first < devices.size() && failure.isEmpty();) {
         const DeviceAccount account = devices.at(first).own;
         QList<Device> alike;

@@ -1,4 +1,4 @@
-// The accounts of devices for the scene.
+// The list of stored device accounts for QML.
 #pragma once
 
 #include "device/accounts/accountchoice.h"
@@ -12,79 +12,80 @@
 
 class CDeviceFactory;
 
-/// Lists the accounts that the user keeps, changes them, and gives them to devices. The first row is the
-/// default account of searches and batches, which the search settings change. Keys of a row: "name" (empty
-/// for the default), "account", "deviceCount" and "isDefault". No row holds a password.
+/// Lists, changes and assigns the stored accounts. Row 0 is the default account of searches and batches,
+/// which the search settings change. Keys of a row: "name" (empty for the default account), "account" (the
+/// user name), "deviceCount" (int) and "isDefault" (bool). A row contains no password.
 ///
-/// Devices are named by their rows or by address and port. Operations that change something return why they
-/// failed, in the user's language; empty on success.
+/// A device is named by its row (MAC, or address and port without one) or by address and port. Functions that
+/// return a QString return an error message in the user's language, empty on success.
 ///
-/// Lives on the scene's thread; a change blocks it until the disk has the file.
+/// Lives on the main thread. A change blocks that thread until the file is written.
 class AccountList : public DialogRows
 {
     Q_OBJECT
     Q_PROPERTY(QString problem READ problem NOTIFY changed)
     Q_PROPERTY(int count READ rowCount NOTIFY changed)
-    /// The names of the accounts that no device has.
+    /// The names of the stored accounts that no device uses.
     Q_PROPERTY(QStringList unused READ unused NOTIFY changed)
 public:
-    /// What becomes of an account that devices have just taken.
+    /// What keepNew() does with an account that devices have accepted.
     enum Keeping
     {
-        ForDevices, ///< these devices are logged in to with it from now on
-        AsDefault,  ///< it becomes the default account
-        Unkept,     ///< it is used until the next search
+        ForDevices, ///< stored for these devices
+        AsDefault,  ///< stored as the default account
+        Unkept,     ///< not stored: used until the next search
     };
     Q_ENUM(Keeping)
 
-    /// The default account, where it is kept.
+    /// Functions that read and write the default account.
     struct Defaults
     {
         std::function<DeviceAccount()> read;
         std::function<void(const DeviceAccount &account)> write;
     };
 
-    /// `factory` lives longer than this.
+    /// `factory` must outlive this object.
     AccountList(CDeviceFactory &factory, std::shared_ptr<AccountStore> store, Defaults defaults,
                 QObject *parent = nullptr);
 
-    /// The folder of favourites that keepNew() writes new passwords into; none without it.
+    /// The folder of the favourites whose passwords keepNew() updates. Empty: no favourites.
     void setFavourites(const QString &folder) { m_favourites = folder; }
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     [[nodiscard]] QString problem() const { return m_store->problem(); }
     [[nodiscard]] QStringList unused() const;
 
-    /// Reads the default account again, which the search settings may have changed.
+    /// Reads the store and the default account again.
     Q_INVOKABLE void load();
 
-    /// Adds an account, or changes the one that was called `before`. An empty password leaves that of an
-    /// account that is changed.
+    /// Adds an account, or changes the account `before`. An empty password keeps the password of an account
+    /// that is changed.
     Q_INVOKABLE QString put(const QString &before, const QString &name, const QString &account,
                             const QString &password);
     Q_INVOKABLE QString remove(const QString &name);
     Q_INVOKABLE QString removeUnused();
 
-    /// The row of the account of this name, -1 when there is none.
+    /// The row of the account with this name; -1 if there is none.
     Q_INVOKABLE [[nodiscard]] int rowOfName(const QString &name) const;
 
-    /// The row of the account that a device is logged in to with; -1 when its row in the list of devices
-    /// holds one that is not kept.
+    /// The row of the account that is used for this device. -1 if the device's row holds an account that is
+    /// not stored.
     Q_INVOKABLE [[nodiscard]] int rowOfDevice(const QString &device) const;
 
-    /// Gives the account of this name to devices; the default one for an empty name. A device without MAC and
-    /// UUID has it until the next search only.
+    /// Assigns the account with this name to the devices; an empty name is the default account. A device
+    /// without MAC and UUID uses it only until the next search.
     Q_INVOKABLE QString select(const QStringList &devices, const QString &name);
 
-    /// How many of these devices have neither MAC nor UUID.
+    /// The number of these devices that have neither MAC nor UUID.
     Q_INVOKABLE [[nodiscard]] int countUnidentified(const QStringList &devices) const;
 
-    /// Keeps the accounts that the rows of these devices hold since the devices have taken them. Where they
-    /// are not to be kept, an account that was kept for the devices before goes: they refuse it. Their
-    /// favourites get the new passwords in either case.
+    /// Stores the accounts that the rows of these devices hold and the devices have accepted. With
+    /// `AsDefault` and `Unkept`, removes the assignment of an older stored account, which the devices now
+    /// refuse. Updates the passwords of the devices' favourites in each case.
     Q_INVOKABLE QString keepNew(const QStringList &devices, AccountList::Keeping keeping);
 
-    /// Keeps an account that a device has accepted for this device.
+    /// Stores an account, which the device has accepted, for this device. Error for a device without MAC and
+    /// UUID.
     Q_INVOKABLE QString keep(const QString &device, const QString &account, const QString &password);
 
 Q_SIGNALS:
@@ -96,10 +97,10 @@ protected:
 private:
     struct Device
     {
-        QString name; ///< of its row
+        QString name; ///< of the device's row
         QString ipport;
         QStringList identities;
-        DeviceAccount own; ///< that the row holds
+        DeviceAccount own; ///< the account in the row; empty if none
     };
 
     [[nodiscard]] Device deviceOf(const QString &name) const;
@@ -112,8 +113,8 @@ private:
     CDeviceFactory &m_factory;
     const std::shared_ptr<AccountStore> m_store;
     const Defaults m_defaults;
-    QString m_favourites; ///< the folder; empty for none
+    QString m_favourites; ///< folder; empty: no favourites
     DeviceAccount m_default;
     QList<StoredAccount> m_accounts;
-    QHash<QString, int> m_deviceCounts; ///< by the name of the account
+    QHash<QString, int> m_deviceCounts; ///< by account name
 };

@@ -6,8 +6,8 @@
 #include <QObject>
 #include <QStringList>
 
-/// The results of a batch of devices. Every device that was asked for is accounted for: it succeeded, failed,
-/// was skipped, waits for the next step, or was not done.
+/// The results of a batch, by device. Each device of the batch has succeeded, failed, been skipped, is
+/// waiting for a further step, or is not done. Lives on the main thread.
 class BatchReport : public QObject
 {
     Q_OBJECT
@@ -19,10 +19,10 @@ class BatchReport : public QObject
     Q_PROPERTY(int notDone READ notDone NOTIFY changed)
     Q_PROPERTY(QString summary READ summary NOTIFY changed)
 public:
-    /// Results beside those of a login. Anything else is a failure, unless isSkipped().
+    /// Results in addition to LoginResult values. Any other result is a failure, unless isSkipped().
     enum Result
     {
-        Waiting = resultCode(LoginResult::Unknown), ///< the next step is still to come
+        Waiting = resultCode(LoginResult::Unknown), ///< a further step follows
         Succeeded = resultCode(LoginResult::Success),
         NotDone = resultCode(LoginResult::NotDone),
         NotInitialised = resultCode(LoginResult::NotInitialised), ///< skipped
@@ -30,7 +30,7 @@ public:
     };
     Q_ENUM(Result)
 
-    /// Whether nothing was asked of the device because of its state, as the preview of the batch announces.
+    /// Whether the batch sent no request to the device because of its state. The batch's preview shows this.
     [[nodiscard]] static constexpr bool isSkipped(int result)
     {
         return result == NotInitialised || result == Upgrading;
@@ -38,28 +38,27 @@ public:
 
     explicit BatchReport(QObject *parent = nullptr);
 
-    /// Forgets what there was. The devices are not done until they are noted; a name that is listed twice
-    /// stands for two devices.
+    /// Clears the report and sets each device to NotDone. A name that is listed twice counts as two devices.
     Q_INVOKABLE void begin(const QStringList &devices);
 
-    /// Notes the result of a device, the first of that name that is not done or waits. Does nothing for a
-    /// device that the batch was not asked for.
+    /// Sets the result of the first device with this name that is NotDone or Waiting. Does nothing if the
+    /// batch has no such device.
     void note(const QString &device, int result);
 
-    /// The same for several devices, with one changed() for all of them. Both lists have the same length.
+    /// Same for several devices, with one changed() for all. Both lists must have the same length.
     void note(const QStringList &devices, const QList<int> &results);
 
-    /// In the order of the batch.
+    // The names of the devices, in the order of the batch.
     Q_INVOKABLE [[nodiscard]] QStringList devicesWith(int result) const;
     Q_INVOKABLE [[nodiscard]] QStringList devicesNotSucceeded() const;
 
-    /// The same, with those that were left out of the batch behind them.
+    /// devicesNotSucceeded() followed by `leftOut`, the devices that were not part of the batch.
     Q_INVOKABLE [[nodiscard]] QStringList devicesLeft(const QStringList &leftOut) const
     {
         return devicesNotSucceeded() + leftOut;
     }
 
-    /// The devices that wait get no next step: they are not done. Returns their names.
+    /// Sets the devices that wait for a further step to NotDone. Returns their names.
     Q_INVOKABLE QStringList giveUpWaiting();
 
     [[nodiscard]] int total() const { return static_cast<int>(m_entries.size()); }
@@ -69,10 +68,10 @@ public:
     [[nodiscard]] int notDone() const { return m_counts.value(NotDone); }
     [[nodiscard]] int failed() const { return total() - succeeded() - waiting() - skipped() - notDone(); }
 
-    /// How many there are of each kind, in the user's language; empty for an empty batch.
+    /// The number of devices for each kind of result, in the user's language; empty for an empty batch.
     [[nodiscard]] QString summary() const;
 
-    /// The same while the batch runs: what is not done is still to come.
+    /// Same for a running batch: NotDone is shown as pending.
     [[nodiscard]] QString summaryOfRunning() const;
 
 Q_SIGNALS:
@@ -86,10 +85,10 @@ private:
     };
 
     [[nodiscard]] QString summaryWith(const QString &notDoneWords) const;
-    [[nodiscard]] bool take(const QString &device, int result); ///< false: it is not of the batch
+    [[nodiscard]] bool take(const QString &device, int result); ///< false: not a device of the batch
     void setResult(qsizetype place, int result);
 
     QList<Entry> m_entries;
-    QHash<QString, QList<qsizetype>> m_places; ///< in m_entries, by device
+    QHash<QString, QList<qsizetype>> m_places; ///< indexes in m_entries, by device
     QHash<int, int> m_counts;                  ///< entries by result
 };

@@ -4,8 +4,8 @@
 
 #include <QPointer>
 
-/// Enters a work of the scene into the busy state while it is active. A work ends at the latest with its
-/// report, so that nothing stays entered when a page or a dialog goes.
+/// QML element that registers work in BusyState while `active` is true. The destructor ends the registration,
+/// so that a closed page or dialog leaves none. Lives on the main thread.
 class BusyReport : public QObject
 {
     Q_OBJECT
@@ -20,11 +20,11 @@ public:
     [[nodiscard]] BusyState *state() const { return m_state; }
     void setState(BusyState *state);
 
-    /// The name of the work for the user.
+    /// The name of the work, shown to the user.
     [[nodiscard]] QString title() const { return m_title; }
     void setTitle(const QString &title);
 
-    /// Rows at first. A change counts from the next begin on.
+    /// BusyState::Rows by default. A change applies to the next registration.
     [[nodiscard]] BusyState::Need need() const { return m_need; }
     void setNeed(BusyState::Need need);
 
@@ -35,13 +35,13 @@ Q_SIGNALS:
     void changed();
 
 private:
-    /// Begins or ends the work, as `active` and `state` have it now.
+    /// Starts or ends the registration according to `active` and `state`.
     void update();
     void end();
 
-    QPointer<BusyState> m_state; ///< not owned; ends before the scene does
+    QPointer<BusyState> m_state; ///< not owned; may be destroyed before this object
     QString m_title;
     BusyState::Need m_need = BusyState::Rows;
     bool m_isActive = false;
-    int m_work = 0; ///< 0 while none is entered
+    int m_work = 0; ///< id in BusyState; 0 while not registered
 };

@@ -11,7 +11,7 @@ constexpr std::array groupKeys = {"picture",  "sharpness",    "mirror",        "
                                   "exposure", "backMode",     "whiteBalance",  "dayNight",
                                   "inDefog",  "lightControl", "lightControlEx"};
 
-/// Of a second, shortest first.
+/// Denominators of the exposure times in seconds, shortest time first.
 constexpr std::array shutterParts = {100000, 30000, 10000, 4000, 2000, 500, 250, 100, 50, 25};
 
 double millisecondsOf(int part)
@@ -19,7 +19,7 @@ double millisecondsOf(int part)
     return 1000.0 / part;
 }
 
-/// Devices keep times with the precision of a single float.
+/// Devices store times with single precision.
 bool isSameTime(double first, double second)
 {
     constexpr double part = 1e-4;
@@ -30,7 +30,7 @@ bool isSameTime(double first, double second)
 
 CameraForm::CameraForm(QObject *parent) : QObject(parent)
 {
-    read(); // the groups are complete from the first on
+    read(); // `groups` always has all groups
 }
 
 CDeviceFactory *CameraForm::deviceFactory() const
@@ -60,7 +60,7 @@ void CameraForm::read()
         return m_deviceFactory ? m_deviceFactory->getConfigData(QStringLiteral("dh"), key) : QVariant();
     };
     m_channels = value(QStringLiteral("channelNum")).toStringList();
-    if (m_channels.isEmpty()) // a device that tells of no channels has one
+    if (m_channels.isEmpty()) // a device that reports no channels has one
         m_channels.append(QStringLiteral("1"));
     m_channel = value(QStringLiteral("curVideoChannel")).toInt();
     m_channelName = value(QStringLiteral("curChannelName")).toString();

@@ -1,4 +1,4 @@
-// What the image page shows of a camera of the logged-in device.
+// The fields of the image page for one camera of the logged-in device.
 #pragma once
 
 #include <QObject>
@@ -8,8 +8,8 @@
 
 class CDeviceFactory;
 
-/// The values of the back end, by the keys that they are changed by. Reading them asks the back end, never
-/// the device.
+/// Copies the camera values of the back end, by the keys of CDeviceFactory::setConfigData(). Reading sends no
+/// request to the device. Lives on the main thread.
 class CameraForm : public QObject
 {
     Q_OBJECT
@@ -20,11 +20,11 @@ class CameraForm : public QObject
     Q_PROPERTY(int channel READ channel NOTIFY changed)
     Q_PROPERTY(QString channelName READ channelName NOTIFY changed)
     Q_PROPERTY(QStringList switchModes READ switchModes NOTIFY changed)
-    Q_PROPERTY(int switchMode READ switchMode NOTIFY changed) ///< place in switchModes, -1 for none
-    /// Maps by group ("picture", "sharpness", ...), always with all groups, each with "support".
+    Q_PROPERTY(int switchMode READ switchMode NOTIFY changed) ///< index in switchModes, -1 for none
+    /// One map for each group ("picture", "sharpness", ...). All groups exist; each has the bool "support".
     Q_PROPERTY(QVariantMap groups READ groups NOTIFY changed)
     Q_PROPERTY(bool supportsAny READ supportsAny NOTIFY changed)
-    /// "1/100000" to "1/25".
+    /// Exposure times in seconds, "1/100000" to "1/25".
     Q_PROPERTY(QStringList shutterTimes READ shutterTimes CONSTANT)
 public:
     explicit CameraForm(QObject *parent = nullptr);
@@ -40,20 +40,21 @@ public:
     [[nodiscard]] QVariantMap groups() const { return m_groups; }
     [[nodiscard]] bool supportsAny() const;
 
+    /// Reads all values of the back end again.
     Q_INVOKABLE void read();
 
     [[nodiscard]] static QStringList shutterTimes();
 
-    /// The time at a place in shutterTimes in milliseconds, 0 for a place outside.
+    /// The exposure time at an index of shutterTimes in milliseconds; 0 for an index out of range.
     Q_INVOKABLE [[nodiscard]] double shutterMilliseconds(int place) const;
 
-    /// The place in shutterTimes of a shutter that opens from `shortest` to `longest` milliseconds; -1 for a
-    /// range, and for a time that is not listed.
+    /// The index in shutterTimes of an exposure time given as a range in milliseconds. -1 if `shortest` and
+    /// `longest` differ, or if the time is not listed.
     Q_INVOKABLE [[nodiscard]] int shutterPlace(double shortest, double longest) const;
 
-    /// The writes that bring the shutter to the range from `shortest` to `longest`, each as [sub-key, value].
-    /// Each bound is a write of its own; `longestNow` decides their order, so that the range in between is
-    /// not empty.
+    /// The calls of setConfigData() that set the exposure range in milliseconds, each as [sub-key, value].
+    /// The bounds are written one after the other. `longestNow` is the current upper bound; it decides the
+    /// order, so that the range is never empty in between.
     Q_INVOKABLE [[nodiscard]] QVariantList shutterWrites(double longestNow, double shortest,
                                                          double longest) const;
 
@@ -62,7 +63,7 @@ Q_SIGNALS:
     void changed();
 
 private:
-    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
+    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before this object
     QStringList m_channels = {QStringLiteral("1")};
     int m_channel = 0;
     QString m_channelName;

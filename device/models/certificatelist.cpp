@@ -6,7 +6,8 @@
 CertificateList::CertificateList(std::shared_ptr<CertificateStore> store, QObject *parent)
     : DialogRows(parent), m_store(std::move(store))
 {
-    // One event for all refusals of a moment: thousands of devices may be refused within a second.
+    // One queued event covers all refusals until it runs: thousands of devices may be refused within a
+    // second.
     m_store->setListener([this] {
         if (!m_isNotified.exchange(true))
             QMetaObject::invokeMethod(
@@ -38,7 +39,7 @@ void CertificateList::load()
     m_rows.reserve(refused.size());
     for (const RefusedCertificate &certificate : refused)
         m_rows.append({.certificate = certificate, .isChecked = !certificate.isChanged()});
-    // The warnings first: the list may be long.
+    // Changed certificates first: the list may be long.
     std::stable_partition(m_rows.begin(), m_rows.end(),
                           [](const Row &row) { return row.certificate.isChanged(); });
     endResetModel();
@@ -91,7 +92,7 @@ void CertificateList::setRangeChecked(int first, int last, bool checked)
     if (first > last)
         return;
     for (int row = first; row <= last; ++row) {
-        // A range of several rows must not agree to a change that nobody has looked at.
+        // Changed certificates are accepted one by one, after the user has seen each.
         if (!checked || first == last || !m_rows.at(row).certificate.isChanged())
             m_rows[row].isChecked = checked;
     }

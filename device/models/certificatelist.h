@@ -6,11 +6,12 @@
 #include <atomic>
 #include <memory>
 
-/// The refused certificates for a dialog, which lists them and lets the user agree. Keys of a row: "device"
-/// (its address and port), "mac" (or UUID), "subject", "validity", "fingerprint", "stored" (the fingerprint
-/// before a change) and "changed". Unknown certificates are ticked at first, changed ones are not.
+/// Lists the refused device certificates in a dialog, where the user accepts them. Keys of a row: "device"
+/// (address and port), "mac" (or UUID), "subject", "validity", "fingerprint", "stored" (the previously
+/// accepted fingerprint) and "changed" (bool). Unknown certificates are checked initially, changed ones are
+/// not.
 ///
-/// Lives on the scene's thread.
+/// Lives on the main thread.
 class CertificateList : public DialogRows
 {
     Q_OBJECT
@@ -27,10 +28,10 @@ public:
     /// Whether a certificate was refused since load().
     [[nodiscard]] bool hasNews() const { return m_hasNews; }
 
-    /// Takes the certificates that wait now.
+    /// Replaces the rows by the certificates that are refused now, and clears hasNews.
     Q_INVOKABLE void load();
 
-    /// Stores the ticked ones. Returns why that failed; empty on success.
+    /// Stores the checked certificates as accepted. Returns an error message, empty on success.
     Q_INVOKABLE QString agree();
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = QModelIndex()) const override;
@@ -38,12 +39,13 @@ public:
     [[nodiscard]] int changedCount() const;
     [[nodiscard]] int checkedCount() const;
 
-    /// Of the unknown ones: changed ones are ticked one by one.
+    /// The state of the "all" box. It covers unknown certificates only: changed ones are checked one by one.
     [[nodiscard]] Qt::CheckState checkState() const;
 
+    /// Clamps the range to the rows. A range of several rows does not check changed certificates.
     Q_INVOKABLE void setRangeChecked(int first, int last, bool checked);
 
-    /// Ticks the unknown ones, or unticks all.
+    /// Checks the unknown certificates and unchecks the changed ones; or unchecks all.
     Q_INVOKABLE void setAllChecked(bool checked);
 
 Q_SIGNALS:
@@ -68,5 +70,5 @@ private:
     const std::shared_ptr<CertificateStore> m_store;
     QList<Row> m_rows;
     bool m_hasNews = false;
-    std::atomic_bool m_isNotified = false; ///< a refusal is on its way to this thread
+    std::atomic_bool m_isNotified = false; ///< an event for this thread is queued
 };

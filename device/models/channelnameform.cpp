@@ -68,7 +68,7 @@ void ChannelNameForm::setNames(const QStringList &channels, const QStringList &n
 void ChannelNameForm::takeBack(int row)
 {
     if (row >= 0 && row < m_rows.size())
-        change(row, m_rows.at(row).saved); // as the device has it, whatever is in it
+        change(row, m_rows.at(row).saved); // unfiltered: exactly the name on the device
 }
 
 void ChannelNameForm::cut(int row)
@@ -102,7 +102,7 @@ void ChannelNameForm::requestNext()
 {
     const int row = savingRow();
     Q_EMIT savingChanged();
-    if (row != savingRow()) // it was stopped
+    if (row != savingRow()) // a receiver of savingChanged() stopped the save
         return;
     m_isWriting = true;
     Q_EMIT writeRequested(row, m_rows.at(row).name.trimmed());
@@ -179,7 +179,7 @@ ChannelNameForm::Trouble ChannelNameForm::troubleOf(const Row &row) const
         return row.isTold ? None : Unknown;
     if (row.isChanged() && row.name.trimmed().isEmpty())
         return Empty;
-    // Blanks at the ends are not written.
+    // Spaces at the ends are not written.
     if (row.isChanged() && ByteText::bytes(row.name.trimmed()) > ByteText::channelNameBytes())
         return TooLong;
     return row.lastWrite;

@@ -1,4 +1,4 @@
-// The names of the channels of the logged-in device, as a table that the user edits.
+// The editable table of the channel names of the logged-in device.
 #pragma once
 
 #include "device/models/dialogrows.h"
@@ -6,31 +6,31 @@
 #include <QList>
 #include <QVariantList>
 
-/// One row for each channel. What the user types stays here until it is written, each channel for itself.
-/// Roles are those of DialogRows; "identity" is the channel's number. Asks no device: the page does what
-/// writeRequested() asks for and reports the result. Lives on the scene's thread.
+/// One row for each channel. An edited name stays in this model until it is written. The roles are those of
+/// DialogRows; "identity" is the channel number. The model sends no requests: the page handles
+/// writeRequested() and reports the result with takeWritten(). Lives on the main thread.
 class ChannelNameForm : public DialogRows
 {
     Q_OBJECT
     Q_PROPERTY(int count READ rowCount NOTIFY changed)
     Q_PROPERTY(int changedCount READ changedCount NOTIFY changed)
     Q_PROPERTY(int failedCount READ failedCount NOTIFY changed) ///< rows whose last write failed
-    Q_PROPERTY(int untoldCount READ untoldCount NOTIFY changed) ///< cameras whose name is not known
+    Q_PROPERTY(int untoldCount READ untoldCount NOTIFY changed) ///< connected cameras with an unknown name
     Q_PROPERTY(bool saving READ isSaving NOTIFY savingChanged)
-    Q_PROPERTY(int savingRow READ savingRow NOTIFY savingChanged) ///< that is being written; -1 for none
+    Q_PROPERTY(int savingRow READ savingRow NOTIFY savingChanged) ///< the row being written; -1 for none
     Q_PROPERTY(double savingProgress READ savingProgress NOTIFY savingChanged) ///< 0 to 1
 public:
-    /// What a row is to be told apart by.
+    /// The problem that a row shows.
     enum Trouble
     {
         None,
         Unknown,    ///< the device does not report the name
-        Empty,      ///< a name is needed
-        TooLong,    ///< in bytes
-        Refused,    ///< by the device, at the last write
-        Unanswered, ///< the device was away at the last write
-        Upgrading,  ///< nothing was written: the device is being upgraded
-        Different,  ///< the device took the name and has another one now
+        Empty,      ///< the entered name is empty
+        TooLong,    ///< the entered name has more bytes than the device can store
+        Refused,    ///< the device refused the last write
+        Unanswered, ///< the device did not respond to the last write
+        Upgrading,  ///< nothing was written because the device is being upgraded
+        Different,  ///< the device accepted the name and reports a different one
     };
     Q_ENUM(Trouble)
 
@@ -41,40 +41,39 @@ public:
     [[nodiscard]] int failedCount() const;
     [[nodiscard]] int untoldCount() const;
 
-    /// Takes the names as they were read, null for one that is not reported, and which channels have
-    /// a camera. What was changed and not written is gone.
+    /// Replaces the rows. A null name is a name that the device does not report. `connected` has a bool for
+    /// each channel: whether it has a camera. Discards edits that are not written.
     Q_INVOKABLE void load(const QVariantList &names, const QVariantList &connected);
 
-    /// Takes what the user has typed for a row, without what cannot be seen and breaks lines or turns letters
-    /// around.
+    /// Sets the name that the user typed for a row, without control, line-break and bidirectional characters.
     Q_INVOKABLE void set(int row, const QString &typed);
 
-    /// The same for several channels, which are given by their numbers from 0 as texts.
+    /// Same for several channels; `channels` are numbers from 0 as strings.
     Q_INVOKABLE void setNames(const QStringList &channels, const QStringList &names);
 
-    /// Takes back what was typed.
+    /// Restores the saved name.
     Q_INVOKABLE void takeBack(int row);
 
-    /// Leaves as much of a name as the device can hold.
+    /// Truncates the name to the number of bytes that the device can store.
     Q_INVOKABLE void cut(int row);
 
-    /// The first changed row that cannot be written as it is, -1 when there is none.
+    /// The first changed row whose name is empty or too long; -1 if there is none.
     Q_INVOKABLE [[nodiscard]] int firstFaulty() const;
 
-    /// Asks for the writing of the changed names, one after another in the order of their channels. Ends
-    /// early when the device is away or is being upgraded: the others would end the same. Does nothing during
-    /// a saving, or when nothing is changed.
+    /// Requests a write of each changed name, one after another in channel order. Stops early if the device
+    /// does not respond or is being upgraded, since the other writes would fail as well. Does nothing while
+    /// saving, or if no name is changed.
     Q_INVOKABLE void save();
 
-    /// What has come of the writing of a row's name: `result` is 0, a LoginResult, or another code of a
-    /// refusal. `name` is what the device has now, null when it is not reported. A saving goes on with the
-    /// next row.
+    /// Sets the result of a write. `result` is 0, a LoginResult, or an error code of the device library.
+    /// `name` is the name that the device has now, null if it is not reported. Continues a running save with
+    /// the next row.
     Q_INVOKABLE void takeWritten(int row, int result, const QVariant &name);
 
-    /// Leaves out the names that are not written yet. The saving ends with the name that is being written.
+    /// Skips the names that are not written yet. The save ends with the result of the current write.
     Q_INVOKABLE void stopSaving();
 
-    /// Ends the saving at once: nothing comes any more of the name that is being written.
+    /// Ends the save immediately. The result of the current write is not waited for.
     Q_INVOKABLE void dropSaving();
 
     [[nodiscard]] bool isSaving() const { return !m_rowsToSave.isEmpty(); }
@@ -85,16 +84,16 @@ Q_SIGNALS:
     void changed();
     void savingChanged();
 
-    /// The name of a row is to be written; takeWritten() is to follow.
+    /// Requests the write of one name. The receiver calls takeWritten() with the result.
     void writeRequested(int row, const QString &name);
 
-    /// `rows` are those that were to be written. Of them `written` were taken by the device, and `failedRow`
-    /// is the first whose write failed, -1 when none has.
+    /// A save has ended. `rows` names were to be written, the device accepted `written` of them, and
+    /// `failedRow` is the first row whose write failed, -1 if none failed.
     void saved(int rows, int written, int failedRow);
 
 protected:
-    /// "num", "connected", "name" (as typed), "saved" (as the device has it), "changed", "bytes", "trouble"
-    /// (a number) and "identity".
+    /// Keys: "num" (from 1), "connected", "name" (edited), "saved" (on the device), "changed", "bytes",
+    /// "trouble" (a Trouble) and "identity".
     [[nodiscard]] QVariantMap valuesOf(int row) const override;
     [[nodiscard]] bool isInConflict(int row) const override;
 
@@ -122,8 +121,8 @@ private:
     void finishSaving();
 
     QList<Row> m_rows;         ///< by channel
-    QList<int> m_rowsToSave;   ///< of the saving that runs
-    qsizetype m_saveTurns = 0; ///< rows that were come to
-    bool m_isWriting = false;  ///< takeWritten() is awaited by the saving
-    bool m_isStopping = false; ///< with it the saving ends
+    QList<int> m_rowsToSave;   ///< of the running save; empty while not saving
+    qsizetype m_saveTurns = 0; ///< rows of m_rowsToSave that are finished
+    bool m_isWriting = false;  ///< the save waits for takeWritten()
+    bool m_isStopping = false; ///< the save ends with the next takeWritten()
 };

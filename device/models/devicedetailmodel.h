@@ -1,20 +1,20 @@
-// What is known of a device, as the detail panel shows it.
+// The lines of the detail panel of a device.
 #pragma once
 
 #include "device/registry/devicedetail.h"
 
 #include <QAbstractListModel>
 
-/// The lines of DeviceDetail, those that hold the searched text. Roles are "group", "label" and "value".
-/// Lives on the scene's thread.
+/// The lines of DeviceDetail that contain the search text. The roles are "group", "label" and "value". Lives
+/// on the main thread.
 class DeviceDetailModel : public QAbstractListModel
 {
     Q_OBJECT
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
     Q_PROPERTY(int count READ rowCount NOTIFY linesChanged)
-    Q_PROPERTY(int totalCount READ totalCount NOTIFY linesChanged) ///< also those that are not shown
-    Q_PROPERTY(QString text READ text NOTIFY linesChanged)         ///< of all lines
-    /// For a file with that text, by the device's address.
+    Q_PROPERTY(int totalCount READ totalCount NOTIFY linesChanged) ///< including lines that are not shown
+    Q_PROPERTY(QString text READ text NOTIFY linesChanged)         ///< all lines as plain text
+    /// Suggested name of a file for the text: the device's address with ".txt".
     Q_PROPERTY(QString fileName READ fileName NOTIFY linesChanged)
 public:
     explicit DeviceDetailModel(QObject *parent = nullptr);
@@ -29,17 +29,16 @@ public:
     [[nodiscard]] QString text() const { return DeviceDetail::textOf(m_lines); }
     [[nodiscard]] QString fileName() const;
 
-    /// Takes what is known of another device.
+    /// Clears the lines and the search text, and shows `detail` (keys of CDeviceBase::getDeviceDetail()).
     Q_INVOKABLE void load(const QVariantMap &detail);
 
-    /// Adds what has come to be known since.
+    /// Adds further details of the same device; existing keys are replaced.
     Q_INVOKABLE void add(const QVariantMap &detail);
 
-    /// A shown line for the clipboard, empty when there is none.
+    /// The text of a shown line, for the clipboard; empty if `row` is out of range.
     Q_INVOKABLE [[nodiscard]] QString lineText(int row) const;
 
-    /// Writes all lines to a file, which is whole or as it was. Returns false when it cannot be written; the
-    /// log says why.
+    /// Writes all lines to a file atomically. Returns false on failure, and logs the reason.
     Q_INVOKABLE [[nodiscard]] bool write(const QString &path) const;
 
 Q_SIGNALS:

@@ -1,4 +1,4 @@
-// Some device rows that the user chooses from, for a table in a dialog.
+// Device rows with check boxes, for a table in a dialog.
 #pragma once
 
 #include "device/models/dialogrows.h"
@@ -6,8 +6,8 @@
 #include <QList>
 #include <QVariantList>
 
-/// Rows as maps, each with a tick of its own: what is ticked here says nothing about the page that the rows
-/// come from.
+/// Each row is a map with its own checked state, independent of the page that the row comes from. Lives on
+/// the main thread.
 class DeviceSelection : public DialogRows
 {
     Q_OBJECT
@@ -22,16 +22,16 @@ public:
     [[nodiscard]] int checkedCount() const { return m_checkedCount; }
     [[nodiscard]] Qt::CheckState checkState() const;
 
-    /// Takes the rows, all of them ticked.
+    /// Replaces the rows; all of them are checked.
     Q_INVOKABLE void setRows(const QVariantList &rows);
 
-    /// The same for rows that have no names: each is named by its index.
+    /// Same for rows without a name: "mac" of each is set to its index.
     Q_INVOKABLE void setNumberedRows(const QVariantList &rows);
 
     Q_INVOKABLE void setRangeChecked(int first, int last, bool checked);
     Q_INVOKABLE void setAllChecked(bool checked);
 
-    /// Names of the ticked rows in their order.
+    /// The names of the checked rows, in row order.
     Q_INVOKABLE [[nodiscard]] QStringList checkedIdentities() const;
 
 Q_SIGNALS:
@@ -39,7 +39,7 @@ Q_SIGNALS:
     void checkedCountChanged();
 
 protected:
-    [[nodiscard]] QVariantMap valuesOf(int row) const override; ///< "checked" as it is here
+    [[nodiscard]] QVariantMap valuesOf(int row) const override; ///< "checked" is the state in this dialog
     [[nodiscard]] bool isChecked(int row) const override { return m_rows.at(row).checked; }
 
 private:

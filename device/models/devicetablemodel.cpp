@@ -17,10 +17,10 @@ enum Role
     NumRole,
     ConflictRole,
     RowIdentityRole,
-    FirstKeyRole, ///< from here on: rowKeys, in their order
+    FirstKeyRole, ///< FirstKeyRole + n is rowKeys[n]
 };
 
-/// Keys that are read from the row as they are.
+/// Keys whose values are copied from the row.
 constexpr std::array rowKeys = {
     DeviceRowKey::state,
     DeviceRowKey::name,
@@ -199,7 +199,7 @@ QVariantList DeviceTableModel::readList() const
 
 QList<DeviceTableRow> DeviceTableModel::readRows()
 {
-    // Everything comes from one list: rows may be added or changed between two.
+    // One read for all values: rows may be added or changed between two reads.
     QVariantList list = readList();
     addNotes(list);
     m_totalCount = static_cast<int>(list.size());
@@ -262,7 +262,7 @@ void DeviceTableModel::takeRows(QList<DeviceTableRow> rows)
         endResetModel();
         return;
     }
-    // The usual case during a search. Views keep their place and their delegates.
+    // Usual case during a search: rows are appended. Views keep their scroll position and delegates.
     int firstChanged = static_cast<int>(shown);
     int lastChanged = -1;
     for (int place = 0; place < static_cast<int>(shown); ++place) {
@@ -308,13 +308,13 @@ void DeviceTableModel::refreshDevices(const QStringList &macs)
         QVariantList read = {m_deviceFactory->deviceRow(dhFamily, mac)};
         addNotes(read);
         const QJsonObject values = read.constFirst().toJsonObject();
-        if (!values.isEmpty()) // else it was deleted, which a refresh will show
+        if (!values.isEmpty()) // otherwise the device was deleted; the next refresh() removes the row
             m_rows[place].values = values;
         first = std::min(first, place);
         last = std::max(last, place);
     }
     if (last >= 0)
-        Q_EMIT dataChanged(index(first), index(last)); // a view looks at the shown ones of them once
+        Q_EMIT dataChanged(index(first), index(last)); // one signal: the view updates visible rows once
 }
 
 void DeviceTableModel::toggleSort(const QString &key)

@@ -1,4 +1,4 @@
-// The device table of a page: the rows that its filters leave, as an item model.
+// The device table of a page, filtered and ordered.
 #pragma once
 
 #include "device/models/devicetablerows.h"
@@ -13,18 +13,20 @@
 
 class CDeviceFactory;
 
-/// Rows of one device page. Roles are the row keys ("checked", "num", "state", ...) and two computed ones:
-/// "conflict" (true when another row of the list, shown or not, has the same "ipport") and "identity" (see
-/// rowName()). get() also gives "failure": what batches failed with the device, see FollowedMarks::wordsOf(),
-/// and "onlyNotDone", see FailedMarks.
-/// "note" is the note of the user about the device; the text search finds it as well.
+/// The rows of one device page. The roles are row keys ("state", "name", ...) and these:
+///  - "checked", "num" (from 1)
+///  - "conflict": another row of the list, shown or not, has the same "ipport"
+///  - "identity": see rowName()
+///  - "note": the user's note about the device, which the text search includes
+/// get() also returns "failure" (the failed batches of the device, see FollowedMarks::wordsOf()) and
+/// "onlyNotDone" (see FailedMarks).
 ///
-/// It asks the factory's filterData or filterDataIPV6 for all rows, filters them itself, so that list and
-/// filter are of the same moment, and keeps the user's ticks, selection and order over a refresh. Lives on
-/// the scene's thread.
+/// The model reads all rows with one call of the factory's filterData() or filterDataIPV6() and filters them
+/// itself, so that list and filter are consistent. Checked states, selection and order survive a refresh.
+/// Lives on the main thread.
 ///
-/// It exists because the toolkit's own TableModel takes its rows through JavaScript objects: with 10,000
-/// devices each refresh would hold up the window for a quarter of a second, once a second during a search.
+/// Qt's TableModel is not used because it reads its rows through JavaScript objects: with 10,000 devices each
+/// refresh would block the window for a quarter of a second, once a second during a search.
 class DeviceTableModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -37,10 +39,10 @@ class DeviceTableModel : public QAbstractListModel
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY filterChanged)
     Q_PROPERTY(FailedMarks *failedMarks READ failedMarks WRITE setFailedMarks NOTIFY failedMarksChanged)
     Q_PROPERTY(DeviceNotes *notes READ notes WRITE setNotes NOTIFY notesChanged)
-    /// Whether only marked devices are shown, by their reasons and then by address unless the user has chosen
-    /// another order. It ends with the last mark.
+    /// Whether only marked devices are shown, ordered by reason and then by address unless the user has
+    /// chosen another order. Reset to false when no mark is left.
     Q_PROPERTY(bool onlyFailed READ onlyFailed WRITE setOnlyFailed NOTIFY filterChanged)
-    /// Whether texts that are no IPv4 address are ordered as the address 0 and not behind the others.
+    /// Whether strings that are not an IPv4 address are ordered as address 0; otherwise they come last.
     Q_PROPERTY(bool oddAddressesFirst MEMBER m_oddAddressesFirst NOTIFY filterChanged)
     Q_PROPERTY(QString sortKey READ sortKey NOTIFY sortChanged)
     Q_PROPERTY(Qt::SortOrder sortOrder READ sortOrder NOTIFY sortChanged)
@@ -79,64 +81,64 @@ public:
     [[nodiscard]] Qt::SortOrder sortOrder() const { return m_sortOrder; }
 
     [[nodiscard]] int totalCount() const { return m_totalCount; }   ///< rows of the list before any filter
-    [[nodiscard]] int failedCount() const { return m_failedCount; } ///< of them, those of marked devices
+    [[nodiscard]] int failedCount() const { return m_failedCount; } ///< marked rows of the list
     [[nodiscard]] int checkedCount() const { return m_checkedCount; }
     [[nodiscard]] int checkedUpgradingCount() const
     {
         return m_checkedUpgradingCount;
-    }                                                                   ///< of them, at refresh
+    }                                                                   ///< checked rows being upgraded
     [[nodiscard]] int conflictCount() const { return m_conflictCount; } ///< shown rows in conflict
-    [[nodiscard]] Qt::CheckState checkState() const; ///< of all shown rows, for the box in the head
+    [[nodiscard]] Qt::CheckState checkState() const; ///< of all shown rows, for the check box of the header
 
     /// Reads the rows again. The page calls it on the factory's signalAddDeviceToTable.
     Q_INVOKABLE void refresh();
 
-    /// Reads one IPv4 device's row again, in its place: while a batch runs, reading all of them for each
-    /// result would take longer than the batch. Conflicts stay as they were until refresh().
+    /// Reads the row of one IPv4 device again. Results of a batch use it: reading all rows for each result
+    /// would take longer than the batch. Filters, order and "conflict" are updated by refresh() only.
     Q_INVOKABLE void refreshDevice(const QString &mac);
     Q_INVOKABLE void refreshDevices(const QStringList &macs);
 
-    /// Orders by a key: first ascending, then descending, then in the order of the list again. Addresses are
-    /// compared as numbers, texts by the user's language.
+    /// Cycles through ascending, descending and list order. Addresses are compared as numbers, strings by the
+    /// user's language.
     Q_INVOKABLE void toggleSort(const QString &key);
 
-    /// Orders by a key in this direction; by none in the order of the list.
+    /// Sets key and direction of the order. An empty key is the order of the list.
     Q_INVOKABLE void setSort(const QString &key, Qt::SortOrder order);
 
     Q_INVOKABLE void setChecked(int row, bool checked);
     Q_INVOKABLE void setRangeChecked(int first, int last, bool checked);
     Q_INVOKABLE void setAllChecked(bool checked);
 
-    /// Ticks the devices with these identities and no others, also where the filter hides them.
+    /// Checks the devices with these identities, including hidden ones, and unchecks all others.
     Q_INVOKABLE void setCheckedDevices(const QStringList &identities);
 
-    /// The row as the scene sees it, with its keys; empty when `row` is out of range.
+    /// The values of a row by key, for QML; empty if `row` is out of range.
     Q_INVOKABLE [[nodiscard]] QVariantMap get(int row) const;
 
-    /// Position of the row with this identity, -1 when it is not shown.
+    /// The index of the row with this identity; -1 if it is not shown.
     Q_INVOKABLE [[nodiscard]] int rowOf(const QString &identity) const;
 
-    /// The first row from `from` on, and then from the top, whose address or name begins with `text`; -1 when
-    /// there is none. Capitals count as small letters.
+    /// The first row, starting at `from` and wrapping around, whose address or name starts with `text`; -1 if
+    /// there is none. Ignores case.
     Q_INVOKABLE [[nodiscard]] int rowStarting(const QString &text, int from) const;
 
-    /// Ticks the shown rows whose value of `key` is that of the row, and no other device.
+    /// Checks the shown rows that have the same value of `key` as `row`, and unchecks all other devices.
     Q_INVOKABLE void checkSimilar(int row, const QString &key);
 
-    /// "identity" of the checked rows in the order shown, by which the operations of an IPv4 device name it.
+    /// "identity" of the checked rows, in the order shown. Operations on IPv4 devices take it as `mac`.
     Q_INVOKABLE [[nodiscard]] QStringList checkedMacs() const;
 
     /// The checked rows as get() returns them, in the order shown.
     Q_INVOKABLE [[nodiscard]] QVariantList checkedRows() const;
 
-    /// The checked rows whose devices have a password, or those that have none yet.
+    /// The checked rows of initialised devices, or of uninitialised devices.
     Q_INVOKABLE [[nodiscard]] QVariantList checkedRowsWith(bool initialised) const;
 
-    /// Deletes the devices of the checked rows from the list. Returns how many are still there: they are
-    /// being upgraded.
+    /// Deletes the devices of the checked rows from the list. Returns the number of those that remain because
+    /// they are being upgraded.
     Q_INVOKABLE int deleteChecked();
 
-    /// The texts of the given rows as lines with tab-separated columns, for the clipboard.
+    /// The given rows as lines with tab-separated columns, for the clipboard.
     Q_INVOKABLE [[nodiscard]] QString textOf(const QList<int> &rows) const;
 
 Q_SIGNALS:
@@ -161,12 +163,12 @@ private:
         return m_ipv6 ? m_checkedIPv6 : m_checkedIPv4;
     }
     void takeRows(QList<DeviceTableRow> rows);
-    void notePlaces(qsizetype first); ///< of the rows from this one on
+    void notePlaces(qsizetype first); ///< updates m_places from this row on
     void applyFilter();
     void countChecked();
     void countFailed(const QVariantList &list);
 
-    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
+    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before this object
     bool m_showInitialised = true;
     bool m_showUninitialised = true;
     bool m_ipv6 = false;
@@ -179,8 +181,8 @@ private:
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
 
     QList<DeviceTableRow> m_rows;
-    QHash<QString, int> m_places; ///< in m_rows, by identity
-    // Identities of ticked rows, also of those that a filter hides.
+    QHash<QString, int> m_places; ///< row by identity
+    // Identities of the checked rows, including rows that a filter hides.
     QSet<QString> m_checkedIPv4;
     QSet<QString> m_checkedIPv6;
     int m_totalCount = 0;

@@ -87,7 +87,7 @@ QList<DeviceTableRow> deviceTableRows(const QVariantList &list, const DeviceTabl
     for (const QVariant &value : list) {
         const QJsonObject values = value.toJsonObject();
         const QString ipport = values.value(DeviceRowKey::ipport).toString();
-        // A lost device may have left its address to another one.
+        // The address of an offline device may be used by another device now.
         const bool isLost = values.value(DeviceRowKey::lost).toBool();
         rowsOfAddress[ipport] += isLost ? 0 : 1;
         if (!isShown(values, filter))
@@ -100,7 +100,7 @@ QList<DeviceTableRow> deviceTableRows(const QVariantList &list, const DeviceTabl
         addresses.append(ipport);
     }
     for (qsizetype place = 0; place < shown.size(); ++place) {
-        // Devices that wait for an address by DHCP have none to share.
+        // A device without an address (waiting for DHCP) has ":port" only and cannot be in conflict.
         const QString &ipport = addresses.at(place);
         const bool isLost = shown.at(place).values.value(DeviceRowKey::lost).toBool();
         shown[place].conflict =

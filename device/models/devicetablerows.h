@@ -1,4 +1,4 @@
-// The rows that a device table shows: filtered and ordered.
+// Filter and order of the rows of a device table.
 #pragma once
 
 #include "device/registry/deviceorder.h"
@@ -11,37 +11,36 @@
 
 class FailedMarks;
 
-/// A row with what is computed from it once, when the list is read.
+/// A row of the list with the values that are computed when the list is read.
 struct DeviceTableRow
 {
     QJsonObject values;
     QString identity;      ///< see rowName()
     bool conflict = false; ///< another row of the list, shown or not, has the same "ipport"
-    QString reason = {};   ///< of the mark, while only failed devices are shown
+    QString reason = {};   ///< reason of the device's mark, while only failed devices are shown
 
-    /// The value of a key; for one that the row lacks, as IPv6 rows do, the value that new rows begin with.
+    /// The value of a key. A missing key (IPv6 rows lack some) gives the initial value of new rows.
     [[nodiscard]] QVariant value(QLatin1StringView key) const;
 
-    /// Its texts in tab-separated columns, for the clipboard.
+    /// The main columns separated by tabs, for the clipboard.
     [[nodiscard]] QString text() const;
 
     bool operator==(const DeviceTableRow &) const = default;
 };
 
-/// Which rows of a list are shown.
+/// Selects the rows that are shown.
 struct DeviceTableFilter
 {
     bool showInitialised = true;
     bool showUninitialised = true;
     QString searchText = {};
-    const FailedMarks *onlyThose = nullptr; ///< shows only the devices that have marks; null: all
+    const FailedMarks *onlyThose = nullptr; ///< not null: only the devices that have marks are shown
 };
 
-/// How they are ordered.
+/// The order of the rows.
 struct DeviceTableOrder
 {
-    QString key = {}; ///< empty: the order of the list, or by reason and then by address if only failed
-                      ///< devices are shown
+    QString key = {}; ///< empty: the order of the list; with `onlyThose`, by reason and then by address
     Qt::SortOrder direction = Qt::AscendingOrder;
     DeviceOrder::OddAddresses oddAddresses = DeviceOrder::OddAddresses::Behind;
 };
@@ -49,6 +48,6 @@ struct DeviceTableOrder
 /// The names of all rows of `list`, see rowName().
 [[nodiscard]] QSet<QString> namesOf(const QVariantList &list);
 
-/// The rows of `list` (JSON objects, as the factory's filterData gives them) that a table shows.
+/// The filtered and ordered rows of `list`, which holds JSON objects as returned by filterData().
 [[nodiscard]] QList<DeviceTableRow> deviceTableRows(const QVariantList &list, const DeviceTableFilter &filter,
                                                     const DeviceTableOrder &order);

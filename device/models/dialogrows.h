@@ -1,12 +1,11 @@
-// Rows of devices for a table in a dialog.
+// Base class of the row models of dialogs.
 #pragma once
 
 #include <QAbstractListModel>
 #include <QVariantMap>
 
-/// What a table of the scene asks of its model, over what a model of a dialog knows of its rows: the roles
-/// "checked", "conflict" and "identity", the values of a row by get(), and its place by rowOf(). Lives on the
-/// scene's thread.
+/// Implements the interface that the QML table requires of its model: the roles "checked", "conflict" and
+/// "identity", get() and rowOf(). A subclass provides the values of a row. Lives on the main thread.
 class DialogRows : public QAbstractListModel
 {
     Q_OBJECT
@@ -16,10 +15,10 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const final;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const final;
 
-    /// The row with its keys; empty when `row` is out of range.
+    /// The values of a row by key; empty if `row` is out of range.
     Q_INVOKABLE [[nodiscard]] QVariantMap get(int row) const;
 
-    /// Position of the device with this identity, -1 when there is none.
+    /// The index of the row with this identity; -1 if there is none.
     Q_INVOKABLE [[nodiscard]] int rowOf(const QString &identity) const;
 
 protected:
@@ -30,10 +29,10 @@ protected:
         IdentityRole,
     };
 
-    /// What a row tells its device by: "identity" where the page gave one, otherwise "mac".
+    /// Identity of a row: its "identity", or its "mac" if that is empty.
     [[nodiscard]] static QString identityOf(const QVariantMap &values);
 
-    // Of a row that is there.
+    // `row` is a valid index.
 
     [[nodiscard]] virtual QVariantMap valuesOf(int row) const = 0;
     [[nodiscard]] virtual bool isChecked(int row) const;

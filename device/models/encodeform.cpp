@@ -11,13 +11,13 @@
 
 namespace {
 
-/// A key of the main stream as the sub stream calls it.
+/// The key of a main stream setting, or that of the same setting of the sub stream.
 QString keyOf(bool isSub, const QString &field)
 {
     return isSub ? QStringLiteral("sub") + field.at(0).toUpper() + field.sliced(1) : field;
 }
 
-/// The items of its stream that a setting is written with.
+/// The indexes (in the stream) of the configuration items that a setting is written with.
 QList<int> itemsOf(const QString &key)
 {
     constexpr int videoFormat = 0;
@@ -45,7 +45,7 @@ QList<int> placesOf(const QVariant &list)
     return places;
 }
 
-/// A choice of the back end as it is written elsewhere: "2688*1520" as "2688 × 1520", "G711a" as "G.711A".
+/// The display name of a choice: "2688*1520" as "2688 × 1520", "G711a" as "G.711A".
 QString shownName(const QString &choice)
 {
     static const QHash<QString, QString> names = {
@@ -96,7 +96,7 @@ void EncodeForm::setDeviceFactory(CDeviceFactory *deviceFactory)
         return;
     m_deviceFactory = deviceFactory;
     Q_EMIT deviceFactoryChanged();
-    read(); // the maps of the streams are complete from the first on
+    read(); // mainStream and subStream always have all keys
 }
 
 void EncodeForm::read()
@@ -114,7 +114,7 @@ bool EncodeForm::isDeviceAway(int result)
 
 QString EncodeForm::failureName(int result)
 {
-    if (result == resultCode(LoginResult::Upgrading)) // nothing was asked
+    if (result == resultCode(LoginResult::Upgrading)) // no request was sent
         return resultName(result);
     constexpr std::uint32_t highBit = 0x80000000;
     const auto error = static_cast<std::uint32_t>(result) | highBit;
@@ -150,7 +150,7 @@ void EncodeForm::fetch()
     m_takenItems = placesOf(value(QStringLiteral("takenItems")));
     m_unreadPlaces = placesOf(value(QStringLiteral("unreadPlaces")));
     m_channels = value(QStringLiteral("channelNum")).toStringList();
-    if (m_channels.isEmpty()) // a device that tells of no channels has one
+    if (m_channels.isEmpty()) // a device that reports no channels has one
         m_channels.append(QStringLiteral("1"));
     m_channel = value(QStringLiteral("curChannel")).toInt();
     m_streamTypes = value(QStringLiteral("allStreamType")).toStringList();
@@ -179,7 +179,7 @@ bool EncodeForm::isTaken(const QString &key) const
     QList<int> places = itemsOf(key);
     for (int &place : places)
         place += isSub ? itemsOfStream : 0;
-    // An item that was not read is not written, so nothing is waited for.
+    // An item that was not read is not written either.
     places.removeIf([this](int place) { return m_unreadPlaces.contains(place); });
     return !places.isEmpty() && std::all_of(places.begin(), places.end(),
                                             [this](int place) { return m_takenItems.contains(place); });
@@ -201,7 +201,7 @@ QVariantMap EncodeForm::choice(const QString &list, const QString &current)
     const QString text = shown.toString();
     QVariantMap map = setting(current, noteChange(current, text));
     const bool isOffered = !choices.isEmpty();
-    // A device may be set to what it does not offer. What it has stays there to be chosen again.
+    // The device may have a value that it does not list as supported. It remains selectable.
     for (const QString &own : {m_read.value(current).toString(), text}) {
         if (!own.isEmpty() && !choices.contains(own))
             choices.append(own);
@@ -229,7 +229,7 @@ QVariantMap EncodeForm::bitRate(const QString &list, const QString &current, con
     }
     const bool isStep = place.toInt() >= 0 && place.toInt() < choices.size();
     map.insert(QStringLiteral("choices"), choices);
-    // The last entry stands for every rate that is none of the steps.
+    // The last entry is "custom": any rate that is not in the list.
     map.insert(QStringLiteral("index"), isStep ? place.toInt() : static_cast<int>(choices.size()) - 1);
     map.insert(QStringLiteral("value"), kilobits);
     map.insert(QStringLiteral("usable"), !choices.isEmpty());
@@ -265,7 +265,7 @@ QVariantMap EncodeForm::stream(bool isSub)
         {QStringLiteral("audioCompression"), choice(key("audioCompression"), key("curAudioCompression"))},
         {QStringLiteral("samplingFrequency"), choice(key("samplingFrequency"), key("curSamplingFrequency"))},
     };
-    // The main stream's picture cannot be switched off.
+    // The video of the main stream cannot be switched off.
     map.insert(QStringLiteral("videoEnable"),
                isSub ? number(key("videoEnable"), 0, 1) : setting(QString(), false));
     const QStringList missing = value(key("missingSettings")).toStringList();

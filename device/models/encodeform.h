@@ -1,4 +1,4 @@
-// What the encode page shows of a channel of the logged-in device.
+// The fields of the encode page for one channel of the logged-in device.
 #pragma once
 
 #include <QHash>
@@ -9,9 +9,10 @@
 
 class CDeviceFactory;
 
-/// The values of the back end, completed so that a page can show them whatever a device told, and which of
-/// them the user has changed since they were read. Reading and changing values asks the back end, and the
-/// device only for "subCurResolution", which blocks for the waits of the library.
+/// Provides the encode values of the back end in a form that is complete regardless of the device's report,
+/// and detects the values that the user has changed since they were read. Calls the back end only, except for
+/// the key "subCurResolution": setting it queries the device and blocks for the timeouts of the device
+/// library. Lives on the main thread.
 class EncodeForm : public QObject
 {
     Q_OBJECT
@@ -22,26 +23,25 @@ class EncodeForm : public QObject
     Q_PROPERTY(int channel READ channel NOTIFY changed)
     Q_PROPERTY(QStringList streamTypes READ streamTypes NOTIFY changed)
     Q_PROPERTY(int streamType READ streamType NOTIFY changed)
-    /// A map for each setting ("encodeMode", "resolution", "control", "bitRate", "frameRate", "quality",
-    /// "audioEnable", "audioCompression", "samplingFrequency", "videoEnable"), always with all of:
-    ///  - "key": the key that it is changed by
-    ///  - "changed": whether it differs from what was read
-    ///  - "choices" and "index": texts, with the current one among them, and its place, -1 while there is
-    ///  none
-    ///  - "names": the choices as the user reads them
-    ///  - "value", "minimum" and "maximum": numbers
-    ///  - "usable": whether its value was read and there is anything to choose. While the value is unknown,
-    ///    "index" is -1 and "value" lies below "minimum".
-    /// Beside them "exists" and "hasAudio": whether the device has such a stream, and sound with it.
+    /// One map for each setting ("encodeMode", "resolution", "control", "bitRate", "frameRate", "quality",
+    /// "audioEnable", "audioCompression", "samplingFrequency", "videoEnable"). Each map has all of these
+    /// keys:
+    ///  - "key": the key for set()
+    ///  - "changed": whether the value differs from the value read
+    ///  - "choices", "index": strings including the current one, and its index; -1 if unknown
+    ///  - "names": the choices as shown to the user
+    ///  - "value", "minimum", "maximum": numbers; an unknown value is below "minimum"
+    ///  - "usable": whether the value was read and there is more than one choice
+    /// The keys "exists" and "hasAudio" (bool) say whether the device has this stream, and audio in it.
     Q_PROPERTY(QVariantMap mainStream READ mainStream NOTIFY changed)
     Q_PROPERTY(QVariantMap subStream READ subStream NOTIFY changed)
     Q_PROPERTY(QStringList subStreamTypes READ subStreamTypes NOTIFY changed)
     Q_PROPERTY(int changedCount READ changedCount NOTIFY changed)
-    /// Whether the device told what it can do.
+    /// Whether the device reported the supported encode modes and resolutions.
     Q_PROPERTY(bool complete READ isComplete NOTIFY changed)
-    /// Whether the device took anything at the last writing, if it has not been read since.
+    /// Whether the device accepted any item of the last write and was not read since.
     Q_PROPERTY(bool taken READ isTaken NOTIFY changed)
-    /// The names of the items that were not read, and are therefore not written.
+    /// The names of the items that were not read. They are not written either.
     Q_PROPERTY(QStringList unreadItems READ unreadItems NOTIFY changed)
 public:
     explicit EncodeForm(QObject *parent = nullptr) : QObject(parent) {}
@@ -61,22 +61,22 @@ public:
     [[nodiscard]] bool isTaken() const { return !m_takenItems.isEmpty(); }
     [[nodiscard]] QStringList unreadItems() const { return m_unreadItems; }
 
-    /// Takes the back end's values as those that the device has: nothing counts as changed.
+    /// Reads the values of the back end as the device's values: none counts as changed.
     Q_INVOKABLE void read();
 
-    /// Takes the values that the device accepted at the last saving as those that it has; the others still
+    /// Reads the values that the device accepted in the last save as the device's values. The others still
     /// count as changed.
     Q_INVOKABLE void takeSaved();
 
-    /// Passes a changed value on and shows what came of it.
+    /// Sets a value in the back end and reads the resulting values.
     Q_INVOKABLE void set(const QString &key, const QVariant &value);
 
-    /// Whether a result of a factory's signalGetDeviceCapRet() says that the session is lost, and not that
-    /// the device refused: it did not answer, or no longer accepts the login.
+    /// Whether a result of CDeviceFactory::signalGetDeviceCapRet() means a lost session (no response, or the
+    /// login is no longer valid) and not a refusal.
     Q_INVOKABLE [[nodiscard]] static bool isDeviceAway(int result);
 
-    /// What such a result says, in the user's language: no response, a login that has ended, not supported,
-    /// refused, or that the device is being upgraded.
+    /// The message for such a result in the user's language: no response, expired login, not supported,
+    /// refused, or device being upgraded.
     Q_INVOKABLE [[nodiscard]] static QString failureName(int result);
 
 Q_SIGNALS:
@@ -93,7 +93,7 @@ private:
     [[nodiscard]] QVariantMap number(const QString &key, int minimum, int maximum);
     [[nodiscard]] bool noteChange(const QString &key, const QVariant &value);
 
-    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
+    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before this object
     QStringList m_channels = {QStringLiteral("1")};
     int m_channel = 0;
     QStringList m_streamTypes;
@@ -101,10 +101,10 @@ private:
     QStringList m_subStreamTypes;
     QVariantMap m_main;
     QVariantMap m_sub;
-    QHash<QString, QVariant> m_read; ///< values as they were read, by key
+    QHash<QString, QVariant> m_read; ///< values on the device, by key
     bool m_isReading = false;
-    QList<int> m_takenItems;   ///< the places of those that the device took at the last writing
-    QList<int> m_unreadPlaces; ///< of the items that were not read
+    QList<int> m_takenItems;   ///< indexes of the items that the device accepted in the last write
+    QList<int> m_unreadPlaces; ///< indexes of the items that were not read
     int m_changedCount = 0;
     bool m_isComplete = false;
     QStringList m_unreadItems;

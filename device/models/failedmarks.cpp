@@ -8,13 +8,13 @@
 
 namespace {
 
-/// Whether a result says that the work was tried with the device, or was to be.
+/// Whether the batch is finished with the device: done, failed or not reached.
 bool isFinal(int result)
 {
     return result != BatchReport::Waiting && !BatchReport::isSkipped(result);
 }
 
-/// What a device answered may be long.
+/// Limits the length of a message: the response of a device may be long.
 QString shortened(const QString &words)
 {
     constexpr qsizetype longest = 160;
@@ -31,7 +31,7 @@ void FailedMarks::note(const QString &work, const QString &title, const QList<Ou
         if (isFinal(outcome.result))
             isChanged |= forget(outcome.identity, work);
     }
-    // A batch may name a device more than once: it is marked if it failed in one place.
+    // A batch may contain a device more than once. One failure is enough for a mark.
     for (const Outcome &outcome : outcomes) {
         if (!isFinal(outcome.result) || outcome.result == BatchReport::Succeeded)
             continue;

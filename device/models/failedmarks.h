@@ -1,4 +1,4 @@
-// Devices that batches have failed with.
+// Marks of the devices whose last batch failed.
 #pragma once
 
 #include <QHash>
@@ -6,29 +6,30 @@
 #include <QObject>
 #include <QSet>
 
-/// The devices that a batch failed with or did not come to. Each stays marked until a later batch of the same
-/// work succeeds with it, or until the user clears the marks. A mark belongs to the name of a row (see
-/// rowName()): it lives through a search, which keeps the row (see DeviceStore::setKept()), and through a
-/// change of its address.
+/// Marks the devices for which a batch failed or which it did not reach. A mark remains until a later batch
+/// of the same work succeeds for the device, or until the user clears the marks. It belongs to the name of a
+/// row (see rowName()): it survives a search, which keeps the row (see DeviceStore::setKept()), and a change
+/// of the device's address.
 ///
-/// Lives on the scene's thread.
+/// Lives on the main thread.
 class FailedMarks : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(int count READ count NOTIFY changed)
 public:
-    /// What has come of a device.
+    /// The result of a batch for one device.
     struct Outcome
     {
         QString identity;
         int result = 0;
-        QString words; ///< the result for the user
+        QString words; ///< message for the user
     };
 
     explicit FailedMarks(QObject *parent = nullptr) : QObject(parent) {}
 
-    /// Takes what has come of the devices of a batch. `work` tells which batches do the same, `title` names
-    /// it for the user. A device that waits for a next step, or is skipped, keeps its marks and gets none.
+    /// Updates the marks with the results of a batch. Batches with the same `work` id replace each other's
+    /// marks; `title` is the name of the work, shown to the user. A device that waits for a further step or
+    /// was skipped keeps its marks and gets no new one.
     void note(const QString &work, const QString &title, const QList<Outcome> &outcomes);
 
     Q_INVOKABLE void clear();
@@ -39,14 +40,14 @@ public:
     /// The names of the marked rows.
     [[nodiscard]] QSet<QString> identities() const { return {m_failures.keyBegin(), m_failures.keyEnd()}; }
 
-    /// Name of the result that the device had in the last work that failed; empty when it is not marked.
+    /// The name of the most recent failed result of the device; empty if it is not marked.
     [[nodiscard]] QString reasonOf(const QString &identity) const;
 
-    /// Whether no work has failed with the device: those of its marks did not come to it.
+    /// Whether all marks of the device are from batches that did not reach it.
     [[nodiscard]] bool isOnlyNotDone(const QString &identity) const;
 
-    /// The works that failed with the device, each in a line with its result, the last one first; empty when
-    /// it is not marked.
+    /// The failed work of the device, one line for each with its result, most recent first; empty if it is
+    /// not marked.
     [[nodiscard]] QString wordsOf(const QString &identity) const;
 
 Q_SIGNALS:
@@ -57,11 +58,11 @@ private:
     {
         QString work;
         int result = 0;
-        QString words; ///< with the title of the work
+        QString words; ///< title of the work and message
     };
 
-    /// Returns whether there was one.
+    /// Returns whether a failure was removed.
     bool forget(const QString &identity, const QString &work);
 
-    QHash<QString, QList<Failure>> m_failures; ///< by identity; the last one first
+    QHash<QString, QList<Failure>> m_failures; ///< by identity; most recent first
 };

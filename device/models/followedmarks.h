@@ -5,14 +5,14 @@
 #include <QPointer>
 #include <QStringList>
 
-/// The marks that a model shows, or none. Lives on the scene's thread.
+/// Reference from a model to the FailedMarks that it shows; may be empty. Lives on the main thread.
 class FollowedMarks
 {
 public:
     [[nodiscard]] FailedMarks *get() const { return m_marks; }
     [[nodiscard]] bool isEmpty() const { return !m_marks || m_marks->count() == 0; }
 
-    // As FailedMarks has them.
+    // Forward to FailedMarks. Without marks: empty, false and true.
     [[nodiscard]] QString reasonOf(const QString &identity) const
     {
         return m_marks ? m_marks->reasonOf(identity) : QString();
@@ -26,7 +26,7 @@ public:
         return !m_marks || m_marks->isOnlyNotDone(identity);
     }
 
-    /// What a row says of its device: the words of its mark, and that the last search has lost it.
+    /// The text for a row: the failures of its marks, and a line if the last search did not find the device.
     [[nodiscard]] QString wordsOf(const QString &identity, bool isLost) const
     {
         QStringList lines = {m_marks ? m_marks->wordsOf(identity) : QString()};
@@ -36,8 +36,8 @@ public:
         return lines.join(QLatin1Char('\n'));
     }
 
-    /// Calls `changed` of `model` from now on when `marks`, which may be null, change, and no more when the
-    /// earlier ones do. Returns false, and does nothing, when they are the same.
+    /// Sets the marks (may be null) and connects their changed() to `changed` of `model`; disconnects the
+    /// previous marks. Returns false, and does nothing, if they are the same.
     template<typename Model>
     bool follow(FailedMarks *marks, Model *model, void (Model::*changed)())
     {

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Not one that waits for its first password, or for an address.
+/// A device can be watched if it is initialised and has an address.
 bool canBeWatched(const QVariantMap &row)
 {
     const QString ipport = row.value(DeviceRowKey::ipport).toString();

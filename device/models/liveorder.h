@@ -1,4 +1,4 @@
-// The devices that the live window goes through.
+// The devices that the live window steps through.
 #pragma once
 
 #include <QObject>
@@ -8,8 +8,8 @@
 class CDeviceFactory;
 class DeviceTableModel;
 
-/// Those that were chosen when the window was opened, else the rows of the list as they are now. Lives on the
-/// scene's thread.
+/// The devices that were chosen when the window was opened; without any, the rows of the table. Lives on the
+/// main thread.
 class LiveOrder : public QObject
 {
     Q_OBJECT
@@ -17,12 +17,12 @@ class LiveOrder : public QObject
     Q_MOC_INCLUDE("device/models/devicetablemodel.h")
     Q_PROPERTY(
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
-    /// The list that the window was opened from; may be null.
+    /// The table that the window was opened from; may be null.
     Q_PROPERTY(DeviceTableModel *table READ table WRITE setTable NOTIFY tableChanged)
-    /// Maps of "ipport" and "name"; empty for the rows of the list.
+    /// Maps with "ipport" and "name"; empty: the rows of the table are used.
     Q_PROPERTY(QVariantList chosen READ chosen WRITE setChosen NOTIFY chosenChanged)
     Q_PROPERTY(int count READ count NOTIFY countChanged)
-    Q_PROPERTY(int ticked READ ticked NOTIFY tickedChanged) ///< rows of the list
+    Q_PROPERTY(int ticked READ ticked NOTIFY tickedChanged) ///< number of checked rows of the table
 public:
     explicit LiveOrder(QObject *parent = nullptr) : QObject(parent) {}
 
@@ -35,14 +35,14 @@ public:
     [[nodiscard]] int count() const;
     [[nodiscard]] int ticked() const;
 
-    /// Where a device stands, -1 when it is none of them.
+    /// The index of a device; -1 if it is not in the order.
     Q_INVOKABLE [[nodiscard]] int placeOf(const QString &ipport) const;
 
-    /// Address and port of the next device in a direction, 1 or -1, that can be watched; empty when there is
-    /// none. From a device that is none of them the way begins before the first one.
+    /// Address and port of the next device in the direction 1 or -1 that can be watched; empty if there is
+    /// none. If `ipport` is not in the order, direction 1 starts with the first device.
     Q_INVOKABLE [[nodiscard]] QString neighbour(const QString &ipport, int direction) const;
 
-    /// The ticked rows of the list whose devices can be watched, in its order.
+    /// The checked rows of the table whose devices can be watched, in table order.
     Q_INVOKABLE [[nodiscard]] QVariantList tickedDevices() const;
 
 Q_SIGNALS:
@@ -55,7 +55,7 @@ Q_SIGNALS:
 private:
     [[nodiscard]] QVariantMap at(int place) const;
 
-    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
+    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before this object
     QPointer<DeviceTableModel> m_table;       ///< not owned
     QVariantList m_chosen;
 };

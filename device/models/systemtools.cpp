@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Minutes east of Greenwich. Hours may have one digit, and no sign stands for east.
+/// Offset in minutes, positive east of Greenwich. The hours may have one digit; no sign means east.
 std::optional<int> offsetOf(const QString &text)
 {
     static const QRegularExpression pattern(QStringLiteral("^UTC([+-]?)(\\d{1,2}):(\\d{2})$"));
@@ -61,8 +61,7 @@ bool SystemTools::isHost(const QString &text) const
     if (text.contains(QLatin1Char(':')))
         return !text.contains(QLatin1Char('%')) &&
                QHostAddress(text).protocol() == QAbstractSocket::IPv6Protocol;
-    // Names in other scripts have a form in letters, digits and hyphens. The last label is not all digits:
-    // that is an address with a slip.
+    // International names are checked in their ASCII form. A last label of digits only is a mistyped address.
     static const QRegularExpression name(
         QStringLiteral("^(?!-)[a-z0-9-]{1,63}(?<!-)(\\.(?!-)[a-z0-9-]{1,63}(?<!-))*\\.?$"),
         QRegularExpression::CaseInsensitiveOption);

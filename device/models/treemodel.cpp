@@ -354,7 +354,7 @@ void OVTreeModel::resetItems(const QString &type, const QString &searchText)
     QList<Group> groups;
     for (const QVariant &row : rows) {
         const QJsonObject values = row.toJsonObject();
-        if (rowAddress(values).isEmpty()) { // waits for an address by DHCP: no login reaches it
+        if (rowAddress(values).isEmpty()) { // waiting for DHCP: a login is not possible
             ++m_unaddressedCount;
             continue;
         }

@@ -1,4 +1,4 @@
-// Devices as a tree, grouped by type, for the configuration pages.
+// The device tree of the configuration pages, grouped by type.
 #pragma once
 
 #include "device/models/followedmarks.h"
@@ -13,15 +13,14 @@
 
 class CDeviceFactory;
 
-/// Two levels: groups named after a device type ("IPC", "NVR", ...), and in each the devices, named by their
-/// "ipport". Devices with no type text stand with those of type "Other". Groups come in alphabetical
-/// order with "PC-NVR" and then "Other" at the end, since they are no device hardware; devices in the order
-/// of their addresses. The tick of a group covers its devices and is partial when some of them are ticked.
-/// Ticks and results outlive a rebuild. They belong to the name of the row (see rowName()): a device that
-/// gets another address keeps its tick, and one that gets that address does not inherit it.
+/// Two levels: groups named by device type ("IPC", "NVR", ...), each with its devices, named by "ipport". A
+/// device without a type is in the group "Other". Groups are in alphabetical order, with "PC-NVR" and "Other"
+/// last since they are not device hardware. Devices are in address order. The check box of a group covers its
+/// devices; it is partial if only some are checked. Checked states and results survive a rebuild. They belong
+/// to the name of the row (see rowName()): a device keeps them when its address changes, and a device that
+/// takes over an address does not inherit them.
 ///
-/// While only the devices that batches failed with are shown, the groups are the reasons, in alphabetical
-/// order.
+/// With Shown::Failed, the groups are the failure reasons in alphabetical order. Lives on the main thread.
 class OVTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -40,21 +39,21 @@ class OVTreeModel : public QAbstractItemModel
     Q_PROPERTY(int deviceCount READ deviceCount NOTIFY checkedDevicesChanged)
     Q_PROPERTY(Qt::CheckState checkState READ checkState NOTIFY checkedDevicesChanged)
 public:
-    /// "copyRet" beside the results of devices.
+    /// Values of "copyRet" in addition to LoginResult.
     enum Result
     {
         NoResult = -1,
-        WaitsForPassword = -2, ///< the old password was right, and the new one is to come
-        PartlyDone = -3,       ///< done but for what the device cannot do
+        WaitsForPassword = -2, ///< the old password was accepted; the new one is not set yet
+        PartlyDone = -3,       ///< done, except for settings that the device does not support
     };
     Q_ENUM(Result)
 
-    /// Which devices the tree holds.
+    /// Selects the devices of the tree.
     enum Shown
     {
         All,
-        Failed,    ///< those that batches failed with; ends with the last mark of them
-        LoggedOut, ///< those of which the list knows no login, or one that failed
+        Failed,    ///< devices with FailedMarks; reset to All when no mark is left
+        LoggedOut, ///< devices without a login, or whose last login failed
     };
     Q_ENUM(Shown)
 
@@ -62,11 +61,11 @@ public:
     {
         NameRole = Qt::UserRole, ///< "name": text of the node
         IsCheckedRole,           ///< "isChecked": a Qt::CheckState
-        CopyRetRole,     ///< "copyRet": result of what was last done with the device, NoResult at first
-        IdentityRole,    ///< not for the scene: unique text of a device or of a group among its kind
-        FailureRole,     ///< not for the scene: what batches failed with the device, empty when they did not
-        OnlyNotDoneRole, ///< not for the scene: whether no batch failed with the device, see FailedMarks
-        LabelRole,       ///< not for the scene: the address, without the port that most devices have
+        CopyRetRole,             ///< "copyRet": result of the last batch with the device, NoResult initially
+        IdentityRole,    ///< not in roleNames(): unique string of a device, or of a group among the groups
+        FailureRole,     ///< not in roleNames(): failed batches of the device; empty if none
+        OnlyNotDoneRole, ///< not in roleNames(): see FailedMarks::isOnlyNotDone()
+        LabelRole,       ///< not in roleNames(): the address, without the port that most devices have
     };
 
     explicit OVTreeModel(QObject *parent = nullptr);
@@ -78,7 +77,7 @@ public:
     [[nodiscard]] int columnCount(const QModelIndex &parent = QModelIndex()) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
 
-    /// Writes "isChecked" (a bool or a Qt::CheckState; a group passes it on to its devices) or "copyRet".
+    /// Writes "isChecked" (a bool or a Qt::CheckState; a group applies it to its devices) or "copyRet".
     Q_INVOKABLE bool setData(const QModelIndex &index, const QVariant &value, int role) override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
@@ -89,61 +88,60 @@ public:
     [[nodiscard]] Shown shown() const { return m_shown; }
     void setShown(Shown shown);
 
-    /// Of the devices that the filter of the last rebuild leaves, also when they are not shown.
+    /// Among the devices that the filter of the last rebuild accepts, shown or not.
     [[nodiscard]] int loggedOutCount() const { return m_loggedOutCount; }
     [[nodiscard]] int failedCount() const { return m_failedCount; }
 
-    /// Marked devices that the tree cannot show; 0 with a search text, which may hide some.
+    /// The number of marked devices that the tree cannot show; 0 while a search text hides devices.
     [[nodiscard]] int failedElsewhereCount() const;
 
-    /// Devices that the last rebuild left out because they have no address: they wait for one by DHCP.
+    /// Devices that the last rebuild left out because they have no address yet (waiting for DHCP).
     [[nodiscard]] int unaddressedCount() const { return m_unaddressedCount; }
 
-    /// Rebuilds the tree from the IPv4 rows. `type` is "search" (devices that hold `searchText`) or
-    /// "removeuninit" (initialised devices only); other filters of the rows are taken as well.
+    /// Rebuilds the tree from the IPv4 rows. `type` is a filter of filterData(): "search" (devices that
+    /// contain `searchText`), "removeuninit" (initialised devices only) or another one.
     Q_INVOKABLE void resetItems(const QString &type, const QString &searchText);
 
-    /// "ipport" of the ticked devices, in the order of the tree.
+    /// "ipport" of the checked devices, in tree order.
     [[nodiscard]] QStringList checkedDevices() const;
     [[nodiscard]] int checkedCount() const;
-    [[nodiscard]] int checkedUpgradingCount() const; ///< of the ticked ones, as of the last rebuild
+    [[nodiscard]] int checkedUpgradingCount() const; ///< checked devices being upgraded at the last rebuild
     [[nodiscard]] int deviceCount() const;
 
-    /// The same as they are now: the list does not follow the ticks.
+    /// A copy of checkedDevices() that a later check does not change (a QML binding would update).
     Q_INVOKABLE [[nodiscard]] QStringList tickedNow() const { return checkedDevices(); }
 
-    /// Whether these devices are ticked and no others, in whatever order.
+    /// Whether exactly these devices are checked, in any order.
     Q_INVOKABLE [[nodiscard]] bool areTicked(const QStringList &devices) const;
 
     Q_INVOKABLE [[nodiscard]] static QStringList without(const QStringList &devices, const QString &device);
 
-    /// "ipport" and "name" of the ticked devices, or of all while none is ticked, in the order of the tree.
+    /// "ipport" and "name" of the checked devices, or of all devices if none is checked, in tree order.
     Q_INVOKABLE [[nodiscard]] QVariantList devicesToWatch() const;
 
-    /// The tick of the whole tree, as that of a group.
+    /// The state of the check box for the complete tree.
     [[nodiscard]] Qt::CheckState checkState() const;
     Q_INVOKABLE void setAllChecked(bool checked);
 
-    /// Ticks the devices with these identities and no others, also those that a search text hides.
+    /// Checks the devices with these identities, including hidden ones, and unchecks all others.
     Q_INVOKABLE void setCheckedDevices(const QStringList &identities);
 
-    /// Ticks the devices of the tree whose rows have the same value of `key` as that of this device, and no
-    /// other device.
+    /// Checks the devices of the tree whose rows have the same value of `key` as this device, and unchecks
+    /// all others.
     Q_INVOKABLE void checkSimilar(const QString &identity, const QString &key);
 
-    /// Writes "copyRet" of the device that `ipport` names, and of any that shares its address; does nothing
-    /// when the tree has none.
+    /// Sets "copyRet" of the devices with this address and port. Does nothing if the tree has none.
     Q_INVOKABLE void setResult(const QString &ipport, int result);
 
-    /// The same for many devices, and one result for all of them.
+    /// Same for many devices, with one result.
     Q_INVOKABLE void setResultOfAll(const QStringList &ipports, int result);
 
-    /// Writes what a batch has done with many devices, each with the result and the text at its place: -1 is
-    /// shown as WaitsForPassword, and a success with a text as PartlyDone.
+    /// Sets the results of a batch; the lists are parallel. LoginResult::Unknown becomes WaitsForPassword, a
+    /// success with a text becomes PartlyDone.
     Q_INVOKABLE void takeResults(const QStringList &ipports, const QList<int> &results,
                                  const QStringList &texts);
 
-    /// Takes every result back, also of devices that a search text hides.
+    /// Clears all results, including those of hidden devices.
     Q_INVOKABLE void clearResults();
 
 Q_SIGNALS:
@@ -159,7 +157,7 @@ private:
         QString ipport;
         bool checked = false;
         int copyRet = NoResult;
-        QString detail = {}; ///< name and model, the tool tip of the device
+        QString detail = {}; ///< tool tip: name and model
         bool isUpgrading = false;
         bool isLost = false;
     };
@@ -176,7 +174,7 @@ private:
     void takeMarks();
     [[nodiscard]] QVariantList readRows() const;
     void noteUsualPort(const QVariantList &rows);
-    /// Name of the group that a row stands in; empty when it is not shown.
+    /// The group of a row; empty if the row is not shown.
     [[nodiscard]] QString groupNameOf(const QJsonObject &row, const QString &identity) const;
     void countFailed();
     void rememberDevices();
@@ -187,18 +185,17 @@ private:
     [[nodiscard]] QVariant deviceData(const Device &device, int role) const;
     void setDeviceChecked(const QModelIndex &device, bool checked);
 
-    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
+    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before this object
     FollowedMarks m_failedMarks;
     Shown m_shown = All;
     int m_loggedOutCount = 0;
     int m_failedCount = 0;
     int m_unaddressedCount = 0;
     QStringList m_found;  ///< identities of the devices that the last rebuild found, shown or not
-    QString m_usualPort;  ///< of most devices of the tree
-    QString m_filterType; ///< of the last resetItems(), empty before it
+    QString m_usualPort;  ///< ":port" that most devices have
+    QString m_filterType; ///< of the last resetItems(); empty before the first
     QString m_searchText;
     QList<Group> m_groups;
     QMultiHash<QString, std::pair<int, int>> m_places; ///< group and row of each device, by ipport
-    QHash<QString, Device>
-        m_remembered; ///< ticks and results of devices that a search text hides, by identity
+    QHash<QString, Device> m_remembered; ///< checked states and results of hidden devices, by identity
 };

@@ -12,7 +12,7 @@ void DeviceTreeRows::setTree(OVTreeModel *tree)
     if (m_tree) {
         connect(m_tree, &QAbstractItemModel::modelReset, this, &DeviceTreeRows::rebuild);
         connect(m_tree, &QAbstractItemModel::dataChanged, this, &DeviceTreeRows::forward);
-        connect(m_tree, &QObject::destroyed, this, &DeviceTreeRows::rebuild); // of nothing, by then
+        connect(m_tree, &QObject::destroyed, this, &DeviceTreeRows::rebuild); // m_tree is null by then
     }
     rebuild();
     Q_EMIT treeChanged();
@@ -88,7 +88,7 @@ QVariant DeviceTreeRows::data(const QModelIndex &index, int role) const
         return isGroup && m_groups.at(place->group).isOpen;
     case CountRole:
         return isGroup ? m_groups.at(place->group).devices : 0;
-    case IdentityRole: // a device may report the type of a group as its MAC
+    case IdentityRole: // the prefix keeps the MAC of a device apart from the type of a group
         return (isGroup ? QStringLiteral("group ") : QStringLiteral("device ")) +
                fromTree(OVTreeModel::IdentityRole).toString();
     case FailureRole:

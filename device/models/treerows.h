@@ -1,4 +1,4 @@
-// The visible rows of a device tree, for a list view.
+// The visible rows of a device tree as a flat list.
 #pragma once
 
 #include "device/models/treemodel.h"
@@ -9,9 +9,9 @@
 
 #include <optional>
 
-/// A row for each group of an OVTreeModel, and below it one for each of its devices while the group is open.
-/// Groups are open until they are closed, also through a rebuild of the tree. Rows are numbers here, no
-/// objects: a tree of thousands of devices is made and walked at once.
+/// A row for each group of an OVTreeModel, followed by its devices while the group is open. Groups are open
+/// until the user closes them; the state survives a rebuild of the tree. A row is computed from its number
+/// and needs no object, so that a tree of thousands of devices is fast. Lives on the main thread.
 class DeviceTreeRows : public QAbstractListModel
 {
     Q_OBJECT
@@ -20,16 +20,16 @@ public:
     enum Role
     {
         TitleRole = Qt::UserRole, ///< "title": type of a group, address and port of a device
-        LabelRole,                ///< "label": the title without the port that most devices have
+        LabelRole,                ///< "label": the title, without the port that most devices have
         DetailRole,               ///< "detail": name and model of a device
         TickRole,                 ///< "tick": a Qt::CheckState
         ResultRole,               ///< "result": of a device, see OVTreeModel
         IsGroupRole,              ///< "isGroup"
         IsOpenRole,               ///< "isOpen": of a group
         CountRole,                ///< "deviceCount": of a group
-        IdentityRole,             ///< "identity": text by which rowOf() finds the row again
-        FailureRole,              ///< "failure": what batches failed with a device, see OVTreeModel
-        OnlyNotDoneRole,          ///< "onlyNotDone": of a device with a failure, see OVTreeModel
+        IdentityRole,             ///< "identity": unique string, for rowOf()
+        FailureRole,              ///< "failure": failed batches of a device, empty for a group
+        OnlyNotDoneRole,          ///< "onlyNotDone": whether no batch failed, see FailedMarks; device only
     };
 
     explicit DeviceTreeRows(QObject *parent = nullptr) : QAbstractListModel(parent) {}
@@ -41,35 +41,35 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-    // Operations on a row; one that there is not does nothing.
+    // Functions with a row index do nothing, or return an empty value, if it is out of range.
 
     /// Opens or closes a group.
     Q_INVOKABLE void setOpen(int row, bool open);
     Q_INVOKABLE void toggleOpen(int row);
 
-    /// Ticks what is not ticked whole, and unticks what is.
+    /// Checks a row that is not fully checked, and unchecks one that is.
     Q_INVOKABLE void toggleTick(int row);
 
-    /// The row with this identity, -1 when it is not there or its group is closed.
+    /// The row with this identity; -1 if it does not exist or its group is closed.
     Q_INVOKABLE [[nodiscard]] int rowOf(const QString &identity) const;
 
-    /// "ipport" of a device, empty for a group.
+    /// "ipport" of a device; empty for a group.
     Q_INVOKABLE [[nodiscard]] QString deviceAt(int row) const;
 
-    /// Text by which rowOf() finds the row again.
+    /// "identity" of a row, for rowOf().
     Q_INVOKABLE [[nodiscard]] QString identityAt(int row) const;
 
-    /// Name of a device's row, see rowName(); empty for a group.
+    /// The name of a device's row, see rowName(); empty for a group.
     Q_INVOKABLE [[nodiscard]] QString nameAt(int row) const;
 
-    /// The first device from the row `from` on, and then from the top, whose address or detail begins with
-    /// `text`; -1 when there is none. Capitals count as small letters.
+    /// The first device, starting at `from` and wrapping around, whose address or detail starts with `text`;
+    /// -1 if there is none. Ignores case.
     Q_INVOKABLE [[nodiscard]] int rowStarting(const QString &text, int from) const;
 
-    /// The row of the next device below the one at this address and port; -1 when there is none.
+    /// The row of the next device below the device at this address and port; -1 if there is none.
     Q_INVOKABLE [[nodiscard]] int deviceAfter(const QString &ipport) const;
 
-    /// The row of the group that a device stands in; the row itself for a group.
+    /// The row of the group that contains this row; a group returns itself.
     Q_INVOKABLE [[nodiscard]] int groupRowOf(int row) const;
 
 Q_SIGNALS:
@@ -78,7 +78,7 @@ Q_SIGNALS:
 private:
     struct Group
     {
-        int row = 0; ///< where the group stands
+        int row = 0; ///< row of the group itself
         int devices = 0;
         bool isOpen = true;
     };
@@ -89,7 +89,7 @@ private:
     };
 
     void rebuild();
-    void placeGroups(); ///< numbers the rows of the groups again
+    void placeGroups(); ///< recomputes the rows of the groups
     void forward(const QModelIndex &first, const QModelIndex &last);
     [[nodiscard]] std::optional<Place> placeOf(int row) const;
     [[nodiscard]] QModelIndex treeIndex(const Place &place) const;
@@ -97,5 +97,5 @@ private:
     QPointer<OVTreeModel> m_tree;
     QList<Group> m_groups;
     int m_rows = 0;
-    QSet<QString> m_closed; ///< types of the groups that are closed
+    QSet<QString> m_closed; ///< types of the closed groups
 };

@@ -66,7 +66,7 @@ QVariantList WatchedDevices::add(const QVariantList &rows)
         const int first = rowCount();
         beginInsertRows({}, first, first + static_cast<int>(added.size()) - 1);
         m_further.append(added);
-        endInsertRows(); // the scene makes the companions
+        endInsertRows(); // QML creates the companions, which call setChannels()
     }
     Q_EMIT countChanged();
     gather();
@@ -104,7 +104,7 @@ void WatchedDevices::remove(const QString &ipport)
     m_further.removeAt(place);
     endRemoveRows();
     Q_EMIT countChanged();
-    gather(); // one device alone has no heading
+    gather(); // a single device has no heading
 }
 
 void WatchedDevices::clear()

@@ -8,20 +8,21 @@
 
 class CDeviceFactory;
 
-/// The device that the window was opened for, and further ones, which are the rows: for each the scene makes
-/// an object, its companion, that holds its session and reports its channels. Lives on the scene's thread.
+/// The rows are the additional devices; the first device, for which the window was opened, is not a row. For
+/// each row QML creates a companion object, which holds the session of the device and reports its channels.
+/// Lives on the main thread.
 class WatchedDevices : public QAbstractListModel
 {
     Q_OBJECT
     Q_MOC_INCLUDE("device/registry/devicefactory.h")
     Q_PROPERTY(CDeviceFactory *deviceFactory MEMBER m_deviceFactory NOTIFY deviceFactoryChanged)
-    /// The channels of all devices, in the order in which these were added: maps of "ipport", "channel",
-    /// "connected", "name", "caption" (which also tells the devices apart), "companion" (null for the first
-    /// device) and, for the first channel of each of several devices, "heading".
+    /// The channels of all devices, in the order in which the devices were added: maps of "ipport",
+    /// "channel", "connected", "name", "caption" (includes the device if there are several), "companion"
+    /// (null for the first device) and "heading" (only with several devices, for the first channel of each).
     Q_PROPERTY(QVariantList channels READ channels NOTIFY channelsChanged)
     Q_PROPERTY(int most READ most CONSTANT)
     Q_PROPERTY(bool full READ isFull NOTIFY countChanged)
-    Q_PROPERTY(int leftOut MEMBER m_leftOut NOTIFY countChanged) ///< of those that were to be added last
+    Q_PROPERTY(int leftOut MEMBER m_leftOut NOTIFY countChanged) ///< rows that the last add() had no room for
 public:
     explicit WatchedDevices(QObject *parent = nullptr) : QAbstractListModel(parent) {}
 
@@ -30,25 +31,24 @@ public:
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override; ///< "ipport" and "name"
 
     [[nodiscard]] const QVariantList &channels() const { return m_channels; }
-    [[nodiscard]] static constexpr int most() { return 15; } ///< further devices
+    [[nodiscard]] static constexpr int most() { return 15; } ///< maximum number of additional devices
     [[nodiscard]] bool isFull() const { return m_further.size() >= most(); }
 
-    /// The device that the window was opened for. `channels` are maps of "channel" (from 0), "name" and
-    /// "connected".
+    /// Sets the first device. `channels` are maps of "channel" (from 0), "name" and "connected".
     Q_INVOKABLE void setFirst(const QString &ipport, const QString &name, const QVariantList &channels);
 
-    /// Adds those of the rows that are not there yet, as far as there is room. Returns the places of their
-    /// first channels.
+    /// Adds the rows (maps of "ipport", "name" and "model") that are not in the model yet, up to most().
+    /// Returns the indexes in `channels` of the first channel of each added device, if it is known already.
     Q_INVOKABLE QVariantList add(const QVariantList &rows);
 
-    /// What a companion knows of its channels, as in setFirst().
+    /// Sets the channels that a companion has read, in the format of setFirst().
     Q_INVOKABLE void setChannels(const QString &ipport, QObject *companion, const QVariantList &channels);
 
-    /// The channels go before the companion: their pictures are of its session.
+    /// Removes a device. Its channels are removed first, since their streams use the companion's session.
     Q_INVOKABLE void remove(const QString &ipport);
     Q_INVOKABLE void clear();
 
-    /// Takes the names that the further devices have in the list now.
+    /// Updates the names of the additional devices from the device list.
     Q_INVOKABLE void readNames();
 
 Q_SIGNALS:
@@ -66,11 +66,11 @@ private:
     };
 
     [[nodiscard]] qsizetype
-    placeOf(const QString &ipport) const; ///< in m_further, -1 when it is none of them
+    placeOf(const QString &ipport) const; ///< row; -1 if it is not an additional device
     [[nodiscard]] QString titleOf(const Device &device) const;
     void gather();
 
-    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
+    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before this object
     Device m_first;
     QList<Device> m_further;
     QVariantList m_channels;
