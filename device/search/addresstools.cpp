@@ -26,7 +26,7 @@ bool AddressTools::mayBecomeAddress(const QString &text) const
 bool AddressTools::mayBecomeMask(const QString &text) const
 {
     const QString wanted = text.trimmed();
-    bool isBeginning = isLegalMask(wanted); // perhaps with leading zeros
+    bool isBeginning = isLegalMask(wanted); // accepts leading zeros
     for (int hosts = 1; hosts < 32 && !isBeginning; ++hosts)
         isBeginning = ipv4Text(~((std::uint32_t(1) << hosts) - 1)).startsWith(wanted);
     return isBeginning;
@@ -51,7 +51,7 @@ QString AddressTools::gatewayAfterEdit(const QString &before, const QString &aft
     const QStringList old = before.split(point);
     const QStringList now = after.split(point);
     QStringList octets = gateway.isEmpty() ? QStringList() : gateway.split(point);
-    // What is not an octet, not even the beginning of one, stays out of the gateway.
+    // A text that is not a number up to 255 is not copied to the gateway.
     const auto isOctet = [](const QString &text) {
         constexpr int largest = 255;
         bool isNumber = false;
@@ -79,7 +79,7 @@ QString AddressTools::webPage(const QString &ipport, int webPort, bool encrypted
     QString host = ipport.section(QLatin1Char(':'), 0, -2);
     if (host.startsWith(QLatin1Char('[')) && host.endsWith(QLatin1Char(']')))
         host = host.sliced(1, host.size() - 2);
-    // Never a name: where a name leads is not the device's to say.
+    // Host names are refused: a device must not choose where a name leads.
     const bool isAddress = ipv4Number(host) || host.contains(QLatin1Char(':'));
     if (!isAddress || webPort < 1 || webPort > highestPort)
         return {};

@@ -2,12 +2,12 @@
 
 #include <QObject>
 
-/// The scene's way to address checks and arithmetic.
+/// Address checks and arithmetic for QML. Stateless; used on the main thread.
 class AddressTools : public QObject
 {
     Q_OBJECT
 public:
-    /// What is wrong with a search range; the values of SearchRangeFault for the scene.
+    /// Error of a search range; the values of SearchRangeFault for QML.
     enum RangeFault
     {
         NoFault = 0,
@@ -23,30 +23,31 @@ public:
     /// True for four decimal octets, each 0 to 255.
     Q_INVOKABLE [[nodiscard]] bool isLegalAddress(const QString &text) const;
 
-    /// Whether an address, or a subnet mask, may begin like this: a text that is being typed is not wrong
-    /// yet. Also true for a whole one, and for an empty text.
+    /// Whether the text is a valid address (or subnet mask) or the start of one, for input that is being
+    /// typed. True for an empty text.
     Q_INVOKABLE [[nodiscard]] bool mayBecomeAddress(const QString &text) const;
     Q_INVOKABLE [[nodiscard]] bool mayBecomeMask(const QString &text) const;
 
-    /// The address as a number, each octet shifted left by 8 × (3 − its position); 0 for text that is no
-    /// address. A double, because the scene's integers are signed.
+    /// The address as a 32-bit number, first octet highest; 0 if `text` is not an address. A double, because
+    /// QML's int is signed.
     Q_INVOKABLE [[nodiscard]] double toNumber(const QString &text) const;
 
-    /// True for a subnet mask: ones from the left, then zeros, and at least one of each.
+    /// Whether the text is a subnet mask: ones from the left, then zeros, at least one of each.
     Q_INVOKABLE [[nodiscard]] bool isLegalMask(const QString &text) const;
 
-    /// The gateway that follows an edit of an address: octets 1 to 3 that the edit changed are copied into
-    /// it, and a change of octet 4 makes its last octet "1". Octets that the gateway lacks are taken from the
-    /// address. The texts may be unfinished.
+    /// The gateway after an edit of an address from `before` to `after`: changed octets 1 to 3 are copied to
+    /// the gateway, a changed octet 4 sets its last octet to "1". Missing octets of the gateway are taken
+    /// from the address. The texts may be incomplete.
     Q_INVOKABLE [[nodiscard]] QString gatewayAfterEdit(const QString &before, const QString &after,
                                                        const QString &gateway) const;
 
-    /// The address of a device's web page, from "address:port" of the device and the port of its web server;
-    /// `encrypted` when it is known to be, or by the port for it. Empty when `ipport` or the port is none.
+    /// The URL of a device's web page: the address of `ipport` ("address:port") with `webPort`. HTTPS if
+    /// `encrypted` or if `webPort` is 443. Empty if `ipport` has no IP address or the port is invalid.
     Q_INVOKABLE [[nodiscard]] QString webPage(const QString &ipport, int webPort, bool encrypted) const;
 
-    /// An address without leading zeros; the text as it is when it is no address.
+    /// An address without leading zeros; any other text is returned unchanged.
     Q_INVOKABLE [[nodiscard]] QString plainAddress(const QString &text) const;
 
+    /// Checks the bounds of a search range.
     Q_INVOKABLE [[nodiscard]] RangeFault searchRangeFault(const QString &begin, const QString &end) const;
 };

@@ -27,20 +27,20 @@ namespace {
 constexpr auto refreshAddressesWait = 3000ms;
 constexpr const char *anyInterface = "0.0.0.0";
 
-/// Devices restart their network after a new address, and a datagram may get lost. Both kinds of request are
-/// made twice.
+/// Both kinds of request are sent twice: devices restart their network after an address change, and datagrams
+/// may be lost.
 constexpr int usualAttempts = 4;
 constexpr auto refreshStartWait = 1000ms;
 constexpr auto refreshListeningTime = 3000ms;
 
-/// Requests that are made side by side, each of which waits for its whole time.
+/// Requests in parallel; each blocks for its full timeout.
 constexpr std::size_t requestsAtOnce = 16;
 
-/// The devices of one start() whose rows are not up to date yet. Thread-safe.
+/// The devices of one start() whose rows are not updated yet. Thread-safe.
 class WaitingDevices
 {
 public:
-    /// `addresses` by the name of the row.
+    /// `addresses` by row name.
     explicit WaitingDevices(const QHash<QString, QString> &addresses) : m_addresses(addresses) {}
 
     [[nodiscard]] std::vector<sdk::SearchByAddressesRequest> requests() const
@@ -60,7 +60,7 @@ public:
         return requests;
     }
 
-    /// The address that the row of a device has that is waited for: empty when it is not known.
+    /// The address of a waiting device's row, empty if unknown; nullopt if the device is not waiting.
     [[nodiscard]] std::optional<QString> addressOf(const QString &name) const
     {
         const std::scoped_lock lock(m_mutex);
@@ -107,7 +107,7 @@ struct ResponseReceiver
         const std::optional<QString> address = waiting.addressOf(name);
         if (!address || !store.updateRow(name, answer, *address))
             return;
-        // After a first password some devices report the old state for a moment.
+        // After initialisation, some devices report the old state for a moment.
         if (isInitialised(answer.device))
             waiting.remove(name);
         rowChanged();
@@ -179,7 +179,7 @@ void DeviceRefresh::start(const QStringList &names)
     m_tasks.removeIf([](const QFuture<void> &task) { return task.isFinished(); });
     m_tasks.append(QtConcurrent::run([this, devices, stop = m_stop.get_token()] {
         sdk::giveWayToWindow();
-        // The task mostly waits: its thread must not count against those that the pool keeps for work.
+        // The task mostly sleeps: its thread does not count against the limit of the pool.
         QThreadPool::globalInstance()->releaseThread();
         const auto takeThreadBack = qScopeGuard([] { QThreadPool::globalInstance()->reserveThread(); });
         run(devices, usualAttempts, stop);
@@ -207,7 +207,7 @@ void DeviceRefresh::run(const QHash<QString, QString> &devices, int attempts, co
                                                 anyInterface, refreshAddressesWait);
             }
         };
-        std::vector<std::jthread> others; // they end before the attempt does
+        std::vector<std::jthread> others; // joined at the end of the attempt
         for (std::size_t count = 1; count < std::min(requests.size(), requestsAtOnce); ++count)
             others.emplace_back(askInTurn);
         askInTurn();

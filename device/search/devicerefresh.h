@@ -14,37 +14,37 @@ class DeviceStore;
 template<typename T>
 class QFuture;
 
-/// Queries listed devices again, each at the address of its row, after work that changed what the row shows.
-/// A device that does not respond there is then searched by its MAC in the local segment: its row takes the
-/// address that it reports. Only the response of the device itself counts; its row and search record take
-/// over what it reports. Ticks and results of work stay.
+/// Queries devices of the list again after work that changed values in their rows. Each device is queried at
+/// the address of its row. A device that does not respond is searched by MAC in the local segment, and its
+/// row gets the reported address. Only a response of the device itself updates its row and search record.
+/// Checked states and results are kept.
 ///
-/// Lives on the scene's thread. Each start is one task on the process-wide worker pool.
+/// Lives on the main thread. Each start() is one task on the global thread pool.
 class DeviceRefresh : public QObject
 {
     Q_OBJECT
 public:
     DeviceRefresh(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries);
 
-    /// Waits for the running tasks, which it ends.
+    /// Stops the running tasks and waits for them.
     ~DeviceRefresh() override;
 
-    /// Makes running tasks end at their next step, without waiting for them.
+    /// Stops running tasks at their next step, without waiting.
     void requestStop();
 
-    /// `names` are the names of rows. Devices behind a tunnel and those with an IPv6 address are left out: no
-    /// search of IPv4 addresses reaches them. A device that does not respond, or is not initialised yet, is
-    /// queried again up to three times, within 12 s for up to 4096 devices, and 3 s more by its MAC. Returns
-    /// at once.
+    /// Queries the devices of these rows and returns immediately. Skips devices behind a tunnel and devices
+    /// with an IPv6 address, which these queries do not reach. A device that does not respond, or is not
+    /// initialised yet, is queried up to four times, in 12 s for up to 4096 devices, and then searched by MAC
+    /// for 3 s.
     void start(const QStringList &names);
 
-    /// The same with one query, on the caller's thread, which may be any other: returns within 6 s for up to
-    /// 4096 devices. A name without a row is the MAC or the UUID of a device that is no longer listed: it is
-    /// searched by that, and gets a row when it responds.
+    /// Same with a single query, on the caller's thread, which must not be the main thread. Blocks up to 6 s
+    /// for up to 4096 devices. A name without a row is the MAC or UUID of a device that was removed from the
+    /// list: it is searched by that, and gets a row when it responds.
     void locate(const QStringList &names, const std::stop_token &stop);
 
 Q_SIGNALS:
-    void rowsChanged(); ///< from threads of the network library, once for each response
+    void rowsChanged(); ///< emitted on threads of the network library, once for each response
 
 private:
     [[nodiscard]] QHash<QString, QString> addressesOf(const QStringList &names) const;

@@ -16,11 +16,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// How long sending a request may take.
+// Timeout for sending a request.
 constexpr auto startWait = 4ms;
 
-// The local segment is asked three times, since a device may miss a single datagram, and is listened to for a
-// while after the last one.
+// Three requests to the local segment, since a device may miss a datagram, then time to receive responses.
 constexpr auto pauseBetweenRequests = 1000ms;
 constexpr auto listeningTime = 3000ms;
 
@@ -31,7 +30,7 @@ constexpr const char *anyLocalAddress = "0.0.0.0";
 
 } // namespace
 
-/// How far a search is, by the time of its waits.
+/// Progress of a search: the elapsed share of its waiting times.
 class DeviceSearch::Progress
 {
 public:
@@ -83,15 +82,14 @@ void DeviceSearch::start(bool localSegment)
     if (m_stop.stop_requested() && !m_isEnding)
         m_stop = std::stop_source();
     m_searches.removeIf([](const QFuture<void> &search) { return search.isFinished(); });
-    // The range is taken here, so that one that is set while another search runs belongs to the next one
-    // alone.
+    // The range is moved into the task: a range that is set during a search belongs to the next search only.
     m_searches.append(QtConcurrent::run([this, localSegment, range = std::exchange(m_range, {}),
                                          stop = m_stop.get_token()] { run(localSegment, range, stop); }));
 }
 
 void DeviceSearch::run(bool localSegment, const SearchRange &range, const std::stop_token &stop)
 {
-    // A search mostly waits: its thread must not count against those that the pool keeps for work.
+    // A search mostly sleeps: its thread does not count against the limit of the pool.
     QThreadPool::globalInstance()->releaseThread();
     const auto takeThreadBack = qScopeGuard([] { QThreadPool::globalInstance()->reserveThread(); });
     sdk::giveWayToWindow();
@@ -174,8 +172,8 @@ void DeviceSearch::keepHandle(std::int64_t handle)
 
 void DeviceSearch::stopHandles()
 {
-    // Taken out under the lock and stopped outside it: stopping waits for handlers, and they must not wait
-    // for us.
+    // Handles are stopped without the lock: NetStopSearchDevices() waits for handlers, which may take the
+    // lock.
     QList<std::int64_t> handles;
     {
         const std::scoped_lock lock(m_mutex);

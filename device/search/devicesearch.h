@@ -15,38 +15,38 @@ class DeviceStore;
 template<typename T>
 class QFuture;
 
-/// Finds the devices of the local segment and of a range of other segments. Each search is one task on the
-/// process-wide worker pool; answers arrive on threads of the network library and go straight into the store.
+/// Finds the devices of the local segment and of a range of addresses. Each search is one task on the global
+/// thread pool. Responses arrive on threads of the network library and are written to the store directly.
 ///
-/// Lives on the scene's thread. Signals come from the worker and from threads of the library.
+/// Lives on the main thread. Signals are emitted on the task's thread and on threads of the library.
 class DeviceSearch : public QObject
 {
     Q_OBJECT
 public:
     DeviceSearch(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries);
 
-    /// Waits for the tasks of running searches, which it ends.
+    /// Stops running searches and waits for their tasks.
     ~DeviceSearch() override;
 
-    /// Ends running searches at their next step, without waiting for them: what was found stays, and done()
-    /// is emitted. The wait for a list of addresses, up to 3 s, is not cut short.
+    /// Stops running searches at their next step, without waiting. Found devices are kept and done() is
+    /// emitted. A running query of addresses (up to 3 s) is not interrupted.
     void stop();
 
-    /// The same, but nothing is emitted any more.
+    /// Same, and emits no further signal.
     void requestStop();
 
-    /// The range of the next search that is started, and of that one only.
+    /// Sets the range of the next start() only.
     void setRange(SearchRange range);
 
-    /// Empties the store and starts a search; `localSegment` tells whether the local segment is searched. A
-    /// search that is still running goes on beside it: both fill the same lists.
+    /// Clears the store and starts a search of the range and, with `localSegment`, of the local segment. A
+    /// search that is still running continues: both fill the same store.
     void start(bool localSegment);
 
 Q_SIGNALS:
     void rowsAdded();
     void counted(int ipv4Rows);
-    void limited(int rows, int leftOut); ///< at the end: `leftOut` answers came after so many rows
-    void progressed(int percent);        ///< of the time that a search takes, 0 to 100
+    void limited(int rows, int leftOut); ///< at the end: `leftOut` responses exceeded the limit of `rows`
+    void progressed(int percent);        ///< elapsed share of the search time, 0 to 100
     void done();
 
 private:
@@ -62,11 +62,11 @@ private:
 
     const std::shared_ptr<DeviceStore> m_store;
     const sdk::SdkLibraries m_libraries;
-    std::atomic<bool> m_isEnding = false; ///< the receivers of the signals are being destroyed
-    std::stop_source m_stop;              ///< of the searches that run
+    std::atomic<bool> m_isEnding = false; ///< no further signals: the receivers are being destroyed
+    std::stop_source m_stop;              ///< of the running searches
     QList<QFuture<void>> m_searches;
     SearchRange m_range; ///< of the next search
 
-    std::mutex m_mutex;            ///< guards what follows, which every running search uses
+    std::mutex m_mutex;            ///< guards m_handles, which all running searches use
     QList<std::int64_t> m_handles; ///< running local searches
 };

@@ -32,7 +32,7 @@ std::vector<sdk::SearchByAddressesRequest> searchRequests(const SearchRange &ran
     for (std::uint32_t block = 0; block < blocks; ++block) {
         const std::uint32_t last = std::min(first | 0xFFU, range.end);
         if (last < first)
-            break; // the end lies in front of the begin although its third octet does not
+            break; // octet 4 of the end is less than that of the begin in the same block
         sdk::SearchByAddressesRequest &request = requests.emplace_back();
         request.size = sizeof(request);
         request.count = static_cast<std::int32_t>(last - first + 1);

@@ -1,4 +1,4 @@
-// The range of addresses in other segments that a search may ask one by one.
+// The address range of a search outside the local segment.
 #pragma once
 
 #include "sdk/searchblocks.h"
@@ -8,30 +8,29 @@
 #include <cstdint>
 #include <vector>
 
-/// First and last address, in host order (ipv4Number). A zero in either means that no range is set.
+/// First and last address in host byte order (see ipv4Number()). Zero in either means that no range is set.
 struct SearchRange
 {
     std::uint32_t begin = 0;
     std::uint32_t end = 0;
 };
 
-/// What is wrong with a range that the user entered. The numbers are those of the messages.
+/// Error of a range that the user entered. The numbers are those of the messages.
 enum class SearchRangeFault
 {
     None = 0,
     BeginAboveEnd = 1,
-    TooManySegments = 2, ///< other first octets, or more than maximumSegmentDistance between the third ones
+    TooManySegments = 2, ///< different octet 1 or 2, or octets 3 differ by more than maximumSegmentDistance
     BeginIsNoAddress = 3,
     EndIsNoAddress = 4,
 };
 
-/// By how much the third octet of the end may exceed that of the begin. Inclusive: 17 segments are searched.
+/// Maximum difference between the third octets of end and begin; 16 means 17 segments.
 inline constexpr int maximumSegmentDistance = 16;
 
-/// Checks the texts of a range in the order in which the user is told.
+/// Checks the bounds of a range. Returns the first error in the order in which the user sees them.
 [[nodiscard]] SearchRangeFault searchRangeFault(QStringView begin, QStringView end);
 
-/// The requests that cover a range, one for each /24 block of it. Empty when a bound is zero or the third
-/// octet of the end lies below that of the begin. The number of blocks comes from the third octets alone; the
-/// first two are not compared, since only ranges that pass searchRangeFault() are asked for.
+/// The requests for a range, one for each /24 block. Empty if a bound is zero or octet 3 of the end is less
+/// than that of the begin. Octets 1 and 2 are not compared: the range must have passed searchRangeFault().
 [[nodiscard]] std::vector<sdk::SearchByAddressesRequest> searchRequests(const SearchRange &range);

@@ -14,7 +14,7 @@ using sdk::SearchInterfaceReport;
 using sdk::SearchObstacle;
 using sdk::SearchReport;
 
-/// What has been added to a count since; the library may have begun to count again.
+/// Difference of two counter values; the library may have reset the counter in between.
 std::uint32_t added(std::uint32_t now, std::uint32_t before)
 {
     return now >= before ? now - before : now;
@@ -25,7 +25,7 @@ constexpr std::uint32_t obstacleBit(SearchObstacle obstacle)
     return 1U << static_cast<std::uint32_t>(obstacle);
 }
 
-/// Obstacles of requests to groups only.
+/// Obstacles that only multicast requests can have.
 constexpr std::uint32_t groupObstacles = obstacleBit(SearchObstacle::NoMulticast) |
                                          obstacleBit(SearchObstacle::SendFailed) |
                                          obstacleBit(SearchObstacle::NoAnswer);
@@ -36,7 +36,7 @@ std::span<SearchInterfaceReport> addressesOf(SearchReport &report)
         .first(std::min<std::size_t>(report.count, sdk::maximumReportedInterfaces));
 }
 
-/// Takes what the address had counted before from its counts.
+/// Subtracts the counters of an address before the search.
 void subtract(SearchInterfaceReport &address, const SearchInterfaceReport &before)
 {
     address.requestsSent = added(address.requestsSent, before.requestsSent);
@@ -46,7 +46,7 @@ void subtract(SearchInterfaceReport &address, const SearchInterfaceReport &befor
         address.discarded[reason] = added(address.discarded[reason], before.discarded[reason]);
 }
 
-/// Takes from the report of a search without requests to groups what the library had counted `before`.
+/// Subtracts the counters before a search without multicast requests, and removes multicast obstacles.
 void subtract(SearchReport &report, SearchReport &before)
 {
     report.addressesAsked = added(report.addressesAsked, before.addressesAsked);
@@ -119,7 +119,7 @@ void SearchReports::end(int devices, bool isStopped)
     m_isDismissed = false;
     m_isStopped = isStopped;
     if (!isStopped) {
-        // A search that was stopped, or one of other networks, finds fewer devices for that reason.
+        // A stopped search, or one of other networks, is not comparable.
         if (m_scope == m_countedScope)
             m_missing = std::max(0, m_countedDevices - devices);
         m_countedScope = m_scope;

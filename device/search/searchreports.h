@@ -13,27 +13,26 @@ class NetLibrary;
 struct SearchReport;
 } // namespace sdk
 
-/// The report of the last search of the window, to explain a list that is empty or has become shorter. Lives
-/// on the scene's thread.
+/// The report of the last search for QML, to explain an empty or shorter device list. Lives on the main
+/// thread.
 class SearchReports : public QObject
 {
     Q_OBJECT
-    /// Whether there is a report.
+    /// Whether a report exists.
     Q_PROPERTY(bool available READ isAvailable NOTIFY changed)
-    /// Devices fewer than the search of the same networks has found before; 0 if it is not known or
-    /// dismissed.
+    /// How many devices fewer than in the previous search of the same networks; 0 if unknown or dismissed.
     Q_PROPERTY(int missing READ missing NOTIFY changed)
-    /// Whether the last search was stopped before its end, and the user has not dismissed that.
+    /// Whether the last search was stopped and the user has not dismissed the message.
     Q_PROPERTY(bool incomplete READ isIncomplete NOTIFY changed)
     Q_PROPERTY(QString summary READ summary NOTIFY changed)
-    /// The IPv4 networks of this computer that were searched, "192.168.1.0/24, 10.0.0.0/8"; empty if unknown.
+    /// The IPv4 networks of the host that were searched, "192.168.1.0/24, 10.0.0.0/8"; empty if unknown.
     Q_PROPERTY(QString networks READ networks NOTIFY changed)
-    /// Maps of "title", "lines" (maps of "label" and "value") and "obstacles" (of "text" and "advice").
+    /// Maps of "title", "lines" (maps of "label" and "value") and "obstacles" (maps of "text" and "advice").
     Q_PROPERTY(QVariantList blocks READ blocks NOTIFY changed)
-    /// The whole report as plain text.
+    /// The complete report as plain text.
     Q_PROPERTY(QString text READ text NOTIFY changed)
 public:
-    /// `net` may be null: then there is never a report.
+    /// `net` may be null: no report exists then.
     explicit SearchReports(std::shared_ptr<sdk::NetLibrary> net, QObject *parent = nullptr);
     ~SearchReports() override;
 
@@ -45,13 +44,13 @@ public:
     [[nodiscard]] QVariantList blocks() const;
     [[nodiscard]] QString text() const;
 
-    /// A search begins: of the local segment, and of the addresses that `range` names if it is not empty.
+    /// Called when a search starts. `range` is the text of the address range, empty if there is none.
     Q_INVOKABLE void begin(bool localSegment, const QString &range);
 
-    /// The search has ended, by itself or stopped, with so many `devices`.
+    /// Called when the search has ended or was stopped. `devices` is the number of devices found.
     Q_INVOKABLE void end(int devices, bool isStopped);
 
-    /// The user has seen that devices are missing, or that the search was stopped.
+    /// Hides the messages about missing devices and a stopped search.
     Q_INVOKABLE void dismiss();
 
 Q_SIGNALS:
@@ -61,11 +60,11 @@ private:
     [[nodiscard]] bool read(sdk::SearchReport &report) const;
 
     const std::shared_ptr<sdk::NetLibrary> m_net;
-    QString m_scope; ///< equal texts are equal networks
-    /// What was counted before the search. Null with the local segment: the library then begins again.
+    QString m_scope; ///< key of the searched networks
+    /// Counters before the search. Null with the local segment: the library resets its counters then.
     std::unique_ptr<sdk::SearchReport> m_before;
-    QString m_countedScope;   ///< of the last search that was not stopped
-    int m_countedDevices = 0; ///< of that search
+    QString m_countedScope;   ///< m_scope of the last search that was not stopped
+    int m_countedDevices = 0; ///< devices of that search
     int m_devices = 0;
     int m_missing = 0;
     bool m_isStopped = false;

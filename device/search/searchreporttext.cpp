@@ -21,7 +21,7 @@ constexpr std::uint32_t bit(SearchObstacle obstacle)
     return 1U << static_cast<std::uint32_t>(obstacle);
 }
 
-/// The sum of a number over the addresses of an interface.
+/// The sum of a counter over the addresses of an interface.
 template<typename Number>
 quint64 sumOf(const QList<SearchInterfaceReport> &addresses, const Number &number)
 {
@@ -30,8 +30,8 @@ quint64 sumOf(const QList<SearchInterfaceReport> &addresses, const Number &numbe
         [&number](quint64 sum, const SearchInterfaceReport &address) { return sum + number(address); });
 }
 
-/// The obstacles of an interface by those of its addresses. An address without an answer is no obstacle while
-/// another one has answers.
+/// Combines the obstacles of an interface's addresses. NoAnswer is dropped if another address has received
+/// messages.
 std::uint32_t obstaclesOf(const QList<SearchInterfaceReport> &addresses)
 {
     std::uint32_t obstacles = 0;
@@ -39,7 +39,7 @@ std::uint32_t obstaclesOf(const QList<SearchInterfaceReport> &addresses)
         obstacles |= address.obstacles;
     if (sumOf(addresses, [](const SearchInterfaceReport &address) { return address.messagesReceived; }) > 0)
         obstacles &= ~bit(SearchObstacle::NoAnswer);
-    // What follows from another obstacle is not said beside it.
+    // Consequences of a more basic obstacle are left out.
     if ((obstacles & bit(SearchObstacle::InterfaceDown)) != 0)
         return bit(SearchObstacle::InterfaceDown);
     if ((obstacles & bit(SearchObstacle::NoLink)) != 0)
@@ -47,7 +47,7 @@ std::uint32_t obstaclesOf(const QList<SearchInterfaceReport> &addresses)
     return obstacles;
 }
 
-/// Whether requests could leave from an address.
+/// Whether requests could be sent from an address.
 bool wasSearched(const SearchInterfaceReport &address)
 {
     return (address.obstacles & (bit(SearchObstacle::InterfaceDown) | bit(SearchObstacle::NoLink) |
@@ -128,7 +128,7 @@ SearchReportBlock SearchReportText::interfaceBlock(const QList<SearchInterfaceRe
     QStringList texts;
     int sendError = 0;
     for (const SearchInterfaceReport &address : addresses) {
-        // The system writes the interface behind a link-local address; it is the title already.
+        // Qt appends "%interface" to a link-local address; the interface is the title already.
         const QString text = fieldText(address.address).section(QLatin1Char('%'), 0, 0);
         if (!text.isEmpty())
             texts.append(text + QLatin1Char('/') + QString::number(address.prefixLength));

@@ -1,4 +1,4 @@
-// The report of a search in words.
+// Formats the report of a search as text in the user's language.
 #pragma once
 
 #include <QCoreApplication>
@@ -10,7 +10,7 @@ struct SearchInterfaceReport;
 struct SearchReport;
 } // namespace sdk
 
-// The parts of a report, in the user's language.
+// Parts of a report.
 
 struct SearchReportLine
 {
@@ -21,10 +21,10 @@ struct SearchReportLine
 struct SearchReportObstacle
 {
     QString text = {};
-    QString advice = {}; ///< what the user can do
+    QString advice = {}; ///< instruction for the user
 };
 
-/// An interface, or what concerns all of them.
+/// A section: one interface, or one topic of all interfaces.
 struct SearchReportBlock
 {
     QString title = {};
@@ -32,21 +32,22 @@ struct SearchReportBlock
     QList<SearchReportObstacle> obstacles = {};
 };
 
+/// Formats search reports. Stateless.
 class SearchReportText
 {
     Q_DECLARE_TR_FUNCTIONS(SearchReportText)
 public:
-    /// A block for each interface with all its addresses, then one for the addresses that were asked one by
-    /// one and one for devices of other networks. A number that says nothing has no line.
+    /// A block for each interface with its addresses, one for the addresses queried one by one, and one for
+    /// devices of other networks. Zero counters that have no meaning are left out.
     [[nodiscard]] static QList<SearchReportBlock> blocksOf(const sdk::SearchReport &report);
 
-    /// The IPv4 networks of the interfaces, each once.
+    /// The IPv4 networks of the interfaces without duplicates, comma-separated.
     [[nodiscard]] static QString networksOf(const sdk::SearchReport &report);
 
-    /// What the search has found, in a sentence. `missing` are the devices fewer than the time before.
+    /// One sentence on the number of devices. `missing` is the decrease since the previous search.
     [[nodiscard]] static QString summaryOf(int devices, int missing);
 
-    /// The blocks as one text, each under its title.
+    /// All blocks as plain text.
     [[nodiscard]] static QString textOf(const QList<SearchReportBlock> &blocks);
 
 private:

@@ -73,7 +73,7 @@ void DeviceWork::end(int number, const SceneOutcome &outcome)
     if (outcome.take)
         outcome.take();
     m_isTaking = false;
-    if (number != m_number) // a handler of the signals has begun other work
+    if (number != m_number) // a signal handler has started other work
         return;
     setRunning(false);
     Q_EMIT ended(outcome.value);

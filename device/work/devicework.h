@@ -1,4 +1,4 @@
-// Work with a device that a page or a dialog waits for, while the window goes on.
+// Work with one device on another thread, for a page or dialog.
 #pragma once
 
 #include "device/registry/scenestep.h"
@@ -11,17 +11,16 @@
 
 class CDeviceFactory;
 
-/// One piece of work at a time, on a thread of the back end. The one that is begun last counts: an earlier
-/// one is cancelled, as it is with the end of this object. What is cancelled goes on to its next safe point
-/// without anybody waiting for it; its results are dropped, and a login that it has made is logged out.
+/// Runs one piece of work at a time on a thread of the back end. Starting work cancels the previous one, and
+/// so does the destructor. Cancelled work continues to its next safe point in the background; its outcome is
+/// dropped, and its login is logged out.
 ///
-/// Nothing here blocks its caller, and no lock is held over a request. Work on the current session uses a
-/// copy of what is known of the device. Until its end the factory's getters return what was known before;
-/// then, in one turn of the event loop, the results take their place, the factory emits all signals of the
-/// work in their order, and ended() follows. Work for one page that is to be done in a row is begun in a
-/// handler of ended().
+/// No function blocks, and no lock is held during a request. Work on the current session uses a copy of the
+/// session's state. When it ends, in one turn of the event loop, the copy replaces the state, the factory
+/// emits the signals of the work in order, and ended() follows. Until then the factory's getters return the
+/// previous state. Start a sequence of work from a handler of ended().
 ///
-/// Lives on the scene's thread.
+/// Lives on the main thread.
 class DeviceWork : public QObject
 {
     Q_OBJECT
@@ -37,40 +36,41 @@ public:
     void setDeviceFactory(CDeviceFactory *deviceFactory);
     [[nodiscard]] bool isRunning() const { return m_isRunning; }
 
-    /// Logs in to a device and requests everything that it reports of itself; the value is what the
-    /// factory's readDeviceDetail() returns.
+    /// Logs in to a device and reads its details. The value of ended() is that of
+    /// CDeviceFactory::readDeviceDetail().
     Q_INVOKABLE void readDetail(const QString &ipport);
 
-    /// Logs in to a device and adds its row: "mode" (0 by address, 1 by P2P ID), "address", "port", "account"
-    /// and "password". The value is a map of "result" (a LoginResult) and "text", in the user's language,
-    /// where there is more to say. A row that was added before the cancellation took effect is reported like
-    /// any other new row.
+    /// Logs in to a device and adds its row. Keys of `device`: "mode" (0 by address, 1 by P2P ID), "address",
+    /// "port", "account" and "password". The value of ended() is a map of "result" (a LoginResult) and "text"
+    /// (a message in the user's language, may be empty). A row that was added before a cancellation is
+    /// reported by the factory like any other new row.
     Q_INVOKABLE void addDevice(const QVariantMap &device);
 
-    /// Drops what runs: ended() does not come.
+    /// Drops the running work: ended() is not emitted.
     Q_INVOKABLE void cancel();
 
 Q_SIGNALS:
     void deviceFactoryChanged();
     void runningChanged();
-    void ended(const QVariant &value);
+    void ended(const QVariant &value); ///< `value` depends on the work
 
 protected:
+    /// Starts work and cancels the running one.
     void begin(const SceneStep &step);
 
-    /// The signals of a work that has ended are being emitted.
+    /// True while the outcome of work is applied and its signals are emitted.
     [[nodiscard]] bool isTaking() const { return m_isTaking; }
 
-    /// The factory has changed from `before`, which may be null.
+    /// Called after the factory has changed from `before`, which may be null.
     virtual void changeFactory(CDeviceFactory *before);
 
 private:
     void end(int number, const SceneOutcome &outcome);
     void setRunning(bool isRunning);
 
-    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
+    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before this object
     std::stop_source m_stop;
-    int m_number = 0; ///< of the work that counts
+    int m_number = 0; ///< of the current work; outcomes with another number are dropped
     bool m_isRunning = false;
     bool m_isTaking = false;
 };

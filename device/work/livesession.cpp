@@ -33,7 +33,7 @@ void LiveSession::open(const QString &ipport, const QString &account, const QStr
     m_stop = std::stop_source();
     const OwnSessionStep step = m_deviceFactory->ownSessionStep(
         dhFamily, {.ipport = ipport, .account = account, .password = password, .present = m_session});
-    // Dropped with the work, which logs out of a session that nobody has taken.
+    // If the work is dropped, the offer is destroyed and logs out.
     const auto offer = std::make_shared<OwnSessionOffer>();
     m_deviceFactory->runForScene(
         dhFamily,

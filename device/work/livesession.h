@@ -1,4 +1,4 @@
-// A session of the live window's own, beside that of the configuration pages.
+// A session of the live window, separate from that of the configuration pages.
 #pragma once
 
 #include "device/registry/ownsession.h"
@@ -12,10 +12,10 @@
 
 class CDeviceFactory;
 
-/// Logs in to a device for the scene while the window goes on, and holds the login until close() or its own
-/// end. The order that is given last counts; what comes of an earlier one is dropped and logged out.
+/// Logs in to a device for QML on a thread of the back end, and keeps the login until close() or the
+/// destructor. A new open() replaces an earlier one, whose result is dropped and logged out.
 ///
-/// Lives on the scene's thread.
+/// Lives on the main thread.
 class LiveSession : public QObject
 {
     Q_OBJECT
@@ -30,37 +30,38 @@ public:
     [[nodiscard]] CDeviceFactory *deviceFactory() const;
     void setDeviceFactory(CDeviceFactory *deviceFactory);
 
-    /// Of the login, 0 while there is none.
+    /// Login handle of the device library; 0 without a session.
     [[nodiscard]] qint64 handle() const { return m_session ? m_session->handle() : 0; }
-    /// The same for the scene, whose whole numbers go up to 2^53.
+    /// Same for QML, whose numbers are exact up to 2^53.
     [[nodiscard]] double handleNumber() const { return static_cast<double>(handle()); }
 
     /// Keeps the present session if the device responds in it, otherwise logs in. ended() follows, unless
-    /// another order comes first.
+    /// open() or close() is called before.
     Q_INVOKABLE void open(const QString &ipport, const QString &account, const QString &password);
 
-    /// Takes a picture of a channel, from 0, in the present session, see OwnSession. pictureTaken() follows,
-    /// unless the session is closed first.
+    /// Saves an image of a channel (from 0) of the present session to `folder`, see OwnSession.
+    /// pictureTaken() follows, unless the session is closed before.
     Q_INVOKABLE void takePicture(int channel, const QString &folder);
 
-    /// Logs out, and gives up what open() and takePicture() began.
+    /// Logs out and cancels open() and takePicture().
     Q_INVOKABLE void close();
 
 Q_SIGNALS:
     void deviceFactoryChanged();
     void handleChanged();
-    /// `result` is a LoginResult. The present session stays when a device does not answer.
+    /// `result` is a LoginResult. A present session is kept if the device does not respond. `channels` as in
+    /// CDeviceBase::signalCDeviceSessionOpened().
     void ended(int result, const QVariantList &channels);
-    /// `path` is a "file:///" address, empty on failure; `message` then says why in the user's language.
+    /// `path` is a "file:///" URL, empty on failure; `message` is then the reason in the user's language.
     void pictureTaken(int channel, const QString &path, const QString &message);
 
 private:
     void take(const OwnSessionOffer &offer);
     void setSession(const std::shared_ptr<OwnSession> &session);
 
-    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
+    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before this object
     std::stop_source m_stop;
     std::stop_source m_pictureStop;
     std::shared_ptr<OwnSession> m_session;
-    int m_number = 0; ///< of the order that counts
+    int m_number = 0; ///< of the latest open(); results with another number are dropped
 };
