@@ -1,11 +1,11 @@
-// One changed value of the camera image page, and how it gets into a field.
+// Conversion of a changed value of the image page to a field of a camera item.
 #pragma once
 
 #include "device/dh/camera/cameravalues.h"
 
 #include <span>
 
-/// Where a change stands and what is to become of it. All that it refers to must outlive it.
+/// One change by the user. All references must outlive it.
 struct CameraChange
 {
     const QString &subKey;
@@ -17,11 +17,11 @@ struct CameraChange
     [[nodiscard]] bool isPlain() const { return subKey.isEmpty() || is("value"); }
     [[nodiscard]] CameraLists lists() const { return {tables, state.capabilities}; }
 
-    /// Each of these returns false, with the field unchanged, for a value that is none.
-    /// A number is brought into its range, a slider's into the one that the device told.
+    // Each of these functions converts `value` and writes it to `field`. It returns false, and leaves `field`
+    // unchanged, if `value` is invalid. Numbers are clamped to `range`; slider() clamps to usableRange().
     [[nodiscard]] bool number(sdk::ValueRange range, std::int32_t &field) const;
     [[nodiscard]] bool slider(sdk::ValueRange told, std::int32_t &field) const;
     [[nodiscard]] bool choice(const OfferedValues &offered, std::int32_t &field) const;
     [[nodiscard]] bool oneOf(std::span<const int> numbers, std::int32_t &field) const;
-    [[nodiscard]] bool shutter(float &field) const; ///< in milliseconds
+    [[nodiscard]] bool shutter(float &field) const; ///< exposure time in milliseconds
 };

@@ -40,7 +40,7 @@ Writes changePicture(const Change &change)
                            (change.is("saturationSlider") && change.slider(range, item.saturation)) ||
                            (change.is("hue") && change.slider(range, item.hue)) ||
                            (change.is("gamma") && change.slider(range, item.gamma));
-    if (isChanged) // the configuration tells of the same picture
+    if (isChanged) // the item and the configuration hold the same values
         state.picture = state.colorOfMode() = item;
     return when(isChanged, {CameraWrite::Picture});
 }
@@ -121,7 +121,7 @@ Writes changeBackLight(const Change &change)
     return when(isChanged, {CameraWrite::BackLight});
 }
 
-/// Through the second copy.
+/// Changes the mode in the second copy of the item.
 Writes changeBackLightMode(const Change &change)
 {
     CameraState &state = change.state;
@@ -149,7 +149,7 @@ Writes changeDayNight(const Change &change)
     const bool isChanged = (change.is("Type") && change.choice(change.lists().dayNightTypes, item.type)) ||
                            (change.is("Sensitivity") && change.number(sensitivities, item.sensitivity)) ||
                            (change.is("SwitchDelay") && change.number(switchDelays, item.switchDelay));
-    if (isChanged) { // the second copy's mode is the one that was chosen for it
+    if (isChanged) { // the mode of the second copy is selected separately
         const std::int32_t mode = state.dayNightByMode.mode;
         state.dayNightByMode = item;
         state.dayNightByMode.mode = mode;
@@ -157,7 +157,7 @@ Writes changeDayNight(const Change &change)
     return when(isChanged, {CameraWrite::DayNight});
 }
 
-/// Through the second copy: the mode is what its settings are written for.
+/// Changes the mode in the second copy of the item: its settings apply to that mode.
 Writes changeDayNightMode(const Change &change)
 {
     return when(change.choice({change.tables.DayNightModeNames, ~0u}, change.state.dayNightByMode.mode),
@@ -204,7 +204,7 @@ Writes changeMixedLight(const Change &change)
     return {CameraWrite::MixedLight, CameraWrite::Lighting};
 }
 
-/// Changes one number of the configuration's picture, and the item's with it.
+/// Changes one value in the configuration "VideoColor" and in the picture item.
 Writes changeColor(const Change &change, std::int32_t sdk::PictureItem::*field, sdk::ValueRange range,
                    CameraWrite write)
 {
@@ -219,7 +219,7 @@ Writes setDefaults(const Change &change)
 {
     CameraState &state = change.state;
     const sdk::ValueRange range = usableRange(state.capabilities.picture);
-    const std::int32_t middle = std::midpoint(range.minimum, range.maximum); // of any range, also the widest
+    const std::int32_t middle = std::midpoint(range.minimum, range.maximum); // does not overflow
     constexpr std::int32_t standardStyle = 2;
     sdk::PictureItem &item = state.picture;
     item.colorStyle = standardStyle;
@@ -238,13 +238,13 @@ Writes changeChannelName(const Change &change)
     sdk::ChannelNameItem &item = change.state.channelName;
     item.size = sizeof(item);
     sdk::setBlockText(item.name, name.toStdString());
-    change.state.isChannelNameRead = true; // the name is all that is in the item
+    change.state.isChannelNameRead = true; // the item has no other value
     return {CameraWrite::ChannelName};
 }
 
 struct Changer
 {
-    std::optional<sdk::CameraGroup> group; ///< that the camera must support
+    std::optional<sdk::CameraGroup> group; ///< group that the camera must support
     Writes (*change)(const Change &);
 };
 

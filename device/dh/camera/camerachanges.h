@@ -1,16 +1,16 @@
-// What a changed value of the camera image page does to the state, and what is to be written for it.
+// Changes of the image settings, and the writes that they need.
 #pragma once
 
 #include "device/dh/camera/cameravalues.h"
 
 #include <QList>
 
-/// One write to the device.
+/// One write request to the device.
 enum class CameraWrite
 {
     Picture,
-    ColorRecord, ///< the item of the picture, written with the pictures of all modes
-    VideoColor,  ///< configuration
+    ColorRecord, ///< picture item written as the record of all modes
+    VideoColor,  ///< configuration "VideoColor"
     Sharpness,
     Mirror,
     Stable,
@@ -28,12 +28,13 @@ enum class CameraWrite
     ChannelName,
 };
 
-/// Whether a change of `key` changes the configuration "VideoColor" in the state, or writes it.
+/// Whether a change of `key` changes the configuration "VideoColor" in the state or on the device.
 [[nodiscard]] bool changesColor(const QString &key);
 
-/// Changes `state` and returns the writes in their order. Nothing, with the state unchanged, for an unknown
-/// key or sub-key, a group that the camera does not support, or a value that is none; numbers out of the
-/// camera's range are brought into it. A sub-key may be left out where a group has one value only.
+/// Applies a change to `state` and returns the writes in their order. Returns an empty list and leaves
+/// `state` unchanged for an unknown key or sub-key, a group that the camera does not support, or an invalid
+/// value. Numbers are clamped to the camera's range. The sub-key may be empty for a group with a single
+/// value.
 [[nodiscard]] QList<CameraWrite> changeCamera(const QString &key, const QString &subKey,
                                               const QVariant &value, const ValueTables &tables,
                                               CameraState &state);

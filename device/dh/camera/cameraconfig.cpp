@@ -36,7 +36,7 @@ int CameraConfig::readCapabilities(int channel)
         result = deviceAway;
         break;
     }
-    // A mode that this camera does not know gives way to its first.
+    // If the camera does not have the selected mode, its first mode is selected.
     const OfferedValues modes = CameraLists(m_tables, m_state.capabilities).switchModes;
     if (modes.placeOf(static_cast<int>(m_state.mode)) < 0)
         m_state.mode = static_cast<sdk::CameraMode>(modes.valueAt(0).value_or(0));
@@ -61,24 +61,24 @@ void CameraConfig::chooseMode(const QVariant &place)
     if (!isNumber || !mode || m_state.mode == static_cast<sdk::CameraMode>(*mode))
         return;
     m_state.mode = static_cast<sdk::CameraMode>(*mode);
-    m_state.unreadGroups = CameraState::allGroups; // the items are those of the mode before
+    m_state.unreadGroups = CameraState::allGroups; // the items belong to the previous mode
 }
 
 CameraConfig::Outcome CameraConfig::setValue(const QString &key, const QVariant &value, const QString &subKey,
                                              int channel)
 {
     if (key == QLatin1String("curSwitchMode")) {
-        chooseMode(value); // the page reads the items of the mode itself
+        chooseMode(value); // the page reads the items of the new mode
         return Outcome::Taken;
     }
     CameraState changed = m_state;
-    // Others change it too, so it is read before it is written.
+    // Read-modify-write: other clients may have changed it.
     if (key == QLatin1String("inDefog") && m_state.supports(sdk::CameraGroup::Defog) &&
         !readDefog(m_session, channel, changed)) {
         m_lastError = static_cast<int>(m_session.lastError());
         return m_session.isDeviceAway() ? Outcome::Unanswered : Outcome::Refused;
     }
-    // The encode page reads another channel's, which must not be written to this one.
+    // The color record may be that of another channel, which the encode page has read.
     if (changesColor(key) && m_state.supports(sdk::CameraGroup::Picture) && m_state.colorChannel != channel &&
         readVideoColor(m_session, channel, changed) == CameraReading::Unanswered) {
         m_lastError = deviceAway;
@@ -95,7 +95,7 @@ CameraConfig::Outcome CameraConfig::setValue(const QString &key, const QVariant 
             continue;
         isTaken = false;
         m_lastError = static_cast<int>(m_session.lastError());
-        if (m_session.isDeviceAway()) // the next write would only wait again
+        if (m_session.isDeviceAway()) // further writes would time out as well
             return Outcome::Unanswered;
     }
     if (!isTaken)
@@ -106,7 +106,7 @@ CameraConfig::Outcome CameraConfig::setValue(const QString &key, const QVariant 
 
 CameraConfig::Outcome CameraConfig::takeFailure(int channel, CameraState &changed)
 {
-    // Of several writes some may have been taken: the device knows.
+    // Some of the writes may have succeeded: read the values from the device.
     const CameraReading reading = readCameraCapabilities(m_session, channel, changed);
     if (reading == CameraReading::Unanswered)
         return Outcome::Unanswered;

@@ -1,4 +1,4 @@
-// The camera image configuration of the logged-in device.
+// The image settings of the logged-in device.
 #pragma once
 
 #include "device/dh/camera/camerastate.h"
@@ -6,48 +6,49 @@
 
 #include <QVariant>
 
-/// The camera of one channel of the current session's device. Every change goes to the device at once. A
-/// value; a copy works on the same device. Blocks for the waits of the library. One thread at a time.
+/// The image settings of one channel of the current session's device. Changes are written to the device
+/// immediately. A value type; a copy works on the same device. Blocks for the timeouts of the device library.
+/// Not thread-safe.
 class CameraConfig
 {
 public:
-    /// What came of a change.
+    /// Result of setValue().
     enum class Outcome
     {
-        Ignored, ///< no such setting or value, or one that was not read: nothing was asked of the device
+        Ignored, ///< unknown setting, invalid value, or not read: no request was sent
         Taken,
-        Refused,    ///< by the device; the values are again those that it has
-        Unanswered, ///< the device is away; the values are those that it had
+        Refused,    ///< by the device; the values have been read again
+        Unanswered, ///< the device does not respond; the values are unchanged
     };
 
     /// `tables` must outlive this object and its copies.
     explicit CameraConfig(const ValueTables &tables);
 
-    /// Turns to a new session; nothing is known of its device yet.
+    /// Sets the session and clears all values.
     void begin(const ConfigSession &session);
 
-    /// Another channel was chosen: the values that are there are not its own, and count as not read until
-    /// readCapabilities() and readItems() have read them.
+    /// Marks all items as not read, after another channel was selected. readCapabilities() and readItems()
+    /// read them.
     void forgetItems();
 
     /// Reads the configuration "VideoColor" of a channel.
     void readColor(int channel);
 
-    /// Reads what the camera of a channel can do, and its configurations. Returns 0; otherwise every
-    /// group says that it is not supported, and the result is that of a device that is away, or 10.
+    /// Reads the capabilities and configurations of a channel. Returns 0 on success. Otherwise no group is
+    /// supported, and the result is deviceAway or capabilitiesUnknown (10).
     [[nodiscard]] int readCapabilities(int channel);
 
-    /// Reads the values of a channel and the chosen mode. Returns 0, or the result of a device that is away.
+    /// Reads the items of a channel in the selected mode. Returns 0 or deviceAway.
     [[nodiscard]] int readItems(int channel);
 
-    [[nodiscard]] QVariant value(const QString &key) const;
+    [[nodiscard]] QVariant value(const QString &key) const; ///< see cameraValue()
     Outcome setValue(const QString &key, const QVariant &value, const QString &subKey, int channel);
 
-    /// The library's error of the last change that was refused or not answered.
+    /// The device library's error of the last Refused or Unanswered change.
     [[nodiscard]] int lastError() const { return m_lastError; }
 
 private:
-    /// Of the writes that `changed` needs some failed.
+    /// Reads the values again after some of several writes have failed.
     Outcome takeFailure(int channel, CameraState &changed);
     void chooseMode(const QVariant &place);
 

@@ -1,9 +1,9 @@
-// One write to a camera.
+// Executes one write request to a camera.
 #pragma once
 
 #include "device/dh/camera/camerachanges.h"
 
-/// Made for one change and gone after it. Blocks for the wait of the library.
+/// Temporary object for the writes of one change. Blocks for the timeout of the device library.
 class CameraJob
 {
 public:
@@ -13,7 +13,7 @@ public:
     {
     }
 
-    /// Returns false when the device does not take it; the log says why.
+    /// Returns false, and logs the error, if the device does not accept the write.
     [[nodiscard]] bool run(CameraWrite write) const;
 
 private:

@@ -1,4 +1,4 @@
-// The lists that the camera image page offers, each as far as the camera knows its values.
+// Lists of choices of the image page.
 #pragma once
 
 #include "device/dh/encode/valuetables.h"
@@ -7,19 +7,20 @@
 
 #include <optional>
 
-/// The names of the values whose bits are set, in the order of the values. A page sees places in it; what has
-/// no name is not offered.
+/// The choices that a camera supports: the names whose bit is set in a mask, in the order of the values.
+/// Values without a name are left out. A page uses indexes of this list.
 class OfferedValues
 {
 public:
+    /// `names` by value; bit n of `mask` is value n.
     OfferedValues(const QStringList &names, std::uint32_t mask);
 
     [[nodiscard]] const QStringList &names() const { return m_names; }
 
-    /// The place of a value, -1 when it is not offered.
+    /// The index of a value; -1 if it is not offered.
     [[nodiscard]] int placeOf(int value) const { return static_cast<int>(m_values.indexOf(value)); }
 
-    /// The value at a place; nothing for a place outside.
+    /// The value at an index; nullopt if the index is out of range.
     [[nodiscard]] std::optional<int> valueAt(int place) const;
 
 private:
@@ -27,7 +28,7 @@ private:
     QList<int> m_values;
 };
 
-/// Translated names, by value.
+/// Translated names by value.
 namespace CameraNames {
 [[nodiscard]] QStringList antiFlickerTypes();
 [[nodiscard]] QStringList exposureTypes();

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// What a read needs, and what is sent back: size, and the mode where there is one.
+/// Fills in the request fields of an item: size, and mode if it has one.
 template<typename Item>
 void address(Item &item, [[maybe_unused]] sdk::CameraMode mode)
 {
@@ -14,7 +14,7 @@ void address(Item &item, [[maybe_unused]] sdk::CameraMode mode)
         item.mode = static_cast<std::int32_t>(mode);
 }
 
-/// Returns false, with the item zeroed but for its size and mode, when it cannot be read.
+/// Returns false on failure; the item is then zero except for its request fields.
 template<typename Item>
 bool readItem(const ConfigSession &session, sdk::CameraItem number, int channel, sdk::CameraMode mode,
               Item &item)
@@ -28,11 +28,11 @@ bool readItem(const ConfigSession &session, sdk::CameraItem number, int channel,
         return false;
     }
     item = read;
-    address(item, mode); // whatever the device filled in
+    address(item, mode); // the device may have overwritten the request fields
     return true;
 }
 
-/// The record is zero when it cannot be had.
+/// Reads a configuration. The record is zero on failure.
 template<typename Record>
 CameraReading readConfiguration(const ConfigSession &session, const char *name, int channel, Record &record)
 {
@@ -85,7 +85,7 @@ CameraReading readCameraCapabilities(const ConfigSession &session, int channel, 
 bool readCameraItems(const ConfigSession &session, int channel, CameraState &state)
 {
     state.unreadGroups = 0;
-    bool isAway = false; // every further item would wait for nothing
+    bool isAway = false; // further requests would time out as well
     const auto isRead = [&](sdk::CameraGroup group, sdk::CameraItem number, auto &item) {
         if (state.has(group) && !isAway) {
             if (readItem(session, number, channel, state.mode, item))

@@ -1,24 +1,24 @@
-// What is known about the camera of one channel, and how it is read.
+// The state of one camera channel, and functions that read it.
 #pragma once
 
 #include "device/dh/session/configsession.h"
 #include "sdk/camerablocks.h"
 
-/// Items hold for `mode`; those of groups that the camera does not support are zero.
+/// State read from one camera channel. The items belong to `mode`; items of unsupported groups are zero.
 struct CameraState
 {
     static constexpr std::uint32_t allGroups = ~0u;
 
     sdk::CameraMode mode = sdk::CameraMode::Day;
     sdk::CameraCapabilities capabilities{};
-    std::uint32_t unreadGroups = allGroups; ///< a bit for each group whose item was not read: it is not known
-    bool isNoiseReductionRead = false;      ///< the second item of the exposure
+    std::uint32_t unreadGroups = allGroups; ///< bit n: the item of group n was not read
+    bool isNoiseReductionRead = false;      ///< noise reduction is a second item of the group Exposure
     bool isChannelNameRead = false;
     sdk::VideoColorRecord color{};
-    int colorChannel = 0; ///< that the record was read of, or asked of
+    int colorChannel = 0; ///< channel of `color`
     sdk::LightingRecord lighting{};
     bool isColorKnown =
-        false; ///< otherwise the record must not be written: it would undo what it does not know
+        false; ///< whether `color` was read; otherwise writing it would overwrite unknown values
     bool isLightingKnown = false;
     sdk::ChannelNameItem channelName{};
 
@@ -29,10 +29,10 @@ struct CameraState
     sdk::ExposureItem exposure{};
     sdk::NoiseReductionItem noiseReduction{};
     sdk::BackLightItem backLight{};
-    sdk::BackLightItem backLightByMode{}; ///< second copy, for the choice of the mode alone
+    sdk::BackLightItem backLightByMode{}; ///< second copy, for changes of the mode only
     sdk::WhiteBalanceItem whiteBalance{};
     sdk::DayNightItem dayNight{};
-    sdk::DayNightItem dayNightByMode{}; ///< second copy, for the choice of the mode alone
+    sdk::DayNightItem dayNightByMode{}; ///< second copy, for changes of the mode only
     sdk::DefogItem defog{};
     sdk::LightItem light{};
     sdk::MixedLightItem mixedLight{};
@@ -43,13 +43,13 @@ struct CameraState
         return (capabilities.groups >> static_cast<std::uint32_t>(group) & 1) != 0;
     }
 
-    /// Whether it has the group and the group's item was read.
+    /// Whether the camera has the group and its item was read.
     [[nodiscard]] bool supports(sdk::CameraGroup group) const
     {
         return has(group) && (unreadGroups >> static_cast<std::uint32_t>(group) & 1) == 0;
     }
 
-    /// The picture of the current mode in the configuration.
+    /// The picture values of the current mode in the configuration "VideoColor".
     [[nodiscard]] sdk::PictureItem &colorOfMode() { return color.pictures[static_cast<std::size_t>(mode)]; }
     [[nodiscard]] const sdk::PictureItem &colorOfMode() const
     {
@@ -57,32 +57,32 @@ struct CameraState
     }
 };
 
-/// Size of the texts of "VideoColor" and "Lighting_V2", and how long they may take.
+/// Maximum size of the texts of "VideoColor" and "Lighting_V2", and the timeout for each.
 inline constexpr std::uint32_t cameraTextSize = 4096;
 inline constexpr std::chrono::milliseconds cameraTextWait{3000};
 
-/// How a reading ended.
+/// Result of a read.
 enum class CameraReading
 {
     Done,
-    Refused,    ///< by the device, or not to be understood
-    Unanswered, ///< the device is away; what follows was not asked for
+    Refused,    ///< refused by the device, or the response is invalid
+    Unanswered, ///< the device does not respond; further requests were not sent
 };
 
-/// Reads the configuration "VideoColor", which is unknown when it cannot be had.
+/// Reads the configuration "VideoColor" of a channel. `state.isColorKnown` is false on failure.
 CameraReading readVideoColor(const ConfigSession &session, int channel, CameraState &state);
 
-/// Reads what the camera can do, its configurations and its channel's name; items and mode stay. Refused says
-/// that the device does not tell what the camera can do: no group is supported then. A configuration or a
-/// name that is refused is unknown.
+/// Reads capabilities, configurations and channel name; items and mode are unchanged. Refused: the device
+/// does not report its capabilities, and no group is supported. A refused configuration or name is marked as
+/// unknown.
 [[nodiscard]] CameraReading readCameraCapabilities(const ConfigSession &session, int channel,
                                                    CameraState &state);
 
-/// Reads the items of the groups that the camera has, for the current mode. A group whose item cannot be read
-/// counts as one that is not supported until it is read, since its other values would be lost by writing one.
-/// Returns false when the device is away.
+/// Reads the items of the camera's groups for the current mode. A group whose item cannot be read counts as
+/// unsupported until it is read, since writing one value would overwrite its other values. Returns false if
+/// the device does not respond.
 [[nodiscard]] bool readCameraItems(const ConfigSession &session, int channel, CameraState &state);
 
-/// Reads the item that is read again each time before it is changed. Returns false, with the state unchanged,
-/// when it cannot be read.
+/// Reads the defog item, which is read again before each change. Returns false, and leaves the state
+/// unchanged, on failure.
 [[nodiscard]] bool readDefog(const ConfigSession &session, int channel, CameraState &state);

@@ -247,7 +247,7 @@ const QHash<QString, ValueOf> &values()
     return table;
 }
 
-/// Settings of groups that a camera may lack, by the keys of the values.
+/// A setting that cameras with its group may lack.
 struct LackableSetting
 {
     QLatin1StringView group;
@@ -293,7 +293,7 @@ constexpr std::array lackableSettings = {
                     sdk::CameraValue::DefogIntensity},
 };
 
-/// The settings of a group that the camera lacks.
+/// The settings of a group that this camera lacks.
 QStringList missingSettings(const QString &group, std::uint32_t missingValues)
 {
     QStringList missing;

@@ -1,4 +1,4 @@
-// The values of the camera image page by key.
+// The values of the image page by key.
 #pragma once
 
 #include "device/dh/camera/cameralists.h"
@@ -6,7 +6,7 @@
 
 #include <QVariant>
 
-/// The lists of a camera.
+/// The lists of choices of a camera.
 struct CameraLists
 {
     CameraLists(const ValueTables &tables, const sdk::CameraCapabilities &capabilities);
@@ -22,13 +22,14 @@ struct CameraLists
     OfferedValues mixedLights;
 };
 
-/// A range as a page can use it, whatever the device says.
+/// A reported range if it is valid, otherwise 0 to 100.
 [[nodiscard]] sdk::ValueRange usableRange(sdk::ValueRange told);
 
-/// What a page shows for a key; invalid for one that is not read, and for a channel's name that was not read.
+/// The value of a key of the image page. Invalid for an unknown key, and for a channel name that was not
+/// read.
 ///
-/// The key of a group gives a map: "support", "unread" for a group that the camera has but did not give, the
-/// values under the sub-keys that they are set by, the lists
-/// ("allExposureType", ...), and under "ranges" a map {"min", "max"} for each sub-key of a slider. A value
-/// that is chosen from a list is its place there, -1 for none.
+/// The key of a group returns a map with "support" (bool), "unread" (bool: the camera has the group but it
+/// could not be read), the values by sub-key, the lists ("allExposureType", ...), "ranges" (map of {"min",
+/// "max"} by sub-key of each slider) and "missing" (sub-keys that the camera lacks; only if there are any). A
+/// value that is chosen from a list is an index, -1 if it is not in the list.
 [[nodiscard]] QVariant cameraValue(const QString &key, const CameraState &state, const ValueTables &tables);

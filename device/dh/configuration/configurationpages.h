@@ -1,4 +1,4 @@
-// The configuration pages: their operations on the current session's device.
+// Operations of the configuration pages on the current session.
 #pragma once
 
 #include "device/dh/configuration/sessionrun.h"
@@ -11,22 +11,23 @@
 class CurrentSession;
 class PageHold;
 
-/// Lives on the scene's thread; its steps run on any other.
+/// Executes the operations of the configuration pages. Lives on the main thread; its steps run on any thread.
 class ConfigurationPages
 {
 public:
     ConfigurationPages(sdk::SdkLibraries libraries, const PageHold &hold, CurrentSession &session,
                        BackEndSignals &backEndSignals);
 
-    /// Does operations on this thread, which they block for the device, and emits their signals.
+    /// Executes operations on the calling thread, blocks it for the device's responses, and emits their
+    /// signals.
     void perform(const std::function<void(SessionOperations &operations)> &operations);
 
-    /// As CDeviceBase::sessionStep().
+    /// See CDeviceBase::sessionStep().
     [[nodiscard]] SceneStep step(const SessionJob &job);
 
-    /// As SessionOperations::getConfigData(), and the keys "loginHandle", the current session's handle or 0,
-    /// which may be read on any thread, "sessionDevice", its address and port, and "library", a map of what
-    /// the network library can do at all.
+    /// See SessionOperations::getConfigData(). Additional keys: "loginHandle" (handle of the current session
+    /// or 0; any thread), "sessionDevice" (its address and port) and "library" (a map of the capabilities of
+    /// the network library).
     [[nodiscard]] QVariant value(const QString &key, const QVariant &channel) const;
 
 private:

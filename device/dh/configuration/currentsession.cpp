@@ -21,7 +21,7 @@ void CurrentSession::begin(const QString &ipport, const QString &account, const 
     m_ipport = ipport;
     m_account = account;
     m_password = password;
-    m_sharedHandle = login.handle; // before the other is logged out: snapshots go on in the new session
+    m_sharedHandle = login.handle; // set before the logout: running snapshots continue in the new session
     m_state->begin(ConfigSession(m_libraries, login.handle), ipport, login.channelCount);
     if (before != 0)
         m_threads.logOutLater({before});

@@ -1,4 +1,4 @@
-// The one login that configuration, live view and snapshots use.
+// The login of the configuration pages, the live view and the snapshots.
 #pragma once
 
 #include "device/dh/configuration/sessionstate.h"
@@ -14,42 +14,42 @@
 class SessionThreads;
 struct SecureLogin;
 
-/// On the scene's thread, unless an operation says otherwise.
+/// The current session and its state. Lives on the main thread; functions for other threads say so.
 class CurrentSession
 {
 public:
     CurrentSession(sdk::SdkLibraries libraries, SessionThreads &threads);
 
-    /// Takes over a login in place of the present one, which is logged out later.
+    /// Replaces the present login, which is logged out in the background.
     void begin(const QString &ipport, const QString &account, const QString &password,
                const SecureLogin &login);
 
-    /// Logs out. Blocks for the device.
+    /// Logs out and clears the state. Blocks for the device.
     void end();
 
-    [[nodiscard]] std::int64_t handle() const { return m_handle; } ///< 0 while there is none
+    [[nodiscard]] std::int64_t handle() const { return m_handle; } ///< 0 without a session
     [[nodiscard]] const QString &ipport() const { return m_ipport; }
     [[nodiscard]] const QString &account() const { return m_account; }
     [[nodiscard]] const QString &password() const { return m_password; }
     [[nodiscard]] int channelCount() const { return m_state->channels.channelCount; }
 
-    /// Whether the session is with the device at this address.
+    /// Whether a session with this address and port exists.
     [[nodiscard]] bool isWith(const QString &ipport) const { return m_handle != 0 && m_ipport == ipport; }
 
-    /// handle() for any thread.
+    /// handle(); any thread.
     [[nodiscard]] std::int64_t sharedHandle() const { return m_sharedHandle; }
 
-    /// Rises when another device is logged in to. Any thread.
+    /// Counter that is incremented by a login to another device. Any thread.
     [[nodiscard]] int deviceGeneration() const { return m_deviceGeneration; }
 
-    /// What is known of the device.
+    /// The state read from the device.
     [[nodiscard]] SessionState &state() { return *m_state; }
     [[nodiscard]] const SessionState &state() const { return *m_state; }
 
-    /// Puts a copy of state() that was worked with in its place.
+    /// Replaces state() by a changed copy of it.
     void setState(const std::shared_ptr<SessionState> &state) { m_state = state; }
 
-    /// Of the values that the pages show. They live as long as this object.
+    /// Tables for the values of the pages. They live as long as this object.
     [[nodiscard]] const ValueTables &tables() const { return m_tables; }
 
 private:

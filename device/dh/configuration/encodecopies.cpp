@@ -18,8 +18,7 @@ EncodeCopies::EncodeCopies(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries
 
 void EncodeCopies::copyTo(const QStringList &devices)
 {
-    // All of them are made before the first one runs: the page may change its channel while a signal is being
-    // looked at.
+    // All steps are made before the first runs: a receiver of the signal may change the page's channel.
     const DeviceStepMaker stepFor = steps();
     QList<DeviceStep> copies;
     for (const QString &ipport : devices)
@@ -31,7 +30,7 @@ void EncodeCopies::copyTo(const QStringList &devices)
 
 DeviceStepMaker EncodeCopies::steps()
 {
-    // All steps share what is copied, which is large.
+    // All steps share the settings, which are large.
     const auto state = std::make_shared<const std::optional<EncodeState>>(m_session.state().encode.state());
     return [this, state, channels = m_session.state().channels](const QString &ipport) -> DeviceStep {
         return [this, ipport, state, channels,

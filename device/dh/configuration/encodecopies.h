@@ -1,4 +1,4 @@
-// Copying the encode settings of the current session's device to others.
+// Copies the encode settings of the current session's device to other devices.
 #pragma once
 
 #include "device/dh/encode/encodecopy.h"
@@ -17,9 +17,9 @@ class DeviceLogins;
 class DeviceStore;
 struct DeviceAccount;
 
-/// The settings of the current channel go to the channel of the same number of each device. What a device
-/// cannot do is skipped, and named in its row's "result". Lives on the scene's thread; its steps run on any
-/// other.
+/// Copies the settings of the current channel to the channel with the same number of each device. Settings
+/// that a device does not support are skipped and listed in "result" of its row. Lives on the main thread;
+/// its steps run on any thread.
 class EncodeCopies
 {
     Q_DECLARE_TR_FUNCTIONS(EncodeCopies)
@@ -27,14 +27,15 @@ public:
     EncodeCopies(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries, const DeviceLogins &logins,
                  UpgradeCheck isUpgradingAt, const CurrentSession &session, BackEndSignals &backEndSignals);
 
-    /// Blocks for the devices, which are named by address and port.
+    /// Copies to devices by address and port, one after another. Blocks for the devices. Emits
+    /// signalCDeviceRetToCopyConfig for each.
     void copyTo(const QStringList &devices);
 
-    /// Of copyTo(), as CDeviceBase::encodeCopy().
+    /// See CDeviceBase::encodeCopy().
     [[nodiscard]] DeviceStepMaker steps();
 
 private:
-    /// On any thread.
+    /// Any thread.
     [[nodiscard]] EncodeCopyOutcome copyTo(const QString &ipport, const DeviceAccount &credentials,
                                            const EncodeState &state, const ChannelChoice &channels,
                                            const StepControl &control) const;

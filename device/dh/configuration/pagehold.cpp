@@ -13,7 +13,7 @@ PageHold::PageHold(std::shared_ptr<DeviceStore> store, std::shared_ptr<BatchEngi
 
 BatchEngine::Hold PageHold::hold(const QString &ipport, const StepControl &control) const
 {
-    // The step of an upgrade takes minutes. What would disturb it is refused instead.
+    // An upgrade step takes minutes: callers refuse conflicting requests instead of waiting.
     if (m_isUpgradingAt(ipport))
         return {};
     return m_engine->hold(workKey(m_store->rowAt(ipport), ipport, ipport), control.stopToken());

@@ -1,4 +1,4 @@
-// Keeping the steps of batches away from a device that a page works with.
+// Reserves a device for a page.
 #pragma once
 
 #include "device/batch/batchengine.h"
@@ -9,14 +9,15 @@
 
 class DeviceStore;
 
-/// Thread-safe.
+/// Reservations of devices against batch steps. Thread-safe.
 class PageHold
 {
 public:
     PageHold(std::shared_ptr<DeviceStore> store, std::shared_ptr<BatchEngine> engine,
              UpgradeCheck isUpgradingAt);
 
-    /// On any thread but the scene's: it waits for the step that runs, until `control` is stopped.
+    /// Reserves a device; blocks until its running batch step ends or `control` is stopped. Returns an empty
+    /// reservation during an upgrade. Not on the main thread.
     [[nodiscard]] BatchEngine::Hold hold(const QString &ipport, const StepControl &control) const;
 
     /// Whether the firmware of the device is being upgraded.

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// A login of a live view beside the current session. The end of the back end logs out as well.
+/// A login of a live view, separate from the current session. Also logged out when the back end ends.
 class LiveLogin final : public OwnSession
 {
 public:
@@ -87,13 +87,13 @@ SceneStep SessionLogins::loginStep(const QString &ipport, const QString &account
 
 int SessionLogins::check(const QString &ipport, const QString &account, const QString &password) const
 {
-    if (m_hold.isUpgradingAt(ipport)) // what follows the check would come between the device and its firmware
+    if (m_hold.isUpgradingAt(ipport)) // a request after the check would disturb the upgrade
         return resultCode(LoginResult::Upgrading);
     const SecureLogin login = m_logins.logIn(ipport, {.account = account, .password = password});
     if (login.handle != 0)
         m_libraries.net->NetLogout(login.handle);
-    // A device that waits for its first password takes no login and does not say why. Only what it refuses is
-    // judged by its row, which may be older than the password.
+    // An uninitialised device refuses a login without a reason. The row decides only in that case, since it
+    // may be outdated.
     const QJsonValue state = m_store->rowAt(ipport).value(DeviceRowKey::state);
     if (login.result == LoginResult::NotSupported && state.isBool() && !state.toBool())
         return resultCode(LoginResult::NotInitialised);
@@ -177,9 +177,9 @@ void SessionLogins::openSession(const QString &ipport, const QString &account, c
     const Request request = {.number = ++m_lastRequest, .sessionBefore = m_session.handle()};
     m_threads->start([this, order, request] {
         if (request.number != m_lastRequest)
-            return; // it has waited for a thread so long that nobody waits for it any more
+            return; // replaced by a later request while waiting for a thread
         const SessionOffer offer = offerSession(m_libraries, order);
-        // Dropped with the back end, whose end releases every login.
+        // If the queued call is dropped, the back end is ending and releases every login.
         m_signals.queue([this, request, order, offer] { takeOffer(request, order, offer); });
     });
 }
@@ -200,7 +200,7 @@ void SessionLogins::takeOffer(const Request &request, const SessionOrder &order,
     if (!isWanted || isOvertaken) {
         if (offer.login.handle != 0)
             m_libraries.net->NetLogout(offer.login.handle);
-        // Another page has logged in meanwhile. What it did with the same device serves here as well.
+        // Another page has logged in during the request. Its session is used if it is with the same device.
         if (isWanted && m_session.ipport() == order.ipport)
             openSession(order.ipport, order.account, order.password, order.readsChannels, false);
         return;

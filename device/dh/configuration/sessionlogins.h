@@ -1,4 +1,4 @@
-// Logins for the window: those of the current session, those beside it, and those that end again at once.
+// Logins for the window: for the current session, for separate sessions, and temporary ones.
 #pragma once
 
 #include "device/dh/session/sessionoffer.h"
@@ -17,12 +17,12 @@ class DeviceStore;
 class PageHold;
 class SessionThreads;
 
-/// The operations of CDeviceBase that have the same names, and their steps. Lives on the scene's thread; its
-/// steps run on any other.
+/// Implements the operations of CDeviceBase with the same names, and their steps. Lives on the main thread;
+/// its steps run on any thread.
 class SessionLogins
 {
 public:
-    /// `threads` are never null. Sessions beside the current one keep a copy of `takeOwnPicture`.
+    /// `threads` must not be null. Separate sessions keep a copy of `takeOwnPicture`.
     SessionLogins(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries, const DeviceLogins &logins,
                   std::shared_ptr<SessionThreads> threads, OwnPictureTaker takeOwnPicture,
                   const PageHold &hold, CurrentSession &session, BackEndSignals &backEndSignals);
@@ -31,10 +31,10 @@ public:
     int findAndLogin(const QString &ipport, const QString &account, const QString &password);
     [[nodiscard]] SceneStep loginStep(const QString &ipport, const QString &account, const QString &password);
 
-    /// Any thread, which it blocks for the device. Returns a LoginResult.
+    /// Logs in and out to check an account. Any thread; blocks for the device. Returns a LoginResult.
     [[nodiscard]] int check(const QString &ipport, const QString &account, const QString &password) const;
 
-    /// Blocks for the device.
+    /// Logs in, reads the details of a device, and logs out. Blocks for the device.
     [[nodiscard]] QVariantMap readDetail(const QString &ipport);
     [[nodiscard]] SceneStep detailStep(const QString &ipport);
 
@@ -42,19 +42,19 @@ public:
 
     void openSession(const QString &ipport, const QString &account, const QString &password,
                      bool readsChannels, bool isGivenNow);
-    void stopOpeningSession() { ++m_lastRequest; }
+    void stopOpeningSession() { ++m_lastRequest; } ///< drops the result of a pending openSession()
     void checkSession();
 
 private:
-    /// An openSession() that is under way.
+    /// A pending openSession().
     struct Request
     {
         int number = 0;
-        std::int64_t sessionBefore = 0; ///< handle of the session that there was
+        std::int64_t sessionBefore = 0; ///< handle of the session at the time of the request
     };
 
     void takeOffer(const Request &request, const SessionOrder &order, const SessionOffer &offer);
-    /// A row that a search has listed without a MAC gets it, and keeps its name.
+    /// Sets the MAC of a row that a search has listed without one. The row keeps its name.
     void takeMac(const QString &ipport, const QString &mac);
 
     const std::shared_ptr<DeviceStore> m_store;
@@ -65,5 +65,5 @@ private:
     const PageHold &m_hold;
     CurrentSession &m_session;
     BackEndSignals &m_signals;
-    std::atomic<int> m_lastRequest = 0; ///< the number of the last openSession() that counts
+    std::atomic<int> m_lastRequest = 0; ///< number of the latest openSession(); earlier ones are dropped
 };

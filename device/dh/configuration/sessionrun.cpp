@@ -124,7 +124,7 @@ void SessionRun::setConfigData(const QString &key, const QVariant &value, const 
 
 void SessionRun::setEncodeValue(const QString &key, const QVariant &value)
 {
-    // It is written at once.
+    // "subCurResolution" is written to the device immediately.
     if (key == QLatin1String("subCurResolution") && m_isUpgrading()) {
         noteUpgrading();
         return;
@@ -136,7 +136,7 @@ void SessionRun::setEncodeValue(const QString &key, const QVariant &value)
         noteResult(outcome.result);
 }
 
-// The camera image page. Failures are reported after the values that the page shows.
+// Image page. Failures are reported after the signals that update the values.
 
 void SessionRun::getCameraConfig()
 {
@@ -184,7 +184,7 @@ void SessionRun::setCameraValue(const QString &key, const QVariant &value, const
     }
     if (failure == 0)
         return;
-    note(signalOf(&CDeviceBase::signalCDeviceChangeVideoType)); // the page shows again what the device has
+    note(signalOf(&CDeviceBase::signalCDeviceChangeVideoType)); // the page shows the device's values again
     noteResult(failure);
 }
 

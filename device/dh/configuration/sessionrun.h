@@ -1,4 +1,4 @@
-// The operations of the configuration pages.
+// Executes the operations of the configuration pages.
 #pragma once
 
 #include "device/dh/configuration/sessionstate.h"
@@ -9,13 +9,13 @@
 
 class CDeviceBase;
 
-/// Does the operations on one state, on any thread, and collects their signals. Blocks for the waits
-/// of the library.
+/// Executes operations on one SessionState and collects their signals. Any thread, one at a time. Blocks for
+/// the timeouts of the device library.
 class SessionRun final : public SessionOperations
 {
 public:
-    /// `isUpgrading` returns, on any thread, whether the firmware of the device is being upgraded. `state`
-    /// must outlive this object.
+    /// `isUpgrading` returns whether the firmware of the device is being upgraded; it must be callable on any
+    /// thread. `state` must outlive this object.
     SessionRun(SessionState &state, std::function<bool()> isUpgrading);
 
     void getEncodeCaps() override;
@@ -30,21 +30,21 @@ public:
 
     [[nodiscard]] bool isDeviceAway() const override { return m_isDeviceAway; }
 
-    /// A signal of a back end, with its arguments.
+    /// Emits one signal of a back end with its arguments.
     using News = std::function<void(CDeviceBase &backEnd)>;
 
-    /// The signals of the operations in their order. They are returned once.
+    /// Returns and clears the collected signals, in the order of the operations.
     [[nodiscard]] std::vector<News> takeNews();
 
 private:
     void note(const News &news);
-    /// A result as signalCDeviceGetDeviceCapRet reports it.
+    /// Collects signalCDeviceGetDeviceCapRet with this result.
     void noteResult(int result);
     void noteUpgrading();
     void setEncodeValue(const QString &key, const QVariant &value);
     void setCameraValue(const QString &key, const QVariant &value, const QString &subKey);
     void writeChannelName(const QString &name, const QString &channel);
-    /// Channels that are asked for.
+    /// The number of channels for a request of `wanted` channels (0 or less: all); 0 without a session.
     [[nodiscard]] int askedChannels(int wanted) const;
 
     SessionState &m_state;

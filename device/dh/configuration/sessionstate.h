@@ -1,4 +1,4 @@
-// The current session's device, as the configuration pages know it.
+// The state of the configuration pages for one session.
 #pragma once
 
 #include "device/dh/camera/cameraconfig.h"
@@ -6,14 +6,15 @@
 #include "device/dh/encode/encodeconfig.h"
 #include "device/dh/session/channelnames.h"
 
-/// A value. Work on another thread takes a copy along; when it has ended, the copy takes the place of the
-/// original on the scene's thread. So nobody waits for a lock, and what the scene reads meanwhile is whole.
+/// State read from the current session's device. A value type: work on another thread uses a copy, which
+/// replaces the original on the main thread when the work has ended. This needs no lock, and readers on the
+/// main thread always see a consistent state.
 struct SessionState
 {
-    /// Of no session. `tables` must outlive this and its copies.
+    /// State without a session. `tables` must outlive this object and its copies.
     explicit SessionState(const ValueTables &tables) : encode(tables), camera(tables) {}
 
-    /// Turns to a new session; nothing is known of its device yet.
+    /// Sets the session and clears all values.
     void begin(const ConfigSession &newSession, const QString &newIpport, int channelCount);
 
     ConfigSession session;

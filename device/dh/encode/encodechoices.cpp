@@ -7,7 +7,7 @@ namespace {
 
 constexpr int largestSide = 65535;
 
-/// Steps behind these are not offered.
+/// Number of bit rate steps that are offered.
 constexpr std::size_t offeredBitRateSteps = 32;
 
 template<typename Entry, std::size_t size>
@@ -112,7 +112,7 @@ QStringList EncodeChoices::bitRates() const
         first = steps.begin();
     auto last = std::find_if(steps.rbegin(), steps.rend(), [this](int step) {
                     return step <= m_block.maximumBitRate;
-                }).base(); // behind the last step
+                }).base(); // one past the last step
     if (last == steps.begin())
         last = steps.end();
     for (; first < last; ++first)

@@ -1,12 +1,12 @@
-// What a capability block lets a page offer, and what a chosen text stands for.
+// Choices of the encode page from a capability block, and conversion of choices to codes.
 #pragma once
 
 #include "device/dh/encode/valuetables.h"
 
 #include <optional>
 
-/// Lists of one kind of stream, from its capability block. A block comes from a device: counts beyond their
-/// bounds are cut, bits and codes that nobody knows are left out, a block that is not filled offers nothing.
+/// The lists of choices for one kind of stream, from its capability block. The block comes from a device and
+/// is not trusted: counts are limited, unknown bits and codes are left out, an empty block has no choices.
 class EncodeChoices
 {
 public:
@@ -16,31 +16,33 @@ public:
     {
     }
 
-    /// With H.264 an entry for each profile that the device reports stands in place of "H264". Profiles
-    /// without a name have no entry.
+    /// Names of the compressions. For H.264 one entry for each reported profile replaces "H264"; profiles
+    /// without a name are left out.
     [[nodiscard]] QStringList compressions() const;
 
-    /// Whether the compression of this code is offered, with this profile where it is H.264 and the device
-    /// reports its profiles. A `profile` that is none of 1 to 4 stands for any.
+    /// Whether a compression is offered. For H.264 on a device that reports profiles, `profile` (1 to 4) must
+    /// be one of them; another value of `profile` matches any.
     [[nodiscard]] bool offersCompression(int code, int profile) const;
 
-    /// The same size may stand there more than once when sizes depend on the compression.
+    /// Names of the sizes. May contain a size more than once if sizes depend on the compression.
     [[nodiscard]] QStringList resolutions() const;
 
-    /// Whether pictures of this size are offered with the compression of this code.
+    /// Whether this size (in pixels) is offered with a compression.
     [[nodiscard]] bool offersSize(int compression, int width, int height) const;
 
-    /// Steps from the block's minimum to its maximum, of the first 32.
+    /// Bit rates in kbit/s between the block's minimum and maximum, from the first 32 steps of the tables.
     [[nodiscard]] QStringList bitRates() const;
 
-    [[nodiscard]] QStringList audioCompressions() const;
+    [[nodiscard]] QStringList audioCompressions() const; ///< names of the audio formats
 
-    /// In hertz, of the audio format with this text. Those of the tables if the device reports none.
+    /// Sampling frequencies in Hz for an audio format by name; those of the tables if the device reports
+    /// none.
     [[nodiscard]] QList<int> samplingFrequencies(const QString &audioCompression) const;
 
+    /// Whether the device reports that it does not have this value.
     [[nodiscard]] bool isMissing(sdk::EncodeValue value) const;
 
-    /// Whether the device reports profiles of H.264, known ones or not.
+    /// Whether the device reports any profile of H.264, including unknown ones.
     [[nodiscard]] bool hasProfiles() const;
 
 private:
@@ -51,36 +53,36 @@ private:
     const sdk::EncodeCapabilityBlock &m_block;
 };
 
-/// A compression with, for H.264, its profile.
+/// A compression code and, for H.264, its profile.
 struct CompressionChoice
 {
     int code = 0;
-    int profile = 0; ///< 1 to 4; 0 when the compression has none
+    int profile = 0; ///< 1 to 4; 0 if the compression has none
 };
 
-/// Whether `value` is a profile of H.264: 1 to 4.
+/// Whether `value` is a profile of H.264 (1 to 4).
 [[nodiscard]] bool isH264Profile(int value);
 
-/// The profile whose name has no letter, which "H264" alone stands for.
+/// The profile whose name has no letter; the name "H264" means this profile.
 inline constexpr int profileWithoutLetter = 2;
 
-/// What a compression text stands for; nothing for an unknown one. "H264" without a profile stands for the
-/// profile whose name has no letter.
+/// The compression with this name; nullopt for an unknown name. "H264" gives profileWithoutLetter.
 [[nodiscard]] std::optional<CompressionChoice> compressionChoice(const ValueTables &tables,
                                                                  const QString &name);
 
-/// The text of a compression; "H264" when the profile is none of 1 to 4. Empty for an unknown code.
+/// The name of a compression; "H264" if `profile` is not 1 to 4. Empty for an unknown code.
 [[nodiscard]] QString compressionName(const ValueTables &tables, int code, int profile);
 
+/// A frame size in pixels.
 struct ResolutionChoice
 {
-    int width = 0; ///< 1 to 65535
-    int height = 0;
+    int width = 0;  ///< 1 to 65535
+    int height = 0; ///< 1 to 65535
 };
 
-/// What a resolution text stands for, a name or "width*height"; nothing for any other text.
+/// The size with this name, or of a text "width*height"; nullopt for any other text.
 [[nodiscard]] std::optional<ResolutionChoice> resolutionChoice(const ValueTables &tables,
                                                                const QString &name);
 
-/// The name of a size, or "width*height"; empty while there is no size.
+/// The name of a size, or "width*height" without one; empty for an invalid size.
 [[nodiscard]] QString resolutionName(const ValueTables &tables, int width, int height);

@@ -12,7 +12,7 @@ class ItemTexts
 public:
     static QStringList names()
     {
-        // The last one is worded otherwise than the main stream's.
+        // The last name differs in wording from that of the main stream.
         return {tr("主码流编码视频格式属性"), tr("主码流编码视频格式profile"),
                 tr("主码流编码音频压缩格式"), tr("主码流编码音频格式"),
                 tr("辅码流编码视频格式属性"), tr("辅码流编码视频格式profile"),
@@ -21,11 +21,11 @@ public:
     static QString unread(const QString &name) { return tr("%1（没有读到，未写入）").arg(name); }
 };
 
-constexpr int subVideoFormat = 4; // its place among the items
+constexpr int subVideoFormat = 4; // index of the item in writeEncodeItems()
 
 constexpr int allItems = 2 * itemsOfStream;
 
-/// What is not known of any channel.
+/// The state of a channel that was not read.
 const EncodeState &nothing()
 {
     static const EncodeState state;
@@ -52,7 +52,7 @@ int EncodeConfig::read(const ChannelChoice &channels)
     if (reading.isFetched && reading.isAsked)
         m_state = state;
     else if (reading.isFetched)
-        m_state.reset(); // its items were not read: what is there is another channel's
+        m_state.reset(); // its items belong to another channel
     return reading.result;
 }
 
@@ -103,10 +103,10 @@ EncodeConfig::Outcome EncodeConfig::setValue(const QString &key, const QVariant 
     if (key != QLatin1String("subCurResolution"))
         return {};
     Outcome outcome;
-    // To the channel of the other page: that is the one that devices are set up with here.
+    // The devices expect the channel of the image page here, not that of the encode page.
     if (!writeSubResolution(channels.curVideoChannel)) {
         outcome.notWritten = linesOf({subVideoFormat});
-        if (m_session.isDeviceAway()) { // to read would only wait again
+        if (m_session.isDeviceAway()) { // reading would time out as well
             outcome.result = static_cast<int>(m_session.lastError());
             return outcome;
         }
@@ -126,8 +126,7 @@ bool EncodeConfig::writeSubResolution(int channel)
     };
     if (isTaken())
         return true;
-    // The resolution may need another bit rate. A device that is away gets no further tries, each of which
-    // would wait.
+    // The resolution may need another bit rate. Without a response further attempts would time out as well.
     for (const std::int32_t step : m_tables.BitRateSteps) {
         if (m_session.isDeviceAway())
             break;

@@ -1,4 +1,4 @@
-// The encode configuration of the logged-in device.
+// The encode settings of the logged-in device.
 #pragma once
 
 #include "device/dh/encode/channelchoice.h"
@@ -8,53 +8,54 @@
 
 #include <optional>
 
-/// One channel of the device of the current session: what was read of it, changed by the page, and written
-/// back when the user confirms. A value; a copy works on the same device. Blocks for the waits of the
-/// library. One thread at a time.
+/// The encode settings of one channel of the current session's device: read from the device, changed by the
+/// page, and written when the user confirms. A value type; a copy works on the same device. Blocks for the
+/// timeouts of the device library. Not thread-safe.
 class EncodeConfig
 {
 public:
     /// `tables` must outlive this object and its copies.
     explicit EncodeConfig(const ValueTables &tables);
 
-    /// Turns to a new session; nothing is known of its device yet.
+    /// Sets the session and clears all values.
     void begin(const ConfigSession &session);
 
-    /// Reads the chosen channel and kind of stream. Returns 0; 1 when the configuration cannot be understood,
-    /// 10 when the device does not tell what it can do, or else the error that reading reported.
+    /// Reads the selected channel and kind of stream. Returns 0 on success, configurationUnreadable (1),
+    /// capabilitiesUnknown (10), or an error of the device library.
     [[nodiscard]] int read(const ChannelChoice &channels);
 
-    /// Another channel or kind of stream was chosen: the items that are there are not its own, and count as
-    /// not read until read() has read them. The lists stay.
+    /// Marks all items as not read, after another channel or kind of stream was selected; read() reads them.
+    /// The lists of choices stay.
     void forgetItems();
 
-    /// Beside the values of the channel "takenItems": the places, as writeEncodeItems() counts them, of the
-    /// items that the device took for this channel at the last call of setValue() or confirm(), none after
-    /// read(); and "unreadItems": the names of the items that were not read.
+    /// A value by key, see EncodeValues::value(). Additional keys: "takenItems" (indexes of the items that
+    /// the device accepted in the last setValue() or confirm(); empty after read()), "unreadItems" and
+    /// "unreadPlaces" (names and indexes of the items that were not read). Indexes are those of
+    /// writeEncodeItems().
     [[nodiscard]] QVariant value(const QString &key, const ChannelChoice &channels) const;
 
-    /// What came of a value that may have gone to the device at once.
+    /// Result of a write.
     struct Outcome
     {
-        QString notWritten; ///< a line for each item that did not reach the device; empty for none
-        int result = 0; ///< the error of a device that stopped answering, or of reading as read() returns it
+        QString notWritten; ///< one line for each item that was not written; empty if there is none
+        int result = 0; ///< 0, the library's error if the device stopped responding, or a result of read()
     };
 
-    /// Takes a value of the page. The resolution of the sub stream goes to the device at once, everything
-    /// else waits for confirm(). What the key cannot have is ignored.
+    /// Changes a value. The resolution of the sub stream is written to the device immediately, all other
+    /// values by confirm(). An invalid value is logged and ignored.
     Outcome setValue(const QString &key, const QVariant &value, const ChannelChoice &channels);
 
-    /// Writes every item that was read. The others are named as not read.
+    /// Writes all items that were read. The others are listed in `notWritten`.
     [[nodiscard]] Outcome confirm(const ChannelChoice &channels);
 
-    /// What is known of the channel; nothing while it has not been read.
+    /// The state of the channel; nullopt before it has been read.
     [[nodiscard]] const std::optional<EncodeState> &state() const { return m_state; }
 
-    /// The names of the items that writeEncodeItems() counts.
+    /// Names of the items by the indexes of writeEncodeItems().
     [[nodiscard]] static QStringList itemNames();
 
 private:
-    /// Returns whether the device took it, at whatever bit rate.
+    /// Writes the sub stream's size; tries other bit rates if it is refused. Returns whether it was accepted.
     [[nodiscard]] bool writeSubResolution(int channel);
     [[nodiscard]] QString linesOf(const QList<int> &items) const;
 

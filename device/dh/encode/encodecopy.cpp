@@ -30,8 +30,8 @@ bool offersAudio(const EncodeChoices &choices, int format)
     });
 }
 
-/// Puts the compression and the size of `from` into `to` as far as its device offers them.
-/// Returns the names of the others.
+/// Copies compression and size from `from` to `to` if `choices` offers them. Returns the names of those that
+/// are not offered.
 QStringList takePicture(const EncodeChoices &choices, const EncodeItems &from, bool isSub, EncodeItems &to)
 {
     const sdk::VideoFormatItem &wanted = from.videoFormat;
@@ -40,8 +40,7 @@ QStringList takePicture(const EncodeChoices &choices, const EncodeItems &from, b
     const int profile = from.videoProfile.profile;
     if (choices.offersCompression(wanted.compression, profile)) {
         video.compression = wanted.compression;
-        // Other compressions have no profile, and not every device tells one of H.264: then the own one
-        // stays.
+        // Only H.264 has profiles, and some devices do not report one: the target's profile stays then.
         if (wanted.compression == sdk::compressionH264 && isH264Profile(profile))
             to.videoProfile.profile = profile;
         else if (wanted.compression == sdk::compressionH264 && !isH264Profile(to.videoProfile.profile))
@@ -58,7 +57,7 @@ QStringList takePicture(const EncodeChoices &choices, const EncodeItems &from, b
     return skipped;
 }
 
-/// The same for the other values of the picture.
+/// Same for bit rate, frame rate and the other video values.
 QStringList takeRates(const EncodeChoices &choices, const sdk::EncodeCapabilityBlock &block,
                       const EncodeItems &from, bool isSub, EncodeItems &to)
 {
@@ -82,34 +81,34 @@ QStringList takeRates(const EncodeChoices &choices, const sdk::EncodeCapabilityB
     return skipped;
 }
 
-/// The same for the sound.
+/// Same for audio.
 QStringList takeAudio(const EncodeChoices &choices, const EncodeItems &from, bool isSub, EncodeItems &to)
 {
     if (offersAudio(choices, from.audioCompression.format)) {
         to.audioCompression.audioEnable = from.audioCompression.audioEnable;
         to.audioCompression.format = from.audioCompression.format;
         to.audioFormat.samplingFrequency = from.audioFormat.samplingFrequency;
-    } else if (from.audioCompression.format != 0) { // a source without audio has none to copy
+    } else if (from.audioCompression.format != 0) { // a source without audio has nothing to copy
         return {SettingNames::audio(isSub)};
     }
     return {};
 }
 
-/// The places of the items that cannot be copied from `from`.
+/// Indexes of the items that cannot be copied from `from`.
 QList<int> itemsLeftOut(const EncodeState &from)
 {
     QList<int> places = from.unreadItems();
     constexpr int compression = static_cast<int>(EncodePlace::AudioCompression);
     constexpr int format = static_cast<int>(EncodePlace::AudioFormat);
     for (const int stream : {0, itemsOfStream}) {
-        // A sampling frequency belongs to its compression.
+        // A sampling frequency is only valid with its compression.
         if (places.contains(stream + compression) && !places.contains(stream + format))
             places.append(stream + format);
     }
     return places;
 }
 
-/// Puts compression and size of `items` into the record that capabilities are asked for with.
+/// Copies compression and size to the record with which capabilities are queried.
 void putIntoRecord(const EncodeItems &items, sdk::EncodeStreamRecord &record)
 {
     if (!items.knows(EncodePlace::VideoFormat))
@@ -119,7 +118,7 @@ void putIntoRecord(const EncodeItems &items, sdk::EncodeStreamRecord &record)
     record.height = items.videoFormat.height;
 }
 
-/// What a row says of a device whose settings cannot be read.
+/// The result for the row if the settings of the device cannot be read.
 int rowResult(const EncodeReading &reading)
 {
     return isLibraryError(reading.result)
@@ -146,14 +145,14 @@ EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeStat
     const sdk::EncodeCapabilityBlock &sub = to.subBlock();
     const EncodeChoices mainChoices(tables, main);
     const EncodeChoices subChoices(tables, sub);
-    // What was not read of the source is not copied: its item is left out and named below.
+    // Items of the source that were not read are left out and listed below.
     const bool hasMain = from.main.knows(EncodePlace::VideoFormat);
     const bool hasSub = from.sub.knows(EncodePlace::VideoFormat);
     if (hasMain)
         outcome.skipped += takePicture(mainChoices, from.main, false, to.main);
     if (hasSub)
         outcome.skipped += takePicture(subChoices, from.sub, true, to.sub);
-    // The bit rates that a device can do follow the size.
+    // The supported bit rates depend on the size.
     putIntoRecord(to.main, to.record.streams[static_cast<std::size_t>(streamType)]);
     putIntoRecord(to.sub, to.record.streams[static_cast<std::size_t>(sdk::StreamKind::Sub)]);
     refreshEncodeCapabilities(session, channels.curChannel, to);
@@ -164,14 +163,14 @@ EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeStat
         outcome.skipped += takeRates(subChoices, sub, from.sub, true, to.sub);
     outcome.skipped += takeAudio(subChoices, from.sub, true, to.sub);
     const QList<int> leftOut = itemsLeftOut(from);
-    // Nothing more is said of what one of the devices does not have.
+    // Items that one of the devices does not have are not listed.
     const QList<int> missing = from.missingItems(streamType) + to.missingItems(streamType);
     if (control.shouldEnd())
         return {.result = resultCode(LoginResult::NotDone), .skipped = {}};
     const EncodeWriting writing =
         writeEncodeItems(session, channels.curChannel, to, leftOut + missing, control);
     if (control.shouldEnd() && !writing.notTaken.isEmpty())
-        outcome.result = resultCode(LoginResult::NotDone); // the others have been written
+        outcome.result = resultCode(LoginResult::NotDone); // some items have been written
     else if (writing.isDeviceAway)
         outcome.result = resultCode(LoginResult::NetworkFailure);
     else if (!writing.notTaken.isEmpty())

@@ -1,4 +1,4 @@
-// Taking the encode settings of one device over to another.
+// Copies encode settings to another device.
 #pragma once
 
 #include "device/dh/encode/channelchoice.h"
@@ -8,15 +8,17 @@
 
 #include <QStringList>
 
+/// Result of copyEncodeSettings().
 struct EncodeCopyOutcome
 {
-    int result = 0;      ///< as rows have it: 0, a login result, 10 or 999
-    QStringList skipped; ///< names of the settings that the device cannot do and kept its own for
+    int result = 0;      ///< result code of rows: 0, a LoginResult, 10 or 999
+    QStringList skipped; ///< names of the settings that were not copied
 };
 
-/// Copies `from` to the channel of the same number of the device of `session`. What the device tells that it
-/// cannot do is left as it is there; the items are written whole, but for those that were not read of either
-/// device, and 999 says that it refused one of them. Nothing is written when `control` ends the step before.
+/// Copies `from` to the channel with the same number of the device of `session`. Settings that the device
+/// does not support keep their value. Items are written completely, except for those that were not read from
+/// either device. Result 999: the device refused an item. Writes nothing if `control` ends the step before.
+/// Blocks; any thread.
 [[nodiscard]] EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeState &from,
                                                    const ChannelChoice &channels,
                                                    const ConfigSession &session, const StepControl &control);

@@ -16,13 +16,13 @@ bool readStreamItem(const ConfigSession &session, sdk::EncodeItem number, int ch
     if (!isRead)
         qCWarning(logDevice) << "Encode: item" << static_cast<int>(number) << "of stream" << stream
                              << "cannot be read, error" << session.lastError();
-    // Whatever the device filled in: these two are sent back.
+    // The device may have overwritten the request fields, which are sent back on a write.
     item.size = sizeof(item);
     item.stream = stream;
     return isRead;
 }
 
-/// Returns false when the device stops answering: what follows was not asked for.
+/// Returns false if the device stops responding; no further request is sent then.
 bool readItems(const ConfigSession &session, int channel, int stream, EncodeItems &items,
                const StepControl &control)
 {

@@ -1,4 +1,4 @@
-// What is known about the encoder of one channel, and how it is read and written.
+// The encoder state of one channel, and functions that read and write it.
 #pragma once
 
 #include "device/dh/session/configsession.h"
@@ -7,7 +7,7 @@
 
 #include <QList>
 
-/// The items of a stream, in the order in which they are read and written.
+/// The items of a stream, in the order of reading and writing.
 enum class EncodePlace : std::uint8_t
 {
     VideoFormat,
@@ -18,8 +18,8 @@ enum class EncodePlace : std::uint8_t
 
 inline constexpr int itemsOfStream = 4;
 
-/// The items of one stream. One that was not read is zero but for its size and stream, and must not be
-/// written: it would overwrite settings that are not known.
+/// The items of one stream. An item that was not read is zero except for size and stream. It must not be
+/// written, since that would overwrite unknown settings.
 struct EncodeItems
 {
     sdk::VideoFormatItem videoFormat{};
@@ -28,17 +28,19 @@ struct EncodeItems
     sdk::AudioFormatItem audioFormat{};
     std::array<bool, itemsOfStream> isRead{}; ///< by EncodePlace
 
+    /// Whether this item was read.
     [[nodiscard]] bool knows(EncodePlace place) const { return isRead[static_cast<std::size_t>(place)]; }
 };
 
+/// Encoder state of one channel.
 struct EncodeState
 {
     sdk::EncodeRecord record{};
     sdk::EncodeCapabilities capabilities{};
-    EncodeItems main; ///< of the chosen kind of main stream
+    EncodeItems main; ///< of the selected kind of main stream
     EncodeItems sub;
 
-    /// Blocks of the main stream of a kind (0 to 2), and of the sub stream.
+    /// Capabilities of a kind of main stream (0 to 2), and of the sub stream.
     [[nodiscard]] const sdk::EncodeCapabilityBlock &mainBlock(int streamType) const
     {
         return capabilities.blocks[static_cast<std::size_t>(streamType)];
@@ -48,58 +50,60 @@ struct EncodeState
         return capabilities.blocks[static_cast<std::size_t>(sdk::StreamKind::Sub)];
     }
 
-    /// The places of the items that were not read, as writeEncodeItems() counts them.
+    /// Indexes (see writeEncodeItems()) of the items that were not read.
     [[nodiscard]] QList<int> unreadItems() const;
 
-    /// The places of the items that the device does not have, for this kind of main stream.
+    /// Indexes of the items that the device does not have, for this kind of main stream.
     [[nodiscard]] QList<int> missingItems(int streamType) const;
 
-    /// Of the items that the device has, those that were not read.
+    /// Indexes of the items that the device has but that were not read.
     [[nodiscard]] QList<int> withheldItems(int streamType) const;
 };
 
-/// Results of reading that are no errors of the library.
+/// Results of a read in addition to the errors of the device library.
 inline constexpr int configurationUnreadable = 1;
 inline constexpr int capabilitiesUnknown = 10;
 
+/// Result of a read.
 struct EncodeReading
 {
     int result = 0;         ///< 0, configurationUnreadable, capabilitiesUnknown, or an error of the library
-    bool isFetched = false; ///< the device gave its configuration: the state is new, as far as it was read
-    bool isAsked = false;   ///< the capabilities were asked for, whatever came of it
+    bool isFetched = false; ///< the device returned its configuration; the state was replaced
+    bool isAsked = false;   ///< the capabilities were requested, successfully or not
 };
 
-/// Whether a result of reading is an error of the library, and not one of the two above.
+/// Whether a result is an error of the device library.
 [[nodiscard]] constexpr bool isLibraryError(int result)
 {
     return result != 0 && result != configurationUnreadable && result != capabilitiesUnknown;
 }
 
-/// Reads the configuration "Encode" and the capabilities that go with it. When the configuration is refused
-/// the state stays as it was. Capabilities that the device does not answer for end with the library's error.
+/// Reads the configuration "Encode" and the capabilities for it. If the configuration is refused, the state
+/// is unchanged. If the device does not respond to the capabilities request, the result is the library's
+/// error.
 [[nodiscard]] EncodeReading readEncodeCapabilities(const ConfigSession &session, int channel,
                                                    EncodeState &state);
 
-/// Asks for the capabilities again, for the settings of the state's record. Returns false, with the state
-/// unchanged, when the device does not tell them.
+/// Reads the capabilities for the settings in `state.record`. Returns false, and leaves the state unchanged,
+/// on failure.
 bool refreshEncodeCapabilities(const ConfigSession &session, int channel, EncodeState &state);
 
-/// Reads as readEncodeCapabilities() does, and then the items of the chosen main stream and of the sub
-/// stream. An item that is refused counts as not read. When the device stops answering, the rest is not asked
-/// for and the result is the library's error. When `control` ends the step, the rest counts as not read.
+/// readEncodeCapabilities(), then reads the items of the selected main stream and of the sub stream. A
+/// refused item counts as not read. If the device stops responding, no further request is sent and the result
+/// is the library's error. If `control` ends the step, the remaining items count as not read.
 [[nodiscard]] EncodeReading readEncodeState(const ConfigSession &session, int channel, int streamType,
                                             EncodeState &state, const StepControl &control = {});
 
+/// Result of writeEncodeItems().
 struct EncodeWriting
 {
-    QList<int> notTaken; ///< places of the items that were refused, not answered or not sent any more
+    QList<int> notTaken; ///< indexes of the items that were refused, got no response or were not sent
     bool isDeviceAway = false;
 };
 
-/// Writes the items that were read: the places 0 to 3 are the main stream's video format, video profile,
-/// audio compression and audio format, 4 to 7 the sub stream's. `unwanted` names places to leave out. A
-/// refusal does not keep the others from being written; a device that does not answer gets no further item,
-/// and none gets one when `control` ends the step.
+/// Writes the items that were read. Indexes 0 to 3 are video format, video profile, audio compression and
+/// audio format of the main stream, 4 to 7 those of the sub stream. `unwanted` are indexes to leave out.
+/// Writing continues after a refusal. It stops if the device does not respond or `control` ends the step.
 [[nodiscard]] EncodeWriting writeEncodeItems(const ConfigSession &session, int channel,
                                              const EncodeState &state, const QList<int> &unwanted = {},
                                              const StepControl &control = {});

@@ -23,11 +23,11 @@ public:
     static QString customBitRate() { return tr("自定义"); }
 };
 
-/// A key parted into the stream and what it is of that stream.
+/// A key split into stream and field.
 struct StreamKey
 {
     bool isSub = false;
-    QString field; ///< as the main stream calls it
+    QString field; ///< key of the main stream
 };
 
 StreamKey parted(const QString &key)
@@ -67,7 +67,7 @@ const QSet<QString> &streamFields()
 
 constexpr QLatin1StringView offeredTypesKey("offeredStreamTypes");
 
-/// How many kinds of main streams the device has, from the normal one on. All, if it reports none.
+/// The number of kinds of main stream that the device has, counted from "normal"; all if it reports none.
 int offeredTypes(const EncodeState &state)
 {
     constexpr int all = 3;
@@ -77,7 +77,7 @@ int offeredTypes(const EncodeState &state)
     return offered > 0 ? offered : all;
 }
 
-/// The item of its stream that a value is in; nothing for a list.
+/// The item that contains a value; nullopt for a list.
 std::optional<EncodePlace> placeOf(const QString &field)
 {
     static const QSet<QString> ofVideoFormat = {
@@ -93,20 +93,20 @@ std::optional<EncodePlace> placeOf(const QString &field)
     return std::nullopt;
 }
 
-/// A whole number from `minimum` to `maximum`, given as number, flag or decimal text.
+/// An integer from `minimum` to `maximum`, given as number, bool or decimal text.
 std::optional<int> numberOf(const QVariant &value, int minimum, int maximum)
 {
     bool isNumber = false;
     const double number = value.typeId() == QMetaType::QString
                               ? value.toString().trimmed().toInt(&isNumber, 10)
                               : value.toDouble(&isNumber);
-    // Turned round, so that what is no number fails as well.
+    // This form of the condition also rejects NaN.
     if (!isNumber || !(number >= minimum && number <= maximum))
         return std::nullopt;
     return static_cast<int>(std::lround(number));
 }
 
-/// Returns false, with the field unchanged, when the value is no number in the range.
+/// Returns false, and leaves the field unchanged, if the value is not a number in the range.
 bool setNumber(const QVariant &value, int minimum, int maximum, auto &field)
 {
     const std::optional<int> number = numberOf(value, minimum, maximum);
@@ -125,7 +125,7 @@ int shownFrameRate(float frameRate)
     return frameRate > 0 && frameRate <= highestFrameRate ? static_cast<int>(std::lround(frameRate)) : 0;
 }
 
-/// The offered frequencies, and the current one when it is not among them.
+/// The offered frequencies, and the current one if it is not among them.
 QStringList samplingFrequencies(const EncodeChoices &choices, const EncodeItems &items)
 {
     QList<int> frequencies =
@@ -139,7 +139,7 @@ QStringList samplingFrequencies(const EncodeChoices &choices, const EncodeItems 
     return names;
 }
 
-/// What the device lacks: "stream" and "audio" as a whole, or single settings by their names in EncodeForm.
+/// What the device does not have: "stream", "audio", or single settings by their names in EncodeForm.
 QStringList missingSettings(const EncodeChoices &choices)
 {
     QStringList missing;
@@ -236,8 +236,8 @@ bool EncodeValues::setCompression(const QString &name, EncodeItems &items, Encod
     const std::optional<CompressionChoice> choice = compressionChoice(m_tables, name);
     if (!choice || !state.main.knows(EncodePlace::VideoFormat))
         return false;
-    // Of both streams: the compression is the main stream's, and only the profile is the stream's own.
-    // Devices are set up this way; it must not be put right here alone.
+    // Devices expect this: the compression is always that of the main stream; only the profile is set for the
+    // selected stream.
     state.main.videoFormat.compression = choice->code;
     if (choice->profile > 0 && items.knows(EncodePlace::VideoProfile))
         items.videoProfile.profile = choice->profile;
@@ -249,7 +249,7 @@ void EncodeValues::setAudioCompression(const QString &name, EncodeItems &items,
 {
     items.audioCompression.format = ValueTables::audioNameToFormat(name);
     const QList<int> frequencies = EncodeChoices(m_tables, block).samplingFrequencies(name);
-    // Without reported frequencies the current one may be right.
+    // If the device does not report frequencies, the current one may be valid.
     if (block.audioRateCount > 0 && items.knows(EncodePlace::AudioFormat) && !frequencies.isEmpty() &&
         !frequencies.contains(items.audioFormat.samplingFrequency))
         items.audioFormat.samplingFrequency = frequencies.first();

@@ -1,4 +1,4 @@
-// The values of the encode page by key: what a state shows, and what a changed value does to it.
+// The values of the encode page by key.
 #pragma once
 
 #include "device/dh/encode/encodestate.h"
@@ -6,30 +6,30 @@
 
 #include <QVariant>
 
-/// Keys that are not values of a state: the places of the items that the device took at the last write, and
-/// the places and names of the items that were not read.
+/// Keys that EncodeConfig handles: indexes of the items that the device accepted in the last write, indexes
+/// and names of the items that were not read.
 inline constexpr QLatin1StringView takenItemsKey("takenItems");
 inline constexpr QLatin1StringView unreadPlacesKey("unreadPlaces");
 inline constexpr QLatin1StringView unreadItemsKey("unreadItems");
 
-/// Keys of the sub stream begin with "sub"; the rest of the key is that of the main stream.
+/// Reads and changes values of an EncodeState by key. Keys of the sub stream are those of the main stream
+/// with the prefix "sub".
 class EncodeValues
 {
 public:
     /// `tables` must outlive this object.
     explicit EncodeValues(const ValueTables &tables) : m_tables(tables) {}
 
-    /// Whether the encode page has this key, to read or to write.
+    /// Whether `key` belongs to the encode page.
     [[nodiscard]] static bool isKey(const QString &key);
 
-    /// `streamType` is the kind of main stream, 0 to 2. Invalid for a key that is not read, and for a value
-    /// of an item that was not read. "bitRate" is the bit rate in kbit/s, also of one that "curBitStream" has
-    /// no place for.
+    /// `streamType` is the kind of main stream (0 to 2). Returns an invalid value for an unknown key and for
+    /// a value whose item was not read. "bitRate" is in kbit/s, also if "curBitStream" has no index for it.
     [[nodiscard]] QVariant value(const QString &key, const EncodeState &state, int streamType) const;
 
-    /// Changes the state, but not the device. Returns false, with the state unchanged, when the value is none
-    /// that the key can have, and when its item was not read. An audio format that cannot have the current
-    /// sampling frequency changes that as well.
+    /// Changes the state, not the device. Returns false, and leaves the state unchanged, for an invalid value
+    /// or if the item was not read. Changing the audio format also changes a sampling frequency that it does
+    /// not support.
     bool setValue(const QString &key, const QVariant &value, EncodeState &state, int streamType) const;
 
 private:

@@ -18,7 +18,7 @@ public:
 struct Resolution
 {
     const char *name;
-    sdk::PictureSize size; ///< as devices report it, however odd
+    sdk::PictureSize size; ///< as devices report it, even where it looks odd
 };
 
 constexpr std::array resolutions = {
@@ -60,7 +60,7 @@ std::vector<sdk::PictureSize> resolutionSizes()
     return sizes;
 }
 
-/// By format value; 0 stands for no format.
+/// By format value; 0 is no format.
 constexpr std::array configurationAudioFormats = {
     "",     "G711a", "PCM",   "G711u",        "AMR", "AAC", "G726",
     "G729", "ADPCM", "MPEG2", "MPEG2_Layer2", "OGG", "MP3", "G7221",
@@ -75,7 +75,7 @@ ValueTables::ValueTables()
                              QStringLiteral("MPEG1"), QStringLiteral("H263"), QStringLiteral("MJPG"),
                              QStringLiteral("FCC_MPEG4"), QStringLiteral("H264"), QStringLiteral("H.265"),
                              QStringLiteral("SVAC")}),
-      // The second name ends in two blanks where the others have a letter: pages and settings match it so.
+      // The second name ends in two spaces instead of a letter: pages and settings compare it in this form.
       H264ProfileNames({QStringLiteral("H.264 B"), QStringLiteral("H.264  "), QStringLiteral("H.264 E"),
                         QStringLiteral("H.264 H")}),
       ResolutionNames(resolutionNames()),
