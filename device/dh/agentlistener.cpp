@@ -10,7 +10,7 @@
 
 namespace {
 
-// The agent's handler is a plain function, and the agent hands it nothing to find a back end by.
+// The agent's callback is a plain function without user data: the current listener is global.
 std::mutex agentListenerMutex;
 AgentListener *agentListener = nullptr;
 
@@ -56,7 +56,7 @@ void AgentListener::pass(const QString &deviceId, int localPort)
     const std::lock_guard lock(agentListenerMutex);
     if (!agentListener)
         return;
-    // Dropped with the back end, which the listener belongs to.
+    // The queued call is dropped when the back end, which owns the listener, is destroyed.
     agentListener->m_signals.queue(
         [listener = agentListener, deviceId, localPort] { listener->noteBrokenTunnel(deviceId, localPort); });
 }
@@ -67,7 +67,7 @@ void AgentListener::noteBrokenTunnel(const QString &deviceId, int localPort)
         m_store->changeRowAt(QStringLiteral("127.0.0.1:%1").arg(localPort), [](QJsonObject &row) {
             row.insert(DeviceRowKey::res, resultCode(LoginResult::NetworkFailure));
         });
-    // The tunnel to a device's web page has no row, nor has one whose device a search has taken off the list.
+    // A row may be missing: tunnels to web pages have none, and a search may have removed it.
     if (isListed || deviceId.isEmpty())
         m_signals.emitNow(&CDeviceBase::signalCDeviceTunnelBroken, deviceId, localPort);
 }

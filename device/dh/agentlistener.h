@@ -1,4 +1,4 @@
-// The port agent's events.
+// Handles the events of the port agent.
 #pragma once
 
 #include "device/registry/backendsignals.h"
@@ -10,10 +10,10 @@
 
 class DeviceStore;
 
-/// A tunnel that broke is reported to the user: the device's row gets the result of a network failure, and
-/// signalCDeviceTunnelBroken is emitted, both on the scene's thread. The loss of the service is reported the
-/// same way, without a device. The object that was made last gets the events. Begins and ends on the scene's
-/// thread.
+/// Reports broken tunnels: sets the result of the device's row to a network failure and emits
+/// signalCDeviceTunnelBroken, both on the main thread. The loss of the service is reported with an empty
+/// device. Only the object created last receives events. Created and destroyed on the main thread by
+/// CDeviceDH.
 class AgentListener
 {
 public:
@@ -22,7 +22,7 @@ public:
     AgentListener(const AgentListener &) = delete;
     AgentListener &operator=(const AgentListener &) = delete;
 
-    /// Takes an event, and logs it. On a thread of the agent.
+    /// Logs an event and passes it to the current listener. Called on a thread of the agent.
     static void take(sdk::P2PAgentEvent event, const char *deviceId, std::int32_t localPort);
 
 private:

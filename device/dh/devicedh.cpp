@@ -80,7 +80,8 @@ UpgradeCheck CDeviceDH::isUpgradingAt() const
 CDeviceDH::~CDeviceDH()
 {
     m_agentListener.reset();
-    m_upgrades->requestEnd(); // before their batches: nothing stops that the user has not stopped
+    // Before the engine, whose end would mark waiting upgrades as stopped by the user.
+    m_upgrades->requestEnd();
     m_engine->requestEnd();
     m_search->requestEnd();
     m_pictures->giveUpSnapshots();
@@ -89,7 +90,7 @@ CDeviceDH::~CDeviceDH()
     m_session->end();
     m_system->letLoginsGo();
     if (m_libraries.net)
-        m_libraries.net->NetCleanup(); // cuts short the waits of running searches
+        m_libraries.net->NetCleanup(); // aborts the timeouts of running searches
     m_engine->end();
     m_threads->waitForDone();
     m_upgrades->waitForDocuments();

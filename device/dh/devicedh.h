@@ -31,27 +31,28 @@ class SystemOperations;
 class UpgradeOrders;
 class UpgradeRound;
 
-/// The family "dh": the one complete back end. Each subject of its operations is a component, which this
-/// class begins, ends and forwards to. Threads are as CDeviceBase states them, unless an operation says
-/// otherwise.
+/// The back end "dh", which implements all operations. Each group of operations is a component; this class
+/// creates, destroys and forwards to the components. Threads are as documented in CDeviceBase, unless a
+/// declaration says otherwise. Created on the main thread by CDeviceFactory.
 class CDeviceDH : public CDeviceBase
 {
     Q_OBJECT
 public:
-    /// `searchSettings` is called on the scene's thread at each start of a search. `engine` runs the steps of
-    /// this back end and ends with it; null for one of its own.
+    /// `searchSettings` is called on the main thread at each start of a search. `engine` runs the batch steps
+    /// of this back end and is ended by its destructor; null: a new engine.
     CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
               std::function<SearchSettings()> searchSettings,
               const UpgradeLimits &upgradeLimits = UpgradeLimits(),
               std::shared_ptr<BatchEngine> engine = nullptr);
 
-    /// Ends running searches and the session, and releases the network library. On the scene's thread.
+    /// Ends searches, steps and the session, and releases the network library. Main thread.
     ~CDeviceDH() override;
 
-    /// The accounts that the user keeps for devices; asked on any thread. To be called before anything else.
+    /// Sets the function that returns the stored account of a device; called on any thread. Must be called
+    /// before any operation.
     void setStoredAccounts(const AccountChoice::Stored &stored);
 
-    /// Takes the port agent's events, as AgentListener does.
+    /// Callback of the port agent; forwards to AgentListener::take().
     static void agentMessage(sdk::P2PAgentEvent event, const char *deviceId, std::int32_t localPort,
                              void *user);
 
@@ -119,20 +120,20 @@ public:
     // ConfigurationPages
     void getEncodeCaps() override;
     void getEncodeInfo() override;
-    /// The key "loginHandle", the current session's handle or 0, may be read on any thread.
+    /// See ConfigurationPages::value(). The key "loginHandle" may be read on any thread.
     QVariant getConfigData(const QString &key, const QVariant &channel) override;
-    /// `otype` is the sub-key of a value of the camera image page; of "channelName" it is the channel from 0.
-    /// A name goes to the device at once; what came of it getConfigData("channelNameResult", channel) tells.
-    /// The key "channelNamesSaved" ends a saving of one name or many: signalCDeviceSetChannelNameFinished
-    /// says so once, and getConfigData("channelNamesResult") tells how it went as a whole.
+    /// `otype` is the sub-key of a value of the image page. For "channelName" it is the channel (from 0), and
+    /// the name is written to the device immediately; getConfigData("channelNameResult", channel) returns the
+    /// result. The key "channelNamesSaved" ends a series of names: signalCDeviceSetChannelNameFinished is
+    /// emitted once, and getConfigData("channelNamesResult") returns the combined result.
     void setConfigData(const QString &key, const QVariant &value, const QString &otype) override;
-    /// `key` is "channelNames", the names in their order, null for one that the device does not tell, or
-    /// "channelsConnected", a bool for each. Of the first `channelNum` channels of the current session's
-    /// device, of all of them for 0 or less. Blocks for a request per name, while the device is there.
+    /// `key` "channelNames" returns the names in channel order, null for a name that the device does not
+    /// report; "channelsConnected" returns a bool for each channel. Covers the first `channelNum` channels of
+    /// the current session, all of them for 0 or less. Blocks for one request for each name.
     QVariantList getDeviceChannelData(const QString &key, int channelNum) override;
     void confirmConfigData() override;
     SceneStep sessionStep(const SessionJob &job) override;
-    /// What the camera can do and its configurations; the values come with getVideoIn().
+    /// Reads capabilities and configurations; getVideoIn() reads the values.
     void getCameraConfig() override;
     void getVideoIn() override;
     void getVideoInByChangeChannel() override;
@@ -146,7 +147,7 @@ public:
     QList<DeviceStep> snapshotSteps(const QString &address) override;
     DeviceStep pictureStep(const PictureOrder &order) override;
 
-    /// Gives up the snapshots that are being taken, and the upgrades.
+    /// Cancels running snapshots and upgrades, and waits for result files of upgrade documents.
     void factoryEnds() override;
 
     // RowUpgrades, DocumentUpgrades and UpgradeRound
@@ -169,18 +170,19 @@ public:
     int upgradeDocumentSuccesses() override;
 
 private:
-    /// By the name of a row.
+    /// Takes one snapshot with a given login.
     [[nodiscard]] OwnPictureTaker takeOwnPicture() const;
+    /// Upgrade check by row name.
     [[nodiscard]] UpgradeCheck isUpgrading() const;
-    /// By address and port.
+    /// Upgrade check by address and port.
     [[nodiscard]] UpgradeCheck isUpgradingAt() const;
 
     const sdk::SdkLibraries m_libraries;
     const std::shared_ptr<BatchEngine> m_engine;
-    // Each component uses those that stand before it.
+    // Each component uses only those declared before it.
     BackEndSignals m_signals{*this};
     const std::unique_ptr<DeviceLogins> m_logins;
-    const std::shared_ptr<SessionThreads> m_threads; ///< never null; ends with this object
+    const std::shared_ptr<SessionThreads> m_threads; ///< never null; sessions hold weak references
     const std::unique_ptr<UpgradeRound> m_upgrades;
     const std::unique_ptr<UpgradeOrders> m_upgradeOrders;
     const std::unique_ptr<RowUpgrades> m_rowUpgrades;
@@ -195,7 +197,7 @@ private:
     const std::unique_ptr<ConfigurationPages> m_pages;
     const std::unique_ptr<EncodeCopies> m_encodeCopies;
     const std::unique_ptr<PictureOperations> m_pictures;
-    std::unique_ptr<SearchOperations> m_search;     ///< ends when the network library is released
-    std::unique_ptr<AgentListener> m_agentListener; ///< as long as this object takes events
-    QString m_importError;                          ///< of the last list, or document of upgrades
+    std::unique_ptr<SearchOperations> m_search;     ///< destroyed after the network library is released
+    std::unique_ptr<AgentListener> m_agentListener; ///< destroyed first: no further events
+    QString m_importError;                          ///< of the last device list or upgrade document
 };

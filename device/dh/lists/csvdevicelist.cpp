@@ -14,7 +14,7 @@ namespace {
 constexpr qsizetype maximumLineLength = 65'536; // in bytes
 constexpr QByteArrayView byteOrderMark("\xEF\xBB\xBF");
 
-/// The lines of a file, whichever of the usual characters end them.
+/// Splits a file into lines that end with LF, CR or CR LF.
 class Lines
 {
 public:
@@ -26,7 +26,7 @@ public:
         return m_next == m_bytes.size();
     }
 
-    /// The next line without what ends it; nothing when it is longer than a list's may be.
+    /// The next line without its line end; nullopt if it is too long.
     std::optional<QByteArray> next()
     {
         fill();
@@ -45,7 +45,7 @@ public:
     }
 
 private:
-    /// Keeps enough of the file for a line of the largest length and what ends it.
+    /// Keeps at least one line of the maximum length and its line end in m_bytes.
     void fill()
     {
         constexpr qsizetype needed = maximumLineLength + 2;
@@ -57,7 +57,7 @@ private:
 
     QIODevice &m_file;
     QByteArray m_bytes;
-    qsizetype m_next = 0; ///< where the next line begins in m_bytes
+    qsizetype m_next = 0; ///< start of the next line in m_bytes
 };
 
 } // namespace

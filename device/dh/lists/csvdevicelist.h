@@ -1,13 +1,14 @@
-// Device lists as comma-separated text.
+// Device lists as comma-separated text. Any thread.
 #pragma once
 
 #include "device/dh/lists/devicelistline.h"
 
 class QIODevice;
 
-/// The list as text in UTF-8: the headers, then a line for each device. Texts are not quoted.
+/// The list as UTF-8 text: a header line, then a line for each device. Fields are not quoted.
 [[nodiscard]] QByteArray csvOf(const std::vector<DeviceListLine> &lines);
 
-/// Reads a list from an open file, split at every comma: with or without a byte order mark, a line feed, a
-/// carriage return or both at the ends of lines. Holds a small piece of the file at a time.
+/// Reads a list from an open file. Lines are split at every comma and may end with LF, CR or CR LF; a byte
+/// order mark is skipped. Errors are in DeviceListContents::refusal. Keeps only a small part of the file in
+/// memory.
 [[nodiscard]] DeviceListContents readCsv(QIODevice &file);

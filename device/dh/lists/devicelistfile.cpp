@@ -40,14 +40,14 @@ bool writeText(const QString &path, const QByteArray &text)
     return failure.isEmpty();
 }
 
-/// What the import would read from a file with these lines.
+/// Reads back what a file with these lines would contain.
 DeviceListContents readBack(ListFormat format, const std::vector<DeviceListLine> &lines)
 {
     DeviceListContents contents;
     QBuffer file;
     switch (format) {
     case ListFormat::Xlsx:
-        // Cells keep every character; what is cut off or left out is so in all formats.
+        // Workbook cells keep every character. Truncation and trimming are the same in all formats.
         for (const DeviceListLine &line : lines)
             contents.add(line);
         for (DeviceListLine &line : contents.lines) {
@@ -79,7 +79,7 @@ bool comesBack(ListFormat format, const std::vector<DeviceListLine> &lines)
                       });
 }
 
-/// Whether one text of a line comes back. A line has an address, or it would be none.
+/// Whether one value of a line is read back unchanged. The line needs an address to be valid.
 bool comesBack(ListFormat format, ListColumn column, const QString &text)
 {
     DeviceListLine line;
@@ -88,8 +88,7 @@ bool comesBack(ListFormat format, ListColumn column, const QString &text)
     return comesBack(format, {line});
 }
 
-/// The first character of a text that does not come back from between two others, else the blank that the
-/// text begins or ends with.
+/// The first character of a value that is not read back unchanged; otherwise the space at its start or end.
 QString lostCharacter(ListFormat format, ListColumn column, const QString &text)
 {
     for (const char32_t code : text.toUcs4()) {
@@ -150,7 +149,7 @@ std::vector<UnreadableText> unreadableTexts(const QString &fileName, const std::
 DeviceListContents readDeviceList(const QString &path)
 {
     QFile file(path);
-    // A folder or a pipe has a path too, and a pipe would never end.
+    // A folder or a pipe can be opened as well; reading a pipe would not end.
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
         qCWarning(logDevice).noquote() << "Failed to open file:" << path;
         return refusal(QCoreApplication::translate("DeviceList", "无法打开文件"));

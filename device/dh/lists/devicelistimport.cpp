@@ -16,13 +16,13 @@ constexpr int defaultPort = 37777;
 constexpr int highestPort = 65535;
 constexpr std::array credentials = {ListColumn::Username, ListColumn::Password};
 
-/// One spelling for all that mean the same address.
+/// Normalised spelling of a MAC.
 QString spelled(const QString &mac)
 {
     return mac.toLower().replace(QLatin1Char('-'), QLatin1Char(':'));
 }
 
-/// The port of a line, which need not name one; nothing when what it names is none.
+/// The port of a line; the default port if it is empty, nullopt if it is invalid.
 std::optional<int> portOf(const DeviceListLine &line)
 {
     const QString &text = line[ListColumn::DevicePort];
@@ -33,7 +33,7 @@ std::optional<int> portOf(const DeviceListLine &line)
     return isNumber && port >= 1 && port <= highestPort ? std::optional(port) : std::nullopt;
 }
 
-/// An IPv4 address or the name of a host.
+/// Whether the text is an IPv4 address or a host name.
 bool isHost(const QString &address)
 {
     return std::all_of(address.begin(), address.end(), [](QChar letter) {
@@ -48,7 +48,7 @@ bool isLoopback(const QString &address)
     return address == ListWord::serviceAddress;
 }
 
-/// What makes a line unusable before anything is asked; empty when nothing does.
+/// Why a line is invalid, in the user's language; empty if it is valid.
 QString faultOf(const DeviceListLine &line)
 {
     if (line.hasTooManyFields)
@@ -72,10 +72,10 @@ QString faultOf(const DeviceListLine &line)
     return {};
 }
 
-/// What the line of a device says that can be asked for.
+/// The device of a valid line.
 DeviceToAdd deviceOf(const DeviceListLine &line)
 {
-    // Device software on this computer is listed as P2P too, by its loopback address; no ID looks like that.
+    // Device software on the host is listed as P2P with the loopback address, which is not a P2P ID.
     const QString &address = line[ListColumn::IPAddress];
     return {.address = address,
             .port = portOf(line).value_or(defaultPort),
@@ -129,7 +129,7 @@ std::vector<ImportLine> DeviceListImport::plan(const std::shared_ptr<DeviceListI
 {
     std::vector<ImportLine> plan;
     plan.reserve(import->m_lines.size());
-    QHash<std::pair<QString, QString>, qsizetype> accounts; // a number stands for each: it is no secret
+    QHash<std::pair<QString, QString>, qsizetype> accounts; // number of each account: no secret in `login`
     for (std::size_t place = 0; place < import->m_lines.size(); ++place) {
         const DeviceListLine &line = import->m_lines[place];
         const DeviceToAdd device = deviceOf(line);
@@ -170,7 +170,7 @@ StepOutcome DeviceListImport::add(std::size_t place, const StepControl &control)
 
 std::optional<StepOutcome> DeviceListImport::review(const DeviceListLine &line, RowLoginOutcome &login)
 {
-    // Two lines may lead to one device: the list may have said nothing of the MAC, or something else.
+    // Two lines may name the same device: the MAC in the list may be missing or wrong.
     const QString mac = spelled(login.row.value(DeviceRowKey::mac).toString());
     if (!mac.isEmpty()) {
         const std::lock_guard lock(m_mutex);
@@ -179,7 +179,7 @@ std::optional<StepOutcome> DeviceListImport::review(const DeviceListLine &line, 
         m_macs.insert(mac);
     }
     completeFrom(login.row, line, login.record.has_value());
-    // A device that tells no MAC does not take the row of the one that the list names.
+    // A device that reports no MAC must not replace the row of the device with the MAC in the list.
     if (mac.isEmpty() && !m_adding.store().row(login.row.value(DeviceRowKey::mac).toString()).isEmpty())
         login.row.insert(DeviceRowKey::mac, QString());
     return std::nullopt;

@@ -8,20 +8,20 @@
 #include <memory>
 #include <mutex>
 
-/// The devices of a list, which are added to the table line by line. Thread-safe; lines of one device are
-/// added on one thread at a time.
+/// Adds the devices of a list to the device store, line by line. Thread-safe; the caller must not run two
+/// lines of one device in parallel.
 class DeviceListImport
 {
 public:
     DeviceListImport(RowAdding adding, std::vector<DeviceListLine> lines);
 
-    /// Why the list cannot be imported as a whole, in the user's language; empty when it can. A MAC that
-    /// occurs twice makes it doubtful which of the lines tells the truth.
+    /// Why the list cannot be imported, in the user's language; empty if it can. A list with a duplicate MAC
+    /// is refused, since one of the lines must be wrong.
     [[nodiscard]] static QString refusalOf(const std::vector<DeviceListLine> &lines);
 
-    /// The lines with their steps, which keep the import. A step logs in to the device of its line and adds
-    /// its row, in the place of the one that the device has already. A device that another line has brought
-    /// is not asked again.
+    /// The lines with their steps, which share ownership of the import. A step logs in to the device of its
+    /// line and adds its row, replacing an existing row of the device. A device that another line has added
+    /// gets no second request.
     [[nodiscard]] static std::vector<ImportLine> plan(const std::shared_ptr<DeviceListImport> &import);
 
 private:
@@ -30,7 +30,7 @@ private:
 
     const RowAdding m_adding;
     const std::vector<DeviceListLine> m_lines;
-    std::mutex m_mutex;   ///< of what follows
-    QSet<QString> m_ways; ///< to the devices that the list has brought: address or P2P ID, ":" and port
-    QSet<QString> m_macs; ///< of these devices, in one spelling
+    std::mutex m_mutex;   ///< guards m_ways and m_macs
+    QSet<QString> m_ways; ///< added devices: address or P2P ID, ":" and port
+    QSet<QString> m_macs; ///< normalised MACs of the added devices
 };

@@ -35,7 +35,7 @@ bool DeviceListContents::add(DeviceListLine line)
 {
     if (lines.size() >= maximumLines)
         return refuse(QCoreApplication::translate("DeviceList", "文件内的设备超过 %1 台").arg(maximumLines));
-    // Devices of one list have much in common: what stands in the line above too is kept once.
+    // Lines have many fields in common: a field that equals the one above shares its memory.
     if (!lines.empty()) {
         for (std::size_t column = 0; column < line.values.size(); ++column) {
             const QString &above = lines.back().values.at(column);

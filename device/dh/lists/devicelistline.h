@@ -1,4 +1,4 @@
-// A device list as its files have it: lines of 19 texts.
+// The lines of a device list, independent of the file format.
 #pragma once
 
 #include <QString>
@@ -33,17 +33,17 @@ enum class ListColumn : int
 inline constexpr int listColumnCount = 19;
 static_assert(static_cast<int>(ListColumn::Result) == listColumnCount - 1);
 
-/// What a column is called.
+/// The names of a column in files.
 struct ListColumnName
 {
-    QStringView header;        ///< in spreadsheets and comma-separated text
+    QStringView header;        ///< in workbooks and comma-separated text
     QLatin1StringView element; ///< in XML
 };
 
 /// The names of all columns, in their order.
 [[nodiscard]] const std::array<ListColumnName, listColumnCount> &listColumnNames();
 
-/// Words that stand in the cells of a list, whatever the user's language.
+/// Fixed words in the fields of a list, independent of the user's language.
 namespace ListWord {
 inline constexpr QLatin1StringView encoder("Encoder");
 inline constexpr QLatin1StringView traffic("Traffic");
@@ -57,11 +57,11 @@ inline constexpr QLatin1StringView initialised("INITIALIZED");
 inline constexpr QLatin1StringView notInitialised("NOT INITIALIZED");
 } // namespace ListWord
 
-/// One device of a list.
+/// One device of a list file.
 struct DeviceListLine
 {
-    int number = 0;                ///< of the line or row in its file, counted from 1
-    bool hasTooManyFields = false; ///< so that nobody knows which is which, and none is kept
+    int number = 0;                ///< line or row number in the file, from 1
+    bool hasTooManyFields = false; ///< more fields than headers: the fields are ambiguous and not kept
     std::array<QString, listColumnCount> values;
 
     [[nodiscard]] QString &operator[](ListColumn column)
@@ -74,29 +74,30 @@ struct DeviceListLine
     }
 };
 
-/// A longer text is no device's; readers keep one character more, so that it shows.
+/// Maximum length of a field in characters. Readers keep one extra character so that over-long input is
+/// detected.
 inline constexpr qsizetype maximumListText = 256;
 
-/// What a list file holds.
+/// Result of reading a list file.
 struct DeviceListContents
 {
     static constexpr std::size_t maximumLines = 100'000;
 
     std::vector<DeviceListLine> lines;
-    QString refusal; ///< why the file cannot be used, in the user's language; empty when it can
-    QString detail;  ///< what a log should say of that; may be empty
+    QString refusal; ///< why the file cannot be used, in the user's language; empty on success
+    QString detail;  ///< technical reason for the log; may be empty
 
-    /// Takes the next line. Returns false, with a refusal, when there are too many.
+    /// Appends a line. Returns false, and sets `refusal`, if there are too many.
     bool add(DeviceListLine line);
 
-    /// Returns false, for its caller to return.
+    /// Clears the lines and sets `refusal`. Always returns false, as a return value for the caller.
     bool refuse(const QString &reason);
 };
 
-/// Why no device has such a text: it is too long, or holds control characters, which would break the lines of
-/// tables. In the user's language; empty when it may be a device's.
+/// Why a field is invalid, in the user's language: too long, or with control characters, which would break
+/// table rows. Empty if it is valid.
 [[nodiscard]] QString faultOfText(const QString &text);
 
-/// A text of a file as a line keeps it: not longer than shows that it is too long, and without the blanks
-/// around it, which only a password can mean.
+/// Converts a field of a file for a DeviceListLine: truncated to maximumListText + 1 characters, and without
+/// surrounding spaces, except for the password, where spaces are significant.
 [[nodiscard]] QString listText(ListColumn column, QStringView text);

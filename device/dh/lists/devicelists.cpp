@@ -14,7 +14,7 @@
 
 namespace {
 
-/// A character for the user, who may not see it otherwise.
+/// A character with its code point, since it may be invisible.
 QString namedCharacter(const QString &character)
 {
     const char32_t code = character.toUcs4().value(0);
@@ -38,7 +38,7 @@ QVariantMap faultMap(const DeviceListLine &line, const UnreadableText &fault)
                        .arg(namedCharacter(fault.character))}};
 }
 
-/// The stored accounts of devices are the user's own: their passwords do not leave the program.
+/// Passwords of stored accounts are not exported.
 DeviceAccount listedAccount(const AccountChoice &accounts, const QJsonObject &row)
 {
     AccountChoice::Chosen chosen = accounts.of(row);
@@ -62,7 +62,7 @@ bool DeviceLists::exportDevices(const QString &folder, const QStringList &macs, 
     lines.reserve(static_cast<std::size_t>(macs.size()));
     for (const QString &mac : macs) {
         const ListedDevice device = {.row = m_store->row(mac), .record = m_store->record(mac)};
-        // It has left the table since it was ticked. The others are worth having without it.
+        // The device was removed from the list since it was checked. The others are exported.
         if (device.row.isEmpty() && !device.record) {
             qCWarning(logDevice) << "DeviceLists::exportDevices: there is no device" << mac;
             continue;
@@ -70,7 +70,7 @@ bool DeviceLists::exportDevices(const QString &folder, const QStringList &macs, 
         lines.push_back(listLineOf(device, listedAccount(m_logins.accounts(), device.row)));
     }
     m_exportFaults.clear();
-    // A file without a device would look like an export that went well.
+    // No device left: a file without devices would look like a successful export.
     if (lines.empty() || !writeDeviceList(localPath(folder) + QLatin1Char('/') + fileName, lines))
         return false;
     for (const UnreadableText &fault : unreadableTexts(fileName, lines))
@@ -107,7 +107,7 @@ QString DeviceLists::importDevices(const QString &path, P2PPorts *ports, ImportS
         }
         m_signals.emitNow(&CDeviceBase::signalCDeviceImportProgress, summary.total, total);
     }
-    // Reported together: a page reads the whole table again each time.
+    // One signal for all: pages read the complete list on each.
     if (summary.errcount < total)
         m_signals.emitNow(&CDeviceBase::signalCDeviceAddSingleDeviceToTable);
     return {};

@@ -1,4 +1,4 @@
-// Device lists: exporting devices to a file, and logging in to those of a file.
+// Exports devices to a list file, and imports the devices of a list file.
 #pragma once
 
 #include "device/registry/backendsignals.h"
@@ -14,28 +14,30 @@ class DeviceLogins;
 class DeviceStore;
 class P2PPorts;
 
-/// The operations of CDeviceBase that have the same names. Lives on the scene's thread.
+/// Implements the operations of CDeviceBase with the same names. Lives on the main thread.
 class DeviceLists
 {
 public:
     DeviceLists(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries, const DeviceLogins &logins,
                 BackEndSignals &backEndSignals);
 
-    /// `folder` may be a "file:///" address; the ending of `fileName` chooses the format. A device that is
-    /// not in the table any more is left out; false when none is left, or when the file cannot be written.
+    /// Writes the devices to `folder` (a path or "file:///" URL); the suffix of `fileName` selects the
+    /// format. Skips devices that are no longer in the list. Returns false if none is left or the file cannot
+    /// be written.
     bool exportDevices(const QString &folder, const QStringList &macs, const QString &fileName);
 
-    /// The texts of the last exported list that do not come back when its file is read.
+    /// Fields of the last exported list that an import would not read back, see CDeviceBase::exportFaults().
     [[nodiscard]] QVariantList exportFaults() const { return m_exportFaults; }
 
-    /// Any thread, which it blocks for the file. `ports` leads to devices behind NAT, null when nothing does.
+    /// Reads a list file. Any thread; blocks for the file. `ports` opens local ports to devices behind NAT;
+    /// may be null.
     [[nodiscard]] ImportPlan importPlan(const QString &path, P2PPorts *ports) const;
 
-    /// Blocks until every device of the list was asked. Returns why the list was refused as a whole, in the
-    /// user's language; an empty text when it was not.
+    /// Logs in to all devices of a list and blocks until that is done. Returns why the list was refused, in
+    /// the user's language; empty on success.
     [[nodiscard]] QString importDevices(const QString &path, P2PPorts *ports, ImportSummary &summary);
 
-    /// The lines of the last imported list that brought no device.
+    /// Lines of the last importDevices() that failed, see importFailure().
     [[nodiscard]] QVariantList importFailures() const { return m_importFailures; }
 
 private:

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Which column a header names, -1 for none. Headers of columns that must be filled in may begin with a star.
+/// The column of a header, -1 if unknown. Headers of mandatory columns may start with "*".
 int columnOfHeader(QStringView header)
 {
     header = header.trimmed();

@@ -5,28 +5,28 @@
 #include <QList>
 #include <QStringView>
 
-/// Makes lines of a list from the rows of a table, whose columns are found by their headers: they may stand
-/// in any order, and some may be missing, but for the address. Rows above the headers are no devices, and
-/// rows without a text are none either.
+/// Converts the rows of a table to lines of a list. Columns are found by their headers: any order, and all
+/// but the address may be missing. Skips rows above the headers and empty rows.
 class DeviceListTable
 {
 public:
-    /// How many rows may stand above the headers, and how many columns are looked at.
+    /// Maximum number of rows above the headers, and of columns that are read.
     static constexpr int maximumRowsAbove = 50;
     static constexpr int maximumColumns = 64;
 
     explicit DeviceListTable(DeviceListContents &contents) : m_contents(contents) {}
 
-    /// Takes the next row. Returns false when the table cannot be used; the contents say why.
+    /// Adds the next row. Returns false if the table cannot be used; DeviceListContents::refusal has the
+    /// reason.
     bool addRow(int number, const QList<QStringView> &cells);
 
-    /// To be called behind the last row: a table without headers cannot be used.
+    /// Must be called after the last row. Returns false, and sets the refusal, if no headers were found.
     bool end();
 
-    /// How many columns the headers take up; 0 before they are found.
+    /// The number of columns of the headers; 0 before they are found.
     [[nodiscard]] qsizetype width() const { return m_columns.size(); }
 
-    /// True for the places in a row whose text counts: all before the headers are found.
+    /// Whether the column at this index is used; true for all before the headers are found.
     [[nodiscard]] bool isRead(qsizetype place) const { return m_columns.value(place, 0) >= 0; }
 
 private:
@@ -34,6 +34,6 @@ private:
     bool refuseWithoutHeaders();
 
     DeviceListContents &m_contents;
-    QList<int> m_columns; ///< which ListColumn each column of the table is, -1 for none
+    QList<int> m_columns; ///< ListColumn by index of the column, -1: not used
     int m_rowsAbove = 0;
 };

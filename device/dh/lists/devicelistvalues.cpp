@@ -8,7 +8,7 @@ constexpr QLatin1StringView trafficWord("ITC");
 constexpr QLatin1StringView videoWallWord("Matrix");
 constexpr qsizetype maximumTypeLength = 32;
 
-// The keys that a device's detail has for what its search record tells.
+// Keys of a device's detail for values of its search record.
 constexpr QLatin1StringView serialKey("serial");
 constexpr QLatin1StringView maskKey("submask");
 constexpr QLatin1StringView gatewayKey("gateway");
@@ -26,15 +26,15 @@ void setType(DeviceListLine &line, const QString &type)
     }
 }
 
-/// How the device is reached. Behind a tunnel that is its P2P ID and its own port: the local port is gone
-/// when the tool ends.
+/// Sets address and port. For a device behind a tunnel these are its P2P ID and own port, since the local
+/// port is closed when the application exits.
 void setAddress(DeviceListLine &line, const QJsonObject &row)
 {
     const QString ipport = row.value(DeviceRowKey::ipport).toString();
     const qsizetype colon = ipport.lastIndexOf(QLatin1Char(':'));
     QString address = ipport.left(colon);
     if (address.startsWith(QLatin1Char('[')) && address.endsWith(QLatin1Char(']')))
-        address = address.sliced(1, address.size() - 2); // an IPv6 address beside a port
+        address = address.sliced(1, address.size() - 2); // brackets of an IPv6 address
     line[ListColumn::AddMode] =
         address.contains(ListWord::serviceAddress) ? ListWord::byP2P : ListWord::byAddress;
     line[ListColumn::IPAddress] = address;
@@ -51,7 +51,7 @@ void insertMissing(QJsonObject &row, QLatin1StringView key, const QString &value
         row.insert(key, value);
 }
 
-/// A version without the letter that rows put in front.
+/// A version without the prefix "v" that rows have.
 QString plainVersion(const QString &vision)
 {
     return vision.startsWith(QLatin1Char('v')) ? vision.sliced(1) : vision;
@@ -102,8 +102,7 @@ QString deviceTypeOf(const DeviceListLine &line)
     const QString &type = line[ListColumn::DeviceType];
     if (type == ListWord::traffic)
         return trafficWord;
-    // Lists that this tool writes name video walls by another word, which could be a type of its own
-    // elsewhere.
+    // Exported lists use another word for video walls; in other categories that word may be a device type.
     const bool isVideoWall = line[ListColumn::DeviceCategory] == ListWord::videoWall;
     return isVideoWall && type == ListWord::videoWallType ? QString(videoWallWord) : type;
 }
@@ -122,7 +121,7 @@ void completeFrom(QJsonObject &row, const DeviceListLine &line, bool hasRecord)
         insertMissing(row, maskKey, line[ListColumn::SubnetMask]);
         insertMissing(row, gatewayKey, line[ListColumn::Gateway]);
     }
-    // A list without that column leaves the state as the login has found it.
+    // Without that column the state is the one that the login has found.
     if (!line[ListColumn::InitStatus].isEmpty())
         row.insert(DeviceRowKey::state, line[ListColumn::InitStatus] == ListWord::initialised);
 }

@@ -1,4 +1,4 @@
-// What the columns of a device list say of a device.
+// Conversion between device rows and lines of a device list.
 #pragma once
 
 #include "device/accounts/accountchoice.h"
@@ -9,21 +9,21 @@
 
 #include <optional>
 
-/// What is known of a device that goes into a list.
+/// A device to export.
 struct ListedDevice
 {
-    QJsonObject row;                         ///< empty when only its search record is left
-    std::optional<sdk::SearchAnswer> record; ///< nothing for a device that no search has found
+    QJsonObject row;                         ///< empty if only a search record is left
+    std::optional<sdk::SearchAnswer> record; ///< nullopt if no search has found the device
 };
 
-/// The line of a device. Its row counts, since that is what the user sees and what requests go to; the search
-/// record tells what rows do not. A device whose row has no account gets `usual`, with which the tool would
-/// log in to it, unless it waits for its first password and has none.
+/// The line of a device. Values come from the row, which the user sees; the search record provides what rows
+/// do not have. A device without an account in its row gets `usual`, the account that would be used to log
+/// in, unless it is not initialised.
 [[nodiscard]] DeviceListLine listLineOf(const ListedDevice &device, const DeviceAccount &usual);
 
-/// The device's own word for the type that a line names.
+/// The device type (as devices report it) that a line means.
 [[nodiscard]] QString deviceTypeOf(const DeviceListLine &line);
 
-/// Adds to the row of a device what the device has not told itself, and its state as the line has it. What
-/// only a search record would hold goes under the keys of the device's detail.
+/// Fills empty fields of a device's row from a line of a list, and sets its state from the line. Values that
+/// normally come from a search record are set under the keys of the device's detail, unless `hasRecord`.
 void completeFrom(QJsonObject &row, const DeviceListLine &line, bool hasRecord);

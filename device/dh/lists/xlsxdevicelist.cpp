@@ -14,8 +14,8 @@ constexpr int instructionRow = 1;
 constexpr int headerRow = 2;
 constexpr double instructionHeight = 165; // eleven lines of the default font, in points
 
-/// For whoever fills in the list by hand before it goes to a management platform. Chinese in every language:
-/// so are the headers that they speak of.
+/// Instructions for users who edit the list before importing it to a management platform. Chinese in every
+/// language, like the headers that they refer to.
 QString instructions()
 {
     return QStringLiteral("1、带“*”必须填写；\n"
@@ -61,7 +61,7 @@ bool writeHead(QExcel &workbook)
 
 bool writeXlsx(const QString &path, const std::vector<DeviceListLine> &lines)
 {
-    QExcel workbook; // says itself in the log what failed
+    QExcel workbook; // logs its errors
     return workbook.createWorkbook() && writeHead(workbook) && writeRows(workbook, lines) &&
            workbook.saveAs(path);
 }
@@ -78,7 +78,7 @@ DeviceListContents readXlsx(const QString &path)
     }
     const int first = workbook.firstUsedRow();
     const int count = workbook.usedRowCount();
-    // A stray cell far down makes a sheet long: what is between is not gone through.
+    // A stray cell far down makes the used range very long: refused instead of read.
     constexpr int maximumRows =
         static_cast<int>(DeviceListContents::maximumLines) + DeviceListTable::maximumRowsAbove;
     if (count > maximumRows) {

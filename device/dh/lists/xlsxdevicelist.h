@@ -1,12 +1,12 @@
-// Device lists as workbooks.
+// Device lists as workbooks. Any thread.
 #pragma once
 
 #include "device/dh/lists/devicelistline.h"
 
-/// Writes the list into a workbook: instructions for filling it in, the headers, then a row for each device.
-/// The file is replaced as a whole; on failure it is as it was, and false is returned.
+/// Writes a list to a workbook: instructions, headers, then a row for each device. The file is replaced
+/// atomically. On failure it is unchanged, and false is returned.
 [[nodiscard]] bool writeXlsx(const QString &path, const std::vector<DeviceListLine> &lines);
 
-/// Reads a list from the first sheet of a workbook, with or without the instructions. How large the workbook
-/// may be is for the engine that opens it to say.
+/// Reads a list from the first sheet of a workbook, with or without the instructions. Errors are in
+/// DeviceListContents::refusal. QExcel limits the size of the workbook.
 [[nodiscard]] DeviceListContents readXlsx(const QString &path);

@@ -18,17 +18,17 @@ namespace {
 constexpr std::string_view rootName("deviceList");
 constexpr const char *deviceName = "device";
 
-/// A list is three elements deep; what somebody adds to one may be a little deeper.
+/// A list has three levels; extensions may add a few.
 constexpr int maximumDepth = 16;
 
 /// A list of 100,000 devices takes 450 MB by the count of neededXmlMemory().
 constexpr qint64 maximumMemory = 512LL * 1024 * 1024;
 
-/// Texts stay as the file has them: references are replaced here, where an unknown one is noticed.
+/// References are not replaced by the parser: resolved() does it and detects unknown ones.
 constexpr unsigned int parseFlags = pugi::parse_cdata | pugi::parse_eol | pugi::parse_doctype |
                                     pugi::parse_ws_pcdata_single | pugi::parse_embed_pcdata;
 
-/// True for what may stand in XML.
+/// Whether a character is allowed in XML.
 bool isXmlCharacter(char32_t character)
 {
     if (character < 0x20)
@@ -37,11 +37,12 @@ bool isXmlCharacter(char32_t character)
            !QChar::isSurrogate(character);
 }
 
-/// Where the first byte is that begins no character of XML, or about there; nothing when the text is clean.
+/// Approximate index of the first byte that is not valid UTF-8 or not an XML character; nullopt if there is
+/// none.
 std::optional<qsizetype> strangeByte(QByteArrayView text)
 {
-    constexpr qsizetype piece = 4096;
-    // A sequence that the end of the text cuts off is no error to the decoder.
+    constexpr qsizetype piece = 4096; // chunk size
+    // The decoder does not report a sequence that is truncated at the end of the text.
     if (!text.isEmpty() && (text.back() & 0x80) != 0 && !text.isValidUtf8())
         return text.size();
     QStringDecoder decoder(QStringDecoder::Utf8);
@@ -57,8 +58,8 @@ std::optional<qsizetype> strangeByte(QByteArrayView text)
     return std::nullopt;
 }
 
-/// The encoding that an XML declaration names, unless it is one of Unicode: where the declaration can be read
-/// byte by byte that is UTF-8, whatever it says. Empty otherwise.
+/// The encoding of the XML declaration. Empty if it is a Unicode encoding: a declaration that is readable
+/// byte by byte is UTF-8 then.
 QByteArray declaredEncoding(const QByteArray &text)
 {
     constexpr qsizetype longestDeclaration = 256;
@@ -70,7 +71,7 @@ QByteArray declaredEncoding(const QByteArray &text)
     return name.toUpper().startsWith("UTF") ? QByteArray() : name;
 }
 
-/// The character that a reference stands for, given without "&" and ";"; nothing when it stands for none.
+/// The character of a reference, which is given without "&" and ";"; nullopt if it is invalid.
 std::optional<QString> referenced(QStringView reference)
 {
     constexpr std::pair<QLatin1StringView, char16_t> known[] = {{QLatin1StringView("amp"), u'&'},
@@ -93,7 +94,7 @@ std::optional<QString> referenced(QStringView reference)
     return QString::fromUcs4(&code, 1);
 }
 
-/// A text with its references replaced; nothing when one of them stands for nothing.
+/// A text with its references replaced; nullopt if one of them is invalid.
 std::optional<QString> resolved(const QString &text)
 {
     QString result;
@@ -112,7 +113,7 @@ std::optional<QString> resolved(const QString &text)
     return result;
 }
 
-/// The text of an element; nothing when it holds other elements, or a reference to nothing.
+/// The text of an element; nullopt if it contains elements or an invalid reference.
 std::optional<QString> textOf(pugi::xml_node element)
 {
     std::optional<QString> text = resolved(QString::fromUtf8(element.value()));
@@ -150,13 +151,13 @@ private:
             return refuse(*at, "a character that is none of UTF-8 or XML");
         if (sheets::neededXmlMemory(m_text) > maximumMemory)
             return refuse(0, "too many elements");
-        // The parser works on a copy, since it changes the text that lines are counted in.
+        // The parser modifies its input; m_text is kept for counting lines.
         const auto result = m_document.load_buffer(m_text.constData(), std::size_t(m_text.size()), parseFlags,
                                                    pugi::encoding_utf8);
         return result || refuse(result.offset, result.description());
     }
 
-    /// Makes UTF-8 of the text.
+    /// Converts the text to UTF-8.
     bool decode()
     {
         const auto byMark = QStringConverter::encodingForData(m_text, u'<');
@@ -176,7 +177,7 @@ private:
         return true;
     }
 
-    /// One root element of the right name, no document type, and nothing too deep.
+    /// Requires one root element with the right name, no document type, and a limited depth.
     bool checkShape()
     {
         const pugi::xml_node root = m_document.document_element();
@@ -220,8 +221,7 @@ private:
         return true;
     }
 
-    /// The number of the line that a place in the text is in. Places are asked for in their order, so that
-    /// the text is gone through once.
+    /// The line number of an offset in the text. Offsets must be ascending, so that the text is counted once.
     int lineAt(std::ptrdiff_t place)
     {
         const qsizetype end = std::clamp<qsizetype>(place, m_countedTo, m_text.size());

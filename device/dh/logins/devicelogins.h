@@ -1,4 +1,4 @@
-// Logging in to listed devices with the accounts that are chosen for them.
+// Logins to listed devices with the account that belongs to each.
 #pragma once
 
 #include "device/accounts/accountchoice.h"
@@ -14,34 +14,34 @@
 
 class DeviceStore;
 
-/// Chooses the accounts of devices and logs in with them. Any thread, but for what changes the accounts. The
-/// logins block for the waits of the library.
+/// Chooses the accounts of devices and logs in with them. Thread-safe, except for the setters. Logins block
+/// for the timeouts of the device library.
 class DeviceLogins
 {
 public:
     DeviceLogins(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries);
 
-    /// The accounts that the user keeps for devices. Before anything else is called.
+    /// Sets the function that returns stored accounts. Must be called before any other function.
     void setStoredAccounts(const AccountChoice::Stored &stored) { m_accounts.setStored(stored); }
 
-    /// On the scene's thread.
+    // Main thread.
     void setDefaultAccount(const DeviceAccount &account) { m_accounts.setDefault(account); }
     void setFollowingAccount(const DeviceAccount &account) { m_accounts.setFollowing(account); }
 
     [[nodiscard]] const AccountChoice &accounts() const { return m_accounts; }
 
-    /// Of the device's row; the default account for what the row does not have.
+    /// The account in the device's row; if it has none, the stored or default account (see AccountChoice).
     [[nodiscard]] DeviceAccount accountAt(const QString &ipport) const;
     [[nodiscard]] DeviceAccount accountOf(const QJsonObject &row) const;
 
-    /// Logs in as secureLogin() does, and notes in the row whether the device has let the account in.
+    /// Logs in with secureLogin() and sets "loggedIn" of the device's row. The caller logs out.
     [[nodiscard]] SecureLogin logIn(const QString &ipport, const DeviceAccount &account) const;
 
-    /// Notes in the row whether the device has let its account in.
+    /// Sets "loggedIn" of the device's row to whether `result` is a success.
     void note(const QString &ipport, LoginResult result) const;
 
-    /// Runs `work` in a login of its own, unless the step ends first. The outcome of a login that fails is
-    /// its result.
+    /// Logs in, runs `work` unless `control` ends the step before, and logs out. Returns the outcome of
+    /// `work`, or the result of a failed login.
     [[nodiscard]] StepOutcome inLogin(const QString &ipport, const DeviceAccount &account,
                                       const StepControl &control,
                                       const std::function<StepOutcome(sdk::LLONG loginHandle)> &work) const;

@@ -19,7 +19,7 @@ bool isText(const QJsonObject &row, QLatin1StringView key)
     return !row.value(key).toString().isEmpty();
 }
 
-/// Whether a login would add something to a row. A device without its first password takes no login.
+/// Whether a login can add something to a row. Uninitialised devices accept no login.
 bool lacksSomething(const QJsonObject &row)
 {
     return row.value(DeviceRowKey::state).toBool() &&
@@ -122,7 +122,7 @@ void FoundLogins::complete(const QString &name, const QString &ipport, std::int6
         !session.queryBlock(sdk::QueryCommand::DeviceAttributes, attributes, ConfigSession::usualWait))
         return;
     const QString mac = fieldText(attributes.mac);
-    const bool isMacFree = m_store->row(mac).isEmpty(); // another row keeps the MAC that it has
+    const bool isMacFree = m_store->row(mac).isEmpty(); // no other row has this MAC
     bool isChanged = false;
     m_store->changeRowNamed(name, [&](QJsonObject &row) {
         isChanged = false;

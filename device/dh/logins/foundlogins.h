@@ -17,11 +17,12 @@
 
 class DeviceStore;
 
-/// Logs in to the devices that a search finds, with the account of each, and completes their rows: model,
-/// version and MAC, and the serial number of the search record. What a row holds already stays.
+/// Logs in to the devices that a search finds and fills empty fields of their rows: model, version, MAC, and
+/// the serial number of the search record. Existing values are kept.
 ///
-/// A device is asked once in a search. One that has refused its account is not asked again until it has
-/// another one: wrong passwords lock accounts. Requests run on threads of the object. Thread-safe.
+/// A device gets one login in a search. A device that has refused its account gets no further login until its
+/// account changes, since wrong passwords lock accounts. Logins run on up to 8 threads of this object.
+/// Thread-safe.
 class FoundLogins : public QObject
 {
     Q_OBJECT
@@ -29,23 +30,24 @@ public:
     FoundLogins(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries);
     ~FoundLogins() override;
 
-    /// A search begins. No device is asked in it without `accounts`.
+    /// Called when a search starts. nullopt: no logins in this search.
     void begin(const std::optional<AccountChoice> &accounts);
 
-    /// Asks the listed devices that were not asked in this search and lack something. Returns at once.
+    /// Starts logins to the listed devices that have not had one in this search and lack a value. Returns
+    /// immediately.
     void askNew();
 
-    /// Drops what has not begun, and asks no further device until the next search.
+    /// Drops logins that have not started, and starts no further ones until the next begin().
     void stop();
 
-    /// Blocks until no login is under way.
+    /// Blocks until no login is running.
     void waitForDone();
 
-    /// As stop(), for good: what has begun ends at its next request.
+    /// stop() permanently; running logins end at their next request.
     void requestStop();
 
 Q_SIGNALS:
-    /// From any thread.
+    /// Emitted on any thread.
     void rowsChanged();
 
 private:
@@ -56,11 +58,11 @@ private:
     const sdk::SdkLibraries m_libraries;
     std::stop_source m_stop;
 
-    std::mutex m_mutex;                      ///< of what follows
-    std::optional<AccountChoice> m_accounts; ///< nothing while no device is asked
-    QSet<QString> m_asked;                   ///< names of the rows, in this search
+    std::mutex m_mutex;                      ///< guards m_accounts, m_asked and m_refused
+    std::optional<AccountChoice> m_accounts; ///< nullopt while no logins are made
+    QSet<QString> m_asked;                   ///< names of the rows with a login in this search
     QHash<QString, DeviceAccount>
-        m_refused; ///< which account a device refused last, by name and address of its row
+        m_refused; ///< account that a device refused last, by name and by address of its row
 
-    QThreadPool m_threads; ///< ends before what its tasks use
+    QThreadPool m_threads; ///< declared last: joined before the other members are destroyed
 };

@@ -13,7 +13,7 @@ StepOutcome outcomeOf(LoginResult result)
     return {.result = resultCode(result), .text = {}};
 }
 
-/// The outcome when there is no local port that leads to the device.
+/// The outcome if no local port to the device can be opened.
 StepOutcome noTunnel(const QString &fault)
 {
     const QString text =
@@ -56,7 +56,7 @@ StepOutcome RowAdding::addThroughTunnel(const DeviceToAdd &device, const StepCon
                                               : logIn(device, localPort, control, review, webPort);
     if (outcome.result == resultCode(LoginResult::Success))
         m_ports->pair(localPort, m_ports->portFor(device.address, webPort, 0));
-    // The port of a device that the table has, or that others work with, stays whatever came of this.
+    // The port stays open if the store has a row for it or others use it.
     m_ports->giveBack(
         localPort, [&] { return !m_store.rowAt(QStringLiteral("127.0.0.1:%1").arg(localPort)).isEmpty(); });
     return outcome;

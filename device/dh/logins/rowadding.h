@@ -1,4 +1,4 @@
-// Adding devices to the table.
+// Adds devices to the device store.
 #pragma once
 
 #include "device/dh/logins/rowlogin.h"
@@ -10,34 +10,34 @@
 class DeviceStore;
 class P2PPorts;
 
-/// Logs in to devices, by their address or through a local port, and puts their rows into the table. Works on
-/// any thread, but on one device on one thread at a time. Blocks for the waits of the libraries.
+/// Logs in to devices, by address or through a local port, and puts their rows into the store. Thread-safe,
+/// except for two calls for one device. Blocks for the timeouts of the libraries.
 class RowAdding
 {
 public:
-    /// Looks at a login that went well, and may change its row before it is kept. What it returns is the
-    /// outcome then, and no row is kept.
+    /// Called after a successful login; may change the row. If it returns an outcome, that is the result and
+    /// no row is stored.
     using Review = std::function<std::optional<StepOutcome>(RowLoginOutcome &login)>;
 
-    /// `store` and `ports` live longer than this. `ports` leads to devices behind NAT, null when nothing
-    /// does.
+    /// `store` and `ports` must outlive this object. `ports` opens local ports to devices behind NAT; may be
+    /// null.
     RowAdding(DeviceStore &store, sdk::SdkLibraries libraries, P2PPorts *ports);
 
     [[nodiscard]] DeviceStore &store() const { return m_store; }
 
-    /// The row takes the place of the one that the device has already. A local port that was opened in vain
-    /// is released.
+    /// Logs in and stores the row, replacing an existing row of the device. Releases a local port that is not
+    /// needed. `review` may be empty.
     [[nodiscard]] StepOutcome add(const DeviceToAdd &device, const StepControl &control,
                                   const Review &review) const;
 
-    /// The same without a review, but not for an address and port that a row has already.
+    /// Same without a review. AlreadyListed if a row has this address and port.
     [[nodiscard]] StepOutcome addNew(const DeviceToAdd &device, const StepControl &control) const;
 
 private:
     [[nodiscard]] StepOutcome addThroughTunnel(const DeviceToAdd &device, const StepControl &control,
                                                const Review &review) const;
-    /// Logs in at `port`, which with P2P is the local end of the tunnel. Sets the port of the device's web
-    /// page.
+    /// Logs in at `port` (with P2P the local end of the tunnel). Sets `webPort` to the port of the device's
+    /// web page.
     [[nodiscard]] StepOutcome logIn(const DeviceToAdd &device, int port, const StepControl &control,
                                     const Review &review, int &webPort) const;
 

@@ -23,7 +23,7 @@ constexpr int defaultWebPort = 80;
 
 const QString loopback = QStringLiteral("127.0.0.1");
 
-/// The type word of a device-type code. Kinds without a word of their own are looked up by name.
+/// The type name of a device type code.
 QString typeName(std::uint8_t code)
 {
     switch (static_cast<sdk::DeviceTypeCode>(code)) {
@@ -58,7 +58,7 @@ QString loginTypeName(ReachedBy reachedBy)
     return otherDeviceType();
 }
 
-/// What is asked of a device after its login, zeroed where it gave no answer.
+/// The responses of a device after login; zero for a query without response.
 struct Answers
 {
     sdk::DeviceAttributes attributes{};
@@ -68,7 +68,7 @@ struct Answers
     sdk::NetworkServices services{};
 };
 
-/// Reads a configuration text and unpacks it into `record`.
+/// Reads a configuration text and parses it into `record`.
 template<typename Record>
 void readConfiguration(const sdk::SdkLibraries &libraries, std::int64_t handle, const char *name, int channel,
                        std::uint32_t textSize, std::chrono::milliseconds wait, Record &record)
@@ -85,7 +85,7 @@ void readConfiguration(const sdk::SdkLibraries &libraries, std::int64_t handle, 
                                       returned);
 }
 
-/// Nothing when `control` ended it between two queries.
+/// Queries the device. Returns nullopt if `control` ends the step between two queries.
 std::optional<Answers> askDevice(const sdk::SdkLibraries &libraries, std::int64_t handle,
                                  const StepControl &control)
 {
@@ -120,7 +120,7 @@ int webPort(const Answers &answers)
     return port > 0 && port <= 65535 ? port : defaultWebPort;
 }
 
-/// The answer of one address, collected from a thread of the library.
+/// Stores the response to a directed search, which arrives on a thread of the library.
 class DirectedAnswer
 {
 public:
@@ -192,7 +192,7 @@ QJsonObject rowOf(const RowLoginRequest &request, const sdk::LoginDeviceInformat
     return row;
 }
 
-/// Takes over what only a search answer tells.
+/// Copies the values that are better known from a search response.
 void completeFrom(QJsonObject &row, const sdk::SearchAnswer &answer)
 {
     const QJsonObject found = ipv4Row(answer);

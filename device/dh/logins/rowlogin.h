@@ -1,4 +1,4 @@
-// Logging in to a device by hand, to make its row.
+// Logs in to one device to make its row.
 #pragma once
 
 #include "device/registry/devicestep.h"
@@ -18,27 +18,27 @@ enum class ReachedBy : int
     P2P = 1,     ///< by its P2P ID, through a local port of the port agent
 };
 
-/// A device to log in to.
+/// Parameters of loginForRow().
 struct RowLoginRequest
 {
     QString address; ///< IPv4 text, or the P2P ID
     QString account;
     QString password;
-    int port = 0; ///< of the device, or the local port that leads to it
+    int port = 0; ///< port of the device, or local port of the tunnel
     ReachedBy reachedBy = ReachedBy::Address;
-    QString devicePort; ///< with P2P: the device's own port
+    QString devicePort; ///< with P2P: port of the device itself
 };
 
-/// What came of it.
+/// Result of loginForRow().
 struct RowLoginOutcome
 {
     LoginResult result = LoginResult::Unknown;
-    QJsonObject row;                         ///< of a successful login; its "num" is left to the store
-    std::optional<sdk::SearchAnswer> record; ///< what the device answered to a search of its address alone
+    QJsonObject row;                         ///< of a successful login; the store sets "num"
+    std::optional<sdk::SearchAnswer> record; ///< response to a directed search of the address
 };
 
-/// Logs in, reads what a row tells about the device, and logs out again. Blocks for the waits of the library,
-/// up to 5 s for each query. Queries that fail leave their part of the row empty. NotDone when `control`
-/// ended it between two requests.
+/// Logs in, queries the values of a row, and logs out. Blocks for the timeouts of the library, up to 5 s for
+/// each query. A failed query leaves its part of the row empty. NotDone if `control` ends the step between
+/// two requests. Any thread.
 [[nodiscard]] RowLoginOutcome loginForRow(const sdk::SdkLibraries &libraries, const RowLoginRequest &request,
                                           const StepControl &control = StepControl());

@@ -23,7 +23,7 @@ namespace {
 const QString allChannels = QStringLiteral("liveCapture");
 const QString oneChannel = QStringLiteral("againCapture");
 
-/// A text as the name of a folder: what would lead elsewhere, or what no file system takes, is replaced.
+/// Converts a text to a folder name: replaces path separators and characters that file systems do not accept.
 QString folderName(const QString &text)
 {
     QString name = text.left(120);
@@ -48,7 +48,7 @@ int snapResult(SnapProblem problem)
     }
 }
 
-/// Why a picture for an overview is missing, in the user's language.
+/// Why an image is missing, in the user's language.
 QString missingPictureText(const SnapOutcome &outcome)
 {
     if (outcome.problem != SnapProblem::NoPicture)
@@ -57,8 +57,8 @@ QString missingPictureText(const SnapOutcome &outcome)
                                     : outcome.reason;
 }
 
-/// A hidden live view starts timers, which the toolkit allows on its own threads only. Those of the engine
-/// are not.
+/// Runs takeSnapshot() on a QThread. A hidden live view starts timers, which Qt allows on a QThread only; the
+/// threads of the engine are not QThreads.
 SnapOutcome snapshotOnThread(const SnapTask &task, const SnapChannel &channel, const std::stop_token &stop)
 {
     SnapOutcome outcome;
@@ -126,7 +126,7 @@ QList<DeviceStep> PictureOperations::snapshotSteps(const QString &address)
 {
     if (m_session.handle() == 0)
         return {};
-    // The device is asked once which channels have a camera, by the first step.
+    // The first step that runs queries which channels have a camera.
     struct Channels
     {
         std::once_flag asked;
@@ -155,9 +155,9 @@ DeviceStep PictureOperations::pictureStep(const PictureOrder &order)
     const QJsonValue state = row.value(DeviceRowKey::state);
     return [this, order, account = m_logins.accountOf(row),
             isInitialised = !state.isBool() || state.toBool()](const StepControl &control) {
-        if (!isInitialised) // it takes no login
+        if (!isInitialised) // an uninitialised device accepts no login
             return StepOutcome{.result = resultCode(LoginResult::NotInitialised), .text = {}};
-        if (m_isUpgradingAt(order.ipport)) // nothing comes between a device and its firmware
+        if (m_isUpgradingAt(order.ipport)) // requests could disturb the upgrade
             return StepOutcome{.result = resultCode(LoginResult::Upgrading), .text = {}};
         const SecureLogin login =
             secureLogin(m_libraries.net.get(), order.ipport, account.account, account.password);
@@ -177,7 +177,7 @@ StepOutcome PictureOperations::takePictures(const PictureOrder &order, const Sec
         const QList<bool> connected = connectedChannels(session, login.channelCount);
         channels.append({order.onlyChannel, connected.value(order.onlyChannel, true)});
     } else {
-        const int count = std::max(1, login.channelCount); // a device that says nothing of them has one
+        const int count = std::max(1, login.channelCount); // a device that reports no channels has one
         const QVariantList found = liveChannels(session, std::min(count, PictureOrder::maximumChannels));
         for (const QVariant &channel : found) {
             const QVariantMap values = channel.toMap();
@@ -188,7 +188,7 @@ StepOutcome PictureOperations::takePictures(const PictureOrder &order, const Sec
             order.found(found, count);
     }
 
-    // Many devices at a time are slow, but a step has to come to all of its channels.
+    // Images of many devices at the same time are slow: more tries, until the first channel fails.
     SnapTask task = {.kind = {},
                      .folder = order.folder,
                      .isDeviceCurrent = [] { return true; },
@@ -205,7 +205,7 @@ StepOutcome PictureOperations::takePictures(const PictureOrder &order, const Sec
         if (outcome.problem == SnapProblem::NoPicture)
             task.tries = snapTries;
         else
-            control.noteProgress(); // a recorder has many
+            control.noteProgress(); // each image restarts the deadline: a recorder has many channels
         if (outcome.problem != SnapProblem::None && ++failures == 1)
             failure = {.result = snapResult(outcome.problem), .text = missingPictureText(outcome)};
         if (order.taken && !(outcome.problem == SnapProblem::NoPicture && control.shouldEnd()))

@@ -1,4 +1,4 @@
-// Pictures of channels as files: of the current session's device, and of others for an overview.
+// Saves images of channels to files: snapshots of sessions, and images of many devices.
 #pragma once
 
 #include "device/registry/backendsignals.h"
@@ -21,7 +21,8 @@ class SnapThread;
 struct SecureLogin;
 struct SnapTask;
 
-/// Lives on the scene's thread; its steps run on any other.
+/// Takes snapshots (one image of a live view) and writes them to files. Lives on the main thread; its steps
+/// run on any thread.
 class PictureOperations
 {
     Q_DECLARE_TR_FUNCTIONS(PictureOperations)
@@ -33,30 +34,30 @@ public:
     PictureOperations(const PictureOperations &) = delete;
     PictureOperations &operator=(const PictureOperations &) = delete;
 
-    /// Returns at once; the snapshots of the current session's device are taken one after another on a thread
-    /// of their own. `address` names the device's folder.
+    /// Takes snapshots of the current session's device one after another on a separate thread and returns
+    /// immediately. `address` is the name of the device's folder. See CDeviceBase::snapPictureToFile().
     void takeSnapshots(const QString &kind, int channel, const QString &address);
 
-    /// As CDeviceBase::snapshotSteps().
+    /// See CDeviceBase::snapshotSteps().
     [[nodiscard]] QList<DeviceStep> snapshotSteps(const QString &address);
 
-    /// A snapshot in a login of a live view, see OwnSession::takePicture(). Any thread.
+    /// Takes a snapshot with the login of a live view, see OwnSession::takePicture(). Any thread; blocks.
     [[nodiscard]] static OwnPicture takeOwnPicture(const sdk::SdkLibraries &libraries,
                                                    const OwnPictureOrder &order, const StepControl &control);
 
-    /// As CDeviceBase::pictureStep().
+    /// See CDeviceBase::pictureStep().
     [[nodiscard]] DeviceStep pictureStep(const PictureOrder &order);
 
-    /// Gives up the snapshots that takeSnapshots() has begun, and waits for their thread.
+    /// Cancels the snapshots of takeSnapshots() and waits for their thread.
     void giveUpSnapshots();
 
 private:
-    /// Of one channel, or of all for -1.
+    /// Task for one channel (from 0), or for all with -1.
     [[nodiscard]] SnapTask snapTask(const QString &kind, int onlyChannel, const QString &address) const;
-    /// Takes the pictures of an order in a login. Any thread.
+    /// Takes the images of an order with a login. Any thread.
     [[nodiscard]] StepOutcome takePictures(const PictureOrder &order, const SecureLogin &login,
                                            const StepControl &control) const;
-    /// Any thread.
+    /// Emits the signal for one snapshot. Any thread.
     void noteSnapshot(const QString &kind, int channel, const QString &path, const QString &message);
 
     const std::shared_ptr<DeviceStore> m_store;

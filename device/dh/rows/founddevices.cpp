@@ -91,7 +91,7 @@ DeviceStep FoundDevices::addressStep(const QString &mac, const QString &newip, c
                                      const QString &newgateway, bool dhcpON)
 {
     const QJsonObject row = m_store->row(mac);
-    // A device that is not listed may be found by the time that the step runs.
+    // A device without a row may be found before the step runs: the account is chosen by MAC.
     const DeviceAccount credentials =
         m_logins.accountOf(row.isEmpty() ? QJsonObject{{DeviceRowKey::mac, mac}} : row);
     return [=, this](const StepControl &control) {
@@ -122,7 +122,7 @@ StepOutcome FoundDevices::requestAddress(const QString &mac, const QString &newi
             setText(input.device.subnetMask, newsubmask);
             setText(input.device.gateway, newgateway);
         }
-        sdk::ModifyDeviceInput request = input; // only this one has the password: `input` is kept
+        sdk::ModifyDeviceInput request = input; // the password is only in this copy; `input` is stored below
         request.device.currentAddress = record->device.address;
         setText(request.device.account, credentials.account);
         setText(request.device.password, credentials.password);
@@ -130,12 +130,12 @@ StepOutcome FoundDevices::requestAddress(const QString &mac, const QString &newi
         const sdk::CallStop callStop(control.stopToken(), [&control] { return control.isLate(); });
         if (!m_libraries.net->NetModifyDeviceBySearch(request, output, searchRequestWait))
             result = loginResultOf(m_libraries.net->NetGetLastError());
-        if (result == LoginResult::Cancelled) // before anything was sent
+        if (result == LoginResult::Cancelled) // no request was sent
             return noteResult(mac, LoginResult::NotDone);
     }
 
-    // The row shows what was asked for, whatever came of it: the result stands beside it, and the next search
-    // shows the true address. With DHCP the address is not known until then: the row has none.
+    // The row shows the requested address even after a failure; "res" shows the result, and the next search
+    // the actual address. With DHCP the address is unknown until then and empty in the row.
     const QString address = dhcpON ? QString() : newip;
     m_store->changeRow(mac, [&](QJsonObject &row) {
         const QStringList parts = row.value(DeviceRowKey::ipport).toString().split(QLatin1Char(':'));
@@ -145,7 +145,7 @@ StepOutcome FoundDevices::requestAddress(const QString &mac, const QString &newi
     });
     if (record) {
         if (result == LoginResult::Success && input.size != 0)
-            record->device = input.device; // with its mask, its gateway and how it gets its address
+            record->device = input.device; // new mask, gateway and DHCP state
         setText(record->device.address, address);
         m_store->putRecord(mac, *record);
     }

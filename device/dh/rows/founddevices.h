@@ -1,4 +1,4 @@
-// Requests to devices that a search has found: the first password, and a new address.
+// Requests to found devices that need no login: initialisation and address changes.
 #pragma once
 
 #include "device/accounts/accountchoice.h"
@@ -13,39 +13,41 @@
 class DeviceLogins;
 class DeviceStore;
 
-/// The requests need no session: they go where the search record leads. Their results stand in "res" of the
-/// rows. Lives on the scene's thread; its steps run on any other.
+/// Sends requests to devices that a search has found, using their search records. Writes the results to "res"
+/// of the rows. Lives on the main thread; its steps run on any thread.
 class FoundDevices
 {
     Q_DECLARE_TR_FUNCTIONS(FoundDevices)
 public:
-    /// `isUpgrading` takes the names of rows.
+    /// `isUpgrading` takes row names.
     FoundDevices(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries, const DeviceLogins &logins,
                  UpgradeCheck isUpgrading);
 
-    /// Blocks for the device; any thread.
+    /// Initialises a device: creates its first account. Any thread; blocks for the device.
     StepOutcome giveFirstPassword(const QString &mac, const QString &account, const QString &password);
 
-    /// Of giveFirstPassword(), for a device that a search has found.
+    /// Step of giveFirstPassword(); fails for a device that no search has found.
     [[nodiscard]] DeviceStep firstPasswordStep(const QString &mac, const QString &account,
                                                const QString &password);
 
-    /// A device that is being upgraded is not asked; "res" says so. Blocks for the device.
+    /// Changes the address of a device. Result Upgrading, without a request, during an upgrade. Blocks for
+    /// the device.
     void changeAddress(const QString &mac, const QString &newip, const QString &newsubmask,
                        const QString &newgateway, bool dhcpON);
 
-    /// Of changeAddress(), for a device that a search has found.
+    /// Step of changeAddress(); fails for a device that no search has found.
     [[nodiscard]] DeviceStep addressStep(const QString &mac, const QString &newip, const QString &newsubmask,
                                          const QString &newgateway, bool dhcpON);
 
 private:
-    // On any thread.
+    // Any thread.
 
-    /// Whether a search has reported how the device is reached without a login.
+    /// Whether the device's search record has a MAC or UUID, which the requests need.
     [[nodiscard]] bool isFound(const QString &mac) const;
     StepOutcome requestAddress(const QString &mac, const QString &newip, const QString &newsubmask,
                                const QString &newgateway, bool dhcpON, const DeviceAccount &credentials,
                                const StepControl &control);
+    /// Writes the result for a device that no search has found.
     StepOutcome noteNotFound(const QString &mac);
     /// Writes "res" of the device's row.
     StepOutcome noteResult(const QString &mac, LoginResult result);

@@ -44,7 +44,7 @@ bool RowOperations::update(const QString &key, const QVariant &newValue, const Q
     };
     const bool isWritten =
         (!mac.isEmpty() && m_store->changeRowNamed(mac, write)) || m_store->changeRowAt(ipport, write);
-    if (isWritten && key == DeviceRowKey::name) // other values are shown by the page that writes them
+    if (isWritten && key == DeviceRowKey::name) // other values are shown only by the page that writes them
         m_signals.noteChangedRows();
     return isWritten;
 }
@@ -78,7 +78,7 @@ QVariantMap RowOperations::detail(const QString &mac) const
     const AccountChoice::Chosen chosen = m_logins.accounts().of(row);
     if (chosen.source == AccountChoice::Source::Stored)
         detail.insert(DeviceRowKey::username, chosen.account.account);
-    detail.remove(DeviceRowKey::password); // details are shown and handed on
+    detail.remove(DeviceRowKey::password); // details are shown and exported
     const std::optional<sdk::SearchAnswer> record = m_store->record(mac);
     if (!record)
         return detail;

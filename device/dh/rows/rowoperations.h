@@ -1,4 +1,4 @@
-// The rows of devices: what they hold, and how they come and go without a search.
+// Operations on the rows of the device list.
 #pragma once
 
 #include "device/registry/deviceimport.h"
@@ -18,22 +18,23 @@ class DeviceStore;
 class P2PPorts;
 struct RowLoginRequest;
 
-/// Rows are named by MAC, or by address and port where they have none. On the scene's thread.
+/// Reads, changes, adds and removes rows. Rows are named by MAC, or by address and port without one. Lives on
+/// the main thread.
 class RowOperations
 {
 public:
-    /// `isUpgrading` takes the names of rows.
+    /// `isUpgrading` takes row names.
     RowOperations(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries, const DeviceLogins &logins,
                   UpgradeCheck isUpgrading, BackEndSignals &backEndSignals);
 
     /// Logs in to a device and adds its row. Returns a LoginResult. Blocks for the device.
     [[nodiscard]] int add(const RowLoginRequest &request);
 
-    /// The same as CDeviceBase::addingStep(). `ports` leads to devices behind NAT, null when nothing does; it
-    /// lives longer than the step.
+    /// See CDeviceBase::addingStep(). `ports` opens local ports to devices behind NAT; it may be null and
+    /// must outlive the step.
     [[nodiscard]] DeviceStep addingStep(const DeviceToAdd &device, P2PPorts *ports) const;
 
-    // The following are the operations of CDeviceBase that have such names.
+    // Operations of CDeviceBase with similar names (updataDeviceInfo(), getDeviceInfo(), deviceRow(), ...).
 
     bool update(const QString &key, const QVariant &newValue, const QString &mac, const QString &ipport);
     [[nodiscard]] QVariantMap accountOf(const QString &name) const;
@@ -44,8 +45,8 @@ public:
     [[nodiscard]] QVariantList filtered(const QString &filter, const QString &text) const;
     [[nodiscard]] QVariantList filteredIPv6(const QString &filter, const QString &text) const;
 
-    /// The keys of `macs` name the rows; they are addresses and ports when `ipversion` is "IPV6", whose rows
-    /// have no MAC. A row whose device is being upgraded stays.
+    /// Removes the rows named by the keys of `macs`; with `ipversion` "IPV6" the keys are addresses and
+    /// ports, since those rows have no MAC. Keeps rows of devices that are being upgraded.
     void remove(const QVariantMap &macs, const QString &ipversion);
 
 private:

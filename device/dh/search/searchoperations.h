@@ -1,4 +1,4 @@
-// Searches for devices, with the logins to those that they find.
+// Searches for devices, and logins to the found devices.
 #pragma once
 
 #include "device/registry/backendsignals.h"
@@ -16,48 +16,49 @@ class DeviceSearch;
 class DeviceStore;
 class FoundLogins;
 
-/// What a search reads from the local configuration.
+/// Settings of a search.
 struct SearchSettings
 {
     bool localDomain = true; ///< search the local segment
-    bool logsIn = false;     ///< log in to the devices that are found, with the account of each
+    bool logsIn = false;     ///< log in to found devices, each with its account
 };
 
-/// Lives on the scene's thread. Signals of the back end come from threads of the searches.
+/// Implements the search operations of CDeviceBase. Lives on the main thread. Signals of the back end are
+/// emitted on the threads of the searches.
 class SearchOperations
 {
 public:
-    /// `settings` is called at each start of a search.
+    /// `settings` is called at each start of a search, on the main thread.
     SearchOperations(const std::shared_ptr<DeviceStore> &store, const sdk::SdkLibraries &libraries,
                      std::function<SearchSettings()> settings, const DeviceLogins &logins,
                      BackEndSignals &backEndSignals);
 
-    /// Waits for the searches and the logins that run.
+    /// Waits for running searches and logins.
     ~SearchOperations();
     SearchOperations(const SearchOperations &) = delete;
     SearchOperations &operator=(const SearchOperations &) = delete;
 
     void start();
 
-    /// The range of the next search.
+    /// Sets the address range of the next search (host byte order; 0: none).
     void setRange(quint32 begin, quint32 end);
 
-    /// Ends the search that runs: what it has found stays.
+    /// Stops the running search; found devices are kept.
     void stop();
 
-    /// Queries the devices of these rows again.
+    /// Queries the devices of these rows again in the background, see DeviceRefresh::start().
     void refresh(const QStringList &macs);
 
-    /// Of refresh(), as CDeviceBase::locationStep().
+    /// See CDeviceBase::locationStep().
     [[nodiscard]] DeviceStep locationStep(const QStringList &macs);
 
-    /// Ends everything at its next step, and emits nothing any more. Does not wait.
+    /// Stops everything at its next step, without waiting. Emits no further signals.
     void requestEnd();
 
 private:
     const std::function<SearchSettings()> m_settings;
     const DeviceLogins &m_logins;
-    // The logins get the rows of the search, which ends first.
+    // m_search is declared last: it is destroyed first, since it sends its rows to m_foundLogins.
     const std::unique_ptr<DeviceRefresh> m_refresh;
     const std::unique_ptr<FoundLogins> m_foundLogins;
     const std::unique_ptr<DeviceSearch> m_search;

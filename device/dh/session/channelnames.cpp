@@ -39,7 +39,7 @@ QVariantList ChannelNames::names(int count)
     QVariantList all;
     m_isDeviceAway = false;
     for (int channel = 0; channel < std::min(count, maximumChannels); ++channel)
-        all.append(m_isDeviceAway ? QVariant() : name(channel)); // further requests would wait for nothing
+        all.append(m_isDeviceAway ? QVariant() : name(channel)); // further requests would time out as well
     return all;
 }
 

@@ -1,4 +1,4 @@
-// The names of the channels of the logged-in device.
+// Channel names of the logged-in device.
 #pragma once
 
 #include "device/dh/session/configsession.h"
@@ -8,50 +8,50 @@
 
 #include <optional>
 
-/// Reads and writes one name at a time; nothing is kept but how the last write to each channel ended. Blocks
-/// for the waits of the library. One thread.
+/// Reads and writes channel names, one request for each. Stores only the results of writes. Blocks for the
+/// timeouts of the device library. Not thread-safe.
 class ChannelNames
 {
 public:
-    /// Channels beyond are not asked for, however many a device tells of.
+    /// Channels above this number are ignored.
     static constexpr int maximumChannels = 1024;
 
-    static constexpr int refused = 999; ///< by the device
+    static constexpr int refused = 999; ///< result: the device refused the name
 
-    /// Turns to a new session.
+    /// Sets the session and clears the results.
     void begin(const ConfigSession &session);
 
-    /// The name of a channel (from 0); null when the device does not tell it.
+    /// The name of a channel (from 0); null if the device does not report it.
     [[nodiscard]] QVariant name(int channel);
 
-    /// The names of the first `count` channels, as name() gives them. When the device is away, those that
-    /// were not asked for are null.
+    /// The names of the first `count` channels. If the device stops responding, the remaining names are null.
     [[nodiscard]] QVariantList names(int count);
 
-    /// Whether the last reading ended because the device did not answer.
+    /// Whether the last read ended because the device did not respond.
     [[nodiscard]] bool isDeviceAway() const { return m_isDeviceAway; }
 
-    /// Writes the name of a channel. A name of more bytes than the item holds is cut at a letter's edge.
-    /// Returns 0, `refused`, or the result of a device that is away.
+    /// Writes the name of a channel (from 0). A name that is too long for the item is truncated at a
+    /// character boundary. Returns 0, `refused` or deviceAway.
     int write(int channel, const QString &name);
 
-    /// Takes `result`, which is not 0, as that of a write that was not made.
+    /// Stores `result` (not 0) as the result of a write that was not sent.
     void noteFailure(int channel, int result);
 
-    /// Ends a saving, that is the writes since the last one. False when there were none.
+    /// Ends a save, which consists of the writes since the previous endSaving(). Returns false if there were
+    /// none.
     bool endSaving();
 
-    /// How the last saving that has ended went: 0 when the device took every name, else the result of the
-    /// last write that failed; -1 when there was none.
+    /// Result of the last save that has ended: 0 if the device accepted all names, otherwise the result of
+    /// the last failed write; -1 if there was none.
     [[nodiscard]] int savingResult() const { return m_savingResult; }
 
-    /// How the last write to a channel ended; -1 when there was none.
+    /// Result of the last write to a channel; -1 if there was none.
     [[nodiscard]] int result(int channel) const { return m_results.value(channel, -1); }
 
 private:
     ConfigSession m_session;
     QHash<int, int> m_results;   ///< by channel
-    std::optional<int> m_saving; ///< what has come of the writes since the last saving
+    std::optional<int> m_saving; ///< result of the current save; nullopt before its first write
     int m_savingResult = -1;
     bool m_isDeviceAway = false;
 };

@@ -1,4 +1,4 @@
-// Reading and writing a device's configuration through one login.
+// Reads and writes the configuration of a device through one login.
 #pragma once
 
 #include "sdk/neterror.h"
@@ -8,48 +8,49 @@
 #include <chrono>
 #include <vector>
 
-/// A buffer for configuration text, ended by a zero.
+/// Buffer for a configuration text, zero-terminated.
 using ConfigText = std::vector<char>;
 
-/// The result of an operation that a device did not answer, of those that pass no error of the library on.
+/// Result for a device that did not respond, of operations that do not return the library's error.
 inline constexpr int deviceAway = static_cast<int>(sdk::NetError::NetworkFailure);
 
-/// Blocks its caller for the waits of the library. Without a library, or without a login, everything fails.
+/// Typed access to the configuration functions of the device library for one login. Does not own the login.
+/// All functions block for their timeout. Without a library or login they fail. Any thread.
 class ConfigSession
 {
 public:
     ConfigSession() = default;
 
-    /// `handle` is 0 for no login. The login stays its owner's.
+    /// `handle` is the login, 0 for none; the caller logs it out.
     ConfigSession(const sdk::SdkLibraries &libraries, std::int64_t handle);
 
-    /// Whether there is a login.
+    /// Whether a login exists.
     [[nodiscard]] bool isOpen() const { return m_handle != 0; }
     [[nodiscard]] std::int64_t handle() const { return m_handle; }
 
-    /// Wait of requests that have none of their own.
+    /// Timeout of requests without a specific one.
     static constexpr std::chrono::milliseconds usualWait{5000};
 
-    /// Reads a configuration text into `text`, as long as that is. Returns 0, or the error that the call
-    /// reported, which is never 0.
+    /// Reads a configuration text into `text`, whose size is the maximum. Returns 0, or the library's error,
+    /// which is never 0.
     [[nodiscard]] std::int32_t fetchText(const char *name, int channel, ConfigText &text,
                                          std::chrono::milliseconds wait) const;
 
-    /// Unpacks a text into `record`. Returns false, with the record unchanged, when it cannot.
+    /// Parses a text into `record`. Returns false, and leaves the record unchanged, on failure.
     template<typename Record>
     [[nodiscard]] bool unpack(const char *name, const ConfigText &text, Record &record) const
     {
         return unpack(name, text, &record, sizeof(record));
     }
 
-    /// Packs `record` into `text`, as long as that is. Returns false when it cannot.
+    /// Formats `record` into `text`, whose size is the maximum. Returns false on failure.
     template<typename Record>
     [[nodiscard]] bool pack(const char *name, const Record &record, ConfigText &text) const
     {
         return pack(name, &record, sizeof(record), text);
     }
 
-    /// Packs `record` and writes it as a configuration text of up to `textSize` bytes.
+    /// Formats `record` as a configuration text of up to `textSize` bytes and writes it.
     template<typename Record>
     bool write(const char *name, int channel, const Record &record, std::uint32_t textSize,
                std::chrono::milliseconds wait) const
@@ -57,6 +58,8 @@ public:
         ConfigText text(textSize);
         return pack(name, record, text) && writeText(name, channel, text, wait);
     }
+
+    // The following functions send one request each and return false on failure; see lastError().
 
     template<typename Item>
     bool readItem(std::uint32_t number, int channel, Item &item) const
@@ -90,11 +93,10 @@ public:
                filled == sizeof(block);
     }
 
-    /// The error of the failure before, on this thread.
+    /// The library's error of the last failure on this thread; never 0.
     [[nodiscard]] std::uint32_t lastError() const;
 
-    /// Whether the failure before means that the session is lost (isSessionLost()), and not that the device
-    /// refused.
+    /// Whether the last failure on this thread means a lost session (see isSessionLost()) and not a refusal.
     [[nodiscard]] bool isDeviceAway() const;
 
 private:

@@ -1,4 +1,4 @@
-// Logins that are kept open between the check of an old password and the new one.
+// Logins that stay open between the check of the old password and the change to the new one.
 #pragma once
 
 #include <QList>
@@ -14,37 +14,37 @@ namespace sdk {
 class NetLibrary;
 }
 
+/// An open login with its account.
 struct KeptLogin
 {
     std::int64_t loginHandle = 0;
     QString account;
-    QString password; ///< that the account has now
+    QString password; ///< current password of the account
 };
 
-/// One login for each device, by its "address:port". Every login is logged out when it is let go.
-/// Thread-safe.
+/// Keeps one login for each device, by "address:port". Logs out each login that it removes. Thread-safe.
 class KeptLogins
 {
 public:
-    /// `net` may be null; nothing can be kept then.
+    /// `net` may be null; keep() must not be called then.
     explicit KeptLogins(std::shared_ptr<sdk::NetLibrary> net);
     ~KeptLogins();
     KeptLogins(const KeptLogins &) = delete;
     KeptLogins &operator=(const KeptLogins &) = delete;
 
-    /// Keeps a login in place of any other to that device.
+    /// Stores a login; logs out an earlier one to the same device.
     void keep(const QString &ipport, const KeptLogin &login);
 
-    /// The login to a device, if one is kept.
+    /// The login to a device; nullopt if there is none.
     [[nodiscard]] std::optional<KeptLogin> find(const QString &ipport) const;
 
-    /// The account of a kept login has another password now.
+    /// Sets the current password after it was changed on the device.
     void setPassword(const QString &ipport, const QString &password);
 
-    void letGo(const QString &ipport);
-    void letAllGo();
+    void letGo(const QString &ipport); ///< logs out and removes the login to a device
+    void letAllGo();                   ///< logs out and removes all logins
 
-    /// Forgets all logins. Their handles are the caller's from now on.
+    /// Removes all logins without logging out. The caller owns the returned handles.
     [[nodiscard]] QList<std::int64_t> takeAll();
 
 private:

@@ -32,7 +32,7 @@ QVariantList liveChannels(const ConfigSession &session, int count)
 {
     const QList<bool> connected = connectedChannels(session, count);
     QVariantList channels;
-    bool isAway = false; // every further request would wait for nothing
+    bool isAway = false; // further requests would time out as well
     for (int channel = 0; channel < connected.size(); ++channel) {
         sdk::ChannelNameItem item = {};
         item.size = sizeof(item);

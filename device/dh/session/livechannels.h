@@ -1,4 +1,4 @@
-// The channels of a device as the live view and the snapshots see them.
+// Channels of a device for live view and snapshots.
 #pragma once
 
 #include "device/dh/session/configsession.h"
@@ -7,11 +7,12 @@
 #include <QString>
 #include <QVariantList>
 
-/// For each of the `count` channels that a device tells of whether it has a camera. A device that tells of
-/// none has one; those beyond ChannelNames::maximumChannels are left out. A channel that the device says
-/// nothing of counts as connected, and so do all when it does not answer within a second.
+/// Whether each of `count` channels has a camera. At least one and at most ChannelNames::maximumChannels
+/// entries. A channel without a reported state counts as connected, and so do all if the device does not
+/// respond within a second. Blocks; any thread.
 [[nodiscard]] QList<bool> connectedChannels(const ConfigSession &session, int count);
 
-/// Maps of "channel" (from 0), "name" (the device's, else its number) and "connected", for the channels of
-/// connectedChannels(). Blocks for a request per channel, while the device is there.
+/// Maps of "channel" (from 0), "name" (the device's, or its number) and "connected" for the channels of
+/// connectedChannels(). Sends one request for each channel until the device stops responding. Blocks; any
+/// thread.
 [[nodiscard]] QVariantList liveChannels(const ConfigSession &session, int count);

@@ -16,22 +16,22 @@ namespace {
 constexpr std::size_t detailTextSize = 32768;
 constexpr auto everyChannel = -1;
 
-/// Puts in what is not empty: a name or an address that a device leaves out is known from elsewhere.
+/// Inserts a text that is not empty; an empty one must not replace a known value.
 void putText(QVariantMap &detail, QLatin1StringView key, const QString &text)
 {
     if (!text.isEmpty())
         detail.insert(key, text);
 }
 
-/// Numbers come as the device sends them; one below 0 says nothing.
+/// Inserts a number; a negative one means unknown.
 void putNumber(QVariantMap &detail, QLatin1StringView key, std::int32_t number)
 {
     if (number >= 0)
         detail.insert(key, number);
 }
 
-// Each of the following returns false when the device is away: whatever else it is asked would wait for
-// nothing.
+// Each of the following functions returns false if the device does not respond: further requests would time
+// out as well.
 
 bool readAttributes(const ConfigSession &session, QVariantMap &detail)
 {
@@ -48,7 +48,7 @@ bool readAttributes(const ConfigSession &session, QVariantMap &detail)
     return true;
 }
 
-/// Calls `take` with the record of a configuration, if the device has one that can be read.
+/// Calls `take` with the record of a configuration, if it can be read.
 template<typename Record, typename Take>
 bool readRecord(const ConfigSession &session, const char *name, int channel, Take take)
 {

@@ -1,13 +1,13 @@
-// What a device tells of itself once it is logged in to.
+// Details that a device reports after a login.
 #pragma once
 
 #include "device/dh/session/configsession.h"
 
 #include <QVariantMap>
 
-/// Asks for attributes, addresses, ports and the state of the channels. Keys are "serial", "vision", "model",
-/// "mac", "hostName", "address", "submask", "gateway", "dhcp", "servicePort", "maximumConnections",
-/// "webPort", "httpsPort" (0 while it is off), "rtspPort", "channelCount", "connectedCount", "alarmInputs"
-/// and "disks"; those of an answer that does not come are missing. Blocks for the waits of the library; a
-/// device that is away is asked no further.
+/// Reads attributes, addresses, ports and channel states. Keys: "serial", "vision", "model", "mac",
+/// "hostName", "address", "submask", "gateway", "dhcp", "servicePort", "maximumConnections", "webPort",
+/// "httpsPort" (0: off), "rtspPort", "channelCount", "connectedCount", "alarmInputs" and "disks". Keys
+/// without a response are missing. Stops if the device does not respond. Blocks for the timeouts of the
+/// library; any thread.
 [[nodiscard]] QVariantMap loginDetail(const ConfigSession &session);

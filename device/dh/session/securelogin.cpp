@@ -11,12 +11,12 @@ SecureLogin secureLogin(sdk::NetLibrary *net, const QString &ipport, const QStri
     if (!net)
         return {.result = LoginResult::NetworkFailure};
 
-    // Address and port are parted at the last colon: an IPv6 address has colons of its own, in brackets.
+    // The last colon separates address and port: an IPv6 address, in brackets, contains colons.
     const qsizetype colon = ipport.lastIndexOf(QLatin1Char(':'));
     QString address = ipport.left(colon);
     if (address.startsWith(QLatin1Char('[')) && address.endsWith(QLatin1Char(']')))
         address = address.mid(1, address.size() - 2);
-    if (address.isEmpty()) // the device waits for one by DHCP
+    if (address.isEmpty()) // no address yet: waiting for DHCP
         return {.result = LoginResult::NetworkFailure};
 
     sdk::LoginSecureInput input{};
@@ -25,7 +25,7 @@ SecureLogin secureLogin(sdk::NetLibrary *net, const QString &ipport, const QStri
     sdk::setBlockText(input.address, address.toLocal8Bit().toStdString());
     sdk::setBlockText(input.account, account.toLocal8Bit().toStdString());
     sdk::setBlockText(input.password, password.toLocal8Bit().toStdString());
-    // A loopback address is the end of a tunnel, which takes a login of its own kind.
+    // A loopback address is the local end of a tunnel, which needs another login mode.
     input.mode =
         ipport.contains(QLatin1String("127.0.0.1")) ? sdk::LoginMode::Tunnel : sdk::LoginMode::Direct;
 

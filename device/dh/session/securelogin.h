@@ -1,4 +1,4 @@
-// Logging in to a device for the work on it.
+// Logs in to a device.
 #pragma once
 
 #include "device/registry/loginresult.h"
@@ -12,24 +12,25 @@ namespace sdk {
 class NetLibrary;
 }
 
+/// Result of secureLogin().
 struct SecureLogin
 {
     LoginResult result = LoginResult::Unknown;
-    std::int64_t handle = 0; ///< 0 unless `result` is Success; the caller logs it out
+    std::int64_t handle = 0; ///< 0 unless `result` is Success; the caller must log it out
     std::int32_t loginKind = 0;
-    int channelCount = 0; ///< video inputs that the device tells of
+    int channelCount = 0; ///< video inputs that the device reports
 };
 
-/// Logs in to the device at `ipport` ("address:port", an IPv6 address in brackets). Blocks until the device
-/// has answered or the library has given it up. Fails as a network failure without a library (`net` is null).
+/// Logs in to the device at `ipport` ("address:port", an IPv6 address in brackets). Blocks for the response
+/// or the library's timeout. NetworkFailure if `net` is null. Any thread.
 [[nodiscard]] SecureLogin secureLogin(sdk::NetLibrary *net, const QString &ipport, const QString &account,
                                       const QString &password);
 
-/// A login that waits to be taken over. It is logged out when nobody does.
+/// A login that is logged out by the destructor unless take() was called.
 class UntakenLogin
 {
 public:
-    /// `net` may be null when there is no handle.
+    /// `net` may be null if there is no handle.
     UntakenLogin(std::shared_ptr<sdk::NetLibrary> net, const SecureLogin &login);
     ~UntakenLogin();
     UntakenLogin(const UntakenLogin &) = delete;
@@ -37,7 +38,7 @@ public:
 
     [[nodiscard]] LoginResult result() const { return m_login.result; }
 
-    /// The handle is the caller's from now on.
+    /// Passes the handle to the caller, who must log it out.
     [[nodiscard]] SecureLogin take();
 
 private:

@@ -8,7 +8,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// A busy device must not pass for one that has forgotten the session.
+/// Long enough for a busy device, which must not be taken for one that has closed the session.
 constexpr auto answerWait = 2000ms;
 
 enum class SessionAnswer
@@ -26,7 +26,7 @@ SessionAnswer askInSession(const ConfigSession &session)
     const std::uint32_t error = session.lastError();
     if (isLoginRefused(error))
         return SessionAnswer::Refused;
-    // A device that restarts accepts no connections for a while.
+    // A restarting device refuses connections for a while.
     const bool isAway =
         isDeviceAway(error) || error == static_cast<std::uint32_t>(sdk::NetError::ConnectFailed);
     return isAway ? SessionAnswer::Away : SessionAnswer::Answers;

@@ -1,4 +1,4 @@
-// Finding out whether there is a session with a device, and making one where there is none.
+// Checks a session, and logs in if the device does not respond in it.
 #pragma once
 
 #include "device/dh/session/configsession.h"
@@ -7,32 +7,31 @@
 
 #include <QVariantList>
 
-/// A device that is to be worked with.
+/// Parameters of offerSession().
 struct SessionOrder
 {
     QString ipport;
     QString account;
     QString password;
-    std::int64_t handle = 0; ///< of the session that there is with it, 0 for none
-    int channelCount = 0;    ///< of that session's device
-    bool isNewLogin = true;  ///< another one than that session's, or one that the user has just given
+    std::int64_t handle = 0; ///< of the present session, 0 for none
+    int channelCount = 0;    ///< of the present session's device
+    bool isNewLogin = true;  ///< account differs from the present session's, or the user has just entered it
     bool readsChannels = true;
 };
 
-/// What came of it.
+/// Result of offerSession().
 struct SessionOffer
 {
     LoginResult result = LoginResult::Unknown;
-    SecureLogin login; ///< its handle is 0 when the session that there was goes on, and on failure
-    QVariantList
-        channels; ///< as liveChannels() has them, where they were asked for or the login is a new one
+    SecureLogin login;     ///< handle is 0 on failure, and if the present session is kept
+    QVariantList channels; ///< see liveChannels(); only if requested or after a new login
 };
 
-/// Whether the device answers in the session, also when it refuses a request. Blocks for up to two seconds;
-/// any thread.
+/// Whether the device responds in the session; a refused request counts as a response. Blocks for up to two
+/// seconds; any thread.
 [[nodiscard]] bool answersInSession(const ConfigSession &session);
 
-/// Asks the device in the session that there is, and logs in to it when it does not answer there: after a
-/// restart it has forgotten the session. A login that the device has refused is not sent again: the result
-/// then is SessionEnded, or the refusal. Blocks for the waits of the library; any thread.
+/// Checks the present session, and logs in if the device does not respond in it, for example after a restart.
+/// If the device has refused the session's login, the same login is not sent again: the result is
+/// SessionEnded or the refusal. Blocks for the timeouts of the library; any thread.
 [[nodiscard]] SessionOffer offerSession(const sdk::SdkLibraries &libraries, const SessionOrder &order);

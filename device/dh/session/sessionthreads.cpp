@@ -8,7 +8,7 @@
 
 namespace {
 
-// One device that does not answer keeps none that does waiting.
+// Enough threads that devices which do not respond do not delay the others.
 constexpr int maximumSessionThreads = 16;
 
 } // namespace

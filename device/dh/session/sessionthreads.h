@@ -1,4 +1,4 @@
-// The threads on which a back end waits for devices beside its steps.
+// Background threads of a back end for work that must not block the window.
 #pragma once
 
 #include "device/registry/backendsignals.h"
@@ -16,30 +16,31 @@ namespace sdk {
 class NetLibrary;
 }
 
-/// Work that the window does not wait for: looking whether a session is alive, logins, logouts. Thread-safe,
-/// but begins and ends on the scene's thread. Its end waits for the work.
+/// Runs session checks, logins, logouts and work of pages on up to 16 threads. Thread-safe; created and
+/// destroyed on the main thread. The destructor waits for running work.
 class SessionThreads
 {
 public:
-    /// `net` may be null.
+    /// `net` may be null; nothing may be logged out then.
     SessionThreads(std::shared_ptr<sdk::NetLibrary> net, BackEndSignals &backEndSignals);
     ~SessionThreads();
     SessionThreads(const SessionThreads &) = delete;
     SessionThreads &operator=(const SessionThreads &) = delete;
 
+    /// Runs `work` on one of the threads.
     void start(const std::function<void()> &work);
 
-    /// As CDeviceBase::runForScene().
+    /// See CDeviceBase::runForScene().
     void runForScene(const SceneStep &step, const std::stop_token &stop,
                      const std::function<void(const SceneOutcome &outcome)> &ended);
 
-    /// Logs out on another thread, which the waits of the library may hold up.
+    /// Logs out on one of the threads and returns immediately.
     void logOutLater(const QList<std::int64_t> &handles);
 
-    /// Logs out without holding up the scene's thread: on any other thread it is done in this call.
+    /// Logs out: on the main thread with logOutLater(), on another thread in this call.
     void logOut(std::int64_t handle);
 
-    /// Drops what has not begun.
+    /// Drops work that has not started.
     void clear() { m_threads.clear(); }
     void waitForDone() { m_threads.waitForDone(); }
 

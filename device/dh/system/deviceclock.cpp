@@ -17,7 +17,7 @@ class ClockTexts
 {
     Q_DECLARE_TR_FUNCTIONS(DeviceClock)
 public:
-    /// The two largest units of a time span.
+    /// A time span in its two largest units.
     static QString span(qint64 seconds)
     {
         constexpr qint64 minute = 60;

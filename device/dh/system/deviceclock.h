@@ -1,4 +1,4 @@
-// The clock of a device, compared with that of this computer.
+// Reads the clock of a device and compares it with the host's.
 #pragma once
 
 #include "sdk/systemblocks.h"
@@ -13,10 +13,10 @@ namespace sdk {
 class NetLibrary;
 } // namespace sdk
 
-/// What a device answers when it is asked for its time; none on a failure, whose error of the library is set,
-/// and, without an error, for what is no date and time.
+/// The time of a device. nullopt on failure: `error` is the library's error, or 0 if the response is not a
+/// valid time. Blocks for up to 3 s; any thread.
 [[nodiscard]] std::optional<QDateTime> readDeviceClock(sdk::NetLibrary &net, std::int64_t loginHandle,
                                                        std::uint32_t &error);
 
-/// The time of a device, and by how much its clock is ahead of `here` or behind it, in the user's language.
+/// Text with the device's time and its difference to `here`, the host's time, in the user's language.
 [[nodiscard]] QString deviceClockText(const QDateTime &device, const QDateTime &here);

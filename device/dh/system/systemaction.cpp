@@ -19,13 +19,13 @@ constexpr std::int32_t firstChannel = 0;
 constexpr std::uint32_t localesTextSize = 32768;
 constexpr std::uint32_t writtenTextSize = 4096;
 
-/// The last error of the library belongs to the call that failed, not to the action.
+/// The library's error of a call: 0 if it succeeded.
 std::uint32_t errorOf(const sdk::NetLibrary &net, bool isDone)
 {
     return isDone ? 0 : net.NetGetLastError();
 }
 
-/// Without a library for configuration texts, or with a text that it does not understand, nothing is sent.
+/// Error if a configuration text cannot be made or parsed: no request was sent then.
 constexpr auto unusableText = static_cast<std::uint32_t>(sdk::NetError::Refused);
 
 std::uint32_t setTime(const sdk::SdkLibraries &libraries, std::int64_t handle, const sdk::TimeRecord &time)
@@ -38,7 +38,7 @@ std::uint32_t setTime(const sdk::SdkLibraries &libraries, std::int64_t handle, c
     return error;
 }
 
-/// Packs a record into the text of a configuration and writes that.
+/// Formats a record as a configuration text and writes it.
 template<typename Record>
 std::uint32_t writeConfiguration(const sdk::SdkLibraries &libraries, std::int64_t handle, const char *name,
                                  const Record &record, std::uint32_t textSize)
@@ -52,7 +52,7 @@ std::uint32_t writeConfiguration(const sdk::SdkLibraries &libraries, std::int64_
                                                                   textSize, error, requestWait));
 }
 
-/// Only the rule is changed in what the device has.
+/// Read-modify-write: changes only the daylight saving rule in the configuration.
 std::uint32_t setDaylightSaving(const sdk::SdkLibraries &libraries, std::int64_t handle,
                                 const DaylightSaving &rule)
 {

@@ -1,4 +1,4 @@
-// What the commands of the system configuration do with a device.
+// The actions of the system commands on one device.
 #pragma once
 
 #include "sdk/sdklibraries.h"
@@ -9,11 +9,11 @@
 #include <functional>
 #include <optional>
 
-/// Does its work on a logged-in device, which may take the library's waits. Returns the error of the library,
-/// 0 when the device accepted it.
+/// Executes a command on a logged-in device. Blocks for the timeouts of the library; any thread. Returns the
+/// library's error, 0 on success.
 using SystemAction = std::function<std::uint32_t(std::int64_t loginHandle)>;
 
-/// The action of a command that does one thing with each device. Nothing for an unknown command, and for data
-/// that the command cannot use. `libraries` has a network library.
+/// The action of a command. nullopt for an unknown command and for data that the command does not accept.
+/// `libraries.net` must not be null.
 [[nodiscard]] std::optional<SystemAction> systemAction(const sdk::SdkLibraries &libraries,
                                                        const QString &command, const QVariantMap &data);

@@ -9,12 +9,12 @@ namespace {
 
 constexpr int largestWord = 65535;
 
-/// A whole number from `minimum` to `maximum`, also as the text of one.
+/// An integer from `minimum` to `maximum`, given as number or text.
 std::optional<std::int32_t> numberFrom(const QVariantMap &data, const QString &key, int minimum, int maximum)
 {
     bool isNumber = false;
     const double number = data.value(key).toDouble(&isNumber);
-    // Turned round, so that what is no number fails as well.
+    // This form of the condition also rejects NaN.
     if (!isNumber || !(number >= minimum && number <= maximum))
         return std::nullopt;
     const auto whole = static_cast<std::int32_t>(number);
@@ -27,13 +27,13 @@ std::optional<bool> flagFrom(const QVariantMap &data, const QString &key)
     return value.canConvert<bool>() ? std::optional(value.toBool()) : std::nullopt;
 }
 
-/// Hour and minute; an invalid time when the text is none.
+/// Hour and minute; an invalid time if the text is invalid.
 QTime minutesFrom(const QVariantMap &data, const QString &key)
 {
     return QTime::fromString(data.value(key).toString(), QStringLiteral("hh:mm"));
 }
 
-/// Begin or end of daylight saving, whose keys begin with `prefix`.
+/// Start or end of daylight saving; its keys start with `prefix`.
 std::optional<sdk::DaylightSavingPoint> pointFrom(const QVariantMap &data, const QString &prefix, bool byWeek)
 {
     constexpr int lastWeekIndex = 4;
@@ -70,7 +70,8 @@ std::optional<sdk::TimeRecord> timeFrom(const QVariantMap &data)
 {
     const QDateTime time = QDateTime::fromString(data.value(QStringLiteral("time")).toString(),
                                                  QStringLiteral("yyyy-MM-dd HH:mm:ss"));
-    // Date and time apart: a moment that this computer's daylight saving leaves out is one on a device.
+    // Date and time are checked separately: a time that the host's daylight saving skips is valid on a
+    // device.
     if (!time.date().isValid() || !time.time().isValid() || time.date().year() < 1)
         return std::nullopt;
     const auto part = [](int number) {

@@ -1,5 +1,5 @@
-// The data of a system configuration command, as records. The scene builds the data; what does not make a
-// whole record in its ranges (a missing key, a text that is no time, a port above 65535) gives none.
+// Converts the data of system commands, which QML provides, to records. Each function returns nullopt if a
+// key is missing or a value is invalid or out of range.
 #pragma once
 
 #include "sdk/camerablocks.h"
@@ -13,7 +13,7 @@
 /// "time": "yyyy-MM-dd HH:mm:ss".
 [[nodiscard]] std::optional<sdk::TimeRecord> timeFrom(const QVariantMap &data);
 
-/// When daylight saving holds.
+/// Daylight saving rule.
 struct DaylightSaving
 {
     bool enabled = false;
@@ -21,20 +21,20 @@ struct DaylightSaving
     sdk::DaylightSavingPoint end;
 };
 
-/// "dstEnable", "dstMode" (0 by date, 1 by week), and for the begin and the end ("start…", "end…") "Month" (1
-/// to 12), "Day" (by date: index in the days of the month), "Week" (by week: 0 the first to 3 the fourth, 4
-/// the last), "WeekDay" (by week: 0 Sunday to 6 Saturday) and "Time" ("hh:mm").
+/// Keys: "dstEnable", "dstMode" (0 by date, 1 by week), and with the prefixes "start" and "end": "Month" (1
+/// to 12), "Day" (by date: index from 0), "Week" (by week: 0 first to 3 fourth, 4 last), "WeekDay" (by week:
+/// 0 Sunday to 6 Saturday) and "Time" ("hh:mm").
 [[nodiscard]] std::optional<DaylightSaving> daylightSavingFrom(const QVariantMap &data);
 
-/// "timeZone" (index in the time zones of devices), "ntpSet", "ntpServer", "ntpPort" and "updatePeriod" (0 to
-/// 65535).
+/// Keys: "timeZone" (index in the devices' time zones), "ntpSet" (bool), "ntpServer", "ntpPort" and
+/// "updatePeriod" (both 0 to 65535).
 [[nodiscard]] std::optional<sdk::NtpRecord> ntpFrom(const QVariantMap &data);
 
-/// "week" (0 Sunday to 6 Saturday, 7 every day), "time" ("hh:mm") and "autoReboot".
+/// Keys: "week" (0 Sunday to 6 Saturday, 7 every day), "time" ("hh:mm") and "autoReboot" (bool).
 [[nodiscard]] std::optional<sdk::AutoMaintainRecord> autoMaintainFrom(const QVariantMap &data);
 
-/// "name" of a channel, not longer than a device can hold and with more than blanks in it.
+/// Key: "name" of a channel; not empty, not only spaces, at most ByteText::channelNameBytes() bytes.
 [[nodiscard]] std::optional<sdk::ChannelNameItem> channelNameFrom(const QVariantMap &data);
 
-/// "videoStandard": 1 PAL, 2 NTSC.
+/// Key: "videoStandard": 1 PAL, 2 NTSC.
 [[nodiscard]] std::optional<sdk::VideoStandardItem> videoStandardFrom(const QVariantMap &data);

@@ -18,10 +18,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr int waitsForNewPassword = -1; ///< the old password was right
+constexpr int waitsForNewPassword = -1; ///< result of "loginCheck": the old password is correct
 constexpr auto passwordWait = 10000ms;
 
-/// False when the text is too long for the field: a password that was cut would be another one.
+/// Returns false if the text is too long for the field: a truncated password would be wrong.
 bool putWhole(auto &field, const QString &text)
 {
     const QByteArray bytes = text.toLocal8Bit();
@@ -41,7 +41,7 @@ std::uint32_t changePassword(sdk::NetLibrary &net, const KeptLogin &login, const
     return net.NetModifyPassword(login.loginHandle, input, passwordWait) ? 0 : net.NetGetLastError();
 }
 
-/// Why a device has refused a request, where it says more than that it did; empty otherwise.
+/// Reason of a refusal in the user's language; empty if the error is not specific.
 QString reasonOf(std::uint32_t libraryError)
 {
     const LoginResult result = loginResultOf(libraryError);
@@ -100,7 +100,7 @@ DeviceStep SystemOperations::step(const QString &command, const QVariantMap &dat
             return performOn(ipport, credentials, command, data, control);
         };
     return [this, ipport, perform](const StepControl &control) {
-        // Nothing comes between a device and its firmware.
+        // Requests could disturb the upgrade.
         if (m_isUpgradingAt(ipport))
             return StepOutcome{.result = resultCode(LoginResult::Upgrading), .text = {}};
         return perform(control);
@@ -116,8 +116,7 @@ StepOutcome SystemOperations::performOn(const QString &ipport, const DeviceAccou
         if (data.value(QStringLiteral("timeOfRequest")).toBool())
             values.insert(QStringLiteral("time"),
                           QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
-        // What no device could accept is not sent, but a device that cannot be logged in to still says
-        // so.
+        // Invalid data is not sent. The login is made nevertheless, so that a failed login is reported.
         const std::optional<SystemAction> action = systemAction(m_libraries, command, values);
         if (!action)
             qCWarning(logDevice) << "System configuration that cannot be carried out:" << command;

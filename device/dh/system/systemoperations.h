@@ -1,4 +1,4 @@
-// System configuration: one maintenance action on each device of a list.
+// The commands of the system page.
 #pragma once
 
 #include "device/dh/session/keptlogins.h"
@@ -18,7 +18,7 @@ class DeviceStore;
 class SessionThreads;
 struct DeviceAccount;
 
-/// Lives on the scene's thread; its steps run on any other.
+/// Runs a maintenance command on one device or many. Lives on the main thread; its steps run on any thread.
 class SystemOperations
 {
     Q_DECLARE_TR_FUNCTIONS(SystemOperations)
@@ -27,27 +27,26 @@ public:
                      const DeviceLogins &logins, SessionThreads &threads, UpgradeCheck isUpgradingAt,
                      BackEndSignals &backEndSignals);
 
-    /// "cancelLogin" forgets the logins at once and does not wait for their end.
-    /// Each device gets its result by signalCDeviceRetToSystemConfig: 0, the failure of its login, or 999
-    /// when it refuses, also for an unknown command and for data that make no sense. `loginCheck` keeps
-    /// logins open (their result is -1) for `modifyPassword`, until `cancelLogin`. A device that is being
-    /// upgraded is left alone: LoginResult::Upgrading. Blocks for the devices.
+    /// Runs a command on each device and blocks for the devices. Emits signalCDeviceRetToSystemConfig with
+    /// the result of each: 0, the result of a failed login, Upgrading, or 999 (refusedByDevice) for a
+    /// refusal, an unknown command or invalid data. "loginCheck" keeps the logins open (result -1) for
+    /// "modifyPassword". "cancelLogin" closes these logins in the background.
     void run(const QString &command, const QVariantMap &data, const QStringList &ipports);
 
-    /// Of run(), for one device, as CDeviceBase::systemStep().
+    /// The step of a command for one device, see CDeviceBase::systemStep().
     [[nodiscard]] DeviceStep step(const QString &command, const QVariantMap &data, const QString &ipport);
 
-    /// Logs out what `loginCheck` has kept.
+    /// Closes the logins that "loginCheck" has kept open. Blocks for the devices.
     void letLoginsGo() { m_keptLogins.letAllGo(); }
 
 private:
-    // On any thread, and block it for the waits of the library.
+    // Any thread; blocks for the timeouts of the library.
     [[nodiscard]] StepOutcome readClock(const QString &ipport, const DeviceAccount &credentials,
                                         const StepControl &control);
     [[nodiscard]] StepOutcome performOn(const QString &ipport, const DeviceAccount &credentials,
                                         const QString &command, const QVariantMap &data,
                                         const StepControl &control);
-    /// Returns a result.
+    /// Returns a LoginResult, or -1 if the password is correct; the login is kept open then.
     [[nodiscard]] int checkPassword(const QString &ipport, const QString &account, const QString &password);
     [[nodiscard]] StepOutcome modifyPassword(const QString &ipport, const QString &newPassword);
 

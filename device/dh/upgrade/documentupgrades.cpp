@@ -14,13 +14,13 @@
 
 namespace {
 
-/// What a line lacks, and what its file is; None when it can be upgraded.
+/// Why a line cannot be upgraded, from the line and its file; None if it can.
 UpgradeTools::Result refusalOf(const UpgradeDocumentLine &line, const QString &model, FirmwareFiles &files)
 {
     return line.refusal != UpgradeTools::None ? line.refusal : files.at(line.file).refusalFor(model);
 }
 
-/// What importUpgradeDocument() returns of a line. `row` is empty if no device of the list has its address.
+/// The map of importUpgradeDocument() for a line. `row` is empty if the list has no device with its address.
 QVariantMap reportOf(const UpgradeDocumentLine &line, const QJsonObject &row, FirmwareFiles &files)
 {
     const UpgradeTools::Result refusal = refusalOf(line, row.value(DeviceRowKey::model).toString(), files);
@@ -35,7 +35,7 @@ QVariantMap reportOf(const UpgradeDocumentLine &line, const QJsonObject &row, Fi
             {QStringLiteral("reason"), UpgradeTools::text(refusal)}};
 }
 
-/// Of what is not upgraded.
+/// Step of a line that cannot be upgraded: returns the refusal.
 DeviceStep refusedStep(UpgradeTools::Result refusal)
 {
     return [refusal](const StepControl &) {
@@ -106,7 +106,7 @@ UpgradeTools::Result DocumentUpgrades::follow(const UpgradeDocumentLine &line, c
                                               const QJsonObject &row, FirmwareFiles &files)
 {
     UpgradeTools::Result refusal = refusalOf(line, order.model, files);
-    if (refusal == UpgradeTools::None && m_round.isUpgrading(order.key)) // from another document
+    if (refusal == UpgradeTools::None && m_round.isUpgrading(order.key)) // by another document or batch
         refusal = UpgradeTools::DeviceBusy;
     if (refusal != UpgradeTools::None) {
         m_round.documents().refuse(line.row, UpgradeTools::text(refusal));

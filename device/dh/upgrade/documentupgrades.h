@@ -1,4 +1,4 @@
-// Firmware upgrades of the devices of documents.
+// Firmware upgrades of the lines of upgrade documents.
 #pragma once
 
 #include "device/dh/upgrade/upgradedocument.h"
@@ -20,38 +20,40 @@ class UpgradeOrders;
 class UpgradeRound;
 struct UpgradeOrder;
 
-/// A line takes the device of the list that has its address, and goes without a row otherwise. Lives on the
-/// scene's thread; its steps run on any other. Paths may be "file:///" addresses.
+/// Starts the upgrades of upgrade documents (workbooks). A line is upgraded with the row of its address, if
+/// the list has one, otherwise without a row. Paths may be "file:///" URLs. Lives on the main thread; its
+/// steps run on any thread.
 class DocumentUpgrades
 {
 public:
     DocumentUpgrades(std::shared_ptr<DeviceStore> store, UpgradeRound &round, UpgradeOrders &orders);
 
-    /// As CDeviceBase::importUpgradeDocument() returns the lines. `refusal` gets why the document is refused
-    /// as a whole, in the user's language; an empty text when it is not.
+    /// The lines as maps, see CDeviceBase::importUpgradeDocument(). Sets `refusal` to why the document is
+    /// refused, in the user's language; empty if it is not.
     [[nodiscard]] QVariantList report(const QString &path, QString &refusal) const;
 
-    /// As CDeviceBase::upgradeDocumentReading().
+    /// See CDeviceBase::upgradeDocumentReading().
     [[nodiscard]] SceneStep reading(const QString &path);
 
-    /// The signals name each document by its entry of `paths`. Its results are in it at 100 %.
+    /// Upgrades all lines of these documents. The progress signals name a document by its entry in `paths`;
+    /// at 100 % its results are written.
     void start(const QStringList &paths);
 
-    /// Of start(), for those of the lines that have these numbers.
+    /// Steps of start() for the lines with these numbers.
     [[nodiscard]] QList<UpgradeDocumentStep> steps(const QString &path, const QList<int> &lines);
 
 private:
-    /// Forgets the results of earlier documents, unless some are still upgraded.
+    /// Clears the results of earlier documents, unless upgrades of documents are running.
     void begin();
     [[nodiscard]] QHash<QString, QJsonObject> rowsByAddress() const;
-    /// Adds a document, and returns its lines, which are followed then; none if it is refused.
+    /// Adds a document to the round and returns its lines; none if it is refused.
     [[nodiscard]] std::vector<UpgradeDocumentLine> add(const QString &path);
-    /// Follows a line of the document that was added last. Returns why it is not upgraded, None when it is.
+    /// Adds a line of the document added last to the round. Returns why it is not upgraded; None on success.
     [[nodiscard]] UpgradeTools::Result follow(const UpgradeDocumentLine &line, const UpgradeOrder &order,
                                               const QJsonObject &row, FirmwareFiles &files);
 
     const std::shared_ptr<DeviceStore> m_store;
     UpgradeRound &m_round;
     UpgradeOrders &m_orders;
-    std::shared_ptr<OpenedUpgradeDocument> m_opened; ///< read and not upgraded; may be null
+    std::shared_ptr<OpenedUpgradeDocument> m_opened; ///< the last document read with reading(); may be null
 };

@@ -1,4 +1,4 @@
-// Looking at a firmware file before anything is sent.
+// Checks of a firmware file before it is sent.
 #pragma once
 
 #include "device/registry/upgradetools.h"
@@ -9,24 +9,26 @@
 
 #include <optional>
 
+/// Result of checking a firmware file.
 struct FirmwareFile
 {
-    /// Larger files are refused.
+    /// Maximum file size in bytes; larger files are refused.
     static constexpr qint64 largest = qint64(1) << 30;
 
-    UpgradeTools::Result refusal = UpgradeTools::None; ///< None: it can be sent
-    std::optional<sdk::FirmwareHead> head;             ///< what its head or else its name tells
+    UpgradeTools::Result refusal = UpgradeTools::None; ///< why it cannot be sent; None: it can
+    std::optional<sdk::FirmwareHead> head;             ///< of header or file name; nullopt: unknown
 
-    /// Whether a device with this model may get it; also when one of both does not tell.
+    /// Whether the file is for this model. True if either model is unknown.
     [[nodiscard]] bool fits(const QString &model) const;
 
-    /// Why a device with this model does not get it; None when it does.
+    /// Why the file cannot be sent to a device of this model; None if it can.
     [[nodiscard]] UpgradeTools::Result refusalFor(const QString &model) const;
 };
 
+/// Checks a file; reads its header only. Any thread.
 [[nodiscard]] FirmwareFile firmwareFile(const QString &path);
 
-/// Looks at files, at each of them once.
+/// Cache of firmwareFile(): checks each path once. Not thread-safe.
 class FirmwareFiles
 {
 public:

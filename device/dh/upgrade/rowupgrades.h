@@ -1,4 +1,4 @@
-// Firmware upgrades of the devices of rows.
+// Firmware upgrades of rows.
 #pragma once
 
 #include "device/registry/devicestep.h"
@@ -16,8 +16,8 @@ class UpgradeOrders;
 class UpgradeRound;
 struct FirmwareFile;
 
-/// Rows are named by MAC, or by address and port where they have none, as those of IPv6 devices. On the
-/// scene's thread.
+/// Sets firmware files of rows and starts their upgrades. Rows are named by MAC, or by address and port
+/// without one (as IPv6 rows). Lives on the main thread.
 class RowUpgrades
 {
     Q_DECLARE_TR_FUNCTIONS(RowUpgrades)
@@ -25,30 +25,32 @@ public:
     RowUpgrades(std::shared_ptr<DeviceStore> store, UpgradeRound &round, const UpgradeOrders &orders,
                 BackEndSignals &backEndSignals);
 
-    /// `path` may be a "file:///" address. A device that is being upgraded keeps its file. The row's
-    /// "upgraderes" and "result" say what is wrong with the file, which is looked at again at the start.
-    /// Returns what speaks against the upgrade of each, an UpgradeTools::Result.
+    /// Sets the firmware file of rows; `path` may be a "file:///" URL. A device that is being upgraded keeps
+    /// its file. "upgraderes" and "upgradetext" of a row show why the file cannot be used; the file is
+    /// checked again at the start. Returns an UpgradeTools::Result for each row: None, or why the upgrade is
+    /// refused.
     QList<int> setFiles(const QStringList &macs, const QString &path);
 
-    /// Returns at once; the rows show how far each device is and its result: "upgrade" in percent,
-    /// "upgraderes" an UpgradeTools::Result, "upgradetext" in words, and "vision" at the end.
+    /// Starts upgrades and returns immediately. The rows show the progress and result: "upgrade" (percent),
+    /// "upgraderes" (an UpgradeTools::Result), "upgradetext" (in the user's language), and at the end
+    /// "vision".
     void start(const QStringList &macs);
 
-    /// Of start(), for the device of a row, or of a document's line that has no row.
+    /// The upgrade step for a row, or for a document line without a row.
     [[nodiscard]] DeviceStep step(const QString &mac);
 
-    /// step() for a device whose line of a document was upgraded before: the result goes into the file as
+    /// step() for a device that was upgraded from a document before: the result is written to the document as
     /// well.
     [[nodiscard]] DeviceStep repeatedDocumentStep(const QString &mac);
 
-    /// What step() would do with each of these rows.
+    /// The file and version that step() would use for each of these rows, and why it would refuse.
     [[nodiscard]] QList<PlannedUpgrade> planned(const QStringList &macs) const;
 
-    /// The names of the rows whose upgrade has failed and may go well another time, of both lists.
+    /// Names of the rows (IPv4 and IPv6) whose upgrade failed and may succeed if repeated.
     [[nodiscard]] QStringList toRetry() const;
 
 private:
-    /// Returns what speaks against the upgrade of the row's device.
+    /// Returns why the upgrade of the row is refused; None if it is not.
     UpgradeTools::Result setFile(const QString &mac, const QString &file, const FirmwareFile &firmware);
 
     const std::shared_ptr<DeviceStore> m_store;

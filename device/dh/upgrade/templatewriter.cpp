@@ -1,5 +1,4 @@
-// Makes the document of upgrades that users begin from, in the language of a translation file: run by the
-// build.
+// Writes the template workbook for upgrade documents in the language of a translation file. Run by the build.
 //
 //   configtools_upgradetemplate TRANSLATION FOLDER
 #include "device/dh/upgrade/upgradedocument.h"
@@ -9,7 +8,7 @@
 
 namespace {
 
-/// The sheets' own texts.
+/// The texts of the template.
 class UpgradeTemplateText
 {
     Q_DECLARE_TR_FUNCTIONS(UpgradeTemplateText)

@@ -26,7 +26,7 @@ enum Column
 
 constexpr int usualPort = 37777;
 
-/// The port of a cell; the usual one for an empty cell, 0 for what is none.
+/// The port of a cell; the default port for an empty cell, 0 if invalid.
 int portIn(const QString &cell)
 {
     if (cell.isEmpty())
@@ -36,8 +36,8 @@ int portIn(const QString &cell)
     return isPort ? static_cast<int>(number) : 0;
 }
 
-/// An address as rows have it, whatever its spelling in a cell, where it is often padded with zeros. Empty
-/// for what is none, and for one like "10.0.0.010", which is another address to some programs.
+/// The address of a cell in the spelling of rows; octets padded with zeros are accepted. Empty if invalid,
+/// and for an ambiguous address like "10.0.0.010", which some applications read as octal.
 QString addressIn(const QString &cell)
 {
     const QHostAddress address(cell);
@@ -121,7 +121,7 @@ UpgradeDocumentLine UpgradeDocument::line(int row)
     line.ipport = (address.isEmpty() ? addressText : address) + QLatin1Char(':') + QString::number(port);
     line.user = text(row, UserColumn);
     line.password = m_excel.cellText(row, PasswordColumn).value_or(QString());
-    if (!file.isEmpty()) // a path of another system has other separators
+    if (!file.isEmpty()) // accepts the separators of other systems
         line.file = QDir::cleanPath(
             QFileInfo(m_path).absoluteDir().absoluteFilePath(QDir::fromNativeSeparators(file)));
     if (address.isEmpty() || port == 0)

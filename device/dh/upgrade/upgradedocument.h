@@ -10,46 +10,46 @@
 #include <memory>
 #include <vector>
 
-/// A line of a document of upgrades.
+/// A line of an upgrade document.
 struct UpgradeDocumentLine
 {
     int row = 0; ///< in the sheet, from 2
     QString ipport;
     QString user;
     QString password;
-    QString file;                                      ///< absolute
-    UpgradeTools::Result refusal = UpgradeTools::None; ///< why it cannot be upgraded, by the line alone
+    QString file;                                      ///< absolute path
+    UpgradeTools::Result refusal = UpgradeTools::None; ///< error in the line itself; None if there is none
 };
 
-/// A workbook of devices and their firmware files, into which the results are written. The first row holds
-/// the titles, each other row a device: address, port, user name, password, file (from the folder of the
-/// workbook on, unless it is absolute) and result.
+/// An upgrade document: a workbook of devices and firmware files, to which the results are written. Row 1
+/// contains the titles. Each other row is a device: address, port, user name, password, file (absolute, or
+/// relative to the folder of the workbook) and result. Not thread-safe.
 class UpgradeDocument
 {
     Q_DECLARE_TR_FUNCTIONS(UpgradeDocument)
 public:
-    /// Of one document; one with more is refused.
+    /// Maximum number of lines; a document with more is refused.
     static constexpr int mostLines = 10000;
 
-    /// What the first five cells of the first row say, in the user's language.
+    /// The titles that row 1 must start with, in the user's language.
     [[nodiscard]] static QStringList requiredTitles();
 
-    /// Opens the file. Returns why it cannot be used, in the user's language; an empty text when it can.
+    /// Opens the file. Returns why it cannot be used, in the user's language; empty on success.
     [[nodiscard]] QString open(const QString &path);
 
-    /// The rows that hold an address or a file, from above. An address that stands in an earlier row too is
-    /// refused.
+    /// The rows that contain an address or a file, in order. A repeated address is refused with ListedTwice.
     [[nodiscard]] std::vector<UpgradeDocumentLine> lines();
 
-    /// The file that was opened, or that the results are in.
+    /// The opened file; after keep() the file with the results.
     [[nodiscard]] const QString &path() const { return m_path; }
 
+    /// Sets the result cell of a row; keep() writes it.
     void setResult(int row, const QString &result);
 
-    /// Writes the results into the file, or else into one beside it. What is to be told to the user.
+    /// Writes the results to the file, or to a file next to it if that fails. Returns a message for the user.
     [[nodiscard]] QString keep();
 
-    /// Whether keep() has written them.
+    /// Whether keep() has succeeded.
     [[nodiscard]] bool isKept() const { return m_isKept; }
 
 private:
@@ -63,18 +63,18 @@ private:
     bool m_isKept = false;
 };
 
-/// A document as its file was when it was opened.
+/// An opened upgrade document with the state of its file.
 struct OpenedUpgradeDocument
 {
-    QString path;                                   ///< local
+    QString path;                                   ///< local path
     QString refusal = {};                           ///< why it cannot be used, in the user's language
-    QDateTime changed = {};                         ///< its file
+    QDateTime changed = {};                         ///< modification time of the file
     std::unique_ptr<UpgradeDocument> document = {}; ///< null if it is refused
     std::vector<UpgradeDocumentLine> lines = {};
 
-    /// Whether this is the file at `localPath`, and nobody has written it since.
+    /// Whether this is the file at `localPath`, unmodified since it was opened.
     [[nodiscard]] bool isCurrent(const QString &localPath) const;
 };
 
-/// Opens a document and reads its lines, on any thread.
+/// Opens a document and reads its lines. Any thread.
 [[nodiscard]] OpenedUpgradeDocument openUpgradeDocument(const QString &localPath);

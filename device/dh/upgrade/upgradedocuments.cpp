@@ -79,7 +79,7 @@ void UpgradeDocuments::note(const QString &key, int result, int percent, const Q
     const std::lock_guard lock(m_mutex);
     for (const std::shared_ptr<Document> &document : m_documents) {
         const auto line = document->lines.find(key);
-        // The device may be upgraded once more while others of the document are not done.
+        // A later upgrade of the device does not change the result while the document is open.
         if (line == document->lines.end() || !UpgradeTools::isRunning(line->result))
             continue;
         const bool isRunning = UpgradeTools::isRunning(result);
@@ -99,7 +99,7 @@ QList<UpgradeDocuments::Schedule> UpgradeDocuments::update()
     {
         const std::lock_guard lock(m_mutex);
         for (const std::shared_ptr<Document> &document : m_documents) {
-            // Only what is in the file is done.
+            // 100 % is reported only after the results are written.
             const int percent =
                 document->running == 0
                     ? 100
@@ -135,7 +135,7 @@ UpgradeDocuments::Progress UpgradeDocuments::progress() const
 
 void UpgradeDocuments::write(Document &document)
 {
-    QHash<int, QString> addresses; // of a file that is written again, by row
+    QHash<int, QString> addresses; // by row, of a file that is written again
     const bool isAgain = !document.workbook;
     if (isAgain) {
         document.workbook = std::make_unique<UpgradeDocument>();

@@ -1,4 +1,4 @@
-// The documents whose lines are being upgraded.
+// Tracks the upgrade documents whose lines are being upgraded.
 #pragma once
 
 #include "device/dh/upgrade/upgradedocument.h"
@@ -12,69 +12,70 @@
 #include <utility>
 #include <vector>
 
-/// Follows the upgrades that came from documents, and has their results written when the last of a document
-/// is there. note() may be called from any thread, the rest on the scene's.
+/// Collects the results of upgrades that were started from documents, and writes them when the last upgrade
+/// of a document has ended. note() may be called on any thread, all other functions on the main thread only.
 class UpgradeDocuments
 {
     Q_DECLARE_TR_FUNCTIONS(UpgradeDocuments)
 public:
+    /// Progress of a document.
     struct Schedule
     {
-        QString name; ///< as the document was added
+        QString name; ///< name passed to add()
         int percent = 0;
     };
 
-    /// Lines, of all documents since begin().
+    /// Number of lines of all documents since begin().
     struct Progress
     {
-        int done = 0; ///< also those that are refused
+        int done = 0; ///< including refused lines
         int total = 0;
     };
 
-    /// Runs `write` on another thread, and then `written` on the scene's.
+    /// Runs `write` on another thread, then `written` on the main thread.
     using Writer =
         std::function<void(const std::function<void()> &write, const std::function<void()> &written)>;
 
     explicit UpgradeDocuments(Writer writer) : m_writer(std::move(writer)) {}
 
-    /// Forgets the results of earlier documents.
+    /// Clears the results of earlier documents.
     void begin();
 
-    /// Adds an opened document.
+    /// Adds an opened document. `name` identifies it in Schedule.
     void add(const QString &name, std::unique_ptr<UpgradeDocument> document);
 
-    /// Says why a document has no results.
+    /// Adds the reason of a refused document to resultText().
     void addRefused(const QString &name, const QString &reason);
 
-    // Of the document that was added last:
+    // Functions for the document added last:
 
-    /// This line of it is upgraded under this key, which no other of its lines has.
+    /// Tracks the upgrade `key` of this line. Keys are unique in a document.
     void follow(const QString &key, const UpgradeDocumentLine &line);
 
-    /// Its line in this row is not upgraded.
+    /// Sets the result of a line that is not upgraded. `row` is its row in the sheet.
     void refuse(int row, const QString &reason);
 
-    /// The line under this key is upgraded once more. Its result goes into the file again, which may have
-    /// been changed meanwhile. Returns false for a line that no document has or that is being upgraded, and
-    /// while other documents are.
+    /// Tracks a repeated upgrade of the line with this key. Its result is written to the document's file
+    /// again, which may have changed since. Returns false if no document has the line, if it is being
+    /// upgraded, or while other documents are open.
     bool repeat(const QString &key);
 
-    /// An upgrade has this result and text; of one that no document has named nothing is kept.
+    /// Sets the state of an upgrade. Ignored if no document tracks the key. Any thread.
     void note(const QString &key, int result, int percent, const QString &text);
 
-    /// How far the documents are that have changed. Those that are done begin to be written; what comes of
-    /// that stands in resultText() afterwards.
+    /// Returns the documents whose progress has changed since the last call. Starts writing documents whose
+    /// upgrades have ended.
     [[nodiscard]] QList<Schedule> update();
 
-    [[nodiscard]] Progress progress() const;
+    [[nodiscard]] Progress progress() const; ///< of all documents since begin()
 
-    /// Whether documents are upgraded or written.
+    /// Whether documents have running upgrades or are being written.
     [[nodiscard]] bool hasOpen() const { return !m_documents.empty() || m_beingWritten > 0; }
 
-    /// Empty while documents are open.
+    /// Messages for the user, one line for each document; empty while documents are open.
     [[nodiscard]] QString resultText() const { return hasOpen() ? QString() : m_result; }
 
-    /// How many devices of the documents that are done were upgraded.
+    /// The number of successful upgrades in finished documents.
     [[nodiscard]] int succeeded() const { return m_succeeded; }
 
 private:
@@ -83,35 +84,35 @@ private:
         int row = 0;
         QString ipport;
         int result = UpgradeTools::Waiting;
-        int share = 0; ///< of the percent of its document
+        int share = 0; ///< contribution to the document's progress, 0 to 100
         QString text;
-        bool isNew = true; ///< the result is not in the file yet
+        bool isNew = true; ///< the result is not written to the file yet
     };
     struct Document
     {
         QString name;
-        QString path;                              ///< of the file with the results
-        std::unique_ptr<UpgradeDocument> workbook; ///< null when the results are in the file
+        QString path;                              ///< file with the results
+        std::unique_ptr<UpgradeDocument> workbook; ///< null after the results are written
         QHash<QString, Line> lines;                ///< by key
-        int refused = 0;
-        qsizetype running = 0; ///< lines
+        int refused = 0;                           ///< number of lines that are not upgraded
+        qsizetype running = 0;                     ///< number of lines with a running upgrade
         qsizetype shareSum = 0;
-        int toldPercent = -1;
-        QString outcome; ///< of the writing, for the user
+        int toldPercent = -1; ///< last reported progress
+        QString outcome;      ///< message about the writing
     };
 
     void forgetResults();
-    /// On any thread.
+    /// Any thread.
     static void write(Document &document);
     void finish(const std::shared_ptr<Document> &document);
 
     const Writer m_writer;
-    mutable std::mutex m_mutex; ///< for the documents; their workbooks are the scene's, and then the writer's
+    mutable std::mutex m_mutex; ///< guards the documents, except their workbooks (main thread, then writer)
     std::vector<std::shared_ptr<Document>> m_documents;
-    std::vector<std::shared_ptr<Document>> m_written; ///< the scene's; lines of them may be upgraded again
-    QList<Schedule> m_news;                           ///< of written documents
+    std::vector<std::shared_ptr<Document>> m_written; ///< finished documents, for repeat(); main thread only
+    QList<Schedule> m_news;                           ///< progress of written documents, for update()
     int m_beingWritten = 0;
-    int m_finishedLines = 0; ///< of the documents that are done
+    int m_finishedLines = 0; ///< lines of finished documents
     QString m_result;
     int m_succeeded = 0;
 };

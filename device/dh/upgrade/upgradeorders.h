@@ -1,4 +1,4 @@
-// What is to be upgraded, by the rows of devices and by the lines of documents.
+// Creates the orders (device, account, file) of upgrades.
 #pragma once
 
 #include "device/accounts/accountchoice.h"
@@ -14,37 +14,40 @@
 class DeviceLogins;
 class DeviceStore;
 
-/// Makes orders, and keeps what a document has given for them: an upgrade that is started again is done as
-/// its document wants it. On the scene's thread.
+/// Makes upgrade orders from rows and document lines. Remembers the accounts and devices of document lines,
+/// so that a repeated upgrade uses them again. Lives on the main thread.
 class UpgradeOrders
 {
 public:
     UpgradeOrders(std::shared_ptr<DeviceStore> store, const DeviceLogins &logins);
 
+    /// Order for a row, with the file in the row.
     [[nodiscard]] UpgradeOrder orderOf(const QJsonObject &row) const;
 
-    /// `row` is empty if no device of the list has the line's address.
+    /// Order for a document line. `row` is the row with its address; empty if there is none.
     [[nodiscard]] UpgradeOrder orderOf(const UpgradeDocumentLine &line, const QJsonObject &row) const;
 
-    /// The order of a row's name, or of a line without a row by its address and port.
+    /// Order for a row by name, or for a remembered line without a row by address and port; nullopt if
+    /// unknown.
     [[nodiscard]] std::optional<UpgradeOrder> orderNamed(const QString &name) const;
 
-    /// Keeps the order of a line.
+    /// Remembers the order of a document line.
     void keep(const UpgradeOrder &order, const QJsonObject &row);
 
 private:
-    /// What a document has logged in to a device with, and what would have been used without it.
+    /// Account of a document line, and the account that would be used without it.
     struct DocumentAccount
     {
         DeviceAccount used;
         DeviceAccount usual;
     };
 
-    /// The account of a document again, unless the device has refused it or the user has given another since.
+    /// The remembered account of a document, unless the device has refused it or the usual account has
+    /// changed since; otherwise the usual account.
     [[nodiscard]] DeviceAccount accountOf(const QJsonObject &row) const;
 
     const std::shared_ptr<DeviceStore> m_store;
     const DeviceLogins &m_logins;
-    QHash<QString, DocumentAccount> m_documentAccounts; ///< by the name of the row
+    QHash<QString, DocumentAccount> m_documentAccounts; ///< by row name
     QHash<QString, UpgradeOrder> m_rowless;             ///< of lines without a row, by address and port
 };

@@ -33,9 +33,9 @@ UpgradeRound::~UpgradeRound()
 
 bool UpgradeRound::isUpgradingAt(const QString &ipport) const
 {
-    if (!m_runner->isUpgrading()) // there is no need to look for the rows
+    if (!m_runner->isUpgrading()) // fast path
         return false;
-    // Several devices may have one address. Which of them answers at it is not known.
+    // Several rows may have this address; it is unknown which device responds at it.
     const QStringList names = QStringList(ipport) + m_store->namesAt(ipport);
     return std::any_of(names.cbegin(), names.cend(),
                        [this](const QString &name) { return m_runner->isUpgrading(name); });
@@ -90,14 +90,14 @@ void UpgradeRound::noteDocumentsBegun()
 {
     noteDocuments();
     m_signals.noteChangedRows();
-    if (!m_runner->isUpgrading()) // no line could be upgraded
+    if (!m_runner->isUpgrading()) // all lines were refused
         m_signals.queue([this] { noteEnd(); });
 }
 
 void UpgradeRound::noteEnd()
 {
     noteDocuments();
-    if (m_runner->isUpgrading()) // another round has begun
+    if (m_runner->isUpgrading()) // another round has started
         return;
     m_isEndHeldBack = m_documents.hasOpen();
     if (!m_isEndHeldBack)

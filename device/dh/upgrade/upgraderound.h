@@ -1,4 +1,4 @@
-// The upgrades that run, and what the rows, the documents and the window get of them.
+// Reports the progress of upgrades to rows, documents and the window.
 #pragma once
 
 #include "device/dh/upgrade/upgradedocuments.h"
@@ -16,8 +16,8 @@
 
 class DeviceStore;
 
-/// Shows in the rows how far each upgrade is, and in the documents that upgrades came from. Lives on the
-/// scene's thread.
+/// Owns the upgrade runner and the upgrade documents. Writes the progress of upgrades to rows and documents
+/// and emits the upgrade signals of the back end. Lives on the main thread.
 class UpgradeRound
 {
 public:
@@ -25,7 +25,7 @@ public:
                  const UpgradeLimits &limits, const std::shared_ptr<BatchEngine> &engine,
                  BackEndSignals &backEndSignals);
 
-    /// Waits for the documents that are written.
+    /// Waits for documents that are being written.
     ~UpgradeRound();
     UpgradeRound(const UpgradeRound &) = delete;
     UpgradeRound &operator=(const UpgradeRound &) = delete;
@@ -34,37 +34,37 @@ public:
     [[nodiscard]] UpgradeDocuments &documents() { return m_documents; }
     [[nodiscard]] const UpgradeDocuments &documents() const { return m_documents; }
 
-    /// Whether devices are upgraded, or documents of them are written.
+    /// Whether upgrades are running or documents are open.
     [[nodiscard]] bool isOpen() const { return m_runner->isUpgrading() || m_documents.hasOpen(); }
 
-    /// Whether a device at this address, or of the row of this name, is being upgraded. Any thread.
+    /// Whether a device with this address and port is being upgraded. Any thread.
     [[nodiscard]] bool isUpgradingAt(const QString &ipport) const;
 
-    /// The same for a row's name alone. Any thread.
+    /// Whether the device with this row name is being upgraded. Any thread.
     [[nodiscard]] bool isUpgrading(const QString &name) const { return m_runner->isUpgrading(name); }
 
-    /// The names of the rows that have changed since the last call. Any thread.
+    /// Returns and clears the names of the rows that upgrades have changed. Any thread.
     [[nodiscard]] QStringList takeChanged();
 
-    /// Emits how far the documents are.
+    /// Emits the changed progress of documents.
     void noteDocuments();
 
-    /// Emits the signals that follow the begin of a document's lines.
+    /// Emits the signals after lines of a document have been started.
     void noteDocumentsBegun();
 
-    /// Nothing begins any more, and what is not done is given up. Does not wait for it.
+    /// See UpgradeRunner::requestEnd().
     void requestEnd() { m_runner->requestEnd(); }
 
-    /// The same, and waits for what is given up, but not for a device that does not answer.
+    /// See UpgradeRunner::end().
     void end() { m_runner->end(); }
 
     /// Blocks until no document is being written.
     void waitForDocuments() { m_documentFiles.waitForDone(); }
 
 private:
-    /// On any thread.
+    /// Takes the state of an upgrade. Any thread.
     void note(const UpgradeOrder &order, const UpgradeState &state);
-    /// Emits how far the upgrades are, once however often it is called before. On any thread.
+    /// Queues the progress signals; calls before they are emitted are merged. Any thread.
     void noteSchedule();
     void noteEnd();
     /// See UpgradeDocuments::Writer.
@@ -72,11 +72,11 @@ private:
 
     const std::shared_ptr<DeviceStore> m_store;
     BackEndSignals &m_signals;
-    QThreadPool m_documentFiles; ///< one thread, which writes documents
+    QThreadPool m_documentFiles; ///< one thread that writes documents
     UpgradeDocuments m_documents;
-    bool m_isEndHeldBack = false; ///< documents of the round are still written
+    bool m_isEndHeldBack = false; ///< the end of the round is reported after its documents are written
     std::mutex m_changedMutex;
-    QSet<QString> m_changed; ///< names of rows; any thread
+    QSet<QString> m_changed; ///< row names; guarded by m_changedMutex
     std::atomic<bool> m_scheduleNoted = false;
-    const std::unique_ptr<UpgradeRunner> m_runner; ///< its threads use what stands before
+    const std::unique_ptr<UpgradeRunner> m_runner; ///< declared last: its threads use the other members
 };

@@ -4,10 +4,10 @@
 
 namespace {
 
-/// How long a device may take to let go of what it is asked.
+/// Maximum wait of end() for running upgrades.
 constexpr std::chrono::milliseconds endWait(500);
 
-/// The engine's batch of upgrades tells nothing that the runner does not know.
+/// The runner tracks its upgrades itself and ignores the engine's events.
 class NoWatcher : public BatchWatcher
 {
 public:
@@ -90,13 +90,13 @@ std::shared_ptr<UpgradeRunner::Upgrade> UpgradeRunner::enter(const UpgradeOrder 
         m_percentSum += shareOf(upgrade->state);
         ++m_unfinished;
     }
-    m_watchers.changed(upgrade->order, upgrade->state); // before a thread has news of it
+    m_watchers.changed(upgrade->order, upgrade->state); // before another thread can report on it
     return upgrade;
 }
 
 DeviceStep UpgradeRunner::stepOf(const std::shared_ptr<Upgrade> &upgrade)
 {
-    // Goes with the last copy of the step.
+    // The deleter runs when the last copy of the step is destroyed.
     const std::shared_ptr<Upgrade> entered(
         upgrade.get(), [this, upgrade](Upgrade *notRun) { giveUpWaiting(*notRun, UpgradeTools::Stopped); });
     return [this, entered](const StepControl &control) {
@@ -118,7 +118,7 @@ StepOutcome UpgradeRunner::perform(Upgrade &upgrade, const StepControl &control)
 
 void UpgradeRunner::giveUpWaiting(Upgrade &upgrade, UpgradeTools::Result result)
 {
-    if (upgrade.isWaiting.exchange(false)) // else the runner may be gone already
+    if (upgrade.isWaiting.exchange(false)) // otherwise the runner may be destroyed already
         finish(upgrade, endOf(result));
 }
 
@@ -182,7 +182,7 @@ void UpgradeRunner::end()
         m_finished.wait_for(lock, endWait, [this] { return m_unfinished == 0 && m_telling == 0; });
         round = m_round.values();
     }
-    // The library cuts the wait of the rest when it is released. Nothing that they tell then counts.
+    // The remaining requests are aborted when the library is released. Their later reports are ignored.
     for (const std::shared_ptr<Upgrade> &upgrade : std::as_const(round))
         finish(*upgrade, endOf(UpgradeTools::Cut));
 }

@@ -1,4 +1,4 @@
-// Upgrades of many devices, a few at a time.
+// Runs upgrades of many devices, a few in parallel.
 #pragma once
 
 #include "device/batch/batchengine.h"
@@ -11,51 +11,52 @@
 #include <memory>
 #include <mutex>
 
-/// Makes upgrades into steps of batches, and knows of a round of them how far each is. Thread-safe. A round
-/// begins with the first upgrade and ends when none is left.
+/// Makes steps of upgrades and tracks the progress of the round. A round starts with the first upgrade and
+/// ends when no upgrade is running. Thread-safe.
 class UpgradeRunner
 {
 public:
-    /// Are called on threads of the engine, inside stop(), or where a step goes; must not call end().
+    /// Callbacks. Called on threads of the engine, inside stop(), and where a step is destroyed. Must not
+    /// call end().
     struct Watchers
     {
         std::function<void(const UpgradeOrder &order, const UpgradeState &state)> changed;
         std::function<void()> roundEnded;
     };
 
-    /// `engine` runs what start() takes. A device that restarts gives its place among those that are upgraded
-    /// at the same time away.
+    /// `engine` runs the upgrades of start(). A restarting device releases its slot of parallel upgrades.
     UpgradeRunner(sdk::SdkLibraries libraries, const UpgradeLimits &limits,
                   std::shared_ptr<BatchEngine> engine, Watchers watchers);
 
-    /// Ends.
+    /// Calls end().
     ~UpgradeRunner();
     UpgradeRunner(const UpgradeRunner &) = delete;
     UpgradeRunner &operator=(const UpgradeRunner &) = delete;
 
-    /// An upgrade as a step of a batch. It waits from now on, until the step is run, stop() is called, or the
-    /// step goes without having been run: then it is stopped. For a device that is upgraded already, and when
-    /// the runner has ended, the step does nothing. The outcome is as UpgradeTools::batchResult() has it.
+    /// Adds an upgrade to the round and returns its step. The upgrade waits until the step runs, or ends as
+    /// stopped if stop() is called or the step is destroyed without having run. If the device is being
+    /// upgraded or the runner has ended, nothing is added and the step returns LoginResult::Upgrading.
+    /// Results are those of UpgradeTools::batchResult().
     [[nodiscard]] DeviceStep step(const UpgradeOrder &order);
 
-    /// The same on the engine, behind those that were started so before. Returns false, and takes nothing,
-    /// for what step() makes nothing of.
+    /// Adds an upgrade and runs it on the engine, after those started before. Returns false, and adds
+    /// nothing, if the device is being upgraded or the runner has ended.
     bool start(const UpgradeOrder &order);
 
-    /// Asks an upgrade to stop, which it does until the device writes.
+    /// Requests a stop of an upgrade. It takes effect unless the device writes its firmware already.
     void stop(const QString &key);
 
-    [[nodiscard]] bool isUpgrading() const;
+    [[nodiscard]] bool isUpgrading() const; ///< whether any upgrade is waiting or running
     [[nodiscard]] bool isUpgrading(const QString &key) const;
 
-    /// Of the round, 100 when it has ended.
+    /// Progress of the round, 0 to 100; 100 after its end.
     [[nodiscard]] int percent() const;
 
-    /// Nothing begins any more, and what is not done is given up. Does not wait for it.
+    /// Starts no further upgrades and cancels the unfinished ones. Does not wait.
     void requestEnd();
 
-    /// The same, and waits for what is given up, but not for a device that does not answer. The devices that
-    /// write go on by themselves.
+    /// requestEnd(), then waits up to half a second. Devices that write their firmware continue without the
+    /// application.
     void end();
 
 private:
@@ -64,19 +65,19 @@ private:
         UpgradeOrder order;
         UpgradeState state;
         std::atomic<bool> stopAsked = false;
-        std::atomic<bool> isWaiting = true; ///< for its turn
+        std::atomic<bool> isWaiting = true; ///< its step has not started
     };
 
-    /// What an upgrade adds to the percent of its round.
+    /// Contribution of an upgrade to the progress of the round, 0 to 100.
     [[nodiscard]] static int shareOf(const UpgradeState &state);
-    /// Null for what is not taken.
+    /// Adds an upgrade to the round; null if that is refused.
     [[nodiscard]] std::shared_ptr<Upgrade> enter(const UpgradeOrder &order);
     [[nodiscard]] DeviceStep stepOf(const std::shared_ptr<Upgrade> &upgrade);
     [[nodiscard]] StepOutcome perform(Upgrade &upgrade, const StepControl &control);
-    /// Ends an upgrade that still waits for its turn.
+    /// Ends an upgrade whose step has not started.
     void giveUpWaiting(Upgrade &upgrade, UpgradeTools::Result result);
     void change(Upgrade &upgrade, const UpgradeState &state);
-    /// Does nothing for one that has ended.
+    /// Sets the final state; does nothing if the upgrade has ended.
     void finish(Upgrade &upgrade, const UpgradeState &state);
 
     const sdk::SdkLibraries m_libraries;
@@ -87,9 +88,9 @@ private:
     std::condition_variable m_finished;
     std::stop_source m_end;
     std::size_t m_unfinished = 0;
-    int m_telling = 0; ///< threads that tell the end of an upgrade
+    int m_telling = 0; ///< threads that are reporting the end of an upgrade
     std::mutex m_submitting;
-    int m_batch = 0;                                  ///< in the engine; guarded by m_submitting
+    int m_batch = 0;                                  ///< number in the engine; guarded by m_submitting
     QHash<QString, std::shared_ptr<Upgrade>> m_round; ///< by key
-    qsizetype m_percentSum = 0;                       ///< of the shares of the round
+    qsizetype m_percentSum = 0;                       ///< sum of shareOf() of the round
 };

@@ -19,15 +19,15 @@ namespace {
 
 constexpr auto upgradeAttributesWait = 3000ms;
 constexpr auto upgradeStartWait = 10000ms;
-constexpr auto lookInterval = 200ms;    ///< between two looks at the news
-constexpr auto returnInterval = 1000ms; ///< between two tries to log in again
-constexpr auto versionWait = 10000ms;   ///< for a version of a device that lets in again
+constexpr auto lookInterval = 200ms;    ///< between two checks of the library's progress
+constexpr auto returnInterval = 1000ms; ///< between two login attempts after the restart
+constexpr auto versionWait = 10000ms;   ///< maximum wait for a version after the first login
 
-// How the phases share the percent of an upgrade.
+// Start of the phases in percent of an upgrade.
 constexpr int writingFrom = 70;
 constexpr int restartingFrom = 95;
 
-/// Texts that hold more than a result.
+/// Texts in addition to those of the results.
 class UpgradeTexts
 {
     Q_DECLARE_TR_FUNCTIONS(UpgradeTexts)
@@ -103,7 +103,7 @@ UpgradeTools::Result resultOfError(std::uint32_t error)
 
 } // namespace
 
-/// What the library has told last, on a thread of its own.
+/// Latest progress reported by the library. Its callback runs on a thread of the library.
 class UpgradeWork::News
 {
 public:
@@ -113,7 +113,7 @@ public:
             return;
         auto *news = static_cast<News *>(user);
         const std::scoped_lock lock(news->m_mutex);
-        if (news->hasEnded()) // what comes late does not undo it
+        if (news->hasEnded()) // late reports are ignored
             return;
         news->m_last = *progress;
         if (!news->hasEnded())
@@ -126,7 +126,7 @@ public:
         return m_last;
     }
 
-    /// The last that was no end: an end does not say how far the device was.
+    /// The latest progress before the end: the report of an end has no percent.
     [[nodiscard]] sdk::UpgradeProgress lastOnWay() const
     {
         const std::scoped_lock lock(m_mutex);
@@ -154,7 +154,7 @@ UpgradeWork::UpgradeWork(const sdk::SdkLibraries &libraries, const UpgradeLimits
 
 bool UpgradeWork::shouldStop(const StepControl &control) const
 {
-    // The end of the program stops batches, too.
+    // Closing the application stops batches as well; m_stop.end is handled separately.
     return (m_stop.isAsked || control.isStopped()) && !m_stop.end.stop_requested();
 }
 
@@ -174,7 +174,7 @@ UpgradeState UpgradeWork::run(const StepControl &control)
         return ended(resultOfLogin(login.result));
     News news;
     UpgradeState state = send(login.handle, file, news, control);
-    m_libraries.net->NetLogout(login.handle); // no news from here on, also of what cannot be stopped
+    m_libraries.net->NetLogout(login.handle); // no progress callback after this, even if a stop was refused
     if (state.result != UpgradeTools::Restarting)
         return state;
     control.releasePlace();
@@ -201,7 +201,7 @@ UpgradeState UpgradeWork::send(std::int64_t loginHandle, const FirmwareFile &fil
         return ended(resultOfError(error));
     }
     UpgradeState state = follow(handle, news, control);
-    if (state.result != UpgradeTools::Stopped) // else it is stopped already
+    if (state.result != UpgradeTools::Stopped) // otherwise it is stopped already
         m_libraries.net->NetStopUpgrade(handle);
     return state;
 }
@@ -229,7 +229,7 @@ UpgradeState UpgradeWork::follow(std::int64_t upgradeHandle, const News &news, c
         if (!m_stopRefused && shouldStop(control)) {
             if (m_libraries.net->NetStopUpgrade(upgradeHandle))
                 return ended(UpgradeTools::Stopped);
-            // A device that is written goes on; of one that is not yet the stop may go well next time.
+            // A device that writes its firmware continues. Before that, the stop is requested again.
             m_stopRefused = now.phase == sdk::UpgradePhase::Writing;
             m_stopRemark = m_stopRefused ? UpgradeTexts::cannotStop() : UpgradeTexts::stopFails();
         }
@@ -247,7 +247,7 @@ UpgradeState UpgradeWork::waitForReturn(const FirmwareFile &file, const StepCont
     sdk::Clock &clock = *m_libraries.clock;
     const std::int64_t start = clock.now();
     bool wasAway = false;
-    std::optional<std::int64_t> letInAt; // after the reboot
+    std::optional<std::int64_t> letInAt; // time of the first login after the reboot
     while (clock.wait(returnInterval, m_stop.end)) {
         if (shouldStop(control))
             tell(UpgradeTools::Restarting, restartingFrom, UpgradeTexts::restarts());
@@ -258,7 +258,7 @@ UpgradeState UpgradeWork::waitForReturn(const FirmwareFile &file, const StepCont
         if (login.result == LoginResult::Success) {
             m_state.version = identity(login.handle).version;
             m_libraries.net->NetLogout(login.handle);
-            // Some take a moment to go, and answer as before until then.
+            // Some devices respond for a moment before they reboot.
             const bool hasRebooted = wasAway || passed > m_limits.leaves.count();
             const UpgradeTools::Result outcome = outcomeOf(file, m_state.version);
             const bool isOther = !m_oldVersion.isEmpty() && m_state.version != m_oldVersion;
@@ -273,7 +273,7 @@ UpgradeState UpgradeWork::waitForReturn(const FirmwareFile &file, const StepCont
         } else if (UpgradeTools::canTryAgain(refusal) && !isCertificateRefused(refusal)) {
             qCInfo(logDevice) << m_order.ipport << "does not let in yet after its upgrade";
         } else {
-            return ended(refusal); // it has lost its accounts, or has another key, which the user decides on
+            return ended(refusal); // it has lost its accounts, or has a new key, which the user must accept
         }
         if (passed > m_limits.comesBack.count())
             return ended(UpgradeTools::NotBack);

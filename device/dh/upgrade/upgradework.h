@@ -1,4 +1,4 @@
-// The upgrade of one device, from the look at the file to the answer with the new version.
+// The upgrade of one device: check of the file, sending, restart, check of the new version.
 #pragma once
 
 #include "device/dh/upgrade/firmwarefile.h"
@@ -12,58 +12,62 @@
 #include <functional>
 #include <stop_token>
 
-/// Which device gets which file.
+/// Device, account and file of an upgrade.
 struct UpgradeOrder
 {
-    QString key; ///< names the device among those that are upgraded: its MAC, or its address and port
-    QString row; ///< names its row, as DeviceStore::rowNamed() takes it; empty when there is none
+    QString key; ///< identifies the upgrade in a round: MAC, or address and port
+    QString row; ///< row name, see DeviceStore::rowNamed(); empty if there is no row
     QString ipport;
     QString account;
     QString password;
-    QString model; ///< empty when it is not known
-    QString file;
-    QString device = {}; ///< as the engine knows it, see workKey()
+    QString model;       ///< empty if unknown
+    QString file;        ///< path
+    QString device = {}; ///< key of the device in BatchEngine, see workKey()
 };
 
+/// State of an upgrade.
 struct UpgradeState
 {
     UpgradeTools::Result result = UpgradeTools::Waiting;
-    int percent = 0;  ///< of the whole upgrade
+    int percent = 0;  ///< progress of the complete upgrade
     QString text;     ///< in the user's language
-    QString version;  ///< that the device has answered with at the end
-    QString versions; ///< before and now, for the user, of a success
+    QString version;  ///< reported by the device after the upgrade
+    QString versions; ///< old and new version, for the user; only on success
 };
 
-/// What ends an upgrade early.
+/// Reasons to end an upgrade early.
 struct UpgradeStop
 {
-    std::stop_token end;              ///< of the program: waits are cut short
-    const std::atomic<bool> &isAsked; ///< the user wants it to stop
+    std::stop_token end;              ///< the application closes: waits are aborted
+    const std::atomic<bool> &isAsked; ///< the user has requested a stop
 };
 
-/// How long is waited for a device.
+/// Limits and timeouts of upgrades.
 struct UpgradeLimits
 {
-    int atOnce = 4; ///< devices that are upgraded at the same time
+    int atOnce = 4; ///< maximum number of upgrades in parallel
+    /// Maximum time without progress while sending, and while the device writes.
     std::chrono::milliseconds sendingStandsStill = std::chrono::seconds(25);
     std::chrono::milliseconds writingStandsStill = std::chrono::seconds(90);
-    std::chrono::milliseconds leaves = std::chrono::seconds(30); ///< until it has gone to reboot
+    /// Maximum time until the device starts to reboot, and until it has returned.
+    std::chrono::milliseconds leaves = std::chrono::seconds(30);
     std::chrono::milliseconds comesBack = std::chrono::minutes(3);
-    std::chrono::milliseconds whole = std::chrono::minutes(30); ///< until it is written
+    std::chrono::milliseconds whole = std::chrono::minutes(30); ///< for sending and writing together
 };
 
-/// Runs on any one thread and blocks it.
+/// Upgrades one device. run() blocks its thread, which may be any.
 class UpgradeWork
 {
 public:
     using Tell = std::function<void(const UpgradeState &state)>;
 
-    /// `tell` gets each change on the way.
+    /// `tell` is called with each change of the state, on the thread of run(). The references must outlive
+    /// this object.
     UpgradeWork(const sdk::SdkLibraries &libraries, const UpgradeLimits &limits, const UpgradeOrder &order,
                 UpgradeStop stop, Tell tell);
 
-    /// Returns the end. The stop of its batch counts as one that the user asks for: a device that writes is
-    /// followed to its end.
+    /// Runs the upgrade and returns its final state. A stop of the batch counts as a stop by the user: an
+    /// upgrade that the device is already writing continues to its end.
     [[nodiscard]] UpgradeState run(const StepControl &control);
 
 private:
@@ -73,7 +77,7 @@ private:
         QString version;
     };
 
-    class News;
+    class News; ///< latest progress reported by the library
 
     [[nodiscard]] UpgradeState send(std::int64_t loginHandle, const FirmwareFile &file, News &news,
                                     const StepControl &control);
@@ -81,7 +85,7 @@ private:
                                       const StepControl &control);
     [[nodiscard]] UpgradeState waitForReturn(const FirmwareFile &file, const StepControl &control);
     [[nodiscard]] bool shouldStop(const StepControl &control) const;
-    /// What it means that a device tells this version, which is not empty, after its reboot.
+    /// The result for a device that reports this version (not empty) after its reboot.
     [[nodiscard]] UpgradeTools::Result outcomeOf(const FirmwareFile &file, const QString &version) const;
     [[nodiscard]] Identity identity(std::int64_t loginHandle) const;
     void tell(UpgradeTools::Result result, int percent, const QString &remark = QString());
@@ -95,6 +99,6 @@ private:
     const Tell m_tell;
     QString m_oldVersion;
     UpgradeState m_state;
-    bool m_stopRefused = false; ///< it writes
-    QString m_stopRemark;       ///< why it has not stopped
+    bool m_stopRefused = false; ///< no further stop requests: the device writes its firmware
+    QString m_stopRemark;       ///< message why the upgrade has not stopped
 };
