@@ -20,7 +20,7 @@ const char *const scene = "    id: window\n"
                           "        onChanged: table.refresh()\n"
                           "        onSaid: (message, kind) => window.said = window.said.concat([message])\n"
                           "    }\n"
-                          "    UpgradeSummary { width: 900; batch: upgrades.last; atOnce: 4 }\n";
+                          "    UpgradeSummary { width: 900; batch: upgrades.last }\n";
 
 } // namespace
 
