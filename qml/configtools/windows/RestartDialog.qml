@@ -8,7 +8,7 @@ OVDialog {
     signal restartRequested
 
     wantedWidth: Theme.restartWidth
-    height: Theme.restartHeight
+    leastHeight: Theme.restartHeight
     objectName: "restartDialog"
     cancelText: qsTr("取消")
     okText: qsTr("重启")
