@@ -22,25 +22,33 @@ QString changedCertificateText()
     return CgiProcedure::tr("设备证书已改变。");
 }
 
-/// The reason why an exchange failed; empty on success. Too long headers have a separate text, since libcurl
-/// would report a full disk.
-QString failureOf(const HttpOutcome &outcome)
+QString failureText(HttpFailure kind)
 {
-    if (outcome.hasTooLongHeaders)
-        return CgiProcedure::tr("应答头过大。");
-    if (outcome.certificateRefusal)
-        return outcome.certificateRefusal == sdk::CertificateVerdict::Changed ? changedCertificateText()
-                                                                              : unknownCertificateText();
-    return outcome.isStopped ? CgiProcedure::tr("操作已停止。") : outcome.failure;
+    switch (kind) {
+    case HttpFailure::UnknownHost:
+        return CgiProcedure::tr("找不到该主机");
+    case HttpFailure::Refused:
+        return CgiProcedure::tr("设备拒绝连接，请检查HTTP端口");
+    case HttpFailure::Unreachable:
+        return CgiProcedure::tr("无法连接设备");
+    case HttpFailure::TimedOut:
+        return CgiProcedure::tr("设备没有及时应答");
+    case HttpFailure::Tls:
+        return CgiProcedure::tr("无法建立加密连接，请检查HTTPS端口");
+    case HttpFailure::Malformed:
+        return CgiProcedure::tr("设备的应答不是有效的HTTP");
+    case HttpFailure::Interrupted:
+        return CgiProcedure::tr("应答结束前连接已断开");
+    case HttpFailure::None:
+    case HttpFailure::Other:
+        break;
+    }
+    return CgiProcedure::tr("请求失败");
 }
 
-/// The same for the second exchange, in which the device may respond with an error page.
-QString secondFailureOf(const HttpOutcome &outcome)
+QString statusText(long status)
 {
-    QString failure = failureOf(outcome);
-    if (!failure.isEmpty() || outcome.status == accepted)
-        return failure;
-    return CgiProcedure::tr("服务器连接失败") + QStringLiteral(" (HTTP %1)").arg(outcome.status);
+    return QStringLiteral(" (HTTP %1)").arg(status);
 }
 
 /// True if an exchange ended before the response was complete: a repeated request may succeed.
@@ -152,9 +160,34 @@ CgiAnswer CgiProcedure::exchange(const QString &url, const QString &user, const 
                 .isUnanswered = received.isIncomplete || isIncomplete(first),
                 .certificateRefusal = first.certificateRefusal};
     if (first.status != accepted)
-        return {.text = failedResult + tr("服务器连接失败"),
+        return {.text = failedResult + tr("服务器连接失败") +
+                        (m_surroundings.explainsFailures ? statusText(first.status) : QString()),
                 .isLoginRefused = first.status == credentialsWanted};
     return {.text = received.text};
+}
+
+/// Too long headers have a separate text, since libcurl would report a full disk.
+QString CgiProcedure::failureOf(const HttpOutcome &outcome) const
+{
+    if (outcome.hasTooLongHeaders)
+        return tr("应答头过大。");
+    if (outcome.certificateRefusal)
+        return outcome.certificateRefusal == sdk::CertificateVerdict::Changed ? changedCertificateText()
+                                                                              : unknownCertificateText();
+    if (outcome.isStopped)
+        return tr("操作已停止。");
+    if (outcome.failure.isEmpty() || !m_surroundings.explainsFailures)
+        return outcome.failure;
+    //: Why a request failed, and the same in the words of a library.
+    return tr("%1（%2）").arg(failureText(outcome.failureKind), outcome.failure);
+}
+
+QString CgiProcedure::secondFailureOf(const HttpOutcome &outcome) const
+{
+    QString failure = failureOf(outcome);
+    if (!failure.isEmpty() || outcome.status == accepted)
+        return failure;
+    return tr("服务器连接失败") + statusText(outcome.status);
 }
 
 HttpOutcome CgiProcedure::perform(PreparedHttpRequest &prepared, const HttpLimits &limits,

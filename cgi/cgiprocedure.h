@@ -22,6 +22,10 @@ struct CgiSurroundings
     /// Returns a unique path for a path by the time. Empty if a later response may replace one of the same
     /// second.
     std::function<QString(const QString &path)> ownPath = {};
+
+    /// Whether the reason of a failure is in the user's language first, with the words of the library and the
+    /// status of the response behind it. Otherwise the words of the library stand alone.
+    bool explainsFailures = false;
 };
 
 /// The limits of a command's exchanges.
@@ -80,6 +84,10 @@ private:
         bool isIncomplete = false; ///< the response is incomplete
     };
 
+    /// The reason why an exchange failed; empty on success.
+    [[nodiscard]] QString failureOf(const HttpOutcome &outcome) const;
+    /// The same for the second exchange, in which the device may respond with an error page.
+    [[nodiscard]] QString secondFailureOf(const HttpOutcome &outcome) const;
     [[nodiscard]] Received receive(PreparedHttpRequest &prepared, const HttpOutcome &first) const;
     [[nodiscard]] Received receiveText(PreparedHttpRequest &prepared) const;
     [[nodiscard]] Received receiveImage(PreparedHttpRequest &prepared, const QString &path,

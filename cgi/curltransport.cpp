@@ -4,6 +4,7 @@
 
 #include <curl/curl.h>
 
+#include <cerrno>
 #include <cstdio>
 
 namespace {
@@ -52,6 +53,39 @@ sdk::TlsPeer peerOf(const QByteArray &address)
     if (host.startsWith('[') && host.endsWith(']'))
         host = host.sliced(1, host.size() - 2);
     return {.address = host.toStdString(), .port = partOf(url.get(), CURLUPART_PORT).toInt(), .identity = {}};
+}
+
+HttpFailure failureKindOf(CURLcode result, long systemError)
+{
+    switch (result) {
+    case CURLE_OK:
+        return HttpFailure::None;
+    case CURLE_COULDNT_RESOLVE_HOST:
+    case CURLE_COULDNT_RESOLVE_PROXY:
+        return HttpFailure::UnknownHost;
+    case CURLE_COULDNT_CONNECT:
+        return systemError == ECONNREFUSED ? HttpFailure::Refused : HttpFailure::Unreachable;
+    case CURLE_OPERATION_TIMEDOUT:
+        return HttpFailure::TimedOut;
+    case CURLE_SSL_CONNECT_ERROR:
+    case CURLE_SSL_ENGINE_INITFAILED:
+    case CURLE_SSL_CIPHER:
+    case CURLE_SSL_CERTPROBLEM:
+    case CURLE_PEER_FAILED_VERIFICATION:
+    case CURLE_USE_SSL_FAILED:
+        return HttpFailure::Tls;
+    case CURLE_UNSUPPORTED_PROTOCOL: // HTTP/0.9, which has no status line
+    case CURLE_WEIRD_SERVER_REPLY:
+    case CURLE_BAD_CONTENT_ENCODING:
+        return HttpFailure::Malformed;
+    case CURLE_GOT_NOTHING:
+    case CURLE_PARTIAL_FILE:
+    case CURLE_RECV_ERROR:
+    case CURLE_SEND_ERROR:
+        return HttpFailure::Interrupted;
+    default:
+        return HttpFailure::Other;
+    }
 }
 
 class CurlHttpRequest : public PreparedHttpRequest
@@ -106,6 +140,9 @@ public:
         outcome.certificateRefusal = m_check.refusal();
         curl_easy_getinfo(m_handle.get(), CURLINFO_RESPONSE_CODE, &outcome.status);
         if (result != CURLE_OK) {
+            long systemError = 0;
+            curl_easy_getinfo(m_handle.get(), CURLINFO_OS_ERRNO, &systemError);
+            outcome.failureKind = failureKindOf(result, systemError);
             outcome.failure = QString::fromUtf8(curl_easy_strerror(result));
             std::fprintf(stderr, "curl_easy_perform() failed: %s\n", curl_easy_strerror(result));
         }

@@ -20,11 +20,26 @@ struct HttpLimits
     std::chrono::seconds slowTime{0};   ///< longest time below `slowestRate`
 };
 
+/// Kinds of failures that the user can do something about in different ways.
+enum class HttpFailure
+{
+    None,
+    UnknownHost,
+    Refused,     ///< nothing listens at the port
+    Unreachable, ///< no connection for another reason
+    TimedOut,
+    Tls,         ///< no encrypted connection
+    Malformed,   ///< the response is not HTTP
+    Interrupted, ///< the device closed the connection before the end of the response
+    Other,
+};
+
 /// How an exchange ended.
 struct HttpOutcome
 {
     long status = 0;                ///< of the last response; 0 for none
-    QString failure;                ///< reason of the failure; empty on success
+    QString failure;                ///< reason of the failure in the words of the library; empty on success
+    HttpFailure failureKind = HttpFailure::None;
     bool hasTooLongHeaders = false; ///< ended because of too long headers; also a failure
     bool isStopped = false;         ///< ended by the watch; also a failure
 

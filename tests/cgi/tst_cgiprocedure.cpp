@@ -312,6 +312,38 @@ private Q_SLOTS:
         QCOMPARE(savedFiles(), QStringList()); // no file that looks complete
     }
 
+    /// The results of rows name the kind of failure in the user's language, before the words of the library.
+    void aRowExplainsItsFailure_data()
+    {
+        // answer: empty for a server that does not answer. result: its start
+        const auto row = dataTable<bool, QByteArray, QString>({"isListening", "answer", "result"});
+        const QByteArray cut = "HTTP/1.1 200 OK\r\nContent-Length: 1000\r\n\r\nbeginning";
+        row("nobody listens", false, "", "Error:设备拒绝连接，请检查HTTP端口（");
+        row("no answer", true, "", "Error:设备没有及时应答（");
+        row("no status line", true, "hello\r\n\r\nwhat is HTTP?", "Error:设备的应答不是有效的HTTP（");
+        row("cut short", true, cut, "Error:应答结束前连接已断开（");
+        row("refused", true, "HTTP/1.1 403 Forbidden\r\nContent-Length: 0\r\n\r\n",
+            "Error:服务器连接失败 (HTTP 403)");
+    }
+
+    void aRowExplainsItsFailure()
+    {
+        QFETCH(bool, isListening);
+        QFETCH(QByteArray, answer);
+        QFETCH(QString, result);
+        auto server = std::make_unique<RawServer>([answer](const RawExchange &exchange) {
+            exchange.send(answer);
+            while (answer.isEmpty() && exchange.pause(50)) {
+            }
+        });
+        m_surroundings.explainsFailures = true;
+        const QString url = server->url("/cgi-bin/a");
+        if (!isListening)
+            server.reset();
+        const QString actual = run(url, shortLimits());
+        QVERIFY2(actual.startsWith(result), qPrintable(actual));
+    }
+
     void aRecordingThatBreaksOffIsKept_data()
     {
         // staysOpen: the connection of the device
