@@ -5,13 +5,10 @@
 
 namespace {
 
-int failureOf(const CgiAnswer &answer)
+int certificateResult(sdk::CertificateVerdict verdict)
 {
-    if (!answer.certificateRefusal)
-        return commandFailed;
-    return resultCode(answer.certificateRefusal == sdk::CertificateVerdict::Changed
-                          ? LoginResult::ChangedCertificate
-                          : LoginResult::UnknownCertificate);
+    return resultCode(verdict == sdk::CertificateVerdict::Changed ? LoginResult::ChangedCertificate
+                                                                  : LoginResult::UnknownCertificate);
 }
 
 } // namespace
@@ -20,9 +17,8 @@ DeviceStep cgiStep(const CgiSurroundings &surroundings, const CgiCommand &comman
 {
     return [surroundings, command, sink](const StepControl &control) {
         const int login = surroundings.checkLogin(command.ipport, command.user, command.password);
-        const QString refusal = CgiProcedure::loginRefusal(login);
-        if (!refusal.isEmpty())
-            return StepOutcome{.result = login, .text = failedResult + refusal};
+        if (!CgiProcedure::loginRefusal(login).isEmpty()) // the result says it all
+            return StepOutcome{.result = login, .text = {}};
         if (control.shouldEnd())
             return StepOutcome{.result = resultCode(LoginResult::NotDone), .text = {}};
         CgiSurroundings watched = surroundings;
@@ -37,9 +33,13 @@ DeviceStep cgiStep(const CgiSurroundings &surroundings, const CgiCommand &comman
         if (answer
                 .isLoginRefused) // further commands of the device would count towards the lock of the account
             return StepOutcome{.result = resultCode(LoginResult::WrongPassword), .text = beginning};
+        if (answer.certificateRefusal)
+            return StepOutcome{.result = certificateResult(*answer.certificateRefusal),
+                               .text = {},
+                               .isUnanswered = answer.isUnanswered};
         if (answer.text.startsWith(failedResult))
             return StepOutcome{
-                .result = failureOf(answer), .text = beginning, .isUnanswered = answer.isUnanswered};
+                .result = commandFailed, .text = beginning, .isUnanswered = answer.isUnanswered};
         return StepOutcome{.result = resultCode(LoginResult::Success), .text = {}, .answer = beginning};
     };
 }
@@ -69,5 +69,8 @@ QString cgiResultText(const StepOutcome &outcome)
         return CgiBatches::tr("未执行");
     if (outcome.result == resultCode(LoginResult::Success))
         return outcome.answer;
-    return outcome.text.isEmpty() ? failedResult + resultName(outcome.result) : outcome.text;
+    if (!outcome.text.isEmpty())
+        return outcome.text;
+    const QString refusal = CgiProcedure::loginRefusal(outcome.result);
+    return failedResult + (refusal.isEmpty() ? resultName(outcome.result) : refusal);
 }
