@@ -57,12 +57,25 @@ FocusScope {
         keeper.keep();
         if (keeper.words !== "")
             said(keeper.words, keeper.failure !== "" ? OVToast.Error : OVToast.Success);
+        tellUnchangedPasswords();
         const left = batch.report.devicesLeft(leftOut);
         passwordTime.takeResults(left);
         if (left.length > 0)
             return;
         panels.forgetNewPassword();
         panels.clearOldPassword();
+    }
+
+    /// Of the devices that a change of passwords was sent to, or that it did not come to.
+    function tellUnchangedPasswords() {
+        const unchanged = batch.report.devicesNotSucceeded();
+        if (unchanged.length === 0)
+            return;
+        const shown = 3;
+        const reasons = Array.from(new Set(batch.batch.wordsOf(unchanged).map(entry => entry.words)));
+        //: %1 are the reasons.
+        said(qsTr("%n 台设备的密码没有修改（%1），已标记", "", unchanged.length)
+                 .arg(reasons.slice(0, shown).join(qsTr("；")) + (reasons.length > shown ? "…" : "")), OVToast.Error);
     }
 
     function wordOfResult(result) {

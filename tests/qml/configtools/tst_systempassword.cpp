@@ -157,9 +157,12 @@ private Q_SLOTS:
         const QModelIndex refusing = m_tree->index(0, 0, m_tree->index(0, 0));
         m_site->site->setFault(refusing.data(OVTreeModel::IdentityRole).toString(),
                                {.fault = sdk::demo::Fault::RefusesPasswordChange});
+        const QSignalSpy said(m_page, SIGNAL(said(QString, int)));
         sendNewPassword();
         QTRY_VERIFY(!isRunning());
         QCOMPARE(m_site->site->requests().of("NetModifyPassword").size(), 4);
+        constexpr int error = 2;
+        QCOMPARE(said.last(), (QVariantList{"1 台设备的密码没有修改（设备拒绝了此操作），已标记", error}));
         QCOMPARE(m_accounts->deviceCounts().value("admin"), devices);
         QTEST(m_default.password, "byDefault");
         const std::optional<StoredAccount> kept = m_accounts->account("admin");
