@@ -56,7 +56,7 @@ Column {
 
         ImageSlider {
             group: sharpness
-            label: qsTr("锐度")
+            label: qsTr("强度")
             subKey: "value"
         }
     }
