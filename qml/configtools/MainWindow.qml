@@ -29,6 +29,13 @@ T.ApplicationWindow {
     readonly property alias searching: search.running
     property int currentTab: 0
     property string chosenLanguage: localConfig.getLanguage()
+    /// Beside the tabs, from the buttons of the title bar down to those of the tool bars.
+    readonly property rect noticeBand: {
+        const left = tabBar.tabsWidth + Theme.pageMargin;
+        const top = (Theme.titleBarHeight + Theme.controlHeight) / 2 + 2;
+        const bottom = titleBar.height + tabBar.height + (Theme.toolBarHeight - Theme.controlHeight) / 2 - 2;
+        return Qt.rect(left, top, width - left - Theme.pageMargin, bottom - top);
+    }
     readonly property bool maximised: visibility === Window.Maximized || visibility === Window.FullScreen
 
     /// Starts a search that the user asks for. It removes all rows, so it waits for works that need them.
@@ -288,6 +295,7 @@ T.ApplicationWindow {
         languages: languageList.entries
         localConfig: window.localConfig
         logoName: window.title
+        noticeBand: window.noticeBand
         searchReports: window.searchReports
         searching: window.searching
         softwareName: window.localConfig.getSoftwareName()

@@ -75,6 +75,8 @@ QtObject {
     readonly property int batchBarWidth: 120
     readonly property int strengthWidth: 160
     readonly property int toastWidth: 380
+    readonly property int toastMost: 640
+    readonly property int toastLeast: 240
     readonly property int toolTipWidth: 360
     // From a button of a tool bar to below the heading of the table under it.
     readonly property int toolTipDrop: (toolBarHeight - controlHeight) / 2 + tableHeadHeight
@@ -89,6 +91,7 @@ QtObject {
     readonly property int clockListHeight: 210
     readonly property int panelLabelWidth: 116
     readonly property int choiceWidth: 200
+    readonly property int operationWidth: 152
     readonly property int shortChoiceWidth: 104
     readonly property int momentFieldWidth: 200
     readonly property int passwordFieldWidth: 260

@@ -1,6 +1,6 @@
-// Short messages that need no answer, up to three below each other with the newest at the top. Errors stay longer; a
-// click sends one away. They hang from the upper edge of the window, where no rows are, in front of a dialog and the veil
-// around it. A dialog has a place of its own for what concerns it.
+// Short messages that need no answer. The newest one is shown, with the number of those that wait behind it; each is shown
+// for its whole time. Errors stay longer; a click sends one away. They have a place where no tabs, tool bars, rows and
+// buttons are, in front of a dialog and the veil around it. A dialog has a place of its own for what concerns it.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -11,7 +11,12 @@ T.Popup {
     /// A refusal names what is in the way of an action, which is no fault: it goes with that, see settle().
     enum Kind { Information, Success, Error, Refusal }
 
-    readonly property int shown: 3
+    readonly property int kept: 3
+
+    /// Where messages are centred, and as wide as this at most. A higher message grows downwards.
+    property rect band: Qt.rect(((parent?.width ?? 0) - Theme.toastWidth) / 2, Theme.half, Theme.toastWidth, 0)
+    readonly property real mostWidth: Math.min(Theme.toastMost, Math.max(band.width, Theme.toastLeast))
+    readonly property Item newest: toasts.newest(toasts.revision)
 
     /// `stay` in milliseconds; left out, it depends on the kind.
     function show(text, kind, stay) {
@@ -19,7 +24,7 @@ T.Popup {
             if (messages.get(i).words === text)
                 messages.remove(i);  // said again, it stays from now
         }
-        if (messages.count === shown)
+        if (messages.count === kept)
             messages.remove(0);
         const usualStay = kind === OVToast.Error || kind === OVToast.Refusal ? Theme.errorToastStay : Theme.toastStay;
         messages.append({words: text, kind: kind ?? OVToast.Information, stay: stay ?? usualStay});
@@ -40,14 +45,14 @@ T.Popup {
     }
 
     parent: T.Overlay.overlay
-    x: Math.round(((parent?.width ?? 0) - width) / 2)
-    y: Theme.half
+    x: Math.round(Math.min(band.x + (band.width - width) / 2, (parent?.width ?? 0) - width - Theme.half))
+    y: Math.round(band.y + Math.max(0, (band.height - height) / 2))
     z: 1
     closePolicy: T.Popup.NoAutoClose
     focus: false
     modal: false
-    implicitWidth: Theme.toastWidth
-    implicitHeight: toasts.heightFrom(0, toasts.revision)
+    implicitWidth: newest?.width ?? 0
+    implicitHeight: newest?.height ?? 0
 
     ListModel {
         id: messages
@@ -61,12 +66,8 @@ T.Popup {
 
             property int revision: 0  // rises when a toast comes or goes
 
-            /// Height of the toasts from `first` on, with the gaps between them.
-            function heightFrom(first, _) {
-                let sum = 0;
-                for (let i = first; i < count; ++i)
-                    sum += (itemAt(i)?.height ?? 0) + (i > first ? Theme.unit : 0);
-                return sum;
+            function newest(_) {
+                return count > 0 ? itemAt(count - 1) : null;
             }
 
             model: messages
@@ -84,17 +85,17 @@ T.Popup {
                     : kind === OVToast.Refusal ? Theme.colours.warn
                     : kind === OVToast.Success ? Theme.colours.ok : Theme.colours.accent
 
-                // A toast that stays moves only by what came or went above it.
-                y: index < toasts.count - 1 ? toasts.heightFrom(index + 1, toasts.revision) + Theme.unit : 0
-                Behavior on y { NumberAnimation { duration: Theme.quick; easing.type: Easing.OutQuad } }
+                readonly property int padding: Theme.unit
+                readonly property real textRoom: root.mostWidth - text.x - 2 * padding - (waiting.visible ? waiting.width : 0)
 
-                width: Theme.toastWidth
-                height: text.implicitHeight + 24
+                width: root.mostWidth - textRoom + text.width
+                height: text.implicitHeight + 2 * padding
                 border.color: Theme.colours.line
                 border.width: Theme.line
                 color: Theme.colours.surface
                 objectName: "toast"
                 radius: Theme.paneRadius
+                visible: index === toasts.count - 1
 
                 Accessible.role: Accessible.AlertMessage
                 Accessible.name: words
@@ -112,20 +113,28 @@ T.Popup {
                 OVIcon {
                     id: icon
                     x: 14
-                    y: 12
+                    y: toast.padding
                     color: toast.sign
                     name: toast.kind === OVToast.Error ? "error" : toast.kind === OVToast.Refusal ? "alert"
                         : toast.kind === OVToast.Success ? "ok" : "about"
                 }
                 OVParagraph {
                     id: text
-                    anchors.left: icon.right
-                    anchors.leftMargin: 10
-                    anchors.right: parent.right
-                    anchors.rightMargin: 16
-                    y: 12
+                    x: icon.x + icon.width + 10
+                    y: toast.padding
+                    width: Math.min(Math.ceil(implicitWidth), toast.textRoom)
                     objectName: "toastText"
                     text: toast.words
+                }
+                OVLabel {
+                    id: waiting
+                    x: text.x + text.width + toast.padding
+                    y: toast.padding
+                    color: Theme.colours.sub
+                    font: Theme.figureFont
+                    objectName: "toastsWaiting"
+                    text: "+" + (toasts.count - 1)
+                    visible: toasts.count > 1
                 }
                 NumberAnimation on opacity { from: 0; to: 1; duration: Theme.quick }
                 TapHandler {
@@ -133,7 +142,7 @@ T.Popup {
                 }
                 Timer {
                     interval: toast.stay
-                    running: !hover.hovered
+                    running: toast.visible && !hover.hovered
                     onTriggered: messages.remove(toast.index)
                 }
                 HoverHandler {

@@ -306,6 +306,7 @@ T.ApplicationWindow {
         id: toasts
         visible: false
         sourceComponent: OVToast {
+            band: Qt.rect((window.width - Theme.toastWidth) / 2, titleBar.height + Theme.unit, Theme.toastWidth, 0)
             objectName: "liveToasts"
         }
     }

@@ -18,6 +18,7 @@ Item {
     required property string softwareName
     required property string version
     required property bool searching
+    required property rect noticeBand  // of the window, where messages are in the way of nothing
     required property var webPages  // WebPages
     signal helpRequested
     signal questionsRequested
@@ -245,6 +246,7 @@ Item {
         id: toasts
         visible: false
         sourceComponent: OVToast {
+            band: root.noticeBand
             objectName: "toasts"
         }
     }
