@@ -320,6 +320,24 @@ QStringList Batch::failedIdentities() const
     return identities;
 }
 
+QStringList Batch::devicesOfRefusedAccounts() const
+{
+    if (!m_plan.accountOf || !m_plan.canBeRetried)
+        return {};
+    QSet<QByteArray> refused;
+    for (const Entry &entry : m_entries)
+        refused.insert(entry.refusedLogin);
+    refused.remove({});
+    QStringList identities;
+    for (const Entry &entry : m_entries) {
+        const bool isToCome = !entry.time.isValid();
+        if (!entry.refusedLogin.isEmpty() ||
+            (isToCome && refused.contains(loginMark(m_plan.accountOf(entry.device)))))
+            identities.append(entry.device.identity);
+    }
+    return identities;
+}
+
 QStringList Batch::failedDevices() const
 {
     return m_report.devicesNotSucceeded();

@@ -125,6 +125,10 @@ public:
     /// retries. Pages check their rows by them.
     Q_INVOKABLE [[nodiscard]] QStringList failedIdentities() const;
 
+    /// Identities of the devices that refused their account, and of the devices not yet started that have the
+    /// same account. Empty if no retry with another account is possible.
+    Q_INVOKABLE [[nodiscard]] QStringList devicesOfRefusedAccounts() const;
+
     /// Names of the devices of devicesToRetry().
     Q_INVOKABLE [[nodiscard]] QStringList retryableDevices() const;
 

@@ -24,6 +24,7 @@ Item {
     readonly property bool showsBatch: batch?.running ?? false
     readonly property bool showsSearch: !running && !showsBatch && (search?.running ?? false)
     readonly property bool held: showsBatch && batch.held
+    property Batch again: null  // is stopped, and tried again with another account
     readonly property bool ended: batch !== null && !batch.running
     readonly property bool incomplete: ended && batch.report.failed + batch.report.notDone + batch.failedBefore > 0
     readonly property string outcome: ended && batch.report.summary !== ""
@@ -150,6 +151,15 @@ Item {
             visible: text !== "" && !root.compact && (root.running || root.showsSearch || (root.showsBatch && !root.held))
         }
         OVLinkButton {
+            id: account
+            anchors.verticalCenter: parent.verticalCenter
+            objectName: "selectAccountButton"
+            text: qsTr("选择账号…")
+            toolTip: root.compact ? "" : qsTr("为拒绝了此账号的设备和其余使用此账号的设备选择另一个账号，然后重试")
+            visible: root.held && LoginMemory.accounts !== null && root.batch.devicesOfRefusedAccounts().length > 0
+            onClicked: accounts.wanted().choose(root.batch.devicesOfRefusedAccounts())
+        }
+        OVLinkButton {
             anchors.verticalCenter: parent.verticalCenter
             objectName: "continueButton"
             text: qsTr("继续")
@@ -163,7 +173,7 @@ Item {
             enabled: !stopping
             objectName: "stopButton"
             text: enabled ? qsTr("停止") : qsTr("正在停止…")
-            toolTip: root.compact ? "" : root.held ? qsTr("停止后，可在设备的右键菜单中选择账号，再重试失败的设备（Esc）")
+            toolTip: root.compact ? "" : root.held && !account.visible ? qsTr("停止后，可在设备的右键菜单中选择账号，再重试失败的设备（Esc）")
                 : qsTr("停止（Esc）")
             visible: root.showsBatch || root.showsSearch
             onClicked: {
@@ -207,7 +217,30 @@ Item {
         }
     }
 
+    Connections {
+        target: root.again
+
+        function onFinished() {
+            const ended = root.again;
+            root.again = null;
+            Qt.callLater(() => root.batches.retry(ended));  // the pages take its end first
+        }
+    }
     // qmllint disable unqualified
+    OVOnDemand {
+        id: accounts
+        visible: false
+        sourceComponent: AccountsDialog {
+            accounts: LoginMemory.accounts
+            onChosen: {
+                if (!root.held)
+                    return;
+                root.again = root.batch;
+                root.batch.stop();
+            }
+            onSaid: (message, kind) => root.said(message, kind)
+        }
+    }
     OVOnDemand {
         id: results
         visible: false

@@ -11,6 +11,7 @@ OVDialog {
     readonly property var current: shownRow(table.currentIndex, accounts.count)
     readonly property bool isOwn: (current.identity ?? "") !== "" && !current.isDefault
     signal said(string message, int kind)
+    signal chosen  // the devices have the account now
 
     /// `count` changes with the rows.
     function shownRow(index, count) {
@@ -36,6 +37,7 @@ OVDialog {
             refuse(failure);
             return;
         }
+        chosen();
         const unknown = name === "" ? 0 : accounts.countUnidentified(devices);
         close();
         said((name === "" ? qsTr("%n 台设备使用默认账号", "", devices.length)

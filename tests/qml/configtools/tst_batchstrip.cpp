@@ -1,6 +1,7 @@
 // The batch bar of a page: its text and buttons while a batch runs, while it is paused and after its end, and
 // the file of results.
 #include "device/batch/batches.h"
+#include "device/models/accountlist.h"
 #include "device/models/devicetablemodel.h"
 #include "device/models/treemodel.h"
 #include "sheets/qexcel.h"
@@ -28,6 +29,7 @@ const char *const scene = "    width: 1280; height: 720; visible: true\n"
                           "    QtObject { id: store; function keepNew(devices, keeping) { return ''; } }\n"
                           "    AccountKeeper { id: keeper; objectName: 'keeper'; batches: works }\n"
                           "    Component.onCompleted: LoginMemory.accounts = store\n"
+                          "    function keepAccounts() { LoginMemory.accounts = deviceAccounts; }\n"
                           "    function keepNew() {\n"
                           "        keeper.follow(works.current, AccountList.ForDevices);\n"
                           "    }\n";
@@ -61,13 +63,15 @@ private:
     std::unique_ptr<BatchEngine> m_threads;
     std::unique_ptr<RowsFactory> m_site;
     std::unique_ptr<Batches> m_batches;
+    std::unique_ptr<AccountList> m_accounts;
     std::unique_ptr<DeviceTableModel> m_table;
     std::unique_ptr<OVTreeModel> m_tree;
     std::unique_ptr<QQmlEngine> m_engine;
     std::unique_ptr<QQuickWindow> m_window;
     ChosenFile m_file;
     int m_resultAgain = 0;
-    QSemaphore m_gate; ///< each resource lets one step end
+    DeviceAccount m_account; ///< of the devices; the plan knows none while it is empty
+    QSemaphore m_gate;       ///< lets one step end for each of its resources
 
     [[nodiscard]] QQuickItem *find(const QByteArray &name) const
     {
@@ -103,6 +107,10 @@ private:
                                  .ipport = ipport,
                                  .title = QStringLiteral("=门,\"%1\"").arg(place + 1)});
         }
+        if (!m_account.account.isEmpty())
+            plan.accountOf = [this](const BatchDevice &) {
+                return m_account;
+            };
         plan.stepOf = [this, results](const BatchDevice &device) {
             const int place = QStringView(device.identity).mid(1).toInt() - 1;
             const int result = m_batches->kept().isEmpty() ? results.at(place) : m_resultAgain;
@@ -132,6 +140,12 @@ private Q_SLOTS:
         m_site->rows->add({.address = "10.0.0.2", .mac = "m2", .type = "IPC"});
         m_site->rows->add({.address = "10.0.0.3", .mac = "m3", .type = "IPC"});
         m_batches = std::make_unique<Batches>(m_site->factory, *m_threads, [] { return 1; });
+        m_accounts = std::make_unique<AccountList>(m_site->factory, std::make_shared<AccountStore>(QString()),
+                                                   AccountList::Defaults{.read = [this] { return m_account; },
+                                                                         .write =
+                                                                             [](const DeviceAccount &) {
+                                                                             }});
+        m_account = {};
         m_table = std::make_unique<DeviceTableModel>();
         m_table->setDeviceFactory(&m_site->factory);
         m_tree = std::make_unique<OVTreeModel>();
@@ -143,6 +157,7 @@ private Q_SLOTS:
                               {"FileDialogsApi", &m_file},
                               {"CDeviceFactoryApi", &m_site->factory},
                               {"deviceTable", m_table.get()},
+                              {"deviceAccounts", m_accounts.get()},
                               {"deviceTree", m_tree.get()}});
         QVERIFY(m_window && QTest::qWaitForWindowExposed(m_window.get()));
         QVERIFY(shown().isEmpty());
@@ -156,6 +171,7 @@ private Q_SLOTS:
         m_engine.reset();
         m_tree.reset();
         m_table.reset();
+        m_accounts.reset();
         m_batches.reset();
         m_site.reset();
         m_threads.reset();
@@ -180,6 +196,23 @@ private Q_SLOTS:
         QCOMPARE(shown(), (QStringList{"continueButton", "stopButton", "batchPanelButton"}));
         press(button);
         QTRY_COMPARE(text("footWarning"), outcome);
+    }
+
+    /// The devices of the refused account get another one, and all that are left are tried with it.
+    void aHeldBatchGoesOnWithAnotherAccount()
+    {
+        m_account = {.account = "admin", .password = "old"};
+        QMetaObject::invokeMethod(m_window.get(), "keepAccounts");
+        m_gate.release(5);
+        start({wrongPassword, wrongPassword, 0});
+        QTRY_VERIFY(find("continueButton"));
+        press("selectAccountButton");
+        QTRY_VERIFY(find("accountsTable"));
+        QCOMPARE(text("okButton"), QStringLiteral("用于 3 台设备"));
+        m_account.password = "new";
+        press("okButton");
+        QTRY_COMPARE(text("selectedCount"), QStringLiteral("Ticked  ·  Work：3 台设备成功"));
+        QCOMPARE(m_batches->kept().size(), 2);
     }
 
     void theEndOffersFurtherActions_data()
