@@ -168,7 +168,15 @@ void DeviceTableModel::addNotes(QVariantList &list) const
 
 void DeviceTableModel::setOnlyFailed(bool only)
 {
-    if (std::exchange(m_onlyFailed, only) != only)
+    if (std::exchange(m_onlyFailed, only) == only)
+        return;
+    m_failedMarks.setOperation({});
+    applyFilter();
+}
+
+void DeviceTableModel::setFailedOperation(const QString &operation)
+{
+    if (m_failedMarks.setOperation(operation))
         applyFilter();
 }
 
@@ -176,6 +184,8 @@ void DeviceTableModel::takeMarks()
 {
     if (m_onlyFailed && m_failedMarks.isEmpty())
         setOnlyFailed(false);
+    else if (m_failedMarks.settleOperation())
+        applyFilter();
     else if (m_onlyFailed)
         refresh();
     else if (m_deviceFactory)
@@ -210,7 +220,7 @@ QList<DeviceTableRow> DeviceTableModel::readRows()
                         {.showInitialised = m_showInitialised,
                          .showUninitialised = m_showUninitialised,
                          .searchText = m_searchText,
-                         .onlyThose = m_onlyFailed ? m_failedMarks.get() : nullptr},
+                         .onlyThose = m_onlyFailed ? &m_failedMarks : nullptr},
                         {.key = m_sortKey,
                          .direction = m_sortOrder,
                          .oddAddresses = m_oddAddressesFirst ? DeviceOrder::OddAddresses::AsZero

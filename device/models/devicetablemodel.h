@@ -42,6 +42,7 @@ class DeviceTableModel : public QAbstractListModel
     /// Whether only marked devices are shown, ordered by reason and then by address unless the user has
     /// chosen another order. Reset to false when no mark is left.
     Q_PROPERTY(bool onlyFailed READ onlyFailed WRITE setOnlyFailed NOTIFY filterChanged)
+    Q_PROPERTY(QString failedOperation READ failedOperation WRITE setFailedOperation NOTIFY filterChanged)
     /// Whether strings that are not an IPv4 address are ordered as address 0; otherwise they come last.
     Q_PROPERTY(bool oddAddressesFirst MEMBER m_oddAddressesFirst NOTIFY filterChanged)
     Q_PROPERTY(QString sortKey READ sortKey NOTIFY sortChanged)
@@ -76,6 +77,9 @@ public:
     [[nodiscard]] DeviceNotes *notes() const { return m_notes; }
     void setNotes(DeviceNotes *notes);
     [[nodiscard]] bool onlyFailed() const { return m_onlyFailed; }
+    /// Of the marks, while only marked devices are shown, see FailedMarks; empty for all.
+    [[nodiscard]] QString failedOperation() const { return m_failedMarks.operation(); }
+    void setFailedOperation(const QString &operation);
     void setOnlyFailed(bool only);
     [[nodiscard]] QString sortKey() const { return m_sortKey; }
     [[nodiscard]] Qt::SortOrder sortOrder() const { return m_sortOrder; }

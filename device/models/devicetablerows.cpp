@@ -1,6 +1,6 @@
 #include "device/models/devicetablerows.h"
 
-#include "device/models/failedmarks.h"
+#include "device/models/followedmarks.h"
 #include "device/registry/devicefilter.h"
 #include "device/registry/devicenotes.h"
 #include "device/registry/devicerow.h"

@@ -9,7 +9,7 @@
 #include <QString>
 #include <QVariantList>
 
-class FailedMarks;
+class FollowedMarks;
 
 /// A row of the list with the values that are computed when the list is read.
 struct DeviceTableRow
@@ -34,7 +34,7 @@ struct DeviceTableFilter
     bool showInitialised = true;
     bool showUninitialised = true;
     QString searchText = {};
-    const FailedMarks *onlyThose = nullptr; ///< not null: only the devices that have marks are shown
+    const FollowedMarks *onlyThose = nullptr; ///< shows only the devices that have marks; null: all
 };
 
 /// The order of the rows.

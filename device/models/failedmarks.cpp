@@ -2,8 +2,6 @@
 
 #include "device/models/batchreport.h"
 
-#include <QStringList>
-
 #include <algorithm>
 
 namespace {
@@ -36,6 +34,7 @@ void FailedMarks::note(const QString &work, const QString &title, const QList<Ou
         if (!isFinal(outcome.result) || outcome.result == BatchReport::Succeeded)
             continue;
         m_failures[outcome.identity].prepend({.work = work,
+                                              .title = title,
                                               .result = outcome.result,
                                               .words = tr("%1：%2").arg(title, shortened(outcome.words))});
         isChanged = true;
@@ -64,10 +63,37 @@ void FailedMarks::clear()
     Q_EMIT changed();
 }
 
-QString FailedMarks::reasonOf(const QString &identity) const
+QStringList FailedMarks::operations() const
+{
+    QStringList titles;
+    for (const QList<Failure> &failures : m_failures) {
+        for (const Failure &failure : failures)
+            titles.append(failure.title);
+    }
+    titles.sort();
+    titles.removeDuplicates();
+    return titles;
+}
+
+int FailedMarks::count(const QString &operation) const
+{
+    if (operation.isEmpty())
+        return static_cast<int>(m_failures.size());
+    return static_cast<int>(std::count_if(m_failures.keyBegin(), m_failures.keyEnd(),
+                                          [&](const QString &name) { return contains(name, operation); }));
+}
+
+bool FailedMarks::contains(const QString &identity, const QString &operation) const
+{
+    return operation.isEmpty() ? m_failures.contains(identity) : !reasonOf(identity, operation).isEmpty();
+}
+
+QString FailedMarks::reasonOf(const QString &identity, const QString &operation) const
 {
     const QList<Failure> failures = m_failures.value(identity);
-    return failures.isEmpty() ? QString() : resultName(failures.constFirst().result);
+    const auto last = std::ranges::find_if(
+        failures, [&](const Failure &failure) { return operation.isEmpty() || failure.title == operation; });
+    return last == failures.cend() ? QString() : resultName(last->result);
 }
 
 bool FailedMarks::isOnlyNotDone(const QString &identity) const
@@ -83,5 +109,6 @@ QString FailedMarks::wordsOf(const QString &identity) const
     const QList<Failure> failures = m_failures.value(identity);
     for (const Failure &failure : failures)
         lines.append(failure.words);
+    lines.removeDuplicates(); // of works with the same title
     return lines.join(QLatin1Char('\n'));
 }

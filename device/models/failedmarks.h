@@ -5,6 +5,7 @@
 #include <QList>
 #include <QObject>
 #include <QSet>
+#include <QStringList>
 
 /// Marks the devices for which a batch failed or which it did not reach. A mark remains until a later batch
 /// of the same work succeeds for the device, or until the user clears the marks. It belongs to the name of a
@@ -16,6 +17,7 @@ class FailedMarks : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(int count READ count NOTIFY changed)
+    Q_PROPERTY(QStringList operations READ operations NOTIFY changed)
 public:
     /// The result of a batch for one device.
     struct Outcome
@@ -34,14 +36,18 @@ public:
 
     Q_INVOKABLE void clear();
 
-    [[nodiscard]] int count() const { return static_cast<int>(m_failures.size()); }
-    [[nodiscard]] bool contains(const QString &identity) const { return m_failures.contains(identity); }
+    /// Titles of the works that have marks, in alphabetical order.
+    [[nodiscard]] QStringList operations() const;
+
+    // With `operation`, the title of a work, only its marks count.
+    [[nodiscard]] int count(const QString &operation = {}) const;
+    [[nodiscard]] bool contains(const QString &identity, const QString &operation = {}) const;
+
+    /// Name of the result that the device had in the last work that failed; empty when it is not marked.
+    [[nodiscard]] QString reasonOf(const QString &identity, const QString &operation = {}) const;
 
     /// The names of the marked rows.
     [[nodiscard]] QSet<QString> identities() const { return {m_failures.keyBegin(), m_failures.keyEnd()}; }
-
-    /// The name of the most recent failed result of the device; empty if it is not marked.
-    [[nodiscard]] QString reasonOf(const QString &identity) const;
 
     /// Whether all marks of the device are from batches that did not reach it.
     [[nodiscard]] bool isOnlyNotDone(const QString &identity) const;
@@ -57,6 +63,7 @@ private:
     struct Failure
     {
         QString work;
+        QString title;
         int result = 0;
         QString words; ///< title of the work and message
     };

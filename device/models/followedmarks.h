@@ -5,21 +5,37 @@
 #include <QPointer>
 #include <QStringList>
 
-/// Reference from a model to the FailedMarks that it shows; may be empty. Lives on the main thread.
+#include <utility>
+
+/// Reference from a model to the FailedMarks that it shows; may be empty. Also the operation whose marks count
+/// when only marked devices are shown. Lives on the main thread.
 class FollowedMarks
 {
 public:
     [[nodiscard]] FailedMarks *get() const { return m_marks; }
     [[nodiscard]] bool isEmpty() const { return !m_marks || m_marks->count() == 0; }
 
-    // Forward to FailedMarks. Without marks: empty, false and true.
+    /// The title of the operation; empty for all operations.
+    [[nodiscard]] const QString &operation() const { return m_operation; }
+    /// Returns whether the operation has changed.
+    bool setOperation(const QString &operation) { return std::exchange(m_operation, operation) != operation; }
+    /// Resets the operation if it has no marks any more. Returns whether it was reset.
+    bool settleOperation()
+    {
+        const bool isOver =
+            !m_operation.isEmpty() && !(m_marks && m_marks->operations().contains(m_operation));
+        return isOver && setOperation({});
+    }
+
+    // Forward to FailedMarks, for the operation. Without marks: 0, empty, false and true.
+    [[nodiscard]] int count() const { return m_marks ? m_marks->count(m_operation) : 0; }
     [[nodiscard]] QString reasonOf(const QString &identity) const
     {
-        return m_marks ? m_marks->reasonOf(identity) : QString();
+        return m_marks ? m_marks->reasonOf(identity, m_operation) : QString();
     }
     [[nodiscard]] bool contains(const QString &identity) const
     {
-        return m_marks && m_marks->contains(identity);
+        return m_marks && m_marks->contains(identity, m_operation);
     }
     [[nodiscard]] bool isOnlyNotDone(const QString &identity) const
     {
@@ -53,4 +69,5 @@ public:
 
 private:
     QPointer<FailedMarks> m_marks; ///< not owned
+    QString m_operation;
 };

@@ -261,12 +261,23 @@ void OVTreeModel::setShown(Shown shown)
 {
     if (std::exchange(m_shown, shown) == shown)
         return;
+    m_failedMarks.setOperation({});
+    Q_EMIT shownChanged();
+    resetItems(m_filterType, m_searchText);
+}
+
+void OVTreeModel::setFailedOperation(const QString &operation)
+{
+    if (!m_failedMarks.setOperation(operation))
+        return;
     Q_EMIT shownChanged();
     resetItems(m_filterType, m_searchText);
 }
 
 void OVTreeModel::takeMarks()
 {
+    if (m_failedMarks.settleOperation())
+        Q_EMIT shownChanged();
     countFailed();
     if (m_shown == Failed && (m_failedMarks.isEmpty() || (m_failedCount == 0 && m_searchText.isEmpty())))
         return setShown(All);
@@ -321,8 +332,7 @@ void OVTreeModel::countFailed()
 
 int OVTreeModel::failedElsewhereCount() const
 {
-    return m_searchText.isEmpty() && !m_failedMarks.isEmpty() ? m_failedMarks.get()->count() - m_failedCount
-                                                              : 0;
+    return m_searchText.isEmpty() && !m_failedMarks.isEmpty() ? m_failedMarks.count() - m_failedCount : 0;
 }
 
 void OVTreeModel::rememberDevices()

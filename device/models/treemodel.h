@@ -29,6 +29,7 @@ class OVTreeModel : public QAbstractItemModel
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
     Q_PROPERTY(FailedMarks *failedMarks READ failedMarks WRITE setFailedMarks NOTIFY failedMarksChanged)
     Q_PROPERTY(Shown shown READ shown WRITE setShown NOTIFY shownChanged)
+    Q_PROPERTY(QString failedOperation READ failedOperation WRITE setFailedOperation NOTIFY shownChanged)
     Q_PROPERTY(int loggedOutCount READ loggedOutCount NOTIFY checkedDevicesChanged)
     Q_PROPERTY(int failedCount READ failedCount NOTIFY checkedDevicesChanged)
     Q_PROPERTY(int failedElsewhereCount READ failedElsewhereCount NOTIFY checkedDevicesChanged)
@@ -87,6 +88,9 @@ public:
     void setFailedMarks(FailedMarks *marks);
     [[nodiscard]] Shown shown() const { return m_shown; }
     void setShown(Shown shown);
+    /// Of the marks, while only marked devices are shown, see FailedMarks; empty for all.
+    [[nodiscard]] QString failedOperation() const { return m_failedMarks.operation(); }
+    void setFailedOperation(const QString &operation);
 
     /// Among the devices that the filter of the last rebuild accepts, shown or not.
     [[nodiscard]] int loggedOutCount() const { return m_loggedOutCount; }

@@ -1,31 +1,34 @@
-// Leaves only the devices that batches have failed with, and takes their marks away. Without marks there is nothing.
+// Leaves only the devices of a table that batches have failed with, or one operation of them, and takes their marks away.
+// Without marks there is nothing.
 import QtQuick
 import configtools
 
 Row {
     id: root
 
-    required property FailedMarks marks
-    required property int count  // rows of marked devices
-    property bool on: false
-    signal toggled(bool on)
+    required property DeviceTableModel devices
 
     spacing: Theme.unit
-    visible: (marks?.count ?? 0) > 0
+    visible: (devices.failedMarks?.count ?? 0) > 0
 
     OVCheckBox {
-        checked: root.on
+        checked: root.devices.onlyFailed
         objectName: "failedFilter"
         //: Shows only the devices that batches failed with or did not come to; %1 is how many there are.
-        text: qsTr("仅未成功 %1").arg(root.count)
+        text: qsTr("仅未成功 %1").arg(root.devices.failedCount)
         toolTip: qsTr("只显示失败和未执行的设备，按原因排列。已不在列表中的设备见批处理记录。")
-        onToggled: root.toggled(checked)
+        onToggled: root.devices.onlyFailed = checked
+    }
+    OVFailedOperation {
+        width: Theme.operationWidth
+        devices: root.devices
+        visible: root.devices.onlyFailed && operations.length > 1
     }
     OVLinkButton {
         anchors.verticalCenter: parent.verticalCenter
         objectName: "clearMarksButton"
         text: qsTr("清除标记")
         toolTip: qsTr("不再标记失败和未执行的设备")
-        onClicked: root.marks.clear()
+        onClicked: root.devices.failedMarks.clear()
     }
 }

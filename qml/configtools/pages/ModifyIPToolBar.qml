@@ -10,9 +10,7 @@ Item {
     required property bool showInitialised
     required property bool showUninitialised
     required property bool ipv6
-    required property int failedCount
-    required property FailedMarks marks
-    required property bool onlyFailed
+    required property DeviceTableModel devices
     required property int upgradingCount  // of the ticked devices
     property alias searchText: searchField.text
     property int tipDrop: Theme.toolTipDrop
@@ -20,7 +18,6 @@ Item {
     signal initialisedToggled(bool shown)
     signal uninitialisedToggled(bool shown)
     signal ipv6Chosen(bool ipv6)
-    signal onlyFailedToggled(bool only)
     signal initialiseRequested
     signal modifyRequested
     signal importRequested
@@ -140,10 +137,7 @@ Item {
             Layout.fillWidth: true
         }
         OVFailedFilter {
-            count: root.failedCount
-            marks: root.marks
-            on: root.onlyFailed
-            onToggled: on => root.onlyFailedToggled(on)
+            devices: root.devices
         }
         Row {
             spacing: Theme.controlGap

@@ -222,10 +222,7 @@ FocusScope {
             Layout.fillWidth: true
         }
         OVFailedFilter {
-            count: devices.failedCount
-            marks: devices.failedMarks
-            on: devices.onlyFailed
-            onToggled: on => devices.onlyFailed = on
+            devices: devices
         }
         OVTextField {
             id: searchField

@@ -119,14 +119,11 @@ FocusScope {
         width: parent.width - 2 * x
         atOnce: page.atOnce
         ipv6: devices.ipv6
-        failedCount: devices.failedCount
-        marks: devices.failedMarks
-        onlyFailed: devices.onlyFailed
+        devices: devices
         onAtOnceChosen: count => page.chooseAtOnce(count)
         onDocumentRequested: work.chooseDocument()
         onFileRequested: work.chooseFileForChecked()
         onIpv6Chosen: ipv6 => devices.ipv6 = ipv6
-        onOnlyFailedToggled: only => devices.onlyFailed = only
         onRetryRequested: work.retry()
         onStartRequested: work.startChecked()
         onTemplateRequested: work.openTemplate()

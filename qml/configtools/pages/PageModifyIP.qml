@@ -166,9 +166,7 @@ FocusScope {
         width: parent.width - 2 * Theme.pageMargin
         height: implicitHeight
         ipv6: devices.ipv6
-        failedCount: devices.failedCount
-        marks: devices.failedMarks
-        onlyFailed: devices.onlyFailed
+        devices: devices
         showInitialised: devices.showInitialised
         showUninitialised: devices.showUninitialised
         tipDrop: Theme.toolTipDrop + table.y - height
@@ -184,7 +182,6 @@ FocusScope {
         onInitialisedToggled: shown => devices.showInitialised = shown
         onIpv6Chosen: ipv6 => devices.ipv6 = ipv6
         onModifyRequested: changes.modifyChecked()
-        onOnlyFailedToggled: only => devices.onlyFailed = only
         onUninitialisedToggled: shown => devices.showUninitialised = shown
     }
 

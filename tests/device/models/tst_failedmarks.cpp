@@ -90,6 +90,45 @@ private Q_SLOTS:
         QCOMPARE(marks.count(), marks.wordsOf("m1").isEmpty() ? 0 : 1);
     }
 
+    /// Different commands have the same title.
+    void theSameWordsAreSaidOnce()
+    {
+        FailedMarks marks;
+        for (const char *work : {"cgi 1", "cgi 2"})
+            marks.note(work, "CGI", {{.identity = "m1", .result = away, .words = "away"}});
+        QCOMPARE(marks.wordsOf("m1"), QStringLiteral("CGI：away"));
+    }
+
+    void marksAreChosenByOperation()
+    {
+        RowsFactory site;
+        FailedMarks marks;
+        DeviceTableModel table;
+        OVTreeModel tree;
+        table.setFailedMarks(&marks);
+        tree.setFailedMarks(&marks);
+        fill(*site.rows, marks);
+        note(marks, "copy", {{"m9", away}, {"m1", away}});
+        table.setDeviceFactory(&site.factory);
+        tree.setDeviceFactory(&site.factory);
+        tree.resetItems("removeuninit", "");
+        QCOMPARE(marks.operations(), (QStringList{"title of copy", "title of reboot"}));
+        table.setOnlyFailed(true);
+        tree.setShown(OVTreeModel::Failed);
+        QCOMPARE(table.failedCount(), 4);
+        table.setFailedOperation("title of copy");
+        tree.setFailedOperation("title of copy");
+        QCOMPARE(shown(table), (QStringList{"m1", "m9"}));
+        QCOMPARE(table.failedCount(), 2);
+        QCOMPARE(tree.deviceCount(), 2);
+        QCOMPARE(tree.failedElsewhereCount(), 0);
+        // The last mark of the operation goes: those of the other one are shown.
+        note(marks, "copy", {{"m9", succeeded}, {"m1", succeeded}});
+        QCOMPARE(table.failedOperation(), QString());
+        QCOMPARE(table.rowCount(), 3);
+        QCOMPARE(tree.deviceCount(), 3);
+    }
+
     void theTableShowsOnlyFailedDevices()
     {
         RowsFactory site;

@@ -126,10 +126,19 @@ Rectangle {
         enabled: !root.held
         objectName: "treeStates"
     }
+    OVFailedOperation {
+        id: operation
+        x: Theme.controlGap
+        y: states.y + states.height + Theme.unit
+        width: parent.width - 2 * x
+        devices: root.devices
+        enabled: !root.held
+        visible: root.devices.shown === OVTreeModel.Failed && operations.length > 1
+    }
     OVTree {
         id: tree
         x: Theme.line
-        y: states.y + states.height + Theme.unit
+        y: (operation.visible ? operation.y + operation.height : states.y + states.height) + Theme.unit
         width: parent.width - 2 * x
         height: (unaddressed.visible ? unaddressed.y : parent.height) - y - Theme.controlRadius
         busyDevice: root.busyDevice

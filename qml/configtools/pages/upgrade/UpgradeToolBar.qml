@@ -8,16 +8,13 @@ Item {
     id: root
 
     required property bool ipv6
-    required property int failedCount
-    required property FailedMarks marks
-    required property bool onlyFailed
+    required property DeviceTableModel devices
     required property int atOnce
     property alias searchText: searchField.text
     readonly property bool keyGroup: true
     signal ipv6Chosen(bool ipv6)
     signal fileRequested
     signal startRequested
-    signal onlyFailedToggled(bool only)
     signal retryRequested
     signal documentRequested
     signal templateRequested
@@ -102,10 +99,7 @@ Item {
             }
         }
         OVFailedFilter {
-            count: root.failedCount
-            marks: root.marks
-            on: root.onlyFailed
-            onToggled: on => root.onlyFailedToggled(on)
+            devices: root.devices
         }
         OVSegmentedChoice {
             currentIndex: root.ipv6 ? 1 : 0

@@ -1,0 +1,16 @@
+// Which operation's marks count, where several have marks.
+import QtQuick
+import configtools
+
+OVComboBox {
+    id: root
+
+    required property var devices  // a DeviceTableModel or an OVTreeModel
+    readonly property var operations: devices.failedMarks?.operations ?? []
+
+    accessibleName: qsTr("未成功的操作")
+    currentIndex: operations.indexOf(devices.failedOperation) + 1
+    model: [qsTr("全部操作")].concat(operations)
+    objectName: "failedOperationBox"
+    onActivated: index => devices.failedOperation = index === 0 ? "" : operations[index - 1]
+}
