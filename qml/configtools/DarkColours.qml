@@ -1,4 +1,4 @@
-// The dark theme. On every ground that text stands on, it has a contrast of at least 4.5:1, except what is disabled.
+// The dark theme. Text has a contrast of at least 4.5:1 on every background that it is used on, except disabled text.
 
 ThemeColours {
     // Title bar.
@@ -7,7 +7,7 @@ ThemeColours {
     barPressed: "#2c3a4c"
     barLine: "#2c3847"
 
-    // Ground and panes.
+    // Backgrounds.
     surface: "#1a212b"
     background: "#12171f"
     head: "#222b37"
@@ -21,13 +21,13 @@ ThemeColours {
     clear: "#001a212b"
 
     // Text.
-    ink: "#e6ebf2"
+    text: "#e6ebf2"
     sub: "#b0bccb"
     faint: "#9aa8b9"
-    disabledInk: "#6a7787"
+    disabledText: "#6a7787"
     disabledFill: "#202834"
 
-    // What can be done, and what is chosen. A light accent takes dark words.
+    // Actions and selection. Text on the accent is dark, as the accent is light.
     accent: "#72aaf8"
     accentHover: "#86b7fa"
     accentPressed: "#a0c7fb"
@@ -35,12 +35,12 @@ ThemeColours {
     accentSofter: "#1a2738"
     accentDisabled: "#2f4a6e"
     focusRing: "#2b5288"
-    accentInk: "#0a1420"
+    accentText: "#0a1420"
 
     // States.
     ok: "#4cc38a"
     warn: "#f0a94a"
-    warnInk: "#f3bb6b"
+    warnText: "#f3bb6b"
     warnSoft: "#33270f"
     warnLine: "#5c4518"
     bad: "#f58d86"
@@ -59,6 +59,6 @@ ThemeColours {
     rowSelected: "#1a3860"
     rowHoverVeil: "#1f72aaf8"
 
-    // Bubbles above everything.
+    // Tool tips.
     bubble: "#35424f"
 }

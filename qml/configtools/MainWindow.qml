@@ -1,4 +1,4 @@
-// The main window: title bar, tabs with their pages, and the search that fills them.
+// The main window: title bar, tabs and their pages, and the search that fills the list.
 import QtQuick
 import QtQuick.Layouts
 import QtQuick.Templates as T
@@ -21,7 +21,7 @@ T.ApplicationWindow {
     readonly property bool libraryInstalled: deviceLibraryInstalled
     readonly property var accounts: AccountsApi
     readonly property bool simulated: demoSite
-    readonly property string demoAccount: demoSiteAccount  // "" when no device has one
+    readonly property string demoAccount: demoSiteAccount  // user name and password; "" if no device has an account
     // qmllint enable unqualified
 
     readonly property alias count: search.count
@@ -29,7 +29,7 @@ T.ApplicationWindow {
     readonly property alias searching: search.running
     property int currentTab: 0
     property string chosenLanguage: localConfig.getLanguage()
-    /// Beside the tabs, from the buttons of the title bar down to those of the tool bars.
+    /// Area of toasts: next to the tabs, between the buttons of the title bar and those of the tool bars.
     readonly property rect noticeBand: {
         const left = tabBar.tabsWidth + Theme.pageMargin;
         const top = (Theme.titleBarHeight + Theme.controlHeight) / 2 + 2;
@@ -38,11 +38,11 @@ T.ApplicationWindow {
     }
     readonly property bool maximised: visibility === Window.Maximized || visibility === Window.FullScreen
 
-    /// Starts a search that the user asks for. It removes all rows, so it waits for works that need them.
+    /// Starts a search requested by the user. A search removes all rows, so it is refused while work needs them.
     function requestSearch() {
         const refusal = busyState.refusal(BusyState.Search);
         if (refusal !== "")
-            popups.tell(refusal);
+            popups.showMessage(refusal);
         else
             search.start(searchSettings.read());
     }
@@ -50,7 +50,7 @@ T.ApplicationWindow {
     function chooseLanguage(code) {
         localConfig.setLanguage(code);
         if (localConfig.getLanguage() !== code) {
-            popups.say(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
+            popups.notify(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
             return;
         }
         chosenLanguage = code;
@@ -59,7 +59,7 @@ T.ApplicationWindow {
 
     function chooseColours(choice) {
         if (!colourScheme.choose(choice))
-            popups.say(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
+            popups.notify(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
     }
 
     function showTab(index) {
@@ -73,7 +73,7 @@ T.ApplicationWindow {
         leavePage(go);
     }
 
-    /// The same from the keyboard, which goes to the page.
+    /// Shows a tab and gives its page the keyboard focus.
     function turnTo(index) {
         showTab(index);
         if (currentTab !== index)
@@ -81,7 +81,7 @@ T.ApplicationWindow {
         pages.takeFocus(index);
     }
 
-    /// Settings that were changed and not saved are not left without a word. Returns whether there is a question first.
+    /// Runs `action`, after asking about unsaved settings. Returns whether a question is shown.
     function leavePage(action) {
         return pages.leave(action);
     }
@@ -115,10 +115,10 @@ T.ApplicationWindow {
         restoreTab();
         languageList.remove(localConfig.getRemoveLanguageList());
         if (notes.problem !== "")
-            popups.say(notes.problem, OVToast.Error);
+            popups.notify(notes.problem, OVToast.Error);
     }
 
-    // The toolkit forgets that a window was maximised when it is minimised.
+    // Qt loses the maximised state of a window when it is minimised.
     property int lastVisibility: Window.Windowed
     property bool maximisedBefore: false
     onVisibilityChanged: {
@@ -132,7 +132,7 @@ T.ApplicationWindow {
 
     onClosing: close => {
         console.log("Window is closing...");
-        close.accepted = ways.requestEnd();
+        close.accepted = applicationExit.requestEnd();
     }
 
     Binding {
@@ -153,9 +153,9 @@ T.ApplicationWindow {
     Connections {
         target: window.localConfig
 
-        // The system reports no failure of the program that is to show the document, or of its lack.
+        // The system does not report whether it can show the document.
         function onDocumentRequested(path, isHandedOver) {
-            popups.say(isHandedOver ? qsTr("正在用系统的PDF程序打开 %1").arg(path) : qsTr("无法打开 %1").arg(path),
+            popups.notify(isHandedOver ? qsTr("正在用系统的PDF程序打开 %1").arg(path) : qsTr("无法打开 %1").arg(path),
                        isHandedOver ? OVToast.Information : OVToast.Error);
         }
     }
@@ -163,11 +163,11 @@ T.ApplicationWindow {
         target: window.memory
 
         function onFailed() {
-            popups.say(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
+            popups.notify(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
         }
     }
-    WaysOut {
-        id: ways
+    ApplicationExit {
+        id: applicationExit
         batches: window.batches
         busyState: window.busyState
         deviceFactory: window.deviceFactory
@@ -185,7 +185,7 @@ T.ApplicationWindow {
         busyState: window.busyState
         deviceFactory: window.deviceFactory
         searchReports: window.searchReports
-        onLimited: (rows, leftOut) => popups.tell(
+        onLimited: (rows, leftOut) => popups.showMessage(
             qsTr("搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。").arg(rows).arg(leftOut))
     }
     LanguageList {
@@ -229,7 +229,7 @@ T.ApplicationWindow {
             searching: window.searching
             title: window.title
             version: popups.softwareName + " " + popups.version
-            onCloseRequested: ways.requestEnd()
+            onCloseRequested: applicationExit.requestEnd()
             onMaximiseRequested: window.maximised ? window.showNormal() : window.showMaximized()
             onMenuRequested: popups.openMenu(titleBar.menuButton)
             onMinimiseRequested: window.showMinimized()
@@ -248,7 +248,7 @@ T.ApplicationWindow {
             linkText: qsTr("打开演示站点")
             text: qsTr("未安装设备库，无法与设备通信")
             visible: !window.libraryInstalled
-            onLinkActivated: ways.requestDemo()
+            onLinkActivated: applicationExit.requestDemo()
         }
         WindowPages {
             id: pages
@@ -264,13 +264,13 @@ T.ApplicationWindow {
             search: window.deviceSearch
             searchReports: window.searchReports
             simulated: window.simulated
-            onDemoRequested: ways.requestDemo()
+            onDemoRequested: applicationExit.requestDemo()
             onSearchRequested: window.requestSearch()
             onSettingsRequested: popups.openSearchSettings(searchSettings.read())
         }
     }
 
-    Rectangle {  // the edge that a window manager would draw
+    Rectangle {  // border, as drawn by a window manager for other windows
         anchors.fill: parent
         border.color: Theme.colours.barLine
         border.width: Theme.line
@@ -302,14 +302,14 @@ T.ApplicationWindow {
         version: window.localConfig.getVersion()
         webPages: window.webPages
         onColoursChosen: choice => window.chooseColours(choice)
-        onEndConfirmed: ways.endBatch()
+        onEndConfirmed: applicationExit.endBatch()
         onHelpRequested: window.localConfig.OpenHelpFile()
         onLanguageChosen: code => window.chooseLanguage(code)
         onQuestionsRequested: window.localConfig.OpenQAFile()
-        onRestartRequested: ways.requestRestart()
+        onRestartRequested: applicationExit.requestRestart()
         onSettingsAccepted: values => {
             if (!searchSettings.write(values))
-                popups.say(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
+                popups.notify(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
             window.requestSearch();
         }
     }

@@ -1,4 +1,4 @@
-// Everything that a page may know of the look: colours by meaning, measures, type, durations, icons.
+// All colours by meaning, measures (in pixels), fonts, durations (in milliseconds) and icons of the window.
 pragma Singleton
 import QtQuick
 import configtools
@@ -6,13 +6,13 @@ import configtools
 QtObject {
     id: theme
 
-    /// Set by the window: what the user, or the desktop, has chosen.
+    /// Set by the window: the choice of the user or the desktop.
     property bool dark: false
     readonly property ThemeColours colours: dark ? darkColours : lightColours
     readonly property ThemeColours lightColours: ThemeColours {}
     readonly property ThemeColours darkColours: DarkColours {}
 
-    // Where favourites are kept.
+    // Folder of the favourites.
     readonly property string favPath: ProgramFolders.favourites
 
     // Measures, on a grid of 8.
@@ -20,7 +20,7 @@ QtObject {
     readonly property int half: 4
     readonly property int pageMargin: 16
     readonly property int controlGap: 12
-    readonly property int signGap: 6  // between a sign and its word
+    readonly property int signGap: 6  // between an icon and its text
     readonly property int controlHeight: 32
     readonly property int rowHeight: 34
     readonly property int tableHeadHeight: 36
@@ -71,21 +71,21 @@ QtObject {
     readonly property int batchPanelWidth: 1216
     readonly property int batchPanelHeight: 600
     readonly property int batchListWidth: 408
-    readonly property real batchListShare: 0.3  // of the panel at most
+    readonly property real batchListShare: 0.3  // maximum, of the panel
     readonly property int batchBarWidth: 120
     readonly property int strengthWidth: 160
     readonly property int toastWidth: 380
     readonly property int toastMost: 640
     readonly property int toastLeast: 240
     readonly property int toolTipWidth: 360
-    // From a button of a tool bar to below the heading of the table under it.
+    // From a button of a tool bar to below the table head under it.
     readonly property int toolTipDrop: (toolBarHeight - controlHeight) / 2 + tableHeadHeight
     readonly property int answerWindowWidth: 760
-    readonly property int answerTipWidth: 560  // of what a device has said, which has longer lines
+    readonly property int answerTipWidth: 560  // for a device's response, which has longer lines
 
-    // Pages with a device tree at the left and panels at the right.
+    // Pages with a device tree on the left and panels on the right.
     readonly property int treePaneWidth: 344
-    readonly property real treePaneShare: 0.3  // of the page at most
+    readonly property real treePaneShare: 0.3  // maximum, of the page
     readonly property int treeIndent: 22
     readonly property int panelWidth: 640
     readonly property int clockListHeight: 210
@@ -96,7 +96,7 @@ QtObject {
     readonly property int momentFieldWidth: 200
     readonly property int passwordFieldWidth: 260
     readonly property int hourFieldWidth: 84
-    readonly property int shownChoices: 8  // rows of an open choice before it scrolls
+    readonly property int shownChoices: 8  // rows of an open combo box; more rows scroll
 
     // Forms for one device.
     readonly property int sliderGroove: 4
@@ -107,14 +107,14 @@ QtObject {
     readonly property int changeMark: 6
     readonly property int encodeLabelWidth: 104
     readonly property int imageLabelWidth: 156
-    readonly property int imageWidth: 640  // of the image settings at most
+    readonly property int imageWidth: 640  // maximum width of the image settings
     readonly property int encodeWidth: 900
-    readonly property int encodeColumnWidth: 260  // of a stream beside the other one, at least
+    readonly property int encodeColumnWidth: 260  // minimum width of a stream next to the other one
     readonly property int imageSideWidth: 272
-    readonly property real imageSideShare: 0.4  // of the panel at most
+    readonly property real imageSideShare: 0.4  // maximum, of the panel
     readonly property int sideLabelWidth: 88
     readonly property int rangeFieldWidth: 76
-    readonly property int sliderRest: 400  // milliseconds without a further step, after which a value counts
+    readonly property int sliderRest: 400  // ms without a change after which a value is committed
 
     // The live window.
     readonly property int liveWidth: 1180
@@ -122,16 +122,16 @@ QtObject {
     readonly property int liveMinimumWidth: 720
     readonly property int liveMinimumHeight: 480
     readonly property int liveListWidth: 220
-    readonly property int liveToolBarWidth: 680  // with all of its words
+    readonly property int liveToolBarWidth: 680  // with all of its texts
     readonly property int snapshotWidth: 216
     readonly property int snapshotsHeight: 400
-    readonly property int galleryCellWidth: 230  // at least
-    readonly property int galleryTextHeight: 64  // below and around the picture of a cell
+    readonly property int galleryCellWidth: 230  // minimum
+    readonly property int galleryTextHeight: 64  // below and around the image of a cell
 
-    // Widths of table columns, by what they show.
+    // Widths of table columns, by content.
     readonly property int columnNumber: 56
     readonly property int columnState: 114
-    readonly property int columnStateMinimum: 32  // the state's dot without its word
+    readonly property int columnStateMinimum: 32  // only the dot of the state
     readonly property int columnName: 136
     readonly property int columnType: 68
     readonly property int columnModel: 130
@@ -141,7 +141,7 @@ QtObject {
     readonly property int columnShortMac: 76
     readonly property int columnVersion: 114
     readonly property int columnResult: 92
-    readonly property int columnResultLeast: 60  // its signs
+    readonly property int columnResultLeast: 60  // only its icons
     readonly property int columnActions: 168
     readonly property int columnPlanAddress: 128
     readonly property int columnPlanAction: 184
@@ -168,11 +168,11 @@ QtObject {
     readonly property int columnUpgradeVersionLeast: 84
     readonly property int columnUpgradeResult: 224
     readonly property int columnNote: 128
-    readonly property int columnLeast: 88  // that a column with a share of spare room gives way to
-    readonly property int columnNameMost: 400  // that spare room gives to names and models
-    readonly property int columnMost: 480  // that a column is fitted to
-    readonly property int progressWidth: 76  // of a bar in a row
-    readonly property int noteWidth: 480  // of the dialog for a note
+    readonly property int columnLeast: 88  // minimum of columns that give way
+    readonly property int columnNameMost: 400  // maximum of names and models that spare room enlarges
+    readonly property int columnMost: 480  // maximum when fitted to its content
+    readonly property int progressWidth: 76  // of a progress bar in a row
+    readonly property int noteWidth: 480  // of the note dialog
 
     // Type.
     readonly property int hintSize: 12
@@ -195,26 +195,26 @@ QtObject {
     readonly property font counterFont:
         Qt.font({family: Typefaces.figures, pixelSize: counterSize, weight: Font.DemiBold})
     readonly property string iconFamily: Typefaces.icons
-    // Where the baseline of a line of text lies below the middle of its box, in parts of its size, so that
-    // capitals and Chinese signs both sit in the middle. The faces' own metrics put them a pixel apart.
+    // Distance of the baseline below the middle of a line, as a fraction of the font size. It centres Latin capitals
+    // and Chinese characters alike; the metrics of the fonts differ by a pixel.
     readonly property real baselineShift: 0.37
     readonly property real lineRatio: 1.5
-    /// Set by the window. The system's own rendering puts letters on whole pixels of the window, which are no whole
-    /// pixels of a screen with a scale such as 1.5: their distances and weights would differ.
+    /// Set by the window. Native rendering aligns glyphs to whole pixels of the window, which are not whole pixels of
+    /// the screen at a scale such as 1.5: distances and weights would differ.
     property int textRendering: Text.NativeRendering
 
     // Durations in milliseconds.
     readonly property int quick: 120
-    readonly property int queueDrains: 100  // in which input comes that has queued up
-    readonly property int paintEvery: 25  // the longest that a batch works without a picture
+    readonly property int queueDrains: 100  // time to discard queued input
+    readonly property int paintEvery: 25  // maximum work between two frames
     readonly property int turn: 1000
     readonly property int toolTipDelay: 500
     readonly property int toolTipTime: 8000
-    readonly property int toastStay: 4000
-    readonly property int errorToastStay: 9000
-    readonly property int frame: 16  // long enough for a picture between two pieces of work
+    readonly property int toastDuration: 4000
+    readonly property int errorToastDuration: 9000
+    readonly property int frame: 16  // one frame between two pieces of work
 
-    // One stroke, one set.
+    // Code points of the icon font, see fonts/make-fonts.py.
     readonly property var icons: ({
         "about": "\ue0f9",
         "accounts": "\ue1a4",

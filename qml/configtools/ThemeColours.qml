@@ -1,4 +1,4 @@
-// The colours of a theme by meaning. Its defaults are the light theme.
+// The colours of a theme, by meaning. The defaults are the light theme.
 import QtQuick
 
 QtObject {
@@ -7,14 +7,14 @@ QtObject {
     property color barHover: "#26364b"
     property color barPressed: "#31445d"
     property color barLine: "#33445a"
-    property color barInk: "#ffffff"
+    property color barText: "#ffffff"
     property color barSub: "#b9c6d6"
     property color barClose: "#c8322b"
     property color barClosePressed: "#92201a"
     property color logoTop: "#4f8ff7"
     property color logoBottom: "#1769e0"
 
-    // Ground and panes.
+    // Backgrounds.
     property color surface: "#ffffff"
     property color background: "#f4f6f8"
     property color head: "#edf1f6"
@@ -28,13 +28,13 @@ QtObject {
     property color clear: "#00ffffff"
 
     // Text.
-    property color ink: "#1b2430"
+    property color text: "#1b2430"
     property color sub: "#5d6b7c"
     property color faint: "#8a97a6"
-    property color disabledInk: "#a3adb9"
+    property color disabledText: "#a3adb9"
     property color disabledFill: "#eef1f4"
 
-    // What can be done, and what is chosen.
+    // Actions and selection.
     property color accent: "#1769e0"
     property color accentHover: "#1259c4"
     property color accentPressed: "#0e4ba8"
@@ -42,12 +42,12 @@ QtObject {
     property color accentSofter: "#f2f7fe"
     property color accentDisabled: "#a9c5ee"
     property color focusRing: "#b3d1f9"
-    property color accentInk: "#ffffff"
+    property color accentText: "#ffffff"
 
     // States.
     property color ok: "#1a8f4c"
     property color warn: "#c77700"
-    property color warnInk: "#8a5200"
+    property color warnText: "#8a5200"
     property color warnSoft: "#fdf3e1"
     property color warnLine: "#f1d9ab"
     property color bad: "#c8322b"
@@ -57,7 +57,7 @@ QtObject {
     property color badLine: "#ebc3c0"
     property color badDisabled: "#e5b8b5"
 
-    // Grades of a password. They say how hard it is to guess, and warn of nothing.
+    // Password strength. These colours are not warnings.
     property color passwordWeak: "#1a8f4c"
     property color passwordMedium: "#f2b600"
     property color passwordStrong: "#c8322b"
@@ -70,12 +70,12 @@ QtObject {
     property color rowSelected: "#cfe4fb"
     property color rowHoverVeil: "#0f1769e0"
 
-    // Live pictures.
+    // Live view and images.
     property color videoGround: "#0d141d"
     property color videoLine: "#1f2b3b"
     property color videoVeil: "#a60d141d"
 
-    // Bubbles above everything.
+    // Tool tips.
     property color bubble: "#263242"
-    property color bubbleInk: "#ffffff"
+    property color bubbleText: "#ffffff"
 }

@@ -8,7 +8,7 @@ void InputWatch::setWindow(QQuickWindow *window)
     if (m_window == window)
         return;
     m_window = window;
-    // A filter of the window itself sees no button that is pressed while something lies over its contents.
+    // On the application: a filter of the window does not receive presses while a popup is open.
     if (m_window)
         QCoreApplication::instance()->installEventFilter(this);
     else

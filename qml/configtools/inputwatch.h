@@ -6,7 +6,7 @@
 #include <QtQml/qqmlregistration.h>
 
 /// Reports each press of a mouse button or key in a window, before an item receives it. It is C++ because an
-/// item receives only its own input. Lives on the scene's thread.
+/// item receives only its own input. Main thread.
 class InputWatch : public QObject
 {
     Q_OBJECT

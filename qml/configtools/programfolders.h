@@ -1,10 +1,10 @@
-// The folders beside the program that the scene uses.
+// Folders next to the application that QML uses.
 #pragma once
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// Folders as paths with a "/" at their end. They need not exist.
+/// Paths of folders, with a trailing "/". A folder need not exist.
 class ProgramFolders : public QObject
 {
     Q_OBJECT
@@ -14,5 +14,5 @@ class ProgramFolders : public QObject
 public:
     explicit ProgramFolders(QObject *parent = nullptr);
 
-    [[nodiscard]] QString favourites() const; ///< of saved devices
+    [[nodiscard]] QString favourites() const; ///< saved devices
 };

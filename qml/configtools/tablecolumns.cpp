@@ -9,7 +9,7 @@ namespace {
 constexpr QLatin1Char hiddenSign('-');
 constexpr QLatin1Char widthSign(':');
 
-/// The width at the end of an item; nothing when it makes no sense.
+/// The width at the end of an item. Empty if there is none or it is out of range.
 std::optional<int> widthIn(QStringView item)
 {
     bool isNumber = false;
@@ -73,7 +73,7 @@ QVariantMap TableColumns::widths() const
     return widths;
 }
 
-qsizetype TableColumns::placeOf(const QString &key) const
+qsizetype TableColumns::indexOf(const QString &key) const
 {
     const auto found = std::find_if(m_columns.cbegin(), m_columns.cend(),
                                     [&key](const Column &column) { return column.key == key; });
@@ -82,8 +82,8 @@ qsizetype TableColumns::placeOf(const QString &key) const
 
 bool TableColumns::isShown(const QString &key) const
 {
-    const qsizetype place = placeOf(key);
-    return place >= 0 && m_columns.at(place).isShown;
+    const qsizetype index = indexOf(key);
+    return index >= 0 && m_columns.at(index).isShown;
 }
 
 bool TableColumns::canHide(const QString &key) const
@@ -96,28 +96,28 @@ bool TableColumns::canHide(const QString &key) const
 
 void TableColumns::setShown(const QString &key, bool shown)
 {
-    const qsizetype place = placeOf(key);
-    if (place < 0 || (!shown && !canHide(key)))
+    const qsizetype index = indexOf(key);
+    if (index < 0 || (!shown && !canHide(key)))
         return;
     QList<Column> columns = m_columns;
-    columns[place].isShown = shown;
+    columns[index].isShown = shown;
     keep(std::move(columns));
 }
 
-void TableColumns::move(const QString &key, int place)
+void TableColumns::move(const QString &key, int index)
 {
-    if (!isShown(key) || isFixed(key) || shown().indexOf(key) == place)
+    if (!isShown(key) || isFixed(key) || shown().indexOf(key) == index)
         return;
     QList<Column> columns = m_columns;
-    const Column moved = columns.takeAt(placeOf(key));
+    const Column moved = columns.takeAt(indexOf(key));
     qsizetype target = 0;
     int before = 0;
-    for (qsizetype index = 0; index < columns.size() && before < place; ++index) {
-        const Column &column = columns.at(index);
+    for (qsizetype other = 0; other < columns.size() && before < index; ++other) {
+        const Column &column = columns.at(other);
         if (isFixed(column.key))
             break;
         before += column.isShown ? 1 : 0;
-        target = index + 1;
+        target = other + 1;
     }
     columns.insert(target, moved);
     keep(std::move(columns));
@@ -125,11 +125,11 @@ void TableColumns::move(const QString &key, int place)
 
 void TableColumns::setWidth(const QString &key, int width)
 {
-    const qsizetype place = placeOf(key);
-    if (place < 0)
+    const qsizetype index = indexOf(key);
+    if (index < 0)
         return;
     QList<Column> columns = m_columns;
-    columns[place].width = std::clamp(width, leastWidth, mostWidth);
+    columns[index].width = std::clamp(width, leastWidth, mostWidth);
     keep(std::move(columns));
 }
 
@@ -160,7 +160,7 @@ QList<TableColumns::Column> TableColumns::read(const QString &text) const
     for (const QString &item : items) {
         const bool isHidden = item.startsWith(hiddenSign);
         QString key = item.mid(isHidden ? 1 : 0);
-        key = key.left(key.indexOf(widthSign)); // all of it when there is none
+        key = key.left(key.indexOf(widthSign)); // the entire key without a separator
         if (!left.removeOne(key))
             continue;
         const Column column = {
@@ -170,15 +170,15 @@ QList<TableColumns::Column> TableColumns::read(const QString &text) const
     const auto isAbsent = [&left](const Column &column) {
         return left.contains(column.key);
     };
-    for (qsizetype place = 0; place < usual.size(); ++place) {
-        if (!isAbsent(usual.at(place)))
+    for (qsizetype index = 0; index < usual.size(); ++index) {
+        if (!isAbsent(usual.at(index)))
             continue;
-        QList<Column> &group = isFixed(usual.at(place).key) ? fixed : columns;
-        // Behind the column that it follows in the default.
+        QList<Column> &group = isFixed(usual.at(index).key) ? fixed : columns;
+        // After its predecessor in the default order.
         const auto after = std::find_if(group.cbegin(), group.cend(), [&](const Column &column) {
-            return place > 0 && column.key == usual.at(place - 1).key;
+            return index > 0 && column.key == usual.at(index - 1).key;
         });
-        group.insert(after == group.cend() ? group.cbegin() : std::next(after), usual.at(place));
+        group.insert(after == group.cend() ? group.cbegin() : std::next(after), usual.at(index));
     }
     const bool isAnyShown =
         std::any_of(columns.cbegin(), columns.cend(), [](const Column &column) { return column.isShown; });

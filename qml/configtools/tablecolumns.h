@@ -1,4 +1,4 @@
-// Which columns of a table the user sees, in which order and how wide.
+// The arrangement of a table's columns.
 #pragma once
 
 #include <QList>
@@ -7,30 +7,30 @@
 #include <QVariantMap>
 #include <QtQml/qqmlregistration.h>
 
-/// The columns of a table as the user has arranged them, named by their keys. A column keeps its place and
-/// its width while it is hidden. Fixed columns are always shown, behind all others.
+/// The shown columns of a table, their order and widths, by key. A hidden column keeps its position and
+/// width. Fixed columns are always shown, after all others.
 ///
-/// The text form lists all columns in their order, parted by blanks, such as "state name:180 -mac": a hidden
-/// one has "-" in front, one with a width of its own has that behind. The text of the default is empty. A
-/// text from elsewhere may hold anything: items that are no columns of the table are left out, a
-/// width that makes no sense is that of the default, and columns that the text lacks stand where the default
-/// has them.
+/// The text form lists all columns in order, separated by spaces, such as "state name:180 -mac": "-" marks a
+/// hidden column, ":180" a width that the user has set, in pixels. The default arrangement has the empty
+/// text. Text is not trusted: unknown columns are ignored, an invalid width means the default width, and
+/// missing columns are inserted at their default position.
 ///
-/// Lives on the scene's thread.
+/// Main thread.
 class TableColumns : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QStringList keys READ keys WRITE setKeys NOTIFY keysChanged) ///< in the order of the default
-    Q_PROPERTY(QStringList hiddenKeys READ hiddenKeys WRITE setHiddenKeys NOTIFY keysChanged) ///< by default
+    Q_PROPERTY(QStringList keys READ keys WRITE setKeys NOTIFY keysChanged) ///< all columns in default order
+    Q_PROPERTY(
+        QStringList hiddenKeys READ hiddenKeys WRITE setHiddenKeys NOTIFY keysChanged) ///< hidden by default
     Q_PROPERTY(QStringList fixedKeys READ fixedKeys WRITE setFixedKeys NOTIFY keysChanged)
     Q_PROPERTY(QStringList shown READ shown NOTIFY shownChanged)
-    Q_PROPERTY(QVariantMap widths READ widths NOTIFY widthsChanged) ///< those that the user has chosen
+    Q_PROPERTY(QVariantMap widths READ widths NOTIFY widthsChanged) ///< set by the user, in pixels, by key
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
 public:
     static constexpr int leastWidth = 24;
     static constexpr int mostWidth = 2000;
-    static constexpr qsizetype longestText = 4096; ///< a longer one counts as empty
+    static constexpr qsizetype longestText = 4096; ///< characters; longer text counts as empty
 
     using QObject::QObject;
 
@@ -41,25 +41,26 @@ public:
     [[nodiscard]] QStringList fixedKeys() const { return m_fixedKeys; }
     void setFixedKeys(const QStringList &keys);
 
-    [[nodiscard]] QStringList shown() const; ///< in their order
+    [[nodiscard]] QStringList shown() const; ///< in display order
     [[nodiscard]] QVariantMap widths() const;
     [[nodiscard]] QString text() const { return m_text; }
     void setText(const QString &text);
 
     Q_INVOKABLE [[nodiscard]] bool isShown(const QString &key) const;
 
-    /// False for a fixed column and for the last one of the others that is shown.
+    /// False for a fixed column and for the last shown column that is not fixed.
     Q_INVOKABLE [[nodiscard]] bool canHide(const QString &key) const;
 
     Q_INVOKABLE void setShown(const QString &key, bool shown);
 
-    /// Gives a shown column another place among the shown ones, at most that before the fixed ones.
-    Q_INVOKABLE void move(const QString &key, int place);
+    /// Moves a shown column to `index` among the shown columns, at most to the position before the fixed
+    /// ones.
+    Q_INVOKABLE void move(const QString &key, int index);
 
-    /// Within leastWidth and mostWidth.
+    /// Limits the width, in pixels, to leastWidth and mostWidth.
     Q_INVOKABLE void setWidth(const QString &key, int width);
 
-    /// Arranges all columns as the default has them.
+    /// Restores the default arrangement.
     Q_INVOKABLE void reset();
 
 Q_SIGNALS:
@@ -72,14 +73,14 @@ private:
     struct Column
     {
         QString key;
-        int width = 0; ///< 0: that of the default
+        int width = 0; ///< pixels; 0: default width
         bool isShown = true;
 
         bool operator==(const Column &) const = default;
     };
 
     [[nodiscard]] bool isFixed(const QString &key) const { return m_fixedKeys.contains(key); }
-    [[nodiscard]] qsizetype placeOf(const QString &key) const; ///< in m_columns
+    [[nodiscard]] qsizetype indexOf(const QString &key) const; ///< in m_columns, -1 if unknown
     [[nodiscard]] QList<Column> defaultColumns() const;
     [[nodiscard]] QList<Column> read(const QString &text) const;
     [[nodiscard]] QString write() const;
@@ -89,6 +90,6 @@ private:
     QStringList m_keys;
     QStringList m_hiddenKeys;
     QStringList m_fixedKeys;
-    QList<Column> m_columns; ///< all of them, in their order
+    QList<Column> m_columns; ///< all columns in order
     QString m_text;
 };

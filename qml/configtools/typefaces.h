@@ -1,12 +1,12 @@
-// The families that the scene writes in.
+// The font families of the window.
 #pragma once
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// Names of the packaged and installed typefaces, ready for use once this object exists. It is C++ because
-/// the scene's font type names one family only, and the Chinese face has to follow the Latin one by rule:
-/// left to itself the system may well take Japanese shapes for Chinese text.
+/// Family names of the packaged and installed fonts. The constructor loads the packaged ones. It is C++
+/// because a QML font has one family only, and the Chinese family must be the explicit substitute of the
+/// Latin one: the system may choose Japanese glyphs for Chinese text.
 class Typefaces : public QObject
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
     explicit Typefaces(QObject *parent = nullptr);
 
     [[nodiscard]] QString text() const { return m_text; }
-    [[nodiscard]] QString figures() const { return m_figures; } ///< all figures of one width
+    [[nodiscard]] QString figures() const { return m_figures; } ///< digits of equal width
     [[nodiscard]] QString icons() const { return m_icons; }
 
 private:

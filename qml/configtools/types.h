@@ -1,4 +1,4 @@
-// Types of other folders under their names in the scene.
+// QML names of types from other folders.
 #pragma once
 
 #include "device/batch/addressplan.h"
@@ -52,7 +52,7 @@ struct DeviceNotesForeign
     Q_GADGET
     QML_FOREIGN(DeviceNotes)
     QML_NAMED_ELEMENT(DeviceNotes)
-    QML_UNCREATABLE("there is one for the whole program")
+    QML_UNCREATABLE("there is one instance per application")
 };
 
 struct DeviceTableModelForeign
@@ -145,7 +145,7 @@ struct BatchForeign
     Q_GADGET
     QML_FOREIGN(Batch)
     QML_NAMED_ELEMENT(Batch)
-    QML_UNCREATABLE("Batches starts it")
+    QML_UNCREATABLE("created by Batches")
 };
 
 struct BatchesForeign
@@ -153,7 +153,7 @@ struct BatchesForeign
     Q_GADGET
     QML_FOREIGN(Batches)
     QML_NAMED_ELEMENT(Batches)
-    QML_UNCREATABLE("there is one for the whole program")
+    QML_UNCREATABLE("there is one instance per application")
 };
 
 struct BatchHistoryForeign
@@ -217,7 +217,7 @@ struct BusyStateForeign
     Q_GADGET
     QML_FOREIGN(BusyState)
     QML_NAMED_ELEMENT(BusyState)
-    QML_UNCREATABLE("there is one for the whole program")
+    QML_UNCREATABLE("there is one instance per application")
 };
 
 struct BusyReportForeign
@@ -240,7 +240,7 @@ struct CertificateListForeign
     Q_GADGET
     QML_FOREIGN(CertificateList)
     QML_NAMED_ELEMENT(CertificateList)
-    QML_UNCREATABLE("there is one for the whole program")
+    QML_UNCREATABLE("there is one instance per application")
 };
 
 struct AccountListForeign
@@ -248,7 +248,7 @@ struct AccountListForeign
     Q_GADGET
     QML_FOREIGN(AccountList)
     QML_NAMED_ELEMENT(AccountList)
-    QML_UNCREATABLE("there is one for the whole program")
+    QML_UNCREATABLE("there is one instance per application")
 };
 
 struct ChannelNameFormForeign
@@ -277,7 +277,7 @@ struct SearchReportsForeign
     Q_GADGET
     QML_FOREIGN(SearchReports)
     QML_NAMED_ELEMENT(SearchReports)
-    QML_UNCREATABLE("there is one for the whole program")
+    QML_UNCREATABLE("there is one instance per application")
 };
 
 struct SystemToolsForeign

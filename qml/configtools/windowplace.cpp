@@ -14,7 +14,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr int titleBarHeight = 48;
-constexpr int holdWidth = 160; ///< of the title bar, without the buttons at its end
+constexpr int holdWidth = 160; ///< of the title bar, without its buttons: minimum to drag the window
 
 struct StoredPlace
 {
@@ -36,7 +36,7 @@ std::optional<StoredPlace> readPlace(const QString &text)
                        .isMaximised = !match.captured(5).isEmpty()};
 }
 
-/// How much of `inner` is within `outer`.
+/// Area of the part of `inner` that is inside `outer`, in square pixels.
 int areaWithin(const QRect &inner, const QRect &outer)
 {
     const QRect common = inner.intersected(outer);
@@ -99,7 +99,7 @@ void WindowPlace::componentComplete()
         screens.append(screen->availableGeometry());
     m_normal = fitted(place->normal, m_window->minimumSize(), screens);
     m_isMaximised = place->isMaximised;
-    // As properties: the window's own bindings would win over a geometry that is set directly.
+    // Written as properties: bindings of the window would override setGeometry().
     QQmlProperty::write(m_window, QStringLiteral("x"), m_normal.x());
     QQmlProperty::write(m_window, QStringLiteral("y"), m_normal.y());
     QQmlProperty::write(m_window, QStringLiteral("width"), m_normal.width());
@@ -122,7 +122,7 @@ void WindowPlace::note()
         m_isMaximised = true;
         break;
     default:
-        break; // it comes back as it was
+        break; // minimised or hidden: keeps the last values
     }
 }
 

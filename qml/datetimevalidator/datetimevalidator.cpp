@@ -13,11 +13,11 @@ void DateTimeValidator::setFormat(const QString &format)
     Q_EMIT changed();
 }
 
-bool DateTimeValidator::isWhole(const QString &text) const
+bool DateTimeValidator::isComplete(const QString &text) const
 {
     if (text.size() != m_format.size())
         return false;
-    // Date and time apart: a moment that this computer's daylight saving leaves out is one on a device.
+    // Separately: a local time that daylight saving skips on this host may be valid on a device.
     const QStringList formats = m_format.split(QLatin1Char(' '));
     const QStringList parts = text.split(QLatin1Char(' '));
     if (formats.size() != parts.size())
@@ -40,5 +40,5 @@ QValidator::State DateTimeValidator::validate(QString &text, int &) const
         });
     if (!isPossible)
         return Invalid;
-    return isWhole(text) ? Acceptable : Intermediate;
+    return isComplete(text) ? Acceptable : Intermediate;
 }

@@ -3,14 +3,13 @@
 #include <QValidator>
 #include <QtQml/qqmlregistration.h>
 
-/// Accepts dates and times in one format of fixed width, "yyyy-MM-dd hh:mm:ss" unless another is set. Text of
-/// digits and separators that is none, or none yet, is let stand: a field must be editable in its middle,
-/// digit by digit.
+/// Accepts dates and times in a format of fixed width, by default "yyyy-MM-dd hh:mm:ss". Incomplete or
+/// invalid text of digits and separators is Intermediate, so that the user can edit single digits.
 class DateTimeValidator : public QValidator
 {
     Q_OBJECT
     QML_ELEMENT
-    /// Of the letters y, M, d, h, m and s and separators.
+    /// Consists of y, M, d, h, m, s and separators; date and time are separated by a space.
     Q_PROPERTY(QString format READ format WRITE setFormat NOTIFY formatChanged)
 public:
     explicit DateTimeValidator(QObject *parent = nullptr) : QValidator(parent) {}
@@ -24,7 +23,7 @@ Q_SIGNALS:
     void formatChanged();
 
 private:
-    [[nodiscard]] bool isWhole(const QString &text) const;
+    [[nodiscard]] bool isComplete(const QString &text) const;
 
     QString m_format = QStringLiteral("yyyy-MM-dd hh:mm:ss");
 };

@@ -280,10 +280,10 @@ void walkImage(Driver &driver, sdk::demo::DemoSite &site)
     driver.report(u"config-exposure"_s, shownBy(driver, u"shutterChoice"_s));
 
     setNumber(driver, u"regionLeft"_s, 7000);
-    driver.report(u"config-region"_s, driver.text(u"regionComplaint"_s));
+    driver.report(u"config-region"_s, driver.text(u"regionError"_s));
     setNumber(driver, u"regionRight"_s, 8000);
-    awaitConfigIdle(driver);
-    driver.check(!driver.find(u"regionComplaint"_s) && driver.text(u"regionLeft"_s) == u"7000",
+    awaitIdle(driver);
+    driver.check(!driver.find(u"regionError"_s) && driver.text(u"regionLeft"_s) == u"7000",
                  u"both sides of a region are written together"_s);
 
     site.setFault(macOf(site, first), {.fault = sdk::demo::Fault::RefusesItem, .number = 1318});

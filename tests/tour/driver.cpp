@@ -118,9 +118,9 @@ QQuickItem *Driver::requireForClicks(const QString &name) const
     await(
         QStringLiteral("\"%1\" takes clicks").arg(name),
         [&] {
-            const QQuickItem *hold = find(QStringLiteral("inputHold"));
-            const bool isHeld = hold && hold->property("stopper").value<QQuickItem *>() != item;
-            const QQuickItem *sheet = find(QStringLiteral("workHold"));
+            const QQuickItem *blocker = find(QStringLiteral("inputBlocker"));
+            const bool isHeld = blocker && blocker->property("stopper").value<QQuickItem *>() != item;
+            const QQuickItem *sheet = find(QStringLiteral("panelBlocker"));
             const bool isUnderSheet = sheet && sheet->contains(sheet->mapFromScene(QPointF(middleOf(item))));
             return !isHeld && !isUnderSheet && !isUnderNotice(middleOf(item));
         },

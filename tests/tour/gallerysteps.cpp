@@ -45,7 +45,7 @@ void awaitPlaying(const Driver &live, const QList<int> &places)
 {
     live.await(u"the live views show frames"_s, [&] {
         for (const int place : places) {
-            const QQuickItem *player = live.find(u"livePlace%1"_s.arg(place));
+            const QQuickItem *player = live.find(u"liveCell%1"_s.arg(place));
             if (!player || !player->property("playing").toBool())
                 return false;
         }
@@ -56,12 +56,12 @@ void awaitPlaying(const Driver &live, const QList<int> &places)
 void walkNavigation(Driver &live)
 {
     awaitPlaying(live, {0});
-    live.report(u"first"_s, live.text(u"liveDevicePlace"_s) + u' ' + live.text(u"liveTitle"_s));
+    live.report(u"first"_s, live.text(u"liveDevicePosition"_s) + u' ' + live.text(u"liveTitle"_s));
     live.key(Qt::Key_PageDown);
     live.await(u"the next device is shown"_s, [&] { return live.text(u"liveAddress"_s) == chosen.at(1); });
     awaitPlaying(live, {0});
     live.hover(u"liveLaterButton"_s);
-    live.report(u"next"_s, live.text(u"liveDevicePlace"_s) + u' ' + live.text(u"liveTitle"_s));
+    live.report(u"next"_s, live.text(u"liveDevicePosition"_s) + u' ' + live.text(u"liveTitle"_s));
     live.click(u"liveEarlierButton"_s);
     awaitPlaying(live, {0});
 }

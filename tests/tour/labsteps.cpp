@@ -111,7 +111,7 @@ void walkLivePicture(Driver &driver)
     live.await(
         u"the live view shows a frame"_s,
         [&] {
-            const QQuickItem *player = live.find(u"livePlace0"_s);
+            const QQuickItem *player = live.find(u"liveCell0"_s);
             const QQuickItem *video = player ? player->findChild<QQuickItem *>(u"liveVideo"_s) : nullptr;
             return video && !video->property("pictureSize").toSize().isEmpty();
         },

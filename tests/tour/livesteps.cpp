@@ -25,7 +25,7 @@ const QString recorderMac = u"02:1a:c5:00:40:72"_s;
 
 QQuickItem *videoIn(const Driver &live, int place)
 {
-    const QQuickItem *player = live.find(u"livePlace%1"_s.arg(place));
+    const QQuickItem *player = live.find(u"liveCell%1"_s.arg(place));
     return player ? player->findChild<QQuickItem *>(u"liveVideo"_s) : nullptr;
 }
 
@@ -123,10 +123,10 @@ void walkRecorder(Driver &live)
 {
     awaitFrames(live, 4);
     live.report(u"recorder"_s, live.text(u"liveTitle"_s));
-    const QSize small = frameSize(live, 1);
-    live.doubleClick(u"livePlace1"_s);
-    live.await(u"the enlarged view shows the main stream"_s,
-               [&] { return plays(live, 1) && frameSize(live, 1).width() > small.width(); });
+    const QSize small = pictureSize(live, 1);
+    live.doubleClick(u"liveCell1"_s);
+    live.await(u"the enlarged picture is that of the main stream"_s,
+               [&] { return plays(live, 1) && pictureSize(live, 1).width() > small.width(); });
     live.report(u"enlarged"_s, live.text(u"liveChannelName"_s));
     live.key(Qt::Key_Escape);
     awaitFrames(live, 4);

@@ -1,5 +1,5 @@
-// What all buttons share: a tool tip, which an OVActionRow shows for a disabled one too. Once pressed, a button
-// keeps quiet until the pointer comes back: its tip would lie over the menu that it has opened.
+// Base of all buttons. It has a tool tip; OVActionRow shows the tip of a disabled button. The tip stays hidden after a
+// press until the pointer enters again, as it would cover an opened menu.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -10,12 +10,12 @@ T.AbstractButton {
 
     property string toolTip
     property bool quiet: false
-    property bool ownArrows: false  // it does something else with Left and Right than a group of controls does
+    property bool ownArrows: false  // the button handles Left and Right itself, see keygroups.js
 
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
 
-    /// A key that is held down presses once.
+    /// Ignores the auto-repeat of a key.
     function pressOnce(event) {
         if (!event.isAutoRepeat)
             press();
@@ -30,7 +30,7 @@ T.AbstractButton {
     onHoveredChanged: quiet = false
     onPressedChanged: if (pressed) quiet = true
 
-    // Space is the toolkit's own key.
+    // Qt handles the space key.
     Keys.onEnterPressed: event => pressOnce(event)
     Keys.onReturnPressed: event => pressOnce(event)
     Keys.onTabPressed: event => event.accepted = KeyGroups.leave(root, true)

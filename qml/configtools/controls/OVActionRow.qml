@@ -1,5 +1,4 @@
-// Actions side by side. A disabled control takes no part in hovering, so the row watches in its place: a user
-// who cannot press something is the one who wants to know why.
+// A row of buttons. It shows the tool tip of a disabled button, which receives no hover events itself.
 import QtQuick
 import configtools
 
@@ -17,7 +16,7 @@ Row {
     }
 
     Item {
-        // Positioners leave out what has no size; the bubble belongs under the control it speaks of.
+        // An item without a size takes no part in the layout of the row.
         parent: root.explains ? root.over as Item : root
         width: parent === root ? 0 : parent.width
         height: parent === root ? 0 : parent.height

@@ -1,4 +1,4 @@
-// A field for an IPv4 address. What is to be said when its text is none depends on the place.
+// A field for an IPv4 address. The caller sets the error text.
 import QtQuick
 import configtools
 
@@ -6,7 +6,7 @@ OVTextField {
     id: root
 
     readonly property bool acceptable: AddressTools.isLegalAddress(text)
-    readonly property bool wrong: !AddressTools.mayBecomeAddress(text)  // and not merely unfinished
+    readonly property bool wrong: !AddressTools.mayBecomeAddress(text)  // and not only incomplete
 
     unwanted: /\s/g
     textFont: Theme.figureFont

@@ -1,23 +1,22 @@
-// Does work that holds the window up, once the window has painted what it is to show meanwhile: run() after the
-// busy state is set, and the work is done two pictures later, since the next one may have been under way already.
-// One piece of work at a time: what is asked for while another waits takes its place.
+// Runs blocking work after the window has shown the busy state. run() starts the work two frames later, as the next
+// frame may already be in progress. A later call replaces waiting work.
 import QtQuick
 
 Item {
     id: root
 
     property var work: null  // a function
-    property int pictures: 0
+    property int frames: 0
 
     function run(work) {
         root.work = work;
-        pictures = 0;
-        patience.restart();
+        frames = 0;
+        timeout.restart();
         Window.window?.update();
     }
 
     function finish() {
-        patience.stop();
+        timeout.stop();
         const work = root.work;
         root.work = null;
         if (work)
@@ -29,10 +28,10 @@ Item {
         target: root.Window.window
 
         function onFrameSwapped() {
-            root.pictures += 1;
-            if (root.pictures < 2)
+            root.frames += 1;
+            if (root.frames < 2)
                 root.Window.window.update();
-            else if (root.pictures === 2)
+            else if (root.frames === 2)
                 start.start();
         }
     }
@@ -43,9 +42,9 @@ Item {
         onTriggered: root.finish()
     }
 
-    // A window that is minimised or covered paints nothing.
+    // A minimised or covered window renders no frames.
     Timer {
-        id: patience
+        id: timeout
         interval: 1000
         onTriggered: root.finish()
     }

@@ -1,4 +1,4 @@
-// A line of notice across the window.
+// A notice across the window, with a link.
 import QtQuick
 import configtools
 
@@ -7,7 +7,7 @@ Rectangle {
 
     required property string text
     property string iconName: "unplugged"
-    property string linkText  // of what the notice offers
+    property string linkText  // text of the link
     property bool closable: false
     signal linkActivated
     signal closed
@@ -35,7 +35,7 @@ Rectangle {
         anchors.right: actions.left
         anchors.rightMargin: Theme.pageMargin
         height: parent.height
-        color: Theme.colours.warnInk
+        color: Theme.colours.warnText
         objectName: "bannerText"
         text: root.text
     }

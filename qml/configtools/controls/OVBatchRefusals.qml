@@ -1,4 +1,4 @@
-// Tells the user of the page that is shown why a batch does not begin.
+// Reports on the visible page why a batch is refused.
 import QtQml
 import configtools
 
@@ -7,14 +7,14 @@ QtObject {
 
     required property Batches batches
     required property bool shown
-    signal said(string message, int kind)
+    signal notify(string message, int severity)
 
     readonly property Connections reports: Connections {
         enabled: root.shown
         target: root.batches
 
         function onRefused(message) {
-            root.said(message, OVToast.Refusal);
+            root.notify(message, OVToast.Refusal);
         }
     }
 }

@@ -1,4 +1,4 @@
-// A button with words.
+// A button with text.
 import QtQuick
 import configtools
 
@@ -25,13 +25,13 @@ OVAbstractButton {
             return down || hovered ? c.badSoft : c.surface;
         return down ? c.pressed : hovered ? c.hover : c.surface;
     }
-    readonly property color ink: {
+    readonly property color textColor: {
         const c = Theme.colours;
         if (filled)
-            return c.accentInk;
+            return c.accentText;
         if (!enabled)
-            return c.disabledInk;
-        return kind === OVButton.Danger ? c.bad : c.ink;
+            return c.disabledText;
+        return kind === OVButton.Danger ? c.bad : c.text;
     }
 
     readonly property int signsWidth: (iconName !== "" || busy ? Theme.boxSize + 6 : 0)
@@ -49,14 +49,14 @@ OVAbstractButton {
 
             OVSpinner {
                 anchors.verticalCenter: parent.verticalCenter
-                color: root.ink
+                color: root.textColor
                 running: root.busy
                 size: Theme.boxSize
                 visible: root.busy
             }
             OVIcon {
                 anchors.verticalCenter: parent.verticalCenter
-                color: root.ink
+                color: root.textColor
                 name: root.iconName
                 size: Theme.boxSize
                 visible: root.iconName !== "" && !root.busy
@@ -65,13 +65,13 @@ OVAbstractButton {
                 id: label
                 anchors.verticalCenter: parent.verticalCenter
                 width: Math.min(implicitWidth, root.availableWidth - root.signsWidth)
-                color: root.ink
+                color: root.textColor
                 font: Theme.buttonFont
                 text: root.text
             }
             OVIcon {
                 anchors.verticalCenter: parent.verticalCenter
-                color: root.enabled ? Theme.colours.sub : Theme.colours.disabledInk
+                color: root.enabled ? Theme.colours.sub : Theme.colours.disabledText
                 name: "down"
                 size: Theme.smallIconSize
                 visible: root.opensMenu

@@ -1,4 +1,4 @@
-// A tick box; with tristate it also shows "some of them".
+// A check box. With `tristate` it also shows a partial selection.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -41,7 +41,7 @@ T.CheckBox {
 
         OVIcon {
             anchors.centerIn: parent
-            color: Theme.colours.accentInk
+            color: Theme.colours.accentText
             name: root.checkState === Qt.PartiallyChecked ? "mixed" : "check"
             size: Theme.boxSize
             visible: parent.filled
@@ -51,7 +51,7 @@ T.CheckBox {
     }
 
     contentItem: OVLabel {
-        color: root.enabled ? Theme.colours.ink : Theme.colours.disabledInk
+        color: root.enabled ? Theme.colours.text : Theme.colours.disabledText
         text: root.text
         visible: root.text !== ""
     }

@@ -1,4 +1,5 @@
-// A choice whose entry comes from outside. What the user picks is told; what is shown follows what came of it.
+// A combo box whose current entry is set from outside. A selection by the user is only requested: the box keeps showing
+// `chosen`.
 import QtQuick
 import configtools
 
@@ -6,10 +7,10 @@ OVComboBox {
     id: root
 
     property int chosen: -1
-    property var source: null  // whenever it changes, the choice shows the chosen entry again
-    signal picked(int index)
+    property var source: null  // on a change the box shows `chosen` again
+    signal indexRequested(int index)
 
-    // A new list puts a combo box on its first entry.
+    // A combo box selects the first entry of a new model.
     function follow() {
         currentIndex = chosen;
     }
@@ -17,7 +18,7 @@ OVComboBox {
     displayText: currentIndex < 0 ? "—" : currentText
     onActivated: index => {
         if (index !== chosen)
-            picked(index);
+            indexRequested(index);
         follow();
     }
     onChosenChanged: follow()

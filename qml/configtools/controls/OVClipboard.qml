@@ -1,16 +1,21 @@
-// Puts text on the clipboard: the scene reaches it only through a text item.
+// Copies text to the clipboard. QML reaches the clipboard only through a text item.
 import QtQuick
 
-TextEdit {
-    function put(words) {
-        text = words;
-        selectAll();
-        copy();
-        clear();
+Item {
+    function copy(text) {
+        buffer.text = text;
+        buffer.selectAll();
+        buffer.copy();
+        buffer.clear();
     }
 
-    textFormat: TextEdit.PlainText
     visible: false
 
-    Accessible.ignored: true
+    TextEdit {
+        id: buffer
+
+        textFormat: TextEdit.PlainText
+
+        Accessible.ignored: true
+    }
 }

@@ -1,4 +1,4 @@
-// A choice of several texts, one of them shown. Numbers stand for their texts.
+// A combo box. The model is a list of texts or numbers.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -15,12 +15,12 @@ T.ComboBox {
     hoverEnabled: true
     leftPadding: 11
     rightPadding: 30
-    wheelEnabled: false  // a page that is scrolled must not change what is under the pointer
+    wheelEnabled: false  // scrolling a page must not change the value under the pointer
 
     Accessible.name: accessibleName
 
     contentItem: OVLabel {
-        color: root.enabled ? Theme.colours.ink : Theme.colours.disabledInk
+        color: root.enabled ? Theme.colours.text : Theme.colours.disabledText
         font: root.font
         objectName: "chosenText"
         text: root.displayText
@@ -29,7 +29,7 @@ T.ComboBox {
     indicator: OVIcon {
         x: root.width - width - 10
         anchors.verticalCenter: parent?.verticalCenter
-        color: root.enabled ? Theme.colours.faint : Theme.colours.disabledInk
+        color: root.enabled ? Theme.colours.faint : Theme.colours.disabledText
         name: "down"
         size: Theme.smallIconSize
     }
@@ -61,7 +61,7 @@ T.ComboBox {
         text: modelData
 
         contentItem: OVLabel {
-            color: entry.chosen ? Theme.colours.accent : Theme.colours.ink
+            color: entry.chosen ? Theme.colours.accent : Theme.colours.text
             font: entry.chosen ? Theme.buttonFont : root.font
             showsWholeOnHover: false
             text: entry.text

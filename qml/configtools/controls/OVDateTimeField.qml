@@ -1,4 +1,4 @@
-// A field for a date and time, or for a time alone, which says when its text is none.
+// A field for a date and time, or a time, with an error text for invalid input.
 import QtQuick
 import DateTimeValidator 1.0
 import configtools
@@ -7,10 +7,10 @@ OVTextField {
     id: root
 
     property alias format: dateTime.format
-    property string complaint: qsTr("请输入正确的时间")
+    property string invalidText: qsTr("请输入正确的时间")
     readonly property bool acceptable: acceptableText
 
-    errorText: acceptable ? "" : complaint
+    errorText: acceptable ? "" : invalidText
     placeholderText: format
     textFont: Theme.figureFont
     validator: DateTimeValidator { id: dateTime }

@@ -1,6 +1,5 @@
-// A modal box in the window: a head with a title, the content, a foot with buttons. Escape closes it, Enter
-// does what its primary button does, and the keyboard stays inside. It is no larger than the window: content that is
-// higher scrolls.
+// A modal dialog in the window: title, content, buttons. Escape closes it, Enter presses the primary button, and the
+// keyboard focus stays inside. It is limited to the size of the window; larger content scrolls.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -15,32 +14,32 @@ T.Popup {
     property bool okEnabled: true
     property bool hasCancel: true
     property bool closable: true
-    property bool dense: false  // for a small box: its head, its foot and the room around its content are lower
-    property bool busy: false  // at what was accepted: the primary button turns, and nothing can be done meanwhile
-    property bool cancellable: false  // also while it is busy
-    property string notice  // about what the dialog holds, above its buttons
+    property bool dense: false  // for a small dialog: smaller head, foot and margins
+    property bool busy: false  // the accepted work runs: the primary button shows it, and input is disabled
+    property bool cancellable: false  // the dialog can be cancelled while it is busy
+    property string notice  // about the content of the dialog, above the buttons
     property int noticeKind: OVToast.Error
-    property alias footContent: footSlot.data  // beside the buttons
+    property alias footContent: footSlot.data  // left of the buttons
     readonly property alias buttonsWidth: buttons.width
     property int wantedWidth: Theme.dialogWidth
     property int leastHeight: 0
-    property bool scrolls: true  // false for content that fills the dialog, whatever its height
+    property bool scrolls: true  // false if the content fits itself to the height of the dialog
     readonly property int mostWidth: parent ? parent.width - 4 * Theme.pageMargin : wantedWidth
     readonly property int mostHeight: parent ? parent.height - 2 * Theme.pageMargin : implicitHeight
-    /// What the window has for the content, also while a notice stands above the buttons.
+    /// Maximum height of the content, also while a notice is above the buttons.
     readonly property int contentRoom: mostHeight - head.height - strip.height - foot.height - 2 * contentMargin
     default property alias content: body.data
     signal accepted
     signal rejected
 
-    // While it goes a dialog takes no answer: a second click is not a second answer.
+    // The dialog ignores input while it closes: a second click must not count.
     property bool leaving: false
     onAboutToHide: leaving = true
     onAboutToShow: {
         leaving = false;
         notice = "";
         view.contentY = 0;
-        body.focus = true;  // not the button that answered the last time
+        body.focus = true;  // not the button that closed it the last time
     }
 
     function accept() {
@@ -56,14 +55,14 @@ T.Popup {
         rejected();
     }
 
-    /// A key that is held down answers once.
+    /// Ignores the auto-repeat of a key.
     function acceptOnce(event) {
         if (!event.isAutoRepeat)
             accept();
     }
 
-    /// Input is not accepted: the first field that shows an error gets the keyboard. When no field shows one, the message
-    /// stands above the buttons.
+    /// Rejects the input: the first field with an error gets the keyboard focus. If no field has an error, the message
+    /// is shown above the buttons.
     function refuse(message) {
         const field = faultyField(body);
         if (field)
@@ -157,7 +156,7 @@ T.Popup {
 
         Flickable {
             id: view
-            // What gets the keyboard comes into view.
+            // Scrolls to the item with the keyboard focus.
             readonly property Item focused: Window.activeFocusItem
 
             y: head.height

@@ -1,4 +1,4 @@
-// What stands where there is nothing to show: why, and what to do.
+// Shown in place of an empty list: the reason, and an action.
 import QtQuick
 import configtools
 
@@ -9,12 +9,12 @@ Item {
     required property string title
     property string hint
     property string actionText
-    property var choices: []  // further buttons beside the action: objects with "text" and "objectName"
-    property string linkText  // of what else can be done, below the action
-    property string demoText  // of another link
+    property var choices: []  // further buttons next to the action: objects with "text" and "objectName"
+    property string linkText  // text of a link below the action
+    property string demoText  // text of a second link
     property bool busy: false
     signal activated
-    signal chosen(string choice)  // the object name of a further button
+    signal chosen(string choice)  // object name of the button
     signal linkActivated
     signal demoActivated
 

@@ -1,5 +1,5 @@
-// A menu whose entries are given when it opens: objects with "key", "text" and, if wanted, "enabled", "begins", which
-// draws a line above the entry, and "checked" for one that has a check mark or not.
+// A menu with entries set on opening: objects with "key", "text" and optionally "enabled", "begins" (a line above the
+// entry) and "checked" (a check box with this state).
 import QtQuick
 import QtQml
 import configtools
@@ -10,11 +10,11 @@ OVMenu {
     property var entries: []
     signal chosen(string key)
 
-    /// `place` has "item", "x", "y" and "byKey". Opened with a key, the first entry is the current one.
-    function offer(entries, place) {
+    /// `position` has "item", "x", "y" and "byKey". If opened by a key, the first enabled entry is current.
+    function offer(entries, position) {
         root.entries = entries;
-        popup(place.item, place.x, place.y);
-        if (place.byKey)
+        popup(position.item, position.x, position.y);
+        if (position.byKey)
             currentIndex = entries.findIndex(entry => entry.enabled ?? true);
     }
 

@@ -1,5 +1,5 @@
-// Leaves only the devices of a table that batches have failed with, or one operation of them, and takes their marks away.
-// Without marks there is nothing.
+// Filters the devices of a table whose batches failed or did not reach them, optionally for one operation, and clears
+// their marks. Hidden without marks.
 import QtQuick
 import configtools
 
@@ -14,7 +14,7 @@ Row {
     OVCheckBox {
         checked: root.devices.onlyFailed
         objectName: "failedFilter"
-        //: Shows only the devices that batches failed with or did not come to; %1 is how many there are.
+        //: Shows only the devices whose batches failed or did not reach them; %1 is their number.
         text: qsTr("仅未成功 %1").arg(root.devices.failedCount)
         toolTip: qsTr("只显示失败和未执行的设备，按原因排列。已不在列表中的设备见批处理记录。")
         onToggled: root.devices.onlyFailed = checked

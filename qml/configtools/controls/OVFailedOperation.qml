@@ -1,4 +1,4 @@
-// Which operation's marks count, where several have marks.
+// Chooses the operation whose failed marks are shown, if several have marks.
 import QtQuick
 import configtools
 

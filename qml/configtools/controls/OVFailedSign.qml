@@ -1,13 +1,13 @@
-// Marks a device that batches have failed with or did not come to, and says which ones and why.
+// Icon of a device whose batches failed or did not reach it. Its tool tip has the batches and reasons.
 import QtQuick
 import configtools
 
 OVIcon {
     id: root
 
-    required property string failure  // empty for a device that is not marked
+    required property string failure  // empty for an unmarked device
 
-    property bool onlyNotDone: false  // no batch has failed with it
+    property bool onlyNotDone: false  // no batch failed; some did not reach the device
 
     color: onlyNotDone ? Theme.colours.warn : Theme.colours.bad
     name: onlyNotDone ? "alert" : "error"

@@ -1,4 +1,4 @@
-// A labelled field for dialogs that are too small for labels beside their fields: the label stands above.
+// A field with its label above it, for dialogs without room for a label on the left.
 import QtQuick
 import configtools
 
@@ -12,7 +12,7 @@ Column {
 
     OVLabel {
         width: parent.width
-        color: root.enabled ? Theme.colours.sub : Theme.colours.disabledInk
+        color: root.enabled ? Theme.colours.sub : Theme.colours.disabledText
         font: Theme.hintFont
         text: root.label
     }

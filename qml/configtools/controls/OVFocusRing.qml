@@ -1,4 +1,4 @@
-// The soft ring around the control that has the keyboard.
+// The ring around the control with the keyboard focus.
 import QtQuick
 import configtools
 

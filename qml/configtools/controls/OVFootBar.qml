@@ -1,6 +1,5 @@
-// The foot of a page: what is selected on the left, with how the last batch went and what needs a look; what is running
-// on the right. Whichever page began it, every page shows the batch, which can be stopped there; else work of the page
-// itself, else the search.
+// The status line of a page. Left: the selection, the result of the last batch, warnings. Right: the running batch (of
+// any page, with a stop button), else the work of the page, else the search.
 import QtQuick
 import configtools
 
@@ -12,27 +11,27 @@ Item {
     property string runningText
     property string runningDevice
     property bool running: false
-    property bool compact: false  // beside the buttons of a dialog: what can be done without is left out
+    property bool compact: false  // in the foot of a dialog: optional parts are hidden
     readonly property bool keyGroup: true
-    property real progress: -1  // 0 to 1; below 0 there is no known end
+    property real progress: -1  // 0 to 1; negative: unknown
     property Batches batches: null
     property DeviceSearch search: null
-    signal tickRequested(var identities)  // of the devices that are to be the ticked ones
-    signal said(string message, int kind)
+    signal tickRequested(var identities)  // identities of the devices to tick
+    signal notify(string message, int severity)
 
     readonly property Batch batch: batches?.current ?? null
     readonly property bool showsBatch: batch?.running ?? false
     readonly property bool showsSearch: !running && !showsBatch && (search?.running ?? false)
-    readonly property bool held: showsBatch && batch.held
-    property Batch again: null  // is stopped, and tried again with another account
+    readonly property bool paused: showsBatch && batch.held
+    property Batch again: null  // batch to stop and retry with another account, null for none
     readonly property bool ended: batch !== null && !batch.running
     readonly property bool incomplete: ended && batch.report.failed + batch.report.notDone + batch.failedBefore > 0
     readonly property string outcome: ended && batch.report.summary !== ""
         ? batch.title + qsTr("：") + batch.report.summary + before : ""
-    //: Behind how many devices of a batch failed, which retries another one.
+    //: After the number of failed devices of a batch that retries another one.
     readonly property string before: ended && batch.failedBefore > 0 ? qsTr("，另有 %n 台此前未成功", "", batch.failedBefore) : ""
     readonly property string question: {
-        if (!held)
+        if (!paused)
             return "";
         const accounts = batch.refusedAccounts;
         const refusals = accounts === "" ? qsTr("连续 %n 台设备密码错误", "", batch.refusalsInARow)
@@ -40,14 +39,14 @@ Item {
         return qsTr("%1：%2，继续可能锁定账户。是否继续？").arg(batch.title).arg(refusals);
     }
 
-    //: A batch that runs: its title, and how many devices of how many are done.
+    //: A running batch: title, finished devices, all devices.
     readonly property string runningBatch: showsBatch ? qsTr("%1 %2 / %3").arg(batch.title).arg(batch.done).arg(batch.total) : ""
 
-    /// How long a batch still takes, in words; empty while that is not known.
+    /// Remaining time of a batch as text; empty if unknown.
     function timeLeft(seconds) {
         if (seconds < 0)
             return "";
-        //: How long a batch still takes.
+        //: Remaining time of a batch.
         return seconds < 60 ? qsTr("剩余不到 1 分钟") : qsTr("剩余约 %n 分钟", "", Math.round(seconds / 60));
     }
 
@@ -86,7 +85,7 @@ Item {
                     - Theme.pageMargin
                 width: Math.max(0, Math.min(implicitWidth, room))
                 height: parent.height
-                color: Theme.colours.warnInk
+                color: Theme.colours.warnText
                 objectName: "footWarning"
                 text: Array.from([root.warning, root.incomplete ? root.outcome : ""]).filter(part => part !== "")
                     .join("  ·  ")
@@ -109,13 +108,13 @@ Item {
                 color: Theme.colours.warn
                 name: "alert"
                 size: Theme.smallIconSize
-                visible: root.held
+                visible: root.paused
             }
             OVLabel {
                 height: parent.height
-                color: root.held ? Theme.colours.warnInk : Theme.colours.sub
+                color: root.paused ? Theme.colours.warnText : Theme.colours.sub
                 objectName: "runningText"
-                text: root.held ? root.question
+                text: root.paused ? root.question
                     : root.showsBatch ? root.runningBatch
                     : root.showsSearch ? qsTr("正在搜索设备…") : root.runningText
             }
@@ -124,9 +123,9 @@ Item {
             height: parent.height
             color: Theme.colours.bad
             objectName: "runningFailed"
-            //: Of the devices of a batch that runs.
+            //: Devices of a running batch.
             text: qsTr("%n 台失败", "", root.batch?.report.failed ?? 0)
-            visible: root.showsBatch && !root.held && root.batch.report.failed > 0
+            visible: root.showsBatch && !root.paused && root.batch.report.failed > 0
         }
         OVProgressBar {
             width: root.showsBatch ? Theme.batchBarWidth : implicitWidth
@@ -134,21 +133,21 @@ Item {
             indeterminate: root.running && !root.showsBatch && root.progress < 0
             value: root.showsBatch ? root.batch.progress
                 : root.showsSearch ? root.search.percent / 100 : Math.max(0, root.progress)
-            visible: root.running || root.showsSearch || (root.showsBatch && !root.held)
+            visible: root.running || root.showsSearch || (root.showsBatch && !root.paused)
         }
         OVLabel {
             height: parent.height
             color: Theme.colours.sub
             objectName: "timeLeft"
             text: root.showsBatch ? root.timeLeft(root.batch.secondsLeft) : ""
-            visible: text !== "" && !root.held && !root.compact
+            visible: text !== "" && !root.paused && !root.compact
         }
         OVLabel {
             height: parent.height
             color: Theme.colours.sub
             font: Theme.figureFont
             text: root.showsBatch ? root.batch.device : root.showsSearch ? root.search.percent + "%" : root.runningDevice
-            visible: text !== "" && !root.compact && (root.running || root.showsSearch || (root.showsBatch && !root.held))
+            visible: text !== "" && !root.compact && (root.running || root.showsSearch || (root.showsBatch && !root.paused))
         }
         OVLinkButton {
             id: account
@@ -156,14 +155,14 @@ Item {
             objectName: "selectAccountButton"
             text: qsTr("选择账号…")
             toolTip: root.compact ? "" : qsTr("为拒绝了此账号的设备和其余使用此账号的设备选择另一个账号，然后重试")
-            visible: root.held && LoginMemory.accounts !== null && root.batch.devicesOfRefusedAccounts().length > 0
-            onClicked: accounts.wanted().choose(root.batch.devicesOfRefusedAccounts())
+            visible: root.paused && LoginMemory.accounts !== null && root.batch.devicesOfRefusedAccounts().length > 0
+            onClicked: accounts.instance().choose(root.batch.devicesOfRefusedAccounts())
         }
         OVLinkButton {
             anchors.verticalCenter: parent.verticalCenter
             objectName: "continueButton"
             text: qsTr("继续")
-            visible: root.held
+            visible: root.paused
             onClicked: root.batch.resume()
         }
         OVLinkButton {
@@ -173,7 +172,7 @@ Item {
             enabled: !stopping
             objectName: "stopButton"
             text: enabled ? qsTr("停止") : qsTr("正在停止…")
-            toolTip: root.compact ? "" : root.held && !account.visible ? qsTr("停止后，可在设备的右键菜单中选择账号，再重试失败的设备（Esc）")
+            toolTip: root.compact ? "" : root.paused && !account.visible ? qsTr("停止后，可在设备的右键菜单中选择账号，再重试失败的设备（Esc）")
                 : qsTr("停止（Esc）")
             visible: root.showsBatch || root.showsSearch
             onClicked: {
@@ -186,7 +185,7 @@ Item {
         OVLinkButton {
             anchors.verticalCenter: parent.verticalCenter
             objectName: "retryFailedButton"
-            //: %1 is the title of the batch. Beside it, a page may have a retry of its own.
+            //: %1 is the title of the batch. The page may have a separate retry button.
             text: root.compact || root.showsSearch ? qsTr("重试失败") : qsTr("重试失败：%1").arg(root.batch?.title ?? "")
             toolTip: qsTr("对“%1”中失败和未执行的设备再试一次，密码错误等不会因重试而成功的除外").arg(root.batch?.title ?? "")
             visible: root.incomplete && !root.running && root.batch.report.waiting === 0
@@ -206,14 +205,14 @@ Item {
             objectName: "saveResultsButton"
             text: qsTr("保存结果")
             visible: root.ended && !root.running && !root.compact
-            onClicked: results.wanted().save(root.batch)
+            onClicked: results.instance().save(root.batch)
         }
         OVLinkButton {
             anchors.verticalCenter: parent.verticalCenter
             objectName: "batchPanelButton"
             text: qsTr("批处理记录")
             visible: root.batch !== null && !root.running && !root.compact
-            onClicked: results.wanted().show()
+            onClicked: results.instance().show()
         }
     }
 
@@ -223,7 +222,7 @@ Item {
         function onFinished() {
             const ended = root.again;
             root.again = null;
-            Qt.callLater(() => root.batches.retry(ended));  // the pages take its end first
+            Qt.callLater(() => root.batches.retry(ended));  // after the pages have handled its end
         }
     }
     // qmllint disable unqualified
@@ -233,12 +232,12 @@ Item {
         sourceComponent: AccountsDialog {
             accounts: LoginMemory.accounts
             onChosen: {
-                if (!root.held)
+                if (!root.paused)
                     return;
                 root.again = root.batch;
                 root.batch.stop();
             }
-            onSaid: (message, kind) => root.said(message, kind)
+            onNotify: (message, severity) => root.notify(message, severity)
         }
     }
     OVOnDemand {
@@ -246,7 +245,7 @@ Item {
         visible: false
         sourceComponent: BatchResults {
             batches: root.batches
-            onSaid: (message, kind) => root.said(message, kind)
+            onNotify: (message, severity) => root.notify(message, severity)
         }
     }
     // qmllint enable unqualified

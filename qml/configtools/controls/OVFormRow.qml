@@ -1,4 +1,4 @@
-// A label and its field, the label on the middle of the field's first line.
+// A label and its field. The label is centred on the first line of the field.
 import QtQuick
 import configtools
 
@@ -14,7 +14,7 @@ Item {
     OVLabel {
         width: root.labelWidth
         height: Theme.controlHeight
-        color: root.enabled ? Theme.colours.sub : Theme.colours.disabledInk
+        color: root.enabled ? Theme.colours.sub : Theme.colours.disabledText
         text: root.label
     }
     Item {

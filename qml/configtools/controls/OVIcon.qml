@@ -1,4 +1,4 @@
-// A sign of the icon set, by its name in the theme.
+// An icon of the icon font, by its name in Theme.icons.
 import QtQuick
 import configtools
 

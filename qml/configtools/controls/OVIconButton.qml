@@ -1,4 +1,4 @@
-// A button with a sign only: 18 in a hit area of 32. Its tool tip is its name.
+// A button with only an icon. The tool tip is its accessible name.
 import QtQuick
 import configtools
 
@@ -8,9 +8,9 @@ OVAbstractButton {
     required property string iconName
     property int iconSize: Theme.iconSize
     property bool turning: false
-    property color ink: Theme.colours.sub
-    property color inkHover: ink
-    property color inkDisabled: Theme.colours.disabledInk
+    property color iconColor: Theme.colours.sub
+    property color iconHoverColor: iconColor
+    property color iconDisabledColor: Theme.colours.disabledText
     property color fill: Theme.colours.clear
     property color fillHover: Theme.colours.hover
     property color fillPressed: Theme.colours.pressed
@@ -22,7 +22,7 @@ OVAbstractButton {
         OVIcon {
             id: sign
             anchors.centerIn: parent
-            color: !root.enabled ? root.inkDisabled : root.hovered ? root.inkHover : root.ink
+            color: !root.enabled ? root.iconDisabledColor : root.hovered ? root.iconHoverColor : root.iconColor
             name: root.iconName
             size: root.iconSize
 

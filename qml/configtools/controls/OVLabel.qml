@@ -1,5 +1,5 @@
-// One line of text whose baseline lies at the same height whatever the script, so that Chinese and Latin texts
-// line up side by side. What does not fit is elided and shown whole on hover.
+// A line of text. The baseline does not depend on the script, so that Chinese and Latin texts align. Elided text is
+// shown in full in a tool tip.
 import QtQuick
 import configtools
 
@@ -26,7 +26,7 @@ Item {
 
         y: Math.round(root.height / 2 + font.pixelSize * Theme.baselineShift - baselineOffset)
         width: root.width
-        color: Theme.colours.ink
+        color: Theme.colours.text
         elide: Text.ElideRight
         font: Theme.bodyFont
         maximumLineCount: 1

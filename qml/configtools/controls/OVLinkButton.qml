@@ -1,19 +1,19 @@
-// An action inside a line of text or a table row.
+// A button in a line of text or a table row.
 import QtQuick
 import configtools
 
 OVAbstractButton {
     id: root
 
-    property color ink: Theme.colours.accent
+    property color textColor: Theme.colours.accent
 
     implicitWidth: label.implicitWidth
     implicitHeight: Theme.unit * 3
 
     contentItem: OVLabel {
         id: label
-        color: !root.enabled ? Theme.colours.disabledInk
-            : root.down ? Theme.colours.accentPressed : root.hovered ? Theme.colours.accentHover : root.ink
+        color: !root.enabled ? Theme.colours.disabledText
+            : root.down ? Theme.colours.accentPressed : root.hovered ? Theme.colours.accentHover : root.textColor
         font: Theme.bodyFont
         text: root.text
     }

@@ -1,4 +1,4 @@
-// The sign of the program: the first letter of its name on a coloured ground.
+// The logo: the first character of the application's name on a coloured square.
 import QtQuick
 import configtools
 
@@ -18,7 +18,7 @@ Rectangle {
 
     OVLabel {
         anchors.fill: parent
-        color: Theme.colours.barInk
+        color: Theme.colours.barText
         font: root.large ? Theme.leadFont : Theme.headFont
         horizontalAlignment: Text.AlignHCenter
         text: root.name.charAt(0)

@@ -1,4 +1,4 @@
-// A menu that floats over the page.
+// A popup menu.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -6,7 +6,7 @@ import configtools
 T.Menu {
     id: root
 
-    property string iconName  // of its entry, when it is a sub menu
+    property string iconName  // icon of its entry in the parent menu
 
     implicitWidth: Math.max(180, entries.contentWidth)
     implicitHeight: entries.contentHeight + topPadding + bottomPadding

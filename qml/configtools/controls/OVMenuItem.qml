@@ -8,8 +8,8 @@ T.MenuItem {
 
     property string iconName
     property bool marksChoice: false
-    property bool ticks: false  // it can be checked, as others beside it
-    property bool begins: false  // a group of entries: there is a line above it
+    property bool ticks: false  // the entry has a check mark or room for one
+    property bool begins: false  // first of a group: a line is drawn above it
 
     implicitWidth: Math.max(180, label.implicitWidth + leftPadding + rightPadding)
     implicitHeight: Theme.rowHeight
@@ -22,8 +22,8 @@ T.MenuItem {
 
     contentItem: OVLabel {
         id: label
-        color: !root.enabled ? Theme.colours.disabledInk
-            : root.marksChoice ? Theme.colours.accent : Theme.colours.ink
+        color: !root.enabled ? Theme.colours.disabledText
+            : root.marksChoice ? Theme.colours.accent : Theme.colours.text
         font: root.marksChoice ? Theme.buttonFont : Theme.bodyFont
         showsWholeOnHover: false
         text: root.text
@@ -32,7 +32,7 @@ T.MenuItem {
     indicator: OVIcon {
         x: 12
         anchors.verticalCenter: parent?.verticalCenter
-        color: root.enabled ? Theme.colours.sub : Theme.colours.disabledInk
+        color: root.enabled ? Theme.colours.sub : Theme.colours.disabledText
         name: root.ticks ? "check" : root.iconName
         size: Theme.boxSize
         visible: root.ticks ? root.checked : root.iconName !== ""

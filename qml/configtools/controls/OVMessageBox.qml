@@ -1,4 +1,4 @@
-// A message that has to be read, or a question that has to be answered.
+// A message or question that must be answered.
 import QtQuick
 import configtools
 
@@ -9,7 +9,7 @@ OVDialog {
 
     property int kind: OVMessageBox.Information
     property string message
-    property string otherText  // of a third answer
+    property string otherText  // text of a third button
     signal otherChosen
 
     function show(text, ofKind) {
@@ -25,7 +25,7 @@ OVDialog {
     okKind: kind === OVMessageBox.DangerQuestion ? OVButton.DangerPrimary : OVButton.Primary
     title: qsTr("提示")
     onAccepted: close()
-    onOpened: if (kind === OVMessageBox.DangerQuestion) focusCancel()  // Enter twice is not yet a yes
+    onOpened: if (kind === OVMessageBox.DangerQuestion) focusCancel()  // pressing Enter twice must not confirm
 
     footContent: OVButton {
         anchors.verticalCenter: parent.verticalCenter

@@ -1,4 +1,4 @@
-// A text with the sign of its kind before its first line.
+// Wrapped text with an icon before its first line.
 import QtQuick
 import configtools
 

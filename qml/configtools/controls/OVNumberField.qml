@@ -1,4 +1,4 @@
-// A field for a whole number from 0; a larger one than the largest becomes the largest.
+// A field for an integer from 0. Larger numbers are replaced by `largest`.
 import QtQuick
 import configtools
 
@@ -6,10 +6,10 @@ OVTextField {
     id: root
 
     property int largest: 65535
-    property string complaint: qsTr("请输入数字")
+    property string invalidText: qsTr("请输入数字")
     readonly property bool acceptable: text !== ""
 
-    errorText: acceptable ? "" : complaint
+    errorText: acceptable ? "" : invalidText
     textFont: Theme.figureFont
     unwanted: /\s/g
     validator: RegularExpressionValidator { regularExpression: /\s*\d{0,9}\s*/ }

@@ -1,18 +1,14 @@
-// Holds what is made only when it is first asked for: pages and dialogs that many runs of the program never show.
-// A page is asked for by being shown, a dialog by wanted().
+// Creates its component on first use: many runs never show a page or dialog.
+// A page is created when it becomes visible, a dialog by instance().
 import QtQuick
 
 Loader {
-    id: root
-
-    property bool made: false
-
-    /// The thing itself, made now if it was not yet.
-    function wanted() {
-        made = true;
+    /// The component's object, created if necessary.
+    function instance() {
+        active = true;
         return item;
     }
 
-    active: made
-    onVisibleChanged: if (visible) made = true
+    active: false
+    onVisibleChanged: if (visible) active = true
 }

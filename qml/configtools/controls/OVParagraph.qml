@@ -1,9 +1,9 @@
-// Text that wraps. It is plain: device texts may hold anything.
+// Wrapped plain text. Markup in texts of devices is not interpreted.
 import QtQuick
 import configtools
 
 Text {
-    color: Theme.colours.ink
+    color: Theme.colours.text
     font: Theme.bodyFont
     lineHeight: Math.round(font.pixelSize * Theme.lineRatio)
     lineHeightMode: Text.FixedHeight

@@ -1,4 +1,4 @@
-// How far something is; without a known end a piece travels along.
+// A progress bar. Without a known end a segment moves along it.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -6,7 +6,7 @@ import configtools
 T.ProgressBar {
     id: root
 
-    property color ink: Theme.colours.accent
+    property color barColor: Theme.colours.accent
 
     implicitWidth: 220
     implicitHeight: 6
@@ -29,7 +29,7 @@ T.ProgressBar {
             x: root.indeterminate ? way * (parent.width + width) - width : 0
             width: root.indeterminate ? parent.width * 0.3 : root.position * parent.width
             height: parent.height
-            color: root.ink
+            color: root.barColor
             radius: height / 2
 
             NumberAnimation on way {

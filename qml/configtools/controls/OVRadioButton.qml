@@ -1,4 +1,4 @@
-// One choice of several.
+// A radio button.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -29,7 +29,7 @@ T.RadioButton {
     }
 
     contentItem: OVLabel {
-        color: root.enabled ? Theme.colours.ink : Theme.colours.disabledInk
+        color: root.enabled ? Theme.colours.text : Theme.colours.disabledText
         text: root.text
     }
 }

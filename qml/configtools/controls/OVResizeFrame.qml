@@ -1,4 +1,4 @@
-// The edges of a frameless window, by which it is resized in eight directions.
+// Resizes a frameless window by its edges and corners.
 import QtQuick
 import configtools
 

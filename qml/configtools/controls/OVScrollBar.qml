@@ -1,4 +1,4 @@
-// A scroll bar that keeps out of the way until it is used.
+// A thin scroll bar.
 import QtQuick
 import QtQuick.Templates as T
 import configtools

@@ -1,4 +1,4 @@
-// A part of a panel under its heading.
+// A part of a panel, with a heading.
 import QtQuick
 import configtools
 
@@ -6,7 +6,7 @@ Column {
     id: root
 
     required property string title
-    property string note  // stands in place of the content
+    property string note  // shown in place of the content
     default property alias content: body.data
 
     spacing: Theme.controlGap
@@ -30,7 +30,7 @@ Column {
     }
     OVParagraph {
         width: parent.width
-        color: Theme.colours.warnInk
+        color: Theme.colours.warnText
         text: root.note
         visible: root.note !== ""
     }

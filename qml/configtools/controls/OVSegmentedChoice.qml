@@ -1,5 +1,5 @@
-// A choice of few, side by side. Options are objects with "text" and "objectName", and if wanted "enabled" and "toolTip".
-// It is one stop of the Tab key: Left and Right choose.
+// A choice of a few options in a row. Options are objects with "text", "objectName" and optionally "enabled" and
+// "toolTip". It is one stop of the Tab key: Left and Right choose.
 import QtQuick
 import configtools
 import "keygroups.js" as KeyGroups
@@ -14,7 +14,7 @@ Rectangle {
     readonly property int stop: options[currentIndex]?.enabled ?? true ? currentIndex
         : options.findIndex(option => option.enabled ?? true)
 
-    /// Chooses the next option that can be chosen. At the end the keys go on in the group that this choice stands in.
+    /// Chooses the next enabled option. At the end, the arrow keys continue in the key group of this choice.
     function step(event, by) {
         let next = currentIndex + by;
         while (options[next] && !(options[next].enabled ?? true))
@@ -74,7 +74,7 @@ Rectangle {
 
                 contentItem: OVLabel {
                     id: label
-                    color: !segment.enabled ? Theme.colours.disabledInk
+                    color: !segment.enabled ? Theme.colours.disabledText
                         : segment.chosen ? Theme.colours.accent : Theme.colours.sub
                     font: Theme.buttonFont
                     horizontalAlignment: Text.AlignHCenter

@@ -1,4 +1,4 @@
-// A soft shadow under what floats, in layers: Qt Quick of this version has no blur of its own.
+// A soft shadow of popups, drawn in layers: this version of Qt Quick has no blur.
 import QtQuick
 import configtools
 

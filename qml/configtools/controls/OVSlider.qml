@@ -1,5 +1,5 @@
-// A slider over whole numbers with its number. The value comes from outside; one that the user has settled on, by
-// letting go or by resting for a while, is told once.
+// A slider for integers, with its number. The value is set from outside. committed() is emitted once, on release or
+// Theme.sliderRest after the last step.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -11,8 +11,8 @@ Item {
     property int to: 100
     property int value: 0
     property string accessibleName
-    property bool unknown: false  // there is no number to show
-    property var source: null     // whenever it changes, the slider shows the value again
+    property bool unknown: false  // the value is unknown
+    property var source: null     // on a change the slider shows `value` again
     readonly property bool rested: !slider.pressed && !rest.running
     signal committed(int value)
 
@@ -47,7 +47,7 @@ Item {
         snapMode: T.Slider.SnapAlways
         stepSize: 1
         to: Math.max(root.from + 1, root.to)
-        wheelEnabled: false  // a page that is scrolled must not change what is under the pointer
+        wheelEnabled: false  // scrolling a page must not change the value under the pointer
 
         Accessible.name: root.accessibleName
 
@@ -104,7 +104,7 @@ Item {
         anchors.right: parent.right
         width: Theme.sliderNumberWidth
         height: root.height
-        color: root.enabled ? Theme.colours.ink : Theme.colours.disabledInk
+        color: root.enabled ? Theme.colours.text : Theme.colours.disabledText
         font: Theme.figureFont
         horizontalAlignment: Text.AlignRight
         objectName: "sliderNumber"

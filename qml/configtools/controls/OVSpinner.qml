@@ -1,4 +1,4 @@
-// A turning sign for something that runs.
+// A turning icon for running work.
 import QtQuick
 import configtools
 

@@ -1,11 +1,11 @@
-// How strong a password is, in three steps. The step of its grade is lit.
+// The strength of a password in three steps.
 import QtQuick
 import configtools
 
 Row {
     id: root
 
-    required property int grade  // 0: none yet, 1 to 3
+    required property int grade  // 0: none, 1 (weak) to 3 (strong)
     readonly property var steps: [
         {word: qsTr("弱"), lit: Theme.colours.passwordWeak},
         {word: qsTr("中"), lit: Theme.colours.passwordMedium},
@@ -40,7 +40,7 @@ Row {
             }
             OVLabel {
                 width: parent.width
-                color: step.lit ? Theme.colours.ink : Theme.colours.faint
+                color: step.lit ? Theme.colours.text : Theme.colours.faint
                 font: Theme.hintFont
                 horizontalAlignment: Text.AlignHCenter
                 text: step.modelData.word

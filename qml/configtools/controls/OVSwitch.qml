@@ -1,4 +1,4 @@
-// On or off. It shows the state from outside and asks for the other one.
+// A switch. The state is set from outside; a click requests the other state.
 import QtQuick
 import configtools
 
@@ -7,7 +7,7 @@ OVAbstractButton {
 
     property bool on: false
     property string accessibleName
-    signal wanted(bool on)
+    signal toggleRequested(bool on)
 
     implicitWidth: track.width + (text === "" ? 0 : Theme.unit + word.implicitWidth)
     implicitHeight: Theme.controlHeight
@@ -18,7 +18,7 @@ OVAbstractButton {
     Accessible.checkable: true
     Accessible.checked: on
 
-    onClicked: wanted(!on)
+    onClicked: toggleRequested(!on)
 
     contentItem: Item {
         Rectangle {
@@ -49,7 +49,7 @@ OVAbstractButton {
             x: track.width + Theme.unit
             height: root.height
             width: parent.width - x
-            color: root.enabled ? Theme.colours.ink : Theme.colours.disabledInk
+            color: root.enabled ? Theme.colours.text : Theme.colours.disabledText
             text: root.text
         }
     }

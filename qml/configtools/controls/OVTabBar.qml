@@ -1,4 +1,4 @@
-// The tabs of the window, one pressed at a time. Tabs are texts.
+// A tab bar. `tabs` are the titles.
 import QtQuick
 import configtools
 
@@ -7,7 +7,7 @@ Rectangle {
 
     required property var tabs
     required property int currentIndex
-    property string namePrefix: "tab"  // of the object names of the tabs
+    property string namePrefix: "tab"  // prefix of the object names of the tabs
     readonly property real tabsWidth: row.x + row.width
     signal activated(int index)
 
@@ -28,7 +28,7 @@ Rectangle {
         x: Theme.pageMargin
         height: parent.height
 
-        /// Of a tab beside its text: less where the tabs have little room.
+        /// Horizontal padding of a tab, less if there is little room.
         readonly property real padding: {
             let room = root.width - 2 * x;
             for (let i = 0; i < repeater.count; ++i)
@@ -50,7 +50,7 @@ Rectangle {
 
                 implicitWidth: label.implicitWidth + row.padding
                 implicitHeight: Theme.tabBarHeight
-                // The arrow keys lead to the other tabs. A tab keeps its Tab stop as long as it has the focus.
+                // The arrow keys switch tabs. A tab remains a stop of the Tab key while it has the focus.
                 focusPolicy: current || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
                 objectName: root.namePrefix + index
                 ownArrows: true
@@ -65,7 +65,7 @@ Rectangle {
 
                 contentItem: OVLabel {
                     id: label
-                    color: tab.current ? Theme.colours.accent : tab.hovered ? Theme.colours.ink
+                    color: tab.current ? Theme.colours.accent : tab.hovered ? Theme.colours.text
                                                                             : Theme.colours.sub
                     font: Theme.buttonFont
                     horizontalAlignment: Text.AlignHCenter

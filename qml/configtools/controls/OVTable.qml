@@ -1,12 +1,15 @@
-// A table of many rows. Columns are objects: "key" (a role of the model), "title", "width", and if wanted
-// "minimumWidth", "stretch" (its share of spare room), "sortable" and "cell" (a Component of an OVTableCell). In an
-// arrangeable table the user chooses which columns are shown and their order; "hidden" ones are not shown unless wanted,
-// and "fixed" ones stay behind the others. Where room is short, those with a share of spare room give way, then those
-// with a "leastWidth". Spare room makes a column no wider than its "mostWidth".
-// The model has the roles "checked", "conflict" (the row stands out) and "identity", get(row) for the values of
-// a row, and rowOf(identity), by which the current row lives through a reset. Values come through get() because
-// a role may bear any name, "model" among them, which delegates keep for something else. Ticks and order belong
-// to the model: the table only asks for changes.
+// A table. Columns are objects with "key" (a role of the model), "title", "width" and optionally:
+// - "minimumWidth": minimum when the user resizes the column
+// - "stretch": share of spare room, up to "mostWidth"
+// - "leastWidth": minimum if room is short; columns with "stretch" shrink first
+// - "sortable"
+// - "cell": Component of an OVTableCell
+// - "hidden": not shown by default
+// - "fixed": always shown, after all others
+// The user chooses and moves columns only in an `arrangeable` table.
+// The model has the roles "checked", "conflict" (highlights the row) and "identity", get(row) for the values of a row,
+// and rowOf(identity), which restores the current row after a reset. Values are read by get(), as role names such as
+// "model" are reserved in delegates. The model owns check states and order; the table only requests changes.
 import QtQuick
 import configtools
 
@@ -16,7 +19,7 @@ FocusScope {
     required property var model
     required property var columns
     property bool arrangeable: false
-    property alias columnsText: arrangement.text  // as the user has arranged them, see TableColumns
+    property alias columnsText: arrangement.text  // the user's arrangement, see TableColumns
     property bool checkable: true
     property int checkState: Qt.Unchecked
     property string sortKey
@@ -28,16 +31,16 @@ FocusScope {
     signal allToggled(bool checked)
     signal rangeToggled(int first, int last, bool checked)
     signal copyRequested(int row)
-    signal rowOpened(int row)
-    signal menuRequested(int row, var place)  // as OVEntryMenu takes it
+    signal rowActivated(int row)
+    signal menuRequested(int row, var position)  // see OVEntryMenu.offer()
 
-    /// Makes a row the current one and brings it into view.
+    /// Makes a row current and scrolls to it.
     function show(row) {
         if (row >= 0)
             body.move(row, false);
     }
 
-    /// The keyboard acts on the rows, without the ring that a key which brought it here would draw.
+    /// Gives the rows the keyboard focus without a focus ring.
     function takeFocus() {
         body.takePointerFocus();
     }
@@ -61,7 +64,7 @@ FocusScope {
             : Math.max(width, Math.min(columns[i].mostWidth ?? Infinity, width + Math.floor(spare * shares[i] / all))));
     }
 
-    /// If that is not enough, the table scrolls.
+    /// Shrinks columns with "stretch", then those with "leastWidth". If that is not enough, the table scrolls.
     function shrink(columns, widths, shares, leastWidths, missing) {
         const first = giveWay(widths, widths.map((width, i) => shares[i] > 0 ? columns[i].leastWidth ?? Theme.columnLeast : width), missing);
         return giveWay(first, leastWidths, missing - widths.reduce((sum, width, i) => sum + width - first[i], 0));
@@ -83,17 +86,17 @@ FocusScope {
         setWidth(column, Math.min(Theme.columnMost, Math.max(head.fittingWidth(column), body.fittingWidth(column))));
     }
 
-    function offerColumns(column, place) {
+    function offerColumns(column, position) {
         const entries = columns.filter(column => !(column.fixed ?? false)).map(column => ({
             key: column.key, text: column.title, checked: arrangement.isShown(column.key),
             enabled: !arrangement.isShown(column.key) || arrangement.canHide(column.key)
         }));
         entries.push({key: "fitColumn", begins: true, text: qsTr("列宽适合内容"), enabled: column >= 0},
                      {key: "resetColumns", text: qsTr("恢复默认列"), enabled: arrangement.text !== ""});
-        const menu = columnMenu.wanted();
+        const menu = columnMenu.instance();
         menu.column = column;
-        menu.byKey = place.byKey;
-        menu.offer(entries, place);
+        menu.byKey = position.byKey;
+        menu.offer(entries, position);
     }
 
     function takeFromMenu(key, menu) {
@@ -104,7 +107,7 @@ FocusScope {
         else
             arrangement.setShown(key, !arrangement.isShown(key));
         if (menu.byKey)
-            Qt.callLater(head.focusColumn, menu.column);  // the heads may be new ones
+            Qt.callLater(head.focusColumn, menu.column);  // the heads may have been created again
     }
 
     TableColumns {
@@ -120,7 +123,7 @@ FocusScope {
         visible: false
         sourceComponent: OVEntryMenu {
             id: menu
-            property int column: -1  // that it was opened on
+            property int column: -1  // column of the click, -1 for none
             property bool byKey: false
             objectName: "columnMenu"
             onChosen: key => root.takeFromMenu(key, menu)
@@ -138,7 +141,7 @@ FocusScope {
 
     OVFocusRing {
         around: Theme.paneRadius
-        shown: root.Window.activeFocusItem === body && !body.byPointer  // a field in a row has its own
+        shown: root.Window.activeFocusItem === body && !body.byPointer  // a field in a row has a separate ring
     }
 
     OVTableHead {
@@ -158,9 +161,9 @@ FocusScope {
         sortOrder: root.sortOrder
         onAllToggled: root.allToggled(root.checkState !== Qt.Checked)
         onColumnReached: column => body.showAcross(head.leftOf(column) + body.contentX, root.columnWidths[column])
-        onColumnMoved: (key, place) => arrangement.move(key, place)
+        onColumnMoved: (key, index) => arrangement.move(key, index)
         onFitRequested: column => root.fit(column)
-        onMenuRequested: (column, place) => root.offerColumns(column, place)
+        onMenuRequested: (column, position) => root.offerColumns(column, position)
         onSortRequested: key => root.sortRequested(key)
         onWidthChosen: (column, width) => root.setWidth(column, width)
     }
@@ -180,9 +183,9 @@ FocusScope {
         objectName: "tableRows"
         onAllToggled: checked => root.allToggled(checked)
         onCopyRequested: row => root.copyRequested(row)
-        onMenuRequested: (row, place) => root.menuRequested(row, place)
+        onMenuRequested: (row, position) => root.menuRequested(row, position)
         onRangeToggled: (first, last, checked) => root.rangeToggled(first, last, checked)
-        onRowOpened: row => root.rowOpened(row)
+        onRowActivated: row => root.rowActivated(row)
     }
 
     Item {

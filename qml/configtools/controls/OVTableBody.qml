@@ -1,4 +1,4 @@
-// The rows of an OVTable, with what the pointer and the keyboard do to them.
+// The rows of an OVTable, with mouse and keyboard input.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -11,22 +11,22 @@ ListView {
     required property bool checkable
     required property int checkWidth
     readonly property real rowWidth: columnWidths.reduce((sum, width) => sum + width, checkWidth)
-    property bool byPointer: false  // the focus came with a click, which needs no ring
+    property bool byPointer: false  // focused by a click: no ring
     property int tickAnchor: -1
     property string currentIdentity
     property real keptY: 0
-    required property real room  // for the rows; an empty table is filled over some frames
-    property int filled: rowsAFrame  // rows that may be shown
-    property var changedRows: []  // indices of rows whose values are to be read again
-    property int readsLeft: rowsAFrame  // before the next frame
-    readonly property int rowsAFrame: 5  // that are made or read again between two frames
+    required property real room  // height for the rows; a new table is filled over several frames
+    property int filled: rowsAFrame  // number of rows that may be created
+    property var changedRows: []  // indices of rows to read again
+    property int readsLeft: rowsAFrame  // reads left before the next frame
+    readonly property int rowsAFrame: 5  // created or read between two frames
     signal allToggled(bool checked)
     signal rangeToggled(int first, int last, bool checked)
     signal copyRequested(int row)
-    signal rowOpened(int row)
-    signal menuRequested(int row, var place)
+    signal rowActivated(int row)
+    signal menuRequested(int row, var position)
 
-    /// Makes `to` the current row; with `extend`, ticks the rows from where the extension began.
+    /// Makes `to` the current row. With `extend`, ticks the rows from the start of the extension.
     function move(to, extend) {
         if (count === 0)
             return;
@@ -44,8 +44,8 @@ ListView {
         currentIdentity = (itemAtIndex(row) as OVTableRow)?.identity ?? "";
     }
 
-    /// Makes the row with this identity the current one, unless it is gone.
-    function pick(identity, modifiers) {
+    /// Makes the row with this identity current, if it exists.
+    function selectRow(identity, modifiers) {
         takePointerFocus();
         const row = model.rowOf(identity);
         if (row >= 0)
@@ -72,11 +72,11 @@ ListView {
         byPointer = true;
     }
 
-    /// The width of a column in which nothing of the rows in view is cut.
+    /// The width of a column that shows all visible rows without eliding.
     function fittingWidth(column) {
         let width = 0;
         for (let row = 0; row < count; ++row) {
-            const item = itemAtIndex(row) as OVTableRow;  // null out of view
+            const item = itemAtIndex(row) as OVTableRow;  // null if not in view
             if (item)
                 width = Math.max(width, item.fittingWidth(column));
         }
@@ -88,7 +88,7 @@ ListView {
         contentY = Math.max(0, Math.min(contentHeight - height, contentY - y));
     }
 
-    /// Brings a part of the rows' width into view.
+    /// Scrolls horizontally to a part of the rows.
     function showAcross(left, extent) {
         contentX = Math.max(Math.min(contentX, left), Math.min(left, left + extent - width));
     }
@@ -99,7 +99,7 @@ ListView {
         contentY = Math.max(0, Math.min(contentHeight - height, keptY));
     }
 
-    /// Rows out of reach are read when they come into view.
+    /// Only rows near the view are read now; the others are read when they come into view.
     function noteChanged(first, last) {
         const from = Math.max(first, Math.floor((contentY - cacheBuffer) / Theme.rowHeight) - 1);
         const to = Math.min(last, Math.ceil((contentY + room + cacheBuffer) / Theme.rowHeight) + 1);
@@ -121,13 +121,13 @@ ListView {
     height: Math.min(room, filled * Theme.rowHeight)
     activeFocusOnTab: true
     boundsBehavior: Flickable.StopAtBounds
-    cacheBuffer: Theme.rowHeight * 3  // a turn of the wheel; each row is half a megabyte of objects
+    cacheBuffer: Theme.rowHeight * 3  // one wheel notch; a row takes half a megabyte
     clip: true
     contentWidth: Math.max(width, rowWidth)
     currentIndex: -1
     flickableDirection: Flickable.HorizontalAndVerticalFlick
     highlightFollowsCurrentItem: false
-    interactive: false  // rows are picked with the pointer, not thrown
+    interactive: false  // no flicking
     keyNavigationEnabled: false
     reuseItems: true
 
@@ -162,7 +162,7 @@ ListView {
 
     Keys.onPressed: event => {
         const holder = root.Window.activeFocusItem;
-        const own = holder === root || holder === root.currentItem;  // a field in a row has its own keys
+        const own = holder === root || holder === root.currentItem;  // a field in a row handles its keys itself
         const page = Math.max(1, Math.floor(height / Theme.rowHeight) - 1);
         const extend = event.modifiers & Qt.ShiftModifier;
         const control = event.modifiers & Qt.ControlModifier;
@@ -184,7 +184,7 @@ ListView {
         else if (control && event.key === Qt.Key_C && currentIndex >= 0)
             copyRequested(currentIndex);
         else if (own && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter) && currentIndex >= 0)
-            rowOpened(currentIndex);
+            rowActivated(currentIndex);
         else
             event.accepted = false;
     }
@@ -202,22 +202,22 @@ ListView {
             return root.model.get(index);
         }
         onMenuRequested: (identity, x, y) => {
-            root.pick(identity, Qt.NoModifier);
+            root.selectRow(identity, Qt.NoModifier);
             const row = root.model.rowOf(identity);
             if (row >= 0)
                 root.menuRequested(row, {item: root, x: x - root.contentX, y: y - root.contentY, byKey: false});
         }
-        onPicked: (identity, modifiers) => root.pick(identity, modifiers)
+        onClicked: (identity, modifiers) => root.selectRow(identity, modifiers)
         onTickToggled: (identity, modifiers) => {
             root.takePointerFocus();
             const row = root.model.rowOf(identity);
             if (row >= 0)
                 root.toggle(row, modifiers);
         }
-        onOpened: identity => {
+        onDoubleClicked: identity => {
             const row = root.model.rowOf(identity);
             if (row >= 0)
-                root.rowOpened(row);
+                root.rowActivated(row);
         }
     }
     // qmllint enable unqualified
@@ -246,10 +246,10 @@ ListView {
         ignoreUnknownSignals: true
 
         function onDataChanged(topLeft, bottomRight) {
-            root.noteChanged(topLeft.row, bottomRight.row);  // of a batch, thousands of rows one by one
+            root.noteChanged(topLeft.row, bottomRight.row);  // a batch changes thousands of rows one by one
         }
         function onRowsInserted() {
-            // A search empties the table and fills it again: the current row may be back.
+            // A search clears and refills the table: the current row may be back.
             if (root.currentIndex < 0 && root.currentIdentity !== "")
                 root.currentIndex = root.model.rowOf(root.currentIdentity);
         }
@@ -262,7 +262,7 @@ ListView {
         }
     }
 
-    // The view takes notice of a reset in its own time.
+    // The view processes a reset later.
     Timer {
         id: restoring
         interval: 0

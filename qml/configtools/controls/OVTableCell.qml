@@ -1,16 +1,16 @@
-// What a cell of an OVTable knows. Cells of a column with a look of its own derive from it.
+// Base of the cells of an OVTable.
 import QtQuick
 import configtools
 
 Item {
     property string key
-    property var row: null         // the values of the row by their keys
+    property var row: null         // values of the row, by key
     property int rowIndex: -1
     property bool current: false
     property bool conflict: false
     readonly property var value: row && key !== "" ? row[key] : undefined
 
-    /// The width of the column in which nothing of the cell is cut.
+    /// The width of the column that shows the cell without eliding.
     function fittingWidth() {
         let right = 0;
         for (let i = 0; i < children.length; ++i) {

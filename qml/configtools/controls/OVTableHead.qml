@@ -1,6 +1,6 @@
-// The head of an OVTable: titles with sort marks, edges to drag, and the tick box for all rows. Where columns can be
-// arranged, a title is dragged to another place, and there is a menu. From the keyboard, Ctrl and an arrow move the
-// column, Alt and an arrow change its width, Menu or Shift+F10 opens the menu.
+// The head of an OVTable: titles with sort icons, edges for resizing, and the check box of all rows. If `arrangeable`,
+// titles can be dragged and there is a menu. Keyboard: Ctrl+Left/Right moves the column, Alt+Left/Right changes its
+// width, Menu or Shift+F10 opens the menu.
 import QtQuick
 import configtools
 
@@ -11,7 +11,7 @@ Rectangle {
     required property var columnWidths
     property bool arrangeable: false
     required property bool checkable
-    required property int checkWidth  // without tick boxes: the room before the first column
+    required property int checkWidth  // without check boxes: room before the first column
     required property int checkState
     required property int rowCount
     required property string sortKey
@@ -22,35 +22,35 @@ Rectangle {
     signal allToggled
     signal widthChosen(int column, real width)
     signal fitRequested(int column)
-    signal columnReached(int column)  // by the keyboard
-    signal columnMoved(string key, int place)
-    signal menuRequested(int column, var place)  // the place as OVEntryMenu takes it; column -1 beside all columns
+    signal columnReached(int column)  // got the keyboard focus
+    signal columnMoved(string key, int index)
+    signal menuRequested(int column, var position)  // see OVEntryMenu.offer(); column is -1 next to the columns
 
-    property int carried: -1  // the column that is dragged to another place
-    property int dropPlace: -1  // the column before which it would stand
+    property int carried: -1  // index of the dragged column, -1 for none
+    property int dropIndex: -1  // index before which it would be dropped, -1 for none
 
-    /// Where the column begins, from the left edge of the head.
+    /// Left edge of the column in the head.
     function leftOf(column) {
         return columnWidths.slice(0, column).reduce((sum, width) => sum + width, checkWidth) - scrolled;
     }
 
-    /// The column at this place, -1 when there is none.
+    /// The column at this x, -1 for none.
     function columnAt(x) {
         return columns.findIndex((column, i) => x >= leftOf(i) && x < leftOf(i + 1));
     }
 
-    /// How many columns a column stands behind that is dropped here. None goes behind the fixed ones.
-    function placeAt(x) {
+    /// Index of a column dropped at this x. It is before the fixed columns.
+    function dropIndexAt(x) {
         const behind = columns.filter((column, i) => !(column.fixed ?? false) && x > (leftOf(i) + leftOf(i + 1)) / 2);
         return behind.length;
     }
 
     function drop() {
         const column = carried;
-        const place = dropPlace;
-        carried = dropPlace = -1;
-        if (column >= 0 && place >= 0)
-            columnMoved(columns[column].key, place > column ? place - 1 : place);
+        const index = dropIndex;
+        carried = dropIndex = -1;
+        if (column >= 0 && index >= 0)
+            columnMoved(columns[column].key, index > column ? index - 1 : index);
     }
 
     function focusColumn(column) {
@@ -61,7 +61,7 @@ Rectangle {
         return heads.itemAt(column)?.fittingWidth ?? 0;
     }
 
-    /// The column whose head has the keyboard, -1 when none has.
+    /// The column whose head has the keyboard focus, -1 for none.
     function focusedColumn() {
         for (let column = 0; column < heads.count; ++column) {
             if (heads.itemAt(column).activeFocus)
@@ -76,7 +76,7 @@ Rectangle {
         focusColumn(columns.findIndex(other => other.key === key));
     }
 
-    onColumnsChanged: carried = dropPlace = -1
+    onColumnsChanged: carried = dropIndex = -1
 
     Keys.onPressed: event => {
         const column = focusedColumn();
@@ -100,7 +100,7 @@ Rectangle {
     color: Theme.colours.head
     radius: Theme.paneRadius - Theme.line
 
-    Rectangle {  // the lower corners are square
+    Rectangle {  // square lower corners
         y: parent.height - height
         width: parent.width
         height: parent.radius
@@ -114,14 +114,14 @@ Rectangle {
         color: Theme.colours.line
     }
 
-    Rectangle {  // where the dragged column would stand
-        x: root.leftOf(root.dropPlace) - width
+    Rectangle {  // drop position
+        x: root.leftOf(root.dropIndex) - width
         z: 1
         width: 2
         height: parent.height
         color: Theme.colours.accent
         objectName: "dropMark"
-        visible: root.dropPlace >= 0
+        visible: root.dropIndex >= 0
     }
 
     Row {
@@ -180,11 +180,11 @@ Rectangle {
                         if (active)
                             root.carried = head.index;
                         else
-                            Qt.callLater(root.drop);  // the heads are made again
+                            Qt.callLater(root.drop);  // the heads are created again
                     }
                     onCentroidChanged: {
                         if (active)
-                            root.dropPlace = root.placeAt(head.mapToItem(root, centroid.position.x, 0).x);
+                            root.dropIndex = root.dropIndexAt(head.mapToItem(root, centroid.position.x, 0).x);
                     }
                 }
 
@@ -194,7 +194,7 @@ Rectangle {
                         readonly property int room: head.width - Theme.unit - (mark.visible ? 16 : 0)
                         width: Math.min(implicitWidth, room)
                         height: parent.height
-                        color: head.sorted || (head.hovered && head.sortable) ? Theme.colours.ink
+                        color: head.sorted || (head.hovered && head.sortable) ? Theme.colours.text
                                                                                : Theme.colours.sub
                         font: Theme.headFont
                         text: head.text

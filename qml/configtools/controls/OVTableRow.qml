@@ -9,22 +9,22 @@ Rectangle {
     required property bool checked
     required property bool conflict
     required property string identity
-    required property var values  // the row as the model's get() returns it
+    required property var values  // from get() of the model
     required property var columns
     required property var columnWidths
     required property bool checkable
     required property int checkWidth
     required property bool current
     property string pressedIdentity
-    property int readings: 0  // of the values
+    property int readings: 0  // incremented to read the values again
     property int pooledIndex: -1
-    signal picked(string identity, int modifiers)
+    signal clicked(string identity, int modifiers)
     signal tickToggled(string identity, int modifiers)
-    signal opened(string identity)
-    signal menuRequested(string identity, real x, real y)  // a place in the view's content
+    signal doubleClicked(string identity)
+    signal menuRequested(string identity, real x, real y)  // in coordinates of the view's content
 
-    /// A click acts on what was under the pointer when the button went down: this item may show another row since.
-    /// A screen reader clicks without a press.
+    /// The identity at the time of the press: this item may show another row since. A screen reader clicks without a
+    /// press.
     function takePressed() {
         const identity = pressedIdentity !== "" ? pressedIdentity : root.identity;
         pressedIdentity = "";
@@ -52,10 +52,10 @@ Rectangle {
     Accessible.checked: checked
 
     ListView.onPooled: {
-        pressedIdentity = "";  // a press whose release went elsewhere
+        pressedIdentity = "";  // a press released elsewhere
         pooledIndex = index;
     }
-    ListView.onReused: if (index === pooledIndex) read()  // what the index shows may have changed meanwhile
+    ListView.onReused: if (index === pooledIndex) read()  // the row of this index may have changed
 
     HoverHandler {
         id: pointer
@@ -70,8 +70,8 @@ Rectangle {
     MouseArea {
         anchors.fill: parent
         onPressed: root.pressedIdentity = root.identity
-        onClicked: mouse => root.picked(root.takePressed(), mouse.modifiers)
-        onDoubleClicked: root.opened(root.takePressed())
+        onClicked: mouse => root.clicked(root.takePressed(), mouse.modifiers)
+        onDoubleClicked: root.doubleClicked(root.takePressed())
     }
 
     MouseArea {
@@ -80,7 +80,7 @@ Rectangle {
         onPressed: mouse => root.menuRequested(root.identity, root.x + mouse.x, root.y + mouse.y)
     }
 
-    // A part of the row's surface, not a control of its own: a click counts anywhere in its column.
+    // The click area is the entire check column.
     MouseArea {
         width: root.checkWidth
         height: parent.height
@@ -98,7 +98,7 @@ Rectangle {
             nextCheckState: () => checkState
             Accessible.ignored: true
 
-            // The model owns the tick; the area under the box takes the click.
+            // The model owns the check state.
             MouseArea {
                 anchors.fill: parent
                 onPressed: root.pressedIdentity = root.identity

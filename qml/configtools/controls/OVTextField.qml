@@ -1,4 +1,4 @@
-// A field for a line of text, with what is wrong with it, or may be, written under it.
+// A text field with an error or warning below it.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -14,18 +14,18 @@ FocusScope {
     property alias textFont: field.font
     readonly property alias acceptableText: field.acceptableInput
     property string errorText
-    property string warningText  // the text is accepted all the same
+    property string warningText  // the text is accepted nevertheless
     property string accessibleName
     property string iconName
     property bool clearable: false
     property bool secret: false
-    /// What is dropped from a text that is pasted: line breaks, which a single line would hold unseen.
+    /// Removed from pasted text: line breaks would be invisible in a single line.
     property var unwanted: /[\r\n\t]/g
-    /// Sees each key before the field does, and takes it by accepting the event.
+    /// function(event) that receives each key before the field and accepts those that it handles
     property var keyFilter: null
     signal edited
     signal accepted
-    signal tabPressed(var event)  // forwards or back; whoever has another way than the toolkit's accepts it
+    signal tabPressed(var event)  // Tab or Shift+Tab; the receiver accepts the event to override Qt's order
 
     function selectAll() {
         field.selectAll();
@@ -34,7 +34,7 @@ FocusScope {
     implicitWidth: 180
     implicitHeight: Theme.controlHeight + (error.visible ? error.height : 0)
 
-    onVisibleChanged: eye.checked = false  // a password is not left revealed for whoever comes next
+    onVisibleChanged: eye.checked = false  // a revealed password is hidden again
 
     T.TextField {
         id: field
@@ -43,7 +43,7 @@ FocusScope {
 
         width: root.width
         height: Theme.controlHeight
-        color: enabled ? Theme.colours.ink : Theme.colours.disabledInk
+        color: enabled ? Theme.colours.text : Theme.colours.disabledText
         echoMode: root.secret && !eye.checked ? TextInput.Password : TextInput.Normal
         focus: true
         font: Theme.bodyFont
@@ -52,7 +52,7 @@ FocusScope {
         rightPadding: clear.visible || eye.visible ? 34 : 11
         renderType: Theme.textRendering
         selectByMouse: true
-        selectedTextColor: Theme.colours.ink
+        selectedTextColor: Theme.colours.text
         selectionColor: Theme.colours.rowSelected
         topPadding: Math.round(height / 2 + font.pixelSize * Theme.baselineShift - metrics.ascent)
         verticalAlignment: TextInput.AlignTop
@@ -96,7 +96,7 @@ FocusScope {
                 root.wipe();
         }
 
-        // Aligned to its top, the field puts the baseline at the ascent of its font, whatever the script.
+        // Top-aligned text has its baseline at the ascent of the font for every script.
         FontMetrics {
             id: metrics
             font: field.font
@@ -160,7 +160,7 @@ FocusScope {
             implicitWidth: Theme.unit * 3
             implicitHeight: Theme.unit * 3
             checkable: true
-            focusPolicy: Qt.NoFocus  // Tab goes from field to field
+            focusPolicy: Qt.NoFocus  // Tab moves between fields
             iconName: checked ? "hide" : "show"
             iconSize: Theme.boxSize
             toolTip: checked ? qsTr("隐藏密码") : qsTr("显示密码")
@@ -178,7 +178,7 @@ FocusScope {
         id: error
         y: Theme.controlHeight + Theme.half
         width: root.width
-        color: field.wrong ? Theme.colours.bad : Theme.colours.warnInk
+        color: field.wrong ? Theme.colours.bad : Theme.colours.warnText
         font: Theme.hintFont
         objectName: "fieldMessage"
         text: root.errorText !== "" ? root.errorText : root.warningText

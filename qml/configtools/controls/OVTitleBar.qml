@@ -1,4 +1,4 @@
-// The window's own title bar: logo, name and counter, and places for what a window puts on it.
+// The title bar of the main window: logo, name, device counter and buttons.
 import QtQuick
 import configtools
 
@@ -6,12 +6,12 @@ Rectangle {
     id: root
 
     required property string title
-    required property string version  // of the software, with its name
+    required property string version  // name and version of the application
     required property bool maximised
-    required property var cursor  // its cursorPos() is the pointer's position on the screen
+    required property var cursor  // its cursorPos() returns the pointer's screen position
     property int count: 0
     property bool searching: false
-    property string remark  // beside the name
+    property string remark  // text next to the name
     property string remarkTip
     readonly property bool keyGroup: true
     readonly property alias menuButton: menuButton
@@ -25,8 +25,8 @@ Rectangle {
     component BarButton: OVIconButton {
         fillHover: Theme.colours.barHover
         fillPressed: Theme.colours.barPressed
-        ink: Theme.colours.barInk
-        inkHover: Theme.colours.barInk
+        iconColor: Theme.colours.barText
+        iconHoverColor: Theme.colours.barText
     }
 
     implicitHeight: Theme.titleBarHeight
@@ -55,7 +55,7 @@ Rectangle {
             id: name
             x: logo.width + Theme.controlGap
             height: parent.height
-            color: Theme.colours.barInk
+            color: Theme.colours.barText
             font: Theme.titleFont
             objectName: "titleText"
             text: root.title
@@ -101,13 +101,13 @@ Rectangle {
 
             OVLabel {
                 height: Theme.controlHeight
-                color: Theme.colours.barInk
+                color: Theme.colours.barText
                 font: Theme.counterFont
                 objectName: "counterNumber"
                 text: root.count
             }
             OVLabel {
-                height: Theme.controlHeight + 3  // stands on the baseline of the larger number
+                height: Theme.controlHeight + 3  // aligns with the baseline of the number
                 color: Theme.colours.barSub
                 objectName: "counterText"
                 //: Follows a number in the title bar, as in "24 devices found".

@@ -1,16 +1,15 @@
-// Moves its frameless window while it is dragged. The window system does that where it can; elsewhere the window follows
-// the pointer.
+// Moves its frameless window when dragged, by the window system if supported.
 import QtQuick
 import configtools
 
 MouseArea {
     id: root
 
-    required property var cursor  // its cursorPos() is the pointer's position on the screen
+    required property var cursor  // its cursorPos() returns the pointer's screen position
     property point start
     property bool moving: false
     property bool bySystem: false
-    property point grip  // from the pointer to the window's corner
+    property point grip  // offset from the pointer to the window's corner
     readonly property var target: Window.window
     signal maximiseRequested
 

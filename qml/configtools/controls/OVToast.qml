@@ -1,6 +1,6 @@
-// Short messages that need no answer. The newest one is shown, with the number of those that wait behind it; each is shown
-// for its whole time. Errors stay longer; a click sends one away. They have a place where no tabs, tool bars, rows and
-// buttons are, in front of a dialog and the veil around it. A dialog has a place of its own for what concerns it.
+// Short messages that need no response. The newest one is shown, with the number of waiting ones; each is shown for its
+// full duration. Errors stay longer; a click removes a message. They are shown where no tabs, tool bars, rows and buttons
+// are, in front of dialogs. A dialog shows its own messages itself.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -8,38 +8,38 @@ import configtools
 T.Popup {
     id: root
 
-    /// A refusal names what is in the way of an action, which is no fault: it goes with that, see settle().
-    enum Kind { Information, Success, Error, Refusal }
+    /// A refusal names the obstacle to an action. It is removed with the obstacle, see removeRefusals().
+    enum Severity { Information, Success, Error, Refusal }
 
-    readonly property int kept: 3
+    readonly property int maximumCount: 3
 
-    /// Where messages are centred, and as wide as this at most. A higher message grows downwards.
+    /// Area of the messages, in window coordinates: they are centred in it and not wider. A higher message extends below it.
     property rect band: Qt.rect(((parent?.width ?? 0) - Theme.toastWidth) / 2, Theme.half, Theme.toastWidth, 0)
     readonly property real mostWidth: Math.min(Theme.toastMost, Math.max(band.width, Theme.toastLeast))
     readonly property Item newest: toasts.newest(toasts.revision)
 
-    /// `stay` in milliseconds; left out, it depends on the kind.
-    function show(text, kind, stay) {
+    /// `duration` in ms; the default depends on the severity.
+    function show(text, severity, duration) {
         for (let i = messages.count - 1; i >= 0; --i) {
-            if (messages.get(i).words === text)
-                messages.remove(i);  // said again, it stays from now
+            if (messages.get(i).message === text)
+                messages.remove(i);  // a repeated message is shown as new
         }
-        if (messages.count === kept)
+        if (messages.count === maximumCount)
             messages.remove(0);
-        const usualStay = kind === OVToast.Error || kind === OVToast.Refusal ? Theme.errorToastStay : Theme.toastStay;
-        messages.append({words: text, kind: kind ?? OVToast.Information, stay: stay ?? usualStay});
+        const defaultDuration = severity === OVToast.Error || severity === OVToast.Refusal ? Theme.errorToastDuration : Theme.toastDuration;
+        messages.append({message: text, severity: severity ?? OVToast.Information, duration: duration ?? defaultDuration});
         open();
     }
 
-    /// What was in the way may have changed: refusals go.
-    function settle() {
+    /// Removes refusals: the obstacle may no longer exist.
+    function removeRefusals() {
         for (let i = messages.count - 1; i >= 0; --i) {
-            if (messages.get(i).kind === OVToast.Refusal)
+            if (messages.get(i).severity === OVToast.Refusal)
                 messages.remove(i);
         }
     }
 
-    /// The user has turned to something else.
+    /// Removes all messages.
     function clear() {
         messages.clear();
     }
@@ -64,7 +64,7 @@ T.Popup {
         Repeater {
             id: toasts
 
-            property int revision: 0  // rises when a toast comes or goes
+            property int revision: 0  // incremented when a toast is added or removed
 
             function newest(_) {
                 return count > 0 ? itemAt(count - 1) : null;
@@ -78,12 +78,12 @@ T.Popup {
                 id: toast
 
                 required property int index
-                required property int kind
-                required property int stay
-                required property string words
-                readonly property color sign: kind === OVToast.Error ? Theme.colours.bad
-                    : kind === OVToast.Refusal ? Theme.colours.warn
-                    : kind === OVToast.Success ? Theme.colours.ok : Theme.colours.accent
+                required property int severity
+                required property int duration
+                required property string message
+                readonly property color sign: severity === OVToast.Error ? Theme.colours.bad
+                    : severity === OVToast.Refusal ? Theme.colours.warn
+                    : severity === OVToast.Success ? Theme.colours.ok : Theme.colours.accent
 
                 readonly property int padding: Theme.unit
                 readonly property real textRoom: root.mostWidth - text.x - 2 * padding - (waiting.visible ? waiting.width : 0)
@@ -98,7 +98,7 @@ T.Popup {
                 visible: index === toasts.count - 1
 
                 Accessible.role: Accessible.AlertMessage
-                Accessible.name: words
+                Accessible.name: message
 
                 OVShadow { depth: 12 }
 
@@ -115,8 +115,8 @@ T.Popup {
                     x: 14
                     y: toast.padding
                     color: toast.sign
-                    name: toast.kind === OVToast.Error ? "error" : toast.kind === OVToast.Refusal ? "alert"
-                        : toast.kind === OVToast.Success ? "ok" : "about"
+                    name: toast.severity === OVToast.Error ? "error" : toast.severity === OVToast.Refusal ? "alert"
+                        : toast.severity === OVToast.Success ? "ok" : "about"
                 }
                 OVParagraph {
                     id: text
@@ -124,7 +124,7 @@ T.Popup {
                     y: toast.padding
                     width: Math.min(Math.ceil(implicitWidth), toast.textRoom)
                     objectName: "toastText"
-                    text: toast.words
+                    text: toast.message
                 }
                 OVLabel {
                     id: waiting
@@ -141,7 +141,7 @@ T.Popup {
                     onTapped: messages.remove(toast.index)
                 }
                 Timer {
-                    interval: toast.stay
+                    interval: toast.duration
                     running: toast.visible && !hover.hovered
                     onTriggered: messages.remove(toast.index)
                 }

@@ -1,6 +1,6 @@
-// The tool tip of the item that it stands in. It comes into being only while it is shown, since a table has
-// hundreds of places for one. It goes with the next click or key, and by itself after some time. A long text is cut, so that it ends within the window and does not hide most of it. It
-// stands below the item; within an item with "tipDrop", as a tool bar above the heading of a table, so much lower.
+// The tool tip of its parent item. It is created only while shown, as a table has hundreds of them. It closes on a
+// click, a key or a timeout. Long text is elided to stay within the window. It is below the parent, plus the "tipDrop"
+// of an ancestor such as a tool bar above a table.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -10,7 +10,7 @@ Loader {
 
     required property string text
     required property bool shown
-    property string footnote  // stands below the text, also where that is cut
+    property string footnote  // below the text, also if that is elided
     property int widest: Theme.toolTipWidth
     readonly property int mostLines: 24
 
@@ -45,7 +45,7 @@ Loader {
             OVParagraph {
                 id: words
                 width: bubble.availableWidth
-                color: Theme.colours.bubbleInk
+                color: Theme.colours.bubbleText
                 elide: Text.ElideRight
                 font: Theme.hintFont
                 maximumLineCount: {
@@ -59,7 +59,7 @@ Loader {
                 id: note
                 width: bubble.availableWidth
                 height: visible ? implicitHeight : 0
-                color: Theme.colours.bubbleInk
+                color: Theme.colours.bubbleText
                 font: Theme.hintFont
                 objectName: "toolTipNote"
                 text: root.footnote

@@ -1,5 +1,5 @@
-// Devices in groups, each with a tick and the result of what was last done with it. `rows` are DeviceTreeRows.
-// Where one device is worked on, a click or Enter chooses it.
+// Devices in groups, each with a check box and its last result. `rows` are DeviceTreeRows. If `choosing`, a click or
+// Enter chooses a device.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -8,27 +8,27 @@ ListView {
     id: root
 
     required property DeviceTreeRows rows
-    required property var describer  // its wordOfResult() names a result
-    property string busyDevice          // the one that something is done with just now
-    property bool choosing: false       // one device can be chosen
+    required property var describer  // object with resultText(result, name)
+    property string busyDevice          // title of the device that is processed now
+    property bool choosing: false       // a device can be chosen
     property string chosenDevice
-    property bool byPointer: false      // the focus came with a click, which needs no ring
+    property bool byPointer: false      // focused by a click: no ring
     property real keptY: 0
-    // The row that the keys act on. `currentIndex` of the view stays -1: a change of it scrolls the view, so that a
-    // click would take the row away from under the pointer.
+    // The row of the keyboard. `currentIndex` of the view stays -1: changing it scrolls the view, which would move the
+    // row away from the pointer.
     property int cursor: -1
     property string cursorIdentity
     signal deviceChosen(string ipport)
-    signal detailRequested(string name)  // of the device's row
-    signal menuRequested(string name, var place)  // as OVEntryMenu takes it
+    signal detailRequested(string name)  // name of the device's row
+    signal menuRequested(string name, var position)  // see OVEntryMenu.offer()
 
     function moveCursor(row) {
         cursor = row;
         cursorIdentity = rows.identityAt(row);
     }
 
-    /// Makes the row with this identity the current one and returns it; -1 when it is gone.
-    function pick(identity) {
+    /// Makes the row with this identity current. Returns the row, -1 if it does not exist.
+    function selectRow(identity) {
         const row = rows.rowOf(identity);
         if (row >= 0)
             moveCursor(row);
@@ -42,11 +42,11 @@ ListView {
         positionViewAtIndex(row, ListView.Contain);
     }
 
-    /// A group has no actions.
-    function offerMenu(place) {
+    /// Opens the menu of the current device. A group has none.
+    function offerMenu(position) {
         const name = rows.nameAt(cursor);
         if (name !== "")
-            menuRequested(name, place);
+            menuRequested(name, position);
     }
 
     function open() {
@@ -62,7 +62,7 @@ ListView {
 
     activeFocusOnTab: true
     boundsBehavior: Flickable.StopAtBounds
-    cacheBuffer: 0  // rows that are made in advance are asked for still when a rebuild has taken them away
+    cacheBuffer: 0  // rows created ahead would be read after a rebuild has removed them
     clip: true
     currentIndex: -1
     highlightFollowsCurrentItem: false
@@ -74,7 +74,7 @@ ListView {
     Accessible.role: Accessible.Tree
 
     onActiveFocusChanged: {
-        if (!focus)  // it keeps the focus of its page while something lies over that
+        if (!focus)  // `focus` remains while a popup is open
             byPointer = false;
         if (activeFocus && cursor < 0 && count > 0)
             moveCursor(Math.min(count - 1, Math.ceil(contentY / Theme.controlHeight)));
@@ -128,16 +128,16 @@ ListView {
         current: index === root.cursor && root.activeFocus
         describer: root.describer
         onMenuRequested: (identity, x, y) => {
-            root.pick(identity);
+            root.selectRow(identity);
             root.offerMenu({item: root, x: x, y: y - root.contentY, byKey: false});
         }
-        onOpenToggled: identity => root.rows.toggleOpen(root.pick(identity))
-        onPicked: identity => {
-            const device = root.rows.deviceAt(root.pick(identity));
+        onOpenToggled: identity => root.rows.toggleOpen(root.selectRow(identity))
+        onClicked: identity => {
+            const device = root.rows.deviceAt(root.selectRow(identity));
             if (root.choosing && device !== "")
                 root.deviceChosen(device);
         }
-        onTickToggled: identity => root.rows.toggleTick(root.pick(identity))
+        onTickToggled: identity => root.rows.toggleTick(root.selectRow(identity))
     }
     // qmllint enable unqualified
 
@@ -160,7 +160,7 @@ ListView {
         }
     }
 
-    // The view takes notice of a reset in its own time.
+    // The view processes a reset later.
     Timer {
         id: restoring
         interval: 0

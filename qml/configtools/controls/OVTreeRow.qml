@@ -1,4 +1,4 @@
-// A row of an OVTree: a group that opens, or a device of one.
+// A row of an OVTree: a group, or a device of a group.
 import QtQuick
 import configtools
 
@@ -8,7 +8,7 @@ Rectangle {
     required property int index
     required property string identity
     required property string title
-    required property string label  // what is shown of the title
+    required property string label  // shown text of the title
     required property string detail
     required property int tick
     required property int result
@@ -23,13 +23,13 @@ Rectangle {
     property bool choosing: false
     property bool chosen: false
     property string pressedIdentity
-    signal picked(string identity)
+    signal clicked(string identity)
     signal openToggled(string identity)
     signal tickToggled(string identity)
-    signal menuRequested(string identity, real x, real y)  // a place in the view's content
+    signal menuRequested(string identity, real x, real y)  // in coordinates of the view's content
 
-    /// A click acts on what was under the pointer when the button went down: this item may show another row since.
-    /// A screen reader clicks without a press.
+    /// The identity at the time of the press: this item may show another row since. A screen reader clicks without a
+    /// press.
     function takePressed() {
         const identity = pressedIdentity !== "" ? pressedIdentity : root.identity;
         pressedIdentity = "";
@@ -40,7 +40,7 @@ Rectangle {
     readonly property bool waits: result === OVTreeModel.WaitsForPassword
     readonly property bool incomplete: result === OVTreeModel.PartlyDone || result === BatchReport.NotDone
     readonly property bool skipped: result === BatchReport.NotInitialised || result === BatchReport.Upgrading
-    // A result that is a failure is the sign of the mark, too.
+    // A failed result is already shown by the result icon.
     readonly property bool marked: failure !== "" && !busy && !(hasResult && result > 0)
     readonly property int signsWidth: (busy || hasResult ? Theme.boxSize + Theme.unit : 0)
         + (marked ? Theme.boxSize + Theme.unit : 0)
@@ -56,12 +56,12 @@ Rectangle {
     Accessible.checkable: true
     Accessible.checked: tick === Qt.Checked
 
-    ListView.onPooled: pressedIdentity = ""  // a press whose release went elsewhere
+    ListView.onPooled: pressedIdentity = ""  // a press released elsewhere
 
     HoverHandler {
         id: pointer
     }
-    Rectangle {  // the row that the keys act on, where another one may be chosen
+    Rectangle {  // row of the keyboard, if another one is chosen
         anchors.fill: parent
         border.color: Theme.colours.focusRing
         border.width: 2
@@ -71,7 +71,7 @@ Rectangle {
     MouseArea {
         anchors.fill: parent
         onPressed: root.pressedIdentity = root.identity
-        onClicked: root.picked(root.takePressed())
+        onClicked: root.clicked(root.takePressed())
         onDoubleClicked: root.openToggled(root.takePressed())
     }
     MouseArea {
@@ -95,7 +95,7 @@ Rectangle {
         onClicked: root.openToggled(root.takePressed())
     }
 
-    // A part of the row's surface, not a control of its own: a click counts around the box, too.
+    // The click area is larger than the check box.
     MouseArea {
         x: Theme.treeIndent + (root.isGroup ? 0 : Theme.treeIndent)
         width: Theme.boxSize + 2 * Theme.unit
@@ -113,7 +113,7 @@ Rectangle {
             nextCheckState: () => checkState
             Accessible.ignored: true
 
-            // The model owns the tick; the area under the box takes the click.
+            // The model owns the check state.
             MouseArea {
                 anchors.fill: parent
                 onPressed: root.pressedIdentity = root.identity
@@ -167,7 +167,7 @@ Rectangle {
         }
         OVToolTip {
             shown: signPointer.hovered
-            text: signPointer.hovered ? root.describer.wordOfResult(root.result, root.title) : ""
+            text: signPointer.hovered ? root.describer.resultText(root.result, root.title) : ""
         }
     }
     OVFailedSign {

@@ -1,5 +1,5 @@
-// Controls side by side that are one stop of the Tab key: Left and Right go from one to the next, Tab leaves them. An
-// item with a true property "keyGroup" holds such controls; the outermost one counts.
+// Key groups: controls in a row that are one stop of the Tab key. Left and Right move between them, Tab leaves the
+// group. An item with `keyGroup: true` is a group; the outermost one counts.
 .pragma library
 
 function groupOf(item) {
@@ -11,7 +11,7 @@ function groupOf(item) {
     return group;
 }
 
-/// The buttons and boxes that the keyboard reaches, in the order of Tab. Fields need Left and Right for themselves.
+/// The focusable buttons and boxes in Tab order. Text fields need Left and Right themselves.
 function membersOf(item) {
     let members = [];
     for (let i = 0; i < item.children.length; ++i) {
@@ -25,7 +25,7 @@ function membersOf(item) {
     return members;
 }
 
-/// Goes to what Tab reaches behind the group, or before it. Returns whether the item is in a group.
+/// Focuses the item after the group, or before it. Returns whether the item is in a group.
 function leave(item, forward) {
     const group = groupOf(item);
     if (!group)
@@ -36,19 +36,19 @@ function leave(item, forward) {
     return true;
 }
 
-/// Goes to the next control of the group, round at its end. Returns whether the item is in a group.
+/// Focuses the next control of the group, cyclically. Returns whether the item is in a group.
 function step(item, by) {
     const group = groupOf(item);
     if (!group)
         return false;
     const members = membersOf(group);
-    const place = members.indexOf(item);
-    if (place >= 0)
-        members[(place + by + members.length) % members.length].forceActiveFocus(Qt.TabFocusReason);
+    const index = members.indexOf(item);
+    if (index >= 0)
+        members[(index + by + members.length) % members.length].forceActiveFocus(Qt.TabFocusReason);
     return true;
 }
 
-/// The same for an arrow key, but not together with Ctrl or Alt.
+/// Like step(), but ignores the key together with Ctrl or Alt.
 function stepPlainly(item, event, by) {
     return !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier)) && step(item, by);
 }

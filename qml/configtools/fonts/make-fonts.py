@@ -1,15 +1,14 @@
 #!/usr/bin/python3
-"""Makes the font files beside this file, which are checked in. Run it in this folder:
+"""Creates the font files in this folder, which are under version control. Run it in this folder:
 
     ./make-fonts.py LUCIDE_TTF
 
 It needs Debian's python3-fonttools and fonts-inter, and the file font/lucide.ttf of the npm package lucide-static
-(version 1.62.0 was used). Run it again when Theme.qml names an icon that is not in lucide.ttf yet.
+(version 1.62.0 was used). Run it again when Theme.qml uses an icon that is not in lucide.ttf.
 
-- inter-figures-*.otf: Inter with its tabular figures as the default ones, for Latin-1 text. The toolkit of this
-  version cannot switch a font feature on, and figures of a column are to stand under each other.
-- lucide.ttf: the icons that Theme.qml names, and no others, because the whole set takes longer to load than the
-  rest of the window's fonts.
+- inter-figures-*.otf: Inter with tabular figures by default, for Latin-1 text, so that digits of a column align.
+  This version of Qt cannot enable a font feature.
+- lucide.ttf: only the icons of Theme.qml. The complete set takes longer to load than all other fonts.
 """
 import pathlib
 import re
@@ -34,7 +33,7 @@ def cut(font, unicodes, features):
 
 
 def tabular_figures(font):
-    """Glyph names of the proportional figures, each with that of its tabular twin."""
+    """Glyph names of the proportional figures, mapped to their tabular figures."""
     table = font["GSUB"].table
     twins = {}
     for record in table.FeatureList.FeatureRecord:
@@ -47,7 +46,7 @@ def tabular_figures(font):
 
 
 def rename(font, family, weight):
-    """A changed font must not pass for the original."""
+    """A changed font must not have the name of the original."""
     texts = {1: family, 16: family, 3: f"{family} {weight}", 4: f"{family} {weight}",
              6: f"{family} {weight}".replace(" ", "")}
     for name in font["name"].names:
@@ -71,7 +70,7 @@ def make_figures(weight):
 
 
 def set_bearings(font):
-    """The original says 0 for all, and narrow icons would be drawn too far to the left."""
+    """The original has bearing 0 for all icons, which draws narrow icons too far to the left."""
     for name, (advance, _) in font["hmtx"].metrics.items():
         font["hmtx"][name] = (advance, getattr(font["glyf"][name], "xMin", 0))
 

@@ -1,4 +1,4 @@
-// What can be done with the pictures of the gallery at the right, and how far they are at the left.
+// The bar of the gallery: progress or summary on the left, buttons on the right.
 import QtQuick
 import configtools
 
@@ -6,11 +6,11 @@ Rectangle {
     id: root
 
     required property PictureGallery gallery
-    required property string otherBatch  // that runs; "" for none
+    required property string otherBatch  // title of another running batch, "" for none
     readonly property Batch batch: gallery.batch
-    readonly property bool held: batch?.held ?? false
+    readonly property bool paused: batch?.held ?? false
     readonly property bool canFetch: batch === null && otherBatch === "" && gallery.count > 0
-    property string outcome      // of the last saving; empty when there is none to speak of
+    property string outcome      // result of the last save, "" for none
     property bool outcomeIsBad: false
     readonly property bool showsOutcome: outcome !== "" && batch === null
     readonly property bool keyGroup: true
@@ -30,18 +30,18 @@ Rectangle {
 
         OVIcon {
             anchors.verticalCenter: parent.verticalCenter
-            color: root.held ? Theme.colours.warn : root.outcomeIsBad ? Theme.colours.bad : Theme.colours.ok
-            name: root.held ? "alert" : root.outcomeIsBad ? "error" : "ok"
+            color: root.paused ? Theme.colours.warn : root.outcomeIsBad ? Theme.colours.bad : Theme.colours.ok
+            name: root.paused ? "alert" : root.outcomeIsBad ? "error" : "ok"
             size: Theme.boxSize
-            visible: root.held || root.showsOutcome
+            visible: root.paused || root.showsOutcome
         }
         OVLabel {
             width: Math.min(implicitWidth, parent.width - (link.visible ? link.width + 6 * Theme.unit : 0))
             height: parent.height
-            color: root.held ? Theme.colours.warnInk : Theme.colours.ink
+            color: root.paused ? Theme.colours.warnText : Theme.colours.text
             font: root.batch || root.showsOutcome ? Theme.bodyFont : Theme.titleFont
             objectName: "gallerySummary"
-            text: root.held ? qsTr("连续多台设备密码错误，继续可能锁定账户。是否继续？")
+            text: root.paused ? qsTr("连续多台设备密码错误，继续可能锁定账户。是否继续？")
                 : root.batch ? (root.batch.stopping ? qsTr("正在停止…")
                     : qsTr("正在获取图像 %1 / %2").arg(root.batch.done).arg(root.batch.total))
                 : root.showsOutcome ? root.outcome
@@ -50,7 +50,7 @@ Rectangle {
         OVProgressBar {
             anchors.verticalCenter: parent.verticalCenter
             value: root.batch?.progress ?? 0
-            visible: root.batch !== null && !root.held
+            visible: root.batch !== null && !root.paused
             width: Theme.batchBarWidth
         }
         OVLabel {
@@ -58,22 +58,22 @@ Rectangle {
             color: Theme.colours.bad
             objectName: "galleryFailures"
             text: qsTr("%n 幅失败", "", root.gallery.failures)
-            visible: root.gallery.failures > 0 && !root.held && !root.showsOutcome
+            visible: root.gallery.failures > 0 && !root.paused && !root.showsOutcome
         }
         OVLabel {
             height: parent.height
             color: Theme.colours.sub
             objectName: "galleryLeftOut"
             text: qsTr("另有 %n 台设备未显示", "", root.gallery.leftOut)
-            visible: root.gallery.leftOut > 0 && !root.held && !root.showsOutcome
+            visible: root.gallery.leftOut > 0 && !root.paused && !root.showsOutcome
         }
         OVLinkButton {
             id: link
             anchors.verticalCenter: parent.verticalCenter
-            objectName: root.held ? "galleryContinue" : "galleryFolder"
-            text: root.held ? qsTr("继续") : qsTr("打开文件夹")
-            visible: root.held || (root.showsOutcome && !root.outcomeIsBad)
-            onClicked: root.held ? root.batch.resume() : root.folderRequested()
+            objectName: root.paused ? "galleryContinue" : "galleryFolder"
+            text: root.paused ? qsTr("继续") : qsTr("打开文件夹")
+            visible: root.paused || (root.showsOutcome && !root.outcomeIsBad)
+            onClicked: root.paused ? root.batch.resume() : root.folderRequested()
         }
     }
     OVActionRow {

@@ -1,4 +1,4 @@
-// The picture of one channel of the gallery with what it is of, or what stands in its way.
+// A channel of the gallery: image, title, address, and state or error.
 import QtQuick
 import configtools
 
@@ -21,16 +21,16 @@ Item {
     readonly property bool busy: stage === PictureGallery.Fetching
     readonly property string title: name === "" ? device : name.startsWith(device) ? name : device + " · " + name
     signal chosen
-    signal opened
+    signal liveRequested
     signal againRequested
 
     objectName: "galleryCell" + index
 
     Accessible.role: Accessible.ListItem
     Accessible.name: title + ", " + ipport + ", " + state.text
-    Accessible.onPressAction: opened()
+    Accessible.onPressAction: liveRequested()
 
-    Rectangle {  // what is current is seen from afar
+    Rectangle {  // a large mark of the current cell
         anchors.fill: parent
         color: root.current ? Theme.colours.rowSelected : pointer.hovered ? Theme.colours.hover : Theme.colours.clear
         radius: Theme.paneRadius
@@ -45,7 +45,7 @@ Item {
         cursorShape: Qt.PointingHandCursor
         onClicked: {
             root.chosen();
-            root.opened();
+            root.liveRequested();
         }
     }
     Rectangle {
@@ -58,7 +58,7 @@ Item {
         clip: true
         radius: Theme.smallRadius
 
-        // Decoded on a thread of the toolkit, no larger than it is shown, and let go with the cell.
+        // Decoded on a thread of Qt at the size shown, and freed with the cell.
         Image {
             anchors.fill: parent
             asynchronous: true
@@ -117,7 +117,7 @@ Item {
             x: Theme.unit
             width: parent.width - 2 * x
             height: parent.height
-            color: Theme.colours.barInk
+            color: Theme.colours.barText
             font: Theme.hintFont
             objectName: "galleryNote"
             text: root.note

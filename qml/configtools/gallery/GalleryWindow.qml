@@ -1,4 +1,4 @@
-// The pictures of several devices at a glance: one for each channel, with names below them. A click watches the device.
+// Images of several devices: one for each channel. A click opens the live view of the device.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -11,10 +11,10 @@ T.ApplicationWindow {
     required property var localConfig
     readonly property bool maximised: visibility === Window.Maximized
     readonly property alias gallery: gallery
-    property string folder  // of the pictures that were saved
+    property string folder  // folder of the saved images
     signal liveRequested(string ipport, int channel)
 
-    /// Shows the devices of these rows and fetches their pictures.
+    /// Shows the devices of these rows and fetches their images.
     function open(rows) {
         bar.outcome = "";
         if (!visible)
@@ -158,7 +158,7 @@ T.ApplicationWindow {
             current: GridView.isCurrentItem
             onAgainRequested: window.fetch(index)
             onChosen: grid.currentIndex = index
-            onOpened: window.watch(index)
+            onLiveRequested: window.watch(index)
         }
         // qmllint enable unqualified
     }

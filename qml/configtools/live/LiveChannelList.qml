@@ -1,5 +1,5 @@
-// The channels of the watched devices. Those that no camera is connected to are marked. With several devices the first
-// channel of each stands below the device's name.
+// The channels of the watched devices, with marks for channels without a camera. With several devices, the device's
+// name is above its first channel.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -7,10 +7,10 @@ import configtools
 Rectangle {
     id: root
 
-    required property var channels       // as of LiveGrid; "heading" for the first one of each of several devices
-    required property var shownChannels  // indexes of the channels that have a place in the grid
+    required property var channels       // see LiveGrid.adopt(); "heading": name of the device
+    required property var shownChannels  // indices of the channels in the grid
     required property int currentChannel
-    signal picked(int channel)
+    signal channelClicked(int channel)
     signal enlargeRequested(int channel)
     signal removalRequested(string ipport)
 
@@ -41,8 +41,8 @@ Rectangle {
         Accessible.role: Accessible.List
         Accessible.name: head.text
 
-        Keys.onReturnPressed: if (currentItem) root.picked(currentIndex)
-        Keys.onSpacePressed: if (currentItem) root.picked(currentIndex)
+        Keys.onReturnPressed: if (currentItem) root.channelClicked(currentIndex)
+        Keys.onSpacePressed: if (currentItem) root.channelClicked(currentIndex)
         Keys.onDeletePressed: {
             if (root.channels[currentIndex]?.companion)
                 root.removalRequested(root.channels[currentIndex].ipport);
@@ -123,7 +123,7 @@ Rectangle {
                     x: sign.x + sign.width + Theme.unit
                     width: state.x - x - Theme.unit
                     height: parent.height
-                    color: entry.modelData.connected ? Theme.colours.ink : Theme.colours.faint
+                    color: entry.modelData.connected ? Theme.colours.text : Theme.colours.faint
                     text: entry.modelData.name
                 }
                 OVLabel {
@@ -143,7 +143,7 @@ Rectangle {
                     anchors.fill: parent
                     onClicked: {
                         list.currentIndex = entry.index;
-                        root.picked(entry.index);
+                        root.channelClicked(entry.index);
                     }
                     onDoubleClicked: root.enlargeRequested(entry.index)
                 }

@@ -1,5 +1,4 @@
-// A further device of the live window, with a session of its own. Its pictures stand beside those of the device that the
-// window was opened for. The session ends with this object.
+// An added device of the live window, with a separate session. The session ends with this object.
 import QtQuick
 import configtools
 
@@ -10,29 +9,30 @@ Item {
     required property string ipport
     required property string name
     property bool loggedIn: false
-    property bool asking: false  // whether the device answers, with a login where it has to be
-    property bool isGiven: false // the user has just given the account that it is asked with
+    property bool checking: false  // login or check runs
+    property bool isGiven: false  // the running login uses an account just entered
     property int result: 0       // a LoginResult
-    property var channels: [{channel: 0, name: "", connected: true}]  // as of LiveDevice; one until they are known
-    readonly property alias handle: session.handle  // of the session
-    readonly property bool busy: asking && !loggedIn
+    property var channels: [{channel: 0, name: "", connected: true}]  // see LiveDevice; one channel until they are known
+    readonly property alias handle: session.handle  // handle of the session
+    readonly property bool busy: checking && !loggedIn
 
-    /// Why it cannot be watched; empty when it can.
+    /// Why the device cannot be watched; empty if it can.
     readonly property string failure: loggedIn ? "" : busy ? qsTr("正在登录…")
-        : pause.running ? qsTr("%1，%n 秒后重试", "", pause.seconds).arg(deviceFactory.getErrorName(result))
+        : backoff.running ? qsTr("%1，%n 秒后重试", "", backoff.secondsLeft).arg(deviceFactory.getErrorName(result))
         : deviceFactory.getErrorName(result)
     readonly property string action: loggedIn || busy ? "" : accountRefused ? qsTr("重新登录") : qsTr("重试")
 
     /// Whether another account or password may help.
     readonly property bool accountRefused: result === 1 || result === 2 || result === 4 || result === 16
-    /// What time may mend. More tries of a wrong password would lock the account.
+    /// The device may become reachable later. Other failures are not retried: repeated wrong passwords lock the
+    /// account.
     readonly property bool unreachable: result === 5
 
-    property double heard: 0  // when the device answered last, in ms
-    readonly property int freshness: 1000
-    signal renewed                   // there is a new session
-    signal answered(bool isThere)    // after look()
-    signal pictureTaken(int channel, string picture, string message)  // after takePicture()
+    property double lastResponse: 0  // time of the last response, in ms
+    readonly property int responseValidity: 1000
+    signal renewed                   // a new session was opened
+    signal checked(bool isReachable)    // result of check()
+    signal pictureTaken(int channel, string picture, string message)  // result of takePicture()
 
     function account() {
         return LoginMemory.accountFor(ipport, deviceFactory);
@@ -44,8 +44,8 @@ Item {
     }
 
     function login(user, password, given) {
-        pause.stop();
-        asking = true;
+        backoff.stop();
+        checking = true;
         isGiven = given;
         session.open(ipport, user, password);
     }
@@ -53,39 +53,39 @@ Item {
     function tryAgain() {
         const row = deviceFactory.getDeviceInfo("dh", ipport);
         if (accountRefused)
-            relogin.wanted().ask(row.mac ?? "", ipport, account().user, result);
+            relogin.instance().ask(row.mac ?? "", ipport, account().user, result);
         else
             ask();
     }
 
     function noteAlive() {
-        heard = Date.now();
+        lastResponse = Date.now();
     }
 
-    /// A stream failed: the session may have ended.
-    function doubt() {
-        heard = 0;
+    /// Called after a stream failed: the session may have ended, so the next check() logs in again.
+    function expireResponse() {
+        lastResponse = 0;
     }
 
-    /// Looks whether a stream can be asked for: answered() follows.
-    function look() {
-        if (asking)
+    /// Checks whether the device is reachable. Emits checked(), immediately if it responded within `responseValidity`.
+    function check() {
+        if (checking)
             return;
         if (!loggedIn)
-            answered(false);
-        else if (Date.now() - heard < freshness)
-            answered(true);
+            checked(false);
+        else if (Date.now() - lastResponse < responseValidity)
+            checked(true);
         else
             ask();
     }
 
-    /// Into the folder of this name, below that of all snapshots.
+    /// Saves a snapshot to this subfolder of the snapshots folder.
     function takePicture(channel, folder) {
         session.takePicture(channel, folder);
     }
 
     function take(channels) {
-        pause.settle();
+        backoff.reset();
         noteAlive();
         if (channels.length > 0)
             root.channels = channels;
@@ -97,9 +97,9 @@ Item {
             loggedIn = false;
             session.close();
         } else if (!loggedIn) {
-            pause.fail();
+            backoff.fail();
         }
-        answered(false);
+        checked(false);
         if (isGiven && accountRefused)
             tryAgain();
     }
@@ -107,9 +107,9 @@ Item {
     visible: false
     Component.onCompleted: ask()
 
-    GrowingPause {
-        id: pause
-        onOver: root.ask()
+    ExponentialBackoff {
+        id: backoff
+        onElapsed: root.ask()
     }
     LiveSession {
         id: session
@@ -118,7 +118,7 @@ Item {
         deviceFactory: root.deviceFactory
         onPictureTaken: (channel, path, message) => root.pictureTaken(channel, path, message)
         onEnded: (result, channels) => {
-            root.asking = false;
+            root.checking = false;
             root.result = result;
             LoginMemory.note(root.ipport, result);
             if (result !== 0) {
@@ -130,7 +130,7 @@ Item {
             root.take(channels);
             if (isNew)
                 root.renewed();
-            root.answered(true);
+            root.checked(true);
         }
     }
     // qmllint disable unqualified

@@ -1,5 +1,5 @@
-// The device that is watched: its login, which is the one that the configuration pages use too, and its channels.
-// What holds a caller up for as long as a device takes is done elsewhere meanwhile.
+// The device that the live window was opened for. It shares its login with the configuration pages. Logins and checks
+// run in the background.
 import QtQuick
 import configtools
 
@@ -10,28 +10,29 @@ Item {
     property string ipport
     property string name
     property bool loggedIn: false
-    property bool asking: false        // whether it answers, with a login where it has to be
-    readonly property bool busy: asking && !loggedIn
-    property bool isGiven: false       // the user has just given the account that it is asked with
+    property bool checking: false        // login or check in progress
+    readonly property bool busy: checking && !loggedIn
+    property bool isGiven: false       // the running login uses an account just entered by the user
     property int result: 0             // a LoginResult
     readonly property string failure: result !== 0 ? LoginMemory.failureText(result, ipport, deviceFactory) : ""
-    readonly property alias resting: pause.running  // until the next try of a login
-    readonly property alias restSeconds: pause.seconds
-    property var channels: []          // maps of "channel" (from 0), "name" and "connected"
-    signal opened                      // its channels are known
-    signal lost                        // another device was logged in to
-    signal renewed                     // there is a new session with the same device
-    signal answered(bool isThere)      // after look()
+    readonly property alias waitingForRetry: backoff.running  // waits for the next login attempt
+    readonly property alias retrySeconds: backoff.secondsLeft
+    property var channels: []          // maps with "channel" (from 0), "name" and "connected"
+    signal opened                      // logged in; the channels are known
+    signal lost                        // another device took over the session
+    signal renewed                     // a new session with the same device was opened
+    signal checked(bool isReachable)      // result of check()
 
     /// Whether another account or password may help.
     readonly property bool accountRefused: result === 1 || result === 2 || result === 4
         || result === 16
 
-    /// What time may mend. More tries of a wrong password would lock the account.
+    /// The device may become reachable later. Other failures are not retried: repeated wrong passwords lock the
+    /// account.
     readonly property bool unreachable: result === 5
 
-    property double heard: 0  // when the device answered last, in ms
-    readonly property int freshness: 1000
+    property double lastResponse: 0  // time of the last response, in ms
+    readonly property int responseValidity: 1000
 
     function sessionDevice() {
         return deviceFactory.getConfigData("dh", "sessionDevice");
@@ -53,10 +54,11 @@ Item {
         login(known.user, known.password, false);
     }
 
-    /// A login that the device has refused in its session is sent again only if the user has given it now.
+    /// The back end rejects an account that the device has refused in this session, unless `given`: just entered by the
+    /// user.
     function login(user, password, given) {
-        pause.stop();
-        asking = true;
+        backoff.stop();
+        checking = true;
         isGiven = given;
         deviceFactory.openSession("dh", ipport, user, password, !loggedIn, given);
     }
@@ -64,54 +66,54 @@ Item {
     function tryAgain() {
         const row = deviceFactory.getDeviceInfo("dh", ipport);
         if (accountRefused)
-            relogin.wanted().ask(row.mac ?? "", ipport, account().user, result);
+            relogin.instance().ask(row.mac ?? "", ipport, account().user, result);
         else
             ask();
     }
 
-    /// A picture came.
+    /// Called when a frame was received.
     function noteAlive() {
-        heard = Date.now();
+        lastResponse = Date.now();
     }
 
-    /// A stream failed: the session may have ended.
-    function doubt() {
-        heard = 0;
+    /// Called after a stream failed: the session may have ended, so the next check() logs in again.
+    function expireResponse() {
+        lastResponse = 0;
     }
 
-    /// Checks whether a stream can be requested: answered() follows. A restart of the device ends the session; the
-    /// login is then repeated, once for all streams.
-    function look() {
-        if (asking)
+    /// Checks whether the device is reachable, once for all streams. Emits checked(), immediately if it responded
+    /// within `responseValidity`. If a restart of the device has ended the session, it logs in again.
+    function check() {
+        if (checking)
             return;
         if (!loggedIn)
-            answered(false);
-        else if (Date.now() - heard < freshness)
-            answered(true);
+            checked(false);
+        else if (Date.now() - lastResponse < responseValidity)
+            checked(true);
         else
             ask();
     }
 
     function close() {
         relogin.item?.close();
-        pause.settle();
-        if (asking)
+        backoff.reset();
+        if (checking)
             deviceFactory.stopOpeningSession("dh");
-        asking = false;
+        checking = false;
         loggedIn = false;
         result = 0;
         ipport = "";
         channels = [];
-        doubt();
+        expireResponse();
     }
 
     function take(channels) {
-        pause.settle();
+        backoff.reset();
         noteAlive();
         if (channels.length > 0)
             root.channels = channels;
         if (loggedIn) {
-            answered(true);
+            checked(true);
         } else {
             loggedIn = true;
             opened();
@@ -122,26 +124,26 @@ Item {
         if (!unreachable)
             loggedIn = false;
         else if (!loggedIn)
-            pause.fail();
-        answered(false);  // the streams rest by themselves
+            backoff.fail();
+        checked(false);  // the streams have their own retry delays
         if (isGiven && accountRefused)
             tryAgain();
     }
 
     visible: false
 
-    GrowingPause {
-        id: pause
-        onOver: root.ask()
+    ExponentialBackoff {
+        id: backoff
+        onElapsed: root.ask()
     }
     Connections {
         enabled: root.ipport !== ""
         target: root.deviceFactory
 
         function onSignalSessionOpened(ipport, result, channels) {
-            if (!root.asking || ipport !== root.ipport)
+            if (!root.checking || ipport !== root.ipport)
                 return;
-            root.asking = false;
+            root.checking = false;
             root.result = result;
             LoginMemory.note(ipport, result);
             if (result === 0)
@@ -155,10 +157,10 @@ Item {
             if (root.sessionDevice() === root.ipport) {
                 if (root.loggedIn)
                     root.renewed();
-            } else if (root.loggedIn || root.asking) {
+            } else if (root.loggedIn || root.checking) {
                 root.lost();
             } else {
-                pause.stop();  // another device is worked with: it is not to be taken away unasked
+                backoff.stop();  // another device uses the session: not taken over without a request
             }
         }
     }

@@ -1,5 +1,5 @@
-// What a live stream is like: its size and codec, its pictures a second, its bit rate, the data that waits, and the
-// pictures that were left out because the computer could not keep up.
+// Statistics of a live stream: size, codec, frames per second, bit rate, buffered data, and frames skipped because the
+// host is too slow.
 import QtQuick
 import VideoItem 1.0
 import configtools
@@ -13,7 +13,7 @@ Rectangle {
     readonly property var lines: [
         [figures.width ?? 0, figures.height ?? 0].join(" × ") + "   " + (figures.codec ?? ""),
         qsTr("%1 帧/秒   %2 kbit/s").arg(Math.round(figures.rate ?? 0)).arg(Math.round(figures.bitRate ?? 0)),
-        //: Data of a live stream that is not yet decoded.
+        //: Data of a live stream that is waiting to be decoded.
         qsTr("待解码 %1 KB").arg(Math.round((figures.waiting ?? 0) / 1024)),
         qsTr("跳过 %1 帧").arg(figures.skipped ?? 0)
     ].concat((figures.audioCodec ?? "") === "" ? [] : [qsTr("音频 %1").arg(figures.audioCodec)])
@@ -35,7 +35,7 @@ Rectangle {
         id: text
         x: Theme.unit
         y: Theme.half
-        color: Theme.colours.barInk
+        color: Theme.colours.barText
         font: Theme.smallFigureFont
         lineHeight: 1.3
         objectName: "liveFigures"

@@ -1,5 +1,5 @@
-// The places for live pictures: 1, 4 or 9, or one of them enlarged. The sub stream does in the grid; a picture that
-// has the whole room gets the main stream. Channels go by their places in `channels`, which may be those of several
+// A grid of 1, 4 or 9 live views, one of which can be enlarged. A view in the grid shows the sub stream, a single or
+// enlarged one the main stream. Channels are identified by their index in `channels`, which may belong to several
 // devices.
 import QtQuick
 import configtools
@@ -8,27 +8,27 @@ Item {
     id: root
 
     required property bool active
-    /// The channels, and for each place the index of one, -1 for none. Both change at the same time: a picture whose
-    /// channel only moves in the list goes on.
+    /// The channels, and the channel index of each cell, -1 for an empty cell. Both change in one assignment, so that a
+    /// stream continues when its channel moves in the list.
     property var arrangement: ({channels: [], shown: []})
     readonly property var channels: arrangement.channels
     readonly property var shownChannels: arrangement.shown
-    property int places: 1
-    property int currentPlace: 0
-    property int enlargedPlace: -1
+    property int cellCount: 1
+    property int currentCell: 0
+    property int enlargedCell: -1
     property bool stretched: false
     property bool sounding: false
     property bool figuresShown: false
-    readonly property int currentChannel: shownChannels[currentPlace] ?? -1
+    readonly property int currentChannel: shownChannels[currentCell] ?? -1
     readonly property var currentEntry: channels[currentChannel] ?? null
-    readonly property int pages: Math.max(1, Math.ceil(channels.length / places))
+    readonly property int pages: Math.max(1, Math.ceil(channels.length / cellCount))
     property int page: 0
-    signal asked   // whether the first device is there: answer() is awaited
-    signal failed  // a picture of it
+    signal checkRequested   // before a stream of the first device starts; answered by takeCheckResult()
+    signal failed  // a stream of the first device failed
     signal pictureCame
 
-    /// Takes the channels: maps of "ipport", "channel", "name", "connected" and "companion", null for those of the device
-    /// that the window was opened for. What is shown stays in its place.
+    /// Sets the channels: maps with "ipport", "channel", "name", "connected" and "companion" (null for the first
+    /// device). The cells keep their channels.
     function adopt(channels) {
         const nameOf = entry => entry.ipport + "/" + entry.channel;
         const indexOf = {};
@@ -47,58 +47,58 @@ Item {
 
     function showPage(wanted) {
         page = Math.max(0, Math.min(pages - 1, wanted));
-        const first = page * places;
-        show(Array.from({length: places}, (_, place) => first + place < channels.length ? first + place : -1));
-        currentPlace = 0;
-        enlargedPlace = -1;
+        const first = page * cellCount;
+        show(Array.from({length: cellCount}, (_, cell) => first + cell < channels.length ? first + cell : -1));
+        currentCell = 0;
+        enlargedCell = -1;
     }
 
-    /// Changes the number of places; the channel that was looked at stays in view.
+    /// Changes the number of cells. The current channel stays visible.
     function arrange(count) {
         const channel = Math.max(0, currentChannel);
-        places = count;
+        cellCount = count;
         showPage(Math.floor(channel / count));
-        currentPlace = Math.max(0, shownChannels.indexOf(channel));
+        currentCell = Math.max(0, shownChannels.indexOf(channel));
     }
 
-    /// Gives channels places beside those that are shown, as far as there is room for them.
+    /// Shows further channels, as far as there is room for them.
     function include(wanted) {
         const shown = shownChannels.filter(channel => channel >= 0);
         const together = shown.concat(wanted.filter(channel => !shown.includes(channel)));
         const count = together.length <= 1 ? 1 : together.length <= 4 ? 4 : 9;
-        enlargedPlace = -1;
-        places = Math.max(places, count);
-        show(Array.from({length: places}, (_, place) => together[place] ?? -1));
+        enlargedCell = -1;
+        cellCount = Math.max(cellCount, count);
+        show(Array.from({length: cellCount}, (_, cell) => together[cell] ?? -1));
     }
 
-    /// Puts a channel into the current place, or goes to the place that has it.
+    /// Shows a channel in the current cell, or makes the cell current that shows it.
     function showChannel(channel) {
-        const place = shownChannels.indexOf(channel);
-        if (place >= 0) {
-            currentPlace = place;
-            if (enlargedPlace >= 0)
-                enlargedPlace = place;
+        const cell = shownChannels.indexOf(channel);
+        if (cell >= 0) {
+            currentCell = cell;
+            if (enlargedCell >= 0)
+                enlargedCell = cell;
             return;
         }
-        if (places === 1) {
+        if (cellCount === 1) {
             showPage(channel);
             return;
         }
         const changed = Array.from(shownChannels);
-        changed[currentPlace] = channel;
+        changed[currentCell] = channel;
         show(changed);
     }
 
     function enlarge(channel) {
         showChannel(channel);
-        if (places > 1)
-            enlargedPlace = currentPlace;
+        if (cellCount > 1)
+            enlargedCell = currentCell;
     }
 
-    /// Calls `action` with the players of a device.
+    /// Calls `action` with each player of a device.
     function eachPlayerOf(companion, action) {
-        for (let place = 0; place < players.count; ++place) {
-            const player = players.itemAt(place);
+        for (let cell = 0; cell < players.count; ++cell) {
+            const player = players.itemAt(cell);
             if ((player.entry?.companion ?? null) === companion)
                 action(player);
         }
@@ -108,57 +108,57 @@ Item {
         eachPlayerOf(companion, player => player.reconnect());
     }
 
-    function answer(companion, isThere) {
-        eachPlayerOf(companion, player => player.answer(isThere));
+    function takeCheckResult(companion, isReachable) {
+        eachPlayerOf(companion, player => player.takeCheckResult(isReachable));
     }
 
-    readonly property int columns: Math.round(Math.sqrt(places))
+    readonly property int columns: Math.round(Math.sqrt(cellCount))
     readonly property real cellWidth: Math.floor((width - (columns - 1) * Theme.half) / columns)
     readonly property real cellHeight: Math.floor((height - (columns - 1) * Theme.half) / columns)
 
-    /// Begins with a device.
+    /// Shows the first channels of a new device.
     function begin() {
-        places = channels.length <= 1 ? 1 : 4;
+        cellCount = channels.length <= 1 ? 1 : 4;
         showPage(0);
     }
 
     // qmllint disable unqualified
     Repeater {
         id: players
-        model: root.places
+        model: root.cellCount
 
         OV_MediaPlayer {
             required property int index
             readonly property var entry: root.arrangement.channels[root.arrangement.shown[index] ?? -1] ?? null
             readonly property LiveCompanion companion: entry?.companion ?? null
-            readonly property bool enlarged: root.enlargedPlace === index
+            readonly property bool enlarged: root.enlargedCell === index
 
             x: enlarged ? 0 : (index % root.columns) * (root.cellWidth + Theme.half)
             y: enlarged ? 0 : Math.floor(index / root.columns) * (root.cellHeight + Theme.half)
             width: enlarged ? root.width : root.cellWidth
             height: enlarged ? root.height : root.cellHeight
-            active: root.active && (root.enlargedPlace < 0 || enlarged) && (companion?.loggedIn ?? true)
+            active: root.active && (root.enlargedCell < 0 || enlarged) && (companion?.loggedIn ?? true)
             channel: entry?.channel ?? -1
             channelName: entry?.caption ?? ""
             connected: entry?.connected ?? false
-            current: root.currentPlace === index && root.places > 1
+            current: root.currentCell === index && root.cellCount > 1
             figuresShown: root.figuresShown
-            mainStream: enlarged || root.places === 1
-            objectName: "livePlace" + index
+            mainStream: enlarged || root.cellCount === 1
+            objectName: "liveCell" + index
             session: companion?.handle ?? 0
             sessionAction: companion?.action ?? ""
             sessionBusy: companion?.busy ?? false
             sessionText: companion?.failure ?? ""
-            sounding: root.sounding && root.currentPlace === index
+            sounding: root.sounding && root.currentCell === index
             stretched: root.stretched
-            visible: root.enlargedPlace < 0 || enlarged
-            onAsked: companion ? companion.look() : root.asked()
-            onChosen: root.currentPlace = index
+            visible: root.enlargedCell < 0 || enlarged
+            onCheckRequested: companion ? companion.check() : root.checkRequested()
+            onChosen: root.currentCell = index
             onEnlargeRequested: {
-                if (root.places > 1)
-                    root.enlargedPlace = enlarged ? -1 : index;
+                if (root.cellCount > 1)
+                    root.enlargedCell = enlarged ? -1 : index;
             }
-            onFailed: companion ? companion.doubt() : root.failed()
+            onFailed: companion ? companion.expireResponse() : root.failed()
             onPlayingChanged: {
                 if (playing && companion)
                     companion.noteAlive();

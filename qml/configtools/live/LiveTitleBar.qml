@@ -1,4 +1,4 @@
-// The title bar of the live window: which device is watched, and the way to the next one of the list.
+// The title bar of the live window: the watched device, and buttons for the previous and the next device.
 import QtQuick
 import configtools
 
@@ -8,8 +8,8 @@ Rectangle {
     required property string name
     required property string address
     required property bool maximised
-    required property var cursor  // its cursorPos() is the pointer's position on the screen
-    property string place                 // of the device in the list, in words; empty where there is none
+    required property var cursor  // its cursorPos() returns the pointer's screen position
+    property string position                 // position in the list, such as "2 / 5"; "" for none
     property bool hasEarlier: false
     property bool hasLater: false
     signal earlierRequested
@@ -26,9 +26,9 @@ Rectangle {
     component BarButton: OVIconButton {
         fillHover: Theme.colours.barHover
         fillPressed: Theme.colours.barPressed
-        ink: Theme.colours.barInk
-        inkDisabled: Theme.colours.barLine
-        inkHover: Theme.colours.barInk
+        iconColor: Theme.colours.barText
+        iconDisabledColor: Theme.colours.barLine
+        iconHoverColor: Theme.colours.barText
     }
 
     OVTitleDragArea {
@@ -50,7 +50,7 @@ Rectangle {
         OVLabel {
             width: Math.min(implicitWidth, parent.width / 2)
             height: parent.height
-            color: Theme.colours.barInk
+            color: Theme.colours.barText
             font: Theme.titleFont
             objectName: "liveTitle"
             text: root.name !== "" ? root.name : qsTr("实时画面")
@@ -69,7 +69,7 @@ Rectangle {
         anchors.rightMargin: Theme.pageMargin
         anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.half
-        visible: root.place !== ""
+        visible: root.position !== ""
 
         BarButton {
             enabled: root.hasEarlier
@@ -82,8 +82,8 @@ Rectangle {
             height: Theme.controlHeight
             color: Theme.colours.barSub
             font: Theme.figureFont
-            objectName: "liveDevicePlace"
-            text: root.place
+            objectName: "liveDevicePosition"
+            text: root.position
         }
         BarButton {
             enabled: root.hasLater

@@ -1,4 +1,4 @@
-// What can be done with the live pictures: their arrangement at the left, what concerns the current one at the right.
+// The tool bar of the live window: layout on the left, actions for the current channel on the right.
 import QtQuick
 import configtools
 
@@ -8,12 +8,12 @@ Rectangle {
     required property LiveGrid grid
     required property bool fullScreen
     required property bool canSnap
-    required property bool canSnapCurrent  // the channel that is looked at
+    required property bool canSnapCurrent  // a snapshot of the current channel is possible
     required property bool snapping
-    required property string otherBatch  // that runs; "" for none
-    required property int ticked         // devices of the list
-    property bool full: false            // there is no room for further devices
-    readonly property bool compact: width < Theme.liveToolBarWidth  // there is no room for words
+    required property string otherBatch  // title of another running batch, "" for none
+    required property int ticked         // number of ticked devices in the list
+    property bool full: false            // no further devices can be added
+    readonly property bool compact: width < Theme.liveToolBarWidth  // no room for texts
     readonly property bool canAdd: canSnap && ticked > 0 && !full
     signal fullScreenRequested
     signal snapRequested
@@ -27,9 +27,9 @@ Rectangle {
         fill: on && enabled ? Theme.colours.barPressed : Theme.colours.clear
         fillHover: Theme.colours.barHover
         fillPressed: Theme.colours.barPressed
-        ink: Theme.colours.barSub
-        inkDisabled: Theme.colours.barLine
-        inkHover: Theme.colours.barInk
+        iconColor: Theme.colours.barSub
+        iconDisabledColor: Theme.colours.barLine
+        iconHoverColor: Theme.colours.barText
     }
     component Gap: Item {
         width: Theme.unit
@@ -48,7 +48,7 @@ Rectangle {
             enabled: root.grid.channels.length > 0
             iconName: "onePlace"
             objectName: "liveOneButton"
-            on: root.grid.places === 1
+            on: root.grid.cellCount === 1
             toolTip: qsTr("1 画面")
             onClicked: root.grid.arrange(1)
         }
@@ -56,7 +56,7 @@ Rectangle {
             enabled: root.grid.channels.length > 1
             iconName: "fourPlaces"
             objectName: "liveFourButton"
-            on: root.grid.places === 4
+            on: root.grid.cellCount === 4
             toolTip: qsTr("4 画面")
             onClicked: root.grid.arrange(4)
         }
@@ -64,7 +64,7 @@ Rectangle {
             enabled: root.grid.channels.length > 4
             iconName: "ninePlaces"
             objectName: "liveNineButton"
-            on: root.grid.places === 9
+            on: root.grid.cellCount === 9
             toolTip: qsTr("9 画面")
             onClicked: root.grid.arrange(9)
         }
@@ -108,7 +108,7 @@ Rectangle {
             contentItem: OVLabel {
                 id: words
                 color: !addition.enabled ? Theme.colours.barLine
-                    : addition.hovered ? Theme.colours.barInk : Theme.colours.barSub
+                    : addition.hovered ? Theme.colours.barText : Theme.colours.barSub
                 horizontalAlignment: Text.AlignHCenter
                 text: root.compact ? "+ " + root.ticked
                     : root.ticked > 0 ? qsTr("加入勾选的设备（%1）").arg(root.ticked) : qsTr("加入勾选的设备")

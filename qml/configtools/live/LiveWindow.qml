@@ -1,5 +1,5 @@
-// Watches a device: its channels at the left, their live pictures beside them. Further devices can be added, each with a
-// session of its own, which ends when the device is removed, another one is opened or the window is closed.
+// The live window: channels on the left, live views on the right. Further devices can be added, each with a separate
+// session, which ends when the device is removed, another one is opened or the window is closed.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -14,13 +14,13 @@ T.ApplicationWindow {
     readonly property bool fullScreen: visibility === Window.FullScreen
     readonly property bool maximised: visibility === Window.Maximized
     property int visibilityBefore: Window.Windowed
-    property int firstChannel: 0   // to be shown when the device is there
-    property string earlier        // the devices before and behind this one in the list; "" for none
+    property int firstChannel: 0   // channel to show after the login
+    property string earlier        // addresses of the previous and next device, "" for none
     property string later
-    signal said(string message, int kind)
+    signal notify(string message, int severity)
 
-    /// `table` is the list that the device is of, a DeviceTableModel, and `chosen` devices of it that are gone through
-    /// instead of its rows. They may be left out, and so may the channel.
+    /// `table` is the list of the device, a DeviceTableModel. `chosen` are devices to go through instead of its rows.
+    /// These and the channel are optional.
     function open(ipport, channel, table, chosen) {
         order.table = table ?? null;
         order.chosen = chosen ?? [];
@@ -35,7 +35,7 @@ T.ApplicationWindow {
             requestActivate();
             return;
         }
-        results.item?.close();  // they are another device's
+        results.item?.close();  // snapshots of another device
         toasts.item?.clear();
         removeAll();
         grid.sounding = false;
@@ -53,26 +53,26 @@ T.ApplicationWindow {
         later = visible ? order.neighbour(device.ipport, 1) : "";
     }
 
-    /// To the device before this one, -1, or behind it, 1.
+    /// Opens the previous device (-1) or the next one (1).
     function go(direction) {
-        findWay();  // the list may be another one by now
+        findWay();  // the list may have changed
         const next = direction < 0 ? earlier : later;
         if (next !== "")
             openDevice(next, -1);
     }
 
-    /// Adds the ticked devices of the list to the pictures.
+    /// Adds the ticked devices of the list to the grid.
     function addTicked() {
-        const places = watched.add(order.tickedDevices());
+        const added = watched.add(order.tickedDevices());
         if (watched.leftOut > 0)
-            toasts.wanted().show(qsTr("最多加入 %1 台设备，其余 %2 台没有加入").arg(watched.most).arg(watched.leftOut),
+            toasts.instance().show(qsTr("最多加入 %1 台设备，其余 %2 台没有加入").arg(watched.most).arg(watched.leftOut),
                 OVToast.Information);
-        else if (places.length === 0)
-            toasts.wanted().show(qsTr("勾选的设备都已在画面中"), OVToast.Information);
-        grid.include(places);
+        else if (added.length === 0)
+            toasts.instance().show(qsTr("勾选的设备都已在画面中"), OVToast.Information);
+        grid.include(added);
     }
 
-    /// The snapshots end first: they stream in the session of the device.
+    /// The snapshots end first: they use the session of the device.
     function remove(ipport) {
         taking.leave(ipport);
         watched.remove(ipport);
@@ -83,7 +83,7 @@ T.ApplicationWindow {
         watched.clear();
     }
 
-    /// The devices may have been renamed.
+    /// Reads the names of the devices again.
     function readNames() {
         device.name = deviceFactory.getDeviceInfo("dh", device.ipport).name ?? device.name;
         noteDevice();
@@ -103,31 +103,31 @@ T.ApplicationWindow {
         }
     }
 
-    /// One step back: from the enlarged picture to the grid, from the full screen to the window.
+    /// Leaves the enlarged view, else the full screen.
     function goBack() {
-        if (grid.enlargedPlace >= 0)
-            grid.enlargedPlace = -1;
+        if (grid.enlargedCell >= 0)
+            grid.enlargedCell = -1;
         else if (fullScreen)
             toggleFullScreen();
     }
 
     function snap(entry) {
         taking.take(entry.ipport, entry, entry.companion);
-        results.wanted().open();
+        results.instance().open();
     }
 
-    /// Takes the snapshot of a channel again. Refused after its device was removed from the window.
+    /// Repeats the snapshot of a channel. Refused if its device was removed.
     function snapAgain(channel) {
         const entry = grid.channels.find(shown => shown.ipport === taking.ipport && shown.channel === channel);
         if (entry)
             snap(entry);
         else
-            results.wanted().refuse(qsTr("设备已移出画面"));
+            results.instance().refuse(qsTr("设备已移出画面"));
     }
 
     function snapAll() {
         if (taking.takeAll(device.ipport, device.channels))
-            results.wanted().open();
+            results.instance().open();
     }
 
     width: Math.min(Theme.liveWidth, Screen.desktopAvailableWidth)
@@ -149,10 +149,10 @@ T.ApplicationWindow {
         id: device
         deviceFactory: window.deviceFactory
         onLost: {
-            window.said(qsTr("已登录另一台设备，实时画面已关闭"), OVToast.Information);
+            window.notify(qsTr("已登录另一台设备，实时画面已关闭"), OVToast.Information);
             window.close();
         }
-        onAnswered: isThere => grid.answer(null, isThere)
+        onChecked: isReachable => grid.takeCheckResult(null, isReachable)
         onChannelsChanged: window.noteDevice()
         onOpened: {
             grid.begin();
@@ -169,7 +169,7 @@ T.ApplicationWindow {
     WatchedDevices {
         id: watched
         deviceFactory: window.deviceFactory
-        onChannelsChanged: grid.adopt(Array.from(channels))  // as they are now: the list itself changes with the model
+        onChannelsChanged: grid.adopt(Array.from(channels))  // copy: the list changes with the model
     }
     DeviceListChanges {
         deviceFactory: window.deviceFactory
@@ -183,7 +183,7 @@ T.ApplicationWindow {
         LiveCompanion {
             id: companion
             deviceFactory: window.deviceFactory
-            onAnswered: isThere => grid.answer(companion, isThere)
+            onChecked: isReachable => grid.takeCheckResult(companion, isReachable)
             onChannelsChanged: watched.setChannels(ipport, companion, channels)
             onRenewed: grid.reconnect(companion)
             Component.onCompleted: watched.setChannels(ipport, companion, channels)
@@ -220,9 +220,9 @@ T.ApplicationWindow {
         hasLater: window.later !== ""
         maximised: window.maximised
         name: device.name
-        place: {
-            const place = order.count > 1 && device.ipport !== "" ? order.placeOf(device.ipport) : -1;
-            return order.count <= 1 ? "" : (place < 0 ? "–" : place + 1) + " / " + order.count;
+        position: {
+            const position = order.count > 1 && device.ipport !== "" ? order.placeOf(device.ipport) : -1;
+            return order.count <= 1 ? "" : (position < 0 ? "–" : position + 1) + " / " + order.count;
         }
         visible: !window.fullScreen
         onCloseRequested: window.close()
@@ -240,7 +240,7 @@ T.ApplicationWindow {
         shownChannels: grid.shownChannels
         visible: !window.fullScreen && grid.channels.length > 1
         onEnlargeRequested: channel => grid.enlarge(channel)
-        onPicked: channel => grid.showChannel(channel)
+        onChannelClicked: channel => grid.showChannel(channel)
         onRemovalRequested: ipport => window.remove(ipport)
     }
     LiveGrid {
@@ -252,8 +252,8 @@ T.ApplicationWindow {
         active: window.visible && device.loggedIn
         objectName: "liveGrid"
         visible: device.loggedIn && device.channels.length > 0
-        onAsked: device.look()
-        onFailed: device.doubt()
+        onCheckRequested: device.check()
+        onFailed: device.expireResponse()
         onPictureCame: device.noteAlive()
     }
     LiveToolBar {
@@ -287,7 +287,7 @@ T.ApplicationWindow {
                 : device.accountRefused ? qsTr("重新登录") : qsTr("重试")
             busy: device.busy
             hint: device.busy ? device.ipport
-                : device.resting ? qsTr("%1，%n 秒后重试", "", device.restSeconds).arg(device.failure) : device.failure
+                : device.waitingForRetry ? qsTr("%1，%n 秒后重试", "", device.retrySeconds).arg(device.failure) : device.failure
             iconName: "unplugged"
             objectName: "liveEmptyState"
             title: device.busy ? qsTr("正在登录…") : device.loggedIn ? qsTr("没有通道") : qsTr("登录失败")
@@ -319,7 +319,7 @@ T.ApplicationWindow {
             onFolderRequested: {
                 const picture = taking.results.find(entry => entry.picture !== "").picture;
                 if (!Qt.openUrlExternally(picture.slice(0, picture.lastIndexOf("/"))))
-                    window.said(qsTr("无法打开文件夹：%1").arg(picture), OVToast.Error);
+                    window.notify(qsTr("无法打开文件夹：%1").arg(picture), OVToast.Error);
             }
         }
     }

@@ -1,5 +1,4 @@
-// One channel's live picture with what is to be said about it. A stream that fails or breaks is tried again, after
-// pauses that grow.
+// The live view of a channel, with its state. A failed or broken stream is retried with growing delays.
 import QtQuick
 import VideoItem 1.0
 import configtools
@@ -7,64 +6,64 @@ import configtools
 FocusScope {
     id: root
 
-    required property int channel         // from 0, below 0 for an empty place
+    required property int channel         // from 0; negative: empty cell
     required property string channelName
-    required property bool connected      // the channel has a camera
-    required property bool active         // the stream is wanted now
+    required property bool connected      // a camera is connected
+    required property bool active         // the stream may run
     property bool mainStream: false
     property bool current: false
     property bool stretched: false
     property bool sounding: false
     property bool figuresShown: false
-    property bool compact: false          // a small picture beside something else: words only
-    property double session: 0            // handle of a session of its own, 0 for that of the configuration pages
-    property string sessionText           // why that is not there; empty when it is
-    property string sessionAction         // what the user can do about it; empty for nothing
-    property bool sessionBusy: false      // it is on its way
+    property bool compact: false          // small view: only texts
+    property double session: 0            // handle of a separate session, 0 for the session of the configuration pages
+    property string sessionText           // why there is no session, "" if there is one
+    property string sessionAction         // text of the button for that, "" for none
+    property bool sessionBusy: false      // the session is being opened
     readonly property bool wanted: active && connected && channel >= 0
     readonly property bool playing: video.hasPicture
-    readonly property bool resting: retry.failures > 0 && !connecting && !playing  // until the next try
+    readonly property bool waitingForRetry: backoff.failures > 0 && !connecting && !playing  // waits for the next attempt
     readonly property bool turning: connecting || sessionBusy
     readonly property alias video: video
-    signal asked  // before a start: answer() is awaited, so that a device that is away is asked once for all views
+    signal checkRequested  // before a start; the owner calls takeCheckResult()
     signal chosen
     signal enlargeRequested
     signal failed
     signal sessionActivated
 
     property bool connecting: false
-    property bool asking: false  // for the answer
-    property bool subRefused: false  // the channel has no sub stream: the main one is shown in its place
+    property bool checking: false  // waits for takeCheckResult()
+    property bool subRefused: false  // the device refused the sub stream: the main stream is used
 
     readonly property int zoomLevels: 20
-    readonly property real zoomStep: 1.2  // from one level to the next
-    // The picture as it is shown; the bars at its sides are what it leaves of the view.
+    readonly property real zoomStep: 1.2  // factor between two levels
+    // Scale of the shown frame; the bars are the unused rest of the view.
     readonly property real pictureScale: !playing || stretched ? 0
         : Math.min(width / video.pictureSize.width, height / video.pictureSize.height) * Math.pow(zoomStep, video.zoomLevel)
     readonly property int sideBar: pictureScale > 0 ? Math.max(0, (width - video.pictureSize.width * pictureScale) / 2) : 0
     readonly property int topBar: pictureScale > 0 ? Math.max(0, (height - video.pictureSize.height * pictureScale) / 2) : 0
 
     function begin() {
-        retry.stop();
+        backoff.stop();
         if (!wanted)
             return;
         connecting = true;
-        asking = false;
+        checking = false;
         starting.restart();
     }
 
-    /// Whether the device is there.
-    function answer(isThere) {
-        if (!asking)
+    /// Result of checkRequested().
+    function takeCheckResult(isReachable) {
+        if (!checking)
             return;
-        asking = false;
-        if (isThere)
+        checking = false;
+        if (isReachable)
             video.startInBackground();
         else
             fail();
     }
 
-    /// After the request for the stream.
+    /// Result of the request for the stream.
     function takeStart(isStreaming, mayTryOther) {
         if (isStreaming)
             return;
@@ -79,9 +78,9 @@ FocusScope {
 
     function end() {
         starting.stop();
-        retry.settle();
+        backoff.reset();
         connecting = false;
-        asking = false;
+        checking = false;
         subRefused = false;
         video.stop();
     }
@@ -89,7 +88,7 @@ FocusScope {
     function fail() {
         video.stop();
         connecting = false;
-        retry.fail();
+        backoff.fail();
         failed();
     }
 
@@ -98,7 +97,7 @@ FocusScope {
         begin();
     }
 
-    /// Tries at once what may go well now; the failures until now still count.
+    /// Retries immediately. The failure count is kept.
     function reconnect() {
         video.stop();
         begin();
@@ -133,30 +132,30 @@ FocusScope {
         onHasPictureChanged: {
             if (hasPicture) {
                 root.connecting = false;
-                retry.settle();
+                backoff.reset();
             }
         }
         onStartEnded: (isStreaming, mayTryOther) => root.takeStart(isStreaming, mayTryOther)
         onVideoErrorSig: root.fail()
     }
-    // Once what changes together has changed: the channel, the kind of stream, whether it is wanted.
+    // After related changes: channel, stream, `wanted`.
     Timer {
         id: starting
         interval: 0
         onTriggered: {
-            root.asking = true;
-            root.asked();
+            root.checking = true;
+            root.checkRequested();
         }
     }
-    GrowingPause {
-        id: retry
-        onOver: root.begin()
+    ExponentialBackoff {
+        id: backoff
+        onElapsed: root.begin()
     }
 
     MouseArea {
         property point last
-        property real turned: 0  // by the wheel since the last whole notch
-        readonly property real notch: 120  // of a mouse wheel, in eighths of a degree
+        property real turned: 0  // wheel rotation since the last full notch
+        readonly property real notch: 120  // of a wheel notch, in eighths of a degree
 
         anchors.fill: parent
         acceptedButtons: Qt.LeftButton
@@ -172,7 +171,7 @@ FocusScope {
             root.chosen();
         }
         onWheel: wheel => {
-            // Fine wheels and touchpads turn in parts of a notch.
+            // High-resolution wheels and touchpads report fractions of a notch.
             turned += wheel.angleDelta.y / notch;
             const notches = Math.trunc(turned);
             turned -= notches;
@@ -211,7 +210,7 @@ FocusScope {
                 : !root.connected ? qsTr("通道未连接")
                 : root.connecting ? qsTr("正在连接…")
                 : root.playing ? video.problemText
-                : root.resting ? (video.text !== "" ? video.text : qsTr("画面中断")) : ""
+                : root.waitingForRetry ? (video.text !== "" ? video.text : qsTr("画面中断")) : ""
             visible: text !== ""
         }
         OVParagraph {
@@ -220,19 +219,19 @@ FocusScope {
             font: Theme.hintFont
             horizontalAlignment: Text.AlignHCenter
             objectName: "liveRetryText"
-            text: qsTr("%n 秒后重试", "", retry.seconds)
-            visible: root.resting && root.wanted
+            text: qsTr("%n 秒后重试", "", backoff.secondsLeft)
+            visible: root.waitingForRetry && root.wanted
         }
         OVButton {
             anchors.horizontalCenter: parent.horizontalCenter
             objectName: "liveRetryButton"
             text: root.sessionAction !== "" ? root.sessionAction : qsTr("立即重试")
-            visible: root.sessionAction !== "" || (root.resting && root.wanted && !root.compact)
+            visible: root.sessionAction !== "" || (root.waitingForRetry && root.wanted && !root.compact)
             onClicked: root.sessionAction !== "" ? root.sessionActivated() : root.reconnect()
         }
     }
 
-    Rectangle {  // the channel's name, on the picture and readable over any
+    Rectangle {  // name of the channel, on a dark ground
         x: root.sideBar + Theme.unit
         y: root.topBar + Theme.unit
         width: Math.min(name.implicitWidth + 2 * Theme.unit, parent.width - 2 * x)
@@ -246,7 +245,7 @@ FocusScope {
             x: Theme.unit
             width: parent.width - 2 * x
             height: parent.height
-            color: Theme.colours.barInk
+            color: Theme.colours.barText
             font: Theme.hintFont
             objectName: "liveChannelName"
             text: root.channelName

@@ -1,12 +1,12 @@
-// The snapshot of one channel: the picture, or what stands in its way.
+// The snapshot of a channel, or its state or error.
 import QtQuick
 import configtools
 
 Item {
     id: root
 
-    required property var entry   // of Snapshots.results
-    required property bool waits  // others are being taken
+    required property var entry   // element of Snapshots.results
+    required property bool waits  // other snapshots are in progress
     readonly property int stage: entry?.state ?? Snapshots.Waiting
     signal againRequested
 

@@ -1,4 +1,4 @@
-// The snapshots of a device: its channels with their pictures as they come, and what went wrong.
+// The snapshots of a device, with progress and errors.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -11,7 +11,7 @@ OVDialog {
     signal folderRequested
 
     readonly property int columns: Math.max(1, Math.min(4, snapshots.results.length))
-    readonly property int columnsOfWidth: Math.max(2, columns)  // the foot needs as much
+    readonly property int columnsOfWidth: Math.max(2, columns)  // minimum width of the foot
     readonly property int failures: snapshots.results.filter(entry => entry.state === Snapshots.Failed).length
 
     width: Math.min(Theme.snapshotWidth * columnsOfWidth + Theme.controlGap * (columnsOfWidth - 1)

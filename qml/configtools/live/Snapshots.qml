@@ -1,4 +1,4 @@
-// Takes snapshots of a device's channels and keeps what came of them. All channels are a batch, a single one is not.
+// Takes snapshots of a device's channels and keeps the results. All channels run as a batch, a single one does not.
 import QtQuick
 import configtools
 
@@ -7,24 +7,24 @@ Item {
 
     required property Batches batches
     required property var deviceFactory
-    property Batch batch: null        // of all channels, while it runs
+    property Batch batch: null        // batch of all channels while it runs, else null
     property string ipport            // of the device
-    property var companion: null      // a LiveCompanion, which takes the pictures of its device; null for the session's
-    property string folder            // of the device, below the folder of all snapshots
-    property var results: []          // maps of "channel", "name", "state", "picture", "message", "revision"
-    property int running: 0           // channels that are still to be reported
+    property var companion: null      // LiveCompanion of an added device; null for the first device
+    property string folder            // subfolder of the snapshots folder
+    property var results: []          // maps with "channel", "name", "state", "picture" (path), "message", "revision"
+    property int running: 0           // channels without a result
     readonly property bool busy: running > 0
     readonly property int done: results.filter(entry => entry.state !== Snapshots.Waiting
                                                        && entry.state !== Snapshots.Taking).length
 
     enum State { Waiting, Taking, Taken, Failed }
 
-    /// A device's address as the name of a folder.
+    /// Folder name for a device address.
     function folderOf(ipport) {
         return ipport.replace(/[^0-9A-Za-z._-]+/g, "_");
     }
 
-    /// Returns false when the batch is refused.
+    /// Returns false if the batch is refused.
     function takeAll(ipport, channels) {
         const wanted = folderOf(ipport);
         batch = batches.takeSnapshots("dh", qsTr("抓图"), ipport, channels.map(entry => entry.name), wanted);
@@ -33,15 +33,15 @@ Item {
         folder = wanted;
         root.ipport = ipport;
         companion = null;
-        results = channels.map((entry, place) => ({
+        results = channels.map((entry, index) => ({
             channel: entry.channel, name: entry.name, picture: "", message: "",
-            state: place === 0 ? Snapshots.Taking : Snapshots.Waiting
+            state: index === 0 ? Snapshots.Taking : Snapshots.Waiting
         }));
         running = results.length;
         return true;
     }
 
-    /// Leaves out the channels that are not taken yet.
+    /// Cancels the channels that are still waiting.
     function stop() {
         if (batch)
             batch.stop();
@@ -54,7 +54,7 @@ Item {
             ? Object.assign({}, entry, {state: Snapshots.Failed, message: qsTr("未执行")}) : entry);
     }
 
-    /// Takes a snapshot of one channel; an earlier one is replaced. `companion` is that of an added device, else null.
+    /// Takes a snapshot of a channel and replaces its earlier one. `companion` is null for the first device.
     function take(ipport, entry, companion) {
         const wanted = folderOf(ipport);
         if (wanted !== folder)
@@ -73,7 +73,7 @@ Item {
             deviceFactory.snapPictureToFile("dh", "againCapture", entry.channel, folder);
     }
 
-    /// An added device goes, with what it was taking. Its pictures stay.
+    /// Called when an added device is removed: its running snapshots fail. Finished ones are kept.
     function leave(ipport) {
         if (companion === null || ipport !== root.ipport)
             return;
@@ -92,7 +92,7 @@ Item {
             return;
         running -= 1;
         const before = results.find(entry => entry.channel === channel);
-        // The revision makes the view read a replaced file again.
+        // The revision makes the view reload a replaced file.
         change(channel, {picture: picture, message: message, revision: (before?.revision ?? 0) + 1,
                          state: picture !== "" ? Snapshots.Taken : Snapshots.Failed});
     }
@@ -119,7 +119,7 @@ Item {
 
         function onSignalSnapPictureToFile(channel, picture, message) {
             root.note(channel, picture, message);
-            // They are taken in their order.
+            // They are taken in order.
             const next = root.results.find(entry => entry.state === Snapshots.Waiting);
             if (next && root.busy)
                 root.change(next.channel, {state: Snapshots.Taking});

@@ -1,5 +1,5 @@
-// What any page can do with one device besides changing it: showing its details, opening its web page, copying its
-// texts, keeping it as a favourite. Devices are the values of their rows.
+// Actions of all pages on a device that do not change it: details, web page, copy, favourite, note, account. A device
+// is given by the values of its row.
 import QtQuick
 import configtools
 
@@ -8,50 +8,50 @@ Item {
 
     required property var deviceFactory
     required property var fileDialogs
-    required property var webPages  // WebPages
+    required property var webPages  // a WebPages
     property DeviceNotes notes: null
-    property bool ipv6: false  // the rows are those of IPv6 devices, of which no more is known than their rows say
+    property bool ipv6: false  // rows of IPv6 devices: their details are not available
     property alias favouritesFolder: favourites.folder
-    signal said(string message, int kind)
+    signal notify(string message, int severity)
 
     function detailOf(values) {
         return ipv6 ? {} : deviceFactory.getDeviceDetail("dh", values.identity);
     }
 
     function showDetail(values) {
-        const dialog = detail.wanted();
+        const dialog = detail.instance();
         dialog.load(Object.assign({}, values, detailOf(values)));
         dialog.open();
     }
 
-    /// A file of the same name that the folder holds already is not replaced unasked.
+    /// Asks before replacing an existing file.
     function exportDetail(folder, fileName) {
         const path = folder + "/" + fileName;
         if (!fileDialogs.exists(path)) {
             writeDetail(path);
             return;
         }
-        const asked = overwriting.wanted();
+        const asked = overwriting.instance();
         asked.path = path;
         asked.show(qsTr("%1 已存在，是否覆盖？").arg(path), OVMessageBox.DangerQuestion);
     }
 
     function writeDetail(path) {
-        const dialog = detail.wanted();
+        const dialog = detail.instance();
         if (dialog.write(path))
             dialog.inform(qsTr("已导出到 %1").arg(path), OVToast.Success);
         else
             dialog.inform(qsTr("无法写入文件 %1").arg(path), OVToast.Error);
     }
 
-    /// The web page of a device behind a tunnel is reached through a tunnel of its own.
+    /// The web page of a device behind a tunnel needs a second tunnel.
     function openWebPage(values) {
         const known = ipv6 ? values : detailOf(values);
         const port = Number(values.ipport.slice(values.ipport.lastIndexOf(":") + 1));
         const webPort = known.loginType === "P2P" ? deviceFactory.getP2PWebPort(port) : known.httpport;
         const page = AddressTools.webPage(values.ipport, webPort ?? 0, known.https ?? false);
         if (page === "")
-            said(qsTr("这台设备没有可打开的网页"), OVToast.Error);
+            notify(qsTr("这台设备没有可打开的网页"), OVToast.Error);
         else
             webPages.open(page);
     }
@@ -62,9 +62,9 @@ Item {
 
     function editNote(values) {
         if (canNote(values))
-            noteDialog.wanted().edit(values);
+            noteDialog.instance().edit(values);
         else
-            said(qsTr("设备没有报告MAC或UUID，不能添加备注"), OVToast.Refusal);
+            notify(qsTr("设备没有报告MAC或UUID，不能添加备注"), OVToast.Refusal);
     }
 
     function addressOf(values) {
@@ -77,22 +77,22 @@ Item {
     }
 
     function copy(text) {
-        clipboard.put(text);
-        said(qsTr("已复制到剪贴板"), OVToast.Success);
+        clipboard.copy(text);
+        notify(qsTr("已复制到剪贴板"), OVToast.Success);
     }
 
-    /// The account of these devices, by the names of their rows or by address and port.
+    /// Opens the choice of the account for devices, by identity or by address and port.
     function chooseAccount(devices) {
-        accounts.wanted().choose(devices);
+        accounts.instance().choose(devices);
     }
 
-    /// With the account that the device is logged in to with.
+    /// Saves the device with its login account.
     function addFavourite(values) {
         const known = deviceFactory.accountOf("dh", values.ipport);
         const address = addressOf(values);
         const port = values.ipport.slice(values.ipport.lastIndexOf(":") + 1);
         if (favourites.list()[address + "_" + port + ".json"] !== undefined) {
-            said(qsTr("%1 已在收藏夹中").arg(address), OVToast.Information);
+            notify(qsTr("%1 已在收藏夹中").arg(address), OVToast.Information);
             return;
         }
         const isSaved = favourites.save({
@@ -101,9 +101,9 @@ Item {
             password: known.password
         }) !== "";
         if (isSaved)
-            said(qsTr("%1 已添加到收藏夹").arg(address), OVToast.Success);
+            notify(qsTr("%1 已添加到收藏夹").arg(address), OVToast.Success);
         else
-            said(qsTr("收藏无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
+            notify(qsTr("收藏无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
     }
 
     visible: false
@@ -122,7 +122,7 @@ Item {
             id: dialog
             deviceFactory: root.deviceFactory
             onCopyRequested: text => {
-                clipboard.put(text);
+                clipboard.copy(text);
                 dialog.inform(qsTr("已复制到剪贴板"), OVToast.Success);
             }
             onExportRequested: fileName => root.fileDialogs.chooseFolder(
@@ -134,7 +134,7 @@ Item {
         visible: false
         sourceComponent: AccountsDialog {
             accounts: LoginMemory.accounts
-            onSaid: (message, kind) => root.said(message, kind)
+            onNotify: (message, severity) => root.notify(message, severity)
         }
     }
     OVOnDemand {

@@ -1,4 +1,4 @@
-// The address of a device, with a sign when another device has it, too.
+// The address of a device, with an icon for an address conflict.
 import QtQuick
 import configtools
 

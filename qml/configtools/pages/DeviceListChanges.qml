@@ -1,5 +1,5 @@
-// Asks a page to read the list of devices when it has changed: once for all changes of one turn of the event loop, and
-// not while the page is hidden.
+// Requests that a page reads the device list after changes: once per turn of the event loop, only while the page is
+// shown.
 import QtQml
 
 QtObject {
@@ -7,17 +7,17 @@ QtObject {
 
     required property var deviceFactory
     required property bool shown
-    property bool outdated: true  // the page lacks what has changed since it read
-    property bool complete: false  // before, what the page reads with may not be set yet
+    property bool outdated: true  // the list changed since the last read
+    property bool complete: false  // before, properties of the page may not be set
     signal readingRequested
 
-    /// The list has changed.
+    /// Called when the list has changed.
     function note() {
         outdated = true;
         turn.start();
     }
 
-    /// Reads now, when the page is shown and lacks something.
+    /// Requests a read if the page is shown and outdated.
     function read() {
         if (!complete || !shown || !outdated)
             return;

@@ -1,5 +1,4 @@
-// The menu of one device, which its row opens with the right mouse button, the menu key or Shift+F10: what only this
-// page does with a device, and below it what every page does.
+// The context menu of a device (right click, Menu key, Shift+F10): the entries of the page, then the common ones.
 import QtQuick
 import configtools
 
@@ -8,17 +7,17 @@ Item {
 
     required property Batches batches
     required property DeviceActions actions
-    property var values: ({})  // of the row
-    property bool ticks: true  // the page has boxes to tick
-    property var tickedDevices: () => []  // names of their rows, or addresses and ports
-    signal ownChosen(string key, var values)  // an entry of this page
+    property var values: ({})  // values of the row
+    property bool ticks: true  // the page has check boxes
+    property var tickedDevices: () => []  // returns identities, or addresses and ports
+    signal ownChosen(string key, var values)  // an entry of the page was chosen
     signal liveRequested(string ipport)
-    signal similarRequested(string key, var values)  // the devices with the same value of this key are to be ticked
+    signal similarRequested(string key, var values)  // tick the devices with the same value of `key`
 
-    /// `own` are this page's entries, as OVEntryMenu takes them.
-    function offer(place, values, own) {
+    /// `own` are entries of the page, see OVEntryMenu.
+    function offer(position, values, own) {
         root.values = values;
-        menu.wanted().offer(own.concat(commonEntries(own.length > 0)), place);
+        menu.instance().offer(own.concat(commonEntries(own.length > 0)), position);
     }
 
     function commonEntries(begins) {

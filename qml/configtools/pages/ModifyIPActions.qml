@@ -1,5 +1,4 @@
-// What can be done with one device of the main page. Only the current row's actions are reached by Tab, or the
-// way through the table would be hundreds of stops long.
+// The actions of a row of the main page. Only the current row's buttons are stops of the Tab key.
 import QtQuick
 import configtools
 

@@ -1,4 +1,4 @@
-// Adding devices by hand and from favourites: the dialogs, and what happens between them and the devices.
+// Adds devices by hand and from favourites: dialogs, progress and messages.
 import QtQuick
 import configtools
 
@@ -9,37 +9,37 @@ Item {
     required property Batches batches
     required property BusyState busyState
     required property var deviceFactory
-    property var wish: null  // what is being added: "dialog", "device" and "isFavourite"
+    property var pending: null  // the device being added: "dialog", "device", "isFavourite"; null for none
     property alias favouritesFolder: savedDevices.folder
-    signal said(string message, int kind)
-    signal added  // the list has changed
+    signal notify(string message, int severity)
+    signal added  // the device list has changed
 
     function openIp() {
-        byHand.wanted().begin(DeviceAdding.IP);
+        byHand.instance().begin(DeviceAdding.IP);
     }
     function openP2p() {
-        byHand.wanted().begin(DeviceAdding.P2P);
+        byHand.instance().begin(DeviceAdding.P2P);
     }
     function openFavourites() {
-        fromFavourites.wanted().begin();
+        fromFavourites.instance().begin();
     }
 
-    /// Tries to add what the dialog holds. The dialog is busy meanwhile, and may be cancelled.
+    /// Adds the device of the dialog. The dialog is busy meanwhile and can be cancelled.
     function tryDevice(dialog, device, isFavourite) {
-        // The device takes the place of its row, with another account and address.
+        // The device may replace its row and change account and address.
         const refusal = busyState.refusal(BusyState.ChangeAddress);
         if (refusal !== "") {
             dialog.inform(refusal, OVToast.Error);
             return;
         }
         dialog.busy = true;
-        wish = {dialog: dialog, device: device, isFavourite: isFavourite};
+        pending = {dialog: dialog, device: device, isFavourite: isFavourite};
         deviceAdding.addDevice(device);
     }
 
     function showOutcome(outcome) {
-        const {dialog, device, isFavourite} = wish;
-        wish = null;
+        const {dialog, device, isFavourite} = pending;
+        pending = null;
         dialog.busy = false;
         if (outcome.result !== DeviceAdding.Added) {
             const error = deviceAdding.errorText(outcome);
@@ -49,9 +49,9 @@ Item {
         dialog.close();
         added();
         if (isFavourite && savedDevices.save(device) === "")
-            said(qsTr("设备已添加，但无法保存到收藏夹，请检查程序所在文件夹的写入权限"), OVToast.Error);
+            notify(qsTr("设备已添加，但无法保存到收藏夹，请检查程序所在文件夹的写入权限"), OVToast.Error);
         else
-            said(isFavourite ? qsTr("设备已添加，并保存到收藏夹") : qsTr("设备已添加"), OVToast.Success);
+            notify(isFavourite ? qsTr("设备已添加，并保存到收藏夹") : qsTr("设备已添加"), OVToast.Success);
     }
 
     DeviceAdding {

@@ -1,4 +1,4 @@
-// First passwords and new addresses: their dialogs, and sending them device by device.
+// Initialisation and address changes: dialogs, batches and messages.
 import QtQuick
 import configtools
 
@@ -10,14 +10,14 @@ Item {
     required property var deviceTable  // a DeviceTableModel
     required property Batches batches
     property Batch batch: null
-    signal said(string message, int kind)
-    signal begun  // a dialog has closed over a batch that it has begun
+    signal notify(string message, int severity)
+    signal begun  // a dialog has closed after starting a batch
 
-    /// Whether devices may be changed now; otherwise a notice names the running work.
+    /// Whether devices may be changed now. If not, reports the obstacle.
     function mayBegin() {
         const refusal = busyState.refusal(BusyState.ChangeAddress);
         if (refusal !== "")
-            said(refusal, OVToast.Refusal);
+            notify(refusal, OVToast.Refusal);
         return refusal === "";
     }
 
@@ -25,19 +25,19 @@ Item {
         if (!mayBegin())
             return;
         if (deviceTable.checkedRowsWith(false).length === 0) {
-            said(qsTr("请选择一台未初始化的设备"), OVToast.Refusal);
+            notify(qsTr("请选择一台未初始化的设备"), OVToast.Refusal);
             return;
         }
-        const dialog = initialising.wanted();
+        const dialog = initialising.instance();
         dialog.load(deviceTable.checkedRows());
         dialog.open();
     }
 
-    /// New addresses for the ticked rows.
+    /// Changes the addresses of the ticked rows.
     function modifyChecked() {
         const rows = deviceTable.checkedRows();
         if (rows.length === 0)
-            said(qsTr("请选择一台设备"), OVToast.Refusal);
+            notify(qsTr("请选择一台设备"), OVToast.Refusal);
         else
             askForAddresses(rows, true);
     }
@@ -45,7 +45,7 @@ Item {
     function modifyRow(row) {
         const values = deviceTable.get(row);
         if (UpgradeTools.isRunning(values.upgraderes ?? UpgradeTools.None))
-            said(qsTr("设备正在升级，不能修改IP地址"), OVToast.Refusal);
+            notify(qsTr("设备正在升级，不能修改IP地址"), OVToast.Refusal);
         else
             askForAddresses([values], false);
     }
@@ -53,7 +53,7 @@ Item {
     function askForAddresses(rows, isBatch) {
         if (!mayBegin())
             return;
-        const dialog = readdressing.wanted();
+        const dialog = readdressing.instance();
         dialog.load(rows, isBatch);
         dialog.open();
     }
@@ -68,29 +68,29 @@ Item {
                                         dialog.plan.addresses(), dialog.mask, dialog.gateway, dialog.dhcp);
     }
 
-    /// A closed dialog returns the focus to the button that opened it, where a second Enter would open it again.
+    /// A closed dialog returns the focus to its button, where a second Enter would open it again.
     function leaveButton() {
         if (batches.running)
             begun();
     }
 
-    /// Says how it went, and reads the whole table.
-    function tellEnd() {
+    /// Reports the result and refreshes the table.
+    function notifyEnd() {
         const report = batch.report;
         deviceTable.refresh();
         keeper.keep();
         const kept = batch === keeper.batch ? keeper.words : "";
         if (kept !== "")
-            said(kept, keeper.failure !== "" ? OVToast.Error : OVToast.Success);
+            notify(kept, keeper.failure !== "" ? OVToast.Error : OVToast.Success);
         if (report.notDone > 0)
-            said(qsTr("已停止：%1").arg(report.summary), report.failed > 0 ? OVToast.Error : OVToast.Information);
+            notify(qsTr("已停止：%1").arg(report.summary), report.failed > 0 ? OVToast.Error : OVToast.Information);
         else if (report.failed > 0)
-            //: Of the devices of a batch, those whose result is a failure.
-            said(qsTr("%n 台设备未成功，请查看修改结果", "", report.failed), OVToast.Error);
+            //: Devices of a batch that failed.
+            notify(qsTr("%n 台设备未成功，请查看修改结果", "", report.failed), OVToast.Error);
         else if (report.succeeded === 0)
-            said(report.summary, OVToast.Information);
+            notify(report.summary, OVToast.Information);
         else
-            said(batch.changesAddresses ? qsTr("已修改 %n 台设备的IP地址", "", report.succeeded)
+            notify(batch.changesAddresses ? qsTr("已修改 %n 台设备的IP地址", "", report.succeeded)
                                         : qsTr("已初始化 %n 台设备", "", report.succeeded), OVToast.Success);
     }
 
@@ -107,7 +107,7 @@ Item {
             root.deviceTable.refreshDevices(identities);
         }
         function onFinished() {
-            root.tellEnd();
+            root.notifyEnd();
         }
     }
     Connections {
@@ -118,7 +118,7 @@ Item {
                 root.batch = again;
         }
         function onCurrentChanged() {
-            // Addresses are also put back from the panel of batches.
+            // The panel of batches can restore addresses, too.
             if (root.batches.current.changesAddresses)
                 root.batch = root.batches.current;
         }
@@ -131,7 +131,7 @@ Item {
             id: list
             onClosed: root.leaveButton()
             onConfirmed: {
-                const dialog = firstPassword.wanted();
+                const dialog = firstPassword.instance();
                 dialog.load(list.count);
                 dialog.open();
             }
@@ -145,7 +145,7 @@ Item {
             deviceFactory: root.deviceFactory
             onClosed: root.leaveButton()
             onConfirmed: {
-                const list = initialising.wanted();
+                const list = initialising.instance();
                 const identities = list.chosen();
                 const name = account.account;
                 const word = account.password;

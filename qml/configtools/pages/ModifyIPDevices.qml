@@ -1,4 +1,4 @@
-// Deleting the ticked devices of the main page from the list.
+// Deletes the ticked devices from the list.
 import QtQuick
 import configtools
 
@@ -7,22 +7,22 @@ Item {
 
     required property BusyState busyState
     required property var deviceTable  // a DeviceTableModel
-    signal said(string message, int kind)
+    signal notify(string message, int severity)
 
     function removeChecked() {
         const refusal = busyState.refusal(BusyState.Delete);
         if (deviceTable.checkedCount === 0)
-            said(qsTr("请选择一台设备"), OVToast.Refusal);
+            notify(qsTr("请选择一台设备"), OVToast.Refusal);
         else if (refusal !== "")
-            said(refusal, OVToast.Refusal);
+            notify(refusal, OVToast.Refusal);
         else
-            question.wanted().show(qsTr("请确认是否要删除", "", deviceTable.checkedCount), OVMessageBox.DangerQuestion);
+            question.instance().show(qsTr("请确认是否要删除", "", deviceTable.checkedCount), OVMessageBox.DangerQuestion);
     }
 
     function removeNow() {
         const kept = deviceTable.deleteChecked();
         if (kept > 0)
-            said(qsTr("%n 台设备正在升级，没有删除", "", kept), OVToast.Error);
+            notify(qsTr("%n 台设备正在升级，没有删除", "", kept), OVToast.Error);
     }
 
     visible: false

@@ -1,4 +1,4 @@
-// Why the table of the main page is empty, and what to do.
+// Empty state of a device table: the reason, and actions.
 import QtQuick
 import configtools
 
@@ -7,12 +7,12 @@ OVEmptyState {
 
     required property bool searching
     required property bool libraryInstalled
-    required property int hiddenCount  // devices that the filters leave out
-    required property bool searchesNothing  // the search settings name nothing to search
-    property bool hasReport: false  // of the last search, offered by the page
-    property bool helps: false  // the page opens the settings, adds devices and opens the demo site
+    required property int hiddenCount  // number of devices hidden by filters
+    required property bool searchesNothing  // the search settings select no network
+    property bool hasReport: false  // a report of the last search is available
+    property bool helps: false  // the page offers settings, adding devices and the demo site
     property bool simulated: false
-    property string searched  // the networks of the last search
+    property string searched  // networks of the last search, as text
     signal searchRequested
     signal addRequested
     signal demoRequested

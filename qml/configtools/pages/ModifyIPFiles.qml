@@ -1,4 +1,4 @@
-// Writing device lists to files and reading them back.
+// Exports and imports device lists.
 import QtQuick
 import configtools
 
@@ -11,28 +11,28 @@ Item {
     required property var deviceFactory
     required property var fileDialogs
     required property var deviceTable  // a DeviceTableModel
-    required property bool shown  // the page is
+    required property bool shown  // the page is visible
     readonly property bool running: addingBatches.reading || writing
     property bool writing: false
     readonly property string runningText: addingBatches.reading ? qsTr("正在读取设备列表…") : qsTr("正在导出设备…")
-    property Batch batch: null  // the last import
-    property bool untold: false  // the lines of it that failed are still to be shown
-    signal said(string message, int kind)
+    property Batch batch: null  // batch of the last import
+    property bool reportPending: false  // its failed lines are to be shown when the page is visible
+    signal notify(string message, int severity)
 
     function startExport() {
         if (deviceTable.checkedCount === 0)
-            said(qsTr("请选择一台设备"), OVToast.Refusal);
+            notify(qsTr("请选择一台设备"), OVToast.Refusal);
         else
-            format.wanted().open();
+            format.instance().open();
     }
 
-    /// A list of the same name that the folder holds already is not replaced unasked.
+    /// Asks before replacing an existing file.
     function exportTo(folder, fileName) {
         if (!fileDialogs.exists(folder + "/" + fileName)) {
             writeList(folder, fileName);
             return;
         }
-        const asked = question.wanted();
+        const asked = question.instance();
         asked.folder = folder;
         asked.fileName = fileName;
         asked.show(qsTr("%1 已存在，是否覆盖？").arg(folder + "/" + fileName), OVMessageBox.DangerQuestion);
@@ -41,26 +41,26 @@ Item {
     function writeList(folder, fileName) {
         const macs = deviceTable.checkedMacs();
         writing = true;
-        hold.open();
+        blocker.open();
         paint.run(() => {
             const written = deviceFactory.exportDevice("dh", folder, macs, fileName);
             writing = false;
-            hold.release();
+            blocker.release();
             if (written)
                 reportExport(qsTr("导出设备成功\n文件路径:") + folder + "/" + fileName);
             else
-                said(qsTr("导出设备失败，请检查本机是否已经安装了Office"), OVToast.Error);
+                notify(qsTr("导出设备失败，请检查本机是否已经安装了Office"), OVToast.Error);
         });
     }
 
-    /// Tells of the success, and of what the file will not give back.
+    /// Reports success, and the values that cannot be imported from the file again.
     function reportExport(success) {
         const faults = deviceFactory.exportFaults("dh");
         if (faults.length === 0) {
-            said(success, OVToast.Success);
+            notify(success, OVToast.Success);
             return;
         }
-        const dialog = exportReport.wanted();
+        const dialog = exportReport.instance();
         dialog.load(success + "\n" + qsTr("以下内容无法从该文件正确导入："), faults);
         dialog.open();
     }
@@ -68,10 +68,10 @@ Item {
     function startImport() {
         fileDialogs.chooseFile(qsTr("打开excel文件"),
                                ["Excel Files (*.xlsx)", "CSV Files (*.csv)", "XML Files (*.xml)"], path => {
-            // An imported device takes the place of its row, with another account and address.
+            // An imported device may replace its row and change account and address.
             const refusal = busyState.refusal(BusyState.ChangeAddress);
             if (refusal !== "") {
-                said(refusal, OVToast.Refusal);
+                notify(refusal, OVToast.Refusal);
                 return;
             }
             addingBatches.importList(qsTr("导入"), path);
@@ -83,28 +83,28 @@ Item {
         return qsTr("批量导入设备：") + report.succeeded + "/" + report.total + " " + qsTr("台已完成");
     }
 
-    /// On another page the user is at something else: what failed is shown when he comes back.
-    function tellEnd() {
+    /// While another page is shown, only a summary is reported; the failures follow when this page is shown.
+    function notifyEnd() {
         const report = batch.report;
-        untold = report.succeeded < report.total;
-        if (!untold)
-            said(summary(), report.total > 0 ? OVToast.Success : OVToast.Information);
+        reportPending = report.succeeded < report.total;
+        if (!reportPending)
+            notify(summary(), report.total > 0 ? OVToast.Success : OVToast.Information);
         else if (!shown)
-            said(summary(), OVToast.Information);
-        tellUntold();
+            notify(summary(), OVToast.Information);
+        showPendingReport();
     }
 
-    function tellUntold() {
-        if (!untold || !shown || batch.running)
+    function showPendingReport() {
+        if (!reportPending || !shown || batch.running)
             return;
-        untold = false;
-        const dialog = importReport.wanted();
+        reportPending = false;
+        const dialog = importReport.instance();
         dialog.load(summary(), addingBatches.importFailures(batch));
         dialog.open();
     }
 
     visible: false
-    onShownChanged: tellUntold()
+    onShownChanged: showPendingReport()
 
     Connections {
         target: root.addingBatches
@@ -113,7 +113,7 @@ Item {
             root.batch = batch;
         }
         function onImportRefused(reason) {
-            root.said(qsTr("导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！") + "\n" + reason, OVToast.Error);
+            root.notify(qsTr("导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！") + "\n" + reason, OVToast.Error);
         }
     }
     Connections {
@@ -128,14 +128,14 @@ Item {
         target: root.batch
 
         function onFinished() {
-            root.tellEnd();
+            root.notifyEnd();
         }
     }
     OVAfterPaint {
         id: paint
     }
-    OVInputHold {
-        id: hold
+    OVInputBlocker {
+        id: blocker
     }
 
     // qmllint disable unqualified

@@ -1,4 +1,4 @@
-// The table of the main page: its columns, and what their cells look like.
+// The table of the main page: columns and cells.
 import QtQuick
 import configtools
 
@@ -6,7 +6,7 @@ OVTable {
     id: root
 
     required property bool ipv6
-    required property var deviceFactory  // knows the names of results
+    required property var deviceFactory  // provides names of results
     signal editRequested(int row)
     signal detailRequested(int row)
     signal webRequested(int row)
@@ -69,7 +69,7 @@ OVTable {
         OVTableCell {
             id: name
 
-            OVFailedSign {  // of whichever work: it is no result of a change of the address
+            OVFailedSign {  // of any batch, not only address changes
                 id: failedSign
                 anchors.verticalCenter: parent.verticalCenter
                 failure: name.row?.failure ?? ""
@@ -99,7 +99,7 @@ OVTable {
                     cursorShape: Qt.PointingHandCursor
                 }
                 TapHandler {
-                    gesturePolicy: TapHandler.ReleaseWithinBounds  // the row does not get the click
+                    gesturePolicy: TapHandler.ReleaseWithinBounds  // the row must not receive the click
                     onTapped: root.noteRequested(name.rowIndex)
                 }
                 OVToolTip {
@@ -145,7 +145,7 @@ OVTable {
                 anchors.right: parent.right
                 anchors.rightMargin: Theme.half
                 height: parent.height
-                opacity: truncated ? 0 : 1  // then only the dot, with the word under the pointer
+                opacity: truncated ? 0 : 1  // only the dot; the tool tip has the text
                 text: state.value ? qsTr("已初始化") : qsTr("未初始化")
             }
         }

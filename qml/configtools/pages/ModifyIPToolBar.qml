@@ -1,5 +1,5 @@
-// What can be done with the devices of the main page, and which of them are shown. In a narrow window the second part
-// stands below the first one.
+// The tool bar of the main page: actions on the ticked devices, and filters. In a narrow window the filters are in a
+// second line.
 import QtQuick
 import QtQuick.Layouts
 import configtools
@@ -11,7 +11,7 @@ Item {
     required property bool showUninitialised
     required property bool ipv6
     required property DeviceTableModel devices
-    required property int upgradingCount  // of the ticked devices
+    required property int upgradingCount  // number of ticked devices that are being upgraded
     property alias searchText: searchField.text
     property int tipDrop: Theme.toolTipDrop
     readonly property bool keyGroup: true
@@ -78,7 +78,7 @@ Item {
             opensMenu: true
             text: qsTr("手动添加")
             toolTip: qsTr("添加搜索不到的设备：按IP、按P2P或从收藏夹")
-            onClicked: addMenu.wanted().popup(addButton, 0, addButton.height + Theme.half)
+            onClicked: addMenu.instance().popup(addButton, 0, addButton.height + Theme.half)
 
             // qmllint disable unqualified
             OVOnDemand {

@@ -1,4 +1,4 @@
-// Commands to devices over their web service: to one, to all ticked ones, or from a workbook.
+// The CGI page: sends commands to one device, to all ticked ones, or from a workbook.
 import QtQuick
 import QtQuick.Layouts
 import configtools
@@ -10,12 +10,12 @@ FocusScope {
     property DeviceSearch search: null
     readonly property bool searching: search?.running ?? false
     required property bool libraryInstalled
-    property var memory: null  // of the arrangement of tables
+    property var memory: null  // stores the arrangement of tables
     property DeviceNotes notes: null
     signal searchRequested
     signal liveRequested(string ipport)
-    signal said(string message, int kind)
-    signal settled  // the selection has changed: a refusal may no longer hold
+    signal notify(string message, int severity)
+    signal selectionChanged  // the selection changed: refusals may no longer apply
 
     readonly property int ticked: devices.checkedCount
     readonly property alias deviceTable: devices
@@ -35,13 +35,13 @@ FocusScope {
 
     function askForAll() {
         if (devices.checkedCount === 0)
-            said(qsTr("请选择一台设备。"), OVToast.Refusal);
+            notify(qsTr("请选择一台设备。"), OVToast.Refusal);
         else
-            batchWindow.wanted().ask(devices.checkedCount);
+            batchWindow.instance().ask(devices.checkedCount);
     }
 
     function askToSend(command) {
-        preview.wanted().askRows(qsTr("将向下列设备发送命令："), command, devices.checkedRows(), {
+        preview.instance().askRows(qsTr("将向下列设备发送命令："), command, devices.checkedRows(), {
             title: qsTr("批量配置CGI"), okText: qsTr("执行"), listed: true, quick: true,
             action: identities => cgiSender.sendToAll(identities, command)
         });
@@ -52,10 +52,10 @@ FocusScope {
         if (key === "send") {
             cgiSender.send(row);
         } else if (key === "answer") {
-            answerWindow.wanted().show(values.ipport, cgiSender.answerOf(row));
+            answerWindow.instance().show(values.ipport, cgiSender.answerOf(row));
         } else {
             cgiManager.copyText(cgiSender.answerOf(row));
-            said(qsTr("复制成功"), OVToast.Success);
+            notify(qsTr("复制成功"), OVToast.Success);
         }
     }
 
@@ -70,7 +70,7 @@ FocusScope {
     }
 
     objectName: "pageCGIConfig"
-    onTickedChanged: settled()
+    onTickedChanged: selectionChanged()
 
     DeviceTableModel {
         id: devices
@@ -88,7 +88,7 @@ FocusScope {
     OVBatchRefusals {
         batches: page.batches
         shown: page.visible
-        onSaid: (message, kind) => page.said(message, kind)
+        onNotify: (message, severity) => page.notify(message, severity)
     }
     CgiCommands {
         id: cgiCommands
@@ -104,13 +104,13 @@ FocusScope {
         objectName: "cgiSender"
         onAccountRefused: (identity, ipport, result) => {
             if (page.visible)
-                relogin.wanted().askFor(identity, ipport, result);
+                relogin.instance().askFor(identity, ipport, result);
         }
         onFailed: lines => {
             if (page.visible)
-                answerWindow.wanted().show(qsTr("未成功的设备"), lines.join("\n"));
+                answerWindow.instance().show(qsTr("未成功的设备"), lines.join("\n"));
         }
-        onSaid: (message, kind) => page.said(message, kind)
+        onNotify: (message, severity) => page.notify(message, severity)
     }
     CgiWorkbook {
         id: workbook
@@ -119,7 +119,7 @@ FocusScope {
         cgiManager: page.cgiManager
         fileDialogs: page.fileDialogs
         shown: page.visible
-        onSaid: (message, kind) => page.said(message, kind)
+        onNotify: (message, severity) => page.notify(message, severity)
     }
     DeviceActions {
         id: deviceActions
@@ -127,7 +127,7 @@ FocusScope {
         fileDialogs: page.fileDialogs
         notes: page.notes
         webPages: page.webPages
-        onSaid: (message, kind) => page.said(message, kind)
+        onNotify: (message, severity) => page.notify(message, severity)
     }
     DeviceMenu {
         id: menu
@@ -254,10 +254,10 @@ FocusScope {
         onAnswerCopyRequested: row => page.actOn("copyAnswer", row)
         onAnswerOpenRequested: row => page.actOn("answer", row)
         onCopyRequested: row => deviceActions.copy(devices.textOf([row]))
-        onMenuRequested: (row, place) => menu.offer(place, devices.get(row), page.entriesOf(devices.get(row)))
+        onMenuRequested: (row, position) => menu.offer(position, devices.get(row), page.entriesOf(devices.get(row)))
         onNoteRequested: row => deviceActions.editNote(devices.get(row))
         onRangeToggled: (first, last, checked) => devices.setRangeChecked(first, last, checked)
-        onRowOpened: row => deviceActions.showDetail(devices.get(row))
+        onRowActivated: row => deviceActions.showDetail(devices.get(row))
         onSendRequested: row => page.actOn("send", row)
         onSortRequested: key => devices.toggleSort(key)
 
@@ -287,9 +287,9 @@ FocusScope {
         width: parent.width - 2 * x
         batches: page.batches
         search: page.search
-        //: At the foot of a page.
+        //: In the status line of a page.
         text: qsTr("%n台设备已选中", "", devices.checkedCount)
-        onSaid: (message, kind) => page.said(message, kind)
+        onNotify: (message, severity) => page.notify(message, severity)
         onTickRequested: identities => devices.setCheckedDevices(identities)
     }
 }

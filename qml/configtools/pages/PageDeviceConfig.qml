@@ -1,5 +1,5 @@
-// Configuration of one device at a time: which one at the left, its settings at the right. Encode settings can be
-// copied to the ticked devices.
+// The configuration page: device tree on the left, settings of one device on the right. Encode settings can be copied
+// to the ticked devices.
 import QtQuick
 import configtools
 
@@ -14,8 +14,8 @@ FocusScope {
     property DeviceNotes notes: null
     signal searchRequested
     signal liveRequested(string ipport)
-    signal said(string message, int kind, int stay)
-    signal settled  // the selection has changed: a refusal may no longer hold
+    signal notify(string message, int severity, int duration)
+    signal selectionChanged  // the selection changed: refusals may no longer apply
 
     readonly property int ticked: devices.checkedCount
     readonly property alias treeDevices: devices
@@ -26,7 +26,7 @@ FocusScope {
     readonly property var webPages: WebPagesApi
     // qmllint enable unqualified
 
-    /// Devices to copy to: the ticked ones but for that whose settings are copied.
+    /// Targets of a copy: the ticked devices without the current one.
     readonly property var targets: devices.without(devices.checkedDevices, session.device)
 
     function focusSearch() {
@@ -41,17 +41,17 @@ FocusScope {
         devices.resetItems(deviceTree.searchText === "" ? "removeuninit" : "search", deviceTree.searchText);
     }
 
-    /// Does `action`, after the user has agreed to lose what was changed and not saved. Returns whether that was asked.
+    /// Runs `action`, after asking about unsaved changes. Returns whether a question is shown.
     function leave(action) {
         if (session.unsaved === 0) {
             action();
             return false;
         }
-        const box = question.wanted();
-        box.goOn = action;
+        const box = question.instance();
+        box.leaveAction = action;
         box.action = () => {
-            session.encoding.forget();
-            session.names.forget();
+            session.encoding.clear();
+            session.names.clear();
             action();
         };
         box.otherText = session.upgrading || !session.loggedIn ? "" : qsTr("保存并离开");
@@ -60,7 +60,7 @@ FocusScope {
         return true;
     }
 
-    /// What cannot be saved is shown, and the user stays.
+    /// Saves, then runs `action`. If a name is invalid, shows it and stays.
     function saveAndLeave(action) {
         const faulty = session.names.unsaved > 0 && session.names.form.firstFaulty() >= 0;
         if (session.encoding.unsaved > 0)
@@ -72,13 +72,13 @@ FocusScope {
     }
 
     function namePattern() {
-        naming.wanted().ask(session.device, session.names.form.count, devices.tickedNow());
+        naming.instance().ask(session.device, session.names.form.count, devices.tickedNow());
     }
 
-    /// The tab shows the name that its device has taken.
+    /// Called after a batch of names: the tab shows the new name.
     function takeNamed(report) {
         if (report.devicesWith(BatchReport.Succeeded).includes(session.device))
-            session.names.forget();
+            session.names.clear();
         session.readShown();
     }
 
@@ -92,18 +92,18 @@ FocusScope {
 
     function copy() {
         const number = session.encoding.form.channel + 1;
-        //: %1 is a channel's number.
+        //: %1 is a channel number.
         const words = qsTr("将通道 %1 的编码配置复制到选中的 %n 台设备的同一通道？", "", targets.length).arg(number)
             + (session.encoding.unsaved > 0 ? "\n" + qsTr("其中包括尚未保存的修改。") : "");
-        //: What happens to a device; %1 is a channel's number.
-        preview.wanted().ask(words, qsTr("写入通道 %1 的编码配置").arg(number), Array.from(targets), {
+        //: The change of a device; %1 is a channel number.
+        preview.instance().ask(words, qsTr("写入通道 %1 的编码配置").arg(number), Array.from(targets), {
             title: qsTr("复制编码配置"), okText: qsTr("复制"), action: chosen => copying.start(chosen)
         });
     }
 
     objectName: "pageDeviceConfig"
     onSearchingChanged: if (searching) devices.clearResults()
-    onTickedChanged: settled()
+    onTickedChanged: selectionChanged()
     onVisibleChanged: if (visible) session.readShown()
 
     OVTreeModel {
@@ -122,16 +122,16 @@ FocusScope {
 
         function onSignalSetChannelNameFinished() {
             const row = page.deviceFactory.getDeviceInfo("dh", session.device);
-            if (session.names.read && session.names.form.count === 1) {  // a camera bears the name of its channel
+            if (session.names.read && session.names.form.count === 1) {  // a camera's name is that of its channel
                 const channel = Object.assign({}, session.names.form.get(0));
                 page.deviceFactory.updataDeviceInfo("dh", "name", channel.saved, row.mac ?? "", session.device);
                 return;
             }
-            page.deviceFactory.refreshDevices("dh", [row.identity || row.mac || session.device]);  // its row may show the name
+            page.deviceFactory.refreshDevices("dh", [row.identity || row.mac || session.device]);  // may show a name
         }
     }
 
-    // The next device is opened once everybody has learnt that the names are saved.
+    // The next device is opened after all receivers of the signal have run.
     Timer {
         id: goingOn
         interval: 0
@@ -143,7 +143,7 @@ FocusScope {
         shown: page.visible
         onLoggedInChanged: if (page.visible) page.refresh()
         onRenewed: if (page.visible) readShown()
-        onSaid: (message, kind, stay) => page.said(message, kind, stay)
+        onNotify: (message, severity, duration) => page.notify(message, severity, duration)
     }
     Shortcut {
         enabled: page.visible && session.names.running && !page.batches.running && !page.searching
@@ -151,7 +151,7 @@ FocusScope {
         onActivated: session.names.stop()
     }
     BusyReport {
-        active: session.writing  // what is only read is given up
+        active: session.writing  // reading is cancelled without a question
         need: BusyState.Program
         state: page.busyState
         title: qsTr("设备配置")
@@ -165,14 +165,14 @@ FocusScope {
     OVBatchRefusals {
         batches: page.batches
         shown: page.visible
-        onSaid: (message, kind) => page.said(message, kind, Theme.errorToastStay)
+        onNotify: (message, severity) => page.notify(message, severity, Theme.errorToastDuration)
     }
     ConfigCopy {
         id: copying
         batches: page.batches
         deviceFactory: page.deviceFactory
         devices: devices
-        onSaid: (message, kind, stay) => page.said(message, kind, stay)
+        onNotify: (message, severity, duration) => page.notify(message, severity, duration)
     }
 
     // qmllint disable unqualified
@@ -181,11 +181,11 @@ FocusScope {
         visible: false
         sourceComponent: OVMessageBox {
             property var action: null
-            property var goOn: null
+            property var leaveAction: null
 
             objectName: "questionBox"
             title: qsTr("未保存的修改")
-            onOtherChosen: page.saveAndLeave(goOn)
+            onOtherChosen: page.saveAndLeave(leaveAction)
             onAccepted: {
                 const wanted = action;
                 wanted();
@@ -238,8 +238,8 @@ FocusScope {
         fileDialogs: page.fileDialogs
         notes: page.notes
         webPages: page.webPages
-        onSaid: (message, kind) => page.said(message, kind, kind === OVToast.Error ? Theme.errorToastStay
-                                                                                   : Theme.toastStay)
+        onNotify: (message, severity) => page.notify(message, severity, severity === OVToast.Error ? Theme.errorToastDuration
+                                                                                   : Theme.toastDuration)
     }
     DeviceMenu {
         id: menu
@@ -265,7 +265,7 @@ FocusScope {
         libraryInstalled: page.libraryInstalled
         searching: page.searching
         onDeviceChosen: ipport => page.choose(ipport)
-        onMenuRequested: (name, place) => menu.offer(place, page.valuesOf(name), [{
+        onMenuRequested: (name, position) => menu.offer(position, page.valuesOf(name), [{
             key: "choose", text: qsTr("配置这台设备")
         }])
         onSearchRequested: page.searchRequested()
@@ -301,10 +301,10 @@ FocusScope {
         running: session.names.running
         runningDevice: session.names.current
         runningText: qsTr("正在保存通道名称…") + qsTr("（按Esc停止）")
-        //: At the foot of a page.
+        //: In the status line of a page.
         text: qsTr("%n台设备已选中", "", devices.checkedCount)
-        onSaid: (message, kind) => page.said(message, kind, kind === OVToast.Error ? Theme.errorToastStay
-                                                                                   : Theme.toastStay)
+        onNotify: (message, severity) => page.notify(message, severity, severity === OVToast.Error ? Theme.errorToastDuration
+                                                                                   : Theme.toastDuration)
         onTickRequested: identities => devices.setCheckedDevices(identities)
     }
 }

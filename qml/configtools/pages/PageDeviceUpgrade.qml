@@ -1,4 +1,4 @@
-// Firmware for devices: a file for each, and how far each one's upgrade is.
+// The upgrade page: a firmware file for each device, and its progress.
 import QtQuick
 import configtools
 
@@ -9,12 +9,12 @@ FocusScope {
     property DeviceSearch search: null
     readonly property bool searching: search?.running ?? false
     required property bool libraryInstalled
-    property var memory: null  // of the arrangement of tables
+    property var memory: null  // stores the arrangement of tables
     property DeviceNotes notes: null
     signal searchRequested
     signal liveRequested(string ipport)
-    signal said(string message, int kind)
-    signal settled  // the selection has changed: a refusal may no longer hold
+    signal notify(string message, int severity)
+    signal selectionChanged  // the selection changed: refusals may no longer apply
 
     readonly property int ticked: devices.checkedCount
     readonly property alias deviceTable: devices
@@ -33,12 +33,12 @@ FocusScope {
 
     property int atOnce: localConfig.upgradesAtOnce()
 
-    /// For the upgrades that begin from now on, also after the next start.
+    /// Sets the number of concurrent upgrades and stores it. It applies to upgrades started from now on.
     function chooseAtOnce(count) {
         localConfig.setUpgradesAtOnce(count);
         atOnce = localConfig.upgradesAtOnce();
         if (atOnce !== count)
-            said(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
+            notify(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
     }
 
     function actOn(key, row) {
@@ -62,7 +62,7 @@ FocusScope {
     }
 
     objectName: "pageDeviceUpgrade"
-    onTickedChanged: settled()
+    onTickedChanged: selectionChanged()
 
     DeviceTableModel {
         id: devices
@@ -80,7 +80,7 @@ FocusScope {
     OVBatchRefusals {
         batches: page.batches
         shown: page.visible
-        onSaid: (message, kind) => page.said(message, kind)
+        onNotify: (message, severity) => page.notify(message, severity)
     }
     UpgradeWork {
         id: work
@@ -91,7 +91,7 @@ FocusScope {
         shown: page.visible
         upgradeBatches: page.upgradeBatches
         onChanged: changes.note()
-        onSaid: (message, kind) => page.said(message, kind)
+        onNotify: (message, severity) => page.notify(message, severity)
     }
 
     DeviceActions {
@@ -101,7 +101,7 @@ FocusScope {
         ipv6: devices.ipv6
         notes: page.notes
         webPages: page.webPages
-        onSaid: (message, kind) => page.said(message, kind)
+        onNotify: (message, severity) => page.notify(message, severity)
     }
     DeviceMenu {
         id: menu
@@ -151,10 +151,10 @@ FocusScope {
         onAllToggled: checked => devices.setAllChecked(checked)
         onCopyRequested: row => deviceActions.copy(devices.textOf([row]))
         onFileRequested: row => page.actOn("file", row)
-        onMenuRequested: (row, place) => menu.offer(place, devices.get(row), page.entriesOf(devices.get(row)))
+        onMenuRequested: (row, position) => menu.offer(position, devices.get(row), page.entriesOf(devices.get(row)))
         onNoteRequested: row => deviceActions.editNote(devices.get(row))
         onRangeToggled: (first, last, checked) => devices.setRangeChecked(first, last, checked)
-        onRowOpened: row => deviceActions.showDetail(devices.get(row))
+        onRowActivated: row => deviceActions.showDetail(devices.get(row))
         onSortRequested: key => devices.toggleSort(key)
         onStartRequested: row => page.actOn("start", row)
         onStopRequested: row => page.actOn("stop", row)
@@ -185,9 +185,9 @@ FocusScope {
         width: parent.width - 2 * x
         batches: page.batches
         search: page.search
-        //: At the foot of a page.
+        //: In the status line of a page.
         text: qsTr("%n台设备已选中", "", devices.checkedCount)
-        onSaid: (message, kind) => page.said(message, kind)
+        onNotify: (message, severity) => page.notify(message, severity)
         onTickRequested: identities => devices.setCheckedDevices(identities)
     }
 }

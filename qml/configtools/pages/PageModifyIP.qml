@@ -1,4 +1,4 @@
-// The main page: the devices that a search found, and what can be done with them.
+// The main page: the device list and actions on it.
 import QtQuick
 import configtools
 
@@ -10,7 +10,7 @@ FocusScope {
     required property DeviceSearch search
     required property bool libraryInstalled
     property bool simulated: false
-    required property var memory  // of the arrangement of tables
+    required property var memory  // stores the arrangement of tables
     property DeviceNotes notes: null
     required property SearchReports searchReports
     signal searchRequested
@@ -19,8 +19,8 @@ FocusScope {
     signal demoRequested
     signal liveRequested(string ipport)
     signal galleryRequested(var rows)
-    signal said(string message, int kind)
-    signal settled  // the selection has changed: a refusal may no longer hold
+    signal notify(string message, int severity)
+    signal selectionChanged  // the selection changed: refusals may no longer apply
 
     readonly property int ticked: devices.checkedCount
     readonly property alias deviceTable: devices
@@ -38,7 +38,7 @@ FocusScope {
 
     function openGallery() {
         if (devices.checkedCount === 0)
-            said(qsTr("请选择一台设备"), OVToast.Refusal);
+            notify(qsTr("请选择一台设备"), OVToast.Refusal);
         else if (batches.mayStart())
             galleryRequested(devices.checkedRows());
     }
@@ -55,7 +55,7 @@ FocusScope {
     }
 
     objectName: "pageModifyIP"
-    onTickedChanged: settled()
+    onTickedChanged: selectionChanged()
 
     DeviceTableModel {
         id: devices
@@ -76,7 +76,7 @@ FocusScope {
 
         function onSignalTunnelBroken(deviceId) {
             list.note();
-            page.said(deviceId === "" ? qsTr("P2P服务已断开，P2P设备暂时无法访问")
+            page.notify(deviceId === "" ? qsTr("P2P服务已断开，P2P设备暂时无法访问")
                 : qsTr("到P2P设备 %1 的连接已断开，请删除后重新添加").arg(deviceId), OVToast.Error);
         }
     }
@@ -93,7 +93,7 @@ FocusScope {
     OVBatchRefusals {
         batches: page.batches
         shown: page.visible
-        onSaid: (message, kind) => page.said(message, kind)
+        onNotify: (message, severity) => page.notify(message, severity)
     }
 
     ModifyIPBatches {
@@ -103,7 +103,7 @@ FocusScope {
         deviceFactory: page.deviceFactory
         deviceTable: devices
         onBegun: page.focusTable()
-        onSaid: (message, kind) => page.said(message, kind)
+        onNotify: (message, severity) => page.notify(message, severity)
     }
 
     ModifyIPFiles {
@@ -115,14 +115,14 @@ FocusScope {
         deviceTable: devices
         fileDialogs: page.fileDialogs
         shown: page.visible
-        onSaid: (message, kind) => page.said(message, kind)
+        onNotify: (message, severity) => page.notify(message, severity)
     }
 
     ModifyIPDevices {
         id: removal
         busyState: page.busyState
         deviceTable: devices
-        onSaid: (message, kind) => page.said(message, kind)
+        onNotify: (message, severity) => page.notify(message, severity)
     }
 
     DeviceActions {
@@ -132,7 +132,7 @@ FocusScope {
         ipv6: devices.ipv6
         notes: page.notes
         webPages: page.webPages
-        onSaid: (message, kind) => page.said(message, kind)
+        onNotify: (message, severity) => page.notify(message, severity)
     }
 
     DeviceMenu {
@@ -157,7 +157,7 @@ FocusScope {
         busyState: page.busyState
         deviceFactory: page.deviceFactory
         onAdded: devices.refresh()
-        onSaid: (message, kind) => page.said(message, kind)
+        onNotify: (message, severity) => page.notify(message, severity)
     }
 
     ModifyIPToolBar {
@@ -221,13 +221,13 @@ FocusScope {
         sortKey: devices.sortKey
         sortOrder: devices.sortOrder
         onAllToggled: checked => devices.setAllChecked(checked)
-        onCopyRequested: row => clipboard.put(devices.textOf([row]))
+        onCopyRequested: row => clipboard.copy(devices.textOf([row]))
         onDetailRequested: row => deviceActions.showDetail(devices.get(row))
         onEditRequested: row => changes.modifyRow(row)
         onLiveRequested: row => page.liveRequested(devices.get(row).ipport)
-        onMenuRequested: (row, place) => {
+        onMenuRequested: (row, position) => {
             const values = devices.get(row);
-            menu.offer(place, values, [{
+            menu.offer(position, values, [{
                 key: "edit", text: qsTr("修改IP地址"),
                 enabled: !devices.ipv6 && !UpgradeTools.isRunning(values.upgraderes ?? UpgradeTools.None)
             }, {
@@ -236,7 +236,7 @@ FocusScope {
         }
         onNoteRequested: row => deviceActions.editNote(devices.get(row))
         onRangeToggled: (first, last, checked) => devices.setRangeChecked(first, last, checked)
-        onRowOpened: row => deviceActions.showDetail(devices.get(row))
+        onRowActivated: row => deviceActions.showDetail(devices.get(row))
         onSortRequested: key => devices.toggleSort(key)
         onWebRequested: row => deviceActions.openWebPage(devices.get(row))
 
@@ -275,11 +275,11 @@ FocusScope {
         running: files.running
         runningText: files.runningText
         search: page.search
-        //: At the foot of a page.
+        //: In the status line of a page.
         text: qsTr("%n台设备已选中", "", devices.checkedCount)
-        //: Each of the devices has the address of another one.
+        //: Number of devices whose address another device has, too.
         warning: devices.conflictCount > 0 ? qsTr("%n 台设备IP地址冲突", "", devices.conflictCount) : ""
-        onSaid: (message, kind) => page.said(message, kind)
+        onNotify: (message, severity) => page.notify(message, severity)
         onTickRequested: identities => devices.setCheckedDevices(identities)
     }
 }

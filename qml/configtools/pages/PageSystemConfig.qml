@@ -1,4 +1,4 @@
-// Maintenance of many devices at once: which ones at the left, what is done with them at the right.
+// The system page: device tree on the left, maintenance commands for the ticked devices on the right.
 import QtQuick
 import configtools
 
@@ -12,8 +12,8 @@ FocusScope {
     property DeviceNotes notes: null
     signal searchRequested
     signal liveRequested(string ipport)
-    signal said(string message, int kind)
-    signal settled  // the selection has changed: a refusal may no longer hold
+    signal notify(string message, int severity)
+    signal selectionChanged  // the selection changed: refusals may no longer apply
 
     readonly property int ticked: devices.checkedCount
     readonly property alias treeDevices: devices
@@ -25,9 +25,9 @@ FocusScope {
     readonly property string timeZone: systemTimeZone
     // qmllint enable unqualified
 
-    property list<string> passwordTicks  // the ticked devices when the old password was checked
-    property list<string> checkedWhenAsked  // the devices of the last command
-    property list<string> leftOut  // of the last change of passwords
+    property list<string> passwordTicks  // devices that were ticked when the old password was checked
+    property list<string> checkedWhenAsked  // devices of the last command
+    property list<string> leftOut  // devices left out of the last password change
 
     readonly property bool available: unavailableText === ""
     readonly property string unavailableText: devices.checkedCount === 0 ? qsTr("请先在左侧勾选设备")
@@ -37,11 +37,11 @@ FocusScope {
         deviceTree.focusSearch();
     }
 
-    /// The user turns to another tab: what was typed of the new password is forgotten. A batch that runs goes on.
+    /// Called when another tab is shown: clears the new password. A running batch continues.
     function disablePasswordEditor() {
         passwordTime.close(SystemPasswordTime.Regular);
         passwordTime.ending = SystemPasswordTime.Regular;
-        panels.forgetNewPassword();
+        panels.clearNewPassword();
     }
 
     function askForNewPassword() {
@@ -56,29 +56,29 @@ FocusScope {
     function takeChangedPasswords() {
         keeper.keep();
         if (keeper.words !== "")
-            said(keeper.words, keeper.failure !== "" ? OVToast.Error : OVToast.Success);
-        tellUnchangedPasswords();
+            notify(keeper.words, keeper.failure !== "" ? OVToast.Error : OVToast.Success);
+        notifyUnchangedPasswords();
         const left = batch.report.devicesLeft(leftOut);
         passwordTime.takeResults(left);
         if (left.length > 0)
             return;
-        panels.forgetNewPassword();
+        panels.clearNewPassword();
         panels.clearOldPassword();
     }
 
-    /// Of the devices that a change of passwords was sent to, or that it did not come to.
-    function tellUnchangedPasswords() {
+    /// Reports the devices whose password was not changed, with the reasons.
+    function notifyUnchangedPasswords() {
         const unchanged = batch.report.devicesNotSucceeded();
         if (unchanged.length === 0)
             return;
         const shown = 3;
         const reasons = Array.from(new Set(batch.batch.wordsOf(unchanged).map(entry => entry.words)));
         //: %1 are the reasons.
-        said(qsTr("%n 台设备的密码没有修改（%1），已标记", "", unchanged.length)
+        notify(qsTr("%n 台设备的密码没有修改（%1），已标记", "", unchanged.length)
                  .arg(reasons.slice(0, shown).join(qsTr("；")) + (reasons.length > shown ? "…" : "")), OVToast.Error);
     }
 
-    function wordOfResult(result) {
+    function resultText(result) {
         return result === OVTreeModel.WaitsForPassword ? qsTr("旧密码正确，等待新密码")
                                                        : deviceFactory.getErrorName(result);
     }
@@ -100,13 +100,13 @@ FocusScope {
 
     function runOnTicked(command, title, data) {
         preview.ask(command, title, data, devices.tickedNow(), chosen => {
-            if (passwordTime.open && !batches.running)  // else the command is refused
+            if (passwordTime.open && !batches.running)  // otherwise the command is refused
                 passwordTime.close(SystemPasswordTime.OtherWork);
             run(command, title, chosen, data);
         });
     }
 
-    /// The devices that the user takes out keep waiting for their new password.
+    /// Devices that the user unticks keep waiting for their new password.
     function changePasswords(password, keeping) {
         preview.ask("modifyPassword", qsTr("修改密码"), {}, passwordTime.devices, (chosen, others) => {
             leftOut = others;
@@ -118,7 +118,7 @@ FocusScope {
 
     function takeEnd() {
         if (batch.report.waiting === 0)
-            refresh();  // which devices are without a login has changed
+            refresh();  // the set of logged-out devices has changed
         if (batch.command === "readTime")
             panels.clocks = batch.batch.wordsOf(checkedWhenAsked);
         else if (batch.command === "loginCheck" && batch.report.waiting > 0)
@@ -129,7 +129,7 @@ FocusScope {
 
     objectName: "pageSystemConfig"
     onSearchingChanged: if (searching) devices.clearResults()
-    onTickedChanged: settled()
+    onTickedChanged: selectionChanged()
 
     OVTreeModel {
         id: devices
@@ -161,7 +161,7 @@ FocusScope {
     OVBatchRefusals {
         batches: page.batches
         shown: page.visible
-        onSaid: (message, kind) => page.said(message, kind)
+        onNotify: (message, severity) => page.notify(message, severity)
     }
     SystemPasswordTime {
         id: passwordTime
@@ -172,9 +172,9 @@ FocusScope {
         onEnded: {
             batch.giveUpWaiting(qsTr("修改密码"));
             if (ending === SystemPasswordTime.TimeOver)
-                page.said(qsTr("时间已到，%n 台设备的密码没有修改", "", leftCount), OVToast.Error);
+                page.notify(qsTr("时间已到，%n 台设备的密码没有修改", "", leftCount), OVToast.Error);
             else if (ending === SystemPasswordTime.OtherWork)
-                page.said(qsTr("已开始其他操作，%n 台设备的密码没有修改", "", leftCount), OVToast.Error);
+                page.notify(qsTr("已开始其他操作，%n 台设备的密码没有修改", "", leftCount), OVToast.Error);
         }
     }
 
@@ -189,7 +189,7 @@ FocusScope {
         fileDialogs: page.fileDialogs
         notes: page.notes
         webPages: page.webPages
-        onSaid: (message, kind) => page.said(message, kind)
+        onNotify: (message, severity) => page.notify(message, severity)
     }
     DeviceMenu {
         id: menu
@@ -209,11 +209,11 @@ FocusScope {
         busyDevice: batch.device
         describer: page
         devices: devices
-        held: batch.running
+        locked: batch.running
         libraryInstalled: page.libraryInstalled
         searching: page.searching
         onDetailRequested: name => deviceActions.showDetail(page.valuesOf(name))
-        onMenuRequested: (name, place) => menu.offer(place, page.valuesOf(name), [])
+        onMenuRequested: (name, position) => menu.offer(position, page.valuesOf(name), [])
         onSearchRequested: page.searchRequested()
         onSearchTextChanged: page.refresh()
     }
@@ -227,7 +227,7 @@ FocusScope {
         available: page.available
         unavailableText: page.unavailableText
         deviceFactory: page.deviceFactory
-        held: batch.running
+        locked: batch.running
         passwordTime: passwordTime
         timeZone: page.timeZone
         upgradingCount: devices.checkedUpgradingCount
@@ -238,7 +238,7 @@ FocusScope {
             page.runOnTicked("loginCheck", qsTr("验证旧密码"), {password: password});
         }
         onRebootRequested: page.runOnTicked("rebootDevice", qsTr("重启设备"), {})
-        onRefused: message => page.said(message, OVToast.Error)
+        onRefused: message => page.notify(message, OVToast.Error)
         onResetRequested: page.runOnTicked("resetSystem", qsTr("恢复出厂设置"), {})
     }
 
@@ -249,9 +249,9 @@ FocusScope {
         width: parent.width - 2 * Theme.pageMargin
         batches: page.batches
         search: page.search
-        //: At the foot of a page.
+        //: In the status line of a page.
         text: qsTr("%n台设备已选中", "", devices.checkedCount)
-        onSaid: (message, kind) => page.said(message, kind)
+        onNotify: (message, severity) => page.notify(message, severity)
         onTickRequested: identities => devices.setCheckedDevices(identities)
     }
 }

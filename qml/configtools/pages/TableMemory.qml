@@ -1,4 +1,4 @@
-// Remembers how the user has arranged a table of devices: its columns and its order.
+// Stores the columns and the sort order of a device table.
 import QtQuick
 import QtQml
 import configtools
@@ -7,14 +7,14 @@ Item {
     id: root
 
     required property var memory
-    required property string name  // of the table in the settings
+    required property string name  // name of the table in the settings
     required property OVTable table
     required property DeviceTableModel model
 
     readonly property string columnsName: name + "Columns"
     readonly property string orderName: name + "Order"
 
-    /// The key of the column, with "-" in front for the descending order.
+    /// Sort key, with the prefix "-" for descending order.
     function orderText() {
         return (model.sortOrder === Qt.DescendingOrder ? "-" : "") + model.sortKey;
     }

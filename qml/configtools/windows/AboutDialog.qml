@@ -1,4 +1,4 @@
-// What this program is and which version of it, for copying into a report.
+// Name and version of the application, for copying.
 import QtQuick
 import configtools
 
@@ -39,7 +39,7 @@ OVDialog {
                 readOnly: true
                 renderType: Theme.textRendering
                 selectByMouse: true
-                selectedTextColor: Theme.colours.ink
+                selectedTextColor: Theme.colours.text
                 selectionColor: Theme.colours.rowSelected
                 text: root.version
                 textFormat: TextEdit.PlainText

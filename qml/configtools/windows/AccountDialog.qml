@@ -1,4 +1,4 @@
-// One account: a new one, or one that is changed. A password that was stored is not shown.
+// Adds or edits an account. A stored password is not shown.
 import QtQuick
 import configtools
 
@@ -6,12 +6,12 @@ OVDialog {
     id: root
 
     required property AccountList accounts
-    property string before  // its name, empty for a new one
+    property string before  // current name, "" for a new account
     property bool tried: false
-    /// The first field that lacks something.
+    /// The first incomplete field.
     readonly property string faulty: !tried ? "" : nameField.text.trim() === "" ? "name"
         : accountField.text === "" ? "account" : before === "" && passwordField.text === "" ? "password" : ""
-    signal put(string name)
+    signal saved(string name)
 
     function edit(name, account) {
         before = name;
@@ -34,9 +34,9 @@ OVDialog {
         }
         const name = nameField.text.trim();
         close();
-        put(name);
+        saved(name);
     }
-    onClosed: passwordField.text = ""  // no password stays in the memory of the scene longer than it is needed
+    onClosed: passwordField.text = ""  // keeps the password in memory no longer than needed
     onOpened: (before === "" ? nameField : passwordField).forceActiveFocus()
 
     Column {

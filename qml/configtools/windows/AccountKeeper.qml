@@ -1,5 +1,5 @@
-// Keeps the account that the devices of a batch have taken, as the user has chosen before. What has been taken is kept
-// while the batch runs: the program may end during the batch.
+// Stores the new account of the devices of a batch, as the user has chosen. It does so during the batch, since the
+// application may exit before the end.
 import QtQuick
 import configtools
 
@@ -9,19 +9,19 @@ Item {
     required property Batches batches
     property Batch batch: null
     property int keeping: AccountList.Unkept
-    property int takenCount: 0  // devices of the batch that were handed on
-    property int keptCount: 0   // devices that the account is kept for, also of the batches before a retry
-    property int keptBefore: 0  // of them, those of the batches before the retry
+    property int takenCount: 0  // number of devices of the batch already processed
+    property int keptCount: 0   // number of devices with a stored account, including batches before a retry
+    property int keptBefore: 0  // of these, devices of batches before the retry
     property string failure
     readonly property var accounts: LoginMemory.accounts
 
-    /// What has become of the account, for the end of a message; empty when it was not to be kept.
+    /// Result as the end of a message; "" if the account was not to be stored.
     readonly property string words: failure !== "" ? qsTr("账号无法保存，只用到下次搜索：%1").arg(failure)
         : keptCount === keptBefore || keeping === AccountList.Unkept ? ""
         : keeping === AccountList.AsDefault ? qsTr("新账号已设为默认账号")
         : qsTr("新账号已保存，以后登录这 %n 台设备时使用", "", keptCount)
 
-    /// Follows a batch that gives devices a new password. A batch that there is not is not followed.
+    /// Observes a batch that sets a new password. `batch` may be null.
     function follow(batch, keeping) {
         keep();
         root.batch = batch;
@@ -32,9 +32,9 @@ Item {
         failure = "";
     }
 
-    /// Keeps what waits. At the end of the batch, the words are complete then.
+    /// Stores the accounts of further successful devices. After the batch, `words` is final.
     function keep() {
-        pause.stop();
+        delay.stop();
         const devices = batch?.succeededDevices(takenCount) ?? [];
         if (devices.length === 0 || !accounts)
             return;
@@ -50,16 +50,16 @@ Item {
     Component.onDestruction: keep()
 
     Timer {
-        id: pause
-        interval: 1000  // each keeping writes a file
+        id: delay
+        interval: 1000  // each call writes a file
         onTriggered: root.keep()
     }
     Connections {
         target: root.batch
 
         function onResulted() {
-            if (!pause.running)
-                pause.start();
+            if (!delay.running)
+                delay.start();
         }
         function onFinished() {
             root.keep();

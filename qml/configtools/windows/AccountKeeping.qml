@@ -1,4 +1,4 @@
-// What becomes of an account that devices are about to take: a choice before they take it.
+// A choice: where a new account is stored.
 import QtQuick
 import configtools
 

@@ -1,4 +1,4 @@
-// The accounts that the user keeps: adds, changes and removes them, and gives one of them to devices.
+// Manages the stored accounts, and assigns one of them to devices.
 import QtQuick
 import configtools
 
@@ -6,14 +6,14 @@ OVDialog {
     id: root
 
     required property AccountList accounts
-    property var devices: []  // that get an account; none: the accounts are only looked after
+    property var devices: []  // devices to assign an account to; empty: manage only
     readonly property bool choosing: devices.length > 0
     readonly property var current: shownRow(table.currentIndex, accounts.count)
     readonly property bool isOwn: (current.identity ?? "") !== "" && !current.isDefault
-    signal said(string message, int kind)
-    signal chosen  // the devices have the account now
+    signal notify(string message, int severity)
+    signal chosen  // the devices have the account
 
-    /// `count` changes with the rows.
+    /// `count` is a dependency: it changes with the rows.
     function shownRow(index, count) {
         return accounts.get(index);
     }
@@ -40,17 +40,17 @@ OVDialog {
         chosen();
         const unknown = name === "" ? 0 : accounts.countUnidentified(devices);
         close();
-        said((name === "" ? qsTr("%n 台设备使用默认账号", "", devices.length)
+        notify((name === "" ? qsTr("%n 台设备使用默认账号", "", devices.length)
                           : qsTr("%n 台设备使用账号“%1”", "", devices.length).arg(name))
             + (unknown > 0 ? qsTr("；其中 %n 台没有MAC和UUID，只用到下次搜索", "", unknown) : ""), OVToast.Success);
     }
 
     function edit(name, account) {
-        editing.wanted().edit(name, account);
+        editing.instance().edit(name, account);
     }
 
     function askToRemove() {
-        const box = removing.wanted();
+        const box = removing.instance();
         box.name = current.name;
         box.show(qsTr("删除账号“%1”？").arg(current.name) + (current.deviceCount > 0
             ? qsTr("使用它的 %n 台设备以后用默认账号登录。", "", current.deviceCount) : ""), OVMessageBox.DangerQuestion);
@@ -59,7 +59,7 @@ OVDialog {
     function askToRemoveUnused() {
         const names = accounts.unused;
         const shown = 5;
-        const box = removing.wanted();
+        const box = removing.instance();
         box.name = "";
         box.show(qsTr("删除没有设备使用的 %n 个账号？", "", names.length) + "\n"
             + names.slice(0, shown).join(qsTr("、")) + (names.length > shown ? "…" : ""), OVMessageBox.DangerQuestion);
@@ -98,7 +98,7 @@ OVDialog {
             focus: true
             model: root.accounts
             objectName: "accountsTable"
-            onRowOpened: {
+            onRowActivated: {
                 if (root.choosing)
                     root.accept();
                 else if (root.isOwn)
@@ -145,7 +145,7 @@ OVDialog {
     Component {
         id: nameCell
         OVTableTextCell {
-            color: row?.isDefault ? Theme.colours.sub : Theme.colours.ink
+            color: row?.isDefault ? Theme.colours.sub : Theme.colours.text
             text: row?.isDefault ? qsTr("默认账号") : row?.name ?? ""
         }
     }
@@ -154,7 +154,7 @@ OVDialog {
         OVTableTextCell {
             readonly property bool isUnused: row?.deviceCount === 0 && !row.isDefault
 
-            color: isUnused ? Theme.colours.sub : Theme.colours.ink
+            color: isUnused ? Theme.colours.sub : Theme.colours.text
             font: isUnused ? Theme.bodyFont : Theme.figureFont
             text: row?.isDefault ? "—" : isUnused ? qsTr("未使用") : row?.deviceCount ?? ""
         }
@@ -166,14 +166,14 @@ OVDialog {
         visible: false
         sourceComponent: AccountDialog {
             accounts: root.accounts
-            onPut: name => table.show(root.accounts.rowOfName(name))
+            onSaved: name => table.show(root.accounts.rowOfName(name))
         }
     }
     OVOnDemand {
         id: removing
         visible: false
         sourceComponent: OVMessageBox {
-            property string name  // "" for all accounts that no device has
+            property string name  // "" for all unused accounts
             objectName: "removeAccountQuestion"
             okText: qsTr("删除")
             title: qsTr("删除账号")

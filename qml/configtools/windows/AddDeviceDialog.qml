@@ -1,5 +1,5 @@
-// A device to be added by hand: by its IP address or by its P2P ID. The owner logs in while the dialog is busy, and
-// closes it or tells how it went; the user may close it before.
+// Input of a device to add, by IP address or P2P ID. The owner adds it while the dialog is busy, then closes the dialog
+// or calls showResult(). The user may close it before.
 import QtQuick
 import configtools
 
@@ -11,7 +11,7 @@ OVDialog {
     readonly property bool p2p: mode === DeviceAdding.P2P
     signal confirmed(var device, bool isFavourite)
 
-    property string faultKind  // the field of the first thing that is wrong, once it was confirmed
+    property string faultKind  // field of the first error, after OK was pressed
     property string fault
 
     function begin(mode) {
@@ -24,16 +24,16 @@ OVDialog {
         portField.text = defaultPort;
         favouriteBox.checked = false;
         noteField.text = "";
-        forget();
+        clearError();
         open();
     }
 
-    function forget() {
+    function clearError() {
         faultKind = "";
         fault = "";
     }
 
-    /// Shows how the login went: a result that speaks of one field under that field.
+    /// Shows the result, at the field that it concerns.
     function showResult(code, error) {
         faultKind = code === DeviceAdding.NoSuchAccount ? "account" : code === DeviceAdding.WrongPassword ? "password"
             : code === DeviceAdding.AlreadyListed ? "address" : "";
@@ -50,9 +50,9 @@ OVDialog {
         fault = message;
     }
 
-    /// Notes the first thing that is wrong, if anything is.
+    /// Notes the first invalid field, if any.
     function check() {
-        forget();
+        clearError();
         if (p2p && idField.text === "")
             note("id", qsTr("请输入P2P ID"));
         else if (!p2p && !addressField.acceptable)
@@ -72,7 +72,7 @@ OVDialog {
     leastHeight: Theme.addDeviceHeight
     objectName: "addDeviceDialog"
     title: qsTr("手动添加设备")
-    onClosed: passwordField.text = ""  // no password stays longer than it is needed
+    onClosed: passwordField.text = ""  // keeps the password no longer than needed
     onOpened: (p2p ? idField : addressField).forceActiveFocus()
     onAccepted: {
         check();
@@ -114,7 +114,7 @@ OVDialog {
                     objectName: "addressField"
                     placeholderText: "192.168.1.64"
                     visible: !root.p2p
-                    onEdited: root.forget()
+                    onEdited: root.clearError()
                 }
                 OVTextField {
                     id: idField
@@ -126,7 +126,7 @@ OVDialog {
                     textFont: Theme.figureFont
                     unwanted: /\s/g
                     visible: root.p2p
-                    onEdited: root.forget()
+                    onEdited: root.clearError()
                 }
             }
             OVField {
@@ -139,7 +139,7 @@ OVDialog {
                     accessibleName: qsTr("端口")
                     errorText: root.faultKind === "port" ? root.fault : ""
                     objectName: "portField"
-                    onEdited: root.forget()
+                    onEdited: root.clearError()
                 }
             }
         }
@@ -157,7 +157,7 @@ OVDialog {
                     errorText: root.faultKind === "account" ? root.fault : ""
                     maximumLength: 63
                     objectName: "accountField"
-                    onEdited: root.forget()
+                    onEdited: root.clearError()
                 }
             }
             OVField {
@@ -172,7 +172,7 @@ OVDialog {
                     maximumLength: 63
                     objectName: "devicePasswordField"
                     secret: true
-                    onEdited: root.forget()
+                    onEdited: root.clearError()
                 }
             }
         }

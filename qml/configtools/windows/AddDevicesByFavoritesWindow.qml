@@ -1,5 +1,5 @@
-// The favourites: adds them to the device list in a batch, which goes on when the window is closed, with the results as
-// they come, and looks after their notes.
+// The favourites window: adds favourites to the device list in a batch, shows the results, and edits notes. The batch
+// continues when the window is closed.
 import QtQuick
 import configtools
 
@@ -10,7 +10,7 @@ OVDialog {
     required property Batches batches
     required property Favourites favourites
     readonly property bool running: batch?.running ?? false
-    property Batch batch: null  // the last one that was begun here
+    property Batch batch: null  // last batch started here
     signal byHandRequested
 
     function begin() {
@@ -40,7 +40,7 @@ OVDialog {
         if (fileName === "")
             inform(qsTr("备注无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
         else if (fileName !== identity)
-            favourites.remove(identity);  // a file by another name held the device until now
+            favourites.remove(identity);  // the favourite was stored under an earlier file name
         saved.load(favourites.list());
         table.show(saved.rowOf(fileName));
         table.forceActiveFocus();
@@ -123,11 +123,11 @@ OVDialog {
         model: saved
         objectName: "favouriteTable"
         onAllToggled: checked => { if (editable) saved.setAllChecked(checked); }
-        onCopyRequested: row => clipboard.put(saved.textOf(row))
+        onCopyRequested: row => clipboard.copy(saved.textOf(row))
         onDeletionRequested: row => confirmation.ask(saved.get(row))
         onNoteEdited: (row, note) => root.changeNote(saved.get(row).fileName, note)
         onRangeToggled: (first, last, checked) => { if (editable) saved.setRangeChecked(first, last, checked); }
-        onRowOpened: row => root.addThese([saved.get(row).fileName])
+        onRowActivated: row => root.addThese([saved.get(row).fileName])
 
         OVEmptyState {
             anchors.fill: parent

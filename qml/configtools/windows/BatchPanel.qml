@@ -1,4 +1,4 @@
-// The batches of the session, and what has come of each device of the chosen one.
+// The batches since the start, and the results of the selected one.
 import QtQuick
 import configtools
 
@@ -24,7 +24,7 @@ OVDialog {
 
     function askToPutBack(changed) {
         const entries = batches.addressesToPutBack(changed);
-        preview.wanted().askEntries(
+        preview.instance().askEntries(
             qsTr("确定要将 %n 台设备恢复为修改前的IP地址吗？", "", entries.length), entries, {
                 title: qsTr("恢复IP地址"), okText: qsTr("恢复地址"), listed: true,
                 action: identities => showNewest(batches.putAddressesBack(changed, qsTr("恢复IP地址"), identities))

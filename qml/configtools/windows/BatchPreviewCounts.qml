@@ -1,4 +1,4 @@
-// How many devices of a batch take part, how many of them have a warning, and how many it will leave out.
+// Numbers of devices of a batch: selected, processed, with warnings, skipped.
 import QtQuick
 import configtools
 
@@ -30,7 +30,7 @@ Row {
         }
         OVLabel {
             height: parent.height
-            color: Theme.colours.warnInk
+            color: Theme.colours.warnText
             objectName: "planWarning"
             text: root.preview.warningCount
 

@@ -1,4 +1,4 @@
-// Asks before a batch changes devices, and lists what will happen to which of them.
+// Confirms a batch, with a list of the change to each device.
 import QtQuick
 import configtools
 
@@ -9,55 +9,55 @@ OVDialog {
     property string message
     property bool danger: false
     property bool listed: false
-    property bool openedOut: false
-    property var action: null  // gets the devices that take part, and those that the user has taken out
-    property bool byAddress: true  // it takes their addresses and ports, else their identities
-    property string subject    // what withdraw() names it by
+    property bool expanded: false
+    property var action: null  // called with the devices to process and the unticked ones
+    property bool byAddress: true  // `action` gets addresses and ports, else identities
+    property string subject    // identifies the question for withdraw()
 
-    /// `words` ask or say what will be done, `happens` names it in the row of each device. `choices` has "okText" and
-    /// "action", and if wanted "title", "danger", "listed" (the list is open although nothing is noted in it), "quick" (one
-    /// device without a note needs no question) and "subject", by which withdraw() knows it.
-    function ask(words, happens, ipports, choices) {
-        preview.action = happens;
+    /// `text` is the question, `actionText` the change to each device. `choices` has "okText" and "action" and
+    /// optionally "title", "danger", "listed" (shows the list even without notes), "quick" (a single device without a
+    /// note needs no confirmation) and "subject" (for withdraw()).
+    function ask(text, actionText, ipports, choices) {
+        preview.action = actionText;
         preview.setAddresses(ipports);
         byAddress = true;
-        begin(words, choices);
+        begin(text, choices);
     }
 
-    /// The same for rows of a DeviceTableModel. The action gets their identities.
-    function askRows(words, happens, rows, choices) {
-        preview.action = happens;
+    /// Like ask() for rows of a DeviceTableModel. The action gets their identities.
+    function askRows(text, actionText, rows, choices) {
+        preview.action = actionText;
         preview.setDevices(rows);
         byAddress = false;
-        begin(words, choices);
+        begin(text, choices);
     }
 
-    /// The same for entries of BatchPreview.setEntries(). The action gets their names.
-    function askEntries(words, entries, choices) {
+    /// Like ask() for entries of BatchPreview.setEntries(). The action gets their names.
+    function askEntries(text, entries, choices) {
         preview.action = "";
         preview.setEntries(entries);
         byAddress = false;
-        begin(words, choices);
+        begin(text, choices);
     }
 
-    function begin(words, choices) {
+    function begin(text, choices) {
         const noted = preview.warningCount + preview.skippedCount > 0;
         if (choices.quick && preview.count === 1 && !noted) {
             choices.action(chosen(), []);
             return;
         }
-        message = words;
+        message = text;
         danger = choices.danger ?? false;
         title = choices.title ?? qsTr("提示");
         okText = choices.okText;
         subject = choices.subject ?? "";
         action = choices.action;
         listed = choices.listed ?? false;
-        openedOut = listed || noted;
+        expanded = listed || noted;
         open();
     }
 
-    /// Closes the question about this subject, whose time is over.
+    /// Closes the question if it has this subject.
     function withdraw(about) {
         if (subject !== about)
             return;
@@ -79,7 +79,7 @@ OVDialog {
         return byAddress ? preview.checkedAddresses() : preview.checkedIdentities();
     }
 
-    wantedWidth: openedOut ? Theme.batchPreviewWidth : Theme.messageWidth
+    wantedWidth: expanded ? Theme.batchPreviewWidth : Theme.messageWidth
     okKind: danger ? OVButton.DangerPrimary : OVButton.Primary
     objectName: "batchPreviewDialog"
     onAccepted: {
@@ -90,8 +90,8 @@ OVDialog {
         else
             start();
     }
-    onClosed: action = null  // it may hold a password
-    onOpened: if (danger) focusCancel()  // Enter twice is not yet a yes
+    onClosed: action = null  // it may contain a password
+    onOpened: if (danger) focusCancel()  // pressing Enter twice must not confirm
 
     BatchPreview {
         id: preview
@@ -102,7 +102,7 @@ OVDialog {
     footContent: BatchPreviewCounts {
         height: parent.height
         preview: preview
-        visible: root.openedOut
+        visible: root.expanded
     }
 
     Column {
@@ -118,16 +118,16 @@ OVDialog {
         OVLinkButton {
             x: Theme.iconSize + Theme.controlGap
             objectName: "previewButton"
-            text: root.openedOut ? qsTr("收起列表") : qsTr("查看 %n 台设备", "", preview.count)
+            text: root.expanded ? qsTr("收起列表") : qsTr("查看 %n 台设备", "", preview.count)
             visible: !root.listed
-            onClicked: root.openedOut = !root.openedOut
+            onClicked: root.expanded = !root.expanded
         }
         BatchPreviewTable {
             width: parent.width
             height: Theme.batchPreviewHeight
             objectName: "previewTable"
             preview: preview
-            visible: root.openedOut
+            visible: root.expanded
         }
     }
     BatchWarningQuestion {

@@ -1,4 +1,4 @@
-// What will happen to which device, and what may go wrong with it. A device that is unticked takes no part.
+// The changes of a batch and possible problems. Unticked devices are left out.
 import QtQuick
 import configtools
 
@@ -6,9 +6,9 @@ OVTable {
     id: root
 
     required property BatchPreview preview
-    property bool givesAddresses: false  // what happens to a device is its new address
-    property bool givesFirmware: false   // or its new firmware
-    property bool givesNames: false      // or its new name, or that of a channel
+    property bool givesAddresses: false  // the change is a new address
+    property bool givesFirmware: false   // the change is a firmware upgrade
+    property bool givesNames: false      // the change is a new name of a camera or channel
 
     checkState: preview.checkState
     columns: [
@@ -54,7 +54,7 @@ OVTable {
         OVTableTextCell {
             color: Theme.colours.sub
             font: Theme.figureFont
-            // The port stays as it is, whatever the new address.
+            // The port does not change.
             text: root.givesAddresses ? (value ?? "").replace(/:\d*$/, "") : value ?? ""
         }
     }

@@ -1,4 +1,4 @@
-// What has come of a device or a batch, with the sign of its kind.
+// The result of a device or batch, with an icon.
 import QtQuick
 import configtools
 
@@ -7,12 +7,12 @@ OVTableCell {
 
     property int outcome: BatchResultModel.ToCome
     readonly property var signNames: ["error", "alert", "mixed", "ok", "ok"]
-    readonly property var inks: [Theme.colours.bad, Theme.colours.warn, Theme.colours.sub, Theme.colours.sub, Theme.colours.ok]
+    readonly property var signColors: [Theme.colours.bad, Theme.colours.warn, Theme.colours.sub, Theme.colours.sub, Theme.colours.ok]
 
     OVIcon {
         id: sign
         anchors.verticalCenter: parent.verticalCenter
-        color: root.inks[root.outcome] ?? Theme.colours.clear
+        color: root.signColors[root.outcome] ?? Theme.colours.clear
         name: root.signNames[root.outcome] ?? ""
         size: Theme.smallIconSize
         visible: root.outcome !== BatchResultModel.ToCome
@@ -22,7 +22,7 @@ OVTableCell {
         x: sign.visible ? sign.width + Theme.signGap : 0
         width: parent.width - x - Theme.unit
         height: parent.height
-        color: root.outcome === BatchResultModel.Failed ? Theme.colours.bad : Theme.colours.ink
+        color: root.outcome === BatchResultModel.Failed ? Theme.colours.bad : Theme.colours.text
         text: root.value ?? ""
     }
     HoverHandler {

@@ -1,4 +1,4 @@
-// What has come of batches: their panel, and saving results to a file.
+// The panel of batches, and saving of results.
 import QtQuick
 import configtools
 
@@ -10,11 +10,11 @@ Item {
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var fileDialogs: FileDialogsApi
     // qmllint enable unqualified
-    property var writtenPaths: []  // of the files that are being written
-    signal said(string message, int kind)
+    property var writtenPaths: []  // paths of files being written
+    signal notify(string message, int severity)
 
     function show() {
-        panel.wanted().show();
+        panel.instance().show();
     }
 
     function save(batch) {
@@ -40,13 +40,13 @@ Item {
 
         function onResultsSaved(path, reason) {
             const index = root.writtenPaths.indexOf(path);
-            if (index < 0)  // another page's
+            if (index < 0)  // saved by another page
                 return;
             root.writtenPaths = root.writtenPaths.filter((other, at) => at !== index);
             if (reason === "")
-                root.said(qsTr("结果已保存到 %1").arg(path), OVToast.Success);
+                root.notify(qsTr("结果已保存到 %1").arg(path), OVToast.Success);
             else
-                root.said(qsTr("结果无法保存，可以另选位置重试。\n%1").arg(reason), OVToast.Error);
+                root.notify(qsTr("结果无法保存，可以另选位置重试。\n%1").arg(reason), OVToast.Error);
         }
     }
     // qmllint disable unqualified

@@ -1,9 +1,9 @@
-// Asks once more before a batch with warnings begins.
+// Confirms a batch with warnings.
 import QtQuick
 import configtools
 
 OVMessageBox {
-    /// `words` say what the warnings are about.
+    /// `words` describe the warnings.
     function ask(warnings, words) {
         okText = qsTr("继续");
         show(qsTr("有 %n 个警告，仍要继续吗？", "", warnings) + "\n" + words, OVMessageBox.DangerQuestion);

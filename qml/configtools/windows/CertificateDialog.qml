@@ -1,4 +1,4 @@
-// Lists certificates of devices that were refused, and stores those that the user agrees to.
+// Lists certificates that were refused, and stores those that the user trusts.
 import QtQuick
 import configtools
 
@@ -10,7 +10,7 @@ OVDialog {
     readonly property var current: shownRow(table.currentIndex, certificates.count)
     signal agreed(int count)
 
-    /// `count` changes with the rows.
+    /// `count` is a dependency: it changes with the rows.
     function shownRow(index, count) {
         return certificates.get(index);
     }
@@ -38,7 +38,7 @@ OVDialog {
         close();
         agreed(count);
     }
-    onOpened: if (warns) focusCancel()  // Enter is not yet a yes
+    onOpened: if (warns) focusCancel()  // pressing Enter must not confirm
 
     footContent: OVLabel {
         height: parent.height
@@ -143,7 +143,7 @@ OVDialog {
                 x: kind.changed ? sign.width + Theme.signGap : 0
                 width: parent.width - x - Theme.unit
                 height: parent.height
-                color: kind.changed ? Theme.colours.bad : Theme.colours.ink
+                color: kind.changed ? Theme.colours.bad : Theme.colours.text
                 text: kind.changed ? qsTr("证书已改变") : qsTr("新证书")
             }
         }

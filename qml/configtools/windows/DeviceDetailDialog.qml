@@ -1,5 +1,5 @@
-// Everything that is known of a device, in groups: to be searched, copied and kept as a file. What only a login tells
-// is asked for when the user wants it: it takes a while, and a wrong password counts at the device.
+// All known values of a device, in groups, with search, copy and export. Values that need a login are read on request
+// only: it takes time, and the device counts wrong passwords.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -10,16 +10,16 @@ OVDialog {
     required property var deviceFactory
     property string ipport
     property string mac
-    property bool isLent: false    // the account of the row is only on trial
+    property bool isLent: false    // the row has its account only for this attempt
     readonly property alias asking: work.running
-    property string trouble        // of the last login
+    property string loginError        // error of the last login
     signal copyRequested(string text)
     signal exportRequested(string fileName)
 
-    /// Takes the values of a row and what else is known, by their keys.
+    /// Shows the values of a row and further values, by key.
     function load(detail) {
         work.cancel();
-        trouble = "";
+        loginError = "";
         ipport = detail.ipport ?? "";
         mac = detail.mac ?? "";
         searchField.text = "";
@@ -30,9 +30,10 @@ OVDialog {
         return lines.write(path);
     }
 
-    /// An account for all that follow is that of the row while the device is asked, and afterwards if it was accepted.
+    /// Logs in and reads further values. A following account becomes the row's account for the attempt, and stays if
+    /// the device accepts it.
     function ask() {
-        trouble = "";
+        loginError = "";
         notice = "";
         const known = LoginMemory.accountFor(ipport, deviceFactory);
         isLent = known.isForAll;
@@ -46,20 +47,20 @@ OVDialog {
         deviceFactory.updataDeviceInfo("dh", "password", password, mac, ipport);
     }
 
-    function add(told) {
-        const result = told.loginResult ?? -1;
+    function add(detail) {
+        const result = detail.loginResult ?? -1;
         const account = LoginMemory.accountFor(ipport, deviceFactory).user;
         LoginMemory.note(ipport, result);
         if (result === 0) {
-            lines.add(told);
+            lines.add(detail);
             return;
         }
         if (isLent)
             setAccount("", "");
-        trouble = qsTr("登录失败：%1").arg(deviceFactory.getErrorName(result));
+        loginError = qsTr("登录失败：%1").arg(deviceFactory.getErrorName(result));
         // Another account or password may help.
         if (result === 1 || result === LoginMemory.wrongPassword || result === 4)
-            relogin.wanted().ask(mac, ipport, account, result);
+            relogin.instance().ask(mac, ipport, account, result);
     }
 
     wantedWidth: Theme.detailWidth
@@ -101,7 +102,7 @@ OVDialog {
     DeviceWork {
         id: work
         deviceFactory: root.deviceFactory
-        onEnded: told => root.add(told)
+        onEnded: detail => root.add(detail)
     }
 
     Column {
@@ -124,21 +125,21 @@ OVDialog {
             width: parent.width
             iconColor: Theme.colours.bad
             iconName: "error"
-            objectName: "detailTrouble"
-            text: root.trouble
-            visible: root.trouble !== ""
+            objectName: "detailLoginError"
+            text: root.loginError
+            visible: root.loginError !== ""
         }
         Item {
             width: parent.width
             height: Math.min(Theme.detailHeight, root.contentRoom - searchField.height - Theme.controlGap)
-                - (root.trouble !== "" ? Theme.controlHeight + Theme.controlGap : 0)
+                - (root.loginError !== "" ? Theme.controlHeight + Theme.controlGap : 0)
 
             ListView {
                 id: list
                 anchors.fill: parent
                 activeFocusOnTab: true
                 boundsBehavior: Flickable.StopAtBounds
-                cacheBuffer: 0  // lines that are made ahead are in the way when the lines change
+                cacheBuffer: 0  // lines created ahead would be read after a change
                 clip: true
                 keyNavigationEnabled: true
                 model: lines

@@ -1,4 +1,4 @@
-// One thing that is known of a device: what it is, and its value, which can be marked and copied.
+// A label and its value, which can be selected and copied.
 import QtQuick
 import configtools
 
@@ -31,7 +31,7 @@ Rectangle {
         color: Theme.colours.sub
         text: root.label
     }
-    // Knows where its first baseline is, whatever the script; a TextEdit only where that of Latin letters would be.
+    // Text reports the baseline of its first line for every script, TextEdit only that of Latin text.
     Text {
         id: baseline
         width: words.width
@@ -47,19 +47,19 @@ Rectangle {
         x: Theme.panelLabelWidth + 2 * Theme.unit
         y: Math.round(Theme.rowHeight / 2 + font.pixelSize * Theme.baselineShift - baseline.baselineOffset)
         width: copy.x - x - Theme.unit
-        color: Theme.colours.ink
+        color: Theme.colours.text
         font: Theme.figureFont
         objectName: "detailValue"
         readOnly: true
         renderType: Theme.textRendering
         selectByMouse: true
-        selectedTextColor: Theme.colours.ink
+        selectedTextColor: Theme.colours.text
         selectionColor: Theme.colours.rowSelected
         text: root.value
         textFormat: TextEdit.PlainText
         wrapMode: TextEdit.WrapAnywhere
 
-        Accessible.ignored: true  // the line says it
+        Accessible.ignored: true  // the line has the accessible name
     }
     OVIconButton {
         id: copy

@@ -1,4 +1,4 @@
-// The search for devices: starts it, and tells whether it runs and how many it has found.
+// The device search: start, stop, state and number of devices found.
 import QtQml
 import configtools
 
@@ -10,23 +10,22 @@ QtObject {
     required property SearchReports searchReports
     property int count: 0
     property bool running: false
-    property bool searchedNothing: false  // the settings named nothing to search
-    property bool searchesLocal: false  // the last search did
-    property string searchedRange  // of addresses, "" for none
-    /// The networks of the last search, in words: without the local segment when no interface could search it.
+    property bool searchedNothing: false  // the settings select no network
+    property bool searchesLocal: false  // the last search included the local network
+    property string searchedRange  // address range of the last search, "" for none
+    /// Networks of the last search as text. Without the local network if no interface could search it.
     readonly property string searched: {
         const networks = searchReports.networks;
         const local = networks !== "" ? qsTr("本地网段（%1）").arg(networks)
             : searchReports.available ? "" : qsTr("本地网段");
         return [searchesLocal ? local : "", searchedRange].filter(part => part !== "").join(qsTr("、"));
     }
-    property int percent: 0  // of a search that runs
+    property int percent: 0  // progress of the search, 0 to 100
     property bool stopping: false
-    /// The settings of a search that is to follow the running one, null when none is to.
+    /// Settings of the search to start after the running one, null for none.
     property var next: null
 
-    /// Starts a search. One that runs is ended first: two at once would fill the same list, and the first to end
-    /// would pass for both.
+    /// Starts a search, after stopping a running one: two searches would fill the same list and report one end.
     function start(settings) {
         if (running) {
             next = settings;
@@ -47,7 +46,7 @@ QtObject {
         deviceFactory.startSearch("dh");
     }
 
-    /// Ends the search: what it has found stays, and no other one follows.
+    /// Stops the search. Its devices stay in the list.
     function stop() {
         next = null;
         end();
@@ -60,10 +59,10 @@ QtObject {
         deviceFactory.stopSearch("dh");
     }
 
-    /// The search that ends now has listed `rows` devices and left out `leftOut` answers of further ones.
+    /// The search ends with `rows` devices in the list and `leftOut` ignored responses of further ones.
     signal limited(int rows, int leftOut)
 
-    /// Starts the search that is to follow, once no work needs the rows of the last one any more.
+    /// Starts the next search when no operation needs the current rows.
     function startNext() {
         const settings = next;
         if (!settings || running || busyState.refusal(BusyState.Search) !== "")
@@ -85,7 +84,7 @@ QtObject {
     readonly property Connections works: Connections {
         target: root.busyState
 
-        // Later: the work that ends reads its rows once more.
+        // Later, as the ending operation reads its rows once more.
         function onChanged() {
             root.later.start();
         }

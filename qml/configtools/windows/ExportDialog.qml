@@ -1,4 +1,4 @@
-// In which format a device list is written.
+// The file format of an exported device list.
 import QtQuick
 import configtools
 

@@ -1,18 +1,18 @@
-// The note of a favourite, which is edited in its place: Enter and leaving the field keep the text, Escape does not.
+// The editable note of a favourite. Enter and leaving the field save the text, Escape discards it.
 import QtQuick
 import configtools
 
 OVTableCell {
     id: root
 
-    required property string wholeNote  // of which the table may show a part
+    required property string wholeNote  // full text; the table may show a part
     property bool editable: true
     signal edited(string note)
 
     property bool editing: false
-    property string before  // in the field, when editing began
+    property string before  // text at the start of editing
 
-    readonly property int longest: 50  // letters that can be typed; a longer note from elsewhere is not cut
+    readonly property int longest: 50  // maximum characters of input; a longer stored note is not truncated
 
     function begin() {
         field.maximumLength = Math.max(longest, wholeNote.length);
@@ -31,7 +31,7 @@ OVTableCell {
             edited(field.text);
     }
 
-    onRowIndexChanged: editing = false  // the cell has come to serve another row
+    onRowIndexChanged: editing = false  // the cell was reused for another row
 
     HoverHandler {
         id: pointer

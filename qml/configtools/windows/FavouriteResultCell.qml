@@ -1,4 +1,4 @@
-// How adding a favourite to the device list went.
+// The result of adding a favourite.
 import QtQuick
 import configtools
 
@@ -25,7 +25,7 @@ OVTableCell {
         x: Theme.boxSize + Theme.signGap
         width: root.width - x - Theme.unit
         height: root.height
-        color: root.failed ? Theme.colours.bad : root.running ? Theme.colours.sub : Theme.colours.ink
+        color: root.failed ? Theme.colours.bad : root.running ? Theme.colours.sub : Theme.colours.text
         objectName: "addResult" + root.rowIndex
         text: root.row?.words ?? ""
     }

@@ -1,4 +1,4 @@
-// The table of favourites: its columns, and what their cells look like.
+// The table of favourites: columns and cells.
 import QtQuick
 import configtools
 
@@ -51,7 +51,7 @@ OVTable {
                 anchors.verticalCenter: parent.verticalCenter
                 enabled: root.editable
                 focusPolicy: actions.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
-                ink: Theme.colours.bad
+                textColor: Theme.colours.bad
                 objectName: "deleteFavourite" + actions.rowIndex
                 text: qsTr("删除")
                 toolTip: qsTr("从收藏夹中删除")

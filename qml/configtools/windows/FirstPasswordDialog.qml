@@ -1,4 +1,4 @@
-// The account and the first password of factory-new devices.
+// The account and password for the initialisation of devices.
 import QtQuick
 import configtools
 
@@ -11,7 +11,7 @@ OVDialog {
     readonly property alias password: passwordField.text
     readonly property alias keeping: keepingChoice.keeping
     readonly property int grade: deviceFactory.getPassWordType(passwordField.text)
-    property bool tried: false  // what is unfinished is said under a field once the button was pressed
+    property bool tried: false  // OK was pressed: incomplete fields show errors
     readonly property int mostLetters: 32
     signal confirmed
 
@@ -20,11 +20,11 @@ OVDialog {
         tried = false;
         keepingChoice.keeping = AccountList.ForDevices;
         accountField.text = "admin";
-        forget();
+        clearPasswords();
     }
 
-    /// No password stays in the memory of the scene longer than it is needed.
-    function forget() {
+    /// Keeps the password in memory no longer than needed.
+    function clearPasswords() {
         confirmationField.text = "";
         passwordField.text = "";
     }
@@ -36,7 +36,7 @@ OVDialog {
     readonly property string different: qsTr("请输入相同的密码")
     readonly property string wrongLength: qsTr("密码长度应当在8到32个字符范围内")
 
-    /// The first thing that is wrong, empty when nothing is. It is shown under the field that it is about.
+    /// The first error, "" if there is none. It is shown below its field.
     readonly property string fault: {
         const length = confirmationField.text.length;
         return grade <= 1 ? weak : account === "" ? noAccount : password === "" ? noPassword
@@ -59,7 +59,7 @@ OVDialog {
             confirmed();
     }
     onOpened: passwordField.forceActiveFocus()
-    onClosed: forget()
+    onClosed: clearPasswords()
 
     Column {
         width: parent.width

@@ -1,4 +1,4 @@
-// Which devices get their first password, and which of the ticked ones do not.
+// The devices to initialise, and the skipped ones with reasons.
 import QtQuick
 import configtools
 
@@ -8,7 +8,7 @@ OVDialog {
     readonly property alias count: devices.deviceCount
     readonly property int wantedListHeight: Theme.tableHeadHeight + devices.count * Theme.rowHeight + Theme.controlRadius
         + 2 * Theme.line
-    /// What the window has for the list, also when a notice stands above the buttons.
+    /// Maximum height of the list, also while a notice is above the buttons.
     readonly property int roomForList: (parent?.height ?? 0) - 2 * Theme.pageMargin - Theme.dialogHeadHeight
         - 2 * Theme.dialogFootHeight - 2 * contentMargin - hint.height - Theme.unit
     signal confirmed
@@ -18,7 +18,7 @@ OVDialog {
         devices.setTicked(rows);
     }
 
-    /// Identities of the devices that get a password.
+    /// Identities of the devices to initialise.
     function chosen() {
         return devices.identities();
     }
@@ -50,7 +50,7 @@ OVDialog {
             height: parent.height
             color: Theme.colours.sub
             objectName: "skippedCount"
-            //: Of the ticked devices; they get no first password.
+            //: Ticked devices that are not initialised.
             text: qsTr("另有 %n 台不会执行，请查看提示", "", devices.skippedCount)
         }
     }

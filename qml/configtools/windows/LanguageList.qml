@@ -1,4 +1,4 @@
-// The languages that the menu offers, by code, each under its own name.
+// The languages of the menu: code, and name in the language.
 import QtQml
 
 QtObject {
@@ -12,8 +12,7 @@ QtObject {
         {code: "gl_GL", label: "Galician"}, {code: "ca_CA", label: "Catalan"}
     ]
 
-    /// Takes entries out by their indexes, which ascend: from the last to the first, so that the indexes still to
-    /// come stay valid.
+    /// Removes entries by ascending indices. It removes the last one first, so that the remaining indices stay valid.
     function remove(indexes) {
         const kept = entries.slice();
         for (let i = indexes.length - 1; i >= 0; --i)

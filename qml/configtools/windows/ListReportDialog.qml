@@ -1,4 +1,4 @@
-// What a device list did not do: a sentence, and a table of what is missing with the reason for each.
+// Problems of an import or export: a summary, and a table with reasons.
 import QtQuick
 import configtools
 
@@ -6,9 +6,9 @@ OVDialog {
     id: root
 
     property string summary
-    required property var columns  // as OVTable has them, the texts of those with "figure" in the font of figures
+    required property var columns  // as in OVTable; "figure": digits of equal width
 
-    /// `list` holds maps with the keys of the columns.
+    /// `list` are maps with the keys of the columns.
     function load(text, list) {
         summary = text;
         entries.setNumberedRows(list);

@@ -1,6 +1,5 @@
-// What the windows that log in to one device after the other remember until the program ends: how often each device has
-// refused a password, and the account that the user has given and that was not tried yet. It also holds the accounts that
-// the user keeps, which the main window hands over.
+// State of logins, shared by all windows until the application exits: wrong passwords of each device, an account
+// entered by the user and not tried yet, and the account list.
 pragma Singleton
 import QtQuick
 
@@ -8,15 +7,14 @@ QtObject {
     id: root
 
     readonly property int wrongPassword: 2  // a LoginResult
-    property var wrongTimes: ({})  // by address and port
-    /// An account that the user has given and that was not tried yet: "ipport", "account", "password", "isForAll" (that
-    /// follow), "isKept" (for the device) and "deviceFactory".
+    property var wrongTimes: ({})  // number of refused passwords, by address and port
+    /// An account entered by the user and not tried yet: "ipport", "account", "password", "isForAll" (use it for all
+    /// later devices), "isKept" (store it for the device), "deviceFactory". Null for none.
     property var offered: null
-    property var accounts: null  // an AccountList; null where nothing is kept
+    property var accounts: null  // an AccountList; null if accounts are not stored
     signal unkept(string reason)
 
-    /// Takes the result of a login. An account for all that follow is the default one once a device has taken it, and
-    /// one for the device is kept then.
+    /// Records the result of a login. After success, an entered account is used for later devices or stored, as chosen.
     function note(ipport, result) {
         if (result === wrongPassword)
             wrongTimes = Object.assign({}, wrongTimes, {[ipport]: timesWrong(ipport) + 1});
@@ -39,7 +37,7 @@ QtObject {
         };
     }
 
-    /// Why a login failed, for a place where no address is beside it.
+    /// Error text of a login, with the address where it is not shown nearby.
     function failureText(result, ipport, deviceFactory) {
         const networkFailure = 5;
         return result === networkFailure ? qsTr("%1 没有应答").arg(ipport) : deviceFactory.getErrorName(result);
@@ -49,7 +47,7 @@ QtObject {
         return wrongTimes[ipport] ?? 0;
     }
 
-    /// The one account that a device is tried with.
+    /// The account to log in to a device with.
     function accountFor(ipport, deviceFactory) {
         const chosen = deviceFactory.accountOf("dh", ipport);
         return {user: chosen.account, password: chosen.password, isForAll: chosen.isFollowing ?? false};

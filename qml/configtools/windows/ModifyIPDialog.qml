@@ -1,5 +1,4 @@
-// New addresses for one device or for a batch. As soon as it is known who of a batch will get what, the dialog opens
-// out to show it.
+// Changes the address of a device or of a batch. For a batch, a preview opens when the addresses are known.
 import QtQuick
 import configtools
 
@@ -8,20 +7,20 @@ OVDialog {
 
     required property var deviceFactory
     property bool batch: false
-    property bool openedOut: false
+    property bool expanded: false
     readonly property alias plan: plan
-    readonly property int formWidth: Theme.modifyIpWidth - 2 * Theme.pageMargin  // also when it is opened out
+    readonly property int formWidth: Theme.modifyIpWidth - 2 * Theme.pageMargin  // also next to the preview
     readonly property alias dhcp: dhcpButton.checked
     readonly property string mask: AddressTools.plainAddress(maskField.text)
     readonly property string gateway: AddressTools.plainAddress(gatewayField.text)
-    //: In other languages the address of one device has another name than the first one of a batch.
+    //: Some languages have a different term for the address of one device and the first address of a batch.
     readonly property string startLabel: batch ? qsTr("起始IP") : qsTr("起始IP", "one device")
-    property bool tried: false  // what is unfinished is said under a field once "确定" was pressed
+    property bool tried: false  // OK was pressed: incomplete fields show errors
     readonly property bool planned: dhcp || startField.acceptable
     readonly property string addressWarning: {
-        plan.warningCount + plan.skippedCount;  // read so that this follows the plan
+        plan.warningCount + plan.skippedCount;  // dependency on the plan
         if (batch || dhcp)
-            return "";  // the preview has the notes of a batch
+            return "";  // the preview shows the notes of a batch
         const device = Object.assign({}, plan.get(0));
         switch (device.mark) {
         case AddressPlan.NotChanged:
@@ -38,13 +37,13 @@ OVDialog {
     }
     readonly property string gatewayWarning: plan.gatewayOutside && !dhcp ? qsTr("网关不在该网段内") : ""
     readonly property string warnings: addressWarning + gatewayWarning
-    property string warned  // the warnings that were shown; the same ones are not in the way a second time
+    property string warned  // warnings that were already shown; they do not block a second confirmation
     signal confirmed
 
-    /// Puts rows of devices in, and everything back to its beginning.
+    /// Takes rows of devices and resets all input.
     function load(devices, isBatch) {
         batch = isBatch;
-        openedOut = false;
+        expanded = false;
         tried = false;
         warned = "";
         staticButton.checked = true;
@@ -65,21 +64,21 @@ OVDialog {
         return gatewayField.acceptable ? "" : qsTr("请输入正确的网关");
     }
 
-    /// Warnings of a batch are asked about once they are all in view.
+    /// Confirms warnings of a batch after showing the preview.
     function startBatch() {
         const count = plan.warningCount + (gatewayWarning === "" ? 0 : 1);
         warned = warnings;
         if (plan.checkedCount === 0) {
             refuse(qsTr("请选择一台设备"));
         } else if (count > 0) {
-            openedOut = true;
+            expanded = true;
             question.ask(count, [plan.warnings(), gatewayWarning].filter(words => words !== "").join("\n"));
         } else {
             confirmed();
         }
     }
 
-    wantedWidth: openedOut ? Theme.batchPreviewWidth
+    wantedWidth: expanded ? Theme.batchPreviewWidth
         : Math.max(Theme.modifyIpWidth, foot.visible ? foot.width + buttonsWidth + 3 * Theme.pageMargin : 0)
     leastHeight: Theme.modifyIpHeight
     dense: true
@@ -99,7 +98,7 @@ OVDialog {
             confirmed();
     }
     onOpened: startField.forceActiveFocus()
-    onPlannedChanged: if (planned && batch) openedOut = true
+    onPlannedChanged: if (planned && batch) expanded = true
 
     AddressPlan {
         id: plan
@@ -125,9 +124,9 @@ OVDialog {
         OVLinkButton {
             anchors.verticalCenter: parent.verticalCenter
             objectName: "planButton"
-            text: root.openedOut ? qsTr("收起预览") : qsTr("预览")
+            text: root.expanded ? qsTr("收起预览") : qsTr("预览")
             toolTip: qsTr("显示每台设备将得到的地址")
-            onClicked: root.openedOut = !root.openedOut
+            onClicked: root.expanded = !root.expanded
         }
     }
 
@@ -224,7 +223,7 @@ OVDialog {
             givesAddresses: true
             objectName: "planTable"
             preview: plan
-            visible: root.openedOut
+            visible: root.expanded
         }
     }
     BatchWarningQuestion {

@@ -1,4 +1,4 @@
-// The note about a device.
+// Edits the note of a device.
 import QtQuick
 import configtools
 
@@ -6,7 +6,7 @@ OVDialog {
     id: root
 
     required property DeviceNotes notes
-    property var values: ({})  // of the device's row
+    property var values: ({})  // values of the device's row
 
     function edit(values) {
         root.values = values;

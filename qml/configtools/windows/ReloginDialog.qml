@@ -1,5 +1,4 @@
-// Asks for the account of a device that refused a login, says what the device has answered, and keeps the new password
-// with the device.
+// Asks for the account after a refused login, shows the device's response, and sets the password of the row.
 import QtQuick
 import configtools
 
@@ -7,7 +6,7 @@ OVDialog {
     id: root
 
     required property var deviceFactory
-    /// The waiting operation goes on with these; with two empty texts it is given up. Each ask() is answered once.
+    /// Emitted once for each ask(). Two empty texts: the user has cancelled.
     signal answered(string account, string password)
 
     property string mac
@@ -15,8 +14,8 @@ OVDialog {
     property bool waiting: false
     property string faultKind
     property string fault
-    property int result: 0  // of the login before, a LoginResult
-    property int wrongTimes: 0  // how often this device has refused a password
+    property int result: 0  // of the refused login, a LoginResult
+    property int wrongTimes: 0  // number of wrong passwords sent to this device
 
     function ask(mac, ipport, account, result) {
         answer("", "");
@@ -25,7 +24,7 @@ OVDialog {
         accountField.text = account;
         passwordField.text = "";
         followingBox.checked = false;
-        // One that is kept and refused would be refused again after the next search.
+        // A stored account that was refused would be refused again after the next search.
         keepBox.checked = keepBox.visible && deviceFactory.accountOf("dh", ipport).isStored;
         root.result = result;
         wrongTimes = LoginMemory.timesWrong(ipport);
@@ -42,14 +41,14 @@ OVDialog {
         answered(account, password);
     }
 
-    /// What the device has answered, at the field that it is about.
+    /// Shows the device's response at the field that it concerns.
     function showAnswer() {
         faultKind = result === 1 ? "account" : result === LoginMemory.wrongPassword ? "password" : "";
         fault = faultKind === "password" && wrongTimes > 0 ? qsTr("密码错误，已 %n 次", "", wrongTimes)
             : faultKind === "" ? "" : deviceFactory.getErrorName(result);
     }
 
-    function forget() {
+    function clearError() {
         faultKind = "";
         fault = "";
     }
@@ -102,7 +101,7 @@ OVDialog {
                 errorText: root.faultKind === "account" ? root.fault : ""
                 maximumLength: 63
                 objectName: "accountField"
-                onEdited: root.forget()
+                onEdited: root.clearError()
             }
         }
         OVFormRow {
@@ -117,7 +116,7 @@ OVDialog {
                 maximumLength: 63
                 objectName: "devicePasswordField"
                 secret: true
-                onEdited: root.forget()
+                onEdited: root.clearError()
             }
         }
         OVParagraph {

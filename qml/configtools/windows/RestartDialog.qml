@@ -1,4 +1,4 @@
-// Asks for the restart that a change of language needs.
+// Asks for a restart after a change of language.
 import QtQuick
 import configtools
 

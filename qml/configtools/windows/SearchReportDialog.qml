@@ -1,4 +1,4 @@
-// What the last search has sent and received through each network interface, and what was in its way.
+// The report of the last search: packets of each network interface, and problems.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -16,7 +16,7 @@ OVDialog {
     title: qsTr("搜索报告")
     onAboutToShow: view.contentY = 0
     onAccepted: {
-        clipboard.put(reports.text);
+        clipboard.copy(reports.text);
         inform(qsTr("已复制到剪贴板"), OVToast.Success);
     }
     onOpened: view.forceActiveFocus()

@@ -1,4 +1,4 @@
-// The search settings as one object, in the terms of the local configuration that keeps them.
+// The search settings as one object; localConfig stores them.
 import QtQml
 
 QtObject {
@@ -16,7 +16,7 @@ QtObject {
         };
     }
 
-    /// Stores settings. Returns false when they could not be stored: what is read back then is not what was given.
+    /// Stores settings. Returns false if reading them back gives other values.
     function write(settings) {
         localConfig.setSearchConfigStartIP(settings.startIP);
         localConfig.setSearchConfigEndIP(settings.endIP);

@@ -1,4 +1,4 @@
-// Where a search looks and which account it uses. It holds a draft until it is accepted.
+// Edits a copy of the search settings: networks and account.
 import QtQuick
 import configtools
 
@@ -9,7 +9,7 @@ OVDialog {
         ? AddressTools.searchRangeFault(startField.text, endField.text) : AddressTools.NoFault
     signal confirmed
 
-    /// Takes settings into the draft.
+    /// Loads settings into the fields.
     function load(settings) {
         localBox.checked = settings.localDomain;
         otherBox.checked = settings.otherDomain;
@@ -20,7 +20,7 @@ OVDialog {
         loginBox.checked = settings.logsIn;
     }
 
-    /// The settings as the draft has them.
+    /// Returns the settings of the fields.
     function values() {
         return {
             localDomain: localBox.checked,
@@ -101,7 +101,7 @@ OVDialog {
                         id: endField
                         width: parent.width
                         accessibleName: qsTr("结束IP")
-                        // Both addresses may be none at once; the fault is the first of them.
+                        // Both addresses may be invalid; `fault` is the first error.
                         errorText: !acceptable ? root.textOf(AddressTools.EndIsNoAddress)
                             : root.fault !== AddressTools.BeginIsNoAddress ? root.textOf(root.fault) : ""
                         objectName: "endIpField"

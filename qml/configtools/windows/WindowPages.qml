@@ -1,4 +1,4 @@
-// The pages of the main window, one for each tab. All except the first are made when they are first shown.
+// The pages of the main window, one for each tab. All except the first are created on first use.
 import QtQuick
 import QtQuick.Layouts
 import configtools
@@ -19,7 +19,7 @@ StackLayout {
     signal searchRequested
     signal settingsRequested
 
-    /// Does `action` when the page in front can be left. Returns whether the user is asked about unsaved settings first.
+    /// Runs `action` if the current page can be left. Returns whether the user is asked about unsaved settings first.
     function leave(action) {
         if (deviceConfigPage.visible && busyState.losesEdits(BusyState.ChangeTab))
             return (deviceConfigPage.item as PageDeviceConfig).leave(action);
@@ -36,7 +36,7 @@ StackLayout {
         pageAt(index).forceActiveFocus(Qt.ShortcutFocusReason);
     }
 
-    /// The search field of the page in front.
+    /// Focuses the search field of the current page.
     function focusSearch() {
         pageAt(currentIndex).focusSearch();
     }
@@ -68,10 +68,10 @@ StackLayout {
         onGalleryRequested: rows => root.popups.openGallery(rows, modifyIpPage.deviceTable)
         onLiveRequested: ipport => root.popups.openLive(ipport, modifyIpPage.deviceTable)
         onReportRequested: root.popups.openSearchReport()
-        onSaid: (message, kind) => root.popups.say(message, kind)
+        onNotify: (message, severity) => root.popups.notify(message, severity)
         onSearchRequested: root.searchRequested()
         onSettingsRequested: root.settingsRequested()
-        onSettled: root.popups.settle()
+        onSelectionChanged: root.popups.removeRefusals()
     }
     OVOnDemand {
         id: upgradePage
@@ -86,9 +86,9 @@ StackLayout {
                 notes: root.notes
                 search: root.search
                 onLiveRequested: ipport => root.popups.openLive(ipport, upgrades.deviceTable)
-                onSaid: (message, kind) => root.popups.say(message, kind)
+                onNotify: (message, severity) => root.popups.notify(message, severity)
                 onSearchRequested: root.searchRequested()
-                onSettled: root.popups.settle()
+                onSelectionChanged: root.popups.removeRefusals()
             }
         }
         // qmllint enable unqualified
@@ -106,9 +106,9 @@ StackLayout {
                 notes: root.notes
                 search: root.search
                 onLiveRequested: ipport => root.popups.openLiveOfTree(ipport, configs.treeDevices)
-                onSaid: (message, kind, stay) => root.popups.say(message, kind, stay)
+                onNotify: (message, severity, duration) => root.popups.notify(message, severity, duration)
                 onSearchRequested: root.searchRequested()
-                onSettled: root.popups.settle()
+                onSelectionChanged: root.popups.removeRefusals()
             }
         }
         // qmllint enable unqualified
@@ -125,9 +125,9 @@ StackLayout {
                 notes: root.notes
                 search: root.search
                 onLiveRequested: ipport => root.popups.openLiveOfTree(ipport, systems.treeDevices)
-                onSaid: (message, kind) => root.popups.say(message, kind)
+                onNotify: (message, severity) => root.popups.notify(message, severity)
                 onSearchRequested: root.searchRequested()
-                onSettled: root.popups.settle()
+                onSelectionChanged: root.popups.removeRefusals()
             }
         }
         // qmllint enable unqualified
@@ -145,9 +145,9 @@ StackLayout {
                 notes: root.notes
                 search: root.search
                 onLiveRequested: ipport => root.popups.openLive(ipport, commands.deviceTable)
-                onSaid: (message, kind) => root.popups.say(message, kind)
+                onNotify: (message, severity) => root.popups.notify(message, severity)
                 onSearchRequested: root.searchRequested()
-                onSettled: root.popups.settle()
+                onSelectionChanged: root.popups.removeRefusals()
             }
         }
         // qmllint enable unqualified

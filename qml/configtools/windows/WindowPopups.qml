@@ -1,4 +1,4 @@
-// What the main window opens over itself. Each is made when it is first asked for.
+// Dialogs, menus, messages and further windows of the main window, created on first use.
 import QtQuick
 import configtools
 
@@ -13,54 +13,54 @@ Item {
     required property SearchReports searchReports
     required property var languages
     required property string currentLanguage
-    required property string colourChoice  // as MainMenu takes it
+    required property string colourChoice  // see MainMenu
     required property string logoName
     required property string softwareName
     required property string version
     required property bool searching
-    required property rect noticeBand  // of the window, where messages are in the way of nothing
-    required property var webPages  // WebPages
+    required property rect noticeBand  // area of the toasts, in window coordinates
+    required property var webPages  // a WebPages
     signal helpRequested
     signal questionsRequested
     signal languageChosen(string code)
     signal coloursChosen(string choice)
     signal restartRequested
     signal settingsAccepted(var values)
-    signal endConfirmed  // although a batch runs
+    signal endConfirmed  // exit during a batch
 
     function openMenu(button) {
-        const mainMenu = menu.wanted();
+        const mainMenu = menu.instance();
         mainMenu.popup(button, button.width - mainMenu.width, button.height + Theme.half);
     }
 
     function openSearchSettings(values) {
-        const dialog = searchSettings.wanted();
+        const dialog = searchSettings.instance();
         dialog.load(values);
         dialog.open();
     }
 
     function openSearchReport() {
-        searchReport.wanted().open();
+        searchReport.instance().open();
     }
 
     function openRestartPrompt() {
-        restart.wanted().open();
+        restart.instance().open();
     }
 
-    /// `table` is the list that the device is of, a DeviceTableModel. The live window goes through the ticked devices of
-    /// it, or through its rows while none is ticked.
+    /// `table` is the list of the device, a DeviceTableModel. The live window goes through its ticked devices, or all
+    /// rows if none is ticked.
     function openLive(ipport, table) {
-        live.wanted().open(ipport, -1, table, table.checkedCount > 0 ? table.checkedRows() : []);
+        live.instance().open(ipport, -1, table, table.checkedCount > 0 ? table.checkedRows() : []);
     }
 
-    /// The same for a device of a tree, an OVTreeModel.
+    /// Like openLive() for a device of a tree, an OVTreeModel.
     function openLiveOfTree(ipport, tree) {
-        live.wanted().open(ipport, -1, null, tree.devicesToWatch());
+        live.instance().open(ipport, -1, null, tree.devicesToWatch());
     }
 
-    /// The pictures of these rows of `table`.
+    /// Shows images of these rows of `table`.
     function openGallery(rows, table) {
-        const window = gallery.wanted();
+        const window = gallery.instance();
         window.table = table;
         window.open(rows);
     }
@@ -70,27 +70,27 @@ Item {
         gallery.item?.close();
     }
 
-    /// A message that is to be confirmed.
-    function tell(message) {
-        messageBox.wanted().show(message, OVMessageBox.Information);
+    /// Shows a message that the user must confirm.
+    function showMessage(message) {
+        messageBox.instance().show(message, OVMessageBox.Information);
     }
 
-    /// Whether the program is to end during a batch, which may write firmware.
+    /// Asks whether to exit during a batch. `upgrades`: firmware may be being written.
     function askToEnd(title, upgrades) {
-        const box = endQuestion.wanted();
+        const box = endQuestion.instance();
         box.okText = qsTr("停止并退出");
         box.show(qsTr("“%1”正在进行。退出后，其余设备不会更改。").arg(title)
             + (upgrades ? qsTr("已开始写入的设备会自行完成升级，请勿断电。") : ""), OVMessageBox.DangerQuestion);
     }
 
-    /// A message that goes by itself.
-    function say(message, kind, stay) {
-        toasts.wanted().show(message, kind, stay);
+    /// Shows a toast.
+    function notify(message, severity, duration) {
+        toasts.instance().show(message, severity, duration);
     }
 
-    /// Of the messages that go by themselves: what was in the way may have changed.
-    function settle() {
-        toasts.item?.settle();
+    /// Removes refusals: their obstacle may no longer exist.
+    function removeRefusals() {
+        toasts.item?.removeRefusals();
     }
 
     function clearNotices() {
@@ -101,7 +101,7 @@ Item {
         target: root.busyState
 
         function onChanged() {
-            root.settle();
+            root.removeRefusals();
         }
     }
     Connections {
@@ -109,7 +109,7 @@ Item {
 
         function onRunningChanged() {
             if (root.batches.running)
-                root.clearNotices();  // they are about what was done before
+                root.clearNotices();  // they concern earlier work
         }
     }
 
@@ -117,7 +117,7 @@ Item {
         target: root.webPages
 
         function onRefused(reason) {
-            root.say(reason, OVToast.Error);
+            root.notify(reason, OVToast.Error);
         }
     }
 
@@ -125,16 +125,16 @@ Item {
         target: LoginMemory
 
         function onUnkept(reason) {
-            root.say(qsTr("账号无法保存，只用到下次搜索：%1").arg(reason), OVToast.Error);
+            root.notify(qsTr("账号无法保存，只用到下次搜索：%1").arg(reason), OVToast.Error);
         }
     }
 
-    // A batch and a search are asked about once, at their ends.
+    // Asks once, after the end of a batch and a search.
     Timer {
         interval: 300
         running: root.certificates.hasNews && !root.batches.running && !root.searching
             && !(certificateQuestion.item?.visible ?? false)
-        onTriggered: certificateQuestion.wanted().show()
+        onTriggered: certificateQuestion.instance().show()
     }
 
     // qmllint disable unqualified
@@ -143,7 +143,7 @@ Item {
         visible: false
         sourceComponent: CertificateDialog {
             certificates: root.certificates
-            onAgreed: count => root.say(qsTr("已信任 %n 个证书，请重试刚才的操作", "", count), OVToast.Success)
+            onAgreed: count => root.notify(qsTr("已信任 %n 个证书，请重试刚才的操作", "", count), OVToast.Success)
         }
     }
     OVOnDemand {
@@ -153,8 +153,8 @@ Item {
             colourChoice: root.colourChoice
             currentLanguage: root.currentLanguage
             languages: root.languages
-            onAboutRequested: about.wanted().open()
-            onAccountsRequested: accounts.wanted().manage()
+            onAboutRequested: about.instance().open()
+            onAccountsRequested: accounts.instance().manage()
             onColoursChosen: choice => root.coloursChosen(choice)
             onHelpRequested: root.helpRequested()
             onLanguageChosen: code => root.languageChosen(code)
@@ -166,7 +166,7 @@ Item {
         visible: false
         sourceComponent: AccountsDialog {
             accounts: LoginMemory.accounts
-            onSaid: (message, kind) => root.say(message, kind)
+            onNotify: (message, severity) => root.notify(message, severity)
         }
     }
     OVOnDemand {
@@ -211,7 +211,7 @@ Item {
             busyState: root.busyState
             deviceFactory: root.deviceFactory
             localConfig: root.localConfig
-            onSaid: (message, kind) => root.say(message, kind)
+            onNotify: (message, severity) => root.notify(message, severity)
         }
     }
     OVOnDemand {
@@ -223,7 +223,7 @@ Item {
             batches: root.batches
             deviceFactory: root.deviceFactory
             localConfig: root.localConfig
-            onLiveRequested: (ipport, channel) => live.wanted().open(ipport, channel, table, pictures.gallery.devices())
+            onLiveRequested: (ipport, channel) => live.instance().open(ipport, channel, table, pictures.gallery.devices())
         }
     }
     OVOnDemand {

@@ -1,4 +1,4 @@
-// The keys of the main window. They rest while a dialog or a menu is open.
+// Keyboard shortcuts of the main window. They are inactive while a dialog or menu is open.
 import QtQuick
 import QtQml
 

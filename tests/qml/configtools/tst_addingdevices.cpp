@@ -94,7 +94,7 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
         m_adding = m_window->findChild<QObject *>("adding");
         m_adding->setProperty("favouritesFolder", favouritesFolder());
-        m_said = std::make_unique<QSignalSpy>(m_adding, SIGNAL(said(QString, int)));
+        m_said = std::make_unique<QSignalSpy>(m_adding, SIGNAL(notify(QString, int)));
         m_added = std::make_unique<QSignalSpy>(m_adding, SIGNAL(added()));
     }
 

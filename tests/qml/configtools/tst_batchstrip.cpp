@@ -285,7 +285,7 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         m_file.path = folder.filePath(file);
         Batch *batch = run({0, networkFailure, 0});
-        QSignalSpy said(find("foot"), SIGNAL(said(QString, int)));
+        QSignalSpy said(find("foot"), SIGNAL(notify(QString, int)));
         press("saveResultsButton");
         QTRY_COMPARE(said.size(), 1);
         QVERIFY(said.takeFirst().first().toString().contains(m_file.path));

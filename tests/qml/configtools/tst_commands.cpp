@@ -158,7 +158,7 @@ private Q_SLOTS:
         auto *devices = m_window->findChild<DeviceTableModel *>();
         devices->refresh();
         QObject *sender = m_window->findChild<QObject *>("sender");
-        const QSignalSpy said(sender, SIGNAL(said(QString, int)));
+        const QSignalSpy said(sender, SIGNAL(notify(QString, int)));
         QVERIFY(QMetaObject::invokeMethod(sender, "send", Q_ARG(QVariant, 0)));
         QTRY_VERIFY(!m_site->batches.isRunning());
         QCOMPARE(m_site->transport->urls, url.isEmpty() ? QStringList() : QStringList(url));
@@ -192,7 +192,7 @@ private Q_SLOTS:
         };
         QObject *sender = m_window->findChild<QObject *>("sender");
         QSignalSpy failed(sender, SIGNAL(failed(QVariant)));
-        const QSignalSpy said(sender, SIGNAL(said(QString, int)));
+        const QSignalSpy said(sender, SIGNAL(notify(QString, int)));
         QVERIFY(QMetaObject::invokeMethod(sender, "sendToAll", Q_ARG(QVariant, QStringList({"a", "b", "c"})),
                                           Q_ARG(QVariant, "/cgi-bin/a")));
         QVERIFY(failed.count() == 1 || failed.wait());
@@ -207,7 +207,7 @@ private Q_SLOTS:
     {
         open(page);
         QQuickItem *item = find("page");
-        const QSignalSpy said(item, SIGNAL(said(QString, int)));
+        const QSignalSpy said(item, SIGNAL(notify(QString, int)));
         item->setVisible(false);
         Q_EMIT m_site->commands.workbooks()->ended("first\nsecond");
         QCOMPARE(said.value(0).value(0).toString(), "first");

@@ -28,7 +28,7 @@ const char *const heldScene = "    visible: true; width: 400; height: 100\n"
                               "    Item {\n"
                               "        width: 200; height: 100\n"
                               "        TextInput { objectName: 'inner'; width: 200; height: 100 }\n"
-                              "        OVWorkHold { active: false }\n"
+                              "        OVPanelBlocker { active: false }\n"
                               "    }\n"
                               "    TextInput { objectName: 'outer'; x: 200; width: 200; height: 100 }\n";
 
@@ -144,7 +144,7 @@ private Q_SLOTS:
         call("readNames");
         QTRY_VERIFY(!isBusy());
         m_site->site->requests().clear();
-        const QSignalSpy said(m_session, SIGNAL(said(QString, int, int)));
+        const QSignalSpy said(m_session, SIGNAL(notify(QString, int, int)));
         m_site->site->setFault(m_recorder.mac,
                                {.fault = sdk::demo::Fault::SlowAnswers, .number = 500, .text = {}});
         m_site->stopTime();
@@ -221,7 +221,7 @@ private Q_SLOTS:
         enter("secret1", false);
         QTRY_VERIFY(!details->property("asking").toBool());
         QTRY_VERIFY(!dialogItem("devicePasswordField"));
-        QCOMPARE(details->property("trouble").toString(), "");
+        QCOMPARE(details->property("loginError").toString(), "");
         QCOMPARE(passwordOf(m_recorder), "secret1");
     }
 
@@ -261,12 +261,12 @@ private Q_SLOTS:
         QObject *details = detailsOf(m_other);
         m_site->site->setFault(m_other.mac, {.fault = sdk::demo::Fault::NoAnswer});
         QVERIFY(QMetaObject::invokeMethod(details, "ask"));
-        QTRY_VERIFY(!details->property("trouble").toString().isEmpty());
+        QTRY_VERIFY(!details->property("loginError").toString().isEmpty());
         QCOMPARE(passwordOf(m_other), "");
         m_site->site->clearFault(m_other.mac, sdk::demo::Fault::NoAnswer);
         QVERIFY(QMetaObject::invokeMethod(details, "ask"));
         QTRY_VERIFY(!details->property("asking").toBool());
-        QCOMPARE(details->property("trouble").toString(), "");
+        QCOMPARE(details->property("loginError").toString(), "");
         QCOMPARE(passwordOf(m_other), "secret1");
     }
 
@@ -297,7 +297,7 @@ private Q_SLOTS:
         QVERIFY(window && QTest::qWaitForWindowExposed(window.get()));
         QQuickItem *inner = findBelow(window->contentItem(), "inner", Sight::Any);
         QQuickItem *outer = findBelow(window->contentItem(), "outer", Sight::Any);
-        QQuickItem *sheet = findBelow(window->contentItem(), "workHold", Sight::Any);
+        QQuickItem *sheet = findBelow(window->contentItem(), "panelBlocker", Sight::Any);
         inner->forceActiveFocus();
         for (const bool isTakenElsewhere : {false, true}) {
             sheet->setProperty("active", true);

@@ -144,7 +144,7 @@ private Q_SLOTS:
     void anExportReportsNamesThatCannotBeImported()
     {
         QObject *files = m_window->findChild<QObject *>("files");
-        const QSignalSpy said(files, SIGNAL(said(QString, int)));
+        const QSignalSpy said(files, SIGNAL(notify(QString, int)));
         const auto report = [files] {
             return QMetaObject::invokeMethod(files, "reportExport", Q_ARG(QVariant, "exported"));
         };

@@ -41,7 +41,7 @@ const char *const scene =
     "                  {key: 'model', title: 'Model', width: 200, sortable: true}]\n"
     "        onMenuRequested: (row, place) => menu.offer(place, devices.get(row), [{key: 'edit', text: "
     "'Edit'}])\n"
-    "        onRowOpened: row => done = 'open ' + devices.get(row).mac\n"
+    "        onRowActivated: row => done = 'open ' + devices.get(row).mac\n"
     "    }\n"
     "    SystemDeviceTree {\n"
     "        x: 640; y: 100; width: 400; height: 300; devices: groups; describer: null; busyDevice: ''\n"
@@ -402,7 +402,7 @@ private Q_SLOTS:
         notices->setProperty("band", band);
         const QQuickItem *toast = find("toast");
         QTRY_VERIFY(band.contains(toast->mapRectToScene(toast->boundingRect())));
-        QMetaObject::invokeMethod(notices, "settle");
+        QMetaObject::invokeMethod(notices, "removeRefusals");
         QTRY_COMPARE(findAll("toastText"), QStringList("saved"));
         QMetaObject::invokeMethod(notices, "clear");
         QTRY_VERIFY(!find("toastText"));

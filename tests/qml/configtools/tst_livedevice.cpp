@@ -72,7 +72,7 @@ private:
     std::unique_ptr<QQmlEngine> m_engine;
     std::unique_ptr<QQuickWindow> m_window;
     QObject *m_live = nullptr;
-    std::unique_ptr<QSignalSpy> m_answered;
+    std::unique_ptr<QSignalSpy> m_checked;
     std::unique_ptr<QSignalSpy> m_lost;
 
     void open(const QString &ipport = device) const
@@ -90,13 +90,13 @@ private Q_SLOTS:
         m_window = openScene(*m_engine, scene, {{"factory", m_factory.get()}});
         QVERIFY(m_window);
         m_live = m_window->findChild<QObject *>("live");
-        m_answered = std::make_unique<QSignalSpy>(m_live, SIGNAL(answered(bool)));
+        m_checked = std::make_unique<QSignalSpy>(m_live, SIGNAL(checked(bool)));
         m_lost = std::make_unique<QSignalSpy>(m_live, SIGNAL(lost()));
     }
 
     void cleanup()
     {
-        m_answered.reset();
+        m_checked.reset();
         m_lost.reset();
         m_window.reset();
         m_engine.reset();
@@ -110,20 +110,20 @@ private Q_SLOTS:
         m_factory->answer(5);
         QVERIFY(!get("busy").toBool());
         QCOMPARE(get("failure").toString(), device + " 没有应答");
-        QCOMPARE(get("restSeconds").toInt(), 1);
+        QCOMPARE(get("retrySeconds").toInt(), 1);
         QTRY_COMPARE(m_factory->asked.size(), 2);
         QVERIFY(get("busy").toBool());
         m_factory->answer(5);
-        QCOMPARE(get("restSeconds").toInt(), 2);
+        QCOMPARE(get("retrySeconds").toInt(), 2);
         call("tryAgain"); // immediately
         QCOMPARE(m_factory->asked, QStringList(3, "admin secret1 channels"));
         m_factory->answer(5);
-        QCOMPARE(get("restSeconds").toInt(), 4);
+        QCOMPARE(get("retrySeconds").toInt(), 4);
         call("tryAgain");
         m_factory->answer(0);
         QCOMPARE(opened.size(), 1);
         QCOMPARE(get("channels").toList().size(), 1);
-        QVERIFY(!get("resting").toBool());
+        QVERIFY(!get("waitingForRetry").toBool());
     }
 
     void permanentFailuresAreNotRetried_data()
@@ -140,17 +140,17 @@ private Q_SLOTS:
         QFETCH(int, result);
         open();
         m_factory->answer(result);
-        QVERIFY(!get("resting").toBool() && !get("asking").toBool());
+        QVERIFY(!get("waitingForRetry").toBool() && !get("checking").toBool());
         QVERIFY(!get("failure").toString().isEmpty());
 
         open(); // also after an earlier login for a stream
         m_factory->answer(0);
-        call("doubt");
-        call("look");
+        call("expireResponse");
+        call("check");
         m_factory->answer(result);
         QVERIFY(!get("loggedIn").toBool());
-        call("look");
-        QCOMPARE(m_answered->last().first().toBool(), false);
+        call("check");
+        QCOMPARE(m_checked->last().first().toBool(), false);
         QCOMPARE(m_factory->asked.size(), 3);
     }
 
@@ -158,21 +158,22 @@ private Q_SLOTS:
     {
         open();
         m_factory->answer(0);
-        call("look"); // it has just responded
-        QCOMPARE(m_answered->last().first().toBool(), true);
+        call("check"); // it has just responded
+        QCOMPARE(m_checked->last().first().toBool(), true);
         QCOMPARE(m_factory->asked.size(), 1);
-        call("doubt");
-        call("look");
-        call("look"); // for another stream
+        call("expireResponse");
+        call("check");
+        call("check"); // for another stream
         QCOMPARE(m_factory->asked.size(), 2);
         QCOMPARE(m_factory->asked.last(), "admin secret1"); // its channels have been read
         m_factory->answer(5);
-        QCOMPARE(m_answered->size(), 2);
-        QCOMPARE(m_answered->last().first().toBool(), false);
-        QVERIFY(get("loggedIn").toBool() && !get("resting").toBool()); // the streams pause on their own
-        call("look");
+        QCOMPARE(m_checked->size(), 2);
+        QCOMPARE(m_checked->last().first().toBool(), false);
+        QVERIFY(get("loggedIn").toBool() &&
+                !get("waitingForRetry").toBool()); // the streams pause on their own
+        call("check");
         m_factory->answer(0);
-        QCOMPARE(m_answered->last().first().toBool(), true);
+        QCOMPARE(m_checked->last().first().toBool(), true);
     }
 
     void theSessionOfAnotherDeviceIsKept()
@@ -180,7 +181,7 @@ private Q_SLOTS:
         open();
         m_factory->answer(5);
         m_factory->logInElsewhere(other);
-        QVERIFY(!get("resting").toBool());
+        QVERIFY(!get("waitingForRetry").toBool());
         QCOMPARE(m_lost->size(), 0);
 
         open(other); // without a separate account

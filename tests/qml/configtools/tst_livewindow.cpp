@@ -124,7 +124,7 @@ private:
     }
     [[nodiscard]] QString textIn(int place, const QString &name) const
     {
-        QQuickItem *player = find(QStringLiteral("livePlace%1").arg(place));
+        QQuickItem *player = find(QStringLiteral("liveCell%1").arg(place));
         const QQuickItem *item = player ? findBelow(player, name, Sight::Visible) : nullptr;
         return item ? item->property("text").toString() : QString();
     }
@@ -147,7 +147,7 @@ private:
                                           Q_ARG(QVariant, 0), Q_ARG(QVariant, QVariant::fromValue(m_table)),
                                           Q_ARG(QVariant, chosen)));
         QVERIFY(QTest::qWaitForWindowActive(m_window));
-        QTRY_VERIFY(find("livePlace0"));
+        QTRY_VERIFY(find("liveCell0"));
     }
     /// "login of channel" of the requested streams, sorted, because several threads request them.
     QStringList startedStreams()
@@ -203,10 +203,10 @@ private Q_SLOTS:
     void navigationFollowsTheList()
     {
         openLive(21);
-        QCOMPARE(text("liveDevicePlace"), "2 / 5");
-        QTest::keyClick(m_window, Qt::Key_PageDown); // skips the uninitialised device
+        QCOMPARE(text("liveDevicePosition"), "2 / 5");
+        QTest::keyClick(m_window, Qt::Key_PageDown); // over the one that waits for its first password
         QCOMPARE(text("liveAddress"), ipportOf(23));
-        QCOMPARE(text("liveDevicePlace"), "4 / 5");
+        QCOMPARE(text("liveDevicePosition"), "4 / 5");
         click("liveLaterButton");
         QCOMPARE(text("liveTitle"), "D24");
         QVERIFY(!find("liveLaterButton")->isEnabled());
@@ -223,7 +223,7 @@ private Q_SLOTS:
     void navigationFollowsTheSelectedDevices()
     {
         openLive(20, {QVariantMap{{"ipport", ipportOf(20)}}, QVariantMap{{"ipport", ipportOf(24)}}});
-        QCOMPARE(text("liveDevicePlace"), "1 / 2");
+        QCOMPARE(text("liveDevicePosition"), "1 / 2");
         QTest::keyClick(m_window, Qt::Key_PageDown);
         QCOMPARE(text("liveAddress"), ipportOf(24));
         QVERIFY(!find("liveLaterButton")->isEnabled());
@@ -265,7 +265,7 @@ private Q_SLOTS:
 
         click("liveRemove1");
         QCOMPARE(*m_devices->open, QStringList(ipportOf(24)));
-        QCOMPARE(find("livePlace0")->property("channel").toInt(), -1);
+        QCOMPARE(find("liveCell0")->property("channel").toInt(), -1);
         QCOMPARE(textIn(2, "liveChannelName"), "D23");
     }
 

@@ -62,12 +62,12 @@ private:
     /// Waits until the player requests the device's state, and reports it.
     void answer(bool isThere) const
     {
-        QTRY_VERIFY(get("asking").toBool());
+        QTRY_VERIFY(get("checking").toBool());
         answerUnasked(isThere);
     }
     void answerUnasked(bool isThere) const
     {
-        QVERIFY(QMetaObject::invokeMethod(m_player, "answer", Q_ARG(QVariant, isThere)));
+        QVERIFY(QMetaObject::invokeMethod(m_player, "takeCheckResult", Q_ARG(QVariant, isThere)));
     }
     void deliverPicture() const
     {
@@ -96,7 +96,7 @@ private Q_SLOTS:
         m_window = openScene(*m_engine, scene);
         QVERIFY(m_window);
         m_player = m_window->findChild<QObject *>("player");
-        m_asked = std::make_unique<QSignalSpy>(m_player, SIGNAL(asked()));
+        m_asked = std::make_unique<QSignalSpy>(m_player, SIGNAL(checkRequested()));
     }
 
     void cleanup()
@@ -112,23 +112,23 @@ private Q_SLOTS:
     void failedStreamsAreRetried()
     {
         set("active", true);
-        answer(false); // the device is offline: no stream is requested
-        QVERIFY(get("resting").toBool() && m_net->started().isEmpty());
-        QTRY_COMPARE(m_asked->size(), 2); // automatically
+        answer(false); // the device is away: no stream is asked for
+        QVERIFY(get("waitingForRetry").toBool() && m_net->started().isEmpty());
+        QTRY_COMPARE(m_asked->size(), 2); // by itself
         m_net->refuse({sdk::LiveStreamKind::Main, sdk::LiveStreamKind::Sub});
         answer(true);
         QTRY_COMPARE(m_net->started(), (QStringList{"sub of 2", "main of 2"}));
-        QTRY_VERIFY(get("resting").toBool() && !get("connecting").toBool());
+        QTRY_VERIFY(get("waitingForRetry").toBool() && !get("connecting").toBool());
         m_net->refuse({});
         QVERIFY(QMetaObject::invokeMethod(m_player, "reconnect"));
         answer(true);
         deliverPicture();
-        QVERIFY(!get("resting").toBool());
+        QVERIFY(!get("waitingForRetry").toBool());
 
         const QSignalSpy failed(m_player, SIGNAL(failed()));
         m_fake->clock->advance(std::chrono::seconds(5)); // no data arrives any more
         QTRY_COMPARE(failed.size(), 1);
-        QVERIFY(get("resting").toBool() && !get("playing").toBool());
+        QVERIFY(get("waitingForRetry").toBool() && !get("playing").toBool());
         answer(true);
         deliverPicture();
     }
@@ -155,8 +155,8 @@ private Q_SLOTS:
         QTRY_COMPARE(m_net->started(), QStringList{"main of 5"});
 
         set("channel", 6);
-        QTRY_VERIFY(get("asking").toBool());
-        set("active", false); // the window is closed during the request
+        QTRY_VERIFY(get("checking").toBool());
+        set("active", false); // the window is closed while it asks
         answerUnasked(true);
         QVERIFY(!get("connecting").toBool());
         QTRY_COMPARE(m_net->started().size(), 1);

@@ -10,7 +10,7 @@ const char *const scene =
     "    SystemPanels {\n"
     "        anchors.fill: parent\n"
     "        objectName: 'panels'\n"
-    "        available: true; unavailableText: ''; held: false; upgradingCount: 0; timeZone: 'UTC+08:00'\n"
+    "        available: true; unavailableText: ''; locked: false; upgradingCount: 0; timeZone: 'UTC+08:00'\n"
     "        passwordTime: SystemPasswordTime { deviceFactory: factory; changing: false }\n"
     "        deviceFactory: factory\n"
     "        onActionRequested: (command, title, data) =>\n"

@@ -157,7 +157,7 @@ private Q_SLOTS:
         const QModelIndex refusing = m_tree->index(0, 0, m_tree->index(0, 0));
         m_site->site->setFault(refusing.data(OVTreeModel::IdentityRole).toString(),
                                {.fault = sdk::demo::Fault::RefusesPasswordChange});
-        const QSignalSpy said(m_page, SIGNAL(said(QString, int)));
+        const QSignalSpy said(m_page, SIGNAL(notify(QString, int)));
         sendNewPassword();
         QTRY_VERIFY(!isRunning());
         QCOMPARE(m_site->site->requests().of("NetModifyPassword").size(), 4);
@@ -238,7 +238,7 @@ private Q_SLOTS:
         type("newPasswordField", "Bett");
         m_time->setProperty("secondsLeft", 15);
         QVERIFY(text("countdownText").startsWith(QStringLiteral("只剩 15 秒")));
-        const QSignalSpy said(m_page, SIGNAL(said(QString, int)));
+        const QSignalSpy said(m_page, SIGNAL(notify(QString, int)));
         m_time->setProperty("second", 1);
         QTRY_VERIFY(!item("newPasswordField")->isEnabled());
         QTRY_COMPARE(m_site->asked("NetLogout").size(), 4);

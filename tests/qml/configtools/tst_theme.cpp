@@ -82,21 +82,21 @@ private Q_SLOTS:
             dataTable<bool, QByteArray, QByteArray, QByteArray>({"isDark", "words", "grounds", "veil"});
         const QByteArray panes = "surface background head foot hover pressed row rowAlternate rowConflict "
                                  "rowSelected accentSoft accentSofter";
-        // Some fixed colours of the light theme have less contrast: hints and state icons.
-        row("light", false, "ink sub accent bad", "surface background foot row", "clear");
-        row("dark", true, "ink sub faint accent accentHover accentPressed ok warn warnInk bad badHover",
+        // What is fixed of the light theme has less contrast in places: hints, and the signs of states.
+        row("light", false, "text sub accent bad", "surface background foot row", "clear");
+        row("dark", true, "text sub faint accent accentHover accentPressed ok warn warnText bad badHover",
             panes, "clear");
-        row("dark, under the pointer", true, "ink sub faint accent accentHover ok warn bad",
+        row("dark, under the pointer", true, "text sub faint accent accentHover ok warn bad",
             "row rowAlternate rowConflict", "rowHoverVeil");
-        row("dark, warnings", true, "ink warnInk", "warnSoft", "clear");
-        row("dark, errors", true, "ink bad", "badSoft", "clear");
+        row("dark, warnings", true, "text warnText", "warnSoft", "clear");
+        row("dark, errors", true, "text bad", "badSoft", "clear");
         for (const bool isDark : {false, true}) {
             const QByteArray theme = isDark ? "dark" : "light";
-            row(theme + ", filled buttons", isDark, "accentInk",
+            row(theme + ", filled buttons", isDark, "accentText",
                 "accent accentHover accentPressed bad badHover badPressed", "clear");
-            row(theme + ", bars", isDark, "barInk barSub", "bar barHover barPressed", "clear");
-            row(theme + ", close button", isDark, "barInk", "barClose barClosePressed", "clear");
-            row(theme + ", bubbles", isDark, "bubbleInk", "bubble", "clear");
+            row(theme + ", bars", isDark, "barText barSub", "bar barHover barPressed", "clear");
+            row(theme + ", close button", isDark, "barText", "barClose barClosePressed", "clear");
+            row(theme + ", bubbles", isDark, "bubbleText", "bubble", "clear");
         }
     }
 

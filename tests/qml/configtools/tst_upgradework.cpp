@@ -10,17 +10,18 @@ using sdk::demo::Fault;
 
 namespace {
 
-const char *const scene = "    id: window\n"
-                          "    width: 1280; height: 720; visible: true\n"
-                          "    property var said: []\n"
-                          "    UpgradeWork {\n"
-                          "        objectName: 'work'\n"
-                          "        batches: works; deviceFactory: factory; deviceTable: table\n"
-                          "        fileDialogs: files; upgradeBatches: upgrades; shown: true\n"
-                          "        onChanged: table.refresh()\n"
-                          "        onSaid: (message, kind) => window.said = window.said.concat([message])\n"
-                          "    }\n"
-                          "    UpgradeSummary { width: 900; batch: upgrades.last }\n";
+const char *const scene =
+    "    id: window\n"
+    "    width: 1280; height: 720; visible: true\n"
+    "    property var said: []\n"
+    "    UpgradeWork {\n"
+    "        objectName: 'work'\n"
+    "        batches: works; deviceFactory: factory; deviceTable: table\n"
+    "        fileDialogs: files; upgradeBatches: upgrades; shown: true\n"
+    "        onChanged: table.refresh()\n"
+    "        onNotify: (message, severity) => window.said = window.said.concat([message])\n"
+    "    }\n"
+    "    UpgradeSummary { width: 900; batch: upgrades.last }\n";
 
 } // namespace
 

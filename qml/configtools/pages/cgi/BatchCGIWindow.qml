@@ -1,4 +1,4 @@
-// Asks for the command that goes to every ticked device.
+// Asks for a command for all ticked devices.
 import QtQuick
 import configtools
 

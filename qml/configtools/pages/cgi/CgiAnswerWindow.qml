@@ -1,4 +1,4 @@
-// The whole of what a device has sent, however long: to be read, copied and kept as a file.
+// Shows the complete response of a device, which can be copied and saved to a file.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -53,7 +53,7 @@ OVDialog {
         activeFocusOnTab: true
         boundsBehavior: Flickable.StopAtBounds
         clip: true
-        highlightMoveDuration: 0  // the end of a long answer is there at once
+        highlightMoveDuration: 0  // no animation to the end of a long response
         keyNavigationEnabled: true
         objectName: "cgiAnswerLines"
 
@@ -91,7 +91,7 @@ OVDialog {
             Text {
                 id: words
                 width: line.width - Theme.pageMargin
-                color: line.modelData.startsWith("Error:") ? Theme.colours.bad : Theme.colours.ink
+                color: line.modelData.startsWith("Error:") ? Theme.colours.bad : Theme.colours.text
                 font: Theme.figureFont
                 renderType: Theme.textRendering
                 text: line.modelData

@@ -1,4 +1,4 @@
-// A field for a command. While it has the keyboard it offers what was sent before; the star keeps a command.
+// A field for a CGI command. While focused it suggests earlier commands; the star adds the command to the favourites.
 import QtQuick
 import configtools
 
@@ -11,16 +11,16 @@ FocusScope {
     readonly property bool starred: commands.isFavourite(field.text.trim())
     property var offers: []
     property int marked: -1
-    property real placeInWindow: 0  // its upper edge, when commands were last offered
+    property real topInWindow: 0  // top edge in the window when suggestions were last shown
     signal edited
     signal accepted
 
     function offer() {
         offers = field.activeFocus ? commands.matching(field.text) : [];
         marked = -1;
-        placeInWindow = root.mapToItem(null, 0, 0).y;
+        topInWindow = root.mapToItem(null, 0, 0).y;
         if (offers.length > 0)
-            list.wanted().open();
+            list.instance().open();
         else
             close();
     }
@@ -35,7 +35,7 @@ FocusScope {
         edited();
     }
 
-    /// While commands are offered the arrows mark one and Enter takes it.
+    /// While suggestions are shown, the arrow keys select one and Enter takes it.
     function filterKey(event) {
         const step = event.key === Qt.Key_Down ? 1 : event.key === Qt.Key_Up ? -1 : 0;
         const isEnter = event.key === Qt.Key_Return || event.key === Qt.Key_Enter;
@@ -86,21 +86,21 @@ FocusScope {
         focusPolicy: Qt.NoFocus
         iconName: "star"
         iconSize: Theme.boxSize
-        ink: root.starred ? Theme.colours.warn : Theme.colours.faint
+        iconColor: root.starred ? Theme.colours.warn : Theme.colours.faint
         objectName: "cgiStarButton"
         toolTip: root.starred ? qsTr("从常用命令中移除") : qsTr("保存为常用命令")
         onClicked: root.commands.setFavourite(field.text.trim(), !root.starred)
     }
 
-    // Made when there is something to offer: a table has one of these in each row.
+    // Created on demand: each row of a table may have a field.
     OVOnDemand {
         id: list
         readonly property bool offering: (item as CgiOffers)?.visible ?? false
         visible: false
         // qmllint disable unqualified
         sourceComponent: CgiOffers {
-            // Above the field where there is no room below it.
-            y: root.placeInWindow + Theme.controlHeight + implicitHeight + 2 * Theme.half > root.Window.height
+            // Above the field if there is no room below.
+            y: root.topInWindow + Theme.controlHeight + implicitHeight + 2 * Theme.half > root.Window.height
                 ? -implicitHeight - Theme.half : Theme.controlHeight + Theme.half
             width: root.width
             commands: root.commands

@@ -1,4 +1,4 @@
-// The commands that were sent before and those that are kept as favourites, to be offered while a command is typed.
+// Recent and favourite commands, as suggestions.
 import QtQuick
 import configtools
 
@@ -12,7 +12,7 @@ Item {
     readonly property int offered: 8
     readonly property int longestKept: 2048
 
-    /// Up to `offered` commands that hold `text`, the favourites first.
+    /// Returns up to `offered` commands that contain `text`, favourites first.
     function matching(text) {
         const wanted = text.trim().toLowerCase();
         const known = favourites.concat(recent.filter(command => !favourites.includes(command)));

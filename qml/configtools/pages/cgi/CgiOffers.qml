@@ -1,4 +1,4 @@
-// Commands that are offered below a field.
+// The list of suggested commands below a field.
 import QtQuick
 import QtQuick.Templates as T
 import configtools

@@ -1,4 +1,4 @@
-// Sends a command to devices, whose rows get the answers, and says how it has gone.
+// Sends commands to devices. The rows get the responses; the result is reported.
 import QtQuick
 import configtools
 
@@ -11,40 +11,40 @@ Item {
     required property var deviceTable  // a DeviceTableModel
     required property CgiCommands commands
     property Batch batch: null
-    property string singleRow  // identity of the row whose command it is; "" for that of several
-    signal said(string message, int kind)
-    /// A batch has ended with devices that failed or were not done: a line for each, by their results.
+    property string singleRow  // identity of the row for a single command, "" for several devices
+    signal notify(string message, int severity)
+    /// A batch ended with failed or skipped devices. A line for each, grouped by result.
     signal failed(var lines)
-    /// The device of the row has refused the account that the command was sent with.
+    /// The device refused the account of the command.
     signal accountRefused(string identity, string ipport, int result)
 
     readonly property string prefix: "/cgi-bin/"
 
-    /// The answer of a row, however long.
+    /// The complete response of a row.
     function answerOf(row) {
         const values = deviceTable.get(row);
         return cgiBatches.answerOf(values.identity, values.result ?? "");
     }
 
-    /// What is wrong with a command, "" for nothing.
+    /// Error text for an invalid command, "" for a valid one.
     function faultOf(command) {
         if (command === "")
             return qsTr("请填写CGI命令的具体内容。");
         return command.startsWith(prefix) ? "" : qsTr("URL格式错误。");
     }
 
-    /// Sends the command of one row.
+    /// Sends the command of a row.
     function send(row) {
         const values = deviceTable.get(row);
         const command = (values.url ?? "").trim();
         const fault = faultOf(command);
         if (fault !== "")
-            said(fault, OVToast.Error);
+            notify(fault, OVToast.Error);
         else
             begin(qsTr("发送CGI命令"), [values.identity], command, values.identity);
     }
 
-    /// Sends one command to the devices of these identities.
+    /// Sends a command to the devices with these identities.
     function sendToAll(identities, command) {
         begin(qsTr("批量配置CGI"), identities, command, "");
     }
@@ -59,7 +59,7 @@ Item {
         deviceTable.refreshDevices(identities);
     }
 
-    /// Of the row whose command it was.
+    /// Records the login result of the single row.
     function noteLogin() {
         const {ipport} = deviceFactory.getDeviceDetail("dh", singleRow);
         const noSuchAccount = 1;
@@ -72,21 +72,21 @@ Item {
         accountRefused(singleRow, ipport, result);
     }
 
-    function tellEnd() {
+    function notifyEnd() {
         const report = batch.report;
         if (singleRow !== "") {
             noteLogin();
             if (report.succeeded === 1 && deviceFactory.getDeviceDetail("dh", singleRow).result === "")
-                said(qsTr("命令已执行，没有可显示的结果。"), OVToast.Information);
+                notify(qsTr("命令已执行，没有可显示的结果。"), OVToast.Information);
             return;
         }
         if (report.notDone > 0)
-            said(qsTr("已停止，完成 %1 / %2").arg(report.total - report.notDone).arg(report.total), OVToast.Information);
+            notify(qsTr("已停止，完成 %1 / %2").arg(report.total - report.notDone).arg(report.total), OVToast.Information);
         else if (report.failed > 0)
-            said(qsTr("批量配置CGI命令已完成：成功 %1，失败 %2", "", report.total - report.skipped).arg(report.succeeded).arg(report.failed),
+            notify(qsTr("批量配置CGI命令已完成：成功 %1，失败 %2", "", report.total - report.skipped).arg(report.succeeded).arg(report.failed),
                  OVToast.Error);
         else
-            said(qsTr("批量配置CGI命令已完成", "", report.total - report.skipped), OVToast.Success);
+            notify(qsTr("批量配置CGI命令已完成", "", report.total - report.skipped), OVToast.Success);
         const lines = cgiBatches.failuresOf(batch);
         if (lines.length > 0)
             failed(lines);
@@ -113,7 +113,7 @@ Item {
         target: root.batch
 
         function onFinished() {
-            root.tellEnd();
+            root.notifyEnd();
         }
     }
 }

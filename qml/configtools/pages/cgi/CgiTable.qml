@@ -1,4 +1,4 @@
-// The devices of the CGI page: the answer to each one's last command, the command, and the button that sends it.
+// The table of the CGI page: last response, command and send button of each device.
 import QtQuick
 import configtools
 
@@ -7,19 +7,19 @@ OVTable {
 
     required property var deviceFactory
     required property CgiCommands commands
-    property int editRow: -1  // whose field gets the keyboard as soon as it is there
+    property int editRow: -1  // row whose field gets the keyboard focus when it is created
     signal sendRequested(int row)
     signal answerCopyRequested(int row)
     signal answerOpenRequested(int row)
     signal noteRequested(int row)
 
-    readonly property int tipLength: 3000  // letters of a long answer that a bubble shows
+    readonly property int tipLength: 3000  // maximum characters of a response in a tool tip
 
     function beginningOf(answer) {
         return answer.slice(0, tipLength).replace(/\s+$/, "") + (answer.length > tipLength ? "…" : "");
     }
 
-    /// Makes the row the current one, whose command can be typed.
+    /// Makes a row current and focuses its command field.
     function edit(row) {
         editRow = row;
         show(row);
@@ -84,7 +84,7 @@ OVTable {
             OVLabel {
                 width: opener.x - Theme.half
                 height: parent.height
-                color: answer.words.startsWith("Error:") ? Theme.colours.bad : Theme.colours.ink
+                color: answer.words.startsWith("Error:") ? Theme.colours.bad : Theme.colours.text
                 objectName: "cgiAnswer" + answer.rowIndex
                 showsWholeOnHover: false
                 text: answer.words.slice(0, 400).replace(/\s+/g, " ")
@@ -118,12 +118,12 @@ OVTable {
             TapHandler {
                 acceptedButtons: Qt.RightButton
                 enabled: answer.words !== ""
-                gesturePolicy: TapHandler.ReleaseWithinBounds  // the row, which has a menu, does not get the click
+                gesturePolicy: TapHandler.ReleaseWithinBounds  // the row must not receive the click, as it has a menu
                 onTapped: root.answerCopyRequested(answer.rowIndex)
             }
         }
     }
-    // Only the current row has a field: rows that scroll out of view are used again for others, the current one stays.
+    // Only the current row has a field. Other rows are reused when they scroll out of view.
     Component {
         id: commandCell
         OVTableCell {
@@ -172,7 +172,7 @@ OVTable {
                     x: Theme.controlGap
                     width: parent.width - 2 * x
                     height: parent.height
-                    color: command.stored !== "" ? Theme.colours.ink : Theme.colours.faint
+                    color: command.stored !== "" ? Theme.colours.text : Theme.colours.faint
                     font: Theme.figureFont
                     text: command.stored !== "" ? command.stored : "/cgi-bin/"
                 }

@@ -1,4 +1,4 @@
-// Runs the commands of a workbook, which gets their answers, and opens the template of such a workbook.
+// Runs the commands of a workbook and writes the responses to it. Opens the template.
 import QtQuick
 import configtools
 
@@ -6,12 +6,12 @@ Item {
     id: root
 
     required property var deviceFactory
-    required property var workbooks  // CgiWorkbooks
+    required property var workbooks  // a CgiWorkbooks
     required property var cgiManager
     required property var fileDialogs
-    required property bool shown  // the page is
-    property string untold  // what has come of a workbook, until the page is shown
-    signal said(string message, int kind)
+    required property bool shown  // the page is visible
+    property string pendingOutcome  // result of a workbook until the page is shown
+    signal notify(string message, int severity)
 
     function choose() {
         fileDialogs.chooseFile(qsTr("打开"), ["Excel Files (*.xlsx)"], path => workbooks.read(path));
@@ -19,32 +19,32 @@ Item {
 
     function openTemplate() {
         if (!fileDialogs.exists(cgiManager.templateFile()) || !Qt.openUrlExternally(cgiManager.templateAddress()))
-            said(qsTr("打开模板文件失败。"), OVToast.Error);
+            notify(qsTr("打开模板文件失败。"), OVToast.Error);
     }
 
     function ask(lines) {
-        question.wanted().askEntries(qsTr("即将执行文件中的CGI命令，执行结果将记录在文件中"), lines, {
+        question.instance().askEntries(qsTr("即将执行文件中的CGI命令，执行结果将记录在文件中"), lines, {
             title: qsTr("批量表单操作"), okText: qsTr("执行"), listed: true, action: names => workbooks.run(qsTr("批量表单操作"), names)
         });
     }
 
-    /// On another page the user is at something else: only the first line is said there.
-    function tellEnd(text) {
-        untold = text;
+    /// While another page is shown, only the first line is reported; the result follows when this page is shown.
+    function notifyEnd(text) {
+        pendingOutcome = text;
         if (shown)
-            tellUntold();
+            showPendingOutcome();
         else
-            said(text.split("\n")[0], OVToast.Information);
+            notify(text.split("\n")[0], OVToast.Information);
     }
 
-    function tellUntold() {
-        if (untold !== "")
-            outcome.wanted().show(untold, OVMessageBox.Information);
-        untold = "";
+    function showPendingOutcome() {
+        if (pendingOutcome !== "")
+            outcome.instance().show(pendingOutcome, OVMessageBox.Information);
+        pendingOutcome = "";
     }
 
     visible: false
-    onShownChanged: if (shown) tellUntold()
+    onShownChanged: if (shown) showPendingOutcome()
 
     Connections {
         target: root.workbooks
@@ -53,7 +53,7 @@ Item {
             root.ask(lines);
         }
         function onEnded(text) {
-            root.tellEnd(text);
+            root.notifyEnd(text);
         }
     }
     // qmllint disable unqualified

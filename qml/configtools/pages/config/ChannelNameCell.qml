@@ -1,18 +1,18 @@
-// The name of a channel, edited in its place. Enter, Tab and the arrow keys go on to another row, Enter in the last one to
-// the next device; Escape takes back what was typed.
+// An editable channel name. Enter, Tab and the arrow keys move to another row, Enter in the last row to the next
+// device. Escape reverts.
 import QtQuick
 import configtools
 
 OVTableCell {
     id: root
 
-    required property int wantedRow  // that is to have the keyboard
+    required property int wantedRow  // row that gets the keyboard focus, -1 for none
     signal edited(string name)
     signal reverted
-    signal leftFor(int row)  // -1 and the number of rows lie outside
-    signal confirmed  // with Enter
-    signal reached  // the wanted row has the keyboard
-    signal entered  // the keyboard came by itself, with a click
+    signal leftFor(int row)  // -1 and the row count are outside
+    signal confirmed  // by Enter
+    signal reached  // the wanted row got the keyboard focus
+    signal entered  // focused by a click
 
     readonly property bool wanted: rowIndex >= 0 && wantedRow === rowIndex
     readonly property string name: value ?? ""
@@ -28,14 +28,14 @@ OVTableCell {
     onNameChanged: if (field.text !== name) field.text = name
     onWantedChanged: if (wanted) arriving.start()
 
-    // The row may be on its way into view.
+    // The row may not be in view yet.
     Timer {
         id: arriving
         interval: 0
         onTriggered: root.take()
     }
 
-    Rectangle {  // beside the field, which begins where the heading does
+    Rectangle {  // left of the field, which aligns with the heading
         x: -Theme.unit
         anchors.verticalCenter: parent.verticalCenter
         width: Theme.changeMark
@@ -58,12 +58,12 @@ OVTableCell {
             if (!activeFocus || root.current)
                 return;
             root.entered();
-            forceActiveFocus(Qt.MouseFocusReason);  // a view gives the keyboard to what becomes its current row
+            forceActiveFocus(Qt.MouseFocusReason);  // a view focuses its new current row
         }
         onEdited: root.edited(text)
         onTabPressed: event => {
             const next = root.rowIndex + (event.key === Qt.Key_Backtab ? -1 : 1);
-            event.accepted = next >= 0;  // from the first row the toolkit goes back to the table
+            event.accepted = next >= 0;  // from the first row Qt goes back to the table
             if (event.accepted)
                 root.leftFor(next);
         }

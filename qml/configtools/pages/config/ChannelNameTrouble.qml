@@ -1,4 +1,4 @@
-// What is wrong with the name of a channel, and the way out where there is one.
+// The error of a channel name, and a button to correct it.
 import QtQuick
 import configtools
 
@@ -49,7 +49,7 @@ OVTableCell {
                             - (way.visible ? way.width : 0))
             height: parent.height
             color: root.bad ? Theme.colours.bad
-                : root.trouble === ChannelNameForm.Unknown ? Theme.colours.faint : Theme.colours.warnInk
+                : root.trouble === ChannelNameForm.Unknown ? Theme.colours.faint : Theme.colours.warnText
             objectName: "nameTrouble" + root.rowIndex
             text: root.words
             visible: text !== ""

@@ -1,4 +1,4 @@
-// The names of all channels of a device in one table, saved together.
+// The channel names of a device in a table, with a common save button.
 import QtQuick
 import configtools
 
@@ -7,13 +7,13 @@ Item {
 
     required property ChannelNamesWork work
     readonly property ChannelNameForm form: work.form
-    property int wantedRow: -1  // whose field is to have the keyboard
-    property bool advancing: false  // once the names are saved, it goes on to the next device
+    property int wantedRow: -1  // row whose field gets the keyboard focus, -1 for none
+    property bool advancing: false  // after the save, opens the next device
     signal refreshRequested
     signal nextDeviceRequested
     signal patternRequested
 
-    /// Gives the keyboard to the field of a row; behind the last one to the buttons.
+    /// Focuses the field of a row; after the last row, the buttons.
     function edit(row) {
         if (row < 0)
             return;
@@ -25,7 +25,7 @@ Item {
         wantedRow = row;
     }
 
-    /// Enter in a row: behind the last one what was changed is saved, and the next device follows.
+    /// Handles Enter in a row. In the last row, saves the changes and opens the next device.
     function confirm(row) {
         if (row + 1 < form.count) {
             edit(row + 1);
@@ -42,7 +42,7 @@ Item {
         nextDeviceRequested();
     }
 
-    /// Of a device that was chosen to be named.
+    /// Focuses the first name of a device that was chosen for naming.
     function arrive() {
         if (!work.read || !work.arriving)
             return;
@@ -84,7 +84,7 @@ Item {
         ]
         model: root.form
         objectName: "nameTable"
-        onRowOpened: row => root.edit(row)
+        onRowActivated: row => root.edit(row)
     }
 
     Component {
@@ -112,7 +112,7 @@ Item {
                 }
                 OVLabel {
                     height: parent.height
-                    color: connection.value ? Theme.colours.ink : Theme.colours.sub
+                    color: connection.value ? Theme.colours.text : Theme.colours.sub
                     text: connection.value ? qsTr("已连接") : qsTr("未连接")
                 }
             }
@@ -182,7 +182,7 @@ Item {
                 width: Math.min(implicitWidth, buttons.x - parent.x - parent.spacing - Theme.smallIconSize
                     - Theme.pageMargin)
                 height: parent.height
-                color: root.form.failedCount > 0 ? Theme.colours.bad : Theme.colours.warnInk
+                color: root.form.failedCount > 0 ? Theme.colours.bad : Theme.colours.warnText
                 objectName: "namesNotice"
                 text: root.form.failedCount > 0 ? qsTr("%n 个通道名称未保存", "", root.form.failedCount)
                     : root.work.session.upgrading ? qsTr("设备正在升级，不能保存修改")

@@ -1,4 +1,4 @@
-// A channel's live picture beside its settings, so that a change is seen at once.
+// The live view of a channel next to its settings, which shows changes immediately.
 import QtQuick
 import configtools
 
@@ -8,8 +8,8 @@ Item {
     required property var deviceFactory
     required property int channel
     required property string channelName
-    required property bool active     // there is a login
-    required property bool connected  // the channel has a camera
+    required property bool active     // logged in
+    required property bool connected  // a camera is connected
 
     implicitHeight: Math.round(width * 9 / 16)
     objectName: "channelPicture"
@@ -22,13 +22,13 @@ Item {
         channelName: root.channelName
         compact: true
         connected: root.connected
-        onAsked: root.deviceFactory.checkSession("dh")
+        onCheckRequested: root.deviceFactory.checkSession("dh")
     }
     Connections {
         target: root.deviceFactory
 
-        function onSignalSessionChecked(answers) {
-            player.answer(answers);
+        function onSignalSessionChecked(isReachable) {
+            player.takeCheckResult(isReachable);
         }
     }
 }

@@ -1,4 +1,4 @@
-// Takes the encode settings of the current device over to others.
+// Copies the encode settings of the current device to others.
 import QtQuick
 import configtools
 
@@ -11,7 +11,7 @@ Item {
     property Batch batch: null
     readonly property bool running: batch?.running ?? false
     readonly property string current: running ? batch.device : ""
-    signal said(string message, int kind, int stay)
+    signal notify(string message, int severity, int duration)
 
     function start(targets) {
         const begun = batches.copyEncodeSettings("dh", qsTr("复制编码配置"), targets);
@@ -21,7 +21,7 @@ Item {
         batch = begun;
     }
 
-    function wordOfResult(result, ipport) {
+    function resultText(result, ipport) {
         if (result === BatchReport.NotDone)
             return deviceFactory.getErrorName(result);
         const skipped = batch?.textOf(ipport) ?? "";
@@ -30,11 +30,11 @@ Item {
         return deviceFactory.getErrorName(result) + (skipped === "" ? "" : "\n" + skipped);
     }
 
-    function tell() {
+    function notifyEnd() {
         const report = batch.report;
         const failed = report.failed;
         const notDone = report.notDone;
-        const incomplete = batch.partlyDone();  // devices that could not take everything
+        const incomplete = batch.partlyDone();  // devices that took only a part
         const complete = report.succeeded - incomplete;
         const parts = Array.from([
             complete > 0 ? qsTr("%n 台设备已复制", "", complete) : "",
@@ -42,8 +42,8 @@ Item {
             failed > 0 ? qsTr("%n 台设备复制失败", "", failed) : "",
             notDone > 0 ? qsTr("%n 台设备未执行", "", notDone) : ""
         ]).filter(part => part !== "");
-        const kind = failed > 0 ? OVToast.Error : incomplete + notDone > 0 ? OVToast.Information : OVToast.Success;
-        said(parts.join(qsTr("，")), kind, failed + incomplete + notDone > 0 ? Theme.errorToastStay : Theme.toastStay);
+        const severity = failed > 0 ? OVToast.Error : incomplete + notDone > 0 ? OVToast.Information : OVToast.Success;
+        notify(parts.join(qsTr("，")), severity, failed + incomplete + notDone > 0 ? Theme.errorToastDuration : Theme.toastDuration);
     }
 
     visible: false
@@ -64,7 +64,7 @@ Item {
             root.devices.takeResults(ipports, results, root.batch.textsOf(ipports));
         }
         function onFinished() {
-            root.tell();
+            root.notifyEnd();
         }
     }
 }

@@ -1,5 +1,5 @@
-// The device whose configuration is shown: its login, and the reading and writing of it, on another thread. One piece
-// of work runs at a time.
+// The session of the configuration page: login, and background reading and writing of settings. One operation runs at a
+// time.
 import QtQuick
 import configtools
 
@@ -7,21 +7,21 @@ Item {
     id: root
 
     required property var deviceFactory
-    property bool shown: true        // its page is in front: questions of a login are asked
-    property int tab: 0              // that is in front: the encode settings, the image, the channels' names
+    property bool shown: true        // the page is visible: a failed login may ask for an account
+    property int tab: 0              // current tab: 0 encode settings, 1 image, 2 channel names
     readonly property bool encodeShown: tab === 0
     readonly property bool imageShown: tab === 1
     readonly property bool namesShown: tab === 2
-    property string device           // "" while none is chosen
+    property string device           // address and port; "" for none
     property string name
     property string model
     property string type
     property bool loggedIn: false
     property int loginResult: 0
-    property bool taken: false       // another device is logged in to, since its live picture is watched
-    property bool lost: false        // the login was there, but the device no longer answers
-    property bool upgrading: false   // the device takes new firmware, and no settings until that has ended
-    property string failure          // why there was no login
+    property bool taken: false       // the live view has logged in to another device
+    property bool lost: false        // the device no longer responds
+    property bool upgrading: false   // a firmware upgrade runs: no settings can be written
+    property string failure          // error of the login
     readonly property alias work: sessionWork
     readonly property alias busy: sessionWork.busy
     readonly property alias busyText: sessionWork.text
@@ -30,13 +30,13 @@ Item {
     readonly property alias image: imageWork
     readonly property alias names: namesWork
     readonly property int unsaved: encodeWork.unsaved + namesWork.unsaved
-    signal renewed                   // what was read of the device is forgotten
-    signal said(string message, int kind, int stay)
+    signal renewed                   // the settings must be read again
+    signal notify(string message, int severity, int duration)
 
-    readonly property int shortStay: 3000
-    readonly property int longStay: 5000
+    readonly property int shortDuration: 3000
+    readonly property int longDuration: 5000
 
-    /// Logs in to a device. A login or reading that runs is given up.
+    /// Logs in to a device. Cancels a running login or read.
     function open(ipport) {
         const row = deviceFactory.getDeviceInfo("dh", ipport);
         device = ipport;
@@ -53,18 +53,18 @@ Item {
         upgrading = UpgradeTools.isRunning(row.upgraderes ?? UpgradeTools.None);
     }
 
-    /// What was read of the device, with what was changed and not saved.
-    function forget() {
-        encodeWork.forget();
-        imageWork.forget();
-        namesWork.forget();
+    /// Clears the settings that were read, with unsaved changes.
+    function clear() {
+        encodeWork.clear();
+        imageWork.clear();
+        namesWork.clear();
     }
 
-    /// With `keeps`, the account becomes that of the device once it has proved right.
+    /// With `keeps`, a successful account becomes the account of the row.
     function login(account, password, keeps) {
         loggedIn = taken = lost = false;
         failure = "";
-        forget();
+        clear();
         work.run(qsTr("正在登录…"), () => work.login(device, account, password), result => {
             loginResult = result;
             LoginMemory.note(device, result);
@@ -85,7 +85,7 @@ Item {
         deviceFactory.updataDeviceInfo("dh", "password", password, mac, device);
     }
 
-    /// The device was asked and did not answer. After it was away, as for a restart, it knows the login no more.
+    /// Called when the device did not respond. After a restart it no longer accepts the login.
     function lose() {
         const networkFailure = 5;
         loginResult = networkFailure;
@@ -94,21 +94,20 @@ Item {
         loggedIn = false;
     }
 
-    /// It answered in the same login.
+    /// Called when the device responded in the same login.
     function regain() {
         lost = false;
         loggedIn = true;
     }
 
-    /// Whether another account or password may help: there is no such account, its password is another one, or it is
-    /// logged in elsewhere.
+    /// Whether another account or password may help: unknown account, wrong password, or account logged in elsewhere.
     function canLoginAgain() {
         return loginResult === 1 || loginResult === 2 || loginResult === 4;
     }
 
     function askAgain(account) {
         const row = deviceFactory.getDeviceInfo("dh", device);
-        relogin.wanted().ask(row.mac ?? "", device, account, loginResult);
+        relogin.instance().ask(row.mac ?? "", device, account, loginResult);
     }
 
     function tryAgain() {
@@ -118,23 +117,23 @@ Item {
             open(device);
     }
 
-    /// Reads what is in front, unless that was done already.
+    /// Reads the settings of the current tab unless they were read already.
     function readShown() {
         const shown = [encodeWork, imageWork, namesWork][tab];
         if (loggedIn && !busy && !shown.read)
             shown.load();
     }
 
-    /// The live view uses the same login and has just repeated it. The work that ran belonged to the earlier login.
+    /// The live view has logged in again. The running operation belonged to the earlier login.
     function noteOtherLogin() {
         const isChangeLost = unsaved > 0 || writing;
         lost = false;
-        forget();
+        clear();
         if (isChangeLost)
-            said(qsTr("设备已重新登录，尚未保存的修改已丢失"), OVToast.Error, longStay);
+            notify(qsTr("设备已重新登录，尚未保存的修改已丢失"), OVToast.Error, longDuration);
         taken = deviceFactory.getConfigData("dh", "sessionDevice") !== device;
         loggedIn = !taken;
-        work.forget();
+        work.abandon();
         renewed();
     }
 
@@ -171,14 +170,14 @@ Item {
         }
     }
     Connections {
-        enabled: root.busy || namesWork.running  // other pages ask devices, too
+        enabled: root.busy || namesWork.running  // other pages send requests, too
         target: root.deviceFactory
 
         function onSignalGetDeviceCapRet(result) {
             if (result === encodeWork.configurationUnreadable)
-                root.said(qsTr("获取设备配置失败"), OVToast.Error, root.shortStay);
+                root.notify(qsTr("获取设备配置失败"), OVToast.Error, root.shortDuration);
             else if (result === encodeWork.abilitiesUnknown)
-                root.said(qsTr("获取设备能力失败"), OVToast.Error, root.shortStay);
+                root.notify(qsTr("获取设备能力失败"), OVToast.Error, root.shortDuration);
             else if (encodeWork.form.isDeviceAway(result))
                 root.lose();
             else if (root.lost && result === 0)

@@ -1,53 +1,53 @@
-// Work on the session's device, one piece at a time, and what follows each of them.
+// Operations on the session's device, one at a time, each with a continuation.
 import QtQml
 import configtools
 
 SessionWork {
     id: root
 
-    property string text             // says what is being done; "" when the page shows it in another way
+    property string text             // description of the running operation; "" if the page shows it otherwise
     readonly property bool busy: text !== ""
-    property bool writing: false     // what runs changes the device
-    property bool savingNames: false // between its pieces of work, too
-    property var next: null          // a function that goes on with the value of what runs
-    property var postponed: null     // a function that waits for the end of the writing
+    property bool writing: false     // the running operation changes the device
+    property bool savingNames: false  // also between the single writes
+    property var next: null          // called with the result of the running operation
+    property var postponed: null     // called when writing has ended
 
-    /// Shows `text` while what `begin` begins runs, and then calls `next` with its value.
+    /// Shows `text`, starts an operation by `begin`, and calls `next` with its result.
     function run(text, begin, next) {
         root.text = text;
         root.next = next;
         begin();
     }
 
-    /// The same for what changes the device: it is not given up for another device.
+    /// Like run() for an operation that changes the device: opening another device does not cancel it.
     function write(text, begin, next) {
         writing = true;
         run(text, begin, next);
     }
 
-    /// What ran has ended, and nothing follows it.
-    function forget() {
+    /// Ends the operation without calling `next`.
+    function abandon() {
         next = null;
         finish();
     }
 
     function finish(value) {
-        const goOn = next;
+        const callback = next;
         next = null;
         text = "";
         writing = false;
-        if (goOn)
-            goOn(value);
-        settle();
+        if (callback)
+            callback(value);
+        runPostponed();
     }
 
-    /// Does `action` at once, or when the writing has ended.
+    /// Runs `action` immediately, or when writing has ended.
     function afterWriting(action) {
         postponed = action;
-        settle();
+        runPostponed();
     }
 
-    function settle() {
+    function runPostponed() {
         if (postponed === null || writing || savingNames)
             return;
         const action = postponed;

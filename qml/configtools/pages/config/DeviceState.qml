@@ -1,4 +1,4 @@
-// Which device is configured, and how it is with it: always in view.
+// The configured device and the state of its login.
 import QtQuick
 import configtools
 

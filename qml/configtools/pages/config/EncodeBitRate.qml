@@ -1,4 +1,4 @@
-// The bit rate of a stream: a step, or with the last entry a number of one's own.
+// The bit rate of a stream in kbit/s: a step, or a custom number with the last entry.
 import QtQuick
 import configtools
 
@@ -8,7 +8,7 @@ Row {
     required property var setting
     property string namePrefix
     property string accessibleName
-    property bool asked: false  // the last entry was picked, and the number is to come
+    property bool asked: false  // custom is chosen, the number is not entered yet
     readonly property bool custom: asked || (last >= 0 && setting.index === last)
     readonly property int last: setting.choices.length - 1
     readonly property int largest: 100000
@@ -40,7 +40,7 @@ Row {
         model: root.setting.choices
         objectName: root.namePrefix + "BitRateChoice"
         source: root.setting
-        onPicked: index => {
+        onIndexRequested: index => {
             root.asked = index === root.last;
             if (root.asked)
                 field.forceActiveFocus(Qt.TabFocusReason);

@@ -1,4 +1,4 @@
-// The encode settings of a channel: both streams side by side, saved together.
+// The encode settings of a channel: both streams, with a common save button.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -9,7 +9,7 @@ Item {
     required property EncodeWork work
     required property int targetCount
     readonly property EncodeForm form: work.form
-    readonly property string trouble: {
+    readonly property string errorText: {
         const lost = work.session.lost ? qsTr("与设备的连接已断开") : "";
         if (work.unsavedItems !== "")
             return Array.from([lost, qsTr("没有保存：%1").arg(work.unsavedItems.trim().split("\n").join(qsTr("、")))])
@@ -63,7 +63,7 @@ Item {
                         model: root.form.channels
                         objectName: "encodeChannelChoice"
                         source: root.form.mainStream
-                        onPicked: index => root.channelRequested(index)
+                        onIndexRequested: index => root.channelRequested(index)
                     }
                 }
             }
@@ -102,7 +102,7 @@ Item {
         }
     }
 
-    // What was read before is another channel's.
+    // The earlier values belong to another channel.
     OVEmptyState {
         anchors.fill: view
         hint: root.work.session.lost ? qsTr("与设备的连接已断开，请刷新重试。")
@@ -138,8 +138,8 @@ Item {
 
             OVIcon {
                 anchors.verticalCenter: parent.verticalCenter
-                color: root.trouble !== "" ? Theme.colours.bad : Theme.colours.warn
-                name: root.trouble !== "" ? "error" : "alert"
+                color: root.errorText !== "" ? Theme.colours.bad : Theme.colours.warn
+                name: root.errorText !== "" ? "error" : "alert"
                 size: Theme.smallIconSize
                 visible: words.text !== ""
             }
@@ -148,9 +148,9 @@ Item {
                 width: Math.min(implicitWidth, buttons.x - parent.x - parent.spacing - Theme.smallIconSize
                     - Theme.pageMargin)
                 height: parent.height
-                color: root.trouble !== "" ? Theme.colours.bad : Theme.colours.warnInk
+                color: root.errorText !== "" ? Theme.colours.bad : Theme.colours.warnText
                 objectName: "encodeNotice"
-                text: root.trouble !== "" ? root.trouble
+                text: root.errorText !== "" ? root.errorText
                     : root.work.unsaved > 0 ? qsTr("有未保存的修改：%n 项", "", root.work.unsaved)
                     : root.work.failed || root.form.unreadItems.length === 0 ? ""
                     : qsTr("没有读到：%1，保存时不写入").arg(Array.from(root.form.unreadItems).join(qsTr("、")))

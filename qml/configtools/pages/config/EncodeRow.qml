@@ -1,4 +1,4 @@
-// A setting of a stream: its label, with a mark while it is changed and not saved, and what it is set by.
+// A setting of a stream: label, mark for an unsaved change, and control.
 import QtQuick
 import configtools
 
@@ -25,7 +25,7 @@ Item {
     OVLabel {
         width: Theme.encodeLabelWidth
         height: parent.height
-        color: root.changed ? Theme.colours.warnInk : Theme.colours.sub
+        color: root.changed ? Theme.colours.warnText : Theme.colours.sub
         text: root.label
     }
     Item {

@@ -1,4 +1,4 @@
-// The settings of one stream. `stream` is a map of an EncodeForm.
+// The encode settings of a stream. `stream` is a map of EncodeForm.
 import QtQuick
 import configtools
 
@@ -6,7 +6,7 @@ Column {
     id: root
 
     required property string title
-    required property string namePrefix  // of the object names
+    required property string namePrefix  // prefix of the object names
     required property var stream
     required property var streamTypes
     property int streamType: 0
@@ -14,7 +14,7 @@ Column {
     signal changeRequested(string key, var value)
     signal streamTypeRequested(int index)
 
-    function pick(setting, index) {
+    function requestChoice(setting, index) {
         changeRequested(setting.key, setting.choices[index]);
     }
 
@@ -55,7 +55,7 @@ Column {
             model: row.setting.names
             objectName: root.namePrefix + row.choiceName
             source: root.stream
-            onPicked: index => root.pick(row.setting, index)
+            onIndexRequested: index => root.requestChoice(row.setting, index)
         }
     }
     component NumberSlider: EncodeRow {
@@ -94,7 +94,7 @@ Column {
             model: root.streamTypes
             objectName: root.namePrefix + "StreamTypeChoice"
             source: root.stream
-            onPicked: index => root.streamTypeRequested(index)
+            onIndexRequested: index => root.streamTypeRequested(index)
         }
         OVSwitch {
             id: videoSwitch
@@ -105,7 +105,7 @@ Column {
             on: root.stream.videoEnable.value === 1
             text: qsTr("启用")
             visible: root.isSub
-            onWanted: on => root.changeRequested(root.stream.videoEnable.key, on ? 1 : 0)
+            onToggleRequested: on => root.changeRequested(root.stream.videoEnable.key, on ? 1 : 0)
         }
     }
     TextChoice {
@@ -130,7 +130,7 @@ Column {
             model: [qsTr("固定码流"), qsTr("可变码流")]
             objectName: root.namePrefix + "ControlChoice"
             source: root.stream
-            onPicked: index => root.changeRequested(root.stream.control.key, index)
+            onIndexRequested: index => root.changeRequested(root.stream.control.key, index)
         }
     }
     EncodeRow {
@@ -167,7 +167,7 @@ Column {
             enabled: root.stream.audioEnable.usable
             objectName: root.namePrefix + "AudioSwitch"
             on: root.stream.audioEnable.value === 1
-            onWanted: on => root.changeRequested(root.stream.audioEnable.key, on ? 1 : 0)
+            onToggleRequested: on => root.changeRequested(root.stream.audioEnable.key, on ? 1 : 0)
         }
         OVChoice {
             anchors.right: parent.right
@@ -178,7 +178,7 @@ Column {
             model: root.stream.audioCompression.names
             objectName: root.namePrefix + "AudioChoice"
             source: root.stream
-            onPicked: index => root.pick(root.stream.audioCompression, index)
+            onIndexRequested: index => root.requestChoice(root.stream.audioCompression, index)
         }
     }
     TextChoice {

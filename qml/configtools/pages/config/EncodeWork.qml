@@ -1,4 +1,4 @@
-// The reading and writing of the encode settings of the session's device.
+// Reads and writes the encode settings of the session's device.
 import QtQuick
 import configtools
 
@@ -7,12 +7,12 @@ Item {
 
     required property var session  // a ConfigSession
     required property var deviceFactory
-    property bool read: false  // what the form shows is this device's
-    property int result: 0     // of the last reading: 0, or one of the following, or an error of the device
+    property bool read: false  // the form shows the current device
+    property int result: 0     // of the last read: 0, a constant below, or an error code of the device
     readonly property int configurationUnreadable: 1
     readonly property int abilitiesUnknown: 10
     readonly property bool failed: isFailure(result)
-    property string unsavedItems  // of the last saving, a line for each, or the reason why nothing was saved
+    property string unsavedItems  // unsaved settings of the last save, one per line, or its error
     readonly property alias form: encodeForm
     readonly property var subStream: encodeForm.subStream
     readonly property int unsaved: read ? encodeForm.changedCount : 0
@@ -22,14 +22,14 @@ Item {
         return result !== 0 && result !== configurationUnreadable && result !== abilitiesUnknown;
     }
 
-    /// Clears the device. Unsaved changes are lost. The settings are read again when the device is next shown.
-    function forget() {
+    /// Clears the settings and unsaved changes. They are read again when the tab is next shown.
+    function clear() {
         read = false;
         unsavedItems = "";
         result = 0;
     }
 
-    /// In a login that is lost it begins with another one.
+    /// Reads the settings. Logs in again first if the login was lost.
     function load() {
         if (!session.loggedIn) {
             session.tryAgain();
@@ -50,17 +50,17 @@ Item {
 
     function set(key, value) {
         unsavedItems = "";
-        // Only this one goes to the device at once.
+        // Only this setting is written immediately.
         if (key === "subCurResolution")
             session.work.write(qsTr("正在写入辅码流分辨率…"), () => session.work.writeEncodeValue(key, value),
                                () => encodeForm.takeSaved());
         else
             encodeForm.set(key, value);
-        // The compression is one for both streams, and only its profile is each one's own.
+        // Both streams share the compression; only its profile is separate.
         const mode = subStream.encodeMode;
         if (key === "subCurEncodeMode" && mode.choices[mode.index] !== value)
-            session.said(qsTr("设备的编码模式由主码流决定：主码流已改为 %1").arg(value), OVToast.Information,
-                         session.longStay);
+            session.notify(qsTr("设备的编码模式由主码流决定：主码流已改为 %1").arg(value), OVToast.Information,
+                         session.longDuration);
     }
 
     function save() {
@@ -79,30 +79,30 @@ Item {
     }
 
     Connections {
-        enabled: root.session.busy && root.session.encodeShown  // other pages ask devices, too
+        enabled: root.session.busy && root.session.encodeShown  // other pages send requests, too
         target: root.deviceFactory
 
         function onSignalGetDeviceCapRet(result) {
             const failure = root.isFailure(result);
-            // After a write the form stays: what was changed and not saved would be out of reach.
+            // After a failed write the form stays, so that unsaved changes remain accessible.
             if (!failure || !root.session.writing)
                 root.result = result;
             if (failure && !root.session.writing)
-                root.session.said(qsTr("读取配置失败：%1").arg(encodeForm.failureName(result)), OVToast.Error,
-                                  root.session.longStay);
+                root.session.notify(qsTr("读取配置失败：%1").arg(encodeForm.failureName(result)), OVToast.Error,
+                                  root.session.longDuration);
         }
         function onSignalChangeEncodeChannel() {
             encodeForm.read();
         }
         function onSignalConfirmEncodeConfig(unsaved) {
             if (unsaved === "") {
-                root.session.said(qsTr("保存成功"), OVToast.Success, root.session.shortStay);
+                root.session.notify(qsTr("保存成功"), OVToast.Success, root.session.shortDuration);
             } else {
                 encodeForm.takeSaved();
-                if (root.session.lost && encodeForm.taken)  // that it has gone again meanwhile is told after this
+                if (root.session.lost && encodeForm.taken)  // a later loss of the connection is reported after this
                     root.session.regain();
                 root.unsavedItems = unsaved;
-                root.session.said(unsaved + qsTr("保存失败"), OVToast.Error, root.session.longStay);
+                root.session.notify(unsaved + qsTr("保存失败"), OVToast.Error, root.session.longDuration);
             }
         }
     }

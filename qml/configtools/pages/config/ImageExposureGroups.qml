@@ -1,4 +1,4 @@
-// How light gets into the picture.
+// Image settings: exposure, backlight, white balance.
 import QtQuick
 import configtools
 

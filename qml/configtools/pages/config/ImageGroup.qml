@@ -1,5 +1,5 @@
-// Settings of a camera that belong together. A group that the camera does not have is hidden; one whose values were not
-// read says so in place of its rows. The rows take their values from here, and tell it what the user sets.
+// A group of image settings. It is hidden if the camera does not have it, and shows a note if its values could not be
+// read. The rows read values and report changes here.
 import QtQuick
 import configtools
 
@@ -22,7 +22,7 @@ OVSection {
         return values[name] ?? [];
     }
 
-    /// Whether the camera has the setting.
+    /// Whether the camera supports the setting.
     function offers(setting) {
         return !list("missing").includes(setting);
     }

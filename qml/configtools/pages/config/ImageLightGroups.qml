@@ -1,4 +1,4 @@
-// Day and night, and the camera's own lamps.
+// Image settings: day and night, lamps.
 import QtQuick
 import configtools
 
@@ -30,7 +30,7 @@ Column {
             subKey: "Sensitivity"
         }
         ImageChoice {
-            choices: Array.from({length: 9}, (_, place) => qsTr("%1秒").arg(place + 2))
+            choices: Array.from({length: 9}, (_, index) => qsTr("%1秒").arg(index + 2))
             first: 2
             group: dayNight
             label: qsTr("切换延时")

@@ -1,4 +1,4 @@
-// A number of a group of image settings that is typed: it is written when it is done.
+// A typed number of an image setting. It is written on Enter or when the field loses the focus.
 import QtQuick
 import configtools
 
@@ -9,7 +9,7 @@ OVNumberField {
     required property string subKey
     property int least: 0
     property int current: group.number(subKey)
-    property bool wrong: false  // it does not go with the numbers beside it, and waits for them
+    property bool wrong: false  // inconsistent with related numbers: not written yet
     signal finished(int number)
 
     function follow() {

@@ -1,4 +1,4 @@
-// The image settings of a channel's camera. Each change goes to the device at once.
+// The image settings of a channel. Each change is written to the device immediately.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -10,7 +10,7 @@ Item {
     property int subject: 0
     readonly property CameraForm form: work.form
 
-    /// The groups of each subject.
+    /// Keys of the groups of each subject.
     readonly property var subjects: [
         ["picture", "sharpness", "mirror", "stable", "inDefog"],
         ["exposure", "backMode", "whiteBalance"],
@@ -18,7 +18,7 @@ Item {
     ]
     readonly property bool empty: !subjects[subject].some(key => form.groups[key].support || form.groups[key].unread)
 
-    // What gets the keyboard comes into view.
+    // Scrolls to the item with the keyboard focus.
     readonly property Item focused: Window.activeFocusItem
     onFocusedChanged: {
         let above = focused;

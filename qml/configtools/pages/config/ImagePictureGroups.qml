@@ -1,4 +1,4 @@
-// How the picture looks.
+// Image settings: colours, sharpness, mirroring, stabilisation, defog.
 import QtQuick
 import configtools
 

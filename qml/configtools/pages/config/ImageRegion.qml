@@ -1,4 +1,4 @@
-// The part of the picture that backlight is measured in, in 8192ths of its sides.
+// The region of backlight compensation, in 1/8192 of the image's width and height.
 import QtQuick
 import configtools
 
@@ -64,7 +64,7 @@ OVFormRow {
         OVLabel {
             color: Theme.colours.bad
             font: Theme.hintFont
-            objectName: "regionComplaint"
+            objectName: "regionError"
             text: root.acrossWrong ? qsTr("左边不能大于右边") : qsTr("上边不能大于下边")
             visible: root.wrong
         }

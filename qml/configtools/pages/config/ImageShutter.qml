@@ -1,4 +1,4 @@
-// How long the shutter opens: a time, or with the last entry a range of one's own, in milliseconds.
+// The shutter time: a preset, or a custom range in milliseconds with the last entry.
 import QtQuick
 import configtools
 
@@ -7,18 +7,18 @@ Column {
 
     required property ImageGroup group
     required property CameraForm form
-    property bool asked: false  // a range was picked, and its bounds are to come
+    property bool asked: false  // custom is chosen, the range is not entered yet
     readonly property real shortest: group.number("dbExposureValue1")
     readonly property real longest: group.number("dbExposureValue2")
     readonly property int last: form.shutterTimes.length
-    readonly property int place: form.shutterPlace(shortest, longest)
-    readonly property bool custom: asked || place < 0
+    readonly property int index: form.shutterPlace(shortest, longest)
+    readonly property bool custom: asked || index < 0
     readonly property bool wrong: lower.text !== "" && upper.text !== "" && Number(lower.text) > Number(upper.text)
     readonly property real longestKnown: 100000
 
     function follow() {
         asked = false;
-        // Devices keep times with the precision of a single float.
+        // Devices store times as single-precision floats.
         lower.text = String(Number(shortest.toPrecision(6)));
         upper.text = String(Number(longest.toPrecision(6)));
     }
@@ -59,11 +59,11 @@ Column {
         OVChoice {
             width: parent.width
             accessibleName: qsTr("快门")
-            chosen: root.custom ? root.last : root.place
+            chosen: root.custom ? root.last : root.index
             model: Array.from(root.form.shutterTimes).concat([qsTr("自定义范围")])
             objectName: "shutterChoice"
             source: root.group.values
-            onPicked: index => {
+            onIndexRequested: index => {
                 root.asked = index === root.last;
                 const time = root.form.shutterMilliseconds(index);
                 if (!root.asked)

@@ -1,4 +1,4 @@
-// Beside the image settings: the channel, its picture and its name, when the settings hold, and the defaults.
+// The side of the image settings: channel with live view and name, configuration mode, refresh and defaults.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -65,7 +65,7 @@ Item {
                     model: root.form.channels
                     objectName: "imageChannelChoice"
                     source: root.form.groups
-                    onPicked: index => root.work.chooseChannel(index)
+                    onIndexRequested: index => root.work.chooseChannel(index)
                 }
             }
             OVFormRow {
@@ -99,7 +99,7 @@ Item {
                     model: root.form.switchModes
                     objectName: "switchModeChoice"
                     source: root.form.groups
-                    onPicked: index => root.work.chooseMode(index)
+                    onIndexRequested: index => root.work.chooseMode(index)
                 }
             }
             OVParagraph {

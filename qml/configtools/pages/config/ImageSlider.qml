@@ -1,4 +1,4 @@
-// A number of a group of image settings.
+// An image setting with a slider.
 import QtQuick
 import configtools
 

@@ -1,4 +1,4 @@
-// A setting of a group of image settings that is on or off.
+// An image setting that is on or off.
 import QtQuick
 import configtools
 
@@ -7,7 +7,7 @@ OVFormRow {
 
     required property ImageGroup group
     required property string subKey
-    property bool asNumber: false  // the device knows it as 0 and 1
+    property bool asNumber: false  // the device uses 0 and 1
 
     labelWidth: Theme.imageLabelWidth
     visible: group.offers(subKey)
@@ -17,6 +17,6 @@ OVFormRow {
         accessibleName: root.group.title + " " + root.label
         objectName: root.group.key + "_" + root.subKey
         on: root.group.flag(root.subKey)
-        onWanted: on => root.group.change(root.subKey, root.asNumber ? Number(on) : on)
+        onToggleRequested: on => root.group.change(root.subKey, root.asNumber ? Number(on) : on)
     }
 }

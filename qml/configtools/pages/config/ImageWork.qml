@@ -1,4 +1,4 @@
-// The reading and writing of the image settings of the session's device.
+// Reads and writes the image settings of the session's device.
 import QtQuick
 import configtools
 
@@ -7,12 +7,12 @@ Item {
 
     required property var session  // a ConfigSession
     required property var deviceFactory
-    property bool read: false  // what the form shows is this device's
-    property int refusal: 0  // why the device did not take the last change
-    property var connectedChannels: []  // for each channel whether it has a camera
+    property bool read: false  // the form shows the current device
+    property int refusal: 0  // error code of the last change
+    property var connectedChannels: []  // whether each channel has a camera
     readonly property alias form: cameraForm
 
-    function forget() {
+    function clear() {
         read = false;
     }
 
@@ -20,7 +20,7 @@ Item {
         chooseChannel(-1);
     }
 
-    /// `index` is -1 for the channel that was chosen before.
+    /// `index` is -1 for the last chosen channel.
     function chooseChannel(index) {
         session.work.run(qsTr("正在读取图像配置…"), () => session.work.readImage(index), connected => {
             read = session.loggedIn;
@@ -36,19 +36,19 @@ Item {
                          () => read = session.loggedIn);
     }
 
-    /// Writes values of a group, each as [sub-key, value].
+    /// Writes values of a group: pairs of sub-key and value.
     function set(key, values) {
         refusal = 0;
         session.work.write(qsTr("正在写入图像配置…"), () => session.work.writeImage(key, values), () => {
             if (key === "curChannelName")
-                session.names.forget();
+                session.names.clear();
             cameraForm.read();
             read = session.loggedIn;
             if (!session.loggedIn)
-                session.said(qsTr("设备没有应答，修改可能没有写入"), OVToast.Error, session.longStay);
+                session.notify(qsTr("设备没有应答，修改可能没有写入"), OVToast.Error, session.longDuration);
             else if (refusal !== 0)
-                session.said(qsTr("没有修改：%1。显示的是设备现有的值")
-                             .arg(session.encoding.form.failureName(refusal)), OVToast.Error, session.longStay);
+                session.notify(qsTr("没有修改：%1。显示的是设备现有的值")
+                             .arg(session.encoding.form.failureName(refusal)), OVToast.Error, session.longDuration);
         });
     }
 
@@ -60,7 +60,7 @@ Item {
     }
 
     Connections {
-        enabled: root.session.busy && root.session.imageShown  // other pages ask devices, too
+        enabled: root.session.busy && root.session.imageShown  // other pages send requests, too
         target: root.deviceFactory
 
         function onSignalChangeVideoChannel() {

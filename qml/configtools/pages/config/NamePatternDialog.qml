@@ -1,4 +1,4 @@
-// Names for many channels of a device, or for many cameras, from one pattern, with a preview.
+// Names many channels of a device, or many cameras, by a pattern, with a preview.
 import QtQuick
 import configtools
 
@@ -6,15 +6,15 @@ OVDialog {
     id: root
 
     required property var deviceFactory
-    property string device: ""    // whose channels are named
+    property string device: ""    // device with the channels
     property int channelCount: 0
-    property var cameras: []      // addresses and ports of the ticked devices; the first channel of cameras is named
-    property int cameraCount: 0   // of these devices
+    property var cameras: []      // addresses and ports of ticked devices; the first channel of cameras is named
+    property int cameraCount: 0   // number of cameras among these devices
     property bool ofChannels: true
     readonly property string fault: plan.fault !== "" ? plan.fault
-        : !startField.acceptable || !digitsField.acceptable ? startField.complaint : ""
+        : !startField.acceptable || !digitsField.acceptable ? startField.invalidText : ""
     property bool tried: false
-    signal channelsNamed(var channels, var names)  // numbers from 0, as texts
+    signal channelsNamed(var channels, var names)  // channel numbers from 0, as texts
     signal camerasNamed(var ipports, var names)
 
     function ask(device, channelCount, cameras) {
@@ -98,7 +98,7 @@ OVDialog {
                     id: patternField
                     width: parent.width
                     accessibleName: qsTr("命名规则")
-                    errorText: (root.tried || root.fault.includes("{")) && root.fault !== startField.complaint ? root.fault : ""
+                    errorText: (root.tried || root.fault.includes("{")) && root.fault !== startField.invalidText ? root.fault : ""
                     objectName: "patternField"
                     text: "Hall {n}"
                     warningText: plan.repeated ? qsTr("多个通道会得到同一个名称") : ""

@@ -1,4 +1,4 @@
-// What can be configured of the current device, in tabs, and how it is with that device.
+// The tabs of the configuration page and the state of the device.
 import QtQuick
 import configtools
 
@@ -6,8 +6,8 @@ Rectangle {
     id: root
 
     required property ConfigSession session
-    required property bool hasDevices  // the tree has any
-    required property int targetCount  // devices that encode settings can be copied to
+    required property bool hasDevices  // the tree is not empty
+    required property int targetCount  // number of targets of a copy
     readonly property bool shown: session.encodeShown ? session.encoding.read
         : session.imageShown ? session.image.read : session.names.read
     signal tabRequested(int index)
@@ -108,7 +108,7 @@ Rectangle {
         }
     }
 
-    OVWorkHold {
+    OVPanelBlocker {
         active: root.session.busy || root.session.names.running
     }
 }

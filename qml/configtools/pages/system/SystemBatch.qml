@@ -1,4 +1,4 @@
-// A command that many devices get, and the batch that brings it to them.
+// A system command and its batch.
 import QtQuick
 import configtools
 
@@ -15,7 +15,7 @@ QtObject {
     signal retried
     signal finished
 
-    /// Returns false when it cannot begin.
+    /// Returns false if the batch is refused.
     function run(command, title, devices, data) {
         const begun = batches.configureSystem("dh", command, title, data, devices);
         if (begun === null)
@@ -25,13 +25,13 @@ QtObject {
         return true;
     }
 
-    /// The devices that wait for the next step get none: `title` names it.
+    /// Cancels the next step, `title`, of the waiting devices.
     function giveUpWaiting(title) {
         batch?.giveUpWaiting(title);
     }
 
     readonly property BatchReport none: BatchReport {}
-    readonly property Connections news: Connections {
+    readonly property Connections batchSignals: Connections {
         target: root.batch
 
         function onResulted(devices, results) {

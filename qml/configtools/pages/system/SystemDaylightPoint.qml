@@ -1,4 +1,4 @@
-// The begin or the end of daylight saving: a day of the month, or a weekday of a week of it.
+// Start or end of daylight saving: a day of the month, or a weekday of a week.
 import QtQuick
 import configtools
 
@@ -6,15 +6,15 @@ Row {
     id: root
 
     required property SystemLists lists
-    required property var deviceFactory  // knows the days of months
+    required property var deviceFactory  // provides the days of a month
     required property bool byWeek
-    required property string name  // of its fields: "start" or "end"
+    required property string name  // prefix of its keys and object names: "start" or "end"
     property alias month: monthBox.currentIndex  // from 0
     property alias week: weekBox.currentIndex
     property alias time: timeField.text
     readonly property alias acceptable: timeField.acceptable
 
-    /// Its part of the command's data.
+    /// Its values in the command's data.
     function values() {
         return {
             [name + "Month"]: monthBox.currentIndex + 1,
@@ -43,7 +43,7 @@ Row {
         visible: !root.byWeek
         onModelChanged: if (count > 0) currentIndex = Math.min(kept, count - 1)
 
-        property int kept: 0  // lives through a shorter month
+        property int kept: 0  // kept across a shorter month
         onActivated: index => kept = index
     }
     OVComboBox {

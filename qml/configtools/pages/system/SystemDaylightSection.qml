@@ -1,4 +1,4 @@
-// Daylight saving.
+// Daylight saving settings.
 import QtQuick
 import configtools
 
@@ -6,7 +6,7 @@ OVSection {
     id: root
 
     required property bool available
-    required property string unavailableText  // why nothing can be done with the ticked devices; empty when it can
+    required property string unavailableText  // why the ticked devices cannot be used; "" if they can
     required property var deviceFactory
     signal actionRequested(string command, string title, var data)
     signal refused(string message)

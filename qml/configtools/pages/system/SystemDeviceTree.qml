@@ -1,4 +1,4 @@
-// The devices that an action goes to.
+// The device tree of a page, with search field and filters.
 import QtQuick
 import configtools
 
@@ -10,21 +10,21 @@ Rectangle {
     required property string busyDevice
     required property bool searching
     required property bool libraryInstalled
-    property bool held: false  // an action runs: what it goes to stays as it is
-    property bool choosing: false  // one of the devices can be chosen
+    property bool locked: false  // an operation runs: the selection cannot be changed
+    property bool choosing: false  // a device can be chosen
     property string chosenDevice
     readonly property string searchText: searchField.text.trim()
     signal searchRequested
     signal deviceChosen(string ipport)
-    signal detailRequested(string name)  // of the device's row
-    signal menuRequested(string name, var place)
+    signal detailRequested(string name)  // name of the device's row
+    signal menuRequested(string name, var position)
 
     function focusSearch() {
         searchField.forceActiveFocus(Qt.ShortcutFocusReason);
         searchField.selectAll();
     }
 
-    /// Chooses the device below the chosen one. Returns whether there is one.
+    /// Chooses the next device. Returns whether there is one.
     function chooseNext() {
         const row = treeRows.deviceAfter(chosenDevice);
         if (row >= 0) {
@@ -44,7 +44,7 @@ Rectangle {
         tree: root.devices
     }
 
-    // As the head of a table, with the box for all of them above those of the groups.
+    // Like a table head, with the check box of all devices.
     Rectangle {
         id: head
         x: Theme.line
@@ -54,7 +54,7 @@ Rectangle {
         color: Theme.colours.head
         radius: Theme.paneRadius - Theme.line
 
-        Rectangle {  // the lower corners are square
+        Rectangle {  // square lower corners
             y: parent.height - height
             width: parent.width
             height: parent.radius
@@ -65,7 +65,7 @@ Rectangle {
             x: Theme.treeIndent + Theme.unit
             anchors.verticalCenter: parent.verticalCenter
             checkState: root.devices.checkState
-            enabled: root.devices.deviceCount > 0 && !root.held
+            enabled: root.devices.deviceCount > 0 && !root.locked
             nextCheckState: () => checkState
             objectName: "allDevicesBox"
             toolTip: qsTr("全选")
@@ -93,7 +93,7 @@ Rectangle {
             anchors.right: parent.right
             anchors.rightMargin: Theme.controlGap
             anchors.verticalCenter: parent.verticalCenter
-            enabled: !root.held
+            enabled: !root.locked
             objectName: "clearMarksButton"
             text: qsTr("清除失败标记")
             toolTip: qsTr("不再标记失败和未执行的设备")
@@ -113,7 +113,7 @@ Rectangle {
         y: head.y + head.height + Theme.unit
         width: parent.width - 2 * x
         clearable: true
-        enabled: !root.held
+        enabled: !root.locked
         iconName: "search"
         objectName: "treeSearchField"
         placeholderText: qsTr("搜索…")
@@ -123,7 +123,7 @@ Rectangle {
         x: Theme.controlGap
         y: searchField.y + searchField.height + Theme.unit
         devices: root.devices
-        enabled: !root.held
+        enabled: !root.locked
         objectName: "treeStates"
     }
     OVFailedOperation {
@@ -132,7 +132,7 @@ Rectangle {
         y: states.y + states.height + Theme.unit
         width: parent.width - 2 * x
         devices: root.devices
-        enabled: !root.held
+        enabled: !root.locked
         visible: root.devices.shown === OVTreeModel.Failed && operations.length > 1
     }
     OVTree {
@@ -145,14 +145,14 @@ Rectangle {
         choosing: root.choosing
         chosenDevice: root.chosenDevice
         describer: root.describer
-        enabled: !root.held
+        enabled: !root.locked
         focus: true
         objectName: "deviceTree"
         rows: treeRows
         Accessible.name: heading.text
         onDetailRequested: name => root.detailRequested(name)
         onDeviceChosen: ipport => root.deviceChosen(ipport)
-        onMenuRequested: (name, place) => root.menuRequested(name, place)
+        onMenuRequested: (name, position) => root.menuRequested(name, position)
     }
     OVLabel {
         id: unaddressed

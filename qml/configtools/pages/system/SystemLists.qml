@@ -1,4 +1,4 @@
-// The lists that the system page chooses from, by the numbering of devices.
+// Choices of the system page, in the numbering of devices.
 import QtQuick
 
 QtObject {

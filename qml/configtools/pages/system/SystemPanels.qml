@@ -1,4 +1,4 @@
-// What can be done with devices, in tabs.
+// The panels of the system page, in tabs.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -7,15 +7,15 @@ Rectangle {
     id: root
 
     required property bool available
-    required property string unavailableText  // why nothing can be done with the ticked devices; empty when it can
-    required property int upgradingCount  // of the ticked devices
-    required property bool held  // an action runs
+    required property string unavailableText  // why the ticked devices cannot be used; "" if they can
+    required property int upgradingCount  // number of ticked devices that are being upgraded
+    required property bool locked  // an operation runs
     required property string timeZone
     required property var deviceFactory
     required property SystemPasswordTime passwordTime
     property int currentPanel: 0
 
-    // What the network library can do at all.
+    // Functions of the network library.
     readonly property var functions: deviceFactory.getConfigData("dh", "library", 0)
     property alias clocks: timePanel.clocks
     signal actionRequested(string command, string title, var data)
@@ -25,8 +25,8 @@ Rectangle {
     signal passwordChangeRequested(string password, int keeping)
     signal refused(string message)
 
-    function forgetNewPassword() {
-        passwordPanel.forgetNewPassword();
+    function clearNewPassword() {
+        passwordPanel.clearNewPassword();
     }
     function clearOldPassword() {
         passwordPanel.clearOldPassword();
@@ -58,7 +58,7 @@ Rectangle {
         boundsBehavior: Flickable.StopAtBounds
         clip: true
         contentHeight: stack.height + 2 * Theme.pageMargin
-        enabled: !root.held
+        enabled: !root.locked
         interactive: contentHeight > height
 
         T.ScrollBar.vertical: OVScrollBar {}

@@ -1,4 +1,4 @@
-// How much time there is for the new password, or why there is no more.
+// Remaining time for the new password, or why it has ended.
 import QtQuick
 import configtools
 
@@ -6,8 +6,8 @@ Row {
     id: root
 
     required property SystemPasswordTime time
-    required property bool keeps     // a new password that was typed before the end
-    required property bool restored  // it is in the fields again
+    required property bool keeps     // a typed new password is kept
+    required property bool restored  // the kept password is in the fields again
 
     readonly property bool hurried: time.open && time.secondsLeft <= 15
     readonly property string text: time.changing ? "" : time.open ? remaining : reason
@@ -42,7 +42,7 @@ Row {
     OVParagraph {
         id: words
         width: root.width - (sign.visible ? sign.width + root.spacing : 0)
-        color: root.hurried ? Theme.colours.bad : root.time.open ? Theme.colours.sub : Theme.colours.warnInk
+        color: root.hurried ? Theme.colours.bad : root.time.open ? Theme.colours.sub : Theme.colours.warnText
         objectName: "countdownText"
         text: root.text
     }

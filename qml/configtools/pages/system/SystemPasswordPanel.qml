@@ -1,4 +1,4 @@
-// A new password, once the old one was checked. There is a minute for it.
+// Changes passwords: checks the old one, then takes the new one within a minute.
 import QtQuick
 import configtools
 
@@ -6,22 +6,22 @@ Column {
     id: root
 
     required property bool available
-    required property string unavailableText  // why nothing can be done with the ticked devices; empty when it can
+    required property string unavailableText  // why the ticked devices cannot be used; "" if they can
     required property SystemPasswordTime time
-    required property var deviceFactory  // grades passwords
+    required property var deviceFactory  // provides the password strength
     signal checkRequested(string password)
     signal changeRequested(string password, int keeping)
     signal refused(string message)
 
     readonly property bool editorEnabled: time.open
-    // What was typed when the editor closed: it returns when the old password is checked again.
+    // Input when the editor closed. It is restored after the next check of the old password.
     property string keptPassword
     property string keptConfirmation
     property bool restored: false
 
     readonly property int fault: SystemTools.newPasswordFault(newField.text, confirmField.text)
 
-    function forgetNewPassword() {
+    function clearNewPassword() {
         newField.text = confirmField.text = keptPassword = keptConfirmation = "";
     }
     function setAside() {
@@ -155,7 +155,7 @@ Column {
                 onAccepted: if (root.editorEnabled && root.available) root.change()
             }
         }
-        OVParagraph {  // the rule, in the colour of what breaks it; a line of its own would move the button below
+        OVParagraph {  // the rule, red if violated; a separate error line would move the button
             readonly property bool broken: newField.text !== ""
                 && SystemTools.newPasswordFault(newField.text, newField.text) !== SystemTools.NoFault
 

@@ -1,5 +1,5 @@
-// The minute in which devices whose old password was right wait for the new one: which ones, how long, and why it
-// ended without a new password. The back end keeps their logins for it.
+// The minute for the new password after the check of the old one: devices, remaining time, reason of the end. The back
+// end keeps their logins for that time.
 import QtQml
 import configtools
 
@@ -7,12 +7,12 @@ QtObject {
     id: root
 
     required property var deviceFactory
-    required property bool changing  // a batch sends the new password in the kept logins
-    property bool open: false        // the new password can be given
+    required property bool changing  // a batch sends the new password with the kept logins
+    property bool open: false        // the new password can be entered
     property int secondsLeft: 0
-    property list<string> devices    // that still have the old password
+    property list<string> devices    // with the old password
     property int ending: SystemPasswordTime.Regular
-    property int leftCount: 0        // devices with the old password at the end
+    property int leftCount: 0        // number of devices with the old password at the end
     property int second: 1000        // ms
     property bool endsLater: false
     signal ended
@@ -27,7 +27,7 @@ QtObject {
         countdown.restart();
     }
 
-    /// Takes no new password any more. The logins end too, but those of a running batch only after its end.
+    /// Ends the input. The logins end too, those of a running batch after its end.
     function close(why) {
         if (!open)
             return;
@@ -38,21 +38,21 @@ QtObject {
         if (changing)
             endsLater = true;
         else
-            letGo();
+            endLogins();
     }
 
-    /// A batch has sent the new password; `left` still have the old one.
+    /// Result of a batch; `left` still have the old password.
     function takeResults(left) {
         devices = left;
         if (endsLater)
-            letGo();
+            endLogins();
         else if (left.length === 0)
             close(SystemPasswordTime.Regular);
         else if (secondsLeft === 0)
             close(SystemPasswordTime.TimeOver);
     }
 
-    function letGo() {
+    function endLogins() {
         endsLater = false;
         devices = [];
         deviceFactory.systemConfig("dh", "cancelLogin", {}, []);

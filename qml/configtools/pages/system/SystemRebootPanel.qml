@@ -1,4 +1,4 @@
-// Reboots at regular times, and one at once.
+// Scheduled reboots, and an immediate one.
 import QtQuick
 import configtools
 
@@ -6,9 +6,9 @@ Column {
     id: root
 
     required property bool available
-    required property string unavailableText  // why nothing can be done with the ticked devices; empty when it can
+    required property string unavailableText  // why the ticked devices cannot be used; "" if they can
     required property bool hasMaintenance
-    required property int upgradingCount  // of the ticked devices
+    required property int upgradingCount  // number of ticked devices that are being upgraded
     signal actionRequested(string command, string title, var data)
     signal rebootRequested
     signal refused(string message)
@@ -67,7 +67,7 @@ Column {
                 toolTip: root.unavailableText
                 onClicked: {
                     if (!timeField.acceptable) {
-                        root.refused(timeField.complaint);
+                        root.refused(timeField.invalidText);
                         return;
                     }
                     const data = {week: dayBox.currentIndex, time: timeField.text, autoReboot: autoBox.checked};

@@ -1,4 +1,4 @@
-// Back to the state in which a device leaves the factory.
+// Factory reset.
 import QtQuick
 import configtools
 
@@ -6,8 +6,8 @@ OVSection {
     id: root
 
     required property bool available
-    required property string unavailableText  // why nothing can be done with the ticked devices; empty when it can
-    required property int upgradingCount  // of the ticked devices
+    required property string unavailableText  // why the ticked devices cannot be used; "" if they can
+    required property int upgradingCount  // number of ticked devices that are being upgraded
     signal resetRequested
 
     title: qsTr("恢复出厂设置")

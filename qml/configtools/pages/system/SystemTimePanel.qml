@@ -1,4 +1,4 @@
-// The clocks of devices, by this computer's or by hand.
+// Device clocks: set to the host's time or manually, and read.
 import QtQuick
 import configtools
 
@@ -6,9 +6,9 @@ Column {
     id: root
 
     required property bool available
-    required property string unavailableText  // why nothing can be done with the ticked devices; empty when it can
+    required property string unavailableText  // why the ticked devices cannot be used; "" if they can
     required property string timeZone
-    property var clocks: []  // maps of "device" and "words", of the devices that were last asked for their time
+    property var clocks: []  // maps with "device" and "words" (its time), of the last devices read
     signal actionRequested(string command, string title, var data)
     signal refused(string message)
 
@@ -135,6 +135,6 @@ Column {
         if (field.acceptable)
             actionRequested("setTimeByManual", qsTr("手动校时"), {time: time});
         else
-            refused(field.complaint);
+            refused(field.invalidText);
     }
 }

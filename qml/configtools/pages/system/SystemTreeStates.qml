@@ -1,4 +1,4 @@
-// Which devices a tree shows by their state: all, those that batches have failed with, or those without a login.
+// The filter of a device tree: all, failed, or not logged in.
 import QtQuick
 import configtools
 
@@ -16,7 +16,7 @@ OVSegmentedChoice {
             devices.shown = shownOf[index];
     }
 
-    // Objects: a changed count does not create the choice again, which may have the keyboard focus.
+    // Objects rather than maps: a changed count must not create the choice again, which may have the keyboard focus.
     QtObject {
         id: all
         readonly property bool enabled: true
@@ -28,7 +28,7 @@ OVSegmentedChoice {
         id: failed
         readonly property bool enabled: root.devices.failedCount > 0
         objectName: "failedStates"
-        //: Shows only the devices that batches failed with or did not come to; %1 is how many there are.
+        //: Shows only the devices whose batches failed or did not reach them; %1 is their number.
         readonly property string text: qsTr("未成功 %1").arg(root.devices.failedCount)
         readonly property string toolTip: qsTr("只显示失败和未执行的设备，按原因排列。")
             + (root.elsewhereCount > 0 ? qsTr("另有 %n 台不在此列表中，见批处理记录。", "", root.elsewhereCount) : "")
@@ -37,7 +37,7 @@ OVSegmentedChoice {
         id: loggedOut
         readonly property bool enabled: true
         objectName: "loggedOutStates"
-        //: Shows only the devices without a login; %1 is how many there are.
+        //: Shows only the devices without a login; %1 is their number.
         readonly property string text: qsTr("未登录 %1").arg(root.devices.loggedOutCount)
         readonly property string toolTip: qsTr("只显示还没有登录过或最近一次登录失败的设备")
     }

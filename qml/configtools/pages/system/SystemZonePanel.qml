@@ -1,4 +1,4 @@
-// Daylight saving, the time zone, and where devices fetch the time from.
+// Daylight saving, time zone and NTP.
 import QtQuick
 import configtools
 
@@ -6,17 +6,17 @@ Column {
     id: root
 
     required property bool available
-    required property string unavailableText  // why nothing can be done with the ticked devices; empty when it can
-    required property bool hasServerDetails  // the port and the period can be set
+    required property string unavailableText  // why the ticked devices cannot be used; "" if they can
+    required property bool hasServerDetails  // the network library can set port and period
     required property string timeZone
     required property var deviceFactory
     signal actionRequested(string command, string title, var data)
     signal refused(string message)
 
-    readonly property string zoneComplaint: zoneBox.currentIndex >= 0 ? ""
+    readonly property string zoneError: zoneBox.currentIndex >= 0 ? ""
         : qsTr("设备没有本机的时区 %1，请选择时区").arg(timeZone)
-    readonly property string ntpComplaint: zoneComplaint !== "" ? zoneComplaint : ntpBox.checked && serverField.errorText !== "" ? serverField.errorText
-        : !portField.acceptable ? portField.complaint : !periodField.acceptable ? periodField.complaint : ""
+    readonly property string ntpError: zoneError !== "" ? zoneError : ntpBox.checked && serverField.errorText !== "" ? serverField.errorText
+        : !portField.acceptable ? portField.invalidText : !periodField.acceptable ? periodField.invalidText : ""
 
     spacing: Theme.pageMargin
 
@@ -59,9 +59,9 @@ Column {
         OVParagraph {
             x: Theme.panelLabelWidth + Theme.unit
             width: parent.width - x
-            color: Theme.colours.warnInk
-            objectName: "zoneComplaint"
-            text: root.zoneComplaint
+            color: Theme.colours.warnText
+            objectName: "zoneError"
+            text: root.zoneError
             visible: text !== ""
         }
         OVFormRow {
@@ -122,8 +122,8 @@ Column {
                 text: qsTr("应用时区和NTP")
                 toolTip: root.unavailableText
                 onClicked: {
-                    if (root.ntpComplaint !== "") {
-                        root.refused(root.ntpComplaint);
+                    if (root.ntpError !== "") {
+                        root.refused(root.ntpError);
                         return;
                     }
                     const data = {

@@ -1,4 +1,4 @@
-// Asks before devices are upgraded, with a list of which device gets which firmware, and which ones get none and why.
+// Confirms upgrades, with a list of the firmware of each device and of skipped devices with reasons.
 import QtQuick
 import configtools
 
@@ -6,19 +6,19 @@ OVDialog {
     id: root
 
     required property var deviceFactory
-    property string path  // of the document; "" for devices of the table
+    property string path  // path of the document; "" for devices of the table
     signal confirmed(var identities)
     signal documentConfirmed(string path, var lines)
     signal documentRefused(string reason)
 
-    /// Devices of the table.
+    /// Asks for devices of the table.
     function ask(identities) {
         path = "";
         preview.setIdentities(identities);
         open();
     }
 
-    /// Devices of a document, when it has been read.
+    /// Asks for devices of a document after reading it.
     function askDocument(file) {
         path = file;
         preview.readDocument(file);

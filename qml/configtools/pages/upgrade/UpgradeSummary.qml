@@ -1,17 +1,17 @@
-// How the last upgrades of the session went.
+// The result of the last upgrade batch.
 import QtQuick
 import configtools
 
 Item {
     id: root
 
-    required property Batch batch  // null before the first upgrade
+    required property Batch batch  // null before the first one
 
     readonly property BatchReport report: batch?.report ?? none
     readonly property BatchReport none: BatchReport {}
     readonly property int done: batch?.running ? batch.done : report.total - report.notDone
     readonly property string outcome: {
-        if (batch?.running)  // those that are not done yet are still to come
+        if (batch?.running)  // the remaining ones are still in progress
             return [report.succeeded > 0 ? qsTr("成功 %1").arg(report.succeeded) : "",
                     report.failed > 0 ? qsTr("失败 %1").arg(report.failed) : ""]
                 .filter(part => part !== "").join(qsTr("，"));
@@ -34,7 +34,7 @@ Item {
         OVLabel {
             height: parent.height
             objectName: "upgradeSummary"
-            //: Devices of an upgrade that are done, of all of them.
+            //: Finished devices of an upgrade, and all of them.
             text: qsTr("升级：%1 / %2").arg(root.done).arg(root.batch?.total ?? 0)
                 + (root.outcome !== "" ? "  ·  " + root.outcome : "")
         }

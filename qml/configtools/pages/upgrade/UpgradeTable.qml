@@ -1,4 +1,4 @@
-// The devices of the upgrade page: the file of each, how far it is, and what has come of it.
+// The table of the upgrade page: file, progress and result of each device.
 import QtQuick
 import configtools
 
@@ -58,7 +58,7 @@ OVTable {
         OVTableCell {
             id: name
 
-            OVFailedSign {  // of whichever work: it is no result of an upgrade
+            OVFailedSign {  // of any batch, not only upgrades
                 id: failedSign
                 anchors.verticalCenter: parent.verticalCenter
                 failure: name.row?.failure ?? ""
@@ -92,7 +92,7 @@ OVTable {
                 readonly property string path: file.value ?? ""
                 width: parent.width - Theme.unit
                 height: parent.height
-                color: path === "" ? Theme.colours.faint : Theme.colours.ink
+                color: path === "" ? Theme.colours.faint : Theme.colours.text
                 showsWholeOnHover: false
                 text: path === "" ? qsTr("未选择") : path.slice(path.lastIndexOf("/") + 1)
 
@@ -115,14 +115,14 @@ OVTable {
             readonly property int result: row?.upgraderes ?? UpgradeTools.None
             readonly property bool running: UpgradeTools.isRunning(result)
             readonly property bool counted: !running || result === UpgradeTools.Sending || result === UpgradeTools.Writing
-            // What failed before it began, as a file that was refused, has made no progress.
+            // An upgrade that failed before it started, such as by a refused file, has no progress.
             readonly property bool shown: running || result === UpgradeTools.Success || value > 0
 
             OVProgressBar {
                 id: bar
                 anchors.verticalCenter: parent.verticalCenter
                 width: Theme.progressWidth
-                ink: progress.running ? Theme.colours.accent
+                barColor: progress.running ? Theme.colours.accent
                     : progress.result === UpgradeTools.Success ? Theme.colours.ok : Theme.colours.faint
                 value: (progress.value ?? 0) / 100
                 visible: progress.shown
@@ -148,15 +148,15 @@ OVTable {
 
             readonly property int code: value ?? UpgradeTools.None
             readonly property bool failed: UpgradeTools.isFailure(code)
-            readonly property bool mayGoWell: UpgradeTools.canTryAgain(code)
+            readonly property bool canRetry: UpgradeTools.canTryAgain(code)
             readonly property bool notDone: code === UpgradeTools.Stopped || code === UpgradeTools.Cut
             readonly property bool skipped: code === UpgradeTools.NotInitialised
             readonly property bool signed: failed || code === UpgradeTools.Success
             readonly property string meaning: UpgradeTools.text(code)
-            readonly property string told: row?.upgradetext ?? ""
-            // While it runs the phase stands beside the bar; only what is more than that stands here.
-            readonly property string words: UpgradeTools.isRunning(code) ? (told === meaning ? "" : told)
-                : told !== "" ? told : meaning
+            readonly property string statusText: row?.upgradetext ?? ""
+            // While it runs, the phase is next to the bar; only further text is shown here.
+            readonly property string words: UpgradeTools.isRunning(code) ? (statusText === meaning ? "" : statusText)
+                : statusText !== "" ? statusText : meaning
 
             OVIcon {
                 id: sign
@@ -172,15 +172,15 @@ OVTable {
                 }
                 OVToolTip {
                     shown: signPointer.hovered && result.failed
-                    text: result.mayGoWell ? qsTr("可以重试") : qsTr("请先更正文件、账号或设备，再重新升级")
+                    text: result.canRetry ? qsTr("可以重试") : qsTr("请先更正文件、账号或设备，再重新升级")
                 }
             }
             OVLabel {
                 x: sign.visible ? sign.width + Theme.signGap : 0
                 width: parent.width - x - Theme.unit
                 height: parent.height
-                color: !result.failed || result.skipped ? Theme.colours.ink
-                    : result.notDone ? Theme.colours.warnInk : Theme.colours.bad
+                color: !result.failed || result.skipped ? Theme.colours.text
+                    : result.notDone ? Theme.colours.warnText : Theme.colours.bad
                 objectName: "upgradeResult" + result.rowIndex
                 text: result.words
             }

@@ -1,5 +1,5 @@
-// What can be done with the ticked devices of the upgrade page, how many are upgraded at a time, and which devices are
-// shown. In a narrow window the second part stands below the first one.
+// The tool bar of the upgrade page: actions on the ticked devices, number of concurrent upgrades, and filters. In a
+// narrow window the filters are in a second line.
 import QtQuick
 import QtQuick.Layouts
 import configtools

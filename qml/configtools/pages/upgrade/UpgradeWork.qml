@@ -1,4 +1,4 @@
-// Upgrades of the table's devices: their files, the question before they start, and keeping their rows up to date.
+// Upgrades of the devices in the table: files, confirmation, and refresh of rows.
 import QtQuick
 import configtools
 
@@ -11,12 +11,12 @@ Item {
     required property var fileDialogs
     required property var upgradeBatches
     required property bool shown
-    signal changed  // any row may have
-    signal said(string message, int kind)
+    signal changed  // any row may have changed
+    signal notify(string message, int severity)
 
     function chooseFileForChecked() {
         if (deviceTable.checkedCount === 0)
-            said(qsTr("请选择一台设备"), OVToast.Refusal);
+            notify(qsTr("请选择一台设备"), OVToast.Refusal);
         else
             chooseFile(deviceTable.checkedMacs());
     }
@@ -27,33 +27,33 @@ Item {
             const refusal = upgradeBatches.chooseFile(identities, path);
             changed();
             if (refusal !== "")
-                said(refusal, OVToast.Refusal);
+                notify(refusal, OVToast.Refusal);
         });
     }
 
     function startChecked() {
         if (deviceTable.checkedCount === 0)
-            said(qsTr("请选择一台设备"), OVToast.Refusal);
+            notify(qsTr("请选择一台设备"), OVToast.Refusal);
         else
             start(deviceTable.checkedMacs());
     }
 
-    /// Those that may go well another time, also those that the filter hides.
+    /// Retries upgrades that may succeed, including rows hidden by filters.
     function retry() {
         const identities = deviceFactory.upgradesToRetry("dh");
         if (identities.length === 0)
-            said(qsTr("没有可以重试的设备"), OVToast.Information);
+            notify(qsTr("没有可以重试的设备"), OVToast.Information);
         else
             start(identities);
     }
 
     function start(identities) {
         if (batches.mayStart())
-            question.wanted().ask(identities);
+            question.instance().ask(identities);
     }
 
     function startDocument(path) {
-        question.wanted().askDocument(path);
+        question.instance().askDocument(path);
     }
 
     function chooseDocument() {
@@ -63,7 +63,7 @@ Item {
 
     function openTemplate() {
         if (!deviceFactory.openTemplate())
-            said(qsTr("打开模板文件失败。"), OVToast.Error);
+            notify(qsTr("打开模板文件失败。"), OVToast.Error);
     }
 
     visible: false
@@ -82,17 +82,17 @@ Item {
         }
         function onEnded(upgraded, failed, notDone) {
             if (notDone > 0)
-                //: Of the devices that were to be upgraded.
-                root.said(qsTr("已停止：升级成功 %1 台，失败 %2 台，未执行 %3 台").arg(upgraded).arg(failed).arg(notDone),
+                //: Devices that were to be upgraded.
+                root.notify(qsTr("已停止：升级成功 %1 台，失败 %2 台，未执行 %3 台").arg(upgraded).arg(failed).arg(notDone),
                           failed > 0 ? OVToast.Error : OVToast.Information);
             else if (failed > 0)
-                //: Of the devices that were upgraded.
-                root.said(qsTr("%n 台设备未升级成功，请查看结果", "", failed), OVToast.Error);
+                //: Devices that were upgraded.
+                root.notify(qsTr("%n 台设备未升级成功，请查看结果", "", failed), OVToast.Error);
             else
-                root.said(qsTr("%n 台设备升级成功", "", upgraded), OVToast.Success);
+                root.notify(qsTr("%n 台设备升级成功", "", upgraded), OVToast.Success);
         }
         function onDocumentEnded(text, hasSuccess) {
-            outcome.wanted().show(text, hasSuccess ? OVMessageBox.Information : OVMessageBox.Error);
+            outcome.instance().show(text, hasSuccess ? OVMessageBox.Information : OVMessageBox.Error);
         }
     }
     // qmllint disable unqualified
@@ -102,7 +102,7 @@ Item {
         sourceComponent: UpgradePreviewDialog {
             deviceFactory: root.deviceFactory
             onConfirmed: identities => root.upgradeBatches.start(qsTr("设备升级"), identities)
-            onDocumentRefused: reason => root.said(reason, OVToast.Error)
+            onDocumentRefused: reason => root.notify(reason, OVToast.Error)
             onDocumentConfirmed: (path, lines) => root.upgradeBatches.startDocument(qsTr("升级文档"), path, lines)
         }
     }

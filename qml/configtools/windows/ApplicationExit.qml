@@ -1,4 +1,4 @@
-// The ways out of the program: its end, a restart, the demo site. Works in progress and unsaved settings come first.
+// Exits or restarts the application, or opens the demo site. Running work and unsaved settings are handled first.
 import QtQuick
 import configtools
 
@@ -10,10 +10,10 @@ Item {
     required property var deviceFactory
     required property var localConfig
     required property WindowPopups popups
-    required property var host  // the window: its leavePage() takes what follows, and returns whether it asks first
-    signal leaving  // what the window remembers is to be stored
+    required property var host  // the window; its leavePage(action) returns whether it asks first
+    signal leaving  // the window state is to be stored
 
-    /// Ends the program, unless it is at work or the user still wants to save. Returns whether it ends.
+    /// Exits unless work runs or the user wants to save. Returns whether it exits.
     function requestEnd() {
         if (batches.running) {
             popups.askToEnd(batches.current.title, deviceFactory.hasDeviceUpgrading());
@@ -22,7 +22,7 @@ Item {
         return isFree(BusyState.Close) && !host.leavePage(end);
     }
 
-    /// The same although a batch runs.
+    /// Exits during a batch.
     function endBatch() {
         host.leavePage(() => {
             batches.giveUp();
@@ -46,11 +46,11 @@ Item {
             });
     }
 
-    /// Whether nothing is in the way; otherwise the user is shown what.
+    /// Whether no running work prevents the action. If it does, reports it.
     function isFree(action) {
         const refusal = busyState.refusal(action);
         if (refusal !== "")
-            popups.say(refusal, OVToast.Refusal);
+            popups.notify(refusal, OVToast.Refusal);
         return refusal === "";
     }
 

@@ -1,5 +1,4 @@
-// An invisible sheet over the whole window that keeps the user's input from what lies under it. Only Escape, and a
-// click on one button, get through.
+// Blocks all input to the window. Only Escape, and a click on `stopper`, pass.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -7,11 +6,10 @@ import configtools
 T.Popup {
     id: root
 
-    property Item stopper: null  // a button under the sheet, a click on which stops the work as Escape does
+    property Item stopper: null  // button under the blocker: a click on it acts like Escape
     signal escapePressed
 
-    /// Opens the way again once what queued up while the thread was at work has come and gone: it was meant for
-    /// what was on the screen then.
+    /// Unblocks after the queued input is discarded: it was meant for the earlier content of the window.
     function release() {
         late.start();
     }
@@ -34,7 +32,7 @@ T.Popup {
 
     contentItem: MouseArea {
         id: sheet
-        objectName: "inputHold"
+        objectName: "inputBlocker"
         readonly property Item stopper: root.stopper
         readonly property point pointer: Qt.point(mouseX, mouseY)
         readonly property bool overStopper: containsMouse && root.stopper !== null && root.stopper.visible

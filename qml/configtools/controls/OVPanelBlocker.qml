@@ -1,12 +1,12 @@
-// An invisible sheet over its parent that keeps the user's input from it while work runs there. Everything else of the
-// window stays usable. The keyboard goes back to where it was, unless the user has taken it elsewhere.
+// Blocks input to its parent while work runs there. The rest of the window stays usable. Afterwards the keyboard focus
+// returns to its earlier item, unless the user has moved it.
 import QtQuick
 
 MouseArea {
     id: root
 
     property bool active: false
-    property var back: null  // the item that had the keyboard
+    property var back: null  // item that had the keyboard focus
 
     function isCovered(item) {
         let above = item;
@@ -32,7 +32,7 @@ MouseArea {
     anchors.fill: parent
     cursorShape: Qt.BusyCursor
     hoverEnabled: true
-    objectName: "workHold"
+    objectName: "panelBlocker"
     visible: false
     z: 1
     onActiveChanged: {
@@ -49,7 +49,7 @@ MouseArea {
         interval: 0
         onTriggered: root.takeKeyboard()
     }
-    // A list that closes gives the keyboard back to what it belongs to.
+    // A closing popup returns the keyboard focus to its owner.
     Connections {
         enabled: root.active
         target: root.Window.window
