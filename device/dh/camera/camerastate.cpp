@@ -37,13 +37,12 @@ template<typename Record>
 CameraReading readConfiguration(const ConfigSession &session, const char *name, int channel, Record &record)
 {
     record = {};
-    ConfigText text(cameraTextSize);
-    const std::int32_t error = session.fetchText(name, channel, text, cameraTextWait);
-    if (error == 0 && session.unpack(name, text, record))
+    const std::int32_t error = session.read(name, channel, record, cameraTextSize, cameraTextWait);
+    if (error == 0)
         return CameraReading::Done;
     qCWarning(logDevice) << "Camera: no configuration" << name << "error" << error;
-    return error != 0 && isSessionLost(static_cast<std::uint32_t>(error)) ? CameraReading::Unanswered
-                                                                          : CameraReading::Refused;
+    return isSessionLost(static_cast<std::uint32_t>(error)) ? CameraReading::Unanswered
+                                                            : CameraReading::Refused;
 }
 
 } // namespace

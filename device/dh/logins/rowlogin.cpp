@@ -1,13 +1,12 @@
 #include "device/dh/logins/rowlogin.h"
 
+#include "device/dh/session/configsession.h"
 #include "device/registry/devicerow.h"
 #include "sdk/blocktext.h"
-#include "sdk/configlibrary.h"
 #include "sdk/configrecords.h"
 #include "sdk/netlibrary.h"
 
 #include <mutex>
-#include <vector>
 
 using namespace std::chrono_literals;
 
@@ -68,43 +67,23 @@ struct Answers
     sdk::NetworkServices services{};
 };
 
-/// Reads a configuration text and parses it into `record`.
-template<typename Record>
-void readConfiguration(const sdk::SdkLibraries &libraries, std::int64_t handle, const char *name, int channel,
-                       std::uint32_t textSize, std::chrono::milliseconds wait, Record &record)
-{
-    std::vector<char> text(textSize, '\0');
-    std::int32_t error = 0;
-    if (!libraries.net->NetGetNewConfig(handle, name, channel, text.data(), textSize, error, wait))
-        return;
-    if (!libraries.config)
-        return;
-    const std::string_view whole(text.data(), text.size());
-    std::uint32_t returned = 0;
-    libraries.config->ConfigParseData(name, whole.substr(0, whole.find('\0')), &record, sizeof(record),
-                                      returned);
-}
-
-/// Queries the device. Returns nullopt if `control` ends the step between two queries.
-std::optional<Answers> askDevice(const sdk::SdkLibraries &libraries, std::int64_t handle,
-                                 const StepControl &control)
+/// Queries the device. Returns nullopt if `control` ends the step between two queries. A record that cannot be read is
+/// zero.
+std::optional<Answers> askDevice(const ConfigSession &session, const StepControl &control)
 {
     Answers answers;
-    std::uint32_t returned = 0;
-    libraries.net->NetQueryConfig(handle, sdk::QueryCommand::DeviceAttributes, 0, &answers.attributes,
-                                  sizeof(answers.attributes), returned, attributesWait);
+    session.queryBlock(sdk::QueryCommand::DeviceAttributes, answers.attributes, attributesWait);
     const auto read = [&](const char *name, int channel, std::uint32_t size, std::chrono::milliseconds wait,
                           auto &record) {
         if (!control.shouldEnd())
-            readConfiguration(libraries, handle, name, channel, size, wait, record);
+            (void)session.read(name, channel, record, size, wait);
     };
     read("Network", 0, configurationTextSize, configurationWait, answers.network);
     read("DVRIP", 0, configurationTextSize, configurationWait, answers.service);
     read("Https", -1, httpsTextSize, httpsWait, answers.https);
     if (control.shouldEnd())
         return std::nullopt;
-    libraries.net->NetQueryConfig(handle, sdk::QueryCommand::NetworkServices, 0, &answers.services,
-                                  sizeof(answers.services), returned, configurationWait);
+    session.queryBlock(sdk::QueryCommand::NetworkServices, answers.services, configurationWait);
     return answers;
 }
 
@@ -222,7 +201,7 @@ RowLoginOutcome loginForRow(const sdk::SdkLibraries &libraries, const RowLoginRe
         return {.result = loginResultOf(net.NetGetLastError()), .row = {}, .record = {}};
 
     RowLoginOutcome outcome{.result = LoginResult::NotDone, .row = {}, .record = {}};
-    if (const std::optional<Answers> answers = askDevice(libraries, handle, control))
+    if (const std::optional<Answers> answers = askDevice(ConfigSession(libraries, handle), control))
         outcome = {.result = LoginResult::Success, .row = rowOf(request, device, *answers), .record = {}};
     if (!p2p && outcome.result == LoginResult::Success && !control.shouldEnd()) {
         outcome.record = searchAddress(net, request.address);

@@ -36,6 +36,20 @@ public:
     [[nodiscard]] std::int32_t fetchText(const char *name, int channel, ConfigText &text,
                                          std::chrono::milliseconds wait) const;
 
+    /// The result of an operation whose text the configuration library cannot pack or unpack.
+    static constexpr auto unusableText = static_cast<std::int32_t>(sdk::NetError::Refused);
+
+    /// Reads a configuration text of up to `textSize` bytes and unpacks it into `record`. Returns 0, the
+    /// error of the library, or unusableText. On failure, the record is unchanged.
+    template<typename Record>
+    [[nodiscard]] std::int32_t read(const char *name, int channel, Record &record, std::uint32_t textSize,
+                                    std::chrono::milliseconds wait) const
+    {
+        ConfigText text(textSize);
+        const std::int32_t error = fetchText(name, channel, text, wait);
+        return error != 0 || unpack(name, text, record) ? error : unusableText;
+    }
+
     /// Parses a text into `record`. Returns false, and leaves the record unchanged, on failure.
     template<typename Record>
     [[nodiscard]] bool unpack(const char *name, const ConfigText &text, Record &record) const
@@ -50,7 +64,10 @@ public:
         return pack(name, &record, sizeof(record), text);
     }
 
-    /// Formats `record` as a configuration text of up to `textSize` bytes and writes it.
+    bool writeText(const char *name, int channel, const ConfigText &text,
+                   std::chrono::milliseconds wait) const;
+
+    /// Packs `record` and writes it as a configuration text of up to `textSize` bytes.
     template<typename Record>
     bool write(const char *name, int channel, const Record &record, std::uint32_t textSize,
                std::chrono::milliseconds wait) const
@@ -102,8 +119,6 @@ public:
 private:
     bool unpack(const char *name, const ConfigText &text, void *record, std::uint32_t recordSize) const;
     bool pack(const char *name, const void *record, std::uint32_t recordSize, ConfigText &text) const;
-    bool writeText(const char *name, int channel, const ConfigText &text,
-                   std::chrono::milliseconds wait) const;
 
     std::shared_ptr<sdk::NetLibrary> m_net;
     std::shared_ptr<sdk::ConfigLibrary> m_config;

@@ -13,7 +13,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr std::size_t detailTextSize = 32768;
+constexpr std::uint32_t detailTextSize = 32768;
 constexpr auto everyChannel = -1;
 
 /// Inserts a text that is not empty; an empty one must not replace a known value.
@@ -52,14 +52,11 @@ bool readAttributes(const ConfigSession &session, QVariantMap &detail)
 template<typename Record, typename Take>
 bool readRecord(const ConfigSession &session, const char *name, int channel, Take take)
 {
-    ConfigText text(detailTextSize);
-    const std::int32_t error = session.fetchText(name, channel, text, ConfigSession::usualWait);
-    if (error != 0)
-        return !isSessionLost(static_cast<std::uint32_t>(error));
     Record record{};
-    if (session.unpack(name, text, record))
+    const std::int32_t error = session.read(name, channel, record, detailTextSize, ConfigSession::usualWait);
+    if (error == 0)
         take(record);
-    return true;
+    return error == 0 || !isSessionLost(static_cast<std::uint32_t>(error));
 }
 
 bool readNetwork(const ConfigSession &session, QVariantMap &detail)

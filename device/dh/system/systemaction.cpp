@@ -1,12 +1,10 @@
 #include "device/dh/system/systemaction.h"
 
+#include "device/dh/session/configsession.h"
 #include "device/dh/system/systemdata.h"
 #include "device/registry/logging.h"
-#include "sdk/configlibrary.h"
 #include "sdk/neterror.h"
 #include "sdk/netlibrary.h"
-
-#include <vector>
 
 using namespace std::chrono_literals;
 
@@ -25,9 +23,6 @@ std::uint32_t errorOf(const sdk::NetLibrary &net, bool isDone)
     return isDone ? 0 : net.NetGetLastError();
 }
 
-/// Error if a configuration text cannot be made or parsed: no request was sent then.
-constexpr auto unusableText = static_cast<std::uint32_t>(sdk::NetError::Refused);
-
 std::uint32_t setTime(const sdk::SdkLibraries &libraries, std::int64_t handle, const sdk::TimeRecord &time)
 {
     const std::uint32_t error = errorOf(
@@ -38,38 +33,30 @@ std::uint32_t setTime(const sdk::SdkLibraries &libraries, std::int64_t handle, c
     return error;
 }
 
-/// Formats a record as a configuration text and writes it.
+/// Writes a configuration of the device. Nothing is sent without a library for configuration texts.
 template<typename Record>
 std::uint32_t writeConfiguration(const sdk::SdkLibraries &libraries, std::int64_t handle, const char *name,
                                  const Record &record, std::uint32_t textSize)
 {
-    std::vector<char> text(textSize, '\0');
-    if (!libraries.config ||
-        !libraries.config->ConfigPackData(name, &record, sizeof(record), text.data(), textSize))
-        return unusableText;
-    std::int32_t error = 0;
-    return errorOf(*libraries.net, libraries.net->NetSetNewConfig(handle, name, wholeDevice, text.data(),
-                                                                  textSize, error, requestWait));
+    const ConfigSession session(libraries, handle);
+    ConfigText text(textSize);
+    if (!session.pack(name, record, text))
+        return ConfigSession::unusableText;
+    return errorOf(*libraries.net, session.writeText(name, wholeDevice, text, requestWait));
 }
 
-/// Read-modify-write: changes only the daylight saving rule in the configuration.
+/// Changes only the rule in the configuration of the device.
 std::uint32_t setDaylightSaving(const sdk::SdkLibraries &libraries, std::int64_t handle,
                                 const DaylightSaving &rule)
 {
     const char *const name = "Locales";
-    std::vector<char> text(localesTextSize, '\0');
-    std::int32_t error = 0;
     if (!libraries.config)
-        return unusableText;
-    if (!libraries.net->NetGetNewConfig(handle, name, wholeDevice, text.data(), localesTextSize, error,
-                                        requestWait))
-        return libraries.net->NetGetLastError();
-    const std::string_view whole(text.data(), text.size());
+        return ConfigSession::unusableText;
     sdk::LocalesRecord record{};
-    std::uint32_t returned = 0;
-    if (!libraries.config->ConfigParseData(name, whole.substr(0, whole.find('\0')), &record, sizeof(record),
-                                           returned))
-        return unusableText;
+    const std::int32_t error =
+        ConfigSession(libraries, handle).read(name, wholeDevice, record, localesTextSize, requestWait);
+    if (error != 0)
+        return static_cast<std::uint32_t>(error);
     record.daylightSavingEnabled = rule.enabled ? 1 : 0;
     record.begin = rule.begin;
     record.end = rule.end;
