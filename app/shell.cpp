@@ -213,10 +213,8 @@ void Shell::registerBackEnds()
         return backEnd;
     });
     CDeviceFactory::registerP2PAgent({.library = m_libraries.p2pAgent, .handler = &CDeviceDH::agentMessage});
-    CDeviceFactory::registerBackEnd(QStringLiteral("hik"),
-                                    [store] { return std::make_shared<CDeviceHik>(store); });
-    CDeviceFactory::registerBackEnd(QStringLiteral("ol"),
-                                    [store] { return std::make_shared<CDeviceOL>(store); });
+    CDeviceFactory::registerBackEnd(QStringLiteral("hik"), [] { return std::make_shared<CDeviceHik>(); });
+    CDeviceFactory::registerBackEnd(QStringLiteral("ol"), [] { return std::make_shared<CDeviceOL>(); });
 }
 
 void Shell::loadScene()

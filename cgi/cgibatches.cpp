@@ -32,7 +32,7 @@ CgiBatches::CgiBatches(CDeviceFactory &factory, Batches &batches, CgiSurrounding
     : QObject(parent), m_factory(factory), m_batches(batches), m_surroundings(std::move(surroundings)),
       m_answers(std::make_shared<LongAnswers>())
 {
-    m_surroundings.checkLogin = m_factory.loginCheck(dhFamily);
+    m_surroundings.checkLogin = m_factory.backEnd(dhFamily)->loginCheck();
     m_surroundings.watch = {};
     m_surroundings.ownPath = [paths = std::make_shared<AnswerPaths>()](const QString &path) {
         return paths->own(path);

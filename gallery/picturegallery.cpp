@@ -211,7 +211,7 @@ void PictureGallery::readDevices()
         return;
     for (int row = 0; row < rowCount(); ++row) {
         Cell &cell = m_cells[row];
-        const QJsonObject device = m_deviceFactory->deviceRow(dhFamily, cell.identity);
+        const QJsonObject device = m_deviceFactory->backEnd(dhFamily)->deviceRow(cell.identity);
         if (device.isEmpty())
             continue;
         const QString name = nameOfDevice(device.toVariantMap());
@@ -298,8 +298,7 @@ DeviceStep PictureGallery::stepOf(const BatchDevice &device, int onlyChannel, co
         mailbox->post(round, news);
     };
     const QString identity = device.name;
-    const DeviceStep step = m_deviceFactory->pictureStep(
-        dhFamily,
+    const DeviceStep step = m_deviceFactory->backEnd(dhFamily)->pictureStep(
         {.ipport = device.ipport,
          .folder = folder + QLatin1Char('/') + snapshotFolder(identity),
          .onlyChannel = onlyChannel,

@@ -51,7 +51,7 @@ void AddingBatches::importList(const QString &title, const QString &path)
 
 AddingBatches::List AddingBatches::readList(const QString &title, const QString &path) const
 {
-    const ImportPlan read = m_factory.importPlan(dhFamily, path);
+    const ImportPlan read = m_factory.backEnd(dhFamily)->importPlan(path);
     List list = {.refusal = read.refusal, .plan = {.family = dhFamily, .title = title}, .places = {}};
     QHash<QString, DeviceStep> steps; // by the names of the lines
     list.plan.devices.reserve(static_cast<qsizetype>(read.lines.size()));
@@ -125,7 +125,7 @@ Batch *AddingBatches::addDevices(const QString &title, const QVariantList &devic
         plan.devices.append(device);
     }
     plan.stepOf = [this, targets](const BatchDevice &device) {
-        return m_factory.addingStep(dhFamily, targets.value(device.name));
+        return m_factory.backEnd(dhFamily)->addingStep(targets.value(device.name));
     };
     plan.takeOutcomes = [this, identities](const QList<BatchOutcome> &outcomes) {
         noteRows(outcomes);

@@ -39,7 +39,7 @@ bool mayBeChanged(int result)
 /// The upgrade state in a device's row, an UpgradeTools::Result.
 int upgradeOf(CDeviceFactory &factory, const QString &family, const BatchDevice &device)
 {
-    const QJsonObject row = factory.deviceRow(family, device.identity);
+    const QJsonObject row = factory.backEnd(family)->deviceRow(device.identity);
     return row.value(DeviceRowKey::upgraderes).toInt(UpgradeTools::None);
 }
 
@@ -98,7 +98,7 @@ Batch *Batches::configureSystem(const QString &family, const QString &command, c
          .policy = usualPolicy(),
          .stepOf =
              [this, family, command, values](const BatchDevice &device) {
-                 return m_factory.systemStep(family, command, values, device.ipport);
+                 return m_factory.backEnd(family)->systemStep(command, values, device.ipport);
              },
          // A password change uses the old password that the user enters, not the account of the row.
          .accountOf = workOf(command) == QLatin1String("modifyPassword") ? nullptr : rowAccounts(family),
@@ -119,9 +119,8 @@ Batch *Batches::nameCameras(const QString &family, const QString &title, const Q
                   .policy = usualPolicy(),
                   .stepOf = [this, family, nameAt](const BatchDevice &device) -> DeviceStep {
                       const QString name = nameAt.value(device.ipport);
-                      const DeviceStep step =
-                          m_factory.systemStep(family, QStringLiteral("channelName"),
-                                               {{QStringLiteral("name"), name}}, device.ipport);
+                      const DeviceStep step = m_factory.backEnd(family)->systemStep(
+                          QStringLiteral("channelName"), {{QStringLiteral("name"), name}}, device.ipport);
                       return [step, name](const StepControl &control) {
                           StepOutcome outcome = step(control);
                           if (outcome.result == BatchReport::Succeeded)
@@ -157,7 +156,8 @@ Batch *Batches::setFirstPasswords(const QString &family, const QString &title, c
                   .policy = {.atOnce = 1, .deadline = stepDeadline},
                   .stepOf =
                       [this, family, account, password](const BatchDevice &device) {
-                          return m_factory.initialisationStep(family, device.name, account, password);
+                          return m_factory.backEnd(family)->initialisationStep(device.name, account,
+                                                                               password);
                       },
                   .changesRows = true,
                   .notesResults = true});
@@ -200,7 +200,7 @@ QVariantList Batches::addressesToPutBack(Batch *batch) const
             {QStringLiteral("ipport"), now.ipport},
             {QStringLiteral("action"), before.dhcp ? QStringLiteral("DHCP") : before.address},
             {QStringLiteral("newAddress"), before.dhcp ? QString() : before.address}};
-        if (m_factory.deviceRow(batch->plan().family, identity).isEmpty()) {
+        if (m_factory.backEnd(batch->plan().family)->deviceRow(identity).isEmpty()) {
             values.insert(QStringLiteral("title"), now.title);
             values.insert(DeviceRowKey::mac, macOf(now));
         }
@@ -211,7 +211,7 @@ QVariantList Batches::addressesToPutBack(Batch *batch) const
 
 BatchDevice Batches::deviceNow(const BatchPlan &plan, const Batch::Entry &entry) const
 {
-    if (!m_factory.deviceRow(plan.family, entry.device.identity).isEmpty())
+    if (!m_factory.backEnd(plan.family)->deviceRow(entry.device.identity).isEmpty())
         return batchDevice(m_factory, plan.family, entry.device.identity);
     BatchDevice device = entry.device;
     const QString given = entry.outcome.result == BatchReport::Succeeded ? entry.outcome.text : QString();
@@ -240,7 +240,7 @@ Batch *Batches::putAddressesBack(Batch *batch, const QString &title, const QStri
 
 std::optional<AddressSettings> Batches::settingsBeforeFailure(const QString &identity) const
 {
-    const QJsonObject row = m_factory.deviceRow(QStringLiteral("dh"), identity);
+    const QJsonObject row = m_factory.backEnd(QStringLiteral("dh"))->deviceRow(identity);
     if (!row.value(DeviceRowKey::unconfirmed).toBool()) // the device was found again since
         return std::nullopt;
     const auto last = std::find_if(m_kept.crbegin(), m_kept.crend(), [&identity](const Batch *batch) {
@@ -285,9 +285,10 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
     const auto occupied = std::make_shared<OccupiedAddresses>(plan);
     plan.stepOf = [this, family = plan.family, targets, occupied](const BatchDevice &device) -> DeviceStep {
         const AddressSettings target = targets.value(device.identity);
-        const DeviceStep step = target.dhcp ? m_factory.addressStep(family, device.name, {}, {}, {}, true)
-                                            : m_factory.addressStep(family, device.name, target.address,
-                                                                    target.mask, target.gateway, false);
+        const DeviceStep step =
+            target.dhcp ? m_factory.backEnd(family)->addressStep(device.name, {}, {}, {}, true)
+                        : m_factory.backEnd(family)->addressStep(device.name, target.address, target.mask,
+                                                                 target.gateway, false);
         return [=](const StepControl &control) {
             if (const auto holder = occupied->holderOf(target.address, device.identity)) {
                 if (holder->stays)
@@ -313,7 +314,7 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
         QStringList names;
         for (const BatchDevice &device : std::as_const(plan.devices))
             names.append(device.name);
-        plan.preparation = m_factory.locationStep(plan.family, names);
+        plan.preparation = m_factory.backEnd(plan.family)->locationStep(names);
     }
     plan.work = QStringLiteral("changeAddress");
     plan.changesRows = true;
@@ -327,7 +328,7 @@ Batch *Batches::copyEncodeSettings(const QString &family, const QString &title, 
                   .title = title,
                   .devices = batchDevices(m_factory, family, ipports),
                   .policy = usualPolicy(),
-                  .stepOf = [copyTo = m_factory.encodeCopy(family)](
+                  .stepOf = [copyTo = m_factory.backEnd(family)->encodeCopy()](
                                 const BatchDevice &device) { return copyTo(device.ipport); },
                   .accountOf = rowAccounts(family),
                   .isByAddress = true});
@@ -336,7 +337,7 @@ Batch *Batches::copyEncodeSettings(const QString &family, const QString &title, 
 Batch *Batches::takeSnapshots(const QString &family, const QString &title, const QString &ipport,
                               const QStringList &channelNames, const QString &folder)
 {
-    const QList<DeviceStep> steps = m_factory.snapshotSteps(family, folder);
+    const QList<DeviceStep> steps = m_factory.backEnd(family)->snapshotSteps(folder);
     const BatchDevice device = batchDevice(m_factory, family, ipport);
     QList<BatchDevice> channels;
     QHash<QString, DeviceStep> stepOfChannel;
@@ -391,7 +392,7 @@ void Batches::leaveOutMoved(BatchPlan &plan)
 {
     QStringList moved;
     plan.devices.removeIf([&](const BatchDevice &device) {
-        const QJsonObject row = m_factory.deviceRow(plan.family, device.identity);
+        const QJsonObject row = m_factory.backEnd(plan.family)->deviceRow(device.identity);
         const bool isMoved = row.value(DeviceRowKey::ipport).toString() != device.ipport;
         if (isMoved)
             moved.append(device.ipport);

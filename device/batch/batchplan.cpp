@@ -9,7 +9,7 @@
 BatchDevice batchDevice(CDeviceFactory &factory, const QString &family, const QString &name)
 {
     // `name` is a MAC or "address:port".
-    QJsonObject row = factory.deviceRow(family, name);
+    QJsonObject row = factory.backEnd(family)->deviceRow(name);
     if (row.isEmpty())
         row = QJsonObject::fromVariantMap(factory.getDeviceInfo(family, name));
     const QString ipport = row.value(DeviceRowKey::ipport).toString(name);

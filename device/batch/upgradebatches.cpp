@@ -32,7 +32,7 @@ public:
     [[nodiscard]] DeviceStep take(const BatchDevice &device)
     {
         const DeviceStep step = m_steps.take(device.name);
-        return step ? step : m_factory.repeatedDocumentStep(dhFamily, device.identity);
+        return step ? step : m_factory.backEnd(dhFamily)->repeatedDocumentStep(device.identity);
     }
 
 private:
@@ -61,7 +61,7 @@ UpgradeBatches::UpgradeBatches(CDeviceFactory &factory, Batches &batches, std::f
 
 QString UpgradeBatches::chooseFile(const QStringList &identities, const QString &path)
 {
-    const QList<int> refusals = m_factory.setUpgradeFiles(dhFamily, identities, path);
+    const QList<int> refusals = m_factory.backEnd(dhFamily)->setUpgradeFiles(identities, path);
     const auto refused = std::count_if(refusals.cbegin(), refusals.cend(), &UpgradeTools::isFailure);
     if (refused == 0)
         return {};
@@ -93,10 +93,10 @@ Batch *UpgradeBatches::start(const QString &title, const QStringList &identities
     plan.isByAddress = true;
     plan.accountOf = m_batches.rowAccounts(dhFamily);
     plan.stepOf = [this](const BatchDevice &device) -> DeviceStep {
-        const QJsonObject row = m_factory.deviceRow(dhFamily, device.identity);
+        const QJsonObject row = m_factory.backEnd(dhFamily)->deviceRow(device.identity);
         if (!row.value(DeviceRowKey::state).toBool(true))
             return &skipUninitialised;
-        return m_factory.upgradeStep(dhFamily, device.identity);
+        return m_factory.backEnd(dhFamily)->upgradeStep(device.identity);
     };
     return begin(std::move(plan), Source::List);
 }
@@ -110,7 +110,8 @@ Batch *UpgradeBatches::startDocument(const QString &title, const QString &path, 
         numbers.append(line.toInt());
     BatchPlan plan = usualPlan(title);
     const auto steps = std::make_shared<DocumentSteps>(m_factory);
-    const QList<UpgradeDocumentStep> upgrades = m_factory.upgradeDocumentSteps(dhFamily, path, numbers);
+    const QList<UpgradeDocumentStep> upgrades =
+        m_factory.backEnd(dhFamily)->upgradeDocumentSteps(path, numbers);
     for (const UpgradeDocumentStep &line : upgrades) {
         BatchDevice device = batchDevice(m_factory, dhFamily, line.device);
         device.name = tr("第%1行 %2").arg(line.line).arg(line.ipport);
@@ -151,7 +152,7 @@ void UpgradeBatches::follow(Batch *batch, Source source)
 void UpgradeBatches::noteRefusals(const QList<BatchOutcome> &outcomes)
 {
     for (const auto &[device, outcome] : outcomes) {
-        const QJsonObject row = m_factory.deviceRow(dhFamily, device.identity);
+        const QJsonObject row = m_factory.backEnd(dhFamily)->deviceRow(device.identity);
         const bool wasAsked =
             row.value(DeviceRowKey::upgraderes).toInt(UpgradeTools::None) != UpgradeTools::Stopped;
         for (const UpgradeTools::Result refusal :
@@ -179,7 +180,7 @@ void UpgradeBatches::noteProgress(int percent)
 void UpgradeBatches::tellRows()
 {
     m_news.stop();
-    const QStringList names = m_factory.takeChangedUpgrades(dhFamily);
+    const QStringList names = m_factory.backEnd(dhFamily)->takeChangedUpgrades();
     if (names.size() > fewRows)
         Q_EMIT listChanged();
     else if (!names.isEmpty())

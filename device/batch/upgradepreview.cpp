@@ -26,8 +26,9 @@ void UpgradePreview::setIdentities(const QStringList &identities)
     endReading();
     m_upgrades.clear();
     QVariantList devices;
-    const QList<PlannedUpgrade> plans =
-        deviceFactory() ? deviceFactory()->plannedUpgrades(dhFamily, identities) : QList<PlannedUpgrade>();
+    const QList<PlannedUpgrade> plans = deviceFactory()
+                                            ? deviceFactory()->backEnd(dhFamily)->plannedUpgrades(identities)
+                                            : QList<PlannedUpgrade>();
     for (qsizetype place = 0; place < plans.size(); ++place) {
         QVariantMap device = deviceFactory()->getDeviceDetail(dhFamily, identities.at(place));
         device.insert(identityKey, identities.at(place));
@@ -47,8 +48,8 @@ void UpgradePreview::readDocument(const QString &path)
         return;
     m_reading = {};
     m_work = deviceFactory()->busyState()->begin(tr("读取升级文档"), BusyState::Rows);
-    deviceFactory()->runForScene(
-        dhFamily, deviceFactory()->upgradeDocumentReading(dhFamily, path), m_reading.get_token(),
+    deviceFactory()->backEnd(dhFamily)->runForScene(
+        deviceFactory()->backEnd(dhFamily)->upgradeDocumentReading(path), m_reading.get_token(),
         [self = QPointer(this), reading = m_reading.get_token()](const SceneOutcome &outcome) {
             if (!self || reading.stop_requested())
                 return;

@@ -69,5 +69,5 @@ void AgentListener::noteBrokenTunnel(const QString &deviceId, int localPort)
         });
     // A row may be missing: tunnels to web pages have none, and a search may have removed it.
     if (isListed || deviceId.isEmpty())
-        m_signals.emitNow(&CDeviceBase::signalCDeviceTunnelBroken, deviceId, localPort);
+        m_signals.emitNow<&CDeviceBase::signalCDeviceTunnelBroken>(deviceId, localPort);
 }

@@ -26,7 +26,7 @@
 CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
                      std::function<SearchSettings()> searchSettings, const UpgradeLimits &upgradeLimits,
                      std::shared_ptr<BatchEngine> engine)
-    : CDeviceBase(store), m_libraries(std::move(libraries)),
+    : m_libraries(std::move(libraries)),
       m_engine(engine ? std::move(engine) : std::make_shared<BatchEngine>(m_libraries.clock)),
       m_logins(std::make_unique<DeviceLogins>(store, m_libraries)),
       m_threads(std::make_shared<SessionThreads>(m_libraries.net, m_signals)),

@@ -90,7 +90,7 @@ QString AccountList::removeUnused()
 
 AccountList::Device AccountList::deviceOf(const QString &name) const
 {
-    QJsonObject row = m_factory.deviceRow(dhFamily, name);
+    QJsonObject row = m_factory.backEnd(dhFamily)->deviceRow(name);
     if (row.isEmpty())
         row = QJsonObject::fromVariantMap(m_factory.getDeviceInfo(dhFamily, name));
     return {.name = rowName(row),

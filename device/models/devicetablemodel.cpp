@@ -315,7 +315,7 @@ void DeviceTableModel::refreshDevices(const QStringList &macs)
         const int place = rowOf(mac);
         if (place < 0 || !m_deviceFactory)
             continue;
-        QVariantList read = {m_deviceFactory->deviceRow(dhFamily, mac)};
+        QVariantList read = {m_deviceFactory->backEnd(dhFamily)->deviceRow(mac)};
         addNotes(read);
         const QJsonObject values = read.constFirst().toJsonObject();
         if (!values.isEmpty()) // otherwise the device was deleted; the next refresh() removes the row

@@ -11,6 +11,6 @@ void BackEndSignals::noteChangedRows()
         return;
     queue([this] {
         m_changedRowsNoted = false;
-        emitNow(&CDeviceBase::signalCDeviceAddSingleDeviceToTable);
+        emitNow<&CDeviceBase::signalCDeviceAddSingleDeviceToTable>();
     });
 }

@@ -1,4 +1,4 @@
-// The signals of a back end, for the parts that it consists of.
+// Emission of the signals of a back end by its components.
 #pragma once
 
 #include "device/registry/devicebase.h"
@@ -7,9 +7,26 @@
 
 #include <atomic>
 #include <functional>
+#include <tuple>
+#include <type_traits>
 #include <utility>
 
-/// Emits the signals of one back end. Belongs to the back end and ends with it. Any thread.
+/// Whether `signal`, a pointer to a signal of CDeviceBase, is in the list forwardedSignals, whose signals the
+/// factory forwards.
+template<auto signal>
+inline constexpr bool isForwarded = std::apply(
+    [](auto... forwarded) {
+        const auto isSame = [](auto other) {
+            if constexpr (std::is_same_v<decltype(other), decltype(signal)>)
+                return other == signal;
+            else
+                return false;
+        };
+        return (isSame(forwarded) || ...);
+    },
+    forwardedSignals);
+
+/// Emits the signals of one back end. The back end owns this object. Any thread.
 class BackEndSignals
 {
 public:
@@ -17,34 +34,60 @@ public:
     BackEndSignals(const BackEndSignals &) = delete;
     BackEndSignals &operator=(const BackEndSignals &) = delete;
 
-    /// Emits a signal in this call.
-    template<typename... Parameters, typename... Arguments>
-    void emitNow(void (CDeviceBase::*signal)(Parameters...), Arguments &&...arguments) const
+    /// A function that emits `signal` with these arguments, for emitNow().
+    using Emission = std::function<void(CDeviceBase &backEnd)>;
+    template<auto signal, typename... Arguments>
+    [[nodiscard]] static Emission emission(const Arguments &...arguments)
     {
-        Q_EMIT(m_backEnd.*signal)(std::forward<Arguments>(arguments)...);
+        static_assert(isForwarded<signal>, "add the signal to forwardedSignals and to the factory");
+        return bound(signal, arguments...);
+    }
+    void emitNow(const Emission &emission) const { emission(m_backEnd); }
+
+    /// Emits `signal` in this call, on the caller's thread.
+    template<auto signal, typename... Arguments>
+    void emitNow(const Arguments &...arguments) const
+    {
+        static_assert(isForwarded<signal>, "add the signal to forwardedSignals and to the factory");
+        Q_EMIT(m_backEnd.*signal)(arguments...);
     }
 
-    /// Emits signals that were collected.
-    void emitNow(const std::function<void(CDeviceBase &backEnd)> &news) const { news(m_backEnd); }
-
     /// Emits `target` whenever `sender` emits `signal`, on the same thread.
-    template<typename Sender, typename Signal, typename Target>
-    void relay(const Sender *sender, Signal signal, Target target) const
+    template<auto target, typename Sender, typename Signal>
+    void relay(const Sender *sender, Signal signal) const
     {
+        static_assert(isForwarded<target>, "add the signal to forwardedSignals and to the factory");
         QObject::connect(sender, signal, &m_backEnd, target, Qt::DirectConnection);
     }
 
-    /// Runs `work` later on the scene's thread, behind the signals that this thread has queued. It is dropped
-    /// with the back end.
+    /// Calls noteChangedRows() whenever `sender` emits `signal`.
+    template<typename Sender, typename Signal>
+    void relayChangedRows(const Sender *sender, Signal signal)
+    {
+        QObject::connect(
+            sender, signal, &m_backEnd, [this] { noteChangedRows(); }, Qt::DirectConnection);
+    }
+
+    /// Runs `work` later on the main thread, after the signals that this thread has queued. Dropped when the
+    /// back end is destroyed before.
     void queue(const std::function<void()> &work) const;
 
-    /// Emits signalCDeviceAddSingleDeviceToTable later, once however often it is called before.
+    /// Emits signalCDeviceAddSingleDeviceToTable later on the main thread, once for all calls until then.
     void noteChangedRows();
 
-    /// Lives on the scene's thread, and ends with the back end.
+    /// The back end as a context for connections: it lives on the main thread.
     [[nodiscard]] QObject *receiver() const { return &m_backEnd; }
 
 private:
+    template<typename... Parameters>
+    [[nodiscard]] static Emission bound(void (CDeviceBase::*signal)(Parameters...),
+                                        const std::decay_t<Parameters> &...values)
+    {
+        return [signal, values...](CDeviceBase &backEnd) {
+            Q_EMIT(backEnd.*signal)(values...);
+        };
+    }
+
     CDeviceBase &m_backEnd;
     std::atomic<bool> m_changedRowsNoted = false;
 };

@@ -1,191 +1,9 @@
+// Defaults of a family that does not support an operation, as far as they are more than an empty value.
 #include "device/registry/devicebase.h"
 
-#include "device/registry/devicestore.h"
+#include <QJsonObject>
 
 #include <utility>
-
-CDeviceBase::CDeviceBase(std::shared_ptr<DeviceStore> store) : m_store(std::move(store)) {}
-
-CDeviceBase::~CDeviceBase() = default;
-
-void CDeviceBase::startSearch() {}
-
-void CDeviceBase::setSearchByIPInfo(quint32, quint32) {}
-
-QVariantList CDeviceBase::filterData(const QString &, const QString &)
-{
-    return {};
-}
-
-QVariantList CDeviceBase::filterDataIPV6(const QString &, const QString &)
-{
-    return {};
-}
-
-void CDeviceBase::modifyIP(const QString &, const QString &, const QString &, const QString &, bool) {}
-
-void CDeviceBase::setDefaultAccount(const QString &, const QString &) {}
-
-void CDeviceBase::setInitAccount(const QString &, const QString &, const QString &) {}
-
-void CDeviceBase::setDeleteDevice(const QString &, const QString &) {}
-
-void CDeviceBase::setBatchDeleteDevice(const QVariantMap &, const QString &) {}
-
-QVariantMap CDeviceBase::getDeviceInfo(const QString &)
-{
-    return {};
-}
-
-QVariantMap CDeviceBase::getDeviceDetail(const QString &)
-{
-    return {};
-}
-
-QVariantMap CDeviceBase::getDeviceDetailByAddress(const QString &)
-{
-    return {};
-}
-
-int CDeviceBase::getLoginDevice(const QString &, const QString &, const QString &, const QString &, int,
-                                const QString &)
-{
-    return 0;
-}
-
-void CDeviceBase::setUpgradeFilePath(const QString &, const QString &) {}
-
-void CDeviceBase::startUpgrade(const QStringList &) {}
-
-void CDeviceBase::startUpgradeByDocument(const QStringList &) {}
-
-void CDeviceBase::stopUpgrade(const QString &) {}
-
-QStringList CDeviceBase::upgradesToRetry()
-{
-    return {};
-}
-
-QVariantList CDeviceBase::importUpgradeDocument(const QString &)
-{
-    return {};
-}
-
-int CDeviceBase::findAndLoginDevice(const QString &, const QString &, const QString &)
-{
-    return 0;
-}
-
-bool CDeviceBase::updataDeviceInfo(const QString &, const QVariant &, const QString &, const QString &)
-{
-    return false;
-}
-
-void CDeviceBase::getCameraConfig() {}
-
-void CDeviceBase::getEncodeCaps() {}
-
-QVariant CDeviceBase::getConfigData(const QString &, const QVariant &)
-{
-    return {};
-}
-
-void CDeviceBase::setConfigData(const QString &, const QVariant &, const QString &) {}
-
-QVariantList CDeviceBase::getDeviceChannelData(const QString &, int)
-{
-    return {};
-}
-
-void CDeviceBase::confirmConfigData() {}
-
-void CDeviceBase::getVideoIn() {}
-
-void CDeviceBase::getVideoInByChangeChannel() {}
-
-void CDeviceBase::copyConfigToDevice(const QStringList &) {}
-
-void CDeviceBase::getEncodeInfo() {}
-
-void CDeviceBase::unusedOperation() {}
-
-void CDeviceBase::systemConfig(const QString &, const QVariantMap &, const QStringList &) {}
-
-QString CDeviceBase::upgradeDocumentResult()
-{
-    return {};
-}
-
-QVariantMap CDeviceBase::upgradeDocumentProgress()
-{
-    return {};
-}
-
-int CDeviceBase::upgradeDocumentSuccesses()
-{
-    return 0;
-}
-
-void CDeviceBase::refreshDevices(const QStringList &) {}
-
-void CDeviceBase::stopSearch() {}
-
-void CDeviceBase::factoryEnds() {}
-
-void CDeviceBase::openSession(const QString &, const QString &, const QString &, bool, bool) {}
-
-void CDeviceBase::stopOpeningSession() {}
-
-void CDeviceBase::checkSession() {}
-
-void CDeviceBase::snapPictureToFile(const QString &, const QVariant &, const QString &) {}
-
-bool CDeviceBase::hasDeviceUpgrading()
-{
-    return false;
-}
-
-bool CDeviceBase::importDevice(const QString &, ImportSummary &)
-{
-    return false;
-}
-
-bool CDeviceBase::exportDevice(const QString &, const QStringList &, const QString &)
-{
-    return false;
-}
-
-void CDeviceBase::unusedListOperation() {}
-
-QVariantList CDeviceBase::importFailures()
-{
-    return {};
-}
-
-int CDeviceBase::checkLogin(const QString &, const QString &, const QString &)
-{
-    return 0;
-}
-
-QVariantMap CDeviceBase::readDeviceDetail(const QString &)
-{
-    return {};
-}
-
-QVariantList CDeviceBase::exportFaults()
-{
-    return {};
-}
-
-bool CDeviceBase::isInSession(const QString &)
-{
-    return false;
-}
-
-QString CDeviceBase::importError()
-{
-    return {};
-}
 
 namespace {
 
@@ -193,6 +11,13 @@ DeviceStep unsupportedStep()
 {
     return [](const StepControl &) {
         return StepOutcome{.result = resultCode(LoginResult::NotSupported), .text = {}};
+    };
+}
+
+SceneStep emptySceneStep()
+{
+    return [](const StepControl &) {
+        return SceneOutcome();
     };
 }
 
@@ -225,18 +50,6 @@ QJsonObject CDeviceBase::deviceRow(const QString &name)
     return QJsonObject::fromVariantMap(getDeviceDetail(name));
 }
 
-QList<DeviceStep> CDeviceBase::snapshotSteps(const QString &)
-{
-    return {};
-}
-
-void CDeviceBase::setFollowingAccount(const QString &, const QString &) {}
-
-QVariantMap CDeviceBase::accountOf(const QString &)
-{
-    return {};
-}
-
 DeviceStep CDeviceBase::locationStep(const QStringList &)
 {
     return unsupportedStep();
@@ -256,27 +69,18 @@ SceneStep CDeviceBase::loginStep(const QString &, const QString &, const QString
 
 SceneStep CDeviceBase::sessionStep(const SessionJob &)
 {
-    return [](const StepControl &) {
-        return SceneOutcome();
-    };
+    return emptySceneStep();
 }
 
 SceneStep CDeviceBase::detailStep(const QString &)
 {
-    return [](const StepControl &) {
-        return SceneOutcome();
-    };
+    return emptySceneStep();
 }
 
 void CDeviceBase::runForScene(const SceneStep &step, const std::stop_token &,
                               const std::function<void(const SceneOutcome &outcome)> &ended)
 {
-    ended(step(StepControl())); // a family that has no threads does not wait for devices either
-}
-
-ImportPlan CDeviceBase::importPlan(const QString &)
-{
-    return {};
+    ended(step(StepControl())); // the default steps do not block
 }
 
 DeviceStep CDeviceBase::upgradeStep(const QString &)
@@ -291,14 +95,7 @@ DeviceStep CDeviceBase::repeatedDocumentStep(const QString &)
 
 SceneStep CDeviceBase::upgradeDocumentReading(const QString &)
 {
-    return [](const StepControl &) {
-        return SceneOutcome();
-    };
-}
-
-QList<UpgradeDocumentStep> CDeviceBase::upgradeDocumentSteps(const QString &, const QList<int> &)
-{
-    return {};
+    return emptySceneStep();
 }
 
 QList<PlannedUpgrade> CDeviceBase::plannedUpgrades(const QStringList &macs)
@@ -311,11 +108,6 @@ QList<int> CDeviceBase::setUpgradeFiles(const QStringList &macs, const QString &
     return QList<int>(macs.size(), UpgradeTools::NotSupported);
 }
 
-QStringList CDeviceBase::takeChangedUpgrades()
-{
-    return {};
-}
-
 DeviceStep CDeviceBase::pictureStep(const PictureOrder &)
 {
     return unsupportedStep();
@@ -326,4 +118,16 @@ OwnSessionStep CDeviceBase::ownSessionStep(const OwnSessionOrder &)
     return [](const StepControl &) {
         return OwnSessionOffer();
     };
+}
+
+CDeviceBase::LoginCheck CDeviceBase::loginCheck()
+{
+    return [this](const QString &ipport, const QString &account, const QString &password) {
+        return checkLogin(ipport, account, password);
+    };
+}
+
+void CDeviceBase::setP2PPorts(std::shared_ptr<P2PPorts> ports)
+{
+    m_p2pPorts = std::move(ports);
 }

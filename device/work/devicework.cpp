@@ -29,7 +29,7 @@ void DeviceWork::changeFactory(CDeviceFactory *) {}
 void DeviceWork::readDetail(const QString &ipport)
 {
     if (m_deviceFactory)
-        begin(m_deviceFactory->detailStep(dhFamily, ipport));
+        begin(m_deviceFactory->backEnd(dhFamily)->detailStep(ipport));
 }
 
 void DeviceWork::addDevice(const QVariantMap &device)
@@ -37,8 +37,8 @@ void DeviceWork::addDevice(const QVariantMap &device)
     if (!m_deviceFactory)
         return;
     CDeviceFactory *factory = m_deviceFactory; // outlives the threads of its back ends
-    begin([factory,
-           step = m_deviceFactory->addingStep(dhFamily, deviceToAdd(device))](const StepControl &control) {
+    begin([factory, step = m_deviceFactory->backEnd(dhFamily)->addingStep(deviceToAdd(device))](
+              const StepControl &control) {
         const StepOutcome outcome = step(control);
         if (outcome.result == resultCode(LoginResult::Success)) {
             QMetaObject::invokeMethod(factory, &CDeviceFactory::releaseUnneededP2PPorts,
@@ -58,11 +58,11 @@ void DeviceWork::begin(const SceneStep &step)
     m_stop = std::stop_source();
     const int number = ++m_number;
     setRunning(true);
-    m_deviceFactory->runForScene(dhFamily, step, m_stop.get_token(),
-                                 [self = QPointer(this), number](const SceneOutcome &outcome) {
-                                     if (self)
-                                         self->end(number, outcome);
-                                 });
+    m_deviceFactory->backEnd(dhFamily)->runForScene(
+        step, m_stop.get_token(), [self = QPointer(this), number](const SceneOutcome &outcome) {
+            if (self)
+                self->end(number, outcome);
+        });
 }
 
 void DeviceWork::end(int number, const SceneOutcome &outcome)

@@ -31,12 +31,11 @@ void LiveSession::open(const QString &ipport, const QString &account, const QStr
         return;
     m_stop.request_stop();
     m_stop = std::stop_source();
-    const OwnSessionStep step = m_deviceFactory->ownSessionStep(
-        dhFamily, {.ipport = ipport, .account = account, .password = password, .present = m_session});
+    const OwnSessionStep step = m_deviceFactory->backEnd(dhFamily)->ownSessionStep(
+        {.ipport = ipport, .account = account, .password = password, .present = m_session});
     // If the work is dropped, the offer is destroyed and logs out.
     const auto offer = std::make_shared<OwnSessionOffer>();
-    m_deviceFactory->runForScene(
-        dhFamily,
+    m_deviceFactory->backEnd(dhFamily)->runForScene(
         [step, offer](const StepControl &control) {
             *offer = step(control);
             return SceneOutcome();
@@ -53,8 +52,7 @@ void LiveSession::takePicture(int channel, const QString &folder)
     if (!m_deviceFactory || !m_session)
         return;
     const auto picture = std::make_shared<OwnPicture>();
-    m_deviceFactory->runForScene(
-        dhFamily,
+    m_deviceFactory->backEnd(dhFamily)->runForScene(
         [session = m_session, picture, channel, folder](const StepControl &control) {
             *picture = session->takePicture(channel, folder, control);
             return SceneOutcome();

@@ -22,13 +22,13 @@ void SessionWork::noteLogin(int result)
 void SessionWork::beginJob(const SessionJob &job)
 {
     if (deviceFactory())
-        begin(deviceFactory()->sessionStep(dhFamily, job));
+        begin(deviceFactory()->backEnd(dhFamily)->sessionStep(job));
 }
 
 void SessionWork::login(const QString &ipport, const QString &account, const QString &password)
 {
     if (deviceFactory())
-        begin(deviceFactory()->loginStep(dhFamily, ipport, account, password));
+        begin(deviceFactory()->backEnd(dhFamily)->loginStep(ipport, account, password));
 }
 
 void SessionWork::readEncoding()

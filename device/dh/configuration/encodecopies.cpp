@@ -24,8 +24,8 @@ void EncodeCopies::copyTo(const QStringList &devices)
     for (const QString &ipport : devices)
         copies.append(stepFor(ipport));
     for (qsizetype place = 0; place < copies.size(); ++place)
-        m_signals.emitNow(&CDeviceBase::signalCDeviceRetToCopyConfig, devices.at(place),
-                          copies.at(place)(StepControl()).result);
+        m_signals.emitNow<&CDeviceBase::signalCDeviceRetToCopyConfig>(devices.at(place),
+                                                                      copies.at(place)(StepControl()).result);
 }
 
 DeviceStepMaker EncodeCopies::steps()

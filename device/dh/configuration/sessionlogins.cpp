@@ -80,7 +80,7 @@ SceneStep SessionLogins::loginStep(const QString &ipport, const QString &account
         return SceneOutcome{.value = result, .take = [this, ipport, account, password, login, result] {
                                 if (login->result() == LoginResult::Success)
                                     m_session.begin(ipport, account, password, login->take());
-                                m_signals.emitNow(&CDeviceBase::signalCDeviceHighLevelLoginRet, result);
+                                m_signals.emitNow<&CDeviceBase::signalCDeviceHighLevelLoginRet>(result);
                             }};
     };
 }
@@ -137,7 +137,7 @@ void SessionLogins::takeMac(const QString &ipport, const QString &mac)
             row.insert(DeviceRowKey::mac, mac);
     });
     if (isChanged)
-        m_signals.emitNow(&CDeviceBase::signalCDeviceAddSingleDeviceToTable);
+        m_signals.emitNow<&CDeviceBase::signalCDeviceAddSingleDeviceToTable>();
 }
 
 OwnSessionStep SessionLogins::ownSessionStep(const OwnSessionOrder &order)
@@ -189,7 +189,7 @@ void SessionLogins::checkSession()
     m_threads->start([this, handle = m_session.handle()] {
         const bool answers = handle != 0 && answersInSession(ConfigSession(m_libraries, handle));
         m_signals.queue(
-            [this, answers] { m_signals.emitNow(&CDeviceBase::signalCDeviceSessionChecked, answers); });
+            [this, answers] { m_signals.emitNow<&CDeviceBase::signalCDeviceSessionChecked>(answers); });
     });
 }
 
@@ -209,7 +209,7 @@ void SessionLogins::takeOffer(const Request &request, const SessionOrder &order,
     if (offer.login.handle != 0)
         m_session.begin(order.ipport, order.account, order.password, offer.login);
     if (offer.login.handle != 0 || offer.result != LoginResult::Success)
-        m_signals.emitNow(&CDeviceBase::signalCDeviceHighLevelLoginRet, resultCode(offer.result));
-    m_signals.emitNow(&CDeviceBase::signalCDeviceSessionOpened, order.ipport, resultCode(offer.result),
-                      offer.channels);
+        m_signals.emitNow<&CDeviceBase::signalCDeviceHighLevelLoginRet>(resultCode(offer.result));
+    m_signals.emitNow<&CDeviceBase::signalCDeviceSessionOpened>(order.ipport, resultCode(offer.result),
+                                                                offer.channels);
 }

@@ -1,7 +1,6 @@
 #include "device/dh/configuration/sessionrun.h"
 
 #include "device/dh/session/livechannels.h"
-#include "device/registry/devicebase.h"
 #include "device/registry/logging.h"
 #include "device/registry/loginresult.h"
 
@@ -9,14 +8,6 @@
 #include <utility>
 
 namespace {
-
-template<typename Result, typename... Arguments>
-SessionRun::News signalOf(Result (CDeviceBase::*signal)(Arguments...), std::decay_t<Arguments>... arguments)
-{
-    return [signal, arguments...](CDeviceBase &backEnd) {
-        Q_EMIT(backEnd.*signal)(arguments...);
-    };
-}
 
 QVariantList listOf(const QList<bool> &values)
 {
@@ -37,21 +28,16 @@ std::vector<SessionRun::News> SessionRun::takeNews()
     return std::exchange(m_news, {});
 }
 
-void SessionRun::note(const News &news)
-{
-    m_news.push_back(news);
-}
-
 void SessionRun::noteResult(int result)
 {
     m_isDeviceAway = m_isDeviceAway || isSessionLost(static_cast<std::uint32_t>(result));
-    note(signalOf(&CDeviceBase::signalCDeviceGetDeviceCapRet, result));
+    note<&CDeviceBase::signalCDeviceGetDeviceCapRet>(result);
 }
 
 void SessionRun::noteUpgrading()
 {
-    note(signalOf(&CDeviceBase::signalCDeviceConfirmEncodeConfig,
-                  resultName(resultCode(LoginResult::Upgrading)) + u'\n'));
+    note<&CDeviceBase::signalCDeviceConfirmEncodeConfig>(resultName(resultCode(LoginResult::Upgrading)) +
+                                                         u'\n');
 }
 
 void SessionRun::getEncodeCaps()
@@ -65,7 +51,7 @@ void SessionRun::getEncodeCaps()
 void SessionRun::getEncodeInfo()
 {
     const int result = m_state.encode.read(m_state.channels);
-    note(signalOf(&CDeviceBase::signalCDeviceChangeEncodeChannel));
+    note<&CDeviceBase::signalCDeviceChangeEncodeChannel>();
     noteResult(result);
 }
 
@@ -76,7 +62,7 @@ void SessionRun::confirmConfigData()
         return;
     }
     const EncodeConfig::Outcome outcome = m_state.encode.confirm(m_state.channels);
-    note(signalOf(&CDeviceBase::signalCDeviceConfirmEncodeConfig, outcome.notWritten));
+    note<&CDeviceBase::signalCDeviceConfirmEncodeConfig>(outcome.notWritten);
     if (outcome.result != 0)
         noteResult(outcome.result);
 }
@@ -114,7 +100,7 @@ void SessionRun::setConfigData(const QString &key, const QVariant &value, const 
         writeChannelName(value.toString(), otype);
     } else if (key == QLatin1String("channelNamesSaved")) {
         if (m_state.names.endSaving())
-            note(signalOf(&CDeviceBase::signalCDeviceSetChannelNameFinished));
+            note<&CDeviceBase::signalCDeviceSetChannelNameFinished>();
     } else if (EncodeValues::isKey(key)) {
         setEncodeValue(key, value);
     } else {
@@ -131,7 +117,7 @@ void SessionRun::setEncodeValue(const QString &key, const QVariant &value)
     }
     const EncodeConfig::Outcome outcome = m_state.encode.setValue(key, value, m_state.channels);
     if (!outcome.notWritten.isEmpty())
-        note(signalOf(&CDeviceBase::signalCDeviceConfirmEncodeConfig, outcome.notWritten));
+        note<&CDeviceBase::signalCDeviceConfirmEncodeConfig>(outcome.notWritten);
     if (outcome.result != 0)
         noteResult(outcome.result);
 }
@@ -148,7 +134,7 @@ void SessionRun::getCameraConfig()
 void SessionRun::getVideoIn()
 {
     const int result = m_state.camera.readItems(m_state.channels.curVideoChannel);
-    note(signalOf(&CDeviceBase::signalCDeviceChangeVideoType));
+    note<&CDeviceBase::signalCDeviceChangeVideoType>();
     if (result != 0)
         noteResult(result);
 }
@@ -156,7 +142,7 @@ void SessionRun::getVideoIn()
 void SessionRun::getVideoInByChangeChannel()
 {
     const int result = m_state.camera.readItems(m_state.channels.curVideoChannel);
-    note(signalOf(&CDeviceBase::signalCDeviceChangeVideoChannel));
+    note<&CDeviceBase::signalCDeviceChangeVideoChannel>();
     if (result != 0)
         noteResult(result);
 }
@@ -172,7 +158,7 @@ void SessionRun::setCameraValue(const QString &key, const QVariant &value, const
             break;
         case CameraConfig::Outcome::Taken:
             if (key == QLatin1String("curChannelName"))
-                note(signalOf(&CDeviceBase::signalCDeviceSetChannelNameFinished));
+                note<&CDeviceBase::signalCDeviceSetChannelNameFinished>();
             break;
         case CameraConfig::Outcome::Refused:
             failure = m_state.camera.lastError();
@@ -184,7 +170,7 @@ void SessionRun::setCameraValue(const QString &key, const QVariant &value, const
     }
     if (failure == 0)
         return;
-    note(signalOf(&CDeviceBase::signalCDeviceChangeVideoType)); // the page shows the device's values again
+    note<&CDeviceBase::signalCDeviceChangeVideoType>(); // the page shows the device's values again
     noteResult(failure);
 }
 

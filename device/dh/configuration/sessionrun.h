@@ -2,12 +2,11 @@
 #pragma once
 
 #include "device/dh/configuration/sessionstate.h"
+#include "device/registry/backendsignals.h"
 #include "device/registry/scenestep.h"
 
 #include <functional>
 #include <vector>
-
-class CDeviceBase;
 
 /// Executes operations on one SessionState and collects their signals. Any thread, one at a time. Blocks for
 /// the timeouts of the device library.
@@ -31,13 +30,17 @@ public:
     [[nodiscard]] bool isDeviceAway() const override { return m_isDeviceAway; }
 
     /// Emits one signal of a back end with its arguments.
-    using News = std::function<void(CDeviceBase &backEnd)>;
+    using News = BackEndSignals::Emission;
 
     /// Returns and clears the collected signals, in the order of the operations.
     [[nodiscard]] std::vector<News> takeNews();
 
 private:
-    void note(const News &news);
+    template<auto signal, typename... Arguments>
+    void note(const Arguments &...arguments)
+    {
+        m_news.push_back(BackEndSignals::emission<signal>(arguments...));
+    }
     /// Collects signalCDeviceGetDeviceCapRet with this result.
     void noteResult(int result);
     void noteUpgrading();

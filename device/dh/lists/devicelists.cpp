@@ -78,7 +78,7 @@ bool DeviceLists::exportDevices(const QString &folder, const QStringList &macs, 
     return true;
 }
 
-ImportPlan DeviceLists::importPlan(const QString &path, P2PPorts *ports) const
+ImportPlan DeviceLists::importPlan(const QString &path, const std::shared_ptr<P2PPorts> &ports) const
 {
     DeviceListContents contents = readDeviceList(localPath(path));
     const QString refusal =
@@ -90,7 +90,8 @@ ImportPlan DeviceLists::importPlan(const QString &path, P2PPorts *ports) const
                 RowAdding(*m_store, m_libraries, ports), std::move(contents.lines)))};
 }
 
-QString DeviceLists::importDevices(const QString &path, P2PPorts *ports, ImportSummary &summary)
+QString DeviceLists::importDevices(const QString &path, const std::shared_ptr<P2PPorts> &ports,
+                                   ImportSummary &summary)
 {
     summary = {};
     m_importFailures.clear();
@@ -105,10 +106,10 @@ QString DeviceLists::importDevices(const QString &path, P2PPorts *ports, ImportS
             ++summary.errcount;
             m_importFailures.append(importFailure(line.place, outcome));
         }
-        m_signals.emitNow(&CDeviceBase::signalCDeviceImportProgress, summary.total, total);
+        m_signals.emitNow<&CDeviceBase::signalCDeviceImportProgress>(summary.total, total);
     }
     // One signal for all: pages read the complete list on each.
     if (summary.errcount < total)
-        m_signals.emitNow(&CDeviceBase::signalCDeviceAddSingleDeviceToTable);
+        m_signals.emitNow<&CDeviceBase::signalCDeviceAddSingleDeviceToTable>();
     return {};
 }

@@ -31,11 +31,12 @@ public:
 
     /// Reads a list file. Any thread; blocks for the file. `ports` opens local ports to devices behind NAT;
     /// may be null.
-    [[nodiscard]] ImportPlan importPlan(const QString &path, P2PPorts *ports) const;
+    [[nodiscard]] ImportPlan importPlan(const QString &path, const std::shared_ptr<P2PPorts> &ports) const;
 
     /// Logs in to all devices of a list and blocks until that is done. Returns why the list was refused, in
     /// the user's language; empty on success.
-    [[nodiscard]] QString importDevices(const QString &path, P2PPorts *ports, ImportSummary &summary);
+    [[nodiscard]] QString importDevices(const QString &path, const std::shared_ptr<P2PPorts> &ports,
+                                        ImportSummary &summary);
 
     /// Lines of the last importDevices() that failed, see importFailure().
     [[nodiscard]] QVariantList importFailures() const { return m_importFailures; }

@@ -24,8 +24,8 @@ StepOutcome noTunnel(const QString &fault)
 
 } // namespace
 
-RowAdding::RowAdding(DeviceStore &store, sdk::SdkLibraries libraries, P2PPorts *ports)
-    : m_store(store), m_libraries(std::move(libraries)), m_ports(ports)
+RowAdding::RowAdding(DeviceStore &store, sdk::SdkLibraries libraries, std::shared_ptr<P2PPorts> ports)
+    : m_store(store), m_libraries(std::move(libraries)), m_ports(std::move(ports))
 {
 }
 

@@ -5,6 +5,7 @@
 #include "device/registry/deviceimport.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 class DeviceStore;
@@ -19,9 +20,8 @@ public:
     /// no row is stored.
     using Review = std::function<std::optional<StepOutcome>(RowLoginOutcome &login)>;
 
-    /// `store` and `ports` must outlive this object. `ports` opens local ports to devices behind NAT; may be
-    /// null.
-    RowAdding(DeviceStore &store, sdk::SdkLibraries libraries, P2PPorts *ports);
+    /// `store` must outlive this object. `ports` opens local ports to devices behind NAT; may be null.
+    RowAdding(DeviceStore &store, sdk::SdkLibraries libraries, std::shared_ptr<P2PPorts> ports);
 
     [[nodiscard]] DeviceStore &store() const { return m_store; }
 
@@ -43,5 +43,5 @@ private:
 
     DeviceStore &m_store;
     const sdk::SdkLibraries m_libraries;
-    P2PPorts *const m_ports;
+    const std::shared_ptr<P2PPorts> m_ports;
 };

@@ -240,7 +240,7 @@ void PictureOperations::noteSnapshot(const QString &kind, int channel, const QSt
                                      const QString &message)
 {
     if (kind == allChannels)
-        m_signals.emitNow(&CDeviceBase::signalSnapPictureToFile, channel, path, message);
+        m_signals.emitNow<&CDeviceBase::signalSnapPictureToFile>(channel, path, message);
     else
-        m_signals.emitNow(&CDeviceBase::signalSnapPictureToFileAgain, channel, path, message);
+        m_signals.emitNow<&CDeviceBase::signalSnapPictureToFileAgain>(channel, path, message);
 }

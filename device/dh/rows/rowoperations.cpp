@@ -24,12 +24,12 @@ int RowOperations::add(const RowLoginRequest &request)
     const RowLoginOutcome outcome = loginForRow(m_libraries, request);
     if (outcome.result == LoginResult::Success) {
         m_store->putRow(outcome.row, outcome.record);
-        m_signals.emitNow(&CDeviceBase::signalCDeviceAddSingleDeviceToTable);
+        m_signals.emitNow<&CDeviceBase::signalCDeviceAddSingleDeviceToTable>();
     }
     return resultCode(outcome.result);
 }
 
-DeviceStep RowOperations::addingStep(const DeviceToAdd &device, P2PPorts *ports) const
+DeviceStep RowOperations::addingStep(const DeviceToAdd &device, const std::shared_ptr<P2PPorts> &ports) const
 {
     return [adding = RowAdding(*m_store, m_libraries, ports), device](const StepControl &control) {
         return adding.addNew(device, control);
@@ -118,5 +118,5 @@ void RowOperations::remove(const QVariantMap &macs, const QString &ipversion)
         m_store->removeIPv6Rows(deleted);
     else
         m_store->removeRows(deleted);
-    m_signals.emitNow(&CDeviceBase::signalCDeviceAddSingleDeviceToTable);
+    m_signals.emitNow<&CDeviceBase::signalCDeviceAddSingleDeviceToTable>();
 }

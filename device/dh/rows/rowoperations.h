@@ -30,9 +30,9 @@ public:
     /// Logs in to a device and adds its row. Returns a LoginResult. Blocks for the device.
     [[nodiscard]] int add(const RowLoginRequest &request);
 
-    /// See CDeviceBase::addingStep(). `ports` opens local ports to devices behind NAT; it may be null and
-    /// must outlive the step.
-    [[nodiscard]] DeviceStep addingStep(const DeviceToAdd &device, P2PPorts *ports) const;
+    /// See CDeviceBase::addingStep(). `ports` opens local ports to devices behind NAT; may be null.
+    [[nodiscard]] DeviceStep addingStep(const DeviceToAdd &device,
+                                        const std::shared_ptr<P2PPorts> &ports) const;
 
     // Operations of CDeviceBase with similar names (updataDeviceInfo(), getDeviceInfo(), deviceRow(), ...).
 

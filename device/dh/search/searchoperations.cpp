@@ -17,20 +17,16 @@ SearchOperations::SearchOperations(const std::shared_ptr<DeviceStore> &store,
       m_foundLogins(std::make_unique<FoundLogins>(store, libraries)),
       m_search(std::make_unique<DeviceSearch>(store, libraries))
 {
-    backEndSignals.relay(m_search.get(), &DeviceSearch::rowsAdded,
-                         &CDeviceBase::signalCDeviceAddDeviceToTable);
-    backEndSignals.relay(m_search.get(), &DeviceSearch::counted, &CDeviceBase::signalCDeviceSearchCount);
-    backEndSignals.relay(m_search.get(), &DeviceSearch::limited, &CDeviceBase::signalCDeviceSearchLimited);
-    backEndSignals.relay(m_search.get(), &DeviceSearch::progressed,
-                         &CDeviceBase::signalCDeviceSearchProgress);
-    backEndSignals.relay(m_search.get(), &DeviceSearch::done, &CDeviceBase::signalCDeviceSearchDone);
+    const DeviceSearch *const search = m_search.get();
+    backEndSignals.relay<&CDeviceBase::signalCDeviceAddDeviceToTable>(search, &DeviceSearch::rowsAdded);
+    backEndSignals.relay<&CDeviceBase::signalCDeviceSearchCount>(search, &DeviceSearch::counted);
+    backEndSignals.relay<&CDeviceBase::signalCDeviceSearchLimited>(search, &DeviceSearch::limited);
+    backEndSignals.relay<&CDeviceBase::signalCDeviceSearchProgress>(search, &DeviceSearch::progressed);
+    backEndSignals.relay<&CDeviceBase::signalCDeviceSearchDone>(search, &DeviceSearch::done);
     QObject::connect(m_search.get(), &DeviceSearch::rowsAdded, m_foundLogins.get(), &FoundLogins::askNew,
                      Qt::DirectConnection);
-    const auto noteChangedRows = [&backEndSignals] {
-        backEndSignals.noteChangedRows();
-    };
-    backEndSignals.relay(m_foundLogins.get(), &FoundLogins::rowsChanged, noteChangedRows);
-    backEndSignals.relay(m_refresh.get(), &DeviceRefresh::rowsChanged, noteChangedRows);
+    backEndSignals.relayChangedRows(m_foundLogins.get(), &FoundLogins::rowsChanged);
+    backEndSignals.relayChangedRows(m_refresh.get(), &DeviceRefresh::rowsChanged);
 }
 
 SearchOperations::~SearchOperations() = default;

@@ -72,10 +72,10 @@ void SystemOperations::run(const QString &command, const QVariantMap &data, cons
             continue;
         const int result = step(command, data, ipport)(StepControl()).result;
         hasPassed = hasPassed || result == waitsForNewPassword;
-        m_signals.emitNow(&CDeviceBase::signalCDeviceRetToSystemConfig, ipport, result);
+        m_signals.emitNow<&CDeviceBase::signalCDeviceRetToSystemConfig>(ipport, result);
     }
     if (hasPassed)
-        m_signals.emitNow(&CDeviceBase::signalCDeviceSystemConfigEnablePassword);
+        m_signals.emitNow<&CDeviceBase::signalCDeviceSystemConfigEnablePassword>();
 }
 
 DeviceStep SystemOperations::step(const QString &command, const QVariantMap &data, const QString &ipport)

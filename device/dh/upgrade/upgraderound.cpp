@@ -74,7 +74,7 @@ void UpgradeRound::noteSchedule()
         return;
     m_signals.queue([this] {
         m_scheduleNoted = false;
-        m_signals.emitNow(&CDeviceBase::signalCDeviceUpdateSchedule, m_runner->percent());
+        m_signals.emitNow<&CDeviceBase::signalCDeviceUpdateSchedule>(m_runner->percent());
         noteDocuments();
     });
 }
@@ -82,8 +82,8 @@ void UpgradeRound::noteSchedule()
 void UpgradeRound::noteDocuments()
 {
     for (const UpgradeDocuments::Schedule &schedule : m_documents.update())
-        m_signals.emitNow(&CDeviceBase::signalCDeviceUpdateScheduleUpgradeByDocument, schedule.name,
-                          schedule.percent);
+        m_signals.emitNow<&CDeviceBase::signalCDeviceUpdateScheduleUpgradeByDocument>(schedule.name,
+                                                                                      schedule.percent);
 }
 
 void UpgradeRound::noteDocumentsBegun()
@@ -101,7 +101,7 @@ void UpgradeRound::noteEnd()
         return;
     m_isEndHeldBack = m_documents.hasOpen();
     if (!m_isEndHeldBack)
-        m_signals.emitNow(&CDeviceBase::signalCDeviceShowUpgradeFinishTip);
+        m_signals.emitNow<&CDeviceBase::signalCDeviceShowUpgradeFinishTip>();
 }
 
 void UpgradeRound::writeDocument(const std::function<void()> &write, const std::function<void()> &written)

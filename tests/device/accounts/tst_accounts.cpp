@@ -52,7 +52,8 @@ private:
     QString asking(const QString &ipport)
     {
         m_site->requests().clear();
-        const StepOutcome outcome = m_factory->systemStep("dh", "readTime", {}, ipport)(StepControl());
+        const StepOutcome outcome =
+            m_factory->backEnd("dh")->systemStep("readTime", {}, ipport)(StepControl());
         QStringList texts;
         for (const auto &login : m_site->requests().of("NetLoginSecure"))
             texts.append(login.request.value("account").toString());
@@ -102,8 +103,8 @@ private Q_SLOTS:
         m_site->changeDevice(secondMac, [](auto &device, const auto &) { device.address = "192.168.1.77"; });
         start();
         QCOMPARE(asking("192.168.1.77:37777"), "operator 0");
-        QCOMPARE(m_factory
-                     ->addressStep("dh", secondMac, "192.168.1.78", "255.255.255.0", "192.168.1.1",
+        QCOMPARE(m_factory->backEnd("dh")
+                     ->addressStep(secondMac, "192.168.1.78", "255.255.255.0", "192.168.1.1",
                                    false)(StepControl())
                      .result,
                  0);
@@ -160,7 +161,7 @@ private Q_SLOTS:
         // The stored account is outdated: the device has been reset.
         QCOMPARE(m_list->put({}, "Old", "admin", "old-1"), "");
         QCOMPARE(m_list->select({newMac}, "Old"), "");
-        const DeviceStep step = m_factory->initialisationStep("dh", newMac, "admin", "first-1");
+        const DeviceStep step = m_factory->backEnd("dh")->initialisationStep(newMac, "admin", "first-1");
         QCOMPARE(step(StepControl()).result, 0);
         QCOMPARE(asking(fresh), "admin 0"); // immediately, regardless of the storage
         QCOMPARE(m_list->keepNew({newMac}, keeping), "");
@@ -177,8 +178,9 @@ private Q_SLOTS:
     {
         const QVariantMap old = {{"password", "secret1"}};
         const QVariantMap changed = {{"password", "second-2"}};
-        QCOMPARE(m_factory->systemStep("dh", "loginCheck", old, first)(StepControl()).result, -1);
-        QCOMPARE(m_factory->systemStep("dh", "modifyPassword", changed, first)(StepControl()).result, 0);
+        QCOMPARE(m_factory->backEnd("dh")->systemStep("loginCheck", old, first)(StepControl()).result, -1);
+        QCOMPARE(m_factory->backEnd("dh")->systemStep("modifyPassword", changed, first)(StepControl()).result,
+                 0);
         m_factory->systemConfig("dh", "cancelLogin", {}, {});
         QCOMPARE(asking(first), "admin 0");
         const CAuthor author;
@@ -209,7 +211,7 @@ private Q_SLOTS:
     {
         for (int number = 0; number < AccountStore::maximumAccounts; ++number)
             QCOMPARE(m_list->put({}, QString::number(number), "x", "y"), "");
-        const DeviceStep step = m_factory->initialisationStep("dh", newMac, "admin", "first-1");
+        const DeviceStep step = m_factory->backEnd("dh")->initialisationStep(newMac, "admin", "first-1");
         QCOMPARE(step(StepControl()).result, 0);
         QVERIFY(!m_list->keepNew({newMac}, AccountList::ForDevices).isEmpty());
         QCOMPARE(asking(fresh), "admin 0"); // the row still has the password

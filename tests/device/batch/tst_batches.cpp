@@ -123,7 +123,7 @@ private Q_SLOTS:
                                                    {m_devices.at(1).mac, "Hall 2"},
                                                    {m_devices.at(3).mac, "厅 4"}}));
         QVERIFY(!listChanged.isEmpty()); // other pages show the names
-        QCOMPARE(m_site->factory->deviceRow("dh", identityOf(3)).value("name").toString(), "厅 4");
+        QCOMPARE(m_site->factory->backEnd("dh")->deviceRow(identityOf(3)).value("name").toString(), "厅 4");
         QCOMPARE(batch->entries().at(3).outcome.text, "厅 4");
     }
 
@@ -220,7 +220,8 @@ private Q_SLOTS:
         plan.policy.atOnce = 1; // the clock advances while one device is waiting
         plan.policy.deadline = std::chrono::seconds(1);
         plan.stepOf = [this](const BatchDevice &device) {
-            return m_site->factory->systemStep("dh", "videoStandard", {{"videoStandard", 1}}, device.ipport);
+            return m_site->factory->backEnd("dh")->systemStep("videoStandard", {{"videoStandard", 1}},
+                                                              device.ipport);
         };
         Batch *batch = m_batches->start(std::move(plan));
         QTRY_VERIFY(!batch->isRunning());
@@ -434,8 +435,8 @@ private Q_SLOTS:
         m_site->site->requests().clear();
         m_site->stopTime();
         bool isLoggedIn = false;
-        m_site->factory->runForScene(
-            "dh", m_site->factory->loginStep("dh", "192.168.1.1:37777", "admin", "secret1"), {},
+        m_site->factory->backEnd("dh")->runForScene(
+            m_site->factory->backEnd("dh")->loginStep("192.168.1.1:37777", "admin", "secret1"), {},
             [&isLoggedIn](const SceneOutcome &) { isLoggedIn = true; });
         QTRY_VERIFY(!askedMacs("NetLoginSecure").isEmpty()); // the response is delayed
 

@@ -23,7 +23,7 @@ public:
     /// Sets a file for the devices with these indexes and upgrades them.
     Batch *begin(const QList<int> &places)
     {
-        factory->setUpgradeFiles(family, macs(places), file());
+        factory->backEnd(family)->setUpgradeFiles(macs(places), file());
         return upgrades.start("Upgrade", macs(places));
     }
     [[nodiscard]] bool passUntilDone() const
@@ -112,7 +112,7 @@ private Q_SLOTS:
         test.site->setFault(test.mac(2), {Fault::WrongPassword});
         test.site->setFault(test.mac(3), {Fault::UpgradeBusy});
         const auto listed = QList<int>{0, 1, 2, 3, 4, 5};
-        test.factory->setUpgradeFiles(test.family, test.macs(listed), test.file());
+        test.factory->backEnd(test.family)->setUpgradeFiles(test.macs(listed), test.file());
         test.factory->setUpgradeFilePath(test.family, test.mac(4), {});
         test.factory->setUpgradeFilePath(test.family, test.mac(5), test.file("bytes", "C-1_2.9.bin"));
         Batch *batch = test.upgrades.start("Upgrade", test.macs(listed));
@@ -181,9 +181,8 @@ private Q_SLOTS:
         for (int place = 0; place < 6; ++place)
             test.site->setFault(test.mac(place), {Fault::WrongPassword});
         const QList<int> all = {0, 1, 2, 3, 4, 5, 6, 7};
-        test.factory->setUpgradeFiles(test.family, test.macs(all), test.file());
-        test.factory->setUpgradeFilePath(test.family, test.mac(2),
-                                         {}); // does not mean that the password is correct
+        test.factory->backEnd(test.family)->setUpgradeFiles(test.macs(all), test.file());
+        test.factory->setUpgradeFilePath(test.family, test.mac(2), {}); // does not mean that the password is correct
         Batch *batch = test.upgrades.start("Upgrade", test.macs(all));
         QVERIFY(batch);
         QVERIFY(test.passUntil([&] { return batch->isHeld(); }));
@@ -310,7 +309,7 @@ private Q_SLOTS:
         const auto change = [&](int place, QLatin1StringView key, const QJsonValue &value) {
             test.store->changeRow(test.mac(place), [&](QJsonObject &row) { row.insert(key, value); });
         };
-        test.factory->setUpgradeFiles(test.family, test.macs({0, 1, 2, 3, 5}), test.file());
+        test.factory->backEnd(test.family)->setUpgradeFiles(test.macs({0, 1, 2, 3, 5}), test.file());
         test.factory->setUpgradeFilePath(test.family, test.mac(5), test.file("bytes", "C-1_2.9.bin"));
         change(0, DeviceRowKey::vision, "v2.840.1");
         change(1, DeviceRowKey::vision, "v2.900.0");

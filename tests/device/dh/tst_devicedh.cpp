@@ -189,12 +189,13 @@ private Q_SLOTS:
     {
         const QString unknown = "02:1a:c5:ff:ff:ff";
         const int notSupported = 12;
-        QCOMPARE(m_factory->initialisationStep("dh", unknown, "admin", "first-1")(StepControl()).result,
-                 notSupported);
         QCOMPARE(
-            m_factory->addressStep("dh", unknown, "192.168.1.9", "255.255.255.0", "", false)(StepControl())
-                .result,
+            m_factory->backEnd("dh")->initialisationStep(unknown, "admin", "first-1")(StepControl()).result,
             notSupported);
+        QCOMPARE(m_factory->backEnd("dh")
+                     ->addressStep(unknown, "192.168.1.9", "255.255.255.0", "", false)(StepControl())
+                     .result,
+                 notSupported);
     }
 
     void aMovedDeviceIsFoundByItsMac()

@@ -79,7 +79,7 @@ public:
     /// Starts the upgrade of the devices with these indexes.
     void start(const QList<int> &places, const QString &path) const
     {
-        factory->setUpgradeFiles(family, macs(places), path);
+        factory->backEnd(family)->setUpgradeFiles(macs(places), path);
         factory->startUpgrade(family, macs(places));
     }
 

@@ -241,7 +241,7 @@ private Q_SLOTS:
 
         m_site->site->requests().clear();
         const StepOutcome step =
-            m_site->factory->systemStep("dh", "readTime", {}, ipportOf(m_other))(StepControl());
+            m_site->factory->backEnd("dh")->systemStep("readTime", {}, ipportOf(m_other))(StepControl());
         QCOMPARE(step.result, 0); // also used by batches
         m_site->site->requests().clear();
         choose(m_other);

@@ -51,7 +51,7 @@ private:
         order.taken = [&report](int channel, const QString &path, const QString &message) {
             report.taken.append(QStringLiteral("%1 %2").arg(channel).arg(path.isEmpty() ? message : path));
         };
-        const DeviceStep step = factory()->pictureStep("dh", order);
+        const DeviceStep step = factory()->backEnd("dh")->pictureStep(order);
         const std::unique_ptr<QThread> thread(QThread::create([&] { report.outcome = step(StepControl()); }));
         thread->start();
         thread->wait();

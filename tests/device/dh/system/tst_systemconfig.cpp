@@ -183,7 +183,7 @@ private Q_SLOTS:
     void aClockIsReadWithItsDeviation()
     {
         const auto read = [this](const QString &device) {
-            return m_factory->systemStep("dh", "readTime", {}, device)(StepControl());
+            return m_factory->backEnd("dh")->systemStep("readTime", {}, device)(StepControl());
         };
         const QDateTime ahead = QDateTime::currentDateTime().addSecs(3 * 3600 + 90);
         run("setTimeByManual", {{"time", ahead.toString("yyyy-MM-dd HH:mm:ss")}});
