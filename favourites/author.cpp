@@ -19,7 +19,7 @@
 
 namespace {
 
-// The values of a favourite for the scene, in this order.
+// The values of a favourite for QML, in this order.
 constexpr std::array listedKeys = {"type", "addr", "port", "username", "password", "note"};
 
 struct KeyMaterial

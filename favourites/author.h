@@ -4,7 +4,7 @@
 #include <QVariantMap>
 #include <QtQml/qqmlregistration.h>
 
-/// Favourites for the scene: a folder with one JSON file for each saved device, with an encrypted password.
+/// Favourites: a folder with one JSON file for each saved device, with an encrypted password.
 /// The key is part of the application, so the encryption protects against casual reading, not against a user
 /// of the application.
 ///

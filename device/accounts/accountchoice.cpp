@@ -7,11 +7,11 @@
 
 namespace {
 
-/// Some devices report a MAC of zeros, others nothing that is one.
-bool isOwnMac(const QString &mac)
+/// Some devices report a MAC of zeros, others an invalid MAC.
+bool isValidMac(const QString &mac)
 {
     return std::ranges::any_of(
-        mac, [](QChar letter) { return letter.isLetterOrNumber() && letter != QLatin1Char('0'); });
+        mac, [](QChar digit) { return digit.isLetterOrNumber() && digit != QLatin1Char('0'); });
 }
 
 } // namespace
@@ -44,7 +44,7 @@ QStringList accountIdentities(const QJsonObject &row)
 {
     QStringList identities;
     const QString mac = row.value(DeviceRowKey::mac).toString().toLower();
-    if (isOwnMac(mac))
+    if (isValidMac(mac))
         identities.append(mac);
     const QString name = row.value(DeviceRowKey::identity).toString();
     if (name.startsWith(uuidPrefix))

@@ -1,4 +1,4 @@
-// Which account a device is logged in to with.
+// The account for the login to a device.
 #pragma once
 
 #include <QJsonObject>
@@ -16,19 +16,19 @@ struct DeviceAccount
     [[nodiscard]] bool operator==(const DeviceAccount &) const = default;
 };
 
-/// Chooses the account of a device. Whatever logs in to a device by its row asks here: the account that the
-/// row holds goes first, since the user has given it or the device has just taken it; then the one that the
-/// user keeps for the device; then the default. It is one account: others are not tried when the device
-/// refuses it, since each try counts towards the lock of the device.
+/// Chooses the account of a device. All logins to a device by its row use it. The order is: the account in
+/// the row, which the user has entered or the device has just accepted; the stored account of the device; the
+/// default account. If the device refuses the account, no other one is tried, since each attempt counts
+/// towards the lock of the device.
 ///
-/// While the program runs, the user may give an account for all devices that follow. It takes the place of
-/// the default one until another default is set.
+/// The user may enter an account for all following devices. It replaces the default account until another
+/// default is set or the application ends.
 ///
-/// A value. of() may be called on any thread, if the stored accounts may.
+/// A value type. of() may be called on any thread if the Stored function may.
 class AccountChoice
 {
 public:
-    /// The account that is kept for the device that these texts identify.
+    /// Returns the stored account of the device with these accountIdentities().
     using Stored = std::function<std::optional<DeviceAccount>(const QStringList &identities)>;
 
     enum class Source
@@ -42,28 +42,28 @@ public:
     {
         DeviceAccount account;
         Source source = Source::Default;
-        bool isFollowing = false; ///< that for all that follow, in place of the default one
+        bool isFollowing = false; ///< the account for all following devices, see setFollowing()
     };
 
     void setStored(const Stored &stored) { m_stored = stored; }
     void setDefault(const DeviceAccount &account);
     void setFollowing(const DeviceAccount &account) { m_following = account; }
 
-    /// Of a device without an account of its own.
+    /// The account of a device without an account in its row and without a stored one.
     [[nodiscard]] const DeviceAccount &defaultAccount() const
     {
         return m_following ? *m_following : m_default;
     }
 
-    /// What a row lacks of its own account, its name or its password, is that of the next one.
+    /// If the row contains only a user name or only a password, the other one is that of the next account.
     [[nodiscard]] Chosen of(const QJsonObject &row) const;
 
 private:
     Stored m_stored;
     DeviceAccount m_default;
-    std::optional<DeviceAccount> m_following; ///< nothing until the user gives one
+    std::optional<DeviceAccount> m_following; ///< empty before setFollowing()
 };
 
-/// The texts that identify the device of a row in a store of accounts, the surest one first: its MAC and its
-/// UUID, as far as its row tells them. Empty for a device without either.
+/// The strings that identify the device of a row in AccountStore, the most reliable one first: its MAC and
+/// its UUID, as far as the row contains them. Empty for a device without both.
 [[nodiscard]] QStringList accountIdentities(const QJsonObject &row);

@@ -65,7 +65,7 @@ CertificateStore::CertificateStore(const QString &path) : m_path(path)
     read();
 }
 
-void CertificateStore::Agreed::append(const Entry &entry)
+void CertificateStore::Accepted::append(const Entry &entry)
 {
     if (!entry.identity.isEmpty())
         byIdentity.insert(entry.identity, entries.size());
@@ -73,16 +73,16 @@ void CertificateStore::Agreed::append(const Entry &entry)
     entries.append(entry);
 }
 
-const CertificateStore::Entry *CertificateStore::Agreed::find(const RefusedCertificate &shown) const
+const CertificateStore::Entry *CertificateStore::Accepted::find(const RefusedCertificate &shown) const
 {
     const qsizetype atAddress = byAddress.value(whereOf(shown.address, shown.port), -1);
     const qsizetype index = byIdentity.value(shown.identity, atAddress);
     return index < 0 ? nullptr : &entries.at(index);
 }
 
-CertificateStore::Agreed CertificateStore::Agreed::withoutReplaced() const
+CertificateStore::Accepted CertificateStore::Accepted::withoutReplaced() const
 {
-    Agreed left;
+    Accepted left;
     for (qsizetype index = 0; index < entries.size(); ++index) {
         const Entry &entry = entries.at(index);
         if (byIdentity.value(entry.identity, -1) == index ||
@@ -101,8 +101,8 @@ void CertificateStore::read()
     const bool isOpen = file.open(QIODevice::ReadOnly);
     const QByteArray text = isOpen && file.size() <= largest ? file.readAll() : QByteArray();
     const QJsonValue list = QJsonDocument::fromJson(text).object().value(listKey);
-    Agreed agreed;
-    bool isSound = list.isArray();
+    Accepted accepted;
+    bool isValid = list.isArray();
     const QJsonArray objects = list.toArray();
     for (const auto &value : objects) {
         const QJsonObject object = value.toObject();
@@ -110,15 +110,15 @@ void CertificateStore::read()
                              .address = object.value(addressKey).toString(),
                              .port = object.value(portKey).toInt(),
                              .fingerprint = object.value(fingerprintKey).toString()};
-        isSound = isSound && !entry.address.isEmpty() && entry.port > 0 && isFingerprint(entry.fingerprint);
-        agreed.append(entry);
+        isValid = isValid && !entry.address.isEmpty() && entry.port > 0 && isFingerprint(entry.fingerprint);
+        accepted.append(entry);
     }
-    if (isSound) {
-        m_agreed = std::move(agreed);
+    if (isValid) {
+        m_accepted = std::move(accepted);
         return;
     }
     m_problem = tr("证书文件已损坏，其中的证书均不再信任，请重新确认：%1").arg(m_path);
-    qCWarning(logDevice).noquote() << m_path << "holds no certificates that can be read";
+    qCWarning(logDevice).noquote() << m_path << "contains no readable certificates";
 }
 
 QString CertificateStore::problem() const
@@ -144,7 +144,7 @@ sdk::CertificateVerdict CertificateStore::verdictOn(const sdk::DeviceCertificate
     RefusedCertificate shown = shownCertificate(certificate);
     {
         const std::scoped_lock lock(m_mutex);
-        const Entry *entry = m_agreed.find(shown);
+        const Entry *entry = m_accepted.find(shown);
         if (entry && entry->fingerprint == shown.fingerprint)
             return sdk::CertificateVerdict::Trusted;
         if (entry)
@@ -189,27 +189,27 @@ QString CertificateStore::write(const QList<Entry> &entries)
 QString CertificateStore::agree(const QList<RefusedCertificate> &certificates)
 {
     const std::scoped_lock writing(m_writing);
-    Agreed agreed;
+    Accepted accepted;
     {
         const std::scoped_lock lock(m_mutex);
-        agreed = m_agreed;
+        accepted = m_accepted;
     }
     QHash<QString, QString> fingerprints;
     for (const RefusedCertificate &certificate : certificates) {
-        agreed.append({.identity = certificate.identity,
-                       .address = certificate.address,
-                       .port = certificate.port,
-                       .fingerprint = certificate.fingerprint});
+        accepted.append({.identity = certificate.identity,
+                         .address = certificate.address,
+                         .port = certificate.port,
+                         .fingerprint = certificate.fingerprint});
         fingerprints.insert(keyOf(certificate), certificate.fingerprint);
     }
-    agreed = agreed.withoutReplaced();
-    QString failure = write(agreed.entries);
+    accepted = accepted.withoutReplaced();
+    QString failure = write(accepted.entries);
     if (!failure.isEmpty())
         return failure;
     const std::scoped_lock lock(m_mutex);
     m_problem.clear();
-    m_agreed = std::move(agreed);
-    // A device that has shown another key meanwhile waits on.
+    m_accepted = std::move(accepted);
+    // A device that has presented another key meanwhile stays refused.
     m_refused.removeIf([&fingerprints](const RefusedCertificate &shown) {
         return fingerprints.value(keyOf(shown)) == shown.fingerprint;
     });

@@ -1,4 +1,4 @@
-// The keys of devices that the user has agreed to, and the certificates that wait for it.
+// The accepted keys of devices, and the refused certificates.
 #pragma once
 
 #include "sdk/certificateblocks.h"
@@ -14,54 +14,56 @@
 /// A certificate that was refused.
 struct RefusedCertificate
 {
-    QString identity; ///< MAC or UUID of the device; empty if unknown
+    QString identity; ///< MAC or UUID of the device in lower case; empty if unknown
     QString address;
     int port = 0;
     QString fingerprint;
     QString subject;
     QString validFrom; ///< UTC; empty if unreadable
     QString validUntil;
-    QString storedFingerprint; ///< what the user has agreed to before; empty for an unknown device
+    QString storedFingerprint; ///< of the accepted key; empty for an unknown device
 
     [[nodiscard]] bool isChanged() const { return !storedFingerprint.isEmpty(); }
     [[nodiscard]] bool operator==(const RefusedCertificate &) const = default;
 };
 
-/// Decides about the certificates of devices by a file that belongs to the user. A device is known by its
-/// identity, else by its address and port. An agreed key counts for a device with another identity at the
-/// same address as well: what shows another key there is reported as changed.
+/// Decides whether certificates of devices are trusted. The user accepts keys; they are stored in a file. A
+/// device is identified by its identity, or by its address and port if the identity is unknown. An accepted
+/// key is also compared with that of a device with another identity at the same address: a different key is
+/// reported as changed.
 ///
-/// A file that cannot be read makes nothing trusted. It is kept under another name when the user agrees to a
-/// certificate again.
+/// If the file cannot be read, no certificate is trusted. The file is renamed when the user accepts a
+/// certificate.
 ///
-/// Thread-safe. verdictOn() does not wait for the disk.
+/// Thread-safe. verdictOn() does not access the disk.
 class CertificateStore
 {
     Q_DECLARE_TR_FUNCTIONS(CertificateStore)
 public:
     static constexpr qsizetype maximumRefused = 20'000;
 
-    /// Reads the file, which need not exist. Without a path nothing is kept beyond the run.
+    /// Reads the file, which may be missing. Without a path, keys are stored in memory only.
     explicit CertificateStore(const QString &path);
 
-    /// Why nothing is trusted although there is a file, in the user's language; else empty.
+    /// The reason why the file cannot be read, in the user's language; otherwise empty.
     [[nodiscard]] QString problem() const;
 
-    /// A certificate that is not trusted is listed as refused, in place of an earlier one of the device.
+    /// Adds a certificate that is not trusted to refused(). It replaces an earlier one of the device.
     [[nodiscard]] sdk::CertificateVerdict verdictOn(const sdk::DeviceCertificate &certificate);
 
-    /// The same as an sdk::CertificateHandler; `user` is the store.
+    /// verdictOn() as an sdk::CertificateHandler; `user` is the store.
     static sdk::CertificateVerdict handle(const sdk::DeviceCertificate *certificate, void *user);
 
-    /// The certificates that wait for the user, in the order of the first refusals.
+    /// The certificates that the user has not accepted, in the order of their first refusals.
     [[nodiscard]] QList<RefusedCertificate> refused() const;
 
-    /// Stores the keys of these and takes them out of the refused ones. Returns why the file could not be
-    /// written; nothing is trusted then that was not before. Blocks until the disk has the file.
+    /// Accepts the keys of these certificates and removes them from refused(). Returns an empty string, or
+    /// the reason of the failure in the user's language; nothing is accepted then. Blocks until the file is
+    /// written.
     [[nodiscard]] QString agree(const QList<RefusedCertificate> &certificates);
 
-    /// Called after each refusal, on the thread of the request; empty for none. When this has returned, the
-    /// earlier listener does not run any more.
+    /// Sets the function that is called after each refusal, on the thread of the request; empty for none. The
+    /// earlier function is not running any more when this returns.
     void setListener(std::function<void()> listener);
 
 private:
@@ -72,8 +74,8 @@ private:
         int port = 0;
         QString fingerprint;
     };
-    /// The agreed keys in their order. Where several fit, the last one counts.
-    struct Agreed
+    /// The accepted keys in their order. If several match, the last one is used.
+    struct Accepted
     {
         QList<Entry> entries = {};
         QHash<QString, qsizetype> byIdentity = {}; ///< indexes of entries
@@ -81,22 +83,22 @@ private:
 
         void append(const Entry &entry);
         [[nodiscard]] const Entry *find(const RefusedCertificate &shown) const;
-        [[nodiscard]] Agreed withoutReplaced() const;
+        [[nodiscard]] Accepted withoutReplaced() const;
     };
 
     void read();
     [[nodiscard]] QString write(const QList<Entry> &entries);
-    void refuse(const RefusedCertificate &shown); ///< under m_mutex
+    void refuse(const RefusedCertificate &shown); ///< m_mutex must be locked
 
     const QString m_path;
-    std::mutex m_writing; ///< held by agree()
+    std::mutex m_writing; ///< locked during agree()
 
-    mutable std::mutex m_mutex; ///< of what follows
+    mutable std::mutex m_mutex; ///< guards the members below
     QString m_problem;
-    Agreed m_agreed;
+    Accepted m_accepted;
     QList<RefusedCertificate> m_refused;
-    QHash<QString, qsizetype> m_refusedIndexes; ///< in m_refused, by the key of the device
+    QHash<QString, qsizetype> m_refusedIndexes; ///< indexes of m_refused, by identity or address and port
 
-    std::mutex m_listenerMutex; ///< held while the listener runs
+    std::mutex m_listenerMutex; ///< locked while the listener runs
     std::function<void()> m_listener;
 };

@@ -48,9 +48,9 @@ void UpgradePreview::readDocument(const QString &path)
         return;
     m_reading = {};
     m_work = deviceFactory()->busyState()->begin(tr("读取升级文档"), BusyState::Rows);
-    deviceFactory()->backEnd(dhFamily)->runForScene(
+    deviceFactory()->backEnd(dhFamily)->runForPage(
         deviceFactory()->backEnd(dhFamily)->upgradeDocumentReading(path), m_reading.get_token(),
-        [self = QPointer(this), reading = m_reading.get_token()](const SceneOutcome &outcome) {
+        [self = QPointer(this), reading = m_reading.get_token()](const PageOutcome &outcome) {
             if (!self || reading.stop_requested())
                 return;
             if (outcome.take)

@@ -238,7 +238,7 @@ QVariantList CDeviceDH::importUpgradeDocument(const QString &file)
     return m_documentUpgrades->report(file, m_importError);
 }
 
-SceneStep CDeviceDH::upgradeDocumentReading(const QString &path)
+PageStep CDeviceDH::upgradeDocumentReading(const QString &path)
 {
     return m_documentUpgrades->reading(path);
 }
@@ -373,7 +373,7 @@ int CDeviceDH::findAndLoginDevice(const QString &ipport, const QString &account,
     return m_sessionLogins->findAndLogin(ipport, account, password);
 }
 
-SceneStep CDeviceDH::loginStep(const QString &ipport, const QString &account, const QString &password)
+PageStep CDeviceDH::loginStep(const QString &ipport, const QString &account, const QString &password)
 {
     return m_sessionLogins->loginStep(ipport, account, password);
 }
@@ -388,7 +388,7 @@ QVariantMap CDeviceDH::readDeviceDetail(const QString &ipport)
     return m_sessionLogins->readDetail(ipport);
 }
 
-SceneStep CDeviceDH::detailStep(const QString &ipport)
+PageStep CDeviceDH::detailStep(const QString &ipport)
 {
     return m_sessionLogins->detailStep(ipport);
 }
@@ -419,10 +419,10 @@ bool CDeviceDH::isInSession(const QString &ipport)
     return m_session->isWith(ipport);
 }
 
-void CDeviceDH::runForScene(const SceneStep &step, const std::stop_token &stop,
-                            const std::function<void(const SceneOutcome &outcome)> &ended)
+void CDeviceDH::runForPage(const PageStep &step, const std::stop_token &stop,
+                            const std::function<void(const PageOutcome &outcome)> &ended)
 {
-    m_threads->runForScene(step, stop, ended);
+    m_threads->runForPage(step, stop, ended);
 }
 
 void CDeviceDH::getEncodeCaps()
@@ -473,7 +473,7 @@ void CDeviceDH::getVideoInByChangeChannel()
     m_pages->perform([](SessionOperations &operations) { operations.getVideoInByChangeChannel(); });
 }
 
-SceneStep CDeviceDH::sessionStep(const SessionJob &job)
+PageStep CDeviceDH::sessionStep(const SessionJob &job)
 {
     return m_pages->step(job);
 }

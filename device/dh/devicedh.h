@@ -90,11 +90,11 @@ public:
     void stopOpeningSession() override;
     void checkSession() override;
     bool isInSession(const QString &ipport) override;
-    SceneStep loginStep(const QString &ipport, const QString &account, const QString &password) override;
-    SceneStep detailStep(const QString &ipport) override;
+    PageStep loginStep(const QString &ipport, const QString &account, const QString &password) override;
+    PageStep detailStep(const QString &ipport) override;
     OwnSessionStep ownSessionStep(const OwnSessionOrder &order) override;
-    void runForScene(const SceneStep &step, const std::stop_token &stop,
-                     const std::function<void(const SceneOutcome &outcome)> &ended) override;
+    void runForPage(const PageStep &step, const std::stop_token &stop,
+                     const std::function<void(const PageOutcome &outcome)> &ended) override;
 
     // FoundDevices
     void setInitAccount(const QString &mac, const QString &account, const QString &password) override;
@@ -132,7 +132,7 @@ public:
     /// the current session, all of them for 0 or less. Blocks for one request for each name.
     QVariantList getDeviceChannelData(const QString &key, int channelNum) override;
     void confirmConfigData() override;
-    SceneStep sessionStep(const SessionJob &job) override;
+    PageStep sessionStep(const SessionJob &job) override;
     /// Reads capabilities and configurations; getVideoIn() reads the values.
     void getCameraConfig() override;
     void getVideoIn() override;
@@ -155,7 +155,7 @@ public:
     void startUpgrade(const QStringList &macs) override;
     DeviceStep upgradeStep(const QString &mac) override;
     DeviceStep repeatedDocumentStep(const QString &mac) override;
-    SceneStep upgradeDocumentReading(const QString &path) override;
+    PageStep upgradeDocumentReading(const QString &path) override;
     QList<UpgradeDocumentStep> upgradeDocumentSteps(const QString &path, const QList<int> &lines) override;
     QList<PlannedUpgrade> plannedUpgrades(const QStringList &macs) override;
     QList<int> setUpgradeFiles(const QStringList &macs, const QString &path) override;

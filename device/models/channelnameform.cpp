@@ -74,7 +74,7 @@ void ChannelNameForm::takeBack(int row)
 void ChannelNameForm::cut(int row)
 {
     if (row >= 0 && row < m_rows.size())
-        change(row, ByteText::cutTo(m_rows.at(row).name, ByteText::channelNameBytes()).trimmed());
+        change(row, ByteText::truncated(m_rows.at(row).name, ByteText::channelNameBytes()).trimmed());
 }
 
 int ChannelNameForm::firstFaulty() const

@@ -224,7 +224,7 @@ QList<DeviceTableRow> DeviceTableModel::readRows()
                         {.key = m_sortKey,
                          .direction = m_sortOrder,
                          .oddAddresses = m_oddAddressesFirst ? DeviceOrder::OddAddresses::AsZero
-                                                             : DeviceOrder::OddAddresses::Behind});
+                                                             : DeviceOrder::OddAddresses::Last});
     m_conflictCount = static_cast<int>(
         std::count_if(rows.cbegin(), rows.cend(), [](const DeviceTableRow &row) { return row.conflict; }));
     return rows;

@@ -18,7 +18,7 @@ bool isShown(const QJsonObject &row, const DeviceTableFilter &filter)
 {
     const bool isWanted =
         row.value(DeviceRowKey::state).toBool() ? filter.showInitialised : filter.showUninitialised;
-    return isWanted && (filter.searchText.isEmpty() || holdsText(row, filter.searchText) ||
+    return isWanted && (filter.searchText.isEmpty() || containsText(row, filter.searchText) ||
                         row.value(noteKey).toString().contains(filter.searchText, Qt::CaseInsensitive));
 }
 

@@ -42,7 +42,7 @@ struct DeviceTableOrder
 {
     QString key = {}; ///< empty: the order of the list; with `onlyThose`, by reason and then by address
     Qt::SortOrder direction = Qt::AscendingOrder;
-    DeviceOrder::OddAddresses oddAddresses = DeviceOrder::OddAddresses::Behind;
+    DeviceOrder::OddAddresses oddAddresses = DeviceOrder::OddAddresses::Last;
 };
 
 /// The names of all rows of `list`, see rowName().

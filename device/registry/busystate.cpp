@@ -5,7 +5,7 @@
 
 namespace {
 
-bool endsProgram(BusyState::Action action)
+bool endsApplication(BusyState::Action action)
 {
     return action == BusyState::Close || action == BusyState::Restart;
 }
@@ -38,18 +38,18 @@ void BusyState::end(int work)
         Q_EMIT changed();
 }
 
-bool BusyState::areRowsHeld() const
+bool BusyState::areRowsInUse() const
 {
     return std::any_of(m_works.cbegin(), m_works.cend(), [](const Work &work) { return work.need == Rows; });
 }
 
-QStringList BusyState::titlesInTheWayOf(Action action) const
+QStringList BusyState::titlesThatBlock(Action action) const
 {
     QStringList titles;
     for (const Work &work : m_works) {
-        const bool isInTheWay =
-            endsProgram(action) ? work.need != Edits : work.need == Rows && action != ChangeTab;
-        if (isInTheWay && !titles.contains(work.title))
+        const bool blocks =
+            endsApplication(action) ? work.need != Edits : work.need == Rows && action != ChangeTab;
+        if (blocks && !titles.contains(work.title))
             titles.append(work.title);
     }
     return titles;
@@ -57,7 +57,7 @@ QStringList BusyState::titlesInTheWayOf(Action action) const
 
 bool BusyState::losesEdits(Action action) const
 {
-    return (endsProgram(action) || action == ChangeTab) &&
+    return (endsApplication(action) || action == ChangeTab) &&
            std::any_of(m_works.cbegin(), m_works.cend(), [](const Work &work) { return work.need == Edits; });
 }
 
@@ -66,19 +66,19 @@ QString BusyState::refusal(Action action) const
     if (m_isUpgrading && m_isUpgrading()) {
         if (action == Search)
             return tr("当前有设备正在升级中，请勿刷新设备！");
-        if (endsProgram(action))
+        if (endsApplication(action))
             return tr("当前有设备正在升级中，请稍候再关闭");
     }
-    const QStringList inTheWay = titlesInTheWayOf(action);
+    const QStringList blocking = titlesThatBlock(action);
     const bool isSearchOnly = std::all_of(m_works.cbegin(), m_works.cend(), [](const Work &work) {
         return work.need == Listing || work.need == Edits;
     });
-    if (isSearchOnly && !inTheWay.isEmpty())
+    if (isSearchOnly && !blocking.isEmpty())
         return tr("正在搜索，请先停止搜索（Esc）或稍候再关闭");
-    const QString titles = inTheWay.join(tr("”、“"));
+    const QString titles = blocking.join(tr("”、“"));
     if (titles.isEmpty())
         return {};
-    //: Each %1 is the name of a running work, as on the button that begins it.
+    //: %1 is the name of running work, as on the button that starts it.
     switch (action) {
     case Search:
         return tr("“%1”正在进行，请在结束后再搜索设备").arg(titles);

@@ -1,4 +1,4 @@
-// What the program is doing with devices, and which actions have to wait for it.
+// The running work with devices, and the actions that must wait for it.
 #pragma once
 
 #include <QObject>
@@ -8,57 +8,57 @@
 #include <functional>
 #include <vector>
 
-/// The one place that knows which work is running: batches, imports, single requests, searches. Each work is
-/// entered when it begins and removed when it ends; actions that would disturb it ask here first.
+/// The list of running work: batches, imports, single requests, searches. Code that starts work adds it here
+/// and removes it at its end; code that starts an action checks refusal() before.
 ///
-/// Lives on the scene's thread. The scene enters works with BusyReport.
+/// Lives on the main thread. QML adds work with BusyReport.
 class BusyState : public QObject
 {
     Q_OBJECT
 public:
-    /// What a work needs until its end.
+    /// The resource that a work needs until its end.
     enum Need
     {
-        Program, ///< the program must not end
-        Rows,    ///< and the device rows with their addresses and accounts must stay
-        Listing, ///< of a search: the program must not end, unless the user stops the search before
-        Edits,   ///< of input that is not saved: the user is asked before it is lost
+        Program, ///< the application must not end
+        Rows,    ///< like Program; the device rows with their addresses and accounts must also stay
+        Listing, ///< a search: the application must not end before the user has stopped it
+        Edits,   ///< unsaved input: the user is asked before it is lost
     };
     Q_ENUM(Need)
 
-    /// What a work can be in the way of.
+    /// An action that running work can block.
     enum Action
     {
         Search,        ///< removes all rows
         Delete,        ///< removes rows
-        ChangeAddress, ///< of devices that the work may reach by their address
+        ChangeAddress, ///< of devices that the work may access by their address
         Close,
         Restart,
-        ChangeTab, ///< nothing refuses it: works go on in the background, and keep their devices
+        ChangeTab, ///< never refused: work continues in the background
     };
     Q_ENUM(Action)
 
-    /// `isUpgrading` tells whether a device's firmware is being upgraded.
+    /// `isUpgrading` returns whether the firmware of any device is being upgraded.
     explicit BusyState(std::function<bool()> isUpgrading, QObject *parent = nullptr);
 
-    /// Enters a work. `title` is its name for the user. Returns the number, never 0, that ends it.
+    /// Adds a work. `title` is its name for the user. Returns its number for end(), never 0.
     int begin(const QString &title, Need need);
 
-    /// Gives a work another name. Does nothing for a number that is not entered.
+    /// Changes the title of a work. Does nothing for an unknown number.
     void rename(int work, const QString &title);
 
-    /// Removes a work. Does nothing for a number that is not entered.
+    /// Removes a work. Does nothing for an unknown number.
     void end(int work);
 
-    /// Whether a work needs the rows.
-    [[nodiscard]] bool areRowsHeld() const;
+    /// Whether running work needs the rows.
+    [[nodiscard]] bool areRowsInUse() const;
 
-    /// Why an action has to wait, as a sentence for the user that names the works in the way; empty when the
-    /// action may begin. Running upgrades are in the way of Search, Close and Restart. Of Delete and
-    /// ChangeAddress they are not: the back end refuses these for single devices.
+    /// The reason why an action must wait, as a sentence for the user with the titles of the running work;
+    /// empty if the action may start. Running upgrades block Search, Close and Restart. They do not block
+    /// Delete and ChangeAddress: the back end refuses these for the devices concerned.
     Q_INVOKABLE [[nodiscard]] QString refusal(BusyState::Action action) const;
 
-    /// Whether the action, when nothing refuses it, loses input that is not saved: the user is asked first.
+    /// Whether the action discards unsaved input, so that the user must be asked first.
     Q_INVOKABLE [[nodiscard]] bool losesEdits(BusyState::Action action) const;
 
 Q_SIGNALS:
@@ -72,9 +72,9 @@ private:
         Need need = Rows;
     };
 
-    [[nodiscard]] QStringList titlesInTheWayOf(Action action) const;
+    [[nodiscard]] QStringList titlesThatBlock(Action action) const;
 
     const std::function<bool()> m_isUpgrading;
-    std::vector<Work> m_works; ///< in the order in which they began
+    std::vector<Work> m_works; ///< in the order of begin()
     int m_lastNumber = 0;
 };

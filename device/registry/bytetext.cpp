@@ -6,19 +6,18 @@
 
 namespace {
 
-/// Control characters, and marks of line ends and of directions.
-bool isInvisible(QChar letter)
+bool isInvisible(QChar character)
 {
-    const char16_t code = letter.unicode();
-    return letter.category() == QChar::Other_Control || code == 0x061C || code == 0x200E || code == 0x200F ||
-           (code >= 0x2028 && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
+    const char16_t code = character.unicode();
+    return character.category() == QChar::Other_Control || code == 0x061C || code == 0x200E ||
+           code == 0x200F || (code >= 0x2028 && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
 }
 
 } // namespace
 
 int ByteText::channelNameBytes()
 {
-    return static_cast<int>(sdk::ChannelNameItem().name.size()) - 1; // a zero ends it
+    return static_cast<int>(sdk::ChannelNameItem().name.size()) - 1; // without the terminating zero
 }
 
 int ByteText::bytes(const QString &text)
@@ -26,14 +25,14 @@ int ByteText::bytes(const QString &text)
     return static_cast<int>(text.toUtf8().size());
 }
 
-QString ByteText::cutTo(const QString &text, int bytes)
+QString ByteText::truncated(const QString &text, int bytes)
 {
     if (ByteText::bytes(text) <= bytes)
         return text;
-    QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, text);
+    QTextBoundaryFinder graphemes(QTextBoundaryFinder::Grapheme, text);
     qsizetype end = 0;
     qsizetype used = 0;
-    for (qsizetype next = letters.toNextBoundary(); next > 0; next = letters.toNextBoundary()) {
+    for (qsizetype next = graphemes.toNextBoundary(); next > 0; next = graphemes.toNextBoundary()) {
         used += QStringView(text).sliced(end, next - end).toUtf8().size();
         if (used > bytes)
             break;

@@ -3,12 +3,11 @@
 #include <QObject>
 #include <QString>
 
-/// The scene's way to texts that a device keeps in a field of so many bytes: as UTF-8, in which a letter
-/// takes one byte or several.
+/// Strings for fields of a device with a limited number of bytes, in UTF-8. For QML and C++.
 class ByteText : public QObject
 {
     Q_OBJECT
-    /// The most bytes that the name of a channel may have.
+    /// Maximum length of the name of a channel in bytes.
     Q_PROPERTY(int channelNameBytes READ channelNameBytes CONSTANT)
 public:
     explicit ByteText(QObject *parent = nullptr) : QObject(parent) {}
@@ -17,10 +16,9 @@ public:
 
     Q_INVOKABLE [[nodiscard]] static int bytes(const QString &text);
 
-    /// As much of the beginning of `text` as fits into `bytes`, whole letters only: a letter stays together
-    /// with its accents, and a sign with what it is joined to.
-    Q_INVOKABLE [[nodiscard]] static QString cutTo(const QString &text, int bytes);
+    /// The longest prefix of `text` that fits into `bytes` and ends at a grapheme boundary.
+    Q_INVOKABLE [[nodiscard]] static QString truncated(const QString &text, int bytes);
 
-    /// `text` without what is not visible but breaks a line or turns the direction of the letters behind it.
+    /// `text` without invisible characters: control characters, line separators and direction marks.
     [[nodiscard]] static QString withoutInvisible(QString text);
 };

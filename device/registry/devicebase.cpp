@@ -14,10 +14,10 @@ DeviceStep unsupportedStep()
     };
 }
 
-SceneStep emptySceneStep()
+PageStep emptyPageStep()
 {
     return [](const StepControl &) {
-        return SceneOutcome();
+        return PageOutcome();
     };
 }
 
@@ -60,25 +60,25 @@ DeviceStep CDeviceBase::addingStep(const DeviceToAdd &)
     return unsupportedStep();
 }
 
-SceneStep CDeviceBase::loginStep(const QString &, const QString &, const QString &)
+PageStep CDeviceBase::loginStep(const QString &, const QString &, const QString &)
 {
     return [](const StepControl &) {
-        return SceneOutcome{.value = resultCode(LoginResult::NotSupported), .take = {}};
+        return PageOutcome{.value = resultCode(LoginResult::NotSupported), .take = {}};
     };
 }
 
-SceneStep CDeviceBase::sessionStep(const SessionJob &)
+PageStep CDeviceBase::sessionStep(const SessionJob &)
 {
-    return emptySceneStep();
+    return emptyPageStep();
 }
 
-SceneStep CDeviceBase::detailStep(const QString &)
+PageStep CDeviceBase::detailStep(const QString &)
 {
-    return emptySceneStep();
+    return emptyPageStep();
 }
 
-void CDeviceBase::runForScene(const SceneStep &step, const std::stop_token &,
-                              const std::function<void(const SceneOutcome &outcome)> &ended)
+void CDeviceBase::runForPage(const PageStep &step, const std::stop_token &,
+                             const std::function<void(const PageOutcome &outcome)> &ended)
 {
     ended(step(StepControl())); // the default steps do not block
 }
@@ -93,9 +93,9 @@ DeviceStep CDeviceBase::repeatedDocumentStep(const QString &)
     return unsupportedStep();
 }
 
-SceneStep CDeviceBase::upgradeDocumentReading(const QString &)
+PageStep CDeviceBase::upgradeDocumentReading(const QString &)
 {
-    return emptySceneStep();
+    return emptyPageStep();
 }
 
 QList<PlannedUpgrade> CDeviceBase::plannedUpgrades(const QStringList &macs)

@@ -3,7 +3,7 @@
 #include "device/registry/deviceimport.h"
 #include "device/registry/devicepictures.h"
 #include "device/registry/ownsession.h"
-#include "device/registry/scenestep.h"
+#include "device/registry/pagestep.h"
 #include "device/registry/upgradeplan.h"
 
 #include <QObject>
@@ -222,19 +222,19 @@ public:
     // Steps of pages. They are created on the main thread.
 
     /// For findAndLoginDevice(). The value of the outcome is its result.
-    virtual SceneStep loginStep(const QString &ipport, const QString &account, const QString &password);
+    virtual PageStep loginStep(const QString &ipport, const QString &account, const QString &password);
     /// For operations in the session that is current when the step is created. The outcome is discarded if
     /// another session is current when it is taken. Values that are set on the main thread while the step
     /// runs are lost: the page blocks its input.
-    virtual SceneStep sessionStep(const SessionJob &job);
+    virtual PageStep sessionStep(const SessionJob &job);
     /// For readDeviceDetail(). The value of the outcome is its result.
-    virtual SceneStep detailStep(const QString &ipport);
+    virtual PageStep detailStep(const QString &ipport);
 
     /// Runs a step on a thread of the back end and returns immediately. `ended` is called on the main thread
     /// with the outcome, unless `stop` was requested before: the step then runs to its next safe point and
     /// its outcome is dropped. The default runs the step in the call.
-    virtual void runForScene(const SceneStep &step, const std::stop_token &stop,
-                             const std::function<void(const SceneOutcome &outcome)> &ended);
+    virtual void runForPage(const PageStep &step, const std::stop_token &stop,
+                            const std::function<void(const PageOutcome &outcome)> &ended);
 
     // Upgrades. Rows are named by MAC, or by address and port if they have none.
 
@@ -244,7 +244,7 @@ public:
     /// For importUpgradeDocument(). The value is a map of "refusal", the reason why the document cannot be
     /// used in the user's language, and "lines", the result of importUpgradeDocument() with the row of each
     /// line as "device".
-    virtual SceneStep upgradeDocumentReading(const QString &path);
+    virtual PageStep upgradeDocumentReading(const QString &path);
     /// For startUpgradeByDocument(), for the lines with these numbers. The step of a line that cannot be
     /// upgraded returns the reason. Empty for a document that is refused. A document that was read and whose
     /// file is unchanged is not read again.

@@ -1,4 +1,4 @@
-// What is known of a device, as lines to read.
+// The properties of a device as lines for the user.
 #pragma once
 
 #include <QCoreApplication>
@@ -6,7 +6,7 @@
 #include <QString>
 #include <QVariantMap>
 
-/// One line of it, in the user's language.
+/// A line of the detail, in the user's language.
 struct DeviceDetailLine
 {
     QString group;
@@ -20,11 +20,11 @@ class DeviceDetail
 {
     Q_DECLARE_TR_FUNCTIONS(DeviceDetail)
 public:
-    /// The lines of a factory's getDeviceDetail(), with what its readDeviceDetail() adds, by groups. What is
-    /// not known has no line. Passwords have none.
+    /// The lines of the maps of CDeviceFactory::getDeviceDetail() and readDeviceDetail() together, in groups.
+    /// Unknown values and passwords have no line.
     [[nodiscard]] static QList<DeviceDetailLine> linesOf(const QVariantMap &detail);
 
-    /// The same as one text: the heading of a group on a line of its own, its lines below, an empty line
-    /// between two groups.
+    /// The lines as one string: for each group a line with its name, then its lines. An empty line separates
+    /// two groups.
     [[nodiscard]] static QString textOf(const QList<DeviceDetailLine> &lines);
 };

@@ -162,7 +162,7 @@ void CDeviceFactory::exitProgram()
 
 void CDeviceFactory::startSearch(const QString &family)
 {
-    if (m_busyState.areRowsHeld()) {
+    if (m_busyState.areRowsInUse()) {
         qCWarning(logDevice) << "CDeviceFactory: no search, since running work needs the rows";
         Q_EMIT signalSearchDone();
         return;

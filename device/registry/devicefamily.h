@@ -2,5 +2,5 @@
 
 #include <QString>
 
-/// The name of the family of devices that the window works with, as every operation of the factory takes it.
+/// The family of all devices in the window: the first argument of the factory's operations.
 inline const QString dhFamily = QStringLiteral("dh");

@@ -32,18 +32,18 @@ QVariantList filteredRows(const QVariantList &rows, const QString &filtertype, c
     if (filtertype == QLatin1String("removeuninit"))
         return rowsThat(rows, [](const QJsonObject &row) { return row.value(DeviceRowKey::state).toBool(); });
     if (filtertype == QLatin1String("search"))
-        return rowsThat(rows, [&](const QJsonObject &row) { return holdsText(row, searchtext); });
+        return rowsThat(rows, [&](const QJsonObject &row) { return containsText(row, searchtext); });
     if (filtertype == QLatin1String("single") && family == RowFamily::IPv4) {
-        const auto isMeant = [&](const QVariant &row) {
+        const auto hasAddress = [&](const QVariant &row) {
             return row.toJsonObject().value(DeviceRowKey::ipport).toString() == searchtext;
         };
-        const auto single = std::find_if(rows.cbegin(), rows.cend(), isMeant);
+        const auto single = std::find_if(rows.cbegin(), rows.cend(), hasAddress);
         return single == rows.cend() ? QVariantList() : QVariantList{*single};
     }
     return {};
 }
 
-bool holdsText(const QJsonObject &row, const QString &searchtext)
+bool containsText(const QJsonObject &row, const QString &searchtext)
 {
     constexpr std::array searchedKeys = {DeviceRowKey::type, DeviceRowKey::model,  DeviceRowKey::ipport,
                                          DeviceRowKey::mac,  DeviceRowKey::vision, DeviceRowKey::name};

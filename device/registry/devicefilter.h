@@ -1,23 +1,23 @@
-// Filtering of device rows, as filterData and filterDataIPV6 offer it.
+// The filters of filterData() and filterDataIPV6().
 #pragma once
 
 #include <QJsonObject>
 #include <QString>
 #include <QVariantList>
 
-/// Which of the two lists a filter works on: "single" knows IPv4 rows only.
+/// The list that a filter applies to. The filter "single" exists for IPv4 only.
 enum class RowFamily
 {
     IPv4,
     IPv6,
 };
 
-/// The rows that `filtertype` keeps: "nofilter", "removeall", "removeinit" (initialised ones removed),
-/// "removeuninit" (uninitialised ones removed), "search" (those that hold `searchtext`) or "single" (the one
-/// whose "ipport" is `searchtext`). Any other word keeps none.
+/// The rows that pass the filter `filtertype`: "nofilter", "removeall", "removeinit" (without initialised
+/// devices), "removeuninit" (without uninitialised devices), "search" (containsText()) or "single" (the row
+/// whose "ipport" is `searchtext`). No row passes any other filter.
 [[nodiscard]] QVariantList filteredRows(const QVariantList &rows, const QString &filtertype,
                                         const QString &searchtext, RowFamily family);
 
-/// True when `searchtext` is a part of the row's "type", "model", "ipport", "mac", "vision" or "name", in
-/// capital or small letters.
-[[nodiscard]] bool holdsText(const QJsonObject &row, const QString &searchtext);
+/// Whether the "type", "model", "ipport", "mac", "vision" or "name" of the row contains `searchtext`. The
+/// case is ignored.
+[[nodiscard]] bool containsText(const QJsonObject &row, const QString &searchtext);

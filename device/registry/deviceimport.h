@@ -1,4 +1,4 @@
-// Devices that are to be added to the list by logging in to them.
+// Devices to be added to the device list by a login, and device lists to be imported.
 #pragma once
 
 #include "device/registry/devicestep.h"
@@ -11,46 +11,42 @@
 /// A device to log in to.
 struct DeviceToAdd
 {
-    QString address; ///< IPv4 text or the name of a host; or the P2P ID
-    int port = 0;    ///< the device's own
+    QString address; ///< IPv4 address or host name, or the P2P ID
+    int port = 0;    ///< of the device, also behind NAT
     QString account;
     QString password;
     bool p2p = false;
 };
 
-/// The device that a map of the scene describes: "mode" (0 by address, 1 by P2P ID), "address", "port",
-/// "account" and "password".
+/// Reads a map of QML with the keys of DeviceToAddKey.
 [[nodiscard]] DeviceToAdd deviceToAdd(const QVariantMap &values);
 
-/// Where a line of a device list stands and leads, for the user.
+/// A line of a device list, for the user.
 struct ImportPlace
 {
-    int number = 0;  ///< of the line in its file, counted from 1
-    QString address; ///< as the line has it, shortened
+    int number = 0;  ///< line number in the file, from 1
+    QString address; ///< of the line, truncated
 };
 
-/// A line of a device list, and the work of adding its device.
+/// A line of a device list, with the step that adds its device.
 struct ImportLine
 {
     ImportPlace place;
-    QString device; ///< the same for lines of one device: the name of its row, or its address and port
-    QString title;  ///< its name and model, as the line has them
-    QString login;  ///< tells apart the accounts of lines
+    QString device; ///< name of the row of the device, or its address and port; equal for the same device
+    QString title;  ///< name and model in the line
+    QString login;  ///< equal for lines with the same account
     DeviceStep step;
 };
 
-/// What is to be done to import a list.
+/// The steps of importing a list.
 struct ImportPlan
 {
-    QString
-        refusal; ///< why the list cannot be imported as a whole, in the user's language; empty when it can
+    QString refusal; ///< why the list is refused, in the user's language; otherwise empty
     std::vector<ImportLine> lines;
 };
 
-/// The outcome of a line that nothing was asked for, since it says nothing that could be asked. Its text says
-/// why.
+/// The result of a line with invalid values. No request was sent. The text of the outcome is the reason.
 inline constexpr int unusableLine = 997;
 
-/// Why a line brought no device: "line" (its number), "address", "code" (a LoginResult; Unknown when nothing
-/// was asked of the device) and "reason" (in the user's language).
+/// A failed line as a map with the keys of ListLineKey. The code of an unusable line is LoginResult::Unknown.
 [[nodiscard]] QVariantMap importFailure(const ImportPlace &place, const StepOutcome &outcome);

@@ -19,13 +19,13 @@ const QString notesKey = QStringLiteral("notes");
 const QString deviceKey = QStringLiteral("device");
 const QString textKey = QStringLiteral("text");
 
-/// MACs are written in several ways, also by one device.
+/// Devices report MACs in several notations.
 QString macIdentity(const QString &mac)
 {
     return mac.toLower().replace(QLatin1Char('-'), QLatin1Char(':'));
 }
 
-/// Identities of the device of a row, the best one first: a device may report its MAC only later.
+/// Identities of the device of a row, the most reliable one first. A device may report its MAC only later.
 QStringList identitiesOf(const QString &mac, const QString &name)
 {
     QStringList identities;
@@ -61,7 +61,7 @@ DeviceNotes::DeviceNotes(QString path, QObject *parent) : QObject(parent), m_pat
 
 void DeviceNotes::read()
 {
-    m_state = State::Sound;
+    m_state = State::Valid;
     m_problem.clear();
     m_notes.clear();
     QFile file(m_path);
@@ -76,21 +76,21 @@ void DeviceNotes::read()
     const QByteArray text = file.read(largestFile + 1);
     const QJsonValue list =
         QJsonDocument::fromJson(text.size() > largestFile ? QByteArray() : text).object().value(notesKey);
-    bool isSound = list.isArray();
+    bool isValid = list.isArray();
     const QJsonArray objects = list.toArray();
     for (const auto &value : objects) {
         const QJsonObject object = value.toObject();
         const QString device = object.value(deviceKey).toString();
         const QString note = object.value(textKey).toString();
-        isSound = isSound && !device.isEmpty() && !note.isEmpty();
+        isValid = isValid && !device.isEmpty() && !note.isEmpty();
         if (!device.isEmpty() && !note.isEmpty() && m_notes.size() < mostNotes)
             m_notes.insert(device, note.simplified());
     }
-    if (isSound)
+    if (isValid)
         return;
     m_state = State::Damaged;
     m_problem = tr("备注文件 %1 已损坏，部分备注可能丢失。下次保存备注时，该文件会改名保留。").arg(m_path);
-    qCWarning(logDevice).noquote() << m_path << "holds something else than notes";
+    qCWarning(logDevice).noquote() << m_path << "contains invalid notes";
 }
 
 QString DeviceNotes::noteOf(const QJsonObject &row) const
@@ -123,7 +123,7 @@ QString DeviceNotes::setNote(const QVariantMap &row, const QString &note)
     if (text.size() > longestNote() && text.size() > before.size())
         return tr("备注最多 %1 个字符").arg(longestNote());
     if (m_state == State::Unopened)
-        read(); // it may be there again
+        read(); // the file may be readable now
     if (m_state == State::Unopened)
         return m_problem;
 
@@ -140,7 +140,7 @@ QString DeviceNotes::setNote(const QVariantMap &row, const QString &note)
         qCWarning(logDevice).noquote() << "cannot write" << m_path << "-" << failure;
         return tr("备注无法保存：%1").arg(failure);
     }
-    m_state = State::Sound;
+    m_state = State::Valid;
     m_problem.clear();
     m_notes = std::move(notes);
     Q_EMIT changed();

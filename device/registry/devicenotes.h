@@ -8,15 +8,15 @@
 
 class QJsonObject;
 
-/// Text: the note about the device of a row. Rows in tables have it, those of the list do not.
+/// String: the note of the user about the device. Rows of tables have this key, rows of DeviceStore do not.
 inline constexpr QLatin1StringView noteKey("note");
 
-/// A line of text for each device that the user has written one for. A device is known by its MAC, else by
-/// its UUID, so that a note is there again after each search and each change of the address; one that reports
-/// neither has no note.
+/// A line of text for each device that the user has annotated. A device is identified by its MAC, or by its
+/// UUID if it has not reported a MAC. Its note therefore survives searches and changes of the address. A
+/// device that reports neither has no note.
 ///
-/// The notes are in a file of the user. A file that cannot be opened is not written either; a damaged one is
-/// kept under another name when a note is written. Lives on the scene's thread.
+/// The notes are stored in a file. A file that cannot be opened is not written. A damaged file is renamed
+/// when a note is written. Lives on the main thread.
 class DeviceNotes : public QObject
 {
     Q_OBJECT
@@ -26,25 +26,25 @@ public:
     static constexpr qsizetype mostNotes = 20'000;
     static constexpr qint64 largestFile = 64LL * 1024 * 1024;
 
-    /// Reads the file, which need not exist.
+    /// Reads the file, which may be missing.
     explicit DeviceNotes(QString path, QObject *parent = nullptr);
 
-    /// Why notes are missing although there is a file, in the user's language; else empty.
+    /// The reason why the file cannot be read completely, in the user's language; otherwise empty.
     [[nodiscard]] QString problem() const { return m_problem; }
 
-    [[nodiscard]] static int longestNote() { return 200; } ///< letters that a new note may have
+    [[nodiscard]] static int longestNote() { return 200; } ///< characters of a new note
     [[nodiscard]] qsizetype count() const { return m_notes.size(); }
 
-    /// The note of the device of a row; empty when there is none.
+    /// The note of the device of a row; empty for none.
     [[nodiscard]] QString noteOf(const QJsonObject &row) const;
 
-    // For rows as the tables' get() returns them.
+    // For rows from get() of the table models.
     Q_INVOKABLE [[nodiscard]] QString noteOf(const QVariantMap &row) const;
     Q_INVOKABLE [[nodiscard]] bool canNote(const QVariantMap &row) const;
 
-    /// Stores the note of the device of a row; an empty one removes it. Line breaks become blanks. Returns
-    /// why it could not be stored, in the user's language; the earlier note stays then. Blocks until the disk
-    /// has the file.
+    /// Stores the note of the device of a row; an empty note removes it. Line breaks become spaces. Returns
+    /// an empty string, or the reason of the failure in the user's language; the earlier note is kept then.
+    /// Blocks until the file is written.
     Q_INVOKABLE [[nodiscard]] QString setNote(const QVariantMap &row, const QString &note);
 
 Q_SIGNALS:
@@ -53,7 +53,7 @@ Q_SIGNALS:
 private:
     enum class State
     {
-        Sound,
+        Valid,
         Unopened,
         Damaged,
     };
@@ -62,7 +62,7 @@ private:
     [[nodiscard]] QString write(const QHash<QString, QString> &notes) const;
 
     const QString m_path;
-    State m_state = State::Sound;
+    State m_state = State::Valid;
     QString m_problem;
     QHash<QString, QString> m_notes; ///< by identity
 };

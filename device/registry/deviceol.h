@@ -2,7 +2,7 @@
 
 #include "device/registry/devicebase.h"
 
-/// A family that is declared and does nothing yet.
+/// A family without operations.
 class CDeviceOL : public CDeviceBase
 {
     Q_OBJECT

@@ -25,7 +25,7 @@ void appendNumber(QByteArray &bytes, std::uint32_t number, int size)
         bytes.append(static_cast<char>(number >> shift));
 }
 
-/// Where a group stands: ordinary types first, then these two.
+/// Rank of a group of devices: other types first, then these two.
 int groupRank(const QString &type)
 {
     if (type == otherDeviceType())
@@ -38,38 +38,38 @@ QByteArray macBytes(const QString &mac)
 {
     constexpr qsizetype digits = 12;
     const QByteArray text = mac.toLatin1().replace(':', "").replace('-', "");
-    const bool isMac = text.size() == digits && std::all_of(text.cbegin(), text.cend(), [](char letter) {
-                           return std::isxdigit(static_cast<unsigned char>(letter));
+    const bool isMac = text.size() == digits && std::all_of(text.cbegin(), text.cend(), [](char digit) {
+                           return std::isxdigit(static_cast<unsigned char>(digit));
                        });
     return isMac ? QByteArray::fromHex(text) : QByteArray();
 }
 
-bool isDigit(QChar letter)
+bool isDigit(QChar character)
 {
-    return letter >= QLatin1Char('0') && letter <= QLatin1Char('9');
+    return character >= QLatin1Char('0') && character <= QLatin1Char('9');
 }
 
-/// The numbers and words of a version as bytes that order it; what separates them has no weight.
+/// The numbers and words of a version as bytes in the order of versions. Separators are ignored.
 QByteArray versionBytes(const QString &version)
 {
-    constexpr char numberAhead = 1;
-    constexpr char wordAhead = 2;
+    constexpr char numberMark = 1;
+    constexpr char wordMark = 2;
     constexpr char wordEnd = 0;
     QByteArray bytes;
     const QString text = version.startsWith(QLatin1Char('v'), Qt::CaseInsensitive) ? version.mid(1) : version;
-    for (qsizetype place = 0; place < text.size();) {
-        const bool isNumber = isDigit(text.at(place));
-        qsizetype end = place;
+    for (qsizetype position = 0; position < text.size();) {
+        const bool isNumber = isDigit(text.at(position));
+        qsizetype end = position;
         while (end < text.size() && text.at(end).isLetterOrNumber() && isDigit(text.at(end)) == isNumber)
             ++end;
-        QByteArray part = text.mid(place, end - place).toLower().toUtf8();
-        place = std::max(end, place + 1);
+        QByteArray part = text.mid(position, end - position).toLower().toUtf8();
+        position = std::max(end, position + 1);
         if (isNumber) {
             while (part.startsWith('0'))
                 part.remove(0, 1);
-            bytes.append(numberAhead).append(static_cast<char>(part.size())).append(part);
+            bytes.append(numberMark).append(static_cast<char>(part.size())).append(part);
         } else if (!part.isEmpty()) {
-            bytes.append(wordAhead).append(part).append(wordEnd);
+            bytes.append(wordMark).append(part).append(wordEnd);
         }
     }
     return bytes;
@@ -79,7 +79,7 @@ QByteArray versionBytes(const QString &version)
 
 DeviceOrder::DeviceOrder(QString key, OddAddresses oddAddresses)
     : m_key(std::move(key)), m_oddAddresses(oddAddresses),
-      // The "C" language knows no numbers in texts.
+      // The locale "C" does not support the numeric mode.
       m_collator(QLocale().language() == QLocale::C ? QLocale(QLocale::English) : QLocale())
 {
     m_collator.setNumericMode(true);
@@ -96,7 +96,7 @@ DeviceOrder::SortKey DeviceOrder::sortKey(const QJsonObject &row) const
     } else if (value.isDouble()) {
         key.number = value.toDouble();
     } else if (m_key == DeviceRowKey::ipport) {
-        placeAddress(key, text);
+        setAddress(key, text);
     } else if (m_key == DeviceRowKey::mac) {
         key.bytes = macBytes(text);
         key.group = key.bytes.isEmpty() ? UnreadableGroup : FirstGroup;
@@ -106,7 +106,7 @@ DeviceOrder::SortKey DeviceOrder::sortKey(const QJsonObject &row) const
     return key;
 }
 
-void DeviceOrder::placeAddress(SortKey &key, const QString &ipport) const
+void DeviceOrder::setAddress(SortKey &key, const QString &ipport) const
 {
     const qsizetype colon = std::max<qsizetype>(ipport.lastIndexOf(QLatin1Char(':')), 0);
     const QStringView address = QStringView(ipport).left(colon);

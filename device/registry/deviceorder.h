@@ -8,43 +8,43 @@
 #include <QVariantList>
 
 /// Compares rows by one key: "ipport" by the bytes of the address and then the port, IPv4 before IPv6; "mac"
-/// by its bytes; "vision" by its numbers in their order; other texts by the user's language, with numbers
-/// inside them by value; numbers and flags by value.
+/// by its bytes; "vision" by its numbers; other strings by the rules of the user's language, with numbers in
+/// them by value; numbers and booleans by value.
 class DeviceOrder
 {
 public:
-    /// Where rows stand whose "ipport" is no IPv4 address.
+    /// The position of rows whose "ipport" is not an IPv4 address.
     enum class OddAddresses
     {
-        Behind,
-        AsZero,
+        Last,
+        AsZero, ///< as 0.0.0.0
     };
 
-    explicit DeviceOrder(QString key, OddAddresses oddAddresses = OddAddresses::Behind);
+    explicit DeviceOrder(QString key, OddAddresses oddAddresses = OddAddresses::Last);
 
-    /// Position of a row in the order, made once for each row before sorting. Parts are compared in their
+    /// The sort key of a row, computed once for each row before sorting. The members are compared in their
     /// order.
     struct SortKey
     {
-        int group = 0; ///< 0 unless values of the column are of several kinds
+        int group = 0; ///< 0 unless the column has several kinds of values
         double number = 0;
         QByteArray bytes = {}; ///< compared byte by byte
         QCollatorSortKey text;
     };
     [[nodiscard]] SortKey sortKey(const QJsonObject &row) const;
 
-    /// Negative, zero or positive, as `left` stands before, beside or behind `right`.
+    /// Negative if `left` is before `right`, 0 if both are equal, positive if `left` is after `right`.
     [[nodiscard]] static int compare(const SortKey &left, const SortKey &right);
 
-    /// Rows (JSON objects) in this order; equal ones keep theirs.
+    /// The rows (JSON objects) in this order. The sort is stable.
     [[nodiscard]] QVariantList ordered(const QVariantList &rows) const;
 
-    /// Whether a group of devices of the type `left` stands before one of `right`: by the alphabet, with
-    /// "PC-NVR" and then "Other" at the end, since they are no device hardware.
+    /// Whether a group of devices of the type `left` is before one of `right`: alphabetically, with "PC-NVR"
+    /// and then "Other" at the end, since they are not device hardware.
     [[nodiscard]] static bool isGroupBefore(const QString &left, const QString &right);
 
 private:
-    void placeAddress(SortKey &key, const QString &ipport) const;
+    void setAddress(SortKey &key, const QString &ipport) const;
 
     const QString m_key;
     const OddAddresses m_oddAddresses;

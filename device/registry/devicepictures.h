@@ -1,4 +1,4 @@
-// Pictures of the channels of one device, for an overview of many devices.
+// Images of the channels of one device, for the gallery.
 #pragma once
 
 #include <QString>
@@ -6,20 +6,21 @@
 
 #include <functional>
 
-/// What to take of a device. The functions are called on the thread of the step; they may be empty.
+/// The images to take of a device. The functions are called on the thread of the step. They may be empty.
 struct PictureOrder
 {
-    /// How many channels of a device are taken at the most.
+    /// Maximum number of channels of a device.
     static constexpr int maximumChannels = 16;
 
     QString ipport;
-    QString folder;       ///< absolute, for "<channel>.jpg"; it is made when it is missing
-    int onlyChannel = -1; ///< from 0; below 0 for all of them, from the first one on
+    QString folder;       ///< absolute, for the files "<channel>.jpg"; created if missing
+    int onlyChannel = -1; ///< from 0; negative for all channels up to maximumChannels
 
-    /// The channels that are going to be taken, as maps of "channel" (from 0), "name" and "connected", and
-    /// how many the device has. Not called for a single one.
+    /// Called before the first image with the channels, maps with the keys of ChannelKey, and with the number
+    /// of channels of the device. Not called for a single channel.
     std::function<void(const QVariantList &channels, int channelCount)> found = {};
 
-    /// `path` of the file is empty on failure, `message` says why in the user's language.
+    /// Called after each image. `path` of the file is empty on failure; `message` is the reason then, in the
+    /// user's language.
     std::function<void(int channel, const QString &path, const QString &message)> taken = {};
 };

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Writes what rows of both lists take from an answer.
+/// Writes the values of a response that rows of both lists contain.
 void fillIn(QJsonObject &row, const sdk::SearchAnswer &answer)
 {
     const sdk::SearchDeviceInformation &device = answer.device;
@@ -25,9 +25,9 @@ void fillIn(QJsonObject &row, const sdk::SearchAnswer &answer)
 QString fieldText(std::string_view bytes)
 {
     QString text = QString::fromLocal8Bit(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
-    for (QChar &letter : text) {
-        if (letter.category() == QChar::Other_Control)
-            letter = QLatin1Char(' ');
+    for (QChar &character : text) {
+        if (character.category() == QChar::Other_Control)
+            character = QLatin1Char(' ');
     }
     return text;
 }
@@ -104,9 +104,9 @@ QString rowAddress(const QJsonObject &row)
 
 QJsonObject ipv4Row(const sdk::SearchAnswer &answer)
 {
-    // A copy of what every new row holds, filled in: less than half the cost of seventeen insertions. What
-    // every answer fills in begins as null: even an empty text would leave bytes behind when it is replaced,
-    // with which most rows would outgrow 512 bytes and take twice as many.
+    // Copying a prepared row costs less than half of seventeen insertions. Values that each response replaces
+    // are null in it: even an empty string would leave unused bytes in the row, most rows would exceed 512
+    // bytes, and their buffers would be twice as large.
     static const QJsonObject newRow = {
         {DeviceRowKey::checked, false},       {DeviceRowKey::num, QString()},
         {DeviceRowKey::state, false},         {DeviceRowKey::name, QJsonValue()},

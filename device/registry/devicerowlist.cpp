@@ -7,87 +7,88 @@
 
 void DeviceRowList::append(const QString &name, const QJsonObject &row)
 {
-    const qsizetype place = m_placeOfFront + m_rows.size();
-    m_places.insert(name, place);
+    const qsizetype position = m_firstPosition + m_rows.size();
+    m_positions.insert(name, position);
     m_rows.append(row);
     m_names.append(name);
-    addAddress(row, place);
+    addAddress(row, position);
 }
 
 void DeviceRowList::prepend(const QString &name, const QJsonObject &row)
 {
-    m_places.insert(name, --m_placeOfFront);
+    m_positions.insert(name, --m_firstPosition);
     m_rows.prepend(row);
     m_names.prepend(name);
-    addAddress(row, m_placeOfFront);
+    addAddress(row, m_firstPosition);
 }
 
 QJsonObject DeviceRowList::row(const QString &name) const
 {
-    const auto place = m_places.constFind(name);
-    return place == m_places.cend() ? QJsonObject() : m_rows.at(*place - m_placeOfFront).toJsonObject();
+    const auto position = m_positions.constFind(name);
+    return position == m_positions.cend() ? QJsonObject()
+                                          : m_rows.at(*position - m_firstPosition).toJsonObject();
 }
 
 std::optional<QString> DeviceRowList::nameAt(const QString &ipport) const
 {
-    const auto places = m_placesByAddress.constFind(ipport);
-    if (places == m_placesByAddress.cend())
+    const auto positions = m_positionsByAddress.constFind(ipport);
+    if (positions == m_positionsByAddress.cend())
         return std::nullopt;
-    const auto isFound = [this](qsizetype place) {
-        const QJsonObject row = m_rows.at(place - m_placeOfFront).toJsonObject();
+    const auto isFound = [this](qsizetype position) {
+        const QJsonObject row = m_rows.at(position - m_firstPosition).toJsonObject();
         return !row.value(DeviceRowKey::lost).toBool();
     };
-    const auto found =
-        places->size() == 1 ? places->cbegin() : std::find_if(places->cbegin(), places->cend(), isFound);
-    return m_names.at((found == places->cend() ? places->first() : *found) - m_placeOfFront);
+    const auto found = positions->size() == 1 ? positions->cbegin()
+                                              : std::find_if(positions->cbegin(), positions->cend(), isFound);
+    return m_names.at((found == positions->cend() ? positions->first() : *found) - m_firstPosition);
 }
 
 QStringList DeviceRowList::namesAt(const QString &ipport) const
 {
     QStringList names;
-    const QList<qsizetype> places = m_placesByAddress.value(ipport);
-    for (const qsizetype place : places)
-        names.append(m_names.at(place - m_placeOfFront));
+    const QList<qsizetype> positions = m_positionsByAddress.value(ipport);
+    for (const qsizetype position : positions)
+        names.append(m_names.at(position - m_firstPosition));
     return names;
 }
 
 void DeviceRowList::replace(const QString &name, QJsonObject row)
 {
-    // Work that began before goes on to name the row as it was.
+    // Running work uses the old name.
     if (rowName(row) != name)
         row.insert(DeviceRowKey::identity, name);
-    const qsizetype place = m_places.value(name);
-    QVariant &stored = m_rows[place - m_placeOfFront];
+    const qsizetype position = m_positions.value(name);
+    QVariant &stored = m_rows[position - m_firstPosition];
     const QJsonObject before = stored.toJsonObject();
     stored = row;
     if (before.value(DeviceRowKey::ipport) == row.value(DeviceRowKey::ipport))
         return;
-    removeAddress(before, place);
-    addAddress(row, place);
+    removeAddress(before, position);
+    addAddress(row, position);
 }
 
 void DeviceRowList::remove(const QSet<QString> &names)
 {
     DeviceRowList kept;
-    for (qsizetype place = 0; place < m_rows.size(); ++place) {
-        if (!names.contains(m_names.at(place)))
-            kept.append(m_names.at(place), m_rows.at(place).toJsonObject());
+    for (qsizetype position = 0; position < m_rows.size(); ++position) {
+        if (!names.contains(m_names.at(position)))
+            kept.append(m_names.at(position), m_rows.at(position).toJsonObject());
     }
     if (kept.m_rows.size() < m_rows.size())
         *this = std::move(kept);
 }
 
-void DeviceRowList::addAddress(const QJsonObject &row, qsizetype place)
+void DeviceRowList::addAddress(const QJsonObject &row, qsizetype position)
 {
-    QList<qsizetype> &places = m_placesByAddress[row.value(DeviceRowKey::ipport).toString()];
-    places.insert(std::lower_bound(places.cbegin(), places.cend(), place), place);
+    QList<qsizetype> &positions = m_positionsByAddress[row.value(DeviceRowKey::ipport).toString()];
+    positions.insert(std::lower_bound(positions.cbegin(), positions.cend(), position), position);
 }
 
-void DeviceRowList::removeAddress(const QJsonObject &row, qsizetype place)
+void DeviceRowList::removeAddress(const QJsonObject &row, qsizetype position)
 {
     const QString ipport = row.value(DeviceRowKey::ipport).toString();
-    QList<qsizetype> &places = m_placesByAddress[ipport];
-    places.erase(std::lower_bound(places.cbegin(), places.cend(), place));
-    if (places.isEmpty())
-        m_placesByAddress.remove(ipport);
+    QList<qsizetype> &positions = m_positionsByAddress[ipport];
+    positions.erase(std::lower_bound(positions.cbegin(), positions.cend(), position));
+    if (positions.isEmpty())
+        m_positionsByAddress.remove(ipport);
 }

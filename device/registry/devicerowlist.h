@@ -8,43 +8,43 @@
 
 #include <optional>
 
-/// An ordered list of rows, indexed by the name of a row and by its "ipport". Not thread-safe: its owner
-/// locks.
+/// An ordered list of rows, indexed by the name of a row (see rowName()) and by its "ipport". Not
+/// thread-safe: the owner, DeviceStore, holds a lock.
 class DeviceRowList
 {
 public:
     [[nodiscard]] const QVariantList &rows() const { return m_rows; }
-    [[nodiscard]] bool contains(const QString &name) const { return m_places.contains(name); }
+    [[nodiscard]] bool contains(const QString &name) const { return m_positions.contains(name); }
 
     void append(const QString &name, const QJsonObject &row);
     void prepend(const QString &name, const QJsonObject &row);
 
-    /// The row, empty when there is none. Constant time.
+    /// The row of this name; empty if there is none. Constant time.
     [[nodiscard]] QJsonObject row(const QString &name) const;
 
-    /// Name of the first row with this "ipport", of a lost one only if there is no other. Constant time,
-    /// unless many rows share the address.
+    /// Name of the first row with this "ipport" that is not lost, otherwise of the first lost one. Constant
+    /// time unless many rows share the address.
     [[nodiscard]] std::optional<QString> nameAt(const QString &ipport) const;
 
     /// Names of the rows with this "ipport", in their order.
     [[nodiscard]] QStringList namesAt(const QString &ipport) const;
 
-    /// Puts a row in the place of the one of this name, which must exist and which the row keeps. Constant
-    /// time, unless many rows share the address that it had or gets.
+    /// Replaces the row of this name, which must exist. The new row keeps the name and the position. Constant
+    /// time unless many rows share the old or the new address.
     void replace(const QString &name, QJsonObject row);
 
-    /// Removes rows, in one pass however many.
+    /// Removes rows in one pass.
     void remove(const QSet<QString> &names);
 
 private:
-    void addAddress(const QJsonObject &row, qsizetype place);
-    void removeAddress(const QJsonObject &row, qsizetype place);
+    void addAddress(const QJsonObject &row, qsizetype position);
+    void removeAddress(const QJsonObject &row, qsizetype position);
 
     QVariantList m_rows;
-    QStringList m_names; ///< of the rows, in their order
-    /// Places are counted from the first row ever appended, so that a row put in front moves none of the
-    /// others.
-    QHash<QString, qsizetype> m_places;
-    qsizetype m_placeOfFront = 0;
-    QHash<QString, QList<qsizetype>> m_placesByAddress; ///< ascending
+    QStringList m_names; ///< of m_rows, in the same order
+    /// Positions by name. A position is the index of the row in m_rows plus m_firstPosition, so that
+    /// prepending a row does not change the positions of the others.
+    QHash<QString, qsizetype> m_positions;
+    qsizetype m_firstPosition = 0;                         ///< 0 or negative
+    QHash<QString, QList<qsizetype>> m_positionsByAddress; ///< ascending
 };

@@ -1,4 +1,5 @@
-// The work of an operation with one device. It is made on the scene's thread and runs on any other.
+// The work of an operation with one device. A step is created on the main thread and runs on any other
+// thread.
 #pragma once
 
 #include "device/registry/loginresult.h"
@@ -13,25 +14,26 @@
 #include <memory>
 #include <stop_token>
 
-/// What has come of a step.
+/// The result of a step.
 struct StepOutcome
 {
     int result = resultCode(LoginResult::Success); ///< a LoginResult, or another code of the operation
-    QString text;                                  ///< in the user's language; empty when the code says all
-    QString answer = {}; ///< what the device has sent, for the one who began the work; no batch keeps it
-    bool isUnanswered = false; ///< the device was reached and has not answered: another try may succeed
+    QString text;              ///< details in the user's language; empty if the code is sufficient
+    QString answer = {};       ///< response of the device, for the caller; not kept by batches
+    bool isUnanswered = false; ///< the device was reached but did not respond: a retry may succeed
 
     bool operator==(const StepOutcome &) const = default;
 };
 
-/// What a running step asks at its safe points: between two requests, and in its waits.
+/// Control of a running step. The step checks it at its safe points: between two requests and during
+/// timeouts.
 class StepControl
 {
 public:
-    /// Of a step that nothing ends early.
+    /// For a step that is not ended early.
     StepControl() = default;
 
-    /// The step is late after `limit` by `clock`; 0 for never. `releasePlace` may be empty.
+    /// `limit` is the deadline from now by `clock`; 0 for none. `releasePlace` may be empty.
     StepControl(std::stop_token stop, std::shared_ptr<const sdk::Clock> clock,
                 std::chrono::milliseconds limit, std::function<void()> releasePlace)
         : m_stop(std::move(stop)), m_clock(std::move(clock)), m_limit(limit),
@@ -45,15 +47,15 @@ public:
     [[nodiscard]] bool shouldEnd() const { return isStopped() || isLate(); }
     [[nodiscard]] const std::stop_token &stopToken() const { return m_stop; }
 
-    /// Of a step that does several things, on its thread: one is done, and the next one has the whole time.
+    /// Restarts the deadline. Called by a step with several parts after each part, on its thread.
     void noteProgress() const
     {
         if (m_clock && m_limit.count() > 0)
             m_deadline = m_clock->now() + m_limit.count();
     }
 
-    /// The step only waits for its device from now on: another device may take its place among those that are
-    /// worked on at the same time.
+    /// From now on the step only waits for its device. It no longer counts towards the limit of devices at a
+    /// time.
     void releasePlace() const
     {
         if (m_releasePlace)
@@ -64,12 +66,12 @@ private:
     std::stop_token m_stop;
     std::shared_ptr<const sdk::Clock> m_clock;
     std::chrono::milliseconds m_limit{0};
-    mutable std::int64_t m_deadline = std::numeric_limits<std::int64_t>::max(); ///< a time of the clock
+    mutable std::int64_t m_deadline = std::numeric_limits<std::int64_t>::max(); ///< by m_clock
     std::function<void()> m_releasePlace;
 };
 
-/// Runs once, and blocks its thread for the waits of the library.
+/// Runs once. Blocks its thread for the timeouts of the library.
 using DeviceStep = std::function<StepOutcome(const StepControl &control)>;
 
-/// Makes the steps of one work for devices by address and port. Is called on the scene's thread.
+/// Creates the steps of one work, for devices by "address:port". Called on the main thread.
 using DeviceStepMaker = std::function<DeviceStep(const QString &ipport)>;

@@ -13,50 +13,51 @@
 
 namespace {
 
-/// A search announces its rows at most once in so many milliseconds.
+/// Minimum interval between two notifications in milliseconds.
 constexpr std::int64_t notificationInterval = 1000;
 
 constexpr QLatin1StringView loopbackAddress("127.0.0.1");
 
-// Most of an answer is zeros: reserved bytes, and what texts leave of their fields. A list of 10,000 devices
-// would hold 30 MB of them, so an answer is kept as the pieces between longer runs of zeros.
+// Most bytes of a response are zero: reserved bytes and unused parts of string fields. Unpacked, 10,000
+// responses would need 30 MB. A packed response consists of the chunks between longer runs of zeros.
 
-/// Stands in front of each piece.
-struct PieceHead
+/// Precedes each chunk.
+struct ChunkHeader
 {
-    std::uint16_t zeros; ///< before the piece
-    std::uint16_t size;  ///< of the piece, in bytes
+    std::uint16_t zeros; ///< number of zero bytes before the chunk
+    std::uint16_t size;  ///< of the chunk in bytes
 };
 static_assert(sizeof(sdk::SearchAnswer) <= std::numeric_limits<std::uint16_t>::max());
 
 QByteArray packed(const sdk::SearchAnswer &answer)
 {
-    constexpr std::string_view run("\0\0\0\0", sizeof(PieceHead)); // a shorter one costs less than a head
+    constexpr std::string_view run("\0\0\0\0", sizeof(ChunkHeader)); // shorter runs are not worth a header
     const std::string_view bytes(reinterpret_cast<const char *>(&answer), sizeof(answer));
-    QVarLengthArray<char, sizeof(answer)> pieces;
+    QVarLengthArray<char, sizeof(answer)> chunks;
     std::size_t end = 0;
-    for (std::size_t begin = bytes.find_first_not_of('\0'); begin != std::string_view::npos;
-         begin = bytes.find_first_not_of('\0', end)) {
-        const std::size_t zeros = begin - end;
-        end = std::min(bytes.find(run, begin), bytes.size());
-        const std::string_view piece = bytes.substr(begin, end - begin);
-        const PieceHead head = {static_cast<std::uint16_t>(zeros), static_cast<std::uint16_t>(piece.size())};
-        pieces.append(reinterpret_cast<const char *>(&head), sizeof(head));
-        pieces.append(piece.data(), static_cast<qsizetype>(piece.size()));
+    for (std::size_t start = bytes.find_first_not_of('\0'); start != std::string_view::npos;
+         start = bytes.find_first_not_of('\0', end)) {
+        const std::size_t zeros = start - end;
+        end = std::min(bytes.find(run, start), bytes.size());
+        const std::string_view chunk = bytes.substr(start, end - start);
+        const ChunkHeader header = {static_cast<std::uint16_t>(zeros),
+                                    static_cast<std::uint16_t>(chunk.size())};
+        chunks.append(reinterpret_cast<const char *>(&header), sizeof(header));
+        chunks.append(chunk.data(), static_cast<qsizetype>(chunk.size()));
     }
-    return QByteArray(pieces.constData(), pieces.size());
+    return QByteArray(chunks.constData(), chunks.size());
 }
 
-sdk::SearchAnswer unpacked(const QByteArray &pieces)
+sdk::SearchAnswer unpacked(const QByteArray &chunks)
 {
     sdk::SearchAnswer answer{};
     char *next = reinterpret_cast<char *>(&answer);
-    const char *piece = pieces.cbegin();
-    while (piece != pieces.cend()) {
-        PieceHead head;
-        std::memcpy(&head, piece, sizeof(head));
-        next = std::copy_n(piece + sizeof(head), head.size, next + head.zeros);
-        piece += sizeof(head) + head.size;
+    const char *chunk = chunks.cbegin();
+    while (chunk != chunks.cend()) {
+        ChunkHeader header;
+        std::memcpy(&header, chunk, sizeof(header));
+        next = std::copy_n(chunk + sizeof(header), header.size, next + header.zeros);
+        chunk += sizeof(header) + header.size;
     }
     return answer;
 }
@@ -70,62 +71,62 @@ DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
     const bool ipv4 = hasIPv4Address(answer);
     const QString mac = macText(answer);
     {
-        // Most answers are repeated ones: drop them before a row is built.
+        // Most responses are repeated ones: they are dropped before a row is built.
         const std::scoped_lock lock(m_mutex);
         const QString identity = identityOf(answer);
-        if (dropsLocked(identity)) {
+        if (isDropped(identity)) {
             const bool isChanged = ipv4 && takeMac(identity, mac);
-            return {
-                .added = false, .notify = isChanged && isNotificationDue(), .ipv4Count = ipv4CountLocked()};
+            return {.added = false, .notify = isChanged && isNotificationDue(), .ipv4Count = countIPv4()};
         }
     }
 
     QJsonObject row = ipv4 ? ipv4Row(answer) : ipv6Row(answer);
-    const bool heads = ipv4 && row.value(DeviceRowKey::type).toString() != otherDeviceType() &&
-                       row.value(DeviceRowKey::ipport).toString().contains(loopbackAddress);
+    const bool isPrepended = ipv4 && row.value(DeviceRowKey::type).toString() != otherDeviceType() &&
+                             row.value(DeviceRowKey::ipport).toString().contains(loopbackAddress);
     const QByteArray record = packed(answer);
     const QString uuid = uuidName(answer);
 
     const std::scoped_lock lock(m_mutex);
     const QString identity = identityOf(answer);
-    if (dropsLocked(identity))
+    if (isDropped(identity))
         return {};
     m_settled.insert(identity);
     ++m_found;
     if (ipv4 && rowName(row) != identity)
         row.insert(DeviceRowKey::identity, identity);
     if (!ipv4)
-        addIPv6Locked(row);
+        addIPv6(row);
     else if (m_lost.remove(identity))
         m_ipv4.replace(identity, row);
-    else if (heads)
+    else if (isPrepended)
         m_ipv4.prepend(identity, row);
     else
         m_ipv4.append(identity, row);
     if (ipv4 && !uuid.isEmpty() && !m_uuidHolders.contains(uuid))
         m_uuidHolders.insert(uuid, {.ipport = addressAndPort(answer), .name = identity});
 
-    // Requests to a device are built from its IPv4 answer, so that one takes the place of an IPv6 answer.
+    // Requests to a device are built from its IPv4 response, which therefore replaces an IPv6 response.
     const QString recordKey = ipv4 ? identity : mac;
     if (ipv4 || !m_records.contains(recordKey))
         m_records.insert(recordKey, record);
 
-    return {.added = true, .notify = isNotificationDue(), .ipv4Count = ipv4CountLocked()};
+    return {.added = true, .notify = isNotificationDue(), .ipv4Count = countIPv4()};
 }
 
 QString DeviceStore::identityOf(const sdk::SearchAnswer &answer) const
 {
     const QString mac = macText(answer);
     QString ipport = addressAndPort(answer);
-    // An IPv6 device may have several addresses, each of them a way to it; the same one twice is one answer
-    // that arrived again, as every device answers each kind of search.
+    // An IPv6 device may have several addresses, each with a row. The same address again is a repeated
+    // response: every device responds to each kind of search.
     if (!hasIPv4Address(answer))
         return mac + QLatin1Char(' ') + ipport;
     QString uuid = uuidName(answer);
     const UuidHolder holder = m_uuidHolders.value(uuid);
     if (!mac.isEmpty()) {
-        // The same device, if it did not report its MAC before. Others that have its UUID and its address may
-        // exist: factories copy both. A row that was there before the search has no holder yet.
+        // The row of the UUID is that of the same device if it has not reported its MAC before. Other devices
+        // may have the same UUID and address, since manufacturers copy both. A row from before the search has
+        // no holder yet.
         const QString known = m_ipv4.row(uuid).value(DeviceRowKey::mac).toString();
         const bool isHolder = holder.ipport == ipport && holder.name == uuid;
         const bool isListedBefore = holder.name.isEmpty() && m_ipv4.contains(uuid) && !m_ipv4.contains(mac);
@@ -149,9 +150,9 @@ bool DeviceStore::takeMac(const QString &name, const QString &mac)
     return true;
 }
 
-bool DeviceStore::dropsLocked(const QString &identity)
+bool DeviceStore::isDropped(const QString &identity)
 {
-    const bool isListed = m_ipv4.contains(identity) && !m_lost.contains(identity); // it was added by hand
+    const bool isListed = m_ipv4.contains(identity) && !m_lost.contains(identity); // it was added manually
     if (m_settled.contains(identity) || isListed)
         return true;
     if (m_found < maximumFound)
@@ -161,14 +162,14 @@ bool DeviceStore::dropsLocked(const QString &identity)
     return true;
 }
 
-void DeviceStore::addIPv6Locked(QJsonObject &row)
+void DeviceStore::addIPv6(QJsonObject &row)
 {
     int &before = m_ipv6Found[row.value(DeviceRowKey::ipport).toString()];
     if (before > 0)
         row.insert(DeviceRowKey::duplicate, before);
     ++before;
     const QString name = rowName(row);
-    if (m_ipv6.contains(name)) // a lost one: those that were found since clear() have other numbers
+    if (m_ipv6.contains(name)) // a lost row: rows found since clear() have other numbers
         m_ipv6.replace(name, row);
     else
         m_ipv6.append(name, row);
@@ -190,7 +191,7 @@ QString DeviceStore::nameOf(const sdk::SearchAnswer &answer) const
     const auto macOf = [this](const QString &name) {
         return m_ipv4.row(name).value(DeviceRowKey::mac).toString();
     };
-    // The row at the address goes before the one of the UUID, which another device may report as well.
+    // The row at the address has priority over the row of the UUID, which another device may report as well.
     if (mac.isEmpty()) {
         const QStringList names = m_ipv4.namesAt(addressAndPort(answer));
         const auto isOwn = [&](const QString &name) {
@@ -224,7 +225,7 @@ bool DeviceStore::updateRow(const QString &name, const sdk::SearchAnswer &answer
     row.insert(DeviceRowKey::unconfirmed, false);
     row.remove(DeviceRowKey::lost);
     m_lost.remove(name);
-    if (!row.value(DeviceRowKey::https).toBool()) // a response holds the port of the plain web page only
+    if (!row.value(DeviceRowKey::https).toBool()) // a response contains the HTTP port only
         row.insert(DeviceRowKey::httpport, now.value(DeviceRowKey::httpport));
     m_ipv4.replace(name, row);
     m_records.insert(name, packed(answer));
@@ -281,10 +282,10 @@ QVariantList DeviceStore::ipv6Rows() const
 int DeviceStore::ipv4Count() const
 {
     const std::scoped_lock lock(m_mutex);
-    return ipv4CountLocked();
+    return countIPv4();
 }
 
-int DeviceStore::ipv4CountLocked() const
+int DeviceStore::countIPv4() const
 {
     return static_cast<int>(m_ipv4.rows().size() - m_lost.size());
 }
@@ -330,7 +331,7 @@ QJsonObject DeviceStore::rowNamed(const QString &name) const
 bool DeviceStore::changeRowNamed(const QString &name, const Change &change)
 {
     return changeFound(
-        [&]() -> Place {
+        [&]() -> RowReference {
             for (DeviceRowList *list : {&m_ipv4, &m_ipv6}) {
                 if (list->contains(name))
                     return {.list = list, .name = name};
@@ -342,14 +343,15 @@ bool DeviceStore::changeRowNamed(const QString &name, const Change &change)
 
 bool DeviceStore::changeRow(const QString &mac, const Change &change)
 {
-    return changeFound([&] { return m_ipv4.contains(mac) ? Place{.list = &m_ipv4, .name = mac} : Place(); },
-                       change);
+    return changeFound(
+        [&] { return m_ipv4.contains(mac) ? RowReference{.list = &m_ipv4, .name = mac} : RowReference(); },
+        change);
 }
 
 bool DeviceStore::changeRowAt(const QString &ipport, const Change &change)
 {
     return changeFound(
-        [&]() -> Place {
+        [&]() -> RowReference {
             for (DeviceRowList *list : {&m_ipv4, &m_ipv6}) {
                 if (const std::optional<QString> name = list->nameAt(ipport))
                     return {.list = list, .name = *name};
@@ -366,12 +368,12 @@ bool DeviceStore::changeFound(const Finder &find, const Change &change)
     for (bool first = true;; first = false) {
         {
             const std::scoped_lock lock(m_mutex);
-            const Place place = find();
-            if (!place.list)
+            const RowReference found = find();
+            if (!found.list)
                 return false;
-            const QJsonObject stored = place.list->row(place.name);
+            const QJsonObject stored = found.list->row(found.name);
             if (!first && stored == before) {
-                place.list->replace(place.name, row);
+                found.list->replace(found.name, row);
                 return true;
             }
             before = stored;
@@ -381,10 +383,11 @@ bool DeviceStore::changeFound(const Finder &find, const Change &change)
     }
 }
 
-void DeviceStore::putRow(QJsonObject row, const std::optional<sdk::SearchAnswer> &answer)
+void DeviceStore::upsertRow(QJsonObject row, const std::optional<sdk::SearchAnswer> &answer)
 {
     const std::scoped_lock lock(m_mutex);
-    // The name of an address stays with the device that was there first, wherever that is now.
+    // A name made of an address stays with the first device of that address, also after its address has
+    // changed.
     const auto isOfOther = [this, &row] {
         const QJsonObject kept = m_ipv4.row(rowName(row));
         return row.value(DeviceRowKey::mac).toString().isEmpty() && !kept.isEmpty() &&

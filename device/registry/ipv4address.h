@@ -6,20 +6,20 @@
 #include <cstdint>
 #include <optional>
 
-/// The address as a number in host order, its first octet in the highest byte. Nothing unless `text` is
-/// exactly four decimal octets from 0 to 255 between single points, without signs or blanks.
+/// The address as a number in host byte order. Empty unless `text` consists of four decimal octets (0 to 255)
+/// separated by dots, without signs or spaces.
 [[nodiscard]] std::optional<std::uint32_t> ipv4Number(QStringView text);
 
-/// The dotted text of an address number.
+/// The dotted notation of an address.
 [[nodiscard]] QString ipv4Text(std::uint32_t address);
 
-/// Octet `position` (0 the first, 3 the last) of an address.
+/// Octet `position` of an address, 0 for the first to 3 for the last.
 [[nodiscard]] constexpr std::uint32_t ipv4Octet(std::uint32_t address, int position)
 {
     return (address >> (8 * (3 - position))) & 0xFF;
 }
 
-/// True for a subnet mask: ones from the left, then zeros, and at least one of each.
+/// Whether `mask` is a subnet mask: one bits followed by zero bits, at least one of each.
 [[nodiscard]] constexpr bool isSubnetMask(std::uint32_t mask)
 {
     const std::uint32_t hosts = ~mask;

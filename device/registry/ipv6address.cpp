@@ -17,7 +17,8 @@ void appendNumber(Bytes &bytes, std::uint32_t number, int size)
         bytes.push_back(static_cast<std::uint8_t>(number >> shift));
 }
 
-/// The bytes of groups between single colons; none for no text.
+/// The bytes of groups separated by single colons. Empty bytes for an empty text. The last group may be an
+/// IPv4 address if `atEnd`.
 std::optional<Bytes> groupBytes(QStringView text, bool atEnd)
 {
     constexpr qsizetype longestGroup = 4;
@@ -25,9 +26,9 @@ std::optional<Bytes> groupBytes(QStringView text, bool atEnd)
     if (text.isEmpty())
         return bytes;
     const QList<QStringView> groups = text.split(u':');
-    for (qsizetype place = 0; place < groups.size(); ++place) {
-        const QStringView group = groups.at(place);
-        if (const auto ipv4 = ipv4Number(group); ipv4 && atEnd && place + 1 == groups.size()) {
+    for (qsizetype index = 0; index < groups.size(); ++index) {
+        const QStringView group = groups.at(index);
+        if (const auto ipv4 = ipv4Number(group); ipv4 && atEnd && index + 1 == groups.size()) {
             appendNumber(bytes, *ipv4, 4);
             continue;
         }
@@ -47,10 +48,10 @@ std::optional<std::array<std::uint8_t, 16>> ipv6Bytes(QStringView text)
     constexpr QStringView gap = u"::";
     std::array<std::uint8_t, 16> address = {};
     text = text.left(text.indexOf(u'%') < 0 ? text.size() : text.indexOf(u'%'));
-    const qsizetype gapPlace = text.indexOf(gap);
-    const bool hasGap = gapPlace >= 0;
-    const auto head = groupBytes(hasGap ? text.left(gapPlace) : text, !hasGap);
-    const auto tail = groupBytes(hasGap ? text.mid(gapPlace + gap.size()) : QStringView(), true);
+    const qsizetype gapPosition = text.indexOf(gap);
+    const bool hasGap = gapPosition >= 0;
+    const auto head = groupBytes(hasGap ? text.left(gapPosition) : text, !hasGap);
+    const auto tail = groupBytes(hasGap ? text.mid(gapPosition + gap.size()) : QStringView(), true);
     if (!head || !tail)
         return std::nullopt;
     const std::size_t size = head->size() + tail->size();

@@ -2,5 +2,5 @@
 
 #include <QString>
 
-/// The path that the scene means by a path or a "file:///" address.
+/// The local path of a "file:///" URL from QML. A path is returned unchanged.
 [[nodiscard]] QString localPath(const QString &path);

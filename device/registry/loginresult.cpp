@@ -13,12 +13,12 @@ public:
     static QString of(int code);
 };
 
-/// Errors come with and without it.
+/// The library reports errors with and without this bit.
 constexpr std::uint32_t highBit = 0x80000000;
 
 QString ResultNames::of(int code)
 {
-    // Operations have codes of their own.
+    // Codes of single operations.
     constexpr int capabilitiesUnknown = 10;
     constexpr int unusableLine = 997;  // of a device list
     constexpr int commandFailed = 998; // over HTTP

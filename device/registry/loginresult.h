@@ -1,14 +1,14 @@
-// Result codes of operations on a device, as rows and the scene carry them.
+// Result codes of operations on devices.
 #pragma once
 
 #include <QString>
 
 #include <cstdint>
 
-/// How a request to a device ended.
+/// The result of a request to a device.
 enum class LoginResult : int
 {
-    Unknown = -1, ///< nothing was asked yet
+    Unknown = -1, ///< no request yet
     Success = 0,
     NoSuchAccount = 1,
     WrongPassword = 2,
@@ -17,55 +17,56 @@ enum class LoginResult : int
     NetworkFailure = 5,
     ProtocolMismatch = 6,
     NotInitialised = 7,
-    NotSupported = 12, ///< the one failure that the add-device dialog says nothing about
+    NotSupported = 12, ///< the dialog for adding devices shows no message for it
     AlreadyListed = 13,
-    Upgrading = 14,          ///< nothing was asked: the device's firmware is being upgraded
-    NotDone = 15,            ///< nothing was asked: the batch ended before it came to the device
-    SessionEnded = 16,       ///< the device no longer accepts the login that the request was sent with
-    InvalidValue = 17,       ///< the device does not take a value of the request
-    UnknownCertificate = 18, ///< nothing was sent: the user has not agreed to the device's certificate
-    ChangedCertificate = 19, ///< nothing was sent: the device shows another certificate than the stored one
+    Upgrading = 14,          ///< no request: the firmware of the device is being upgraded
+    NotDone = 15,            ///< no request: the batch ended before the turn of the device
+    SessionEnded = 16,       ///< the device no longer accepts the session of the request
+    InvalidValue = 17,       ///< the device does not accept a value of the request
+    UnknownCertificate = 18, ///< no request: the user has not accepted the certificate of the device
+    ChangedCertificate = 19, ///< no request: the certificate of the device differs from the accepted one
     Cancelled = 20,          ///< the request was cancelled
-    AddressInUse = 21,       ///< another device answers at the address
-    Unconfirmed = 22,        ///< the device has taken the request, and nothing proves that it acts by it
-    Refused = 999,           ///< the device has understood the request and does not fulfil it
+    AddressInUse = 21,       ///< another device responds at the address
+    Unconfirmed = 22,        ///< the device has accepted the request, but its effect is not confirmed
+    Refused = 999,           ///< the device has refused the request
 };
 
-/// The result for a failed operation of the network library, whose last error is `libraryError`, with or
-/// without its high bit. Never Success: an error that is not known counts as a network failure.
+/// The result of a failed operation of the network library. `libraryError` is its last error, with or without
+/// its high bit. Never Success; NetworkFailure for an unknown error.
 [[nodiscard]] LoginResult loginResultOf(std::uint32_t libraryError);
 
-/// Whether an error of the network library, with or without its high bit, says that the device did not
-/// answer, and not that it refused.
+/// Whether an error of the network library, with or without its high bit, means that the device is offline:
+/// it did not respond.
 [[nodiscard]] bool isDeviceAway(std::uint32_t libraryError);
 
-/// Whether such an error says that nothing more can be asked in the session: the device is away, or it no
-/// longer accepts the login.
+/// Whether such an error means that the session cannot be used any more: the device is offline, or it no
+/// longer accepts the session.
 [[nodiscard]] bool isSessionLost(std::uint32_t libraryError);
 
-/// Whether an error of the network library, with or without its high bit, says that the device does not
-/// accept the login: it must not be sent again unless the user gives it.
+/// Whether such an error means that the device does not accept the account. The login must not be repeated
+/// unless the user enters the account again.
 [[nodiscard]] bool isLoginRefused(std::uint32_t libraryError);
 
-/// The result as rows hold it.
+/// The result as the int in rows and maps.
 [[nodiscard]] constexpr int resultCode(LoginResult result)
 {
     return static_cast<int>(result);
 }
 
-// Results of operations that have more to say than a login.
+// More result codes of operations.
 
-inline constexpr int upgradeFileUnusable = 992; ///< nothing was sent
-inline constexpr int upgradeFailed = 993;       ///< the device gave it up, has not come back, or is as before
-inline constexpr int upgradeUnconfirmed = 994;  ///< the device is back, and its version proves nothing
+inline constexpr int upgradeFileUnusable = 992; ///< no request
+inline constexpr int upgradeFailed =
+    993; ///< aborted by the device, not restarted, or the version is the old one
+inline constexpr int upgradeUnconfirmed =
+    994; ///< the device has restarted; its version does not prove the upgrade
 inline constexpr int deviceBusy = 995;
 
-/// The result of a snapshot whose channel has no camera, or whose file cannot be written.
+/// The channel of a snapshot has no camera, or the file cannot be written.
 inline constexpr int snapshotFailed = 996;
 
-/// The result of a request that the device has understood and does not fulfil.
+/// The device has refused the request.
 inline constexpr int refusedByDevice = resultCode(LoginResult::Refused);
 
-/// What a result code means, in the user's language. Codes that nobody has given a meaning are named by
-/// number.
+/// The meaning of a result code in the user's language. An unknown code is shown as a number.
 [[nodiscard]] QString resultName(int code);

@@ -1,4 +1,4 @@
-// A session with a device beside the current one.
+// A separate session with a device, in addition to the current one.
 #pragma once
 
 #include "device/registry/devicestep.h"
@@ -10,26 +10,26 @@
 #include <functional>
 #include <memory>
 
-/// A picture of a channel that was taken for the user.
+/// A snapshot of a channel.
 struct OwnPicture
 {
-    QString path = {};    ///< a "file:///" address, empty on failure
-    QString message = {}; ///< why it failed, in the user's language
+    QString path = {};    ///< "file:///" URL; empty on failure
+    QString message = {}; ///< reason of the failure in the user's language
 };
 
-/// A picture of a channel that is to be taken in a login.
+/// A snapshot to be taken in a session.
 struct OwnPictureOrder
 {
-    qint64 handle = 0; ///< of the login
+    qint64 handle = 0; ///< of the session
     int channelCount = 0;
     int channel = 0; ///< from 0
-    QString folder;  ///< below "snap/" in the current folder
+    QString folder;  ///< name of a folder in "snap/" of the working directory
 };
 
-/// Takes a picture. Any thread, which it blocks until the picture is there or given up.
+/// Takes a snapshot. Any thread; blocks it until the end.
 using OwnPictureTaker = std::function<OwnPicture(const OwnPictureOrder &order, const StepControl &control)>;
 
-/// A login that lasts as long as this object. It ends without holding up the scene's thread.
+/// A session that lasts as long as this object. The destructor does not block.
 class OwnSession
 {
 public:
@@ -38,31 +38,31 @@ public:
     OwnSession(const OwnSession &) = delete;
     OwnSession &operator=(const OwnSession &) = delete;
 
-    [[nodiscard]] virtual qint64 handle() const = 0; ///< of the login, for live streams
+    [[nodiscard]] virtual qint64 handle() const = 0; ///< of the session, for live streams
     [[nodiscard]] virtual int channelCount() const = 0;
 
-    /// Takes a picture of a channel, from 0, into "snap/<folder>" below the current folder. Any thread but
-    /// the scene's, which it blocks until the picture is there or given up.
+    /// Takes a snapshot of a channel (from 0) into "snap/<folder>" of the working directory. Any thread
+    /// except the main thread; blocks it until the end.
     [[nodiscard]] virtual OwnPicture takePicture(int channel, const QString &folder,
                                                  const StepControl &control) const = 0;
 };
 
-/// A device that a session is wanted with.
+/// A request for a session.
 struct OwnSessionOrder
 {
     QString ipport;
     QString account;
     QString password;
-    std::shared_ptr<OwnSession> present = {}; ///< goes on where the device answers in it; null for none
+    std::shared_ptr<OwnSession> present = {}; ///< kept if the device responds in it; null for none
 };
 
-/// What came of it.
+/// The response to an OwnSessionOrder.
 struct OwnSessionOffer
 {
     int result = resultCode(LoginResult::NotSupported); ///< a LoginResult
-    QVariantList channels = {};               ///< maps of "channel" (from 0), "name" and "connected"
-    std::shared_ptr<OwnSession> session = {}; ///< the present one, or a new one; null on failure
+    QVariantList channels = {};                         ///< maps with the keys of ChannelKey
+    std::shared_ptr<OwnSession> session = {};           ///< the present session or a new one; null on failure
 };
 
-/// Runs once, and blocks its thread for the waits of the library.
+/// Runs once. Blocks its thread for the timeouts of the library.
 using OwnSessionStep = std::function<OwnSessionOffer(const StepControl &control)>;

@@ -12,10 +12,10 @@
 
 namespace {
 
-/// The same wherever the services are, so it is not a setting.
+/// The same for all services, so it is not a setting.
 constexpr const char *serverSecret = "tamsvelorink";
 
-/// The key of the first setting that is missing or no host or port; empty when there is none.
+/// The key of the first missing or invalid setting; empty for none.
 QString faultOf(const P2PSettings &settings)
 {
     const std::pair<const char *, const QString &> hosts[] = {{"p2p/tunnel", settings.tunnelHost},
@@ -37,8 +37,8 @@ QString faultOf(const P2PSettings &settings)
     return {};
 }
 
-/// Starts the agent, also with settings that are wrong: only the agent knows what it can do without. Null
-/// when it does not start.
+/// Starts the agent. Invalid settings are passed on, since the agent may not need them. Null if it does not
+/// start.
 std::shared_ptr<sdk::P2PAgentLibrary> started(std::shared_ptr<sdk::P2PAgentLibrary> library,
                                               const P2PSettings &settings,
                                               sdk::P2PAgentMessageHandler handler)

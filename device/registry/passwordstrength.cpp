@@ -6,7 +6,7 @@
 
 namespace {
 
-// Rules that were once meant to be part of the grade. They are kept as they were written, and not applied.
+// Rules that were planned as part of the strength. They are not applied.
 constexpr std::array unusedRules = {
     QLatin1StringView(R"(?=^.{8,16}$)((?=.*\d)|(?=.*\W+))(?![.\n])(?=.*[A-Z])(?=.*[a-z]).*$)"),
     QLatin1StringView(R"(?!^\d+$)(?!^[a-zA-Z]+$).{8,})"),

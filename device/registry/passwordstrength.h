@@ -2,7 +2,6 @@
 
 #include <QString>
 
-/// Strength of a password: how many of three kinds of characters it holds, digits, letters (a capital and a
-/// small one are one kind) and characters that belong to no word. The underscore belongs to a word and counts
-/// as nothing. 0 for an empty password; its length plays no part.
+/// Strength of a password, 0 to 3: the number of kinds of characters that it contains. The kinds are digits,
+/// letters and special characters, without the underscore. The length has no influence.
 [[nodiscard]] int passwordStrength(const QString &password);

@@ -4,6 +4,6 @@
 
 #include <functional>
 
-/// Whether the firmware of the device at an address and port, or of a row's name, is being upgraded. Any
-/// thread.
+/// Returns whether the firmware of a device is being upgraded. `device` is its "address:port" or the name of
+/// its row. Any thread.
 using UpgradeCheck = std::function<bool(const QString &device)>;

@@ -1,4 +1,4 @@
-// What upgrades are to do, before they begin.
+// Plans of firmware upgrades.
 #pragma once
 
 #include "device/registry/devicestep.h"
@@ -6,19 +6,20 @@
 
 #include <QString>
 
-/// What the upgrade of a row's device will do.
+/// The plan of the upgrade of one device.
 struct PlannedUpgrade
 {
-    UpgradeTools::Result refusal = UpgradeTools::NoFile; ///< why it will do nothing; None when it will
-    QString file;                                        ///< of the row
-    QString version;                                     ///< of the file; empty when it is not known
+    UpgradeTools::Result refusal =
+        UpgradeTools::NoFile; ///< reason why the device is not upgraded; None if it is
+    QString file;             ///< path of the firmware file
+    QString version;          ///< of the file; empty if unknown
 };
 
-/// A line of an upgrade document, and the upgrade of its device.
+/// A line of an upgrade document, with the step that upgrades its device.
 struct UpgradeDocumentStep
 {
-    int line = 0;   ///< its number in the file
-    QString device; ///< the name of its row, or its address and port
+    int line = 0;   ///< line number in the file
+    QString device; ///< name of the row of the device, or its address and port
     QString ipport;
     DeviceStep step;
 };

@@ -118,7 +118,7 @@ int UpgradeTools::batchResult(Result result)
         return resultCode(LoginResult::UnknownCertificate);
     case ChangedCertificate:
         return resultCode(LoginResult::ChangedCertificate);
-    default: // stopped before the device has changed, or not begun
+    default: // stopped before the device was changed, or not started
         return resultCode(LoginResult::NotDone);
     }
 }

@@ -2,31 +2,31 @@
 
 #include <QObject>
 
-/// What an upgrade of a device's firmware has come to, as rows hold it under "upgraderes", and what the scene
-/// is to know of it.
+/// The states and results of firmware upgrades ("upgraderes" of the rows), with their texts and properties.
+/// For QML and C++.
 class UpgradeTools : public QObject
 {
     Q_OBJECT
 public:
     enum Result
     {
-        // On the way
-        Restarting = -6, ///< waiting for the device to come back
+        // Running
+        Restarting = -6, ///< waiting until the device has restarted
         Writing = -5,    ///< cannot be stopped
         Sending = -4,
-        Preparing = -3, ///< the file is looked at, the device logged in to
-        Waiting = -2,   ///< until others are done
+        Preparing = -3, ///< checking the file and logging in
+        Waiting = -2,   ///< until other upgrades are finished
 
         None = -1,
-        Success = 0, ///< the device has answered with the new version
+        Success = 0, ///< the device has responded with the new version
 
-        // What trying again does not mend
+        // Failures that a retry does not solve
         NoFile = 1,
         FileMissing = 2,
         FileUnreadable = 3,
         FileEmpty = 4,
         FileTooLarge = 5,
-        FileDamaged = 6, ///< its head makes no sense
+        FileDamaged = 6, ///< invalid header
         WrongModel = 7,  ///< the file is for other devices
         FirmwareRefused = 8,
         WrongPassword = 9,
@@ -34,19 +34,19 @@ public:
         AccountLocked = 11,
         NotInitialised = 12,
         NotSupported = 13,
-        LineUnusable = 14, ///< of a document: no address, or one that is none
-        ListedTwice = 15,  ///< of a document: an earlier line names the same device
+        LineUnusable = 14, ///< of a document: the address is missing or invalid
+        ListedTwice = 15,  ///< of a document: an earlier line has the same device
 
-        // What it may
+        // Failures that a retry may solve
         NoAnswer = 20,
         DeviceBusy = 21,
-        Failed = 22, ///< the device gave it up
-        Stuck = 23,  ///< the device told nothing for too long
+        Failed = 22, ///< the device has aborted the upgrade
+        Stuck = 23,  ///< the device has not reported progress for too long
         NotBack = 24,
         KeptVersion = 25,
         Stopped = 26,
-        Cut = 27,            ///< the program ended
-        VersionUnknown = 28, ///< the device is back, and nothing says which firmware it has
+        Cut = 27,            ///< the application ended
+        VersionUnknown = 28, ///< the device has restarted, but its version is unknown
         UnknownCertificate = 29,
         ChangedCertificate = 30,
     };
@@ -57,22 +57,22 @@ public:
     Q_INVOKABLE [[nodiscard]] static bool isRunning(int result) { return result < None; }
     Q_INVOKABLE [[nodiscard]] static bool isFailure(int result) { return result > Success; }
 
-    /// Whether stopping is still possible.
+    /// Whether the upgrade can still be stopped.
     Q_INVOKABLE [[nodiscard]] static bool canStop(int result)
     {
         return isRunning(result) && result != Writing && result != Restarting;
     }
 
-    /// Whether the same may go well another time.
+    /// Whether a retry may succeed.
     Q_INVOKABLE [[nodiscard]] static bool canTryAgain(int result) { return result >= NoAnswer; }
 
-    /// In the user's language; empty for None. Thread-safe.
+    /// The state or result in the user's language; empty for None. Any thread.
     Q_INVOKABLE [[nodiscard]] static QString text(int result);
 
-    /// The result as batches have it, whose codes are those of a login and some more: a wrong password is one
-    /// to them, whatever was to be done. What is on the way is not done yet.
+    /// The result as a result code of batches: a LoginResult or a code of loginresult.h. LoginResult::NotDone
+    /// for running and stopped upgrades.
     [[nodiscard]] static int batchResult(Result result);
 
-    /// Of the workbook that upgrades by document begin from, in the user's language.
+    /// File name of the template of upgrade documents, in the user's language.
     [[nodiscard]] static QString templateFileName();
 };

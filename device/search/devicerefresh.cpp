@@ -121,7 +121,7 @@ struct ResponseReceiver
             QJsonObject row = ipv4Row(answer);
             if (rowName(row) != name)
                 row.insert(DeviceRowKey::identity, name);
-            store.putRow(row, answer);
+            store.upsertRow(row, answer);
             waiting.remove(name);
             return rowChanged();
         }

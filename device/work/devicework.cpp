@@ -46,26 +46,26 @@ void DeviceWork::addDevice(const QVariantMap &device)
             QMetaObject::invokeMethod(factory, &CDeviceFactory::signalAddSingleDeviceToTable,
                                       Qt::QueuedConnection);
         }
-        return SceneOutcome{.value = QVariantMap{{QStringLiteral("result"), outcome.result},
+        return PageOutcome{.value = QVariantMap{{QStringLiteral("result"), outcome.result},
                                                  {QStringLiteral("text"), outcome.text}},
                             .take = {}};
     });
 }
 
-void DeviceWork::begin(const SceneStep &step)
+void DeviceWork::begin(const PageStep &step)
 {
     m_stop.request_stop();
     m_stop = std::stop_source();
     const int number = ++m_number;
     setRunning(true);
-    m_deviceFactory->backEnd(dhFamily)->runForScene(
-        step, m_stop.get_token(), [self = QPointer(this), number](const SceneOutcome &outcome) {
+    m_deviceFactory->backEnd(dhFamily)->runForPage(
+        step, m_stop.get_token(), [self = QPointer(this), number](const PageOutcome &outcome) {
             if (self)
                 self->end(number, outcome);
         });
 }
 
-void DeviceWork::end(int number, const SceneOutcome &outcome)
+void DeviceWork::end(int number, const PageOutcome &outcome)
 {
     if (number != m_number)
         return;

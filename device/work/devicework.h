@@ -1,7 +1,7 @@
 // Work with one device on another thread, for a page or dialog.
 #pragma once
 
-#include "device/registry/scenestep.h"
+#include "device/registry/pagestep.h"
 
 #include <QObject>
 #include <QPointer>
@@ -56,7 +56,7 @@ Q_SIGNALS:
 
 protected:
     /// Starts work and cancels the running one.
-    void begin(const SceneStep &step);
+    void begin(const PageStep &step);
 
     /// True while the outcome of work is applied and its signals are emitted.
     [[nodiscard]] bool isTaking() const { return m_isTaking; }
@@ -65,7 +65,7 @@ protected:
     virtual void changeFactory(CDeviceFactory *before);
 
 private:
-    void end(int number, const SceneOutcome &outcome);
+    void end(int number, const PageOutcome &outcome);
     void setRunning(bool isRunning);
 
     QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before this object

@@ -35,13 +35,13 @@ void LiveSession::open(const QString &ipport, const QString &account, const QStr
         {.ipport = ipport, .account = account, .password = password, .present = m_session});
     // If the work is dropped, the offer is destroyed and logs out.
     const auto offer = std::make_shared<OwnSessionOffer>();
-    m_deviceFactory->backEnd(dhFamily)->runForScene(
+    m_deviceFactory->backEnd(dhFamily)->runForPage(
         [step, offer](const StepControl &control) {
             *offer = step(control);
-            return SceneOutcome();
+            return PageOutcome();
         },
         m_stop.get_token(),
-        [self = QPointer(this), number = ++m_number, offer](const SceneOutcome &) {
+        [self = QPointer(this), number = ++m_number, offer](const PageOutcome &) {
             if (self && self->m_number == number)
                 self->take(std::exchange(*offer, {}));
         });
@@ -52,13 +52,13 @@ void LiveSession::takePicture(int channel, const QString &folder)
     if (!m_deviceFactory || !m_session)
         return;
     const auto picture = std::make_shared<OwnPicture>();
-    m_deviceFactory->backEnd(dhFamily)->runForScene(
+    m_deviceFactory->backEnd(dhFamily)->runForPage(
         [session = m_session, picture, channel, folder](const StepControl &control) {
             *picture = session->takePicture(channel, folder, control);
-            return SceneOutcome();
+            return PageOutcome();
         },
         m_pictureStop.get_token(),
-        [self = QPointer(this), stop = m_pictureStop.get_token(), picture, channel](const SceneOutcome &) {
+        [self = QPointer(this), stop = m_pictureStop.get_token(), picture, channel](const PageOutcome &) {
             if (self && !stop.stop_requested())
                 Q_EMIT self->pictureTaken(channel, picture->path, picture->message);
         });

@@ -232,7 +232,7 @@ Writes setDefaults(const Change &change)
 Writes changeChannelName(const Change &change)
 {
     const QString visible = ByteText::withoutInvisible(change.value.toString()).trimmed();
-    const QString name = ByteText::cutTo(visible, ByteText::channelNameBytes());
+    const QString name = ByteText::truncated(visible, ByteText::channelNameBytes());
     if (name.isEmpty())
         return {};
     sdk::ChannelNameItem &item = change.state.channelName;

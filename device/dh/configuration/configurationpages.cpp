@@ -32,16 +32,16 @@ std::function<bool()> ConfigurationPages::upgradeCheck(const QString &ipport) co
     };
 }
 
-SceneStep ConfigurationPages::step(const SessionJob &job)
+PageStep ConfigurationPages::step(const SessionJob &job)
 {
     return
         [this, job, state = std::make_shared<SessionState>(m_session.state())](const StepControl &control) {
             const BatchEngine::Hold hold = m_hold.hold(state->ipport, control);
             if (control.isStopped())
-                return SceneOutcome();
+                return PageOutcome();
             SessionRun run(*state, upgradeCheck(state->ipport));
             const QVariant value = job(run, control);
-            return SceneOutcome{.value = value, .take = [this, state, news = run.takeNews()] {
+            return PageOutcome{.value = value, .take = [this, state, news = run.takeNews()] {
                                     if (state->session.handle() != m_session.handle())
                                         return;
                                     m_session.setState(state);

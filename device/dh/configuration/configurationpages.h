@@ -3,7 +3,7 @@
 
 #include "device/dh/configuration/sessionrun.h"
 #include "device/registry/backendsignals.h"
-#include "device/registry/scenestep.h"
+#include "device/registry/pagestep.h"
 #include "sdk/sdklibraries.h"
 
 #include <functional>
@@ -23,7 +23,7 @@ public:
     void perform(const std::function<void(SessionOperations &operations)> &operations);
 
     /// See CDeviceBase::sessionStep().
-    [[nodiscard]] SceneStep step(const SessionJob &job);
+    [[nodiscard]] PageStep step(const SessionJob &job);
 
     /// See SessionOperations::getConfigData(). Additional keys: "loginHandle" (handle of the current session
     /// or 0; any thread), "sessionDevice" (its address and port) and "library" (a map of the capabilities of

@@ -63,21 +63,21 @@ int SessionLogins::findAndLogin(const QString &ipport, const QString &account, c
 {
     if (!m_libraries.net)
         return resultCode(LoginResult::NetworkFailure);
-    const SceneOutcome outcome = loginStep(ipport, account, password)(StepControl());
+    const PageOutcome outcome = loginStep(ipport, account, password)(StepControl());
     outcome.take();
     return outcome.value.toInt();
 }
 
-SceneStep SessionLogins::loginStep(const QString &ipport, const QString &account, const QString &password)
+PageStep SessionLogins::loginStep(const QString &ipport, const QString &account, const QString &password)
 {
     return [this, ipport, account, password](const StepControl &control) {
         const BatchEngine::Hold hold = m_hold.hold(ipport, control);
         if (control.isStopped())
-            return SceneOutcome();
+            return PageOutcome();
         const auto login = std::make_shared<UntakenLogin>(
             m_libraries.net, m_logins.logIn(ipport, {.account = account, .password = password}));
         const int result = resultCode(login->result());
-        return SceneOutcome{.value = result, .take = [this, ipport, account, password, login, result] {
+        return PageOutcome{.value = result, .take = [this, ipport, account, password, login, result] {
                                 if (login->result() == LoginResult::Success)
                                     m_session.begin(ipport, account, password, login->take());
                                 m_signals.emitNow<&CDeviceBase::signalCDeviceHighLevelLoginRet>(result);
@@ -105,12 +105,12 @@ QVariantMap SessionLogins::readDetail(const QString &ipport)
     return detailStep(ipport)(StepControl()).value.toMap();
 }
 
-SceneStep SessionLogins::detailStep(const QString &ipport)
+PageStep SessionLogins::detailStep(const QString &ipport)
 {
     return [this, ipport, known = m_logins.accountAt(ipport)](const StepControl &control) {
         const BatchEngine::Hold hold = m_hold.hold(ipport, control);
         if (control.isStopped())
-            return SceneOutcome();
+            return PageOutcome();
         const SecureLogin login = m_logins.logIn(ipport, known);
         QVariantMap detail;
         if (login.handle != 0) {
@@ -119,7 +119,7 @@ SceneStep SessionLogins::detailStep(const QString &ipport)
             m_libraries.net->NetLogout(login.handle);
         }
         detail.insert(QStringLiteral("loginResult"), resultCode(login.result));
-        return SceneOutcome{.value = detail,
+        return PageOutcome{.value = detail,
                             .take = [this, ipport, mac = detail.value(DeviceRowKey::mac).toString()] {
                                 takeMac(ipport, mac);
                             }};

@@ -4,7 +4,7 @@
 #include "device/dh/session/sessionoffer.h"
 #include "device/registry/backendsignals.h"
 #include "device/registry/ownsession.h"
-#include "device/registry/scenestep.h"
+#include "device/registry/pagestep.h"
 
 #include <QVariantMap>
 
@@ -29,14 +29,14 @@ public:
 
     /// Logs in for the current session. Returns a LoginResult. Blocks for the device.
     int findAndLogin(const QString &ipport, const QString &account, const QString &password);
-    [[nodiscard]] SceneStep loginStep(const QString &ipport, const QString &account, const QString &password);
+    [[nodiscard]] PageStep loginStep(const QString &ipport, const QString &account, const QString &password);
 
     /// Logs in and out to check an account. Any thread; blocks for the device. Returns a LoginResult.
     [[nodiscard]] int check(const QString &ipport, const QString &account, const QString &password) const;
 
     /// Logs in, reads the details of a device, and logs out. Blocks for the device.
     [[nodiscard]] QVariantMap readDetail(const QString &ipport);
-    [[nodiscard]] SceneStep detailStep(const QString &ipport);
+    [[nodiscard]] PageStep detailStep(const QString &ipport);
 
     [[nodiscard]] OwnSessionStep ownSessionStep(const OwnSessionOrder &order);
 

@@ -3,7 +3,7 @@
 
 #include "device/dh/configuration/sessionstate.h"
 #include "device/registry/backendsignals.h"
-#include "device/registry/scenestep.h"
+#include "device/registry/pagestep.h"
 
 #include <functional>
 #include <vector>

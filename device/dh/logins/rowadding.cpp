@@ -80,6 +80,6 @@ StepOutcome RowAdding::logIn(const DeviceToAdd &device, int port, const StepCont
             return *refusal;
     }
     webPort = login.row.value(DeviceRowKey::httpport).toInt();
-    m_store.putRow(login.row, login.record);
+    m_store.upsertRow(login.row, login.record);
     return outcomeOf(LoginResult::Success);
 }

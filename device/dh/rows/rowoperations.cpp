@@ -23,7 +23,7 @@ int RowOperations::add(const RowLoginRequest &request)
 {
     const RowLoginOutcome outcome = loginForRow(m_libraries, request);
     if (outcome.result == LoginResult::Success) {
-        m_store->putRow(outcome.row, outcome.record);
+        m_store->upsertRow(outcome.row, outcome.record);
         m_signals.emitNow<&CDeviceBase::signalCDeviceAddSingleDeviceToTable>();
     }
     return resultCode(outcome.result);

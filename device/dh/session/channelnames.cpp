@@ -47,7 +47,7 @@ int ChannelNames::write(int channel, const QString &name)
 {
     sdk::ChannelNameItem item = {};
     item.size = sizeof(item);
-    const QString whole = ByteText::cutTo(name, static_cast<int>(item.name.size()) - 1);
+    const QString whole = ByteText::truncated(name, static_cast<int>(item.name.size()) - 1);
     sdk::setBlockText(item.name, whole.toStdString());
     int result = 0;
     if (!m_session.writeItem(nameItem, channel, item)) {

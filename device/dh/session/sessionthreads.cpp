@@ -29,13 +29,13 @@ void SessionThreads::start(const std::function<void()> &work)
     m_threads.start(work);
 }
 
-void SessionThreads::runForScene(const SceneStep &step, const std::stop_token &stop,
-                                 const std::function<void(const SceneOutcome &outcome)> &ended)
+void SessionThreads::runForPage(const PageStep &step, const std::stop_token &stop,
+                                 const std::function<void(const PageOutcome &outcome)> &ended)
 {
     m_threads.start([this, step, stop, ended] {
         if (stop.stop_requested())
             return;
-        const SceneOutcome outcome = step(StepControl(stop, nullptr, {}, {}));
+        const PageOutcome outcome = step(StepControl(stop, nullptr, {}, {}));
         if (stop.stop_requested())
             return;
         m_signals.queue([ended, outcome] { ended(outcome); });

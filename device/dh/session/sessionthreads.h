@@ -2,7 +2,7 @@
 #pragma once
 
 #include "device/registry/backendsignals.h"
-#include "device/registry/scenestep.h"
+#include "device/registry/pagestep.h"
 
 #include <QList>
 #include <QThreadPool>
@@ -30,9 +30,9 @@ public:
     /// Runs `work` on one of the threads.
     void start(const std::function<void()> &work);
 
-    /// See CDeviceBase::runForScene().
-    void runForScene(const SceneStep &step, const std::stop_token &stop,
-                     const std::function<void(const SceneOutcome &outcome)> &ended);
+    /// See CDeviceBase::runForPage().
+    void runForPage(const PageStep &step, const std::stop_token &stop,
+                     const std::function<void(const PageOutcome &outcome)> &ended);
 
     /// Logs out on one of the threads and returns immediately.
     void logOutLater(const QList<std::int64_t> &handles);

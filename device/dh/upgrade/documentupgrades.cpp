@@ -68,7 +68,7 @@ QVariantList DocumentUpgrades::report(const QString &path, QString &refusal) con
     return report;
 }
 
-SceneStep DocumentUpgrades::reading(const QString &path)
+PageStep DocumentUpgrades::reading(const QString &path)
 {
     return [this, path](const StepControl &) {
         const auto opened = std::make_shared<OpenedUpgradeDocument>(openUpgradeDocument(localPath(path)));
@@ -81,7 +81,7 @@ SceneStep DocumentUpgrades::reading(const QString &path)
             report.insert(QStringLiteral("device"), row.toVariantMap());
             lines.append(report);
         }
-        return SceneOutcome{.value = QVariantMap{{QStringLiteral("refusal"), opened->refusal},
+        return PageOutcome{.value = QVariantMap{{QStringLiteral("refusal"), opened->refusal},
                                                  {QStringLiteral("lines"), lines}},
                             .take = [this, opened] {
                                 m_opened = opened;

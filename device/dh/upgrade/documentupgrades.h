@@ -2,7 +2,7 @@
 #pragma once
 
 #include "device/dh/upgrade/upgradedocument.h"
-#include "device/registry/scenestep.h"
+#include "device/registry/pagestep.h"
 #include "device/registry/upgradeplan.h"
 
 #include <QHash>
@@ -33,7 +33,7 @@ public:
     [[nodiscard]] QVariantList report(const QString &path, QString &refusal) const;
 
     /// See CDeviceBase::upgradeDocumentReading().
-    [[nodiscard]] SceneStep reading(const QString &path);
+    [[nodiscard]] PageStep reading(const QString &path);
 
     /// Upgrades all lines of these documents. The progress signals name a document by its entry in `paths`;
     /// at 100 % its results are written.

@@ -177,7 +177,7 @@ private Q_SLOTS:
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^Failed to open file: .*/"));
         m_adding->importList("Import", m_folder.filePath("none.csv"));
         QTRY_COMPARE(refused.size(), 1);
-        QVERIFY(!m_batches->current() && !m_factory->busyState()->areRowsHeld());
+        QVERIFY(!m_batches->current() && !m_factory->busyState()->areRowsInUse());
     }
 
     void theRestOfAStoppedListIsReported()

@@ -435,9 +435,9 @@ private Q_SLOTS:
         m_site->site->requests().clear();
         m_site->stopTime();
         bool isLoggedIn = false;
-        m_site->factory->backEnd("dh")->runForScene(
+        m_site->factory->backEnd("dh")->runForPage(
             m_site->factory->backEnd("dh")->loginStep("192.168.1.1:37777", "admin", "secret1"), {},
-            [&isLoggedIn](const SceneOutcome &) { isLoggedIn = true; });
+            [&isLoggedIn](const PageOutcome &) { isLoggedIn = true; });
         QTRY_VERIFY(!askedMacs("NetLoginSecure").isEmpty()); // the response is delayed
 
         struct Steps

@@ -268,7 +268,7 @@ private Q_SLOTS:
         QStringList names;
         for (int place = 0; place < 600; ++place) {
             names.append(QStringLiteral("02:%1").arg(place));
-            test.store->putRow({{DeviceRowKey::mac, names.last()},
+            test.store->upsertRow({{DeviceRowKey::mac, names.last()},
                                 {DeviceRowKey::ipport, QStringLiteral("10.0.0.1:%1").arg(1000 + place)},
                                 {DeviceRowKey::filepath, test.file()}});
         }
@@ -347,7 +347,7 @@ private Q_SLOTS:
         preview.readDocument(test.file());
         QCOMPARE(refusalOf(preview, path), QString());
         QCOMPARE(read.size(), 1);
-        QVERIFY(!test.factory->busyState()->areRowsHeld());
+        QVERIFY(!test.factory->busyState()->areRowsInUse());
     }
 
     /// This also applies if a device does not respond.

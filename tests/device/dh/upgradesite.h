@@ -34,7 +34,7 @@ public:
                      store, site->libraries(), [] { return SearchSettings(); }, limits, engine);
              }}});
         for (int place = 0; place < count; ++place)
-            store->putRow({{DeviceRowKey::mac, mac(place)},
+            store->upsertRow({{DeviceRowKey::mac, mac(place)},
                            {DeviceRowKey::ipport, ipport(place)},
                            {DeviceRowKey::model, QStringLiteral("B-2230-IR")},
                            {DeviceRowKey::upgraderes, -1}});

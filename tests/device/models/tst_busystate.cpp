@@ -80,7 +80,7 @@ private Q_SLOTS:
         QTEST(state.losesEdits(action), "losesEdits");
         const int search = state.begin(QStringLiteral("searching"), BusyState::Listing);
         QCOMPARE(state.refusal(action).contains(QStringLiteral("Esc")), waitsForSearch);
-        QVERIFY(!state.areRowsHeld());
+        QVERIFY(!state.areRowsInUse());
 
         const int copy = state.begin(copying.first(), BusyState::Rows);
         QCOMPARE(state.refusal(action).contains(copying.first()), action != BusyState::ChangeTab);
@@ -100,7 +100,7 @@ private Q_SLOTS:
         report->setState(&state);
         QVERIFY(state.refusal(BusyState::Close).contains(copying.first()));
         report->setActive(false);
-        QVERIFY(!state.areRowsHeld());
+        QVERIFY(!state.areRowsInUse());
 
         report->setActive(true);
         QSignalSpy changes(&state, &BusyState::changed);
@@ -108,7 +108,7 @@ private Q_SLOTS:
         QCOMPARE(changes.count(), 0);
         QVERIFY(state.refusal(BusyState::Search).contains(both.last()));
         report.reset();
-        QVERIFY(!state.areRowsHeld());
+        QVERIFY(!state.areRowsInUse());
     }
 
     void aDeviceListedTwiceCountsAsTwo()

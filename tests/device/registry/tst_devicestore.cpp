@@ -99,7 +99,7 @@ private Q_SLOTS:
         const sdk::SearchAnswer ipv4 = searchAnswer({});
         const sdk::SearchAnswer ipv6 = searchAnswer({.address = "fe80::1", .ipVersion = 6});
         const QString mac = "02:1a:c5:00:40:17";
-        m_store->putRow({{"mac", "added by hand"}});
+        m_store->upsertRow({{"mac", "added by hand"}});
         m_store->addAnswer(ipv4);
         m_store->addAnswer(ipv6);
         m_store->removeRows({mac, "added by hand"});
@@ -108,7 +108,7 @@ private Q_SLOTS:
         m_store->addAnswer(ipv6);
         m_store->addAnswer(searchAnswer({.mac = "added by hand"}));
         QCOMPARE(m_store->ipv4Rows().size() + m_store->ipv6Rows().size(), 0);
-        m_store->putRow({{"mac", mac}});
+        m_store->upsertRow({{"mac", mac}});
         QCOMPARE(m_store->ipv4Rows().size(), 1);
         m_store->clear();
         QVERIFY(m_store->addAnswer(ipv4).added);
@@ -170,7 +170,7 @@ private Q_SLOTS:
         QCOMPARE(sdk::blockText(m_store->record(name)->device.address), "192.168.1.65");
         // Another device at the old address is not mistaken for it, and is recognised itself.
         for (int time = 0; time < 2; ++time)
-            m_store->putRow({{"ipport", name}}, searchAnswer({.mac = ""}));
+            m_store->upsertRow({{"ipport", name}}, searchAnswer({.mac = ""}));
         QCOMPARE(values(m_store->ipv4Rows(), DeviceRowKey::name), QStringList({"gate", ""}));
         QCOMPARE(sdk::blockText(m_store->record(name + "#1")->device.address), "192.168.1.64");
     }
@@ -271,7 +271,7 @@ private Q_SLOTS:
         QCOMPARE(m_store->nameOf(searchAnswer({.mac = "m2", .uuid = "5f5a"})), QString());
         // The row at the address of a response takes precedence over its UUID, because any device may report
         // that UUID.
-        m_store->putRow({{"ipport", "192.168.1.66:37777"}});
+        m_store->upsertRow({{"ipport", "192.168.1.66:37777"}});
         const AnswerTexts listed = {.address = "192.168.1.66", .mac = "", .uuid = "5f5a"};
         QCOMPARE(m_store->nameOf(searchAnswer(listed)), "192.168.1.66:37777");
     }

@@ -19,16 +19,16 @@ public:
     int taken = 0;
     QList<std::function<void()>> ends; ///< of the operations, in order
 
-    SceneStep loginStep(const QString &, const QString &, const QString &) override
+    PageStep loginStep(const QString &, const QString &, const QString &) override
     {
         return [this](const StepControl &) {
-            return SceneOutcome{.value = 0, .take = [this] {
+            return PageOutcome{.value = 0, .take = [this] {
                                     ++taken;
                                 }};
         };
     }
-    void runForScene(const SceneStep &step, const std::stop_token &,
-                     const std::function<void(const SceneOutcome &outcome)> &ended) override
+    void runForPage(const PageStep &step, const std::stop_token &,
+                     const std::function<void(const PageOutcome &outcome)> &ended) override
     {
         ends.append([step, ended] { ended(step(StepControl())); });
     }

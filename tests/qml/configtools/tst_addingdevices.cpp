@@ -56,11 +56,11 @@ public:
         };
     }
 
-    void runForScene(const SceneStep &step, const std::stop_token &,
-                     const std::function<void(const SceneOutcome &outcome)> &ended) override
+    void runForPage(const PageStep &step, const std::stop_token &,
+                     const std::function<void(const PageOutcome &outcome)> &ended) override
     {
         threads.start([this, step, ended] {
-            const SceneOutcome of = step(StepControl());
+            const PageOutcome of = step(StepControl());
             QMetaObject::invokeMethod(
                 this, [ended, of] { ended(of); }, Qt::QueuedConnection);
         });
@@ -171,7 +171,7 @@ private Q_SLOTS:
             m_window->update();
             QTRY_VERIFY(painted.size() > frames);
         }
-        QVERIFY(dialog()->property("busy").toBool() && m_site->busyState()->areRowsHeld());
+        QVERIFY(dialog()->property("busy").toBool() && m_site->busyState()->areRowsInUse());
         m_devices->gate.release();
         QTRY_VERIFY(!dialog()->property("busy").toBool());
         QCOMPARE(m_devices->asked, QStringList(opener == "openIp" ? "10.0.0.1 secret" : "OV7 secret"));
@@ -194,7 +194,7 @@ private Q_SLOTS:
         QTRY_COMPARE(m_devices->asked.size(), 1);
         press("reject");
         QTRY_VERIFY(!dialog()->property("visible").toBool());
-        QVERIFY(!m_site->busyState()->areRowsHeld());
+        QVERIFY(!m_site->busyState()->areRowsInUse());
         m_devices->gate.release();
         m_devices->threads.waitForDone();
         QCoreApplication::processEvents();
@@ -276,7 +276,7 @@ private Q_SLOTS:
         QMetaObject::invokeMethod(item("stopButton"), "clicked");
         m_devices->gate.release();
         QTRY_COMPARE(words(), QStringList({"密码错误", "已添加", "未执行"}));
-        QVERIFY(!m_site->busyState()->areRowsHeld());
+        QVERIFY(!m_site->busyState()->areRowsInUse());
     }
 
     /// Typed notes are limited in length; notes from other sources are not.

@@ -58,7 +58,7 @@ private:
             results.append(m_tree->index(row, 0, group).data(OVTreeModel::CopyRetRole).toInt());
         return results;
     }
-    [[nodiscard]] bool isRunning() const { return m_site->factory->busyState()->areRowsHeld(); }
+    [[nodiscard]] bool isRunning() const { return m_site->factory->busyState()->areRowsInUse(); }
 
     void checkOldPassword() const
     {

@@ -148,7 +148,7 @@ private Q_SLOTS:
     {
         QFETCH(const QString, text);
         QFETCH(const int, bytes);
-        QTEST(ByteText::cutTo(text, bytes), "truncated");
+        QTEST(ByteText::truncated(text, bytes), "truncated");
     }
 
     void changesCountUntilTheyAreSavedOrReverted()

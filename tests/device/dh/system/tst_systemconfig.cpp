@@ -98,8 +98,8 @@ private Q_SLOTS:
         m_results = std::make_unique<QSignalSpy>(m_factory.get(), &CDeviceFactory::signalRetToSystemConfig);
         m_enabled =
             std::make_unique<QSignalSpy>(m_factory.get(), &CDeviceFactory::signalSystemConfigEnablePassword);
-        m_store->putRow({{"mac", cameraMac}, {"ipport", camera}});
-        m_store->putRow(
+        m_store->upsertRow({{"mac", cameraMac}, {"ipport", camera}});
+        m_store->upsertRow(
             {{"mac", recorderMac}, {"ipport", recorder}, {"username", "admin"}, {"password", "secret1"}});
         m_factory->setDefaultAccount("dh", "admin", "secret1");
     }
