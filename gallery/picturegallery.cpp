@@ -172,8 +172,7 @@ QVariantList PictureGallery::devices() const
         if (cell.identity == last)
             continue;
         last = cell.identity;
-        devices.append(
-            QVariantMap{{QStringLiteral("ipport"), cell.ipport}, {QStringLiteral("name"), cell.device}});
+        devices.append(QVariantMap{{DeviceRowKey::ipport, cell.ipport}, {DeviceRowKey::name, cell.device}});
     }
     return devices;
 }
@@ -186,7 +185,7 @@ bool PictureGallery::show(const QVariantList &rows)
     beginResetModel();
     for (const QVariant &value : rows) {
         const QVariantMap row = value.toMap();
-        const QString identity = row.value(QStringLiteral("identity")).toString();
+        const QString identity = row.value(DeviceRowKey::identity).toString();
         if (identity.isEmpty() || known.contains(identity))
             continue;
         known.insert(identity);
@@ -404,7 +403,7 @@ void PictureGallery::setChannels(const QString &identity, const QVariantList &ch
         Cell &cell = m_cells[before.first + place];
         const QVariantMap channel = channels.at(place).toMap();
         cell.channel = channel.value(QStringLiteral("channel")).toInt();
-        cell.name = channelCount > 1 ? channel.value(QStringLiteral("name")).toString() : QString();
+        cell.name = channelCount > 1 ? channel.value(DeviceRowKey::name).toString() : QString();
         cell.note.clear();
     }
     if (channelCount > wanted)

@@ -2,6 +2,7 @@
 
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
+#include "device/registry/mapkeys.h"
 #include "sdk/threadpriority.h"
 
 #include <algorithm>
@@ -113,7 +114,7 @@ Batch *AddingBatches::addDevices(const QString &title, const QVariantList &devic
         const DeviceToAdd target = deviceToAdd(values);
         BatchDevice device =
             batchDevice(m_factory, dhFamily, QStringLiteral("%1:%2").arg(target.address).arg(target.port));
-        const QString identity = values.value(QStringLiteral("identity")).toString();
+        const QString identity = values.value(ResultKey::identity).toString();
         if (targets.contains(device.name))
             device.name += QStringLiteral(" (%1)").arg(identity);
         const std::pair account(target.account, target.password);
@@ -132,9 +133,9 @@ Batch *AddingBatches::addDevices(const QString &title, const QVariantList &devic
         QVariantList results;
         for (const auto &[device, outcome] : outcomes)
             results.append(QVariantMap{
-                {QStringLiteral("identity"), identities.value(device.name)},
-                {QStringLiteral("result"), outcome.result},
-                {QStringLiteral("words"), outcome.text.isEmpty() ? resultName(outcome.result) : outcome.text},
+                {ResultKey::identity, identities.value(device.name)},
+                {ResultKey::result, outcome.result},
+                {ResultKey::words, outcome.text.isEmpty() ? resultName(outcome.result) : outcome.text},
             });
         Q_EMIT tried(results);
     };

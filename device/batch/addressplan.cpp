@@ -1,5 +1,6 @@
 #include "device/batch/addressplan.h"
 
+#include "device/models/modelkeys.h"
 #include "device/registry/devicerow.h"
 #include "device/registry/ipv4address.h"
 
@@ -159,6 +160,6 @@ QString AddressPlan::otherDeviceAt(int row) const
 QVariantMap AddressPlan::valuesOf(int row) const
 {
     QVariantMap values = BatchPreview::valuesOf(row);
-    values.insert(QStringLiteral("mark"), isChecked(row) ? markOf(row) : Fine);
+    values.insert(RowKey::mark, isChecked(row) ? markOf(row) : Fine);
     return values;
 }

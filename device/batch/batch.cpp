@@ -1,5 +1,7 @@
 #include "device/batch/batch.h"
 
+#include "device/models/modelkeys.h"
+
 #include <QCryptographicHash>
 #include <QSet>
 
@@ -435,9 +437,9 @@ QVariantList Batch::wordsOf(const QStringList &devices) const
         if (!entry)
             continue;
         const StepOutcome &outcome = entry->outcome;
-        words.append(QVariantMap{
-            {QStringLiteral("device"), device},
-            {QStringLiteral("words"), outcome.text.isEmpty() ? resultName(outcome.result) : outcome.text}});
+        words.append(
+            QVariantMap{{RowKey::device, device},
+                        {RowKey::words, outcome.text.isEmpty() ? resultName(outcome.result) : outcome.text}});
     }
     return words;
 }

@@ -2,10 +2,13 @@
 
 #include "device/batch/addressorder.h"
 #include "device/batch/occupiedaddresses.h"
+#include "device/models/modelkeys.h"
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicerow.h"
 #include "device/registry/devicestore.h"
 #include "device/registry/logging.h"
+#include "device/registry/mapkeys.h"
+#include "device/registry/systemkeys.h"
 #include "device/registry/upgradetools.h"
 #include "sdk/threadpriority.h"
 
@@ -74,8 +77,8 @@ std::function<DeviceAccount(const BatchDevice &device)> Batches::rowAccounts(con
 {
     return [this, family](const BatchDevice &device) {
         const QVariantMap account = m_factory.accountOf(family, device.identity);
-        return DeviceAccount{.account = account.value(QStringLiteral("account")).toString(),
-                             .password = account.value(QStringLiteral("password")).toString()};
+        return DeviceAccount{.account = account.value(AccountKey::account).toString(),
+                             .password = account.value(AccountKey::password).toString()};
     };
 }
 
@@ -89,7 +92,7 @@ Batch *Batches::configureSystem(const QString &family, const QString &command, c
 {
     QVariantMap values = data;
     if (command == QLatin1String("setTimeByPC"))
-        values.insert(QStringLiteral("timeOfRequest"), true);
+        values.insert(SystemDataKey::timeOfRequest, true);
     return start(
         {.family = family,
          .title = title,
@@ -120,7 +123,7 @@ Batch *Batches::nameCameras(const QString &family, const QString &title, const Q
                   .stepOf = [this, family, nameAt](const BatchDevice &device) -> DeviceStep {
                       const QString name = nameAt.value(device.ipport);
                       const DeviceStep step = m_factory.backEnd(family)->systemStep(
-                          QStringLiteral("channelName"), {{QStringLiteral("name"), name}}, device.ipport);
+                          SystemCommand::channelName, {{SystemDataKey::name, name}}, device.ipport);
                       return [step, name](const StepControl &control) {
                           StepOutcome outcome = step(control);
                           if (outcome.result == BatchReport::Succeeded)
@@ -141,10 +144,9 @@ Batch *Batches::nameCameras(const QString &family, const QString &title, const Q
 
 void Batches::noteCameraName(const QString &family, const BatchDevice &device, const QString &name)
 {
-    const QString type =
-        m_factory.getDeviceInfo(family, device.ipport).value(QStringLiteral("type")).toString();
+    const QString type = m_factory.getDeviceInfo(family, device.ipport).value(DeviceRowKey::type).toString();
     if (!isRecorderType(type))
-        m_factory.updataDeviceInfo(family, QStringLiteral("name"), name, device.identity, device.ipport);
+        m_factory.updataDeviceInfo(family, DeviceRowKey::name, name, device.identity, device.ipport);
 }
 
 Batch *Batches::setFirstPasswords(const QString &family, const QString &title, const QStringList &macs,
@@ -195,13 +197,12 @@ QVariantList Batches::addressesToPutBack(Batch *batch) const
         const QString &identity = entry.device.identity;
         const AddressSettings before = batch->plan().addressesBefore.value(identity);
         const BatchDevice now = deviceNow(batch->plan(), entry);
-        QVariantMap values = {
-            {QStringLiteral("name"), identity},
-            {QStringLiteral("ipport"), now.ipport},
-            {QStringLiteral("action"), before.dhcp ? QStringLiteral("DHCP") : before.address},
-            {QStringLiteral("newAddress"), before.dhcp ? QString() : before.address}};
+        QVariantMap values = {{DeviceRowKey::name, identity},
+                              {DeviceRowKey::ipport, now.ipport},
+                              {RowKey::action, before.dhcp ? QStringLiteral("DHCP") : before.address},
+                              {RowKey::newAddress, before.dhcp ? QString() : before.address}};
         if (m_factory.backEnd(batch->plan().family)->deviceRow(identity).isEmpty()) {
-            values.insert(QStringLiteral("title"), now.title);
+            values.insert(RowKey::title, now.title);
             values.insert(DeviceRowKey::mac, macOf(now));
         }
         entries.append(values);
@@ -258,11 +259,11 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
         const QVariantMap detail = m_factory.getDeviceDetail(plan.family, device.name);
         // Of a device without a row only the address is known; the other values are those of the target.
         const AddressSettings target = targets.value(device.identity);
-        const AddressSettings shown = {
-            .address = device.ipport.section(QLatin1Char(':'), 0, 0),
-            .mask = detail.value(QStringLiteral("submask"), target.mask).toString(),
-            .gateway = detail.value(QStringLiteral("gateway"), target.gateway).toString(),
-            .dhcp = detail.value(QStringLiteral("dhcp")).toBool()};
+        const AddressSettings shown = {.address = device.ipport.section(QLatin1Char(':'), 0, 0),
+                                       .mask = detail.value(DeviceDetailKey::submask, target.mask).toString(),
+                                       .gateway =
+                                           detail.value(DeviceDetailKey::gateway, target.gateway).toString(),
+                                       .dhcp = detail.value(DeviceDetailKey::dhcp).toBool()};
         const AddressSettings before = settingsBeforeFailure(device.identity).value_or(shown);
         plan.addressesBefore.insert(device.identity, before);
         changes.append({.oldAddress = before.address, .newAddress = targets.value(device.identity).address});
@@ -521,7 +522,7 @@ void Batches::finish(Batch *batch, int work)
         if (isReached)
             reached.append(entry.device.identity);
         else if (plan.notesResults)
-            m_factory.updataDeviceInfo(plan.family, QStringLiteral("res"), result, entry.device.identity,
+            m_factory.updataDeviceInfo(plan.family, DeviceRowKey::res, result, entry.device.identity,
                                        QString());
     }
     if (plan.changesRows)

@@ -1,5 +1,7 @@
 #include "device/batch/batchhistory.h"
 
+#include "device/models/modelkeys.h"
+
 #include <utility>
 
 BatchHistory::BatchHistory(QObject *parent) : DialogRows(parent) {}
@@ -67,11 +69,11 @@ QVariantMap BatchHistory::valuesOf(int row) const
     const BatchReport &report = *batch.report();
     const int counted = batch.isRunning() ? batch.done() : report.succeeded() + report.waiting();
     return {
-        {QStringLiteral("identity"), batch.began().toString(Qt::ISODateWithMs)},
-        {QStringLiteral("title"), batch.title()},
-        {QStringLiteral("time"), batch.began().toString(QStringLiteral("HH:mm:ss"))},
-        {QStringLiteral("counts"), QStringLiteral("%1 / %2").arg(counted).arg(batch.total())},
-        {QStringLiteral("complete"), !batch.isRunning() && report.failed() + report.notDone() == 0},
-        {QStringLiteral("running"), batch.isRunning()},
+        {RowKey::identity, batch.began().toString(Qt::ISODateWithMs)},
+        {RowKey::title, batch.title()},
+        {RowKey::time, batch.began().toString(QStringLiteral("HH:mm:ss"))},
+        {RowKey::counts, QStringLiteral("%1 / %2").arg(counted).arg(batch.total())},
+        {RowKey::complete, !batch.isRunning() && report.failed() + report.notDone() == 0},
+        {RowKey::running, batch.isRunning()},
     };
 }

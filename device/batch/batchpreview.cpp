@@ -1,5 +1,6 @@
 #include "device/batch/batchpreview.h"
 
+#include "device/models/modelkeys.h"
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
 #include "device/registry/devicerow.h"
@@ -10,18 +11,12 @@
 
 namespace {
 
-// Keys of setEntries() in addition to row keys.
-const QString actionKey = QStringLiteral("action");
-const QString hindranceKey = QStringLiteral("hindrance");
-const QString newAddressKey = QStringLiteral("newAddress");
-
 /// The values of a device that a row keeps.
 QVariantMap shownOf(const QVariantMap &device, const QString &identity)
 {
-    QVariantMap shown = {
-        {QStringLiteral("identity"), identity},
-        {QStringLiteral("title"), deviceTitle(device.value(DeviceRowKey::name).toString(),
-                                              device.value(DeviceRowKey::model).toString())}};
+    QVariantMap shown = {{RowKey::identity, identity},
+                         {RowKey::title, deviceTitle(device.value(DeviceRowKey::name).toString(),
+                                                     device.value(DeviceRowKey::model).toString())}};
     for (const QLatin1StringView key :
          {DeviceRowKey::mac, DeviceRowKey::type, DeviceRowKey::model, DeviceRowKey::ipport,
           DeviceRowKey::vision, DeviceRowKey::state, DeviceRowKey::upgraderes, DeviceRowKey::lost}) {
@@ -86,19 +81,18 @@ void BatchPreview::setEntries(const QVariantList &entries)
     rows.reserve(entries.size());
     for (const QVariant &value : entries) {
         const QVariantMap entry = value.toMap();
-        const QString name = entry.value(QStringLiteral("name")).toString();
+        const QString name = entry.value(DeviceRowKey::name).toString();
         const QVariant ipport = entry.value(DeviceRowKey::ipport);
         QVariantMap row = shownOf(listed.value(listed.contains(name) ? name : ipport.toString()), name);
         if (row.value(DeviceRowKey::mac).toString().isEmpty() && entry.contains(DeviceRowKey::mac))
             row.insert(DeviceRowKey::mac, entry.value(DeviceRowKey::mac)); // device without a row
-        QStringList titles = {entry.value(QStringLiteral("title")).toString(),
-                              row.value(QStringLiteral("title")).toString()};
+        QStringList titles = {entry.value(RowKey::title).toString(), row.value(RowKey::title).toString()};
         titles.removeAll(QString());
-        row.insert(QStringLiteral("title"), titles.join(QStringLiteral(" · ")));
+        row.insert(RowKey::title, titles.join(QStringLiteral(" · ")));
         row.insert(DeviceRowKey::ipport, ipport);
-        row.insert(actionKey, entry.value(actionKey));
-        row.insert(hindranceKey, entry.value(hindranceKey));
-        row.insert(newAddressKey, entry.value(newAddressKey));
+        row.insert(RowKey::action, entry.value(RowKey::action));
+        row.insert(RowKey::hindrance, entry.value(RowKey::hindrance));
+        row.insert(RowKey::newAddress, entry.value(RowKey::newAddress));
         rows.append(row);
     }
     setRows(rows);
@@ -113,7 +107,7 @@ QHash<QString, QVariantMap> BatchPreview::devicesByName() const
         const QJsonObject row = value.toJsonObject();
         const QString ipport = row.value(DeviceRowKey::ipport).toString();
         QVariantMap device = row.toVariantMap();
-        device.insert(QStringLiteral("identity"), rowName(row));
+        device.insert(RowKey::identity, rowName(row));
         devices.insert(rowName(row), device);
         const auto known = devices.constFind(ipport);
         if (known == devices.cend() || known->value(DeviceRowKey::lost).toBool()) // same choice as operations
@@ -183,7 +177,7 @@ QString BatchPreview::warnings() const
 QString BatchPreview::hindranceOf(int row) const
 {
     const QVariantMap device = deviceAt(row);
-    QString own = device.value(hindranceKey).toString();
+    QString own = device.value(RowKey::hindrance).toString();
     if (!own.isEmpty())
         return own;
     if (!device.value(DeviceRowKey::state, true).toBool())
@@ -209,8 +203,8 @@ BatchPreview::Judgement BatchPreview::judgementOf(int row) const
     if (!hindrance.isEmpty())
         return {.kind = Skipped, .note = hindrance};
     const QVariantMap device = deviceAt(row);
-    const QString action = device.value(actionKey, m_action).toString();
-    if (isTaken(device.value(newAddressKey).toString(), identityOf(device)))
+    const QString action = device.value(RowKey::action, m_action).toString();
+    if (isTaken(device.value(RowKey::newAddress).toString(), identityOf(device)))
         return {.kind = Warned, .action = action, .note = tr("与其他设备冲突"), .isConflict = true};
     const int own = device.value(DeviceRowKey::lost).toBool() ? 0 : 1;
     if (m_devicesAt.value(addressAndPortOf(row)) > own)
@@ -228,7 +222,7 @@ void BatchPreview::rejudge()
     m_newAddresses.clear();
     for (int row = 0; row < rowCount(); ++row) {
         const QVariantMap device = deviceAt(row);
-        const QString newAddress = device.value(newAddressKey).toString();
+        const QString newAddress = device.value(RowKey::newAddress).toString();
         if (isChecked(row) && !newAddress.isEmpty() && hindranceOf(row).isEmpty()) {
             m_readdressed.insert(identityOf(device));
             ++m_newAddresses[newAddress];
@@ -253,9 +247,9 @@ QVariantMap BatchPreview::valuesOf(int row) const
     QVariantMap values = DeviceSelection::valuesOf(row);
     const Judgement judgement = m_judgements.value(row); // not computed yet during setRows()
     values.insert(DeviceRowKey::num, row + 1);
-    values.insert(QStringLiteral("action"), judgement.action);
-    values.insert(QStringLiteral("note"), judgement.note);
-    values.insert(QStringLiteral("kind"), judgement.kind);
+    values.insert(RowKey::action, judgement.action);
+    values.insert(RowKey::note, judgement.note);
+    values.insert(RowKey::kind, judgement.kind);
     return values;
 }
 

@@ -1,5 +1,8 @@
 #include "device/batch/batchresultmodel.h"
 
+#include "device/models/modelkeys.h"
+#include "device/registry/devicerow.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -94,12 +97,12 @@ QVariantMap BatchResultModel::valuesOf(int row) const
     const Batch::Entry &entry = m_batch->entries().at(place);
     const State state = stateOf(*m_batch, place);
     return {
-        {QStringLiteral("identity"), QString::number(place)},
-        {QStringLiteral("device"), entry.device.ipport},
-        {QStringLiteral("mac"), macOf(entry.device)},
-        {QStringLiteral("name"), entry.device.title},
-        {QStringLiteral("result"), state == ToCome ? QString() : outcomeText(entry.outcome)},
-        {QStringLiteral("time"), entry.time.toString(QStringLiteral("HH:mm:ss"))},
-        {QStringLiteral("state"), state},
+        {RowKey::identity, QString::number(place)},
+        {RowKey::device, entry.device.ipport},
+        {DeviceRowKey::mac, macOf(entry.device)},
+        {DeviceRowKey::name, entry.device.title},
+        {DeviceRowKey::result, state == ToCome ? QString() : outcomeText(entry.outcome)},
+        {RowKey::time, entry.time.toString(QStringLiteral("HH:mm:ss"))},
+        {RowKey::state, state},
     };
 }

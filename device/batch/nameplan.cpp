@@ -1,5 +1,6 @@
 #include "device/batch/nameplan.h"
 
+#include "device/models/modelkeys.h"
 #include "device/registry/bytetext.h"
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
@@ -13,9 +14,7 @@ namespace {
 
 QVariantMap entryOf(const QString &name, const QString &title, const QString &ipport)
 {
-    return {{QStringLiteral("name"), name},
-            {QStringLiteral("title"), title},
-            {QString(DeviceRowKey::ipport), ipport}};
+    return {{DeviceRowKey::name, name}, {RowKey::title, title}, {QString(DeviceRowKey::ipport), ipport}};
 }
 
 /// The last number of the IPv4 address; empty for an IPv6 address.

@@ -4,6 +4,7 @@
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
 #include "device/registry/devicerow.h"
+#include "device/registry/mapkeys.h"
 #include "sdk/firmwarehead.h"
 
 #include <QFileInfo>
@@ -71,23 +72,23 @@ void UpgradePreview::takeDocument(const QVariantMap &document)
     endReading();
     m_upgrades.clear();
     QVariantList devices;
-    const QVariantList lines = document.value(QStringLiteral("lines")).toList();
+    const QVariantList lines = document.value(UpgradeDocumentKey::lines).toList();
     for (const QVariant &value : lines) {
         const QVariantMap line = value.toMap();
-        const int number = line.value(QStringLiteral("line")).toInt();
-        QVariantMap device = line.value(QStringLiteral("device")).toMap();
+        const int number = line.value(ListLineKey::line).toInt();
+        QVariantMap device = line.value(ListLineKey::device).toMap();
         device.insert(identityKey, QString::number(number));
-        device.insert(DeviceRowKey::ipport, line.value(QStringLiteral("address")));
+        device.insert(DeviceRowKey::ipport, line.value(ListLineKey::address));
         m_upgrades.insert(QString::number(number),
                           {.device = device.value(DeviceRowKey::vision).toString(),
-                           .file = QFileInfo(line.value(QStringLiteral("file")).toString()).fileName(),
-                           .version = line.value(QStringLiteral("version")).toString(),
-                           .refusal = line.value(QStringLiteral("code")).toInt(),
+                           .file = QFileInfo(line.value(ListLineKey::file).toString()).fileName(),
+                           .version = line.value(ListLineKey::version).toString(),
+                           .refusal = line.value(ListLineKey::code).toInt(),
                            .line = number});
         devices.append(device);
     }
     setDevices(devices);
-    const QString refusal = document.value(QStringLiteral("refusal")).toString();
+    const QString refusal = document.value(UpgradeDocumentKey::refusal).toString();
     Q_EMIT documentRead(refusal.isEmpty() && lines.isEmpty() ? tr("文档中没有设备") : refusal);
 }
 

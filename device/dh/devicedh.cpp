@@ -19,6 +19,7 @@
 #include "device/dh/upgrade/upgradeorders.h"
 #include "device/dh/upgrade/upgraderound.h"
 #include "device/registry/logging.h"
+#include "device/registry/mapkeys.h"
 #include "sdk/netlibrary.h"
 
 #include <utility>
@@ -261,7 +262,7 @@ QString CDeviceDH::upgradeDocumentResult()
 QVariantMap CDeviceDH::upgradeDocumentProgress()
 {
     const UpgradeDocuments::Progress progress = m_upgrades->documents().progress();
-    return {{QStringLiteral("done"), progress.done}, {QStringLiteral("total"), progress.total}};
+    return {{ProgressKey::done, progress.done}, {ProgressKey::total, progress.total}};
 }
 
 int CDeviceDH::upgradeDocumentSuccesses()
@@ -420,7 +421,7 @@ bool CDeviceDH::isInSession(const QString &ipport)
 }
 
 void CDeviceDH::runForPage(const PageStep &step, const std::stop_token &stop,
-                            const std::function<void(const PageOutcome &outcome)> &ended)
+                           const std::function<void(const PageOutcome &outcome)> &ended)
 {
     m_threads->runForPage(step, stop, ended);
 }

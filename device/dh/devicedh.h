@@ -94,7 +94,7 @@ public:
     PageStep detailStep(const QString &ipport) override;
     OwnSessionStep ownSessionStep(const OwnSessionOrder &order) override;
     void runForPage(const PageStep &step, const std::stop_token &stop,
-                     const std::function<void(const PageOutcome &outcome)> &ended) override;
+                    const std::function<void(const PageOutcome &outcome)> &ended) override;
 
     // FoundDevices
     void setInitAccount(const QString &mac, const QString &account, const QString &password) override;

@@ -1,5 +1,6 @@
 #include "device/models/accountlist.h"
 
+#include "device/models/modelkeys.h"
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
 #include "device/registry/devicerow.h"
@@ -40,12 +41,11 @@ QVariantMap AccountList::valuesOf(int row) const
 {
     const bool isDefault = row == 0;
     const StoredAccount account = isDefault ? StoredAccount() : m_accounts.at(row - 1);
-    return {
-        {QStringLiteral("identity"), isDefault ? QStringLiteral("default") : accountPrefix + account.name},
-        {QStringLiteral("name"), account.name},
-        {QStringLiteral("account"), isDefault ? m_default.account : account.account},
-        {QStringLiteral("deviceCount"), m_deviceCounts.value(account.name)},
-        {QStringLiteral("isDefault"), isDefault}};
+    return {{RowKey::identity, isDefault ? QStringLiteral("default") : accountPrefix + account.name},
+            {DeviceRowKey::name, account.name},
+            {RowKey::account, isDefault ? m_default.account : account.account},
+            {RowKey::deviceCount, m_deviceCounts.value(account.name)},
+            {RowKey::isDefault, isDefault}};
 }
 
 QString AccountList::put(const QString &before, const QString &name, const QString &account,

@@ -1,15 +1,13 @@
 #include "device/models/cameraform.h"
 
+#include "device/registry/camerakeys.h"
 #include "device/registry/devicefactory.h"
+#include "device/registry/encodekeys.h"
 
 #include <algorithm>
 #include <array>
 
 namespace {
-
-constexpr std::array groupKeys = {"picture",  "sharpness",    "mirror",        "stable",
-                                  "exposure", "backMode",     "whiteBalance",  "dayNight",
-                                  "inDefog",  "lightControl", "lightControlEx"};
 
 /// Denominators of the exposure times in seconds, shortest time first.
 constexpr std::array shutterParts = {100000, 30000, 10000, 4000, 2000, 500, 250, 100, 50, 25};
@@ -50,7 +48,7 @@ void CameraForm::setDeviceFactory(CDeviceFactory *deviceFactory)
 bool CameraForm::supportsAny() const
 {
     return std::any_of(m_groups.cbegin(), m_groups.cend(), [](const QVariant &group) {
-        return group.toMap().value(QStringLiteral("support")).toBool();
+        return group.toMap().value(CameraGroupKey::support).toBool();
     });
 }
 
@@ -59,18 +57,17 @@ void CameraForm::read()
     const auto value = [this](const QString &key) {
         return m_deviceFactory ? m_deviceFactory->getConfigData(QStringLiteral("dh"), key) : QVariant();
     };
-    m_channels = value(QStringLiteral("channelNum")).toStringList();
+    m_channels = value(EncodeKey::channelNum).toStringList();
     if (m_channels.isEmpty()) // a device that reports no channels has one
         m_channels.append(QStringLiteral("1"));
-    m_channel = value(QStringLiteral("curVideoChannel")).toInt();
-    m_channelName = value(QStringLiteral("curChannelName")).toString();
-    m_switchModes = value(QStringLiteral("allSwitchMode")).toStringList();
-    const QVariant mode = value(QStringLiteral("curSwitchMode"));
+    m_channel = value(EncodeKey::curVideoChannel).toInt();
+    m_channelName = value(CameraKey::curChannelName).toString();
+    m_switchModes = value(CameraKey::allSwitchMode).toStringList();
+    const QVariant mode = value(CameraKey::curSwitchMode);
     m_switchMode = mode.isValid() ? mode.toInt() : -1;
-    for (const char *key : groupKeys) {
-        const QString name = QString::fromLatin1(key);
+    for (const QLatin1StringView name : CameraKey::groups) {
         QVariantMap group = value(name).toMap();
-        group.insert(QStringLiteral("support"), group.value(QStringLiteral("support")).toBool());
+        group.insert(CameraGroupKey::support, group.value(CameraGroupKey::support).toBool());
         m_groups.insert(name, group);
     }
     Q_EMIT changed();
@@ -102,8 +99,8 @@ int CameraForm::shutterPlace(double shortest, double longest) const
 
 QVariantList CameraForm::shutterWrites(double longestNow, double shortest, double longest) const
 {
-    const QVariantList lower = {QStringLiteral("dbExposureValue1"), shortest};
-    const QVariantList upper = {QStringLiteral("dbExposureValue2"), longest};
+    const QVariantList lower = {CameraSetting::shortestShutter, shortest};
+    const QVariantList upper = {CameraSetting::longestShutter, longest};
     return shortest > longestNow ? QVariantList{QVariant(upper), QVariant(lower)}
                                  : QVariantList{QVariant(lower), QVariant(upper)};
 }

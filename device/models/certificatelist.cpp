@@ -1,5 +1,8 @@
 #include "device/models/certificatelist.h"
 
+#include "device/models/modelkeys.h"
+#include "device/registry/devicerow.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -118,13 +121,13 @@ QVariantMap CertificateList::valuesOf(int row) const
     const QString device = QStringLiteral("%1:%2").arg(host).arg(certificate.port);
     const QString begin = certificate.validFrom.section(QLatin1Char(' '), 0, 0);
     const QString end = certificate.validUntil.section(QLatin1Char(' '), 0, 0);
-    return {{QStringLiteral("identity"), device + certificate.identity},
-            {QStringLiteral("device"), device},
-            {QStringLiteral("mac"), certificate.identity},
-            {QStringLiteral("subject"), certificate.subject},
-            {QStringLiteral("validity"),
+    return {{RowKey::identity, device + certificate.identity},
+            {RowKey::device, device},
+            {DeviceRowKey::mac, certificate.identity},
+            {RowKey::subject, certificate.subject},
+            {RowKey::validity,
              begin.isEmpty() && end.isEmpty() ? QString() : begin + QStringLiteral(" – ") + end},
-            {QStringLiteral("fingerprint"), certificate.fingerprint},
-            {QStringLiteral("stored"), certificate.storedFingerprint},
-            {QStringLiteral("changed"), certificate.isChanged()}};
+            {RowKey::fingerprint, certificate.fingerprint},
+            {RowKey::stored, certificate.storedFingerprint},
+            {RowKey::changed, certificate.isChanged()}};
 }

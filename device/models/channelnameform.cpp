@@ -1,7 +1,10 @@
 #include "device/models/channelnameform.h"
 
+#include "device/models/modelkeys.h"
 #include "device/registry/bytetext.h"
+#include "device/registry/devicerow.h"
 #include "device/registry/loginresult.h"
+#include "device/registry/mapkeys.h"
 
 #include <algorithm>
 #include <utility>
@@ -188,14 +191,14 @@ ChannelNameForm::Trouble ChannelNameForm::troubleOf(const Row &row) const
 QVariantMap ChannelNameForm::valuesOf(int row) const
 {
     const Row &channel = m_rows.at(row);
-    return {{QStringLiteral("identity"), QString::number(row)},
-            {QStringLiteral("num"), row + 1},
-            {QStringLiteral("connected"), channel.isConnected},
-            {QStringLiteral("name"), channel.name},
-            {QStringLiteral("saved"), channel.saved},
-            {QStringLiteral("changed"), channel.isChanged()},
-            {QStringLiteral("bytes"), ByteText::bytes(channel.name.trimmed())},
-            {QStringLiteral("trouble"), static_cast<int>(troubleOf(channel))}};
+    return {{RowKey::identity, QString::number(row)},
+            {DeviceRowKey::num, row + 1},
+            {ChannelKey::connected, channel.isConnected},
+            {ChannelKey::name, channel.name},
+            {RowKey::saved, channel.saved},
+            {RowKey::changed, channel.isChanged()},
+            {RowKey::bytes, ByteText::bytes(channel.name.trimmed())},
+            {RowKey::trouble, static_cast<int>(troubleOf(channel))}};
 }
 
 bool ChannelNameForm::isInConflict(int row) const

@@ -1,5 +1,6 @@
 #include "device/models/devicetablemodel.h"
 
+#include "device/models/modelkeys.h"
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
 #include "device/registry/devicerow.h"
@@ -411,10 +412,10 @@ QVariantMap DeviceTableModel::get(int row) const
     QVariantMap values = m_rows.at(row).values.toVariantMap();
     values.insert(DeviceRowKey::checked, checkedIdentities().contains(m_rows.at(row).identity));
     values.insert(DeviceRowKey::num, QString::number(row + 1));
-    values.insert(QStringLiteral("identity"), m_rows.at(row).identity);
+    values.insert(RowKey::identity, m_rows.at(row).identity);
     const bool isLost = m_rows.at(row).values.value(DeviceRowKey::lost).toBool();
-    values.insert(QStringLiteral("failure"), m_failedMarks.wordsOf(m_rows.at(row).identity, isLost));
-    values.insert(QStringLiteral("onlyNotDone"), m_failedMarks.isOnlyNotDone(m_rows.at(row).identity));
+    values.insert(RowKey::failure, m_failedMarks.wordsOf(m_rows.at(row).identity, isLost));
+    values.insert(RowKey::onlyNotDone, m_failedMarks.isOnlyNotDone(m_rows.at(row).identity));
     return values;
 }
 

@@ -1,5 +1,6 @@
 #include "device/models/dialogrows.h"
 
+#include "device/models/modelkeys.h"
 #include "device/registry/devicerow.h"
 
 DialogRows::DialogRows(QObject *parent) : QAbstractListModel(parent) {}
@@ -40,7 +41,7 @@ int DialogRows::rowOf(const QString &identity) const
 
 QString DialogRows::identityOf(const QVariantMap &values)
 {
-    const QString identity = values.value(QStringLiteral("identity")).toString();
+    const QString identity = values.value(RowKey::identity).toString();
     return identity.isEmpty() ? values.value(DeviceRowKey::mac).toString() : identity;
 }
 

@@ -1,6 +1,8 @@
 #include "device/models/encodeform.h"
 
+#include "device/models/modelkeys.h"
 #include "device/registry/devicefactory.h"
+#include "device/registry/encodekeys.h"
 #include "device/registry/loginresult.h"
 #include "sdk/neterror.h"
 
@@ -11,29 +13,13 @@
 
 namespace {
 
-/// The key of a main stream setting, or that of the same setting of the sub stream.
-QString keyOf(bool isSub, const QString &field)
-{
-    return isSub ? QStringLiteral("sub") + field.at(0).toUpper() + field.sliced(1) : field;
-}
-
 /// The indexes (in the stream) of the configuration items that a setting is written with.
-QList<int> itemsOf(const QString &key)
+QList<int> itemsOf(const QString &field)
 {
-    constexpr int videoFormat = 0;
-    constexpr int videoProfile = 1;
-    constexpr int audioCompression = 2;
-    constexpr int audioFormat = 3;
-    const auto is = [&key](const char *field) {
-        return key.endsWith(QLatin1String(field), Qt::CaseInsensitive);
-    };
-    if (is("curEncodeMode"))
-        return {videoFormat, videoProfile};
-    if (is("audioEnable") || is("curAudioCompression"))
-        return {audioCompression};
-    if (is("curSamplingFrequency"))
-        return {audioFormat};
-    return {videoFormat};
+    QList<int> items = {static_cast<int>(encodePlaceOf(field).value_or(EncodePlace::VideoFormat))};
+    if (field == EncodeKey::curEncodeMode)
+        items.append(static_cast<int>(EncodePlace::VideoProfile));
+    return items;
 }
 
 QList<int> placesOf(const QVariant &list)
@@ -72,15 +58,15 @@ QString shownName(const QString &choice)
 
 QVariantMap setting(const QString &key, bool isChanged)
 {
-    return {{QStringLiteral("key"), key},
-            {QStringLiteral("changed"), isChanged},
-            {QStringLiteral("choices"), QStringList()},
-            {QStringLiteral("names"), QStringList()},
-            {QStringLiteral("index"), -1},
-            {QStringLiteral("value"), 0},
-            {QStringLiteral("minimum"), 0},
-            {QStringLiteral("maximum"), 0},
-            {QStringLiteral("usable"), true}};
+    return {{SettingKey::key, key},
+            {SettingKey::changed, isChanged},
+            {SettingKey::choices, QStringList()},
+            {SettingKey::names, QStringList()},
+            {SettingKey::index, -1},
+            {SettingKey::value, 0},
+            {SettingKey::minimum, 0},
+            {SettingKey::maximum, 0},
+            {SettingKey::usable, true}};
 }
 
 } // namespace
@@ -147,20 +133,20 @@ void EncodeForm::set(const QString &key, const QVariant &value)
 void EncodeForm::fetch()
 {
     m_changedCount = 0;
-    m_takenItems = placesOf(value(QStringLiteral("takenItems")));
-    m_unreadPlaces = placesOf(value(QStringLiteral("unreadPlaces")));
-    m_channels = value(QStringLiteral("channelNum")).toStringList();
+    m_takenItems = placesOf(value(EncodeKey::takenItems));
+    m_unreadPlaces = placesOf(value(EncodeKey::unreadPlaces));
+    m_channels = value(EncodeKey::channelNum).toStringList();
     if (m_channels.isEmpty()) // a device that reports no channels has one
         m_channels.append(QStringLiteral("1"));
-    m_channel = value(QStringLiteral("curChannel")).toInt();
-    m_streamTypes = value(QStringLiteral("allStreamType")).toStringList();
-    const QVariant offeredTypes = value(QStringLiteral("offeredStreamTypes"));
+    m_channel = value(EncodeKey::curChannel).toInt();
+    m_streamTypes = value(EncodeKey::allStreamType).toStringList();
+    const QVariant offeredTypes = value(EncodeKey::offeredStreamTypes);
     if (offeredTypes.isValid())
         m_streamTypes.resize(std::min(m_streamTypes.size(), offeredTypes.value<qsizetype>()));
-    m_streamType = value(QStringLiteral("curStreamType")).toInt();
-    m_isComplete = !value(QStringLiteral("encodeMode")).toStringList().isEmpty() &&
-                   !value(QStringLiteral("resolution")).toStringList().isEmpty();
-    m_unreadItems = value(QStringLiteral("unreadItems")).toStringList();
+    m_streamType = value(EncodeKey::curStreamType).toInt();
+    m_isComplete = !value(EncodeKey::encodeMode).toStringList().isEmpty() &&
+                   !value(EncodeKey::resolution).toStringList().isEmpty();
+    m_unreadItems = value(EncodeKey::unreadItems).toStringList();
     m_subStreamTypes = value(QStringLiteral("subAllStreamType")).toStringList();
     m_main = stream(false);
     m_sub = stream(true);
@@ -174,11 +160,10 @@ QVariant EncodeForm::value(const QString &key) const
 
 bool EncodeForm::isTaken(const QString &key) const
 {
-    constexpr int itemsOfStream = 4;
-    const bool isSub = key.startsWith(QLatin1String("sub"));
-    QList<int> places = itemsOf(key);
+    const StreamKey parts = splitEncodeKey(key);
+    QList<int> places = itemsOf(parts.field);
     for (int &place : places)
-        place += isSub ? itemsOfStream : 0;
+        place += parts.isSub ? itemsOfStream : 0;
     // An item that was not read is not written either.
     places.removeIf([this](int place) { return m_unreadPlaces.contains(place); });
     return !places.isEmpty() && std::all_of(places.begin(), places.end(),
@@ -208,12 +193,12 @@ QVariantMap EncodeForm::choice(const QString &list, const QString &current)
     }
     const bool isOnly = std::all_of(choices.cbegin(), choices.cend(),
                                     [&text](const QString &choice) { return choice == text; });
-    map.insert(QStringLiteral("usable"), shown.isValid() && isOffered && !isOnly);
-    map.insert(QStringLiteral("choices"), choices);
+    map.insert(SettingKey::usable, shown.isValid() && isOffered && !isOnly);
+    map.insert(SettingKey::choices, choices);
     QStringList names;
     std::transform(choices.cbegin(), choices.cend(), std::back_inserter(names), shownName);
-    map.insert(QStringLiteral("names"), names);
-    map.insert(QStringLiteral("index"), choices.indexOf(text));
+    map.insert(SettingKey::names, names);
+    map.insert(SettingKey::index, choices.indexOf(text));
     return map;
 }
 
@@ -224,15 +209,15 @@ QVariantMap EncodeForm::bitRate(const QString &list, const QString &current, con
     QVariantMap map = setting(current, noteChange(current, kilobits));
     const QVariant place = value(current);
     if (!place.isValid()) {
-        map.insert(QStringLiteral("usable"), false);
+        map.insert(SettingKey::usable, false);
         return map;
     }
     const bool isStep = place.toInt() >= 0 && place.toInt() < choices.size();
-    map.insert(QStringLiteral("choices"), choices);
+    map.insert(SettingKey::choices, choices);
     // The last entry is "custom": any rate that is not in the list.
-    map.insert(QStringLiteral("index"), isStep ? place.toInt() : static_cast<int>(choices.size()) - 1);
-    map.insert(QStringLiteral("value"), kilobits);
-    map.insert(QStringLiteral("usable"), !choices.isEmpty());
+    map.insert(SettingKey::index, isStep ? place.toInt() : static_cast<int>(choices.size()) - 1);
+    map.insert(SettingKey::value, kilobits);
+    map.insert(SettingKey::usable, !choices.isEmpty());
     return map;
 }
 
@@ -241,42 +226,45 @@ QVariantMap EncodeForm::number(const QString &key, int minimum, int maximum)
     const QVariant shown = value(key);
     const int current = shown.isValid() ? shown.toInt() : minimum - 1;
     QVariantMap map = setting(key, noteChange(key, current));
-    map.insert(QStringLiteral("value"), current);
-    map.insert(QStringLiteral("minimum"), minimum);
-    map.insert(QStringLiteral("maximum"), qMax(maximum, current));
-    map.insert(QStringLiteral("usable"), shown.isValid() && maximum > minimum);
+    map.insert(SettingKey::value, current);
+    map.insert(SettingKey::minimum, minimum);
+    map.insert(SettingKey::maximum, qMax(maximum, current));
+    map.insert(SettingKey::usable, shown.isValid() && maximum > minimum);
     return map;
 }
 
 QVariantMap EncodeForm::stream(bool isSub)
 {
-    const auto key = [isSub](const char *field) {
-        return keyOf(isSub, QString::fromLatin1(field));
+    const auto key = [isSub](QLatin1StringView field) {
+        return encodeKey(isSub, field);
     };
     constexpr int bestQuality = 6;
     QVariantMap map = {
-        {QStringLiteral("encodeMode"), choice(key("encodeMode"), key("curEncodeMode"))},
-        {QStringLiteral("resolution"), choice(key("resolution"), key("curResolution"))},
-        {QStringLiteral("control"), number(key("bitstreamControl"), 0, 1)},
-        {QStringLiteral("bitRate"), bitRate(key("bitStream"), key("curBitStream"), key("bitRate"))},
-        {QStringLiteral("frameRate"), number(key("frameRate"), 1, value(key("frameRateMax")).toInt())},
-        {QStringLiteral("quality"), number(key("quality"), 1, bestQuality)},
-        {QStringLiteral("audioEnable"), number(key("audioEnable"), 0, 1)},
-        {QStringLiteral("audioCompression"), choice(key("audioCompression"), key("curAudioCompression"))},
-        {QStringLiteral("samplingFrequency"), choice(key("samplingFrequency"), key("curSamplingFrequency"))},
+        {EncodeKey::encodeMode, choice(key(EncodeKey::encodeMode), key(EncodeKey::curEncodeMode))},
+        {EncodeKey::resolution, choice(key(EncodeKey::resolution), key(EncodeKey::curResolution))},
+        {EncodeSetting::control, number(key(EncodeKey::bitstreamControl), 0, 1)},
+        {EncodeKey::bitRate,
+         bitRate(key(EncodeKey::bitStream), key(EncodeKey::curBitStream), key(EncodeKey::bitRate))},
+        {EncodeKey::frameRate,
+         number(key(EncodeKey::frameRate), 1, value(key(EncodeKey::frameRateMax)).toInt())},
+        {EncodeKey::quality, number(key(EncodeKey::quality), 1, bestQuality)},
+        {EncodeKey::audioEnable, number(key(EncodeKey::audioEnable), 0, 1)},
+        {EncodeKey::audioCompression,
+         choice(key(EncodeKey::audioCompression), key(EncodeKey::curAudioCompression))},
+        {EncodeKey::samplingFrequency,
+         choice(key(EncodeKey::samplingFrequency), key(EncodeKey::curSamplingFrequency))},
     };
     // The video of the main stream cannot be switched off.
-    map.insert(QStringLiteral("videoEnable"),
-               isSub ? number(key("videoEnable"), 0, 1) : setting(QString(), false));
-    const QStringList missing = value(key("missingSettings")).toStringList();
-    map.insert(QStringLiteral("exists"), !missing.contains(QLatin1String("stream")));
-    map.insert(QStringLiteral("hasAudio"), !missing.contains(QLatin1String("audio")));
-    for (const QString &name :
-         {QStringLiteral("control"), QStringLiteral("audioEnable"), QStringLiteral("videoEnable")}) {
+    map.insert(EncodeKey::videoEnable,
+               isSub ? number(key(EncodeKey::videoEnable), 0, 1) : setting(QString(), false));
+    const QStringList missing = value(key(EncodeKey::missingSettings)).toStringList();
+    map.insert(StreamFormKey::exists, !missing.contains(EncodeSetting::stream));
+    map.insert(StreamFormKey::hasAudio, !missing.contains(EncodeSetting::audio));
+    for (const QLatin1StringView name : {EncodeSetting::control, EncodeKey::audioEnable, EncodeKey::videoEnable}) {
         if (!missing.contains(name))
             continue;
         QVariantMap lacked = map.value(name).toMap();
-        lacked.insert(QStringLiteral("usable"), false);
+        lacked.insert(SettingKey::usable, false);
         map.insert(name, lacked);
     }
     return map;

@@ -1,8 +1,10 @@
 #include "device/models/watcheddevices.h"
 
+#include "device/models/modelkeys.h"
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
 #include "device/registry/devicerow.h"
+#include "device/registry/mapkeys.h"
 
 #include <algorithm>
 
@@ -74,7 +76,7 @@ QVariantList WatchedDevices::add(const QVariantList &rows)
     QVariantList places;
     for (const Device &device : std::as_const(added)) {
         const auto channel = std::find_if(m_channels.cbegin(), m_channels.cend(), [&](const QVariant &entry) {
-            return entry.toMap().value(QStringLiteral("ipport")) == device.ipport;
+            return entry.toMap().value(DeviceRowKey::ipport) == device.ipport;
         });
         if (channel != m_channels.cend())
             places.append(static_cast<int>(channel - m_channels.cbegin()));
@@ -165,19 +167,19 @@ void WatchedDevices::gather()
         bool isFirst = true;
         for (const QVariant &value : device.channels) {
             QVariantMap entry = value.toMap();
-            const QString name = entry.value(QStringLiteral("name")).toString();
-            const int number = entry.value(QStringLiteral("channel")).toInt() + 1;
+            const QString name = entry.value(ChannelKey::name).toString();
+            const int number = entry.value(ChannelKey::channel).toInt() + 1;
             QString caption = name;
             if (!m_further.isEmpty() && name.isEmpty())
                 caption = title;
             else if (!m_further.isEmpty() && !name.startsWith(title))
                 caption = title + QStringLiteral(" · ") + name;
             if (!m_further.isEmpty() && isFirst)
-                entry.insert(QStringLiteral("heading"), title);
-            entry.insert(QStringLiteral("ipport"), device.ipport);
-            entry.insert(QStringLiteral("name"), name.isEmpty() ? tr("通道 %1").arg(number) : name);
-            entry.insert(QStringLiteral("caption"), caption);
-            entry.insert(QStringLiteral("companion"), companion);
+                entry.insert(RowKey::heading, title);
+            entry.insert(DeviceRowKey::ipport, device.ipport);
+            entry.insert(ChannelKey::name, name.isEmpty() ? tr("通道 %1").arg(number) : name);
+            entry.insert(RowKey::caption, caption);
+            entry.insert(RowKey::companion, companion);
             channels.append(entry);
             isFirst = false;
         }

@@ -1,12 +1,13 @@
 #include "device/registry/devicedetail.h"
 
 #include "device/registry/devicerow.h"
+#include "device/registry/mapkeys.h"
 
 namespace {
 
 constexpr int largestPort = 65535;
 
-/// Lines of one group, without those that are not known.
+/// Adds the lines of a group. Unknown values are omitted.
 class Group
 {
 public:
@@ -55,8 +56,8 @@ QList<DeviceDetailLine> DeviceDetail::linesOf(const QVariantMap &detail)
     identity.add(tr("名称"), text(DeviceRowKey::name));
     identity.add(tr("类型"), text(DeviceRowKey::type));
     identity.add(tr("型号"), text(DeviceRowKey::model));
-    identity.add(tr("序列号"), text(QLatin1StringView("serial")));
-    identity.add(QStringLiteral("UUID"), text(QLatin1StringView("uuid")));
+    identity.add(tr("序列号"), text(DeviceDetailKey::serial));
+    identity.add(QStringLiteral("UUID"), text(DeviceDetailKey::uuid));
     identity.add(tr("状态"), yesOrNo(DeviceRowKey::state, tr("已初始化"), tr("未初始化")));
 
     Group versions(lines, tr("版本"));
@@ -67,38 +68,38 @@ QList<DeviceDetailLine> DeviceDetail::linesOf(const QVariantMap &detail)
         network.add(tr("IPv6地址"), address.mid(1, address.size() - 2));
     else if (!isP2P)
         network.add(tr("IPv4地址"), address);
-    // Behind a tunnel the device has an address of its own, which only it tells.
-    if (const QString own = text(QLatin1StringView("address")); own != address)
+    // The row of a device behind NAT has the address of the tunnel; only the device reports its own.
+    if (const QString own = text(DeviceDetailKey::address); own != address)
         network.add(tr("设备地址"), own);
-    network.add(tr("子网掩码"), text(QLatin1StringView("submask")));
-    network.add(tr("网关"), text(QLatin1StringView("gateway")));
-    network.add(QStringLiteral("DHCP"), yesOrNo(QLatin1StringView("dhcp"), tr("是"), tr("否")));
+    network.add(tr("子网掩码"), text(DeviceDetailKey::submask));
+    network.add(tr("网关"), text(DeviceDetailKey::gateway));
+    network.add(QStringLiteral("DHCP"), yesOrNo(DeviceDetailKey::dhcp, tr("是"), tr("否")));
     network.add(QStringLiteral("MAC"), text(DeviceRowKey::mac));
-    network.add(tr("主机名"), text(QLatin1StringView("hostName")));
-    network.add(tr("本机地址"), text(QLatin1StringView("localAddress")));
+    network.add(tr("主机名"), text(DeviceDetailKey::hostName));
+    network.add(tr("本机地址"), text(DeviceDetailKey::localAddress));
 
     Group ports(lines, tr("端口"));
     ports.addPort(isP2P ? tr("本地端口") : tr("服务端口"), port);
-    if (detail.value(QStringLiteral("servicePort")).toString() != port)
-        ports.addPort(tr("设备服务端口"), detail.value(QStringLiteral("servicePort")));
+    if (detail.value(DeviceDetailKey::servicePort).toString() != port)
+        ports.addPort(tr("设备服务端口"), detail.value(DeviceDetailKey::servicePort));
     ports.addPort(tr("HTTP端口"),
-                  detail.contains(QStringLiteral("webPort"))   ? detail.value(QStringLiteral("webPort"))
+                  detail.contains(DeviceDetailKey::webPort)    ? detail.value(DeviceDetailKey::webPort)
                   : detail.value(DeviceRowKey::https).toBool() ? QVariant()
                                                                : detail.value(DeviceRowKey::httpport));
     ports.addPort(tr("HTTPS端口"),
-                  detail.contains(QStringLiteral("httpsPort")) ? detail.value(QStringLiteral("httpsPort"))
+                  detail.contains(DeviceDetailKey::httpsPort)  ? detail.value(DeviceDetailKey::httpsPort)
                   : detail.value(DeviceRowKey::https).toBool() ? detail.value(DeviceRowKey::httpport)
                                                                : QVariant());
-    ports.addPort(tr("RTSP端口"), detail.value(QStringLiteral("rtspPort")));
-    ports.addCount(tr("最大连接数"), detail.value(QStringLiteral("maximumConnections")));
+    ports.addPort(tr("RTSP端口"), detail.value(DeviceDetailKey::rtspPort));
+    ports.addCount(tr("最大连接数"), detail.value(DeviceDetailKey::maximumConnections));
 
     Group channels(lines, tr("通道"));
-    channels.addCount(tr("通道数"), detail.value(QStringLiteral("channelCount")));
-    channels.addCount(tr("已连接通道"), detail.value(QStringLiteral("connectedCount")));
-    channels.addCount(tr("报警输入"), detail.value(QStringLiteral("alarmInputs")));
+    channels.addCount(tr("通道数"), detail.value(DeviceDetailKey::channelCount));
+    channels.addCount(tr("已连接通道"), detail.value(DeviceDetailKey::connectedCount));
+    channels.addCount(tr("报警输入"), detail.value(DeviceDetailKey::alarmInputs));
 
     Group storage(lines, tr("存储"));
-    storage.addCount(tr("硬盘数"), detail.value(QStringLiteral("disks")));
+    storage.addCount(tr("硬盘数"), detail.value(DeviceDetailKey::disks));
 
     Group account(lines, tr("添加与账号"));
     const QString loginType = text(DeviceRowKey::loginType);

@@ -2,6 +2,7 @@
 
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
+#include "device/registry/mapkeys.h"
 
 DeviceWork::~DeviceWork()
 {
@@ -46,9 +47,9 @@ void DeviceWork::addDevice(const QVariantMap &device)
             QMetaObject::invokeMethod(factory, &CDeviceFactory::signalAddSingleDeviceToTable,
                                       Qt::QueuedConnection);
         }
-        return PageOutcome{.value = QVariantMap{{QStringLiteral("result"), outcome.result},
-                                                 {QStringLiteral("text"), outcome.text}},
-                            .take = {}};
+        return PageOutcome{
+            .value = QVariantMap{{ResultKey::result, outcome.result}, {ResultKey::text, outcome.text}},
+            .take = {}};
     });
 }
 

@@ -1,7 +1,10 @@
 #include "device/work/sessionwork.h"
 
+#include "device/registry/camerakeys.h"
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
+#include "device/registry/encodekeys.h"
+#include "device/registry/mapkeys.h"
 
 void SessionWork::changeFactory(CDeviceFactory *before)
 {
@@ -76,20 +79,20 @@ void SessionWork::readImage(int channel)
 {
     beginJob([channel](SessionOperations &device, const StepControl &control) {
         if (channel >= 0)
-            device.setConfigData(QStringLiteral("curVideoChannel"), channel, {});
+            device.setConfigData(EncodeKey::curVideoChannel, channel, {});
         device.getCameraConfig();
         if (!device.isDeviceAway() && !control.shouldEnd())
             device.getVideoInByChangeChannel();
         return device.isDeviceAway() || control.shouldEnd()
                    ? QVariant(QVariantList())
-                   : device.getConfigData(QStringLiteral("connectedChannels"), {});
+                   : device.getConfigData(SessionKey::connectedChannels, {});
     });
 }
 
 void SessionWork::chooseImageMode(int place)
 {
     beginJob([place](SessionOperations &device, const StepControl &) {
-        device.setConfigData(QStringLiteral("curSwitchMode"), place, {});
+        device.setConfigData(CameraKey::curSwitchMode, place, {});
         device.getVideoIn();
         return QVariant();
     });
@@ -110,11 +113,10 @@ void SessionWork::writeImage(const QString &key, const QVariantList &values)
 void SessionWork::readNames()
 {
     beginJob([](SessionOperations &device, const StepControl &control) {
-        const QVariantList names = device.getDeviceChannelData(QStringLiteral("channelNames"), 0);
-        const QVariantList connected =
-            device.isDeviceAway() || control.shouldEnd()
-                ? QVariantList()
-                : device.getDeviceChannelData(QStringLiteral("channelsConnected"), 0);
+        const QVariantList names = device.getDeviceChannelData(SessionKey::channelNames, 0);
+        const QVariantList connected = device.isDeviceAway() || control.shouldEnd()
+                                           ? QVariantList()
+                                           : device.getDeviceChannelData(SessionKey::channelsConnected, 0);
         return QVariant(QVariantMap{{QStringLiteral("names"), QVariant(names)},
                                     {QStringLiteral("connected"), QVariant(connected)}});
     });
@@ -123,12 +125,12 @@ void SessionWork::readNames()
 void SessionWork::writeName(int channel, const QString &name)
 {
     beginJob([channel, name](SessionOperations &device, const StepControl &) {
-        device.setConfigData(QStringLiteral("channelName"), name, QString::number(channel));
-        const QVariant result = device.getConfigData(QStringLiteral("channelNameResult"), channel);
+        device.setConfigData(SessionKey::channelName, name, QString::number(channel));
+        const QVariant result = device.getConfigData(SessionKey::channelNameResult, channel);
         const bool isTaken = result.toInt() == resultCode(LoginResult::Success);
-        return QVariant(QVariantMap{
-            {QStringLiteral("result"), result},
-            {QStringLiteral("name"),
-             isTaken ? device.getConfigData(QStringLiteral("channelName"), channel) : QVariant()}});
+        return QVariant(
+            QVariantMap{{ResultKey::result, result},
+                        {ResultKey::name,
+                         isTaken ? device.getConfigData(SessionKey::channelName, channel) : QVariant()}});
     });
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "device/dh/camera/cameravalues.h"
+#include "device/registry/camerakeys.h"
 
 #include <span>
 
@@ -13,8 +14,8 @@ struct CameraChange
     const ValueTables &tables;
     CameraState &state;
 
-    [[nodiscard]] bool is(const char *name) const { return subKey == QLatin1String(name); }
-    [[nodiscard]] bool isPlain() const { return subKey.isEmpty() || is("value"); }
+    [[nodiscard]] bool is(QLatin1StringView name) const { return subKey == name; }
+    [[nodiscard]] bool isPlain() const { return subKey.isEmpty() || is(CameraSetting::value); }
     [[nodiscard]] CameraLists lists() const { return {tables, state.capabilities}; }
 
     // Each of these functions converts `value` and writes it to `field`. It returns false, and leaves `field`

@@ -2,6 +2,7 @@
 
 #include "device/dh/camera/camerachange.h"
 #include "device/registry/bytetext.h"
+#include "device/registry/camerakeys.h"
 #include "sdk/blocktext.h"
 
 #include <QHash>
@@ -34,12 +35,13 @@ Writes changePicture(const Change &change)
     CameraState &state = change.state;
     sdk::PictureItem item = state.picture;
     const sdk::ValueRange range = state.capabilities.picture;
-    const bool isChanged = (change.is("colorStyle") && change.number(colorStyles, item.colorStyle)) ||
-                           (change.is("brightnessSlider") && change.slider(range, item.brightness)) ||
-                           (change.is("contrastSlider") && change.slider(range, item.contrast)) ||
-                           (change.is("saturationSlider") && change.slider(range, item.saturation)) ||
-                           (change.is("hue") && change.slider(range, item.hue)) ||
-                           (change.is("gamma") && change.slider(range, item.gamma));
+    const bool isChanged =
+        (change.is(CameraSetting::colorStyle) && change.number(colorStyles, item.colorStyle)) ||
+        (change.is(CameraSetting::brightnessSlider) && change.slider(range, item.brightness)) ||
+        (change.is(CameraSetting::contrastSlider) && change.slider(range, item.contrast)) ||
+        (change.is(CameraSetting::saturationSlider) && change.slider(range, item.saturation)) ||
+        (change.is(CameraSetting::hue) && change.slider(range, item.hue)) ||
+        (change.is(CameraSetting::gamma) && change.slider(range, item.gamma));
     if (isChanged) // the item and the configuration hold the same values
         state.picture = state.colorOfMode() = item;
     return when(isChanged, {CameraWrite::Picture});
@@ -56,7 +58,7 @@ Writes changeMirror(const Change &change)
 {
     sdk::MirrorItem &item = change.state.mirror;
     return when((change.isPlain() && change.number(flags, item.mirror)) ||
-                    (change.is("Rotate") && change.number(rotations, item.rotate)),
+                    (change.is(CameraSetting::rotate) && change.number(rotations, item.rotate)),
                 {CameraWrite::Mirror});
 }
 
@@ -70,23 +72,26 @@ Writes changeExposure(const Change &change)
     CameraState &state = change.state;
     sdk::ExposureItem &item = state.exposure;
     const sdk::ValueRange gain = state.capabilities.gain;
-    if (change.is("3DType") || change.is("3D")) {
-        const bool isReduced = state.isNoiseReductionRead &&
-                               (change.is("3DType") ? change.number(flags, state.noiseReduction.type)
-                                                    : change.slider(state.capabilities.noiseReduction,
-                                                                    state.noiseReduction.level));
+    if (change.is(CameraSetting::noiseReductionType) || change.is(CameraSetting::noiseReductionLevel)) {
+        const bool isReduced =
+            state.isNoiseReductionRead &&
+            (change.is(CameraSetting::noiseReductionType)
+                 ? change.number(flags, state.noiseReduction.type)
+                 : change.slider(state.capabilities.noiseReduction, state.noiseReduction.level));
         return when(isReduced, {CameraWrite::Exposure, CameraWrite::NoiseReduction});
     }
     const bool isChanged =
-        (change.is("antiFlicker") && change.choice(change.lists().antiFlickerTypes, item.antiFlicker)) ||
+        (change.is(CameraSetting::antiFlicker) &&
+         change.choice(change.lists().antiFlickerTypes, item.antiFlicker)) ||
         (change.isPlain() && change.choice(change.lists().exposureTypes, item.exposure)) ||
-        (change.is("dbExposureValue1") && change.shutter(item.shortestShutter)) ||
-        (change.is("dbExposureValue2") && change.shutter(item.longestShutter)) ||
-        (change.is("GainValue") && change.slider(gain, item.gain)) ||
-        (change.is("GainMin") && change.slider(gain, item.gainMinimum)) ||
-        (change.is("GainMax") && change.slider(gain, item.gainMaximum)) ||
-        (change.is("Compensation") && change.slider(state.capabilities.compensation, item.compensation)) ||
-        (change.is("irisAuto") && change.number(flags, item.irisAutomatic));
+        (change.is(CameraSetting::shortestShutter) && change.shutter(item.shortestShutter)) ||
+        (change.is(CameraSetting::longestShutter) && change.shutter(item.longestShutter)) ||
+        (change.is(CameraSetting::gainValue) && change.slider(gain, item.gain)) ||
+        (change.is(CameraSetting::gainMin) && change.slider(gain, item.gainMinimum)) ||
+        (change.is(CameraSetting::gainMax) && change.slider(gain, item.gainMaximum)) ||
+        (change.is(CameraSetting::compensation) &&
+         change.slider(state.capabilities.compensation, item.compensation)) ||
+        (change.is(CameraSetting::irisAuto) && change.number(flags, item.irisAutomatic));
     return when(isChanged, {CameraWrite::Exposure});
 }
 
@@ -94,12 +99,12 @@ bool changeRegion(const Change &change, sdk::BackLightItem &item)
 {
     const QVariantMap region = change.value.toMap();
     sdk::BackLightItem changed = item;
-    const auto side = [&](const char *name, std::int32_t &field) {
-        const QVariant value = region.value(QLatin1String(name));
+    const auto side = [&](QLatin1StringView name, std::int32_t &field) {
+        const QVariant value = region.value(name);
         return Change{change.subKey, value, change.tables, change.state}.number(regionSides, field);
     };
-    if (!side("Top", changed.regionTop) || !side("Bottom", changed.regionBottom) ||
-        !side("Left", changed.regionLeft) || !side("Right", changed.regionRight))
+    if (!side(CameraSetting::top, changed.regionTop) || !side(CameraSetting::bottom, changed.regionBottom) ||
+        !side(CameraSetting::left, changed.regionLeft) || !side(CameraSetting::right, changed.regionRight))
         return false;
     item = changed;
     return true;
@@ -110,12 +115,13 @@ Writes changeBackLight(const Change &change)
     CameraState &state = change.state;
     sdk::BackLightItem &item = state.backLight;
     const bool isChanged =
-        (change.is("backmode") && change.choice(change.lists().backModes, item.backMode)) ||
-        (change.is("backlightmode") && change.number(flags, item.backLightMode)) ||
-        (change.is("WideDynamic") && change.slider(state.capabilities.wideDynamic, item.wideDynamic)) ||
-        (change.is("GlareInhibition") &&
+        (change.is(CameraSetting::backmode) && change.choice(change.lists().backModes, item.backMode)) ||
+        (change.is(CameraSetting::backlightmode) && change.number(flags, item.backLightMode)) ||
+        (change.is(CameraSetting::wideDynamic) &&
+         change.slider(state.capabilities.wideDynamic, item.wideDynamic)) ||
+        (change.is(CameraSetting::glareInhibition) &&
          change.slider(state.capabilities.glareInhibition, item.glareInhibition)) ||
-        (change.is("BacklightRegion") && changeRegion(change, item));
+        (change.is(CameraSetting::backlightRegion) && changeRegion(change, item));
     if (isChanged)
         state.backLightByMode = item;
     return when(isChanged, {CameraWrite::BackLight});
@@ -135,20 +141,21 @@ Writes changeWhiteBalance(const Change &change)
 {
     sdk::WhiteBalanceItem &item = change.state.whiteBalance;
     const sdk::ValueRange range = change.state.capabilities.whiteBalanceGain;
-    return when(
-        (change.is("whiteBalanceType") && change.choice(change.lists().whiteBalanceTypes, item.type)) ||
-            (change.is("GainBlue") && change.slider(range, item.gainBlue)) ||
-            (change.is("GainRed") && change.slider(range, item.gainRed)),
-        {CameraWrite::WhiteBalance});
+    return when((change.is(CameraSetting::whiteBalanceType) &&
+                 change.choice(change.lists().whiteBalanceTypes, item.type)) ||
+                    (change.is(CameraSetting::gainBlue) && change.slider(range, item.gainBlue)) ||
+                    (change.is(CameraSetting::gainRed) && change.slider(range, item.gainRed)),
+                {CameraWrite::WhiteBalance});
 }
 
 Writes changeDayNight(const Change &change)
 {
     CameraState &state = change.state;
     sdk::DayNightItem &item = state.dayNight;
-    const bool isChanged = (change.is("Type") && change.choice(change.lists().dayNightTypes, item.type)) ||
-                           (change.is("Sensitivity") && change.number(sensitivities, item.sensitivity)) ||
-                           (change.is("SwitchDelay") && change.number(switchDelays, item.switchDelay));
+    const bool isChanged =
+        (change.is(CameraSetting::dayNightType) && change.choice(change.lists().dayNightTypes, item.type)) ||
+        (change.is(CameraSetting::sensitivity) && change.number(sensitivities, item.sensitivity)) ||
+        (change.is(CameraSetting::switchDelay) && change.number(switchDelays, item.switchDelay));
     if (isChanged) { // the mode of the second copy is selected separately
         const std::int32_t mode = state.dayNightByMode.mode;
         state.dayNightByMode = item;
@@ -167,8 +174,9 @@ Writes changeDayNightMode(const Change &change)
 Writes changeDefog(const Change &change)
 {
     CameraState &state = change.state;
-    return when((change.is("DefogMode") && change.choice(change.lists().defogModes, state.defog.defogMode)) ||
-                    (change.is("Intensity") &&
+    return when((change.is(CameraSetting::defogMode) &&
+                 change.choice(change.lists().defogModes, state.defog.defogMode)) ||
+                    (change.is(CameraSetting::intensity) &&
                      change.slider(state.capabilities.defogIntensity, state.defog.intensity)),
                 {CameraWrite::Defog});
 }
@@ -177,11 +185,12 @@ Writes changeLight(const Change &change)
 {
     sdk::LightItem &item = change.state.light;
     const sdk::ValueRange range = change.state.capabilities.light;
-    return when((change.is("controlMode") && change.choice(change.lists().lightControls, item.controlMode)) ||
-                    (change.is("LightMode") && change.number(lightModes, item.lightMode)) ||
-                    (change.is("NearLight") && change.slider(range, item.nearLight)) ||
-                    (change.is("FarLight") && change.slider(range, item.farLight)) ||
-                    (change.is("Correction") && change.slider(range, item.correction)),
+    return when((change.is(CameraSetting::controlMode) &&
+                 change.choice(change.lists().lightControls, item.controlMode)) ||
+                    (change.is(CameraSetting::lightMode) && change.number(lightModes, item.lightMode)) ||
+                    (change.is(CameraSetting::nearLight) && change.slider(range, item.nearLight)) ||
+                    (change.is(CameraSetting::farLight) && change.slider(range, item.farLight)) ||
+                    (change.is(CameraSetting::correction) && change.slider(range, item.correction)),
                 {CameraWrite::Light});
 }
 
@@ -191,13 +200,14 @@ Writes changeMixedLight(const Change &change)
     sdk::MixedLightItem &item = state.mixedLight;
     const sdk::ValueRange range = state.capabilities.mixedLight;
     const bool isChanged =
-        (change.is("controlMode") && change.choice(change.lists().lightControls, item.controlMode)) ||
-        (change.is("mixMode") && change.choice(change.lists().mixedLights, item.mixMode)) ||
-        (change.is("LightMode") && change.number(lightModes, item.lightMode)) ||
-        (change.is("Sensitive") && change.oneOf(mixedSensitivities, item.sensitive)) ||
-        (change.is("Correction") && change.slider(range, item.correction)) ||
-        (change.is("Brightness") && change.slider(range, item.brightness)) ||
-        (change.is("Delay") && change.number(lightDelays, item.delay));
+        (change.is(CameraSetting::controlMode) &&
+         change.choice(change.lists().lightControls, item.controlMode)) ||
+        (change.is(CameraSetting::mixMode) && change.choice(change.lists().mixedLights, item.mixMode)) ||
+        (change.is(CameraSetting::lightMode) && change.number(lightModes, item.lightMode)) ||
+        (change.is(CameraSetting::sensitive) && change.oneOf(mixedSensitivities, item.sensitive)) ||
+        (change.is(CameraSetting::correction) && change.slider(range, item.correction)) ||
+        (change.is(CameraSetting::brightness) && change.slider(range, item.brightness)) ||
+        (change.is(CameraSetting::delay) && change.number(lightDelays, item.delay));
     if (!isChanged || !state.isLightingKnown)
         return when(isChanged, {CameraWrite::MixedLight});
     state.lighting.lights[static_cast<std::size_t>(state.mode)] = item;
@@ -259,33 +269,31 @@ const QHash<QString, Changer> &changers()
 {
     using Group = sdk::CameraGroup;
     static const QHash<QString, Changer> table = {
-        {QStringLiteral("picture"), {Group::Picture, &changePicture}},
-        {QStringLiteral("sharpness"), {Group::Sharpness, &changeSharpness}},
-        {QStringLiteral("mirror"), {Group::Mirror, &changeMirror}},
-        {QStringLiteral("stable"), {Group::Stable, &changeStable}},
-        {QStringLiteral("exposure"), {Group::Exposure, &changeExposure}},
-        {QStringLiteral("backMode"), {Group::BackLight, &changeBackLight}},
-        {QStringLiteral("whiteBalance"), {Group::WhiteBalance, &changeWhiteBalance}},
-        {QStringLiteral("dayNight"), {Group::DayNight, &changeDayNight}},
-        {QStringLiteral("inDefog"), {Group::Defog, &changeDefog}},
-        {QStringLiteral("lightControl"), {Group::Light, &changeLight}},
-        {QStringLiteral("lightControlEx"), {Group::MixedLight, &changeMixedLight}},
-        {QStringLiteral("curDayNightMode"), {Group::DayNight, &changeDayNightMode}},
-        {QStringLiteral("curBackLightMode"), {Group::BackLight, &changeBackLightMode}},
-        {QStringLiteral("curChannelName"), {std::nullopt, &changeChannelName}},
-        {QStringLiteral("curColorStyle"),
+        {CameraKey::picture, {Group::Picture, &changePicture}},
+        {CameraKey::sharpness, {Group::Sharpness, &changeSharpness}},
+        {CameraKey::mirror, {Group::Mirror, &changeMirror}},
+        {CameraKey::stable, {Group::Stable, &changeStable}},
+        {CameraKey::exposure, {Group::Exposure, &changeExposure}},
+        {CameraKey::backMode, {Group::BackLight, &changeBackLight}},
+        {CameraKey::whiteBalance, {Group::WhiteBalance, &changeWhiteBalance}},
+        {CameraKey::dayNight, {Group::DayNight, &changeDayNight}},
+        {CameraKey::inDefog, {Group::Defog, &changeDefog}},
+        {CameraKey::lightControl, {Group::Light, &changeLight}},
+        {CameraKey::lightControlEx, {Group::MixedLight, &changeMixedLight}},
+        {CameraKey::curDayNightMode, {Group::DayNight, &changeDayNightMode}},
+        {CameraKey::curBackLightMode, {Group::BackLight, &changeBackLightMode}},
+        {CameraKey::curChannelName, {std::nullopt, &changeChannelName}},
+        {CameraKey::curColorStyle,
          {Group::Picture,
           [](const Change &change) {
               return changeColor(change, &sdk::PictureItem::colorStyle, colorStyles,
                                  CameraWrite::ColorRecord);
           }}},
-        {QStringLiteral("curBrightness"),
-         {Group::Picture, &changeColorNumber<&sdk::PictureItem::brightness>}},
-        {QStringLiteral("curContrast"), {Group::Picture, &changeColorNumber<&sdk::PictureItem::contrast>}},
-        {QStringLiteral("curSaturation"),
-         {Group::Picture, &changeColorNumber<&sdk::PictureItem::saturation>}},
-        {QStringLiteral("curGamma"), {Group::Picture, &changeColorNumber<&sdk::PictureItem::gamma>}},
-        {QStringLiteral("setDefault"), {Group::Picture, &setDefaults}},
+        {CameraKey::curBrightness, {Group::Picture, &changeColorNumber<&sdk::PictureItem::brightness>}},
+        {CameraKey::curContrast, {Group::Picture, &changeColorNumber<&sdk::PictureItem::contrast>}},
+        {CameraKey::curSaturation, {Group::Picture, &changeColorNumber<&sdk::PictureItem::saturation>}},
+        {CameraKey::curGamma, {Group::Picture, &changeColorNumber<&sdk::PictureItem::gamma>}},
+        {CameraKey::setDefault, {Group::Picture, &setDefaults}},
     };
     return table;
 }

@@ -2,6 +2,7 @@
 
 #include "device/dh/camera/camerajob.h"
 #include "device/dh/encode/encodestate.h"
+#include "device/registry/camerakeys.h"
 #include "device/registry/logging.h"
 
 CameraConfig::CameraConfig(const ValueTables &tables) : m_tables(tables) {}
@@ -67,13 +68,13 @@ void CameraConfig::chooseMode(const QVariant &place)
 CameraConfig::Outcome CameraConfig::setValue(const QString &key, const QVariant &value, const QString &subKey,
                                              int channel)
 {
-    if (key == QLatin1String("curSwitchMode")) {
+    if (key == CameraKey::curSwitchMode) {
         chooseMode(value); // the page reads the items of the new mode
         return Outcome::Taken;
     }
     CameraState changed = m_state;
     // Read-modify-write: other clients may have changed it.
-    if (key == QLatin1String("inDefog") && m_state.supports(sdk::CameraGroup::Defog) &&
+    if (key == CameraKey::inDefog && m_state.supports(sdk::CameraGroup::Defog) &&
         !readDefog(m_session, channel, changed)) {
         m_lastError = static_cast<int>(m_session.lastError());
         return m_session.isDeviceAway() ? Outcome::Unanswered : Outcome::Refused;

@@ -1,5 +1,6 @@
 #include "device/dh/camera/cameravalues.h"
 
+#include "device/registry/camerakeys.h"
 #include "sdk/blocktext.h"
 
 #include <QHash>
@@ -12,14 +13,14 @@ using Group = sdk::CameraGroup;
 
 QVariantMap groupMap(const CameraState &state, Group group)
 {
-    return {{QStringLiteral("support"), state.supports(group)},
-            {QStringLiteral("unread"), state.has(group) && !state.supports(group)}};
+    return {{CameraGroupKey::support, state.supports(group)},
+            {CameraGroupKey::unread, state.has(group) && !state.supports(group)}};
 }
 
 QVariantMap rangeMap(sdk::ValueRange told)
 {
     const sdk::ValueRange range = usableRange(told);
-    return {{QStringLiteral("min"), range.minimum}, {QStringLiteral("max"), range.maximum}};
+    return {{CameraGroupKey::min, range.minimum}, {CameraGroupKey::max, range.maximum}};
 }
 
 QVariant picture(const CameraState &state, const CameraLists &)
@@ -27,42 +28,42 @@ QVariant picture(const CameraState &state, const CameraLists &)
     const sdk::PictureItem &item = state.picture;
     const QVariantMap range = rangeMap(state.capabilities.picture);
     QVariantMap map = groupMap(state, Group::Picture);
-    map.insert(QStringLiteral("colorStyle"), item.colorStyle);
-    map.insert(QStringLiteral("brightnessSlider"), item.brightness);
-    map.insert(QStringLiteral("contrastSlider"), item.contrast);
-    map.insert(QStringLiteral("saturationSlider"), item.saturation);
-    map.insert(QStringLiteral("hue"), item.hue);
-    map.insert(QStringLiteral("gamma"), item.gamma);
-    map.insert(QStringLiteral("ranges"), QVariantMap{{QStringLiteral("brightnessSlider"), range},
-                                                     {QStringLiteral("contrastSlider"), range},
-                                                     {QStringLiteral("saturationSlider"), range},
-                                                     {QStringLiteral("hue"), range},
-                                                     {QStringLiteral("gamma"), range}});
+    map.insert(CameraSetting::colorStyle, item.colorStyle);
+    map.insert(CameraSetting::brightnessSlider, item.brightness);
+    map.insert(CameraSetting::contrastSlider, item.contrast);
+    map.insert(CameraSetting::saturationSlider, item.saturation);
+    map.insert(CameraSetting::hue, item.hue);
+    map.insert(CameraSetting::gamma, item.gamma);
+    map.insert(CameraGroupKey::ranges, QVariantMap{{CameraSetting::brightnessSlider, range},
+                                                   {CameraSetting::contrastSlider, range},
+                                                   {CameraSetting::saturationSlider, range},
+                                                   {CameraSetting::hue, range},
+                                                   {CameraSetting::gamma, range}});
     return map;
 }
 
 QVariant sharpness(const CameraState &state, const CameraLists &)
 {
     QVariantMap map = groupMap(state, Group::Sharpness);
-    map.insert(QStringLiteral("value"), state.sharpness.sharpness);
-    map.insert(QStringLiteral("ranges"),
-               QVariantMap{{QStringLiteral("value"), rangeMap(state.capabilities.sharpness)}});
+    map.insert(CameraSetting::value, state.sharpness.sharpness);
+    map.insert(CameraGroupKey::ranges,
+               QVariantMap{{CameraSetting::value, rangeMap(state.capabilities.sharpness)}});
     return map;
 }
 
 QVariant mirror(const CameraState &state, const CameraLists &)
 {
     QVariantMap map = groupMap(state, Group::Mirror);
-    map.insert(QStringLiteral("value"), state.mirror.mirror != 0);
-    map.insert(QStringLiteral("Rotate"), state.mirror.rotate);
-    map.insert(QStringLiteral("rotateSupport"), state.capabilities.rotateMask > 1);
+    map.insert(CameraSetting::value, state.mirror.mirror != 0);
+    map.insert(CameraSetting::rotate, state.mirror.rotate);
+    map.insert(CameraSetting::rotateSupport, state.capabilities.rotateMask > 1);
     return map;
 }
 
 QVariant stable(const CameraState &state, const CameraLists &)
 {
     QVariantMap map = groupMap(state, Group::Stable);
-    map.insert(QStringLiteral("value"), state.stable.stable != 0);
+    map.insert(CameraSetting::value, state.stable.stable != 0);
     return map;
 }
 
@@ -71,26 +72,27 @@ QVariant exposure(const CameraState &state, const CameraLists &lists)
     const sdk::ExposureItem &item = state.exposure;
     const QVariantMap gain = rangeMap(state.capabilities.gain);
     QVariantMap map = groupMap(state, Group::Exposure);
-    map.insert(QStringLiteral("allAntiFlickerType"), lists.antiFlickerTypes.names());
-    map.insert(QStringLiteral("antiFlicker"), lists.antiFlickerTypes.placeOf(item.antiFlicker));
-    map.insert(QStringLiteral("allExposureType"), lists.exposureTypes.names());
-    map.insert(QStringLiteral("value"), lists.exposureTypes.placeOf(item.exposure));
-    map.insert(QStringLiteral("dbExposureValue1"), static_cast<double>(item.shortestShutter));
-    map.insert(QStringLiteral("dbExposureValue2"), static_cast<double>(item.longestShutter));
-    map.insert(QStringLiteral("GainValue"), item.gain);
-    map.insert(QStringLiteral("GainMin"), item.gainMinimum);
-    map.insert(QStringLiteral("GainMax"), item.gainMaximum);
-    map.insert(QStringLiteral("Compensation"), item.compensation);
-    map.insert(QStringLiteral("irisAuto"), item.irisAutomatic != 0);
-    map.insert(QStringLiteral("noiseReductionSupport"), state.isNoiseReductionRead);
-    map.insert(QStringLiteral("3DType"), state.noiseReduction.type);
-    map.insert(QStringLiteral("3D"), state.noiseReduction.level);
-    map.insert(QStringLiteral("ranges"),
-               QVariantMap{{QStringLiteral("GainValue"), gain},
-                           {QStringLiteral("GainMin"), gain},
-                           {QStringLiteral("GainMax"), gain},
-                           {QStringLiteral("Compensation"), rangeMap(state.capabilities.compensation)},
-                           {QStringLiteral("3D"), rangeMap(state.capabilities.noiseReduction)}});
+    map.insert(CameraSetting::allAntiFlickerType, lists.antiFlickerTypes.names());
+    map.insert(CameraSetting::antiFlicker, lists.antiFlickerTypes.placeOf(item.antiFlicker));
+    map.insert(CameraSetting::allExposureType, lists.exposureTypes.names());
+    map.insert(CameraSetting::value, lists.exposureTypes.placeOf(item.exposure));
+    map.insert(CameraSetting::shortestShutter, static_cast<double>(item.shortestShutter));
+    map.insert(CameraSetting::longestShutter, static_cast<double>(item.longestShutter));
+    map.insert(CameraSetting::gainValue, item.gain);
+    map.insert(CameraSetting::gainMin, item.gainMinimum);
+    map.insert(CameraSetting::gainMax, item.gainMaximum);
+    map.insert(CameraSetting::compensation, item.compensation);
+    map.insert(CameraSetting::irisAuto, item.irisAutomatic != 0);
+    map.insert(CameraSetting::noiseReductionSupport, state.isNoiseReductionRead);
+    map.insert(CameraSetting::noiseReductionType, state.noiseReduction.type);
+    map.insert(CameraSetting::noiseReductionLevel, state.noiseReduction.level);
+    map.insert(
+        CameraGroupKey::ranges,
+        QVariantMap{{CameraSetting::gainValue, gain},
+                    {CameraSetting::gainMin, gain},
+                    {CameraSetting::gainMax, gain},
+                    {CameraSetting::compensation, rangeMap(state.capabilities.compensation)},
+                    {CameraSetting::noiseReductionLevel, rangeMap(state.capabilities.noiseReduction)}});
     return map;
 }
 
@@ -98,19 +100,18 @@ QVariant backMode(const CameraState &state, const CameraLists &lists)
 {
     const sdk::BackLightItem &item = state.backLight;
     QVariantMap map = groupMap(state, Group::BackLight);
-    map.insert(QStringLiteral("allBackModeType"), lists.backModes.names());
-    map.insert(QStringLiteral("backmode"), lists.backModes.placeOf(item.backMode));
-    map.insert(QStringLiteral("backlightmode"), item.backLightMode);
-    map.insert(QStringLiteral("WideDynamic"), item.wideDynamic);
-    map.insert(QStringLiteral("GlareInhibition"), item.glareInhibition);
-    map.insert(QStringLiteral("BacklightRegion"), QVariantMap{{QStringLiteral("Top"), item.regionTop},
-                                                              {QStringLiteral("Bottom"), item.regionBottom},
-                                                              {QStringLiteral("Left"), item.regionLeft},
-                                                              {QStringLiteral("Right"), item.regionRight}});
-    map.insert(
-        QStringLiteral("ranges"),
-        QVariantMap{{QStringLiteral("WideDynamic"), rangeMap(state.capabilities.wideDynamic)},
-                    {QStringLiteral("GlareInhibition"), rangeMap(state.capabilities.glareInhibition)}});
+    map.insert(CameraSetting::allBackModeType, lists.backModes.names());
+    map.insert(CameraSetting::backmode, lists.backModes.placeOf(item.backMode));
+    map.insert(CameraSetting::backlightmode, item.backLightMode);
+    map.insert(CameraSetting::wideDynamic, item.wideDynamic);
+    map.insert(CameraSetting::glareInhibition, item.glareInhibition);
+    map.insert(CameraSetting::backlightRegion, QVariantMap{{CameraSetting::top, item.regionTop},
+                                                           {CameraSetting::bottom, item.regionBottom},
+                                                           {CameraSetting::left, item.regionLeft},
+                                                           {CameraSetting::right, item.regionRight}});
+    map.insert(CameraGroupKey::ranges,
+               QVariantMap{{CameraSetting::wideDynamic, rangeMap(state.capabilities.wideDynamic)},
+                           {CameraSetting::glareInhibition, rangeMap(state.capabilities.glareInhibition)}});
     return map;
 }
 
@@ -118,33 +119,33 @@ QVariant whiteBalance(const CameraState &state, const CameraLists &lists)
 {
     const QVariantMap range = rangeMap(state.capabilities.whiteBalanceGain);
     QVariantMap map = groupMap(state, Group::WhiteBalance);
-    map.insert(QStringLiteral("allType"), lists.whiteBalanceTypes.names());
-    map.insert(QStringLiteral("whiteBalanceType"), lists.whiteBalanceTypes.placeOf(state.whiteBalance.type));
-    map.insert(QStringLiteral("GainBlue"), state.whiteBalance.gainBlue);
-    map.insert(QStringLiteral("GainRed"), state.whiteBalance.gainRed);
-    map.insert(QStringLiteral("ranges"),
-               QVariantMap{{QStringLiteral("GainBlue"), range}, {QStringLiteral("GainRed"), range}});
+    map.insert(CameraSetting::allType, lists.whiteBalanceTypes.names());
+    map.insert(CameraSetting::whiteBalanceType, lists.whiteBalanceTypes.placeOf(state.whiteBalance.type));
+    map.insert(CameraSetting::gainBlue, state.whiteBalance.gainBlue);
+    map.insert(CameraSetting::gainRed, state.whiteBalance.gainRed);
+    map.insert(CameraGroupKey::ranges,
+               QVariantMap{{CameraSetting::gainBlue, range}, {CameraSetting::gainRed, range}});
     return map;
 }
 
 QVariant dayNight(const CameraState &state, const CameraLists &lists)
 {
     QVariantMap map = groupMap(state, Group::DayNight);
-    map.insert(QStringLiteral("allDayNightType"), lists.dayNightTypes.names());
-    map.insert(QStringLiteral("Type"), lists.dayNightTypes.placeOf(state.dayNight.type));
-    map.insert(QStringLiteral("Sensitivity"), state.dayNight.sensitivity);
-    map.insert(QStringLiteral("SwitchDelay"), state.dayNight.switchDelay);
+    map.insert(CameraSetting::allDayNightType, lists.dayNightTypes.names());
+    map.insert(CameraSetting::dayNightType, lists.dayNightTypes.placeOf(state.dayNight.type));
+    map.insert(CameraSetting::sensitivity, state.dayNight.sensitivity);
+    map.insert(CameraSetting::switchDelay, state.dayNight.switchDelay);
     return map;
 }
 
 QVariant inDefog(const CameraState &state, const CameraLists &lists)
 {
     QVariantMap map = groupMap(state, Group::Defog);
-    map.insert(QStringLiteral("allInDefogType"), lists.defogModes.names());
-    map.insert(QStringLiteral("DefogMode"), lists.defogModes.placeOf(state.defog.defogMode));
-    map.insert(QStringLiteral("Intensity"), state.defog.intensity);
-    map.insert(QStringLiteral("ranges"),
-               QVariantMap{{QStringLiteral("Intensity"), rangeMap(state.capabilities.defogIntensity)}});
+    map.insert(CameraSetting::allInDefogType, lists.defogModes.names());
+    map.insert(CameraSetting::defogMode, lists.defogModes.placeOf(state.defog.defogMode));
+    map.insert(CameraSetting::intensity, state.defog.intensity);
+    map.insert(CameraGroupKey::ranges,
+               QVariantMap{{CameraSetting::intensity, rangeMap(state.capabilities.defogIntensity)}});
     return map;
 }
 
@@ -153,15 +154,15 @@ QVariant lightControl(const CameraState &state, const CameraLists &lists)
     const sdk::LightItem &item = state.light;
     const QVariantMap range = rangeMap(state.capabilities.light);
     QVariantMap map = groupMap(state, Group::Light);
-    map.insert(QStringLiteral("allLightControlType"), lists.lightControls.names());
-    map.insert(QStringLiteral("controlMode"), lists.lightControls.placeOf(item.controlMode));
-    map.insert(QStringLiteral("LightMode"), item.lightMode);
-    map.insert(QStringLiteral("NearLight"), item.nearLight);
-    map.insert(QStringLiteral("FarLight"), item.farLight);
-    map.insert(QStringLiteral("Correction"), item.correction);
-    map.insert(QStringLiteral("ranges"), QVariantMap{{QStringLiteral("NearLight"), range},
-                                                     {QStringLiteral("FarLight"), range},
-                                                     {QStringLiteral("Correction"), range}});
+    map.insert(CameraSetting::allLightControlType, lists.lightControls.names());
+    map.insert(CameraSetting::controlMode, lists.lightControls.placeOf(item.controlMode));
+    map.insert(CameraSetting::lightMode, item.lightMode);
+    map.insert(CameraSetting::nearLight, item.nearLight);
+    map.insert(CameraSetting::farLight, item.farLight);
+    map.insert(CameraSetting::correction, item.correction);
+    map.insert(CameraGroupKey::ranges, QVariantMap{{CameraSetting::nearLight, range},
+                                                   {CameraSetting::farLight, range},
+                                                   {CameraSetting::correction, range}});
     return map;
 }
 
@@ -170,17 +171,17 @@ QVariant lightControlEx(const CameraState &state, const CameraLists &lists)
     const sdk::MixedLightItem &item = state.mixedLight;
     const QVariantMap range = rangeMap(state.capabilities.mixedLight);
     QVariantMap map = groupMap(state, Group::MixedLight);
-    map.insert(QStringLiteral("allLightControlType"), lists.lightControls.names());
-    map.insert(QStringLiteral("controlMode"), lists.lightControls.placeOf(item.controlMode));
-    map.insert(QStringLiteral("allmixLightType"), lists.mixedLights.names());
-    map.insert(QStringLiteral("mixMode"), lists.mixedLights.placeOf(item.mixMode));
-    map.insert(QStringLiteral("LightMode"), item.lightMode);
-    map.insert(QStringLiteral("Sensitive"), item.sensitive);
-    map.insert(QStringLiteral("Correction"), item.correction);
-    map.insert(QStringLiteral("Brightness"), item.brightness);
-    map.insert(QStringLiteral("Delay"), item.delay);
-    map.insert(QStringLiteral("ranges"),
-               QVariantMap{{QStringLiteral("Correction"), range}, {QStringLiteral("Brightness"), range}});
+    map.insert(CameraSetting::allLightControlType, lists.lightControls.names());
+    map.insert(CameraSetting::controlMode, lists.lightControls.placeOf(item.controlMode));
+    map.insert(CameraSetting::allmixLightType, lists.mixedLights.names());
+    map.insert(CameraSetting::mixMode, lists.mixedLights.placeOf(item.mixMode));
+    map.insert(CameraSetting::lightMode, item.lightMode);
+    map.insert(CameraSetting::sensitive, item.sensitive);
+    map.insert(CameraSetting::correction, item.correction);
+    map.insert(CameraSetting::brightness, item.brightness);
+    map.insert(CameraSetting::delay, item.delay);
+    map.insert(CameraGroupKey::ranges,
+               QVariantMap{{CameraSetting::correction, range}, {CameraSetting::brightness, range}});
     return map;
 }
 
@@ -189,57 +190,57 @@ using ValueOf = QVariant (*)(const CameraState &, const CameraLists &);
 const QHash<QString, ValueOf> &values()
 {
     static const QHash<QString, ValueOf> table = {
-        {QStringLiteral("picture"), &picture},
-        {QStringLiteral("sharpness"), &sharpness},
-        {QStringLiteral("mirror"), &mirror},
-        {QStringLiteral("stable"), &stable},
-        {QStringLiteral("exposure"), &exposure},
-        {QStringLiteral("backMode"), &backMode},
-        {QStringLiteral("whiteBalance"), &whiteBalance},
-        {QStringLiteral("dayNight"), &dayNight},
-        {QStringLiteral("inDefog"), &inDefog},
-        {QStringLiteral("lightControl"), &lightControl},
-        {QStringLiteral("lightControlEx"), &lightControlEx},
-        {QStringLiteral("allSwitchMode"),
+        {CameraKey::picture, &picture},
+        {CameraKey::sharpness, &sharpness},
+        {CameraKey::mirror, &mirror},
+        {CameraKey::stable, &stable},
+        {CameraKey::exposure, &exposure},
+        {CameraKey::backMode, &backMode},
+        {CameraKey::whiteBalance, &whiteBalance},
+        {CameraKey::dayNight, &dayNight},
+        {CameraKey::inDefog, &inDefog},
+        {CameraKey::lightControl, &lightControl},
+        {CameraKey::lightControlEx, &lightControlEx},
+        {CameraKey::allSwitchMode,
          [](const CameraState &, const CameraLists &lists) {
              return QVariant(lists.switchModes.names());
          }},
-        {QStringLiteral("curSwitchMode"),
+        {CameraKey::curSwitchMode,
          [](const CameraState &state, const CameraLists &lists) {
              return QVariant(lists.switchModes.placeOf(static_cast<int>(state.mode)));
          }},
-        {QStringLiteral("curDayNightMode"),
+        {CameraKey::curDayNightMode,
          [](const CameraState &state, const CameraLists &) {
              return QVariant(state.dayNightByMode.mode);
          }},
-        {QStringLiteral("curBackLightMode"),
+        {CameraKey::curBackLightMode,
          [](const CameraState &state, const CameraLists &) {
              return QVariant(state.backLightByMode.backMode);
          }},
-        {QStringLiteral("curChannelName"),
+        {CameraKey::curChannelName,
          [](const CameraState &state, const CameraLists &) {
              if (!state.isChannelNameRead)
                  return QVariant();
              const std::string_view name = sdk::blockText(state.channelName.name);
              return QVariant(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
          }},
-        {QStringLiteral("curColorStyle"),
+        {CameraKey::curColorStyle,
          [](const CameraState &state, const CameraLists &) {
              return QVariant(state.colorOfMode().colorStyle);
          }},
-        {QStringLiteral("curBrightness"),
+        {CameraKey::curBrightness,
          [](const CameraState &state, const CameraLists &) {
              return QVariant(state.colorOfMode().brightness);
          }},
-        {QStringLiteral("curContrast"),
+        {CameraKey::curContrast,
          [](const CameraState &state, const CameraLists &) {
              return QVariant(state.colorOfMode().contrast);
          }},
-        {QStringLiteral("curSaturation"),
+        {CameraKey::curSaturation,
          [](const CameraState &state, const CameraLists &) {
              return QVariant(state.colorOfMode().saturation);
          }},
-        {QStringLiteral("curGamma"),
+        {CameraKey::curGamma,
          [](const CameraState &state, const CameraLists &) {
              return QVariant(state.colorOfMode().gamma);
          }},
@@ -256,41 +257,25 @@ struct LackableSetting
 };
 
 constexpr std::array lackableSettings = {
-    LackableSetting{QLatin1StringView("picture"), QLatin1StringView("colorStyle"),
-                    sdk::CameraValue::ColorStyle},
-    LackableSetting{QLatin1StringView("picture"), QLatin1StringView("brightnessSlider"),
-                    sdk::CameraValue::Brightness},
-    LackableSetting{QLatin1StringView("picture"), QLatin1StringView("contrastSlider"),
-                    sdk::CameraValue::Contrast},
-    LackableSetting{QLatin1StringView("picture"), QLatin1StringView("saturationSlider"),
-                    sdk::CameraValue::Saturation},
-    LackableSetting{QLatin1StringView("picture"), QLatin1StringView("hue"), sdk::CameraValue::Hue},
-    LackableSetting{QLatin1StringView("picture"), QLatin1StringView("gamma"), sdk::CameraValue::Gamma},
-    LackableSetting{QLatin1StringView("exposure"), QLatin1StringView("antiFlicker"),
-                    sdk::CameraValue::AntiFlicker},
-    LackableSetting{QLatin1StringView("exposure"), QLatin1StringView("shutter"),
-                    sdk::CameraValue::ShutterTimes},
-    LackableSetting{QLatin1StringView("exposure"), QLatin1StringView("gain"), sdk::CameraValue::Gain},
-    LackableSetting{QLatin1StringView("exposure"), QLatin1StringView("Compensation"),
-                    sdk::CameraValue::Compensation},
-    LackableSetting{QLatin1StringView("exposure"), QLatin1StringView("irisAuto"),
-                    sdk::CameraValue::IrisAutomatic},
-    LackableSetting{QLatin1StringView("backMode"), QLatin1StringView("backlightmode"),
-                    sdk::CameraValue::BacklightRegion},
-    LackableSetting{QLatin1StringView("backMode"), QLatin1StringView("WideDynamic"),
-                    sdk::CameraValue::WideDynamicLevel},
-    LackableSetting{QLatin1StringView("backMode"), QLatin1StringView("GlareInhibition"),
-                    sdk::CameraValue::GlareInhibition},
-    LackableSetting{QLatin1StringView("whiteBalance"), QLatin1StringView("GainBlue"),
-                    sdk::CameraValue::WhiteBalanceGains},
-    LackableSetting{QLatin1StringView("whiteBalance"), QLatin1StringView("GainRed"),
-                    sdk::CameraValue::WhiteBalanceGains},
-    LackableSetting{QLatin1StringView("dayNight"), QLatin1StringView("Sensitivity"),
-                    sdk::CameraValue::DayNightSensitivity},
-    LackableSetting{QLatin1StringView("dayNight"), QLatin1StringView("SwitchDelay"),
-                    sdk::CameraValue::DayNightDelay},
-    LackableSetting{QLatin1StringView("inDefog"), QLatin1StringView("Intensity"),
-                    sdk::CameraValue::DefogIntensity},
+    LackableSetting{CameraKey::picture, CameraSetting::colorStyle, sdk::CameraValue::ColorStyle},
+    LackableSetting{CameraKey::picture, CameraSetting::brightnessSlider, sdk::CameraValue::Brightness},
+    LackableSetting{CameraKey::picture, CameraSetting::contrastSlider, sdk::CameraValue::Contrast},
+    LackableSetting{CameraKey::picture, CameraSetting::saturationSlider, sdk::CameraValue::Saturation},
+    LackableSetting{CameraKey::picture, CameraSetting::hue, sdk::CameraValue::Hue},
+    LackableSetting{CameraKey::picture, CameraSetting::gamma, sdk::CameraValue::Gamma},
+    LackableSetting{CameraKey::exposure, CameraSetting::antiFlicker, sdk::CameraValue::AntiFlicker},
+    LackableSetting{CameraKey::exposure, CameraSetting::shutter, sdk::CameraValue::ShutterTimes},
+    LackableSetting{CameraKey::exposure, CameraSetting::gain, sdk::CameraValue::Gain},
+    LackableSetting{CameraKey::exposure, CameraSetting::compensation, sdk::CameraValue::Compensation},
+    LackableSetting{CameraKey::exposure, CameraSetting::irisAuto, sdk::CameraValue::IrisAutomatic},
+    LackableSetting{CameraKey::backMode, CameraSetting::backlightmode, sdk::CameraValue::BacklightRegion},
+    LackableSetting{CameraKey::backMode, CameraSetting::wideDynamic, sdk::CameraValue::WideDynamicLevel},
+    LackableSetting{CameraKey::backMode, CameraSetting::glareInhibition, sdk::CameraValue::GlareInhibition},
+    LackableSetting{CameraKey::whiteBalance, CameraSetting::gainBlue, sdk::CameraValue::WhiteBalanceGains},
+    LackableSetting{CameraKey::whiteBalance, CameraSetting::gainRed, sdk::CameraValue::WhiteBalanceGains},
+    LackableSetting{CameraKey::dayNight, CameraSetting::sensitivity, sdk::CameraValue::DayNightSensitivity},
+    LackableSetting{CameraKey::dayNight, CameraSetting::switchDelay, sdk::CameraValue::DayNightDelay},
+    LackableSetting{CameraKey::inDefog, CameraSetting::intensity, sdk::CameraValue::DefogIntensity},
 };
 
 /// The settings of a group that this camera lacks.
@@ -335,6 +320,6 @@ QVariant cameraValue(const QString &key, const CameraState &state, const ValueTa
     if (missing.isEmpty())
         return value;
     QVariantMap map = value.toMap();
-    map.insert(QStringLiteral("missing"), missing);
+    map.insert(CameraGroupKey::missing, missing);
     return map;
 }

@@ -2,6 +2,7 @@
 
 #include "device/dh/configuration/currentsession.h"
 #include "device/dh/configuration/pagehold.h"
+#include "device/registry/mapkeys.h"
 #include "sdk/netlibrary.h"
 
 #include <utility>
@@ -42,21 +43,21 @@ PageStep ConfigurationPages::step(const SessionJob &job)
             SessionRun run(*state, upgradeCheck(state->ipport));
             const QVariant value = job(run, control);
             return PageOutcome{.value = value, .take = [this, state, news = run.takeNews()] {
-                                    if (state->session.handle() != m_session.handle())
-                                        return;
-                                    m_session.setState(state);
-                                    emitNews(news);
-                                }};
+                                   if (state->session.handle() != m_session.handle())
+                                       return;
+                                   m_session.setState(state);
+                                   emitNews(news);
+                               }};
         };
 }
 
 QVariant ConfigurationPages::value(const QString &key, const QVariant &channel) const
 {
-    if (key == QLatin1String("loginHandle"))
+    if (key == SessionKey::loginHandle)
         return QVariant::fromValue<qint64>(m_session.sharedHandle());
-    if (key == QLatin1String("sessionDevice"))
+    if (key == SessionKey::sessionDevice)
         return m_session.ipport();
-    if (key == QLatin1String("library"))
+    if (key == SessionKey::library)
         return libraryValues();
     return SessionRun(m_session.state(), {}).getConfigData(key, channel);
 }
@@ -70,8 +71,8 @@ QVariantMap ConfigurationPages::libraryValues() const
     const auto has = [&information](sdk::ProviderFunction function) {
         return (information.missingFunctions >> static_cast<std::uint32_t>(function) & 1) == 0;
     };
-    return {{QStringLiteral("defaultPort"), information.defaultPort},
-            {QStringLiteral("videoStandard"), has(sdk::ProviderFunction::VideoStandard)},
-            {QStringLiteral("automaticMaintenance"), has(sdk::ProviderFunction::AutomaticMaintenance)},
-            {QStringLiteral("timeServerDetails"), has(sdk::ProviderFunction::TimeServerDetails)}};
+    return {{LibraryKey::defaultPort, information.defaultPort},
+            {LibraryKey::videoStandard, has(sdk::ProviderFunction::VideoStandard)},
+            {LibraryKey::automaticMaintenance, has(sdk::ProviderFunction::AutomaticMaintenance)},
+            {LibraryKey::timeServerDetails, has(sdk::ProviderFunction::TimeServerDetails)}};
 }

@@ -8,6 +8,7 @@
 #include "device/dh/session/sessionthreads.h"
 #include "device/registry/devicerow.h"
 #include "device/registry/devicestore.h"
+#include "device/registry/mapkeys.h"
 #include "sdk/netlibrary.h"
 
 #include <utility>
@@ -78,10 +79,10 @@ PageStep SessionLogins::loginStep(const QString &ipport, const QString &account,
             m_libraries.net, m_logins.logIn(ipport, {.account = account, .password = password}));
         const int result = resultCode(login->result());
         return PageOutcome{.value = result, .take = [this, ipport, account, password, login, result] {
-                                if (login->result() == LoginResult::Success)
-                                    m_session.begin(ipport, account, password, login->take());
-                                m_signals.emitNow<&CDeviceBase::signalCDeviceHighLevelLoginRet>(result);
-                            }};
+                               if (login->result() == LoginResult::Success)
+                                   m_session.begin(ipport, account, password, login->take());
+                               m_signals.emitNow<&CDeviceBase::signalCDeviceHighLevelLoginRet>(result);
+                           }};
     };
 }
 
@@ -118,11 +119,11 @@ PageStep SessionLogins::detailStep(const QString &ipport)
                 detail = loginDetail(ConfigSession(m_libraries, login.handle));
             m_libraries.net->NetLogout(login.handle);
         }
-        detail.insert(QStringLiteral("loginResult"), resultCode(login.result));
+        detail.insert(DeviceDetailKey::loginResult, resultCode(login.result));
         return PageOutcome{.value = detail,
-                            .take = [this, ipport, mac = detail.value(DeviceRowKey::mac).toString()] {
-                                takeMac(ipport, mac);
-                            }};
+                           .take = [this, ipport, mac = detail.value(DeviceRowKey::mac).toString()] {
+                               takeMac(ipport, mac);
+                           }};
     };
 }
 

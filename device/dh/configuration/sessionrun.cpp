@@ -1,8 +1,11 @@
 #include "device/dh/configuration/sessionrun.h"
 
 #include "device/dh/session/livechannels.h"
+#include "device/registry/camerakeys.h"
+#include "device/registry/encodekeys.h"
 #include "device/registry/logging.h"
 #include "device/registry/loginresult.h"
+#include "device/registry/mapkeys.h"
 
 #include <algorithm>
 #include <utility>
@@ -69,15 +72,15 @@ void SessionRun::confirmConfigData()
 
 QVariant SessionRun::getConfigData(const QString &key, const QVariant &channel)
 {
-    if (key == QLatin1String("connectedChannels"))
+    if (key == SessionKey::connectedChannels)
         return m_state.session.isOpen()
                    ? listOf(connectedChannels(m_state.session, m_state.channels.channelCount))
                    : QVariantList();
-    if (key == QLatin1String("channelName"))
+    if (key == SessionKey::channelName)
         return m_state.names.name(channel.toInt());
-    if (key == QLatin1String("channelNameResult"))
+    if (key == SessionKey::channelNameResult)
         return m_state.names.result(channel.toInt());
-    if (key == QLatin1String("channelNamesResult"))
+    if (key == SessionKey::channelNamesResult)
         return m_state.names.savingResult();
     if (ChannelChoice::isKey(key))
         return m_state.channels.value(key);
@@ -96,9 +99,9 @@ void SessionRun::setConfigData(const QString &key, const QVariant &value, const 
         if (m_state.channels.curChannel != before.curChannel ||
             m_state.channels.curStreamType != before.curStreamType)
             m_state.encode.forgetItems();
-    } else if (key == QLatin1String("channelName")) {
+    } else if (key == SessionKey::channelName) {
         writeChannelName(value.toString(), otype);
-    } else if (key == QLatin1String("channelNamesSaved")) {
+    } else if (key == SessionKey::channelNamesSaved) {
         if (m_state.names.endSaving())
             note<&CDeviceBase::signalCDeviceSetChannelNameFinished>();
     } else if (EncodeValues::isKey(key)) {
@@ -111,7 +114,7 @@ void SessionRun::setConfigData(const QString &key, const QVariant &value, const 
 void SessionRun::setEncodeValue(const QString &key, const QVariant &value)
 {
     // "subCurResolution" is written to the device immediately.
-    if (key == QLatin1String("subCurResolution") && m_isUpgrading()) {
+    if (key == EncodeKey::subCurResolution && m_isUpgrading()) {
         noteUpgrading();
         return;
     }
@@ -150,14 +153,14 @@ void SessionRun::getVideoInByChangeChannel()
 void SessionRun::setCameraValue(const QString &key, const QVariant &value, const QString &subKey)
 {
     int failure = 0;
-    if (key != QLatin1String("curSwitchMode") && m_isUpgrading()) {
+    if (key != CameraKey::curSwitchMode && m_isUpgrading()) {
         failure = resultCode(LoginResult::Upgrading);
     } else {
         switch (m_state.camera.setValue(key, value, subKey, m_state.channels.curVideoChannel)) {
         case CameraConfig::Outcome::Ignored:
             break;
         case CameraConfig::Outcome::Taken:
-            if (key == QLatin1String("curChannelName"))
+            if (key == CameraKey::curChannelName)
                 note<&CDeviceBase::signalCDeviceSetChannelNameFinished>();
             break;
         case CameraConfig::Outcome::Refused:
@@ -190,14 +193,14 @@ QVariantList SessionRun::getDeviceChannelData(const QString &key, int channelNum
     const int count = askedChannels(channelNum);
     if (count == 0)
         return {};
-    if (key == QLatin1String("channelNames")) {
+    if (key == SessionKey::channelNames) {
         QVariantList names = m_state.names.names(count);
         if (m_state.names.isDeviceAway())
             noteResult(deviceAway);
         return names;
     }
-    return key == QLatin1String("channelsConnected") ? listOf(connectedChannels(m_state.session, count))
-                                                     : QVariantList();
+    return key == SessionKey::channelsConnected ? listOf(connectedChannels(m_state.session, count))
+                                                : QVariantList();
 }
 
 void SessionRun::writeChannelName(const QString &name, const QString &channel)

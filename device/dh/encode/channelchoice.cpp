@@ -1,5 +1,6 @@
 #include "device/dh/encode/channelchoice.h"
 
+#include "device/registry/encodekeys.h"
 #include "device/registry/logging.h"
 
 #include <QStringList>
@@ -8,25 +9,21 @@ namespace {
 
 constexpr int streamTypes = 3;
 
-constexpr QLatin1StringView channelNumKey("channelNum");
-constexpr QLatin1StringView encodeChannel("curChannel");
-constexpr QLatin1StringView streamTypeKey("curStreamType");
-constexpr QLatin1StringView videoChannel("curVideoChannel");
-
 } // namespace
 
 bool ChannelChoice::isKey(const QString &key)
 {
-    return key == channelNumKey || key == encodeChannel || key == streamTypeKey || key == videoChannel;
+    return key == EncodeKey::channelNum || key == EncodeKey::curChannel || key == EncodeKey::curStreamType ||
+           key == EncodeKey::curVideoChannel;
 }
 
 QVariant ChannelChoice::value(const QString &key) const
 {
-    if (key == encodeChannel)
+    if (key == EncodeKey::curChannel)
         return curChannel;
-    if (key == streamTypeKey)
+    if (key == EncodeKey::curStreamType)
         return curStreamType;
-    if (key == videoChannel)
+    if (key == EncodeKey::curVideoChannel)
         return curVideoChannel;
     QStringList numbers;
     for (int channel = 1; channel <= channelCount; ++channel)
@@ -38,13 +35,13 @@ void ChannelChoice::choose(const QString &key, const QVariant &value)
 {
     bool isNumber = false;
     const int number = value.toInt(&isNumber);
-    const int count = key == streamTypeKey ? streamTypes : qMax(1, channelCount);
+    const int count = key == EncodeKey::curStreamType ? streamTypes : qMax(1, channelCount);
     if (!isNumber || number < 0 || number >= count)
         qCWarning(logDevice) << "ChannelChoice:" << key << "cannot be" << value;
-    else if (key == encodeChannel)
+    else if (key == EncodeKey::curChannel)
         curChannel = number;
-    else if (key == streamTypeKey)
+    else if (key == EncodeKey::curStreamType)
         curStreamType = number;
-    else if (key == videoChannel)
+    else if (key == EncodeKey::curVideoChannel)
         curVideoChannel = number;
 }

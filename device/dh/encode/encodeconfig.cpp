@@ -1,5 +1,6 @@
 #include "device/dh/encode/encodeconfig.h"
 
+#include "device/registry/encodekeys.h"
 #include "device/registry/logging.h"
 
 #include <QCoreApplication>
@@ -65,17 +66,17 @@ void EncodeConfig::forgetItems()
 
 QVariant EncodeConfig::value(const QString &key, const ChannelChoice &channels) const
 {
-    if (key == takenItemsKey)
+    if (key == EncodeKey::takenItems)
         return m_takenItems;
     const EncodeState &state = m_state ? *m_state : nothing();
-    if (key == unreadItemsKey || key == unreadPlacesKey) {
+    if (key == EncodeKey::unreadItems || key == EncodeKey::unreadPlaces) {
         QStringList names;
         QVariantList places;
         for (const int place : state.withheldItems(channels.curStreamType)) {
             names.append(itemNames().at(place));
             places.append(place);
         }
-        return key == unreadItemsKey ? QVariant(names) : QVariant(places);
+        return key == EncodeKey::unreadItems ? QVariant(names) : QVariant(places);
     }
     return m_values.value(key, state, channels.curStreamType);
 }
@@ -100,7 +101,7 @@ EncodeConfig::Outcome EncodeConfig::setValue(const QString &key, const QVariant 
         qCWarning(logDevice) << "Encode:" << key << "cannot be set to" << value;
         return {};
     }
-    if (key != QLatin1String("subCurResolution"))
+    if (key != EncodeKey::subCurResolution)
         return {};
     Outcome outcome;
     // The devices expect the channel of the image page here, not that of the encode page.

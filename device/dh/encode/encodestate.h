@@ -3,20 +3,10 @@
 
 #include "device/dh/session/configsession.h"
 #include "device/registry/devicestep.h"
+#include "device/registry/encodekeys.h"
 #include "sdk/encodeblocks.h"
 
 #include <QList>
-
-/// The items of a stream, in the order of reading and writing.
-enum class EncodePlace : std::uint8_t
-{
-    VideoFormat,
-    VideoProfile,
-    AudioCompression,
-    AudioFormat,
-};
-
-inline constexpr int itemsOfStream = 4;
 
 /// The items of one stream. An item that was not read is zero except for size and stream. It must not be
 /// written, since that would overwrite unknown settings.

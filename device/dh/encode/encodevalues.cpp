@@ -1,6 +1,7 @@
 #include "device/dh/encode/encodevalues.h"
 
 #include "device/dh/encode/encodechoices.h"
+#include "device/registry/encodekeys.h"
 
 #include <QCoreApplication>
 #include <QSet>
@@ -23,50 +24,6 @@ public:
     static QString customBitRate() { return tr("自定义"); }
 };
 
-/// A key split into stream and field.
-struct StreamKey
-{
-    bool isSub = false;
-    QString field; ///< key of the main stream
-};
-
-StreamKey parted(const QString &key)
-{
-    const QLatin1StringView prefix("sub");
-    if (!key.startsWith(prefix) || key.size() == prefix.size())
-        return {.isSub = false, .field = key};
-    QString field = key.mid(prefix.size());
-    field[0] = field.at(0).toLower();
-    return {.isSub = true, .field = field};
-}
-
-constexpr QLatin1StringView missingSettingsKey("missingSettings");
-
-const QSet<QString> &streamFields()
-{
-    static const QSet<QString> fields = {QStringLiteral("allStreamType"),
-                                         QStringLiteral("encodeMode"),
-                                         QStringLiteral("curEncodeMode"),
-                                         QStringLiteral("bitstreamControl"),
-                                         QStringLiteral("audioEnable"),
-                                         QStringLiteral("audioCompression"),
-                                         QStringLiteral("curAudioCompression"),
-                                         QStringLiteral("samplingFrequency"),
-                                         QStringLiteral("curSamplingFrequency"),
-                                         QStringLiteral("resolution"),
-                                         QStringLiteral("curResolution"),
-                                         QStringLiteral("frameRateMax"),
-                                         QStringLiteral("frameRate"),
-                                         QStringLiteral("quality"),
-                                         QStringLiteral("bitStream"),
-                                         QStringLiteral("curBitStream"),
-                                         QStringLiteral("bitRate"),
-                                         missingSettingsKey};
-    return fields;
-}
-
-constexpr QLatin1StringView offeredTypesKey("offeredStreamTypes");
-
 /// The number of kinds of main stream that the device has, counted from "normal"; all if it reports none.
 int offeredTypes(const EncodeState &state)
 {
@@ -75,22 +32,6 @@ int offeredTypes(const EncodeState &state)
     while (offered < all && state.mainBlock(offered).compressionMask != 0)
         ++offered;
     return offered > 0 ? offered : all;
-}
-
-/// The item that contains a value; nullopt for a list.
-std::optional<EncodePlace> placeOf(const QString &field)
-{
-    static const QSet<QString> ofVideoFormat = {
-        QStringLiteral("videoEnable"),   QStringLiteral("curEncodeMode"), QStringLiteral("bitstreamControl"),
-        QStringLiteral("curResolution"), QStringLiteral("frameRate"),     QStringLiteral("quality"),
-        QStringLiteral("curBitStream"),  QStringLiteral("bitRate")};
-    if (ofVideoFormat.contains(field))
-        return EncodePlace::VideoFormat;
-    if (field == QLatin1String("audioEnable") || field == QLatin1String("curAudioCompression"))
-        return EncodePlace::AudioCompression;
-    if (field == QLatin1String("curSamplingFrequency"))
-        return EncodePlace::AudioFormat;
-    return std::nullopt;
 }
 
 /// An integer from `minimum` to `maximum`, given as number, bool or decimal text.
@@ -143,15 +84,15 @@ QStringList samplingFrequencies(const EncodeChoices &choices, const EncodeItems 
 QStringList missingSettings(const EncodeChoices &choices)
 {
     QStringList missing;
-    const auto add = [&](sdk::EncodeValue value, const char *setting) {
+    const auto add = [&](sdk::EncodeValue value, QLatin1StringView setting) {
         if (choices.isMissing(value))
-            missing.append(QString::fromLatin1(setting));
+            missing.append(setting);
     };
-    add(sdk::EncodeValue::Stream, "stream");
-    add(sdk::EncodeValue::StreamSwitch, "videoEnable");
-    add(sdk::EncodeValue::BitRateControl, "control");
-    add(sdk::EncodeValue::Audio, "audio");
-    add(sdk::EncodeValue::AudioSwitch, "audioEnable");
+    add(sdk::EncodeValue::Stream, EncodeSetting::stream);
+    add(sdk::EncodeValue::StreamSwitch, EncodeKey::videoEnable);
+    add(sdk::EncodeValue::BitRateControl, EncodeSetting::control);
+    add(sdk::EncodeValue::Audio, EncodeSetting::audio);
+    add(sdk::EncodeValue::AudioSwitch, EncodeKey::audioEnable);
     return missing;
 }
 
@@ -159,19 +100,24 @@ QStringList missingSettings(const EncodeChoices &choices)
 
 bool EncodeValues::isKey(const QString &key)
 {
-    return key == QLatin1String("subVideoEnable") || key == offeredTypesKey || key == takenItemsKey ||
-           key == unreadItemsKey || key == unreadPlacesKey || streamFields().contains(parted(key).field);
+    constexpr std::array otherKeys = {EncodeKey::subVideoEnable, EncodeKey::offeredStreamTypes,
+                                      EncodeKey::takenItems, EncodeKey::unreadItems, EncodeKey::unreadPlaces};
+    const QString field = splitEncodeKey(key).field;
+    return std::any_of(otherKeys.begin(), otherKeys.end(),
+                       [&key](QLatin1StringView other) { return other == key; }) ||
+           std::any_of(encodeFields.begin(), encodeFields.end(),
+                       [&field](const EncodeField &candidate) { return candidate.key == field; });
 }
 
 QVariant EncodeValues::value(const QString &key, const EncodeState &state, int streamType) const
 {
-    const StreamKey parts = parted(key);
-    const std::optional<EncodePlace> place = placeOf(parts.field);
+    const StreamKey parts = splitEncodeKey(key);
+    const std::optional<EncodePlace> place = encodePlaceOf(parts.field);
     if (place && !(parts.isSub ? state.sub : state.main).knows(*place))
         return {};
-    if (key == offeredTypesKey)
+    if (key == EncodeKey::offeredStreamTypes)
         return offeredTypes(state);
-    if (key == QLatin1String("subVideoEnable"))
+    if (key == EncodeKey::subVideoEnable)
         return state.sub.videoFormat.videoEnable != 0 ? 1 : 0;
     return parts.isSub ? streamValue(parts.field, true, state.sub, state.subBlock())
                        : streamValue(parts.field, false, state.main, state.mainBlock(streamType));
@@ -181,31 +127,31 @@ QVariant EncodeValues::streamValue(const QString &field, bool isSub, const Encod
                                    const sdk::EncodeCapabilityBlock &block) const
 {
     const sdk::VideoFormatItem &video = items.videoFormat;
-    if (field == QLatin1String("curEncodeMode")) {
+    if (field == EncodeKey::curEncodeMode) {
         const bool hasProfiles = EncodeChoices(m_tables, block).hasProfiles();
         return compressionName(m_tables, video.compression, hasProfiles ? items.videoProfile.profile : 0);
     }
-    if (field == QLatin1String("bitstreamControl"))
+    if (field == EncodeKey::bitstreamControl)
         return video.bitRateControl != 0 ? 1 : 0;
-    if (field == QLatin1String("audioEnable"))
+    if (field == EncodeKey::audioEnable)
         return items.audioCompression.audioEnable != 0 ? 1 : 0;
-    if (field == QLatin1String("curAudioCompression"))
+    if (field == EncodeKey::curAudioCompression)
         return ValueTables::audioFormatToName(items.audioCompression.format);
-    if (field == QLatin1String("curSamplingFrequency"))
+    if (field == EncodeKey::curSamplingFrequency)
         return QString::number(items.audioFormat.samplingFrequency);
-    if (field == QLatin1String("curResolution"))
+    if (field == EncodeKey::curResolution)
         return resolutionName(m_tables, video.width, video.height);
-    if (field == QLatin1String("frameRateMax"))
+    if (field == EncodeKey::frameRateMax)
         return qBound(0, block.maximumFrameRate, highestFrameRate);
-    if (field == QLatin1String("frameRate"))
+    if (field == EncodeKey::frameRate)
         return shownFrameRate(video.frameRate);
-    if (field == QLatin1String("quality"))
+    if (field == EncodeKey::quality)
         return qBound(worstQuality, video.quality, bestQuality);
-    if (field == QLatin1String("curBitStream")) {
+    if (field == EncodeKey::curBitStream) {
         const QStringList steps = EncodeChoices(m_tables, block).bitRates();
         return static_cast<int>(steps.indexOf(QString::number(video.bitRate)));
     }
-    if (field == QLatin1String("bitRate"))
+    if (field == EncodeKey::bitRate)
         return qBound(0, video.bitRate, highestBitRate);
     return listValue(field, isSub, items, block);
 }
@@ -214,19 +160,19 @@ QVariant EncodeValues::listValue(const QString &field, bool isSub, const EncodeI
                                  const sdk::EncodeCapabilityBlock &block) const
 {
     const EncodeChoices choices(m_tables, block);
-    if (field == QLatin1String("allStreamType"))
+    if (field == EncodeKey::allStreamType)
         return isSub ? m_tables.StreamTypeNames.first(1) : m_tables.StreamTypeNames;
-    if (field == QLatin1String("encodeMode"))
+    if (field == EncodeKey::encodeMode)
         return choices.compressions();
-    if (field == QLatin1String("resolution"))
+    if (field == EncodeKey::resolution)
         return choices.resolutions();
-    if (field == QLatin1String("bitStream"))
+    if (field == EncodeKey::bitStream)
         return choices.bitRates() + QStringList(PageTexts::customBitRate());
-    if (field == QLatin1String("audioCompression"))
+    if (field == EncodeKey::audioCompression)
         return choices.audioCompressions();
-    if (field == QLatin1String("samplingFrequency"))
+    if (field == EncodeKey::samplingFrequency)
         return samplingFrequencies(choices, items);
-    if (field == missingSettingsKey)
+    if (field == EncodeKey::missingSettings)
         return missingSettings(choices);
     return {};
 }
@@ -258,35 +204,35 @@ void EncodeValues::setAudioCompression(const QString &name, EncodeItems &items,
 bool EncodeValues::setValue(const QString &key, const QVariant &value, EncodeState &state,
                             int streamType) const
 {
-    const StreamKey parts = parted(key);
+    const StreamKey parts = splitEncodeKey(key);
     EncodeItems &items = parts.isSub ? state.sub : state.main;
     sdk::VideoFormatItem &video = items.videoFormat;
-    const std::optional<EncodePlace> place = placeOf(parts.field);
+    const std::optional<EncodePlace> place = encodePlaceOf(parts.field);
     if (!place || !items.knows(*place))
         return false;
-    if (key == QLatin1String("subVideoEnable"))
+    if (key == EncodeKey::subVideoEnable)
         return setFlag(value, video.videoEnable);
-    if (parts.field == QLatin1String("curEncodeMode"))
+    if (parts.field == EncodeKey::curEncodeMode)
         return setCompression(value.toString(), items, state);
-    if (parts.field == QLatin1String("bitstreamControl"))
+    if (parts.field == EncodeKey::bitstreamControl)
         return setFlag(value, video.bitRateControl);
-    if (parts.field == QLatin1String("audioEnable"))
+    if (parts.field == EncodeKey::audioEnable)
         return setFlag(value, items.audioCompression.audioEnable);
-    if (parts.field == QLatin1String("frameRate"))
+    if (parts.field == EncodeKey::frameRate)
         return setNumber(value, 1, highestFrameRate, video.frameRate);
-    if (parts.field == QLatin1String("quality"))
+    if (parts.field == EncodeKey::quality)
         return setNumber(value, worstQuality, bestQuality, video.quality);
-    if (parts.field == QLatin1String("curBitStream"))
+    if (parts.field == EncodeKey::curBitStream)
         return setNumber(value, 1, highestBitRate, video.bitRate);
-    if (parts.field == QLatin1String("curSamplingFrequency"))
+    if (parts.field == EncodeKey::curSamplingFrequency)
         return setNumber(value, 1, highestSamplingFrequency, items.audioFormat.samplingFrequency);
-    if (parts.field == QLatin1String("curAudioCompression")) {
+    if (parts.field == EncodeKey::curAudioCompression) {
         const sdk::EncodeCapabilityBlock &block =
             parts.isSub ? state.subBlock() : state.mainBlock(streamType);
         setAudioCompression(value.toString(), items, block);
         return true;
     }
-    if (parts.field == QLatin1String("curResolution")) {
+    if (parts.field == EncodeKey::curResolution) {
         const std::optional<ResolutionChoice> choice = resolutionChoice(m_tables, value.toString());
         if (!choice)
             return false;

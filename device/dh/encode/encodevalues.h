@@ -6,14 +6,7 @@
 
 #include <QVariant>
 
-/// Keys that EncodeConfig handles: indexes of the items that the device accepted in the last write, indexes
-/// and names of the items that were not read.
-inline constexpr QLatin1StringView takenItemsKey("takenItems");
-inline constexpr QLatin1StringView unreadPlacesKey("unreadPlaces");
-inline constexpr QLatin1StringView unreadItemsKey("unreadItems");
-
-/// Reads and changes values of an EncodeState by key. Keys of the sub stream are those of the main stream
-/// with the prefix "sub".
+/// Reads and changes values of an EncodeState by the keys of EncodeKey.
 class EncodeValues
 {
 public:

@@ -7,6 +7,7 @@
 #include "device/registry/devicestore.h"
 #include "device/registry/localpath.h"
 #include "device/registry/logging.h"
+#include "device/registry/mapkeys.h"
 
 #include <QCoreApplication>
 
@@ -27,10 +28,10 @@ QString namedCharacter(const QString &character)
 QVariantMap faultMap(const DeviceListLine &line, const UnreadableText &fault)
 {
     const ListColumnName &name = listColumnNames().at(static_cast<std::size_t>(fault.column));
-    return {{QStringLiteral("address"), line[ListColumn::IPAddress].left(maximumListText)},
-            {QStringLiteral("name"), line[ListColumn::DeviceName].left(maximumListText)},
-            {QStringLiteral("column"), QStringLiteral("%1 (%2)").arg(name.header, name.element)},
-            {QStringLiteral("reason"),
+    return {{ExportFaultKey::address, line[ListColumn::IPAddress].left(maximumListText)},
+            {ExportFaultKey::name, line[ListColumn::DeviceName].left(maximumListText)},
+            {ExportFaultKey::column, QStringLiteral("%1 (%2)").arg(name.header, name.element)},
+            {ExportFaultKey::reason,
              line[fault.column].isEmpty() ? QCoreApplication::translate("DeviceList", "设备地址无效")
              : fault.character.isEmpty()
                  ? QCoreApplication::translate("DeviceList", "字段过长")

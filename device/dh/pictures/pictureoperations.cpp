@@ -7,6 +7,7 @@
 #include "device/registry/devicerow.h"
 #include "device/registry/devicestore.h"
 #include "device/registry/loginresult.h"
+#include "device/registry/mapkeys.h"
 #include "media/snapthread.h"
 
 #include <QCoreApplication>
@@ -181,8 +182,8 @@ StepOutcome PictureOperations::takePictures(const PictureOrder &order, const Sec
         const QVariantList found = liveChannels(session, std::min(count, PictureOrder::maximumChannels));
         for (const QVariant &channel : found) {
             const QVariantMap values = channel.toMap();
-            channels.append({values.value(QStringLiteral("channel")).toInt(),
-                             values.value(QStringLiteral("connected")).toBool()});
+            channels.append(
+                {values.value(ChannelKey::channel).toInt(), values.value(ChannelKey::connected).toBool()});
         }
         if (order.found)
             order.found(found, count);

@@ -6,6 +6,7 @@
 #include "device/registry/devicefilter.h"
 #include "device/registry/devicerow.h"
 #include "device/registry/devicestore.h"
+#include "device/registry/mapkeys.h"
 
 #include <QSet>
 
@@ -53,12 +54,11 @@ QVariantMap RowOperations::accountOf(const QString &name) const
 {
     const QJsonObject row = m_store->rowNamed(name);
     const AccountChoice::Chosen chosen = m_logins.accounts().of(row.isEmpty() ? m_store->rowAt(name) : row);
-    return {{QStringLiteral("account"), chosen.account.account},
-            {QStringLiteral("password"), chosen.account.password},
-            {QStringLiteral("isStored"), chosen.source == AccountChoice::Source::Stored},
-            {QStringLiteral("isDefault"), chosen.source == AccountChoice::Source::Default},
-            {QStringLiteral("isFollowing"),
-             chosen.source == AccountChoice::Source::Default && chosen.isFollowing}};
+    return {{AccountKey::account, chosen.account.account},
+            {AccountKey::password, chosen.account.password},
+            {AccountKey::isStored, chosen.source == AccountChoice::Source::Stored},
+            {AccountKey::isDefault, chosen.source == AccountChoice::Source::Default},
+            {AccountKey::isFollowing, chosen.source == AccountChoice::Source::Default && chosen.isFollowing}};
 }
 
 QVariantMap RowOperations::rowAt(const QString &ipport) const
@@ -83,12 +83,12 @@ QVariantMap RowOperations::detail(const QString &mac) const
     if (!record)
         return detail;
     const sdk::SearchDeviceInformation &device = record->device;
-    detail.insert(QStringLiteral("submask"), fieldText(device.subnetMask));
-    detail.insert(QStringLiteral("gateway"), fieldText(device.gateway));
-    detail.insert(QStringLiteral("dhcp"), device.dhcpEnabled != 0);
-    detail.insert(QStringLiteral("serial"), fieldText(device.serialNumber));
-    detail.insert(QStringLiteral("uuid"), fieldText(device.uuid));
-    detail.insert(QStringLiteral("localAddress"), fieldText(record->localAddress));
+    detail.insert(DeviceDetailKey::submask, fieldText(device.subnetMask));
+    detail.insert(DeviceDetailKey::gateway, fieldText(device.gateway));
+    detail.insert(DeviceDetailKey::dhcp, device.dhcpEnabled != 0);
+    detail.insert(DeviceDetailKey::serial, fieldText(device.serialNumber));
+    detail.insert(DeviceDetailKey::uuid, fieldText(device.uuid));
+    detail.insert(DeviceDetailKey::localAddress, fieldText(record->localAddress));
     return detail;
 }
 

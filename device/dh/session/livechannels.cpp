@@ -1,6 +1,7 @@
 #include "device/dh/session/livechannels.h"
 
 #include "device/dh/session/channelnames.h"
+#include "device/registry/mapkeys.h"
 #include "sdk/blocktext.h"
 #include "sdk/camerablocks.h"
 #include "sdk/streamblocks.h"
@@ -43,10 +44,10 @@ QVariantList liveChannels(const ConfigSession &session, int count)
         const std::string_view told = isTold ? sdk::blockText(item.name) : std::string_view();
         const QString name = QString::fromUtf8(told.data(), qsizetype(told.size())).trimmed();
         channels.append(QVariantMap{
-            {QStringLiteral("channel"), channel},
-            {QStringLiteral("name"),
+            {ChannelKey::channel, channel},
+            {ChannelKey::name,
              name.isEmpty() ? QCoreApplication::translate("LiveChannels", "通道 %1").arg(channel + 1) : name},
-            {QStringLiteral("connected"), connected.at(channel)},
+            {ChannelKey::connected, connected.at(channel)},
         });
     }
     return channels;

@@ -2,6 +2,7 @@
 
 #include "device/registry/devicerow.h"
 #include "device/registry/loginresult.h"
+#include "device/registry/mapkeys.h"
 #include "sdk/configrecords.h"
 #include "sdk/loginblocks.h"
 #include "sdk/streamblocks.h"
@@ -38,13 +39,13 @@ bool readAttributes(const ConfigSession &session, QVariantMap &detail)
     sdk::DeviceAttributes answer{};
     if (!session.queryBlock(sdk::QueryCommand::DeviceAttributes, answer, ConfigSession::usualWait))
         return !session.isDeviceAway();
-    putText(detail, QLatin1StringView("serial"), fieldText(answer.serialNumber));
+    putText(detail, DeviceDetailKey::serial, fieldText(answer.serialNumber));
     putText(detail, DeviceRowKey::vision, versionText(fieldText(answer.softwareVersion)));
     putText(detail, DeviceRowKey::model, fieldText(answer.detailModel));
     putText(detail, DeviceRowKey::mac, fieldText(answer.mac));
-    putNumber(detail, QLatin1StringView("channelCount"), answer.videoInputs);
-    putNumber(detail, QLatin1StringView("alarmInputs"), answer.alarmInputs);
-    putNumber(detail, QLatin1StringView("disks"), answer.disks);
+    putNumber(detail, DeviceDetailKey::channelCount, answer.videoInputs);
+    putNumber(detail, DeviceDetailKey::alarmInputs, answer.alarmInputs);
+    putNumber(detail, DeviceDetailKey::disks, answer.disks);
     return true;
 }
 
@@ -62,27 +63,27 @@ bool readRecord(const ConfigSession &session, const char *name, int channel, Tak
 bool readNetwork(const ConfigSession &session, QVariantMap &detail)
 {
     return readRecord<sdk::NetworkRecord>(session, "Network", 0, [&](const sdk::NetworkRecord &record) {
-        putText(detail, QLatin1StringView("hostName"), fieldText(record.hostName));
+        putText(detail, DeviceDetailKey::hostName, fieldText(record.hostName));
         putText(detail, DeviceRowKey::mac, fieldText(record.mac));
-        putText(detail, QLatin1StringView("address"), fieldText(record.address));
-        putText(detail, QLatin1StringView("submask"), fieldText(record.subnetMask));
-        putText(detail, QLatin1StringView("gateway"), fieldText(record.gateway));
-        detail.insert(QLatin1StringView("dhcp"), record.dhcpEnabled != 0);
+        putText(detail, DeviceDetailKey::address, fieldText(record.address));
+        putText(detail, DeviceDetailKey::submask, fieldText(record.subnetMask));
+        putText(detail, DeviceDetailKey::gateway, fieldText(record.gateway));
+        detail.insert(DeviceDetailKey::dhcp, record.dhcpEnabled != 0);
     });
 }
 
 bool readService(const ConfigSession &session, QVariantMap &detail)
 {
     return readRecord<sdk::ServiceRecord>(session, "DVRIP", 0, [&](const sdk::ServiceRecord &record) {
-        putNumber(detail, QLatin1StringView("servicePort"), record.tcpPort);
-        putNumber(detail, QLatin1StringView("maximumConnections"), record.maximumConnections);
+        putNumber(detail, DeviceDetailKey::servicePort, record.tcpPort);
+        putNumber(detail, DeviceDetailKey::maximumConnections, record.maximumConnections);
     });
 }
 
 bool readHttps(const ConfigSession &session, QVariantMap &detail)
 {
     return readRecord<sdk::HttpsRecord>(session, "Https", everyChannel, [&](const sdk::HttpsRecord &record) {
-        putNumber(detail, QLatin1StringView("httpsPort"), record.enabled != 0 ? record.port : 0);
+        putNumber(detail, DeviceDetailKey::httpsPort, record.enabled != 0 ? record.port : 0);
     });
 }
 
@@ -91,8 +92,8 @@ bool readServices(const ConfigSession &session, QVariantMap &detail)
     const auto answer = std::make_unique<sdk::NetworkServices>();
     if (!session.queryBlock(sdk::QueryCommand::NetworkServices, *answer, ConfigSession::usualWait))
         return !session.isDeviceAway();
-    putNumber(detail, QLatin1StringView("webPort"), answer->webPort);
-    putNumber(detail, QLatin1StringView("rtspPort"), answer->rtspPort);
+    putNumber(detail, DeviceDetailKey::webPort, answer->webPort);
+    putNumber(detail, DeviceDetailKey::rtspPort, answer->rtspPort);
     return true;
 }
 
@@ -106,7 +107,7 @@ bool readChannels(const ConfigSession &session, QVariantMap &detail)
         answer->states.cbegin(), answer->states.cbegin() + static_cast<std::ptrdiff_t>(told),
         [](const sdk::ChannelState &state) { return state.connection == sdk::ChannelConnection::Connected; });
     if (told > 0)
-        detail.insert(QLatin1StringView("connectedCount"), static_cast<int>(connected));
+        detail.insert(DeviceDetailKey::connectedCount, static_cast<int>(connected));
     return true;
 }
 

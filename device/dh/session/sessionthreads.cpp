@@ -30,7 +30,7 @@ void SessionThreads::start(const std::function<void()> &work)
 }
 
 void SessionThreads::runForPage(const PageStep &step, const std::stop_token &stop,
-                                 const std::function<void(const PageOutcome &outcome)> &ended)
+                                const std::function<void(const PageOutcome &outcome)> &ended)
 {
     m_threads.start([this, step, stop, ended] {
         if (stop.stop_requested())

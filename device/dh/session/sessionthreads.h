@@ -32,7 +32,7 @@ public:
 
     /// See CDeviceBase::runForPage().
     void runForPage(const PageStep &step, const std::stop_token &stop,
-                     const std::function<void(const PageOutcome &outcome)> &ended);
+                    const std::function<void(const PageOutcome &outcome)> &ended);
 
     /// Logs out on one of the threads and returns immediately.
     void logOutLater(const QList<std::int64_t> &handles);

@@ -3,6 +3,7 @@
 #include "device/dh/session/configsession.h"
 #include "device/dh/system/systemdata.h"
 #include "device/registry/logging.h"
+#include "device/registry/systemkeys.h"
 #include "sdk/neterror.h"
 #include "sdk/netlibrary.h"
 
@@ -156,15 +157,15 @@ struct CommandEntry
 };
 
 constexpr std::array commands = {
-    CommandEntry{QLatin1StringView("setTimeByPC"), &timeAction},
-    CommandEntry{QLatin1StringView("setTimeByManual"), &timeAction},
-    CommandEntry{QLatin1StringView("dstConfig"), &daylightSavingAction},
-    CommandEntry{QLatin1StringView("ntpConfig"), &ntpAction},
-    CommandEntry{QLatin1StringView("autoMaintain"), &autoMaintainAction},
-    CommandEntry{QLatin1StringView("rebootDevice"), &rebootAction},
-    CommandEntry{QLatin1StringView("resetSystem"), &resetAction},
-    CommandEntry{QLatin1StringView("videoStandard"), &videoStandardAction},
-    CommandEntry{QLatin1StringView("channelName"), &channelNameAction},
+    CommandEntry{SystemCommand::setTimeByPC, &timeAction},
+    CommandEntry{SystemCommand::setTimeByManual, &timeAction},
+    CommandEntry{SystemCommand::dstConfig, &daylightSavingAction},
+    CommandEntry{SystemCommand::ntpConfig, &ntpAction},
+    CommandEntry{SystemCommand::autoMaintain, &autoMaintainAction},
+    CommandEntry{SystemCommand::rebootDevice, &rebootAction},
+    CommandEntry{SystemCommand::resetSystem, &resetAction},
+    CommandEntry{SystemCommand::videoStandard, &videoStandardAction},
+    CommandEntry{SystemCommand::channelName, &channelNameAction},
 };
 
 } // namespace

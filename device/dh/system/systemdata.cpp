@@ -1,6 +1,7 @@
 #include "device/dh/system/systemdata.h"
 
 #include "device/registry/bytetext.h"
+#include "device/registry/systemkeys.h"
 #include "sdk/blocktext.h"
 
 #include <QDateTime>
@@ -39,8 +40,8 @@ std::optional<sdk::DaylightSavingPoint> pointFrom(const QVariantMap &data, const
     constexpr int lastWeekIndex = 4;
     constexpr int lastDayIndex = 30;
     constexpr int saturday = 6;
-    const auto month = numberFrom(data, prefix + QLatin1String("Month"), 1, 12);
-    const QTime time = minutesFrom(data, prefix + QLatin1String("Time"));
+    const auto month = numberFrom(data, prefix + SystemDataKey::pointMonth, 1, 12);
+    const QTime time = minutesFrom(data, prefix + SystemDataKey::pointTime);
     if (!month || !time.isValid())
         return std::nullopt;
     sdk::DaylightSavingPoint point{.month = *month,
@@ -49,14 +50,14 @@ std::optional<sdk::DaylightSavingPoint> pointFrom(const QVariantMap &data, const
                                    .hour = time.hour(),
                                    .minute = time.minute()};
     if (!byWeek) {
-        const auto dayIndex = numberFrom(data, prefix + QLatin1String("Day"), 0, lastDayIndex);
+        const auto dayIndex = numberFrom(data, prefix + SystemDataKey::pointDay, 0, lastDayIndex);
         if (!dayIndex)
             return std::nullopt;
         point.day = *dayIndex + 1;
         return point;
     }
-    const auto weekIndex = numberFrom(data, prefix + QLatin1String("Week"), 0, lastWeekIndex);
-    const auto weekDay = numberFrom(data, prefix + QLatin1String("WeekDay"), 0, saturday);
+    const auto weekIndex = numberFrom(data, prefix + SystemDataKey::pointWeek, 0, lastWeekIndex);
+    const auto weekDay = numberFrom(data, prefix + SystemDataKey::pointWeekDay, 0, saturday);
     if (!weekIndex || !weekDay)
         return std::nullopt;
     point.week = *weekIndex == lastWeekIndex ? sdk::DaylightSavingPoint::lastWeek : *weekIndex + 1;
@@ -68,7 +69,7 @@ std::optional<sdk::DaylightSavingPoint> pointFrom(const QVariantMap &data, const
 
 std::optional<sdk::TimeRecord> timeFrom(const QVariantMap &data)
 {
-    const QDateTime time = QDateTime::fromString(data.value(QStringLiteral("time")).toString(),
+    const QDateTime time = QDateTime::fromString(data.value(SystemDataKey::time).toString(),
                                                  QStringLiteral("yyyy-MM-dd HH:mm:ss"));
     // Date and time are checked separately: a time that the host's daylight saving skips is valid on a
     // device.
@@ -87,12 +88,12 @@ std::optional<sdk::TimeRecord> timeFrom(const QVariantMap &data)
 
 std::optional<DaylightSaving> daylightSavingFrom(const QVariantMap &data)
 {
-    const auto enabled = flagFrom(data, QStringLiteral("dstEnable"));
-    const auto mode = numberFrom(data, QStringLiteral("dstMode"), 0, 1);
+    const auto enabled = flagFrom(data, SystemDataKey::dstEnable);
+    const auto mode = numberFrom(data, SystemDataKey::dstMode, 0, 1);
     if (!enabled || !mode)
         return std::nullopt;
-    const auto begin = pointFrom(data, QStringLiteral("start"), *mode == 1);
-    const auto end = pointFrom(data, QStringLiteral("end"), *mode == 1);
+    const auto begin = pointFrom(data, SystemDataKey::start, *mode == 1);
+    const auto end = pointFrom(data, SystemDataKey::end, *mode == 1);
     if (!begin || !end)
         return std::nullopt;
     return DaylightSaving{.enabled = *enabled, .begin = *begin, .end = *end};
@@ -100,14 +101,14 @@ std::optional<DaylightSaving> daylightSavingFrom(const QVariantMap &data)
 
 std::optional<sdk::NtpRecord> ntpFrom(const QVariantMap &data)
 {
-    const auto timeZone = numberFrom(data, QStringLiteral("timeZone"), 0, sdk::NtpRecord::timeZones - 1);
-    const auto enabled = flagFrom(data, QStringLiteral("ntpSet"));
-    const auto port = numberFrom(data, QStringLiteral("ntpPort"), 0, largestWord);
-    const auto updatePeriod = numberFrom(data, QStringLiteral("updatePeriod"), 0, largestWord);
-    const std::string server = data.value(QStringLiteral("ntpServer")).toString().toStdString();
+    const auto timeZone = numberFrom(data, SystemDataKey::timeZone, 0, sdk::NtpRecord::timeZones - 1);
+    const auto enabled = flagFrom(data, SystemDataKey::ntpSet);
+    const auto port = numberFrom(data, SystemDataKey::ntpPort, 0, largestWord);
+    const auto updatePeriod = numberFrom(data, SystemDataKey::updatePeriod, 0, largestWord);
+    const std::string server = data.value(SystemDataKey::ntpServer).toString().toStdString();
     sdk::NtpRecord record{};
     if (!timeZone || !enabled || !port || !updatePeriod || server.size() >= record.address.size() ||
-        !data.contains(QStringLiteral("ntpServer")))
+        !data.contains(SystemDataKey::ntpServer))
         return std::nullopt;
     record.size = sizeof(record);
     record.enabled = *enabled ? 1 : 0;
@@ -120,9 +121,9 @@ std::optional<sdk::NtpRecord> ntpFrom(const QVariantMap &data)
 
 std::optional<sdk::AutoMaintainRecord> autoMaintainFrom(const QVariantMap &data)
 {
-    const auto week = numberFrom(data, QStringLiteral("week"), 0, sdk::AutoMaintainRecord::everyDay);
-    const auto autoReboot = flagFrom(data, QStringLiteral("autoReboot"));
-    const QTime time = minutesFrom(data, QStringLiteral("time"));
+    const auto week = numberFrom(data, SystemDataKey::week, 0, sdk::AutoMaintainRecord::everyDay);
+    const auto autoReboot = flagFrom(data, SystemDataKey::autoReboot);
+    const QTime time = minutesFrom(data, SystemDataKey::time);
     if (!week || !autoReboot || !time.isValid())
         return std::nullopt;
     sdk::AutoMaintainRecord record{};
@@ -136,7 +137,7 @@ std::optional<sdk::AutoMaintainRecord> autoMaintainFrom(const QVariantMap &data)
 
 std::optional<sdk::ChannelNameItem> channelNameFrom(const QVariantMap &data)
 {
-    const QString name = ByteText::withoutInvisible(data.value(QStringLiteral("name")).toString()).trimmed();
+    const QString name = ByteText::withoutInvisible(data.value(SystemDataKey::name).toString()).trimmed();
     if (name.isEmpty() || ByteText::bytes(name) > ByteText::channelNameBytes())
         return std::nullopt;
     sdk::ChannelNameItem item = {};
@@ -147,7 +148,7 @@ std::optional<sdk::ChannelNameItem> channelNameFrom(const QVariantMap &data)
 
 std::optional<sdk::VideoStandardItem> videoStandardFrom(const QVariantMap &data)
 {
-    const auto standard = numberFrom(data, QStringLiteral("videoStandard"), 1, 2);
+    const auto standard = numberFrom(data, SystemDataKey::videoStandard, 1, 2);
     if (!standard)
         return std::nullopt;
     return sdk::VideoStandardItem{.size = sizeof(sdk::VideoStandardItem),

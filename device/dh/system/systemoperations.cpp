@@ -7,6 +7,7 @@
 #include "device/registry/devicerow.h"
 #include "device/registry/devicestore.h"
 #include "device/registry/logging.h"
+#include "device/registry/systemkeys.h"
 #include "sdk/blocktext.h"
 #include "sdk/netlibrary.h"
 
@@ -68,7 +69,7 @@ void SystemOperations::run(const QString &command, const QVariantMap &data, cons
     }
     bool hasPassed = false;
     for (const QString &ipport : ipports) {
-        if (command == QLatin1String("modifyPassword") && !m_keptLogins.find(ipport))
+        if (command == SystemCommand::modifyPassword && !m_keptLogins.find(ipport))
             continue;
         const int result = step(command, data, ipport)(StepControl()).result;
         hasPassed = hasPassed || result == waitsForNewPassword;
@@ -80,18 +81,18 @@ void SystemOperations::run(const QString &command, const QVariantMap &data, cons
 
 DeviceStep SystemOperations::step(const QString &command, const QVariantMap &data, const QString &ipport)
 {
-    const QString password = data.value(QStringLiteral("password")).toString();
+    const QString password = data.value(SystemDataKey::password).toString();
     const DeviceAccount credentials = m_logins.accountAt(ipport);
     DeviceStep perform;
-    if (command == QLatin1String("loginCheck"))
+    if (command == SystemCommand::loginCheck)
         perform = [this, ipport, account = credentials.account, password](const StepControl &) {
             return StepOutcome{.result = checkPassword(ipport, account, password), .text = {}};
         };
-    else if (command == QLatin1String("modifyPassword"))
+    else if (command == SystemCommand::modifyPassword)
         perform = [this, ipport, password](const StepControl &) {
             return modifyPassword(ipport, password);
         };
-    else if (command == QLatin1String("readTime"))
+    else if (command == SystemCommand::readTime)
         perform = [this, ipport, credentials](const StepControl &control) {
             return readClock(ipport, credentials, control);
         };
@@ -113,8 +114,8 @@ StepOutcome SystemOperations::performOn(const QString &ipport, const DeviceAccou
 {
     return m_logins.inLogin(ipport, credentials, control, [&](sdk::LLONG loginHandle) {
         QVariantMap values = data;
-        if (data.value(QStringLiteral("timeOfRequest")).toBool())
-            values.insert(QStringLiteral("time"),
+        if (data.value(SystemDataKey::timeOfRequest).toBool())
+            values.insert(SystemDataKey::time,
                           QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
         // Invalid data is not sent. The login is made nevertheless, so that a failed login is reported.
         const std::optional<SystemAction> action = systemAction(m_libraries, command, values);

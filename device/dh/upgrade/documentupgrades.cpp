@@ -7,6 +7,7 @@
 #include "device/registry/devicerow.h"
 #include "device/registry/devicestore.h"
 #include "device/registry/localpath.h"
+#include "device/registry/mapkeys.h"
 
 #include <QSet>
 
@@ -25,14 +26,14 @@ QVariantMap reportOf(const UpgradeDocumentLine &line, const QJsonObject &row, Fi
 {
     const UpgradeTools::Result refusal = refusalOf(line, row.value(DeviceRowKey::model).toString(), files);
     const FirmwareFile &firmware = files.at(line.file);
-    return {{QStringLiteral("line"), line.row},
-            {QStringLiteral("address"), line.ipport},
-            {QStringLiteral("mac"), rowName(row)},
-            {QStringLiteral("file"), line.file},
-            {QStringLiteral("version"),
-             firmware.head ? QString::fromStdString(firmware.head->version) : QString()},
-            {QStringLiteral("code"), static_cast<int>(refusal)},
-            {QStringLiteral("reason"), UpgradeTools::text(refusal)}};
+    return {
+        {ListLineKey::line, line.row},
+        {ListLineKey::address, line.ipport},
+        {ListLineKey::mac, rowName(row)},
+        {ListLineKey::file, line.file},
+        {ListLineKey::version, firmware.head ? QString::fromStdString(firmware.head->version) : QString()},
+        {ListLineKey::code, static_cast<int>(refusal)},
+        {ListLineKey::reason, UpgradeTools::text(refusal)}};
 }
 
 /// Step of a line that cannot be upgraded: returns the refusal.
@@ -78,14 +79,14 @@ PageStep DocumentUpgrades::reading(const QString &path)
         for (const UpgradeDocumentLine &line : opened->lines) {
             const QJsonObject row = rows.value(line.ipport);
             QVariantMap report = reportOf(line, row, files);
-            report.insert(QStringLiteral("device"), row.toVariantMap());
+            report.insert(ListLineKey::device, row.toVariantMap());
             lines.append(report);
         }
-        return PageOutcome{.value = QVariantMap{{QStringLiteral("refusal"), opened->refusal},
-                                                 {QStringLiteral("lines"), lines}},
-                            .take = [this, opened] {
-                                m_opened = opened;
-                            }};
+        return PageOutcome{.value = QVariantMap{{UpgradeDocumentKey::refusal, opened->refusal},
+                                                {UpgradeDocumentKey::lines, lines}},
+                           .take = [this, opened] {
+                               m_opened = opened;
+                           }};
     };
 }
 

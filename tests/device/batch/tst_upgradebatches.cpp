@@ -269,8 +269,8 @@ private Q_SLOTS:
         for (int place = 0; place < 600; ++place) {
             names.append(QStringLiteral("02:%1").arg(place));
             test.store->upsertRow({{DeviceRowKey::mac, names.last()},
-                                {DeviceRowKey::ipport, QStringLiteral("10.0.0.1:%1").arg(1000 + place)},
-                                {DeviceRowKey::filepath, test.file()}});
+                                   {DeviceRowKey::ipport, QStringLiteral("10.0.0.1:%1").arg(1000 + place)},
+                                   {DeviceRowKey::filepath, test.file()}});
         }
         QSignalSpy lists(&test.upgrades, &UpgradeBatches::listChanged);
         QSignalSpy rows(&test.upgrades, &UpgradeBatches::rowsChanged);

@@ -35,9 +35,9 @@ public:
              }}});
         for (int place = 0; place < count; ++place)
             store->upsertRow({{DeviceRowKey::mac, mac(place)},
-                           {DeviceRowKey::ipport, ipport(place)},
-                           {DeviceRowKey::model, QStringLiteral("B-2230-IR")},
-                           {DeviceRowKey::upgraderes, -1}});
+                              {DeviceRowKey::ipport, ipport(place)},
+                              {DeviceRowKey::model, QStringLiteral("B-2230-IR")},
+                              {DeviceRowKey::upgraderes, -1}});
         factory->setDefaultAccount(family, QStringLiteral("admin"), QStringLiteral("secret1"));
         schedule = std::make_unique<QSignalSpy>(factory.get(), &CDeviceFactory::signalUpdateSchedule);
         ends = std::make_unique<QSignalSpy>(factory.get(), &CDeviceFactory::signalShowUpgradeFinishTip);

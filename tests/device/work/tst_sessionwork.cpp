@@ -23,12 +23,12 @@ public:
     {
         return [this](const StepControl &) {
             return PageOutcome{.value = 0, .take = [this] {
-                                    ++taken;
-                                }};
+                                   ++taken;
+                               }};
         };
     }
     void runForPage(const PageStep &step, const std::stop_token &,
-                     const std::function<void(const PageOutcome &outcome)> &ended) override
+                    const std::function<void(const PageOutcome &outcome)> &ended) override
     {
         ends.append([step, ended] { ended(step(StepControl())); });
     }

@@ -57,7 +57,7 @@ public:
     }
 
     void runForPage(const PageStep &step, const std::stop_token &,
-                     const std::function<void(const PageOutcome &outcome)> &ended) override
+                    const std::function<void(const PageOutcome &outcome)> &ended) override
     {
         threads.start([this, step, ended] {
             const PageOutcome of = step(StepControl());

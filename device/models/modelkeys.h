@@ -1,0 +1,80 @@
+// Keys of the maps that models return to QML, beside those of DeviceRowKey.
+#pragma once
+
+#include <QString>
+
+/// Rows of tables. `identity` names the row in its model; the other keys are columns.
+namespace RowKey {
+inline constexpr QLatin1StringView identity("identity");
+inline constexpr QLatin1StringView title("title");
+inline constexpr QLatin1StringView time("time");       ///< "HH:mm:ss"
+inline constexpr QLatin1StringView changed("changed"); ///< bool: differs from the stored value
+
+// DeviceTableModel: what batches have done with the device, see FailedMarks.
+inline constexpr QLatin1StringView failure("failure");         ///< in the user's language; empty for none
+inline constexpr QLatin1StringView onlyNotDone("onlyNotDone"); ///< bool: no batch has failed with the device
+
+// Devices of batches, their previews and their results.
+inline constexpr QLatin1StringView device("device"); ///< "address:port", or another name for the user
+inline constexpr QLatin1StringView action("action"); ///< the new value, for the user
+inline constexpr QLatin1StringView newAddress("newAddress");
+inline constexpr QLatin1StringView note("note"); ///< reason or warning, in the user's language
+inline constexpr QLatin1StringView kind("kind"); ///< int: see BatchPreview
+inline constexpr QLatin1StringView mark("mark"); ///< int: the problem of the row, see AddressPlan
+inline constexpr QLatin1StringView state("state");
+inline constexpr QLatin1StringView words("words"); ///< result in the user's language
+inline constexpr QLatin1StringView
+    hindrance("hindrance"); ///< why the device is skipped, in the user's language
+
+// BatchHistory
+inline constexpr QLatin1StringView counts("counts");     ///< "done / total"
+inline constexpr QLatin1StringView complete("complete"); ///< bool: every device succeeded
+inline constexpr QLatin1StringView running("running");   ///< bool
+
+// AccountList
+inline constexpr QLatin1StringView account("account");
+inline constexpr QLatin1StringView deviceCount("deviceCount");
+inline constexpr QLatin1StringView isDefault("isDefault"); ///< bool
+
+// CertificateList
+inline constexpr QLatin1StringView subject("subject");
+inline constexpr QLatin1StringView validity("validity");
+inline constexpr QLatin1StringView fingerprint("fingerprint");
+inline constexpr QLatin1StringView stored("stored"); ///< fingerprint of the stored key; empty for none
+
+// ChannelNameForm
+inline constexpr QLatin1StringView saved("saved");     ///< the name on the device
+inline constexpr QLatin1StringView bytes("bytes");     ///< int: length of the name in UTF-8
+inline constexpr QLatin1StringView trouble("trouble"); ///< int: see ChannelNameForm
+
+// WatchedDevices
+inline constexpr QLatin1StringView heading("heading"); ///< of the first channel of a device
+inline constexpr QLatin1StringView caption("caption");
+inline constexpr QLatin1StringView companion("companion");
+
+// FavouriteListModel
+inline constexpr QLatin1StringView fileName("fileName");
+inline constexpr QLatin1StringView ip("ip");
+inline constexpr QLatin1StringView port("port");
+inline constexpr QLatin1StringView progress("progress"); ///< int: FavouriteListModel::Progress
+inline constexpr QLatin1StringView cipher("cipher");     ///< encrypted password
+} // namespace RowKey
+
+/// A setting of EncodeForm.
+namespace SettingKey {
+inline constexpr QLatin1StringView key("key");         ///< key of setConfigData()
+inline constexpr QLatin1StringView changed("changed"); ///< bool: differs from the value that was read
+inline constexpr QLatin1StringView choices("choices"); ///< list of strings, as the back end names them
+inline constexpr QLatin1StringView names("names");     ///< list of strings: the choices for the user
+inline constexpr QLatin1StringView index("index");     ///< int: index of the current choice, -1 for none
+inline constexpr QLatin1StringView value("value");
+inline constexpr QLatin1StringView minimum("minimum");
+inline constexpr QLatin1StringView maximum("maximum");
+inline constexpr QLatin1StringView usable("usable"); ///< bool: the value was read, and there are others
+} // namespace SettingKey
+
+/// A stream of EncodeForm, beside its settings.
+namespace StreamFormKey {
+inline constexpr QLatin1StringView exists("exists");     ///< bool: the device has the stream
+inline constexpr QLatin1StringView hasAudio("hasAudio"); ///< bool: the stream has sound
+} // namespace StreamFormKey

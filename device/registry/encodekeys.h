@@ -1,0 +1,114 @@
+// Keys of the encode page: of getConfigData() and setConfigData().
+#pragma once
+
+#include <QString>
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+/// The items of a stream, in the order in which they are read and written.
+enum class EncodePlace : std::uint8_t
+{
+    VideoFormat,
+    VideoProfile,
+    AudioCompression,
+    AudioFormat,
+};
+
+inline constexpr int itemsOfStream = 4;
+
+/// Keys of a stream. They are those of the main stream; a key of the sub stream is "sub" and the key with a
+/// capital first letter, see encodeKey().
+namespace EncodeKey {
+inline constexpr QLatin1StringView allStreamType("allStreamType");
+inline constexpr QLatin1StringView encodeMode("encodeMode");
+inline constexpr QLatin1StringView curEncodeMode("curEncodeMode");
+inline constexpr QLatin1StringView resolution("resolution");
+inline constexpr QLatin1StringView curResolution("curResolution");
+inline constexpr QLatin1StringView
+    bitstreamControl("bitstreamControl");                  ///< int: 0 constant, 1 variable bit rate
+inline constexpr QLatin1StringView bitStream("bitStream"); ///< list of strings: steps, and "custom"
+inline constexpr QLatin1StringView
+    curBitStream("curBitStream");                      ///< read: int, index in bitStream; write: kbit/s
+inline constexpr QLatin1StringView bitRate("bitRate"); ///< int: kbit/s
+inline constexpr QLatin1StringView frameRate("frameRate");
+inline constexpr QLatin1StringView frameRateMax("frameRateMax");
+inline constexpr QLatin1StringView quality("quality"); ///< int: 1 to 6
+inline constexpr QLatin1StringView audioEnable("audioEnable");
+inline constexpr QLatin1StringView audioCompression("audioCompression");
+inline constexpr QLatin1StringView curAudioCompression("curAudioCompression");
+inline constexpr QLatin1StringView samplingFrequency("samplingFrequency");
+inline constexpr QLatin1StringView curSamplingFrequency("curSamplingFrequency"); ///< string: hertz
+inline constexpr QLatin1StringView
+    missingSettings("missingSettings"); ///< list of EncodeSetting that do not exist
+
+/// Of the sub stream only.
+inline constexpr QLatin1StringView videoEnable("videoEnable");
+inline constexpr QLatin1StringView subVideoEnable("subVideoEnable");
+inline constexpr QLatin1StringView subCurResolution("subCurResolution");
+
+// Keys that have no stream.
+
+inline constexpr QLatin1StringView
+    channelNum("channelNum"); ///< list of strings: the channels, counted from "1"
+inline constexpr QLatin1StringView curChannel("curChannel"); ///< int: of the encode page, from 0
+inline constexpr QLatin1StringView
+    curVideoChannel("curVideoChannel");                            ///< int: of the camera image page, from 0
+inline constexpr QLatin1StringView curStreamType("curStreamType"); ///< int: 0 normal, 1 motion, 2 alarm
+inline constexpr QLatin1StringView offeredStreamTypes("offeredStreamTypes"); ///< int: number of main streams
+inline constexpr QLatin1StringView
+    takenItems("takenItems"); ///< list of int: items that the last write changed
+inline constexpr QLatin1StringView unreadPlaces("unreadPlaces"); ///< list of int: items that were not read
+inline constexpr QLatin1StringView unreadItems("unreadItems");   ///< list of strings: names of these items
+} // namespace EncodeKey
+
+/// Settings of a stream in EncodeForm that have other names than their keys.
+namespace EncodeSetting {
+inline constexpr QLatin1StringView stream("stream");   ///< in missingSettings only
+inline constexpr QLatin1StringView audio("audio");     ///< in missingSettings only
+inline constexpr QLatin1StringView control("control"); ///< bitstreamControl
+} // namespace EncodeSetting
+
+/// A key of a stream, and the item of the stream that contains its value.
+struct EncodeField
+{
+    QLatin1StringView key;
+    std::optional<EncodePlace> place = std::nullopt; ///< empty for a list, which is not written
+};
+
+/// Every key of a stream.
+inline constexpr std::array encodeFields = {
+    EncodeField{EncodeKey::allStreamType},
+    EncodeField{EncodeKey::encodeMode},
+    EncodeField{EncodeKey::curEncodeMode, EncodePlace::VideoFormat},
+    EncodeField{EncodeKey::resolution},
+    EncodeField{EncodeKey::curResolution, EncodePlace::VideoFormat},
+    EncodeField{EncodeKey::bitstreamControl, EncodePlace::VideoFormat},
+    EncodeField{EncodeKey::bitStream},
+    EncodeField{EncodeKey::curBitStream, EncodePlace::VideoFormat},
+    EncodeField{EncodeKey::bitRate, EncodePlace::VideoFormat},
+    EncodeField{EncodeKey::frameRate, EncodePlace::VideoFormat},
+    EncodeField{EncodeKey::frameRateMax},
+    EncodeField{EncodeKey::quality, EncodePlace::VideoFormat},
+    EncodeField{EncodeKey::audioEnable, EncodePlace::AudioCompression},
+    EncodeField{EncodeKey::audioCompression},
+    EncodeField{EncodeKey::curAudioCompression, EncodePlace::AudioCompression},
+    EncodeField{EncodeKey::samplingFrequency},
+    EncodeField{EncodeKey::curSamplingFrequency, EncodePlace::AudioFormat},
+    EncodeField{EncodeKey::missingSettings},
+};
+
+/// A key, split into its stream and the key of the main stream.
+struct StreamKey
+{
+    bool isSub = false;
+    QString field; ///< a key of EncodeKey
+};
+[[nodiscard]] StreamKey splitEncodeKey(const QString &key);
+
+/// The reverse of splitEncodeKey().
+[[nodiscard]] QString encodeKey(bool isSub, QLatin1StringView field);
+
+/// The item that contains the value of a key of the main stream. Empty for a list and for other keys.
+[[nodiscard]] std::optional<EncodePlace> encodePlaceOf(const QString &field);

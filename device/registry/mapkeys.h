@@ -1,0 +1,123 @@
+// Keys of the maps that the back ends exchange with QML. The keys of device rows are in devicerow.h, those of
+// the configuration pages in encodekeys.h, camerakeys.h and systemkeys.h.
+#pragma once
+
+#include <QString>
+
+/// Keys of getConfigData(), setConfigData() and getDeviceChannelData() that belong to no page.
+namespace SessionKey {
+inline constexpr QLatin1StringView loginHandle("loginHandle"); ///< qint64: of the current session, 0 for none
+inline constexpr QLatin1StringView
+    sessionDevice("sessionDevice");                    ///< string: "address:port", empty without a session
+inline constexpr QLatin1StringView library("library"); ///< map with the keys of LibraryKey
+inline constexpr QLatin1StringView channelName("channelName"); ///< string: of the channel in the argument
+inline constexpr QLatin1StringView
+    channelNameResult("channelNameResult"); ///< int: LoginResult of the last write
+inline constexpr QLatin1StringView
+    channelNamesSaved("channelNamesSaved"); ///< write only: all names were written
+inline constexpr QLatin1StringView
+    channelNamesResult("channelNamesResult");                    ///< int: LoginResult of all writes
+inline constexpr QLatin1StringView channelNames("channelNames"); ///< list of strings, null if unread
+inline constexpr QLatin1StringView channelsConnected("channelsConnected"); ///< list of bool
+inline constexpr QLatin1StringView connectedChannels("connectedChannels"); ///< list of bool, of all channels
+} // namespace SessionKey
+
+/// Capabilities of the network library.
+namespace LibraryKey {
+inline constexpr QLatin1StringView defaultPort("defaultPort");     ///< int: service port of most devices
+inline constexpr QLatin1StringView videoStandard("videoStandard"); ///< bool
+inline constexpr QLatin1StringView automaticMaintenance("automaticMaintenance"); ///< bool
+inline constexpr QLatin1StringView timeServerDetails("timeServerDetails");       ///< bool
+} // namespace LibraryKey
+
+/// A channel of a device. `channel` is an int, counted from 0.
+namespace ChannelKey {
+inline constexpr QLatin1StringView channel("channel");
+inline constexpr QLatin1StringView name("name");
+inline constexpr QLatin1StringView connected("connected"); ///< bool: a camera is connected
+} // namespace ChannelKey
+
+/// Properties of a device beside those of its row.
+namespace DeviceDetailKey {
+inline constexpr QLatin1StringView loginResult("loginResult"); ///< int: a LoginResult
+inline constexpr QLatin1StringView serial("serial");
+inline constexpr QLatin1StringView uuid("uuid");
+inline constexpr QLatin1StringView hostName("hostName");
+inline constexpr QLatin1StringView
+    localAddress("localAddress"); ///< of the host, on the network of the device
+inline constexpr QLatin1StringView address("address");
+inline constexpr QLatin1StringView submask("submask");
+inline constexpr QLatin1StringView gateway("gateway");
+inline constexpr QLatin1StringView dhcp("dhcp"); ///< bool
+inline constexpr QLatin1StringView servicePort("servicePort");
+inline constexpr QLatin1StringView webPort("webPort");
+inline constexpr QLatin1StringView httpsPort("httpsPort"); ///< 0: HTTPS is off
+inline constexpr QLatin1StringView rtspPort("rtspPort");
+inline constexpr QLatin1StringView maximumConnections("maximumConnections");
+inline constexpr QLatin1StringView channelCount("channelCount");
+inline constexpr QLatin1StringView connectedCount("connectedCount"); ///< int: channels with a camera
+inline constexpr QLatin1StringView alarmInputs("alarmInputs");
+inline constexpr QLatin1StringView disks("disks");
+} // namespace DeviceDetailKey
+
+/// The account of a device, see CDeviceBase::accountOf().
+namespace AccountKey {
+inline constexpr QLatin1StringView account("account");
+inline constexpr QLatin1StringView password("password");
+inline constexpr QLatin1StringView isStored("isStored");   ///< bool: it is the stored account of the device
+inline constexpr QLatin1StringView isDefault("isDefault"); ///< bool: it is the default account
+inline constexpr QLatin1StringView
+    isFollowing("isFollowing"); ///< bool: see CDeviceBase::setFollowingAccount()
+} // namespace AccountKey
+
+/// A device to add, see DeviceToAdd.
+namespace DeviceToAddKey {
+inline constexpr QLatin1StringView identity("identity"); ///< string of the caller, returned with the result
+inline constexpr QLatin1StringView mode("mode");         ///< int: 0 by address, 1 by P2P ID
+inline constexpr QLatin1StringView address("address");
+inline constexpr QLatin1StringView port("port");
+inline constexpr QLatin1StringView account("account");
+inline constexpr QLatin1StringView password("password");
+} // namespace DeviceToAddKey
+
+/// Result of one device of several.
+namespace ResultKey {
+inline constexpr QLatin1StringView identity("identity");
+inline constexpr QLatin1StringView result("result"); ///< int: a LoginResult
+inline constexpr QLatin1StringView words("words");   ///< the result in the user's language
+inline constexpr QLatin1StringView text("text");     ///< more than the result says, in the user's language
+inline constexpr QLatin1StringView name("name");     ///< the name of a channel after it was written
+} // namespace ResultKey
+
+/// A line of a device list or an upgrade document.
+namespace ListLineKey {
+inline constexpr QLatin1StringView line("line"); ///< int: its number in the file, from 1
+inline constexpr QLatin1StringView address("address");
+inline constexpr QLatin1StringView
+    code("code"); ///< int: a LoginResult; of a document an UpgradeTools::Result
+inline constexpr QLatin1StringView reason("reason");   ///< of the code, in the user's language
+inline constexpr QLatin1StringView mac("mac");         ///< name of the row of the device; empty for none
+inline constexpr QLatin1StringView file("file");       ///< firmware file
+inline constexpr QLatin1StringView version("version"); ///< of the firmware file; empty if unknown
+inline constexpr QLatin1StringView device("device");   ///< map: the row of the device
+} // namespace ListLineKey
+
+/// An upgrade document.
+namespace UpgradeDocumentKey {
+inline constexpr QLatin1StringView refusal("refusal"); ///< why it cannot be used, in the user's language
+inline constexpr QLatin1StringView lines("lines");     ///< list of maps with the keys of ListLineKey
+} // namespace UpgradeDocumentKey
+
+/// Numbers of lines or devices.
+namespace ProgressKey {
+inline constexpr QLatin1StringView total("total");
+inline constexpr QLatin1StringView done("done");
+} // namespace ProgressKey
+
+/// A string of an exported list that changes when its file is read.
+namespace ExportFaultKey {
+inline constexpr QLatin1StringView address("address");
+inline constexpr QLatin1StringView name("name");     ///< of the device
+inline constexpr QLatin1StringView column("column"); ///< header of the column
+inline constexpr QLatin1StringView reason("reason"); ///< in the user's language
+} // namespace ExportFaultKey
