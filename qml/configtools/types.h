@@ -15,12 +15,14 @@
 #include "device/models/cameraform.h"
 #include "device/models/certificatelist.h"
 #include "device/models/channelnameform.h"
+#include "device/models/checkablerows.h"
 #include "device/models/devicedetailmodel.h"
 #include "device/models/deviceselection.h"
 #include "device/models/devicetablemodel.h"
 #include "device/models/dialogrows.h"
 #include "device/models/encodeform.h"
 #include "device/models/failedmarks.h"
+#include "device/models/favouritelistmodel.h"
 #include "device/models/liveorder.h"
 #include "device/models/systemtools.h"
 #include "device/models/treemodel.h"
@@ -35,7 +37,6 @@
 #include "device/work/devicework.h"
 #include "device/work/livesession.h"
 #include "device/work/sessionwork.h"
-#include "favourites/favouritelistmodel.h"
 #include "gallery/picturegallery.h"
 
 #include <QtQml/qqml.h>
@@ -73,6 +74,13 @@ struct DialogRowsForeign
 {
     Q_GADGET
     QML_FOREIGN(DialogRows)
+    QML_ANONYMOUS
+};
+
+struct CheckableRowsForeign
+{
+    Q_GADGET
+    QML_FOREIGN(CheckableRows)
     QML_ANONYMOUS
 };
 

@@ -1,4 +1,4 @@
-#include "favourites/favouritelistmodel.h"
+#include "device/models/favouritelistmodel.h"
 #include "tests/datatable.h"
 
 #include <QAbstractItemModelTester>

@@ -1,24 +1,15 @@
-#include "favourites/favouritelistmodel.h"
+#include "device/models/favouritelistmodel.h"
 
+#include "device/models/modelkeys.h"
+#include "device/registry/devicerow.h"
+#include "device/registry/mapkeys.h"
 #include "favourites/author.h"
 
 #include <algorithm>
-#include <array>
 #include <tuple>
 #include <utility>
 
 namespace {
-
-enum Role
-{
-    CheckedRole = Qt::UserRole,
-    ConflictRole,
-    IdentityRole,
-    FirstKeyRole, ///< from here on: rowKeys, in their order
-};
-
-constexpr std::array rowKeys = {"num",      "type", "ip",       "port",  "ipport",
-                                "username", "note", "progress", "words", "fileName"};
 
 /// A value for display: one line of limited length, since a file may contain any text.
 QString shownText(const QString &value)
@@ -29,40 +20,11 @@ QString shownText(const QString &value)
 
 } // namespace
 
-FavouriteListModel::FavouriteListModel(QObject *parent) : QAbstractListModel(parent) {}
+FavouriteListModel::FavouriteListModel(QObject *parent) : CheckableRows(parent) {}
 
 int FavouriteListModel::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_shown.size());
-}
-
-QVariant FavouriteListModel::data(const QModelIndex &index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    switch (role) {
-    case CheckedRole:
-        return at(index.row()).checked;
-    case ConflictRole:
-        return false;
-    case IdentityRole:
-        return at(index.row()).fileName;
-    default:
-        break;
-    }
-    const int key = role - FirstKeyRole;
-    return key >= 0 && key < static_cast<int>(rowKeys.size())
-               ? get(index.row()).value(QLatin1String(rowKeys[static_cast<std::size_t>(key)]))
-               : QVariant();
-}
-
-QHash<int, QByteArray> FavouriteListModel::roleNames() const
-{
-    QHash<int, QByteArray> names = {
-        {CheckedRole, "checked"}, {ConflictRole, "conflict"}, {IdentityRole, "identity"}};
-    for (std::size_t key = 0; key < rowKeys.size(); ++key)
-        names.insert(FirstKeyRole + static_cast<int>(key), rowKeys[key]);
-    return names;
 }
 
 void FavouriteListModel::setSearchText(const QString &searchText)
@@ -71,21 +33,6 @@ void FavouriteListModel::setSearchText(const QString &searchText)
         return;
     Q_EMIT searchTextChanged();
     show();
-}
-
-int FavouriteListModel::checkedCount() const
-{
-    return static_cast<int>(std::count_if(m_shown.cbegin(), m_shown.cend(), [this](qsizetype place) {
-        return m_favourites.at(place).checked;
-    }));
-}
-
-Qt::CheckState FavouriteListModel::checkState() const
-{
-    const int checked = checkedCount();
-    if (checked == 0)
-        return Qt::Unchecked;
-    return checked == rowCount() ? Qt::Checked : Qt::PartiallyChecked;
 }
 
 FavouriteListModel::Favourite FavouriteListModel::favouriteOf(const QString &fileName,
@@ -141,30 +88,13 @@ void FavouriteListModel::show()
 {
     beginResetModel();
     m_shown.clear();
-    for (qsizetype place = 0; place < m_favourites.size(); ++place) {
-        if (isShown(m_favourites.at(place)))
-            m_shown.append(place);
+    for (qsizetype index = 0; index < m_favourites.size(); ++index) {
+        if (isShown(m_favourites.at(index)))
+            m_shown.append(index);
     }
     endResetModel();
-    Q_EMIT countChanged();
+    Q_EMIT rowsChanged();
     Q_EMIT checkedCountChanged();
-}
-
-void FavouriteListModel::setRangeChecked(int first, int last, bool checked)
-{
-    first = std::max(first, 0);
-    last = std::min(last, rowCount() - 1);
-    if (first > last)
-        return;
-    for (int row = first; row <= last; ++row)
-        m_favourites[m_shown.at(row)].checked = checked;
-    Q_EMIT dataChanged(index(first), index(last));
-    Q_EMIT checkedCountChanged();
-}
-
-void FavouriteListModel::setAllChecked(bool checked)
-{
-    setRangeChecked(0, rowCount() - 1, checked);
 }
 
 void FavouriteListModel::takeResults(const QVariantList &results, const QString &wordsOfSuccess)
@@ -172,10 +102,10 @@ void FavouriteListModel::takeResults(const QVariantList &results, const QString 
     QHash<QString, std::pair<Progress, QString>> progressOf;
     for (const QVariant &value : results) {
         const QVariantMap result = value.toMap();
-        const bool isAdded = result.value(QStringLiteral("result")).toInt() == 0;
-        progressOf.insert(result.value(QStringLiteral("identity")).toString(),
-                          {isAdded ? Added : Failed,
-                           isAdded ? wordsOfSuccess : result.value(QStringLiteral("words")).toString()});
+        const bool isAdded = result.value(ResultKey::result).toInt() == 0;
+        progressOf.insert(
+            result.value(ResultKey::identity).toString(),
+            {isAdded ? Added : Failed, isAdded ? wordsOfSuccess : result.value(ResultKey::words).toString()});
     }
     noteProgress(progressOf);
 }
@@ -212,35 +142,38 @@ void FavouriteListModel::forgetProgress()
         Q_EMIT dataChanged(index(0), index(rowCount() - 1));
 }
 
-QVariantMap FavouriteListModel::get(int row) const
+QVariantMap FavouriteListModel::valuesOf(int row) const
 {
-    if (row < 0 || row >= rowCount())
-        return {};
     const Favourite &favourite = at(row);
     return {
-        {"checked", favourite.checked},
-        {"fileName", favourite.fileName},
-        {"num", QString::number(m_shown.at(row) + 1)},
-        {"type", favourite.p2p ? QStringLiteral("P2P") : QStringLiteral("IP")},
-        {"ip", shownText(favourite.address)},
-        {"port", shownText(favourite.port)},
-        {"ipport", shownText(favourite.address + QLatin1Char(':') + favourite.port)},
-        {"username", shownText(favourite.account)},
-        {"note", shownText(favourite.note)},
-        {"progress", favourite.progress},
-        {"words", favourite.words},
+        {DeviceRowKey::checked, favourite.checked},
+        {RowKey::identity, favourite.fileName},
+        {RowKey::fileName, favourite.fileName},
+        {DeviceRowKey::num, QString::number(m_shown.at(row) + 1)},
+        {DeviceRowKey::type, favourite.p2p ? QStringLiteral("P2P") : QStringLiteral("IP")},
+        {RowKey::ip, shownText(favourite.address)},
+        {RowKey::port, shownText(favourite.port)},
+        {DeviceRowKey::ipport, shownText(favourite.address + QLatin1Char(':') + favourite.port)},
+        {DeviceRowKey::username, shownText(favourite.account)},
+        {RowKey::note, shownText(favourite.note)},
+        {RowKey::progress, favourite.progress},
+        {RowKey::words, favourite.words},
     };
 }
 
 QVariantMap FavouriteListModel::device(const QString &identity) const
 {
-    const qsizetype place = placeOf(identity);
-    if (place < 0)
+    const qsizetype index = indexOf(identity);
+    if (index < 0)
         return {};
-    const Favourite &favourite = m_favourites.at(place);
+    const Favourite &favourite = m_favourites.at(index);
     return {
-        {"mode", favourite.p2p ? 1 : 0}, {"address", favourite.address}, {"port", favourite.port},
-        {"account", favourite.account},  {"cipher", favourite.cipher},   {"note", favourite.note},
+        {DeviceToAddKey::mode, favourite.p2p ? 1 : 0},
+        {DeviceToAddKey::address, favourite.address},
+        {DeviceToAddKey::port, favourite.port},
+        {DeviceToAddKey::account, favourite.account},
+        {RowKey::cipher, favourite.cipher},
+        {RowKey::note, favourite.note},
     };
 }
 
@@ -250,35 +183,20 @@ QVariantList FavouriteListModel::devicesToAdd(const QStringList &identities) con
     QVariantList devices;
     for (const QString &identity : identities) {
         QVariantMap favourite = device(identity);
-        favourite.insert(QStringLiteral("identity"), identity);
-        favourite.insert(QStringLiteral("password"),
-                         author.AesDecrypt(favourite.take(QStringLiteral("cipher")).toString()));
+        favourite.insert(DeviceToAddKey::identity, identity);
+        favourite.insert(DeviceToAddKey::password,
+                         author.AesDecrypt(favourite.take(RowKey::cipher).toString()));
         devices.append(favourite);
     }
     return devices;
 }
 
-int FavouriteListModel::rowOf(const QString &identity) const
-{
-    return static_cast<int>(m_shown.indexOf(placeOf(identity)));
-}
-
-qsizetype FavouriteListModel::placeOf(const QString &identity) const
+qsizetype FavouriteListModel::indexOf(const QString &identity) const
 {
     const auto favourite =
         std::find_if(m_favourites.cbegin(), m_favourites.cend(),
                      [&identity](const Favourite &candidate) { return candidate.fileName == identity; });
     return favourite == m_favourites.cend() ? -1 : favourite - m_favourites.cbegin();
-}
-
-QStringList FavouriteListModel::checkedIdentities() const
-{
-    QStringList identities;
-    for (const qsizetype place : m_shown) {
-        if (m_favourites.at(place).checked)
-            identities.append(m_favourites.at(place).fileName);
-    }
-    return identities;
 }
 
 QString FavouriteListModel::textOf(int row) const
@@ -287,7 +205,8 @@ QString FavouriteListModel::textOf(int row) const
         return {};
     const QVariantMap values = get(row);
     QStringList cells;
-    for (const char *key : {"type", "ip", "port", "username", "note"})
-        cells.append(values.value(QLatin1String(key)).toString());
+    for (const QLatin1StringView key :
+         {DeviceRowKey::type, RowKey::ip, RowKey::port, DeviceRowKey::username, RowKey::note})
+        cells.append(values.value(key).toString());
     return cells.join(QLatin1Char('\t'));
 }

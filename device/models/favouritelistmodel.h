@@ -1,24 +1,22 @@
-// The list of favourites for the scene.
+// The list of favourites for QML.
 #pragma once
 
-#include <QAbstractListModel>
+#include "device/models/checkablerows.h"
+
 #include <QHash>
 #include <QList>
 #include <QVariantMap>
 
 #include <utility>
 
-/// Favourites of a folder with their user interface state: check marks, the text filter, and the progress of
-/// adding each one. Roles are "checked", "conflict" (always false: favourites cannot conflict), "identity"
-/// (its file name) and the keys of get(). Lives on the scene's thread; reads and writes no files.
-class FavouriteListModel : public QAbstractListModel
+/// The favourites of a folder that match a search text, with the progress of adding each one to the device
+/// list. The identity of a row is its file name. Check marks and progress of a hidden favourite are kept, but
+/// actions do not apply to it. Lives on the main thread; reads and writes no files.
+class FavouriteListModel : public CheckableRows
 {
     Q_OBJECT
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
-    Q_PROPERTY(int count READ rowCount NOTIFY countChanged)
-    Q_PROPERTY(int totalCount READ totalCount NOTIFY countChanged)
-    Q_PROPERTY(int checkedCount READ checkedCount NOTIFY checkedCountChanged)
-    Q_PROPERTY(Qt::CheckState checkState READ checkState NOTIFY checkedCountChanged)
+    Q_PROPERTY(int totalCount READ totalCount NOTIFY rowsChanged)
 public:
     /// The progress of adding a favourite to the device list.
     enum Progress
@@ -33,24 +31,17 @@ public:
     explicit FavouriteListModel(QObject *parent = nullptr);
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = QModelIndex()) const override;
-    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
     [[nodiscard]] QString searchText() const { return m_searchText; }
     void setSearchText(const QString &searchText);
     [[nodiscard]] int totalCount() const { return static_cast<int>(m_favourites.size()); } ///< also hidden
-    [[nodiscard]] int checkedCount() const; ///< of the shown rows: actions do not apply to hidden ones
-    [[nodiscard]] Qt::CheckState checkState() const; ///< of all shown rows, for the check box of the header
 
     /// Loads the favourites of a folder in the form and order of CAuthor. A favourite that was loaded before
     /// keeps its check mark and its progress.
     Q_INVOKABLE void load(const QVariantMap &files);
 
-    Q_INVOKABLE void setRangeChecked(int first, int last, bool checked);
-    Q_INVOKABLE void setAllChecked(bool checked);
-
-    /// Sets the results of adding favourites: maps of "identity", "result" (0 for success) and "words" for a
-    /// failure. Unchecks the added ones.
+    /// Sets the results of adding favourites: maps with the keys of ResultKey, `words` for a failure only.
+    /// Unchecks the added ones.
     Q_INVOKABLE void takeResults(const QVariantList &results, const QString &wordsOfSuccess);
 
     /// Marks these favourites as being added.
@@ -58,11 +49,6 @@ public:
 
     /// Clears the progress of all favourites.
     Q_INVOKABLE void forgetProgress();
-
-    /// The displayed values of a row: "checked", "fileName", "num" (its number among all), "type" ("IP" or
-    /// "P2P"), "ip", "port", "ipport", "username", "note", "progress" and "words". Empty when out of range.
-    /// It contains no password, since the contents of a table can be copied.
-    Q_INVOKABLE [[nodiscard]] QVariantMap get(int row) const;
 
     /// A favourite, shown or not, for a login: "mode" (0 by address, 1 by P2P ID), "address", "port",
     /// "account", "cipher" (its encrypted password) and "note". Empty for an unknown identity.
@@ -72,19 +58,19 @@ public:
     /// "password" instead of "cipher".
     Q_INVOKABLE [[nodiscard]] QVariantList devicesToAdd(const QStringList &identities) const;
 
-    /// Position of the row with this identity, -1 when it is not shown.
-    Q_INVOKABLE [[nodiscard]] int rowOf(const QString &identity) const;
-
-    /// Identities of the checked rows in display order.
-    Q_INVOKABLE [[nodiscard]] QStringList checkedIdentities() const;
-
     /// The texts of a row, separated by tabs, for the clipboard.
     Q_INVOKABLE [[nodiscard]] QString textOf(int row) const;
 
 Q_SIGNALS:
     void searchTextChanged();
-    void countChanged();
-    void checkedCountChanged();
+
+protected:
+    /// "checked", "identity", "fileName", "num" (its number among all), "type" ("IP" or "P2P"), "ip", "port",
+    /// "ipport", "username", "note", "progress" and "words". The map contains no password, since the contents
+    /// of a table can be copied.
+    [[nodiscard]] QVariantMap valuesOf(int row) const override;
+    [[nodiscard]] bool isChecked(int row) const override { return at(row).checked; }
+    void setChecked(int row, bool checked) override { m_favourites[m_shown.at(row)].checked = checked; }
 
 private:
     struct Favourite
@@ -105,7 +91,7 @@ private:
     [[nodiscard]] bool isShown(const Favourite &favourite) const;
     [[nodiscard]] const Favourite &at(int row) const { return m_favourites.at(m_shown.at(row)); }
     void noteProgress(const QHash<QString, std::pair<Progress, QString>> &progressOf); ///< and the words
-    [[nodiscard]] qsizetype placeOf(const QString &identity) const;
+    [[nodiscard]] qsizetype indexOf(const QString &identity) const;
     void show();
 
     QList<Favourite> m_favourites;
