@@ -1,7 +1,9 @@
 #include "media/videoitem.h"
 
 #include "device/registry/devicefactory.h"
+#include "device/registry/devicefamily.h"
 #include "device/registry/loginresult.h"
+#include "device/registry/mapkeys.h"
 #include "media/dhdecoder.h"
 #include "media/itemrender.h"
 #include "media/logging.h"
@@ -125,9 +127,7 @@ bool VideoItem::prepare()
         return false;
     }
     const qint64 loginHandle =
-        m_session != 0
-            ? m_session
-            : factory->getConfigData(QStringLiteral("dh"), QStringLiteral("loginHandle")).toLongLong();
+        m_session != 0 ? m_session : factory->getConfigData(dhFamily, SessionKey::loginHandle).toLongLong();
     if (loginHandle != m_loginHandle) {
         m_loginHandle = loginHandle;
         Q_EMIT isLoginHandleChanged();

@@ -4,6 +4,8 @@
 #include "device/batch/occupiedaddresses.h"
 #include "device/models/modelkeys.h"
 #include "device/registry/devicefactory.h"
+#include "device/registry/devicefamily.h"
+#include "device/registry/devicefilter.h"
 #include "device/registry/devicerow.h"
 #include "device/registry/devicestore.h"
 #include "device/registry/logging.h"
@@ -27,9 +29,9 @@ constexpr std::chrono::milliseconds stepDeadline = std::chrono::seconds(60);
 /// password change.
 QString workOf(const QString &command)
 {
-    if (command == QLatin1String("setTimeByPC") || command == QLatin1String("setTimeByManual"))
+    if (command == SystemCommand::setTimeByPC || command == SystemCommand::setTimeByManual)
         return QStringLiteral("setTime");
-    return command == QLatin1String("loginCheck") ? QStringLiteral("modifyPassword") : command;
+    return command == SystemCommand::loginCheck ? QString(SystemCommand::modifyPassword) : command;
 }
 
 /// Whether the address of a device may have changed although the change has this result.
@@ -91,7 +93,7 @@ Batch *Batches::configureSystem(const QString &family, const QString &command, c
                                 const QVariantMap &data, const QStringList &ipports)
 {
     QVariantMap values = data;
-    if (command == QLatin1String("setTimeByPC"))
+    if (command == SystemCommand::setTimeByPC)
         values.insert(SystemDataKey::timeOfRequest, true);
     return start(
         {.family = family,
@@ -103,10 +105,10 @@ Batch *Batches::configureSystem(const QString &family, const QString &command, c
              [this, family, command, values](const BatchDevice &device) {
                  return m_factory.backEnd(family)->systemStep(command, values, device.ipport);
              },
-         // A password change uses the old password that the user enters, not the account of the row.
-         .accountOf = workOf(command) == QLatin1String("modifyPassword") ? nullptr : rowAccounts(family),
+         // The old password is typed.
+         .accountOf = workOf(command) == SystemCommand::modifyPassword ? nullptr : rowAccounts(family),
          .isByAddress = true,
-         .changesRows = command == QLatin1String("resetSystem")});
+         .changesRows = command == SystemCommand::resetSystem});
 }
 
 Batch *Batches::nameCameras(const QString &family, const QString &title, const QStringList &ipports,
@@ -241,8 +243,8 @@ Batch *Batches::putAddressesBack(Batch *batch, const QString &title, const QStri
 
 std::optional<AddressSettings> Batches::settingsBeforeFailure(const QString &identity) const
 {
-    const QJsonObject row = m_factory.backEnd(QStringLiteral("dh"))->deviceRow(identity);
-    if (!row.value(DeviceRowKey::unconfirmed).toBool()) // the device was found again since
+    const QJsonObject row = m_factory.backEnd(dhFamily)->deviceRow(identity);
+    if (!row.value(DeviceRowKey::unconfirmed).toBool()) // it was found again meanwhile
         return std::nullopt;
     const auto last = std::find_if(m_kept.crbegin(), m_kept.crend(), [&identity](const Batch *batch) {
         return batch->plan().addressesBefore.contains(identity);
@@ -479,8 +481,7 @@ Batch *Batches::start(BatchPlan plan)
 {
     if (!mayStart())
         return nullptr;
-    const QHash<QString, QJsonObject> rows =
-        rowsByAddress(m_factory.filterData(plan.family, QStringLiteral("nofilter")));
+    const QHash<QString, QJsonObject> rows = rowsByAddress(m_factory.filterData(plan.family, RowFilter::all));
     for (BatchDevice &device : plan.devices) {
         device.key = workKey(rows.value(device.ipport), device.ipport, device.identity);
         device.isUpgrading =

@@ -3,6 +3,7 @@
 #include "device/models/modelkeys.h"
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
+#include "device/registry/devicefilter.h"
 #include "device/registry/devicerow.h"
 #include "device/registry/upgradetools.h"
 
@@ -118,8 +119,7 @@ QHash<QString, QVariantMap> BatchPreview::devicesByName() const
 
 QVariantList BatchPreview::listedRows() const
 {
-    return m_deviceFactory ? m_deviceFactory->filterData(dhFamily, QStringLiteral("nofilter"))
-                           : QVariantList();
+    return m_deviceFactory ? m_deviceFactory->filterData(dhFamily, RowFilter::all) : QVariantList();
 }
 
 void BatchPreview::readList()

@@ -2,6 +2,7 @@
 
 #include "device/registry/camerakeys.h"
 #include "device/registry/devicefactory.h"
+#include "device/registry/devicefamily.h"
 #include "device/registry/encodekeys.h"
 
 #include <algorithm>
@@ -55,7 +56,7 @@ bool CameraForm::supportsAny() const
 void CameraForm::read()
 {
     const auto value = [this](const QString &key) {
-        return m_deviceFactory ? m_deviceFactory->getConfigData(QStringLiteral("dh"), key) : QVariant();
+        return m_deviceFactory ? m_deviceFactory->getConfigData(dhFamily, key) : QVariant();
     };
     m_channels = value(EncodeKey::channelNum).toStringList();
     if (m_channels.isEmpty()) // a device that reports no channels has one

@@ -3,6 +3,7 @@
 #include "device/models/modelkeys.h"
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
+#include "device/registry/devicefilter.h"
 #include "device/registry/devicerow.h"
 #include "device/registry/upgradetools.h"
 
@@ -203,7 +204,7 @@ void DeviceTableModel::applyFilter()
 
 QVariantList DeviceTableModel::readList() const
 {
-    const QString all = QStringLiteral("nofilter");
+    const QString all = RowFilter::all;
     return m_ipv6 ? m_deviceFactory->filterDataIPV6(dhFamily, all)
                   : m_deviceFactory->filterData(dhFamily, all);
 }

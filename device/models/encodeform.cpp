@@ -2,6 +2,7 @@
 
 #include "device/models/modelkeys.h"
 #include "device/registry/devicefactory.h"
+#include "device/registry/devicefamily.h"
 #include "device/registry/encodekeys.h"
 #include "device/registry/loginresult.h"
 #include "sdk/neterror.h"
@@ -126,7 +127,7 @@ void EncodeForm::takeSaved()
 void EncodeForm::set(const QString &key, const QVariant &value)
 {
     if (m_deviceFactory)
-        m_deviceFactory->setConfigData(QStringLiteral("dh"), key, value);
+        m_deviceFactory->setConfigData(dhFamily, key, value);
     fetch();
 }
 
@@ -147,7 +148,7 @@ void EncodeForm::fetch()
     m_isComplete = !value(EncodeKey::encodeMode).toStringList().isEmpty() &&
                    !value(EncodeKey::resolution).toStringList().isEmpty();
     m_unreadItems = value(EncodeKey::unreadItems).toStringList();
-    m_subStreamTypes = value(QStringLiteral("subAllStreamType")).toStringList();
+    m_subStreamTypes = value(encodeKey(true, EncodeKey::allStreamType)).toStringList();
     m_main = stream(false);
     m_sub = stream(true);
     Q_EMIT changed();
@@ -155,7 +156,7 @@ void EncodeForm::fetch()
 
 QVariant EncodeForm::value(const QString &key) const
 {
-    return m_deviceFactory ? m_deviceFactory->getConfigData(QStringLiteral("dh"), key) : QVariant();
+    return m_deviceFactory ? m_deviceFactory->getConfigData(dhFamily, key) : QVariant();
 }
 
 bool EncodeForm::isTaken(const QString &key) const
@@ -260,7 +261,8 @@ QVariantMap EncodeForm::stream(bool isSub)
     const QStringList missing = value(key(EncodeKey::missingSettings)).toStringList();
     map.insert(StreamFormKey::exists, !missing.contains(EncodeSetting::stream));
     map.insert(StreamFormKey::hasAudio, !missing.contains(EncodeSetting::audio));
-    for (const QLatin1StringView name : {EncodeSetting::control, EncodeKey::audioEnable, EncodeKey::videoEnable}) {
+    for (const QLatin1StringView name :
+         {EncodeSetting::control, EncodeKey::audioEnable, EncodeKey::videoEnable}) {
         if (!missing.contains(name))
             continue;
         QVariantMap lacked = map.value(name).toMap();

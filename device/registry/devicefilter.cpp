@@ -22,18 +22,18 @@ QVariantList rowsThat(const QVariantList &rows, Predicate keeps)
 QVariantList filteredRows(const QVariantList &rows, const QString &filtertype, const QString &searchtext,
                           RowFamily family)
 {
-    if (filtertype == QLatin1String("nofilter"))
+    if (filtertype == RowFilter::all)
         return rows;
-    if (filtertype == QLatin1String("removeall"))
+    if (filtertype == RowFilter::none)
         return {};
-    if (filtertype == QLatin1String("removeinit"))
+    if (filtertype == RowFilter::uninitialised)
         return rowsThat(rows,
                         [](const QJsonObject &row) { return !row.value(DeviceRowKey::state).toBool(); });
-    if (filtertype == QLatin1String("removeuninit"))
+    if (filtertype == RowFilter::initialised)
         return rowsThat(rows, [](const QJsonObject &row) { return row.value(DeviceRowKey::state).toBool(); });
-    if (filtertype == QLatin1String("search"))
+    if (filtertype == RowFilter::containsText)
         return rowsThat(rows, [&](const QJsonObject &row) { return containsText(row, searchtext); });
-    if (filtertype == QLatin1String("single") && family == RowFamily::IPv4) {
+    if (filtertype == RowFilter::singleAddress && family == RowFamily::IPv4) {
         const auto hasAddress = [&](const QVariant &row) {
             return row.toJsonObject().value(DeviceRowKey::ipport).toString() == searchtext;
         };

@@ -12,9 +12,18 @@ enum class RowFamily
     IPv6,
 };
 
-/// The rows that pass the filter `filtertype`: "nofilter", "removeall", "removeinit" (without initialised
-/// devices), "removeuninit" (without uninitialised devices), "search" (containsText()) or "single" (the row
-/// whose "ipport" is `searchtext`). No row passes any other filter.
+/// Filters of filterData() and filterDataIPV6().
+namespace RowFilter {
+inline constexpr QLatin1StringView all("nofilter");
+inline constexpr QLatin1StringView none("removeall");
+inline constexpr QLatin1StringView uninitialised("removeinit"); ///< without initialised devices
+inline constexpr QLatin1StringView initialised("removeuninit"); ///< without uninitialised devices
+inline constexpr QLatin1StringView containsText("search");      ///< ::containsText()
+inline constexpr QLatin1StringView singleAddress("single"); ///< the row with the "address:port"; IPv4 only
+} // namespace RowFilter
+
+/// The rows that pass a filter of RowFilter; no row passes any other filter. `searchtext` is the text or the
+/// address of the filter.
 [[nodiscard]] QVariantList filteredRows(const QVariantList &rows, const QString &filtertype,
                                         const QString &searchtext, RowFamily family);
 

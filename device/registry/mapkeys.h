@@ -37,6 +37,12 @@ inline constexpr QLatin1StringView name("name");
 inline constexpr QLatin1StringView connected("connected"); ///< bool: a camera is connected
 } // namespace ChannelKey
 
+/// The channels of a device, as lists in the order of the channels.
+namespace ChannelListKey {
+inline constexpr QLatin1StringView names("names");         ///< list of strings, null if unread
+inline constexpr QLatin1StringView connected("connected"); ///< list of bool
+} // namespace ChannelListKey
+
 /// Properties of a device beside those of its row.
 namespace DeviceDetailKey {
 inline constexpr QLatin1StringView loginResult("loginResult"); ///< int: a LoginResult

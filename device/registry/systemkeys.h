@@ -16,6 +16,7 @@ inline constexpr QLatin1StringView videoStandard("videoStandard");
 inline constexpr QLatin1StringView channelName("channelName");       ///< of the first channel
 inline constexpr QLatin1StringView loginCheck("loginCheck");         ///< SystemDataKey::password: the old one
 inline constexpr QLatin1StringView modifyPassword("modifyPassword"); ///< SystemDataKey::password: the new one
+inline constexpr QLatin1StringView cancelLogin("cancelLogin");       ///< ends the logins of loginCheck
 inline constexpr QLatin1StringView readTime("readTime");             ///< without data
 } // namespace SystemCommand
 

@@ -81,14 +81,14 @@ QVariantList SearchReports::blocks() const
         QVariantList lines;
         for (const SearchReportLine &line : block.lines)
             lines.append(
-                QVariantMap{{QStringLiteral("label"), line.label}, {QStringLiteral("value"), line.value}});
+                QVariantMap{{SearchReportKey::label, line.label}, {SearchReportKey::value, line.value}});
         QVariantList obstacles;
         for (const SearchReportObstacle &obstacle : block.obstacles)
-            obstacles.append(QVariantMap{{QStringLiteral("text"), obstacle.text},
-                                         {QStringLiteral("advice"), obstacle.advice}});
-        blocks.append(QVariantMap{{QStringLiteral("title"), block.title},
-                                  {QStringLiteral("lines"), lines},
-                                  {QStringLiteral("obstacles"), obstacles}});
+            obstacles.append(QVariantMap{{SearchReportKey::text, obstacle.text},
+                                         {SearchReportKey::advice, obstacle.advice}});
+        blocks.append(QVariantMap{{SearchReportKey::title, block.title},
+                                  {SearchReportKey::lines, lines},
+                                  {SearchReportKey::obstacles, obstacles}});
     }
     return blocks;
 }

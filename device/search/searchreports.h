@@ -13,8 +13,19 @@ class NetLibrary;
 struct SearchReport;
 } // namespace sdk
 
-/// The report of the last search for QML, to explain an empty or shorter device list. Lives on the main
-/// thread.
+/// Keys of the maps of SearchReports::blocks().
+namespace SearchReportKey {
+inline constexpr QLatin1StringView title("title");
+inline constexpr QLatin1StringView lines("lines"); ///< list of maps of `label` and `value`
+inline constexpr QLatin1StringView label("label");
+inline constexpr QLatin1StringView value("value");
+inline constexpr QLatin1StringView obstacles("obstacles"); ///< list of maps of `text` and `advice`
+inline constexpr QLatin1StringView text("text");
+inline constexpr QLatin1StringView advice("advice");
+} // namespace SearchReportKey
+
+/// The report of the last search of the window, to explain a list that is empty or has become shorter. Lives
+/// on the scene's thread.
 class SearchReports : public QObject
 {
     Q_OBJECT

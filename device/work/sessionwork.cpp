@@ -117,8 +117,8 @@ void SessionWork::readNames()
         const QVariantList connected = device.isDeviceAway() || control.shouldEnd()
                                            ? QVariantList()
                                            : device.getDeviceChannelData(SessionKey::channelsConnected, 0);
-        return QVariant(QVariantMap{{QStringLiteral("names"), QVariant(names)},
-                                    {QStringLiteral("connected"), QVariant(connected)}});
+        return QVariant(QVariantMap{{ChannelListKey::names, QVariant(names)},
+                                    {ChannelListKey::connected, QVariant(connected)}});
     });
 }
 

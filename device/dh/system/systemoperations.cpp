@@ -63,7 +63,7 @@ SystemOperations::SystemOperations(std::shared_ptr<DeviceStore> store, sdk::SdkL
 
 void SystemOperations::run(const QString &command, const QVariantMap &data, const QStringList &ipports)
 {
-    if (command == QLatin1String("cancelLogin")) {
+    if (command == SystemCommand::cancelLogin) {
         m_threads.logOutLater(m_keptLogins.takeAll());
         return;
     }
