@@ -62,7 +62,7 @@ inline constexpr QLatin1StringView hue("hue");
 inline constexpr QLatin1StringView gamma("gamma");
 
 // mirror
-inline constexpr QLatin1StringView rotate("Rotate"); ///< quarter turns, 0 to 3
+inline constexpr QLatin1StringView rotate("Rotate"); ///< int: 0 normal, 1 and 2 corridor, 3 upside down
 inline constexpr QLatin1StringView rotateSupport("rotateSupport");
 
 // exposure

@@ -12,11 +12,11 @@ inline constexpr QLatin1StringView
 inline constexpr QLatin1StringView library("library"); ///< map with the keys of LibraryKey
 inline constexpr QLatin1StringView channelName("channelName"); ///< string: of the channel in the argument
 inline constexpr QLatin1StringView
-    channelNameResult("channelNameResult"); ///< int: LoginResult of the last write
+    channelNameResult("channelNameResult"); ///< int: result of the last write, -1 for none
 inline constexpr QLatin1StringView
     channelNamesSaved("channelNamesSaved"); ///< write only: all names were written
 inline constexpr QLatin1StringView
-    channelNamesResult("channelNamesResult");                    ///< int: LoginResult of all writes
+    channelNamesResult("channelNamesResult");                    ///< int: result of all writes, -1 for none
 inline constexpr QLatin1StringView channelNames("channelNames"); ///< list of strings, null if unread
 inline constexpr QLatin1StringView channelsConnected("channelsConnected"); ///< list of bool
 inline constexpr QLatin1StringView connectedChannels("connectedChannels"); ///< list of bool, of all channels
