@@ -23,8 +23,8 @@ inline constexpr QLatin1StringView kind("kind"); ///< int: see BatchPreview
 inline constexpr QLatin1StringView mark("mark"); ///< int: the problem of the row, see AddressPlan
 inline constexpr QLatin1StringView state("state");
 inline constexpr QLatin1StringView words("words"); ///< result in the user's language
-inline constexpr QLatin1StringView
-    hindrance("hindrance"); ///< why the device is skipped, in the user's language
+/// Why the device is skipped, in the user's language.
+inline constexpr QLatin1StringView hindrance("hindrance");
 
 // BatchHistory
 inline constexpr QLatin1StringView counts("counts");     ///< "done / total"

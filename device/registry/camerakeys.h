@@ -24,8 +24,8 @@ inline constexpr QLatin1StringView lightControlEx("lightControlEx"); ///< mixed 
 inline constexpr std::array groups = {picture,      sharpness, mirror,  stable,       exposure,      backMode,
                                       whiteBalance, dayNight,  inDefog, lightControl, lightControlEx};
 
-inline constexpr QLatin1StringView
-    allSwitchMode("allSwitchMode"); ///< list of strings: the modes of curSwitchMode
+/// List of strings: the modes of curSwitchMode.
+inline constexpr QLatin1StringView allSwitchMode("allSwitchMode");
 inline constexpr QLatin1StringView curSwitchMode("curSwitchMode"); ///< int: index in allSwitchMode
 inline constexpr QLatin1StringView curDayNightMode("curDayNightMode");
 inline constexpr QLatin1StringView curBackLightMode("curBackLightMode");

@@ -26,11 +26,11 @@ inline constexpr QLatin1StringView encodeMode("encodeMode");
 inline constexpr QLatin1StringView curEncodeMode("curEncodeMode");
 inline constexpr QLatin1StringView resolution("resolution");
 inline constexpr QLatin1StringView curResolution("curResolution");
-inline constexpr QLatin1StringView
-    bitstreamControl("bitstreamControl");                  ///< int: 0 constant, 1 variable bit rate
+/// Int: 0 constant, 1 variable bit rate.
+inline constexpr QLatin1StringView bitstreamControl("bitstreamControl");
 inline constexpr QLatin1StringView bitStream("bitStream"); ///< list of strings: steps, and "custom"
-inline constexpr QLatin1StringView
-    curBitStream("curBitStream");                      ///< read: int, index in bitStream; write: kbit/s
+/// Read: int, index in bitStream; write: kbit/s.
+inline constexpr QLatin1StringView curBitStream("curBitStream");
 inline constexpr QLatin1StringView bitRate("bitRate"); ///< int: kbit/s
 inline constexpr QLatin1StringView frameRate("frameRate");
 inline constexpr QLatin1StringView frameRateMax("frameRateMax");
@@ -40,25 +40,26 @@ inline constexpr QLatin1StringView audioCompression("audioCompression");
 inline constexpr QLatin1StringView curAudioCompression("curAudioCompression");
 inline constexpr QLatin1StringView samplingFrequency("samplingFrequency");
 inline constexpr QLatin1StringView curSamplingFrequency("curSamplingFrequency"); ///< string: hertz
-inline constexpr QLatin1StringView
-    missingSettings("missingSettings"); ///< list of EncodeSetting that do not exist
+/// List of strings: settings of the stream in EncodeForm that the device does not have.
+inline constexpr QLatin1StringView missingSettings("missingSettings");
 
-/// Of the sub stream only.
+// Of the sub stream only.
+
 inline constexpr QLatin1StringView videoEnable("videoEnable");
 inline constexpr QLatin1StringView subVideoEnable("subVideoEnable");
 inline constexpr QLatin1StringView subCurResolution("subCurResolution");
 
 // Keys that have no stream.
 
-inline constexpr QLatin1StringView
-    channelNum("channelNum"); ///< list of strings: the channels, counted from "1"
+/// List of strings: the channels, counted from "1".
+inline constexpr QLatin1StringView channelNum("channelNum");
 inline constexpr QLatin1StringView curChannel("curChannel"); ///< int: of the encode page, from 0
-inline constexpr QLatin1StringView
-    curVideoChannel("curVideoChannel");                            ///< int: of the camera image page, from 0
+/// Int: of the camera image page, from 0.
+inline constexpr QLatin1StringView curVideoChannel("curVideoChannel");
 inline constexpr QLatin1StringView curStreamType("curStreamType"); ///< int: 0 normal, 1 motion, 2 alarm
 inline constexpr QLatin1StringView offeredStreamTypes("offeredStreamTypes"); ///< int: number of main streams
-inline constexpr QLatin1StringView
-    takenItems("takenItems"); ///< list of int: items that the last write changed
+/// List of int: items that the last write changed.
+inline constexpr QLatin1StringView takenItems("takenItems");
 inline constexpr QLatin1StringView unreadPlaces("unreadPlaces"); ///< list of int: items that were not read
 inline constexpr QLatin1StringView unreadItems("unreadItems");   ///< list of strings: names of these items
 } // namespace EncodeKey

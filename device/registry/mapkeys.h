@@ -7,16 +7,16 @@
 /// Keys of getConfigData(), setConfigData() and getDeviceChannelData() that belong to no page.
 namespace SessionKey {
 inline constexpr QLatin1StringView loginHandle("loginHandle"); ///< qint64: of the current session, 0 for none
-inline constexpr QLatin1StringView
-    sessionDevice("sessionDevice");                    ///< string: "address:port", empty without a session
-inline constexpr QLatin1StringView library("library"); ///< map with the keys of LibraryKey
+/// String: "address:port", empty without a session.
+inline constexpr QLatin1StringView sessionDevice("sessionDevice");
+inline constexpr QLatin1StringView library("library");         ///< map with the keys of LibraryKey
 inline constexpr QLatin1StringView channelName("channelName"); ///< string: of the channel in the argument
-inline constexpr QLatin1StringView
-    channelNameResult("channelNameResult"); ///< int: result of the last write, -1 for none
-inline constexpr QLatin1StringView
-    channelNamesSaved("channelNamesSaved"); ///< write only: all names were written
-inline constexpr QLatin1StringView
-    channelNamesResult("channelNamesResult");                    ///< int: result of all writes, -1 for none
+/// Int: result of the last write, -1 for none.
+inline constexpr QLatin1StringView channelNameResult("channelNameResult");
+/// Write only: all names were written.
+inline constexpr QLatin1StringView channelNamesSaved("channelNamesSaved");
+/// Int: result of all writes, -1 for none.
+inline constexpr QLatin1StringView channelNamesResult("channelNamesResult");
 inline constexpr QLatin1StringView channelNames("channelNames"); ///< list of strings, null if unread
 inline constexpr QLatin1StringView channelsConnected("channelsConnected"); ///< list of bool
 inline constexpr QLatin1StringView connectedChannels("connectedChannels"); ///< list of bool, of all channels
@@ -49,8 +49,8 @@ inline constexpr QLatin1StringView loginResult("loginResult"); ///< int: a Login
 inline constexpr QLatin1StringView serial("serial");
 inline constexpr QLatin1StringView uuid("uuid");
 inline constexpr QLatin1StringView hostName("hostName");
-inline constexpr QLatin1StringView
-    localAddress("localAddress"); ///< of the host, on the network of the device
+/// Of the host, on the network of the device.
+inline constexpr QLatin1StringView localAddress("localAddress");
 inline constexpr QLatin1StringView address("address");
 inline constexpr QLatin1StringView submask("submask");
 inline constexpr QLatin1StringView gateway("gateway");
@@ -72,8 +72,8 @@ inline constexpr QLatin1StringView account("account");
 inline constexpr QLatin1StringView password("password");
 inline constexpr QLatin1StringView isStored("isStored");   ///< bool: it is the stored account of the device
 inline constexpr QLatin1StringView isDefault("isDefault"); ///< bool: it is the default account
-inline constexpr QLatin1StringView
-    isFollowing("isFollowing"); ///< bool: see CDeviceBase::setFollowingAccount()
+/// Bool: see CDeviceBase::setFollowingAccount().
+inline constexpr QLatin1StringView isFollowing("isFollowing");
 } // namespace AccountKey
 
 /// A device to add, see DeviceToAdd.
@@ -99,8 +99,8 @@ inline constexpr QLatin1StringView name("name");     ///< the name of a channel 
 namespace ListLineKey {
 inline constexpr QLatin1StringView line("line"); ///< int: its number in the file, from 1
 inline constexpr QLatin1StringView address("address");
-inline constexpr QLatin1StringView
-    code("code"); ///< int: a LoginResult; of a document an UpgradeTools::Result
+/// Int: a LoginResult; of a document an UpgradeTools::Result.
+inline constexpr QLatin1StringView code("code");
 inline constexpr QLatin1StringView reason("reason");   ///< of the code, in the user's language
 inline constexpr QLatin1StringView mac("mac");         ///< name of the row of the device; empty for none
 inline constexpr QLatin1StringView file("file");       ///< firmware file

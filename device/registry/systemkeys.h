@@ -35,8 +35,8 @@ inline constexpr QLatin1StringView start("start");
 inline constexpr QLatin1StringView end("end");
 inline constexpr QLatin1StringView pointMonth("Month"); ///< int: 1 to 12
 inline constexpr QLatin1StringView pointDay("Day");     ///< int, by date: index in the days of the month
-inline constexpr QLatin1StringView
-    pointWeek("Week"); ///< int, by week: 0 the first to 3 the fourth, 4 the last
+/// Int, by week: 0 the first to 3 the fourth, 4 the last.
+inline constexpr QLatin1StringView pointWeek("Week");
 inline constexpr QLatin1StringView pointWeekDay("WeekDay"); ///< int, by week: 0 Sunday to 6 Saturday
 inline constexpr QLatin1StringView pointTime("Time");       ///< "hh:mm"
 
