@@ -105,7 +105,7 @@ Batch *Batches::configureSystem(const QString &family, const QString &command, c
              [this, family, command, values](const BatchDevice &device) {
                  return m_factory.backEnd(family)->systemStep(command, values, device.ipport);
              },
-         // The old password is typed.
+         // A password change uses the old password that the user enters, not the account of the row.
          .accountOf = workOf(command) == SystemCommand::modifyPassword ? nullptr : rowAccounts(family),
          .isByAddress = true,
          .changesRows = command == SystemCommand::resetSystem});
@@ -244,7 +244,7 @@ Batch *Batches::putAddressesBack(Batch *batch, const QString &title, const QStri
 std::optional<AddressSettings> Batches::settingsBeforeFailure(const QString &identity) const
 {
     const QJsonObject row = m_factory.backEnd(dhFamily)->deviceRow(identity);
-    if (!row.value(DeviceRowKey::unconfirmed).toBool()) // it was found again meanwhile
+    if (!row.value(DeviceRowKey::unconfirmed).toBool()) // the device was found again since
         return std::nullopt;
     const auto last = std::find_if(m_kept.crbegin(), m_kept.crend(), [&identity](const Batch *batch) {
         return batch->plan().addressesBefore.contains(identity);

@@ -24,8 +24,8 @@ inline constexpr QLatin1StringView text("text");
 inline constexpr QLatin1StringView advice("advice");
 } // namespace SearchReportKey
 
-/// The report of the last search of the window, to explain a list that is empty or has become shorter. Lives
-/// on the scene's thread.
+/// The report of the last search for QML, to explain an empty or shorter device list. Lives on the main
+/// thread.
 class SearchReports : public QObject
 {
     Q_OBJECT
