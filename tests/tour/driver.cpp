@@ -254,10 +254,10 @@ void Driver::report(const QString &step, const QString &seen)
     // A warning fails the tour at its end, so that the other images are still checked.
     const QStringList faults = layoutFaults(*m_window);
     for (const QString &fault : faults)
-        qWarning().noquote() << "Layout of" << picture + ':' << fault;
-    check(!image.isNull() && image.save(m_imageFolder + QLatin1Char('/') + picture),
-          QStringLiteral("the picture %1 is saved").arg(picture));
-    QTextStream(stdout) << picture << ": " << seen << Qt::endl;
+        qWarning().noquote() << "Layout of" << name + ':' << fault;
+    check(!image.isNull() && image.save(m_imageFolder + QLatin1Char('/') + name),
+          QStringLiteral("the image %1 is saved").arg(name));
+    QTextStream(stdout) << name << ": " << seen << Qt::endl;
 }
 
 void Driver::checkNames(QQuickItem *item) const
