@@ -9,13 +9,13 @@
 #include "tests/datatable.h"
 #include "tests/sdk/netlogin.h"
 #include "tests/sdk/netoperations.h"
+#include "tests/sdk/realdatawatcher.h"
 
 #include <QTemporaryFile>
 
 #include <algorithm>
 #include <atomic>
 #include <future>
-#include <mutex>
 
 using namespace sdk;
 using namespace std::chrono_literals;
@@ -61,52 +61,6 @@ struct SearchCounter
     std::atomic<int> count = 0;
     std::atomic<int> late = 0; ///< received after the end
     std::atomic<bool> hasEnded = false;
-};
-
-/// Records the data and the end of a stream.
-class StreamWatcher
-{
-public:
-    static void take(std::int64_t, std::uint32_t type, const std::uint8_t *data, std::uint32_t size,
-                     std::int64_t parameter, void *user)
-    {
-        auto *watcher = static_cast<StreamWatcher *>(user);
-        const std::scoped_lock lock(watcher->m_mutex);
-        watcher->m_calls += 1;
-        watcher->m_isAfterEnd = watcher->m_isAfterEnd || !watcher->m_ends.isEmpty();
-        if (static_cast<RealDataType>(type) == RealDataType::End)
-            watcher->m_ends.append(static_cast<int>(parameter));
-        else if (watcher->m_begin.size() < 4)
-            watcher->m_begin.append(reinterpret_cast<const char *>(data), std::min<qsizetype>(size, 4));
-    }
-
-    [[nodiscard]] int calls() const
-    {
-        const std::scoped_lock lock(m_mutex);
-        return m_calls;
-    }
-    [[nodiscard]] QByteArray begin() const
-    {
-        const std::scoped_lock lock(m_mutex);
-        return m_begin;
-    }
-    [[nodiscard]] QList<int> ends() const
-    {
-        const std::scoped_lock lock(m_mutex);
-        return m_ends;
-    }
-    [[nodiscard]] bool isAfterEnd() const
-    {
-        const std::scoped_lock lock(m_mutex);
-        return m_isAfterEnd;
-    }
-
-private:
-    mutable std::mutex m_mutex;
-    int m_calls = 0;
-    QByteArray m_begin;
-    QList<int> m_ends;
-    bool m_isAfterEnd = false;
 };
 
 } // namespace
@@ -495,11 +449,11 @@ private Q_SLOTS:
         const LLONG session = login(good);
         const std::int64_t stream = m_net->NetStartRealStream(session, 0, 0, LiveStreamKind::Main);
         QVERIFY(stream > 0);
-        StreamWatcher watcher;
-        QVERIFY(m_net->NetSetRealDataCallback(stream, &StreamWatcher::take, &watcher, 1));
+        RealDataWatcher watcher;
+        QVERIFY(m_net->NetSetRealDataCallback(stream, &RealDataWatcher::take, &watcher, 1));
         QVERIFY(m_net->NetStreamFollowUp(stream, 0, 0));
         QTRY_VERIFY_WITH_TIMEOUT(watcher.calls() > 5, 20000);
-        QCOMPARE(watcher.begin(), QByteArray("\x1a\x45\xdf\xa3")); // the start of the container
+        QVERIFY(watcher.bytes().startsWith("\x1a\x45\xdf\xa3")); // the start of the container
         QVERIFY(m_net->NetStopRealStream(stream));
         const int calls = watcher.calls();
         QVERIFY(!m_net->NetStopRealStream(stream));
@@ -513,12 +467,12 @@ private Q_SLOTS:
         const LLONG session = login(dropping);
         const std::int64_t stream = m_net->NetStartRealStream(session, 0, 0, LiveStreamKind::Main);
         QVERIFY(stream > 0);
-        StreamWatcher watcher;
-        QVERIFY(m_net->NetSetRealDataCallback(stream, &StreamWatcher::take, &watcher, 1));
+        RealDataWatcher watcher;
+        QVERIFY(m_net->NetSetRealDataCallback(stream, &RealDataWatcher::take, &watcher, 1));
         QTRY_COMPARE_WITH_TIMEOUT(watcher.ends(), QList{static_cast<int>(StreamEndReason::EndedByDevice)},
                                   20000);
         QVERIFY(m_net->NetIsDeviceAlive(session, usualWait));
-        QVERIFY(watcher.calls() > 1 && !watcher.isAfterEnd());
+        QVERIFY(watcher.calls() > 1 && !watcher.hasLateData());
         QVERIFY(m_net->NetStopRealStream(stream)); // the handle is valid until then
         QCOMPARE(watcher.ends().size(), 1);
     }

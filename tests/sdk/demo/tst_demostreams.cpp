@@ -4,11 +4,11 @@
 #include "sdk/netlibrary.h"
 #include "sdk/streamblocks.h"
 #include "tests/datatable.h"
+#include "tests/sdk/realdatawatcher.h"
 
 #include <QJsonArray>
 
 #include <functional>
-#include <mutex>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -16,40 +16,6 @@ using namespace sdk;
 using namespace sdk::demo;
 
 namespace {
-
-/// Stores the received data. Thread-safe.
-class Watcher
-{
-public:
-    static void handle(std::int64_t, std::uint32_t dataType, const std::uint8_t *data, std::uint32_t size,
-                       std::int64_t parameter, void *user)
-    {
-        auto *watcher = static_cast<Watcher *>(user);
-        const std::lock_guard lock(watcher->m_mutex);
-        if (dataType == static_cast<std::uint32_t>(RealDataType::End))
-            watcher->m_ends.append(static_cast<int>(parameter));
-        else
-            watcher->m_bytes.append(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
-    }
-
-    [[nodiscard]] QByteArray bytes() const
-    {
-        const std::lock_guard lock(m_mutex);
-        return m_bytes;
-    }
-
-    /// The reported reasons for the end of the stream.
-    [[nodiscard]] QList<int> ends() const
-    {
-        const std::lock_guard lock(m_mutex);
-        return m_ends;
-    }
-
-private:
-    mutable std::mutex m_mutex;
-    QByteArray m_bytes;
-    QList<int> m_ends;
-};
 
 /// A camera with small frames, which are encoded quickly.
 SceneDevice smallCamera()
@@ -81,10 +47,12 @@ struct StreamSite
         session = net->NetLogin("192.168.1.1", 8800, "admin", "Pass-1", 0, nullptr, device, error);
     }
 
-    std::int64_t watch(Watcher &watcher) const
+    std::int64_t watch(RealDataWatcher &watcher) const
     {
         const std::int64_t handle = net->NetStartRealStream(session, 0, 0, LiveStreamKind::Main);
-        return handle != 0 && net->NetSetRealDataCallback(handle, &Watcher::handle, &watcher, 1) ? handle : 0;
+        return handle != 0 && net->NetSetRealDataCallback(handle, &RealDataWatcher::take, &watcher, 1)
+                   ? handle
+                   : 0;
     }
 
     /// Advances the clock to the next frame.
@@ -150,7 +118,7 @@ private Q_SLOTS:
         QFETCH(bool, handleStays);
         QFETCH(int, reason);
         const StreamSite site;
-        Watcher watcher;
+        RealDataWatcher watcher;
         const std::int64_t handle = site.watch(watcher);
         const qsizetype first = watcher.bytes().size();
         site.step();
@@ -159,7 +127,7 @@ private Q_SLOTS:
         end(site);
         site.clock->advance(30s);                       // longer than a reboot
         QVERIFY(!site.clock->waitForWaiters(1, 100ms)); // no thread waits for the clock
-        QCOMPARE(watcher.bytes(), before);
+        QVERIFY(watcher.bytes() == before && !watcher.hasLateData());
         QCOMPARE(watcher.ends(), reason == 0 ? QList<int>() : QList<int>{reason});
         QCOMPARE(site.net->NetStopRealStream(handle), handleStays);
         QVERIFY(!site.net->NetStopRealStream(handle));

@@ -5,6 +5,7 @@
 #include "sdk/onvif/services/deviceservice.h"
 #include "tests/datatable.h"
 #include "tests/sdk/netlogin.h"
+#include "tests/sdk/realdatawatcher.h"
 
 using namespace sdk;
 using namespace std::chrono_literals;
@@ -12,13 +13,6 @@ using namespace std::chrono_literals;
 namespace {
 
 const char *const password = "Right-1";
-
-/// Counts the bytes of a stream.
-void countBytes(std::int64_t, std::uint32_t, const std::uint8_t *, std::uint32_t size, std::int64_t,
-                void *count)
-{
-    *static_cast<std::atomic<std::uint32_t> *>(count) += size;
-}
 
 } // namespace
 
@@ -111,9 +105,9 @@ private Q_SLOTS:
         QVERIFY(handle > 0);
         const std::int64_t stream = m_net.NetStartRealStream(handle, 0, 0, LiveStreamKind::Main);
         QVERIFY2(stream > 0, QByteArray::number(m_net.NetGetLastError(), 16).constData());
-        std::atomic<std::uint32_t> count = 0;
-        QVERIFY(m_net.NetSetRealDataCallback(stream, &countBytes, &count, 1));
-        QTRY_VERIFY_WITH_TIMEOUT(count > 1000, 20000);
+        RealDataWatcher watcher;
+        QVERIFY(m_net.NetSetRealDataCallback(stream, &RealDataWatcher::take, &watcher, 1));
+        QTRY_VERIFY_WITH_TIMEOUT(watcher.bytes().size() > 1000, 20000);
         QVERIFY(m_net.NetStopRealStream(stream));
         m_net.NetLogout(handle);
     }

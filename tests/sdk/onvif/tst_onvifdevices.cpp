@@ -10,6 +10,7 @@
 #include "tests/datatable.h"
 #include "tests/sdk/netlogin.h"
 #include "tests/sdk/onvif/searchanswers.h"
+#include "tests/sdk/realdatawatcher.h"
 
 #include <QTemporaryDir>
 
@@ -38,29 +39,6 @@ quint32 code(NetError error)
 {
     return static_cast<quint32>(error);
 }
-
-/// Counts the bytes of a stream.
-class StreamBytes
-{
-public:
-    static void take(std::int64_t, std::uint32_t, const std::uint8_t *data, std::uint32_t size, std::int64_t,
-                     void *user)
-    {
-        auto *self = static_cast<StreamBytes *>(user);
-        const std::scoped_lock lock(self->m_mutex);
-        self->m_bytes.append(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
-    }
-
-    [[nodiscard]] QByteArray bytes() const
-    {
-        const std::scoped_lock lock(m_mutex);
-        return m_bytes;
-    }
-
-private:
-    mutable std::mutex m_mutex;
-    QByteArray m_bytes;
-};
 
 /// The phases of an upgrade in their order.
 class UpgradePhases
@@ -302,11 +280,11 @@ private Q_SLOTS:
         QCOMPARE(m_net.NetStartRealStream(handle, 5, 0, LiveStreamKind::Main), 0);
         const std::int64_t stream = m_net.NetStartRealStream(handle, 0, 0, LiveStreamKind::Main);
         QVERIFY2(stream > 0, lastError());
-        StreamBytes bytes;
-        QVERIFY(m_net.NetSetRealDataCallback(stream, &StreamBytes::take, &bytes, 1));
+        RealDataWatcher watcher;
+        QVERIFY(m_net.NetSetRealDataCallback(stream, &RealDataWatcher::take, &watcher, 1));
         QVERIFY(m_net.NetStreamFollowUp(stream, 0, 0));
-        QTRY_VERIFY_WITH_TIMEOUT(bytes.bytes().size() > 100'000, 20000);
-        QVERIFY(bytes.bytes().startsWith("\x1a\x45\xdf\xa3")); // the container's beginning
+        QTRY_VERIFY_WITH_TIMEOUT(watcher.bytes().size() > 100'000, 20000);
+        QVERIFY(watcher.bytes().startsWith("\x1a\x45\xdf\xa3")); // the container's beginning
         QVERIFY(m_net.NetStopRealStream(stream));
         QVERIFY(!m_net.NetStopRealStream(stream));
         m_net.NetLogout(handle);

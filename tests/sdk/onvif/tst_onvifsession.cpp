@@ -8,6 +8,7 @@
 #include "tests/cgi/rawserver.h"
 #include "tests/datatable.h"
 #include "tests/sdk/onvif/rtspserver.h"
+#include "tests/sdk/realdatawatcher.h"
 
 #include <QHash>
 #include <QRegularExpression>
@@ -147,14 +148,6 @@ private:
 };
 
 const HttpLogin login = {.account = "admin", .password = "secret1"};
-
-/// Notes the reason of an end.
-void noteEnd(std::int64_t, std::uint32_t type, const std::uint8_t *, std::uint32_t, std::int64_t parameter,
-             void *user)
-{
-    if (type == static_cast<std::uint32_t>(sdk::RealDataType::End))
-        static_cast<QList<std::int64_t> *>(user)->append(parameter);
-}
 
 quint32 code(NetError error)
 {
@@ -333,9 +326,10 @@ private Q_SLOTS:
             1, "profile", order, [&isRefused] { isRefused = true; }, error);
         QVERIFY(handle > 0);
         QTRY_VERIFY_WITH_TIMEOUT(isRefused, 10000); // by the keep-alive request
-        QList<std::int64_t> ends;
-        QTRY_VERIFY((streams.stream(handle)->setHandler(&noteEnd, &ends), !ends.isEmpty()));
-        QCOMPARE(ends, QList{static_cast<std::int64_t>(sdk::StreamEndReason::Refused)});
+        RealDataWatcher watcher;
+        QTRY_VERIFY((streams.stream(handle)->setHandler(&RealDataWatcher::take, &watcher),
+                     !watcher.ends().isEmpty()));
+        QCOMPARE(watcher.ends(), QList{static_cast<int>(sdk::StreamEndReason::Refused)});
         QVERIFY(streams.close(handle));
     }
 };
