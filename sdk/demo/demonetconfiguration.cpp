@@ -2,10 +2,10 @@
 #include "sdk/camerablocks.h"
 #include "sdk/configtext/configtext.h"
 #include "sdk/demo/demonetlibrary.h"
-#include "sdk/demo/demosite.h"
 #include "sdk/demo/device/cameraabilities.h"
 #include "sdk/demo/device/channelitems.h"
 #include "sdk/demo/device/itemblocks.h"
+#include "sdk/demo/site/sitestate.h"
 #include "sdk/encodeblocks.h"
 
 #include <QJsonArray>

@@ -1,10 +1,10 @@
 #include "sdk/demo/demonetlibrary.h"
 
 #include "sdk/clock.h"
-#include "sdk/demo/demosite.h"
 #include "sdk/demo/device/fieldtext.h"
 #include "sdk/demo/scene/addresstext.h"
 #include "sdk/demo/site/logging.h"
+#include "sdk/demo/site/sitestate.h"
 
 #include <QJsonArray>
 
@@ -41,7 +41,7 @@ QJsonObject decoded(const SearchByAddressesRequest &request, const char *localAd
 }
 
 /// The service port that most devices of the site have.
-std::int32_t usualPort(const DemoSite &site)
+std::int32_t usualPort(const SiteState &site)
 {
     constexpr std::int32_t portWithoutDevices = 37777;
     std::map<std::int32_t, int> counts;
@@ -52,7 +52,7 @@ std::int32_t usualPort(const DemoSite &site)
 
 } // namespace
 
-DemoNetLibrary::DemoNetLibrary(DemoSite &site)
+DemoNetLibrary::DemoNetLibrary(SiteState &site)
     : m_site(site), m_streams(site, m_sessions), m_upgrades(site, m_sessions)
 {
 }

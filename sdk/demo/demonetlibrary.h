@@ -23,7 +23,7 @@
 
 namespace sdk::demo {
 
-class DemoSite;
+class SiteState;
 
 /// Error codes are DemoError for misuse and NetError for failures of devices. Every request, even a malformed
 /// one, is added to the site's log. Reachable devices respond to logins, queries and requests immediately.
@@ -37,10 +37,10 @@ public:
     static_assert(connectTime <= longestLogin);
 
     /// `site` must outlive the library.
-    explicit DemoNetLibrary(DemoSite &site);
+    explicit DemoNetLibrary(SiteState &site);
     ~DemoNetLibrary() override;
 
-    [[nodiscard]] DemoSite &site() const { return m_site; }
+    [[nodiscard]] SiteState &site() const { return m_site; }
 
     bool NetInit() override;
     void NetCleanup() override;
@@ -190,7 +190,7 @@ private:
     bool responds(const CallGate::Call &call, const QString &mac, bool fromOtherSegment,
                   std::chrono::milliseconds wait);
 
-    DemoSite &m_site;
+    SiteState &m_site;
     ThreadError m_error;
     CallGate m_gate;
     DemoSessions m_sessions;

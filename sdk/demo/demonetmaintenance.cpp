@@ -2,11 +2,11 @@
 #include "sdk/clock.h"
 #include "sdk/configtext/configtext.h"
 #include "sdk/demo/demonetlibrary.h"
-#include "sdk/demo/demosite.h"
 #include "sdk/demo/device/channelitems.h"
 #include "sdk/demo/device/fieldtext.h"
 #include "sdk/demo/device/itemblocks.h"
 #include "sdk/demo/device/maintenance.h"
+#include "sdk/demo/site/sitestate.h"
 
 #include <QJsonDocument>
 

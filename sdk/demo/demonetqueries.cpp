@@ -1,10 +1,10 @@
 // Queries and configuration texts of the simulated network library.
 #include "sdk/clock.h"
 #include "sdk/demo/demonetlibrary.h"
-#include "sdk/demo/demosite.h"
 #include "sdk/demo/device/deviceanswers.h"
 #include "sdk/demo/device/maintenance.h"
 #include "sdk/demo/site/devicereach.h"
+#include "sdk/demo/site/sitestate.h"
 
 #include <algorithm>
 #include <cstring>

@@ -2,10 +2,10 @@
 #include "sdk/callstop.h"
 #include "sdk/clock.h"
 #include "sdk/demo/demonetlibrary.h"
-#include "sdk/demo/demosite.h"
 #include "sdk/demo/device/fieldtext.h"
 #include "sdk/demo/scene/addresstext.h"
 #include "sdk/demo/site/devicechanges.h"
+#include "sdk/demo/site/sitestate.h"
 
 #include <algorithm>
 

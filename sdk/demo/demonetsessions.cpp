@@ -1,9 +1,9 @@
 // Sessions of the simulated network library.
 #include "sdk/clock.h"
 #include "sdk/demo/demonetlibrary.h"
-#include "sdk/demo/demosite.h"
 #include "sdk/demo/device/fieldtext.h"
 #include "sdk/demo/site/devicereach.h"
+#include "sdk/demo/site/sitestate.h"
 
 namespace sdk::demo {
 

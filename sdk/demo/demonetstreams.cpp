@@ -1,8 +1,8 @@
 // Live streams of simulated devices.
 #include "sdk/clock.h"
 #include "sdk/demo/demonetlibrary.h"
-#include "sdk/demo/demosite.h"
 #include "sdk/demo/device/streamsettings.h"
+#include "sdk/demo/site/sitestate.h"
 
 namespace sdk::demo {
 

@@ -1,6 +1,6 @@
 // Firmware upgrades of simulated devices.
 #include "sdk/demo/demonetlibrary.h"
-#include "sdk/demo/demosite.h"
+#include "sdk/demo/site/sitestate.h"
 
 #include <QFile>
 

@@ -1,9 +1,10 @@
 #include "sdk/demo/demop2pagentlibrary.h"
 
 #include "sdk/clock.h"
-#include "sdk/demo/demosite.h"
 #include "sdk/demo/http/httpport.h"
+#include "sdk/demo/http/httpresponder.h"
 #include "sdk/demo/site/logging.h"
+#include "sdk/demo/site/sitestate.h"
 
 #include <algorithm>
 
@@ -22,7 +23,10 @@ auto leadsThrough(int localPort)
 
 } // namespace
 
-DemoP2PAgentLibrary::DemoP2PAgentLibrary(DemoSite &site) : m_site(site), m_events(site.clock()) {}
+DemoP2PAgentLibrary::DemoP2PAgentLibrary(SiteState &site, HttpResponder &httpResponder)
+    : m_site(site), m_httpResponder(httpResponder), m_events(site.clock())
+{
+}
 
 DemoP2PAgentLibrary::~DemoP2PAgentLibrary()
 {
@@ -99,8 +103,7 @@ bool DemoP2PAgentLibrary::OAgent_ClientAddPort(const char *deviceId, std::int32_
     const std::lock_guard lock(m_mutex);
     if (!m_isStarted)
         return false;
-    std::unique_ptr<HttpPort> listener =
-        HttpPort::open(m_site.httpResponder(), HttpPort::Role::Tunnel, localPort);
+    std::unique_ptr<HttpPort> listener = HttpPort::open(m_httpResponder, HttpPort::Role::Tunnel, localPort);
     if (!listener)
         return false;
     localPort = listener->port();

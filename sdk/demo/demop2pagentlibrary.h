@@ -15,16 +15,16 @@
 
 namespace sdk::demo {
 
-class DemoSite;
 class HttpPort;
+class HttpResponder;
 
 /// Maps ports of the site's devices with a P2P ID to TCP ports of 127.0.0.1. A local port of a device's web
 /// port serves HTTP. Every request is added to the site's log, the server secret only as its length.
 class DemoP2PAgentLibrary : public P2PAgentLibrary
 {
 public:
-    /// `site` must outlive the agent.
-    explicit DemoP2PAgentLibrary(DemoSite &site);
+    /// `site` and `httpResponder` must outlive the agent.
+    DemoP2PAgentLibrary(SiteState &site, HttpResponder &httpResponder);
     ~DemoP2PAgentLibrary() override;
 
     bool OAgent_ClientInit(const P2PAgentServices &services) override;
@@ -56,7 +56,8 @@ private:
     [[nodiscard]] QString macOf(const QString &deviceId) const;
     void release();
 
-    DemoSite &m_site;
+    SiteState &m_site;
+    HttpResponder &m_httpResponder; // serves the web ports
     AgentEvents m_events;
     std::mutex m_lifeMutex; // serialises start and release
     mutable std::mutex m_mutex;

@@ -90,7 +90,7 @@ std::shared_ptr<DemoSite> DemoSite::create(const Scene &scene, std::shared_ptr<C
 DemoSite::DemoSite(const Scene &scene, std::shared_ptr<Clock> clock)
     : SiteState(scene, std::move(clock)), m_config(std::make_shared<ConfigTextLibrary>()),
       m_httpResponder(std::make_unique<HttpResponder>(*this)),
-      m_portAgent(std::make_unique<DemoP2PAgentLibrary>(*this)),
+      m_portAgent(std::make_unique<DemoP2PAgentLibrary>(*this, *m_httpResponder)),
       m_net(std::make_unique<DemoNetLibrary>(*this))
 {
 }

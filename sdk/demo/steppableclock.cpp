@@ -13,17 +13,17 @@ std::int64_t SteppableClock::now() const
 bool SteppableClock::wait(std::chrono::milliseconds duration, const std::stop_token &stop)
 {
     std::unique_lock lock(m_mutex);
-    return waitLocked(lock, m_now + duration.count(), stop);
+    return waitWithLock(lock, m_now + duration.count(), stop);
 }
 
 bool SteppableClock::waitUntil(std::int64_t time, const std::stop_token &stop)
 {
     std::unique_lock lock(m_mutex);
-    return waitLocked(lock, time, stop);
+    return waitWithLock(lock, time, stop);
 }
 
-bool SteppableClock::waitLocked(std::unique_lock<std::mutex> &lock, std::int64_t time,
-                                const std::stop_token &stop)
+bool SteppableClock::waitWithLock(std::unique_lock<std::mutex> &lock, std::int64_t time,
+                                  const std::stop_token &stop)
 {
     const auto position = m_wakeTimes.insert(time);
     m_waitersChanged.notify_all();
@@ -46,16 +46,16 @@ void SteppableClock::advance(std::chrono::milliseconds step)
 int SteppableClock::waiters() const
 {
     const std::lock_guard lock(m_mutex);
-    return waitersLocked();
+    return countWaiters();
 }
 
 bool SteppableClock::waitForWaiters(int count, std::chrono::milliseconds timeout) const
 {
     std::unique_lock lock(m_mutex);
-    return m_waitersChanged.wait_for(lock, timeout, [this, count] { return waitersLocked() == count; });
+    return m_waitersChanged.wait_for(lock, timeout, [this, count] { return countWaiters() == count; });
 }
 
-int SteppableClock::waitersLocked() const
+int SteppableClock::countWaiters() const
 {
     return static_cast<int>(std::distance(m_wakeTimes.upper_bound(m_now), m_wakeTimes.end()));
 }

@@ -33,8 +33,9 @@ public:
                                       std::chrono::milliseconds timeout = std::chrono::seconds(10)) const;
 
 private:
-    bool waitLocked(std::unique_lock<std::mutex> &lock, std::int64_t time, const std::stop_token &stop);
-    [[nodiscard]] int waitersLocked() const;
+    // Both require m_mutex, which `lock` holds.
+    bool waitWithLock(std::unique_lock<std::mutex> &lock, std::int64_t time, const std::stop_token &stop);
+    [[nodiscard]] int countWaiters() const;
 
     mutable std::mutex m_mutex;
     mutable std::condition_variable m_waitersChanged;

@@ -9,6 +9,7 @@
 #include "app/messagebox.h"
 #include "app/shell.h"
 #include "sdk/demo/demonetlibrary.h"
+#include "sdk/demo/demosite.h"
 #include "tests/files/filecontents.h"
 #include "tests/tour/commonsteps.h"
 #include "tests/tour/driver.h"
@@ -264,7 +265,7 @@ int runProgram(const QByteArray &stage, const QString &language, const QString &
     Driver driver(window, folder);
     QTimer::singleShot(0, window, [&] {
         const auto library = std::dynamic_pointer_cast<sdk::demo::DemoNetLibrary>(shell.libraries().net);
-        sdk::demo::DemoSite *site = library ? &library->site() : nullptr;
+        auto *site = library ? dynamic_cast<sdk::demo::DemoSite *>(&library->site()) : nullptr;
         if (stage == "lab")
             driveLab(driver);
         else if (stage == demoSiteStage)

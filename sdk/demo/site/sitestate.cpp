@@ -26,7 +26,7 @@ QList<SceneDevice> SiteState::devices() const
 std::optional<SceneDevice> SiteState::device(const QString &mac) const
 {
     const std::lock_guard lock(m_mutex);
-    const qsizetype index = indexLocked(mac);
+    const qsizetype index = indexOf(mac);
     return index < 0 ? std::nullopt : std::optional(m_devices.at(index));
 }
 
@@ -44,7 +44,7 @@ void SiteState::forEachDeviceAt(const QStringList &addresses,
     std::set<qsizetype> indexes;
     for (const QString &address : addresses) {
         for (const QString &mac : m_addresses.macsAt(address))
-            indexes.insert(indexLocked(mac));
+            indexes.insert(indexOf(mac));
     }
     for (const qsizetype index : indexes)
         visitor(m_devices.at(index));
@@ -55,12 +55,12 @@ void SiteState::setDevice(const SceneDevice &device)
     const std::lock_guard lock(m_mutex);
     SceneDevice lowerCase = device;
     lowerCase.mac = device.mac.toLower();
-    const qsizetype index = indexLocked(lowerCase.mac);
+    const qsizetype index = indexOf(lowerCase.mac);
     if (index >= 0) {
         m_addresses.remove(m_devices.at(index));
         m_devices[index] = lowerCase;
     } else {
-        m_indexOfMac.insert(lowerCase.mac, m_devices.size());
+        m_indexByMac.insert(lowerCase.mac, m_devices.size());
         m_devices.append(lowerCase);
     }
     m_addresses.add(lowerCase);
@@ -69,14 +69,14 @@ void SiteState::setDevice(const SceneDevice &device)
 bool SiteState::removeDevice(const QString &mac)
 {
     const std::lock_guard lock(m_mutex);
-    const qsizetype index = indexLocked(mac);
+    const qsizetype index = indexOf(mac);
     if (index < 0)
         return false;
     m_addresses.remove(m_devices.at(index));
     m_devices.removeAt(index);
-    m_indexOfMac.remove(mac.toLower());
+    m_indexByMac.remove(mac.toLower());
     for (qsizetype later = index; later < m_devices.size(); ++later)
-        m_indexOfMac[m_devices.at(later).mac] = later;
+        m_indexByMac[m_devices.at(later).mac] = later;
     return true;
 }
 
@@ -85,7 +85,7 @@ bool SiteState::changeDevice(
     const std::function<void(SceneDevice &device, const DeviceAddresses &addresses)> &change)
 {
     const std::lock_guard lock(m_mutex);
-    const qsizetype index = indexLocked(mac);
+    const qsizetype index = indexOf(mac);
     if (index < 0)
         return false;
     SceneDevice &device = m_devices[index];
@@ -120,9 +120,9 @@ QString SiteState::localAddressFor(const SceneDevice &device, int ipVersion) con
     return device.address.startsWith(u"127.") ? u"127.0.0.1"_s : m_localAddress;
 }
 
-qsizetype SiteState::indexLocked(const QString &mac) const
+qsizetype SiteState::indexOf(const QString &mac) const
 {
-    return m_indexOfMac.value(mac.toLower(), -1);
+    return m_indexByMac.value(mac.toLower(), -1);
 }
 
 } // namespace sdk::demo

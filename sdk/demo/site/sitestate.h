@@ -81,7 +81,8 @@ protected:
     [[nodiscard]] const std::shared_ptr<Clock> &sharedClock() const { return m_clock; }
 
 private:
-    [[nodiscard]] qsizetype indexLocked(const QString &mac) const;
+    /// The index in m_devices; -1 for an unknown MAC. Requires m_mutex.
+    [[nodiscard]] qsizetype indexOf(const QString &mac) const;
 
     const QString m_title;
     const QString m_description;
@@ -91,7 +92,7 @@ private:
     RequestLog m_requests;
     mutable std::mutex m_mutex;
     QList<SceneDevice> m_devices;
-    QHash<QString, qsizetype> m_indexOfMac;
+    QHash<QString, qsizetype> m_indexByMac;
     DeviceAddresses m_addresses; ///< of m_devices
 };
 

@@ -9,7 +9,7 @@ namespace sdk::demo {
 std::int64_t LiveStreams::open(const LiveStreamOrder &order)
 {
     const std::lock_guard lock(m_mutex);
-    const std::shared_ptr<LiveSource> source = sourceLocked(order);
+    const std::shared_ptr<LiveSource> source = sourceFor(order);
     if (!source)
         return 0;
     const auto stream = std::make_shared<LiveStream>(++m_lastHandle, order);
@@ -18,7 +18,7 @@ std::int64_t LiveStreams::open(const LiveStreamOrder &order)
     return m_lastHandle;
 }
 
-std::shared_ptr<LiveSource> LiveStreams::sourceLocked(const LiveStreamOrder &order)
+std::shared_ptr<LiveSource> LiveStreams::sourceFor(const LiveStreamOrder &order)
 {
     std::erase_if(m_sources, [](const auto &known) { return known.second.expired(); });
     std::weak_ptr<LiveSource> &known = m_sources[{order.mac, order.channel, order.kind}];

@@ -48,7 +48,8 @@ private:
     using SourceKey = std::tuple<QString, std::int32_t, LiveStreamKind>;
 
     [[nodiscard]] std::optional<Entry> entry(std::int64_t handle) const;
-    [[nodiscard]] std::shared_ptr<LiveSource> sourceLocked(const LiveStreamOrder &order);
+    /// The source of the stream; created if there is none yet. Requires m_mutex.
+    [[nodiscard]] std::shared_ptr<LiveSource> sourceFor(const LiveStreamOrder &order);
     static void close(const Entries &entries);
 
     SiteState &m_site;

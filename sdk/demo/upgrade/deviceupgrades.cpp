@@ -18,7 +18,7 @@ bool DeviceUpgrades::isUpgrading(const QString &mac) const
            std::any_of(m_detached.begin(), m_detached.end(), isOf);
 }
 
-DeviceUpgrades::Upgrades DeviceUpgrades::takeEndedLocked()
+DeviceUpgrades::Upgrades DeviceUpgrades::takeEnded()
 {
     Upgrades ended;
     for (auto entry = m_detached.begin(); entry != m_detached.end();) {
@@ -34,7 +34,7 @@ std::int64_t DeviceUpgrades::open(const UpgradeOrder &order)
 {
     Upgrades ended; // destroyed without the lock
     const std::lock_guard lock(m_mutex);
-    ended = takeEndedLocked();
+    ended = takeEnded();
     try {
         const std::int64_t handle = ++m_lastHandle;
         m_upgrades.emplace(handle, std::make_shared<DeviceUpgrade>(m_site, m_sessions, handle, order));

@@ -41,7 +41,8 @@ public:
 private:
     using Upgrades = std::map<std::int64_t, std::shared_ptr<DeviceUpgrade>>;
 
-    [[nodiscard]] Upgrades takeEndedLocked();
+    /// Removes the detached upgrades that have ended, for destruction without the lock. Requires m_mutex.
+    [[nodiscard]] Upgrades takeEnded();
 
     SiteState &m_site;
     DemoSessions &m_sessions;
