@@ -2,7 +2,7 @@
 #pragma once
 
 #include "sdk/camerablocks.h"
-#include "sdk/configtext/internal/configtable.h"
+#include "sdk/configtext/internal/configfield.h"
 #include "sdk/encodeblocks.h"
 
 #include <array>

@@ -1,6 +1,7 @@
 // A live stream of a device over RTSP.
 #pragma once
 
+#include "sdk/onvif/live/rtsporder.h"
 #include "sdk/onvif/live/streamend.h"
 
 #include <atomic>
@@ -15,25 +16,6 @@
 #include <thread>
 
 namespace sdk::onvif {
-
-/// Timeouts of a live stream.
-struct RtspTimeouts
-{
-    std::chrono::milliseconds answer{5000};      ///< from the start until it plays
-    std::chrono::milliseconds keyPicture{20000}; ///< from then on until the first key frame
-    std::chrono::milliseconds silence{10000};    ///< between two video packets
-};
-
-/// The parameters of a stream.
-struct RtspOrder
-{
-    /// rtsp://ADDRESS[:PORT][/PATH][?QUERY]. The address is numeric: host names are not resolved. An account
-    /// in it is an error.
-    std::string url;
-    std::string account; ///< empty for none. UTF-8
-    std::string password;
-    RtspTimeouts timeouts;
-};
 
 /// One live stream with its thread, on which both handlers run. Video in H.264, H.265 or MJPEG and sound in
 /// G.711, AAC or PCM are written unchanged to the container of streams::MatroskaWriter; other tracks are

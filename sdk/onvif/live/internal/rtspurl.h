@@ -1,8 +1,10 @@
 // The address of a stream.
 #pragma once
 
-#include "sdk/onvif/live/rtspstream.h"
+#include "sdk/onvif/live/rtsporder.h"
+#include "sdk/onvif/live/streamend.h"
 
+#include <optional>
 #include <string>
 
 namespace sdk::onvif {

@@ -1,0 +1,31 @@
+// The keys of configuration texts, and the fields of the records that they fill.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace sdk {
+
+enum class ConfigFieldKind
+{
+    Number,   ///< std::int32_t from `minimum` to `maximum`; an integer in JSON
+    Flag,     ///< std::int32_t 0 or 1; true or false in JSON
+    ByteFlag, ///< std::uint8_t 0 or 1; true or false in JSON
+    Text,     ///< `size` chars, UTF-8, null-terminated; a string in JSON
+    Object,   ///< `inner` fields, whose offsets are relative to this field; an object in JSON
+};
+
+/// One key of a configuration and the field of the record that it fills.
+struct ConfigField
+{
+    const char *key;
+    std::size_t offset; ///< in the record
+    ConfigFieldKind kind;
+    std::int32_t minimum = 0;
+    std::int32_t maximum = 0;
+    std::size_t size = 0;
+    const ConfigField *inner = nullptr;
+    std::size_t innerCount = 0;
+};
+
+} // namespace sdk

@@ -1,0 +1,28 @@
+// The parameters of a live stream over RTSP.
+#pragma once
+
+#include <chrono>
+#include <string>
+
+namespace sdk::onvif {
+
+/// Timeouts of a live stream.
+struct RtspTimeouts
+{
+    std::chrono::milliseconds answer{5000};      ///< from the start until it plays
+    std::chrono::milliseconds keyPicture{20000}; ///< from then on until the first key frame
+    std::chrono::milliseconds silence{10000};    ///< between two video packets
+};
+
+/// The parameters of a stream.
+struct RtspOrder
+{
+    /// rtsp://ADDRESS[:PORT][/PATH][?QUERY]. The address is numeric: host names are not resolved. An account
+    /// in it is an error.
+    std::string url;
+    std::string account; ///< empty for none. UTF-8
+    std::string password;
+    RtspTimeouts timeouts;
+};
+
+} // namespace sdk::onvif
