@@ -1,7 +1,5 @@
 #include "site/devicelogins.h"
 
-#include "site/services/deviceusers.h"
-
 using namespace sdk::demo;
 using namespace Qt::StringLiterals;
 

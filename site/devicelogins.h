@@ -4,6 +4,7 @@
 #include "sdk/demo/device/devicelogin.h"
 #include "site/devicemanner.h"
 #include "site/http/digest.h"
+#include "site/services/userlevel.h"
 #include "site/soap/soaprequest.h"
 
 #include <QByteArray>
@@ -11,14 +12,6 @@
 #include <functional>
 
 namespace site {
-
-enum class UserLevel
-{
-    Anonymous,
-    User,
-    Operator,
-    Administrator,
-};
 
 struct LoginOutcome
 {

@@ -1,7 +1,10 @@
 // Subclasses of the RTSP server library for the devices of the site.
 #pragma once
 
-#include "site/rtsp/rtspport.h"
+#include "site/network/networkspace.h"
+#include "site/rtsp/rtspcontext.h"
+
+#include <QString>
 
 #include <gst/rtsp-server/rtsp-server.h>
 

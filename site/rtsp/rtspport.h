@@ -1,32 +1,14 @@
 // The RTSP server of a device.
 #pragma once
 
-#include "site/devicelogins.h"
 #include "site/network/networkspace.h"
-#include "site/siteoptions.h"
+#include "site/rtsp/rtspcontext.h"
 
 #include <QString>
 
 #include <memory>
 
-namespace sdk::demo {
-class DemoSite;
-}
-
 namespace site {
-
-class KeyFrames;
-class Poller;
-
-/// The common data of all devices' RTSP servers.
-struct RtspContext
-{
-    sdk::demo::DemoSite &site;
-    const SiteOptions &options;
-    DeviceLogins &logins;
-    KeyFrames &keyFrames;
-    Poller &poller;
-};
 
 /// The server of one device. Its threads are in the device's network namespace. To be destroyed on the thread
 /// that created it, while no accept() runs; the other functions are thread-safe.

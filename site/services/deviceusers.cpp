@@ -2,9 +2,8 @@
 
 #include "sdk/demo/device/maintenance.h"
 #include "sdk/demo/site/devicechanges.h"
-#include "site/services/servicestate.h"
+#include "site/services/userlevel.h"
 
-#include <array>
 #include <set>
 
 using namespace sdk::demo;
@@ -17,51 +16,22 @@ namespace {
 constexpr qsizetype mostUsers = 20;
 constexpr qsizetype longestText = 63; // of a name or a password
 
-struct LevelName
-{
-    UserLevel level;
-    const char *name;
-};
-constexpr std::array levelNames = {
-    LevelName{UserLevel::Administrator, "Administrator"},
-    LevelName{UserLevel::Operator, "Operator"},
-    LevelName{UserLevel::User, "User"},
-};
-
-const char *nameOf(UserLevel level)
-{
-    for (const LevelName &known : levelNames) {
-        if (known.level == level)
-            return known.name;
-    }
-    return "Anonymous";
-}
-
-std::optional<UserLevel> levelNamed(const QString &name)
-{
-    for (const LevelName &known : levelNames) {
-        if (name == QLatin1String(known.name))
-            return known.level;
-    }
-    return std::nullopt;
-}
-
-struct WantedUser
+struct RequestedUser
 {
     SceneAccount account;
     std::optional<UserLevel> level;
 };
 
-WantedUser readUser(pugi::xml_node element)
+RequestedUser readUser(pugi::xml_node element)
 {
     return {{textAt(element, "tt:Username").value_or(QString()),
              textAt(element, "tt:Password").value_or(QString())},
-            levelNamed(textAt(element, "tt:UserLevel").value_or(QString()))};
+            userLevelNamed(textAt(element, "tt:UserLevel").value_or(QString()))};
 }
 
-std::vector<WantedUser> readUsers(pugi::xml_node request)
+std::vector<RequestedUser> readUsers(pugi::xml_node request)
 {
-    std::vector<WantedUser> users;
+    std::vector<RequestedUser> users;
     for (const pugi::xml_node element : request.children()) {
         if (isNamed(element, "tds:User"))
             users.push_back(readUser(element));
@@ -69,14 +39,7 @@ std::vector<WantedUser> readUsers(pugi::xml_node request)
     return users;
 }
 
-void keepLevel(SceneDevice &device, const QString &user, UserLevel level)
-{
-    QJsonObject levels = serviceState(device, u"levels"_s).toObject();
-    levels.insert(user, QString::fromLatin1(nameOf(level)));
-    setServiceState(device, u"levels"_s, levels);
-}
-
-ServiceResult objectionTo(const WantedUser &user)
+ServiceResult objectionTo(const RequestedUser &user)
 {
     if (user.account.user.isEmpty() || user.account.user.size() > longestText)
         return SoapFault::invalid("ter:UsernameTooLong", u"The name of the user cannot be used"_s);
@@ -87,7 +50,7 @@ ServiceResult objectionTo(const WantedUser &user)
     return std::nullopt;
 }
 
-ServiceResult createFirstUser(const ServiceCall &call, const WantedUser &user)
+ServiceResult createFirstUser(const ServiceCall &call, const RequestedUser &user)
 {
     if (user.level != UserLevel::Administrator)
         return SoapFault::invalid("ter:AnonymousNotAllowed", u"The first user must be an administrator"_s);
@@ -97,12 +60,6 @@ ServiceResult createFirstUser(const ServiceCall &call, const WantedUser &user)
 
 } // namespace
 
-UserLevel userLevelOf(const SceneDevice &device, const QString &user)
-{
-    const QJsonObject levels = serviceState(device, u"levels"_s).toObject();
-    return levelNamed(levels.value(user).toString()).value_or(UserLevel::Administrator);
-}
-
 ServiceResult getUsers(ServiceCall &call)
 {
     if (call.device.isUninitialised())
@@ -110,18 +67,18 @@ ServiceResult getUsers(ServiceCall &call)
     for (const SceneAccount &account : call.device.accounts) {
         XmlElement user = call.response.add("tds:User");
         user.add("tt:Username", account.user);
-        user.add("tt:UserLevel", nameOf(userLevelOf(call.device, account.user)));
+        user.add("tt:UserLevel", userLevelName(userLevelOf(call.device, account.user)));
     }
     return std::nullopt;
 }
 
 ServiceResult createUsers(ServiceCall &call)
 {
-    const std::vector<WantedUser> users = readUsers(call.request);
+    const std::vector<RequestedUser> users = readUsers(call.request);
     std::set<QString> names;
     for (const SceneAccount &account : call.device.accounts)
         names.insert(account.user);
-    for (const WantedUser &user : users) {
+    for (const RequestedUser &user : users) {
         if (ServiceResult objection = objectionTo(user))
             return objection;
         if (!user.level)
@@ -141,10 +98,10 @@ ServiceResult createUsers(ServiceCall &call)
         first = 1;
     }
     const sdk::NetError error = call.change([&](SceneDevice &device) {
-        for (const WantedUser &user : users) {
+        for (const RequestedUser &user : users) {
             if (&user - users.data() >= static_cast<std::ptrdiff_t>(first))
                 device.accounts.append(user.account);
-            keepLevel(device, user.account.user, *user.level);
+            setUserLevel(device, user.account.user, *user.level);
         }
         return sdk::NetError::None;
     });
@@ -153,8 +110,8 @@ ServiceResult createUsers(ServiceCall &call)
 
 ServiceResult setUser(ServiceCall &call)
 {
-    const std::vector<WantedUser> users = readUsers(call.request);
-    for (const WantedUser &user : users) {
+    const std::vector<RequestedUser> users = readUsers(call.request);
+    for (const RequestedUser &user : users) {
         const SceneAccount *account = accountOf(call.device, user.account.user);
         if (!account)
             return SoapFault::invalid("ter:UsernameMissing", u"The user is unknown"_s);
@@ -167,7 +124,7 @@ ServiceResult setUser(ServiceCall &call)
                 hasPassword ? changePassword(device, account->user, account->password, user.account.password)
                             : sdk::NetError::None;
             if (changed == sdk::NetError::None && user.level)
-                keepLevel(device, account->user, *user.level);
+                setUserLevel(device, account->user, *user.level);
             return changed;
         });
         if (error != sdk::NetError::None)
