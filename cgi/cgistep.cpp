@@ -1,7 +1,8 @@
 #include "cgi/cgistep.h"
 
-#include "cgi/cgibatches.h"
 #include "cgi/internal/longanswers.h"
+
+#include <QCoreApplication>
 
 namespace {
 
@@ -66,7 +67,7 @@ bool isNotDone(const StepOutcome &outcome)
 QString cgiResultText(const StepOutcome &outcome)
 {
     if (isNotDone(outcome))
-        return CgiBatches::tr("未执行");
+        return QCoreApplication::translate("CgiBatches", "未执行");
     if (outcome.result == resultCode(LoginResult::Success))
         return outcome.answer;
     if (!outcome.text.isEmpty())
