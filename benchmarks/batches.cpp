@@ -21,7 +21,7 @@ constexpr int deadDevices = 10;
 constexpr int responseTime = 200; // milliseconds
 
 /// Cameras that respond slowly.
-QList<sdk::demo::SceneDevice> scene()
+QList<sdk::demo::SceneDevice> slowCameras()
 {
     QList<sdk::demo::SceneDevice> all;
     for (int number = 0; number < devices; ++number) {
@@ -44,9 +44,9 @@ QList<BenchmarkResult> measureBatches()
 {
     const QString family = QStringLiteral("dh");
     const auto clock = std::make_shared<sdk::SystemClock>();
-    sdk::demo::Scene devicesOfScene;
-    devicesOfScene.devices = scene();
-    const auto site = sdk::demo::DemoSite::create(devicesOfScene, clock);
+    sdk::demo::Scene scene;
+    scene.devices = slowCameras();
+    const auto site = sdk::demo::DemoSite::create(scene, clock);
     const auto store = std::make_shared<DeviceStore>(clock);
     BatchEngine engine(clock);
     CDeviceFactory factory({{family, [&] {
@@ -59,7 +59,7 @@ QList<BenchmarkResult> measureBatches()
     factory.startSearch(family);
     loop.exec();
     for (int number = 0; number < deadDevices; ++number)
-        site->setFault(devicesOfScene.devices.at(number * devices / deadDevices).mac,
+        site->setFault(scene.devices.at(number * devices / deadDevices).mac,
                        {.fault = sdk::demo::Fault::NoAnswer});
 
     OVTreeModel tree;
@@ -94,7 +94,7 @@ QList<BenchmarkResult> measureBatches()
     time.start();
     factory.systemConfig(family, command, data, ipports);
     const double sequential = static_cast<double>(time.elapsed()) / 1000;
-    return {{.subject = QStringLiteral("command to 200 devices, 10 of them dead"),
+    return {{.subject = QStringLiteral("command to 200 devices, 10 of them without a response"),
              .value = parallel,
              .unit = QStringLiteral("s"),
              .budget = sequential / 6,

@@ -32,7 +32,7 @@ public:
         };
     }
 
-    [[nodiscard]] static NamedTemplate made()
+    [[nodiscard]] static NamedTemplate content()
     {
         return {.fileName = CGIConfigManage::templateFileName(),
                 .content = {.sheet = tr("命令"),
@@ -50,5 +50,5 @@ public:
 
 int main(int argc, char *argv[])
 {
-    return writeTranslatedTemplate(argc, argv, &TemplateText::made);
+    return writeTranslatedTemplate(argc, argv, &TemplateText::content);
 }

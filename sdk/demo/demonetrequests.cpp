@@ -15,12 +15,12 @@ using namespace std::chrono_literals;
 
 bool DemoNetLibrary::waitUnlessStopped(std::chrono::milliseconds duration, const std::stop_token &stop) const
 {
-    constexpr auto lookInterval = 100ms;
+    constexpr auto checkInterval = 100ms;
     Clock &clock = m_site.clock();
     const std::int64_t end = clock.now() + duration.count();
     std::int64_t next = 0;
     do {
-        next = std::min(end, clock.now() + lookInterval.count());
+        next = std::min(end, clock.now() + checkInterval.count());
         if (CallStop::isRequested() || !clock.waitUntil(next, stop))
             return false;
     } while (next < end);

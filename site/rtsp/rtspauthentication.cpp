@@ -35,7 +35,7 @@ gboolean checkLogin(const site::RtspDevice &device, GstRTSPContext *context)
     const std::optional<SceneDevice> current = parts.site.device(device.mac);
     if (!current)
         return FALSE;
-    // Many players support MD5 only and use the last challenge, so every device offers MD5 last.
+    // Many players support MD5 only, so every device offers it.
     site::DeviceManner manner = parts.options.mannerOf(*current);
     manner.offersMd5 = true;
     const std::int64_t now = parts.site.clock().now();

@@ -25,8 +25,8 @@ public:
 
     [[nodiscard]] const StreamSettings &settings() const { return m_settings; }
 
-    // Codec-specific data that a decoder needs before the first packet, such as parameter sets. Empty for a
-    // codec without such data.
+    /// Codec-specific data that a decoder needs before the first packet, such as parameter sets. Empty for a
+    /// codec without such data.
     [[nodiscard]] QByteArray pictureHead() const;
     [[nodiscard]] QByteArray soundHead() const;
 

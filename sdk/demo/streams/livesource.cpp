@@ -63,11 +63,11 @@ void LiveSource::wake()
 
 void LiveSource::run(const std::stop_token &stop)
 {
-    while (waitForWatcher(stop))
+    while (waitForViewer(stop))
         stream(stop);
 }
 
-bool LiveSource::waitForWatcher(const std::stop_token &stop)
+bool LiveSource::waitForViewer(const std::stop_token &stop)
 {
     std::unique_lock lock(m_mutex);
     return m_changed.wait(lock, stop, [this] {

@@ -55,7 +55,7 @@ private:
     };
 
     void run(const std::stop_token &stop);
-    [[nodiscard]] bool waitForWatcher(const std::stop_token &stop);
+    [[nodiscard]] bool waitForViewer(const std::stop_token &stop);
     void stream(const std::stop_token &stop);
 
     /// Generates the frame that is due. Returns false without viewers.
