@@ -72,16 +72,16 @@ int main(int argc, char *argv[])
     Shell::prepareApplication();
     const QApplication application(argc, argv);
     const QList<Subject> all = subjects();
-    QStringList wanted = QApplication::arguments().mid(1);
+    QStringList requested = QApplication::arguments().mid(1);
     QList<BenchmarkResult> results;
     for (const Subject &subject : all) {
-        if (wanted.isEmpty() || wanted.contains(subject.name))
+        if (requested.isEmpty() || requested.contains(subject.name))
             results.append(subject.measure());
     }
     for (const Subject &subject : all)
-        wanted.removeAll(subject.name);
-    for (const QString &unknown : std::as_const(wanted))
+        requested.removeAll(subject.name);
+    for (const QString &unknown : std::as_const(requested))
         std::fprintf(stderr, "There is no subject \"%s\".\n", qUtf8Printable(unknown));
     printResults(results);
-    return wanted.isEmpty() ? 0 : 2;
+    return requested.isEmpty() ? 0 : 2;
 }

@@ -10,7 +10,7 @@
 namespace {
 
 constexpr long accepted = 200;
-constexpr long credentialsWanted = 401;
+constexpr long statusUnauthorized = 401;
 
 QString unknownCertificateText()
 {
@@ -146,7 +146,7 @@ CgiAnswer CgiProcedure::exchange(const QString &url, const QString &user, const 
         return {.text = failedResult + tr("未知错误。")};
 
     HttpOutcome first = perform(*prepared, m_limits.first, {});
-    if (first.status == credentialsWanted && !first.isStopped && takesBasic(prepared->headerText())) {
+    if (first.status == statusUnauthorized && !first.isStopped && takesBasic(prepared->headerText())) {
         prepared->useBasic();
         first = perform(*prepared, m_limits.first, {});
     }
@@ -162,7 +162,7 @@ CgiAnswer CgiProcedure::exchange(const QString &url, const QString &user, const 
     if (first.status != accepted)
         return {.text = failedResult + tr("服务器连接失败") +
                         (m_surroundings.explainsFailures ? statusText(first.status) : QString()),
-                .isLoginRefused = first.status == credentialsWanted};
+                .isLoginRefused = first.status == statusUnauthorized};
     return {.text = received.text};
 }
 

@@ -149,13 +149,13 @@ Batch *CgiWorkbooks::run(const QString &title, const QStringList &lines)
     return batch;
 }
 
-QList<BatchDevice> CgiWorkbooks::linesOf(const Workbook &workbook, const QSet<QString> &wanted) const
+QList<BatchDevice> CgiWorkbooks::linesOf(const Workbook &workbook, const QSet<QString> &requested) const
 {
     QList<BatchDevice> lines;
     QHash<std::pair<QString, QString>, int> accounts; // a number for each
     for (const WorkbookCommand &command : workbook.commands()) {
         const QString name = Workbook::nameOf(command);
-        if (!wanted.contains(name))
+        if (!requested.contains(name))
             continue;
         BatchDevice line = batchDevice(m_factory, dhFamily, command.ipport);
         line.name = name;

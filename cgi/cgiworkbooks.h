@@ -41,7 +41,7 @@ private:
     class Workbook;
 
     void takeRead(std::shared_ptr<Workbook> workbook, const QString &refusal);
-    [[nodiscard]] QList<BatchDevice> linesOf(const Workbook &workbook, const QSet<QString> &wanted) const;
+    [[nodiscard]] QList<BatchDevice> linesOf(const Workbook &workbook, const QSet<QString> &requested) const;
     [[nodiscard]] DeviceStep lineStep(const BatchDevice &line) const;
     void takeLines(const QList<BatchOutcome> &outcomes);
     void finish();

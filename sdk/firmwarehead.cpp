@@ -126,9 +126,10 @@ bool takeLine(std::string_view line, FirmwareHead &head)
 
 bool FirmwareHead::fits(std::string_view model) const
 {
-    const std::string_view wanted = trimmed(model);
-    return models.empty() || wanted.empty() ||
-           std::ranges::any_of(models, [wanted](const std::string &own) { return isSameText(own, wanted); });
+    const std::string_view requested = trimmed(model);
+    return models.empty() || requested.empty() ||
+           std::ranges::any_of(models,
+                               [requested](const std::string &own) { return isSameText(own, requested); });
 }
 
 bool isSameVersion(std::string_view one, std::string_view other)

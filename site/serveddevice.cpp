@@ -40,16 +40,16 @@ ServedDevice::Shape ServedDevice::shapeOf(const sdk::demo::SceneDevice &device)
 void ServedDevice::follow(const sdk::demo::SceneDevice &device, std::int64_t now)
 {
     const Shape shape = shapeOf(device);
-    if (shape != m_wanted) {
-        m_wanted = shape;
-        m_wantedSince = now;
+    if (shape != m_target) {
+        m_target = shape;
+        m_targetSince = now;
     }
     if (!device.isListening(now)) {
         if (m_shape)
             leave();
     } else if (!m_shape) {
         appear(shape);
-    } else if (*m_shape != shape && now - m_wantedSince >= moment) {
+    } else if (*m_shape != shape && now - m_targetSince >= moment) {
         disappear();
         appear(shape);
     }

@@ -69,8 +69,8 @@ private:
     const QString m_mac;
     const std::unique_ptr<DeviceInterface> m_interface;
     std::optional<Shape> m_shape; // present state on the network; nothing while the device is offline
-    Shape m_wanted;               // state of the device
-    std::int64_t m_wantedSince = 0;
+    Shape m_target;               // state of the device
+    std::int64_t m_targetSince = 0;
     std::unique_ptr<DiscoveryPort> m_discovery;
     RtspPort m_rtsp;
     FileDescriptor m_httpListener;

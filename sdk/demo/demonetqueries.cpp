@@ -120,15 +120,15 @@ bool DemoNetLibrary::NetGetNewConfig(std::int64_t loginHandle, const char *name,
 {
     const CallGate::Call call(m_gate);
     const std::optional<DemoSession> session = m_sessions.session(loginHandle);
-    const QString wanted = QString::fromLocal8Bit(name);
+    const QString requested = QString::fromLocal8Bit(name);
     record("NetGetNewConfig",
            {{QStringLiteral("loginHandle"), static_cast<qint64>(loginHandle)},
-            {QStringLiteral("name"), wanted},
+            {QStringLiteral("name"), requested},
             {QStringLiteral("channel"), channel},
             {QStringLiteral("textSize"), static_cast<qint64>(textSize)},
             {QStringLiteral("wait"), static_cast<qint64>(wait.count())}},
            session.value_or(DemoSession()).mac);
-    const bool isFetched = fetchConfig(call, session, wanted, channel, text, textSize, wait);
+    const bool isFetched = fetchConfig(call, session, requested, channel, text, textSize, wait);
     error = isFetched ? 0 : static_cast<std::int32_t>(m_error.last());
     return isFetched;
 }

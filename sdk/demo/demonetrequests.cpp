@@ -73,16 +73,16 @@ bool DemoNetLibrary::NetModifyDeviceBySearch(const ModifyDeviceInput &input, Dev
                                              std::chrono::milliseconds wait)
 {
     const CallGate::Call call(m_gate);
-    const SearchDeviceInformation &wanted = input.device;
-    const QString mac = canonicalMac(textOf(wanted.mac));
+    const SearchDeviceInformation &requested = input.device;
+    const QString mac = canonicalMac(textOf(requested.mac));
     record("NetModifyDeviceBySearch",
            {{QStringLiteral("size"), static_cast<qint64>(input.size)},
-            {QStringLiteral("mac"), textOf(wanted.mac)},
-            {QStringLiteral("ipVersion"), wanted.ipVersion},
-            {QStringLiteral("address"), textOf(wanted.address)},
-            {QStringLiteral("subnetMask"), textOf(wanted.subnetMask)},
-            {QStringLiteral("gateway"), textOf(wanted.gateway)},
-            {QStringLiteral("dhcpEnabled"), wanted.dhcpEnabled},
+            {QStringLiteral("mac"), textOf(requested.mac)},
+            {QStringLiteral("ipVersion"), requested.ipVersion},
+            {QStringLiteral("address"), textOf(requested.address)},
+            {QStringLiteral("subnetMask"), textOf(requested.subnetMask)},
+            {QStringLiteral("gateway"), textOf(requested.gateway)},
+            {QStringLiteral("dhcpEnabled"), requested.dhcpEnabled},
             {QStringLiteral("wait"), static_cast<qint64>(wait.count())}},
            mac);
     if (input.size != sizeof(ModifyDeviceInput) || output.size != sizeof(DeviceRequestOutput))
@@ -91,7 +91,7 @@ bool DemoNetLibrary::NetModifyDeviceBySearch(const ModifyDeviceInput &input, Dev
         return m_error.fail(NetError::Cancelled);
     if (!responds(call, mac, true, wait))
         return false;
-    const NetError error = changeDeviceAddress(m_site, mac, wanted);
+    const NetError error = changeDeviceAddress(m_site, mac, requested);
     return error == NetError::None || m_error.fail(error);
 }
 

@@ -67,18 +67,18 @@ bool DemoP2PAgentLibrary::OAgent_ClientGetDeviceLocalPort(const char *deviceId, 
                                                           std::int32_t *localPorts, std::int32_t capacity,
                                                           std::int32_t &count)
 {
-    const QByteArray wanted(deviceId);
+    const QByteArray requested(deviceId);
     record("OAgent_ClientGetDeviceLocalPort",
-           {{QStringLiteral("deviceId"), QString::fromLocal8Bit(wanted)},
+           {{QStringLiteral("deviceId"), QString::fromLocal8Bit(requested)},
             {QStringLiteral("devicePort"), devicePort},
             {QStringLiteral("capacity"), capacity}},
-           macOf(QString::fromLocal8Bit(wanted)));
+           macOf(QString::fromLocal8Bit(requested)));
     count = 0;
     const std::lock_guard lock(m_mutex);
     if (!m_isStarted || capacity < 0 || (capacity > 0 && !localPorts))
         return false;
     for (const Mapping &mapping : m_mappings) {
-        if (count < capacity && mapping.deviceId == wanted && mapping.tunnel.devicePort == devicePort &&
+        if (count < capacity && mapping.deviceId == requested && mapping.tunnel.devicePort == devicePort &&
             !mapping.tunnel.isBroken)
             localPorts[count++] = mapping.listener->port();
     }
@@ -88,10 +88,10 @@ bool DemoP2PAgentLibrary::OAgent_ClientGetDeviceLocalPort(const char *deviceId, 
 bool DemoP2PAgentLibrary::OAgent_ClientAddPort(const char *deviceId, std::int32_t devicePort,
                                                std::int32_t &localPort, std::int32_t flag)
 {
-    const QByteArray wanted(deviceId);
-    const QString mac = macOf(QString::fromLocal8Bit(wanted));
+    const QByteArray requested(deviceId);
+    const QString mac = macOf(QString::fromLocal8Bit(requested));
     record("OAgent_ClientAddPort",
-           {{QStringLiteral("deviceId"), QString::fromLocal8Bit(wanted)},
+           {{QStringLiteral("deviceId"), QString::fromLocal8Bit(requested)},
             {QStringLiteral("devicePort"), devicePort},
             {QStringLiteral("localPort"), localPort},
             {QStringLiteral("flag"), flag}},
@@ -107,8 +107,8 @@ bool DemoP2PAgentLibrary::OAgent_ClientAddPort(const char *deviceId, std::int32_
     if (!listener)
         return false;
     localPort = listener->port();
-    m_mappings.push_back({wanted, {mac, devicePort, false}, std::move(listener)});
-    m_events.add(P2PAgentEvent::TunnelOpened, wanted, localPort);
+    m_mappings.push_back({requested, {mac, devicePort, false}, std::move(listener)});
+    m_events.add(P2PAgentEvent::TunnelOpened, requested, localPort);
     return true;
 }
 

@@ -240,15 +240,15 @@ bool OnvifNetLibrary::NetGetNewConfig(LLONG loginHandle, const char *name, std::
                                       std::chrono::milliseconds wait)
 {
     const bool isRead = onSession(loginHandle, wait, [&](OnvifSession &session, Deadline deadline) {
-        const std::string_view wanted = name;
+        const std::string_view requested = name;
         NetError failure = NetError::None;
         std::string read;
-        if (wanted == "Encode")
+        if (requested == "Encode")
             read = encodeConfiguration(session, channel, deadline, failure);
-        else if (wanted == "VideoColor")
+        else if (requested == "VideoColor")
             read = colorConfiguration(session, channel, deadline, failure);
         else
-            read = systemConfiguration(session, wanted, deadline, failure);
+            read = systemConfiguration(session, requested, deadline, failure);
         if (failure != NetError::None)
             return failure;
         if (!text || textSize <= read.size())
@@ -267,12 +267,12 @@ bool OnvifNetLibrary::NetSetNewConfig(LLONG loginHandle, const char *name, std::
     const std::string_view complete(text, textSize);
     const std::string_view content = complete.substr(0, complete.find('\0'));
     const bool isWritten = onSession(loginHandle, wait, [&](OnvifSession &session, Deadline deadline) {
-        const std::string_view wanted = name;
-        if (wanted == "Encode")
+        const std::string_view requested = name;
+        if (requested == "Encode")
             return setEncodeConfiguration(session, channel, content, deadline);
-        if (wanted == "VideoColor")
+        if (requested == "VideoColor")
             return setColorConfiguration(session, channel, content, deadline);
-        return setSystemConfiguration(session, wanted, content, deadline);
+        return setSystemConfiguration(session, requested, content, deadline);
     });
     error = isWritten ? 0 : static_cast<std::int32_t>(m_error.last());
     return isWritten;

@@ -13,7 +13,7 @@ template<typename Cells>
 auto positionOf(Cells &cells, int column)
 {
     return std::lower_bound(cells.begin(), cells.end(), column,
-                            [](const auto &cell, int wanted) { return cell.first < wanted; });
+                            [](const auto &cell, int requested) { return cell.first < requested; });
 }
 
 /// False for a cell with a format only.

@@ -48,18 +48,18 @@ bool isKnownType(const DiscoveryRequest::Type &type)
 }
 
 /// Comparison by segments: the same scheme and host, and a path that starts with the same segments.
-bool scopeFits(const QString &wanted, const QString &had, bool comparesCharacters)
+bool scopeFits(const QString &requested, const QString &own, bool comparesCharacters)
 {
-    if (comparesCharacters || wanted == had)
-        return wanted == had;
-    const QUrl wantedUrl(wanted);
-    const QUrl hadUrl(had);
-    if (wantedUrl.scheme().toLower() != hadUrl.scheme().toLower() ||
-        wantedUrl.host().toLower() != hadUrl.host().toLower())
+    if (comparesCharacters || requested == own)
+        return requested == own;
+    const QUrl requestedUrl(requested);
+    const QUrl ownUrl(own);
+    if (requestedUrl.scheme().toLower() != ownUrl.scheme().toLower() ||
+        requestedUrl.host().toLower() != ownUrl.host().toLower())
         return false;
-    const QStringList wantedParts = wantedUrl.path().split(u'/', Qt::SkipEmptyParts);
-    const QStringList hadParts = hadUrl.path().split(u'/', Qt::SkipEmptyParts);
-    return hadParts.first(std::min(wantedParts.size(), hadParts.size())) == wantedParts;
+    const QStringList requestedParts = requestedUrl.path().split(u'/', Qt::SkipEmptyParts);
+    const QStringList ownParts = ownUrl.path().split(u'/', Qt::SkipEmptyParts);
+    return ownParts.first(std::min(requestedParts.size(), ownParts.size())) == requestedParts;
 }
 
 void writeHead(SoapMessage &message, const char *action, const QString &relatesTo, DiscoverySequence sequence)
@@ -119,9 +119,9 @@ bool matches(const DiscoveryRequest &request, const DiscoveryIdentity &identity)
     if (request.kind == DiscoveryRequest::Kind::Resolve)
         return request.endpoint == identity.endpoint;
     return request.knowsRule && std::all_of(request.types.begin(), request.types.end(), isKnownType) &&
-           std::all_of(request.scopes.begin(), request.scopes.end(), [&](const QString &wanted) {
-               return std::any_of(identity.scopes.begin(), identity.scopes.end(), [&](const QString &had) {
-                   return scopeFits(wanted, had, request.comparesCharacters);
+           std::all_of(request.scopes.begin(), request.scopes.end(), [&](const QString &requested) {
+               return std::any_of(identity.scopes.begin(), identity.scopes.end(), [&](const QString &own) {
+                   return scopeFits(requested, own, request.comparesCharacters);
                });
            });
 }

@@ -123,27 +123,28 @@ ServiceResult getServices(ServiceCall &call)
 
 ServiceResult getCapabilities(ServiceCall &call)
 {
-    QStringList wanted;
+    QStringList requested;
     for (const pugi::xml_node element : call.request.children()) {
         if (isNamed(element, "tds:Category"))
-            wanted.append(textOf(element).trimmed());
+            requested.append(textOf(element).trimmed());
     }
-    const auto isWanted = [&wanted](const char *category) {
-        return wanted.isEmpty() || wanted.contains(u"All"_s) || wanted.contains(QLatin1String(category));
+    const auto isRequested = [&requested](const char *category) {
+        return requested.isEmpty() || requested.contains(u"All"_s) ||
+               requested.contains(QLatin1String(category));
     };
-    for (const QString &category : std::as_const(wanted)) {
+    for (const QString &category : std::as_const(requested)) {
         if (category == u"Events" || category == u"PTZ" || category == u"Analytics")
             return SoapFault{false, "ter:ActionNotSupported", "ter:NoSuchService",
                              u"The device has no such service"_s};
     }
     XmlElement capabilities = call.response.add("tds:Capabilities");
-    if (isWanted("Device"))
+    if (isRequested("Device"))
         writeDevice(capabilities.add("tt:Device"), call);
-    if (isWanted("Imaging"))
+    if (isRequested("Imaging"))
         capabilities.add("tt:Imaging").add("tt:XAddr", addressOf(call, "timg"));
-    if (isWanted("Media"))
+    if (isRequested("Media"))
         writeMedia(capabilities.add("tt:Media"), call);
-    if (isWanted("All")) {
+    if (isRequested("All")) {
         XmlElement io = capabilities.add("tt:Extension").add("tt:DeviceIO");
         io.add("tt:XAddr", addressOf(call, "tmd"));
         io.add("tt:VideoSources", channelsOf(call.device));

@@ -44,13 +44,13 @@ Ipv4Settings settingsOf(const SceneDevice &device)
 
 sdk::NetError give(const ServiceCall &call, const Ipv4Settings &settings)
 {
-    sdk::SearchDeviceInformation wanted = {};
-    wanted.ipVersion = 4;
-    wanted.dhcpEnabled = settings.dhcp ? 1 : 0;
-    writePlain(wanted.address, settings.address);
-    writePlain(wanted.subnetMask, settings.mask);
-    writePlain(wanted.gateway, settings.gateway);
-    return changeDeviceAddress(call.context.site, call.device.mac, wanted);
+    sdk::SearchDeviceInformation requested = {};
+    requested.ipVersion = 4;
+    requested.dhcpEnabled = settings.dhcp ? 1 : 0;
+    writePlain(requested.address, settings.address);
+    writePlain(requested.subnetMask, settings.mask);
+    writePlain(requested.gateway, settings.gateway);
+    return changeDeviceAddress(call.context.site, call.device.mac, requested);
 }
 
 /// Applies the settings immediately, or at the next restart; then `needsReboot` is set.

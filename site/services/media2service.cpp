@@ -88,7 +88,7 @@ ServiceResult getProfiles(ServiceCall &call)
         if (isNamed(element, "tr2:Type"))
             types.append(textOf(element).trimmed());
     }
-    const auto isWanted = [&types](const char *type) {
+    const auto isRequested = [&types](const char *type) {
         return types.contains(u"All"_s) || types.contains(QLatin1String(type));
     };
     const QList<MediaStream> streams = streamsOf(call.device);
@@ -104,13 +104,13 @@ ServiceResult getProfiles(ServiceCall &call)
         if (types.isEmpty())
             continue;
         XmlElement set = profile.add("tr2:Configurations");
-        if (isWanted("VideoSource"))
+        if (isRequested("VideoSource"))
             writeVideoSourceConfiguration(set.add("tr2:VideoSource"), call, stream.channel);
-        if (isWanted("AudioSource"))
+        if (isRequested("AudioSource"))
             writeAudioSourceConfiguration(set.add("tr2:AudioSource"), call, stream.channel);
-        if (settings && isWanted("VideoEncoder"))
+        if (settings && isRequested("VideoEncoder"))
             writeVideoEncoder(set.add("tr2:VideoEncoder"), call, stream, *settings);
-        if (settings && settings->sound.audioEnable != 0 && isWanted("AudioEncoder"))
+        if (settings && settings->sound.audioEnable != 0 && isRequested("AudioEncoder"))
             writeAudioEncoder(set.add("tr2:AudioEncoder"), call, stream, *settings);
     }
     return isKnown ? std::nullopt : noSuchProfile();
@@ -144,19 +144,19 @@ ServiceResult getVideoEncoderConfigurations(ServiceCall &call)
 
 ServiceResult setVideoEncoderConfiguration(ServiceCall &call)
 {
-    const pugi::xml_node wanted = childNamed(call.request, "tr2:Configuration");
-    const std::optional<MediaStream> stream = streamOf(call.device, MediaObject::VideoEncoder,
-                                                       QString::fromUtf8(wanted.attribute("token").value()));
+    const pugi::xml_node requested = childNamed(call.request, "tr2:Configuration");
+    const std::optional<MediaStream> stream = streamOf(
+        call.device, MediaObject::VideoEncoder, QString::fromUtf8(requested.attribute("token").value()));
     std::optional<EncodeSettings> settings = stream ? encodeSettings(call.device, *stream) : std::nullopt;
     if (!settings)
         return noSuchConfiguration();
     const StreamAbilities abilities = streamAbilities(call.device, stream->encodeKind());
     const std::optional<int> compression =
-        compressionOfMedia2(abilities, textAt(wanted, "tt:Encoding").value_or(QString()));
+        compressionOfMedia2(abilities, textAt(requested, "tt:Encoding").value_or(QString()));
     if (!compression)
         return refusedSettings();
-    const auto number = [wanted](const char *path, double before) {
-        return textAt(wanted, path).value_or(QString::number(before)).toDouble();
+    const auto number = [requested](const char *path, double before) {
+        return textAt(requested, path).value_or(QString::number(before)).toDouble();
     };
     const auto integer = [&number](const char *path, int before) {
         return static_cast<int>(std::lround(number(path, before)));
@@ -170,10 +170,10 @@ ServiceResult setVideoEncoderConfiguration(ServiceCall &call)
         static_cast<float>(number("tt:RateControl/tt:FrameRateLimit", static_cast<double>(video.frameRate)));
     video.bitRate = integer("tt:RateControl/tt:BitrateLimit", video.bitRate);
     if (const pugi::xml_attribute constant =
-            childNamed(wanted, "tt:RateControl").attribute("ConstantBitRate"))
+            childNamed(requested, "tt:RateControl").attribute("ConstantBitRate"))
         video.bitRateControl = constant.as_bool() ? 0 : 1;
-    settings->keyFrameInterval = wanted.attribute("GovLength").as_int(settings->keyFrameInterval);
-    if (const pugi::xml_attribute profile = wanted.attribute("Profile");
+    settings->keyFrameInterval = requested.attribute("GovLength").as_int(settings->keyFrameInterval);
+    if (const pugi::xml_attribute profile = requested.attribute("Profile");
         profile && *compression == sdk::compressionH264)
         settings->profile.profile = profileNamed(QString::fromUtf8(profile.value())).value_or(0);
     if (takeEncodeSettings(call, *stream, *settings) != sdk::NetError::None)
@@ -224,20 +224,20 @@ ServiceResult getAudioEncoderConfigurations(ServiceCall &call)
 
 ServiceResult setAudioEncoderConfiguration(ServiceCall &call)
 {
-    const pugi::xml_node wanted = childNamed(call.request, "tr2:Configuration");
-    const std::optional<MediaStream> stream = streamOf(call.device, MediaObject::AudioEncoder,
-                                                       QString::fromUtf8(wanted.attribute("token").value()));
+    const pugi::xml_node requested = childNamed(call.request, "tr2:Configuration");
+    const std::optional<MediaStream> stream = streamOf(
+        call.device, MediaObject::AudioEncoder, QString::fromUtf8(requested.attribute("token").value()));
     std::optional<EncodeSettings> settings = stream ? encodeSettings(call.device, *stream) : std::nullopt;
     if (!settings)
         return noSuchConfiguration();
-    const std::string encoding = textAt(wanted, "tt:Encoding").value_or(QString()).toStdString();
+    const std::string encoding = textAt(requested, "tt:Encoding").value_or(QString()).toStdString();
     settings->sound.format = 0; // refused, unless the device supports it
     for (const int format : soundFormats(call.device, *stream)) {
         if (encoding == media2Sound(format))
             settings->sound.format = format;
     }
     bool isNumber = false;
-    const int kilohertz = textAt(wanted, "tt:SampleRate").value_or(QString()).toInt(&isNumber);
+    const int kilohertz = textAt(requested, "tt:SampleRate").value_or(QString()).toInt(&isNumber);
     if (isNumber)
         settings->soundFormat.samplingFrequency = kilohertz * 1000;
     if (takeEncodeSettings(call, *stream, *settings) != sdk::NetError::None)

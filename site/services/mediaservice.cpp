@@ -176,18 +176,18 @@ ServiceResult getVideoEncoderConfiguration(ServiceCall &call)
 
 ServiceResult setVideoEncoderConfiguration(ServiceCall &call)
 {
-    const pugi::xml_node wanted = childNamed(call.request, "trt:Configuration");
-    const std::optional<MediaStream> stream = streamOf(call.device, MediaObject::VideoEncoder,
-                                                       QString::fromUtf8(wanted.attribute("token").value()));
+    const pugi::xml_node requested = childNamed(call.request, "trt:Configuration");
+    const std::optional<MediaStream> stream = streamOf(
+        call.device, MediaObject::VideoEncoder, QString::fromUtf8(requested.attribute("token").value()));
     std::optional<EncodeSettings> settings = stream ? encodeSettings(call.device, *stream) : std::nullopt;
     if (!settings)
         return noSuchConfiguration();
-    const auto number = [wanted](const char *path, int before) {
-        return textAt(wanted, path).value_or(QString::number(before)).toInt();
+    const auto number = [requested](const char *path, int before) {
+        return textAt(requested, path).value_or(QString::number(before)).toInt();
     };
     const StreamAbilities abilities = streamAbilities(call.device, stream->encodeKind());
     const std::optional<int> compression =
-        compressionOfMedia(abilities, textAt(wanted, "tt:Encoding").value_or(QString()));
+        compressionOfMedia(abilities, textAt(requested, "tt:Encoding").value_or(QString()));
     if (!compression)
         return refusedSettings();
     sdk::VideoFormatItem &video = settings->video;
@@ -195,12 +195,12 @@ ServiceResult setVideoEncoderConfiguration(ServiceCall &call)
     video.width = number("tt:Resolution/tt:Width", video.width);
     video.height = number("tt:Resolution/tt:Height", video.height);
     video.quality = static_cast<int>(
-        std::lround(textAt(wanted, "tt:Quality").value_or(QString::number(video.quality)).toDouble()));
+        std::lround(textAt(requested, "tt:Quality").value_or(QString::number(video.quality)).toDouble()));
     video.frameRate = static_cast<float>(
         number("tt:RateControl/tt:FrameRateLimit", static_cast<int>(std::lround(video.frameRate))));
     video.bitRate = number("tt:RateControl/tt:BitrateLimit", video.bitRate);
     settings->keyFrameInterval = number("tt:H264/tt:GovLength", settings->keyFrameInterval);
-    if (const std::optional<QString> profile = textAt(wanted, "tt:H264/tt:H264Profile"))
+    if (const std::optional<QString> profile = textAt(requested, "tt:H264/tt:H264Profile"))
         settings->profile.profile = profileNamed(*profile).value_or(0);
     if (takeEncodeSettings(call, *stream, *settings) != sdk::NetError::None)
         return refusedSettings();
@@ -254,13 +254,13 @@ ServiceResult getAudioEncoderConfiguration(ServiceCall &call)
 
 ServiceResult setAudioEncoderConfiguration(ServiceCall &call)
 {
-    const pugi::xml_node wanted = childNamed(call.request, "trt:Configuration");
-    const std::optional<MediaStream> stream = streamOf(call.device, MediaObject::AudioEncoder,
-                                                       QString::fromUtf8(wanted.attribute("token").value()));
+    const pugi::xml_node requested = childNamed(call.request, "trt:Configuration");
+    const std::optional<MediaStream> stream = streamOf(
+        call.device, MediaObject::AudioEncoder, QString::fromUtf8(requested.attribute("token").value()));
     std::optional<EncodeSettings> settings = stream ? encodeSettings(call.device, *stream) : std::nullopt;
     if (!settings)
         return noSuchConfiguration();
-    const QString encoding = textAt(wanted, "tt:Encoding").value_or(QString());
+    const QString encoding = textAt(requested, "tt:Encoding").value_or(QString());
     // Both variants of G.711 have the same name: the present variant is kept.
     if (encoding.toStdString() != mediaSound(settings->sound.format)) {
         settings->sound.format = 0;
@@ -270,7 +270,7 @@ ServiceResult setAudioEncoderConfiguration(ServiceCall &call)
         }
     }
     bool isNumber = false;
-    const int kilohertz = textAt(wanted, "tt:SampleRate").value_or(QString()).toInt(&isNumber);
+    const int kilohertz = textAt(requested, "tt:SampleRate").value_or(QString()).toInt(&isNumber);
     if (isNumber)
         settings->soundFormat.samplingFrequency = kilohertz * 1000;
     if (takeEncodeSettings(call, *stream, *settings) != sdk::NetError::None)

@@ -198,13 +198,13 @@ HttpResponse Command::device()
 HttpResponse Command::time()
 {
     const std::optional<QString> given = m_parameters.text(u"set"_s);
-    const QDateTime wanted =
+    const QDateTime requested =
         given ? QDateTime::fromString(QString(*given).replace(u'T', u' '), u"yyyy-MM-dd hh:mm:ss"_s)
               : QDateTime();
     constexpr int firstYear = 2000;
     constexpr int lastYear = 2037;
-    if (given &&
-        (!wanted.date().isValid() || wanted.date().year() < firstYear || wanted.date().year() > lastYear))
+    if (given && (!requested.date().isValid() || requested.date().year() < firstYear ||
+                  requested.date().year() > lastYear))
         m_parameters.reportError(
             u"set must be a time from %1 to %2, as 2024-05-06%2007:08:09"_s.arg(firstYear).arg(lastYear));
     if (!isValid())
@@ -214,13 +214,13 @@ HttpResponse Command::time()
     const auto part = [](int number) {
         return static_cast<std::uint32_t>(number);
     };
-    const QDate date = wanted.date();
-    const QTime hours = wanted.time();
+    const QDate date = requested.date();
+    const QTime hours = requested.time();
     const TimeRecord record = {part(date.year()),  part(date.month()),   part(date.day()),
                                part(hours.hour()), part(hours.minute()), part(hours.second())};
     if (!change([&](SceneDevice &device) { return setDeviceTime(device, record, m_now); }))
         return refusal(u"The device refuses to change its time"_s);
-    return HttpResponse::line(HttpStatus::Ok, u"time="_s + wanted.toString(u"yyyy-MM-dd hh:mm:ss"_s));
+    return HttpResponse::line(HttpStatus::Ok, u"time="_s + requested.toString(u"yyyy-MM-dd hh:mm:ss"_s));
 }
 
 HttpResponse Command::picture()

@@ -88,15 +88,15 @@ struct SceneDevice
         return !isOffline && !hasFault(Fault::NoAnswer);
     }
 
-    /// The device's setting of `wanted`; nullopt if the device does not have that fault.
-    [[nodiscard]] std::optional<FaultSetting> fault(Fault wanted) const
+    /// The device's setting of `requested`; nullopt if the device does not have that fault.
+    [[nodiscard]] std::optional<FaultSetting> fault(Fault requested) const
     {
-        const auto found = std::find_if(faults.begin(), faults.end(), [wanted](const FaultSetting &setting) {
-            return setting.fault == wanted;
-        });
+        const auto found =
+            std::find_if(faults.begin(), faults.end(),
+                         [requested](const FaultSetting &setting) { return setting.fault == requested; });
         return found == faults.end() ? std::nullopt : std::optional(*found);
     }
-    [[nodiscard]] bool hasFault(Fault wanted) const { return fault(wanted).has_value(); }
+    [[nodiscard]] bool hasFault(Fault requested) const { return fault(requested).has_value(); }
 
     /// Whether the device is not initialised.
     [[nodiscard]] bool isUninitialised() const

@@ -38,19 +38,19 @@ void takeLease(SceneDevice &device, const DeviceAddresses &addresses, const QStr
 }
 
 NetError changeAddress(SceneDevice &device, const DeviceAddresses &addresses,
-                       const SearchDeviceInformation &wanted, const QString &localAddress)
+                       const SearchDeviceInformation &requested, const QString &localAddress)
 {
     if (device.hasFault(Fault::RefusesAddressChange))
         return NetError::Refused;
-    if (device.isUninitialised() || device.address.isEmpty() || wanted.ipVersion != 4)
+    if (device.isUninitialised() || device.address.isEmpty() || requested.ipVersion != 4)
         return NetError::NotSupported;
-    if (wanted.dhcpEnabled != 0) {
+    if (requested.dhcpEnabled != 0) {
         takeLease(device, addresses, localAddress);
         return NetError::None;
     }
-    const QString address = textOf(wanted.address);
-    const QString mask = textOf(wanted.subnetMask);
-    const QString gateway = textOf(wanted.gateway);
+    const QString address = textOf(requested.address);
+    const QString mask = textOf(requested.subnetMask);
+    const QString gateway = textOf(requested.gateway);
     if (!isIpv4Address(address) || isUnset(address) || !isIpv4Mask(mask) ||
         (!gateway.isEmpty() && !isIpv4Address(gateway)))
         return NetError::NotSupported;
@@ -81,12 +81,12 @@ NetError initialiseDevice(SiteState &site, const QString &mac, const SceneAccoun
     return error;
 }
 
-NetError changeDeviceAddress(SiteState &site, const QString &mac, const SearchDeviceInformation &wanted)
+NetError changeDeviceAddress(SiteState &site, const QString &mac, const SearchDeviceInformation &requested)
 {
     NetError error = NetError::ConnectTimeout;
     const QString localAddress = site.localAddress();
     site.changeDevice(mac, [&](SceneDevice &device, const DeviceAddresses &addresses) {
-        error = changeAddress(device, addresses, wanted, localAddress);
+        error = changeAddress(device, addresses, requested, localAddress);
     });
     return error;
 }

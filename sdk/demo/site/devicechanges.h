@@ -12,10 +12,10 @@ class SiteState;
 /// account without a name or password, ConnectFailed for a device with Fault::RefusesInitialisation.
 [[nodiscard]] NetError initialiseDevice(SiteState &site, const QString &mac, const SceneAccount &account);
 
-/// Sets the addresses in `wanted`, or with DHCP a free one of twenty addresses. A device with a lease keeps
-/// it. A device without a free address gets 0.0.0.0. Returns NotSupported for an uninitialised device, a
-/// device without IPv4 and an invalid address, Refused for a device with Fault::RefusesAddressChange.
+/// Sets the addresses in `requested`, or with DHCP a free one of twenty addresses. A device with a lease
+/// keeps it. A device without a free address gets 0.0.0.0. Returns NotSupported for an uninitialised device,
+/// a device without IPv4 and an invalid address, Refused for a device with Fault::RefusesAddressChange.
 [[nodiscard]] NetError changeDeviceAddress(SiteState &site, const QString &mac,
-                                           const SearchDeviceInformation &wanted);
+                                           const SearchDeviceInformation &requested);
 
 } // namespace sdk::demo

@@ -48,10 +48,10 @@ DeviceReach reach(const SiteState &site, const QString &address, int port, Devic
     if (isLoopback)
         found.kind = DeviceReach::Kind::Refuses; // this host is always online
     const std::int64_t now = site.clock().now();
-    const QString &wanted = ipv6.isEmpty() ? address : ipv6;
+    const QString &requested = ipv6.isEmpty() ? address : ipv6;
     if (ipv6.isEmpty() && !isIpv4)
         return found;
-    site.forEachDeviceAt({wanted}, [&](const SceneDevice &device) {
+    site.forEachDeviceAt({requested}, [&](const SceneDevice &device) {
         if (device.isRemote || !device.isListening(now) || found.kind == DeviceReach::Kind::Responds)
             return;
         if (port != 0 && portOf(device, kind) == port && !device.hasFault(Fault::RefusesConnections))

@@ -152,13 +152,13 @@ void fill(StableItem &item, const Source &source)
 
 std::optional<ImagingSettings> change(const StableItem &item, const Source &source)
 {
-    ModeAndLevel wanted = source.settings.stabilisation.value_or(ModeAndLevel());
-    const bool isOn = !wanted.mode.empty() && wanted.mode != "OFF";
+    ModeAndLevel requested = source.settings.stabilisation.value_or(ModeAndLevel());
+    const bool isOn = !requested.mode.empty() && requested.mode != "OFF";
     if (isOn != (item.stable != 0))
-        wanted.mode = item.stable == 0                                  ? "OFF"
-                      : offers(source.options.stabilisationModes, "ON") ? "ON"
-                                                                        : "AUTO";
-    return ImagingSettings{.stabilisation = wanted};
+        requested.mode = item.stable == 0                                  ? "OFF"
+                         : offers(source.options.stabilisationModes, "ON") ? "ON"
+                                                                           : "AUTO";
+    return ImagingSettings{.stabilisation = requested};
 }
 
 void fill(ExposureItem &item, const Source &source)
@@ -188,24 +188,24 @@ std::optional<ImagingSettings> change(const ExposureItem &item, const Source &so
 {
     const ImagingOptions &options = source.options;
     const ExposureSettings current = source.settings.exposure.value_or(ExposureSettings());
-    ExposureSettings wanted;
+    ExposureSettings requested;
     if (item.exposure == exposureManual) {
-        wanted.mode = "MANUAL";
-        wanted.time = exposureTime(item.longestShutter, options.exposureTime);
+        requested.mode = "MANUAL";
+        requested.time = exposureTime(item.longestShutter, options.exposureTime);
         if (options.gain.isUsable())
-            wanted.gain = valueFor(item.gain, current.gain.value_or(options.gain.minimum), options.gain);
+            requested.gain = valueFor(item.gain, current.gain.value_or(options.gain.minimum), options.gain);
     } else if (item.exposure == exposureAutomatic) {
-        wanted.mode = "AUTO";
+        requested.mode = "AUTO";
         if (current.minimumTime && item.shortestShutter > 0)
-            wanted.minimumTime = exposureTime(item.shortestShutter, options.minimumExposureTime);
+            requested.minimumTime = exposureTime(item.shortestShutter, options.minimumExposureTime);
         if (current.maximumTime && item.longestShutter > 0)
-            wanted.maximumTime = exposureTime(item.longestShutter, options.maximumExposureTime);
-        wanted.minimumGain = changed(item.gainMinimum, current.minimumGain, options.minimumGain);
-        wanted.maximumGain = changed(item.gainMaximum, current.maximumGain, options.maximumGain);
+            requested.maximumTime = exposureTime(item.longestShutter, options.maximumExposureTime);
+        requested.minimumGain = changed(item.gainMinimum, current.minimumGain, options.minimumGain);
+        requested.maximumGain = changed(item.gainMaximum, current.maximumGain, options.maximumGain);
     }
-    if (!offers(options.exposureModes, wanted.mode))
+    if (!offers(options.exposureModes, requested.mode))
         return std::nullopt;
-    return ImagingSettings{.exposure = wanted};
+    return ImagingSettings{.exposure = requested};
 }
 
 void fill(NoiseReductionItem &item, const Source &source)
@@ -242,24 +242,24 @@ std::optional<ImagingSettings> change(const BackLightItem &item, const Source &s
 {
     if (item.backMode < backlightOff || item.backMode > backlightWideDynamic)
         return std::nullopt;
-    ImagingSettings wanted;
+    ImagingSettings requested;
     if (source.settings.backlightCompensation) {
-        wanted.backlightCompensation = source.settings.backlightCompensation;
-        wanted.backlightCompensation->mode = item.backMode == backlightOn ? "ON" : "OFF";
+        requested.backlightCompensation = source.settings.backlightCompensation;
+        requested.backlightCompensation->mode = item.backMode == backlightOn ? "ON" : "OFF";
     } else if (item.backMode == backlightOn) {
         return std::nullopt;
     }
     if (source.settings.wideDynamicRange) {
-        wanted.wideDynamicRange = source.settings.wideDynamicRange;
-        wanted.wideDynamicRange->mode = item.backMode == backlightWideDynamic ? "ON" : "OFF";
+        requested.wideDynamicRange = source.settings.wideDynamicRange;
+        requested.wideDynamicRange->mode = item.backMode == backlightWideDynamic ? "ON" : "OFF";
         if (source.options.wideDynamicLevel.isUsable())
-            wanted.wideDynamicRange->level =
-                valueFor(item.wideDynamic, wanted.wideDynamicRange->level.value_or(0),
+            requested.wideDynamicRange->level =
+                valueFor(item.wideDynamic, requested.wideDynamicRange->level.value_or(0),
                          source.options.wideDynamicLevel);
     } else if (item.backMode == backlightWideDynamic) {
         return std::nullopt;
     }
-    return wanted;
+    return requested;
 }
 
 void fill(WhiteBalanceItem &item, const Source &source)
@@ -273,19 +273,20 @@ void fill(WhiteBalanceItem &item, const Source &source)
 std::optional<ImagingSettings> change(const WhiteBalanceItem &item, const Source &source)
 {
     const WhiteBalanceSettings current = source.settings.whiteBalance.value_or(WhiteBalanceSettings());
-    WhiteBalanceSettings wanted;
+    WhiteBalanceSettings requested;
     if (item.type == whiteBalanceManual) {
-        wanted.mode = "MANUAL";
+        requested.mode = "MANUAL";
         if (source.options.redGain.isUsable())
-            wanted.redGain = valueFor(item.gainRed, current.redGain.value_or(0), source.options.redGain);
+            requested.redGain = valueFor(item.gainRed, current.redGain.value_or(0), source.options.redGain);
         if (source.options.blueGain.isUsable())
-            wanted.blueGain = valueFor(item.gainBlue, current.blueGain.value_or(0), source.options.blueGain);
+            requested.blueGain =
+                valueFor(item.gainBlue, current.blueGain.value_or(0), source.options.blueGain);
     } else if (item.type == whiteBalanceAutomatic) {
-        wanted.mode = "AUTO";
+        requested.mode = "AUTO";
     }
-    if (!offers(source.options.whiteBalanceModes, wanted.mode))
+    if (!offers(source.options.whiteBalanceModes, requested.mode))
         return std::nullopt;
-    return ImagingSettings{.whiteBalance = wanted};
+    return ImagingSettings{.whiteBalance = requested};
 }
 
 void fill(DayNightItem &item, const Source &source)
@@ -310,13 +311,13 @@ void fill(DefogItem &item, const Source &source)
 
 std::optional<ImagingSettings> change(const DefogItem &item, const Source &source)
 {
-    ModeAndLevel wanted = source.settings.defogging.value_or(ModeAndLevel());
-    wanted.mode = modeOf(item.defogMode, defogModes);
-    if (!offers(source.options.defoggingModes, wanted.mode))
+    ModeAndLevel requested = source.settings.defogging.value_or(ModeAndLevel());
+    requested.mode = modeOf(item.defogMode, defogModes);
+    if (!offers(source.options.defoggingModes, requested.mode))
         return std::nullopt;
     if (source.options.hasDefoggingLevel)
-        wanted.level = valueFor(item.intensity, wanted.level.value_or(0), unitRange);
-    return ImagingSettings{.defogging = wanted};
+        requested.level = valueFor(item.intensity, requested.level.value_or(0), unitRange);
+    return ImagingSettings{.defogging = requested};
 }
 
 std::uint32_t groupsOf(const ImagingOptions &options)
@@ -530,17 +531,17 @@ NetError setColorConfiguration(OnvifSession &session, int channel, std::string_v
 NetError cameraItem(OnvifSession &session, std::uint32_t item, int channel, void *block, std::uint32_t size,
                     Deadline deadline)
 {
-    const auto wanted = static_cast<CameraItem>(item);
-    if (wanted == CameraItem::ChannelName)
+    const auto requested = static_cast<CameraItem>(item);
+    if (requested == CameraItem::ChannelName)
         return readName(session, channel, block, size, deadline);
-    return withBlock(wanted, [&](auto typedBlock) {
+    return withBlock(requested, [&](auto typedBlock) {
         if (!block || size != sizeof(typedBlock))
             return NetError::InvalidValue;
         std::memcpy(&typedBlock, block, sizeof(typedBlock));
         const ServiceResult<Source> source = readSource(session, channel, deadline);
         if (!source.isOk())
             return source.error;
-        if (!has(source.value.options, wanted))
+        if (!has(source.value.options, requested))
             return NetError::NotSupported;
         fill(typedBlock, source.value);
         std::memcpy(block, &typedBlock, sizeof(typedBlock));
@@ -551,22 +552,22 @@ NetError cameraItem(OnvifSession &session, std::uint32_t item, int channel, void
 NetError setCameraItem(OnvifSession &session, std::uint32_t item, int channel, const void *block,
                        std::uint32_t size, Deadline deadline)
 {
-    const auto wanted = static_cast<CameraItem>(item);
-    if (wanted == CameraItem::ChannelName)
+    const auto requested = static_cast<CameraItem>(item);
+    if (requested == CameraItem::ChannelName)
         return writeName(session, channel, block, size, deadline);
-    if (wanted == CameraItem::Picture && block && size == sizeof(VideoColorRecord)) {
+    if (requested == CameraItem::Picture && block && size == sizeof(VideoColorRecord)) {
         VideoColorRecord record{};
         std::memcpy(&record, block, sizeof(record));
         return writeColors(session, channel, record, deadline);
     }
-    return withBlock(wanted, [&](auto typedBlock) {
+    return withBlock(requested, [&](auto typedBlock) {
         if (!block || size != sizeof(typedBlock))
             return NetError::InvalidValue;
         std::memcpy(&typedBlock, block, sizeof(typedBlock));
         const ServiceResult<Source> source = readSource(session, channel, deadline);
         if (!source.isOk())
             return source.error;
-        if (!has(source.value.options, wanted))
+        if (!has(source.value.options, requested))
             return NetError::NotSupported;
         const std::optional<ImagingSettings> settings = change(typedBlock, source.value);
         return settings ? writeSettings(session, source.value, *settings, deadline) : NetError::InvalidValue;

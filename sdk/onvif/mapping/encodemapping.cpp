@@ -175,10 +175,10 @@ NetError writeAudio(OnvifSession &session, const Stream &stream, int format, int
     const bool changesFormat = format != 0 && format != audioFormatOf(audio.encoding);
     if (changesFormat || (sampleRate > 0 && sampleRate != audio.sampleRate)) {
         const auto options = media->audioOptions(audio.token, stream.profile.token);
-        const int wanted = changesFormat ? format : audioFormatOf(audio.encoding);
+        const int requested = changesFormat ? format : audioFormatOf(audio.encoding);
         const auto found =
-            std::find_if(options.value.begin(), options.value.end(), [wanted](const auto &candidate) {
-                return audioFormatOf(candidate.encoding) == wanted;
+            std::find_if(options.value.begin(), options.value.end(), [requested](const auto &candidate) {
+                return audioFormatOf(candidate.encoding) == requested;
             });
         if (found == options.value.end())
             return options.isOk() ? NetError::InvalidValue : options.error;
@@ -319,8 +319,8 @@ NetError setEncodeConfiguration(OnvifSession &session, int channel, std::string_
     if (!unpackConfigText("Encode", text, &record, sizeof(record)))
         return NetError::InvalidValue;
     for (const StreamKind kind : servedKinds) {
-        const EncodeStreamRecord &wanted = record.streams[static_cast<std::size_t>(kind)];
-        if (wanted.videoEnabled == 0)
+        const EncodeStreamRecord &requested = record.streams[static_cast<std::size_t>(kind)];
+        if (requested.videoEnabled == 0)
             continue;
         ServiceResult<Stream> stream = readStream(session, channel, kind, Purpose::Change, deadline);
         if (!stream.isOk())
@@ -329,22 +329,22 @@ NetError setEncodeConfiguration(OnvifSession &session, int channel, std::string_
             return error;
         VideoFormatItem item{};
         fill(item, stream.value);
-        item.compression = wanted.compression;
-        item.width = wanted.width;
-        item.height = wanted.height;
-        item.bitRateControl = wanted.bitRateControl;
-        item.bitRate = wanted.bitRate;
-        item.frameRate = static_cast<float>(wanted.frameRate);
-        item.quality = wanted.quality;
+        item.compression = requested.compression;
+        item.width = requested.width;
+        item.height = requested.height;
+        item.bitRateControl = requested.bitRateControl;
+        item.bitRate = requested.bitRate;
+        item.frameRate = static_cast<float>(requested.frameRate);
+        item.quality = requested.quality;
         VideoEncoder video = *stream.value.profile.video;
         if (!take(item, stream.value, video))
             return NetError::InvalidValue;
-        if (wanted.profile != 0 && video.encoding == "H264")
-            video.profile = profileName(wanted.profile);
+        if (requested.profile != 0 && video.encoding == "H264")
+            video.profile = profileName(requested.profile);
         NetError error = writeVideo(session, video, deadline);
-        if (error == NetError::None && wanted.audioEnabled != 0 && stream.value.profile.audio)
-            error = writeAudio(session, stream.value, wanted.audioFormat,
-                               wanted.samplingFrequency / hertzOfKilohertz, deadline);
+        if (error == NetError::None && requested.audioEnabled != 0 && stream.value.profile.audio)
+            error = writeAudio(session, stream.value, requested.audioFormat,
+                               requested.samplingFrequency / hertzOfKilohertz, deadline);
         if (error != NetError::None)
             return error;
     }

@@ -80,11 +80,11 @@ bool RtspSession::open()
 const AVStream *RtspSession::track(AVMediaType type, std::initializer_list<AVCodecID> codecs) const
 {
     const std::span<AVStream *> tracks(m_format->streams, m_format->nb_streams);
-    const auto isWanted = [&](const AVStream *track) {
+    const auto isRequested = [&](const AVStream *track) {
         return track->codecpar->codec_type == type &&
                std::find(codecs.begin(), codecs.end(), track->codecpar->codec_id) != codecs.end();
     };
-    const auto found = std::find_if(tracks.begin(), tracks.end(), isWanted);
+    const auto found = std::find_if(tracks.begin(), tracks.end(), isRequested);
     return found == tracks.end() ? nullptr : *found;
 }
 
