@@ -38,7 +38,7 @@ CgiBatches::CgiBatches(CDeviceFactory &factory, Batches &batches, CgiSurrounding
         return paths->own(path);
     };
     m_workbooks = new CgiWorkbooks(m_factory, m_batches, m_surroundings, this);
-    m_surroundings.explainsFailures = true; // the file of a workbook keeps the bare results
+    m_surroundings.explainsFailures = true; // the file of a workbook contains only the library's text
 }
 
 Batch *CgiBatches::send(const QString &title, const QStringList &identities, const QString &command)

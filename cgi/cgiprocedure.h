@@ -23,8 +23,8 @@ struct CgiSurroundings
     /// second.
     std::function<QString(const QString &path)> ownPath = {};
 
-    /// Whether the reason of a failure is in the user's language first, with the words of the library and the
-    /// status of the response behind it. Otherwise the words of the library stand alone.
+    /// If true, the reason of a failure is in the user's language, followed by the library's text and the
+    /// status of the response. Otherwise it is only the library's text.
     bool explainsFailures = false;
 };
 

@@ -18,7 +18,7 @@ DeviceStep cgiStep(const CgiSurroundings &surroundings, const CgiCommand &comman
 {
     return [surroundings, command, sink](const StepControl &control) {
         const int login = surroundings.checkLogin(command.ipport, command.user, command.password);
-        if (!CgiProcedure::loginRefusal(login).isEmpty()) // the result says it all
+        if (!CgiProcedure::loginRefusal(login).isEmpty()) // the result needs no further text
             return StepOutcome{.result = login, .text = {}};
         if (control.shouldEnd())
             return StepOutcome{.result = resultCode(LoginResult::NotDone), .text = {}};

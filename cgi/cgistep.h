@@ -22,9 +22,8 @@ using AnswerSink = std::function<void(const QString &answer)>;
 
 /// The outcome has the result of a login or a certificate that prevents the command, without a text,
 /// otherwise Success or commandFailed. Its answer, or its text on failure, is the start of the result of
-/// CgiProcedure::run(). A stop ends the
-/// transfer immediately; before the command, the device is not done. `surroundings` is copied; its watch is
-/// not used.
+/// CgiProcedure::run(). A stop ends the transfer immediately; before the command, the device is not done.
+/// `surroundings` is copied; its watch is not used.
 [[nodiscard]] DeviceStep cgiStep(const CgiSurroundings &surroundings, const CgiCommand &command,
                                  const AnswerSink &sink = {});
 

@@ -20,12 +20,12 @@ struct HttpLimits
     std::chrono::seconds slowTime{0};   ///< longest time below `slowestRate`
 };
 
-/// Kinds of failures that the user can do something about in different ways.
+/// Kinds of failures that need different actions of the user.
 enum class HttpFailure
 {
     None,
     UnknownHost,
-    Refused,     ///< nothing listens at the port
+    Refused,     ///< the port is closed
     Unreachable, ///< no connection for another reason
     TimedOut,
     Tls,         ///< no encrypted connection
@@ -37,8 +37,8 @@ enum class HttpFailure
 /// How an exchange ended.
 struct HttpOutcome
 {
-    long status = 0;                ///< of the last response; 0 for none
-    QString failure;                ///< reason of the failure in the words of the library; empty on success
+    long status = 0; ///< of the last response; 0 for none
+    QString failure; ///< reason of the failure as text of the library; empty on success
     HttpFailure failureKind = HttpFailure::None;
     bool hasTooLongHeaders = false; ///< ended because of too long headers; also a failure
     bool isStopped = false;         ///< ended by the watch; also a failure
