@@ -25,7 +25,7 @@ namespace {
 
 namespace Colour {
 const QColor bar(0x17, 0x21, 0x30);
-const QColor ink(0x1b, 0x24, 0x30);
+const QColor textColor(0x1b, 0x24, 0x30);
 const QColor sub(0x5d, 0x6b, 0x7c);
 const QColor faint(0x8a, 0x97, 0xa6);
 const QColor line(0xd9, 0xdf, 0xe6);
@@ -67,13 +67,13 @@ void setBlockSpace(QTextBlockFormat &format, qreal above, qreal below, int lineH
 void setText(const QTextBlock &block, qreal size, QFont::Weight weight, const QColor &colour)
 {
     // The fragments are collected first: a change may merge a fragment with the next.
-    QList<std::pair<int, int>> pieces;
+    QList<std::pair<int, int>> ranges;
     QList<QTextCharFormat> formats;
     for (auto fragment = block.begin(); !fragment.atEnd(); ++fragment) {
-        pieces.append({fragment.fragment().position(), fragment.fragment().length()});
+        ranges.append({fragment.fragment().position(), fragment.fragment().length()});
         formats.append(fragment.fragment().charFormat());
     }
-    for (qsizetype index = 0; index < pieces.size(); ++index) {
+    for (qsizetype index = 0; index < ranges.size(); ++index) {
         const QTextCharFormat &old = formats.at(index);
         const bool isCode = old.fontFixedPitch();
         const bool isBold = old.fontWeight() > QFont::Normal;
@@ -86,8 +86,8 @@ void setText(const QTextBlock &block, qreal size, QFont::Weight weight, const QC
         if (isCode)
             format.setForeground(Colour::accent.darker(150));
         QTextCursor cursor(block);
-        cursor.setPosition(pieces.at(index).first);
-        cursor.setPosition(pieces.at(index).first + pieces.at(index).second, QTextCursor::KeepAnchor);
+        cursor.setPosition(ranges.at(index).first);
+        cursor.setPosition(ranges.at(index).first + ranges.at(index).second, QTextCursor::KeepAnchor);
         cursor.setCharFormat(format);
     }
 }
@@ -105,7 +105,7 @@ void styleHeading(const QTextBlock &block)
     QTextBlockFormat format = block.blockFormat();
     setBlockSpace(format, style.above, style.below, 120);
     QTextCursor(block).setBlockFormat(format);
-    setText(block, style.size, QFont::DemiBold, level == 1 ? Colour::bar : Colour::ink);
+    setText(block, style.size, QFont::DemiBold, level == 1 ? Colour::bar : Colour::textColor);
 }
 
 void styleTable(QTextTable *table, qreal width)
@@ -143,7 +143,7 @@ void styleTable(QTextTable *table, qreal width)
                 blockFormat.setAlignment(Qt::AlignLeft);
                 QTextCursor(block).setBlockFormat(blockFormat);
                 setText(block, 9.5 * pt, row == 0 ? QFont::DemiBold : QFont::Normal,
-                        row == 0 ? Colour::sub : Colour::ink);
+                        row == 0 ? Colour::sub : Colour::textColor);
             }
         }
     }
@@ -173,7 +173,7 @@ void styleBlock(const QTextBlock &block)
         setBlockSpace(format, 0, 7 * pt);
     }
     QTextCursor(block).setBlockFormat(format);
-    setText(block, textSize, QFont::Normal, Colour::ink);
+    setText(block, textSize, QFont::Normal, Colour::textColor);
 }
 
 /// The first paragraph below the title describes the document.
@@ -274,7 +274,7 @@ void drawPage(QPainter &painter, const QTextDocument &document, int page, const 
     painter.translate(marginSide, marginTop - page * body.height());
     QAbstractTextDocumentLayout::PaintContext context;
     context.clip = QRectF(0, page * body.height(), body.width(), body.height());
-    context.palette.setColor(QPalette::Text, Colour::ink);
+    context.palette.setColor(QPalette::Text, Colour::textColor);
     drawNotes(painter, document, page);
     painter.setClipRect(context.clip);
     document.documentLayout()->draw(&painter, context);

@@ -109,7 +109,7 @@ bool FileSheetEngine::mergeCells(const CellRange &range)
 bool FileSheetEngine::changeFormat(const CellRange &range, const FormatChange &change)
 {
     if (range.cellCount() > maximumChangedCells)
-        return fail(QStringLiteral("%1 are too many cells to format at once").arg(rangeText(range)));
+        return fail(QStringLiteral("%1 has too many cells for one format change").arg(rangeText(range)));
     if (!isNewRow(range))
         return needWorkbook() && ended(m_workbook->changeFormat(range, change));
     m_newWorkbook->changeFormat(range, change);

@@ -9,11 +9,11 @@ namespace {
 
 std::string_view trimmed(std::string_view text)
 {
-    constexpr std::string_view blanks = " \t\r";
-    const std::size_t begin = text.find_first_not_of(blanks);
+    constexpr std::string_view whitespace = " \t\r";
+    const std::size_t begin = text.find_first_not_of(whitespace);
     if (begin == std::string_view::npos)
         return {};
-    return text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
+    return text.substr(begin, text.find_last_not_of(whitespace) - begin + 1);
 }
 
 } // namespace

@@ -117,7 +117,7 @@ struct EntryPoint
     void *pointer; ///< address of the function pointer to set
 };
 
-// NOLINTBEGIN(bugprone-macro-parentheses): what is declared, and a list of parameters, take none.
+// NOLINTBEGIN(bugprone-macro-parentheses): declarations and parameter lists cannot have parentheses.
 #define SDK_ENTRY_POINTER(result, name, parameters) result(*name) parameters = nullptr;
 #define SDK_ENTRY_POINT(result, name, parameters) {#name, &name},
 // NOLINTEND(bugprone-macro-parentheses)

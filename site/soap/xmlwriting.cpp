@@ -30,8 +30,8 @@ void collectPrefixes(pugi::xml_node node, std::set<std::string> &prefixes)
     if (holdsNames(node)) {
         std::string_view text = node.text().get();
         for (std::size_t colon = text.find(':'); colon != std::string_view::npos; colon = text.find(':')) {
-            const std::size_t blank = text.substr(0, colon).rfind(' ');
-            const std::size_t begin = blank == std::string_view::npos ? 0 : blank + 1;
+            const std::size_t space = text.substr(0, colon).rfind(' ');
+            const std::size_t begin = space == std::string_view::npos ? 0 : space + 1;
             prefixes.insert(std::string(text.substr(begin, colon - begin)));
             text.remove_prefix(colon + 1);
         }

@@ -31,12 +31,12 @@ std::string lowered(std::string_view text)
 
 std::vector<std::string_view> words(std::string_view text)
 {
-    constexpr std::string_view blanks = " \t\r\n";
+    constexpr std::string_view whitespace = " \t\r\n";
     std::vector<std::string_view> found;
-    for (std::size_t begin = text.find_first_not_of(blanks); begin != std::string_view::npos;) {
-        const std::size_t end = std::min(text.find_first_of(blanks, begin), text.size());
+    for (std::size_t begin = text.find_first_not_of(whitespace); begin != std::string_view::npos;) {
+        const std::size_t end = std::min(text.find_first_of(whitespace, begin), text.size());
         found.push_back(text.substr(begin, end - begin));
-        begin = text.find_first_not_of(blanks, end);
+        begin = text.find_first_not_of(whitespace, end);
     }
     return found;
 }

@@ -17,13 +17,13 @@ constexpr int largestValue = 1'000'000;
 
 std::vector<std::string_view> words(std::string_view text)
 {
-    constexpr std::string_view blanks = " \t\r\n,";
+    constexpr std::string_view separators = " \t\r\n,";
     std::vector<std::string_view> found;
-    for (std::size_t begin = text.find_first_not_of(blanks);
+    for (std::size_t begin = text.find_first_not_of(separators);
          begin != std::string_view::npos && found.size() < maximumOptions;) {
-        const std::size_t end = std::min(text.find_first_of(blanks, begin), text.size());
+        const std::size_t end = std::min(text.find_first_of(separators, begin), text.size());
         found.push_back(text.substr(begin, end - begin));
-        begin = text.find_first_not_of(blanks, end);
+        begin = text.find_first_not_of(separators, end);
     }
     return found;
 }

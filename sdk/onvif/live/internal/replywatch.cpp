@@ -83,10 +83,10 @@ void ReplyWatch::readReplyLine(const char *line)
 void ReplyWatch::readStatus(const char *line)
 {
     const std::string_view text(line);
-    const std::size_t blank = text.find(' ');
-    m_status = blank == std::string_view::npos
+    const std::size_t space = text.find(' ');
+    m_status = space == std::string_view::npos
                    ? 0
-                   : static_cast<int>(std::strtol(text.substr(blank).data(), nullptr, decimal));
+                   : static_cast<int>(std::strtol(text.substr(space).data(), nullptr, decimal));
     m_headerLines = 0;
     m_offersPlainPassword = false;
     m_offersDigest = false;
