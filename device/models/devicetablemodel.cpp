@@ -135,10 +135,7 @@ void DeviceTableModel::setSearchText(const QString &searchText)
 
 void DeviceTableModel::setFailedMarks(FailedMarks *marks)
 {
-    if (!m_failedMarks.follow(marks, this, &DeviceTableModel::takeMarks))
-        return;
-    Q_EMIT failedMarksChanged();
-    takeMarks();
+    m_failedMarks.follow(marks, this, &DeviceTableModel::failedMarksChanged, &DeviceTableModel::takeMarks);
 }
 
 void DeviceTableModel::setNotes(DeviceNotes *notes)

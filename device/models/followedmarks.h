@@ -52,19 +52,20 @@ public:
         return lines.join(QLatin1Char('\n'));
     }
 
-    /// Sets the marks (may be null) and connects their changed() to `changed` of `model`; disconnects the
-    /// previous marks. Returns false, and does nothing, if they are the same.
+    /// Replaces the marks; null for none. Emits `replaced` of `model` and calls its function `read`, which is
+    /// also called at each later change of the marks. Does nothing if the marks are the same.
     template<typename Model>
-    bool follow(FailedMarks *marks, Model *model, void (Model::*changed)())
+    void follow(FailedMarks *marks, Model *model, void (Model::*replaced)(), void (Model::*read)())
     {
         if (m_marks == marks)
-            return false;
+            return;
         if (m_marks)
             m_marks->disconnect(model);
         m_marks = marks;
         if (m_marks)
-            QObject::connect(m_marks, &FailedMarks::changed, model, changed);
-        return true;
+            QObject::connect(m_marks, &FailedMarks::changed, model, read);
+        Q_EMIT(model->*replaced)();
+        (model->*read)();
     }
 
 private:

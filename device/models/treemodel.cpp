@@ -251,10 +251,7 @@ void OVTreeModel::setDeviceFactory(CDeviceFactory *deviceFactory)
 
 void OVTreeModel::setFailedMarks(FailedMarks *marks)
 {
-    if (!m_failedMarks.follow(marks, this, &OVTreeModel::takeMarks))
-        return;
-    Q_EMIT failedMarksChanged();
-    takeMarks();
+    m_failedMarks.follow(marks, this, &OVTreeModel::failedMarksChanged, &OVTreeModel::takeMarks);
 }
 
 void OVTreeModel::setShown(Shown shown)
