@@ -281,7 +281,8 @@ public:
         std::function<int(const QString &ipport, const QString &account, const QString &password)>;
     [[nodiscard]] LoginCheck loginCheck();
 
-    /// Sets the local ports of devices behind NAT. Called by the factory before any operation.
+    /// Sets the local ports of devices behind NAT. Called by the factory before any operation, and with null
+    /// at its end.
     void setP2PPorts(std::shared_ptr<P2PPorts> ports);
 
 Q_SIGNALS:

@@ -107,8 +107,11 @@ CDeviceFactory::CDeviceFactory(const BackEndCreators &creators) : CDeviceFactory
 
 CDeviceFactory::~CDeviceFactory()
 {
-    for (const std::shared_ptr<CDeviceBase> &backEnd : std::as_const(m_backEnds))
+    for (const std::shared_ptr<CDeviceBase> &backEnd : std::as_const(m_backEnds)) {
         backEnd->factoryEnds();
+        backEnd->setP2PPorts(
+            nullptr); // the port agent ends with the factory, also if a back end is kept longer
+    }
 }
 
 void CDeviceFactory::forwardSignals(const CDeviceBase &backEnd)
