@@ -77,9 +77,11 @@ public:
     [[nodiscard]] QVariantList ipv6Rows() const;
     [[nodiscard]] int ipv4Count() const; ///< without lost rows
 
-    /// The IPv4 row of a name, or the first row with an address and port that is not lost, otherwise the
-    /// first lost one. Empty if there is none.
+    /// The IPv4 row of a name; empty if there is none.
     [[nodiscard]] QJsonObject row(const QString &mac) const;
+
+    /// The first IPv4 row with an address and port that is not lost, otherwise the first lost one. Empty if
+    /// there is none.
     [[nodiscard]] QJsonObject rowAt(const QString &ipport) const;
 
     /// The names of the rows with an address and port, of both lists.
