@@ -125,7 +125,7 @@ private Q_SLOTS:
         QFETCH(const QByteArray, contents);
         QVERIFY(writeFile(path(), contents));
         QVERIFY(writeFile(path() + ".damaged", "earlier"));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("holds something else than notes"));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("contains invalid notes"));
         DeviceNotes notes(path());
         QVERIFY(notes.problem().contains("notes.json"));
         QTEST(notes.noteOf(device("m1")), "first");

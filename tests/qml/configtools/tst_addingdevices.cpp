@@ -1,4 +1,5 @@
 #include "device/batch/addingbatches.h"
+#include "device/models/favouritelistmodel.h"
 #include "device/registry/devicefactory.h"
 #include "favourites/author.h"
 #include "tests/datatable.h"
@@ -242,14 +243,14 @@ private Q_SLOTS:
             author.saveTextAsJson(favouritesFolder(), "1", id, "8800", "admin", author.AesEncrypt(password),
                                   "");
         QMetaObject::invokeMethod(m_adding, "openFavourites");
-        auto *model = item("favouriteTable")->property("model").value<QAbstractItemModel *>();
+        auto *model = item("favouriteTable")->property("model").value<FavouriteListModel *>();
         const auto words = [model] {
             QStringList texts;
             for (int row = 0; row < model->rowCount(); ++row)
-                texts.append(model->data(model->index(row, 0), model->roleNames().key("words")).toString());
+                texts.append(model->get(row).value("words").toString());
             return texts;
         };
-        QMetaObject::invokeMethod(model, "setAllChecked", Q_ARG(bool, true));
+        model->setAllChecked(true);
         QObject *window = m_window->findChild<QObject *>("favouritesWindow");
         QMetaObject::invokeMethod(window, "accept");
         QCOMPARE(m_devices->asked, QStringList({"OV1 wrong", "OV2 p", "OV3 p"}));
