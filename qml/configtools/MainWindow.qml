@@ -30,7 +30,7 @@ T.ApplicationWindow {
     property int currentTab: 0
     property string chosenLanguage: localConfig.getLanguage()
     /// Area of toasts: next to the tabs, between the buttons of the title bar and those of the tool bars.
-    readonly property rect noticeBand: {
+    readonly property rect toastArea: {
         const left = tabBar.tabsWidth + Theme.pageMargin;
         const top = (Theme.titleBarHeight + Theme.controlHeight) / 2 + 2;
         const bottom = titleBar.height + tabBar.height + (Theme.toolBarHeight - Theme.controlHeight) / 2 - 2;
@@ -295,7 +295,7 @@ T.ApplicationWindow {
         languages: languageList.entries
         localConfig: window.localConfig
         logoName: window.title
-        noticeBand: window.noticeBand
+        toastArea: window.toastArea
         searchReports: window.searchReports
         searching: window.searching
         softwareName: window.localConfig.getSoftwareName()

@@ -80,8 +80,8 @@ QtObject {
     readonly property int toolTipWidth: 360
     // From a button of a tool bar to below the table head under it.
     readonly property int toolTipDrop: (toolBarHeight - controlHeight) / 2 + tableHeadHeight
-    readonly property int answerWindowWidth: 760
-    readonly property int answerTipWidth: 560  // for a device's response, which has longer lines
+    readonly property int responseWindowWidth: 760
+    readonly property int responseTipWidth: 560  // for a device's response, which has longer lines
 
     // Pages with a device tree on the left and panels on the right.
     readonly property int treePaneWidth: 344
@@ -153,7 +153,7 @@ QtObject {
     readonly property int columnAccount: 96
     readonly property int columnTime: 76
     readonly property int columnOutcome: 236
-    readonly property int columnAnswer: 240
+    readonly property int columnResponse: 240
     readonly property int columnCommand: 320
     readonly property int columnFile: 132
     readonly property int columnProgress: 172

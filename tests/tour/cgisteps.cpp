@@ -40,13 +40,13 @@ QString send(const Driver &driver, const QString &command)
 /// Reports the window of a response, if it is open, and closes it.
 void readResponseWindow(Driver &driver, const QString &step)
 {
-    const QQuickItem *lines = driver.find(u"cgiAnswerLines"_s);
+    const QQuickItem *lines = driver.find(u"cgiResponseLines"_s);
     if (!lines)
         return;
     driver.report(step, u"%1 lines"_s.arg(lines->property("count").toInt()));
     driver.key(Qt::Key_Escape);
     driver.await(u"the window of the response is closed"_s,
-                 [&] { return !driver.find(u"cgiAnswerLines"_s); });
+                 [&] { return !driver.find(u"cgiResponseLines"_s); });
 }
 
 void walkOneDevice(Driver &driver)
@@ -55,15 +55,15 @@ void walkOneDevice(Driver &driver)
     driver.await(u"only one device is shown"_s, [&] { return Rows(driver, u"cgiTable"_s).count() == 1; });
     const QString all = send(driver, u"/cgi-bin/device?get=all"_s);
     driver.check(all.contains(u"version="_s), u"the device reports its version"_s);
-    driver.hover(u"cgiAnswer0"_s);
+    driver.hover(u"cgiResponse0"_s);
     driver.await(u"the complete response is shown"_s, [&] { return driver.find(u"toolTip"_s) != nullptr; });
     driver.report(u"cgi-answer"_s, driver.text(u"toolTip"_s).section(u'\n', 0, 2).replace(u'\n', u' '));
-    driver.rightClick(u"cgiAnswer0"_s);
+    driver.rightClick(u"cgiResponse0"_s);
     expectToast(driver, translated("PageCGIConfig", "复制成功"));
     driver.check(QGuiApplication::clipboard()->text() == all, u"the response is on the clipboard"_s);
 
-    driver.click(u"cgiAnswerOpen0"_s);
-    driver.require(u"cgiAnswerLines"_s);
+    driver.click(u"cgiResponseOpen0"_s);
+    driver.require(u"cgiResponseLines"_s);
     readResponseWindow(driver, u"cgi-answer-window"_s);
 
     const QString refused = send(driver, u"/cgi-bin/nonsense"_s);
@@ -82,7 +82,7 @@ void walkOneDevice(Driver &driver)
     QFile::remove(recording);
 
     driver.fill(u"cgiCommand0"_s, u"/cgi-bin/dev"_s);
-    driver.require(u"cgiOffer0"_s);
+    driver.require(u"cgiSuggestion0"_s);
     driver.report(u"cgi-offers"_s, u"commands sent before"_s);
     driver.key(Qt::Key_Down);
     driver.key(Qt::Key_Return);

@@ -249,7 +249,7 @@ void walkDiscarding(Driver &driver)
     driver.click(u"configTab1"_s);
     driver.require(u"messageText"_s);
     driver.click(u"okButton"_s);
-    driver.require(u"channelPicture"_s);
+    driver.require(u"channelLiveView"_s);
     awaitConfigIdle(driver);
     driver.click(u"configTab0"_s);
     driver.require(u"encodeSaveButton"_s);

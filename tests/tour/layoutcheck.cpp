@@ -111,7 +111,7 @@ bool hasCompleteToolTip(const QQuickItem *text)
     constexpr int reach = 4; // number of enclosing items
     const QQuickItem *around = text->parentItem();
     for (int step = 0; step < reach && around; ++step, around = around->parentItem()) {
-        const QVariant own = around->property("showsWholeOnHover");
+        const QVariant own = around->property("showsFullTextOnHover");
         if (own.toBool() || hasToolTipWith(around, words, own.isValid() ? 1 : 0))
             return true;
     }

@@ -8,7 +8,7 @@ OVTextField {
     readonly property bool acceptable: AddressTools.isLegalAddress(text)
     readonly property bool wrong: !AddressTools.mayBecomeAddress(text)  // and not only incomplete
 
-    unwanted: /\s/g
+    removedCharacters: /\s/g
     textFont: Theme.figureFont
     validator: RegularExpressionValidator { regularExpression: /\s*[0-9.]{0,15}\s*/ }
 }

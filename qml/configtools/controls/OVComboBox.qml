@@ -63,7 +63,7 @@ T.ComboBox {
         contentItem: OVLabel {
             color: entry.chosen ? Theme.colours.accent : Theme.colours.text
             font: entry.chosen ? Theme.buttonFont : root.font
-            showsWholeOnHover: false
+            showsFullTextOnHover: false
             text: entry.text
         }
         background: Rectangle {

@@ -18,7 +18,7 @@ T.Popup {
     property bool busy: false  // the accepted work runs: the primary button shows it, and input is disabled
     property bool cancellable: false  // the dialog can be cancelled while it is busy
     property string notice  // about the content of the dialog, above the buttons
-    property int noticeKind: OVToast.Error
+    property int noticeSeverity: OVToast.Error
     property alias footContent: footSlot.data  // left of the buttons
     readonly property alias buttonsWidth: buttons.width
     property int wantedWidth: Theme.dialogWidth
@@ -71,8 +71,8 @@ T.Popup {
             inform(message, OVToast.Error);
     }
 
-    function inform(message, kind) {
-        noticeKind = kind;
+    function inform(message, severity) {
+        noticeSeverity = severity;
         notice = message;
     }
 
@@ -128,13 +128,13 @@ T.Popup {
             OVLabel {
                 anchors.left: parent.left
                 anchors.leftMargin: Theme.pageMargin
-                anchors.right: shut.left
+                anchors.right: closeButton.left
                 height: parent.height
                 font: Theme.titleFont
                 text: root.title
             }
             OVIconButton {
-                id: shut
+                id: closeButton
                 anchors.right: parent.right
                 anchors.rightMargin: Theme.unit
                 anchors.verticalCenter: parent.verticalCenter
@@ -206,10 +206,10 @@ T.Popup {
             OVNotice {
                 id: words
                 width: parent.width
-                iconColor: root.noticeKind === OVToast.Error ? Theme.colours.bad
-                    : root.noticeKind === OVToast.Success ? Theme.colours.ok : Theme.colours.accent
-                iconName: root.noticeKind === OVToast.Error ? "error"
-                    : root.noticeKind === OVToast.Success ? "ok" : "about"
+                iconColor: root.noticeSeverity === OVToast.Error ? Theme.colours.bad
+                    : root.noticeSeverity === OVToast.Success ? Theme.colours.ok : Theme.colours.accent
+                iconName: root.noticeSeverity === OVToast.Error ? "error"
+                    : root.noticeSeverity === OVToast.Success ? "ok" : "about"
                 text: root.notice
                 wordsName: "dialogNotice"
             }

@@ -1,5 +1,5 @@
-// A menu with entries set on opening: objects with "key", "text" and optionally "enabled", "begins" (a line above the
-// entry) and "checked" (a check box with this state).
+// A menu with entries set on opening: objects with "key", "text" and optionally "enabled", "startsGroup" (a line above
+// the entry) and "checked" (a check box with this state).
 import QtQuick
 import QtQml
 import configtools
@@ -11,7 +11,7 @@ OVMenu {
     signal chosen(string key)
 
     /// `position` has "item", "x", "y" and "byKey". If opened by a key, the first enabled entry is current.
-    function offer(entries, position) {
+    function openAt(entries, position) {
         root.entries = entries;
         popup(position.item, position.x, position.y);
         if (position.byKey)
@@ -25,7 +25,7 @@ OVMenu {
         OVMenuItem {
             required property var modelData
 
-            begins: modelData.begins ?? false
+            startsGroup: modelData.startsGroup ?? false
             checked: modelData.checked ?? false
             enabled: modelData.enabled ?? true
             objectName: modelData.key + "Item"

@@ -23,7 +23,7 @@ Item {
     readonly property bool showsBatch: batch?.running ?? false
     readonly property bool showsSearch: !running && !showsBatch && (search?.running ?? false)
     readonly property bool paused: showsBatch && batch.held
-    property Batch again: null  // batch to stop and retry with another account, null for none
+    property Batch batchToRetry: null  // batch to stop and retry with another account, null for none
     readonly property bool ended: batch !== null && !batch.running
     readonly property bool incomplete: ended && batch.report.failed + batch.report.notDone + batch.failedBefore > 0
     readonly property string outcome: ended && batch.report.summary !== ""
@@ -217,11 +217,11 @@ Item {
     }
 
     Connections {
-        target: root.again
+        target: root.batchToRetry
 
         function onFinished() {
-            const ended = root.again;
-            root.again = null;
+            const ended = root.batchToRetry;
+            root.batchToRetry = null;
             Qt.callLater(() => root.batches.retry(ended));  // after the pages have handled its end
         }
     }
@@ -234,7 +234,7 @@ Item {
             onChosen: {
                 if (!root.paused)
                     return;
-                root.again = root.batch;
+                root.batchToRetry = root.batch;
                 root.batch.stop();
             }
             onNotify: (message, severity) => root.notify(message, severity)

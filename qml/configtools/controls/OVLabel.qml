@@ -11,7 +11,7 @@ Item {
     property alias font: label.font
     property alias horizontalAlignment: label.horizontalAlignment
     property alias elide: label.elide
-    property bool showsWholeOnHover: true
+    property bool showsFullTextOnHover: true
     readonly property alias truncated: label.truncated
 
     implicitWidth: Math.ceil(label.implicitWidth)
@@ -36,7 +36,7 @@ Item {
 
     HoverHandler {
         id: pointer
-        enabled: root.showsWholeOnHover && label.truncated
+        enabled: root.showsFullTextOnHover && label.truncated
     }
 
     OVToolTip {

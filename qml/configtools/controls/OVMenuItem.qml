@@ -9,7 +9,7 @@ T.MenuItem {
     property string iconName
     property bool marksChoice: false
     property bool ticks: false  // the entry has a check mark or room for one
-    property bool begins: false  // first of a group: a line is drawn above it
+    property bool startsGroup: false  // first of a group: a line is drawn above it
 
     implicitWidth: Math.max(180, label.implicitWidth + leftPadding + rightPadding)
     implicitHeight: Theme.rowHeight
@@ -25,7 +25,7 @@ T.MenuItem {
         color: !root.enabled ? Theme.colours.disabledText
             : root.marksChoice ? Theme.colours.accent : Theme.colours.text
         font: root.marksChoice ? Theme.buttonFont : Theme.bodyFont
-        showsWholeOnHover: false
+        showsFullTextOnHover: false
         text: root.text
     }
 
@@ -59,7 +59,7 @@ T.MenuItem {
             width: root.width
             height: Theme.line
             color: Theme.colours.line
-            visible: root.begins
+            visible: root.startsGroup
         }
     }
 }

@@ -11,7 +11,7 @@ OVTextField {
 
     errorText: acceptable ? "" : invalidText
     textFont: Theme.figureFont
-    unwanted: /\s/g
+    removedCharacters: /\s/g
     validator: RegularExpressionValidator { regularExpression: /\s*\d{0,9}\s*/ }
     onTextChanged: if (Number(text) > largest) text = largest
 }

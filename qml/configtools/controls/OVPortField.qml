@@ -8,6 +8,6 @@ OVTextField {
     readonly property bool acceptable: Number(text) >= 1 && Number(text) <= 65535
 
     textFont: Theme.figureFont
-    unwanted: /\s/g
+    removedCharacters: /\s/g
     validator: RegularExpressionValidator { regularExpression: /\s*[0-9]{0,5}\s*/ }
 }

@@ -23,7 +23,7 @@ T.ProgressBar {
         clip: true
 
         Rectangle {
-            id: piece
+            id: segment
             property real way
 
             x: root.indeterminate ? way * (parent.width + width) - width : 0

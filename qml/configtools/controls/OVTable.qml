@@ -32,7 +32,7 @@ FocusScope {
     signal rangeToggled(int first, int last, bool checked)
     signal copyRequested(int row)
     signal rowActivated(int row)
-    signal menuRequested(int row, var position)  // see OVEntryMenu.offer()
+    signal menuRequested(int row, var position)  // see OVEntryMenu.openAt()
 
     /// Makes a row current and scrolls to it.
     function show(row) {
@@ -86,17 +86,17 @@ FocusScope {
         setWidth(column, Math.min(Theme.columnMost, Math.max(head.fittingWidth(column), body.fittingWidth(column))));
     }
 
-    function offerColumns(column, position) {
+    function openColumnMenu(column, position) {
         const entries = columns.filter(column => !(column.fixed ?? false)).map(column => ({
             key: column.key, text: column.title, checked: arrangement.isShown(column.key),
             enabled: !arrangement.isShown(column.key) || arrangement.canHide(column.key)
         }));
-        entries.push({key: "fitColumn", begins: true, text: qsTr("列宽适合内容"), enabled: column >= 0},
+        entries.push({key: "fitColumn", startsGroup: true, text: qsTr("列宽适合内容"), enabled: column >= 0},
                      {key: "resetColumns", text: qsTr("恢复默认列"), enabled: arrangement.text !== ""});
         const menu = columnMenu.instance();
         menu.column = column;
         menu.byKey = position.byKey;
-        menu.offer(entries, position);
+        menu.openAt(entries, position);
     }
 
     function takeFromMenu(key, menu) {
@@ -163,7 +163,7 @@ FocusScope {
         onColumnReached: column => body.showAcross(head.leftOf(column) + body.contentX, root.columnWidths[column])
         onColumnMoved: (key, index) => arrangement.move(key, index)
         onFitRequested: column => root.fit(column)
-        onMenuRequested: (column, position) => root.offerColumns(column, position)
+        onMenuRequested: (column, position) => root.openColumnMenu(column, position)
         onSortRequested: key => root.sortRequested(key)
         onWidthChosen: (column, width) => root.setWidth(column, width)
     }

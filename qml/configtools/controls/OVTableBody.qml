@@ -59,7 +59,7 @@ ListView {
         move(row, extend);
     }
 
-    function offerMenuByKey() {
+    function openMenuByKey() {
         if (currentIndex < 0)
             move(0, false);
         positionViewAtIndex(currentIndex, ListView.Contain);
@@ -174,7 +174,7 @@ ListView {
         if (targets[event.key] !== undefined)
             move(targets[event.key], extend);
         else if (typeAhead.isMenuKey(event) && count > 0)
-            offerMenuByKey();
+            openMenuByKey();
         else if (own && typeAhead.take(event))
             return;
         else if (event.key === Qt.Key_Space && checkable && currentIndex >= 0)

@@ -24,9 +24,9 @@ Rectangle {
     signal fitRequested(int column)
     signal columnReached(int column)  // got the keyboard focus
     signal columnMoved(string key, int index)
-    signal menuRequested(int column, var position)  // see OVEntryMenu.offer(); column is -1 next to the columns
+    signal menuRequested(int column, var position)  // see OVEntryMenu.openAt(); column is -1 next to the columns
 
-    property int carried: -1  // index of the dragged column, -1 for none
+    property int draggedColumn: -1  // index of the dragged column, -1 for none
     property int dropIndex: -1  // index before which it would be dropped, -1 for none
 
     /// Left edge of the column in the head.
@@ -46,9 +46,9 @@ Rectangle {
     }
 
     function drop() {
-        const column = carried;
+        const column = draggedColumn;
         const index = dropIndex;
-        carried = dropIndex = -1;
+        draggedColumn = dropIndex = -1;
         if (column >= 0 && index >= 0)
             columnMoved(columns[column].key, index > column ? index - 1 : index);
     }
@@ -76,7 +76,7 @@ Rectangle {
         focusColumn(columns.findIndex(other => other.key === key));
     }
 
-    onColumnsChanged: carried = dropIndex = -1
+    onColumnsChanged: draggedColumn = dropIndex = -1
 
     Keys.onPressed: event => {
         const column = focusedColumn();
@@ -163,7 +163,7 @@ Rectangle {
                 height: root.height
                 focusPolicy: sortable || root.arrangeable ? Qt.TabFocus : Qt.NoFocus
                 objectName: "head_" + modelData.key
-                opacity: root.carried === index ? 0.5 : 1
+                opacity: root.draggedColumn === index ? 0.5 : 1
                 text: modelData.title
                 onActiveFocusChanged: if (activeFocus) root.columnReached(index)
 
@@ -172,13 +172,13 @@ Rectangle {
                 onClicked: if (sortable) root.sortRequested(modelData.key)
 
                 DragHandler {
-                    id: carrying
+                    id: dragHandler
                     enabled: root.arrangeable && !(head.modelData.fixed ?? false)
                     target: null
                     yAxis.enabled: false
                     onActiveChanged: {
                         if (active)
-                            root.carried = head.index;
+                            root.draggedColumn = head.index;
                         else
                             Qt.callLater(root.drop);  // the heads are created again
                     }

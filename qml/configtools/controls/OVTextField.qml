@@ -20,7 +20,7 @@ FocusScope {
     property bool clearable: false
     property bool secret: false
     /// Removed from pasted text: line breaks would be invisible in a single line.
-    property var unwanted: /[\r\n\t]/g
+    property var removedCharacters: /[\r\n\t]/g
     /// function(event) that receives each key before the field and accepts those that it handles
     property var keyFilter: null
     signal edited
@@ -68,8 +68,8 @@ FocusScope {
         onTextChanged: clean()
 
         function clean() {
-            if (text.search(root.unwanted) >= 0)
-                text = text.replace(root.unwanted, "");
+            if (text.search(root.removedCharacters) >= 0)
+                text = text.replace(root.removedCharacters, "");
         }
 
         Keys.priority: Keys.BeforeItem
@@ -121,7 +121,7 @@ FocusScope {
             width: field.width - field.leftPadding - field.rightPadding
             height: field.height
             color: Theme.colours.faint
-            showsWholeOnHover: false
+            showsFullTextOnHover: false
             text: field.placeholderText
             visible: field.length === 0 && field.preeditText === ""
 

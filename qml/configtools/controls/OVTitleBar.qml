@@ -77,7 +77,7 @@ Rectangle {
         color: Theme.colours.barSub
         font: Theme.hintFont
         objectName: "titleRemark"
-        showsWholeOnHover: false
+        showsFullTextOnHover: false
         text: root.remark
 
         HoverHandler {

@@ -14,8 +14,8 @@ T.Popup {
     readonly property int maximumCount: 3
 
     /// Area of the messages, in window coordinates: they are centred in it and not wider. A higher message extends below it.
-    property rect band: Qt.rect(((parent?.width ?? 0) - Theme.toastWidth) / 2, Theme.half, Theme.toastWidth, 0)
-    readonly property real mostWidth: Math.min(Theme.toastMost, Math.max(band.width, Theme.toastLeast))
+    property rect area: Qt.rect(((parent?.width ?? 0) - Theme.toastWidth) / 2, Theme.half, Theme.toastWidth, 0)
+    readonly property real mostWidth: Math.min(Theme.toastMost, Math.max(area.width, Theme.toastLeast))
     readonly property Item newest: toasts.newest(toasts.revision)
 
     /// `duration` in ms; the default depends on the severity.
@@ -45,8 +45,8 @@ T.Popup {
     }
 
     parent: T.Overlay.overlay
-    x: Math.round(Math.min(band.x + (band.width - width) / 2, (parent?.width ?? 0) - width - Theme.half))
-    y: Math.round(band.y + Math.max(0, (band.height - height) / 2))
+    x: Math.round(Math.min(area.x + (area.width - width) / 2, (parent?.width ?? 0) - width - Theme.half))
+    y: Math.round(area.y + Math.max(0, (area.height - height) / 2))
     z: 1
     closePolicy: T.Popup.NoAutoClose
     focus: false

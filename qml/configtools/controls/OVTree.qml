@@ -20,7 +20,7 @@ ListView {
     property string cursorIdentity
     signal deviceChosen(string ipport)
     signal detailRequested(string name)  // name of the device's row
-    signal menuRequested(string name, var position)  // see OVEntryMenu.offer()
+    signal menuRequested(string name, var position)  // see OVEntryMenu.openAt()
 
     function moveCursor(row) {
         cursor = row;
@@ -43,7 +43,7 @@ ListView {
     }
 
     /// Opens the menu of the current device. A group has none.
-    function offerMenu(position) {
+    function openMenu(position) {
         const name = rows.nameAt(cursor);
         if (name !== "")
             menuRequested(name, position);
@@ -100,7 +100,7 @@ ListView {
             moveIntoView(Math.max(0, Math.min(count - 1, targets[event.key])));
         } else if (typeAhead.isMenuKey(event)) {
             const y = (cursor + 1) * Theme.controlHeight - contentY;
-            offerMenu({item: root, x: 2 * Theme.treeIndent, y: y, byKey: true});
+            openMenu({item: root, x: 2 * Theme.treeIndent, y: y, byKey: true});
         } else if (typeAhead.take(event)) {
             return;
         } else if (event.key === Qt.Key_Space && cursor >= 0) {
@@ -129,7 +129,7 @@ ListView {
         describer: root.describer
         onMenuRequested: (identity, x, y) => {
             root.selectRow(identity);
-            root.offerMenu({item: root, x: x, y: y - root.contentY, byKey: false});
+            root.openMenu({item: root, x: x, y: y - root.contentY, byKey: false});
         }
         onOpenToggled: identity => root.rows.toggleOpen(root.selectRow(identity))
         onClicked: identity => {

@@ -32,7 +32,7 @@ Item {
     readonly property int responseValidity: 1000
     signal renewed                   // a new session was opened
     signal checked(bool isReachable)    // result of check()
-    signal pictureTaken(int channel, string picture, string message)  // result of takePicture()
+    signal snapshotTaken(int channel, string picture, string message)  // result of takePicture()
 
     function account() {
         return LoginMemory.accountFor(ipport, deviceFactory);
@@ -58,7 +58,7 @@ Item {
             ask();
     }
 
-    function noteAlive() {
+    function noteResponse() {
         lastResponse = Date.now();
     }
 
@@ -80,13 +80,13 @@ Item {
     }
 
     /// Saves a snapshot to this subfolder of the snapshots folder.
-    function takePicture(channel, folder) {
+    function takeSnapshot(channel, folder) {
         session.takePicture(channel, folder);
     }
 
     function take(channels) {
         backoff.reset();
-        noteAlive();
+        noteResponse();
         if (channels.length > 0)
             root.channels = channels;
         loggedIn = true;
@@ -116,7 +116,7 @@ Item {
         property double before: 0
 
         deviceFactory: root.deviceFactory
-        onPictureTaken: (channel, path, message) => root.pictureTaken(channel, path, message)
+        onPictureTaken: (channel, path, message) => root.snapshotTaken(channel, path, message)
         onEnded: (result, channels) => {
             root.checking = false;
             root.result = result;

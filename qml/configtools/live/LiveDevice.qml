@@ -72,7 +72,7 @@ Item {
     }
 
     /// Called when a frame was received.
-    function noteAlive() {
+    function noteResponse() {
         lastResponse = Date.now();
     }
 
@@ -109,7 +109,7 @@ Item {
 
     function take(channels) {
         backoff.reset();
-        noteAlive();
+        noteResponse();
         if (channels.length > 0)
             root.channels = channels;
         if (loggedIn) {

@@ -25,7 +25,7 @@ Item {
     property int page: 0
     signal checkRequested   // before a stream of the first device starts; answered by takeCheckResult()
     signal failed  // a stream of the first device failed
-    signal pictureCame
+    signal frameReceived
 
     /// Sets the channels: maps with "ipport", "channel", "name", "connected" and "companion" (null for the first
     /// device). The cells keep their channels.
@@ -161,9 +161,9 @@ Item {
             onFailed: companion ? companion.expireResponse() : root.failed()
             onPlayingChanged: {
                 if (playing && companion)
-                    companion.noteAlive();
+                    companion.noteResponse();
                 else if (playing)
-                    root.pictureCame();
+                    root.frameReceived();
             }
             onSessionActivated: companion.tryAgain()
         }

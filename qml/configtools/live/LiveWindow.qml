@@ -31,7 +31,7 @@ T.ApplicationWindow {
         if (visible && device.ipport === ipport && (device.loggedIn || device.busy)) {
             if (channel >= 0 && channel < device.channels.length)
                 grid.showChannel(channel);
-            findWay();
+            findNeighbours();
             requestActivate();
             return;
         }
@@ -45,17 +45,17 @@ T.ApplicationWindow {
         raise();
         requestActivate();
         device.open(ipport);
-        findWay();
+        findNeighbours();
     }
 
-    function findWay() {
+    function findNeighbours() {
         earlier = visible ? order.neighbour(device.ipport, -1) : "";
         later = visible ? order.neighbour(device.ipport, 1) : "";
     }
 
     /// Opens the previous device (-1) or the next one (1).
     function go(direction) {
-        findWay();  // the list may have changed
+        findNeighbours();  // the list may have changed
         const next = direction < 0 ? earlier : later;
         if (next !== "")
             openDevice(next, -1);
@@ -164,7 +164,7 @@ T.ApplicationWindow {
     LiveOrder {
         id: order
         deviceFactory: window.deviceFactory
-        onCountChanged: window.findWay()
+        onCountChanged: window.findNeighbours()
     }
     WatchedDevices {
         id: watched
@@ -254,7 +254,7 @@ T.ApplicationWindow {
         visible: device.loggedIn && device.channels.length > 0
         onCheckRequested: device.check()
         onFailed: device.expireResponse()
-        onPictureCame: device.noteAlive()
+        onFrameReceived: device.noteResponse()
     }
     LiveToolBar {
         id: toolBar
@@ -306,7 +306,7 @@ T.ApplicationWindow {
         id: toasts
         visible: false
         sourceComponent: OVToast {
-            band: Qt.rect((window.width - Theme.toastWidth) / 2, titleBar.height + Theme.unit, Theme.toastWidth, 0)
+            area: Qt.rect((window.width - Theme.toastWidth) / 2, titleBar.height + Theme.unit, Theme.toastWidth, 0)
             objectName: "liveToasts"
         }
     }

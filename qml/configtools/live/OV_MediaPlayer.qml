@@ -38,10 +38,10 @@ FocusScope {
     readonly property int zoomLevels: 20
     readonly property real zoomStep: 1.2  // factor between two levels
     // Scale of the shown frame; the bars are the unused rest of the view.
-    readonly property real pictureScale: !playing || stretched ? 0
+    readonly property real frameScale: !playing || stretched ? 0
         : Math.min(width / video.pictureSize.width, height / video.pictureSize.height) * Math.pow(zoomStep, video.zoomLevel)
-    readonly property int sideBar: pictureScale > 0 ? Math.max(0, (width - video.pictureSize.width * pictureScale) / 2) : 0
-    readonly property int topBar: pictureScale > 0 ? Math.max(0, (height - video.pictureSize.height * pictureScale) / 2) : 0
+    readonly property int sideBar: frameScale > 0 ? Math.max(0, (width - video.pictureSize.width * frameScale) / 2) : 0
+    readonly property int topBar: frameScale > 0 ? Math.max(0, (height - video.pictureSize.height * frameScale) / 2) : 0
 
     function begin() {
         backoff.stop();

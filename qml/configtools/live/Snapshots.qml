@@ -68,7 +68,7 @@ Item {
         change(entry.channel, {state: Snapshots.Taking, message: ""});
         running += 1;
         if (companion)
-            companion.takePicture(entry.channel, folder);
+            companion.takeSnapshot(entry.channel, folder);
         else
             deviceFactory.snapPictureToFile("dh", "againCapture", entry.channel, folder);
     }
@@ -109,7 +109,7 @@ Item {
     Connections {
         target: root.companion
 
-        function onPictureTaken(channel, picture, message) {
+        function onSnapshotTaken(channel, picture, message) {
             root.note(channel, picture, message);
         }
     }

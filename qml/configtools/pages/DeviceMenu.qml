@@ -15,33 +15,33 @@ Item {
     signal similarRequested(string key, var values)  // tick the devices with the same value of `key`
 
     /// `own` are entries of the page, see OVEntryMenu.
-    function offer(position, values, own) {
+    function openAt(position, values, own) {
         root.values = values;
-        menu.instance().offer(own.concat(commonEntries(own.length > 0)), position);
+        menu.instance().openAt(own.concat(commonEntries(own.length > 0)), position);
     }
 
-    function commonEntries(begins) {
+    function commonEntries(startsGroup) {
         const address = actions.addressOf(values);
         const isInitialised = values.state ?? true;
         const isP2p = (values.loginType ?? "") === "P2P";
         const similar = !ticks ? [] : [
-            {key: "similarType", begins: true, text: qsTr("只勾选同类型设备（%1）").arg(values.type),
+            {key: "similarType", startsGroup: true, text: qsTr("只勾选同类型设备（%1）").arg(values.type),
                 enabled: (values.type ?? "") !== ""},
             {key: "similarModel", text: qsTr("只勾选同型号设备（%1）").arg(values.model),
                 enabled: (values.model ?? "") !== ""}
         ];
         return [
-            {key: "detail", begins: begins, text: qsTr("详情")},
+            {key: "detail", startsGroup: startsGroup, text: qsTr("详情")},
             {key: "web", text: qsTr("打开设备网页"), enabled: address !== ""},
             {key: "live", text: qsTr("查看实时画面"), enabled: isInitialised && address !== ""},
-            {key: "copyAddress", begins: true, text: qsTr("复制地址"), enabled: address !== ""},
+            {key: "copyAddress", startsGroup: true, text: qsTr("复制地址"), enabled: address !== ""},
             {key: "copyMac", text: qsTr("复制MAC"), enabled: (values.mac ?? "") !== ""},
             {key: "copyRow", text: qsTr("复制整行")},
-            {key: "favourite", begins: true, text: qsTr("添加到收藏夹"),
+            {key: "favourite", startsGroup: true, text: qsTr("添加到收藏夹"),
                 enabled: !actions.ipv6 && isInitialised && !isP2p && address !== ""},
             {key: "note", text: qsTr("备注…"), enabled: actions.canNote(values)}
         ].concat(accountEntries(isInitialised && address !== ""), similar, [
-            {key: "retry", begins: true, text: qsTr("重试"),
+            {key: "retry", startsGroup: true, text: qsTr("重试"),
                 enabled: !batches.running && (batches.current?.canRetry(values.identity) ?? false)}
         ]);
     }
@@ -53,7 +53,7 @@ Item {
         const many = count > 1 ? [{
             key: "tickedAccount", text: qsTr("选择勾选的 %n 台设备的账号…", "", count)
         }] : [];
-        return [{key: "account", begins: true, text: qsTr("选择账号…"), enabled: isPossible}].concat(many);
+        return [{key: "account", startsGroup: true, text: qsTr("选择账号…"), enabled: isPossible}].concat(many);
     }
 
     function take(key) {

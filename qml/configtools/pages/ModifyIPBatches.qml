@@ -11,7 +11,7 @@ Item {
     required property Batches batches
     property Batch batch: null
     signal notify(string message, int severity)
-    signal begun  // a dialog has closed after starting a batch
+    signal batchStarted  // a dialog has closed after starting a batch
 
     /// Whether devices may be changed now. If not, reports the obstacle.
     function mayBegin() {
@@ -69,9 +69,9 @@ Item {
     }
 
     /// A closed dialog returns the focus to its button, where a second Enter would open it again.
-    function leaveButton() {
+    function moveFocusFromButton() {
         if (batches.running)
-            begun();
+            batchStarted();
     }
 
     /// Reports the result and refreshes the table.
@@ -129,7 +129,7 @@ Item {
         visible: false
         sourceComponent: InitialiseDialog {
             id: list
-            onClosed: root.leaveButton()
+            onClosed: root.moveFocusFromButton()
             onConfirmed: {
                 const dialog = firstPassword.instance();
                 dialog.load(list.count);
@@ -143,7 +143,7 @@ Item {
         sourceComponent: FirstPasswordDialog {
             id: account
             deviceFactory: root.deviceFactory
-            onClosed: root.leaveButton()
+            onClosed: root.moveFocusFromButton()
             onConfirmed: {
                 const list = initialising.instance();
                 const identities = list.chosen();
@@ -162,7 +162,7 @@ Item {
         sourceComponent: ModifyIPDialog {
             id: addresses
             deviceFactory: root.deviceFactory
-            onClosed: root.leaveButton()
+            onClosed: root.moveFocusFromButton()
             onConfirmed: {
                 addresses.close();
                 root.sendAddresses(addresses);

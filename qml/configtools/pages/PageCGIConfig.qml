@@ -51,21 +51,21 @@ FocusScope {
         const values = Object.assign({}, devices.get(row));
         if (key === "send") {
             cgiSender.send(row);
-        } else if (key === "answer") {
-            answerWindow.instance().show(values.ipport, cgiSender.answerOf(row));
+        } else if (key === "response") {
+            responseWindow.instance().show(values.ipport, cgiSender.responseOf(row));
         } else {
-            cgiManager.copyText(cgiSender.answerOf(row));
+            cgiManager.copyText(cgiSender.responseOf(row));
             notify(qsTr("复制成功"), OVToast.Success);
         }
     }
 
     function entriesOf(values) {
         const isUpgrading = UpgradeTools.isRunning(values.upgraderes ?? UpgradeTools.None);
-        const isAnswered = (values.result ?? "") !== "";
+        const hasResponse = (values.result ?? "") !== "";
         return [
             {key: "send", text: qsTr("发送命令"), enabled: !isUpgrading && (values.url ?? "") !== ""},
-            {key: "answer", text: qsTr("查看全部结果"), enabled: isAnswered},
-            {key: "copyAnswer", text: qsTr("复制结果"), enabled: isAnswered}
+            {key: "response", text: qsTr("查看全部结果"), enabled: hasResponse},
+            {key: "copyResponse", text: qsTr("复制结果"), enabled: hasResponse}
         ];
     }
 
@@ -108,7 +108,7 @@ FocusScope {
         }
         onFailed: lines => {
             if (page.visible)
-                answerWindow.instance().show(qsTr("未成功的设备"), lines.join("\n"));
+                responseWindow.instance().show(qsTr("未成功的设备"), lines.join("\n"));
         }
         onNotify: (message, severity) => page.notify(message, severity)
     }
@@ -177,9 +177,9 @@ FocusScope {
         }
     }
     OVOnDemand {
-        id: answerWindow
+        id: responseWindow
         visible: false
-        sourceComponent: CgiAnswerWindow {
+        sourceComponent: CgiResponseWindow {
             cgiManager: page.cgiManager
             fileDialogs: page.fileDialogs
         }
@@ -251,10 +251,10 @@ FocusScope {
         sortKey: devices.sortKey
         sortOrder: devices.sortOrder
         onAllToggled: checked => devices.setAllChecked(checked)
-        onAnswerCopyRequested: row => page.actOn("copyAnswer", row)
-        onAnswerOpenRequested: row => page.actOn("answer", row)
+        onResponseCopyRequested: row => page.actOn("copyResponse", row)
+        onResponseOpenRequested: row => page.actOn("response", row)
         onCopyRequested: row => deviceActions.copy(devices.textOf([row]))
-        onMenuRequested: (row, position) => menu.offer(position, devices.get(row), page.entriesOf(devices.get(row)))
+        onMenuRequested: (row, position) => menu.openAt(position, devices.get(row), page.entriesOf(devices.get(row)))
         onNoteRequested: row => deviceActions.editNote(devices.get(row))
         onRangeToggled: (first, last, checked) => devices.setRangeChecked(first, last, checked)
         onRowActivated: row => deviceActions.showDetail(devices.get(row))

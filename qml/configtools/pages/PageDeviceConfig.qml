@@ -265,7 +265,7 @@ FocusScope {
         libraryInstalled: page.libraryInstalled
         searching: page.searching
         onDeviceChosen: ipport => page.choose(ipport)
-        onMenuRequested: (name, position) => menu.offer(position, page.valuesOf(name), [{
+        onMenuRequested: (name, position) => menu.openAt(position, page.valuesOf(name), [{
             key: "choose", text: qsTr("配置这台设备")
         }])
         onSearchRequested: page.searchRequested()

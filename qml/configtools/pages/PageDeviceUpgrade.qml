@@ -151,7 +151,7 @@ FocusScope {
         onAllToggled: checked => devices.setAllChecked(checked)
         onCopyRequested: row => deviceActions.copy(devices.textOf([row]))
         onFileRequested: row => page.actOn("file", row)
-        onMenuRequested: (row, position) => menu.offer(position, devices.get(row), page.entriesOf(devices.get(row)))
+        onMenuRequested: (row, position) => menu.openAt(position, devices.get(row), page.entriesOf(devices.get(row)))
         onNoteRequested: row => deviceActions.editNote(devices.get(row))
         onRangeToggled: (first, last, checked) => devices.setRangeChecked(first, last, checked)
         onRowActivated: row => deviceActions.showDetail(devices.get(row))

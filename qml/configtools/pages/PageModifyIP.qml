@@ -102,7 +102,7 @@ FocusScope {
         busyState: page.busyState
         deviceFactory: page.deviceFactory
         deviceTable: devices
-        onBegun: page.focusTable()
+        onBatchStarted: page.focusTable()
         onNotify: (message, severity) => page.notify(message, severity)
     }
 
@@ -227,7 +227,7 @@ FocusScope {
         onLiveRequested: row => page.liveRequested(devices.get(row).ipport)
         onMenuRequested: (row, position) => {
             const values = devices.get(row);
-            menu.offer(position, values, [{
+            menu.openAt(position, values, [{
                 key: "edit", text: qsTr("修改IP地址"),
                 enabled: !devices.ipv6 && !UpgradeTools.isRunning(values.upgraderes ?? UpgradeTools.None)
             }, {

@@ -213,7 +213,7 @@ FocusScope {
         libraryInstalled: page.libraryInstalled
         searching: page.searching
         onDetailRequested: name => deviceActions.showDetail(page.valuesOf(name))
-        onMenuRequested: (name, position) => menu.offer(position, page.valuesOf(name), [])
+        onMenuRequested: (name, position) => menu.openAt(position, page.valuesOf(name), [])
         onSearchRequested: page.searchRequested()
         onSearchTextChanged: page.refresh()
     }

@@ -124,7 +124,7 @@ OVDialog {
                     maximumLength: 64
                     objectName: "p2pIdField"
                     textFont: Theme.figureFont
-                    unwanted: /\s/g
+                    removedCharacters: /\s/g
                     visible: root.p2p
                     onEdited: root.clearError()
                 }

@@ -5,7 +5,7 @@ import configtools
 OVTableCell {
     id: root
 
-    required property string wholeNote  // full text; the table may show a part
+    required property string fullNote  // full text; the table may show a part
     property bool editable: true
     signal edited(string note)
 
@@ -15,8 +15,8 @@ OVTableCell {
     readonly property int longest: 50  // maximum characters of input; a longer stored note is not truncated
 
     function begin() {
-        field.maximumLength = Math.max(longest, wholeNote.length);
-        field.text = wholeNote;
+        field.maximumLength = Math.max(longest, fullNote.length);
+        field.text = fullNote;
         before = field.text;
         editing = true;
         field.forceActiveFocus();

@@ -37,7 +37,7 @@ OVTable {
         id: noteCell
         FavouriteNoteCell {
             editable: root.editable
-            wholeNote: root.model.device(row?.fileName ?? "").note ?? ""
+            fullNote: root.model.device(row?.fileName ?? "").note ?? ""
             onEdited: note => root.noteEdited(rowIndex, note)
         }
     }

@@ -12,7 +12,7 @@ OVDialog {
     readonly property alias keeping: keepingChoice.keeping
     readonly property int grade: deviceFactory.getPassWordType(passwordField.text)
     property bool tried: false  // OK was pressed: incomplete fields show errors
-    readonly property int mostLetters: 32
+    readonly property int mostCharacters: 32
     signal confirmed
 
     function load(count) {
@@ -41,7 +41,7 @@ OVDialog {
         const length = confirmationField.text.length;
         return grade <= 1 ? weak : account === "" ? noAccount : password === "" ? noPassword
             : length === 0 ? noConfirmation : confirmationField.text !== password ? different
-            : length < 8 || length > mostLetters ? wrongLength : "";
+            : length < 8 || length > mostCharacters ? wrongLength : "";
     }
 
     readonly property string faultField: fault === "" ? "" : fault === noAccount ? "account"
@@ -97,7 +97,7 @@ OVDialog {
                     width: parent.width
                     accessibleName: qsTr("新密码")
                     errorText: root.tried && root.faultField === "password" ? root.fault
-                        : text.length > root.mostLetters ? root.wrongLength : ""
+                        : text.length > root.mostCharacters ? root.wrongLength : ""
                     maximumLength: 63
                     objectName: "firstPasswordField"
                     secret: true

@@ -10,7 +10,7 @@ QtObject {
     property var wrongTimes: ({})  // number of refused passwords, by address and port
     /// An account entered by the user and not tried yet: "ipport", "account", "password", "isForAll" (use it for all
     /// later devices), "isKept" (store it for the device), "deviceFactory". Null for none.
-    property var offered: null
+    property var pendingAccount: null
     property var accounts: null  // an AccountList; null if accounts are not stored
     signal unkept(string reason)
 
@@ -20,18 +20,18 @@ QtObject {
             wrongTimes = Object.assign({}, wrongTimes, {[ipport]: timesWrong(ipport) + 1});
         else if (result === 0)
             wrongTimes = Object.assign({}, wrongTimes, {[ipport]: 0});
-        if (offered === null || offered.ipport !== ipport)
+        if (pendingAccount === null || pendingAccount.ipport !== ipport)
             return;
-        if (result === 0 && offered.isForAll)
-            offered.deviceFactory.setFollowingAccount("dh", offered.account, offered.password);
-        const failure = result === 0 && offered.isKept ? accounts.keep(ipport, offered.account, offered.password) : "";
-        offered = null;
+        if (result === 0 && pendingAccount.isForAll)
+            pendingAccount.deviceFactory.setFollowingAccount("dh", pendingAccount.account, pendingAccount.password);
+        const failure = result === 0 && pendingAccount.isKept ? accounts.keep(ipport, pendingAccount.account, pendingAccount.password) : "";
+        pendingAccount = null;
         if (failure !== "")
             unkept(failure);
     }
 
-    function offer(ipport, account, password, isForAll, isKept, deviceFactory) {
-        offered = {
+    function setPendingAccount(ipport, account, password, isForAll, isKept, deviceFactory) {
+        pendingAccount = {
             ipport: ipport, account: account, password: password, isForAll: isForAll, isKept: isKept,
             deviceFactory: deviceFactory
         };

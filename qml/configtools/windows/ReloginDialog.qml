@@ -28,7 +28,7 @@ OVDialog {
         keepBox.checked = keepBox.visible && deviceFactory.accountOf("dh", ipport).isStored;
         root.result = result;
         wrongTimes = LoginMemory.timesWrong(ipport);
-        showAnswer();
+        showResponse();
         waiting = true;
         open();
     }
@@ -42,7 +42,7 @@ OVDialog {
     }
 
     /// Shows the device's response at the field that it concerns.
-    function showAnswer() {
+    function showResponse() {
         faultKind = result === 1 ? "account" : result === LoginMemory.wrongPassword ? "password" : "";
         fault = faultKind === "password" && wrongTimes > 0 ? qsTr("密码错误，已 %n 次", "", wrongTimes)
             : faultKind === "" ? "" : deviceFactory.getErrorName(result);
@@ -73,7 +73,7 @@ OVDialog {
         const password = passwordField.text;
         close();
         if (followingBox.checked || keepBox.checked)
-            LoginMemory.offer(ipport, account, password, followingBox.checked, keepBox.checked, deviceFactory);
+            LoginMemory.setPendingAccount(ipport, account, password, followingBox.checked, keepBox.checked, deviceFactory);
         const kept = deviceFactory.updataDeviceInfo("dh", "password", password, mac, ipport);
         answer(kept ? account : "", kept ? password : "");
     }

@@ -18,7 +18,7 @@ Item {
     required property string softwareName
     required property string version
     required property bool searching
-    required property rect noticeBand  // area of the toasts, in window coordinates
+    required property rect toastArea  // area of the toasts, in window coordinates
     required property var webPages  // a WebPages
     signal helpRequested
     signal questionsRequested
@@ -246,7 +246,7 @@ Item {
         id: toasts
         visible: false
         sourceComponent: OVToast {
-            band: root.noticeBand
+            area: root.toastArea
             objectName: "toasts"
         }
     }

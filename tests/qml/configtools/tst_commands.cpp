@@ -20,7 +20,7 @@ const char *const scene =
     "        property string words\n"
     "        OVToolTip {\n"
     "            shown: parent.words !== ''; text: parent.words; footnote: 'footnote'\n"
-    "            widest: Theme.answerTipWidth\n"
+    "            widest: Theme.responseTipWidth\n"
     "        }\n"
     "    }\n";
 
@@ -124,14 +124,14 @@ private Q_SLOTS:
             find("command")->setY(y);
             find("cgiCommandText")->forceActiveFocus();
             QTest::keyClick(m_window.get(), Qt::Key_Slash);
-            QTRY_VERIFY(isInWindow("cgiOffer0") && isInWindow("cgiOffer7"));
-            const QRectF offers = place("cgiOffer0").united(place("cgiOffer7"));
+            QTRY_VERIFY(isInWindow("cgiSuggestion0") && isInWindow("cgiSuggestion7"));
+            const QRectF offers = place("cgiSuggestion0").united(place("cgiSuggestion7"));
             QVERIFY(!offers.intersects(place("cgiCommandText")));
             QTest::keyClick(m_window.get(), Qt::Key_Escape);
-            QTRY_VERIFY(!find("cgiOffer0"));
+            QTRY_VERIFY(!find("cgiSuggestion0"));
             QTest::keyClick(m_window.get(), Qt::Key_Backspace); // any change shows suggestions again
             QTest::keyClick(m_window.get(), Qt::Key_Escape);
-            QTRY_VERIFY(!find("cgiOffer0"));
+            QTRY_VERIFY(!find("cgiSuggestion0"));
         }
     }
 

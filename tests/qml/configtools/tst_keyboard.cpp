@@ -39,7 +39,7 @@ const char *const scene =
     "        checkState: devices.checkState\n"
     "        columns: [{key: 'ipport', title: 'Address', width: 300, sortable: true},\n"
     "                  {key: 'model', title: 'Model', width: 200, sortable: true}]\n"
-    "        onMenuRequested: (row, place) => menu.offer(place, devices.get(row), [{key: 'edit', text: "
+    "        onMenuRequested: (row, place) => menu.openAt(place, devices.get(row), [{key: 'edit', text: "
     "'Edit'}])\n"
     "        onRowActivated: row => done = 'open ' + devices.get(row).mac\n"
     "    }\n"
@@ -47,7 +47,7 @@ const char *const scene =
     "        x: 640; y: 100; width: 400; height: 300; devices: groups; describer: null; busyDevice: ''\n"
     "        searching: false; libraryInstalled: true\n"
     "        onDetailRequested: name => done = 'open ' + name\n"
-    "        onMenuRequested: (name, place) => menu.offer(place, {identity: name, mac: name, ipport: "
+    "        onMenuRequested: (name, place) => menu.openAt(place, {identity: name, mac: name, ipport: "
     "'10.0.0.9:1'}, [])\n"
     "    }\n"
     "    OVTextField { objectName: 'search'; x: 600; y: 50; clearable: true }\n"
@@ -399,7 +399,7 @@ private Q_SLOTS:
         QTRY_COMPARE(findAll("toastText"), QStringList("nothing is ticked"));
         QCOMPARE(find("toastsWaiting")->property("text").toString(), "+1");
         const QRectF band(900, 42, 300, 56);
-        notices->setProperty("band", band);
+        notices->setProperty("area", band);
         const QQuickItem *toast = find("toast");
         QTRY_VERIFY(band.contains(toast->mapRectToScene(toast->boundingRect())));
         QMetaObject::invokeMethod(notices, "removeRefusals");

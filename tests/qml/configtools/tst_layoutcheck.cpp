@@ -17,21 +17,21 @@ private Q_SLOTS:
             "OVFormRow { width: 300; label: 'Name'; OVTextField { text: 'North gate' } }", "");
         row("label that is elided has a tool tip", "OVLabel { width: 40; " + words + " }", "");
         row("label that is elided has none",
-            "OVLabel { objectName: 'poor'; width: 40; showsWholeOnHover: false; " + words + " }",
+            "OVLabel { objectName: 'poor'; width: 40; showsFullTextOnHover: false; " + words + " }",
             "poor.*is elided");
         row("tool tip around the label",
-            "Item { OVLabel { width: 40; showsWholeOnHover: false; " + words +
+            "Item { OVLabel { width: 40; showsFullTextOnHover: false; " + words +
                 " }\n"
                 "OVToolTip { shown: false; " +
                 words + " } }",
             "");
         row("tool tip with more words in the label",
-            "OVLabel { width: 40; showsWholeOnHover: false; " + words +
+            "OVLabel { width: 40; showsFullTextOnHover: false; " + words +
                 "\n"
                 "OVToolTip { shown: false; text: 'And: ' + parent.text } }",
             "");
         row("tool tip with other words",
-            "Item { objectName: 'poor'; OVLabel { width: 40; showsWholeOnHover: false; " + words +
+            "Item { objectName: 'poor'; OVLabel { width: 40; showsFullTextOnHover: false; " + words +
                 " }\n"
                 "OVToolTip { shown: false; text: 'other' } }",
             "poor.*is elided");

@@ -9,17 +9,17 @@ FocusScope {
     property alias text: field.text
     property alias errorText: field.errorText
     readonly property bool starred: commands.isFavourite(field.text.trim())
-    property var offers: []
+    property var suggestions: []
     property int marked: -1
     property real topInWindow: 0  // top edge in the window when suggestions were last shown
     signal edited
     signal accepted
 
-    function offer() {
-        offers = field.activeFocus ? commands.matching(field.text) : [];
+    function suggest() {
+        suggestions = field.activeFocus ? commands.matching(field.text) : [];
         marked = -1;
         topInWindow = root.mapToItem(null, 0, 0).y;
-        if (offers.length > 0)
+        if (suggestions.length > 0)
             list.instance().open();
         else
             close();
@@ -39,19 +39,19 @@ FocusScope {
     function filterKey(event) {
         const step = event.key === Qt.Key_Down ? 1 : event.key === Qt.Key_Up ? -1 : 0;
         const isEnter = event.key === Qt.Key_Return || event.key === Qt.Key_Enter;
-        if (!list.offering) {
+        if (!list.suggesting) {
             if (step === 1) {
                 event.accepted = true;
-                offer();
+                suggest();
             }
             return;
         }
         if (step !== 0)
-            marked = Math.max(-1, Math.min(offers.length - 1, marked + step));
+            marked = Math.max(-1, Math.min(suggestions.length - 1, marked + step));
         else if (event.key === Qt.Key_Escape)
             close();
         else if (isEnter && marked >= 0)
-            take(offers[marked]);
+            take(suggestions[marked]);
         else
             return;
         event.accepted = true;
@@ -76,7 +76,7 @@ FocusScope {
         onActiveFocusChanged: if (!activeFocus) root.close()
         onEdited: {
             root.edited();
-            root.offer();
+            root.suggest();
         }
     }
     OVIconButton {
@@ -95,17 +95,17 @@ FocusScope {
     // Created on demand: each row of a table may have a field.
     OVOnDemand {
         id: list
-        readonly property bool offering: (item as CgiOffers)?.visible ?? false
+        readonly property bool suggesting: (item as CgiSuggestions)?.visible ?? false
         visible: false
         // qmllint disable unqualified
-        sourceComponent: CgiOffers {
+        sourceComponent: CgiSuggestions {
             // Above the field if there is no room below.
             y: root.topInWindow + Theme.controlHeight + implicitHeight + 2 * Theme.half > root.Window.height
                 ? -implicitHeight - Theme.half : Theme.controlHeight + Theme.half
             width: root.width
             commands: root.commands
             marked: root.marked
-            offers: root.offers
+            suggestions: root.suggestions
             parent: root
             onTaken: command => root.take(command)
         }

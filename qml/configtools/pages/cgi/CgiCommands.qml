@@ -9,14 +9,14 @@ Item {
     property var recent: []
     property var favourites: []
 
-    readonly property int offered: 8
+    readonly property int maximumSuggestions: 8
     readonly property int longestKept: 2048
 
     /// Returns up to `offered` commands that contain `text`, favourites first.
     function matching(text) {
         const wanted = text.trim().toLowerCase();
         const known = favourites.concat(recent.filter(command => !favourites.includes(command)));
-        return known.filter(command => command !== text && command.toLowerCase().includes(wanted)).slice(0, offered);
+        return known.filter(command => command !== text && command.toLowerCase().includes(wanted)).slice(0, maximumSuggestions);
     }
 
     function isFavourite(command) {

@@ -21,7 +21,7 @@ Item {
     readonly property string prefix: "/cgi-bin/"
 
     /// The complete response of a row.
-    function answerOf(row) {
+    function responseOf(row) {
         const values = deviceTable.get(row);
         return cgiBatches.answerOf(values.identity, values.result ?? "");
     }

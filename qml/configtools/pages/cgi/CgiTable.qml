@@ -9,14 +9,14 @@ OVTable {
     required property CgiCommands commands
     property int editRow: -1  // row whose field gets the keyboard focus when it is created
     signal sendRequested(int row)
-    signal answerCopyRequested(int row)
-    signal answerOpenRequested(int row)
+    signal responseCopyRequested(int row)
+    signal responseOpenRequested(int row)
     signal noteRequested(int row)
 
     readonly property int tipLength: 3000  // maximum characters of a response in a tool tip
 
-    function beginningOf(answer) {
-        return answer.slice(0, tipLength).replace(/\s+$/, "") + (answer.length > tipLength ? "…" : "");
+    function startOf(response) {
+        return response.slice(0, tipLength).replace(/\s+$/, "") + (response.length > tipLength ? "…" : "");
     }
 
     /// Makes a row current and focuses its command field.
@@ -37,7 +37,7 @@ OVTable {
         {key: "model", title: qsTr("型号"), width: Theme.columnModel, stretch: 1, sortable: true, cell: modelCell},
         {key: "ipport", title: qsTr("IP:端口"), width: Theme.columnAddress, sortable: true, cell: addressCell},
         {key: "note", title: qsTr("备注"), width: Theme.columnNote, stretch: 1, sortable: true, hidden: true},
-        {key: "result", title: qsTr("应答"), width: Theme.columnAnswer, stretch: 4, cell: answerCell},
+        {key: "result", title: qsTr("应答"), width: Theme.columnResponse, stretch: 4, cell: responseCell},
         {key: "url", title: qsTr("Url路径"), width: Theme.columnCommand, stretch: 5, cell: commandCell},
         {key: "operate", title: qsTr("操作"), width: Theme.columnShortActions, fixed: true, cell: actionCell}
     ]
@@ -76,28 +76,28 @@ OVTable {
     }
     // qmllint disable unqualified
     Component {
-        id: answerCell
+        id: responseCell
         OVTableCell {
-            id: answer
+            id: response
             readonly property string words: value ?? ""
 
             OVLabel {
                 width: opener.x - Theme.half
                 height: parent.height
-                color: answer.words.startsWith("Error:") ? Theme.colours.bad : Theme.colours.text
-                objectName: "cgiAnswer" + answer.rowIndex
-                showsWholeOnHover: false
-                text: answer.words.slice(0, 400).replace(/\s+/g, " ")
+                color: response.words.startsWith("Error:") ? Theme.colours.bad : Theme.colours.text
+                objectName: "cgiResponse" + response.rowIndex
+                showsFullTextOnHover: false
+                text: response.words.slice(0, 400).replace(/\s+/g, " ")
             }
             HoverHandler {
                 id: pointer
-                enabled: answer.words !== ""
+                enabled: response.words !== ""
             }
             OVToolTip {
                 footnote: qsTr("\n右键点击可复制结果").trim()
                 shown: pointer.enabled && pointer.hovered && !opener.hovered
-                text: pointer.hovered ? root.beginningOf(answer.words) : ""
-                widest: Theme.answerTipWidth
+                text: pointer.hovered ? root.startOf(response.words) : ""
+                widest: Theme.responseTipWidth
             }
             OVIconButton {
                 id: opener
@@ -106,20 +106,20 @@ OVTable {
                 anchors.verticalCenter: parent.verticalCenter
                 implicitWidth: Theme.unit * 3
                 implicitHeight: Theme.unit * 3
-                enabled: answer.words !== ""
-                focusPolicy: answer.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
+                enabled: response.words !== ""
+                focusPolicy: response.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
                 iconName: "stretch"
                 iconSize: Theme.smallIconSize
-                objectName: "cgiAnswerOpen" + answer.rowIndex
-                opacity: enabled && (pointer.hovered || answer.current || activeFocus) ? 1 : 0
+                objectName: "cgiResponseOpen" + response.rowIndex
+                opacity: enabled && (pointer.hovered || response.current || activeFocus) ? 1 : 0
                 toolTip: qsTr("查看全部内容")
-                onClicked: root.answerOpenRequested(answer.rowIndex)
+                onClicked: root.responseOpenRequested(response.rowIndex)
             }
             TapHandler {
                 acceptedButtons: Qt.RightButton
-                enabled: answer.words !== ""
+                enabled: response.words !== ""
                 gesturePolicy: TapHandler.ReleaseWithinBounds  // the row must not receive the click, as it has a menu
-                onTapped: root.answerCopyRequested(answer.rowIndex)
+                onTapped: root.responseCopyRequested(response.rowIndex)
             }
         }
     }

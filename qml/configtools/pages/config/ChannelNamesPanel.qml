@@ -80,7 +80,7 @@ Item {
             {key: "connected", title: qsTr("连接"), width: Theme.columnVersion, cell: connectionCell},
             {key: "name", title: qsTr("名称"), width: Theme.columnCommand, mostWidth: Theme.columnMost, stretch: 1, cell: nameCell},
             {key: "bytes", title: qsTr("字节"), width: Theme.columnBytes, cell: bytesCell},
-            {key: "trouble", title: " ", width: Theme.columnAnswer, cell: troubleCell}
+            {key: "trouble", title: " ", width: Theme.columnResponse, cell: troubleCell}
         ]
         model: root.form
         objectName: "nameTable"

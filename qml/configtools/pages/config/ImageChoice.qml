@@ -12,7 +12,7 @@ OVFormRow {
     property var numbers: []  // numbers of the choices if they are not consecutive
 
     labelWidth: Theme.imageLabelWidth
-    visible: group.offers(subKey)
+    visible: group.supports(subKey)
     width: parent?.width ?? 0
 
     OVChoice {

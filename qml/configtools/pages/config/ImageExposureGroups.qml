@@ -35,7 +35,7 @@ Column {
             width: parent.width
             label: qsTr("增益")
             labelWidth: Theme.imageLabelWidth
-            visible: exposure.offers("gain")
+            visible: exposure.supports("gain")
 
             ImageNumber {
                 accessibleName: qsTr("增益")
@@ -49,7 +49,7 @@ Column {
             width: parent.width
             label: qsTr("增益范围")
             labelWidth: Theme.imageLabelWidth
-            visible: exposure.offers("gain")
+            visible: exposure.supports("gain")
 
             Row {
                 spacing: Theme.unit
@@ -120,7 +120,7 @@ Column {
         }
         ImageRegion {
             group: backMode
-            visible: backMode.offers("backlightmode") && backMode.number("backlightmode") === 1
+            visible: backMode.supports("backlightmode") && backMode.number("backlightmode") === 1
         }
         ImageSlider {
             group: backMode

@@ -23,7 +23,7 @@ OVSection {
     }
 
     /// Whether the camera supports the setting.
-    function offers(setting) {
+    function supports(setting) {
         return !list("missing").includes(setting);
     }
 

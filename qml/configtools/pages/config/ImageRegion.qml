@@ -11,8 +11,8 @@ OVFormRow {
         {key: "Left", name: qsTr("左")}, {key: "Top", name: qsTr("上")},
         {key: "Right", name: qsTr("右")}, {key: "Bottom", name: qsTr("下")}
     ]
-    readonly property int whole: 8192
-    property var typed: ({Left: 0, Top: 0, Right: whole, Bottom: whole})
+    readonly property int fullScale: 8192
+    property var typed: ({Left: 0, Top: 0, Right: fullScale, Bottom: fullScale})
     readonly property bool acrossWrong: typed.Left > typed.Right
     readonly property bool downWrong: typed.Top > typed.Bottom
     readonly property bool wrong: acrossWrong || downWrong
@@ -49,7 +49,7 @@ OVFormRow {
                         accessibleName: side.modelData.name
                         current: Number(root.region[side.modelData.key] ?? 0) || 0
                         group: root.group
-                        largest: root.whole
+                        largest: root.fullScale
                         objectName: "region" + side.modelData.key
                         subKey: "BacklightRegion"
                         width: Theme.rangeFieldWidth - Theme.pageMargin

@@ -37,7 +37,7 @@ Column {
     }
 
     spacing: Theme.controlGap
-    visible: group.offers("shutter")
+    visible: group.supports("shutter")
     width: parent?.width ?? 0
     onLongestChanged: follow()
     onShortestChanged: follow()

@@ -43,7 +43,7 @@ Item {
             width: parent.width
             spacing: Theme.controlGap
 
-            ChannelPicture {
+            ChannelLiveView {
                 width: parent.width
                 active: root.visible && root.work.session.loggedIn
                 channel: root.form.channel

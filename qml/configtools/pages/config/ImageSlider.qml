@@ -11,7 +11,7 @@ OVFormRow {
     property int most: group.most(subKey)
 
     labelWidth: Theme.imageLabelWidth
-    visible: group.offers(subKey)
+    visible: group.supports(subKey)
     width: parent?.width ?? 0
 
     OVSlider {

@@ -10,7 +10,7 @@ OVFormRow {
     property bool asNumber: false  // the device uses 0 and 1
 
     labelWidth: Theme.imageLabelWidth
-    visible: group.offers(subKey)
+    visible: group.supports(subKey)
     width: parent?.width ?? 0
 
     OVSwitch {

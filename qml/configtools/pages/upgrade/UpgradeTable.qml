@@ -93,7 +93,7 @@ OVTable {
                 width: parent.width - Theme.unit
                 height: parent.height
                 color: path === "" ? Theme.colours.faint : Theme.colours.text
-                showsWholeOnHover: false
+                showsFullTextOnHover: false
                 text: path === "" ? qsTr("未选择") : path.slice(path.lastIndexOf("/") + 1)
 
                 HoverHandler {

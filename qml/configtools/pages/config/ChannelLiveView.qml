@@ -12,7 +12,7 @@ Item {
     required property bool connected  // a camera is connected
 
     implicitHeight: Math.round(width * 9 / 16)
-    objectName: "channelPicture"
+    objectName: "channelLiveView"
 
     OV_MediaPlayer {
         id: player

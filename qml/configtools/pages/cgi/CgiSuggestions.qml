@@ -7,7 +7,7 @@ T.Popup {
     id: root
 
     required property CgiCommands commands
-    required property var offers
+    required property var suggestions
     required property int marked
     signal taken(string command)
 
@@ -23,7 +23,7 @@ T.Popup {
 
         // qmllint disable unqualified
         Repeater {
-            model: root.offers
+            model: root.suggestions
 
             Rectangle {
                 id: entry
@@ -35,7 +35,7 @@ T.Popup {
                 width: root.width - 2 * Theme.half
                 height: Theme.controlHeight
                 color: root.marked === index || pointer.hovered ? Theme.colours.accentSoft : Theme.colours.clear
-                objectName: "cgiOffer" + index
+                objectName: "cgiSuggestion" + index
                 radius: Theme.smallRadius
 
                 OVIcon {

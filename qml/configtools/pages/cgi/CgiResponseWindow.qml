@@ -8,11 +8,11 @@ OVDialog {
 
     required property var cgiManager
     required property var fileDialogs
-    property string answer
+    property string response
 
     function show(heading, text) {
         title = heading;
-        answer = text;
+        response = text;
         list.model = cgiManager.linesOf(text);
         list.currentIndex = 0;
         open();
@@ -24,23 +24,23 @@ OVDialog {
     }
 
     function save(folder) {
-        const saved = cgiManager.saveText(folder, answer);
+        const saved = cgiManager.saveText(folder, response);
         if (saved.failure !== "")
             inform(qsTr("文件写入失败：") + saved.failure, OVToast.Error);
         else
             inform(qsTr("已保存到文件：%1").arg(saved.path), OVToast.Success);
     }
 
-    wantedWidth: Theme.answerWindowWidth
+    wantedWidth: Theme.responseWindowWidth
     cancelText: qsTr("关闭")
-    objectName: "cgiAnswerWindow"
+    objectName: "cgiResponseWindow"
     okText: qsTr("复制全部")
-    onAccepted: copy(answer)
+    onAccepted: copy(response)
     onOpened: list.forceActiveFocus()
 
     footContent: OVButton {
         anchors.verticalCenter: parent.verticalCenter
-        objectName: "cgiAnswerSaveButton"
+        objectName: "cgiResponseSaveButton"
         text: qsTr("保存")
         toolTip: qsTr("保存为文本文件")
         onClicked: root.fileDialogs.chooseFolder(qsTr("请选择文件夹"), folder => root.save(folder))
@@ -55,7 +55,7 @@ OVDialog {
         clip: true
         highlightMoveDuration: 0  // no animation to the end of a long response
         keyNavigationEnabled: true
-        objectName: "cgiAnswerLines"
+        objectName: "cgiResponseLines"
 
         Accessible.role: Accessible.List
         Accessible.name: root.title
