@@ -32,7 +32,7 @@ Item {
     readonly property int responseValidity: 1000
     signal renewed                   // a new session was opened
     signal checked(bool isReachable)    // result of check()
-    signal snapshotTaken(int channel, string picture, string message)  // result of takePicture()
+    signal snapshotTaken(int channel, string picture, string message)  // result of takeSnapshot()
 
     function account() {
         return LoginMemory.accountFor(ipport, deviceFactory);

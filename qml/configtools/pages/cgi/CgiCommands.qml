@@ -12,7 +12,7 @@ Item {
     readonly property int maximumSuggestions: 8
     readonly property int longestKept: 2048
 
-    /// Returns up to `offered` commands that contain `text`, favourites first.
+    /// Returns up to `maximumSuggestions` commands that contain `text`, favourites first.
     function matching(text) {
         const wanted = text.trim().toLowerCase();
         const known = favourites.concat(recent.filter(command => !favourites.includes(command)));
