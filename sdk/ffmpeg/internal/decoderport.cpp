@@ -94,19 +94,15 @@ void DecoderPort::run(const std::stop_token &stop)
     const std::shared_ptr<Input> input = currentInput();
     StreamSource &source = input->source;
     for (;;) {
-        const StreamSource::Start start = source.start(stop);
-        if (start == StreamSource::Start::Stopped)
+        if (!source.start(stop))
             return;
         if (source.skipped() > 0)
             damaged();
-        const bool isStream =
-            StreamDecoder(source, m_ring, *this, m_isLive ? m_clock.get() : nullptr, stop).run();
+        StreamDecoder(source, m_ring, *this, m_isLive ? m_clock.get() : nullptr, stop).run();
         if (stop.stop_requested())
             return;
         if (!source.hasNext())
-            damaged(); // the stream was abandoned
-        if (!isStream)
-            source.clearHead();
+            damaged(); // the demuxer has ended the stream
     }
 }
 

@@ -1,5 +1,7 @@
 #include "sdk/ffmpeg/internal/demuxer.h"
 
+#include "sdk/ffmpeg/internal/logging.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -55,10 +57,13 @@ const AVStream *Demuxer::track(AVMediaType type, std::initializer_list<AVCodecID
 
 bool Demuxer::read(AVPacket &packet)
 {
-    if (av_read_frame(m_format.get(), &packet) != 0)
-        return false;
-    m_source.noteProgress();
-    return true;
+    const LoggedErrors errors;
+    const bool isRead = av_read_frame(m_format.get(), &packet) == 0;
+    if (errors.any() || (isRead && (packet.flags & AV_PKT_FLAG_CORRUPT) != 0))
+        m_isDamaged = true;
+    if (isRead)
+        m_source.notePacket();
+    return isRead;
 }
 
 int Demuxer::readBytes(void *demuxer, std::uint8_t *destination, int size)

@@ -5,6 +5,7 @@
 #include "sdk/ffmpeg/internal/streamsource.h"
 
 #include <initializer_list>
+#include <utility>
 
 namespace sdk::ffmpeg {
 
@@ -26,6 +27,10 @@ public:
     /// Waits for the next packet of any track. Returns false at the end of the stream.
     [[nodiscard]] bool read(AVPacket &packet);
 
+    /// Returns whether read() has detected damage since the last call. It skips damaged data up to the next
+    /// cluster.
+    [[nodiscard]] bool takeDamage() { return std::exchange(m_isDamaged, false); }
+
 private:
     static int readBytes(void *demuxer, std::uint8_t *destination, int size);
     static int isInterrupted(void *demuxer);
@@ -34,6 +39,7 @@ private:
     const std::stop_token m_stop;
     AvPointer<AVIOContext> m_input;
     AvPointer<AVFormatContext> m_format;
+    bool m_isDamaged = false;
 };
 
 } // namespace sdk::ffmpeg

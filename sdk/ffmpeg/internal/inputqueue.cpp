@@ -57,11 +57,14 @@ bool InputQueue::hasNext() const
     return m_position < m_reading.size() || !m_arriving.empty();
 }
 
-std::int64_t InputQueue::arrival()
+InputQueue::Arrival InputQueue::arrival()
 {
     const std::lock_guard lock(m_mutex);
     dropArrivals();
-    return m_arrivals.empty() ? 0 : m_arrivals.front().time;
+    if (m_arrivals.empty())
+        return {};
+    const ArrivalEnd &next = m_arrivals.front();
+    return {.time = next.time, .size = static_cast<std::size_t>(next.end - m_used)};
 }
 
 void InputQueue::dropArrivals()

@@ -34,8 +34,14 @@ public:
     /// Whether next() would not wait.
     [[nodiscard]] bool hasNext() const;
 
-    /// The arrival time of the next byte. Requires hasNext().
-    [[nodiscard]] std::int64_t arrival();
+    struct Arrival
+    {
+        std::int64_t time = 0;
+        std::size_t size = 0; ///< number of unused bytes that arrived at this time
+    };
+
+    /// The arrival of the next byte. Requires hasNext().
+    [[nodiscard]] Arrival arrival();
 
     /// `count` used bytes are not processed yet.
     void hold(std::size_t count);
@@ -44,7 +50,7 @@ private:
     void dropArrivals(); // the caller holds the lock
 
     /// The bytes up to the stream position `end` arrived at `time`.
-    struct Arrival
+    struct ArrivalEnd
     {
         std::uint64_t end;
         std::int64_t time;
@@ -55,7 +61,7 @@ private:
     mutable std::mutex m_mutex; // guards the five members below
     std::condition_variable_any m_arrived;
     std::vector<std::uint8_t> m_arriving;
-    std::deque<Arrival> m_arrivals; // of unused bytes; the last entry stays
+    std::deque<ArrivalEnd> m_arrivals; // of unused bytes; the last entry stays
     std::size_t m_waiting = 0;
     std::size_t m_held = 0;
 

@@ -13,7 +13,7 @@ Q_LOGGING_CATEGORY(ffmpegLog, "configtools.sdk.ffmpeg", QtInfoMsg)
 
 namespace {
 
-thread_local unsigned errorCount = 0;
+thread_local unsigned errorCount = 0; // wraps around
 
 /// Called by FFmpeg on any thread, with lines of every level.
 void writeLine(void *source, int level, const char *format, va_list arguments)
@@ -37,9 +37,11 @@ void routeLog()
     streams::setLibraryLogHandler(&writeLine);
 }
 
-unsigned loggedErrors()
+LoggedErrors::LoggedErrors() : m_before(errorCount) {}
+
+bool LoggedErrors::any() const
 {
-    return errorCount;
+    return errorCount != m_before;
 }
 
 } // namespace sdk::ffmpeg

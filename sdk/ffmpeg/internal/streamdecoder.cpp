@@ -1,7 +1,6 @@
 #include "sdk/ffmpeg/internal/streamdecoder.h"
 
 #include "sdk/clock.h"
-#include "sdk/ffmpeg/internal/logging.h"
 #include "sdk/ffmpeg/internal/planarpicture.h"
 
 #include <utility>
@@ -50,23 +49,20 @@ StreamDecoder::StreamDecoder(StreamSource &source, PictureRing &ring, StreamObse
 {
 }
 
-bool StreamDecoder::run()
+void StreamDecoder::run()
 {
     if (!open())
-        return false;
-    unsigned errors = loggedErrors();
+        return;
     while (fillBacklog()) {
         if (m_liveClock)
             skipLateFrames();
         const bool isUndamaged = m_backlog.isEmpty() || decode(*m_backlog.take());
         m_source.setHeldBytes(m_backlog.bytes());
-        if (!isUndamaged || loggedErrors() != errors)
+        if (!isUndamaged)
             m_observer.damaged();
-        errors = loggedErrors();
     }
     if (m_pictures && !m_stop.stop_requested())
         m_pictures->finish([this](const AVFrame &frame) { deliverPicture(frame); });
-    return true;
 }
 
 bool StreamDecoder::open()
@@ -97,10 +93,11 @@ bool StreamDecoder::readPacket()
 {
     m_source.setHeldBytes(m_backlog.bytes());
     AvPointer<AVPacket> packet(av_packet_alloc());
-    if (m_hasEnded || !packet || !m_demuxer.read(*packet)) {
-        m_hasEnded = true;
+    m_hasEnded = m_hasEnded || !packet || !m_demuxer.read(*packet);
+    if (m_demuxer.takeDamage())
+        m_observer.damaged();
+    if (m_hasEnded)
         return false;
-    }
     const bool isPicture = m_pictures && packet->stream_index == m_pictures->track();
     m_backlog.add(std::move(packet), isPicture, m_source.arrival());
     return true;

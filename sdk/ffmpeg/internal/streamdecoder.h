@@ -44,9 +44,8 @@ public:
     StreamDecoder(StreamSource &source, PictureRing &ring, StreamObserver &observer, const Clock *liveClock,
                   std::stop_token stop);
 
-    /// Decodes until the stream ends, is abandoned or a stop is requested. Returns false if the head is
-    /// invalid.
-    bool run();
+    /// Decodes until the stream ends or a stop is requested. An invalid head ends the stream.
+    void run();
 
 private:
     [[nodiscard]] bool open();

@@ -13,7 +13,6 @@ namespace {
 using Bytes = std::span<const std::uint8_t>;
 
 constexpr std::array<std::uint8_t, 4> headerIdentifier = {0x1A, 0x45, 0xDF, 0xA3};
-constexpr std::array<std::uint8_t, 4> clusterIdentifier = {0x1F, 0x43, 0xB6, 0x75};
 constexpr std::uint64_t documentTypeIdentifier = 0x4282;
 constexpr std::uint64_t longestHeader = 1024; // typical headers have 31 to 60 bytes
 
@@ -146,24 +145,6 @@ void StreamHeaderFinder::keepEnd()
 {
     m_candidate.erase(m_candidate.begin(),
                       m_candidate.end() - static_cast<std::ptrdiff_t>(identifierPrefix(m_candidate)));
-}
-
-std::span<const std::uint8_t, ClusterFinder::identifierSize> ClusterFinder::identifier()
-{
-    return clusterIdentifier;
-}
-
-std::optional<std::size_t> ClusterFinder::find(std::span<const std::uint8_t> bytes)
-{
-    constexpr std::uint32_t wanted = std::uint32_t{clusterIdentifier[0]} << 24U |
-                                     std::uint32_t{clusterIdentifier[1]} << 16U |
-                                     std::uint32_t{clusterIdentifier[2]} << 8U | clusterIdentifier[3];
-    for (std::size_t position = 0; position < bytes.size(); ++position) {
-        m_latest = m_latest << 8U | bytes[position];
-        if (m_latest == wanted)
-            return position + 1;
-    }
-    return std::nullopt;
 }
 
 } // namespace sdk::ffmpeg

@@ -1,4 +1,4 @@
-// Finds headers and clusters in the bytes of live streams, across the boundaries of chunks.
+// Finds headers in the bytes of live streams, across the boundaries of chunks.
 #pragma once
 
 #include <cstdint>
@@ -25,24 +25,6 @@ private:
 
     std::vector<std::uint8_t> m_candidate; // the latest bytes that may be the start of a header
     std::vector<std::uint8_t> m_header;
-};
-
-/// Finds the identifier of a cluster, at which a demuxer with the head of the stream can resume.
-class ClusterFinder
-{
-public:
-    static constexpr std::size_t identifierSize = 4;
-
-    /// The bytes of the identifier.
-    [[nodiscard]] static std::span<const std::uint8_t, identifierSize> identifier();
-
-    /// As StreamHeaderFinder::find().
-    [[nodiscard]] std::optional<std::size_t> find(std::span<const std::uint8_t> bytes);
-
-    void reset() { m_latest = 0; }
-
-private:
-    std::uint32_t m_latest = 0; // the latest four bytes
 };
 
 } // namespace sdk::ffmpeg

@@ -1,5 +1,7 @@
 #include "sdk/ffmpeg/internal/trackdecoder.h"
 
+#include "sdk/ffmpeg/internal/logging.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -37,9 +39,11 @@ bool TrackDecoder::decode(const AVPacket &packet, const FrameHandler &handler)
     if (m_waitsForKey && (packet.flags & AV_PKT_FLAG_KEY) == 0)
         return true;
     m_waitsForKey = false;
+    const LoggedErrors errors;
     const bool isTaken = avcodec_send_packet(m_context.get(), &packet) == 0;
     ++m_held;
-    const bool isUndamaged = takeFrames(handler) && isTaken;
+    const bool hasMissingReferences = codec() == AV_CODEC_ID_HEVC && errors.any();
+    const bool isUndamaged = takeFrames(handler) && isTaken && !hasMissingReferences;
     // The decoder reports only the size of its reorder buffer. Frames beyond it are dropped.
     const int held = std::clamp(m_held, 0, std::max(0, m_context->has_b_frames));
     if (isUndamaged && m_context->skip_frame == AVDISCARD_NONREF)

@@ -47,10 +47,12 @@ private Q_SLOTS:
         QFETCH(int, inPicture);
         QFETCH(int, begin);
         QFETCH(int, size);
+        constexpr int frames = 400;
         LiveStream stream(format);
         QByteArray bytes = stream.head() + stream.pictures(inPicture);
         const qsizetype hole = bytes.size() + begin;
-        bytes += stream.pictures(40 - inPicture, inPicture);
+        // The demuxer may skip some kilobytes before it resynchronises: many of these small frames.
+        bytes += stream.pictures(frames - inPicture, inPicture);
         QVERIFY(bytes.size() > hole + size);
         bytes.remove(hole, size);
         TestPort port;
@@ -58,14 +60,14 @@ private Q_SLOTS:
         QTRY_VERIFY(port.isIdle());
 
         const QList<Delivered> pictures = port.receiver.pictures();
-        QVERIFY2(pictures.size() >= inPicture + 5 && pictures.size() < 40,
+        QVERIFY2(pictures.size() >= inPicture + 5 && pictures.size() < frames,
                  qPrintable(QString::number(pictures.size())));
         for (int number = 0; number < inPicture; ++number)
             QVERIFY(distance(pictures.at(number), Patches::numbered(number)) < nearEnough);
         // The frames from the last key frame on are complete again.
         for (int fromEnd = 1; fromEnd <= 5; ++fromEnd) {
             const Delivered &picture = pictures.at(pictures.size() - fromEnd);
-            QVERIFY(distance(picture, Patches::numbered(40 - fromEnd)) < nearEnough);
+            QVERIFY(distance(picture, Patches::numbered(frames - fromEnd)) < nearEnough);
         }
         QVERIFY(port.status().damages > 0);
     }
@@ -180,9 +182,9 @@ private Q_SLOTS:
         QVERIFY(processMegabytes("VmPeak:") - before < 500);
     }
 
-    void limitsBlockSizes()
+    void packetSizesAreBounded()
     {
-        // A cluster without an end that contains a block of allegedly 256 MB.
+        // A cluster of unknown size with a block whose size field is 256 MB.
         const QByteArray swallow(
             "\x1F\x43\xB6\x75\x01\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xE7\x81\x01\xA3\x1F\xFF\xFF\xFE\x81", 21);
         LiveStream stream(mjpeg);
@@ -190,12 +192,15 @@ private Q_SLOTS:
         QVERIFY(port.push(stream.head() + stream.pictures(2)));
         QTRY_COMPARE(port.receiver.pictures().size(), 2);
         QVERIFY(port.push(swallow));
+        const double before = processMegabytes("VmRSS:");
         const QByteArray more = stream.pictures(20, 2);
-        for (int sent = 0; sent < 12 * 1024 * 1024 && port.receiver.pictures().size() < 3;
-             sent += more.size())
-            QTRY_VERIFY(port.push(more));
-        QTRY_VERIFY(port.receiver.pictures().size() > 2); // the stream was dropped, and continued
+        for (int sent = 0; sent < 40 * 1024 * 1024; sent += more.size())
+            QVERIFY(QTest::qWaitFor([&] { return port.push(more); }));
+        QTRY_VERIFY(port.isIdle());
+        QVERIFY(processMegabytes("VmRSS:") - before < 30);
         QVERIFY(port.status().damages > 0);
+        QVERIFY(port.push(stream.head() + stream.pictures(2))); // as when the view requests the stream again
+        QTRY_COMPARE(port.receiver.pictures().size(), 4);
     }
 };
 
