@@ -6,7 +6,7 @@
 
 #include <atomic>
 #include <chrono>
-#include <cstdlib> // tells which C library it is
+#include <cstdlib> // defines __GLIBC__
 
 #ifdef __GLIBC__
 #include <malloc.h>
@@ -15,12 +15,12 @@
 void limitFreedMemory()
 {
 #ifdef __GLIBC__
-    constexpr int blockOfItsOwn = 128 * 1024; // the size that glibc begins with; set, it stays
-    constexpr int keptAtTheEnd = 1024 * 1024;
-    constexpr int heaps = 4;
-    mallopt(M_MMAP_THRESHOLD, blockOfItsOwn);
-    mallopt(M_TRIM_THRESHOLD, keptAtTheEnd);
-    mallopt(M_ARENA_MAX, heaps);
+    constexpr int mmapThreshold = 128 * 1024; // the default; setting it disables the dynamic threshold
+    constexpr int trimThreshold = 1024 * 1024;
+    constexpr int mostHeaps = 4;
+    mallopt(M_MMAP_THRESHOLD, mmapThreshold);
+    mallopt(M_TRIM_THRESHOLD, trimThreshold);
+    mallopt(M_ARENA_MAX, mostHeaps);
 #endif
 }
 
@@ -28,12 +28,18 @@ void returnFreedMemory()
 {
 #ifdef __GLIBC__
     using namespace std::chrono_literals;
-    static std::atomic<bool> isDue = false;
-    if (!QCoreApplication::instance() || isDue.exchange(true))
+    static std::atomic<bool> isScheduled = false;
+    if (!QCoreApplication::instance() || isScheduled.exchange(true))
         return;
-    QTimer::singleShot(2s, QCoreApplication::instance(), [] {
-        isDue = false;
-        QThreadPool::globalInstance()->start([] { malloc_trim(0); }); // takes some milliseconds
-    });
+    // Queued: a timer needs the event loop of its thread, which a caller on another thread may lack.
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(),
+        [] {
+            QTimer::singleShot(2s, QCoreApplication::instance(), [] {
+                isScheduled = false;
+                QThreadPool::globalInstance()->start([] { malloc_trim(0); }); // takes some milliseconds
+            });
+        },
+        Qt::QueuedConnection);
 #endif
 }

@@ -1,15 +1,15 @@
-// What the allocator keeps of freed memory.
+// Limits the freed memory that the allocator keeps in the process.
 #pragma once
 
-/// Makes the allocator give large blocks back as soon as they are freed. To be called at the start of the
-/// program, before there are other threads. Without effect where the C library is not glibc.
+/// Makes the allocator return large blocks to the system when they are freed. Must be called at start-up,
+/// before other threads exist. No effect if the C library is not glibc.
 ///
-/// Live pictures are large blocks that are allocated and freed on many threads. By itself glibc raises the
-/// size from which a block gets pages of its own with every such block that is freed, and keeps a heap for
-/// each thread: after a few live views hundreds of megabytes that are free stay with the process.
+/// Decoded frames are large blocks that are allocated and freed on many threads. By default, glibc raises its
+/// mmap threshold each time such a block is freed, and creates heaps for threads. After a few live views, the
+/// process would keep hundreds of megabytes of free memory.
 void limitFreedMemory();
 
-/// Gives back what the allocator keeps for later, a moment after the call, on a thread of its own: what the
-/// caller and other threads are giving up by then goes along. Calls within that moment count as one. May be
-/// called on any thread; does nothing without an application object or where the C library is not glibc.
+/// Returns free memory to the system two seconds after the call, on a thread of the global pool. The delay
+/// includes memory that the caller and other threads are about to free. Further calls within the delay have
+/// no effect. Any thread; no effect without an application object or if the C library is not glibc.
 void returnFreedMemory();
