@@ -85,7 +85,7 @@ Shell::~Shell()
     if (m_engine)
         qDeleteAll(m_engine->rootObjects());
     m_engine.reset();
-    AudioOutput::letGo();
+    AudioOutput::awaitRelease();
     m_colourScheme.reset();
     CLocalConfig::deleteInstance();
     CGIConfigManage::deleteInstance(); // asks the factory

@@ -109,8 +109,8 @@ private:
     void readNumbers()
     {
         for (std::size_t view = 0; view < views; ++view) {
-            m_numbers[view] = m_videos[view]->currentPicture().lookAt([](const DecodedPicture &picture) {
-                return picture.isWhole() ? NumberedStream::numberOf(picture.y()) : -1;
+            m_numbers[view] = m_videos[view]->currentFrame().read([](const VideoFrame &frame) {
+                return frame.isComplete() ? NumberedStream::numberOf(frame.y()) : -1;
             });
         }
     }

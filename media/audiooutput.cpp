@@ -17,10 +17,10 @@
 
 namespace {
 
-constexpr std::int32_t highestSampleRate = 384000; // beyond, it is no sound
-constexpr qint64 letGoTime = 200;                  // milliseconds
+constexpr std::int32_t highestSampleRate = 384000; // higher rates are invalid
+constexpr qint64 releaseTime = 200;                // milliseconds
 
-QElapsedTimer lastClosed; ///< valid when an output was closed; main thread only
+QElapsedTimer lastClosed; ///< valid once an output was closed; main thread only
 
 } // namespace
 
@@ -53,7 +53,7 @@ void AudioOutput::push(const std::uint8_t *data, std::int32_t size, const std::f
 
 void AudioOutput::drain()
 {
-    look();
+    checkOutput();
     const QMutexLocker lock(&m_mutex);
     if (m_device && m_fill > 0) {
         if (m_sink->bytesFree() < m_fill)
@@ -64,17 +64,17 @@ void AudioOutput::drain()
     m_fill = 0;
 }
 
-void AudioOutput::look()
+void AudioOutput::checkOutput()
 {
-    // The server has ended the stream, with its output. The toolkit notices only by writing to it, and locks
-    // up the whole process then, for good.
+    // The audio server has ended the stream and removed the output. A write would block the process
+    // permanently in Qt.
     if (m_sink && m_sink->bytesFree() < 0) {
         close();
         m_output.clear();
     }
-    if (m_isClosing || !m_lastLook.isValid() || !m_lastLook.hasExpired(lookInterval))
+    if (m_isClosing || !m_lastCheck.isValid() || !m_lastCheck.hasExpired(checkInterval))
         return;
-    m_lastLook.start();
+    m_lastCheck.start();
     if (QMediaDevices::defaultAudioOutput().id() != m_output)
         reopen();
 }
@@ -94,8 +94,8 @@ void AudioOutput::reopen()
     const QAudioDevice device = QMediaDevices::defaultAudioOutput();
     close();
     m_output = device.id();
-    m_lastLook.start();
-    // The outputs may change before the first sound has told its rate.
+    m_lastCheck.start();
+    // The rate is 0 if the outputs change before the first audio.
     if (device.isNull() || format.sampleRate() <= 0 || format.sampleRate() > highestSampleRate)
         return;
     m_sink = std::make_unique<QAudioSink>(device, format, m_owner);
@@ -108,12 +108,12 @@ std::int32_t AudioOutput::fill() const
     return m_fill;
 }
 
-void AudioOutput::letGo()
+void AudioOutput::awaitRelease()
 {
-    if (!lastClosed.isValid() || lastClosed.hasExpired(letGoTime))
+    if (!lastClosed.isValid() || lastClosed.hasExpired(releaseTime))
         return;
     QEventLoop loop;
-    QTimer::singleShot(static_cast<int>(letGoTime - lastClosed.elapsed()), &loop, &QEventLoop::quit);
+    QTimer::singleShot(static_cast<int>(releaseTime - lastClosed.elapsed()), &loop, &QEventLoop::quit);
     loop.exec();
 }
 
@@ -121,7 +121,7 @@ void AudioOutput::close()
 {
     if (!m_sink)
         return;
-    // The sink's destructor runs an event loop, in which sound arrives and outputs change.
+    // The sink's destructor runs an event loop, which calls drain() and reopen().
     m_isClosing = true;
     m_device = nullptr;
     std::unique_ptr<QAudioSink> sink = std::move(m_sink);

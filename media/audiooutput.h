@@ -14,52 +14,53 @@ class QIODevice;
 class QMediaDevices;
 class QObject;
 
-/// The sound of one live view: gathers decoded sound on the decoder's thread and writes it to the system's
-/// default output on the thread of the view.
+/// The audio of one live stream: buffers decoded samples on the decoder's thread and writes them to the
+/// system's default output on the main thread. Functions are called on the thread that created the object
+/// unless stated otherwise.
 class AudioOutput
 {
 public:
-    static constexpr std::int32_t bufferSize = 102400; ///< bytes
+    static constexpr std::int32_t bufferSize = 102400; ///< in bytes
 
-    /// `owner` becomes the parent of what plays and outlives this object. `outputsChanged` is called on its
-    /// thread when the system's outputs have changed. Views of other threads than the application's, which
-    /// play nothing, do not watch them.
+    /// `owner` is the parent of the audio sink and outlives this object. `outputsChanged` is called on the
+    /// main thread when the system's outputs have changed. On another thread the object plays nothing and
+    /// does not call it.
     AudioOutput(QObject *owner, const std::function<void()> &outputsChanged);
     ~AudioOutput();
 
     AudioOutput(const AudioOutput &) = delete;
     AudioOutput &operator=(const AudioOutput &) = delete;
 
-    /// Returns true when the samples a second are others than before. On the decoder's thread.
+    /// Sets the sample rate in Hz. Returns whether it has changed. Decoder's thread.
     bool noteSampleRate(std::int32_t rate) { return m_sampleRate.exchange(rate) != rate; }
 
-    /// Keeps 16-bit samples until they are written, or drops them all when the buffer has no room; calls
-    /// `pushed` in both cases, with the buffer locked. On the decoder's thread.
+    /// Buffers `size` bytes of 16-bit samples, or drops them all if the buffer has too little space. Calls
+    /// `pushed` in both cases, with the buffer locked. Decoder's thread.
     void push(const std::uint8_t *data, std::int32_t size, const std::function<void()> &pushed);
 
-    /// Writes the gathered samples to the output, which drops those that it has no room for. Opens the output
-    /// again when it was removed or another one is the default. Not every system reports that (the sound
-    /// library of Debian 12 does not), so it is checked once a second.
+    /// Writes the buffered samples to the output, which drops those beyond its free space. Also opens the
+    /// output again if it was removed or is not the default one any more. Debian 12 does not report such
+    /// changes, so they are checked once a second.
     void drain();
 
-    /// Plays from now on with the current sample rate on the current default output, if there is one. Does
-    /// nothing where outputs are not watched.
+    /// Opens the default output, if there is one, with the current sample rate, and clears the buffer. Opens
+    /// nothing on other threads than the main thread.
     void reopen();
 
     [[nodiscard]] bool isOpen() const { return m_sink != nullptr; }
 
-    /// Bytes that wait to be written.
+    /// Number of buffered bytes. Any thread.
     [[nodiscard]] std::int32_t fill() const;
 
-    /// To be called before the process ends: lets the event loop run until the sound library has let go of an
-    /// output that was closed just now. It crashes otherwise, in some of a hundred cases.
-    static void letGo();
+    /// Runs the event loop until Qt has released a recently closed output. Must be called before the process
+    /// ends, which otherwise crashes occasionally. Main thread.
+    static void awaitRelease();
 
 private:
-    static constexpr int lookInterval = 1000; // milliseconds
+    static constexpr int checkInterval = 1000; // milliseconds
 
     void close();
-    void look();
+    void checkOutput();
 
     QObject *const m_owner;
     std::unique_ptr<QMediaDevices> m_devices;
@@ -68,8 +69,8 @@ private:
     std::int32_t m_fill = 0;
     std::atomic<std::int32_t> m_sampleRate = 0;
     std::unique_ptr<QAudioSink> m_sink;
-    QIODevice *m_device = nullptr; ///< the sink's
-    bool m_isClosing = false;      ///< nothing is opened then; look() finds a changed output later
-    QByteArray m_output;           ///< identity of the output that was opened last; empty for none
-    QElapsedTimer m_lastLook;
+    QIODevice *m_device = nullptr; ///< owned by the sink
+    bool m_isClosing = false;      ///< no output is opened then; checkOutput() finds a change later
+    QByteArray m_output;           ///< identifier of the last opened output; empty for none
+    QElapsedTimer m_lastCheck;
 };

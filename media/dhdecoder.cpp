@@ -13,7 +13,7 @@ namespace {
 constexpr std::uint32_t liveMode = 0;
 constexpr std::uint32_t streamBufferSize = 8388608;
 
-std::atomic<int> openPorts = 0; // of all decoders
+std::atomic<int> openPorts = 0; // number of open ports of all decoders
 
 } // namespace
 
@@ -92,12 +92,12 @@ StreamFigures CDHDecoder::figures() const
         figures.audioCodec = text(status.audioCodec);
         figures.waitingBytes = status.waitingBytes;
         figures.damages = status.damages;
-        figures.skippedPictures = status.skippedPictures;
+        figures.skippedFrames = status.skippedPictures;
     }
     const std::int64_t now = m_clock->now();
     const std::lock_guard lock(m_sumsMutex);
-    figures.picturesASecond = static_cast<double>(m_pictures.sum(now));
-    figures.kilobitsASecond = static_cast<double>(m_bytes.sum(now)) * 8 / 1000;
+    figures.framesPerSecond = static_cast<double>(m_frames.sum(now));
+    figures.kilobitsPerSecond = static_cast<double>(m_bytes.sum(now)) * 8 / 1000;
     return figures;
 }
 
@@ -105,7 +105,7 @@ void CDHDecoder::decodeCallback(std::int32_t /*port*/, const std::uint8_t *data,
                                 const sdk::DecodedFrameInformation *information, void *user)
 {
     if (user && information)
-        static_cast<CDHDecoder *>(user)->handOn(data, size, *information);
+        static_cast<CDHDecoder *>(user)->deliver(data, size, *information);
 }
 
 void CDHDecoder::realDataCallback(std::int64_t streamHandle, std::uint32_t dataType, const std::uint8_t *data,
@@ -124,13 +124,13 @@ void CDHDecoder::realDataCallback(std::int64_t streamHandle, std::uint32_t dataT
     }
 }
 
-void CDHDecoder::handOn(const std::uint8_t *data, std::int32_t size,
-                        const sdk::DecodedFrameInformation &information)
+void CDHDecoder::deliver(const std::uint8_t *data, std::int32_t size,
+                         const sdk::DecodedFrameInformation &information)
 {
     m_pictureColour = information.colour;
     if (information.type == sdk::DecodedFrameType::Picture) {
         const std::lock_guard lock(m_sumsMutex);
-        m_pictures.add(m_clock->now(), 1);
+        m_frames.add(m_clock->now(), 1);
     }
     m_observer->onDecodedFrame(data, size, information.width, information.height, information.type,
                                information.rate, 0);

@@ -9,29 +9,29 @@ void ItemRender::synchronize(QQuickFramebufferObject *item)
 {
     auto *video = static_cast<VideoItem *>(item);
     m_geometry = video->geometry();
-    m_fill = video->fillMode() == VideoItem::Stretch ? PictureFill::Stretch : PictureFill::PreserveAspectFit;
-    // The next picture waits until this one is in the textures: so long its bytes stay.
-    PictureProblem problem = PictureProblem::None;
-    video->currentPicture().lookAt([this, &problem](DecodedPicture &picture) {
-        m_hasPicture = picture.isWhole();
-        const QSize size(picture.width, picture.height);
-        if (m_hasPicture && (picture.isSizeStale || m_painter.pictureSize() != size)) {
-            m_painter.setPictureSize(size);
-            m_shownNumber = 0;
+    m_fill = video->fillMode() == VideoItem::Stretch ? FrameFill::Stretch : FrameFill::PreserveAspectFit;
+    // The bytes are valid while the lock is held, so the upload is inside.
+    DrawingError error = DrawingError::None;
+    video->currentFrame().read([this, &error](VideoFrame &frame) {
+        m_hasFrame = frame.isComplete();
+        const QSize size(frame.width, frame.height);
+        if (m_hasFrame && (frame.isSizeStale || m_painter.frameSize() != size)) {
+            m_painter.setFrameSize(size);
+            m_uploadedNumber = 0;
         }
-        if (m_hasPicture)
-            problem = m_painter.problem();
-        m_hasPicture = m_hasPicture && problem == PictureProblem::None;
-        picture.isSizeStale = false;
-        if (m_hasPicture && picture.number != m_shownNumber) {
-            m_painter.upload(picture);
-            m_shownNumber = picture.number;
+        if (m_hasFrame)
+            error = m_painter.error();
+        m_hasFrame = m_hasFrame && error == DrawingError::None;
+        frame.isSizeStale = false;
+        if (m_hasFrame && frame.number != m_uploadedNumber) {
+            m_painter.upload(frame);
+            m_uploadedNumber = frame.number;
         }
     });
-    if (video->pictureProblem() != problem) {
-        // Not at once: the scene's thread waits, and its properties change only on it.
+    if (video->drawingError() != error) {
+        // Queued: properties change on the main thread, which is blocked now.
         QMetaObject::invokeMethod(
-            video, [video, problem] { video->setPictureProblem(problem); }, Qt::QueuedConnection);
+            video, [video, error] { video->setDrawingError(error); }, Qt::QueuedConnection);
     }
     QQuickOpenGLUtils::resetOpenGLState();
 }
@@ -40,8 +40,8 @@ void ItemRender::render()
 {
     m_viewSize = framebufferObject()->size();
     m_painter.clear(m_viewSize);
-    if (m_hasPicture) {
-        const QSizeF filled = filledPart(m_fill, m_painter.pictureSize(), m_viewSize);
+    if (m_hasFrame) {
+        const QSizeF filled = filledPart(m_fill, m_painter.frameSize(), m_viewSize);
         m_painter.draw(viewMatrices(m_geometry, filled));
     }
     QQuickOpenGLUtils::resetOpenGLState();

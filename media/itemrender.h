@@ -1,6 +1,6 @@
 #pragma once
 
-#include "media/internal/picturepainter.h"
+#include "media/internal/framepainter.h"
 #include "media/viewgeometry.h"
 
 #include <QQuickFramebufferObject>
@@ -8,7 +8,8 @@
 
 #include <cstdint>
 
-/// Draws a VideoItem. Lives on the scene's render thread; sees the item only while the scene's thread waits.
+/// Draws a VideoItem. Lives on the render thread; accesses the item only in synchronize(), while the main
+/// thread is blocked.
 class ItemRender : public QQuickFramebufferObject::Renderer
 {
 public:
@@ -16,10 +17,10 @@ public:
     void render() override;
 
 private:
-    PicturePainter m_painter;
+    FramePainter m_painter;
     ViewGeometry m_geometry;
-    PictureFill m_fill = PictureFill::PreserveAspectFit;
-    std::uint64_t m_shownNumber = 0; ///< of the picture in the textures
-    QSize m_viewSize;                ///< in pixels of the screen
-    bool m_hasPicture = false;
+    FrameFill m_fill = FrameFill::PreserveAspectFit;
+    std::uint64_t m_uploadedNumber = 0; ///< of the frame in the textures; 0 for none
+    QSize m_viewSize;                   ///< in device pixels
+    bool m_hasFrame = false;
 };

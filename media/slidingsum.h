@@ -3,11 +3,11 @@
 #include <array>
 #include <cstdint>
 
-/// What was added during the last second, to a tenth of one. For one thread at a time.
+/// The sum of the amounts of the last second, with a resolution of 100 ms. Not thread-safe.
 class SlidingSum
 {
 public:
-    /// `now` in milliseconds, from any starting point.
+    /// `now` is in milliseconds since any start.
     void add(std::int64_t now, std::int64_t amount)
     {
         const std::int64_t tenth = now / tenthOfSecond;
@@ -17,7 +17,7 @@ public:
         slot.amount += amount;
     }
 
-    /// Of the ten tenths before the one that `now` is in.
+    /// The sum of the ten completed tenths before `now`.
     [[nodiscard]] std::int64_t sum(std::int64_t now) const
     {
         const std::int64_t current = now / tenthOfSecond;
@@ -43,5 +43,5 @@ private:
         return static_cast<std::size_t>(static_cast<std::uint64_t>(tenth) % 11);
     }
 
-    std::array<Slot, 11> m_slots; // the tenth that is being filled, and ten before it
+    std::array<Slot, 11> m_slots; // the current tenth and the ten before it
 };

@@ -1,10 +1,9 @@
 #include "media/snapshot.h"
 
-#include "media/videoitem.h"
+#include "media/videostream.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFileInfo>
 #include <QSaveFile>
 #include <QThread>
 
@@ -13,10 +12,9 @@
 
 namespace {
 
-/// Bytes of a large picture as a file.
-constexpr qsizetype pictureFileSize = qsizetype{1024} * 1024;
+constexpr qsizetype largeImageSize = qsizetype{1024} * 1024; // bytes of a JPEG file
 
-/// Makes the folder. Returns why that failed, or an empty text.
+/// Creates the folder. Returns the system's error text, or an empty string.
 QString folderProblem(const QString &folder)
 {
     std::error_code error;
@@ -24,22 +22,21 @@ QString folderProblem(const QString &folder)
     return error ? QString::fromLocal8Bit(error.message()) : QString();
 }
 
-/// Why a file of so many bytes cannot be written in place of `path`, or an empty text. The decoder library
-/// says only that it failed; a picture that has not come yet and a full disk look the same. What `path` holds
-/// stays.
+/// Why a file of `size` bytes cannot replace `path`; empty if it can. The file at `path` is not changed. The
+/// decoder library reports no reason: a missing frame and a full disk have the same result.
 QString writeProblem(const QString &path, qsizetype size)
 {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return file.errorString();
     for (qsizetype missing = size; missing > 0;) {
-        // A disk that becomes full takes a part first; the next write tells the reason.
+        // When a disk becomes full, the first write is partial and only the next one fails with the reason.
         const qint64 written = file.write(QByteArray(missing, '\0'));
         if (written <= 0)
             return file.errorString();
         missing -= written;
     }
-    return {}; // not committed: the file is removed
+    return {}; // without commit(), the temporary file is removed
 }
 
 SnapOutcome notWritten(const QString &reason)
@@ -58,34 +55,38 @@ SnapOutcome noPicture(const QString &reason = QString())
             .reason = reason};
 }
 
-/// `file` is where the picture goes.
-SnapOutcome savePicture(const SnapTask &task, int channel, const QString &file, const std::stop_token &stop)
+/// Saves the first frame of the channel's stream as `file`.
+SnapOutcome saveFirstFrame(const SnapTask &task, int channel, const QString &file,
+                           const std::stop_token &stop)
 {
-    VideoItem view;
-    view.setChannelId(channel);
-    view.setSession(task.ownSession);
+    VideoStream stream(task.libraries);
+    qint64 handle = 0; // the session of the stream
     for (int attempt = 0; attempt < task.tries && !stop.stop_requested(); ++attempt) {
         if (attempt > 0)
             QThread::msleep(snapPauseMilliseconds);
         if (!task.isDeviceCurrent())
-            return noPicture(); // its channels are another device's
+            return noPicture(); // the session is with another device
         // A new login ends the stream with its session.
-        if (attempt == 0 || view.loginHandle() != task.sessionHandle()) {
-            // Another device may be logged in to meanwhile: its picture must not pass for this one's.
-            const bool isBegun = view.start() && task.isDeviceCurrent();
-            if (!isBegun && view.loginHandle() == task.sessionHandle())
-                return noPicture(view.text());
-            if (!isBegun)
+        if (attempt == 0 || handle != task.sessionHandle()) {
+            stream.stop();
+            handle = task.sessionHandle();
+            // The device is checked again afterwards: a login to another device may have come first, whose
+            // image must not be saved as that of this device.
+            const bool isStarted =
+                stream.start({.loginHandle = handle, .channel = channel}) && task.isDeviceCurrent();
+            if (!isStarted && handle == task.sessionHandle())
+                return noPicture(stream.text());
+            if (!isStarted)
                 continue;
         }
-        if (view.savePicture(file, snapQuality))
+        if (stream.saveFrame(file, snapQuality))
             return {.path = QStringLiteral("file:///") + file,
                     .message = {},
                     .problem = SnapProblem::None,
                     .reason = {}};
-        const bool hasPicture =
-            view.currentPicture().lookAt([](const DecodedPicture &picture) { return picture.isWhole(); });
-        const QString problem = hasPicture ? writeProblem(file, pictureFileSize) : QString();
+        const bool hasFrame =
+            stream.currentFrame().read([](const VideoFrame &frame) { return frame.isComplete(); });
+        const QString problem = hasFrame ? writeProblem(file, largeImageSize) : QString();
         if (!problem.isEmpty())
             return notWritten(problem);
     }
@@ -101,13 +102,10 @@ SnapOutcome takeSnapshot(const SnapTask &task, const SnapChannel &channel, const
                 .message = QCoreApplication::translate("SnapThread", "通道未连接"),
                 .problem = SnapProblem::NotConnected,
                 .reason = QCoreApplication::translate("SnapThread", "通道未连接")};
-    const QString folder = task.ownSession != 0
-                               ? task.folder
-                               : QDir::current().absoluteFilePath(QStringLiteral("snap/") + task.folder);
-    const QString file = QDir(folder).absoluteFilePath(QStringLiteral("%1.jpg").arg(channel.number));
-    // Without the folder no stream is opened.
-    QString problem = folderProblem(folder);
+    const QString file = QDir(task.folder).absoluteFilePath(QStringLiteral("%1.jpg").arg(channel.number));
+    // Without a writable folder, no stream is opened.
+    QString problem = folderProblem(task.folder);
     if (problem.isEmpty())
         problem = writeProblem(file, 0);
-    return problem.isEmpty() ? savePicture(task, channel.number, file, stop) : notWritten(problem);
+    return problem.isEmpty() ? saveFirstFrame(task, channel.number, file, stop) : notWritten(problem);
 }

@@ -1,5 +1,7 @@
-// A snapshot of one channel's live picture.
+// A snapshot: an image file of one channel's live stream.
 #pragma once
+
+#include "sdk/sdklibraries.h"
 
 #include <QList>
 #include <QString>
@@ -8,49 +10,47 @@
 #include <functional>
 #include <stop_token>
 
-/// Tries for a picture, and the time between two of them.
-inline constexpr int snapTries = 25;
-inline constexpr int snapPauseMilliseconds = 100;
-inline constexpr int snapQuality = 50; ///< of the JPEG files
+inline constexpr int snapTries = 25;              ///< per channel
+inline constexpr int snapPauseMilliseconds = 100; ///< between two tries
+inline constexpr int snapQuality = 50;            ///< of the JPEG files, 1 to 100
 
-/// A channel that is to be taken.
+/// A requested channel.
 struct SnapChannel
 {
     int number = 0; ///< from 0
     bool connected = true;
 };
 
-/// What to take, and of which session.
+/// What the snapshots of one device have in common. The functions are called on the thread of the snapshots.
 struct SnapTask
 {
-    QString kind;   ///< "liveCapture" or "againCapture", as the signal tells it
-    QString folder; ///< of the device: one name without separators, or an absolute path with `ownSession`
-    std::function<bool()> isDeviceCurrent; ///< whether the session is still one with that device; any thread
-    std::function<qint64()> sessionHandle; ///< of that session, which a new login replaces; any thread
-    std::function<QList<SnapChannel>()> channels; ///< called on the thread of the snapshots: it may block
-    qint64 ownSession = 0; ///< handle of a session beside the current one; 0 for the current one
-    int tries = snapTries; ///< for each channel
+    sdk::SdkLibraries libraries;
+    QString kind;                          ///< "liveCapture" or "againCapture"; reported by SnapThread
+    QString folder;                        ///< absolute path of the device's folder
+    std::function<bool()> isDeviceCurrent; ///< whether sessionHandle() is still a session with the device
+    std::function<qint64()> sessionHandle; ///< changes with a new login
+    std::function<QList<SnapChannel>()> channels; ///< the requested channels; may block
+    int tries = snapTries;                        ///< for each channel
 };
 
 enum class SnapProblem
 {
     None,
     NotConnected, ///< the channel has no camera
-    NoPicture,    ///< none has been decoded in time
-    NotWritten,   ///< the file could not be
+    NoPicture,    ///< no frame was decoded in time
+    NotWritten,   ///< the file could not be written
 };
 
 struct SnapOutcome
 {
-    QString path;    ///< a "file:///" address, empty on failure
+    QString path;    ///< a "file:///" URL, empty on failure
     QString message; ///< in the user's language, empty on success
     SnapProblem problem = SnapProblem::None;
-    QString reason; ///< of the problem beyond its name, in the user's language; may be empty
+    QString reason; ///< details of the problem in the user's language; may be empty
 };
 
-/// Opens a hidden live view of the channel, waits until a picture has been decoded, lets the decoder write it
-/// to "snap/<folder>/<channel>.jpg" below the current folder, and closes the view. A file that cannot be
-/// written is reported at once, with the reason. Blocks for about 0.1 s for each try at the most, and ends
-/// early when `stop` is requested. Any thread but the scene's.
+/// Opens a separate stream of the channel, waits for a frame, and saves it as "<channel>.jpg" in the folder
+/// of the task. Blocks for at most 0.1 s per try plus the responses of the device. A file that cannot be
+/// written is reported immediately. A request to stop cancels. Any thread except the main thread.
 [[nodiscard]] SnapOutcome takeSnapshot(const SnapTask &task, const SnapChannel &channel,
                                        const std::stop_token &stop);

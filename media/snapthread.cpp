@@ -19,7 +19,7 @@ void SnapThread::take(SnapTask task)
             return;
         m_isWorking = true;
     }
-    wait(); // a thread that has just found nothing more to do may still be on its way out
+    wait(); // the thread may still be ending
     start();
 }
 

@@ -1,4 +1,4 @@
-// Snapshots of live pictures, off the scene's thread.
+// Snapshots on a separate thread.
 #pragma once
 
 #include "media/snapshot.h"
@@ -10,21 +10,22 @@
 
 #include <stop_token>
 
-/// Takes snapshots one after another, of one task after another; the thread runs while there is one.
+/// Takes the snapshots of its tasks one after another. The thread runs while there are tasks.
 class SnapThread : public QThread
 {
     Q_OBJECT
 public:
     explicit SnapThread(QObject *parent = nullptr) : QThread(parent) {}
 
-    /// Gives up what is being taken, and waits for the thread.
+    /// Cancels all tasks and waits for the thread.
     ~SnapThread() override;
 
+    /// Adds a task.
     void take(SnapTask task);
 
 Q_SIGNALS:
-    /// Once per channel, from the thread: `path` is a "file:///" address, empty on failure; `message` is
-    /// empty on success, else in the user's language.
+    /// Emitted once per channel, on the separate thread. `kind` is that of the task, `channel` is from 0.
+    /// `path` is a "file:///" URL, empty on failure. `message` is in the user's language, empty on success.
     void captured(const QString &kind, int channel, const QString &path, const QString &message);
 
 protected:
@@ -33,8 +34,8 @@ protected:
 private:
     void perform(const SnapTask &task);
 
-    QMutex m_mutex;
+    QMutex m_mutex; ///< guards the two members below
     QList<SnapTask> m_tasks;
-    bool m_isWorking = false;
+    bool m_isWorking = false; ///< false once the thread has found no task
     std::stop_source m_stop;
 };

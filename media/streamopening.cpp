@@ -27,45 +27,44 @@ QThreadPool &openingThreads()
 struct StreamOpening::State
 {
     std::shared_ptr<sdk::NetLibrary> net;
-    std::mutex mutex; ///< of what follows
-    bool isWanted = true;
-    Result result; ///< its stream is opened and not taken yet
+    std::mutex mutex; ///< guards the members below
+    bool isPending = true;
+    Result result; ///< an open stream whose handler has not been called yet
 };
 
-StreamOpening::Result StreamOpening::ask(sdk::NetLibrary *net, const Order &order)
+StreamOpening::Result StreamOpening::open(sdk::NetLibrary *net, const Request &request)
 {
     Result result;
     if (!net)
         return result;
-    result.handle = net->NetStartRealStream(order.loginHandle, order.channel, 0, order.kind);
+    result.handle = net->NetStartRealStream(request.loginHandle, request.channel, 0, request.kind);
     if (result.handle == 0)
         result.error = net->NetGetLastError();
     return result;
 }
 
-StreamOpening::StreamOpening(std::shared_ptr<sdk::NetLibrary> net, const Order &order, QObject *context,
-                             Opened opened)
+StreamOpening::StreamOpening(std::shared_ptr<sdk::NetLibrary> net, const Request &request, QObject *context,
+                             Handler handler)
     : m_state(std::make_shared<State>())
 {
     m_state->net = std::move(net);
-    openingThreads().start([state = m_state, order, context, opened = std::move(opened)] {
-        const Result result = ask(state->net.get(), order);
+    openingThreads().start([state = m_state, request, context, handler = std::move(handler)] {
+        const Result result = open(state->net.get(), request);
         {
-            // While it is wanted, the context exists.
             const std::lock_guard lock(state->mutex);
-            if (state->isWanted) {
+            if (state->isPending) { // the context exists
                 state->result = result;
                 QMetaObject::invokeMethod(
                     context,
-                    [state, opened] {
-                        Result taken;
+                    [state, handler] {
+                        Result opened;
                         {
-                            const std::lock_guard taking(state->mutex);
-                            if (!std::exchange(state->isWanted, false))
+                            const std::lock_guard handlerLock(state->mutex);
+                            if (!std::exchange(state->isPending, false))
                                 return;
-                            taken = std::exchange(state->result, {});
+                            opened = std::exchange(state->result, {});
                         }
-                        opened(taken);
+                        handler(opened);
                     },
                     Qt::QueuedConnection);
                 return;
@@ -79,7 +78,7 @@ StreamOpening::StreamOpening(std::shared_ptr<sdk::NetLibrary> net, const Order &
 StreamOpening::~StreamOpening()
 {
     const std::lock_guard lock(m_state->mutex);
-    m_state->isWanted = false;
+    m_state->isPending = false;
     if (const std::int64_t handle = std::exchange(m_state->result.handle, 0); handle != 0)
         openingThreads().start([net = m_state->net, handle] { net->NetStopRealStream(handle); });
 }

@@ -1,4 +1,4 @@
-// A live stream that a device is asked for while the window goes on.
+// A request for a live stream that does not block the window.
 #pragma once
 
 #include "sdk/loginblocks.h"
@@ -14,12 +14,12 @@ namespace sdk {
 class NetLibrary;
 }
 
-/// One request for a stream, on a thread of a pool that ends with the application. Everything but the request
-/// is on the thread of the application's window.
+/// One request for a stream, on a thread of a pool that ends with the application. It is created and
+/// destroyed on the thread of its context.
 class StreamOpening
 {
 public:
-    struct Order
+    struct Request
     {
         sdk::LLONG loginHandle = 0;
         std::int32_t channel = 0; ///< from 0
@@ -28,21 +28,22 @@ public:
 
     struct Result
     {
-        std::int64_t handle = 0; ///< belongs to the callee; 0 if there is no stream
-        std::uint32_t error = 0; ///< of the library, without a stream
+        std::int64_t handle = 0; ///< of the stream, which the receiver closes; 0 on failure
+        std::uint32_t error = 0; ///< NetGetLastError() on failure
     };
 
-    using Opened = std::function<void(const Result &result)>;
+    using Handler = std::function<void(const Result &result)>;
 
-    /// Asks for a stream and blocks until the device has answered. Without a library (null) there is none.
-    [[nodiscard]] static Result ask(sdk::NetLibrary *net, const Order &order);
+    /// Blocks until the device has responded. Fails without a library (null).
+    [[nodiscard]] static Result open(sdk::NetLibrary *net, const Request &request);
 
-    /// Asks at once; without a library (null) there is no stream. `opened` is called on the thread of
-    /// `context`, which outlives this object.
-    StreamOpening(std::shared_ptr<sdk::NetLibrary> net, const Order &order, QObject *context, Opened opened);
+    /// Starts the request. `handler` is called once on the thread of `context`, which needs an event loop and
+    /// outlives this object. Fails without a library (null).
+    StreamOpening(std::shared_ptr<sdk::NetLibrary> net, const Request &request, QObject *context,
+                  Handler handler);
 
-    /// Without a call before, `opened` is not called any more, and the stream is closed as soon as it is
-    /// there.
+    /// Cancels the request if the handler has not been called: it is not called, and a stream that is opened
+    /// later is closed.
     ~StreamOpening();
     StreamOpening(const StreamOpening &) = delete;
     StreamOpening &operator=(const StreamOpening &) = delete;

@@ -3,39 +3,39 @@
 #include <atomic>
 #include <cstdint>
 
-/// Notices that a stream brings no pictures. Times are in milliseconds, from any starting point.
+/// Detects a stream that delivers no frames. Times are in milliseconds since any start.
 class StreamWatch
 {
 public:
-    static constexpr std::int64_t firstPictureLimit = 8000;
-    static constexpr std::int64_t nextPictureLimit = 4000;
+    static constexpr std::int64_t firstFrameTimeout = 8000;
+    static constexpr std::int64_t nextFrameTimeout = 4000;
 
     /// A stream was started at `now`.
-    void begin(std::int64_t now)
+    void start(std::int64_t now)
     {
-        m_lastPicture = none;
-        m_begin = now;
-        m_toldOf = none;
+        m_lastFrame = none;
+        m_start = now;
+        m_reported = none;
     }
 
-    /// A picture has come. On any thread.
-    void notePicture(std::int64_t now) { m_lastPicture = now; }
+    /// A frame arrived at `now`. Any thread.
+    void noteFrame(std::int64_t now) { m_lastFrame = now; }
 
-    /// True once when the stream has brought no picture for too long; again when it has brought some since.
-    [[nodiscard]] bool isOverdue(std::int64_t now)
+    /// Returns true once after each timeout; the next one starts with the next frame.
+    [[nodiscard]] bool hasTimedOut(std::int64_t now)
     {
-        const std::int64_t last = m_lastPicture;
-        const std::int64_t since = last == none ? m_begin : last;
-        if (now - since < (last == none ? firstPictureLimit : nextPictureLimit) || m_toldOf == since)
+        const std::int64_t last = m_lastFrame;
+        const std::int64_t since = last == none ? m_start : last;
+        if (now - since < (last == none ? firstFrameTimeout : nextFrameTimeout) || m_reported == since)
             return false;
-        m_toldOf = since;
+        m_reported = since;
         return true;
     }
 
 private:
     static constexpr std::int64_t none = INT64_MIN;
 
-    std::int64_t m_begin = 0;
-    std::atomic<std::int64_t> m_lastPicture = none;
-    std::int64_t m_toldOf = none; ///< the time that the last silence was counted from
+    std::int64_t m_start = 0;
+    std::atomic<std::int64_t> m_lastFrame = none;
+    std::int64_t m_reported = none; ///< the start of the reported timeout
 };

@@ -4,15 +4,16 @@
 
 #include <cstdint>
 
-/// Gets what a CDHDecoder decodes.
+/// Receives the output of a CDHDecoder.
 class VideoDataObserver
 {
 public:
     virtual ~VideoDataObserver() = default;
 
-    /// Called with a picture or a piece of sound, on the decoder's thread. How long the bytes last is said at
-    /// sdk::DecodeHandler. `width` and `height` are 0 for sound; `rate` is pictures a second or samples a
-    /// second; `reserved` is 0.
+    /// Called with a frame of video or a chunk of audio, on the decoder's thread. The bytes of video stay
+    /// valid until two more frames have been delivered or the decoder has stopped; those of audio are valid
+    /// during the call. `width` and `height` are in pixels, 0 for audio. `rate` is in frames or samples per
+    /// second, 0 if unknown. `reserved` is 0.
     virtual void onDecodedFrame(const std::uint8_t *data, std::int32_t size, std::int32_t width,
                                 std::int32_t height, sdk::DecodedFrameType type, std::int32_t rate,
                                 std::int32_t reserved) = 0;

@@ -7,7 +7,7 @@ namespace {
 
 constexpr float zoomStep = 1.2F;
 
-/// The nearest centre whose window, `half` to either side, lies in 0 to 1.
+/// The nearest centre whose section, `half` to either side, is within 0 to 1.
 float insideCentre(float centre, float half)
 {
     if (centre - half < 0.0F)
@@ -43,15 +43,15 @@ void ViewGeometry::zoomTo(std::int32_t level, const QPointF &anchor, const QSize
     m_scale = std::pow(zoomStep, static_cast<float>(wanted));
     const double growth = m_scale / oldScale - 1.0F;
     drag(growth * (view.width() / 2 - anchor.x()), growth * (view.height() / 2 - anchor.y()), view);
-    keepInside(); // in an empty view nothing was dragged
+    keepInside(); // drag() does not do it in an empty view
 }
 
 void ViewGeometry::zoomBy(double steps, const QPointF &anchor, const QSizeF &view)
 {
-    if (!(std::abs(steps) > 0)) // nor for what is no number
+    if (!(std::abs(steps) > 0)) // 0 or NaN
         return;
-    const double whole = std::max(std::round(std::min(std::abs(steps), double(maximumLevel))), 1.0);
-    zoomTo(m_level + static_cast<std::int32_t>(std::copysign(whole, steps)), anchor, view);
+    const double levels = std::max(std::round(std::min(std::abs(steps), double(maximumLevel))), 1.0);
+    zoomTo(m_level + static_cast<std::int32_t>(std::copysign(levels, steps)), anchor, view);
 }
 
 void ViewGeometry::keepInside()
@@ -61,19 +61,19 @@ void ViewGeometry::keepInside()
                 insideCentre(static_cast<float>(m_centre.y()), half)};
 }
 
-QSizeF filledPart(PictureFill fill, const QSizeF &picture, const QSizeF &view)
+QSizeF filledPart(FrameFill fill, const QSizeF &frame, const QSizeF &view)
 {
-    if (fill == PictureFill::Stretch || picture.isEmpty() || view.isEmpty())
+    if (fill == FrameFill::Stretch || frame.isEmpty() || view.isEmpty())
         return {1, 1};
-    const QSizeF fitted = picture.scaled(view, Qt::KeepAspectRatio);
+    const QSizeF fitted = frame.scaled(view, Qt::KeepAspectRatio);
     return {fitted.width() / view.width(), fitted.height() / view.height()};
 }
 
 ViewMatrices viewMatrices(const ViewGeometry &geometry, const QSizeF &filled)
 {
-    // The scene that is zoomed is the view with the picture in its middle, so that a point of the picture
-    // stays under the pointer also beside black bars. A point p of the square is to come to
-    // scale * (filled * p + 1 - 2 * centre).
+    // The content is the view with the frame in its centre, including the bars next to the frame, so that
+    // zoom keeps the point under the pointer. A point p of the square is mapped to scale * (filled * p + 1 -
+    // 2 * centre).
     const auto width = static_cast<float>(filled.width());
     const auto height = static_cast<float>(filled.height());
     const float scale = geometry.scale();

@@ -1,4 +1,4 @@
-// Which part of a picture a view shows, and where.
+// Zoom, pan and aspect ratio of a live view.
 #pragma once
 
 #include <QMatrix4x4>
@@ -7,25 +7,27 @@
 
 #include <cstdint>
 
-/// Zoom and pan. The view shows a window of the scene that it shows whole at level 0; the centre of the
-/// window is in units of that scene, 0 to 1 from its left and its top.
+/// Zoom and pan. The content is the view's image at level 0. The view shows a section of the content, 1 /
+/// scale() of its width and height, that never extends beyond the content.
 class ViewGeometry
 {
 public:
     static constexpr std::int32_t maximumLevel = 20;
 
-    [[nodiscard]] std::int32_t level() const { return m_level; }
-    [[nodiscard]] float scale() const { return m_scale; } ///< 1.2 to the power of the level
+    [[nodiscard]] std::int32_t level() const { return m_level; } ///< 0 to maximumLevel
+    [[nodiscard]] float scale() const { return m_scale; }        ///< 1.2 to the power of the level
+    /// Centre of the section, from 0 (left or top) to 1 (right or bottom of the content).
     [[nodiscard]] QPointF centre() const { return m_centre; }
 
-    /// Moves the scene by so many pixels of the view. Does nothing in an empty view.
+    /// Moves the content by a distance in pixels of the view. No effect if the view is empty or a value is
+    /// not finite.
     void drag(double deltaX, double deltaY, const QSizeF &view);
 
-    /// Sets the level, which ends at its limits; the point of the scene under `anchor`, in pixels of the
-    /// view, stays where it is as far as the window's limits let it.
+    /// Sets the level, clamped to its range. The point of the content under `anchor`, in pixels of the view,
+    /// stays there unless the section would extend beyond the content.
     void zoomTo(std::int32_t level, const QPointF &anchor, const QSizeF &view);
 
-    /// By so many levels, at least by one; not at all for 0.
+    /// Changes the level by `steps`, rounded to at least one level. No effect for 0 and NaN.
     void zoomBy(double steps, const QPointF &anchor, const QSizeF &view);
 
 private:
@@ -36,19 +38,23 @@ private:
     QPointF m_centre = {0.5, 0.5};
 };
 
-enum class PictureFill
+/// How a frame fills the view.
+enum class FrameFill
 {
-    Stretch,           ///< the whole view
-    PreserveAspectFit, ///< as large as goes into the view in the picture's own shape, in the middle
+    Stretch,           ///< completely
+    PreserveAspectFit, ///< centred, as large as possible with the frame's aspect ratio
 };
 
-/// The part of the view's width and height that a picture fills; both 1 when either is empty.
-[[nodiscard]] QSizeF filledPart(PictureFill fill, const QSizeF &picture, const QSizeF &view);
+/// The fraction of the view's width and height that a frame fills at level 0; 1 x 1 if either is empty.
+[[nodiscard]] QSizeF filledPart(FrameFill fill, const QSizeF &frame, const QSizeF &view);
 
-/// For a square from -1 to 1 with y upward: `model` brings zoom and pan, `project` the shape of the picture.
+/// Matrices for a square from -1 to 1 with upward y: `model` zooms and pans, `project` applies the aspect
+/// ratio.
 struct ViewMatrices
 {
     QMatrix4x4 model;
     QMatrix4x4 project;
 };
+
+/// `filled` is the result of filledPart().
 [[nodiscard]] ViewMatrices viewMatrices(const ViewGeometry &geometry, const QSizeF &filled);

@@ -48,18 +48,18 @@ private Q_SLOTS:
             fake.clock->advance(50ms);
         }
         StreamFigures figures = decoder.figures();
-        QCOMPARE(figures.picturesASecond, 20.0);
-        QCOMPARE(figures.kilobitsASecond, 160.0);
+        QCOMPARE(figures.framesPerSecond, 20.0);
+        QCOMPARE(figures.kilobitsPerSecond, 160.0);
         QCOMPARE(figures.videoCodec, QString("H.265"));
         QCOMPARE(figures.audioCodec, QString("AAC"));
         QCOMPARE(figures.waitingBytes, 1200U);
         QCOMPARE(figures.damages, 2U);
-        QCOMPARE(figures.skippedPictures, 3U);
+        QCOMPARE(figures.skippedFrames, 3U);
 
         fake.clock->advance(500ms); // no data arrives any more
-        QCOMPARE(decoder.figures().picturesASecond, 10.0);
+        QCOMPARE(decoder.figures().framesPerSecond, 10.0);
         fake.clock->advance(5000ms);
-        QCOMPARE(decoder.figures().picturesASecond, 0.0);
+        QCOMPARE(decoder.figures().framesPerSecond, 0.0);
         decoder.Stop();
         QCOMPARE(decoder.figures().videoCodec, QString());
     }

@@ -111,7 +111,7 @@ private Q_SLOTS:
     void cleanupTestCase()
     {
         CDeviceFactory::deleteInstance();
-        AudioOutput::letGo();
+        AudioOutput::awaitRelease();
     }
 
     void aToneIsPlayed_data()

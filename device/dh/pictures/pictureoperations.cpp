@@ -12,7 +12,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QThread>
 
 #include <algorithm>
 #include <memory>
@@ -58,16 +57,10 @@ QString missingPictureText(const SnapOutcome &outcome)
                                     : outcome.reason;
 }
 
-/// Runs takeSnapshot() on a QThread. A hidden live view starts timers, which Qt allows on a QThread only; the
-/// threads of the engine are not QThreads.
-SnapOutcome snapshotOnThread(const SnapTask &task, const SnapChannel &channel, const std::stop_token &stop)
+/// The folder of a device's snapshots.
+QString snapshotFolder(const QString &device)
 {
-    SnapOutcome outcome;
-    const std::unique_ptr<QThread> thread(
-        QThread::create([&] { outcome = takeSnapshot(task, channel, stop); }));
-    thread->start();
-    thread->wait();
-    return outcome;
+    return QDir::current().absoluteFilePath(QStringLiteral("snap/") + folderName(device));
 }
 
 } // namespace
@@ -102,8 +95,9 @@ void PictureOperations::takeSnapshots(const QString &kind, int channel, const QS
 
 SnapTask PictureOperations::snapTask(const QString &kind, int onlyChannel, const QString &address) const
 {
-    return {.kind = kind,
-            .folder = folderName(address),
+    return {.libraries = m_libraries,
+            .kind = kind,
+            .folder = snapshotFolder(address),
             .isDeviceCurrent =
                 [this, generation = m_session.deviceGeneration()] {
                     return m_session.deviceGeneration() == generation;
@@ -136,16 +130,16 @@ QList<DeviceStep> PictureOperations::snapshotSteps(const QString &address)
     const auto channels = std::make_shared<Channels>();
     QList<DeviceStep> steps;
     for (int number = 0; number < m_session.channelCount(); ++number) {
-        steps.append([this, channels, number,
-                      task = snapTask(allChannels, -1, address)](const StepControl &control) {
-            std::call_once(channels->asked, [&] { channels->list = task.channels(); });
-            const SnapOutcome outcome =
-                snapshotOnThread(task, channels->list.value(number, {.number = number}), control.stopToken());
-            if (outcome.problem == SnapProblem::NoPicture && control.shouldEnd())
-                return StepOutcome{.result = resultCode(LoginResult::NotDone), .text = {}};
-            noteSnapshot(allChannels, number, outcome.path, outcome.message);
-            return StepOutcome{.result = snapResult(outcome.problem), .text = outcome.reason};
-        });
+        steps.append(
+            [this, channels, number, task = snapTask(allChannels, -1, address)](const StepControl &control) {
+                std::call_once(channels->asked, [&] { channels->list = task.channels(); });
+                const SnapOutcome outcome =
+                    takeSnapshot(task, channels->list.value(number, {.number = number}), control.stopToken());
+                if (outcome.problem == SnapProblem::NoPicture && control.shouldEnd())
+                    return StepOutcome{.result = resultCode(LoginResult::NotDone), .text = {}};
+                noteSnapshot(allChannels, number, outcome.path, outcome.message);
+                return StepOutcome{.result = snapResult(outcome.problem), .text = outcome.reason};
+            });
     }
     return steps;
 }
@@ -190,19 +184,19 @@ StepOutcome PictureOperations::takePictures(const PictureOrder &order, const Sec
     }
 
     // Images of many devices at the same time are slow: more tries, until the first channel fails.
-    SnapTask task = {.kind = {},
+    SnapTask task = {.libraries = m_libraries,
+                     .kind = {},
                      .folder = order.folder,
                      .isDeviceCurrent = [] { return true; },
                      .sessionHandle = [handle = login.handle] { return handle; },
                      .channels = {},
-                     .ownSession = login.handle,
                      .tries = 4 * snapTries};
     StepOutcome failure = {.result = resultCode(LoginResult::NotDone), .text = {}};
     int failures = 0;
     for (const SnapChannel &channel : std::as_const(channels)) {
         if (control.shouldEnd())
             return {.result = resultCode(LoginResult::NotDone), .text = {}};
-        const SnapOutcome outcome = snapshotOnThread(task, channel, control.stopToken());
+        const SnapOutcome outcome = takeSnapshot(task, channel, control.stopToken());
         if (outcome.problem == SnapProblem::NoPicture)
             task.tries = snapTries;
         else
@@ -224,16 +218,15 @@ OwnPicture PictureOperations::takeOwnPicture(const sdk::SdkLibraries &libraries,
 {
     const QList<bool> connected =
         connectedChannels(ConfigSession(libraries, order.handle), order.channelCount);
-    const SnapTask task = {
-        .kind = {},
-        .folder = QDir::current().absoluteFilePath(QStringLiteral("snap/") + folderName(order.folder)),
-        .isDeviceCurrent = [] { return true; },
-        .sessionHandle = [handle = order.handle] { return handle; },
-        .channels = {},
-        .ownSession = order.handle};
+    const SnapTask task = {.libraries = libraries,
+                           .kind = {},
+                           .folder = snapshotFolder(order.folder),
+                           .isDeviceCurrent = [] { return true; },
+                           .sessionHandle = [handle = order.handle] { return handle; },
+                           .channels = {}};
     const SnapOutcome outcome =
-        snapshotOnThread(task, {.number = order.channel, .connected = connected.value(order.channel, true)},
-                         control.stopToken());
+        takeSnapshot(task, {.number = order.channel, .connected = connected.value(order.channel, true)},
+                     control.stopToken());
     return {.path = outcome.path, .message = outcome.message};
 }
 

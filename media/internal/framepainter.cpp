@@ -1,4 +1,4 @@
-#include "media/internal/picturepainter.h"
+#include "media/internal/framepainter.h"
 
 #include "media/logging.h"
 
@@ -10,20 +10,20 @@
 
 namespace {
 
-// Names that may be missing in the headers of an ES system.
+// Constants that the headers of an ES system may lack.
 constexpr int redFormat8 = 0x8229;     // GL_R8
 constexpr unsigned redFormat = 0x1903; // GL_RED
-constexpr int usualUnpackAlignment = 4;
+constexpr int defaultUnpackAlignment = 4;
 
-/// Whether textures of one channel are there under their newer name. The older one is missing where the newer
-/// is the rule.
+/// Whether the context supports GL_RED for textures with one channel. Core profiles support only GL_RED,
+/// older contexts only GL_LUMINANCE.
 bool hasRedTextures(const QOpenGLContext &context)
 {
     return context.format().majorVersion() >= 3 ||
            context.hasExtension(context.isOpenGLES() ? "GL_EXT_texture_rg" : "GL_ARB_texture_rg");
 }
 
-/// The working directory comes first; a program that was started elsewhere has its own files beside it.
+/// The shader file in the working directory, otherwise the one in the folder of the application.
 QString shaderPath(const QString &name)
 {
     const QString path = QStringLiteral("./Shaders/") + name;
@@ -34,7 +34,7 @@ QString shaderPath(const QString &name)
 struct Corner
 {
     std::array<float, 2> position; ///< y upward
-    std::array<float, 2> texture;  ///< y downward, as the lines of a picture
+    std::array<float, 2> texture;  ///< y downward, as the lines of a frame
 };
 
 constexpr std::array<Corner, 4> corners = {{
@@ -46,30 +46,30 @@ constexpr std::array<Corner, 4> corners = {{
 
 } // namespace
 
-PicturePainter::~PicturePainter()
+FramePainter::~FramePainter()
 {
-    if (m_hasBegun)
+    if (m_isInitialized)
         deleteTextures();
 }
 
-void PicturePainter::begin()
+void FramePainter::initialize()
 {
-    if (m_hasBegun)
+    if (m_isInitialized)
         return;
-    m_hasBegun = true;
+    m_isInitialized = true;
     initializeOpenGLFunctions();
     const bool red = hasRedTextures(*QOpenGLContext::currentContext());
     m_internalFormat = red ? redFormat8 : GL_LUMINANCE;
     m_format = red ? redFormat : GL_LUMINANCE;
     if (red && QOpenGLContext::currentContext()->isOpenGLES() &&
         QOpenGLContext::currentContext()->format().majorVersion() < 3) {
-        m_internalFormat = static_cast<int>(redFormat); // sized ones came later
+        m_internalFormat = static_cast<int>(redFormat); // ES 2 has no sized formats
     }
     buildProgram();
     buildSquare();
 }
 
-void PicturePainter::buildProgram()
+void FramePainter::buildProgram()
 {
     const bool hasVertexShader =
         m_program.addShaderFromSourceFile(QOpenGLShader::Vertex, shaderPath(QStringLiteral("vertex.vsh")));
@@ -83,27 +83,27 @@ void PicturePainter::buildProgram()
         return;
     m_canDraw = m_program.link();
     if (!m_canDraw)
-        qCWarning(logMedia) << "The shaders do not go together:" << m_program.log();
+        qCWarning(logMedia) << "The shaders cannot be linked:" << m_program.log();
 }
 
-void PicturePainter::buildSquare()
+void FramePainter::buildSquare()
 {
-    m_vertexArray.create(); // where there is none, the states below are set for each drawing
+    m_vertexArray.create(); // optional: draw() sets the attributes each time
     m_square.create();
     m_square.bind();
     m_square.allocate(corners.data(), sizeof(corners));
     m_square.release();
 }
 
-void PicturePainter::setPictureSize(const QSize &size)
+void FramePainter::setFrameSize(const QSize &size)
 {
-    begin();
+    initialize();
     deleteTextures();
     m_size = size;
     GLint longestSide = 0;
     glGetIntegerv(GL_MAX_TEXTURE_SIZE, &longestSide);
     if (size.width() > longestSide || size.height() > longestSide) {
-        qCWarning(logMedia) << "The graphics driver cannot show pictures of" << size;
+        qCWarning(logMedia) << "The graphics driver does not support frames of" << size;
         return;
     }
     const QSize chroma((size.width() + 1) / 2, (size.height() + 1) / 2);
@@ -120,31 +120,31 @@ void PicturePainter::setPictureSize(const QSize &size)
     }
 }
 
-PictureProblem PicturePainter::problem() const
+DrawingError FramePainter::error() const
 {
     if (!m_canDraw)
-        return PictureProblem::NoShaders;
-    return hasTextures() ? PictureProblem::None : PictureProblem::TooLarge;
+        return DrawingError::NoShaders;
+    return hasTextures() ? DrawingError::None : DrawingError::TooLarge;
 }
 
-void PicturePainter::upload(const DecodedPicture &picture)
+void FramePainter::upload(const VideoFrame &frame)
 {
-    m_colour = picture.colour;
-    const std::array<const std::uint8_t *, 3> planes = {picture.y(), picture.u(), picture.v()};
+    m_colour = frame.colour;
+    const std::array<const std::uint8_t *, 3> planes = {frame.y(), frame.u(), frame.v()};
     glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
     for (std::size_t plane = 0; plane < planes.size(); ++plane) {
         const bool isLuma = plane == 0;
         glBindTexture(GL_TEXTURE_2D, m_textures.at(plane));
-        glTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, isLuma ? picture.width : picture.chromaWidth(),
-                        isLuma ? picture.height : picture.chromaHeight(), m_format, GL_UNSIGNED_BYTE,
+        glTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, isLuma ? frame.width : frame.chromaWidth(),
+                        isLuma ? frame.height : frame.chromaHeight(), m_format, GL_UNSIGNED_BYTE,
                         planes.at(plane));
     }
-    glPixelStorei(GL_UNPACK_ALIGNMENT, usualUnpackAlignment);
+    glPixelStorei(GL_UNPACK_ALIGNMENT, defaultUnpackAlignment);
 }
 
-void PicturePainter::clear(const QSize &view)
+void FramePainter::clear(const QSize &view)
 {
-    begin();
+    initialize();
     glViewport(0, 0, view.width(), view.height());
     glDisable(GL_BLEND);
     glDisable(GL_CULL_FACE);
@@ -156,7 +156,7 @@ void PicturePainter::clear(const QSize &view)
     glClear(GL_COLOR_BUFFER_BIT);
 }
 
-void PicturePainter::draw(const ViewMatrices &matrices)
+void FramePainter::draw(const ViewMatrices &matrices)
 {
     if (!m_canDraw)
         return;
@@ -165,7 +165,7 @@ void PicturePainter::draw(const ViewMatrices &matrices)
     m_program.setUniformValue("u_viewMatrix", QMatrix4x4());
     m_program.setUniformValue("u_projectMatrix", matrices.project);
     m_program.setUniformValue("pixFmt", static_cast<int>(m_colour));
-    // Of an odd number of pixels, the last sample of U and V belongs to one instead of two.
+    // With an odd number of pixels, the last sample of U and V covers one pixel instead of two.
     const auto coveredPart = [](int pixels) {
         return static_cast<float>(pixels) / static_cast<float>(pixels + pixels % 2);
     };
@@ -191,7 +191,7 @@ void PicturePainter::draw(const ViewMatrices &matrices)
     glActiveTexture(GL_TEXTURE0);
 }
 
-void PicturePainter::deleteTextures()
+void FramePainter::deleteTextures()
 {
     if (hasTextures())
         glDeleteTextures(static_cast<GLsizei>(m_textures.size()), m_textures.data());

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "media/currentframe.h"
+#include "media/drawingerror.h"
+#include "media/viewgeometry.h"
+
+#include <QOpenGLBuffer>
+#include <QOpenGLFunctions>
+#include <QOpenGLShaderProgram>
+#include <QOpenGLVertexArrayObject>
+#include <QSize>
+
+#include <array>
+
+/// Draws frames in planar YUV 4:2:0 with OpenGL. All functions and the destructor require the same current
+/// context, which may be of desktop OpenGL, its core profile or ES. They do not restore the OpenGL state.
+class FramePainter : protected QOpenGLFunctions
+{
+public:
+    FramePainter() = default;
+    ~FramePainter();
+
+    FramePainter(const FramePainter &) = delete;
+    FramePainter &operator=(const FramePainter &) = delete;
+
+    /// Creates the textures for frames of this size in pixels, unless it exceeds the driver's texture size.
+    void setFrameSize(const QSize &size);
+    [[nodiscard]] QSize frameSize() const { return m_size; }
+    [[nodiscard]] bool hasTextures() const { return m_textures.front() != 0; }
+
+    /// Whether frames of frameSize() can be drawn.
+    [[nodiscard]] DrawingError error() const;
+
+    /// Copies a frame of frameSize() to the textures. Requires textures.
+    void upload(const VideoFrame &frame);
+
+    /// Sets the viewport to `view`, in device pixels, and makes it transparent.
+    void clear(const QSize &view);
+
+    /// Draws the uploaded frame into the viewport.
+    void draw(const ViewMatrices &matrices);
+
+private:
+    void initialize();
+    void buildProgram();
+    void buildSquare();
+    void deleteTextures();
+
+    bool m_isInitialized = false;
+    bool m_canDraw = false;   ///< the shaders are valid
+    int m_internalFormat = 0; ///< of the textures
+    unsigned m_format = 0;    ///< of the uploaded bytes
+    QSize m_size;
+    sdk::PictureColour m_colour = sdk::PictureColour::Bt601Limited;
+    std::array<unsigned, 3> m_textures = {}; ///< Y, U, V; 0 for none
+    QOpenGLShaderProgram m_program;
+    QOpenGLVertexArrayObject m_vertexArray;
+    QOpenGLBuffer m_square;
+};

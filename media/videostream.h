@@ -1,0 +1,115 @@
+#pragma once
+
+#include "media/audiooutput.h"
+#include "media/currentframe.h"
+#include "media/dhdecoder.h"
+#include "media/streamopening.h"
+#include "media/streamwatch.h"
+#include "media/videodataobserver.h"
+#include "sdk/sdklibraries.h"
+#include "sdk/streamblocks.h"
+
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+#include <atomic>
+#include <cstdint>
+#include <memory>
+
+/// The live stream of one channel: requests it, has it decoded, keeps the latest frame, buffers its audio and
+/// detects missing frames. It can be started again after its end.
+///
+/// Functions are called on the thread that created the object, and signals are emitted there, unless stated
+/// otherwise. A stream for snapshots may live on any thread. Without an event loop it supports start() only,
+/// and reports neither missing frames nor the end of the stream. Audio is played on the main thread only.
+class VideoStream : public QObject, public VideoDataObserver
+{
+    Q_OBJECT
+public:
+    /// A null network or decoder library makes every start fail. The clock must not be null.
+    explicit VideoStream(sdk::SdkLibraries libraries, QObject *parent = nullptr);
+
+    /// Closes the stream without emitting signals of this thread.
+    ~VideoStream() override;
+
+    /// Blocks until the device has responded. Returns false on failure, with the reason in text().
+    /// Requires a closed stream.
+    bool start(const StreamOpening::Request &request);
+
+    /// As start(), but does not block. Emits startEnded() unless stop() is called first.
+    void startInBackground(const StreamOpening::Request &request);
+
+    /// Closes the stream or cancels a start. No effect on a closed stream.
+    void stop();
+
+    /// Whether stop() has something to close. A failed start can leave a stream to close.
+    [[nodiscard]] bool isOpen() const { return m_handle != 0 || m_opening; }
+
+    /// True from a successful start to stop().
+    [[nodiscard]] bool isStreaming() const { return m_isStreaming; }
+
+    /// Why the last start failed or the stream has ended, in the user's language; empty otherwise.
+    [[nodiscard]] QString text() const { return m_text; }
+
+    [[nodiscard]] StreamFigures figures() const { return m_decoder->figures(); }
+
+    /// Any thread.
+    [[nodiscard]] CurrentFrame &currentFrame() { return m_frame; }
+
+    /// Writes the current frame as JPEG to `path`, replacing an existing file. `quality` is 1 to 100. Returns
+    /// false without a frame and if the file cannot be written.
+    bool saveFrame(const QString &path, int quality);
+
+    /// Whether audio is buffered; false initially.
+    [[nodiscard]] bool hasAudio() const { return m_hasAudio; }
+
+    /// Returns false if nothing changes.
+    bool setHasAudio(bool hasAudio) { return m_hasAudio.exchange(hasAudio) != hasAudio; }
+
+    /// Plays the buffered audio. The owner calls it after audioArrived().
+    void playAudio() { m_audio.drain(); }
+
+    /// Opens the audio output with the current sample rate. The owner calls it after sampleRateChanged().
+    void openAudio() { m_audio.reopen(); }
+
+    /// Called by the decoder.
+    void onDecodedFrame(const std::uint8_t *data, std::int32_t size, std::int32_t width, std::int32_t height,
+                        sdk::DecodedFrameType type, std::int32_t rate, std::int32_t reserved) override;
+
+Q_SIGNALS:
+    void frameArrived();      ///< decoder's thread
+    void audioArrived();      ///< decoder's thread, with the audio buffer locked
+    void sampleRateChanged(); ///< decoder's thread
+    void textChanged();
+    void isStreamingChanged();
+    /// Emitted after startInBackground(). `mayTryOther`: the device responds, and may accept a request for
+    /// the other stream of the channel.
+    void startEnded(bool isStreaming, bool mayTryOther);
+    void framesMissing(); ///< once after each timeout of StreamWatch; the stream may still recover
+
+private:
+    static constexpr int watchInterval = 250; // milliseconds
+
+    [[nodiscard]] std::shared_ptr<sdk::NetLibrary> usableNet() const;
+    bool finishStart(const StreamOpening::Result &opened, std::int32_t channel);
+    bool failStart(const char *logLine, std::uint32_t error);
+    void close();
+    void noteEnd(qint64 handle, sdk::StreamEndReason reason);
+    [[nodiscard]] static QString endText(sdk::StreamEndReason reason);
+    void watch();
+    void setText(const QString &text);
+    void setIsStreaming(bool isStreaming);
+
+    const sdk::SdkLibraries m_libraries;
+    const std::shared_ptr<CDHDecoder> m_decoder;
+    CurrentFrame m_frame;
+    AudioOutput m_audio;
+    std::atomic<bool> m_hasAudio = false;
+    StreamWatch m_watch;
+    QTimer m_watchTimer;
+    std::int64_t m_handle = 0;                ///< of the open stream; 0 for none
+    std::unique_ptr<StreamOpening> m_opening; ///< the pending start in the background; null for none
+    QString m_text;
+    bool m_isStreaming = false;
+};
