@@ -13,7 +13,9 @@ namespace sdk::ffmpeg {
 
 namespace {
 
-/// The image as blue, green, red and an unused byte for each pixel; null on failure.
+/// The image as blue, green, red and an unused byte for each pixel; null on failure. The planes of most
+/// streams cannot be encoded directly: viewers read a JPEG file as BT.601 with full range, regardless of the
+/// range that the encoder is given. With AVCOL_RANGE_MPEG, a Y of 28 is shown as 28 in place of 14.
 AvPointer<AVFrame> toRgb(const std::uint8_t *picture, int width, int height, PictureColour colour)
 {
     const AvPointer<AVFrame> source = paddedFrame(AV_PIX_FMT_YUV420P, width, height);
