@@ -40,23 +40,23 @@ QString nameOfDevice(const QVariantMap &row)
 
 } // namespace
 
-/// Delivers updates of steps to the scene's thread while the gallery exists.
+/// Passes updates of steps to the main thread while the gallery exists.
 class PictureGallery::Mailbox
 {
 public:
     explicit Mailbox(PictureGallery *receiver) : m_receiver(receiver) {}
 
-    /// Callable on any thread.
-    void post(int round, const std::function<void(PictureGallery &gallery)> &news)
+    /// Runs `update` on the main thread if batch `round` is still the latest one. Any thread.
+    void post(int round, const std::function<void(PictureGallery &gallery)> &update)
     {
         const std::lock_guard lock(m_mutex);
         if (!m_receiver)
             return;
         QMetaObject::invokeMethod(
             m_receiver,
-            [receiver = m_receiver, round, news] {
+            [receiver = m_receiver, round, update] {
                 if (receiver->m_round == round)
-                    news(*receiver);
+                    update(*receiver);
             },
             Qt::QueuedConnection);
     }
@@ -238,9 +238,9 @@ bool PictureGallery::fetch(int row)
     if (row < 0 || row >= m_cells.size())
         return false;
     const Cell &cell = m_cells.at(row);
-    // The channels of a device are unknown until it has been reached.
-    const bool isWhole = cell.name.isEmpty();
-    return start({cell.identity}, isWhole ? -1 : cell.channel);
+    // Without a name, the channels of the device are unknown, or it has only one.
+    const bool fetchesAll = cell.name.isEmpty();
+    return start({cell.identity}, fetchesAll ? -1 : cell.channel);
 }
 
 bool PictureGallery::start(const QStringList &identities, int onlyChannel)
@@ -293,8 +293,8 @@ bool PictureGallery::start(const QStringList &identities, int onlyChannel)
 DeviceStep PictureGallery::stepOf(const BatchDevice &device, int onlyChannel, const QString &folder) const
 {
     const int round = m_round;
-    const auto post = [mailbox = m_mailbox, round](const std::function<void(PictureGallery &)> &news) {
-        mailbox->post(round, news);
+    const auto post = [mailbox = m_mailbox, round](const std::function<void(PictureGallery &)> &update) {
+        mailbox->post(round, update);
     };
     const QString identity = device.name;
     const DeviceStep step = m_deviceFactory->backEnd(dhFamily)->pictureStep(
@@ -399,9 +399,9 @@ void PictureGallery::setChannels(const QString &identity, const QVariantList &ch
         m_cells.remove(before.first + wanted, before.count - wanted);
         endRemoveRows();
     }
-    for (int place = 0; place < wanted; ++place) {
-        Cell &cell = m_cells[before.first + place];
-        const QVariantMap channel = channels.at(place).toMap();
+    for (int position = 0; position < wanted; ++position) {
+        Cell &cell = m_cells[before.first + position];
+        const QVariantMap channel = channels.at(position).toMap();
         cell.channel = channel.value(QStringLiteral("channel")).toInt();
         cell.name = channelCount > 1 ? channel.value(DeviceRowKey::name).toString() : QString();
         cell.note.clear();

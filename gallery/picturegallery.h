@@ -1,4 +1,4 @@
-// Images of many devices for the scene.
+// Images of many devices for QML.
 #pragma once
 
 #include "device/batch/batch.h"
@@ -17,11 +17,11 @@ class Batches;
 class CDeviceFactory;
 class QTemporaryDir;
 
-/// A list with a cell and an image for each channel of several devices. The images are fetched by batches;
-/// the settings define the number of simultaneous devices. They are stored in files of a temporary folder,
-/// and none is kept in memory. A device has one cell until its channels are known.
+/// A list with a cell and an image for each channel of several devices. Batches fetch the images and store
+/// them in files of a temporary folder. The settings define the number of simultaneous devices. A device has
+/// one cell until its channels are known.
 ///
-/// Lives on the scene's thread.
+/// Lives on the main thread.
 class PictureGallery : public QAbstractListModel
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ class PictureGallery : public QAbstractListModel
     Q_PROPERTY(
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
     Q_PROPERTY(Batches *batches READ batches WRITE setBatches NOTIFY batchesChanged)
-    /// The running batch; null when there is none.
+    /// The running batch; null without one.
     Q_PROPERTY(Batch *batch READ batch NOTIFY batchChanged)
     Q_PROPERTY(int count READ rowCount NOTIFY countsChanged)
     Q_PROPERTY(int deviceCount READ deviceCount NOTIFY countsChanged)
@@ -59,7 +59,7 @@ public:
         ChannelRole, ///< from 0
         NameRole,    ///< of the channel; empty while the device has only one
         StateRole,
-        PictureRole, ///< URL of the file, also of an older image; empty when there is none
+        PictureRole, ///< URL of the file, also of an older image; empty without an image
         MessageRole, ///< reason of a missing image, in the user's language
         TimeRole,    ///< of the image
         NoteRole,    ///< omitted channels of the device, in the user's language
@@ -67,7 +67,7 @@ public:
 
     explicit PictureGallery(QObject *parent = nullptr);
 
-    /// Cancels the batch, and waits for files that are being written.
+    /// Cancels the batch and waits for saveAll().
     ~PictureGallery() override;
 
     [[nodiscard]] CDeviceFactory *deviceFactory() const;
@@ -86,34 +86,35 @@ public:
     [[nodiscard]] int failures() const { return m_failures; } ///< number of failed cells
     [[nodiscard]] bool isSaving() const { return m_isSaving; }
 
-    /// Replaces the devices by those of these rows, and fetches their images. Returns false when the batch is
-    /// refused: the cells then stay in the waiting state.
+    /// Replaces the devices by those of `rows`, maps with the keys of DeviceRowKey and "identity", and
+    /// fetches their images. Returns false if the batch is refused; the cells then stay in the waiting state.
     Q_INVOKABLE bool show(const QVariantList &rows);
 
-    /// Reads the names and addresses of the devices again, which may have changed. A device that has left the
-    /// list keeps them.
+    /// Reads the current names and addresses of the devices. A device that was removed from the device list
+    /// keeps them.
     Q_INVOKABLE void readDevices();
 
-    /// Fetches all images again. Returns false when the batch is refused.
+    /// Fetches all images again. Returns false if the batch is refused.
     Q_INVOKABLE bool fetchAll();
 
-    /// Fetches the image of a cell again.
+    /// Fetches the image of a cell again, or all images of a device whose channels are unknown. Returns false
+    /// if the batch is refused.
     Q_INVOKABLE bool fetch(int row);
 
-    /// Ends the batch: waiting cells have failed.
+    /// Cancels the batch. Waiting cells without an image change to the failed state.
     Q_INVOKABLE void stop();
 
     /// Removes the devices and their images.
     Q_INVOKABLE void clear();
 
-    /// Writes the images as snapshots, "snap/<device>/<channel>.jpg" below the current folder, on a separate
-    /// thread. Emits saved().
+    /// Writes the images as "snap/<device>/<channel>.jpg" in the current folder, on a separate thread. Emits
+    /// saved() at the end; no effect without images.
     Q_INVOKABLE void saveAll();
 
-    /// The values of a cell by the names of the roles; empty for an invalid row.
+    /// The values of a cell by role name; empty for an invalid row.
     Q_INVOKABLE [[nodiscard]] QVariantMap get(int row) const;
 
-    /// The devices in their order, as maps of "ipport" and "name".
+    /// The devices in their order, as maps with "ipport" and "name".
     Q_INVOKABLE [[nodiscard]] QVariantList devices() const;
 
 Q_SIGNALS:
@@ -123,8 +124,8 @@ Q_SIGNALS:
     void countsChanged();
     void savingChanged();
 
-    /// Emitted after saveAll(): `files` files are in `folder`; `reason` is the system's error text of the
-    /// failures.
+    /// Emitted after saveAll(): number of written files and of failures, absolute path of the folder "snap",
+    /// and the error text of the first failure.
     void saved(int files, int failures, const QString &folder, const QString &reason);
 
 private:
@@ -158,20 +159,20 @@ private:
     void noteBegun(const QString &identity);
     void setChannels(const QString &identity, const QVariantList &channels, int channelCount);
     void take(const QString &identity, int channel, const QString &file, const QString &message);
-    /// The device is done: its cells without an image have failed for this reason.
+    /// Sets the outcome of the device for its cells that are waiting or fetching.
     void finish(const QString &identity, const StepOutcome &outcome);
     void setFetching(const Range &cells);
     void noteChanged(int first, int last);
     void count();
 
-    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before the scene is
+    QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed first
     QPointer<Batches> m_batches;              ///< not owned
     QPointer<Batch> m_batch;                  ///< not owned
     const std::shared_ptr<Mailbox> m_mailbox;
     std::shared_ptr<QTemporaryDir> m_folder; ///< steps keep it until they have ended
     QList<Cell> m_cells;
     QThreadPool m_files; ///< one thread, which writes the snapshots
-    int m_round = 0;     ///< of fetching
+    int m_round = 0;     ///< number of the latest batch; updates of earlier ones are ignored
     int m_deviceCount = 0;
     int m_leftOut = 0;
     int m_pictures = 0;
