@@ -7,15 +7,15 @@
 
 class CLocalConfig;
 
-/// Whether the windows are dark: what the user has chosen, or what the desktop asks for. The choice is kept
-/// in the local settings; the boxes outside the scene get their colours at once. Main thread only.
+/// Whether the windows are dark: the user's choice, or the desktop's preference. The choice is stored in the
+/// local settings. Changes apply immediately, also to the widgets outside QML. Main thread only.
 class ColourScheme : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(bool dark READ isDark NOTIFY darkChanged)
     Q_PROPERTY(QString choice READ choice NOTIFY choiceChanged)
 public:
-    /// Both outlive it.
+    /// `desktop` and `localConfig` outlive the object.
     ColourScheme(DesktopScheme &desktop, CLocalConfig &localConfig, QObject *parent = nullptr);
 
     [[nodiscard]] bool isDark() const { return m_isDark; }
@@ -23,7 +23,7 @@ public:
     /// "desktop", "light" or "dark".
     [[nodiscard]] QString choice() const { return m_choice; }
 
-    /// Applies a choice at once and stores it. Returns whether it could be stored.
+    /// Applies and stores a choice, with the values of choice(). Returns false if it could not be stored.
     Q_INVOKABLE bool choose(const QString &choice);
 
 Q_SIGNALS:

@@ -3,16 +3,17 @@
 #include <QString>
 #include <QStringList>
 
-/// What the program was asked for when it was started.
+/// The options of the command line.
 struct CommandLine
 {
     bool help = false;
     bool version = false;
-    bool demo = false;                        ///< run on a simulated site
-    QString scene = QStringLiteral("office"); ///< its scene: a name, "fleet:N" or a file
-    QString error;                            ///< what cannot be understood, empty if all can
+    bool demo = false; ///< run on a simulated site
+    QString scene =
+        QStringLiteral("office"); ///< of the simulated site: a name, "fleet:N" or the path of a file
+    QString error;                ///< describes the first invalid argument; empty if all are valid
 
-    /// `arguments` as QCoreApplication::arguments() gives them, the program's name first.
+    /// `arguments` are those of QCoreApplication::arguments(), including the name of the application.
     [[nodiscard]] static CommandLine parse(const QStringList &arguments);
 
     [[nodiscard]] static QString usage();

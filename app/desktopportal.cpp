@@ -14,7 +14,7 @@ const QString settingsInterface = QStringLiteral("org.freedesktop.portal.Setting
 const QString appearanceGroup = QStringLiteral("org.freedesktop.appearance");
 const QString schemeKey = QStringLiteral("color-scheme");
 
-/// The service puts a variant into another one in one of its operations.
+/// The response of the operation "Read" has a variant in a variant.
 QVariant unwrapped(QVariant value)
 {
     constexpr int deepest = 3;
@@ -29,33 +29,33 @@ DesktopPortal::DesktopPortal(const QDBusConnection &bus, QObject *parent) : QObj
 {
     if (!m_bus.isConnected())
         return;
-    // First the changes: none is lost between the answer and this.
+    // Before the request, so that no change is missed.
     m_bus.connect(portalService, portalPath, settingsInterface, QStringLiteral("SettingChanged"), this,
-                  SLOT(takeChange(QDBusMessage)));
-    QDBusMessage question =
+                  SLOT(handleChange(QDBusMessage)));
+    QDBusMessage request =
         QDBusMessage::createMethodCall(portalService, portalPath, settingsInterface, QStringLiteral("Read"));
-    question.setArguments({appearanceGroup, schemeKey});
-    m_bus.callWithCallback(question, this, SLOT(takeAnswer(QDBusMessage)), SLOT(takeError(QDBusError)));
+    request.setArguments({appearanceGroup, schemeKey});
+    m_bus.callWithCallback(request, this, SLOT(handleResponse(QDBusMessage)), SLOT(handleError(QDBusError)));
 }
 
-void DesktopPortal::takeAnswer(const QDBusMessage &answer)
+void DesktopPortal::handleResponse(const QDBusMessage &response)
 {
-    take(answer.arguments().value(0));
+    setPreference(response.arguments().value(0));
 }
 
-void DesktopPortal::takeError(const QDBusError &error)
+void DesktopPortal::handleError(const QDBusError &error)
 {
-    qCDebug(logApp).noquote() << "The desktop does not tell its colour scheme:" << error.message();
+    qCDebug(logApp).noquote() << "The desktop portal reports no colour scheme:" << error.message();
 }
 
-void DesktopPortal::takeChange(const QDBusMessage &change)
+void DesktopPortal::handleChange(const QDBusMessage &change)
 {
     const QVariantList arguments = change.arguments();
     if (arguments.value(0).toString() == appearanceGroup && arguments.value(1).toString() == schemeKey)
-        take(arguments.value(2));
+        setPreference(arguments.value(2));
 }
 
-void DesktopPortal::take(const QVariant &value)
+void DesktopPortal::setPreference(const QVariant &value)
 {
     constexpr uint dark = 1;
     constexpr uint light = 2;

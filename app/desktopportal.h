@@ -8,27 +8,27 @@
 
 class QDBusError;
 
-/// The colour scheme of the desktop as the portal service of a D-Bus tells it, and every change of it.
-/// Nothing waits for the service: without one, or until it has answered, there is no preference.
+/// The colour scheme that the portal service of a D-Bus reports, and its changes. Calls do not block: there
+/// is no preference without a service or until it has responded. Main thread only.
 class DesktopPortal : public QObject
 {
     Q_OBJECT
 public:
     explicit DesktopPortal(const QDBusConnection &bus, QObject *parent = nullptr);
 
-    /// Whether dark windows are preferred; empty when the desktop has no preference, or none is known.
+    /// Whether dark windows are preferred; nullopt without a known preference.
     [[nodiscard]] std::optional<bool> prefersDark() const { return m_prefersDark; }
 
 Q_SIGNALS:
     void changed();
 
 private Q_SLOTS:
-    void takeAnswer(const QDBusMessage &answer);
-    void takeError(const QDBusError &error);
-    void takeChange(const QDBusMessage &change);
+    void handleResponse(const QDBusMessage &response);
+    void handleError(const QDBusError &error);
+    void handleChange(const QDBusMessage &change);
 
 private:
-    void take(const QVariant &value);
+    void setPreference(const QVariant &value);
 
     QDBusConnection m_bus;
     std::optional<bool> m_prefersDark;

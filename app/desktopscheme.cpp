@@ -55,12 +55,13 @@ DesktopScheme::DesktopScheme(const QString &portalBus, QObject *parent)
 #ifdef CONFIGTOOLS_DESKTOP_PORTAL
     if (!m_portalBus.isEmpty()) {
         m_portal = new DesktopPortal(QDBusConnection::connectToBus(m_portalBus, portalConnection), this);
-        connect(m_portal, &DesktopPortal::changed, this, &DesktopScheme::look);
+        connect(m_portal, &DesktopPortal::changed, this, &DesktopScheme::update);
     }
 #endif
-    // The toolkit tells the application of another palette, and on Windows its windows of other settings.
+    // Qt sends an event to the application if the palette changes, and on Windows to the windows if the
+    // settings change.
     QCoreApplication::instance()->installEventFilter(this);
-    look();
+    update();
 }
 
 DesktopScheme::~DesktopScheme()
@@ -75,7 +76,7 @@ DesktopScheme::~DesktopScheme()
 bool DesktopScheme::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::ThemeChange)
-        look();
+        update();
     return QObject::eventFilter(watched, event);
 }
 
@@ -88,7 +89,7 @@ std::optional<bool> DesktopScheme::portalPrefersDark() const
     return std::nullopt;
 }
 
-void DesktopScheme::look()
+void DesktopScheme::update()
 {
     bool isDark = false;
     if (const std::optional<bool> portal = portalPrefersDark())

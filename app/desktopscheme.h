@@ -6,19 +6,19 @@
 
 class DesktopPortal;
 
-/// Whether the desktop asks for dark windows, and every change of that while the program runs.
+/// Whether the desktop prefers dark windows, and changes of the preference.
 ///
-/// It asks, in this order: the desktop portal of a D-Bus, the settings of Windows, and the palette that the
-/// toolkit takes from the desktop, which is dark when its words are lighter than its windows. Main thread
-/// only.
+/// The first available source counts: the desktop portal of a D-Bus, the settings of Windows, or Qt's
+/// palette, which is dark if its text is lighter than its windows. Main thread only.
 class DesktopScheme : public QObject
 {
     Q_OBJECT
 public:
-    /// Address of the session's bus; empty where there is none, so that none is started for it.
+    /// The address of the running session bus; empty without one. No bus is started.
     [[nodiscard]] static QString sessionBus();
 
-    /// Needs the application object. With an empty `portalBus` no portal is asked.
+    /// Requires the application object. `portalBus` is the address of the bus of the portal; empty for no
+    /// portal.
     explicit DesktopScheme(const QString &portalBus, QObject *parent = nullptr);
     ~DesktopScheme() override;
 
@@ -31,9 +31,9 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] std::optional<bool> portalPrefersDark() const;
-    void look();
+    void update();
 
-    const QString m_portalBus; ///< empty when there is no portal
+    const QString m_portalBus; ///< empty for no portal
     DesktopPortal *m_portal = nullptr;
     bool m_isDark = false;
 };

@@ -41,14 +41,14 @@ public:
 
 } // namespace
 
-bool bindDeviceLibraries(const QString &folder, sdk::SdkLibraries &libraries, QString &complaint)
+bool bindDeviceLibraries(const QString &folder, sdk::SdkLibraries &libraries, QString &error)
 {
     const QFileInfo file(QDir(folder).filePath(QString::fromLatin1(bindingFileName)));
     if (!file.exists())
         return false;
     auto bound = sdk::binding::bindLibraries(file.filesystemFilePath());
     if (const auto *problem = std::get_if<sdk::binding::BindingProblem>(&bound)) {
-        complaint = DeviceLibraryTexts::of(*problem);
+        error = DeviceLibraryTexts::of(*problem);
         return true;
     }
     auto &filled = std::get<sdk::SdkLibraries>(bound);

@@ -1,13 +1,14 @@
-// The libraries of a device maker that stand beside the program.
+// Closed device libraries next to the application.
 #pragma once
 
 #include "sdk/sdklibraries.h"
 
 #include <QString>
 
-/// The name of the file that names them (sdk/binding/bindingfile.h).
+/// Name of the binding file, which lists the libraries and their functions.
 inline constexpr const char *bindingFileName = "devicelibraries.txt";
 
-/// Fills every role but the clock from the binding file in `folder`. False if there is none. If the libraries
-/// cannot be used, `libraries` stays as it is and `complaint` is set to a sentence for the user.
-bool bindDeviceLibraries(const QString &folder, sdk::SdkLibraries &libraries, QString &complaint);
+/// Loads the libraries of the binding file in `folder` into all members of `libraries` except the clock.
+/// Returns false if there is no binding file. If the libraries cannot be loaded, returns true, leaves
+/// `libraries` unchanged and sets `error` to a sentence in the user's language.
+bool bindDeviceLibraries(const QString &folder, sdk::SdkLibraries &libraries, QString &error);

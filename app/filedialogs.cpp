@@ -11,7 +11,7 @@ FileDialogs::FileDialogs(QObject *parent) : QObject(parent), m_folder(QDir::home
 
 void FileDialogs::chooseFile(const QString &title, const QStringList &nameFilters, const QJSValue &chosen)
 {
-    if (m_open)
+    if (m_isOpen)
         return;
     QFileDialog *dialog = newDialog(title);
     dialog->setFileMode(QFileDialog::ExistingFile);
@@ -22,7 +22,7 @@ void FileDialogs::chooseFile(const QString &title, const QStringList &nameFilter
 void FileDialogs::chooseNewFile(const QString &title, const QStringList &nameFilters, const QString &name,
                                 const QJSValue &chosen)
 {
-    if (m_open)
+    if (m_isOpen)
         return;
     QFileDialog *dialog = newDialog(title);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
@@ -40,7 +40,7 @@ void FileDialogs::chooseNewFile(const QString &title, const QStringList &nameFil
 
 void FileDialogs::chooseFolder(const QString &title, const QJSValue &chosen)
 {
-    if (m_open)
+    if (m_isOpen)
         return;
     QFileDialog *dialog = newDialog(title);
     dialog->setFileMode(QFileDialog::Directory);
@@ -63,17 +63,17 @@ QFileDialog *FileDialogs::newDialog(const QString &title) const
 
 void FileDialogs::open(QFileDialog *dialog, const QJSValue &chosen)
 {
-    m_open = true;
+    m_isOpen = true;
     if (QWindow *window = QGuiApplication::focusWindow()) {
-        dialog->winId(); // makes its window
+        dialog->winId(); // creates the window
         dialog->windowHandle()->setTransientParent(window);
     }
     connect(dialog, &QFileDialog::finished, this, [this, dialog, chosen](int result) {
-        m_open = false;
+        m_isOpen = false;
         m_folder = dialog->directory().absolutePath();
         const QString path = dialog->selectedFiles().value(0);
         if (result == QDialog::Accepted && !path.isEmpty())
             chosen.call({path});
     });
-    dialog->show(); // open() would make it modal for one window only
+    dialog->show(); // open() would set Qt::WindowModal
 }

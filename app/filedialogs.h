@@ -6,26 +6,26 @@
 
 class QFileDialog;
 
-/// The desktop's boxes in which the user picks a file or a folder, for the scene. They do not block: what was
-/// picked goes, as a local path, to the function that was handed over; a box that is cancelled calls nothing.
-/// One box at a time; each begins in the folder that the last one ended in. Main thread only.
+/// The desktop's dialogs for files and folders, for QML. Functions do not block: `chosen` is called with the
+/// local path of the choice, and is not called if the dialog is cancelled. There is one dialog at a time;
+/// further calls have no effect. A dialog starts in the last folder of the previous one. Main thread only.
 class FileDialogs : public QObject
 {
     Q_OBJECT
 public:
     explicit FileDialogs(QObject *parent = nullptr);
 
-    /// An existing file. `nameFilters` as in "Excel Files (*.xlsx)".
+    /// Chooses an existing file. `nameFilters` are strings like "Excel Files (*.xlsx)".
     Q_INVOKABLE void chooseFile(const QString &title, const QStringList &nameFilters, const QJSValue &chosen);
 
-    /// A file to write, which the box asks about when it is there. Without an ending it gets that of the
-    /// chosen filter. `name` is the one to begin with.
+    /// Chooses a file to write; the dialog asks before it replaces an existing one. A name without a suffix
+    /// gets that of the selected filter. `name` is the suggested name.
     Q_INVOKABLE void chooseNewFile(const QString &title, const QStringList &nameFilters, const QString &name,
                                    const QJSValue &chosen);
 
     Q_INVOKABLE void chooseFolder(const QString &title, const QJSValue &chosen);
 
-    /// True when there is something at this path, so that writing there would replace it.
+    /// Whether there is a file or a folder at this path.
     Q_INVOKABLE [[nodiscard]] bool exists(const QString &path) const;
 
 private:
@@ -33,5 +33,5 @@ private:
     [[nodiscard]] QFileDialog *newDialog(const QString &title) const;
 
     QString m_folder;
-    bool m_open = false;
+    bool m_isOpen = false; ///< a dialog is open
 };

@@ -6,8 +6,8 @@
 
 #include <array>
 
-/// Codes of the languages, in the order of the language menu: an index into this table names a language
-/// there. They are names of translation files and stored values, so their odd spellings stay.
+/// Language codes in the order of the language menu, which uses their indexes. Translation files and the
+/// settings use the codes, so their unusual spellings must not change.
 inline constexpr std::array languageCodes = {
     QLatin1StringView("zh_CN"), QLatin1StringView("en_US"), QLatin1StringView("ro_RO"),
     QLatin1StringView("JP_US"), QLatin1StringView("de_DE"), QLatin1StringView("es_ES"),
@@ -16,12 +16,12 @@ inline constexpr std::array languageCodes = {
     QLatin1StringView("gl_GL"), QLatin1StringView("ca_CA"),
 };
 
-/// Language of a first start on a system with the given language. English where none fits; Galician and
-/// Catalan are reached only by the user's own choice.
+/// The language of a first start on a system with the given language; English by default. Galician and
+/// Catalan are only available by the user's choice.
 [[nodiscard]] QString languageCodeFor(QLocale::Language systemLanguage);
 
 class CLocalConfig;
 
-/// The language code of this run: the stored one, or, at a first start, the system's, which is then stored.
-/// It is also handed to `localConfig` as its current language.
+/// Returns the stored language code, or at a first start that of the system, which is then stored. Sets it as
+/// the current language of `localConfig`.
 [[nodiscard]] QString resolveLanguage(CLocalConfig &localConfig, QLocale::Language systemLanguage);

@@ -35,7 +35,7 @@ const QString colourSchemeKey = QStringLiteral("/look/colourScheme");
 
 const QString lockKey = QStringLiteral("OrvoConfigTools");
 
-/// Folder of the help documents below the program's, with the separators that its path is written with.
+/// Folder of the help documents in the folder of the application.
 const QString documentsFolder = QStringLiteral("\\documents\\");
 
 } // namespace
@@ -78,7 +78,7 @@ QVariant CLocalConfig::value(const QString &key) const
 
 int CLocalConfig::number(const QString &key) const
 {
-    // Through the text: a number that does not fit is then 0 like any other text that is no number.
+    // Converted from a string, so that a number out of range is 0 like any other invalid value.
     return value(key).toString().toInt();
 }
 
@@ -182,18 +182,18 @@ void CLocalConfig::setSearchLogsIn(bool logsIn)
 
 int CLocalConfig::devicesAtOnce() const
 {
-    constexpr int usual = 8;
-    constexpr int most = 32;
-    const int wanted = number(devicesAtOnceKey);
-    return wanted >= 1 && wanted <= most ? wanted : usual;
+    constexpr int defaultCount = 8;
+    constexpr int maximum = 32;
+    const int stored = number(devicesAtOnceKey);
+    return stored >= 1 && stored <= maximum ? stored : defaultCount;
 }
 
 int CLocalConfig::upgradesAtOnce() const
 {
-    constexpr int usual = 4;
-    constexpr int most = 16;
-    const int wanted = number(upgradesAtOnceKey);
-    return wanted >= 1 && wanted <= most ? wanted : usual;
+    constexpr int defaultCount = 4;
+    constexpr int maximum = 16;
+    const int stored = number(upgradesAtOnceKey);
+    return stored >= 1 && stored <= maximum ? stored : defaultCount;
 }
 
 void CLocalConfig::setUpgradesAtOnce(int count)
@@ -214,7 +214,7 @@ void CLocalConfig::setColourScheme(const QString &scheme)
 
 void CLocalConfig::reboot()
 {
-    // arguments() begins with the program's own name, which the new process gets from startDetached().
+    // Without the name of the application, which startDetached() adds.
     restart(QCoreApplication::arguments().mid(1));
 }
 
@@ -225,7 +225,7 @@ void CLocalConfig::openDemoSite()
 
 void CLocalConfig::restart(const QStringList &arguments)
 {
-    // Freed first, so that the new process can take it.
+    // Released first, so that the new process can acquire it.
     m_instanceLock.reset();
     QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments, QString());
     QCoreApplication::quit();
@@ -258,7 +258,7 @@ void CLocalConfig::OpenQAFile()
 
 void CLocalConfig::openDocument(const QString &name)
 {
-    // Where "\" is a letter of a file name like any other, the file is found by the system's own separator.
+    // The specified separator "\\" is valid in file names of other systems than Windows.
     const auto file = [this](QString document) {
         document.prepend(documentsFolder).append(QLatin1String(".pdf"));
 #ifndef Q_OS_WIN
@@ -269,8 +269,8 @@ void CLocalConfig::openDocument(const QString &name)
     QString path = file(name + m_currentLanguage);
     if (!QFileInfo::exists(path))
         path = file(name + QLatin1String("en_US"));
-    const bool isHandedOver = QFileInfo::exists(path) && QDesktopServices::openUrl(QUrl::fromLocalFile(path));
-    Q_EMIT documentRequested(QDir::toNativeSeparators(path), isHandedOver);
+    const bool isAccepted = QFileInfo::exists(path) && QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+    Q_EMIT documentRequested(QDir::toNativeSeparators(path), isAccepted);
 }
 
 QString CLocalConfig::getAppPath() const
@@ -303,20 +303,20 @@ bool CLocalConfig::hasTranslation(const QString &code) const
     return QFileInfo::exists(translationFile(code));
 }
 
-bool CLocalConfig::anotherInstanceRuns()
+bool CLocalConfig::acquireInstanceLock()
 {
 #ifdef Q_OS_UNIX
     {
-        // A segment outlives a killed owner here. The last process to detach from one removes it: this takes
-        // away a segment that nobody holds, and leaves one that somebody does.
-        QSharedMemory left(lockKey);
-        if (left.attach())
-            left.detach();
+        // A segment remains after its owner was killed. The last process that detaches from a segment removes
+        // it: this removes a remaining segment, but not that of a running instance.
+        QSharedMemory remaining(lockKey);
+        if (remaining.attach())
+            remaining.detach();
     }
 #endif
     m_instanceLock = std::make_unique<QSharedMemory>(lockKey);
     if (m_instanceLock->create(1, QSharedMemory::ReadWrite))
-        return false;
+        return true;
     m_instanceLock.reset();
-    return true;
+    return false;
 }

@@ -2,7 +2,7 @@
 
 #include <QPushButton>
 
-/// A button of the shell's widget dialogs, drawn like the scene's primary buttons.
+/// A button of the widget dialogs, drawn like a primary button of QML.
 class OPressButton : public QPushButton
 {
     Q_OBJECT

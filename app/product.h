@@ -1,4 +1,4 @@
-// Fixed texts that name the product.
+// Name and version of the product.
 #pragma once
 
 #include <QLatin1StringView>
@@ -8,7 +8,7 @@ namespace Product {
 /// Version number, then date and time of the build as yyyyMMdd_HHmmss.
 inline constexpr QLatin1StringView version("V1.2.5.1.20260306_133556");
 
-/// Shown beside the logo.
+/// Shown next to the logo.
 inline constexpr QLatin1StringView logoName("BRELM Tool");
 
 } // namespace Product

@@ -28,7 +28,7 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
                     const std::shared_ptr<AccountStore> &accounts, ColourScheme &colourScheme,
                     const std::shared_ptr<sdk::NetLibrary> &net, const DemoNotice &demo)
 {
-    // The singletons outlive the scene's references to them and are deleted by start-up, never by the engine.
+    // Shell deletes the singletons, after the engine.
     QQmlContext *context = engine.rootContext();
     context->setContextProperty(QStringLiteral("appDir"), QCoreApplication::applicationDirPath());
     const AccountList::Defaults defaults = {

@@ -1,4 +1,4 @@
-// What start-up hands to the scene.
+// Publication of objects to QML.
 #pragma once
 
 #include <QString>
@@ -16,16 +16,15 @@ namespace sdk {
 class NetLibrary;
 }
 
-/// What the window says of a simulated site.
+/// What the window shows about a simulated site.
 struct DemoNotice
 {
-    bool isShown = false; ///< the program works on one
-    QString account = {}; ///< of most of its devices, as "user / password"; empty when none has one
+    bool isShown = false; ///< the application uses a simulated site
+    QString account = {}; ///< of most of its devices, as "user / password"; empty if no device has an account
 };
 
-/// Sets the context properties of the scene. `net` fills the network role: without it the scene says so.
-/// `batchEngine` runs the scene's batches, which keep rows in `store`; it and `colourScheme` outlive the
-/// scene.
+/// Sets the context properties of QML. `net` may be null, which the window reports. `batchEngine` and
+/// `colourScheme` outlive the engine. Batches change rows of `store`.
 void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
                     const std::shared_ptr<DeviceStore> &store,
                     const std::shared_ptr<CertificateStore> &certificates,

@@ -20,15 +20,14 @@ QVariantMap valuesOf(const QSettings &settings)
     return values;
 }
 
-/// Why `draft` could not be given the text of `original`; empty when it has it. A file that does not exist
-/// has no text.
-QString copyText(const QString &original, const QString &draft)
+/// Copies `original`, if it exists, to `draft`. Returns an error text, empty on success.
+QString copyContent(const QString &original, const QString &draft)
 {
     QFile from(original);
     if (!from.exists())
         return {};
     QFile to(draft);
-    // Not through a buffer: the toolkit does not notice when only a part of that could be written.
+    // Unbuffered, because Qt does not detect an incomplete write of its buffer.
     if (!from.open(QIODevice::ReadOnly))
         return from.errorString();
     const bool isCopied =
@@ -36,8 +35,8 @@ QString copyText(const QString &original, const QString &draft)
     return isCopied ? QString() : to.errorString();
 }
 
-/// Makes `path` newer than `before`. The settings class takes a file of the same size and time for the one
-/// that it has read, and clocks of file systems tick every few milliseconds only.
+/// Makes `path` newer than `before`. QSettings does not read a file again if its size and time are unchanged,
+/// and the time of a file has a resolution of some milliseconds.
 void makeNewer(const QString &path, const QDateTime &before)
 {
     QFile file(path);
@@ -53,9 +52,9 @@ QString SettingsFile::change(const QList<QPair<QString, QString>> &values) const
     QTemporaryFile draft(m_path + QStringLiteral(".XXXXXX"));
     if (!draft.open())
         return draft.errorString();
-    QString failure = copyText(m_path, draft.fileName());
-    if (!failure.isEmpty())
-        return failure;
+    const QString copyError = copyContent(m_path, draft.fileName());
+    if (!copyError.isEmpty())
+        return copyError;
     QSettings settings(draft.fileName(), QSettings::IniFormat);
     for (const auto &[key, value] : values)
         settings.setValue(key, value);
@@ -63,7 +62,7 @@ QString SettingsFile::change(const QList<QPair<QString, QString>> &values) const
     if (settings.status() == QSettings::AccessError)
         return QStringLiteral("the draft cannot be written");
 
-    // Read under another name: of a file that it has written, the class knows the values without reading it.
+    // Read with another name, because QSettings caches the values of a file that it has written.
     const QString written = draft.fileName() + QStringLiteral(".written");
     const auto tidy = qScopeGuard([&written] { QFile::remove(written); });
     QFile text(written);
@@ -72,8 +71,8 @@ QString SettingsFile::change(const QList<QPair<QString, QString>> &values) const
     if (valuesOf(QSettings(written, QSettings::IniFormat)) != valuesOf(settings))
         return QStringLiteral("the draft is incomplete, the disk may be full");
     const QDateTime before = QFileInfo(m_path).lastModified();
-    QString outcome = replaceFile(m_path, text.readAll());
-    if (outcome.isEmpty())
+    QString error = replaceFile(m_path, text.readAll());
+    if (error.isEmpty())
         makeNewer(m_path, before);
-    return outcome;
+    return error;
 }

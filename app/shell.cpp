@@ -43,15 +43,15 @@ Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
 
 namespace {
 
-constexpr int sceneFailed = 1;
+constexpr int startFailed = 1;
 
-/// Translation files are looked up where the program was started, not where it stands.
+/// Translation files are in the working directory, which may differ from the folder of the application.
 QString translationPath(const QString &code)
 {
     return QLatin1String("./language/") + code + QLatin1String(".qm");
 }
 
-/// The account of most devices of a site, with its password; empty when none has an account.
+/// The account of most devices of a site as "user / password"; empty if no device has one.
 QString usualAccount(const sdk::demo::DemoSite &site)
 {
     QHash<QString, int> devices;
@@ -71,7 +71,7 @@ void Shell::prepareApplication()
     limitFreedMemory();
     sdk::expectWindow();
     QT_WARNING_PUSH
-    QT_WARNING_DISABLE_DEPRECATED // without effect in this toolkit version, which always scales
+    QT_WARNING_DISABLE_DEPRECATED // no effect in Qt 6, which always scales
         QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     QT_WARNING_POP
 }
@@ -80,15 +80,15 @@ Shell::Shell(CommandLine commandLine) : m_commandLine(std::move(commandLine)) {}
 
 Shell::~Shell()
 {
-    // The scene's windows go first: their bindings must not see the objects vanish that they read. The
-    // batches, which the engine owns, use the factory until they go.
+    // The windows first: their bindings read the objects below. The engine owns the batches, which use the
+    // factory.
     if (m_engine)
         qDeleteAll(m_engine->rootObjects());
     m_engine.reset();
     AudioOutput::awaitRelease();
     m_colourScheme.reset();
     CLocalConfig::deleteInstance();
-    CGIConfigManage::deleteInstance(); // asks the factory
+    CGIConfigManage::deleteInstance(); // uses the factory
     CDeviceFactory::deleteInstance();
     VideoItem::registerLibraries({});
 }
@@ -101,18 +101,18 @@ std::optional<int> Shell::begin()
     m_desktopScheme = std::make_unique<DesktopScheme>(DesktopScheme::sessionBus());
     m_colourScheme = std::make_unique<ColourScheme>(*m_desktopScheme, *CLocalConfig::getinstance());
     loadTranslators();
-    if (CLocalConfig::getinstance()->anotherInstanceRuns()) {
+    if (!CLocalConfig::getinstance()->acquireInstanceLock()) {
         OMessageBox::show(QObject::tr("提示"), QObject::tr("应用程序已经运行!"));
         QCoreApplication::exit(0);
         return 0;
     }
     if (!chooseLibraries())
-        return sceneFailed;
+        return startFailed;
     chooseCertificates();
     chooseAccounts();
     registerBackEnds();
     VideoItem::registerLibraries(m_libraries);
-    loadScene();
+    loadQml();
     return std::nullopt;
 }
 
@@ -123,7 +123,7 @@ void Shell::loadTranslators()
         loadTranslation(m_fallbackTranslator, translationPath(QStringLiteral("en_US")))) {
         QCoreApplication::installTranslator(&m_fallbackTranslator);
     }
-    // Installed last, it is searched first.
+    // The last installed translator is searched first.
     if (loadTranslation(m_mainTranslator, translationPath(code)))
         QCoreApplication::installTranslator(&m_mainTranslator);
 }
@@ -132,13 +132,13 @@ bool Shell::chooseLibraries()
 {
     m_libraries.clock = std::make_shared<sdk::SystemClock>();
     m_libraries.decoder = std::make_shared<sdk::ffmpeg::FfmpegDecoderLibrary>();
-    QString complaint;
+    QString bindingError;
     if (!m_commandLine.demo &&
-        bindDeviceLibraries(QCoreApplication::applicationDirPath(), m_libraries, complaint)) {
-        if (complaint.isEmpty())
+        bindDeviceLibraries(QCoreApplication::applicationDirPath(), m_libraries, bindingError)) {
+        if (bindingError.isEmpty())
             return true;
-        qCCritical(logApp).noquote() << "The device libraries cannot be used:" << complaint;
-        OMessageBox::show(QObject::tr("提示"), complaint);
+        qCCritical(logApp).noquote() << "The device libraries cannot be used:" << bindingError;
+        OMessageBox::show(QObject::tr("提示"), bindingError);
         return false;
     }
     if (!m_commandLine.demo) {
@@ -150,7 +150,7 @@ bool Shell::chooseLibraries()
     const std::shared_ptr<sdk::demo::DemoSite> site =
         sdk::demo::DemoSite::open(m_commandLine.scene, m_libraries.clock, &error);
     if (!site) {
-        // What the scene file says is quoted in it, however long and odd.
+        // The error may quote the scene file, whose strings may be long.
         constexpr qsizetype longestError = 400;
         error = error.simplified();
         if (error.size() > longestError)
@@ -163,7 +163,7 @@ bool Shell::chooseLibraries()
     const std::shared_ptr<sdk::DecoderLibrary> decoder = std::move(m_libraries.decoder);
     m_libraries = site->libraries();
     m_libraries.decoder = decoder;
-    // Without a port of its own the site is still the only one that may be asked: no real address is.
+    // A site without a proxy gets an address where nothing listens, so that no real device is reached.
     const QString proxy = site->httpProxy();
     CGIConfigManage::getinstance()->setProxy(proxy.isEmpty() ? QStringLiteral("http://127.0.0.1:9") : proxy);
     return true;
@@ -171,7 +171,8 @@ bool Shell::chooseLibraries()
 
 void Shell::chooseCertificates()
 {
-    // Simulated devices make other keys at each start, and have the addresses of real ones.
+    // Not stored for simulated devices: their keys change at each start, and they have addresses of real
+    // ones.
     const QString path = m_commandLine.demo
                              ? QString()
                              : QCoreApplication::applicationDirPath() + QStringLiteral("/certificates.json");
@@ -183,8 +184,7 @@ void Shell::chooseCertificates()
 
 void Shell::chooseAccounts()
 {
-    // The passwords of simulated devices are at each start what the scene says, and some have the MACs of
-    // real ones.
+    // Not stored for simulated devices: each start resets their passwords, and some have MACs of real ones.
     const QString path = m_commandLine.demo
                              ? QString()
                              : QCoreApplication::applicationDirPath() + QStringLiteral("/accounts.json");
@@ -217,14 +217,14 @@ void Shell::registerBackEnds()
     CDeviceFactory::registerBackEnd(QStringLiteral("ol"), [] { return std::make_shared<CDeviceOL>(); });
 }
 
-void Shell::loadScene()
+void Shell::loadQml()
 {
-    QQuickStyle::setStyle(QStringLiteral("Basic")); // the program's own controls are drawn on its templates
+    QQuickStyle::setStyle(QStringLiteral("Basic")); // the controls of the application are based on it
     m_engine = std::make_unique<QQmlApplicationEngine>();
     m_engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
     publishToScene(*m_engine, *m_batchEngine, m_deviceStore, m_certificates, m_accounts, *m_colourScheme,
                    m_libraries.net, m_demo);
-    // What the answers of a search were read with is freed in pieces between the rows.
+    // Responses of a search leave fragmented free memory.
     QObject::connect(CDeviceFactory::getinstance(), &CDeviceFactory::signalSearchDone,
                      CDeviceFactory::getinstance(), &returnFreedMemory);
     m_engine->load(QUrl(QStringLiteral("qrc:/qt/qml/configtools/main.qml")));

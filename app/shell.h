@@ -12,29 +12,29 @@
 #include <memory>
 #include <optional>
 
-/// Start-up and clean-up around the event loop, given an application object. Everything on the main thread.
+/// Start-up and clean-up around the event loop. Requires the application object. Main thread only.
 class Shell
 {
     Q_DECLARE_TR_FUNCTIONS(Shell)
 public:
-    /// What must be set before the application object is created: its attributes, and what the allocator
-    /// keeps.
+    /// Sets the attributes of the application and the limits of the allocator. Called before the application
+    /// object is created.
     static void prepareApplication();
 
     explicit Shell(CommandLine commandLine);
 
-    /// Closes the scene's windows, deletes the local configuration, the object for commands and then the
-    /// device factory; the engine and the translators follow.
+    /// Deletes the windows and the engine of QML, the local configuration, the object for commands, and the
+    /// device factory, in this order.
     ~Shell();
 
     Shell(const Shell &) = delete;
     Shell &operator=(const Shell &) = delete;
 
-    /// Settles the language, takes the single-instance lock, chooses the device libraries and loads the
-    /// scene. Returns an exit code when the program is not to run, after it has said why.
+    /// Chooses the language, acquires the single-instance lock, chooses the device libraries and loads QML.
+    /// Returns an exit code if the application must not run, after it has shown the reason.
     [[nodiscard]] std::optional<int> begin();
 
-    /// The scene's engine; null before a successful begin().
+    /// The engine of QML; null before a successful begin().
     [[nodiscard]] QQmlApplicationEngine *engine() const { return m_engine.get(); }
 
     /// The libraries in use; empty before a successful begin().
@@ -46,14 +46,14 @@ private:
     void chooseCertificates();
     void chooseAccounts();
     void registerBackEnds();
-    void loadScene();
+    void loadQml();
 
     const CommandLine m_commandLine;
-    QTranslator m_fallbackTranslator; ///< English, for texts that the chosen language lacks
+    QTranslator m_fallbackTranslator; ///< English, for strings that the chosen language lacks
     QTranslator m_mainTranslator;
     std::unique_ptr<DesktopScheme> m_desktopScheme;
     std::unique_ptr<ColourScheme> m_colourScheme;
-    std::shared_ptr<CertificateStore> m_certificates; ///< outlives the libraries, which ask it
+    std::shared_ptr<CertificateStore> m_certificates; ///< outlives the libraries, which call it
     std::shared_ptr<AccountStore> m_accounts;
     sdk::SdkLibraries m_libraries;
     DemoNotice m_demo;

@@ -2,9 +2,9 @@
 
 #include <QString>
 
-/// "UTC+08:00" for an offset from UTC in seconds. The minus sign of a western offset is part of its hours, in
-/// a field of two places, so "UTC-5:00" has no zero in front.
+/// "UTC+08:00" for an offset from UTC in seconds. The sign of a negative offset counts as a digit of the
+/// hours, so "UTC-5:00" has no leading zero.
 [[nodiscard]] QString timeZoneText(int offsetFromUtc);
 
-/// The text for the computer's time zone at this moment.
+/// The text for the current offset of the host's time zone.
 [[nodiscard]] QString systemTimeZoneText();

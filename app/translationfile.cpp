@@ -11,7 +11,7 @@
 
 namespace {
 
-// The form of a compiled translation: a magic number, then sections of a tag byte, a length and that many
+// A compiled translation is a magic number and sections. A section is a tag byte, a length and that many
 // bytes. Numbers are big-endian.
 
 constexpr QByteArrayView magic("\x3c\xb8\x64\x18\xca\xef\x9c\x95\xcd\x21\x1c\xbf\x60\xa1\xbd\xdd", 16);
@@ -35,7 +35,7 @@ enum class MessageTag : quint8
     Comment = 8,
 };
 
-/// Reads numbers and runs of bytes one after another, and never past the end.
+/// Reads numbers and byte ranges in sequence, up to the end of the bytes.
 class ByteReader
 {
 public:
@@ -46,11 +46,11 @@ public:
     template<typename Number>
     [[nodiscard]] std::optional<Number> number()
     {
-        const std::optional<QByteArrayView> bytes = run(sizeof(Number));
+        const std::optional<QByteArrayView> bytes = range(sizeof(Number));
         return bytes ? std::optional(qFromBigEndian<Number>(bytes->data())) : std::nullopt;
     }
 
-    [[nodiscard]] std::optional<QByteArrayView> run(qint64 size)
+    [[nodiscard]] std::optional<QByteArrayView> range(qint64 size)
     {
         if (size < 0 || size > m_bytes.size())
             return std::nullopt;
@@ -63,8 +63,8 @@ private:
     QByteArrayView m_bytes;
 };
 
-/// A message: tagged parts up to an end tag. A translation is a whole number of 16-bit letters, or absent.
-bool isSoundMessage(QByteArrayView bytes)
+/// A message is a sequence of tagged parts up to an end tag. A translation consists of 16-bit characters.
+bool isValidMessage(QByteArrayView bytes)
 {
     constexpr quint32 absent = 0xFFFFFFFF;
     ByteReader reader(bytes);
@@ -73,12 +73,12 @@ bool isSoundMessage(QByteArrayView bytes)
         case MessageTag::End:
             return true;
         case MessageTag::Obsolete:
-            if (!reader.run(4))
+            if (!reader.range(4))
                 return false;
             break;
         case MessageTag::Translation: {
             const std::optional<quint32> length = reader.number<quint32>();
-            if (!length || *length == absent || *length % 2 != 0 || !reader.run(*length))
+            if (!length || *length == absent || *length % 2 != 0 || !reader.range(*length))
                 return false;
             break;
         }
@@ -88,7 +88,7 @@ bool isSoundMessage(QByteArrayView bytes)
         case MessageTag::Context:
         case MessageTag::Comment: {
             const std::optional<quint32> length = reader.number<quint32>();
-            if (!length || !reader.run(*length))
+            if (!length || !reader.range(*length))
                 return false;
             break;
         }
@@ -101,7 +101,7 @@ bool isSoundMessage(QByteArrayView bytes)
 
 } // namespace
 
-bool isSoundTranslation(const QByteArray &bytes)
+bool isValidTranslation(const QByteArray &bytes)
 {
     if (!bytes.startsWith(magic))
         return false;
@@ -110,25 +110,25 @@ bool isSoundTranslation(const QByteArray &bytes)
     while (!reader.atEnd()) {
         const std::optional<quint8> tag = reader.number<quint8>();
         const std::optional<quint32> length = reader.number<quint32>();
-        const std::optional<QByteArrayView> content = length ? reader.run(*length) : std::nullopt;
+        const std::optional<QByteArrayView> content = length ? reader.range(*length) : std::nullopt;
         if (!tag || !content)
             return false;
         sections.insert(*tag, *content);
     }
-    // A table of contexts is an old form, which nothing makes any more and whose chains have no bounds.
+    // An obsolete section that current tools do not write. Its chains have no bounds.
     if (!sections.value(quint8(Section::Contexts)).isEmpty())
         return false;
 
     const QByteArrayView messages = sections.value(quint8(Section::Messages));
     const QByteArrayView hashes = sections.value(quint8(Section::Hashes));
-    constexpr qsizetype entrySize = 8; // a hash and the place of its message
+    constexpr qsizetype entrySize = 8; // a hash and the offset of its message
     if (hashes.isEmpty() || hashes.size() % entrySize != 0)
         return false;
     ByteReader table(hashes);
     while (!table.atEnd()) {
         const std::optional<quint32> hash = table.number<quint32>();
-        const std::optional<quint32> place = table.number<quint32>();
-        if (!hash || !place || *place >= messages.size() || !isSoundMessage(messages.sliced(*place)))
+        const std::optional<quint32> offset = table.number<quint32>();
+        if (!hash || !offset || *offset >= messages.size() || !isValidMessage(messages.sliced(*offset)))
             return false;
     }
     return true;
@@ -145,7 +145,7 @@ bool loadTranslation(QTranslator &translator, const QString &path)
     }
     constexpr qint64 maximumSize = qint64{64} * 1024 * 1024;
     const QByteArray bytes = file.size() <= maximumSize ? file.readAll() : QByteArray();
-    if (!isSoundTranslation(bytes) || !translator.load(path)) {
+    if (!isValidTranslation(bytes) || !translator.load(path)) {
         qCWarning(logApp) << "The translation" << path << "is damaged and not used";
         return false;
     }

@@ -5,11 +5,10 @@
 
 class QTranslator;
 
-/// True when the bytes of a compiled translation can be read without leaving them: every section, every entry
-/// of the table of texts and every text lies within its bounds. The toolkit trusts a file that begins with
-/// the right bytes, and a damaged one can end the program at its first text.
-[[nodiscard]] bool isSoundTranslation(const QByteArray &bytes);
+/// Whether all sections, table entries and messages of a compiled translation are within its bounds. Qt
+/// checks only the first bytes of a file, and a damaged one can crash the application at its first string.
+[[nodiscard]] bool isValidTranslation(const QByteArray &bytes);
 
-/// Loads a translation file into `translator`. Returns false, with a warning in the log where there is a
-/// file, when there is no sound translation in it.
+/// Loads a translation file into `translator`. Returns false if the file does not exist, or if it is invalid,
+/// with a warning in the log.
 [[nodiscard]] bool loadTranslation(QTranslator &translator, const QString &path);

@@ -1,4 +1,4 @@
-// The arrangement of the window, which outlives the program.
+// Stores the arrangement of the window.
 #pragma once
 
 #include <QMap>
@@ -6,36 +6,38 @@
 #include <QString>
 #include <QTimer>
 
-/// Texts by name in the group "view" of the settings file: columns and order of the tables, tab and place of
-/// the window. The file's other settings stay as they are.
+/// Named strings in the group "view" of the settings file: columns and order of the tables, tab and position
+/// of the window. The other settings are not changed.
 ///
-/// Texts are written a moment later, several changes at once, since a column is dragged in many steps.
-/// Without a settings file nothing is written: one with these texts only would lack the defaults of all other
-/// settings. Main thread only.
+/// Changes of one second are written together, because a drag of a column has many steps. Nothing is written
+/// without a settings file: a file with these strings alone would lack the defaults of the other settings.
+/// Main thread only.
 class ViewMemory : public QObject
 {
     Q_OBJECT
 public:
-    static constexpr qsizetype longestText = 4096; ///< longer ones are not kept and read as empty
+    static constexpr qsizetype longestText =
+        4096; ///< in characters; longer ones are not stored and read as empty
 
     explicit ViewMemory(QString settingsPath, QObject *parent = nullptr);
-    ~ViewMemory() override; ///< writes the kept texts
+    ~ViewMemory() override; ///< writes pending changes
 
-    /// The text with this name; empty when there is none.
+    /// The string of this name; empty if there is none.
     Q_INVOKABLE [[nodiscard]] QString text(const QString &name) const;
 
+    /// Sets the string of this name. It is written within a second.
     Q_INVOKABLE void keep(const QString &name, const QString &text);
 
-    /// Writes the kept texts at once. Blocks until the disk has them.
+    /// Writes pending changes. Blocks until they are on disk.
     Q_INVOKABLE void write();
 
 Q_SIGNALS:
-    /// The first of several failed writes. The kept texts are tried again with the next one.
+    /// The first of consecutive failed writes. The changes stay pending for the next one.
     void failed();
 
 private:
     const QString m_settingsPath;
     QMap<QString, QString> m_pending; ///< by name
-    bool m_hasFailed = false;         ///< the last time
+    bool m_hasFailed = false;         ///< the last write has failed
     QTimer m_delay;
 };

@@ -2,14 +2,14 @@
 
 namespace {
 
-/// Under their names in the scene's theme.
+/// Copies of the colours of Theme.qml, which widgets cannot read.
 struct WidgetColours
 {
     const char *surface;
     const char *line;
-    const char *ink;
+    const char *text;
     const char *accent;
-    const char *accentInk;
+    const char *accentText;
     const char *accentHover;
     const char *accentPressed;
     const char *focusRing;
@@ -17,17 +17,17 @@ struct WidgetColours
 
 constexpr WidgetColours lightColours{.surface = "#ffffff",
                                      .line = "#d9dfe6",
-                                     .ink = "#1b2430",
+                                     .text = "#1b2430",
                                      .accent = "#1769e0",
-                                     .accentInk = "#ffffff",
+                                     .accentText = "#ffffff",
                                      .accentHover = "#1259c4",
                                      .accentPressed = "#0e4ba8",
                                      .focusRing = "#b3d1f9"};
 constexpr WidgetColours darkColours{.surface = "#1a212b",
                                     .line = "#313c4b",
-                                    .ink = "#e6ebf2",
+                                    .text = "#e6ebf2",
                                     .accent = "#72aaf8",
-                                    .accentInk = "#0a1420",
+                                    .accentText = "#0a1420",
                                     .accentHover = "#86b7fa",
                                     .accentPressed = "#a0c7fb",
                                     .focusRing = "#2b5288"};
@@ -47,7 +47,7 @@ QString widgetStyle(bool dark)
                           "OPressButton:pressed { background: %7; border-color: %7; }"
                           "OPressButton:focus { border-color: %8; }")
         .arg(QLatin1StringView(colours.surface), QLatin1StringView(colours.line),
-             QLatin1StringView(colours.ink), QLatin1StringView(colours.accent),
-             QLatin1StringView(colours.accentInk), QLatin1StringView(colours.accentHover),
+             QLatin1StringView(colours.text), QLatin1StringView(colours.accent),
+             QLatin1StringView(colours.accentText), QLatin1StringView(colours.accentHover),
              QLatin1StringView(colours.accentPressed), QLatin1StringView(colours.focusRing));
 }

@@ -2,6 +2,5 @@
 
 #include <QString>
 
-/// Style sheet of the shell's widgets, in the colours of the scene's light or dark theme, which widgets
-/// cannot read.
+/// Style sheet of OMessageBox and OPressButton with the colours of the light or dark theme of QML.
 [[nodiscard]] QString widgetStyle(bool dark);

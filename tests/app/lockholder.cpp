@@ -10,7 +10,7 @@ int main(int argc, char *argv[])
     const QCoreApplication application(argc, argv);
     const QTemporaryDir directory;
     CLocalConfig localConfig(directory.path());
-    std::puts(localConfig.anotherInstanceRuns() ? "refused" : "holding");
+    std::puts(localConfig.acquireInstanceLock() ? "holding" : "refused");
     std::fflush(stdout);
     return QCoreApplication::exec();
 }

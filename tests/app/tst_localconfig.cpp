@@ -240,15 +240,15 @@ private Q_SLOTS:
         QCOMPARE(first.readLine().trimmed(), "holding");
 
         CLocalConfig config(m_directory->path());
-        QVERIFY(config.anotherInstanceRuns());
-        QVERIFY(config.anotherInstanceRuns()); // a check does not release the lock of a running process
+        QVERIFY(!config.acquireInstanceLock());
+        QVERIFY(!config.acquireInstanceLock()); // a failed attempt does not release the lock of a running process
         QProcess second;
         start(second);
         QCOMPARE(second.readLine().trimmed(), "refused");
 
         first.kill(); // leaves its shared memory segment behind
         QVERIFY(first.waitForFinished());
-        QVERIFY(!config.anotherInstanceRuns());
+        QVERIFY(config.acquireInstanceLock());
         QProcess third;
         start(third);
         QCOMPARE(third.readLine().trimmed(), "refused");

@@ -85,7 +85,7 @@ private Q_SLOTS:
     {
         const QTemporaryDir directory;
         CLocalConfig first(directory.path());
-        QVERIFY(!first.anotherInstanceRuns());
+        QVERIFY(first.acquireInstanceLock());
         const auto [exitCode, texts] = refusedStart(CommandLine::parse({"ConfigTools", "--demo"}));
         QCOMPARE(exitCode, 0);
         QCOMPARE(texts, QStringList({"提示", "应用程序已经运行!"}));

@@ -21,7 +21,7 @@ private Q_SLOTS:
 
     void theApplicationsFileIsValid()
     {
-        QVERIFY(isSoundTranslation(m_valid));
+        QVERIFY(isValidTranslation(m_valid));
         QTranslator translator;
         QVERIFY(loadTranslation(translator, TRANSLATION));
         QVERIFY(!translator.isEmpty());
@@ -35,7 +35,7 @@ private Q_SLOTS:
         for (qsizetype size = 0; size < m_valid.size(); ++size) {
             if (m_valid.at(size) == pluralRules && m_valid.size() - size < 100)
                 continue;
-            QVERIFY2(!isSoundTranslation(m_valid.left(size)), qPrintable(QString::number(size)));
+            QVERIFY2(!isValidTranslation(m_valid.left(size)), qPrintable(QString::number(size)));
         }
     }
 
