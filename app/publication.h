@@ -16,7 +16,7 @@ namespace sdk {
 class NetLibrary;
 }
 
-/// What the window shows about a simulated site.
+/// Information about a simulated site for the window.
 struct DemoNotice
 {
     bool isShown = false; ///< the application uses a simulated site

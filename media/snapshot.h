@@ -21,7 +21,7 @@ struct SnapChannel
     bool connected = true;
 };
 
-/// What the snapshots of one device have in common. The functions are called on the thread of the snapshots.
+/// The common data of the snapshots of one device. The functions are called on the thread of the snapshots.
 struct SnapTask
 {
     sdk::SdkLibraries libraries;

@@ -3,8 +3,8 @@ attribute vec2 texCoord;
 
 uniform mat4 u_modelMatrix;   // zoom and pan
 uniform mat4 u_viewMatrix;
-uniform mat4 u_projectMatrix; // the picture's shape in the view
-uniform vec2 chromaPart;      // what the picture covers of the samples of U and V
+uniform mat4 u_projectMatrix; // aspect ratio of the frame in the view
+uniform vec2 chromaPart;      // fraction of the samples of U and V that the frame covers
 
 varying vec2 lumaPoint;
 varying vec2 chromaPoint;
