@@ -22,7 +22,7 @@ namespace {
 
 constexpr int wrongPasswordsInARow = 5;
 
-/// Each request of a step has a separate timeout of up to 5 s.
+/// Deadline of a step. Each request of the step has its own timeout of up to 5 s.
 constexpr std::chrono::milliseconds stepDeadline = std::chrono::seconds(60);
 
 /// Id of the work of a system command. Both ways to set the clock are one work, as are both steps of a

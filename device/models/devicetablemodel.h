@@ -77,7 +77,7 @@ public:
     [[nodiscard]] DeviceNotes *notes() const { return m_notes; }
     void setNotes(DeviceNotes *notes);
     [[nodiscard]] bool onlyFailed() const { return m_onlyFailed; }
-    /// Of the marks, while only marked devices are shown, see FailedMarks; empty for all.
+    /// Title of the work whose marks are shown, while only marked devices are shown; empty: all marks.
     [[nodiscard]] QString failedOperation() const { return m_failedMarks.operation(); }
     void setFailedOperation(const QString &operation);
     void setOnlyFailed(bool only);

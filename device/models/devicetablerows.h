@@ -34,7 +34,7 @@ struct DeviceTableFilter
     bool showInitialised = true;
     bool showUninitialised = true;
     QString searchText = {};
-    const FollowedMarks *onlyThose = nullptr; ///< shows only the devices that have marks; null: all
+    const FollowedMarks *onlyThose = nullptr; ///< not null: only marked devices are shown
 };
 
 /// The order of the rows.

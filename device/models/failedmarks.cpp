@@ -109,6 +109,6 @@ QString FailedMarks::wordsOf(const QString &identity) const
     const QList<Failure> failures = m_failures.value(identity);
     for (const Failure &failure : failures)
         lines.append(failure.words);
-    lines.removeDuplicates(); // of works with the same title
+    lines.removeDuplicates(); // different work may have the same title
     return lines.join(QLatin1Char('\n'));
 }

@@ -36,14 +36,14 @@ public:
 
     Q_INVOKABLE void clear();
 
-    /// Titles of the works that have marks, in alphabetical order.
+    /// Titles of the work that has marks, in alphabetical order.
     [[nodiscard]] QStringList operations() const;
 
-    // With `operation`, the title of a work, only its marks count.
+    // `operation` is the title of a work: only its marks are counted. Empty: all marks.
     [[nodiscard]] int count(const QString &operation = {}) const;
     [[nodiscard]] bool contains(const QString &identity, const QString &operation = {}) const;
 
-    /// Name of the result that the device had in the last work that failed; empty when it is not marked.
+    /// The name of the most recent failed result of the device; empty if it is not marked.
     [[nodiscard]] QString reasonOf(const QString &identity, const QString &operation = {}) const;
 
     /// The names of the marked rows.

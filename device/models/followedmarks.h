@@ -7,8 +7,8 @@
 
 #include <utility>
 
-/// Reference from a model to the FailedMarks that it shows; may be empty. Also the operation whose marks count
-/// when only marked devices are shown. Lives on the main thread.
+/// Reference from a model to the FailedMarks that it shows; may be empty. Also stores the operation (title of
+/// a work) to which the shown marks are restricted. Lives on the main thread.
 class FollowedMarks
 {
 public:
@@ -19,7 +19,7 @@ public:
     [[nodiscard]] const QString &operation() const { return m_operation; }
     /// Returns whether the operation has changed.
     bool setOperation(const QString &operation) { return std::exchange(m_operation, operation) != operation; }
-    /// Resets the operation if it has no marks any more. Returns whether it was reset.
+    /// Clears the operation if it has no marks left. Returns whether it was cleared.
     bool settleOperation()
     {
         const bool isOver =

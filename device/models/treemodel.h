@@ -88,7 +88,7 @@ public:
     void setFailedMarks(FailedMarks *marks);
     [[nodiscard]] Shown shown() const { return m_shown; }
     void setShown(Shown shown);
-    /// Of the marks, while only marked devices are shown, see FailedMarks; empty for all.
+    /// Title of the work whose marks are shown, while only marked devices are shown; empty: all marks.
     [[nodiscard]] QString failedOperation() const { return m_failedMarks.operation(); }
     void setFailedOperation(const QString &operation);
 

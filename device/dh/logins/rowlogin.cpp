@@ -67,8 +67,8 @@ struct Answers
     sdk::NetworkServices services{};
 };
 
-/// Queries the device. Returns nullopt if `control` ends the step between two queries. A record that cannot be read is
-/// zero.
+/// Queries the device. Returns nullopt if `control` ends the step between two queries. A record that cannot
+/// be read is zero.
 std::optional<Answers> askDevice(const ConfigSession &session, const StepControl &control)
 {
     Answers answers;
@@ -171,7 +171,7 @@ QJsonObject rowOf(const RowLoginRequest &request, const sdk::LoginDeviceInformat
     return row;
 }
 
-/// Copies the values that are better known from a search response.
+/// Replaces name, MAC and version by those of a search response.
 void completeFrom(QJsonObject &row, const sdk::SearchAnswer &answer)
 {
     const QJsonObject found = ipv4Row(answer);
