@@ -282,7 +282,7 @@ void walkImage(Driver &driver, sdk::demo::DemoSite &site)
     setNumber(driver, u"regionLeft"_s, 7000);
     driver.report(u"config-region"_s, driver.text(u"regionError"_s));
     setNumber(driver, u"regionRight"_s, 8000);
-    awaitIdle(driver);
+    awaitConfigIdle(driver);
     driver.check(!driver.find(u"regionError"_s) && driver.text(u"regionLeft"_s) == u"7000",
                  u"both sides of a region are written together"_s);
 

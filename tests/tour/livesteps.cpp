@@ -123,10 +123,10 @@ void walkRecorder(Driver &live)
 {
     awaitFrames(live, 4);
     live.report(u"recorder"_s, live.text(u"liveTitle"_s));
-    const QSize small = pictureSize(live, 1);
+    const QSize small = frameSize(live, 1);
     live.doubleClick(u"liveCell1"_s);
-    live.await(u"the enlarged picture is that of the main stream"_s,
-               [&] { return plays(live, 1) && pictureSize(live, 1).width() > small.width(); });
+    live.await(u"the enlarged view shows the main stream"_s,
+               [&] { return plays(live, 1) && frameSize(live, 1).width() > small.width(); });
     live.report(u"enlarged"_s, live.text(u"liveChannelName"_s));
     live.key(Qt::Key_Escape);
     awaitFrames(live, 4);
