@@ -315,7 +315,7 @@ private Q_SLOTS:
     /// The results of rows name the kind of failure in the user's language, before the words of the library.
     void aRowExplainsItsFailure_data()
     {
-        // answer: empty for a server that does not answer. result: its start
+        // answer: empty: the server does not respond. result: its start
         const auto row = dataTable<bool, QByteArray, QString>({"isListening", "answer", "result"});
         const QByteArray cut = "HTTP/1.1 200 OK\r\nContent-Length: 1000\r\n\r\nbeginning";
         row("nobody listens", false, "", "Error:设备拒绝连接，请检查HTTP端口（");

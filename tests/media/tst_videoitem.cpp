@@ -161,7 +161,7 @@ private Q_SLOTS:
         QTEST(m_item->text(), "text");
     }
 
-    /// The stream that is there in the end belongs to nobody and is closed.
+    /// The stream that is opened afterwards is closed.
     void aStopBeforeTheResponseClosesTheStream_data()
     {
         const auto row = dataTable<bool>({"isStopped"});

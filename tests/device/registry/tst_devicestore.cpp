@@ -395,7 +395,7 @@ private Q_SLOTS:
             add();
         }
         QCOMPARE(notifications, 0);
-        m_clock->advance(705ms); // 999 ms after the first answer, which started the interval
+        m_clock->advance(705ms); // 999 ms after the first response, which started the interval
         add();
         QCOMPARE(notifications, 0);
         m_clock->advance(1ms);

@@ -70,7 +70,7 @@ private:
     std::unique_ptr<QQuickWindow> m_window;
     ChosenFile m_file;
     int m_resultAgain = 0;
-    DeviceAccount m_account; ///< of the devices; the plan knows none while it is empty
+    DeviceAccount m_account; ///< of the devices; empty: the plan has no account
     QSemaphore m_gate;       ///< lets one step end for each of its resources
 
     [[nodiscard]] QQuickItem *find(const QByteArray &name) const
@@ -198,8 +198,8 @@ private Q_SLOTS:
         QTRY_COMPARE(text("footWarning"), outcome);
     }
 
-    /// The devices of the refused account get another one, and all that are left are tried with it.
-    void aHeldBatchGoesOnWithAnotherAccount()
+    /// The user selects another account for the devices with the refused one. The remaining devices use it.
+    void aPausedBatchContinuesWithAnotherAccount()
     {
         m_account = {.account = "admin", .password = "old"};
         QMetaObject::invokeMethod(m_window.get(), "keepAccounts");

@@ -387,7 +387,8 @@ private Q_SLOTS:
         QCOMPARE(done(), "stopped");
     }
 
-    /// A refusal is removed with its reason, another message is not. The latest message is shown, next to the tabs.
+    /// A refusal is removed with its reason, another message is not. The latest message is shown, next to the
+    /// tabs.
     void refusalsAreRemovedWithTheirReason()
     {
         QObject *notices = m_window->findChild<QObject *>("notices");

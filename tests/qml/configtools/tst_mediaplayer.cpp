@@ -112,7 +112,7 @@ private Q_SLOTS:
     void failedStreamsAreRetried()
     {
         set("active", true);
-        answer(false); // the device is away: no stream is asked for
+        answer(false); // the device is offline: no stream is requested
         QVERIFY(get("waitingForRetry").toBool() && m_net->started().isEmpty());
         QTRY_COMPARE(m_asked->size(), 2); // by itself
         m_net->refuse({sdk::LiveStreamKind::Main, sdk::LiveStreamKind::Sub});

@@ -307,7 +307,7 @@ private Q_SLOTS:
     {
         LiveStream stream(PictureFormat{.keyEvery = 50, .options = "bf=2"});
         const QByteArray bytes = stream.head() + stream.pictures(20);
-        const auto pushed = bytes.count("\x1F\x43\xB6\x75"); // the clusters, one for each picture
+        const auto pushed = bytes.count("\x1F\x43\xB6\x75"); // the clusters, one for each frame
         const auto clock = std::make_shared<StandingClock>();
         Receiver receiver;
         FfmpegDecoderLibrary library(clock);

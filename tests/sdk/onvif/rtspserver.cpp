@@ -188,7 +188,7 @@ bool RtspServer::answerAll(int connection, QByteArray &received, const std::stop
 
 bool RtspServer::answer(int connection, const QByteArray &request, const std::stop_token &stop)
 {
-    if (request.startsWith("RTSP/")) // the client answers
+    if (request.startsWith("RTSP/")) // a response of the client
         return true;
     {
         const std::lock_guard lock(m_mutex);

@@ -300,7 +300,7 @@ private Q_SLOTS:
         setBlockText(input.oldPassword, password);
         setBlockText(input.newPassword, "Another-2025");
         QVERIFY(m_net.NetModifyPassword(handle, input, 5000ms));
-        QVERIFY(configuration<NetworkRecord>(handle, "Network")); // the session goes on
+        QVERIFY(configuration<NetworkRecord>(handle, "Network")); // the session continues
         m_net.NetLogout(handle);
         QCOMPARE(login("192.168.1.104"), 0);
         const LLONG again = login("192.168.1.104", "Another-2025");
