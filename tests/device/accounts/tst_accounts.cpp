@@ -103,11 +103,11 @@ private Q_SLOTS:
         m_site->changeDevice(secondMac, [](auto &device, const auto &) { device.address = "192.168.1.77"; });
         start();
         QCOMPARE(asking("192.168.1.77:37777"), "operator 0");
-        QCOMPARE(m_factory->backEnd("dh")
-                     ->addressStep(secondMac, "192.168.1.78", "255.255.255.0", "192.168.1.1",
-                                   false)(StepControl())
-                     .result,
-                 0);
+        QCOMPARE(
+            m_factory->backEnd("dh")
+                ->addressStep(secondMac, "192.168.1.78", "255.255.255.0", "192.168.1.1", false)(StepControl())
+                .result,
+            0);
         QCOMPARE(m_factory->readDeviceDetail("dh", "192.168.1.78:37777").value("loginResult").toInt(), 0);
 
         // An account entered for the row precedes it until the user selects one again.

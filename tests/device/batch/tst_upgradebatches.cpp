@@ -182,7 +182,8 @@ private Q_SLOTS:
             test.site->setFault(test.mac(place), {Fault::WrongPassword});
         const QList<int> all = {0, 1, 2, 3, 4, 5, 6, 7};
         test.factory->backEnd(test.family)->setUpgradeFiles(test.macs(all), test.file());
-        test.factory->setUpgradeFilePath(test.family, test.mac(2), {}); // does not mean that the password is correct
+        test.factory->setUpgradeFilePath(test.family, test.mac(2),
+                                         {}); // does not mean that the password is correct
         Batch *batch = test.upgrades.start("Upgrade", test.macs(all));
         QVERIFY(batch);
         QVERIFY(test.passUntil([&] { return batch->isHeld(); }));
