@@ -10,7 +10,7 @@ OVComboBox {
 
     accessibleName: qsTr("未成功的操作")
     currentIndex: operations.indexOf(devices.failedOperation) + 1
-    model: [qsTr("全部操作")].concat(operations)
+    model: [qsTr("全部操作"), ...operations]
     objectName: "failedOperationBox"
     onActivated: index => devices.failedOperation = index === 0 ? "" : operations[index - 1]
 }

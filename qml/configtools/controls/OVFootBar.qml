@@ -111,6 +111,11 @@ Item {
                 visible: root.paused
             }
             OVLabel {
+                readonly property real room: root.width - Theme.smallIconSize - Theme.signGap - 5 * Theme.pageMargin
+                    - (account.visible ? account.width : 0) - resume.width - stop.width
+                    - (panel.visible ? panel.width : 0)
+
+                width: root.held ? Math.max(0, Math.min(implicitWidth, room)) : implicitWidth
                 height: parent.height
                 color: root.paused ? Theme.colours.warnText : Theme.colours.sub
                 objectName: "runningText"
@@ -159,6 +164,7 @@ Item {
             onClicked: accounts.instance().choose(root.batch.devicesOfRefusedAccounts())
         }
         OVLinkButton {
+            id: resume
             anchors.verticalCenter: parent.verticalCenter
             objectName: "continueButton"
             text: qsTr("继续")
@@ -166,6 +172,7 @@ Item {
             onClicked: root.batch.resume()
         }
         OVLinkButton {
+            id: stop
             readonly property bool stopping: root.showsBatch ? root.batch.stopping : root.search?.stopping ?? false
 
             anchors.verticalCenter: parent.verticalCenter
@@ -208,6 +215,7 @@ Item {
             onClicked: results.instance().save(root.batch)
         }
         OVLinkButton {
+            id: panel
             anchors.verticalCenter: parent.verticalCenter
             objectName: "batchPanelButton"
             text: qsTr("批处理记录")

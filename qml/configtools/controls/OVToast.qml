@@ -130,6 +130,7 @@ T.Popup {
                     id: waiting
                     x: text.x + text.width + toast.padding
                     y: toast.padding
+                    height: text.lineHeight
                     color: Theme.colours.sub
                     font: Theme.figureFont
                     objectName: "toastsWaiting"

@@ -72,7 +72,7 @@ FocusScope {
         if (unchanged.length === 0)
             return;
         const shown = 3;
-        const reasons = Array.from(new Set(batch.batch.wordsOf(unchanged).map(entry => entry.words)));
+        const reasons = Array.from(new Set(Array.from(batch.batch.wordsOf(unchanged), entry => entry.words)));
         //: %1 are the reasons.
         notify(qsTr("%n 台设备的密码没有修改（%1），已标记", "", unchanged.length)
                  .arg(reasons.slice(0, shown).join(qsTr("；")) + (reasons.length > shown ? "…" : "")), OVToast.Error);
