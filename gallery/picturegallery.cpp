@@ -223,6 +223,17 @@ void PictureGallery::readDevices()
     }
 }
 
+void PictureGallery::renameChannel(const QString &ipport, int channel, const QString &name)
+{
+    for (int row = 0; row < rowCount(); ++row) {
+        Cell &cell = m_cells[row];
+        if (cell.ipport != ipport || cell.channel != channel || cellsOf(cell.identity).count < 2)
+            continue; // the only channel of a device has no name of its own here
+        cell.name = name;
+        Q_EMIT dataChanged(index(row), index(row), {NameRole});
+    }
+}
+
 bool PictureGallery::fetchAll()
 {
     QStringList identities;

@@ -94,6 +94,9 @@ public:
     /// keeps them.
     Q_INVOKABLE void readDevices();
 
+    /// Takes over a new name of a channel (from 0) of the device at `ipport`.
+    Q_INVOKABLE void renameChannel(const QString &ipport, int channel, const QString &name);
+
     /// Fetches all images again. Returns false if the batch is refused.
     Q_INVOKABLE bool fetchAll();
 

@@ -114,6 +114,17 @@ private Q_SLOTS:
         QCOMPARE(cells(), expected);
     }
 
+    void aRenamedChannelHasItsNewName()
+    {
+        devices().addDevice(20, "gate", {});
+        devices().addDevice(21, "recorder", {.channels = {"north", "south"}, .channelCount = 2});
+        m_gallery->show(m_site->rows());
+        awaitEnd();
+        m_gallery->renameChannel("192.168.1.20:37777", 0, "door"); // its device has the name in the list
+        m_gallery->renameChannel("192.168.1.21:37777", 1, "yard");
+        QCOMPARE(cells(), (QStringList{"gate: taken", "recorder · north: taken", "recorder · yard: taken"}));
+    }
+
     void oneIsFetchedAgain()
     {
         devices().addDevice(21, "recorder", {.channels = {"north", "south"}, .channelCount = 2});

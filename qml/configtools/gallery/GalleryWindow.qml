@@ -79,6 +79,14 @@ T.ApplicationWindow {
         onReadingRequested: gallery.readDevices()
     }
 
+    Connections {
+        target: ChannelRenames
+
+        function onRenamed(ipport, channel, name) {
+            gallery.renameChannel(ipport, channel, name);
+        }
+    }
+
     Shortcut { sequence: "Esc"; onActivated: window.close() }
     Shortcut { sequence: "F5"; onActivated: window.fetchAll() }
     Shortcut { sequence: "Ctrl+S"; onActivated: window.saveAll() }

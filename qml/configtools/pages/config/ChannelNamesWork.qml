@@ -51,8 +51,12 @@ Item {
     }
 
     function write(row, name) {
-        session.work.run("", () => session.work.writeName(row, name),
-                         response => nameForm.takeWritten(row, response.result, response.name));
+        const device = session.device;
+        session.work.run("", () => session.work.writeName(row, name), response => {
+            nameForm.takeWritten(row, response.result, response.name);
+            if (response.result === 0 && typeof response.name === "string")
+                ChannelRenames.renamed(device, row, response.name);
+        });
     }
 
     function endSaving(rows, written, failedRow) {

@@ -44,6 +44,8 @@ Item {
                 session.names.clear();
             cameraForm.read();
             read = session.loggedIn;
+            if (key === "curChannelName" && read)
+                ChannelRenames.renamed(session.device, cameraForm.channel, cameraForm.channelName);
             if (!session.loggedIn)
                 session.notify(qsTr("设备没有应答，修改可能没有写入"), OVToast.Error, session.longDuration);
             else if (refusal !== 0)
