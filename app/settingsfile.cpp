@@ -52,7 +52,7 @@ QString SettingsFile::change(const QList<QPair<QString, QString>> &values) const
     QTemporaryFile draft(m_path + QStringLiteral(".XXXXXX"));
     if (!draft.open())
         return draft.errorString();
-    const QString copyError = copyContent(m_path, draft.fileName());
+    QString copyError = copyContent(m_path, draft.fileName());
     if (!copyError.isEmpty())
         return copyError;
     QSettings settings(draft.fileName(), QSettings::IniFormat);
