@@ -241,7 +241,8 @@ private Q_SLOTS:
 
         CLocalConfig config(m_directory->path());
         QVERIFY(!config.acquireInstanceLock());
-        QVERIFY(!config.acquireInstanceLock()); // a failed attempt does not release the lock of a running process
+        QVERIFY(
+            !config.acquireInstanceLock()); // a failed attempt does not release the lock of a running process
         QProcess second;
         start(second);
         QCOMPARE(second.readLine().trimmed(), "refused");
