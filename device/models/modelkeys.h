@@ -1,4 +1,4 @@
-// Keys of the maps that models return to QML, beside those of DeviceRowKey.
+// Keys of the maps that models return to QML, in addition to those of DeviceRowKey.
 #pragma once
 
 #include <QString>
@@ -73,7 +73,7 @@ inline constexpr QLatin1StringView maximum("maximum");
 inline constexpr QLatin1StringView usable("usable"); ///< bool: the value was read, and there are others
 } // namespace SettingKey
 
-/// A stream of EncodeForm, beside its settings.
+/// A stream of EncodeForm, in addition to its settings.
 namespace StreamFormKey {
 inline constexpr QLatin1StringView exists("exists");     ///< bool: the device has the stream
 inline constexpr QLatin1StringView hasAudio("hasAudio"); ///< bool: the stream has sound
