@@ -111,7 +111,7 @@ public:
                 batch && QTest::qWaitFor([batch] { return !batch->isRunning(); }, longestBatch);
             if (!hasEnded)
                 qWarning("a batch did not end: %d of %d devices%s", batch ? batch->done() : 0,
-                         batch ? batch->total() : 0, batch && batch->isHeld() ? ", held" : "");
+                         batch ? batch->total() : 0, batch && batch->isPaused() ? ", held" : "");
         });
     }
 
@@ -383,7 +383,7 @@ private:
         measure(
             u"first passwords"_s, addressPage,
             [this] {
-                return m_window.batches().setFirstPasswords(family, u"Passwords"_s, m_window.factoryNew(),
+                return m_window.batches().initialiseDevices(family, u"Passwords"_s, m_window.factoryNew(),
                                                             account, password);
             },
             once);

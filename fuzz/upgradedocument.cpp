@@ -19,7 +19,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     if (!document.open(file.path()).isEmpty())
         return 0;
     const std::vector<UpgradeDocumentLine> lines = document.lines();
-    if (lines.size() > UpgradeDocument::mostLines)
+    if (lines.size() > UpgradeDocument::maximumLines)
         qFatal("more lines than the limit");
     for (const UpgradeDocumentLine &line : lines) {
         if (line.row < 2)

@@ -878,7 +878,7 @@
     </message>
     <message>
         <source>“%1”正在进行，请在结束后再搜索设备</source>
-        <extracomment>Each %1 is the name of a running work, as on the button that begins it.</extracomment>
+        <extracomment>%1 is the name of running work, as on the button that starts it.</extracomment>
         <translation>“%1” is running. Search when it has finished.</translation>
     </message>
     <message>
@@ -922,7 +922,7 @@
     </message>
 </context>
 <context>
-    <name>CameraLists</name>
+    <name>CameraOptions</name>
     <message>
         <source>室外</source>
         <translation>Outdoors</translation>
@@ -1064,41 +1064,6 @@
     </message>
 </context>
 <context>
-    <name>CgiAnswerWindow</name>
-    <message>
-        <source>复制成功</source>
-        <translation>Copied</translation>
-    </message>
-    <message>
-        <source>文件写入失败：</source>
-        <translation>The file could not be written: </translation>
-    </message>
-    <message>
-        <source>已保存到文件：%1</source>
-        <translation>Saved in %1</translation>
-    </message>
-    <message>
-        <source>关闭</source>
-        <translation>Close</translation>
-    </message>
-    <message>
-        <source>复制全部</source>
-        <translation>Copy all</translation>
-    </message>
-    <message>
-        <source>保存</source>
-        <translation>Save</translation>
-    </message>
-    <message>
-        <source>保存为文本文件</source>
-        <translation>Saves the text in a file</translation>
-    </message>
-    <message>
-        <source>请选择文件夹</source>
-        <translation>Select a folder</translation>
-    </message>
-</context>
-<context>
     <name>CgiBatches</name>
     <message>
         <source>没有通往设备网页端口的隧道。</source>
@@ -1182,6 +1147,43 @@
         <source>设备证书已改变。</source>
         <translation>The certificate of the device has changed.</translation>
     </message>
+    <message>
+        <source>找不到该主机</source>
+        <translation>The host was not found</translation>
+    </message>
+    <message>
+        <source>设备拒绝连接，请检查HTTP端口</source>
+        <translation>The device refused the connection. Check the HTTP port</translation>
+    </message>
+    <message>
+        <source>无法连接设备</source>
+        <translation>The device cannot be reached</translation>
+    </message>
+    <message>
+        <source>设备没有及时应答</source>
+        <translation>The device did not respond in time</translation>
+    </message>
+    <message>
+        <source>无法建立加密连接，请检查HTTPS端口</source>
+        <translation>No encrypted connection. Check the HTTPS port</translation>
+    </message>
+    <message>
+        <source>设备的应答不是有效的HTTP</source>
+        <translation>The response of the device is not valid HTTP</translation>
+    </message>
+    <message>
+        <source>应答结束前连接已断开</source>
+        <translation>The connection was closed before the end of the response</translation>
+    </message>
+    <message>
+        <source>请求失败</source>
+        <translation>The request failed</translation>
+    </message>
+    <message>
+        <source>%1（%2）</source>
+        <extracomment>Why a request failed, and the same in the words of a library.</extracomment>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>CgiRequest</name>
@@ -1192,6 +1194,41 @@
     <message>
         <source>密码不能包含空字符。</source>
         <translation>A password must not contain null characters.</translation>
+    </message>
+</context>
+<context>
+    <name>CgiResponseWindow</name>
+    <message>
+        <source>复制成功</source>
+        <translation>Copied</translation>
+    </message>
+    <message>
+        <source>文件写入失败：</source>
+        <translation>The file could not be written: </translation>
+    </message>
+    <message>
+        <source>已保存到文件：%1</source>
+        <translation>Saved in %1</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>复制全部</source>
+        <translation>Copy all</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>保存为文本文件</source>
+        <translation>Saves the text in a file</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>Select a folder</translation>
     </message>
 </context>
 <context>
@@ -2621,21 +2658,6 @@ Right-click to copy the result</translation>
     </message>
 </context>
 <context>
-    <name>FirstPasswordPreview</name>
-    <message>
-        <source>已初始化，不会执行</source>
-        <translation>Already initialised: skipped</translation>
-    </message>
-    <message>
-        <source>正在升级，不会执行</source>
-        <translation>Upgrade in progress: skipped</translation>
-    </message>
-    <message>
-        <source>MAC地址未知，不会执行</source>
-        <translation>MAC address not known: skipped</translation>
-    </message>
-</context>
-<context>
     <name>FoundDevices</name>
     <message>
         <source>没有该设备的搜索应答，或应答中既没有MAC地址也没有UUID</source>
@@ -3195,6 +3217,21 @@ Right-click to copy the result</translation>
     </message>
 </context>
 <context>
+    <name>InitialisationPreview</name>
+    <message>
+        <source>已初始化，不会执行</source>
+        <translation>Already initialised: skipped</translation>
+    </message>
+    <message>
+        <source>正在升级，不会执行</source>
+        <translation>Upgrade in progress: skipped</translation>
+    </message>
+    <message>
+        <source>MAC地址未知，不会执行</source>
+        <translation>MAC address not known: skipped</translation>
+    </message>
+</context>
+<context>
     <name>InitialiseDialog</name>
     <message>
         <source>初始化</source>
@@ -3234,7 +3271,7 @@ Right-click to copy the result</translation>
     </message>
     <message numerus="yes">
         <source>另有 %n 台不会执行，请查看提示</source>
-        <extracomment>Of the ticked devices; they get no first password.</extracomment>
+        <extracomment>Ticked devices that are not initialised.</extracomment>
         <translation>
             <numerusform>%n more is skipped, see the notes</numerusform>
             <numerusform>%n more are skipped, see the notes</numerusform>
@@ -3298,7 +3335,7 @@ Right-click to copy the result</translation>
     </message>
     <message>
         <source>待解码 %1 KB</source>
-        <extracomment>Data of a live stream that is not yet decoded.</extracomment>
+        <extracomment>Data of a live stream that is waiting to be decoded.</extracomment>
         <translation>%1 KB buffered</translation>
     </message>
     <message>
@@ -3662,7 +3699,7 @@ Right-click to copy the result</translation>
     </message>
     <message numerus="yes">
         <source>%n 台设备未成功，请查看修改结果</source>
-        <extracomment>Of the devices of a batch, those whose result is a failure.</extracomment>
+        <extracomment>Devices of a batch that failed.</extracomment>
         <translation>
             <numerusform>%n device failed: see Result</numerusform>
             <numerusform>%n devices failed: see Result</numerusform>
@@ -3768,7 +3805,7 @@ Right-click to copy the result</translation>
     </message>
     <message>
         <source>起始IP</source>
-        <extracomment>In other languages the address of one device has another name than the first one of a batch.</extracomment>
+        <extracomment>Some languages have a different term for the address of one device and the first address of a batch.</extracomment>
         <translation>Start IP</translation>
     </message>
     <message>
@@ -4284,8 +4321,19 @@ File: </translation>
     </message>
     <message>
         <source>仅未成功 %1</source>
-        <extracomment>Shows only the devices that batches failed with or did not come to; %1 is how many there are.</extracomment>
+        <extracomment>Shows only the devices whose batches failed or did not reach them; %1 is their number.</extracomment>
         <translation>Unresolved %1</translation>
+    </message>
+</context>
+<context>
+    <name>OVFailedOperation</name>
+    <message>
+        <source>未成功的操作</source>
+        <translation>Unresolved operation</translation>
+    </message>
+    <message>
+        <source>全部操作</source>
+        <translation>All operations</translation>
     </message>
 </context>
 <context>
@@ -4300,7 +4348,7 @@ File: </translation>
     </message>
     <message>
         <source>剩余不到 1 分钟</source>
-        <extracomment>How long a batch still takes.</extracomment>
+        <extracomment>Remaining time of a batch.</extracomment>
         <translation>less than 1 min left</translation>
     </message>
     <message numerus="yes">
@@ -4312,7 +4360,7 @@ File: </translation>
     </message>
     <message numerus="yes">
         <source>%n 台失败</source>
-        <extracomment>Of the devices of a batch that runs.</extracomment>
+        <extracomment>Devices of a running batch.</extracomment>
         <translation>
             <numerusform>%n failed</numerusform>
             <numerusform>%n failed</numerusform>
@@ -4332,7 +4380,7 @@ File: </translation>
     </message>
     <message>
         <source>重试失败</source>
-        <extracomment>%1 is the title of the batch. Beside it, a page may have a retry of its own.</extracomment>
+        <extracomment>%1 is the title of the batch. The page may have a separate retry button.</extracomment>
         <translation>Retry failed</translation>
     </message>
     <message>
@@ -4353,12 +4401,12 @@ File: </translation>
     </message>
     <message>
         <source>%1 %2 / %3</source>
-        <extracomment>A batch that runs: its title, and how many devices of how many are done.</extracomment>
+        <extracomment>A running batch: title, finished devices, all devices.</extracomment>
         <translation>%1: %2 of %3 done</translation>
     </message>
     <message numerus="yes">
         <source>，另有 %n 台此前未成功</source>
-        <extracomment>Behind how many devices of a batch failed, which retries another one.</extracomment>
+        <extracomment>After the number of failed devices of a batch that retries another one.</extracomment>
         <translation>
             <numerusform>, %n more unresolved</numerusform>
             <numerusform>, %n more unresolved</numerusform>
@@ -4397,6 +4445,14 @@ File: </translation>
     <message>
         <source>选中未成功</source>
         <translation>Select unresolved</translation>
+    </message>
+    <message>
+        <source>选择账号…</source>
+        <translation>Select account…</translation>
+    </message>
+    <message>
+        <source>为拒绝了此账号的设备和其余使用此账号的设备选择另一个账号，然后重试</source>
+        <translation>Select another account for the devices that refused this one and for the remaining devices that use it, and try them again</translation>
     </message>
 </context>
 <context>
@@ -4596,7 +4652,7 @@ File: </translation>
     </message>
     <message numerus="yes">
         <source>%n台设备已选中</source>
-        <extracomment>At the foot of a page.</extracomment>
+        <extracomment>In the status line of a page.</extracomment>
         <translation>
             <numerusform>%n device selected</numerusform>
             <numerusform>%n devices selected</numerusform>
@@ -4646,7 +4702,7 @@ File: </translation>
     </message>
     <message numerus="yes">
         <source>将通道 %1 的编码配置复制到选中的 %n 台设备的同一通道？</source>
-        <extracomment>%1 is a channel&apos;s number.</extracomment>
+        <extracomment>%1 is a channel number.</extracomment>
         <translation>
             <numerusform>Copy the encoding settings of channel %1 to the same channel of the selected device?</numerusform>
             <numerusform>Copy the encoding settings of channel %1 to the same channel of the %n selected devices?</numerusform>
@@ -4658,7 +4714,7 @@ File: </translation>
     </message>
     <message numerus="yes">
         <source>%n台设备已选中</source>
-        <extracomment>At the foot of a page.</extracomment>
+        <extracomment>In the status line of a page.</extracomment>
         <translation>
             <numerusform>%n device selected</numerusform>
             <numerusform>%n devices selected</numerusform>
@@ -4678,7 +4734,7 @@ File: </translation>
     </message>
     <message>
         <source>写入通道 %1 的编码配置</source>
-        <extracomment>What happens to a device; %1 is a channel&apos;s number.</extracomment>
+        <extracomment>The change of a device; %1 is a channel number.</extracomment>
         <translation>Encoding settings of channel %1</translation>
     </message>
     <message>
@@ -4706,7 +4762,7 @@ File: </translation>
     <name>PageDeviceUpgrade</name>
     <message numerus="yes">
         <source>%n台设备已选中</source>
-        <extracomment>At the foot of a page.</extracomment>
+        <extracomment>In the status line of a page.</extracomment>
         <translation>
             <numerusform>%n device selected</numerusform>
             <numerusform>%n devices selected</numerusform>
@@ -4733,7 +4789,7 @@ File: </translation>
     <name>PageModifyIP</name>
     <message numerus="yes">
         <source>%n台设备已选中</source>
-        <extracomment>At the foot of a page.</extracomment>
+        <extracomment>In the status line of a page.</extracomment>
         <translation>
             <numerusform>%n device selected</numerusform>
             <numerusform>%n devices selected</numerusform>
@@ -4741,7 +4797,7 @@ File: </translation>
     </message>
     <message numerus="yes">
         <source>%n 台设备IP地址冲突</source>
-        <extracomment>Each of the devices has the address of another one.</extracomment>
+        <extracomment>Number of devices whose address another device has, too.</extracomment>
         <translation>
             <numerusform>IP address conflict: %n device</numerusform>
             <numerusform>IP address conflict: %n devices</numerusform>
@@ -4815,7 +4871,7 @@ File: </translation>
     </message>
     <message numerus="yes">
         <source>%n台设备已选中</source>
-        <extracomment>At the foot of a page.</extracomment>
+        <extracomment>In the status line of a page.</extracomment>
         <translation>
             <numerusform>%n device selected</numerusform>
             <numerusform>%n devices selected</numerusform>
@@ -4842,6 +4898,18 @@ File: </translation>
     <message>
         <source>“%1”正在进行，请等待其完成</source>
         <translation>“%1” is running. Wait until it has finished.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备的密码没有修改（%1），已标记</source>
+        <extracomment>%1 are the reasons.</extracomment>
+        <translation>
+            <numerusform>Password not changed on %n device (%1); it is marked</numerusform>
+            <numerusform>Password not changed on %n devices (%1); they are marked</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>；</source>
+        <translation>; </translation>
     </message>
 </context>
 <context>
@@ -5884,7 +5952,7 @@ File: </translation>
     </message>
     <message>
         <source>%1 %2 重启</source>
-        <extracomment>When a device reboots: a day of the week or every day, and a time.</extracomment>
+        <extracomment>Time of a reboot: a day of the week or every day, and a time.</extracomment>
         <translation>Reboot %1 %2</translation>
     </message>
     <message>
@@ -6040,7 +6108,7 @@ File: </translation>
     </message>
     <message>
         <source>未登录 %1</source>
-        <extracomment>Shows only the devices without a login; %1 is how many there are.</extracomment>
+        <extracomment>Shows only the devices without a login; %1 is their number.</extracomment>
         <translation>Not logged in %1</translation>
     </message>
     <message>
@@ -6049,7 +6117,7 @@ File: </translation>
     </message>
     <message>
         <source>未成功 %1</source>
-        <extracomment>Shows only the devices that batches failed with or did not come to; %1 is how many there are.</extracomment>
+        <extracomment>Shows only the devices whose batches failed or did not reach them; %1 is their number.</extracomment>
         <translation>Unresolved %1</translation>
     </message>
     <message>
@@ -6348,7 +6416,7 @@ File: </translation>
     </message>
     <message>
         <source>升级：%1 / %2</source>
-        <extracomment>Devices of an upgrade that are done, of all of them.</extracomment>
+        <extracomment>Finished devices of an upgrade, and all of them.</extracomment>
         <translation>Upgrade: %1 of %2 done</translation>
     </message>
 </context>
@@ -6760,7 +6828,7 @@ File: </translation>
     </message>
     <message numerus="yes">
         <source>%n 台设备未升级成功，请查看结果</source>
-        <extracomment>Of the devices that were upgraded.</extracomment>
+        <extracomment>Devices that were upgraded.</extracomment>
         <translation>
             <numerusform>%n device was not upgraded: see Result</numerusform>
             <numerusform>%n devices were not upgraded: see Result</numerusform>
@@ -6791,7 +6859,7 @@ File: </translation>
     </message>
     <message>
         <source>已停止：升级成功 %1 台，失败 %2 台，未执行 %3 台</source>
-        <extracomment>Of the devices that were to be upgraded.</extracomment>
+        <extracomment>Devices that were to be upgraded.</extracomment>
         <translation>Stopped: %1 upgraded, %2 failed, %3 not done</translation>
     </message>
 </context>
@@ -6896,6 +6964,17 @@ File: </translation>
 <context>
     <name>VideoItem</name>
     <message>
+        <source>无法显示画面：Shaders 文件夹中的文件缺失或无法使用</source>
+        <translation>No image: files in the folder Shaders are missing or damaged</translation>
+    </message>
+    <message>
+        <source>无法显示画面：显卡不支持这样大的画面</source>
+        <translation>No image: too large for the graphics card</translation>
+    </message>
+</context>
+<context>
+    <name>VideoStream</name>
+    <message>
         <source>播放失败</source>
         <translation>Playback failed</translation>
     </message>
@@ -6926,14 +7005,6 @@ File: </translation>
     <message>
         <source>本机无法处理视频流</source>
         <translation>This computer cannot decode the stream</translation>
-    </message>
-    <message>
-        <source>无法显示画面：Shaders 文件夹中的文件缺失或无法使用</source>
-        <translation>No image: files in the folder Shaders are missing or damaged</translation>
-    </message>
-    <message>
-        <source>无法显示画面：显卡不支持这样大的画面</source>
-        <translation>No image: too large for the graphics card</translation>
     </message>
 </context>
 <context>

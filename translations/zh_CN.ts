@@ -854,7 +854,7 @@
     </message>
     <message>
         <source>“%1”正在进行，请在结束后再搜索设备</source>
-        <extracomment>Each %1 is the name of a running work, as on the button that begins it.</extracomment>
+        <extracomment>%1 is the name of running work, as on the button that starts it.</extracomment>
         <translation>“%1”正在进行，请在结束后再搜索设备</translation>
     </message>
     <message>
@@ -898,7 +898,7 @@
     </message>
 </context>
 <context>
-    <name>CameraLists</name>
+    <name>CameraOptions</name>
     <message>
         <source>室外</source>
         <translation>室外</translation>
@@ -1039,41 +1039,6 @@
     </message>
 </context>
 <context>
-    <name>CgiAnswerWindow</name>
-    <message>
-        <source>复制成功</source>
-        <translation>复制成功</translation>
-    </message>
-    <message>
-        <source>文件写入失败：</source>
-        <translation>文件写入失败：</translation>
-    </message>
-    <message>
-        <source>已保存到文件：%1</source>
-        <translation>已保存到文件：%1</translation>
-    </message>
-    <message>
-        <source>关闭</source>
-        <translation>关闭</translation>
-    </message>
-    <message>
-        <source>复制全部</source>
-        <translation>复制全部</translation>
-    </message>
-    <message>
-        <source>保存</source>
-        <translation>保存</translation>
-    </message>
-    <message>
-        <source>保存为文本文件</source>
-        <translation>保存为文本文件</translation>
-    </message>
-    <message>
-        <source>请选择文件夹</source>
-        <translation>请选择文件夹</translation>
-    </message>
-</context>
-<context>
     <name>CgiBatches</name>
     <message>
         <source>没有通往设备网页端口的隧道。</source>
@@ -1157,6 +1122,43 @@
         <source>设备证书已改变。</source>
         <translation>设备证书已改变。</translation>
     </message>
+    <message>
+        <source>找不到该主机</source>
+        <translation>找不到该主机</translation>
+    </message>
+    <message>
+        <source>设备拒绝连接，请检查HTTP端口</source>
+        <translation>设备拒绝连接，请检查HTTP端口</translation>
+    </message>
+    <message>
+        <source>无法连接设备</source>
+        <translation>无法连接设备</translation>
+    </message>
+    <message>
+        <source>设备没有及时应答</source>
+        <translation>设备没有及时应答</translation>
+    </message>
+    <message>
+        <source>无法建立加密连接，请检查HTTPS端口</source>
+        <translation>无法建立加密连接，请检查HTTPS端口</translation>
+    </message>
+    <message>
+        <source>设备的应答不是有效的HTTP</source>
+        <translation>设备的应答不是有效的HTTP</translation>
+    </message>
+    <message>
+        <source>应答结束前连接已断开</source>
+        <translation>应答结束前连接已断开</translation>
+    </message>
+    <message>
+        <source>请求失败</source>
+        <translation>请求失败</translation>
+    </message>
+    <message>
+        <source>%1（%2）</source>
+        <extracomment>Why a request failed, and the same in the words of a library.</extracomment>
+        <translation>%1（%2）</translation>
+    </message>
 </context>
 <context>
     <name>CgiRequest</name>
@@ -1167,6 +1169,41 @@
     <message>
         <source>密码不能包含空字符。</source>
         <translation>密码不能包含空字符。</translation>
+    </message>
+</context>
+<context>
+    <name>CgiResponseWindow</name>
+    <message>
+        <source>复制成功</source>
+        <translation>复制成功</translation>
+    </message>
+    <message>
+        <source>文件写入失败：</source>
+        <translation>文件写入失败：</translation>
+    </message>
+    <message>
+        <source>已保存到文件：%1</source>
+        <translation>已保存到文件：%1</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>复制全部</source>
+        <translation>复制全部</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>保存为文本文件</source>
+        <translation>保存为文本文件</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>请选择文件夹</translation>
     </message>
 </context>
 <context>
@@ -2581,21 +2618,6 @@
     </message>
 </context>
 <context>
-    <name>FirstPasswordPreview</name>
-    <message>
-        <source>已初始化，不会执行</source>
-        <translation>已初始化，不会执行</translation>
-    </message>
-    <message>
-        <source>正在升级，不会执行</source>
-        <translation>正在升级，不会执行</translation>
-    </message>
-    <message>
-        <source>MAC地址未知，不会执行</source>
-        <translation>MAC地址未知，不会执行</translation>
-    </message>
-</context>
-<context>
     <name>FoundDevices</name>
     <message>
         <source>没有该设备的搜索应答，或应答中既没有MAC地址也没有UUID</source>
@@ -3151,6 +3173,21 @@
     </message>
 </context>
 <context>
+    <name>InitialisationPreview</name>
+    <message>
+        <source>已初始化，不会执行</source>
+        <translation>已初始化，不会执行</translation>
+    </message>
+    <message>
+        <source>正在升级，不会执行</source>
+        <translation>正在升级，不会执行</translation>
+    </message>
+    <message>
+        <source>MAC地址未知，不会执行</source>
+        <translation>MAC地址未知，不会执行</translation>
+    </message>
+</context>
+<context>
     <name>InitialiseDialog</name>
     <message>
         <source>初始化</source>
@@ -3190,7 +3227,7 @@
     </message>
     <message numerus="yes">
         <source>另有 %n 台不会执行，请查看提示</source>
-        <extracomment>Of the ticked devices; they get no first password.</extracomment>
+        <extracomment>Ticked devices that are not initialised.</extracomment>
         <translation>
             <numerusform>另有 %n 台不会执行，请查看提示</numerusform>
         </translation>
@@ -3252,7 +3289,7 @@
     </message>
     <message>
         <source>待解码 %1 KB</source>
-        <extracomment>Data of a live stream that is not yet decoded.</extracomment>
+        <extracomment>Data of a live stream that is waiting to be decoded.</extracomment>
         <translation>待解码 %1 KB</translation>
     </message>
     <message>
@@ -3615,7 +3652,7 @@
     </message>
     <message numerus="yes">
         <source>%n 台设备未成功，请查看修改结果</source>
-        <extracomment>Of the devices of a batch, those whose result is a failure.</extracomment>
+        <extracomment>Devices of a batch that failed.</extracomment>
         <translation>
             <numerusform>%n 台设备未成功，请查看修改结果</numerusform>
         </translation>
@@ -3716,7 +3753,7 @@
     </message>
     <message>
         <source>起始IP</source>
-        <extracomment>In other languages the address of one device has another name than the first one of a batch.</extracomment>
+        <extracomment>Some languages have a different term for the address of one device and the first address of a batch.</extracomment>
         <translation>起始IP</translation>
     </message>
     <message>
@@ -4228,8 +4265,19 @@
     </message>
     <message>
         <source>仅未成功 %1</source>
-        <extracomment>Shows only the devices that batches failed with or did not come to; %1 is how many there are.</extracomment>
+        <extracomment>Shows only the devices whose batches failed or did not reach them; %1 is their number.</extracomment>
         <translation>仅未成功 %1</translation>
+    </message>
+</context>
+<context>
+    <name>OVFailedOperation</name>
+    <message>
+        <source>未成功的操作</source>
+        <translation>未成功的操作</translation>
+    </message>
+    <message>
+        <source>全部操作</source>
+        <translation>全部操作</translation>
     </message>
 </context>
 <context>
@@ -4244,7 +4292,7 @@
     </message>
     <message>
         <source>剩余不到 1 分钟</source>
-        <extracomment>How long a batch still takes.</extracomment>
+        <extracomment>Remaining time of a batch.</extracomment>
         <translation>剩余不到 1 分钟</translation>
     </message>
     <message numerus="yes">
@@ -4255,7 +4303,7 @@
     </message>
     <message numerus="yes">
         <source>%n 台失败</source>
-        <extracomment>Of the devices of a batch that runs.</extracomment>
+        <extracomment>Devices of a running batch.</extracomment>
         <translation>
             <numerusform>%n 台失败</numerusform>
         </translation>
@@ -4274,7 +4322,7 @@
     </message>
     <message>
         <source>重试失败</source>
-        <extracomment>%1 is the title of the batch. Beside it, a page may have a retry of its own.</extracomment>
+        <extracomment>%1 is the title of the batch. The page may have a separate retry button.</extracomment>
         <translation>重试失败</translation>
     </message>
     <message>
@@ -4295,12 +4343,12 @@
     </message>
     <message>
         <source>%1 %2 / %3</source>
-        <extracomment>A batch that runs: its title, and how many devices of how many are done.</extracomment>
+        <extracomment>A running batch: title, finished devices, all devices.</extracomment>
         <translation>%1 %2 / %3</translation>
     </message>
     <message numerus="yes">
         <source>，另有 %n 台此前未成功</source>
-        <extracomment>Behind how many devices of a batch failed, which retries another one.</extracomment>
+        <extracomment>After the number of failed devices of a batch that retries another one.</extracomment>
         <translation>
             <numerusform>，另有 %n 台此前未成功</numerusform>
         </translation>
@@ -4336,6 +4384,14 @@
     <message>
         <source>选中未成功</source>
         <translation>选中未成功</translation>
+    </message>
+    <message>
+        <source>选择账号…</source>
+        <translation>选择账号…</translation>
+    </message>
+    <message>
+        <source>为拒绝了此账号的设备和其余使用此账号的设备选择另一个账号，然后重试</source>
+        <translation>为拒绝了此账号的设备和其余使用此账号的设备选择另一个账号，然后重试</translation>
     </message>
 </context>
 <context>
@@ -4533,7 +4589,7 @@
     </message>
     <message numerus="yes">
         <source>%n台设备已选中</source>
-        <extracomment>At the foot of a page.</extracomment>
+        <extracomment>In the status line of a page.</extracomment>
         <translation>
             <numerusform>%n台设备已选中</numerusform>
         </translation>
@@ -4581,7 +4637,7 @@
     </message>
     <message numerus="yes">
         <source>将通道 %1 的编码配置复制到选中的 %n 台设备的同一通道？</source>
-        <extracomment>%1 is a channel&apos;s number.</extracomment>
+        <extracomment>%1 is a channel number.</extracomment>
         <translation>
             <numerusform>将通道 %1 的编码配置复制到选中的 %n 台设备的同一通道？</numerusform>
         </translation>
@@ -4592,7 +4648,7 @@
     </message>
     <message numerus="yes">
         <source>%n台设备已选中</source>
-        <extracomment>At the foot of a page.</extracomment>
+        <extracomment>In the status line of a page.</extracomment>
         <translation>
             <numerusform>%n台设备已选中</numerusform>
         </translation>
@@ -4611,7 +4667,7 @@
     </message>
     <message>
         <source>写入通道 %1 的编码配置</source>
-        <extracomment>What happens to a device; %1 is a channel&apos;s number.</extracomment>
+        <extracomment>The change of a device; %1 is a channel number.</extracomment>
         <translation>写入通道 %1 的编码配置</translation>
     </message>
     <message>
@@ -4639,7 +4695,7 @@
     <name>PageDeviceUpgrade</name>
     <message numerus="yes">
         <source>%n台设备已选中</source>
-        <extracomment>At the foot of a page.</extracomment>
+        <extracomment>In the status line of a page.</extracomment>
         <translation>
             <numerusform>%n台设备已选中</numerusform>
         </translation>
@@ -4665,14 +4721,14 @@
     <name>PageModifyIP</name>
     <message numerus="yes">
         <source>%n台设备已选中</source>
-        <extracomment>At the foot of a page.</extracomment>
+        <extracomment>In the status line of a page.</extracomment>
         <translation>
             <numerusform>%n台设备已选中</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n 台设备IP地址冲突</source>
-        <extracomment>Each of the devices has the address of another one.</extracomment>
+        <extracomment>Number of devices whose address another device has, too.</extracomment>
         <translation>
             <numerusform>%n 台设备IP地址冲突</numerusform>
         </translation>
@@ -4744,7 +4800,7 @@
     </message>
     <message numerus="yes">
         <source>%n台设备已选中</source>
-        <extracomment>At the foot of a page.</extracomment>
+        <extracomment>In the status line of a page.</extracomment>
         <translation>
             <numerusform>%n台设备已选中</numerusform>
         </translation>
@@ -4768,6 +4824,17 @@
     <message>
         <source>“%1”正在进行，请等待其完成</source>
         <translation>“%1”正在进行，请等待其完成</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备的密码没有修改（%1），已标记</source>
+        <extracomment>%1 are the reasons.</extracomment>
+        <translation>
+            <numerusform>%n 台设备的密码没有修改（%1），已标记</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>；</source>
+        <translation>；</translation>
     </message>
 </context>
 <context>
@@ -5805,7 +5872,7 @@
     </message>
     <message>
         <source>%1 %2 重启</source>
-        <extracomment>When a device reboots: a day of the week or every day, and a time.</extracomment>
+        <extracomment>Time of a reboot: a day of the week or every day, and a time.</extracomment>
         <translation>%1 %2 重启</translation>
     </message>
     <message>
@@ -5956,7 +6023,7 @@
     </message>
     <message>
         <source>未登录 %1</source>
-        <extracomment>Shows only the devices without a login; %1 is how many there are.</extracomment>
+        <extracomment>Shows only the devices without a login; %1 is their number.</extracomment>
         <translation>未登录 %1</translation>
     </message>
     <message>
@@ -5965,7 +6032,7 @@
     </message>
     <message>
         <source>未成功 %1</source>
-        <extracomment>Shows only the devices that batches failed with or did not come to; %1 is how many there are.</extracomment>
+        <extracomment>Shows only the devices whose batches failed or did not reach them; %1 is their number.</extracomment>
         <translation>未成功 %1</translation>
     </message>
     <message>
@@ -6261,7 +6328,7 @@
     </message>
     <message>
         <source>升级：%1 / %2</source>
-        <extracomment>Devices of an upgrade that are done, of all of them.</extracomment>
+        <extracomment>Finished devices of an upgrade, and all of them.</extracomment>
         <translation>升级：%1 / %2</translation>
     </message>
 </context>
@@ -6673,7 +6740,7 @@
     </message>
     <message numerus="yes">
         <source>%n 台设备未升级成功，请查看结果</source>
-        <extracomment>Of the devices that were upgraded.</extracomment>
+        <extracomment>Devices that were upgraded.</extracomment>
         <translation>
             <numerusform>%n 台设备未升级成功，请查看结果</numerusform>
         </translation>
@@ -6702,7 +6769,7 @@
     </message>
     <message>
         <source>已停止：升级成功 %1 台，失败 %2 台，未执行 %3 台</source>
-        <extracomment>Of the devices that were to be upgraded.</extracomment>
+        <extracomment>Devices that were to be upgraded.</extracomment>
         <translation>已停止：升级成功 %1 台，失败 %2 台，未执行 %3 台</translation>
     </message>
 </context>
@@ -6807,6 +6874,17 @@
 <context>
     <name>VideoItem</name>
     <message>
+        <source>无法显示画面：Shaders 文件夹中的文件缺失或无法使用</source>
+        <translation>无法显示画面：Shaders 文件夹中的文件缺失或无法使用</translation>
+    </message>
+    <message>
+        <source>无法显示画面：显卡不支持这样大的画面</source>
+        <translation>无法显示画面：显卡不支持这样大的画面</translation>
+    </message>
+</context>
+<context>
+    <name>VideoStream</name>
+    <message>
         <source>播放失败</source>
         <translation>播放失败</translation>
     </message>
@@ -6837,14 +6915,6 @@
     <message>
         <source>本机无法处理视频流</source>
         <translation>本机无法处理视频流</translation>
-    </message>
-    <message>
-        <source>无法显示画面：Shaders 文件夹中的文件缺失或无法使用</source>
-        <translation>无法显示画面：Shaders 文件夹中的文件缺失或无法使用</translation>
-    </message>
-    <message>
-        <source>无法显示画面：显卡不支持这样大的画面</source>
-        <translation>无法显示画面：显卡不支持这样大的画面</translation>
     </message>
 </context>
 <context>

@@ -25,9 +25,9 @@ AddingBatches::AddingBatches(CDeviceFactory &factory, Batches &batches, QObject 
     : QObject(parent), m_factory(factory), m_batches(batches)
 {
     m_readers.setMaxThreadCount(1);
-    m_news.setSingleShot(true);
-    m_news.setInterval(addedRowsInterval);
-    connect(&m_news, &QTimer::timeout, &m_factory, &CDeviceFactory::signalAddSingleDeviceToTable);
+    m_notifyTimer.setSingleShot(true);
+    m_notifyTimer.setInterval(addedRowsInterval);
+    connect(&m_notifyTimer, &QTimer::timeout, &m_factory, &CDeviceFactory::signalAddSingleDeviceToTable);
     connect(&m_batches, &Batches::runningChanged, this, &AddingBatches::noteEnd);
 }
 
@@ -87,7 +87,7 @@ void AddingBatches::takeList(List &list)
     Batch *batch = m_batches.start(std::move(list.plan));
     if (!batch)
         return;
-    m_places = std::move(list.places);
+    m_positions = std::move(list.places);
     Q_EMIT importBegan(batch);
 }
 
@@ -98,7 +98,7 @@ QVariantList AddingBatches::importFailures(Batch *batch) const
         return failures;
     for (const Batch::Entry &entry : batch->entries()) {
         if (!isSuccess(entry.outcome))
-            failures.append(importFailure(m_places.value(entry.device.name), entry.outcome));
+            failures.append(importFailure(m_positions.value(entry.device.name), entry.outcome));
     }
     return failures;
 }
@@ -148,15 +148,15 @@ void AddingBatches::noteRows(const QList<BatchOutcome> &outcomes)
                      [](const BatchOutcome &entry) { return isSuccess(entry.outcome); }))
         return;
     m_hasNewRows = true;
-    if (!m_news.isActive())
-        m_news.start();
+    if (!m_notifyTimer.isActive())
+        m_notifyTimer.start();
 }
 
 void AddingBatches::noteEnd()
 {
     if (m_batches.isRunning() || !std::exchange(m_hasNewRows, false))
         return;
-    m_news.stop();
+    m_notifyTimer.stop();
     m_factory.releaseUnneededP2PPorts();
     Q_EMIT m_factory.signalAddSingleDeviceToTable();
 }

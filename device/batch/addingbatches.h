@@ -63,9 +63,9 @@ private:
 
     CDeviceFactory &m_factory;
     Batches &m_batches;
-    QThreadPool m_readers;                ///< one thread
-    int m_work = 0;                       ///< id of the reading in BusyState; 0 while not reading
-    QTimer m_news;                        ///< delays the notification of pages after a new row
-    bool m_hasNewRows = false;            ///< since the end of the last batch
-    QHash<QString, ImportPlace> m_places; ///< of the latest list, by the name of the line
+    QThreadPool m_readers;                   ///< one thread
+    int m_work = 0;                          ///< id of the reading in BusyState; 0 while not reading
+    QTimer m_notifyTimer;                    ///< delays the notification of pages after a new row
+    bool m_hasNewRows = false;               ///< since the end of the last batch
+    QHash<QString, ImportPlace> m_positions; ///< of the latest list, by the name of the line
 };

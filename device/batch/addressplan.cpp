@@ -79,13 +79,13 @@ QString AddressPlan::hindranceOf(int row) const
     return hindrance.isEmpty() && isNameless ? tr("没有MAC，不会修改") : hindrance;
 }
 
-AddressPlan::Mark AddressPlan::markOf(int row) const
+AddressPlan::Issue AddressPlan::issueOf(int row) const
 {
     if (!hindranceOf(row).isEmpty())
         return NotChanged;
     const std::optional<std::uint32_t> number = numberOf(row);
     if (m_dhcp || !number)
-        return Fine;
+        return NoIssue;
     if (m_taken.contains(*number))
         return TakenByOther;
     if (m_timesGiven.value(*number) > 1)
@@ -94,16 +94,16 @@ AddressPlan::Mark AddressPlan::markOf(int row) const
         return IsGateway;
     const std::optional<std::uint32_t> mask = ipv4Number(m_mask);
     if (!mask || !isSubnetMask(*mask))
-        return Fine; // the mask field shows that the mask is invalid
+        return NoIssue; // the mask field shows that the mask is invalid
     if ((*number & *mask) != (ipv4Number(m_startAddress).value_or(0) & *mask))
         return OutsideSubnet;
     const std::uint32_t host = *number & ~*mask;
-    return host == 0 || host == ~*mask ? NoDeviceAddress : Fine;
+    return host == 0 || host == ~*mask ? NoDeviceAddress : NoIssue;
 }
 
-QString AddressPlan::wordsOf(Mark mark)
+QString AddressPlan::textOf(Issue issue)
 {
-    switch (mark) {
+    switch (issue) {
     case TakenByOther:
         return tr("与其他设备冲突");
     case TakenInBatch:
@@ -121,13 +121,13 @@ QString AddressPlan::wordsOf(Mark mark)
 
 BatchPreview::Judgement AddressPlan::judgementOf(int row) const
 {
-    const Mark mark = markOf(row);
-    if (mark == NotChanged)
+    const Issue issue = issueOf(row);
+    if (issue == NotChanged)
         return {.kind = Skipped, .note = hindranceOf(row)};
-    return {.kind = mark == Fine ? Planned : Warned,
+    return {.kind = issue == NoIssue ? Planned : Warned,
             .action = m_dhcp ? QStringLiteral("DHCP") : addressOf(row),
-            .note = wordsOf(mark),
-            .isConflict = mark == TakenByOther || mark == TakenInBatch};
+            .note = textOf(issue),
+            .isConflict = issue == TakenByOther || issue == TakenInBatch};
 }
 
 std::optional<std::uint32_t> AddressPlan::numberOf(int row) const
@@ -160,6 +160,6 @@ QString AddressPlan::otherDeviceAt(int row) const
 QVariantMap AddressPlan::valuesOf(int row) const
 {
     QVariantMap values = BatchPreview::valuesOf(row);
-    values.insert(RowKey::mark, isChecked(row) ? markOf(row) : Fine);
+    values.insert(RowKey::issue, isChecked(row) ? issueOf(row) : NoIssue);
     return values;
 }

@@ -11,11 +11,11 @@
 #include <utility>
 
 /// Computes the new addresses of a batch: the k-th checked device gets the start address plus k as a 32-bit
-/// number, or all devices get the start address, or each device uses DHCP. A mark is the problem of an
+/// number, or all devices get the start address, or each device uses DHCP. An issue is the problem of an
 /// address; it is information only. Lives on the main thread.
 ///
 /// "action" of a row is its new address, empty while the start address is invalid. A row has the additional
-/// key "mark" (a Mark). Marks of collisions set the row's conflict role.
+/// key "issue" (an Issue). Collisions set the row's conflict role.
 class AddressPlan : public BatchPreview
 {
     Q_OBJECT
@@ -27,9 +27,9 @@ class AddressPlan : public BatchPreview
     Q_PROPERTY(bool dhcp READ dhcp WRITE setDhcp NOTIFY judged)
 public:
     /// The problem of a new address.
-    enum Mark
+    enum Issue
     {
-        Fine,
+        NoIssue,
         NotChanged,      ///< the address of the device cannot be changed; "note" has the reason
         TakenByOther,    ///< in use by a device that keeps its address
         TakenInBatch,    ///< planned for several devices of the batch
@@ -37,7 +37,7 @@ public:
         OutsideSubnet,   ///< not in the subnet of the start address
         NoDeviceAddress, ///< network or broadcast address of the subnet
     };
-    Q_ENUM(Mark)
+    Q_ENUM(Issue)
 
     explicit AddressPlan(QObject *parent = nullptr);
 
@@ -75,8 +75,8 @@ protected:
 
 private:
     [[nodiscard]] std::optional<std::uint32_t> numberOf(int row) const;
-    [[nodiscard]] Mark markOf(int row) const;
-    [[nodiscard]] static QString wordsOf(Mark mark);
+    [[nodiscard]] Issue issueOf(int row) const;
+    [[nodiscard]] static QString textOf(Issue issue);
 
     template<typename Value>
     void change(Value &member, const Value &value)

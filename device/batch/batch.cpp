@@ -15,7 +15,7 @@ constexpr int frame = 16; // milliseconds
 
 /// Suffix of the engine's key for a device that is being upgraded. Without it, the engine would delay the
 /// refusal until the upgrade, which is a step of the engine, has ended.
-const QString upgradingMark = QStringLiteral(" upgrade");
+const QString upgradingSuffix = QStringLiteral(" upgrade");
 
 bool isRefusedLogin(int result)
 {
@@ -25,7 +25,7 @@ bool isRefusedLogin(int result)
 }
 
 /// Hash of an account and its password, to detect a change without storing the password.
-QByteArray loginMark(const DeviceAccount &account)
+QByteArray loginHash(const DeviceAccount &account)
 {
     QCryptographicHash hash(QCryptographicHash::Sha256);
     hash.addData(account.account.toUtf8());
@@ -54,50 +54,50 @@ class Batch::Mailbox : public BatchWatcher
 public:
     struct Finished
     {
-        qsizetype place = 0;
+        qsizetype index = 0;
         StepOutcome outcome;
         QDateTime time;
     };
 
-    struct News
+    struct Updates
     {
         QList<qsizetype> started;
         QList<Finished> finished;
-        bool isHeld = false;
+        bool isPaused = false;
         bool hasEnded = false;
     };
 
     explicit Mailbox(Batch *batch) : m_batch(batch) {}
 
-    void started(std::size_t place) override
+    void started(std::size_t index) override
     {
-        note([place](News &news) { news.started.append(static_cast<qsizetype>(place)); });
+        note([index](Updates &updates) { updates.started.append(static_cast<qsizetype>(index)); });
     }
 
-    void finished(std::size_t place, const StepOutcome &outcome) override
+    void finished(std::size_t index, const StepOutcome &outcome) override
     {
-        note([&](News &news) {
-            news.finished.append({.place = static_cast<qsizetype>(place),
-                                  .outcome = outcome,
-                                  .time = QDateTime::currentDateTime()});
+        note([&](Updates &updates) {
+            updates.finished.append({.index = static_cast<qsizetype>(index),
+                                     .outcome = outcome,
+                                     .time = QDateTime::currentDateTime()});
         });
     }
 
-    void held() override
+    void paused() override
     {
-        note([](News &news) { news.isHeld = true; });
+        note([](Updates &updates) { updates.isPaused = true; });
     }
 
     void ended() override
     {
-        note([](News &news) { news.hasEnded = true; });
+        note([](Updates &updates) { updates.hasEnded = true; });
     }
 
-    [[nodiscard]] News take()
+    [[nodiscard]] Updates take()
     {
         const std::lock_guard lock(m_mutex);
         m_isPosted = false;
-        return std::exchange(m_news, {});
+        return std::exchange(m_updates, {});
     }
 
     /// Called before the batch is destroyed: nothing is posted to it afterwards.
@@ -108,17 +108,17 @@ public:
     }
 
 private:
-    void note(const std::function<void(News &news)> &add)
+    void note(const std::function<void(Updates &updates)> &add)
     {
         const std::lock_guard lock(m_mutex);
-        add(m_news);
+        add(m_updates);
         if (m_batch && !std::exchange(m_isPosted, true))
             QMetaObject::invokeMethod(&m_batch->m_frame, qOverload<>(&QTimer::start), Qt::QueuedConnection);
     }
 
     std::mutex m_mutex;
     Batch *m_batch;
-    News m_news;
+    Updates m_updates;
     bool m_isPosted = false;
 };
 
@@ -128,14 +128,14 @@ Batch::Batch(BatchEngine &engine, BatchPlan plan, QObject *parent)
 {
     m_frame.setSingleShot(true);
     m_frame.setInterval(frame);
-    connect(&m_frame, &QTimer::timeout, this, &Batch::takeNews);
+    connect(&m_frame, &QTimer::timeout, this, &Batch::takeUpdates);
 
     QStringList names;
     names.reserve(m_plan.devices.size());
     m_entries.reserve(m_plan.devices.size());
-    m_places.reserve(m_plan.devices.size());
+    m_indexByName.reserve(m_plan.devices.size());
     for (const BatchDevice &device : std::as_const(m_plan.devices)) {
-        m_places.insert(device.name, m_entries.size());
+        m_indexByName.insert(device.name, m_entries.size());
         m_entries.append(
             {.device = device, .outcome = {.result = BatchReport::NotDone, .text = {}}, .time = {}});
         names.append(device.name);
@@ -170,7 +170,7 @@ bool Batch::start()
         const QString login =
             m_plan.isByAddress ? device.login : device.login + QLatin1Char('\n') + device.identity;
         if (device.isUpgrading)
-            items.push_back({.device = device.key + upgradingMark, .login = {}, .step = &refuseForUpgrade});
+            items.push_back({.device = device.key + upgradingSuffix, .login = {}, .step = &refuseForUpgrade});
         else
             items.push_back({.device = device.key, .login = login, .step = preparedStep(device, isPrepared)});
     }
@@ -230,7 +230,7 @@ void Batch::stop()
     m_engine.stop(m_number);
 }
 
-void Batch::forgetSteps()
+void Batch::releaseSteps()
 {
     m_plan.stepOf = nullptr;
     Q_EMIT changed();
@@ -238,15 +238,15 @@ void Batch::forgetSteps()
 
 void Batch::resume()
 {
-    if (!std::exchange(m_isHeld, false))
+    if (!std::exchange(m_isPaused, false))
         return;
     Q_EMIT changed();
     m_engine.resume(m_number);
 }
 
-void Batch::giveUpWaiting(const QString &title)
+void Batch::cancelWaiting(const QString &title)
 {
-    const QStringList given = m_report.giveUpWaiting();
+    const QStringList given = m_report.cancelWaiting();
     if (given.isEmpty())
         return;
     m_title = title;
@@ -334,7 +334,7 @@ QStringList Batch::devicesOfRefusedAccounts() const
     for (const Entry &entry : m_entries) {
         const bool isToCome = !entry.time.isValid();
         if (!entry.refusedLogin.isEmpty() ||
-            (isToCome && refused.contains(loginMark(m_plan.accountOf(entry.device)))))
+            (isToCome && refused.contains(loginHash(m_plan.accountOf(entry.device)))))
             identities.append(entry.device.identity);
     }
     return identities;
@@ -355,7 +355,7 @@ bool Batch::hasOtherAccount(const Entry &entry) const
 {
     if (!m_plan.accountOf || !isRefusedLogin(entry.outcome.result))
         return false;
-    return loginMark(m_plan.accountOf(entry.device)) != entry.refusedLogin;
+    return loginHash(m_plan.accountOf(entry.device)) != entry.refusedLogin;
 }
 
 bool Batch::hasRetryable() const
@@ -417,9 +417,9 @@ bool Batch::canRetry(const QString &identity) const
 
 const Batch::Entry *Batch::find(const QString &device) const
 {
-    const auto place = m_places.constFind(device);
-    if (place != m_places.cend())
-        return &m_entries.at(*place);
+    const auto index = m_indexByName.constFind(device);
+    if (index != m_indexByName.cend())
+        return &m_entries.at(*index);
     return m_retryOf ? m_retryOf->find(device) : nullptr;
 }
 
@@ -465,22 +465,22 @@ int Batch::partlyDone() const
     }));
 }
 
-void Batch::takeNews()
+void Batch::takeUpdates()
 {
-    const Mailbox::News news = m_mailbox->take();
-    m_running.append(news.started);
+    const Mailbox::Updates updates = m_mailbox->take();
+    m_running.append(updates.started);
     QList<BatchOutcome> outcomes;
     QStringList devices;
     QList<int> results;
-    for (const Mailbox::Finished &finished : news.finished) {
-        Entry &entry = m_entries[finished.place];
+    for (const Mailbox::Finished &finished : updates.finished) {
+        Entry &entry = m_entries[finished.index];
         outcomes.append({.device = entry.device, .outcome = finished.outcome});
         entry.outcome = finished.outcome;
         entry.outcome.answer.clear();
         entry.time = finished.time;
         if (m_plan.accountOf && isRefusedLogin(entry.outcome.result))
             noteRefusal(entry);
-        m_running.removeOne(finished.place);
+        m_running.removeOne(finished.index);
         ++m_done;
         devices.append(entry.device.name);
         results.append(entry.outcome.result);
@@ -490,10 +490,10 @@ void Batch::takeNews()
     noteAdvance();
     m_report.note(devices, results);
     deliver(outcomes);
-    m_isHeld = m_isHeld || news.isHeld;
+    m_isPaused = m_isPaused || updates.isPaused;
     if (!devices.isEmpty())
         Q_EMIT resulted(devices, results);
-    if (news.hasEnded)
+    if (updates.hasEnded)
         finish();
     else
         Q_EMIT changed();
@@ -503,7 +503,7 @@ void Batch::noteRefusal(Entry &entry) const
 {
     const DeviceAccount account = m_plan.accountOf(entry.device);
     entry.refusedAccount = account.account;
-    entry.refusedLogin = loginMark(account);
+    entry.refusedLogin = loginHash(account);
 }
 
 void Batch::deliver(const QList<BatchOutcome> &outcomes) const
@@ -515,7 +515,7 @@ void Batch::deliver(const QList<BatchOutcome> &outcomes) const
 void Batch::finish()
 {
     m_isRunning = false;
-    m_isHeld = false;
+    m_isPaused = false;
     m_ended = QDateTime::currentDateTime();
     QList<BatchOutcome> outcomes;
     for (const Entry &entry : std::as_const(m_entries)) {

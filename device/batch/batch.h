@@ -27,7 +27,7 @@ class Batch : public QObject
     Q_PROPERTY(QString device READ device NOTIFY changed)
     Q_PROPERTY(bool running READ isRunning NOTIFY changed)
     Q_PROPERTY(bool stopping READ isStopping NOTIFY changed)
-    Q_PROPERTY(bool held READ isHeld NOTIFY changed)
+    Q_PROPERTY(bool paused READ isPaused NOTIFY changed)
     Q_PROPERTY(int refusalsInARow READ refusalsInARow CONSTANT)
     Q_PROPERTY(QString refusedAccounts READ refusedAccounts NOTIFY changed)
     Q_PROPERTY(int failedBefore READ failedBefore NOTIFY changed)
@@ -55,7 +55,7 @@ public:
     /// Starts the batch; may be called once. Returns false if the engine does not accept it.
     bool start();
 
-    /// Name of the work; after giveUpWaiting() the name of the step that was cancelled.
+    /// Name of the work; after cancelWaiting() the name of the step that was cancelled.
     [[nodiscard]] const QString &title() const { return m_title; }
     /// The number of devices for each kind of result, in the user's language.
     [[nodiscard]] QString summary() const;
@@ -74,7 +74,7 @@ public:
 
     /// Whether the batch is paused, because too many devices in a row refused the password, until the user
     /// decides.
-    [[nodiscard]] bool isHeld() const { return m_isRunning && m_isHeld && !m_isStopping; }
+    [[nodiscard]] bool isPaused() const { return m_isRunning && m_isPaused && !m_isStopping; }
 
     /// The number of refused passwords in a row after which the batch is paused; 0: never.
     [[nodiscard]] int refusalsInARow() const { return m_plan.policy.wrongPasswordsInARow; }
@@ -101,7 +101,7 @@ public:
 
     /// Releases the step maker of the plan, which may hold a password. The batch cannot be retried
     /// afterwards.
-    void forgetSteps();
+    void releaseSteps();
 
     /// Stops the batch: steps that have not started are dropped, running steps end at their next safe point.
     Q_INVOKABLE void stop();
@@ -110,7 +110,7 @@ public:
     Q_INVOKABLE void resume();
 
     /// Sets the devices that wait for a further step to NotDone. `title` is the name of that step.
-    Q_INVOKABLE void giveUpWaiting(const QString &title);
+    Q_INVOKABLE void cancelWaiting(const QString &title);
 
     /// Sets the batch that this batch retries.
     void setRetryOf(Batch *earlier);
@@ -185,7 +185,7 @@ private:
     [[nodiscard]] QList<const Entry *> allEntries() const;
     /// The entry in this batch or in the batches that it retries; null if there is none.
     [[nodiscard]] const Entry *find(const QString &device) const;
-    void takeNews();
+    void takeUpdates();
     void noteAdvance();
     void noteRefusal(Entry &entry) const;
     void deliver(const QList<BatchOutcome> &outcomes) const; ///< to the plan's takeOutcomes
@@ -197,7 +197,7 @@ private:
     BatchReport m_report;
     QPointer<Batch> m_retryOf; ///< not owned
     QList<Entry> m_entries;
-    QHash<QString, qsizetype> m_places; ///< indexes in m_entries, by device name
+    QHash<QString, qsizetype> m_indexByName; ///< indexes in m_entries, by device name
     const std::shared_ptr<Mailbox> m_mailbox;
     QTimer m_frame;
     QStringList m_succeeded;    ///< in the order of completion
@@ -211,5 +211,5 @@ private:
     Advance m_advance;
     bool m_isRunning = false;
     bool m_isStopping = false;
-    bool m_isHeld = false;
+    bool m_isPaused = false;
 };

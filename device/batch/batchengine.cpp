@@ -66,10 +66,10 @@ int BatchEngine::start(std::vector<BatchItem> items, const BatchPolicy &policy,
 
     QHash<QString, std::size_t> firsts;
     firsts.reserve(static_cast<qsizetype>(batch->items.size()));
-    for (std::size_t place = batch->items.size(); place-- > 0;)
-        firsts.insert(batch->items[place].device, place);
-    for (std::size_t place = batch->items.size(); place-- > 0;)
-        batch->waiting[firsts.value(batch->items[place].device)].push_back(place);
+    for (std::size_t index = batch->items.size(); index-- > 0;)
+        firsts.insert(batch->items[index].device, index);
+    for (std::size_t index = batch->items.size(); index-- > 0;)
+        batch->waiting[firsts.value(batch->items[index].device)].push_back(index);
 
     int number = 0;
     {
@@ -79,7 +79,7 @@ int BatchEngine::start(std::vector<BatchItem> items, const BatchPolicy &policy,
         number = ++m_lastNumber;
         if (!batch->items.empty()) {
             m_batches.emplace(number, batch);
-            addThreadsLocked();
+            addThreads();
             if (m_threads.empty()) {
                 m_batches.erase(number);
                 return 0;
@@ -102,17 +102,17 @@ bool BatchEngine::append(int number, BatchItem item)
         Batch &batch = *found->second;
         batch.waiting.emplace(batch.items.size(), Waiting{batch.items.size()});
         batch.items.push_back(std::move(item));
-        addThreadsLocked();
+        addThreads();
     }
     m_changed.notify_all();
     return true;
 }
 
-void BatchEngine::addThreadsLocked()
+void BatchEngine::addThreads()
 {
     std::size_t wanted = 0;
     for (const auto &[number, batch] : m_batches)
-        wanted += std::min(static_cast<std::size_t>(batch->policy.atOnce - batch->placesTaken),
+        wanted += std::min(static_cast<std::size_t>(batch->policy.atOnce - batch->usedSlots),
                            batch->waiting.size());
     wanted = std::min(wanted, maximumThreads - m_threads.size() + m_idleThreads);
     try {
@@ -127,45 +127,45 @@ void BatchEngine::addThreadsLocked()
 
 bool BatchEngine::isInUse(const QString &device) const
 {
-    return m_busyDevices.contains(device) || m_heldDevices.contains(device);
+    return m_busyDevices.contains(device) || m_reservedDevices.contains(device);
 }
 
-BatchEngine::Taken BatchEngine::takeLocked()
+BatchEngine::Taken BatchEngine::takeNext()
 {
     for (const auto &[number, batch] : m_batches) {
-        if (batch->isHeld || batch->placesTaken >= batch->policy.atOnce)
+        if (batch->isPaused || batch->usedSlots >= batch->policy.atOnce)
             continue;
         for (auto it = batch->waiting.begin(); it != batch->waiting.end(); ++it) {
-            const std::size_t place = it->second.back();
-            if (isInUse(batch->items[place].device)) {
+            const std::size_t index = it->second.back();
+            if (isInUse(batch->items[index].device)) {
                 if (batch->policy.atOnce == 1)
                     break; // with one step at a time, the list order is kept strictly
                 continue;
             }
             Taken taken{
-                .batch = batch, .number = number, .place = place, .item = std::move(batch->items[place])};
-            batch->items[place].device = taken.item.device;
+                .batch = batch, .number = number, .index = index, .item = std::move(batch->items[index])};
+            batch->items[index].device = taken.item.device;
             it->second.pop_back();
             if (!it->second.empty())
                 batch->following.insert(taken.item.device, it->second);
             batch->waiting.erase(it);
             m_busyDevices.insert(taken.item.device);
             ++batch->running;
-            ++batch->placesTaken;
+            ++batch->usedSlots;
             return taken;
         }
     }
     return {};
 }
 
-bool BatchEngine::hasWorkLocked() const
+bool BatchEngine::hasWork() const
 {
     return std::any_of(m_batches.begin(), m_batches.end(), [this](const auto &entry) {
         const Batch &batch = *entry.second;
         const auto isFree = [&](const auto &waiting) {
             return !isInUse(batch.items[waiting.second.back()].device);
         };
-        if (batch.isHeld || batch.waiting.empty() || batch.placesTaken >= batch.policy.atOnce)
+        if (batch.isPaused || batch.waiting.empty() || batch.usedSlots >= batch.policy.atOnce)
             return false;
         return batch.policy.atOnce == 1 ? isFree(*batch.waiting.begin())
                                         : std::any_of(batch.waiting.begin(), batch.waiting.end(), isFree);
@@ -179,9 +179,9 @@ void BatchEngine::work(const std::stop_token &stop)
         Taken taken;
         {
             std::unique_lock lock(m_mutex);
-            if (!m_changed.wait(lock, stop, [this] { return hasWorkLocked(); }) || stop.stop_requested())
+            if (!m_changed.wait(lock, stop, [this] { return hasWork(); }) || stop.stop_requested())
                 return;
-            taken = takeLocked();
+            taken = takeNext();
             --m_idleThreads;
         }
         run(std::move(taken));
@@ -193,22 +193,22 @@ void BatchEngine::work(const std::stop_token &stop)
 void BatchEngine::run(Taken taken)
 {
     Batch &batch = *taken.batch;
-    bool holdsPlace = true;
-    const StepOutcome outcome = perform(taken, holdsPlace);
-    batch.watcher->finished(taken.place, outcome);
+    bool holdsSlot = true;
+    const StepOutcome outcome = perform(taken, holdsSlot);
+    batch.watcher->finished(taken.index, outcome);
 
-    bool isHeldNow = false;
+    bool isPausedNow = false;
     {
         const std::lock_guard lock(m_mutex);
-        isHeldNow = noteLocked(taken, outcome);
+        isPausedNow = noteResult(taken, outcome);
         m_busyDevices.remove(taken.item.device);
-        if (std::exchange(holdsPlace, false))
-            --batch.placesTaken;
+        if (std::exchange(holdsSlot, false))
+            --batch.usedSlots;
         if (Waiting rest = batch.following.take(taken.item.device); !rest.empty())
             batch.waiting.emplace(rest.back(), std::move(rest));
     }
-    if (isHeldNow)
-        batch.watcher->held();
+    if (isPausedNow)
+        batch.watcher->paused();
     bool hasEnded = false;
     {
         const std::lock_guard lock(m_mutex);
@@ -222,15 +222,15 @@ void BatchEngine::run(Taken taken)
     m_changed.notify_all();
 }
 
-StepOutcome BatchEngine::perform(Taken &taken, bool &holdsPlace)
+StepOutcome BatchEngine::perform(Taken &taken, bool &holdsSlot)
 {
     Batch &batch = *taken.batch;
-    StepOutcome notBegun = {.result = resultCode(LoginResult::NotDone), .text = {}};
+    StepOutcome notStarted = {.result = resultCode(LoginResult::NotDone), .text = {}};
     {
         const std::lock_guard lock(m_mutex);
         if (batch.isStopped) {
             taken.item.step = nullptr;
-            return notBegun;
+            return notStarted;
         }
         const auto refusal = batch.refusals.constFind({taken.item.device, taken.item.login});
         if (refusal != batch.refusals.cend()) {
@@ -238,28 +238,28 @@ StepOutcome BatchEngine::perform(Taken &taken, bool &holdsPlace)
             return *refusal;
         }
     }
-    batch.watcher->started(taken.place);
+    batch.watcher->started(taken.index);
     const StepControl control(batch.stop.get_token(), m_clock, batch.policy.deadline,
-                              [this, &batch, &holdsPlace] { releasePlace(batch, holdsPlace); });
+                              [this, &batch, &holdsSlot] { releaseSlot(batch, holdsSlot); });
     StepOutcome outcome = taken.item.step(control);
-    if (outcome == notBegun && control.isLate() && !control.isStopped())
+    if (outcome == notStarted && control.isLate() && !control.isStopped())
         outcome.text = QCoreApplication::translate("BatchResult", "超过时间限制");
     return outcome;
 }
 
-void BatchEngine::releasePlace(Batch &batch, bool &holdsPlace)
+void BatchEngine::releaseSlot(Batch &batch, bool &holdsSlot)
 {
     const std::lock_guard lock(m_mutex);
     // Each waiting step occupies a thread. If no thread is left for another step, it keeps its slot.
-    if (!holdsPlace || (m_threads.size() >= maximumThreads && m_idleThreads == 0))
+    if (!holdsSlot || (m_threads.size() >= maximumThreads && m_idleThreads == 0))
         return;
-    holdsPlace = false;
-    --batch.placesTaken;
-    addThreadsLocked();
+    holdsSlot = false;
+    --batch.usedSlots;
+    addThreads();
     m_changed.notify_all();
 }
 
-bool BatchEngine::noteLocked(const Taken &taken, const StepOutcome &outcome)
+bool BatchEngine::noteResult(const Taken &taken, const StepOutcome &outcome)
 {
     Batch &batch = *taken.batch;
     const std::pair login(taken.item.device, taken.item.login);
@@ -272,13 +272,13 @@ bool BatchEngine::noteLocked(const Taken &taken, const StepOutcome &outcome)
     const bool isTooOften =
         batch.policy.wrongPasswordsInARow > 0 && batch.wrongPasswords >= batch.policy.wrongPasswordsInARow;
     const bool hasMore = !batch.waiting.empty() || !batch.following.empty();
-    return isTooOften && hasMore && !batch.isStopped && !std::exchange(batch.isHeld, true);
+    return isTooOften && hasMore && !batch.isStopped && !std::exchange(batch.isPaused, true);
 }
 
 void BatchEngine::stop(int number)
 {
     std::shared_ptr<Batch> batch;
-    std::vector<DeviceStep> notBegun; // their destructors may call back: destroyed without the lock
+    std::vector<DeviceStep> notStarted; // their destructors may call back: destroyed without the lock
     bool hasEnded = false;
     {
         const std::lock_guard lock(m_mutex);
@@ -287,14 +287,14 @@ void BatchEngine::stop(int number)
             return;
         batch = found->second;
         batch->isStopped = true;
-        const auto leaveOut = [&](const Waiting &places) {
-            for (const std::size_t place : places)
-                notBegun.push_back(std::exchange(batch->items[place].step, {}));
+        const auto leaveOut = [&](const Waiting &indexes) {
+            for (const std::size_t index : indexes)
+                notStarted.push_back(std::exchange(batch->items[index].step, {}));
         };
-        for (const auto &[first, places] : batch->waiting)
-            leaveOut(places);
-        for (const Waiting &places : std::as_const(batch->following))
-            leaveOut(places);
+        for (const auto &[first, indexes] : batch->waiting)
+            leaveOut(indexes);
+        for (const Waiting &indexes : std::as_const(batch->following))
+            leaveOut(indexes);
         batch->waiting.clear();
         batch->following.clear();
         hasEnded = batch->running == 0;
@@ -313,39 +313,39 @@ void BatchEngine::resume(int number)
         const auto found = m_batches.find(number);
         if (found == m_batches.end())
             return;
-        found->second->isHeld = false;
+        found->second->isPaused = false;
         found->second->wrongPasswords = 0;
-        addThreadsLocked();
+        addThreads();
     }
     m_changed.notify_all();
 }
 
-BatchEngine::Hold::Hold(Hold &&other) noexcept
+BatchEngine::Reservation::Reservation(Reservation &&other) noexcept
     : m_engine(std::exchange(other.m_engine, nullptr)), m_device(std::move(other.m_device))
 {
 }
 
-BatchEngine::Hold::~Hold()
+BatchEngine::Reservation::~Reservation()
 {
     if (!m_engine)
         return;
     {
         const std::lock_guard lock(m_engine->m_mutex);
-        int &holds = m_engine->m_heldDevices[m_device];
-        if (--holds == 0)
-            m_engine->m_heldDevices.remove(m_device);
+        int &count = m_engine->m_reservedDevices[m_device];
+        if (--count == 0)
+            m_engine->m_reservedDevices.remove(m_device);
     }
     m_engine->m_changed.notify_all();
 }
 
-BatchEngine::Hold BatchEngine::hold(const QString &device, const std::stop_token &stop)
+BatchEngine::Reservation BatchEngine::reserve(const QString &device, const std::stop_token &stop)
 {
     std::unique_lock lock(m_mutex);
     const bool isFree =
         m_changed.wait(lock, stop, [&] { return m_hasEnded || !m_busyDevices.contains(device); });
     if (!isFree || m_hasEnded)
         return {};
-    ++m_heldDevices[device];
+    ++m_reservedDevices[device];
     return {*this, device};
 }
 
@@ -358,7 +358,7 @@ void BatchEngine::requestEnd()
         for (const auto &[number, batch] : m_batches)
             numbers.push_back(number);
     }
-    m_changed.notify_all(); // wakes hold()
+    m_changed.notify_all(); // wakes reserve()
     for (const int number : numbers)
         stop(number);
 }

@@ -39,12 +39,12 @@ class BatchWatcher
 public:
     virtual ~BatchWatcher() = default;
 
-    /// `place` is the index of the item in the batch.
-    virtual void started(std::size_t place) = 0;
-    virtual void finished(std::size_t place, const StepOutcome &outcome) = 0;
+    /// `index` is the index of the item in the batch.
+    virtual void started(std::size_t index) = 0;
+    virtual void finished(std::size_t index, const StepOutcome &outcome) = 0;
 
     /// The batch is paused: too many devices in a row refused the password. Running steps continue.
-    virtual void held() = 0;
+    virtual void paused() = 0;
 
     /// Items without a finished() call were not run.
     virtual void ended() = 0;
@@ -84,25 +84,25 @@ public:
     void resume(int number);
 
     /// Reservation of a device: no step of the device starts while it exists. The engine must outlive it.
-    class Hold
+    class Reservation
     {
     public:
-        Hold() = default;
-        Hold(Hold &&other) noexcept;
-        Hold &operator=(Hold &&) = delete;
-        ~Hold();
+        Reservation() = default;
+        Reservation(Reservation &&other) noexcept;
+        Reservation &operator=(Reservation &&) = delete;
+        ~Reservation();
 
     private:
         friend BatchEngine;
-        Hold(BatchEngine &engine, QString device) : m_engine(&engine), m_device(std::move(device)) {}
+        Reservation(BatchEngine &engine, QString device) : m_engine(&engine), m_device(std::move(device)) {}
 
         BatchEngine *m_engine = nullptr;
         QString m_device;
     };
 
     /// Reserves a device for work outside a batch. Blocks until no step of the device runs. Returns an empty
-    /// Hold if `stop` is requested or the engine ends. A device may have several reservations.
-    [[nodiscard]] Hold hold(const QString &device, const std::stop_token &stop);
+    /// Reservation if `stop` is requested or the engine ends. A device may have several reservations.
+    [[nodiscard]] Reservation reserve(const QString &device, const std::stop_token &stop);
 
     /// Stops all batches and refuses new ones. Does not wait for running steps.
     void requestEnd();
@@ -125,9 +125,9 @@ private:
         QHash<std::pair<QString, QString>, StepOutcome> refusals; ///< by device and login
         std::stop_source stop;
         std::size_t running = 0; ///< number of running steps
-        int placesTaken = 0;     ///< used slots of policy.atOnce
+        int usedSlots = 0;       ///< used slots of policy.atOnce
         int wrongPasswords = 0;  ///< in a row
-        bool isHeld = false;
+        bool isPaused = false;
         bool isStopped = false;
     };
 
@@ -136,28 +136,33 @@ private:
     {
         std::shared_ptr<Batch> batch; ///< null: no step is ready
         int number = 0;
-        std::size_t place = 0;
+        std::size_t index = 0;
         BatchItem item;
     };
 
-    // Functions ending in "Locked", and isInUse(), require m_mutex to be locked.
+    // The caller of these functions must hold m_mutex.
+
+    /// Whether a step of the device runs, or the device is reserved.
     [[nodiscard]] bool isInUse(const QString &device) const;
-    [[nodiscard]] Taken takeLocked();
-    [[nodiscard]] bool hasWorkLocked() const;
-    void addThreadsLocked();
+    [[nodiscard]] Taken takeNext();
+    [[nodiscard]] bool hasWork() const;
+    void addThreads();
+    /// Updates the count of refused passwords. Returns true if this pauses the batch.
+    [[nodiscard]] static bool noteResult(const Taken &taken, const StepOutcome &outcome);
+
+    // The caller of these functions must not hold m_mutex.
+
     void work(const std::stop_token &stop);
     void run(Taken taken);
-    [[nodiscard]] StepOutcome perform(Taken &taken, bool &holdsPlace);
-    void releasePlace(Batch &batch, bool &holdsPlace);
-    /// Updates the count of refused passwords. Returns true if this pauses the batch.
-    [[nodiscard]] static bool noteLocked(const Taken &taken, const StepOutcome &outcome);
+    [[nodiscard]] StepOutcome perform(Taken &taken, bool &holdsSlot);
+    void releaseSlot(Batch &batch, bool &holdsSlot);
 
     const std::shared_ptr<const sdk::Clock> m_clock;
     std::mutex m_mutex;
     std::condition_variable_any m_changed;
     std::map<int, std::shared_ptr<Batch>> m_batches; ///< running batches by number
     QSet<QString> m_busyDevices;                     ///< devices with a running step
-    QHash<QString, int> m_heldDevices;               ///< number of reservations by device
+    QHash<QString, int> m_reservedDevices;           ///< number of reservations by device
     int m_lastNumber = 0;
     std::size_t m_idleThreads = 0;
     bool m_hasEnded = false;

@@ -115,8 +115,8 @@ Batch *Batches::nameCameras(const QString &family, const QString &title, const Q
                             const QStringList &names)
 {
     QHash<QString, QString> nameAt;
-    for (qsizetype place = 0; place < ipports.size(); ++place)
-        nameAt.insert(ipports.at(place), names.value(place));
+    for (qsizetype index = 0; index < ipports.size(); ++index)
+        nameAt.insert(ipports.at(index), names.value(index));
     return start({.family = family,
                   .title = title,
                   .work = QStringLiteral("channelName"),
@@ -151,7 +151,7 @@ void Batches::noteCameraName(const QString &family, const BatchDevice &device, c
         m_factory.updataDeviceInfo(family, DeviceRowKey::name, name, device.identity, device.ipport);
 }
 
-Batch *Batches::setFirstPasswords(const QString &family, const QString &title, const QStringList &macs,
+Batch *Batches::initialiseDevices(const QString &family, const QString &title, const QStringList &macs,
                                   const QString &account, const QString &password)
 {
     return start({.family = family,
@@ -176,14 +176,14 @@ Batch *Batches::changeAddresses(const QString &family, const QString &title, con
     plan.title = title;
     plan.devices = batchDevices(m_factory, family, macs);
     QHash<QString, AddressSettings> targets;
-    for (qsizetype place = 0; place < plan.devices.size(); ++place) {
+    for (qsizetype index = 0; index < plan.devices.size(); ++index) {
         if (dhcp)
-            targets.insert(plan.devices.at(place).identity,
+            targets.insert(plan.devices.at(index).identity,
                            {.address = {}, .mask = {}, .gateway = {}, .dhcp = true});
         else
             targets.insert(
-                plan.devices.at(place).identity,
-                {.address = addresses.value(place), .mask = mask, .gateway = gateway, .dhcp = false});
+                plan.devices.at(index).identity,
+                {.address = addresses.value(index), .mask = mask, .gateway = gateway, .dhcp = false});
     }
     return startAddresses(std::move(plan), targets);
 }
@@ -278,8 +278,8 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
         return nullptr;
     }
     QList<BatchDevice> ordered;
-    for (const qsizetype place : order.order)
-        ordered.append(plan.devices.at(place));
+    for (const qsizetype index : order.order)
+        ordered.append(plan.devices.at(index));
     plan.devices = ordered;
     plan.policy = {.atOnce = 1, .deadline = stepDeadline, .wrongPasswordsInARow = wrongPasswordsInARow};
     // The steps go by MAC, but two rows with one address may be one device, which may refuse the account.
@@ -381,7 +381,7 @@ Batch *Batches::retryWhere(Batch *batch, const QString &identity)
     plan.devices.removeIf(
         [&](const BatchDevice &device) { return !identity.isEmpty() && device.identity != identity; });
     if (plan.isByAddress && !batch->changesAddresses())
-        leaveOutMoved(plan);
+        removeMoved(plan);
     Batch *again = plan.devices.isEmpty() ? nullptr : start(std::move(plan));
     if (again) {
         again->setRetryOf(batch);
@@ -391,7 +391,7 @@ Batch *Batches::retryWhere(Batch *batch, const QString &identity)
 }
 
 /// Removes devices whose row has another address now: another device may have the old address.
-void Batches::leaveOutMoved(BatchPlan &plan)
+void Batches::removeMoved(BatchPlan &plan)
 {
     QStringList moved;
     plan.devices.removeIf([&](const BatchDevice &device) {
@@ -449,7 +449,7 @@ bool Batches::mayChangeAddresses()
     return refusal.isEmpty();
 }
 
-void Batches::giveUp() const
+void Batches::stopForExit() const
 {
     if (!isRunning())
         return;
@@ -462,11 +462,11 @@ void Batches::giveUp() const
         if (!entry.time.isValid())
             (isWriting ? writing : notDone).append(entry.device.ipport);
     }
-    QString words = QStringLiteral("The program ends during %1").arg(current()->title());
+    QString words = QStringLiteral("The application closes during %1").arg(current()->title());
     if (!notDone.isEmpty())
         words += QStringLiteral(" - not done: ") + notDone.join(QStringLiteral(", "));
     if (!writing.isEmpty())
-        words += QStringLiteral(" - go on writing their firmware: ") + writing.join(QStringLiteral(", "));
+        words += QStringLiteral(" - still writing firmware: ") + writing.join(QStringLiteral(", "));
     qCWarning(logDevice).noquote() << words;
 }
 
@@ -494,7 +494,7 @@ Batch *Batches::start(BatchPlan plan)
     connect(batch, &Batch::resulted, this, [this, batch] {
         // At the end, and when the batch is paused, the pages show the failed devices. Devices that wait for
         // a further step which was cancelled count as well.
-        if (!batch->isRunning() || batch->isHeld())
+        if (!batch->isRunning() || batch->isPaused())
             markFailed(*batch);
     });
     if (!batch->start()) {
@@ -504,7 +504,7 @@ Batch *Batches::start(BatchPlan plan)
         return nullptr;
     }
     for (Batch *earlier : std::as_const(m_kept))
-        earlier->forgetSteps();
+        earlier->releaseSteps();
     m_kept.append(batch);
     if (m_kept.size() > maximumKept)
         m_kept.takeFirst()->deleteLater();
@@ -531,7 +531,7 @@ void Batches::finish(Batch *batch, int work)
     m_factory.busyState()->end(work);
     markFailed(*batch);
     if (!batch->hasRetryable())
-        batch->forgetSteps(); // the step maker may hold a password
+        batch->releaseSteps(); // the step maker may hold a password
     Q_EMIT runningChanged();
 }
 

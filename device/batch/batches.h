@@ -58,7 +58,7 @@ public:
                                    const QStringList &names);
 
     /// Initialises factory-new devices with an account, one device after another.
-    Q_INVOKABLE Batch *setFirstPasswords(const QString &family, const QString &title, const QStringList &macs,
+    Q_INVOKABLE Batch *initialiseDevices(const QString &family, const QString &title, const QStringList &macs,
                                          const QString &account, const QString &password);
 
     /// Changes the addresses of devices; `addresses` is parallel to `macs`, and is ignored with `dhcp`. One
@@ -87,7 +87,7 @@ public:
                                      const QStringList &channelNames, const QString &folder);
 
     /// Stops the running batch because the application closes, and logs the devices that are not done.
-    Q_INVOKABLE void giveUp() const;
+    Q_INVOKABLE void stopForExit() const;
 
     /// Repeats an ended batch for the devices that may succeed now.
     Q_INVOKABLE Batch *retry(Batch *batch);
@@ -147,7 +147,7 @@ private:
     [[nodiscard]] std::optional<AddressSettings> settingsBeforeFailure(const QString &identity) const;
     /// Retries the device with this identity, or all devices if it is empty.
     Batch *retryWhere(Batch *batch, const QString &identity);
-    void leaveOutMoved(BatchPlan &plan);
+    void removeMoved(BatchPlan &plan);
     /// Updates the row of a camera. A recorder's name is separate from the name of its channel 1.
     void noteCameraName(const QString &family, const BatchDevice &device, const QString &name);
     void saveRecords(const QList<BatchRecord> &records, const QString &path);

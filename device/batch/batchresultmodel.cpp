@@ -10,9 +10,9 @@ namespace {
 
 constexpr int reloadPause = 250; // milliseconds
 
-BatchResultModel::State stateOf(const Batch &batch, qsizetype place)
+BatchResultModel::State stateOf(const Batch &batch, qsizetype entryIndex)
 {
-    const int result = batch.entries().at(place).outcome.result;
+    const int result = batch.entries().at(entryIndex).outcome.result;
     if (BatchReport::isSkipped(result))
         return BatchResultModel::Skipped;
     switch (result) {
@@ -68,36 +68,36 @@ void BatchResultModel::setOnlyFailed(bool only)
 
 int BatchResultModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() || !m_batch ? 0 : static_cast<int>(m_places.size());
+    return parent.isValid() || !m_batch ? 0 : static_cast<int>(m_entryIndexes.size());
 }
 
 void BatchResultModel::reload()
 {
     m_reloading.stop();
     beginResetModel();
-    m_places.clear();
+    m_entryIndexes.clear();
     if (m_batch) {
-        const auto stateAt = [this](qsizetype place) {
-            return stateOf(*m_batch, place);
+        const auto stateAt = [this](qsizetype entryIndex) {
+            return stateOf(*m_batch, entryIndex);
         };
-        for (qsizetype place = 0; place < m_batch->total(); ++place) {
-            if (!m_onlyFailed || stateAt(place) <= NotDone)
-                m_places.append(place);
+        for (qsizetype entryIndex = 0; entryIndex < m_batch->total(); ++entryIndex) {
+            if (!m_onlyFailed || stateAt(entryIndex) <= NotDone)
+                m_entryIndexes.append(entryIndex);
         }
-        std::stable_sort(m_places.begin(), m_places.end(), [&stateAt](qsizetype left, qsizetype right) {
-            return stateAt(left) < stateAt(right);
-        });
+        std::stable_sort(
+            m_entryIndexes.begin(), m_entryIndexes.end(),
+            [&stateAt](qsizetype left, qsizetype right) { return stateAt(left) < stateAt(right); });
     }
     endResetModel();
 }
 
 QVariantMap BatchResultModel::valuesOf(int row) const
 {
-    const qsizetype place = m_places.at(row);
-    const Batch::Entry &entry = m_batch->entries().at(place);
-    const State state = stateOf(*m_batch, place);
+    const qsizetype entryIndex = m_entryIndexes.at(row);
+    const Batch::Entry &entry = m_batch->entries().at(entryIndex);
+    const State state = stateOf(*m_batch, entryIndex);
     return {
-        {RowKey::identity, QString::number(place)},
+        {RowKey::identity, QString::number(entryIndex)},
         {RowKey::device, entry.device.ipport},
         {DeviceRowKey::mac, macOf(entry.device)},
         {DeviceRowKey::name, entry.device.title},

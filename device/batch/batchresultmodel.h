@@ -50,6 +50,6 @@ private:
 
     QPointer<Batch> m_batch; ///< not owned
     bool m_onlyFailed = false;
-    QList<qsizetype> m_places; ///< index in the batch's entries, by row
+    QList<qsizetype> m_entryIndexes; ///< index in the batch's entries, by row
     QTimer m_reloading;
 };

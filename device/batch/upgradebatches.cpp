@@ -12,8 +12,8 @@
 
 namespace {
 
-constexpr int newsInterval = 250;  // milliseconds
-constexpr qsizetype fewRows = 500; // for more rows, the complete list is read
+constexpr int notifyInterval = 250;            // milliseconds
+constexpr qsizetype maximumNotifiedRows = 500; // for more rows, the complete list is read
 
 /// Step of an uninitialised device, which the preview shows as skipped: sends no request.
 StepOutcome skipUninitialised(const StepControl & /*control*/)
@@ -46,9 +46,9 @@ UpgradeBatches::UpgradeBatches(CDeviceFactory &factory, Batches &batches, std::f
                                QObject *parent)
     : QObject(parent), m_factory(factory), m_batches(batches), m_atOnce(std::move(atOnce))
 {
-    m_news.setSingleShot(true);
-    m_news.setInterval(newsInterval);
-    connect(&m_news, &QTimer::timeout, this, &UpgradeBatches::tellRows);
+    m_notifyTimer.setSingleShot(true);
+    m_notifyTimer.setInterval(notifyInterval);
+    connect(&m_notifyTimer, &QTimer::timeout, this, &UpgradeBatches::notifyRows);
     connect(&m_factory, &CDeviceFactory::signalUpdateSchedule, this, &UpgradeBatches::noteProgress);
     connect(&m_factory, &CDeviceFactory::signalShowUpgradeFinishTip, this, &UpgradeBatches::noteRoundEnd);
     connect(&m_batches, &Batches::retried, this, [this](const Batch *earlier, Batch *again) {
@@ -141,12 +141,12 @@ void UpgradeBatches::follow(Batch *batch, Source source)
     m_source = source;
     Q_EMIT lastChanged();
     connect(batch, &Batch::finished, this, [this, batch, source] {
-        tellRows();
+        notifyRows();
         const BatchReport &report = *batch->report();
         if (source == Source::List)
             Q_EMIT ended(report.succeeded(), report.failed(), report.notDone());
     });
-    tellRows();
+    notifyRows();
 }
 
 void UpgradeBatches::noteRefusals(const QList<BatchOutcome> &outcomes)
@@ -173,15 +173,15 @@ void UpgradeBatches::noteProgress(int percent)
 {
     if (m_batch && m_batch->isRunning())
         m_batch->noteProgress(percent / 100.0);
-    if (!m_news.isActive())
-        m_news.start();
+    if (!m_notifyTimer.isActive())
+        m_notifyTimer.start();
 }
 
-void UpgradeBatches::tellRows()
+void UpgradeBatches::notifyRows()
 {
-    m_news.stop();
+    m_notifyTimer.stop();
     const QStringList names = m_factory.backEnd(dhFamily)->takeChangedUpgrades();
-    if (names.size() > fewRows)
+    if (names.size() > maximumNotifiedRows)
         Q_EMIT listChanged();
     else if (!names.isEmpty())
         Q_EMIT rowsChanged(names);

@@ -64,7 +64,7 @@ private:
     /// was refused.
     void noteRefusals(const QList<BatchOutcome> &outcomes);
     void noteProgress(int percent);
-    void tellRows();
+    void notifyRows();
     void noteRoundEnd();
 
     CDeviceFactory &m_factory;
@@ -73,5 +73,5 @@ private:
     QPointer<Batch> m_batch;        ///< the latest batch
     Source m_source = Source::List; ///< of m_batch
     bool m_isDocumentOpen = false;  ///< documentEnded() is pending
-    QTimer m_news;                  ///< delays rowsChanged() after a change
+    QTimer m_notifyTimer;           ///< delays rowsChanged() after a change
 };

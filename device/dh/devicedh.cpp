@@ -85,11 +85,11 @@ CDeviceDH::~CDeviceDH()
     m_upgrades->requestEnd();
     m_engine->requestEnd();
     m_search->requestEnd();
-    m_pictures->giveUpSnapshots();
+    m_pictures->cancelSnapshots();
     m_upgrades->end();
     m_threads->clear();
     m_session->end();
-    m_system->letLoginsGo();
+    m_system->closeLogins();
     if (m_libraries.net)
         m_libraries.net->NetCleanup(); // aborts the timeouts of running searches
     m_engine->end();
@@ -107,7 +107,7 @@ void CDeviceDH::factoryEnds()
 {
     m_upgrades->requestEnd();
     m_engine->requestEnd();
-    m_pictures->giveUpSnapshots();
+    m_pictures->cancelSnapshots();
     m_upgrades->end();
     m_upgrades->noteDocuments();
     m_upgrades->waitForDocuments();
@@ -349,12 +349,12 @@ void CDeviceDH::setBatchDeleteDevice(const QVariantMap &macs, const QString &ipv
 
 void CDeviceDH::setInitAccount(const QString &mac, const QString &account, const QString &password)
 {
-    m_foundDevices->giveFirstPassword(mac, account, password);
+    m_foundDevices->initialise(mac, account, password);
 }
 
 DeviceStep CDeviceDH::initialisationStep(const QString &mac, const QString &account, const QString &password)
 {
-    return m_foundDevices->firstPasswordStep(mac, account, password);
+    return m_foundDevices->initialisationStep(mac, account, password);
 }
 
 void CDeviceDH::modifyIP(const QString &mac, const QString &newip, const QString &newsubmask,

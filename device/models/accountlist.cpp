@@ -82,8 +82,8 @@ QString AccountList::removeUnused()
     load(); // an account may have been assigned to a device since the last load()
     QString failure;
     const QStringList names = unused();
-    for (qsizetype place = 0; place < names.size() && failure.isEmpty(); ++place)
-        failure = m_store->remove(names.at(place));
+    for (qsizetype position = 0; position < names.size() && failure.isEmpty(); ++position)
+        failure = m_store->remove(names.at(position));
     load();
     return failure;
 }

@@ -8,11 +8,11 @@ BatchReport::BatchReport(QObject *parent) : QObject(parent) {}
 void BatchReport::begin(const QStringList &devices)
 {
     m_entries.clear();
-    m_places.clear();
+    m_indexesByDevice.clear();
     m_entries.reserve(devices.size());
-    m_places.reserve(devices.size());
+    m_indexesByDevice.reserve(devices.size());
     for (const QString &device : devices) {
-        m_places[device].append(m_entries.size());
+        m_indexesByDevice[device].append(m_entries.size());
         m_entries.append({.device = device});
     }
     m_counts = {{NotDone, total()}};
@@ -28,27 +28,27 @@ void BatchReport::note(const QString &device, int result)
 void BatchReport::note(const QStringList &devices, const QList<int> &results)
 {
     bool isChanged = false;
-    for (qsizetype place = 0; place < devices.size(); ++place)
-        isChanged = take(devices.at(place), results.at(place)) || isChanged;
+    for (qsizetype index = 0; index < devices.size(); ++index)
+        isChanged = take(devices.at(index), results.at(index)) || isChanged;
     if (isChanged)
         Q_EMIT changed();
 }
 
 bool BatchReport::take(const QString &device, int result)
 {
-    const QList<qsizetype> places = m_places.value(device);
-    const auto place = std::find_if(places.cbegin(), places.cend(), [this](qsizetype other) {
+    const QList<qsizetype> indexes = m_indexesByDevice.value(device);
+    const auto index = std::find_if(indexes.cbegin(), indexes.cend(), [this](qsizetype other) {
         return m_entries.at(other).result == NotDone || m_entries.at(other).result == Waiting;
     });
-    if (place == places.cend())
+    if (index == indexes.cend())
         return false;
-    setResult(*place, result);
+    setResult(*index, result);
     return true;
 }
 
-void BatchReport::setResult(qsizetype place, int result)
+void BatchReport::setResult(qsizetype index, int result)
 {
-    --m_counts[std::exchange(m_entries[place].result, result)];
+    --m_counts[std::exchange(m_entries[index].result, result)];
     ++m_counts[result];
 }
 
@@ -72,12 +72,12 @@ QStringList BatchReport::devicesNotSucceeded() const
     return devices;
 }
 
-QStringList BatchReport::giveUpWaiting()
+QStringList BatchReport::cancelWaiting()
 {
     QStringList devices = devicesWith(Waiting);
-    for (qsizetype place = 0; place < m_entries.size(); ++place) {
-        if (m_entries.at(place).result == Waiting)
-            setResult(place, NotDone);
+    for (qsizetype index = 0; index < m_entries.size(); ++index) {
+        if (m_entries.at(index).result == Waiting)
+            setResult(index, NotDone);
     }
     if (!devices.isEmpty())
         Q_EMIT changed();

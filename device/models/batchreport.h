@@ -59,7 +59,7 @@ public:
     }
 
     /// Sets the devices that wait for a further step to NotDone. Returns their names.
-    Q_INVOKABLE QStringList giveUpWaiting();
+    Q_INVOKABLE QStringList cancelWaiting();
 
     [[nodiscard]] int total() const { return static_cast<int>(m_entries.size()); }
     [[nodiscard]] int succeeded() const { return m_counts.value(Succeeded); }
@@ -86,9 +86,9 @@ private:
 
     [[nodiscard]] QString summaryWith(const QString &notDoneWords) const;
     [[nodiscard]] bool take(const QString &device, int result); ///< false: not a device of the batch
-    void setResult(qsizetype place, int result);
+    void setResult(qsizetype index, int result);
 
     QList<Entry> m_entries;
-    QHash<QString, QList<qsizetype>> m_places; ///< indexes in m_entries, by device
-    QHash<int, int> m_counts;                  ///< entries by result
+    QHash<QString, QList<qsizetype>> m_indexesByDevice; ///< indexes in m_entries, by device
+    QHash<int, int> m_counts;                           ///< entries by result
 };

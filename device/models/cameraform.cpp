@@ -82,13 +82,13 @@ QStringList CameraForm::shutterTimes()
     return texts;
 }
 
-double CameraForm::shutterMilliseconds(int place) const
+double CameraForm::shutterMilliseconds(int index) const
 {
-    const bool isPlace = place >= 0 && place < static_cast<int>(shutterParts.size());
-    return isPlace ? millisecondsOf(shutterParts[static_cast<std::size_t>(place)]) : 0;
+    const bool isValid = index >= 0 && index < static_cast<int>(shutterParts.size());
+    return isValid ? millisecondsOf(shutterParts[static_cast<std::size_t>(index)]) : 0;
 }
 
-int CameraForm::shutterPlace(double shortest, double longest) const
+int CameraForm::shutterIndex(double shortest, double longest) const
 {
     if (!isSameTime(shortest, longest))
         return -1;

@@ -46,11 +46,11 @@ public:
     [[nodiscard]] static QStringList shutterTimes();
 
     /// The exposure time at an index of shutterTimes in milliseconds; 0 for an index out of range.
-    Q_INVOKABLE [[nodiscard]] double shutterMilliseconds(int place) const;
+    Q_INVOKABLE [[nodiscard]] double shutterMilliseconds(int index) const;
 
     /// The index in shutterTimes of an exposure time given as a range in milliseconds. -1 if `shortest` and
     /// `longest` differ, or if the time is not listed.
-    Q_INVOKABLE [[nodiscard]] int shutterPlace(double shortest, double longest) const;
+    Q_INVOKABLE [[nodiscard]] int shutterIndex(double shortest, double longest) const;
 
     /// The calls of setConfigData() that set the exposure range in milliseconds, each as [sub-key, value].
     /// The bounds are written one after the other. `longestNow` is the current upper bound; it decides the

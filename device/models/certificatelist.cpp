@@ -17,7 +17,7 @@ CertificateList::CertificateList(std::shared_ptr<CertificateStore> store, QObjec
                 this,
                 [this] {
                     m_isNotified = false;
-                    setNews(true);
+                    setHasNewRefusals(true);
                 },
                 Qt::QueuedConnection);
     });
@@ -28,10 +28,10 @@ CertificateList::~CertificateList()
     m_store->setListener({});
 }
 
-void CertificateList::setNews(bool hasNews)
+void CertificateList::setHasNewRefusals(bool hasNewRefusals)
 {
-    if (std::exchange(m_hasNews, hasNews) != hasNews)
-        Q_EMIT hasNewsChanged();
+    if (std::exchange(m_hasNewRefusals, hasNewRefusals) != hasNewRefusals)
+        Q_EMIT hasNewRefusalsChanged();
 }
 
 void CertificateList::load()
@@ -46,7 +46,7 @@ void CertificateList::load()
     std::stable_partition(m_rows.begin(), m_rows.end(),
                           [](const Row &row) { return row.certificate.isChanged(); });
     endResetModel();
-    setNews(false);
+    setHasNewRefusals(false);
     Q_EMIT rowsChanged();
     Q_EMIT checkedCountChanged();
 }
@@ -82,10 +82,10 @@ Qt::CheckState CertificateList::checkState() const
 {
     if (checkedCount() == 0)
         return Qt::Unchecked;
-    const bool isWhole = std::all_of(m_rows.cbegin(), m_rows.cend(), [](const Row &row) {
+    const bool areAllChecked = std::all_of(m_rows.cbegin(), m_rows.cend(), [](const Row &row) {
         return row.isChecked || row.certificate.isChanged();
     });
-    return isWhole ? Qt::Checked : Qt::PartiallyChecked;
+    return areAllChecked ? Qt::Checked : Qt::PartiallyChecked;
 }
 
 void CertificateList::setRangeChecked(int first, int last, bool checked)

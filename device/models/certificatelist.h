@@ -15,7 +15,7 @@
 class CertificateList : public DialogRows
 {
     Q_OBJECT
-    Q_PROPERTY(bool hasNews READ hasNews NOTIFY hasNewsChanged)
+    Q_PROPERTY(bool hasNewRefusals READ hasNewRefusals NOTIFY hasNewRefusalsChanged)
     Q_PROPERTY(QString problem READ problem NOTIFY rowsChanged)
     Q_PROPERTY(int count READ rowCount NOTIFY rowsChanged)
     Q_PROPERTY(int changedCount READ changedCount NOTIFY rowsChanged)
@@ -26,9 +26,9 @@ public:
     ~CertificateList() override;
 
     /// Whether a certificate was refused since load().
-    [[nodiscard]] bool hasNews() const { return m_hasNews; }
+    [[nodiscard]] bool hasNewRefusals() const { return m_hasNewRefusals; }
 
-    /// Replaces the rows by the certificates that are refused now, and clears hasNews.
+    /// Replaces the rows by the certificates that are refused now, and clears hasNewRefusals.
     Q_INVOKABLE void load();
 
     /// Stores the checked certificates as accepted. Returns an error message, empty on success.
@@ -49,7 +49,7 @@ public:
     Q_INVOKABLE void setAllChecked(bool checked);
 
 Q_SIGNALS:
-    void hasNewsChanged();
+    void hasNewRefusalsChanged();
     void rowsChanged();
     void checkedCountChanged();
 
@@ -65,10 +65,10 @@ private:
         bool isChecked = false;
     };
 
-    void setNews(bool hasNews);
+    void setHasNewRefusals(bool hasNewRefusals);
 
     const std::shared_ptr<CertificateStore> m_store;
     QList<Row> m_rows;
-    bool m_hasNews = false;
+    bool m_hasNewRefusals = false;
     std::atomic_bool m_isNotified = false; ///< an event for this thread is queued
 };

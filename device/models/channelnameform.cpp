@@ -26,22 +26,22 @@ int ChannelNameForm::failedCount() const
                                           [](const Row &row) { return hasFailed(row.lastWrite); }));
 }
 
-int ChannelNameForm::untoldCount() const
+int ChannelNameForm::unknownCount() const
 {
     return static_cast<int>(std::count_if(m_rows.cbegin(), m_rows.cend(),
-                                          [](const Row &row) { return row.isConnected && !row.isTold; }));
+                                          [](const Row &row) { return row.isConnected && !row.isReported; }));
 }
 
 void ChannelNameForm::load(const QVariantList &names, const QVariantList &connected)
 {
-    dropSaving();
+    cancelSaving();
     beginResetModel();
     m_rows.clear();
     for (qsizetype channel = 0; channel < names.size(); ++channel) {
         const QString name = names.at(channel).toString();
         m_rows.append({.saved = name,
                        .name = name,
-                       .isTold = names.at(channel).isValid(),
+                       .isReported = names.at(channel).isValid(),
                        .isConnected = connected.value(channel, true).toBool()});
     }
     endResetModel();
@@ -59,22 +59,22 @@ void ChannelNameForm::change(int row, const QString &name)
         return;
     m_rows[row].name = name;
     m_rows[row].lastWrite = None;
-    tellOf(row);
+    notifyRowChanged(row);
 }
 
 void ChannelNameForm::setNames(const QStringList &channels, const QStringList &names)
 {
-    for (qsizetype place = 0; place < channels.size(); ++place)
-        set(channels.at(place).toInt(), names.value(place));
+    for (qsizetype position = 0; position < channels.size(); ++position)
+        set(channels.at(position).toInt(), names.value(position));
 }
 
-void ChannelNameForm::takeBack(int row)
+void ChannelNameForm::revert(int row)
 {
     if (row >= 0 && row < m_rows.size())
         change(row, m_rows.at(row).saved); // unfiltered: exactly the name on the device
 }
 
-void ChannelNameForm::cut(int row)
+void ChannelNameForm::truncate(int row)
 {
     if (row >= 0 && row < m_rows.size())
         change(row, ByteText::truncated(m_rows.at(row).name, ByteText::channelNameBytes()).trimmed());
@@ -97,7 +97,7 @@ void ChannelNameForm::save()
     }
     if (!isSaving())
         return;
-    m_saveTurns = 0;
+    m_finishedRows = 0;
     requestNext();
 }
 
@@ -119,7 +119,7 @@ void ChannelNameForm::takeWritten(int row, int result, const QVariant &name)
     if (result == resultCode(LoginResult::Success)) {
         const QString wanted = written.name.trimmed();
         written.saved = written.name = name.isValid() ? name.toString() : wanted;
-        written.isTold = true;
+        written.isReported = true;
         written.lastWrite = written.saved == wanted ? None : Different;
     } else if (result == resultCode(LoginResult::Upgrading)) {
         written.lastWrite = Upgrading;
@@ -127,12 +127,13 @@ void ChannelNameForm::takeWritten(int row, int result, const QVariant &name)
         written.lastWrite = isDeviceAway(static_cast<std::uint32_t>(result)) ? Unanswered : Refused;
     }
     const Trouble trouble = written.lastWrite;
-    tellOf(row);
+    notifyRowChanged(row);
     if (row != savingRow())
         return;
     m_isWriting = false;
-    ++m_saveTurns;
-    if (m_isStopping || trouble == Unanswered || trouble == Upgrading || m_saveTurns == m_rowsToSave.size())
+    ++m_finishedRows;
+    if (m_isStopping || trouble == Unanswered || trouble == Upgrading ||
+        m_finishedRows == m_rowsToSave.size())
         finishSaving();
     else
         requestNext();
@@ -142,10 +143,10 @@ void ChannelNameForm::stopSaving()
 {
     m_isStopping = m_isWriting;
     if (!m_isWriting)
-        dropSaving();
+        cancelSaving();
 }
 
-void ChannelNameForm::dropSaving()
+void ChannelNameForm::cancelSaving()
 {
     if (isSaving())
         finishSaving();
@@ -155,7 +156,7 @@ void ChannelNameForm::finishSaving()
 {
     m_isWriting = m_isStopping = false;
     const QList<int> rows = std::exchange(m_rowsToSave, {});
-    const auto tried = rows.first(m_saveTurns);
+    const auto tried = rows.first(m_finishedRows);
     const auto isWritten = [this](int row) {
         return !hasFailed(m_rows.at(row).lastWrite);
     };
@@ -168,18 +169,18 @@ void ChannelNameForm::finishSaving()
 
 int ChannelNameForm::savingRow() const
 {
-    return m_rowsToSave.value(m_saveTurns, -1);
+    return m_rowsToSave.value(m_finishedRows, -1);
 }
 
 double ChannelNameForm::savingProgress() const
 {
-    return isSaving() ? static_cast<double>(m_saveTurns) / static_cast<double>(m_rowsToSave.size()) : 0;
+    return isSaving() ? static_cast<double>(m_finishedRows) / static_cast<double>(m_rowsToSave.size()) : 0;
 }
 
 ChannelNameForm::Trouble ChannelNameForm::troubleOf(const Row &row) const
 {
     if (!row.isChanged() && row.lastWrite == None)
-        return row.isTold ? None : Unknown;
+        return row.isReported ? None : Unknown;
     if (row.isChanged() && row.name.trimmed().isEmpty())
         return Empty;
     // Spaces at the ends are not written.
@@ -207,7 +208,7 @@ bool ChannelNameForm::isInConflict(int row) const
     return isFaulty(trouble) || hasFailed(trouble);
 }
 
-void ChannelNameForm::tellOf(int row)
+void ChannelNameForm::notifyRowChanged(int row)
 {
     Q_EMIT dataChanged(index(row), index(row));
     Q_EMIT changed();

@@ -14,8 +14,8 @@ class ChannelNameForm : public DialogRows
     Q_OBJECT
     Q_PROPERTY(int count READ rowCount NOTIFY changed)
     Q_PROPERTY(int changedCount READ changedCount NOTIFY changed)
-    Q_PROPERTY(int failedCount READ failedCount NOTIFY changed) ///< rows whose last write failed
-    Q_PROPERTY(int untoldCount READ untoldCount NOTIFY changed) ///< connected cameras with an unknown name
+    Q_PROPERTY(int failedCount READ failedCount NOTIFY changed)   ///< rows whose last write failed
+    Q_PROPERTY(int unknownCount READ unknownCount NOTIFY changed) ///< connected cameras with an unknown name
     Q_PROPERTY(bool saving READ isSaving NOTIFY savingChanged)
     Q_PROPERTY(int savingRow READ savingRow NOTIFY savingChanged) ///< the row being written; -1 for none
     Q_PROPERTY(double savingProgress READ savingProgress NOTIFY savingChanged) ///< 0 to 1
@@ -39,7 +39,7 @@ public:
     [[nodiscard]] int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     [[nodiscard]] int changedCount() const;
     [[nodiscard]] int failedCount() const;
-    [[nodiscard]] int untoldCount() const;
+    [[nodiscard]] int unknownCount() const;
 
     /// Replaces the rows. A null name is a name that the device does not report. `connected` has a bool for
     /// each channel: whether it has a camera. Discards edits that are not written.
@@ -52,10 +52,10 @@ public:
     Q_INVOKABLE void setNames(const QStringList &channels, const QStringList &names);
 
     /// Restores the saved name.
-    Q_INVOKABLE void takeBack(int row);
+    Q_INVOKABLE void revert(int row);
 
     /// Truncates the name to the number of bytes that the device can store.
-    Q_INVOKABLE void cut(int row);
+    Q_INVOKABLE void truncate(int row);
 
     /// The first changed row whose name is empty or too long; -1 if there is none.
     Q_INVOKABLE [[nodiscard]] int firstFaulty() const;
@@ -74,7 +74,7 @@ public:
     Q_INVOKABLE void stopSaving();
 
     /// Ends the save immediately. The result of the current write is not waited for.
-    Q_INVOKABLE void dropSaving();
+    Q_INVOKABLE void cancelSaving();
 
     [[nodiscard]] bool isSaving() const { return !m_rowsToSave.isEmpty(); }
     [[nodiscard]] int savingRow() const;
@@ -102,7 +102,7 @@ private:
     {
         QString saved;
         QString name;
-        bool isTold = false;
+        bool isReported = false;
         bool isConnected = true;
         Trouble lastWrite = None;
 
@@ -116,13 +116,13 @@ private:
     }
     [[nodiscard]] Trouble troubleOf(const Row &row) const;
     void change(int row, const QString &name);
-    void tellOf(int row);
+    void notifyRowChanged(int row);
     void requestNext();
     void finishSaving();
 
-    QList<Row> m_rows;         ///< by channel
-    QList<int> m_rowsToSave;   ///< of the running save; empty while not saving
-    qsizetype m_saveTurns = 0; ///< rows of m_rowsToSave that are finished
-    bool m_isWriting = false;  ///< the save waits for takeWritten()
-    bool m_isStopping = false; ///< the save ends with the next takeWritten()
+    QList<Row> m_rows;            ///< by channel
+    QList<int> m_rowsToSave;      ///< of the running save; empty while not saving
+    qsizetype m_finishedRows = 0; ///< rows of m_rowsToSave that are finished
+    bool m_isWriting = false;     ///< the save waits for takeWritten()
+    bool m_isStopping = false;    ///< the save ends with the next takeWritten()
 };

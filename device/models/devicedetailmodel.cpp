@@ -47,9 +47,9 @@ void DeviceDetailModel::setSearchText(const QString &searchText)
 QString DeviceDetailModel::fileName() const
 {
     QString name = m_detail.value(DeviceRowKey::ipport).toString();
-    for (QChar &letter : name) {
-        if (!letter.isLetterOrNumber() && letter != QLatin1Char('.') && letter != QLatin1Char('-'))
-            letter = QLatin1Char('_');
+    for (QChar &character : name) {
+        if (!character.isLetterOrNumber() && character != QLatin1Char('.') && character != QLatin1Char('-'))
+            character = QLatin1Char('_');
     }
     return (name.isEmpty() ? QStringLiteral("device") : name) + QStringLiteral(".txt");
 }

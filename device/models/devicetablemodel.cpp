@@ -135,7 +135,7 @@ void DeviceTableModel::setSearchText(const QString &searchText)
 
 void DeviceTableModel::setFailedMarks(FailedMarks *marks)
 {
-    m_failedMarks.follow(marks, this, &DeviceTableModel::failedMarksChanged, &DeviceTableModel::takeMarks);
+    m_failedMarks.follow(marks, this, &DeviceTableModel::failedMarksChanged, &DeviceTableModel::updateMarks);
 }
 
 void DeviceTableModel::setNotes(DeviceNotes *notes)
@@ -179,7 +179,7 @@ void DeviceTableModel::setFailedOperation(const QString &operation)
         applyFilter();
 }
 
-void DeviceTableModel::takeMarks()
+void DeviceTableModel::updateMarks()
 {
     if (m_onlyFailed && m_failedMarks.isEmpty())
         setOnlyFailed(false);
@@ -212,7 +212,7 @@ QList<DeviceTableRow> DeviceTableModel::readRows()
     QVariantList list = readList();
     addNotes(list);
     m_totalCount = static_cast<int>(list.size());
-    forgetLostTicks(list);
+    uncheckRemoved(list);
     countFailed(list);
     QList<DeviceTableRow> rows =
         deviceTableRows(list,
@@ -229,7 +229,7 @@ QList<DeviceTableRow> DeviceTableModel::readRows()
     return rows;
 }
 
-void DeviceTableModel::forgetLostTicks(const QVariantList &list)
+void DeviceTableModel::uncheckRemoved(const QVariantList &list)
 {
     if (checkedIdentities().isEmpty())
         return;
@@ -251,12 +251,12 @@ void DeviceTableModel::refresh()
 {
     if (!m_deviceFactory)
         return;
-    takeRows(readRows());
+    replaceRows(readRows());
     countChecked();
     Q_EMIT countChanged();
 }
 
-void DeviceTableModel::takeRows(QList<DeviceTableRow> rows)
+void DeviceTableModel::replaceRows(QList<DeviceTableRow> rows)
 {
     const qsizetype shown = m_rows.size();
     const bool grown =
@@ -267,23 +267,23 @@ void DeviceTableModel::takeRows(QList<DeviceTableRow> rows)
     if (!grown) {
         beginResetModel();
         m_rows = std::move(rows);
-        notePlaces(0);
+        updateRowIndex(0);
         endResetModel();
         return;
     }
     // Usual case during a search: rows are appended. Views keep their scroll position and delegates.
     int firstChanged = static_cast<int>(shown);
     int lastChanged = -1;
-    for (int place = 0; place < static_cast<int>(shown); ++place) {
-        if (m_rows.at(place) == rows.at(place))
+    for (int position = 0; position < static_cast<int>(shown); ++position) {
+        if (m_rows.at(position) == rows.at(position))
             continue;
-        firstChanged = std::min(firstChanged, place);
-        lastChanged = place;
+        firstChanged = std::min(firstChanged, position);
+        lastChanged = position;
     }
     if (rows.size() > shown) {
         beginInsertRows(QModelIndex(), static_cast<int>(shown), static_cast<int>(rows.size() - 1));
         m_rows = std::move(rows);
-        notePlaces(shown);
+        updateRowIndex(shown);
         endInsertRows();
     } else {
         m_rows = std::move(rows);
@@ -292,13 +292,13 @@ void DeviceTableModel::takeRows(QList<DeviceTableRow> rows)
         Q_EMIT dataChanged(index(firstChanged), index(lastChanged));
 }
 
-void DeviceTableModel::notePlaces(qsizetype first)
+void DeviceTableModel::updateRowIndex(qsizetype first)
 {
     if (first == 0)
-        m_places.clear();
-    m_places.reserve(m_rows.size());
-    for (qsizetype place = first; place < m_rows.size(); ++place)
-        m_places.insert(m_rows.at(place).identity, static_cast<int>(place));
+        m_rowByIdentity.clear();
+    m_rowByIdentity.reserve(m_rows.size());
+    for (qsizetype position = first; position < m_rows.size(); ++position)
+        m_rowByIdentity.insert(m_rows.at(position).identity, static_cast<int>(position));
 }
 
 void DeviceTableModel::refreshDevice(const QString &mac)
@@ -311,16 +311,16 @@ void DeviceTableModel::refreshDevices(const QStringList &macs)
     int first = rowCount();
     int last = -1;
     for (const QString &mac : macs) {
-        const int place = rowOf(mac);
-        if (place < 0 || !m_deviceFactory)
+        const int position = rowOf(mac);
+        if (position < 0 || !m_deviceFactory)
             continue;
         QVariantList read = {m_deviceFactory->backEnd(dhFamily)->deviceRow(mac)};
         addNotes(read);
         const QJsonObject values = read.constFirst().toJsonObject();
         if (!values.isEmpty()) // otherwise the device was deleted; the next refresh() removes the row
-            m_rows[place].values = values;
-        first = std::min(first, place);
-        last = std::max(last, place);
+            m_rows[position].values = values;
+        first = std::min(first, position);
+        last = std::max(last, position);
     }
     if (last >= 0)
         Q_EMIT dataChanged(index(first), index(last)); // one signal: the view updates visible rows once
@@ -419,7 +419,7 @@ QVariantMap DeviceTableModel::get(int row) const
 
 int DeviceTableModel::rowOf(const QString &identity) const
 {
-    return m_places.value(identity, -1);
+    return m_rowByIdentity.value(identity, -1);
 }
 
 int DeviceTableModel::rowStarting(const QString &text, int from) const

@@ -158,16 +158,16 @@ Q_SIGNALS:
 private:
     [[nodiscard]] QVariantList readList() const;
     [[nodiscard]] QList<DeviceTableRow> readRows();
-    void takeMarks();
+    void updateMarks();
     void addNotes(QVariantList &list) const;
-    void forgetLostTicks(const QVariantList &list);
+    void uncheckRemoved(const QVariantList &list);
     [[nodiscard]] QSet<QString> &checkedIdentities() { return m_ipv6 ? m_checkedIPv6 : m_checkedIPv4; }
     [[nodiscard]] const QSet<QString> &checkedIdentities() const
     {
         return m_ipv6 ? m_checkedIPv6 : m_checkedIPv4;
     }
-    void takeRows(QList<DeviceTableRow> rows);
-    void notePlaces(qsizetype first); ///< updates m_places from this row on
+    void replaceRows(QList<DeviceTableRow> rows);
+    void updateRowIndex(qsizetype first); ///< updates m_rowByIdentity from this row on
     void applyFilter();
     void countChecked();
     void countFailed(const QVariantList &list);
@@ -185,7 +185,7 @@ private:
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
 
     QList<DeviceTableRow> m_rows;
-    QHash<QString, int> m_places; ///< row by identity
+    QHash<QString, int> m_rowByIdentity; ///< row by identity
     // Identities of the checked rows, including rows that a filter hides.
     QSet<QString> m_checkedIPv4;
     QSet<QString> m_checkedIPv6;

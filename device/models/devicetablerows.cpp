@@ -30,18 +30,18 @@ QList<DeviceTableRow> ordered(QList<DeviceTableRow> rows, const DeviceTableOrder
     for (const DeviceTableRow &row : std::as_const(rows))
         keys.push_back(order.sortKey(row.values));
 
-    std::vector<qsizetype> places(rows.size());
-    std::iota(places.begin(), places.end(), 0);
+    std::vector<qsizetype> indexes(rows.size());
+    std::iota(indexes.begin(), indexes.end(), 0);
     const int direction = wanted.direction == Qt::AscendingOrder ? 1 : -1;
-    std::stable_sort(places.begin(), places.end(), [&](qsizetype left, qsizetype right) {
+    std::stable_sort(indexes.begin(), indexes.end(), [&](qsizetype left, qsizetype right) {
         const int reasons = isByReason ? rows.at(left).reason.compare(rows.at(right).reason) : 0;
         return reasons != 0 ? reasons < 0 : direction * DeviceOrder::compare(keys[left], keys[right]) < 0;
     });
 
     QList<DeviceTableRow> sorted;
     sorted.reserve(rows.size());
-    for (const qsizetype place : places)
-        sorted.append(std::move(rows[place]));
+    for (const qsizetype index : indexes)
+        sorted.append(std::move(rows[index]));
     return sorted;
 }
 
@@ -99,11 +99,11 @@ QList<DeviceTableRow> deviceTableRows(const QVariantList &list, const DeviceTabl
         shown.append({.values = values, .identity = identity, .reason = reason});
         addresses.append(ipport);
     }
-    for (qsizetype place = 0; place < shown.size(); ++place) {
+    for (qsizetype index = 0; index < shown.size(); ++index) {
         // A device without an address (waiting for DHCP) has ":port" only and cannot be in conflict.
-        const QString &ipport = addresses.at(place);
-        const bool isLost = shown.at(place).values.value(DeviceRowKey::lost).toBool();
-        shown[place].conflict =
+        const QString &ipport = addresses.at(index);
+        const bool isLost = shown.at(index).values.value(DeviceRowKey::lost).toBool();
+        shown[index].conflict =
             !ipport.startsWith(QLatin1Char(':')) && rowsOfAddress.value(ipport) > (isLost ? 0 : 1);
     }
     const bool isByReason = order.key.isEmpty() && filter.onlyThose;

@@ -23,13 +23,13 @@ QList<int> itemsOf(const QString &field)
     return items;
 }
 
-QList<int> placesOf(const QVariant &list)
+QList<int> indexesOf(const QVariant &list)
 {
-    QList<int> places;
+    QList<int> indexes;
     const QVariantList values = list.toList();
-    for (const QVariant &place : values)
-        places.append(place.toInt());
-    return places;
+    for (const QVariant &index : values)
+        indexes.append(index.toInt());
+    return indexes;
 }
 
 /// The display name of a choice: "2688*1520" as "2688 × 1520", "G711a" as "G.711A".
@@ -134,8 +134,8 @@ void EncodeForm::set(const QString &key, const QVariant &value)
 void EncodeForm::fetch()
 {
     m_changedCount = 0;
-    m_takenItems = placesOf(value(EncodeKey::takenItems));
-    m_unreadPlaces = placesOf(value(EncodeKey::unreadPlaces));
+    m_takenItems = indexesOf(value(EncodeKey::takenItems));
+    m_unreadIndexes = indexesOf(value(EncodeKey::unreadPlaces));
     m_channels = value(EncodeKey::channelNum).toStringList();
     if (m_channels.isEmpty()) // a device that reports no channels has one
         m_channels.append(QStringLiteral("1"));
@@ -162,13 +162,13 @@ QVariant EncodeForm::value(const QString &key) const
 bool EncodeForm::isTaken(const QString &key) const
 {
     const StreamKey parts = splitEncodeKey(key);
-    QList<int> places = itemsOf(parts.field);
-    for (int &place : places)
-        place += parts.isSub ? itemsOfStream : 0;
+    QList<int> indexes = itemsOf(parts.field);
+    for (int &index : indexes)
+        index += parts.isSub ? itemsOfStream : 0;
     // An item that was not read is not written either.
-    places.removeIf([this](int place) { return m_unreadPlaces.contains(place); });
-    return !places.isEmpty() && std::all_of(places.begin(), places.end(),
-                                            [this](int place) { return m_takenItems.contains(place); });
+    indexes.removeIf([this](int index) { return m_unreadIndexes.contains(index); });
+    return !indexes.isEmpty() && std::all_of(indexes.begin(), indexes.end(),
+                                             [this](int index) { return m_takenItems.contains(index); });
 }
 
 bool EncodeForm::noteChange(const QString &key, const QVariant &value)
@@ -208,15 +208,15 @@ QVariantMap EncodeForm::bitRate(const QString &list, const QString &current, con
     const QStringList choices = value(list).toStringList();
     const int kilobits = value(rate).toInt();
     QVariantMap map = setting(current, noteChange(current, kilobits));
-    const QVariant place = value(current);
-    if (!place.isValid()) {
+    const QVariant index = value(current);
+    if (!index.isValid()) {
         map.insert(SettingKey::usable, false);
         return map;
     }
-    const bool isStep = place.toInt() >= 0 && place.toInt() < choices.size();
+    const bool isStep = index.toInt() >= 0 && index.toInt() < choices.size();
     map.insert(SettingKey::choices, choices);
     // The last entry is "custom": any rate that is not in the list.
-    map.insert(SettingKey::index, isStep ? place.toInt() : static_cast<int>(choices.size()) - 1);
+    map.insert(SettingKey::index, isStep ? index.toInt() : static_cast<int>(choices.size()) - 1);
     map.insert(SettingKey::value, kilobits);
     map.insert(SettingKey::usable, !choices.isEmpty());
     return map;

@@ -103,8 +103,8 @@ private:
     QVariantMap m_sub;
     QHash<QString, QVariant> m_read; ///< values on the device, by key
     bool m_isReading = false;
-    QList<int> m_takenItems;   ///< indexes of the items that the device accepted in the last write
-    QList<int> m_unreadPlaces; ///< indexes of the items that were not read
+    QList<int> m_takenItems;    ///< indexes of the items that the device accepted in the last write
+    QList<int> m_unreadIndexes; ///< indexes of the items that were not read
     int m_changedCount = 0;
     bool m_isComplete = false;
     QStringList m_unreadItems;

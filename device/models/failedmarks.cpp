@@ -27,7 +27,7 @@ void FailedMarks::note(const QString &work, const QString &title, const QList<Ou
     bool isChanged = false;
     for (const Outcome &outcome : outcomes) {
         if (isFinal(outcome.result))
-            isChanged |= forget(outcome.identity, work);
+            isChanged |= removeFailure(outcome.identity, work);
     }
     // A batch may contain a device more than once. One failure is enough for a mark.
     for (const Outcome &outcome : outcomes) {
@@ -43,7 +43,7 @@ void FailedMarks::note(const QString &work, const QString &title, const QList<Ou
         Q_EMIT changed();
 }
 
-bool FailedMarks::forget(const QString &identity, const QString &work)
+bool FailedMarks::removeFailure(const QString &identity, const QString &work)
 {
     const auto failures = m_failures.find(identity);
     if (failures == m_failures.end())

@@ -69,7 +69,7 @@ private:
     };
 
     /// Returns whether a failure was removed.
-    bool forget(const QString &identity, const QString &work);
+    bool removeFailure(const QString &identity, const QString &work);
 
     QHash<QString, QList<Failure>> m_failures; ///< by identity; most recent first
 };

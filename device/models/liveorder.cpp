@@ -79,29 +79,30 @@ int LiveOrder::ticked() const
     return m_table ? m_table->checkedCount() : 0;
 }
 
-int LiveOrder::placeOf(const QString &ipport) const
+int LiveOrder::positionOf(const QString &ipport) const
 {
     if (!m_chosen.isEmpty()) {
-        const auto place = std::find_if(m_chosen.cbegin(), m_chosen.cend(),
-                                        [&](const QVariant &row) { return addressOf(row) == ipport; });
-        return place == m_chosen.cend() ? -1 : static_cast<int>(place - m_chosen.cbegin());
+        const auto position = std::find_if(m_chosen.cbegin(), m_chosen.cend(),
+                                           [&](const QVariant &row) { return addressOf(row) == ipport; });
+        return position == m_chosen.cend() ? -1 : static_cast<int>(position - m_chosen.cbegin());
     }
     if (!m_table || !m_deviceFactory)
         return -1;
     const QVariantMap row = m_deviceFactory->getDeviceInfo(dhFamily, ipport);
-    const int place = m_table->rowOf(row.value(DeviceRowKey::mac).toString());
-    return place >= 0 ? place : m_table->rowOf(ipport);
+    const int position = m_table->rowOf(row.value(DeviceRowKey::mac).toString());
+    return position >= 0 ? position : m_table->rowOf(ipport);
 }
 
-QVariantMap LiveOrder::at(int place) const
+QVariantMap LiveOrder::at(int position) const
 {
-    return m_chosen.isEmpty() ? m_table->get(place) : m_chosen.at(place).toMap();
+    return m_chosen.isEmpty() ? m_table->get(position) : m_chosen.at(position).toMap();
 }
 
 QString LiveOrder::neighbour(const QString &ipport, int direction) const
 {
-    for (int place = placeOf(ipport) + direction; place >= 0 && place < count(); place += direction) {
-        const QVariantMap row = at(place);
+    for (int position = positionOf(ipport) + direction; position >= 0 && position < count();
+         position += direction) {
+        const QVariantMap row = at(position);
         if (canBeWatched(row) && addressOf(row) != ipport)
             return addressOf(row);
     }

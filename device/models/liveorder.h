@@ -36,7 +36,7 @@ public:
     [[nodiscard]] int ticked() const;
 
     /// The index of a device; -1 if it is not in the order.
-    Q_INVOKABLE [[nodiscard]] int placeOf(const QString &ipport) const;
+    Q_INVOKABLE [[nodiscard]] int positionOf(const QString &ipport) const;
 
     /// Address and port of the next device in the direction 1 or -1 that can be watched; empty if there is
     /// none. If `ipport` is not in the order, direction 1 starts with the first device.
@@ -53,7 +53,7 @@ Q_SIGNALS:
     void tickedChanged();
 
 private:
-    [[nodiscard]] QVariantMap at(int place) const;
+    [[nodiscard]] QVariantMap at(int position) const;
 
     QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before this object
     QPointer<DeviceTableModel> m_table;       ///< not owned

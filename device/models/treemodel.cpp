@@ -198,9 +198,9 @@ void OVTreeModel::writeResult(const QModelIndex &device, int result)
 
 void OVTreeModel::setResult(const QString &ipport, int result)
 {
-    const auto [first, last] = std::as_const(m_places).equal_range(ipport);
-    for (auto place = first; place != last; ++place)
-        writeResult(index(place->second, 0, index(place->first, 0)), result);
+    const auto [first, last] = std::as_const(m_positions).equal_range(ipport);
+    for (auto position = first; position != last; ++position)
+        writeResult(index(position->second, 0, index(position->first, 0)), result);
 }
 
 void OVTreeModel::setResultOfAll(const QStringList &ipports, int result)
@@ -211,13 +211,13 @@ void OVTreeModel::setResultOfAll(const QStringList &ipports, int result)
 
 void OVTreeModel::takeResults(const QStringList &ipports, const QList<int> &results, const QStringList &texts)
 {
-    for (qsizetype place = 0; place < std::min(ipports.size(), results.size()); ++place) {
-        int result = results.at(place);
+    for (qsizetype position = 0; position < std::min(ipports.size(), results.size()); ++position) {
+        int result = results.at(position);
         if (result == resultCode(LoginResult::Unknown))
             result = WaitsForPassword;
-        else if (result == resultCode(LoginResult::Success) && !texts.value(place).isEmpty())
+        else if (result == resultCode(LoginResult::Success) && !texts.value(position).isEmpty())
             result = PartlyDone;
-        setResult(ipports.at(place), result);
+        setResult(ipports.at(position), result);
     }
 }
 
@@ -251,7 +251,7 @@ void OVTreeModel::setDeviceFactory(CDeviceFactory *deviceFactory)
 
 void OVTreeModel::setFailedMarks(FailedMarks *marks)
 {
-    m_failedMarks.follow(marks, this, &OVTreeModel::failedMarksChanged, &OVTreeModel::takeMarks);
+    m_failedMarks.follow(marks, this, &OVTreeModel::failedMarksChanged, &OVTreeModel::updateMarks);
 }
 
 void OVTreeModel::setShown(Shown shown)
@@ -271,7 +271,7 @@ void OVTreeModel::setFailedOperation(const QString &operation)
     resetItems(m_filterType, m_searchText);
 }
 
-void OVTreeModel::takeMarks()
+void OVTreeModel::updateMarks()
 {
     if (m_failedMarks.settleOperation())
         Q_EMIT shownChanged();
@@ -357,7 +357,7 @@ void OVTreeModel::resetItems(const QString &type, const QString &searchText)
     m_unaddressedCount = 0;
     m_found.clear();
 
-    QHash<QString, qsizetype> places;
+    QHash<QString, qsizetype> indexByName;
     QList<Group> groups;
     for (const QVariant &row : rows) {
         const QJsonObject values = row.toJsonObject();
@@ -371,10 +371,10 @@ void OVTreeModel::resetItems(const QString &type, const QString &searchText)
         const QString name = groupNameOf(values, identity);
         if (name.isEmpty())
             continue;
-        const auto place = places.constFind(name);
-        const qsizetype position = place == places.cend() ? groups.size() : *place;
-        if (place == places.cend()) {
-            places.insert(name, position);
+        const auto known = indexByName.constFind(name);
+        const qsizetype position = known == indexByName.cend() ? groups.size() : *known;
+        if (known == indexByName.cend()) {
+            indexByName.insert(name, position);
             groups.append({.type = name, .devices = {}});
         }
         const Device device = deviceOf(identity, values);
@@ -388,7 +388,7 @@ void OVTreeModel::resetItems(const QString &type, const QString &searchText)
     countFailed();
     beginResetModel();
     m_groups = std::move(groups);
-    notePlaces();
+    updatePositions();
     endResetModel();
     Q_EMIT checkedDevicesChanged();
 }
@@ -405,14 +405,14 @@ OVTreeModel::Device OVTreeModel::deviceOf(const QString &identity, const QJsonOb
     return device;
 }
 
-void OVTreeModel::notePlaces()
+void OVTreeModel::updatePositions()
 {
-    m_places.clear();
-    m_places.reserve(deviceCount());
+    m_positions.clear();
+    m_positions.reserve(deviceCount());
     for (int group = 0; group < m_groups.size(); ++group) {
         const QList<Device> &devices = m_groups.at(group).devices;
         for (int row = 0; row < devices.size(); ++row)
-            m_places.insert(devices.at(row).ipport, {group, row});
+            m_positions.insert(devices.at(row).ipport, {group, row});
     }
 }
 

@@ -175,14 +175,14 @@ private:
     [[nodiscard]] static bool isGroup(const QModelIndex &index) { return index.internalId() == 0; }
     [[nodiscard]] const Group &groupOf(const QModelIndex &device) const;
     [[nodiscard]] Device deviceOf(const QString &identity, const QJsonObject &row) const;
-    void takeMarks();
+    void updateMarks();
     [[nodiscard]] QVariantList readRows() const;
     void noteUsualPort(const QVariantList &rows);
     /// The group of a row; empty if the row is not shown.
     [[nodiscard]] QString groupNameOf(const QJsonObject &row, const QString &identity) const;
     void countFailed();
     void rememberDevices();
-    void notePlaces();
+    void updatePositions();
     void checkGroup(const QModelIndex &group, bool checked);
     void writeResult(const QModelIndex &device, int result);
     [[nodiscard]] QVariant groupData(const Group &group, int role) const;
@@ -200,6 +200,6 @@ private:
     QString m_filterType; ///< of the last resetItems(); empty before the first
     QString m_searchText;
     QList<Group> m_groups;
-    QMultiHash<QString, std::pair<int, int>> m_places; ///< group and row of each device, by ipport
+    QMultiHash<QString, std::pair<int, int>> m_positions; ///< group and row of each device, by ipport
     QHash<QString, Device> m_remembered; ///< checked states and results of hidden devices, by identity
 };

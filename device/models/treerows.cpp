@@ -27,11 +27,11 @@ void DeviceTreeRows::rebuild()
         const QString type = m_tree->data(index, OVTreeModel::NameRole).toString();
         m_groups.append({.devices = m_tree->rowCount(index), .isOpen = !m_closed.contains(type)});
     }
-    placeGroups();
+    numberGroups();
     endResetModel();
 }
 
-void DeviceTreeRows::placeGroups()
+void DeviceTreeRows::numberGroups()
 {
     m_rows = 0;
     for (Group &group : m_groups) {
@@ -40,20 +40,20 @@ void DeviceTreeRows::placeGroups()
     }
 }
 
-std::optional<DeviceTreeRows::Place> DeviceTreeRows::placeOf(int row) const
+std::optional<DeviceTreeRows::Position> DeviceTreeRows::positionOf(int row) const
 {
     if (row < 0 || row >= m_rows)
         return std::nullopt;
     const auto next = std::upper_bound(m_groups.cbegin(), m_groups.cend(), row,
                                        [](int wanted, const Group &group) { return wanted < group.row; });
     const auto group = std::prev(next);
-    return Place{.group = static_cast<int>(group - m_groups.cbegin()), .device = row - group->row - 1};
+    return Position{.group = static_cast<int>(group - m_groups.cbegin()), .device = row - group->row - 1};
 }
 
-QModelIndex DeviceTreeRows::treeIndex(const Place &place) const
+QModelIndex DeviceTreeRows::treeIndex(const Position &position) const
 {
-    const QModelIndex group = m_tree->index(place.group, 0);
-    return place.device < 0 ? group : m_tree->index(place.device, 0, group);
+    const QModelIndex group = m_tree->index(position.group, 0);
+    return position.device < 0 ? group : m_tree->index(position.device, 0, group);
 }
 
 int DeviceTreeRows::rowCount(const QModelIndex &parent) const
@@ -63,12 +63,12 @@ int DeviceTreeRows::rowCount(const QModelIndex &parent) const
 
 QVariant DeviceTreeRows::data(const QModelIndex &index, int role) const
 {
-    const std::optional<Place> place = placeOf(index.row());
-    if (!place || !m_tree)
+    const std::optional<Position> position = positionOf(index.row());
+    if (!position || !m_tree)
         return {};
-    const bool isGroup = place->device < 0;
+    const bool isGroup = position->device < 0;
     const auto fromTree = [&](int treeRole) {
-        return m_tree->data(treeIndex(*place), treeRole);
+        return m_tree->data(treeIndex(*position), treeRole);
     };
     switch (role) {
     case Qt::DisplayRole:
@@ -85,9 +85,9 @@ QVariant DeviceTreeRows::data(const QModelIndex &index, int role) const
     case IsGroupRole:
         return isGroup;
     case IsOpenRole:
-        return isGroup && m_groups.at(place->group).isOpen;
+        return isGroup && m_groups.at(position->group).isOpen;
     case CountRole:
-        return isGroup ? m_groups.at(place->group).devices : 0;
+        return isGroup ? m_groups.at(position->group).devices : 0;
     case IdentityRole: // the prefix keeps the MAC of a device apart from the type of a group
         return (isGroup ? QStringLiteral("group ") : QStringLiteral("device ")) +
                fromTree(OVTreeModel::IdentityRole).toString();
@@ -117,13 +117,13 @@ QHash<int, QByteArray> DeviceTreeRows::roleNames() const
 
 void DeviceTreeRows::setOpen(int row, bool open)
 {
-    const std::optional<Place> place = placeOf(row);
-    if (!place || place->device >= 0 || !m_tree)
+    const std::optional<Position> position = positionOf(row);
+    if (!position || position->device >= 0 || !m_tree)
         return;
-    Group &group = m_groups[place->group];
+    Group &group = m_groups[position->group];
     if (group.isOpen == open)
         return;
-    const QString type = m_tree->data(treeIndex(*place), OVTreeModel::NameRole).toString();
+    const QString type = m_tree->data(treeIndex(*position), OVTreeModel::NameRole).toString();
     if (open) {
         m_closed.remove(type);
         beginInsertRows({}, row + 1, row + group.devices);
@@ -132,7 +132,7 @@ void DeviceTreeRows::setOpen(int row, bool open)
         beginRemoveRows({}, row + 1, row + group.devices);
     }
     group.isOpen = open;
-    placeGroups();
+    numberGroups();
     if (open)
         endInsertRows();
     else
@@ -147,12 +147,12 @@ void DeviceTreeRows::toggleOpen(int row)
 
 void DeviceTreeRows::toggleTick(int row)
 {
-    const std::optional<Place> place = placeOf(row);
-    if (!place || !m_tree)
+    const std::optional<Position> position = positionOf(row);
+    if (!position || !m_tree)
         return;
-    const QModelIndex index = treeIndex(*place);
-    const bool isWhole = m_tree->data(index, OVTreeModel::IsCheckedRole).toInt() == Qt::Checked;
-    m_tree->setData(index, !isWhole, OVTreeModel::IsCheckedRole);
+    const QModelIndex index = treeIndex(*position);
+    const bool isFullyChecked = m_tree->data(index, OVTreeModel::IsCheckedRole).toInt() == Qt::Checked;
+    m_tree->setData(index, !isFullyChecked, OVTreeModel::IsCheckedRole);
 }
 
 int DeviceTreeRows::rowOf(const QString &identity) const
@@ -165,8 +165,8 @@ int DeviceTreeRows::rowOf(const QString &identity) const
 
 QString DeviceTreeRows::deviceAt(int row) const
 {
-    const std::optional<Place> place = placeOf(row);
-    return place && place->device >= 0 ? data(index(row), TitleRole).toString() : QString();
+    const std::optional<Position> position = positionOf(row);
+    return position && position->device >= 0 ? data(index(row), TitleRole).toString() : QString();
 }
 
 QString DeviceTreeRows::identityAt(int row) const
@@ -176,9 +176,9 @@ QString DeviceTreeRows::identityAt(int row) const
 
 QString DeviceTreeRows::nameAt(int row) const
 {
-    const std::optional<Place> place = placeOf(row);
-    return place && place->device >= 0 && m_tree
-               ? m_tree->data(treeIndex(*place), OVTreeModel::IdentityRole).toString()
+    const std::optional<Position> position = positionOf(row);
+    return position && position->device >= 0 && m_tree
+               ? m_tree->data(treeIndex(*position), OVTreeModel::IdentityRole).toString()
                : QString();
 }
 
@@ -206,8 +206,8 @@ int DeviceTreeRows::deviceAfter(const QString &ipport) const
 
 int DeviceTreeRows::groupRowOf(int row) const
 {
-    const std::optional<Place> place = placeOf(row);
-    return place ? m_groups.at(place->group).row : -1;
+    const std::optional<Position> position = positionOf(row);
+    return position ? m_groups.at(position->group).row : -1;
 }
 
 void DeviceTreeRows::forward(const QModelIndex &first, const QModelIndex &last)

@@ -82,17 +82,17 @@ private:
         int devices = 0;
         bool isOpen = true;
     };
-    struct Place
+    struct Position
     {
         int group = 0;
         int device = -1; ///< in the group; -1 for the group itself
     };
 
     void rebuild();
-    void placeGroups(); ///< recomputes the rows of the groups
+    void numberGroups(); ///< recomputes the rows of the groups
     void forward(const QModelIndex &first, const QModelIndex &last);
-    [[nodiscard]] std::optional<Place> placeOf(int row) const;
-    [[nodiscard]] QModelIndex treeIndex(const Place &place) const;
+    [[nodiscard]] std::optional<Position> positionOf(int row) const;
+    [[nodiscard]] QModelIndex treeIndex(const Position &position) const;
 
     QPointer<OVTreeModel> m_tree;
     QList<Group> m_groups;

@@ -51,7 +51,7 @@ QVariantList WatchedDevices::add(const QVariantList &rows)
     for (const QVariant &value : rows) {
         const QVariantMap row = value.toMap();
         const QString ipport = row.value(DeviceRowKey::ipport).toString();
-        if (ipport == m_first.ipport || placeOf(ipport) >= 0)
+        if (ipport == m_first.ipport || positionOf(ipport) >= 0)
             continue;
         if (m_further.size() + added.size() >= most()) {
             ++m_leftOut;
@@ -86,24 +86,24 @@ QVariantList WatchedDevices::add(const QVariantList &rows)
 
 void WatchedDevices::setChannels(const QString &ipport, QObject *companion, const QVariantList &channels)
 {
-    const qsizetype place = placeOf(ipport);
-    if (place < 0)
+    const qsizetype position = positionOf(ipport);
+    if (position < 0)
         return;
-    m_further[place].companion = companion;
-    m_further[place].channels = channels;
+    m_further[position].companion = companion;
+    m_further[position].channels = channels;
     gather();
 }
 
 void WatchedDevices::remove(const QString &ipport)
 {
-    const qsizetype place = placeOf(ipport);
-    if (place < 0)
+    const qsizetype position = positionOf(ipport);
+    if (position < 0)
         return;
-    m_further[place].channels.clear();
+    m_further[position].channels.clear();
     gather();
-    const int row = static_cast<int>(place);
+    const int row = static_cast<int>(position);
     beginRemoveRows({}, row, row);
-    m_further.removeAt(place);
+    m_further.removeAt(position);
     endRemoveRows();
     Q_EMIT countChanged();
     gather(); // a single device has no heading
@@ -127,20 +127,20 @@ void WatchedDevices::readNames()
 {
     if (!m_deviceFactory)
         return;
-    for (qsizetype place = 0; place < m_further.size(); ++place) {
-        Device &device = m_further[place];
+    for (qsizetype position = 0; position < m_further.size(); ++position) {
+        Device &device = m_further[position];
         const QVariantMap row = m_deviceFactory->getDeviceInfo(dhFamily, device.ipport);
         const QString name = row.value(DeviceRowKey::name).toString();
         if (name.isEmpty() || name == device.name)
             continue;
         device.name = name;
-        const QModelIndex changed = index(static_cast<int>(place));
+        const QModelIndex changed = index(static_cast<int>(position));
         Q_EMIT dataChanged(changed, changed, {NameRole});
     }
     gather();
 }
 
-qsizetype WatchedDevices::placeOf(const QString &ipport) const
+qsizetype WatchedDevices::positionOf(const QString &ipport) const
 {
     const auto device = std::find_if(m_further.cbegin(), m_further.cend(),
                                      [&](const Device &known) { return known.ipport == ipport; });

@@ -66,7 +66,7 @@ private:
     };
 
     [[nodiscard]] qsizetype
-    placeOf(const QString &ipport) const; ///< row; -1 if it is not an additional device
+    positionOf(const QString &ipport) const; ///< row; -1 if it is not an additional device
     [[nodiscard]] QString titleOf(const Device &device) const;
     void gather();
 

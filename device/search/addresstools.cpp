@@ -26,10 +26,10 @@ bool AddressTools::mayBecomeAddress(const QString &text) const
 bool AddressTools::mayBecomeMask(const QString &text) const
 {
     const QString wanted = text.trimmed();
-    bool isBeginning = isLegalMask(wanted); // accepts leading zeros
-    for (int hosts = 1; hosts < 32 && !isBeginning; ++hosts)
-        isBeginning = ipv4Text(~((std::uint32_t(1) << hosts) - 1)).startsWith(wanted);
-    return isBeginning;
+    bool isPrefix = isLegalMask(wanted); // accepts leading zeros
+    for (int hosts = 1; hosts < 32 && !isPrefix; ++hosts)
+        isPrefix = ipv4Text(~((std::uint32_t(1) << hosts) - 1)).startsWith(wanted);
+    return isPrefix;
 }
 
 double AddressTools::toNumber(const QString &text) const
@@ -59,14 +59,14 @@ QString AddressTools::gatewayAfterEdit(const QString &before, const QString &aft
     };
     if (now.size() > octetCount || octets.size() > octetCount || !std::ranges::all_of(now, isOctet))
         return gateway;
-    for (qsizetype place = 0; place < now.size(); ++place) {
-        const bool last = place == octetCount - 1;
-        const bool changed = now.at(place) != old.value(place);
-        const QString octet = last && !now.at(place).isEmpty() ? QStringLiteral("1") : now.at(place);
-        if (place >= octets.size())
+    for (qsizetype index = 0; index < now.size(); ++index) {
+        const bool last = index == octetCount - 1;
+        const bool changed = now.at(index) != old.value(index);
+        const QString octet = last && !now.at(index).isEmpty() ? QStringLiteral("1") : now.at(index);
+        if (index >= octets.size())
             octets.append(octet);
         else if (changed)
-            octets[place] = octet;
+            octets[index] = octet;
     }
     return octets.join(point);
 }
@@ -100,7 +100,7 @@ QString AddressTools::plainAddress(const QString &text) const
     return address ? ipv4Text(*address) : text;
 }
 
-AddressTools::RangeFault AddressTools::searchRangeFault(const QString &begin, const QString &end) const
+AddressTools::RangeError AddressTools::searchRangeError(const QString &begin, const QString &end) const
 {
-    return static_cast<RangeFault>(::searchRangeFault(begin, end));
+    return static_cast<RangeError>(::searchRangeError(begin, end));
 }

@@ -7,8 +7,8 @@ class AddressTools : public QObject
 {
     Q_OBJECT
 public:
-    /// Error of a search range; the values of SearchRangeFault for QML.
-    enum RangeFault
+    /// Error of a search range; the values of SearchRangeError for QML.
+    enum RangeError
     {
         NoFault = 0,
         BeginAboveEnd = 1,
@@ -16,7 +16,7 @@ public:
         BeginIsNoAddress = 3,
         EndIsNoAddress = 4,
     };
-    Q_ENUM(RangeFault)
+    Q_ENUM(RangeError)
 
     explicit AddressTools(QObject *parent = nullptr) : QObject(parent) {}
 
@@ -49,5 +49,5 @@ public:
     Q_INVOKABLE [[nodiscard]] QString plainAddress(const QString &text) const;
 
     /// Checks the bounds of a search range.
-    Q_INVOKABLE [[nodiscard]] RangeFault searchRangeFault(const QString &begin, const QString &end) const;
+    Q_INVOKABLE [[nodiscard]] RangeError searchRangeError(const QString &begin, const QString &end) const;
 };

@@ -196,21 +196,21 @@ void DeviceRefresh::run(const QHash<QString, QString> &devices, int attempts, co
     for (int attempt = 0; attempt < attempts; ++attempt) {
         const std::vector<sdk::SearchByAddressesRequest> requests = waiting.requests();
         std::atomic<std::size_t> next = 0;
-        const auto askInTurn = [&] {
-            for (std::size_t place = next++; place < requests.size() && !stop.stop_requested();
-                 place = next++) {
+        const auto sendRequests = [&] {
+            for (std::size_t index = next++; index < requests.size() && !stop.stop_requested();
+                 index = next++) {
                 if (attempt % 2 == 0)
-                    net.NetSearchDevicesByIPs(requests[place], &ResponseReceiver::handle, &receiver,
+                    net.NetSearchDevicesByIPs(requests[index], &ResponseReceiver::handle, &receiver,
                                               anyInterface, refreshAddressesWait);
                 else
-                    net.NetSearchDevicesByIPsEx(requests[place], &ResponseReceiver::handle, &receiver,
+                    net.NetSearchDevicesByIPsEx(requests[index], &ResponseReceiver::handle, &receiver,
                                                 anyInterface, refreshAddressesWait);
             }
         };
         std::vector<std::jthread> others; // joined at the end of the attempt
         for (std::size_t count = 1; count < std::min(requests.size(), requestsAtOnce); ++count)
-            others.emplace_back(askInTurn);
-        askInTurn();
+            others.emplace_back(sendRequests);
+        sendRequests();
     }
     if (waiting.isEmpty() || stop.stop_requested())
         return;

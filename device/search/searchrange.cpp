@@ -5,20 +5,20 @@
 
 #include <algorithm>
 
-SearchRangeFault searchRangeFault(QStringView begin, QStringView end)
+SearchRangeError searchRangeError(QStringView begin, QStringView end)
 {
     const std::optional<std::uint32_t> first = ipv4Number(begin);
     if (!first)
-        return SearchRangeFault::BeginIsNoAddress;
+        return SearchRangeError::BeginIsNoAddress;
     const std::optional<std::uint32_t> last = ipv4Number(end);
     if (!last)
-        return SearchRangeFault::EndIsNoAddress;
+        return SearchRangeError::EndIsNoAddress;
     if (*first > *last)
-        return SearchRangeFault::BeginAboveEnd;
+        return SearchRangeError::BeginAboveEnd;
     const bool samePrefix = *first >> 16 == *last >> 16;
     if (!samePrefix || ipv4Octet(*last, 2) - ipv4Octet(*first, 2) > maximumSegmentDistance)
-        return SearchRangeFault::TooManySegments;
-    return SearchRangeFault::None;
+        return SearchRangeError::TooManySegments;
+    return SearchRangeError::None;
 }
 
 std::vector<sdk::SearchByAddressesRequest> searchRequests(const SearchRange &range)

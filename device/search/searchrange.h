@@ -16,7 +16,7 @@ struct SearchRange
 };
 
 /// Error of a range that the user entered. The numbers are those of the messages.
-enum class SearchRangeFault
+enum class SearchRangeError
 {
     None = 0,
     BeginAboveEnd = 1,
@@ -29,8 +29,8 @@ enum class SearchRangeFault
 inline constexpr int maximumSegmentDistance = 16;
 
 /// Checks the bounds of a range. Returns the first error in the order in which the user sees them.
-[[nodiscard]] SearchRangeFault searchRangeFault(QStringView begin, QStringView end);
+[[nodiscard]] SearchRangeError searchRangeError(QStringView begin, QStringView end);
 
 /// The requests for a range, one for each /24 block. Empty if a bound is zero or octet 3 of the end is less
-/// than that of the begin. Octets 1 and 2 are not compared: the range must have passed searchRangeFault().
+/// than that of the begin. Octets 1 and 2 are not compared: the range must have passed searchRangeError().
 [[nodiscard]] std::vector<sdk::SearchByAddressesRequest> searchRequests(const SearchRange &range);

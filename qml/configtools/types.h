@@ -6,7 +6,7 @@
 #include "device/batch/batchhistory.h"
 #include "device/batch/batchpreview.h"
 #include "device/batch/batchresultmodel.h"
-#include "device/batch/firstpasswordpreview.h"
+#include "device/batch/initialisationpreview.h"
 #include "device/batch/nameplan.h"
 #include "device/batch/upgradepreview.h"
 #include "device/models/accountlist.h"
@@ -98,11 +98,11 @@ struct BatchPreviewForeign
     QML_NAMED_ELEMENT(BatchPreview)
 };
 
-struct FirstPasswordPreviewForeign
+struct InitialisationPreviewForeign
 {
     Q_GADGET
-    QML_FOREIGN(FirstPasswordPreview)
-    QML_NAMED_ELEMENT(FirstPasswordPreview)
+    QML_FOREIGN(InitialisationPreview)
+    QML_NAMED_ELEMENT(InitialisationPreview)
 };
 
 struct UpgradePreviewForeign

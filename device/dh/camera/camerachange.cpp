@@ -19,9 +19,9 @@ bool CameraChange::number(sdk::ValueRange range, std::int32_t &field) const
     return true;
 }
 
-bool CameraChange::slider(sdk::ValueRange told, std::int32_t &field) const
+bool CameraChange::slider(sdk::ValueRange reported, std::int32_t &field) const
 {
-    return number(usableRange(told), field);
+    return number(usableRange(reported), field);
 }
 
 bool CameraChange::choice(const OfferedValues &offered, std::int32_t &field) const

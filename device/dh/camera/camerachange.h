@@ -16,12 +16,12 @@ struct CameraChange
 
     [[nodiscard]] bool is(QLatin1StringView name) const { return subKey == name; }
     [[nodiscard]] bool isPlain() const { return subKey.isEmpty() || is(CameraSetting::value); }
-    [[nodiscard]] CameraLists lists() const { return {tables, state.capabilities}; }
+    [[nodiscard]] CameraOptions options() const { return {tables, state.capabilities}; }
 
     // Each of these functions converts `value` and writes it to `field`. It returns false, and leaves `field`
     // unchanged, if `value` is invalid. Numbers are clamped to `range`; slider() clamps to usableRange().
     [[nodiscard]] bool number(sdk::ValueRange range, std::int32_t &field) const;
-    [[nodiscard]] bool slider(sdk::ValueRange told, std::int32_t &field) const;
+    [[nodiscard]] bool slider(sdk::ValueRange reported, std::int32_t &field) const;
     [[nodiscard]] bool choice(const OfferedValues &offered, std::int32_t &field) const;
     [[nodiscard]] bool oneOf(std::span<const int> numbers, std::int32_t &field) const;
     [[nodiscard]] bool shutter(float &field) const; ///< exposure time in milliseconds

@@ -82,8 +82,8 @@ Writes changeExposure(const Change &change)
     }
     const bool isChanged =
         (change.is(CameraSetting::antiFlicker) &&
-         change.choice(change.lists().antiFlickerTypes, item.antiFlicker)) ||
-        (change.isPlain() && change.choice(change.lists().exposureTypes, item.exposure)) ||
+         change.choice(change.options().antiFlickerTypes, item.antiFlicker)) ||
+        (change.isPlain() && change.choice(change.options().exposureTypes, item.exposure)) ||
         (change.is(CameraSetting::shortestShutter) && change.shutter(item.shortestShutter)) ||
         (change.is(CameraSetting::longestShutter) && change.shutter(item.longestShutter)) ||
         (change.is(CameraSetting::gainValue) && change.slider(gain, item.gain)) ||
@@ -115,7 +115,7 @@ Writes changeBackLight(const Change &change)
     CameraState &state = change.state;
     sdk::BackLightItem &item = state.backLight;
     const bool isChanged =
-        (change.is(CameraSetting::backmode) && change.choice(change.lists().backModes, item.backMode)) ||
+        (change.is(CameraSetting::backmode) && change.choice(change.options().backModes, item.backMode)) ||
         (change.is(CameraSetting::backlightmode) && change.number(flags, item.backLightMode)) ||
         (change.is(CameraSetting::wideDynamic) &&
          change.slider(state.capabilities.wideDynamic, item.wideDynamic)) ||
@@ -142,7 +142,7 @@ Writes changeWhiteBalance(const Change &change)
     sdk::WhiteBalanceItem &item = change.state.whiteBalance;
     const sdk::ValueRange range = change.state.capabilities.whiteBalanceGain;
     return when((change.is(CameraSetting::whiteBalanceType) &&
-                 change.choice(change.lists().whiteBalanceTypes, item.type)) ||
+                 change.choice(change.options().whiteBalanceTypes, item.type)) ||
                     (change.is(CameraSetting::gainBlue) && change.slider(range, item.gainBlue)) ||
                     (change.is(CameraSetting::gainRed) && change.slider(range, item.gainRed)),
                 {CameraWrite::WhiteBalance});
@@ -153,7 +153,8 @@ Writes changeDayNight(const Change &change)
     CameraState &state = change.state;
     sdk::DayNightItem &item = state.dayNight;
     const bool isChanged =
-        (change.is(CameraSetting::dayNightType) && change.choice(change.lists().dayNightTypes, item.type)) ||
+        (change.is(CameraSetting::dayNightType) &&
+         change.choice(change.options().dayNightTypes, item.type)) ||
         (change.is(CameraSetting::sensitivity) && change.number(sensitivities, item.sensitivity)) ||
         (change.is(CameraSetting::switchDelay) && change.number(switchDelays, item.switchDelay));
     if (isChanged) { // the mode of the second copy is selected separately
@@ -175,7 +176,7 @@ Writes changeDefog(const Change &change)
 {
     CameraState &state = change.state;
     return when((change.is(CameraSetting::defogMode) &&
-                 change.choice(change.lists().defogModes, state.defog.defogMode)) ||
+                 change.choice(change.options().defogModes, state.defog.defogMode)) ||
                     (change.is(CameraSetting::intensity) &&
                      change.slider(state.capabilities.defogIntensity, state.defog.intensity)),
                 {CameraWrite::Defog});
@@ -186,7 +187,7 @@ Writes changeLight(const Change &change)
     sdk::LightItem &item = change.state.light;
     const sdk::ValueRange range = change.state.capabilities.light;
     return when((change.is(CameraSetting::controlMode) &&
-                 change.choice(change.lists().lightControls, item.controlMode)) ||
+                 change.choice(change.options().lightControls, item.controlMode)) ||
                     (change.is(CameraSetting::lightMode) && change.number(lightModes, item.lightMode)) ||
                     (change.is(CameraSetting::nearLight) && change.slider(range, item.nearLight)) ||
                     (change.is(CameraSetting::farLight) && change.slider(range, item.farLight)) ||
@@ -201,8 +202,8 @@ Writes changeMixedLight(const Change &change)
     const sdk::ValueRange range = state.capabilities.mixedLight;
     const bool isChanged =
         (change.is(CameraSetting::controlMode) &&
-         change.choice(change.lists().lightControls, item.controlMode)) ||
-        (change.is(CameraSetting::mixMode) && change.choice(change.lists().mixedLights, item.mixMode)) ||
+         change.choice(change.options().lightControls, item.controlMode)) ||
+        (change.is(CameraSetting::mixMode) && change.choice(change.options().mixedLights, item.mixMode)) ||
         (change.is(CameraSetting::lightMode) && change.number(lightModes, item.lightMode)) ||
         (change.is(CameraSetting::sensitive) && change.oneOf(mixedSensitivities, item.sensitive)) ||
         (change.is(CameraSetting::correction) && change.slider(range, item.correction)) ||

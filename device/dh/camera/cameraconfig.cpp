@@ -13,7 +13,7 @@ void CameraConfig::begin(const ConfigSession &session)
     m_state = {};
 }
 
-void CameraConfig::forgetItems()
+void CameraConfig::markItemsUnread()
 {
     m_state.unreadGroups = CameraState::allGroups;
     m_state.isColorKnown = m_state.isLightingKnown = m_state.isChannelNameRead = false;
@@ -38,8 +38,8 @@ int CameraConfig::readCapabilities(int channel)
         break;
     }
     // If the camera does not have the selected mode, its first mode is selected.
-    const OfferedValues modes = CameraLists(m_tables, m_state.capabilities).switchModes;
-    if (modes.placeOf(static_cast<int>(m_state.mode)) < 0)
+    const OfferedValues modes = CameraOptions(m_tables, m_state.capabilities).switchModes;
+    if (modes.indexOf(static_cast<int>(m_state.mode)) < 0)
         m_state.mode = static_cast<sdk::CameraMode>(modes.valueAt(0).value_or(0));
     return result;
 }
@@ -54,11 +54,11 @@ QVariant CameraConfig::value(const QString &key) const
     return cameraValue(key, m_state, m_tables);
 }
 
-void CameraConfig::chooseMode(const QVariant &place)
+void CameraConfig::chooseMode(const QVariant &index)
 {
     bool isNumber = false;
-    const int number = place.toInt(&isNumber);
-    const std::optional<int> mode = CameraLists(m_tables, m_state.capabilities).switchModes.valueAt(number);
+    const int number = index.toInt(&isNumber);
+    const std::optional<int> mode = CameraOptions(m_tables, m_state.capabilities).switchModes.valueAt(number);
     if (!isNumber || !mode || m_state.mode == static_cast<sdk::CameraMode>(*mode))
         return;
     m_state.mode = static_cast<sdk::CameraMode>(*mode);

@@ -29,7 +29,7 @@ public:
 
     /// Marks all items as not read, after another channel was selected. readCapabilities() and readItems()
     /// read them.
-    void forgetItems();
+    void markItemsUnread();
 
     /// Reads the configuration "VideoColor" of a channel.
     void readColor(int channel);
@@ -50,7 +50,7 @@ public:
 private:
     /// Reads the values again after some of several writes have failed.
     Outcome takeFailure(int channel, CameraState &changed);
-    void chooseMode(const QVariant &place);
+    void chooseMode(const QVariant &index);
 
     const ValueTables &m_tables;
     ConfigSession m_session;

@@ -12,16 +12,16 @@ OfferedValues::OfferedValues(const QStringList &names, std::uint32_t mask)
     }
 }
 
-std::optional<int> OfferedValues::valueAt(int place) const
+std::optional<int> OfferedValues::valueAt(int index) const
 {
-    return place >= 0 && place < m_values.size() ? std::optional(m_values.at(place)) : std::nullopt;
+    return index >= 0 && index < m_values.size() ? std::optional(m_values.at(index)) : std::nullopt;
 }
 
 namespace {
 
 class CameraTexts
 {
-    Q_DECLARE_TR_FUNCTIONS(CameraLists)
+    Q_DECLARE_TR_FUNCTIONS(CameraOptions)
 public:
     static QStringList antiFlicker() { return {tr("室外"), QStringLiteral("50Hz"), QStringLiteral("60Hz")}; }
     static QStringList exposure() { return {tr("自动"), tr("手动"), tr("增益优先"), tr("快门优先")}; }

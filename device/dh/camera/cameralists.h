@@ -18,10 +18,10 @@ public:
     [[nodiscard]] const QStringList &names() const { return m_names; }
 
     /// The index of a value; -1 if it is not offered.
-    [[nodiscard]] int placeOf(int value) const { return static_cast<int>(m_values.indexOf(value)); }
+    [[nodiscard]] int indexOf(int value) const { return static_cast<int>(m_values.indexOf(value)); }
 
     /// The value at an index; nullopt if the index is out of range.
-    [[nodiscard]] std::optional<int> valueAt(int place) const;
+    [[nodiscard]] std::optional<int> valueAt(int index) const;
 
 private:
     QStringList m_names;

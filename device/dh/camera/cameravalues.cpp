@@ -17,13 +17,13 @@ QVariantMap groupMap(const CameraState &state, Group group)
             {CameraGroupKey::unread, state.has(group) && !state.supports(group)}};
 }
 
-QVariantMap rangeMap(sdk::ValueRange told)
+QVariantMap rangeMap(sdk::ValueRange reported)
 {
-    const sdk::ValueRange range = usableRange(told);
+    const sdk::ValueRange range = usableRange(reported);
     return {{CameraGroupKey::min, range.minimum}, {CameraGroupKey::max, range.maximum}};
 }
 
-QVariant picture(const CameraState &state, const CameraLists &)
+QVariant picture(const CameraState &state, const CameraOptions &)
 {
     const sdk::PictureItem &item = state.picture;
     const QVariantMap range = rangeMap(state.capabilities.picture);
@@ -42,7 +42,7 @@ QVariant picture(const CameraState &state, const CameraLists &)
     return map;
 }
 
-QVariant sharpness(const CameraState &state, const CameraLists &)
+QVariant sharpness(const CameraState &state, const CameraOptions &)
 {
     QVariantMap map = groupMap(state, Group::Sharpness);
     map.insert(CameraSetting::value, state.sharpness.sharpness);
@@ -51,7 +51,7 @@ QVariant sharpness(const CameraState &state, const CameraLists &)
     return map;
 }
 
-QVariant mirror(const CameraState &state, const CameraLists &)
+QVariant mirror(const CameraState &state, const CameraOptions &)
 {
     QVariantMap map = groupMap(state, Group::Mirror);
     map.insert(CameraSetting::value, state.mirror.mirror != 0);
@@ -60,22 +60,22 @@ QVariant mirror(const CameraState &state, const CameraLists &)
     return map;
 }
 
-QVariant stable(const CameraState &state, const CameraLists &)
+QVariant stable(const CameraState &state, const CameraOptions &)
 {
     QVariantMap map = groupMap(state, Group::Stable);
     map.insert(CameraSetting::value, state.stable.stable != 0);
     return map;
 }
 
-QVariant exposure(const CameraState &state, const CameraLists &lists)
+QVariant exposure(const CameraState &state, const CameraOptions &options)
 {
     const sdk::ExposureItem &item = state.exposure;
     const QVariantMap gain = rangeMap(state.capabilities.gain);
     QVariantMap map = groupMap(state, Group::Exposure);
-    map.insert(CameraSetting::allAntiFlickerType, lists.antiFlickerTypes.names());
-    map.insert(CameraSetting::antiFlicker, lists.antiFlickerTypes.placeOf(item.antiFlicker));
-    map.insert(CameraSetting::allExposureType, lists.exposureTypes.names());
-    map.insert(CameraSetting::value, lists.exposureTypes.placeOf(item.exposure));
+    map.insert(CameraSetting::allAntiFlickerType, options.antiFlickerTypes.names());
+    map.insert(CameraSetting::antiFlicker, options.antiFlickerTypes.indexOf(item.antiFlicker));
+    map.insert(CameraSetting::allExposureType, options.exposureTypes.names());
+    map.insert(CameraSetting::value, options.exposureTypes.indexOf(item.exposure));
     map.insert(CameraSetting::shortestShutter, static_cast<double>(item.shortestShutter));
     map.insert(CameraSetting::longestShutter, static_cast<double>(item.longestShutter));
     map.insert(CameraSetting::gainValue, item.gain);
@@ -96,12 +96,12 @@ QVariant exposure(const CameraState &state, const CameraLists &lists)
     return map;
 }
 
-QVariant backMode(const CameraState &state, const CameraLists &lists)
+QVariant backMode(const CameraState &state, const CameraOptions &options)
 {
     const sdk::BackLightItem &item = state.backLight;
     QVariantMap map = groupMap(state, Group::BackLight);
-    map.insert(CameraSetting::allBackModeType, lists.backModes.names());
-    map.insert(CameraSetting::backmode, lists.backModes.placeOf(item.backMode));
+    map.insert(CameraSetting::allBackModeType, options.backModes.names());
+    map.insert(CameraSetting::backmode, options.backModes.indexOf(item.backMode));
     map.insert(CameraSetting::backlightmode, item.backLightMode);
     map.insert(CameraSetting::wideDynamic, item.wideDynamic);
     map.insert(CameraSetting::glareInhibition, item.glareInhibition);
@@ -115,12 +115,12 @@ QVariant backMode(const CameraState &state, const CameraLists &lists)
     return map;
 }
 
-QVariant whiteBalance(const CameraState &state, const CameraLists &lists)
+QVariant whiteBalance(const CameraState &state, const CameraOptions &options)
 {
     const QVariantMap range = rangeMap(state.capabilities.whiteBalanceGain);
     QVariantMap map = groupMap(state, Group::WhiteBalance);
-    map.insert(CameraSetting::allType, lists.whiteBalanceTypes.names());
-    map.insert(CameraSetting::whiteBalanceType, lists.whiteBalanceTypes.placeOf(state.whiteBalance.type));
+    map.insert(CameraSetting::allType, options.whiteBalanceTypes.names());
+    map.insert(CameraSetting::whiteBalanceType, options.whiteBalanceTypes.indexOf(state.whiteBalance.type));
     map.insert(CameraSetting::gainBlue, state.whiteBalance.gainBlue);
     map.insert(CameraSetting::gainRed, state.whiteBalance.gainRed);
     map.insert(CameraGroupKey::ranges,
@@ -128,34 +128,34 @@ QVariant whiteBalance(const CameraState &state, const CameraLists &lists)
     return map;
 }
 
-QVariant dayNight(const CameraState &state, const CameraLists &lists)
+QVariant dayNight(const CameraState &state, const CameraOptions &options)
 {
     QVariantMap map = groupMap(state, Group::DayNight);
-    map.insert(CameraSetting::allDayNightType, lists.dayNightTypes.names());
-    map.insert(CameraSetting::dayNightType, lists.dayNightTypes.placeOf(state.dayNight.type));
+    map.insert(CameraSetting::allDayNightType, options.dayNightTypes.names());
+    map.insert(CameraSetting::dayNightType, options.dayNightTypes.indexOf(state.dayNight.type));
     map.insert(CameraSetting::sensitivity, state.dayNight.sensitivity);
     map.insert(CameraSetting::switchDelay, state.dayNight.switchDelay);
     return map;
 }
 
-QVariant inDefog(const CameraState &state, const CameraLists &lists)
+QVariant inDefog(const CameraState &state, const CameraOptions &options)
 {
     QVariantMap map = groupMap(state, Group::Defog);
-    map.insert(CameraSetting::allInDefogType, lists.defogModes.names());
-    map.insert(CameraSetting::defogMode, lists.defogModes.placeOf(state.defog.defogMode));
+    map.insert(CameraSetting::allInDefogType, options.defogModes.names());
+    map.insert(CameraSetting::defogMode, options.defogModes.indexOf(state.defog.defogMode));
     map.insert(CameraSetting::intensity, state.defog.intensity);
     map.insert(CameraGroupKey::ranges,
                QVariantMap{{CameraSetting::intensity, rangeMap(state.capabilities.defogIntensity)}});
     return map;
 }
 
-QVariant lightControl(const CameraState &state, const CameraLists &lists)
+QVariant lightControl(const CameraState &state, const CameraOptions &options)
 {
     const sdk::LightItem &item = state.light;
     const QVariantMap range = rangeMap(state.capabilities.light);
     QVariantMap map = groupMap(state, Group::Light);
-    map.insert(CameraSetting::allLightControlType, lists.lightControls.names());
-    map.insert(CameraSetting::controlMode, lists.lightControls.placeOf(item.controlMode));
+    map.insert(CameraSetting::allLightControlType, options.lightControls.names());
+    map.insert(CameraSetting::controlMode, options.lightControls.indexOf(item.controlMode));
     map.insert(CameraSetting::lightMode, item.lightMode);
     map.insert(CameraSetting::nearLight, item.nearLight);
     map.insert(CameraSetting::farLight, item.farLight);
@@ -166,15 +166,15 @@ QVariant lightControl(const CameraState &state, const CameraLists &lists)
     return map;
 }
 
-QVariant lightControlEx(const CameraState &state, const CameraLists &lists)
+QVariant lightControlEx(const CameraState &state, const CameraOptions &options)
 {
     const sdk::MixedLightItem &item = state.mixedLight;
     const QVariantMap range = rangeMap(state.capabilities.mixedLight);
     QVariantMap map = groupMap(state, Group::MixedLight);
-    map.insert(CameraSetting::allLightControlType, lists.lightControls.names());
-    map.insert(CameraSetting::controlMode, lists.lightControls.placeOf(item.controlMode));
-    map.insert(CameraSetting::allmixLightType, lists.mixedLights.names());
-    map.insert(CameraSetting::mixMode, lists.mixedLights.placeOf(item.mixMode));
+    map.insert(CameraSetting::allLightControlType, options.lightControls.names());
+    map.insert(CameraSetting::controlMode, options.lightControls.indexOf(item.controlMode));
+    map.insert(CameraSetting::allmixLightType, options.mixedLights.names());
+    map.insert(CameraSetting::mixMode, options.mixedLights.indexOf(item.mixMode));
     map.insert(CameraSetting::lightMode, item.lightMode);
     map.insert(CameraSetting::sensitive, item.sensitive);
     map.insert(CameraSetting::correction, item.correction);
@@ -185,7 +185,7 @@ QVariant lightControlEx(const CameraState &state, const CameraLists &lists)
     return map;
 }
 
-using ValueOf = QVariant (*)(const CameraState &, const CameraLists &);
+using ValueOf = QVariant (*)(const CameraState &, const CameraOptions &);
 
 const QHash<QString, ValueOf> &values()
 {
@@ -202,46 +202,46 @@ const QHash<QString, ValueOf> &values()
         {CameraKey::lightControl, &lightControl},
         {CameraKey::lightControlEx, &lightControlEx},
         {CameraKey::allSwitchMode,
-         [](const CameraState &, const CameraLists &lists) {
-             return QVariant(lists.switchModes.names());
+         [](const CameraState &, const CameraOptions &options) {
+             return QVariant(options.switchModes.names());
          }},
         {CameraKey::curSwitchMode,
-         [](const CameraState &state, const CameraLists &lists) {
-             return QVariant(lists.switchModes.placeOf(static_cast<int>(state.mode)));
+         [](const CameraState &state, const CameraOptions &options) {
+             return QVariant(options.switchModes.indexOf(static_cast<int>(state.mode)));
          }},
         {CameraKey::curDayNightMode,
-         [](const CameraState &state, const CameraLists &) {
+         [](const CameraState &state, const CameraOptions &) {
              return QVariant(state.dayNightByMode.mode);
          }},
         {CameraKey::curBackLightMode,
-         [](const CameraState &state, const CameraLists &) {
+         [](const CameraState &state, const CameraOptions &) {
              return QVariant(state.backLightByMode.backMode);
          }},
         {CameraKey::curChannelName,
-         [](const CameraState &state, const CameraLists &) {
+         [](const CameraState &state, const CameraOptions &) {
              if (!state.isChannelNameRead)
                  return QVariant();
              const std::string_view name = sdk::blockText(state.channelName.name);
              return QVariant(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
          }},
         {CameraKey::curColorStyle,
-         [](const CameraState &state, const CameraLists &) {
+         [](const CameraState &state, const CameraOptions &) {
              return QVariant(state.colorOfMode().colorStyle);
          }},
         {CameraKey::curBrightness,
-         [](const CameraState &state, const CameraLists &) {
+         [](const CameraState &state, const CameraOptions &) {
              return QVariant(state.colorOfMode().brightness);
          }},
         {CameraKey::curContrast,
-         [](const CameraState &state, const CameraLists &) {
+         [](const CameraState &state, const CameraOptions &) {
              return QVariant(state.colorOfMode().contrast);
          }},
         {CameraKey::curSaturation,
-         [](const CameraState &state, const CameraLists &) {
+         [](const CameraState &state, const CameraOptions &) {
              return QVariant(state.colorOfMode().saturation);
          }},
         {CameraKey::curGamma,
-         [](const CameraState &state, const CameraLists &) {
+         [](const CameraState &state, const CameraOptions &) {
              return QVariant(state.colorOfMode().gamma);
          }},
     };
@@ -291,7 +291,7 @@ QStringList missingSettings(const QString &group, std::uint32_t missingValues)
 
 } // namespace
 
-CameraLists::CameraLists(const ValueTables &tables, const sdk::CameraCapabilities &capabilities)
+CameraOptions::CameraOptions(const ValueTables &tables, const sdk::CameraCapabilities &capabilities)
     : switchModes(tables.DayNightModeNames, capabilities.switchModeMask),
       antiFlickerTypes(CameraNames::antiFlickerTypes(), capabilities.antiFlickerMask),
       exposureTypes(CameraNames::exposureTypes(), capabilities.exposureMask),
@@ -304,10 +304,10 @@ CameraLists::CameraLists(const ValueTables &tables, const sdk::CameraCapabilitie
 {
 }
 
-sdk::ValueRange usableRange(sdk::ValueRange told)
+sdk::ValueRange usableRange(sdk::ValueRange reported)
 {
     constexpr sdk::ValueRange usual = {0, 100};
-    return told.minimum < told.maximum ? told : usual;
+    return reported.minimum < reported.maximum ? reported : usual;
 }
 
 QVariant cameraValue(const QString &key, const CameraState &state, const ValueTables &tables)
@@ -315,7 +315,7 @@ QVariant cameraValue(const QString &key, const CameraState &state, const ValueTa
     const ValueOf valueOf = values().value(key, nullptr);
     if (!valueOf)
         return {};
-    QVariant value = valueOf(state, CameraLists(tables, state.capabilities));
+    QVariant value = valueOf(state, CameraOptions(tables, state.capabilities));
     const QStringList missing = missingSettings(key, state.capabilities.missingValues);
     if (missing.isEmpty())
         return value;

@@ -7,9 +7,9 @@
 #include <QVariant>
 
 /// The lists of choices of a camera.
-struct CameraLists
+struct CameraOptions
 {
-    CameraLists(const ValueTables &tables, const sdk::CameraCapabilities &capabilities);
+    CameraOptions(const ValueTables &tables, const sdk::CameraCapabilities &capabilities);
 
     OfferedValues switchModes;
     OfferedValues antiFlickerTypes;
@@ -23,7 +23,7 @@ struct CameraLists
 };
 
 /// A reported range if it is valid, otherwise 0 to 100.
-[[nodiscard]] sdk::ValueRange usableRange(sdk::ValueRange told);
+[[nodiscard]] sdk::ValueRange usableRange(sdk::ValueRange reported);
 
 /// The value of a key of the image page. Invalid for an unknown key, and for a channel name that was not
 /// read.

@@ -17,13 +17,13 @@ void ConfigurationPages::perform(const std::function<void(SessionOperations &ope
 {
     SessionRun run(m_session.state(), upgradeCheck(m_session.state().ipport));
     operations(run);
-    emitNews(run.takeNews());
+    emitSignals(run.takeSignals());
 }
 
-void ConfigurationPages::emitNews(const std::vector<SessionRun::News> &news)
+void ConfigurationPages::emitSignals(const std::vector<SessionRun::SignalCall> &calls)
 {
-    for (const SessionRun::News &piece : news)
-        m_signals.emitNow(piece);
+    for (const SessionRun::SignalCall &call : calls)
+        m_signals.emitNow(call);
 }
 
 std::function<bool()> ConfigurationPages::upgradeCheck(const QString &ipport) const
@@ -37,16 +37,16 @@ PageStep ConfigurationPages::step(const SessionJob &job)
 {
     return
         [this, job, state = std::make_shared<SessionState>(m_session.state())](const StepControl &control) {
-            const BatchEngine::Hold hold = m_hold.hold(state->ipport, control);
+            const BatchEngine::Reservation reservation = m_hold.reserve(state->ipport, control);
             if (control.isStopped())
                 return PageOutcome();
             SessionRun run(*state, upgradeCheck(state->ipport));
             const QVariant value = job(run, control);
-            return PageOutcome{.value = value, .take = [this, state, news = run.takeNews()] {
+            return PageOutcome{.value = value, .take = [this, state, calls = run.takeSignals()] {
                                    if (state->session.handle() != m_session.handle())
                                        return;
                                    m_session.setState(state);
-                                   emitNews(news);
+                                   emitSignals(calls);
                                }};
         };
 }

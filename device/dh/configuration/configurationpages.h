@@ -31,7 +31,7 @@ public:
     [[nodiscard]] QVariant value(const QString &key, const QVariant &channel) const;
 
 private:
-    void emitNews(const std::vector<SessionRun::News> &news);
+    void emitSignals(const std::vector<SessionRun::SignalCall> &calls);
     [[nodiscard]] std::function<bool()> upgradeCheck(const QString &ipport) const;
     [[nodiscard]] QVariantMap libraryValues() const;
 

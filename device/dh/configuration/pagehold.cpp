@@ -11,10 +11,10 @@ PageHold::PageHold(std::shared_ptr<DeviceStore> store, std::shared_ptr<BatchEngi
 {
 }
 
-BatchEngine::Hold PageHold::hold(const QString &ipport, const StepControl &control) const
+BatchEngine::Reservation PageHold::reserve(const QString &ipport, const StepControl &control) const
 {
     // An upgrade step takes minutes: callers refuse conflicting requests instead of waiting.
     if (m_isUpgradingAt(ipport))
         return {};
-    return m_engine->hold(workKey(m_store->rowAt(ipport), ipport, ipport), control.stopToken());
+    return m_engine->reserve(workKey(m_store->rowAt(ipport), ipport, ipport), control.stopToken());
 }

@@ -18,7 +18,7 @@ public:
 
     /// Reserves a device; blocks until its running batch step ends or `control` is stopped. Returns an empty
     /// reservation during an upgrade. Not on the main thread.
-    [[nodiscard]] BatchEngine::Hold hold(const QString &ipport, const StepControl &control) const;
+    [[nodiscard]] BatchEngine::Reservation reserve(const QString &ipport, const StepControl &control) const;
 
     /// Whether the firmware of the device is being upgraded.
     [[nodiscard]] bool isUpgradingAt(const QString &ipport) const { return m_isUpgradingAt(ipport); }

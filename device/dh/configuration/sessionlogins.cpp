@@ -72,7 +72,7 @@ int SessionLogins::findAndLogin(const QString &ipport, const QString &account, c
 PageStep SessionLogins::loginStep(const QString &ipport, const QString &account, const QString &password)
 {
     return [this, ipport, account, password](const StepControl &control) {
-        const BatchEngine::Hold hold = m_hold.hold(ipport, control);
+        const BatchEngine::Reservation reservation = m_hold.reserve(ipport, control);
         if (control.isStopped())
             return PageOutcome();
         const auto login = std::make_shared<UntakenLogin>(
@@ -109,7 +109,7 @@ QVariantMap SessionLogins::readDetail(const QString &ipport)
 PageStep SessionLogins::detailStep(const QString &ipport)
 {
     return [this, ipport, known = m_logins.accountAt(ipport)](const StepControl &control) {
-        const BatchEngine::Hold hold = m_hold.hold(ipport, control);
+        const BatchEngine::Reservation reservation = m_hold.reserve(ipport, control);
         if (control.isStopped())
             return PageOutcome();
         const SecureLogin login = m_logins.logIn(ipport, known);
@@ -188,7 +188,7 @@ void SessionLogins::openSession(const QString &ipport, const QString &account, c
 void SessionLogins::checkSession()
 {
     m_threads->start([this, handle = m_session.handle()] {
-        const bool answers = handle != 0 && answersInSession(ConfigSession(m_libraries, handle));
+        const bool answers = handle != 0 && respondsInSession(ConfigSession(m_libraries, handle));
         m_signals.queue(
             [this, answers] { m_signals.emitNow<&CDeviceBase::signalCDeviceSessionChecked>(answers); });
     });

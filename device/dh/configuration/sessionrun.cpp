@@ -26,21 +26,21 @@ SessionRun::SessionRun(SessionState &state, std::function<bool()> isUpgrading)
 {
 }
 
-std::vector<SessionRun::News> SessionRun::takeNews()
+std::vector<SessionRun::SignalCall> SessionRun::takeSignals()
 {
-    return std::exchange(m_news, {});
+    return std::exchange(m_signals, {});
 }
 
 void SessionRun::noteResult(int result)
 {
     m_isDeviceAway = m_isDeviceAway || isSessionLost(static_cast<std::uint32_t>(result));
-    note<&CDeviceBase::signalCDeviceGetDeviceCapRet>(result);
+    collect<&CDeviceBase::signalCDeviceGetDeviceCapRet>(result);
 }
 
 void SessionRun::noteUpgrading()
 {
-    note<&CDeviceBase::signalCDeviceConfirmEncodeConfig>(resultName(resultCode(LoginResult::Upgrading)) +
-                                                         u'\n');
+    collect<&CDeviceBase::signalCDeviceConfirmEncodeConfig>(resultName(resultCode(LoginResult::Upgrading)) +
+                                                            u'\n');
 }
 
 void SessionRun::getEncodeCaps()
@@ -54,7 +54,7 @@ void SessionRun::getEncodeCaps()
 void SessionRun::getEncodeInfo()
 {
     const int result = m_state.encode.read(m_state.channels);
-    note<&CDeviceBase::signalCDeviceChangeEncodeChannel>();
+    collect<&CDeviceBase::signalCDeviceChangeEncodeChannel>();
     noteResult(result);
 }
 
@@ -65,7 +65,7 @@ void SessionRun::confirmConfigData()
         return;
     }
     const EncodeConfig::Outcome outcome = m_state.encode.confirm(m_state.channels);
-    note<&CDeviceBase::signalCDeviceConfirmEncodeConfig>(outcome.notWritten);
+    collect<&CDeviceBase::signalCDeviceConfirmEncodeConfig>(outcome.notWritten);
     if (outcome.result != 0)
         noteResult(outcome.result);
 }
@@ -95,15 +95,15 @@ void SessionRun::setConfigData(const QString &key, const QVariant &value, const 
         const ChannelChoice before = m_state.channels;
         m_state.channels.choose(key, value);
         if (m_state.channels.curVideoChannel != before.curVideoChannel)
-            m_state.camera.forgetItems();
+            m_state.camera.markItemsUnread();
         if (m_state.channels.curChannel != before.curChannel ||
             m_state.channels.curStreamType != before.curStreamType)
-            m_state.encode.forgetItems();
+            m_state.encode.markItemsUnread();
     } else if (key == SessionKey::channelName) {
         writeChannelName(value.toString(), otype);
     } else if (key == SessionKey::channelNamesSaved) {
         if (m_state.names.endSaving())
-            note<&CDeviceBase::signalCDeviceSetChannelNameFinished>();
+            collect<&CDeviceBase::signalCDeviceSetChannelNameFinished>();
     } else if (EncodeValues::isKey(key)) {
         setEncodeValue(key, value);
     } else {
@@ -120,7 +120,7 @@ void SessionRun::setEncodeValue(const QString &key, const QVariant &value)
     }
     const EncodeConfig::Outcome outcome = m_state.encode.setValue(key, value, m_state.channels);
     if (!outcome.notWritten.isEmpty())
-        note<&CDeviceBase::signalCDeviceConfirmEncodeConfig>(outcome.notWritten);
+        collect<&CDeviceBase::signalCDeviceConfirmEncodeConfig>(outcome.notWritten);
     if (outcome.result != 0)
         noteResult(outcome.result);
 }
@@ -137,7 +137,7 @@ void SessionRun::getCameraConfig()
 void SessionRun::getVideoIn()
 {
     const int result = m_state.camera.readItems(m_state.channels.curVideoChannel);
-    note<&CDeviceBase::signalCDeviceChangeVideoType>();
+    collect<&CDeviceBase::signalCDeviceChangeVideoType>();
     if (result != 0)
         noteResult(result);
 }
@@ -145,7 +145,7 @@ void SessionRun::getVideoIn()
 void SessionRun::getVideoInByChangeChannel()
 {
     const int result = m_state.camera.readItems(m_state.channels.curVideoChannel);
-    note<&CDeviceBase::signalCDeviceChangeVideoChannel>();
+    collect<&CDeviceBase::signalCDeviceChangeVideoChannel>();
     if (result != 0)
         noteResult(result);
 }
@@ -161,7 +161,7 @@ void SessionRun::setCameraValue(const QString &key, const QVariant &value, const
             break;
         case CameraConfig::Outcome::Taken:
             if (key == CameraKey::curChannelName)
-                note<&CDeviceBase::signalCDeviceSetChannelNameFinished>();
+                collect<&CDeviceBase::signalCDeviceSetChannelNameFinished>();
             break;
         case CameraConfig::Outcome::Refused:
             failure = m_state.camera.lastError();
@@ -173,7 +173,7 @@ void SessionRun::setCameraValue(const QString &key, const QVariant &value, const
     }
     if (failure == 0)
         return;
-    note<&CDeviceBase::signalCDeviceChangeVideoType>(); // the page shows the device's values again
+    collect<&CDeviceBase::signalCDeviceChangeVideoType>(); // the page shows the device's values again
     noteResult(failure);
 }
 

@@ -30,16 +30,16 @@ public:
     [[nodiscard]] bool isDeviceAway() const override { return m_isDeviceAway; }
 
     /// Emits one signal of a back end with its arguments.
-    using News = BackEndSignals::Emission;
+    using SignalCall = BackEndSignals::Emission;
 
     /// Returns and clears the collected signals, in the order of the operations.
-    [[nodiscard]] std::vector<News> takeNews();
+    [[nodiscard]] std::vector<SignalCall> takeSignals();
 
 private:
     template<auto signal, typename... Arguments>
-    void note(const Arguments &...arguments)
+    void collect(const Arguments &...arguments)
     {
-        m_news.push_back(BackEndSignals::emission<signal>(arguments...));
+        m_signals.push_back(BackEndSignals::emission<signal>(arguments...));
     }
     /// Collects signalCDeviceGetDeviceCapRet with this result.
     void noteResult(int result);
@@ -52,6 +52,6 @@ private:
 
     SessionState &m_state;
     const std::function<bool()> m_isUpgrading;
-    std::vector<News> m_news;
+    std::vector<SignalCall> m_signals;
     bool m_isDeviceAway = false;
 };

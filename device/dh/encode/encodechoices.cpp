@@ -163,9 +163,9 @@ bool isH264Profile(int value)
 
 std::optional<CompressionChoice> compressionChoice(const ValueTables &tables, const QString &name)
 {
-    const int profilePlace = static_cast<int>(tables.H264ProfileNames.indexOf(name));
-    if (profilePlace >= 0)
-        return CompressionChoice{.code = sdk::compressionH264, .profile = profilePlace + 1};
+    const int profileIndex = static_cast<int>(tables.H264ProfileNames.indexOf(name));
+    if (profileIndex >= 0)
+        return CompressionChoice{.code = sdk::compressionH264, .profile = profileIndex + 1};
     const int code = static_cast<int>(tables.VideoCompressionNames.indexOf(name));
     if (code < 0)
         return std::nullopt;
@@ -183,8 +183,8 @@ QString compressionName(const ValueTables &tables, int code, int profile)
 std::optional<ResolutionChoice> resolutionChoice(const ValueTables &tables, const QString &name)
 {
     ResolutionChoice choice;
-    const int place = static_cast<int>(tables.ResolutionNames.indexOf(name));
-    if (tables.resolutionSizeFromIndex(place, choice.width, choice.height))
+    const int index = static_cast<int>(tables.ResolutionNames.indexOf(name));
+    if (tables.resolutionSizeFromIndex(index, choice.width, choice.height))
         return choice;
     const qsizetype star = name.indexOf(QLatin1Char('*'));
     if (star < 0)
@@ -200,6 +200,6 @@ QString resolutionName(const ValueTables &tables, int width, int height)
 {
     if (width <= 0 || height <= 0)
         return {};
-    const int place = tables.resolutionIndexFromSize(width, height);
-    return place >= 0 ? tables.ResolutionNames.at(place) : QStringLiteral("%1*%2").arg(width).arg(height);
+    const int index = tables.resolutionIndexFromSize(width, height);
+    return index >= 0 ? tables.ResolutionNames.at(index) : QStringLiteral("%1*%2").arg(width).arg(height);
 }

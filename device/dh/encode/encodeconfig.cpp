@@ -27,7 +27,7 @@ constexpr int subVideoFormat = 4; // index of the item in writeEncodeItems()
 constexpr int allItems = 2 * itemsOfStream;
 
 /// The state of a channel that was not read.
-const EncodeState &nothing()
+const EncodeState &unreadState()
 {
     static const EncodeState state;
     return state;
@@ -50,14 +50,14 @@ int EncodeConfig::read(const ChannelChoice &channels)
     EncodeState state = m_state.value_or(EncodeState());
     const EncodeReading reading =
         readEncodeState(m_session, channels.curChannel, channels.curStreamType, state);
-    if (reading.isFetched && reading.isAsked)
+    if (reading.isFetched && reading.isQueried)
         m_state = state;
     else if (reading.isFetched)
         m_state.reset(); // its items belong to another channel
     return reading.result;
 }
 
-void EncodeConfig::forgetItems()
+void EncodeConfig::markItemsUnread()
 {
     m_takenItems.clear();
     if (m_state)
@@ -68,27 +68,27 @@ QVariant EncodeConfig::value(const QString &key, const ChannelChoice &channels) 
 {
     if (key == EncodeKey::takenItems)
         return m_takenItems;
-    const EncodeState &state = m_state ? *m_state : nothing();
+    const EncodeState &state = m_state ? *m_state : unreadState();
     if (key == EncodeKey::unreadItems || key == EncodeKey::unreadPlaces) {
         QStringList names;
-        QVariantList places;
-        for (const int place : state.withheldItems(channels.curStreamType)) {
-            names.append(itemNames().at(place));
-            places.append(place);
+        QVariantList indexes;
+        for (const int index : state.withheldItems(channels.curStreamType)) {
+            names.append(itemNames().at(index));
+            indexes.append(index);
         }
-        return key == EncodeKey::unreadItems ? QVariant(names) : QVariant(places);
+        return key == EncodeKey::unreadItems ? QVariant(names) : QVariant(indexes);
     }
     return m_values.value(key, state, channels.curStreamType);
 }
 
 QString EncodeConfig::linesOf(const QList<int> &items) const
 {
-    const QList<int> unread = (m_state ? *m_state : nothing()).unreadItems();
+    const QList<int> unread = (m_state ? *m_state : unreadState()).unreadItems();
     const QStringList names = itemNames();
     QString lines;
-    for (const int place : items) {
-        const QString &name = names.at(place);
-        lines += (unread.contains(place) ? ItemTexts::unread(name) : name) + QLatin1Char('\n');
+    for (const int index : items) {
+        const QString &name = names.at(index);
+        lines += (unread.contains(index) ? ItemTexts::unread(name) : name) + QLatin1Char('\n');
     }
     return lines;
 }
@@ -148,14 +148,14 @@ EncodeConfig::Outcome EncodeConfig::confirm(const ChannelChoice &channels)
         writing = writeEncodeItems(m_session, channels.curChannel, *m_state,
                                    m_state->missingItems(channels.curStreamType));
     const int error = writing.isDeviceAway ? static_cast<int>(m_session.lastError()) : 0;
-    const QList<int> unread = (m_state ? *m_state : nothing()).withheldItems(channels.curStreamType);
+    const QList<int> unread = (m_state ? *m_state : unreadState()).withheldItems(channels.curStreamType);
     QList<int> notWritten;
     m_takenItems.clear();
-    for (int place = 0; place < allItems; ++place) {
-        if (unread.contains(place) || writing.notTaken.contains(place))
-            notWritten.append(place);
+    for (int index = 0; index < allItems; ++index) {
+        if (unread.contains(index) || writing.notTaken.contains(index))
+            notWritten.append(index);
         else
-            m_takenItems.append(place);
+            m_takenItems.append(index);
     }
     return {.notWritten = linesOf(notWritten), .result = error};
 }

@@ -26,7 +26,7 @@ public:
 
     /// Marks all items as not read, after another channel or kind of stream was selected; read() reads them.
     /// The lists of choices stay.
-    void forgetItems();
+    void markItemsUnread();
 
     /// A value by key, see EncodeValues::value(). Additional keys: "takenItems" (indexes of the items that
     /// the device accepted in the last setValue() or confirm(); empty after read()), "unreadItems" and

@@ -97,15 +97,15 @@ QStringList takeAudio(const EncodeChoices &choices, const EncodeItems &from, boo
 /// Indexes of the items that cannot be copied from `from`.
 QList<int> itemsLeftOut(const EncodeState &from)
 {
-    QList<int> places = from.unreadItems();
+    QList<int> indexes = from.unreadItems();
     constexpr int compression = static_cast<int>(EncodePlace::AudioCompression);
     constexpr int format = static_cast<int>(EncodePlace::AudioFormat);
     for (const int stream : {0, itemsOfStream}) {
         // A sampling frequency is only valid with its compression.
-        if (places.contains(stream + compression) && !places.contains(stream + format))
-            places.append(stream + format);
+        if (indexes.contains(stream + compression) && !indexes.contains(stream + format))
+            indexes.append(stream + format);
     }
-    return places;
+    return indexes;
 }
 
 /// Copies compression and size to the record with which capabilities are queried.
@@ -175,11 +175,11 @@ EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeStat
         outcome.result = resultCode(LoginResult::NetworkFailure);
     else if (!writing.notTaken.isEmpty())
         outcome.result = refusedByDevice;
-    for (int place = 0; place < 2 * itemsOfStream; ++place) {
-        if (missing.contains(place))
+    for (int index = 0; index < 2 * itemsOfStream; ++index) {
+        if (missing.contains(index))
             continue;
-        if (leftOut.contains(place) || to.unreadItems().contains(place) || writing.notTaken.contains(place))
-            outcome.skipped.append(EncodeConfig::itemNames().at(place));
+        if (leftOut.contains(index) || to.unreadItems().contains(index) || writing.notTaken.contains(index))
+            outcome.skipped.append(EncodeConfig::itemNames().at(index));
     }
     return outcome;
 }

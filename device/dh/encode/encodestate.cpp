@@ -28,12 +28,12 @@ bool readItems(const ConfigSession &session, int channel, int stream, EncodeItem
 {
     items = {};
     bool isAway = false;
-    std::size_t place = 0;
+    std::size_t index = 0;
     const auto read = [&](sdk::EncodeItem number, auto &item) {
         const bool isRead =
             !isAway && !control.shouldEnd() && readStreamItem(session, number, channel, stream, item);
         isAway = isAway || (!isRead && !control.shouldEnd() && session.isDeviceAway());
-        items.isRead[place++] = isRead;
+        items.isRead[index++] = isRead;
     };
     read(sdk::EncodeItem::VideoFormat, items.videoFormat);
     read(sdk::EncodeItem::VideoProfile, items.videoProfile);
@@ -55,10 +55,10 @@ void clear(sdk::EncodeCapabilities &capabilities)
 QList<int> EncodeState::unreadItems() const
 {
     QList<int> unread;
-    for (int place = 0; place < 2 * itemsOfStream; ++place) {
-        const EncodeItems &items = place < itemsOfStream ? main : sub;
-        if (!items.isRead[static_cast<std::size_t>(place % itemsOfStream)])
-            unread.append(place);
+    for (int index = 0; index < 2 * itemsOfStream; ++index) {
+        const EncodeItems &items = index < itemsOfStream ? main : sub;
+        if (!items.isRead[static_cast<std::size_t>(index % itemsOfStream)])
+            unread.append(index);
     }
     return unread;
 }
@@ -70,10 +70,10 @@ QList<int> EncodeState::missingItems(int streamType) const
         const auto lacks = [&block](sdk::EncodeValue value) {
             return (block.missingValues >> static_cast<std::uint32_t>(value) & 1) != 0;
         };
-        for (int place = 0; place < itemsOfStream; ++place) {
-            const bool isAudio = place >= static_cast<int>(EncodePlace::AudioCompression);
+        for (int index = 0; index < itemsOfStream; ++index) {
+            const bool isAudio = index >= static_cast<int>(EncodePlace::AudioCompression);
             if (lacks(sdk::EncodeValue::Stream) || (isAudio && lacks(sdk::EncodeValue::Audio)))
-                missing.append(first + place);
+                missing.append(first + index);
         }
     };
     append(mainBlock(streamType), 0);
@@ -84,7 +84,7 @@ QList<int> EncodeState::missingItems(int streamType) const
 QList<int> EncodeState::withheldItems(int streamType) const
 {
     QList<int> withheld = unreadItems();
-    withheld.removeIf([missing = missingItems(streamType)](int place) { return missing.contains(place); });
+    withheld.removeIf([missing = missingItems(streamType)](int index) { return missing.contains(index); });
     return withheld;
 }
 
@@ -101,7 +101,7 @@ EncodeReading readEncodeCapabilities(const ConfigSession &session, int channel, 
     if (!session.pack("Encode", state.record, text))
         return reading;
 
-    reading.isAsked = true;
+    reading.isQueried = true;
     clear(state.capabilities);
     const sdk::EncodeCapabilityInput input = {sizeof(input), 0, channel, 0, text.data()};
     if (!session.queryCapabilities(sdk::CapabilityQuery::Encode, input, state.capabilities)) {
@@ -129,7 +129,7 @@ EncodeReading readEncodeState(const ConfigSession &session, int channel, int str
                               const StepControl &control)
 {
     EncodeReading reading = readEncodeCapabilities(session, channel, state);
-    if (!reading.isAsked)
+    if (!reading.isQueried)
         return reading;
     state.main = state.sub = {};
     if (isLibraryError(reading.result))
@@ -145,9 +145,9 @@ EncodeWriting writeEncodeItems(const ConfigSession &session, int channel, const 
 {
     EncodeWriting writing;
     const QList<int> left = unwanted + state.unreadItems();
-    int place = 0;
+    int index = 0;
     const auto write = [&](sdk::EncodeItem number, const auto &item) {
-        const int here = place++;
+        const int here = index++;
         if (left.contains(here))
             return;
         const bool isSent = !writing.isDeviceAway && !control.shouldEnd();

@@ -19,7 +19,7 @@ struct EncodeItems
     std::array<bool, itemsOfStream> isRead{}; ///< by EncodePlace
 
     /// Whether this item was read.
-    [[nodiscard]] bool knows(EncodePlace place) const { return isRead[static_cast<std::size_t>(place)]; }
+    [[nodiscard]] bool knows(EncodePlace index) const { return isRead[static_cast<std::size_t>(index)]; }
 };
 
 /// Encoder state of one channel.
@@ -59,7 +59,7 @@ struct EncodeReading
 {
     int result = 0;         ///< 0, configurationUnreadable, capabilitiesUnknown, or an error of the library
     bool isFetched = false; ///< the device returned its configuration; the state was replaced
-    bool isAsked = false;   ///< the capabilities were requested, successfully or not
+    bool isQueried = false; ///< the capabilities were requested, successfully or not
 };
 
 /// Whether a result is an error of the device library.

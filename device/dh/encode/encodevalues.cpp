@@ -112,8 +112,8 @@ bool EncodeValues::isKey(const QString &key)
 QVariant EncodeValues::value(const QString &key, const EncodeState &state, int streamType) const
 {
     const StreamKey parts = splitEncodeKey(key);
-    const std::optional<EncodePlace> place = encodePlaceOf(parts.field);
-    if (place && !(parts.isSub ? state.sub : state.main).knows(*place))
+    const std::optional<EncodePlace> index = encodePlaceOf(parts.field);
+    if (index && !(parts.isSub ? state.sub : state.main).knows(*index))
         return {};
     if (key == EncodeKey::offeredStreamTypes)
         return offeredTypes(state);
@@ -207,8 +207,8 @@ bool EncodeValues::setValue(const QString &key, const QVariant &value, EncodeSta
     const StreamKey parts = splitEncodeKey(key);
     EncodeItems &items = parts.isSub ? state.sub : state.main;
     sdk::VideoFormatItem &video = items.videoFormat;
-    const std::optional<EncodePlace> place = encodePlaceOf(parts.field);
-    if (!place || !items.knows(*place))
+    const std::optional<EncodePlace> index = encodePlaceOf(parts.field);
+    if (!index || !items.knows(*index))
         return false;
     if (key == EncodeKey::subVideoEnable)
         return setFlag(value, video.videoEnable);

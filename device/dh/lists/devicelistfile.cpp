@@ -68,7 +68,7 @@ DeviceListContents readBack(ListFormat format, const std::vector<DeviceListLine>
     return format == ListFormat::Csv ? readCsv(file) : readXml(file);
 }
 
-bool comesBack(ListFormat format, const std::vector<DeviceListLine> &lines)
+bool isReadBack(ListFormat format, const std::vector<DeviceListLine> &lines)
 {
     const DeviceListContents back = readBack(format, lines);
     return std::equal(lines.begin(), lines.end(), back.lines.begin(), back.lines.end(),
@@ -80,12 +80,12 @@ bool comesBack(ListFormat format, const std::vector<DeviceListLine> &lines)
 }
 
 /// Whether one value of a line is read back unchanged. The line needs an address to be valid.
-bool comesBack(ListFormat format, ListColumn column, const QString &text)
+bool isReadBack(ListFormat format, ListColumn column, const QString &text)
 {
     DeviceListLine line;
     line[ListColumn::IPAddress] = QStringLiteral("0");
     line[column] = text;
-    return comesBack(format, {line});
+    return isReadBack(format, {line});
 }
 
 /// The first character of a value that is not read back unchanged; otherwise the space at its start or end.
@@ -93,7 +93,7 @@ QString lostCharacter(ListFormat format, ListColumn column, const QString &text)
 {
     for (const char32_t code : text.toUcs4()) {
         QString character = QString::fromUcs4(&code, 1);
-        if (!comesBack(format, column, QLatin1Char('0') + character + QLatin1Char('0')))
+        if (!isReadBack(format, column, QLatin1Char('0') + character + QLatin1Char('0')))
             return character;
     }
     if (text.front().isSpace())
@@ -127,20 +127,20 @@ std::vector<UnreadableText> unreadableTexts(const QString &fileName, const std::
 {
     const ListFormat format = formatOf(fileName);
     std::vector<UnreadableText> lost;
-    const bool allComeBack = comesBack(format, lines);
-    for (std::size_t place = 0; place < lines.size() && lost.size() < maximumUnreadableTexts; ++place) {
-        if (lines.at(place)[ListColumn::IPAddress].isEmpty())
-            lost.push_back({.line = place, .column = ListColumn::IPAddress, .character = {}});
-        if (allComeBack || comesBack(format, {lines.at(place)}))
+    const bool areAllReadBack = isReadBack(format, lines);
+    for (std::size_t index = 0; index < lines.size() && lost.size() < maximumUnreadableTexts; ++index) {
+        if (lines.at(index)[ListColumn::IPAddress].isEmpty())
+            lost.push_back({.line = index, .column = ListColumn::IPAddress, .character = {}});
+        if (areAllReadBack || isReadBack(format, {lines.at(index)}))
             continue;
         for (int number = 0; number < listColumnCount; ++number) {
             const auto column = static_cast<ListColumn>(number);
-            const QString &text = lines.at(place)[column];
+            const QString &text = lines.at(index)[column];
             if (lost.size() == maximumUnreadableTexts)
                 return lost;
-            if (!text.isEmpty() && !comesBack(format, column, text))
+            if (!text.isEmpty() && !isReadBack(format, column, text))
                 lost.push_back(
-                    {.line = place, .column = column, .character = lostCharacter(format, column, text)});
+                    {.line = index, .column = column, .character = lostCharacter(format, column, text)});
         }
     }
     return lost;

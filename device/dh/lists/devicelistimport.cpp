@@ -17,7 +17,7 @@ constexpr int highestPort = 65535;
 constexpr std::array credentials = {ListColumn::Username, ListColumn::Password};
 
 /// Normalised spelling of a MAC.
-QString spelled(const QString &mac)
+QString normalised(const QString &mac)
 {
     return mac.toLower().replace(QLatin1Char('-'), QLatin1Char(':'));
 }
@@ -36,10 +36,10 @@ std::optional<int> portOf(const DeviceListLine &line)
 /// Whether the text is an IPv4 address or a host name.
 bool isHost(const QString &address)
 {
-    return std::all_of(address.begin(), address.end(), [](QChar letter) {
-        const bool isLetter = letter.unicode() < 0x80 && letter.isLetterOrNumber();
-        return isLetter || letter == QLatin1Char('.') || letter == QLatin1Char('-') ||
-               letter == QLatin1Char('_');
+    return std::all_of(address.begin(), address.end(), [](QChar character) {
+        const bool isLetter = character.unicode() < 0x80 && character.isLetterOrNumber();
+        return isLetter || character == QLatin1Char('.') || character == QLatin1Char('-') ||
+               character == QLatin1Char('_');
     });
 }
 
@@ -84,7 +84,7 @@ DeviceToAdd deviceOf(const DeviceListLine &line)
             .p2p = line[ListColumn::AddMode] == ListWord::byP2P && !isLoopback(address)};
 }
 
-QString wayTo(const DeviceToAdd &device)
+QString targetOf(const DeviceToAdd &device)
 {
     return device.address + QLatin1Char(':') + QString::number(device.port);
 }
@@ -111,7 +111,7 @@ QString DeviceListImport::refusalOf(const std::vector<DeviceListLine> &lines)
 {
     QHash<QString, int> numbers;
     for (const DeviceListLine &line : lines) {
-        const QString mac = spelled(line[ListColumn::Mac]);
+        const QString mac = normalised(line[ListColumn::Mac]);
         if (mac.isEmpty())
             continue;
         const auto earlier = numbers.constFind(mac);
@@ -130,40 +130,40 @@ std::vector<ImportLine> DeviceListImport::plan(const std::shared_ptr<DeviceListI
     std::vector<ImportLine> plan;
     plan.reserve(import->m_lines.size());
     QHash<std::pair<QString, QString>, qsizetype> accounts; // number of each account: no secret in `login`
-    for (std::size_t place = 0; place < import->m_lines.size(); ++place) {
-        const DeviceListLine &line = import->m_lines[place];
+    for (std::size_t index = 0; index < import->m_lines.size(); ++index) {
+        const DeviceListLine &line = import->m_lines[index];
         const DeviceToAdd device = deviceOf(line);
-        const QJsonObject row = import->m_adding.store().rowAt(wayTo(device));
+        const QJsonObject row = import->m_adding.store().rowAt(targetOf(device));
         const std::pair account(device.account, device.password);
         const qsizetype login = accounts.value(account, accounts.size());
         accounts.insert(account, login);
         plan.push_back({.place = {.number = line.number, .address = device.address.left(maximumListText)},
-                        .device = row.isEmpty() ? wayTo(device) : rowName(row),
+                        .device = row.isEmpty() ? targetOf(device) : rowName(row),
                         .title = titleOf(line),
                         .login = QString::number(login),
-                        .step = [import, place](const StepControl &control) {
-                            return import->add(place, control);
+                        .step = [import, index](const StepControl &control) {
+                            return import->add(index, control);
                         }});
     }
     return plan;
 }
 
-StepOutcome DeviceListImport::add(std::size_t place, const StepControl &control)
+StepOutcome DeviceListImport::add(std::size_t index, const StepControl &control)
 {
-    const DeviceListLine &line = m_lines[place];
+    const DeviceListLine &line = m_lines[index];
     if (const QString fault = faultOf(line); !fault.isEmpty())
         return {.result = unusableLine, .text = fault};
     const DeviceToAdd device = deviceOf(line);
     {
         const std::lock_guard lock(m_mutex);
-        if (m_ways.contains(wayTo(device)))
+        if (m_addedTargets.contains(targetOf(device)))
             return alreadyListed();
     }
     StepOutcome outcome =
         m_adding.add(device, control, [this, &line](RowLoginOutcome &login) { return review(line, login); });
     if (outcome.result == resultCode(LoginResult::Success)) {
         const std::lock_guard lock(m_mutex);
-        m_ways.insert(wayTo(device));
+        m_addedTargets.insert(targetOf(device));
     }
     return outcome;
 }
@@ -171,7 +171,7 @@ StepOutcome DeviceListImport::add(std::size_t place, const StepControl &control)
 std::optional<StepOutcome> DeviceListImport::review(const DeviceListLine &line, RowLoginOutcome &login)
 {
     // Two lines may name the same device: the MAC in the list may be missing or wrong.
-    const QString mac = spelled(login.row.value(DeviceRowKey::mac).toString());
+    const QString mac = normalised(login.row.value(DeviceRowKey::mac).toString());
     if (!mac.isEmpty()) {
         const std::lock_guard lock(m_mutex);
         if (m_macs.contains(mac))

@@ -25,12 +25,12 @@ public:
     [[nodiscard]] static std::vector<ImportLine> plan(const std::shared_ptr<DeviceListImport> &import);
 
 private:
-    [[nodiscard]] StepOutcome add(std::size_t place, const StepControl &control);
+    [[nodiscard]] StepOutcome add(std::size_t index, const StepControl &control);
     [[nodiscard]] std::optional<StepOutcome> review(const DeviceListLine &line, RowLoginOutcome &login);
 
     const RowAdding m_adding;
     const std::vector<DeviceListLine> m_lines;
-    std::mutex m_mutex;   ///< guards m_ways and m_macs
-    QSet<QString> m_ways; ///< added devices: address or P2P ID, ":" and port
-    QSet<QString> m_macs; ///< normalised MACs of the added devices
+    std::mutex m_mutex;           ///< guards m_addedTargets and m_macs
+    QSet<QString> m_addedTargets; ///< added devices: address or P2P ID, ":" and port
+    QSet<QString> m_macs;         ///< normalised MACs of the added devices
 };

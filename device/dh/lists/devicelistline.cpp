@@ -58,8 +58,9 @@ QString faultOfText(const QString &text)
 {
     if (text.size() > maximumListText)
         return QCoreApplication::translate("DeviceList", "字段过长");
-    const bool isClean = std::none_of(text.begin(), text.end(),
-                                      [](QChar letter) { return letter.category() == QChar::Other_Control; });
+    const bool isClean = std::none_of(text.begin(), text.end(), [](QChar character) {
+        return character.category() == QChar::Other_Control;
+    });
     return isClean ? QString() : QCoreApplication::translate("DeviceList", "字段内有控制字符");
 }
 

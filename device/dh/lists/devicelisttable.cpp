@@ -32,10 +32,10 @@ bool DeviceListTable::addRow(int number, const QList<QStringView> &cells)
     line.number = number;
     line.hasTooManyFields = cells.size() > m_columns.size();
     const qsizetype count = line.hasTooManyFields ? 0 : cells.size();
-    for (qsizetype place = 0; place < count; ++place) {
-        if (m_columns.at(place) >= 0) {
-            const auto column = static_cast<ListColumn>(m_columns.at(place));
-            line[column] = listText(column, cells.at(place));
+    for (qsizetype index = 0; index < count; ++index) {
+        if (m_columns.at(index) >= 0) {
+            const auto column = static_cast<ListColumn>(m_columns.at(index));
+            line[column] = listText(column, cells.at(index));
         }
     }
     return m_contents.add(std::move(line));

@@ -27,7 +27,7 @@ public:
     [[nodiscard]] qsizetype width() const { return m_columns.size(); }
 
     /// Whether the column at this index is used; true for all before the headers are found.
-    [[nodiscard]] bool isRead(qsizetype place) const { return m_columns.value(place, 0) >= 0; }
+    [[nodiscard]] bool isRead(qsizetype index) const { return m_columns.value(index, 0) >= 0; }
 
 private:
     bool findHeaders(const QList<QStringView> &cells);

@@ -83,11 +83,11 @@ DeviceListLine listLineOf(const ListedDevice &device, const DeviceAccount &usual
     }
 
     if (device.record) {
-        const sdk::SearchDeviceInformation &told = device.record->device;
-        line[ListColumn::SerialNumber] = fieldText(told.serialNumber);
-        line[ListColumn::Version] = fieldText(told.softwareVersion);
-        line[ListColumn::SubnetMask] = fieldText(told.subnetMask);
-        line[ListColumn::Gateway] = fieldText(told.gateway);
+        const sdk::SearchDeviceInformation &reported = device.record->device;
+        line[ListColumn::SerialNumber] = fieldText(reported.serialNumber);
+        line[ListColumn::Version] = fieldText(reported.softwareVersion);
+        line[ListColumn::SubnetMask] = fieldText(reported.subnetMask);
+        line[ListColumn::Gateway] = fieldText(reported.gateway);
     } else {
         line[ListColumn::SerialNumber] = text(serialKey);
         line[ListColumn::Version] = plainVersion(text(DeviceRowKey::vision));

@@ -90,16 +90,16 @@ DeviceListContents readXlsx(const QString &path)
     for (int row = first; row < first + count; ++row) {
         const qsizetype width = table.width() > 0 ? table.width() : DeviceListTable::maximumColumns;
         QList<QStringView> cells(width);
-        for (qsizetype place = 0; place < width; ++place) {
-            if (!table.isRead(place))
+        for (qsizetype index = 0; index < width; ++index) {
+            if (!table.isRead(index))
                 continue; // a sheet may have a million rows
-            const std::optional<QString> text = workbook.cellText(row, static_cast<int>(place) + 1);
+            const std::optional<QString> text = workbook.cellText(row, static_cast<int>(index) + 1);
             if (!text) {
                 contents.refuse(unreadable);
                 return contents;
             }
-            texts.at(static_cast<std::size_t>(place)) = *text;
-            cells[place] = texts.at(static_cast<std::size_t>(place));
+            texts.at(static_cast<std::size_t>(index)) = *text;
+            cells[index] = texts.at(static_cast<std::size_t>(index));
         }
         if (!table.addRow(row, cells))
             return contents;

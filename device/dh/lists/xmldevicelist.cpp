@@ -39,20 +39,20 @@ bool isXmlCharacter(char32_t character)
 
 /// Approximate index of the first byte that is not valid UTF-8 or not an XML character; nullopt if there is
 /// none.
-std::optional<qsizetype> strangeByte(QByteArrayView text)
+std::optional<qsizetype> invalidByte(QByteArrayView text)
 {
-    constexpr qsizetype piece = 4096; // chunk size
+    constexpr qsizetype chunkSize = 4096;
     // The decoder does not report a sequence that is truncated at the end of the text.
     if (!text.isEmpty() && (text.back() & 0x80) != 0 && !text.isValidUtf8())
         return text.size();
     QStringDecoder decoder(QStringDecoder::Utf8);
-    for (qsizetype start = 0; start < text.size(); start += piece) {
+    for (qsizetype start = 0; start < text.size(); start += chunkSize) {
         const QString decoded =
-            decoder.decode(text.sliced(start).first(std::min(piece, text.size() - start)));
-        const auto isStrange = [](QChar unit) {
+            decoder.decode(text.sliced(start).first(std::min(chunkSize, text.size() - start)));
+        const auto isInvalid = [](QChar unit) {
             return !unit.isSurrogate() && !isXmlCharacter(unit.unicode());
         };
-        if (decoder.hasError() || std::any_of(decoded.begin(), decoded.end(), isStrange))
+        if (decoder.hasError() || std::any_of(decoded.begin(), decoded.end(), isInvalid))
             return start;
     }
     return std::nullopt;
@@ -147,7 +147,7 @@ private:
     {
         if (!decode())
             return false;
-        if (const auto at = strangeByte(m_text))
+        if (const auto at = invalidByte(m_text))
             return refuse(*at, "a character that is none of UTF-8 or XML");
         if (sheets::neededXmlMemory(m_text) > maximumMemory)
             return refuse(0, "too many elements");
@@ -222,17 +222,17 @@ private:
     }
 
     /// The line number of an offset in the text. Offsets must be ascending, so that the text is counted once.
-    int lineAt(std::ptrdiff_t place)
+    int lineAt(std::ptrdiff_t offset)
     {
-        const qsizetype end = std::clamp<qsizetype>(place, m_countedTo, m_text.size());
+        const qsizetype end = std::clamp<qsizetype>(offset, m_countedTo, m_text.size());
         m_line += static_cast<int>(std::count(m_text.cbegin() + m_countedTo, m_text.cbegin() + end, '\n'));
         m_countedTo = end;
         return m_line;
     }
 
-    bool refuse(std::ptrdiff_t place, const char *reason)
+    bool refuse(std::ptrdiff_t offset, const char *reason)
     {
-        const int line = lineAt(place);
+        const int line = lineAt(offset);
         m_contents.detail =
             QStringLiteral("Failed to parse XML file: %1 in line %2").arg(QLatin1String(reason)).arg(line);
         return m_contents.refuse(

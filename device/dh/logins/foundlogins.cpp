@@ -51,11 +51,11 @@ void FoundLogins::begin(const std::optional<AccountChoice> &accounts)
 {
     m_threads.clear();
     const std::scoped_lock lock(m_mutex);
-    m_asked.clear();
+    m_attempted.clear();
     m_accounts = accounts;
 }
 
-void FoundLogins::askNew()
+void FoundLogins::logInToNew()
 {
     const std::scoped_lock lock(m_mutex);
     if (!m_accounts || m_stop.stop_requested() || !m_libraries.net)
@@ -65,13 +65,13 @@ void FoundLogins::askNew()
         const QJsonObject row = value.toJsonObject();
         const QString name = rowName(row);
         const QString ipport = row.value(DeviceRowKey::ipport).toString();
-        if (m_asked.contains(name) || !lacksSomething(row))
+        if (m_attempted.contains(name) || !lacksSomething(row))
             continue;
         const DeviceAccount account = m_accounts->of(row).account;
         if (m_refused.value(name) == account || m_refused.value(ipport) == account)
             continue;
-        m_asked.insert(name);
-        m_threads.start([this, name, ipport, account] { ask(name, ipport, account); });
+        m_attempted.insert(name);
+        m_threads.start([this, name, ipport, account] { logIn(name, ipport, account); });
     }
 }
 
@@ -95,7 +95,7 @@ void FoundLogins::requestStop()
     stop();
 }
 
-void FoundLogins::ask(const QString &name, const QString &ipport, const DeviceAccount &account)
+void FoundLogins::logIn(const QString &name, const QString &ipport, const DeviceAccount &account)
 {
     if (m_stop.stop_requested())
         return;

@@ -35,7 +35,7 @@ public:
 
     /// Starts logins to the listed devices that have not had one in this search and lack a value. Returns
     /// immediately.
-    void askNew();
+    void logInToNew();
 
     /// Drops logins that have not started, and starts no further ones until the next begin().
     void stop();
@@ -51,16 +51,16 @@ Q_SIGNALS:
     void rowsChanged();
 
 private:
-    void ask(const QString &name, const QString &ipport, const DeviceAccount &account);
+    void logIn(const QString &name, const QString &ipport, const DeviceAccount &account);
     void complete(const QString &name, const QString &ipport, std::int64_t loginHandle);
 
     const std::shared_ptr<DeviceStore> m_store;
     const sdk::SdkLibraries m_libraries;
     std::stop_source m_stop;
 
-    std::mutex m_mutex;                      ///< guards m_accounts, m_asked and m_refused
+    std::mutex m_mutex;                      ///< guards m_accounts, m_attempted and m_refused
     std::optional<AccountChoice> m_accounts; ///< nullopt while no logins are made
-    QSet<QString> m_asked;                   ///< names of the rows with a login in this search
+    QSet<QString> m_attempted;               ///< names of the rows with a login in this search
     QHash<QString, DeviceAccount>
         m_refused; ///< account that a device refused last, by name and by address of its row
 

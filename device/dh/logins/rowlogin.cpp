@@ -58,7 +58,7 @@ QString loginTypeName(ReachedBy reachedBy)
 }
 
 /// The responses of a device after login; zero for a query without response.
-struct Answers
+struct Responses
 {
     sdk::DeviceAttributes attributes{};
     sdk::NetworkRecord network{};
@@ -69,33 +69,33 @@ struct Answers
 
 /// Queries the device. Returns nullopt if `control` ends the step between two queries. A record that cannot
 /// be read is zero.
-std::optional<Answers> askDevice(const ConfigSession &session, const StepControl &control)
+std::optional<Responses> queryDevice(const ConfigSession &session, const StepControl &control)
 {
-    Answers answers;
-    session.queryBlock(sdk::QueryCommand::DeviceAttributes, answers.attributes, attributesWait);
+    Responses responses;
+    session.queryBlock(sdk::QueryCommand::DeviceAttributes, responses.attributes, attributesWait);
     const auto read = [&](const char *name, int channel, std::uint32_t size, std::chrono::milliseconds wait,
                           auto &record) {
         if (!control.shouldEnd())
             (void)session.read(name, channel, record, size, wait);
     };
-    read("Network", 0, configurationTextSize, configurationWait, answers.network);
-    read("DVRIP", 0, configurationTextSize, configurationWait, answers.service);
-    read("Https", -1, httpsTextSize, httpsWait, answers.https);
+    read("Network", 0, configurationTextSize, configurationWait, responses.network);
+    read("DVRIP", 0, configurationTextSize, configurationWait, responses.service);
+    read("Https", -1, httpsTextSize, httpsWait, responses.https);
     if (control.shouldEnd())
         return std::nullopt;
-    session.queryBlock(sdk::QueryCommand::NetworkServices, answers.services, configurationWait);
-    return answers;
+    session.queryBlock(sdk::QueryCommand::NetworkServices, responses.services, configurationWait);
+    return responses;
 }
 
-QString macOf(const Answers &answers)
+QString macOf(const Responses &responses)
 {
-    const QString mac = fieldText(answers.network.mac);
-    return mac.isEmpty() ? fieldText(answers.attributes.mac) : mac;
+    const QString mac = fieldText(responses.network.mac);
+    return mac.isEmpty() ? fieldText(responses.attributes.mac) : mac;
 }
 
-int webPort(const Answers &answers)
+int webPort(const Responses &responses)
 {
-    const int port = answers.https.enabled != 0 ? answers.https.port : answers.services.webPort;
+    const int port = responses.https.enabled != 0 ? responses.https.port : responses.services.webPort;
     return port > 0 && port <= 65535 ? port : defaultWebPort;
 }
 
@@ -136,7 +136,7 @@ std::optional<sdk::SearchAnswer> searchAddress(sdk::NetLibrary &net, const QStri
 }
 
 QJsonObject rowOf(const RowLoginRequest &request, const sdk::LoginDeviceInformation &device,
-                  const Answers &answers)
+                  const Responses &responses)
 {
     const bool p2p = request.reachedBy == ReachedBy::P2P;
     QJsonObject row = {
@@ -150,8 +150,8 @@ QJsonObject rowOf(const RowLoginRequest &request, const sdk::LoginDeviceInformat
         {DeviceRowKey::model, fieldText(device.model)},
         {DeviceRowKey::ipport,
          (p2p ? loopback : request.address) + QLatin1Char(':') + QString::number(request.port)},
-        {DeviceRowKey::mac, macOf(answers)},
-        {DeviceRowKey::vision, versionText(fieldText(answers.attributes.softwareVersion))},
+        {DeviceRowKey::mac, macOf(responses)},
+        {DeviceRowKey::vision, versionText(fieldText(responses.attributes.softwareVersion))},
         {DeviceRowKey::url, QString()},
         {DeviceRowKey::result, QString()},
         {DeviceRowKey::res, -1},
@@ -160,9 +160,9 @@ QJsonObject rowOf(const RowLoginRequest &request, const sdk::LoginDeviceInformat
         {DeviceRowKey::upgrade, 0},
         {DeviceRowKey::upgraderes, -1},
         {DeviceRowKey::password, request.password},
-        {DeviceRowKey::httpport, webPort(answers)},
+        {DeviceRowKey::httpport, webPort(responses)},
         {DeviceRowKey::loggedIn, true},
-        {DeviceRowKey::https, answers.https.enabled != 0 && answers.https.port > 0},
+        {DeviceRowKey::https, responses.https.enabled != 0 && responses.https.port > 0},
     };
     if (p2p) {
         row.insert(DeviceRowKey::name, request.address);
@@ -201,8 +201,8 @@ RowLoginOutcome loginForRow(const sdk::SdkLibraries &libraries, const RowLoginRe
         return {.result = loginResultOf(net.NetGetLastError()), .row = {}, .record = {}};
 
     RowLoginOutcome outcome{.result = LoginResult::NotDone, .row = {}, .record = {}};
-    if (const std::optional<Answers> answers = askDevice(ConfigSession(libraries, handle), control))
-        outcome = {.result = LoginResult::Success, .row = rowOf(request, device, *answers), .record = {}};
+    if (const std::optional<Responses> responses = queryDevice(ConfigSession(libraries, handle), control))
+        outcome = {.result = LoginResult::Success, .row = rowOf(request, device, *responses), .record = {}};
     if (!p2p && outcome.result == LoginResult::Success && !control.shouldEnd()) {
         outcome.record = searchAddress(net, request.address);
         if (outcome.record)

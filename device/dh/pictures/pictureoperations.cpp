@@ -27,12 +27,12 @@ const QString oneChannel = QStringLiteral("againCapture");
 QString folderName(const QString &text)
 {
     QString name = text.left(120);
-    for (QChar &letter : name) {
-        if (letter.unicode() < 0x20 || QStringLiteral("/\\:*?\"<>|").contains(letter))
-            letter = u'_';
+    for (QChar &character : name) {
+        if (character.unicode() < 0x20 || QStringLiteral("/\\:*?\"<>|").contains(character))
+            character = u'_';
     }
     const bool isOnlyDots =
-        std::all_of(name.cbegin(), name.cend(), [](QChar letter) { return letter == u'.'; });
+        std::all_of(name.cbegin(), name.cend(), [](QChar character) { return character == u'.'; });
     return isOnlyDots ? QStringLiteral("device") : name;
 }
 
@@ -75,7 +75,7 @@ PictureOperations::PictureOperations(std::shared_ptr<DeviceStore> store, sdk::Sd
 
 PictureOperations::~PictureOperations() = default;
 
-void PictureOperations::giveUpSnapshots()
+void PictureOperations::cancelSnapshots()
 {
     m_snapshots.reset();
 }

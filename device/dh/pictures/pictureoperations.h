@@ -49,7 +49,7 @@ public:
     [[nodiscard]] DeviceStep pictureStep(const PictureOrder &order);
 
     /// Cancels the snapshots of takeSnapshots() and waits for their thread.
-    void giveUpSnapshots();
+    void cancelSnapshots();
 
 private:
     /// Task for one channel (from 0), or for all with -1.

@@ -29,16 +29,15 @@ FoundDevices::FoundDevices(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries
 {
 }
 
-DeviceStep FoundDevices::firstPasswordStep(const QString &mac, const QString &account,
-                                           const QString &password)
+DeviceStep FoundDevices::initialisationStep(const QString &mac, const QString &account,
+                                            const QString &password)
 {
     return [this, mac, account, password](const StepControl &) {
-        return isFound(mac) ? giveFirstPassword(mac, account, password) : noteNotFound(mac);
+        return isFound(mac) ? initialise(mac, account, password) : noteNotFound(mac);
     };
 }
 
-StepOutcome FoundDevices::giveFirstPassword(const QString &mac, const QString &account,
-                                            const QString &password)
+StepOutcome FoundDevices::initialise(const QString &mac, const QString &account, const QString &password)
 {
     LoginResult result = LoginResult::Success;
     const std::optional<sdk::SearchAnswer> record = m_store->record(mac);

@@ -24,11 +24,11 @@ public:
                  UpgradeCheck isUpgrading);
 
     /// Initialises a device: creates its first account. Any thread; blocks for the device.
-    StepOutcome giveFirstPassword(const QString &mac, const QString &account, const QString &password);
+    StepOutcome initialise(const QString &mac, const QString &account, const QString &password);
 
-    /// Step of giveFirstPassword(); fails for a device that no search has found.
-    [[nodiscard]] DeviceStep firstPasswordStep(const QString &mac, const QString &account,
-                                               const QString &password);
+    /// Step of initialise(); fails for a device that no search has found.
+    [[nodiscard]] DeviceStep initialisationStep(const QString &mac, const QString &account,
+                                                const QString &password);
 
     /// Changes the address of a device. Result Upgrading, without a request, during an upgrade. Blocks for
     /// the device.

@@ -23,7 +23,7 @@ SearchOperations::SearchOperations(const std::shared_ptr<DeviceStore> &store,
     backEndSignals.relay<&CDeviceBase::signalCDeviceSearchLimited>(search, &DeviceSearch::limited);
     backEndSignals.relay<&CDeviceBase::signalCDeviceSearchProgress>(search, &DeviceSearch::progressed);
     backEndSignals.relay<&CDeviceBase::signalCDeviceSearchDone>(search, &DeviceSearch::done);
-    QObject::connect(m_search.get(), &DeviceSearch::rowsAdded, m_foundLogins.get(), &FoundLogins::askNew,
+    QObject::connect(m_search.get(), &DeviceSearch::rowsAdded, m_foundLogins.get(), &FoundLogins::logInToNew,
                      Qt::DirectConnection);
     backEndSignals.relayChangedRows(m_foundLogins.get(), &FoundLogins::rowsChanged);
     backEndSignals.relayChangedRows(m_refresh.get(), &DeviceRefresh::rowsChanged);

@@ -26,12 +26,12 @@ QVariant ChannelNames::name(int channel)
 {
     sdk::ChannelNameItem item = {};
     item.size = sizeof(item);
-    const bool isTold = m_session.readItem(nameItem, channel, item);
-    m_isDeviceAway = !isTold && m_session.isDeviceAway();
-    if (!isTold)
+    const bool isRead = m_session.readItem(nameItem, channel, item);
+    m_isDeviceAway = !isRead && m_session.isDeviceAway();
+    if (!isRead)
         return {};
-    const std::string_view told = sdk::blockText(item.name);
-    return QString::fromUtf8(told.data(), static_cast<qsizetype>(told.size())).trimmed();
+    const std::string_view text = sdk::blockText(item.name);
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).trimmed();
 }
 
 QVariantList ChannelNames::names(int count)
@@ -47,8 +47,8 @@ int ChannelNames::write(int channel, const QString &name)
 {
     sdk::ChannelNameItem item = {};
     item.size = sizeof(item);
-    const QString whole = ByteText::truncated(name, static_cast<int>(item.name.size()) - 1);
-    sdk::setBlockText(item.name, whole.toStdString());
+    const QString truncated = ByteText::truncated(name, static_cast<int>(item.name.size()) - 1);
+    sdk::setBlockText(item.name, truncated.toStdString());
     int result = 0;
     if (!m_session.writeItem(nameItem, channel, item)) {
         result = m_session.isDeviceAway() ? deviceAway : refused;

@@ -8,12 +8,12 @@ KeptLogins::KeptLogins(std::shared_ptr<sdk::NetLibrary> net) : m_net(std::move(n
 
 KeptLogins::~KeptLogins()
 {
-    letAllGo();
+    closeAll();
 }
 
 void KeptLogins::keep(const QString &ipport, const KeptLogin &login)
 {
-    letGo(ipport);
+    close(ipport);
     const std::lock_guard lock(m_mutex);
     m_logins.insert(ipport, login);
 }
@@ -33,7 +33,7 @@ void KeptLogins::setPassword(const QString &ipport, const QString &password)
         found->password = password;
 }
 
-void KeptLogins::letGo(const QString &ipport)
+void KeptLogins::close(const QString &ipport)
 {
     KeptLogin login;
     {
@@ -44,7 +44,7 @@ void KeptLogins::letGo(const QString &ipport)
         m_net->NetLogout(login.loginHandle);
 }
 
-void KeptLogins::letAllGo()
+void KeptLogins::closeAll()
 {
     const QList<std::int64_t> handles = takeAll();
     for (const std::int64_t handle : handles) {

@@ -41,8 +41,8 @@ public:
     /// Sets the current password after it was changed on the device.
     void setPassword(const QString &ipport, const QString &password);
 
-    void letGo(const QString &ipport); ///< logs out and removes the login to a device
-    void letAllGo();                   ///< logs out and removes all logins
+    void close(const QString &ipport); ///< logs out and removes the login to a device
+    void closeAll();                   ///< logs out and removes all logins
 
     /// Removes all logins without logging out. The caller owns the returned handles.
     [[nodiscard]] QList<std::int64_t> takeAll();

@@ -20,9 +20,9 @@ QList<bool> connectedChannels(const ConfigSession &session, int count)
     const auto answer = std::make_unique<sdk::ChannelStates>();
     if (!session.queryChannelStates(*answer, 1000ms))
         return connected;
-    const std::size_t told = std::min<std::size_t>(answer->count, answer->states.size());
-    for (std::size_t place = 0; place < told; ++place) {
-        const sdk::ChannelState &state = answer->states.at(place);
+    const std::size_t stateCount = std::min<std::size_t>(answer->count, answer->states.size());
+    for (std::size_t index = 0; index < stateCount; ++index) {
+        const sdk::ChannelState &state = answer->states.at(index);
         if (state.channel >= 0 && state.channel < connected.size())
             connected[state.channel] = state.connection != sdk::ChannelConnection::NotConnected;
     }
@@ -37,12 +37,12 @@ QVariantList liveChannels(const ConfigSession &session, int count)
     for (int channel = 0; channel < connected.size(); ++channel) {
         sdk::ChannelNameItem item = {};
         item.size = sizeof(item);
-        const bool isTold =
+        const bool isRead =
             !isAway &&
             session.readItem(static_cast<std::uint32_t>(sdk::CameraItem::ChannelName), channel, item);
-        isAway = isAway || (!isTold && session.isDeviceAway());
-        const std::string_view told = isTold ? sdk::blockText(item.name) : std::string_view();
-        const QString name = QString::fromUtf8(told.data(), qsizetype(told.size())).trimmed();
+        isAway = isAway || (!isRead && session.isDeviceAway());
+        const std::string_view text = isRead ? sdk::blockText(item.name) : std::string_view();
+        const QString name = QString::fromUtf8(text.data(), qsizetype(text.size())).trimmed();
         channels.append(QVariantMap{
             {ChannelKey::channel, channel},
             {ChannelKey::name,

@@ -102,11 +102,11 @@ bool readChannels(const ConfigSession &session, QVariantMap &detail)
     const auto answer = std::make_unique<sdk::ChannelStates>();
     if (!session.queryChannelStates(*answer, 1000ms))
         return !session.isDeviceAway();
-    const std::size_t told = std::min<std::size_t>(answer->count, answer->states.size());
+    const std::size_t count = std::min<std::size_t>(answer->count, answer->states.size());
     const auto connected = std::count_if(
-        answer->states.cbegin(), answer->states.cbegin() + static_cast<std::ptrdiff_t>(told),
+        answer->states.cbegin(), answer->states.cbegin() + static_cast<std::ptrdiff_t>(count),
         [](const sdk::ChannelState &state) { return state.connection == sdk::ChannelConnection::Connected; });
-    if (told > 0)
+    if (count > 0)
         detail.insert(DeviceDetailKey::connectedCount, static_cast<int>(connected));
     return true;
 }

@@ -13,40 +13,40 @@ constexpr auto answerWait = 2000ms;
 
 enum class SessionAnswer
 {
-    Answers,
+    Responds,
     Away,
     Refused, ///< the device does not accept the login of the session
 };
 
-SessionAnswer askInSession(const ConfigSession &session)
+SessionAnswer checkSession(const ConfigSession &session)
 {
     const auto states = std::make_unique<sdk::ChannelStates>();
     if (session.queryChannelStates(*states, answerWait))
-        return SessionAnswer::Answers;
+        return SessionAnswer::Responds;
     const std::uint32_t error = session.lastError();
     if (isLoginRefused(error))
         return SessionAnswer::Refused;
     // A restarting device refuses connections for a while.
     const bool isAway =
         isDeviceAway(error) || error == static_cast<std::uint32_t>(sdk::NetError::ConnectFailed);
-    return isAway ? SessionAnswer::Away : SessionAnswer::Answers;
+    return isAway ? SessionAnswer::Away : SessionAnswer::Responds;
 }
 
 } // namespace
 
-bool answersInSession(const ConfigSession &session)
+bool respondsInSession(const ConfigSession &session)
 {
-    return askInSession(session) == SessionAnswer::Answers;
+    return checkSession(session) == SessionAnswer::Responds;
 }
 
 SessionOffer offerSession(const sdk::SdkLibraries &libraries, const SessionOrder &order)
 {
     if (order.handle != 0) {
         const ConfigSession present(libraries, order.handle);
-        const SessionAnswer answer = askInSession(present);
+        const SessionAnswer answer = checkSession(present);
         if (answer == SessionAnswer::Refused && !order.isNewLogin)
             return {.result = loginResultOf(present.lastError()), .login = {}, .channels = {}};
-        if (answer == SessionAnswer::Answers) {
+        if (answer == SessionAnswer::Responds) {
             return {.result = LoginResult::Success,
                     .login = {},
                     .channels =

@@ -29,7 +29,7 @@ struct SessionOffer
 
 /// Whether the device responds in the session; a refused request counts as a response. Blocks for up to two
 /// seconds; any thread.
-[[nodiscard]] bool answersInSession(const ConfigSession &session);
+[[nodiscard]] bool respondsInSession(const ConfigSession &session);
 
 /// Checks the present session, and logs in if the device does not respond in it, for example after a restart.
 /// If the device has refused the session's login, the same login is not sent again: the result is

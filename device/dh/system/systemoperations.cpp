@@ -23,7 +23,7 @@ constexpr int waitsForNewPassword = -1; ///< result of "loginCheck": the old pas
 constexpr auto passwordWait = 10000ms;
 
 /// Returns false if the text is too long for the field: a truncated password would be wrong.
-bool putWhole(auto &field, const QString &text)
+bool putComplete(auto &field, const QString &text)
 {
     const QByteArray bytes = text.toLocal8Bit();
     sdk::setBlockText(field, bytes.toStdString());
@@ -35,8 +35,9 @@ std::uint32_t changePassword(sdk::NetLibrary &net, const KeptLogin &login, const
 {
     sdk::ModifyPasswordInput input{};
     input.size = sizeof(input);
-    const bool fits = putWhole(input.account, login.account) && putWhole(input.oldPassword, login.password) &&
-                      putWhole(input.newPassword, newPassword);
+    const bool fits = putComplete(input.account, login.account) &&
+                      putComplete(input.oldPassword, login.password) &&
+                      putComplete(input.newPassword, newPassword);
     if (!fits || newPassword.isEmpty())
         return static_cast<std::uint32_t>(sdk::NetError::InvalidValue);
     return net.NetModifyPassword(login.loginHandle, input, passwordWait) ? 0 : net.NetGetLastError();
@@ -151,7 +152,7 @@ StepOutcome SystemOperations::readClock(const QString &ipport, const DeviceAccou
 
 int SystemOperations::checkPassword(const QString &ipport, const QString &account, const QString &password)
 {
-    m_keptLogins.letGo(ipport);
+    m_keptLogins.close(ipport);
     const SecureLogin login = m_logins.logIn(ipport, {.account = account, .password = password});
     if (login.result != LoginResult::Success)
         return resultCode(login.result);

@@ -37,7 +37,7 @@ public:
     [[nodiscard]] DeviceStep step(const QString &command, const QVariantMap &data, const QString &ipport);
 
     /// Closes the logins that "loginCheck" has kept open. Blocks for the devices.
-    void letLoginsGo() { m_keptLogins.letAllGo(); }
+    void closeLogins() { m_keptLogins.closeAll(); }
 
 private:
     // Any thread; blocks for the timeouts of the library.

@@ -17,11 +17,11 @@ const FirmwareFile &FirmwareFiles::at(const QString &path)
 {
     auto file = m_files.find(path);
     if (file == m_files.end())
-        file = m_files.insert(path, firmwareFile(path));
+        file = m_files.insert(path, checkFirmwareFile(path));
     return *file;
 }
 
-FirmwareFile firmwareFile(const QString &path)
+FirmwareFile checkFirmwareFile(const QString &path)
 {
     using Kind = sdk::FirmwareHeadReading::Kind;
     const auto refused = [](UpgradeTools::Result refusal) {

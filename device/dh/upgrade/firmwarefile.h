@@ -26,9 +26,9 @@ struct FirmwareFile
 };
 
 /// Checks a file; reads its header only. Any thread.
-[[nodiscard]] FirmwareFile firmwareFile(const QString &path);
+[[nodiscard]] FirmwareFile checkFirmwareFile(const QString &path);
 
-/// Cache of firmwareFile(): checks each path once. Not thread-safe.
+/// Cache of checkFirmwareFile(): checks each path once. Not thread-safe.
 class FirmwareFiles
 {
 public:

@@ -20,7 +20,7 @@ RowUpgrades::RowUpgrades(std::shared_ptr<DeviceStore> store, UpgradeRound &round
 QList<int> RowUpgrades::setFiles(const QStringList &macs, const QString &path)
 {
     const QString file = localPath(path);
-    const FirmwareFile firmware = file.isEmpty() ? FirmwareFile() : firmwareFile(file);
+    const FirmwareFile firmware = file.isEmpty() ? FirmwareFile() : checkFirmwareFile(file);
     QList<int> refusals;
     refusals.reserve(macs.size());
     for (const QString &mac : macs)

@@ -24,13 +24,13 @@ enum Column
     ResultColumn,
 };
 
-constexpr int usualPort = 37777;
+constexpr int defaultPort = 37777;
 
 /// The port of a cell; the default port for an empty cell, 0 if invalid.
 int portIn(const QString &cell)
 {
     if (cell.isEmpty())
-        return usualPort;
+        return defaultPort;
     const qint64 number = sheets::wholeNumber(cell).value_or(0);
     const bool isPort = number >= 1 && number <= 65535 && cell.toDouble() == static_cast<double>(number);
     return isPort ? static_cast<int>(number) : 0;
@@ -72,9 +72,9 @@ QString UpgradeDocument::open(const QString &path)
         m_excel.quit();
         return tr("文件格式错误");
     }
-    if (lineCount() > mostLines) {
+    if (lineCount() > maximumLines) {
         m_excel.quit();
-        return tr("文档中的设备超过 %1 行，请分成多个文档").arg(mostLines);
+        return tr("文档中的设备超过 %1 行，请分成多个文档").arg(maximumLines);
     }
     return {};
 }
@@ -88,7 +88,7 @@ int UpgradeDocument::lineCount()
 {
     int count = 0;
     const int last = sheets::lastUsedRow(m_excel);
-    for (int row = 2; row <= last && count <= mostLines; ++row)
+    for (int row = 2; row <= last && count <= maximumLines; ++row)
         count += isLine(row) ? 1 : 0;
     return count;
 }

@@ -29,7 +29,7 @@ class UpgradeDocument
     Q_DECLARE_TR_FUNCTIONS(UpgradeDocument)
 public:
     /// Maximum number of lines; a document with more is refused.
-    static constexpr int mostLines = 10000;
+    static constexpr int maximumLines = 10000;
 
     /// The titles that row 1 must start with, in the user's language.
     [[nodiscard]] static QStringList requiredTitles();

@@ -8,10 +8,10 @@
 void UpgradeDocuments::begin()
 {
     m_written.clear();
-    forgetResults();
+    clearResults();
 }
 
-void UpgradeDocuments::forgetResults()
+void UpgradeDocuments::clearResults()
 {
     m_result.clear();
     m_finishedLines = 0;
@@ -48,8 +48,8 @@ bool UpgradeDocuments::repeat(const QString &key)
         const auto written = std::find_if(m_written.begin(), m_written.end(), hasLine);
         if (written == m_written.end())
             return false;
-        forgetResults();
-        (*written)->toldPercent = -1;
+        clearResults();
+        (*written)->reportedPercent = -1;
         const std::lock_guard lock(m_mutex);
         m_documents.push_back(*written);
         m_written.erase(written);
@@ -94,7 +94,7 @@ void UpgradeDocuments::note(const QString &key, int result, int percent, const Q
 
 QList<UpgradeDocuments::Schedule> UpgradeDocuments::update()
 {
-    QList<Schedule> changed = std::exchange(m_news, {});
+    QList<Schedule> changed = std::exchange(m_writtenProgress, {});
     std::vector<std::shared_ptr<Document>> done;
     {
         const std::lock_guard lock(m_mutex);
@@ -104,12 +104,12 @@ QList<UpgradeDocuments::Schedule> UpgradeDocuments::update()
                 document->running == 0
                     ? 100
                     : static_cast<int>(std::min<qsizetype>(document->shareSum / document->lines.size(), 99));
-            if (percent != std::exchange(document->toldPercent, percent) && percent < 100)
+            if (percent != std::exchange(document->reportedPercent, percent) && percent < 100)
                 changed.append({document->name, percent});
         }
         const auto open = std::stable_partition(
             m_documents.begin(), m_documents.end(),
-            [](const std::shared_ptr<Document> &document) { return document->toldPercent < 100; });
+            [](const std::shared_ptr<Document> &document) { return document->reportedPercent < 100; });
         std::move(open, m_documents.end(), std::back_inserter(done));
         m_documents.erase(open, m_documents.end());
     }
@@ -165,7 +165,7 @@ void UpgradeDocuments::finish(const std::shared_ptr<Document> &document)
 {
     --m_beingWritten;
     m_written.push_back(document);
-    m_news.append({document->name, 100});
+    m_writtenProgress.append({document->name, 100});
     const auto lines = static_cast<int>(document->lines.size());
     const auto succeeded = static_cast<int>(
         std::count_if(document->lines.cbegin(), document->lines.cend(),

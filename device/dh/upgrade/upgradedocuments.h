@@ -97,11 +97,11 @@ private:
         int refused = 0;                           ///< number of lines that are not upgraded
         qsizetype running = 0;                     ///< number of lines with a running upgrade
         qsizetype shareSum = 0;
-        int toldPercent = -1; ///< last reported progress
-        QString outcome;      ///< message about the writing
+        int reportedPercent = -1; ///< last reported progress
+        QString outcome;          ///< message about the writing
     };
 
-    void forgetResults();
+    void clearResults();
     /// Any thread.
     static void write(Document &document);
     void finish(const std::shared_ptr<Document> &document);
@@ -110,7 +110,7 @@ private:
     mutable std::mutex m_mutex; ///< guards the documents, except their workbooks (main thread, then writer)
     std::vector<std::shared_ptr<Document>> m_documents;
     std::vector<std::shared_ptr<Document>> m_written; ///< finished documents, for repeat(); main thread only
-    QList<Schedule> m_news;                           ///< progress of written documents, for update()
+    QList<Schedule> m_writtenProgress;                ///< progress of written documents, for update()
     int m_beingWritten = 0;
     int m_finishedLines = 0; ///< lines of finished documents
     QString m_result;

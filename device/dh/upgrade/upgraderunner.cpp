@@ -13,7 +13,7 @@ class NoWatcher : public BatchWatcher
 public:
     void started(std::size_t) override {}
     void finished(std::size_t, const StepOutcome &) override {}
-    void held() override {}
+    void paused() override {}
     void ended() override {}
 };
 
@@ -98,7 +98,7 @@ DeviceStep UpgradeRunner::stepOf(const std::shared_ptr<Upgrade> &upgrade)
 {
     // The deleter runs when the last copy of the step is destroyed.
     const std::shared_ptr<Upgrade> entered(
-        upgrade.get(), [this, upgrade](Upgrade *notRun) { giveUpWaiting(*notRun, UpgradeTools::Stopped); });
+        upgrade.get(), [this, upgrade](Upgrade *notRun) { endWaiting(*notRun, UpgradeTools::Stopped); });
     return [this, entered](const StepControl &control) {
         return perform(*entered, control);
     };
@@ -108,7 +108,7 @@ StepOutcome UpgradeRunner::perform(Upgrade &upgrade, const StepControl &control)
 {
     if (upgrade.isWaiting.exchange(false)) {
         UpgradeWork device(m_libraries, m_limits, upgrade.order,
-                           {.end = m_end.get_token(), .isAsked = upgrade.stopAsked},
+                           {.end = m_end.get_token(), .isRequested = upgrade.stopRequested},
                            [&](const UpgradeState &state) { change(upgrade, state); });
         finish(upgrade, device.run(control));
     }
@@ -116,7 +116,7 @@ StepOutcome UpgradeRunner::perform(Upgrade &upgrade, const StepControl &control)
     return outcomeOf(upgrade.state);
 }
 
-void UpgradeRunner::giveUpWaiting(Upgrade &upgrade, UpgradeTools::Result result)
+void UpgradeRunner::endWaiting(Upgrade &upgrade, UpgradeTools::Result result)
 {
     if (upgrade.isWaiting.exchange(false)) // otherwise the runner may be destroyed already
         finish(upgrade, endOf(result));
@@ -130,9 +130,9 @@ void UpgradeRunner::stop(const QString &key)
         upgrade = m_round.value(key);
         if (!upgrade)
             return;
-        upgrade->stopAsked = true;
+        upgrade->stopRequested = true;
     }
-    giveUpWaiting(*upgrade, UpgradeTools::Stopped);
+    endWaiting(*upgrade, UpgradeTools::Stopped);
 }
 
 bool UpgradeRunner::isUpgrading() const
@@ -168,7 +168,7 @@ void UpgradeRunner::requestEnd()
         round = m_round.values();
     }
     for (const std::shared_ptr<Upgrade> &upgrade : std::as_const(round))
-        giveUpWaiting(*upgrade, UpgradeTools::Cut);
+        endWaiting(*upgrade, UpgradeTools::Cut);
     const std::lock_guard lock(m_submitting);
     m_engine->stop(m_batch);
 }
@@ -179,7 +179,7 @@ void UpgradeRunner::end()
     QList<std::shared_ptr<Upgrade>> round;
     {
         std::unique_lock lock(m_mutex);
-        m_finished.wait_for(lock, endWait, [this] { return m_unfinished == 0 && m_telling == 0; });
+        m_finished.wait_for(lock, endWait, [this] { return m_unfinished == 0 && m_reporting == 0; });
         round = m_round.values();
     }
     // The remaining requests are aborted when the library is released. Their later reports are ignored.
@@ -207,7 +207,7 @@ void UpgradeRunner::finish(Upgrade &upgrade, const UpgradeState &state)
             return;
         m_percentSum += shareOf(state) - shareOf(upgrade.state);
         upgrade.state = state;
-        ++m_telling;
+        ++m_reporting;
     }
     m_watchers.changed(upgrade.order, state);
     bool isLast = false;
@@ -218,6 +218,6 @@ void UpgradeRunner::finish(Upgrade &upgrade, const UpgradeState &state)
     if (isLast)
         m_watchers.roundEnded();
     const std::lock_guard lock(m_mutex);
-    --m_telling;
+    --m_reporting;
     m_finished.notify_all();
 }

@@ -64,7 +64,7 @@ private:
     {
         UpgradeOrder order;
         UpgradeState state;
-        std::atomic<bool> stopAsked = false;
+        std::atomic<bool> stopRequested = false;
         std::atomic<bool> isWaiting = true; ///< its step has not started
     };
 
@@ -75,7 +75,7 @@ private:
     [[nodiscard]] DeviceStep stepOf(const std::shared_ptr<Upgrade> &upgrade);
     [[nodiscard]] StepOutcome perform(Upgrade &upgrade, const StepControl &control);
     /// Ends an upgrade whose step has not started.
-    void giveUpWaiting(Upgrade &upgrade, UpgradeTools::Result result);
+    void endWaiting(Upgrade &upgrade, UpgradeTools::Result result);
     void change(Upgrade &upgrade, const UpgradeState &state);
     /// Sets the final state; does nothing if the upgrade has ended.
     void finish(Upgrade &upgrade, const UpgradeState &state);
@@ -88,7 +88,7 @@ private:
     std::condition_variable m_finished;
     std::stop_source m_end;
     std::size_t m_unfinished = 0;
-    int m_telling = 0; ///< threads that are reporting the end of an upgrade
+    int m_reporting = 0; ///< threads that are reporting the end of an upgrade
     std::mutex m_submitting;
     int m_batch = 0;                                  ///< number in the engine; guarded by m_submitting
     QHash<QString, std::shared_ptr<Upgrade>> m_round; ///< by key

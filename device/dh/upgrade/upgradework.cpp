@@ -104,64 +104,64 @@ UpgradeTools::Result resultOfError(std::uint32_t error)
 } // namespace
 
 /// Latest progress reported by the library. Its callback runs on a thread of the library.
-class UpgradeWork::News
+class UpgradeWork::UpgradeProgressInbox
 {
 public:
     static void handle(std::int64_t, const sdk::UpgradeProgress *progress, void *user)
     {
         if (!progress || progress->size != sizeof(*progress))
             return;
-        auto *news = static_cast<News *>(user);
-        const std::scoped_lock lock(news->m_mutex);
-        if (news->hasEnded()) // late reports are ignored
+        auto *inbox = static_cast<UpgradeProgressInbox *>(user);
+        const std::scoped_lock lock(inbox->m_mutex);
+        if (inbox->hasEnded()) // late reports are ignored
             return;
-        news->m_last = *progress;
-        if (!news->hasEnded())
-            news->m_onWay = *progress;
+        inbox->m_latest = *progress;
+        if (!inbox->hasEnded())
+            inbox->m_lastBeforeEnd = *progress;
     }
 
-    [[nodiscard]] sdk::UpgradeProgress last() const
+    [[nodiscard]] sdk::UpgradeProgress latest() const
     {
         const std::scoped_lock lock(m_mutex);
-        return m_last;
+        return m_latest;
     }
 
     /// The latest progress before the end: the report of an end has no percent.
-    [[nodiscard]] sdk::UpgradeProgress lastOnWay() const
+    [[nodiscard]] sdk::UpgradeProgress lastBeforeEnd() const
     {
         const std::scoped_lock lock(m_mutex);
-        return m_onWay;
+        return m_lastBeforeEnd;
     }
 
 private:
     [[nodiscard]] bool hasEnded() const
     {
-        return m_last.phase == sdk::UpgradePhase::Done || m_last.phase == sdk::UpgradePhase::Failed;
+        return m_latest.phase == sdk::UpgradePhase::Done || m_latest.phase == sdk::UpgradePhase::Failed;
     }
 
     mutable std::mutex m_mutex;
-    sdk::UpgradeProgress m_onWay = {
+    sdk::UpgradeProgress m_lastBeforeEnd = {
         .size = sizeof(sdk::UpgradeProgress), .phase = sdk::UpgradePhase::Sending, .percent = 0, .error = 0};
-    sdk::UpgradeProgress m_last = m_onWay;
+    sdk::UpgradeProgress m_latest = m_lastBeforeEnd;
 };
 
 UpgradeWork::UpgradeWork(const sdk::SdkLibraries &libraries, const UpgradeLimits &limits,
-                         const UpgradeOrder &order, UpgradeStop stop, Tell tell)
+                         const UpgradeOrder &order, UpgradeStop stop, Report report)
     : m_libraries(libraries), m_limits(limits), m_order(order), m_stop(std::move(stop)),
-      m_tell(std::move(tell))
+      m_report(std::move(report))
 {
 }
 
 bool UpgradeWork::shouldStop(const StepControl &control) const
 {
     // Closing the application stops batches as well; m_stop.end is handled separately.
-    return (m_stop.isAsked || control.isStopped()) && !m_stop.end.stop_requested();
+    return (m_stop.isRequested || control.isStopped()) && !m_stop.end.stop_requested();
 }
 
 UpgradeState UpgradeWork::run(const StepControl &control)
 {
-    tell(UpgradeTools::Preparing, 0);
-    const FirmwareFile file = firmwareFile(m_order.file);
+    report(UpgradeTools::Preparing, 0);
+    const FirmwareFile file = checkFirmwareFile(m_order.file);
     if (file.refusal != UpgradeTools::None)
         return ended(file.refusal);
     if (!file.fits(m_order.model))
@@ -172,8 +172,8 @@ UpgradeState UpgradeWork::run(const StepControl &control)
         secureLogin(m_libraries.net.get(), m_order.ipport, m_order.account, m_order.password);
     if (login.result != LoginResult::Success)
         return ended(resultOfLogin(login.result));
-    News news;
-    UpgradeState state = send(login.handle, file, news, control);
+    UpgradeProgressInbox inbox;
+    UpgradeState state = send(login.handle, file, inbox, control);
     m_libraries.net->NetLogout(login.handle); // no progress callback after this, even if a stop was refused
     if (state.result != UpgradeTools::Restarting)
         return state;
@@ -181,8 +181,8 @@ UpgradeState UpgradeWork::run(const StepControl &control)
     return waitForReturn(file, control);
 }
 
-UpgradeState UpgradeWork::send(std::int64_t loginHandle, const FirmwareFile &file, News &news,
-                               const StepControl &control)
+UpgradeState UpgradeWork::send(std::int64_t loginHandle, const FirmwareFile &file,
+                               UpgradeProgressInbox &inbox, const StepControl &control)
 {
     const Identity device = identity(loginHandle);
     if (!file.fits(device.model))
@@ -192,35 +192,37 @@ UpgradeState UpgradeWork::send(std::int64_t loginHandle, const FirmwareFile &fil
     if (shouldStop(control))
         return ended(UpgradeTools::Stopped);
     m_oldVersion = device.version;
-    const std::int64_t handle = m_libraries.net->NetStartUpgrade(
-        loginHandle, m_order.file.toLocal8Bit().constData(), &News::handle, &news, upgradeStartWait);
+    const std::int64_t handle =
+        m_libraries.net->NetStartUpgrade(loginHandle, m_order.file.toLocal8Bit().constData(),
+                                         &UpgradeProgressInbox::handle, &inbox, upgradeStartWait);
     if (handle == 0) {
         const std::uint32_t error = m_libraries.net->NetGetLastError();
         qCWarning(logDevice) << "The upgrade of" << m_order.ipport << "was refused, error" << Qt::hex
                              << error;
         return ended(resultOfError(error));
     }
-    UpgradeState state = follow(handle, news, control);
+    UpgradeState state = follow(handle, inbox, control);
     if (state.result != UpgradeTools::Stopped) // otherwise it is stopped already
         m_libraries.net->NetStopUpgrade(handle);
     return state;
 }
 
-UpgradeState UpgradeWork::follow(std::int64_t upgradeHandle, const News &news, const StepControl &control)
+UpgradeState UpgradeWork::follow(std::int64_t upgradeHandle, const UpgradeProgressInbox &inbox,
+                                 const StepControl &control)
 {
     sdk::Clock &clock = *m_libraries.clock;
     const std::int64_t start = clock.now();
     std::int64_t lastChange = start;
-    sdk::UpgradeProgress seen = news.last();
-    tell(UpgradeTools::Sending, 0);
+    sdk::UpgradeProgress seen = inbox.latest();
+    report(UpgradeTools::Sending, 0);
     while (clock.wait(lookInterval, m_stop.end)) {
-        const sdk::UpgradeProgress now = news.last();
+        const sdk::UpgradeProgress now = inbox.latest();
         if (now.phase == sdk::UpgradePhase::Done) {
-            tell(UpgradeTools::Restarting, restartingFrom);
+            report(UpgradeTools::Restarting, restartingFrom);
             return m_state;
         }
         if (now.phase == sdk::UpgradePhase::Failed) {
-            tellOnWay(news.lastOnWay());
+            reportProgress(inbox.lastBeforeEnd());
             return ended(resultOfError(now.error));
         }
         if (now.phase != seen.phase || now.percent != seen.percent)
@@ -233,7 +235,7 @@ UpgradeState UpgradeWork::follow(std::int64_t upgradeHandle, const News &news, c
             m_stopRefused = now.phase == sdk::UpgradePhase::Writing;
             m_stopRemark = m_stopRefused ? UpgradeTexts::cannotStop() : UpgradeTexts::stopFails();
         }
-        tellOnWay(now);
+        reportProgress(now);
         const auto longest = now.phase == sdk::UpgradePhase::Writing ? m_limits.writingStandsStill
                                                                      : m_limits.sendingStandsStill;
         if (clock.now() - lastChange > longest.count() || clock.now() - start > m_limits.whole.count())
@@ -250,7 +252,7 @@ UpgradeState UpgradeWork::waitForReturn(const FirmwareFile &file, const StepCont
     std::optional<std::int64_t> letInAt; // time of the first login after the reboot
     while (clock.wait(returnInterval, m_stop.end)) {
         if (shouldStop(control))
-            tell(UpgradeTools::Restarting, restartingFrom, UpgradeTexts::restarts());
+            report(UpgradeTools::Restarting, restartingFrom, UpgradeTexts::restarts());
         const SecureLogin login =
             secureLogin(m_libraries.net.get(), m_order.ipport, m_order.account, m_order.password);
         const UpgradeTools::Result refusal = resultOfLogin(login.result);
@@ -301,7 +303,7 @@ UpgradeWork::Identity UpgradeWork::identity(std::int64_t loginHandle) const
             .version = fieldText(attributes.softwareVersion).trimmed()};
 }
 
-void UpgradeWork::tell(UpgradeTools::Result result, int percent, const QString &remark)
+void UpgradeWork::report(UpgradeTools::Result result, int percent, const QString &remark)
 {
     const QString text = remark.isEmpty() ? UpgradeTools::text(result) : remark;
     if (m_state.result == result && m_state.percent == percent && m_state.text == text)
@@ -309,17 +311,17 @@ void UpgradeWork::tell(UpgradeTools::Result result, int percent, const QString &
     m_state.result = result;
     m_state.percent = percent;
     m_state.text = text;
-    m_tell(m_state);
+    m_report(m_state);
 }
 
-void UpgradeWork::tellOnWay(const sdk::UpgradeProgress &progress)
+void UpgradeWork::reportProgress(const sdk::UpgradeProgress &progress)
 {
     const bool isWriting = progress.phase == sdk::UpgradePhase::Writing;
     const int percent = std::clamp(progress.percent, 0, 100);
-    tell(isWriting ? UpgradeTools::Writing : UpgradeTools::Sending,
-         isWriting ? writingFrom + percent * (restartingFrom - writingFrom) / 100
-                   : percent * writingFrom / 100,
-         m_stopRemark);
+    report(isWriting ? UpgradeTools::Writing : UpgradeTools::Sending,
+           isWriting ? writingFrom + percent * (restartingFrom - writingFrom) / 100
+                     : percent * writingFrom / 100,
+           m_stopRemark);
 }
 
 UpgradeState UpgradeWork::ended(UpgradeTools::Result result) const

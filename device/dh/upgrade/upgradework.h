@@ -38,8 +38,8 @@ struct UpgradeState
 /// Reasons to end an upgrade early.
 struct UpgradeStop
 {
-    std::stop_token end;              ///< the application closes: waits are aborted
-    const std::atomic<bool> &isAsked; ///< the user has requested a stop
+    std::stop_token end;                  ///< the application closes: waits are aborted
+    const std::atomic<bool> &isRequested; ///< the user has requested a stop
 };
 
 /// Limits and timeouts of upgrades.
@@ -59,12 +59,12 @@ struct UpgradeLimits
 class UpgradeWork
 {
 public:
-    using Tell = std::function<void(const UpgradeState &state)>;
+    using Report = std::function<void(const UpgradeState &state)>;
 
-    /// `tell` is called with each change of the state, on the thread of run(). The references must outlive
+    /// `report` is called with each change of the state, on the thread of run(). The references must outlive
     /// this object.
     UpgradeWork(const sdk::SdkLibraries &libraries, const UpgradeLimits &limits, const UpgradeOrder &order,
-                UpgradeStop stop, Tell tell);
+                UpgradeStop stop, Report report);
 
     /// Runs the upgrade and returns its final state. A stop of the batch counts as a stop by the user: an
     /// upgrade that the device is already writing continues to its end.
@@ -77,26 +77,26 @@ private:
         QString version;
     };
 
-    class News; ///< latest progress reported by the library
+    class UpgradeProgressInbox; ///< latest progress reported by the library
 
-    [[nodiscard]] UpgradeState send(std::int64_t loginHandle, const FirmwareFile &file, News &news,
-                                    const StepControl &control);
-    [[nodiscard]] UpgradeState follow(std::int64_t upgradeHandle, const News &news,
+    [[nodiscard]] UpgradeState send(std::int64_t loginHandle, const FirmwareFile &file,
+                                    UpgradeProgressInbox &inbox, const StepControl &control);
+    [[nodiscard]] UpgradeState follow(std::int64_t upgradeHandle, const UpgradeProgressInbox &inbox,
                                       const StepControl &control);
     [[nodiscard]] UpgradeState waitForReturn(const FirmwareFile &file, const StepControl &control);
     [[nodiscard]] bool shouldStop(const StepControl &control) const;
     /// The result for a device that reports this version (not empty) after its reboot.
     [[nodiscard]] UpgradeTools::Result outcomeOf(const FirmwareFile &file, const QString &version) const;
     [[nodiscard]] Identity identity(std::int64_t loginHandle) const;
-    void tell(UpgradeTools::Result result, int percent, const QString &remark = QString());
-    void tellOnWay(const sdk::UpgradeProgress &progress);
+    void report(UpgradeTools::Result result, int percent, const QString &remark = QString());
+    void reportProgress(const sdk::UpgradeProgress &progress);
     [[nodiscard]] UpgradeState ended(UpgradeTools::Result result) const;
 
     const sdk::SdkLibraries &m_libraries;
     const UpgradeLimits &m_limits;
     const UpgradeOrder &m_order;
     const UpgradeStop m_stop;
-    const Tell m_tell;
+    const Report m_report;
     QString m_oldVersion;
     UpgradeState m_state;
     bool m_stopRefused = false; ///< no further stop requests: the device writes its firmware

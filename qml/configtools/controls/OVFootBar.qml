@@ -22,7 +22,7 @@ Item {
     readonly property Batch batch: batches?.current ?? null
     readonly property bool showsBatch: batch?.running ?? false
     readonly property bool showsSearch: !running && !showsBatch && (search?.running ?? false)
-    readonly property bool paused: showsBatch && batch.held
+    readonly property bool paused: showsBatch && batch.paused
     property Batch batchToRetry: null  // batch to stop and retry with another account, null for none
     readonly property bool ended: batch !== null && !batch.running
     readonly property bool incomplete: ended && batch.report.failed + batch.report.notDone + batch.failedBefore > 0
@@ -115,7 +115,7 @@ Item {
                     - (account.visible ? account.width : 0) - resume.width - stop.width
                     - (panel.visible ? panel.width : 0)
 
-                width: root.held ? Math.max(0, Math.min(implicitWidth, room)) : implicitWidth
+                width: root.paused ? Math.max(0, Math.min(implicitWidth, room)) : implicitWidth
                 height: parent.height
                 color: root.paused ? Theme.colours.warnText : Theme.colours.sub
                 objectName: "runningText"

@@ -8,7 +8,7 @@ Rectangle {
     required property PictureGallery gallery
     required property string otherBatch  // title of another running batch, "" for none
     readonly property Batch batch: gallery.batch
-    readonly property bool paused: batch?.held ?? false
+    readonly property bool paused: batch?.paused ?? false
     readonly property bool canFetch: batch === null && otherBatch === "" && gallery.count > 0
     property string outcome      // result of the last save, "" for none
     property bool outcomeIsBad: false

@@ -221,7 +221,7 @@ T.ApplicationWindow {
         maximised: window.maximised
         name: device.name
         position: {
-            const position = order.count > 1 && device.ipport !== "" ? order.placeOf(device.ipport) : -1;
+            const position = order.count > 1 && device.ipport !== "" ? order.positionOf(device.ipport) : -1;
             return order.count <= 1 ? "" : (position < 0 ? "–" : position + 1) + " / " + order.count;
         }
         visible: !window.fullScreen

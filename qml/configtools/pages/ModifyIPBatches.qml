@@ -59,7 +59,7 @@ Item {
     }
 
     function sendFirstPasswords(identities, account, password, keeping) {
-        batch = batches.setFirstPasswords("dh", qsTr("初始化"), identities, account, password);
+        batch = batches.initialiseDevices("dh", qsTr("初始化"), identities, account, password);
         keeper.follow(batch, keeping);
     }
 

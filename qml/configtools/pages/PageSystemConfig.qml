@@ -170,7 +170,7 @@ FocusScope {
         deviceFactory: page.deviceFactory
         objectName: "passwordTime"
         onEnded: {
-            batch.giveUpWaiting(qsTr("修改密码"));
+            batch.cancelWaiting(qsTr("修改密码"));
             if (ending === SystemPasswordTime.TimeOver)
                 page.notify(qsTr("时间已到，%n 台设备的密码没有修改", "", leftCount), OVToast.Error);
             else if (ending === SystemPasswordTime.OtherWork)

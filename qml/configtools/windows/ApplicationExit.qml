@@ -25,7 +25,7 @@ Item {
     /// Exits during a batch.
     function endBatch() {
         host.leavePage(() => {
-            batches.giveUp();
+            batches.stopForExit();
             end();
         });
     }

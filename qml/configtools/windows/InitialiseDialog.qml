@@ -30,7 +30,7 @@ OVDialog {
     onAccepted: devices.deviceCount > 0 ? confirmed() : refuse(qsTr("请选择一台未初始化的设备"))
     onOpened: table.forceActiveFocus()
 
-    FirstPasswordPreview {
+    InitialisationPreview {
         id: devices
         onCheckedCountChanged: root.notice = ""
     }

@@ -22,7 +22,7 @@ OVDialog {
         if (batch || dhcp)
             return "";  // the preview shows the notes of a batch
         const device = Object.assign({}, plan.get(0));
-        switch (device.mark) {
+        switch (device.issue) {
         case AddressPlan.NotChanged:
             return device.note;
         case AddressPlan.TakenByOther:

@@ -6,7 +6,7 @@ OVDialog {
     id: root
 
     readonly property int fault: otherBox.checked
-        ? AddressTools.searchRangeFault(startField.text, endField.text) : AddressTools.NoFault
+        ? AddressTools.searchRangeError(startField.text, endField.text) : AddressTools.NoFault
     signal confirmed
 
     /// Loads settings into the fields.

@@ -132,7 +132,7 @@ Item {
     // Asks once, after the end of a batch and a search.
     Timer {
         interval: 300
-        running: root.certificates.hasNews && !root.batches.running && !root.searching
+        running: root.certificates.hasNewRefusals && !root.batches.running && !root.searching
             && !(certificateQuestion.item?.visible ?? false)
         onTriggered: certificateQuestion.instance().show()
     }

@@ -176,14 +176,14 @@ private Q_SLOTS:
         (void)store->verdictOn(shown(mac, "10.0.0.5", 1));
         QCOMPARE(store->agree(store->refused()), "");
         CertificateList list(store);
-        const QSignalSpy news(&list, &CertificateList::hasNewsChanged);
+        const QSignalSpy news(&list, &CertificateList::hasNewRefusalsChanged);
         std::thread request([&] {
             (void)store->verdictOn(shown("", "fd00::7", 5));
             (void)store->verdictOn(shown(mac, "10.0.0.5", 2));
             (void)store->verdictOn(shown("", "10.0.0.8", 6));
         });
         request.join();
-        QTRY_VERIFY(list.hasNews());
+        QTRY_VERIFY(list.hasNewRefusals());
         list.load();
         QCOMPARE(news.size(), 2);
         QVERIFY(list.get(0).value("changed").toBool());

@@ -1,5 +1,5 @@
 #include "device/batch/addressplan.h"
-#include "device/batch/firstpasswordpreview.h"
+#include "device/batch/initialisationpreview.h"
 #include "device/models/devicetablemodel.h"
 #include "device/search/addresstools.h"
 #include "tests/datatable.h"
@@ -30,7 +30,7 @@ private Q_SLOTS:
         // marks: of the first two devices; the third one is not initialised
         const auto addRow = dataTable<QString, bool, QString, QString, QList<int>>(
             {"start", "same", "mask", "addresses", "marks"});
-        constexpr int fine = AddressPlan::Fine;
+        constexpr int fine = AddressPlan::NoIssue;
         constexpr int taken = AddressPlan::TakenByOther;
         constexpr int noDevice = AddressPlan::NoDeviceAddress;
         const auto row = [&addRow](const char *name, const QString &start, const QString &mask,
@@ -77,7 +77,7 @@ private Q_SLOTS:
         QList<int> marks;
         for (int row = 0; row < plan.rowCount(); ++row) {
             addresses.append(plan.addressOf(row));
-            marks.append(plan.get(row).value("mark").toInt());
+            marks.append(plan.get(row).value("issue").toInt());
             if (marks.constLast() == AddressPlan::TakenByOther)
                 QCOMPARE(plan.otherDeviceAt(row),
                          start == "192.168.1.8" ? "B-2230-IR outside" : "B-2230-IR m2");
@@ -86,7 +86,7 @@ private Q_SLOTS:
         }
         QTEST(addresses.join(' '), "addresses");
         QCOMPARE(plan.skippedCount(), 1);
-        QCOMPARE(plan.warningCount(), marks.size() - 1 - marks.count(AddressPlan::Fine));
+        QCOMPARE(plan.warningCount(), marks.size() - 1 - marks.count(AddressPlan::NoIssue));
         QCOMPARE(marks.takeLast(), int(AddressPlan::NotChanged));
         QTEST(marks, "marks");
         plan.setStartAddress("192.168.1");
@@ -118,7 +118,7 @@ private Q_SLOTS:
         plan.setRangeChecked(1, 1, false);
         QCOMPARE(plan.checkedIdentities(), (QStringList{"m1", "m3"}));
         QCOMPARE(plan.addresses(), (QStringList{"10.0.0.2", "10.0.0.3"}));
-        QCOMPARE(plan.get(0).value("mark").toInt(), int(AddressPlan::TakenByOther));
+        QCOMPARE(plan.get(0).value("issue").toInt(), int(AddressPlan::TakenByOther));
         plan.setDhcp(true);
         QCOMPARE(valuesOf(plan.get(0), "action kind"), "DHCP|0");
         QCOMPARE(valuesOf(plan.get(1), "action kind"), "|0");
@@ -161,7 +161,7 @@ private Q_SLOTS:
         DeviceTableModel table;
         table.setDeviceFactory(&site.factory);
         table.setAllChecked(true);
-        FirstPasswordPreview preview;
+        InitialisationPreview preview;
         const QAbstractItemModelTester tester(&preview);
         preview.setTicked(table.checkedRows());
         QStringList rows;

@@ -29,7 +29,7 @@ public:
         const std::lock_guard lock(m_mutex);
         m_finished.append({static_cast<int>(place), outcome.result});
     }
-    void held() override { ++holds; }
+    void paused() override { ++holds; }
     void ended() override { ++ends; }
 
     [[nodiscard]] QList<int> startedIndexes() const
@@ -160,13 +160,13 @@ private Q_SLOTS:
         QSemaphore release;
         std::atomic<qsizetype> finishedBefore = -1;
         const std::jthread worker([&] {
-            const BatchEngine::Hold hold = m_engine->hold("a", {});
+            const BatchEngine::Reservation hold = m_engine->reserve("a", {});
             finishedBefore = m_record->results().size();
             release.acquire();
         });
         std::stop_source stop;
         stop.request_stop();
-        (void)m_engine->hold("a", stop.get_token()); // does not wait
+        (void)m_engine->reserve("a", stop.get_token()); // does not wait
         m_gate.release();
         QTRY_COMPARE(finishedBefore, 1);
 

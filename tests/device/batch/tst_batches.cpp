@@ -30,7 +30,7 @@ class NoWatcher : public BatchWatcher
 public:
     void started(std::size_t /*place*/) override {}
     void finished(std::size_t /*place*/, const StepOutcome & /*outcome*/) override {}
-    void held() override {}
+    void paused() override {}
     void ended() override {}
 };
 
@@ -292,7 +292,7 @@ private Q_SLOTS:
              }},
             {"passwords",
              [&] {
-                 return m_batches->setFirstPasswords("dh", "Passwords", macs(), "admin", "Better-2025");
+                 return m_batches->initialiseDevices("dh", "Passwords", macs(), "admin", "Better-2025");
              }},
             {"addresses",
              [&] {
@@ -314,10 +314,10 @@ private Q_SLOTS:
         QVERIFY(batch);
         QTRY_VERIFY(m_site->clock().waiters() > 0);
         QVERIFY(batch->isRunning());
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("The program ends during .* not done: "));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("The application closes during .* not done: "));
         QElapsedTimer timer;
         timer.start();
-        m_batches->giveUp();
+        m_batches->stopForExit();
         m_batches.reset();
         m_site->factory.reset();
         QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
@@ -334,7 +334,7 @@ private Q_SLOTS:
         QTRY_COMPARE(m_site->net->passwordsAtGate, 2);
         QTest::ignoreMessage(QtWarningMsg,
                              QRegularExpression("Passwords.*not done: " + ipportsOf(m_devices).join(", ")));
-        m_batches->giveUp();
+        m_batches->stopForExit();
         QVERIFY(batch->isStopping());
         m_site->net->passwordGate->release(2);
         m_site->engine->end();

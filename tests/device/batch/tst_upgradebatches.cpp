@@ -186,7 +186,7 @@ private Q_SLOTS:
                                          {}); // does not mean that the password is correct
         Batch *batch = test.upgrades.start("Upgrade", test.macs(all));
         QVERIFY(batch);
-        QVERIFY(test.passUntil([&] { return batch->isHeld(); }));
+        QVERIFY(test.passUntil([&] { return batch->isPaused(); }));
         QCOMPARE(batch->done(), 6);
         QCOMPARE(test.text(6), "等待升级");
         batch->resume();
@@ -367,9 +367,9 @@ private Q_SLOTS:
         time.start();
         QTest::ignoreMessage(
             QtWarningMsg,
-            QRegularExpression("^The program ends during Upgrade - not done: .*192.168.1.14:37777 "
-                               "- go on writing their firmware: 192.168.1.12:37777, 192.168.1.13:37777$"));
-        test.batches.giveUp();
+            QRegularExpression("^The application closes during Upgrade - not done: .*192.168.1.14:37777 "
+                               "- still writing firmware: 192.168.1.12:37777, 192.168.1.13:37777$"));
+        test.batches.stopForExit();
         test.factory.reset();
         QVERIFY2(time.elapsed() < 1000, qPrintable(QString::number(time.elapsed())));
         for (int place = 0; place < 4; ++place)

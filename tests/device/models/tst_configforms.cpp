@@ -174,7 +174,7 @@ private Q_SLOTS:
         QFETCH(double, shortest);
         QFETCH(double, longest);
         const CameraForm form;
-        QTEST(form.shutterPlace(shortest, longest), "place");
+        QTEST(form.shutterIndex(shortest, longest), "place");
     }
 };
 

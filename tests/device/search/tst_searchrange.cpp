@@ -59,7 +59,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, begin);
         QFETCH(QString, end);
-        QTEST(int(AddressTools().searchRangeFault(begin, end)), "fault");
+        QTEST(int(AddressTools().searchRangeError(begin, end)), "fault");
     }
 
     void splitsARangeIntoBlocks_data()

@@ -127,7 +127,7 @@ Item {
             onEntered: table.show(rowIndex)
             onLeftFor: row => root.edit(row)
             onReached: root.wantedRow = -1
-            onReverted: root.form.takeBack(rowIndex)
+            onReverted: root.form.revert(rowIndex)
         }
     }
     Component {
@@ -141,8 +141,8 @@ Item {
     Component {
         id: troubleCell
         ChannelNameTrouble {
-            onCutRequested: root.form.cut(rowIndex)
-            onRevertRequested: root.form.takeBack(rowIndex)
+            onCutRequested: root.form.truncate(rowIndex)
+            onRevertRequested: root.form.revert(rowIndex)
         }
     }
     // qmllint enable unqualified
@@ -187,7 +187,7 @@ Item {
                 text: root.form.failedCount > 0 ? qsTr("%n 个通道名称未保存", "", root.form.failedCount)
                     : root.work.session.upgrading ? qsTr("设备正在升级，不能保存修改")
                     : root.work.unsaved > 0 ? qsTr("有未保存的修改：%n 项", "", root.work.unsaved)
-                    : root.form.untoldCount > 0 ? qsTr("设备没有告知 %n 个通道的名称", "", root.form.untoldCount) : ""
+                    : root.form.unknownCount > 0 ? qsTr("设备没有告知 %n 个通道的名称", "", root.form.unknownCount) : ""
             }
         }
         Row {

@@ -19,7 +19,7 @@ Item {
     signal allSaved
 
     function clear() {
-        nameForm.dropSaving();
+        nameForm.cancelSaving();
         read = false;
     }
 

@@ -11,7 +11,7 @@ Column {
     readonly property real shortest: group.number("dbExposureValue1")
     readonly property real longest: group.number("dbExposureValue2")
     readonly property int last: form.shutterTimes.length
-    readonly property int index: form.shutterPlace(shortest, longest)
+    readonly property int index: form.shutterIndex(shortest, longest)
     readonly property bool custom: asked || index < 0
     readonly property bool wrong: lower.text !== "" && upper.text !== "" && Number(lower.text) > Number(upper.text)
     readonly property real longestKnown: 100000

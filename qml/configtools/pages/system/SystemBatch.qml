@@ -26,8 +26,8 @@ QtObject {
     }
 
     /// Cancels the next step, `title`, of the waiting devices.
-    function giveUpWaiting(title) {
-        batch?.giveUpWaiting(title);
+    function cancelWaiting(title) {
+        batch?.cancelWaiting(title);
     }
 
     readonly property BatchReport none: BatchReport {}

@@ -105,8 +105,8 @@ private:
         });
         accounts.setDefault({.account = account, .password = password});
         logins.begin(account.isEmpty() ? std::nullopt : std::optional(accounts));
-        logins.askNew();
-        logins.askNew();
+        logins.logInToNew();
+        logins.logInToNew();
         logins.waitForDone();
         return m_net->takeLogins();
     }

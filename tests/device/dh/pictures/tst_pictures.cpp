@@ -85,11 +85,11 @@ private Q_SLOTS:
         openSite(devices);
         for (const auto &[mac, ipport] :
              {std::pair(recorder, recorderPort), {camera, cameraPort}, {freshCamera, freshPort}}) {
-            store->upsertRow({{DeviceRowKey::mac, mac},
-                              {DeviceRowKey::ipport, ipport},
-                              {DeviceRowKey::username, QStringLiteral("admin")},
-                              {DeviceRowKey::password, QStringLiteral("secret1")},
-                              {DeviceRowKey::state, mac != freshCamera}});
+            m_store->upsertRow({{DeviceRowKey::mac, mac},
+                                {DeviceRowKey::ipport, ipport},
+                                {DeviceRowKey::username, QStringLiteral("admin")},
+                                {DeviceRowKey::password, QStringLiteral("secret1")},
+                                {DeviceRowKey::state, mac != freshCamera}});
         }
         QCOMPARE(factory()->findAndLoginDevice("dh", recorderPort, "admin", "secret1"), 0);
         m_site->requests().clear();

@@ -163,10 +163,10 @@ private Q_SLOTS:
         names->set(3, "Hof");
         QCOMPARE(names->changedCount(), 3);
         QCOMPARE(troubleOf(*names, 1), ChannelNameForm::Empty);
-        names->takeBack(1);
+        names->revert(1);
         QCOMPARE(names->changedCount(), 2);
 
-        names->takeBack(3);
+        names->revert(3);
         QCOMPARE(saved(*names, 0), ChannelNameForm::None);
         QCOMPARE(names->get(0).value("name").toString(), "正门"); // without the spaces
         names->set(3, "Hof");
@@ -185,7 +185,7 @@ private Q_SLOTS:
         open(recorder());
         setFault(Fault::WithholdsItem, 1108);
         const auto names = form();
-        QCOMPARE(names->untoldCount(), 15);
+        QCOMPARE(names->unknownCount(), 15);
         QCOMPARE(names->changedCount(), 0);
         QCOMPARE(troubleOf(*names, 0), ChannelNameForm::Unknown);
         names->set(0, "Hof");

@@ -289,12 +289,12 @@ private Q_SLOTS:
         QVERIFY(test.factory->importUpgradeDocument(test.family, path).isEmpty());
         QCOMPARE(test.factory->importError(test.family), u"文件格式错误"_s);
 
-        QList<QStringList> rows(UpgradeDocument::mostLines, {test.address(0)});
+        QList<QStringList> rows(UpgradeDocument::maximumLines, {test.address(0)});
         const QString largest = test.workbook(rows, u"largest.xlsx"_s);
         rows.insert(5, QStringList()); // empty rows do not count
         rows.append({{}, {}, {}, {}, u"firmware.bin"_s});
         QCOMPARE(test.factory->importUpgradeDocument(test.family, largest).size(),
-                 UpgradeDocument::mostLines);
+                 UpgradeDocument::maximumLines);
         QVERIFY(test.factory->importUpgradeDocument(test.family, test.workbook(rows)).isEmpty());
         QCOMPARE(test.factory->importError(test.family), u"文档中的设备超过 10000 行，请分成多个文档"_s);
     }

@@ -6,12 +6,12 @@
 /// The devices that the user has checked for initialisation: factory-new devices first, then those that will
 /// be skipped. Additional keys of a row: "type" and "vision" (firmware version). The devices are reached by
 /// MAC, so a shared address is not a conflict. Lives on the main thread.
-class FirstPasswordPreview : public BatchPreview
+class InitialisationPreview : public BatchPreview
 {
     Q_OBJECT
     Q_PROPERTY(int deviceCount READ deviceCount NOTIFY judged)
 public:
-    explicit FirstPasswordPreview(QObject *parent = nullptr) : BatchPreview(parent) {}
+    explicit InitialisationPreview(QObject *parent = nullptr) : BatchPreview(parent) {}
 
     /// Sets the devices from rows of a DeviceTableModel, all of them checked.
     Q_INVOKABLE void setTicked(const QVariantList &rows);

@@ -1,11 +1,11 @@
-#include "device/batch/firstpasswordpreview.h"
+#include "device/batch/initialisationpreview.h"
 
 #include "device/registry/devicerow.h"
 #include "device/registry/upgradetools.h"
 
 #include <algorithm>
 
-void FirstPasswordPreview::setTicked(const QVariantList &rows)
+void InitialisationPreview::setTicked(const QVariantList &rows)
 {
     QVariantList ordered = rows;
     std::stable_partition(ordered.begin(), ordered.end(), [](const QVariant &row) {
@@ -14,7 +14,7 @@ void FirstPasswordPreview::setTicked(const QVariantList &rows)
     setDevices(ordered);
 }
 
-QStringList FirstPasswordPreview::identities() const
+QStringList InitialisationPreview::identities() const
 {
     QStringList identities;
     for (int row = 0; row < rowCount(); ++row) {
@@ -24,14 +24,14 @@ QStringList FirstPasswordPreview::identities() const
     return identities;
 }
 
-BatchPreview::Judgement FirstPasswordPreview::judgementOf(int row) const
+BatchPreview::Judgement InitialisationPreview::judgementOf(int row) const
 {
     const QString hindrance = hindranceOf(row);
     return hindrance.isEmpty() ? Judgement{.action = action()}
                                : Judgement{.kind = Skipped, .note = hindrance};
 }
 
-QString FirstPasswordPreview::hindranceOf(int row) const
+QString InitialisationPreview::hindranceOf(int row) const
 {
     const QVariantMap device = deviceAt(row);
     if (device.value(DeviceRowKey::state).toBool())
