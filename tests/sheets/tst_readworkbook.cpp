@@ -138,7 +138,7 @@ private Q_SLOTS:
         row("deep",
             smallWorkbook(QByteArray("<row>").repeated(100'000) + QByteArray("</row>").repeated(100'000)),
             "nested");
-        row("packed zeros", with("xl/media/image1.png", QByteArray(40'000'000, '\0')), "tightly");
+        row("packed zeros", with("xl/media/image1.png", QByteArray(40'000'000, '\0')), "compression ratio");
     }
 
     void refusesParts()
