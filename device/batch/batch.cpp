@@ -164,6 +164,7 @@ bool Batch::start()
 {
     std::vector<BatchItem> items;
     items.reserve(static_cast<std::size_t>(m_plan.devices.size()));
+    noteAccountsOfSteps();
     const auto isPrepared = std::make_shared<std::once_flag>();
     for (const BatchDevice &device : std::as_const(m_plan.devices)) {
         // Rows that share an address are different devices for steps that use the MAC.
@@ -305,8 +306,9 @@ QString Batch::refusedAccounts() const
 {
     QStringList accounts;
     for (const Entry &entry : m_entries) {
-        if (!entry.refusedAccount.isEmpty() && !accounts.contains(entry.refusedAccount))
-            accounts.append(entry.refusedAccount);
+        if (isRefusedLogin(entry.outcome.result) && !entry.account.isEmpty() &&
+            !accounts.contains(entry.account))
+            accounts.append(entry.account);
     }
     return accounts.join(tr("、"));
 }
@@ -327,14 +329,14 @@ QStringList Batch::devicesOfRefusedAccounts() const
     if (!m_plan.accountOf || !m_plan.canBeRetried)
         return {};
     QSet<QByteArray> refused;
-    for (const Entry &entry : m_entries)
-        refused.insert(entry.refusedLogin);
-    refused.remove({});
+    for (const Entry &entry : m_entries) {
+        if (isRefusedLogin(entry.outcome.result))
+            refused.insert(entry.login);
+    }
     QStringList identities;
     for (const Entry &entry : m_entries) {
         const bool isToCome = !entry.time.isValid();
-        if (!entry.refusedLogin.isEmpty() ||
-            (isToCome && refused.contains(loginHash(m_plan.accountOf(entry.device)))))
+        if (isRefusedLogin(entry.outcome.result) || (isToCome && refused.contains(entry.login)))
             identities.append(entry.device.identity);
     }
     return identities;
@@ -355,7 +357,7 @@ bool Batch::hasOtherAccount(const Entry &entry) const
 {
     if (!m_plan.accountOf || !isRefusedLogin(entry.outcome.result))
         return false;
-    return loginHash(m_plan.accountOf(entry.device)) != entry.refusedLogin;
+    return loginHash(m_plan.accountOf(entry.device)) != entry.login;
 }
 
 bool Batch::hasRetryable() const
@@ -478,8 +480,6 @@ void Batch::takeUpdates()
         entry.outcome = finished.outcome;
         entry.outcome.answer.clear();
         entry.time = finished.time;
-        if (m_plan.accountOf && isRefusedLogin(entry.outcome.result))
-            noteRefusal(entry);
         m_running.removeOne(finished.index);
         ++m_done;
         devices.append(entry.device.name);
@@ -499,11 +499,15 @@ void Batch::takeUpdates()
         Q_EMIT changed();
 }
 
-void Batch::noteRefusal(Entry &entry) const
+void Batch::noteAccountsOfSteps()
 {
-    const DeviceAccount account = m_plan.accountOf(entry.device);
-    entry.refusedAccount = account.account;
-    entry.refusedLogin = loginHash(account);
+    if (!m_plan.accountOf)
+        return;
+    for (Entry &entry : m_entries) {
+        const DeviceAccount account = m_plan.accountOf(entry.device);
+        entry.account = account.account;
+        entry.login = loginHash(account);
+    }
 }
 
 void Batch::deliver(const QList<BatchOutcome> &outcomes) const

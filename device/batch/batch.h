@@ -43,9 +43,9 @@ public:
     {
         BatchDevice device;
         StepOutcome outcome = {.result = BatchReport::NotDone, .text = {}};
-        QDateTime time;               ///< of the outcome; invalid while there is none
-        QString refusedAccount = {};  ///< account that the device refused, if the plan has accountOf
-        QByteArray refusedLogin = {}; ///< hash of the refused account and password, compared for a retry
+        QDateTime time;        ///< of the outcome; invalid while there is none
+        QString account = {};  ///< account of the step; empty if the plan has no accountOf
+        QByteArray login = {}; ///< hash of account and password of the step, compared for a retry
     };
 
     /// `engine` must outlive this object.
@@ -187,7 +187,8 @@ private:
     [[nodiscard]] const Entry *find(const QString &device) const;
     void takeUpdates();
     void noteAdvance();
-    void noteRefusal(Entry &entry) const;
+    /// Stores the account of each step before it starts: a row can get another account while its step runs.
+    void noteAccountsOfSteps();
     void deliver(const QList<BatchOutcome> &outcomes) const; ///< to the plan's takeOutcomes
     void finish();
 

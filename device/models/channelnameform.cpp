@@ -68,7 +68,7 @@ void ChannelNameForm::setNames(const QStringList &channels, const QStringList &n
         set(channels.at(position).toInt(), names.value(position));
 }
 
-void ChannelNameForm::revert(int row)
+void ChannelNameForm::restoreName(int row)
 {
     if (row >= 0 && row < m_rows.size())
         change(row, m_rows.at(row).saved); // unfiltered: exactly the name on the device

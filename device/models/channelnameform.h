@@ -52,7 +52,7 @@ public:
     Q_INVOKABLE void setNames(const QStringList &channels, const QStringList &names);
 
     /// Restores the saved name.
-    Q_INVOKABLE void revert(int row);
+    Q_INVOKABLE void restoreName(int row);
 
     /// Truncates the name to the number of bytes that the device can store.
     Q_INVOKABLE void truncate(int row);

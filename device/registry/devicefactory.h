@@ -63,6 +63,8 @@ public:
         return m_backEnds.value(family, m_unknownFamily);
     }
 
+    // NOLINTBEGIN(readability-make-member-function-const): the operations change devices and the back end.
+
     /// Does nothing but emit signalSearchDone while running work needs the rows.
     Q_INVOKABLE void startSearch(const QString &family);
     Q_INVOKABLE void setSearchByIPInfo(const QString &family, quint32 beginip, quint32 endip)
@@ -269,6 +271,7 @@ public:
     {
         return backEnd(family)->checkLogin(ipport, account, password);
     }
+    // NOLINTEND(readability-make-member-function-const)
 
 Q_SIGNALS:
     // The signals of the back ends, see forwardedSignals, without "CDevice" in their names.

@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr int wrongPassword = 2;
 constexpr int notDone = 15;
 
 } // namespace

@@ -230,7 +230,10 @@ Item {
         function onFinished() {
             const ended = root.batchToRetry;
             root.batchToRetry = null;
-            Qt.callLater(() => root.batches.retry(ended));  // after the pages have handled its end
+            Qt.callLater(() => {  // after the pages have handled its end
+                if (root.batches.retry(ended) === null && ended.retryRefusal !== "")
+                    root.notify(ended.retryRefusal, OVToast.Refusal);
+            });
         }
     }
     // qmllint disable unqualified

@@ -500,6 +500,30 @@ private Q_SLOTS:
         QTEST(tries.load(), "tries"); // a second attempt would count towards the lock
         QCOMPARE(batch->report()->failed(), 2);
     }
+
+    void anAccountSelectedDuringTheStepIsTriedInTheRetry()
+    {
+        QSemaphore gate;
+        DeviceAccount account{.account = "admin", .password = "old"};
+        BatchPlan plan{.family = "dh", .title = "Work", .policy = {.atOnce = 1}};
+        plan.devices = {{.name = "a", .identity = "a", .ipport = "10.0.0.1:80", .title = {}}};
+        plan.accountOf = [&account](const BatchDevice &) {
+            return account;
+        };
+        plan.stepOf = [&gate](const BatchDevice &) {
+            return [&gate](const StepControl &) {
+                gate.acquire();
+                return StepOutcome{.result = resultCode(LoginResult::WrongPassword), .text = {}};
+            };
+        };
+        Batch *batch = m_batches->start(std::move(plan));
+        account.password = "new";
+        gate.release();
+        QTRY_VERIFY(!batch->isRunning());
+        QCOMPARE(batch->retryableDevices(), QStringList("a"));
+        account.password = "old";
+        QCOMPARE(batch->retryableDevices(), QStringList());
+    }
 };
 
 QTEST_GUILESS_MAIN(TestBatches)

@@ -127,7 +127,7 @@ Item {
             onEntered: table.show(rowIndex)
             onLeftFor: row => root.edit(row)
             onReached: root.wantedRow = -1
-            onReverted: root.form.revert(rowIndex)
+            onReverted: root.form.restoreName(rowIndex)
         }
     }
     Component {
@@ -142,7 +142,7 @@ Item {
         id: troubleCell
         ChannelNameTrouble {
             onCutRequested: root.form.truncate(rowIndex)
-            onRevertRequested: root.form.revert(rowIndex)
+            onRevertRequested: root.form.restoreName(rowIndex)
         }
     }
     // qmllint enable unqualified

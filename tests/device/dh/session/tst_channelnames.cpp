@@ -163,10 +163,10 @@ private Q_SLOTS:
         names->set(3, "Hof");
         QCOMPARE(names->changedCount(), 3);
         QCOMPARE(troubleOf(*names, 1), ChannelNameForm::Empty);
-        names->revert(1);
+        names->restoreName(1);
         QCOMPARE(names->changedCount(), 2);
 
-        names->revert(3);
+        names->restoreName(3);
         QCOMPARE(saved(*names, 0), ChannelNameForm::None);
         QCOMPARE(names->get(0).value("name").toString(), "正门"); // without the spaces
         names->set(3, "Hof");
