@@ -96,10 +96,10 @@ struct ExposureItem
 {
     std::uint32_t size;
     std::int32_t mode;
-    std::int32_t antiFlicker;
-    std::int32_t exposure; ///< kind of exposure
-    float shortestShutter; ///< in milliseconds
-    float longestShutter;
+    std::int32_t antiFlicker; ///< 0 outdoors, 1 50 Hz, 2 60 Hz
+    std::int32_t exposure;    ///< 0 automatic, 1 manual, 2 gain priority, 3 shutter priority
+    float shortestShutter;    ///< in milliseconds
+    float longestShutter;     ///< in milliseconds
     std::int32_t gain;
     std::int32_t gainMinimum;
     std::int32_t gainMaximum;
@@ -142,7 +142,7 @@ struct WhiteBalanceItem
 {
     std::uint32_t size;
     std::int32_t mode;
-    std::int32_t type;
+    std::int32_t type; ///< 0 automatic, 1 natural light, 2 street lamp, 3 outdoors, 4 manual, 5 region
     std::int32_t gainBlue;
     std::int32_t gainRed;
     std::array<std::int32_t, 2> reserved;
@@ -188,10 +188,10 @@ struct MixedLightItem
 {
     std::uint32_t size;
     std::int32_t mode;
-    std::int32_t controlMode;
-    std::int32_t mixMode;   ///< which lights: 0 infrared, 1 white, 2 selected by the camera
-    std::int32_t lightMode; ///< which lamps: 0 near and far, 1 near, 2 far
-    std::int32_t sensitive; ///< 1, 3 or 5
+    std::int32_t controlMode; ///< 0 off, 1 manual, 2 automatic
+    std::int32_t mixMode;     ///< which lights: 0 infrared, 1 white, 2 selected by the camera
+    std::int32_t lightMode;   ///< which lamps: 0 near and far, 1 near, 2 far
+    std::int32_t sensitive;   ///< 1, 3 or 5
     std::int32_t correction;
     std::int32_t brightness;
     std::int32_t delay; ///< in seconds
@@ -273,8 +273,8 @@ enum class CameraValue : std::uint32_t
 /// Output of CapabilityQuery::Camera. In a mask, bit N is set if the camera supports value N.
 struct CameraCapabilities
 {
-    std::uint32_t size; ///< sizeof(CameraCapabilities), set by the caller
-    std::uint32_t groups;
+    std::uint32_t size;           ///< sizeof(CameraCapabilities), set by the caller
+    std::uint32_t groups;         ///< CameraGroup: bit N is set if the camera has the group
     std::uint32_t switchModeMask; ///< CameraMode
     std::uint32_t colorStyleMask;
     std::uint32_t rotateMask;

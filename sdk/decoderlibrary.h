@@ -84,7 +84,7 @@ public:
     virtual bool DecoderSetStreamMode(std::int32_t port, std::uint32_t mode) = 0;
 
     /// Opens the port for data. `header` of `headerSize` bytes is the header of the stream; null and 0 if the
-    /// data contain it. At most `bufferSize` bytes are buffered.
+    /// data contain it. At most `bufferSize` bytes are buffered, 1 or more. Returns false for an open port.
     virtual bool DecoderOpenStream(std::int32_t port, const std::uint8_t *header, std::uint32_t headerSize,
                                    std::uint32_t bufferSize) = 0;
 
@@ -113,7 +113,7 @@ public:
 
     /// Writes a frame (its bytes as DecodedFrameType::Picture) to the file of that name in the local 8-bit
     /// encoding; an existing file is replaced. `quality` is 1 to 100. `colour` is
-    /// DecodedFrameInformation::colour of the frame. Returns false for a null frame, a size below 1 and a
+    /// DecodedFrameInformation::colour of the frame. Returns false for a null frame, a width, height or
     /// quality out of range, and when the file cannot be written: an existing file is unchanged then.
     virtual bool DecoderSaveFrame(const std::uint8_t *picture, std::int32_t width, std::int32_t height,
                                   SavedPictureType type, std::int32_t quality, const char *fileName,

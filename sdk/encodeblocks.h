@@ -35,7 +35,8 @@ enum class EncodeItem : std::uint32_t
     AudioFormat = 1105,
 };
 
-/// Compression codes are the bits of EncodeCapabilityBlock::compressionMask.
+/// Compression codes: 0 MPEG4, 5 MJPEG, 7 H.264, 8 H.265; others exist.
+/// EncodeCapabilityBlock::compressionMask has a bit for each code.
 inline constexpr std::int32_t compressionH264 = 7;
 inline constexpr std::uint32_t compressionCount = 10;
 
@@ -45,7 +46,7 @@ struct VideoFormatItem
     std::int32_t size;
     std::int32_t stream;
     std::int32_t videoEnable; ///< 0 or 1
-    std::int32_t compression; ///< 0 to 9
+    std::int32_t compression; ///< compression code, 0 to 9
     std::int32_t width;       ///< in pixels
     std::int32_t height;
     std::int32_t bitRateControl; ///< 0 fixed, 1 variable
@@ -75,7 +76,7 @@ struct AudioCompressionItem
     std::int32_t size;
     std::int32_t audioEnable; ///< 0 or 1
     std::int32_t stream;
-    std::int32_t format; ///< audio format, in the numbering of configurations
+    std::int32_t format; ///< 1 G.711 A-law, 2 PCM, 3 G.711 u-law, 5 AAC, 6 G.726; others exist
 };
 static_assert(sizeof(AudioCompressionItem) == 16);
 static_assert(offsetof(AudioCompressionItem, stream) == 8);
@@ -134,16 +135,17 @@ inline constexpr std::size_t maximumAudioRates = 24;
 /// bounded before they are used.
 struct EncodeCapabilityBlock
 {
-    std::uint32_t size; ///< sizeof(EncodeCapabilityBlock), set by the caller
-    std::uint32_t compressionMask;
+    std::uint32_t size;                    ///< sizeof(EncodeCapabilityBlock), set by the caller
+    std::uint32_t compressionMask;         ///< bit N is set if the device supports compression code N
     std::int32_t sizesDependOnCompression; ///< if not 0, `sizesByCompression` is used instead of `sizes`
     std::int32_t minimumBitRate;           ///< kbit/s
-    std::int32_t maximumBitRate;
-    std::int32_t maximumFrameRate;
-    std::uint32_t profileCount;                ///< used entries of `profiles`
-    std::array<std::int32_t, 8> profiles;      ///< H.264 profiles, 1 to 4; 0 for no profile
-    std::uint32_t audioFormatCount;            ///< used entries of `audioFormats`
-    std::array<std::int32_t, 64> audioFormats; ///< audio formats, in the numbering of capabilities
+    std::int32_t maximumBitRate;           ///< kbit/s
+    std::int32_t maximumFrameRate;         ///< frames per second
+    std::uint32_t profileCount;            ///< used entries of `profiles`
+    std::array<std::int32_t, 8> profiles;  ///< H.264 profiles, 1 to 4; 0 for no profile
+    std::uint32_t audioFormatCount;        ///< used entries of `audioFormats`
+    /// 1 PCM, 2 G.711 A-law, 4 G.711 u-law, 5 G.726, 8 AAC; others exist.
+    std::array<std::int32_t, 64> audioFormats;
     PictureSizeList sizes;
     std::array<PictureSizeList, 16> sizesByCompression; ///< by compression code
     std::uint32_t missingValues;  ///< EncodeValue: bit N is set if the device lacks the value
@@ -179,7 +181,7 @@ static_assert(sizeof(EncodeCapabilityInput) == 24);
 static_assert(offsetof(EncodeCapabilityInput, channel) == 8);
 static_assert(offsetof(EncodeCapabilityInput, text) == 16);
 
-/// One stream in EncodeRecord.
+/// One stream in EncodeRecord. The values have the meanings and units of the items of the same names.
 struct EncodeStreamRecord
 {
     std::int32_t videoEnabled; ///< 0 or 1
@@ -192,7 +194,7 @@ struct EncodeStreamRecord
     std::int32_t frameRate;
     std::int32_t quality;
     std::int32_t audioEnabled; ///< 0 or 1
-    std::int32_t audioFormat;
+    std::int32_t audioFormat;  ///< as AudioCompressionItem::format
     std::int32_t samplingFrequency;
     std::array<std::int32_t, 4> reserved;
 };

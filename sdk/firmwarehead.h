@@ -15,7 +15,7 @@ inline constexpr std::size_t longestFirmwareHead = 4096;
 struct FirmwareHead
 {
     std::vector<std::string> models; ///< of the devices that the file is for; empty if not reported
-    std::string version;             ///< "2.900.0", "2.900.0.R"; empty if not reported
+    std::string version;             ///< "2.900.0", "2.900.0.R"; never empty in a head that was read
 
     /// True if the file is for this model. Also true if the file reports no models, or `model` is empty.
     [[nodiscard]] bool fits(std::string_view model) const;
@@ -26,7 +26,7 @@ struct FirmwareHeadReading
 {
     enum class Kind
     {
-        Unknown, ///< the file does not start with a head; it may still be firmware
+        Unknown, ///< the file does not start with "BRELM-FIRMWARE"; it may still be firmware
         Damaged, ///< the head is invalid
         Known,
     };
@@ -41,8 +41,8 @@ struct FirmwareHeadReading
 ///     version=2.900.0
 ///     (an empty line)
 ///
-/// Other keys are ignored. A line may end with CR LF. A version ends at the first space or comma, which may
-/// be followed by a build date.
+/// Other keys are ignored. A head without a version is damaged. A line may end with CR LF. A version ends at
+/// the first space or comma, which may be followed by a build date.
 [[nodiscard]] FirmwareHeadReading readFirmwareHead(std::string_view bytes);
 
 /// True if two versions, from files or devices, are the same firmware. A leading "v" is ignored, and so is
@@ -51,7 +51,8 @@ struct FirmwareHeadReading
 [[nodiscard]] bool isSameVersion(std::string_view one, std::string_view other);
 
 /// The models and the version in a file name without its folder: "B-2230-IR,B-2231-IR_2.900.0.bin". The
-/// version may have a leading "v", and may be followed by "_" and any text. Nothing for other names.
+/// version may have a leading "v", and may be followed by "_" and any text. Every model contains a digit.
+/// Nothing for other names.
 [[nodiscard]] std::optional<FirmwareHead> firmwareHeadOfName(std::string_view fileName);
 
 } // namespace sdk

@@ -73,7 +73,7 @@ enum class QueryCommand : std::uint32_t
     NetworkServices = 91, ///< NetworkServices
 };
 
-/// Response to QueryCommand::DeviceAttributes.
+/// Response to QueryCommand::DeviceAttributes. A string that fills its field does not end with a zero.
 struct DeviceAttributes
 {
     std::uint32_t size;

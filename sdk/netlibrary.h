@@ -72,8 +72,9 @@ public:
     virtual void NetSetCertificateHandler(CertificateHandler handler, void *user) = 0;
 
     /// Starts a search of the local segment and returns immediately. Responses are passed to
-    /// `parameter.handler` on threads of the library until NetStopSearchDevices. `wait` is the timeout for
-    /// sending the request. Returns the handle of the search, 0 on failure.
+    /// `parameter.handler` until NetStopSearchDevices: on threads of the library, and possibly on the calling
+    /// thread before the return. `wait` is the timeout for sending the request. Returns the handle of the
+    /// search, 0 on failure.
     virtual std::int64_t NetStartSearchDevices(const SearchParameter &parameter,
                                                std::chrono::milliseconds wait) = 0;
 
@@ -81,14 +82,16 @@ public:
     virtual std::int64_t NetStartSearchDevicesEx(const SearchParameterEx &parameter,
                                                  std::chrono::milliseconds wait) = 0;
 
-    /// Sends a search to each address of `request` and blocks until `wait` has passed or NetCleanup is
-    /// called. Responses are passed to `handler` on threads of the library during the call, never after it.
-    /// Returns false when the request is malformed (size, count) or could not be sent.
+    /// Sends a search to each address of `request` and blocks until `wait` has passed, NetCleanup is called
+    /// or no further response is expected. Responses are passed to `handler` on threads of the library during
+    /// the call, never after it. Returns false when the request is malformed (size, count) or could not be
+    /// sent.
     virtual bool NetSearchDevicesByIPs(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
                                        void *user, const char *localAddress,
                                        std::chrono::milliseconds wait) = 0;
 
-    /// The same with the second kind of search.
+    /// The same with the second kind of search. A library with one kind of search returns immediately,
+    /// without responses.
     virtual bool NetSearchDevicesByIPsEx(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
                                          void *user, const char *localAddress,
                                          std::chrono::milliseconds wait) = 0;
@@ -163,8 +166,8 @@ public:
     /// if no device responds at the new one.
     ///
     /// A CallStop of the calling thread ends the call. Before the address is sent, the error is Cancelled and
-    /// nothing has changed. Afterwards the error is that of a device that does not respond: its address may
-    /// have changed.
+    /// nothing has changed. Afterwards the error is Unconfirmed, or that of a device that does not respond:
+    /// its address may have changed.
     virtual bool NetModifyDeviceBySearch(const ModifyDeviceInput &input, DeviceRequestOutput &output,
                                          std::chrono::milliseconds wait) = 0;
 

@@ -33,6 +33,7 @@ enum class P2PAgentEvent : std::int32_t
 using P2PAgentMessageHandler = void (*)(P2PAgentEvent event, const char *deviceId, std::int32_t localPort,
                                         void *user);
 
+/// The capacity with which callers call OAgent_ClientGetDeviceLocalPort.
 inline constexpr int maximumLocalPorts = 10;
 
 /// Maps ports of remote devices to local ports of 127.0.0.1. Operations may be called from any thread. Those
@@ -55,7 +56,7 @@ public:
                                                  std::int32_t &count) = 0;
 
     /// Maps a port of the device. `localPort` is the requested local port, 0 for any; it is set to the
-    /// assigned port.
+    /// assigned port. `flag` is always 0.
     virtual bool OAgent_ClientAddPort(const char *deviceId, std::int32_t devicePort, std::int32_t &localPort,
                                       std::int32_t flag) = 0;
 

@@ -18,7 +18,7 @@ struct SdkLibraries
     std::shared_ptr<ConfigLibrary> config;
     std::shared_ptr<DecoderLibrary> decoder;
     std::shared_ptr<P2PAgentLibrary> p2pAgent;
-    std::shared_ptr<Clock> clock; ///< never null; used by all timeouts and timestamps
+    std::shared_ptr<Clock> clock; ///< of all timeouts and timestamps; never null after start-up
 };
 
 } // namespace sdk

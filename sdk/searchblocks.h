@@ -66,8 +66,8 @@ static_assert(sizeof(SearchAnswer) == 3304);
 static_assert(offsetof(SearchAnswer, device) == 72);
 
 /// Receives responses on threads of the network library; several calls may run at the same time. `answer` is
-/// valid during the call only. `searchHandle` is 0 for responses to NetSearchDevicesByIPs and
-/// NetSearchDevicesByIPsEx.
+/// valid during the call only. `searchHandle` is 0 for responses to NetSearchDevicesByIPs,
+/// NetSearchDevicesByIPsEx and NetSearchDeviceByIp.
 using SearchAnswerHandler = void (*)(std::int64_t searchHandle, const SearchAnswer *answer, void *user);
 
 /// Given to NetStartSearchDevices.

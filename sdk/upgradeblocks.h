@@ -6,13 +6,13 @@
 
 namespace sdk {
 
-/// The phase of an upgrade. The phases follow each other in this order.
+/// The phase of an upgrade: Sending, Writing, Done. Failed can follow Sending or Writing.
 enum class UpgradePhase : std::int32_t
 {
     Sending = 1, ///< the file is sent to the device; the upgrade can be cancelled
     Writing = 2, ///< the device replaces its firmware; the upgrade cannot be cancelled
-    Done = 3,    ///< the firmware is written; the device reboots, and its sessions have ended
-    Failed = 4,  ///< the device keeps its previous firmware
+    Done = 3,    ///< the device has accepted the firmware and reboots; its sessions end
+    Failed = 4,  ///< the upgrade has ended; the device usually keeps its previous firmware
 };
 
 /// The progress of an upgrade.
@@ -20,14 +20,14 @@ struct UpgradeProgress
 {
     std::uint32_t size; ///< sizeof(UpgradeProgress)
     UpgradePhase phase;
-    std::int32_t percent; ///< of the phase, 0 to 100
+    std::int32_t percent; ///< of the phase, 0 to 100; 0 with Failed
     std::uint32_t error;  ///< a NetError with Failed, else 0
 };
 static_assert(sizeof(UpgradeProgress) == 16);
 static_assert(offsetof(UpgradeProgress, error) == 12);
 
 /// Called on a thread of the library, one call at a time for each upgrade. `progress` is valid during the
-/// call. Done or Failed is the last call.
+/// call. Done or Failed is the last call. After a cancelled upgrade neither is reported.
 using UpgradeProgressHandler = void (*)(std::int64_t upgradeHandle, const UpgradeProgress *progress,
                                         void *user);
 

@@ -10,7 +10,7 @@
 namespace sdk::binding {
 
 /// Loads the libraries that a binding file (bindingfile.h) names, and resolves every function before any is
-/// called. The clock stays empty.
+/// called. The clock stays null: the caller sets it.
 [[nodiscard]] std::variant<SdkLibraries, BindingProblem> bindLibraries(const std::filesystem::path &file);
 
 } // namespace sdk::binding

@@ -13,8 +13,8 @@ namespace sdk::onvif {
 struct AddressOrder
 {
     std::string address = {}; ///< unused with `dhcp`, as are the next two
-    std::string mask = {};
-    std::string gateway = {}; ///< empty for none
+    std::string mask = {};    ///< dotted; empty for the present mask
+    std::string gateway = {}; ///< empty for the present gateway
     bool dhcp = false;
     std::string mac = {}; ///< of the device, empty if unknown
     /// Timeouts until a device responds at its new address, without and with a reboot. For most of a minute,
@@ -29,10 +29,11 @@ struct AddressOrder
 /// restored when the device refuses the address.
 ///
 /// A CallStop of this thread ends the wait for the device, and cancelling `http` ends every request. Returns
-/// Cancelled if the call was stopped before anything was changed.
+/// Cancelled if the CallStop was requested before anything was changed.
 ///
-/// Returns AddressInUse if another device responds at the present or at the new address, Unconfirmed if no
-/// device responds at the new one.
+/// Returns InvalidValue for an invalid mask and for an empty address without DHCP. Returns AddressInUse if
+/// another device responds at the present or at the new address, Unconfirmed if no device responds at the new
+/// one.
 [[nodiscard]] NetError changeAddress(const ServiceAddress &service, const std::shared_ptr<HttpClient> &http,
                                      const HttpLogin &login, const AddressOrder &order,
                                      SoapClient::Deadline deadline);

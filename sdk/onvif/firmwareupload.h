@@ -26,16 +26,20 @@ public:
     explicit FirmwareUploads(std::shared_ptr<const CertificateDecision> decision);
     ~FirmwareUploads();
 
+    /// True for a file that can be opened and is not empty.
     [[nodiscard]] static bool isReadable(const std::string &fileName);
 
-    /// Starts the upload of the file, after the delay that the device has requested. Returns the handle, 0
-    /// when no thread can be created.
+    /// Starts the upload of the file, after the delay that the device has requested. The progress is reported
+    /// on the thread of the upload, possibly before the return. Returns the handle, 0 when no thread can be
+    /// created.
     [[nodiscard]] std::int64_t open(LLONG loginHandle, const FirmwareUpload &upload, const HttpLogin &login,
                                     const std::string &fileName, UpgradeProgressHandler handler, void *user);
 
-    /// Ends an upload and frees its handle. NotSupported while the device has the complete file and has not
-    /// responded; InvalidValue for an invalid handle.
+    /// Ends an upload and frees its handle. The handler does not run after a successful call. NotSupported
+    /// while the device has the complete file and has not responded; InvalidValue for an invalid handle.
     [[nodiscard]] NetError close(std::int64_t handle);
+    /// Ends the uploads of a session, also those whose response is outstanding. Their handlers do not run
+    /// after the return.
     void closeAllOf(LLONG loginHandle);
     void closeAll();
 

@@ -9,7 +9,7 @@
 
 namespace sdk::binding {
 
-/// Longer times are limited to the largest value.
+/// In milliseconds. A negative time becomes 0, a longer time than the largest value becomes that value.
 [[nodiscard]] inline std::int32_t cValue(std::chrono::milliseconds time)
 {
     return static_cast<std::int32_t>(

@@ -21,10 +21,10 @@ struct ConfigField
     const char *key;
     std::size_t offset; ///< in the record
     ConfigFieldKind kind;
-    std::int32_t minimum = 0;
-    std::int32_t maximum = 0;
-    std::size_t size = 0;
-    const ConfigField *inner = nullptr;
+    std::int32_t minimum = 0;           ///< of a number
+    std::int32_t maximum = 0;           ///< of a number
+    std::size_t size = 0;               ///< of a text, in bytes
+    const ConfigField *inner = nullptr; ///< the fields of an object
     std::size_t innerCount = 0;
 };
 

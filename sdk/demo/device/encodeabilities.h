@@ -11,22 +11,22 @@ namespace sdk::demo {
 /// One kind of stream, from the scene's capabilities ("encode": "main", "sub") or those of a typical camera.
 struct StreamAbilities
 {
-    QList<int> compressions; ///< codes
-    QList<int> profiles;     ///< of H.264
+    QList<int> compressions; ///< compression codes
+    QList<int> profiles;     ///< of H.264, 1 to 4
     QList<PictureSize> sizes;
     QMap<int, QList<PictureSize>> sizesByCompression; ///< replaces `sizes` unless it is empty
-    int minimumBitRate = 0;
-    int maximumBitRate = 0;
-    int maximumFrameRate = 0;
-    QList<int> audioFormats; ///< codes of capabilities
-    QList<int> samplingFrequencies;
+    int minimumBitRate = 0;                           ///< kbit/s
+    int maximumBitRate = 0;                           ///< kbit/s
+    int maximumFrameRate = 0;                         ///< frames per second
+    QList<int> audioFormats;                          ///< as EncodeCapabilityBlock::audioFormats
+    QList<int> samplingFrequencies;                   ///< Hz
 
     [[nodiscard]] QList<PictureSize> sizesOf(int compression) const
     {
         return sizesByCompression.isEmpty() ? sizes : sizesByCompression.value(compression);
     }
 
-    /// The encoder's highest bit rate for a size of image.
+    /// The encoder's highest bit rate for a frame size in pixels, in kbit/s.
     [[nodiscard]] int maximumBitRateOf(int width, int height) const;
 };
 

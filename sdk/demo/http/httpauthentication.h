@@ -1,4 +1,4 @@
-// Digest (MD5, quality "auth") and Basic authentication with the accounts of a device.
+// HTTP authentication with the accounts of a device: Digest (MD5, qop "auth") and Basic.
 #pragma once
 
 #include "sdk/demo/http/httpmessage.h"
@@ -29,11 +29,12 @@ public:
     HttpAuthentication();
 
     /// Checks the header "Authorization" of `request`. An uninitialised device accepts no credentials. `now`
-    /// is the time on the site's clock.
+    /// is the time on the site's clock, in ms since 1970.
     [[nodiscard]] HttpCredentials check(const SceneDevice &device, const HttpRequest &request,
                                         std::int64_t now) const;
 
-    /// The header with the challenge of the device's scheme.
+    /// The complete line of the header "WWW-Authenticate" with the challenge of the device's scheme, without
+    /// a line end. With `isStale` it reports that the nonce of the last request has expired.
     [[nodiscard]] QByteArray challenge(const SceneDevice &device, bool isStale, std::int64_t now) const;
 
 private:

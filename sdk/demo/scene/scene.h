@@ -36,8 +36,8 @@ struct SceneChannel
 struct SceneMaintenance
 {
     std::chrono::milliseconds clockAhead{0}; ///< offset of the device's clock from the site's clock
-    std::int64_t offlineFrom = 0;            ///< start of a reboot, on the site's clock
-    std::int64_t offlineUntil = 0;           ///< end of the reboot
+    std::int64_t offlineFrom = 0;            ///< start of a reboot, on the site's clock, in ms since 1970
+    std::int64_t offlineUntil = 0;           ///< end of the reboot, on the same clock
     VideoStandard videoStandard = VideoStandard::Pal;
 };
 
@@ -71,7 +71,7 @@ struct SceneDevice
     QString p2pId;             ///< the device's ID at the port agent; empty without one
     QList<SceneAccount> accounts;
     QList<SceneChannel> channels;
-    QJsonObject capabilities;
+    QJsonObject capabilities;        ///< as in scene files: scenes/README.md
     ChannelSettings channelSettings; ///< settings that were written to the channels; not part of scene files
     QJsonObject configuration;       ///< by name; overrides the device's own state
     std::chrono::milliseconds latency{100}; ///< from a request to the response

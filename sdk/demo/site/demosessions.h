@@ -34,8 +34,10 @@ public:
 
     /// Stops the running calls as well.
     bool close(std::int64_t handle);
+    /// Stops the running calls of the session; later calls are not affected.
     bool cancelCalls(std::int64_t handle);
 
+    /// Does not stop the running calls.
     void closeAll();
 
     /// Updates the password of a session that has changed it.

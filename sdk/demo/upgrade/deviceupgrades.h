@@ -36,6 +36,7 @@ public:
 
     /// Transfers are cancelled. A device that is writing continues without reports.
     void closeAllOf(std::int64_t loginHandle);
+    /// Ends all upgrades, also of devices that are writing.
     void closeAll();
 
 private:

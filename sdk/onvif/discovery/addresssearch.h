@@ -20,19 +20,20 @@ namespace sdk::onvif {
 class HttpClient;
 class SearchCounters;
 
-/// One search: a probe to each address, then a request over HTTP to each address without a response.
+/// One search: a probe to each address, then a request over HTTP (ports 80 and 8080) to each address without
+/// a response.
 class AddressSearch
 {
 public:
-    /// Called on any thread, one call at a time.
+    /// Called on threads of the search, one call at a time.
     using Reporter = std::function<void(const FoundDevice &device)>;
 
     /// `counters` and `isCancelled` must outlive the search.
     AddressSearch(std::shared_ptr<HttpClient> http, Reporter reporter, SearchCounters &counters,
                   const std::atomic_bool &isCancelled);
 
-    /// Blocks until every address was queried in both ways, `wait` has passed or the search is cancelled.
-    /// Each address is reported at most once.
+    /// Blocks until every address has responded or was queried in both ways, `wait` has passed or the search
+    /// is cancelled. Each address is reported at most once.
     void run(const std::vector<std::string> &addresses, std::chrono::milliseconds wait);
 
 private:

@@ -29,13 +29,15 @@ namespace sdk::onvif {
 
 class HttpClient;
 
-/// Finds devices by WS-Discovery. Any thread may call it. Handlers run on threads of the object.
+/// Finds devices by WS-Discovery. Any thread may call it. The handlers of local searches run one at a time,
+/// on threads of the object, and on the calling thread of start().
 ///
 /// A device is reported after a request without a login has determined its state, so that its row is complete
 /// when it appears. If the device does not respond to that request, or if the inspections before it take too
-/// long, it is reported with an unknown state. Devices in the networks of this host are inspected first,
-/// since devices of foreign networks often cannot respond. A device is inspected once, regardless of the
-/// number of running searches.
+/// long, it is reported with the state NotReported. It is not reported if its message alone is not
+/// sufficient: if no announced service has its own address. Devices in the networks of this host are
+/// inspected first, since devices of foreign networks often cannot respond. A device is inspected once,
+/// regardless of the number of running searches.
 class DeviceDiscovery
 {
 public:
@@ -45,16 +47,17 @@ public:
     DeviceDiscovery(const DeviceDiscovery &) = delete;
     DeviceDiscovery &operator=(const DeviceDiscovery &) = delete;
 
-    /// Starts a search of the networks of all interfaces. Returns its handle, 0 if no interface can be
-    /// searched.
+    /// Starts a search of the networks of all interfaces. Devices that running searches have found are passed
+    /// to `handler` before the return. Returns the handle of the search; 0 if no interface can be searched,
+    /// and after cancel().
     std::int64_t start(SearchAnswerHandler handler, void *user);
 
     /// Ends a search. Its handler does not run after the call. False for an invalid handle.
     bool stop(std::int64_t handle);
 
-    /// Sends a probe to each address and blocks until all have responded, `wait` has passed or cancel() is
-    /// called. An address that does not respond to the probe is queried over HTTP, since routers do not
-    /// always forward probes.
+    /// Searches each address and blocks until all are done, `wait` has passed or cancel() is called.
+    /// `handler` is called with the handle 0, one call at a time. Each address gets a probe; an address that
+    /// does not respond to the probe is queried over HTTP, since routers do not always forward probes.
     void searchAddresses(const std::vector<std::string> &addresses, SearchAnswerHandler handler, void *user,
                          std::chrono::milliseconds wait);
 
@@ -63,7 +66,8 @@ public:
     void fillReport(SearchReport &report) const;
 
     /// The device service that a search has found at an address and port. At an unknown port, the service has
-    /// the path of the standard and the identity of a device that was found at the address.
+    /// the path of the standard, HTTPS if isHttpsPort(port), and the identity of a device that was found at
+    /// the address.
     [[nodiscard]] ServiceAddress serviceAt(const std::string &address, int port) const;
 
     /// To be called after a device's address has changed: serviceAt() then finds its service at the new

@@ -16,7 +16,8 @@ namespace sdk::onvif {
 class DiscoverySockets
 {
 public:
-    /// Called with a datagram. `localAddress` is the address of the interface that received it, or empty.
+    /// Called with a datagram. `localAddress` is the address of the interface that received it, empty if
+    /// unknown.
     using Receiver = std::function<void(std::string_view datagram, const SocketAddress &sender,
                                         const std::string &localAddress)>;
 
@@ -25,18 +26,20 @@ public:
     DiscoverySockets(const DiscoverySockets &) = delete;
     DiscoverySockets &operator=(const DiscoverySockets &) = delete;
 
-    /// Called after sending from an address of this host. `error` is the system's error number, 0 on success.
+    /// Called after sending from an address of this host, or after its socket could not be opened. `error` is
+    /// the system's error number, 0 on success.
     using SendObserver = std::function<void(const std::string &localAddress, int error)>;
 
-    /// Opens a socket on each interface. Returns the number of opened sockets. `observer` is called for each
-    /// interface whose socket cannot be opened.
+    /// Opens the sockets. Returns the number of sockets that send to a group; those of loopback interfaces do
+    /// not. `observer` is called for each interface whose socket cannot be opened.
     std::size_t open(const SendObserver &observer = {});
 
-    /// Sends a message to the group through every interface. Returns the number of interfaces that sent it.
-    /// `observer` is called for each interface.
+    /// Sends a message to the group through every interface except loopback interfaces. Returns the number of
+    /// sockets that sent it. `observer` is called for each of them, also on an error.
     std::size_t sendToGroups(const std::string &message, const SendObserver &observer = {});
 
-    /// Sends a message to one address. Returns the system's error, 0 for none.
+    /// Sends a message to one address, from the first socket of its family that can. Returns the system's
+    /// error, 0 for none.
     [[nodiscard]] int sendTo(const std::string &message, const SocketAddress &address);
 
     /// Waits up to `milliseconds` for datagrams and passes the received ones to `receiver`, at most

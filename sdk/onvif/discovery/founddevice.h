@@ -15,37 +15,38 @@ struct FoundDevice
     std::string localAddress = {}; ///< of this host
     ServiceAddress service = {};
     DeviceAnnouncement announcement = {};
-    std::string mac = {};
+    std::string mac = {};     ///< "02:1a:c5:00:40:17"; empty if unknown
     bool isNeighbour = false; ///< `mac` is from the neighbour table of this host
     InitialisationBits state = InitialisationBits::NotReported;
 
-    // Set only for a device that responds without a login, empty otherwise.
+    // Known only if the device responds without a login; otherwise empty, and `dhcp` is false.
     std::string model = {};
     std::string firmwareVersion = {};
     std::string serialNumber = {};
-    std::string mask = {};
+    std::string mask = {}; ///< "255.255.255.0"
     std::string gateway = {};
     bool dhcp = false;
 };
 
-/// The device service of an announcement from `address`: the service whose URL contains this address (without
-/// the interface of a link-local address), HTTP preferred to HTTPS; otherwise the port and path of the first
-/// service, at this address. The host is always `address`, since a message may contain any host.
+/// The device service of an announcement from `address`. Scheme, port and path are those of the announced
+/// service whose host is `address` (with or without the interface of a link-local address), HTTP before
+/// HTTPS. Without such a service they are those of the first service, or the defaults of ServiceAddress if
+/// there is none. The host is always `address`, since a message may contain any host.
 [[nodiscard]] ServiceAddress serviceOf(const DeviceAnnouncement &announcement, const std::string &address);
 
 /// The MAC, otherwise the UUID; empty if neither is known.
 [[nodiscard]] std::string identityOf(const FoundDevice &device);
 
-/// True if the announcement contains a service at `address`.
+/// True if the host of an announced service is `address`, with or without its interface.
 [[nodiscard]] bool namesOwnService(const DeviceAnnouncement &announcement, const std::string &address);
 
-/// The search answer of the network library's interface.
+/// The device as the block that search handlers receive.
 [[nodiscard]] SearchAnswer searchAnswerOf(const FoundDevice &device);
 
-/// "255.255.255.0" for 24; empty for a length outside 0 to 32.
+/// "255.255.255.0" for 24; empty for a length outside 1 to 32.
 [[nodiscard]] std::string maskOf(int prefixLength);
 
-/// 24 for "255.255.255.0"; nothing for an invalid mask.
+/// 24 for "255.255.255.0"; nothing for an invalid mask and for "0.0.0.0".
 [[nodiscard]] std::optional<int> prefixLengthOf(std::string_view mask);
 
 } // namespace sdk::onvif

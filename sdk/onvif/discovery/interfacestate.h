@@ -10,11 +10,11 @@ namespace sdk::onvif {
 struct InterfaceState
 {
     std::string name = {};
-    std::string address = {}; ///< same form as NetworkInterface::address; empty if there is none
+    std::string address = {}; ///< as addressText() writes it; empty if there is none
     int prefixLength = 0;     ///< of `address`
     bool isUp = false;
-    bool hasLink = false;
-    bool sendsToGroups = false;
+    bool hasLink = false;       ///< a cable or a peer is connected
+    bool sendsToGroups = false; ///< can send multicast
     bool isLoopback = false;
 };
 

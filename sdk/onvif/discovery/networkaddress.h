@@ -22,7 +22,8 @@ struct SocketAddress
 /// host names: a search accepts addresses only.
 [[nodiscard]] std::optional<SocketAddress> socketAddress(const std::string &address, int port);
 
-/// The string of the address, with the interface of a link-local address; without brackets and port.
+/// The string of the address, with the interface of a link-local address; without brackets and port. Empty on
+/// failure.
 [[nodiscard]] std::string addressText(const SocketAddress &address);
 
 /// An active network interface of this host, with one of its addresses.
@@ -31,12 +32,12 @@ struct NetworkInterface
     std::string name = {};
     unsigned int index = 0;
     bool isIPv4 = true;
-    std::string address = {};
+    std::string address = {}; ///< as addressText() writes it
     bool isLoopback = false;
 };
 
-/// The interfaces that are up and can send to groups: one entry for each IPv4 address, and one for each
-/// interface with a link-local IPv6 address. Loopback interfaces are included; the caller filters them.
+/// The interfaces that are up and can send to groups: one entry for each IPv4 address and each link-local
+/// IPv6 address. Loopback interfaces are included; the caller filters them.
 [[nodiscard]] std::vector<NetworkInterface> networkInterfaces();
 
 } // namespace sdk::onvif

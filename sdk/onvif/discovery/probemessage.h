@@ -29,13 +29,13 @@ enum class ProbeKind
 struct DeviceAnnouncement
 {
     bool isLeaving = false; ///< a Bye message
-    std::string uuid = {};  ///< of the device, without "urn:uuid:", in lower case; may be empty
+    std::string uuid = {};  ///< of the device, 36 characters without "urn:uuid:", in lower case; may be empty
     std::vector<ServiceAddress> services = {}; ///< addresses of its device service, as the device knows them
     std::string name = {};
     std::string model = {};
     std::string location = {};
-    std::string mac = {}; ///< "02:1a:c5:00:40:17"; empty if the scopes contain none
-    bool isRecorder = false;
+    std::string mac = {};    ///< "02:1a:c5:00:40:17"; empty if the scopes contain none
+    bool isRecorder = false; ///< a type in its scopes contains "recorder"
 };
 
 /// The contents of a datagram.

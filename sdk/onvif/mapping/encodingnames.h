@@ -14,6 +14,7 @@ namespace sdk::onvif {
 
 /// 1 to 4 for the profiles of H.264; 0 for any other string.
 [[nodiscard]] int profileNumber(std::string_view profile);
+/// The name of such a number, "Baseline" for 1; empty for any other number.
 [[nodiscard]] std::string profileName(int number);
 
 /// The numbers of an audio format in configurations and in capabilities; 0 for an encoding without a number.

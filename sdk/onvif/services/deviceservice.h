@@ -28,8 +28,9 @@ struct DateTime
     int day = 0;
     int hour = 0;
     int minute = 0;
-    int second = 0;
+    int second = 0; ///< 0 to 60
 
+    /// True if every part is in its range, the year from 1970 to 2200. A day up to 31 is valid in any month.
     [[nodiscard]] bool isValid() const;
 };
 
@@ -48,10 +49,10 @@ struct DeviceInterface
     std::string token = {};
     bool isEnabled = true;
     std::string mac = {}; ///< as canonicalMac() writes it
-    bool hasIPv4 = false;
+    bool hasIPv4 = false; ///< IPv4 is configured and enabled
     bool dhcp = false;
-    std::string address = {}; ///< the one in use
-    int prefixLength = 0;
+    std::string address = {}; ///< the IPv4 address in use; empty if there is none
+    int prefixLength = 0;     ///< of `address`; 0 if not reported
     std::vector<std::string> ipv6Addresses = {};
 };
 
@@ -59,7 +60,7 @@ struct DeviceProtocol
 {
     std::string name = {}; ///< "HTTP", "HTTPS", "RTSP"
     bool isEnabled = false;
-    int port = 0;
+    int port = 0; ///< 0 if not reported or invalid
 };
 
 struct DeviceUser
@@ -71,7 +72,7 @@ struct DeviceUser
 struct NtpSettings
 {
     bool fromDhcp = false;
-    std::string server = {}; ///< the first one: an address or a name
+    std::string server = {}; ///< an address or a name: the manual server, otherwise the one from DHCP
 };
 
 /// The parameters of a firmware upload.
@@ -95,7 +96,8 @@ public:
     // Without the login.
 
     [[nodiscard]] ServiceResult<DeviceClock> clockOpenly();
-    /// Succeeds only on a device that has no administrator yet.
+    /// Succeeds on a device without an administrator. Some devices with an administrator also respond, with
+    /// all their users or with none.
     [[nodiscard]] ServiceResult<std::vector<DeviceUser>> usersOpenly();
     [[nodiscard]] ServiceResult<std::vector<DeviceInterface>> interfacesOpenly();
     [[nodiscard]] ServiceOutcome createAdministratorOpenly(const std::string &name,
@@ -105,6 +107,8 @@ public:
 
     [[nodiscard]] ServiceResult<DeviceInformation> information();
     [[nodiscard]] ServiceResult<DeviceClock> clock();
+    /// Sends `utc` only if the clock does not follow NTP, and the zone only if it is not empty. `local` is
+    /// not sent.
     [[nodiscard]] ServiceOutcome setClock(const DeviceClock &clock);
     /// URLs of the services by namespace. The older operation is used for a device without the newer one.
     [[nodiscard]] ServiceResult<std::map<std::string, std::string>> services();
@@ -114,15 +118,18 @@ public:
     [[nodiscard]] ServiceResult<std::vector<DeviceUser>> users();
     [[nodiscard]] ServiceOutcome setPassword(const DeviceUser &user, const std::string &password);
     [[nodiscard]] ServiceResult<NtpSettings> ntp();
+    /// Sends the server only if it is not empty and not from DHCP.
     [[nodiscard]] ServiceOutcome setNtp(const NtpSettings &settings);
     [[nodiscard]] ServiceResult<std::string> hostName();
 
-    /// Returns true if the device must be rebooted before the addresses are in use.
+    /// Sets the IPv4 address and prefix length of `interface`, or DHCP. The value is true if the device must
+    /// be rebooted before they are in use.
     [[nodiscard]] ServiceResult<bool> setAddress(const DeviceInterface &interface);
     [[nodiscard]] ServiceOutcome setDefaultGateway(const std::string &address);
     [[nodiscard]] ServiceOutcome reboot();
     /// Resets all settings to the factory defaults, including the network settings.
     [[nodiscard]] ServiceOutcome resetCompletely();
+    /// ProtocolMismatch if the response contains no usable address for the upload.
     [[nodiscard]] ServiceResult<FirmwareUpload> startFirmwareUpgrade();
 
 private:
@@ -134,8 +141,8 @@ private:
     const Deadline m_deadline;
 };
 
-/// A duration of XML Schema ("PT5S", "PT1M30S") in seconds, without fractions, at most a day; 0 for an
-/// invalid string.
+/// A duration of XML Schema ("PT5S", "PT1M30S") in whole seconds. Years and months count as 0. A longer
+/// duration than a day is limited to a day. 0 for an invalid string.
 [[nodiscard]] std::chrono::seconds xmlDuration(std::string_view text);
 
 } // namespace sdk::onvif

@@ -74,12 +74,12 @@ struct ImagingOptions
     std::vector<std::string> wideDynamicModes = {};
     ImagingRange wideDynamicLevel;
     std::vector<std::string> exposureModes = {};
-    ImagingRange exposureTime; ///< microseconds
-    ImagingRange minimumExposureTime;
-    ImagingRange maximumExposureTime;
-    ImagingRange gain; ///< dB
-    ImagingRange minimumGain;
-    ImagingRange maximumGain;
+    ImagingRange exposureTime;        ///< microseconds
+    ImagingRange minimumExposureTime; ///< microseconds
+    ImagingRange maximumExposureTime; ///< microseconds
+    ImagingRange gain;                ///< dB
+    ImagingRange minimumGain;         ///< dB
+    ImagingRange maximumGain;         ///< dB
     std::vector<std::string> whiteBalanceModes = {};
     ImagingRange redGain;
     ImagingRange blueGain;

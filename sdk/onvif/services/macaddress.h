@@ -5,8 +5,8 @@
 
 namespace sdk::onvif {
 
-/// A MAC address of any usual notation in the form "02:1a:c5:00:40:17". Empty if `text` is not a MAC address,
-/// or if it is all zeros.
+/// The MAC of `text` in the form "02:1a:c5:00:40:17". `text` has 12 hexadecimal digits; the characters ':',
+/// '-' and '.' are ignored. Empty for any other text and for a MAC of zeros.
 [[nodiscard]] std::string canonicalMac(std::string_view text);
 
 } // namespace sdk::onvif

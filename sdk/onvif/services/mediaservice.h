@@ -18,10 +18,10 @@ struct VideoEncoder
     std::string encoding = {}; ///< "JPEG", "H264", "H265", "MPEG4"
     int width = 0;
     int height = 0;
-    double frameRate = 0; ///< frames per second, 0 if the device does not report it
-    int bitRate = 0;      ///< kbit/s
-    int keyInterval = 0;  ///< frames from one key frame to the next
-    double quality = 0;
+    double frameRate = 0;     ///< frames per second, 0 if the device does not report it
+    int bitRate = 0;          ///< kbit/s
+    int keyInterval = 0;      ///< frames from one key frame to the next
+    double quality = 0;       ///< in the range of VideoEncodingOptions
     std::string profile = {}; ///< "Baseline", "Main", "Extended", "High", ...
     bool constantBitRate = false;
 };
@@ -61,10 +61,10 @@ struct VideoEncodingOptions
     std::string encoding = {};
     std::vector<std::pair<int, int>> sizes = {}; ///< width, height
     int minimumBitRate = 0;                      ///< kbit/s
-    int maximumBitRate = 0;
-    double maximumFrameRate = 0;
-    int minimumKeyInterval = 0;
-    int maximumKeyInterval = 0;
+    int maximumBitRate = 0;                      ///< kbit/s
+    double maximumFrameRate = 0;                 ///< frames per second
+    int minimumKeyInterval = 0;                  ///< frames
+    int maximumKeyInterval = 0;                  ///< frames
     double minimumQuality = 0;
     double maximumQuality = 0;
     std::vector<std::string> profiles = {};

@@ -15,7 +15,7 @@ struct ServiceResult
 {
     NetError error = NetError::None;
     std::string reason = {}; ///< the text of the device's fault, for a log
-    Value value = {};
+    Value value = {};        ///< empty on an error
 
     [[nodiscard]] bool isOk() const { return error == NetError::None; }
 };

@@ -31,18 +31,19 @@ public:
     using Deadline = SoapClient::Deadline;
 
     /// Logs in. On failure `error` is set and the result is null. NotSupported for a device without an
-    /// administrator, and for a device that responds to every request without a login.
+    /// administrator, and for a device that returns everything, including its users, without a login.
     [[nodiscard]] static std::shared_ptr<OnvifSession> open(const ServiceAddress &service,
                                                             const HttpLogin &login,
                                                             const std::shared_ptr<HttpClient> &http,
                                                             Deadline deadline, NetError &error);
 
+    /// Used by open(). The object has no properties of the device yet.
     OnvifSession(const ServiceAddress &service, std::unique_ptr<SoapClient> client);
 
     [[nodiscard]] SoapClient &client() { return *m_client; }
     [[nodiscard]] DeviceService device(Deadline deadline) { return {*m_client, m_service, deadline}; }
 
-    /// Nothing if the device has no such service.
+    /// The newer media service, otherwise the older one; nothing if the device has neither.
     [[nodiscard]] std::optional<MediaService> media(Deadline deadline);
     [[nodiscard]] std::optional<ServiceAddress> imagingService() const { return m_imaging; }
     [[nodiscard]] std::optional<ServiceAddress> deviceIoService() const { return m_deviceIo; }
@@ -100,7 +101,8 @@ private:
     int m_profileChanges = 0; ///< number of calls of clearProfiles()
 };
 
-/// The video sources of `profiles`, each with the profiles of its two largest frame sizes.
+/// The video sources of `profiles` in their order. The main profile of a source is the one with the largest
+/// frame; the second profile is the largest one that has another encoder. Profiles without video are ignored.
 [[nodiscard]] std::vector<MediaChannel> channelsOf(const std::vector<MediaProfile> &profiles);
 
 } // namespace sdk::onvif

@@ -29,8 +29,9 @@ struct PosixTimeZone
     [[nodiscard]] int offsetAt(const DateTime &standardTime) const;
 };
 
-/// Nothing for an invalid string. A rule in days of the year ("J60", "59") is not supported: the
-/// application's rules are in weeks or in days of a month.
+/// Nothing if the name or the offset of standard time is invalid. A zone whose rule is missing, invalid or in
+/// days of the year ("J60", "59") is read without daylight saving. A switch at a time outside 0:00 to 23:59
+/// is read as 2:00.
 [[nodiscard]] std::optional<PosixTimeZone> readPosixTimeZone(std::string_view text);
 
 } // namespace sdk::onvif

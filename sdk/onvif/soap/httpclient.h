@@ -20,9 +20,9 @@ namespace sdk::onvif {
 enum class HttpEnd
 {
     Answered,    ///< with any status
-    NotReached,  ///< no host responds at the address before the deadline
+    NotReached,  ///< no host responds at the address within 3 s or before the deadline
     NotAccepted, ///< the host at the address refuses the connection
-    NoAnswer,    ///< connected, but no complete response before the deadline
+    NoAnswer,    ///< no complete response before the deadline
     TooLarge,    ///< the response exceeds HttpClient::largestAnswer
     Broken,      ///< the connection ended early, or the response is not HTTP
     Cancelled,
@@ -34,9 +34,9 @@ enum class HttpEnd
 struct HttpAnswer
 {
     HttpEnd end = HttpEnd::NotReached;
-    long status = 0;
+    long status = 0; ///< HTTP status; 0 without a response
     std::string body = {};
-    bool offersDigest = false; ///< a challenge for HTTP Digest
+    bool offersDigest = false; ///< the last response contains a challenge for HTTP Digest
 };
 
 struct HttpLogin
@@ -59,8 +59,8 @@ public:
     HttpClient &operator=(const HttpClient &) = delete;
 
     /// Blocks until the response has arrived, `deadline` has passed, cancel() is called or the thread's
-    /// RunningCall is stopped. With `login`, a challenge of the device is answered once by HTTP Digest (RFC
-    /// 7616), and never by Basic, which would send the password.
+    /// RunningCall is stopped. With `login` (null for none), a challenge of the device is answered once by
+    /// HTTP Digest (RFC 7616), and never by Basic, which would send the password.
     [[nodiscard]] HttpAnswer post(const ServiceAddress &address, const std::string &body,
                                   const std::string &contentType, const HttpLogin *login,
                                   std::chrono::steady_clock::time_point deadline);
@@ -69,8 +69,9 @@ public:
     [[nodiscard]] HttpAnswer get(const ServiceAddress &address, const HttpLogin *login,
                                  std::chrono::steady_clock::time_point deadline);
 
-    /// Sends a local file as the body of a POST request. `progress` is called on this thread with the number
-    /// of sent bytes. The response must arrive before `deadline`.
+    /// Sends a local file as the body of a POST request. `progress`, if not empty, is called repeatedly on
+    /// this thread with the number of sent bytes; it starts again if the file is sent again with a login.
+    /// HttpEnd::Broken if the file cannot be read. The response must arrive before `deadline`.
     [[nodiscard]] HttpAnswer postFile(const ServiceAddress &address, const std::string &fileName,
                                       const HttpLogin *login,
                                       const std::function<void(std::int64_t sent)> &progress,

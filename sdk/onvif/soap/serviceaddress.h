@@ -37,9 +37,10 @@ inline constexpr int httpsPort = 443;
 
 /// The address of the service at `url` for a client that reached the device at `reached`. The host is always
 /// the host of `reached`, since the URL contains the address as the device knows it, and the message may be
-/// forged. The port is the port of `url` if its host is the reached host, otherwise the port of `reached`,
-/// since the connection may go through a forwarded port of a router. If `reached` is HTTPS, a service over
-/// HTTP is not used, since it would expose the encrypted data. The identity is that of `reached`.
+/// forged. Scheme and port are those of `url` if its host is the reached host, otherwise those of `reached`,
+/// since a router may forward the port. If `reached` is HTTPS, a service over HTTP is replaced by HTTPS at
+/// the port of `reached`, since HTTP would expose the encrypted data. The identity is that of `reached`.
+/// Nothing if serviceAddressOf(url) is nothing.
 [[nodiscard]] std::optional<ServiceAddress> serviceAt(const ServiceAddress &reached, std::string_view url);
 
 /// "[...]" around an IPv6 address.
