@@ -24,11 +24,13 @@ inline constexpr const char *deviceServicePath = "/onvif/device_service";
 /// "http://192.168.1.101", "https://[fd00::31]:8443": a URL without its path.
 [[nodiscard]] QString serviceRoot(const QString &address, int port, bool isSecure = false);
 
-/// The identity for a request over IPv4 or IPv6; its first address is of the same family.
+/// The identity for a request over `ipVersion` (4 or 6). Its first address is of that family, if the device
+/// has one.
 [[nodiscard]] DiscoveryIdentity discoveryIdentity(const sdk::demo::SceneDevice &device,
                                                   const DeviceManner &manner, int ipVersion);
 
-/// The name of the device; with the corresponding faults it has invalid bytes, or is too long.
+/// The name of the device as it reports it; with the corresponding faults it has invalid bytes, or is too
+/// long.
 [[nodiscard]] std::string reportedName(const sdk::demo::SceneDevice &device);
 [[nodiscard]] std::string reportedModel(const sdk::demo::SceneDevice &device);
 

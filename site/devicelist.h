@@ -9,7 +9,10 @@ class DemoSite;
 
 namespace site {
 
-/// A line for the host of the installer, then one for each device. The columns are separated by tabs.
+/// A line for the host of the installer ("installer", address/prefix length), then one for each device. The
+/// columns are separated by tabs: "device", "elsewhere" (another segment) or "left-out"; MAC; IPv4 and IPv6
+/// address; type; model; accounts ("user/password", separated by spaces); name; remarks. A missing address
+/// and missing accounts are "-".
 [[nodiscard]] QString deviceList(const sdk::demo::DemoSite &site);
 
 } // namespace site

@@ -15,10 +15,10 @@ namespace site {
 
 struct LoginOutcome
 {
-    UserLevel level = UserLevel::Anonymous; ///< of the client
+    UserLevel level = UserLevel::Anonymous; ///< of the client; Anonymous if the login is missing or refused
     QString user;
-    bool wasTried = false; ///< the request contains a user name
-    bool isStale = false;  ///< the nonce has expired
+    bool wasTried = false; ///< a user name and a password were checked
+    bool isStale = false;  ///< the nonce has expired: no password was checked
     QString reason = QStringLiteral("A user and a password are required"); ///< why the request is refused
 };
 
@@ -27,11 +27,12 @@ struct LoginOutcome
 class DeviceLogins
 {
 public:
-    /// `utc` is the time of the device.
+    /// Checks a token. `utc` is the time of the device, in ms since 1970.
     [[nodiscard]] LoginOutcome check(const sdk::demo::SceneDevice &device, const UserNameToken &token,
                                      std::int64_t utc);
 
-    /// The header "Authorization" of a request of that method. `now` is the time of the site.
+    /// Checks the value of the header "Authorization" of a request of that HTTP or RTSP method. `now` is the
+    /// time on the site's clock, in ms since 1970.
     [[nodiscard]] LoginOutcome check(const sdk::demo::SceneDevice &device, const DeviceManner &manner,
                                      const QByteArray &authorization, const QByteArray &method,
                                      std::int64_t now);

@@ -40,8 +40,9 @@ public:
 
     [[nodiscard]] const QString &mac() const { return m_mac; }
 
-    /// Updates the network to the state of the device. `now` is the time on the site's clock. A new address
-    /// is used after a delay, so that the response to the request that set it is sent from the old one.
+    /// Updates the network to the state of the device. `now` is the time on the site's clock, in ms since
+    /// 1970. A new address is used after a delay, so that the response to the request that set it is sent
+    /// from the old one.
     void follow(const sdk::demo::SceneDevice &device, std::int64_t now);
 
     /// Removes the device from the network, after a Bye message if possible.

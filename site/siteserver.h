@@ -31,7 +31,8 @@ public:
     SiteServer(sdk::demo::DemoSite &site, const SiteOptions &options);
     ~SiteServer();
 
-    /// Connects the devices to the interface of that name. On failure it returns false and sets `error`.
+    /// Connects the devices to the interface of that name. Devices with an objection (objectionTo()) are left
+    /// out. On failure it returns false and sets `error`.
     [[nodiscard]] bool start(const QString &interfaceName, QString *error);
 
     /// Updates the network to the state of the devices; to be called every followInterval.
@@ -39,7 +40,8 @@ public:
 
     [[nodiscard]] std::size_t deviceCount() const { return m_devices.size(); }
 
-    /// The reason why a device cannot be on a network; empty if it can.
+    /// The reason why a device cannot be on a network, as the end of a sentence: "is reached through the port
+    /// agent only". Empty if it can.
     [[nodiscard]] static QString objectionTo(const sdk::demo::SceneDevice &device);
 
 private:

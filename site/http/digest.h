@@ -17,9 +17,9 @@ struct DigestResponse
     QByteArray realm;
     QByteArray nonce;
     QByteArray uri;
-    QByteArray response;
+    QByteArray response;  ///< lower case
     QByteArray algorithm; ///< lower case; empty stands for MD5
-    QByteArray quality;   ///< "auth", or empty
+    QByteArray quality;   ///< qop: "auth", or empty
     QByteArray clientNonce;
     QByteArray nonceCount;
 };
@@ -37,14 +37,14 @@ class DigestNonces
 public:
     enum class State
     {
-        Foreign,
-        Old,
+        Foreign, ///< not made for this device by this object
+        Old,     ///< older than 5 minutes
         Good,
     };
 
     DigestNonces();
 
-    /// `now` is in ms since 1970.
+    /// A nonce for the device. `now` is in ms since 1970, also for check().
     [[nodiscard]] QByteArray make(const QString &mac, std::int64_t now) const;
     [[nodiscard]] State check(const QByteArray &nonce, const QString &mac, std::int64_t now) const;
 

@@ -18,7 +18,7 @@ public:
     /// Requests that the next frame of the stream is a key frame.
     void request(const QString &mac, const MediaStream &stream);
 
-    /// The number of requests.
+    /// The number of requests for the stream so far.
     [[nodiscard]] int count(const QString &mac, const MediaStream &stream) const;
 
     /// Blocks until there are more than `count` requests, or until a stop.

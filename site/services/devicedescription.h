@@ -1,4 +1,4 @@
-// The information that a device reports about itself.
+// The information that a device reports about itself. The functions are operations of the device service.
 #pragma once
 
 #include "site/services/servicecall.h"

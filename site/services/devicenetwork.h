@@ -16,7 +16,7 @@ ServiceResult getDns(ServiceCall &call);
 /// Applies addresses that were set for the next restart of the device.
 void applyPendingAddress(const ServiceCall &call);
 
-/// The prefix length of a dotted mask.
+/// The prefix length of a dotted mask; 0 for an invalid one.
 [[nodiscard]] int prefixLengthOf(const QString &mask);
 
 } // namespace site

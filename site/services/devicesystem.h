@@ -1,4 +1,4 @@
-// Reboot, reset and firmware of a device.
+// Reboot, reset and firmware of a device. The functions are operations of the device service.
 #pragma once
 
 #include "site/services/servicecall.h"

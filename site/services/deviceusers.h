@@ -1,4 +1,4 @@
-// The users of a device.
+// The users of a device. The functions are operations of the device service.
 #pragma once
 
 #include "site/services/servicecall.h"

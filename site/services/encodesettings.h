@@ -17,6 +17,7 @@ struct CodecName
     std::string_view media2; ///< "H265"
 };
 
+/// The name of a codec in the service; "MPEG4" and "MPV4-ES" for a code that CodecName does not list.
 [[nodiscard]] std::string_view mediaCodec(int compression);
 [[nodiscard]] std::string_view media2Codec(int compression);
 /// Nothing for a codec that the stream does not support.
@@ -25,11 +26,13 @@ struct CodecName
 [[nodiscard]] std::optional<int> compressionOfMedia2(const sdk::demo::StreamAbilities &abilities,
                                                      const QString &name);
 
-/// Conversion between profile numbers of the device and names such as "Main".
+/// The name of a profile number: 1 "Baseline", 2 "Main", 3 "Extended", 4 "High"; "Main" for any other number.
 [[nodiscard]] std::string_view profileName(int profile);
+/// The number of such a name; nothing for any other name.
 [[nodiscard]] std::optional<int> profileNamed(const QString &name);
 
-/// The names of a sound format in both services.
+/// The names of a sound format (AudioCompressionItem::format) in both services; "G711" and "PCMU" for a
+/// format without another name.
 [[nodiscard]] std::string_view mediaSound(int format);
 [[nodiscard]] std::string_view media2Sound(int format);
 

@@ -26,17 +26,19 @@ public:
     /// `site` and `poller` must outlive the uploads.
     FirmwareUploads(sdk::demo::DemoSite &site, Poller &poller) : m_site(site), m_poller(poller) {}
 
-    /// Returns the path for the upload of a file, which replaces an earlier path; nothing while the device
-    /// writes.
+    /// Returns the path of the URL for the upload of a file, which replaces an earlier path; nothing while
+    /// the device writes, and for a device with Fault::UpgradeBusy.
     [[nodiscard]] std::optional<QString> begin(const sdk::demo::SceneDevice &device);
 
     [[nodiscard]] static bool isUploadPath(const QByteArray &path);
 
-    /// Returns the function that receives the `size` bytes of a file.
+    /// Returns the function that receives the `size` bytes of a file. The bytes for an unknown path are
+    /// discarded. The function blocks for the duration of slow and hanging uploads.
     [[nodiscard]] BodyReceiver bodyReceiver(const HttpReceiver &receiver, const QByteArray &path,
                                             qint64 size);
 
-    /// The response to a complete file.
+    /// The response to a complete file: Ok if the device writes it, NotFound for an unknown path,
+    /// InternalServerError for a refused file.
     [[nodiscard]] sdk::demo::HttpResponse finish(const HttpReceiver &receiver, const QByteArray &path);
 
 private:

@@ -5,6 +5,7 @@
 
 namespace site {
 
+// Faults for an unknown token, and for settings that the device refuses.
 [[nodiscard]] ServiceResult noSuchProfile();
 [[nodiscard]] ServiceResult noSuchConfiguration();
 [[nodiscard]] ServiceResult refusedSettings();
@@ -16,17 +17,18 @@ void writeRange(XmlElement parent, const char *name, double minimum, double maxi
 void writeVideoSourceConfiguration(XmlElement element, const ServiceCall &call, int channel);
 void writeAudioSourceConfiguration(XmlElement element, const ServiceCall &call, int channel);
 
-/// The largest frame size of a channel.
+/// The largest frame size of the main streams of a device.
 [[nodiscard]] sdk::PictureSize largestSize(const sdk::demo::SceneDevice &device);
 
 /// The name of a channel.
 [[nodiscard]] QString channelName(const sdk::demo::SceneDevice &device, int channel);
 
-/// A stream's "main" or "sub" with the name of its channel.
+/// The name of the channel and the kind of the stream: "Gate main", "Gate sub".
 [[nodiscard]] QString profileTitle(const sdk::demo::SceneDevice &device, const MediaStream &stream);
 
 /// True if a profile has sound.
 [[nodiscard]] bool hasSound(const sdk::demo::SceneDevice &device, const MediaStream &stream);
+/// Switches the sound of a stream on or off. NotSupported if the device does not report its settings.
 [[nodiscard]] sdk::NetError switchSound(const ServiceCall &call, const MediaStream &stream, bool isOn);
 
 /// The URL of the stream for a client that has reached the device as in `call`.
@@ -38,7 +40,8 @@ void writeAudioSourceConfiguration(XmlElement element, const ServiceCall &call, 
 /// Writes a multicast configuration without a group.
 void writeMulticast(XmlElement parent);
 
-// Operations that are the same in both services, except the namespace of `prefix`.
+/// Requests a key frame of a profile. `profileToken` is the path of the element with its token in the
+/// request, with the prefix of the service: "trt:ProfileToken".
 ServiceResult requestKeyFrame(ServiceCall &call, const char *profileToken);
 
 } // namespace site

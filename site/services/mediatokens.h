@@ -34,7 +34,9 @@ enum class MediaObject
     AudioEncoder,
 };
 
+/// "Profile_1_main", "VideoEncoder_1_sub"
 [[nodiscard]] QString tokenOf(MediaObject object, const MediaStream &stream);
+// The numbers in tokens and paths start at 1: "VideoSource_1" for channel 0.
 [[nodiscard]] QString videoSourceToken(int channel);
 [[nodiscard]] QString videoSourceConfigurationToken(int channel);
 [[nodiscard]] QString audioSourceToken(int channel);
@@ -45,6 +47,7 @@ enum class MediaObject
 
 /// The number of channels of a device, connected or not; 1 for a device that reports none.
 [[nodiscard]] int channelCount(const sdk::demo::SceneDevice &device);
+/// False for a channel that the device does not have.
 [[nodiscard]] bool isConnected(const sdk::demo::SceneDevice &device, int channel);
 
 /// The streams of all channels that have a camera.

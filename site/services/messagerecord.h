@@ -5,7 +5,9 @@
 
 namespace site {
 
-/// Writes "00000001-02-1a-c5-00-40-25-request.xml" and "...-response.xml" into `folder`. Thread-safe.
+/// Writes "00000001-02-1a-c5-00-40-25-request.xml" and "...-response.xml" into `folder`, which must exist.
+/// The name has the number of the exchange, from 1 at the start of the process, and the MAC of the device. A
+/// failure is logged. Thread-safe.
 void recordExchange(const QString &folder, const HttpReceiver &receiver, const QByteArray &request,
                     const QByteArray &response);
 

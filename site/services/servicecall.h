@@ -39,7 +39,7 @@ struct ServiceCall
     const LoginOutcome login;
     const pugi::xml_node request; ///< the operation's element
     XmlElement response;          ///< the operation's element of the response
-    const std::int64_t now;       ///< on the site's clock
+    const std::int64_t now;       ///< on the site's clock, in ms since 1970
 
     /// "http://192.168.1.101": the address that the client has used.
     [[nodiscard]] QString root() const;
@@ -71,7 +71,7 @@ enum class Access
 
 struct ServiceOperation
 {
-    const char *name;
+    const char *name; ///< without a prefix: "GetUsers"
     Access access;
     ServiceResult (*run)(ServiceCall &call);
 };

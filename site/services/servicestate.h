@@ -7,7 +7,9 @@
 
 namespace site {
 
+/// Undefined if nothing is stored under `key`.
 [[nodiscard]] QJsonValue serviceState(const sdk::demo::SceneDevice &device, const QString &key);
+/// An undefined value removes the key.
 void setServiceState(sdk::demo::SceneDevice &device, const QString &key, const QJsonValue &value);
 
 } // namespace site
