@@ -131,7 +131,8 @@ public:
     virtual bool NetIsDeviceAlive(LLONG loginHandle, std::chrono::milliseconds wait) = 0;
 
     /// Reads a block of the device by command number into `buffer` of `bufferSize` bytes; `returnedSize` is
-    /// set to the number of filled bytes, at most `bufferSize`.
+    /// set to the number of filled bytes, 0 on failure. Fails for a block that does not fit. `channel` is not
+    /// used. Blocks and fails otherwise as NetQueryCapabilities().
     virtual bool NetQueryConfig(LLONG loginHandle, QueryCommand command, std::int32_t channel, void *buffer,
                                 std::uint32_t bufferSize, std::uint32_t &returnedSize,
                                 std::chrono::milliseconds wait) = 0;

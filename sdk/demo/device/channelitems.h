@@ -22,7 +22,8 @@ namespace sdk::demo {
 [[nodiscard]] std::optional<QByteArray> channelText(const SceneDevice &device, const QString &name,
                                                     std::int32_t channel);
 
-/// Writes such a JSON to the channel's items. Returns NotSupported if the device refuses it.
+/// Writes such a JSON to the channel's items. Returns NotSupported if the device refuses it, and for
+/// "Encode", whose settings are written by setChannelItem() only.
 [[nodiscard]] NetError setChannelText(SceneDevice &device, const QString &name, std::int32_t channel,
                                       const QByteArray &text);
 

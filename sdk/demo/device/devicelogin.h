@@ -23,9 +23,9 @@ enum class LoginKind
 class LoginGuard
 {
 public:
-    /// NetError::None if `device` accepts the account. An uninitialised device has no accounts and returns
-    /// NotSupported. The last attempt before an account locks fails as a wrong password; from then on the
-    /// right password fails as well.
+    /// NetError::None if `device` accepts the account, NoSuchAccount for an unknown account. An uninitialised
+    /// device has no accounts and returns NotSupported. The last attempt before an account locks fails as a
+    /// wrong password; from then on the right password fails as well.
     [[nodiscard]] NetError check(const SceneDevice &device, const QString &account, const QString &password,
                                  LoginKind kind);
 

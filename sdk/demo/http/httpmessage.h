@@ -62,9 +62,9 @@ struct HttpRequest
 /// The target of a request: "http://192.168.1.104:80/cgi-bin/time?set=x", or only the path and the query.
 struct HttpTarget
 {
-    QString scheme; ///< lower case; empty if the target starts with its path
-    QString host;   ///< an address, IPv6 without its brackets
-    int port = 80;
+    QString scheme;       ///< lower case; empty if the target starts with its path
+    QString host;         ///< an address, IPv6 without its brackets
+    int port = 80;        ///< 443 for the scheme "https" without a port
     QByteArray path;      ///< still encoded
     QByteArray query;     ///< still encoded, without the question mark
     bool isValid = false; ///< false for an invalid target, and for one with a user

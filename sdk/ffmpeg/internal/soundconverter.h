@@ -17,7 +17,8 @@ public:
     SoundConverter(const SoundConverter &) = delete;
     SoundConverter &operator=(const SoundConverter &) = delete;
 
-    /// The samples as 16-bit mono, valid until the next call. Empty if the conversion fails.
+    /// The samples as 16-bit mono, valid until the next call and as long as `frame`. Empty if the conversion
+    /// fails.
     [[nodiscard]] std::span<const std::int16_t> convert(const AVFrame &frame);
 
 private:

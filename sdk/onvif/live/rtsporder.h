@@ -18,10 +18,11 @@ struct RtspTimeouts
 struct RtspOrder
 {
     /// rtsp://ADDRESS[:PORT][/PATH][?QUERY]. The address is numeric: host names are not resolved. An account
-    /// in it is an error.
+    /// in it is an error. The path with the query has up to 1000 bytes.
     std::string url;
-    std::string account; ///< empty for none. UTF-8
-    std::string password;
+    std::string account;  ///< UTF-8, without colons, quotation marks, backslashes and control characters;
+                          ///< empty for none
+    std::string password; ///< UTF-8, without control characters
     RtspTimeouts timeouts;
 };
 

@@ -9,7 +9,7 @@ enum class StreamEnd
 {
     Stopped,           ///< by its owner
     BadUrl,            ///< not an rtsp:// URL with a numeric address, or too long
-    BadAccount,        ///< the account or the password cannot be sent: too long, or with control characters
+    BadAccount,        ///< the account or the password cannot be sent: too long, or an invalid character
     Refused,           ///< wrong account or password
     NotFound,          ///< the device has no such stream
     Busy,              ///< the device has reached its limit of streams

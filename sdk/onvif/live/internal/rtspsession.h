@@ -24,7 +24,7 @@ public:
     RtspSession(RtspAddress address, const RtspTimeouts &timeouts, std::stop_token stop,
                 std::function<void()> whenWaiting);
 
-    /// Sends TEARDOWN with a short timeout.
+    /// Sends TEARDOWN with a short timeout, except after a refused password.
     ~RtspSession();
     RtspSession(const RtspSession &) = delete;
     RtspSession &operator=(const RtspSession &) = delete;
