@@ -53,7 +53,7 @@ struct DiscoveryIdentity
 /// Counts the messages of a device since its start.
 struct DiscoverySequence
 {
-    std::int64_t instance = 0; ///< rises with each start
+    std::int64_t instance = 0; ///< time of the start, in seconds since 1970
     std::int64_t number = 0;
 };
 

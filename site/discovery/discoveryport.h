@@ -32,10 +32,10 @@ public:
     DiscoveryPort(const DiscoveryPort &) = delete;
     DiscoveryPort &operator=(const DiscoveryPort &) = delete;
 
-    /// False when the port is in use.
+    /// False when no socket is open, since the port is in use or the device has no address.
     [[nodiscard]] bool isOpen() const;
 
-    /// Sends Hello to the segment.
+    /// Sends Hello or Bye to the segment; nothing for a device of another segment.
     void sendHello();
     void sendBye();
 

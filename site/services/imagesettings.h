@@ -21,7 +21,7 @@ struct ImageSettings
     std::optional<sdk::DefogItem> defog;
 };
 
-/// Nothing when the channel has no settings.
+/// Nothing when the channel has neither picture nor exposure settings.
 [[nodiscard]] std::optional<ImageSettings> imageSettings(const sdk::demo::SceneDevice &device, int channel);
 
 void writeImageSettings(XmlElement element, const ImageSettings &settings);

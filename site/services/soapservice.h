@@ -12,6 +12,8 @@ public:
     /// `context` must outlive the service.
     explicit SoapService(ServiceContext &context) : m_context(context) {}
 
+    /// The response to a request with the text `body`. HttpStatus::None while the device is offline. Blocks
+    /// for the delay of a slow device.
     [[nodiscard]] sdk::demo::HttpResponse answer(const HttpReceiver &receiver,
                                                  const sdk::demo::HttpRequest &head, const QByteArray &body);
 

@@ -17,7 +17,7 @@ namespace site {
 struct UserNameToken
 {
     QString user;
-    QByteArray password; ///< as in the message
+    QByteArray password; ///< as in the message: the digest in base64, or the password itself
     bool isDigest = false;
     QByteArray nonce;   ///< decoded
     QByteArray created; ///< as in the message
@@ -42,7 +42,7 @@ enum class UnusableRequest
 [[nodiscard]] std::variant<SoapRequest, UnusableRequest> readSoapRequest(const QByteArray &bytes);
 
 /// True if the token was made with that password. `now` is the time of the device (UTC, ms since 1970): a
-/// token whose time differs too much is refused.
+/// token whose time differs by more than five minutes is refused, and so is a token without a digest.
 [[nodiscard]] bool provesPassword(const UserNameToken &token, const QString &password, std::int64_t now);
 
 } // namespace site

@@ -44,8 +44,8 @@ private:
 enum class XmlManner
 {
     UsualPrefixes, ///< the usual prefixes, "SOAP-ENV" for the envelope
-    OwnPrefixes,   ///< "ns1", "ns2" and so on
-    Defaults,      ///< prefix for the envelope only: each element of another namespace declares it
+    OwnPrefixes,   ///< "ns1", "ns2" and so on, "s" for the envelope
+    Defaults,      ///< most elements have no prefix and declare their namespace as the default one
 };
 
 /// A SOAP message.
