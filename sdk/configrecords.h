@@ -12,9 +12,9 @@ struct NetworkRecord
     std::uint32_t size;
     std::int32_t dhcpEnabled; ///< 0 or 1
     std::array<char, 64> hostName;
-    std::array<char, 40> mac;
+    std::array<char, 40> mac; ///< "02:1a:c5:00:40:17"
     std::array<char, 64> address;
-    std::array<char, 64> subnetMask;
+    std::array<char, 64> subnetMask; ///< dotted mask, or the prefix length of an IPv6 address
     std::array<char, 64> gateway;
     std::array<std::uint8_t, 16> reserved;
 };

@@ -12,8 +12,8 @@ namespace sdk {
 /// Given to NetInitDeviceAccount.
 struct InitDeviceAccountInput
 {
-    std::uint32_t size; ///< sizeof(InitDeviceAccountInput)
-    std::array<char, 40> mac;
+    std::uint32_t size;       ///< sizeof(InitDeviceAccountInput)
+    std::array<char, 40> mac; ///< of the device: "02:1a:c5:00:40:17"
     std::array<char, 128> account;
     std::array<char, 128> password;
     std::uint8_t passwordResetWay; ///< as in the device's search response

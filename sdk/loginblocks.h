@@ -92,9 +92,9 @@ static_assert(sizeof(DeviceAttributes) == 212);
 struct NetworkServices
 {
     std::uint32_t size;
-    std::int32_t webPort; ///< of the web page without TLS, 0 if not reported
-    std::int32_t servicePort;
-    std::int32_t rtspPort;
+    std::int32_t webPort;     ///< of the web page without TLS, 0 if not reported
+    std::int32_t servicePort; ///< the port of a login
+    std::int32_t rtspPort;    ///< 0 if not reported
     std::array<std::uint8_t, 3024> reserved;
 };
 static_assert(sizeof(NetworkServices) == 3040);

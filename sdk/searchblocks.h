@@ -16,13 +16,13 @@ struct SearchDeviceInformation
     std::int32_t ipVersion;                ///< 4 or 6: the family of `address`
     std::int32_t port;                     ///< service port, 1 to 65535
     std::array<char, 64> address;          ///< "0.0.0.0" while an IPv4 address is unset
-    std::array<char, 64> subnetMask;       ///< dotted mask, or the prefix length of an IPv6 address
+    std::array<char, 64> subnetMask;       ///< dotted mask, or the IPv6 prefix length; may be empty
     std::array<char, 64> gateway;          ///< empty if there is none
     std::array<char, 40> mac;              ///< "02:1a:c5:00:40:17"
     std::array<char, 32> deviceType;       ///< "IPC", "NVR", ...
     std::array<char, 32> detailModel;      ///< model text printed on the device
     std::array<char, 64> deviceName;       ///< set by the administrator
-    std::array<char, 128> softwareVersion; ///< digits and dots, without a leading letter
+    std::array<char, 128> softwareVersion; ///< as the device reports it: "2.900.0"
     std::array<char, 48> serialNumber;
     std::uint16_t httpPort;              ///< port of the device's web page, 0 if it has none
     std::uint8_t dhcpEnabled;            ///< 0 or 1

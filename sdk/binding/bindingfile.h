@@ -29,6 +29,8 @@ struct BindingSection
 /// By name.
 using BindingSections = std::map<std::string, BindingSection>;
 
+/// The sections of the file; FileUnreadable or LineUnusable on failure. Unknown sections and functions are
+/// not detected here.
 [[nodiscard]] std::variant<BindingSections, BindingProblem>
 readBindingFile(const std::filesystem::path &file);
 

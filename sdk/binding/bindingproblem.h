@@ -11,7 +11,7 @@ struct BindingProblem
     {
         FileUnreadable,  ///< `file` is the binding file
         LineUnusable,    ///< `name` is the line of the binding file that is neither a section nor an entry
-        SectionMissing,  ///< `name` is the section
+        SectionMissing,  ///< `name` is the section, which is missing or has no line "file"
         FunctionMissing, ///< the section of the library `file` does not list the function `name`
         FunctionUnknown, ///< the section of the library `file` lists the unknown function `name`
         LibraryUnusable, ///< the library `file` is missing or cannot be loaded; `name` is the system's reason

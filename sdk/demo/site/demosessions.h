@@ -30,7 +30,7 @@ public:
     /// Returns the handle.
     std::int64_t open(const DemoSession &session);
 
-    // These return false for an unknown handle.
+    // The next two return false for an unknown handle.
 
     /// Stops the running calls as well.
     bool close(std::int64_t handle);

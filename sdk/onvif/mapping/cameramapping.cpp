@@ -417,7 +417,7 @@ bool has(const ImagingOptions &options, CameraItem item)
     }
 }
 
-/// Calls `work` with an empty block of the item. False for an item that the standard does not have.
+/// Calls `work` with an empty block of the item. NotSupported for an item that the standard does not have.
 template<typename Work>
 NetError withBlock(CameraItem item, Work work)
 {

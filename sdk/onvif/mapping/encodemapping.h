@@ -1,4 +1,8 @@
 // The encode settings of a channel by the operations of the media services.
+//
+// Channels are counted from 0. A channel has the streams StreamKind::MainNormal and Sub. The functions fail
+// with NotSupported for a channel or stream that the device does not have, and with InvalidValue for a block
+// of another size or a value that the standard cannot express.
 #pragma once
 
 #include "sdk/encodeblocks.h"
@@ -12,6 +16,8 @@ namespace sdk::onvif {
 /// The configuration text "Encode" of a channel. On failure `error` is set and the text is empty.
 [[nodiscard]] std::string encodeConfiguration(OnvifSession &session, int channel,
                                               OnvifSession::Deadline deadline, NetError &error);
+/// Writes the streams one after another, without those whose video is disabled in `text`. After an error, the
+/// earlier ones stay written.
 [[nodiscard]] NetError setEncodeConfiguration(OnvifSession &session, int channel, std::string_view text,
                                               OnvifSession::Deadline deadline);
 
