@@ -23,7 +23,7 @@ struct RtspDevice
 
 // Each function returns a reference that the caller owns.
 
-/// Requires the same login as the other services.
+/// Requires the same login as the other services, except for OPTIONS. Digest with MD5 is always offered.
 [[nodiscard]] GstRTSPAuth *newAuthentication(RtspDevice &device);
 
 /// Its threads are in the network namespace of the device.

@@ -9,7 +9,7 @@
 
 namespace site {
 
-/// The items of a channel that apply at all times. Items that the camera does not support are empty.
+/// The items of a channel (from 0) in CameraMode::Normal. Items that the camera does not support are empty.
 struct ImageSettings
 {
     std::optional<sdk::PictureItem> picture;
@@ -26,8 +26,8 @@ struct ImageSettings
 
 void writeImageSettings(XmlElement element, const ImageSettings &settings);
 
-/// Reads the settings of `element`. Returns false for settings that the camera does not have, and for values
-/// out of range.
+/// Reads the settings of `element`. Missing elements change nothing. Returns false for settings that the
+/// camera does not have, and for values out of range; `settings` may be changed in part then.
 [[nodiscard]] bool readImageSettings(pugi::xml_node element, ImageSettings &settings);
 
 /// Writes the settings. The device accepts all or none of them.

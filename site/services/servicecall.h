@@ -41,7 +41,8 @@ struct ServiceCall
     XmlElement response;          ///< the operation's element of the response
     const std::int64_t now;       ///< on the site's clock, in ms since 1970
 
-    /// "http://192.168.1.101": the address that the client has used.
+    /// "http://192.168.1.101", "https://[fd00::31]:8443": the scheme, address and port that the client has
+    /// used.
     [[nodiscard]] QString root() const;
 
     /// Applies `change` to the device. NetError::ConnectTimeout when it has left the site.

@@ -13,8 +13,8 @@ namespace site {
 /// One service of a device.
 struct ServiceDescription
 {
-    const char *prefix;
-    const char *path;
+    const char *prefix; ///< as in soap/namespaces.h: "tds"
+    const char *path;   ///< of its URL: "/onvif/media_service"
     int majorVersion;
     int minorVersion;
 };
