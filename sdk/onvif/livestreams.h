@@ -65,6 +65,7 @@ public:
     /// `onRefusal` as for LiveStream.
     [[nodiscard]] std::int64_t open(LLONG loginHandle, const std::string &profile, const RtspOrder &order,
                                     const std::function<void()> &onRefusal, NetError &error);
+    /// Null for an invalid handle.
     [[nodiscard]] std::shared_ptr<LiveStream> stream(std::int64_t handle) const;
 
     /// False for an invalid handle.

@@ -14,7 +14,8 @@ public:
     /// `where` names the object in errors: "device 3 (02:1a:c5:00:40:17)".
     JsonKeys(const QJsonObject &object, const QString &where) : m_object(object), m_where(where) {}
 
-    /// The value of `key`, or `fallback` if the object has no such key.
+    /// The value of `key`, or `fallback` if the object has no such key. A value of another type or out of
+    /// range is an error.
     QString text(const QString &key, const QString &fallback = QString());
     int number(const QString &key, int minimum, int maximum, int fallback);
     bool boolean(const QString &key, bool fallback);

@@ -45,6 +45,7 @@ public:
 
     /// The device rejects its sessions from now on. The caller still has to close them.
     void endSessionsTo(const QString &mac);
+    /// nullopt for an unknown handle.
     [[nodiscard]] std::optional<DemoSession> session(std::int64_t handle) const;
 
 private:

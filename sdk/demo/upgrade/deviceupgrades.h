@@ -22,6 +22,7 @@ public:
     /// Both must outlive the upgrades.
     DeviceUpgrades(SiteState &site, DemoSessions &sessions) : m_site(site), m_sessions(sessions) {}
 
+    /// True while an upgrade of the device runs, also after the end of its session.
     [[nodiscard]] bool isUpgrading(const QString &mac) const;
 
     /// Returns the handle, 0 if the host provides no thread.

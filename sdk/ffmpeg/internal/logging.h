@@ -20,6 +20,7 @@ class LoggedErrors
 {
 public:
     LoggedErrors();
+    /// Always false before routeLog() was called.
     [[nodiscard]] bool any() const;
 
 private:
