@@ -23,7 +23,8 @@ public:
     /// "desktop", "light" or "dark".
     [[nodiscard]] QString choice() const { return m_choice; }
 
-    /// Applies and stores a choice, with the values of choice(). Returns false if it could not be stored.
+    /// Applies and stores a choice, with the values of choice(). Returns false if it could not be stored; it
+    /// then applies until the application ends.
     Q_INVOKABLE bool choose(const QString &choice);
 
 Q_SIGNALS:

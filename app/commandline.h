@@ -11,10 +11,11 @@ struct CommandLine
     bool demo = false; ///< run on a simulated site
     QString scene =
         QStringLiteral("office"); ///< of the simulated site: a name, "fleet:N" or the path of a file
-    QString error;                ///< describes the first invalid argument; empty if all are valid
+    QString error;                ///< describes the first invalid argument in English; empty for none
 
     /// `arguments` are those of QCoreApplication::arguments(), including the name of the application.
     [[nodiscard]] static CommandLine parse(const QStringList &arguments);
 
+    /// The text of "--help", in English, with a line break at its end.
     [[nodiscard]] static QString usage();
 };

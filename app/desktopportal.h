@@ -20,7 +20,7 @@ public:
     [[nodiscard]] std::optional<bool> prefersDark() const { return m_prefersDark; }
 
 Q_SIGNALS:
-    void changed();
+    void changed(); ///< prefersDark() has changed
 
 private Q_SLOTS:
     void handleResponse(const QDBusMessage &response);

@@ -8,8 +8,8 @@ class DesktopPortal;
 
 /// Whether the desktop prefers dark windows, and changes of the preference.
 ///
-/// The first available source counts: the desktop portal of a D-Bus, the settings of Windows, or Qt's
-/// palette, which is dark if its text is lighter than its windows. Main thread only.
+/// The first source with a preference decides: the desktop portal of a D-Bus, then the settings of Windows,
+/// then Qt's palette, which is dark if its text is lighter than its windows. Main thread only.
 class DesktopScheme : public QObject
 {
     Q_OBJECT
@@ -24,6 +24,7 @@ public:
 
     [[nodiscard]] bool isDark() const { return m_isDark; }
 
+    /// Observes the events of the application for changes of the palette and of the settings of Windows.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:

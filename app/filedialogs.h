@@ -8,7 +8,8 @@ class QFileDialog;
 
 /// The desktop's dialogs for files and folders, for QML. Functions do not block: `chosen` is called with the
 /// local path of the choice, and is not called if the dialog is cancelled. There is one dialog at a time;
-/// further calls have no effect. A dialog starts in the last folder of the previous one. Main thread only.
+/// further calls have no effect. A dialog starts in the last folder of the previous one, the first dialog in
+/// the user's home folder. Main thread only.
 class FileDialogs : public QObject
 {
     Q_OBJECT

@@ -22,6 +22,6 @@ inline constexpr std::array languageCodes = {
 
 class CLocalConfig;
 
-/// Returns the stored language code, or at a first start that of the system, which is then stored. Sets it as
-/// the current language of `localConfig`.
+/// Returns the stored language code. At a first start, returns and stores that of the system, or English if
+/// it has no translation file. Sets the result as the current language of `localConfig`.
 [[nodiscard]] QString resolveLanguage(CLocalConfig &localConfig, QLocale::Language systemLanguage);

@@ -258,7 +258,7 @@ void CLocalConfig::OpenQAFile()
 
 void CLocalConfig::openDocument(const QString &name)
 {
-    // The specified separator "\\" is valid in file names of other systems than Windows.
+    // Other systems than Windows accept "\\" as a character of a file name.
     const auto file = [this](QString document) {
         document.prepend(documentsFolder).append(QLatin1String(".pdf"));
 #ifndef Q_OS_WIN

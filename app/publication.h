@@ -24,7 +24,7 @@ struct DemoNotice
 };
 
 /// Sets the context properties of QML. `net` may be null, which the window reports. `batchEngine` and
-/// `colourScheme` outlive the engine. Batches change rows of `store`.
+/// `colourScheme` outlive the engine. A search keeps rows of `store` whose devices failed in a batch.
 void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
                     const std::shared_ptr<DeviceStore> &store,
                     const std::shared_ptr<CertificateStore> &certificates,

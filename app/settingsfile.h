@@ -15,7 +15,7 @@ public:
     explicit SettingsFile(const QString &path) : m_path(path) {}
 
     /// Sets the values of some keys; the others are kept. Creates the file if it does not exist. Returns an
-    /// error text, empty on success. Blocks until the file is on disk.
+    /// error text for the log, empty on success. Blocks until the file is on disk.
     [[nodiscard]] QString change(const QList<QPair<QString, QString>> &values) const;
 
 private:

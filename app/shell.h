@@ -23,21 +23,22 @@ public:
 
     explicit Shell(CommandLine commandLine);
 
-    /// Deletes the windows and the engine of QML, the local configuration, the object for commands, and the
-    /// device factory, in this order.
+    /// Deletes the windows and the engine of QML, the local settings (CLocalConfig), the object for commands
+    /// over HTTP (CGIConfigManage), and the device factory, in this order.
     ~Shell();
 
     Shell(const Shell &) = delete;
     Shell &operator=(const Shell &) = delete;
 
-    /// Chooses the language, acquires the single-instance lock, chooses the device libraries and loads QML.
-    /// Returns an exit code if the application must not run, after it has shown the reason.
+    /// Chooses colours and language, acquires the single-instance lock, chooses the device libraries, creates
+    /// the stores and back ends, and loads QML, in this order. Returns nullopt if the event loop may run.
+    /// Otherwise it has shown the reason and returns the exit code.
     [[nodiscard]] std::optional<int> begin();
 
     /// The engine of QML; null before a successful begin().
     [[nodiscard]] QQmlApplicationEngine *engine() const { return m_engine.get(); }
 
-    /// The libraries in use; empty before a successful begin().
+    /// The libraries in use; complete after a successful begin() only.
     [[nodiscard]] const sdk::SdkLibraries &libraries() const { return m_libraries; }
 
 private:

@@ -9,30 +9,32 @@
 /// Named strings in the group "view" of the settings file: columns and order of the tables, tab and position
 /// of the window. The other settings are not changed.
 ///
-/// Changes of one second are written together, because a drag of a column has many steps. Nothing is written
-/// without a settings file: a file with these strings alone would lack the defaults of the other settings.
-/// Main thread only.
+/// Changes are written one second after the last one, because a drag of a column has many steps. Without a
+/// settings file, nothing is written and the changes stay pending: a file with these strings alone would lack
+/// the defaults of the other settings. Main thread only.
 class ViewMemory : public QObject
 {
     Q_OBJECT
 public:
     static constexpr qsizetype longestText =
-        4096; ///< in characters; longer ones are not stored and read as empty
+        4096; ///< in characters; a longer string in the file reads as empty
 
     explicit ViewMemory(QString settingsPath, QObject *parent = nullptr);
     ~ViewMemory() override; ///< writes pending changes
 
-    /// The string of this name; empty if there is none.
+    /// The string of this name, also if it is not written yet; empty if there is none.
     Q_INVOKABLE [[nodiscard]] QString text(const QString &name) const;
 
-    /// Sets the string of this name. It is written within a second.
+    /// Sets the string of this name. It is written one second after the last change. A string of more than
+    /// longestText characters is ignored: the earlier one stays.
     Q_INVOKABLE void keep(const QString &name, const QString &text);
 
-    /// Writes pending changes. Blocks until they are on disk.
+    /// Writes pending changes before it returns.
     Q_INVOKABLE void write();
 
 Q_SIGNALS:
-    /// The first of consecutive failed writes. The changes stay pending for the next one.
+    /// The first of consecutive writes has failed. The changes stay pending for the next one. Not emitted if
+    /// there is no settings file.
     void failed();
 
 private:
