@@ -24,11 +24,12 @@ struct StoredAccount
 /// application, and the file is written completely or not at all. A device is identified by a string that
 /// does not depend on its address, such as its MAC, and has one account or none.
 ///
-/// A file that cannot be read contains no account. It is kept under another name when the user stores an
-/// account again. No password reaches the log.
+/// A file that cannot be read contains no account. It is kept under another name at the next change. No
+/// password reaches the log.
 ///
-/// Thread-safe. Only changes wait for the disk. A change returns the reason of its failure in the user's
-/// language, and changes nothing then; empty on success.
+/// Thread-safe. Only the constructor and changes wait for the disk. A change returns an empty string on
+/// success. Otherwise it changes nothing and returns the reason: a sentence in the user's language or, for a
+/// file that cannot be written, the error text of the system.
 class AccountStore
 {
     Q_DECLARE_TR_FUNCTIONS(AccountStore)
@@ -36,7 +37,7 @@ public:
     static constexpr qsizetype maximumAccounts = 500;
     static constexpr qsizetype maximumDevices = 50'000;
     static constexpr qsizetype maximumText = 63;          ///< characters of a name, an account or a password
-    static constexpr qsizetype maximumIdentity = 80;      ///< characters
+    static constexpr qsizetype maximumIdentity = 80;      ///< characters of a device identity in the file
     static constexpr qint64 maximumFileSize = 16'777'216; ///< bytes
 
     /// Reads the file, which may be missing. Without a path, accounts are stored in memory only.
@@ -49,26 +50,29 @@ public:
     [[nodiscard]] QList<StoredAccount> accounts() const;
     [[nodiscard]] std::optional<StoredAccount> account(const QString &name) const;
 
-    /// The number of devices of each account, by its name.
+    /// The number of devices of each account, by its name. Accounts without devices are omitted.
     [[nodiscard]] QHash<QString, int> deviceCounts() const;
 
     /// The account of the device with these identities; the first identity with an account decides.
     [[nodiscard]] std::optional<StoredAccount> accountOf(const QStringList &identities) const;
 
-    /// Adds an account, or changes the account with the name `before`, whose devices keep it.
+    /// Changes the account with the name `before`, whose devices keep it, also under a new name. Adds an
+    /// account if there is none with that name. Fails if another account has the new name, or if the name,
+    /// the user name or the password is empty or too long.
     [[nodiscard]] QString put(const QString &before, const StoredAccount &account);
 
-    /// Removes an account; its devices then have no account.
+    /// Removes an account; its devices then have no account. Succeeds if there is no such account.
     [[nodiscard]] QString remove(const QString &name);
 
     /// The identities of a device, the most reliable one first.
     using Device = QStringList;
 
-    /// Assigns the account of this name to the devices; an empty name removes their account.
+    /// Assigns the account of this name to the devices, under their first identities. An empty name removes
+    /// their account; the name of no account is a failure.
     [[nodiscard]] QString assign(const QList<Device> &devices, const QString &name);
 
-    /// The same for an account that may not be stored yet. It is stored under a new name, unless the same
-    /// account with the same password exists.
+    /// The same for an account that may not be stored yet. A stored one with the same user name and password
+    /// is used. Otherwise the account is stored; its name is the user name, with a number if it is taken.
     [[nodiscard]] QString keep(const QList<Device> &devices, const QString &account, const QString &password);
 
 private:

@@ -38,15 +38,16 @@ public:
     };
     Q_ENUM(Padding)
 
-    static constexpr int blockLength = 16;
+    static constexpr int blockLength = 16; ///< bytes
 
     AESEncryption(Level level, Mode mode, Padding padding, QObject *parent = nullptr);
 
     /// Length in bytes of the keys of this object's level: 16, 24 or 32.
     [[nodiscard]] int keyLength() const;
 
-    /// The cipher text of `text` with its padding, in every mode. Empty when the length of `key` is not
-    /// keyLength(), when `iv` is not one block long in a mode other than ECB, or when libcrypto fails.
+    /// The cipher text of `text` with its padding, in every mode. `iv` is ignored in the mode ECB. Empty when
+    /// the length of `key` is not keyLength(), when `iv` is not one block long in another mode than ECB, when
+    /// the padded text has 2 GiB or more, or when libcrypto fails.
     [[nodiscard]] QByteArray encode(const QByteArray &text, const QByteArray &key,
                                     const QByteArray &iv = QByteArray()) const;
 
@@ -56,7 +57,8 @@ public:
                                     const QByteArray &iv = QByteArray()) const;
 
     /// `text` without the padding at its end. The padding is not verified: bytes of an unpadded text that
-    /// look like padding are removed as well, at most all of them.
+    /// look like padding are removed as well, at most all of them. ISO removes the last byte 0x80 and all
+    /// bytes after it.
     [[nodiscard]] QByteArray removePadding(const QByteArray &text) const;
 
 private:

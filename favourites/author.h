@@ -15,7 +15,7 @@ class CAuthor : public QObject
     Q_OBJECT
     QML_ELEMENT
 public:
-    /// Longer files are not favourites and are ignored.
+    /// Bytes. Longer files are not favourites and are ignored.
     static constexpr qint64 maximumFileSize = 1'048'576;
 
     explicit CAuthor(QObject *parent = nullptr);
@@ -28,7 +28,8 @@ public:
 
     /// Writes the file of the device at `addr` and `port` into the folder `inputPath`, or, when that is not a
     /// folder, into its parent folder, which is created when missing. An existing file of the device is
-    /// replaced; when the new one cannot be written completely, the old one is unchanged. `password` is
+    /// replaced; when the new one cannot be written completely, the old one is unchanged. An empty path
+    /// writes nothing. `type` is "0" for a device at an address, "1" for one behind NAT. `password` is
     /// written as given, so the caller encrypts it.
     ///
     /// The file name consists of the address and the port. Characters that would lead out of the folder or
@@ -38,8 +39,9 @@ public:
                                     const QString &port, const QString &username, const QString &password,
                                     const QString &note) const;
 
-    /// The favourites of a folder: by file name without the folder, a list of type, address, port, user name,
-    /// encrypted password and note. Files that are not favourites are omitted; missing values are empty.
+    /// The favourites of a folder, by file name without the folder. Each value is a list of six strings:
+    /// type, address, port, user name, encrypted password and note. Files that are not favourites are
+    /// omitted; missing values are empty.
     Q_INVOKABLE [[nodiscard]] QVariantMap readJsonFilesFromFolder(const QString &folderPath) const;
 
     /// True when the file existed and is deleted.

@@ -12,8 +12,8 @@ struct AcceptedPassword
     QString password;
 };
 
-/// Writes the passwords to the favourites of a folder with the same address, port and account, whose stored
-/// password the device refuses. Favourites of devices behind NAT are not changed, since their rows contain a
-/// local port. Returns the number of changed favourites; 0 for a missing folder. May run on any thread and
-/// waits for the disk.
+/// Writes the passwords to the favourites of a folder with the same address, port and account, if they have
+/// another password. Empty passwords are ignored. Favourites of devices behind NAT are not changed, since
+/// their rows contain a local port. Returns the number of favourites with another password, including those
+/// whose file could not be written; 0 for a missing folder. May run on any thread and waits for the disk.
 int renewFavouritePasswords(const QString &folder, const QList<AcceptedPassword> &accepted);
