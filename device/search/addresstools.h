@@ -7,7 +7,7 @@ class AddressTools : public QObject
 {
     Q_OBJECT
 public:
-    /// Error of a search range; the values of SearchRangeError for QML.
+    /// Error of a search range; the values of SearchRangeError (see there) for QML.
     enum RangeError
     {
         NoFault = 0,
@@ -20,11 +20,11 @@ public:
 
     explicit AddressTools(QObject *parent = nullptr) : QObject(parent) {}
 
-    /// True for four decimal octets, each 0 to 255.
+    /// True for an IPv4 address: four decimal octets of one to three digits, each 0 to 255.
     Q_INVOKABLE [[nodiscard]] bool isLegalAddress(const QString &text) const;
 
     /// Whether the text is a valid address (or subnet mask) or the start of one, for input that is being
-    /// typed. True for an empty text.
+    /// typed. Spaces at both ends are ignored. True for an empty text.
     Q_INVOKABLE [[nodiscard]] bool mayBecomeAddress(const QString &text) const;
     Q_INVOKABLE [[nodiscard]] bool mayBecomeMask(const QString &text) const;
 
@@ -36,13 +36,15 @@ public:
     Q_INVOKABLE [[nodiscard]] bool isLegalMask(const QString &text) const;
 
     /// The gateway after an edit of an address from `before` to `after`: changed octets 1 to 3 are copied to
-    /// the gateway, a changed octet 4 sets its last octet to "1". Missing octets of the gateway are taken
-    /// from the address. The texts may be incomplete.
+    /// the gateway, a changed octet 4 sets its last octet to "1". Missing octets of the gateway are set in
+    /// the same way. The texts may be incomplete. The gateway is returned unchanged if `after` cannot become
+    /// an address or if one of both has more than four octets.
     Q_INVOKABLE [[nodiscard]] QString gatewayAfterEdit(const QString &before, const QString &after,
                                                        const QString &gateway) const;
 
     /// The URL of a device's web page: the address of `ipport` ("address:port") with `webPort`. HTTPS if
-    /// `encrypted` or if `webPort` is 443. Empty if `ipport` has no IP address or the port is invalid.
+    /// `encrypted` or if `webPort` is 443. Empty if `ipport` has no IP address or `webPort` is not 1 to
+    /// 65535.
     Q_INVOKABLE [[nodiscard]] QString webPage(const QString &ipport, int webPort, bool encrypted) const;
 
     /// An address without leading zeros; any other text is returned unchanged.

@@ -29,22 +29,22 @@ public:
     /// Stops the running tasks and waits for them.
     ~DeviceRefresh() override;
 
-    /// Stops running tasks at their next step, without waiting.
+    /// Stops running tasks at their next step, without waiting. A later start() sends nothing.
     void requestStop();
 
     /// Queries the devices of these rows and returns immediately. Skips devices behind a tunnel and devices
-    /// with an IPv6 address, which these queries do not reach. A device that does not respond, or is not
-    /// initialised yet, is queried up to four times, in 12 s for up to 4096 devices, and then searched by MAC
-    /// for 3 s.
+    /// with an IPv6 address, which these queries do not reach. Up to four queries of up to 3 s for up to 4096
+    /// devices each are sent to devices that have not responded or are not initialised yet. These are then
+    /// searched by MAC for 3 s.
     void start(const QStringList &names);
 
-    /// Same with a single query, on the caller's thread, which must not be the main thread. Blocks up to 6 s
-    /// for up to 4096 devices. A name without a row is the MAC or UUID of a device that was removed from the
-    /// list: it is searched by that, and gets a row when it responds.
+    /// Same with one query instead of four, on the caller's thread, which must not be the main thread. Blocks
+    /// up to 6 s for up to 4096 devices. A name without a row is the MAC or uuidName() of a device that was
+    /// removed from the list: it is searched by that, and gets a row when it responds.
     void locate(const QStringList &names, const std::stop_token &stop);
 
 Q_SIGNALS:
-    void rowsChanged(); ///< emitted on threads of the network library, once for each response
+    void rowsChanged(); ///< emitted on threads of the network library, for each response that changed a row
 
 private:
     [[nodiscard]] QHash<QString, QString> addressesOf(const QStringList &names) const;

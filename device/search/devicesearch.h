@@ -28,26 +28,30 @@ public:
     /// Stops running searches and waits for their tasks.
     ~DeviceSearch() override;
 
-    /// Stops running searches at their next step, without waiting. Found devices are kept and done() is
-    /// emitted. A running query of addresses (up to 3 s) is not interrupted.
+    /// Stops running searches at their next step, without waiting. Found devices are kept and each search
+    /// emits done(). A running query of addresses (up to 3 s) is not interrupted.
     void stop();
 
-    /// Same, and emits no further signal.
+    /// Same for ever, without limited(), progressed() and done(). Late responses may still emit rowsAdded()
+    /// and counted().
     void requestStop();
 
     /// Sets the range of the next start() only.
     void setRange(SearchRange range);
 
-    /// Clears the store and starts a search of the range and, with `localSegment`, of the local segment. A
-    /// search that is still running continues: both fill the same store.
+    /// Starts a search of the range and, with `localSegment`, of the local segment before it. Returns
+    /// immediately; the task clears the store first. A search that is still running continues: both fill the
+    /// same store.
     void start(bool localSegment);
 
 Q_SIGNALS:
+    /// Rows were added or removed. Emitted at the begin and the end of a search, and at most once a second
+    /// between them.
     void rowsAdded();
-    void counted(int ipv4Rows);
+    void counted(int ipv4Rows);          ///< number of IPv4 rows found so far
     void limited(int rows, int leftOut); ///< at the end: `leftOut` responses exceeded the limit of `rows`
     void progressed(int percent);        ///< elapsed share of the search time, 0 to 100
-    void done();
+    void done();                         ///< the last signal of a search
 
 private:
     class Progress;
@@ -62,7 +66,7 @@ private:
 
     const std::shared_ptr<DeviceStore> m_store;
     const sdk::SdkLibraries m_libraries;
-    std::atomic<bool> m_isEnding = false; ///< no further signals: the receivers are being destroyed
+    std::atomic<bool> m_isEnding = false; ///< set by requestStop(): the receivers are being destroyed
     std::stop_source m_stop;              ///< of the running searches
     QList<QFuture<void>> m_searches;
     SearchRange m_range; ///< of the next search

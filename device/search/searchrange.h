@@ -15,7 +15,7 @@ struct SearchRange
     std::uint32_t end = 0;
 };
 
-/// Error of a range that the user entered. The numbers are those of the messages.
+/// Error of a range that the user entered. The numbers select the messages in QML.
 enum class SearchRangeError
 {
     None = 0,
@@ -28,9 +28,11 @@ enum class SearchRangeError
 /// Maximum difference between the third octets of end and begin; 16 means 17 segments.
 inline constexpr int maximumSegmentDistance = 16;
 
-/// Checks the bounds of a range. Returns the first error in the order in which the user sees them.
+/// Checks the bounds of a range, two dotted IPv4 addresses. Returns the first error: an invalid begin, an
+/// invalid end, the wrong order, too many segments.
 [[nodiscard]] SearchRangeError searchRangeError(QStringView begin, QStringView end);
 
-/// The requests for a range, one for each /24 block. Empty if a bound is zero or octet 3 of the end is less
-/// than that of the begin. Octets 1 and 2 are not compared: the range must have passed searchRangeError().
+/// The requests for a range, one for each /24 block. Empty if a bound is zero or the last two octets of the
+/// end are less than those of the begin. Octets 1 and 2 are not compared: the range must have passed
+/// searchRangeError().
 [[nodiscard]] std::vector<sdk::SearchByAddressesRequest> searchRequests(const SearchRange &range);

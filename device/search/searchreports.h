@@ -13,7 +13,7 @@ class NetLibrary;
 struct SearchReport;
 } // namespace sdk
 
-/// Keys of the maps of SearchReports::blocks().
+/// Keys of the maps of SearchReports::blocks(). The other values are strings in the user's language.
 namespace SearchReportKey {
 inline constexpr QLatin1StringView title("title");
 inline constexpr QLatin1StringView lines("lines"); ///< list of maps of `label` and `value`
@@ -29,18 +29,20 @@ inline constexpr QLatin1StringView advice("advice");
 class SearchReports : public QObject
 {
     Q_OBJECT
-    /// Whether a report exists.
+    /// Whether a report exists. False during a search.
     Q_PROPERTY(bool available READ isAvailable NOTIFY changed)
-    /// How many devices fewer than in the previous search of the same networks; 0 if unknown or dismissed.
+    /// How many devices fewer than in the previous search, not counting stopped ones. 0 if that was a search
+    /// of other networks, if the last search was stopped, or if the message was dismissed.
     Q_PROPERTY(int missing READ missing NOTIFY changed)
     /// Whether the last search was stopped and the user has not dismissed the message.
     Q_PROPERTY(bool incomplete READ isIncomplete NOTIFY changed)
+    /// SearchReportText::summaryOf() of the last search, also if the message was dismissed.
     Q_PROPERTY(QString summary READ summary NOTIFY changed)
     /// The IPv4 networks of the host that were searched, "192.168.1.0/24, 10.0.0.0/8"; empty if unknown.
     Q_PROPERTY(QString networks READ networks NOTIFY changed)
     /// Maps of "title", "lines" (maps of "label" and "value") and "obstacles" (maps of "text" and "advice").
     Q_PROPERTY(QVariantList blocks READ blocks NOTIFY changed)
-    /// The complete report as plain text.
+    /// The complete report as plain text: time of the end, summary and blocks.
     Q_PROPERTY(QString text READ text NOTIFY changed)
 public:
     /// `net` may be null: no report exists then.
@@ -55,7 +57,7 @@ public:
     [[nodiscard]] QVariantList blocks() const;
     [[nodiscard]] QString text() const;
 
-    /// Called when a search starts. `range` is the text of the address range, empty if there is none.
+    /// Called when a search starts; clears the report. `range` identifies the address range, empty for none.
     Q_INVOKABLE void begin(bool localSegment, const QString &range);
 
     /// Called when the search has ended or was stopped. `devices` is the number of devices found.

@@ -37,17 +37,19 @@ class SearchReportText
 {
     Q_DECLARE_TR_FUNCTIONS(SearchReportText)
 public:
-    /// A block for each interface with its addresses, one for the addresses queried one by one, and one for
-    /// devices of other networks. Zero counters that have no meaning are left out.
+    /// A block for each interface with its addresses, or one for the lack of interfaces. Then a block for the
+    /// addresses queried one by one and a block for devices of other networks, if there are any. Counters of
+    /// an interface without requests and messages are omitted.
     [[nodiscard]] static QList<SearchReportBlock> blocksOf(const sdk::SearchReport &report);
 
-    /// The IPv4 networks of the interfaces without duplicates, comma-separated.
+    /// The IPv4 networks that requests could be sent to, without duplicates: "192.168.1.0/24, 10.0.0.0/8".
     [[nodiscard]] static QString networksOf(const sdk::SearchReport &report);
 
-    /// One sentence on the number of devices. `missing` is the decrease since the previous search.
+    /// One sentence on the number of devices. `missing` is the decrease since the previous search, 0 if it is
+    /// unknown.
     [[nodiscard]] static QString summaryOf(int devices, int missing);
 
-    /// All blocks as plain text.
+    /// All blocks as plain text, separated by empty lines. "!" precedes obstacles.
     [[nodiscard]] static QString textOf(const QList<SearchReportBlock> &blocks);
 
 private:
