@@ -24,18 +24,18 @@ struct DeviceAccount
 /// The user may enter an account for all following devices. It replaces the default account until another
 /// default is set or the application ends.
 ///
-/// A value type. of() may be called on any thread if the Stored function may.
+/// A value type. of() may be called on any thread if the Stored function may, but not during a setter.
 class AccountChoice
 {
 public:
-    /// Returns the stored account of the device with these accountIdentities().
+    /// Returns the stored account of the device with these accountIdentities(), which are not empty.
     using Stored = std::function<std::optional<DeviceAccount>(const QStringList &identities)>;
 
     enum class Source
     {
-        Row,
+        Row, ///< also if the row contains only a user name or only a password
         Stored,
-        Default,
+        Default, ///< also the account for all following devices
     };
 
     struct Chosen
@@ -46,6 +46,7 @@ public:
     };
 
     void setStored(const Stored &stored) { m_stored = stored; }
+    /// Ends setFollowing(), unless `account` is the present default.
     void setDefault(const DeviceAccount &account);
     void setFollowing(const DeviceAccount &account) { m_following = account; }
 
@@ -64,6 +65,6 @@ private:
     std::optional<DeviceAccount> m_following; ///< empty before setFollowing()
 };
 
-/// The strings that identify the device of a row in AccountStore, the most reliable one first: its MAC and
-/// its UUID, as far as the row contains them. Empty for a device without both.
+/// The strings that identify the device of a row in AccountStore, the most reliable one first: its MAC, and
+/// its name if that is a uuidName(), both in lower case. A MAC of zeros does not count. Empty without both.
 [[nodiscard]] QStringList accountIdentities(const QJsonObject &row);

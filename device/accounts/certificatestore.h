@@ -17,20 +17,20 @@ struct RefusedCertificate
     QString identity; ///< MAC or UUID of the device in lower case; empty if unknown
     QString address;
     int port = 0;
-    QString fingerprint;
-    QString subject;
-    QString validFrom; ///< UTC; empty if unreadable
-    QString validUntil;
+    QString fingerprint;       ///< SHA-256 of the public key: "AB:CD:..." of 32 bytes
+    QString subject;           ///< common name; chosen by the device
+    QString validFrom;         ///< "2026-11-26 13:30:00" UTC; empty if unreadable
+    QString validUntil;        ///< the same
     QString storedFingerprint; ///< of the accepted key; empty for an unknown device
 
     [[nodiscard]] bool isChanged() const { return !storedFingerprint.isEmpty(); }
     [[nodiscard]] bool operator==(const RefusedCertificate &) const = default;
 };
 
-/// Decides whether certificates of devices are trusted. The user accepts keys; they are stored in a file. A
-/// device is identified by its identity, or by its address and port if the identity is unknown. An accepted
-/// key is also compared with that of a device with another identity at the same address: a different key is
-/// reported as changed.
+/// Decides whether certificates of devices are trusted. The user accepts keys; they are stored in a file. The
+/// key of a device is compared with the accepted key of its identity. If there is none, or the identity is
+/// unknown, the accepted key of its address and port is used, also that of another identity. A different key
+/// is reported as changed.
 ///
 /// If the file cannot be read, no certificate is trusted. The file is renamed when the user accepts a
 /// certificate.
@@ -48,7 +48,8 @@ public:
     /// The reason why the file cannot be read, in the user's language; otherwise empty.
     [[nodiscard]] QString problem() const;
 
-    /// Adds a certificate that is not trusted to refused(). It replaces an earlier one of the device.
+    /// Adds a certificate that is not trusted to refused() and calls the listener. The certificate replaces
+    /// an earlier one of the device. It is not added if refused() has maximumRefused others.
     [[nodiscard]] sdk::CertificateVerdict verdictOn(const sdk::DeviceCertificate &certificate);
 
     /// verdictOn() as an sdk::CertificateHandler; `user` is the store.
@@ -57,13 +58,13 @@ public:
     /// The certificates that the user has not accepted, in the order of their first refusals.
     [[nodiscard]] QList<RefusedCertificate> refused() const;
 
-    /// Accepts the keys of these certificates and removes them from refused(). Returns an empty string, or
-    /// the reason of the failure in the user's language; nothing is accepted then. Blocks until the file is
-    /// written.
+    /// Accepts the keys of these certificates and removes them from refused(). A device that has presented
+    /// another key in the meantime stays refused. Returns an empty string, or the error text of the system if
+    /// the file cannot be written; nothing is accepted then. Blocks until the file is written.
     [[nodiscard]] QString agree(const QList<RefusedCertificate> &certificates);
 
     /// Sets the function that is called after each refusal, on the thread of the request; empty for none. The
-    /// earlier function is not running any more when this returns.
+    /// earlier function is not running any more when this returns. The function must not call setListener().
     void setListener(std::function<void()> listener);
 
 private:
@@ -82,7 +83,9 @@ private:
         QHash<QString, qsizetype> byAddress = {};  ///< the same, by address and port
 
         void append(const Entry &entry);
+        /// The accepted key that the one of `shown` is compared with; null for none.
         [[nodiscard]] const Entry *find(const RefusedCertificate &shown) const;
+        /// Without the entries that later ones replace.
         [[nodiscard]] Accepted withoutReplaced() const;
     };
 
