@@ -15,10 +15,11 @@ class CDeviceFactory;
 /// so does the destructor. Cancelled work continues to its next safe point in the background; its outcome is
 /// dropped, and its login is logged out.
 ///
-/// No function blocks, and no lock is held during a request. Work on the current session uses a copy of the
-/// session's state. When it ends, in one turn of the event loop, the copy replaces the state, the factory
-/// emits the signals of the work in order, and ended() follows. Until then the factory's getters return the
-/// previous state. Start a sequence of work from a handler of ended().
+/// No function blocks, and no lock is held during a request. Without a factory, no function has an effect.
+/// Work on the current session uses a copy of the session's state. When it ends, in one turn of the event
+/// loop, the copy replaces the state, the factory emits the signals of the work in order, and ended()
+/// follows. Until then the factory's getters return the previous state. Start a sequence of work from a
+/// handler of ended().
 ///
 /// Lives on the main thread.
 class DeviceWork : public QObject
@@ -37,13 +38,13 @@ public:
     [[nodiscard]] bool isRunning() const { return m_isRunning; }
 
     /// Logs in to a device and reads its details. The value of ended() is that of
-    /// CDeviceFactory::readDeviceDetail().
+    /// CDeviceFactory::readDeviceDetail(). `ipport` is its "address:port".
     Q_INVOKABLE void readDetail(const QString &ipport);
 
-    /// Logs in to a device and adds its row. Keys of `device`: "mode" (0 by address, 1 by P2P ID), "address",
-    /// "port", "account" and "password". The value of ended() is a map of "result" (a LoginResult) and "text"
-    /// (a message in the user's language, may be empty). A row that was added before a cancellation is
-    /// reported by the factory like any other new row.
+    /// Logs in to a device and adds its row. Keys of `device`: "mode" (0 by address, 1 by P2P ID), "address"
+    /// (or the P2P ID), "port" (int), "account" and "password". The value of ended() is a map of "result" (a
+    /// LoginResult) and "text" (a message in the user's language, may be empty). A row that was added before
+    /// a cancellation is reported by the factory like any other new row.
     Q_INVOKABLE void addDevice(const QVariantMap &device);
 
     /// Drops the running work: ended() is not emitted.
@@ -52,7 +53,7 @@ public:
 Q_SIGNALS:
     void deviceFactoryChanged();
     void runningChanged();
-    void ended(const QVariant &value); ///< `value` depends on the work
+    void ended(const QVariant &value); ///< `value` depends on the work; invalid if the work has none
 
 protected:
     /// Starts work and cancels the running one.

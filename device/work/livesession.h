@@ -12,8 +12,9 @@
 
 class CDeviceFactory;
 
-/// Logs in to a device for QML on a thread of the back end, and keeps the login until close() or the
-/// destructor. A new open() replaces an earlier one, whose result is dropped and logged out.
+/// Logs in to a device for QML on a thread of the back end. The login lasts until close(), the destructor or
+/// a later successful open(). A new open() replaces one that is running, whose result is dropped and logged
+/// out. Without a factory, open() has no effect.
 ///
 /// Lives on the main thread.
 class LiveSession : public QObject
@@ -35,12 +36,13 @@ public:
     /// Same for QML, whose numbers are exact up to 2^53.
     [[nodiscard]] double handleNumber() const { return static_cast<double>(handle()); }
 
-    /// Keeps the present session if the device responds in it, otherwise logs in. ended() follows, unless
-    /// open() or close() is called before.
+    /// Keeps the present session if the device responds in it, otherwise logs in to the device at `ipport`,
+    /// its "address:port". The present session must be with the same device. ended() follows, unless open()
+    /// or close() is called before.
     Q_INVOKABLE void open(const QString &ipport, const QString &account, const QString &password);
 
     /// Saves an image of a channel (from 0) of the present session to `folder`, see OwnSession.
-    /// pictureTaken() follows, unless the session is closed before.
+    /// pictureTaken() follows, unless the session is closed before. Without a session, nothing happens.
     Q_INVOKABLE void takePicture(int channel, const QString &folder);
 
     /// Logs out and cancels open() and takePicture().
@@ -49,8 +51,8 @@ public:
 Q_SIGNALS:
     void deviceFactoryChanged();
     void handleChanged();
-    /// `result` is a LoginResult. A present session is kept if the device does not respond. `channels` as in
-    /// CDeviceBase::signalCDeviceSessionOpened().
+    /// `result` is a LoginResult. The present session is kept after every failure. `channels` are those of a
+    /// new login, maps with the keys of ChannelKey; empty if the present session is kept.
     void ended(int result, const QVariantList &channels);
     /// `path` is a "file:///" URL, empty on failure; `message` is then the reason in the user's language.
     void pictureTaken(int channel, const QString &path, const QString &message);

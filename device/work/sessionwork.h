@@ -3,8 +3,8 @@
 #include "device/work/devicework.h"
 
 /// Work of the configuration page on the current session. Each function runs the operations of CDeviceFactory
-/// with the same purpose on another thread; the factory emits their signals before ended(). Lives on the main
-/// thread.
+/// with the same purpose on another thread; the factory emits their signals before ended(). The value of
+/// ended() is invalid unless a function states it. Lives on the main thread.
 class SessionWork : public DeviceWork
 {
     Q_OBJECT
@@ -15,25 +15,29 @@ public:
     Q_INVOKABLE void login(const QString &ipport, const QString &account, const QString &password);
 
     // Encode page.
-    Q_INVOKABLE void readEncoding();
-    Q_INVOKABLE void readEncodeChannel();
-    /// Selects a channel or stream and reads it. `key` is "curChannel" or "curStreamType".
+    Q_INVOKABLE void readEncoding();      ///< as readEncodeChannel(), and the colours of the channel
+    Q_INVOKABLE void readEncodeChannel(); ///< choices and values of the selected channel
+    /// Selects a channel or stream and reads it. `key` is "curChannel" or "curStreamType"; `place` is its
+    /// number from 0.
     Q_INVOKABLE void chooseEncoding(const QString &key, int place);
-    /// Sets a value that is written to the device immediately.
+    /// Sets a value of EncodeKey that setConfigData() writes to the device immediately.
     Q_INVOKABLE void writeEncodeValue(const QString &key, const QVariant &value);
     Q_INVOKABLE void saveEncoding(); ///< writes all changed values
 
-    /// Reads the image settings of a channel; -1: the selected channel. The value of ended() is a list of
-    /// bool: whether each channel has a camera. It is empty if the device did not respond.
+    /// Reads the image settings of a channel (from 0); -1: the selected channel. The value of ended() is a
+    /// list of bool: whether each channel has a camera. It is empty if the device did not respond.
     Q_INVOKABLE void readImage(int channel);
+    /// Selects the mode with this index in "allSwitchMode" and reads its settings.
     Q_INVOKABLE void chooseImageMode(int place);
-    /// Writes values of the group `key`. Each entry of `values` is a list of sub-key and value.
+    /// Writes values of the group `key`, in their order. Each entry of `values` is a list of sub-key and
+    /// value. The rest is not written when the device stops responding.
     Q_INVOKABLE void writeImage(const QString &key, const QVariantList &values);
 
-    /// The value of ended() is a map of "names" and "connected", see CDeviceBase::getDeviceChannelData().
+    /// Reads the names of all channels. The value of ended() is a map of "names" and "connected", with the
+    /// lists of CDeviceBase::getDeviceChannelData(). "connected" is empty if the device did not respond.
     Q_INVOKABLE void readNames();
-    /// Writes the name of a channel (from 0) and reads it back. The value of ended() is a map of "result" and
-    /// "name", which is null if the device does not report it.
+    /// Writes the name of a channel (from 0) and reads it back. The value of ended() is a map of "result" (a
+    /// LoginResult) and "name", which is null after a failure or if the device does not report it.
     Q_INVOKABLE void writeName(int channel, const QString &name);
 
 Q_SIGNALS:
