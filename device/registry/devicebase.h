@@ -40,80 +40,134 @@ public:
     // The order of the virtual operations is part of the interface, since back ends may be compiled
     // separately. New operations are added at the end.
 
+    /// Removes the rows and searches for devices. Returns immediately; signalCDeviceSearchDone reports the
+    /// end.
     virtual void startSearch() {}
-    /// Addresses in host byte order; 0 for no range.
+    /// The range of the next search only. Addresses in host byte order; 0 for no range.
     virtual void setSearchByIPInfo(quint32 /*beginip*/, quint32 /*endip*/) {}
+    /// The IPv4 rows (JSON objects) that pass a filter of RowFilter, see filteredRows().
     virtual QVariantList filterData(const QString & /*filtertype*/, const QString & /*searchtext*/)
     {
         return {};
     }
+    /// The same for the IPv6 rows.
     virtual QVariantList filterDataIPV6(const QString & /*filtertype*/, const QString & /*searchtext*/)
     {
         return {};
     }
+    /// Changes the address of a found device; the texts are ignored with `dhcpON`. Blocks. The result is in
+    /// "res" of the row.
     virtual void modifyIP(const QString & /*mac*/, const QString & /*newip*/, const QString & /*newsubmask*/,
                           const QString & /*newgateway*/, bool /*dhcpON*/)
     {
     }
+    /// The account of devices that have no other one, see AccountChoice.
     virtual void setDefaultAccount(const QString & /*account*/, const QString & /*password*/) {}
+    /// Initialises a found device: creates its first account. Blocks. The result is in "res" of the row.
     virtual void setInitAccount(const QString & /*mac*/, const QString & /*account*/,
                                 const QString & /*password*/)
     {
     }
+    /// Removes a row; "IPV6" as the last argument means the IPv6 list, any other text the IPv4 list. The row
+    /// of a device that is being upgraded stays.
     virtual void setDeleteDevice(const QString & /*mac*/, const QString & /*ipvision*/) {}
+    /// The same for the rows whose names are the keys of `macs`.
     virtual void setBatchDeleteDevice(const QVariantMap & /*macs*/, const QString & /*ipversion*/) {}
+    /// The IPv4 row at an address, with its password; empty if there is none.
     virtual QVariantMap getDeviceInfo(const QString & /*ipport*/) { return {}; }
+    /// The row of either list without its password, and keys of DeviceDetailKey from its search record.
     virtual QVariantMap getDeviceDetail(const QString & /*mac*/) { return {}; }
+    /// The same for the IPv4 row at an address.
     virtual QVariantMap getDeviceDetailByAddress(const QString & /*ipport*/) { return {}; }
+    /// Logs in to a device and adds or replaces its row. Blocks. Returns a LoginResult. `loginType` is 0 by
+    /// address or 1 by P2P ID, which is then in `address`; `port` is then the local port of the tunnel and
+    /// `devicePort` the port of the device.
     virtual int getLoginDevice(const QString & /*address*/, const QString & /*account*/,
                                const QString & /*password*/, const QString & /*port*/, int /*loginType*/,
                                const QString & /*devicePort*/)
     {
         return {};
     }
+    /// Sets the firmware file of a row: a path or "file:///" URL.
     virtual void setUpgradeFilePath(const QString & /*mac*/, const QString & /*path*/) {}
+    /// Upgrades the devices of these rows with their files. Returns immediately; see
+    /// signalCDeviceUpdateSchedule.
     virtual void startUpgrade(const QStringList & /*macs*/) {}
+    /// Upgrades the devices in these upgrade documents. Reads the files, then returns.
     virtual void startUpgradeByDocument(const QStringList & /*paths*/) {}
+    /// Requests a stop of an upgrade. Ignored while the device writes the firmware.
     virtual void stopUpgrade(const QString & /*mac*/) {}
-    /// A map for each line of the document, with the keys of UpgradeLineKey. importError() returns why a
+    /// A map for each line of the document, with the keys of ListLineKey. importError() returns why a
     /// document is refused.
     virtual QVariantList importUpgradeDocument(const QString & /*file*/) { return {}; }
+    /// Logs in for the current session. Blocks. Returns a LoginResult and emits
+    /// signalCDeviceHighLevelLoginRet with it. The earlier session is kept after a failure.
     virtual int findAndLoginDevice(const QString & /*ipport*/, const QString & /*account*/,
                                    const QString & /*password*/)
     {
         return {};
     }
-    /// Emits signalCDeviceAddSingleDeviceToTable later if the name has changed: several pages show it.
+    /// Sets a value of the row `mac` or, if there is none, of the first row at `ipport`. Returns whether
+    /// there is such a row. For the key "name", which several pages show, emits
+    /// signalCDeviceAddSingleDeviceToTable later.
     virtual bool updataDeviceInfo(const QString & /*key*/, const QVariant & /*newValue*/,
                                   const QString & /*mac*/, const QString & /*ipport*/)
     {
         return {};
     }
+
+    // Operations on the current session. They block for its device. signalCDeviceGetDeviceCapRet reports
+    // failures, and the results of getEncodeCaps() and getEncodeInfo().
+
+    /// Reads the capabilities of the camera of the image page; getVideoIn() reads its settings.
     virtual void getCameraConfig() {}
+    /// Reads the choices and the values of the encode page, and the colours of its channel.
     virtual void getEncodeCaps() {}
+    /// A value by its key in SessionKey, EncodeKey or CameraKey; invalid if it is unknown. `channel` (from 0)
+    /// is for the names of channels.
     virtual QVariant getConfigData(const QString & /*key*/, const QVariant & /*channel*/) { return {}; }
+    /// Sets a value. Values of the image page, names and EncodeKey::subCurResolution are written to the
+    /// device immediately, other encode values by confirmConfigData(). `otype` is the setting of an image
+    /// group, or the channel (from 0) of a name.
     virtual void setConfigData(const QString & /*key*/, const QVariant & /*value*/, const QString & /*otype*/)
     {
     }
+    /// A list of values, one for each channel: SessionKey::channelNames or SessionKey::channelsConnected. It
+    /// covers the first `channelNum` channels, all of them for 0 or less.
     virtual QVariantList getDeviceChannelData(const QString & /*key*/, int /*channelNum*/) { return {}; }
+    /// Writes the changed encode values; signalCDeviceConfirmEncodeConfig reports the result.
     virtual void confirmConfigData() {}
+    /// Reads the image settings of the selected channel; emits signalCDeviceChangeVideoType.
     virtual void getVideoIn() {}
+    /// The same with signalCDeviceChangeVideoChannel.
     virtual void getVideoInByChangeChannel() {}
+    /// Copies the encode values of the session to the devices at these addresses and ports;
+    /// signalCDeviceRetToCopyConfig reports the result of each.
     virtual void copyConfigToDevice(const QStringList & /*devlist*/) {}
+    /// Reads the encode values of the selected channel; emits signalCDeviceChangeEncodeChannel.
     virtual void getEncodeInfo() {}
+
     /// Keeps its position in the order of the operations. Nothing calls it.
     virtual void unusedOperation() {}
+    /// Runs a command of SystemCommand on each device. Blocks. signalCDeviceRetToSystemConfig reports the
+    /// result of each. `data` has the keys of SystemDataKey.
     virtual void systemConfig(const QString & /*command*/, const QVariantMap & /*data*/,
                               const QStringList & /*ipports*/)
     {
     }
+    /// Takes snapshots in the current session into "snap/<address>" of the working directory. `kind` is
+    /// "liveCapture" for all channels or "againCapture" for `channelNum` (from 0). Returns immediately.
     virtual void snapPictureToFile(const QString & /*kind*/, const QVariant & /*channelNum*/,
                                    const QString & /*address*/)
     {
     }
     virtual bool hasDeviceUpgrading() { return {}; }
 
+    /// Logs in to the devices of a list file and adds their rows. Blocks. Returns false if the list is
+    /// refused, see importError().
     virtual bool importDevice(const QString & /*path*/, ImportSummary & /*summary*/) { return {}; }
+    /// Writes the rows to a list file; the suffix of the name selects the format. `folder` is a path or
+    /// "file:///" URL. Returns false if no row exists or the file cannot be written.
     virtual bool exportDevice(const QString & /*folder*/, const QStringList & /*macs*/,
                               const QString & /*fileName*/)
     {
@@ -123,7 +177,7 @@ public:
     virtual void unusedListOperation() {}
 
     /// The lines of the last imported list whose devices could not be added, in the order of the file: maps
-    /// with the keys of ImportFailureKey.
+    /// with the keys of ListLineKey, see importFailure().
     virtual QVariantList importFailures() { return {}; }
     /// The reason why the last list or document was refused completely, in the user's language; otherwise
     /// empty.
@@ -137,18 +191,19 @@ public:
         return {};
     }
 
-    /// Logs in to the device as checkLogin() does and reads all its properties. Contains "loginResult" (a
-    /// LoginResult) and keys of DeviceDetailKey.
+    /// Logs in to the device with the account of accountOf(), reads all its properties and logs out. Blocks.
+    /// Contains "loginResult" (a LoginResult) and, as far as the device has responded, keys of
+    /// DeviceDetailKey, "mac", "model" and "vision".
     virtual QVariantMap readDeviceDetail(const QString & /*ipport*/) { return {}; }
 
     /// Called by the destructor of the factory. Ends the threads that call the factory.
     virtual void factoryEnds() {}
 
-    /// Results of the documents of the last startUpgradeByDocument(), one line for each document, in the
-    /// user's language. Empty while they are running.
+    /// Results of the documents of the last startUpgradeByDocument() or upgradeDocumentSteps(), one line for
+    /// each document, in the user's language. Empty while they are running.
     virtual QString upgradeDocumentResult() { return {}; }
 
-    /// Progress of the documents of the last startUpgradeByDocument(): "total" and "done" number of lines.
+    /// Progress of these documents, a map with the keys of ProgressKey: numbers of lines.
     virtual QVariantMap upgradeDocumentProgress() { return {}; }
 
     /// Keeps the current session if it is with the device and the device responds in it, otherwise logs in,
@@ -176,7 +231,7 @@ public:
     /// ExportFaultKey.
     virtual QVariantList exportFaults() { return {}; }
 
-    /// Whether the current session is with the device at this address, also when its row was removed.
+    /// Whether the current session is with the device at this "address:port", also when its row was removed.
     virtual bool isInSession(const QString & /*ipport*/) { return {}; }
 
     /// Queries the devices of these IPv4 rows again. Returns immediately; signalCDeviceAddSingleDeviceToTable
@@ -203,20 +258,22 @@ public:
     /// text of the outcome lists the values that the device does not take.
     virtual DeviceStepMaker encodeCopy();
     /// For snapPictureToFile() with "liveCapture": a step for each channel of the current session, in their
-    /// order. Each emits signalSnapPictureToFile on its thread. Empty without a session.
+    /// order. Each emits signalSnapPictureToFile on its thread, unless it is ended early. Empty without a
+    /// session.
     virtual QList<DeviceStep> snapshotSteps(const QString & /*address*/) { return {}; }
     /// Logs in to a device and adds its row, as getLoginDevice() does. Opens and closes the local ports of a
-    /// device behind NAT. LoginResult::AlreadyListed if a row has this address and port.
+    /// device behind NAT. For other devices: LoginResult::AlreadyListed if a row has this address and port.
     virtual DeviceStep addingStep(const DeviceToAdd &device);
 
-    /// Reads a device list for importDevice(). Any thread; blocks it while reading the file.
+    /// Reads a device list for importDevice(). Any thread; blocks it while reading the file. `path` is a path
+    /// or "file:///" URL.
     virtual ImportPlan importPlan(const QString & /*path*/) { return {}; }
 
     /// The row of a device, of either list; empty if there is none. The default converts getDeviceDetail().
     virtual QJsonObject deviceRow(const QString &name);
 
     /// For refreshDevices(), with one query at the addresses of the rows, before devices are searched by
-    /// their MACs. Blocks up to 6 s.
+    /// their MACs. Blocks up to 6 s for up to 4096 devices. The outcome is always a success.
     virtual DeviceStep locationStep(const QStringList &macs);
 
     // Steps of pages. They are created on the main thread.
@@ -236,10 +293,11 @@ public:
     virtual void runForPage(const PageStep &step, const std::stop_token &stop,
                             const std::function<void(const PageOutcome &outcome)> &ended);
 
-    // Upgrades. Rows are named by MAC, or by address and port if they have none.
+    // Upgrades.
 
     /// For startUpgrade(). The row shows immediately that it is waiting, and later the progress. It shows a
-    /// stopped upgrade after stopUpgrade() and when the step is destroyed without having run.
+    /// stopped upgrade after stopUpgrade() and when the step is destroyed without having run. The result is
+    /// that of UpgradeTools::batchResult().
     virtual DeviceStep upgradeStep(const QString &mac);
     /// For importUpgradeDocument(). The value is a map of "refusal", the reason why the document cannot be
     /// used in the user's language, and "lines", the result of importUpgradeDocument() with the row of each
@@ -259,21 +317,23 @@ public:
     /// The plan of upgradeStep() for each of these rows, from the rows and their files.
     virtual QList<PlannedUpgrade> plannedUpgrades(const QStringList &macs);
     /// setUpgradeFilePath() for many rows; reads the file once. Returns for each row an UpgradeTools::Result:
-    /// the reason why it cannot be upgraded with the file, or None.
+    /// the reason why it cannot be upgraded with the file, or None, also for a name without a row. DeviceBusy
+    /// during an upgrade; the row is not changed then.
     virtual QList<int> setUpgradeFiles(const QStringList &macs, const QString &path);
-    /// The names of the rows that upgrades have changed since the last call.
+    /// The names of the rows that upgrades have changed since the last call of this function.
     virtual QStringList takeChangedUpgrades() { return {}; }
-    /// The account that the device is logged in to with, see AccountChoice: the keys of AccountKey. `name` is
-    /// the name of a row, or its address and port.
+    /// The account that is used for a login to the device, see AccountChoice: a map with the keys of
+    /// AccountKey. `name` is the name of a row, or its address and port.
     virtual QVariantMap accountOf(const QString & /*name*/) { return {}; }
 
     /// Logs in to a device with the account of accountOf(), takes images of its channels one after another,
     /// and logs out. The current session is not affected.
     virtual DeviceStep pictureStep(const PictureOrder &order);
-    /// Logs in to a device in a separate session, for live video. Any thread; for several devices at the same
-    /// time.
+    /// Logs in to a device in a separate session, for live video. Steps for several devices may run at the
+    /// same time.
     virtual OwnSessionStep ownSessionStep(const OwnSessionOrder &order);
-    /// Replaces the default account until setDefaultAccount() sets another one.
+    /// Sets the account of all following devices. It replaces the default account until setDefaultAccount()
+    /// sets another one.
     virtual void setFollowingAccount(const QString & /*account*/, const QString & /*password*/) {}
 
     /// checkLogin() as a function for any thread, until the back end is destroyed.
@@ -286,28 +346,41 @@ public:
     void setP2PPorts(std::shared_ptr<P2PPorts> ports);
 
 Q_SIGNALS:
-    void signalCDeviceAddDeviceToTable();        ///< the running search has added rows
+    void signalCDeviceAddDeviceToTable();        ///< the running search has added or removed rows
     void signalCDeviceSearchCount(int devCount); ///< number of IPv4 rows found so far
     void signalCDeviceSearchDone();              ///< a search has ended
-    void signalCDeviceAddSingleDeviceToTable();  ///< rows were added or changed outside a search
-    void signalCDeviceUpdateSchedule(int value); ///< progress of an upgrade in percent
+    void signalCDeviceAddSingleDeviceToTable();  ///< rows were added, changed or removed outside a search
+    void signalCDeviceUpdateSchedule(int value); ///< progress of all running upgrades in percent
+    /// Progress of a document in percent; 100 when its results are written. `filename` is its path as passed
+    /// to startUpgradeByDocument().
     void signalCDeviceUpdateScheduleUpgradeByDocument(const QString &filename, int value);
-    void signalCDeviceShowUpgradeFinishTip(); ///< all upgrades have finished
+    /// All upgrades have finished, and the results of documents are written.
+    void signalCDeviceShowUpgradeFinishTip();
+    /// `result` is a LoginResult or another code of resultName().
     void signalCDeviceRetToCopyConfig(const QString &ipport, int result);
+    /// The same. The command "loginCheck" reports -1 if the password is correct.
     void signalCDeviceRetToSystemConfig(const QString &ipport, int result);
+    /// The command "loginCheck" has succeeded for at least one device: a new password can be set.
     void signalCDeviceSystemConfigEnablePassword();
+    /// The LoginResult of a login for the current session.
     void signalCDeviceHighLevelLoginRet(int loginRet);
+    /// The result of an operation on the current session: 0 on success, 1 for an unreadable configuration, 10
+    /// for unknown capabilities, LoginResult::Upgrading, or an error of the network library.
     void signalCDeviceGetDeviceCapRet(int GetDeviceCapRet);
-    void signalCDeviceChangeVideoType();
-    void signalCDeviceChangeVideoChannel();
-    void signalCDeviceChangeEncodeChannel();
+    void signalCDeviceChangeVideoType();     ///< the image settings have changed or were read again
+    void signalCDeviceChangeVideoChannel();  ///< those of another channel were read
+    void signalCDeviceChangeEncodeChannel(); ///< the encode values were read
     /// The refused values, one line for each; empty on success. Also emitted for values that setConfigData()
     /// wrote immediately and the device refused.
     void signalCDeviceConfirmEncodeConfig(const QString &resStr);
-    void signalCDeviceSetChannelNameFinished();
+    void signalCDeviceSetChannelNameFinished(); ///< the names of channels are written, see SessionKey
+    /// A snapshot of `channel` (from 0) is finished. `path` is a "file:///" URL, empty on failure; `message`
+    /// is then the reason in the user's language.
     void signalSnapPictureToFile(int channel, const QString &path, const QString &message);
+    /// The same for a snapshot of the kind "againCapture".
     void signalSnapPictureToFileAgain(int channel, const QString &path, const QString &message);
-    void signalCDeviceTunnelBroken(const QString &deviceId, int localPort); ///< empty `deviceId`: all devices
+    /// The tunnel behind a local port is broken. An empty `deviceId`: those of all devices.
+    void signalCDeviceTunnelBroken(const QString &deviceId, int localPort);
     void signalCDeviceImportProgress(int done, int total); ///< numbers of devices of the list
     /// `result` is a LoginResult. `channels` are maps with the keys of ChannelKey; empty when they were not
     /// read.

@@ -104,9 +104,11 @@ public:
     {
         return backEnd(family)->accountOf(name);
     }
-    /// Returns the local port of the device behind NAT, 0 on failure.
+    /// Returns the local port for `port` of the device behind NAT, 0 on failure. A `p2pPort` other than 0
+    /// must be equal to `port`, see P2PPorts::portFor(). The account is not used. Blocks.
     Q_INVOKABLE int setAddDevice(const QString &family, const QString &deviceId, const QString &account,
                                  const QString &password, const QString &port, int p2pPort);
+    /// Sets "devp2pPort" of a row.
     Q_INVOKABLE void setPluginPort(const QString &family, const QString &mac, int devp2pPort);
     Q_INVOKABLE void setDeleteDevice(const QString &family, const QString &mac, const QString &ipvision);
     Q_INVOKABLE void setBatchDeleteDevice(const QString &family, const QVariantMap &macs,
@@ -122,7 +124,8 @@ public:
     {
         return backEnd(family)->getDeviceInfo(ipport);
     }
-    /// Sets the properties "total" and "errcount" of `msg`, or calls it with both if it is a function.
+    /// Sets the properties "total" and "errcount" of `msg` (see ImportSummary), or calls it with both if it
+    /// is a function.
     Q_INVOKABLE bool importDevice(const QString &family, const QString &path, QJSValue msg);
     Q_INVOKABLE bool exportDevice(const QString &family, const QString &folder, const QStringList &macs,
                                   const QString &fileName)
@@ -132,6 +135,7 @@ public:
     Q_INVOKABLE int getLoginDevice(const QString &family, const QString &address, const QString &account,
                                    const QString &password, const QString &port, int loginType = 0,
                                    const QString &devp2pPort = QString());
+    /// The passwordStrength(), 0 to 3.
     Q_INVOKABLE int getPassWordType(const QString &password);
     Q_INVOKABLE void setUpgradeFilePath(const QString &family, const QString &mac, const QString &path)
     {
@@ -156,6 +160,7 @@ public:
     {
         return backEnd(family)->importUpgradeDocument(file);
     }
+    /// The resultName() of a result code.
     Q_INVOKABLE QString getErrorName(int error);
     Q_INVOKABLE int findAndLoginDevice(const QString &family, const QString &ipport, const QString &account,
                                        const QString &password)
@@ -199,7 +204,9 @@ public:
     {
         backEnd(family)->systemConfig(command, data, ipports);
     }
+    /// Registers the local login port and the local web port (0 for none) of a device behind NAT.
     Q_INVOKABLE void addP2PPort(int p2pPort, int webPort);
+    /// The local web port of a local login port, 0 for none.
     Q_INVOKABLE int getP2PWebPort(int port);
     /// The days of a month (1 to 12) of this year, as numbers from 1. Empty for other months.
     Q_INVOKABLE QVariantList getDays(int month);
@@ -210,10 +217,12 @@ public:
     {
         backEnd(family)->snapPictureToFile(kind, channelNum, address);
     }
+    /// snapPictureToFile() with "liveCapture".
     Q_INVOKABLE void startSnap(const QString &family, const QVariant &channelNum, const QString &address);
     /// Asks the application to leave its event loop with exit code 0.
     Q_INVOKABLE void exitProgram();
-    /// Releases a local port; that of the current session's device when the session ends.
+    /// Releases the local ports of a device by its login port; those of the current session's device when the
+    /// session ends.
     Q_INVOKABLE void releaseP2PPort(int p2pPort);
     /// The reason why setAddDevice() fails for every device, in the user's language: a wrong setting, or a
     /// port agent that did not start. Otherwise empty.
@@ -266,6 +275,7 @@ public:
     /// be called after steps have replaced rows.
     void releaseUnneededP2PPorts();
 
+    /// Any thread; blocks it.
     int checkLogin(const QString &family, const QString &ipport, const QString &account,
                    const QString &password)
     {
