@@ -21,7 +21,7 @@ public:
     {
         Program, ///< the application must not end
         Rows,    ///< like Program; the device rows with their addresses and accounts must also stay
-        Listing, ///< a search: the application must not end before the user has stopped it
+        Listing, ///< a search: the application must not end before the search
         Edits,   ///< unsaved input: the user is asked before it is lost
     };
     Q_ENUM(Need)
@@ -38,7 +38,7 @@ public:
     };
     Q_ENUM(Action)
 
-    /// `isUpgrading` returns whether the firmware of any device is being upgraded.
+    /// `isUpgrading` returns whether the firmware of any device is being upgraded; empty for never.
     explicit BusyState(std::function<bool()> isUpgrading, QObject *parent = nullptr);
 
     /// Adds a work. `title` is its name for the user. Returns its number for end(), never 0.
@@ -62,7 +62,7 @@ public:
     Q_INVOKABLE [[nodiscard]] bool losesEdits(BusyState::Action action) const;
 
 Q_SIGNALS:
-    void changed();
+    void changed(); ///< work was added or removed
 
 private:
     struct Work

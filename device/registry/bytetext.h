@@ -14,9 +14,11 @@ public:
 
     [[nodiscard]] static int channelNameBytes();
 
+    /// The number of bytes of a text in UTF-8.
     Q_INVOKABLE [[nodiscard]] static int bytes(const QString &text);
 
-    /// The longest prefix of `text` that fits into `bytes` and ends at a grapheme boundary.
+    /// The longest prefix of `text` that fits into `bytes` and does not divide a character as the user sees
+    /// it (a grapheme).
     Q_INVOKABLE [[nodiscard]] static QString truncated(const QString &text, int bytes);
 
     /// `text` without invisible characters: control characters, line separators and direction marks.

@@ -26,35 +26,42 @@ inline constexpr std::array groups = {picture,      sharpness, mirror,  stable, 
 
 /// List of strings: the modes of curSwitchMode.
 inline constexpr QLatin1StringView allSwitchMode("allSwitchMode");
-inline constexpr QLatin1StringView curSwitchMode("curSwitchMode"); ///< int: index in allSwitchMode
-inline constexpr QLatin1StringView curDayNightMode("curDayNightMode");
+inline constexpr QLatin1StringView curSwitchMode("curSwitchMode");     ///< int: index in allSwitchMode
+inline constexpr QLatin1StringView curDayNightMode("curDayNightMode"); ///< int: an sdk::CameraMode
+/// Int: as sdk::BackLightItem::backMode.
 inline constexpr QLatin1StringView curBackLightMode("curBackLightMode");
-inline constexpr QLatin1StringView curChannelName("curChannelName"); ///< string
-inline constexpr QLatin1StringView curColorStyle("curColorStyle");
+inline constexpr QLatin1StringView curChannelName("curChannelName"); ///< string; null if it was not read
+// Int: single picture settings of the current mode.
+inline constexpr QLatin1StringView curColorStyle("curColorStyle"); ///< 1 to 3; 2 is the standard
 inline constexpr QLatin1StringView curBrightness("curBrightness");
 inline constexpr QLatin1StringView curContrast("curContrast");
 inline constexpr QLatin1StringView curSaturation("curSaturation");
 inline constexpr QLatin1StringView curGamma("curGamma");
-inline constexpr QLatin1StringView setDefault("setDefault"); ///< write only: the default picture settings
+/// Write only: sets the standard style and the middle of the range of the other picture settings.
+inline constexpr QLatin1StringView setDefault("setDefault");
 } // namespace CameraKey
 
-/// Keys of the map of a group, beside its settings.
+/// Keys of the map of a group, in addition to its settings.
 namespace CameraGroupKey {
 inline constexpr QLatin1StringView support("support"); ///< bool: the camera has the group, and it was read
 inline constexpr QLatin1StringView unread("unread"); ///< bool: the camera has the group, but it was not read
-inline constexpr QLatin1StringView missing("missing"); ///< list of settings that the camera does not have
-inline constexpr QLatin1StringView ranges("ranges");   ///< map by setting: maps of `min` and `max`
+/// List of settings that the camera does not have. May be missing.
+inline constexpr QLatin1StringView missing("missing");
+inline constexpr QLatin1StringView ranges("ranges"); ///< map by setting: maps of `min` and `max`
 inline constexpr QLatin1StringView min("min");
 inline constexpr QLatin1StringView max("max");
 } // namespace CameraGroupKey
 
-/// Settings of the groups, in their maps and as sub-keys of setConfigData(). A choice is an index in its list
-/// ("all..."), -1 for none.
+/// Settings of the groups, in their maps and as sub-keys of setConfigData(). Lists ("all...") are lists of
+/// strings. A choice is an index in its list, -1 for none. Other settings are int unless stated otherwise;
+/// the key `ranges` of the group has their ranges, as far as they have one.
 namespace CameraSetting {
-inline constexpr QLatin1StringView value("value"); ///< the setting of a group that has one main setting
+/// The main setting of the groups sharpness (int), mirror and stable (bool), and exposure (index in
+/// allExposureType).
+inline constexpr QLatin1StringView value("value");
 
 // picture
-inline constexpr QLatin1StringView colorStyle("colorStyle");
+inline constexpr QLatin1StringView colorStyle("colorStyle"); ///< 1 to 3; 2 is the standard
 inline constexpr QLatin1StringView brightnessSlider("brightnessSlider");
 inline constexpr QLatin1StringView contrastSlider("contrastSlider");
 inline constexpr QLatin1StringView saturationSlider("saturationSlider");
@@ -63,7 +70,7 @@ inline constexpr QLatin1StringView gamma("gamma");
 
 // mirror
 inline constexpr QLatin1StringView rotate("Rotate"); ///< int: 0 normal, 1 and 2 corridor, 3 upside down
-inline constexpr QLatin1StringView rotateSupport("rotateSupport");
+inline constexpr QLatin1StringView rotateSupport("rotateSupport"); ///< bool; read only
 
 // exposure
 inline constexpr QLatin1StringView allAntiFlickerType("allAntiFlickerType");
@@ -75,17 +82,17 @@ inline constexpr QLatin1StringView gainValue("GainValue");
 inline constexpr QLatin1StringView gainMin("GainMin");
 inline constexpr QLatin1StringView gainMax("GainMax");
 inline constexpr QLatin1StringView compensation("Compensation");
-inline constexpr QLatin1StringView irisAuto("irisAuto");
-inline constexpr QLatin1StringView noiseReductionSupport("noiseReductionSupport");
-inline constexpr QLatin1StringView noiseReductionType("3DType");
+inline constexpr QLatin1StringView irisAuto("irisAuto");                           ///< bool
+inline constexpr QLatin1StringView noiseReductionSupport("noiseReductionSupport"); ///< bool: it was read
+inline constexpr QLatin1StringView noiseReductionType("3DType");                   ///< 0 off, 1 automatic
 inline constexpr QLatin1StringView noiseReductionLevel("3D");
 inline constexpr QLatin1StringView shutter("shutter"); ///< in `missing` only: both shutter times
 inline constexpr QLatin1StringView gain("gain");       ///< in `missing` only: all gain values
 
 // backMode
 inline constexpr QLatin1StringView allBackModeType("allBackModeType");
-inline constexpr QLatin1StringView backmode("backmode");
-inline constexpr QLatin1StringView backlightmode("backlightmode");
+inline constexpr QLatin1StringView backmode("backmode");           ///< index in allBackModeType
+inline constexpr QLatin1StringView backlightmode("backlightmode"); ///< 0 complete image, 1 the region
 inline constexpr QLatin1StringView wideDynamic("WideDynamic");
 inline constexpr QLatin1StringView glareInhibition("GlareInhibition");
 inline constexpr QLatin1StringView backlightRegion("BacklightRegion"); ///< map of the four sides, 0 to 8192
@@ -96,31 +103,31 @@ inline constexpr QLatin1StringView right("Right");
 
 // whiteBalance
 inline constexpr QLatin1StringView allType("allType");
-inline constexpr QLatin1StringView whiteBalanceType("whiteBalanceType");
+inline constexpr QLatin1StringView whiteBalanceType("whiteBalanceType"); ///< index in allType
 inline constexpr QLatin1StringView gainBlue("GainBlue");
 inline constexpr QLatin1StringView gainRed("GainRed");
 
 // dayNight
 inline constexpr QLatin1StringView allDayNightType("allDayNightType");
-inline constexpr QLatin1StringView dayNightType("Type");
-inline constexpr QLatin1StringView sensitivity("Sensitivity");
-inline constexpr QLatin1StringView switchDelay("SwitchDelay");
+inline constexpr QLatin1StringView dayNightType("Type");       ///< index in allDayNightType
+inline constexpr QLatin1StringView sensitivity("Sensitivity"); ///< 1 low, 2 medium, 3 high
+inline constexpr QLatin1StringView switchDelay("SwitchDelay"); ///< seconds, 2 to 10
 
 // inDefog
 inline constexpr QLatin1StringView allInDefogType("allInDefogType");
-inline constexpr QLatin1StringView defogMode("DefogMode");
+inline constexpr QLatin1StringView defogMode("DefogMode"); ///< index in allInDefogType
 inline constexpr QLatin1StringView intensity("Intensity");
 
 // lightControl, lightControlEx
 inline constexpr QLatin1StringView allLightControlType("allLightControlType");
-inline constexpr QLatin1StringView controlMode("controlMode");
+inline constexpr QLatin1StringView controlMode("controlMode"); ///< index in allLightControlType
 inline constexpr QLatin1StringView allmixLightType("allmixLightType");
-inline constexpr QLatin1StringView mixMode("mixMode");
-inline constexpr QLatin1StringView lightMode("LightMode");
+inline constexpr QLatin1StringView mixMode("mixMode");     ///< index in allmixLightType
+inline constexpr QLatin1StringView lightMode("LightMode"); ///< lamps: 0 near and far, 1 near, 2 far
 inline constexpr QLatin1StringView nearLight("NearLight");
 inline constexpr QLatin1StringView farLight("FarLight");
 inline constexpr QLatin1StringView correction("Correction");
-inline constexpr QLatin1StringView sensitive("Sensitive");
+inline constexpr QLatin1StringView sensitive("Sensitive"); ///< 1, 3 or 5
 inline constexpr QLatin1StringView brightness("Brightness");
-inline constexpr QLatin1StringView delay("Delay");
+inline constexpr QLatin1StringView delay("Delay"); ///< seconds
 } // namespace CameraSetting

@@ -19,7 +19,8 @@ inline constexpr QLatin1StringView none("removeall");
 inline constexpr QLatin1StringView uninitialised("removeinit"); ///< without initialised devices
 inline constexpr QLatin1StringView initialised("removeuninit"); ///< without uninitialised devices
 inline constexpr QLatin1StringView containsText("search");      ///< ::containsText()
-inline constexpr QLatin1StringView singleAddress("single"); ///< the row with the "address:port"; IPv4 only
+/// The first row with the "address:port". IPv4 only.
+inline constexpr QLatin1StringView singleAddress("single");
 } // namespace RowFilter
 
 /// The rows that pass a filter of RowFilter; no row passes any other filter. `searchtext` is the text or the

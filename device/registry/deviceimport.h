@@ -18,7 +18,7 @@ struct DeviceToAdd
     bool p2p = false;
 };
 
-/// Reads a map of QML with the keys of DeviceToAddKey.
+/// Reads a map of QML with the keys of DeviceToAddKey. A missing value is empty or 0.
 [[nodiscard]] DeviceToAdd deviceToAdd(const QVariantMap &values);
 
 /// A line of a device list, for the user.

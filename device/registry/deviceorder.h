@@ -8,15 +8,15 @@
 #include <QVariantList>
 
 /// Compares rows by one key: "ipport" by the bytes of the address and then the port, IPv4 before IPv6; "mac"
-/// by its bytes; "vision" by its numbers; other strings by the rules of the user's language, with numbers in
-/// them by value; numbers and booleans by value.
+/// by its bytes, invalid ones last; "vision" by its numbers and words; other strings by the rules of the
+/// user's language without case, with numbers in them by value; numbers by value; false before true.
 class DeviceOrder
 {
 public:
     /// The position of rows whose "ipport" is not an IPv4 address.
     enum class OddAddresses
     {
-        Last,
+        Last,   ///< IPv6 addresses, then other texts
         AsZero, ///< as 0.0.0.0
     };
 
@@ -40,7 +40,7 @@ public:
     [[nodiscard]] QVariantList ordered(const QVariantList &rows) const;
 
     /// Whether a group of devices of the type `left` is before one of `right`: alphabetically, with "PC-NVR"
-    /// and then "Other" at the end, since they are not device hardware.
+    /// and then otherDeviceType() at the end, since they are not device hardware.
     [[nodiscard]] static bool isGroupBefore(const QString &left, const QString &right);
 
 private:

@@ -12,7 +12,7 @@ struct PictureOrder
     /// Maximum number of channels of a device.
     static constexpr int maximumChannels = 16;
 
-    QString ipport;
+    QString ipport;       ///< "address:port" of the device
     QString folder;       ///< absolute, for the files "<channel>.jpg"; created if missing
     int onlyChannel = -1; ///< from 0; negative for all channels up to maximumChannels
 
@@ -20,7 +20,7 @@ struct PictureOrder
     /// of channels of the device. Not called for a single channel.
     std::function<void(const QVariantList &channels, int channelCount)> found = {};
 
-    /// Called after each image. `path` of the file is empty on failure; `message` is the reason then, in the
-    /// user's language.
+    /// Called after each image, with the channel (from 0). `path` of the file is empty on failure; `message`
+    /// is the reason then, in the user's language. Not called for an image that is cancelled.
     std::function<void(int channel, const QString &path, const QString &message)> taken = {};
 };

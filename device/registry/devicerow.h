@@ -14,7 +14,7 @@ struct SearchDeviceInformation;
 /// Keys of a device row.
 namespace DeviceRowKey {
 inline constexpr QLatin1StringView checked("checked"); ///< bool: tick box of the row
-inline constexpr QLatin1StringView num("num");         ///< text: row number, filled by the page
+inline constexpr QLatin1StringView num("num");         ///< text: row number; empty in rows of a search
 inline constexpr QLatin1StringView state("state");     ///< bool: initialised
 inline constexpr QLatin1StringView name("name");       ///< text: device name
 inline constexpr QLatin1StringView type("type");       ///< text: device type
@@ -22,17 +22,19 @@ inline constexpr QLatin1StringView model("model");     ///< text: detailed model
 inline constexpr QLatin1StringView ipport("ipport");   ///< text: "address:port"
 inline constexpr QLatin1StringView mac("mac");       ///< text: MAC; empty if the device has not reported one
 inline constexpr QLatin1StringView vision("vision"); ///< text: software version, "v" in front
-inline constexpr QLatin1StringView res("res");       ///< int: last IP modification, -1 none yet
-inline constexpr QLatin1StringView operate("operate");       ///< text of the operation column
-inline constexpr QLatin1StringView filepath("filepath");     ///< text: firmware file chosen for the device
-inline constexpr QLatin1StringView upgrade("upgrade");       ///< int: upgrade progress in percent
-inline constexpr QLatin1StringView upgraderes("upgraderes"); ///< int: last upgrade, -1 none yet
-inline constexpr QLatin1StringView url("url");               ///< text: address used for CGI commands
-inline constexpr QLatin1StringView result("result");         ///< text result of the last batch operation
-inline constexpr QLatin1StringView httpport("httpport");     ///< int: HTTP port
+/// Int: the LoginResult of the last address change or initialisation, -1 for none.
+inline constexpr QLatin1StringView res("res");
+inline constexpr QLatin1StringView operate("operate");   ///< text of the operation column; always empty
+inline constexpr QLatin1StringView filepath("filepath"); ///< text: firmware file chosen for the device
+inline constexpr QLatin1StringView upgrade("upgrade");   ///< int: upgrade progress in percent
+/// Int: UpgradeTools::Result of the last upgrade, or of the check of "filepath".
+inline constexpr QLatin1StringView upgraderes("upgraderes");
+inline constexpr QLatin1StringView url("url");           ///< text: command of the last batch over HTTP
+inline constexpr QLatin1StringView result("result");     ///< text: result of the last batch operation
+inline constexpr QLatin1StringView httpport("httpport"); ///< int: web port, see `https`
 
-/// Text: result of the last upgrade, in the user's language. Only rows of devices with an upgrade have it:
-/// "result" is that of other operations.
+/// Text: "upgraderes" in the user's language. Only rows with a firmware file or an upgrade have it: "result"
+/// is that of other operations.
 inline constexpr QLatin1StringView upgradetext("upgradetext");
 
 // Keys of devices that were added manually, or for which the user has entered an account.
@@ -84,7 +86,7 @@ template<std::size_t size>
 /// The version with the prefix "v"; empty if unknown.
 [[nodiscard]] QString versionText(const QString &version);
 
-/// Whether the response belongs to the IPv4 list: its IP version is 4 and its address is set.
+/// Whether the response belongs to the IPv4 list: its IP version is 4 and its address is not 0.0.0.0.
 [[nodiscard]] bool hasIPv4Address(const sdk::SearchAnswer &answer);
 
 /// Whether the device is initialised. True if it does not report that.
@@ -103,9 +105,9 @@ inline constexpr QLatin1StringView uuidPrefix("uuid:");
 /// The "address:port" of the device in operations. An IPv6 address is in brackets (RFC 3986).
 [[nodiscard]] QString addressAndPort(const sdk::SearchAnswer &answer);
 
-/// The name of a row, which identifies it in its list: the MAC, or uuidName(), or the first address and port
-/// of a row without both, followed by "#" and a number if earlier rows had the same name. Empty for an empty
-/// row.
+/// The name of a row, which identifies it in its list: its key "identity" if it has one, otherwise the MAC,
+/// otherwise the address and port, followed by "#" and a number if earlier rows had the same name. Empty for
+/// an empty row.
 [[nodiscard]] QString rowName(const QJsonObject &row);
 
 /// The address of an IPv4 row without its port.

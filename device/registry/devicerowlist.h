@@ -16,14 +16,15 @@ public:
     [[nodiscard]] const QVariantList &rows() const { return m_rows; }
     [[nodiscard]] bool contains(const QString &name) const { return m_positions.contains(name); }
 
+    // The list must not contain the name.
     void append(const QString &name, const QJsonObject &row);
     void prepend(const QString &name, const QJsonObject &row);
 
     /// The row of this name; empty if there is none. Constant time.
     [[nodiscard]] QJsonObject row(const QString &name) const;
 
-    /// Name of the first row with this "ipport" that is not lost, otherwise of the first lost one. Constant
-    /// time unless many rows share the address.
+    /// Name of the first row with this "ipport" that is not lost, otherwise of the first lost one. nullopt if
+    /// there is no such row. Constant time unless many rows share the address.
     [[nodiscard]] std::optional<QString> nameAt(const QString &ipport) const;
 
     /// Names of the rows with this "ipport", in their order.
@@ -33,7 +34,7 @@ public:
     /// time unless many rows share the old or the new address.
     void replace(const QString &name, QJsonObject row);
 
-    /// Removes rows in one pass.
+    /// Removes rows in one pass. Names without a row are ignored.
     void remove(const QSet<QString> &names);
 
 private:

@@ -42,7 +42,9 @@ public:
         noteProgress();
     }
 
+    /// Whether a stop was requested.
     [[nodiscard]] bool isStopped() const { return m_stop.stop_requested(); }
+    /// Whether the deadline has passed.
     [[nodiscard]] bool isLate() const { return m_clock && m_clock->now() >= m_deadline; }
     [[nodiscard]] bool shouldEnd() const { return isStopped() || isLate(); }
     [[nodiscard]] const std::stop_token &stopToken() const { return m_stop; }

@@ -39,14 +39,17 @@ public:
     /// The result of addAnswer().
     struct Addition
     {
-        bool added = false;  ///< false: the response was dropped
-        bool notify = false; ///< at least a second has passed since the last notification
-        int ipv4Count = 0;   ///< as ipv4Count() after the addition
+        bool added = false; ///< false: the response was dropped
+        /// The response has changed a row, and at least a second has passed since the last notification or
+        /// the first change.
+        bool notify = false;
+        int ipv4Count = 0; ///< as ipv4Count() after the addition; may be 0 if `added` is false
     };
 
-    /// Adds a row for the response. Only the first response of a device adds a row. A row with a loopback
-    /// address is prepended to its list, others are appended. Responses of devices that were removed since
-    /// clear() are dropped, and so are those beyond maximumFound. Constant time.
+    /// Adds a row for the response. Only the first response of a device adds a row, or replaces the lost row
+    /// of the device. An IPv4 row with the loopback address is prepended unless its type is
+    /// otherDeviceType(); others are appended. Dropped are responses of devices that are listed without a
+    /// search or were removed since clear(), and those beyond maximumFound. Constant time.
     ///
     /// A UUID belongs to the address that first reported it since clear(). A device with the same UUID at
     /// another address is identified by its address. A MAC in a later response is written to the row of the
@@ -56,17 +59,18 @@ public:
     /// Number of responses that were dropped since clear() because of maximumFound.
     [[nodiscard]] int leftOut() const;
 
-    /// The name of the IPv4 row of the device that responded: by its MAC, its UUID, or its address and port
-    /// if it reports neither. Empty if there is no row.
+    /// The name of the IPv4 row of the device that responded: by its MAC; if it reports none, by its address
+    /// and port; then by its UUID. Empty if there is no row.
     [[nodiscard]] QString nameOf(const sdk::SearchAnswer &answer) const;
 
     /// Updates the IPv4 row `name` from a response: state, name, model, version, address and ports, the
-    /// search record, and the MAC if it was unknown. Other values are kept, and so are strings that the
-    /// response leaves empty. Returns false without a change if there is no such row, or if its address is
-    /// not `address` any more: a response may arrive after the address was changed.
+    /// search record, and the MAC if it was unknown. The row is not lost or unconfirmed any more. Other
+    /// values are kept, and so are an HTTPS port, and name, model and version that the response leaves empty.
+    /// Returns false without a change if there is no such row, or if its address is not `address` any more: a
+    /// response may arrive after the address was changed.
     bool updateRow(const QString &name, const sdk::SearchAnswer &answer, const QString &address);
 
-    /// Sets the names of the rows that clear() keeps: those of devices with failures.
+    /// Sets the names of the rows that each later clear() keeps: those of devices with failures.
     void setKept(const QSet<QString> &names);
 
     /// Removes the rows and records at the start of a search, except those of setKept(). The kept rows are
@@ -101,7 +105,8 @@ public:
     bool changeRowAt(const QString &ipport, const Change &change);
 
     /// Adds an IPv4 row that does not come from a search, with the response of the device as its record if
-    /// there is one. Replaces the row of the same device, or appends the row. The row gets the next number.
+    /// there is one. Replaces the row of the same device, or appends the row. Its "num" becomes the number of
+    /// IPv4 rows plus 1.
     void upsertRow(QJsonObject row, const std::optional<sdk::SearchAnswer> &answer = {});
 
     /// Removes IPv4 rows with their search records, or IPv6 rows, by name. The running search does not add
@@ -109,7 +114,8 @@ public:
     void removeRows(const QSet<QString> &names);
     void removeIPv6Rows(const QSet<QString> &names);
 
-    /// The raw search response of the device of a row, if there is one.
+    /// The raw search response of the device of an IPv4 row, if there is one. Those of devices with IPv6 rows
+    /// only are stored under their MACs.
     [[nodiscard]] std::optional<sdk::SearchAnswer> record(const QString &name) const;
 
     /// Sets the search response of a row.

@@ -19,34 +19,35 @@ enum class EncodePlace : std::uint8_t
 inline constexpr int itemsOfStream = 4;
 
 /// Keys of a stream. They are those of the main stream; a key of the sub stream is "sub" and the key with a
-/// capital first letter, see encodeKey().
+/// capital first letter, see encodeKey(). A value whose item was not read is invalid.
 namespace EncodeKey {
-inline constexpr QLatin1StringView allStreamType("allStreamType");
-inline constexpr QLatin1StringView encodeMode("encodeMode");
-inline constexpr QLatin1StringView curEncodeMode("curEncodeMode");
-inline constexpr QLatin1StringView resolution("resolution");
-inline constexpr QLatin1StringView curResolution("curResolution");
+inline constexpr QLatin1StringView allStreamType("allStreamType"); ///< list of strings: of curStreamType
+inline constexpr QLatin1StringView encodeMode("encodeMode");       ///< list of strings: compressions
+inline constexpr QLatin1StringView curEncodeMode("curEncodeMode"); ///< string of encodeMode
+inline constexpr QLatin1StringView resolution("resolution");       ///< list of strings
+inline constexpr QLatin1StringView curResolution("curResolution"); ///< string of resolution
 /// Int: 0 constant, 1 variable bit rate.
 inline constexpr QLatin1StringView bitstreamControl("bitstreamControl");
 inline constexpr QLatin1StringView bitStream("bitStream"); ///< list of strings: steps, and "custom"
-/// Read: int, index in bitStream; write: kbit/s.
+/// Read: int, index in bitStream, -1 if the bit rate is not a step; write: kbit/s.
 inline constexpr QLatin1StringView curBitStream("curBitStream");
-inline constexpr QLatin1StringView bitRate("bitRate"); ///< int: kbit/s
-inline constexpr QLatin1StringView frameRate("frameRate");
-inline constexpr QLatin1StringView frameRateMax("frameRateMax");
-inline constexpr QLatin1StringView quality("quality"); ///< int: 1 to 6
-inline constexpr QLatin1StringView audioEnable("audioEnable");
-inline constexpr QLatin1StringView audioCompression("audioCompression");
-inline constexpr QLatin1StringView curAudioCompression("curAudioCompression");
-inline constexpr QLatin1StringView samplingFrequency("samplingFrequency");
+inline constexpr QLatin1StringView bitRate("bitRate");                         ///< int: kbit/s
+inline constexpr QLatin1StringView frameRate("frameRate");                     ///< int: frames per second
+inline constexpr QLatin1StringView frameRateMax("frameRateMax");               ///< int: frames per second
+inline constexpr QLatin1StringView quality("quality");                         ///< int: 1 to 6, the best
+inline constexpr QLatin1StringView audioEnable("audioEnable");                 ///< int: 0 or 1
+inline constexpr QLatin1StringView audioCompression("audioCompression");       ///< list of strings
+inline constexpr QLatin1StringView curAudioCompression("curAudioCompression"); ///< string of audioCompression
+inline constexpr QLatin1StringView samplingFrequency("samplingFrequency");     ///< list of strings: hertz
 inline constexpr QLatin1StringView curSamplingFrequency("curSamplingFrequency"); ///< string: hertz
 /// List of strings: settings of the stream in EncodeForm that the device does not have.
 inline constexpr QLatin1StringView missingSettings("missingSettings");
 
 // Of the sub stream only.
 
-inline constexpr QLatin1StringView videoEnable("videoEnable");
-inline constexpr QLatin1StringView subVideoEnable("subVideoEnable");
+inline constexpr QLatin1StringView videoEnable("videoEnable");       ///< the field of subVideoEnable
+inline constexpr QLatin1StringView subVideoEnable("subVideoEnable"); ///< int: 0 or 1
+/// curResolution of the sub stream; setConfigData() writes it to the device immediately.
 inline constexpr QLatin1StringView subCurResolution("subCurResolution");
 
 // Keys that have no stream.
@@ -58,6 +59,8 @@ inline constexpr QLatin1StringView curChannel("curChannel"); ///< int: of the en
 inline constexpr QLatin1StringView curVideoChannel("curVideoChannel");
 inline constexpr QLatin1StringView curStreamType("curStreamType"); ///< int: 0 normal, 1 motion, 2 alarm
 inline constexpr QLatin1StringView offeredStreamTypes("offeredStreamTypes"); ///< int: number of main streams
+// An item is the int of its EncodePlace, plus itemsOfStream for the sub stream.
+
 /// List of int: items that the last write changed.
 inline constexpr QLatin1StringView takenItems("takenItems");
 inline constexpr QLatin1StringView unreadPlaces("unreadPlaces"); ///< list of int: items that were not read
@@ -78,7 +81,7 @@ struct EncodeField
     std::optional<EncodePlace> place = std::nullopt; ///< empty for a list, which is not written
 };
 
-/// Every key of a stream.
+/// Every key that both streams have.
 inline constexpr std::array encodeFields = {
     EncodeField{EncodeKey::allStreamType},
     EncodeField{EncodeKey::encodeMode},
@@ -111,5 +114,5 @@ struct StreamKey
 /// The reverse of splitEncodeKey().
 [[nodiscard]] QString encodeKey(bool isSub, QLatin1StringView field);
 
-/// The item that contains the value of a key of the main stream. Empty for a list and for other keys.
+/// The item that contains the value of a StreamKey::field. Empty for a list and for other keys.
 [[nodiscard]] std::optional<EncodePlace> encodePlaceOf(const QString &field);

@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <optional>
 
-/// The address as a number in host byte order. Empty unless `text` consists of four decimal octets (0 to 255)
-/// separated by dots, without signs or spaces.
+/// The address as a number in host byte order. Empty unless `text` consists of four decimal octets (0 to 255,
+/// one to three digits) separated by dots, without signs or spaces.
 [[nodiscard]] std::optional<std::uint32_t> ipv4Number(QStringView text);
 
 /// The dotted notation of an address.

@@ -14,7 +14,7 @@ enum class LoginResult : int
     WrongPassword = 2,
     AccountLocked = 3,
     AccountLoggedIn = 4,
-    NetworkFailure = 5,
+    NetworkFailure = 5, ///< no response, and every failure without another code
     ProtocolMismatch = 6,
     NotInitialised = 7,
     NotSupported = 12, ///< the dialog for adding devices shows no message for it
@@ -43,8 +43,8 @@ enum class LoginResult : int
 /// longer accepts the session.
 [[nodiscard]] bool isSessionLost(std::uint32_t libraryError);
 
-/// Whether such an error means that the device does not accept the account. The login must not be repeated
-/// unless the user enters the account again.
+/// Whether such an error means that the device does not accept the account, or no longer the session. The
+/// login must not be repeated unless the user enters the account again.
 [[nodiscard]] bool isLoginRefused(std::uint32_t libraryError);
 
 /// The result as the int in rows and maps.
@@ -53,14 +53,14 @@ enum class LoginResult : int
     return static_cast<int>(result);
 }
 
-// More result codes of operations.
+// More result codes of operations. See also unusableLine (997) in deviceimport.h.
 
 inline constexpr int upgradeFileUnusable = 992; ///< no request
 inline constexpr int upgradeFailed =
     993; ///< aborted by the device, not restarted, or the version is the old one
 inline constexpr int upgradeUnconfirmed =
-    994; ///< the device has restarted; its version does not prove the upgrade
-inline constexpr int deviceBusy = 995;
+    994;                               ///< the device has restarted; its version does not prove the upgrade
+inline constexpr int deviceBusy = 995; ///< the device refuses for now; a retry may succeed
 
 /// The channel of a snapshot has no camera, or the file cannot be written.
 inline constexpr int snapshotFailed = 996;

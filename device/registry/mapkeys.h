@@ -22,7 +22,7 @@ inline constexpr QLatin1StringView channelsConnected("channelsConnected"); ///< 
 inline constexpr QLatin1StringView connectedChannels("connectedChannels"); ///< list of bool, of all channels
 } // namespace SessionKey
 
-/// Capabilities of the network library.
+/// Capabilities of the network library. Bool: it has the operation.
 namespace LibraryKey {
 inline constexpr QLatin1StringView defaultPort("defaultPort");     ///< int: service port of most devices
 inline constexpr QLatin1StringView videoStandard("videoStandard"); ///< bool
@@ -33,7 +33,7 @@ inline constexpr QLatin1StringView timeServerDetails("timeServerDetails");      
 /// A channel of a device. `channel` is an int, counted from 0.
 namespace ChannelKey {
 inline constexpr QLatin1StringView channel("channel");
-inline constexpr QLatin1StringView name("name");
+inline constexpr QLatin1StringView name("name");           ///< string
 inline constexpr QLatin1StringView connected("connected"); ///< bool: a camera is connected
 } // namespace ChannelKey
 
@@ -43,7 +43,8 @@ inline constexpr QLatin1StringView names("names");         ///< list of strings,
 inline constexpr QLatin1StringView connected("connected"); ///< list of bool
 } // namespace ChannelListKey
 
-/// Properties of a device beside those of its row.
+/// Properties of a device in addition to those of its row. Strings, unless stated otherwise; ports and counts
+/// are int. Unknown ones are missing.
 namespace DeviceDetailKey {
 inline constexpr QLatin1StringView loginResult("loginResult"); ///< int: a LoginResult
 inline constexpr QLatin1StringView serial("serial");
@@ -86,19 +87,19 @@ inline constexpr QLatin1StringView account("account");
 inline constexpr QLatin1StringView password("password");
 } // namespace DeviceToAddKey
 
-/// Result of one device of several.
+/// Result of one device, or of one of several.
 namespace ResultKey {
-inline constexpr QLatin1StringView identity("identity");
-inline constexpr QLatin1StringView result("result"); ///< int: a LoginResult
-inline constexpr QLatin1StringView words("words");   ///< the result in the user's language
-inline constexpr QLatin1StringView text("text");     ///< more than the result says, in the user's language
-inline constexpr QLatin1StringView name("name");     ///< the name of a channel after it was written
+inline constexpr QLatin1StringView identity("identity"); ///< DeviceToAddKey::identity
+inline constexpr QLatin1StringView result("result");     ///< int: a LoginResult
+inline constexpr QLatin1StringView words("words");       ///< the result in the user's language
+inline constexpr QLatin1StringView text("text"); ///< more than the result says, in the user's language
+inline constexpr QLatin1StringView name("name"); ///< the name of a channel after it was written
 } // namespace ResultKey
 
 /// A line of a device list or an upgrade document.
 namespace ListLineKey {
-inline constexpr QLatin1StringView line("line"); ///< int: its number in the file, from 1
-inline constexpr QLatin1StringView address("address");
+inline constexpr QLatin1StringView line("line");       ///< int: its number in the file, from 1
+inline constexpr QLatin1StringView address("address"); ///< in the line; of a document "address:port"
 /// Int: a LoginResult; of a document an UpgradeTools::Result.
 inline constexpr QLatin1StringView code("code");
 inline constexpr QLatin1StringView reason("reason");   ///< of the code, in the user's language

@@ -50,18 +50,19 @@ public:
 /// A request for a session.
 struct OwnSessionOrder
 {
-    QString ipport;
+    QString ipport; ///< "address:port" of the device
     QString account;
     QString password;
-    std::shared_ptr<OwnSession> present = {}; ///< kept if the device responds in it; null for none
+    /// A session with the same device, kept if the device responds in it; null for none.
+    std::shared_ptr<OwnSession> present = {};
 };
 
 /// The response to an OwnSessionOrder.
 struct OwnSessionOffer
 {
     int result = resultCode(LoginResult::NotSupported); ///< a LoginResult
-    QVariantList channels = {};                         ///< maps with the keys of ChannelKey
-    std::shared_ptr<OwnSession> session = {};           ///< the present session or a new one; null on failure
+    QVariantList channels = {}; ///< of a new session: maps with the keys of ChannelKey; otherwise empty
+    std::shared_ptr<OwnSession> session = {}; ///< the present session or a new one; null on failure
 };
 
 /// Runs once. Blocks its thread for the timeouts of the library.

@@ -51,33 +51,34 @@ public:
     /// portFor() without a requested port. The mapping is kept until each caller has called giveBack().
     [[nodiscard]] int claim(const QString &deviceId, int devicePort);
 
-    /// Ends a claim(). Removes the mapping, unless the port has another claim, isKnown(), or `isListed`
-    /// returns that a row has it.
+    /// Ends a claim(). Removes the mapping if the port has no other claim, is not known (see isKnown()), and
+    /// `isListed` returns false: no row has it.
     void giveBack(int localPort, const std::function<bool()> &isListed);
 
     /// The reason why requests fail for every device, in the user's language: a missing or invalid setting,
     /// or an agent that did not start. Otherwise empty.
     [[nodiscard]] QString faultText() const;
 
-    /// Removes a mapping.
+    /// Removes a mapping. Does nothing for 0.
     void release(int localPort);
 
-    /// Registers the login port of a device.
+    /// Registers the login port of a device. Its web port is kept if it is registered already.
     void note(int loginPort);
 
     /// Whether a login port is registered by note() or pair() and not released since.
     [[nodiscard]] bool isKnown(int loginPort) const;
 
-    /// Registers the login port and the web port of a device.
+    /// Registers the login port and the web port of a device; 0 for no web port.
     void pair(int loginPort, int webPort);
 
     /// The web port of a login port, 0 for none.
     [[nodiscard]] int webPortOf(int loginPort) const;
 
-    /// Releases the two ports of a device.
+    /// Releases the two ports of a device and ends their registration.
     void releaseDevice(int loginPort);
 
-    /// Releases both ports of each registered device whose login port is not needed.
+    /// Releases both ports of each registered device whose login port is not needed. `isNeeded` is called on
+    /// the caller's thread and may use this object.
     void releaseUnneeded(const std::function<bool(int loginPort)> &isNeeded);
 
 private:

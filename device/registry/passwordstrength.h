@@ -3,5 +3,6 @@
 #include <QString>
 
 /// Strength of a password, 0 to 3: the number of kinds of characters that it contains. The kinds are digits,
-/// letters and special characters, without the underscore. The length has no influence.
+/// letters (A to Z in both cases), and all other characters except the underscore. The length has no
+/// influence.
 [[nodiscard]] int passwordStrength(const QString &password);

@@ -13,11 +13,11 @@ public:
         // Running
         Restarting = -6, ///< waiting until the device has restarted
         Writing = -5,    ///< cannot be stopped
-        Sending = -4,
-        Preparing = -3, ///< checking the file and logging in
-        Waiting = -2,   ///< until other upgrades are finished
+        Sending = -4,    ///< the firmware file
+        Preparing = -3,  ///< checking the file and logging in
+        Waiting = -2,    ///< until other upgrades are finished
 
-        None = -1,
+        None = -1,   ///< no upgrade, or no reason against one
         Success = 0, ///< the device has responded with the new version
 
         // Failures that a retry does not solve
@@ -26,25 +26,25 @@ public:
         FileUnreadable = 3,
         FileEmpty = 4,
         FileTooLarge = 5,
-        FileDamaged = 6, ///< invalid header
-        WrongModel = 7,  ///< the file is for other devices
-        FirmwareRefused = 8,
+        FileDamaged = 6,     ///< invalid header
+        WrongModel = 7,      ///< the file is for other devices
+        FirmwareRefused = 8, ///< by the device
         WrongPassword = 9,
         NoSuchAccount = 10,
         AccountLocked = 11,
         NotInitialised = 12,
-        NotSupported = 13,
+        NotSupported = 13, ///< the device does not support upgrades, or is not initialised
         LineUnusable = 14, ///< of a document: the address is missing or invalid
         ListedTwice = 15,  ///< of a document: an earlier line has the same device
 
         // Failures that a retry may solve
         NoAnswer = 20,
         DeviceBusy = 21,
-        Failed = 22, ///< the device has aborted the upgrade
-        Stuck = 23,  ///< the device has not reported progress for too long
-        NotBack = 24,
-        KeptVersion = 25,
-        Stopped = 26,
+        Failed = 22,         ///< the device has aborted the upgrade
+        Stuck = 23,          ///< the device has not reported progress for too long
+        NotBack = 24,        ///< the device has not responded since its restart
+        KeptVersion = 25,    ///< the device has restarted with the old version
+        Stopped = 26,        ///< by the user, before the device was changed
         Cut = 27,            ///< the application ended
         VersionUnknown = 28, ///< the device has restarted, but its version is unknown
         UnknownCertificate = 29,
@@ -69,8 +69,8 @@ public:
     /// The state or result in the user's language; empty for None. Any thread.
     Q_INVOKABLE [[nodiscard]] static QString text(int result);
 
-    /// The result as a result code of batches: a LoginResult or a code of loginresult.h. LoginResult::NotDone
-    /// for running and stopped upgrades.
+    /// The result as a result code of batches: a LoginResult, a code of loginresult.h, or unusableLine.
+    /// LoginResult::NotDone for upgrades that are running, stopped, cut or None.
     [[nodiscard]] static int batchResult(Result result);
 
     /// File name of the template of upgrade documents, in the user's language.
