@@ -75,7 +75,8 @@ public:
     virtual void setBatchDeleteDevice(const QVariantMap & /*macs*/, const QString & /*ipversion*/) {}
     /// The IPv4 row at an address, with its password; empty if there is none.
     virtual QVariantMap getDeviceInfo(const QString & /*ipport*/) { return {}; }
-    /// The row of either list without its password, and keys of DeviceDetailKey from its search record.
+    /// The row of either list without its password, and keys of DeviceDetailKey from its search record; empty
+    /// if there is no row.
     virtual QVariantMap getDeviceDetail(const QString & /*mac*/) { return {}; }
     /// The same for the IPv4 row at an address.
     virtual QVariantMap getDeviceDetailByAddress(const QString & /*ipport*/) { return {}; }

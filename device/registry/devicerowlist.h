@@ -13,7 +13,7 @@
 class DeviceRowList
 {
 public:
-    [[nodiscard]] const QVariantList &rows() const { return m_rows; }
+    [[nodiscard]] const QVariantList &rows() const { return m_rows; } ///< QJsonObjects
     [[nodiscard]] bool contains(const QString &name) const { return m_positions.contains(name); }
 
     // The list must not contain the name.

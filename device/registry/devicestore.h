@@ -77,9 +77,10 @@ public:
     /// "lost" until their devices are found again.
     void clear();
 
+    // The rows as QJsonObjects, in their order.
     [[nodiscard]] QVariantList ipv4Rows() const;
     [[nodiscard]] QVariantList ipv6Rows() const;
-    [[nodiscard]] int ipv4Count() const; ///< without lost rows
+    [[nodiscard]] int ipv4Count() const; ///< number of IPv4 rows without the lost ones
 
     /// The IPv4 row of a name; empty if there is none.
     [[nodiscard]] QJsonObject row(const QString &mac) const;

@@ -31,11 +31,11 @@ inline constexpr QLatin1StringView bitstreamControl("bitstreamControl");
 inline constexpr QLatin1StringView bitStream("bitStream"); ///< list of strings: steps, and "custom"
 /// Read: int, index in bitStream, -1 if the bit rate is not a step; write: kbit/s.
 inline constexpr QLatin1StringView curBitStream("curBitStream");
-inline constexpr QLatin1StringView bitRate("bitRate");                         ///< int: kbit/s
-inline constexpr QLatin1StringView frameRate("frameRate");                     ///< int: frames per second
-inline constexpr QLatin1StringView frameRateMax("frameRateMax");               ///< int: frames per second
-inline constexpr QLatin1StringView quality("quality");                         ///< int: 1 to 6, the best
-inline constexpr QLatin1StringView audioEnable("audioEnable");                 ///< int: 0 or 1
+inline constexpr QLatin1StringView bitRate("bitRate");           ///< int: kbit/s; read only, see curBitStream
+inline constexpr QLatin1StringView frameRate("frameRate");       ///< int: frames per second
+inline constexpr QLatin1StringView frameRateMax("frameRateMax"); ///< int: frames per second; read only
+inline constexpr QLatin1StringView quality("quality");           ///< int: 1 to 6, the best
+inline constexpr QLatin1StringView audioEnable("audioEnable");   ///< int: 0 or 1
 inline constexpr QLatin1StringView audioCompression("audioCompression");       ///< list of strings
 inline constexpr QLatin1StringView curAudioCompression("curAudioCompression"); ///< string of audioCompression
 inline constexpr QLatin1StringView samplingFrequency("samplingFrequency");     ///< list of strings: hertz

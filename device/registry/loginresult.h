@@ -20,7 +20,7 @@ enum class LoginResult : int
     NotSupported = 12, ///< the dialog for adding devices shows no message for it
     AlreadyListed = 13,
     Upgrading = 14,          ///< no request: the firmware of the device is being upgraded
-    NotDone = 15,            ///< no request: the batch ended before the turn of the device
+    NotDone = 15,            ///< the work ended before the turn of the device, or between two requests
     SessionEnded = 16,       ///< the device no longer accepts the session of the request
     InvalidValue = 17,       ///< the device does not accept a value of the request
     UnknownCertificate = 18, ///< no request: the user has not accepted the certificate of the device

@@ -106,7 +106,7 @@ inline constexpr QLatin1StringView reason("reason");   ///< of the code, in the 
 inline constexpr QLatin1StringView mac("mac");         ///< name of the row of the device; empty for none
 inline constexpr QLatin1StringView file("file");       ///< firmware file
 inline constexpr QLatin1StringView version("version"); ///< of the firmware file; empty if unknown
-inline constexpr QLatin1StringView device("device");   ///< map: the row of the device
+inline constexpr QLatin1StringView device("device");   ///< map: the row; of upgradeDocumentReading() only
 } // namespace ListLineKey
 
 /// An upgrade document.

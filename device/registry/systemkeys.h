@@ -13,11 +13,12 @@ inline constexpr QLatin1StringView autoMaintain("autoMaintain");
 inline constexpr QLatin1StringView rebootDevice("rebootDevice"); ///< without data
 inline constexpr QLatin1StringView resetSystem("resetSystem");   ///< without data
 inline constexpr QLatin1StringView videoStandard("videoStandard");
-inline constexpr QLatin1StringView channelName("channelName");       ///< of the first channel
-inline constexpr QLatin1StringView loginCheck("loginCheck");         ///< SystemDataKey::password: the old one
-inline constexpr QLatin1StringView modifyPassword("modifyPassword"); ///< SystemDataKey::password: the new one
-inline constexpr QLatin1StringView cancelLogin("cancelLogin");       ///< ends the logins of loginCheck
-inline constexpr QLatin1StringView readTime("readTime");             ///< without data
+inline constexpr QLatin1StringView channelName("channelName"); ///< of the first channel
+inline constexpr QLatin1StringView loginCheck("loginCheck");   ///< SystemDataKey::password: the old one
+/// SystemDataKey::password: the new one. Only for devices whose loginCheck has succeeded.
+inline constexpr QLatin1StringView modifyPassword("modifyPassword");
+inline constexpr QLatin1StringView cancelLogin("cancelLogin"); ///< ends the logins of loginCheck
+inline constexpr QLatin1StringView readTime("readTime");       ///< without data
 } // namespace SystemCommand
 
 /// Keys of the data of the commands.

@@ -32,16 +32,16 @@ public:
     /// emits done(). A running query of addresses (up to 3 s) is not interrupted.
     void stop();
 
-    /// Same for ever, without limited(), progressed() and done(). Late responses may still emit rowsAdded()
-    /// and counted().
+    /// Same, and no later search runs. limited(), progressed() and done() are not emitted any more; late
+    /// responses may still emit rowsAdded() and counted().
     void requestStop();
 
     /// Sets the range of the next start() only.
     void setRange(SearchRange range);
 
     /// Starts a search of the range and, with `localSegment`, of the local segment before it. Returns
-    /// immediately; the task clears the store first. A search that is still running continues: both fill the
-    /// same store.
+    /// immediately; the task clears the store first. Without a network library, nothing is found. A search
+    /// that is still running continues: both fill the same store.
     void start(bool localSegment);
 
 Q_SIGNALS:
