@@ -13,16 +13,18 @@
 class CDeviceFactory;
 
 /// Lists, changes and assigns the stored accounts. Row 0 is the default account of searches and batches,
-/// which the search settings change. Keys of a row: "name" (empty for the default account), "account" (the
-/// user name), "deviceCount" (int) and "isDefault" (bool). A row contains no password.
+/// which the search settings change. Keys of a row: "identity", "name" (empty for the default account),
+/// "account" (the user name), "deviceCount" (int: assigned devices) and "isDefault" (bool). A row contains no
+/// password.
 ///
-/// A device is named by its row (MAC, or address and port without one) or by address and port. Functions that
-/// return a QString return an error message in the user's language, empty on success.
+/// A device is named by its row (see rowName()) or by address and port. Functions that return a QString
+/// return an error message in the user's language, empty on success. Unknown devices in lists are ignored.
 ///
 /// Lives on the main thread. A change blocks that thread until the file is written.
 class AccountList : public DialogRows
 {
     Q_OBJECT
+    /// See AccountStore::problem().
     Q_PROPERTY(QString problem READ problem NOTIFY changed)
     Q_PROPERTY(int count READ rowCount NOTIFY changed)
     /// The names of the stored accounts that no device uses.
@@ -58,18 +60,19 @@ public:
     /// Reads the store and the default account again.
     Q_INVOKABLE void load();
 
-    /// Adds an account, or changes the account `before`. An empty password keeps the password of an account
-    /// that is changed.
+    /// Adds an account, or changes the account with the name `before`. An empty password keeps the password
+    /// of an account that is changed.
     Q_INVOKABLE QString put(const QString &before, const QString &name, const QString &account,
                             const QString &password);
     Q_INVOKABLE QString remove(const QString &name);
+    /// Removes the accounts of `unused`. Ends at the first error.
     Q_INVOKABLE QString removeUnused();
 
     /// The row of the account with this name; -1 if there is none.
     Q_INVOKABLE [[nodiscard]] int rowOfName(const QString &name) const;
 
-    /// The row of the account that is used for this device. -1 if the device's row holds an account that is
-    /// not stored.
+    /// The row of the account that is used for this device. -1 if the device's row holds an account itself,
+    /// which is not stored.
     Q_INVOKABLE [[nodiscard]] int rowOfDevice(const QString &device) const;
 
     /// Assigns the account with this name to the devices; an empty name is the default account. A device
@@ -79,9 +82,11 @@ public:
     /// The number of these devices that have neither MAC nor UUID.
     Q_INVOKABLE [[nodiscard]] int countUnidentified(const QStringList &devices) const;
 
-    /// Stores the accounts that the rows of these devices hold and the devices have accepted. With
-    /// `AsDefault` and `Unkept`, removes the assignment of an older stored account, which the devices now
-    /// refuse. Updates the passwords of the devices' favourites in each case.
+    /// Handles the accounts that the rows of these devices hold and the devices have accepted. `ForDevices`
+    /// stores them for the devices with MAC or UUID. `AsDefault` and `Unkept` remove the assignment of an
+    /// older stored account, which the devices now refuse. `AsDefault` then stores the first account with a
+    /// password as the default account. Accounts that are stored are removed from the rows. Updates the
+    /// passwords of the devices' favourites in each case.
     Q_INVOKABLE QString keepNew(const QStringList &devices, AccountList::Keeping keeping);
 
     /// Stores an account, which the device has accepted, for this device. Error for a device without MAC and

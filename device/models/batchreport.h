@@ -24,7 +24,7 @@ public:
     {
         Waiting = resultCode(LoginResult::Unknown), ///< a further step follows
         Succeeded = resultCode(LoginResult::Success),
-        NotDone = resultCode(LoginResult::NotDone),
+        NotDone = resultCode(LoginResult::NotDone),               ///< no result yet, or not reached
         NotInitialised = resultCode(LoginResult::NotInitialised), ///< skipped
         Upgrading = resultCode(LoginResult::Upgrading),           ///< skipped
     };

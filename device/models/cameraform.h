@@ -17,13 +17,14 @@ class CameraForm : public QObject
     Q_PROPERTY(
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
     Q_PROPERTY(QStringList channels READ channels NOTIFY changed) ///< never empty
-    Q_PROPERTY(int channel READ channel NOTIFY changed)
+    Q_PROPERTY(int channel READ channel NOTIFY changed)           ///< index in channels
     Q_PROPERTY(QString channelName READ channelName NOTIFY changed)
     Q_PROPERTY(QStringList switchModes READ switchModes NOTIFY changed)
     Q_PROPERTY(int switchMode READ switchMode NOTIFY changed) ///< index in switchModes, -1 for none
-    /// One map for each group ("picture", "sharpness", ...). All groups exist; each has the bool "support".
+    /// One map for each group of CameraKey::groups ("picture", "sharpness", ...), with the keys of
+    /// CameraSetting and CameraGroupKey. All groups exist; each has the bool "support".
     Q_PROPERTY(QVariantMap groups READ groups NOTIFY changed)
-    Q_PROPERTY(bool supportsAny READ supportsAny NOTIFY changed)
+    Q_PROPERTY(bool supportsAny READ supportsAny NOTIFY changed) ///< "support" of any group
     /// Exposure times in seconds, "1/100000" to "1/25".
     Q_PROPERTY(QStringList shutterTimes READ shutterTimes CONSTANT)
 public:

@@ -6,9 +6,10 @@
 #include <atomic>
 #include <memory>
 
-/// Lists the refused device certificates in a dialog, where the user accepts them. Keys of a row: "device"
-/// (address and port), "mac" (or UUID), "subject", "validity", "fingerprint", "stored" (the previously
-/// accepted fingerprint) and "changed" (bool). Unknown certificates are checked initially, changed ones are
+/// Lists the refused device certificates in a dialog, where the user accepts them; changed ones first. Keys
+/// of a row: "identity", "device" (address and port), "mac" (or UUID; empty if unknown), "subject",
+/// "validity" (first and last day), "fingerprint", "stored" (the previously accepted fingerprint; empty for
+/// an unknown certificate) and "changed" (bool). Unknown certificates are checked initially, changed ones are
 /// not.
 ///
 /// Lives on the main thread.
@@ -16,6 +17,7 @@ class CertificateList : public DialogRows
 {
     Q_OBJECT
     Q_PROPERTY(bool hasNewRefusals READ hasNewRefusals NOTIFY hasNewRefusalsChanged)
+    /// See CertificateStore::problem().
     Q_PROPERTY(QString problem READ problem NOTIFY rowsChanged)
     Q_PROPERTY(int count READ rowCount NOTIFY rowsChanged)
     Q_PROPERTY(int changedCount READ changedCount NOTIFY rowsChanged)
@@ -31,7 +33,8 @@ public:
     /// Replaces the rows by the certificates that are refused now, and clears hasNewRefusals.
     Q_INVOKABLE void load();
 
-    /// Stores the checked certificates as accepted. Returns an error message, empty on success.
+    /// Stores the checked certificates as accepted. Returns an error message, empty on success. The rows are
+    /// unchanged until load().
     Q_INVOKABLE QString agree();
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = QModelIndex()) const override;
@@ -39,7 +42,8 @@ public:
     [[nodiscard]] int changedCount() const;
     [[nodiscard]] int checkedCount() const;
 
-    /// The state of the "all" box. It covers unknown certificates only: changed ones are checked one by one.
+    /// The state of the "all" box: checked if all unknown certificates are checked, since changed ones are
+    /// checked one by one; unchecked if no certificate is checked.
     [[nodiscard]] Qt::CheckState checkState() const;
 
     /// Clamps the range to the rows. A range of several rows does not check changed certificates.

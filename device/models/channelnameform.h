@@ -7,7 +7,7 @@
 #include <QVariantList>
 
 /// One row for each channel. An edited name stays in this model until it is written. The roles are those of
-/// DialogRows; "identity" is the channel number. The model sends no requests: the page handles
+/// DialogRows; "identity" is the channel number from 0 as text. The model sends no requests: the page handles
 /// writeRequested() and reports the result with takeWritten(). Lives on the main thread.
 class ChannelNameForm : public DialogRows
 {
@@ -25,7 +25,7 @@ public:
     {
         None,
         Unknown,    ///< the device does not report the name
-        Empty,      ///< the entered name is empty
+        Empty,      ///< the entered name is empty or has spaces only
         TooLong,    ///< the entered name has more bytes than the device can store
         Refused,    ///< the device refused the last write
         Unanswered, ///< the device did not respond to the last write
@@ -42,7 +42,8 @@ public:
     [[nodiscard]] int unknownCount() const;
 
     /// Replaces the rows. A null name is a name that the device does not report. `connected` has a bool for
-    /// each channel: whether it has a camera. Discards edits that are not written.
+    /// each channel: whether it has a camera. Discards edits that are not written, and ends a running save as
+    /// cancelSaving() does.
     Q_INVOKABLE void load(const QVariantList &names, const QVariantList &connected);
 
     /// Sets the name that the user typed for a row, without control, line-break and bidirectional characters.
@@ -60,9 +61,10 @@ public:
     /// The first changed row whose name is empty or too long; -1 if there is none.
     Q_INVOKABLE [[nodiscard]] int firstFaulty() const;
 
-    /// Requests a write of each changed name, one after another in channel order. Stops early if the device
-    /// does not respond or is being upgraded, since the other writes would fail as well. Does nothing while
-    /// saving, or if no name is changed.
+    /// Requests a write of each changed name without spaces at its ends, one after another in channel order,
+    /// also of a name that is empty or too long: the caller checks firstFaulty() first. Stops early if the
+    /// device does not respond or is being upgraded, since the other writes would fail as well. Does nothing
+    /// while saving, or if no name is changed.
     Q_INVOKABLE void save();
 
     /// Sets the result of a write. `result` is 0, a LoginResult, or an error code of the device library.
@@ -73,7 +75,7 @@ public:
     /// Skips the names that are not written yet. The save ends with the result of the current write.
     Q_INVOKABLE void stopSaving();
 
-    /// Ends the save immediately. The result of the current write is not waited for.
+    /// Ends the save immediately, with saved(). The result of the current write is not waited for.
     Q_INVOKABLE void cancelSaving();
 
     [[nodiscard]] bool isSaving() const { return !m_rowsToSave.isEmpty(); }

@@ -5,8 +5,8 @@
 
 #include <QAbstractListModel>
 
-/// The lines of DeviceDetail that contain the search text. The roles are "group", "label" and "value". Lives
-/// on the main thread.
+/// The lines of DeviceDetail that contain the search text, or whose group contains it. The roles are "group",
+/// "label" and "value". Lives on the main thread.
 class DeviceDetailModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -14,7 +14,8 @@ class DeviceDetailModel : public QAbstractListModel
     Q_PROPERTY(int count READ rowCount NOTIFY linesChanged)
     Q_PROPERTY(int totalCount READ totalCount NOTIFY linesChanged) ///< including lines that are not shown
     Q_PROPERTY(QString text READ text NOTIFY linesChanged)         ///< all lines as plain text
-    /// Suggested name of a file for the text: the device's address with ".txt".
+    /// Suggested name of a file for the text: address and port with "_" for special characters, and ".txt".
+    /// Without an address "device.txt".
     Q_PROPERTY(QString fileName READ fileName NOTIFY linesChanged)
 public:
     explicit DeviceDetailModel(QObject *parent = nullptr);

@@ -19,7 +19,7 @@ public:
     /// Replaces the rows; all of them are checked.
     Q_INVOKABLE void setRows(const QVariantList &rows);
 
-    /// Same for rows without a name: "mac" of each is set to its index.
+    /// Same for rows without a name: "mac" of each is set to its index (from 0) as text.
     Q_INVOKABLE void setNumberedRows(const QVariantList &rows);
 
 protected:

@@ -14,15 +14,15 @@
 class CDeviceFactory;
 
 /// The rows of one device page. The roles are row keys ("state", "name", ...) and these:
-///  - "checked", "num" (from 1)
-///  - "conflict": another row of the list, shown or not, has the same "ipport"
+///  - "checked", "num" (from 1, as text)
+///  - "conflict": another row, shown or not and not offline, has the same "ipport"
 ///  - "identity": see rowName()
 ///  - "note": the user's note about the device, which the text search includes
-/// get() also returns "failure" (the failed batches of the device, see FollowedMarks::wordsOf()) and
-/// "onlyNotDone" (see FailedMarks).
+/// get() returns the keys of the row without "conflict", and in addition "failure" (the failed batches of the
+/// device, see FollowedMarks::wordsOf()) and "onlyNotDone" (see FailedMarks).
 ///
 /// The model reads all rows with one call of the factory's filterData() or filterDataIPV6() and filters them
-/// itself, so that list and filter are consistent. Checked states, selection and order survive a refresh.
+/// itself, so that list and filter are consistent. Checked states and order survive a refresh.
 /// Lives on the main thread.
 ///
 /// Qt's TableModel is not used because it reads its rows through JavaScript objects: with 10,000 devices each
@@ -43,7 +43,8 @@ class DeviceTableModel : public QAbstractListModel
     /// chosen another order. Reset to false when no mark is left.
     Q_PROPERTY(bool onlyFailed READ onlyFailed WRITE setOnlyFailed NOTIFY filterChanged)
     Q_PROPERTY(QString failedOperation READ failedOperation WRITE setFailedOperation NOTIFY filterChanged)
-    /// Whether strings that are not an IPv4 address are ordered as address 0; otherwise they come last.
+    /// Whether strings that are not an IPv4 address are ordered as address 0; otherwise they are the last
+    /// ones. A change applies at the next refresh().
     Q_PROPERTY(bool oddAddressesFirst MEMBER m_oddAddressesFirst NOTIFY filterChanged)
     Q_PROPERTY(QString sortKey READ sortKey NOTIFY sortChanged)
     Q_PROPERTY(Qt::SortOrder sortOrder READ sortOrder NOTIFY sortChanged)
@@ -84,9 +85,9 @@ public:
     [[nodiscard]] QString sortKey() const { return m_sortKey; }
     [[nodiscard]] Qt::SortOrder sortOrder() const { return m_sortOrder; }
 
-    [[nodiscard]] int totalCount() const { return m_totalCount; }   ///< rows of the list before any filter
-    [[nodiscard]] int failedCount() const { return m_failedCount; } ///< marked rows of the list
-    [[nodiscard]] int checkedCount() const { return m_checkedCount; }
+    [[nodiscard]] int totalCount() const { return m_totalCount; }     ///< rows of the list before any filter
+    [[nodiscard]] int failedCount() const { return m_failedCount; }   ///< marked rows of the list
+    [[nodiscard]] int checkedCount() const { return m_checkedCount; } ///< shown rows that are checked
     [[nodiscard]] int checkedUpgradingCount() const
     {
         return m_checkedUpgradingCount;
@@ -97,8 +98,9 @@ public:
     /// Reads the rows again. The page calls it on the factory's signalAddDeviceToTable.
     Q_INVOKABLE void refresh();
 
-    /// Reads the row of one IPv4 device again. Results of a batch use it: reading all rows for each result
-    /// would take longer than the batch. Filters, order and "conflict" are updated by refresh() only.
+    /// Reads the row of one IPv4 device again, if it is shown. Results of a batch use it: reading all rows
+    /// for each result would take longer than the batch. Filters, order and "conflict" are updated by
+    /// refresh() only.
     Q_INVOKABLE void refreshDevice(const QString &mac);
     Q_INVOKABLE void refreshDevices(const QStringList &macs);
 
@@ -142,7 +144,7 @@ public:
     /// they are being upgraded.
     Q_INVOKABLE int deleteChecked();
 
-    /// The given rows as lines with tab-separated columns, for the clipboard.
+    /// The given rows as lines with tab-separated columns, for the clipboard. Rows out of range are ignored.
     Q_INVOKABLE [[nodiscard]] QString textOf(const QList<int> &rows) const;
 
 Q_SIGNALS:

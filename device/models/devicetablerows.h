@@ -16,7 +16,7 @@ struct DeviceTableRow
 {
     QJsonObject values;
     QString identity;      ///< see rowName()
-    bool conflict = false; ///< another row of the list, shown or not, has the same "ipport"
+    bool conflict = false; ///< another row, shown or not and not offline, has the same "ipport"
     QString reason = {};   ///< reason of the device's mark, while only failed devices are shown
 
     /// The value of a key. A missing key (IPv6 rows lack some) gives the initial value of new rows.
@@ -33,7 +33,7 @@ struct DeviceTableFilter
 {
     bool showInitialised = true;
     bool showUninitialised = true;
-    QString searchText = {};
+    QString searchText = {};                  ///< in the values or the note of a row; empty: all rows
     const FollowedMarks *onlyThose = nullptr; ///< not null: only marked devices are shown
 };
 

@@ -35,6 +35,6 @@ protected:
     // `row` is a valid index.
 
     [[nodiscard]] virtual QVariantMap valuesOf(int row) const = 0;
-    [[nodiscard]] virtual bool isChecked(int row) const;
-    [[nodiscard]] virtual bool isInConflict(int row) const;
+    [[nodiscard]] virtual bool isChecked(int row) const;    ///< role "checked"; false by default
+    [[nodiscard]] virtual bool isInConflict(int row) const; ///< role "conflict"; false by default
 };

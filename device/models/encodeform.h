@@ -20,24 +20,25 @@ class EncodeForm : public QObject
     Q_PROPERTY(
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
     Q_PROPERTY(QStringList channels READ channels NOTIFY changed) ///< never empty
-    Q_PROPERTY(int channel READ channel NOTIFY changed)
+    Q_PROPERTY(int channel READ channel NOTIFY changed)           ///< index in channels
+    /// The types of the main stream that the device offers; may be empty.
     Q_PROPERTY(QStringList streamTypes READ streamTypes NOTIFY changed)
-    Q_PROPERTY(int streamType READ streamType NOTIFY changed)
+    Q_PROPERTY(int streamType READ streamType NOTIFY changed) ///< index in streamTypes
     /// One map for each setting ("encodeMode", "resolution", "control", "bitRate", "frameRate", "quality",
     /// "audioEnable", "audioCompression", "samplingFrequency", "videoEnable"). Each map has all of these
     /// keys:
-    ///  - "key": the key for set()
+    ///  - "key": the key for set(); empty for "videoEnable" of the main stream, which cannot be set
     ///  - "changed": whether the value differs from the value read
     ///  - "choices", "index": strings including the current one, and its index; -1 if unknown
     ///  - "names": the choices as shown to the user
     ///  - "value", "minimum", "maximum": numbers; an unknown value is below "minimum"
-    ///  - "usable": whether the value was read and there is more than one choice
+    ///  - "usable": whether the value was read and another one can be set
     /// The keys "exists" and "hasAudio" (bool) say whether the device has this stream, and audio in it.
     Q_PROPERTY(QVariantMap mainStream READ mainStream NOTIFY changed)
     Q_PROPERTY(QVariantMap subStream READ subStream NOTIFY changed)
     Q_PROPERTY(QStringList subStreamTypes READ subStreamTypes NOTIFY changed)
     Q_PROPERTY(int changedCount READ changedCount NOTIFY changed)
-    /// Whether the device reported the supported encode modes and resolutions.
+    /// Whether the device reported the supported encode modes and resolutions of the main stream.
     Q_PROPERTY(bool complete READ isComplete NOTIFY changed)
     /// Whether the device accepted any item of the last write and was not read since.
     Q_PROPERTY(bool taken READ isTaken NOTIFY changed)

@@ -49,7 +49,7 @@ public:
     /// The names of the marked rows.
     [[nodiscard]] QSet<QString> identities() const { return {m_failures.keyBegin(), m_failures.keyEnd()}; }
 
-    /// Whether all marks of the device are from batches that did not reach it.
+    /// Whether all marks of the device are from batches that did not reach it. True if it is not marked.
     [[nodiscard]] bool isOnlyNotDone(const QString &identity) const;
 
     /// The failed work of the device, one line for each with its result, most recent first; empty if it is

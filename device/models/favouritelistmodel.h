@@ -10,8 +10,9 @@
 #include <utility>
 
 /// The favourites of a folder that match a search text, with the progress of adding each one to the device
-/// list. The identity of a row is its file name. Check marks and progress of a hidden favourite are kept, but
-/// actions do not apply to it. Lives on the main thread; reads and writes no files.
+/// list. The identity of a row is its file name. Check marks and progress of a hidden favourite are kept. The
+/// functions of CheckableRows apply to shown favourites only. Lives on the main thread; reads and writes no
+/// files.
 class FavouriteListModel : public CheckableRows
 {
     Q_OBJECT
@@ -36,8 +37,8 @@ public:
     void setSearchText(const QString &searchText);
     [[nodiscard]] int totalCount() const { return static_cast<int>(m_favourites.size()); } ///< also hidden
 
-    /// Loads the favourites of a folder in the form and order of CAuthor. A favourite that was loaded before
-    /// keeps its check mark and its progress.
+    /// Loads the favourites of a folder, in the form of CAuthor::readJsonFilesFromFolder() and in the order
+    /// of the file names. A favourite that was loaded before keeps its check mark and its progress.
     Q_INVOKABLE void load(const QVariantMap &files);
 
     /// Sets the results of adding favourites: maps with the keys of ResultKey, `words` for a failure only.
@@ -65,9 +66,9 @@ Q_SIGNALS:
     void searchTextChanged();
 
 protected:
-    /// "checked", "identity", "fileName", "num" (its number among all), "type" ("IP" or "P2P"), "ip", "port",
-    /// "ipport", "username", "note", "progress" and "words". The map contains no password, since the contents
-    /// of a table can be copied.
+    /// "checked", "identity", "fileName", "num" (its number among all, from 1, as text), "type" ("IP" or
+    /// "P2P"), "ip", "port" (text), "ipport", "username", "note", "progress" (a Progress) and "words". The
+    /// map contains no password, since the contents of a table can be copied.
     [[nodiscard]] QVariantMap valuesOf(int row) const override;
     [[nodiscard]] bool isChecked(int row) const override { return at(row).checked; }
     void setChecked(int row, bool checked) override { m_favourites[m_shown.at(row)].checked = checked; }

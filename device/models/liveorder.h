@@ -42,7 +42,8 @@ public:
     /// none. If `ipport` is not in the order, direction 1 starts with the first device.
     Q_INVOKABLE [[nodiscard]] QString neighbour(const QString &ipport, int direction) const;
 
-    /// The checked rows of the table whose devices can be watched, in table order.
+    /// The checked rows of the table whose devices can be watched, in table order, as DeviceTableModel::get()
+    /// returns them.
     Q_INVOKABLE [[nodiscard]] QVariantList tickedDevices() const;
 
 Q_SIGNALS:

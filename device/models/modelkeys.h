@@ -21,14 +21,14 @@ inline constexpr QLatin1StringView newAddress("newAddress");
 inline constexpr QLatin1StringView note("note");   ///< reason or warning, in the user's language
 inline constexpr QLatin1StringView kind("kind");   ///< int: see BatchPreview
 inline constexpr QLatin1StringView issue("issue"); ///< int: the problem of the row, see AddressPlan
-inline constexpr QLatin1StringView state("state");
+inline constexpr QLatin1StringView state("state"); ///< int: see BatchResultModel
 inline constexpr QLatin1StringView words("words"); ///< result in the user's language
 /// Why the device is skipped, in the user's language.
 inline constexpr QLatin1StringView hindrance("hindrance");
 
 // BatchHistory
-inline constexpr QLatin1StringView counts("counts");     ///< "done / total"
-inline constexpr QLatin1StringView complete("complete"); ///< bool: every device succeeded
+inline constexpr QLatin1StringView counts("counts");     ///< "done / total", see BatchHistory
+inline constexpr QLatin1StringView complete("complete"); ///< bool: no device failed or was not done
 inline constexpr QLatin1StringView running("running");   ///< bool
 
 // AccountList
@@ -38,7 +38,7 @@ inline constexpr QLatin1StringView isDefault("isDefault"); ///< bool
 
 // CertificateList
 inline constexpr QLatin1StringView subject("subject");
-inline constexpr QLatin1StringView validity("validity");
+inline constexpr QLatin1StringView validity("validity"); ///< first and last day; empty if unknown
 inline constexpr QLatin1StringView fingerprint("fingerprint");
 inline constexpr QLatin1StringView stored("stored"); ///< fingerprint of the stored key; empty for none
 

@@ -15,8 +15,8 @@ public:
     enum PasswordFault
     {
         NoFault = 0,
-        TooWeak, ///< fewer than two kinds of characters
-        NoPassword,
+        TooWeak,    ///< fewer than two kinds of characters, see passwordStrength(); also an empty password
+        NoPassword, ///< not returned: an empty password is too weak
         NoConfirmation,
         NotTheSame,      ///< password and confirmation differ
         LengthOutOfRange ///< not 8 to 32 characters
@@ -33,7 +33,8 @@ public:
     /// The local time of the host as "yyyy-MM-dd HH:mm:ss".
     Q_INVOKABLE [[nodiscard]] QString timeOfThisComputer() const;
 
-    /// Whether `text` is an IPv4 address, an IPv6 address or a host name.
+    /// Whether `text` is an IPv4 address, an IPv6 address without a zone, or a host name. A name whose last
+    /// part consists of digits is not one.
     Q_INVOKABLE [[nodiscard]] bool isHost(const QString &text) const;
 
     Q_INVOKABLE [[nodiscard]] PasswordFault newPasswordFault(const QString &password,

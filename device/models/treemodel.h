@@ -53,7 +53,7 @@ public:
     enum Shown
     {
         All,
-        Failed,    ///< devices with FailedMarks; reset to All when no mark is left
+        Failed,    ///< devices with FailedMarks; reset to All when no device of the tree is marked any more
         LoggedOut, ///< devices without a login, or whose last login failed
     };
     Q_ENUM(Shown)
@@ -64,7 +64,7 @@ public:
         IsCheckedRole,           ///< "isChecked": a Qt::CheckState
         CopyRetRole,             ///< "copyRet": result of the last batch with the device, NoResult initially
         IdentityRole,    ///< not in roleNames(): unique string of a device, or of a group among the groups
-        FailureRole,     ///< not in roleNames(): failed batches of the device; empty if none
+        FailureRole,     ///< not in roleNames(): see FollowedMarks::wordsOf()
         OnlyNotDoneRole, ///< not in roleNames(): see FailedMarks::isOnlyNotDone()
         LabelRole,       ///< not in roleNames(): the address, without the port that most devices have
     };
@@ -96,7 +96,8 @@ public:
     [[nodiscard]] int loggedOutCount() const { return m_loggedOutCount; }
     [[nodiscard]] int failedCount() const { return m_failedCount; }
 
-    /// The number of marked devices that the tree cannot show; 0 while a search text hides devices.
+    /// The number of marked devices that the filter of the last rebuild does not accept; 0 while there is a
+    /// search text.
     [[nodiscard]] int failedElsewhereCount() const;
 
     /// Devices that the last rebuild left out because they have no address yet (waiting for DHCP).

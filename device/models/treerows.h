@@ -28,8 +28,8 @@ public:
         IsOpenRole,               ///< "isOpen": of a group
         CountRole,                ///< "deviceCount": of a group
         IdentityRole,             ///< "identity": unique string, for rowOf()
-        FailureRole,              ///< "failure": failed batches of a device, empty for a group
-        OnlyNotDoneRole,          ///< "onlyNotDone": whether no batch failed, see FailedMarks; device only
+        FailureRole,              ///< "failure": see FollowedMarks::wordsOf(); empty for a group
+        OnlyNotDoneRole,          ///< "onlyNotDone": see FailedMarks::isOnlyNotDone(); false for a group
     };
 
     explicit DeviceTreeRows(QObject *parent = nullptr) : QAbstractListModel(parent) {}
@@ -41,7 +41,7 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-    // Functions with a row index do nothing, or return an empty value, if it is out of range.
+    // Functions with a row index do nothing, or return an empty value or -1, if it is out of range.
 
     /// Opens or closes a group.
     Q_INVOKABLE void setOpen(int row, bool open);

@@ -17,8 +17,9 @@ class WatchedDevices : public QAbstractListModel
     Q_MOC_INCLUDE("device/registry/devicefactory.h")
     Q_PROPERTY(CDeviceFactory *deviceFactory MEMBER m_deviceFactory NOTIFY deviceFactoryChanged)
     /// The channels of all devices, in the order in which the devices were added: maps of "ipport",
-    /// "channel", "connected", "name", "caption" (includes the device if there are several), "companion"
-    /// (null for the first device) and "heading" (only with several devices, for the first channel of each).
+    /// "channel", "connected", "name" (never empty), "caption" (the name that the device reports, with the
+    /// device if there are several), "companion" (null for the first device) and "heading" (only with several
+    /// devices, for the first channel of each).
     Q_PROPERTY(QVariantList channels READ channels NOTIFY channelsChanged)
     Q_PROPERTY(int most READ most CONSTANT)
     Q_PROPERTY(bool full READ isFull NOTIFY countChanged)
@@ -34,7 +35,8 @@ public:
     [[nodiscard]] static constexpr int most() { return 15; } ///< maximum number of additional devices
     [[nodiscard]] bool isFull() const { return m_further.size() >= most(); }
 
-    /// Sets the first device. `channels` are maps of "channel" (from 0), "name" and "connected".
+    /// Sets the first device. `channels` are maps of "channel" (from 0), "name" (may be empty) and
+    /// "connected".
     Q_INVOKABLE void setFirst(const QString &ipport, const QString &name, const QVariantList &channels);
 
     /// Adds the rows (maps of "ipport", "name" and "model") that are not in the model yet, up to most().
