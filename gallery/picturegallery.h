@@ -48,21 +48,21 @@ public:
         Fetching,
         Taken,
         Failed,
-        Skipped, ///< because of the state of its device
+        Skipped, ///< no request was sent because of the state of its device
     };
     Q_ENUM(State)
 
     enum Role
     {
-        IpportRole = Qt::UserRole,
-        DeviceRole,  ///< its name, otherwise its model, otherwise its address
-        ChannelRole, ///< from 0
-        NameRole,    ///< of the channel; empty while the device has only one
-        StateRole,
-        PictureRole, ///< URL of the file, also of an older image; empty without an image
-        MessageRole, ///< reason of a missing image, in the user's language
-        TimeRole,    ///< of the image
-        NoteRole,    ///< omitted channels of the device, in the user's language
+        IpportRole = Qt::UserRole, ///< "ipport"
+        DeviceRole,                ///< "device": its name, otherwise its model, otherwise address and port
+        ChannelRole,               ///< "channel", from 0
+        NameRole,                  ///< "name" of the channel; empty while the device has only one
+        StateRole,                 ///< "stage": a State
+        PictureRole,               ///< "picture": URL of the file, also of an older image; empty without one
+        MessageRole,               ///< "message": reason of a missing image, in the user's language
+        TimeRole,                  ///< "takenAt": "HH:mm:ss"; empty without an image
+        NoteRole,                  ///< "note": omitted channels of the device, in the user's language
     };
 
     explicit PictureGallery(QObject *parent = nullptr);
@@ -87,31 +87,34 @@ public:
     [[nodiscard]] bool isSaving() const { return m_isSaving; }
 
     /// Replaces the devices by those of `rows`, maps with the keys of DeviceRowKey and "identity", and
-    /// fetches their images. Returns false if the batch is refused; the cells then stay in the waiting state.
+    /// fetches their images. Ignores rows without an identity, or with one that is repeated. Returns false if
+    /// the batch is refused or there are no devices; the cells then stay in the waiting state.
     Q_INVOKABLE bool show(const QVariantList &rows);
 
     /// Reads the current names and addresses of the devices. A device that was removed from the device list
     /// keeps them.
     Q_INVOKABLE void readDevices();
 
-    /// Takes over a new name of a channel (from 0) of the device at `ipport`.
+    /// Takes over a new name of a channel (from 0) of the device at `ipport`. Ignored for a device with one
+    /// cell.
     Q_INVOKABLE void renameChannel(const QString &ipport, int channel, const QString &name);
 
-    /// Fetches all images again. Returns false if the batch is refused.
+    /// Fetches all images again. Returns false if the batch is refused, or if one of the gallery is running.
     Q_INVOKABLE bool fetchAll();
 
     /// Fetches the image of a cell again, or all images of a device whose channels are unknown. Returns false
-    /// if the batch is refused.
+    /// if `row` is invalid, and as fetchAll() does.
     Q_INVOKABLE bool fetch(int row);
 
-    /// Cancels the batch. Waiting cells without an image change to the failed state.
+    /// Cancels the batch. At its end, waiting cells without an image change to the failed state.
     Q_INVOKABLE void stop();
 
-    /// Removes the devices and their images.
+    /// Cancels the batch, and removes the devices and their images.
     Q_INVOKABLE void clear();
 
-    /// Writes the images as "snap/<device>/<channel>.jpg" in the current folder, on a separate thread. Emits
-    /// saved() at the end; no effect without images.
+    /// Writes the images as "snap/<device>/<channel>.jpg" in the current folder, on a separate thread.
+    /// <device> is address and port with "_" for special characters; existing files are replaced. Emits
+    /// saved() at the end; no effect without images, or while saving.
     Q_INVOKABLE void saveAll();
 
     /// The values of a cell by role name; empty for an invalid row.
@@ -175,7 +178,7 @@ private:
     std::shared_ptr<QTemporaryDir> m_folder; ///< steps keep it until they have ended
     QList<Cell> m_cells;
     QThreadPool m_files; ///< one thread, which writes the snapshots
-    int m_round = 0;     ///< number of the latest batch; updates of earlier ones are ignored
+    int m_round = 0;     ///< increased by each batch and by clear(); updates of earlier rounds are ignored
     int m_deviceCount = 0;
     int m_leftOut = 0;
     int m_pictures = 0;
