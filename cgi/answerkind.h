@@ -12,14 +12,15 @@ enum class AnswerKind
     Recording,
 };
 
-/// The type by the text of all headers. The comparison is case-sensitive.
+/// The type by the text of all headers, compared case-sensitively. Text if no other one is recognised.
 [[nodiscard]] AnswerKind answerKind(const QByteArray &headers);
 
 /// The suffix of the file for a response with these headers, with its dot. Empty for a text.
 [[nodiscard]] QString answerFileEnding(const QByteArray &headers);
 
 /// The text of a response's body, which is usually UTF-8. If it is not UTF-8, the encoding is that of its
-/// byte order mark, otherwise the last one in the headers. Undecodable bytes become replacement characters.
+/// byte order mark, otherwise the "charset" of the last "Content-Type" header, otherwise UTF-8. Undecodable
+/// bytes become replacement characters.
 [[nodiscard]] QString answerText(const QByteArray &headers, const QByteArray &body);
 
 /// "<folder>/<yyyyMMddhhmmss><ending>": two responses within a second have the same file, and the later one

@@ -21,15 +21,15 @@ public:
     [[nodiscard]] CgiWorkbooks *workbooks() const { return m_workbooks; }
 
     /// Sends a command to the devices with these row identities. The rows get the command as "url"
-    /// immediately, and the start of the response as "result", or the text for "not sent". Returns the batch,
-    /// or null when it does not start. QML does not own it.
+    /// immediately, and as "result" the start of the response, "Error:" and the reason, or the text for "not
+    /// sent". Returns the batch, or null when it does not start. QML does not own it.
     Q_INVOKABLE Batch *send(const QString &title, const QStringList &identities, const QString &command);
 
-    /// The complete response whose start is the row's "result", if it is kept.
+    /// The complete response whose start is the row's "result", if it is kept; otherwise `result`.
     Q_INVOKABLE [[nodiscard]] QString answerOf(const QString &identity, const QString &result) const;
 
     /// The failures of a batch of send(): a line with "address:port", two spaces and the result for each
-    /// device that failed or was not done, grouped by result.
+    /// device that has not succeeded, grouped by result. Empty without a batch.
     Q_INVOKABLE [[nodiscard]] QStringList failuresOf(Batch *batch) const;
 
 Q_SIGNALS:

@@ -41,35 +41,35 @@ public:
     /// requests.
     void setCertificateHandler(sdk::CertificateHandler handler, void *user);
 
-    /// Sends one command. Returns the text of the response, the path of the file that it was saved to, or
-    /// "Error:" and the reason. Refused while another command or a workbook runs.
+    /// Sends one command. Returns the result of CgiProcedure::run(). Fails with "Error:" and the reason while
+    /// another command or a workbook runs.
     Q_INVOKABLE QString singleCGIConfig(const QString &url, const QString &user, const QString &pass,
                                         const QString &ipport);
 
     /// Sends the commands of a workbook in the order of its rows, and writes each result into its row. `path`
     /// may be a "file:///" URL. Returns a message for the user: the numbers of successes and failures and the
-    /// file of the results, or the reason why the workbook cannot be used.
+    /// file of the results, or the reason why the workbook cannot be used. Refused while a command runs.
     Q_INVOKABLE QString batchCGIConfig(const QString &path);
 
     /// Ends the running request immediately, and the workbook, whose results so far are saved. The device may
     /// have executed the command.
     Q_INVOKABLE void stop();
 
-    /// The rows (maps) sorted by the text of one field; the sort is stable.
+    /// The rows (maps or JSON objects) sorted by the text of one field; the sort is stable.
     Q_INVOKABLE QVariantList sortList(const QVariantList &list, const QString &key, Qt::SortOrder order);
 
     /// Copies the text to the clipboard.
     Q_INVOKABLE void copyText(const QString &text);
 
     /// The lines of the text for a list. A line of more than 500 characters is split. A text of more than
-    /// 100,000 lines is truncated, and the last line contains a note of that.
+    /// 100,000 lines is truncated, and a further line contains a note of that.
     Q_INVOKABLE QStringList linesOf(const QString &text) const;
 
     /// Saves a text as UTF-8 in a new file in `folder`, named by the time. Returns its "path", and a
-    /// "failure" that is empty on success.
+    /// "failure" (error text of the system) that is empty on success.
     Q_INVOKABLE QVariantMap saveText(const QString &folder, const QString &text) const;
 
-    /// The path of the template workbook in the user's language, in the application's folder.
+    /// The path of the template workbook in the user's language, in "template" of the surroundings' folder.
     Q_INVOKABLE QString templateFile() const;
 
     /// The URL of the template workbook, for the desktop.
@@ -80,7 +80,9 @@ public:
 
     /// The last 20 commands, the latest first.
     Q_INVOKABLE QStringList recentCommands() const;
+    /// Adds a command to recentCommands(), see CommandMemory::remember().
     Q_INVOKABLE void rememberCommand(const QString &command);
+    /// In the order in which they were added, up to 200.
     Q_INVOKABLE QStringList favouriteCommands() const;
     Q_INVOKABLE void setFavouriteCommand(const QString &command, bool favourite);
 

@@ -15,12 +15,12 @@ struct CgiSurroundings
 
     LoginCheck checkLogin;
     std::shared_ptr<HttpTransport> transport;
-    QString folder;                       ///< for images and recordings
+    QString folder;                       ///< for images and recordings; must exist
     std::function<QDateTime()> localTime; ///< for their file names
     ExchangeWatch watch = {};             ///< ends a request immediately; may be empty
 
-    /// Returns a unique path for a path by the time. Empty if a later response may replace one of the same
-    /// second.
+    /// Returns a unique path for a path by the time. Without this function, a later response replaces one of
+    /// the same second.
     std::function<QString(const QString &path)> ownPath = {};
 
     /// If true, the reason of a failure is in the user's language, followed by the library's text and the
@@ -47,7 +47,7 @@ struct CgiAnswer
 {
     QString text;                ///< see CgiProcedure::run()
     bool isUnanswered = false;   ///< no complete response: another attempt may succeed
-    bool isLoginRefused = false; ///< the web service refuses the account or its password
+    bool isLoginRefused = false; ///< the web service refuses the account or its password (status 401)
 
     /// The verdict on the device's certificate, if it prevented a request over HTTPS.
     std::optional<sdk::CertificateVerdict> certificateRefusal = {};
@@ -60,11 +60,12 @@ class CgiProcedure
 {
     Q_DECLARE_TR_FUNCTIONS(CgiProcedure)
 public:
+    /// `surroundings` must outlive this object.
     CgiProcedure(const CgiSurroundings &surroundings, const CgiLimits &limits);
 
     /// Blocks. Returns the text of the response, the path of the file that it was saved to, or "Error:" and
-    /// the reason. Empty when the file could not be created. An incomplete recording is kept in a file, whose
-    /// name is in the result.
+    /// the reason. Empty when the file could not be created (this is logged). An incomplete recording is kept
+    /// in a file, whose name is in the result.
     [[nodiscard]] QString run(const QString &url, const QString &user, const QString &password,
                               const QString &ipport) const;
 

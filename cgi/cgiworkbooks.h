@@ -22,19 +22,22 @@ public:
     ~CgiWorkbooks() override;
 
     /// Reads a workbook. `path` may be a "file:///" URL. Emits wasRead(), or ended() with the reason why it
-    /// cannot be used. It replaces a workbook that was read and not started.
+    /// cannot be used. It replaces a workbook that was read and not started, also if it cannot be used. While
+    /// another one is read or runs, ended() is emitted during this call.
     Q_INVOKABLE void read(const QString &path);
 
     /// Sends the commands of the lines with these names in the last read workbook; the commands for one
     /// device are sent in their order. Returns the batch, or null when it does not start. QML does not own
-    /// it. When the results are in the file, ended() is emitted with a message for the user.
+    /// it. When the results are in the file, ended() is emitted with a message for the user. If the file has
+    /// been changed since it was read, ended() is emitted during this call.
     Q_INVOKABLE Batch *run(const QString &title, const QStringList &lines);
 
 Q_SIGNALS:
     /// Emitted with the lines of a workbook, in the form of BatchPreview::setEntries().
     void wasRead(const QVariantList &lines);
 
-    /// Emitted at the end, with the text of CGIConfigManage::batchCGIConfig().
+    /// Emitted at the end with the text of CGIConfigManage::batchCGIConfig(), or with the reason why a
+    /// workbook is not read or not run.
     void ended(const QString &text);
 
 private:

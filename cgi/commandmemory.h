@@ -16,10 +16,12 @@ public:
 
     /// The latest first, without duplicates.
     [[nodiscard]] const QStringList &recent() const { return m_recent; }
+    /// Spaces at the ends are removed. Ignores an empty or too long command.
     void remember(const QString &command);
 
     /// In the order in which they were added.
     [[nodiscard]] const QStringList &favourites() const { return m_favourites; }
+    /// Same; also ignores a new favourite beyond the limit.
     void setFavourite(const QString &command, bool isFavourite);
 
 private:

@@ -11,16 +11,17 @@
 struct WorkbookCommand
 {
     int row = 0;
-    QString command; ///< with the leading "/"
-    QString url;     ///< scheme, address and command, without the port
-    QString ipport;  ///< "address:port" of the login
+    QString command; ///< with the leading "/"; without it `refusal` is set
+    QString url;     ///< scheme, address (with a web port, if the cell has one) and command
+    QString ipport;  ///< "address:port" of the login, without the web port
     QString user;
     QString password;
     QString refusal; ///< reason why it must not be sent, in the user's language; usually empty
 };
 
 /// A workbook of commands, whose results are written to its rows. The first row contains the titles, each
-/// other row a command: address, port, user name, password, command, scheme (0 for HTTP) and result.
+/// other row a command: address, port, user name, password, command, scheme (empty or 0 for HTTP, another
+/// integer for HTTPS) and result.
 class CommandWorkbook
 {
     Q_DECLARE_TR_FUNCTIONS(CommandWorkbook)
@@ -40,10 +41,11 @@ public:
     /// Opens the file. Returns the reason why it cannot be used, in the user's language; empty on success.
     [[nodiscard]] QString open(const QString &path);
 
-    /// The rows with a command or an address, in ascending order.
+    /// The rows with a command or an address, without the row of titles, in ascending order.
     [[nodiscard]] std::vector<WorkbookCommand> commands();
 
-    /// Writes a result to its row. A text that is too long for a cell is truncated, with a note in the cell.
+    /// Writes a result to its row. A text of more than longestResult is truncated, with a note in the cell.
+    /// An error is logged.
     void setResult(int row, const QString &result);
 
     /// Writes all results so far to the file. If that fails, it writes a new file next to it or in the user's
@@ -53,7 +55,7 @@ public:
     /// The file with the results.
     [[nodiscard]] const QString &path() const { return m_path; }
 
-    /// The reason why the last keepResults() failed.
+    /// The reason of the last failure of any operation.
     [[nodiscard]] QString errorText() const { return m_excel.errorText(); }
 
 private:

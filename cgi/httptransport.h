@@ -17,7 +17,7 @@ struct HttpLimits
 {
     std::chrono::milliseconds total{0}; ///< 0 for no limit
     long slowestRate = 0;               ///< in bytes per second; 0 for no limit
-    std::chrono::seconds slowTime{0};   ///< longest time below `slowestRate`
+    std::chrono::seconds slowTime{0};   ///< longest time below `slowestRate`; 0 for no limit
 };
 
 /// Kinds of failures that need different actions of the user.
@@ -72,7 +72,7 @@ public:
     virtual HttpOutcome perform(const HttpLimits &limits, const BodySink &sink,
                                 const ExchangeWatch &watch) = 0;
 
-    /// The header lines of all responses so far, up to a bounded length.
+    /// The header lines of all responses so far, of all calls of perform(), up to a bounded length.
     [[nodiscard]] virtual QByteArray headerText() const = 0;
 };
 

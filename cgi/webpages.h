@@ -18,8 +18,8 @@ public:
     explicit WebPages(std::shared_ptr<HttpTransport> transport, QObject *parent = nullptr);
     ~WebPages() override; ///< ends the running checks
 
-    /// Opens a page without TLS immediately. The page of a device that does not respond is opened as well:
-    /// the browser reports that.
+    /// Opens a page without TLS immediately, and one with TLS after the check of the key, which takes up to
+    /// five seconds. The page of a device that does not respond is opened as well: the browser reports that.
     Q_INVOKABLE void open(const QString &page);
 
 Q_SIGNALS:

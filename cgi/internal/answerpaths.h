@@ -9,7 +9,8 @@
 class AnswerPaths
 {
 public:
-    /// Returns `path` at the first call, then "<name>_2.<suffix>", "<name>_3.<suffix>" and so on.
+    /// Returns `path` at the first call, then "<name>_2.<suffix>", "<name>_3.<suffix>" and so on. Does not
+    /// check for existing files.
     [[nodiscard]] QString own(const QString &path);
 
 private:

@@ -12,8 +12,8 @@ public:
     static constexpr qsizetype longestBeginning = 4000;
     static constexpr qsizetype maximumLength = 32'000'000; ///< total number of stored characters
 
-    /// Stores the response of `key` in place of an earlier one. A short response is not stored; the oldest
-    /// ones are removed at the limit.
+    /// Stores the response of `key` in place of an earlier one. A response up to longestBeginning or longer
+    /// than maximumLength is not stored; the oldest ones are removed at the limit.
     void keep(const QString &key, const QString &answer);
 
     /// Removes the response of `key`, if there is one.

@@ -4,8 +4,8 @@
 
 #include <QElapsedTimer>
 
-/// Writes the results of an opened workbook's commands to it, and saves it at intervals, so that few results
-/// are lost in a crash, and at the end.
+/// Writes the results of an opened workbook's commands to it, and saves it in finish() and about every 30 s
+/// before, so that few results are lost in a crash.
 class WorkbookResults
 {
     Q_DECLARE_TR_FUNCTIONS(WorkbookResults)
