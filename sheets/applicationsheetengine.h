@@ -21,7 +21,7 @@ public:
     /// Ends the application.
     ~ApplicationSheetEngine() override;
 
-    /// False when the application cannot be started.
+    /// Whether the application is started. False after a failed start and after quit().
     [[nodiscard]] bool isAvailable() const;
 
     bool createWorkbook() override;
@@ -31,10 +31,12 @@ public:
     [[nodiscard]] std::optional<QString> cellText(CellPosition position) override;
     bool setCellText(CellPosition position, const QString &text) override;
     bool mergeCells(const CellRange &range) override;
+    /// Ignores `isText` of the change; setCellText() always sets that format.
     bool changeFormat(const CellRange &range, const FormatChange &change) override;
     bool setRowHeight(int row, double points) override;
     bool save() override;
     bool saveAs(const QString &path) override;
+    /// Also ends the application. The next createWorkbook() or open() starts it again.
     void quit() override;
 
 private:

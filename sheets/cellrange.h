@@ -35,6 +35,7 @@ struct CellRange
 
     [[nodiscard]] static CellRange cell(int row, int column) { return {{row, column}, {row, column}}; }
 
+    /// False also if `last` is above or left of `first`.
     [[nodiscard]] bool isInSheet() const
     {
         return first.isInSheet() && last.isInSheet() && first.row <= last.row && first.column <= last.column;
@@ -58,12 +59,12 @@ struct CellRange
 /// The range as a reference: both corners with a colon between, or one position for a single cell.
 [[nodiscard]] QString rangeText(const CellRange &range);
 
-/// The position of the reference `text`, with or without "$". Nothing for an invalid reference and for one
-/// outside of a sheet.
+/// The position of the reference `text`, with or without "$", in upper or lower case. Nothing for an invalid
+/// reference and for one outside of a sheet.
 [[nodiscard]] std::optional<CellPosition> cellPosition(QStringView text);
 
-/// The range of the reference `text`: two positions with a colon between, or one. Nothing for an invalid
-/// reference.
+/// The range of the reference `text`: two opposite corners, in any order, with a colon between, or one
+/// position. Nothing for an invalid reference.
 [[nodiscard]] std::optional<CellRange> cellRange(QStringView text);
 
 } // namespace sheets

@@ -14,7 +14,7 @@ class Workbook;
 ///
 /// A new workbook that is filled row by row, in ascending order, and then saved takes constant memory. The
 /// first operation in another order, such as reading a cell or writing to an earlier row, loads it like a
-/// workbook from a file.
+/// workbook from a file. save() fails for a new workbook until saveAs().
 ///
 /// Limits of a file: 128 MiB, 10,000 parts; of one part: 192 MiB of text, 1 GiB of memory.
 class FileSheetEngine : public SheetEngine
@@ -44,10 +44,10 @@ private:
     bool needWorkbook();
     bool ended(bool done);
 
-    // At most one of them is not null.
+    // At most one of them is not null: m_newWorkbook while rows are written in ascending order.
     std::unique_ptr<NewWorkbook> m_newWorkbook;
     std::unique_ptr<Workbook> m_workbook;
-    QString m_path; ///< file that the workbook was opened from or last saved to
+    QString m_path; ///< file that the workbook was opened from or last saved to; empty for a new one
 };
 
 } // namespace sheets

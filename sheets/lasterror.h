@@ -8,7 +8,8 @@ namespace sheets {
 class LastError
 {
 public:
-    /// The reason of the last failure, for the log. Empty when no operation has failed.
+    /// The reason of the last failure, for the log; also after later successes. Empty when no operation has
+    /// failed.
     [[nodiscard]] const QString &errorText() const { return m_errorText; }
 
 protected:

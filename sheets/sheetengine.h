@@ -8,7 +8,8 @@
 
 namespace sheets {
 
-/// The range of used rows: its first row and the number of rows.
+/// The range of used rows: its first row and the number of rows. Both are 0 for an empty sheet, except with
+/// the spreadsheet application: there the first row is used.
 struct UsedRows
 {
     int first = 0;
@@ -18,7 +19,7 @@ struct UsedRows
 /// The back end of QExcel; it has one workbook at a time. The caller checks that positions are in a sheet,
 /// that texts are not too long and that there is a workbook.
 ///
-/// On failure an operation returns false or nothing, and `errorText()` has the reason. Not thread-safe; an
+/// On failure an operation returns false or nothing, and errorText() has the reason. Not thread-safe; an
 /// object is used on the thread that created it.
 class SheetEngine : public LastError
 {
@@ -28,12 +29,15 @@ public:
     SheetEngine &operator=(const SheetEngine &) = delete;
     virtual ~SheetEngine() = default;
 
-    /// Creates a workbook with one empty sheet, which is selected.
+    /// Creates a workbook with one empty sheet, which is selected. An earlier workbook is closed, even on
+    /// failure.
     virtual bool createWorkbook() = 0;
 
-    /// Opens the file, whose path is absolute, and selects its first sheet.
+    /// Opens the file, whose path is absolute, and selects its first sheet. An earlier workbook is closed,
+    /// even on failure.
     virtual bool open(const QString &path) = 0;
 
+    /// `index` is from 1.
     virtual bool selectSheet(int index) = 0;
     [[nodiscard]] virtual std::optional<UsedRows> usedRows() = 0;
     [[nodiscard]] virtual std::optional<QString> cellText(CellPosition position) = 0;

@@ -24,7 +24,7 @@ struct TemplateWorkbook
     QStringList remarks;
 };
 
-/// False when the file cannot be written.
+/// Replaces an existing file. False when the file cannot be written.
 [[nodiscard]] bool writeTemplateWorkbook(const QString &path, const TemplateWorkbook &content);
 
 /// The file name and the content of a template, in the language of the installed translator.
@@ -35,6 +35,7 @@ struct NamedTemplate
 };
 
 /// The main function of a build tool, "PROGRAM TRANSLATION FOLDER", which writes a template in the language
-/// of a translation file. Returns the exit code.
+/// of a translation file. Returns the exit code: 0, 1 for a file that cannot be read or written, 2 for wrong
+/// arguments. `makeTemplate` is called when the translator is installed.
 [[nodiscard]] int writeTranslatedTemplate(int argc, char *argv[],
                                           const std::function<NamedTemplate()> &makeTemplate);

@@ -5,14 +5,14 @@
 
 namespace sheets {
 
-/// The escaped text for the file: characters that XML cannot contain are written as "_xHHHH_". In a text that
-/// looks like such a sequence, the first underscore is escaped.
+/// The escaped text for the file: the carriage return and characters that XML cannot contain are written as
+/// "_xHHHH_". In a text that looks like such a sequence, the first underscore is escaped.
 [[nodiscard]] QString escapedCellText(const QString &text);
 
 /// The text of the escaped form `escaped`.
 [[nodiscard]] QString unescapedCellText(const QString &escaped);
 
-/// True for a text that is short enough for a cell.
+/// True for a text whose escaped form is short enough for a cell: up to 32,767 characters.
 [[nodiscard]] bool fitsCell(const QString &text);
 
 /// A number with up to 15 digits, as a sheet shows it: binary fractions are stored with 17.

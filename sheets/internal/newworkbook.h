@@ -40,7 +40,8 @@ public:
 
     void setCellText(CellPosition position, const QString &text);
 
-    /// False when the range overlaps another merged range of its row; nothing is changed then.
+    /// The text of the first cell is kept, the others are removed. False when the range overlaps a different
+    /// merged range of its row; nothing is changed then.
     bool mergeCells(const CellRange &range);
     void changeFormat(const CellRange &range, const FormatChange &change);
 

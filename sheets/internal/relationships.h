@@ -30,7 +30,9 @@ public:
     [[nodiscard]] std::optional<QString> partOfType(QLatin1String type) const;
     [[nodiscard]] std::optional<Target> targetById(const QString &id) const;
 
-    /// Removes a part from the relationships, the list of content types and the file.
+    /// Removes a part from the relationships, the list of content types and the file. Returns false if the
+    /// list of content types is damaged; the other changes are made nevertheless. The same applies to
+    /// addPart().
     bool removePart(ZipPackage &package, const QString &part);
 
     /// Adds a part in the folder of the part whose relationships these are.

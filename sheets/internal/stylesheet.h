@@ -17,7 +17,8 @@ public:
 
     bool load(const QByteArray &bytes);
 
-    /// The index of the cell format `base` with the change applied; the format is added if it is missing.
+    /// The index of the cell format `base` with the change applied. Returns `base` if it has these values
+    /// already, otherwise the format that this or an earlier call has added. An invalid `base` counts as 0.
     [[nodiscard]] int changed(int base, const FormatChange &change);
 
     [[nodiscard]] bool isModified() const { return m_isModified; }

@@ -13,7 +13,7 @@
 namespace sheets {
 
 /// The file engine's workbook, from the bytes of a file. Only the selected sheet is in memory as a document;
-/// changes of other sheets are in the package. Operations as in SheetEngine.
+/// changes of other sheets are in the package. Operations as in SheetEngine, after selectSheet().
 class Workbook : public LastError
 {
 public:

@@ -22,11 +22,14 @@ public:
     /// Writes a text into a cell, which keeps its format except the number format. Fails for a cell whose
     /// formula is shared with other cells.
     bool setCellText(CellPosition position, const QString &text, StyleSheet &styles);
+    /// Fails for a range that overlaps a different merged range, and for a formula outside of its first cell
+    /// that is shared with other cells.
     bool mergeCells(const CellRange &range);
     void changeFormat(const CellRange &range, const FormatChange &change, StyleSheet &styles);
     void setRowHeight(int row, double points);
 
     [[nodiscard]] bool isModified() const { return m_isModified; }
+    /// Whether a formula was replaced or removed.
     [[nodiscard]] bool hasLostFormulas() const { return m_hasLostFormulas; }
     [[nodiscard]] QByteArray bytes();
 

@@ -20,10 +20,12 @@ public:
     /// Finds the rows of the element `data`. Fails for a number outside of a sheet.
     bool load(pugi::xml_node data);
 
-    /// From the first to the last row with a value or a formula. A cell with a format only does not count.
+    /// From the first to the last row with a value or a formula; both numbers are 0 if there is none. A cell
+    /// with a format only does not count.
     [[nodiscard]] UsedRows usedRows() const;
 
-    /// The range from the first to the last row and column with cells; nothing for an empty sheet.
+    /// The range from the first to the last row and column with cells, also those with a format only; nothing
+    /// for a sheet without cells.
     [[nodiscard]] std::optional<CellRange> usedRange() const;
 
     /// The row's element; null when it is missing.

@@ -16,7 +16,7 @@ namespace sheets {
 /// The first child element of that name with any prefix; a null node when there is none.
 [[nodiscard]] pugi::xml_node childNamed(pugi::xml_node parent, std::string_view name);
 
-/// The next sibling element of `node` with that name.
+/// The next sibling element of `node` with that name and any prefix; a null node when there is none.
 [[nodiscard]] pugi::xml_node nextNamed(pugi::xml_node node, std::string_view name);
 
 /// The name with the prefix of `relative`, for a sibling or child element of it.
@@ -25,7 +25,7 @@ namespace sheets {
 /// The attribute of `node`, which is added when it is missing.
 [[nodiscard]] pugi::xml_attribute attributeOf(pugi::xml_node node, const char *name);
 
-/// All text inside of a node, in its order.
+/// The texts directly inside of a node, in their order, without those of its child elements.
 [[nodiscard]] QString textOf(pugi::xml_node node);
 
 /// The text of a string item: a plain text, or runs of rich text without their phonetic hints.

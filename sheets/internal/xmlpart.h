@@ -8,7 +8,8 @@
 
 namespace sheets {
 
-/// A part of a workbook as an XML document. It is written exactly as it was read, except the changes.
+/// A part of a workbook as an XML document. It is written exactly as it was read, except the changes and the
+/// encoding, which is UTF-8.
 class XmlPart : public LastError
 {
 public:

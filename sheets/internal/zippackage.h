@@ -16,12 +16,12 @@ namespace sheets {
 /// The parts of a workbook file, which is a zip archive. Changed parts are stored separately from the file's
 /// bytes. In a file that is built from both, all other parts are identical, byte for byte.
 ///
-/// Part names have no leading slash and are case-insensitive.
+/// Part names have no leading slash and are case-insensitive, except those of changed and added parts.
 class ZipPackage : public LastError
 {
 public:
-    /// Reads the bytes of a file. Fails for a file that is not an archive, is damaged or encrypted, or has a
-    /// suspicious compression ratio.
+    /// Reads the bytes of a file. Fails for a file that is not an archive, is damaged or encrypted, has more
+    /// than 10,000 parts or a suspicious compression ratio.
     bool load(const QByteArray &file);
 
     [[nodiscard]] bool contains(const QString &name) const;
