@@ -15,8 +15,8 @@ class QFileDevice;
 /// regular file. Blocks until the contents are on the disk; may be called on any thread.
 [[nodiscard]] QString replaceFile(const QString &path, const QByteArray &contents);
 
-/// Writes all the bytes into an open file without a buffer. On failure, such as a full disk, the file
-/// contains a part of them and its errorString() has the reason.
+/// Writes all the bytes into a file that is open with QIODevice::Unbuffered. On failure, such as a full disk,
+/// the file contains a part of them and its errorString() has the reason.
 [[nodiscard]] bool writeCompletely(QFileDevice &file, QByteArrayView bytes);
 
 /// Renames the file `from` to `to` in the same file system; an existing file is replaced. Returns the reason
