@@ -11,9 +11,9 @@
 class DeviceStore;
 
 /// Reports broken tunnels: sets the result of the device's row to a network failure and emits
-/// signalCDeviceTunnelBroken, both on the main thread. The loss of the service is reported with an empty
-/// device. Only the object created last receives events. Created and destroyed on the main thread by
-/// CDeviceDH.
+/// signalCDeviceTunnelBroken, both on the main thread. A tunnel without a row is not reported. The loss of
+/// the service is reported with an empty device and port 0. Only the object created last receives events.
+/// Created and destroyed on the main thread by CDeviceDH.
 class AgentListener
 {
 public:

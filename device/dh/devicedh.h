@@ -39,7 +39,7 @@ class CDeviceDH : public CDeviceBase
     Q_OBJECT
 public:
     /// `searchSettings` is called on the main thread at each start of a search. `engine` runs the batch steps
-    /// of this back end and is ended by its destructor; null: a new engine.
+    /// of this back end, whose destructor ends it; null: a new engine.
     CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
               std::function<SearchSettings()> searchSettings,
               const UpgradeLimits &upgradeLimits = UpgradeLimits(),
@@ -52,7 +52,7 @@ public:
     /// before any operation.
     void setStoredAccounts(const AccountChoice::Stored &stored);
 
-    /// Callback of the port agent; forwards to AgentListener::take().
+    /// Callback of the port agent; forwards to AgentListener::take(). `user` is not used.
     static void agentMessage(sdk::P2PAgentEvent event, const char *deviceId, std::int32_t localPort,
                              void *user);
 
@@ -170,7 +170,7 @@ public:
     int upgradeDocumentSuccesses() override;
 
 private:
-    /// Takes one snapshot with a given login.
+    /// A function that takes one snapshot with a given login.
     [[nodiscard]] OwnPictureTaker takeOwnPicture() const;
     /// Upgrade check by row name.
     [[nodiscard]] UpgradeCheck isUpgrading() const;

@@ -33,8 +33,8 @@ enum class CameraWrite
 
 /// Applies a change to `state` and returns the writes in their order. Returns an empty list and leaves
 /// `state` unchanged for an unknown key or sub-key, a group that the camera does not support, or an invalid
-/// value. Numbers are clamped to the camera's range. The sub-key may be empty for a group with a single
-/// value.
+/// value. Numbers are clamped to their range, those of sliders to the camera's. An empty sub-key means
+/// "value", the main value of a group. Keys without sub-keys ignore it.
 [[nodiscard]] QList<CameraWrite> changeCamera(const QString &key, const QString &subKey,
                                               const QVariant &value, const ValueTables &tables,
                                               CameraState &state);

@@ -15,9 +15,9 @@ public:
     /// Result of setValue().
     enum class Outcome
     {
-        Ignored, ///< unknown setting, invalid value, or not read: no request was sent
-        Taken,
-        Refused,    ///< by the device; the values have been read again
+        Ignored,    ///< unknown setting, invalid value, or not read: nothing was written
+        Taken,      ///< written; for "curSwitchMode" always, even if the mode is invalid and ignored
+        Refused,    ///< by the device; after a refused write the values have been read again
         Unanswered, ///< the device does not respond; the values are unchanged
     };
 
@@ -34,8 +34,8 @@ public:
     /// Reads the configuration "VideoColor" of a channel.
     void readColor(int channel);
 
-    /// Reads the capabilities and configurations of a channel. Returns 0 on success. Otherwise no group is
-    /// supported, and the result is deviceAway or capabilitiesUnknown (10).
+    /// Reads the capabilities and configurations of a channel. Returns 0 on success, capabilitiesUnknown (10)
+    /// if the device does not report its capabilities (no group is supported then), or deviceAway.
     [[nodiscard]] int readCapabilities(int channel);
 
     /// Reads the items of a channel in the selected mode. Returns 0 or deviceAway.
@@ -48,7 +48,7 @@ public:
     [[nodiscard]] int lastError() const { return m_lastError; }
 
 private:
-    /// Reads the values again after some of several writes have failed.
+    /// Reads the values again after a refused write; earlier writes may have succeeded.
     Outcome takeFailure(int channel, CameraState &changed);
     void chooseMode(const QVariant &index);
 

@@ -4,7 +4,8 @@
 #include "device/dh/session/configsession.h"
 #include "sdk/camerablocks.h"
 
-/// State read from one camera channel. The items belong to `mode`; items of unsupported groups are zero.
+/// State read from one camera channel. The items belong to `mode`. After readCameraItems() an item that was
+/// not read is zero.
 struct CameraState
 {
     static constexpr std::uint32_t allGroups = ~0u;

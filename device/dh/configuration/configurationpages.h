@@ -26,8 +26,8 @@ public:
     [[nodiscard]] PageStep step(const SessionJob &job);
 
     /// See SessionOperations::getConfigData(). Additional keys: "loginHandle" (handle of the current session
-    /// or 0; any thread), "sessionDevice" (its address and port) and "library" (a map of the capabilities of
-    /// the network library).
+    /// or 0; any thread), "sessionDevice" (its address and port, empty without a session) and "library" (a
+    /// map of the capabilities of the network library, see LibraryKey).
     [[nodiscard]] QVariant value(const QString &key, const QVariant &channel) const;
 
 private:

@@ -20,7 +20,8 @@ class CurrentSession
 public:
     CurrentSession(sdk::SdkLibraries libraries, SessionThreads &threads);
 
-    /// Replaces the present login, which is logged out in the background.
+    /// Starts a session with a successful login and clears the state. The present login is logged out in the
+    /// background.
     void begin(const QString &ipport, const QString &account, const QString &password,
                const SecureLogin &login);
 

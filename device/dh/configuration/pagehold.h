@@ -16,8 +16,8 @@ public:
     PageHold(std::shared_ptr<DeviceStore> store, std::shared_ptr<BatchEngine> engine,
              UpgradeCheck isUpgradingAt);
 
-    /// Reserves a device; blocks until its running batch step ends or `control` is stopped. Returns an empty
-    /// reservation during an upgrade. Not on the main thread.
+    /// Reserves a device; blocks until its running batch step ends. Returns an empty reservation during an
+    /// upgrade, and if `control` is stopped or the engine ends before. Any thread.
     [[nodiscard]] BatchEngine::Reservation reserve(const QString &ipport, const StepControl &control) const;
 
     /// Whether the firmware of the device is being upgraded.

@@ -17,7 +17,7 @@ class DeviceStore;
 class PageHold;
 class SessionThreads;
 
-/// Implements the operations of CDeviceBase with the same names, and their steps. Lives on the main thread;
+/// Implements the operations of CDeviceBase with similar names, and their steps. Lives on the main thread;
 /// its steps run on any thread.
 class SessionLogins
 {
@@ -31,7 +31,8 @@ public:
     int findAndLogin(const QString &ipport, const QString &account, const QString &password);
     [[nodiscard]] PageStep loginStep(const QString &ipport, const QString &account, const QString &password);
 
-    /// Logs in and out to check an account. Any thread; blocks for the device. Returns a LoginResult.
+    /// Logs in and out to check an account. Any thread; blocks for the device. Returns a LoginResult;
+    /// Upgrading, without a request, during an upgrade.
     [[nodiscard]] int check(const QString &ipport, const QString &account, const QString &password) const;
 
     /// Logs in, reads the details of a device, and logs out. Blocks for the device.
@@ -54,7 +55,7 @@ private:
     };
 
     void takeOffer(const Request &request, const SessionOrder &order, const SessionOffer &offer);
-    /// Sets the MAC of a row that a search has listed without one. The row keeps its name.
+    /// Sets the MAC of a row without one, unless another row has this MAC. The row keeps its name.
     void takeMac(const QString &ipport, const QString &mac);
 
     const std::shared_ptr<DeviceStore> m_store;

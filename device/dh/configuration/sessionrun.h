@@ -29,7 +29,7 @@ public:
 
     [[nodiscard]] bool isDeviceAway() const override { return m_isDeviceAway; }
 
-    /// Emits one signal of a back end with its arguments.
+    /// A function that emits one signal of a back end with its arguments.
     using SignalCall = BackEndSignals::Emission;
 
     /// Returns and clears the collected signals, in the order of the operations.

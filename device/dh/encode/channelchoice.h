@@ -13,7 +13,8 @@ struct ChannelChoice
     /// Whether `key` is handled by value(): a selected channel, the stream type or "channelNum".
     [[nodiscard]] static bool isKey(const QString &key);
 
-    /// A selection by key, or with "channelNum" the list of channel numbers as strings from "1".
+    /// A selection by key (the names of the members above), or with "channelNum" the list of channel numbers
+    /// as strings from "1".
     [[nodiscard]] QVariant value(const QString &key) const;
 
     /// Sets a selection by key. An invalid value is logged and ignored. A device that reports no channels has

@@ -30,13 +30,14 @@ public:
     /// Whether this size (in pixels) is offered with a compression.
     [[nodiscard]] bool offersSize(int compression, int width, int height) const;
 
-    /// Bit rates in kbit/s between the block's minimum and maximum, from the first 32 steps of the tables.
+    /// Bit rates in kbit/s between the block's minimum and maximum, from the first 32 steps of the tables. A
+    /// limit that no step keeps is ignored.
     [[nodiscard]] QStringList bitRates() const;
 
     [[nodiscard]] QStringList audioCompressions() const; ///< names of the audio formats
 
-    /// Sampling frequencies in Hz for an audio format by name; those of the tables if the device reports
-    /// none.
+    /// Sampling frequencies in Hz for an audio format by name; those of the tables if the device reports none
+    /// for this format.
     [[nodiscard]] QList<int> samplingFrequencies(const QString &audioCompression) const;
 
     /// Whether the device reports that it does not have this value.
@@ -70,7 +71,8 @@ inline constexpr int profileWithoutLetter = 2;
 [[nodiscard]] std::optional<CompressionChoice> compressionChoice(const ValueTables &tables,
                                                                  const QString &name);
 
-/// The name of a compression; "H264" if `profile` is not 1 to 4. Empty for an unknown code.
+/// The name of a compression; for H.264 that of `profile`, or "H264" if `profile` is not 1 to 4. Empty for an
+/// unknown code.
 [[nodiscard]] QString compressionName(const ValueTables &tables, int code, int profile);
 
 /// A frame size in pixels.

@@ -29,29 +29,31 @@ public:
     void markItemsUnread();
 
     /// A value by key, see EncodeValues::value(). Additional keys: "takenItems" (indexes of the items that
-    /// the device accepted in the last setValue() or confirm(); empty after read()), "unreadItems" and
-    /// "unreadPlaces" (names and indexes of the items that were not read). Indexes are those of
-    /// writeEncodeItems().
+    /// the device accepted in the last setValue() or confirm(), with confirm() also of those that it does not
+    /// have; empty after read()), "unreadItems" and "unreadPlaces" (names and indexes of the items that the
+    /// device has but that were not read). Indexes are those of writeEncodeItems().
     [[nodiscard]] QVariant value(const QString &key, const ChannelChoice &channels) const;
 
     /// Result of a write.
     struct Outcome
     {
-        QString notWritten; ///< one line for each item that was not written; empty if there is none
+        QString notWritten; ///< a line, with its end, for each item that was not written; empty without one
         int result = 0; ///< 0, the library's error if the device stopped responding, or a result of read()
     };
 
-    /// Changes a value. The resolution of the sub stream is written to the device immediately, all other
-    /// values by confirm(). An invalid value is logged and ignored.
+    /// Changes a value. The resolution of the sub stream is written immediately, to the channel of the image
+    /// page, which devices expect; all other values are written by confirm(). An invalid value is logged and
+    /// ignored.
     Outcome setValue(const QString &key, const QVariant &value, const ChannelChoice &channels);
 
-    /// Writes all items that were read. The others are listed in `notWritten`.
+    /// Writes the items that were read. `notWritten` lists those that failed or were not read. Items that the
+    /// device does not have are neither written nor listed.
     [[nodiscard]] Outcome confirm(const ChannelChoice &channels);
 
-    /// The state of the channel; nullopt before it has been read.
+    /// The state of the channel; nullopt if it was not read.
     [[nodiscard]] const std::optional<EncodeState> &state() const { return m_state; }
 
-    /// Names of the items by the indexes of writeEncodeItems().
+    /// Names of the items in the user's language, by the indexes of writeEncodeItems().
     [[nodiscard]] static QStringList itemNames();
 
 private:

@@ -8,8 +8,8 @@
 
 #include <QList>
 
-/// The items of one stream. An item that was not read is zero except for size and stream. It must not be
-/// written, since that would overwrite unknown settings.
+/// The items of one stream. An item that was not read must not be written, since that would overwrite unknown
+/// settings.
 struct EncodeItems
 {
     sdk::VideoFormatItem videoFormat{};
@@ -87,12 +87,13 @@ bool refreshEncodeCapabilities(const ConfigSession &session, int channel, Encode
 /// Result of writeEncodeItems().
 struct EncodeWriting
 {
-    QList<int> notTaken; ///< indexes of the items that were refused, got no response or were not sent
-    bool isDeviceAway = false;
+    QList<int> notTaken;       ///< indexes of the items that were refused, got no response or were not sent
+    bool isDeviceAway = false; ///< the device stopped responding
 };
 
 /// Writes the items that were read. Indexes 0 to 3 are video format, video profile, audio compression and
-/// audio format of the main stream, 4 to 7 those of the sub stream. `unwanted` are indexes to leave out.
+/// audio format of the main stream, 4 to 7 those of the sub stream. `unwanted` are indexes to leave out; they
+/// and items that were not read are not in `notTaken`.
 /// Writing continues after a refusal. It stops if the device does not respond or `control` ends the step.
 [[nodiscard]] EncodeWriting writeEncodeItems(const ConfigSession &session, int channel,
                                              const EncodeState &state, const QList<int> &unwanted = {},

@@ -17,12 +17,14 @@ public:
     [[nodiscard]] static bool isKey(const QString &key);
 
     /// `streamType` is the kind of main stream (0 to 2). Returns an invalid value for an unknown key and for
-    /// a value whose item was not read. "bitRate" is in kbit/s, also if "curBitStream" has no index for it.
+    /// a value whose item was not read. "curBitStream" is the index of the bit rate in "bitStream", -1 if the
+    /// list does not have it; "bitRate" is the bit rate in kbit/s.
     [[nodiscard]] QVariant value(const QString &key, const EncodeState &state, int streamType) const;
 
     /// Changes the state, not the device. Returns false, and leaves the state unchanged, for an invalid value
-    /// or if the item was not read. Changing the audio format also changes a sampling frequency that it does
-    /// not support.
+    /// or if the item was not read. "curBitStream" is set in kbit/s. The compression is always that of the
+    /// main stream, also with the key of the sub stream; only the profile of H.264 is set for the stream of
+    /// the key. Changing the audio format also changes a sampling frequency that it does not support.
     bool setValue(const QString &key, const QVariant &value, EncodeState &state, int streamType) const;
 
 private:

@@ -20,8 +20,9 @@ public:
     [[nodiscard]] static QString refusalOf(const std::vector<DeviceListLine> &lines);
 
     /// The lines with their steps, which share ownership of the import. A step logs in to the device of its
-    /// line and adds its row, replacing an existing row of the device. A device that another line has added
-    /// gets no second request.
+    /// line and adds its row, replacing an existing row of the device. The step of an invalid line returns
+    /// unusableLine. If another line has added the device, the result is AlreadyListed: without a request for
+    /// the same address and port, after the login for the same MAC.
     [[nodiscard]] static std::vector<ImportLine> plan(const std::shared_ptr<DeviceListImport> &import);
 
 private:

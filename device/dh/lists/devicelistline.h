@@ -14,7 +14,7 @@ enum class ListColumn : int
     AccessProtocol,
     AddMode,
     DeviceName,
-    IPAddress, ///< or the P2P ID
+    IPAddress, ///< IP address, host name or P2P ID
     DevicePort,
     Organization,
     ServiceIP,
@@ -45,14 +45,17 @@ struct ListColumnName
 
 /// Fixed words in the fields of a list, independent of the user's language.
 namespace ListWord {
-inline constexpr QLatin1StringView encoder("Encoder");
+// DeviceCategory; `traffic` is also the DeviceType of that category, `videoWallType` that of `videoWall`.
+inline constexpr QLatin1StringView encoder("Encoder"); ///< all other devices
 inline constexpr QLatin1StringView traffic("Traffic");
 inline constexpr QLatin1StringView videoWall("Video Wall Control");
 inline constexpr QLatin1StringView videoWallType("NVD");
-inline constexpr QLatin1StringView general("General");
-inline constexpr QLatin1StringView serviceAddress("127.0.0.1");
+inline constexpr QLatin1StringView general("General");          ///< AccessProtocol
+inline constexpr QLatin1StringView serviceAddress("127.0.0.1"); ///< ServiceIP
+// AddMode
 inline constexpr QLatin1StringView byAddress("IpAddress");
 inline constexpr QLatin1StringView byP2P("P2P");
+// InitStatus
 inline constexpr QLatin1StringView initialised("INITIALIZED");
 inline constexpr QLatin1StringView notInitialised("NOT INITIALIZED");
 } // namespace ListWord
@@ -87,7 +90,7 @@ struct DeviceListContents
     QString refusal; ///< why the file cannot be used, in the user's language; empty on success
     QString detail;  ///< technical reason for the log; may be empty
 
-    /// Appends a line. Returns false, and sets `refusal`, if there are too many.
+    /// Appends a line. If there are too many, clears the lines, sets `refusal` and returns false.
     bool add(DeviceListLine line);
 
     /// Clears the lines and sets `refusal`. Always returns false, as a return value for the caller.

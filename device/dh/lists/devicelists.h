@@ -14,7 +14,7 @@ class DeviceLogins;
 class DeviceStore;
 class P2PPorts;
 
-/// Implements the operations of CDeviceBase with the same names. Lives on the main thread.
+/// Implements the operations of CDeviceBase with similar names. Lives on the main thread.
 class DeviceLists
 {
 public:
@@ -22,8 +22,8 @@ public:
                 BackEndSignals &backEndSignals);
 
     /// Writes the devices to `folder` (a path or "file:///" URL); the suffix of `fileName` selects the
-    /// format. Skips devices that are no longer in the list. Returns false if none is left or the file cannot
-    /// be written.
+    /// format. Passwords of stored accounts are not written. Skips devices that are no longer in the list.
+    /// Returns false if none is left or the file cannot be written.
     bool exportDevices(const QString &folder, const QStringList &macs, const QString &fileName);
 
     /// Fields of the last exported list that an import would not read back, see CDeviceBase::exportFaults().

@@ -17,13 +17,14 @@ struct ListedDevice
 };
 
 /// The line of a device. Values come from the row, which the user sees; the search record provides what rows
-/// do not have. A device without an account in its row gets `usual`, the account that would be used to log
-/// in, unless it is not initialised.
+/// do not have. An initialised device without an account in its row gets `usual`, the account that would be
+/// used to log in.
 [[nodiscard]] DeviceListLine listLineOf(const ListedDevice &device, const DeviceAccount &usual);
 
 /// The device type (as devices report it) that a line means.
 [[nodiscard]] QString deviceTypeOf(const DeviceListLine &line);
 
-/// Fills empty fields of a device's row from a line of a list, and sets its state from the line. Values that
-/// normally come from a search record are set under the keys of the device's detail, unless `hasRecord`.
+/// Fills empty fields of a device's row, and an unknown type, from a line of a list. A row without a name
+/// gets the address of a line without one. The state is set if the line has one. Serial number, mask and
+/// gateway are set under the keys of the device's detail, unless `hasRecord`: the search record has them.
 void completeFrom(QJsonObject &row, const DeviceListLine &line, bool hasRecord);

@@ -8,9 +8,9 @@ class QIODevice;
 /// The list as UTF-8 text, one element in each line. Values are written without escapes.
 [[nodiscard]] QByteArray xmlOf(const std::vector<DeviceListLine> &lines);
 
-/// Reads a list from an open file. The encoding is UTF-8, given by a byte order mark, or any declared
-/// encoding that Qt supports. Errors are in DeviceListContents::refusal and detail; nothing is logged. A
-/// document type and references that XML does not define are refused. Unknown elements are ignored. Uses up
-/// to 512 MiB of memory in addition to the text; larger documents, and those deeper than 16 levels, are
-/// refused.
+/// Reads a list from an open file. The encoding is that of a byte order mark or of the XML declaration
+/// (any that Qt supports), otherwise UTF-8. Errors are in DeviceListContents::refusal and detail; nothing is
+/// logged. A document type and references that XML does not define are refused. Unknown elements are ignored.
+/// Uses up to 512 MiB of memory in addition to the text; larger documents, and those deeper than 16 levels,
+/// are refused.
 [[nodiscard]] DeviceListContents readXml(QIODevice &file);

@@ -31,6 +31,7 @@ public:
     [[nodiscard]] const AccountChoice &accounts() const { return m_accounts; }
 
     /// The account in the device's row; if it has none, the stored or default account (see AccountChoice).
+    /// The default account for an unknown device.
     [[nodiscard]] DeviceAccount accountAt(const QString &ipport) const;
     [[nodiscard]] DeviceAccount accountOf(const QJsonObject &row) const;
 
@@ -40,8 +41,8 @@ public:
     /// Sets "loggedIn" of the device's row to whether `result` is a success.
     void note(const QString &ipport, LoginResult result) const;
 
-    /// Logs in, runs `work` unless `control` ends the step before, and logs out. Returns the outcome of
-    /// `work`, or the result of a failed login.
+    /// Logs in, runs `work`, and logs out. Returns the outcome of `work`, the result of a failed login, or
+    /// NotDone if `control` ends the step before `work`.
     [[nodiscard]] StepOutcome inLogin(const QString &ipport, const DeviceAccount &account,
                                       const StepControl &control,
                                       const std::function<StepOutcome(sdk::LLONG loginHandle)> &work) const;

@@ -33,21 +33,21 @@ public:
     /// Called when a search starts. nullopt: no logins in this search.
     void begin(const std::optional<AccountChoice> &accounts);
 
-    /// Starts logins to the listed devices that have not had one in this search and lack a value. Returns
-    /// immediately.
+    /// Starts logins to the listed IPv4 devices that are initialised, have not had one in this search and
+    /// lack a value. Returns immediately.
     void logInToNew();
 
     /// Drops logins that have not started, and starts no further ones until the next begin().
     void stop();
 
-    /// Blocks until no login is running.
+    /// Blocks until no login is running or waiting for a thread.
     void waitForDone();
 
     /// stop() permanently; running logins end at their next request.
     void requestStop();
 
 Q_SIGNALS:
-    /// Emitted on any thread.
+    /// A login has filled fields of a row. Emitted on any thread.
     void rowsChanged();
 
 private:
@@ -60,7 +60,7 @@ private:
 
     std::mutex m_mutex;                      ///< guards m_accounts, m_attempted and m_refused
     std::optional<AccountChoice> m_accounts; ///< nullopt while no logins are made
-    QSet<QString> m_attempted;               ///< names of the rows with a login in this search
+    QSet<QString> m_attempted;               ///< names of the rows whose login was started in this search
     QHash<QString, DeviceAccount>
         m_refused; ///< account that a device refused last, by name and by address of its row
 

@@ -30,14 +30,15 @@ public:
     [[nodiscard]] StepOutcome add(const DeviceToAdd &device, const StepControl &control,
                                   const Review &review) const;
 
-    /// Same without a review. AlreadyListed if a row has this address and port.
+    /// Same without a review. AlreadyListed, without a request, if a row has this address and port. A P2P
+    /// device is not checked: its row is replaced.
     [[nodiscard]] StepOutcome addNew(const DeviceToAdd &device, const StepControl &control) const;
 
 private:
     [[nodiscard]] StepOutcome addThroughTunnel(const DeviceToAdd &device, const StepControl &control,
                                                const Review &review) const;
-    /// Logs in at `port` (with P2P the local end of the tunnel). Sets `webPort` to the port of the device's
-    /// web page.
+    /// Logs in at `port` (with P2P the local end of the tunnel) and stores the row. Sets `webPort` to the
+    /// port of the device's web page on success.
     [[nodiscard]] StepOutcome logIn(const DeviceToAdd &device, int port, const StepControl &control,
                                     const Review &review, int &webPort) const;
 

@@ -14,31 +14,31 @@
 /// How a device is reached.
 enum class ReachedBy : int
 {
-    Address = 0, ///< by its IPv4 address
+    Address = 0, ///< by its IPv4 address or host name
     P2P = 1,     ///< by its P2P ID, through a local port of the port agent
 };
 
 /// Parameters of loginForRow().
 struct RowLoginRequest
 {
-    QString address; ///< IPv4 text, or the P2P ID
+    QString address; ///< IPv4 address or host name; with P2P: the P2P ID
     QString account;
     QString password;
     int port = 0; ///< port of the device, or local port of the tunnel
     ReachedBy reachedBy = ReachedBy::Address;
-    QString devicePort; ///< with P2P: port of the device itself
+    QString devicePort; ///< with P2P: port of the device itself, as decimal text
 };
 
 /// Result of loginForRow().
 struct RowLoginOutcome
 {
     LoginResult result = LoginResult::Unknown;
-    QJsonObject row;                         ///< of a successful login; the store sets "num"
-    std::optional<sdk::SearchAnswer> record; ///< response to a directed search of the address
+    QJsonObject row;                         ///< of a successful login, otherwise empty; the store sets "num"
+    std::optional<sdk::SearchAnswer> record; ///< response to a directed search of the address; not with P2P
 };
 
 /// Logs in, queries the values of a row, and logs out. Blocks for the timeouts of the library, up to 5 s for
-/// each query. A failed query leaves its part of the row empty. NotDone if `control` ends the step between
-/// two requests. Any thread.
+/// each query. A failed query leaves its part of the row empty; the web port is 80 then. NotDone if `control`
+/// ends the step before the last query. If it ends later, only the directed search is left out. Any thread.
 [[nodiscard]] RowLoginOutcome loginForRow(const sdk::SdkLibraries &libraries, const RowLoginRequest &request,
                                           const StepControl &control = StepControl());

@@ -35,7 +35,8 @@ public:
     PictureOperations &operator=(const PictureOperations &) = delete;
 
     /// Takes snapshots of the current session's device one after another on a separate thread and returns
-    /// immediately. `address` is the name of the device's folder. See CDeviceBase::snapPictureToFile().
+    /// immediately. `kind` is "liveCapture" for all channels or "againCapture" for `channel` (from 0); others
+    /// are ignored. `address` is the name of the device's folder in "snap" in the working directory.
     void takeSnapshots(const QString &kind, int channel, const QString &address);
 
     /// See CDeviceBase::snapshotSteps().
@@ -57,7 +58,7 @@ private:
     /// Takes the images of an order with a login. Any thread.
     [[nodiscard]] StepOutcome takePictures(const PictureOrder &order, const SecureLogin &login,
                                            const StepControl &control) const;
-    /// Emits the signal for one snapshot. Any thread.
+    /// Emits the signal of `kind` for one snapshot. Any thread.
     void noteSnapshot(const QString &kind, int channel, const QString &path, const QString &message);
 
     const std::shared_ptr<DeviceStore> m_store;

@@ -23,15 +23,16 @@ public:
     FoundDevices(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries, const DeviceLogins &logins,
                  UpgradeCheck isUpgrading);
 
-    /// Initialises a device: creates its first account. Any thread; blocks for the device.
+    /// Initialises a device: creates its first account, which is then set in its row. Any thread; blocks for
+    /// the device. Success, without a request, for a device without a search record.
     StepOutcome initialise(const QString &mac, const QString &account, const QString &password);
 
     /// Step of initialise(); fails for a device that no search has found.
     [[nodiscard]] DeviceStep initialisationStep(const QString &mac, const QString &account,
                                                 const QString &password);
 
-    /// Changes the address of a device. Result Upgrading, without a request, during an upgrade. Blocks for
-    /// the device.
+    /// Changes the address of a device. The row gets the new address even if the request fails, with
+    /// "unconfirmed" set. Result Upgrading, without a request, during an upgrade. Blocks for the device.
     void changeAddress(const QString &mac, const QString &newip, const QString &newsubmask,
                        const QString &newgateway, bool dhcpON);
 

@@ -20,7 +20,7 @@ class FoundLogins;
 struct SearchSettings
 {
     bool localDomain = true; ///< search the local segment
-    bool logsIn = false;     ///< log in to found devices, each with its account
+    bool logsIn = false;     ///< log in to found devices; ignored without a default account
 };
 
 /// Implements the search operations of CDeviceBase. Lives on the main thread. Signals of the back end are
@@ -43,7 +43,7 @@ public:
     /// Sets the address range of the next search (host byte order; 0: none).
     void setRange(quint32 begin, quint32 end);
 
-    /// Stops the running search; found devices are kept.
+    /// Stops the running search and drops logins that have not started; found devices are kept.
     void stop();
 
     /// Queries the devices of these rows again in the background, see DeviceRefresh::start().
@@ -52,7 +52,8 @@ public:
     /// See CDeviceBase::locationStep().
     [[nodiscard]] DeviceStep locationStep(const QStringList &macs);
 
-    /// Stops everything at its next step, without waiting. Emits no further signals.
+    /// Stops everything at its next step, without waiting. Signals of the search are not emitted any more;
+    /// running logins and queries may still report changed rows.
     void requestEnd();
 
 private:

@@ -13,7 +13,7 @@
 class ChannelNames
 {
 public:
-    /// Channels above this number are ignored.
+    /// Maximum number of channels of a device; further ones are ignored.
     static constexpr int maximumChannels = 1024;
 
     static constexpr int refused = 999; ///< result: the device refused the name
@@ -21,7 +21,7 @@ public:
     /// Sets the session and clears the results.
     void begin(const ConfigSession &session);
 
-    /// The name of a channel (from 0); null if the device does not report it.
+    /// The name of a channel (from 0), without surrounding spaces; null if the device does not report it.
     [[nodiscard]] QVariant name(int channel);
 
     /// The names of the first `count` channels. If the device stops responding, the remaining names are null.

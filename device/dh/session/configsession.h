@@ -15,7 +15,8 @@ using ConfigText = std::vector<char>;
 inline constexpr int deviceAway = static_cast<int>(sdk::NetError::NetworkFailure);
 
 /// Typed access to the configuration functions of the device library for one login. Does not own the login.
-/// All functions block for their timeout. Without a library or login they fail. Any thread.
+/// All functions block for their timeout. Without a library or login they fail. Channels are counted from 0;
+/// -1 is the device itself. Any thread.
 class ConfigSession
 {
 public:
@@ -64,10 +65,12 @@ public:
         return pack(name, &record, sizeof(record), text);
     }
 
+    /// Writes a configuration text. Returns false on failure.
     bool writeText(const char *name, int channel, const ConfigText &text,
                    std::chrono::milliseconds wait) const;
 
-    /// Packs `record` and writes it as a configuration text of up to `textSize` bytes.
+    /// Packs `record` and writes it as a configuration text of up to `textSize` bytes. Returns false on
+    /// failure; a record that cannot be packed is not sent.
     template<typename Record>
     bool write(const char *name, int channel, const Record &record, std::uint32_t textSize,
                std::chrono::milliseconds wait) const
@@ -102,6 +105,7 @@ public:
         return m_net && m_net->NetQueryChannelStates(m_handle, states, wait);
     }
 
+    /// Also fails if the response does not fill the block.
     template<typename Block>
     bool queryBlock(sdk::QueryCommand command, Block &block, std::chrono::milliseconds wait) const
     {

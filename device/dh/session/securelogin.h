@@ -16,9 +16,9 @@ class NetLibrary;
 struct SecureLogin
 {
     LoginResult result = LoginResult::Unknown;
-    std::int64_t handle = 0; ///< 0 unless `result` is Success; the caller must log it out
-    std::int32_t loginKind = 0;
-    int channelCount = 0; ///< video inputs that the device reports
+    std::int64_t handle = 0;    ///< 0 unless `result` is Success; the caller must log it out
+    std::int32_t loginKind = 0; ///< 0 direct, 1 through a tunnel
+    int channelCount = 0;       ///< video inputs that the device reports
 };
 
 /// Logs in to the device at `ipport` ("address:port", an IPv6 address in brackets). Blocks for the response

@@ -16,7 +16,7 @@ struct SessionOrder
     std::int64_t handle = 0; ///< of the present session, 0 for none
     int channelCount = 0;    ///< of the present session's device
     bool isNewLogin = true;  ///< account differs from the present session's, or the user has just entered it
-    bool readsChannels = true;
+    bool readsChannels = true; ///< read the channels also if the present session is kept
 };
 
 /// Result of offerSession().
@@ -24,11 +24,11 @@ struct SessionOffer
 {
     LoginResult result = LoginResult::Unknown;
     SecureLogin login;     ///< handle is 0 on failure, and if the present session is kept
-    QVariantList channels; ///< see liveChannels(); only if requested or after a new login
+    QVariantList channels; ///< see liveChannels(); empty unless requested or after a new login
 };
 
-/// Whether the device responds in the session; a refused request counts as a response. Blocks for up to two
-/// seconds; any thread.
+/// Whether the device responds in the session. A refused request counts as a response, unless the device
+/// refuses the login of the session. Blocks for up to two seconds; any thread.
 [[nodiscard]] bool respondsInSession(const ConfigSession &session);
 
 /// Checks the present session, and logs in if the device does not respond in it, for example after a restart.

@@ -17,7 +17,7 @@ class NetLibrary;
 }
 
 /// Runs session checks, logins, logouts and work of pages on up to 16 threads. Thread-safe; created and
-/// destroyed on the main thread. The destructor waits for running work.
+/// destroyed on the main thread. The destructor waits for all started work.
 class SessionThreads
 {
 public:
@@ -42,6 +42,7 @@ public:
 
     /// Drops work that has not started.
     void clear() { m_threads.clear(); }
+    /// Blocks until no work is running or waiting for a thread.
     void waitForDone() { m_threads.waitForDone(); }
 
 private:

@@ -26,14 +26,15 @@ struct DaylightSaving
 /// 0 Sunday to 6 Saturday) and "Time" ("hh:mm").
 [[nodiscard]] std::optional<DaylightSaving> daylightSavingFrom(const QVariantMap &data);
 
-/// Keys: "timeZone" (index in the devices' time zones), "ntpSet" (bool), "ntpServer", "ntpPort" and
-/// "updatePeriod" (both 0 to 65535).
+/// Keys: "timeZone" (index in the devices' time zones, 0 to 39), "ntpSet" (bool), "ntpServer", "ntpPort" (0
+/// to 65535) and "updatePeriod" (minutes, 0 to 65535).
 [[nodiscard]] std::optional<sdk::NtpRecord> ntpFrom(const QVariantMap &data);
 
 /// Keys: "week" (0 Sunday to 6 Saturday, 7 every day), "time" ("hh:mm") and "autoReboot" (bool).
 [[nodiscard]] std::optional<sdk::AutoMaintainRecord> autoMaintainFrom(const QVariantMap &data);
 
-/// Key: "name" of a channel; not empty, not only spaces, at most ByteText::channelNameBytes() bytes.
+/// Key: "name" of a channel. Invisible characters and surrounding spaces are removed; the rest has 1 to
+/// ByteText::channelNameBytes() bytes.
 [[nodiscard]] std::optional<sdk::ChannelNameItem> channelNameFrom(const QVariantMap &data);
 
 /// Key: "videoStandard": 1 PAL, 2 NTSC.

@@ -30,7 +30,9 @@ public:
     /// Runs a command on each device and blocks for the devices. Emits signalCDeviceRetToSystemConfig with
     /// the result of each: 0, the result of a failed login, Upgrading, or 999 (refusedByDevice) for a
     /// refusal, an unknown command or invalid data. "loginCheck" keeps the logins open (result -1) for
-    /// "modifyPassword". "cancelLogin" closes these logins in the background.
+    /// "modifyPassword" and emits signalCDeviceSystemConfigEnablePassword at the end if there is one.
+    /// "modifyPassword" skips devices without such a login. "cancelLogin" closes these logins in the
+    /// background.
     void run(const QString &command, const QVariantMap &data, const QStringList &ipports);
 
     /// The step of a command for one device, see CDeviceBase::systemStep().

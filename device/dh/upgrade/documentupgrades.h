@@ -39,7 +39,7 @@ public:
     /// at 100 % its results are written.
     void start(const QStringList &paths);
 
-    /// Steps of start() for the lines with these numbers.
+    /// Steps of start() for the lines with these row numbers, in the order of the document.
     [[nodiscard]] QList<UpgradeDocumentStep> steps(const QString &path, const QList<int> &lines);
 
 private:
@@ -55,5 +55,5 @@ private:
     const std::shared_ptr<DeviceStore> m_store;
     UpgradeRound &m_round;
     UpgradeOrders &m_orders;
-    std::shared_ptr<OpenedUpgradeDocument> m_opened; ///< the last document read with reading(); may be null
+    std::shared_ptr<OpenedUpgradeDocument> m_opened; ///< read with reading(), for the next add(); may be null
 };

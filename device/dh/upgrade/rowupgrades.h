@@ -25,10 +25,10 @@ public:
     RowUpgrades(std::shared_ptr<DeviceStore> store, UpgradeRound &round, const UpgradeOrders &orders,
                 BackEndSignals &backEndSignals);
 
-    /// Sets the firmware file of rows; `path` may be a "file:///" URL. A device that is being upgraded keeps
-    /// its file. "upgraderes" and "upgradetext" of a row show why the file cannot be used; the file is
-    /// checked again at the start. Returns an UpgradeTools::Result for each row: None, or why the upgrade is
-    /// refused.
+    /// Sets the firmware file of rows; `path` may be a "file:///" URL, or empty to remove the file. A device
+    /// that is being upgraded keeps its file. "upgraderes" and "upgradetext" of a row show why the file
+    /// cannot be used; the file is checked again at the start. Returns an UpgradeTools::Result for each row:
+    /// None, or why the upgrade is refused.
     QList<int> setFiles(const QStringList &macs, const QString &path);
 
     /// Starts upgrades and returns immediately. The rows show the progress and result: "upgrade" (percent),

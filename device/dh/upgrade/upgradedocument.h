@@ -13,11 +13,11 @@
 /// A line of an upgrade document.
 struct UpgradeDocumentLine
 {
-    int row = 0; ///< in the sheet, from 2
-    QString ipport;
+    int row = 0;    ///< in the sheet, from 2
+    QString ipport; ///< as in rows; of an invalid line the text of its cell, ":" and the port or 0
     QString user;
     QString password;
-    QString file;                                      ///< absolute path
+    QString file;                                      ///< absolute path; empty if the cell is empty
     UpgradeTools::Result refusal = UpgradeTools::None; ///< error in the line itself; None if there is none
 };
 
@@ -37,7 +37,8 @@ public:
     /// Opens the file. Returns why it cannot be used, in the user's language; empty on success.
     [[nodiscard]] QString open(const QString &path);
 
-    /// The rows that contain an address or a file, in order. A repeated address is refused with ListedTwice.
+    /// The rows that contain an address or a file, in order. An invalid address or port is refused with
+    /// LineUnusable, a repeated address and port with ListedTwice.
     [[nodiscard]] std::vector<UpgradeDocumentLine> lines();
 
     /// The opened file; after keep() the file with the results.
@@ -46,7 +47,8 @@ public:
     /// Sets the result cell of a row; keep() writes it.
     void setResult(int row, const QString &result);
 
-    /// Writes the results to the file, or to a file next to it if that fails. Returns a message for the user.
+    /// Writes the results to the file, or to a file next to it if that fails. Returns a message for the user,
+    /// also on failure (see isKept()).
     [[nodiscard]] QString keep();
 
     /// Whether keep() has succeeded.

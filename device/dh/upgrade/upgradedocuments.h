@@ -112,7 +112,7 @@ private:
     std::vector<std::shared_ptr<Document>> m_written; ///< finished documents, for repeat(); main thread only
     QList<Schedule> m_writtenProgress;                ///< progress of written documents, for update()
     int m_beingWritten = 0;
-    int m_finishedLines = 0; ///< lines of finished documents
+    int m_finishedLines = 0; ///< lines of documents without running upgrades, including refused ones
     QString m_result;
     int m_succeeded = 0;
 };

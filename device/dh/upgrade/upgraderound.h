@@ -66,6 +66,7 @@ private:
     void note(const UpgradeOrder &order, const UpgradeState &state);
     /// Queues the progress signals; calls before they are emitted are merged. Any thread.
     void noteSchedule();
+    /// Reports the end of the round, unless upgrades are running or documents are open.
     void noteEnd();
     /// See UpgradeDocuments::Writer.
     void writeDocument(const std::function<void()> &write, const std::function<void()> &written);

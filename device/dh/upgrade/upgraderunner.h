@@ -16,8 +16,8 @@
 class UpgradeRunner
 {
 public:
-    /// Callbacks. Called on threads of the engine, inside stop(), and where a step is destroyed. Must not
-    /// call end().
+    /// Callbacks. Called on threads of the engine, inside step(), start(), stop(), requestEnd() and end(),
+    /// and where a step is destroyed. Must not call end().
     struct Watchers
     {
         std::function<void(const UpgradeOrder &order, const UpgradeState &state)> changed;
@@ -49,7 +49,7 @@ public:
     [[nodiscard]] bool isUpgrading() const; ///< whether any upgrade is waiting or running
     [[nodiscard]] bool isUpgrading(const QString &key) const;
 
-    /// Progress of the round, 0 to 100; 100 after its end.
+    /// Progress of the round, 0 to 100; 100 before the first round and after the end of a round.
     [[nodiscard]] int percent() const;
 
     /// Starts no further upgrades and cancels the unfinished ones. Does not wait.

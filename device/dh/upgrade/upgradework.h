@@ -21,7 +21,7 @@ struct UpgradeOrder
     QString account;
     QString password;
     QString model;       ///< empty if unknown
-    QString file;        ///< path
+    QString file;        ///< local path
     QString device = {}; ///< key of the device in BatchEngine, see workKey()
 };
 
@@ -29,9 +29,9 @@ struct UpgradeOrder
 struct UpgradeState
 {
     UpgradeTools::Result result = UpgradeTools::Waiting;
-    int percent = 0;  ///< progress of the complete upgrade
+    int percent = 0;  ///< progress of the complete upgrade, 0 to 100
     QString text;     ///< in the user's language
-    QString version;  ///< reported by the device after the upgrade
+    QString version;  ///< reported by the device after the upgrade; empty before and if unknown
     QString versions; ///< old and new version, for the user; only on success
 };
 
@@ -61,8 +61,8 @@ class UpgradeWork
 public:
     using Report = std::function<void(const UpgradeState &state)>;
 
-    /// `report` is called with each change of the state, on the thread of run(). The references must outlive
-    /// this object.
+    /// `report` is called with each change of the state before the final one, on the thread of run(). The
+    /// references must outlive this object.
     UpgradeWork(const sdk::SdkLibraries &libraries, const UpgradeLimits &limits, const UpgradeOrder &order,
                 UpgradeStop stop, Report report);
 
