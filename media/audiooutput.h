@@ -23,8 +23,8 @@ public:
     static constexpr std::int32_t bufferSize = 102400; ///< in bytes
 
     /// `owner` is the parent of the audio sink and outlives this object. `outputsChanged` is called on the
-    /// main thread when the system's outputs have changed. On another thread the object plays nothing and
-    /// does not call it.
+    /// main thread when the system's outputs have changed. An object that is created on another thread plays
+    /// nothing and does not call it.
     AudioOutput(QObject *owner, const std::function<void()> &outputsChanged);
     ~AudioOutput();
 
@@ -38,13 +38,14 @@ public:
     /// `pushed` in both cases, with the buffer locked. Decoder's thread.
     void push(const std::uint8_t *data, std::int32_t size, const std::function<void()> &pushed);
 
-    /// Writes the buffered samples to the output, which drops those beyond its free space. Also opens the
+    /// Writes the buffered samples to the output, which drops those beyond its free space, and clears the
+    /// buffer. Without an output the samples are dropped. Also opens the
     /// output again if it was removed or is not the default one any more. Debian 12 does not report such
     /// changes, so they are checked once a second.
     void drain();
 
-    /// Opens the default output, if there is one, with the current sample rate, and clears the buffer. Opens
-    /// nothing on other threads than the main thread.
+    /// Opens the default output, if there is one, with the current sample rate (1 to 384000 Hz), and clears
+    /// the buffer. Opens nothing if the object was created on another thread than the main thread.
     void reopen();
 
     [[nodiscard]] bool isOpen() const { return m_sink != nullptr; }

@@ -15,7 +15,7 @@ struct VideoFrame
     std::int32_t width = -1; ///< in pixels; -1 before the first frame, 0 after the end of the stream
     std::int32_t height = -1;
     sdk::PictureColour colour = sdk::PictureColour::Bt601Limited;
-    std::uint64_t number = 0; ///< counts the frames of all streams, from 1
+    std::uint64_t number = 0; ///< counts the frames of all streams of a CurrentFrame, from 1; 0 for none
     bool isSizeStale = false; ///< the size has changed since the renderer last read the frame
 
     /// Width and height of the planes U and V.

@@ -43,7 +43,7 @@ public:
                std::shared_ptr<sdk::Clock> clock);
     ~CDHDecoder() override;
 
-    /// Opens a port. Returns false on failure. Must not be called again before Stop().
+    /// Opens a port of the decoder library. Returns false on failure. Must not be called again before Stop().
     bool Start();
 
     /// Closes the port, if one is open. When it returns, the observer is no longer called. Always returns
@@ -67,7 +67,7 @@ public:
                                  std::uint32_t size, std::int64_t parameter, void *user);
 
 Q_SIGNALS:
-    /// A stream has ended without stop(). Emitted on a thread of the network library.
+    /// The network library has reported the end of a stream. Emitted on a thread of that library.
     void streamEnded(qint64 streamHandle, sdk::StreamEndReason reason);
 
 private:

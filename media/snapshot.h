@@ -25,11 +25,11 @@ struct SnapChannel
 struct SnapTask
 {
     sdk::SdkLibraries libraries;
-    QString kind;                          ///< "liveCapture" or "againCapture"; reported by SnapThread
+    QString kind;                          ///< passed to SnapThread::captured(); may be empty
     QString folder;                        ///< absolute path of the device's folder
     std::function<bool()> isDeviceCurrent; ///< whether sessionHandle() is still a session with the device
     std::function<qint64()> sessionHandle; ///< changes with a new login
-    std::function<QList<SnapChannel>()> channels; ///< the requested channels; may block
+    std::function<QList<SnapChannel>()> channels; ///< for SnapThread: the requested channels; may block
     int tries = snapTries;                        ///< for each channel
 };
 
@@ -37,7 +37,7 @@ enum class SnapProblem
 {
     None,
     NotConnected, ///< the channel has no camera
-    NoPicture,    ///< no frame was decoded in time
+    NoPicture,    ///< the stream was refused, no frame was decoded in time, or the snapshot was cancelled
     NotWritten,   ///< the file could not be written
 };
 

@@ -20,12 +20,13 @@ public:
     /// Cancels all tasks and waits for the thread.
     ~SnapThread() override;
 
-    /// Adds a task.
+    /// Adds a task and starts the thread, if it is not running.
     void take(SnapTask task);
 
 Q_SIGNALS:
-    /// Emitted once per channel, on the separate thread. `kind` is that of the task, `channel` is from 0.
-    /// `path` is a "file:///" URL, empty on failure. `message` is in the user's language, empty on success.
+    /// Emitted once per channel that was not cancelled, on the separate thread. `kind` is that of the task,
+    /// `channel` is from 0. `path` is a "file:///" URL, empty on failure. `message` is in the user's
+    /// language, empty on success.
     void captured(const QString &kind, int channel, const QString &path, const QString &message);
 
 protected:

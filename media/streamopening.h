@@ -29,7 +29,7 @@ public:
     struct Result
     {
         std::int64_t handle = 0; ///< of the stream, which the receiver closes; 0 on failure
-        std::uint32_t error = 0; ///< NetGetLastError() on failure
+        std::uint32_t error = 0; ///< NetGetLastError() on failure; 0 without a library
     };
 
     using Handler = std::function<void(const Result &result)>;

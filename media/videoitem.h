@@ -90,9 +90,10 @@ public:
     /// Why the current frame cannot be drawn, in the user's language; empty otherwise.
     [[nodiscard]] QString problemText() const;
 
-    /// "width" and "height" of the frame in pixels; "codec" and "audioCodec", empty if missing or unknown;
-    /// "rate" in frames per second and "bitRate" in kbit/s during the last second; "waiting": bytes that are
-    /// not decoded yet; "damages" of the stream and "skipped" late frames since the start.
+    /// "width" and "height" of the frame in pixels, 0 without a frame; "codec" and "audioCodec", empty if
+    /// missing or unknown; "rate" in frames per second and "bitRate" in kbit/s during the last second;
+    /// "waiting": bytes that are not decoded yet; "damages" of the stream and "skipped" late frames since the
+    /// start.
     Q_INVOKABLE [[nodiscard]] QVariantMap figures() const;
 
     // For the renderer.
@@ -133,7 +134,7 @@ public Q_SLOTS:
     /// window uses startInBackground(). Returns false on failure, with the reason in `text`.
     bool start();
 
-    /// Closes the stream and clears the item. No effect without a stream.
+    /// Closes the stream or cancels a start, and clears the item.
     void stop();
 
     void onSigVideoDataChanged(); ///< repaints

@@ -21,8 +21,9 @@
 /// detects missing frames. It can be started again after its end.
 ///
 /// Functions are called on the thread that created the object, and signals are emitted there, unless stated
-/// otherwise. A stream for snapshots may live on any thread. Without an event loop it supports start() only,
-/// and reports neither missing frames nor the end of the stream. Audio is played on the main thread only.
+/// otherwise. A stream for snapshots may live on any thread. Without an event loop, startInBackground() does
+/// not work, and neither missing frames nor the end of the stream are reported. Audio is played on the main
+/// thread only.
 class VideoStream : public QObject, public VideoDataObserver
 {
     Q_OBJECT
