@@ -10,7 +10,7 @@
 class ApacheServer
 {
 public:
-    /// Starts the server and waits until it accepts connections.
+    /// Starts the server and waits until it accepts connections, up to 20 s; see failure().
     ApacheServer(const QString &user, const QString &password);
     ~ApacheServer();
     ApacheServer(const ApacheServer &) = delete;
@@ -19,6 +19,7 @@ public:
     /// The reason why the server does not run; empty if it runs.
     [[nodiscard]] const QString &failure() const { return m_failure; }
 
+    /// `path` starts with "/", such as "/digest/text".
     [[nodiscard]] QString url(const QString &path) const;
 
     /// "status method URI" of each request, the oldest first.

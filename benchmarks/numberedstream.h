@@ -49,6 +49,7 @@ class FrameTimes
 public:
     using Time = NumberedStream::Time;
 
+    /// `begin` is the start of the stream, see NumberedStream::startOf().
     explicit FrameTimes(Time begin) : m_begin(begin) {}
 
     /// To be called for each displayed frame. A repeated frame is ignored.
@@ -57,9 +58,9 @@ public:
     /// To be called after the end of the stream.
     void end();
 
-    double longestGap = 0; ///< between two frames, in milliseconds
+    double longestGap = 0; ///< between two frames, or the last one and the end, in milliseconds
     double longestLag = 0; ///< from sending a frame to its display, in milliseconds
-    double lastLag = 0;    ///< the longest lag of the last four seconds
+    double lastLag = 0;    ///< the longest lag of the last four seconds, in milliseconds
     int shown = 0;         ///< number of displayed frames
 
 private:
