@@ -20,7 +20,7 @@ QtObject {
     readonly property int half: 4
     readonly property int pageMargin: 16
     readonly property int controlGap: 12
-    readonly property int signGap: 6  // between an icon and its text
+    readonly property int signGap: 6  // between an icon and its text; also the height of a strength step
     readonly property int controlHeight: 32
     readonly property int rowHeight: 34
     readonly property int tableHeadHeight: 36

@@ -22,7 +22,7 @@ public:
 
 Q_SIGNALS:
     void windowChanged();
-    void pressed();
+    void pressed(); ///< emitted also while a popup is open
 
 private:
     QPointer<QQuickWindow> m_window;

@@ -13,7 +13,8 @@
 /// The text form lists all columns in order, separated by spaces, such as "state name:180 -mac": "-" marks a
 /// hidden column, ":180" a width that the user has set, in pixels. The default arrangement has the empty
 /// text. Text is not trusted: unknown columns are ignored, an invalid width means the default width, and
-/// missing columns are inserted at their default position.
+/// missing columns are inserted after their predecessor in the default order. Text that hides all columns
+/// counts as empty.
 ///
 /// Main thread.
 class TableColumns : public QObject
@@ -48,16 +49,17 @@ public:
 
     Q_INVOKABLE [[nodiscard]] bool isShown(const QString &key) const;
 
-    /// False for a fixed column and for the last shown column that is not fixed.
+    /// False for a hidden or fixed column and for the last shown column that is not fixed.
     Q_INVOKABLE [[nodiscard]] bool canHide(const QString &key) const;
 
+    /// Hides a column only if canHide().
     Q_INVOKABLE void setShown(const QString &key, bool shown);
 
     /// Moves a shown column to `index` among the shown columns, at most to the position before the fixed
     /// ones.
     Q_INVOKABLE void move(const QString &key, int index);
 
-    /// Limits the width, in pixels, to leastWidth and mostWidth.
+    /// Sets the width in pixels, clamped to the range from leastWidth to mostWidth.
     Q_INVOKABLE void setWidth(const QString &key, int width);
 
     /// Restores the default arrangement.

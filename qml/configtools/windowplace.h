@@ -10,8 +10,8 @@
 #include <QtQml/qqmlregistration.h>
 
 /// Restores position and size of a window before it is shown, and returns the text to store at the end.
-/// Text form: "LEFT TOP WIDTH HEIGHT" in pixels, such as "120 80 1280 720 maximised", of the window while it
-/// is not maximised. Invalid text has no effect.
+/// Text form: "LEFT TOP WIDTH HEIGHT" in pixels of the window while it is not maximised, and " maximised" if
+/// it is, such as "120 80 1280 720 maximised". Invalid text has no effect.
 ///
 /// It is C++ because Qt does not keep the normal size of a maximised window, and because the stored position
 /// is compared with the current screens. Main thread.
@@ -25,11 +25,12 @@ class WindowPlace : public QObject, public QQmlParserStatus
 public:
     explicit WindowPlace(QObject *parent = nullptr);
 
+    /// The text to store; empty if the window has had no normal size.
     Q_INVOKABLE [[nodiscard]] QString text();
 
     /// Returns `wanted`, enlarged to `least` and limited to the size of the screen with the largest part of
-    /// it. If no screen shows enough of the title bar to drag it, the window is moved into the nearest
-    /// screen.
+    /// it (without such a part, of the nearest screen). If no screen shows enough of the title bar to drag
+    /// it, the window is moved into that screen.
     [[nodiscard]] static QRect fitted(QRect wanted, QSize least, const QList<QRect> &screens);
 
     void classBegin() override {}

@@ -4,7 +4,8 @@
 #include <QtQml/qqmlregistration.h>
 
 /// Accepts dates and times in a format of fixed width, by default "yyyy-MM-dd hh:mm:ss". Incomplete or
-/// invalid text of digits and separators is Intermediate, so that the user can edit single digits.
+/// invalid text of digits and separators is Intermediate, so that the user can edit single digits. Longer
+/// text is Invalid.
 class DateTimeValidator : public QValidator
 {
     Q_OBJECT

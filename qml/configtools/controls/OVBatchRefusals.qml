@@ -1,4 +1,4 @@
-// Reports on the visible page why a batch is refused.
+// Passes the reason of a refused batch to the page, while the page is visible.
 import QtQml
 import configtools
 
@@ -6,8 +6,8 @@ QtObject {
     id: root
 
     required property Batches batches
-    required property bool shown
-    signal notify(string message, int severity)
+    required property bool shown  // the page is visible
+    signal notify(string message, int severity)  // severity: of OVToast
 
     readonly property Connections reports: Connections {
         enabled: root.shown

@@ -1,4 +1,4 @@
-// A progress bar. Without a known end a segment moves along it.
+// A progress bar. While it is `indeterminate`, a segment moves along the bar.
 import QtQuick
 import QtQuick.Templates as T
 import configtools

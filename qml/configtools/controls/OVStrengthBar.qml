@@ -1,11 +1,11 @@
-// The strength of a password in three steps.
+// The strength of a password in three steps, one of which is lit.
 import QtQuick
 import configtools
 
 Row {
     id: root
 
-    required property int grade  // 0: none, 1 (weak) to 3 (strong)
+    required property int grade  // 1 (weak) to 3 (strong); 0: empty or too weak, no step is lit
     readonly property var steps: [
         {word: qsTr("弱"), lit: Theme.colours.passwordWeak},
         {word: qsTr("中"), lit: Theme.colours.passwordMedium},
