@@ -1,5 +1,5 @@
 // Runs blocking work after the window has shown the busy state. run() starts the work two frames later, as the next
-// frame may already be in progress. A later call replaces waiting work.
+// frame may already be in progress, but after a second at the latest. A later call replaces waiting work.
 import QtQuick
 
 Item {

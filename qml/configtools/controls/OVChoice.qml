@@ -6,7 +6,7 @@ import configtools
 OVComboBox {
     id: root
 
-    property int chosen: -1
+    property int chosen: -1  // index; -1: none
     property var source: null  // on a change the box shows `chosen` again
     signal indexRequested(int index)
 

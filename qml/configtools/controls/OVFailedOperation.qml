@@ -1,4 +1,4 @@
-// Chooses the operation whose failed marks are shown, if several have marks.
+// Chooses the operation whose failed marks are shown, or all operations.
 import QtQuick
 import configtools
 

@@ -1,5 +1,5 @@
 // A slider for integers, with its number. The value is set from outside. committed() is emitted once, on release or
-// Theme.sliderRest after the last step.
+// Theme.sliderRest after the last step, if the number differs from `value`.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -13,6 +13,7 @@ Item {
     property string accessibleName
     property bool unknown: false  // the value is unknown
     property var source: null     // on a change the slider shows `value` again
+    /// The user does not move the slider: it shows `value`.
     readonly property bool rested: !slider.pressed && !rest.running
     signal committed(int value)
 

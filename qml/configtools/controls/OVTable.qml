@@ -1,4 +1,4 @@
-// A table. Columns are objects with "key" (a role of the model), "title", "width" and optionally:
+// A table. Columns are objects with "key" (a role of the model), "title", "width" and optionally (widths in pixels):
 // - "minimumWidth": minimum when the user resizes the column
 // - "stretch": share of spare room, up to "mostWidth"
 // - "leastWidth": minimum if room is short; columns with "stretch" shrink first
@@ -21,7 +21,7 @@ FocusScope {
     property bool arrangeable: false
     property alias columnsText: arrangement.text  // the user's arrangement, see TableColumns
     property bool checkable: true
-    property int checkState: Qt.Unchecked
+    property int checkState: Qt.Unchecked  // of all rows, in the head
     property string sortKey
     property int sortOrder: Qt.AscendingOrder
     property alias currentIndex: body.currentIndex
@@ -31,7 +31,7 @@ FocusScope {
     signal allToggled(bool checked)
     signal rangeToggled(int first, int last, bool checked)
     signal copyRequested(int row)
-    signal rowActivated(int row)
+    signal rowActivated(int row)  // by a double click or Enter
     signal menuRequested(int row, var position)  // see OVEntryMenu.openAt()
 
     /// Makes a row current and scrolls to it.

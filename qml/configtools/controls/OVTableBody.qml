@@ -26,7 +26,7 @@ ListView {
     signal rowActivated(int row)
     signal menuRequested(int row, var position)
 
-    /// Makes `to` the current row. With `extend`, ticks the rows from the start of the extension.
+    /// Makes `to` the current row. With `extend`, also ticks the rows from the last one that became current without it.
     function move(to, extend) {
         if (count === 0)
             return;

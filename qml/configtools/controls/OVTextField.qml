@@ -19,11 +19,11 @@ FocusScope {
     property string iconName
     property bool clearable: false
     property bool secret: false
-    /// Removed from pasted text: line breaks would be invisible in a single line.
+    /// Removed from the text, for example after pasting: line breaks would be invisible in a single line.
     property var removedCharacters: /[\r\n\t]/g
     /// function(event) that receives each key before the field and accepts those that it handles
     property var keyFilter: null
-    signal edited
+    signal edited  // by the user
     signal accepted
     signal tabPressed(var event)  // Tab or Shift+Tab; the receiver accepts the event to override Qt's order
 

@@ -1,5 +1,6 @@
-// Short messages that need no response. The newest one is shown, with the number of waiting ones; each is shown for its
-// full duration. Errors stay longer; a click removes a message. They are shown where no tabs, tool bars, rows and buttons
+// Short messages that need no response. The newest one is shown, with the number of waiting ones. The time of a message
+// runs only while it is shown. Of more than `maximumCount` messages the oldest ones are dropped. Errors and refusals
+// stay longer; a click removes a message. They are shown where no tabs, tool bars, rows and buttons
 // are, in front of dialogs. A dialog shows its own messages itself.
 import QtQuick
 import QtQuick.Templates as T

@@ -1,5 +1,5 @@
-// Devices in groups, each with a check box and its last result. `rows` are DeviceTreeRows. If `choosing`, a click or
-// Enter chooses a device.
+// Devices in groups, each with a check box and its last result. If `choosing`, a click or Enter chooses a device;
+// otherwise Enter requests its details.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -11,7 +11,7 @@ ListView {
     required property var describer  // object with resultText(result, name)
     property string busyDevice          // title of the device that is processed now
     property bool choosing: false       // a device can be chosen
-    property string chosenDevice
+    property string chosenDevice        // title of the chosen device
     property bool byPointer: false      // focused by a click: no ring
     property real keptY: 0
     // The row of the keyboard. `currentIndex` of the view stays -1: changing it scrolls the view, which would move the

@@ -10,14 +10,14 @@ Rectangle {
     required property string title
     required property string label  // shown text of the title
     required property string detail
-    required property int tick
-    required property int result
+    required property int tick  // a Qt::CheckState
+    required property int result  // of the last batch, OVTreeModel.NoResult for none
     required property bool isGroup
     required property bool isOpen
     required property int deviceCount
-    required property string failure
+    required property string failure  // see OVFailedSign
     required property bool onlyNotDone
-    property var describer
+    property var describer  // see OVTree
     property bool current: false
     property bool busy: false
     property bool choosing: false

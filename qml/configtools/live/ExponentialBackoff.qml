@@ -1,4 +1,4 @@
-// Delay before a retry. It grows with each consecutive failure.
+// Delay before a retry. It grows with each consecutive failure, up to 30 s.
 import QtQuick
 
 Timer {

@@ -29,10 +29,10 @@ Item {
     readonly property bool unreachable: result === 5
 
     property double lastResponse: 0  // time of the last response, in ms
-    readonly property int responseValidity: 1000
+    readonly property int responseValidity: 1000  // ms after a response without a check
     signal renewed                   // a new session was opened
     signal checked(bool isReachable)    // result of check()
-    signal snapshotTaken(int channel, string picture, string message)  // result of takeSnapshot()
+    signal snapshotTaken(int channel, string picture, string message)  // of takeSnapshot(): URL or error
 
     function account() {
         return LoginMemory.accountFor(ipport, deviceFactory);
@@ -67,7 +67,8 @@ Item {
         lastResponse = 0;
     }
 
-    /// Checks whether the device is reachable. Emits checked(), immediately if it responded within `responseValidity`.
+    /// Checks whether the device is reachable. Emits checked(): immediately without a login and if it responded within
+    /// `responseValidity`.
     function check() {
         if (checking)
             return;

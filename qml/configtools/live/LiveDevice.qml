@@ -17,7 +17,7 @@ Item {
     readonly property string failure: result !== 0 ? LoginMemory.failureText(result, ipport, deviceFactory) : ""
     readonly property alias waitingForRetry: backoff.running  // waits for the next login attempt
     readonly property alias retrySeconds: backoff.secondsLeft
-    property var channels: []          // maps with "channel" (from 0), "name" and "connected"
+    property var channels: []          // maps with "channel" (from 0), "name" and "connected" (bool)
     signal opened                      // logged in; the channels are known
     signal lost                        // another device took over the session
     signal renewed                     // a new session with the same device was opened
@@ -32,7 +32,7 @@ Item {
     readonly property bool unreachable: result === 5
 
     property double lastResponse: 0  // time of the last response, in ms
-    readonly property int responseValidity: 1000
+    readonly property int responseValidity: 1000  // ms after a response without a check
 
     function sessionDevice() {
         return deviceFactory.getConfigData("dh", "sessionDevice");

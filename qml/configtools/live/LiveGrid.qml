@@ -27,8 +27,8 @@ Item {
     signal failed  // a stream of the first device failed
     signal frameReceived
 
-    /// Sets the channels: maps with "ipport", "channel", "name", "connected" and "companion" (null for the first
-    /// device). The cells keep their channels.
+    /// Sets the channels: maps with "ipport", "channel", "name", "connected", "caption" (text in the view) and
+    /// "companion" (null for the first device). The cells keep their channels.
     function adopt(channels) {
         const nameOf = entry => entry.ipport + "/" + entry.channel;
         const indexOf = {};
@@ -116,7 +116,7 @@ Item {
     readonly property real cellWidth: Math.floor((width - (columns - 1) * Theme.half) / columns)
     readonly property real cellHeight: Math.floor((height - (columns - 1) * Theme.half) / columns)
 
-    /// Shows the first channels of a new device.
+    /// Shows the first channels of a new device: one, or up to four.
     function begin() {
         cellCount = channels.length <= 1 ? 1 : 4;
         showPage(0);

@@ -11,7 +11,9 @@ Item {
     property string ipport            // of the device
     property var companion: null      // LiveCompanion of an added device; null for the first device
     property string folder            // subfolder of the snapshots folder
-    property var results: []          // maps with "channel", "name", "state", "picture" (path), "message", "revision"
+    /// Maps with "channel" (from 0), "name", "state" (a State), "picture" (URL, "" for none), "message" (error) and
+    /// "revision" (number of results; undefined before the first).
+    property var results: []
     property int running: 0           // channels without a result
     readonly property bool busy: running > 0
     readonly property int done: results.filter(entry => entry.state !== Snapshots.Waiting

@@ -8,8 +8,8 @@ DeviceWork {
     /// Result codes of a login that are handled here.
     enum Result { Added = 0, NoSuchAccount = 1, WrongPassword = 2, NotSupported = 12, AlreadyListed = 13 }
 
-    /// Error text for the result of addDevice(). "" for results without an error message: added, login not supported,
-    /// no local port.
+    /// Error text for the result of addDevice(). "" for a device that was added or supports no login, and for an outcome
+    /// with its own text.
     function errorText(outcome) {
         return outcome.result === DeviceAdding.Added || outcome.result === DeviceAdding.NotSupported
             || outcome.text !== "" ? "" : deviceFactory.getErrorName(outcome.result);

@@ -9,7 +9,8 @@ QtObject {
     property string folder: Theme.favPath
     readonly property CAuthor author: CAuthor {}
 
-    /// Returns the favourites: a list of texts by file name.
+    /// Returns the favourites by file name. Each is a list of texts: mode, address, port, account, encrypted password,
+    /// note.
     function list() {
         return author.readJsonFilesFromFolder(folder);
     }

@@ -37,7 +37,7 @@ QtObject {
         };
     }
 
-    /// Error text of a login, with the address where it is not shown nearby.
+    /// Error text of a login. That of a device without a response contains its address.
     function failureText(result, ipport, deviceFactory) {
         const networkFailure = 5;
         return result === networkFailure ? qsTr("%1 没有应答").arg(ipport) : deviceFactory.getErrorName(result);
@@ -47,7 +47,7 @@ QtObject {
         return wrongTimes[ipport] ?? 0;
     }
 
-    /// The account to log in to a device with.
+    /// The account to log in to a device with: "user", "password" and "isForAll" (entered for all later devices).
     function accountFor(ipport, deviceFactory) {
         const chosen = deviceFactory.accountOf("dh", ipport);
         return {user: chosen.account, password: chosen.password, isForAll: chosen.isFollowing ?? false};

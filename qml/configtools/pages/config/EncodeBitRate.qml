@@ -5,7 +5,7 @@ import configtools
 Row {
     id: root
 
-    required property var setting
+    required property var setting  // map of EncodeForm: "choices", "index", "value" (kbit/s) and "usable"
     property string namePrefix
     property string accessibleName
     property bool asked: false  // custom is chosen, the number is not entered yet
@@ -13,7 +13,7 @@ Row {
     readonly property int last: setting.choices.length - 1
     readonly property int largest: 100000
     readonly property bool wrong: field.text !== "" && Number(field.text) < 1
-    signal chosen(string bitRate)
+    signal chosen(string bitRate)  // kbit/s
 
     function finish() {
         if (!custom || !visible)

@@ -8,7 +8,7 @@ Item {
     required property var session  // a ConfigSession
     required property var deviceFactory
     property bool read: false  // the form shows the current device
-    property int result: 0     // of the last read: 0, a constant below, or an error code of the device
+    property int result: 0     // of the last read: 0, a constant below, or an error of the device library
     readonly property int configurationUnreadable: 1
     readonly property int abilitiesUnknown: 10
     readonly property bool failed: isFailure(result)

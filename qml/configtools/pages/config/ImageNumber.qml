@@ -7,7 +7,7 @@ OVNumberField {
 
     required property ImageGroup group
     required property string subKey
-    property int least: 0
+    property int least: 0  // smaller numbers are replaced by it
     property int current: group.number(subKey)
     property bool wrong: false  // inconsistent with related numbers: not written yet
     signal finished(int number)

@@ -8,7 +8,7 @@ Item {
     required property var session  // a ConfigSession
     required property var deviceFactory
     property bool read: false  // the form shows the current device
-    property int refusal: 0  // error code of the last change
+    property int refusal: 0  // error code of the last change, 0 for none
     property var connectedChannels: []  // whether each channel has a camera
     readonly property alias form: cameraForm
 

@@ -6,13 +6,13 @@ QtObject {
     id: root
 
     required property Batches batches
-    property Batch batch: null
+    property Batch batch: null  // of the last command, null before
     property string command
     readonly property BatchReport report: batch?.report ?? none
     readonly property bool running: batch?.running ?? false
     readonly property string device: batch?.device ?? ""
-    signal resulted(var devices, var results)
-    signal retried
+    signal resulted(var devices, var results)  // see Batch
+    signal retried  // `batch` is now the retry
     signal finished
 
     /// Returns false if the batch is refused.
