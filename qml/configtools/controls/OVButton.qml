@@ -8,8 +8,8 @@ OVAbstractButton {
     enum Kind { Outlined, Primary, Danger, DangerPrimary }
 
     property int kind: OVButton.Outlined
-    property bool opensMenu: false
-    property bool busy: false
+    property bool opensMenu: false  // shows an arrow
+    property bool busy: false  // a spinner replaces the icon
     property string iconName
 
     readonly property bool filled: kind === OVButton.Primary || kind === OVButton.DangerPrimary

@@ -29,8 +29,8 @@ T.Popup {
     /// Maximum height of the content, also while a notice is above the buttons.
     readonly property int contentRoom: mostHeight - head.height - strip.height - foot.height - 2 * contentMargin
     default property alias content: body.data
-    signal accepted
-    signal rejected
+    signal accepted  // the owner closes the dialog
+    signal rejected  // the dialog has closed
 
     // The dialog ignores input while it closes: a second click must not count.
     property bool leaving: false

@@ -5,7 +5,7 @@ import configtools
 OVIcon {
     id: root
 
-    required property string failure  // empty for an unmarked device
+    required property string failure  // batches and reasons, one per line; empty for an unmarked device
 
     property bool onlyNotDone: false  // no batch failed; some did not reach the device
 

@@ -7,7 +7,7 @@ OVAbstractButton {
 
     required property string iconName
     property int iconSize: Theme.iconSize
-    property bool turning: false
+    property bool turning: false  // the icon turns
     property color iconColor: Theme.colours.sub
     property color iconHoverColor: iconColor
     property color iconDisabledColor: Theme.colours.disabledText

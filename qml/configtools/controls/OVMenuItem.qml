@@ -7,7 +7,7 @@ T.MenuItem {
     id: root
 
     property string iconName
-    property bool marksChoice: false
+    property bool marksChoice: false  // the entry is the current choice: shown in colour, with a check mark
     property bool ticks: false  // the entry has a check mark or room for one
     property bool startsGroup: false  // first of a group: a line is drawn above it
 

@@ -6,7 +6,7 @@ OVDialog {
     id: root
 
     required property var deviceFactory
-    /// Emitted once for each ask(). Two empty texts: the user has cancelled.
+    /// Emitted once for each ask(). Two empty texts: the user has cancelled, or the device has no row any more.
     signal answered(string account, string password)
 
     property string mac

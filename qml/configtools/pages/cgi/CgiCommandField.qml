@@ -1,4 +1,5 @@
-// A field for a CGI command. While focused it suggests earlier commands; the star adds the command to the favourites.
+// A field for a CGI command. While focused it suggests earlier commands. The star adds the command to the favourites or
+// removes it from them.
 import QtQuick
 import configtools
 
@@ -10,7 +11,7 @@ FocusScope {
     property alias errorText: field.errorText
     readonly property bool starred: commands.isFavourite(field.text.trim())
     property var suggestions: []
-    property int marked: -1
+    property int marked: -1  // index of the selected suggestion, -1 for none
     property real topInWindow: 0  // top edge in the window when suggestions were last shown
     signal edited
     signal accepted
