@@ -6,7 +6,7 @@
 
 namespace fuzz {
 
-/// Processes a list as far as possible without a device. Ends the process if a limit was exceeded.
+/// Processes a list as far as possible without a device. Ends the process if the list violates a property.
 inline void useList(const DeviceListContents &contents)
 {
     if (!contents.refusal.isEmpty() && !contents.lines.empty())
