@@ -51,7 +51,8 @@ public:
         return error != 0 || unpack(name, text, record) ? error : unusableText;
     }
 
-    /// Parses a text into `record`. Returns false, and leaves the record unchanged, on failure.
+    /// Parses a text into `record`. Fields that the text does not contain keep their values. Returns false,
+    /// and leaves the record unchanged, on failure.
     template<typename Record>
     [[nodiscard]] bool unpack(const char *name, const ConfigText &text, Record &record) const
     {

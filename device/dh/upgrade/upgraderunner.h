@@ -84,12 +84,12 @@ private:
     const UpgradeLimits m_limits;
     const std::shared_ptr<BatchEngine> m_engine;
     const Watchers m_watchers;
-    mutable std::mutex m_mutex;
+    mutable std::mutex m_mutex; ///< guards the round, its states and numbers
     std::condition_variable m_finished;
     std::stop_source m_end;
-    std::size_t m_unfinished = 0;
-    int m_reporting = 0; ///< threads that are reporting the end of an upgrade
-    std::mutex m_submitting;
+    std::size_t m_unfinished = 0;                     ///< number of waiting and running upgrades
+    int m_reporting = 0;                              ///< threads that are reporting the end of an upgrade
+    std::mutex m_submitting;                          ///< held while an upgrade is passed to the engine
     int m_batch = 0;                                  ///< number in the engine; guarded by m_submitting
     QHash<QString, std::shared_ptr<Upgrade>> m_round; ///< by key
     qsizetype m_percentSum = 0;                       ///< sum of shareOf() of the round

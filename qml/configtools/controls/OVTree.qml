@@ -9,9 +9,9 @@ ListView {
 
     required property DeviceTreeRows rows
     required property var describer  // object with resultText(result, name)
-    property string busyDevice          // title of the device that is processed now
+    property string busyDevice          // address and port of the device that is processed now
     property bool choosing: false       // a device can be chosen
-    property string chosenDevice        // title of the chosen device
+    property string chosenDevice        // address and port
     property bool byPointer: false      // focused by a click: no ring
     property real keptY: 0
     // The row of the keyboard. `currentIndex` of the view stays -1: changing it scrolls the view, which would move the

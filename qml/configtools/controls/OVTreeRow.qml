@@ -7,7 +7,7 @@ Rectangle {
 
     required property int index
     required property string identity
-    required property string title
+    required property string title  // type of a group, address and port of a device
     required property string label  // shown text of the title
     required property string detail
     required property int tick  // a Qt::CheckState
