@@ -28,8 +28,8 @@ public:
     /// running. Does nothing while a list is being read.
     Q_INVOKABLE void importList(const QString &title, const QString &path);
 
-    /// The failed lines of an import or of its retry, as maps made by importFailure(). Valid for the latest
-    /// list only.
+    /// The lines of an import or of its retry that have not succeeded, as maps made by importFailure(). Empty
+    /// without a batch. Valid for the latest list only.
     Q_INVOKABLE [[nodiscard]] QVariantList importFailures(Batch *batch) const;
 
     /// Adds devices. `devices` are maps of "identity" (used in tried()), "mode" (0 by address, 1 by P2P ID),

@@ -10,12 +10,13 @@
 #include <optional>
 #include <utility>
 
-/// Computes the new addresses of a batch: the k-th checked device gets the start address plus k as a 32-bit
-/// number, or all devices get the start address, or each device uses DHCP. An issue is the problem of an
-/// address; it is information only. Lives on the main thread.
+/// Computes the new addresses of a batch. The first checked device gets the start address, and each further
+/// one the next higher address; or all devices get the start address; or each device uses DHCP. Addresses and
+/// mask are IPv4 texts. Lives on the main thread.
 ///
-/// "action" of a row is its new address, empty while the start address is invalid. A row has the additional
-/// key "issue" (an Issue). Collisions set the row's conflict role.
+/// "action" of a row is its new address, or "DHCP". It is empty if the row is unchecked, the device is
+/// skipped or the start address is invalid. The additional key "issue" is an Issue: NotChanged skips the
+/// device, the others are warnings. TakenByOther and TakenInBatch set the row's conflict role.
 class AddressPlan : public BatchPreview
 {
     Q_OBJECT
@@ -26,7 +27,7 @@ class AddressPlan : public BatchPreview
     Q_PROPERTY(bool sameAddress READ sameAddress WRITE setSameAddress NOTIFY judged)
     Q_PROPERTY(bool dhcp READ dhcp WRITE setDhcp NOTIFY judged)
 public:
-    /// The problem of a new address.
+    /// The problem of a new address, the first that applies. With DHCP only NotChanged is possible.
     enum Issue
     {
         NoIssue,
@@ -34,8 +35,8 @@ public:
         TakenByOther,    ///< in use by a device that keeps its address
         TakenInBatch,    ///< planned for several devices of the batch
         IsGateway,       ///< equal to the gateway
-        OutsideSubnet,   ///< not in the subnet of the start address
-        NoDeviceAddress, ///< network or broadcast address of the subnet
+        OutsideSubnet,   ///< not in the subnet of the start address; only with a valid mask
+        NoDeviceAddress, ///< network or broadcast address of the subnet; only with a valid mask
     };
     Q_ENUM(Issue)
 
@@ -56,15 +57,15 @@ public:
     /// gateway is invalid.
     [[nodiscard]] bool isGatewayOutside() const;
 
-    /// The new address of a row. Empty if `row` is out of range or not checked, or the start address is
-    /// invalid.
+    /// The address of a row without DHCP, also of a device that will be skipped. Empty if `row` is out of
+    /// range or not checked, or the start address is invalid.
     Q_INVOKABLE [[nodiscard]] QString addressOf(int row) const;
 
-    /// The new addresses of the checked rows, in the order of checkedIdentities().
+    /// addressOf() for the checked rows, in the order of checkedIdentities().
     Q_INVOKABLE [[nodiscard]] QStringList addresses() const;
 
-    /// The device that keeps the address planned for this row: model and MAC, or address and port if it
-    /// reports neither. Empty if there is none.
+    /// The device that keeps the address of addressOf(): model and MAC, or address and port if it reports
+    /// neither. Empty if there is none.
     Q_INVOKABLE [[nodiscard]] QString otherDeviceAt(int row) const;
 
 protected:
@@ -92,6 +93,6 @@ private:
     bool m_dhcp = false;
 
     QList<std::optional<std::uint32_t>> m_numbers; ///< new addresses by row; nullopt if not checked
-    QHash<std::uint32_t, int> m_timesGiven;        ///< number of devices by new address
+    QHash<std::uint32_t, int> m_timesGiven;        ///< number of devices (not skipped) by new address
     QHash<std::uint32_t, QString> m_taken;         ///< devices that keep their addresses, by address
 };

@@ -13,7 +13,7 @@
 #include <mutex>
 
 /// One batch, for QML: its progress and the result of each device. Reports of the engine's threads arrive
-/// here in groups, at most one for each painted frame.
+/// here in groups, at most one every 16 ms.
 ///
 /// Lives on the main thread; created and owned by Batches.
 class Batch : public QObject
@@ -60,10 +60,11 @@ public:
     /// The number of devices for each kind of result, in the user's language.
     [[nodiscard]] QString summary() const;
     [[nodiscard]] int total() const { return static_cast<int>(m_entries.size()); }
+    /// The number of devices with an outcome, also a failed one.
     [[nodiscard]] int done() const { return m_done; }
-    /// 0 to 1: the finished devices, or the value of noteProgress() if that is greater.
+    /// 0 to 1: the share of done() in total(), or the value of noteProgress() if that is greater.
     [[nodiscard]] double progress() const;
-    /// Sets the progress (0 to 1) of all devices together. For batches with long steps.
+    /// Sets the progress (0 to 1) of all devices together, for batches with long steps.
     void noteProgress(double progress);
 
     /// Address and port of a device with a running step, or its name if it has no address; empty if no step
@@ -79,19 +80,22 @@ public:
     /// The number of refused passwords in a row after which the batch is paused; 0: never.
     [[nodiscard]] int refusalsInARow() const { return m_plan.policy.wrongPasswordsInARow; }
 
-    /// The accounts that devices refused, as one line; empty if the plan has no accountOf.
+    /// The names of the accounts that devices refused, as one line; empty if there are none or if the plan
+    /// has no accountOf.
     [[nodiscard]] QString refusedAccounts() const;
 
     /// For a retry: the number of failed or not done devices of the earlier batches that the retry left out.
     [[nodiscard]] int failedBefore() const;
 
-    /// Estimated remaining seconds. -1 in the first two seconds, without progress, and when the estimate has
-    /// passed without further progress.
+    /// Estimated remaining seconds. -1 if the batch does not run, in its first two seconds, without progress,
+    /// and when the estimate has passed without further progress.
     [[nodiscard]] int secondsLeft() const;
     [[nodiscard]] BatchReport *report() { return &m_report; }
     /// Whether Batches::putAddressesBack() can revert the batch.
     [[nodiscard]] bool changesAddresses() const { return !m_plan.addressesBefore.isEmpty(); }
+    /// Time of start().
     [[nodiscard]] const QDateTime &began() const { return m_began; }
+    /// Invalid until the end of the batch.
     [[nodiscard]] const QDateTime &ended() const { return m_ended; }
     [[nodiscard]] const QList<Entry> &entries() const { return m_entries; }
     [[nodiscard]] const BatchPlan &plan() const { return m_plan; }
@@ -109,41 +113,48 @@ public:
     /// Continues a paused batch.
     Q_INVOKABLE void resume();
 
-    /// Sets the devices that wait for a further step to NotDone. `title` is the name of that step.
+    /// Sets the devices that wait for a further step to NotDone. `title` is the name of that step. Does
+    /// nothing if no device waits.
     Q_INVOKABLE void cancelWaiting(const QString &title);
 
     /// Sets the batch that this batch retries.
     void setRetryOf(Batch *earlier);
 
-    /// Accounts of devices may have changed, which can make a refused device retryable. Emits changed().
+    /// Accounts of devices may have changed, which can make a refused device retryable. Emits changed() if
+    /// the plan has accountOf.
     void noteAccounts();
 
-    /// The devices for a retry: those of this batch and of the batches that it retries.
+    /// The devices of this batch and of the batches that it retries for which a retry may succeed now. Empty
+    /// after releaseSteps().
     [[nodiscard]] QList<BatchDevice> devicesToRetry() const;
 
-    /// Identities of the devices that failed or were not done, including those of the batches that this one
+    /// Identities of the devices that failed or have no result, including those of the batches that this one
     /// retries. Pages check their rows by them.
     Q_INVOKABLE [[nodiscard]] QStringList failedIdentities() const;
 
-    /// Identities of the devices that refused their account, and of the devices not yet started that have the
-    /// same account. Empty if no retry with another account is possible.
+    /// Identities of the devices of this batch that refused their account, and of the devices without an
+    /// outcome whose account has been refused by another device. Empty if no retry with another account is
+    /// possible.
     Q_INVOKABLE [[nodiscard]] QStringList devicesOfRefusedAccounts() const;
 
     /// Names of the devices of devicesToRetry().
     Q_INVOKABLE [[nodiscard]] QStringList retryableDevices() const;
 
-    /// Names of the devices of this batch that have not succeeded.
+    /// Names of the devices of this batch that have not succeeded (failed, skipped, waiting or without a
+    /// result).
     Q_INVOKABLE [[nodiscard]] QStringList failedDevices() const;
 
     /// Why no device of the batch can be retried, in the user's language; empty if one can.
     [[nodiscard]] QString retryRefusal() const;
 
-    /// Whether the batch has ended and the device with this identity can be retried.
+    /// Whether the batch has ended and its device with this identity can be retried. False for devices of the
+    /// batches that it retries.
     Q_INVOKABLE [[nodiscard]] bool canRetry(const QString &identity) const;
 
     /// The text of a device's outcome, from this batch or from the one that it retries; empty if there is
-    /// none.
+    /// none. `device` is the device's name.
     Q_INVOKABLE [[nodiscard]] QString textOf(const QString &device) const;
+    /// Same for several devices, in the same order.
     Q_INVOKABLE [[nodiscard]] QStringList textsOf(const QStringList &devices) const;
 
     /// Maps of "device" and "words" for those of the devices that are in this batch or in the one that it
@@ -154,22 +165,23 @@ public:
     /// ones.
     Q_INVOKABLE [[nodiscard]] QStringList succeededDevices(int known) const;
 
-    /// The number of devices that succeeded with a text: they did not accept everything.
+    /// The number of devices that succeeded with a text. For settings this means that the device did not
+    /// accept all of them; for addresses and names the text is the new value.
     Q_INVOKABLE [[nodiscard]] int partlyDone() const;
 
 Q_SIGNALS:
     void changed();
 
-    /// Names of devices and their results, in the order of completion. At the end of the batch also the
-    /// devices that were not done.
+    /// Names of devices and their results, in the order of completion. At the end of the batch and in
+    /// cancelWaiting() it reports the devices that were not done; a device can be reported twice then.
     void resulted(const QStringList &devices, const QList<int> &results);
 
-    void finished(); ///< emitted once, as the last signal
+    void finished(); ///< emitted once, after the last result
 
 private:
     class Mailbox;
 
-    /// The last increase of the progress.
+    /// The progress after its last increase, and the time of that.
     struct Advance
     {
         double progress = 0;

@@ -27,13 +27,14 @@ struct BatchItem
 /// Limits of a batch.
 struct BatchPolicy
 {
-    int atOnce = 8;                        ///< maximum number of steps in parallel, 1 or more
-    std::chrono::milliseconds deadline{0}; ///< of each step; 0: none
+    int atOnce = 8;                        ///< maximum number of steps in parallel; at least 1 is used
+    std::chrono::milliseconds deadline{0}; ///< of each step, see StepControl::noteProgress(); 0: none
     int wrongPasswordsInARow = 0;          ///< refused passwords in a row that pause the batch; 0: never
 };
 
-/// Receives the events of a batch. Called on the engine's threads without a lock. Calls for one batch may
-/// come from several threads in parallel, except for ended(), which is the last call.
+/// Receives the events of a batch, on the engine's threads and without a lock. Calls for one batch may be
+/// made on several threads in parallel, except for ended(), which is the last call. ended() is also called on
+/// the thread of the caller of BatchEngine::start(), stop() or requestEnd(), during that call.
 class BatchWatcher
 {
 public:
@@ -41,12 +42,14 @@ public:
 
     /// `index` is the index of the item in the batch.
     virtual void started(std::size_t index) = 0;
+
+    /// Called without started() if the step was not run: it was stopped before, or got an earlier refusal.
     virtual void finished(std::size_t index, const StepOutcome &outcome) = 0;
 
     /// The batch is paused: too many devices in a row refused the password. Running steps continue.
     virtual void paused() = 0;
 
-    /// Items without a finished() call were not run.
+    /// No step of the batch runs any more. Items without a finished() call were not run.
     virtual void ended() = 0;
 };
 
@@ -69,18 +72,19 @@ public:
     /// Milliseconds of the deadlines' clock; without one, of the system clock.
     [[nodiscard]] std::int64_t now() const;
 
-    /// Starts a batch. Returns its number, 0 if the engine has ended or no thread can be created. An empty
-    /// batch ends during this call. The engine keeps the watcher until ended() has returned.
+    /// Starts a batch. Returns its number (1 or more), or 0 without a call of the watcher if the engine has
+    /// ended or no thread can be created. Steps may start before this call returns. An empty batch ends
+    /// during this call. The engine keeps the watcher until ended() has returned.
     int start(std::vector<BatchItem> items, const BatchPolicy &policy, std::shared_ptr<BatchWatcher> watcher);
 
     /// Appends a step to a running batch. Returns false if the batch has ended or is stopped.
     bool append(int number, BatchItem item);
 
-    /// Stops a batch: destroys the steps that have not started, and requests the running steps to end. Does
-    /// nothing if the batch has ended.
+    /// Stops a batch: destroys the steps that have not started, and requests the running steps to end, whose
+    /// stop callbacks run during this call. Does nothing if the batch has ended.
     void stop(int number);
 
-    /// Continues a paused batch.
+    /// Continues a paused batch, and counts the refused passwords from 0 again.
     void resume(int number);
 
     /// Reservation of a device: no step of the device starts while it exists. The engine must outlive it.
@@ -101,7 +105,8 @@ public:
     };
 
     /// Reserves a device for work outside a batch. Blocks until no step of the device runs. Returns an empty
-    /// Reservation if `stop` is requested or the engine ends. A device may have several reservations.
+    /// Reservation if the engine ends, or if `stop` is requested while a step of the device runs. A free
+    /// device is reserved even if `stop` is requested. A device may have several reservations.
     [[nodiscard]] Reservation reserve(const QString &device, const std::stop_token &stop);
 
     /// Stops all batches and refuses new ones. Does not wait for running steps.

@@ -23,7 +23,7 @@ class Batches : public QObject
     Q_PROPERTY(bool running READ isRunning NOTIFY runningChanged)
     Q_PROPERTY(FailedMarks *failedMarks READ failedMarks CONSTANT)
 public:
-    /// Maximum number of batches that are kept, including the running one.
+    /// Maximum number of batches that are kept, including the running one. The oldest one is deleted.
     static constexpr int maximumKept = 50;
 
     /// `factory` and `engine` must outlive this object. `atOnce` returns the maximum number of devices in
@@ -37,6 +37,7 @@ public:
     /// The latest batch; null before the first.
     [[nodiscard]] Batch *current() const { return m_kept.isEmpty() ? nullptr : m_kept.constLast(); }
     [[nodiscard]] bool isRunning() const { return current() && current()->isRunning(); }
+    /// Oldest first.
     [[nodiscard]] const QList<Batch *> &kept() const { return m_kept; }
 
     /// Marks of the devices that failed, or were not reached, in the batches of the session.
@@ -45,7 +46,8 @@ public:
     /// Keeps the rows of marked devices in `store` through searches.
     void keepFailedIn(const std::shared_ptr<DeviceStore> &store);
 
-    // Each function below starts a batch and returns it, or null after refused(). QML does not own the batch.
+    // The functions below that return a batch have started it. They return null after refused(), or without
+    // it if there is no device to work on. QML does not own the batch.
 
     /// Runs a command of CDeviceBase::systemConfig() for devices by address and port. "setTimeByPC" sends
     /// each device the time of its own request.
@@ -61,9 +63,10 @@ public:
     Q_INVOKABLE Batch *initialiseDevices(const QString &family, const QString &title, const QStringList &macs,
                                          const QString &account, const QString &password);
 
-    /// Changes the addresses of devices; `addresses` is parallel to `macs`, and is ignored with `dhcp`. One
-    /// device after another in list order, but a device that gets the address of another one comes after it.
-    /// Refused if devices exchange addresses in a circle.
+    /// Changes the addresses of devices, one after another in the order of `macs`, but a device that gets the
+    /// address of another one follows it. `addresses` is parallel to `macs`, which must not contain
+    /// duplicates. With `dhcp`, `addresses`, `mask` and `gateway` are ignored. Refused if devices exchange
+    /// addresses in a circle.
     Q_INVOKABLE Batch *changeAddresses(const QString &family, const QString &title, const QStringList &macs,
                                        const QStringList &addresses, const QString &mask,
                                        const QString &gateway, bool dhcp);
@@ -74,7 +77,8 @@ public:
     Q_INVOKABLE [[nodiscard]] QVariantList addressesToPutBack(Batch *batch) const;
 
     /// Restores the addresses of the devices of the batch with these identities. Devices that do not respond
-    /// at their rows' addresses, or have no row, are searched by MAC first.
+    /// at their rows' addresses, or have no row, are searched by MAC first. Null without refused() if `batch`
+    /// is null or running.
     Q_INVOKABLE Batch *putAddressesBack(Batch *batch, const QString &title, const QStringList &identities);
 
     /// Copies the encode settings of the current session's channel to devices by address and port.
@@ -89,14 +93,16 @@ public:
     /// Stops the running batch because the application closes, and logs the devices that are not done.
     Q_INVOKABLE void stopForExit() const;
 
-    /// Repeats an ended batch for the devices that may succeed now.
+    /// Repeats an ended batch for the devices that may succeed now. If the steps log in by address, devices
+    /// whose rows are gone or have other addresses now are left out, and reported by refused(). Null without
+    /// refused() if `batch` is null or running.
     Q_INVOKABLE Batch *retry(Batch *batch);
 
     /// Same for the device with this identity only.
     Q_INVOKABLE Batch *retryDevice(Batch *batch, const QString &identity);
 
     /// Writes the results of a batch to a file on a separate thread: a workbook, or comma-separated text if
-    /// the name ends in ".csv". resultsSaved() follows.
+    /// the name ends in ".csv". resultsSaved() follows. Does nothing without a batch.
     Q_INVOKABLE void saveResults(Batch *batch, const QString &path);
 
     /// Same for all kept batches, in one file.

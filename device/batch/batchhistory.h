@@ -5,9 +5,10 @@
 
 #include <QPointer>
 
-/// The batches of the session as table rows, newest first. Keys of a row: "title", "time" (of its start),
-/// "counts" ("done / total" while running, then "not failed / total"), "running" and "complete" (ended
-/// without failed or not done devices). Lives on the main thread.
+/// The kept batches of the session as table rows, newest first. Keys of a row: "identity", "title", "time" of
+/// its start ("HH:mm:ss"), "counts" ("done / total" while running; then the succeeded and waiting devices
+/// instead of the done ones), "running" (bool) and "complete" (bool: ended without failed or not done
+/// devices). Lives on the main thread.
 class BatchHistory : public DialogRows
 {
     Q_OBJECT

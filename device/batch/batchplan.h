@@ -28,7 +28,7 @@ struct BatchDevice
 {
     QString name;             ///< name that the page uses: address and port, or MAC
     QString identity;         ///< name of its row, see rowName()
-    QString ipport;           ///< address and port at the start of the batch
+    QString ipport;           ///< address and port at the start of the batch; ":port" without an address
     QString title;            ///< name and model, shown to the user
     QString login = {};       ///< see BatchItem::login
     QString key = {};         ///< see workKey(); set at the start of the batch
@@ -66,9 +66,9 @@ struct BatchPlan
     /// empty.
     DeviceStep preparation = {};
 
-    /// Receives the results of devices in the order of completion, at most once for each painted frame, and
-    /// at the end of the batch those of devices that were not reached. Called on the main thread. May be
-    /// empty.
+    /// Receives the results of devices in the order of completion, at most once every 16 ms, and at the end
+    /// of the batch those of devices that were not reached. Called on the main thread, before
+    /// Batch::resulted(). May be empty.
     std::function<void(const QList<BatchOutcome> &outcomes)> takeOutcomes = {};
 
     /// Whether the steps log in by address. Two rows with one address are then the same device.
@@ -85,7 +85,7 @@ struct BatchPlan
     bool holdsRows = true;
 
     /// Whether results are written to "res" of the rows. The steps write their own results; the batch writes
-    /// those of devices that were not done.
+    /// those of devices that were not done or are being upgraded.
     bool notesResults = false;
 
     /// Whether failed devices get a mark (FailedMarks). False for work that only reads from devices.
@@ -97,13 +97,15 @@ struct BatchPlan
     QHash<QString, AddressSettings> addressesBefore = {}; ///< by identity; only for address changes
 };
 
-/// Makes the BatchDevice of a device that a page names by address and port or by MAC. Main thread.
+/// Makes the BatchDevice of a device that a page names by address and port or by MAC. Without a row, `name`
+/// is also its identity and ipport. Main thread.
 [[nodiscard]] BatchDevice batchDevice(CDeviceFactory &factory, const QString &family, const QString &name);
 /// Same for several devices; duplicate names are removed.
 [[nodiscard]] QList<BatchDevice> batchDevices(CDeviceFactory &factory, const QString &family,
                                               const QStringList &names);
 
-/// Rows by "ipport". Of several rows with one address the first; an offline one only if there is no other.
+/// Rows by "ipport". Of several rows with one address the first that is not offline; the last one if all are
+/// offline.
 [[nodiscard]] QHash<QString, QJsonObject> rowsByAddress(const QVariantList &rows);
 
 /// The key of a device in BatchEngine. Batches and pages reserve the device with it. `rowThere` is the row
@@ -111,10 +113,10 @@ struct BatchPlan
 /// address.
 [[nodiscard]] QString workKey(const QJsonObject &rowThere, const QString &ipport, const QString &identity);
 
-/// The MAC of a device; empty if it has none.
+/// The MAC of a device; empty if its row has none.
 [[nodiscard]] QString macOf(const BatchDevice &device);
 
-/// The result of a device in the user's language.
+/// The result of a device and its text, in the user's language.
 [[nodiscard]] QString outcomeText(const StepOutcome &outcome);
 
 /// Whether a retry with the same data may succeed.

@@ -13,7 +13,7 @@ class CDeviceFactory;
 /// and has no note. Lives on the main thread.
 ///
 /// Keys of a row: "num" (from 1), "title" (name and model), "mac", "ipport", "identity", "checked", "action"
-/// (empty if nothing is done), "note" and "kind" (a Kind).
+/// (empty if the row is skipped or unchecked), "note" and "kind" (a Kind; Planned if unchecked).
 class BatchPreview : public DeviceSelection
 {
     Q_OBJECT
@@ -37,7 +37,7 @@ public:
     [[nodiscard]] CDeviceFactory *deviceFactory() const;
     void setDeviceFactory(CDeviceFactory *deviceFactory);
 
-    /// The default text of "action".
+    /// The text of "action" for devices that were not set by setEntries().
     [[nodiscard]] QString action() const { return m_action; }
     void setAction(const QString &action);
 
@@ -47,20 +47,20 @@ public:
     /// Sets the devices from rows of a DeviceTableModel, all of them checked.
     Q_INVOKABLE void setDevices(const QVariantList &rows);
 
-    /// Sets the devices with these addresses and ports.
+    /// Sets the devices with these addresses and ports, all of them checked.
     Q_INVOKABLE void setAddresses(const QStringList &ipports);
 
-    /// Sets the devices and actions: maps of "name" (returned by checkedIdentities()), "ipport", "action"
-    /// and, optionally, "title" (put before that of the device), "mac" (of a device without a row),
-    /// "hindrance" (reason to skip the device) and "newAddress". The row of a device is found by "name",
-    /// otherwise by "ipport".
+    /// Sets the devices and actions, all of them checked: maps of "name" (returned by checkedIdentities()),
+    /// "ipport", "action" and, optionally, "title" (put before that of the device), "mac" (of a device
+    /// without a row), "hindrance" (reason to skip the device) and "newAddress". The row of a device is found
+    /// by "name", otherwise by "ipport".
     Q_INVOKABLE void setEntries(const QVariantList &entries);
 
     // "ipport" of the checked rows, and of the others, in row order.
     Q_INVOKABLE [[nodiscard]] QStringList checkedAddresses() const { return addressesOf(true); }
     Q_INVOKABLE [[nodiscard]] QStringList uncheckedAddresses() const { return addressesOf(false); }
 
-    /// The warnings, one line for each device; the first three.
+    /// The warnings, one line for each device: the first three, and a line "…" if there are more.
     Q_INVOKABLE [[nodiscard]] QString warnings() const;
 
 Q_SIGNALS:
@@ -107,7 +107,7 @@ protected:
 private:
     [[nodiscard]] QStringList addressesOf(bool checked) const;
     [[nodiscard]] QVariantList listedRows() const;
-    /// The devices of the list by name, and by "ipport" (the first one with that address).
+    /// The devices of the list by name, and by "ipport" as rowsByAddress() selects them.
     [[nodiscard]] QHash<QString, QVariantMap> devicesByName() const;
     void readList();
     /// Whether a device other than `identity` gets `address` too, or has it and keeps it.
@@ -116,7 +116,7 @@ private:
     QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before this object
     QString m_action;
     QList<ListedDevice> m_listed;
-    QHash<QString, int> m_devicesAt;             ///< number of devices of the list by address and port
+    QHash<QString, int> m_devicesAt;             ///< devices that are not offline, by address and port
     QMultiHash<QString, QString> m_identitiesAt; ///< identities of the list by address
     QSet<QString> m_readdressed;                 ///< identities of checked rows with a new address
     QHash<QString, int> m_newAddresses;          ///< number of checked rows by new address

@@ -6,9 +6,11 @@
 #include <QPointer>
 #include <QTimer>
 
-/// The devices of a batch as table rows, ordered by state and then as in the batch. Keys of a row: "device"
-/// (address and port), "mac" (empty if unknown), "name" (and model), "result" (text), "time" and "state" (a
-/// State). Updated every 250 ms while the batch runs. Lives on the main thread.
+/// The devices of a batch as table rows, ordered by state and then as in the batch. Keys of a row: "identity"
+/// (its index in the batch, as text), "device" (address and port), "mac" (empty if unknown), "name" (name and
+/// model in one text), "result" (text in the user's language; empty in the state ToCome), "time" of the
+/// result ("HH:mm:ss"; empty without one) and "state" (a State). Updated 250 ms after a result, and at the
+/// end of the batch. Lives on the main thread.
 class BatchResultModel : public DialogRows
 {
     Q_OBJECT
@@ -19,11 +21,11 @@ public:
     enum State
     {
         Failed,
-        NotDone,
+        NotDone, ///< the batch has ended without a result of the device
         Skipped, ///< no request was sent because of the device's state
-        Waiting, ///< for a further step of the work
+        Waiting, ///< the first step of the work has succeeded; a further one must follow
         Succeeded,
-        ToCome, ///< the running batch has not reached it yet
+        ToCome, ///< no result yet, and the batch runs
     };
     Q_ENUM(State)
 

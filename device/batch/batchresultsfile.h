@@ -11,6 +11,7 @@ struct BatchRecord
 };
 
 /// Writes a title line and one line for each device: address and port, MAC, name and model, title of the
-/// batch, result text, time. The file is a workbook, or comma-separated UTF-8 text if the path ends in
-/// ".csv". Any thread. Returns an error message and leaves the file unchanged on failure; empty on success.
+/// batch, result text, time ("yyyy-MM-dd HH:mm:ss"). The file is a workbook, or comma-separated UTF-8 text if
+/// the path ends in ".csv" (upper or lower case). Any thread. Returns an error message and leaves the file
+/// unchanged on failure; empty on success.
 [[nodiscard]] QString saveBatchResults(const QList<BatchRecord> &records, const QString &path);

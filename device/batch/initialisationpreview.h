@@ -5,7 +5,7 @@
 
 /// The devices that the user has checked for initialisation: factory-new devices first, then those that will
 /// be skipped. Additional keys of a row: "type" and "vision" (firmware version). The devices are reached by
-/// MAC, so a shared address is not a conflict. Lives on the main thread.
+/// MAC or UUID, so a shared address is not a conflict. Lives on the main thread.
 class InitialisationPreview : public BatchPreview
 {
     Q_OBJECT

@@ -8,8 +8,9 @@
 #include <utility>
 
 /// Makes names from one pattern: {n} is the number of the row counted from `start` with at least `digits`
-/// digits, {model} the model of the device, {ip4} the last number of its IPv4 address. "action" of a row is
-/// its name. Lives on the main thread.
+/// digits, {model} the model of the device, {ip4} the last number of its IPv4 address (empty for IPv6).
+/// Unchecked rows are counted too. Names have no spaces at their ends. "action" of a checked row is its name.
+/// Lives on the main thread.
 ///
 /// A recorder in a list of cameras is skipped and gets neither name nor number, because its channel 1 shows
 /// one of its cameras.

@@ -30,15 +30,16 @@ public:
     /// Upgrades the devices of these rows, each with the file in its row.
     Q_INVOKABLE Batch *start(const QString &title, const QStringList &identities);
 
-    /// Upgrades the devices of the document lines with these numbers. documentEnded() follows, also if the
-    /// document is refused, and after a retry, whose results are written to the document as well.
+    /// Upgrades the devices of the document lines with these numbers (as texts). documentEnded() follows,
+    /// also if the document is refused, and after a retry, whose results are written to the document as well.
+    /// It does not follow if another batch is running.
     Q_INVOKABLE Batch *startDocument(const QString &title, const QString &path, const QStringList &lines);
 
 Q_SIGNALS:
     void lastChanged();
 
-    /// Rows of the list have changed. Emitted up to four times a second while devices are upgraded, and at
-    /// the end.
+    /// Rows of the list have changed. Emitted at the start of a batch, up to four times a second while
+    /// devices are upgraded, and at the end.
     void rowsChanged(const QStringList &identities);
 
     /// Same for more than 500 rows: reading the complete list is faster.
@@ -47,7 +48,8 @@ Q_SIGNALS:
     /// A batch of listed devices has ended; the numbers of devices by result.
     void ended(int upgraded, int failed, int notDone);
 
-    /// The results are written to the document file. `text` is a message for the user.
+    /// The results are written to the document file. `text` is a message for the user. `hasSuccess`: at
+    /// least one device was upgraded.
     void documentEnded(const QString &text, bool hasSuccess);
 
 private:

@@ -8,7 +8,7 @@
 
 /// The devices that will be upgraded, from rows or from the lines of an upgrade document. "action" of a row
 /// is the name of the firmware file with its version. Additional key: "vision", the device's current version.
-/// For a document, "num" and "identity" are the number of the line. Lives on the main thread.
+/// For a document, "num" (int) and "identity" (text) are the number of the line. Lives on the main thread.
 class UpgradePreview : public BatchPreview
 {
     Q_OBJECT
@@ -17,14 +17,14 @@ public:
     explicit UpgradePreview(QObject *parent = nullptr) : BatchPreview(parent) {}
     ~UpgradePreview() override;
 
-    /// The number of checked devices that can be upgraded.
+    /// The number of checked devices that are not skipped.
     [[nodiscard]] int upgradeCount() const { return checkedCount() - skippedCount(); }
 
     /// Sets the devices of these rows, each with the file in its row.
     Q_INVOKABLE void setIdentities(const QStringList &identities);
 
     /// Reads an upgrade document on a thread of the back end and sets the devices of its lines.
-    /// documentRead() follows, unless another document is read before that.
+    /// documentRead() follows, unless setIdentities() or readDocument() is called before that.
     Q_INVOKABLE void readDocument(const QString &path);
 
 Q_SIGNALS:
