@@ -59,7 +59,9 @@ bool Demuxer::read(AVPacket &packet)
 {
     const LoggedErrors errors;
     const bool isRead = av_read_frame(m_format.get(), &packet) == 0;
-    if (errors.any() || (isRead && (packet.flags & AV_PKT_FLAG_CORRUPT) != 0))
+    // The start of the next header is an incomplete element at the end of this stream, not damage.
+    const bool hasErrors = errors.any() && !m_source.hasReadNextHeader();
+    if (hasErrors || (isRead && (packet.flags & AV_PKT_FLAG_CORRUPT) != 0))
         m_isDamaged = true;
     if (isRead)
         m_source.notePacket();

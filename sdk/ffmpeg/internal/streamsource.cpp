@@ -29,6 +29,7 @@ bool StreamSource::start(const std::stop_token &stop)
         }
     }
     m_hasNext = false;
+    m_hasReadNextHeader = false;
     m_header = m_headerFinder.header();
     m_headerPosition = 0;
     notePacket();
@@ -57,8 +58,10 @@ std::size_t StreamSource::read(std::span<std::uint8_t> destination, const std::s
     if (const std::optional<std::size_t> header = m_headerFinder.find(bytes)) {
         m_queue.use(*header);
         m_hasNext = true;
-        // A part of the header may have been read with earlier bytes. It is harmless at the end.
-        count = *header - std::min(*header, m_headerFinder.header().size());
+        // Bytes are not held back for a possible header: that would delay the frame that they complete.
+        const std::size_t headerSize = m_headerFinder.header().size();
+        m_hasReadNextHeader = headerSize > *header;
+        count = *header - std::min(*header, headerSize);
     } else {
         m_queue.use(count);
     }

@@ -32,6 +32,9 @@ public:
     /// Whether the stream ended with the header of the next one.
     [[nodiscard]] bool hasNext() const { return m_hasNext; }
 
+    /// Whether read() has returned the start of the header of the next stream: it arrived before the rest.
+    [[nodiscard]] bool hasReadNextHeader() const { return m_hasReadNextHeader; }
+
     /// Whether read() would not wait.
     [[nodiscard]] bool hasBytes() const { return m_headerPosition < m_header.size() || m_queue.hasNext(); }
 
@@ -48,6 +51,7 @@ private:
     InputQueue &m_queue;
     StreamHeaderFinder m_headerFinder;
     bool m_hasNext = false;             // the header of the next stream was found
+    bool m_hasReadNextHeader = false;   // a part of it was read with the bytes before it
     std::vector<std::uint8_t> m_header; // read before the bytes of the queue
     std::size_t m_headerPosition = 0;
     std::size_t m_bytesOfPacket = 0; // read since the last completed packet

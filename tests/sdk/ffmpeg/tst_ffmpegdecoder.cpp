@@ -200,6 +200,28 @@ private Q_SLOTS:
         QCOMPARE(port.status().damages, 0U);
     }
 
+    void acceptsASplitHeader_data()
+    {
+        const auto row = dataTable<int>({"firstBytes"});
+        row("first byte", 1);
+        row("identifier", 4);
+        row("more than half", 20);
+    }
+
+    void acceptsASplitHeader()
+    {
+        QFETCH(int, firstBytes);
+        LiveStream first(PictureFormat{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P});
+        LiveStream second(PictureFormat{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P});
+        TestPort port;
+        const QByteArray next = second.head() + second.pictures(1, 1);
+        QVERIFY(port.push(first.head() + first.pictures(1) + next.first(firstBytes)));
+        QTRY_COMPARE(port.status().waitingBytes, 0U); // the demuxer has read the start of the header
+        QVERIFY(port.push(next.sliced(firstBytes)));
+        QTRY_COMPARE(port.receiver.pictures().size(), 2);
+        QCOMPARE(port.status().damages, 0U);
+    }
+
     void showsTheFirstFrameImmediately_data()
     {
         const auto row = dataTable<PictureFormat>({"format"});
