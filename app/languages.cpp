@@ -1,7 +1,5 @@
 #include "app/languages.h"
 
-#include "app/localconfig.h"
-
 QString languageCodeFor(QLocale::Language systemLanguage)
 {
     switch (systemLanguage) {
@@ -31,17 +29,4 @@ QString languageCodeFor(QLocale::Language systemLanguage)
     default:
         return QStringLiteral("en_US");
     }
-}
-
-QString resolveLanguage(CLocalConfig &localConfig, QLocale::Language systemLanguage)
-{
-    QString code = localConfig.getLanguage();
-    if (code.isEmpty()) {
-        code = languageCodeFor(systemLanguage);
-        if (!localConfig.hasTranslation(code))
-            code = QStringLiteral("en_US");
-        localConfig.setLanguage(code);
-    }
-    localConfig.setCurrentLanguage(code);
-    return code;
 }

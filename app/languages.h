@@ -19,9 +19,3 @@ inline constexpr std::array languageCodes = {
 /// The language of a first start on a system with the given language; English by default. Galician and
 /// Catalan are only available by the user's choice.
 [[nodiscard]] QString languageCodeFor(QLocale::Language systemLanguage);
-
-class CLocalConfig;
-
-/// Returns the stored language code. At a first start, returns and stores that of the system, or English if
-/// it has no translation file. Sets the result as the current language of `localConfig`.
-[[nodiscard]] QString resolveLanguage(CLocalConfig &localConfig, QLocale::Language systemLanguage);

@@ -1,7 +1,7 @@
 #include "app/shell.h"
 
 #include "app/devicelibraries.h"
-#include "app/languages.h"
+#include "app/languagechoice.h"
 #include "app/localconfig.h"
 #include "app/logging.h"
 #include "app/messagebox.h"

@@ -1,3 +1,4 @@
+#include "app/languagechoice.h"
 #include "app/languages.h"
 #include "app/localconfig.h"
 #include "tests/datatable.h"
