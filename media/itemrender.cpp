@@ -1,15 +1,15 @@
 #include "media/itemrender.h"
 
-#include "media/videoitem.h"
+#include "media/drawnvideo.h"
 
 #include <QOpenGLFramebufferObject>
 #include <QQuickOpenGLUtils>
 
 void ItemRender::synchronize(QQuickFramebufferObject *item)
 {
-    auto *video = static_cast<VideoItem *>(item);
+    auto *video = dynamic_cast<DrawnVideo *>(item);
     m_geometry = video->geometry();
-    m_fill = video->fillMode() == VideoItem::Stretch ? FrameFill::Stretch : FrameFill::PreserveAspectFit;
+    m_fill = video->frameFill();
     // The bytes are valid while the lock is held, so the upload is inside.
     DrawingError error = DrawingError::None;
     video->currentFrame().read([this, &error](VideoFrame &frame) {
@@ -31,7 +31,7 @@ void ItemRender::synchronize(QQuickFramebufferObject *item)
     if (video->drawingError() != error) {
         // Queued: properties change on the main thread, which is blocked now.
         QMetaObject::invokeMethod(
-            video, [video, error] { video->setDrawingError(error); }, Qt::QueuedConnection);
+            item, [video, error] { video->setDrawingError(error); }, Qt::QueuedConnection);
     }
     QQuickOpenGLUtils::resetOpenGLState();
 }

@@ -8,8 +8,8 @@
 
 #include <cstdint>
 
-/// Draws a VideoItem. Lives on the render thread; accesses the item only in synchronize(), while the main
-/// thread is blocked.
+/// Draws an item that implements DrawnVideo. Lives on the render thread; accesses the item only in
+/// synchronize(), while the main thread is blocked.
 class ItemRender : public QQuickFramebufferObject::Renderer
 {
 public:

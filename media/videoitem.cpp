@@ -209,6 +209,11 @@ void VideoItem::setFillMode(FillModeType fillMode)
     update();
 }
 
+FrameFill VideoItem::frameFill() const
+{
+    return m_fillMode == Stretch ? FrameFill::Stretch : FrameFill::PreserveAspectFit;
+}
+
 void VideoItem::setChannelId(int channelId)
 {
     if (m_channelId == channelId)

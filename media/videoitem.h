@@ -1,6 +1,7 @@
 #pragma once
 
 #include "media/drawingerror.h"
+#include "media/drawnvideo.h"
 #include "media/videostream.h"
 #include "media/viewgeometry.h"
 #include "sdk/sdklibraries.h"
@@ -16,7 +17,7 @@
 /// session is the current one of the back end or a given one. The item is transparent without a frame.
 ///
 /// Lives on the main thread.
-class VideoItem : public QQuickFramebufferObject
+class VideoItem : public QQuickFramebufferObject, public DrawnVideo
 {
     Q_OBJECT
     QML_ELEMENT
@@ -97,10 +98,11 @@ public:
     Q_INVOKABLE [[nodiscard]] QVariantMap figures() const;
 
     // For the renderer.
-    [[nodiscard]] const ViewGeometry &geometry() const { return m_geometry; }
-    [[nodiscard]] CurrentFrame &currentFrame() { return m_stream.currentFrame(); }
-    [[nodiscard]] DrawingError drawingError() const { return m_drawingError; }
-    void setDrawingError(DrawingError error);
+    [[nodiscard]] const ViewGeometry &geometry() const override { return m_geometry; }
+    [[nodiscard]] FrameFill frameFill() const override;
+    [[nodiscard]] CurrentFrame &currentFrame() override { return m_stream.currentFrame(); }
+    [[nodiscard]] DrawingError drawingError() const override { return m_drawingError; }
+    void setDrawingError(DrawingError error) override;
 
     Renderer *createRenderer() const override;
 
