@@ -14,8 +14,8 @@
 #include "device/models/accountlist.h"
 #include "device/models/certificatelist.h"
 #include "device/registry/devicefactory.h"
-#include "device/registry/devicenotes.h"
 #include "device/search/searchreports.h"
+#include "device/store/devicenotes.h"
 #include "qml/configtools/programfolders.h"
 
 #include <QCoreApplication>

@@ -14,7 +14,7 @@
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicehik.h"
 #include "device/registry/deviceol.h"
-#include "device/registry/devicestore.h"
+#include "device/store/devicestore.h"
 #include "favourites/accountstore.h"
 #include "media/audiooutput.h"
 #include "media/freedmemory.h"

@@ -4,7 +4,7 @@
 #include "device/dh/devicedh.h"
 #include "device/models/treemodel.h"
 #include "device/registry/devicefactory.h"
-#include "device/registry/devicestore.h"
+#include "device/store/devicestore.h"
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"
 

@@ -2,7 +2,7 @@
 
 #include "device/dh/devicedh.h"
 #include "device/registry/devicefactory.h"
-#include "device/registry/devicestore.h"
+#include "device/store/devicestore.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/scene/fleetgenerator.h"
 #include "sdk/demo/steppableclock.h"

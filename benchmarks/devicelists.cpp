@@ -4,8 +4,8 @@
 #include "device/models/devicetablemodel.h"
 #include "device/models/treerows.h"
 #include "device/registry/devicefactory.h"
-#include "device/registry/devicerow.h"
-#include "device/registry/devicestore.h"
+#include "device/store/devicerow.h"
+#include "device/store/devicestore.h"
 #include "sdk/blocktext.h"
 #include "sdk/clock.h"
 

@@ -9,7 +9,7 @@
 #include "device/batch/batchengine.h"
 #include "device/dh/devicedh.h"
 #include "device/registry/devicefactory.h"
-#include "device/registry/devicestore.h"
+#include "device/store/devicestore.h"
 #include "favourites/accountstore.h"
 #include "sdk/blocktext.h"
 #include "sdk/clock.h"

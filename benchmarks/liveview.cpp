@@ -2,7 +2,7 @@
 
 #include "device/dh/devicedh.h"
 #include "device/registry/devicefactory.h"
-#include "device/registry/devicestore.h"
+#include "device/store/devicestore.h"
 #include "media/videoitem.h"
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"

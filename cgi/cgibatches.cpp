@@ -5,7 +5,7 @@
 #include "cgi/internal/longanswers.h"
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
-#include "device/registry/devicerow.h"
+#include "device/store/devicerow.h"
 
 #include <QSet>
 

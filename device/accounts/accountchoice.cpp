@@ -1,6 +1,6 @@
 #include "device/accounts/accountchoice.h"
 
-#include "device/registry/devicerow.h"
+#include "device/store/devicerow.h"
 
 #include <algorithm>
 #include <utility>

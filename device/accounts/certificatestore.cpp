@@ -1,6 +1,6 @@
 #include "device/accounts/certificatestore.h"
 
-#include "device/registry/logging.h"
+#include "device/store/logging.h"
 #include "files/filereplacement.h"
 #include "sdk/blocktext.h"
 

@@ -1,8 +1,8 @@
 #include "device/batch/addressplan.h"
 
 #include "device/models/modelkeys.h"
-#include "device/registry/devicerow.h"
-#include "device/registry/ipv4address.h"
+#include "device/store/devicerow.h"
+#include "device/store/ipv4address.h"
 
 AddressPlan::AddressPlan(QObject *parent) : BatchPreview(parent) {}
 

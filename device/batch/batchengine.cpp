@@ -1,7 +1,7 @@
 #include "device/batch/batchengine.h"
 
 #include "device/registry/deviceimport.h"
-#include "device/registry/logging.h"
+#include "device/store/logging.h"
 #include "sdk/threadpriority.h"
 
 #include <QCoreApplication>

@@ -5,13 +5,13 @@
 #include "device/models/modelkeys.h"
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
-#include "device/registry/devicefilter.h"
-#include "device/registry/devicerow.h"
-#include "device/registry/devicestore.h"
-#include "device/registry/logging.h"
 #include "device/registry/mapkeys.h"
 #include "device/registry/systemkeys.h"
 #include "device/registry/upgradetools.h"
+#include "device/store/devicefilter.h"
+#include "device/store/devicerow.h"
+#include "device/store/devicestore.h"
+#include "device/store/logging.h"
 #include "sdk/threadpriority.h"
 
 #include <algorithm>

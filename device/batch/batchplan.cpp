@@ -2,7 +2,7 @@
 
 #include "device/models/batchreport.h"
 #include "device/registry/devicefactory.h"
-#include "device/registry/devicerow.h"
+#include "device/store/devicerow.h"
 
 #include <QCoreApplication>
 

@@ -3,9 +3,9 @@
 #include "device/models/modelkeys.h"
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
-#include "device/registry/devicefilter.h"
-#include "device/registry/devicerow.h"
 #include "device/registry/upgradetools.h"
+#include "device/store/devicefilter.h"
+#include "device/store/devicerow.h"
 
 #include <algorithm>
 #include <utility>

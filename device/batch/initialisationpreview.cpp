@@ -1,7 +1,7 @@
 #include "device/batch/initialisationpreview.h"
 
-#include "device/registry/devicerow.h"
 #include "device/registry/upgradetools.h"
+#include "device/store/devicerow.h"
 
 #include <algorithm>
 

@@ -4,7 +4,7 @@
 #include "device/registry/bytetext.h"
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
-#include "device/registry/devicerow.h"
+#include "device/store/devicerow.h"
 
 #include <QRegularExpression>
 

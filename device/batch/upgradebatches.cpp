@@ -2,8 +2,8 @@
 
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
-#include "device/registry/devicerow.h"
 #include "device/registry/upgradetools.h"
+#include "device/store/devicerow.h"
 
 #include <QFileInfo>
 

@@ -1,9 +1,9 @@
 #include "device/dh/agentlistener.h"
 
-#include "device/registry/devicerow.h"
-#include "device/registry/devicestore.h"
-#include "device/registry/logging.h"
 #include "device/registry/loginresult.h"
+#include "device/store/devicerow.h"
+#include "device/store/devicestore.h"
+#include "device/store/logging.h"
 
 #include <mutex>
 #include <utility>

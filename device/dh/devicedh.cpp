@@ -18,8 +18,8 @@
 #include "device/dh/upgrade/rowupgrades.h"
 #include "device/dh/upgrade/upgradeorders.h"
 #include "device/dh/upgrade/upgraderound.h"
-#include "device/registry/logging.h"
 #include "device/registry/mapkeys.h"
+#include "device/store/logging.h"
 #include "sdk/netlibrary.h"
 
 #include <utility>

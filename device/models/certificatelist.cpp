@@ -1,7 +1,7 @@
 #include "device/models/certificatelist.h"
 
 #include "device/models/modelkeys.h"
-#include "device/registry/devicerow.h"
+#include "device/store/devicerow.h"
 
 #include <algorithm>
 #include <utility>

@@ -2,9 +2,9 @@
 
 #include "device/models/modelkeys.h"
 #include "device/registry/bytetext.h"
-#include "device/registry/devicerow.h"
 #include "device/registry/loginresult.h"
 #include "device/registry/mapkeys.h"
+#include "device/store/devicerow.h"
 
 #include <algorithm>
 #include <utility>

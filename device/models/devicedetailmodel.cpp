@@ -1,7 +1,7 @@
 #include "device/models/devicedetailmodel.h"
 
-#include "device/registry/devicerow.h"
-#include "device/registry/logging.h"
+#include "device/store/devicerow.h"
+#include "device/store/logging.h"
 #include "files/filereplacement.h"
 
 #include <algorithm>

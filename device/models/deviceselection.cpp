@@ -1,6 +1,6 @@
 #include "device/models/deviceselection.h"
 
-#include "device/registry/devicerow.h"
+#include "device/store/devicerow.h"
 
 DeviceSelection::DeviceSelection(QObject *parent) : CheckableRows(parent) {}
 

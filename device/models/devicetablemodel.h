@@ -3,7 +3,7 @@
 
 #include "device/models/devicetablerows.h"
 #include "device/models/followedmarks.h"
-#include "device/registry/devicenotes.h"
+#include "device/store/devicenotes.h"
 
 #include <QAbstractListModel>
 #include <QHash>

@@ -1,9 +1,9 @@
 #include "device/models/devicetablerows.h"
 
 #include "device/models/followedmarks.h"
-#include "device/registry/devicefilter.h"
-#include "device/registry/devicenotes.h"
-#include "device/registry/devicerow.h"
+#include "device/store/devicefilter.h"
+#include "device/store/devicenotes.h"
+#include "device/store/devicerow.h"
 
 #include <QHash>
 

@@ -1,7 +1,7 @@
 // Filter and order of the rows of a device table.
 #pragma once
 
-#include "device/registry/deviceorder.h"
+#include "device/store/deviceorder.h"
 
 #include <QJsonObject>
 #include <QList>

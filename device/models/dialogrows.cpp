@@ -1,7 +1,7 @@
 #include "device/models/dialogrows.h"
 
 #include "device/models/modelkeys.h"
-#include "device/registry/devicerow.h"
+#include "device/store/devicerow.h"
 
 DialogRows::DialogRows(QObject *parent) : QAbstractListModel(parent) {}
 

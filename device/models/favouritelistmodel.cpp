@@ -1,8 +1,8 @@
 #include "device/models/favouritelistmodel.h"
 
 #include "device/models/modelkeys.h"
-#include "device/registry/devicerow.h"
 #include "device/registry/mapkeys.h"
+#include "device/store/devicerow.h"
 #include "favourites/author.h"
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 #include "device/models/devicetablemodel.h"
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
-#include "device/registry/devicerow.h"
+#include "device/store/devicerow.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "device/models/systemtools.h"
 
-#include "device/registry/ipv4address.h"
 #include "device/registry/passwordstrength.h"
+#include "device/store/ipv4address.h"
 
 #include <QDateTime>
 #include <QHostAddress>

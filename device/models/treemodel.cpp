@@ -2,10 +2,10 @@
 
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
-#include "device/registry/deviceorder.h"
-#include "device/registry/devicerow.h"
 #include "device/registry/loginresult.h"
 #include "device/registry/upgradetools.h"
+#include "device/store/deviceorder.h"
+#include "device/store/devicerow.h"
 
 #include <QJsonObject>
 #include <QSet>

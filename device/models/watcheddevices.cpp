@@ -3,8 +3,8 @@
 #include "device/models/modelkeys.h"
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
-#include "device/registry/devicerow.h"
 #include "device/registry/mapkeys.h"
+#include "device/store/devicerow.h"
 
 #include <algorithm>
 

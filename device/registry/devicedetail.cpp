@@ -1,7 +1,7 @@
 #include "device/registry/devicedetail.h"
 
-#include "device/registry/devicerow.h"
 #include "device/registry/mapkeys.h"
+#include "device/store/devicerow.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 #include "device/registry/devicefactory.h"
 
 #include "device/registry/devicedetail.h"
-#include "device/registry/devicerow.h"
-#include "device/registry/logging.h"
 #include "device/registry/loginresult.h"
 #include "device/registry/passwordstrength.h"
 #include "device/registry/upgradetools.h"
+#include "device/store/devicerow.h"
+#include "device/store/logging.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>

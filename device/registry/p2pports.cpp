@@ -1,6 +1,6 @@
 #include "device/registry/p2pports.h"
 
-#include "device/registry/logging.h"
+#include "device/store/logging.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 #include "device/search/addresstools.h"
 
-#include "device/registry/ipv4address.h"
 #include "device/search/searchrange.h"
+#include "device/store/ipv4address.h"
 
 #include <QUrl>
 

@@ -1,7 +1,7 @@
 #include "device/search/devicerefresh.h"
 
-#include "device/registry/devicerow.h"
-#include "device/registry/devicestore.h"
+#include "device/store/devicerow.h"
+#include "device/store/devicestore.h"
 #include "sdk/blocktext.h"
 #include "sdk/clock.h"
 #include "sdk/netlibrary.h"

@@ -1,7 +1,7 @@
 #include "device/search/devicesearch.h"
 
-#include "device/registry/devicestore.h"
-#include "device/registry/logging.h"
+#include "device/store/devicestore.h"
+#include "device/store/logging.h"
 #include "sdk/clock.h"
 #include "sdk/netlibrary.h"
 #include "sdk/threadpriority.h"

@@ -1,6 +1,6 @@
 #include "device/search/searchrange.h"
 
-#include "device/registry/ipv4address.h"
+#include "device/store/ipv4address.h"
 #include "sdk/blocktext.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "device/search/searchreporttext.h"
 
-#include "device/registry/devicerow.h"
-#include "device/registry/ipv4address.h"
+#include "device/store/devicerow.h"
+#include "device/store/ipv4address.h"
 #include "sdk/searchreportblocks.h"
 
 #include <QStringList>

@@ -1,5 +1,5 @@
-#include "device/registry/devicerow.h"
 #include "device/registry/upgradetools.h"
+#include "device/store/devicerow.h"
 #include "sdk/demo/demosite.h"
 #include "sheets/qexcel.h"
 #include "tests/files/filecontents.h"

@@ -3,7 +3,7 @@
 #include "device/dh/camera/camerajob.h"
 #include "device/dh/encode/encodestate.h"
 #include "device/registry/camerakeys.h"
-#include "device/registry/logging.h"
+#include "device/store/logging.h"
 
 CameraConfig::CameraConfig(const ValueTables &tables) : m_tables(tables) {}
 

@@ -1,6 +1,6 @@
 #include "device/dh/camera/camerajob.h"
 
-#include "device/registry/logging.h"
+#include "device/store/logging.h"
 
 bool CameraJob::run(CameraWrite write) const
 {

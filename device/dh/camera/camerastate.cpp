@@ -1,7 +1,7 @@
 #include "device/dh/camera/camerastate.h"
 
-#include "device/registry/logging.h"
 #include "device/registry/loginresult.h"
+#include "device/store/logging.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "device/dh/configuration/pagehold.h"
 
 #include "device/batch/batchplan.h"
-#include "device/registry/devicestore.h"
+#include "device/store/devicestore.h"
 
 #include <utility>
 

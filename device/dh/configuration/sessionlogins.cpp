@@ -6,9 +6,9 @@
 #include "device/dh/session/logindetail.h"
 #include "device/dh/session/securelogin.h"
 #include "device/dh/session/sessionthreads.h"
-#include "device/registry/devicerow.h"
-#include "device/registry/devicestore.h"
 #include "device/registry/mapkeys.h"
+#include "device/store/devicerow.h"
+#include "device/store/devicestore.h"
 #include "sdk/netlibrary.h"
 
 #include <utility>

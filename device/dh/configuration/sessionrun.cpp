@@ -3,9 +3,9 @@
 #include "device/dh/session/livechannels.h"
 #include "device/registry/camerakeys.h"
 #include "device/registry/encodekeys.h"
-#include "device/registry/logging.h"
 #include "device/registry/loginresult.h"
 #include "device/registry/mapkeys.h"
+#include "device/store/logging.h"
 
 #include <algorithm>
 #include <utility>

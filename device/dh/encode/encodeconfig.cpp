@@ -1,7 +1,7 @@
 #include "device/dh/encode/encodeconfig.h"
 
 #include "device/registry/encodekeys.h"
-#include "device/registry/logging.h"
+#include "device/store/logging.h"
 
 #include <QCoreApplication>
 

@@ -1,6 +1,6 @@
 #include "device/dh/encode/encodestate.h"
 
-#include "device/registry/logging.h"
+#include "device/store/logging.h"
 
 namespace {
 

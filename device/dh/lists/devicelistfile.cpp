@@ -3,7 +3,7 @@
 #include "device/dh/lists/csvdevicelist.h"
 #include "device/dh/lists/xlsxdevicelist.h"
 #include "device/dh/lists/xmldevicelist.h"
-#include "device/registry/logging.h"
+#include "device/store/logging.h"
 #include "files/filereplacement.h"
 
 #include <QBuffer>

@@ -1,8 +1,8 @@
 #include "device/dh/lists/devicelistimport.h"
 
 #include "device/dh/lists/devicelistvalues.h"
-#include "device/registry/devicerow.h"
-#include "device/registry/devicestore.h"
+#include "device/store/devicerow.h"
+#include "device/store/devicestore.h"
 
 #include <QCoreApplication>
 #include <QHash>

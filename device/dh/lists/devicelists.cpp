@@ -4,10 +4,10 @@
 #include "device/dh/lists/devicelistimport.h"
 #include "device/dh/lists/devicelistvalues.h"
 #include "device/dh/logins/devicelogins.h"
-#include "device/registry/devicestore.h"
 #include "device/registry/localpath.h"
-#include "device/registry/logging.h"
 #include "device/registry/mapkeys.h"
+#include "device/store/devicestore.h"
+#include "device/store/logging.h"
 
 #include <QCoreApplication>
 

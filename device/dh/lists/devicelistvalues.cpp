@@ -1,6 +1,6 @@
 #include "device/dh/lists/devicelistvalues.h"
 
-#include "device/registry/devicerow.h"
+#include "device/store/devicerow.h"
 
 namespace {
 

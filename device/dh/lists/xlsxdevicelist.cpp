@@ -1,7 +1,7 @@
 #include "device/dh/lists/xlsxdevicelist.h"
 
 #include "device/dh/lists/devicelisttable.h"
-#include "device/registry/logging.h"
+#include "device/store/logging.h"
 #include "sheets/qexcel.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 #include "device/dh/logins/devicelogins.h"
 
-#include "device/registry/devicerow.h"
-#include "device/registry/devicestore.h"
+#include "device/store/devicerow.h"
+#include "device/store/devicestore.h"
 #include "sdk/netlibrary.h"
 
 #include <utility>

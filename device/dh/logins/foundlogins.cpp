@@ -2,8 +2,8 @@
 
 #include "device/dh/session/configsession.h"
 #include "device/dh/session/securelogin.h"
-#include "device/registry/devicerow.h"
-#include "device/registry/devicestore.h"
+#include "device/store/devicerow.h"
+#include "device/store/devicestore.h"
 #include "sdk/blocktext.h"
 #include "sdk/loginblocks.h"
 #include "sdk/threadpriority.h"

@@ -1,8 +1,8 @@
 #include "device/dh/logins/rowadding.h"
 
-#include "device/registry/devicerow.h"
-#include "device/registry/devicestore.h"
 #include "device/registry/p2pports.h"
+#include "device/store/devicerow.h"
+#include "device/store/devicestore.h"
 
 #include <QCoreApplication>
 

@@ -1,7 +1,7 @@
 #include "device/dh/logins/rowlogin.h"
 
 #include "device/dh/session/configsession.h"
-#include "device/registry/devicerow.h"
+#include "device/store/devicerow.h"
 #include "sdk/blocktext.h"
 #include "sdk/configrecords.h"
 #include "sdk/netlibrary.h"

@@ -4,10 +4,10 @@
 #include "device/dh/logins/devicelogins.h"
 #include "device/dh/session/livechannels.h"
 #include "device/dh/session/securelogin.h"
-#include "device/registry/devicerow.h"
-#include "device/registry/devicestore.h"
 #include "device/registry/loginresult.h"
 #include "device/registry/mapkeys.h"
+#include "device/store/devicerow.h"
+#include "device/store/devicestore.h"
 #include "media/snapthread.h"
 
 #include <QCoreApplication>

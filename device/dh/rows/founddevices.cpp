@@ -1,8 +1,8 @@
 #include "device/dh/rows/founddevices.h"
 
 #include "device/dh/logins/devicelogins.h"
-#include "device/registry/devicerow.h"
-#include "device/registry/devicestore.h"
+#include "device/store/devicerow.h"
+#include "device/store/devicestore.h"
 #include "sdk/blocktext.h"
 #include "sdk/callstop.h"
 #include "sdk/netlibrary.h"

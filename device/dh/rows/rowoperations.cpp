@@ -3,10 +3,10 @@
 #include "device/dh/logins/devicelogins.h"
 #include "device/dh/logins/rowadding.h"
 #include "device/registry/backendsignals.h"
-#include "device/registry/devicefilter.h"
-#include "device/registry/devicerow.h"
-#include "device/registry/devicestore.h"
 #include "device/registry/mapkeys.h"
+#include "device/store/devicefilter.h"
+#include "device/store/devicerow.h"
+#include "device/store/devicestore.h"
 
 #include <QSet>
 

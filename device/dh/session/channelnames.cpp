@@ -1,7 +1,7 @@
 #include "device/dh/session/channelnames.h"
 
 #include "device/registry/bytetext.h"
-#include "device/registry/logging.h"
+#include "device/store/logging.h"
 #include "sdk/blocktext.h"
 #include "sdk/camerablocks.h"
 

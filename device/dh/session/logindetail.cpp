@@ -1,8 +1,8 @@
 #include "device/dh/session/logindetail.h"
 
-#include "device/registry/devicerow.h"
 #include "device/registry/loginresult.h"
 #include "device/registry/mapkeys.h"
+#include "device/store/devicerow.h"
 #include "sdk/configrecords.h"
 #include "sdk/loginblocks.h"
 #include "sdk/streamblocks.h"

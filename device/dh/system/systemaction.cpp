@@ -2,8 +2,8 @@
 
 #include "device/dh/session/configsession.h"
 #include "device/dh/system/systemdata.h"
-#include "device/registry/logging.h"
 #include "device/registry/systemkeys.h"
+#include "device/store/logging.h"
 #include "sdk/neterror.h"
 #include "sdk/netlibrary.h"
 

@@ -4,10 +4,10 @@
 #include "device/dh/session/sessionthreads.h"
 #include "device/dh/system/deviceclock.h"
 #include "device/dh/system/systemaction.h"
-#include "device/registry/devicerow.h"
-#include "device/registry/devicestore.h"
-#include "device/registry/logging.h"
 #include "device/registry/systemkeys.h"
+#include "device/store/devicerow.h"
+#include "device/store/devicestore.h"
+#include "device/store/logging.h"
 #include "sdk/blocktext.h"
 #include "sdk/netlibrary.h"
 

@@ -4,10 +4,10 @@
 #include "device/dh/upgrade/upgradeorders.h"
 #include "device/dh/upgrade/upgraderound.h"
 #include "device/registry/backendsignals.h"
-#include "device/registry/devicerow.h"
-#include "device/registry/devicestore.h"
 #include "device/registry/localpath.h"
-#include "device/registry/logging.h"
+#include "device/store/devicerow.h"
+#include "device/store/devicestore.h"
+#include "device/store/logging.h"
 
 #include <utility>
 

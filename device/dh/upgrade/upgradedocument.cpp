@@ -1,7 +1,7 @@
 #include "device/dh/upgrade/upgradedocument.h"
 
-#include "device/registry/ipv4address.h"
-#include "device/registry/logging.h"
+#include "device/store/ipv4address.h"
+#include "device/store/logging.h"
 #include "sheets/keptworkbook.h"
 #include "sheets/tablecells.h"
 

@@ -2,8 +2,8 @@
 
 #include "device/batch/batchplan.h"
 #include "device/dh/logins/devicelogins.h"
-#include "device/registry/devicerow.h"
-#include "device/registry/devicestore.h"
+#include "device/store/devicerow.h"
+#include "device/store/devicestore.h"
 
 #include <utility>
 

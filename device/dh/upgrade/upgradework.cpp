@@ -1,8 +1,8 @@
 #include "device/dh/upgrade/upgradework.h"
 
 #include "device/dh/session/securelogin.h"
-#include "device/registry/devicerow.h"
-#include "device/registry/logging.h"
+#include "device/store/devicerow.h"
+#include "device/store/logging.h"
 #include "sdk/clock.h"
 #include "sdk/netlibrary.h"
 

@@ -3,7 +3,7 @@
 
 #include "device/dh/devicedh.h"
 #include "device/registry/devicefactory.h"
-#include "device/registry/devicestore.h"
+#include "device/store/devicestore.h"
 #include "sdk/demo/demonetlibrary.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/neterror.h"

@@ -1,6 +1,6 @@
-#include "device/registry/ipv4address.h"
 #include "device/search/addresstools.h"
 #include "device/search/searchrange.h"
+#include "device/store/ipv4address.h"
 #include "sdk/blocktext.h"
 #include "tests/datatable.h"
 

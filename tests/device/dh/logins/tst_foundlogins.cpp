@@ -1,7 +1,7 @@
 // Logins to the found devices, and requests to devices without a MAC.
 #include "device/dh/devicedh.h"
 #include "device/dh/logins/foundlogins.h"
-#include "device/registry/devicestore.h"
+#include "device/store/devicestore.h"
 #include "tests/datatable.h"
 #include "tests/device/searchanswers.h"
 #include "tests/media/quietnetlibrary.h"

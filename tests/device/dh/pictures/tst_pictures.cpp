@@ -1,4 +1,4 @@
-#include "device/registry/devicerow.h"
+#include "device/store/devicerow.h"
 #include "device/work/livesession.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/picturesite.h"

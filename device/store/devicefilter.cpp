@@ -1,6 +1,6 @@
-#include "device/registry/devicefilter.h"
+#include "device/store/devicefilter.h"
 
-#include "device/registry/devicerow.h"
+#include "device/store/devicerow.h"
 
 #include <algorithm>
 #include <array>

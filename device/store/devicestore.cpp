@@ -1,6 +1,6 @@
-#include "device/registry/devicestore.h"
+#include "device/store/devicestore.h"
 
-#include "device/registry/devicerow.h"
+#include "device/store/devicerow.h"
 #include "sdk/clock.h"
 
 #include <QVarLengthArray>

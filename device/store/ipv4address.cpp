@@ -1,4 +1,4 @@
-#include "device/registry/ipv4address.h"
+#include "device/store/ipv4address.h"
 
 #include <QList>
 

@@ -1,8 +1,8 @@
-#include "device/registry/deviceorder.h"
+#include "device/store/deviceorder.h"
 
-#include "device/registry/devicerow.h"
-#include "device/registry/ipv4address.h"
-#include "device/registry/ipv6address.h"
+#include "device/store/devicerow.h"
+#include "device/store/ipv4address.h"
+#include "device/store/ipv6address.h"
 
 #include <algorithm>
 #include <cctype>

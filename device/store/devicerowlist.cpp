@@ -1,6 +1,6 @@
-#include "device/registry/devicerowlist.h"
+#include "device/store/devicerowlist.h"
 
-#include "device/registry/devicerow.h"
+#include "device/store/devicerow.h"
 
 #include <algorithm>
 #include <utility>

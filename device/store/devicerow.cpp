@@ -1,4 +1,4 @@
-#include "device/registry/devicerow.h"
+#include "device/store/devicerow.h"
 
 #include "sdk/searchblocks.h"
 

@@ -1,3 +1,3 @@
-#include "device/registry/logging.h"
+#include "device/store/logging.h"
 
 Q_LOGGING_CATEGORY(logDevice, "configtools.device")

@@ -1,6 +1,6 @@
 // Notes about devices: their assignment to devices, their file, and their display in the table.
 #include "device/models/devicetablemodel.h"
-#include "device/registry/devicenotes.h"
+#include "device/store/devicenotes.h"
 #include "tests/datatable.h"
 #include "tests/device/rowsbackend.h"
 #include "tests/files/filecontents.h"

@@ -1,6 +1,6 @@
-#include "device/registry/ipv6address.h"
+#include "device/store/ipv6address.h"
 
-#include "device/registry/ipv4address.h"
+#include "device/store/ipv4address.h"
 
 #include <QList>
 

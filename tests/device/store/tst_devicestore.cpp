@@ -1,5 +1,5 @@
-#include "device/registry/devicerow.h"
-#include "device/registry/devicestore.h"
+#include "device/store/devicerow.h"
+#include "device/store/devicestore.h"
 #include "sdk/demo/steppableclock.h"
 #include "tests/datatable.h"
 #include "tests/device/searchanswers.h"

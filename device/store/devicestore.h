@@ -1,7 +1,7 @@
 // The device rows and search records of all back ends.
 #pragma once
 
-#include "device/registry/devicerowlist.h"
+#include "device/store/devicerowlist.h"
 #include "sdk/searchblocks.h"
 
 #include <QHash>
