@@ -1,5 +1,5 @@
 // The camera image page on a simulated site: every change is a separate request.
-#include "device/models/encodeform.h"
+#include "device/forms/encodeform.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
 

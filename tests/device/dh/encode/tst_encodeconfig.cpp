@@ -1,5 +1,5 @@
 // The encode page on a simulated site: shown values, requests to the device and their results.
-#include "device/models/encodeform.h"
+#include "device/forms/encodeform.h"
 #include "sdk/encodeblocks.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"

@@ -1,5 +1,5 @@
 // The names of channels on a simulated recorder: read, edited and written one by one.
-#include "device/models/channelnameform.h"
+#include "device/forms/channelnameform.h"
 #include "device/registry/bytetext.h"
 #include "device/work/sessionwork.h"
 #include "tests/datatable.h"

@@ -1,4 +1,4 @@
-#include "device/models/cameraform.h"
+#include "device/forms/cameraform.h"
 
 #include "device/registry/camerakeys.h"
 #include "device/registry/devicefactory.h"

@@ -1,4 +1,4 @@
-#include "device/models/systemtools.h"
+#include "device/forms/systemtools.h"
 #include "device/registry/loginresult.h"
 #include "device/registry/passwordstrength.h"
 #include "tests/datatable.h"

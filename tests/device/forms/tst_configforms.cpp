@@ -1,6 +1,6 @@
 // The configuration forms with valid and invalid values of a back end.
-#include "device/models/cameraform.h"
-#include "device/models/encodeform.h"
+#include "device/forms/cameraform.h"
+#include "device/forms/encodeform.h"
 #include "device/registry/devicebase.h"
 #include "device/registry/devicefactory.h"
 #include "tests/datatable.h"

@@ -1,4 +1,4 @@
-#include "device/models/systemtools.h"
+#include "device/forms/systemtools.h"
 
 #include "device/registry/passwordstrength.h"
 #include "device/store/ipv4address.h"

@@ -1,6 +1,6 @@
-#include "device/models/encodeform.h"
+#include "device/forms/encodeform.h"
 
-#include "device/models/modelkeys.h"
+#include "device/forms/formkeys.h"
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
 #include "device/registry/encodekeys.h"

@@ -1,4 +1,4 @@
-#include "device/models/channelnameform.h"
+#include "device/forms/channelnameform.h"
 
 #include "device/models/modelkeys.h"
 #include "device/registry/bytetext.h"
