@@ -1,5 +1,5 @@
 #include "device/registry/devicefactory.h"
-#include "tests/tour/commonsteps.h"
+#include "tests/tour/driver/commonsteps.h"
 #include "tests/tour/steps.h"
 
 #include <QDir>

@@ -1,7 +1,7 @@
 #include "cgi/cgiconfigmanage.h"
 #include "sheets/qexcel.h"
-#include "tests/tour/commonsteps.h"
-#include "tests/tour/rows.h"
+#include "tests/tour/driver/commonsteps.h"
+#include "tests/tour/driver/rows.h"
 #include "tests/tour/steps.h"
 
 #include <QClipboard>

@@ -1,6 +1,6 @@
-#include "tests/tour/commonsteps.h"
-#include "tests/tour/openedaddresses.h"
-#include "tests/tour/rows.h"
+#include "tests/tour/driver/commonsteps.h"
+#include "tests/tour/driver/openedaddresses.h"
+#include "tests/tour/driver/rows.h"
 #include "tests/tour/steps.h"
 
 #include <QClipboard>

@@ -1,8 +1,8 @@
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/scene/fault.h"
-#include "tests/tour/livewindow.h"
-#include "tests/tour/otherwindow.h"
-#include "tests/tour/rows.h"
+#include "tests/tour/driver/livewindow.h"
+#include "tests/tour/driver/otherwindow.h"
+#include "tests/tour/driver/rows.h"
 #include "tests/tour/steps.h"
 
 #include <QDir>

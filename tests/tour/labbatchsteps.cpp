@@ -1,10 +1,10 @@
 // Batches on devices that use open standards: commands, addresses, snapshots and firmware.
 #include "device/registry/upgradetools.h"
 #include "tests/files/filecontents.h"
-#include "tests/tour/commonsteps.h"
-#include "tests/tour/driver.h"
-#include "tests/tour/livewindow.h"
-#include "tests/tour/rows.h"
+#include "tests/tour/driver/commonsteps.h"
+#include "tests/tour/driver/driver.h"
+#include "tests/tour/driver/livewindow.h"
+#include "tests/tour/driver/rows.h"
 #include "tests/tour/steps.h"
 
 #include <QDir>

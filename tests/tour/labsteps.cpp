@@ -1,8 +1,8 @@
 // The main operations on devices that use open standards, over real sockets.
-#include "tests/tour/commonsteps.h"
-#include "tests/tour/driver.h"
-#include "tests/tour/livewindow.h"
-#include "tests/tour/rows.h"
+#include "tests/tour/driver/commonsteps.h"
+#include "tests/tour/driver/driver.h"
+#include "tests/tour/driver/livewindow.h"
+#include "tests/tour/driver/rows.h"
 #include "tests/tour/steps.h"
 
 using namespace Qt::StringLiterals;

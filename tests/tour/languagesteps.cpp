@@ -1,4 +1,4 @@
-#include "tests/tour/driver.h"
+#include "tests/tour/driver/driver.h"
 #include "tests/tour/steps.h"
 
 using namespace Qt::StringLiterals;

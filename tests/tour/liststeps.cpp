@@ -1,5 +1,5 @@
-#include "tests/tour/driver.h"
-#include "tests/tour/rows.h"
+#include "tests/tour/driver/driver.h"
+#include "tests/tour/driver/rows.h"
 #include "tests/tour/steps.h"
 
 #include <QCoreApplication>

@@ -2,9 +2,9 @@
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/scene/fault.h"
 #include "sdk/netlibrary.h"
-#include "tests/tour/commonsteps.h"
-#include "tests/tour/driver.h"
-#include "tests/tour/livewindow.h"
+#include "tests/tour/driver/commonsteps.h"
+#include "tests/tour/driver/driver.h"
+#include "tests/tour/driver/livewindow.h"
 #include "tests/tour/steps.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 // The dark theme of the pages and dialogs that can be opened without changing a device.
 #include "app/localconfig.h"
-#include "tests/tour/commonsteps.h"
-#include "tests/tour/livewindow.h"
+#include "tests/tour/driver/commonsteps.h"
+#include "tests/tour/driver/livewindow.h"
 #include "tests/tour/steps.h"
 
 #include <QApplication>

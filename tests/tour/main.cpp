@@ -11,10 +11,11 @@
 #include "sdk/demo/demonetlibrary.h"
 #include "sdk/demo/demosite.h"
 #include "tests/files/filecontents.h"
-#include "tests/tour/commonsteps.h"
-#include "tests/tour/driver.h"
+#include "tests/tour/driver/commonsteps.h"
+#include "tests/tour/driver/driver.h"
 #include "tests/tour/stages.h"
 #include "tests/tour/steps.h"
+#include "tests/tour/users/usersteps.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"
-#include "tests/tour/commonsteps.h"
+#include "tests/tour/driver/commonsteps.h"
 #include "tests/tour/steps.h"
 
 using namespace Qt::StringLiterals;

@@ -1,7 +1,8 @@
 #include "tests/tour/stages.h"
 
-#include "tests/tour/driver.h"
+#include "tests/tour/driver/driver.h"
 #include "tests/tour/steps.h"
+#include "tests/tour/users/usersteps.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/scene/fault.h"
-#include "tests/tour/commonsteps.h"
-#include "tests/tour/rows.h"
-#include "tests/tour/scenedevices.h"
-#include "tests/tour/scrolledtree.h"
+#include "tests/tour/driver/commonsteps.h"
+#include "tests/tour/driver/rows.h"
+#include "tests/tour/driver/scenedevices.h"
+#include "tests/tour/driver/scrolledtree.h"
 #include "tests/tour/steps.h"
 
 using namespace Qt::StringLiterals;

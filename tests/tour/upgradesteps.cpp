@@ -3,9 +3,9 @@
 #include "sdk/demo/demosite.h"
 #include "sheets/qexcel.h"
 #include "tests/files/filecontents.h"
-#include "tests/tour/commonsteps.h"
-#include "tests/tour/openedaddresses.h"
-#include "tests/tour/rows.h"
+#include "tests/tour/driver/commonsteps.h"
+#include "tests/tour/driver/openedaddresses.h"
+#include "tests/tour/driver/rows.h"
 #include "tests/tour/steps.h"
 
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "app/languages.h"
 #include "app/localconfig.h"
-#include "tests/tour/driver.h"
+#include "tests/tour/driver/driver.h"
 #include "tests/tour/steps.h"
 
 #include <QGuiApplication>

@@ -1,7 +1,7 @@
 // The layout check of the tour finds faults, and reports no others.
 #include "tests/datatable.h"
 #include "tests/qml/configtools/qmlscene.h"
-#include "tests/tour/layoutcheck.h"
+#include "tests/tour/driver/layoutcheck.h"
 
 class TestLayoutCheck : public QObject
 {

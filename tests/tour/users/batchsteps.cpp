@@ -1,8 +1,8 @@
 #include "sdk/demo/demosite.h"
-#include "tests/tour/commonsteps.h"
-#include "tests/tour/driver.h"
-#include "tests/tour/rows.h"
-#include "tests/tour/steps.h"
+#include "tests/tour/driver/commonsteps.h"
+#include "tests/tour/driver/driver.h"
+#include "tests/tour/driver/rows.h"
+#include "tests/tour/users/usersteps.h"
 
 #include <QFile>
 #include <QHash>

@@ -1,9 +1,9 @@
 // A user whose list remains empty: a search of the local network does not reach the only device. It is added
 // by its address, and found with other search settings. Without any device the user can open the demo site.
 #include "tests/files/filecontents.h"
-#include "tests/tour/commonsteps.h"
-#include "tests/tour/rows.h"
-#include "tests/tour/steps.h"
+#include "tests/tour/driver/commonsteps.h"
+#include "tests/tour/driver/rows.h"
+#include "tests/tour/users/usersteps.h"
 
 using namespace Qt::StringLiterals;
 

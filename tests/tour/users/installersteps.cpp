@@ -2,10 +2,10 @@
 // sets one password, twelve addresses in one range and names from a pattern, fetches and saves images, and
 // exports the list.
 #include "tests/files/filecontents.h"
-#include "tests/tour/commonsteps.h"
-#include "tests/tour/otherwindow.h"
-#include "tests/tour/rows.h"
-#include "tests/tour/steps.h"
+#include "tests/tour/driver/commonsteps.h"
+#include "tests/tour/driver/otherwindow.h"
+#include "tests/tour/driver/rows.h"
+#include "tests/tour/users/usersteps.h"
 
 #include <QImage>
 

@@ -1,9 +1,9 @@
 // A user without a mouse.
 #include "sdk/demo/demosite.h"
-#include "tests/tour/commonsteps.h"
-#include "tests/tour/rows.h"
-#include "tests/tour/scenedevices.h"
-#include "tests/tour/steps.h"
+#include "tests/tour/driver/commonsteps.h"
+#include "tests/tour/driver/rows.h"
+#include "tests/tour/driver/scenedevices.h"
+#include "tests/tour/users/usersteps.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,8 +1,8 @@
 #include "device/batch/batch.h"
 #include "sdk/demo/demosite.h"
-#include "tests/tour/commonsteps.h"
-#include "tests/tour/rows.h"
-#include "tests/tour/steps.h"
+#include "tests/tour/driver/commonsteps.h"
+#include "tests/tour/driver/rows.h"
+#include "tests/tour/users/usersteps.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 // Steps that several subjects of the tour share.
 #pragma once
 
-#include "tests/tour/driver.h"
+#include "tests/tour/driver/driver.h"
 
 #include <QCoreApplication>
 

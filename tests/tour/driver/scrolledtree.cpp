@@ -1,4 +1,4 @@
-#include "tests/tour/scrolledtree.h"
+#include "tests/tour/driver/scrolledtree.h"
 
 #include "device/models/treerows.h"
 

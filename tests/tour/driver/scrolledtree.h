@@ -1,7 +1,7 @@
 // Clicks into a device tree that is scrolled to its end.
 #pragma once
 
-#include "tests/tour/driver.h"
+#include "tests/tour/driver/driver.h"
 
 /// Clicks visible rows. The tour fails if the tree scrolls, or if another row reacts.
 class ScrolledTree

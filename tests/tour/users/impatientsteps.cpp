@@ -2,10 +2,10 @@
 // the tab during a batch, and closes the window.
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/scene/fault.h"
-#include "tests/tour/commonsteps.h"
-#include "tests/tour/livewindow.h"
-#include "tests/tour/rows.h"
-#include "tests/tour/steps.h"
+#include "tests/tour/driver/commonsteps.h"
+#include "tests/tour/driver/livewindow.h"
+#include "tests/tour/driver/rows.h"
+#include "tests/tour/users/usersteps.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // Opening and closing the live window of a device.
 #pragma once
 
-#include "tests/tour/otherwindow.h"
+#include "tests/tour/driver/otherwindow.h"
 
 #include <QVariantMap>
 

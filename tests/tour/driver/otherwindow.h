@@ -1,7 +1,7 @@
 // Windows other than the main window.
 #pragma once
 
-#include "tests/tour/driver.h"
+#include "tests/tour/driver/driver.h"
 
 #include <QGuiApplication>
 

@@ -1,6 +1,6 @@
-#include "tests/tour/driver.h"
+#include "tests/tour/driver/driver.h"
 
-#include "tests/tour/layoutcheck.h"
+#include "tests/tour/driver/layoutcheck.h"
 
 #include <QAccessible>
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "tests/tour/layoutcheck.h"
+#include "tests/tour/driver/layoutcheck.h"
 
 #include <QQuickItem>
 #include <QQuickWindow>

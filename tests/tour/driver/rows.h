@@ -1,7 +1,7 @@
 // The contents of a table.
 #pragma once
 
-#include "tests/tour/driver.h"
+#include "tests/tour/driver/driver.h"
 
 #include <QAbstractItemModel>
 
