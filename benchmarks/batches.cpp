@@ -1,5 +1,6 @@
 #include "benchmarks/measurements.h"
 
+#include "benchmarks/iterationwatch.h"
 #include "device/batch/batches.h"
 #include "device/dh/devicedh.h"
 #include "device/models/treemodel.h"
@@ -10,9 +11,6 @@
 
 #include <QElapsedTimer>
 #include <QEventLoop>
-#include <QTimer>
-
-using namespace std::chrono_literals;
 
 namespace {
 
@@ -78,15 +76,8 @@ QList<BenchmarkResult> measureBatches()
         batch, &Batch::resulted, &tree,
         [&tree](const QStringList &done, const QList<int> &results) { tree.takeResults(done, results, {}); });
     QObject::connect(batch, &Batch::finished, &loop, &QEventLoop::quit);
-    QElapsedTimer sinceIteration;
-    qint64 longestIteration = 0;
-    QTimer iterations;
-    QObject::connect(&iterations, &QTimer::timeout, &iterations, [&] {
-        longestIteration =
-            std::max(longestIteration, sinceIteration.isValid() ? sinceIteration.elapsed() : 0);
-        sinceIteration.start();
-    });
-    iterations.start(5ms);
+    IterationWatch iterations;
+    iterations.start();
     loop.exec();
     iterations.stop();
     const double parallel = static_cast<double>(time.elapsed()) / 1000;
@@ -102,7 +93,7 @@ QList<BenchmarkResult> measureBatches()
              .largestRatio = 1.0 / 6,
              .peerName = QStringLiteral("one after another")},
             {.subject = QStringLiteral("longest iteration of the event loop meanwhile"),
-             .value = static_cast<double>(longestIteration),
+             .value = static_cast<double>(iterations.longest()),
              .unit = QStringLiteral("ms"),
              .budget = 50,
              .peer = {},

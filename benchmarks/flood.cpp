@@ -4,6 +4,7 @@
 #include "app/desktopscheme.h"
 #include "app/localconfig.h"
 #include "app/publication.h"
+#include "benchmarks/iterationwatch.h"
 #include "cgi/cgiconfigmanage.h"
 #include "device/accounts/certificatestore.h"
 #include "device/batch/batchengine.h"
@@ -15,12 +16,10 @@
 #include "sdk/clock.h"
 #include "tests/media/quietnetlibrary.h"
 
-#include <QElapsedTimer>
 #include <QQmlApplicationEngine>
 #include <QQuickStyle>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTimer>
 
 #include <atomic>
 #include <random>
@@ -95,8 +94,7 @@ QList<BenchmarkResult> measureFlood()
                                            [] { return SearchSettings{.localDomain = true}; });
     });
     const double before = residentMegabytes(QCoreApplication::applicationPid());
-    QElapsedTimer sinceIteration;
-    qint64 longestIteration = 0;
+    IterationWatch iterations;
     {
         QQuickStyle::setStyle(QStringLiteral("Basic"));
         BatchEngine batchEngine(libraries.clock);
@@ -110,13 +108,7 @@ QList<BenchmarkResult> measureFlood()
         engine.load(QUrl(QStringLiteral("qrc:/qt/qml/configtools/main.qml"))); // starts a search
         QTest::qWait(500);                                                     // the first frame
 
-        QTimer iterations;
-        QObject::connect(&iterations, &QTimer::timeout, &iterations, [&] {
-            longestIteration =
-                std::max(longestIteration, sinceIteration.isValid() ? sinceIteration.elapsed() : 0);
-            sinceIteration.start();
-        });
-        iterations.start(5ms);
+        iterations.start();
         done.wait(20000);
         QTest::qWait(1000);
         iterations.stop();
@@ -128,7 +120,7 @@ QList<BenchmarkResult> measureFlood()
     CDeviceFactory::deleteInstance();
     const QString subject = QStringLiteral(" while %1 new devices respond").arg(net->answers);
     return {{.subject = QStringLiteral("longest iteration of the event loop") + subject,
-             .value = static_cast<double>(longestIteration),
+             .value = static_cast<double>(iterations.longest()),
              .unit = QStringLiteral("ms"),
              .budget = 300,
              .peer = {},

@@ -10,9 +10,9 @@
 #include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
 #include "sdk/netlibrary.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QFileInfo>
 #include <QQuickWindow>
 #include <QTest>
@@ -88,19 +88,6 @@ double processorTime()
     return milliseconds(usage.ru_utime) + milliseconds(usage.ru_stime);
 }
 
-/// Resident memory of this process, including free memory of the allocator.
-double residentMegabytes()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QFile::ReadOnly))
-        return 0;
-    for (const QByteArray &line : status.readAll().split('\n')) {
-        if (line.startsWith("VmRSS:"))
-            return line.simplified().split(' ').value(1).toDouble() / 1024;
-    }
-    return 0;
-}
-
 void awaitFrame(const VideoItem &video)
 {
     if (!QTest::qWaitFor([&] { return video.hasPicture(); }, longWait))
@@ -155,10 +142,10 @@ QList<BenchmarkResult> measureStarts(const LiveSite &site)
         firstFrames.append(static_cast<double>(time.elapsed()));
         video.stop();
         if (start == settled)
-            settledMemory = residentMegabytes();
+            settledMemory = residentMegabytes(QCoreApplication::applicationPid());
     }
     return {{.subject = QStringLiteral("growth of memory from the 10th to the 100th live view"),
-             .value = residentMegabytes() - settledMemory,
+             .value = residentMegabytes(QCoreApplication::applicationPid()) - settledMemory,
              .unit = QStringLiteral("MB"),
              .budget = 4, // free memory that the allocator keeps
              .peer = {},
@@ -180,7 +167,7 @@ BenchmarkResult measureMemoryAfterNine(const LiveSite &site)
     constexpr int views = 9;
     constexpr int shownFor = 10000;
     constexpr int closedFor = 30000;
-    const double before = residentMegabytes();
+    const double before = residentMegabytes(QCoreApplication::applicationPid());
     {
         QQuickWindow window;
         window.resize(1280, 720);
@@ -200,7 +187,7 @@ BenchmarkResult measureMemoryAfterNine(const LiveSite &site)
     }
     QTest::qWait(closedFor);
     return {.subject = QStringLiteral("growth of memory half a minute after nine live views were closed"),
-            .value = residentMegabytes() - before,
+            .value = residentMegabytes(QCoreApplication::applicationPid()) - before,
             .unit = QStringLiteral("MB"),
             .budget = 60,
             .peer = {},

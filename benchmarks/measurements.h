@@ -50,7 +50,7 @@ class NumberedStream;
 /// The window and its memory while a search receives more responses than a real network can send.
 [[nodiscard]] QList<BenchmarkResult> measureFlood();
 
-/// The resident memory of a process in megabytes.
+/// The resident memory of a process in megabytes, including free memory of its allocator.
 [[nodiscard]] double residentMegabytes(qint64 process);
 
 /// The memory of the application with 10,000 rows.
