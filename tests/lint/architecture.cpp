@@ -1,11 +1,13 @@
-// Fails if a file includes a header of a folder that its own folder must not depend on. The link graph does
-// not cover headers that need no linking.
+// Fails if a file includes a header of a folder that its own folder must not depend on, or if files include
+// each other. The link graph does not cover headers that need no linking.
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <map>
 #include <optional>
 #include <regex>
+#include <set>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -147,10 +149,51 @@ std::optional<std::string> objection(std::string_view file, std::string_view inc
     return std::nullopt;
 }
 
-int checkFile(const fs::path &root, const fs::path &path)
+/// The included units of each unit. A header and its source are one unit, named by the path without suffix.
+using Includes = std::map<std::string, std::set<std::string>>;
+
+std::string unitOf(std::string_view path)
+{
+    return std::string(path.substr(0, path.rfind('.')));
+}
+
+/// The units of a cycle, each of which includes the next one; empty if there is no cycle.
+std::vector<std::string> cycleIn(Includes includes)
+{
+    const auto remains = [&includes](const std::string &unit) {
+        return includes.contains(unit);
+    };
+    // Units that include no remaining unit are not part of a cycle.
+    std::vector<std::string> ends;
+    do {
+        ends.clear();
+        for (const auto &[unit, included] : includes) {
+            if (std::ranges::none_of(included, remains))
+                ends.push_back(unit);
+        }
+        for (const std::string &unit : ends)
+            includes.erase(unit);
+    } while (!ends.empty());
+
+    std::vector<std::string> cycle;
+    if (includes.empty())
+        return cycle;
+    std::string unit = includes.begin()->first;
+    while (std::ranges::find(cycle, unit) == cycle.end()) {
+        cycle.push_back(unit);
+        unit = *std::ranges::find_if(includes.at(unit), remains);
+    }
+    cycle.erase(cycle.begin(), std::ranges::find(cycle, unit)); // units that only lead to the cycle
+    return cycle;
+}
+
+/// Checks the includes of a file and adds them to `includes`.
+int checkFile(const fs::path &root, const fs::path &path, Includes &includes)
 {
     static const std::regex pattern("^\\s*#\\s*include\\s*[\"<]([^\">]+)[\">]");
     const std::string file = path.lexically_relative(root).generic_string();
+    const std::string unit = unitOf(file);
+    std::set<std::string> &units = includes[unit];
     std::ifstream stream(path);
     int faults = 0;
     int number = 0;
@@ -159,7 +202,10 @@ int checkFile(const fs::path &root, const fs::path &path)
         std::smatch match;
         if (!std::regex_search(line, match, pattern))
             continue;
-        if (const auto fault = objection(file, match[1].str())) {
+        const std::string included = match[1].str();
+        if (unitOf(included) != unit)
+            units.insert(unitOf(included));
+        if (const auto fault = objection(file, included)) {
             std::cerr << file << ':' << number << ": " << *fault << '\n';
             ++faults;
         }
@@ -169,6 +215,7 @@ int checkFile(const fs::path &root, const fs::path &path)
 
 int checkProject(const fs::path &root)
 {
+    Includes includes;
     int faults = 0;
     int files = 0;
     for (fs::recursive_directory_iterator entry(root), end; entry != end; ++entry) {
@@ -178,8 +225,14 @@ int checkProject(const fs::path &root)
         const std::string extension = entry->path().extension().string();
         if (entry->is_regular_file() && (extension == ".h" || extension == ".cpp")) {
             ++files;
-            faults += checkFile(root, entry->path());
+            faults += checkFile(root, entry->path(), includes);
         }
+    }
+    if (const auto cycle = cycleIn(includes); !cycle.empty()) {
+        std::cerr << "these files include each other:\n";
+        for (const std::string &unit : cycle)
+            std::cerr << "  " << unit << '\n';
+        ++faults;
     }
     if (files == 0)
         std::cerr << root << " contains no source\n";
@@ -215,6 +268,15 @@ int selfTest()
             std::cerr << one.file << " including " << one.included << " gives the wrong result\n";
             ++faults;
         }
+    }
+    if (!cycleIn({{"a", {"b", "QHash"}}, {"b", {"c"}}, {"c", {}}}).empty()) {
+        std::cerr << "a cycle is found where there is none\n";
+        ++faults;
+    }
+    if (cycleIn({{"a", {"b"}}, {"b", {"c"}}, {"c", {"b"}}, {"d", {}}}) !=
+        std::vector<std::string>{"b", "c"}) {
+        std::cerr << "the cycle is not found\n";
+        ++faults;
     }
     return faults == 0 ? 0 : 1;
 }
