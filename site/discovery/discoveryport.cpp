@@ -116,17 +116,15 @@ bool DiscoveryPort::isOpen() const
 
 void DiscoveryPort::sendHello()
 {
-    const std::optional<sdk::demo::SceneDevice> device = m_site.device(m_mac);
-    if (!device || device->inOtherSegment)
-        return;
-    const DeviceManner manner = m_options.mannerOf(*device);
-    for (const int ipVersion : {4, 6}) {
-        const DiscoveryIdentity identity = discoveryIdentity(*device, manner, ipVersion);
-        m_sockets->sendToGroup(ipVersion, helloMessage(identity, m_sockets->next(), manner.xml));
-    }
+    sendToGroups(helloMessage);
 }
 
 void DiscoveryPort::sendBye()
+{
+    sendToGroups(byeMessage);
+}
+
+void DiscoveryPort::sendToGroups(Announcement message)
 {
     const std::optional<sdk::demo::SceneDevice> device = m_site.device(m_mac);
     if (!device || device->inOtherSegment)
@@ -134,7 +132,7 @@ void DiscoveryPort::sendBye()
     const DeviceManner manner = m_options.mannerOf(*device);
     for (const int ipVersion : {4, 6}) {
         const DiscoveryIdentity identity = discoveryIdentity(*device, manner, ipVersion);
-        m_sockets->sendToGroup(ipVersion, byeMessage(identity, m_sockets->next(), manner.xml));
+        m_sockets->sendToGroup(ipVersion, message(identity, m_sockets->next(), manner.xml));
     }
 }
 

@@ -1,6 +1,7 @@
 // The port of a device that responds to searches.
 #pragma once
 
+#include "site/discovery/discoverymessages.h"
 #include "site/network/filedescriptor.h"
 #include "site/siteoptions.h"
 
@@ -41,6 +42,9 @@ public:
 
 private:
     struct Sockets;
+    using Announcement = QByteArray (*)(const DiscoveryIdentity &identity, DiscoverySequence sequence,
+                                        XmlManner manner);
+    void sendToGroups(Announcement message);
     void receive(int ipVersion);
 
     sdk::demo::DemoSite &m_site;

@@ -207,21 +207,28 @@ ServiceResult setVideoEncoderConfiguration(ServiceCall &call)
     return std::nullopt;
 }
 
-ServiceResult getVideoEncoderConfigurationOptions(ServiceCall &call)
+ServiceResult writeOptions(ServiceCall &call, MediaObject object,
+                           void (*write)(XmlElement options, const SceneDevice &device,
+                                         const MediaStream &stream))
 {
-    const std::optional<QString> configuration = textAt(call.request, "trt:ConfigurationToken");
-    const std::optional<QString> profile = textAt(call.request, "trt:ProfileToken");
+    const QString configuration = textAt(call.request, "trt:ConfigurationToken").value_or(QString());
+    const QString profile = textAt(call.request, "trt:ProfileToken").value_or(QString());
     std::optional<MediaStream> stream = MediaStream();
-    if (configuration && !configuration->isEmpty())
-        stream = streamOf(call.device, MediaObject::VideoEncoder, *configuration);
-    else if (profile && !profile->isEmpty())
-        stream = streamOf(call.device, MediaObject::Profile, *profile);
+    if (!configuration.isEmpty())
+        stream = streamOf(call.device, object, configuration);
+    else if (!profile.isEmpty())
+        stream = streamOf(call.device, MediaObject::Profile, profile);
     if (!stream)
         return noSuchConfiguration();
     if (call.device.hasFault(Fault::RefusesCapabilities))
         return SoapFault::failed(u"The device does not report its capabilities"_s);
-    writeMediaVideoOptions(call.response.add("trt:Options"), call.device, *stream);
+    write(call.response.add("trt:Options"), call.device, *stream);
     return std::nullopt;
+}
+
+ServiceResult getVideoEncoderConfigurationOptions(ServiceCall &call)
+{
+    return writeOptions(call, MediaObject::VideoEncoder, writeMediaVideoOptions);
 }
 
 ServiceResult getGuaranteedNumber(ServiceCall &call)
@@ -280,19 +287,7 @@ ServiceResult setAudioEncoderConfiguration(ServiceCall &call)
 
 ServiceResult getAudioEncoderConfigurationOptions(ServiceCall &call)
 {
-    const std::optional<QString> configuration = textAt(call.request, "trt:ConfigurationToken");
-    const std::optional<QString> profile = textAt(call.request, "trt:ProfileToken");
-    std::optional<MediaStream> stream = MediaStream();
-    if (configuration && !configuration->isEmpty())
-        stream = streamOf(call.device, MediaObject::AudioEncoder, *configuration);
-    else if (profile && !profile->isEmpty())
-        stream = streamOf(call.device, MediaObject::Profile, *profile);
-    if (!stream)
-        return noSuchConfiguration();
-    if (call.device.hasFault(Fault::RefusesCapabilities))
-        return SoapFault::failed(u"The device does not report its capabilities"_s);
-    writeMediaAudioOptions(call.response.add("trt:Options"), call.device, *stream);
-    return std::nullopt;
+    return writeOptions(call, MediaObject::AudioEncoder, writeMediaAudioOptions);
 }
 
 ServiceResult switchAudio(ServiceCall &call, bool isOn)
