@@ -289,6 +289,20 @@ EncodeStreamRecord recordOf(const Stream &stream)
 
 constexpr std::array servedKinds = {StreamKind::MainNormal, StreamKind::Sub};
 
+/// Copies `block` of `size` bytes into `typedBlock`, and reads the stream that it names.
+template<typename Block>
+ServiceResult<Stream> readStreamOf(Block &typedBlock, const void *block, std::uint32_t size,
+                                   OnvifSession &session, int channel, Purpose purpose, Deadline deadline)
+{
+    if (!block || size != sizeof(typedBlock))
+        return {.error = NetError::InvalidValue};
+    std::memcpy(&typedBlock, block, sizeof(typedBlock));
+    if (typedBlock.size != static_cast<std::int32_t>(sizeof(typedBlock)) ||
+        !isStreamNumber(typedBlock.stream))
+        return {.error = NetError::InvalidValue};
+    return readStream(session, channel, kindOf(typedBlock.stream), purpose, deadline);
+}
+
 } // namespace
 
 std::string encodeConfiguration(OnvifSession &session, int channel, Deadline deadline, NetError &error)
@@ -355,14 +369,8 @@ NetError encodeItem(OnvifSession &session, std::uint32_t item, int channel, void
                     Deadline deadline)
 {
     const auto read = [&](auto typedBlock, auto fillIn) {
-        if (!block || size != sizeof(typedBlock))
-            return NetError::InvalidValue;
-        std::memcpy(&typedBlock, block, sizeof(typedBlock));
-        if (typedBlock.size != static_cast<std::int32_t>(sizeof(typedBlock)) ||
-            !isStreamNumber(typedBlock.stream))
-            return NetError::InvalidValue;
         ServiceResult<Stream> stream =
-            readStream(session, channel, kindOf(typedBlock.stream), Purpose::Show, deadline);
+            readStreamOf(typedBlock, block, size, session, channel, Purpose::Show, deadline);
         if (!stream.isOk())
             return stream.error;
         const NetError error = fillIn(typedBlock, stream.value);
@@ -402,14 +410,8 @@ NetError setEncodeItem(OnvifSession &session, std::uint32_t item, int channel, c
                        std::uint32_t size, Deadline deadline)
 {
     const auto write = [&](auto typedBlock, auto apply) {
-        if (!block || size != sizeof(typedBlock))
-            return NetError::InvalidValue;
-        std::memcpy(&typedBlock, block, sizeof(typedBlock));
-        if (typedBlock.size != static_cast<std::int32_t>(sizeof(typedBlock)) ||
-            !isStreamNumber(typedBlock.stream))
-            return NetError::InvalidValue;
         ServiceResult<Stream> stream =
-            readStream(session, channel, kindOf(typedBlock.stream), Purpose::Change, deadline);
+            readStreamOf(typedBlock, block, size, session, channel, Purpose::Change, deadline);
         return stream.isOk() ? apply(typedBlock, stream.value) : stream.error;
     };
     switch (static_cast<EncodeItem>(item)) {
