@@ -1,8 +1,10 @@
-// Opening and closing the live window of a device.
+// Opening and closing the live window of a device, and its snapshots.
 #pragma once
 
 #include "tests/tour/driver/otherwindow.h"
 
+#include <QDir>
+#include <QImage>
 #include <QVariantMap>
 
 /// Enters an address in the search field of the main window and waits until the device is the first row.
@@ -22,6 +24,20 @@ inline QQuickWindow *openLive(const Driver &driver, const QString &ipport)
     findDevice(driver, ipport);
     driver.click(QStringLiteral("live0"));
     return awaitWindow(driver, QStringLiteral("liveWindow"));
+}
+
+/// Checks that `folder` has an image for each of `count` connected channels, and closes the snapshots.
+inline void closeSnapshots(const Driver &live, const QString &folder, int count)
+{
+    const QDir images(folder);
+    const QStringList files = images.entryList({QStringLiteral("*.jpg")}, QDir::Files);
+    live.check(files.size() == count, QStringLiteral("a file for each connected channel"));
+    for (const QString &file : files) {
+        live.check(!QImage(images.filePath(file)).isNull(), QStringLiteral("%1 is an image").arg(file));
+    }
+    live.key(Qt::Key_Escape);
+    live.await(QStringLiteral("the snapshots are closed"),
+               [&] { return !live.find(QStringLiteral("snapshotGrid")); });
 }
 
 inline void closeLive(const Driver &driver, const Driver &live)
