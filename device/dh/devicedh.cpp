@@ -3,8 +3,8 @@
 #include "device/dh/agentlistener.h"
 #include "device/dh/configuration/configurationpages.h"
 #include "device/dh/configuration/currentsession.h"
+#include "device/dh/configuration/devicereservations.h"
 #include "device/dh/configuration/encodecopies.h"
-#include "device/dh/configuration/pagehold.h"
 #include "device/dh/configuration/sessionlogins.h"
 #include "device/dh/lists/devicelists.h"
 #include "device/dh/logins/devicelogins.h"
@@ -40,11 +40,12 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
       m_lists(std::make_unique<DeviceLists>(store, m_libraries, *m_logins, m_signals)),
       m_system(std::make_unique<SystemOperations>(store, m_libraries, *m_logins, *m_threads, isUpgradingAt(),
                                                   m_signals)),
-      m_hold(std::make_unique<PageHold>(store, m_engine, isUpgradingAt())),
+      m_reservations(std::make_unique<DeviceReservations>(store, m_engine, isUpgradingAt())),
       m_session(std::make_unique<CurrentSession>(m_libraries, *m_threads)),
       m_sessionLogins(std::make_unique<SessionLogins>(store, m_libraries, *m_logins, m_threads,
-                                                      takeOwnPicture(), *m_hold, *m_session, m_signals)),
-      m_pages(std::make_unique<ConfigurationPages>(m_libraries, *m_hold, *m_session, m_signals)),
+                                                      takeOwnPicture(), *m_reservations, *m_session,
+                                                      m_signals)),
+      m_pages(std::make_unique<ConfigurationPages>(m_libraries, *m_reservations, *m_session, m_signals)),
       m_encodeCopies(std::make_unique<EncodeCopies>(store, m_libraries, *m_logins, isUpgradingAt(),
                                                     *m_session, m_signals)),
       m_pictures(std::make_unique<PictureOperations>(store, m_libraries, *m_logins, isUpgradingAt(),

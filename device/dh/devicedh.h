@@ -21,7 +21,7 @@ class DeviceLogins;
 class DocumentUpgrades;
 class EncodeCopies;
 class FoundDevices;
-class PageHold;
+class DeviceReservations;
 class PictureOperations;
 class RowOperations;
 class RowUpgrades;
@@ -191,7 +191,7 @@ private:
     const std::unique_ptr<FoundDevices> m_foundDevices;
     const std::unique_ptr<DeviceLists> m_lists;
     const std::unique_ptr<SystemOperations> m_system;
-    const std::unique_ptr<PageHold> m_hold;
+    const std::unique_ptr<DeviceReservations> m_reservations;
     const std::unique_ptr<CurrentSession> m_session;
     const std::unique_ptr<SessionLogins> m_sessionLogins;
     const std::unique_ptr<ConfigurationPages> m_pages;

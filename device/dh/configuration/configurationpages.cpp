@@ -1,15 +1,16 @@
 #include "device/dh/configuration/configurationpages.h"
 
 #include "device/dh/configuration/currentsession.h"
-#include "device/dh/configuration/pagehold.h"
+#include "device/dh/configuration/devicereservations.h"
 #include "device/registry/mapkeys.h"
 #include "sdk/netlibrary.h"
 
 #include <utility>
 
-ConfigurationPages::ConfigurationPages(sdk::SdkLibraries libraries, const PageHold &hold,
+ConfigurationPages::ConfigurationPages(sdk::SdkLibraries libraries, const DeviceReservations &reservations,
                                        CurrentSession &session, BackEndSignals &backEndSignals)
-    : m_libraries(std::move(libraries)), m_hold(hold), m_session(session), m_signals(backEndSignals)
+    : m_libraries(std::move(libraries)), m_reservations(reservations), m_session(session),
+      m_signals(backEndSignals)
 {
 }
 
@@ -29,7 +30,7 @@ void ConfigurationPages::emitSignals(const std::vector<SessionRun::SignalCall> &
 std::function<bool()> ConfigurationPages::upgradeCheck(const QString &ipport) const
 {
     return [this, ipport] {
-        return m_hold.isUpgradingAt(ipport);
+        return m_reservations.isUpgradingAt(ipport);
     };
 }
 
@@ -37,7 +38,7 @@ PageStep ConfigurationPages::step(const SessionJob &job)
 {
     return
         [this, job, state = std::make_shared<SessionState>(m_session.state())](const StepControl &control) {
-            const BatchEngine::Reservation reservation = m_hold.reserve(state->ipport, control);
+            const BatchEngine::Reservation reservation = m_reservations.reserve(state->ipport, control);
             if (control.isStopped())
                 return PageOutcome();
             SessionRun run(*state, upgradeCheck(state->ipport));

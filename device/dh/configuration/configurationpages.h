@@ -9,14 +9,14 @@
 #include <functional>
 
 class CurrentSession;
-class PageHold;
+class DeviceReservations;
 
 /// Executes the operations of the configuration pages. Lives on the main thread; its steps run on any thread.
 class ConfigurationPages
 {
 public:
-    ConfigurationPages(sdk::SdkLibraries libraries, const PageHold &hold, CurrentSession &session,
-                       BackEndSignals &backEndSignals);
+    ConfigurationPages(sdk::SdkLibraries libraries, const DeviceReservations &reservations,
+                       CurrentSession &session, BackEndSignals &backEndSignals);
 
     /// Executes operations on the calling thread, blocks it for the device's responses, and emits their
     /// signals.
@@ -36,7 +36,7 @@ private:
     [[nodiscard]] QVariantMap libraryValues() const;
 
     const sdk::SdkLibraries m_libraries;
-    const PageHold &m_hold;
+    const DeviceReservations &m_reservations;
     CurrentSession &m_session;
     BackEndSignals &m_signals;
 };

@@ -1,7 +1,7 @@
 #include "device/dh/configuration/sessionlogins.h"
 
 #include "device/dh/configuration/currentsession.h"
-#include "device/dh/configuration/pagehold.h"
+#include "device/dh/configuration/devicereservations.h"
 #include "device/dh/logins/devicelogins.h"
 #include "device/dh/session/logindetail.h"
 #include "device/dh/session/securelogin.h"
@@ -52,11 +52,11 @@ private:
 
 SessionLogins::SessionLogins(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
                              const DeviceLogins &logins, std::shared_ptr<SessionThreads> threads,
-                             OwnPictureTaker takeOwnPicture, const PageHold &hold, CurrentSession &session,
-                             BackEndSignals &backEndSignals)
+                             OwnPictureTaker takeOwnPicture, const DeviceReservations &reservations,
+                             CurrentSession &session, BackEndSignals &backEndSignals)
     : m_store(std::move(store)), m_libraries(std::move(libraries)), m_logins(logins),
-      m_threads(std::move(threads)), m_takeOwnPicture(std::move(takeOwnPicture)), m_hold(hold),
-      m_session(session), m_signals(backEndSignals)
+      m_threads(std::move(threads)), m_takeOwnPicture(std::move(takeOwnPicture)),
+      m_reservations(reservations), m_session(session), m_signals(backEndSignals)
 {
 }
 
@@ -72,7 +72,7 @@ int SessionLogins::findAndLogin(const QString &ipport, const QString &account, c
 PageStep SessionLogins::loginStep(const QString &ipport, const QString &account, const QString &password)
 {
     return [this, ipport, account, password](const StepControl &control) {
-        const BatchEngine::Reservation reservation = m_hold.reserve(ipport, control);
+        const BatchEngine::Reservation reservation = m_reservations.reserve(ipport, control);
         if (control.isStopped())
             return PageOutcome();
         const auto login = std::make_shared<UntakenLogin>(
@@ -88,7 +88,7 @@ PageStep SessionLogins::loginStep(const QString &ipport, const QString &account,
 
 int SessionLogins::check(const QString &ipport, const QString &account, const QString &password) const
 {
-    if (m_hold.isUpgradingAt(ipport)) // a request after the check would disturb the upgrade
+    if (m_reservations.isUpgradingAt(ipport)) // a request after the check would disturb the upgrade
         return resultCode(LoginResult::Upgrading);
     const SecureLogin login = m_logins.logIn(ipport, {.account = account, .password = password});
     if (login.handle != 0)
@@ -109,7 +109,7 @@ QVariantMap SessionLogins::readDetail(const QString &ipport)
 PageStep SessionLogins::detailStep(const QString &ipport)
 {
     return [this, ipport, known = m_logins.accountAt(ipport)](const StepControl &control) {
-        const BatchEngine::Reservation reservation = m_hold.reserve(ipport, control);
+        const BatchEngine::Reservation reservation = m_reservations.reserve(ipport, control);
         if (control.isStopped())
             return PageOutcome();
         const SecureLogin login = m_logins.logIn(ipport, known);

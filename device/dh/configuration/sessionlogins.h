@@ -14,7 +14,7 @@
 class CurrentSession;
 class DeviceLogins;
 class DeviceStore;
-class PageHold;
+class DeviceReservations;
 class SessionThreads;
 
 /// Implements the operations of CDeviceBase with similar names, and their steps. Lives on the main thread;
@@ -25,7 +25,8 @@ public:
     /// `threads` must not be null. Separate sessions keep a copy of `takeOwnPicture`.
     SessionLogins(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries, const DeviceLogins &logins,
                   std::shared_ptr<SessionThreads> threads, OwnPictureTaker takeOwnPicture,
-                  const PageHold &hold, CurrentSession &session, BackEndSignals &backEndSignals);
+                  const DeviceReservations &reservations, CurrentSession &session,
+                  BackEndSignals &backEndSignals);
 
     /// Logs in for the current session. Returns a LoginResult. Blocks for the device.
     int findAndLogin(const QString &ipport, const QString &account, const QString &password);
@@ -63,7 +64,7 @@ private:
     const DeviceLogins &m_logins;
     const std::shared_ptr<SessionThreads> m_threads;
     const OwnPictureTaker m_takeOwnPicture;
-    const PageHold &m_hold;
+    const DeviceReservations &m_reservations;
     CurrentSession &m_session;
     BackEndSignals &m_signals;
     std::atomic<int> m_lastRequest = 0; ///< number of the latest openSession(); earlier ones are dropped

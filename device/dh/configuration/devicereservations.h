@@ -10,11 +10,11 @@
 class DeviceStore;
 
 /// Reservations of devices against batch steps. Thread-safe.
-class PageHold
+class DeviceReservations
 {
 public:
-    PageHold(std::shared_ptr<DeviceStore> store, std::shared_ptr<BatchEngine> engine,
-             UpgradeCheck isUpgradingAt);
+    DeviceReservations(std::shared_ptr<DeviceStore> store, std::shared_ptr<BatchEngine> engine,
+                       UpgradeCheck isUpgradingAt);
 
     /// Reserves a device; blocks until its running batch step ends. Returns an empty reservation during an
     /// upgrade, and if `control` is stopped or the engine ends before. Any thread.

@@ -1,17 +1,17 @@
-#include "device/dh/configuration/pagehold.h"
+#include "device/dh/configuration/devicereservations.h"
 
 #include "device/batch/batchplan.h"
 #include "device/store/devicestore.h"
 
 #include <utility>
 
-PageHold::PageHold(std::shared_ptr<DeviceStore> store, std::shared_ptr<BatchEngine> engine,
-                   UpgradeCheck isUpgradingAt)
+DeviceReservations::DeviceReservations(std::shared_ptr<DeviceStore> store,
+                                       std::shared_ptr<BatchEngine> engine, UpgradeCheck isUpgradingAt)
     : m_store(std::move(store)), m_engine(std::move(engine)), m_isUpgradingAt(std::move(isUpgradingAt))
 {
 }
 
-BatchEngine::Reservation PageHold::reserve(const QString &ipport, const StepControl &control) const
+BatchEngine::Reservation DeviceReservations::reserve(const QString &ipport, const StepControl &control) const
 {
     // An upgrade step takes minutes: callers refuse conflicting requests instead of waiting.
     if (m_isUpgradingAt(ipport))
