@@ -28,8 +28,8 @@ const QString endIpKey = QStringLiteral("/searchConfig/endIP");
 const QString usernameKey = QStringLiteral("/searchConfig/username");
 const QString passKey = QStringLiteral("/searchConfig/pass");
 const QString loginKey = QStringLiteral("/searchConfig/login");
-const QString devicesAtOnceKey = QStringLiteral("/batchConfig/atOnce");
-const QString upgradesAtOnceKey = QStringLiteral("/upgradeConfig/atOnce");
+const QString parallelDevicesKey = QStringLiteral("/batchConfig/atOnce");
+const QString parallelUpgradesKey = QStringLiteral("/upgradeConfig/atOnce");
 
 const QString colourSchemeKey = QStringLiteral("/look/colourScheme");
 
@@ -180,25 +180,25 @@ void CLocalConfig::setSearchLogsIn(bool logsIn)
     setValue(loginKey, QString::number(logsIn ? 1 : 0));
 }
 
-int CLocalConfig::devicesAtOnce() const
+int CLocalConfig::parallelDevices() const
 {
     constexpr int defaultCount = 8;
     constexpr int maximum = 32;
-    const int stored = number(devicesAtOnceKey);
+    const int stored = number(parallelDevicesKey);
     return stored >= 1 && stored <= maximum ? stored : defaultCount;
 }
 
-int CLocalConfig::upgradesAtOnce() const
+int CLocalConfig::parallelUpgrades() const
 {
     constexpr int defaultCount = 4;
     constexpr int maximum = 16;
-    const int stored = number(upgradesAtOnceKey);
+    const int stored = number(parallelUpgradesKey);
     return stored >= 1 && stored <= maximum ? stored : defaultCount;
 }
 
-void CLocalConfig::setUpgradesAtOnce(int count)
+void CLocalConfig::setParallelUpgrades(int count)
 {
-    setValue(upgradesAtOnceKey, QString::number(count));
+    setValue(parallelUpgradesKey, QString::number(count));
 }
 
 QString CLocalConfig::colourScheme() const

@@ -78,11 +78,11 @@ public:
     Q_INVOKABLE [[nodiscard]] QPoint cursorPos() const; ///< of the mouse, in screen coordinates
 
     /// Number of simultaneous devices of a batch: 1 to 32, or 8 if the setting is missing or invalid.
-    [[nodiscard]] int devicesAtOnce() const;
+    [[nodiscard]] int parallelDevices() const;
 
     /// Number of simultaneous upgrades: 1 to 16, or 4 if the setting is missing or invalid.
-    Q_INVOKABLE [[nodiscard]] int upgradesAtOnce() const;
-    Q_INVOKABLE void setUpgradesAtOnce(int count);
+    Q_INVOKABLE [[nodiscard]] int parallelUpgrades() const;
+    Q_INVOKABLE void setParallelUpgrades(int count);
 
     /// Sets the language of the documents until the application ends. It is not stored.
     void setCurrentLanguage(const QString &code);

@@ -50,7 +50,7 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
     context->setContextProperty(QStringLiteral("AccountsApi"), accountList);
     auto *batches = new Batches(
         *CDeviceFactory::getinstance(), batchEngine,
-        [] { return CLocalConfig::getinstance()->devicesAtOnce(); }, &engine);
+        [] { return CLocalConfig::getinstance()->parallelDevices(); }, &engine);
     batches->keepFailedIn(store);
     QObject::connect(accountList, &AccountList::changed, batches, &Batches::noteAccounts);
     context->setContextProperty(QStringLiteral("BatchesApi"), batches);
@@ -64,7 +64,7 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
     context->setContextProperty(QStringLiteral("UpgradeBatchesApi"),
                                 new UpgradeBatches(
                                     *CDeviceFactory::getinstance(), *batches,
-                                    [] { return CLocalConfig::getinstance()->upgradesAtOnce(); }, batches));
+                                    [] { return CLocalConfig::getinstance()->parallelUpgrades(); }, batches));
     context->setContextProperty(QStringLiteral("BusyStateApi"), CDeviceFactory::getinstance()->busyState());
     context->setContextProperty(QStringLiteral("CDeviceFactoryApi"), CDeviceFactory::getinstance());
     context->setContextProperty(QStringLiteral("CGIConfigManageApi"), CGIConfigManage::getinstance());

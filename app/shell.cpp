@@ -202,7 +202,7 @@ void Shell::registerBackEnds()
             return SearchSettings{.localDomain = config.getSearchConfigLocalDomain() != 0,
                                   .logsIn = config.searchLogsIn()};
         };
-        const UpgradeLimits upgradeLimits{.atOnce = CLocalConfig::getinstance()->upgradesAtOnce()};
+        const UpgradeLimits upgradeLimits{.maximumParallel = CLocalConfig::getinstance()->parallelUpgrades()};
         auto backEnd = std::make_shared<CDeviceDH>(store, libraries, searchSettings, upgradeLimits, engine);
         backEnd->setStoredAccounts([accounts](const QStringList &identities) {
             const std::optional<StoredAccount> stored = accounts->accountOf(identities);

@@ -61,7 +61,7 @@ int BatchEngine::start(std::vector<BatchItem> items, const BatchPolicy &policy,
     const auto batch = std::make_shared<Batch>();
     batch->items = std::move(items);
     batch->policy = policy;
-    batch->policy.atOnce = std::max(policy.atOnce, 1);
+    batch->policy.maximumParallel = std::max(policy.maximumParallel, 1);
     batch->watcher = std::move(watcher);
 
     QHash<QString, std::size_t> firsts;
@@ -112,7 +112,7 @@ void BatchEngine::addThreads()
 {
     std::size_t wanted = 0;
     for (const auto &[number, batch] : m_batches)
-        wanted += std::min(static_cast<std::size_t>(batch->policy.atOnce - batch->usedSlots),
+        wanted += std::min(static_cast<std::size_t>(batch->policy.maximumParallel - batch->usedSlots),
                            batch->waiting.size());
     wanted = std::min(wanted, maximumThreads - m_threads.size() + m_idleThreads);
     try {
@@ -133,12 +133,12 @@ bool BatchEngine::isInUse(const QString &device) const
 BatchEngine::Taken BatchEngine::takeNext()
 {
     for (const auto &[number, batch] : m_batches) {
-        if (batch->isPaused || batch->usedSlots >= batch->policy.atOnce)
+        if (batch->isPaused || batch->usedSlots >= batch->policy.maximumParallel)
             continue;
         for (auto it = batch->waiting.begin(); it != batch->waiting.end(); ++it) {
             const std::size_t index = it->second.back();
             if (isInUse(batch->items[index].device)) {
-                if (batch->policy.atOnce == 1)
+                if (batch->policy.maximumParallel == 1)
                     break; // with one step at a time, the list order is kept strictly
                 continue;
             }
@@ -165,10 +165,11 @@ bool BatchEngine::hasWork() const
         const auto isFree = [&](const auto &waiting) {
             return !isInUse(batch.items[waiting.second.back()].device);
         };
-        if (batch.isPaused || batch.waiting.empty() || batch.usedSlots >= batch.policy.atOnce)
+        if (batch.isPaused || batch.waiting.empty() || batch.usedSlots >= batch.policy.maximumParallel)
             return false;
-        return batch.policy.atOnce == 1 ? isFree(*batch.waiting.begin())
-                                        : std::any_of(batch.waiting.begin(), batch.waiting.end(), isFree);
+        return batch.policy.maximumParallel == 1
+                   ? isFree(*batch.waiting.begin())
+                   : std::any_of(batch.waiting.begin(), batch.waiting.end(), isFree);
     });
 }
 

@@ -27,7 +27,7 @@ struct BatchItem
 /// Limits of a batch.
 struct BatchPolicy
 {
-    int atOnce = 8;                        ///< maximum number of steps in parallel; at least 1 is used
+    int maximumParallel = 8;               ///< maximum number of steps in parallel; at least 1 is used
     std::chrono::milliseconds deadline{0}; ///< of each step, see StepControl::noteProgress(); 0: none
     int wrongPasswordsInARow = 0;          ///< refused passwords in a row that pause the batch; 0: never
 };
@@ -130,7 +130,7 @@ private:
         QHash<std::pair<QString, QString>, StepOutcome> refusals; ///< by device and login
         std::stop_source stop;
         std::size_t running = 0; ///< number of running steps
-        int usedSlots = 0;       ///< used slots of policy.atOnce
+        int usedSlots = 0;       ///< used slots of policy.maximumParallel
         int wrongPasswords = 0;  ///< in a row
         bool isPaused = false;
         bool isStopped = false;

@@ -50,8 +50,9 @@ int upgradeOf(CDeviceFactory &factory, const QString &family, const BatchDevice 
 
 } // namespace
 
-Batches::Batches(CDeviceFactory &factory, BatchEngine &engine, std::function<int()> atOnce, QObject *parent)
-    : QObject(parent), m_factory(factory), m_engine(engine), m_atOnce(std::move(atOnce))
+Batches::Batches(CDeviceFactory &factory, BatchEngine &engine, std::function<int()> maximumParallel,
+                 QObject *parent)
+    : QObject(parent), m_factory(factory), m_engine(engine), m_maximumParallel(std::move(maximumParallel))
 {
     m_files.setMaxThreadCount(1);
     // The user may have entered another default account before the search.
@@ -86,7 +87,9 @@ std::function<DeviceAccount(const BatchDevice &device)> Batches::rowAccounts(con
 
 BatchPolicy Batches::usualPolicy() const
 {
-    return {.atOnce = m_atOnce(), .deadline = stepDeadline, .wrongPasswordsInARow = wrongPasswordsInARow};
+    return {.maximumParallel = m_maximumParallel(),
+            .deadline = stepDeadline,
+            .wrongPasswordsInARow = wrongPasswordsInARow};
 }
 
 Batch *Batches::configureSystem(const QString &family, const QString &command, const QString &title,
@@ -157,7 +160,7 @@ Batch *Batches::initialiseDevices(const QString &family, const QString &title, c
     return start({.family = family,
                   .title = title,
                   .devices = batchDevices(m_factory, family, macs),
-                  .policy = {.atOnce = 1, .deadline = stepDeadline},
+                  .policy = {.maximumParallel = 1, .deadline = stepDeadline},
                   .stepOf =
                       [this, family, account, password](const BatchDevice &device) {
                           return m_factory.backEnd(family)->initialisationStep(device.name, account,
@@ -281,7 +284,8 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
     for (const qsizetype index : order.order)
         ordered.append(plan.devices.at(index));
     plan.devices = ordered;
-    plan.policy = {.atOnce = 1, .deadline = stepDeadline, .wrongPasswordsInARow = wrongPasswordsInARow};
+    plan.policy = {
+        .maximumParallel = 1, .deadline = stepDeadline, .wrongPasswordsInARow = wrongPasswordsInARow};
     // The steps go by MAC, but two rows with one address may be one device, which may refuse the account.
     plan.isByAddress = true;
     plan.accountOf = rowAccounts(plan.family);
@@ -357,7 +361,7 @@ Batch *Batches::takeSnapshots(const QString &family, const QString &title, const
         {.family = family,
          .title = title,
          .devices = channels,
-         .policy = {.atOnce = 1, .deadline = stepDeadline},
+         .policy = {.maximumParallel = 1, .deadline = stepDeadline},
          .stepOf = [stepOfChannel](const BatchDevice &channel) { return stepOfChannel.value(channel.name); },
          .canBeRetried = false}); // the snapshot dialog retries single channels itself
 }

@@ -26,9 +26,9 @@ public:
     /// Maximum number of batches that are kept, including the running one. The oldest one is deleted.
     static constexpr int maximumKept = 50;
 
-    /// `factory` and `engine` must outlive this object. `atOnce` returns the maximum number of devices in
-    /// parallel.
-    Batches(CDeviceFactory &factory, BatchEngine &engine, std::function<int()> atOnce,
+    /// `factory` and `engine` must outlive this object. `maximumParallel` returns the maximum number of
+    /// devices in parallel.
+    Batches(CDeviceFactory &factory, BatchEngine &engine, std::function<int()> maximumParallel,
             QObject *parent = nullptr);
 
     /// Waits until pending result files are written.
@@ -164,7 +164,7 @@ private:
 
     CDeviceFactory &m_factory;
     BatchEngine &m_engine;
-    const std::function<int()> m_atOnce;
+    const std::function<int()> m_maximumParallel;
     QList<Batch *> m_kept; ///< owned, oldest first
     FailedMarks m_failedMarks;
     QThreadPool m_files; ///< one thread, which writes results

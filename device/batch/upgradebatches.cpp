@@ -42,9 +42,9 @@ private:
 
 } // namespace
 
-UpgradeBatches::UpgradeBatches(CDeviceFactory &factory, Batches &batches, std::function<int()> atOnce,
-                               QObject *parent)
-    : QObject(parent), m_factory(factory), m_batches(batches), m_atOnce(std::move(atOnce))
+UpgradeBatches::UpgradeBatches(CDeviceFactory &factory, Batches &batches,
+                               std::function<int()> maximumParallel, QObject *parent)
+    : QObject(parent), m_factory(factory), m_batches(batches), m_maximumParallel(std::move(maximumParallel))
 {
     m_notifyTimer.setSingleShot(true);
     m_notifyTimer.setInterval(notifyInterval);
@@ -76,7 +76,7 @@ BatchPlan UpgradeBatches::usualPlan(const QString &title)
 {
     BatchPlan plan = {.family = dhFamily, .title = title, .work = QStringLiteral("upgrade")};
     plan.policy = m_batches.usualPolicy();
-    plan.policy.atOnce = m_atOnce();
+    plan.policy.maximumParallel = m_maximumParallel();
     plan.policy.deadline = {}; // an upgrade has separate limits
     plan.changesRows = true;
     plan.holdsRows = false;

@@ -14,9 +14,9 @@ class UpgradeBatches : public QObject
     /// The latest upgrade batch; null before the first.
     Q_PROPERTY(Batch *last READ last NOTIFY lastChanged)
 public:
-    /// `factory` and `batches` must outlive this object. `atOnce` returns the maximum number of upgrades in
-    /// parallel.
-    UpgradeBatches(CDeviceFactory &factory, Batches &batches, std::function<int()> atOnce,
+    /// `factory` and `batches` must outlive this object. `maximumParallel` returns the maximum number of
+    /// upgrades in parallel.
+    UpgradeBatches(CDeviceFactory &factory, Batches &batches, std::function<int()> maximumParallel,
                    QObject *parent = nullptr);
 
     [[nodiscard]] Batch *last() const { return m_batch; }
@@ -71,7 +71,7 @@ private:
 
     CDeviceFactory &m_factory;
     Batches &m_batches;
-    const std::function<int()> m_atOnce;
+    const std::function<int()> m_maximumParallel;
     QPointer<Batch> m_batch;        ///< the latest batch
     Source m_source = Source::List; ///< of m_batch
     bool m_isDocumentOpen = false;  ///< documentEnded() is pending

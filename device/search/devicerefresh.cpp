@@ -34,7 +34,7 @@ constexpr auto refreshStartWait = 1000ms;
 constexpr auto refreshListeningTime = 3000ms;
 
 /// Requests in parallel; each blocks for its full timeout.
-constexpr std::size_t requestsAtOnce = 16;
+constexpr std::size_t parallelRequests = 16;
 
 /// The devices of one start() whose rows are not updated yet. Thread-safe.
 class WaitingDevices
@@ -208,7 +208,7 @@ void DeviceRefresh::run(const QHash<QString, QString> &devices, int attempts, co
             }
         };
         std::vector<std::jthread> others; // joined at the end of the attempt
-        for (std::size_t count = 1; count < std::min(requests.size(), requestsAtOnce); ++count)
+        for (std::size_t count = 1; count < std::min(requests.size(), parallelRequests); ++count)
             others.emplace_back(sendRequests);
         sendRequests();
     }

@@ -145,7 +145,7 @@ private Q_SLOTS:
 
     void theNumberOfParallelUpgradesIsLimited_data()
     {
-        const auto row = dataTable<QByteArray, int>({"value", "atOnce"});
+        const auto row = dataTable<QByteArray, int>({"value", "parallel"});
         row("minimum", QByteArray("1"), 1);
         row("maximum", QByteArray("16"), 16);
         row("none", QByteArray(""), 4);
@@ -157,11 +157,11 @@ private Q_SLOTS:
     void theNumberOfParallelUpgradesIsLimited()
     {
         QFETCH(QByteArray, value);
-        QCOMPARE(CLocalConfig(m_directory->path()).upgradesAtOnce(), 4);
+        QCOMPARE(CLocalConfig(m_directory->path()).parallelUpgrades(), 4);
         write(path("LocalConfig.ini"), "[upgradeConfig]\natOnce=" + value + '\n');
-        QTEST(CLocalConfig(m_directory->path()).upgradesAtOnce(), "atOnce");
-        CLocalConfig(m_directory->path()).setUpgradesAtOnce(7);
-        QCOMPARE(CLocalConfig(m_directory->path()).upgradesAtOnce(), 7);
+        QTEST(CLocalConfig(m_directory->path()).parallelUpgrades(), "parallel");
+        CLocalConfig(m_directory->path()).setParallelUpgrades(7);
+        QCOMPARE(CLocalConfig(m_directory->path()).parallelUpgrades(), 7);
     }
 
     /// The disk has room for the old settings, but not for the new ones.

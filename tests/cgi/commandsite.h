@@ -72,9 +72,9 @@ private:
 
 struct CommandSite
 {
-    explicit CommandSite(int atOnce)
+    explicit CommandSite(int maximumParallel)
         : batches(
-              factory, engine, [atOnce] { return atOnce; }, nullptr),
+              factory, engine, [maximumParallel] { return maximumParallel; }, nullptr),
           commands(factory, batches,
                    {.checkLogin = {}, .transport = transport, .folder = folder.path(), .localTime = [] {
                         return QDateTime(QDate(2026, 3, 9), QTime(7, 5, 1));

@@ -40,10 +40,10 @@ class TestCgiBatches : public QObject
         return m_site->commands.workbooks()->run("Title", lines);
     }
 
-    /// Three devices; `atOnce` of them are processed at the same time.
-    void makeSite(int atOnce)
+    /// Three devices; `maximumParallel` of them are processed at the same time.
+    void makeSite(int maximumParallel)
     {
-        m_site = std::make_unique<CommandSite>(atOnce);
+        m_site = std::make_unique<CommandSite>(maximumParallel);
         for (const char *name : {"a", "b", "c"})
             m_site->devices->add(name, QStringLiteral("10.0.0.%1:37777").arg(name), 80);
     }

@@ -390,8 +390,8 @@ private Q_SLOTS:
             return timer.elapsed() < 200;
         };
         QCOMPARE(run(server.url("/cgi-bin/a")), "Error:操作已停止。");
-        constexpr qint64 atOnce = 900; // a progress function of the library would be called after a second
-        QVERIFY(timer.elapsed() < atOnce);
+        constexpr qint64 immediately = 900; // the library would call a progress function after a second
+        QVERIFY(timer.elapsed() < immediately);
         QCOMPARE(server.requests().size(), 1);
     }
 

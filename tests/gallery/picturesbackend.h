@@ -50,10 +50,10 @@ public:
         const std::lock_guard lock(m_mutex);
         return std::exchange(m_orders, {});
     }
-    [[nodiscard]] int mostAtOnce()
+    [[nodiscard]] int mostParallel()
     {
         const std::lock_guard lock(m_mutex);
-        return m_mostAtOnce;
+        return m_mostParallel;
     }
 
     QJsonObject deviceRow(const QString &name) override
@@ -73,7 +73,7 @@ public:
                 std::unique_lock lock(m_mutex);
                 device = m_devices.value(order.ipport);
                 m_orders.append(QStringLiteral("%1 %2").arg(order.ipport).arg(order.onlyChannel));
-                m_mostAtOnce = std::max(m_mostAtOnce, ++m_running);
+                m_mostParallel = std::max(m_mostParallel, ++m_running);
                 while (device.waits && !m_isReleased && !control.isStopped())
                     m_changed.wait_for(lock, std::chrono::milliseconds(5));
             }
@@ -119,7 +119,7 @@ private:
     QHash<QString, Device> m_devices;
     QStringList m_orders;
     int m_running = 0;
-    int m_mostAtOnce = 0;
+    int m_mostParallel = 0;
     bool m_isReleased = false;
 };
 

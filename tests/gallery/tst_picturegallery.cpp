@@ -97,7 +97,7 @@ private Q_SLOTS:
         QVERIFY(QImage(fileOf(1)) != QImage(fileOf(3)));
         QCOMPARE(m_gallery->devices().at(1).toMap()["ipport"], "192.168.1.21:37777");
         QCOMPARE(m_gallery->get(3)["channel"].toInt(), 2);
-        QCOMPARE(devices().mostAtOnce(), 2);        // as set
+        QCOMPARE(devices().mostParallel(), 2);      // as set
         QCOMPARE(devices().takeOrders().size(), 5); // each once
     }
 

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int loginsAtOnce = 8;
+constexpr int parallelLogins = 8;
 
 bool isText(const QJsonObject &row, QLatin1StringView key)
 {
@@ -38,7 +38,7 @@ bool isRefusal(LoginResult result)
 FoundLogins::FoundLogins(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries)
     : m_store(std::move(store)), m_libraries(std::move(libraries))
 {
-    m_threads.setMaxThreadCount(loginsAtOnce);
+    m_threads.setMaxThreadCount(parallelLogins);
 }
 
 FoundLogins::~FoundLogins()

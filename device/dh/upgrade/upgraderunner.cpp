@@ -65,7 +65,8 @@ bool UpgradeRunner::start(const UpgradeOrder &order)
     const BatchItem item = {.device = order.device, .step = stepOf(upgrade)};
     const std::lock_guard lock(m_submitting);
     if (!m_engine->append(m_batch, item))
-        m_batch = m_engine->start({item}, {.atOnce = m_limits.atOnce}, std::make_shared<NoWatcher>());
+        m_batch = m_engine->start({item}, {.maximumParallel = m_limits.maximumParallel},
+                                  std::make_shared<NoWatcher>());
     return true;
 }
 

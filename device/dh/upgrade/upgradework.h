@@ -45,7 +45,7 @@ struct UpgradeStop
 /// Limits and timeouts of upgrades.
 struct UpgradeLimits
 {
-    int atOnce = 4; ///< maximum number of upgrades in parallel
+    int maximumParallel = 4; ///< maximum number of upgrades in parallel
     /// Maximum time without progress while sending, and while the device writes.
     std::chrono::milliseconds sendingStandsStill = std::chrono::seconds(25);
     std::chrono::milliseconds writingStandsStill = std::chrono::seconds(90);

@@ -31,13 +31,13 @@ FocusScope {
         toolBar.focusSearch();
     }
 
-    property int atOnce: localConfig.upgradesAtOnce()
+    property int parallelUpgrades: localConfig.parallelUpgrades()
 
     /// Sets the number of concurrent upgrades and stores it. It applies to upgrades started from now on.
-    function chooseAtOnce(count) {
-        localConfig.setUpgradesAtOnce(count);
-        atOnce = localConfig.upgradesAtOnce();
-        if (atOnce !== count)
+    function chooseParallelUpgrades(count) {
+        localConfig.setParallelUpgrades(count);
+        parallelUpgrades = localConfig.parallelUpgrades();
+        if (parallelUpgrades !== count)
             notify(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
     }
 
@@ -117,10 +117,10 @@ FocusScope {
         id: toolBar
         x: Theme.pageMargin
         width: parent.width - 2 * x
-        atOnce: page.atOnce
+        parallelUpgrades: page.parallelUpgrades
         ipv6: devices.ipv6
         devices: devices
-        onAtOnceChosen: count => page.chooseAtOnce(count)
+        onParallelUpgradesChosen: count => page.chooseParallelUpgrades(count)
         onDocumentRequested: work.chooseDocument()
         onFileRequested: work.chooseFileForChecked()
         onIpv6Chosen: ipv6 => devices.ipv6 = ipv6

@@ -21,7 +21,7 @@ using std::chrono::steady_clock;
 
 constexpr auto probeTime = 700ms; ///< a device delays its response by up to half a second
 constexpr auto connectTime = 1000ms;
-constexpr int requestsAtOnce = 16;
+constexpr int parallelRequests = 16;
 constexpr std::array usualPorts = {80, 8080};
 
 int millisecondsUntil(steady_clock::time_point end)
@@ -93,7 +93,7 @@ AddressSearch::AddressSearch(std::shared_ptr<HttpClient> http, Reporter reporter
     : m_http(std::move(http)), m_reporter(std::move(reporter)), m_counters(counters),
       m_isCancelled(isCancelled)
 {
-    m_inspections.setMaxThreadCount(requestsAtOnce);
+    m_inspections.setMaxThreadCount(parallelRequests);
 }
 
 void AddressSearch::run(const std::vector<std::string> &addresses, milliseconds wait)

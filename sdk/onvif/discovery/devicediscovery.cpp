@@ -19,7 +19,7 @@ constexpr auto inspectionWait = 1500ms;
 // A search of the local network runs for about four seconds: a device that has waited this long for its
 // inspection is reported without one.
 constexpr auto longestQueueTime = 2s;
-constexpr int inspectionsAtOnce = 16;
+constexpr int parallelInspections = 16;
 // Bounds against a host that responds with forged devices.
 constexpr std::size_t maximumDevices = 20'000;
 // Factory-new devices have the same address, and a device may have several services.
@@ -52,7 +52,7 @@ std::optional<SearchDiscard> doubtAbout(const FoundDevice &device)
 DeviceDiscovery::DeviceDiscovery(std::shared_ptr<const CertificateDecision> decision)
     : m_http(std::make_shared<HttpClient>(std::move(decision)))
 {
-    m_inspections.setMaxThreadCount(inspectionsAtOnce);
+    m_inspections.setMaxThreadCount(parallelInspections);
 }
 
 DeviceDiscovery::~DeviceDiscovery()

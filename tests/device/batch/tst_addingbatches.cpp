@@ -52,7 +52,7 @@ public:
 /// A factory that opens such lists.
 struct MadeUpSite
 {
-    explicit MadeUpSite(int atOnce) : m_atOnce(atOnce) {}
+    explicit MadeUpSite(int maximumParallel) : m_maximumParallel(maximumParallel) {}
     ~MadeUpSite()
     {
         list->gate.release(100'000);
@@ -67,12 +67,12 @@ struct MadeUpSite
                              }}}};
 
 private:
-    int m_atOnce;
+    int m_maximumParallel;
     BatchEngine m_engine{nullptr};
 
 public:
     Batches batches{factory, m_engine, [this] {
-                        return m_atOnce;
+                        return m_maximumParallel;
                     }};
     AddingBatches adding{factory, batches};
 };

@@ -114,7 +114,7 @@ private Q_SLOTS:
 
     void runsALimitedNumberOfStepsAtATime_data()
     {
-        const auto row = dataTable<int, int>({"atOnce", "expected"});
+        const auto row = dataTable<int, int>({"maximumParallel", "expected"});
         row("one", 1, 1);
         row("three", 3, 3);
         row("more than there are", 20, 6);
@@ -122,9 +122,9 @@ private Q_SLOTS:
 
     void runsALimitedNumberOfStepsAtATime()
     {
-        QFETCH(int, atOnce);
+        QFETCH(int, maximumParallel);
         QFETCH(int, expected);
-        QVERIFY(start(many(6), {.atOnce = atOnce}) > 0);
+        QVERIFY(start(many(6), {.maximumParallel = maximumParallel}) > 0);
         QTRY_COMPARE(m_runs, expected);
         for (int ended = 1; ended <= 6; ++ended) {
             m_gate.release();
@@ -142,9 +142,9 @@ private Q_SLOTS:
     void runsOneStepPerDeviceAtATime()
     {
         const auto other = std::make_shared<Record>();
-        start({waiting("a"), waiting("a"), waiting("b")}, {.atOnce = 8});
+        start({waiting("a"), waiting("a"), waiting("b")}, {.maximumParallel = 8});
         QTRY_COMPARE(m_record->startedIndexes().size(), 2);
-        m_engine->start({waiting("a"), waiting("c")}, {.atOnce = 8}, other);
+        m_engine->start({waiting("a"), waiting("c")}, {.maximumParallel = 8}, other);
         QTRY_COMPARE(other->startedIndexes(), QList<int>{1});
         QVERIFY(!m_record->startedIndexes().contains(1));
         m_gate.release(5);
@@ -155,7 +155,7 @@ private Q_SLOTS:
     /// The hold waits for the running step, and the next step waits for the hold.
     void otherWorkReservesADevice()
     {
-        start({waiting("a")}, {.atOnce = 8});
+        start({waiting("a")}, {.maximumParallel = 8});
         QTRY_COMPARE(m_runs, 1);
         QSemaphore release;
         std::atomic<qsizetype> finishedBefore = -1;
@@ -171,7 +171,7 @@ private Q_SLOTS:
         QTRY_COMPARE(finishedBefore, 1);
 
         const auto other = std::make_shared<Record>();
-        m_engine->start({waiting("a"), waiting("b")}, {.atOnce = 8}, other);
+        m_engine->start({waiting("a"), waiting("b")}, {.maximumParallel = 8}, other);
         QTRY_COMPARE(other->startedIndexes(), QList<int>{1});
         m_gate.release(2);
         QTRY_COMPARE(other->results().size(), 1);
@@ -192,7 +192,7 @@ private Q_SLOTS:
     {
         QFETCH(int, result);
         QFETCH(int, expectedRuns);
-        start({ending("a", result), ending("a", result), ending("a", result)}, {.atOnce = 8});
+        start({ending("a", result), ending("a", result), ending("a", result)}, {.maximumParallel = 8});
         QTRY_COMPARE(m_record->ends, 1);
         QCOMPARE(m_runs, expectedRuns);
         QCOMPARE(m_record->results(), (QList<std::pair<int, int>>{{0, result}, {1, result}, {2, result}}));
@@ -220,7 +220,7 @@ private Q_SLOTS:
         std::vector<BatchItem> items = {
             ending("a", wrongPassword), ending("b", between), ending("c", wrongPassword),
             ending("d", wrongPassword), ending("e"),          ending("f")};
-        const int batch = start(std::move(items), {.atOnce = 1, .wrongPasswordsInARow = 2});
+        const int batch = start(std::move(items), {.maximumParallel = 1, .wrongPasswordsInARow = 2});
         QTRY_COMPARE(m_record->holds, 1);
         QTEST(m_runs.load(), "runsUntilHeld");
         m_engine->resume(batch);
@@ -230,12 +230,12 @@ private Q_SLOTS:
 
     void stepsOfALaterBatchDoNotOvertake()
     {
-        start({waiting("a")}, {.atOnce = 1});
+        start({waiting("a")}, {.maximumParallel = 1});
         QTRY_COMPARE(m_runs, 1);
         const auto second = std::make_shared<Record>();
         const auto third = std::make_shared<Record>();
-        m_engine->start({ending("a"), ending("b")}, {.atOnce = 1}, second);
-        m_engine->start({ending("c")}, {.atOnce = 1}, third);
+        m_engine->start({ending("a"), ending("b")}, {.maximumParallel = 1}, second);
+        m_engine->start({ending("c")}, {.maximumParallel = 1}, third);
         QTRY_COMPARE(third->ends, 1);
         m_gate.release();
         QTRY_COMPARE(second->ends, 1);
@@ -244,7 +244,7 @@ private Q_SLOTS:
 
     void aStopSkipsWaitingStepsAndReachesRunningOnes()
     {
-        const int batch = start(many(100), {.atOnce = 4});
+        const int batch = start(many(100), {.maximumParallel = 4});
         QTRY_COMPARE(m_runs, 4);
         m_engine->stop(batch);
         QTRY_COMPARE(m_record->ends, 1);
@@ -256,8 +256,8 @@ private Q_SLOTS:
 
     void aPausedBatchCanBeStopped()
     {
-        const int batch =
-            start({ending("a", wrongPassword), ending("b")}, {.atOnce = 1, .wrongPasswordsInARow = 1});
+        const int batch = start({ending("a", wrongPassword), ending("b")},
+                                {.maximumParallel = 1, .wrongPasswordsInARow = 1});
         QTRY_COMPARE(m_record->holds, 1);
         m_engine->stop(batch);
         QTRY_COMPARE(m_record->ends, 1);
@@ -275,7 +275,7 @@ private Q_SLOTS:
                                  return StepOutcome();
                              }});
         }
-        start(std::move(items), {.atOnce = 1});
+        start(std::move(items), {.maximumParallel = 1});
         QTRY_COMPARE(m_runs, 5);
         m_gate.release(5);
         QTRY_COMPARE(m_record->ends, 1);
@@ -294,7 +294,7 @@ private Q_SLOTS:
                         }
                         return StepOutcome{.result = pieces, .text = {}};
                     }}},
-              {.atOnce = 1, .deadline = 5s});
+              {.maximumParallel = 1, .deadline = 5s});
         for (const int begun : {1, 2, 3}) {
             QTRY_COMPARE(pieces, begun);
             m_clock->advance(begun < 3 ? 3s : 5s);
@@ -305,7 +305,7 @@ private Q_SLOTS:
 
     void nothingStartsAfterTheEnd()
     {
-        start(many(50), {.atOnce = 2});
+        start(many(50), {.maximumParallel = 2});
         QTRY_COMPARE(m_runs, 2);
         m_engine->end();
         QCOMPARE(m_record->ends, 1);

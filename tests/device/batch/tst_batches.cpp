@@ -217,7 +217,7 @@ private Q_SLOTS:
         m_site->site->setFault(m_devices.at(1).mac, {.fault = sdk::demo::Fault::SlowAnswers, .number = 2000});
         BatchPlan plan{.family = "dh", .title = "Standard", .policy = m_batches->usualPolicy()};
         plan.devices = batchDevices(*m_site->factory, "dh", ipportsOf(m_devices));
-        plan.policy.atOnce = 1; // the clock advances while one device is waiting
+        plan.policy.maximumParallel = 1; // the clock advances while one device is waiting
         plan.policy.deadline = std::chrono::seconds(1);
         plan.stepOf = [this](const BatchDevice &device) {
             return m_site->factory->backEnd("dh")->systemStep("videoStandard", {{"videoStandard", 1}},
@@ -369,7 +369,7 @@ private Q_SLOTS:
         BatchEngine engine(clock);
         QSemaphore released;
         BatchPlan plan;
-        plan.policy.atOnce = 1;
+        plan.policy.maximumParallel = 1;
         for (const QString &name : QStringList{"a", "b", "c", "d"})
             plan.devices.append({.name = name, .identity = name, .ipport = {}, .title = {}, .login = name});
         plan.stepOf = [&released](const BatchDevice &) {
@@ -409,7 +409,7 @@ private Q_SLOTS:
                                         upgrade->acquire();
                                         return StepOutcome();
                                     }}},
-                              {.atOnce = 1}, std::make_shared<NoWatcher>());
+                              {.maximumParallel = 1}, std::make_shared<NoWatcher>());
         const auto release =
             qScopeGuard([upgrade] { upgrade->release(); }); // the step must not wait after a failure
         Batch *batch = setStandard(ipportsOf(m_devices));
@@ -452,7 +452,7 @@ private Q_SLOTS:
             const std::scoped_lock lock(steps->mutex);
             return steps->begun;
         };
-        BatchPlan plan{.family = "dh", .title = "Work", .policy = {.atOnce = 2}};
+        BatchPlan plan{.family = "dh", .title = "Work", .policy = {.maximumParallel = 2}};
         plan.devices = batchDevices(*m_site->factory, "dh", others);
         plan.stepOf = [steps](const BatchDevice &device) {
             return [steps, name = device.name](const StepControl &) {
@@ -485,7 +485,7 @@ private Q_SLOTS:
     {
         QFETCH(const bool, isByAddress);
         std::atomic<int> tries = 0;
-        BatchPlan plan{.family = "dh", .title = "Work", .policy = {.atOnce = 8}};
+        BatchPlan plan{.family = "dh", .title = "Work", .policy = {.maximumParallel = 8}};
         plan.devices = {{.name = "a", .identity = "a", .ipport = "10.0.0.1:80", .title = {}},
                         {.name = "b", .identity = "b", .ipport = "10.0.0.1:80", .title = {}}};
         plan.stepOf = [&tries](const BatchDevice &) {
@@ -505,7 +505,7 @@ private Q_SLOTS:
     {
         QSemaphore gate;
         DeviceAccount account{.account = "admin", .password = "old"};
-        BatchPlan plan{.family = "dh", .title = "Work", .policy = {.atOnce = 1}};
+        BatchPlan plan{.family = "dh", .title = "Work", .policy = {.maximumParallel = 1}};
         plan.devices = {{.name = "a", .identity = "a", .ipport = "10.0.0.1:80", .title = {}}};
         plan.accountOf = [&account](const BatchDevice &) {
             return account;

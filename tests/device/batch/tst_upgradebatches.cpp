@@ -18,7 +18,10 @@ namespace {
 class UpgradeBatchSite : public UpgradeSite
 {
 public:
-    explicit UpgradeBatchSite(int count, int atOnce = 4) : UpgradeSite(count), m_atOnce(atOnce) {}
+    explicit UpgradeBatchSite(int count, int maximumParallel = 4)
+        : UpgradeSite(count), m_maximumParallel(maximumParallel)
+    {
+    }
 
     /// Sets a file for the devices with these indexes and upgrades them.
     Batch *begin(const QList<int> &places)
@@ -42,14 +45,14 @@ public:
     }
 
 private:
-    int m_atOnce;
+    int m_maximumParallel;
 
 public:
     Batches batches{*factory, *engine, [] {
                         return 8;
                     }};
     UpgradeBatches upgrades{*factory, batches, [this] {
-                                return m_atOnce;
+                                return m_maximumParallel;
                             }};
 };
 

@@ -99,7 +99,8 @@ private:
     /// A device for each result, one after another. Each has m_resultAgain in another try.
     Batch *start(const Results &results)
     {
-        BatchPlan plan{.family = "dh", .title = "Work", .policy = {.atOnce = 1, .wrongPasswordsInARow = 2}};
+        BatchPlan plan{
+            .family = "dh", .title = "Work", .policy = {.maximumParallel = 1, .wrongPasswordsInARow = 2}};
         for (qsizetype place = 0; place < results.size(); ++place) {
             const QString ipport = QStringLiteral("10.0.0.%1:37777").arg(place + 1);
             plan.devices.append({.name = ipport,

@@ -9,7 +9,7 @@ Item {
 
     required property bool ipv6
     required property DeviceTableModel devices
-    required property int atOnce
+    required property int parallelUpgrades
     property alias searchText: searchField.text
     readonly property bool keyGroup: true
     signal ipv6Chosen(bool ipv6)
@@ -18,14 +18,14 @@ Item {
     signal retryRequested
     signal documentRequested
     signal templateRequested
-    signal atOnceChosen(int count)
+    signal parallelUpgradesChosen(int count)
 
     function focusSearch() {
         searchField.forceActiveFocus(Qt.ShortcutFocusReason);
         searchField.selectAll();
     }
 
-    readonly property int mostAtOnce: 16
+    readonly property int maximumUpgrades: 16
     readonly property bool wraps: width < actions.width + filters.spacing + filters.leastWidth
     readonly property int lineHeight: Theme.controlHeight + Theme.unit
 
@@ -91,11 +91,11 @@ Item {
             OVComboBox {
                 width: Theme.hourFieldWidth
                 accessibleName: qsTr("同时升级的设备数")
-                currentIndex: root.atOnce - 1
+                currentIndex: root.parallelUpgrades - 1
                 font: Theme.figureFont
-                model: Array.from({length: root.mostAtOnce}, (value, index) => index + 1)
-                objectName: "upgradesAtOnceBox"
-                onActivated: index => root.atOnceChosen(index + 1)
+                model: Array.from({length: root.maximumUpgrades}, (value, index) => index + 1)
+                objectName: "parallelUpgradesBox"
+                onActivated: index => root.parallelUpgradesChosen(index + 1)
             }
         }
         OVFailedFilter {
