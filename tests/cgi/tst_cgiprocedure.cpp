@@ -318,7 +318,7 @@ private Q_SLOTS:
         // answer: empty: the server does not respond. result: its start
         const auto row = dataTable<bool, QByteArray, QString>({"isListening", "answer", "result"});
         const QByteArray cut = "HTTP/1.1 200 OK\r\nContent-Length: 1000\r\n\r\nbeginning";
-        row("nobody listens", false, "", "Error:设备拒绝连接，请检查HTTP端口（");
+        row("no server listens", false, "", "Error:设备拒绝连接，请检查HTTP端口（");
         row("no answer", true, "", "Error:设备没有及时应答（");
         row("no status line", true, "hello\r\n\r\nwhat is HTTP?", "Error:设备的应答不是有效的HTTP（");
         row("cut short", true, cut, "Error:应答结束前连接已断开（");

@@ -105,9 +105,9 @@ private Q_SLOTS:
         QCOMPARE(m_item->loginHandle(), 5'000'000'000);
         QCOMPARE(handleChanged.size(), 1);
         QCOMPARE(m_fake->calls.take(), decoderStarted + started);
-        QStringList said = messages.take();
-        said.removeIf([](const QString &line) { return line.startsWith("CDHDecoder::"); });
-        QCOMPARE(said, (QStringList{"VideoItem::start()", "m_loginHandle 5000000000"} + log));
+        QStringList lines = messages.take();
+        lines.removeIf([](const QString &line) { return line.startsWith("CDHDecoder::"); });
+        QCOMPARE(lines, (QStringList{"VideoItem::start()", "m_loginHandle 5000000000"} + log));
 
         m_item->stop();
         QTEST(m_fake->calls.take(), "stopped");

@@ -287,9 +287,9 @@ private Q_SLOTS:
         QVERIFY(QDir::setCurrent(workingDirectory));
         QVERIFY(program.cd("Shaders") && program.removeRecursively());
         QCOMPARE(instead(0.5, 0.5, areThere ? QColor(60, 60, 60) : background), QString());
-        const QStringList said = log.take();
-        QCOMPARE(said.contains(" add vertex shader file failed."), !areThere);
-        QCOMPARE(said.contains(" add fragment shader file failed."), !areThere);
+        const QStringList lines = log.take();
+        QCOMPARE(lines.contains(" add vertex shader file failed."), !areThere);
+        QCOMPARE(lines.contains(" add fragment shader file failed."), !areThere);
         QTRY_COMPARE(m_item->problemText().contains("Shaders"), !areThere);
     }
 };

@@ -148,7 +148,7 @@ private Q_SLOTS:
             "IpAddress,192.168.1.11,37777,admin,secret1,\n"   // 7
             "P2P,OV7QK2M4,8800,admin,wrong,\n"                // 8
             "P2P,OV7QK2M4,8800,admin,secret1,\n"              // 9
-            "P2P,NOBODY,8800,admin,secret1,\n");              // 10
+            "P2P,UNKNOWN,8800,admin,secret1,\n");             // 10
         Batch *batch = m_batches->current();
         QCOMPARE(failuresOf(*m_adding, batch),
                  (QStringList{"2|2", "3|2", "5|13", "6|-1", "7|5", "8|2", "10|5"}));
@@ -222,7 +222,7 @@ private Q_SLOTS:
         row("wrong password", 0, "192.168.1.10", 37777, "wrong", 2, "密码错误");
         row("already listed", 0, "192.168.1.11", 37777, "wrong", 13, "设备已存在");
         row("ID", 1, "OV7QK2M4", 8800, "secret1", 0, QString());
-        row("no such ID", 1, "NOBODY", 8800, "secret1", networkFailure, "没有取得通往该设备的本地端口");
+        row("no such ID", 1, "UNKNOWN", 8800, "secret1", networkFailure, "没有取得通往该设备的本地端口");
     }
 
     void favouritesAreAdded()

@@ -91,7 +91,7 @@ private Q_SLOTS:
     }
 
     /// Different commands have the same title.
-    void theSameWordsAreSaidOnce()
+    void theSameMessageIsListedOnce()
     {
         FailedMarks marks;
         for (const char *work : {"cgi 1", "cgi 2"})

@@ -161,7 +161,7 @@ private Q_SLOTS:
     void anUnknownOrEmptyFamilyGivesEmptyValues_data()
     {
         const auto row = dataTable<QString>({"family"});
-        for (const char *family : {"hik", "ol", "nobody", ""})
+        for (const char *family : {"hik", "ol", "unknown", ""})
             row(family, QString(family));
     }
 

@@ -103,9 +103,9 @@ private Q_SLOTS:
         const auto row = dataTable<QList<int>, int, int, QString>({"existing", "requested", "port", "asked"});
         row("none there", QList<int>(), 0, 50001, "add ID 37777 0 0");
         row("a request for another port", QList{50005}, 37778, 0, QString());
-        row("one there, the device's wished", QList{50005}, 37777, 37777, "add ID 37777 37777 0");
+        row("one exists, the device's port is requested", QList{50005}, 37777, 37777, "add ID 37777 37777 0");
         row("the device's there", QList{37777}, 0, 50001, "add ID 37777 0 0");
-        row("the device's there and wished", QList{37777}, 37777, 37777, QString());
+        row("the device's port exists and is requested", QList{37777}, 37777, 37777, QString());
         row("more there", QList{37777, 50006, 50007}, 0, 50006, QString());
     }
 

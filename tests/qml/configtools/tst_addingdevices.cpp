@@ -95,7 +95,7 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
         m_adding = m_window->findChild<QObject *>("adding");
         m_adding->setProperty("favouritesFolder", favouritesFolder());
-        m_said = std::make_unique<QSignalSpy>(m_adding, SIGNAL(notify(QString, int)));
+        m_notices = std::make_unique<QSignalSpy>(m_adding, SIGNAL(notify(QString, int)));
         m_added = std::make_unique<QSignalSpy>(m_adding, SIGNAL(added()));
     }
 
@@ -104,7 +104,7 @@ private Q_SLOTS:
         m_devices->gate.release(100);
         m_devices->threads.waitForDone();
         m_threads->end();
-        m_said.reset();
+        m_notices.reset();
         m_added.reset();
         m_window.reset();
         m_engine.reset();
@@ -141,7 +141,7 @@ private Q_SLOTS:
         QVERIFY(words);
         QCOMPARE(words->property("text").toString(), message);
         QVERIFY(words->parentItem()->hasActiveFocus());
-        QVERIFY(m_said->isEmpty() && !item("dialogNotice")->isVisible());
+        QVERIFY(m_notices->isEmpty() && !item("dialogNotice")->isVisible());
         QVERIFY(dialog()->property("visible").toBool());
         QCOMPARE(m_devices->asked, QStringList());
     }
@@ -149,8 +149,8 @@ private Q_SLOTS:
     void aDeviceIsAddedByHand_data()
     {
         // fieldMessage: shown in the dialog, which remains open
-        const auto row =
-            dataTable<QString, StepOutcome, QString, QString>({"opener", "outcome", "said", "fieldMessage"});
+        const auto row = dataTable<QString, StepOutcome, QString, QString>(
+            {"opener", "outcome", "notice", "fieldMessage"});
         row("address", "openIp", {}, "设备已添加/1", "");
         row("listed already", "openIp", {.result = 13, .text = {}}, "", "设备已存在");
         row("wrong password", "openIp", {.result = 2, .text = {}}, "", "密码错误");
@@ -161,7 +161,7 @@ private Q_SLOTS:
     void aDeviceIsAddedByHand()
     {
         QFETCH(QString, opener);
-        QFETCH(QString, said);
+        QFETCH(QString, notice);
         QFETCH(StepOutcome, outcome);
         m_devices->outcome = outcome;
         open(opener, filled());
@@ -179,10 +179,10 @@ private Q_SLOTS:
         QCOMPARE(m_devices->last.p2p, opener == "openP2p");
         QCOMPARE(m_devices->last.port, 37777);
         QCOMPARE(m_devices->last.account, "admin");
-        QCOMPARE(argumentsOf(*m_said).join(','), said);
+        QCOMPARE(argumentsOf(*m_notices).join(','), notice);
         const QQuickItem *words = findBelow(m_window->contentItem(), "fieldMessage", Sight::Visible);
         QTEST(words ? words->property("text").toString() : QString(), "fieldMessage");
-        const bool done = said.startsWith("设备已添加");
+        const bool done = notice.startsWith("设备已添加");
         QCOMPARE(m_added->count(), done ? 1 : 0);
         QTRY_COMPARE(dialog()->property("visible").toBool(), !done);
         QCOMPARE(CAuthor().readJsonFilesFromFolder(favouritesFolder()), QVariantMap());
@@ -199,16 +199,16 @@ private Q_SLOTS:
         m_devices->gate.release();
         m_devices->threads.waitForDone();
         QCoreApplication::processEvents();
-        QVERIFY(m_said->isEmpty() && m_added->isEmpty());
+        QVERIFY(m_notices->isEmpty() && m_added->isEmpty());
         open("openIp", filled()); // another device can be added
         press("accept");
         m_devices->gate.release();
-        QTRY_COMPARE(argumentsOf(*m_said), QStringList("设备已添加/1"));
+        QTRY_COMPARE(argumentsOf(*m_notices), QStringList("设备已添加/1"));
     }
 
     void favouritesAreSaved_data()
     {
-        const auto row = dataTable<bool, QString>({"writable", "said"});
+        const auto row = dataTable<bool, QString>({"writable", "notice"});
         row("saved", true, "设备已添加，并保存到收藏夹/1");
         row("cannot be saved", false, "设备已添加，但无法保存到收藏夹，请检查程序所在文件夹的写入权限/2");
     }
@@ -224,8 +224,8 @@ private Q_SLOTS:
         item("favouriteBox")->setProperty("checked", true);
         press("accept");
         m_devices->gate.release();
-        QTRY_COMPARE(m_said->count(), 1);
-        QTEST(argumentsOf(*m_said).first(), "said");
+        QTRY_COMPARE(m_notices->count(), 1);
+        QTEST(argumentsOf(*m_notices).first(), "notice");
         if (!writable)
             return;
         const CAuthor author;
@@ -333,7 +333,7 @@ private:
     std::unique_ptr<QQmlEngine> m_engine;
     std::unique_ptr<QQuickWindow> m_window;
     QObject *m_adding = nullptr;
-    std::unique_ptr<QSignalSpy> m_said;
+    std::unique_ptr<QSignalSpy> m_notices;
     std::unique_ptr<QSignalSpy> m_added;
 };
 

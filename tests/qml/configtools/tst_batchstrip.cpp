@@ -286,10 +286,10 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         m_file.path = folder.filePath(file);
         Batch *batch = run({0, networkFailure, 0});
-        QSignalSpy said(find("foot"), SIGNAL(notify(QString, int)));
+        QSignalSpy notices(find("foot"), SIGNAL(notify(QString, int)));
         press("saveResultsButton");
-        QTRY_COMPARE(said.size(), 1);
-        QVERIFY(said.takeFirst().first().toString().contains(m_file.path));
+        QTRY_COMPARE(notices.size(), 1);
+        QVERIFY(notices.takeFirst().first().toString().contains(m_file.path));
         const QString time = batch->entries().at(1).time.toString("yyyy-MM-dd HH:mm:ss");
         const QStringList line = {"10.0.0.2:37777",           "m2", "=门,\"2\"", "Work",
                                   resultName(networkFailure), time};
@@ -316,9 +316,9 @@ private Q_SLOTS:
         {
             const FileSizeLimit limit(16);
             press("saveResultsButton");
-            QTRY_COMPARE(said.size(), 1);
+            QTRY_COMPARE(notices.size(), 1);
         }
-        QCOMPARE(said.takeFirst().at(1).toInt(), 2);
+        QCOMPARE(notices.takeFirst().at(1).toInt(), 2);
         QCOMPARE(fileContents(m_file.path), before);
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 1);
     }

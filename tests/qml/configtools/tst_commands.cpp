@@ -139,7 +139,7 @@ private Q_SLOTS:
     {
         // url: empty: nothing is sent
         const auto row =
-            dataTable<QString, QByteArray, QString, QString>({"command", "answer", "url", "said"});
+            dataTable<QString, QByteArray, QString, QString>({"command", "answer", "url", "notice"});
         row("failure", "/cgi-bin/a", "Error:", "http://10.0.0.a:8080/cgi-bin/a", "");
         row("no text", "/cgi-bin/a", "", "http://10.0.0.a:8080/cgi-bin/a", "命令已执行，没有可显示的结果。");
         row("no command", "  ", "OK", "", "请填写CGI命令的具体内容。");
@@ -158,11 +158,11 @@ private Q_SLOTS:
         auto *devices = m_window->findChild<DeviceTableModel *>();
         devices->refresh();
         QObject *sender = m_window->findChild<QObject *>("sender");
-        const QSignalSpy said(sender, SIGNAL(notify(QString, int)));
+        const QSignalSpy notices(sender, SIGNAL(notify(QString, int)));
         QVERIFY(QMetaObject::invokeMethod(sender, "send", Q_ARG(QVariant, 0)));
         QTRY_VERIFY(!m_site->batches.isRunning());
         QCOMPARE(m_site->transport->urls, url.isEmpty() ? QStringList() : QStringList(url));
-        QTEST(said.value(0).value(0).toString(), "said");
+        QTEST(notices.value(0).value(0).toString(), "notice");
         if (!url.isEmpty()) // the table shows the result of the row
             QCOMPARE(devices->get(0).value("result").toString(), QString(answer));
     }
@@ -192,14 +192,14 @@ private Q_SLOTS:
         };
         QObject *sender = m_window->findChild<QObject *>("sender");
         QSignalSpy failed(sender, SIGNAL(failed(QVariant)));
-        const QSignalSpy said(sender, SIGNAL(notify(QString, int)));
+        const QSignalSpy notices(sender, SIGNAL(notify(QString, int)));
         QVERIFY(QMetaObject::invokeMethod(sender, "sendToAll", Q_ARG(QVariant, QStringList({"a", "b", "c"})),
                                           Q_ARG(QVariant, "/cgi-bin/a")));
         QVERIFY(failed.count() == 1 || failed.wait());
         QCOMPARE(failed.first().first().toStringList(),
                  QStringList({"10.0.0.c:1  Error:a", "10.0.0.a:1  Error:b"}));
-        QCOMPARE(said.count(), 1);
-        QCOMPARE(said.first().first().toString(), "批量配置CGI命令已完成：成功 1，失败 2");
+        QCOMPARE(notices.count(), 1);
+        QCOMPARE(notices.first().first().toString(), "批量配置CGI命令已完成：成功 1，失败 2");
     }
 
     /// No window opens over another page.
@@ -207,10 +207,10 @@ private Q_SLOTS:
     {
         open(page);
         QQuickItem *item = find("page");
-        const QSignalSpy said(item, SIGNAL(notify(QString, int)));
+        const QSignalSpy notices(item, SIGNAL(notify(QString, int)));
         item->setVisible(false);
         Q_EMIT m_site->commands.workbooks()->ended("first\nsecond");
-        QCOMPARE(said.value(0).value(0).toString(), "first");
+        QCOMPARE(notices.value(0).value(0).toString(), "first");
         QVERIFY(!find("messageText"));
         item->setVisible(true);
         QTRY_VERIFY(find("messageText"));

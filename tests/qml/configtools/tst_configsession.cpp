@@ -144,7 +144,7 @@ private Q_SLOTS:
         call("readNames");
         QTRY_VERIFY(!isBusy());
         m_site->site->requests().clear();
-        const QSignalSpy said(m_session, SIGNAL(notify(QString, int, int)));
+        const QSignalSpy notices(m_session, SIGNAL(notify(QString, int, int)));
         m_site->site->setFault(m_recorder.mac,
                                {.fault = sdk::demo::Fault::SlowAnswers, .number = 500, .text = {}});
         m_site->stopTime();
@@ -159,8 +159,8 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         QCOMPARE(writesTo(m_other), 0);
         QCOMPARE(writesTo(m_recorder), before); // the session has ended
-        QVERIFY(!said.isEmpty());
-        QCOMPARE(said.last().at(0).toString(), QStringLiteral("设备已重新登录，尚未保存的修改已丢失"));
+        QVERIFY(!notices.isEmpty());
+        QCOMPARE(notices.last().at(0).toString(), QStringLiteral("设备已重新登录，尚未保存的修改已丢失"));
     }
 
     /// A login to an offline device blocks neither the window nor another device.

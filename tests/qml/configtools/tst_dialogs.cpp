@@ -144,17 +144,17 @@ private Q_SLOTS:
     void anExportReportsNamesThatCannotBeImported()
     {
         QObject *files = m_window->findChild<QObject *>("files");
-        const QSignalSpy said(files, SIGNAL(notify(QString, int)));
+        const QSignalSpy notices(files, SIGNAL(notify(QString, int)));
         const auto report = [files] {
             return QMetaObject::invokeMethod(files, "reportExport", Q_ARG(QVariant, "exported"));
         };
         QVERIFY(report());
-        QCOMPARE(said.count(), 1);
+        QCOMPARE(notices.count(), 1);
         const QVariantMap fault = {
             {"address", "10.0.0.1:1"}, {"name", "A,B"}, {"column", "Name"}, {"reason", ", (U+002C)"}};
         files->property("deviceFactory").value<QObject *>()->setProperty("faults", QVariantList{fault});
         QVERIFY(report());
-        QCOMPARE(said.count(), 1);
+        QCOMPARE(notices.count(), 1);
         QObject *table = m_window->findChild<QObject *>("reportTable");
         QVERIFY(table);
         QCOMPARE(table->property("count").toInt(), 1);

@@ -157,12 +157,12 @@ private Q_SLOTS:
         const QModelIndex refusing = m_tree->index(0, 0, m_tree->index(0, 0));
         m_site->site->setFault(refusing.data(OVTreeModel::IdentityRole).toString(),
                                {.fault = sdk::demo::Fault::RefusesPasswordChange});
-        const QSignalSpy said(m_page, SIGNAL(notify(QString, int)));
+        const QSignalSpy notices(m_page, SIGNAL(notify(QString, int)));
         sendNewPassword();
         QTRY_VERIFY(!isRunning());
         QCOMPARE(m_site->site->requests().of("NetModifyPassword").size(), 4);
         constexpr int error = 2;
-        QCOMPARE(said.last(), (QVariantList{"1 台设备的密码没有修改（设备拒绝了此操作），已标记", error}));
+        QCOMPARE(notices.last(), (QVariantList{"1 台设备的密码没有修改（设备拒绝了此操作），已标记", error}));
         QCOMPARE(m_accounts->deviceCounts().value("admin"), devices);
         QTEST(m_default.password, "byDefault");
         const std::optional<StoredAccount> kept = m_accounts->account("admin");
@@ -185,7 +185,7 @@ private Q_SLOTS:
     void everyDeviceIsReported_data()
     {
         // event: during the request to the second device
-        const auto row = dataTable<QString, Results, QString>({"event", "expected", "said"});
+        const auto row = dataTable<QString, Results, QString>({"event", "expected", "footText"});
         row("nothing", "", Results{0, 0, 0, 0}, "修改密码：4 台设备成功");
         row("another tab", "leave", Results{0, 0, 0, 0}, "修改密码：4 台设备成功");
         row("time over", "time", Results{0, 0, 0, 0}, "修改密码：4 台设备成功");
@@ -200,7 +200,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, event);
         QFETCH(Results, expected);
-        QFETCH(QString, said);
+        QFETCH(QString, footText);
         const BusyState &busy = *m_site->factory->busyState();
         m_site->net->passwordsAtGate = 0;
         m_site->net->passwordGate = std::make_unique<QSemaphore>(1);
@@ -224,7 +224,7 @@ private Q_SLOTS:
         m_site->net->passwordGate->release(4);
         QTRY_VERIFY(!isRunning());
         QCOMPARE(results(), expected);
-        QVERIFY(QString(text("selectedCount") + text("footWarning")).endsWith(said));
+        QVERIFY(QString(text("selectedCount") + text("footWarning")).endsWith(footText));
         const bool isComplete = !expected.contains(notDone) && !expected.contains(999);
         QCOMPARE(text("oldPasswordField").isEmpty(), isComplete);
         const bool keepsLogins = !isComplete && event != "refuse";
@@ -238,14 +238,14 @@ private Q_SLOTS:
         type("newPasswordField", "Bett");
         m_time->setProperty("secondsLeft", 15);
         QVERIFY(text("countdownText").startsWith(QStringLiteral("只剩 15 秒")));
-        const QSignalSpy said(m_page, SIGNAL(notify(QString, int)));
+        const QSignalSpy notices(m_page, SIGNAL(notify(QString, int)));
         m_time->setProperty("second", 1);
         QTRY_VERIFY(!item("newPasswordField")->isEnabled());
         QTRY_COMPARE(m_site->asked("NetLogout").size(), 4);
         QCOMPARE(results(), Results(4, notDone));
         QVERIFY(text("footWarning").endsWith(QStringLiteral("修改密码：4 台设备未执行")));
-        QCOMPARE(said.count(), 1);
-        QCOMPARE(said.first().first().toString(), QStringLiteral("时间已到，4 台设备的密码没有修改"));
+        QCOMPARE(notices.count(), 1);
+        QCOMPARE(notices.first().first().toString(), QStringLiteral("时间已到，4 台设备的密码没有修改"));
         QVERIFY(text("countdownText").startsWith(QStringLiteral("时间已到，4 台设备的密码没有修改。")));
         QCOMPARE(text("newPasswordField"), QString());
 

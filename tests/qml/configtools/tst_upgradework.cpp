@@ -13,13 +13,13 @@ namespace {
 const char *const scene =
     "    id: window\n"
     "    width: 1280; height: 720; visible: true\n"
-    "    property var said: []\n"
+    "    property var notices: []\n"
     "    UpgradeWork {\n"
     "        objectName: 'work'\n"
     "        batches: works; deviceFactory: factory; deviceTable: table\n"
     "        fileDialogs: files; upgradeBatches: upgrades; shown: true\n"
     "        onChanged: table.refresh()\n"
-    "        onNotify: (message, severity) => window.said = window.said.concat([message])\n"
+    "        onNotify: (message, severity) => window.notices = window.notices.concat([message])\n"
     "    }\n"
     "    UpgradeSummary { width: 900; batch: upgrades.last }\n";
 
@@ -52,7 +52,7 @@ private:
     ChosenFile m_file;
 
     [[nodiscard]] QObject *object(const QString &name) const { return m_window->findChild<QObject *>(name); }
-    [[nodiscard]] QStringList said() const { return m_window->property("said").toStringList(); }
+    [[nodiscard]] QStringList notices() const { return m_window->property("notices").toStringList(); }
     [[nodiscard]] QString summary() const { return object("upgradeSummary")->property("text").toString(); }
     void call(const char *function) const { QMetaObject::invokeMethod(object("work"), function); }
     void awaitOpened(const QString &dialog) const
@@ -104,7 +104,7 @@ private Q_SLOTS:
     {
         m_site->site->setFault(m_site->mac(1), {Fault::UpgradeFailsAt, 50});
         call("startChecked");
-        QCOMPARE(said(), QStringList("请选择一台设备"));
+        QCOMPARE(notices(), QStringList("请选择一台设备"));
         m_table->setAllChecked(true);
         m_file.path = m_site->file();
         call("chooseFileForChecked");
@@ -116,7 +116,7 @@ private Q_SLOTS:
         QVERIFY(m_site->passUntil([this] { return m_table->get(0).value("upgrade").toInt() > 0; }));
         passUntilEnd();
         QCOMPARE(summary(), "升级：3 / 3  ·  2 台设备成功，1 台设备失败");
-        QCOMPARE(said().last(), "1 台设备未升级成功，请查看结果");
+        QCOMPARE(notices().last(), "1 台设备未升级成功，请查看结果");
         QCOMPARE(m_table->get(0).value("upgradetext").toString(), "升级成功：2.840.1 → 2.900.0");
 
         // Rows that the filter hides are retried too.
@@ -126,9 +126,9 @@ private Q_SLOTS:
         accept("upgradePreview");
         QTRY_VERIFY(m_batches->isRunning());
         passUntilEnd();
-        QCOMPARE(said().last(), "1 台设备升级成功");
+        QCOMPARE(notices().last(), "1 台设备升级成功");
         call("retry");
-        QCOMPARE(said().last(), "没有可以重试的设备");
+        QCOMPARE(notices().last(), "没有可以重试的设备");
     }
 
     void noUpgradeStartsWithoutAFile()
@@ -136,7 +136,7 @@ private Q_SLOTS:
         m_table->setAllChecked(true);
         m_file.path = m_site->file("BRELM-FIRMWARE 1\nversion");
         call("chooseFileForChecked");
-        QCOMPARE(said(), QStringList("firmware.bin：升级文件已损坏"));
+        QCOMPARE(notices(), QStringList("firmware.bin：升级文件已损坏"));
         call("startChecked");
         awaitOpened("upgradePreview");
         QVERIFY(!object("upgradePreview")->property("okEnabled").toBool());
