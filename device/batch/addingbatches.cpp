@@ -53,16 +53,16 @@ void AddingBatches::importList(const QString &title, const QString &path)
 AddingBatches::List AddingBatches::readList(const QString &title, const QString &path) const
 {
     const ImportPlan read = m_factory.backEnd(dhFamily)->importPlan(path);
-    List list = {.refusal = read.refusal, .plan = {.family = dhFamily, .title = title}, .places = {}};
+    List list = {.refusal = read.refusal, .plan = {.family = dhFamily, .title = title}, .positions = {}};
     QHash<QString, DeviceStep> steps; // by the names of the lines
     list.plan.devices.reserve(static_cast<qsizetype>(read.lines.size()));
     for (const ImportLine &line : read.lines) {
-        const QString name = tr("第%1行 %2").arg(line.place.number).arg(line.place.address);
-        list.places.insert(name, line.place);
+        const QString name = tr("第%1行 %2").arg(line.position.number).arg(line.position.address);
+        list.positions.insert(name, line.position);
         steps.insert(name, line.step);
         list.plan.devices.append({.name = name,
                                   .identity = line.device,
-                                  .ipport = line.place.address,
+                                  .ipport = line.position.address,
                                   .title = line.title,
                                   .login = line.login});
     }
@@ -87,7 +87,7 @@ void AddingBatches::takeList(List &list)
     Batch *batch = m_batches.start(std::move(list.plan));
     if (!batch)
         return;
-    m_positions = std::move(list.places);
+    m_positions = std::move(list.positions);
     Q_EMIT importBegan(batch);
 }
 

@@ -52,7 +52,7 @@ private:
     {
         QString refusal; ///< why the file cannot be imported, in the user's language; empty on success
         BatchPlan plan;
-        QHash<QString, ImportPlace> places; ///< position in the file, by the name of the line
+        QHash<QString, ImportPosition> positions; ///< position in the file, by the name of the line
     };
 
     [[nodiscard]] List readList(const QString &title, const QString &path) const; ///< on any thread
@@ -63,9 +63,9 @@ private:
 
     CDeviceFactory &m_factory;
     Batches &m_batches;
-    QThreadPool m_readers;                   ///< one thread
-    int m_work = 0;                          ///< id of the reading in BusyState; 0 while not reading
-    QTimer m_notifyTimer;                    ///< delays the notification of pages after a new row
-    bool m_hasNewRows = false;               ///< since the end of the last batch
-    QHash<QString, ImportPlace> m_positions; ///< of the latest list, by the name of the line
+    QThreadPool m_readers;                      ///< one thread
+    int m_work = 0;                             ///< id of the reading in BusyState; 0 while not reading
+    QTimer m_notifyTimer;                       ///< delays the notification of pages after a new row
+    bool m_hasNewRows = false;                  ///< since the end of the last batch
+    QHash<QString, ImportPosition> m_positions; ///< of the latest list, by the name of the line
 };

@@ -30,13 +30,13 @@ void UpgradePreview::setIdentities(const QStringList &identities)
     const QList<PlannedUpgrade> plans = deviceFactory()
                                             ? deviceFactory()->backEnd(dhFamily)->plannedUpgrades(identities)
                                             : QList<PlannedUpgrade>();
-    for (qsizetype place = 0; place < plans.size(); ++place) {
-        QVariantMap device = deviceFactory()->getDeviceDetail(dhFamily, identities.at(place));
-        device.insert(identityKey, identities.at(place));
-        m_upgrades.insert(identities.at(place), {.device = device.value(DeviceRowKey::vision).toString(),
-                                                 .file = QFileInfo(plans.at(place).file).fileName(),
-                                                 .version = plans.at(place).version,
-                                                 .refusal = plans.at(place).refusal});
+    for (qsizetype index = 0; index < plans.size(); ++index) {
+        QVariantMap device = deviceFactory()->getDeviceDetail(dhFamily, identities.at(index));
+        device.insert(identityKey, identities.at(index));
+        m_upgrades.insert(identities.at(index), {.device = device.value(DeviceRowKey::vision).toString(),
+                                                 .file = QFileInfo(plans.at(index).file).fileName(),
+                                                 .version = plans.at(index).version,
+                                                 .refusal = plans.at(index).refusal});
         devices.append(device);
     }
     setDevices(devices);

@@ -17,9 +17,9 @@ namespace {
 /// The indexes (in the stream) of the configuration items that a setting is written with.
 QList<int> itemsOf(const QString &field)
 {
-    QList<int> items = {static_cast<int>(encodePlaceOf(field).value_or(EncodePlace::VideoFormat))};
+    QList<int> items = {static_cast<int>(encodeItemIndexOf(field).value_or(EncodeItemIndex::VideoFormat))};
     if (field == EncodeKey::curEncodeMode)
-        items.append(static_cast<int>(EncodePlace::VideoProfile));
+        items.append(static_cast<int>(EncodeItemIndex::VideoProfile));
     return items;
 }
 
@@ -135,7 +135,7 @@ void EncodeForm::fetch()
 {
     m_changedCount = 0;
     m_takenItems = indexesOf(value(EncodeKey::takenItems));
-    m_unreadIndexes = indexesOf(value(EncodeKey::unreadPlaces));
+    m_unreadIndexes = indexesOf(value(EncodeKey::unreadIndexes));
     m_channels = value(EncodeKey::channelNum).toStringList();
     if (m_channels.isEmpty()) // a device that reports no channels has one
         m_channels.append(QStringLiteral("1"));

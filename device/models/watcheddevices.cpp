@@ -73,15 +73,15 @@ QVariantList WatchedDevices::add(const QVariantList &rows)
     Q_EMIT countChanged();
     gather();
 
-    QVariantList places;
+    QVariantList indexes;
     for (const Device &device : std::as_const(added)) {
         const auto channel = std::find_if(m_channels.cbegin(), m_channels.cend(), [&](const QVariant &entry) {
             return entry.toMap().value(DeviceRowKey::ipport) == device.ipport;
         });
         if (channel != m_channels.cend())
-            places.append(static_cast<int>(channel - m_channels.cbegin()));
+            indexes.append(static_cast<int>(channel - m_channels.cbegin()));
     }
-    return places;
+    return indexes;
 }
 
 void WatchedDevices::setChannels(const QString &ipport, QObject *companion, const QVariantList &channels)

@@ -2,11 +2,11 @@
 
 #include "device/registry/mapkeys.h"
 
-QVariantMap importFailure(const ImportPlace &place, const StepOutcome &outcome)
+QVariantMap importFailure(const ImportPosition &position, const StepOutcome &outcome)
 {
     const int code = outcome.result == unusableLine ? resultCode(LoginResult::Unknown) : outcome.result;
-    return {{ListLineKey::line, place.number},
-            {ListLineKey::address, place.address},
+    return {{ListLineKey::line, position.number},
+            {ListLineKey::address, position.address},
             {ListLineKey::code, code},
             {ListLineKey::reason, outcome.text.isEmpty() ? resultName(code) : outcome.text}};
 }

@@ -22,7 +22,7 @@ struct DeviceToAdd
 [[nodiscard]] DeviceToAdd deviceToAdd(const QVariantMap &values);
 
 /// A line of a device list, for the user.
-struct ImportPlace
+struct ImportPosition
 {
     int number = 0;  ///< line number in the file, from 1
     QString address; ///< of the line, truncated
@@ -31,7 +31,7 @@ struct ImportPlace
 /// A line of a device list, with the step that adds its device.
 struct ImportLine
 {
-    ImportPlace place;
+    ImportPosition position;
     QString device; ///< name of the row of the device, or its address and port; equal for the same device
     QString title;  ///< name and model in the line
     QString login;  ///< equal for lines with the same account
@@ -49,4 +49,4 @@ struct ImportPlan
 inline constexpr int unusableLine = 997;
 
 /// A failed line as a map with the keys of ListLineKey. The code of an unusable line is LoginResult::Unknown.
-[[nodiscard]] QVariantMap importFailure(const ImportPlace &place, const StepOutcome &outcome);
+[[nodiscard]] QVariantMap importFailure(const ImportPosition &position, const StepOutcome &outcome);

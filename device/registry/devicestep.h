@@ -33,11 +33,11 @@ public:
     /// For a step that is not ended early.
     StepControl() = default;
 
-    /// `limit` is the deadline from now by `clock`; 0 for none. `releasePlace` may be empty.
+    /// `limit` is the deadline from now by `clock`; 0 for none. `releaseSlot` may be empty.
     StepControl(std::stop_token stop, std::shared_ptr<const sdk::Clock> clock,
-                std::chrono::milliseconds limit, std::function<void()> releasePlace)
+                std::chrono::milliseconds limit, std::function<void()> releaseSlot)
         : m_stop(std::move(stop)), m_clock(std::move(clock)), m_limit(limit),
-          m_releasePlace(std::move(releasePlace))
+          m_releaseSlot(std::move(releaseSlot))
     {
         noteProgress();
     }
@@ -58,10 +58,10 @@ public:
 
     /// From now on the step only waits for its device. It no longer counts towards the limit of devices at a
     /// time.
-    void releasePlace() const
+    void releaseSlot() const
     {
-        if (m_releasePlace)
-            m_releasePlace();
+        if (m_releaseSlot)
+            m_releaseSlot();
     }
 
 private:
@@ -69,7 +69,7 @@ private:
     std::shared_ptr<const sdk::Clock> m_clock;
     std::chrono::milliseconds m_limit{0};
     mutable std::int64_t m_deadline = std::numeric_limits<std::int64_t>::max(); ///< by m_clock
-    std::function<void()> m_releasePlace;
+    std::function<void()> m_releaseSlot;
 };
 
 /// Runs once. Blocks its thread for the timeouts of the library.

@@ -24,12 +24,12 @@ QString encodeKey(bool isSub, QLatin1StringView field)
     return QString(subStreamPrefix) + QChar(field.front()).toUpper() + field.sliced(1);
 }
 
-std::optional<EncodePlace> encodePlaceOf(const QString &field)
+std::optional<EncodeItemIndex> encodeItemIndexOf(const QString &field)
 {
     if (field == EncodeKey::videoEnable)
-        return EncodePlace::VideoFormat;
+        return EncodeItemIndex::VideoFormat;
     const auto *const found =
         std::find_if(encodeFields.begin(), encodeFields.end(),
                      [&field](const EncodeField &candidate) { return candidate.key == field; });
-    return found == encodeFields.end() ? std::nullopt : found->place;
+    return found == encodeFields.end() ? std::nullopt : found->item;
 }

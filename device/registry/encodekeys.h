@@ -8,7 +8,7 @@
 #include <optional>
 
 /// The items of a stream, in the order in which they are read and written.
-enum class EncodePlace : std::uint8_t
+enum class EncodeItemIndex : std::uint8_t
 {
     VideoFormat,
     VideoProfile,
@@ -59,12 +59,12 @@ inline constexpr QLatin1StringView curChannel("curChannel"); ///< int: of the en
 inline constexpr QLatin1StringView curVideoChannel("curVideoChannel");
 inline constexpr QLatin1StringView curStreamType("curStreamType"); ///< int: 0 normal, 1 motion, 2 alarm
 inline constexpr QLatin1StringView offeredStreamTypes("offeredStreamTypes"); ///< int: number of main streams
-// An item is the int of its EncodePlace, plus itemsOfStream for the sub stream.
+// An item is the int of its EncodeItemIndex, plus itemsOfStream for the sub stream.
 
 /// List of int: items that the last write changed.
 inline constexpr QLatin1StringView takenItems("takenItems");
-inline constexpr QLatin1StringView unreadPlaces("unreadPlaces"); ///< list of int: items that were not read
-inline constexpr QLatin1StringView unreadItems("unreadItems");   ///< list of strings: names of these items
+inline constexpr QLatin1StringView unreadIndexes("unreadIndexes"); ///< list of int: items that were not read
+inline constexpr QLatin1StringView unreadItems("unreadItems");     ///< list of strings: names of these items
 } // namespace EncodeKey
 
 /// Settings of a stream in EncodeForm that have other names than their keys.
@@ -78,28 +78,28 @@ inline constexpr QLatin1StringView control("control"); ///< bitstreamControl
 struct EncodeField
 {
     QLatin1StringView key;
-    std::optional<EncodePlace> place = std::nullopt; ///< empty for a list, which is not written
+    std::optional<EncodeItemIndex> item = std::nullopt; ///< empty for a list, which is not written
 };
 
 /// Every key that both streams have.
 inline constexpr std::array encodeFields = {
     EncodeField{EncodeKey::allStreamType},
     EncodeField{EncodeKey::encodeMode},
-    EncodeField{EncodeKey::curEncodeMode, EncodePlace::VideoFormat},
+    EncodeField{EncodeKey::curEncodeMode, EncodeItemIndex::VideoFormat},
     EncodeField{EncodeKey::resolution},
-    EncodeField{EncodeKey::curResolution, EncodePlace::VideoFormat},
-    EncodeField{EncodeKey::bitstreamControl, EncodePlace::VideoFormat},
+    EncodeField{EncodeKey::curResolution, EncodeItemIndex::VideoFormat},
+    EncodeField{EncodeKey::bitstreamControl, EncodeItemIndex::VideoFormat},
     EncodeField{EncodeKey::bitStream},
-    EncodeField{EncodeKey::curBitStream, EncodePlace::VideoFormat},
-    EncodeField{EncodeKey::bitRate, EncodePlace::VideoFormat},
-    EncodeField{EncodeKey::frameRate, EncodePlace::VideoFormat},
+    EncodeField{EncodeKey::curBitStream, EncodeItemIndex::VideoFormat},
+    EncodeField{EncodeKey::bitRate, EncodeItemIndex::VideoFormat},
+    EncodeField{EncodeKey::frameRate, EncodeItemIndex::VideoFormat},
     EncodeField{EncodeKey::frameRateMax},
-    EncodeField{EncodeKey::quality, EncodePlace::VideoFormat},
-    EncodeField{EncodeKey::audioEnable, EncodePlace::AudioCompression},
+    EncodeField{EncodeKey::quality, EncodeItemIndex::VideoFormat},
+    EncodeField{EncodeKey::audioEnable, EncodeItemIndex::AudioCompression},
     EncodeField{EncodeKey::audioCompression},
-    EncodeField{EncodeKey::curAudioCompression, EncodePlace::AudioCompression},
+    EncodeField{EncodeKey::curAudioCompression, EncodeItemIndex::AudioCompression},
     EncodeField{EncodeKey::samplingFrequency},
-    EncodeField{EncodeKey::curSamplingFrequency, EncodePlace::AudioFormat},
+    EncodeField{EncodeKey::curSamplingFrequency, EncodeItemIndex::AudioFormat},
     EncodeField{EncodeKey::missingSettings},
 };
 
@@ -115,4 +115,4 @@ struct StreamKey
 [[nodiscard]] QString encodeKey(bool isSub, QLatin1StringView field);
 
 /// The item that contains the value of a StreamKey::field. Empty for a list and for other keys.
-[[nodiscard]] std::optional<EncodePlace> encodePlaceOf(const QString &field);
+[[nodiscard]] std::optional<EncodeItemIndex> encodeItemIndexOf(const QString &field);

@@ -50,10 +50,10 @@ void SessionWork::readEncodeChannel()
     });
 }
 
-void SessionWork::chooseEncoding(const QString &key, int place)
+void SessionWork::chooseEncoding(const QString &key, int index)
 {
-    beginJob([key, place](SessionOperations &device, const StepControl &) {
-        device.setConfigData(key, place, {});
+    beginJob([key, index](SessionOperations &device, const StepControl &) {
+        device.setConfigData(key, index, {});
         device.getEncodeInfo();
         return QVariant();
     });
@@ -89,10 +89,10 @@ void SessionWork::readImage(int channel)
     });
 }
 
-void SessionWork::chooseImageMode(int place)
+void SessionWork::chooseImageMode(int index)
 {
-    beginJob([place](SessionOperations &device, const StepControl &) {
-        device.setConfigData(CameraKey::curSwitchMode, place, {});
+    beginJob([index](SessionOperations &device, const StepControl &) {
+        device.setConfigData(CameraKey::curSwitchMode, index, {});
         device.getVideoIn();
         return QVariant();
     });

@@ -17,9 +17,9 @@ public:
     // Encode page.
     Q_INVOKABLE void readEncoding();      ///< as readEncodeChannel(), and the colours of the channel
     Q_INVOKABLE void readEncodeChannel(); ///< choices and values of the selected channel
-    /// Selects a channel or stream and reads it. `key` is "curChannel" or "curStreamType"; `place` is its
+    /// Selects a channel or stream and reads it. `key` is "curChannel" or "curStreamType"; `index` is its
     /// number from 0.
-    Q_INVOKABLE void chooseEncoding(const QString &key, int place);
+    Q_INVOKABLE void chooseEncoding(const QString &key, int index);
     /// Sets a value of EncodeKey that setConfigData() writes to the device immediately.
     Q_INVOKABLE void writeEncodeValue(const QString &key, const QVariant &value);
     Q_INVOKABLE void saveEncoding(); ///< writes all changed values
@@ -28,7 +28,7 @@ public:
     /// list of bool: whether each channel has a camera. It is empty if the device did not respond.
     Q_INVOKABLE void readImage(int channel);
     /// Selects the mode with this index in "allSwitchMode" and reads its settings.
-    Q_INVOKABLE void chooseImageMode(int place);
+    Q_INVOKABLE void chooseImageMode(int index);
     /// Writes values of the group `key`, in their order. Each entry of `values` is a list of sub-key and
     /// value. The rest is not written when the device stops responding.
     Q_INVOKABLE void writeImage(const QString &key, const QVariantList &values);

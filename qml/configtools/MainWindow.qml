@@ -88,7 +88,7 @@ T.ApplicationWindow {
 
     function rememberView() {
         memory.keep("tab", String(currentTab));
-        memory.keep("window", place.text());
+        memory.keep("window", savedGeometry.text());
         memory.write();
     }
 
@@ -145,8 +145,8 @@ T.ApplicationWindow {
         target: Theme
         value: Number.isInteger(window.Screen.devicePixelRatio) ? Text.NativeRendering : Text.QtRendering
     }
-    WindowPlace {
-        id: place
+    WindowGeometry {
+        id: savedGeometry
         stored: window.memory.text("window")
         window: window
     }

@@ -30,7 +30,7 @@ public:
     NewWorkbook &operator=(const NewWorkbook &) = delete;
     ~NewWorkbook();
 
-    /// Creates the temporary files. Fails when the system has no place for them.
+    /// Creates the temporary files. Fails when the system has no space for them.
     bool create();
 
     /// True when all cells of the range can still be written: they are in one row, which is the current row

@@ -56,17 +56,17 @@ bool RawExchange::pause(int milliseconds) const
 RawServer::RawServer(Handler handler, Reach reach) : m_handler(std::move(handler))
 {
     m_listener = socket(AF_INET, SOCK_STREAM, 0);
-    sockaddr_in place = {};
-    place.sin_family = AF_INET;
-    place.sin_addr.s_addr = htonl(reach == Reach::OneAddress ? INADDR_LOOPBACK : INADDR_ANY);
-    socklen_t length = sizeof(place);
+    sockaddr_in address = {};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(reach == Reach::OneAddress ? INADDR_LOOPBACK : INADDR_ANY);
+    socklen_t length = sizeof(address);
     constexpr int waiting = 16;
-    auto *name = reinterpret_cast<sockaddr *>(&place);
+    auto *name = reinterpret_cast<sockaddr *>(&address);
     if (bind(m_listener, name, length) != 0 || listen(m_listener, waiting) != 0 ||
         getsockname(m_listener, name, &length) != 0) {
         qFatal("there is no loopback port to listen on");
     }
-    m_port = ntohs(place.sin_port);
+    m_port = ntohs(address.sin_port);
     m_thread = std::thread([this] { serve(); });
 }
 

@@ -45,11 +45,11 @@ public:
     }
 
     /// Sets the upgrade result of an IPv4 row.
-    void setUpgrade(qsizetype place, UpgradeTools::Result result)
+    void setUpgrade(qsizetype index, UpgradeTools::Result result)
     {
-        QJsonObject row = ipv4.at(place).toJsonObject();
+        QJsonObject row = ipv4.at(index).toJsonObject();
         row.insert(DeviceRowKey::upgraderes, result);
-        ipv4[place] = row;
+        ipv4[index] = row;
     }
 
     std::function<void()> beforeReading; ///< called before the IPv4 rows are read

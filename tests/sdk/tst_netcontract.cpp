@@ -255,8 +255,8 @@ private Q_SLOTS:
             QCOMPARE((block.missingValues >> static_cast<unsigned>(EncodeValue::Audio) & 1) == 0, hasSound);
             QCOMPARE((block.missingValues >> static_cast<unsigned>(EncodeValue::Stream) & 1), 0U);
             QStringList rates;
-            for (std::uint32_t place = 0; place < block.audioRateCount; ++place) {
-                const AudioRate &rate = block.audioRates[place];
+            for (std::uint32_t index = 0; index < block.audioRateCount; ++index) {
+                const AudioRate &rate = block.audioRates[index];
                 if (rate.format == 8)
                     rates.append(QString::number(rate.frequency));
             }

@@ -68,7 +68,7 @@ private Q_SLOTS:
         row("between cells", 2, 3,
             "<row r='2'><c r='B2' s='2'><v>4</v></c><c r='C2' " + plainText +
                 "<c r='D2' t='b'><v>1</v></c></row><row><c><v>5</v></c></row>");
-        row("after a cell without a place", 3, 2,
+        row("after a cell without a position", 3, 2,
             "<row r='2' spans='2:4'><c r='B2' s='2'><v>4</v></c>"
             "<c r='D2' t='b'><v>1</v></c></row><row><c><v>5</v></c>"
             "<c r='B3' s='3' " +

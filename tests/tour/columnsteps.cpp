@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QRect place(30, 20, 1300, 760);
+const QRect geometry(30, 20, 1300, 760);
 const QString note = u"东门 3 号杆"_s;
 
 QString columnsText(const Driver &driver)
@@ -84,8 +84,8 @@ void walkColumns(Driver &driver)
     walkMenu(driver);
     walkKeys(driver);
     walkNote(driver);
-    driver.window()->setGeometry(place);
-    driver.await(u"the window has its position"_s, [&] { return driver.window()->geometry() == place; });
+    driver.window()->setGeometry(geometry);
+    driver.await(u"the window has its position"_s, [&] { return driver.window()->geometry() == geometry; });
     driver.report(u"columns-wide"_s, u"in a larger window"_s);
     driver.click(u"tab1"_s);
     driver.require(u"upgradeTable"_s);
@@ -94,7 +94,7 @@ void walkColumns(Driver &driver)
 void walkRestored(Driver &driver)
 {
     driver.check(driver.find(u"upgradeTable"_s) != nullptr, u"the last tab is open"_s);
-    driver.check(driver.window()->geometry() == place, u"the window has its last position"_s);
+    driver.check(driver.window()->geometry() == geometry, u"the window has its last position"_s);
     awaitSearchEnd(driver);
     driver.click(u"tab0"_s);
     const Rows rows(driver);
@@ -125,5 +125,6 @@ void walkRestoredAgain(Driver &driver)
     driver.await(u"the note is closed"_s, [&] { return !driver.find(u"noteField"_s); });
     driver.report(u"restored-maximised"_s, u"with the sign of a note"_s);
     driver.click(u"maximiseButton"_s);
-    driver.await(u"the window has its size again"_s, [&] { return driver.window()->size() == place.size(); });
+    driver.await(u"the window has its size again"_s,
+                 [&] { return driver.window()->size() == geometry.size(); });
 }

@@ -34,12 +34,12 @@ QString shownBy(const Driver &driver, const QString &choice)
     return driver.require(choice)->property("displayText").toString();
 }
 
-void pick(const Driver &driver, const QString &choice, int place)
+void pick(const Driver &driver, const QString &choice, int index)
 {
     driver.require(choice)->forceActiveFocus(Qt::TabFocusReason); // scrolls it into view
     driver.click(choice);
     driver.key(Qt::Key_Home); // to the start of a long list
-    driver.click(u"choice%1"_s.arg(place));
+    driver.click(u"choice%1"_s.arg(index));
     driver.await(u"the list of \"%1\" is closed"_s.arg(choice), [&] { return !driver.find(u"choice0"_s); });
     awaitConfigIdle(driver);
 }

@@ -115,10 +115,10 @@ void walkBatchAcrossOctet(Driver &driver)
 
     searchAgain(driver);
     const QStringList expected = {u"192.168.1.254"_s, u"192.168.1.255"_s, u"192.168.2.0"_s};
-    for (int place = 0; place < 3; ++place) {
-        const QString found = rows.value(rows.rowOf("mac", macs.at(place)), "ipport").toString();
-        driver.check(found.section(QLatin1Char(':'), 0, 0) == expected.at(place),
-                     u"the device responds at %1 (%2)"_s.arg(expected.at(place), found));
+    for (int index = 0; index < 3; ++index) {
+        const QString found = rows.value(rows.rowOf("mac", macs.at(index)), "ipport").toString();
+        driver.check(found.section(QLatin1Char(':'), 0, 0) == expected.at(index),
+                     u"the device responds at %1 (%2)"_s.arg(expected.at(index), found));
     }
 }
 

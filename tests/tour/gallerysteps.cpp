@@ -41,11 +41,11 @@ void walkPictures(Driver &gallery)
     gallery.key(Qt::Key_Home);
 }
 
-void awaitPlaying(const Driver &live, const QList<int> &places)
+void awaitPlaying(const Driver &live, const QList<int> &indexes)
 {
     live.await(u"the live views show frames"_s, [&] {
-        for (const int place : places) {
-            const QQuickItem *player = live.find(u"liveCell%1"_s.arg(place));
+        for (const int index : indexes) {
+            const QQuickItem *player = live.find(u"liveCell%1"_s.arg(index));
             if (!player || !player->property("playing").toBool())
                 return false;
         }

@@ -21,28 +21,28 @@ const QString cameraMac = u"02:1a:c5:00:40:25"_s;
 const QString recorder = u"192.168.1.120:8800"_s;
 const QString recorderMac = u"02:1a:c5:00:40:72"_s;
 
-QQuickItem *videoIn(const Driver &live, int place)
+QQuickItem *videoIn(const Driver &live, int index)
 {
-    const QQuickItem *player = live.find(u"liveCell%1"_s.arg(place));
+    const QQuickItem *player = live.find(u"liveCell%1"_s.arg(index));
     return player ? player->findChild<QQuickItem *>(u"liveVideo"_s) : nullptr;
 }
 
-QSize frameSize(const Driver &live, int place)
+QSize frameSize(const Driver &live, int index)
 {
-    const QQuickItem *video = videoIn(live, place);
+    const QQuickItem *video = videoIn(live, index);
     return video ? video->property("pictureSize").toSize() : QSize();
 }
 
-bool plays(const Driver &live, int place)
+bool plays(const Driver &live, int index)
 {
-    return !frameSize(live, place).isEmpty();
+    return !frameSize(live, index).isEmpty();
 }
 
-void awaitFrames(const Driver &live, int places)
+void awaitFrames(const Driver &live, int indexes)
 {
-    live.await(u"%1 live views show frames"_s.arg(places), [&] {
-        for (int place = 0; place < places; ++place) {
-            if (!plays(live, place))
+    live.await(u"%1 live views show frames"_s.arg(indexes), [&] {
+        for (int index = 0; index < indexes; ++index) {
+            if (!plays(live, index))
                 return false;
         }
         return true;

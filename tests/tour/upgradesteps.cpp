@@ -59,15 +59,15 @@ QString writeFirmware(const Driver &driver, const QString &folder, const QString
 }
 
 /// Makes six devices fast, except for the faults of some.
-void prepareDevices(const Rows &rows, const QList<int> &places, sdk::demo::DemoSite &site)
+void prepareDevices(const Rows &rows, const QList<int> &indexes, sdk::demo::DemoSite &site)
 {
-    for (const int row : places) {
+    for (const int row : indexes) {
         const QString mac = rows.value(row, "mac").toString();
         site.setFault(mac, {Fault::UpgradeTakes, 3});
         site.setFault(mac, {Fault::RebootTakes, 2});
     }
-    const auto mac = [&](int place) {
-        return rows.value(places.at(place), "mac").toString();
+    const auto mac = [&](int index) {
+        return rows.value(indexes.at(index), "mac").toString();
     };
     site.setFault(mac(1), {Fault::UpgradeFailsAt, 47});
     site.setFault(mac(2), {Fault::UpgradeHangsAt, 63});
@@ -184,32 +184,32 @@ void walkFailedUpgrades(Driver &driver, sdk::demo::DemoSite &site, const QString
 void walkTableUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &folder)
 {
     const Rows rows(driver, u"upgradeTable"_s);
-    const QList<int> places = usableRows(driver, rows, site, 6);
-    prepareDevices(rows, places, site);
+    const QList<int> indexes = usableRows(driver, rows, site, 6);
+    prepareDevices(rows, indexes, site);
     QStringList models;
-    for (const int row : places)
+    for (const int row : indexes)
         models.append(rows.value(row, "model").toString());
     models.removeDuplicates();
     writeFirmware(driver, folder, newestVersion, models);
     const QString firmware = writeFirmware(driver, folder, newVersion, models);
-    const auto result = [&](int place) {
-        return rows.value(places.at(place), "upgraderes").toInt();
+    const auto result = [&](int index) {
+        return rows.value(indexes.at(index), "upgraderes").toInt();
     };
 
     driver.click(u"upgradeStartButton"_s);
     expectToast(driver, translated("UpgradeWork", "请选择一台设备"));
     const QString emptyFile = firmware + u".empty"_s;
     driver.check(writeFile(emptyFile, {}), u"there is an empty file"_s);
-    driver.click(u"upgradeFile%1"_s.arg(places.at(0)));
+    driver.click(u"upgradeFile%1"_s.arg(indexes.at(0)));
     driver.answerFileBox(emptyFile);
     driver.await(u"the empty file is refused"_s, [&] { return result(0) == UpgradeTools::FileEmpty; });
-    driver.check(!driver.find(u"upgradePhase%1"_s.arg(places.at(0))), u"no progress is shown"_s);
-    for (const int row : places)
+    driver.check(!driver.find(u"upgradePhase%1"_s.arg(indexes.at(0))), u"no progress is shown"_s);
+    for (const int row : indexes)
         driver.click(u"check%1"_s.arg(row));
     driver.click(u"upgradeFileButton"_s);
     driver.answerFileBox(firmware);
     driver.await(u"each device has the file"_s, [&] {
-        return std::all_of(places.cbegin(), places.cend(),
+        return std::all_of(indexes.cbegin(), indexes.cend(),
                            [&](int row) { return rows.value(row, "filepath").toString() == firmware; });
     });
     driver.report(u"upgrade-files"_s, u"one file for six devices"_s);
@@ -217,12 +217,12 @@ void walkTableUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &
     beginUpgrades(driver, u"upgrade-preview"_s);
     driver.await(u"four devices run at a time"_s, [&] {
         return result(0) == UpgradeTools::Sending && result(4) == UpgradeTools::Waiting &&
-               rows.value(places.at(0), "upgrade").toInt() > 20;
+               rows.value(indexes.at(0), "upgrade").toInt() > 20;
     });
     driver.report(u"upgrade-running"_s, driver.text(u"runningText"_s));
-    expectRowHeldBack(driver, rows.value(places.at(3), "mac").toString()); // a slow upgrade
+    expectRowHeldBack(driver, rows.value(indexes.at(3), "mac").toString()); // a slow upgrade
     expectHold(driver);
-    driver.click(u"upgradeStop%1"_s.arg(places.at(3)));
+    driver.click(u"upgradeStop%1"_s.arg(indexes.at(3)));
     driver.await(u"one device is stopped"_s, [&] { return result(3) == UpgradeTools::Stopped; });
     driver.await(
         u"one device writes"_s, [&] { return result(5) == UpgradeTools::Writing; }, 60);
@@ -230,16 +230,17 @@ void walkTableUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &
     awaitBatchEnd(driver);
     const QList<int> expected = {UpgradeTools::Success, UpgradeTools::Failed,  UpgradeTools::Stuck,
                                  UpgradeTools::Stopped, UpgradeTools::Success, UpgradeTools::Success};
-    for (int place = 0; place < 6; ++place)
-        driver.check(result(place) == expected.at(place),
-                     u"device %1 has the result %2"_s.arg(place).arg(expected.at(place)));
-    driver.check(rows.value(places.at(0), "vision").toString() == u'v' + newVersion,
+    for (int index = 0; index < 6; ++index)
+        driver.check(result(index) == expected.at(index),
+                     u"device %1 has the result %2"_s.arg(index).arg(expected.at(index)));
+    driver.check(rows.value(indexes.at(0), "vision").toString() == u'v' + newVersion,
                  u"the new version is shown"_s);
-    driver.report(u"upgrade-results"_s, driver.texts(u"upgradeResult%1"_s.arg(places.at(2))).join(QString()));
+    driver.report(u"upgrade-results"_s,
+                  driver.texts(u"upgradeResult%1"_s.arg(indexes.at(2))).join(QString()));
 
     QStringList failed;
-    for (const int place : {1, 2, 3})
-        failed.append(rows.value(places.at(place), "mac").toString());
+    for (const int index : {1, 2, 3})
+        failed.append(rows.value(indexes.at(index), "mac").toString());
     walkFailedUpgrades(driver, site, failed, folder);
 }
 
@@ -251,13 +252,13 @@ QString writeDocument(const Driver &driver, const QStringList &addresses, const 
                                 UpgradeTools::templateFileName());
     const QString firmware = firmwareName(newestVersion);
     const QStringList files = {firmware, firmware, u"missing.bin"_s};
-    for (int place = 0; place < addresses.size(); ++place) {
-        const int row = place + 2;
-        isWritten &= excel.setCellText(row, 1, addresses.at(place).section(u':', 0, 0)) &&
-                     excel.setCellText(row, 2, addresses.at(place).section(u':', 1)) &&
+    for (int index = 0; index < addresses.size(); ++index) {
+        const int row = index + 2;
+        isWritten &= excel.setCellText(row, 1, addresses.at(index).section(u':', 0, 0)) &&
+                     excel.setCellText(row, 2, addresses.at(index).section(u':', 1)) &&
                      excel.setCellText(row, 3, u"admin"_s) &&
-                     excel.setCellText(row, 4, place == 1 ? u"wrong"_s : password) &&
-                     excel.setCellText(row, 5, files.at(place));
+                     excel.setCellText(row, 4, index == 1 ? u"wrong"_s : password) &&
+                     excel.setCellText(row, 5, files.at(index));
     }
     const QString path = folder + u"/upgrades.xlsx"_s;
     driver.check(isWritten && excel.saveAs(path), u"the document is written"_s);

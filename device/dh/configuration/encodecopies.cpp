@@ -23,9 +23,9 @@ void EncodeCopies::copyTo(const QStringList &devices)
     QList<DeviceStep> copies;
     for (const QString &ipport : devices)
         copies.append(stepFor(ipport));
-    for (qsizetype place = 0; place < copies.size(); ++place)
-        m_signals.emitNow<&CDeviceBase::signalCDeviceRetToCopyConfig>(devices.at(place),
-                                                                      copies.at(place)(StepControl()).result);
+    for (qsizetype index = 0; index < copies.size(); ++index)
+        m_signals.emitNow<&CDeviceBase::signalCDeviceRetToCopyConfig>(devices.at(index),
+                                                                      copies.at(index)(StepControl()).result);
 }
 
 DeviceStepMaker EncodeCopies::steps()

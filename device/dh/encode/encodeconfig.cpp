@@ -69,7 +69,7 @@ QVariant EncodeConfig::value(const QString &key, const ChannelChoice &channels) 
     if (key == EncodeKey::takenItems)
         return m_takenItems;
     const EncodeState &state = m_state ? *m_state : unreadState();
-    if (key == EncodeKey::unreadItems || key == EncodeKey::unreadPlaces) {
+    if (key == EncodeKey::unreadItems || key == EncodeKey::unreadIndexes) {
         QStringList names;
         QVariantList indexes;
         for (const int index : state.withheldItems(channels.curStreamType)) {

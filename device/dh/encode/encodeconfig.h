@@ -30,7 +30,7 @@ public:
 
     /// A value by key, see EncodeValues::value(). Additional keys: "takenItems" (indexes of the items that
     /// the device accepted in the last setValue() or confirm(), with confirm() also of those that it does not
-    /// have; empty after read()), "unreadItems" and "unreadPlaces" (names and indexes of the items that the
+    /// have; empty after read()), "unreadItems" and "unreadIndexes" (names and indexes of the items that the
     /// device has but that were not read). Indexes are those of writeEncodeItems().
     [[nodiscard]] QVariant value(const QString &key, const ChannelChoice &channels) const;
 

@@ -98,8 +98,8 @@ QStringList takeAudio(const EncodeChoices &choices, const EncodeItems &from, boo
 QList<int> itemsLeftOut(const EncodeState &from)
 {
     QList<int> indexes = from.unreadItems();
-    constexpr int compression = static_cast<int>(EncodePlace::AudioCompression);
-    constexpr int format = static_cast<int>(EncodePlace::AudioFormat);
+    constexpr int compression = static_cast<int>(EncodeItemIndex::AudioCompression);
+    constexpr int format = static_cast<int>(EncodeItemIndex::AudioFormat);
     for (const int stream : {0, itemsOfStream}) {
         // A sampling frequency is only valid with its compression.
         if (indexes.contains(stream + compression) && !indexes.contains(stream + format))
@@ -111,7 +111,7 @@ QList<int> itemsLeftOut(const EncodeState &from)
 /// Copies compression and size to the record with which capabilities are queried.
 void putIntoRecord(const EncodeItems &items, sdk::EncodeStreamRecord &record)
 {
-    if (!items.knows(EncodePlace::VideoFormat))
+    if (!items.knows(EncodeItemIndex::VideoFormat))
         return;
     record.compression = items.videoFormat.compression;
     record.width = items.videoFormat.width;
@@ -146,8 +146,8 @@ EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeStat
     const EncodeChoices mainChoices(tables, main);
     const EncodeChoices subChoices(tables, sub);
     // Items of the source that were not read are left out and listed below.
-    const bool hasMain = from.main.knows(EncodePlace::VideoFormat);
-    const bool hasSub = from.sub.knows(EncodePlace::VideoFormat);
+    const bool hasMain = from.main.knows(EncodeItemIndex::VideoFormat);
+    const bool hasSub = from.sub.knows(EncodeItemIndex::VideoFormat);
     if (hasMain)
         outcome.skipped += takePicture(mainChoices, from.main, false, to.main);
     if (hasSub)

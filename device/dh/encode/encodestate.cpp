@@ -71,7 +71,7 @@ QList<int> EncodeState::missingItems(int streamType) const
             return (block.missingValues >> static_cast<std::uint32_t>(value) & 1) != 0;
         };
         for (int index = 0; index < itemsOfStream; ++index) {
-            const bool isAudio = index >= static_cast<int>(EncodePlace::AudioCompression);
+            const bool isAudio = index >= static_cast<int>(EncodeItemIndex::AudioCompression);
             if (lacks(sdk::EncodeValue::Stream) || (isAudio && lacks(sdk::EncodeValue::Audio)))
                 missing.append(first + index);
         }

@@ -16,10 +16,10 @@ struct EncodeItems
     sdk::VideoProfileItem videoProfile{};
     sdk::AudioCompressionItem audioCompression{};
     sdk::AudioFormatItem audioFormat{};
-    std::array<bool, itemsOfStream> isRead{}; ///< by EncodePlace
+    std::array<bool, itemsOfStream> isRead{}; ///< by EncodeItemIndex
 
     /// Whether this item was read.
-    [[nodiscard]] bool knows(EncodePlace index) const { return isRead[static_cast<std::size_t>(index)]; }
+    [[nodiscard]] bool knows(EncodeItemIndex index) const { return isRead[static_cast<std::size_t>(index)]; }
 };
 
 /// Encoder state of one channel.

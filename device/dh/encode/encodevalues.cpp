@@ -101,7 +101,8 @@ QStringList missingSettings(const EncodeChoices &choices)
 bool EncodeValues::isKey(const QString &key)
 {
     constexpr std::array otherKeys = {EncodeKey::subVideoEnable, EncodeKey::offeredStreamTypes,
-                                      EncodeKey::takenItems, EncodeKey::unreadItems, EncodeKey::unreadPlaces};
+                                      EncodeKey::takenItems, EncodeKey::unreadItems,
+                                      EncodeKey::unreadIndexes};
     const QString field = splitEncodeKey(key).field;
     return std::any_of(otherKeys.begin(), otherKeys.end(),
                        [&key](QLatin1StringView other) { return other == key; }) ||
@@ -112,7 +113,7 @@ bool EncodeValues::isKey(const QString &key)
 QVariant EncodeValues::value(const QString &key, const EncodeState &state, int streamType) const
 {
     const StreamKey parts = splitEncodeKey(key);
-    const std::optional<EncodePlace> index = encodePlaceOf(parts.field);
+    const std::optional<EncodeItemIndex> index = encodeItemIndexOf(parts.field);
     if (index && !(parts.isSub ? state.sub : state.main).knows(*index))
         return {};
     if (key == EncodeKey::offeredStreamTypes)
@@ -180,12 +181,12 @@ QVariant EncodeValues::listValue(const QString &field, bool isSub, const EncodeI
 bool EncodeValues::setCompression(const QString &name, EncodeItems &items, EncodeState &state) const
 {
     const std::optional<CompressionChoice> choice = compressionChoice(m_tables, name);
-    if (!choice || !state.main.knows(EncodePlace::VideoFormat))
+    if (!choice || !state.main.knows(EncodeItemIndex::VideoFormat))
         return false;
     // Devices expect this: the compression is always that of the main stream; only the profile is set for the
     // selected stream.
     state.main.videoFormat.compression = choice->code;
-    if (choice->profile > 0 && items.knows(EncodePlace::VideoProfile))
+    if (choice->profile > 0 && items.knows(EncodeItemIndex::VideoProfile))
         items.videoProfile.profile = choice->profile;
     return true;
 }
@@ -196,7 +197,7 @@ void EncodeValues::setAudioCompression(const QString &name, EncodeItems &items,
     items.audioCompression.format = ValueTables::audioNameToFormat(name);
     const QList<int> frequencies = EncodeChoices(m_tables, block).samplingFrequencies(name);
     // If the device does not report frequencies, the current one may be valid.
-    if (block.audioRateCount > 0 && items.knows(EncodePlace::AudioFormat) && !frequencies.isEmpty() &&
+    if (block.audioRateCount > 0 && items.knows(EncodeItemIndex::AudioFormat) && !frequencies.isEmpty() &&
         !frequencies.contains(items.audioFormat.samplingFrequency))
         items.audioFormat.samplingFrequency = frequencies.first();
 }
@@ -207,7 +208,7 @@ bool EncodeValues::setValue(const QString &key, const QVariant &value, EncodeSta
     const StreamKey parts = splitEncodeKey(key);
     EncodeItems &items = parts.isSub ? state.sub : state.main;
     sdk::VideoFormatItem &video = items.videoFormat;
-    const std::optional<EncodePlace> index = encodePlaceOf(parts.field);
+    const std::optional<EncodeItemIndex> index = encodeItemIndexOf(parts.field);
     if (!index || !items.knows(*index))
         return false;
     if (key == EncodeKey::subVideoEnable)

@@ -137,7 +137,7 @@ std::vector<ImportLine> DeviceListImport::plan(const std::shared_ptr<DeviceListI
         const std::pair account(device.account, device.password);
         const qsizetype login = accounts.value(account, accounts.size());
         accounts.insert(account, login);
-        plan.push_back({.place = {.number = line.number, .address = device.address.left(maximumListText)},
+        plan.push_back({.position = {.number = line.number, .address = device.address.left(maximumListText)},
                         .device = row.isEmpty() ? targetOf(device) : rowName(row),
                         .title = titleOf(line),
                         .login = QString::number(login),

@@ -105,7 +105,7 @@ QString DeviceLists::importDevices(const QString &path, const std::shared_ptr<P2
         ++summary.total;
         if (outcome.result != resultCode(LoginResult::Success)) {
             ++summary.errcount;
-            m_importFailures.append(importFailure(line.place, outcome));
+            m_importFailures.append(importFailure(line.position, outcome));
         }
         m_signals.emitNow<&CDeviceBase::signalCDeviceImportProgress>(summary.total, total);
     }

@@ -177,7 +177,7 @@ UpgradeState UpgradeWork::run(const StepControl &control)
     m_libraries.net->NetLogout(login.handle); // no progress callback after this, even if a stop was refused
     if (state.result != UpgradeTools::Restarting)
         return state;
-    control.releasePlace();
+    control.releaseSlot();
     return waitForReturn(file, control);
 }
 

@@ -46,7 +46,7 @@ Rectangle {
 
         BarButton {
             enabled: root.grid.channels.length > 0
-            iconName: "onePlace"
+            iconName: "oneView"
             objectName: "liveOneButton"
             on: root.grid.cellCount === 1
             toolTip: qsTr("1 画面")
@@ -54,7 +54,7 @@ Rectangle {
         }
         BarButton {
             enabled: root.grid.channels.length > 1
-            iconName: "fourPlaces"
+            iconName: "fourViews"
             objectName: "liveFourButton"
             on: root.grid.cellCount === 4
             toolTip: qsTr("4 画面")
@@ -62,7 +62,7 @@ Rectangle {
         }
         BarButton {
             enabled: root.grid.channels.length > 4
-            iconName: "ninePlaces"
+            iconName: "nineViews"
             objectName: "liveNineButton"
             on: root.grid.cellCount === 9
             toolTip: qsTr("9 画面")

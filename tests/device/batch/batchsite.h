@@ -36,7 +36,7 @@ protected:
         m_site.reset();
     }
 
-    [[nodiscard]] QString identityOf(int place) const { return m_devices.at(place).mac; }
+    [[nodiscard]] QString identityOf(int index) const { return m_devices.at(index).mac; }
     static QStringList wantedAddresses()
     {
         return {"192.168.1.51", "192.168.1.52", "192.168.1.53", "192.168.1.54"};

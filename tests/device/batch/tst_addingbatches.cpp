@@ -34,7 +34,7 @@ public:
         ImportPlan plan;
         for (int line = 1; line <= lines; ++line) {
             const QString device = QStringLiteral("10.0.0.%1").arg(line % devices);
-            plan.lines.push_back({.place = {.number = line, .address = device},
+            plan.lines.push_back({.position = {.number = line, .address = device},
                                   .device = device,
                                   .title = {},
                                   .login = {},

@@ -252,8 +252,8 @@ private Q_SLOTS:
         QFETCH(QStringList, before);
         QFETCH(QStringList, after);
         QList<AddressChange> changes;
-        for (qsizetype place = 0; place < before.size(); ++place)
-            changes.append({.oldAddress = before.at(place), .newAddress = after.at(place)});
+        for (qsizetype index = 0; index < before.size(); ++index)
+            changes.append({.oldAddress = before.at(index), .newAddress = after.at(index)});
         const AddressOrder order = addressOrder(changes);
         QTEST(order.order, "order");
         QTEST(order.circle, "circle");

@@ -19,15 +19,15 @@ constexpr int success = resultCode(LoginResult::Success);
 class Record : public BatchWatcher
 {
 public:
-    void started(std::size_t place) override
+    void started(std::size_t index) override
     {
         const std::lock_guard lock(m_mutex);
-        m_started.append(static_cast<int>(place));
+        m_started.append(static_cast<int>(index));
     }
-    void finished(std::size_t place, const StepOutcome &outcome) override
+    void finished(std::size_t index, const StepOutcome &outcome) override
     {
         const std::lock_guard lock(m_mutex);
-        m_finished.append({static_cast<int>(place), outcome.result});
+        m_finished.append({static_cast<int>(index), outcome.result});
     }
     void paused() override { ++holds; }
     void ended() override { ++ends; }
@@ -132,10 +132,10 @@ private Q_SLOTS:
             QTRY_COMPARE(m_record->results().size(), ended);
         }
         QTRY_COMPARE(m_record->ends, 1);
-        QList<int> places = m_record->startedIndexes();
+        QList<int> indexes = m_record->startedIndexes();
         if (expected > 1)
-            std::sort(places.begin(), places.end());
-        QCOMPARE(places, (QList<int>{0, 1, 2, 3, 4, 5}));
+            std::sort(indexes.begin(), indexes.end());
+        QCOMPARE(indexes, (QList<int>{0, 1, 2, 3, 4, 5}));
     }
 
     /// This applies across batches, in the order of the requests.
@@ -269,7 +269,7 @@ private Q_SLOTS:
         std::vector<BatchItem> items;
         for (int number = 0; number < 5; ++number) {
             items.push_back({.device = QString::number(number), .step = [this](const StepControl &control) {
-                                 control.releasePlace();
+                                 control.releaseSlot();
                                  ++m_runs;
                                  m_gate.acquire();
                                  return StepOutcome();

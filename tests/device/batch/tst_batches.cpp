@@ -28,8 +28,8 @@ QStringList ipportsOf(const QList<sdk::demo::SceneDevice> &devices)
 class NoWatcher : public BatchWatcher
 {
 public:
-    void started(std::size_t /*place*/) override {}
-    void finished(std::size_t /*place*/, const StepOutcome & /*outcome*/) override {}
+    void started(std::size_t /*index*/) override {}
+    void finished(std::size_t /*index*/, const StepOutcome & /*outcome*/) override {}
     void paused() override {}
     void ended() override {}
 };
@@ -75,8 +75,8 @@ private Q_SLOTS:
         for (const QVariantList &group : resulted) {
             const QStringList devices = group.at(0).toStringList();
             const auto values = group.at(1).value<QList<int>>();
-            for (qsizetype place = 0; place < devices.size(); ++place)
-                results.insert(devices.at(place), values.at(place));
+            for (qsizetype index = 0; index < devices.size(); ++index)
+                results.insert(devices.at(index), values.at(index));
         }
         QCOMPARE(results, (QHash<QString, int>{{ipportOf(m_devices.at(0)), 0},
                                                {ipportOf(m_devices.at(1)), networkFailure},

@@ -24,10 +24,10 @@ public:
     }
 
     /// Sets a file for the devices with these indexes and upgrades them.
-    Batch *begin(const QList<int> &places)
+    Batch *begin(const QList<int> &indexes)
     {
-        factory->backEnd(family)->setUpgradeFiles(macs(places), file());
-        return upgrades.start("Upgrade", macs(places));
+        factory->backEnd(family)->setUpgradeFiles(macs(indexes), file());
+        return upgrades.start("Upgrade", macs(indexes));
     }
     [[nodiscard]] bool passUntilDone() const
     {
@@ -83,12 +83,12 @@ private Q_SLOTS:
     void resultsKeepTheirMeaning()
     {
         const auto results = QMetaEnum::fromType<UpgradeTools::Result>();
-        for (int place = 0; place < results.keyCount(); ++place) {
-            const auto result = static_cast<UpgradeTools::Result>(results.value(place));
+        for (int index = 0; index < results.keyCount(); ++index) {
+            const auto result = static_cast<UpgradeTools::Result>(results.value(index));
             if (UpgradeTools::isFailure(result))
                 QVERIFY2(maySucceedLater({.result = UpgradeTools::batchResult(result), .text = {}}) ==
                              UpgradeTools::canTryAgain(result),
-                         results.key(place));
+                         results.key(index));
         }
     }
 
@@ -153,8 +153,8 @@ private Q_SLOTS:
     void aStopDoesNotInterruptWritingDevices()
     {
         UpgradeBatchSite test(5, 3);
-        for (const int place : {1, 2})
-            test.site->setFault(test.mac(place), {Fault::UpgradeTakes, 60});
+        for (const int index : {1, 2})
+            test.site->setFault(test.mac(index), {Fault::UpgradeTakes, 60});
         Batch *batch = test.begin({0, 1, 2, 3, 4});
         QVERIFY(batch);
         QVERIFY(test.passUntil([&] { return test.result(0) == UpgradeTools::Writing; }));
@@ -172,17 +172,17 @@ private Q_SLOTS:
                               "192.168.1.11:37777|成功：2.840.1 → 2.900.0"}));
         QCOMPARE(batch->report()->notDone(), 4);
         QCOMPARE(test.site->requests().of("NetStartUpgrade").size(), 4);
-        for (const int place : {1, 2, 3, 4}) {
-            QCOMPARE(test.result(place), UpgradeTools::Stopped);
-            QCOMPARE(test.site->device(test.mac(place))->version, "2.840.1");
+        for (const int index : {1, 2, 3, 4}) {
+            QCOMPARE(test.result(index), UpgradeTools::Stopped);
+            QCOMPARE(test.site->device(test.mac(index))->version, "2.840.1");
         }
     }
 
     void wrongPasswordsPauseABatch()
     {
         UpgradeBatchSite test(8, 1);
-        for (int place = 0; place < 6; ++place)
-            test.site->setFault(test.mac(place), {Fault::WrongPassword});
+        for (int index = 0; index < 6; ++index)
+            test.site->setFault(test.mac(index), {Fault::WrongPassword});
         const QList<int> all = {0, 1, 2, 3, 4, 5, 6, 7};
         test.factory->backEnd(test.family)->setUpgradeFiles(test.macs(all), test.file());
         test.factory->setUpgradeFilePath(test.family, test.mac(2),
@@ -270,10 +270,10 @@ private Q_SLOTS:
     {
         UpgradeBatchSite test(1);
         QStringList names;
-        for (int place = 0; place < 600; ++place) {
-            names.append(QStringLiteral("02:%1").arg(place));
+        for (int index = 0; index < 600; ++index) {
+            names.append(QStringLiteral("02:%1").arg(index));
             test.store->upsertRow({{DeviceRowKey::mac, names.last()},
-                                   {DeviceRowKey::ipport, QStringLiteral("10.0.0.1:%1").arg(1000 + place)},
+                                   {DeviceRowKey::ipport, QStringLiteral("10.0.0.1:%1").arg(1000 + index)},
                                    {DeviceRowKey::filepath, test.file()}});
         }
         QSignalSpy lists(&test.upgrades, &UpgradeBatches::listChanged);
@@ -310,8 +310,8 @@ private Q_SLOTS:
     void thePreviewShowsEachDevice()
     {
         UpgradeBatchSite test(6);
-        const auto change = [&](int place, QLatin1StringView key, const QJsonValue &value) {
-            test.store->changeRow(test.mac(place), [&](QJsonObject &row) { row.insert(key, value); });
+        const auto change = [&](int index, QLatin1StringView key, const QJsonValue &value) {
+            test.store->changeRow(test.mac(index), [&](QJsonObject &row) { row.insert(key, value); });
         };
         test.factory->backEnd(test.family)->setUpgradeFiles(test.macs({0, 1, 2, 3, 5}), test.file());
         test.factory->setUpgradeFilePath(test.family, test.mac(5), test.file("bytes", "C-1_2.9.bin"));
@@ -375,8 +375,8 @@ private Q_SLOTS:
         test.batches.stopForExit();
         test.factory.reset();
         QVERIFY2(time.elapsed() < 1000, qPrintable(QString::number(time.elapsed())));
-        for (int place = 0; place < 4; ++place)
-            QVERIFY(!UpgradeTools::isRunning(test.result(place)));
+        for (int index = 0; index < 4; ++index)
+            QVERIFY(!UpgradeTools::isRunning(test.result(index)));
     }
 };
 

@@ -25,17 +25,17 @@ public:
     explicit UpgradeSite(int count, const UpgradeLimits &limits = UpgradeLimits())
     {
         sdk::demo::Scene scene;
-        for (int place = 0; place < count; ++place)
-            scene.devices.append(sceneDevice(mac(place), address(place)));
+        for (int index = 0; index < count; ++index)
+            scene.devices.append(sceneDevice(mac(index), address(index)));
         site = sdk::demo::DemoSite::create(scene, clock);
         factory = std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators{
             {family, [this, limits] {
                  return std::make_shared<CDeviceDH>(
                      store, site->libraries(), [] { return SearchSettings(); }, limits, engine);
              }}});
-        for (int place = 0; place < count; ++place)
-            store->upsertRow({{DeviceRowKey::mac, mac(place)},
-                              {DeviceRowKey::ipport, ipport(place)},
+        for (int index = 0; index < count; ++index)
+            store->upsertRow({{DeviceRowKey::mac, mac(index)},
+                              {DeviceRowKey::ipport, ipport(index)},
                               {DeviceRowKey::model, QStringLiteral("B-2230-IR")},
                               {DeviceRowKey::upgraderes, -1}});
         factory->setDefaultAccount(family, QStringLiteral("admin"), QStringLiteral("secret1"));
@@ -53,12 +53,12 @@ public:
         factory.reset();
     }
 
-    [[nodiscard]] static QString mac(int place)
+    [[nodiscard]] static QString mac(int index)
     {
-        return QStringLiteral("02:1a:c5:00:00:%1").arg(place + 1, 2, 16, QLatin1Char('0'));
+        return QStringLiteral("02:1a:c5:00:00:%1").arg(index + 1, 2, 16, QLatin1Char('0'));
     }
-    [[nodiscard]] static QString address(int place) { return QStringLiteral("192.168.1.%1").arg(11 + place); }
-    [[nodiscard]] static QString ipport(int place) { return address(place) + QStringLiteral(":37777"); }
+    [[nodiscard]] static QString address(int index) { return QStringLiteral("192.168.1.%1").arg(11 + index); }
+    [[nodiscard]] static QString ipport(int index) { return address(index) + QStringLiteral(":37777"); }
 
     /// Writes a firmware file and returns its path.
     [[nodiscard]] QString file(const QByteArray &content = firmware,
@@ -68,19 +68,19 @@ public:
         return writeFile(path, content) ? path : QString();
     }
 
-    [[nodiscard]] static QStringList macs(const QList<int> &places)
+    [[nodiscard]] static QStringList macs(const QList<int> &indexes)
     {
         QStringList macs;
-        for (const int place : places)
-            macs.append(mac(place));
+        for (const int index : indexes)
+            macs.append(mac(index));
         return macs;
     }
 
     /// Starts the upgrade of the devices with these indexes.
-    void start(const QList<int> &places, const QString &path) const
+    void start(const QList<int> &indexes, const QString &path) const
     {
-        factory->backEnd(family)->setUpgradeFiles(macs(places), path);
-        factory->startUpgrade(family, macs(places));
+        factory->backEnd(family)->setUpgradeFiles(macs(indexes), path);
+        factory->startUpgrade(family, macs(indexes));
     }
 
     /// Writes a workbook of these rows and returns its path.
@@ -112,13 +112,13 @@ public:
         return texts;
     }
 
-    [[nodiscard]] QJsonValue value(int place, QLatin1StringView key) const
+    [[nodiscard]] QJsonValue value(int index, QLatin1StringView key) const
     {
-        return store->row(mac(place)).value(key);
+        return store->row(mac(index)).value(key);
     }
-    [[nodiscard]] int result(int place) const { return value(place, DeviceRowKey::upgraderes).toInt(-99); }
-    [[nodiscard]] QString text(int place) const { return value(place, DeviceRowKey::upgradetext).toString(); }
-    [[nodiscard]] int percent(int place) const { return value(place, DeviceRowKey::upgrade).toInt(-99); }
+    [[nodiscard]] int result(int index) const { return value(index, DeviceRowKey::upgraderes).toInt(-99); }
+    [[nodiscard]] QString text(int index) const { return value(index, DeviceRowKey::upgradetext).toString(); }
+    [[nodiscard]] int percent(int index) const { return value(index, DeviceRowKey::upgrade).toInt(-99); }
 
     /// Advances the clock until `isThere` returns true. False after a minute.
     template<typename Condition>

@@ -71,7 +71,7 @@ private Q_SLOTS:
         QCOMPARE(form.changedCount(), 2);
         QVERIFY(of(form.mainStream(), "encodeMode", "changed").toBool());
         QVERIFY(of(form.subStream(), "frameRate", "changed").toBool());
-        m_backEnd->values.insert("unreadPlaces", QVariantList{1}); // the profile
+        m_backEnd->values.insert("unreadIndexes", QVariantList{1}); // the profile
         form.takeSaved();
         QVERIFY(!of(form.mainStream(), "encodeMode", "changed").toBool());
         m_backEnd->values.remove("takenItems");
@@ -160,7 +160,7 @@ private Q_SLOTS:
 
     void shutterTimesHaveAnIndex_data()
     {
-        const auto row = dataTable<double, double, int>({"shortest", "longest", "place"});
+        const auto row = dataTable<double, double, int>({"shortest", "longest", "index"});
         row("shortest", 0.01, 0.01, 0);
         row("as stored by devices", static_cast<double>(1000.0F / 30000),
             static_cast<double>(1000.0F / 30000), 1);
@@ -174,7 +174,7 @@ private Q_SLOTS:
         QFETCH(double, shortest);
         QFETCH(double, longest);
         const CameraForm form;
-        QTEST(form.shutterIndex(shortest, longest), "place");
+        QTEST(form.shutterIndex(shortest, longest), "index");
     }
 };
 

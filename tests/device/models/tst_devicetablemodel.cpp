@@ -130,8 +130,8 @@ private Q_SLOTS:
         QFETCH(const QString, key);
         QFETCH(const QStringList, ordered);
         m_site->rows->ipv4.clear();
-        for (qsizetype place = 0; place < ordered.size(); ++place) {
-            const QString &value = ordered.at(ordered.size() - 1 - place);
+        for (qsizetype index = 0; index < ordered.size(); ++index) {
+            const QString &value = ordered.at(ordered.size() - 1 - index);
             QJsonObject row = {{DeviceRowKey::mac, "row " + value}};
             row.insert(key, key == DeviceRowKey::upgraderes ? QJsonValue(value.toInt()) : QJsonValue(value));
             m_site->rows->ipv4.append(row);

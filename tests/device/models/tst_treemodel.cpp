@@ -82,10 +82,10 @@ private Q_SLOTS:
     /// Shows devices without a login or with a failed last login.
     void canShowOnlyDevicesWithoutALogin()
     {
-        const auto noteLogin = [this](qsizetype place, bool loggedIn) {
-            QJsonObject row = m_site->rows->ipv4.at(place).toJsonObject();
+        const auto noteLogin = [this](qsizetype index, bool loggedIn) {
+            QJsonObject row = m_site->rows->ipv4.at(index).toJsonObject();
             row.insert("loggedIn", loggedIn);
-            m_site->rows->ipv4[place] = row;
+            m_site->rows->ipv4[index] = row;
         };
         noteLogin(2, true);
         noteLogin(3, true);

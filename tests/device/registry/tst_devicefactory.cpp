@@ -99,8 +99,8 @@ private Q_SLOTS:
             &CDeviceBase::getEncodeInfo, &CDeviceBase::unusedOperation, &CDeviceBase::systemConfig,
             &CDeviceBase::snapPictureToFile, &CDeviceBase::hasDeviceUpgrading, &CDeviceBase::importDevice,
             &CDeviceBase::exportDevice, &CDeviceBase::unusedListOperation);
-        for (std::size_t place = 0; place < slots.size(); ++place)
-            QCOMPARE(slots[place], slotsOfQObject + static_cast<int>(place));
+        for (std::size_t index = 0; index < slots.size(); ++index)
+            QCOMPARE(slots[index], slotsOfQObject + static_cast<int>(index));
     }
 
     void relaysEverySignalWithItsArguments()

@@ -28,8 +28,8 @@ public:
                                          std::int32_t capacity, std::int32_t &count) override
     {
         count = static_cast<std::int32_t>(existing.size());
-        for (int place = 0; place < count && place < capacity; ++place)
-            localPorts[place] = existing.at(place);
+        for (int index = 0; index < count && index < capacity; ++index)
+            localPorts[index] = existing.at(index);
         return true;
     }
     bool OAgent_ClientAddPort(const char *deviceId, std::int32_t devicePort, std::int32_t &localPort,

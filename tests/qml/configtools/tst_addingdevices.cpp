@@ -319,8 +319,8 @@ private:
     void open(const QString &opener, const QStringList &fields) const
     {
         QMetaObject::invokeMethod(m_adding, opener.toLatin1().constData());
-        for (qsizetype place = 0; place + 1 < fields.size(); place += 2)
-            item(fields.at(place))->setProperty("text", fields.at(place + 1));
+        for (qsizetype index = 0; index + 1 < fields.size(); index += 2)
+            item(fields.at(index))->setProperty("text", fields.at(index + 1));
     }
     void press(const char *button) const { QMetaObject::invokeMethod(dialog(), button); }
 

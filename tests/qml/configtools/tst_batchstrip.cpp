@@ -101,20 +101,20 @@ private:
     {
         BatchPlan plan{
             .family = "dh", .title = "Work", .policy = {.maximumParallel = 1, .wrongPasswordsInARow = 2}};
-        for (qsizetype place = 0; place < results.size(); ++place) {
-            const QString ipport = QStringLiteral("10.0.0.%1:37777").arg(place + 1);
+        for (qsizetype index = 0; index < results.size(); ++index) {
+            const QString ipport = QStringLiteral("10.0.0.%1:37777").arg(index + 1);
             plan.devices.append({.name = ipport,
-                                 .identity = QStringLiteral("m%1").arg(place + 1),
+                                 .identity = QStringLiteral("m%1").arg(index + 1),
                                  .ipport = ipport,
-                                 .title = QStringLiteral("=门,\"%1\"").arg(place + 1)});
+                                 .title = QStringLiteral("=门,\"%1\"").arg(index + 1)});
         }
         if (!m_account.account.isEmpty())
             plan.accountOf = [this](const BatchDevice &) {
                 return m_account;
             };
         plan.stepOf = [this, results](const BatchDevice &device) {
-            const int place = QStringView(device.identity).mid(1).toInt() - 1;
-            const int result = m_batches->kept().isEmpty() ? results.at(place) : m_resultAgain;
+            const int index = QStringView(device.identity).mid(1).toInt() - 1;
+            const int result = m_batches->kept().isEmpty() ? results.at(index) : m_resultAgain;
             return [this, result](const StepControl & /*control*/) {
                 m_gate.acquire();
                 return StepOutcome{.result = result, .text = {}};

@@ -81,7 +81,7 @@ class TestCommands : public QObject
         return findBelow(m_window->contentItem(), name, Sight::Visible);
     }
 
-    [[nodiscard]] QRectF place(const QString &name) const
+    [[nodiscard]] QRectF areaOf(const QString &name) const
     {
         const QQuickItem *item = find(name);
         return item ? item->mapRectToScene(item->boundingRect()) : QRectF();
@@ -89,7 +89,7 @@ class TestCommands : public QObject
 
     [[nodiscard]] bool isInWindow(const QString &name) const
     {
-        return QRectF(QPointF(), m_window->size()).contains(place(name)) && !place(name).isEmpty();
+        return QRectF(QPointF(), m_window->size()).contains(areaOf(name)) && !areaOf(name).isEmpty();
     }
 
 private Q_SLOTS:
@@ -112,21 +112,21 @@ private Q_SLOTS:
     /// The suggestions are at the correct position after scrolling.
     void suggestionsAreNextToTheField_data()
     {
-        const auto row = dataTable<QList<int>>({"places"});
+        const auto row = dataTable<QList<int>>({"positions"});
         row("scrolled to the foot", QList<int>{10, 360});
         row("scrolled to the head", QList<int>{360, 10});
     }
 
     void suggestionsAreNextToTheField()
     {
-        QFETCH(QList<int>, places);
-        for (const int y : places) {
+        QFETCH(QList<int>, positions);
+        for (const int y : positions) {
             find("command")->setY(y);
             find("cgiCommandText")->forceActiveFocus();
             QTest::keyClick(m_window.get(), Qt::Key_Slash);
             QTRY_VERIFY(isInWindow("cgiSuggestion0") && isInWindow("cgiSuggestion7"));
-            const QRectF offers = place("cgiSuggestion0").united(place("cgiSuggestion7"));
-            QVERIFY(!offers.intersects(place("cgiCommandText")));
+            const QRectF offers = areaOf("cgiSuggestion0").united(areaOf("cgiSuggestion7"));
+            QVERIFY(!offers.intersects(areaOf("cgiCommandText")));
             QTest::keyClick(m_window.get(), Qt::Key_Escape);
             QTRY_VERIFY(!find("cgiSuggestion0"));
             QTest::keyClick(m_window.get(), Qt::Key_Backspace); // any change shows suggestions again
@@ -234,7 +234,7 @@ private Q_SLOTS:
         const int shown = find("toolTip")->property("lineCount").toInt();
         QCOMPARE(shown > 1, words.size() > 2);
         QCOMPARE(find("toolTip")->property("truncated").toBool(), words.size() > 2);
-        QTRY_VERIFY(place("toolTip").bottom() <= place("toolTipNote").top());
+        QTRY_VERIFY(areaOf("toolTip").bottom() <= areaOf("toolTipNote").top());
     }
 
     void aToolTipIsClosed_data()
@@ -253,7 +253,7 @@ private Q_SLOTS:
             QTest::keyClick(m_window.get(), Qt::Key_Down);
         else if (goesWith == "click")
             QTest::mouseClick(m_window.get(), Qt::LeftButton, Qt::NoModifier,
-                              place("toolTip").center().toPoint());
+                              areaOf("toolTip").center().toPoint());
         else
             find("answer")->setVisible(false);
         QTRY_VERIFY(!find("toolTip"));

@@ -96,10 +96,10 @@ private Q_SLOTS:
         auto *table = m_window->findChild<QQuickItem *>("table");
         const QQuickItem *row = findBelow(table, "row0", Sight::Visible);
         QVERIFY(row);
-        const QPoint place = row->mapToScene({100, row->height() / 2}).toPoint();
-        QTest::mousePress(m_window.get(), Qt::LeftButton, {}, place);
+        const QPoint position = row->mapToScene({100, row->height() / 2}).toPoint();
+        QTest::mousePress(m_window.get(), Qt::LeftButton, {}, position);
         m_devices.reverse();
-        QTest::mouseRelease(m_window.get(), Qt::LeftButton, {}, place);
+        QTest::mouseRelease(m_window.get(), Qt::LeftButton, {}, position);
         QCOMPARE(table->property("currentIndex").toInt(), 2);
     }
 

@@ -122,9 +122,9 @@ private:
         const QQuickItem *item = find(name);
         return item ? item->property("text").toString() : QString();
     }
-    [[nodiscard]] QString textIn(int place, const QString &name) const
+    [[nodiscard]] QString textIn(int index, const QString &name) const
     {
-        QQuickItem *player = find(QStringLiteral("liveCell%1").arg(place));
+        QQuickItem *player = find(QStringLiteral("liveCell%1").arg(index));
         const QQuickItem *item = player ? findBelow(player, name, Sight::Visible) : nullptr;
         return item ? item->property("text").toString() : QString();
     }

@@ -105,26 +105,26 @@ private:
     /// The titles from left to right. Fails if titles overlap.
     [[nodiscard]] QStringList heads(const QString &name) const
     {
-        QMap<qreal, QQuickItem *> byPlace;
+        QMap<qreal, QQuickItem *> byPosition;
         const QQuickItem *shown = findBelow(m_window->contentItem(), name, Sight::Visible);
-        collect(const_cast<QQuickItem *>(shown), byPlace);
+        collect(const_cast<QQuickItem *>(shown), byPosition);
         QStringList keys;
         qreal end = 0;
-        for (auto place = byPlace.cbegin(); place != byPlace.cend(); ++place) {
-            keys.append(place.value()->objectName().mid(5));
-            if (place.key() < end)
+        for (auto position = byPosition.cbegin(); position != byPosition.cend(); ++position) {
+            keys.append(position.value()->objectName().mid(5));
+            if (position.key() < end)
                 keys.append("over the one before it");
-            end = place.key() + place.value()->width();
+            end = position.key() + position.value()->width();
         }
         return keys;
     }
-    static void collect(QQuickItem *item, QMap<qreal, QQuickItem *> &byPlace)
+    static void collect(QQuickItem *item, QMap<qreal, QQuickItem *> &byPosition)
     {
         if (item->isVisible() && item->objectName().startsWith("head_"))
-            byPlace.insert(item->mapToScene({}).x(), item);
+            byPosition.insert(item->mapToScene({}).x(), item);
         const QList<QQuickItem *> children = item->childItems();
         for (QQuickItem *child : children)
-            collect(child, byPlace);
+            collect(child, byPosition);
     }
 
 private Q_SLOTS:
@@ -322,7 +322,7 @@ private Q_SLOTS:
         };
         QTRY_VERIFY(!isInView("mac"));
         head("name")->forceActiveFocus(Qt::TabFocusReason);
-        for (int place = 0; place < 2; ++place)
+        for (int position = 0; position < 2; ++position)
             press(Qt::Key_Right, Qt::ControlModifier);
         QTRY_VERIFY(isInView("name"));
         press(Qt::Key_Left);

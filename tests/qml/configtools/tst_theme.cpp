@@ -82,7 +82,7 @@ private Q_SLOTS:
             dataTable<bool, QByteArray, QByteArray, QByteArray>({"isDark", "words", "grounds", "veil"});
         const QByteArray panes = "surface background head foot hover pressed row rowAlternate rowConflict "
                                  "rowSelected accentSoft accentSofter";
-        // What is fixed of the light theme has less contrast in places: hints, and the signs of states.
+        // What is fixed of the light theme has less contrast for some items: hints, and the signs of states.
         row("light", false, "text sub accent bad", "surface background foot row", "clear");
         row("dark", true, "text sub faint accent accentHover accentPressed ok warn warnText bad badHover",
             panes, "clear");
@@ -109,13 +109,13 @@ private Q_SLOTS:
         constexpr qreal least = 4.5;
         const QList<QByteArray> names = words.split(' ');
         for (const QByteArray &name : names) {
-            const QList<QByteArray> places = grounds.split(' ');
-            for (const QByteArray &place : places) {
-                const QColor ground = blended(colour(isDark, place), colour(isDark, veil));
+            const QList<QByteArray> groundNames = grounds.split(' ');
+            for (const QByteArray &groundName : groundNames) {
+                const QColor ground = blended(colour(isDark, groundName), colour(isDark, veil));
                 const qreal found = contrast(colour(isDark, name), ground);
-                QVERIFY2(
-                    found >= least,
-                    (name + " on " + place + " has a contrast of " + QByteArray::number(found)).constData());
+                QVERIFY2(found >= least,
+                         (name + " on " + groundName + " has a contrast of " + QByteArray::number(found))
+                             .constData());
             }
         }
     }

@@ -81,7 +81,7 @@ private Q_SLOTS:
         {"mac": "02:1A:C5:00:00:AA", "address": "10.0.0.2", "type": "IPC", "port": 1}]})",
             {u"device 2 (02:1A:C5:00:00:AA)"_s, u"device 1"_s, u"unique"_s});
         QJsonArray tooMany;
-        for (int place = 0; place <= maximumSceneDevices; ++place)
+        for (int index = 0; index <= maximumSceneDevices; ++index)
             tooMany.append(QJsonObject());
         row("too many devices", QJsonDocument(QJsonObject{{u"devices"_s, tooMany}}).toJson(),
             {u"20001"_s, u"20000"_s});

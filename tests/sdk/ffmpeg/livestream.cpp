@@ -164,20 +164,20 @@ void LiveStream::fill(AVFrame &frame, const Patches &patches) const
 {
     const AVPixFmtDescriptor *descriptor = av_pix_fmt_desc_get(m_pictureEncoder->pix_fmt);
     for (int component = 0; component < descriptor->nb_components; ++component) {
-        const AVComponentDescriptor &place = descriptor->comp[component];
+        const AVComponentDescriptor &layout = descriptor->comp[component];
         const bool isChroma = component > 0 && (descriptor->flags & AV_PIX_FMT_FLAG_RGB) == 0;
         const int width = isChroma ? AV_CEIL_RSHIFT(frame.width, descriptor->log2_chroma_w) : frame.width;
         const int height = isChroma ? AV_CEIL_RSHIFT(frame.height, descriptor->log2_chroma_h) : frame.height;
         for (int y = 0; y < height; ++y) {
-            std::uint8_t *line = frame.data[place.plane] + y * frame.linesize[place.plane] + place.offset;
+            std::uint8_t *line = frame.data[layout.plane] + y * frame.linesize[layout.plane] + layout.offset;
             for (int x = 0; x < width; ++x) {
                 const Patches::Colour &colour = patches.at(x, y, width, height);
                 const int value = component == 0 ? colour.y : component == 1 ? colour.u : colour.v;
-                if (place.depth > 8)
+                if (layout.depth > 8)
                     reinterpret_cast<std::uint16_t *>(line)[x] =
-                        static_cast<std::uint16_t>(value << (place.depth - 8));
+                        static_cast<std::uint16_t>(value << (layout.depth - 8));
                 else
-                    line[x * place.step] = static_cast<std::uint8_t>(value);
+                    line[x * layout.step] = static_cast<std::uint8_t>(value);
             }
         }
     }

@@ -22,7 +22,7 @@ struct Delivered
 {
     QByteArray bytes;
     DecodedFrameInformation information;
-    const std::uint8_t *place; ///< address of the delivered bytes
+    const std::uint8_t *address; ///< address of the delivered bytes
     std::thread::id thread;
 };
 
@@ -97,8 +97,8 @@ public:
     /// Pushes data in chunks of that size. False if one was refused.
     bool push(const QByteArray &bytes, qsizetype pieceSize)
     {
-        for (qsizetype place = 0; place < bytes.size(); place += pieceSize) {
-            if (!push(bytes.mid(place, pieceSize)))
+        for (qsizetype index = 0; index < bytes.size(); index += pieceSize) {
+            if (!push(bytes.mid(index, pieceSize)))
                 return false;
         }
         return true;

@@ -87,8 +87,8 @@ private Q_SLOTS:
         TestPort port;
         QVERIFY(port.push(stream.head() + stream.pictures(6, 2)));
         QTRY_COMPARE(port.receiver.pictures().size(), 3); // numbers 5, 6 and 7
-        for (int place = 0; place < 3; ++place)
-            QVERIFY(distance(port.receiver.pictures().at(place), Patches::numbered(5 + place)) < nearEnough);
+        for (int index = 0; index < 3; ++index)
+            QVERIFY(distance(port.receiver.pictures().at(index), Patches::numbered(5 + index)) < nearEnough);
     }
 
     void acceptsTheNextStream_data()

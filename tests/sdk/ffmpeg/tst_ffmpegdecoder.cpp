@@ -158,9 +158,9 @@ private Q_SLOTS:
         samples = samples.mid(format.rate / 4, format.rate / 2);
         int risings = 0;
         double squares = 0;
-        for (qsizetype place = 1; place < samples.size(); ++place) {
-            risings += samples.at(place - 1) < 0 && samples.at(place) >= 0 ? 1 : 0;
-            squares += std::pow(samples.at(place), 2);
+        for (qsizetype index = 1; index < samples.size(); ++index) {
+            risings += samples.at(index - 1) < 0 && samples.at(index) >= 0 ? 1 : 0;
+            squares += std::pow(samples.at(index), 2);
         }
         QVERIFY2(std::abs(risings - 250) <= 2, qPrintable(QString::number(risings)));
         const double loudness = std::sqrt(squares / static_cast<double>(samples.size()));

@@ -126,10 +126,10 @@ private Q_SLOTS:
         std::atomic<int> gone = 0;
         port.receiver.onDelivery = [&] {
             const QList<Delivered> before = port.receiver.pictures();
-            for (qsizetype place = std::max<qsizetype>(0, before.size() - 2); place < before.size();
-                 ++place) {
-                const QByteArray &copy = before.at(place).bytes;
-                if (std::memcmp(before.at(place).place, copy.constData(),
+            for (qsizetype index = std::max<qsizetype>(0, before.size() - 2); index < before.size();
+                 ++index) {
+                const QByteArray &copy = before.at(index).bytes;
+                if (std::memcmp(before.at(index).address, copy.constData(),
                                 static_cast<std::size_t>(copy.size())) != 0)
                     ++gone;
             }

@@ -82,15 +82,15 @@ private Q_SLOTS:
         QFETCH(QList<int>, red);
         QFETCH(QList<int>, greys);
         constexpr std::array shown = {14, 64, 237};
-        for (std::size_t place = 0; place < shown.size(); ++place) {
-            const int grey = greys.at(static_cast<qsizetype>(place));
+        for (std::size_t index = 0; index < shown.size(); ++index) {
+            const int grey = greys.at(static_cast<qsizetype>(index));
             const QByteArray picture = twoColours(width, height, {red[0], red[1], red[2]}, {grey, 128, 128});
             const QString path = m_folder.filePath(QStringLiteral("图 1.jpg"));
             QVERIFY(save(picture, width, height, path, 50, colour));
             const QImage image(path, "JPG");
             QCOMPARE(image.size(), QSize(width, height));
             QVERIFY(isNear(image.pixel(width / 4, height / 2), qRgb(254, 0, 0)));
-            const int level = shown.at(place);
+            const int level = shown.at(index);
             if (width > 1)
                 QVERIFY(isNear(image.pixel(width - 1 - width / 4, height - 1), qRgb(level, level, level), 4));
         }

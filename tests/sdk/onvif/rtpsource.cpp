@@ -81,14 +81,14 @@ private:
 struct Input
 {
     const QByteArray &bytes;
-    qsizetype place = 0;
+    qsizetype position = 0;
 
     static int read(void *input, std::uint8_t *buffer, int size)
     {
         auto *self = static_cast<Input *>(input);
-        const auto count = std::min<qsizetype>(size, self->bytes.size() - self->place);
-        std::memcpy(buffer, self->bytes.constData() + self->place, static_cast<std::size_t>(count));
-        self->place += count;
+        const auto count = std::min<qsizetype>(size, self->bytes.size() - self->position);
+        std::memcpy(buffer, self->bytes.constData() + self->position, static_cast<std::size_t>(count));
+        self->position += count;
         return count > 0 ? static_cast<int>(count) : AVERROR_EOF;
     }
 };

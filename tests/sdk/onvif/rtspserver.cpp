@@ -277,14 +277,14 @@ bool RtspServer::play(int connection, const std::stop_token &stop)
 
 bool RtspServer::send(int connection, const QByteArray &bytes, const std::stop_token &stop) const
 {
-    for (qsizetype place = 0; place < bytes.size();) {
+    for (qsizetype position = 0; position < bytes.size();) {
         if (waitFor(connection, POLLOUT, stop) == 0)
             return false;
-        const ssize_t size = ::send(connection, bytes.constData() + place,
-                                    static_cast<std::size_t>(bytes.size() - place), MSG_NOSIGNAL);
+        const ssize_t size = ::send(connection, bytes.constData() + position,
+                                    static_cast<std::size_t>(bytes.size() - position), MSG_NOSIGNAL);
         if (size < 0 && errno != EAGAIN)
             return false;
-        place += std::max<ssize_t>(size, 0);
+        position += std::max<ssize_t>(size, 0);
     }
     return true;
 }

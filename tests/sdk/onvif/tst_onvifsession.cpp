@@ -112,7 +112,7 @@ private:
         Manner manner = mannerOf(request, operation);
         if (manner == Manner::Guarded)
             manner = !isGuarded || request.contains("UsernameToken") ? Manner::Open : Manner::NotPermitted;
-        const QByteArray place = match.captured(1) == u"tds"_s ? "device" : "media";
+        const QByteArray serviceName = match.captured(1) == u"tds"_s ? "device" : "media";
         const QByteArray fault = "<x:Fault><x:Code><x:Value>x:Sender</x:Value><x:Subcode><x:Value>ter:%1"
                                  "</x:Value></x:Subcode></x:Code></x:Fault>";
         switch (manner) {
@@ -127,7 +127,7 @@ private:
             break;
         default:
             send(exchange, "200 OK",
-                 "<d:" + operation + "Response xmlns:d='http://www.onvif.org/ver10/" + place +
+                 "<d:" + operation + "Response xmlns:d='http://www.onvif.org/ver10/" + serviceName +
                      "/wsdl' xmlns:t='http://www.onvif.org/ver10/schema'>" +
                      contentOf(operation, m_needsReboot).replace("PORT", QByteArray::number(service().port)) +
                      "</d:" + operation + "Response>");

@@ -133,13 +133,13 @@ void Driver::click(const QString &name, Qt::KeyboardModifiers modifiers) const
     QTest::mouseClick(m_window, Qt::LeftButton, modifiers, middleOf(requireForClicks(name)));
 }
 
-bool Driver::isUnderNotice(QPoint place) const
+bool Driver::isUnderNotice(QPoint position) const
 {
     constexpr QMargins margins(46, 14, 20, 14); // of the notice around its text
     QList<const QQuickItem *> notices;
     collectBelow(m_window->contentItem(), QStringLiteral("toastText"), notices);
     if (std::ranges::none_of(notices, [&](const QQuickItem *text) {
-            return text->mapRectToScene(text->boundingRect()).marginsAdded(margins).contains(place);
+            return text->mapRectToScene(text->boundingRect()).marginsAdded(margins).contains(position);
         }))
         return false;
     QTest::mouseMove(m_window, QPoint(1, 1)); // a notice stays open while the pointer is over it
@@ -164,10 +164,10 @@ void Driver::rightClick(const QString &name) const
     QTest::mouseClick(m_window, Qt::RightButton, Qt::NoModifier, middleOf(require(name)));
 }
 
-void Driver::turnWheel(QPointF place, int notches) const
+void Driver::turnWheel(QPointF position, int notches) const
 {
     constexpr int notch = 120;
-    QWheelEvent event(place, m_window->mapToGlobal(place), {}, {0, notch * notches}, Qt::NoButton,
+    QWheelEvent event(position, m_window->mapToGlobal(position), {}, {0, notch * notches}, Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(m_window, &event);
 }
@@ -212,10 +212,10 @@ void Driver::fill(const QString &name, const QString &text) const
     constexpr int intoField = 8;
     QQuickItem *field = require(name);
     atRest();
-    const QPoint place = field->mapToScene(QPointF(field->width() / 2, intoField)).toPoint();
+    const QPoint position = field->mapToScene(QPointF(field->width() / 2, intoField)).toPoint();
     // Input may still be blocked after the previous step.
     await(QStringLiteral("\"%1\" has the keyboard").arg(name), [&] {
-        QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, place);
+        QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, position);
         const QQuickItem *clicked = find(name); // an editor may replace the item
         return clicked && clicked->hasActiveFocus();
     });

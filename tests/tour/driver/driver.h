@@ -38,7 +38,7 @@ public:
     void hover(const QString &name) const;
     void doubleClick(const QString &name) const;
     void rightClick(const QString &name) const;
-    void turnWheel(QPointF place, int notches) const; ///< upwards; `place` is a position in the window
+    void turnWheel(QPointF position, int notches) const; ///< upwards; `position` is a position in the window
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
 
     /// Types into the focused item. Characters without a key are entered as by an input method.
@@ -65,7 +65,7 @@ public:
 private:
     /// Waits until animations have ended and the item accepts clicks.
     [[nodiscard]] QQuickItem *requireForClicks(const QString &name) const;
-    [[nodiscard]] bool isUnderNotice(QPoint place) const;
+    [[nodiscard]] bool isUnderNotice(QPoint position) const;
     void atRest() const;
     void checkNames(QQuickItem *item) const;
 

@@ -26,8 +26,8 @@ constexpr std::array<Exemption, 0> exemptions{};
 struct VisibleItem
 {
     const QQuickItem *item;
-    QRectF place; ///< the visible part, in window coordinates
-    int layer;    ///< 0: the page; each popup has its own
+    QRectF area; ///< the visible part, in window coordinates
+    int layer;   ///< 0: the page; each popup has its own
     bool isControl;
     bool isTip;
 };
@@ -181,10 +181,10 @@ private:
 
     static void narrow(const QQuickItem *item, Frame &frame)
     {
-        const QRectF place = item->mapRectToScene(QRectF({}, item->size()));
-        frame.shown &= place;
+        const QRectF area = item->mapRectToScene(QRectF({}, item->size()));
+        frame.shown &= area;
         const bool scrolls = item->inherits("QQuickFlickable");
-        QRectF bounds = frame.bounds & place;
+        QRectF bounds = frame.bounds & area;
         if (scrolls && item->property("contentWidth").toReal() > item->width() + tolerance) {
             bounds.setLeft(-farAway);
             bounds.setRight(farAway);
@@ -200,10 +200,9 @@ private:
     {
         if (item->property("text").toString().trimmed().isEmpty())
             return;
-        const QRectF place = areaOfCharacters(item);
-        take(item, place, frame, false);
-        if (item->property("truncated").toBool() && place.intersects(frame.shown) &&
-            !hasCompleteToolTip(item))
+        const QRectF area = areaOfCharacters(item);
+        take(item, area, frame, false);
+        if (item->property("truncated").toBool() && area.intersects(frame.shown) && !hasCompleteToolTip(item))
             object(item, u"is elided, and no tool tip shows the complete text"_s);
     }
 
@@ -212,15 +211,15 @@ private:
         take(item, item->mapRectToScene(QRectF({}, item->size())), frame, true);
     }
 
-    void take(const QQuickItem *item, const QRectF &place, const Frame &frame, bool isControl)
+    void take(const QQuickItem *item, const QRectF &area, const Frame &frame, bool isControl)
     {
-        if (place.isEmpty())
+        if (area.isEmpty())
             return;
         const QRectF allowed = frame.bounds.adjusted(-tolerance, -tolerance, tolerance, tolerance);
-        if (!allowed.contains(place))
-            object(item, u"is truncated: it needs %1, available is %2"_s.arg(written(place),
-                                                                             written(frame.bounds)));
-        const QRectF seen = place & frame.shown;
+        if (!allowed.contains(area))
+            object(item,
+                   u"is truncated: it needs %1, available is %2"_s.arg(written(area), written(frame.bounds)));
+        const QRectF seen = area & frame.shown;
         if (!seen.isEmpty())
             m_visibleItems.append({item, seen, frame.layer, isControl, frame.isTip});
     }
@@ -235,7 +234,7 @@ private:
 
     void compare(const VisibleItem &one, const VisibleItem &other)
     {
-        const QRectF common = one.place & other.place;
+        const QRectF common = one.area & other.area;
         if (common.width() <= tolerance || common.height() <= tolerance)
             return;
         if (one.layer == other.layer) {
@@ -250,12 +249,12 @@ private:
                    u"and %1: a tool tip covers the heading of a table"_s.arg(described(other.item)));
     }
 
-    static QString written(const QRectF &place)
+    static QString written(const QRectF &area)
     {
-        return u"%1, %2, %3 x %4"_s.arg(place.x(), 0, 'f', 1)
-            .arg(place.y(), 0, 'f', 1)
-            .arg(place.width(), 0, 'f', 1)
-            .arg(place.height(), 0, 'f', 1);
+        return u"%1, %2, %3 x %4"_s.arg(area.x(), 0, 'f', 1)
+            .arg(area.y(), 0, 'f', 1)
+            .arg(area.width(), 0, 'f', 1)
+            .arg(area.height(), 0, 'f', 1);
     }
 
     void object(const QQuickItem *item, const QString &fault)

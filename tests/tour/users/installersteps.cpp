@@ -21,9 +21,9 @@ constexpr int channelsOfRecorder = 16;
 constexpr int firstHost = 201;
 const QString newPassword = u"Lobby-2026"_s;
 
-QString addressOf(int place)
+QString addressOf(int index)
 {
-    return u"192.168.1.%1"_s.arg(firstHost + place);
+    return u"192.168.1.%1"_s.arg(firstHost + index);
 }
 
 void selectAll(const Driver &driver)
@@ -85,7 +85,7 @@ void walkAddresses(Driver &driver)
     driver.require(u"planTable"_s);
     driver.report(u"addresses-plan"_s, driver.text(u"batchCount"_s));
     driver.click(u"okButton"_s);
-    const auto place = [&](int number) {
+    const auto rowOf = [&](int number) {
         return rows.rowOf("ipport", addressOf(number) + u":8800"_s);
     };
     driver.await(
@@ -93,7 +93,7 @@ void walkAddresses(Driver &driver)
         [&] {
             int found = 0;
             for (int number = 0; number < devices; ++number)
-                found += place(number) >= 0 ? 1 : 0;
+                found += rowOf(number) >= 0 ? 1 : 0;
             return found == devices;
         },
         120);
@@ -103,7 +103,7 @@ void walkAddresses(Driver &driver)
     driver.report(u"addresses"_s, driver.text(u"selectedCount"_s));
     searchAgain(driver);
     for (int number = 0; number < devices; ++number)
-        driver.check(place(number) >= 0, u"a search finds %1"_s.arg(addressOf(number)));
+        driver.check(rowOf(number) >= 0, u"a search finds %1"_s.arg(addressOf(number)));
 }
 
 /// No dialog asks for a password: each device has a stored one.

@@ -87,12 +87,12 @@ private:
     }
 
     /// "item/stream" of the requests of an operation on items.
-    QString places(const QString &operation) const
+    QString requestedItems(const QString &operation) const
     {
-        QStringList places;
+        QStringList items;
         for (const QString &line : m_site->askedItems(operation))
-            places.append(line.section('@', 0, 0));
-        return places.join(' ');
+            items.append(line.section('@', 0, 0));
+        return items.join(' ');
     }
 
     QJsonObject written(int item, int stream) const
@@ -242,7 +242,7 @@ private Q_SLOTS:
         QCOMPARE(seen.join(' '), shown);
         QCOMPARE(form.unreadItems(), QStringList());
         QCOMPARE(confirm(), "");
-        QTEST(places("NetSetItem"), "writes");
+        QTEST(requestedItems("NetSetItem"), "writes");
     }
 
     void aSamplingFrequencyFollowsItsFormat()
@@ -340,7 +340,7 @@ private Q_SLOTS:
         m_site->site->requests().clear();
         const int result = read();
         QTEST(EncodeForm::isDeviceAway(result), "isAway");
-        QTEST(places("NetGetItem"), "reads");
+        QTEST(requestedItems("NetGetItem"), "reads");
         QCOMPARE(m_site->asked("NetGetNewConfig").size(),
                  result == 0 ? 2 : 1); // "VideoColor" follows only then
         QVERIFY(!m_site->get("audioEnable").isValid());
@@ -350,10 +350,10 @@ private Q_SLOTS:
         m_site->net->silentItem = 0;
         m_site->set("subCurResolution", "CIF");
         m_site->set("audioEnable", 1);
-        QCOMPARE(places("NetSetItem"), writes.contains("1100/4") ? "1100/4" : "");
+        QCOMPARE(requestedItems("NetSetItem"), writes.contains("1100/4") ? "1100/4" : "");
         m_site->site->requests().clear();
         const QString unsaved = confirm();
-        QCOMPARE(places("NetSetItem"), writes);
+        QCOMPARE(requestedItems("NetSetItem"), writes);
         const auto unread = 8 - writes.split(' ', Qt::SkipEmptyParts).size();
         QCOMPARE(unsaved.count("（没有读到，未写入）\n"), unread);
         QVERIFY(unsaved.contains("主码流编码音频压缩格式（"));

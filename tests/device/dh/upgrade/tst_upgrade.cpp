@@ -134,12 +134,12 @@ private Q_SLOTS:
     void aStopIsRetriedUntilTheDeviceWrites()
     {
         const UpgradeSite test(2);
-        for (const int place : {0, 1})
-            test.site->setFault(test.mac(place), {Fault::RefusesUpgradeStop});
+        for (const int index : {0, 1})
+            test.site->setFault(test.mac(index), {Fault::RefusesUpgradeStop});
         test.start({0, 1}, test.file());
         QVERIFY(test.passUntil([&] { return test.percent(0) > 0 && test.percent(1) > 0; }));
-        for (const int place : {0, 1})
-            test.factory->stopUpgrade(test.family, test.mac(place));
+        for (const int index : {0, 1})
+            test.factory->stopUpgrade(test.family, test.mac(index));
         QVERIFY(test.passUntil([&] { return test.text(0) == u"尚未停止，正在重试"_s; }));
         test.site->clearFault(test.mac(0), Fault::RefusesUpgradeStop);
         QVERIFY(test.passUntil([&] { return test.result(0) == UpgradeTools::Stopped; }));

@@ -1,5 +1,5 @@
 // The stored and restored position of the window.
-#include "qml/configtools/windowplace.h"
+#include "qml/configtools/windowgeometry.h"
 #include "tests/datatable.h"
 #include "tests/qml/configtools/qmlscene.h"
 
@@ -12,7 +12,7 @@ const QList<QRect> twoScreens = {QRect(0, 0, 1920, 1040), QRect(1920, 0, 1280, 1
 
 } // namespace
 
-class TestWindowPlace : public QObject
+class TestWindowGeometry : public QObject
 {
     Q_OBJECT
 private:
@@ -20,19 +20,19 @@ private:
     static std::unique_ptr<QQuickWindow> open(QQmlEngine &engine, const QByteArray &stored)
     {
         return openScene(engine, "id: window\n    width: 600; height: 400; minimumWidth: 300; visible: true\n"
-                                 "    WindowPlace { objectName: 'place'; window: window; stored: '" +
+                                 "    WindowGeometry { objectName: 'geometry'; window: window; stored: '" +
                                      stored + "' }\n");
     }
 
     static QString textOf(const QQuickWindow &window)
     {
-        return window.findChild<WindowPlace *>("place")->text();
+        return window.findChild<WindowGeometry *>("geometry")->text();
     }
 
 private Q_SLOTS:
     void positionsAreLimitedToTheScreens_data()
     {
-        const auto row = dataTable<QRect, QList<QRect>, QRect>({"wanted", "screens", "place"});
+        const auto row = dataTable<QRect, QList<QRect>, QRect>({"wanted", "screens", "expected"});
         row("as it was", {100, 80, 1280, 720}, twoScreens, {100, 80, 1280, 720});
         row("on the second screen", {2000, 50, 1100, 700}, twoScreens, {2000, 50, 1100, 700});
         row("the second screen is removed", {2000, 50, 1100, 700}, {twoScreens.first()},
@@ -52,13 +52,13 @@ private Q_SLOTS:
     {
         QFETCH(QRect, wanted);
         QFETCH(QList<QRect>, screens);
-        QTEST(WindowPlace::fitted(wanted, least, screens), "place");
+        QTEST(WindowGeometry::fitted(wanted, least, screens), "expected");
     }
 
     void aWindowOpensAtItsLastPosition_data()
     {
         const auto row = dataTable<QByteArray, QRect, bool>({"stored", "normal", "maximised"});
-        row("place and size", "30 40 500 300", {30, 40, 500, 300}, false);
+        row("position and size", "30 40 500 300", {30, 40, 500, 300}, false);
         row("maximised", "30 40 500 300 maximised", {30, 40, 500, 300}, true);
     }
 
@@ -114,5 +114,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestWindowPlace)
-#include "tst_windowplace.moc"
+QTEST_MAIN(TestWindowGeometry)
+#include "tst_windowgeometry.moc"

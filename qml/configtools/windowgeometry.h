@@ -15,7 +15,7 @@
 ///
 /// It is C++ because Qt does not keep the normal size of a maximised window, and because the stored position
 /// is compared with the current screens. Main thread.
-class WindowPlace : public QObject, public QQmlParserStatus
+class WindowGeometry : public QObject, public QQmlParserStatus
 {
     Q_OBJECT
     QML_ELEMENT
@@ -23,7 +23,7 @@ class WindowPlace : public QObject, public QQmlParserStatus
     Q_PROPERTY(QQuickWindow *window MEMBER m_window REQUIRED) ///< not owned; parent of this object
     Q_PROPERTY(QString stored MEMBER m_stored)                ///< read once
 public:
-    explicit WindowPlace(QObject *parent = nullptr);
+    explicit WindowGeometry(QObject *parent = nullptr);
 
     /// The text to store; empty if the window has had no normal size.
     Q_INVOKABLE [[nodiscard]] QString text();

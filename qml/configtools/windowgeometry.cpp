@@ -1,4 +1,4 @@
-#include "windowplace.h"
+#include "windowgeometry.h"
 
 #include <QGuiApplication>
 #include <QQmlProperty>
@@ -16,13 +16,13 @@ using namespace std::chrono_literals;
 constexpr int titleBarHeight = 48;
 constexpr int holdWidth = 160; ///< of the title bar, without its buttons: minimum to drag the window
 
-struct StoredPlace
+struct StoredGeometry
 {
     QRect normal;
     bool isMaximised = false;
 };
 
-std::optional<StoredPlace> readPlace(const QString &text)
+std::optional<StoredGeometry> readGeometry(const QString &text)
 {
     static const QRegularExpression pattern(QRegularExpression::anchoredPattern(
         QStringLiteral("(-?\\d{1,5}) (-?\\d{1,5}) (\\d{1,5}) (\\d{1,5})( maximised)?")));
@@ -32,8 +32,8 @@ std::optional<StoredPlace> readPlace(const QString &text)
     const auto number = [&match](int group) {
         return match.captured(group).toInt();
     };
-    return StoredPlace{.normal = QRect(number(1), number(2), number(3), number(4)),
-                       .isMaximised = !match.captured(5).isEmpty()};
+    return StoredGeometry{.normal = QRect(number(1), number(2), number(3), number(4)),
+                          .isMaximised = !match.captured(5).isEmpty()};
 }
 
 /// Area of the part of `inner` that is inside `outer`, in square pixels.
@@ -50,14 +50,14 @@ int distanceBetween(const QRect &rect, const QRect &screen)
 
 } // namespace
 
-WindowPlace::WindowPlace(QObject *parent) : QObject(parent)
+WindowGeometry::WindowGeometry(QObject *parent) : QObject(parent)
 {
     m_settling.setSingleShot(true);
     m_settling.setInterval(250ms);
-    connect(&m_settling, &QTimer::timeout, this, &WindowPlace::note);
+    connect(&m_settling, &QTimer::timeout, this, &WindowGeometry::note);
 }
 
-QRect WindowPlace::fitted(QRect wanted, QSize least, const QList<QRect> &screens)
+QRect WindowGeometry::fitted(QRect wanted, QSize least, const QList<QRect> &screens)
 {
     if (screens.isEmpty())
         return wanted;
@@ -81,7 +81,7 @@ QRect WindowPlace::fitted(QRect wanted, QSize least, const QList<QRect> &screens
     return wanted;
 }
 
-void WindowPlace::componentComplete()
+void WindowGeometry::componentComplete()
 {
     const auto settle = qOverload<>(&QTimer::start);
     connect(m_window, &QWindow::xChanged, &m_settling, settle);
@@ -90,15 +90,15 @@ void WindowPlace::componentComplete()
     connect(m_window, &QWindow::heightChanged, &m_settling, settle);
     connect(m_window, &QWindow::visibilityChanged, &m_settling, settle);
 
-    const std::optional<StoredPlace> place = readPlace(m_stored);
-    if (!place)
+    const std::optional<StoredGeometry> stored = readGeometry(m_stored);
+    if (!stored)
         return;
     QList<QRect> screens;
     const QList<QScreen *> known = QGuiApplication::screens();
     for (const QScreen *screen : known)
         screens.append(screen->availableGeometry());
-    m_normal = fitted(place->normal, m_window->minimumSize(), screens);
-    m_isMaximised = place->isMaximised;
+    m_normal = fitted(stored->normal, m_window->minimumSize(), screens);
+    m_isMaximised = stored->isMaximised;
     // Written as properties: bindings of the window would override setGeometry().
     QQmlProperty::write(m_window, QStringLiteral("x"), m_normal.x());
     QQmlProperty::write(m_window, QStringLiteral("y"), m_normal.y());
@@ -108,7 +108,7 @@ void WindowPlace::componentComplete()
         QQmlProperty::write(m_window, QStringLiteral("visibility"), QWindow::Maximized);
 }
 
-void WindowPlace::note()
+void WindowGeometry::note()
 {
     switch (m_window->visibility()) {
     case QWindow::Windowed:
@@ -126,7 +126,7 @@ void WindowPlace::note()
     }
 }
 
-QString WindowPlace::text()
+QString WindowGeometry::text()
 {
     note();
     if (m_normal.isEmpty())
