@@ -135,7 +135,7 @@ Batch *AddingBatches::addDevices(const QString &title, const QVariantList &devic
             results.append(QVariantMap{
                 {ResultKey::identity, identities.value(device.name)},
                 {ResultKey::result, outcome.result},
-                {ResultKey::words, outcome.text.isEmpty() ? resultName(outcome.result) : outcome.text},
+                {ResultKey::message, outcome.text.isEmpty() ? resultName(outcome.result) : outcome.text},
             });
         Q_EMIT tried(results);
     };

@@ -43,7 +43,7 @@ Q_SIGNALS:
     void importRefused(const QString &reason);
 
     /// Results of devices of addDevices() or of its retry: maps of "identity", "result" (a LoginResult) and
-    /// "words" (message in the user's language).
+    /// "message" (message in the user's language).
     void tried(const QVariantList &results);
 
 private:

@@ -65,7 +65,7 @@ void AddressPlan::prepare()
             continue;
         const QString &ipport = device.ipport;
         if (const auto address = ipv4Number(QStringView(ipport).left(ipport.lastIndexOf(QLatin1Char(':')))))
-            m_taken.insert(*address, device.words);
+            m_taken.insert(*address, device.description);
     }
 }
 

@@ -431,19 +431,19 @@ QString Batch::textOf(const QString &device) const
     return entry ? entry->outcome.text : QString();
 }
 
-QVariantList Batch::wordsOf(const QStringList &devices) const
+QVariantList Batch::messagesOf(const QStringList &devices) const
 {
-    QVariantList words;
+    QVariantList messages;
     for (const QString &device : devices) {
         const Entry *entry = find(device);
         if (!entry)
             continue;
         const StepOutcome &outcome = entry->outcome;
-        words.append(
-            QVariantMap{{RowKey::device, device},
-                        {RowKey::words, outcome.text.isEmpty() ? resultName(outcome.result) : outcome.text}});
+        messages.append(QVariantMap{
+            {RowKey::device, device},
+            {RowKey::message, outcome.text.isEmpty() ? resultName(outcome.result) : outcome.text}});
     }
-    return words;
+    return messages;
 }
 
 QStringList Batch::textsOf(const QStringList &devices) const

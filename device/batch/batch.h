@@ -157,9 +157,9 @@ public:
     /// Same for several devices, in the same order.
     Q_INVOKABLE [[nodiscard]] QStringList textsOf(const QStringList &devices) const;
 
-    /// Maps of "device" and "words" for those of the devices that are in this batch or in the one that it
-    /// retries. "words" is the text of the outcome, or the name of its result.
-    Q_INVOKABLE [[nodiscard]] QVariantList wordsOf(const QStringList &devices) const;
+    /// Maps of "device" and "message" for those of the devices that are in this batch or in the one that it
+    /// retries. "message" is the text of the outcome, or the name of its result.
+    Q_INVOKABLE [[nodiscard]] QVariantList messagesOf(const QStringList &devices) const;
 
     /// The devices that have succeeded until now, in the order of their results, without the first `known`
     /// ones.

@@ -466,12 +466,12 @@ void Batches::stopForExit() const
         if (!entry.time.isValid())
             (isWriting ? writing : notDone).append(entry.device.ipport);
     }
-    QString words = QStringLiteral("The application closes during %1").arg(current()->title());
+    QString message = QStringLiteral("The application closes during %1").arg(current()->title());
     if (!notDone.isEmpty())
-        words += QStringLiteral(" - not done: ") + notDone.join(QStringLiteral(", "));
+        message += QStringLiteral(" - not done: ") + notDone.join(QStringLiteral(", "));
     if (!writing.isEmpty())
-        words += QStringLiteral(" - still writing firmware: ") + writing.join(QStringLiteral(", "));
-    qCWarning(logDevice).noquote() << words;
+        message += QStringLiteral(" - still writing firmware: ") + writing.join(QStringLiteral(", "));
+    qCWarning(logDevice).noquote() << message;
 }
 
 bool Batches::mayStart()
@@ -550,7 +550,7 @@ void Batches::markFailed(const Batch &batch)
             continue;
         outcomes.append({.identity = entry.device.identity,
                          .result = entry.outcome.result,
-                         .words = outcomeText(entry.outcome)});
+                         .message = outcomeText(entry.outcome)});
     }
     m_failedMarks.note(batch.plan().work.isEmpty() ? batch.title() : batch.plan().work, batch.title(),
                        outcomes);

@@ -132,11 +132,12 @@ void BatchPreview::readList()
     for (const QVariant &value : all) {
         const QJsonObject row = value.toJsonObject();
         const QString ipport = row.value(DeviceRowKey::ipport).toString();
-        const QString words = QString(row.value(DeviceRowKey::model).toString() + QLatin1Char(' ') +
-                                      row.value(DeviceRowKey::mac).toString())
-                                  .trimmed();
-        m_listed.append(
-            {.identity = rowName(row), .ipport = ipport, .words = words.isEmpty() ? ipport : words});
+        const QString description = QString(row.value(DeviceRowKey::model).toString() + QLatin1Char(' ') +
+                                            row.value(DeviceRowKey::mac).toString())
+                                        .trimmed();
+        m_listed.append({.identity = rowName(row),
+                         .ipport = ipport,
+                         .description = description.isEmpty() ? ipport : description});
         // The address of an offline device may be used by another device now.
         m_devicesAt[ipport] += row.value(DeviceRowKey::lost).toBool() ? 0 : 1;
         m_identitiesAt.insert(ipport.left(ipport.lastIndexOf(QLatin1Char(':'))), rowName(row));

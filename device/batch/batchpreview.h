@@ -82,7 +82,7 @@ protected:
     {
         QString identity;
         QString ipport;
-        QString words; ///< model and MAC; address and port if it reports neither
+        QString description; ///< model and MAC; address and port if it reports neither
     };
 
     /// The judgement of a checked row.

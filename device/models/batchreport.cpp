@@ -92,7 +92,7 @@ int BatchReport::skipped() const
     return count;
 }
 
-QString BatchReport::summaryWith(const QString &notDoneWords) const
+QString BatchReport::summaryWith(const QString &notDoneText) const
 {
     QStringList parts;
     if (succeeded() > 0)
@@ -104,7 +104,7 @@ QString BatchReport::summaryWith(const QString &notDoneWords) const
     if (skipped() > 0)
         parts.append(tr("%n 台设备已跳过", "", skipped()));
     if (notDone() > 0)
-        parts.append(notDoneWords);
+        parts.append(notDoneText);
     return parts.join(tr("，"));
 }
 

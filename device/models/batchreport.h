@@ -84,7 +84,7 @@ private:
         int result = NotDone;
     };
 
-    [[nodiscard]] QString summaryWith(const QString &notDoneWords) const;
+    [[nodiscard]] QString summaryWith(const QString &notDoneText) const;
     [[nodiscard]] bool take(const QString &device, int result); ///< false: not a device of the batch
     void setResult(qsizetype index, int result);
 

@@ -412,7 +412,7 @@ QVariantMap DeviceTableModel::get(int row) const
     values.insert(DeviceRowKey::num, QString::number(row + 1));
     values.insert(RowKey::identity, m_rows.at(row).identity);
     const bool isLost = m_rows.at(row).values.value(DeviceRowKey::lost).toBool();
-    values.insert(RowKey::failure, m_failedMarks.wordsOf(m_rows.at(row).identity, isLost));
+    values.insert(RowKey::failure, m_failedMarks.messagesOf(m_rows.at(row).identity, isLost));
     values.insert(RowKey::onlyNotDone, m_failedMarks.isOnlyNotDone(m_rows.at(row).identity));
     return values;
 }

@@ -19,7 +19,7 @@ class CDeviceFactory;
 ///  - "identity": see rowName()
 ///  - "note": the user's note about the device, which the text search includes
 /// get() returns the keys of the row without "conflict", and in addition "failure" (the failed batches of the
-/// device, see FollowedMarks::wordsOf()) and "onlyNotDone" (see FailedMarks).
+/// device, see FollowedMarks::messagesOf()) and "onlyNotDone" (see FailedMarks).
 ///
 /// The model reads all rows with one call of the factory's filterData() or filterDataIPV6() and filters them
 /// itself, so that list and filter are consistent. Checked states and order survive a refresh.

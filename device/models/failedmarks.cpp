@@ -13,10 +13,10 @@ bool isFinal(int result)
 }
 
 /// Limits the length of a message: the response of a device may be long.
-QString shortened(const QString &words)
+QString shortened(const QString &message)
 {
     constexpr qsizetype longest = 160;
-    const QString line = words.simplified();
+    const QString line = message.simplified();
     return line.size() > longest ? line.first(longest) + QStringLiteral("…") : line;
 }
 
@@ -33,10 +33,11 @@ void FailedMarks::note(const QString &work, const QString &title, const QList<Ou
     for (const Outcome &outcome : outcomes) {
         if (!isFinal(outcome.result) || outcome.result == BatchReport::Succeeded)
             continue;
-        m_failures[outcome.identity].prepend({.work = work,
-                                              .title = title,
-                                              .result = outcome.result,
-                                              .words = tr("%1：%2").arg(title, shortened(outcome.words))});
+        m_failures[outcome.identity].prepend(
+            {.work = work,
+             .title = title,
+             .result = outcome.result,
+             .message = tr("%1：%2").arg(title, shortened(outcome.message))});
         isChanged = true;
     }
     if (isChanged)
@@ -103,12 +104,12 @@ bool FailedMarks::isOnlyNotDone(const QString &identity) const
                        [](const Failure &failure) { return failure.result == BatchReport::NotDone; });
 }
 
-QString FailedMarks::wordsOf(const QString &identity) const
+QString FailedMarks::messagesOf(const QString &identity) const
 {
     QStringList lines;
     const QList<Failure> failures = m_failures.value(identity);
     for (const Failure &failure : failures)
-        lines.append(failure.words);
+        lines.append(failure.message);
     lines.removeDuplicates(); // different work may have the same title
     return lines.join(QLatin1Char('\n'));
 }

@@ -24,7 +24,7 @@ public:
     {
         QString identity;
         int result = 0;
-        QString words; ///< message for the user
+        QString message; ///< message for the user
     };
 
     explicit FailedMarks(QObject *parent = nullptr) : QObject(parent) {}
@@ -54,7 +54,7 @@ public:
 
     /// The failed work of the device, one line for each with its result, most recent first; empty if it is
     /// not marked.
-    [[nodiscard]] QString wordsOf(const QString &identity) const;
+    [[nodiscard]] QString messagesOf(const QString &identity) const;
 
 Q_SIGNALS:
     void changed();
@@ -65,7 +65,7 @@ private:
         QString work;
         QString title;
         int result = 0;
-        QString words; ///< title of the work and message
+        QString message; ///< title of the work and message
     };
 
     /// Returns whether a failure was removed.

@@ -49,7 +49,7 @@ FavouriteListModel::Favourite FavouriteListModel::favouriteOf(const QString &fil
             .note = values.value(5),
             .checked = false,
             .progress = Untried,
-            .words = {}};
+            .message = {}};
 }
 
 void FavouriteListModel::load(const QVariantMap &files)
@@ -65,7 +65,7 @@ void FavouriteListModel::load(const QVariantMap &files)
         if (const auto known = before.constFind(file.key()); known != before.cend()) {
             favourite.checked = known->checked;
             favourite.progress = known->progress;
-            favourite.words = known->words;
+            favourite.message = known->message;
         }
         favourites.append(std::move(favourite));
     }
@@ -97,24 +97,24 @@ void FavouriteListModel::show()
     Q_EMIT checkedCountChanged();
 }
 
-void FavouriteListModel::takeResults(const QVariantList &results, const QString &wordsOfSuccess)
+void FavouriteListModel::takeResults(const QVariantList &results, const QString &successMessage)
 {
     QHash<QString, std::pair<Progress, QString>> progressOf;
     for (const QVariant &value : results) {
         const QVariantMap result = value.toMap();
         const bool isAdded = result.value(ResultKey::result).toInt() == 0;
-        progressOf.insert(
-            result.value(ResultKey::identity).toString(),
-            {isAdded ? Added : Failed, isAdded ? wordsOfSuccess : result.value(ResultKey::words).toString()});
+        progressOf.insert(result.value(ResultKey::identity).toString(),
+                          {isAdded ? Added : Failed,
+                           isAdded ? successMessage : result.value(ResultKey::message).toString()});
     }
     noteProgress(progressOf);
 }
 
-void FavouriteListModel::setRunning(const QStringList &identities, const QString &words)
+void FavouriteListModel::setRunning(const QStringList &identities, const QString &message)
 {
     QHash<QString, std::pair<Progress, QString>> progressOf;
     for (const QString &identity : identities)
-        progressOf.insert(identity, {Running, words});
+        progressOf.insert(identity, {Running, message});
     noteProgress(progressOf);
 }
 
@@ -124,7 +124,7 @@ void FavouriteListModel::noteProgress(const QHash<QString, std::pair<Progress, Q
         const auto noted = progressOf.constFind(favourite.fileName);
         if (noted == progressOf.cend())
             continue;
-        std::tie(favourite.progress, favourite.words) = *noted;
+        std::tie(favourite.progress, favourite.message) = *noted;
         favourite.checked = favourite.checked && favourite.progress != Added;
     }
     if (rowCount() > 0)
@@ -136,7 +136,7 @@ void FavouriteListModel::forgetProgress()
 {
     for (Favourite &favourite : m_favourites) {
         favourite.progress = Untried;
-        favourite.words.clear();
+        favourite.message.clear();
     }
     if (rowCount() > 0)
         Q_EMIT dataChanged(index(0), index(rowCount() - 1));
@@ -157,7 +157,7 @@ QVariantMap FavouriteListModel::valuesOf(int row) const
         {DeviceRowKey::username, shownText(favourite.account)},
         {RowKey::note, shownText(favourite.note)},
         {RowKey::progress, favourite.progress},
-        {RowKey::words, favourite.words},
+        {RowKey::message, favourite.message},
     };
 }
 

@@ -41,12 +41,12 @@ public:
     /// of the file names. A favourite that was loaded before keeps its check mark and its progress.
     Q_INVOKABLE void load(const QVariantMap &files);
 
-    /// Sets the results of adding favourites: maps with the keys of ResultKey, `words` for a failure only.
+    /// Sets the results of adding favourites: maps with the keys of ResultKey, `message` for a failure only.
     /// Unchecks the added ones.
-    Q_INVOKABLE void takeResults(const QVariantList &results, const QString &wordsOfSuccess);
+    Q_INVOKABLE void takeResults(const QVariantList &results, const QString &successMessage);
 
     /// Marks these favourites as being added.
-    Q_INVOKABLE void setRunning(const QStringList &identities, const QString &words);
+    Q_INVOKABLE void setRunning(const QStringList &identities, const QString &message);
 
     /// Clears the progress of all favourites.
     Q_INVOKABLE void forgetProgress();
@@ -67,7 +67,7 @@ Q_SIGNALS:
 
 protected:
     /// "checked", "identity", "fileName", "num" (its number among all, from 1, as text), "type" ("IP" or
-    /// "P2P"), "ip", "port" (text), "ipport", "username", "note", "progress" (a Progress) and "words". The
+    /// "P2P"), "ip", "port" (text), "ipport", "username", "note", "progress" (a Progress) and "message". The
     /// map contains no password, since the contents of a table can be copied.
     [[nodiscard]] QVariantMap valuesOf(int row) const override;
     [[nodiscard]] bool isChecked(int row) const override { return at(row).checked; }
@@ -85,13 +85,13 @@ private:
         QString note;
         bool checked = false;
         Progress progress = Untried;
-        QString words;
+        QString message;
     };
 
     [[nodiscard]] static Favourite favouriteOf(const QString &fileName, const QStringList &values);
     [[nodiscard]] bool isShown(const Favourite &favourite) const;
     [[nodiscard]] const Favourite &at(int row) const { return m_favourites.at(m_shown.at(row)); }
-    void noteProgress(const QHash<QString, std::pair<Progress, QString>> &progressOf); ///< and the words
+    void noteProgress(const QHash<QString, std::pair<Progress, QString>> &progressOf); ///< and the message
     [[nodiscard]] qsizetype indexOf(const QString &identity) const;
     void show();
 

@@ -43,9 +43,9 @@ public:
     }
 
     /// The text for a row: the failures of its marks, and a line if the last search did not find the device.
-    [[nodiscard]] QString wordsOf(const QString &identity, bool isLost) const
+    [[nodiscard]] QString messagesOf(const QString &identity, bool isLost) const
     {
-        QStringList lines = {m_marks ? m_marks->wordsOf(identity) : QString()};
+        QStringList lines = {m_marks ? m_marks->messagesOf(identity) : QString()};
         if (isLost)
             lines.append(FailedMarks::tr("最近一次搜索没有找到该设备"));
         lines.removeAll(QString());

@@ -18,11 +18,11 @@ inline constexpr QLatin1StringView onlyNotDone("onlyNotDone"); ///< bool: no bat
 inline constexpr QLatin1StringView device("device"); ///< "address:port", or another name for the user
 inline constexpr QLatin1StringView action("action"); ///< the new value, for the user
 inline constexpr QLatin1StringView newAddress("newAddress");
-inline constexpr QLatin1StringView note("note");   ///< reason or warning, in the user's language
-inline constexpr QLatin1StringView kind("kind");   ///< int: see BatchPreview
-inline constexpr QLatin1StringView issue("issue"); ///< int: the problem of the row, see AddressPlan
-inline constexpr QLatin1StringView state("state"); ///< int: see BatchResultModel
-inline constexpr QLatin1StringView words("words"); ///< result in the user's language
+inline constexpr QLatin1StringView note("note");       ///< reason or warning, in the user's language
+inline constexpr QLatin1StringView kind("kind");       ///< int: see BatchPreview
+inline constexpr QLatin1StringView issue("issue");     ///< int: the problem of the row, see AddressPlan
+inline constexpr QLatin1StringView state("state");     ///< int: see BatchResultModel
+inline constexpr QLatin1StringView message("message"); ///< result in the user's language
 /// Why the device is skipped, in the user's language.
 inline constexpr QLatin1StringView hindrance("hindrance");
 

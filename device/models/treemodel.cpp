@@ -94,7 +94,7 @@ QVariant OVTreeModel::deviceData(const Device &device, int role) const
     case IdentityRole:
         return device.identity;
     case FailureRole:
-        return m_failedMarks.wordsOf(device.identity, device.isLost);
+        return m_failedMarks.messagesOf(device.identity, device.isLost);
     case OnlyNotDoneRole:
         return m_failedMarks.isOnlyNotDone(device.identity);
     case Qt::ToolTipRole:

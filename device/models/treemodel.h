@@ -64,7 +64,7 @@ public:
         IsCheckedRole,           ///< "isChecked": a Qt::CheckState
         CopyRetRole,             ///< "copyRet": result of the last batch with the device, NoResult initially
         IdentityRole,    ///< not in roleNames(): unique string of a device, or of a group among the groups
-        FailureRole,     ///< not in roleNames(): see FollowedMarks::wordsOf()
+        FailureRole,     ///< not in roleNames(): see FollowedMarks::messagesOf()
         OnlyNotDoneRole, ///< not in roleNames(): see FailedMarks::isOnlyNotDone()
         LabelRole,       ///< not in roleNames(): the address, without the port that most devices have
     };

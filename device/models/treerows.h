@@ -28,7 +28,7 @@ public:
         IsOpenRole,               ///< "isOpen": of a group
         CountRole,                ///< "deviceCount": of a group
         IdentityRole,             ///< "identity": unique string, for rowOf()
-        FailureRole,              ///< "failure": see FollowedMarks::wordsOf(); empty for a group
+        FailureRole,              ///< "failure": see FollowedMarks::messagesOf(); empty for a group
         OnlyNotDoneRole,          ///< "onlyNotDone": see FailedMarks::isOnlyNotDone(); false for a group
     };
 

@@ -91,7 +91,7 @@ inline constexpr QLatin1StringView password("password");
 namespace ResultKey {
 inline constexpr QLatin1StringView identity("identity"); ///< DeviceToAddKey::identity
 inline constexpr QLatin1StringView result("result");     ///< int: a LoginResult
-inline constexpr QLatin1StringView words("words");       ///< the result in the user's language
+inline constexpr QLatin1StringView message("message");   ///< the result in the user's language
 inline constexpr QLatin1StringView text("text"); ///< more than the result says, in the user's language
 inline constexpr QLatin1StringView name("name"); ///< the name of a channel after it was written
 } // namespace ResultKey

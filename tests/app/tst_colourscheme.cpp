@@ -24,11 +24,11 @@ constexpr uint noPreference = 0;
 constexpr uint dark = 1;
 constexpr uint light = 2;
 
-QPalette paletteOf(const QColor &window, const QColor &words)
+QPalette paletteOf(const QColor &window, const QColor &text)
 {
     QPalette palette = QGuiApplication::palette();
     palette.setColor(QPalette::Window, window);
-    palette.setColor(QPalette::WindowText, words);
+    palette.setColor(QPalette::WindowText, text);
     return palette;
 }
 
@@ -204,7 +204,7 @@ private Q_SLOTS:
         CLocalConfig config(m_directory->path());
         DesktopScheme desktop({});
         ColourScheme scheme(desktop, config);
-        OMessageBox box("title", "words");
+        OMessageBox box("title", "text");
         box.QWidget::show();
         for (const bool isDark : {false, true, false}) {
             scheme.choose(isDark ? "dark" : "light"); // while the box is open

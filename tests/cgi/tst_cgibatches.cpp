@@ -89,7 +89,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!batch->isRunning());
         QTEST(m_site->result("d"), "result");
         QCOMPARE(m_site->transport->urls, url.isEmpty() ? QStringList() : QStringList(url));
-        QCOMPARE(m_site->batches.failedMarks()->wordsOf("d"), mark);
+        QCOMPARE(m_site->batches.failedMarks()->messagesOf("d"), mark);
     }
 
     /// A stop ends an endless transfer.

@@ -102,16 +102,16 @@ private Q_SLOTS:
                                     "<row r='2'><c r='A2'/><c r='B2'><v>5</v></c></row>"
                                     "<row r='3'><c r='A3' t='str'><v>end</v></c></row>"
                                     "<row r='120000'><c r='A120000' s='1'/></row>");
-        const QStringList words = change.split('|', Qt::KeepEmptyParts);
-        if (!words[0].isEmpty()) {
-            QString text = parts[words[0]];
+        const QStringList fields = change.split('|', Qt::KeepEmptyParts);
+        if (!fields[0].isEmpty()) {
+            QString text = parts[fields[0]];
             const QString before = text;
-            text.replace(QRegularExpression(words.size() > 3 ? words[1] + '|' + words[2] : words[1]),
-                         words.last());
+            text.replace(QRegularExpression(fields.size() > 3 ? fields[1] + '|' + fields[2] : fields[1]),
+                         fields.last());
             QVERIFY(text != before);
-            parts[words[0]] = text.replace("xmlns=\"http://schemas.openxmlformats.org/spreadsheetml",
-                                           text.contains("<x:") ? "xmlns:x=\"http://x" : "xmlns=\"http://x")
-                                  .toUtf8();
+            parts[fields[0]] = text.replace("xmlns=\"http://schemas.openxmlformats.org/spreadsheetml",
+                                            text.contains("<x:") ? "xmlns:x=\"http://x" : "xmlns=\"http://x")
+                                   .toUtf8();
         }
         QVERIFY(writeArchive(m_path, parts));
         QExcel excel(std::make_unique<sheets::FileSheetEngine>());

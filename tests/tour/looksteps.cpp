@@ -27,11 +27,11 @@ void choose(const Driver &driver, const QString &choice)
 }
 
 /// Changes the colours of the desktop.
-void paintDesktop(const QColor &windows, const QColor &words)
+void paintDesktop(const QColor &windows, const QColor &text)
 {
     QPalette palette = QGuiApplication::palette();
     palette.setColor(QPalette::Window, windows);
-    palette.setColor(QPalette::WindowText, words);
+    palette.setColor(QPalette::WindowText, text);
     QApplication::setPalette(palette);
 }
 

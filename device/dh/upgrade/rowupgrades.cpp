@@ -60,8 +60,8 @@ DeviceStep RowUpgrades::step(const QString &mac)
 {
     const std::optional<UpgradeOrder> order = m_orders.orderNamed(mac);
     if (!order) {
-        return [words = tr("设备已不在列表中")](const StepControl &) {
-            return StepOutcome{.result = resultCode(LoginResult::NotDone), .text = words};
+        return [message = tr("设备已不在列表中")](const StepControl &) {
+            return StepOutcome{.result = resultCode(LoginResult::NotDone), .text = message};
         };
     }
     m_signals.noteChangedRows();

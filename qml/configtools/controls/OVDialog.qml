@@ -197,21 +197,21 @@ T.Popup {
             x: Theme.pageMargin
             y: foot.y - height
             width: parent.width - 2 * Theme.pageMargin
-            height: root.notice === "" ? 0 : words.height + root.contentMargin
+            height: root.notice === "" ? 0 : noticeLabel.height + root.contentMargin
             visible: root.notice !== ""
 
             Accessible.role: Accessible.AlertMessage
             Accessible.name: root.notice
 
             OVNotice {
-                id: words
+                id: noticeLabel
                 width: parent.width
                 iconColor: root.noticeSeverity === OVToast.Error ? Theme.colours.bad
                     : root.noticeSeverity === OVToast.Success ? Theme.colours.ok : Theme.colours.accent
                 iconName: root.noticeSeverity === OVToast.Error ? "error"
                     : root.noticeSeverity === OVToast.Success ? "ok" : "about"
                 text: root.notice
-                wordsName: "dialogNotice"
+                messageName: "dialogNotice"
             }
         }
 

@@ -70,7 +70,7 @@ Item {
         Row {
             height: parent.height
             spacing: Theme.signGap
-            visible: words.text !== ""
+            visible: statusLabel.text !== ""
 
             OVIcon {
                 id: sign
@@ -80,7 +80,7 @@ Item {
                 size: Theme.smallIconSize
             }
             OVLabel {
-                id: words
+                id: statusLabel
                 readonly property real room: state.room - selected.width - sign.width - Theme.signGap
                     - Theme.pageMargin
                 width: Math.max(0, Math.min(implicitWidth, room))

@@ -8,20 +8,20 @@ Row {
     required property string iconName
     required property string text
     property color iconColor: Theme.colours.accent
-    property string wordsName: "messageText"
+    property string messageName: "messageText"
 
     spacing: Theme.controlGap
 
     OVIcon {
         id: sign
-        y: Math.round((words.lineHeight - height) / 2)
+        y: Math.round((messageLabel.lineHeight - height) / 2)
         color: root.iconColor
         name: root.iconName
     }
     OVParagraph {
-        id: words
+        id: messageLabel
         width: root.width - sign.width - root.spacing
-        objectName: root.wordsName
+        objectName: root.messageName
         text: root.text
     }
 }

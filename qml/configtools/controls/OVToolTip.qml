@@ -33,7 +33,7 @@ Loader {
         padding: Theme.unit
         topPadding: 5
         bottomPadding: 5
-        implicitWidth: Math.ceil(Math.min(Math.max(words.implicitWidth, note.implicitWidth), root.widest))
+        implicitWidth: Math.ceil(Math.min(Math.max(tipLabel.implicitWidth, note.implicitWidth), root.widest))
             + leftPadding + rightPadding
         implicitHeight: implicitContentHeight + topPadding + bottomPadding
         closePolicy: T.Popup.NoAutoClose
@@ -43,7 +43,7 @@ Loader {
 
         contentItem: Column {
             OVParagraph {
-                id: words
+                id: tipLabel
                 width: bubble.availableWidth
                 color: Theme.colours.bubbleText
                 elide: Text.ElideRight

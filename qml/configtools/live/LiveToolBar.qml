@@ -98,7 +98,7 @@ Rectangle {
             id: addition
             enabled: root.canAdd
             height: Theme.controlHeight
-            implicitWidth: words.implicitWidth + 2 * Theme.unit
+            implicitWidth: caption.implicitWidth + 2 * Theme.unit
             objectName: "liveAddButton"
             toolTip: root.full ? qsTr("画面中已有足够多的设备")
                 : root.ticked === 0 ? qsTr("请先在设备列表中勾选要一起查看的设备")
@@ -106,7 +106,7 @@ Rectangle {
             onClicked: root.additionRequested()
 
             contentItem: OVLabel {
-                id: words
+                id: caption
                 color: !addition.enabled ? Theme.colours.barLine
                     : addition.hovered ? Theme.colours.barText : Theme.colours.barSub
                 horizontalAlignment: Text.AlignHCenter

@@ -6,7 +6,7 @@ OVTableCell {
     id: root
 
     OVLabel {
-        id: words
+        id: addressLabel
         readonly property int signRoom: sign.visible ? sign.width + Theme.signGap : 0
         width: Math.min(implicitWidth, parent.width - Theme.unit - signRoom)
         height: parent.height
@@ -15,7 +15,7 @@ OVTableCell {
     }
     OVIcon {
         id: sign
-        anchors.left: words.right
+        anchors.left: addressLabel.right
         anchors.leftMargin: Theme.signGap
         anchors.verticalCenter: parent.verticalCenter
         color: Theme.colours.bad

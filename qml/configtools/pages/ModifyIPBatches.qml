@@ -79,7 +79,7 @@ Item {
         const report = batch.report;
         deviceTable.refresh();
         keeper.keep();
-        const kept = batch === keeper.batch ? keeper.words : "";
+        const kept = batch === keeper.batch ? keeper.message : "";
         if (kept !== "")
             notify(kept, keeper.failure !== "" ? OVToast.Error : OVToast.Success);
         if (report.notDone > 0)

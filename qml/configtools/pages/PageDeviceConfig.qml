@@ -93,10 +93,10 @@ FocusScope {
     function copy() {
         const number = session.encoding.form.channel + 1;
         //: %1 is a channel number.
-        const words = qsTr("将通道 %1 的编码配置复制到选中的 %n 台设备的同一通道？", "", targets.length).arg(number)
+        const question = qsTr("将通道 %1 的编码配置复制到选中的 %n 台设备的同一通道？", "", targets.length).arg(number)
             + (session.encoding.unsaved > 0 ? "\n" + qsTr("其中包括尚未保存的修改。") : "");
         //: The change of a device; %1 is a channel number.
-        preview.instance().ask(words, qsTr("写入通道 %1 的编码配置").arg(number), Array.from(targets), {
+        preview.instance().ask(question, qsTr("写入通道 %1 的编码配置").arg(number), Array.from(targets), {
             title: qsTr("复制编码配置"), okText: qsTr("复制"), action: chosen => copying.start(chosen)
         });
     }

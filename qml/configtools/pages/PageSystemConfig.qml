@@ -55,8 +55,8 @@ FocusScope {
 
     function takeChangedPasswords() {
         keeper.keep();
-        if (keeper.words !== "")
-            notify(keeper.words, keeper.failure !== "" ? OVToast.Error : OVToast.Success);
+        if (keeper.message !== "")
+            notify(keeper.message, keeper.failure !== "" ? OVToast.Error : OVToast.Success);
         notifyUnchangedPasswords();
         const left = batch.report.devicesLeft(leftOut);
         passwordTime.takeResults(left);
@@ -72,7 +72,7 @@ FocusScope {
         if (unchanged.length === 0)
             return;
         const shown = 3;
-        const reasons = Array.from(new Set(Array.from(batch.batch.wordsOf(unchanged), entry => entry.words)));
+        const reasons = Array.from(new Set(Array.from(batch.batch.messagesOf(unchanged), entry => entry.message)));
         //: %1 are the reasons.
         notify(qsTr("%n 台设备的密码没有修改（%1），已标记", "", unchanged.length)
                  .arg(reasons.slice(0, shown).join(qsTr("；")) + (reasons.length > shown ? "…" : "")), OVToast.Error);
@@ -120,7 +120,7 @@ FocusScope {
         if (batch.report.waiting === 0)
             refresh();  // the set of logged-out devices has changed
         if (batch.command === "readTime")
-            panels.clocks = batch.batch.wordsOf(checkedWhenAsked);
+            panels.clocks = batch.batch.messagesOf(checkedWhenAsked);
         else if (batch.command === "loginCheck" && batch.report.waiting > 0)
             askForNewPassword();
         else if (batch.command === "modifyPassword")

@@ -122,7 +122,7 @@ Rectangle {
         }
 
         OVLabel {
-            id: words
+            id: titleLabel
             x: parent.width
             width: Math.min(implicitWidth, root.width - parent.x - x - Theme.pageMargin
                 - root.signsWidth)
@@ -131,7 +131,7 @@ Rectangle {
             text: root.label
         }
         OVLabel {
-            x: words.x + words.width + Theme.unit
+            x: titleLabel.x + titleLabel.width + Theme.unit
             width: Math.max(0, root.width - parent.x - x - Theme.pageMargin
                 - root.signsWidth)
             height: parent.height

@@ -16,7 +16,7 @@ Item {
     readonly property var accounts: LoginMemory.accounts
 
     /// Result as the end of a message; "" if the account was not to be stored.
-    readonly property string words: failure !== "" ? qsTr("账号无法保存，只用到下次搜索：%1").arg(failure)
+    readonly property string message: failure !== "" ? qsTr("账号无法保存，只用到下次搜索：%1").arg(failure)
         : keptCount === keptBefore || keeping === AccountList.Unkept ? ""
         : keeping === AccountList.AsDefault ? qsTr("新账号已设为默认账号")
         : qsTr("新账号已保存，以后登录这 %n 台设备时使用", "", keptCount)
@@ -32,7 +32,7 @@ Item {
         failure = "";
     }
 
-    /// Stores the accounts of further successful devices. After the batch, `words` is final.
+    /// Stores the accounts of further successful devices. After the batch, `message` is final.
     function keep() {
         delay.stop();
         const devices = batch?.succeededDevices(takenCount) ?? [];

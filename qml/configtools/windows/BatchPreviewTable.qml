@@ -77,10 +77,10 @@ OVTable {
                 color: note.conflict ? Theme.colours.bad : note.skipped ? Theme.colours.sub : Theme.colours.warn
                 name: note.skipped ? "mixed" : "alert"
                 size: Theme.smallIconSize
-                visible: words.text !== ""
+                visible: noteLabel.text !== ""
             }
             OVLabel {
-                id: words
+                id: noteLabel
                 anchors.left: sign.right
                 anchors.leftMargin: Theme.signGap
                 anchors.right: parent.right
@@ -92,8 +92,8 @@ OVTable {
                 id: pointer
             }
             OVToolTip {
-                shown: pointer.hovered && words.truncated
-                text: words.text
+                shown: pointer.hovered && noteLabel.truncated
+                text: noteLabel.text
             }
         }
     }

@@ -18,7 +18,7 @@ OVTableCell {
         visible: root.outcome !== BatchResultModel.ToCome
     }
     OVLabel {
-        id: words
+        id: resultLabel
         x: sign.visible ? sign.width + Theme.signGap : 0
         width: parent.width - x - Theme.unit
         height: parent.height
@@ -29,7 +29,7 @@ OVTableCell {
         id: pointer
     }
     OVToolTip {
-        shown: pointer.hovered && words.truncated
-        text: words.text
+        shown: pointer.hovered && resultLabel.truncated
+        text: resultLabel.text
     }
 }

@@ -3,10 +3,10 @@ import QtQuick
 import configtools
 
 OVMessageBox {
-    /// `words` describe the warnings.
-    function ask(warnings, words) {
+    /// `descriptions` describe the warnings.
+    function ask(warnings, descriptions) {
         okText = qsTr("继续");
-        show(qsTr("有 %n 个警告，仍要继续吗？", "", warnings) + "\n" + words, OVMessageBox.DangerQuestion);
+        show(qsTr("有 %n 个警告，仍要继续吗？", "", warnings) + "\n" + descriptions, OVMessageBox.DangerQuestion);
     }
 
     objectName: "warningQuestion"

@@ -11,7 +11,7 @@ Rectangle {
     property bool current: false
     signal copyRequested
 
-    height: Math.max(Theme.rowHeight, words.height + Theme.controlGap)
+    height: Math.max(Theme.rowHeight, valueText.height + Theme.controlGap)
     color: current ? Theme.colours.rowSelected : pointer.hovered ? Theme.colours.rowHoverVeil : Theme.colours.clear
     objectName: "detailLine" + index
     radius: Theme.smallRadius
@@ -34,16 +34,16 @@ Rectangle {
     // Text reports the baseline of its first line for every script, TextEdit only that of Latin text.
     Text {
         id: baseline
-        width: words.width
-        font: words.font
-        renderType: words.renderType
-        text: words.text
+        width: valueText.width
+        font: valueText.font
+        renderType: valueText.renderType
+        text: valueText.text
         textFormat: Text.PlainText
         visible: false
         wrapMode: Text.WrapAnywhere
     }
     TextEdit {
-        id: words
+        id: valueText
         x: Theme.panelLabelWidth + 2 * Theme.unit
         y: Math.round(Theme.rowHeight / 2 + font.pixelSize * Theme.baselineShift - baseline.baselineOffset)
         width: copy.x - x - Theme.unit

@@ -27,6 +27,6 @@ OVTableCell {
         height: root.height
         color: root.failed ? Theme.colours.bad : root.running ? Theme.colours.sub : Theme.colours.text
         objectName: "addResult" + root.rowIndex
-        text: root.row?.words ?? ""
+        text: root.row?.message ?? ""
     }
 }

@@ -72,7 +72,7 @@ OVDialog {
             refuse(qsTr("请选择一台设备"));
         } else if (count > 0) {
             expanded = true;
-            question.ask(count, [plan.warnings(), gatewayWarning].filter(words => words !== "").join("\n"));
+            question.ask(count, [plan.warnings(), gatewayWarning].filter(text => text !== "").join("\n"));
         } else {
             confirmed();
         }

@@ -215,9 +215,9 @@ private Q_SLOTS:
 
     void favouritesAreAdded_data()
     {
-        // words: part of the message
+        // message: a part of it
         const auto row = dataTable<int, QString, int, QString, int, QString>(
-            {"mode", "address", "port", "password", "result", "words"});
+            {"mode", "address", "port", "password", "result", "message"});
         row("address", 0, "192.168.1.10", 37777, "secret1", 0, QString());
         row("wrong password", 0, "192.168.1.10", 37777, "wrong", 2, "密码错误");
         row("already listed", 0, "192.168.1.11", 37777, "wrong", 13, "设备已存在");
@@ -231,7 +231,7 @@ private Q_SLOTS:
         QFETCH(QString, address);
         QFETCH(int, port);
         QFETCH(QString, password);
-        QFETCH(QString, words);
+        QFETCH(QString, message);
         QCOMPARE(m_factory->getLoginDevice("dh", "192.168.1.11", "admin", "secret1", "37777"), 0);
         QSignalSpy tried(m_adding.get(), &AddingBatches::tried);
         const QVariantMap device = {{"identity", "file"}, {"mode", mode},       {"address", address},
@@ -243,7 +243,7 @@ private Q_SLOTS:
         const QVariantMap result = tried.first().first().toList().first().toMap();
         QCOMPARE(result.value("identity").toString(), "file");
         QTEST(result.value("result").toInt(), "result");
-        QVERIFY(result.value("words").toString().contains(words));
+        QVERIFY(result.value("message").toString().contains(message));
         QCOMPARE(m_factory->filterData("dh", "nofilter").size(), result.value("result").toInt() == 0 ? 2 : 1);
     }
 };

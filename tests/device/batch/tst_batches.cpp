@@ -255,7 +255,7 @@ private Q_SLOTS:
         QCOMPARE(batch->entries().first().outcome.result, 999);
         QTEST(batch->textOf(device), "text");
         QCOMPARE(batch->retryableDevices(), isRetryable ? QStringList(device) : QStringList());
-        QVERIFY(m_batches->failedMarks()->wordsOf(identityOf(0)).contains(batch->textOf(device)));
+        QVERIFY(m_batches->failedMarks()->messagesOf(identityOf(0)).contains(batch->textOf(device)));
     }
 
     void closingDoesNotWaitForDevices_data()

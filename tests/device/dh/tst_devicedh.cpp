@@ -61,14 +61,14 @@ private Q_SLOTS:
 
     void typeCodesHaveTheirNames()
     {
-        const QMap<int, QString> words = {{19, "SD"},  {20, "IPC"},  {29, "SVR"},   {30, "SVR"},
+        const QMap<int, QString> names = {{19, "SD"},  {20, "IPC"},  {29, "SVR"},   {30, "SVR"},
                                           {31, "NVR"}, {0, "Other"}, {18, "Other"}, {255, "Other"}};
         RowLoginRequest request;
         request.address = "192.168.1.10";
-        for (auto word = words.cbegin(); word != words.cend(); ++word) {
+        for (auto name = names.cbegin(); name != names.cend(); ++name) {
             sdk::SdkLibraries libraries;
-            libraries.net = std::make_shared<OneTypeLibrary>(word.key());
-            QCOMPARE(loginForRow(libraries, request).row.value("type").toString(), word.value());
+            libraries.net = std::make_shared<OneTypeLibrary>(name.key());
+            QCOMPARE(loginForRow(libraries, request).row.value("type").toString(), name.value());
         }
     }
 

@@ -32,7 +32,7 @@ private:
         QList<FailedMarks::Outcome> outcomes;
         for (auto result = results.cbegin(); result != results.cend(); ++result)
             outcomes.append(
-                {.identity = result.key(), .result = result.value(), .words = resultName(result.value())});
+                {.identity = result.key(), .result = result.value(), .message = resultName(result.value())});
         marks.note(work, "title of " + work, outcomes);
     }
 
@@ -59,7 +59,7 @@ private:
 private Q_SLOTS:
     void aMarkRemainsUntilTheSameOperationSucceeds_data()
     {
-        const auto row = dataTable<Batches, QString>({"batches", "words"});
+        const auto row = dataTable<Batches, QString>({"batches", "message"});
         const QString password = resultName(wrongPassword);
         row("failed", {{"reboot", {wrongPassword}}}, QStringLiteral("title of reboot：") + password);
         row("succeeded later", {{"reboot", {wrongPassword}}, {"reboot", {succeeded}}}, "");
@@ -83,11 +83,11 @@ private Q_SLOTS:
         for (const auto &[work, results] : std::as_const(batches)) {
             QList<FailedMarks::Outcome> outcomes;
             for (const int result : results)
-                outcomes.append({.identity = "m1", .result = result, .words = resultName(result)});
+                outcomes.append({.identity = "m1", .result = result, .message = resultName(result)});
             marks.note(work, "title of " + work, outcomes);
         }
-        QTEST(marks.wordsOf("m1"), "words");
-        QCOMPARE(marks.count(), marks.wordsOf("m1").isEmpty() ? 0 : 1);
+        QTEST(marks.messagesOf("m1"), "message");
+        QCOMPARE(marks.count(), marks.messagesOf("m1").isEmpty() ? 0 : 1);
     }
 
     /// Different commands have the same title.
@@ -95,8 +95,8 @@ private Q_SLOTS:
     {
         FailedMarks marks;
         for (const char *work : {"cgi 1", "cgi 2"})
-            marks.note(work, "CGI", {{.identity = "m1", .result = away, .words = "away"}});
-        QCOMPARE(marks.wordsOf("m1"), QStringLiteral("CGI：away"));
+            marks.note(work, "CGI", {{.identity = "m1", .result = away, .message = "away"}});
+        QCOMPARE(marks.messagesOf("m1"), QStringLiteral("CGI：away"));
     }
 
     void marksAreChosenByOperation()
@@ -138,7 +138,7 @@ private Q_SLOTS:
         table.setFailedMarks(&marks);
         fill(*site.rows, marks);
         table.setDeviceFactory(&site.factory);
-        QCOMPARE(table.get(table.rowOf("m3")).value("failure").toString(), marks.wordsOf("m3"));
+        QCOMPARE(table.get(table.rowOf("m3")).value("failure").toString(), marks.messagesOf("m3"));
         QCOMPARE(table.failedCount(), 3); // one of the four marks has no row
         table.setOnlyFailed(true);
         const bool passwordFirst = resultName(wrongPassword) < resultName(away);

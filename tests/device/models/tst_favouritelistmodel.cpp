@@ -121,7 +121,7 @@ private Q_SLOTS:
         model.load(threeFiles());
         model.setAllChecked(true);
         model.takeResults({QVariantMap{{"identity", "a.json"}, {"result", 0}},
-                           QVariantMap{{"identity", "c.json"}, {"result", 2}, {"words", "wrong password"}}},
+                           QVariantMap{{"identity", "c.json"}, {"result", 2}, {"message", "wrong password"}}},
                           "added");
         QCOMPARE(model.checkedIdentities(), (QStringList{"b.json", "c.json"}));
 
@@ -131,7 +131,7 @@ private Q_SLOTS:
         model.load(files);
         QCOMPARE(shown(model), (QStringList{"1 OV7QK2M4", "2 10.0.0.2"}));
         QCOMPARE(model.checkedIdentities(), (QStringList{"b.json", "c.json"}));
-        QCOMPARE(model.get(1).value("words").toString(), QString("wrong password"));
+        QCOMPARE(model.get(1).value("message").toString(), QString("wrong password"));
         QCOMPARE(model.get(1).value("note").toString(), QString("changed"));
         QCOMPARE(model.rowOf("a.json"), -1);
         QVERIFY(model.device("a.json").isEmpty());

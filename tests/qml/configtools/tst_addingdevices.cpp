@@ -22,10 +22,10 @@ QStringList argumentsOf(const QSignalSpy &spy)
 {
     QStringList texts;
     for (const QList<QVariant> &arguments : spy) {
-        QStringList words;
+        QStringList values;
         for (const QVariant &argument : arguments)
-            words.append(argument.toString());
-        texts.append(words.join('/'));
+            values.append(argument.toString());
+        texts.append(values.join('/'));
     }
     return texts;
 }
@@ -137,10 +137,10 @@ private Q_SLOTS:
         open(opener, fields);
         press("accept");
         // The message is shown once, at the field that gets the focus.
-        QQuickItem *words = findBelow(m_window->contentItem(), "fieldMessage", Sight::Visible);
-        QVERIFY(words);
-        QCOMPARE(words->property("text").toString(), message);
-        QVERIFY(words->parentItem()->hasActiveFocus());
+        QQuickItem *messageItem = findBelow(m_window->contentItem(), "fieldMessage", Sight::Visible);
+        QVERIFY(messageItem);
+        QCOMPARE(messageItem->property("text").toString(), message);
+        QVERIFY(messageItem->parentItem()->hasActiveFocus());
         QVERIFY(m_notices->isEmpty() && !item("dialogNotice")->isVisible());
         QVERIFY(dialog()->property("visible").toBool());
         QCOMPARE(m_devices->asked, QStringList());
@@ -180,8 +180,8 @@ private Q_SLOTS:
         QCOMPARE(m_devices->last.port, 37777);
         QCOMPARE(m_devices->last.account, "admin");
         QCOMPARE(argumentsOf(*m_notices).join(','), notice);
-        const QQuickItem *words = findBelow(m_window->contentItem(), "fieldMessage", Sight::Visible);
-        QTEST(words ? words->property("text").toString() : QString(), "fieldMessage");
+        const QQuickItem *messageItem = findBelow(m_window->contentItem(), "fieldMessage", Sight::Visible);
+        QTEST(messageItem ? messageItem->property("text").toString() : QString(), "fieldMessage");
         const bool done = notice.startsWith("设备已添加");
         QCOMPARE(m_added->count(), done ? 1 : 0);
         QTRY_COMPARE(dialog()->property("visible").toBool(), !done);
@@ -244,10 +244,10 @@ private Q_SLOTS:
                                   "");
         QMetaObject::invokeMethod(m_adding, "openFavourites");
         auto *model = item("favouriteTable")->property("model").value<FavouriteListModel *>();
-        const auto words = [model] {
+        const auto messages = [model] {
             QStringList texts;
             for (int row = 0; row < model->rowCount(); ++row)
-                texts.append(model->get(row).value("words").toString());
+                texts.append(model->get(row).value("message").toString());
             return texts;
         };
         model->setAllChecked(true);
@@ -255,10 +255,10 @@ private Q_SLOTS:
         QMetaObject::invokeMethod(window, "accept");
         QCOMPARE(m_devices->asked, QStringList({"OV1 wrong", "OV2 p", "OV3 p"}));
         const QString running = "正在添加…";
-        QCOMPARE(words(), QStringList({running, running, running}));
+        QCOMPARE(messages(), QStringList({running, running, running}));
 
         m_devices->gate.release();
-        QTRY_COMPARE(words(), QStringList({"密码错误", running, running}));
+        QTRY_COMPARE(messages(), QStringList({"密码错误", running, running}));
         QMetaObject::invokeMethod(window, "reject");
         QTRY_VERIFY(!window->property("visible").toBool());
         // A device added by hand would interrupt them.
@@ -272,11 +272,11 @@ private Q_SLOTS:
         press("reject");
 
         QMetaObject::invokeMethod(m_adding, "openFavourites");
-        QCOMPARE(words().first(), "密码错误");
+        QCOMPARE(messages().first(), "密码错误");
         QTRY_VERIFY(item("stopButton")->isVisible());
         QMetaObject::invokeMethod(item("stopButton"), "clicked");
         m_devices->gate.release();
-        QTRY_COMPARE(words(), QStringList({"密码错误", "已添加", "未执行"}));
+        QTRY_COMPARE(messages(), QStringList({"密码错误", "已添加", "未执行"}));
         QVERIFY(!m_site->busyState()->areRowsInUse());
     }
 

@@ -263,14 +263,14 @@ private Q_SLOTS:
         m_gate.release(2);
         QTRY_VERIFY(!batch->isRunning());
         QCOMPARE(keeper->property("keptCount").toInt(), 1);
-        QVERIFY(!keeper->property("words").toString().isEmpty());
+        QVERIFY(!keeper->property("message").toString().isEmpty());
 
         const QSignalSpy retried(m_batches.get(), &Batches::retried);
         m_resultAgain = networkFailure;
         m_gate.release();
         press("retryFailedButton");
         QTRY_VERIFY(!retried.isEmpty() && !m_batches->isRunning());
-        QCOMPARE(keeper->property("words").toString(), QString());
+        QCOMPARE(keeper->property("message").toString(), QString());
         m_resultAgain = 0;
     }
 

@@ -17,9 +17,9 @@ const char *const scene =
     "    CgiCommandField { objectName: 'command'; x: 500; commands: known }\n"
     "    Item {\n"
     "        objectName: 'answer'; x: 300; y: 200; width: 100; height: 34\n"
-    "        property string words\n"
+    "        property string content\n"
     "        OVToolTip {\n"
-    "            shown: parent.words !== ''; text: parent.words; footnote: 'footnote'\n"
+    "            shown: parent.content !== ''; text: parent.content; footnote: 'footnote'\n"
     "            widest: Theme.responseTipWidth\n"
     "        }\n"
     "    }\n";
@@ -219,7 +219,7 @@ private Q_SLOTS:
 
     void aLongResponseFitsTheWindow_data()
     {
-        const auto row = dataTable<QString>({"words"});
+        const auto row = dataTable<QString>({"content"});
         row("short", "OK");
         row("many lines", QString("line\n").repeated(2'000));
         row("one line", QString(3'000, 'w'));
@@ -228,12 +228,12 @@ private Q_SLOTS:
 
     void aLongResponseFitsTheWindow()
     {
-        QFETCH(QString, words);
-        find("answer")->setProperty("words", words);
+        QFETCH(QString, content);
+        find("answer")->setProperty("content", content);
         QTRY_VERIFY(isInWindow("toolTip") && isInWindow("toolTipNote"));
         const int shown = find("toolTip")->property("lineCount").toInt();
-        QCOMPARE(shown > 1, words.size() > 2);
-        QCOMPARE(find("toolTip")->property("truncated").toBool(), words.size() > 2);
+        QCOMPARE(shown > 1, content.size() > 2);
+        QCOMPARE(find("toolTip")->property("truncated").toBool(), content.size() > 2);
         QTRY_VERIFY(areaOf("toolTip").bottom() <= areaOf("toolTipNote").top());
     }
 
@@ -247,7 +247,7 @@ private Q_SLOTS:
     void aToolTipIsClosed()
     {
         QFETCH(const QString, goesWith);
-        find("answer")->setProperty("words", "OK");
+        find("answer")->setProperty("content", "OK");
         QTRY_VERIFY(isInWindow("toolTip"));
         if (goesWith == "key")
             QTest::keyClick(m_window.get(), Qt::Key_Down);

@@ -395,8 +395,8 @@ private Q_SLOTS:
         QObject *notices = m_window->findChild<QObject *>("notices");
         constexpr int success = 1;
         constexpr int refusal = 3;
-        for (const auto &[words, kind] : {std::pair("saved", success), {"nothing is ticked", refusal}})
-            QMetaObject::invokeMethod(notices, "show", Q_ARG(QVariant, words), Q_ARG(QVariant, kind),
+        for (const auto &[message, kind] : {std::pair("saved", success), {"nothing is ticked", refusal}})
+            QMetaObject::invokeMethod(notices, "show", Q_ARG(QVariant, message), Q_ARG(QVariant, kind),
                                       Q_ARG(QVariant, 60'000));
         QTRY_COMPARE(findAll("toastText"), QStringList("nothing is ticked"));
         QCOMPARE(find("toastsWaiting")->property("text").toString(), "+1");

@@ -11,41 +11,41 @@ private Q_SLOTS:
     {
         // The QML, and the first reported fault; "": none.
         const auto row = dataTable<QByteArray, QString>({"content", "fault"});
-        const QByteArray words = "text: 'Words that take some room'";
+        const QByteArray text = "text: 'A text that takes some room'";
 
         row("label next to its field",
             "OVFormRow { width: 300; label: 'Name'; OVTextField { text: 'North gate' } }", "");
-        row("label that is elided has a tool tip", "OVLabel { width: 40; " + words + " }", "");
+        row("label that is elided has a tool tip", "OVLabel { width: 40; " + text + " }", "");
         row("label that is elided has none",
-            "OVLabel { objectName: 'poor'; width: 40; showsFullTextOnHover: false; " + words + " }",
+            "OVLabel { objectName: 'poor'; width: 40; showsFullTextOnHover: false; " + text + " }",
             "poor.*is elided");
         row("tool tip around the label",
-            "Item { OVLabel { width: 40; showsFullTextOnHover: false; " + words +
+            "Item { OVLabel { width: 40; showsFullTextOnHover: false; " + text +
                 " }\n"
                 "OVToolTip { shown: false; " +
-                words + " } }",
+                text + " } }",
             "");
-        row("tool tip with more words in the label",
-            "OVLabel { width: 40; showsFullTextOnHover: false; " + words +
+        row("tool tip with a longer text in the label",
+            "OVLabel { width: 40; showsFullTextOnHover: false; " + text +
                 "\n"
                 "OVToolTip { shown: false; text: 'And: ' + parent.text } }",
             "");
-        row("tool tip with other words",
-            "Item { objectName: 'poor'; OVLabel { width: 40; showsFullTextOnHover: false; " + words +
+        row("tool tip with another text",
+            "Item { objectName: 'poor'; OVLabel { width: 40; showsFullTextOnHover: false; " + text +
                 " }\n"
                 "OVToolTip { shown: false; text: 'other' } }",
             "poor.*is elided");
         row("paragraph truncated in its last line",
             "OVParagraph { objectName: 'poor'; width: 60; maximumLineCount: 1; elide: Text.ElideRight; " +
-                words + " }",
+                text + " }",
             "poor.*is elided");
 
         row("button beyond the edge", "OVButton { x: 380; objectName: 'poor'; text: 'Go on' }",
             "poor.*is truncated");
-        row("text beyond the edge", "OVParagraph { x: 380; objectName: 'poor'; " + words + " }",
+        row("text beyond the edge", "OVParagraph { x: 380; objectName: 'poor'; " + text + " }",
             "poor.*is truncated");
         row("text truncated by an enclosing item",
-            "Item { width: 60; height: 30; clip: true; OVParagraph { objectName: 'poor'; " + words + " } }",
+            "Item { width: 60; height: 30; clip: true; OVParagraph { objectName: 'poor'; " + text + " } }",
             "poor.*is truncated");
         row("list that is scrolled",
             "ListView { width: 200; height: 50; clip: true; model: 9; delegate: OVButton { text: 'Row' } }",
@@ -68,21 +68,21 @@ private Q_SLOTS:
             "OVButton { x: one.width - 4; text: 'Stop' }",
             "poor.*overlaps");
         row("overlapping texts",
-            "OVParagraph { objectName: 'poor'; " + words + " }\nOVParagraph { x: 30; text: 'Others' }",
+            "OVParagraph { objectName: 'poor'; " + text + " }\nOVParagraph { x: 30; text: 'Others' }",
             "poor.*overlaps");
         row("text that runs into a field",
-            "OVParagraph { objectName: 'poor'; y: 6; " + words + " }\nOVTextField { x: 60 }",
+            "OVParagraph { objectName: 'poor'; y: 6; " + text + " }\nOVTextField { x: 60 }",
             "poor.*overlaps");
-        row("lines under each other",
-            "Column { OVParagraph { " + words + " }\nOVParagraph { " + words + " } }", "");
+        row("lines under each other", "Column { OVParagraph { " + text + " }\nOVParagraph { " + text + " } }",
+            "");
         row("dialog over the page",
             "OVButton { x: 150; y: 60; text: 'Go on' }\n"
             "OVDialog { visible: true; width: 300; title: 'Question'; OVLabel { " +
-                words + " } }",
+                text + " } }",
             "");
         row("overlapping texts of a dialog",
-            "OVDialog { visible: true; width: 300; title: 'Question'; OVLabel { objectName: 'poor'; " +
-                words + " }\nOVLabel { x: 20; text: 'Others' } }",
+            "OVDialog { visible: true; width: 300; title: 'Question'; OVLabel { objectName: 'poor'; " + text +
+                " }\nOVLabel { x: 20; text: 'Others' } }",
             "poor.*overlaps");
 
         const QByteArray tip = "OVToolTip { shown: true; text: 'What it does' }";

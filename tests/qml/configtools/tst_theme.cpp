@@ -79,7 +79,7 @@ private Q_SLOTS:
     void textHasEnoughContrast_data()
     {
         const auto row =
-            dataTable<bool, QByteArray, QByteArray, QByteArray>({"isDark", "words", "grounds", "veil"});
+            dataTable<bool, QByteArray, QByteArray, QByteArray>({"isDark", "texts", "grounds", "veil"});
         const QByteArray panes = "surface background head foot hover pressed row rowAlternate rowConflict "
                                  "rowSelected accentSoft accentSofter";
         // What is fixed of the light theme has less contrast for some items: hints, and the signs of states.
@@ -103,11 +103,11 @@ private Q_SLOTS:
     void textHasEnoughContrast()
     {
         QFETCH(bool, isDark);
-        QFETCH(QByteArray, words);
+        QFETCH(QByteArray, texts);
         QFETCH(QByteArray, grounds);
         QFETCH(QByteArray, veil);
         constexpr qreal least = 4.5;
-        const QList<QByteArray> names = words.split(' ');
+        const QList<QByteArray> names = texts.split(' ');
         for (const QByteArray &name : names) {
             const QList<QByteArray> groundNames = grounds.split(' ');
             for (const QByteArray &groundName : groundNames) {

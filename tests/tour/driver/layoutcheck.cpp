@@ -40,18 +40,18 @@ QString className(const QQuickItem *item)
 /// The item with its text, and the nearest enclosing items with names.
 QString described(const QQuickItem *item)
 {
-    QString words = className(item);
+    QString description = className(item);
     const QString text = item->property("text").toString();
     if (!text.isEmpty())
-        words += u" \"%1\""_s.arg(text.left(60));
+        description += u" \"%1\""_s.arg(text.left(60));
     int names = 0;
     for (const QQuickItem *around = item; around && names < 2; around = around->parentItem()) {
         if (around->objectName().isEmpty())
             continue;
-        words += (around == item ? u" named %1"_s : u" in %1"_s).arg(around->objectName());
+        description += (around == item ? u" named %1"_s : u" in %1"_s).arg(around->objectName());
         ++names;
     }
-    return words;
+    return description;
 }
 
 bool isExempt(const QQuickItem *item)
@@ -90,11 +90,11 @@ QRectF areaOfCharacters(const QQuickItem *text)
 }
 
 /// `own`: the number of the item's tool tips that are disabled.
-bool hasToolTipWith(const QQuickItem *item, const QString &words, int own)
+bool hasToolTipWith(const QQuickItem *item, const QString &label, int own)
 {
     // A tool tip keeps line breaks. Only the start of a very long text is compared.
     constexpr qsizetype compared = 100;
-    const QString text = words.simplified().left(compared);
+    const QString text = label.simplified().left(compared);
     if (item->property("toolTip").toString().simplified().contains(text))
         return true;
     const QList<QQuickItem *> children = item->childItems();
@@ -107,12 +107,12 @@ bool hasToolTipWith(const QQuickItem *item, const QString &words, int own)
 
 bool hasCompleteToolTip(const QQuickItem *text)
 {
-    const QString words = text->property("text").toString();
+    const QString label = text->property("text").toString();
     constexpr int reach = 4; // number of enclosing items
     const QQuickItem *around = text->parentItem();
     for (int step = 0; step < reach && around; ++step, around = around->parentItem()) {
         const QVariant own = around->property("showsFullTextOnHover");
-        if (own.toBool() || hasToolTipWith(around, words, own.isValid() ? 1 : 0))
+        if (own.toBool() || hasToolTipWith(around, label, own.isValid() ? 1 : 0))
             return true;
     }
     return false;

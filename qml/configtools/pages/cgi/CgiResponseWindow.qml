@@ -82,14 +82,14 @@ OVDialog {
             required property string modelData
 
             width: ListView.view.width
-            height: words.height + Theme.half
+            height: responseText.height + Theme.half
             color: index === list.currentIndex && list.activeFocus ? Theme.colours.rowSelected : Theme.colours.clear
 
             Accessible.role: Accessible.ListItem
             Accessible.name: modelData
 
             Text {
-                id: words
+                id: responseText
                 width: line.width - Theme.pageMargin
                 color: line.modelData.startsWith("Error:") ? Theme.colours.bad : Theme.colours.text
                 font: Theme.figureFont

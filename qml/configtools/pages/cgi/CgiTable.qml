@@ -79,24 +79,24 @@ OVTable {
         id: responseCell
         OVTableCell {
             id: response
-            readonly property string words: value ?? ""
+            readonly property string content: value ?? ""
 
             OVLabel {
                 width: opener.x - Theme.half
                 height: parent.height
-                color: response.words.startsWith("Error:") ? Theme.colours.bad : Theme.colours.text
+                color: response.content.startsWith("Error:") ? Theme.colours.bad : Theme.colours.text
                 objectName: "cgiResponse" + response.rowIndex
                 showsFullTextOnHover: false
-                text: response.words.slice(0, 400).replace(/\s+/g, " ")
+                text: response.content.slice(0, 400).replace(/\s+/g, " ")
             }
             HoverHandler {
                 id: pointer
-                enabled: response.words !== ""
+                enabled: response.content !== ""
             }
             OVToolTip {
                 footnote: qsTr("\n右键点击可复制结果").trim()
                 shown: pointer.enabled && pointer.hovered && !opener.hovered
-                text: pointer.hovered ? root.startOf(response.words) : ""
+                text: pointer.hovered ? root.startOf(response.content) : ""
                 widest: Theme.responseTipWidth
             }
             OVIconButton {
@@ -106,7 +106,7 @@ OVTable {
                 anchors.verticalCenter: parent.verticalCenter
                 implicitWidth: Theme.unit * 3
                 implicitHeight: Theme.unit * 3
-                enabled: response.words !== ""
+                enabled: response.content !== ""
                 focusPolicy: response.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
                 iconName: "stretch"
                 iconSize: Theme.smallIconSize
@@ -117,7 +117,7 @@ OVTable {
             }
             TapHandler {
                 acceptedButtons: Qt.RightButton
-                enabled: response.words !== ""
+                enabled: response.content !== ""
                 gesturePolicy: TapHandler.ReleaseWithinBounds  // the row must not receive the click, as it has a menu
                 onTapped: root.responseCopyRequested(response.rowIndex)
             }

@@ -12,7 +12,7 @@ OVTableCell {
     readonly property bool bad: trouble === ChannelNameForm.Empty || trouble === ChannelNameForm.TooLong
         || trouble === ChannelNameForm.Refused || trouble === ChannelNameForm.Unanswered
         || trouble === ChannelNameForm.Upgrading
-    readonly property string words: {
+    readonly property string message: {
         switch (trouble) {
         case ChannelNameForm.Unknown:
             return qsTr("设备没有告知名称");
@@ -42,7 +42,7 @@ OVTableCell {
             color: root.bad ? Theme.colours.bad : Theme.colours.warn
             name: root.bad ? "error" : "alert"
             size: Theme.smallIconSize
-            visible: root.words !== "" && root.trouble !== ChannelNameForm.Unknown
+            visible: root.message !== "" && root.trouble !== ChannelNameForm.Unknown
         }
         OVLabel {
             width: Math.min(implicitWidth, root.width - Theme.smallIconSize - 3 * Theme.unit
@@ -51,7 +51,7 @@ OVTableCell {
             color: root.bad ? Theme.colours.bad
                 : root.trouble === ChannelNameForm.Unknown ? Theme.colours.faint : Theme.colours.warnText
             objectName: "nameTrouble" + root.rowIndex
-            text: root.words
+            text: root.message
             visible: text !== ""
         }
         OVLinkButton {

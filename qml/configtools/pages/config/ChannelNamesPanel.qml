@@ -175,10 +175,10 @@ Item {
                 color: root.form.failedCount > 0 ? Theme.colours.bad : Theme.colours.warn
                 name: root.form.failedCount > 0 ? "error" : "alert"
                 size: Theme.smallIconSize
-                visible: words.text !== ""
+                visible: stateLabel.text !== ""
             }
             OVLabel {
-                id: words
+                id: stateLabel
                 width: Math.min(implicitWidth, buttons.x - parent.x - parent.spacing - Theme.smallIconSize
                     - Theme.pageMargin)
                 height: parent.height

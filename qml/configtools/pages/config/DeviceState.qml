@@ -6,7 +6,7 @@ Item {
     id: root
 
     required property ConfigSession session
-    readonly property string words: {
+    readonly property string message: {
         if (session.device === "")
             return qsTr("未选择设备");
         if (session.busy)
@@ -62,7 +62,7 @@ Item {
                 color: root.session.device !== "" && !root.session.busy && !root.session.loggedIn
                     ? Theme.colours.bad : Theme.colours.sub
                 objectName: "configState"
-                text: root.words
+                text: root.message
             }
         }
     }

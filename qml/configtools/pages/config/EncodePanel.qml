@@ -141,10 +141,10 @@ Item {
                 color: root.errorText !== "" ? Theme.colours.bad : Theme.colours.warn
                 name: root.errorText !== "" ? "error" : "alert"
                 size: Theme.smallIconSize
-                visible: words.text !== ""
+                visible: stateLabel.text !== ""
             }
             OVLabel {
-                id: words
+                id: stateLabel
                 width: Math.min(implicitWidth, buttons.x - parent.x - parent.spacing - Theme.smallIconSize
                     - Theme.pageMargin)
                 height: parent.height

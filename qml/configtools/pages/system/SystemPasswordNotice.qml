@@ -33,14 +33,14 @@ Row {
 
     OVIcon {
         id: sign
-        y: Math.round((words.lineHeight - height) / 2)
+        y: Math.round((messageLabel.lineHeight - height) / 2)
         color: root.hurried ? Theme.colours.bad : Theme.colours.warn
         name: "alert"
         size: Theme.smallIconSize
         visible: root.hurried || !root.time.open
     }
     OVParagraph {
-        id: words
+        id: messageLabel
         width: root.width - (sign.visible ? sign.width + root.spacing : 0)
         color: root.hurried ? Theme.colours.bad : root.time.open ? Theme.colours.sub : Theme.colours.warnText
         objectName: "countdownText"

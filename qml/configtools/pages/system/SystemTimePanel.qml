@@ -8,7 +8,7 @@ Column {
     required property bool available
     required property string unavailableText  // why the ticked devices cannot be used; "" if they can
     required property string timeZone
-    property var clocks: []  // maps with "device" and "words" (its time), of the last devices read
+    property var clocks: []  // maps with "device" and "message" (its time), of the last devices read
     signal actionRequested(string command, string title, var data)
     signal refused(string message)
 
@@ -122,7 +122,7 @@ Column {
             checkable: false
             columns: [
                 {key: "device", title: qsTr("设备"), width: Theme.columnAddress, cell: figureCell},
-                {key: "words", title: qsTr("设备时间"), width: Theme.columnAddress, stretch: 1}
+                {key: "message", title: qsTr("设备时间"), width: Theme.columnAddress, stretch: 1}
             ]
             model: clockRows
             objectName: "clockTable"

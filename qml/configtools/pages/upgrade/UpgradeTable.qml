@@ -155,7 +155,7 @@ OVTable {
             readonly property string meaning: UpgradeTools.text(code)
             readonly property string statusText: row?.upgradetext ?? ""
             // While it runs, the phase is next to the bar; only further text is shown here.
-            readonly property string words: UpgradeTools.isRunning(code) ? (statusText === meaning ? "" : statusText)
+            readonly property string shownText: UpgradeTools.isRunning(code) ? (statusText === meaning ? "" : statusText)
                 : statusText !== "" ? statusText : meaning
 
             OVIcon {
@@ -182,7 +182,7 @@ OVTable {
                 color: !result.failed || result.skipped ? Theme.colours.text
                     : result.notDone ? Theme.colours.warnText : Theme.colours.bad
                 objectName: "upgradeResult" + result.rowIndex
-                text: result.words
+                text: result.shownText
             }
         }
     }
