@@ -18,35 +18,35 @@ constexpr int devices = 10000;
 constexpr int threads = 4;
 constexpr int runs = 9;
 
-std::vector<sdk::SearchAnswer> makeAnswers(int count)
+std::vector<sdk::SearchResponse> makeResponses(int count)
 {
-    std::vector<sdk::SearchAnswer> answers(count);
+    std::vector<sdk::SearchResponse> responses(count);
     for (int number = 0; number < count; ++number) {
-        sdk::SearchAnswer &answer = answers[number];
-        answer.size = sizeof(answer);
-        answer.device.ipVersion = 4;
-        answer.device.port = 37777;
-        answer.device.initialisationState = 2;
+        sdk::SearchResponse &response = responses[number];
+        response.size = sizeof(response);
+        response.device.ipVersion = 4;
+        response.device.port = 37777;
+        response.device.initialisationState = 2;
         const QByteArray text = QByteArray::number(number);
-        sdk::setBlockText(answer.device.mac, ("02:1a:c5:" + text).toStdString());
-        sdk::setBlockText(answer.device.address,
+        sdk::setBlockText(response.device.mac, ("02:1a:c5:" + text).toStdString());
+        sdk::setBlockText(response.device.address,
                           QStringLiteral("10.0.%1.%2").arg(number / 250).arg(number % 250 + 1).toStdString());
-        sdk::setBlockText(answer.device.deviceType, number % 3 ? "IPC" : "NVR");
-        sdk::setBlockText(answer.device.detailModel, "B-2230-IR");
-        sdk::setBlockText(answer.device.deviceName, ("机房 " + text).toStdString());
-        sdk::setBlockText(answer.device.softwareVersion, "2.840.1");
+        sdk::setBlockText(response.device.deviceType, number % 3 ? "IPC" : "NVR");
+        sdk::setBlockText(response.device.detailModel, "B-2230-IR");
+        sdk::setBlockText(response.device.deviceName, ("机房 " + text).toStdString());
+        sdk::setBlockText(response.device.softwareVersion, "2.840.1");
     }
-    return answers;
+    return responses;
 }
 
 /// Delivers the responses from several threads.
-void deliver(DeviceStore &store, const std::vector<sdk::SearchAnswer> &answers)
+void deliver(DeviceStore &store, const std::vector<sdk::SearchResponse> &responses)
 {
     std::vector<std::thread> library;
     for (int thread = 0; thread < threads; ++thread) {
         library.emplace_back([&, thread] {
-            for (std::size_t number = thread; number < answers.size(); number += threads)
-                store.addAnswer(answers[number]);
+            for (std::size_t number = thread; number < responses.size(); number += threads)
+                store.addResponse(responses[number]);
         });
     }
     for (std::thread &thread : library)
@@ -100,9 +100,9 @@ BenchmarkResult measureChanges(DeviceStore &store, const QString &by,
 QList<BenchmarkResult> measureDeviceLists()
 {
     const auto clock = std::make_shared<sdk::SystemClock>();
-    const std::vector<sdk::SearchAnswer> answers = makeAnswers(devices);
-    const std::vector<sdk::SearchAnswer> half(answers.begin(), answers.begin() + devices / 2);
-    const auto adding = [&](const std::vector<sdk::SearchAnswer> &some) {
+    const std::vector<sdk::SearchResponse> responses = makeResponses(devices);
+    const std::vector<sdk::SearchResponse> half(responses.begin(), responses.begin() + devices / 2);
+    const auto adding = [&](const std::vector<sdk::SearchResponse> &some) {
         return medianMilliseconds(runs, [&] {
             DeviceStore store(clock);
             deliver(store, some);
@@ -110,7 +110,7 @@ QList<BenchmarkResult> measureDeviceLists()
     };
     const double halfTime = adding(half);
     const BenchmarkResult rows = {.subject = QStringLiteral("10,000 responses from four threads to rows"),
-                                  .value = adding(answers),
+                                  .value = adding(responses),
                                   .unit = QStringLiteral("ms"),
                                   .budget = 150,
                                   .peer = halfTime,
@@ -118,7 +118,7 @@ QList<BenchmarkResult> measureDeviceLists()
                                   .peerName = QStringLiteral("half as many")};
 
     const auto store = std::make_shared<DeviceStore>(clock);
-    deliver(*store, answers);
+    deliver(*store, responses);
     sdk::SdkLibraries none;
     none.clock = clock;
     CDeviceFactory factory({{QStringLiteral("dh"), [&] {

@@ -45,7 +45,7 @@ QList<BenchmarkResult> measureDiscovery()
 {
     QList<double> rows;
     QList<double> behind;
-    QList<double> answers;
+    QList<double> responses;
     const QByteArrayList lines =
         inSite(devices, {QStringLiteral(CONFIGTOOLS_DISCOVERY_TIME), QString::number(devices)}).split('\n');
     for (const QByteArray &line : lines) {
@@ -53,8 +53,8 @@ QList<BenchmarkResult> measureDiscovery()
         if (times.size() != 2 || times.at(0).toDouble() < 0 || times.at(1).toDouble() < 0)
             continue;
         rows.append(times.at(0).toDouble());
-        answers.append(times.at(1).toDouble());
-        behind.append(rows.constLast() - answers.constLast());
+        responses.append(times.at(1).toDouble());
+        behind.append(rows.constLast() - responses.constLast());
     }
     if (rows.isEmpty()) {
         qWarning("the devices of the site were not all found");
@@ -64,7 +64,7 @@ QList<BenchmarkResult> measureDiscovery()
              .value = median(rows),
              .unit = u"ms"_s,
              .budget = 5000,
-             .peer = median(answers),
+             .peer = median(responses),
              .largestRatio = {},
              .peerName = u"responses to a probe"_s},
             {.subject = u"rows after the last response"_s,

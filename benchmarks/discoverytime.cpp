@@ -43,7 +43,7 @@ qint64 timeToRows(qsizetype devices)
 }
 
 /// The time until all devices have responded to a probe; -1 after a timeout. The responses are not processed.
-qint64 timeToAnswers(qsizetype devices)
+qint64 timeToResponses(qsizetype devices)
 {
     sdk::onvif::DiscoverySockets sockets;
     sockets.open();
@@ -77,8 +77,8 @@ int main(int argc, char *argv[])
     if (!first.wait(patience)) // of the search at the start of the window
         return 1;
     for (int run = 0; run < runs; ++run) {
-        const qint64 answers = timeToAnswers(devices);
-        std::printf("%lld %lld\n", timeToRows(devices), answers);
+        const qint64 responses = timeToResponses(devices);
+        std::printf("%lld %lld\n", timeToRows(devices), responses);
     }
     return 0;
 }

@@ -31,7 +31,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr int threads = 4;
-constexpr int answersPerSecond = 100'000;
+constexpr int responsesPerSecond = 100'000;
 constexpr auto pause = 10ms;
 
 /// Sends responses with random MACs to a search until it is stopped.
@@ -55,24 +55,24 @@ public:
         return true;
     }
 
-    std::atomic<int> answers = 0;
+    std::atomic<int> responses = 0;
 
 private:
     void flood(const sdk::SearchParameter &parameter, unsigned seed, const std::stop_token &stop)
     {
-        constexpr int share = answersPerSecond / threads / (1s / pause);
+        constexpr int share = responsesPerSecond / threads / (1s / pause);
         std::mt19937 random(seed);
-        sdk::SearchAnswer answer{};
-        answer.size = sizeof(answer);
-        answer.device.ipVersion = 4;
-        sdk::setBlockText(answer.device.address, "192.168.1.108");
+        sdk::SearchResponse response{};
+        response.size = sizeof(response);
+        response.device.ipVersion = 4;
+        sdk::setBlockText(response.device.address, "192.168.1.108");
         auto next = std::chrono::steady_clock::now();
         while (!stop.stop_requested()) {
             for (int number = 0; number < share; ++number) {
-                sdk::setBlockText(answer.device.mac, std::to_string(random()));
-                parameter.handler(1, &answer, parameter.user);
+                sdk::setBlockText(response.device.mac, std::to_string(random()));
+                parameter.handler(1, &response, parameter.user);
             }
-            answers += share;
+            responses += share;
             std::this_thread::sleep_until(next += pause);
         }
     }
@@ -118,7 +118,7 @@ QList<BenchmarkResult> measureFlood()
     CLocalConfig::deleteInstance();
     CGIConfigManage::deleteInstance();
     CDeviceFactory::deleteInstance();
-    const QString subject = QStringLiteral(" while %1 new devices respond").arg(net->answers);
+    const QString subject = QStringLiteral(" while %1 new devices respond").arg(net->responses);
     return {{.subject = QStringLiteral("longest iteration of the event loop") + subject,
              .value = static_cast<double>(iterations.longest()),
              .unit = QStringLiteral("ms"),

@@ -1,8 +1,8 @@
 #include "cgi/cgibatches.h"
 
 #include "cgi/cgistep.h"
-#include "cgi/internal/answerpaths.h"
-#include "cgi/internal/longanswers.h"
+#include "cgi/internal/longresponses.h"
+#include "cgi/internal/responsepaths.h"
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
 #include "device/store/devicerow.h"
@@ -30,11 +30,11 @@ void nameByAddress(QList<BatchDevice> &devices)
 CgiBatches::CgiBatches(CDeviceFactory &factory, Batches &batches, CgiSurroundings surroundings,
                        QObject *parent)
     : QObject(parent), m_factory(factory), m_batches(batches), m_surroundings(std::move(surroundings)),
-      m_answers(std::make_shared<LongAnswers>())
+      m_responses(std::make_shared<LongResponses>())
 {
     m_surroundings.checkLogin = m_factory.backEnd(dhFamily)->loginCheck();
     m_surroundings.watch = {};
-    m_surroundings.ownPath = [paths = std::make_shared<AnswerPaths>()](const QString &path) {
+    m_surroundings.ownPath = [paths = std::make_shared<ResponsePaths>()](const QString &path) {
         return paths->own(path);
     };
     m_workbooks = new CgiWorkbooks(m_factory, m_batches, m_surroundings, this);
@@ -62,7 +62,7 @@ Batch *CgiBatches::send(const QString &title, const QStringList &identities, con
                                        device.identity, device.ipport);
             changed.append(device.identity);
         }
-        Q_EMIT answered(changed);
+        Q_EMIT responded(changed);
     };
     Batch *batch = m_batches.start(std::move(plan));
     if (!batch)
@@ -83,8 +83,8 @@ DeviceStep CgiBatches::deviceStep(const BatchDevice &device, const QString &comm
                     .user = account.value(QStringLiteral("account")).toString(),
                     .password = account.value(QStringLiteral("password")).toString(),
                     .ipport = device.ipport},
-                   [answers = m_answers, identity = device.identity](const QString &answer) {
-                       answers->keep(identity, answer);
+                   [responses = m_responses, identity = device.identity](const QString &response) {
+                       responses->keep(identity, response);
                    });
 }
 
@@ -106,9 +106,9 @@ QString CgiBatches::addressOf(const QString &ipport, const QString &command)
     return QStringLiteral("%1://%2:%3").arg(scheme, ip).arg(port != 0 ? port : usualPort) + command;
 }
 
-QString CgiBatches::answerOf(const QString &identity, const QString &result) const
+QString CgiBatches::responseOf(const QString &identity, const QString &result) const
 {
-    return m_answers->complete(identity, result);
+    return m_responses->complete(identity, result);
 }
 
 QStringList CgiBatches::failuresOf(Batch *batch) const

@@ -2,7 +2,7 @@
 
 #include "cgi/cgiworkbooks.h"
 
-class LongAnswers;
+class LongResponses;
 
 /// Batches of commands to devices over HTTP, for QML: one command to several listed devices, each with the
 /// account of the device. The responses are written to the rows. workbooks() has the commands of workbooks.
@@ -26,7 +26,7 @@ public:
     Q_INVOKABLE Batch *send(const QString &title, const QStringList &identities, const QString &command);
 
     /// The complete response whose start is the row's "result", if it is kept; otherwise `result`.
-    Q_INVOKABLE [[nodiscard]] QString answerOf(const QString &identity, const QString &result) const;
+    Q_INVOKABLE [[nodiscard]] QString responseOf(const QString &identity, const QString &result) const;
 
     /// The failures of a batch of send(): a line with "address:port", two spaces and the result for each
     /// device that has not succeeded, grouped by result. Empty without a batch.
@@ -34,7 +34,7 @@ public:
 
 Q_SIGNALS:
     /// Emitted when rows have new results, also in a retry of a batch.
-    void answered(const QStringList &identities);
+    void responded(const QStringList &identities);
 
 private:
     [[nodiscard]] DeviceStep deviceStep(const BatchDevice &device, const QString &command);
@@ -42,7 +42,7 @@ private:
 
     CDeviceFactory &m_factory;
     Batches &m_batches;
-    CgiSurroundings m_surroundings;               ///< for any thread
-    const std::shared_ptr<LongAnswers> m_answers; ///< by identity
-    CgiWorkbooks *m_workbooks = nullptr;          ///< owned
+    CgiSurroundings m_surroundings;                   ///< for any thread
+    const std::shared_ptr<LongResponses> m_responses; ///< by identity
+    CgiWorkbooks *m_workbooks = nullptr;              ///< owned
 };

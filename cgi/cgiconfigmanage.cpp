@@ -1,9 +1,9 @@
 #include "cgi/cgiconfigmanage.h"
 
-#include "cgi/answerkind.h"
 #include "cgi/commandworkbook.h"
 #include "cgi/curltransport.h"
 #include "cgi/internal/workbookresults.h"
+#include "cgi/responsekind.h"
 #include "device/registry/devicefactory.h"
 #include "files/filereplacement.h"
 
@@ -200,7 +200,7 @@ QStringList CGIConfigManage::linesOf(const QString &text) const
 QVariantMap CGIConfigManage::saveText(const QString &folder, const QString &text) const
 {
     const QString ending = QStringLiteral(".txt");
-    QString path = answerFilePath(folder, m_surroundings.localTime(), ending);
+    QString path = responseFilePath(folder, m_surroundings.localTime(), ending);
     const QString first = path.chopped(ending.size());
     for (int number = 2; QFileInfo::exists(path); ++number)
         path = first + QStringLiteral("_%1").arg(number) + ending;

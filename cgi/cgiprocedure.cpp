@@ -1,8 +1,8 @@
 #include "cgi/cgiprocedure.h"
 
-#include "cgi/answerkind.h"
 #include "cgi/internal/partialfile.h"
 #include "cgi/logging.h"
+#include "cgi/responsekind.h"
 #include "files/filereplacement.h"
 
 #include <QSaveFile>
@@ -136,7 +136,7 @@ QString CgiProcedure::run(const QString &url, const QString &user, const QString
     return exchange(url, user, password).text;
 }
 
-CgiAnswer CgiProcedure::exchange(const QString &url, const QString &user, const QString &password) const
+CgiResponse CgiProcedure::exchange(const QString &url, const QString &user, const QString &password) const
 {
     const CgiRequest request(url, user, password);
     if (!request.refusal().isEmpty())
@@ -157,7 +157,7 @@ CgiAnswer CgiProcedure::exchange(const QString &url, const QString &user, const 
     }
     if (!received.failure.isEmpty())
         return {.text = failedResult + received.failure,
-                .isUnanswered = received.isIncomplete || isIncomplete(first),
+                .hasNoResponse = received.isIncomplete || isIncomplete(first),
                 .certificateRefusal = first.certificateRefusal};
     if (first.status != accepted)
         return {.text = failedResult + tr("服务器连接失败") +
@@ -201,17 +201,17 @@ HttpOutcome CgiProcedure::perform(PreparedHttpRequest &prepared, const HttpLimit
 CgiProcedure::Received CgiProcedure::receive(PreparedHttpRequest &prepared, const HttpOutcome &first) const
 {
     const QByteArray headers = prepared.headerText();
-    const AnswerKind kind = answerKind(headers);
+    const ResponseKind kind = responseKind(headers);
     QString path =
-        answerFilePath(m_surroundings.folder, m_surroundings.localTime(), answerFileEnding(headers));
-    if (kind != AnswerKind::Text && m_surroundings.ownPath)
+        responseFilePath(m_surroundings.folder, m_surroundings.localTime(), responseFileEnding(headers));
+    if (kind != ResponseKind::Text && m_surroundings.ownPath)
         path = m_surroundings.ownPath(path);
     switch (kind) {
-    case AnswerKind::Text:
+    case ResponseKind::Text:
         break;
-    case AnswerKind::Picture:
+    case ResponseKind::Picture:
         return receiveImage(prepared, path, first);
-    case AnswerKind::Recording:
+    case ResponseKind::Recording:
         return receiveRecording(prepared, path, first);
     }
     return receiveText(prepared);
@@ -229,7 +229,7 @@ CgiProcedure::Received CgiProcedure::receiveText(PreparedHttpRequest &prepared) 
     });
     if (isTooLong)
         return {.text = {}, .failure = tr("应答内容过大。")};
-    return {.text = answerText(prepared.headerText(), body),
+    return {.text = responseText(prepared.headerText(), body),
             .failure = secondFailureOf(outcome),
             .isIncomplete = isIncomplete(outcome)};
 }

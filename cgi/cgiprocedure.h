@@ -43,10 +43,10 @@ struct CgiLimits
 inline const QString failedResult = QStringLiteral("Error:");
 
 /// The result of a command.
-struct CgiAnswer
+struct CgiResponse
 {
     QString text;                ///< see CgiProcedure::run()
-    bool isUnanswered = false;   ///< no complete response: another attempt may succeed
+    bool hasNoResponse = false;  ///< no complete response: another attempt may succeed
     bool isLoginRefused = false; ///< the web service refuses the account or its password (status 401)
 
     /// The verdict on the device's certificate, if it prevented a request over HTTPS.
@@ -70,7 +70,8 @@ public:
                               const QString &ipport) const;
 
     /// The same without the check of the login.
-    [[nodiscard]] CgiAnswer exchange(const QString &url, const QString &user, const QString &password) const;
+    [[nodiscard]] CgiResponse exchange(const QString &url, const QString &user,
+                                       const QString &password) const;
 
     /// The reason why a login with this result prevents the command, in the user's language; empty if it does
     /// not.

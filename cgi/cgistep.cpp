@@ -1,6 +1,6 @@
 #include "cgi/cgistep.h"
 
-#include "cgi/internal/longanswers.h"
+#include "cgi/internal/longresponses.h"
 
 #include <QCoreApplication>
 
@@ -14,7 +14,7 @@ int certificateResult(sdk::CertificateVerdict verdict)
 
 } // namespace
 
-DeviceStep cgiStep(const CgiSurroundings &surroundings, const CgiCommand &command, const AnswerSink &sink)
+DeviceStep cgiStep(const CgiSurroundings &surroundings, const CgiCommand &command, const ResponseSink &sink)
 {
     return [surroundings, command, sink](const StepControl &control) {
         const int login = surroundings.checkLogin(command.ipport, command.user, command.password);
@@ -26,22 +26,22 @@ DeviceStep cgiStep(const CgiSurroundings &surroundings, const CgiCommand &comman
         watched.watch = [&control] {
             return !control.shouldEnd();
         };
-        const CgiAnswer answer =
+        const CgiResponse response =
             CgiProcedure(watched, {}).exchange(command.url, command.user, command.password);
         if (sink)
-            sink(answer.text);
-        const QString beginning = answer.text.left(LongAnswers::longestBeginning);
-        if (answer
+            sink(response.text);
+        const QString beginning = response.text.left(LongResponses::longestBeginning);
+        if (response
                 .isLoginRefused) // further commands of the device would count towards the lock of the account
             return StepOutcome{.result = resultCode(LoginResult::WrongPassword), .text = beginning};
-        if (answer.certificateRefusal)
-            return StepOutcome{.result = certificateResult(*answer.certificateRefusal),
+        if (response.certificateRefusal)
+            return StepOutcome{.result = certificateResult(*response.certificateRefusal),
                                .text = {},
-                               .isUnanswered = answer.isUnanswered};
-        if (answer.text.startsWith(failedResult))
+                               .hasNoResponse = response.hasNoResponse};
+        if (response.text.startsWith(failedResult))
             return StepOutcome{
-                .result = commandFailed, .text = beginning, .isUnanswered = answer.isUnanswered};
-        return StepOutcome{.result = resultCode(LoginResult::Success), .text = {}, .answer = beginning};
+                .result = commandFailed, .text = beginning, .hasNoResponse = response.hasNoResponse};
+        return StepOutcome{.result = resultCode(LoginResult::Success), .text = {}, .response = beginning};
     };
 }
 
@@ -69,7 +69,7 @@ QString cgiResultText(const StepOutcome &outcome)
     if (isNotDone(outcome))
         return QCoreApplication::translate("CgiBatches", "未执行");
     if (outcome.result == resultCode(LoginResult::Success))
-        return outcome.answer;
+        return outcome.response;
     if (!outcome.text.isEmpty())
         return outcome.text;
     const QString refusal = CgiProcedure::loginRefusal(outcome.result);

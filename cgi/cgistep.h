@@ -19,15 +19,15 @@ inline constexpr int commandFailed = 998;
 
 /// Receives the complete response, or "Error:" and the reason, on the step's thread, before the step ends.
 /// Not called if the command is not sent.
-using AnswerSink = std::function<void(const QString &answer)>;
+using ResponseSink = std::function<void(const QString &response)>;
 
 /// The outcome has the result of a login or a certificate that prevents the command, without a text. If the
 /// web service refuses the account, the result is WrongPassword, with a text. Otherwise it is Success or
-/// commandFailed. The answer on success, or the text on failure, is the start (up to 4,000 characters) of the
-/// result of CgiProcedure::exchange(). A stop ends the transfer immediately; before the command, the device
-/// is not done. `surroundings` is copied; its watch is not used.
+/// commandFailed. The response on success, or the text on failure, is the start (up to 4,000 characters) of
+/// the result of CgiProcedure::exchange(). A stop ends the transfer immediately; before the command, the
+/// device is not done. `surroundings` is copied; its watch is not used.
 [[nodiscard]] DeviceStep cgiStep(const CgiSurroundings &surroundings, const CgiCommand &command,
-                                 const AnswerSink &sink = {});
+                                 const ResponseSink &sink = {});
 
 /// The step of a command that cannot be sent: no request is made. Its text is "Error:" and `reason`, which is
 /// in the user's language.

@@ -1,7 +1,7 @@
 #include "cgi/cgiworkbooks.h"
 
 #include "cgi/cgistep.h"
-#include "cgi/internal/longanswers.h"
+#include "cgi/internal/longresponses.h"
 #include "cgi/internal/workbookresults.h"
 #include "cgi/logging.h"
 #include "device/registry/devicefactory.h"
@@ -48,18 +48,18 @@ public:
         return commands()[m_indices.value(line)];
     }
 
-    [[nodiscard]] AnswerSink sinkOf(const QString &line) const
+    [[nodiscard]] ResponseSink sinkOf(const QString &line) const
     {
-        return [answers = m_answers, line](const QString &answer) {
-            answers->keep(line,
-                          answer.left(CommandWorkbook::longestResult + 1)); // shows that it is truncated
+        return [responses = m_responses, line](const QString &response) {
+            responses->keep(line,
+                            response.left(CommandWorkbook::longestResult + 1)); // shows that it is truncated
         };
     }
 
     void take(const QString &line, const QString &beginning)
     {
-        m_results->take(command(line), m_answers->complete(line, beginning));
-        m_answers->remove(line);
+        m_results->take(command(line), m_responses->complete(line, beginning));
+        m_responses->remove(line);
     }
 
     [[nodiscard]] QString finish() { return m_results->finish(); }
@@ -69,7 +69,7 @@ private:
     QDateTime m_changed; ///< time of the file's last change
     std::optional<WorkbookResults> m_results;
     QHash<QString, std::size_t> m_indices; ///< indices of commands, by the names of their lines
-    const std::shared_ptr<LongAnswers> m_answers = std::make_shared<LongAnswers>(); ///< not yet written
+    const std::shared_ptr<LongResponses> m_responses = std::make_shared<LongResponses>(); ///< not yet written
 };
 
 CgiWorkbooks::CgiWorkbooks(CDeviceFactory &factory, Batches &batches, CgiSurroundings surroundings,

@@ -19,7 +19,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
             qFatal("the service of a device has another address than its sender");
         if (device.service.port < 1 || device.service.port > 65535)
             qFatal("the port is invalid");
-        static_cast<void>(sdk::onvif::searchAnswerOf(device));
+        static_cast<void>(sdk::onvif::searchResponseOf(device));
     }
     return 0;
 }

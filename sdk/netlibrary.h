@@ -86,14 +86,14 @@ public:
     /// or no further response is expected. Responses are passed to `handler` on threads of the library during
     /// the call, never after it. Returns false when the request is malformed (size, count) or could not be
     /// sent.
-    virtual bool NetSearchDevicesByIPs(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
+    virtual bool NetSearchDevicesByIPs(const SearchByAddressesRequest &request, SearchResponseHandler handler,
                                        void *user, const char *localAddress,
                                        std::chrono::milliseconds wait) = 0;
 
     /// The same with the second kind of search. A library with one kind of search returns immediately,
     /// without responses.
-    virtual bool NetSearchDevicesByIPsEx(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
-                                         void *user, const char *localAddress,
+    virtual bool NetSearchDevicesByIPsEx(const SearchByAddressesRequest &request,
+                                         SearchResponseHandler handler, void *user, const char *localAddress,
                                          std::chrono::milliseconds wait) = 0;
 
     /// Stops one local search. Its handler does not run after the return. Must not be called from a handler.
@@ -103,7 +103,7 @@ public:
     /// Sends a search to the one address of `request` (its count is 1) and blocks until a response has
     /// arrived, `wait` has passed or NetCleanup is called. Responses are passed to `handler` on a thread of
     /// the library during the call, never after it.
-    virtual void NetSearchDeviceByIp(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
+    virtual void NetSearchDeviceByIp(const SearchByAddressesRequest &request, SearchResponseHandler handler,
                                      void *user, std::chrono::milliseconds wait) = 0;
 
     /// Fills `report` with the counters of the searches. They are reset by NetInit, and by a local search

@@ -55,27 +55,27 @@ enum class InitialisationBits : std::uint8_t
 }
 
 /// One response of one device.
-struct SearchAnswer
+struct SearchResponse
 {
-    std::uint32_t size;                ///< sizeof(SearchAnswer)
+    std::uint32_t size;                ///< sizeof(SearchResponse)
     std::uint32_t reserved;            ///< 0
     std::array<char, 64> localAddress; ///< address of the host that received the response
     SearchDeviceInformation device;
 };
-static_assert(sizeof(SearchAnswer) == 3304);
-static_assert(offsetof(SearchAnswer, device) == 72);
+static_assert(sizeof(SearchResponse) == 3304);
+static_assert(offsetof(SearchResponse, device) == 72);
 
-/// Receives responses on threads of the network library; several calls may run at the same time. `answer` is
-/// valid during the call only. `searchHandle` is 0 for responses to NetSearchDevicesByIPs,
+/// Receives responses on threads of the network library; several calls may run at the same time. `response`
+/// is valid during the call only. `searchHandle` is 0 for responses to NetSearchDevicesByIPs,
 /// NetSearchDevicesByIPsEx and NetSearchDeviceByIp.
-using SearchAnswerHandler = void (*)(std::int64_t searchHandle, const SearchAnswer *answer, void *user);
+using SearchResponseHandler = void (*)(std::int64_t searchHandle, const SearchResponse *response, void *user);
 
 /// Given to NetStartSearchDevices.
 struct SearchParameter
 {
     std::uint32_t size; ///< sizeof(SearchParameter)
     std::uint32_t reserved;
-    SearchAnswerHandler handler;
+    SearchResponseHandler handler;
     void *user;
 };
 static_assert(sizeof(SearchParameter) == 24);
@@ -85,7 +85,7 @@ struct SearchParameterEx
 {
     std::uint32_t size; ///< sizeof(SearchParameterEx)
     std::uint32_t reserved;
-    SearchAnswerHandler handler;
+    SearchResponseHandler handler;
     void *user;
     std::array<char, 64> localAddress; ///< source address of the search, empty for every address of the host
 };

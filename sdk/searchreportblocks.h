@@ -29,7 +29,7 @@ enum class SearchObstacle : std::uint32_t
     NoAddress,         ///< neither an IPv4 address nor a link-local IPv6 address
     NoMulticast,       ///< the interface cannot send multicast
     SendFailed,        ///< the system returned an error on sending; see `sendError`
-    NoAnswer,          ///< requests were sent and no response was received: filtered, or no devices
+    NoResponse,        ///< requests were sent and no response was received: filtered, or no devices
 };
 
 /// One address of an interface; an interface without one has one entry with an empty address.
@@ -54,12 +54,12 @@ inline constexpr std::size_t maximumReportedInterfaces = 64;
 /// Filled by NetGetSearchReport.
 struct SearchReport
 {
-    std::uint32_t size;              ///< sizeof(SearchReport), set by the caller
-    std::uint32_t count;             ///< entries of `interfaces` that are filled
-    std::uint32_t addressesAsked;    ///< addresses searched by NetSearchDevicesByIPs and similar operations
-    std::uint32_t addressesAnswered; ///< of them, with a response
-    std::uint32_t addressesNoRoute;  ///< of them, without a route from the host
-    std::uint32_t foreignDevices;    ///< devices found whose address is outside every interface's network
+    std::uint32_t size;                ///< sizeof(SearchReport), set by the caller
+    std::uint32_t count;               ///< entries of `interfaces` that are filled
+    std::uint32_t addressesAsked;      ///< addresses searched by NetSearchDevicesByIPs and similar operations
+    std::uint32_t addressesResponding; ///< of them, with a response
+    std::uint32_t addressesNoRoute;    ///< of them, without a route from the host
+    std::uint32_t foreignDevices;      ///< devices found whose address is outside every interface's network
     std::array<std::uint8_t, 40> reserved;
     std::array<SearchInterfaceReport, maximumReportedInterfaces> interfaces;
 };

@@ -118,7 +118,7 @@ std::optional<UsedRows> ApplicationSheetEngine::usedRows()
         return std::nullopt;
     m_exception.clear();
     const UsedRows range{used->property("Row").toInt(), rows->property("Count").toInt()};
-    if (!answered("UsedRange"))
+    if (!responded("UsedRange"))
         return std::nullopt;
     return range;
 }
@@ -130,7 +130,7 @@ std::optional<QString> ApplicationSheetEngine::cellText(CellPosition position)
         return std::nullopt;
     m_exception.clear();
     const QString text = valueText(cell->property("Value"));
-    return answered("Value") ? std::optional(text) : std::nullopt;
+    return responded("Value") ? std::optional(text) : std::nullopt;
 }
 
 bool ApplicationSheetEngine::setCellText(CellPosition position, const QString &text)
@@ -196,7 +196,7 @@ ApplicationSheetEngine::Object ApplicationSheetEngine::object(QAxObject *owner, 
     Object object(owner->querySubObject(name, first, second));
     if (object && m_exception.isEmpty())
         return object;
-    if (answered(name))
+    if (responded(name))
         fail(QStringLiteral("the spreadsheet application has no %1").arg(QString::fromLatin1(name)));
     return nullptr;
 }
@@ -211,18 +211,18 @@ bool ApplicationSheetEngine::set(QAxObject *object, const char *property, const 
 {
     m_exception.clear();
     object->setProperty(property, value);
-    return answered(property);
+    return responded(property);
 }
 
 bool ApplicationSheetEngine::call(QAxObject *object, const char *function, const QVariant &argument)
 {
     m_exception.clear();
     object->dynamicCall(function, argument);
-    return answered(function);
+    return responded(function);
 }
 
 /// False when the application has raised an exception since it was last cleared.
-bool ApplicationSheetEngine::answered(const char *what)
+bool ApplicationSheetEngine::responded(const char *what)
 {
     return m_exception.isEmpty() || fail(QStringLiteral("the spreadsheet application refuses %1: %2")
                                              .arg(QString::fromLatin1(what), m_exception));

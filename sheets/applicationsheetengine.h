@@ -49,7 +49,7 @@ private:
     Object rangeObject(const CellRange &range);
     bool set(QAxObject *object, const char *property, const QVariant &value);
     bool call(QAxObject *object, const char *function, const QVariant &argument = {});
-    bool answered(const char *what);
+    bool responded(const char *what);
 
     // Objects of the application, each created by the one before: they are released in reverse order.
     Object m_application;

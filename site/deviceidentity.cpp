@@ -1,8 +1,8 @@
 #include "site/deviceidentity.h"
 
 #include "sdk/blocktext.h"
-#include "sdk/demo/device/deviceanswers.h"
-#include "sdk/demo/device/searchanswers.h"
+#include "sdk/demo/device/deviceresponses.h"
+#include "sdk/demo/device/searchresponses.h"
 
 #include <QUrl>
 #include <QUuid>
@@ -75,13 +75,13 @@ DiscoveryIdentity discoveryIdentity(const sdk::demo::SceneDevice &device, const 
 std::string reportedName(const sdk::demo::SceneDevice &device)
 {
     constexpr int anyVersion = 4;
-    return std::string(sdk::blockText(searchAnswer(device, anyVersion, {}).device.deviceName));
+    return std::string(sdk::blockText(searchResponse(device, anyVersion, {}).device.deviceName));
 }
 
 std::string reportedModel(const sdk::demo::SceneDevice &device)
 {
     constexpr int anyVersion = 4;
-    return std::string(sdk::blockText(searchAnswer(device, anyVersion, {}).device.detailModel));
+    return std::string(sdk::blockText(searchResponse(device, anyVersion, {}).device.detailModel));
 }
 
 } // namespace site

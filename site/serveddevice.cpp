@@ -1,6 +1,6 @@
 #include "site/serveddevice.h"
 
-#include "sdk/demo/device/deviceanswers.h"
+#include "sdk/demo/device/deviceresponses.h"
 #include "site/deviceidentity.h"
 #include "site/http/httpserver.h"
 #include "site/logging.h"

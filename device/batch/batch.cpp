@@ -478,7 +478,7 @@ void Batch::takeUpdates()
         Entry &entry = m_entries[finished.index];
         outcomes.append({.device = entry.device, .outcome = finished.outcome});
         entry.outcome = finished.outcome;
-        entry.outcome.answer.clear();
+        entry.outcome.response.clear();
         entry.time = finished.time;
         m_running.removeOne(finished.index);
         ++m_done;

@@ -306,8 +306,8 @@ Batch *Batches::startAddresses(BatchPlan plan, const QHash<QString, AddressSetti
             }
             StepOutcome outcome = step(control);
             // After Unconfirmed, a repeated request succeeds if the device can be reached at its new address.
-            outcome.isUnanswered =
-                outcome.isUnanswered || outcome.result == resultCode(LoginResult::Unconfirmed);
+            outcome.hasNoResponse =
+                outcome.hasNoResponse || outcome.result == resultCode(LoginResult::Unconfirmed);
             if (outcome.result == BatchReport::Succeeded) {
                 occupied->leave(device.identity);
                 outcome.text = target.dhcp ? QStringLiteral("DHCP") : target.address; // for the results file

@@ -86,6 +86,6 @@ bool maySucceedLater(const StepOutcome &outcome)
     case upgradeUnconfirmed:
         return true;
     default:
-        return outcome.isUnanswered;
+        return outcome.hasNoResponse;
     }
 }

@@ -124,7 +124,7 @@ void ChannelNameForm::takeWritten(int row, int result, const QVariant &name)
     } else if (result == resultCode(LoginResult::Upgrading)) {
         written.lastWrite = Upgrading;
     } else {
-        written.lastWrite = isDeviceAway(static_cast<std::uint32_t>(result)) ? Unanswered : Refused;
+        written.lastWrite = isDeviceAway(static_cast<std::uint32_t>(result)) ? NoResponse : Refused;
     }
     const Trouble trouble = written.lastWrite;
     notifyRowChanged(row);
@@ -132,7 +132,7 @@ void ChannelNameForm::takeWritten(int row, int result, const QVariant &name)
         return;
     m_isWriting = false;
     ++m_finishedRows;
-    if (m_isStopping || trouble == Unanswered || trouble == Upgrading ||
+    if (m_isStopping || trouble == NoResponse || trouble == Upgrading ||
         m_finishedRows == m_rowsToSave.size())
         finishSaving();
     else

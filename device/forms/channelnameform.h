@@ -28,7 +28,7 @@ public:
         Empty,      ///< the entered name is empty or has spaces only
         TooLong,    ///< the entered name has more bytes than the device can store
         Refused,    ///< the device refused the last write
-        Unanswered, ///< the device did not respond to the last write
+        NoResponse, ///< the device did not respond to the last write
         Upgrading,  ///< nothing was written because the device is being upgraded
         Different,  ///< the device accepted the name and reports a different one
     };
@@ -114,7 +114,7 @@ private:
     [[nodiscard]] static bool isFaulty(Trouble trouble) { return trouble == Empty || trouble == TooLong; }
     [[nodiscard]] static bool hasFailed(Trouble trouble)
     {
-        return trouble == Refused || trouble == Unanswered || trouble == Upgrading;
+        return trouble == Refused || trouble == NoResponse || trouble == Upgrading;
     }
     [[nodiscard]] Trouble troubleOf(const Row &row) const;
     void change(int row, const QString &name);

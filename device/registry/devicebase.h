@@ -386,7 +386,7 @@ Q_SIGNALS:
     /// `result` is a LoginResult. `channels` are maps with the keys of ChannelKey; empty when they were not
     /// read.
     void signalCDeviceSessionOpened(const QString &ipport, int result, const QVariantList &channels);
-    void signalCDeviceSessionChecked(bool answers); ///< also false without a session
+    void signalCDeviceSessionChecked(bool responses); ///< also false without a session
     /// A finished search found more devices than it lists: `rows` are listed, `leftOut` responses are not.
     void signalCDeviceSearchLimited(int rows, int leftOut);
     void signalCDeviceSearchProgress(int percent); ///< of the running search, 0 to 100

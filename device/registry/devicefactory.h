@@ -308,7 +308,7 @@ Q_SIGNALS:
     void signalTunnelBroken(const QString &deviceId, int localPort);
     void signalImportProgress(int done, int total);
     void signalSessionOpened(const QString &ipport, int result, const QVariantList &channels);
-    void signalSessionChecked(bool answers);
+    void signalSessionChecked(bool responses);
     void signalSearchLimited(int rows, int leftOut);
     void signalSearchProgress(int percent);
 

@@ -18,9 +18,9 @@
 struct StepOutcome
 {
     int result = resultCode(LoginResult::Success); ///< a LoginResult, or another code of the operation
-    QString text;              ///< details in the user's language; empty if the code is sufficient
-    QString answer = {};       ///< response of the device, for the caller; not kept by batches
-    bool isUnanswered = false; ///< the device was reached but did not respond: a retry may succeed
+    QString text;               ///< details in the user's language; empty if the code is sufficient
+    QString response = {};      ///< response of the device, for the caller; not kept by batches
+    bool hasNoResponse = false; ///< the device was reached but did not respond: a retry may succeed
 
     bool operator==(const StepOutcome &) const = default;
 };

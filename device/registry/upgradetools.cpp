@@ -49,7 +49,7 @@ QString UpgradeTools::text(int result)
         return tr("IP或端口填写错误");
     case ListedTwice:
         return tr("与前面的行是同一设备");
-    case NoAnswer:
+    case NoResponse:
         return tr("设备无应答");
     case DeviceBusy:
         return tr("设备忙，请稍后重试");
@@ -103,7 +103,7 @@ int UpgradeTools::batchResult(Result result)
     case LineUnusable:
     case ListedTwice:
         return unusableLine;
-    case NoAnswer:
+    case NoResponse:
         return resultCode(LoginResult::NetworkFailure);
     case DeviceBusy:
         return deviceBusy;

@@ -38,7 +38,7 @@ public:
         ListedTwice = 15,  ///< of a document: an earlier line has the same device
 
         // Failures that a retry may solve
-        NoAnswer = 20,
+        NoResponse = 20,
         DeviceBusy = 21,
         Failed = 22,         ///< the device has aborted the upgrade
         Stuck = 23,          ///< the device has not reported progress for too long
@@ -64,7 +64,7 @@ public:
     }
 
     /// Whether a retry may succeed.
-    Q_INVOKABLE [[nodiscard]] static bool canTryAgain(int result) { return result >= NoAnswer; }
+    Q_INVOKABLE [[nodiscard]] static bool canTryAgain(int result) { return result >= NoResponse; }
 
     /// The state or result in the user's language; empty for None. Any thread.
     Q_INVOKABLE [[nodiscard]] static QString text(int result);

@@ -91,37 +91,37 @@ struct ResponseReceiver
     WaitingDevices &waiting;
     std::function<void()> rowChanged;
 
-    static void handle(std::int64_t, const sdk::SearchAnswer *answer, void *user)
+    static void handle(std::int64_t, const sdk::SearchResponse *response, void *user)
     {
-        if (answer && answer->size == sizeof(*answer))
-            static_cast<const ResponseReceiver *>(user)->take(*answer);
+        if (response && response->size == sizeof(*response))
+            static_cast<const ResponseReceiver *>(user)->take(*response);
     }
 
-    void take(const sdk::SearchAnswer &answer) const
+    void take(const sdk::SearchResponse &response) const
     {
-        if (!hasIPv4Address(answer))
+        if (!hasIPv4Address(response))
             return;
-        const QString name = store.nameOf(answer);
+        const QString name = store.nameOf(response);
         if (name.isEmpty())
-            return takeUnlisted(answer);
+            return takeUnlisted(response);
         const std::optional<QString> address = waiting.addressOf(name);
-        if (!address || !store.updateRow(name, answer, *address))
+        if (!address || !store.updateRow(name, response, *address))
             return;
         // After initialisation, some devices report the old state for a moment.
-        if (isInitialised(answer.device))
+        if (isInitialised(response.device))
             waiting.remove(name);
         rowChanged();
     }
 
-    void takeUnlisted(const sdk::SearchAnswer &answer) const
+    void takeUnlisted(const sdk::SearchResponse &response) const
     {
-        for (const QString &name : {macText(answer), uuidName(answer)}) {
+        for (const QString &name : {macText(response), uuidName(response)}) {
             if (name.isEmpty() || !waiting.addressOf(name))
                 continue;
-            QJsonObject row = ipv4Row(answer);
+            QJsonObject row = ipv4Row(response);
             if (rowName(row) != name)
                 row.insert(DeviceRowKey::identity, name);
-            store.upsertRow(row, answer);
+            store.upsertRow(row, response);
             waiting.remove(name);
             return rowChanged();
         }

@@ -118,12 +118,12 @@ void DeviceSearch::searchLocalSegment(const std::stop_token &stop, Progress &pro
 {
     sdk::SearchParameter parameter{};
     parameter.size = sizeof(parameter);
-    parameter.handler = &DeviceSearch::answerHandler;
+    parameter.handler = &DeviceSearch::responseHandler;
     parameter.user = this;
 
     sdk::SearchParameterEx parameterEx{};
     parameterEx.size = sizeof(parameterEx);
-    parameterEx.handler = &DeviceSearch::answerHandler;
+    parameterEx.handler = &DeviceSearch::responseHandler;
     parameterEx.user = this;
 
     sdk::NetLibrary &net = *m_libraries.net;
@@ -148,12 +148,12 @@ void DeviceSearch::searchRange(const SearchRange &addresses, const std::stop_tok
     for (const sdk::SearchByAddressesRequest &request : searchRequests(addresses)) {
         if (stop.stop_requested())
             return;
-        net.NetSearchDevicesByIPs(request, &DeviceSearch::answerHandler, this, anyLocalAddress,
+        net.NetSearchDevicesByIPs(request, &DeviceSearch::responseHandler, this, anyLocalAddress,
                                   addressesWait);
         progress.add(addressesWait);
         if (stop.stop_requested())
             return;
-        net.NetSearchDevicesByIPsEx(request, &DeviceSearch::answerHandler, this, anyLocalAddress,
+        net.NetSearchDevicesByIPsEx(request, &DeviceSearch::responseHandler, this, anyLocalAddress,
                                     addressesWait);
         progress.add(addressesWait);
     }
@@ -183,15 +183,15 @@ void DeviceSearch::stopHandles()
         m_libraries.net->NetStopSearchDevices(handle);
 }
 
-void DeviceSearch::answerHandler(std::int64_t, const sdk::SearchAnswer *answer, void *user)
+void DeviceSearch::responseHandler(std::int64_t, const sdk::SearchResponse *response, void *user)
 {
-    if (answer && answer->size == sizeof(*answer))
-        static_cast<DeviceSearch *>(user)->handleAnswer(*answer);
+    if (response && response->size == sizeof(*response))
+        static_cast<DeviceSearch *>(user)->handleResponse(*response);
 }
 
-void DeviceSearch::handleAnswer(const sdk::SearchAnswer &answer)
+void DeviceSearch::handleResponse(const sdk::SearchResponse &response)
 {
-    const DeviceStore::Addition addition = m_store->addAnswer(answer);
+    const DeviceStore::Addition addition = m_store->addResponse(response);
     if (!addition.notify)
         return;
     Q_EMIT rowsAdded();

@@ -61,8 +61,8 @@ private:
     void searchRange(const SearchRange &addresses, const std::stop_token &stop, Progress &progress);
     void keepHandle(std::int64_t handle);
     void stopHandles();
-    void handleAnswer(const sdk::SearchAnswer &answer);
-    static void answerHandler(std::int64_t searchHandle, const sdk::SearchAnswer *answer, void *user);
+    void handleResponse(const sdk::SearchResponse &response);
+    static void responseHandler(std::int64_t searchHandle, const sdk::SearchResponse *response, void *user);
 
     const std::shared_ptr<DeviceStore> m_store;
     const sdk::SdkLibraries m_libraries;

@@ -28,7 +28,7 @@ constexpr std::uint32_t obstacleBit(SearchObstacle obstacle)
 /// Obstacles that only multicast requests can have.
 constexpr std::uint32_t groupObstacles = obstacleBit(SearchObstacle::NoMulticast) |
                                          obstacleBit(SearchObstacle::SendFailed) |
-                                         obstacleBit(SearchObstacle::NoAnswer);
+                                         obstacleBit(SearchObstacle::NoResponse);
 
 std::span<SearchInterfaceReport> addressesOf(SearchReport &report)
 {
@@ -50,7 +50,7 @@ void subtract(SearchInterfaceReport &address, const SearchInterfaceReport &befor
 void subtract(SearchReport &report, SearchReport &before)
 {
     report.addressesAsked = added(report.addressesAsked, before.addressesAsked);
-    report.addressesAnswered = added(report.addressesAnswered, before.addressesAnswered);
+    report.addressesResponding = added(report.addressesResponding, before.addressesResponding);
     report.addressesNoRoute = added(report.addressesNoRoute, before.addressesNoRoute);
     report.foreignDevices = added(report.foreignDevices, before.foreignDevices);
     const std::span<SearchInterfaceReport> known = addressesOf(before);

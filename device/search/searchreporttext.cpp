@@ -30,7 +30,7 @@ quint64 sumOf(const QList<SearchInterfaceReport> &addresses, const Number &numbe
         [&number](quint64 sum, const SearchInterfaceReport &address) { return sum + number(address); });
 }
 
-/// Combines the obstacles of an interface's addresses. NoAnswer is dropped if another address has received
+/// Combines the obstacles of an interface's addresses. NoResponse is dropped if another address has received
 /// messages.
 std::uint32_t obstaclesOf(const QList<SearchInterfaceReport> &addresses)
 {
@@ -38,7 +38,7 @@ std::uint32_t obstaclesOf(const QList<SearchInterfaceReport> &addresses)
     for (const SearchInterfaceReport &address : addresses)
         obstacles |= address.obstacles;
     if (sumOf(addresses, [](const SearchInterfaceReport &address) { return address.messagesReceived; }) > 0)
-        obstacles &= ~bit(SearchObstacle::NoAnswer);
+        obstacles &= ~bit(SearchObstacle::NoResponse);
     // Consequences of a more basic obstacle are left out.
     if ((obstacles & bit(SearchObstacle::InterfaceDown)) != 0)
         return bit(SearchObstacle::InterfaceDown);
@@ -86,11 +86,11 @@ QList<SearchReportBlock> SearchReportText::blocksOf(const sdk::SearchReport &rep
     if (report.addressesAsked > 0) {
         SearchReportBlock block = {.title = tr("按地址搜索")};
         block.lines.append({tr("已询问"), tr("%1 个地址").arg(report.addressesAsked)});
-        block.lines.append({tr("有应答"), tr("%1 个地址").arg(report.addressesAnswered)});
+        block.lines.append({tr("有应答"), tr("%1 个地址").arg(report.addressesResponding)});
         if (report.addressesNoRoute > 0)
             block.obstacles.append({tr("本机没有到其中 %1 个地址的路由").arg(report.addressesNoRoute),
                                     tr("为网卡设置网关，或添加一个与这些地址同一网段的地址。")});
-        else if (report.addressesAnswered == 0)
+        else if (report.addressesResponding == 0)
             block.obstacles.append(
                 {tr("没有地址应答"), tr("检查搜索设置中的地址范围，以及设备是否已通电。")});
         blocks.append(block);
@@ -191,7 +191,7 @@ void SearchReportText::addObstacles(SearchReportBlock &block, std::uint32_t obst
     add(SearchObstacle::NoMulticast, tr("网卡不能发送组播"), tr("在搜索设置中选择其他网段，按地址搜索。"));
     add(SearchObstacle::SendFailed, tr("系统拒绝发送请求：%1").arg(qt_error_string(sendError)),
         tr("检查本机的防火墙和网卡的设置。"));
-    add(SearchObstacle::NoAnswer, tr("没有收到任何应答"),
+    add(SearchObstacle::NoResponse, tr("没有收到任何应答"),
         tr("检查设备是否已通电并连接到同一网络，以及本机的防火墙和交换机是否过滤了应答。"
            "也可以在搜索设置中按地址搜索。"));
 }

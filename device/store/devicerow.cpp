@@ -8,14 +8,14 @@
 namespace {
 
 /// Writes the values of a response that rows of both lists contain.
-void fillIn(QJsonObject &row, const sdk::SearchAnswer &answer)
+void fillIn(QJsonObject &row, const sdk::SearchResponse &response)
 {
-    const sdk::SearchDeviceInformation &device = answer.device;
+    const sdk::SearchDeviceInformation &device = response.device;
     row.insert(DeviceRowKey::state, isInitialised(device));
     row.insert(DeviceRowKey::name, fieldText(device.deviceName));
     row.insert(DeviceRowKey::type, fieldText(device.deviceType));
     row.insert(DeviceRowKey::model, fieldText(device.detailModel));
-    row.insert(DeviceRowKey::ipport, addressAndPort(answer));
+    row.insert(DeviceRowKey::ipport, addressAndPort(response));
     row.insert(DeviceRowKey::vision, versionText(fieldText(device.softwareVersion)));
     row.insert(DeviceRowKey::httpport, device.httpPort);
 }
@@ -55,9 +55,9 @@ QString versionText(const QString &version)
     return version.isEmpty() ? QString() : QLatin1Char('v') + version;
 }
 
-bool hasIPv4Address(const sdk::SearchAnswer &answer)
+bool hasIPv4Address(const sdk::SearchResponse &response)
 {
-    return answer.device.ipVersion == 4 && sdk::blockText(answer.device.address) != "0.0.0.0";
+    return response.device.ipVersion == 4 && sdk::blockText(response.device.address) != "0.0.0.0";
 }
 
 bool isInitialised(const sdk::SearchDeviceInformation &device)
@@ -65,21 +65,21 @@ bool isInitialised(const sdk::SearchDeviceInformation &device)
     return sdk::initialisationBits(device.initialisationState) != sdk::InitialisationBits::Uninitialised;
 }
 
-QString macText(const sdk::SearchAnswer &answer)
+QString macText(const sdk::SearchResponse &response)
 {
-    return fieldText(answer.device.mac);
+    return fieldText(response.device.mac);
 }
 
-QString uuidName(const sdk::SearchAnswer &answer)
+QString uuidName(const sdk::SearchResponse &response)
 {
-    const QString uuid = fieldText(answer.device.uuid);
+    const QString uuid = fieldText(response.device.uuid);
     return uuid.isEmpty() ? QString() : uuidPrefix + uuid;
 }
 
-QString addressAndPort(const sdk::SearchAnswer &answer)
+QString addressAndPort(const sdk::SearchResponse &response)
 {
-    const QString address = fieldText(answer.device.address);
-    const QString port = QString::number(answer.device.port);
+    const QString address = fieldText(response.device.address);
+    const QString port = QString::number(response.device.port);
     return address.contains(QLatin1Char(':')) ? QLatin1Char('[') + address + QLatin1String("]:") + port
                                               : address + QLatin1Char(':') + port;
 }
@@ -102,7 +102,7 @@ QString rowAddress(const QJsonObject &row)
     return ipport.left(ipport.lastIndexOf(QLatin1Char(':')));
 }
 
-QJsonObject ipv4Row(const sdk::SearchAnswer &answer)
+QJsonObject ipv4Row(const sdk::SearchResponse &response)
 {
     // Copying a prepared row costs less than half of seventeen insertions. Values that each response replaces
     // are null in it: even an empty string would leave unused bytes in the row, most rows would exceed 512
@@ -119,18 +119,18 @@ QJsonObject ipv4Row(const sdk::SearchAnswer &answer)
         {DeviceRowKey::httpport, 0},
     };
     QJsonObject row = newRow;
-    fillIn(row, answer);
-    row.insert(DeviceRowKey::mac, macText(answer));
+    fillIn(row, response);
+    row.insert(DeviceRowKey::mac, macText(response));
     return row;
 }
 
-QJsonObject ipv6Row(const sdk::SearchAnswer &answer)
+QJsonObject ipv6Row(const sdk::SearchResponse &response)
 {
     QJsonObject row = {
         {DeviceRowKey::checked, false},
         {DeviceRowKey::operate, QString()},
         {DeviceRowKey::result, QString()},
     };
-    fillIn(row, answer);
+    fillIn(row, response);
     return row;
 }

@@ -7,7 +7,7 @@
 #include <QString>
 
 namespace sdk {
-struct SearchAnswer;
+struct SearchResponse;
 struct SearchDeviceInformation;
 } // namespace sdk
 
@@ -87,23 +87,23 @@ template<std::size_t size>
 [[nodiscard]] QString versionText(const QString &version);
 
 /// Whether the response belongs to the IPv4 list: its IP version is 4 and its address is not 0.0.0.0.
-[[nodiscard]] bool hasIPv4Address(const sdk::SearchAnswer &answer);
+[[nodiscard]] bool hasIPv4Address(const sdk::SearchResponse &response);
 
 /// Whether the device is initialised. True if it does not report that.
 [[nodiscard]] bool isInitialised(const sdk::SearchDeviceInformation &device);
 
 /// MAC of the device that responded; empty if not reported.
-[[nodiscard]] QString macText(const sdk::SearchAnswer &answer);
+[[nodiscard]] QString macText(const sdk::SearchResponse &response);
 
 /// Prefix of the names of rows whose devices are identified by their UUIDs.
 inline constexpr QLatin1StringView uuidPrefix("uuid:");
 
 /// The name of the row of a device without a MAC: "uuid:5f5a69c2-e0ae-504f-829b-00000000000b". Empty if the
 /// device reports no UUID.
-[[nodiscard]] QString uuidName(const sdk::SearchAnswer &answer);
+[[nodiscard]] QString uuidName(const sdk::SearchResponse &response);
 
 /// The "address:port" of the device in operations. An IPv6 address is in brackets (RFC 3986).
-[[nodiscard]] QString addressAndPort(const sdk::SearchAnswer &answer);
+[[nodiscard]] QString addressAndPort(const sdk::SearchResponse &response);
 
 /// The name of a row, which identifies it in its list: its key "identity" if it has one, otherwise the MAC,
 /// otherwise the address and port, followed by "#" and a number if earlier rows had the same name. Empty for
@@ -114,7 +114,7 @@ inline constexpr QLatin1StringView uuidPrefix("uuid:");
 [[nodiscard]] QString rowAddress(const QJsonObject &row);
 
 /// A new row for an IPv4 response, with 17 keys.
-[[nodiscard]] QJsonObject ipv4Row(const sdk::SearchAnswer &answer);
+[[nodiscard]] QJsonObject ipv4Row(const sdk::SearchResponse &response);
 
 /// A new row for an IPv6 response, with ten keys.
-[[nodiscard]] QJsonObject ipv6Row(const sdk::SearchAnswer &answer);
+[[nodiscard]] QJsonObject ipv6Row(const sdk::SearchResponse &response);

@@ -27,13 +27,13 @@ struct ChunkHeader
     std::uint16_t zeros; ///< number of zero bytes before the chunk
     std::uint16_t size;  ///< of the chunk in bytes
 };
-static_assert(sizeof(sdk::SearchAnswer) <= std::numeric_limits<std::uint16_t>::max());
+static_assert(sizeof(sdk::SearchResponse) <= std::numeric_limits<std::uint16_t>::max());
 
-QByteArray packed(const sdk::SearchAnswer &answer)
+QByteArray packed(const sdk::SearchResponse &response)
 {
     constexpr std::string_view run("\0\0\0\0", sizeof(ChunkHeader)); // shorter runs are not worth a header
-    const std::string_view bytes(reinterpret_cast<const char *>(&answer), sizeof(answer));
-    QVarLengthArray<char, sizeof(answer)> chunks;
+    const std::string_view bytes(reinterpret_cast<const char *>(&response), sizeof(response));
+    QVarLengthArray<char, sizeof(response)> chunks;
     std::size_t end = 0;
     for (std::size_t start = bytes.find_first_not_of('\0'); start != std::string_view::npos;
          start = bytes.find_first_not_of('\0', end)) {
@@ -48,10 +48,10 @@ QByteArray packed(const sdk::SearchAnswer &answer)
     return QByteArray(chunks.constData(), chunks.size());
 }
 
-sdk::SearchAnswer unpacked(const QByteArray &chunks)
+sdk::SearchResponse unpacked(const QByteArray &chunks)
 {
-    sdk::SearchAnswer answer{};
-    char *next = reinterpret_cast<char *>(&answer);
+    sdk::SearchResponse response{};
+    char *next = reinterpret_cast<char *>(&response);
     const char *chunk = chunks.cbegin();
     while (chunk != chunks.cend()) {
         ChunkHeader header;
@@ -59,35 +59,35 @@ sdk::SearchAnswer unpacked(const QByteArray &chunks)
         next = std::copy_n(chunk + sizeof(header), header.size, next + header.zeros);
         chunk += sizeof(header) + header.size;
     }
-    return answer;
+    return response;
 }
 
 } // namespace
 
 DeviceStore::DeviceStore(std::shared_ptr<const sdk::Clock> clock) : m_clock(std::move(clock)) {}
 
-DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
+DeviceStore::Addition DeviceStore::addResponse(const sdk::SearchResponse &response)
 {
-    const bool ipv4 = hasIPv4Address(answer);
-    const QString mac = macText(answer);
+    const bool ipv4 = hasIPv4Address(response);
+    const QString mac = macText(response);
     {
         // Most responses are repeated ones: they are dropped before a row is built.
         const std::scoped_lock lock(m_mutex);
-        const QString identity = identityOf(answer);
+        const QString identity = identityOf(response);
         if (isDropped(identity)) {
             const bool isChanged = ipv4 && takeMac(identity, mac);
             return {.added = false, .notify = isChanged && isNotificationDue(), .ipv4Count = countIPv4()};
         }
     }
 
-    QJsonObject row = ipv4 ? ipv4Row(answer) : ipv6Row(answer);
+    QJsonObject row = ipv4 ? ipv4Row(response) : ipv6Row(response);
     const bool isPrepended = ipv4 && row.value(DeviceRowKey::type).toString() != otherDeviceType() &&
                              row.value(DeviceRowKey::ipport).toString().contains(loopbackAddress);
-    const QByteArray record = packed(answer);
-    const QString uuid = uuidName(answer);
+    const QByteArray record = packed(response);
+    const QString uuid = uuidName(response);
 
     const std::scoped_lock lock(m_mutex);
-    const QString identity = identityOf(answer);
+    const QString identity = identityOf(response);
     if (isDropped(identity))
         return {};
     m_settled.insert(identity);
@@ -103,7 +103,7 @@ DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
     else
         m_ipv4.append(identity, row);
     if (ipv4 && !uuid.isEmpty() && !m_uuidHolders.contains(uuid))
-        m_uuidHolders.insert(uuid, {.ipport = addressAndPort(answer), .name = identity});
+        m_uuidHolders.insert(uuid, {.ipport = addressAndPort(response), .name = identity});
 
     // Requests to a device are built from its IPv4 response, which therefore replaces an IPv6 response.
     const QString recordKey = ipv4 ? identity : mac;
@@ -113,15 +113,15 @@ DeviceStore::Addition DeviceStore::addAnswer(const sdk::SearchAnswer &answer)
     return {.added = true, .notify = isNotificationDue(), .ipv4Count = countIPv4()};
 }
 
-QString DeviceStore::identityOf(const sdk::SearchAnswer &answer) const
+QString DeviceStore::identityOf(const sdk::SearchResponse &response) const
 {
-    const QString mac = macText(answer);
-    QString ipport = addressAndPort(answer);
+    const QString mac = macText(response);
+    QString ipport = addressAndPort(response);
     // An IPv6 device may have several addresses, each with a row. The same address again is a repeated
     // response: every device responds to each kind of search.
-    if (!hasIPv4Address(answer))
+    if (!hasIPv4Address(response))
         return mac + QLatin1Char(' ') + ipport;
-    QString uuid = uuidName(answer);
+    QString uuid = uuidName(response);
     const UuidHolder holder = m_uuidHolders.value(uuid);
     if (!mac.isEmpty()) {
         // The row of the UUID is that of the same device if it has not reported its MAC before. Other devices
@@ -181,10 +181,10 @@ int DeviceStore::leftOut() const
     return m_leftOut;
 }
 
-QString DeviceStore::nameOf(const sdk::SearchAnswer &answer) const
+QString DeviceStore::nameOf(const sdk::SearchResponse &response) const
 {
-    QString mac = macText(answer);
-    const QString uuid = uuidName(answer);
+    QString mac = macText(response);
+    const QString uuid = uuidName(response);
     const std::scoped_lock lock(m_mutex);
     if (m_ipv4.contains(mac))
         return mac;
@@ -193,7 +193,7 @@ QString DeviceStore::nameOf(const sdk::SearchAnswer &answer) const
     };
     // The row at the address has priority over the row of the UUID, which another device may report as well.
     if (mac.isEmpty()) {
-        const QStringList names = m_ipv4.namesAt(addressAndPort(answer));
+        const QStringList names = m_ipv4.namesAt(addressAndPort(response));
         const auto isOwn = [&](const QString &name) {
             const bool isOther = name.startsWith(uuidPrefix) && !uuid.isEmpty() && name != uuid;
             return macOf(name).isEmpty() && !isOther;
@@ -207,9 +207,9 @@ QString DeviceStore::nameOf(const sdk::SearchAnswer &answer) const
     return m_ipv4.contains(uuid) && isOwn ? uuid : QString();
 }
 
-bool DeviceStore::updateRow(const QString &name, const sdk::SearchAnswer &answer, const QString &address)
+bool DeviceStore::updateRow(const QString &name, const sdk::SearchResponse &response, const QString &address)
 {
-    const QJsonObject now = ipv4Row(answer);
+    const QJsonObject now = ipv4Row(response);
     const std::scoped_lock lock(m_mutex);
     QJsonObject row = m_ipv4.row(name);
     if (row.isEmpty() || rowAddress(row) != address)
@@ -228,7 +228,7 @@ bool DeviceStore::updateRow(const QString &name, const sdk::SearchAnswer &answer
     if (!row.value(DeviceRowKey::https).toBool()) // a response contains the HTTP port only
         row.insert(DeviceRowKey::httpport, now.value(DeviceRowKey::httpport));
     m_ipv4.replace(name, row);
-    m_records.insert(name, packed(answer));
+    m_records.insert(name, packed(response));
     return true;
 }
 
@@ -290,17 +290,17 @@ int DeviceStore::countIPv4() const
     return static_cast<int>(m_ipv4.rows().size() - m_lost.size());
 }
 
-std::optional<sdk::SearchAnswer> DeviceStore::record(const QString &name) const
+std::optional<sdk::SearchResponse> DeviceStore::record(const QString &name) const
 {
     const std::scoped_lock lock(m_mutex);
     const auto record = m_records.constFind(name);
     return record == m_records.cend() ? std::nullopt : std::optional(unpacked(*record));
 }
 
-void DeviceStore::putRecord(const QString &name, const sdk::SearchAnswer &answer)
+void DeviceStore::putRecord(const QString &name, const sdk::SearchResponse &response)
 {
     const std::scoped_lock lock(m_mutex);
-    m_records.insert(name, packed(answer));
+    m_records.insert(name, packed(response));
 }
 
 QJsonObject DeviceStore::row(const QString &mac) const
@@ -383,7 +383,7 @@ bool DeviceStore::changeFound(const Finder &find, const Change &change)
     }
 }
 
-void DeviceStore::upsertRow(QJsonObject row, const std::optional<sdk::SearchAnswer> &answer)
+void DeviceStore::upsertRow(QJsonObject row, const std::optional<sdk::SearchResponse> &response)
 {
     const std::scoped_lock lock(m_mutex);
     // A name made of an address stays with the first device of that address, also after its address has
@@ -396,8 +396,8 @@ void DeviceStore::upsertRow(QJsonObject row, const std::optional<sdk::SearchAnsw
     for (int before = 1; isOfOther(); ++before)
         row.insert(DeviceRowKey::duplicate, before);
     const QString name = rowName(row);
-    if (answer)
-        m_records.insert(name, packed(*answer));
+    if (response)
+        m_records.insert(name, packed(*response));
     row.insert(DeviceRowKey::num, QString::number(m_ipv4.rows().size() + 1));
     m_lost.remove(name);
     if (m_ipv4.contains(name))

@@ -36,7 +36,7 @@ public:
     /// `clock` is for the minimum interval between notifications.
     explicit DeviceStore(std::shared_ptr<const sdk::Clock> clock);
 
-    /// The result of addAnswer().
+    /// The result of addResponse().
     struct Addition
     {
         bool added = false; ///< false: the response was dropped
@@ -54,21 +54,21 @@ public:
     /// A UUID belongs to the address that first reported it since clear(). A device with the same UUID at
     /// another address is identified by its address. A MAC in a later response is written to the row of the
     /// device, which keeps its name and its marks.
-    Addition addAnswer(const sdk::SearchAnswer &answer);
+    Addition addResponse(const sdk::SearchResponse &response);
 
     /// Number of responses that were dropped since clear() because of maximumFound.
     [[nodiscard]] int leftOut() const;
 
     /// The name of the IPv4 row of the device that responded: by its MAC; if it reports none, by its address
     /// and port; then by its UUID. Empty if there is no row.
-    [[nodiscard]] QString nameOf(const sdk::SearchAnswer &answer) const;
+    [[nodiscard]] QString nameOf(const sdk::SearchResponse &response) const;
 
     /// Updates the IPv4 row `name` from a response: state, name, model, version, address and ports, the
     /// search record, and the MAC if it was unknown. The row is not lost or unconfirmed any more. Other
     /// values are kept, and so are an HTTPS port, and name, model and version that the response leaves empty.
     /// Returns false without a change if there is no such row, or if its address is not `address` any more: a
     /// response may arrive after the address was changed.
-    bool updateRow(const QString &name, const sdk::SearchAnswer &answer, const QString &address);
+    bool updateRow(const QString &name, const sdk::SearchResponse &response, const QString &address);
 
     /// Sets the names of the rows that each later clear() keeps: those of devices with failures.
     void setKept(const QSet<QString> &names);
@@ -108,7 +108,7 @@ public:
     /// Adds an IPv4 row that does not come from a search, with the response of the device as its record if
     /// there is one. Replaces the row of the same device, or appends the row. Its "num" becomes the number of
     /// IPv4 rows plus 1.
-    void upsertRow(QJsonObject row, const std::optional<sdk::SearchAnswer> &answer = {});
+    void upsertRow(QJsonObject row, const std::optional<sdk::SearchResponse> &response = {});
 
     /// Removes IPv4 rows with their search records, or IPv6 rows, by name. The running search does not add
     /// these IPv4 rows again.
@@ -117,10 +117,10 @@ public:
 
     /// The raw search response of the device of an IPv4 row, if there is one. Those of devices with IPv6 rows
     /// only are stored under their MACs.
-    [[nodiscard]] std::optional<sdk::SearchAnswer> record(const QString &name) const;
+    [[nodiscard]] std::optional<sdk::SearchResponse> record(const QString &name) const;
 
     /// Sets the search response of a row.
-    void putRecord(const QString &name, const sdk::SearchAnswer &answer);
+    void putRecord(const QString &name, const sdk::SearchResponse &response);
 
 private:
     /// A row in one of the lists.
@@ -139,7 +139,7 @@ private:
     };
 
     // The following require that m_mutex is locked.
-    [[nodiscard]] QString identityOf(const sdk::SearchAnswer &answer) const;
+    [[nodiscard]] QString identityOf(const sdk::SearchResponse &response) const;
     bool takeMac(const QString &name, const QString &mac);
     [[nodiscard]] bool isDropped(const QString &identity);
     void addIPv6(QJsonObject &row);

@@ -30,14 +30,14 @@
     ENTRY(std::int64_t, NetStartSearchDevices, (const sdk::SearchParameter *, std::int32_t))                 \
     ENTRY(std::int64_t, NetStartSearchDevicesEx, (const sdk::SearchParameterEx *, std::int32_t))             \
     ENTRY(std::int32_t, NetSearchDevicesByIPs,                                                               \
-          (const sdk::SearchByAddressesRequest *, sdk::SearchAnswerHandler, void *, const char *,            \
+          (const sdk::SearchByAddressesRequest *, sdk::SearchResponseHandler, void *, const char *,          \
            std::int32_t))                                                                                    \
     ENTRY(std::int32_t, NetSearchDevicesByIPsEx,                                                             \
-          (const sdk::SearchByAddressesRequest *, sdk::SearchAnswerHandler, void *, const char *,            \
+          (const sdk::SearchByAddressesRequest *, sdk::SearchResponseHandler, void *, const char *,          \
            std::int32_t))                                                                                    \
     ENTRY(std::int32_t, NetStopSearchDevices, (std::int64_t))                                                \
     ENTRY(void, NetSearchDeviceByIp,                                                                         \
-          (const sdk::SearchByAddressesRequest *, sdk::SearchAnswerHandler, void *, std::int32_t))           \
+          (const sdk::SearchByAddressesRequest *, sdk::SearchResponseHandler, void *, std::int32_t))         \
     ENTRY(std::int32_t, NetGetSearchReport, (sdk::SearchReport *))                                           \
     ENTRY(std::int64_t, NetLogin,                                                                            \
           (const char *, std::int32_t, const char *, const char *, std::int32_t, void *,                     \

@@ -75,12 +75,12 @@ bool DemoNetLibrary::NetGetItem(std::int64_t loginHandle, std::uint32_t item, st
     const std::optional<SceneDevice> device = askedDevice(call, session, wait);
     if (!device)
         return false;
-    const std::optional<QByteArray> answer =
+    const std::optional<QByteArray> response =
         known ? channelItem(*device, itemKeyOf(*known, channel, block)) : std::nullopt;
     const std::optional<FaultSetting> withheld = device->fault(Fault::WithholdsItem);
-    if (!answer || (withheld && withheld->number == static_cast<int>(item)))
+    if (!response || (withheld && withheld->number == static_cast<int>(item)))
         return m_error.fail(NetError::NotSupported);
-    std::memcpy(block, answer->constData(), static_cast<std::size_t>(answer->size()));
+    std::memcpy(block, response->constData(), static_cast<std::size_t>(response->size()));
     return true;
 }
 

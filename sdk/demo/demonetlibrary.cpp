@@ -72,7 +72,7 @@ bool DemoNetLibrary::NetInit()
 void DemoNetLibrary::NetCleanup()
 {
     record("NetCleanup");
-    if (AnswerDelivery::isInsideHandler() || LiveStream::isInsideHandler() ||
+    if (ResponseDelivery::isInsideHandler() || LiveStream::isInsideHandler() ||
         DeviceUpgrade::isInsideHandler()) {
         qCWarning(demoLog, "NetCleanup was called from a handler and would be a deadlock: ignored");
         m_error.fail(DemoError::InsideHandler);
@@ -87,7 +87,7 @@ void DemoNetLibrary::endEverything()
     m_sessions.closeAll();
     m_streams.closeAll();
     m_upgrades.closeAll();
-    std::map<std::int64_t, std::unique_ptr<AnswerDelivery>> searches; // destroyed without the lock
+    std::map<std::int64_t, std::unique_ptr<ResponseDelivery>> searches; // destroyed without the lock
     const std::lock_guard lock(m_mutex);
     searches.swap(m_searches);
 }
@@ -145,7 +145,7 @@ std::int64_t DemoNetLibrary::NetStartSearchDevicesEx(const SearchParameterEx &pa
     return startLocalSearch(SearchKind::Second, {parameter.handler, parameter.user, 0, localAddress});
 }
 
-std::int64_t DemoNetLibrary::startLocalSearch(SearchKind kind, AnswerReceiver receiver)
+std::int64_t DemoNetLibrary::startLocalSearch(SearchKind kind, ResponseReceiver receiver)
 {
     if (!receiver.handler) {
         m_error.fail(DemoError::NoHandler);
@@ -157,7 +157,7 @@ std::int64_t DemoNetLibrary::startLocalSearch(SearchKind kind, AnswerReceiver re
         return 0;
     }
     const std::int64_t start = m_site.clock().now();
-    std::vector<PlannedAnswer> plan = planLocalSearch(m_site, kind, start);
+    std::vector<PlannedResponse> plan = planLocalSearch(m_site, kind, start);
 
     const std::lock_guard lock(m_mutex);
     if (m_searches.empty())
@@ -165,7 +165,7 @@ std::int64_t DemoNetLibrary::startLocalSearch(SearchKind kind, AnswerReceiver re
     m_searchTally.noteRequest();
     receiver.tally = &m_searchTally;
     receiver.searchHandle = ++m_lastSearchHandle;
-    auto delivery = std::make_unique<AnswerDelivery>(m_site, receiver, std::move(plan));
+    auto delivery = std::make_unique<ResponseDelivery>(m_site, receiver, std::move(plan));
     if (!delivery->start()) {
         m_error.fail(DemoError::NoThread);
         return 0;
@@ -175,8 +175,8 @@ std::int64_t DemoNetLibrary::startLocalSearch(SearchKind kind, AnswerReceiver re
 }
 
 bool DemoNetLibrary::NetSearchDevicesByIPs(const SearchByAddressesRequest &request,
-                                           SearchAnswerHandler handler, void *user, const char *localAddress,
-                                           std::chrono::milliseconds wait)
+                                           SearchResponseHandler handler, void *user,
+                                           const char *localAddress, std::chrono::milliseconds wait)
 {
     record("NetSearchDevicesByIPs", decoded(request, localAddress, wait));
     return searchAddresses(SearchKind::First, request,
@@ -184,7 +184,7 @@ bool DemoNetLibrary::NetSearchDevicesByIPs(const SearchByAddressesRequest &reque
 }
 
 bool DemoNetLibrary::NetSearchDevicesByIPsEx(const SearchByAddressesRequest &request,
-                                             SearchAnswerHandler handler, void *user,
+                                             SearchResponseHandler handler, void *user,
                                              const char *localAddress, std::chrono::milliseconds wait)
 {
     record("NetSearchDevicesByIPsEx", decoded(request, localAddress, wait));
@@ -193,7 +193,7 @@ bool DemoNetLibrary::NetSearchDevicesByIPsEx(const SearchByAddressesRequest &req
 }
 
 bool DemoNetLibrary::searchAddresses(SearchKind kind, const SearchByAddressesRequest &request,
-                                     AnswerReceiver receiver, std::chrono::milliseconds wait,
+                                     ResponseReceiver receiver, std::chrono::milliseconds wait,
                                      SearchEnd searchEnd)
 {
     if (request.size != sizeof(SearchByAddressesRequest))
@@ -215,17 +215,17 @@ bool DemoNetLibrary::searchAddresses(SearchKind kind, const SearchByAddressesReq
             addresses.insert(address);
     }
     // The second kind of search is sent in addition to the first.
-    if (kind == SearchKind::First || searchEnd == SearchEnd::AfterAnswer)
+    if (kind == SearchKind::First || searchEnd == SearchEnd::AfterResponse)
         m_searchTally.noteAskedAddresses(addresses);
     receiver.tally = &m_searchTally;
     const std::int64_t start = m_site.clock().now();
     std::int64_t end = start + bounded(wait).count();
-    std::vector<PlannedAnswer> plan = planAddressSearch(m_site, kind, addresses, start, end);
-    if (searchEnd == SearchEnd::AfterAnswer && !plan.empty()) {
+    std::vector<PlannedResponse> plan = planAddressSearch(m_site, kind, addresses, start, end);
+    if (searchEnd == SearchEnd::AfterResponse && !plan.empty()) {
         end = plan.front().time;
-        std::erase_if(plan, [end](const PlannedAnswer &answer) { return answer.time > end; });
+        std::erase_if(plan, [end](const PlannedResponse &response) { return response.time > end; });
     }
-    AnswerDelivery delivery(m_site, std::move(receiver), std::move(plan));
+    ResponseDelivery delivery(m_site, std::move(receiver), std::move(plan));
     if (!delivery.start())
         return m_error.fail(DemoError::NoThread);
     if (m_site.clock().waitUntil(end, call.stop()))
@@ -238,10 +238,10 @@ bool DemoNetLibrary::searchAddresses(SearchKind kind, const SearchByAddressesReq
 bool DemoNetLibrary::NetStopSearchDevices(std::int64_t searchHandle)
 {
     record("NetStopSearchDevices", {{QStringLiteral("searchHandle"), static_cast<qint64>(searchHandle)}});
-    if (AnswerDelivery::isInsideHandler())
+    if (ResponseDelivery::isInsideHandler())
         return m_error.fail(DemoError::InsideHandler);
     const CallGate::Call call(m_gate);
-    std::unique_ptr<AnswerDelivery> delivery;
+    std::unique_ptr<ResponseDelivery> delivery;
     {
         const std::lock_guard lock(m_mutex);
         const auto found = m_searches.find(searchHandle);
@@ -256,15 +256,16 @@ bool DemoNetLibrary::NetStopSearchDevices(std::int64_t searchHandle)
     return true;
 }
 
-void DemoNetLibrary::NetSearchDeviceByIp(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
-                                         void *user, std::chrono::milliseconds wait)
+void DemoNetLibrary::NetSearchDeviceByIp(const SearchByAddressesRequest &request,
+                                         SearchResponseHandler handler, void *user,
+                                         std::chrono::milliseconds wait)
 {
     record("NetSearchDeviceByIp", decoded(request, "", wait));
     if (request.size == sizeof(SearchByAddressesRequest) && request.count != 1)
         m_error.fail(DemoError::WrongCount);
     else
         searchAddresses(SearchKind::Second, request, {handler, user, 0, QString()}, wait,
-                        SearchEnd::AfterAnswer);
+                        SearchEnd::AfterResponse);
 }
 
 void DemoNetLibrary::record(const char *operation, const QJsonObject &request, const QString &mac) const

@@ -4,7 +4,7 @@
 #include "sdk/callgate.h"
 #include "sdk/demo/demoerror.h"
 #include "sdk/demo/device/devicelogin.h"
-#include "sdk/demo/search/answerdelivery.h"
+#include "sdk/demo/search/responsedelivery.h"
 #include "sdk/demo/search/searchtally.h"
 #include "sdk/demo/site/demosessions.h"
 #include "sdk/demo/streams/livestreams.h"
@@ -53,14 +53,14 @@ public:
                                        std::chrono::milliseconds wait) override;
     std::int64_t NetStartSearchDevicesEx(const SearchParameterEx &parameter,
                                          std::chrono::milliseconds wait) override;
-    bool NetSearchDevicesByIPs(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
+    bool NetSearchDevicesByIPs(const SearchByAddressesRequest &request, SearchResponseHandler handler,
                                void *user, const char *localAddress, std::chrono::milliseconds wait) override;
-    bool NetSearchDevicesByIPsEx(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
+    bool NetSearchDevicesByIPsEx(const SearchByAddressesRequest &request, SearchResponseHandler handler,
                                  void *user, const char *localAddress,
                                  std::chrono::milliseconds wait) override;
     bool NetStopSearchDevices(std::int64_t searchHandle) override;
-    void NetSearchDeviceByIp(const SearchByAddressesRequest &request, SearchAnswerHandler handler, void *user,
-                             std::chrono::milliseconds wait) override;
+    void NetSearchDeviceByIp(const SearchByAddressesRequest &request, SearchResponseHandler handler,
+                             void *user, std::chrono::milliseconds wait) override;
     bool NetGetSearchReport(SearchReport &report) override;
 
     // Sessions
@@ -126,8 +126,8 @@ private:
     /// The end of an address search.
     enum class SearchEnd
     {
-        AtWait,      // after the complete wait
-        AfterAnswer, // after the response of the first device
+        AtWait,        // after the complete wait
+        AfterResponse, // after the response of the first device
     };
 
     struct LoginRequest
@@ -143,8 +143,8 @@ private:
     void recordOfStream(const char *operation, std::int64_t streamHandle, QJsonObject request) const;
     [[nodiscard]] static std::chrono::milliseconds bounded(std::chrono::milliseconds wait);
 
-    std::int64_t startLocalSearch(SearchKind kind, AnswerReceiver receiver);
-    bool searchAddresses(SearchKind kind, const SearchByAddressesRequest &request, AnswerReceiver receiver,
+    std::int64_t startLocalSearch(SearchKind kind, ResponseReceiver receiver);
+    bool searchAddresses(SearchKind kind, const SearchByAddressesRequest &request, ResponseReceiver receiver,
                          std::chrono::milliseconds wait, SearchEnd searchEnd);
     void endEverything();
 
@@ -198,7 +198,7 @@ private:
     SearchTally m_searchTally;
     std::mutex m_mutex;
     std::int64_t m_lastSearchHandle = 0;
-    std::map<std::int64_t, std::unique_ptr<AnswerDelivery>> m_searches;
+    std::map<std::int64_t, std::unique_ptr<ResponseDelivery>> m_searches;
     LiveStreams m_streams;
     DeviceUpgrades m_upgrades;
 };

@@ -1,7 +1,7 @@
 // Queries and configuration texts of the simulated network library.
 #include "sdk/clock.h"
 #include "sdk/demo/demonetlibrary.h"
-#include "sdk/demo/device/deviceanswers.h"
+#include "sdk/demo/device/deviceresponses.h"
 #include "sdk/demo/device/maintenance.h"
 #include "sdk/demo/site/devicereach.h"
 #include "sdk/demo/site/sitestate.h"
@@ -42,14 +42,14 @@ NetError DemoNetLibrary::waitForDevice(const CallGate::Call &call, const DemoSes
         device = m_site.device(session.mac);
     if (device && device->hasFault(Fault::RefusesConnections))
         return NetError::ConnectFailed;
-    const bool hasAnswer = device && waitForResponse(stop.get_token(), *device, wait);
+    const bool hasResponse = device && waitForResponse(stop.get_token(), *device, wait);
     if (!device)
         m_site.clock().wait(bounded(wait), stop.get_token());
     if (call.stop().stop_requested())
         return NetError::NetworkFailure;
     if (session.calls.stop_requested())
         return m_sessions.session(session.handle) ? NetError::Cancelled : NetError::SessionEnded;
-    if (!hasAnswer)
+    if (!hasResponse)
         return NetError::ConnectTimeout;
     // The restart has closed the connection. The login is not refused: the caller may repeat it without
     // asking the user.
@@ -96,7 +96,7 @@ bool DemoNetLibrary::NetQueryConfig(std::int64_t loginHandle, QueryCommand comma
     const std::optional<SceneDevice> device = askedDevice(call, session, wait);
     if (!device)
         return false;
-    const auto answer = [&](const auto &block) {
+    const auto copyOut = [&](const auto &block) {
         if (!buffer || bufferSize < sizeof(block))
             return m_error.fail(DemoError::WrongSize);
         std::memcpy(buffer, &block, sizeof(block));
@@ -105,11 +105,11 @@ bool DemoNetLibrary::NetQueryConfig(std::int64_t loginHandle, QueryCommand comma
     };
     switch (command) {
     case QueryCommand::DeviceAttributes:
-        return answer(deviceAttributes(*device));
+        return copyOut(deviceAttributes(*device));
     case QueryCommand::Time:
-        return answer(deviceTime(*device, m_site.clock().now()));
+        return copyOut(deviceTime(*device, m_site.clock().now()));
     case QueryCommand::NetworkServices:
-        return answer(networkServices(*device));
+        return copyOut(networkServices(*device));
     }
     return m_error.fail(NetError::NotSupported);
 }
@@ -141,14 +141,14 @@ bool DemoNetLibrary::fetchConfig(const CallGate::Call &call, const std::optional
     if (!device)
         return false;
     const std::optional<FaultSetting> refusal = device->fault(Fault::RefusesConfiguration);
-    const std::optional<QByteArray> answer = configurationText(*device, name, channel);
-    if (!answer || (refusal && refusal->text == name))
+    const std::optional<QByteArray> response = configurationText(*device, name, channel);
+    if (!response || (refusal && refusal->text == name))
         return m_error.fail(NetError::NotSupported);
     // The constant data of a byte array has a terminating zero.
-    const auto size = static_cast<std::size_t>(answer->size()) + 1;
+    const auto size = static_cast<std::size_t>(response->size()) + 1;
     if (!text || textSize < size)
         return m_error.fail(DemoError::WrongSize);
-    std::memcpy(text, answer->constData(), size);
+    std::memcpy(text, response->constData(), size);
     return true;
 }
 

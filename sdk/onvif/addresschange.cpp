@@ -20,7 +20,7 @@ namespace {
 using namespace std::chrono_literals;
 
 /// True for an error after which the device may have carried out the request: its response was lost.
-bool isAnswerLost(NetError error)
+bool isResponseLost(NetError error)
 {
     return error == NetError::NetworkFailure || error == NetError::ConnectTimeout;
 }
@@ -96,7 +96,7 @@ private:
             m_client.setClockOffset(clockOffset(*clock.value.utc));
         const auto information = device.information();
         if (!information.isOk())
-            return isAnswerLost(information.error) ? Presence::Silent : Presence::Other;
+            return isResponseLost(information.error) ? Presence::Silent : Presence::Other;
         const std::string &serial = m_session.information().serialNumber;
         if (information.value.serialNumber != serial)
             return Presence::Other;
@@ -210,14 +210,14 @@ NetError changeAddress(const ServiceAddress &service, const std::shared_ptr<Http
     changed.address = order.address;
     changed.prefixLength = prefixLength.value_or(interface->prefixLength);
     const ServiceResult<bool> result = device.setAddress(changed);
-    if (!result.isOk() && !isAnswerLost(result.error)) {
+    if (!result.isOk() && !isResponseLost(result.error)) {
         gateway.restore(device);
         return result.error;
     }
     const bool needsReboot = result.isOk() && result.value;
     if (needsReboot) {
         const NetError reboot = device.reboot().error;
-        if (reboot != NetError::None && !isAnswerLost(reboot))
+        if (reboot != NetError::None && !isResponseLost(reboot))
             return reboot;
     }
     if (order.dhcp)

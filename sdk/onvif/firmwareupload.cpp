@@ -22,19 +22,19 @@ constexpr auto longestTransfer = 30min;
 constexpr std::chrono::seconds longestDelay = 60s;
 constexpr int fullPercent = 100;
 
-NetError errorOf(const HttpAnswer &answer)
+NetError errorOf(const HttpResponse &response)
 {
-    if (answer.end == HttpEnd::NotReached || answer.end == HttpEnd::NoAnswer)
+    if (response.end == HttpEnd::NotReached || response.end == HttpEnd::NoResponse)
         return NetError::ConnectTimeout;
-    if (answer.end == HttpEnd::UnknownCertificate)
+    if (response.end == HttpEnd::UnknownCertificate)
         return NetError::UnknownCertificate;
-    if (answer.end == HttpEnd::ChangedCertificate)
+    if (response.end == HttpEnd::ChangedCertificate)
         return NetError::ChangedCertificate;
-    if (answer.end != HttpEnd::Answered)
+    if (response.end != HttpEnd::Responded)
         return NetError::NetworkFailure;
-    if (answer.status >= 200 && answer.status < 300)
+    if (response.status >= 200 && response.status < 300)
         return NetError::None;
-    return answer.status == 401 ? NetError::WrongPassword : NetError::FirmwareRefused;
+    return response.status == 401 ? NetError::WrongPassword : NetError::FirmwareRefused;
 }
 
 } // namespace
@@ -81,12 +81,12 @@ private:
         std::error_code error;
         m_size = static_cast<std::int64_t>(std::filesystem::file_size(m_fileName, error));
         report(UpgradePhase::Sending, 0);
-        const HttpAnswer answer = m_http.postFile(
+        const HttpResponse response = m_http.postFile(
             m_upload.address, m_fileName, &m_login, [this](std::int64_t sent) { takeProgress(sent); },
             std::chrono::steady_clock::now() + longestTransfer);
         if (stop.stop_requested())
             return;
-        const NetError failure = errorOf(answer);
+        const NetError failure = errorOf(response);
         if (failure == NetError::None)
             report(UpgradePhase::Done, fullPercent);
         else

@@ -49,7 +49,7 @@ NetError errorOf(StreamEnd end)
     case StreamEnd::ConnectionRefused:
         return NetError::ConnectFailed;
     case StreamEnd::Unreachable:
-    case StreamEnd::NoAnswer:
+    case StreamEnd::NoResponse:
         return NetError::ConnectTimeout;
     default:
         return NetError::NetworkFailure;
@@ -63,7 +63,7 @@ StreamEndReason reasonOf(StreamEnd end)
         return StreamEndReason::Refused;
     case StreamEnd::ConnectionRefused:
     case StreamEnd::Unreachable:
-    case StreamEnd::NoAnswer:
+    case StreamEnd::NoResponse:
     case StreamEnd::NoData:
         return StreamEndReason::ConnectionLost;
     case StreamEnd::NoKeyFrame:
@@ -116,7 +116,7 @@ NetError LiveStream::start(const RtspOrder &order)
         return NetError::NetworkFailure; // no thread can be created
     }
     const std::stop_callback onCancel(RunningCall::stopOfThisThread(), [this] { m_stream->requestStop(); });
-    const std::optional<StreamEnd> end = m_stream->waitForAnswer();
+    const std::optional<StreamEnd> end = m_stream->waitForResponse();
     return end ? errorOf(*end) : NetError::None;
 }
 

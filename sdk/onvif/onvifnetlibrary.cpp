@@ -109,8 +109,9 @@ bool OnvifNetLibrary::NetStopSearchDevices(std::int64_t searchHandle)
     return (call.isAllowed() && m_discovery->stop(searchHandle)) || m_error.fail(NetError::InvalidValue);
 }
 
-bool OnvifNetLibrary::searchByAddresses(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
-                                        void *user, std::chrono::milliseconds wait)
+bool OnvifNetLibrary::searchByAddresses(const SearchByAddressesRequest &request,
+                                        SearchResponseHandler handler, void *user,
+                                        std::chrono::milliseconds wait)
 {
     const CallGate::Call call(m_gate);
     if (!call.isAllowed() || request.size != sizeof(request) || !handler || request.count < 0 ||
@@ -124,13 +125,13 @@ bool OnvifNetLibrary::searchByAddresses(const SearchByAddressesRequest &request,
 }
 
 bool OnvifNetLibrary::NetSearchDevicesByIPs(const SearchByAddressesRequest &request,
-                                            SearchAnswerHandler handler, void *user, const char *,
+                                            SearchResponseHandler handler, void *user, const char *,
                                             std::chrono::milliseconds wait)
 {
     return searchByAddresses(request, handler, user, wait);
 }
 
-bool OnvifNetLibrary::NetSearchDevicesByIPsEx(const SearchByAddressesRequest &request, SearchAnswerHandler,
+bool OnvifNetLibrary::NetSearchDevicesByIPsEx(const SearchByAddressesRequest &request, SearchResponseHandler,
                                               void *, const char *, std::chrono::milliseconds)
 {
     // The same devices would respond once more.
@@ -141,7 +142,7 @@ bool OnvifNetLibrary::NetSearchDevicesByIPsEx(const SearchByAddressesRequest &re
 }
 
 void OnvifNetLibrary::NetSearchDeviceByIp(const SearchByAddressesRequest &request,
-                                          SearchAnswerHandler handler, void *user,
+                                          SearchResponseHandler handler, void *user,
                                           std::chrono::milliseconds wait)
 {
     searchByAddresses(request, handler, user, wait);

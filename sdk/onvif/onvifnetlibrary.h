@@ -37,14 +37,14 @@ public:
                                        std::chrono::milliseconds wait) override;
     std::int64_t NetStartSearchDevicesEx(const SearchParameterEx &parameter,
                                          std::chrono::milliseconds wait) override;
-    bool NetSearchDevicesByIPs(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
+    bool NetSearchDevicesByIPs(const SearchByAddressesRequest &request, SearchResponseHandler handler,
                                void *user, const char *localAddress, std::chrono::milliseconds wait) override;
-    bool NetSearchDevicesByIPsEx(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
+    bool NetSearchDevicesByIPsEx(const SearchByAddressesRequest &request, SearchResponseHandler handler,
                                  void *user, const char *localAddress,
                                  std::chrono::milliseconds wait) override;
     bool NetStopSearchDevices(std::int64_t searchHandle) override;
-    void NetSearchDeviceByIp(const SearchByAddressesRequest &request, SearchAnswerHandler handler, void *user,
-                             std::chrono::milliseconds wait) override;
+    void NetSearchDeviceByIp(const SearchByAddressesRequest &request, SearchResponseHandler handler,
+                             void *user, std::chrono::milliseconds wait) override;
     bool NetGetSearchReport(SearchReport &report) override;
 
     LLONG NetLogin(const char *address, std::int32_t port, const char *account, const char *password,
@@ -109,7 +109,7 @@ private:
     void endSessionsTo(const std::string &host);
     /// Runs `work` on the session and stores its error for the calling thread. False for an invalid handle.
     bool onSession(LLONG loginHandle, std::chrono::milliseconds wait, const SessionWork &work);
-    bool searchByAddresses(const SearchByAddressesRequest &request, SearchAnswerHandler handler, void *user,
+    bool searchByAddresses(const SearchByAddressesRequest &request, SearchResponseHandler handler, void *user,
                            std::chrono::milliseconds wait);
 
     const std::shared_ptr<CertificateDecision> m_certificates = std::make_shared<CertificateDecision>();

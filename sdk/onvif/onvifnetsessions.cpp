@@ -200,7 +200,7 @@ bool OnvifNetLibrary::NetQueryConfig(LLONG loginHandle, QueryCommand command, st
                                      std::chrono::milliseconds wait)
 {
     returnedSize = 0;
-    const auto answer = [&](const auto &block) {
+    const auto copyOut = [&](const auto &block) {
         if (!buffer || bufferSize < sizeof(block))
             return NetError::InvalidValue;
         std::memcpy(buffer, &block, sizeof(block));
@@ -212,13 +212,13 @@ bool OnvifNetLibrary::NetQueryConfig(LLONG loginHandle, QueryCommand command, st
         case QueryCommand::DeviceAttributes: {
             DeviceAttributes attributes{};
             const NetError error = readAttributes(session, attributes, deadline);
-            return error == NetError::None ? answer(attributes) : error;
+            return error == NetError::None ? copyOut(attributes) : error;
         }
         case QueryCommand::Time: {
             const auto clock = session.device(deadline).clock();
             const std::optional<DateTime> shown = shownTime(clock.value);
             if (clock.isOk() && shown)
-                return answer(timeRecord(*shown));
+                return copyOut(timeRecord(*shown));
             return clock.isOk() ? NetError::NotSupported : clock.error;
         }
         case QueryCommand::NetworkServices: {
@@ -228,7 +228,7 @@ bool OnvifNetLibrary::NetQueryConfig(LLONG loginHandle, QueryCommand command, st
             services.webPort = portOf(protocols.value, "HTTP");
             services.servicePort = session.service().port;
             services.rtspPort = portOf(protocols.value, "RTSP");
-            return protocols.isOk() ? answer(services) : protocols.error;
+            return protocols.isOk() ? copyOut(services) : protocols.error;
         }
         }
         return NetError::NotSupported;

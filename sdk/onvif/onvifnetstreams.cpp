@@ -60,7 +60,7 @@ std::int64_t OnvifNetLibrary::NetStartRealStream(LLONG loginHandle, std::int32_t
             order.url = reachedUrl(url.value, session.service());
             order.account = login.account;
             order.password = login.password;
-            order.timeouts.answer = std::chrono::duration_cast<std::chrono::milliseconds>(
+            order.timeouts.response = std::chrono::duration_cast<std::chrono::milliseconds>(
                 deadline - std::chrono::steady_clock::now());
             const auto onRefusal = [this, loginHandle, login] { // no other request sends the password again
                 if (const std::shared_ptr<OnvifSession> refused = this->session(loginHandle))

@@ -126,14 +126,14 @@ bool matches(const DiscoveryRequest &request, const DiscoveryIdentity &identity)
            });
 }
 
-QByteArray answerTo(const DiscoveryRequest &request, const DiscoveryIdentity &identity,
-                    DiscoverySequence sequence, XmlManner manner)
+QByteArray responseTo(const DiscoveryRequest &request, const DiscoveryIdentity &identity,
+                      DiscoverySequence sequence, XmlManner manner)
 {
     const bool isProbe = request.kind == DiscoveryRequest::Kind::Probe;
     SoapMessage message;
     writeHead(message, isProbe ? "ProbeMatches" : "ResolveMatches", request.messageId, sequence);
-    XmlElement answer = message.body().add(isProbe ? "d:ProbeMatches" : "d:ResolveMatches");
-    writeIdentity(answer.add(isProbe ? "d:ProbeMatch" : "d:ResolveMatch"), identity);
+    XmlElement response = message.body().add(isProbe ? "d:ProbeMatches" : "d:ResolveMatches");
+    writeIdentity(response.add(isProbe ? "d:ProbeMatch" : "d:ResolveMatch"), identity);
     return message.bytes(manner);
 }
 

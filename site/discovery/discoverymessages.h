@@ -57,8 +57,8 @@ struct DiscoverySequence
     std::int64_t number = 0;
 };
 
-[[nodiscard]] QByteArray answerTo(const DiscoveryRequest &request, const DiscoveryIdentity &identity,
-                                  DiscoverySequence sequence, XmlManner manner);
+[[nodiscard]] QByteArray responseTo(const DiscoveryRequest &request, const DiscoveryIdentity &identity,
+                                    DiscoverySequence sequence, XmlManner manner);
 [[nodiscard]] QByteArray helloMessage(const DiscoveryIdentity &identity, DiscoverySequence sequence,
                                       XmlManner manner);
 [[nodiscard]] QByteArray byeMessage(const DiscoveryIdentity &identity, DiscoverySequence sequence,

@@ -177,7 +177,7 @@ void DiscoveryPort::receive(int ipVersion)
         for (int count = 0; count < times; ++count) {
             sockets->send(
                 ipVersion,
-                answerTo(request, discoveryIdentity(*now, manner, ipVersion), sockets->next(), manner.xml),
+                responseTo(request, discoveryIdentity(*now, manner, ipVersion), sockets->next(), manner.xml),
                 source, length);
         }
     });

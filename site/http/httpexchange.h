@@ -31,13 +31,13 @@ public:
     virtual ~HttpService() = default;
 
     /// Called before the body of a request is read. Returns the function that receives the body, if it may be
-    /// too large to keep; empty for a body that is passed to answer().
+    /// too large to keep; empty for a body that is passed to respond().
     [[nodiscard]] virtual BodyReceiver bodyReceiver(const HttpReceiver &receiver,
                                                     const sdk::demo::HttpRequest &head) = 0;
 
     /// HttpStatus::None for no response: the connection is closed.
     [[nodiscard]] virtual sdk::demo::HttpResponse
-    answer(const HttpReceiver &receiver, const sdk::demo::HttpRequest &head, const QByteArray &body) = 0;
+    respond(const HttpReceiver &receiver, const sdk::demo::HttpRequest &head, const QByteArray &body) = 0;
 };
 
 } // namespace site

@@ -40,7 +40,7 @@ void ServerConnection::serve()
                 linger();
             return;
         }
-        const HttpResponse response = m_service.answer(m_receiver, head, body);
+        const HttpResponse response = m_service.respond(m_receiver, head, body);
         if (response.status == HttpStatus::None)
             return;
         const bool hasBody = head.method != "HEAD";

@@ -18,19 +18,19 @@ std::span<const std::byte> bytesOf(const auto &value)
     return {reinterpret_cast<const std::byte *>(&value), sizeof(value)};
 }
 
-int readAnswer(int socket)
+int readResponse(int socket)
 {
-    alignas(nlmsghdr) std::array<std::byte, 4096> answer;
+    alignas(nlmsghdr) std::array<std::byte, 4096> response;
     ssize_t size = 0;
     do
-        size = recv(socket, answer.data(), answer.size(), 0);
+        size = recv(socket, response.data(), response.size(), 0);
     while (size < 0 && errno == EINTR);
     nlmsghdr head = {};
     nlmsgerr error = {};
     if (size < static_cast<ssize_t>(sizeof(head) + sizeof(error)))
         return EPROTO;
-    std::memcpy(&head, answer.data(), sizeof(head));
-    std::memcpy(&error, answer.data() + sizeof(head), sizeof(error));
+    std::memcpy(&head, response.data(), sizeof(head));
+    std::memcpy(&error, response.data() + sizeof(head), sizeof(error));
     return head.nlmsg_type == NLMSG_ERROR ? -error.error : EPROTO;
 }
 
@@ -94,7 +94,7 @@ int NetlinkRequest::send()
     if (!socket.isOpen() || sendto(socket.number(), m_bytes.data(), m_size, 0,
                                    reinterpret_cast<const sockaddr *>(&kernel), sizeof(kernel)) < 0)
         return errno;
-    return readAnswer(socket.number());
+    return readResponse(socket.number());
 }
 
 } // namespace site

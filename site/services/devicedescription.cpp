@@ -1,7 +1,7 @@
 #include "site/services/devicedescription.h"
 
 #include "sdk/blocktext.h"
-#include "sdk/demo/device/deviceanswers.h"
+#include "sdk/demo/device/deviceresponses.h"
 #include "site/deviceidentity.h"
 #include "site/services/services.h"
 #include "site/soap/namespaces.h"

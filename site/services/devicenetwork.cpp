@@ -1,6 +1,6 @@
 #include "site/services/devicenetwork.h"
 
-#include "sdk/demo/device/deviceanswers.h"
+#include "sdk/demo/device/deviceresponses.h"
 #include "sdk/demo/device/fieldtext.h"
 #include "sdk/demo/scene/addresstext.h"
 #include "sdk/demo/site/devicechanges.h"

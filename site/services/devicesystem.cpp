@@ -19,7 +19,7 @@ constexpr std::int64_t moment = 1500;
 ServiceResult systemReboot(ServiceCall &call)
 {
     const sdk::NetError error =
-        call.change([&call](SceneDevice &device) { return rebootAfterAnswer(device, call.now); });
+        call.change([&call](SceneDevice &device) { return rebootAfterResponse(device, call.now); });
     if (error != sdk::NetError::None)
         return SoapFault::prohibited(u"The device refuses to reboot"_s);
     applyPendingAddress(call);

@@ -1,7 +1,7 @@
 #include "site/services/devicetime.h"
 
 #include "sdk/configtext/configtext.h"
-#include "sdk/demo/device/deviceanswers.h"
+#include "sdk/demo/device/deviceresponses.h"
 #include "sdk/demo/device/fieldtext.h"
 #include "sdk/demo/device/maintenance.h"
 #include "sdk/systemrecords.h"

@@ -18,12 +18,12 @@ BodyReceiver DeviceWeb::bodyReceiver(const HttpReceiver &receiver, const HttpReq
     return m_context.uploads.bodyReceiver(receiver, path, head.bodyLength);
 }
 
-HttpResponse DeviceWeb::answer(const HttpReceiver &receiver, const HttpRequest &head, const QByteArray &body)
+HttpResponse DeviceWeb::respond(const HttpReceiver &receiver, const HttpRequest &head, const QByteArray &body)
 {
     const HttpTarget target = readHttpTarget(head.target);
     if (isServicePath(target.path)) {
         if (head.method == "POST")
-            return m_soap.answer(receiver, head, body);
+            return m_soap.respond(receiver, head, body);
         HttpResponse response =
             HttpResponse::line(HttpStatus::MethodNotAllowed, u"Services take POST only"_s);
         response.fields.append("Allow: POST");

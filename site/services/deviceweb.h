@@ -15,8 +15,9 @@ public:
 
     [[nodiscard]] BodyReceiver bodyReceiver(const HttpReceiver &receiver,
                                             const sdk::demo::HttpRequest &head) override;
-    [[nodiscard]] sdk::demo::HttpResponse
-    answer(const HttpReceiver &receiver, const sdk::demo::HttpRequest &head, const QByteArray &body) override;
+    [[nodiscard]] sdk::demo::HttpResponse respond(const HttpReceiver &receiver,
+                                                  const sdk::demo::HttpRequest &head,
+                                                  const QByteArray &body) override;
 
 private:
     ServiceContext &m_context;

@@ -69,8 +69,8 @@ const ServiceOperation *operationOf(const SoapRequest &request, const DeviceMann
 
 } // namespace
 
-HttpResponse SoapService::answer(const HttpReceiver &receiver, const HttpRequest &head,
-                                 const QByteArray &body)
+HttpResponse SoapService::respond(const HttpReceiver &receiver, const HttpRequest &head,
+                                  const QByteArray &body)
 {
     const std::optional<SceneDevice> device = m_context.site.device(receiver.mac);
     HttpResponse response;

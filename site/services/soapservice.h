@@ -14,8 +14,8 @@ public:
 
     /// The response to a request with the text `body`. HttpStatus::None while the device is offline. Blocks
     /// for the delay of a slow device.
-    [[nodiscard]] sdk::demo::HttpResponse answer(const HttpReceiver &receiver,
-                                                 const sdk::demo::HttpRequest &head, const QByteArray &body);
+    [[nodiscard]] sdk::demo::HttpResponse respond(const HttpReceiver &receiver,
+                                                  const sdk::demo::HttpRequest &head, const QByteArray &body);
 
 private:
     struct Outcome

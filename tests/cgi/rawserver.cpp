@@ -35,7 +35,7 @@ bool RawExchange::send(QByteArrayView bytes) const
     return sent == bytes.size();
 }
 
-bool RawExchange::answer(const QByteArray &status, const QByteArray &headers, const QByteArray &body) const
+bool RawExchange::respond(const QByteArray &status, const QByteArray &headers, const QByteArray &body) const
 {
     return send("HTTP/1.1 " + status + "\r\n" + headers + "Connection: close\r\nContent-Length: " +
                 QByteArray::number(body.size()) + "\r\n\r\n" + body);

@@ -27,7 +27,7 @@ public:
     bool send(QByteArrayView bytes) const;
 
     /// Sends a complete response with headers and body.
-    bool answer(const QByteArray &status, const QByteArray &headers, const QByteArray &body) const;
+    bool respond(const QByteArray &status, const QByteArray &headers, const QByteArray &body) const;
 
     /// Waits until the end of the server or of the client at most. False when one of them has ended.
     [[nodiscard]] bool pause(int milliseconds) const;

@@ -13,7 +13,7 @@ class RecordedTransport : public HttpTransport
 {
 public:
     /// The response to each URL.
-    std::function<QByteArray(const QByteArray &url)> answer = [](const QByteArray &) {
+    std::function<QByteArray(const QByteArray &url)> response = [](const QByteArray &) {
         return QByteArray("OK");
     };
     // The records may be read while no command runs.
@@ -33,7 +33,7 @@ public:
         const std::lock_guard lock(m_mutex);
         urls.append(QString::fromUtf8(request.url()));
         credentials.append(QString::fromUtf8(request.userPassword()));
-        return std::make_unique<RecordedHttpRequest>(*this, answer(request.url()));
+        return std::make_unique<RecordedHttpRequest>(*this, response(request.url()));
     }
 
 private:

@@ -19,7 +19,7 @@
 class TlsServer
 {
 public:
-    explicit TlsServer(QByteArray answer) : m_answer(std::move(answer))
+    explicit TlsServer(QByteArray response) : m_response(std::move(response))
     {
         sockaddr_in address{};
         address.sin_family = AF_INET;
@@ -75,7 +75,7 @@ private:
                         const std::scoped_lock lock(m_mutex);
                         m_requests.append(QByteArray(bytes.data(), count));
                     }
-                    (void)stream.send(m_answer.constData(), static_cast<std::size_t>(m_answer.size()));
+                    (void)stream.send(m_response.constData(), static_cast<std::size_t>(m_response.size()));
                 }
                 stream.finishSending();
             }
@@ -83,7 +83,7 @@ private:
         }
     }
 
-    const QByteArray m_answer;
+    const QByteArray m_response;
     const int m_listener = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
     int m_port = 0;
     mutable std::mutex m_mutex; ///< guards the members below

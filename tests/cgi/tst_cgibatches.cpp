@@ -1,6 +1,6 @@
 // Commands as batches: to listed devices, and from a workbook.
 #include "cgi/cgistep.h"
-#include "cgi/internal/longanswers.h"
+#include "cgi/internal/longresponses.h"
 #include "tests/cgi/commandsite.h"
 #include "tests/cgi/commandworkbooks.h"
 #include "tests/datatable.h"
@@ -57,7 +57,7 @@ private Q_SLOTS:
         // url: empty: nothing is sent
         // mark: what the mark of the device says, empty for none
         const auto row = dataTable<QString, int, QString, QByteArray, QString, QString, QString>(
-            {"ipport", "webPort", "password", "answer", "url", "result", "mark"});
+            {"ipport", "webPort", "password", "response", "url", "result", "mark"});
         const char *away = "Error:没有通往设备网页端口的隧道。";
         row("web port", "10.0.0.1:1", 8080, "s", "OK", "http://10.0.0.1:8080/cgi-bin/a", "OK", "");
         row("none reported", "10.0.0.1:1", 0, "s", "OK", "http://10.0.0.1:80/cgi-bin/a", "OK", "");
@@ -74,14 +74,14 @@ private Q_SLOTS:
         QFETCH(QString, ipport);
         QFETCH(int, webPort);
         QFETCH(QString, password);
-        QFETCH(QByteArray, answer);
+        QFETCH(QByteArray, response);
         QFETCH(QString, url);
         QFETCH(QString, mark);
         m_site->devices->add("d", ipport, webPort);
         m_site->factory.addP2PPort(5000, 5001);
         m_site->devices->accounts.insert("d", {{"account", "admin"}, {"password", password}});
-        m_site->transport->answer = [answer](const QByteArray &) {
-            return answer;
+        m_site->transport->response = [response](const QByteArray &) {
+            return response;
         };
         Batch *batch = send("/cgi-bin/a", {"d"});
         QVERIFY(batch);
@@ -97,7 +97,7 @@ private Q_SLOTS:
     {
         makeSite(1);
         m_site->transport->gate = std::make_unique<QSemaphore>(2); // the first device
-        const QSignalSpy answered(&m_site->commands, &CgiBatches::answered);
+        const QSignalSpy responded(&m_site->commands, &CgiBatches::responded);
         Batch *batch = send("/cgi-bin/a", {"a", "b", "c"});
         QTRY_COMPARE(m_site->transport->atGate, 3);
         batch->stop();
@@ -117,7 +117,7 @@ private Q_SLOTS:
         QCOMPARE(m_site->result("b"), "OK");
         QCOMPARE(m_site->result("c"), "OK");
         QStringList identities;
-        for (const QList<QVariant> &news : answered)
+        for (const QList<QVariant> &news : responded)
             identities += news.first().toStringList();
         QCOMPARE(identities, QStringList({"a", "b", "c", "b", "c"}));
     }
@@ -140,35 +140,35 @@ private Q_SLOTS:
 
     void aLongResponseIsKeptCompletely()
     {
-        const QString answer(10'000, 'x');
-        m_site->transport->answer = [answer](const QByteArray &) {
-            return answer.toUtf8();
+        const QString response(10'000, 'x');
+        m_site->transport->response = [response](const QByteArray &) {
+            return response.toUtf8();
         };
         Batch *batch = send("/cgi-bin/a", {"a"});
         QTRY_VERIFY(!batch->isRunning());
-        QVERIFY(m_site->result("a").size() < answer.size());
+        QVERIFY(m_site->result("a").size() < response.size());
         QCOMPARE(batch->textOf("10.0.0.a:37777"), ""); // it may hold a secret
-        QCOMPARE(m_site->commands.answerOf("a", m_site->result("a")), answer);
-        QCOMPARE(m_site->commands.answerOf("a", "other"), "other");
+        QCOMPARE(m_site->commands.responseOf("a", m_site->result("a")), response);
+        QCOMPARE(m_site->commands.responseOf("a", "other"), "other");
     }
 
     void oldLongResponsesAreRemoved()
     {
-        LongAnswers answers;
-        constexpr qsizetype third = LongAnswers::maximumLength / 3 + 1;
+        LongResponses responses;
+        constexpr qsizetype third = LongResponses::maximumLength / 3 + 1;
         for (const char *key : {"a", "b", "a", "c"})
-            answers.keep(key, QString(third, key[0]));
-        QCOMPARE(answers.complete("b", "b"), "b");
-        QCOMPARE(answers.complete("a", "a").size(), third);
-        QCOMPARE(answers.complete("c", "c").size(), third);
-        answers.keep("a", "short");
-        QCOMPARE(answers.complete("a", "a"), "a");
+            responses.keep(key, QString(third, key[0]));
+        QCOMPARE(responses.complete("b", "b"), "b");
+        QCOMPARE(responses.complete("a", "a").size(), third);
+        QCOMPARE(responses.complete("c", "c").size(), third);
+        responses.keep("a", "short");
+        QCOMPARE(responses.complete("a", "a"), "a");
     }
 
     void imagesOfTheSameSecondHaveSeparateFiles()
     {
         m_site->transport->headers = "Content-Type: image/png\r\n";
-        m_site->transport->answer = [](const QByteArray &url) {
+        m_site->transport->response = [](const QByteArray &url) {
             return url;
         };
         Batch *batch = send("/cgi-bin/a", {"a", "b", "c"});
@@ -188,7 +188,7 @@ private Q_SLOTS:
                                               {"10.0.0.b", "37777", "admin", "s", "cgi-bin/3"},
                                               {"10.0.0.a:8080", "37777", "admin", "wrong", "/cgi-bin/4"},
                                               {"10.0.0.a", "37777", "admin", "s", "/cgi-bin/5", "1"}}));
-        m_site->transport->answer = [](const QByteArray &url) {
+        m_site->transport->response = [](const QByteArray &url) {
             return url.endsWith('5') ? QByteArray(100'000, 'x') : url;
         };
         const QSignalSpy ended(m_site->commands.workbooks(), &CgiWorkbooks::ended);

@@ -85,22 +85,22 @@ private Q_SLOTS:
                                {"", "80", "admin", "secret1", "/cgi-bin/b"},
                                {"", "", "admin", "secret1", ""},
                                {"[fe80::1]", "37777", "管理员", "", "/cgi-bin/东"}}));
-        m_transport->answer = [](const QByteArray &url) {
-            return "answer of " + url;
+        m_transport->response = [](const QByteArray &url) {
+            return "response of " + url;
         };
         const QString text = m_manager->batchCGIConfig(QUrl::fromLocalFile(path()).toString());
         QCOMPARE(text,
                  "执行完成：成功3行，失败5行。\n执行结果已保存到文件：" + QDir::toNativeSeparators(path()));
-        const QStringList expected = {"answer of http://10.0.0.1/cgi-bin/a?b=c%20d",
+        const QStringList expected = {"response of http://10.0.0.1/cgi-bin/a?b=c%20d",
                                       "",
-                                      "answer of https://10.0.0.2:8443/cgi-bin/b",
+                                      "response of https://10.0.0.2:8443/cgi-bin/b",
                                       "Error:账号或密码错误。",
                                       "Error:URL格式错误。",
                                       "Error:请填写CGI命令的具体内容。",
                                       "Error:URL格式错误。",
                                       "Error:URL格式错误。",
                                       "",
-                                      "answer of http://[fe80::1]/cgi-bin/%E4%B8%9C"};
+                                      "response of http://[fe80::1]/cgi-bin/%E4%B8%9C"};
         QCOMPARE(commandResults(path(), 10), expected);
         QCOMPARE(m_logins, QStringList({"10.0.0.1:37777", "10.0.0.2:80", "10.0.0.3:80", "[fe80::1]:37777"}));
         QCOMPARE(m_transport->credentials, QStringList({"admin:secret1", "admin:a:b", "管理员:"}));

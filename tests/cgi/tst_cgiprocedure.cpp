@@ -192,9 +192,9 @@ private Q_SLOTS:
         QFETCH(QByteArray, target);
         RawServer server([&](const RawExchange &exchange) {
             if (isLetIn(exchange.request(), challenge, target))
-                exchange.answer("200 OK", textType, "OK 东门\r\n");
+                exchange.respond("200 OK", textType, "OK 东门\r\n");
             else
-                exchange.answer("401 Unauthorized", "WWW-Authenticate: " + challenge + "\r\n", "");
+                exchange.respond("401 Unauthorized", "WWW-Authenticate: " + challenge + "\r\n", "");
         });
         QCOMPARE(run(server.url(QString::fromUtf8(target) + "#part")), "OK 东门\r\n");
         QTEST(static_cast<int>(server.requests().size()), "requests");
@@ -213,11 +213,11 @@ private Q_SLOTS:
         const QByteArray content("\xFF\xD8picture\0of", 12);
         RawServer server([&content](const RawExchange &exchange) {
             if (exchange.request().startsWith("GET /picture"))
-                exchange.answer("200 OK", "Content-Type: image/jpeg\r\n", content);
+                exchange.respond("200 OK", "Content-Type: image/jpeg\r\n", content);
             else if (exchange.request().startsWith("GET /recording"))
-                exchange.answer("200 OK", recordingType, QByteArray(300'000, 'd'));
+                exchange.respond("200 OK", recordingType, QByteArray(300'000, 'd'));
             else
-                exchange.answer("404 Not Found", "Content-Type: image/jpeg\r\n", "missing");
+                exchange.respond("404 Not Found", "Content-Type: image/jpeg\r\n", "missing");
         });
         const QString picture = m_folder.filePath("20260309070501.jpg");
         QCOMPARE(run(server.url("/picture")), picture);
@@ -231,7 +231,7 @@ private Q_SLOTS:
 
     void forbiddenCommandsAreNotSent()
     {
-        RawServer server([](const RawExchange &exchange) { exchange.answer("200 OK", textType, "OK"); });
+        RawServer server([](const RawExchange &exchange) { exchange.respond("200 OK", textType, "OK"); });
         m_loginResult = 3;
         QCOMPARE(run(server.url("/cgi-bin/a")), "Error:设备被锁定。");
         m_loginResult = 14;
@@ -247,10 +247,10 @@ private Q_SLOTS:
     {
         RawServer server([](const RawExchange &exchange) {
             if (exchange.request().contains("Authorization"))
-                exchange.answer("200 OK", textType, "OK");
+                exchange.respond("200 OK", textType, "OK");
             else
-                exchange.answer("401 Unauthorized", "WWW-Authenticate: Digest realm=\"d\", nonce=\"1\"\r\n",
-                                "");
+                exchange.respond("401 Unauthorized", "WWW-Authenticate: Digest realm=\"d\", nonce=\"1\"\r\n",
+                                 "");
         });
         const QString command = server.url("/cgi-bin/a?b=c\r\nX-Smuggled: 1");
         QCOMPARE(CgiProcedure(m_surroundings, {}).run(command, user, "pass\r\nX-Smuggled: 1", "127.0.0.1:1"),
@@ -294,7 +294,7 @@ private Q_SLOTS:
         for (const QByteArray &type : {QByteArray("Content-Type: image/png\r\n"), recordingType, textType}) {
             const auto handler = [type](const RawExchange &exchange) {
                 const bool isFirst = exchange.number() == 1;
-                exchange.answer(isFirst ? "200 OK" : "404 Not Found", isFirst ? type : textType, "body");
+                exchange.respond(isFirst ? "200 OK" : "404 Not Found", isFirst ? type : textType, "body");
             };
             row("becomes a page: " + type.trimmed(), handler, "Error:服务器连接失败 (HTTP 404)");
         }
@@ -315,11 +315,11 @@ private Q_SLOTS:
     /// The results of rows name the kind of failure in the user's language, before the words of the library.
     void aRowExplainsItsFailure_data()
     {
-        // answer: empty: the server does not respond. result: its start
-        const auto row = dataTable<bool, QByteArray, QString>({"isListening", "answer", "result"});
+        // response: empty: the server does not respond. result: its start
+        const auto row = dataTable<bool, QByteArray, QString>({"isListening", "response", "result"});
         const QByteArray cut = "HTTP/1.1 200 OK\r\nContent-Length: 1000\r\n\r\nbeginning";
         row("no server listens", false, "", "Error:设备拒绝连接，请检查HTTP端口（");
-        row("no answer", true, "", "Error:设备没有及时应答（");
+        row("no response", true, "", "Error:设备没有及时应答（");
         row("no status line", true, "hello\r\n\r\nwhat is HTTP?", "Error:设备的应答不是有效的HTTP（");
         row("cut short", true, cut, "Error:应答结束前连接已断开（");
         row("refused", true, "HTTP/1.1 403 Forbidden\r\nContent-Length: 0\r\n\r\n",
@@ -329,11 +329,11 @@ private Q_SLOTS:
     void aRowExplainsItsFailure()
     {
         QFETCH(bool, isListening);
-        QFETCH(QByteArray, answer);
+        QFETCH(QByteArray, response);
         QFETCH(QString, result);
-        auto server = std::make_unique<RawServer>([answer](const RawExchange &exchange) {
-            exchange.send(answer);
-            while (answer.isEmpty() && exchange.pause(50)) {
+        auto server = std::make_unique<RawServer>([response](const RawExchange &exchange) {
+            exchange.send(response);
+            while (response.isEmpty() && exchange.pause(50)) {
             }
         });
         m_surroundings.explainsFailures = true;
@@ -416,7 +416,7 @@ private Q_SLOTS:
         transport->headers = "Content-Type: " + type + "\r\n";
         m_surroundings.transport = transport;
         qsizetype size = largest;
-        transport->answer = [&size](const QByteArray &) {
+        transport->response = [&size](const QByteArray &) {
             return QByteArray(size, 'x');
         };
         QVERIFY(!run("http://127.0.0.1/a").startsWith("Error:"));
@@ -464,15 +464,15 @@ private Q_SLOTS:
     void theSecondResponseIsTheText()
     {
         RawServer server([](const RawExchange &exchange) {
-            exchange.answer("200 OK", textType, "answer " + QByteArray::number(exchange.number()));
+            exchange.respond("200 OK", textType, "response " + QByteArray::number(exchange.number()));
         });
-        QCOMPARE(run(server.url("/cgi-bin/a")), "answer 2");
+        QCOMPARE(run(server.url("/cgi-bin/a")), "response 2");
     }
 
     void aFileThatCannotBeCreatedLeavesTheResultEmpty()
     {
         RawServer server([](const RawExchange &exchange) {
-            exchange.answer("200 OK", "Content-Type: image/png\r\n", "png");
+            exchange.respond("200 OK", "Content-Type: image/png\r\n", "png");
         });
         m_surroundings.folder = m_folder.filePath("none");
         QCOMPARE(run(server.url("/cgi-bin/a")), "");
@@ -482,7 +482,7 @@ private Q_SLOTS:
     void aFullDiskIsReported()
     {
         RawServer server([](const RawExchange &exchange) {
-            exchange.answer("200 OK", recordingType, QByteArray(1'000'000, 'd'));
+            exchange.respond("200 OK", recordingType, QByteArray(1'000'000, 'd'));
         });
         const FileSizeLimit limit(200'000);
         const QString result = run(server.url("/cgi-bin/a"));
@@ -494,8 +494,8 @@ private Q_SLOTS:
     /// directly.
     void onlyTheConfiguredProxyIsUsed()
     {
-        RawServer device([](const RawExchange &exchange) { exchange.answer("200 OK", textType, "device"); });
-        RawServer proxy([](const RawExchange &exchange) { exchange.answer("200 OK", textType, "proxy"); });
+        RawServer device([](const RawExchange &exchange) { exchange.respond("200 OK", textType, "device"); });
+        RawServer proxy([](const RawExchange &exchange) { exchange.respond("200 OK", textType, "proxy"); });
         const QString proxyUrl = proxy.url({});
         qputenv("http_proxy", proxyUrl.toUtf8());
         qputenv("no_proxy", "10.11.12.13");

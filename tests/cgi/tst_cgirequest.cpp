@@ -1,6 +1,6 @@
 // The encoding of a command, and the evaluation of the headers of its response.
-#include "cgi/answerkind.h"
 #include "cgi/cgirequest.h"
+#include "cgi/responsekind.h"
 #include "tests/datatable.h"
 
 #include <QStringEncoder>
@@ -50,26 +50,26 @@ private Q_SLOTS:
 
     void choosesTheFileByTheHeaders_data()
     {
-        const auto addRow = dataTable<QByteArray, AnswerKind, QString>({"headers", "kind", "ending"});
-        const auto row = [&addRow](const char *type, AnswerKind kind, const char *ending) {
+        const auto addRow = dataTable<QByteArray, ResponseKind, QString>({"headers", "kind", "ending"});
+        const auto row = [&addRow](const char *type, ResponseKind kind, const char *ending) {
             addRow(type, QByteArray("HTTP/1.1 200 OK\r\nContent-Type: ") + type + "\r\n\r\n", kind, ending);
         };
-        row("text/plain;charset=utf-8", AnswerKind::Text, "");
-        row("image/jpeg", AnswerKind::Picture, ".jpg");
-        row("image/png", AnswerKind::Picture, ".png");
-        row("image/svg+xml", AnswerKind::Picture, ".svg");
-        row("image/webp", AnswerKind::Picture, ".webp");
-        row("image/tiff", AnswerKind::Picture, ".jpg");
-        row("Image/PNG", AnswerKind::Text, "");
-        row("application/octet-stream", AnswerKind::Recording, ".dav");
-        row("multipart/mixed; image/png; octet-stream", AnswerKind::Picture, ".png");
+        row("text/plain;charset=utf-8", ResponseKind::Text, "");
+        row("image/jpeg", ResponseKind::Picture, ".jpg");
+        row("image/png", ResponseKind::Picture, ".png");
+        row("image/svg+xml", ResponseKind::Picture, ".svg");
+        row("image/webp", ResponseKind::Picture, ".webp");
+        row("image/tiff", ResponseKind::Picture, ".jpg");
+        row("Image/PNG", ResponseKind::Text, "");
+        row("application/octet-stream", ResponseKind::Recording, ".dav");
+        row("multipart/mixed; image/png; octet-stream", ResponseKind::Picture, ".png");
     }
 
     void choosesTheFileByTheHeaders()
     {
         QFETCH(QByteArray, headers);
-        QTEST(answerKind(headers), "kind");
-        QTEST(answerFileEnding(headers), "ending");
+        QTEST(responseKind(headers), "kind");
+        QTEST(responseFileEnding(headers), "ending");
     }
 
     void readsTextsInTheirEncoding_data()
@@ -100,7 +100,7 @@ private Q_SLOTS:
             "HTTP/1.1 401 Unauthorized\r\nContent-Type: text/html; charset=Big5\r\n\r\n"
             "HTTP/1.1 200 OK\r\nContent-Type: " +
             type + "\r\nX-Other: charset=Big5\r\n\r\n";
-        QTEST(answerText(headers, body), "text");
+        QTEST(responseText(headers, body), "text");
     }
 };
 

@@ -6,7 +6,7 @@
 #include "device/registry/upgradetools.h"
 #include "device/store/devicefilter.h"
 #include "device/store/devicerow.h"
-#include "tests/device/searchanswers.h"
+#include "tests/device/searchresponses.h"
 
 #include <algorithm>
 #include <utility>
@@ -35,13 +35,13 @@ public:
         return filteredRows(ipv6, filtertype, searchtext, RowFamily::IPv6);
     }
 
-    void add(const AnswerTexts &texts)
+    void add(const ResponseTexts &texts)
     {
-        const sdk::SearchAnswer answer = searchAnswer(texts);
+        const sdk::SearchResponse response = searchResponse(texts);
         if (texts.ipVersion == 4)
-            ipv4.append(ipv4Row(answer));
+            ipv4.append(ipv4Row(response));
         else
-            ipv6.append(ipv6Row(answer));
+            ipv6.append(ipv6Row(response));
     }
 
     /// Sets the upgrade result of an IPv4 row.

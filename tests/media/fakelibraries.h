@@ -148,7 +148,7 @@ public:
     std::int64_t NetStartRealStream(std::int64_t loginHandle, std::int32_t channel, std::uintptr_t window,
                                     sdk::LiveStreamKind kind) override
     {
-        const std::lock_guard answers(mutexOfAnswers);
+        const std::lock_guard responses(mutexOfResponses);
         const QString arguments = QString("%1, %2, %3, %4").arg(loginHandle).arg(channel);
         return m_calls.add("NetStartRealStream", arguments.arg(window).arg(int(kind))) ? stream : 0;
     }
@@ -174,7 +174,7 @@ public:
     [[nodiscard]] std::uint32_t NetGetLastError() const override { return lastError; }
 
     std::atomic<std::uint32_t> lastError = 0;
-    std::mutex mutexOfAnswers; ///< while locked, the device does not respond to a request for a stream
+    std::mutex mutexOfResponses; ///< while locked, the device does not respond to a request for a stream
 
     bool deliver(const QByteArray &bytes)
     {

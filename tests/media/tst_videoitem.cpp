@@ -124,7 +124,7 @@ private Q_SLOTS:
     {
         QSignalSpy ended(m_item.get(), &VideoItem::startEnded);
         {
-            const std::lock_guard noAnswer(m_fake->net->mutexOfAnswers);
+            const std::lock_guard noResponse(m_fake->net->mutexOfResponses);
             m_item->startInBackground(); // returns immediately
             QCOMPARE(m_fake->calls.take(), decoderStarted);
             QVERIFY(!m_item->isStreaming());
@@ -174,7 +174,7 @@ private Q_SLOTS:
         QFETCH(bool, isStopped);
         QSignalSpy ended(m_item.get(), &VideoItem::startEnded);
         {
-            const std::lock_guard noAnswer(m_fake->net->mutexOfAnswers);
+            const std::lock_guard noResponse(m_fake->net->mutexOfResponses);
             m_item->startInBackground();
             if (isStopped)
                 m_item->stop();

@@ -50,7 +50,7 @@ QString nameOf(NetError error)
 /// Counts the responses of a search.
 struct SearchCounter
 {
-    static void take(std::int64_t, const SearchAnswer *, void *user)
+    static void take(std::int64_t, const SearchResponse *, void *user)
     {
         auto *counter = static_cast<SearchCounter *>(user);
         ++counter->count;
@@ -381,9 +381,10 @@ private Q_SLOTS:
             QCOMPARE(error, nameOf(NetError::Cancelled));
             QVERIFY(login(device.constData()) > 0); // at its old address
         } else {
-            const QStringList unanswered = {nameOf(NetError::ConnectTimeout),
-                                            nameOf(NetError::NetworkFailure), nameOf(NetError::Unconfirmed)};
-            QVERIFY2(unanswered.contains(error), qPrintable(error));
+            const QStringList withoutResponse = {nameOf(NetError::ConnectTimeout),
+                                                 nameOf(NetError::NetworkFailure),
+                                                 nameOf(NetError::Unconfirmed)};
+            QVERIFY2(withoutResponse.contains(error), qPrintable(error));
         }
     }
 

@@ -65,7 +65,7 @@ private Q_SLOTS:
         QTemporaryFile file;
         QVERIFY(file.open());
         auto &record = AxRecord::instance();
-        record.answers = {{firstSheet + ".UsedRange.Row", 2}, {firstSheet + ".UsedRange.Rows.Count", 40}};
+        record.responses = {{firstSheet + ".UsedRange.Row", 2}, {firstSheet + ".UsedRange.Rows.Count", 40}};
         QExcel excel(std::make_unique<ApplicationSheetEngine>());
         QVERIFY(excel.open(file.fileName()));
         QCOMPARE(takeChanges().last(),
@@ -76,7 +76,7 @@ private Q_SLOTS:
             {"text", "text"}, {37777.0, "37777"}, {0.1 + 0.2, "0.3"},
             {true, "TRUE"},   {QVariant(), ""},   {QDateTime({2024, 2, 29}, {12, 0}), "45351.5"}};
         for (const auto &[value, text] : values) {
-            record.answers[firstSheet + ".Cells(int,int) 3 1.Value"] = value;
+            record.responses[firstSheet + ".Cells(int,int) 3 1.Value"] = value;
             QCOMPARE(excel.cellText(3, 1), text);
         }
         const int alive = record.alive;

@@ -15,7 +15,7 @@
 
 namespace site {
 
-struct Answer
+struct Response
 {
     int status = 0; ///< 0 without a response
     QByteArray head;
@@ -58,7 +58,7 @@ struct Answer
 };
 
 /// One request on a separate connection, which is closed after the response.
-inline Answer exchange(const QString &address, int port, const QByteArray &bytes, int patience = 10000)
+inline Response exchange(const QString &address, int port, const QByteArray &bytes, int patience = 10000)
 {
     QTcpSocket socket;
     socket.connectToHost(address, static_cast<quint16>(port));
@@ -66,22 +66,22 @@ inline Answer exchange(const QString &address, int port, const QByteArray &bytes
         return {};
     socket.write(bytes);
     QByteArray received;
-    Answer answer;
+    Response response;
     for (;;) {
         const qsizetype headEnd = received.indexOf("\r\n\r\n");
         if (headEnd >= 0) {
-            answer.head = received.left(headEnd);
-            answer.body = received.mid(headEnd + 4);
-            const QByteArray length = answer.fields("Content-Length").value(0, "0");
-            if (answer.body.size() >= length.toLongLong())
+            response.head = received.left(headEnd);
+            response.body = received.mid(headEnd + 4);
+            const QByteArray length = response.fields("Content-Length").value(0, "0");
+            if (response.body.size() >= length.toLongLong())
                 break;
         }
         if (!socket.waitForReadyRead(patience))
             return {};
         received += socket.readAll();
     }
-    answer.status = answer.head.split(' ').value(1).toInt();
-    return answer;
+    response.status = response.head.split(' ').value(1).toInt();
+    return response;
 }
 
 struct Login
@@ -105,7 +105,7 @@ inline QByteArray hashed(const QByteArray &text, const QByteArray &algorithm)
 }
 
 /// The response to the first challenge of `refusal` for the user "admin".
-inline QByteArray digestHeader(const Answer &refusal, const QString &password, const QByteArray &method,
+inline QByteArray digestHeader(const Response &refusal, const QString &password, const QByteArray &method,
                                const QByteArray &uri)
 {
     const QByteArray challenge = refusal.fields("WWW-Authenticate").value(0);
@@ -148,8 +148,8 @@ inline QByteArray tokenHeader(const Login &login)
 
 /// Sends a request to a service: `operation` is the element with the default namespace of its service; the
 /// prefix "tt" is declared.
-inline Answer ask(const QString &address, const QByteArray &operation, const Login &login = {},
-                  const QByteArray &service = "device", int port = 80)
+inline Response ask(const QString &address, const QByteArray &operation, const Login &login = {},
+                    const QByteArray &service = "device", int port = 80)
 {
     const QByteArray path = "/onvif/" + service + "_service";
     const QByteArray body = "<e:Envelope xmlns:e=\"http://www.w3.org/2003/05/soap-envelope\" "
@@ -161,10 +161,10 @@ inline Answer ask(const QString &address, const QByteArray &operation, const Log
                "Content-Type: application/soap+xml\r\nContent-Length: " + QByteArray::number(body.size()) +
                "\r\n\r\n" + body;
     };
-    const Answer answer = exchange(address, port, request({}));
-    if (login.kind != Login::Kind::Digest || answer.status != 401)
-        return answer;
-    return exchange(address, port, request(digestHeader(answer, login.password, "POST", path)));
+    const Response response = exchange(address, port, request({}));
+    if (login.kind != Login::Kind::Digest || response.status != 401)
+        return response;
+    return exchange(address, port, request(digestHeader(response, login.password, "POST", path)));
 }
 
 /// An operation of the device service.

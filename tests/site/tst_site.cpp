@@ -14,13 +14,13 @@ namespace {
 const Login rightToken = {Login::Kind::Token, u"Right-1"_s};
 
 /// A device's first stream by RTSP: its description, or its refusal.
-Answer describe(const QString &address, const QByteArray &path, const QString &password)
+Response describe(const QString &address, const QByteArray &path, const QString &password)
 {
     const QByteArray uri = "rtsp://" + address.toLatin1() + path;
     const auto request = [&uri](const QByteArray &fields) {
         return "DESCRIBE " + uri + " RTSP/1.0\r\nCSeq: 1\r\n" + fields + "\r\n";
     };
-    const Answer refusal = exchange(address, 554, request({}));
+    const Response refusal = exchange(address, 554, request({}));
     return exchange(address, 554, request(digestHeader(refusal, password, "DESCRIBE", uri)));
 }
 
@@ -43,10 +43,10 @@ QStringList probe(const QString &group, const QByteArray &types, int count, int 
     QStringList found;
     while (found.size() < count && socket.waitForReadyRead(patience)) {
         while (socket.hasPendingDatagrams()) {
-            Answer answer;
-            answer.body.resize(socket.pendingDatagramSize());
-            socket.readDatagram(answer.body.data(), answer.body.size());
-            found.append(answer.text(u"XAddrs"_s));
+            Response response;
+            response.body.resize(socket.pendingDatagramSize());
+            socket.readDatagram(response.body.data(), response.body.size());
+            found.append(response.text(u"XAddrs"_s));
         }
     }
     found.sort();
@@ -177,7 +177,7 @@ void TestSite::initialisation()
     QCOMPARE(create("User"), u"400 AnonymousNotAllowed"_s);
     QCOMPARE(create("Administrator"), u"200"_s);
     QCOMPARE(create("Administrator"), u"401 NotAuthorized"_s);
-    const Answer users = ask(address, deviceOperation("GetUsers"), {Login::Kind::Token, u"First-1"_s});
+    const Response users = ask(address, deviceOperation("GetUsers"), {Login::Kind::Token, u"First-1"_s});
     QCOMPARE(users.texts(u"Username"_s) + users.texts(u"UserLevel"_s),
              (QStringList{u"admin"_s, u"Administrator"_s}));
 }
@@ -198,7 +198,7 @@ void TestSite::clockHasZone()
     };
     QCOMPARE(set("nowhere"), u"400 InvalidTimeZone"_s);
     QCOMPARE(set("CET-1CEST,M3.5.0,M10.5.0/3"), u"200"_s);
-    const Answer response = ask(address, deviceOperation("GetSystemDateAndTime"));
+    const Response response = ask(address, deviceOperation("GetSystemDateAndTime"));
     // UTC, then the time of the zone, which is two hours and a day ahead.
     QCOMPARE(response.texts(u"Hour"_s) + response.texts(u"Day"_s) + response.texts(u"Month"_s),
              (QStringList{u"20"_s, u"22"_s, u"31"_s, u"31"_s, u"7"_s, u"7"_s}));
@@ -245,8 +245,8 @@ void TestSite::streamFollowsEncoder()
 
 void TestSite::unconnectedChannelHasNoProfile()
 {
-    const Answer profiles = ask(u"192.168.7.12"_s, mediaOperation("GetProfiles"),
-                                {Login::Kind::Digest, u"Right-2"_s}, "media2", 8080);
+    const Response profiles = ask(u"192.168.7.12"_s, mediaOperation("GetProfiles"),
+                                  {Login::Kind::Digest, u"Right-2"_s}, "media2", 8080);
     QCOMPARE(profiles.texts(u"Name"_s), (QStringList{u"One main"_s, u"One sub"_s}));
 }
 
@@ -256,9 +256,9 @@ void TestSite::addressChanges()
         "<InterfaceToken>eth0</InterfaceToken><NetworkInterface><tt:IPv4><tt:Manual><tt:Address>192.168.7.41"
         "</tt:Address><tt:PrefixLength>24</tt:PrefixLength></tt:Manual><tt:DHCP>false</tt:DHCP></tt:IPv4>"
         "</NetworkInterface>";
-    const Answer answer = ask(u"192.168.7.14"_s, deviceOperation("SetNetworkInterfaces", settings),
-                              {Login::Kind::Digest, u"Right-4"_s});
-    QCOMPARE(answer.outcome() + answer.text(u"RebootNeeded"_s), u"200false"_s);
+    const Response response = ask(u"192.168.7.14"_s, deviceOperation("SetNetworkInterfaces", settings),
+                                  {Login::Kind::Digest, u"Right-4"_s});
+    QCOMPARE(response.outcome() + response.text(u"RebootNeeded"_s), u"200false"_s);
     const auto isThere = [] {
         return ask(u"192.168.7.41"_s, deviceOperation("GetSystemDateAndTime")).status == 200;
     };
@@ -273,7 +273,7 @@ void TestSite::firmwareIsInstalled()
 {
     const QString address = u"192.168.7.11"_s;
     const auto upload = [&address](const QByteArray &file) {
-        const Answer begin = ask(address, deviceOperation("StartFirmwareUpgrade"), rightToken);
+        const Response begin = ask(address, deviceOperation("StartFirmwareUpgrade"), rightToken);
         const QByteArray path = QUrl(begin.text(u"UploadUri"_s)).path().toLatin1();
         return exchange(address, 80,
                         "POST " + path +

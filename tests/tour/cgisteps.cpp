@@ -57,14 +57,14 @@ void walkOneDevice(Driver &driver)
     driver.check(all.contains(u"version="_s), u"the device reports its version"_s);
     driver.hover(u"cgiResponse0"_s);
     driver.await(u"the complete response is shown"_s, [&] { return driver.find(u"toolTip"_s) != nullptr; });
-    driver.report(u"cgi-answer"_s, driver.text(u"toolTip"_s).section(u'\n', 0, 2).replace(u'\n', u' '));
+    driver.report(u"cgi-response"_s, driver.text(u"toolTip"_s).section(u'\n', 0, 2).replace(u'\n', u' '));
     driver.rightClick(u"cgiResponse0"_s);
     expectToast(driver, translated("PageCGIConfig", "复制成功"));
     driver.check(QGuiApplication::clipboard()->text() == all, u"the response is on the clipboard"_s);
 
     driver.click(u"cgiResponseOpen0"_s);
     driver.require(u"cgiResponseLines"_s);
-    readResponseWindow(driver, u"cgi-answer-window"_s);
+    readResponseWindow(driver, u"cgi-response-window"_s);
 
     const QString refused = send(driver, u"/cgi-bin/nonsense"_s);
     driver.check(refused.startsWith(u"Error:"_s), u"an unknown command is an error"_s);
@@ -165,7 +165,7 @@ void walkWorkbook(Driver &driver, const QString &folder)
     const QString path = folder + u"/commands.xlsx"_s;
     writeWorkbook(driver, path);
     driver.click(u"workbookCgiButton"_s);
-    driver.answerFileBox(path);
+    driver.acceptFileBox(path);
     driver.require(u"previewTable"_s);
     driver.report(u"cgi-workbook"_s, driver.text(u"batchCount"_s));
     driver.click(u"okButton"_s);

@@ -135,7 +135,7 @@ void exportDetails(Driver &driver, const QString &folder)
     };
     QDir().mkpath(folder);
     driver.click(u"detailExportButton"_s);
-    driver.answerFileBox(folder);
+    driver.acceptFileBox(folder);
     driver.await(u"the details are written"_s, saidToast);
     const QByteArray written = fileContents(path);
     driver.check(written.contains(recorderMac.toLatin1()) && written.contains("554"),
@@ -145,7 +145,7 @@ void exportDetails(Driver &driver, const QString &folder)
 
     driver.check(writeFile(path, "kept"), u"the file is replaced"_s);
     driver.click(u"detailExportButton"_s);
-    driver.answerFileBox(folder);
+    driver.acceptFileBox(folder);
     driver.await(u"the user is asked"_s, [&] { return driver.text(u"messageText"_s).contains(path); });
     driver.await(u"the question has the keyboard"_s, [&] {
         const QQuickItem *item = driver.window()->activeFocusItem();

@@ -322,11 +322,11 @@ void walkImage(Driver &driver, sdk::demo::DemoSite &site)
 void walkLostLogin(Driver &driver, sdk::demo::DemoSite &site)
 {
     const QString mac = macOf(site, last);
-    const sdk::demo::FaultSetting noAnswer = {.fault = sdk::demo::Fault::NoAnswer};
+    const sdk::demo::FaultSetting noResponse = {.fault = sdk::demo::Fault::NoAnswer};
     const QString loggedIn = translated("DeviceState", "已登录");
     choose(driver, last);
     pick(driver, u"mainControlChoice"_s, 0);
-    site.setFault(mac, noAnswer);
+    site.setFault(mac, noResponse);
     pick(driver, u"subResolutionChoice"_s, 1);
     driver.report(u"config-lost-changes"_s, driver.text(u"encodeNotice"_s));
     driver.check(driver.find(u"mainControlChoice"_s) != nullptr, u"the changes are still in view"_s);
@@ -338,7 +338,7 @@ void walkLostLogin(Driver &driver, sdk::demo::DemoSite &site)
 
     driver.click(u"configTab1"_s);
     awaitConfigIdle(driver);
-    site.setFault(mac, noAnswer);
+    site.setFault(mac, noResponse);
     pick(driver, u"switchModeChoice"_s, 1);
     driver.report(u"config-lost"_s, driver.text(u"emptyTitle"_s));
     site.clearFault(mac, sdk::demo::Fault::NoAnswer);

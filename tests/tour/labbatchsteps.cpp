@@ -153,7 +153,7 @@ void walkUpgrades(Driver &driver)
     const Rows rows(driver, u"upgradeTable"_s);
     tickRows(driver, rows, cameras);
     driver.click(u"upgradeFileButton"_s);
-    driver.answerFileBox(firmware);
+    driver.acceptFileBox(firmware);
     driver.await(u"each has the file"_s, [&] {
         return allHave(rows, cameras, "filepath",
                        [&](const QVariant &file) { return file.toString() == firmware; });

@@ -32,7 +32,7 @@ void writeList(Driver &driver, const QString &format, const QString &folder)
     driver.click(u"format"_s + format);
     driver.report(u"export"_s + format, u"the format is chosen"_s);
     driver.click(u"okButton"_s);
-    driver.answerFileBox(folder);
+    driver.acceptFileBox(folder);
     expectMessage(driver, translated("导出设备成功\n文件路径:") + folder + u"/device"_s + format);
     driver.check(QFile::exists(folder + u"/device"_s + format), u"the list is written"_s);
 }
@@ -40,7 +40,7 @@ void writeList(Driver &driver, const QString &format, const QString &folder)
 void readList(const Driver &driver, const QString &path)
 {
     driver.click(u"importButton"_s);
-    driver.answerFileBox(path);
+    driver.acceptFileBox(path);
 }
 
 /// Fills the accounts into a CSV list. The device with the MAC `wrongFor` gets a wrong password.

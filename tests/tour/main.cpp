@@ -158,7 +158,7 @@ int watch(const QString &language, const QString &folder)
 }
 
 /// In a second instance: prints the text of its message box and closes it.
-void answerMessageBox(const QString &folder)
+void closeMessageBox(const QString &folder)
 {
     auto *closer = new QTimer(qApp);
     QObject::connect(closer, &QTimer::timeout, closer, [folder] {
@@ -308,7 +308,7 @@ int main(int argc, char *argv[])
     if (stage.isEmpty())
         return watch(language, folder);
     if (stage == "second")
-        answerMessageBox(folder);
+        closeMessageBox(folder);
     qputenv(folderVariable, folder.toLocal8Bit());
     QDir().mkpath(folder);
 

@@ -171,7 +171,7 @@ void walkFailedUpgrades(Driver &driver, sdk::demo::DemoSite &site, const QString
     awaitBatchEnd(driver);
     const QString path = folder + u"/results.csv"_s;
     driver.click(u"saveResultsButton"_s);
-    driver.answerFileBox(path);
+    driver.acceptFileBox(path);
     driver.await(u"the results are saved"_s,
                  [&] { return fileContents(path).count(newVersion.toLatin1()) == macs.size(); });
     driver.click(u"batchPanelButton"_s);
@@ -201,13 +201,13 @@ void walkTableUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &
     const QString emptyFile = firmware + u".empty"_s;
     driver.check(writeFile(emptyFile, {}), u"there is an empty file"_s);
     driver.click(u"upgradeFile%1"_s.arg(indexes.at(0)));
-    driver.answerFileBox(emptyFile);
+    driver.acceptFileBox(emptyFile);
     driver.await(u"the empty file is refused"_s, [&] { return result(0) == UpgradeTools::FileEmpty; });
     driver.check(!driver.find(u"upgradePhase%1"_s.arg(indexes.at(0))), u"no progress is shown"_s);
     for (const int row : indexes)
         driver.click(u"check%1"_s.arg(row));
     driver.click(u"upgradeFileButton"_s);
-    driver.answerFileBox(firmware);
+    driver.acceptFileBox(firmware);
     driver.await(u"each device has the file"_s, [&] {
         return std::all_of(indexes.cbegin(), indexes.cend(),
                            [&](int row) { return rows.value(row, "filepath").toString() == firmware; });
@@ -279,7 +279,7 @@ void walkDocumentUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QStrin
                      QFileInfo(opened).fileName() == UpgradeTools::templateFileName(),
                  u"the template is opened: %1"_s.arg(opened));
     driver.click(u"upgradeDocumentButton"_s);
-    driver.answerFileBox(path);
+    driver.acceptFileBox(path);
     beginUpgrades(driver, u"upgrade-document"_s);
     const QString twoOfThree =
         translated("OVFootBar", "%1 %2 / %3").arg(translated("UpgradeWork", "升级文档")).arg(2).arg(3);

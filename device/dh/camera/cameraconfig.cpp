@@ -33,7 +33,7 @@ int CameraConfig::readCapabilities(int channel)
     case CameraReading::Refused:
         result = capabilitiesUnknown;
         break;
-    case CameraReading::Unanswered:
+    case CameraReading::NoResponse:
         result = deviceAway;
         break;
     }
@@ -77,13 +77,13 @@ CameraConfig::Outcome CameraConfig::setValue(const QString &key, const QVariant 
     if (key == CameraKey::inDefog && m_state.supports(sdk::CameraGroup::Defog) &&
         !readDefog(m_session, channel, changed)) {
         m_lastError = static_cast<int>(m_session.lastError());
-        return m_session.isDeviceAway() ? Outcome::Unanswered : Outcome::Refused;
+        return m_session.isDeviceAway() ? Outcome::NoResponse : Outcome::Refused;
     }
     // The color record may be that of another channel, which the encode page has read.
     if (changesColor(key) && m_state.supports(sdk::CameraGroup::Picture) && m_state.colorChannel != channel &&
-        readVideoColor(m_session, channel, changed) == CameraReading::Unanswered) {
+        readVideoColor(m_session, channel, changed) == CameraReading::NoResponse) {
         m_lastError = deviceAway;
-        return Outcome::Unanswered;
+        return Outcome::NoResponse;
     }
     const QList<CameraWrite> writes = changeCamera(key, subKey, value, m_tables, changed);
     if (writes.isEmpty()) {
@@ -97,7 +97,7 @@ CameraConfig::Outcome CameraConfig::setValue(const QString &key, const QVariant 
         isTaken = false;
         m_lastError = static_cast<int>(m_session.lastError());
         if (m_session.isDeviceAway()) // further writes would time out as well
-            return Outcome::Unanswered;
+            return Outcome::NoResponse;
     }
     if (!isTaken)
         return takeFailure(channel, changed);
@@ -109,11 +109,11 @@ CameraConfig::Outcome CameraConfig::takeFailure(int channel, CameraState &change
 {
     // Some of the writes may have succeeded: read the values from the device.
     const CameraReading reading = readCameraCapabilities(m_session, channel, changed);
-    if (reading == CameraReading::Unanswered)
-        return Outcome::Unanswered;
+    if (reading == CameraReading::NoResponse)
+        return Outcome::NoResponse;
     if (reading == CameraReading::Done) {
         if (!readCameraItems(m_session, channel, changed))
-            return Outcome::Unanswered;
+            return Outcome::NoResponse;
         m_state = changed;
     }
     return Outcome::Refused;

@@ -18,7 +18,7 @@ public:
         Ignored,    ///< unknown setting, invalid value, or not read: nothing was written
         Taken,      ///< written; for "curSwitchMode" always, even if the mode is invalid and ignored
         Refused,    ///< by the device; after a refused write the values have been read again
-        Unanswered, ///< the device does not respond; the values are unchanged
+        NoResponse, ///< the device does not respond; the values are unchanged
     };
 
     /// `tables` must outlive this object and its copies.
@@ -44,7 +44,7 @@ public:
     [[nodiscard]] QVariant value(const QString &key) const; ///< see cameraValue()
     Outcome setValue(const QString &key, const QVariant &value, const QString &subKey, int channel);
 
-    /// The device library's error of the last Refused or Unanswered change.
+    /// The device library's error of the last Refused or NoResponse change.
     [[nodiscard]] int lastError() const { return m_lastError; }
 
 private:

@@ -41,7 +41,7 @@ CameraReading readConfiguration(const ConfigSession &session, const char *name, 
     if (error == 0)
         return CameraReading::Done;
     qCWarning(logDevice) << "Camera: no configuration" << name << "error" << error;
-    return isSessionLost(static_cast<std::uint32_t>(error)) ? CameraReading::Unanswered
+    return isSessionLost(static_cast<std::uint32_t>(error)) ? CameraReading::NoResponse
                                                             : CameraReading::Refused;
 }
 
@@ -63,21 +63,21 @@ CameraReading readCameraCapabilities(const ConfigSession &session, int channel, 
     if (!session.queryCapabilities(sdk::CapabilityQuery::Camera, input, state.capabilities)) {
         qCWarning(logDevice) << "Camera: no capabilities of channel" << channel << "error"
                              << session.lastError();
-        return session.isDeviceAway() ? CameraReading::Unanswered : CameraReading::Refused;
+        return session.isDeviceAway() ? CameraReading::NoResponse : CameraReading::Refused;
     }
     state.isColorKnown = state.isLightingKnown = state.isChannelNameRead = false;
     if (state.has(sdk::CameraGroup::Picture) &&
-        readVideoColor(session, channel, state) == CameraReading::Unanswered)
-        return CameraReading::Unanswered;
+        readVideoColor(session, channel, state) == CameraReading::NoResponse)
+        return CameraReading::NoResponse;
     if (state.has(sdk::CameraGroup::MixedLight)) {
         const CameraReading reading = readConfiguration(session, "Lighting_V2", channel, state.lighting);
         state.isLightingKnown = reading == CameraReading::Done;
-        if (reading == CameraReading::Unanswered)
+        if (reading == CameraReading::NoResponse)
             return reading;
     }
     state.isChannelNameRead =
         readItem(session, sdk::CameraItem::ChannelName, channel, state.mode, state.channelName);
-    return !state.isChannelNameRead && session.isDeviceAway() ? CameraReading::Unanswered
+    return !state.isChannelNameRead && session.isDeviceAway() ? CameraReading::NoResponse
                                                               : CameraReading::Done;
 }
 

@@ -67,7 +67,7 @@ enum class CameraReading
 {
     Done,
     Refused,    ///< refused by the device, or the response is invalid
-    Unanswered, ///< the device does not respond; further requests were not sent
+    NoResponse, ///< the device does not respond; further requests were not sent
 };
 
 /// Reads the configuration "VideoColor" of a channel. `state.isColorKnown` is false on failure.

@@ -188,9 +188,9 @@ void SessionLogins::openSession(const QString &ipport, const QString &account, c
 void SessionLogins::checkSession()
 {
     m_threads->start([this, handle = m_session.handle()] {
-        const bool answers = handle != 0 && respondsInSession(ConfigSession(m_libraries, handle));
+        const bool responses = handle != 0 && respondsInSession(ConfigSession(m_libraries, handle));
         m_signals.queue(
-            [this, answers] { m_signals.emitNow<&CDeviceBase::signalCDeviceSessionChecked>(answers); });
+            [this, responses] { m_signals.emitNow<&CDeviceBase::signalCDeviceSessionChecked>(responses); });
     });
 }
 

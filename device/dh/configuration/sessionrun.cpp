@@ -166,7 +166,7 @@ void SessionRun::setCameraValue(const QString &key, const QVariant &value, const
         case CameraConfig::Outcome::Refused:
             failure = m_state.camera.lastError();
             break;
-        case CameraConfig::Outcome::Unanswered:
+        case CameraConfig::Outcome::NoResponse:
             failure = deviceAway;
             break;
         }

@@ -12,8 +12,8 @@
 /// A device to export.
 struct ListedDevice
 {
-    QJsonObject row;                         ///< empty if only a search record is left
-    std::optional<sdk::SearchAnswer> record; ///< nullopt if no search has found the device
+    QJsonObject row;                           ///< empty if only a search record is left
+    std::optional<sdk::SearchResponse> record; ///< nullopt if no search has found the device
 };
 
 /// The line of a device. Values come from the row, which the user sees; the search record provides what rows

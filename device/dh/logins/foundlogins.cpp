@@ -141,7 +141,7 @@ void FoundLogins::complete(const QString &name, const QString &ipport, std::int6
     });
     if (!isChanged)
         return;
-    std::optional<sdk::SearchAnswer> record = m_store->record(name);
+    std::optional<sdk::SearchResponse> record = m_store->record(name);
     if (record && sdk::blockText(record->device.serialNumber).empty()) {
         record->device.serialNumber = attributes.serialNumber;
         m_store->putRecord(name, *record);

@@ -100,39 +100,39 @@ int webPort(const Responses &responses)
 }
 
 /// Stores the response to a directed search, which arrives on a thread of the library.
-class DirectedAnswer
+class DirectedResponse
 {
 public:
-    static void handle(std::int64_t, const sdk::SearchAnswer *answer, void *user)
+    static void handle(std::int64_t, const sdk::SearchResponse *response, void *user)
     {
-        auto *self = static_cast<DirectedAnswer *>(user);
-        if (!answer || answer->size != sizeof(*answer))
+        auto *self = static_cast<DirectedResponse *>(user);
+        if (!response || response->size != sizeof(*response))
             return;
         const std::scoped_lock lock(self->m_mutex);
-        if (!self->m_answer)
-            self->m_answer = *answer;
+        if (!self->m_response)
+            self->m_response = *response;
     }
 
-    [[nodiscard]] std::optional<sdk::SearchAnswer> answer() const
+    [[nodiscard]] std::optional<sdk::SearchResponse> response() const
     {
         const std::scoped_lock lock(m_mutex);
-        return m_answer;
+        return m_response;
     }
 
 private:
     mutable std::mutex m_mutex;
-    std::optional<sdk::SearchAnswer> m_answer;
+    std::optional<sdk::SearchResponse> m_response;
 };
 
-std::optional<sdk::SearchAnswer> searchAddress(sdk::NetLibrary &net, const QString &address)
+std::optional<sdk::SearchResponse> searchAddress(sdk::NetLibrary &net, const QString &address)
 {
     sdk::SearchByAddressesRequest request{};
     request.size = sizeof(request);
     request.count = 1;
     sdk::setBlockText(request.addresses[0], address.toLocal8Bit().toStdString());
-    DirectedAnswer answer;
-    net.NetSearchDeviceByIp(request, &DirectedAnswer::handle, &answer, directedSearchWait);
-    return answer.answer();
+    DirectedResponse response;
+    net.NetSearchDeviceByIp(request, &DirectedResponse::handle, &response, directedSearchWait);
+    return response.response();
 }
 
 QJsonObject rowOf(const RowLoginRequest &request, const sdk::LoginDeviceInformation &device,
@@ -172,9 +172,9 @@ QJsonObject rowOf(const RowLoginRequest &request, const sdk::LoginDeviceInformat
 }
 
 /// Replaces name, MAC and version by those of a search response.
-void completeFrom(QJsonObject &row, const sdk::SearchAnswer &answer)
+void completeFrom(QJsonObject &row, const sdk::SearchResponse &response)
 {
-    const QJsonObject found = ipv4Row(answer);
+    const QJsonObject found = ipv4Row(response);
     for (const QLatin1StringView key : {DeviceRowKey::name, DeviceRowKey::mac, DeviceRowKey::vision}) {
         if (!found.value(key).toString().isEmpty())
             row.insert(key, found.value(key));

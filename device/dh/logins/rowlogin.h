@@ -33,8 +33,8 @@ struct RowLoginRequest
 struct RowLoginOutcome
 {
     LoginResult result = LoginResult::Unknown;
-    QJsonObject row;                         ///< of a successful login, otherwise empty; the store sets "num"
-    std::optional<sdk::SearchAnswer> record; ///< response to a directed search of the address; not with P2P
+    QJsonObject row; ///< of a successful login, otherwise empty; the store sets "num"
+    std::optional<sdk::SearchResponse> record; ///< response to a directed search of the address; not with P2P
 };
 
 /// Logs in, queries the values of a row, and logs out. Blocks for the timeouts of the library, up to 5 s for

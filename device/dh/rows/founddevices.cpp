@@ -40,7 +40,7 @@ DeviceStep FoundDevices::initialisationStep(const QString &mac, const QString &a
 StepOutcome FoundDevices::initialise(const QString &mac, const QString &account, const QString &password)
 {
     LoginResult result = LoginResult::Success;
-    const std::optional<sdk::SearchAnswer> record = m_store->record(mac);
+    const std::optional<sdk::SearchResponse> record = m_store->record(mac);
     if (record && m_libraries.net) {
         sdk::InitDeviceAccountInput input{};
         input.size = sizeof(input);
@@ -64,7 +64,7 @@ StepOutcome FoundDevices::initialise(const QString &mac, const QString &account,
 
 bool FoundDevices::isFound(const QString &mac) const
 {
-    const std::optional<sdk::SearchAnswer> record = m_store->record(mac);
+    const std::optional<sdk::SearchResponse> record = m_store->record(mac);
     return record &&
            !(sdk::blockText(record->device.mac).empty() && sdk::blockText(record->device.uuid).empty());
 }
@@ -106,7 +106,7 @@ StepOutcome FoundDevices::requestAddress(const QString &mac, const QString &newi
                                          const QString &newgateway, bool dhcpON,
                                          const DeviceAccount &credentials, const StepControl &control)
 {
-    std::optional<sdk::SearchAnswer> record = m_store->record(mac);
+    std::optional<sdk::SearchResponse> record = m_store->record(mac);
     LoginResult result = LoginResult::Success;
     sdk::ModifyDeviceInput input{};
     if (record && m_libraries.net) {

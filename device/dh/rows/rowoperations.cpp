@@ -79,7 +79,7 @@ QVariantMap RowOperations::detail(const QString &mac) const
     if (chosen.source == AccountChoice::Source::Stored)
         detail.insert(DeviceRowKey::username, chosen.account.account);
     detail.remove(DeviceRowKey::password); // details are shown and exported
-    const std::optional<sdk::SearchAnswer> record = m_store->record(mac);
+    const std::optional<sdk::SearchResponse> record = m_store->record(mac);
     if (!record)
         return detail;
     const sdk::SearchDeviceInformation &device = record->device;

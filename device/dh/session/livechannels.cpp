@@ -17,12 +17,12 @@ QList<bool> connectedChannels(const ConfigSession &session, int count)
 {
     using namespace std::chrono_literals;
     QList<bool> connected(std::clamp(count, 1, ChannelNames::maximumChannels), true);
-    const auto answer = std::make_unique<sdk::ChannelStates>();
-    if (!session.queryChannelStates(*answer, 1000ms))
+    const auto response = std::make_unique<sdk::ChannelStates>();
+    if (!session.queryChannelStates(*response, 1000ms))
         return connected;
-    const std::size_t stateCount = std::min<std::size_t>(answer->count, answer->states.size());
+    const std::size_t stateCount = std::min<std::size_t>(response->count, response->states.size());
     for (std::size_t index = 0; index < stateCount; ++index) {
-        const sdk::ChannelState &state = answer->states.at(index);
+        const sdk::ChannelState &state = response->states.at(index);
         if (state.channel >= 0 && state.channel < connected.size())
             connected[state.channel] = state.connection != sdk::ChannelConnection::NotConnected;
     }

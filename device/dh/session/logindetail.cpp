@@ -36,16 +36,16 @@ void putNumber(QVariantMap &detail, QLatin1StringView key, std::int32_t number)
 
 bool readAttributes(const ConfigSession &session, QVariantMap &detail)
 {
-    sdk::DeviceAttributes answer{};
-    if (!session.queryBlock(sdk::QueryCommand::DeviceAttributes, answer, ConfigSession::usualWait))
+    sdk::DeviceAttributes response{};
+    if (!session.queryBlock(sdk::QueryCommand::DeviceAttributes, response, ConfigSession::usualWait))
         return !session.isDeviceAway();
-    putText(detail, DeviceDetailKey::serial, fieldText(answer.serialNumber));
-    putText(detail, DeviceRowKey::vision, versionText(fieldText(answer.softwareVersion)));
-    putText(detail, DeviceRowKey::model, fieldText(answer.detailModel));
-    putText(detail, DeviceRowKey::mac, fieldText(answer.mac));
-    putNumber(detail, DeviceDetailKey::channelCount, answer.videoInputs);
-    putNumber(detail, DeviceDetailKey::alarmInputs, answer.alarmInputs);
-    putNumber(detail, DeviceDetailKey::disks, answer.disks);
+    putText(detail, DeviceDetailKey::serial, fieldText(response.serialNumber));
+    putText(detail, DeviceRowKey::vision, versionText(fieldText(response.softwareVersion)));
+    putText(detail, DeviceRowKey::model, fieldText(response.detailModel));
+    putText(detail, DeviceRowKey::mac, fieldText(response.mac));
+    putNumber(detail, DeviceDetailKey::channelCount, response.videoInputs);
+    putNumber(detail, DeviceDetailKey::alarmInputs, response.alarmInputs);
+    putNumber(detail, DeviceDetailKey::disks, response.disks);
     return true;
 }
 
@@ -89,22 +89,22 @@ bool readHttps(const ConfigSession &session, QVariantMap &detail)
 
 bool readServices(const ConfigSession &session, QVariantMap &detail)
 {
-    const auto answer = std::make_unique<sdk::NetworkServices>();
-    if (!session.queryBlock(sdk::QueryCommand::NetworkServices, *answer, ConfigSession::usualWait))
+    const auto response = std::make_unique<sdk::NetworkServices>();
+    if (!session.queryBlock(sdk::QueryCommand::NetworkServices, *response, ConfigSession::usualWait))
         return !session.isDeviceAway();
-    putNumber(detail, DeviceDetailKey::webPort, answer->webPort);
-    putNumber(detail, DeviceDetailKey::rtspPort, answer->rtspPort);
+    putNumber(detail, DeviceDetailKey::webPort, response->webPort);
+    putNumber(detail, DeviceDetailKey::rtspPort, response->rtspPort);
     return true;
 }
 
 bool readChannels(const ConfigSession &session, QVariantMap &detail)
 {
-    const auto answer = std::make_unique<sdk::ChannelStates>();
-    if (!session.queryChannelStates(*answer, 1000ms))
+    const auto response = std::make_unique<sdk::ChannelStates>();
+    if (!session.queryChannelStates(*response, 1000ms))
         return !session.isDeviceAway();
-    const std::size_t count = std::min<std::size_t>(answer->count, answer->states.size());
+    const std::size_t count = std::min<std::size_t>(response->count, response->states.size());
     const auto connected = std::count_if(
-        answer->states.cbegin(), answer->states.cbegin() + static_cast<std::ptrdiff_t>(count),
+        response->states.cbegin(), response->states.cbegin() + static_cast<std::ptrdiff_t>(count),
         [](const sdk::ChannelState &state) { return state.connection == sdk::ChannelConnection::Connected; });
     if (count > 0)
         detail.insert(DeviceDetailKey::connectedCount, static_cast<int>(connected));

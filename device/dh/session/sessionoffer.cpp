@@ -9,44 +9,44 @@ namespace {
 using namespace std::chrono_literals;
 
 /// Long enough for a busy device, which must not be taken for one that has closed the session.
-constexpr auto answerWait = 2000ms;
+constexpr auto responseWait = 2000ms;
 
-enum class SessionAnswer
+enum class SessionResponse
 {
     Responds,
     Away,
     Refused, ///< the device does not accept the login of the session
 };
 
-SessionAnswer checkSession(const ConfigSession &session)
+SessionResponse checkSession(const ConfigSession &session)
 {
     const auto states = std::make_unique<sdk::ChannelStates>();
-    if (session.queryChannelStates(*states, answerWait))
-        return SessionAnswer::Responds;
+    if (session.queryChannelStates(*states, responseWait))
+        return SessionResponse::Responds;
     const std::uint32_t error = session.lastError();
     if (isLoginRefused(error))
-        return SessionAnswer::Refused;
+        return SessionResponse::Refused;
     // A restarting device refuses connections for a while.
     const bool isAway =
         isDeviceAway(error) || error == static_cast<std::uint32_t>(sdk::NetError::ConnectFailed);
-    return isAway ? SessionAnswer::Away : SessionAnswer::Responds;
+    return isAway ? SessionResponse::Away : SessionResponse::Responds;
 }
 
 } // namespace
 
 bool respondsInSession(const ConfigSession &session)
 {
-    return checkSession(session) == SessionAnswer::Responds;
+    return checkSession(session) == SessionResponse::Responds;
 }
 
 SessionOffer offerSession(const sdk::SdkLibraries &libraries, const SessionOrder &order)
 {
     if (order.handle != 0) {
         const ConfigSession present(libraries, order.handle);
-        const SessionAnswer answer = checkSession(present);
-        if (answer == SessionAnswer::Refused && !order.isNewLogin)
+        const SessionResponse response = checkSession(present);
+        if (response == SessionResponse::Refused && !order.isNewLogin)
             return {.result = loginResultOf(present.lastError()), .login = {}, .channels = {}};
-        if (answer == SessionAnswer::Responds) {
+        if (response == SessionResponse::Responds) {
             return {.result = LoginResult::Success,
                     .login = {},
                     .channels =

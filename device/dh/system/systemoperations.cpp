@@ -126,8 +126,8 @@ StepOutcome SystemOperations::performOn(const QString &ipport, const DeviceAccou
         const bool isDone = action && error == 0;
         StepOutcome outcome = {.result = isDone ? resultCode(LoginResult::Success) : refusedByDevice,
                                .text = {}};
-        outcome.isUnanswered = isDeviceAway(error);
-        outcome.text = outcome.isUnanswered ? tr("设备没有应答") : reasonOf(error);
+        outcome.hasNoResponse = isDeviceAway(error);
+        outcome.text = outcome.hasNoResponse ? tr("设备没有应答") : reasonOf(error);
         return outcome;
     });
 }
@@ -143,8 +143,8 @@ StepOutcome SystemOperations::readClock(const QString &ipport, const DeviceAccou
             outcome.text = deviceClockText(*time, QDateTime::currentDateTime());
         } else {
             outcome.result = refusedByDevice;
-            outcome.isUnanswered = isDeviceAway(error);
-            outcome.text = outcome.isUnanswered ? tr("设备没有应答") : tr("没有读到设备的时间");
+            outcome.hasNoResponse = isDeviceAway(error);
+            outcome.text = outcome.hasNoResponse ? tr("设备没有应答") : tr("没有读到设备的时间");
         }
         return outcome;
     });
@@ -167,8 +167,8 @@ StepOutcome SystemOperations::modifyPassword(const QString &ipport, const QStrin
         return {.result = resultCode(LoginResult::NotDone), .text = {}};
     if (const std::uint32_t error = changePassword(*m_libraries.net, *login, newPassword)) {
         StepOutcome outcome = {.result = refusedByDevice, .text = {}};
-        outcome.isUnanswered = isDeviceAway(error);
-        if (outcome.isUnanswered)
+        outcome.hasNoResponse = isDeviceAway(error);
+        if (outcome.hasNoResponse)
             outcome.text = tr("设备没有应答，密码可能已修改");
         return outcome;
     }

@@ -72,7 +72,7 @@ UpgradeTools::Result resultOfLogin(LoginResult result)
     case LoginResult::ChangedCertificate:
         return UpgradeTools::ChangedCertificate;
     default:
-        return UpgradeTools::NoAnswer;
+        return UpgradeTools::NoResponse;
     }
 }
 
@@ -97,7 +97,7 @@ UpgradeTools::Result resultOfError(std::uint32_t error)
     case sdk::NetError::ChangedCertificate:
         return UpgradeTools::ChangedCertificate;
     default:
-        return isDeviceAway(error) ? UpgradeTools::NoAnswer : UpgradeTools::Failed;
+        return isDeviceAway(error) ? UpgradeTools::NoResponse : UpgradeTools::Failed;
     }
 }
 
@@ -270,7 +270,7 @@ UpgradeState UpgradeWork::waitForReturn(const FirmwareFile &file, const StepCont
                 return ended(UpgradeTools::VersionUnknown);
             if (hasRebooted && !letInAt)
                 letInAt = clock.now();
-        } else if (refusal == UpgradeTools::NoAnswer) {
+        } else if (refusal == UpgradeTools::NoResponse) {
             wasAway = true;
         } else if (UpgradeTools::canTryAgain(refusal) && !isCertificateRefused(refusal)) {
             qCInfo(logDevice) << m_order.ipport << "does not let in yet after its upgrade";

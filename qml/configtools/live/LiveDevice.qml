@@ -170,7 +170,7 @@ Item {
         visible: false
         sourceComponent: ReloginDialog {
             deviceFactory: root.deviceFactory
-            onAnswered: (account, password) => {
+            onResponded: (account, password) => {
                 if (account === "" && password === "")
                     return;
                 root.deviceFactory.updataDeviceInfo("dh", "username", account, mac, ipport);

@@ -168,7 +168,7 @@ FocusScope {
             }
 
             deviceFactory: page.deviceFactory
-            onAnswered: (account, password) => {
+            onResponded: (account, password) => {
                 if (account === "" && password === "")
                     return;
                 page.deviceFactory.updataDeviceInfo("dh", "username", account, mac, ipport);

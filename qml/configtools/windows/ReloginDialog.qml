@@ -7,7 +7,7 @@ OVDialog {
 
     required property var deviceFactory
     /// Emitted once for each ask(). Two empty texts: the user has cancelled, or the device has no row any more.
-    signal answered(string account, string password)
+    signal responded(string account, string password)
 
     property string mac
     property string ipport
@@ -18,7 +18,7 @@ OVDialog {
     property int wrongTimes: 0  // number of wrong passwords sent to this device
 
     function ask(mac, ipport, account, result) {
-        answer("", "");
+        finish("", "");
         root.mac = mac;
         root.ipport = ipport;
         accountField.text = account;
@@ -33,12 +33,12 @@ OVDialog {
         open();
     }
 
-    function answer(account, password) {
+    function finish(account, password) {
         if (!waiting)
             return;
         waiting = false;
         passwordField.text = "";
-        answered(account, password);
+        responded(account, password);
     }
 
     /// Shows the device's response at the field that it concerns.
@@ -63,7 +63,7 @@ OVDialog {
     objectName: "reloginDialog"
     title: qsTr("重新登录")
     onOpened: (accountField.text === "" ? accountField : passwordField).forceActiveFocus()
-    onRejected: answer("", "")
+    onRejected: finish("", "")
     onAccepted: {
         if (!check()) {
             refuse(fault);
@@ -75,7 +75,7 @@ OVDialog {
         if (followingBox.checked || keepBox.checked)
             LoginMemory.setPendingAccount(ipport, account, password, followingBox.checked, keepBox.checked, deviceFactory);
         const kept = deviceFactory.updataDeviceInfo("dh", "password", password, mac, ipport);
-        answer(kept ? account : "", kept ? password : "");
+        finish(kept ? account : "", kept ? password : "");
     }
 
     Column {

@@ -42,14 +42,14 @@ std::int64_t BoundNetLibrary::NetStartSearchDevicesEx(const SearchParameterEx &p
 }
 
 bool BoundNetLibrary::NetSearchDevicesByIPs(const SearchByAddressesRequest &request,
-                                            SearchAnswerHandler handler, void *user, const char *localAddress,
-                                            std::chrono::milliseconds wait)
+                                            SearchResponseHandler handler, void *user,
+                                            const char *localAddress, std::chrono::milliseconds wait)
 {
     return m_entries.NetSearchDevicesByIPs(&request, handler, user, localAddress, cValue(wait)) != 0;
 }
 
 bool BoundNetLibrary::NetSearchDevicesByIPsEx(const SearchByAddressesRequest &request,
-                                              SearchAnswerHandler handler, void *user,
+                                              SearchResponseHandler handler, void *user,
                                               const char *localAddress, std::chrono::milliseconds wait)
 {
     return m_entries.NetSearchDevicesByIPsEx(&request, handler, user, localAddress, cValue(wait)) != 0;
@@ -61,7 +61,7 @@ bool BoundNetLibrary::NetStopSearchDevices(std::int64_t searchHandle)
 }
 
 void BoundNetLibrary::NetSearchDeviceByIp(const SearchByAddressesRequest &request,
-                                          SearchAnswerHandler handler, void *user,
+                                          SearchResponseHandler handler, void *user,
                                           std::chrono::milliseconds wait)
 {
     m_entries.NetSearchDeviceByIp(&request, handler, user, cValue(wait));

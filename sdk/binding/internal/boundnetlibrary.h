@@ -21,14 +21,14 @@ public:
                                        std::chrono::milliseconds wait) override;
     std::int64_t NetStartSearchDevicesEx(const SearchParameterEx &parameter,
                                          std::chrono::milliseconds wait) override;
-    bool NetSearchDevicesByIPs(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
+    bool NetSearchDevicesByIPs(const SearchByAddressesRequest &request, SearchResponseHandler handler,
                                void *user, const char *localAddress, std::chrono::milliseconds wait) override;
-    bool NetSearchDevicesByIPsEx(const SearchByAddressesRequest &request, SearchAnswerHandler handler,
+    bool NetSearchDevicesByIPsEx(const SearchByAddressesRequest &request, SearchResponseHandler handler,
                                  void *user, const char *localAddress,
                                  std::chrono::milliseconds wait) override;
     bool NetStopSearchDevices(std::int64_t searchHandle) override;
-    void NetSearchDeviceByIp(const SearchByAddressesRequest &request, SearchAnswerHandler handler, void *user,
-                             std::chrono::milliseconds wait) override;
+    void NetSearchDeviceByIp(const SearchByAddressesRequest &request, SearchResponseHandler handler,
+                             void *user, std::chrono::milliseconds wait) override;
     bool NetGetSearchReport(SearchReport &report) override;
 
     LLONG NetLogin(const char *address, std::int32_t port, const char *account, const char *password,

@@ -1,7 +1,7 @@
 #include "sdk/demo/device/maintenance.h"
 
 #include "sdk/configtext/configtext.h"
-#include "sdk/demo/device/deviceanswers.h"
+#include "sdk/demo/device/deviceresponses.h"
 
 #include <QDateTime>
 #include <QJsonDocument>
@@ -84,7 +84,7 @@ NetError reboot(SceneDevice &device, std::int64_t now)
     return NetError::None;
 }
 
-NetError rebootAfterAnswer(SceneDevice &device, std::int64_t now)
+NetError rebootAfterResponse(SceneDevice &device, std::int64_t now)
 {
     constexpr std::chrono::milliseconds moment = std::chrono::seconds(2);
     const bool isAboutTo = device.maintenance.offlineFrom > now;

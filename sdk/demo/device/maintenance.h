@@ -27,7 +27,7 @@ inline constexpr std::chrono::seconds usualReboot{20};
 [[nodiscard]] NetError reboot(SceneDevice &device, std::int64_t now);
 
 /// The same after a short delay, so that the HTTP client receives the response, also to a repeated request.
-[[nodiscard]] NetError rebootAfterAnswer(SceneDevice &device, std::int64_t now);
+[[nodiscard]] NetError rebootAfterResponse(SceneDevice &device, std::int64_t now);
 
 /// The device deletes its accounts, its configuration and the settings of its channels, and reboots. It keeps
 /// its address and its clock. It is uninitialised afterwards; a device without initialisation has the account

@@ -4,9 +4,9 @@
 #include "sdk/camerablocks.h"
 #include "sdk/clock.h"
 #include "sdk/demo/device/channelitems.h"
-#include "sdk/demo/device/deviceanswers.h"
+#include "sdk/demo/device/deviceresponses.h"
 #include "sdk/demo/device/maintenance.h"
-#include "sdk/demo/device/searchanswers.h"
+#include "sdk/demo/device/searchresponses.h"
 #include "sdk/demo/http/commandparameters.h"
 #include "sdk/demo/site/sitestate.h"
 #include "sdk/demo/streams/cardjpeg.h"
@@ -66,7 +66,7 @@ QByteArray keyAndValue(const QString &key, const QByteArray &value)
 /// The values that a device reports, with its faults applied to strings.
 QList<std::pair<QString, QByteArray>> deviceValues(const SceneDevice &device, std::int64_t now)
 {
-    const SearchDeviceInformation reported = searchAnswer(device, 4, QString()).device;
+    const SearchDeviceInformation reported = searchResponse(device, 4, QString()).device;
     const QString address = device.address.isEmpty() ? device.ipv6 : device.address;
     return {{u"name"_s, bytesOf(reported.deviceName)},
             {u"type"_s, bytesOf(reported.deviceType)},
@@ -302,7 +302,7 @@ HttpResponse Command::reboot()
 {
     if (!isValid())
         return parameterError();
-    if (!change([this](SceneDevice &device) { return rebootAfterAnswer(device, m_now); }))
+    if (!change([this](SceneDevice &device) { return rebootAfterResponse(device, m_now); }))
         return refusal(u"The device refuses to restart"_s);
     return HttpResponse::line(HttpStatus::Ok, u"reboot=started"_s);
 }

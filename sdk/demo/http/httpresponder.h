@@ -39,8 +39,8 @@ struct HttpTunnel
 class HttpResponder
 {
 public:
-    /// The time until an unanswered request ends, on the site's clock. It is longer than the timeouts of
-    /// clients.
+    /// The time until a request without a response ends, on the site's clock. It is longer than the timeouts
+    /// of clients.
     static constexpr std::chrono::milliseconds silence = std::chrono::seconds(10);
 
     /// Stands for the proxy where a local port of the port agent is expected.

@@ -45,7 +45,7 @@ enum class Fault
     UpgradeTakes,          ///< the transfer of a firmware file takes `number` s
     RefusesUpgradeStop,    ///< refuses to stop an upgrade during the transfer
     SlowAnswers,           ///< responds to logins and requests `number` ms late
-    RefusesConnections,    ///< the device's ports are closed; searches are answered
+    RefusesConnections,    ///< the device's ports are closed; searches get responses
     PasswordChangesAfter,  ///< accepts a password `number` times, then has other passwords
     Sha256Last,            ///< offers Digest with MD5 first, then with SHA-256
     // HTTP responses to an accepted login:
@@ -72,7 +72,7 @@ struct FaultSetting
     QString text = {};
 };
 
-/// The name of `fault` in scenes: "noAnswer".
+/// The name of `fault` in scenes: "noResponse".
 [[nodiscard]] QString faultName(Fault fault);
 
 /// The fault with `name` in scenes; nullopt for an unknown name.

@@ -22,9 +22,9 @@ QStringView networkOf(QStringView address)
 void SearchTally::clear()
 {
     const std::scoped_lock lock(m_mutex);
-    m_requests = m_messages = m_askedAddresses = m_answeredAddresses = 0;
+    m_requests = m_messages = m_askedAddresses = m_respondingAddresses = 0;
     m_found.clear();
-    m_answered.clear();
+    m_responded.clear();
 }
 
 void SearchTally::noteRequest()
@@ -37,10 +37,10 @@ void SearchTally::noteAskedAddresses(const QSet<QString> &addresses)
 {
     const std::scoped_lock lock(m_mutex);
     m_askedAddresses += static_cast<std::uint32_t>(addresses.size());
-    m_answered.subtract(addresses);
+    m_responded.subtract(addresses);
 }
 
-void SearchTally::noteLocalAnswer(const QString &mac, const QString &address)
+void SearchTally::noteLocalResponse(const QString &mac, const QString &address)
 {
     const std::scoped_lock lock(m_mutex);
     ++m_messages;
@@ -49,13 +49,13 @@ void SearchTally::noteLocalAnswer(const QString &mac, const QString &address)
         known = address;
 }
 
-void SearchTally::noteAddressAnswer(const QString &address)
+void SearchTally::noteAddressResponse(const QString &address)
 {
     const std::scoped_lock lock(m_mutex);
-    if (m_answered.contains(address))
+    if (m_responded.contains(address))
         return;
-    m_answered.insert(address);
-    ++m_answeredAddresses;
+    m_responded.insert(address);
+    ++m_respondingAddresses;
 }
 
 void SearchTally::fill(SearchReport &report, const QString &localAddress) const
@@ -72,9 +72,9 @@ void SearchTally::fill(SearchReport &report, const QString &localAddress) const
     interface.messagesReceived = m_messages;
     interface.devicesFound = static_cast<std::uint32_t>(m_found.size());
     if (m_requests > 0 && m_messages == 0)
-        interface.obstacles = 1U << static_cast<std::uint32_t>(SearchObstacle::NoAnswer);
+        interface.obstacles = 1U << static_cast<std::uint32_t>(SearchObstacle::NoResponse);
     report.addressesAsked = m_askedAddresses;
-    report.addressesAnswered = m_answeredAddresses;
+    report.addressesResponding = m_respondingAddresses;
     report.foreignDevices = static_cast<std::uint32_t>(
         std::count_if(m_found.cbegin(), m_found.cend(), [&localAddress](const QString &address) {
             return isIpv4Address(address) && address != QLatin1String("0.0.0.0") &&

@@ -22,9 +22,9 @@ public:
     void noteAskedAddresses(const QSet<QString> &addresses);
 
     /// A response to a local search.
-    void noteLocalAnswer(const QString &mac, const QString &address);
+    void noteLocalResponse(const QString &mac, const QString &address);
     /// A response to the search of an address. It is counted once for each request to the address.
-    void noteAddressAnswer(const QString &address);
+    void noteAddressResponse(const QString &address);
 
     /// Fills a report of one interface, which has `localAddress`.
     void fill(SearchReport &report, const QString &localAddress) const;
@@ -34,8 +34,8 @@ private:
     std::uint32_t m_requests = 0;
     std::uint32_t m_messages = 0;
     std::uint32_t m_askedAddresses = 0;
-    std::uint32_t m_answeredAddresses = 0;
-    QSet<QString> m_answered;        ///< addresses that have responded to their latest request
+    std::uint32_t m_respondingAddresses = 0;
+    QSet<QString> m_responded;       ///< addresses that have responded to their latest request
     QHash<QString, QString> m_found; ///< addresses of the devices found by local searches, by MAC
 };
 

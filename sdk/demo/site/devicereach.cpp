@@ -1,7 +1,7 @@
 #include "sdk/demo/site/devicereach.h"
 
 #include "sdk/clock.h"
-#include "sdk/demo/device/deviceanswers.h"
+#include "sdk/demo/device/deviceresponses.h"
 #include "sdk/demo/scene/addresstext.h"
 #include "sdk/demo/site/sitestate.h"
 

@@ -102,7 +102,7 @@ void AddressSearch::run(const std::vector<std::string> &addresses, milliseconds 
     probe(addresses, end);
     std::vector<std::string> silent;
     std::copy_if(addresses.begin(), addresses.end(), std::back_inserter(silent),
-                 [this](const std::string &address) { return !m_answered.contains(address); });
+                 [this](const std::string &address) { return !m_responded.contains(address); });
     searchByHttp(silent, end);
     m_inspections.waitForDone();
 }
@@ -123,19 +123,19 @@ void AddressSearch::probe(const std::vector<std::string> &addresses, Time end)
             targets.insert(addressText(*target));
     }
     const Time probeEnd = std::min(end, steady_clock::now() + probeTime);
-    while (m_answered.size() < targets.size() && !m_isCancelled && steady_clock::now() < probeEnd) {
+    while (m_responded.size() < targets.size() && !m_isCancelled && steady_clock::now() < probeEnd) {
         const int wait = std::min(millisecondsUntil(probeEnd), 50);
         sockets.receive(wait, [&](std::string_view datagram, const SocketAddress &sender,
                                   const std::string &localAddress) {
             const std::string address = addressText(sender);
             // Messages of other devices arrive here as well.
-            if (!targets.contains(address) || m_answered.contains(address))
+            if (!targets.contains(address) || m_responded.contains(address))
                 return;
             DiscoveryMessage content = readDiscoveryMessage(datagram);
             for (DeviceAnnouncement &announcement : content.announcements) {
                 if (announcement.isLeaving)
                     continue;
-                m_answered.insert(address);
+                m_responded.insert(address);
                 FoundDevice device;
                 device.address = address;
                 device.localAddress = localAddress;
@@ -174,7 +174,7 @@ void AddressSearch::inspect(FoundDevice device, bool mustRespond, Time end)
     const std::scoped_lock lock(m_mutex);
     if (!m_reported.insert(device.address).second)
         return;
-    m_counters.noteAnsweredAddress();
+    m_counters.noteRespondingAddress();
     m_reporter(device);
 }
 

@@ -48,8 +48,8 @@ private:
     SearchCounters &m_counters;
     const std::atomic_bool &m_isCancelled;
     QThreadPool m_inspections;
-    std::set<std::string> m_answered; ///< addresses with a response to a probe; used by the searching thread
-    std::mutex m_mutex;               ///< guards the reporter and the members below
+    std::set<std::string> m_responded; ///< addresses with a response to a probe; used by the searching thread
+    std::mutex m_mutex;                ///< guards the reporter and the members below
     std::set<std::string> m_reported;
 };
 

@@ -78,7 +78,7 @@ void DeviceDiscovery::cancel()
     m_inspections.waitForDone();
 }
 
-std::int64_t DeviceDiscovery::start(SearchAnswerHandler handler, void *user)
+std::int64_t DeviceDiscovery::start(SearchResponseHandler handler, void *user)
 {
     const std::scoped_lock lock(m_startMutex);
     if (m_isCancelled || !handler)
@@ -97,16 +97,16 @@ std::int64_t DeviceDiscovery::start(SearchAnswerHandler handler, void *user)
     // Under the lock of the handlers, so that no response is lost between the known devices and the new
     // handler.
     const std::scoped_lock handlerLock(m_handlerMutex);
-    std::vector<SearchAnswer> known;
+    std::vector<SearchResponse> known;
     std::int64_t handle = 0;
     {
         const std::scoped_lock seenLock(m_mutex);
         handle = ++m_lastHandle;
-        known = m_answers;
+        known = m_responses;
     }
     m_searches[handle] = {.handler = handler, .user = user};
-    for (const SearchAnswer &answer : known)
-        handler(handle, &answer, user);
+    for (const SearchResponse &response : known)
+        handler(handle, &response, user);
     m_probesDue += 2;
     m_sockets->wake();
     return handle;
@@ -122,7 +122,7 @@ void DeviceDiscovery::clearSearchState()
     m_seenAt.clear();
     m_doubted.clear();
     m_macHolders.clear();
-    m_answers.clear();
+    m_responses.clear();
 }
 
 bool DeviceDiscovery::stop(std::int64_t handle)
@@ -255,10 +255,10 @@ bool DeviceDiscovery::isInOwnNetwork(const std::string &address) const
 
 void DeviceDiscovery::inspect(FoundDevice device, std::chrono::milliseconds wait)
 {
-    const bool answers = inspectDevice(device, m_http, wait);
+    const bool responses = inspectDevice(device, m_http, wait);
     if (m_isCancelled)
         return;
-    const std::optional<SearchDiscard> doubt = answers ? std::nullopt : doubtAbout(device);
+    const std::optional<SearchDiscard> doubt = responses ? std::nullopt : doubtAbout(device);
     if (!doubt) {
         report(std::move(device));
         return;
@@ -278,20 +278,21 @@ void DeviceDiscovery::remember(const FoundDevice &device)
 void DeviceDiscovery::report(FoundDevice device)
 {
     const std::scoped_lock handlerLock(m_handlerMutex);
-    SearchAnswer answer{};
+    SearchResponse response{};
     {
         const std::scoped_lock lock(m_mutex);
         m_macHolders.admit(device);
-        answer = searchAnswerOf(device);
-        m_answers.push_back(answer);
+        response = searchResponseOf(device);
+        m_responses.push_back(response);
     }
     remember(device);
     for (const auto &[handle, search] : m_searches)
-        search.handler(handle, &answer, search.user);
+        search.handler(handle, &response, search.user);
 }
 
-void DeviceDiscovery::searchAddresses(const std::vector<std::string> &addresses, SearchAnswerHandler handler,
-                                      void *user, std::chrono::milliseconds wait)
+void DeviceDiscovery::searchAddresses(const std::vector<std::string> &addresses,
+                                      SearchResponseHandler handler, void *user,
+                                      std::chrono::milliseconds wait)
 {
     if (m_isCancelled || !handler)
         return;
@@ -299,8 +300,8 @@ void DeviceDiscovery::searchAddresses(const std::vector<std::string> &addresses,
     const auto reporter = [&](FoundDevice device) {
         holders.admit(device);
         remember(device);
-        const SearchAnswer answer = searchAnswerOf(device);
-        handler(0, &answer, user);
+        const SearchResponse response = searchResponseOf(device);
+        handler(0, &response, user);
     };
     AddressSearch search(m_http, reporter, m_counters, m_isCancelled);
     search.run(addresses, wait);
@@ -311,10 +312,10 @@ void DeviceDiscovery::fillReport(SearchReport &report) const
     std::vector<ReportedDevice> devices;
     {
         const std::scoped_lock lock(m_mutex);
-        devices.reserve(m_answers.size());
-        for (const SearchAnswer &answer : m_answers)
-            devices.push_back({.address = std::string(blockText(answer.device.address)),
-                               .localAddress = std::string(blockText(answer.localAddress))});
+        devices.reserve(m_responses.size());
+        for (const SearchResponse &response : m_responses)
+            devices.push_back({.address = std::string(blockText(response.device.address)),
+                               .localAddress = std::string(blockText(response.localAddress))});
     }
     m_counters.fill(report, interfaceStates(), devices);
 }

@@ -50,7 +50,7 @@ public:
     /// Starts a search of the networks of all interfaces. Devices that running searches have found are passed
     /// to `handler` before the return. Returns the handle of the search; 0 if no interface can be searched,
     /// and after cancel().
-    std::int64_t start(SearchAnswerHandler handler, void *user);
+    std::int64_t start(SearchResponseHandler handler, void *user);
 
     /// Ends a search. Its handler does not run after the call. False for an invalid handle.
     bool stop(std::int64_t handle);
@@ -58,7 +58,7 @@ public:
     /// Searches each address and blocks until all are done, `wait` has passed or cancel() is called.
     /// `handler` is called with the handle 0, one call at a time. Each address gets a probe; an address that
     /// does not respond to the probe is queried over HTTP, since routers do not always forward probes.
-    void searchAddresses(const std::vector<std::string> &addresses, SearchAnswerHandler handler, void *user,
+    void searchAddresses(const std::vector<std::string> &addresses, SearchResponseHandler handler, void *user,
                          std::chrono::milliseconds wait);
 
     /// Fills the counters of the running searches, since the first of them was started; of the last searches
@@ -80,7 +80,7 @@ public:
 private:
     struct Search
     {
-        SearchAnswerHandler handler = nullptr;
+        SearchResponseHandler handler = nullptr;
         void *user = nullptr;
     };
 
@@ -124,7 +124,7 @@ private:
     std::map<std::string, int> m_seenAt;      ///< number of devices of `m_seen` by address
     std::set<std::string> m_doubted;          ///< of `m_seen`, not reported: see Expectation::Doubted
     MacHolders m_macHolders;                  ///< of the running searches
-    std::vector<SearchAnswer> m_answers;      ///< of the running searches, or of the last ones
+    std::vector<SearchResponse> m_responses;  ///< of the running searches, or of the last ones
     std::map<std::string, ServiceAddress> m_services; ///< by address and port, of all searches
 
     std::mutex m_handlerMutex; ///< held while handlers run

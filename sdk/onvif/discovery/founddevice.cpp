@@ -50,12 +50,12 @@ bool namesOwnService(const DeviceAnnouncement &announcement, const std::string &
     return ownService(announcement, address).has_value();
 }
 
-SearchAnswer searchAnswerOf(const FoundDevice &device)
+SearchResponse searchResponseOf(const FoundDevice &device)
 {
-    SearchAnswer answer{};
-    answer.size = sizeof(answer);
-    setBlockText(answer.localAddress, device.localAddress);
-    SearchDeviceInformation &information = answer.device;
+    SearchResponse response{};
+    response.size = sizeof(response);
+    setBlockText(response.localAddress, device.localAddress);
+    SearchDeviceInformation &information = response.device;
     information.ipVersion = device.address.find(':') == std::string::npos ? 4 : 6;
     information.port = device.service.port;
     setBlockText(information.address, device.address);
@@ -72,7 +72,7 @@ SearchAnswer searchAnswerOf(const FoundDevice &device)
     information.dhcpEnabled = device.dhcp ? 1 : 0;
     information.initialisationState = static_cast<std::uint8_t>(device.state);
     setBlockText(information.uuid, device.announcement.uuid);
-    return answer;
+    return response;
 }
 
 std::string maskOf(int prefixLength)

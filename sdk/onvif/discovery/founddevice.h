@@ -41,7 +41,7 @@ struct FoundDevice
 [[nodiscard]] bool namesOwnService(const DeviceAnnouncement &announcement, const std::string &address);
 
 /// The device as the block that search handlers receive.
-[[nodiscard]] SearchAnswer searchAnswerOf(const FoundDevice &device);
+[[nodiscard]] SearchResponse searchResponseOf(const FoundDevice &device);
 
 /// "255.255.255.0" for 24; empty for a length outside 1 to 32.
 [[nodiscard]] std::string maskOf(int prefixLength);

@@ -41,7 +41,7 @@ void SearchCounters::clear()
 {
     const std::scoped_lock lock(m_mutex);
     m_counts.clear();
-    m_askedAddresses = m_answeredAddresses = m_unroutedAddresses = 0;
+    m_askedAddresses = m_respondingAddresses = m_unroutedAddresses = 0;
 }
 
 void SearchCounters::noteRequest(const std::string &localAddress, int error)
@@ -74,10 +74,10 @@ void SearchCounters::noteAskedAddress(int error)
         increment(m_unroutedAddresses);
 }
 
-void SearchCounters::noteAnsweredAddress()
+void SearchCounters::noteRespondingAddress()
 {
     const std::scoped_lock lock(m_mutex);
-    increment(m_answeredAddresses);
+    increment(m_respondingAddresses);
 }
 
 void SearchCounters::fill(SearchReport &report, const std::vector<InterfaceState> &interfaces,
@@ -96,7 +96,7 @@ void SearchCounters::fill(SearchReport &report, const std::vector<InterfaceState
             report.interfaces[report.count++] = reportOf(interface, devices);
     }
     report.addressesAsked = m_askedAddresses;
-    report.addressesAnswered = m_answeredAddresses;
+    report.addressesResponding = m_respondingAddresses;
     report.addressesNoRoute = m_unroutedAddresses;
     report.foreignDevices = static_cast<std::uint32_t>(
         std::count_if(devices.begin(), devices.end(),
@@ -117,7 +117,7 @@ std::uint32_t SearchCounters::obstaclesOf(const InterfaceState &interface, const
     if (counts.sendError != 0)
         obstacles |= bit(SearchObstacle::SendFailed);
     if (counts.requests > 0 && counts.messages == 0)
-        obstacles |= bit(SearchObstacle::NoAnswer);
+        obstacles |= bit(SearchObstacle::NoResponse);
     return obstacles;
 }
 

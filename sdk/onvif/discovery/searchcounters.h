@@ -35,7 +35,7 @@ public:
 
     /// Counts a request to a single address; `error` as above.
     void noteAskedAddress(int error);
-    void noteAnsweredAddress();
+    void noteRespondingAddress();
 
     /// Fills a report of `interfaces` and of the found `devices`. Loopback interfaces are omitted unless
     /// there are no others.
@@ -58,7 +58,7 @@ private:
     mutable std::mutex m_mutex;
     std::map<std::string, Counts> m_counts; ///< by local address
     std::uint32_t m_askedAddresses = 0;
-    std::uint32_t m_answeredAddresses = 0;
+    std::uint32_t m_respondingAddresses = 0;
     std::uint32_t m_unroutedAddresses = 0;
 };
 

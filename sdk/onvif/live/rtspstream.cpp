@@ -20,11 +20,11 @@ RtspStream::~RtspStream()
     stop();
 }
 
-std::optional<StreamEnd> RtspStream::waitForAnswer()
+std::optional<StreamEnd> RtspStream::waitForResponse()
 {
     std::unique_lock lock(m_mutex);
-    m_answered.wait(lock, [this] { return m_hasAnswer; });
-    return m_answer;
+    m_responded.wait(lock, [this] { return m_hasResponse; });
+    return m_response;
 }
 
 void RtspStream::stop()
@@ -34,19 +34,19 @@ void RtspStream::stop()
         m_thread.join();
 }
 
-void RtspStream::setAnswer(std::optional<StreamEnd> answer)
+void RtspStream::setResponse(std::optional<StreamEnd> response)
 {
     const std::lock_guard lock(m_mutex);
-    if (std::exchange(m_hasAnswer, true))
+    if (std::exchange(m_hasResponse, true))
         return;
-    m_answer = answer;
-    m_answered.notify_all();
+    m_response = response;
+    m_responded.notify_all();
 }
 
 void RtspStream::run(const std::stop_token &stop)
 {
     const auto [end, text] = receive(stop);
-    setAnswer(end);
+    setResponse(end);
     m_endHandler(end, text);
 }
 
@@ -70,7 +70,7 @@ RtspStream::Outcome RtspStream::receive(const std::stop_token &stop)
     remuxer = picture ? Remuxer::of(*picture, sound, m_mustRestart, m_dataHandler) : nullptr;
     if (!remuxer)
         return {StreamEnd::Unsupported, "no decodable video track"};
-    setAnswer(std::nullopt);
+    setResponse(std::nullopt);
     const AvPointer<AVPacket> packet(av_packet_alloc());
     while (packet && !remuxer->hasFailed() && session.read(*packet)) {
         if (remuxer->add(*packet))

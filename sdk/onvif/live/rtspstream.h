@@ -43,8 +43,8 @@ public:
     RtspStream &operator=(const RtspStream &) = delete;
 
     /// Blocks until the device plays (nothing is returned) or the stream has ended, slightly longer than
-    /// RtspTimeouts::answer at most. For any thread, but not for a handler.
-    [[nodiscard]] std::optional<StreamEnd> waitForAnswer();
+    /// RtspTimeouts::response at most. For any thread, but not for a handler.
+    [[nodiscard]] std::optional<StreamEnd> waitForResponse();
 
     /// Makes the container start again, with its header, at the next key frame. For any thread.
     void restart() { m_mustRestart = true; }
@@ -65,7 +65,7 @@ private:
 
     void run(const std::stop_token &stop);
     [[nodiscard]] Outcome receive(const std::stop_token &stop);
-    void setAnswer(std::optional<StreamEnd> answer);
+    void setResponse(std::optional<StreamEnd> response);
 
     const RtspOrder m_order;
     const DataHandler m_dataHandler;
@@ -73,10 +73,10 @@ private:
     std::atomic<bool> m_mustRestart = false;
 
     std::mutex m_mutex;
-    std::condition_variable m_answered;
-    bool m_hasAnswer = false;
-    std::optional<StreamEnd> m_answer; // valid with m_hasAnswer
-    std::jthread m_thread;             // the last member: its thread uses the others
+    std::condition_variable m_responded;
+    bool m_hasResponse = false;
+    std::optional<StreamEnd> m_response; // valid with m_hasResponse
+    std::jthread m_thread;               // the last member: its thread uses the others
 };
 
 } // namespace sdk::onvif

@@ -23,7 +23,7 @@ std::string_view streamEndName(StreamEnd end)
         return "connection refused";
     case StreamEnd::Unreachable:
         return "unreachable";
-    case StreamEnd::NoAnswer:
+    case StreamEnd::NoResponse:
         return "no response";
     case StreamEnd::Redirected:
         return "redirected";

@@ -16,7 +16,7 @@ enum class StreamEnd
     Rejected,          ///< the device responded with another error, such as a missing right
     ConnectionRefused, ///< the port is closed
     Unreachable,       ///< there is no route to the address
-    NoAnswer,          ///< the device did not respond in time
+    NoResponse,        ///< the device did not respond in time
     Redirected,        ///< the device redirects to another address, which is not used
     Oversized,         ///< the response exceeds the limits of a session
     Malformed,         ///< the response is not RTSP

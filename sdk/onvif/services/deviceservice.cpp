@@ -188,7 +188,7 @@ DeviceService::DeviceService(SoapClient &client, const ServiceAddress &address, 
 {
 }
 
-SoapAnswer DeviceService::call(const SoapRequest &request)
+SoapResponse DeviceService::call(const SoapRequest &request)
 {
     return m_client.call(m_address, request, m_deadline);
 }
@@ -391,9 +391,9 @@ ServiceOutcome DeviceService::resetCompletely()
 
 ServiceResult<FirmwareUpload> DeviceService::startFirmwareUpgrade()
 {
-    const SoapAnswer answer = call(SoapRequest("tds:StartFirmwareUpgrade"));
+    const SoapResponse start = call(SoapRequest("tds:StartFirmwareUpgrade"));
     ServiceResult<FirmwareUpload> result =
-        resultOf(answer, ns::device, "StartFirmwareUpgradeResponse", [this](const XmlElement &response) {
+        resultOf(start, ns::device, "StartFirmwareUpgradeResponse", [this](const XmlElement &response) {
             FirmwareUpload upload;
             const std::optional<ServiceAddress> address =
                 serviceAt(m_address, response.child(ns::device, "UploadUri").text());

@@ -133,7 +133,7 @@ public:
     [[nodiscard]] ServiceResult<FirmwareUpload> startFirmwareUpgrade();
 
 private:
-    [[nodiscard]] SoapAnswer call(const SoapRequest &request);
+    [[nodiscard]] SoapResponse call(const SoapRequest &request);
     [[nodiscard]] ServiceOutcome callPlain(const SoapRequest &request, std::string_view response);
 
     SoapClient &m_client;

@@ -193,29 +193,29 @@ void setVideo(pugi::xml_node settings, const VideoEncoder &encoder, MediaVersion
 
 } // namespace
 
-SoapAnswer MediaService::readConfiguration(std::string_view kind, const std::string &token,
-                                           XmlElement &configuration)
+SoapResponse MediaService::readConfiguration(std::string_view kind, const std::string &token,
+                                             XmlElement &configuration)
 {
     // The older service has an operation for a single configuration, the newer one a filter.
     const bool isSecond = m_version == MediaVersion::Second;
     const std::string name = "Get" + std::string(kind) + "Configuration" + (isSecond ? "s" : "");
     const SoapRequest readRequest = request(name);
     append(readRequest.operation(), isSecond ? "tr2:ConfigurationToken" : "trt:ConfigurationToken", token);
-    SoapAnswer answer = call(readRequest);
-    if (!answer.isOk())
-        return answer;
+    SoapResponse response = call(readRequest);
+    if (!response.isOk())
+        return response;
     const std::string_view element = isSecond ? "Configurations" : "Configuration";
-    for (const XmlElement &candidate : answer.content.children(uri(), element)) {
+    for (const XmlElement &candidate : response.content.children(uri(), element)) {
         if (candidate.attribute("token") == token)
             configuration = candidate;
     }
     if (!configuration.exists())
-        answer.error = NetError::ProtocolMismatch;
-    return answer;
+        response.error = NetError::ProtocolMismatch;
+    return response;
 }
 
-SoapAnswer MediaService::readOptions(std::string_view operation, const std::string &encoderToken,
-                                     const std::string &profileToken)
+SoapResponse MediaService::readOptions(std::string_view operation, const std::string &encoderToken,
+                                       const std::string &profileToken)
 {
     const std::string prefix = m_version == MediaVersion::Second ? "tr2:" : "trt:";
     const SoapRequest optionsRequest = request(operation);
@@ -255,9 +255,9 @@ ServiceResult<std::vector<AudioEncodingOptions>> MediaService::audioOptions(cons
 ServiceOutcome MediaService::setVideoEncoder(const VideoEncoder &encoder)
 {
     XmlElement configuration;
-    const SoapAnswer answer = readConfiguration("VideoEncoder", encoder.token, configuration);
-    if (!answer.isOk())
-        return {.error = answer.error, .reason = answer.reason};
+    const SoapResponse response = readConfiguration("VideoEncoder", encoder.token, configuration);
+    if (!response.isOk())
+        return {.error = response.error, .reason = response.reason};
     const bool isSecond = m_version == MediaVersion::Second;
     const SoapRequest setRequest = request("SetVideoEncoderConfiguration");
     pugi::xml_node settings = appendCopy(setRequest.operation(),
@@ -272,9 +272,9 @@ ServiceOutcome MediaService::setVideoEncoder(const VideoEncoder &encoder)
 ServiceOutcome MediaService::setAudioEncoder(const AudioEncoder &encoder)
 {
     XmlElement configuration;
-    const SoapAnswer answer = readConfiguration("AudioEncoder", encoder.token, configuration);
-    if (!answer.isOk())
-        return {.error = answer.error, .reason = answer.reason};
+    const SoapResponse response = readConfiguration("AudioEncoder", encoder.token, configuration);
+    if (!response.isOk())
+        return {.error = response.error, .reason = response.reason};
     const bool isSecond = m_version == MediaVersion::Second;
     const SoapRequest setRequest = request("SetAudioEncoderConfiguration");
     pugi::xml_node settings = appendCopy(setRequest.operation(),
@@ -291,9 +291,9 @@ ServiceOutcome MediaService::setAudioEncoder(const AudioEncoder &encoder)
 ServiceOutcome MediaService::setSourceName(const std::string &configurationToken, const std::string &name)
 {
     XmlElement configuration;
-    const SoapAnswer answer = readConfiguration("VideoSource", configurationToken, configuration);
-    if (!answer.isOk())
-        return {.error = answer.error, .reason = answer.reason};
+    const SoapResponse response = readConfiguration("VideoSource", configurationToken, configuration);
+    if (!response.isOk())
+        return {.error = response.error, .reason = response.reason};
     const bool isSecond = m_version == MediaVersion::Second;
     const SoapRequest setRequest = request("SetVideoSourceConfiguration");
     pugi::xml_node settings = appendCopy(setRequest.operation(),

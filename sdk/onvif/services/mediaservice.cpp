@@ -88,7 +88,7 @@ SoapRequest MediaService::request(std::string_view operation) const
     return SoapRequest((m_version == MediaVersion::Second ? "tr2:" : "trt:") + std::string(operation));
 }
 
-SoapAnswer MediaService::call(const SoapRequest &request)
+SoapResponse MediaService::call(const SoapRequest &request)
 {
     return m_client.call(m_address, request, m_deadline);
 }

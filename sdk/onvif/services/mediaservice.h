@@ -119,12 +119,12 @@ public:
 private:
     [[nodiscard]] std::string_view uri() const;
     [[nodiscard]] SoapRequest request(std::string_view operation) const;
-    [[nodiscard]] SoapAnswer call(const SoapRequest &request);
+    [[nodiscard]] SoapResponse call(const SoapRequest &request);
     [[nodiscard]] MediaProfile readProfile(const XmlElement &element) const;
-    [[nodiscard]] SoapAnswer readConfiguration(std::string_view kind, const std::string &token,
-                                               XmlElement &configuration);
-    [[nodiscard]] SoapAnswer readOptions(std::string_view operation, const std::string &encoderToken,
-                                         const std::string &profileToken);
+    [[nodiscard]] SoapResponse readConfiguration(std::string_view kind, const std::string &token,
+                                                 XmlElement &configuration);
+    [[nodiscard]] SoapResponse readOptions(std::string_view operation, const std::string &encoderToken,
+                                           const std::string &profileToken);
 
     SoapClient &m_client;
     const ServiceAddress &m_address;

@@ -29,14 +29,14 @@ using ServiceOutcome = ServiceResult<Nothing>;
 /// The error of a response, or the value that `read` returns for its content. A response of another operation
 /// is a protocol mismatch.
 template<typename Read>
-[[nodiscard]] auto resultOf(const SoapAnswer &answer, std::string_view uri, std::string_view expected,
-                            Read read) -> ServiceResult<decltype(read(answer.content))>
+[[nodiscard]] auto resultOf(const SoapResponse &response, std::string_view uri, std::string_view expected,
+                            Read read) -> ServiceResult<decltype(read(response.content))>
 {
-    if (!answer.isOk())
-        return {.error = answer.error, .reason = answer.reason};
-    if (!answer.content.is(uri, expected))
+    if (!response.isOk())
+        return {.error = response.error, .reason = response.reason};
+    if (!response.content.is(uri, expected))
         return {.error = NetError::ProtocolMismatch};
-    return {.value = read(answer.content)};
+    return {.value = read(response.content)};
 }
 
 } // namespace sdk::onvif

@@ -47,7 +47,7 @@ HttpEnd endOf(CURLcode code, bool isConnected, long systemError)
 {
     switch (code) {
     case CURLE_OK:
-        return HttpEnd::Answered;
+        return HttpEnd::Responded;
     case CURLE_ABORTED_BY_CALLBACK:
         return HttpEnd::Cancelled;
     case CURLE_COULDNT_CONNECT:
@@ -55,7 +55,7 @@ HttpEnd endOf(CURLcode code, bool isConnected, long systemError)
     case CURLE_COULDNT_RESOLVE_HOST:
         return HttpEnd::NotReached;
     case CURLE_OPERATION_TIMEDOUT:
-        return isConnected ? HttpEnd::NoAnswer : HttpEnd::NotReached;
+        return isConnected ? HttpEnd::NoResponse : HttpEnd::NotReached;
     case CURLE_WRITE_ERROR:
     case CURLE_FILESIZE_EXCEEDED:
         return HttpEnd::TooLarge;
@@ -132,7 +132,7 @@ struct HttpClient::Connection
 /// The data that are received in one exchange.
 struct HttpClient::Exchange
 {
-    HttpAnswer answer;
+    HttpResponse response;
     std::size_t headerLength = 0;
     const std::function<void(std::int64_t)> *progress = nullptr;
 
@@ -145,9 +145,9 @@ struct HttpClient::Exchange
             return 0;
         if (line.starts_with(
                 "HTTP/")) // the headers of the next response: the response to the login follows the challenge
-            self->answer.offersDigest = false;
+            self->response.offersDigest = false;
         if (isDigestChallenge(line))
-            self->answer.offersDigest = true;
+            self->response.offersDigest = true;
         return line.size();
     }
 
@@ -155,9 +155,9 @@ struct HttpClient::Exchange
     {
         auto *self = static_cast<Exchange *>(user);
         const std::size_t length = size * count;
-        if (self->answer.body.size() + length > largestAnswer)
+        if (self->response.body.size() + length > largestResponse)
             return 0;
-        self->answer.body.append(data, length);
+        self->response.body.append(data, length);
         return length;
     }
 
@@ -202,9 +202,9 @@ void HttpClient::giveBack(std::unique_ptr<Connection> connection)
         m_idle.push_back(std::move(connection));
 }
 
-HttpAnswer HttpClient::post(const ServiceAddress &address, const std::string &body,
-                            const std::string &contentType, const HttpLogin *login,
-                            std::chrono::steady_clock::time_point deadline)
+HttpResponse HttpClient::post(const ServiceAddress &address, const std::string &body,
+                              const std::string &contentType, const HttpLogin *login,
+                              std::chrono::steady_clock::time_point deadline)
 {
     std::unique_ptr<Connection> connection = takeConnection();
     if (!connection->isUsable())
@@ -214,27 +214,27 @@ HttpAnswer HttpClient::post(const ServiceAddress &address, const std::string &bo
     connection->addHeader("Expect:"); // small servers do not know "100-continue"
     connection->set(CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(body.size()));
     connection->set(CURLOPT_POSTFIELDS, body.c_str());
-    HttpAnswer answer = exchange(*connection, address, login, {}, deadline);
+    HttpResponse response = exchange(*connection, address, login, {}, deadline);
     giveBack(std::move(connection));
-    return answer;
+    return response;
 }
 
-HttpAnswer HttpClient::get(const ServiceAddress &address, const HttpLogin *login,
-                           std::chrono::steady_clock::time_point deadline)
+HttpResponse HttpClient::get(const ServiceAddress &address, const HttpLogin *login,
+                             std::chrono::steady_clock::time_point deadline)
 {
     std::unique_ptr<Connection> connection = takeConnection();
     if (!connection->isUsable())
         return {.end = HttpEnd::Broken};
     curl_easy_reset(connection->easy.get());
     connection->set(CURLOPT_HTTPGET, 1L);
-    HttpAnswer answer = exchange(*connection, address, login, {}, deadline);
+    HttpResponse response = exchange(*connection, address, login, {}, deadline);
     giveBack(std::move(connection));
-    return answer;
+    return response;
 }
 
-HttpAnswer HttpClient::postFile(const ServiceAddress &address, const std::string &fileName,
-                                const HttpLogin *login, const std::function<void(std::int64_t)> &progress,
-                                std::chrono::steady_clock::time_point deadline)
+HttpResponse HttpClient::postFile(const ServiceAddress &address, const std::string &fileName,
+                                  const HttpLogin *login, const std::function<void(std::int64_t)> &progress,
+                                  std::chrono::steady_clock::time_point deadline)
 {
     std::unique_ptr<Connection> connection = takeConnection();
     std::error_code error;
@@ -257,18 +257,18 @@ HttpAnswer HttpClient::postFile(const ServiceAddress &address, const std::string
                        ? CURL_SEEKFUNC_OK
                        : CURL_SEEKFUNC_FAIL;
         }));
-    HttpAnswer answer = exchange(*connection, address, login, progress, deadline);
+    HttpResponse response = exchange(*connection, address, login, progress, deadline);
     giveBack(std::move(connection));
-    return answer;
+    return response;
 }
 
-HttpAnswer HttpClient::exchange(Connection &connection, const ServiceAddress &address, const HttpLogin *login,
-                                const std::function<void(std::int64_t)> &progress,
-                                std::chrono::steady_clock::time_point deadline)
+HttpResponse HttpClient::exchange(Connection &connection, const ServiceAddress &address,
+                                  const HttpLogin *login, const std::function<void(std::int64_t)> &progress,
+                                  std::chrono::steady_clock::time_point deadline)
 {
     const long left = millisecondsUntil(deadline);
     if (left <= 0)
-        return {.end = HttpEnd::NoAnswer};
+        return {.end = HttpEnd::NoResponse};
     Exchange exchange;
     exchange.progress = &progress;
     const std::string url = address.url();
@@ -309,14 +309,14 @@ HttpAnswer HttpClient::exchange(Connection &connection, const ServiceAddress &ad
     const CURLcode code = connection.run(m_isCancelled);
     curl_off_t connectTime = 0;
     curl_easy_getinfo(connection.easy.get(), CURLINFO_CONNECT_TIME_T, &connectTime);
-    curl_easy_getinfo(connection.easy.get(), CURLINFO_RESPONSE_CODE, &exchange.answer.status);
+    curl_easy_getinfo(connection.easy.get(), CURLINFO_RESPONSE_CODE, &exchange.response.status);
     long systemError = 0;
     curl_easy_getinfo(connection.easy.get(), CURLINFO_OS_ERRNO, &systemError);
-    exchange.answer.end = endOf(code, connectTime > 0, systemError);
+    exchange.response.end = endOf(code, connectTime > 0, systemError);
     if (check && check->refusal())
-        exchange.answer.end = check->refusal() == CertificateVerdict::Changed ? HttpEnd::ChangedCertificate
-                                                                              : HttpEnd::UnknownCertificate;
-    return std::move(exchange.answer);
+        exchange.response.end = check->refusal() == CertificateVerdict::Changed ? HttpEnd::ChangedCertificate
+                                                                                : HttpEnd::UnknownCertificate;
+    return std::move(exchange.response);
 }
 
 } // namespace sdk::onvif

@@ -90,11 +90,11 @@ bool isSameLogin(const HttpLogin &left, const HttpLogin &right)
     return left.account == right.account && left.password == right.password;
 }
 
-SoapAnswer failedAnswer(NetError error)
+SoapResponse failedResponse(NetError error)
 {
-    SoapAnswer answer;
-    answer.error = error;
-    return answer;
+    SoapResponse response;
+    response.error = error;
+    return response;
 }
 
 std::string reasonOfFault(const XmlElement &fault)
@@ -108,10 +108,10 @@ std::string reasonOfFault(const XmlElement &fault)
 NetError errorOfEnd(HttpEnd end)
 {
     switch (end) {
-    case HttpEnd::Answered:
+    case HttpEnd::Responded:
         return NetError::None;
     case HttpEnd::NotReached:
-    case HttpEnd::NoAnswer: // over a persistent connection, or through a router
+    case HttpEnd::NoResponse: // over a persistent connection, or through a router
         return NetError::ConnectTimeout;
     case HttpEnd::NotAccepted:
         return NetError::ConnectFailed;
@@ -144,15 +144,15 @@ NetError errorOfStatus(long status)
 
 } // namespace
 
-SoapAnswer readSoapAnswer(const HttpAnswer &answer)
+SoapResponse readSoapResponse(const HttpResponse &response)
 {
-    SoapAnswer read;
-    read.error = errorOfEnd(answer.end);
+    SoapResponse read;
+    read.error = errorOfEnd(response.end);
     if (!read.isOk())
         return read;
-    std::optional<XmlDocument> document = XmlDocument::read(answer.body);
+    std::optional<XmlDocument> document = XmlDocument::read(response.body);
     if (!document) {
-        read.error = errorOfStatus(answer.status);
+        read.error = errorOfStatus(response.status);
         return read;
     }
     read.document = std::make_unique<XmlDocument>(std::move(*document));
@@ -163,18 +163,18 @@ SoapAnswer readSoapAnswer(const HttpAnswer &answer)
             continue;
         // A fault is evaluated regardless of the status: devices send it with 200, 400, 401, 403 and 500.
         if (const XmlElement fault = body.child(uri, "Fault"); fault.exists()) {
-            read.error = answer.status == forbidden ? NetError::Refused : errorOfFault(fault);
-            if (answer.status == unauthorised)
+            read.error = response.status == forbidden ? NetError::Refused : errorOfFault(fault);
+            if (response.status == unauthorised)
                 read.error = NetError::WrongPassword;
-            read.mayLackRight = answer.status != unauthorised && isNotAuthorized(fault);
+            read.mayLackRight = response.status != unauthorised && isNotAuthorized(fault);
             read.reason = reasonOfFault(fault);
             return read;
         }
-        if (answer.status == 200)
+        if (response.status == 200)
             read.content = body.firstChild();
     }
     if (!read.content.exists())
-        read.error = errorOfStatus(answer.status);
+        read.error = errorOfStatus(response.status);
     return read;
 }
 
@@ -231,14 +231,14 @@ void SoapClient::confirm(const ServiceAddress &service, const SoapRequest &reque
     m_isConfirmed = true;
 }
 
-SoapAnswer SoapClient::callOpenly(const ServiceAddress &service, const SoapRequest &request,
-                                  Deadline deadline)
+SoapResponse SoapClient::callOpenly(const ServiceAddress &service, const SoapRequest &request,
+                                    Deadline deadline)
 {
     LoginMethod offered = LoginMethod::Unknown;
     return send(service, request, LoginMethod::Unknown, deadline, offered, {});
 }
 
-SoapAnswer SoapClient::call(const ServiceAddress &service, const SoapRequest &request, Deadline deadline)
+SoapResponse SoapClient::call(const ServiceAddress &service, const SoapRequest &request, Deadline deadline)
 {
     std::unique_lock order(m_order, std::defer_lock);
     if (!m_isConfirmed) {
@@ -247,44 +247,44 @@ SoapAnswer SoapClient::call(const ServiceAddress &service, const SoapRequest &re
             order.unlock();
     }
     if (const std::optional<NetError> refused = refusal())
-        return failedAnswer(*refused);
+        return failedResponse(*refused);
     if (m_method == LoginMethod::Unknown) {
         LoginMethod offered = LoginMethod::Unknown;
-        SoapAnswer answer = send(service, request, LoginMethod::Unknown, deadline, offered, {});
-        if (answer.error != NetError::WrongPassword)
-            return answer;
+        SoapResponse response = send(service, request, LoginMethod::Unknown, deadline, offered, {});
+        if (response.error != NetError::WrongPassword)
+            return response;
         m_method = offered;
     }
     SentLogin sent;
-    SoapAnswer answer = sendLogin(service, request, deadline, sent);
-    if (answer.isOk())
+    SoapResponse response = sendLogin(service, request, deadline, sent);
+    if (response.isOk())
         confirm(service, request);
-    if (!isRefusedLogin(answer.error))
-        return answer;
+    if (!isRefusedLogin(response.error))
+        return response;
     if (!order.owns_lock())
         order.lock();
-    return judgeRefusal(std::move(answer), std::move(sent), service, request, deadline);
+    return judgeRefusal(std::move(response), std::move(sent), service, request, deadline);
 }
 
-SoapAnswer SoapClient::judgeRefusal(SoapAnswer answer, SentLogin sent, const ServiceAddress &service,
-                                    const SoapRequest &request, Deadline deadline)
+SoapResponse SoapClient::judgeRefusal(SoapResponse response, SentLogin sent, const ServiceAddress &service,
+                                      const SoapRequest &request, Deadline deadline)
 {
     if (const std::optional<NetError> refused = refusal())
-        return failedAnswer(*refused);
+        return failedResponse(*refused);
     const bool isOutdated = !isSameLogin(sent.login, login());
-    if (isOutdated || (answer.error == NetError::WrongPassword && hasClockMoved(sent, deadline))) {
-        answer = sendLogin(service, request, deadline, sent);
-        if (!isRefusedLogin(answer.error))
-            return answer;
+    if (isOutdated || (response.error == NetError::WrongPassword && hasClockMoved(sent, deadline))) {
+        response = sendLogin(service, request, deadline, sent);
+        if (!isRefusedLogin(response.error))
+            return response;
     }
-    NetError refused = answer.error;
-    if (answer.mayLackRight && m_isConfirmed)
+    NetError refused = response.error;
+    if (response.mayLackRight && m_isConfirmed)
         refused = provePassword(deadline);
     if (refused == NetError::None)
-        answer.error = NetError::Refused;
+        response.error = NetError::Refused;
     else
-        answer.error = isRefusedLogin(refused) ? noteRefusal(refused) : refused;
-    return answer;
+        response.error = isRefusedLogin(refused) ? noteRefusal(refused) : refused;
+    return response;
 }
 
 bool SoapClient::hasClockMoved(const SentLogin &sent, Deadline deadline)
@@ -313,16 +313,16 @@ NetError SoapClient::provePassword(Deadline deadline)
     return sendLogin(proof->service, SoapRequest(proof->operation), deadline, sent).error;
 }
 
-SoapAnswer SoapClient::sendLogin(const ServiceAddress &service, const SoapRequest &request, Deadline deadline,
-                                 SentLogin &sent)
+SoapResponse SoapClient::sendLogin(const ServiceAddress &service, const SoapRequest &request,
+                                   Deadline deadline, SentLogin &sent)
 {
     sent = {.login = login(), .clockOffset = m_clockOffset.load()};
     LoginMethod offered = LoginMethod::Unknown;
     return send(service, request, m_method, deadline, offered, sent);
 }
 
-SoapAnswer SoapClient::send(const ServiceAddress &service, const SoapRequest &request, LoginMethod method,
-                            Deadline deadline, LoginMethod &offered, const SentLogin &sent)
+SoapResponse SoapClient::send(const ServiceAddress &service, const SoapRequest &request, LoginMethod method,
+                              Deadline deadline, LoginMethod &offered, const SentLogin &sent)
 {
     std::string header;
     if (method == LoginMethod::Token) {
@@ -330,14 +330,14 @@ SoapAnswer SoapClient::send(const ServiceAddress &service, const SoapRequest &re
             std::chrono::system_clock::now() + std::chrono::milliseconds(sent.clockOffset);
         header = passwordToken(sent.login.account, sent.login.password, deviceTime);
     }
-    const HttpAnswer answer =
+    const HttpResponse response =
         m_http->post(service, request.text(header), "application/soap+xml; charset=utf-8",
                      method == LoginMethod::Digest ? &sent.login : nullptr, deadline);
-    offered = answer.offersDigest ? LoginMethod::Digest : LoginMethod::Token;
-    SoapAnswer read = readSoapAnswer(answer);
+    offered = response.offersDigest ? LoginMethod::Digest : LoginMethod::Token;
+    SoapResponse read = readSoapResponse(response);
     if (!read.isOk())
-        qCDebug(logOnvif) << service.url().c_str() << request.operation().name() << "status" << answer.status
-                          << "error" << Qt::hex << static_cast<std::uint32_t>(read.error)
+        qCDebug(logOnvif) << service.url().c_str() << request.operation().name() << "status"
+                          << response.status << "error" << Qt::hex << static_cast<std::uint32_t>(read.error)
                           << read.reason.c_str();
     return read;
 }

@@ -27,7 +27,7 @@ enum class LoginMethod
 };
 
 /// The response to a call.
-struct SoapAnswer
+struct SoapResponse
 {
     NetError error = NetError::None;
     bool mayLackRight = false; ///< the fault may mean a wrong password or a missing right
@@ -64,12 +64,12 @@ public:
     void setClockReader(ClockReader reader) { m_readClock = std::move(reader); }
 
     /// A call with the login, where the device needs one.
-    [[nodiscard]] SoapAnswer call(const ServiceAddress &service, const SoapRequest &request,
-                                  Deadline deadline);
+    [[nodiscard]] SoapResponse call(const ServiceAddress &service, const SoapRequest &request,
+                                    Deadline deadline);
 
     /// A call that never sends the login.
-    [[nodiscard]] SoapAnswer callOpenly(const ServiceAddress &service, const SoapRequest &request,
-                                        Deadline deadline);
+    [[nodiscard]] SoapResponse callOpenly(const ServiceAddress &service, const SoapRequest &request,
+                                          Deadline deadline);
 
     /// Sets the time of the device minus the time of this host, for the token.
     void setClockOffset(std::chrono::milliseconds offset) { m_clockOffset = offset.count(); }
@@ -107,13 +107,14 @@ private:
         std::string operation = {};
     };
 
-    [[nodiscard]] SoapAnswer send(const ServiceAddress &service, const SoapRequest &request,
-                                  LoginMethod method, Deadline deadline, LoginMethod &offered,
-                                  const SentLogin &sent);
-    [[nodiscard]] SoapAnswer sendLogin(const ServiceAddress &service, const SoapRequest &request,
-                                       Deadline deadline, SentLogin &sent);
-    [[nodiscard]] SoapAnswer judgeRefusal(SoapAnswer answer, SentLogin sent, const ServiceAddress &service,
-                                          const SoapRequest &request, Deadline deadline);
+    [[nodiscard]] SoapResponse send(const ServiceAddress &service, const SoapRequest &request,
+                                    LoginMethod method, Deadline deadline, LoginMethod &offered,
+                                    const SentLogin &sent);
+    [[nodiscard]] SoapResponse sendLogin(const ServiceAddress &service, const SoapRequest &request,
+                                         Deadline deadline, SentLogin &sent);
+    [[nodiscard]] SoapResponse judgeRefusal(SoapResponse response, SentLogin sent,
+                                            const ServiceAddress &service, const SoapRequest &request,
+                                            Deadline deadline);
     [[nodiscard]] bool hasClockMoved(const SentLogin &sent, Deadline deadline);
     [[nodiscard]] NetError provePassword(Deadline deadline);
     void confirm(const ServiceAddress &service, const SoapRequest &request);
@@ -133,6 +134,6 @@ private:
 
 /// Reads the response of an HTTP exchange: the content of the body, or the error of a fault or of the status.
 /// `reason` is the text of the fault.
-[[nodiscard]] SoapAnswer readSoapAnswer(const HttpAnswer &answer);
+[[nodiscard]] SoapResponse readSoapResponse(const HttpResponse &response);
 
 } // namespace sdk::onvif

@@ -61,10 +61,11 @@ public:
     bool NetQueryCapabilities(std::int64_t loginHandle, sdk::CapabilityQuery query, const void *input,
                               void *output, std::chrono::milliseconds wait) override
     {
-        const bool isAnswered = DemoNetLibrary::NetQueryCapabilities(loginHandle, query, input, output, wait);
-        if (isAnswered && query == sdk::CapabilityQuery::Encode && changeEncodeCapabilities)
+        const bool hasResponse =
+            DemoNetLibrary::NetQueryCapabilities(loginHandle, query, input, output, wait);
+        if (hasResponse && query == sdk::CapabilityQuery::Encode && changeEncodeCapabilities)
             changeEncodeCapabilities(*static_cast<sdk::EncodeCapabilities *>(output));
-        return isAnswered;
+        return hasResponse;
     }
 
     std::function<void()> beforeWriting; ///< called before an item is written; may be null

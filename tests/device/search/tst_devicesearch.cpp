@@ -7,7 +7,7 @@
 #include "sdk/netlibrary.h"
 #include "sdk/searchreportblocks.h"
 #include "tests/datatable.h"
-#include "tests/device/searchanswers.h"
+#include "tests/device/searchresponses.h"
 
 #include <QSignalSpy>
 #include <QThread>
@@ -172,7 +172,7 @@ private Q_SLOTS:
         QVERIFY(m_site->libraries().net->NetGetSearchReport(report));
         QCOMPARE(report.addressesAsked,
                  246U + 256U + 21U); // counted once, although two requests are sent to each address
-        QVERIFY(report.addressesAnswered > 0 && report.addressesAnswered < 30);
+        QVERIFY(report.addressesResponding > 0 && report.addressesResponding < 30);
 
         m_site->requests().clear();
         m_factory->startSearch("dh");
@@ -188,7 +188,7 @@ private Q_SLOTS:
         m_factory->startSearch("dh");
         QVERIFY(m_site->requests().waitFor("NetStartSearchDevices", 1)); // the list has been emptied
         for (int number = 0; number < 20'010; ++number)
-            m_store->addAnswer(searchAnswer({.mac = numberedMac(number)}));
+            m_store->addResponse(searchResponse({.mac = numberedMac(number)}));
         stepUntil(done, 1);
         QCOMPARE(limited.size(), 1);
         QCOMPARE(limited.at(0).at(0).toInt(), 20'000);

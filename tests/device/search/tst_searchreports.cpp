@@ -70,12 +70,12 @@ private Q_SLOTS:
         // text: of all blocks, without the advice on obstacles
         const auto row = dataTable<QList<Address>, QString>({"addresses", "text"});
         row("no interface", {}, "网卡\n! 本机没有可用的网卡\n");
-        row("answered over one address family",
+        row("responses over one address family",
             {{.sent = 4, .received = 6, .leaving = 1, .unreadable = 2},
-             {.address = "fe80::5%eth0", .obstacles = {SearchObstacle::NoAnswer}, .sent = 4}},
+             {.address = "fe80::5%eth0", .obstacles = {SearchObstacle::NoResponse}, .sent = 4}},
             "eth0\n地址: 192.0.2.5/24, fe80::5/24\n已发送: 8 个请求\n已收到: 6 条消息\n找到: 0 台设备\n"
             "未采用: 无法识别的消息 2 条，设备离开网络的通知 1 条\n");
-        row("no response", {{.obstacles = {SearchObstacle::NoAnswer}, .sent = 4}},
+        row("no response", {{.obstacles = {SearchObstacle::NoResponse}, .sent = 4}},
             "eth0\n地址: 192.0.2.5/24\n已发送: 4 个请求\n已收到: 0 条消息\n找到: 0 台设备\n! "
             "没有收到任何应答\n");
         row("two interfaces, one without a cable, one switched off",
@@ -147,11 +147,11 @@ private Q_SLOTS:
         // all blocks, without the advice on obstacles
         const auto row = dataTable<QList<Address>, QList<Address>, QString>({"before", "after", "text"});
         const QString asked = "\n按地址搜索\n已询问: 3 个地址\n有应答: 1 个地址\n";
-        const QList<Address> answered = {
+        const QList<Address> responded = {
             {.sent = 4, .received = 6, .leaving = 1, .unreadable = 2, .found = 5},
-            {.interface = "eth1", .obstacles = {SearchObstacle::NoAnswer}, .sent = 4},
+            {.interface = "eth1", .obstacles = {SearchObstacle::NoResponse}, .sent = 4},
             {.interface = "eth2", .obstacles = {SearchObstacle::InterfaceDown}}};
-        row("nothing went to groups", answered, answered,
+        row("nothing went to groups", responded, responded,
             "eth0\n地址: 192.0.2.5/24\n\neth1\n地址: 192.0.2.5/24\n"
             "\neth2\n地址: 192.0.2.5/24\n! 网卡已停用\n" +
                 asked);
@@ -160,7 +160,7 @@ private Q_SLOTS:
             "eth0\n地址: 192.0.2.5/24\n已收到: 3 条消息\n找到: 1 台设备\n"
             "未采用: 设备离开网络的通知 2 条\n" +
                 asked);
-        row("another address since, which groups cannot be reached from", answered,
+        row("another address since, which groups cannot be reached from", responded,
             {{.address = "198.51.100.5",
               .obstacles = {SearchObstacle::SendFailed, SearchObstacle::NoMulticast}}},
             "eth0\n地址: 198.51.100.5/24\n" + asked);
@@ -182,7 +182,7 @@ private Q_SLOTS:
         net->m_report = reportOf(after);
         net->m_report.foreignDevices = 2;
         net->m_report.addressesAsked = 3;
-        net->m_report.addressesAnswered = 1;
+        net->m_report.addressesResponding = 1;
         reports.end(1, false);
         QString shown = reports.text().section("\n\n", 1); // without the time and the summary
         shown.remove("  在操作系统的网络设置中启用它。\n");

@@ -2,7 +2,7 @@
 #include "device/store/devicestore.h"
 #include "sdk/demo/steppableclock.h"
 #include "tests/datatable.h"
-#include "tests/device/searchanswers.h"
+#include "tests/device/searchresponses.h"
 #include "tests/values.h"
 
 #include <array>
@@ -51,25 +51,26 @@ private Q_SLOTS:
     {
         QFETCH(int, byte);
         QFETCH(bool, initialised);
-        sdk::SearchAnswer answer = searchAnswer({});
-        answer.device.initialisationState = static_cast<std::uint8_t>(byte);
-        m_store->addAnswer(answer);
+        sdk::SearchResponse response = searchResponse({});
+        response.device.initialisationState = static_cast<std::uint8_t>(byte);
+        m_store->addResponse(response);
         QCOMPARE(m_store->ipv4Rows().value(0).toJsonObject().value("state").toBool(), initialised);
     }
 
     void theFirstResponseOfADeviceCounts()
     {
-        m_store->addAnswer(searchAnswer({.address = "192.168.1.64"}));
+        m_store->addResponse(searchResponse({.address = "192.168.1.64"}));
         QCOMPARE(valuesOf(m_store->row("02:1a:c5:00:40:17"),
                           "name type model ipport vision res upgrade upgraderes httpport"),
                  "东门|IPC|B-2230-IR|192.168.1.64:37777|v2.840.1|-1|0|-1|80");
-        const DeviceStore::Addition second = m_store->addAnswer(searchAnswer({.address = "192.168.1.99"}));
+        const DeviceStore::Addition second =
+            m_store->addResponse(searchResponse({.address = "192.168.1.99"}));
         QVERIFY(!second.added);
         QCOMPARE(values(m_store->ipv4Rows(), DeviceRowKey::ipport), QStringList("192.168.1.64:37777"));
         QCOMPARE(sdk::blockText(m_store->record("02:1a:c5:00:40:17")->device.address), "192.168.1.64");
 
-        m_store->addAnswer(searchAnswer({.address = "fe80::1", .ipVersion = 6}));
-        m_store->addAnswer(searchAnswer({.address = "fe80::1", .ipVersion = 6}));
+        m_store->addResponse(searchResponse({.address = "fe80::1", .ipVersion = 6}));
+        m_store->addResponse(searchResponse({.address = "fe80::1", .ipVersion = 6}));
         QCOMPARE(m_store->ipv6Rows().size(), 1);
     }
 
@@ -77,48 +78,48 @@ private Q_SLOTS:
     {
         for (int number = 0; number < DeviceStore::maximumFound; ++number) {
             const bool ipv4 = number % 2 == 0;
-            m_store->addAnswer(searchAnswer({.address = ipv4 ? "192.168.1.64" : "fe80::1",
-                                             .mac = numberedMac(number),
-                                             .ipVersion = ipv4 ? 4 : 6}));
+            m_store->addResponse(searchResponse({.address = ipv4 ? "192.168.1.64" : "fe80::1",
+                                                 .mac = numberedMac(number),
+                                                 .ipVersion = ipv4 ? 4 : 6}));
         }
         for (int number = 19'990; number < 20'003; ++number) // the last three devices exceed the limit
             QVERIFY(!m_store
-                         ->addAnswer(searchAnswer({.address = number % 2 ? "fe80::1" : "192.168.1.64",
-                                                   .mac = numberedMac(number),
-                                                   .ipVersion = number % 2 ? 6 : 4}))
+                         ->addResponse(searchResponse({.address = number % 2 ? "fe80::1" : "192.168.1.64",
+                                                       .mac = numberedMac(number),
+                                                       .ipVersion = number % 2 ? 6 : 4}))
                          .added);
         QCOMPARE(m_store->ipv4Rows().size() + m_store->ipv6Rows().size(), 20'000);
         QCOMPARE(m_store->leftOut(), 3);
         m_store->clear();
         QCOMPARE(m_store->leftOut(), 0);
-        QVERIFY(m_store->addAnswer(searchAnswer({})).added);
+        QVERIFY(m_store->addResponse(searchResponse({})).added);
     }
 
     void aRemovedDeviceIsNotListedUntilTheNextSearch()
     {
-        const sdk::SearchAnswer ipv4 = searchAnswer({});
-        const sdk::SearchAnswer ipv6 = searchAnswer({.address = "fe80::1", .ipVersion = 6});
+        const sdk::SearchResponse ipv4 = searchResponse({});
+        const sdk::SearchResponse ipv6 = searchResponse({.address = "fe80::1", .ipVersion = 6});
         const QString mac = "02:1a:c5:00:40:17";
         m_store->upsertRow({{"mac", "added by hand"}});
-        m_store->addAnswer(ipv4);
-        m_store->addAnswer(ipv6);
+        m_store->addResponse(ipv4);
+        m_store->addResponse(ipv6);
         m_store->removeRows({mac, "added by hand"});
         m_store->removeIPv6Rows({"[fe80::1]:37777"});
-        m_store->addAnswer(ipv4);
-        m_store->addAnswer(ipv6);
-        m_store->addAnswer(searchAnswer({.mac = "added by hand"}));
+        m_store->addResponse(ipv4);
+        m_store->addResponse(ipv6);
+        m_store->addResponse(searchResponse({.mac = "added by hand"}));
         QCOMPARE(m_store->ipv4Rows().size() + m_store->ipv6Rows().size(), 0);
         m_store->upsertRow({{"mac", mac}});
         QCOMPARE(m_store->ipv4Rows().size(), 1);
         m_store->clear();
-        QVERIFY(m_store->addAnswer(ipv4).added);
-        QVERIFY(m_store->addAnswer(ipv6).added);
+        QVERIFY(m_store->addResponse(ipv4).added);
+        QVERIFY(m_store->addResponse(ipv6).added);
     }
 
     void ipv6RowsWithTheSameAddressAreRemovedSeparately()
     {
         for (int number = 0; number < 3; ++number)
-            m_store->addAnswer(searchAnswer(
+            m_store->addResponse(searchResponse(
                 {.address = "0.0.0.0", .mac = numberedMac(number), .name = std::to_string(number)}));
         const auto names = [this] {
             return values(m_store->ipv6Rows(), DeviceRowKey::name);
@@ -126,7 +127,7 @@ private Q_SLOTS:
         m_store->removeIPv6Rows({"0.0.0.0:37777"});
         QCOMPARE(names(), QStringList({"1", "2"}));
         // Neither a remaining nor an added row has the name of the removed one.
-        m_store->addAnswer(searchAnswer({.address = "0.0.0.0", .mac = numberedMac(3), .name = "3"}));
+        m_store->addResponse(searchResponse({.address = "0.0.0.0", .mac = numberedMac(3), .name = "3"}));
         QVERIFY(!m_store->changeRowNamed("0.0.0.0:37777", [](QJsonObject &) {}));
         QCOMPARE(m_store->rowNamed("0.0.0.0:37777#1").value("name").toString(), "1");
         m_store->removeIPv6Rows({"0.0.0.0:37777#2"});
@@ -140,7 +141,7 @@ private Q_SLOTS:
             QVERIFY(m_store->changeRow(mac, [&](QJsonObject &row) { row.insert("ipport", ipport); }));
         };
         for (const char *mac : {"a", "b", "c"})
-            m_store->addAnswer(searchAnswer({.address = "192.168.1.108", .mac = mac}));
+            m_store->addResponse(searchResponse({.address = "192.168.1.108", .mac = mac}));
         const auto first = [&] {
             return m_store->rowAt(shared).value("mac").toString();
         };
@@ -159,10 +160,11 @@ private Q_SLOTS:
     void aRowWithoutAMacKeepsItsName()
     {
         const QString name = "192.168.1.64:37777";
-        m_store->addAnswer(searchAnswer({.mac = ""}));
+        m_store->addResponse(searchResponse({.mac = ""}));
         QVERIFY(
             m_store->changeRow(name, [](QJsonObject &row) { row.insert("ipport", "192.168.1.65:37777"); }));
-        const sdk::SearchAnswer moved = searchAnswer({.address = "192.168.1.65", .mac = "", .name = "gate"});
+        const sdk::SearchResponse moved =
+            searchResponse({.address = "192.168.1.65", .mac = "", .name = "gate"});
         QCOMPARE(m_store->nameOf(moved), name);
         QVERIFY(m_store->updateRow(name, moved, "192.168.1.65"));
         QCOMPARE(rowName(m_store->ipv4Rows().value(0).toJsonObject()), name);
@@ -170,7 +172,7 @@ private Q_SLOTS:
         QCOMPARE(sdk::blockText(m_store->record(name)->device.address), "192.168.1.65");
         // Another device at the old address is not mistaken for it, and is recognised itself.
         for (int time = 0; time < 2; ++time)
-            m_store->upsertRow({{"ipport", name}}, searchAnswer({.mac = ""}));
+            m_store->upsertRow({{"ipport", name}}, searchResponse({.mac = ""}));
         QCOMPARE(values(m_store->ipv4Rows(), DeviceRowKey::name), QStringList({"gate", ""}));
         QCOMPARE(sdk::blockText(m_store->record(name + "#1")->device.address), "192.168.1.64");
     }
@@ -178,10 +180,10 @@ private Q_SLOTS:
     void aDeviceIsIdentifiedByMacThenUuidThenAddress_data()
     {
         // first, second: the responses; rows: name and MAC of each row after them
-        const auto row = dataTable<AnswerTexts, AnswerTexts, QStringList>({"first", "second", "rows"});
-        const AnswerTexts own = {.mac = "", .uuid = "5f5a"};
-        const AnswerTexts withMac = {.mac = "m1", .uuid = "5f5a"};
-        const AnswerTexts other = {.address = "192.168.1.65", .mac = "", .uuid = "5f5a"};
+        const auto row = dataTable<ResponseTexts, ResponseTexts, QStringList>({"first", "second", "rows"});
+        const ResponseTexts own = {.mac = "", .uuid = "5f5a"};
+        const ResponseTexts withMac = {.mac = "m1", .uuid = "5f5a"};
+        const ResponseTexts other = {.address = "192.168.1.65", .mac = "", .uuid = "5f5a"};
         row("the same again", own, own, {"uuid:5f5a "});
         row("the MAC comes later", own, withMac, {"uuid:5f5a m1"});
         row("the MAC came before", withMac, own, {"m1 m1"});
@@ -195,13 +197,13 @@ private Q_SLOTS:
 
     void aDeviceIsIdentifiedByMacThenUuidThenAddress()
     {
-        QFETCH(AnswerTexts, first);
-        QFETCH(AnswerTexts, second);
+        QFETCH(ResponseTexts, first);
+        QFETCH(ResponseTexts, second);
         QFETCH(QStringList, rows);
         QStringList removed;
         for (int time = 0; time < 2; ++time) { // repeated responses add no rows
-            m_store->addAnswer(searchAnswer(first));
-            m_store->addAnswer(searchAnswer(second));
+            m_store->addResponse(searchResponse(first));
+            m_store->addResponse(searchResponse(second));
             QStringList found;
             for (const QVariant &value : m_store->ipv4Rows()) {
                 const QJsonObject row = value.toJsonObject();
@@ -212,7 +214,7 @@ private Q_SLOTS:
             QCOMPARE(found, rows);
         }
         m_store->removeRows({removed.cbegin(), removed.cend()});
-        m_store->addAnswer(searchAnswer(second));
+        m_store->addResponse(searchResponse(second));
         QVERIFY(m_store->ipv4Rows().isEmpty());
     }
 
@@ -220,10 +222,10 @@ private Q_SLOTS:
     {
         // found: names and MACs of the rows after a response of the next search; "lost" of the kept row
         const auto row =
-            dataTable<AnswerTexts, AnswerTexts, QString, bool>({"kept", "answer", "rows", "isLost"});
-        const AnswerTexts bare = {.mac = "", .uuid = "5f5a"};
-        const AnswerTexts withMac = {.mac = "m1", .uuid = "5f5a"};
-        const AnswerTexts moved = {.address = "192.168.1.65", .mac = "m1", .uuid = "5f5a"};
+            dataTable<ResponseTexts, ResponseTexts, QString, bool>({"kept", "response", "rows", "isLost"});
+        const ResponseTexts bare = {.mac = "", .uuid = "5f5a"};
+        const ResponseTexts withMac = {.mac = "m1", .uuid = "5f5a"};
+        const ResponseTexts moved = {.address = "192.168.1.65", .mac = "m1", .uuid = "5f5a"};
         row("same address", bare, withMac, "uuid:5f5a m1", false);
         row("other address", bare, moved, "uuid:5f5a m1", false);
         row("other UUID", bare, {.mac = "m1", .uuid = "6f"}, "uuid:5f5a |m1 m1", true);
@@ -232,11 +234,11 @@ private Q_SLOTS:
     /// Marks that refer to the row's name, such as failures, remain valid.
     void aRowWithAUuidGetsTheMacOfTheNextSearch()
     {
-        QFETCH(AnswerTexts, kept);
-        QFETCH(AnswerTexts, answer);
+        QFETCH(ResponseTexts, kept);
+        QFETCH(ResponseTexts, response);
         QFETCH(QString, rows);
         QFETCH(bool, isLost);
-        m_store->addAnswer(searchAnswer(kept));
+        m_store->addResponse(searchResponse(kept));
         m_store->setKept({"uuid:5f5a"});
         const auto rowsNow = [this] {
             QStringList texts;
@@ -248,38 +250,38 @@ private Q_SLOTS:
         };
         for (int search = 0; search < 2; ++search) {
             m_store->clear();
-            m_store->addAnswer(searchAnswer(answer));
-            m_store->addAnswer(searchAnswer(answer));
+            m_store->addResponse(searchResponse(response));
+            m_store->addResponse(searchResponse(response));
             QCOMPARE(rowsNow(), rows);
             QCOMPARE(m_store->rowNamed("uuid:5f5a").value("lost").toBool(), isLost);
         }
         // A device that copies the UUID does not belong to that row.
         m_store->clear();
-        m_store->addAnswer(searchAnswer({.mac = "m2", .uuid = "5f5a"}));
+        m_store->addResponse(searchResponse({.mac = "m2", .uuid = "5f5a"}));
         QCOMPARE(m_store->rowNamed("m2").value("mac").toString(), isLost ? "" : "m2");
     }
 
     void aDeviceWithAUuidIsFoundAtItsNewAddress()
     {
         const QString name = "uuid:5f5a";
-        m_store->addAnswer(searchAnswer({.mac = "", .uuid = "5f5a"}));
-        const sdk::SearchAnswer moved =
-            searchAnswer({.address = "192.168.1.65", .mac = "m1", .uuid = "5f5a"});
+        m_store->addResponse(searchResponse({.mac = "", .uuid = "5f5a"}));
+        const sdk::SearchResponse moved =
+            searchResponse({.address = "192.168.1.65", .mac = "m1", .uuid = "5f5a"});
         QCOMPARE(m_store->nameOf(moved), name);
         QVERIFY(m_store->updateRow(name, moved, "192.168.1.64"));
         QCOMPARE(valuesOf(m_store->rowNamed(name), "ipport mac"), "192.168.1.65:37777|m1");
-        QCOMPARE(m_store->nameOf(searchAnswer({.mac = "m2", .uuid = "5f5a"})), QString());
+        QCOMPARE(m_store->nameOf(searchResponse({.mac = "m2", .uuid = "5f5a"})), QString());
         // The row at the address of a response takes precedence over its UUID, because any device may report
         // that UUID.
         m_store->upsertRow({{"ipport", "192.168.1.66:37777"}});
-        const AnswerTexts listed = {.address = "192.168.1.66", .mac = "", .uuid = "5f5a"};
-        QCOMPARE(m_store->nameOf(searchAnswer(listed)), "192.168.1.66:37777");
+        const ResponseTexts listed = {.address = "192.168.1.66", .mac = "", .uuid = "5f5a"};
+        QCOMPARE(m_store->nameOf(searchResponse(listed)), "192.168.1.66:37777");
     }
 
     void concurrentChangesOfARowAreKept()
     {
         const QString mac = "02:1a:c5:00:40:17";
-        m_store->addAnswer(searchAnswer({}));
+        m_store->addResponse(searchResponse({}));
         bool overtaken = false;
         m_store->changeRow(mac, [&](QJsonObject &row) {
             if (!std::exchange(overtaken, true)) // as by another thread
@@ -301,19 +303,19 @@ private Q_SLOTS:
         for (int zeros = 0; zeros < 12; ++zeros)
             runs += 'x' + QByteArray(zeros, '\0');
         row("zeros between, and at the end", runs);
-        row("a byte at the end", QByteArray(sizeof(sdk::SearchAnswer) - 1, '\0') + 'x');
+        row("a byte at the end", QByteArray(sizeof(sdk::SearchResponse) - 1, '\0') + 'x');
     }
 
     void aRecordIsReturnedUnchanged()
     {
         QFETCH(QByteArray, filling);
-        const QByteArray bytes = filling.repeated(sizeof(sdk::SearchAnswer) / filling.size() + 1);
-        sdk::SearchAnswer answer;
-        std::memcpy(&answer, bytes.constData(), sizeof(answer));
-        m_store->putRecord("device", answer);
-        const std::optional<sdk::SearchAnswer> record = m_store->record("device");
+        const QByteArray bytes = filling.repeated(sizeof(sdk::SearchResponse) / filling.size() + 1);
+        sdk::SearchResponse response;
+        std::memcpy(&response, bytes.constData(), sizeof(response));
+        m_store->putRecord("device", response);
+        const std::optional<sdk::SearchResponse> record = m_store->record("device");
         QVERIFY(record);
-        QCOMPARE(std::memcmp(&*record, &answer, sizeof(answer)), 0);
+        QCOMPARE(std::memcmp(&*record, &response, sizeof(response)), 0);
     }
 
     void keptRowsAreLostUntilTheirDevicesAreFoundAgain()
@@ -321,12 +323,12 @@ private Q_SLOTS:
         const auto address = [this](const QString &name) {
             return m_store->rowNamed(name).value("ipport").toString();
         };
-        const sdk::SearchAnswer kept = searchAnswer({.address = "192.168.1.64", .mac = numberedMac(1)});
-        const sdk::SearchAnswer keptIPv6 =
-            searchAnswer({.address = "fe80::9", .mac = numberedMac(2), .ipVersion = 6});
+        const sdk::SearchResponse kept = searchResponse({.address = "192.168.1.64", .mac = numberedMac(1)});
+        const sdk::SearchResponse keptIPv6 =
+            searchResponse({.address = "fe80::9", .mac = numberedMac(2), .ipVersion = 6});
         const QString name = QString::fromStdString(numberedMac(1));
-        for (const sdk::SearchAnswer &answer : {kept, keptIPv6, searchAnswer({.mac = numberedMac(3)})})
-            m_store->addAnswer(answer);
+        for (const sdk::SearchResponse &response : {kept, keptIPv6, searchResponse({.mac = numberedMac(3)})})
+            m_store->addResponse(response);
         m_store->changeRowNamed(name, [](QJsonObject &row) { row.insert("username", "installer"); });
         m_store->setKept({name, "[fe80::9]:37777", "never listed"});
         m_store->clear();
@@ -337,12 +339,12 @@ private Q_SLOTS:
         QCOMPARE(m_store->rowNamed(name).value("username").toString(), "installer");
 
         // Another device that now has its address takes precedence.
-        m_store->addAnswer(searchAnswer({.address = "192.168.1.64", .mac = numberedMac(4)}));
+        m_store->addResponse(searchResponse({.address = "192.168.1.64", .mac = numberedMac(4)}));
         QCOMPARE(m_store->rowAt("192.168.1.64:37777").value("mac").toString().toStdString(), numberedMac(4));
 
-        sdk::SearchAnswer again = searchAnswer({.address = "192.168.1.77", .mac = numberedMac(1)});
-        for (const sdk::SearchAnswer &answer : {again, again, keptIPv6, keptIPv6})
-            m_store->addAnswer(answer);
+        sdk::SearchResponse again = searchResponse({.address = "192.168.1.77", .mac = numberedMac(1)});
+        for (const sdk::SearchResponse &response : {again, again, keptIPv6, keptIPv6})
+            m_store->addResponse(response);
         QCOMPARE(address(name), "192.168.1.77:37777");
         QCOMPARE(m_store->ipv4Count(), 2);
         QCOMPARE(values(m_store->ipv4Rows(), DeviceRowKey::lost), QStringList({"", ""}));
@@ -355,27 +357,30 @@ private Q_SLOTS:
     void aLoopbackDeviceIsFirstInTheList()
     {
         for (int number = 0; number < 10; ++number)
-            m_store->addAnswer(searchAnswer({.mac = numberedMac(number)}));
-        m_store->addAnswer(searchAnswer({.address = "127.0.0.1", .mac = numberedMac(10), .type = "PC-NVR"}));
-        m_store->addAnswer(searchAnswer({.address = "127.0.0.1", .mac = numberedMac(11), .type = "Other"}));
+            m_store->addResponse(searchResponse({.mac = numberedMac(number)}));
+        m_store->addResponse(
+            searchResponse({.address = "127.0.0.1", .mac = numberedMac(10), .type = "PC-NVR"}));
+        m_store->addResponse(
+            searchResponse({.address = "127.0.0.1", .mac = numberedMac(11), .type = "Other"}));
         const QStringList macs = values(m_store->ipv4Rows(), DeviceRowKey::mac);
         QCOMPARE(macs.size(), 12);
         QCOMPARE(macs.first().toStdString(), numberedMac(10));
         QCOMPARE(macs.at(1).toStdString(), numberedMac(0));
         QCOMPARE(macs.last().toStdString(), numberedMac(11));
         // A row that was moved to the front is still recognised.
-        QVERIFY(!m_store->addAnswer(searchAnswer({.address = "127.0.0.1", .mac = numberedMac(10)})).added);
+        QVERIFY(
+            !m_store->addResponse(searchResponse({.address = "127.0.0.1", .mac = numberedMac(10)})).added);
     }
 
     void stringsMayFillTheirFieldsAndContainAnyBytes()
     {
-        sdk::SearchAnswer answer = searchAnswer({});
-        answer.device.deviceName.fill('n');
-        answer.device.mac.fill('m');
-        answer.device.address.fill('1');
-        answer.device.softwareVersion.fill('\xFF');
-        answer.device.port = -1;
-        m_store->addAnswer(answer);
+        sdk::SearchResponse response = searchResponse({});
+        response.device.deviceName.fill('n');
+        response.device.mac.fill('m');
+        response.device.address.fill('1');
+        response.device.softwareVersion.fill('\xFF');
+        response.device.port = -1;
+        m_store->addResponse(response);
         const QJsonObject row = m_store->ipv4Rows().value(0).toJsonObject();
         QCOMPARE(row.value("name").toString(), QString(64, 'n'));
         QCOMPARE(row.value("mac").toString(), QString(40, 'm'));
@@ -388,9 +393,10 @@ private Q_SLOTS:
         int notifications = 0;
         int number = 0;
         const auto add = [&] {
-            notifications += m_store->addAnswer(searchAnswer({.mac = numberedMac(number++)})).notify ? 1 : 0;
+            notifications +=
+                m_store->addResponse(searchResponse({.mac = numberedMac(number++)})).notify ? 1 : 0;
         };
-        for (int answer = 0; answer < 50; ++answer) {
+        for (int response = 0; response < 50; ++response) {
             m_clock->advance(6ms);
             add();
         }
@@ -426,7 +432,7 @@ private Q_SLOTS:
         for (std::thread &writer : writers) {
             writer = std::thread([&] {
                 for (int number = 0; number < devices; ++number)
-                    added += m_store->addAnswer(searchAnswer({.mac = numberedMac(number)})).added ? 1 : 0;
+                    added += m_store->addResponse(searchResponse({.mac = numberedMac(number)})).added ? 1 : 0;
             });
         }
         for (std::thread &writer : writers)

@@ -16,7 +16,7 @@ const char *const scene =
     "    }\n"
     "    CgiCommandField { objectName: 'command'; x: 500; commands: known }\n"
     "    Item {\n"
-    "        objectName: 'answer'; x: 300; y: 200; width: 100; height: 34\n"
+    "        objectName: 'response'; x: 300; y: 200; width: 100; height: 34\n"
     "        property string content\n"
     "        OVToolTip {\n"
     "            shown: parent.content !== ''; text: parent.content; footnote: 'footnote'\n"
@@ -139,7 +139,7 @@ private Q_SLOTS:
     {
         // url: empty: nothing is sent
         const auto row =
-            dataTable<QString, QByteArray, QString, QString>({"command", "answer", "url", "notice"});
+            dataTable<QString, QByteArray, QString, QString>({"command", "response", "url", "notice"});
         row("failure", "/cgi-bin/a", "Error:", "http://10.0.0.a:8080/cgi-bin/a", "");
         row("no text", "/cgi-bin/a", "", "http://10.0.0.a:8080/cgi-bin/a", "命令已执行，没有可显示的结果。");
         row("no command", "  ", "OK", "", "请填写CGI命令的具体内容。");
@@ -149,11 +149,11 @@ private Q_SLOTS:
     void theCommandOfARowIsSent()
     {
         QFETCH(QString, command);
-        QFETCH(QByteArray, answer);
+        QFETCH(QByteArray, response);
         QFETCH(QString, url);
         m_site->devices->rows["a"].insert("url", command);
-        m_site->transport->answer = [answer](const QByteArray &) {
-            return answer;
+        m_site->transport->response = [response](const QByteArray &) {
+            return response;
         };
         auto *devices = m_window->findChild<DeviceTableModel *>();
         devices->refresh();
@@ -164,7 +164,7 @@ private Q_SLOTS:
         QCOMPARE(m_site->transport->urls, url.isEmpty() ? QStringList() : QStringList(url));
         QTEST(notices.value(0).value(0).toString(), "notice");
         if (!url.isEmpty()) // the table shows the result of the row
-            QCOMPARE(devices->get(0).value("result").toString(), QString(answer));
+            QCOMPARE(devices->get(0).value("result").toString(), QString(response));
     }
 
     /// The command is sent again with the entered account.
@@ -187,7 +187,7 @@ private Q_SLOTS:
     /// Devices are grouped by reason.
     void aBatchReportsFailedDevices()
     {
-        m_site->transport->answer = [](const QByteArray &url) {
+        m_site->transport->response = [](const QByteArray &url) {
             return QByteArray(url.contains("0.a:") ? "Error:b" : url.contains("0.b:") ? "OK" : "Error:a");
         };
         QObject *sender = m_window->findChild<QObject *>("sender");
@@ -229,7 +229,7 @@ private Q_SLOTS:
     void aLongResponseFitsTheWindow()
     {
         QFETCH(QString, content);
-        find("answer")->setProperty("content", content);
+        find("response")->setProperty("content", content);
         QTRY_VERIFY(isInWindow("toolTip") && isInWindow("toolTipNote"));
         const int shown = find("toolTip")->property("lineCount").toInt();
         QCOMPARE(shown > 1, content.size() > 2);
@@ -247,7 +247,7 @@ private Q_SLOTS:
     void aToolTipIsClosed()
     {
         QFETCH(const QString, goesWith);
-        find("answer")->setProperty("content", "OK");
+        find("response")->setProperty("content", "OK");
         QTRY_VERIFY(isInWindow("toolTip"));
         if (goesWith == "key")
             QTest::keyClick(m_window.get(), Qt::Key_Down);
@@ -255,7 +255,7 @@ private Q_SLOTS:
             QTest::mouseClick(m_window.get(), Qt::LeftButton, Qt::NoModifier,
                               areaOf("toolTip").center().toPoint());
         else
-            find("answer")->setVisible(false);
+            find("response")->setVisible(false);
         QTRY_VERIFY(!find("toolTip"));
     }
 };

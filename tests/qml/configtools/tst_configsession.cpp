@@ -62,7 +62,7 @@ private:
         return findBelow(m_window->contentItem(), name, Sight::Visible);
     }
     /// The message at a field of the login dialog.
-    [[nodiscard]] QString answerOfDialog() const
+    [[nodiscard]] QString choiceInDialog() const
     {
         [this] {
             QTRY_VERIFY(dialogItem("fieldMessage"));
@@ -166,9 +166,9 @@ private Q_SLOTS:
     /// A login to an offline device blocks neither the window nor another device.
     void anotherDeviceIsSelectedDuringALogin()
     {
-        const sdk::demo::FaultSetting noAnswer = {
+        const sdk::demo::FaultSetting noResponse = {
             .fault = sdk::demo::Fault::NoAnswer, .number = 0, .text = {}};
-        m_site->site->setFault(m_recorder.mac, noAnswer);
+        m_site->site->setFault(m_recorder.mac, noResponse);
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
         m_site->stopTime();
         choose(m_recorder);
@@ -214,10 +214,10 @@ private Q_SLOTS:
         listWithWrongPassword();
         QObject *details = detailsOf(m_recorder);
         QVERIFY(QMetaObject::invokeMethod(details, "ask"));
-        QCOMPARE(answerOfDialog(), "密码错误，已 1 次");
+        QCOMPARE(choiceInDialog(), "密码错误，已 1 次");
         enter("another", false);
         QTRY_VERIFY(!details->property("asking").toBool() && dialogItem("devicePasswordField"));
-        QCOMPARE(answerOfDialog(), "密码错误，已 2 次");
+        QCOMPARE(choiceInDialog(), "密码错误，已 2 次");
         enter("secret1", false);
         QTRY_VERIFY(!details->property("asking").toBool());
         QTRY_VERIFY(!dialogItem("devicePasswordField"));
@@ -232,10 +232,10 @@ private Q_SLOTS:
         listWithWrongPassword();
         m_site->factory->setDefaultAccount("dh", "admin", "wrong");
         choose(m_recorder);
-        QCOMPARE(answerOfDialog(), "密码错误，已 1 次");
+        QCOMPARE(choiceInDialog(), "密码错误，已 1 次");
         enter("another", true);
         QTRY_VERIFY(!isBusy() && dialogItem("devicePasswordField"));
-        QCOMPARE(answerOfDialog(), "密码错误，已 2 次");
+        QCOMPARE(choiceInDialog(), "密码错误，已 2 次");
         enter("secret1", true);
         QTRY_VERIFY(m_session->property("loggedIn").toBool() && !isBusy());
 
@@ -279,7 +279,7 @@ private Q_SLOTS:
         m_site->factory->setDefaultAccount("dh", "admin", "wrong");
         choose(m_other);
         for (const char *password : {"another", "secret1"}) {
-            QVERIFY(!answerOfDialog().isEmpty());
+            QVERIFY(!choiceInDialog().isEmpty());
             QVERIFY(!m_accounts->accountOf({m_other.mac}));
             dialogItem("keepBox")->setProperty("checked", true);
             dialogItem("devicePasswordField")->setProperty("text", password);

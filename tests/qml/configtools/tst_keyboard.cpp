@@ -90,7 +90,7 @@ private:
     [[nodiscard]] QString done() const { return m_window->property("done").toString(); }
     [[nodiscard]] int currentRow() const { return find("table")->property("currentIndex").toInt(); }
 
-    void add(const AnswerTexts &texts, const QString &model) const
+    void add(const ResponseTexts &texts, const QString &model) const
     {
         m_site->rows->add(texts);
         QJsonObject row = m_site->rows->ipv4.last().toJsonObject();

@@ -25,7 +25,7 @@ public:
     QString sessionWith; ///< address of the device
 
     /// Ends the requested login.
-    void answer(int result, const QString &ipport = device)
+    void respond(int result, const QString &ipport = device)
     {
         const QVariantList channels = {QVariantMap{{"channel", 0}, {"name", "A"}, {"connected", true}}};
         if (result == 0)
@@ -107,20 +107,20 @@ private Q_SLOTS:
         const QSignalSpy opened(m_live, SIGNAL(opened()));
         open();
         QVERIFY(get("busy").toBool());
-        m_factory->answer(5);
+        m_factory->respond(5);
         QVERIFY(!get("busy").toBool());
         QCOMPARE(get("failure").toString(), device + " 没有应答");
         QCOMPARE(get("retrySeconds").toInt(), 1);
         QTRY_COMPARE(m_factory->asked.size(), 2);
         QVERIFY(get("busy").toBool());
-        m_factory->answer(5);
+        m_factory->respond(5);
         QCOMPARE(get("retrySeconds").toInt(), 2);
         call("tryAgain"); // immediately
         QCOMPARE(m_factory->asked, QStringList(3, "admin secret1 channels"));
-        m_factory->answer(5);
+        m_factory->respond(5);
         QCOMPARE(get("retrySeconds").toInt(), 4);
         call("tryAgain");
-        m_factory->answer(0);
+        m_factory->respond(0);
         QCOMPARE(opened.size(), 1);
         QCOMPARE(get("channels").toList().size(), 1);
         QVERIFY(!get("waitingForRetry").toBool());
@@ -139,15 +139,15 @@ private Q_SLOTS:
     {
         QFETCH(int, result);
         open();
-        m_factory->answer(result);
+        m_factory->respond(result);
         QVERIFY(!get("waitingForRetry").toBool() && !get("checking").toBool());
         QVERIFY(!get("failure").toString().isEmpty());
 
         open(); // also after an earlier login for a stream
-        m_factory->answer(0);
+        m_factory->respond(0);
         call("expireResponse");
         call("check");
-        m_factory->answer(result);
+        m_factory->respond(result);
         QVERIFY(!get("loggedIn").toBool());
         call("check");
         QCOMPARE(m_checked->last().first().toBool(), false);
@@ -157,7 +157,7 @@ private Q_SLOTS:
     void streamsGetTheStateOfTheDevice()
     {
         open();
-        m_factory->answer(0);
+        m_factory->respond(0);
         call("check"); // it has just responded
         QCOMPARE(m_checked->last().first().toBool(), true);
         QCOMPARE(m_factory->asked.size(), 1);
@@ -166,27 +166,27 @@ private Q_SLOTS:
         call("check"); // for another stream
         QCOMPARE(m_factory->asked.size(), 2);
         QCOMPARE(m_factory->asked.last(), "admin secret1"); // its channels have been read
-        m_factory->answer(5);
+        m_factory->respond(5);
         QCOMPARE(m_checked->size(), 2);
         QCOMPARE(m_checked->last().first().toBool(), false);
         QVERIFY(get("loggedIn").toBool() &&
                 !get("waitingForRetry").toBool()); // the streams pause on their own
         call("check");
-        m_factory->answer(0);
+        m_factory->respond(0);
         QCOMPARE(m_checked->last().first().toBool(), true);
     }
 
     void theSessionOfAnotherDeviceIsKept()
     {
         open();
-        m_factory->answer(5);
+        m_factory->respond(5);
         m_factory->logInElsewhere(other);
         QVERIFY(!get("waitingForRetry").toBool());
         QCOMPARE(m_lost->size(), 0);
 
         open(other); // without a separate account
         QCOMPARE(m_factory->asked.last(), "usual usual-1 channels");
-        m_factory->answer(0, other);
+        m_factory->respond(0, other);
         m_factory->logInElsewhere(device);
         QCOMPARE(m_lost->size(), 1);
     }

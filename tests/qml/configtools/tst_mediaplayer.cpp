@@ -60,12 +60,12 @@ private:
     void set(const char *name, const QVariant &value) const { m_player->setProperty(name, value); }
 
     /// Waits until the player requests the device's state, and reports it.
-    void answer(bool isThere) const
+    void respond(bool isThere) const
     {
         QTRY_VERIFY(get("checking").toBool());
-        answerUnasked(isThere);
+        respondUnasked(isThere);
     }
-    void answerUnasked(bool isThere) const
+    void respondUnasked(bool isThere) const
     {
         QVERIFY(QMetaObject::invokeMethod(m_player, "takeCheckResult", Q_ARG(QVariant, isThere)));
     }
@@ -112,16 +112,16 @@ private Q_SLOTS:
     void failedStreamsAreRetried()
     {
         set("active", true);
-        answer(false); // the device is offline: no stream is requested
+        respond(false); // the device is offline: no stream is requested
         QVERIFY(get("waitingForRetry").toBool() && m_net->started().isEmpty());
         QTRY_COMPARE(m_asked->size(), 2); // by itself
         m_net->refuse({sdk::LiveStreamKind::Main, sdk::LiveStreamKind::Sub});
-        answer(true);
+        respond(true);
         QTRY_COMPARE(m_net->started(), (QStringList{"sub of 2", "main of 2"}));
         QTRY_VERIFY(get("waitingForRetry").toBool() && !get("connecting").toBool());
         m_net->refuse({});
         QVERIFY(QMetaObject::invokeMethod(m_player, "reconnect"));
-        answer(true);
+        respond(true);
         deliverPicture();
         QVERIFY(!get("waitingForRetry").toBool());
 
@@ -129,7 +129,7 @@ private Q_SLOTS:
         m_fake->clock->advance(std::chrono::seconds(5)); // no data arrives any more
         QTRY_COMPARE(failed.size(), 1);
         QVERIFY(get("waitingForRetry").toBool() && !get("playing").toBool());
-        answer(true);
+        respond(true);
         deliverPicture();
     }
 
@@ -137,11 +137,11 @@ private Q_SLOTS:
     {
         m_net->refuse({sdk::LiveStreamKind::Sub});
         set("active", true);
-        answer(true);
+        respond(true);
         QTRY_COMPARE(m_net->started(), (QStringList{"sub of 2", "main of 2"}));
         deliverPicture();
         set("channel", 3); // may have a sub stream
-        answer(true);
+        respond(true);
         QTRY_COMPARE(m_net->started().mid(2), (QStringList{"sub of 3", "main of 3"}));
     }
 
@@ -150,14 +150,14 @@ private Q_SLOTS:
         set("active", true);
         set("channel", 5);
         set("mainStream", true);
-        answer(true);
+        respond(true);
         QCOMPARE(m_asked->size(), 1);
         QTRY_COMPARE(m_net->started(), QStringList{"main of 5"});
 
         set("channel", 6);
         QTRY_VERIFY(get("checking").toBool());
         set("active", false); // the window is closed while it asks
-        answerUnasked(true);
+        respondUnasked(true);
         QVERIFY(!get("connecting").toBool());
         QTRY_COMPARE(m_net->started().size(), 1);
     }

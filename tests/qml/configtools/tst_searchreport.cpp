@@ -24,7 +24,7 @@ public:
             sdk::setBlockText(entry.address, "192.0.2." + std::to_string(report.count));
             entry.prefixLength = 24;
             entry.requestsSent = 4;
-            entry.obstacles = 1U << static_cast<unsigned>(sdk::SearchObstacle::NoAnswer);
+            entry.obstacles = 1U << static_cast<unsigned>(sdk::SearchObstacle::NoResponse);
         }
         return true;
     }

@@ -159,12 +159,12 @@ void RtspServer::serve(int connection, const std::stop_token &stop)
         if (size <= 0)
             return;
         received.append(buffer.data(), size);
-        if (!answerAll(connection, received, stop))
+        if (!respondToAll(connection, received, stop))
             return;
     }
 }
 
-bool RtspServer::answerAll(int connection, QByteArray &received, const std::stop_token &stop)
+bool RtspServer::respondToAll(int connection, QByteArray &received, const std::stop_token &stop)
 {
     constexpr qsizetype headSize = 4; // of what is framed by '$', and of the end of a request
     while (received.size() >= headSize) {
@@ -180,13 +180,13 @@ bool RtspServer::answerAll(int connection, QByteArray &received, const std::stop
             break;
         const QByteArray request = received.first(end + headSize);
         received.remove(0, end + headSize);
-        if (!answer(connection, request, stop))
+        if (!respond(connection, request, stop))
             return false;
     }
     return true;
 }
 
-bool RtspServer::answer(int connection, const QByteArray &request, const std::stop_token &stop)
+bool RtspServer::respond(int connection, const QByteArray &request, const std::stop_token &stop)
 {
     if (request.startsWith("RTSP/")) // a response of the client
         return true;
@@ -196,17 +196,17 @@ bool RtspServer::answer(int connection, const QByteArray &request, const std::st
     }
     const QByteArray method = request.first(request.indexOf(' '));
     const QByteArray number = captured(request, "CSeq: *([0-9]+)");
-    if (const auto own = m_script.answers.find(method); own != m_script.answers.end()) {
+    if (const auto own = m_script.responses.find(method); own != m_script.responses.end()) {
         m_isFlooding = !m_script.endless.isEmpty();
         return send(connection, QByteArray(*own).replace("CSEQ", number), stop);
     }
-    const QByteArray text = regularAnswer(method, request).replace("CSEQ", number);
+    const QByteArray text = regularResponse(method, request).replace("CSEQ", number);
     if (!send(connection, text, stop))
         return false;
     return method != "PLAY" || !text.startsWith("RTSP/1.0 200") || play(connection, stop);
 }
 
-QByteArray RtspServer::regularAnswer(const QByteArray &method, const QByteArray &request)
+QByteArray RtspServer::regularResponse(const QByteArray &method, const QByteArray &request)
 {
     const QByteArray head = "RTSP/1.0 200 OK\r\nCSeq: CSEQ\r\n";
     if (method == "OPTIONS")

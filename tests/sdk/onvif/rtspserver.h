@@ -27,8 +27,8 @@ struct RtspScript
 
     /// Special responses by method: these bytes, in which CSEQ is replaced by the number of the request, or
     /// no response if empty.
-    QHash<QByteArray, QByteArray> answers = {};
-    QByteArray endless; ///< sent repeatedly after one of `answers`, or after the packets
+    QHash<QByteArray, QByteArray> responses = {};
+    QByteArray endless; ///< sent repeatedly after one of `responses`, or after the packets
 
     bool onlyDatagrams = false;
     QByteArray dataSource;   ///< the announced source address of datagrams
@@ -59,9 +59,9 @@ public:
 private:
     void run(const std::stop_token &stop);
     void serve(int connection, const std::stop_token &stop);
-    [[nodiscard]] bool answer(int connection, const QByteArray &request, const std::stop_token &stop);
-    [[nodiscard]] bool answerAll(int connection, QByteArray &received, const std::stop_token &stop);
-    [[nodiscard]] QByteArray regularAnswer(const QByteArray &method, const QByteArray &request);
+    [[nodiscard]] bool respond(int connection, const QByteArray &request, const std::stop_token &stop);
+    [[nodiscard]] bool respondToAll(int connection, QByteArray &received, const std::stop_token &stop);
+    [[nodiscard]] QByteArray regularResponse(const QByteArray &method, const QByteArray &request);
     [[nodiscard]] QByteArray setUp(const QByteArray &request);
     [[nodiscard]] bool isAuthorised(const QByteArray &method, const QByteArray &request) const;
     [[nodiscard]] bool play(int connection, const std::stop_token &stop);

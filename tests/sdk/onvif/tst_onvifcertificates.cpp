@@ -51,7 +51,7 @@ private Q_SLOTS:
         request.count = 1;
         setBlockText(request.addresses[0], "192.168.7.11");
         m_net.NetSearchDeviceByIp(
-            request, [](std::int64_t, const SearchAnswer *, void *) {}, nullptr, 3000ms);
+            request, [](std::int64_t, const SearchResponse *, void *) {}, nullptr, 3000ms);
     }
 
     void cleanupTestCase() { m_net.NetCleanup(); }

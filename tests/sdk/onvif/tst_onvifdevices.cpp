@@ -9,7 +9,7 @@
 #include "sdk/systemrecords.h"
 #include "tests/datatable.h"
 #include "tests/sdk/netlogin.h"
-#include "tests/sdk/onvif/searchanswers.h"
+#include "tests/sdk/onvif/searchresponses.h"
 #include "tests/sdk/realdatawatcher.h"
 
 #include <QTemporaryDir>
@@ -93,7 +93,7 @@ private:
         m_net.NetQueryConfig(handle, QueryCommand::DeviceAttributes, 0, &attributes, sizeof(attributes),
                              returned, 3000ms);
         m_net.NetLogout(handle);
-        return SearchAnswers::textOf(attributes.softwareVersion);
+        return SearchResponses::textOf(attributes.softwareVersion);
     }
 
     template<typename Record>
@@ -148,12 +148,12 @@ private Q_SLOTS:
         std::uint32_t returned = 0;
         QVERIFY(m_net.NetQueryConfig(handle, QueryCommand::DeviceAttributes, 0, &attributes,
                                      sizeof(attributes), returned, 3000ms));
-        QCOMPARE(SearchAnswers::textOf(attributes.mac), u"02:1a:c5:00:40:25"_s);
+        QCOMPARE(SearchResponses::textOf(attributes.mac), u"02:1a:c5:00:40:25"_s);
         QCOMPARE(attributes.videoInputs, 1);
         const auto network = configuration<NetworkRecord>(handle, "Network");
         QVERIFY(network);
-        QCOMPARE(SearchAnswers::textOf(network->address), u"192.168.1.101"_s);
-        QCOMPARE(SearchAnswers::textOf(network->subnetMask), u"255.255.255.0"_s);
+        QCOMPARE(SearchResponses::textOf(network->address), u"192.168.1.101"_s);
+        QCOMPARE(SearchResponses::textOf(network->subnetMask), u"255.255.255.0"_s);
         QVERIFY(!configuration<AutoMaintainRecord>(handle, "AutoMaintain"));
         QCOMPARE(m_net.NetGetLastError(), code(NetError::NotSupported));
         QVERIFY(m_net.NetLogout(handle));
@@ -171,7 +171,7 @@ private Q_SLOTS:
         QVERIFY(setConfiguration(handle, "NTP", ntp));
         const auto read = configuration<NtpRecord>(handle, "NTP");
         QVERIFY(read && read->enabled == 1 && read->timeZone == 13);
-        QCOMPARE(SearchAnswers::textOf(read->address), u"192.168.1.1"_s);
+        QCOMPARE(SearchResponses::textOf(read->address), u"192.168.1.1"_s);
 
         LocalesRecord locales{};
         locales.daylightSavingEnabled = 1;
@@ -348,7 +348,7 @@ private Q_SLOTS:
     {
         ModifyDeviceInput input{};
         input.size = sizeof(input);
-        input.device = SearchAnswers::found(m_net, u"192.168.1.130"_s);
+        input.device = SearchResponses::found(m_net, u"192.168.1.130"_s);
         QVERIFY(input.device.port == 80);
         input.device.currentAddress = input.device.address;
         setBlockText(input.device.address, "192.168.1.230");

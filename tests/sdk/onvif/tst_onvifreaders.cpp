@@ -27,13 +27,13 @@ DateTime timeOf(const QString &text)
             time.time().hour(), time.time().minute(), time.time().second()};
 }
 
-HttpAnswer httpAnswer(const QByteArray &body, long status)
+HttpResponse httpResponse(const QByteArray &body, long status)
 {
-    HttpAnswer answer;
-    answer.end = HttpEnd::Answered;
-    answer.status = status;
-    answer.body = body.toStdString();
-    return answer;
+    HttpResponse response;
+    response.end = HttpEnd::Responded;
+    response.status = status;
+    response.body = body.toStdString();
+    return response;
 }
 
 QByteArray envelope(const QByteArray &body)
@@ -131,13 +131,13 @@ private Q_SLOTS:
         device.address = "192.0.2.7";
         device.announcement = found.front();
         device.service = serviceOf(found.front(), device.address);
-        const sdk::SearchAnswer answer = searchAnswerOf(device);
+        const sdk::SearchResponse response = searchResponseOf(device);
         QCOMPARE(QString::fromStdString(found.front().uuid), u"5f5a69c2-e0ae-504f-829b-00000000000b"_s);
-        QVERIFY(sdk::blockText(answer.device.deviceName) == "Tür A");
-        QVERIFY(sdk::blockText(answer.device.detailModel) == "SC-200");
-        QVERIFY(sdk::blockText(answer.device.mac) == "02:1a:c5:00:40:17");
-        QVERIFY(sdk::blockText(answer.device.uuid) == found.front().uuid);
-        QCOMPARE(answer.device.port, 8000);
+        QVERIFY(sdk::blockText(response.device.deviceName) == "Tür A");
+        QVERIFY(sdk::blockText(response.device.detailModel) == "SC-200");
+        QVERIFY(sdk::blockText(response.device.mac) == "02:1a:c5:00:40:17");
+        QVERIFY(sdk::blockText(response.device.uuid) == found.front().uuid);
+        QCOMPARE(response.device.port, 8000);
         QVERIFY(device.service.path == "/b");
         // The service of an announcement from another address is at that address.
         const ServiceAddress elsewhere = serviceOf(found.front(), "192.0.2.1");
@@ -231,7 +231,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, body);
         QFETCH(long, status);
         QFETCH(quint32, error);
-        QCOMPARE(static_cast<quint32>(readSoapAnswer(httpAnswer(body, status)).error), error);
+        QCOMPARE(static_cast<quint32>(readSoapResponse(httpResponse(body, status)).error), error);
     }
 
     void findsMainAndSubStream()

@@ -2,7 +2,7 @@
 #include "sdk/onvif/discovery/discoverysockets.h"
 #include "sdk/onvif/onvifnetlibrary.h"
 #include "sdk/searchreportblocks.h"
-#include "tests/sdk/onvif/searchanswers.h"
+#include "tests/sdk/onvif/searchresponses.h"
 
 #include <QNetworkInterface>
 #include <QProcess>
@@ -53,37 +53,37 @@ private Q_SLOTS:
 
     void findsTheDevicesOfTheNetwork()
     {
-        SearchAnswers answers;
+        SearchResponses responses;
         SearchParameter parameter{};
         parameter.size = sizeof(parameter);
-        parameter.handler = &SearchAnswers::take;
-        parameter.user = &answers;
+        parameter.handler = &SearchResponses::take;
+        parameter.user = &responses;
         const std::int64_t search = m_net.NetStartSearchDevices(parameter, 4ms);
         QVERIFY(search > 0);
-        QTRY_VERIFY_WITH_TIMEOUT(answers.has(u"192.168.1.101"_s) && answers.has(u"192.168.1.108"_s) &&
-                                     answers.has(u"192.168.1.120"_s),
+        QTRY_VERIFY_WITH_TIMEOUT(responses.has(u"192.168.1.101"_s) && responses.has(u"192.168.1.108"_s) &&
+                                     responses.has(u"192.168.1.120"_s),
                                  10000);
         QVERIFY(m_net.NetStopSearchDevices(search));
         QVERIFY(!m_net.NetStopSearchDevices(search));
-        const SearchDeviceInformation camera = answers.device(u"192.168.1.101"_s);
-        QCOMPARE(SearchAnswers::textOf(camera.mac), u"02:1a:c5:00:40:25"_s);
-        QCOMPARE(SearchAnswers::textOf(camera.deviceName), u"大门"_s);
-        QCOMPARE(SearchAnswers::textOf(camera.detailModel), u"B-2230-IR"_s);
+        const SearchDeviceInformation camera = responses.device(u"192.168.1.101"_s);
+        QCOMPARE(SearchResponses::textOf(camera.mac), u"02:1a:c5:00:40:25"_s);
+        QCOMPARE(SearchResponses::textOf(camera.deviceName), u"大门"_s);
+        QCOMPARE(SearchResponses::textOf(camera.detailModel), u"B-2230-IR"_s);
         QCOMPARE(camera.port, 80);
         QVERIFY(initialisationBits(camera.initialisationState) == InitialisationBits::Initialised);
-        const SearchDeviceInformation factoryNew = answers.device(u"192.168.1.108"_s);
+        const SearchDeviceInformation factoryNew = responses.device(u"192.168.1.108"_s);
         QVERIFY(initialisationBits(factoryNew.initialisationState) == InitialisationBits::Uninitialised);
     }
 
     /// Messages that this host sends to itself represent those of other hosts.
     void reportsWhatASearchReceived()
     {
-        SearchAnswers answers;
+        SearchResponses responses;
         const SearchParameter parameter = {
-            .size = sizeof(parameter), .reserved = 0, .handler = &SearchAnswers::take, .user = &answers};
+            .size = sizeof(parameter), .reserved = 0, .handler = &SearchResponses::take, .user = &responses};
         const std::int64_t search = m_net.NetStartSearchDevices(parameter, 4ms);
         QVERIFY(search > 0);
-        QTRY_VERIFY_WITH_TIMEOUT(answers.has(u"192.168.1.101"_s), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(responses.has(u"192.168.1.101"_s), 10000);
         onvif::DiscoverySockets sockets;
         QVERIFY(sockets.open() > 0);
         const QList<std::string> messages = {
@@ -105,12 +105,12 @@ private Q_SLOTS:
         };
         QTRY_VERIFY_WITH_TIMEOUT(isComplete(), 10000);
         QVERIFY(m_net.NetStopSearchDevices(search));
-        QVERIFY(!answers.has(u"192.168.1.250"_s));
+        QVERIFY(!responses.has(u"192.168.1.250"_s));
         QVERIFY(m_net.NetGetSearchReport(report));
         QCOMPARE(discarded(SearchDiscard::Unreadable), 1U);
         QCOMPARE(discarded(SearchDiscard::OtherKind), 1U);
         const SearchInterfaceReport &interface = report.interfaces[0];
-        QCOMPARE(SearchAnswers::textOf(interface.address), u"192.168.1.250"_s);
+        QCOMPARE(SearchResponses::textOf(interface.address), u"192.168.1.250"_s);
         QCOMPARE(interface.prefixLength, 24);
         QVERIFY(interface.requestsSent >= 4 && interface.messagesReceived > interface.devicesFound);
         QVERIFY(interface.devicesFound > 0 && interface.obstacles == 0);
@@ -122,10 +122,10 @@ private Q_SLOTS:
         setBlockText(request.addresses[0], "192.168.1.101");
         setBlockText(request.addresses[1], "192.168.1.199");
         setBlockText(request.addresses[2], "203.0.113.1");
-        m_net.NetSearchDevicesByIPs(request, &SearchAnswers::take, &answers, "0.0.0.0", 3000ms);
+        m_net.NetSearchDevicesByIPs(request, &SearchResponses::take, &responses, "0.0.0.0", 3000ms);
         QVERIFY(m_net.NetGetSearchReport(report));
         QCOMPARE(report.addressesAsked, 3U);
-        QCOMPARE(report.addressesAnswered, 1U);
+        QCOMPARE(report.addressesResponding, 1U);
         QCOMPARE(report.addressesNoRoute, 1U);
         report.size = 1;
         QVERIFY(!m_net.NetGetSearchReport(report));
@@ -152,9 +152,9 @@ private Q_SLOTS:
         QTcpServer silent;
         QVERIFY(silent.listen(QHostAddress::AnyIPv4, 81));
 
-        SearchAnswers answers;
+        SearchResponses responses;
         const SearchParameter parameter = {
-            .size = sizeof(parameter), .reserved = 0, .handler = &SearchAnswers::take, .user = &answers};
+            .size = sizeof(parameter), .reserved = 0, .handler = &SearchResponses::take, .user = &responses};
         const std::int64_t search = m_net.NetStartSearchDevices(parameter, 4ms);
         QVERIFY(search > 0);
         onvif::DiscoverySockets sockets;
@@ -171,7 +171,7 @@ private Q_SLOTS:
         }
         const auto areAllListed = [&] {
             return std::all_of(own.cbegin(), own.cend(),
-                               [&](const QString &address) { return answers.uuidsAt(address) == uuids; });
+                               [&](const QString &address) { return responses.uuidsAt(address) == uuids; });
         };
         QTRY_VERIFY_WITH_TIMEOUT(areAllListed(), 8000);
         QVERIFY(m_net.NetStopSearchDevices(search));
@@ -179,9 +179,9 @@ private Q_SLOTS:
 
     void searchesSingleAddresses()
     {
-        QCOMPARE(SearchAnswers::textOf(SearchAnswers::found(m_net, u"192.168.1.103"_s).detailModel),
+        QCOMPARE(SearchResponses::textOf(SearchResponses::found(m_net, u"192.168.1.103"_s).detailModel),
                  u"B-2812-Z4"_s);
-        QVERIFY(SearchAnswers::found(m_net, u"192.168.1.199"_s).mac[0] == '\0');
+        QVERIFY(SearchResponses::found(m_net, u"192.168.1.199"_s).mac[0] == '\0');
     }
 };
 

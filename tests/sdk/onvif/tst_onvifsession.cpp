@@ -102,7 +102,7 @@ private:
         return m_manners.value("new " + operation, m_manners.value("new *", here));
     }
 
-    void answer(const RawExchange &exchange) const
+    void respond(const RawExchange &exchange) const
     {
         const QByteArray request = exchange.request();
         static const QRegularExpression element(u"<(tds|trt|tr2):(\\w+)"_s);
@@ -136,14 +136,14 @@ private:
 
     static void send(const RawExchange &exchange, const QByteArray &status, const QByteArray &body)
     {
-        exchange.answer(status, {},
-                        "<x:Envelope xmlns:x='http://www.w3.org/2003/05/soap-envelope'><x:Body>" + body +
-                            "</x:Body></x:Envelope>");
+        exchange.respond(status, {},
+                         "<x:Envelope xmlns:x='http://www.w3.org/2003/05/soap-envelope'><x:Body>" + body +
+                             "</x:Body></x:Envelope>");
     }
 
     const Manners m_manners;
     const bool m_needsReboot;
-    const RawServer m_server{[this](const RawExchange &exchange) { answer(exchange); },
+    const RawServer m_server{[this](const RawExchange &exchange) { respond(exchange); },
                              RawServer::Reach::EveryAddress}; // last
 };
 
@@ -312,7 +312,7 @@ private Q_SLOTS:
         script.account = "admin";
         script.password = "secret1";
         script.sessionTimeout = 2;
-        script.answers["GET_PARAMETER"] = "RTSP/1.0 401 Unauthorized\r\nCSeq: CSEQ\r\n\r\n";
+        script.responses["GET_PARAMETER"] = "RTSP/1.0 401 Unauthorized\r\nCSeq: CSEQ\r\n\r\n";
         // Slices of frames that depend on an earlier one, in two packets.
         for (const char *const packet :
              {"80e0000100000e1000000007419a0010", "80e0000200001c2000000007419a0020"})

@@ -51,17 +51,17 @@ RtspOrder orderOf(const RtspServer &server)
 }
 
 /// A response in place of the regular one.
-Change answering(const QByteArray &method, const QByteArray &answer, const QByteArray &endless = {})
+Change responding(const QByteArray &method, const QByteArray &response, const QByteArray &endless = {})
 {
     return [=](RtspScript &script) {
-        script.answers[method] = answer;
+        script.responses[method] = response;
         script.endless = endless;
     };
 }
 
 Change status(const QByteArray &method, const QByteArray &line)
 {
-    return answering(method, "RTSP/1.0 " + line + "\r\nCSeq: CSEQ\r\n\r\n");
+    return responding(method, "RTSP/1.0 " + line + "\r\nCSeq: CSEQ\r\n\r\n");
 }
 
 Change describing(const QByteArray &description)
@@ -73,8 +73,8 @@ Change describing(const QByteArray &description)
 
 Change challenging(const QByteArray &challenge)
 {
-    return answering("DESCRIBE", "RTSP/1.0 401 Unauthorized\r\nCSeq: CSEQ\r\nWWW-Authenticate: " + challenge +
-                                     "\r\n\r\n");
+    return responding(
+        "DESCRIBE", "RTSP/1.0 401 Unauthorized\r\nCSeq: CSEQ\r\nWWW-Authenticate: " + challenge + "\r\n\r\n");
 }
 
 Change offering(const QByteArrayList &challenges)
@@ -129,22 +129,22 @@ void TestRtspFaults::faultEndsTheStream_data()
     row("broken device", status("PLAY", "500 Internal Server Error"), "rejected");
     row("no transport", status("SETUP", "461 Unsupported Transport"), "unsupported");
 
-    row("stall at the first request", answering("OPTIONS", ""), "no response");
-    row("stall within a response", answering("DESCRIBE", okay + "Content-Length: 400\r\n\r\nv=0"),
+    row("stall at the first request", responding("OPTIONS", ""), "no response");
+    row("stall within a response", responding("DESCRIBE", okay + "Content-Length: 400\r\n\r\nv=0"),
         "no response");
-    row("stall at the transport", answering("SETUP", ""), "no response");
-    row("stall before playing", answering("PLAY", ""), "no response");
+    row("stall at the transport", responding("SETUP", ""), "no response");
+    row("stall before playing", responding("PLAY", ""), "no response");
     row(
         "stall when playing", [](RtspScript &script) { script.packets.clear(); }, "no data");
 
-    row("no protocol at all", answering("OPTIONS", "220 ready\r\n\r\n"), "no response");
-    row("endless line", answering("OPTIONS", "", QByteArray(8192, 'x')), "no response");
-    row("endless head", answering("DESCRIBE", okay, "X-Filler: 1\r\n"), "oversized response");
+    row("no protocol at all", responding("OPTIONS", "220 ready\r\n\r\n"), "no response");
+    row("endless line", responding("OPTIONS", "", QByteArray(8192, 'x')), "no response");
+    row("endless head", responding("DESCRIBE", okay, "X-Filler: 1\r\n"), "oversized response");
     row("endless description",
-        answering("DESCRIBE", okay + "Content-Length: 2000000000\r\n\r\n", QByteArray(65536, 'v')),
+        responding("DESCRIBE", okay + "Content-Length: 2000000000\r\n\r\n", QByteArray(65536, 'v')),
         "oversized response");
     row("length beyond numbers",
-        answering("DESCRIBE", okay + "Content-Length: 18446744073709551700\r\n\r\n", QByteArray(65536, 'v')),
+        responding("DESCRIBE", okay + "Content-Length: 18446744073709551700\r\n\r\n", QByteArray(65536, 'v')),
         "oversized response");
     row("thousands of tracks",
         describing(source().description + QByteArray("m=video 0 RTP/AVP 96\r\n").repeated(3000)),
@@ -252,7 +252,7 @@ void TestRtspFaults::passwordIsTriedOnce()
     order.account = account.toStdString();
     order.password = password.toStdString();
     StreamWatcher watcher(order);
-    QCOMPARE(!watcher.stream().waitForAnswer(), end.isEmpty());
+    QCOMPARE(!watcher.stream().waitForResponse(), end.isEmpty());
     if (end.isEmpty())
         return;
     QTRY_COMPARE(watcher.end(), end);
@@ -315,7 +315,7 @@ void TestRtspFaults::stopEndsImmediately_data()
 {
     const auto row = dataTable<Change, QByteArray>({"change", "request"});
     for (const QByteArray method : {"OPTIONS", "DESCRIBE", "SETUP", "PLAY"})
-        row(method, answering(method, ""), method);
+        row(method, responding(method, ""), method);
     row(
         "while it plays", [](RtspScript &) {}, "PLAY");
     row(
@@ -375,7 +375,7 @@ void TestRtspFaults::refusedLoginEndsARunningStream()
     script.password = "secret1";
     script.sessionTimeout = 2;
     leaveOutKeyPictures(script);
-    script.answers["GET_PARAMETER"] =
+    script.responses["GET_PARAMETER"] =
         "RTSP/1.0 401 Unauthorized\r\nCSeq: CSEQ\r\nWWW-Authenticate: " + challenge + "\r\n\r\n";
     const RtspServer server(script);
     RtspOrder order = orderOf(server);
@@ -383,7 +383,7 @@ void TestRtspFaults::refusedLoginEndsARunningStream()
     order.password = "secret1";
     order.timeouts = {};
     StreamWatcher watcher(order);
-    QVERIFY(!watcher.stream().waitForAnswer());
+    QVERIFY(!watcher.stream().waitForResponse());
     QTRY_COMPARE_WITH_TIMEOUT(watcher.end(), QStringLiteral("refused"), 10000);
     watcher.stream().stop();
     QCOMPARE(server.requestsOf("GET_PARAMETER"), tries);

@@ -125,7 +125,7 @@ void TestRtspStream::picturesAndSoundArrive()
     const RtspServer server(script);
     TestPort port;
     StreamWatcher watcher(orderOf(server), [&port](const QByteArray &bytes) { port.push(bytes); });
-    const bool plays = !watcher.stream().waitForAnswer();
+    const bool plays = !watcher.stream().waitForResponse();
     QTRY_COMPARE(watcher.end() + watcher.endText(), QString());
     QVERIFY(plays);
     QTRY_COMPARE(numbersOf(port.receiver.pictures()), numbers);

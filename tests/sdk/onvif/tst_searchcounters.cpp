@@ -47,12 +47,12 @@ private Q_SLOTS:
         // state: of the interface; sendError, messages: of one request
         const auto row =
             dataTable<QString, int, int, quint32>({"state", "sendError", "messages", "obstacles"});
-        row("answered", u"ready"_s, 0, 1, 0U);
-        row("not answered", u"ready"_s, 0, 0, bit(SearchObstacle::NoAnswer));
+        row("with a response", u"ready"_s, 0, 1, 0U);
+        row("without a response", u"ready"_s, 0, 0, bit(SearchObstacle::NoResponse));
         row("not sent", u"ready"_s, ENETUNREACH, 0, bit(SearchObstacle::SendFailed));
         row("switched off", u"down"_s, ENETDOWN, 0,
             bit(SearchObstacle::InterfaceDown) | bit(SearchObstacle::SendFailed));
-        row("no cable", u"no link"_s, 0, 0, bit(SearchObstacle::NoLink) | bit(SearchObstacle::NoAnswer));
+        row("no cable", u"no link"_s, 0, 0, bit(SearchObstacle::NoLink) | bit(SearchObstacle::NoResponse));
         // Messages of an unknown interface are not counted for an interface without an address.
         row("no address", u"no address"_s, 0, 1, bit(SearchObstacle::NoAddress));
     }
@@ -87,7 +87,7 @@ private Q_SLOTS:
         counters.noteMessage("198.51.100.5");
         counters.noteAskedAddress(0);
         counters.noteAskedAddress(EHOSTUNREACH);
-        counters.noteAnsweredAddress();
+        counters.noteRespondingAddress();
         const std::vector<ReportedDevice> devices = {{"192.0.2.77", "192.0.2.5"},
                                                      {"192.0.3.77", "192.0.2.5"},
                                                      {"fe80::7%eth0", "fe80::5%eth0"},
@@ -100,7 +100,7 @@ private Q_SLOTS:
         QCOMPARE(report.interfaces[1].messagesReceived, 1U);
         QCOMPARE(report.addressesAsked, 2U);
         QCOMPARE(report.addressesNoRoute, 1U);
-        QCOMPARE(report.addressesAnswered, 1U);
+        QCOMPARE(report.addressesResponding, 1U);
         QCOMPARE(report.foreignDevices, 1U);
 
         counters.clear();

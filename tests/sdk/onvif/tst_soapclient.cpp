@@ -24,10 +24,10 @@ enum Manner
     DigestRefusing
 };
 
-const QByteArray answerText =
+const QByteArray responseText =
     R"(<x:Envelope xmlns:x="http://www.w3.org/2003/05/soap-envelope"><x:Body><a xmlns="u"/></x:Body></x:Envelope>)";
 
-void answerAs(Manner manner, const RawExchange &exchange)
+void respondAs(Manner manner, const RawExchange &exchange)
 {
     const QByteArray challenge = "WWW-Authenticate: Digest realm=\"r\", nonce=\"n\", qop=\"auth\"\r\n";
     switch (manner) {
@@ -43,16 +43,16 @@ void answerAs(Manner manner, const RawExchange &exchange)
         exchange.send("HTTP/1.1 200 OK\r\nContent-Length: 1000\r\n\r\n<x");
         break;
     case Redirecting:
-        exchange.answer("302 Found", "Location: http://127.0.0.1:1/\r\n", {});
+        exchange.respond("302 Found", "Location: http://127.0.0.1:1/\r\n", {});
         break;
     case Digest:
         if (exchange.request().contains("Authorization: Digest"))
-            exchange.answer("200 OK", {}, answerText);
+            exchange.respond("200 OK", {}, responseText);
         else
-            exchange.answer("401 Unauthorized", challenge, {});
+            exchange.respond("401 Unauthorized", challenge, {});
         break;
     case DigestRefusing:
-        exchange.answer("401 Unauthorized", challenge, {});
+        exchange.respond("401 Unauthorized", challenge, {});
         break;
     }
 }
@@ -119,26 +119,27 @@ public:
 private:
     static bool isWithToken(const QByteArray &request) { return request.contains("UsernameToken"); }
 
-    void answer(const RawExchange &exchange) const
+    void respond(const RawExchange &exchange) const
     {
         const QByteArray subcode =
             isWithToken(exchange.request()) ? m_refusal(exchange.request()) : "NotAuthorized";
         if (subcode.isEmpty())
-            exchange.answer("200 OK", {}, answerText);
+            exchange.respond("200 OK", {}, responseText);
         else
-            exchange.answer(isWithToken(exchange.request()) ? m_status : "400 Bad Request", {},
-                            faultText(subcode));
+            exchange.respond(isWithToken(exchange.request()) ? m_status : "400 Bad Request", {},
+                             faultText(subcode));
     }
 
     const Refusal m_refusal;
     const QByteArray m_status;
     const RawServer m_server{[this](const RawExchange &exchange) {
-        answer(exchange);
+        respond(exchange);
     }}; // last
 };
 
-const QByteArray wholeAnswer = "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(answerText.size()) +
-                               "\r\nConnection: close\r\n\r\n" + answerText;
+const QByteArray completeResponse =
+    "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(responseText.size()) +
+    "\r\nConnection: close\r\n\r\n" + responseText;
 
 } // namespace
 
@@ -160,17 +161,18 @@ private Q_SLOTS:
     {
         QFETCH(int, manner);
         QFETCH(quint32, error);
-        const RawServer server([manner](const RawExchange &exchange) { answerAs(Manner(manner), exchange); });
+        const RawServer server(
+            [manner](const RawExchange &exchange) { respondAs(Manner(manner), exchange); });
         SoapClient client({.account = "a", .password = "b"}, std::make_shared<HttpClient>());
-        const SoapAnswer answer = client.call(addressOf(server), SoapRequest("tds:GetUsers"),
-                                              std::chrono::steady_clock::now() + 1500ms);
-        QCOMPARE(static_cast<quint32>(answer.error), error);
+        const SoapResponse response = client.call(addressOf(server), SoapRequest("tds:GetUsers"),
+                                                  std::chrono::steady_clock::now() + 1500ms);
+        QCOMPARE(static_cast<quint32>(response.error), error);
         QCOMPARE(server.requests().size(), 1);
     }
 
     void aPasswordIsSentOnlyOnRequest()
     {
-        const RawServer server([](const RawExchange &exchange) { answerAs(Digest, exchange); });
+        const RawServer server([](const RawExchange &exchange) { respondAs(Digest, exchange); });
         SoapClient client({.account = "a", .password = "b"}, std::make_shared<HttpClient>());
         const auto deadline = std::chrono::steady_clock::now() + 5s;
         QVERIFY(client.call(addressOf(server), SoapRequest("tds:GetUsers"), deadline).isOk());
@@ -182,12 +184,13 @@ private Q_SLOTS:
 
     void aRefusedPasswordIsNotSentAgain()
     {
-        const RawServer server([](const RawExchange &exchange) { answerAs(DigestRefusing, exchange); });
+        const RawServer server([](const RawExchange &exchange) { respondAs(DigestRefusing, exchange); });
         SoapClient client({.account = "a", .password = "b"}, std::make_shared<HttpClient>());
         const auto deadline = std::chrono::steady_clock::now() + 5s;
         for (int call = 0; call < 3; ++call) {
-            const SoapAnswer answer = client.call(addressOf(server), SoapRequest("tds:GetUsers"), deadline);
-            QVERIFY(answer.error == sdk::NetError::WrongPassword);
+            const SoapResponse response =
+                client.call(addressOf(server), SoapRequest("tds:GetUsers"), deadline);
+            QVERIFY(response.error == sdk::NetError::WrongPassword);
         }
         qsizetype withPassword = 0;
         for (const QByteArray &request : server.requests())
@@ -309,7 +312,7 @@ private Q_SLOTS:
         QFETCH(const bool, hasHandler);
         QFETCH(const int, first);
         QFETCH(const quint32, error);
-        TlsServer server(wholeAnswer);
+        TlsServer server(completeResponse);
         const auto decision = std::make_shared<sdk::CertificateDecision>();
         AgreedKey key{.first = sdk::CertificateVerdict(first)};
         if (hasHandler)
@@ -337,7 +340,7 @@ private Q_SLOTS:
 
     void aCallIsCancelled()
     {
-        const RawServer server([](const RawExchange &exchange) { answerAs(Silent, exchange); });
+        const RawServer server([](const RawExchange &exchange) { respondAs(Silent, exchange); });
         const auto http = std::make_shared<HttpClient>();
         SoapClient client({}, http);
         std::jthread canceller([&] {
@@ -346,9 +349,9 @@ private Q_SLOTS:
         });
         QElapsedTimer timer;
         timer.start();
-        const SoapAnswer answer = client.callOpenly(addressOf(server), SoapRequest("tds:GetUsers"),
-                                                    std::chrono::steady_clock::now() + 60s);
-        QVERIFY(answer.error == sdk::NetError::NetworkFailure && timer.elapsed() < 30000);
+        const SoapResponse response = client.callOpenly(addressOf(server), SoapRequest("tds:GetUsers"),
+                                                        std::chrono::steady_clock::now() + 60s);
+        QVERIFY(response.error == sdk::NetError::NetworkFailure && timer.elapsed() < 30000);
     }
 };
 

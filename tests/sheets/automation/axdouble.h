@@ -10,8 +10,8 @@
 /// The common data of all objects of one test.
 struct AxRecord
 {
-    QStringList calls;                ///< "path what arguments", in order
-    QHash<QString, QVariant> answers; ///< values of properties by "path.name"
+    QStringList calls;                  ///< "path what arguments", in order
+    QHash<QString, QVariant> responses; ///< values of properties by "path.name"
     bool isInstalled = true;
     int alive = 0; ///< number of existing objects
 
@@ -54,7 +54,7 @@ public:
     [[nodiscard]] QVariant property(const char *name)
     {
         note(name);
-        return AxRecord::instance().answers.value(m_path + '.' + name);
+        return AxRecord::instance().responses.value(m_path + '.' + name);
     }
 
 Q_SIGNALS:

@@ -172,7 +172,7 @@ void Driver::turnWheel(QPointF position, int notches) const
     QCoreApplication::sendEvent(m_window, &event);
 }
 
-void Driver::answerFileBox(const QString &path) const
+void Driver::acceptFileBox(const QString &path) const
 {
     QFileDialog *box = nullptr;
     await(QStringLiteral("the box for files opens"), [&] {

@@ -48,7 +48,7 @@ public:
     void fill(const QString &name, const QString &text) const;
 
     /// Enters a path in the dialog for files and folders.
-    void answerFileBox(const QString &path) const;
+    void acceptFileBox(const QString &path) const;
 
     /// Waits until `condition` is true. The tour fails with the message `what` after `seconds`.
     void await(const QString &what, const std::function<bool()> &condition, int seconds = 15) const;

@@ -142,7 +142,7 @@ void walkSomeUpgrades(Driver &driver, sdk::demo::DemoSite &site, const QList<sdk
     }
     driver.fill(u"upgradeSearchField"_s, u"B-22"_s);
     driver.click(u"upgradeFileButton"_s);
-    driver.answerFileBox(firmware);
+    driver.acceptFileBox(firmware);
     driver.click(u"upgradeStartButton"_s);
     driver.require(u"upgradePreviewTable"_s);
     driver.report(u"fleet-upgrade-preview"_s, driver.text(u"batchCount"_s));

@@ -41,7 +41,7 @@ void walkSavedResults(Driver &driver, const QString &folder)
 {
     const QString path = folder + u"/results.csv"_s;
     driver.click(u"saveResultsButton"_s);
-    driver.answerFileBox(path);
+    driver.acceptFileBox(path);
     driver.await(u"the results are saved"_s, [&] {
         QFile file(path);
         return file.open(QIODevice::ReadOnly) && file.readAll().contains("10.16.0.");

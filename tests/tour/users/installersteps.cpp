@@ -206,7 +206,7 @@ void walkList(Driver &driver, const QString &folder)
     driver.click(u"exportButton"_s);
     driver.click(u"format.csv"_s);
     driver.click(u"okButton"_s);
-    driver.answerFileBox(folder);
+    driver.acceptFileBox(folder);
     const QString path = folder + u"/device.csv"_s;
     driver.await(u"the list is written"_s, [&] {
         const QByteArray list = fileContents(path);

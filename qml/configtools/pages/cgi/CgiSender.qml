@@ -23,7 +23,7 @@ Item {
     /// The complete response of a row.
     function responseOf(row) {
         const values = deviceTable.get(row);
-        return cgiBatches.answerOf(values.identity, values.result ?? "");
+        return cgiBatches.responseOf(values.identity, values.result ?? "");
     }
 
     /// Error text for an invalid command, "" for a valid one.
@@ -97,7 +97,7 @@ Item {
     Connections {
         target: root.cgiBatches
 
-        function onAnswered(identities) {
+        function onResponded(identities) {
             root.deviceTable.refreshDevices(identities);
         }
     }

@@ -10,7 +10,7 @@ OVTableCell {
 
     readonly property int trouble: value ?? ChannelNameForm.None
     readonly property bool bad: trouble === ChannelNameForm.Empty || trouble === ChannelNameForm.TooLong
-        || trouble === ChannelNameForm.Refused || trouble === ChannelNameForm.Unanswered
+        || trouble === ChannelNameForm.Refused || trouble === ChannelNameForm.NoResponse
         || trouble === ChannelNameForm.Upgrading
     readonly property string message: {
         switch (trouble) {
@@ -22,7 +22,7 @@ OVTableCell {
             return qsTr("名称过长，最多 %1 字节").arg(ByteText.channelNameBytes);
         case ChannelNameForm.Refused:
             return qsTr("设备没有接受");
-        case ChannelNameForm.Unanswered:
+        case ChannelNameForm.NoResponse:
             return qsTr("设备没有应答");
         case ChannelNameForm.Upgrading:
             return qsTr("设备正在升级");

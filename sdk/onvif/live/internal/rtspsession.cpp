@@ -48,7 +48,7 @@ RtspSession::~RtspSession()
 
 bool RtspSession::open()
 {
-    m_answerBy = Clock::now() + m_timeouts.answer;
+    m_responseBy = Clock::now() + m_timeouts.response;
     m_format = avformat_alloc_context();
     if (!m_format) {
         endWith(StreamEnd::Failed, "no memory");
@@ -69,7 +69,7 @@ bool RtspSession::open()
     av_dict_free(&options);
     if (error < 0)
         endWithError(error);
-    m_answerBy.reset();
+    m_responseBy.reset();
     m_watch.notePlaying();
     const Time now = Clock::now();
     m_keyPictureBy = now + m_timeouts.keyPicture;
@@ -114,15 +114,16 @@ bool RtspSession::isInterrupted()
     if (m_stop.stop_requested())
         endWith(StreamEnd::Stopped, {});
     checkTimes(now);
-    if (!m_end && !m_answerBy)
+    if (!m_end && !m_responseBy)
         m_whenWaiting();
     return m_end.has_value();
 }
 
 void RtspSession::checkTimes(Time now)
 {
-    if (m_answerBy && now > *m_answerBy)
-        endWith(StreamEnd::NoAnswer, "the device did not respond within " + secondsText(m_timeouts.answer));
+    if (m_responseBy && now > *m_responseBy)
+        endWith(StreamEnd::NoResponse,
+                "the device did not respond within " + secondsText(m_timeouts.response));
     if (m_dataBy && now > *m_dataBy)
         endWith(StreamEnd::NoData, "no video packet arrived for " + secondsText(m_timeouts.silence));
     if (m_keyPictureBy && now > *m_keyPictureBy) {
@@ -169,7 +170,7 @@ StreamEnd RtspSession::endOfError(int error) const
     case AVERROR(EACCES):
         return StreamEnd::Unreachable;
     case AVERROR(ETIMEDOUT):
-        return m_answerBy ? StreamEnd::NoAnswer : StreamEnd::NoData;
+        return m_responseBy ? StreamEnd::NoResponse : StreamEnd::NoData;
     case AVERROR(EPROTONOSUPPORT):
         return StreamEnd::Unsupported;
     case AVERROR(ENOMEM):
@@ -180,7 +181,7 @@ StreamEnd RtspSession::endOfError(int error) const
     case AVERROR(ECONNRESET):
         return StreamEnd::Ended;
     default:
-        return m_answerBy ? StreamEnd::Malformed : StreamEnd::Ended;
+        return m_responseBy ? StreamEnd::Malformed : StreamEnd::Ended;
     }
 }
 

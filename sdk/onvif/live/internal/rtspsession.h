@@ -68,7 +68,7 @@ private:
     std::optional<StreamEnd> m_end;
     std::string m_text;
     bool m_isConnecting = true;
-    std::optional<Time> m_answerBy;
+    std::optional<Time> m_responseBy;
     std::optional<Time> m_keyPictureBy;
     std::optional<Time> m_dataBy;
     std::optional<Time> m_closedBy;

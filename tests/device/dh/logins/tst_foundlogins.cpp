@@ -3,7 +3,7 @@
 #include "device/dh/logins/foundlogins.h"
 #include "device/store/devicestore.h"
 #include "tests/datatable.h"
-#include "tests/device/searchanswers.h"
+#include "tests/device/searchresponses.h"
 #include "tests/media/quietnetlibrary.h"
 #include "tests/values.h"
 
@@ -68,12 +68,12 @@ private:
 };
 
 /// The response of a device that reports only its name.
-sdk::SearchAnswer bareAnswer(const AnswerTexts &texts)
+sdk::SearchResponse bareResponse(const ResponseTexts &texts)
 {
-    sdk::SearchAnswer answer = searchAnswer(texts);
-    answer.device.detailModel = {};
-    answer.device.softwareVersion = {};
-    return answer;
+    sdk::SearchResponse response = searchResponse(texts);
+    response.device.detailModel = {};
+    response.device.softwareVersion = {};
+    return response;
 }
 
 } // namespace
@@ -121,9 +121,9 @@ private Q_SLOTS:
 
     void rowsAreCompleted()
     {
-        m_store->addAnswer(bareAnswer({.address = "192.168.1.10", .mac = "", .uuid = "5f5a"}));
-        m_store->addAnswer(searchAnswer({.address = "192.168.1.11"})); // complete
-        m_store->addAnswer(bareAnswer(
+        m_store->addResponse(bareResponse({.address = "192.168.1.10", .mac = "", .uuid = "5f5a"}));
+        m_store->addResponse(searchResponse({.address = "192.168.1.11"})); // complete
+        m_store->addResponse(bareResponse(
             {.address = "192.168.1.12", .mac = "m3", .state = sdk::InitialisationBits::Uninitialised}));
         FoundLogins logins(m_store, libraries());
         QCOMPARE(search(logins, "admin", "right"), QStringList("192.168.1.10"));
@@ -134,8 +134,8 @@ private Q_SLOTS:
 
     void aDeviceIsQueriedWithItsOwnAccount()
     {
-        m_store->addAnswer(bareAnswer({.address = "192.168.1.10", .mac = "m7"}));
-        m_store->addAnswer(bareAnswer({.address = "192.168.1.11", .mac = "m8"}));
+        m_store->addResponse(bareResponse({.address = "192.168.1.10", .mac = "m7"}));
+        m_store->addResponse(bareResponse({.address = "192.168.1.11", .mac = "m8"}));
         FoundLogins logins(m_store, libraries());
         QCOMPARE(search(logins, "admin", "wrong"), QStringList({"192.168.1.10", "192.168.1.11"}));
         QCOMPARE(m_store->row("m7").value("model").toString(), "B-1");
@@ -145,12 +145,12 @@ private Q_SLOTS:
     void aWrongPasswordIsNotSentAgain()
     {
         const QStringList device("192.168.1.10");
-        m_store->addAnswer(bareAnswer({.address = "192.168.1.10", .mac = "m1"}));
+        m_store->addResponse(bareResponse({.address = "192.168.1.10", .mac = "m1"}));
         FoundLogins logins(m_store, libraries());
         QCOMPARE(search(logins, "admin", "wrong"), device);
         QCOMPARE(search(logins, "admin", "wrong"), QStringList());
         m_store->clear(); // the next search finds it without its MAC
-        m_store->addAnswer(bareAnswer({.address = "192.168.1.10", .mac = ""}));
+        m_store->addResponse(bareResponse({.address = "192.168.1.10", .mac = ""}));
         QCOMPARE(search(logins, "admin", "wrong"), QStringList());
         QCOMPARE(search(logins, "", ""), QStringList());
         QCOMPARE(search(logins, "admin", "wrong"), QStringList());
@@ -174,7 +174,7 @@ private Q_SLOTS:
         QFETCH(bool, isSent);
         const auto state =
             isNew ? sdk::InitialisationBits::Uninitialised : sdk::InitialisationBits::Initialised;
-        m_store->addAnswer(searchAnswer({.mac = "", .state = state, .uuid = uuid.toStdString()}));
+        m_store->addResponse(searchResponse({.mac = "", .state = state, .uuid = uuid.toStdString()}));
         CDeviceDH backEnd(m_store, libraries(), [] { return SearchSettings(); });
         const QString name = uuid.isEmpty() ? QString("192.168.1.64:37777") : QString("uuid:" + uuid);
         const DeviceStep step = isNew ? backEnd.initialisationStep(name, "admin", "first-1")

@@ -175,7 +175,7 @@ private Q_SLOTS:
         QCOMPARE(names->changedCount(), 1); // can be retried
         QCOMPARE(names->failedCount(), 1);
         setFault(Fault::NoAnswer);
-        QCOMPARE(saved(*names, 3), ChannelNameForm::Unanswered);
+        QCOMPARE(saved(*names, 3), ChannelNameForm::NoResponse);
         names->set(3, "Hof 1");
         QCOMPARE(troubleOf(*names, 3), ChannelNameForm::None);
     }

@@ -3,7 +3,7 @@
 #include "device/registry/loginresult.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/upgradesite.h"
-#include "tests/device/searchanswers.h"
+#include "tests/device/searchresponses.h"
 
 using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
@@ -27,7 +27,7 @@ private Q_SLOTS:
         row("never returns", {Fault::UpgradeNeverReturns}, UpgradeTools::NotBack, u"设备重启后未恢复"_s,
             true);
         row("is busy", {Fault::UpgradeBusy}, UpgradeTools::DeviceBusy, u"设备忙，请稍后重试"_s, true);
-        row("is offline", {Fault::NoAnswer}, UpgradeTools::NoAnswer, u"设备无应答"_s, true);
+        row("is offline", {Fault::NoAnswer}, UpgradeTools::NoResponse, u"设备无应答"_s, true);
         row("wrong password", {Fault::WrongPassword}, UpgradeTools::WrongPassword, u"密码错误"_s, false);
     }
 
@@ -158,8 +158,8 @@ private Q_SLOTS:
             device.ipv6 = u"fd00::11"_s;
         }));
         const std::string mac = test.mac(0).toStdString();
-        QVERIFY(
-            test.store->addAnswer(searchAnswer({.address = "fd00::11", .mac = mac, .ipVersion = 6})).added);
+        QVERIFY(test.store->addResponse(searchResponse({.address = "fd00::11", .mac = mac, .ipVersion = 6}))
+                    .added);
         const QString name = u"[fd00::11]:37777"_s;
         const auto row = [&test, &name] {
             return test.factory->getDeviceDetail(test.family, name);
@@ -180,8 +180,9 @@ private Q_SLOTS:
 
         // A device without an address is named without brackets.
         const QString unset = u"0.0.0.0:37777"_s;
-        QVERIFY(test.store->addAnswer(searchAnswer({.address = "0.0.0.0", .mac = "02:aa", .ipVersion = 6}))
-                    .added);
+        QVERIFY(
+            test.store->addResponse(searchResponse({.address = "0.0.0.0", .mac = "02:aa", .ipVersion = 6}))
+                .added);
         test.factory->setUpgradeFilePath(test.family, unset, path);
         QCOMPARE(test.store->rowNamed(unset).value(DeviceRowKey::filepath).toString(), path);
     }

@@ -13,15 +13,15 @@
 #include <mutex>
 
 /// The results of a search by address.
-class SearchAnswers
+class SearchResponses
 {
 public:
-    static void take(std::int64_t, const sdk::SearchAnswer *answer, void *user)
+    static void take(std::int64_t, const sdk::SearchResponse *response, void *user)
     {
-        auto *self = static_cast<SearchAnswers *>(user);
+        auto *self = static_cast<SearchResponses *>(user);
         const std::scoped_lock lock(self->m_mutex);
-        self->m_answers.insert(textOf(answer->device.address), *answer);
-        self->m_uuids.insert(textOf(answer->device.address), textOf(answer->device.uuid));
+        self->m_responses.insert(textOf(response->device.address), *response);
+        self->m_uuids.insert(textOf(response->device.address), textOf(response->device.uuid));
     }
 
     /// The UUIDs of all devices that were reported with the address.
@@ -36,25 +36,25 @@ public:
     [[nodiscard]] bool has(const QString &address) const
     {
         const std::scoped_lock lock(m_mutex);
-        return m_answers.contains(address);
+        return m_responses.contains(address);
     }
 
     [[nodiscard]] sdk::SearchDeviceInformation device(const QString &address) const
     {
         const std::scoped_lock lock(m_mutex);
-        return m_answers.value(address).device;
+        return m_responses.value(address).device;
     }
 
     /// The information of a device that is queried at its address; empty without a response.
     static sdk::SearchDeviceInformation found(sdk::NetLibrary &net, const QString &address)
     {
-        SearchAnswers answers;
+        SearchResponses responses;
         sdk::SearchByAddressesRequest request{};
         request.size = sizeof(request);
         request.count = 1;
         sdk::setBlockText(request.addresses[0], address.toStdString());
-        net.NetSearchDeviceByIp(request, &SearchAnswers::take, &answers, std::chrono::milliseconds(3000));
-        return answers.device(address);
+        net.NetSearchDeviceByIp(request, &SearchResponses::take, &responses, std::chrono::milliseconds(3000));
+        return responses.device(address);
     }
 
     template<std::size_t size>
@@ -65,6 +65,6 @@ public:
 
 private:
     mutable std::mutex m_mutex;
-    QHash<QString, sdk::SearchAnswer> m_answers;
+    QHash<QString, sdk::SearchResponse> m_responses;
     QMultiHash<QString, QString> m_uuids; ///< by address
 };

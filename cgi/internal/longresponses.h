@@ -6,7 +6,7 @@
 #include <mutex>
 
 /// Stores complete long responses up to a limit: rows and outcomes contain only their start. Thread-safe.
-class LongAnswers
+class LongResponses
 {
 public:
     static constexpr qsizetype longestBeginning = 4000;
@@ -14,7 +14,7 @@ public:
 
     /// Stores the response of `key` in place of an earlier one. A response up to longestBeginning or longer
     /// than maximumLength is not stored; the oldest ones are removed at the limit.
-    void keep(const QString &key, const QString &answer);
+    void keep(const QString &key, const QString &response);
 
     /// Removes the response of `key`, if there is one.
     void remove(const QString &key);
@@ -27,7 +27,7 @@ private:
     void erase(const QString &key);
 
     mutable std::mutex m_mutex;
-    QHash<QString, QString> m_answers;
+    QHash<QString, QString> m_responses;
     QStringList m_keys; ///< the oldest first
     qsizetype m_length = 0;
 };

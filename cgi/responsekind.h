@@ -5,7 +5,7 @@
 #include <QDateTime>
 #include <QString>
 
-enum class AnswerKind
+enum class ResponseKind
 {
     Text,
     Picture,
@@ -13,17 +13,17 @@ enum class AnswerKind
 };
 
 /// The type by the text of all headers, compared case-sensitively. Text if no other one is recognised.
-[[nodiscard]] AnswerKind answerKind(const QByteArray &headers);
+[[nodiscard]] ResponseKind responseKind(const QByteArray &headers);
 
 /// The suffix of the file for a response with these headers, with its dot. Empty for a text.
-[[nodiscard]] QString answerFileEnding(const QByteArray &headers);
+[[nodiscard]] QString responseFileEnding(const QByteArray &headers);
 
 /// The text of a response's body, which is usually UTF-8. If it is not UTF-8, the encoding is that of its
 /// byte order mark, otherwise the "charset" of the last "Content-Type" header, otherwise UTF-8. Undecodable
 /// bytes become replacement characters.
-[[nodiscard]] QString answerText(const QByteArray &headers, const QByteArray &body);
+[[nodiscard]] QString responseText(const QByteArray &headers, const QByteArray &body);
 
 /// "<folder>/<yyyyMMddhhmmss><ending>": two responses within a second have the same file, and the later one
 /// replaces the earlier one.
-[[nodiscard]] QString answerFilePath(const QString &folder, const QDateTime &localTime,
-                                     const QString &ending);
+[[nodiscard]] QString responseFilePath(const QString &folder, const QDateTime &localTime,
+                                       const QString &ending);

@@ -1,16 +1,16 @@
-#include "sdk/demo/device/searchanswers.h"
+#include "sdk/demo/device/searchresponses.h"
 
 #include "sdk/demo/device/fieldtext.h"
 
 namespace sdk::demo {
 
-SearchAnswer searchAnswer(const SceneDevice &device, int ipVersion, const QString &localAddress)
+SearchResponse searchResponse(const SceneDevice &device, int ipVersion, const QString &localAddress)
 {
-    SearchAnswer answer = {};
-    answer.size = sizeof(SearchAnswer);
-    writePlain(answer.localAddress, localAddress);
+    SearchResponse response = {};
+    response.size = sizeof(SearchResponse);
+    writePlain(response.localAddress, localAddress);
 
-    SearchDeviceInformation &information = answer.device;
+    SearchDeviceInformation &information = response.device;
     information.ipVersion = ipVersion;
     information.port = device.port;
     if (ipVersion == 6) {
@@ -37,7 +37,7 @@ SearchAnswer searchAnswer(const SceneDevice &device, int ipVersion, const QStrin
         device.isUninitialised() ? InitialisationBits::Uninitialised : device.initialisation;
     information.initialisationState = static_cast<std::uint8_t>(state);
     information.passwordResetWay = device.resetWay;
-    return answer;
+    return response;
 }
 
 } // namespace sdk::demo

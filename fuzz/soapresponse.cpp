@@ -6,11 +6,11 @@
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     fuzz::disableLogging();
-    sdk::onvif::HttpAnswer answer;
-    answer.end = sdk::onvif::HttpEnd::Answered;
-    answer.status = 200;
-    answer.body.assign(reinterpret_cast<const char *>(data), size);
-    const sdk::onvif::SoapAnswer read = sdk::onvif::readSoapAnswer(answer);
+    sdk::onvif::HttpResponse response;
+    response.end = sdk::onvif::HttpEnd::Responded;
+    response.status = 200;
+    response.body.assign(reinterpret_cast<const char *>(data), size);
+    const sdk::onvif::SoapResponse read = sdk::onvif::readSoapResponse(response);
     if (read.isOk() != read.content.exists())
         qFatal("a successful response has no content, or a failed one has content");
     if (!read.isOk())

@@ -1,7 +1,7 @@
 // Delivers the planned responses of one search to its handler, on separate threads.
 #pragma once
 
-#include "sdk/demo/search/answerplan.h"
+#include "sdk/demo/search/responseplan.h"
 #include "sdk/demo/search/searchtally.h"
 #include "sdk/searchblocks.h"
 
@@ -13,9 +13,9 @@
 namespace sdk::demo {
 
 /// The receiver of a search's responses.
-struct AnswerReceiver
+struct ResponseReceiver
 {
-    SearchAnswerHandler handler = nullptr;
+    SearchResponseHandler handler = nullptr;
     void *user = nullptr;
     std::int64_t searchHandle = 0;
     QString localAddress; ///< source address of the search; empty or "0.0.0.0" for every address of this host
@@ -25,14 +25,14 @@ struct AnswerReceiver
 /// Up to four threads deliver the responses, each a share of them, at the times of the site's clock. One of
 /// the finish... functions ends all threads; the destructor calls finishImmediately. None may be called from
 /// a handler.
-class AnswerDelivery
+class ResponseDelivery
 {
 public:
     /// `site` must outlive the delivery.
-    AnswerDelivery(SiteState &site, AnswerReceiver receiver, std::vector<PlannedAnswer> plan);
-    ~AnswerDelivery();
-    AnswerDelivery(const AnswerDelivery &) = delete;
-    AnswerDelivery &operator=(const AnswerDelivery &) = delete;
+    ResponseDelivery(SiteState &site, ResponseReceiver receiver, std::vector<PlannedResponse> plan);
+    ~ResponseDelivery();
+    ResponseDelivery(const ResponseDelivery &) = delete;
+    ResponseDelivery &operator=(const ResponseDelivery &) = delete;
 
     /// Starts the threads. A delivery starts once. Returns false if the host provides no thread.
     [[nodiscard]] bool start();
@@ -52,12 +52,12 @@ public:
 
 private:
     void deliverShare(std::size_t firstIndex, std::size_t step, const std::stop_token &stop);
-    void deliver(const PlannedAnswer &planned);
+    void deliver(const PlannedResponse &planned);
     void finishBy(std::int64_t lastTime);
 
     SiteState &m_site;
-    AnswerReceiver m_receiver;
-    std::vector<PlannedAnswer> m_plan;
+    ResponseReceiver m_receiver;
+    std::vector<PlannedResponse> m_plan;
     std::atomic<std::int64_t> m_lastTime = std::numeric_limits<std::int64_t>::max();
     std::vector<std::jthread> m_threads;
 };

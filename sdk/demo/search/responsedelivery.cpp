@@ -1,7 +1,7 @@
-#include "sdk/demo/search/answerdelivery.h"
+#include "sdk/demo/search/responsedelivery.h"
 
 #include "sdk/clock.h"
-#include "sdk/demo/device/searchanswers.h"
+#include "sdk/demo/device/searchresponses.h"
 #include "sdk/demo/site/logging.h"
 #include "sdk/demo/site/sitestate.h"
 #include "sdk/threadpriority.h"
@@ -18,17 +18,18 @@ thread_local bool insideHandler = false;
 
 } // namespace
 
-AnswerDelivery::AnswerDelivery(SiteState &site, AnswerReceiver receiver, std::vector<PlannedAnswer> plan)
+ResponseDelivery::ResponseDelivery(SiteState &site, ResponseReceiver receiver,
+                                   std::vector<PlannedResponse> plan)
     : m_site(site), m_receiver(std::move(receiver)), m_plan(std::move(plan))
 {
 }
 
-AnswerDelivery::~AnswerDelivery()
+ResponseDelivery::~ResponseDelivery()
 {
     finishImmediately();
 }
 
-bool AnswerDelivery::start()
+bool ResponseDelivery::start()
 {
     const std::size_t threads = std::min(mostThreads, m_plan.size());
     try {
@@ -44,22 +45,22 @@ bool AnswerDelivery::start()
     return true;
 }
 
-void AnswerDelivery::finishPlan()
+void ResponseDelivery::finishPlan()
 {
     finishBy(std::numeric_limits<std::int64_t>::max());
 }
 
-void AnswerDelivery::finishDue()
+void ResponseDelivery::finishDue()
 {
     finishBy(m_site.clock().now());
 }
 
-void AnswerDelivery::finishImmediately()
+void ResponseDelivery::finishImmediately()
 {
     finishBy(std::numeric_limits<std::int64_t>::min());
 }
 
-void AnswerDelivery::finishBy(std::int64_t lastTime)
+void ResponseDelivery::finishBy(std::int64_t lastTime)
 {
     m_lastTime = lastTime;
     const bool waitsForPlan = lastTime == std::numeric_limits<std::int64_t>::max();
@@ -72,16 +73,16 @@ void AnswerDelivery::finishBy(std::int64_t lastTime)
     m_threads.clear();
 }
 
-bool AnswerDelivery::isInsideHandler()
+bool ResponseDelivery::isInsideHandler()
 {
     return insideHandler;
 }
 
-void AnswerDelivery::deliverShare(std::size_t firstIndex, std::size_t step, const std::stop_token &stop)
+void ResponseDelivery::deliverShare(std::size_t firstIndex, std::size_t step, const std::stop_token &stop)
 {
     giveWayToWindow();
     for (std::size_t index = firstIndex; index < m_plan.size(); index += step) {
-        const PlannedAnswer &planned = m_plan[index];
+        const PlannedResponse &planned = m_plan[index];
         m_site.clock().waitUntil(planned.time, stop);
         if (planned.time > m_lastTime)
             return;
@@ -89,7 +90,7 @@ void AnswerDelivery::deliverShare(std::size_t firstIndex, std::size_t step, cons
     }
 }
 
-void AnswerDelivery::deliver(const PlannedAnswer &planned)
+void ResponseDelivery::deliver(const PlannedResponse &planned)
 {
     // The device may have changed or been removed since the start of the search. Its current state counts.
     const std::optional<SceneDevice> device = m_site.device(planned.mac);
@@ -98,16 +99,16 @@ void AnswerDelivery::deliver(const PlannedAnswer &planned)
     QString localAddress = m_receiver.localAddress;
     if (localAddress.isEmpty() || localAddress == QLatin1String("0.0.0.0"))
         localAddress = m_site.localAddressFor(*device, planned.ipVersion);
-    const SearchAnswer answer = searchAnswer(*device, planned.ipVersion, localAddress);
+    const SearchResponse response = searchResponse(*device, planned.ipVersion, localAddress);
     if (m_receiver.tally) {
         const QString address = planned.ipVersion == 6 ? device->ipv6 : device->address;
         if (m_receiver.searchHandle != 0)
-            m_receiver.tally->noteLocalAnswer(planned.mac, address);
+            m_receiver.tally->noteLocalResponse(planned.mac, address);
         else
-            m_receiver.tally->noteAddressAnswer(address);
+            m_receiver.tally->noteAddressResponse(address);
     }
     insideHandler = true;
-    m_receiver.handler(m_receiver.searchHandle, &answer, m_receiver.user);
+    m_receiver.handler(m_receiver.searchHandle, &response, m_receiver.user);
     insideHandler = false;
 }
 

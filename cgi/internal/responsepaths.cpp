@@ -1,6 +1,6 @@
-#include "cgi/internal/answerpaths.h"
+#include "cgi/internal/responsepaths.h"
 
-QString AnswerPaths::own(const QString &path)
+QString ResponsePaths::own(const QString &path)
 {
     constexpr qsizetype remembered = 100; // responses that end together have similar times
     int number = 0;

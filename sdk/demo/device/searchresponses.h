@@ -7,7 +7,7 @@ namespace sdk::demo {
 
 /// The response of `device` for `ipVersion` (4 or 6), by its state and its faults. `localAddress` is the
 /// address of this host that receives it.
-[[nodiscard]] SearchAnswer searchAnswer(const SceneDevice &device, int ipVersion,
-                                        const QString &localAddress);
+[[nodiscard]] SearchResponse searchResponse(const SceneDevice &device, int ipVersion,
+                                            const QString &localAddress);
 
 } // namespace sdk::demo

@@ -19,7 +19,7 @@ enum class SearchKind
 };
 
 /// One future response.
-struct PlannedAnswer
+struct PlannedResponse
 {
     std::int64_t time; ///< on the site's clock, ms since 1970
     QString mac;
@@ -27,13 +27,13 @@ struct PlannedAnswer
 };
 
 /// The responses to a local search that starts at `start`, in the order of their times.
-[[nodiscard]] std::vector<PlannedAnswer> planLocalSearch(const SiteState &site, SearchKind kind,
-                                                         std::int64_t start);
+[[nodiscard]] std::vector<PlannedResponse> planLocalSearch(const SiteState &site, SearchKind kind,
+                                                           std::int64_t start);
 
 /// The responses to a search of `addresses` (IPv4 and canonical IPv6) that starts at `start`, in the order of
 /// their times. Responses after `end` are lost.
-[[nodiscard]] std::vector<PlannedAnswer> planAddressSearch(const SiteState &site, SearchKind kind,
-                                                           const QSet<QString> &addresses, std::int64_t start,
-                                                           std::int64_t end);
+[[nodiscard]] std::vector<PlannedResponse> planAddressSearch(const SiteState &site, SearchKind kind,
+                                                             const QSet<QString> &addresses,
+                                                             std::int64_t start, std::int64_t end);
 
 } // namespace sdk::demo

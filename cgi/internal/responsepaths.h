@@ -6,7 +6,7 @@
 #include <mutex>
 
 /// Unique file names for responses of the same second. Thread-safe.
-class AnswerPaths
+class ResponsePaths
 {
 public:
     /// Returns `path` at the first call, then "<name>_2.<suffix>", "<name>_3.<suffix>" and so on. Does not

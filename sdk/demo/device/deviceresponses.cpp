@@ -1,4 +1,4 @@
-#include "sdk/demo/device/deviceanswers.h"
+#include "sdk/demo/device/deviceresponses.h"
 
 #include "sdk/configrecords.h"
 #include "sdk/configtext/configtext.h"

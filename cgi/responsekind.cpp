@@ -1,4 +1,4 @@
-#include "cgi/answerkind.h"
+#include "cgi/responsekind.h"
 
 #include <QStringDecoder>
 
@@ -44,21 +44,21 @@ bool isUtf8(const QByteArray &body)
 
 } // namespace
 
-AnswerKind answerKind(const QByteArray &headers)
+ResponseKind responseKind(const QByteArray &headers)
 {
     if (headers.contains("image/"))
-        return AnswerKind::Picture;
-    return headers.contains("octet-stream") ? AnswerKind::Recording : AnswerKind::Text;
+        return ResponseKind::Picture;
+    return headers.contains("octet-stream") ? ResponseKind::Recording : ResponseKind::Text;
 }
 
-QString answerFileEnding(const QByteArray &headers)
+QString responseFileEnding(const QByteArray &headers)
 {
-    switch (answerKind(headers)) {
-    case AnswerKind::Text:
+    switch (responseKind(headers)) {
+    case ResponseKind::Text:
         return {};
-    case AnswerKind::Recording:
+    case ResponseKind::Recording:
         return QStringLiteral(".dav");
-    case AnswerKind::Picture:
+    case ResponseKind::Picture:
         break;
     }
     for (const PictureFormat &format : pictureFormats) {
@@ -68,7 +68,7 @@ QString answerFileEnding(const QByteArray &headers)
     return QStringLiteral(".jpg");
 }
 
-QString answerText(const QByteArray &headers, const QByteArray &body)
+QString responseText(const QByteArray &headers, const QByteArray &body)
 {
     if (isUtf8(body))
         return QString::fromUtf8(body);
@@ -80,7 +80,7 @@ QString answerText(const QByteArray &headers, const QByteArray &body)
     return decoder.decode(body);
 }
 
-QString answerFilePath(const QString &folder, const QDateTime &localTime, const QString &ending)
+QString responseFilePath(const QString &folder, const QDateTime &localTime, const QString &ending)
 {
     return folder + QLatin1Char('/') + localTime.toString(QStringLiteral("yyyyMMddhhmmss")) + ending;
 }
