@@ -230,7 +230,7 @@ void Shell::loadQml()
     m_engine->load(QUrl(QStringLiteral("qrc:/qt/qml/configtools/main.qml")));
     if (auto *window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().value(0))) {
         const auto noteFirst = [] {
-            qCDebug(logApp) << "first picture";
+            qCDebug(logApp) << "first frame";
         };
         QObject::connect(window, &QQuickWindow::frameSwapped, window, noteFirst, Qt::SingleShotConnection);
     }

@@ -13,7 +13,7 @@ int main(int argc, char *argv[])
     engine.loadData("import QtQuick\nWindow { width: 1280; height: 720; visible: true }");
     auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
     QObject::connect(window, &QQuickWindow::frameSwapped, window, [] {
-        std::fputs("first picture\n", stderr);
+        std::fputs("first frame\n", stderr);
         QCoreApplication::quit();
     });
     return QApplication::exec();

@@ -45,7 +45,7 @@ public:
     {
         sdk::DecoderStatus status = {};
         m_library.DecoderGetStatus(m_port, status);
-        return status.skippedPictures;
+        return status.skippedFrames;
     }
 
 private:

@@ -90,7 +90,7 @@ double processorTime()
 
 void awaitFrame(const VideoItem &video)
 {
-    if (!QTest::qWaitFor([&] { return video.hasPicture(); }, longWait))
+    if (!QTest::qWaitFor([&] { return video.hasFrame(); }, longWait))
         qWarning("no frame arrived");
 }
 

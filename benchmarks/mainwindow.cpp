@@ -32,7 +32,7 @@ double timeToFirstFrame(const QString &program, const QStringList &arguments)
     timer.start();
     process.start(program, arguments);
     QByteArray output;
-    while (!output.contains("first picture") && process.waitForReadyRead(20000))
+    while (!output.contains("first frame") && process.waitForReadyRead(20000))
         output += process.readAllStandardError();
     const double time = static_cast<double>(timer.elapsed());
     process.kill();

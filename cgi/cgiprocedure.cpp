@@ -209,7 +209,7 @@ CgiProcedure::Received CgiProcedure::receive(PreparedHttpRequest &prepared, cons
     switch (kind) {
     case ResponseKind::Text:
         break;
-    case ResponseKind::Picture:
+    case ResponseKind::Image:
         return receiveImage(prepared, path, first);
     case ResponseKind::Recording:
         return receiveRecording(prepared, path, first);
@@ -244,9 +244,9 @@ CgiProcedure::Received CgiProcedure::receiveImage(PreparedHttpRequest &prepared,
         noteCannotWrite(path, file.errorString());
         return {.text = {}, .failure = failureOf(first)}; // only the status of the response decides
     }
-    qint64 room = m_limits.largestPicture;
+    qint64 room = m_limits.largestImage;
     bool isWritten = true;
-    const HttpOutcome outcome = perform(prepared, m_limits.picture, [&](QByteArrayView chunk) {
+    const HttpOutcome outcome = perform(prepared, m_limits.image, [&](QByteArrayView chunk) {
         room -= chunk.size();
         isWritten = room < 0 || writeCompletely(file, chunk);
         return room >= 0 && isWritten;

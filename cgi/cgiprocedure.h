@@ -33,10 +33,10 @@ struct CgiLimits
 {
     HttpLimits first{.total = std::chrono::milliseconds(3000)};
     HttpLimits text{.total = std::chrono::milliseconds(30000)};
-    HttpLimits picture{.total = std::chrono::milliseconds(10000)};
+    HttpLimits image{.total = std::chrono::milliseconds(10000)};
     HttpLimits recording{.slowestRate = 1024, .slowTime = std::chrono::seconds(10)};
     qsizetype longestText = 8LL * 1024 * 1024;
-    qsizetype largestPicture = 64LL * 1024 * 1024;
+    qsizetype largestImage = 64LL * 1024 * 1024;
 };
 
 /// The prefix of the result of a failed command.

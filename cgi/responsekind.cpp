@@ -6,20 +6,20 @@
 
 namespace {
 
-struct PictureFormat
+struct ImageFormat
 {
     const char *contentType;
     const char *ending;
 };
 
 /// The first match is used.
-constexpr std::array pictureFormats = {
-    PictureFormat{.contentType = "image/jpeg", .ending = ".jpg"},
-    PictureFormat{.contentType = "image/png", .ending = ".png"},
-    PictureFormat{.contentType = "image/gif", .ending = ".gif"},
-    PictureFormat{.contentType = "image/bmp", .ending = ".bmp"},
-    PictureFormat{.contentType = "image/svg", .ending = ".svg"},
-    PictureFormat{.contentType = "image/webp", .ending = ".webp"},
+constexpr std::array imageFormats = {
+    ImageFormat{.contentType = "image/jpeg", .ending = ".jpg"},
+    ImageFormat{.contentType = "image/png", .ending = ".png"},
+    ImageFormat{.contentType = "image/gif", .ending = ".gif"},
+    ImageFormat{.contentType = "image/bmp", .ending = ".bmp"},
+    ImageFormat{.contentType = "image/svg", .ending = ".svg"},
+    ImageFormat{.contentType = "image/webp", .ending = ".webp"},
 };
 
 /// "gbk" of "Content-Type: text/plain; charset=GBK" in the headers of the last response; empty without it.
@@ -47,7 +47,7 @@ bool isUtf8(const QByteArray &body)
 ResponseKind responseKind(const QByteArray &headers)
 {
     if (headers.contains("image/"))
-        return ResponseKind::Picture;
+        return ResponseKind::Image;
     return headers.contains("octet-stream") ? ResponseKind::Recording : ResponseKind::Text;
 }
 
@@ -58,10 +58,10 @@ QString responseFileEnding(const QByteArray &headers)
         return {};
     case ResponseKind::Recording:
         return QStringLiteral(".dav");
-    case ResponseKind::Picture:
+    case ResponseKind::Image:
         break;
     }
-    for (const PictureFormat &format : pictureFormats) {
+    for (const ImageFormat &format : imageFormats) {
         if (headers.contains(format.contentType))
             return QLatin1String(format.ending);
     }

@@ -8,7 +8,7 @@
 enum class ResponseKind
 {
     Text,
-    Picture,
+    Image,
     Recording,
 };
 

@@ -82,7 +82,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
                                           .folder = folder.path(),
                                           .localTime = &QDateTime::currentDateTime};
     constexpr qsizetype longest = 4000;
-    const CgiLimits limits{.longestText = longest, .largestPicture = longest};
+    const CgiLimits limits{.longestText = longest, .largestImage = longest};
     const QString result = CgiProcedure(surroundings, limits)
                                .run(QStringLiteral("http://192.0.2.1/cgi-bin/a"), QStringLiteral("admin"),
                                     QStringLiteral("secret"), QStringLiteral("192.0.2.1:37777"));

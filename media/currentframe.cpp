@@ -17,7 +17,7 @@ bool VideoFrame::isComplete() const
 }
 
 void CurrentFrame::set(const std::uint8_t *data, std::int32_t size, std::int32_t width, std::int32_t height,
-                       sdk::PictureColour colour)
+                       sdk::FrameColour colour)
 {
     const std::lock_guard lock(m_mutex);
     m_frame.data = data;

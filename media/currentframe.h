@@ -7,14 +7,14 @@
 #include <cstdint>
 #include <mutex>
 
-/// A decoded frame in the memory of the decoder: planar YUV 4:2:0, as sdk::DecodedFrameType::Picture.
+/// A decoded frame in the memory of the decoder: planar YUV 4:2:0, as sdk::DecodedFrameType::Video.
 struct VideoFrame
 {
     const std::uint8_t *data = nullptr;
     std::int32_t size = 0;   ///< in bytes
     std::int32_t width = -1; ///< in pixels; -1 before the first frame, 0 after the end of the stream
     std::int32_t height = -1;
-    sdk::PictureColour colour = sdk::PictureColour::Bt601Limited;
+    sdk::FrameColour colour = sdk::FrameColour::Bt601Limited;
     std::uint64_t number = 0; ///< counts the frames of all streams of a CurrentFrame, from 1; 0 for none
     bool isSizeStale = false; ///< the size has changed since the renderer last read the frame
 
@@ -39,7 +39,7 @@ class CurrentFrame
 public:
     /// Called on the decoder's thread.
     void set(const std::uint8_t *data, std::int32_t size, std::int32_t width, std::int32_t height,
-             sdk::PictureColour colour);
+             sdk::FrameColour colour);
 
     /// Sets the size to 0: the stream is about to end.
     void clearSize();

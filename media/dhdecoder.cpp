@@ -92,7 +92,7 @@ StreamFigures CDHDecoder::figures() const
         figures.audioCodec = text(status.audioCodec);
         figures.waitingBytes = status.waitingBytes;
         figures.damages = status.damages;
-        figures.skippedFrames = status.skippedPictures;
+        figures.skippedFrames = status.skippedFrames;
     }
     const std::int64_t now = m_clock->now();
     const std::lock_guard lock(m_sumsMutex);
@@ -127,8 +127,8 @@ void CDHDecoder::realDataCallback(std::int64_t streamHandle, std::uint32_t dataT
 void CDHDecoder::deliver(const std::uint8_t *data, std::int32_t size,
                          const sdk::DecodedFrameInformation &information)
 {
-    m_pictureColour = information.colour;
-    if (information.type == sdk::DecodedFrameType::Picture) {
+    m_frameColour = information.colour;
+    if (information.type == sdk::DecodedFrameType::Video) {
         const std::lock_guard lock(m_sumsMutex);
         m_frames.add(m_clock->now(), 1);
     }

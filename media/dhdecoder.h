@@ -55,7 +55,7 @@ public:
     bool inputData(const std::uint8_t *data, std::uint32_t size);
 
     /// Colour space of the frame that the observer is called with; valid during that call.
-    [[nodiscard]] sdk::PictureColour pictureColour() const { return m_pictureColour; }
+    [[nodiscard]] sdk::FrameColour frameColour() const { return m_frameColour; }
 
     /// All empty while no port is open.
     [[nodiscard]] StreamFigures figures() const;
@@ -80,8 +80,8 @@ private:
     const std::shared_ptr<sdk::DecoderLibrary> m_library;
     const std::shared_ptr<sdk::Clock> m_clock;
     std::atomic<std::int32_t> m_port = noPort;
-    sdk::PictureColour m_pictureColour = sdk::PictureColour::Bt601Limited; ///< decoder's thread only
-    mutable std::mutex m_sumsMutex;                                        ///< guards the two members below
+    sdk::FrameColour m_frameColour = sdk::FrameColour::Bt601Limited; ///< decoder's thread only
+    mutable std::mutex m_sumsMutex;                                  ///< guards the two members below
     SlidingSum m_bytes;
     SlidingSum m_frames;
 };

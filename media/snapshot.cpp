@@ -47,11 +47,11 @@ SnapOutcome notWritten(const QString &reason)
             .reason = reason};
 }
 
-SnapOutcome noPicture(const QString &reason = QString())
+SnapOutcome noFrame(const QString &reason = QString())
 {
     return {.path = {},
             .message = QCoreApplication::translate("SnapThread", "抓图失败"),
-            .problem = SnapProblem::NoPicture,
+            .problem = SnapProblem::NoFrame,
             .reason = reason};
 }
 
@@ -65,7 +65,7 @@ SnapOutcome saveFirstFrame(const SnapTask &task, int channel, const QString &fil
         if (attempt > 0)
             QThread::msleep(snapPauseMilliseconds);
         if (!task.isDeviceCurrent())
-            return noPicture(); // the session is with another device
+            return noFrame(); // the session is with another device
         // A new login ends the stream with its session.
         if (attempt == 0 || handle != task.sessionHandle()) {
             stream.stop();
@@ -75,7 +75,7 @@ SnapOutcome saveFirstFrame(const SnapTask &task, int channel, const QString &fil
             const bool isStarted =
                 stream.start({.loginHandle = handle, .channel = channel}) && task.isDeviceCurrent();
             if (!isStarted && handle == task.sessionHandle())
-                return noPicture(stream.text());
+                return noFrame(stream.text());
             if (!isStarted)
                 continue;
         }
@@ -90,7 +90,7 @@ SnapOutcome saveFirstFrame(const SnapTask &task, int channel, const QString &fil
         if (!problem.isEmpty())
             return notWritten(problem);
     }
-    return noPicture();
+    return noFrame();
 }
 
 } // namespace

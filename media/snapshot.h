@@ -37,7 +37,7 @@ enum class SnapProblem
 {
     None,
     NotConnected, ///< the channel has no camera
-    NoPicture,    ///< the stream was refused, no frame was decoded in time, or the snapshot was cancelled
+    NoFrame,      ///< the stream was refused, no frame was decoded in time, or the snapshot was cancelled
     NotWritten,   ///< the file could not be written
 };
 

@@ -28,8 +28,8 @@ class VideoItem : public QQuickFramebufferObject, public DrawnVideo
     Q_PROPERTY(QString url READ url WRITE setUrl NOTIFY urlChanged)
     Q_PROPERTY(QString text READ text NOTIFY textChanged)
     Q_PROPERTY(StreamKind streamKind READ streamKind WRITE setStreamKind NOTIFY streamKindChanged)
-    Q_PROPERTY(QSize pictureSize READ pictureSize NOTIFY videoInfoChangedSig)
-    Q_PROPERTY(bool hasPicture READ hasPicture NOTIFY videoInfoChangedSig)
+    Q_PROPERTY(QSize frameSize READ frameSize NOTIFY videoInfoChangedSig)
+    Q_PROPERTY(bool hasFrame READ hasFrame NOTIFY videoInfoChangedSig)
     Q_PROPERTY(int zoomLevel READ zoomLevel NOTIFY zoomLevelChanged)
     Q_PROPERTY(bool isStreaming READ isStreaming NOTIFY isStreamingChanged)
     Q_PROPERTY(QString problemText READ problemText NOTIFY problemTextChanged)
@@ -83,8 +83,8 @@ public:
     [[nodiscard]] StreamKind streamKind() const { return m_streamKind; }
     void setStreamKind(StreamKind streamKind);
     /// Size of the current frame in pixels; -1 x -1 before the first frame, 0 x 0 after stop().
-    [[nodiscard]] QSize pictureSize() const { return m_frameSize; }
-    [[nodiscard]] bool hasPicture() const { return !m_frameSize.isEmpty(); }
+    [[nodiscard]] QSize frameSize() const { return m_frameSize; }
+    [[nodiscard]] bool hasFrame() const { return !m_frameSize.isEmpty(); }
     [[nodiscard]] int zoomLevel() const { return m_geometry.level(); } ///< 0 to ViewGeometry::maximumLevel
     /// True from a successful start to stop().
     [[nodiscard]] bool isStreaming() const { return m_stream.isStreaming(); }
@@ -111,7 +111,7 @@ Q_SIGNALS:
 
     void isAudioOutputChanged();
     void isLoginHandleChanged();
-    void videoInfoChangedSig(); ///< pictureSize() or hasPicture() has changed
+    void videoInfoChangedSig(); ///< frameSize() or hasFrame() has changed
     void fillModeChanged();
     void channelIdChanged();
     void videoErrorSig(); ///< the stream delivers no frames; it may still recover

@@ -162,9 +162,9 @@ void VideoStream::onDecodedFrame(const std::uint8_t *data, std::int32_t size, st
                                  std::int32_t /*reserved*/)
 {
     switch (type) {
-    case sdk::DecodedFrameType::Picture:
+    case sdk::DecodedFrameType::Video:
         m_watch.noteFrame(m_libraries.clock->now());
-        m_frame.set(data, size, width, height, m_decoder->pictureColour());
+        m_frame.set(data, size, width, height, m_decoder->frameColour());
         Q_EMIT frameArrived();
         return;
     case sdk::DecodedFrameType::Sound:
@@ -189,7 +189,7 @@ bool VideoStream::saveFrame(const QString &path, int quality)
     std::vector<std::uint8_t> bytes;
     std::int32_t width = 0;
     std::int32_t height = 0;
-    sdk::PictureColour colour = {};
+    sdk::FrameColour colour = {};
     m_frame.read([&](const VideoFrame &frame) {
         if (!frame.isComplete())
             return;
@@ -200,7 +200,7 @@ bool VideoStream::saveFrame(const QString &path, int quality)
     });
     return m_libraries.decoder &&
            m_libraries.decoder->DecoderSaveFrame(bytes.empty() ? nullptr : bytes.data(), width, height,
-                                                 sdk::SavedPictureType::Jpeg, quality,
+                                                 sdk::SavedImageType::Jpeg, quality,
                                                  path.toLocal8Bit().constData(), colour);
 }
 

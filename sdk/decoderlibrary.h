@@ -10,13 +10,13 @@ namespace sdk {
 /// DecodedFrameInformation::type.
 enum class DecodedFrameType : std::int32_t
 {
-    Picture = 3, ///< planar YUV 4:2:0, 8 bits: Y, then U and V of half the width and height, rounded up;
+    Video = 3,   ///< planar YUV 4:2:0, 8 bits: Y, then U and V of half the width and height, rounded up;
                  ///< no padding between lines or planes
     Sound = 101, ///< PCM, 16 bits signed in the byte order of the host, one channel
 };
 
 /// The colour space of a frame.
-enum class PictureColour : std::int32_t
+enum class FrameColour : std::int32_t
 {
     Bt601Limited = 0, ///< ITU-R BT.601, Y from 16 to 235
     Bt601Full = 1,    ///< Y from 0 to 255
@@ -25,9 +25,9 @@ enum class PictureColour : std::int32_t
 };
 
 /// The colour space of a frame whose stream does not report one: BT.709 from 720 lines on.
-[[nodiscard]] constexpr PictureColour usualPictureColour(std::int32_t height)
+[[nodiscard]] constexpr FrameColour usualFrameColour(std::int32_t height)
 {
-    return height >= 720 ? PictureColour::Bt709Limited : PictureColour::Bt601Limited;
+    return height >= 720 ? FrameColour::Bt709Limited : FrameColour::Bt601Limited;
 }
 
 struct DecodedFrameInformation
@@ -36,8 +36,8 @@ struct DecodedFrameInformation
     std::int32_t height;
     std::int32_t reserved;
     DecodedFrameType type;
-    std::int32_t rate; ///< frames per second, 0 if not reported by the stream; samples per second for sound
-    PictureColour colour; ///< of a frame
+    std::int32_t rate;  ///< frames per second, 0 if not reported by the stream; samples per second for sound
+    FrameColour colour; ///< of a frame
 };
 static_assert(sizeof(DecodedFrameInformation) == 24);
 static_assert(offsetof(DecodedFrameInformation, type) == 12);
@@ -50,7 +50,7 @@ using DecodeHandler = void (*)(std::int32_t port, const std::uint8_t *data, std:
                                const DecodedFrameInformation *information, void *user);
 
 /// The file format of DecoderSaveFrame.
-enum class SavedPictureType : std::int32_t
+enum class SavedImageType : std::int32_t
 {
     Jpeg = 3,
 };
@@ -62,7 +62,7 @@ struct DecoderStatus
     std::array<char, 16> audioCodec; ///< "AAC", "G.711A", "G.711Mu", "PCM"; empty without sound
     std::uint32_t waitingBytes;      ///< received and not yet decoded
     std::uint32_t damages;           ///< number of packets that could not be decoded
-    std::uint32_t skippedPictures;   ///< frames that were dropped because they were too late
+    std::uint32_t skippedFrames;     ///< frames that were dropped because they were too late
 };
 static_assert(sizeof(DecoderStatus) == 44);
 
@@ -111,13 +111,13 @@ public:
     /// Fills `status`. May be called at any time between DecoderAllocPort and DecoderFreePort.
     virtual bool DecoderGetStatus(std::int32_t port, DecoderStatus &status) = 0;
 
-    /// Writes a frame (its bytes as DecodedFrameType::Picture) to the file of that name in the local 8-bit
+    /// Writes a frame (its bytes as DecodedFrameType::Video) to the file of that name in the local 8-bit
     /// encoding; an existing file is replaced. `quality` is 1 to 100. `colour` is
     /// DecodedFrameInformation::colour of the frame. Returns false for a null frame, a width, height or
     /// quality out of range, and when the file cannot be written: an existing file is unchanged then.
-    virtual bool DecoderSaveFrame(const std::uint8_t *picture, std::int32_t width, std::int32_t height,
-                                  SavedPictureType type, std::int32_t quality, const char *fileName,
-                                  PictureColour colour) = 0;
+    virtual bool DecoderSaveFrame(const std::uint8_t *frame, std::int32_t width, std::int32_t height,
+                                  SavedImageType type, std::int32_t quality, const char *fileName,
+                                  FrameColour colour) = 0;
 };
 
 } // namespace sdk

@@ -94,22 +94,22 @@ static_assert(sizeof(AudioFormatItem) == 28);
 static_assert(offsetof(AudioFormatItem, samplingFrequency) == 12);
 
 /// The size of a frame in pixels.
-struct PictureSize
+struct FrameSize
 {
     std::uint16_t width;
     std::uint16_t height;
 };
-static_assert(sizeof(PictureSize) == 4);
+static_assert(sizeof(FrameSize) == 4);
 
-inline constexpr std::size_t maximumPictureSizes = 64;
+inline constexpr std::size_t maximumFrameSizes = 64;
 
 /// A list of frame sizes in a block. `count` comes from a device: it must be bounded before it is used.
-struct PictureSizeList
+struct FrameSizeList
 {
     std::uint32_t count; ///< used entries of `sizes`
-    std::array<PictureSize, maximumPictureSizes> sizes;
+    std::array<FrameSize, maximumFrameSizes> sizes;
 };
-static_assert(sizeof(PictureSizeList) == 260);
+static_assert(sizeof(FrameSizeList) == 260);
 
 /// Features of a stream that a device may lack. Bits of EncodeCapabilityBlock::missingValues.
 enum class EncodeValue : std::uint32_t
@@ -146,8 +146,8 @@ struct EncodeCapabilityBlock
     std::uint32_t audioFormatCount;        ///< used entries of `audioFormats`
     /// 1 PCM, 2 G.711 A-law, 4 G.711 u-law, 5 G.726, 8 AAC; others exist.
     std::array<std::int32_t, 64> audioFormats;
-    PictureSizeList sizes;
-    std::array<PictureSizeList, 16> sizesByCompression; ///< by compression code
+    FrameSizeList sizes;
+    std::array<FrameSizeList, 16> sizesByCompression; ///< by compression code
     std::uint32_t missingValues;  ///< EncodeValue: bit N is set if the device lacks the value
     std::uint32_t audioRateCount; ///< used entries of `audioRates`; 0 if not reported
     std::array<AudioRate, maximumAudioRates> audioRates;

@@ -4913,7 +4913,7 @@ File: </translation>
     </message>
 </context>
 <context>
-    <name>PictureGallery</name>
+    <name>ImageGallery</name>
     <message>
         <source>获取图像</source>
         <translation>Fetch images</translation>
@@ -4932,7 +4932,7 @@ File: </translation>
     </message>
 </context>
 <context>
-    <name>PictureOperations</name>
+    <name>ImageOperations</name>
     <message>
         <source>设备没有发送画面</source>
         <translation>The device has sent no image</translation>

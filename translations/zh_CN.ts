@@ -4838,7 +4838,7 @@
     </message>
 </context>
 <context>
-    <name>PictureGallery</name>
+    <name>ImageGallery</name>
     <message>
         <source>获取图像</source>
         <translation>获取图像</translation>
@@ -4857,7 +4857,7 @@
     </message>
 </context>
 <context>
-    <name>PictureOperations</name>
+    <name>ImageOperations</name>
     <message>
         <source>设备没有发送画面</source>
         <translation>设备没有发送画面</translation>

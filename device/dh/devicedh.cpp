@@ -6,10 +6,10 @@
 #include "device/dh/configuration/devicereservations.h"
 #include "device/dh/configuration/encodecopies.h"
 #include "device/dh/configuration/sessionlogins.h"
+#include "device/dh/images/imageoperations.h"
 #include "device/dh/lists/devicelists.h"
 #include "device/dh/logins/devicelogins.h"
 #include "device/dh/logins/rowlogin.h"
-#include "device/dh/pictures/pictureoperations.h"
 #include "device/dh/rows/founddevices.h"
 #include "device/dh/rows/rowoperations.h"
 #include "device/dh/session/sessionthreads.h"
@@ -42,14 +42,13 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
                                                   m_signals)),
       m_reservations(std::make_unique<DeviceReservations>(store, m_engine, isUpgradingAt())),
       m_session(std::make_unique<CurrentSession>(m_libraries, *m_threads)),
-      m_sessionLogins(std::make_unique<SessionLogins>(store, m_libraries, *m_logins, m_threads,
-                                                      takeOwnPicture(), *m_reservations, *m_session,
-                                                      m_signals)),
+      m_sessionLogins(std::make_unique<SessionLogins>(
+          store, m_libraries, *m_logins, m_threads, takeOwnImage(), *m_reservations, *m_session, m_signals)),
       m_pages(std::make_unique<ConfigurationPages>(m_libraries, *m_reservations, *m_session, m_signals)),
       m_encodeCopies(std::make_unique<EncodeCopies>(store, m_libraries, *m_logins, isUpgradingAt(),
                                                     *m_session, m_signals)),
-      m_pictures(std::make_unique<PictureOperations>(store, m_libraries, *m_logins, isUpgradingAt(),
-                                                     *m_session, m_signals)),
+      m_images(std::make_unique<ImageOperations>(store, m_libraries, *m_logins, isUpgradingAt(), *m_session,
+                                                 m_signals)),
       m_search(std::make_unique<SearchOperations>(store, m_libraries, std::move(searchSettings), *m_logins,
                                                   m_signals))
 {
@@ -58,10 +57,10 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
     m_agentListener = std::make_unique<AgentListener>(std::move(store), m_signals);
 }
 
-OwnPictureTaker CDeviceDH::takeOwnPicture() const
+OwnImageTaker CDeviceDH::takeOwnImage() const
 {
-    return [libraries = m_libraries](const OwnPictureOrder &order, const StepControl &control) {
-        return PictureOperations::takeOwnPicture(libraries, order, control);
+    return [libraries = m_libraries](const OwnImageOrder &order, const StepControl &control) {
+        return ImageOperations::takeOwnImage(libraries, order, control);
     };
 }
 
@@ -86,7 +85,7 @@ CDeviceDH::~CDeviceDH()
     m_upgrades->requestEnd();
     m_engine->requestEnd();
     m_search->requestEnd();
-    m_pictures->cancelSnapshots();
+    m_images->cancelSnapshots();
     m_upgrades->end();
     m_threads->clear();
     m_session->end();
@@ -108,7 +107,7 @@ void CDeviceDH::factoryEnds()
 {
     m_upgrades->requestEnd();
     m_engine->requestEnd();
-    m_pictures->cancelSnapshots();
+    m_images->cancelSnapshots();
     m_upgrades->end();
     m_upgrades->noteDocuments();
     m_upgrades->waitForDocuments();
@@ -492,15 +491,15 @@ DeviceStepMaker CDeviceDH::encodeCopy()
 
 void CDeviceDH::snapPictureToFile(const QString &kind, const QVariant &channelNum, const QString &address)
 {
-    m_pictures->takeSnapshots(kind, channelNum.toInt(), address);
+    m_images->takeSnapshots(kind, channelNum.toInt(), address);
 }
 
 QList<DeviceStep> CDeviceDH::snapshotSteps(const QString &address)
 {
-    return m_pictures->snapshotSteps(address);
+    return m_images->snapshotSteps(address);
 }
 
-DeviceStep CDeviceDH::pictureStep(const PictureOrder &order)
+DeviceStep CDeviceDH::imageStep(const ImageOrder &order)
 {
-    return m_pictures->pictureStep(order);
+    return m_images->imageStep(order);
 }

@@ -22,7 +22,7 @@ class DocumentUpgrades;
 class EncodeCopies;
 class FoundDevices;
 class DeviceReservations;
-class PictureOperations;
+class ImageOperations;
 class RowOperations;
 class RowUpgrades;
 class SessionLogins;
@@ -142,10 +142,10 @@ public:
     void copyConfigToDevice(const QStringList &devlist) override;
     DeviceStepMaker encodeCopy() override;
 
-    // PictureOperations
+    // ImageOperations
     void snapPictureToFile(const QString &kind, const QVariant &channelNum, const QString &address) override;
     QList<DeviceStep> snapshotSteps(const QString &address) override;
-    DeviceStep pictureStep(const PictureOrder &order) override;
+    DeviceStep imageStep(const ImageOrder &order) override;
 
     /// Cancels running snapshots and upgrades, and waits for result files of upgrade documents.
     void factoryEnds() override;
@@ -171,7 +171,7 @@ public:
 
 private:
     /// A function that takes one snapshot with a given login.
-    [[nodiscard]] OwnPictureTaker takeOwnPicture() const;
+    [[nodiscard]] OwnImageTaker takeOwnImage() const;
     /// Upgrade check by row name.
     [[nodiscard]] UpgradeCheck isUpgrading() const;
     /// Upgrade check by address and port.
@@ -196,7 +196,7 @@ private:
     const std::unique_ptr<SessionLogins> m_sessionLogins;
     const std::unique_ptr<ConfigurationPages> m_pages;
     const std::unique_ptr<EncodeCopies> m_encodeCopies;
-    const std::unique_ptr<PictureOperations> m_pictures;
+    const std::unique_ptr<ImageOperations> m_images;
     std::unique_ptr<SearchOperations> m_search;     ///< destroyed after the network library is released
     std::unique_ptr<AgentListener> m_agentListener; ///< destroyed first: no further events
     QString m_importError;                          ///< of the last device list or upgrade document

@@ -108,7 +108,7 @@ QList<int> CDeviceBase::setUpgradeFiles(const QStringList &macs, const QString &
     return QList<int>(macs.size(), UpgradeTools::NotSupported);
 }
 
-DeviceStep CDeviceBase::pictureStep(const PictureOrder &)
+DeviceStep CDeviceBase::imageStep(const ImageOrder &)
 {
     return unsupportedStep();
 }

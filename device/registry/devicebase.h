@@ -1,7 +1,7 @@
 #pragma once
 
+#include "device/registry/deviceimages.h"
 #include "device/registry/deviceimport.h"
-#include "device/registry/devicepictures.h"
 #include "device/registry/ownsession.h"
 #include "device/registry/pagestep.h"
 #include "device/registry/upgradeplan.h"
@@ -329,7 +329,7 @@ public:
 
     /// Logs in to a device with the account of accountOf(), takes images of its channels one after another,
     /// and logs out. The current session is not affected.
-    virtual DeviceStep pictureStep(const PictureOrder &order);
+    virtual DeviceStep imageStep(const ImageOrder &order);
     /// Logs in to a device in a separate session, for live video. Steps for several devices may run at the
     /// same time.
     virtual OwnSessionStep ownSessionStep(const OwnSessionOrder &order);

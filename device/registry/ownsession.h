@@ -11,14 +11,14 @@
 #include <memory>
 
 /// A snapshot of a channel.
-struct OwnPicture
+struct OwnImage
 {
     QString path = {};    ///< "file:///" URL; empty on failure
     QString message = {}; ///< reason of the failure in the user's language
 };
 
 /// A snapshot to be taken in a session.
-struct OwnPictureOrder
+struct OwnImageOrder
 {
     qint64 handle = 0; ///< of the session
     int channelCount = 0;
@@ -27,7 +27,7 @@ struct OwnPictureOrder
 };
 
 /// Takes a snapshot. Any thread; blocks it until the end.
-using OwnPictureTaker = std::function<OwnPicture(const OwnPictureOrder &order, const StepControl &control)>;
+using OwnImageTaker = std::function<OwnImage(const OwnImageOrder &order, const StepControl &control)>;
 
 /// A session that lasts as long as this object. The destructor does not block.
 class OwnSession
@@ -43,8 +43,8 @@ public:
 
     /// Takes a snapshot of a channel (from 0) into "snap/<folder>" of the working directory. Any thread
     /// except the main thread; blocks it until the end.
-    [[nodiscard]] virtual OwnPicture takePicture(int channel, const QString &folder,
-                                                 const StepControl &control) const = 0;
+    [[nodiscard]] virtual OwnImage takeImage(int channel, const QString &folder,
+                                             const StepControl &control) const = 0;
 };
 
 /// A request for a session.

@@ -8,7 +8,7 @@
 LiveSession::~LiveSession()
 {
     m_stop.request_stop();
-    m_pictureStop.request_stop();
+    m_imageStop.request_stop();
 }
 
 CDeviceFactory *LiveSession::deviceFactory() const
@@ -47,28 +47,28 @@ void LiveSession::open(const QString &ipport, const QString &account, const QStr
         });
 }
 
-void LiveSession::takePicture(int channel, const QString &folder)
+void LiveSession::takeImage(int channel, const QString &folder)
 {
     if (!m_deviceFactory || !m_session)
         return;
-    const auto picture = std::make_shared<OwnPicture>();
+    const auto image = std::make_shared<OwnImage>();
     m_deviceFactory->backEnd(dhFamily)->runForPage(
-        [session = m_session, picture, channel, folder](const StepControl &control) {
-            *picture = session->takePicture(channel, folder, control);
+        [session = m_session, image, channel, folder](const StepControl &control) {
+            *image = session->takeImage(channel, folder, control);
             return PageOutcome();
         },
-        m_pictureStop.get_token(),
-        [self = QPointer(this), stop = m_pictureStop.get_token(), picture, channel](const PageOutcome &) {
+        m_imageStop.get_token(),
+        [self = QPointer(this), stop = m_imageStop.get_token(), image, channel](const PageOutcome &) {
             if (self && !stop.stop_requested())
-                Q_EMIT self->pictureTaken(channel, picture->path, picture->message);
+                Q_EMIT self->imageTaken(channel, image->path, image->message);
         });
 }
 
 void LiveSession::close()
 {
     m_stop.request_stop();
-    m_pictureStop.request_stop();
-    m_pictureStop = std::stop_source();
+    m_imageStop.request_stop();
+    m_imageStop = std::stop_source();
     ++m_number;
     setSession(nullptr);
 }

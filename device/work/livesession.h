@@ -42,10 +42,10 @@ public:
     Q_INVOKABLE void open(const QString &ipport, const QString &account, const QString &password);
 
     /// Saves an image of a channel (from 0) of the present session to `folder`, see OwnSession.
-    /// pictureTaken() follows, unless the session is closed before. Without a session, nothing happens.
-    Q_INVOKABLE void takePicture(int channel, const QString &folder);
+    /// imageTaken() follows, unless the session is closed before. Without a session, nothing happens.
+    Q_INVOKABLE void takeImage(int channel, const QString &folder);
 
-    /// Logs out and cancels open() and takePicture().
+    /// Logs out and cancels open() and takeImage().
     Q_INVOKABLE void close();
 
 Q_SIGNALS:
@@ -55,7 +55,7 @@ Q_SIGNALS:
     /// new login, maps with the keys of ChannelKey; empty if the present session is kept.
     void ended(int result, const QVariantList &channels);
     /// `path` is a "file:///" URL, empty on failure; `message` is then the reason in the user's language.
-    void pictureTaken(int channel, const QString &path, const QString &message);
+    void imageTaken(int channel, const QString &path, const QString &message);
 
 private:
     void take(const OwnSessionOffer &offer);
@@ -63,7 +63,7 @@ private:
 
     QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before this object
     std::stop_source m_stop;
-    std::stop_source m_pictureStop;
+    std::stop_source m_imageStop;
     std::shared_ptr<OwnSession> m_session;
     int m_number = 0; ///< of the latest open(); results with another number are dropped
 };

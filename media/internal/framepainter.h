@@ -51,7 +51,7 @@ private:
     int m_internalFormat = 0; ///< of the textures
     unsigned m_format = 0;    ///< of the uploaded bytes
     QSize m_size;
-    sdk::PictureColour m_colour = sdk::PictureColour::Bt601Limited;
+    sdk::FrameColour m_colour = sdk::FrameColour::Bt601Limited;
     std::array<unsigned, 3> m_textures = {}; ///< Y, U, V; 0 for none
     QOpenGLShaderProgram m_program;
     QOpenGLVertexArrayObject m_vertexArray;

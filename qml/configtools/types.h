@@ -37,7 +37,7 @@
 #include "device/work/devicework.h"
 #include "device/work/livesession.h"
 #include "device/work/sessionwork.h"
-#include "gallery/picturegallery.h"
+#include "gallery/imagegallery.h"
 
 #include <QtQml/qqml.h>
 
@@ -206,11 +206,11 @@ struct LiveSessionForeign
     QML_NAMED_ELEMENT(LiveSession)
 };
 
-struct PictureGalleryForeign
+struct ImageGalleryForeign
 {
     Q_GADGET
-    QML_FOREIGN(PictureGallery)
-    QML_NAMED_ELEMENT(PictureGallery)
+    QML_FOREIGN(ImageGallery)
+    QML_NAMED_ELEMENT(ImageGallery)
 };
 
 struct FailedMarksForeign

@@ -2,7 +2,7 @@
 
 #include "sdk/ffmpeg/internal/decoderport.h"
 #include "sdk/ffmpeg/internal/logging.h"
-#include "sdk/ffmpeg/internal/savedpicture.h"
+#include "sdk/ffmpeg/internal/savedframe.h"
 #include "sdk/ffmpeg/internal/trackdecoder.h"
 
 #include <QFile>
@@ -110,16 +110,16 @@ bool FfmpegDecoderLibrary::DecoderGetStatus(std::int32_t port, DecoderStatus &st
     return found != nullptr;
 }
 
-bool FfmpegDecoderLibrary::DecoderSaveFrame(const std::uint8_t *picture, std::int32_t width,
-                                            std::int32_t height, SavedPictureType type, std::int32_t quality,
-                                            const char *fileName, PictureColour colour)
+bool FfmpegDecoderLibrary::DecoderSaveFrame(const std::uint8_t *frame, std::int32_t width,
+                                            std::int32_t height, SavedImageType type, std::int32_t quality,
+                                            const char *fileName, FrameColour colour)
 {
     constexpr std::int32_t bestQuality = 100;
-    if (!picture || !isUsableSize(width, height) || type != SavedPictureType::Jpeg || quality < 1 ||
+    if (!frame || !isUsableSize(width, height) || type != SavedImageType::Jpeg || quality < 1 ||
         quality > bestQuality || !fileName) {
         return false;
     }
-    return savePicture(picture, width, height, colour, quality, QFile::decodeName(fileName));
+    return saveFrame(frame, width, height, colour, quality, QFile::decodeName(fileName));
 }
 
 std::shared_ptr<DecoderPort> FfmpegDecoderLibrary::portOf(std::int32_t number) const

@@ -43,9 +43,9 @@ public:
     bool DecoderCloseStream(std::int32_t port) override;
     bool DecoderFreePort(std::int32_t port) override;
     bool DecoderGetStatus(std::int32_t port, DecoderStatus &status) override;
-    bool DecoderSaveFrame(const std::uint8_t *picture, std::int32_t width, std::int32_t height,
-                          SavedPictureType type, std::int32_t quality, const char *fileName,
-                          PictureColour colour) override;
+    bool DecoderSaveFrame(const std::uint8_t *frame, std::int32_t width, std::int32_t height,
+                          SavedImageType type, std::int32_t quality, const char *fileName,
+                          FrameColour colour) override;
 
 private:
     [[nodiscard]] std::shared_ptr<DecoderPort> portOf(std::int32_t number) const;

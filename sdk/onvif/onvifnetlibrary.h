@@ -123,7 +123,7 @@ private:
 
     LiveStreams m_streams;
     FirmwareUploads m_uploads{m_certificates};
-    QThreadPool m_keyPictureRequests;
+    QThreadPool m_keyFrameRequests;
 };
 
 } // namespace sdk::onvif

@@ -10,7 +10,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto keyPictureWait = 2s;
+constexpr auto keyFrameWait = 2s;
 
 /// The profile of a stream of a channel; empty if there is none.
 std::string profileOf(const OnvifSession &session, std::int32_t channel, LiveStreamKind kind)
@@ -101,8 +101,8 @@ bool OnvifNetLibrary::NetStreamFollowUp(std::int64_t streamHandle, std::int32_t,
     // The request for a key frame is sent in the background: without it the stream starts with the next
     // regular key frame.
     if (const std::shared_ptr<OnvifSession> session = this->session(stream->loginHandle())) {
-        m_keyPictureRequests.start([session, profile = stream->profile()] {
-            if (auto media = session->media(std::chrono::steady_clock::now() + keyPictureWait))
+        m_keyFrameRequests.start([session, profile = stream->profile()] {
+            if (auto media = session->media(std::chrono::steady_clock::now() + keyFrameWait))
                 (void)media->requestKeyFrame(profile);
         });
     }

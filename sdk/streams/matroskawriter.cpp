@@ -20,26 +20,25 @@ AvPointer<AVCodecParameters> parametersOf(const AVCodecContext &encoder)
 
 } // namespace
 
-std::unique_ptr<MatroskaWriter> MatroskaWriter::open(const Track &picture, const Track *sound)
+std::unique_ptr<MatroskaWriter> MatroskaWriter::open(const Track &video, const Track *sound)
 {
     // Not make_unique: the constructor is private.
     std::unique_ptr<MatroskaWriter> writer(new MatroskaWriter);
-    if (!writer->openContainer() || !writer->addTrack(picture) || (sound && !writer->addTrack(*sound)) ||
+    if (!writer->openContainer() || !writer->addTrack(video) || (sound && !writer->addTrack(*sound)) ||
         !writer->writeHeader()) {
         return nullptr;
     }
     return writer;
 }
 
-std::unique_ptr<MatroskaWriter> MatroskaWriter::open(const AVCodecContext &picture,
-                                                     const AVCodecContext *sound)
+std::unique_ptr<MatroskaWriter> MatroskaWriter::open(const AVCodecContext &video, const AVCodecContext *sound)
 {
-    const AvPointer<AVCodecParameters> pictureParameters = parametersOf(picture);
+    const AvPointer<AVCodecParameters> videoParameters = parametersOf(video);
     const AvPointer<AVCodecParameters> soundParameters = sound ? parametersOf(*sound) : nullptr;
-    if (!pictureParameters || (sound && !soundParameters))
+    if (!videoParameters || (sound && !soundParameters))
         return nullptr;
     const Track soundOne = {soundParameters.get()};
-    return open({pictureParameters.get(), picture.framerate}, sound ? &soundOne : nullptr);
+    return open({videoParameters.get(), video.framerate}, sound ? &soundOne : nullptr);
 }
 
 MatroskaWriter::~MatroskaWriter()
@@ -78,7 +77,7 @@ bool MatroskaWriter::addTrack(const Track &track)
         return false;
     stream->codecpar->codec_tag = 0; // the container has its own
     stream->time_base = millisecond;
-    stream->avg_frame_rate = track.pictureRate;
+    stream->avg_frame_rate = track.frameRate;
     // The initial samples of an encoder are dropped with the other data before the first frame.
     stream->codecpar->initial_padding = 0;
     return true;
@@ -95,7 +94,7 @@ bool MatroskaWriter::writeHeader()
 
 bool MatroskaWriter::write(const AVPacket &packet)
 {
-    if (!m_hasBegun && (packet.stream_index != pictureTrack || (packet.flags & AV_PKT_FLAG_KEY) == 0))
+    if (!m_hasBegun && (packet.stream_index != videoTrack || (packet.flags & AV_PKT_FLAG_KEY) == 0))
         return true;
     if (!m_hasBegun)
         m_begin = av_rescale_q(packet.pts, packet.time_base, microsecond);

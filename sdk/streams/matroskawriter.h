@@ -11,7 +11,7 @@
 namespace sdk::streams {
 
 /// AVPacket::stream_index of the packets of a writer.
-inline constexpr int pictureTrack = 0;
+inline constexpr int videoTrack = 0;
 inline constexpr int soundTrack = 1;
 
 /// The container of every live stream of this application: unseekable, endless Matroska, in which every
@@ -24,15 +24,15 @@ public:
     struct Track
     {
         const AVCodecParameters *codec = nullptr;
-        AVRational pictureRate = {0, 1}; ///< 0 if unknown
+        AVRational frameRate = {0, 1}; ///< 0 if unknown
     };
 
     /// `sound` is null for a stream without sound. The header is available by takeBytes() immediately.
     /// Returns null on failure.
-    [[nodiscard]] static std::unique_ptr<MatroskaWriter> open(const Track &picture, const Track *sound);
+    [[nodiscard]] static std::unique_ptr<MatroskaWriter> open(const Track &video, const Track *sound);
 
     /// The same with the parameters of encoders.
-    [[nodiscard]] static std::unique_ptr<MatroskaWriter> open(const AVCodecContext &picture,
+    [[nodiscard]] static std::unique_ptr<MatroskaWriter> open(const AVCodecContext &video,
                                                               const AVCodecContext *sound);
     ~MatroskaWriter();
     MatroskaWriter(const MatroskaWriter &) = delete;

@@ -14,7 +14,7 @@ QByteArray source(const QByteArray &name)
            "max-bytes=0 max-time=0 leaky-type=downstream ";
 }
 
-QByteArray picturePayloader(StreamCodec codec)
+QByteArray videoPayloader(StreamCodec codec)
 {
     switch (codec) {
     case StreamCodec::H264:
@@ -53,13 +53,13 @@ bool hasStreamedSound(const StreamSettings &settings)
 
 QByteArray pipelineText(const StreamSettings &settings)
 {
-    QByteArray text = "( " + source("pictures") + "! " + picturePayloader(settings.codec) + " name=pay0 ";
+    QByteArray text = "( " + source("video") + "! " + videoPayloader(settings.codec) + " name=pay0 ";
     if (hasStreamedSound(settings))
         text += source("sound") + "! " + soundPayloader(settings.sound) + " name=pay1 ";
     return text + ")";
 }
 
-QByteArray pictureCaps(const StreamSettings &settings)
+QByteArray videoCaps(const StreamSettings &settings)
 {
     switch (settings.codec) {
     case StreamCodec::H264:

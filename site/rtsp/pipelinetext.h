@@ -7,7 +7,7 @@
 
 namespace site {
 
-/// A pipeline description with the sources "pictures" and, for a stream with sound, "sound".
+/// A pipeline description with the sources "video" and, for a stream with sound, "sound".
 [[nodiscard]] QByteArray pipelineText(const sdk::demo::StreamSettings &settings);
 
 /// True if the sound of the settings can be streamed.
@@ -16,7 +16,7 @@ namespace site {
 /// The caps of the source "sound". `head` is the header of its codec.
 [[nodiscard]] QByteArray soundCaps(const sdk::demo::StreamSettings &settings, const QByteArray &head);
 
-/// The caps of the source "pictures".
-[[nodiscard]] QByteArray pictureCaps(const sdk::demo::StreamSettings &settings);
+/// The caps of the source "video".
+[[nodiscard]] QByteArray videoCaps(const sdk::demo::StreamSettings &settings);
 
 } // namespace site

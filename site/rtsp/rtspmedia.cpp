@@ -69,20 +69,20 @@ void configure(GstRTSPMediaFactory *factory, GstRTSPMedia *media)
     const site::RtspDevice &served = *reinterpret_cast<SiteRtspFactory *>(factory)->device;
     GstElement *element = gst_rtsp_media_get_element(media);
     const auto *order = static_cast<const MediaOrder *>(g_object_get_data(G_OBJECT(element), mediaKey));
-    GstElement *pictures = gst_bin_get_by_name_recurse_up(GST_BIN(element), "pictures");
+    GstElement *video = gst_bin_get_by_name_recurse_up(GST_BIN(element), "video");
     GstElement *sound = gst_bin_get_by_name_recurse_up(GST_BIN(element), "sound");
     site::StreamFeeder::Order feeding;
     feeding.mac = served.mac;
     feeding.stream = order->stream;
     feeding.settings = order->settings;
-    feeding.pictures = GST_APP_SRC(pictures);
+    feeding.video = GST_APP_SRC(video);
     feeding.sound = sound ? GST_APP_SRC(sound) : nullptr;
     feeding.dropped = served.closeClientsSoon;
     auto *feeder = new site::StreamFeeder(served.context.site, served.context.keyFrames, feeding);
     g_object_set_data_full(G_OBJECT(media), mediaKey, feeder,
                            [](gpointer data) { delete static_cast<site::StreamFeeder *>(data); });
     g_signal_connect(media, "unprepared", G_CALLBACK(unprepared), nullptr);
-    gst_object_unref(pictures);
+    gst_object_unref(video);
     if (sound)
         gst_object_unref(sound);
     gst_object_unref(element);

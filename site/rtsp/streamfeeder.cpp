@@ -37,7 +37,7 @@ bool isSameKind(const StreamSettings &one, const StreamSettings &other)
 StreamFeeder::StreamFeeder(DemoSite &site, KeyFrames &keyFrames, Order order)
     : m_site(site), m_keyFrames(keyFrames), m_order(std::move(order))
 {
-    gst_object_ref(m_order.pictures);
+    gst_object_ref(m_order.video);
     if (m_order.sound)
         gst_object_ref(m_order.sound);
     m_thread = std::jthread([this](const std::stop_token &stop) { run(stop); });
@@ -46,7 +46,7 @@ StreamFeeder::StreamFeeder(DemoSite &site, KeyFrames &keyFrames, Order order)
 StreamFeeder::~StreamFeeder()
 {
     stop();
-    gst_object_unref(m_order.pictures);
+    gst_object_unref(m_order.video);
     if (m_order.sound)
         gst_object_unref(m_order.sound);
 }
@@ -75,14 +75,15 @@ void StreamFeeder::run(const std::stop_token &stop)
 
 bool StreamFeeder::feedBeginning(LiveProduction &production)
 {
-    setCaps(m_order.pictures, pictureCaps(production.settings()));
+    setCaps(m_order.video, videoCaps(production.settings()));
     if (m_order.sound)
         setCaps(m_order.sound, soundCaps(production.settings(), production.soundHead()));
     // A frame of sound may be as long as several frames of video.
-    constexpr int mostPictures = 50;
-    for (; m_picture == 0 || (m_order.sound && !m_hasSound && m_picture < mostPictures); ++m_picture) {
+    constexpr int mostFrames = 50;
+    for (; m_frameNumber == 0 || (m_order.sound && !m_hasSound && m_frameNumber < mostFrames);
+         ++m_frameNumber) {
         EncodedPackets packets;
-        if (!production.encodeFrame(m_picture, deviceTime(), m_picture == 0, packets) ||
+        if (!production.encodeFrame(m_frameNumber, deviceTime(), m_frameNumber == 0, packets) ||
             !feed(production, packets))
             return false;
     }
@@ -92,20 +93,20 @@ bool StreamFeeder::feedBeginning(LiveProduction &production)
 void StreamFeeder::feedWhilePlayed(std::unique_ptr<LiveProduction> production, const std::stop_token &stop)
 {
     int requested = -1; // the first frame of a client is a key frame
-    int pictures = 0;
+    int frames = 0;
     std::int64_t begin = m_site.clock().now();
-    std::int64_t beginPicture = m_picture;
+    std::int64_t beginFrame = m_frameNumber;
     takePipelineTime(production->settings().frameRate);
     while (!stop.stop_requested()) {
         const double rate = production->settings().frameRate;
-        const auto due =
-            begin + std::llround(static_cast<double>(m_picture - beginPicture) * millisecondsOfSecond / rate);
+        const auto due = begin + std::llround(static_cast<double>(m_frameNumber - beginFrame) *
+                                              millisecondsOfSecond / rate);
         if (!m_site.clock().waitUntil(due, stop))
             return;
         const std::optional<SceneDevice> device = m_site.device(m_order.mac);
         if (!device || !device->isListening(m_site.clock().now()) || device->isUninitialised())
             return;
-        if (const auto drop = device->fault(Fault::DropsStreamAfter); drop && pictures >= drop->number) {
+        if (const auto drop = device->fault(Fault::DropsStreamAfter); drop && frames >= drop->number) {
             m_order.dropped();
             return;
         }
@@ -117,31 +118,31 @@ void StreamFeeder::feedWhilePlayed(std::unique_ptr<LiveProduction> production, c
                 LiveProduction::start(*device, m_order.stream.channel, m_order.stream.kind, *settings);
             if (!production)
                 return;
-            setCaps(m_order.pictures, pictureCaps(*settings));
+            setCaps(m_order.video, videoCaps(*settings));
             begin = due;
-            beginPicture = m_picture = 0;
+            beginFrame = m_frameNumber = 0;
             takePipelineTime(settings->frameRate);
             requested = -1;
         }
         const int count = m_keyFrames.count(m_order.mac, m_order.stream);
         EncodedPackets packets;
-        if (!production->encodeFrame(m_picture, deviceTime(), count != requested, packets) ||
+        if (!production->encodeFrame(m_frameNumber, deviceTime(), count != requested, packets) ||
             !feed(*production, packets))
             return;
         requested = count;
-        ++pictures;
+        ++frames;
         // Frames that cannot be encoded in time are skipped.
         const double late = static_cast<double>(m_site.clock().now() - due) * rate / millisecondsOfSecond;
-        m_picture += 1 + (late > rate / 4 ? static_cast<std::int64_t>(late) : 0);
+        m_frameNumber += 1 + (late > rate / 4 ? static_cast<std::int64_t>(late) : 0);
     }
 }
 
 bool StreamFeeder::feed(const LiveProduction &production, const EncodedPackets &packets)
 {
     for (const AvPointer<AVPacket> &packet : packets) {
-        if (packet->stream_index == pictureTrack) {
+        if (packet->stream_index == videoTrack) {
             const bool isKey = (packet->flags & AV_PKT_FLAG_KEY) != 0;
-            if (!push(m_order.pictures, *packet, isKey ? production.pictureHead() : QByteArray()))
+            if (!push(m_order.video, *packet, isKey ? production.videoHead() : QByteArray()))
                 return false;
         } else if (m_order.sound) {
             m_hasSound = true;
@@ -166,8 +167,8 @@ bool StreamFeeder::push(GstAppSrc *destination, const AVPacket &packet, const QB
 
 void StreamFeeder::takePipelineTime(double frameRate)
 {
-    const GstClockTime time = gst_element_get_current_running_time(GST_ELEMENT(m_order.pictures));
-    const auto made = std::llround(static_cast<double>(m_picture) * nanosecondsOfSecond / frameRate);
+    const GstClockTime time = gst_element_get_current_running_time(GST_ELEMENT(m_order.video));
+    const auto made = std::llround(static_cast<double>(m_frameNumber) * nanosecondsOfSecond / frameRate);
     m_offset = (GST_CLOCK_TIME_IS_VALID(time) ? static_cast<std::int64_t>(time) : 0) - made;
 }
 
@@ -179,7 +180,7 @@ std::int64_t StreamFeeder::deviceTime() const
 
 void StreamFeeder::endStreams() const
 {
-    gst_app_src_end_of_stream(m_order.pictures);
+    gst_app_src_end_of_stream(m_order.video);
     if (m_order.sound)
         gst_app_src_end_of_stream(m_order.sound);
 }

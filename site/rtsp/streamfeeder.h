@@ -31,7 +31,7 @@ public:
         QString mac;
         MediaStream stream;
         sdk::demo::StreamSettings settings; ///< of the pipeline
-        GstAppSrc *pictures = nullptr;      ///< takes a reference
+        GstAppSrc *video = nullptr;         ///< takes a reference
         GstAppSrc *sound = nullptr;         ///< null for a stream without sound; takes a reference
         std::function<void()> dropped; ///< called on the feeder's thread when the device drops the stream
     };
@@ -60,10 +60,10 @@ private:
     sdk::demo::DemoSite &m_site;
     KeyFrames &m_keyFrames;
     const Order m_order;
-    std::int64_t m_picture = 0; ///< number of the next frame
-    std::int64_t m_offset = 0;  ///< in ns: the pipeline's time minus the time of the source
-    bool m_hasSound = false;    ///< sound has been fed
-    std::jthread m_thread;      // the last member: it uses the others
+    std::int64_t m_frameNumber = 0; ///< number of the next frame
+    std::int64_t m_offset = 0;      ///< in ns: the pipeline's time minus the time of the source
+    bool m_hasSound = false;        ///< sound has been fed
+    std::jthread m_thread;          // the last member: it uses the others
 };
 
 } // namespace site

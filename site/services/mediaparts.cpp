@@ -35,12 +35,12 @@ void writeRange(XmlElement parent, const char *name, double minimum, double maxi
     range.add("tt:Max", maximum);
 }
 
-sdk::PictureSize largestSize(const SceneDevice &device)
+sdk::FrameSize largestSize(const SceneDevice &device)
 {
     const StreamAbilities abilities = streamAbilities(device, sdk::StreamKind::MainNormal);
-    sdk::PictureSize largest = {};
+    sdk::FrameSize largest = {};
     for (const int compression : abilities.compressions) {
-        for (const sdk::PictureSize size : abilities.sizesOf(compression)) {
+        for (const sdk::FrameSize size : abilities.sizesOf(compression)) {
             if (size.width * size.height > largest.width * largest.height)
                 largest = size;
         }
@@ -66,7 +66,7 @@ QString profileTitle(const SceneDevice &device, const MediaStream &stream)
 
 void writeVideoSourceConfiguration(XmlElement element, const ServiceCall &call, int channel)
 {
-    const sdk::PictureSize size = largestSize(call.device);
+    const sdk::FrameSize size = largestSize(call.device);
     element.attribute("token", videoSourceConfigurationToken(channel));
     element.add("tt:Name", channelName(call.device, channel));
     element.add("tt:UseCount", 2);

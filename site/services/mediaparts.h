@@ -18,7 +18,7 @@ void writeVideoSourceConfiguration(XmlElement element, const ServiceCall &call, 
 void writeAudioSourceConfiguration(XmlElement element, const ServiceCall &call, int channel);
 
 /// The largest frame size of the main streams of a device.
-[[nodiscard]] sdk::PictureSize largestSize(const sdk::demo::SceneDevice &device);
+[[nodiscard]] sdk::FrameSize largestSize(const sdk::demo::SceneDevice &device);
 
 /// The name of a channel.
 [[nodiscard]] QString channelName(const sdk::demo::SceneDevice &device, int channel);

@@ -114,7 +114,7 @@ ServiceResult getProfile(ServiceCall &call)
 
 ServiceResult getVideoSources(ServiceCall &call)
 {
-    const sdk::PictureSize size = largestSize(call.device);
+    const sdk::FrameSize size = largestSize(call.device);
     const int rate = streamAbilities(call.device, sdk::StreamKind::MainNormal).maximumFrameRate;
     for (int channel = 0; channel < channelCount(call.device); ++channel) {
         XmlElement source = call.response.add("trt:VideoSources");

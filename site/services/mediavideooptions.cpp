@@ -33,7 +33,7 @@ void writeCodec(XmlElement options, const char *name, const StreamAbilities &abi
 {
     XmlElement codec = options.add(name);
     const std::string_view kind = name;
-    for (const sdk::PictureSize size : abilities.sizesOf(compression)) {
+    for (const sdk::FrameSize size : abilities.sizesOf(compression)) {
         XmlElement resolution = codec.add("tt:ResolutionsAvailable");
         resolution.add("tt:Width", size.width);
         resolution.add("tt:Height", size.height);
@@ -114,7 +114,7 @@ void writeMedia2VideoOptions(XmlElement response, const SceneDevice &device, con
         options.attribute("ConstantBitRateSupported", true);
         options.add("tt:Encoding", media2Codec(compression));
         writeRange(options, "tt:QualityRange", 1, bestQuality);
-        for (const sdk::PictureSize size : abilities.sizesOf(compression)) {
+        for (const sdk::FrameSize size : abilities.sizesOf(compression)) {
             XmlElement resolution = options.add("tt:ResolutionsAvailable");
             resolution.add("tt:Width", size.width);
             resolution.add("tt:Height", size.height);

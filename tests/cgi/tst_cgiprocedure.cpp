@@ -37,7 +37,7 @@ CgiLimits shortLimits()
     CgiLimits limits;
     limits.first.total = 1s; // sufficient for a response on a busy machine
     limits.text.total = 1s;
-    limits.picture.total = 1s;
+    limits.image.total = 1s;
     limits.recording = {.slowestRate = 1024, .slowTime = 1s};
     return limits;
 }
@@ -219,14 +219,14 @@ private Q_SLOTS:
             else
                 exchange.respond("404 Not Found", "Content-Type: image/jpeg\r\n", "missing");
         });
-        const QString picture = m_folder.filePath("20260309070501.jpg");
-        QCOMPARE(run(server.url("/picture")), picture);
+        const QString image = m_folder.filePath("20260309070501.jpg");
+        QCOMPARE(run(server.url("/picture")), image);
         const QString recording = m_folder.filePath("20260309070501.dav");
         QCOMPARE(run(server.url("/recording")), recording);
         QCOMPARE(fileContents(recording), QByteArray(300'000, 'd'));
         QCOMPARE(run(server.url("/missing")), "Error:服务器连接失败");
         QCOMPARE(savedFiles().size(), 2);
-        QCOMPARE(fileContents(picture), content); // as it was
+        QCOMPARE(fileContents(image), content); // as it was
     }
 
     void forbiddenCommandsAreNotSent()

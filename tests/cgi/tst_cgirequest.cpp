@@ -55,14 +55,14 @@ private Q_SLOTS:
             addRow(type, QByteArray("HTTP/1.1 200 OK\r\nContent-Type: ") + type + "\r\n\r\n", kind, ending);
         };
         row("text/plain;charset=utf-8", ResponseKind::Text, "");
-        row("image/jpeg", ResponseKind::Picture, ".jpg");
-        row("image/png", ResponseKind::Picture, ".png");
-        row("image/svg+xml", ResponseKind::Picture, ".svg");
-        row("image/webp", ResponseKind::Picture, ".webp");
-        row("image/tiff", ResponseKind::Picture, ".jpg");
+        row("image/jpeg", ResponseKind::Image, ".jpg");
+        row("image/png", ResponseKind::Image, ".png");
+        row("image/svg+xml", ResponseKind::Image, ".svg");
+        row("image/webp", ResponseKind::Image, ".webp");
+        row("image/tiff", ResponseKind::Image, ".jpg");
         row("Image/PNG", ResponseKind::Text, "");
         row("application/octet-stream", ResponseKind::Recording, ".dav");
-        row("multipart/mixed; image/png; octet-stream", ResponseKind::Picture, ".png");
+        row("multipart/mixed; image/png; octet-stream", ResponseKind::Image, ".png");
     }
 
     void choosesTheFileByTheHeaders()

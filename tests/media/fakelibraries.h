@@ -106,18 +106,18 @@ public:
                   .audioCodec = {"AAC"},
                   .waitingBytes = 1200,
                   .damages = 2,
-                  .skippedPictures = 3};
+                  .skippedFrames = 3};
         return true;
     }
-    bool DecoderSaveFrame(const std::uint8_t *picture, std::int32_t width, std::int32_t height,
-                          sdk::SavedPictureType type, std::int32_t quality, const char *fileName,
-                          sdk::PictureColour colour) override
+    bool DecoderSaveFrame(const std::uint8_t *frame, std::int32_t width, std::int32_t height,
+                          sdk::SavedImageType type, std::int32_t quality, const char *fileName,
+                          sdk::FrameColour colour) override
     {
-        const QString arguments = QString("%1, %2x%3, %4, %5, %6, %7").arg(picture ? picture[0] : -1);
+        const QString arguments = QString("%1, %2x%3, %4, %5, %6, %7").arg(frame ? frame[0] : -1);
         return m_calls.add("DecoderSaveFrame",
                            arguments.arg(width).arg(height).arg(int(type)).arg(quality).arg(fileName).arg(
                                int(colour))) &&
-               picture;
+               frame;
     }
 
     /// Calls the handler on the calling thread. Returns false if none is set.
@@ -239,14 +239,14 @@ struct FakeLibraries
 };
 
 /// A frame of one colour, given as Y, U and V.
-struct PlainPicture
+struct PlainFrame
 {
-    PlainPicture(int width, int height, std::uint8_t y, std::uint8_t u, std::uint8_t v,
-                 sdk::PictureColour colour = sdk::PictureColour::Bt601Limited)
+    PlainFrame(int width, int height, std::uint8_t y, std::uint8_t u, std::uint8_t v,
+               sdk::FrameColour colour = sdk::FrameColour::Bt601Limited)
         : information{.width = width,
                       .height = height,
                       .reserved = 0,
-                      .type = sdk::DecodedFrameType::Picture,
+                      .type = sdk::DecodedFrameType::Video,
                       .rate = 25,
                       .colour = colour}
     {

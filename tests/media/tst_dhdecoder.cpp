@@ -41,10 +41,10 @@ private Q_SLOTS:
         CDHDecoder decoder(&observer, fake.decoder, fake.clock);
         QVERIFY(decoder.Start());
         const QByteArray piece(1000, 'x');
-        const PlainPicture picture(4, 2, 16, 128, 128);
-        for (int picturesShown = 0; picturesShown < 60; ++picturesShown) { // 20 per second for three seconds
+        const PlainFrame frame(4, 2, 16, 128, 128);
+        for (int framesShown = 0; framesShown < 60; ++framesShown) { // 20 per second for three seconds
             decoder.inputData(bytesOf(piece.constData()), 1000);
-            fake.decoder->deliver(picture.bytes, picture.information);
+            fake.decoder->deliver(frame.bytes, frame.information);
             fake.clock->advance(50ms);
         }
         StreamFigures figures = decoder.figures();
@@ -77,9 +77,9 @@ private Q_SLOTS:
                 decoder.inputData(bytesOf("x"), 1);
         });
         std::thread decoding([&] {
-            const PlainPicture picture(4, 2, 16, 128, 128);
+            const PlainFrame frame(4, 2, 16, 128, 128);
             while (!ends) {
-                if (fake.decoder->deliver(picture.bytes, picture.information))
+                if (fake.decoder->deliver(frame.bytes, frame.information))
                     ++delivered;
             }
         });

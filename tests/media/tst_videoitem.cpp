@@ -31,7 +31,7 @@ void onAnotherThread(const Call &call)
 
 } // namespace
 
-/// Calls of a live view to the libraries, and its signals. tst_videopicture checks the drawing.
+/// Calls of a live view to the libraries, and its signals. tst_videoframe checks the drawing.
 class TestVideoItem : public QObject
 {
     Q_OBJECT
@@ -39,11 +39,11 @@ private:
     std::unique_ptr<FakeLibraries> m_fake;
     std::unique_ptr<VideoItem> m_item;
 
-    QList<PlainPicture> m_delivered; ///< the decoder's own buffers
+    QList<PlainFrame> m_delivered; ///< the decoder's own buffers
 
-    void deliver(const PlainPicture &picture)
+    void deliver(const PlainFrame &frame)
     {
-        m_delivered.append(picture);
+        m_delivered.append(frame);
         onAnotherThread([this] {
             m_fake->decoder->deliver(m_delivered.constLast().bytes, m_delivered.constLast().information);
         });
@@ -235,27 +235,27 @@ private Q_SLOTS:
     void reportsSizeAndRateOfFrames()
     {
         QSignalSpy info(m_item.get(), &VideoItem::videoInfoChangedSig);
-        QSignalSpy pictures(m_item.get(), &VideoItem::sigVideoDataChanged);
-        QCOMPARE(m_item->pictureSize(), QSize(-1, -1));
+        QSignalSpy frames(m_item.get(), &VideoItem::sigVideoDataChanged);
+        QCOMPARE(m_item->frameSize(), QSize(-1, -1));
         QVERIFY(m_item->start());
         deliver({6, 4, 50, 128, 128});
         deliver({6, 4, 50, 128, 128});
-        QTRY_COMPARE(m_item->pictureSize(), QSize(6, 4));
-        QVERIFY(m_item->hasPicture());
-        QCOMPARE(pictures.size(), 2);
+        QTRY_COMPARE(m_item->frameSize(), QSize(6, 4));
+        QVERIFY(m_item->hasFrame());
+        QCOMPARE(frames.size(), 2);
         QCOMPARE(info.size(), 1);
         deliver({8, 4, 50, 128, 128}); // in mid-stream
-        QTRY_COMPARE(m_item->pictureSize(), QSize(8, 4));
+        QTRY_COMPARE(m_item->frameSize(), QSize(8, 4));
         const QVariantMap figures = m_item->figures();
         QCOMPARE(figures.value("width").toInt(), 8);
         QCOMPARE(figures.value("codec").toString(), QString("H.265"));
         QCOMPARE(figures.value("damages").toInt(), 2);
         m_item->stop();
-        QCOMPARE(m_item->pictureSize(), QSize(0, 0));
-        QVERIFY(!m_item->hasPicture());
+        QCOMPARE(m_item->frameSize(), QSize(0, 0));
+        QVERIFY(!m_item->hasFrame());
         QCOMPARE(info.size(), 3);
         QCoreApplication::processEvents(); // events posted by the decoder
-        QCOMPARE(m_item->pictureSize(), QSize(0, 0));
+        QCOMPARE(m_item->frameSize(), QSize(0, 0));
     }
 
     /// No buffer of the decoder is used after stop() has returned, including that of a frame that arrived
@@ -290,11 +290,11 @@ private Q_SLOTS:
         QFETCH(int, height);
         QFETCH(int, bytes);
         QVERIFY(m_item->start());
-        PlainPicture picture(2, 2, 0, 0, 0);
-        picture.bytes.resize(bytes);
-        picture.information.width = width;
-        picture.information.height = height;
-        deliver(picture);
+        PlainFrame frame(2, 2, 0, 0, 0);
+        frame.bytes.resize(bytes);
+        frame.information.width = width;
+        frame.information.height = height;
+        deliver(frame);
         m_item->currentFrame().read([](const VideoFrame &frame) { QVERIFY(!frame.isComplete()); });
     }
 
@@ -307,11 +307,11 @@ private Q_SLOTS:
             VideoStream stream(m_fake->libraries());
             results.append(stream.start({.loginHandle = 5'000'000'000, .channel = 2}) ? "started" : "failed");
             results.append(stream.saveFrame("x.jpg", 50) ? "saved" : "none yet");
-            PlainPicture incomplete(6, 4, 50, 128, 128);
+            PlainFrame incomplete(6, 4, 50, 128, 128);
             incomplete.bytes.pop_back();
             deliver(incomplete);
             results.append(stream.saveFrame("x.jpg", 50) ? "saved" : "none yet");
-            deliver({6, 4, 50, 128, 128, sdk::PictureColour::Bt709Full});
+            deliver({6, 4, 50, 128, 128, sdk::FrameColour::Bt709Full});
             m_fake->calls.take();
             results.append(stream.saveFrame("x.jpg", 50) ? "saved" : "none yet");
             results.append(m_fake->calls.take());

@@ -73,12 +73,12 @@ void walkOneDevice(Driver &driver)
     expectToast(driver, translated("CgiSender", "URL格式错误。"));
     driver.report(u"cgi-refused"_s, refused);
 
-    const QString picture = send(driver, u"/cgi-bin/snapshot?channel=1"_s);
-    driver.check(picture.endsWith(u".jpg"_s) && !QImage(picture).isNull(), u"an image is saved"_s);
+    const QString image = send(driver, u"/cgi-bin/snapshot?channel=1"_s);
+    driver.check(image.endsWith(u".jpg"_s) && !QImage(image).isNull(), u"an image is saved"_s);
     const QString recording = send(driver, u"/cgi-bin/recording?channel=1&seconds=1"_s);
     driver.check(recording.endsWith(u".dav"_s) && QFileInfo(recording).size() > 0, u"a recording is saved"_s);
-    driver.report(u"cgi-files"_s, QFileInfo(picture).fileName() + u' ' + QFileInfo(recording).fileName());
-    QFile::remove(picture);
+    driver.report(u"cgi-files"_s, QFileInfo(image).fileName() + u' ' + QFileInfo(recording).fileName());
+    QFile::remove(image);
     QFile::remove(recording);
 
     driver.fill(u"cgiCommand0"_s, u"/cgi-bin/dev"_s);

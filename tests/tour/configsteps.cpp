@@ -264,7 +264,7 @@ void walkImage(Driver &driver, sdk::demo::DemoSite &site)
     driver.click(u"configTab1"_s);
     awaitConfigIdle(driver);
     driver.await(u"the live view shows a frame"_s,
-                 [&] { return driver.require(u"liveVideo"_s)->property("hasPicture").toBool(); });
+                 [&] { return driver.require(u"liveVideo"_s)->property("hasFrame").toBool(); });
     driver.report(u"config-image"_s, driver.text(u"liveChannelName"_s));
     slide(driver, u"picture_brightnessSlider"_s, Qt::Key_PageUp, 60);
     pick(driver, u"picture_colorStyle"_s, 2);

@@ -19,10 +19,9 @@ const QStringList chosen = {
     u"192.168.1.101:8800"_s, u"192.168.1.102:8800"_s, refusing, u"192.168.1.104:8800"_s, freshDevice,
     u"192.168.1.121:8801"_s, u"192.168.1.140:8800"_s};
 
-void walkPictures(Driver &gallery)
+void walkImages(Driver &gallery)
 {
-    gallery.await(u"the first image is shown"_s,
-                  [&] { return gallery.find(u"galleryPicture"_s) != nullptr; });
+    gallery.await(u"the first image is shown"_s, [&] { return gallery.find(u"galleryImage"_s) != nullptr; });
     gallery.report(u"fetching"_s, gallery.text(u"gallerySummary"_s));
     gallery.await(
         u"all images are fetched"_s, [&] { return gallery.find(u"galleryAgainButton"_s) != nullptr; }, 60);
@@ -89,7 +88,7 @@ void walkGallery(Driver &driver, sdk::demo::DemoSite &site, const QString &folde
     driver.report(u"gallery-button"_s, u"%1 devices are ticked"_s.arg(chosen.size()));
     driver.click(u"galleryButton"_s);
     Driver gallery(awaitWindow(driver, u"galleryWindow"_s), folder);
-    walkPictures(gallery);
+    walkImages(gallery);
 
     gallery.key(Qt::Key_Return);
     Driver live(awaitWindow(driver, u"liveWindow"_s), folder + u"/live"_s);

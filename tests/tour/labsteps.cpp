@@ -105,7 +105,7 @@ void walkSettings(Driver &driver)
     driver.report(u"image"_s, u"brightness %1"_s.arg(brightness->property("value").toInt()));
 }
 
-void walkLivePicture(Driver &driver)
+void walkLiveView(Driver &driver)
 {
     Driver live(openLive(driver, camera), driver.imageFolder() + u"/live"_s);
     live.await(
@@ -113,10 +113,10 @@ void walkLivePicture(Driver &driver)
         [&] {
             const QQuickItem *player = live.find(u"liveCell0"_s);
             const QQuickItem *video = player ? player->findChild<QQuickItem *>(u"liveVideo"_s) : nullptr;
-            return video && !video->property("pictureSize").toSize().isEmpty();
+            return video && !video->property("frameSize").toSize().isEmpty();
         },
         40);
-    live.report(u"live"_s, u"a live picture"_s);
+    live.report(u"live"_s, u"live video"_s);
     closeLive(driver, live);
 }
 
@@ -144,6 +144,6 @@ void walkLab(Driver &driver)
     walkFirstPassword(driver);
     walkAddress(driver);
     walkSettings(driver);
-    walkLivePicture(driver);
+    walkLiveView(driver);
     walkSystemTime(driver);
 }

@@ -30,7 +30,7 @@ QQuickItem *videoIn(const Driver &live, int index)
 QSize frameSize(const Driver &live, int index)
 {
     const QQuickItem *video = videoIn(live, index);
-    return video ? video->property("pictureSize").toSize() : QSize();
+    return video ? video->property("frameSize").toSize() : QSize();
 }
 
 bool plays(const Driver &live, int index)
@@ -153,7 +153,7 @@ void walkRecorder(Driver &live)
 void walkSnapshots(Driver &live)
 {
     live.click(u"liveSnapAllButton"_s);
-    live.await(u"the first snapshot is shown"_s, [&] { return live.find(u"snapshotPicture"_s) != nullptr; });
+    live.await(u"the first snapshot is shown"_s, [&] { return live.find(u"snapshotImage"_s) != nullptr; });
     live.report(u"snapshots-running"_s, live.text(u"snapshotSummary"_s));
     const QString expected = QCoreApplication::translate("SnapshotDialog", "成功 %1，失败 %2").arg(11).arg(5);
     live.await(

@@ -153,7 +153,7 @@ void walkLiveWindow(Driver &driver)
         u"the live view shows a frame"_s,
         [&] {
             const QQuickItem *video = live.find(u"liveVideo"_s);
-            return video && video->property("hasPicture").toBool();
+            return video && video->property("hasFrame").toBool();
         },
         30);
     live.report(u"live"_s, live.text(u"liveTitle"_s));

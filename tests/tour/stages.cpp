@@ -86,7 +86,7 @@ const QList<Stage> &stagesOfTour()
          .drive =
              [](Driver &driver, DemoSite *site) {
                  walkFirstSearch(driver);
-                 walkGallery(driver, *site, driver.imageFolder() + u"/pictures"_s);
+                 walkGallery(driver, *site, driver.imageFolder() + u"/images"_s);
              }},
     };
     return stages;

@@ -77,11 +77,11 @@ void prepareDevices(const Rows &rows, const QList<int> &indexes, sdk::demo::Demo
 }
 
 /// Confirms the preview.
-void beginUpgrades(Driver &driver, const QString &picture)
+void beginUpgrades(Driver &driver, const QString &image)
 {
     driver.require(u"upgradePreviewTable"_s);
-    if (!picture.isEmpty())
-        driver.report(picture, driver.text(u"batchCount"_s));
+    if (!image.isEmpty())
+        driver.report(image, driver.text(u"batchCount"_s));
     driver.click(u"okButton"_s);
     driver.await(u"the preview is closed"_s, [&] { return !driver.find(u"upgradePreviewTable"_s); });
 }

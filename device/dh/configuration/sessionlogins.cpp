@@ -19,8 +19,8 @@ namespace {
 class LiveLogin final : public OwnSession
 {
 public:
-    LiveLogin(std::weak_ptr<SessionThreads> threads, OwnPictureTaker takeOwnPicture, const SecureLogin &login)
-        : m_threads(std::move(threads)), m_takePicture(std::move(takeOwnPicture)), m_handle(login.handle),
+    LiveLogin(std::weak_ptr<SessionThreads> threads, OwnImageTaker takeOwnImage, const SecureLogin &login)
+        : m_threads(std::move(threads)), m_takeImage(std::move(takeOwnImage)), m_handle(login.handle),
           m_channelCount(login.channelCount)
     {
     }
@@ -33,17 +33,17 @@ public:
 
     [[nodiscard]] qint64 handle() const override { return m_handle; }
     [[nodiscard]] int channelCount() const override { return m_channelCount; }
-    [[nodiscard]] OwnPicture takePicture(int channel, const QString &folder,
-                                         const StepControl &control) const override
+    [[nodiscard]] OwnImage takeImage(int channel, const QString &folder,
+                                     const StepControl &control) const override
     {
-        return m_takePicture(
+        return m_takeImage(
             {.handle = m_handle, .channelCount = m_channelCount, .channel = channel, .folder = folder},
             control);
     }
 
 private:
     const std::weak_ptr<SessionThreads> m_threads;
-    const OwnPictureTaker m_takePicture;
+    const OwnImageTaker m_takeImage;
     const std::int64_t m_handle;
     const int m_channelCount;
 };
@@ -52,11 +52,11 @@ private:
 
 SessionLogins::SessionLogins(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
                              const DeviceLogins &logins, std::shared_ptr<SessionThreads> threads,
-                             OwnPictureTaker takeOwnPicture, const DeviceReservations &reservations,
+                             OwnImageTaker takeOwnImage, const DeviceReservations &reservations,
                              CurrentSession &session, BackEndSignals &backEndSignals)
     : m_store(std::move(store)), m_libraries(std::move(libraries)), m_logins(logins),
-      m_threads(std::move(threads)), m_takeOwnPicture(std::move(takeOwnPicture)),
-      m_reservations(reservations), m_session(session), m_signals(backEndSignals)
+      m_threads(std::move(threads)), m_takeOwnImage(std::move(takeOwnImage)), m_reservations(reservations),
+      m_session(session), m_signals(backEndSignals)
 {
 }
 
@@ -143,7 +143,7 @@ void SessionLogins::takeMac(const QString &ipport, const QString &mac)
 
 OwnSessionStep SessionLogins::ownSessionStep(const OwnSessionOrder &order)
 {
-    return [libraries = m_libraries, threads = std::weak_ptr(m_threads), takeOwnPicture = m_takeOwnPicture,
+    return [libraries = m_libraries, threads = std::weak_ptr(m_threads), takeOwnImage = m_takeOwnImage,
             order](const StepControl &) {
         const std::shared_ptr<OwnSession> &present = order.present;
         const SessionOffer offer =
@@ -156,7 +156,7 @@ OwnSessionStep SessionLogins::ownSessionStep(const OwnSessionOrder &order)
                                      .readsChannels = !present});
         OwnSessionOffer made = {.result = resultCode(offer.result), .channels = offer.channels};
         if (offer.login.handle != 0)
-            made.session = std::make_shared<LiveLogin>(threads, takeOwnPicture, offer.login);
+            made.session = std::make_shared<LiveLogin>(threads, takeOwnImage, offer.login);
         else if (offer.result == LoginResult::Success)
             made.session = present;
         return made;

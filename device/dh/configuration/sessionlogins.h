@@ -22,9 +22,9 @@ class SessionThreads;
 class SessionLogins
 {
 public:
-    /// `threads` must not be null. Separate sessions keep a copy of `takeOwnPicture`.
+    /// `threads` must not be null. Separate sessions keep a copy of `takeOwnImage`.
     SessionLogins(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries, const DeviceLogins &logins,
-                  std::shared_ptr<SessionThreads> threads, OwnPictureTaker takeOwnPicture,
+                  std::shared_ptr<SessionThreads> threads, OwnImageTaker takeOwnImage,
                   const DeviceReservations &reservations, CurrentSession &session,
                   BackEndSignals &backEndSignals);
 
@@ -63,7 +63,7 @@ private:
     const sdk::SdkLibraries m_libraries;
     const DeviceLogins &m_logins;
     const std::shared_ptr<SessionThreads> m_threads;
-    const OwnPictureTaker m_takeOwnPicture;
+    const OwnImageTaker m_takeOwnImage;
     const DeviceReservations &m_reservations;
     CurrentSession &m_session;
     BackEndSignals &m_signals;

@@ -61,9 +61,9 @@ bool EncodeChoices::offersCompression(int code, int profile) const
     return std::find(profiles.begin(), profiles.end(), profile) != profiles.end();
 }
 
-void EncodeChoices::appendSizes(QStringList &names, const sdk::PictureSizeList &list) const
+void EncodeChoices::appendSizes(QStringList &names, const sdk::FrameSizeList &list) const
 {
-    for (const sdk::PictureSize size : used(list.sizes, list.count)) {
+    for (const sdk::FrameSize size : used(list.sizes, list.count)) {
         if (size.width > 0 && size.height > 0)
             names.append(resolutionName(m_tables, size.width, size.height));
     }
@@ -90,12 +90,11 @@ bool EncodeChoices::offersSize(int compression, int width, int height) const
     const bool isKnown = compression >= 0 && compression < static_cast<int>(sdk::compressionCount);
     if (!isFilled() || !isKnown)
         return false;
-    const sdk::PictureSizeList &list =
-        m_block.sizesDependOnCompression == 0
-            ? m_block.sizes
-            : m_block.sizesByCompression[static_cast<std::size_t>(compression)];
+    const sdk::FrameSizeList &list = m_block.sizesDependOnCompression == 0
+                                         ? m_block.sizes
+                                         : m_block.sizesByCompression[static_cast<std::size_t>(compression)];
     const auto sizes = used(list.sizes, list.count);
-    return std::any_of(sizes.begin(), sizes.end(), [width, height](sdk::PictureSize size) {
+    return std::any_of(sizes.begin(), sizes.end(), [width, height](sdk::FrameSize size) {
         return size.width == width && size.height == height;
     });
 }

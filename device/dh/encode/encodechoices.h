@@ -48,7 +48,7 @@ public:
 
 private:
     [[nodiscard]] bool isFilled() const { return m_block.size == sizeof(m_block); }
-    void appendSizes(QStringList &names, const sdk::PictureSizeList &list) const;
+    void appendSizes(QStringList &names, const sdk::FrameSizeList &list) const;
 
     const ValueTables &m_tables;
     const sdk::EncodeCapabilityBlock &m_block;

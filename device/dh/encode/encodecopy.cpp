@@ -32,7 +32,7 @@ bool offersAudio(const EncodeChoices &choices, int format)
 
 /// Copies compression and size from `from` to `to` if `choices` offers them. Returns the names of those that
 /// are not offered.
-QStringList takePicture(const EncodeChoices &choices, const EncodeItems &from, bool isSub, EncodeItems &to)
+QStringList takeVideo(const EncodeChoices &choices, const EncodeItems &from, bool isSub, EncodeItems &to)
 {
     const sdk::VideoFormatItem &wanted = from.videoFormat;
     sdk::VideoFormatItem &video = to.videoFormat;
@@ -149,9 +149,9 @@ EncodeCopyOutcome copyEncodeSettings(const ValueTables &tables, const EncodeStat
     const bool hasMain = from.main.knows(EncodeItemIndex::VideoFormat);
     const bool hasSub = from.sub.knows(EncodeItemIndex::VideoFormat);
     if (hasMain)
-        outcome.skipped += takePicture(mainChoices, from.main, false, to.main);
+        outcome.skipped += takeVideo(mainChoices, from.main, false, to.main);
     if (hasSub)
-        outcome.skipped += takePicture(subChoices, from.sub, true, to.sub);
+        outcome.skipped += takeVideo(subChoices, from.sub, true, to.sub);
     // The supported bit rates depend on the size.
     putIntoRecord(to.main, to.record.streams[static_cast<std::size_t>(streamType)]);
     putIntoRecord(to.sub, to.record.streams[static_cast<std::size_t>(sdk::StreamKind::Sub)]);

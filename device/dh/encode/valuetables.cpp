@@ -18,7 +18,7 @@ public:
 struct Resolution
 {
     const char *name;
-    sdk::PictureSize size; ///< as devices report it, even where it looks odd
+    sdk::FrameSize size; ///< as devices report it, even where it looks odd
 };
 
 constexpr std::array resolutions = {
@@ -51,9 +51,9 @@ QStringList resolutionNames()
     return names;
 }
 
-std::vector<sdk::PictureSize> resolutionSizes()
+std::vector<sdk::FrameSize> resolutionSizes()
 {
-    std::vector<sdk::PictureSize> sizes;
+    std::vector<sdk::FrameSize> sizes;
     sizes.reserve(resolutions.size());
     for (const Resolution &resolution : resolutions)
         sizes.push_back(resolution.size);
@@ -133,7 +133,7 @@ int ValueTables::audioNameToFormat(const QString &name)
 int ValueTables::resolutionIndexFromSize(int width, int height) const
 {
     const auto found =
-        std::find_if(ResolutionSizes.begin(), ResolutionSizes.end(), [width, height](sdk::PictureSize size) {
+        std::find_if(ResolutionSizes.begin(), ResolutionSizes.end(), [width, height](sdk::FrameSize size) {
             return size.width == width && size.height == height;
         });
     return found == ResolutionSizes.end() ? -1 : static_cast<int>(found - ResolutionSizes.begin());
@@ -143,7 +143,7 @@ bool ValueTables::resolutionSizeFromIndex(int index, int &width, int &height) co
 {
     if (index < 0 || index >= static_cast<int>(ResolutionSizes.size()))
         return false;
-    const sdk::PictureSize size = ResolutionSizes[static_cast<std::size_t>(index)];
+    const sdk::FrameSize size = ResolutionSizes[static_cast<std::size_t>(index)];
     width = size.width;
     height = size.height;
     return true;

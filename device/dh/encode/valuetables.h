@@ -22,9 +22,9 @@ public:
     const QStringList VideoCompressionNames; ///< by bit of a compression mask
     const QStringList H264ProfileNames;      ///< by profile - 1
     const QStringList ResolutionNames;
-    const std::vector<sdk::PictureSize> ResolutionSizes; ///< by index in ResolutionNames
-    const std::array<std::int32_t, 64> BitRateSteps;     ///< kbit/s, ascending, then zeros
-    const QStringList AudioCompressionNames; ///< by format code of capabilities; empty: not offered
+    const std::vector<sdk::FrameSize> ResolutionSizes; ///< by index in ResolutionNames
+    const std::array<std::int32_t, 64> BitRateSteps;   ///< kbit/s, ascending, then zeros
+    const QStringList AudioCompressionNames;           ///< by format code of capabilities; empty: not offered
     const std::array<std::int32_t, 64> AudioSamplingFrequencies; ///< Hz, then zeros
     const QStringList DayNightModeNames;
     const QStringList BackLightModeNames;

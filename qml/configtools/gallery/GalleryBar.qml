@@ -5,7 +5,7 @@ import configtools
 Rectangle {
     id: root
 
-    required property PictureGallery gallery
+    required property ImageGallery gallery
     required property string otherBatch  // title of another running batch, "" for none
     readonly property Batch batch: gallery.batch
     readonly property bool paused: batch?.paused ?? false
@@ -45,7 +45,7 @@ Rectangle {
                 : root.batch ? (root.batch.stopping ? qsTr("正在停止…")
                     : qsTr("正在获取图像 %1 / %2").arg(root.batch.done).arg(root.batch.total))
                 : root.showsOutcome ? root.outcome
-                : qsTr("%n 幅图像", "", root.gallery.pictures)
+                : qsTr("%n 幅图像", "", root.gallery.images)
         }
         OVProgressBar {
             anchors.verticalCenter: parent.verticalCenter
@@ -100,7 +100,7 @@ Rectangle {
         }
         OVButton {
             busy: root.gallery.saving
-            enabled: root.gallery.pictures > 0 && !root.gallery.saving && root.batch === null
+            enabled: root.gallery.images > 0 && !root.gallery.saving && root.batch === null
             kind: OVButton.Primary
             objectName: "gallerySaveButton"
             text: qsTr("全部保存")

@@ -10,15 +10,15 @@ Item {
     required property string device
     required property string name
     required property int stage
-    required property string picture
+    required property string image
     required property string message
     required property string takenAt
     required property string note
     property bool current: false
     property bool canFetch: true
-    readonly property bool skipped: stage === PictureGallery.Skipped
-    readonly property bool failed: stage === PictureGallery.Failed
-    readonly property bool busy: stage === PictureGallery.Fetching
+    readonly property bool skipped: stage === ImageGallery.Skipped
+    readonly property bool failed: stage === ImageGallery.Failed
+    readonly property bool busy: stage === ImageGallery.Fetching
     readonly property string title: name === "" ? device : name.startsWith(device) ? name : device + " · " + name
     signal chosen
     signal liveRequested
@@ -64,11 +64,11 @@ Item {
             asynchronous: true
             cache: false
             fillMode: Image.PreserveAspectFit
-            objectName: "galleryPicture"
-            opacity: root.stage === PictureGallery.Taken ? 1 : 0.3
-            source: root.picture
+            objectName: "galleryImage"
+            opacity: root.stage === ImageGallery.Taken ? 1 : 0.3
+            source: root.image
             sourceSize.width: Math.round(width * Screen.devicePixelRatio)
-            visible: root.picture !== ""
+            visible: root.image !== ""
 
             Accessible.ignored: true
         }
@@ -76,7 +76,7 @@ Item {
             anchors.centerIn: parent
             width: parent.width - 2 * Theme.unit
             spacing: Theme.unit
-            visible: root.stage !== PictureGallery.Taken
+            visible: root.stage !== ImageGallery.Taken
 
             OVSpinner {
                 anchors.horizontalCenter: parent.horizontalCenter
@@ -143,7 +143,7 @@ Item {
         iconSize: Theme.smallIconSize
         objectName: "galleryAgain" + root.index
         toolTip: qsTr("重新获取（R）")
-        visible: root.stage === PictureGallery.Taken || root.failed || root.skipped
+        visible: root.stage === ImageGallery.Taken || root.failed || root.skipped
         onClicked: {
             root.chosen();
             root.againRequested();
@@ -165,7 +165,7 @@ Item {
         color: root.failed ? Theme.colours.bad : root.skipped ? Theme.colours.sub : Theme.colours.ok
         name: root.failed ? "error" : root.skipped ? "mixed" : "ok"
         size: Theme.smallIconSize
-        visible: root.stage === PictureGallery.Taken || root.failed || root.skipped
+        visible: root.stage === ImageGallery.Taken || root.failed || root.skipped
     }
     OVLabel {
         id: state
@@ -176,7 +176,7 @@ Item {
         color: root.failed ? Theme.colours.bad : Theme.colours.sub
         font: Theme.hintFont
         objectName: "galleryState"
-        text: root.stage === PictureGallery.Taken ? root.takenAt
+        text: root.stage === ImageGallery.Taken ? root.takenAt
             : root.failed ? qsTr("失败")
             : root.skipped ? qsTr("已跳过")
             : root.busy ? qsTr("获取中") : qsTr("等待中")

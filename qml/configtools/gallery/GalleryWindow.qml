@@ -47,7 +47,7 @@ T.ApplicationWindow {
 
     function saveAll() {
         bar.outcome = "";
-        if (gallery.pictures > 0 && gallery.batch === null)
+        if (gallery.images > 0 && gallery.batch === null)
             gallery.saveAll();
     }
 
@@ -61,7 +61,7 @@ T.ApplicationWindow {
     title: qsTr("设备图像")
     onClosing: gallery.clear()
 
-    PictureGallery {
+    ImageGallery {
         id: gallery
         batches: window.batches
         deviceFactory: window.deviceFactory

@@ -32,7 +32,7 @@ Item {
     readonly property int responseValidity: 1000  // ms after a response without a check
     signal renewed                   // a new session was opened
     signal checked(bool isReachable)    // result of check()
-    signal snapshotTaken(int channel, string picture, string message)  // of takeSnapshot(): URL or error
+    signal snapshotTaken(int channel, string image, string message)  // of takeSnapshot(): URL or error
 
     function account() {
         return LoginMemory.accountFor(ipport, deviceFactory);
@@ -82,7 +82,7 @@ Item {
 
     /// Saves a snapshot to this subfolder of the snapshots folder.
     function takeSnapshot(channel, folder) {
-        session.takePicture(channel, folder);
+        session.takeImage(channel, folder);
     }
 
     function take(channels) {
@@ -117,7 +117,7 @@ Item {
         property double before: 0
 
         deviceFactory: root.deviceFactory
-        onPictureTaken: (channel, path, message) => root.snapshotTaken(channel, path, message)
+        onImageTaken: (channel, path, message) => root.snapshotTaken(channel, path, message)
         onEnded: (result, channels) => {
             root.checking = false;
             root.result = result;

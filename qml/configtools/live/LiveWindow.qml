@@ -317,9 +317,9 @@ T.ApplicationWindow {
             snapshots: taking
             onAgainRequested: channel => window.snapAgain(channel)
             onFolderRequested: {
-                const picture = taking.results.find(entry => entry.picture !== "").picture;
-                if (!Qt.openUrlExternally(picture.slice(0, picture.lastIndexOf("/"))))
-                    window.notify(qsTr("无法打开文件夹：%1").arg(picture), OVToast.Error);
+                const image = taking.results.find(entry => entry.image !== "").image;
+                if (!Qt.openUrlExternally(image.slice(0, image.lastIndexOf("/"))))
+                    window.notify(qsTr("无法打开文件夹：%1").arg(image), OVToast.Error);
             }
         }
     }

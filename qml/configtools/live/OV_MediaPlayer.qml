@@ -21,7 +21,7 @@ FocusScope {
     property string sessionAction         // text of the button for that, "" for none
     property bool sessionBusy: false      // the session is being opened
     readonly property bool wanted: active && connected && channel >= 0
-    readonly property bool playing: video.hasPicture
+    readonly property bool playing: video.hasFrame
     readonly property bool waitingForRetry: backoff.failures > 0 && !connecting && !playing  // waits for the next attempt
     readonly property bool turning: connecting || sessionBusy
     readonly property alias video: video
@@ -39,9 +39,9 @@ FocusScope {
     readonly property real zoomStep: 1.2  // factor between two levels
     // Scale of the shown frame; the bars are the unused rest of the view.
     readonly property real frameScale: !playing || stretched ? 0
-        : Math.min(width / video.pictureSize.width, height / video.pictureSize.height) * Math.pow(zoomStep, video.zoomLevel)
-    readonly property int sideBar: frameScale > 0 ? Math.max(0, (width - video.pictureSize.width * frameScale) / 2) : 0
-    readonly property int topBar: frameScale > 0 ? Math.max(0, (height - video.pictureSize.height * frameScale) / 2) : 0
+        : Math.min(width / video.frameSize.width, height / video.frameSize.height) * Math.pow(zoomStep, video.zoomLevel)
+    readonly property int sideBar: frameScale > 0 ? Math.max(0, (width - video.frameSize.width * frameScale) / 2) : 0
+    readonly property int topBar: frameScale > 0 ? Math.max(0, (height - video.frameSize.height * frameScale) / 2) : 0
 
     function begin() {
         backoff.stop();
@@ -129,8 +129,8 @@ FocusScope {
         objectName: "liveVideo"
         session: root.session
         streamKind: root.mainStream || root.subRefused ? VideoItem.Main : VideoItem.Sub
-        onHasPictureChanged: {
-            if (hasPicture) {
+        onHasFrameChanged: {
+            if (hasFrame) {
                 root.connecting = false;
                 backoff.reset();
             }

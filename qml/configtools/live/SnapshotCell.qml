@@ -23,8 +23,8 @@ Item {
             asynchronous: true
             cache: false
             fillMode: Image.PreserveAspectFit
-            objectName: "snapshotPicture"
-            source: root.stage === Snapshots.Taken ? root.entry.picture + "?" + root.entry.revision : ""
+            objectName: "snapshotImage"
+            source: root.stage === Snapshots.Taken ? root.entry.image + "?" + root.entry.revision : ""
             sourceSize.width: width * 2
             visible: root.stage === Snapshots.Taken
 

@@ -11,7 +11,7 @@ Item {
     property string ipport            // of the device
     property var companion: null      // LiveCompanion of an added device; null for the first device
     property string folder            // subfolder of the snapshots folder
-    /// Maps with "channel" (from 0), "name", "state" (a State), "picture" (URL, "" for none), "message" (error) and
+    /// Maps with "channel" (from 0), "name", "state" (a State), "image" (URL, "" for none), "message" (error) and
     /// "revision" (number of results; undefined before the first).
     property var results: []
     property int running: 0           // channels without a result
@@ -36,7 +36,7 @@ Item {
         root.ipport = ipport;
         companion = null;
         results = channels.map((entry, index) => ({
-            channel: entry.channel, name: entry.name, picture: "", message: "",
+            channel: entry.channel, name: entry.name, image: "", message: "",
             state: index === 0 ? Snapshots.Taking : Snapshots.Waiting
         }));
         running = results.length;
@@ -65,7 +65,7 @@ Item {
         root.ipport = ipport;
         root.companion = companion;
         if (!results.some(other => other.channel === entry.channel))
-            results = results.concat([{channel: entry.channel, name: entry.name, picture: "", message: "",
+            results = results.concat([{channel: entry.channel, name: entry.name, image: "", message: "",
                                        state: Snapshots.Waiting}]);
         change(entry.channel, {state: Snapshots.Taking, message: ""});
         running += 1;
@@ -89,14 +89,14 @@ Item {
         results = results.map(entry => entry.channel === channel ? Object.assign({}, entry, values) : entry);
     }
 
-    function note(channel, picture, message) {
+    function note(channel, image, message) {
         if (running === 0)
             return;
         running -= 1;
         const before = results.find(entry => entry.channel === channel);
         // The revision makes the view reload a replaced file.
-        change(channel, {picture: picture, message: message, revision: (before?.revision ?? 0) + 1,
-                         state: picture !== "" ? Snapshots.Taken : Snapshots.Failed});
+        change(channel, {image: image, message: message, revision: (before?.revision ?? 0) + 1,
+                         state: image !== "" ? Snapshots.Taken : Snapshots.Failed});
     }
 
     visible: false
@@ -111,23 +111,23 @@ Item {
     Connections {
         target: root.companion
 
-        function onSnapshotTaken(channel, picture, message) {
-            root.note(channel, picture, message);
+        function onSnapshotTaken(channel, image, message) {
+            root.note(channel, image, message);
         }
     }
     Connections {
         enabled: root.companion === null
         target: root.deviceFactory
 
-        function onSignalSnapPictureToFile(channel, picture, message) {
-            root.note(channel, picture, message);
+        function onSignalSnapPictureToFile(channel, image, message) {
+            root.note(channel, image, message);
             // They are taken in order.
             const next = root.results.find(entry => entry.state === Snapshots.Waiting);
             if (next && root.busy)
                 root.change(next.channel, {state: Snapshots.Taking});
         }
-        function onSignalSnapPictureToFileAgain(channel, picture, message) {
-            root.note(channel, picture, message);
+        function onSignalSnapPictureToFileAgain(channel, image, message) {
+            root.note(channel, image, message);
         }
     }
 }

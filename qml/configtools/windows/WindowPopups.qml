@@ -218,12 +218,12 @@ Item {
         id: gallery
         visible: false
         sourceComponent: GalleryWindow {
-            id: pictures
+            id: images
             property DeviceTableModel table: null
             batches: root.batches
             deviceFactory: root.deviceFactory
             localConfig: root.localConfig
-            onLiveRequested: (ipport, channel) => live.instance().open(ipport, channel, table, pictures.gallery.devices())
+            onLiveRequested: (ipport, channel) => live.instance().open(ipport, channel, table, images.gallery.devices())
         }
     }
     OVOnDemand {

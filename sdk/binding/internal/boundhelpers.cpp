@@ -71,11 +71,11 @@ bool BoundDecoderLibrary::DecoderGetStatus(std::int32_t port, DecoderStatus &sta
     return m_entries.DecoderGetStatus(port, &status) != 0;
 }
 
-bool BoundDecoderLibrary::DecoderSaveFrame(const std::uint8_t *picture, std::int32_t width,
-                                           std::int32_t height, SavedPictureType type, std::int32_t quality,
-                                           const char *fileName, PictureColour colour)
+bool BoundDecoderLibrary::DecoderSaveFrame(const std::uint8_t *frame, std::int32_t width, std::int32_t height,
+                                           SavedImageType type, std::int32_t quality, const char *fileName,
+                                           FrameColour colour)
 {
-    return m_entries.DecoderSaveFrame(picture, width, height, cValue(type), quality, fileName,
+    return m_entries.DecoderSaveFrame(frame, width, height, cValue(type), quality, fileName,
                                       cValue(colour)) != 0;
 }
 

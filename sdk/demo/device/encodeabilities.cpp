@@ -37,11 +37,11 @@ QList<int> numbers(const QJsonValue &list, const QList<int> &usual)
 }
 
 /// "1920*1080"
-QList<PictureSize> sizes(const QJsonValue &list, const QList<PictureSize> &usual)
+QList<FrameSize> sizes(const QJsonValue &list, const QList<FrameSize> &usual)
 {
     if (!list.isArray())
         return usual;
-    QList<PictureSize> found;
+    QList<FrameSize> found;
     const QJsonArray values = list.toArray();
     for (const auto &value : values) {
         const QStringList sides = value.toString().split(u'*');
@@ -79,7 +79,7 @@ std::uint32_t fill(std::array<Entry, capacity> &entries, const QList<Entry> &val
     return static_cast<std::uint32_t>(count);
 }
 
-void fill(PictureSizeList &list, const QList<PictureSize> &values)
+void fill(FrameSizeList &list, const QList<FrameSize> &values)
 {
     list.count = fill(list.sizes, values);
 }
@@ -97,7 +97,7 @@ void makeOdd(EncodeCapabilityBlock &block)
     block.audioRates.back() = {.format = block.audioFormats.front(), .frequency = -1};
     block.sizes.count = tooMany;
     block.sizes.sizes[0] = {0, 0};
-    for (PictureSizeList &list : block.sizesByCompression)
+    for (FrameSizeList &list : block.sizesByCompression)
         list.count = tooMany;
     block.maximumFrameRate = -1;
 }
@@ -199,7 +199,7 @@ VideoFormatItem usualVideoFormat(const SceneDevice &device, StreamKind kind)
     item.videoEnable = 1;
     item.compression =
         abilities.compressions.contains(compressionH264) ? compressionH264 : abilities.compressions.value(0);
-    const PictureSize size = abilities.sizesOf(item.compression).value(0);
+    const FrameSize size = abilities.sizesOf(item.compression).value(0);
     item.width = size.width;
     item.height = size.height;
     item.bitRateControl = 1;
@@ -240,8 +240,8 @@ bool takes(const SceneDevice &device, const VideoFormatItem &item)
     if (!kind || isRefused(device, EncodeItem::VideoFormat))
         return false;
     const StreamAbilities abilities = streamAbilities(device, *kind);
-    const QList<PictureSize> known = abilities.sizesOf(item.compression);
-    const bool knowsSize = std::any_of(known.begin(), known.end(), [&item](PictureSize size) {
+    const QList<FrameSize> known = abilities.sizesOf(item.compression);
+    const bool knowsSize = std::any_of(known.begin(), known.end(), [&item](FrameSize size) {
         return size.width == item.width && size.height == item.height;
     });
     const std::optional<FaultSetting> limit = device.fault(Fault::RefusesBitRatesAbove);

@@ -13,15 +13,15 @@ struct StreamAbilities
 {
     QList<int> compressions; ///< compression codes
     QList<int> profiles;     ///< of H.264, 1 to 4
-    QList<PictureSize> sizes;
-    QMap<int, QList<PictureSize>> sizesByCompression; ///< replaces `sizes` unless it is empty
-    int minimumBitRate = 0;                           ///< kbit/s
-    int maximumBitRate = 0;                           ///< kbit/s
-    int maximumFrameRate = 0;                         ///< frames per second
-    QList<int> audioFormats;                          ///< as EncodeCapabilityBlock::audioFormats
-    QList<int> samplingFrequencies;                   ///< Hz
+    QList<FrameSize> sizes;
+    QMap<int, QList<FrameSize>> sizesByCompression; ///< replaces `sizes` unless it is empty
+    int minimumBitRate = 0;                         ///< kbit/s
+    int maximumBitRate = 0;                         ///< kbit/s
+    int maximumFrameRate = 0;                       ///< frames per second
+    QList<int> audioFormats;                        ///< as EncodeCapabilityBlock::audioFormats
+    QList<int> samplingFrequencies;                 ///< Hz
 
-    [[nodiscard]] QList<PictureSize> sizesOf(int compression) const
+    [[nodiscard]] QList<FrameSize> sizesOf(int compression) const
     {
         return sizesByCompression.isEmpty() ? sizes : sizesByCompression.value(compression);
     }

@@ -10,11 +10,11 @@ namespace sdk::demo {
 
 using streams::avErrorText;
 using streams::AvPointer;
-using streams::pictureTrack;
 using streams::soundTrack;
+using streams::videoTrack;
 
 /// Encoded video and audio of a stream in the order of sending. Each packet has the time base of its encoder,
-/// and pictureTrack or soundTrack as its stream index.
+/// and videoTrack or soundTrack as its stream index.
 using EncodedPackets = std::vector<AvPointer<AVPacket>>;
 
 /// For AVCodecContext::log_level_offset: it suppresses the encoders' informational messages.

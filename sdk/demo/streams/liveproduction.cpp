@@ -61,7 +61,7 @@ std::unique_ptr<LiveProduction> LiveProduction::start(const SceneDevice &device,
     return production;
 }
 
-QByteArray LiveProduction::pictureHead() const
+QByteArray LiveProduction::videoHead() const
 {
     return headOf(m_encoder->context());
 }

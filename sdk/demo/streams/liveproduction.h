@@ -27,7 +27,7 @@ public:
 
     /// Codec-specific data that a decoder needs before the first packet, such as parameter sets. Empty for a
     /// codec without such data.
-    [[nodiscard]] QByteArray pictureHead() const;
+    [[nodiscard]] QByteArray videoHead() const;
     [[nodiscard]] QByteArray soundHead() const;
 
     /// The container of one viewer. Returns null and logs the reason on failure.

@@ -131,12 +131,12 @@ VideoEncoder::~VideoEncoder()
     m_context.reset();
 }
 
-bool VideoEncoder::encode(AVFrame &picture, std::int64_t number, bool isKey, EncodedPackets &packets)
+bool VideoEncoder::encode(AVFrame &frame, std::int64_t number, bool isKey, EncodedPackets &packets)
 {
-    picture.pts = number;
-    picture.pict_type = isKey ? AV_PICTURE_TYPE_I : AV_PICTURE_TYPE_NONE;
-    return avcodec_send_frame(m_context.get(), &picture) >= 0 &&
-           receivePackets(*m_context, pictureTrack, packets);
+    frame.pts = number;
+    frame.pict_type = isKey ? AV_PICTURE_TYPE_I : AV_PICTURE_TYPE_NONE;
+    return avcodec_send_frame(m_context.get(), &frame) >= 0 &&
+           receivePackets(*m_context, videoTrack, packets);
 }
 
 bool receivePackets(AVCodecContext &context, int track, EncodedPackets &packets)

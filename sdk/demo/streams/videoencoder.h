@@ -18,9 +18,9 @@ public:
 
     [[nodiscard]] const AVCodecContext &context() const { return *m_context; }
 
-    /// Encodes `picture`, which has the size and format of context(), as the frame with the index `number`,
+    /// Encodes `frame`, which has the size and format of context(), as the frame with the index `number`,
     /// which follows from the elapsed time. With `isKey` it is a key frame. Returns false on failure.
-    [[nodiscard]] bool encode(AVFrame &picture, std::int64_t number, bool isKey, EncodedPackets &packets);
+    [[nodiscard]] bool encode(AVFrame &frame, std::int64_t number, bool isKey, EncodedPackets &packets);
 
 private:
     explicit VideoEncoder(AvPointer<AVCodecContext> context) : m_context(std::move(context)) {}

@@ -1,4 +1,4 @@
-// PictureColour in FFmpeg's terms.
+// FrameColour in FFmpeg's terms.
 #pragma once
 
 #include "sdk/decoderlibrary.h"
@@ -6,18 +6,18 @@
 
 namespace sdk::ffmpeg {
 
-[[nodiscard]] constexpr bool isBt709(PictureColour colour)
+[[nodiscard]] constexpr bool isBt709(FrameColour colour)
 {
-    return colour == PictureColour::Bt709Limited || colour == PictureColour::Bt709Full;
+    return colour == FrameColour::Bt709Limited || colour == FrameColour::Bt709Full;
 }
 
-[[nodiscard]] constexpr bool isFullRange(PictureColour colour)
+[[nodiscard]] constexpr bool isFullRange(FrameColour colour)
 {
-    return colour == PictureColour::Bt601Full || colour == PictureColour::Bt709Full;
+    return colour == FrameColour::Bt601Full || colour == FrameColour::Bt709Full;
 }
 
 /// Coefficients for the scaler.
-[[nodiscard]] inline const int *colourMatrix(PictureColour colour)
+[[nodiscard]] inline const int *colourMatrix(FrameColour colour)
 {
     return sws_getCoefficients(isBt709(colour) ? SWS_CS_ITU709 : SWS_CS_ITU601);
 }

@@ -129,10 +129,10 @@ void DecoderPort::damaged()
     ++m_status.damages;
 }
 
-void DecoderPort::skipped(int pictures)
+void DecoderPort::skipped(int frames)
 {
     const std::lock_guard lock(m_mutex);
-    m_status.skippedPictures += static_cast<std::uint32_t>(pictures);
+    m_status.skippedFrames += static_cast<std::uint32_t>(frames);
 }
 
 std::shared_ptr<DecoderPort::Input> DecoderPort::currentInput() const

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "sdk/decoderlibrary.h"
+#include "sdk/ffmpeg/internal/framering.h"
 #include "sdk/ffmpeg/internal/inputqueue.h"
-#include "sdk/ffmpeg/internal/picturering.h"
 #include "sdk/ffmpeg/internal/streamdecoder.h"
 #include "sdk/ffmpeg/internal/streamsource.h"
 
@@ -59,7 +59,7 @@ private:
     void codecsFound(std::string_view video, std::string_view audio) override;
     void decoded(std::span<const std::uint8_t> bytes, const DecodedFrameInformation &information) override;
     void damaged() override;
-    void skipped(int pictures) override;
+    void skipped(int frames) override;
     [[nodiscard]] std::shared_ptr<Input> currentInput() const;
 
     const std::int32_t m_number;
@@ -74,7 +74,7 @@ private:
     DecodeHandler m_handler = nullptr;
     void *m_user = nullptr;
 
-    PictureRing m_ring; // used by the decoding thread
+    FrameRing m_ring; // used by the decoding thread
     std::jthread m_thread;
 };
 

@@ -7,9 +7,9 @@
 
 namespace sdk::ffmpeg {
 
-void PacketBacklog::add(AvPointer<AVPacket> packet, bool isPicture, std::int64_t arrival)
+void PacketBacklog::add(AvPointer<AVPacket> packet, bool isVideo, std::int64_t arrival)
 {
-    m_entries.push_back({std::move(packet), isPicture, arrival});
+    m_entries.push_back({std::move(packet), isVideo, arrival});
     m_bytes += m_entries.back().bytes();
     if (!m_entries.back().isKeyFrame())
         return;
@@ -29,8 +29,8 @@ PacketBacklog::Skip PacketBacklog::skip(std::int64_t now)
     const auto newestKey = std::find_if(m_entries.rbegin(), m_entries.rend(),
                                         [](const Entry &entry) { return entry.isKeyFrame(); });
     if (newestKey != m_entries.rend() && (m_waitsForKey || delay(now) > skippedDelay)) {
-        const int pictures = dropBefore(std::prev(newestKey.base()));
-        return {pictures, std::exchange(m_waitsForKey, false) || pictures > 0};
+        const int frames = dropBefore(std::prev(newestKey.base()));
+        return {frames, std::exchange(m_waitsForKey, false) || frames > 0};
     }
     if (m_waitsForKey && now - m_waitStart > std::max(longestWait, 2 * m_keyInterval)) {
         m_waitsForKey = false;
@@ -60,19 +60,19 @@ bool PacketBacklog::isKeyFrameExpected(std::int64_t now) const
 
 int PacketBacklog::dropBefore(const Entries::iterator &end)
 {
-    const auto pictures =
-        std::count_if(m_entries.begin(), end, [](const Entry &entry) { return entry.isPicture; });
+    const auto frames =
+        std::count_if(m_entries.begin(), end, [](const Entry &entry) { return entry.isVideo; });
     for (auto entry = m_entries.begin(); entry != end; ++entry)
         m_bytes -= entry->bytes();
     m_entries.erase(m_entries.begin(), end);
-    return static_cast<int>(pictures);
+    return static_cast<int>(frames);
 }
 
 int PacketBacklog::dropFrames()
 {
     return static_cast<int>(std::erase_if(m_entries, [this](const Entry &entry) {
-        m_bytes -= entry.isPicture ? entry.bytes() : 0;
-        return entry.isPicture;
+        m_bytes -= entry.isVideo ? entry.bytes() : 0;
+        return entry.isVideo;
     }));
 }
 

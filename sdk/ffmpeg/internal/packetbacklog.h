@@ -35,7 +35,7 @@ public:
     static constexpr std::int64_t longestWait = 5000;
 
     /// Adds a packet that arrived at `arrival`.
-    void add(AvPointer<AVPacket> packet, bool isPicture, std::int64_t arrival);
+    void add(AvPointer<AVPacket> packet, bool isVideo, std::int64_t arrival);
 
     [[nodiscard]] bool isEmpty() const { return m_entries.empty(); }
 
@@ -47,7 +47,7 @@ public:
 
     struct Skip
     {
-        int pictures = 0;           ///< number of dropped frames
+        int frames = 0;             ///< number of dropped frames
         bool isInterrupted = false; ///< the next frame does not follow the last taken one
     };
 
@@ -61,10 +61,10 @@ private:
     struct Entry
     {
         AvPointer<AVPacket> packet;
-        bool isPicture;
+        bool isVideo;
         std::int64_t arrival;
 
-        [[nodiscard]] bool isKeyFrame() const { return isPicture && (packet->flags & AV_PKT_FLAG_KEY) != 0; }
+        [[nodiscard]] bool isKeyFrame() const { return isVideo && (packet->flags & AV_PKT_FLAG_KEY) != 0; }
         [[nodiscard]] std::size_t bytes() const { return static_cast<std::size_t>(packet->size); }
     };
     using Entries = std::deque<Entry>;

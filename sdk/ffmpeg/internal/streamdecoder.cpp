@@ -1,7 +1,7 @@
 #include "sdk/ffmpeg/internal/streamdecoder.h"
 
 #include "sdk/clock.h"
-#include "sdk/ffmpeg/internal/planarpicture.h"
+#include "sdk/ffmpeg/internal/planarframe.h"
 
 #include <utility>
 
@@ -42,7 +42,7 @@ std::unique_ptr<TrackDecoder> decoderOf(const AVStream *track)
 
 } // namespace
 
-StreamDecoder::StreamDecoder(StreamSource &source, PictureRing &ring, StreamObserver &observer,
+StreamDecoder::StreamDecoder(StreamSource &source, FrameRing &ring, StreamObserver &observer,
                              const Clock *liveClock, std::stop_token stop)
     : m_source(source), m_ring(ring), m_observer(observer), m_liveClock(liveClock), m_stop(std::move(stop)),
       m_demuxer(source, m_stop)
@@ -61,20 +61,20 @@ void StreamDecoder::run()
         if (!isUndamaged)
             m_observer.damaged();
     }
-    if (m_pictures && !m_stop.stop_requested())
-        m_pictures->finish([this](const AVFrame &frame) { deliverPicture(frame); });
+    if (m_video && !m_stop.stop_requested())
+        m_video->finish([this](const AVFrame &frame) { deliverFrame(frame); });
 }
 
 bool StreamDecoder::open()
 {
     if (!m_demuxer.open())
         return false;
-    m_pictures = decoderOf(
+    m_video = decoderOf(
         m_demuxer.track(AVMEDIA_TYPE_VIDEO, {AV_CODEC_ID_H264, AV_CODEC_ID_HEVC, AV_CODEC_ID_MJPEG}));
     m_sound = decoderOf(
         m_demuxer.track(AVMEDIA_TYPE_AUDIO, {AV_CODEC_ID_AAC, AV_CODEC_ID_PCM_ALAW, AV_CODEC_ID_PCM_MULAW,
                                              AV_CODEC_ID_PCM_S16LE, AV_CODEC_ID_PCM_S16BE}));
-    m_observer.codecsFound(nameOf(m_pictures), nameOf(m_sound));
+    m_observer.codecsFound(nameOf(m_video), nameOf(m_sound));
     return true;
 }
 
@@ -98,8 +98,8 @@ bool StreamDecoder::readPacket()
         m_observer.damaged();
     if (m_hasEnded)
         return false;
-    const bool isPicture = m_pictures && packet->stream_index == m_pictures->track();
-    m_backlog.add(std::move(packet), isPicture, m_source.arrival());
+    const bool isVideo = m_video && packet->stream_index == m_video->track();
+    m_backlog.add(std::move(packet), isVideo, m_source.arrival());
     return true;
 }
 
@@ -107,28 +107,28 @@ void StreamDecoder::skipLateFrames()
 {
     const std::int64_t now = m_liveClock->now();
     const PacketBacklog::Skip skip = m_backlog.skip(now);
-    if (skip.pictures > 0)
-        m_observer.skipped(skip.pictures);
+    if (skip.frames > 0)
+        m_observer.skipped(skip.frames);
     m_isHurried = m_backlog.delay(now) > PacketBacklog::noticeableDelay;
-    if (!m_pictures)
+    if (!m_video)
         return;
     if (skip.isInterrupted)
-        m_pictures->restart();
-    m_pictures->setHurried(m_isHurried);
+        m_video->restart();
+    m_video->setHurried(m_isHurried);
     reportDropped();
 }
 
 void StreamDecoder::reportDropped()
 {
-    if (const int pictures = m_pictures->takeDropped(); pictures > 0)
-        m_observer.skipped(pictures);
+    if (const int frames = m_video->takeDropped(); frames > 0)
+        m_observer.skipped(frames);
 }
 
 bool StreamDecoder::decode(const AVPacket &packet)
 {
-    if (m_pictures && packet.stream_index == m_pictures->track()) {
+    if (m_video && packet.stream_index == m_video->track()) {
         const bool isUndamaged =
-            m_pictures->decode(packet, [this](const AVFrame &frame) { deliverPicture(frame); });
+            m_video->decode(packet, [this](const AVFrame &frame) { deliverFrame(frame); });
         reportDropped();
         return isUndamaged;
     }
@@ -137,7 +137,7 @@ bool StreamDecoder::decode(const AVPacket &packet)
     return true;
 }
 
-void StreamDecoder::deliverPicture(const AVFrame &frame)
+void StreamDecoder::deliverFrame(const AVFrame &frame)
 {
     if (m_stop.stop_requested())
         return;
@@ -151,18 +151,18 @@ void StreamDecoder::deliverPicture(const AVFrame &frame)
         m_delivery = now;
     }
     const bool isUsable = isUsableSize(frame.width, frame.height);
-    const std::size_t size = isUsable ? pictureSize(frame.width, frame.height) : 0;
+    const std::size_t size = isUsable ? frameSize(frame.width, frame.height) : 0;
     std::uint8_t *const bytes = isUsable ? m_ring.next(size) : nullptr;
-    if (!bytes || !m_pictureConverter.write(frame, bytes)) {
+    if (!bytes || !m_frameConverter.write(frame, bytes)) {
         m_observer.damaged();
         return;
     }
     m_observer.decoded({bytes, size}, {.width = frame.width,
                                        .height = frame.height,
                                        .reserved = 0,
-                                       .type = DecodedFrameType::Picture,
-                                       .rate = m_pictures->pictureRate(),
-                                       .colour = PictureConverter::colourOf(frame)});
+                                       .type = DecodedFrameType::Video,
+                                       .rate = m_video->frameRate(),
+                                       .colour = FrameConverter::colourOf(frame)});
     m_ring.noteDelivered();
 }
 

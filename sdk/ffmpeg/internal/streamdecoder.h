@@ -3,9 +3,9 @@
 
 #include "sdk/decoderlibrary.h"
 #include "sdk/ffmpeg/internal/demuxer.h"
+#include "sdk/ffmpeg/internal/frameconverter.h"
+#include "sdk/ffmpeg/internal/framering.h"
 #include "sdk/ffmpeg/internal/packetbacklog.h"
-#include "sdk/ffmpeg/internal/pictureconverter.h"
-#include "sdk/ffmpeg/internal/picturering.h"
 #include "sdk/ffmpeg/internal/soundconverter.h"
 #include "sdk/ffmpeg/internal/trackdecoder.h"
 
@@ -32,8 +32,8 @@ public:
     /// A part of the stream could not be decoded.
     virtual void damaged() = 0;
 
-    /// `pictures` late frames were dropped.
-    virtual void skipped(int pictures) = 0;
+    /// `frames` late frames were dropped.
+    virtual void skipped(int frames) = 0;
 };
 
 /// Decodes from the head of the stream to its end. Not thread-safe.
@@ -41,7 +41,7 @@ class StreamDecoder
 {
 public:
     /// `liveClock` has timed the arrival of `source`; with it, late frames are dropped. It may be null.
-    StreamDecoder(StreamSource &source, PictureRing &ring, StreamObserver &observer, const Clock *liveClock,
+    StreamDecoder(StreamSource &source, FrameRing &ring, StreamObserver &observer, const Clock *liveClock,
                   std::stop_token stop);
 
     /// Decodes until the stream ends or a stop is requested. An invalid head ends the stream.
@@ -57,22 +57,22 @@ private:
     void skipLateFrames();
     void reportDropped();
     [[nodiscard]] bool decode(const AVPacket &packet);
-    void deliverPicture(const AVFrame &frame);
+    void deliverFrame(const AVFrame &frame);
     void deliverSound(const AVFrame &frame);
 
     StreamSource &m_source;
-    PictureRing &m_ring;
+    FrameRing &m_ring;
     StreamObserver &m_observer;
     const Clock *const m_liveClock;
     const std::stop_token m_stop;
     Demuxer m_demuxer;
     PacketBacklog m_backlog;
-    bool m_hasEnded = false;                  // the demuxer has reached the end
-    bool m_isHurried = false;                 // the current packet is late
-    std::int64_t m_delivery = 0;              // time of the last delivered frame, on the live clock
-    std::unique_ptr<TrackDecoder> m_pictures; // null without video
+    bool m_hasEnded = false;               // the demuxer has reached the end
+    bool m_isHurried = false;              // the current packet is late
+    std::int64_t m_delivery = 0;           // time of the last delivered frame, on the live clock
+    std::unique_ptr<TrackDecoder> m_video; // null without video
     std::unique_ptr<TrackDecoder> m_sound;
-    PictureConverter m_pictureConverter;
+    FrameConverter m_frameConverter;
     SoundConverter m_soundConverter;
 };
 

@@ -83,7 +83,7 @@ bool TrackDecoder::takeFrames(const FrameHandler &handler)
     return isUndamaged && (result == AVERROR(EAGAIN) || result == AVERROR_EOF);
 }
 
-int TrackDecoder::pictureRate() const
+int TrackDecoder::frameRate() const
 {
     constexpr double highestRate = 1000;
     for (const AVRational &rate : {m_containerRate, m_context->framerate}) {

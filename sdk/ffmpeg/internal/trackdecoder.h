@@ -49,7 +49,7 @@ public:
     [[nodiscard]] AVCodecID codec() const { return m_context->codec_id; }
 
     /// The rounded frame rate from the container or the codec; 0 if unknown.
-    [[nodiscard]] int pictureRate() const;
+    [[nodiscard]] int frameRate() const;
 
 private:
     TrackDecoder(AvPointer<AVCodecContext> context, AvPointer<AVFrame> frame, const AVStream &track);

@@ -9,9 +9,9 @@ namespace sdk::onvif {
 /// Timeouts of a live stream.
 struct RtspTimeouts
 {
-    std::chrono::milliseconds response{5000};    ///< from the start until it plays
-    std::chrono::milliseconds keyPicture{20000}; ///< from then on until the first key frame
-    std::chrono::milliseconds silence{10000};    ///< between two video packets
+    std::chrono::milliseconds response{5000};  ///< from the start until it plays
+    std::chrono::milliseconds keyFrame{20000}; ///< from then on until the first key frame
+    std::chrono::milliseconds silence{10000};  ///< between two video packets
 };
 
 /// The parameters of a stream.

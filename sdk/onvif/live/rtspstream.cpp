@@ -62,12 +62,12 @@ RtspStream::Outcome RtspStream::receive(const std::stop_token &stop)
     });
     if (!session.open())
         return {session.end(), session.text()};
-    const AVStream *picture =
+    const AVStream *video =
         session.track(AVMEDIA_TYPE_VIDEO, {AV_CODEC_ID_H264, AV_CODEC_ID_HEVC, AV_CODEC_ID_MJPEG});
     const AVStream *sound =
         session.track(AVMEDIA_TYPE_AUDIO, {AV_CODEC_ID_AAC, AV_CODEC_ID_PCM_ALAW, AV_CODEC_ID_PCM_MULAW,
                                            AV_CODEC_ID_PCM_S16LE, AV_CODEC_ID_PCM_S16BE});
-    remuxer = picture ? Remuxer::of(*picture, sound, m_mustRestart, m_dataHandler) : nullptr;
+    remuxer = video ? Remuxer::of(*video, sound, m_mustRestart, m_dataHandler) : nullptr;
     if (!remuxer)
         return {StreamEnd::Unsupported, "no decodable video track"};
     setResponse(std::nullopt);

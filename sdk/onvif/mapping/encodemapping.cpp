@@ -220,9 +220,9 @@ void fillBlock(EncodeCapabilityBlock &block, const Stream &stream)
         if (code < 0)
             continue;
         block.compressionMask |= 1U << static_cast<unsigned>(code);
-        PictureSizeList &list = block.sizesByCompression[static_cast<std::size_t>(code)];
+        FrameSizeList &list = block.sizesByCompression[static_cast<std::size_t>(code)];
         for (const auto &[width, height] : options.sizes) {
-            if (list.count < maximumPictureSizes && width <= 65535 && height <= 65535)
+            if (list.count < maximumFrameSizes && width <= 65535 && height <= 65535)
                 list.sizes[list.count++] = {.width = static_cast<std::uint16_t>(width),
                                             .height = static_cast<std::uint16_t>(height)};
         }

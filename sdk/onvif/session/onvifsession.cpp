@@ -33,7 +33,7 @@ bool hasAdministrator(const std::vector<DeviceUser> &users)
                        [](const DeviceUser &user) { return user.level == administrator; });
 }
 
-std::int64_t pictureArea(const MediaProfile &profile)
+std::int64_t frameArea(const MediaProfile &profile)
 {
     return profile.video ? static_cast<std::int64_t>(profile.video->width) * profile.video->height : 0;
 }
@@ -58,7 +58,7 @@ std::vector<MediaChannel> channelsOf(const std::vector<MediaProfile> &profiles)
         // Profiles with the same encoder are the same stream: the first of them represents it.
         std::stable_sort(ofSource.begin(), ofSource.end(),
                          [](const MediaProfile *left, const MediaProfile *right) {
-                             return pictureArea(*left) > pictureArea(*right);
+                             return frameArea(*left) > frameArea(*right);
                          });
         const MediaProfile *main = ofSource.front();
         const auto sub = std::find_if(ofSource.begin(), ofSource.end(), [main](const MediaProfile *profile) {

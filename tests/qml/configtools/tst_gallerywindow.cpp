@@ -1,5 +1,5 @@
 #include "device/batch/batches.h"
-#include "tests/gallery/picturesbackend.h"
+#include "tests/gallery/imagesbackend.h"
 #include "tests/qml/configtools/qmlscene.h"
 
 #include <QGuiApplication>
@@ -22,7 +22,7 @@ class TestGalleryWindow : public QObject
     Q_OBJECT
 private:
     QTemporaryDir m_folder;
-    std::unique_ptr<PicturesFactory> m_site;
+    std::unique_ptr<ImagesFactory> m_site;
     std::unique_ptr<BatchEngine> m_batchEngine;
     std::unique_ptr<Batches> m_batches;
     std::unique_ptr<QQmlEngine> m_engine;
@@ -31,7 +31,7 @@ private:
     QObject *m_gallery = nullptr;
     std::unique_ptr<QSignalSpy> m_watched;
 
-    [[nodiscard]] PicturesBackEnd &devices() const { return *m_site->devices; }
+    [[nodiscard]] ImagesBackEnd &devices() const { return *m_site->devices; }
 
     [[nodiscard]] QQuickItem *find(const QString &name) const
     {
@@ -67,7 +67,7 @@ private Q_SLOTS:
     void init()
     {
         QDir::setCurrent(m_folder.path());
-        m_site = std::make_unique<PicturesFactory>();
+        m_site = std::make_unique<ImagesFactory>();
         m_batchEngine = std::make_unique<BatchEngine>(nullptr);
         m_batches = std::make_unique<Batches>(m_site->factory, *m_batchEngine, [] { return 2; });
         m_engine = std::make_unique<QQmlEngine>();
@@ -100,10 +100,10 @@ private Q_SLOTS:
         QTRY_COMPARE(textIn(2, "galleryState"), QStringLiteral("获取中"));
         QTRY_COMPARE(textIn(1, "galleryMessage"), QStringLiteral("密码错误"));
         QCOMPARE(textIn(1, "galleryState"), QStringLiteral("失败"));
-        QVERIFY(!inCell(1, "galleryPicture"));
-        QTRY_VERIFY(inCell(0, "galleryPicture") && !inCell(0, "galleryMessage"));
+        QVERIFY(!inCell(1, "galleryImage"));
+        QTRY_VERIFY(inCell(0, "galleryImage") && !inCell(0, "galleryMessage"));
         QCOMPARE(textIn(0, "galleryTitle"), "gate");
-        QCOMPARE(textIn(0, "galleryAddress"), PicturesBackEnd::ipportOf(20));
+        QCOMPARE(textIn(0, "galleryAddress"), ImagesBackEnd::ipportOf(20));
         QVERIFY(find("galleryStopButton") && !find("galleryAgainButton"));
         QTRY_VERIFY(find("gallerySummary")->property("text").toString().contains("2 / 3"));
         devices().release();
@@ -123,7 +123,7 @@ private Q_SLOTS:
         QCOMPARE(current(), 2);
         QTest::keyClick(m_window, Qt::Key_Return);
         QCOMPARE(m_watched->size(), 1);
-        QCOMPARE(m_watched->last(), (QVariantList{PicturesBackEnd::ipportOf(21), 1}));
+        QCOMPARE(m_watched->last(), (QVariantList{ImagesBackEnd::ipportOf(21), 1}));
         QTest::keyClick(m_window, Qt::Key_Down);
         QCOMPARE(current(), 2 + columns());
         QTest::keyClick(m_window, Qt::Key_End);
@@ -135,7 +135,7 @@ private Q_SLOTS:
         static_cast<void>(devices().takeOrders());
         QTest::keyClick(m_window, Qt::Key_R);
         QTRY_VERIFY(!m_batches->isRunning());
-        QCOMPARE(devices().takeOrders(), QStringList(PicturesBackEnd::ipportOf(20) + " -1"));
+        QCOMPARE(devices().takeOrders(), QStringList(ImagesBackEnd::ipportOf(20) + " -1"));
         QTest::keyClick(m_window, Qt::Key_F5);
         QTRY_VERIFY(!m_batches->isRunning());
         QCOMPARE(devices().takeOrders().size(), 20);
@@ -160,7 +160,7 @@ private Q_SLOTS:
         click("galleryAgain1");
         QCOMPARE(m_watched->size(), 1); // has a different effect
         QTRY_VERIFY(!m_batches->isRunning());
-        QCOMPARE(devices().takeOrders(), QStringList(PicturesBackEnd::ipportOf(21) + " -1"));
+        QCOMPARE(devices().takeOrders(), QStringList(ImagesBackEnd::ipportOf(21) + " -1"));
         QCOMPARE(current(), 1);
     }
 
@@ -171,10 +171,10 @@ private Q_SLOTS:
         open();
         const auto *grid = find("galleryGrid");
         QVERIFY(grid->property("contentItem").value<QQuickItem *>()->childItems().size() < 60);
-        QQuickItem *picture = nullptr;
-        QTRY_VERIFY((picture = inCell(0, "galleryPicture")) && picture->property("status").toInt() == 1);
-        QVERIFY(picture->implicitWidth() <= picture->width() + 1); // of a file of 960
-        QVERIFY(picture->property("asynchronous").toBool());
+        QQuickItem *image = nullptr;
+        QTRY_VERIFY((image = inCell(0, "galleryImage")) && image->property("status").toInt() == 1);
+        QVERIFY(image->implicitWidth() <= image->width() + 1); // of a file of 960
+        QVERIFY(image->property("asynchronous").toBool());
     }
 };
 

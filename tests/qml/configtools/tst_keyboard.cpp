@@ -281,9 +281,9 @@ private Q_SLOTS:
             constexpr int size = 12; // inside its border, whose corners are transparent
             const QQuickItem *item = find(name);
             const QPoint middle = item->mapToScene({item->width() / 2, item->height() / 2}).toPoint();
-            const QImage picture = m_window->grabWindow();
-            const qreal scale = picture.devicePixelRatio();
-            return picture.copy(
+            const QImage image = m_window->grabWindow();
+            const qreal scale = image.devicePixelRatio();
+            return image.copy(
                 QRect((middle - QPoint(size / 2, size / 2)) * scale, QSize(size, size) * scale));
         };
         const QImage box = boxOf("checkAllBox");

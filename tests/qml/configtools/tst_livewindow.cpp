@@ -39,8 +39,8 @@ public:
         ~Session() override { m_open->removeOne(ipportOf(m_number)); }
         [[nodiscard]] qint64 handle() const override { return m_number; }
         [[nodiscard]] int channelCount() const override { return 1; }
-        [[nodiscard]] OwnPicture takePicture(int channel, const QString &folder,
-                                             const StepControl &) const override
+        [[nodiscard]] OwnImage takeImage(int channel, const QString &folder,
+                                         const StepControl &) const override
         {
             return {.message = QStringLiteral("%1 of %2 for %3").arg(channel).arg(m_number).arg(folder)};
         }

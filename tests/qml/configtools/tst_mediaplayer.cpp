@@ -69,12 +69,12 @@ private:
     {
         QVERIFY(QMetaObject::invokeMethod(m_player, "takeCheckResult", Q_ARG(QVariant, isThere)));
     }
-    void deliverPicture() const
+    void deliverFrame() const
     {
-        const PlainPicture picture(4, 2, 16, 128, 128);
+        const PlainFrame frame(4, 2, 16, 128, 128);
         const auto *video = m_player->findChild<VideoItem *>();
         QTRY_VERIFY(video->isStreaming());
-        QVERIFY(m_fake->decoder->deliver(picture.bytes, picture.information));
+        QVERIFY(m_fake->decoder->deliver(frame.bytes, frame.information));
         QTRY_VERIFY(get("playing").toBool());
     }
 
@@ -122,7 +122,7 @@ private Q_SLOTS:
         m_net->refuse({});
         QVERIFY(QMetaObject::invokeMethod(m_player, "reconnect"));
         respond(true);
-        deliverPicture();
+        deliverFrame();
         QVERIFY(!get("waitingForRetry").toBool());
 
         const QSignalSpy failed(m_player, SIGNAL(failed()));
@@ -130,7 +130,7 @@ private Q_SLOTS:
         QTRY_COMPARE(failed.size(), 1);
         QVERIFY(get("waitingForRetry").toBool() && !get("playing").toBool());
         respond(true);
-        deliverPicture();
+        deliverFrame();
     }
 
     void withoutASubStreamTheMainOneIsShown()
@@ -139,7 +139,7 @@ private Q_SLOTS:
         set("active", true);
         respond(true);
         QTRY_COMPARE(m_net->started(), (QStringList{"sub of 2", "main of 2"}));
-        deliverPicture();
+        deliverFrame();
         set("channel", 3); // may have a sub stream
         respond(true);
         QTRY_COMPARE(m_net->started().mid(2), (QStringList{"sub of 3", "main of 3"}));

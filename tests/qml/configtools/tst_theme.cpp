@@ -25,12 +25,12 @@ qreal contrast(const QColor &one, const QColor &other)
 }
 
 /// The lowest row of dark pixels in a part of the image; -1 if there is none.
-int lowestSign(const QImage &picture, const QRect &part)
+int lowestSign(const QImage &image, const QRect &part)
 {
     constexpr int dark = 120;
     for (int y = part.bottom(); y >= part.top(); --y) {
         for (int x = part.left(); x <= part.right(); ++x) {
-            if (picture.pixelColor(x, y).lightness() < dark)
+            if (image.pixelColor(x, y).lightness() < dark)
                 return y;
         }
     }
@@ -155,11 +155,11 @@ private Q_SLOTS:
                                                   same + "OVTextField { x: 100; " + same);
         QVERIFY(window);
         QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-        const QImage picture = window->grabWindow();
+        const QImage image = window->grabWindow();
         // The areas of the label, and of the field without its frame.
-        const int line = lowestSign(picture, {0, 4, 80, 24});
+        const int line = lowestSign(image, {0, 4, 80, 24});
         QVERIFY(line > 0);
-        QCOMPARE(lowestSign(picture, {106, 4, 68, 24}), line);
+        QCOMPARE(lowestSign(image, {106, 4, 68, 24}), line);
     }
 
     void theWindowChangesImmediately()
@@ -168,9 +168,9 @@ private Q_SLOTS:
         for (const bool isDark : {false, true, false}) {
             theme->setProperty("dark", isDark);
             const auto isPainted = [&] {
-                const QImage picture = m_window->grabWindow();
-                return picture.pixelColor(4, 4) == colour(isDark, "background") &&
-                       picture.pixelColor(30, 36) == colour(isDark, "surface"); // the colour of the button
+                const QImage image = m_window->grabWindow();
+                return image.pixelColor(4, 4) == colour(isDark, "background") &&
+                       image.pixelColor(30, 36) == colour(isDark, "surface"); // the colour of the button
             };
             QTRY_VERIFY(isPainted());
         }

@@ -98,7 +98,7 @@ void callAll(ConfigLibrary &config, DecoderLibrary &decoder, P2PAgentLibrary &ag
     decoder.DecoderCloseStream(1);
     decoder.DecoderFreePort(1);
     decoder.DecoderGetStatus(1, status);
-    decoder.DecoderSaveFrame(nullptr, 1, 1, SavedPictureType::Jpeg, 1, "", PictureColour::Bt601Full);
+    decoder.DecoderSaveFrame(nullptr, 1, 1, SavedImageType::Jpeg, 1, "", FrameColour::Bt601Full);
     agent.OAgent_ClientInit({});
     agent.OAgent_SetMessageCallback(nullptr, nullptr);
     agent.OAgent_ClientGetDeviceLocalPort("", 1, nullptr, 0, number);

@@ -23,7 +23,7 @@ Patches Patches::numbered(int number)
     return {{{{50 + step, 90, 160}, {200 - step, 160, 90}, {80 + step, 170, 170}, {180 - step, 100, 100}}}};
 }
 
-LiveStream::LiveStream(const PictureFormat *pictures, const SoundFormat *sound)
+LiveStream::LiveStream(const VideoFormat *video, const SoundFormat *sound)
 {
     avformat_alloc_output_context2(&m_format, nullptr, "matroska", nullptr);
     constexpr int bufferSize = 4096;
@@ -32,16 +32,16 @@ LiveStream::LiveStream(const PictureFormat *pictures, const SoundFormat *sound)
     require(m_format && m_output, "no memory");
     m_output->seekable = 0;
     m_format->pb = m_output.get();
-    if (pictures) {
-        m_pictureEncoder = addTrack(pictures->encoder, pictures->options, [&](AVCodecContext &context) {
-            context.width = pictures->width;
-            context.height = pictures->height;
-            context.pix_fmt = pictures->pixels;
-            context.time_base = {1, pictures->rate};
-            context.framerate = {pictures->rate, 1};
-            context.gop_size = pictures->keyEvery;
-            context.colorspace = pictures->colourSpace;
-            context.color_range = pictures->range;
+    if (video) {
+        m_videoEncoder = addTrack(video->encoder, video->options, [&](AVCodecContext &context) {
+            context.width = video->width;
+            context.height = video->height;
+            context.pix_fmt = video->pixels;
+            context.time_base = {1, video->rate};
+            context.framerate = {video->rate, 1};
+            context.gop_size = video->keyEvery;
+            context.colorspace = video->colourSpace;
+            context.color_range = video->range;
             context.thread_count = 1;
             context.flags |= AV_CODEC_FLAG_QSCALE; // for MJPEG
             context.global_quality = 2 * FF_QP2LAMBDA;
@@ -93,25 +93,25 @@ AvPointer<AVCodecContext> LiveStream::addTrack(const char *encoder, const char *
     return context;
 }
 
-QByteArray LiveStream::picture(const Patches &patches)
+QByteArray LiveStream::frame(const Patches &patches)
 {
     const AvPointer<AVFrame> frame(av_frame_alloc());
-    frame->format = m_pictureEncoder->pix_fmt;
-    frame->width = m_pictureEncoder->width;
-    frame->height = m_pictureEncoder->height;
+    frame->format = m_videoEncoder->pix_fmt;
+    frame->width = m_videoEncoder->width;
+    frame->height = m_videoEncoder->height;
     require(av_frame_get_buffer(frame.get(), 0) == 0, "no memory");
     fill(*frame, patches);
-    frame->pts = m_pictures++;
-    frame->quality = m_pictureEncoder->global_quality;
-    encode(*m_pictureEncoder, frame.get(), 0);
+    frame->pts = m_frames++;
+    frame->quality = m_videoEncoder->global_quality;
+    encode(*m_videoEncoder, frame.get(), 0);
     return takeBytes();
 }
 
-QByteArray LiveStream::pictures(int count, int first)
+QByteArray LiveStream::frames(int count, int first)
 {
     QByteArray bytes;
     for (int number = first; number < first + count; ++number)
-        bytes += picture(Patches::numbered(number));
+        bytes += frame(Patches::numbered(number));
     return bytes;
 }
 
@@ -143,7 +143,7 @@ QByteArray LiveStream::tone(int samples)
         }
         frame->pts = m_samples;
         m_samples += piece;
-        encode(*m_soundEncoder, frame.get(), m_pictureEncoder ? 1 : 0);
+        encode(*m_soundEncoder, frame.get(), m_videoEncoder ? 1 : 0);
     }
     return takeBytes();
 }
@@ -162,7 +162,7 @@ void LiveStream::encode(AVCodecContext &encoder, const AVFrame *frame, int track
 
 void LiveStream::fill(AVFrame &frame, const Patches &patches) const
 {
-    const AVPixFmtDescriptor *descriptor = av_pix_fmt_desc_get(m_pictureEncoder->pix_fmt);
+    const AVPixFmtDescriptor *descriptor = av_pix_fmt_desc_get(m_videoEncoder->pix_fmt);
     for (int component = 0; component < descriptor->nb_components; ++component) {
         const AVComponentDescriptor &layout = descriptor->comp[component];
         const bool isChroma = component > 0 && (descriptor->flags & AV_PIX_FMT_FLAG_RGB) == 0;

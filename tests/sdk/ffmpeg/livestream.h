@@ -32,7 +32,7 @@ struct Patches
 };
 
 /// The encoding of the frames.
-struct PictureFormat
+struct VideoFormat
 {
     const char *encoder = "libx264";
     int width = 64;
@@ -57,9 +57,9 @@ struct SoundFormat
 class LiveStream
 {
 public:
-    explicit LiveStream(const PictureFormat &pictures) : LiveStream(&pictures, nullptr) {}
+    explicit LiveStream(const VideoFormat &video) : LiveStream(&video, nullptr) {}
     explicit LiveStream(const SoundFormat &sound) : LiveStream(nullptr, &sound) {}
-    LiveStream(const PictureFormat &pictures, const SoundFormat &sound) : LiveStream(&pictures, &sound) {}
+    LiveStream(const VideoFormat &video, const SoundFormat &sound) : LiveStream(&video, &sound) {}
     ~LiveStream();
     LiveStream(const LiveStream &) = delete;
     LiveStream &operator=(const LiveStream &) = delete;
@@ -68,17 +68,17 @@ public:
     [[nodiscard]] const QByteArray &head() const { return m_head; }
 
     /// The bytes of the next frame.
-    [[nodiscard]] QByteArray picture(const Patches &patches);
+    [[nodiscard]] QByteArray frame(const Patches &patches);
 
     /// The bytes of several frames, numbered from `first` on.
-    [[nodiscard]] QByteArray pictures(int count, int first = 0);
+    [[nodiscard]] QByteArray frames(int count, int first = 0);
 
     /// The bytes of the next samples: a tone of 500 Hz and a quarter of the largest amplitude. The container
     /// keeps the last packet until something else is added.
     [[nodiscard]] QByteArray tone(int samples);
 
 private:
-    LiveStream(const PictureFormat *pictures, const SoundFormat *sound);
+    LiveStream(const VideoFormat *video, const SoundFormat *sound);
     AvPointer<AVCodecContext> addTrack(const char *encoder, const char *options,
                                        const std::function<void(AVCodecContext &)> &set);
     void encode(AVCodecContext &encoder, const AVFrame *frame, int track);
@@ -88,9 +88,9 @@ private:
 
     AVFormatContext *m_format = nullptr;
     AvPointer<AVIOContext> m_output;
-    AvPointer<AVCodecContext> m_pictureEncoder;
+    AvPointer<AVCodecContext> m_videoEncoder;
     AvPointer<AVCodecContext> m_soundEncoder;
-    std::int64_t m_pictures = 0;
+    std::int64_t m_frames = 0;
     std::int64_t m_samples = 0;
     QByteArray m_bytes;
     QByteArray m_head;

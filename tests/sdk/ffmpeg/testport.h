@@ -49,7 +49,7 @@ public:
                      [type](const Delivered &one) { return one.information.type == type; });
         return found;
     }
-    [[nodiscard]] QList<Delivered> pictures() const { return all(DecodedFrameType::Picture); }
+    [[nodiscard]] QList<Delivered> frames() const { return all(DecodedFrameType::Video); }
     [[nodiscard]] QList<Delivered> sounds() const { return all(DecodedFrameType::Sound); }
 
     /// The total number of samples.
@@ -141,17 +141,17 @@ inline double processMegabytes(const QByteArray &name)
 
 /// The largest mean difference of a plane to the expected frame. The encoder causes about 1. Very large for a
 /// frame with the wrong number of bytes.
-inline double distance(const Delivered &picture, const Patches &patches)
+inline double distance(const Delivered &frame, const Patches &patches)
 {
     constexpr double far = 255;
-    const int width = picture.information.width;
-    const int height = picture.information.height;
+    const int width = frame.information.width;
+    const int height = frame.information.height;
     const int halfWidth = (width + 1) / 2;
     const int halfHeight = (height + 1) / 2;
-    if (width <= 0 || picture.bytes.size() != width * height + 2 * halfWidth * halfHeight)
+    if (width <= 0 || frame.bytes.size() != width * height + 2 * halfWidth * halfHeight)
         return far;
     double largest = 0;
-    const auto *value = reinterpret_cast<const std::uint8_t *>(picture.bytes.constData());
+    const auto *value = reinterpret_cast<const std::uint8_t *>(frame.bytes.constData());
     for (int plane = 0; plane < 3; ++plane) {
         const int wide = plane == 0 ? width : halfWidth;
         const int high = plane == 0 ? height : halfHeight;

@@ -7,12 +7,12 @@
 using namespace sdk;
 using namespace sdk::ffmpeg;
 
-Q_DECLARE_METATYPE(PictureFormat)
+Q_DECLARE_METATYPE(VideoFormat)
 
 namespace {
 
 constexpr double nearEnough = 4;
-const PictureFormat mjpeg{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P};
+const VideoFormat mjpeg{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P};
 
 QByteArray randomBytes(qsizetype count, unsigned seed)
 {
@@ -31,71 +31,71 @@ class FfmpegDamageTest : public QObject
 private Q_SLOTS:
     void continuesAfterAGap_data()
     {
-        // inPicture: the start of the gap, in bytes of the frame with that number
-        const auto row = dataTable<PictureFormat, int, int, int>({"format", "inPicture", "begin", "size"});
-        const PictureFormat h264{.encoder = "libx264"};
-        const PictureFormat h265{.encoder = "libx265"};
-        row("H.264, a byte of a picture", h264, 7, 60, 1);
-        row("H.264, several pictures", h264, 6, 60, 1500);
-        row("H.265, several pictures", h265, 6, 60, 1500);
+        // inFrame: the start of the gap, in bytes of the frame with that number
+        const auto row = dataTable<VideoFormat, int, int, int>({"format", "inFrame", "begin", "size"});
+        const VideoFormat h264{.encoder = "libx264"};
+        const VideoFormat h265{.encoder = "libx265"};
+        row("H.264, a byte of a frame", h264, 7, 60, 1);
+        row("H.264, several frames", h264, 6, 60, 1500);
+        row("H.265, several frames", h265, 6, 60, 1500);
         row("MJPEG, the size of a block", mjpeg, 7, 18, 2);
     }
 
     void continuesAfterAGap()
     {
-        QFETCH(PictureFormat, format);
-        QFETCH(int, inPicture);
+        QFETCH(VideoFormat, format);
+        QFETCH(int, inFrame);
         QFETCH(int, begin);
         QFETCH(int, size);
         constexpr int frames = 400;
         LiveStream stream(format);
-        QByteArray bytes = stream.head() + stream.pictures(inPicture);
+        QByteArray bytes = stream.head() + stream.frames(inFrame);
         const qsizetype hole = bytes.size() + begin;
         // The demuxer may skip some kilobytes before it resynchronises: many of these small frames.
-        bytes += stream.pictures(frames - inPicture, inPicture);
+        bytes += stream.frames(frames - inFrame, inFrame);
         QVERIFY(bytes.size() > hole + size);
         bytes.remove(hole, size);
         TestPort port;
         QVERIFY(port.push(bytes, 777));
         QTRY_VERIFY(port.isIdle());
 
-        const QList<Delivered> pictures = port.receiver.pictures();
-        QVERIFY2(pictures.size() >= inPicture + 5 && pictures.size() < frames,
-                 qPrintable(QString::number(pictures.size())));
-        for (int number = 0; number < inPicture; ++number)
-            QVERIFY(distance(pictures.at(number), Patches::numbered(number)) < nearEnough);
+        const QList<Delivered> delivered = port.receiver.frames();
+        QVERIFY2(delivered.size() >= inFrame + 5 && delivered.size() < frames,
+                 qPrintable(QString::number(delivered.size())));
+        for (int number = 0; number < inFrame; ++number)
+            QVERIFY(distance(delivered.at(number), Patches::numbered(number)) < nearEnough);
         // The frames from the last key frame on are complete again.
         for (int fromEnd = 1; fromEnd <= 5; ++fromEnd) {
-            const Delivered &picture = pictures.at(pictures.size() - fromEnd);
-            QVERIFY(distance(picture, Patches::numbered(frames - fromEnd)) < nearEnough);
+            const Delivered &frame = delivered.at(delivered.size() - fromEnd);
+            QVERIFY(distance(frame, Patches::numbered(frames - fromEnd)) < nearEnough);
         }
         QVERIFY(port.status().damages > 0);
     }
 
     void showsNothingBeforeAKeyFrame_data()
     {
-        const auto row = dataTable<PictureFormat>({"format"});
+        const auto row = dataTable<VideoFormat>({"format"});
         row("H.264", {.encoder = "libx264"});
         row("H.265", {.encoder = "libx265"});
     }
 
     void showsNothingBeforeAKeyFrame()
     {
-        QFETCH(PictureFormat, format);
+        QFETCH(VideoFormat, format);
         LiveStream stream(format);
-        static_cast<void>(stream.pictures(2)); // not pushed
+        static_cast<void>(stream.frames(2)); // not pushed
         TestPort port;
-        QVERIFY(port.push(stream.head() + stream.pictures(6, 2)));
-        QTRY_COMPARE(port.receiver.pictures().size(), 3); // numbers 5, 6 and 7
+        QVERIFY(port.push(stream.head() + stream.frames(6, 2)));
+        QTRY_COMPARE(port.receiver.frames().size(), 3); // numbers 5, 6 and 7
         for (int index = 0; index < 3; ++index)
-            QVERIFY(distance(port.receiver.pictures().at(index), Patches::numbered(5 + index)) < nearEnough);
+            QVERIFY(distance(port.receiver.frames().at(index), Patches::numbered(5 + index)) < nearEnough);
     }
 
     void acceptsTheNextStream_data()
     {
         const auto row = dataTable<QByteArray>({"before"});
-        LiveStream h264(PictureFormat{.encoder = "libx264"}, SoundFormat{.encoder = "aac", .rate = 16000});
-        const QByteArray whole = h264.head() + h264.pictures(20) + h264.tone(16000);
+        LiveStream h264(VideoFormat{.encoder = "libx264"}, SoundFormat{.encoder = "aac", .rate = 16000});
+        const QByteArray whole = h264.head() + h264.frames(20) + h264.tone(16000);
         row("random bytes", randomBytes(300000, 1));
         row("a stream and random bytes", whole + randomBytes(300000, 3));
         row("a beginning of a header", QByteArray("\x1A\x45\xDF\xA3\x1A\x45\xDF", 7));
@@ -117,15 +117,15 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, before);
         LiveStream next(
-            PictureFormat{.encoder = "mjpeg", .width = 33, .height = 21, .pixels = AV_PIX_FMT_YUVJ420P});
+            VideoFormat{.encoder = "mjpeg", .width = 33, .height = 21, .pixels = AV_PIX_FMT_YUVJ420P});
         TestPort port;
         QVERIFY(port.push(before, 1000));
         QTRY_VERIFY(port.isIdle());
-        const qsizetype delivered = port.receiver.pictures().size();
-        QVERIFY(port.push(next.head() + next.pictures(2)));
-        QTRY_VERIFY(port.receiver.pictures().size() >= delivered + 2);
-        QCOMPARE(port.receiver.pictures().last().information.width, 33);
-        QVERIFY(distance(port.receiver.pictures().last(), Patches::numbered(1)) < nearEnough);
+        const qsizetype delivered = port.receiver.frames().size();
+        QVERIFY(port.push(next.head() + next.frames(2)));
+        QTRY_VERIFY(port.receiver.frames().size() >= delivered + 2);
+        QCOMPARE(port.receiver.frames().last().information.width, 33);
+        QVERIFY(distance(port.receiver.frames().last(), Patches::numbered(1)) < nearEnough);
         QCOMPARE(port.videoCodec(), QStringLiteral("MJPEG"));
         QCOMPARE(port.audioCodec(), QString());
     }
@@ -151,22 +151,22 @@ private Q_SLOTS:
     void limitsFrameSizes_data()
     {
         const auto row = dataTable<QByteArray>({"bytes"});
-        LiveStream pictures(mjpeg);
-        const auto withSize = [&pictures](int width, int height) {
-            QByteArray picture = pictures.pictures(1);
-            const qsizetype frame =
-                picture.indexOf(QByteArray("\xFF\xC0", 2)); // its size, precision, height, width
+        LiveStream stream(mjpeg);
+        const auto withSize = [&stream](int width, int height) {
+            QByteArray bytes = stream.frames(1);
+            const qsizetype header =
+                bytes.indexOf(QByteArray("\xFF\xC0", 2)); // its size, precision, height, width
             for (int byte = 0; byte < 2; ++byte) {
-                picture[frame + 5 + byte] = static_cast<char>(height >> (8 * (1 - byte)));
-                picture[frame + 7 + byte] = static_cast<char>(width >> (8 * (1 - byte)));
+                bytes[header + 5 + byte] = static_cast<char>(height >> (8 * (1 - byte)));
+                bytes[header + 7 + byte] = static_cast<char>(width >> (8 * (1 - byte)));
             }
-            return pictures.head() + picture;
+            return stream.head() + bytes;
         };
         row("MJPEG of 30000 x 30000", withSize(30000, 30000));
         row("MJPEG of 65500 x 16", withSize(65500, 16));
         row("MJPEG of 0 x 36", withSize(0, 36));
-        LiveStream tall(PictureFormat{.encoder = "libx264", .width = 32, .height = 9000});
-        row("H.264 of 32 x 9000", tall.head() + tall.pictures(2));
+        LiveStream tall(VideoFormat{.encoder = "libx264", .width = 32, .height = 9000});
+        row("H.264 of 32 x 9000", tall.head() + tall.frames(2));
     }
 
     void limitsFrameSizes()
@@ -176,8 +176,8 @@ private Q_SLOTS:
         TestPort port;
         const double before = processMegabytes("VmPeak:");
         QVERIFY(port.push(bytes));
-        QVERIFY(port.push(next.head() + next.pictures(2)));
-        QTRY_COMPARE(port.receiver.pictures().size(), 2);
+        QVERIFY(port.push(next.head() + next.frames(2)));
+        QTRY_COMPARE(port.receiver.frames().size(), 2);
         QVERIFY(port.status().damages > 0);
         QVERIFY(processMegabytes("VmPeak:") - before < 500);
     }
@@ -189,18 +189,18 @@ private Q_SLOTS:
             "\x1F\x43\xB6\x75\x01\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xE7\x81\x01\xA3\x1F\xFF\xFF\xFE\x81", 21);
         LiveStream stream(mjpeg);
         TestPort port;
-        QVERIFY(port.push(stream.head() + stream.pictures(2)));
-        QTRY_COMPARE(port.receiver.pictures().size(), 2);
+        QVERIFY(port.push(stream.head() + stream.frames(2)));
+        QTRY_COMPARE(port.receiver.frames().size(), 2);
         QVERIFY(port.push(swallow));
         const double before = processMegabytes("VmRSS:");
-        const QByteArray more = stream.pictures(20, 2);
+        const QByteArray more = stream.frames(20, 2);
         for (int sent = 0; sent < 40 * 1024 * 1024; sent += more.size())
             QVERIFY(QTest::qWaitFor([&] { return port.push(more); }));
         QTRY_VERIFY(port.isIdle());
         QVERIFY(processMegabytes("VmRSS:") - before < 30);
         QVERIFY(port.status().damages > 0);
-        QVERIFY(port.push(stream.head() + stream.pictures(2))); // as when the view requests the stream again
-        QTRY_COMPARE(port.receiver.pictures().size(), 4);
+        QVERIFY(port.push(stream.head() + stream.frames(2))); // as when the view requests the stream again
+        QTRY_COMPARE(port.receiver.frames().size(), 4);
     }
 };
 

@@ -8,7 +8,7 @@
 using namespace sdk;
 using namespace sdk::ffmpeg;
 
-Q_DECLARE_METATYPE(PictureFormat)
+Q_DECLARE_METATYPE(VideoFormat)
 Q_DECLARE_METATYPE(SoundFormat)
 
 namespace {
@@ -43,7 +43,7 @@ class FfmpegDecoderTest : public QObject
 private Q_SLOTS:
     void decodesFrames_data()
     {
-        const auto row = dataTable<PictureFormat, QString>({"format", "codec"});
+        const auto row = dataTable<VideoFormat, QString>({"format", "codec"});
         row("H.264", {.encoder = "libx264"}, "H.264");
         row("H.264, cropped to 1080 lines", {.encoder = "libx264", .width = 192, .height = 1080, .rate = 12},
             "H.264");
@@ -59,25 +59,24 @@ private Q_SLOTS:
 
     void decodesFrames()
     {
-        QFETCH(PictureFormat, format);
+        QFETCH(VideoFormat, format);
         QFETCH(QString, codec);
         constexpr int count = 7; // twice the size of the ring buffer
         LiveStream stream(format);
         TestPort port;
-        QVERIFY(port.push(stream.head() + stream.pictures(count)));
-        QTRY_COMPARE(port.receiver.pictures().size(), count);
-        const QList<Delivered> pictures = port.receiver.pictures();
+        QVERIFY(port.push(stream.head() + stream.frames(count)));
+        QTRY_COMPARE(port.receiver.frames().size(), count);
+        const QList<Delivered> frames = port.receiver.frames();
         for (int number = 0; number < count; ++number) {
-            const Delivered &picture = pictures.at(number);
-            QCOMPARE(picture.information.width, format.width);
-            QCOMPARE(picture.information.height, format.height);
-            QCOMPARE(picture.information.rate, format.rate);
-            QVERIFY2(distance(picture, Patches::numbered(number)) < nearEnough,
-                     qPrintable(QStringLiteral("picture %1 is off by %2")
+            const Delivered &frame = frames.at(number);
+            QCOMPARE(frame.information.width, format.width);
+            QCOMPARE(frame.information.height, format.height);
+            QCOMPARE(frame.information.rate, format.rate);
+            QVERIFY2(distance(frame, Patches::numbered(number)) < nearEnough,
+                     qPrintable(QStringLiteral("frame %1 is off by %2")
                                     .arg(number)
-                                    .arg(distance(picture, Patches::numbered(number)))));
-            QVERIFY(picture.thread == pictures.first().thread &&
-                    picture.thread != std::this_thread::get_id());
+                                    .arg(distance(frame, Patches::numbered(number)))));
+            QVERIFY(frame.thread == frames.first().thread && frame.thread != std::this_thread::get_id());
         }
         QCOMPARE(port.videoCodec(), codec);
         QCOMPARE(port.audioCodec(), QString());
@@ -86,43 +85,43 @@ private Q_SLOTS:
 
     void decodesColours_data()
     {
-        const auto addRow = dataTable<PictureFormat, int>({"format", "colour"});
-        const auto row = [&addRow](const char *name, const PictureFormat &format, PictureColour colour) {
+        const auto addRow = dataTable<VideoFormat, int>({"format", "colour"});
+        const auto row = [&addRow](const char *name, const VideoFormat &format, FrameColour colour) {
             addRow(name, format, static_cast<int>(colour));
         };
-        row("says nothing, small", {}, PictureColour::Bt601Limited);
-        row("says nothing, 720 lines", {.width = 64, .height = 720}, PictureColour::Bt709Limited);
-        row("says BT.709, small", {.colourSpace = AVCOL_SPC_BT709}, PictureColour::Bt709Limited);
+        row("says nothing, small", {}, FrameColour::Bt601Limited);
+        row("says nothing, 720 lines", {.width = 64, .height = 720}, FrameColour::Bt709Limited);
+        row("says BT.709, small", {.colourSpace = AVCOL_SPC_BT709}, FrameColour::Bt709Limited);
         row("says BT.709, full", {.colourSpace = AVCOL_SPC_BT709, .range = AVCOL_RANGE_JPEG},
-            PictureColour::Bt709Full);
+            FrameColour::Bt709Full);
         row("says BT.601, 720 lines", {.width = 64, .height = 720, .colourSpace = AVCOL_SPC_SMPTE170M},
-            PictureColour::Bt601Limited);
-        row("says full", {.range = AVCOL_RANGE_JPEG}, PictureColour::Bt601Full);
+            FrameColour::Bt601Limited);
+        row("says full", {.range = AVCOL_RANGE_JPEG}, FrameColour::Bt601Full);
         row("H.265, full", {.encoder = "libx265", .colourSpace = AVCOL_SPC_BT709, .range = AVCOL_RANGE_JPEG},
-            PictureColour::Bt709Full);
+            FrameColour::Bt709Full);
         row("MJPEG, 720 lines",
             {.encoder = "mjpeg",
              .width = 64,
              .height = 720,
              .pixels = AV_PIX_FMT_YUVJ420P,
              .range = AVCOL_RANGE_JPEG},
-            PictureColour::Bt601Full);
+            FrameColour::Bt601Full);
         row("converted, full",
             {.pixels = AV_PIX_FMT_YUV444P, .colourSpace = AVCOL_SPC_BT709, .range = AVCOL_RANGE_JPEG},
-            PictureColour::Bt709Full);
+            FrameColour::Bt709Full);
     }
 
     void decodesColours()
     {
-        QFETCH(PictureFormat, format);
+        QFETCH(VideoFormat, format);
         QFETCH(int, colour);
         LiveStream stream(format);
         TestPort port;
-        QVERIFY(port.push(stream.head() + stream.pictures(1)));
-        QTRY_COMPARE(port.receiver.pictures().size(), 1);
-        const Delivered picture = port.receiver.pictures().first();
-        QCOMPARE(static_cast<int>(picture.information.colour), colour);
-        QVERIFY(distance(picture, Patches::numbered(0)) < nearEnough); // the values are those of the stream
+        QVERIFY(port.push(stream.head() + stream.frames(1)));
+        QTRY_COMPARE(port.receiver.frames().size(), 1);
+        const Delivered frame = port.receiver.frames().first();
+        QCOMPARE(static_cast<int>(frame.information.colour), colour);
+        QVERIFY(distance(frame, Patches::numbered(0)) < nearEnough); // the values are those of the stream
     }
 
     void decodesSound_data()
@@ -140,12 +139,12 @@ private Q_SLOTS:
         QFETCH(QString, codec);
         LiveStream stream({.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P}, format);
         TestPort port;
-        QVERIFY(port.push(stream.head() + stream.pictures(1)));
+        QVERIFY(port.push(stream.head() + stream.frames(1)));
         for (int piece = 0; piece < 10; ++piece)
             QVERIFY(port.push(stream.tone(format.rate / 10)));
         const int enough = format.rate * 9 / 10; // an encoder keeps its last packet
         QTRY_VERIFY(port.receiver.sampleCount() >= enough);
-        QCOMPARE(port.receiver.pictures().size(), 1);
+        QCOMPARE(port.receiver.frames().size(), 1);
 
         QList<std::int16_t> samples;
         for (const Delivered &sound : port.receiver.sounds()) {
@@ -182,19 +181,19 @@ private Q_SLOTS:
     {
         QFETCH(int, pieceSize);
         LiveStream first({.encoder = "libx264"}, SoundFormat{.encoder = "aac", .rate = 16000});
-        LiveStream second(PictureFormat{.encoder = "libx265", .width = 96, .height = 64});
+        LiveStream second(VideoFormat{.encoder = "libx265", .width = 96, .height = 64});
         QByteArray bytes = first.head();
         for (int number = 0; number < 4; ++number)
-            bytes += first.pictures(1, number) + first.tone(640);
-        bytes += second.head() + second.pictures(4, 4);
+            bytes += first.frames(1, number) + first.tone(640);
+        bytes += second.head() + second.frames(4, 4);
         TestPort port;
         QVERIFY(port.push(bytes, pieceSize));
-        QTRY_COMPARE(port.receiver.pictures().size(), 8);
-        const QList<Delivered> pictures = port.receiver.pictures();
+        QTRY_COMPARE(port.receiver.frames().size(), 8);
+        const QList<Delivered> frames = port.receiver.frames();
         for (int number = 0; number < 8; ++number)
-            QVERIFY(distance(pictures.at(number), Patches::numbered(number)) < nearEnough);
-        QCOMPARE(pictures.at(3).information.width, 64);
-        QCOMPARE(pictures.at(4).information.width, 96);
+            QVERIFY(distance(frames.at(number), Patches::numbered(number)) < nearEnough);
+        QCOMPARE(frames.at(3).information.width, 64);
+        QCOMPARE(frames.at(4).information.width, 96);
         QVERIFY(port.receiver.sampleCount() > 1000);
         QCOMPARE(port.videoCodec(), QStringLiteral("H.265"));
         QCOMPARE(port.status().damages, 0U);
@@ -211,20 +210,20 @@ private Q_SLOTS:
     void acceptsASplitHeader()
     {
         QFETCH(int, firstBytes);
-        LiveStream first(PictureFormat{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P});
-        LiveStream second(PictureFormat{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P});
+        LiveStream first(VideoFormat{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P});
+        LiveStream second(VideoFormat{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P});
         TestPort port;
-        const QByteArray next = second.head() + second.pictures(1, 1);
-        QVERIFY(port.push(first.head() + first.pictures(1) + next.first(firstBytes)));
+        const QByteArray next = second.head() + second.frames(1, 1);
+        QVERIFY(port.push(first.head() + first.frames(1) + next.first(firstBytes)));
         QTRY_COMPARE(port.status().waitingBytes, 0U); // the demuxer has read the start of the header
         QVERIFY(port.push(next.sliced(firstBytes)));
-        QTRY_COMPARE(port.receiver.pictures().size(), 2);
+        QTRY_COMPARE(port.receiver.frames().size(), 2);
         QCOMPARE(port.status().damages, 0U);
     }
 
     void showsTheFirstFrameImmediately_data()
     {
-        const auto row = dataTable<PictureFormat>({"format"});
+        const auto row = dataTable<VideoFormat>({"format"});
         row("H.264", {.encoder = "libx264"});
         row("H.265", {.encoder = "libx265"});
         row("MJPEG", {.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P});
@@ -232,36 +231,36 @@ private Q_SLOTS:
 
     void showsTheFirstFrameImmediately()
     {
-        QFETCH(PictureFormat, format);
+        QFETCH(VideoFormat, format);
         LiveStream stream(format, SoundFormat{}); // announced sound that does not arrive delays no frame
         TestPort port;
         QVERIFY(port.push(stream.head()));
         for (int number = 0; number < 4; ++number) {
-            QVERIFY(port.push(stream.pictures(1, number)));
-            QTRY_COMPARE(port.receiver.pictures().size(), number + 1);
+            QVERIFY(port.push(stream.frames(1, number)));
+            QTRY_COMPARE(port.receiver.frames().size(), number + 1);
         }
     }
 
     void ordersFramesByTime()
     {
         // Two frames between their reference frames, which are sent first.
-        PictureFormat format;
+        VideoFormat format;
         format.keyEvery = 30;
         format.options = "tune=film:bf=2:b_strategy=0:rc-lookahead=0:x264-params=scenecut=0";
         LiveStream stream(format);
-        LiveStream next(PictureFormat{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P});
+        LiveStream next(VideoFormat{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P});
         TestPort port;
-        QVERIFY(port.push(stream.head() + stream.pictures(12)));
-        QVERIFY(port.push(next.head() + next.pictures(1))); // waiting frames are delivered at the end
+        QVERIFY(port.push(stream.head() + stream.frames(12)));
+        QVERIFY(port.push(next.head() + next.frames(1))); // waiting frames are delivered at the end
         QTRY_COMPARE(port.videoCodec(), QStringLiteral("MJPEG"));
-        QTRY_COMPARE(port.receiver.pictures().last().information.colour, PictureColour::Bt601Full);
+        QTRY_COMPARE(port.receiver.frames().last().information.colour, FrameColour::Bt601Full);
         // The last frame follows those that the encoder has not returned.
-        const QList<Delivered> pictures = port.receiver.pictures();
-        QVERIFY(pictures.size() > 8);
-        for (int number = 0; number < pictures.size() - 2; ++number) {
-            const double off = distance(pictures.at(number), Patches::numbered(number));
+        const QList<Delivered> frames = port.receiver.frames();
+        QVERIFY(frames.size() > 8);
+        for (int number = 0; number < frames.size() - 2; ++number) {
+            const double off = distance(frames.at(number), Patches::numbered(number));
             QVERIFY2(off < nearEnough,
-                     qPrintable(QStringLiteral("picture %1 is off by %2").arg(number).arg(off)));
+                     qPrintable(QStringLiteral("frame %1 is off by %2").arg(number).arg(off)));
         }
     }
 
@@ -271,25 +270,25 @@ private Q_SLOTS:
         // late: frames after the first one, which is delayed
         // period: between them
         // shown: including three frames that follow in time
-        const auto row = dataTable<PictureFormat, bool, int, int, QList<int>>(
+        const auto row = dataTable<VideoFormat, bool, int, int, QList<int>>(
             {"format", "isLive", "late", "period", "shown"});
-        const PictureFormat h264{.encoder = "libx264"};
-        const PictureFormat h265{.encoder = "libx265"};
-        const PictureFormat jpeg{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P};
+        const VideoFormat h264{.encoder = "libx264"};
+        const VideoFormat h265{.encoder = "libx265"};
+        const VideoFormat jpeg{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P};
         row("in time", h264, true, 6, 10, QList<int>{0, 1, 2, 3, 4, 5, 6, 7, 8, 9});
         row("no live stream", h264, false, 6, 500, QList<int>{0, 1, 2, 3, 4, 5, 6, 7, 8, 9});
-        row("on from the newest key picture", h264, true, 12, 120, QList<int>{0, 10, 12, 13, 14, 15});
+        row("on from the newest key frame", h264, true, 12, 120, QList<int>{0, 10, 12, 13, 14, 15});
         row("H.265", h265, true, 12, 120, QList<int>{0, 10, 12, 13, 14, 15});
         row("key frames only", jpeg, true, 12, 120, QList<int>{0, 12, 13, 14, 15});
-        row("somewhat late, no key picture", h264, true, 3, 120, QList<int>{0, 1, 3, 4, 5, 6});
-        row("late, a key picture is near", h264, true, 3, 450, QList<int>{0, 5, 6});
-        row("late, a key picture is far", h264, true, 3, 250, QList<int>{0, 1, 3, 4, 5, 6});
+        row("somewhat late, no key frame", h264, true, 3, 120, QList<int>{0, 1, 3, 4, 5, 6});
+        row("late, a key frame is near", h264, true, 3, 450, QList<int>{0, 5, 6});
+        row("late, a key frame is far", h264, true, 3, 250, QList<int>{0, 1, 3, 4, 5, 6});
         row("too late", h264, true, 3, 5000, QList<int>{0, 5, 6});
     }
 
     void skipsLateFrames()
     {
-        QFETCH(PictureFormat, format);
+        QFETCH(VideoFormat, format);
         QFETCH(bool, isLive);
         QFETCH(int, late);
         QFETCH(int, period);
@@ -305,30 +304,30 @@ private Q_SLOTS:
             entered.set_value();
             leave.get_future().wait();
         };
-        QVERIFY(port.push(stream.head() + stream.picture(greyOf(0))));
+        QVERIFY(port.push(stream.head() + stream.frame(greyOf(0))));
         entered.get_future().wait();
         for (int number = 1; number <= late; ++number) {
             clock->advance(period);
-            QVERIFY(port.push(stream.picture(greyOf(number))));
+            QVERIFY(port.push(stream.frame(greyOf(number))));
         }
         leave.set_value();
         QTRY_VERIFY(port.isIdle());
         for (int number = late + 1; number <= late + 3; ++number)
-            QVERIFY(port.push(stream.picture(greyOf(number))));
+            QVERIFY(port.push(stream.frame(greyOf(number))));
         QTRY_VERIFY(port.isIdle());
 
         QList<int> numbers;
-        for (const Delivered &picture : port.receiver.pictures())
-            numbers.append(qRound((static_cast<std::uint8_t>(picture.bytes.at(0)) - 20) / 10.0));
+        for (const Delivered &frame : port.receiver.frames())
+            numbers.append(qRound((static_cast<std::uint8_t>(frame.bytes.at(0)) - 20) / 10.0));
         QCOMPARE(numbers, shown);
-        QCOMPARE(port.status().skippedPictures, static_cast<std::uint32_t>(late + 4 - shown.size()));
+        QCOMPARE(port.status().skippedFrames, static_cast<std::uint32_t>(late + 4 - shown.size()));
         QCOMPARE(port.status().damages, 0U);
     }
 
     void doesNotSkipWaitingFrames()
     {
-        LiveStream stream(PictureFormat{.keyEvery = 50, .options = "bf=2"});
-        const QByteArray bytes = stream.head() + stream.pictures(20);
+        LiveStream stream(VideoFormat{.keyEvery = 50, .options = "bf=2"});
+        const QByteArray bytes = stream.head() + stream.frames(20);
         const auto pushed = bytes.count("\x1F\x43\xB6\x75"); // the clusters, one for each frame
         const auto clock = std::make_shared<StandingClock>();
         Receiver receiver;
@@ -342,9 +341,9 @@ private Q_SLOTS:
         QVERIFY(library.DecoderPlay(port, 0));
         DecoderStatus status{};
         QTRY_VERIFY(library.DecoderGetStatus(port, status) && status.waitingBytes == 0 &&
-                    status.skippedPictures > 0);
+                    status.skippedFrames > 0);
         library.DecoderFreePort(port);
-        QCOMPARE_LT(status.skippedPictures + receiver.pictures().size(), pushed);
+        QCOMPARE_LT(status.skippedFrames + receiver.frames().size(), pushed);
     }
 };
 

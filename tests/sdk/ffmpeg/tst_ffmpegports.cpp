@@ -10,7 +10,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-const PictureFormat mjpeg{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P};
+const VideoFormat mjpeg{.encoder = "mjpeg", .pixels = AV_PIX_FMT_YUVJ420P};
 
 const std::uint8_t *bytesOf(const QByteArray &bytes)
 {
@@ -27,7 +27,7 @@ private Q_SLOTS:
     void theBufferAcceptsDataUntilItIsFull()
     {
         LiveStream stream(mjpeg);
-        const QByteArray bytes = stream.head() + stream.pictures(3);
+        const QByteArray bytes = stream.head() + stream.frames(3);
         const auto size = static_cast<std::uint32_t>(bytes.size());
         FfmpegDecoderLibrary library;
         Receiver receiver;
@@ -44,7 +44,7 @@ private Q_SLOTS:
         QCOMPARE(status.waitingBytes, size);
 
         QVERIFY(library.DecoderPlay(port, 0)); // the refused call has no effect
-        QTRY_COMPARE(receiver.pictures().size(), 3);
+        QTRY_COMPARE(receiver.frames().size(), 3);
         const auto waiting = [&] {
             library.DecoderGetStatus(port, status);
             return status.waitingBytes;
@@ -68,34 +68,34 @@ private Q_SLOTS:
                 leave.get_future().wait();
             }
         };
-        QVERIFY(port.push(stream.head() + stream.pictures(3)));
+        QVERIFY(port.push(stream.head() + stream.frames(3)));
         entered.get_future().wait();
         std::future<bool> removal = std::async(std::launch::async, [&] {
             return port.library.DecoderSetDecodeCallback(port.number, nullptr, nullptr);
         });
         QCOMPARE(removal.wait_for(50ms), std::future_status::timeout); // the handler is still running
-        QCOMPARE(port.receiver.pictures().size(), 0);
+        QCOMPARE(port.receiver.frames().size(), 0);
         leave.set_value();
         QVERIFY(removal.get());
         // One more call may have started before the removal, but none afterwards.
         const int before = calls;
-        QCOMPARE(port.receiver.pictures().size(), before);
-        QVERIFY(port.push(stream.pictures(3)));
+        QCOMPARE(port.receiver.frames().size(), before);
+        QVERIFY(port.push(stream.frames(3)));
         QTRY_VERIFY(port.isIdle());
         QCOMPARE(calls, before);
 
         Receiver other;
         QVERIFY(port.library.DecoderSetDecodeCallback(port.number, &Receiver::handle, &other));
-        QVERIFY(port.push(stream.pictures(1)));
-        QTRY_COMPARE(other.pictures().size(), 1);
+        QVERIFY(port.push(stream.frames(1)));
+        QTRY_COMPARE(other.frames().size(), 1);
         QCOMPARE(calls, before);
         QVERIFY(port.library.DecoderStop(port.number));
     }
 
     void canBeStoppedDuringAStream()
     {
-        LiveStream stream(PictureFormat{.encoder = "libx264", .width = 640, .height = 360});
-        const QByteArray bytes = stream.head() + stream.pictures(30);
+        LiveStream stream(VideoFormat{.encoder = "libx264", .width = 640, .height = 360});
+        const QByteArray bytes = stream.head() + stream.frames(30);
         TestPort port;
         std::atomic<bool> mayRun = true;
         std::atomic<bool> ranAfterStop = false;
@@ -107,7 +107,7 @@ private Q_SLOTS:
             while (!stop.stop_requested())
                 port.push(bytes, 5000);
         });
-        QTRY_VERIFY(port.receiver.pictures().size() >= 2);
+        QTRY_VERIFY(port.receiver.frames().size() >= 2);
         QVERIFY(port.library.DecoderStop(port.number));
         mayRun = false;
         QVERIFY(port.library.DecoderCloseStream(port.number));
@@ -121,11 +121,11 @@ private Q_SLOTS:
     {
         LiveStream small(mjpeg);
         LiveStream large(
-            PictureFormat{.encoder = "mjpeg", .width = 128, .height = 96, .pixels = AV_PIX_FMT_YUVJ420P});
+            VideoFormat{.encoder = "mjpeg", .width = 128, .height = 96, .pixels = AV_PIX_FMT_YUVJ420P});
         TestPort port;
         std::atomic<int> gone = 0;
         port.receiver.onDelivery = [&] {
-            const QList<Delivered> before = port.receiver.pictures();
+            const QList<Delivered> before = port.receiver.frames();
             for (qsizetype index = std::max<qsizetype>(0, before.size() - 2); index < before.size();
                  ++index) {
                 const QByteArray &copy = before.at(index).bytes;
@@ -134,8 +134,8 @@ private Q_SLOTS:
                     ++gone;
             }
         };
-        QVERIFY(port.push(small.head() + small.pictures(5) + large.head() + large.pictures(5)));
-        QTRY_COMPARE(port.receiver.pictures().size(), 10);
+        QVERIFY(port.push(small.head() + small.frames(5) + large.head() + large.frames(5)));
+        QTRY_COMPARE(port.receiver.frames().size(), 10);
         QVERIFY(port.library.DecoderStop(port.number)); // and CloseStream: they end with the port
         QVERIFY(port.library.DecoderCloseStream(port.number));
         port.receiver.onDelivery();

@@ -221,7 +221,7 @@ private Q_SLOTS:
         auto format = itemOf<VideoFormatItem>(streamNumber(StreamKind::MainNormal));
         const auto item = static_cast<std::uint32_t>(EncodeItem::VideoFormat);
         QVERIFY(m_net.NetGetItem(handle, item, 0, &format, sizeof(format), 5000ms));
-        const PictureSize size = main.sizesByCompression[compressionH264].sizes[1];
+        const FrameSize size = main.sizesByCompression[compressionH264].sizes[1];
         format.compression = compressionH264;
         format.width = size.width;
         format.height = size.height;
@@ -251,15 +251,15 @@ private Q_SLOTS:
         QVERIFY((capabilities.groups & 1) != 0);
         QVERIFY((capabilities.missingValues >> static_cast<unsigned>(CameraValue::Hue) & 1) != 0);
 
-        auto picture = itemOf<PictureItem>();
+        auto frame = itemOf<PictureItem>();
         const auto item = static_cast<std::uint32_t>(CameraItem::Picture);
-        QVERIFY(m_net.NetGetItem(handle, item, 0, &picture, sizeof(picture), 5000ms));
-        picture.brightness = picture.brightness == 30 ? 70 : 30;
-        QVERIFY(m_net.NetSetItem(handle, item, 0, &picture, sizeof(picture), 5000ms));
+        QVERIFY(m_net.NetGetItem(handle, item, 0, &frame, sizeof(frame), 5000ms));
+        frame.brightness = frame.brightness == 30 ? 70 : 30;
+        QVERIFY(m_net.NetSetItem(handle, item, 0, &frame, sizeof(frame), 5000ms));
         auto read = itemOf<PictureItem>();
         QVERIFY(m_net.NetGetItem(handle, item, 0, &read, sizeof(read), 5000ms));
-        QCOMPARE(read.brightness, picture.brightness);
-        QCOMPARE(read.contrast, picture.contrast);
+        QCOMPARE(read.brightness, frame.brightness);
+        QCOMPARE(read.contrast, frame.contrast);
 
         auto balance = itemOf<WhiteBalanceItem>();
         const auto balanceItem = static_cast<std::uint32_t>(CameraItem::WhiteBalance);

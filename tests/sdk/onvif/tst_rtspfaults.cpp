@@ -27,8 +27,8 @@ const QByteArray okay = "RTSP/1.0 200 OK\r\nCSeq: CSEQ\r\n";
 const RtpSource &source()
 {
     static const RtpSource made = [] {
-        ffmpeg::LiveStream stream{ffmpeg::PictureFormat{}};
-        return RtpSource::of(stream.head() + stream.pictures(9));
+        ffmpeg::LiveStream stream{ffmpeg::VideoFormat{}};
+        return RtpSource::of(stream.head() + stream.frames(9));
     }();
     return made;
 }
@@ -85,7 +85,7 @@ Change offering(const QByteArrayList &challenges)
 }
 
 /// Leaves only control packets and packets of frames that depend on an earlier one.
-void leaveOutKeyPictures(RtspScript &script)
+void leaveOutKeyFrames(RtspScript &script)
 {
     constexpr int keySlice = 5;
     constexpr qsizetype head = 12;
@@ -153,12 +153,12 @@ void TestRtspFaults::faultEndsTheStream_data()
         describing(source().description + QByteArray("m=video 0 RTP/AVP 96\r\n").repeated(300)),
         "oversized response");
     row("no description", describing(""), "malformed response");
-    row("no pictures", describing(source().descriptionWithout("m=video") + "m=audio 0 RTP/AVP 0\r\n"),
+    row("no video", describing(source().descriptionWithout("m=video") + "m=audio 0 RTP/AVP 0\r\n"),
         "unsupported");
-    row("pictures of an unknown kind",
+    row("video of an unknown kind",
         describing("v=0\r\nm=video 0 RTP/AVP 96\r\na=rtpmap:96 VP8/90000\r\na=control:0\r\n"), "unsupported");
 
-    row("no key picture", leaveOutKeyPictures, "no key frame");
+    row("no key frame", leaveOutKeyFrames, "no key frame");
     row(
         "unknown channels",
         [](RtspScript &script) {
@@ -177,7 +177,7 @@ void TestRtspFaults::faultEndsTheStream_data()
         "noise instead of frames", [](RtspScript &script) { script.endless = QByteArray(999, 'n'); },
         "no data");
     row(
-        "pictures, then silence", [](RtspScript &) {}, "no data");
+        "video, then silence", [](RtspScript &) {}, "no data");
     row(
         "connection closed", [](RtspScript &script) { script.closesAtEnd = true; }, "ended by the device");
     row(
@@ -349,7 +349,7 @@ void TestRtspFaults::sessionIsKeptAlive()
 {
     RtspScript script = usualScript();
     script.sessionTimeout = 2;
-    leaveOutKeyPictures(script);
+    leaveOutKeyFrames(script);
     const RtspServer server(script);
     RtspOrder order = orderOf(server);
     order.timeouts = {};
@@ -374,7 +374,7 @@ void TestRtspFaults::refusedLoginEndsARunningStream()
     script.account = "admin";
     script.password = "secret1";
     script.sessionTimeout = 2;
-    leaveOutKeyPictures(script);
+    leaveOutKeyFrames(script);
     script.responses["GET_PARAMETER"] =
         "RTSP/1.0 401 Unauthorized\r\nCSeq: CSEQ\r\nWWW-Authenticate: " + challenge + "\r\n\r\n";
     const RtspServer server(script);
@@ -400,9 +400,9 @@ void TestRtspFaults::fragmentsBecomeFrames()
     const std::vector<std::uint8_t> parameters = {0, 0, 0, 1, 0x67, 0x42, 0, 0, 1, 0x68, 0xce};
     const std::vector<std::uint8_t> first = {0, 0, 0, 1, 0x65, 0x88, 0x80, 0x10};
     const std::vector<std::uint8_t> further = {0, 0, 0, 1, 0x65, 0x08};
-    for (int picture = 0; picture < 2; ++picture) {
+    for (int frame = 0; frame < 2; ++frame) {
         for (const std::vector<std::uint8_t> &piece : {parameters, first, parameters, further})
-            assembler.add(piece, picture);
+            assembler.add(piece, frame);
     }
     const std::size_t whole = parameters.size() + first.size() + further.size();
     QCOMPARE(sizes, QList<std::size_t>{whole});

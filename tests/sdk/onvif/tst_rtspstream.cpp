@@ -8,13 +8,13 @@ namespace sdk::onvif {
 
 using ffmpeg::LiveStream;
 using ffmpeg::Patches;
-using ffmpeg::PictureFormat;
 using ffmpeg::SoundFormat;
 using ffmpeg::TestPort;
+using ffmpeg::VideoFormat;
 
 namespace {
 
-constexpr int pictures = 12;
+constexpr int frames = 12;
 constexpr int keyEvery = 5;                                // number of different frames
 constexpr int samples = 1024;                              // for each frame
 const QByteArray header = QByteArray::fromHex("1a45dfa3"); // begins the container
@@ -32,7 +32,7 @@ struct Sending
     /// A stream without its first frame, which the frames up to the next key frame depend on.
     [[nodiscard]] RtpSource source() const
     {
-        PictureFormat format;
+        VideoFormat format;
         format.encoder = encoder.constData();
         format.options = options.constData();
         format.keyEvery = keyEvery;
@@ -45,9 +45,9 @@ struct Sending
                                                        ? std::make_unique<LiveStream>(format)
                                                        : std::make_unique<LiveStream>(format, soundFormat);
         QByteArray container = stream->head();
-        for (int number = 0; number < pictures; ++number) {
-            const QByteArray picture = stream->picture(Patches::numbered(number));
-            container += number == 0 ? QByteArray() : picture;
+        for (int number = 0; number < frames; ++number) {
+            const QByteArray frame = stream->frame(Patches::numbered(number));
+            container += number == 0 ? QByteArray() : frame;
             container += sound.isEmpty() ? QByteArray() : stream->tone(samples);
         }
         return RtpSource::of(container);
@@ -66,9 +66,9 @@ QString numbersOf(const QList<ffmpeg::Delivered> &delivered)
 {
     constexpr double noticeable = 12;
     QStringList numbers;
-    for (const ffmpeg::Delivered &picture : delivered) {
+    for (const ffmpeg::Delivered &frame : delivered) {
         int number = keyEvery - 1;
-        while (number >= 0 && distance(picture, Patches::numbered(number)) > noticeable)
+        while (number >= 0 && distance(frame, Patches::numbered(number)) > noticeable)
             --number;
         numbers.append(QString::number(number));
     }
@@ -82,13 +82,13 @@ class TestRtspStream : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void picturesAndSoundArrive_data();
-    void picturesAndSoundArrive();
+    void videoAndSoundArrive_data();
+    void videoAndSoundArrive();
     void anotherFrameSizeStartsANewHeader();
     void restartsOnRequest();
 };
 
-void TestRtspStream::picturesAndSoundArrive_data()
+void TestRtspStream::videoAndSoundArrive_data()
 {
     const auto row = dataTable<QByteArray, QByteArray, QByteArray, int, QByteArray, bool, QString, QString>(
         {"encoder", "options", "sound", "soundRate", "leftOut", "datagrams", "codecs", "numbers"});
@@ -96,9 +96,9 @@ void TestRtspStream::picturesAndSoundArrive_data()
     const QString h264 = QStringLiteral("H.264 ");
     row("H.264 and G.711A", "libx264", "", "pcm_alaw", 8000, "", false, h264 + "G.711A", fromKey);
     row("H.264 in slices", "libx264", "slices=4", "", 0, "", false, h264, fromKey);
-    row("parameters among the pictures", "libx264", "x264-params=repeat-headers=1", "", 0, "fmtp:96", false,
+    row("parameters among the frames", "libx264", "x264-params=repeat-headers=1", "", 0, "fmtp:96", false,
         h264, fromKey);
-    row("reordered pictures", "libx264", "bf=2", "", 0, "", false, h264, "0 1 2 3 4 0 1 2");
+    row("reordered frames", "libx264", "bf=2", "", 0, "", false, h264, "0 1 2 3 4 0 1 2");
     row("H.265 and AAC", "libx265", "", "aac", 16000, "", false, "H.265 AAC", fromKey);
     row("MJPEG and G.711Mu", "mjpeg", "huffman=default", "pcm_mulaw", 8000, "", false, "MJPEG G.711Mu",
         "1 2 3 4 " + fromKey);
@@ -107,7 +107,7 @@ void TestRtspStream::picturesAndSoundArrive_data()
     row("datagrams", "libx264", "", "pcm_alaw", 8000, "", true, h264 + "G.711A", fromKey);
 }
 
-void TestRtspStream::picturesAndSoundArrive()
+void TestRtspStream::videoAndSoundArrive()
 {
     QFETCH(const QByteArray, encoder);
     QFETCH(const QByteArray, options);
@@ -128,7 +128,7 @@ void TestRtspStream::picturesAndSoundArrive()
     const bool plays = !watcher.stream().waitForResponse();
     QTRY_COMPARE(watcher.end() + watcher.endText(), QString());
     QVERIFY(plays);
-    QTRY_COMPARE(numbersOf(port.receiver.pictures()), numbers);
+    QTRY_COMPARE(numbersOf(port.receiver.frames()), numbers);
     QCOMPARE(port.videoCodec() + ' ' + port.audioCodec(), codecs);
     QTRY_VERIFY(codecs.endsWith(' ') || port.receiver.sampleCount() >= samples);
     QCOMPARE(watcher.end(), QString());
@@ -151,13 +151,13 @@ void TestRtspStream::anotherFrameSizeStartsANewHeader()
     const StreamWatcher watcher(orderOf(server), [&port](const QByteArray &bytes) { port.push(bytes); });
     const auto widths = [&port] {
         QStringList texts;
-        for (const ffmpeg::Delivered &picture : port.receiver.pictures())
-            texts.append(QString::number(picture.information.width));
+        for (const ffmpeg::Delivered &frame : port.receiver.frames())
+            texts.append(QString::number(frame.information.width));
         texts.removeDuplicates();
         return texts.join(' ');
     };
     QTRY_COMPARE(widths(), QStringLiteral("128 192"));
-    QTRY_VERIFY(numbersOf(port.receiver.pictures()).endsWith(QStringLiteral("0 1 2 3 4 0 1")));
+    QTRY_VERIFY(numbersOf(port.receiver.frames()).endsWith(QStringLiteral("0 1 2 3 4 0 1")));
     QCOMPARE(port.status().damages, 0U);
     QCOMPARE(watcher.bytes().count(header), 2);
 }

@@ -157,7 +157,7 @@ QStringList imagesOf(const Driver &gallery, const QString &ipport, bool isRecord
             continue;
         ++channels;
         const QString channel = cells.value(cell, "channel").toString();
-        if (!cells.value(cell, "picture").toString().isEmpty())
+        if (!cells.value(cell, "image").toString().isEmpty())
             files.append(u"%1/%2.jpg"_s.arg(folder, channel));
         else
             gallery.check(isRecorder && !cells.value(cell, "message").toString().isEmpty(),

@@ -13,28 +13,28 @@ using streams::AvPointer;
 namespace {
 
 /// The parameter sets before the first slice, each once; empty unless all required types are present.
-std::vector<std::uint8_t> parameterSetsOf(std::span<const std::uint8_t> picture, AVCodecID codec)
+std::vector<std::uint8_t> parameterSetsOf(std::span<const std::uint8_t> frame, AVCodecID codec)
 {
     constexpr std::array<std::uint8_t, 4> startCode = {0, 0, 0, 1};
     std::vector<std::uint8_t> sets;
     bool hasSequence = false;
     bool hasPicture = false;
-    std::optional<StreamUnit> unit = firstUnit(picture, codec);
+    std::optional<StreamUnit> unit = firstUnit(frame, codec);
     while (unit && !unit->isSlice) {
-        picture = picture.subspan(unit->offset);
-        const std::optional<StreamUnit> next = firstUnit(picture.subspan(unit->headSize), codec);
-        const std::size_t size = next ? unit->headSize + next->offset : picture.size();
+        frame = frame.subspan(unit->offset);
+        const std::optional<StreamUnit> next = firstUnit(frame.subspan(unit->headSize), codec);
+        const std::size_t size = next ? unit->headSize + next->offset : frame.size();
         if (unit->parameterSet != ParameterSet::None) {
             // Start codes have three or four bytes.
             std::vector<std::uint8_t> one(startCode.begin(), startCode.end());
-            const std::span<const std::uint8_t> body = picture.first(size).subspan(unit->codeSize);
+            const std::span<const std::uint8_t> body = frame.first(size).subspan(unit->codeSize);
             one.insert(one.end(), body.begin(), body.end());
             if (std::search(sets.begin(), sets.end(), one.begin(), one.end()) == sets.end())
                 sets.insert(sets.end(), one.begin(), one.end());
         }
         hasSequence = hasSequence || unit->parameterSet == ParameterSet::Sequence;
         hasPicture = hasPicture || unit->parameterSet == ParameterSet::Picture;
-        picture = picture.subspan(unit->headSize);
+        frame = frame.subspan(unit->headSize);
         unit = next;
     }
     if (!hasSequence || !hasPicture)
@@ -68,42 +68,42 @@ std::unique_ptr<FrameFormat> FrameFormat::of(const AVCodecParameters &track)
     return format;
 }
 
-bool FrameFormat::examine(std::span<const std::uint8_t> picture)
+bool FrameFormat::examine(std::span<const std::uint8_t> frame)
 {
     if (m_track->codec_id == AV_CODEC_ID_MJPEG)
-        return examineJpeg(picture);
+        return examineJpeg(frame);
     std::uint8_t *output = nullptr;
     int outputSize = 0;
-    av_parser_parse2(m_parser.get(), m_context.get(), &output, &outputSize, picture.data(),
-                     static_cast<int>(picture.size()), AV_NOPTS_VALUE, AV_NOPTS_VALUE, 0);
+    av_parser_parse2(m_parser.get(), m_context.get(), &output, &outputSize, frame.data(),
+                     static_cast<int>(frame.size()), AV_NOPTS_VALUE, AV_NOPTS_VALUE, 0);
     if (m_parser->key_frame != 1 || m_parser->width <= 0 || m_parser->height <= 0)
         return false;
     m_width = m_parser->width;
     m_height = m_parser->height;
-    takeParameterSets(picture);
+    takeParameterSets(frame);
     return !m_parameterSets.empty();
 }
 
-void FrameFormat::takeParameterSets(std::span<const std::uint8_t> picture)
+void FrameFormat::takeParameterSets(std::span<const std::uint8_t> frame)
 {
-    std::vector<std::uint8_t> sets = parameterSetsOf(picture, m_track->codec_id);
+    std::vector<std::uint8_t> sets = parameterSetsOf(frame, m_track->codec_id);
     if (!sets.empty())
         m_parameterSets = std::move(sets);
 }
 
-bool FrameFormat::examineJpeg(std::span<const std::uint8_t> picture)
+bool FrameFormat::examineJpeg(std::span<const std::uint8_t> frame)
 {
     constexpr std::uint8_t marker = 0xff;
     constexpr std::uint8_t firstFrameMarker = 0xc0; // baseline and two rarer types
     constexpr std::uint8_t lastFrameMarker = 0xc2;
     constexpr std::size_t headSize = 9; // marker, length, precision, height, width
-    const auto number = [&picture](std::size_t offset) {
+    const auto number = [&frame](std::size_t offset) {
         constexpr int byte = 8;
-        return picture[offset] << byte | picture[offset + 1];
+        return frame[offset] << byte | frame[offset + 1];
     };
     std::size_t offset = 2; // after the start marker
-    while (offset + headSize <= picture.size() && picture[offset] == marker) {
-        const std::uint8_t kind = picture[offset + 1];
+    while (offset + headSize <= frame.size() && frame[offset] == marker) {
+        const std::uint8_t kind = frame[offset + 1];
         if (kind >= firstFrameMarker && kind <= lastFrameMarker) {
             m_height = number(offset + 5);
             m_width = number(offset + 7);

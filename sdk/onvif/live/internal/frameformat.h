@@ -20,7 +20,7 @@ public:
 
     /// Checks a complete frame, followed by AV_INPUT_BUFFER_PADDING_SIZE zeros. Returns true if decoding can
     /// start with it and all required parameters are known.
-    [[nodiscard]] bool examine(std::span<const std::uint8_t> picture);
+    [[nodiscard]] bool examine(std::span<const std::uint8_t> frame);
 
     /// The parameters of the track according to its frames. Valid after examine() has returned true; null
     /// when memory is exhausted.
@@ -31,8 +31,8 @@ public:
 
 private:
     FrameFormat() = default;
-    [[nodiscard]] bool examineJpeg(std::span<const std::uint8_t> picture);
-    void takeParameterSets(std::span<const std::uint8_t> picture);
+    [[nodiscard]] bool examineJpeg(std::span<const std::uint8_t> frame);
+    void takeParameterSets(std::span<const std::uint8_t> frame);
 
     streams::AvPointer<AVCodecParameters> m_track;
     streams::AvPointer<AVCodecContext> m_context;      // of the parser

@@ -20,29 +20,29 @@ std::int64_t microsecondsNow()
 
 } // namespace
 
-std::unique_ptr<Remuxer> Remuxer::of(const AVStream &picture, const AVStream *sound,
+std::unique_ptr<Remuxer> Remuxer::of(const AVStream &video, const AVStream *sound,
                                      std::atomic<bool> &mustRestart, BytesHandler handler)
 {
-    std::unique_ptr<FrameFormat> format = FrameFormat::of(*picture.codecpar);
+    std::unique_ptr<FrameFormat> format = FrameFormat::of(*video.codecpar);
     if (!format)
         return nullptr;
     // Not make_unique: the constructor is private.
     return std::unique_ptr<Remuxer>(
-        new Remuxer(picture, sound, std::move(format), mustRestart, std::move(handler)));
+        new Remuxer(video, sound, std::move(format), mustRestart, std::move(handler)));
 }
 
-Remuxer::Remuxer(const AVStream &picture, const AVStream *sound, std::unique_ptr<FrameFormat> format,
+Remuxer::Remuxer(const AVStream &video, const AVStream *sound, std::unique_ptr<FrameFormat> format,
                  std::atomic<bool> &mustRestart, BytesHandler handler)
-    : m_picture(picture), m_sound(sound), m_format(std::move(format)), m_mustRestart(mustRestart),
+    : m_video(video), m_sound(sound), m_format(std::move(format)), m_mustRestart(mustRestart),
       m_handler(std::move(handler)),
-      m_assembler(picture.codecpar->codec_id,
-                  [this](std::span<const std::uint8_t> bytes, std::int64_t time) { addPicture(bytes, time); })
+      m_assembler(video.codecpar->codec_id,
+                  [this](std::span<const std::uint8_t> bytes, std::int64_t time) { addFrame(bytes, time); })
 {
 }
 
 bool Remuxer::add(const AVPacket &packet)
 {
-    if (packet.stream_index == m_picture.index) {
+    if (packet.stream_index == m_video.index) {
         m_lastFragment = std::chrono::steady_clock::now();
         m_assembler.add({packet.data, static_cast<std::size_t>(packet.size)}, packet.pts);
         return true;
@@ -65,36 +65,36 @@ void Remuxer::deliverWaiting()
         m_assembler.finish();
 }
 
-void Remuxer::addPicture(std::span<const std::uint8_t> bytes, std::int64_t time)
+void Remuxer::addFrame(std::span<const std::uint8_t> bytes, std::int64_t time)
 {
     const bool isKey = m_format->examine(bytes);
     if (isKey && (!m_writer || m_mustRestart || !m_format->isSame(*m_written)) && !begin())
         return;
     if (!m_writer)
         return;
-    const AvPointer<AVPacket> picture(av_packet_alloc());
-    if (!picture)
+    const AvPointer<AVPacket> frame(av_packet_alloc());
+    if (!frame)
         return;
     // The packet borrows the bytes.
-    picture->data = const_cast<std::uint8_t *>(bytes.data());
-    picture->size = static_cast<int>(bytes.size());
-    picture->stream_index = streams::pictureTrack;
-    picture->time_base = m_picture.time_base;
-    picture->pts = time;
-    picture->flags = isKey ? AV_PKT_FLAG_KEY : 0;
-    write(*picture, m_pictureTimes);
+    frame->data = const_cast<std::uint8_t *>(bytes.data());
+    frame->size = static_cast<int>(bytes.size());
+    frame->stream_index = streams::videoTrack;
+    frame->time_base = m_video.time_base;
+    frame->pts = time;
+    frame->flags = isKey ? AV_PKT_FLAG_KEY : 0;
+    write(*frame, m_videoTimes);
 }
 
 bool Remuxer::begin()
 {
     m_mustRestart = false;
     m_written = m_format->parameters();
-    const MatroskaWriter::Track picture = {m_written.get(), m_picture.avg_frame_rate};
+    const MatroskaWriter::Track video = {m_written.get(), m_video.avg_frame_rate};
     const MatroskaWriter::Track sound = {m_sound ? m_sound->codecpar : nullptr};
-    m_writer = m_written ? MatroskaWriter::open(picture, m_sound ? &sound : nullptr) : nullptr;
+    m_writer = m_written ? MatroskaWriter::open(video, m_sound ? &sound : nullptr) : nullptr;
     if (m_written && !m_writer && m_sound) { // the description of the sound is incomplete
         m_sound = nullptr;
-        m_writer = MatroskaWriter::open(picture, nullptr);
+        m_writer = MatroskaWriter::open(video, nullptr);
     }
     m_hasFailed = !m_writer;
     return m_writer != nullptr;

@@ -28,7 +28,7 @@ public:
     /// `sound` is null for a stream without sound. The tracks must outlive the remuxer. Any thread may set
     /// `mustRestart` to request a new header at the next key frame; the remuxer resets it with that header.
     /// Returns null for a codec that no decoder port supports.
-    [[nodiscard]] static std::unique_ptr<Remuxer> of(const AVStream &picture, const AVStream *sound,
+    [[nodiscard]] static std::unique_ptr<Remuxer> of(const AVStream &video, const AVStream *sound,
                                                      std::atomic<bool> &mustRestart, BytesHandler handler);
     Remuxer(const Remuxer &) = delete;
     Remuxer &operator=(const Remuxer &) = delete;
@@ -49,20 +49,20 @@ public:
     [[nodiscard]] bool hasFailed() const { return m_hasFailed; }
 
 private:
-    Remuxer(const AVStream &picture, const AVStream *sound, std::unique_ptr<FrameFormat> format,
+    Remuxer(const AVStream &video, const AVStream *sound, std::unique_ptr<FrameFormat> format,
             std::atomic<bool> &mustRestart, BytesHandler handler);
-    void addPicture(std::span<const std::uint8_t> bytes, std::int64_t time);
+    void addFrame(std::span<const std::uint8_t> bytes, std::int64_t time);
     [[nodiscard]] bool begin();
     void write(AVPacket &packet, Timeline &timeline);
 
-    const AVStream &m_picture;
+    const AVStream &m_video;
     const AVStream *m_sound;
     const std::unique_ptr<FrameFormat> m_format;
     std::atomic<bool> &m_mustRestart;
     const BytesHandler m_handler;
     FrameAssembler m_assembler;
     std::chrono::steady_clock::time_point m_lastFragment;
-    Timeline m_pictureTimes;
+    Timeline m_videoTimes;
     Timeline m_soundTimes;
     std::unique_ptr<streams::MatroskaWriter> m_writer;
     streams::AvPointer<AVCodecParameters> m_written; // the video parameters of m_writer

@@ -72,7 +72,7 @@ bool RtspSession::open()
     m_responseBy.reset();
     m_watch.notePlaying();
     const Time now = Clock::now();
-    m_keyPictureBy = now + m_timeouts.keyPicture;
+    m_keyFrameBy = now + m_timeouts.keyFrame;
     m_dataBy = now + m_timeouts.silence;
     return error >= 0;
 }
@@ -126,8 +126,8 @@ void RtspSession::checkTimes(Time now)
                 "the device did not respond within " + secondsText(m_timeouts.response));
     if (m_dataBy && now > *m_dataBy)
         endWith(StreamEnd::NoData, "no video packet arrived for " + secondsText(m_timeouts.silence));
-    if (m_keyPictureBy && now > *m_keyPictureBy) {
-        endWith(StreamEnd::NoKeyFrame, "no key frame arrived within " + secondsText(m_timeouts.keyPicture));
+    if (m_keyFrameBy && now > *m_keyFrameBy) {
+        endWith(StreamEnd::NoKeyFrame, "no key frame arrived within " + secondsText(m_timeouts.keyFrame));
     }
 }
 

@@ -43,7 +43,7 @@ public:
     void noteVideoPacket() { m_dataBy = std::chrono::steady_clock::now() + m_timeouts.silence; }
 
     /// To be called after the first key frame.
-    void noteKeyFrame() { m_keyPictureBy.reset(); }
+    void noteKeyFrame() { m_keyFrameBy.reset(); }
 
     /// The reason of the session's end. Valid after open() or read() has returned false.
     [[nodiscard]] StreamEnd end() const { return m_end.value_or(StreamEnd::Failed); }
@@ -69,7 +69,7 @@ private:
     std::string m_text;
     bool m_isConnecting = true;
     std::optional<Time> m_responseBy;
-    std::optional<Time> m_keyPictureBy;
+    std::optional<Time> m_keyFrameBy;
     std::optional<Time> m_dataBy;
     std::optional<Time> m_closedBy;
 };

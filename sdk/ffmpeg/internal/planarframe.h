@@ -1,4 +1,4 @@
-// The layout of images: planes as in DecodedFrameType::Picture, and FFmpeg's frames with padded lines.
+// The layout of images: planes as in DecodedFrameType::Video, and FFmpeg's frames with padded lines.
 #pragma once
 
 #include "sdk/ffmpeg/internal/avpointers.h"
@@ -25,7 +25,7 @@ struct PlaneSize
 }
 
 /// The size of a complete image in bytes.
-[[nodiscard]] inline std::size_t pictureSize(int width, int height)
+[[nodiscard]] inline std::size_t frameSize(int width, int height)
 {
     return planeSize(0, width, height).bytes() + 2 * planeSize(1, width, height).bytes();
 }
@@ -33,7 +33,7 @@ struct PlaneSize
 /// A frame with its own memory and padded lines: the scaler may write beyond their ends. Null without memory.
 [[nodiscard]] AvPointer<AVFrame> paddedFrame(AVPixelFormat format, int width, int height);
 
-/// Copies a planar 4:2:0 frame to pictureSize() bytes without padding, and back.
+/// Copies a planar 4:2:0 frame to frameSize() bytes without padding, and back.
 void copyPlanes(const AVFrame &frame, std::uint8_t *destination);
 void copyPlanes(const std::uint8_t *source, AVFrame &frame);
 

@@ -1,6 +1,6 @@
 #include "device/batch/batches.h"
 #include "tests/datatable.h"
-#include "tests/device/dh/picturesite.h"
+#include "tests/device/dh/imagesite.h"
 #include "tests/files/filecontents.h"
 #include "tests/files/filesizelimit.h"
 
@@ -32,7 +32,7 @@ struct Capture
 } // namespace
 
 /// Snapshots of a simulated recorder: real streams, decoded and written.
-class TestSnapshots : public QObject, private PictureSite
+class TestSnapshots : public QObject, private ImageSite
 {
     Q_OBJECT
 private:
@@ -98,7 +98,7 @@ private Q_SLOTS:
         QVERIFY(m_site->setFault(recorder, {.fault = sdk::demo::Fault::FirstPictureLate, .number = 1200}));
         const QString path = pathOf("rec", 2);
         QDir().mkpath(QFileInfo(path).path());
-        QVERIFY(writeFile(path, "an older picture"));
+        QVERIFY(writeFile(path, "an older image"));
         QCOMPARE(take("againCapture", 2, "rec", 1), (QList<Capture>{{2, "file:///" + path, {}}}));
         QVERIFY(!QImage(path).isNull());
         QCOMPARE(QDir(QStringLiteral("snap/rec")).entryList(QDir::Files).size(), 1);

@@ -18,10 +18,10 @@ constexpr QSize viewSize(320, 180);
 const QColor background(10, 200, 30);
 
 /// The exact RGB colour of a frame of one colour.
-QColor expected(int y, int u, int v, sdk::PictureColour colour)
+QColor expected(int y, int u, int v, sdk::FrameColour colour)
 {
-    const bool full = colour == sdk::PictureColour::Bt601Full || colour == sdk::PictureColour::Bt709Full;
-    const bool hd = colour == sdk::PictureColour::Bt709Limited || colour == sdk::PictureColour::Bt709Full;
+    const bool full = colour == sdk::FrameColour::Bt601Full || colour == sdk::FrameColour::Bt709Full;
+    const bool hd = colour == sdk::FrameColour::Bt709Limited || colour == sdk::FrameColour::Bt709Full;
     const double red = hd ? 0.2126 : 0.299;
     const double blue = hd ? 0.0722 : 0.114;
     const double luma = full ? y / 255.0 : (y - 16) / 219.0;
@@ -49,33 +49,33 @@ bool isLike(const QColor &one, const QColor &other)
 }
 
 /// Grey levels from 60 on, one for each cell of the frame.
-PlainPicture cells(int width, int height, int columns, int rows)
+PlainFrame cells(int width, int height, int columns, int rows)
 {
-    PlainPicture picture(width, height, 0, 128, 128, sdk::PictureColour::Bt601Full);
+    PlainFrame frame(width, height, 0, 128, 128, sdk::FrameColour::Bt601Full);
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x)
-            picture.bytes[std::size_t(y) * width + x] =
+            frame.bytes[std::size_t(y) * width + x] =
                 std::uint8_t(60 + 40 * (y * rows / height * columns + x * columns / width));
     }
-    return picture;
+    return frame;
 }
 
 } // namespace
 
 /// The pixels of a live view in a window with OpenGL. The window's colour shows where the view draws nothing.
-class TestVideoPicture : public QObject
+class TestVideoFrame : public QObject
 {
     Q_OBJECT
 private:
     std::unique_ptr<FakeLibraries> m_fake;
     std::unique_ptr<QQuickWindow> m_window;
     VideoItem *m_item = nullptr;
-    QList<PlainPicture> m_delivered; ///< the decoder's own buffers
+    QList<PlainFrame> m_delivered; ///< the decoder's own buffers
     QImage m_seen;
 
-    void deliver(const PlainPicture &picture)
+    void deliver(const PlainFrame &frame)
     {
-        m_delivered.append(picture);
+        m_delivered.append(frame);
         std::thread([this] {
             m_fake->decoder->deliver(m_delivered.constLast().bytes, m_delivered.constLast().information);
         }).join();
@@ -154,10 +154,10 @@ private Q_SLOTS:
         QFETCH(int, y);
         QFETCH(int, u);
         QFETCH(int, v);
-        const auto pictureColour = static_cast<sdk::PictureColour>(colour);
-        deliver({32, 18, std::uint8_t(y), std::uint8_t(u), std::uint8_t(v), pictureColour});
+        const auto frameColour = static_cast<sdk::FrameColour>(colour);
+        deliver({32, 18, std::uint8_t(y), std::uint8_t(u), std::uint8_t(v), frameColour});
         m_seen = m_window->grabWindow();
-        const QColor wanted = expected(y, u, v, pictureColour);
+        const QColor wanted = expected(y, u, v, frameColour);
         QCOMPARE(instead(0.5, 0.5, wanted), QString());
         QCOMPARE(instead(0.01, 0.01, wanted), QString()); // to its edges
         QCOMPARE(instead(0.99, 0.99, wanted), QString());
@@ -177,10 +177,10 @@ private Q_SLOTS:
     {
         QFETCH(QSize, size);
         m_item->setFillMode(VideoItem::Stretch);
-        PlainPicture picture(size.width(), size.height(), 120, 128, 128);
-        deliver(picture);
+        PlainFrame frame(size.width(), size.height(), 120, 128, 128);
+        deliver(frame);
         m_seen = m_window->grabWindow();
-        const QColor grey = expected(120, 128, 128, sdk::PictureColour::Bt601Limited);
+        const QColor grey = expected(120, 128, 128, sdk::FrameColour::Bt601Limited);
         for (const QPointF point : {QPointF(0.01, 0.01), QPointF(0.5, 0.5), QPointF(0.99, 0.99)})
             QCOMPARE(instead(point.x(), point.y(), grey), QString());
 
@@ -189,18 +189,18 @@ private Q_SLOTS:
         if (chromaWidth < 4)
             return;
         std::uint8_t *planeV =
-            picture.bytes.data() + std::size_t(size.width()) * size.height() + chromaWidth * chromaHeight;
+            frame.bytes.data() + std::size_t(size.width()) * size.height() + chromaWidth * chromaHeight;
         for (int line = 0; line < chromaHeight; ++line)
             planeV[line * chromaWidth + chromaWidth - 1] = 200;
-        deliver(picture);
+        deliver(frame);
         m_seen = m_window->grabWindow();
-        const QColor red = expected(120, 128, 200, sdk::PictureColour::Bt601Limited);
+        const QColor red = expected(120, 128, 200, sdk::FrameColour::Bt601Limited);
         QCOMPARE(instead(0.999, 0.5, red), QString());
         // The centre of the second last sample is that far to the left.
         const double grayFrom = (2.0 * (chromaWidth - 2) + 1) / size.width();
         QCOMPARE(instead(grayFrom - 0.005, 0.5, grey), QString());
         const double halfway = 2.0 * (chromaWidth - 1) / size.width();
-        const QColor mixed = expected(120, 128, 164, sdk::PictureColour::Bt601Limited);
+        const QColor mixed = expected(120, 128, 164, sdk::FrameColour::Bt601Limited);
         QVERIFY(std::abs(at(halfway, 0.5).red() - mixed.red()) < 12);
     }
 
@@ -224,16 +224,16 @@ private Q_SLOTS:
 
     void showsANewFrameSizeDuringAStream()
     {
-        deliver({64, 36, 60, 128, 128, sdk::PictureColour::Bt601Full});
+        deliver({64, 36, 60, 128, 128, sdk::FrameColour::Bt601Full});
         QVERIFY(isLike(m_window->grabWindow().pixelColor(160, 90), QColor(60, 60, 60)));
         m_delivered.last().bytes.assign(m_delivered.last().bytes.size(), 128); // the decoder's next frame
         m_item->update();
         QVERIFY(isLike(m_window->grabWindow().pixelColor(160, 90),
                        QColor(60, 60, 60))); // painting again reads no frame
-        deliver({128, 72, 150, 128, 128, sdk::PictureColour::Bt601Full});
+        deliver({128, 72, 150, 128, 128, sdk::FrameColour::Bt601Full});
         m_seen = m_window->grabWindow();
         QCOMPARE(instead(0.99, 0.99, QColor(150, 150, 150)), QString());
-        deliver({31, 18, 200, 128, 128, sdk::PictureColour::Bt601Full});
+        deliver({31, 18, 200, 128, 128, sdk::FrameColour::Bt601Full});
         m_seen = m_window->grabWindow();
         QCOMPARE(instead(0.5, 0.9, QColor(200, 200, 200)), QString());
 
@@ -257,7 +257,7 @@ private Q_SLOTS:
         QVERIFY(m_item->start());
         QVERIFY(
             isLike(m_window->grabWindow().pixelColor(160, 90), background)); // nothing of the earlier frame
-        deliver({64, 36, 200, 128, 128, sdk::PictureColour::Bt601Full});
+        deliver({64, 36, 200, 128, 128, sdk::FrameColour::Bt601Full});
         QVERIFY(isLike(m_window->grabWindow().pixelColor(160, 90), QColor(200, 200, 200)));
     }
 
@@ -282,7 +282,7 @@ private Q_SLOTS:
         m_item = new VideoItem(m_window->contentItem()); // with a separate renderer
         m_item->setSize(viewSize);
         QVERIFY(m_item->start());
-        deliver({64, 36, 60, 128, 128, sdk::PictureColour::Bt601Full});
+        deliver({64, 36, 60, 128, 128, sdk::FrameColour::Bt601Full});
         m_seen = m_window->grabWindow();
         QVERIFY(QDir::setCurrent(workingDirectory));
         QVERIFY(program.cd("Shaders") && program.removeRecursively());
@@ -307,7 +307,7 @@ int main(int argc, char **argv)
     }
     QSurfaceFormat::setDefaultFormat(format);
     const QGuiApplication application(argc, argv);
-    TestVideoPicture test;
+    TestVideoFrame test;
     return QTest::qExec(&test, argc, argv);
 }
-#include "tst_videopicture.moc"
+#include "tst_videoframe.moc"

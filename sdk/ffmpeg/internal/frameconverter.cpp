@@ -1,7 +1,7 @@
-#include "sdk/ffmpeg/internal/pictureconverter.h"
+#include "sdk/ffmpeg/internal/frameconverter.h"
 
 #include "sdk/ffmpeg/internal/colours.h"
-#include "sdk/ffmpeg/internal/planarpicture.h"
+#include "sdk/ffmpeg/internal/planarframe.h"
 
 namespace sdk::ffmpeg {
 
@@ -43,22 +43,22 @@ bool saysBt709(const AVFrame &frame)
     case AVCOL_SPC_SMPTE170M:
         return false;
     default:
-        return isBt709(usualPictureColour(frame.height));
+        return isBt709(usualFrameColour(frame.height));
     }
 }
 
 } // namespace
 
-PictureColour PictureConverter::colourOf(const AVFrame &frame)
+FrameColour FrameConverter::colourOf(const AVFrame &frame)
 {
     if (isRgb(frame.format))
-        return usualPictureColour(frame.height); // the target of the conversion
+        return usualFrameColour(frame.height); // the target of the conversion
     if (saysBt709(frame))
-        return saysFullRange(frame) ? PictureColour::Bt709Full : PictureColour::Bt709Limited;
-    return saysFullRange(frame) ? PictureColour::Bt601Full : PictureColour::Bt601Limited;
+        return saysFullRange(frame) ? FrameColour::Bt709Full : FrameColour::Bt709Limited;
+    return saysFullRange(frame) ? FrameColour::Bt601Full : FrameColour::Bt601Limited;
 }
 
-bool PictureConverter::write(const AVFrame &frame, std::uint8_t *destination)
+bool FrameConverter::write(const AVFrame &frame, std::uint8_t *destination)
 {
     if (isPlanar420(frame.format)) {
         copyPlanes(frame, destination);
@@ -70,7 +70,7 @@ bool PictureConverter::write(const AVFrame &frame, std::uint8_t *destination)
     return true;
 }
 
-bool PictureConverter::convert(const AVFrame &frame)
+bool FrameConverter::convert(const AVFrame &frame)
 {
     if (!m_converted || m_converted->width != frame.width || m_converted->height != frame.height) {
         m_converted = paddedFrame(AV_PIX_FMT_YUV420P, frame.width, frame.height);
@@ -83,7 +83,7 @@ bool PictureConverter::convert(const AVFrame &frame)
     if (!m_scaler)
         return false;
     // Only RGB gets another colour space. Other formats keep their matrix and their range.
-    const PictureColour colour = colourOf(frame);
+    const FrameColour colour = colourOf(frame);
     const int *matrix = colourMatrix(colour);
     const int range = isFullRange(colour) ? 1 : 0;
     sws_setColorspaceDetails(m_scaler.get(), matrix, isRgb(frame.format) ? 1 : range, matrix, range, 0,

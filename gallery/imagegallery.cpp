@@ -1,4 +1,4 @@
-#include "gallery/picturegallery.h"
+#include "gallery/imagegallery.h"
 
 #include "device/batch/batches.h"
 #include "device/registry/devicefactory.h"
@@ -41,13 +41,13 @@ QString nameOfDevice(const QVariantMap &row)
 } // namespace
 
 /// Passes updates of steps to the main thread while the gallery exists.
-class PictureGallery::Mailbox
+class ImageGallery::Mailbox
 {
 public:
-    explicit Mailbox(PictureGallery *receiver) : m_receiver(receiver) {}
+    explicit Mailbox(ImageGallery *receiver) : m_receiver(receiver) {}
 
     /// Runs `update` on the main thread if batch `round` is still the latest one. Any thread.
-    void post(int round, const std::function<void(PictureGallery &gallery)> &update)
+    void post(int round, const std::function<void(ImageGallery &gallery)> &update)
     {
         const std::lock_guard lock(m_mutex);
         if (!m_receiver)
@@ -69,28 +69,28 @@ public:
 
 private:
     std::mutex m_mutex;
-    PictureGallery *m_receiver;
+    ImageGallery *m_receiver;
 };
 
-PictureGallery::PictureGallery(QObject *parent)
+ImageGallery::ImageGallery(QObject *parent)
     : QAbstractListModel(parent), m_mailbox(std::make_shared<Mailbox>(this))
 {
     m_files.setMaxThreadCount(1);
 }
 
-PictureGallery::~PictureGallery()
+ImageGallery::~ImageGallery()
 {
     m_mailbox->close();
     stop();
     m_files.waitForDone();
 }
 
-CDeviceFactory *PictureGallery::deviceFactory() const
+CDeviceFactory *ImageGallery::deviceFactory() const
 {
     return m_deviceFactory;
 }
 
-void PictureGallery::setDeviceFactory(CDeviceFactory *deviceFactory)
+void ImageGallery::setDeviceFactory(CDeviceFactory *deviceFactory)
 {
     if (m_deviceFactory == deviceFactory)
         return;
@@ -98,12 +98,12 @@ void PictureGallery::setDeviceFactory(CDeviceFactory *deviceFactory)
     Q_EMIT deviceFactoryChanged();
 }
 
-Batches *PictureGallery::batches() const
+Batches *ImageGallery::batches() const
 {
     return m_batches;
 }
 
-void PictureGallery::setBatches(Batches *batches)
+void ImageGallery::setBatches(Batches *batches)
 {
     if (m_batches == batches)
         return;
@@ -111,19 +111,19 @@ void PictureGallery::setBatches(Batches *batches)
     Q_EMIT batchesChanged();
 }
 
-int PictureGallery::rowCount(const QModelIndex &parent) const
+int ImageGallery::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_cells.size());
 }
 
-QHash<int, QByteArray> PictureGallery::roleNames() const
+QHash<int, QByteArray> ImageGallery::roleNames() const
 {
     return {{IpportRole, "ipport"},   {DeviceRole, "device"}, {ChannelRole, "channel"},
-            {NameRole, "name"},       {StateRole, "stage"},   {PictureRole, "picture"},
+            {NameRole, "name"},       {StateRole, "stage"},   {ImageRole, "image"},
             {MessageRole, "message"}, {TimeRole, "takenAt"},  {NoteRole, "note"}};
 }
 
-QVariant PictureGallery::data(const QModelIndex &index, int role) const
+QVariant ImageGallery::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
@@ -139,7 +139,7 @@ QVariant PictureGallery::data(const QModelIndex &index, int role) const
         return cell.name;
     case StateRole:
         return cell.state;
-    case PictureRole:
+    case ImageRole:
         return cell.file.isEmpty() ? QString() : QUrl::fromLocalFile(cell.file).toString();
     case MessageRole:
         return cell.message;
@@ -153,7 +153,7 @@ QVariant PictureGallery::data(const QModelIndex &index, int role) const
     }
 }
 
-QVariantMap PictureGallery::get(int row) const
+QVariantMap ImageGallery::get(int row) const
 {
     QVariantMap values;
     if (row < 0 || row >= m_cells.size())
@@ -164,7 +164,7 @@ QVariantMap PictureGallery::get(int row) const
     return values;
 }
 
-QVariantList PictureGallery::devices() const
+QVariantList ImageGallery::devices() const
 {
     QVariantList devices;
     QString last;
@@ -177,7 +177,7 @@ QVariantList PictureGallery::devices() const
     return devices;
 }
 
-bool PictureGallery::show(const QVariantList &rows)
+bool ImageGallery::show(const QVariantList &rows)
 {
     clear();
     QStringList identities;
@@ -204,7 +204,7 @@ bool PictureGallery::show(const QVariantList &rows)
     return fetchAll();
 }
 
-void PictureGallery::readDevices()
+void ImageGallery::readDevices()
 {
     if (!m_deviceFactory)
         return;
@@ -223,7 +223,7 @@ void PictureGallery::readDevices()
     }
 }
 
-void PictureGallery::renameChannel(const QString &ipport, int channel, const QString &name)
+void ImageGallery::renameChannel(const QString &ipport, int channel, const QString &name)
 {
     for (int row = 0; row < rowCount(); ++row) {
         Cell &cell = m_cells[row];
@@ -234,7 +234,7 @@ void PictureGallery::renameChannel(const QString &ipport, int channel, const QSt
     }
 }
 
-bool PictureGallery::fetchAll()
+bool ImageGallery::fetchAll()
 {
     QStringList identities;
     for (const Cell &cell : std::as_const(m_cells)) {
@@ -244,7 +244,7 @@ bool PictureGallery::fetchAll()
     return start(identities, -1);
 }
 
-bool PictureGallery::fetch(int row)
+bool ImageGallery::fetch(int row)
 {
     if (row < 0 || row >= m_cells.size())
         return false;
@@ -254,7 +254,7 @@ bool PictureGallery::fetch(int row)
     return start({cell.identity}, fetchesAll ? -1 : cell.channel);
 }
 
-bool PictureGallery::start(const QStringList &identities, int onlyChannel)
+bool ImageGallery::start(const QStringList &identities, int onlyChannel)
 {
     if (!m_deviceFactory || !m_batches || m_batch || identities.isEmpty())
         return false;
@@ -263,7 +263,7 @@ bool PictureGallery::start(const QStringList &identities, int onlyChannel)
     const int round = m_round + 1;
     BatchPlan plan = {.family = dhFamily,
                       .title = tr("获取图像"),
-                      .work = QStringLiteral("pictures"),
+                      .work = QStringLiteral("images"),
                       .devices = batchDevices(*m_deviceFactory, dhFamily, identities),
                       .policy = m_batches->usualPolicy(),
                       .isByAddress = true,
@@ -278,7 +278,7 @@ bool PictureGallery::start(const QStringList &identities, int onlyChannel)
     };
     plan.takeOutcomes = [mailbox = m_mailbox, round](const QList<BatchOutcome> &outcomes) {
         // Posted after the earlier updates of the steps.
-        mailbox->post(round, [outcomes](PictureGallery &gallery) {
+        mailbox->post(round, [outcomes](ImageGallery &gallery) {
             for (const BatchOutcome &outcome : outcomes)
                 gallery.finish(outcome.device.name, outcome.outcome);
         });
@@ -294,41 +294,40 @@ bool PictureGallery::start(const QStringList &identities, int onlyChannel)
     }
     noteChanged(0, static_cast<int>(m_cells.size()) - 1);
     m_batch = batch;
-    connect(batch, &Batch::finished, this, &PictureGallery::end);
+    connect(batch, &Batch::finished, this, &ImageGallery::end);
     Q_EMIT batchChanged();
     if (!batch->isRunning())
         end();
     return true;
 }
 
-DeviceStep PictureGallery::stepOf(const BatchDevice &device, int onlyChannel, const QString &folder) const
+DeviceStep ImageGallery::stepOf(const BatchDevice &device, int onlyChannel, const QString &folder) const
 {
     const int round = m_round;
-    const auto post = [mailbox = m_mailbox, round](const std::function<void(PictureGallery &)> &update) {
+    const auto post = [mailbox = m_mailbox, round](const std::function<void(ImageGallery &)> &update) {
         mailbox->post(round, update);
     };
     const QString identity = device.name;
-    const DeviceStep step = m_deviceFactory->backEnd(dhFamily)->pictureStep(
+    const DeviceStep step = m_deviceFactory->backEnd(dhFamily)->imageStep(
         {.ipport = device.ipport,
          .folder = folder + QLatin1Char('/') + snapshotFolder(identity),
          .onlyChannel = onlyChannel,
          .found =
              [post, identity](const QVariantList &channels, int channelCount) {
-                 post(
-                     [=](PictureGallery &gallery) { gallery.setChannels(identity, channels, channelCount); });
+                 post([=](ImageGallery &gallery) { gallery.setChannels(identity, channels, channelCount); });
              },
          .taken =
              [post, identity](int channel, const QString &path, const QString &message) {
-                 post([=](PictureGallery &gallery) { gallery.take(identity, channel, path, message); });
+                 post([=](ImageGallery &gallery) { gallery.take(identity, channel, path, message); });
              }});
     return [step, post, identity, kept = m_folder](const StepControl &control) {
-        post([identity](PictureGallery &gallery) { gallery.noteBegun(identity); });
+        post([identity](ImageGallery &gallery) { gallery.noteBegun(identity); });
         return step ? step(control)
                     : StepOutcome{.result = resultCode(LoginResult::NotSupported), .text = {}};
     };
 }
 
-void PictureGallery::end()
+void ImageGallery::end()
 {
     if (!m_batch || m_batch->isRunning())
         return;
@@ -336,13 +335,13 @@ void PictureGallery::end()
     Q_EMIT batchChanged();
 }
 
-void PictureGallery::stop()
+void ImageGallery::stop()
 {
     if (m_batch)
         m_batch->stop();
 }
 
-void PictureGallery::clear()
+void ImageGallery::clear()
 {
     stop();
     if (m_batch) {
@@ -360,7 +359,7 @@ void PictureGallery::clear()
     count();
 }
 
-PictureGallery::Range PictureGallery::cellsOf(const QString &identity) const
+ImageGallery::Range ImageGallery::cellsOf(const QString &identity) const
 {
     const auto isOther = [&identity](const Cell &cell) {
         return cell.identity != identity;
@@ -370,12 +369,12 @@ PictureGallery::Range PictureGallery::cellsOf(const QString &identity) const
     return {.first = static_cast<int>(first - m_cells.cbegin()), .count = static_cast<int>(last - first)};
 }
 
-void PictureGallery::noteBegun(const QString &identity)
+void ImageGallery::noteBegun(const QString &identity)
 {
     setFetching(cellsOf(identity));
 }
 
-void PictureGallery::setFetching(const Range &cells)
+void ImageGallery::setFetching(const Range &cells)
 {
     for (int row = cells.first; row < cells.first + cells.count; ++row) {
         if (m_cells.at(row).state == Fetching)
@@ -388,7 +387,7 @@ void PictureGallery::setFetching(const Range &cells)
     }
 }
 
-void PictureGallery::setChannels(const QString &identity, const QVariantList &channels, int channelCount)
+void ImageGallery::setChannels(const QString &identity, const QVariantList &channels, int channelCount)
 {
     const Range before = cellsOf(identity);
     const int wanted = static_cast<int>(channels.size());
@@ -424,7 +423,7 @@ void PictureGallery::setChannels(const QString &identity, const QVariantList &ch
     setFetching({.first = before.first, .count = wanted});
 }
 
-void PictureGallery::take(const QString &identity, int channel, const QString &file, const QString &message)
+void ImageGallery::take(const QString &identity, int channel, const QString &file, const QString &message)
 {
     const Range cells = cellsOf(identity);
     for (int row = cells.first; row < cells.first + cells.count; ++row) {
@@ -443,7 +442,7 @@ void PictureGallery::take(const QString &identity, int channel, const QString &f
     setFetching(cells);
 }
 
-void PictureGallery::finish(const QString &identity, const StepOutcome &outcome)
+void ImageGallery::finish(const QString &identity, const StepOutcome &outcome)
 {
     const Range cells = cellsOf(identity);
     for (int row = cells.first; row < cells.first + cells.count; ++row) {
@@ -464,7 +463,7 @@ void PictureGallery::finish(const QString &identity, const StepOutcome &outcome)
     }
 }
 
-void PictureGallery::noteChanged(int first, int last)
+void ImageGallery::noteChanged(int first, int last)
 {
     if (first > last)
         return;
@@ -472,49 +471,49 @@ void PictureGallery::noteChanged(int first, int last)
     count();
 }
 
-void PictureGallery::count()
+void ImageGallery::count()
 {
-    m_pictures = static_cast<int>(std::count_if(m_cells.cbegin(), m_cells.cend(),
-                                                [](const Cell &cell) { return !cell.file.isEmpty(); }));
+    m_images = static_cast<int>(std::count_if(m_cells.cbegin(), m_cells.cend(),
+                                              [](const Cell &cell) { return !cell.file.isEmpty(); }));
     m_failures = static_cast<int>(std::count_if(m_cells.cbegin(), m_cells.cend(),
                                                 [](const Cell &cell) { return cell.state == Failed; }));
     Q_EMIT countsChanged();
 }
 
-void PictureGallery::saveAll()
+void ImageGallery::saveAll()
 {
-    struct Picture
+    struct Image
     {
         QString file;
         QString folder; ///< of the device
         int channel = 0;
     };
-    if (m_isSaving || m_pictures == 0 || !m_deviceFactory)
+    if (m_isSaving || m_images == 0 || !m_deviceFactory)
         return;
-    QList<Picture> pictures;
+    QList<Image> images;
     for (const Cell &cell : std::as_const(m_cells)) {
         if (!cell.file.isEmpty())
-            pictures.append({cell.file, snapshotFolder(cell.ipport), cell.channel});
+            images.append({cell.file, snapshotFolder(cell.ipport), cell.channel});
     }
     m_isSaving = true;
     Q_EMIT savingChanged();
     const int work = m_deviceFactory->busyState()->begin(tr("保存图像"), BusyState::Program);
-    m_files.start([this, pictures, work, kept = m_folder,
+    m_files.start([this, images, work, kept = m_folder,
                    root = QDir::current().absoluteFilePath(QStringLiteral("snap"))] {
         sdk::giveWayToWindow();
         int written = 0;
         QString reason;
-        for (const Picture &picture : pictures) {
-            const QString folder = root + QLatin1Char('/') + picture.folder;
-            QFile source(picture.file);
+        for (const Image &image : images) {
+            const QString folder = root + QLatin1Char('/') + image.folder;
+            QFile source(image.file);
             QString failure;
             if (!source.open(QIODevice::ReadOnly))
                 failure = source.errorString();
             else if (!QDir().mkpath(folder))
                 failure = tr("无法建立文件夹 %1").arg(folder);
             else
-                failure = replaceFile(QStringLiteral("%1/%2.jpg").arg(folder).arg(picture.channel),
-                                      source.readAll());
+                failure =
+                    replaceFile(QStringLiteral("%1/%2.jpg").arg(folder).arg(image.channel), source.readAll());
             if (failure.isEmpty())
                 ++written;
             else if (reason.isEmpty())
@@ -522,7 +521,7 @@ void PictureGallery::saveAll()
         }
         QMetaObject::invokeMethod(
             this,
-            [this, work, written, failures = static_cast<int>(pictures.size()) - written, root, reason] {
+            [this, work, written, failures = static_cast<int>(images.size()) - written, root, reason] {
                 if (m_deviceFactory)
                     m_deviceFactory->busyState()->end(work);
                 m_isSaving = false;

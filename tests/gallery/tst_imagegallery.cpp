@@ -1,7 +1,7 @@
 #include "device/batch/batches.h"
-#include "gallery/picturegallery.h"
+#include "gallery/imagegallery.h"
 #include "tests/files/filecontents.h"
-#include "tests/gallery/picturesbackend.h"
+#include "tests/gallery/imagesbackend.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -9,17 +9,17 @@
 #include <QUrl>
 
 /// Images of many devices: fetched by batches, stored in files, saved as snapshots.
-class TestPictureGallery : public QObject
+class TestImageGallery : public QObject
 {
     Q_OBJECT
 private:
     QTemporaryDir m_folder;
-    std::unique_ptr<PicturesFactory> m_site;
+    std::unique_ptr<ImagesFactory> m_site;
     std::unique_ptr<BatchEngine> m_engine;
     std::unique_ptr<Batches> m_batches;
-    std::unique_ptr<PictureGallery> m_gallery;
+    std::unique_ptr<ImageGallery> m_gallery;
 
-    [[nodiscard]] PicturesBackEnd &devices() const { return *m_site->devices; }
+    [[nodiscard]] ImagesBackEnd &devices() const { return *m_site->devices; }
 
     /// A line for each cell: "device · name: state message".
     [[nodiscard]] QStringList cells() const
@@ -42,7 +42,7 @@ private:
     }
     [[nodiscard]] QString fileOf(int row) const
     {
-        return QUrl(m_gallery->get(row)["picture"].toString()).toLocalFile();
+        return QUrl(m_gallery->get(row)["image"].toString()).toLocalFile();
     }
     void awaitEnd() const
     {
@@ -55,10 +55,10 @@ private Q_SLOTS:
     {
         QDir::setCurrent(m_folder.path());
         QDir(QStringLiteral("snap")).removeRecursively();
-        m_site = std::make_unique<PicturesFactory>();
+        m_site = std::make_unique<ImagesFactory>();
         m_engine = std::make_unique<BatchEngine>(nullptr);
         m_batches = std::make_unique<Batches>(m_site->factory, *m_engine, [] { return 2; });
-        m_gallery = std::make_unique<PictureGallery>();
+        m_gallery = std::make_unique<ImageGallery>();
         m_gallery->setDeviceFactory(&m_site->factory);
         m_gallery->setBatches(m_batches.get());
     }
@@ -92,7 +92,7 @@ private Q_SLOTS:
             "yard: taken",
         };
         QCOMPARE(cells(), expected);
-        QCOMPARE(m_gallery->pictures(), 5);
+        QCOMPARE(m_gallery->images(), 5);
         QCOMPARE(m_gallery->failures(), 2);
         QVERIFY(QImage(fileOf(1)) != QImage(fileOf(3)));
         QCOMPARE(m_gallery->devices().at(1).toMap()["ipport"], "192.168.1.21:37777");
@@ -177,7 +177,7 @@ private Q_SLOTS:
         QCOMPARE(m_batches->failedMarks()->count(), 0); // fetching images is not a change of devices
     }
 
-    void picturesAreSavedAsSnapshots()
+    void imagesAreSavedAsSnapshots()
     {
         devices().addDevice(20, "gate", {});
         devices().addDevice(21, "recorder", {.channels = {"north", "", "south"}, .channelCount = 3});
@@ -186,7 +186,7 @@ private Q_SLOTS:
         awaitEnd();
         QVERIFY(QDir().mkpath("snap"));
         QVERIFY(writeFile("snap/192.168.1.22_37777", "in the way"));
-        const QSignalSpy saved(m_gallery.get(), &PictureGallery::saved);
+        const QSignalSpy saved(m_gallery.get(), &ImageGallery::saved);
         m_gallery->saveAll();
         QVERIFY(m_gallery->isSaving());
         QTRY_COMPARE(saved.size(), 1);
@@ -202,7 +202,7 @@ private Q_SLOTS:
     void removedCellsDoNotReturn()
     {
         const auto temporaryFolders = [] {
-            return QDir(QDir::tempPath()).entryList({"tst_picturegallery-*"});
+            return QDir(QDir::tempPath()).entryList({"tst_imagegallery-*"});
         };
         const QStringList before = temporaryFolders();
         devices().addDevice(20, "gate", {.waits = true});
@@ -222,15 +222,15 @@ private Q_SLOTS:
 
     void furtherDevicesAreOmitted()
     {
-        for (int number = 0; number < PictureGallery::maximumDevices + 3; ++number)
+        for (int number = 0; number < ImageGallery::maximumDevices + 3; ++number)
             devices().add({.mac = numberedMac(number)});
         m_gallery->show(m_site->rows());
-        QCOMPARE(m_gallery->rowCount(), PictureGallery::maximumDevices);
+        QCOMPARE(m_gallery->rowCount(), ImageGallery::maximumDevices);
         QCOMPARE(m_gallery->leftOut(), 3);
         m_gallery->clear();
         QCOMPARE(m_gallery->leftOut(), 0);
     }
 };
 
-QTEST_MAIN(TestPictureGallery)
-#include "tst_picturegallery.moc"
+QTEST_MAIN(TestImageGallery)
+#include "tst_imagegallery.moc"

@@ -7,7 +7,7 @@
 #include <functional>
 
 /// The images to take of a device. The functions are called on the thread of the step. They may be empty.
-struct PictureOrder
+struct ImageOrder
 {
     /// Maximum number of channels of a device.
     static constexpr int maximumChannels = 16;

@@ -1,4 +1,4 @@
-#include "device/dh/pictures/pictureoperations.h"
+#include "device/dh/images/imageoperations.h"
 
 #include "device/dh/configuration/currentsession.h"
 #include "device/dh/logins/devicelogins.h"
@@ -41,7 +41,7 @@ int snapResult(SnapProblem problem)
     switch (problem) {
     case SnapProblem::None:
         return resultCode(LoginResult::Success);
-    case SnapProblem::NoPicture:
+    case SnapProblem::NoFrame:
         return resultCode(LoginResult::NetworkFailure);
     default:
         return snapshotFailed;
@@ -49,11 +49,11 @@ int snapResult(SnapProblem problem)
 }
 
 /// Why an image is missing, in the user's language.
-QString missingPictureText(const SnapOutcome &outcome)
+QString missingImageText(const SnapOutcome &outcome)
 {
-    if (outcome.problem != SnapProblem::NoPicture)
+    if (outcome.problem != SnapProblem::NoFrame)
         return outcome.message;
-    return outcome.reason.isEmpty() ? QCoreApplication::translate("PictureOperations", "设备没有发送画面")
+    return outcome.reason.isEmpty() ? QCoreApplication::translate("ImageOperations", "设备没有发送画面")
                                     : outcome.reason;
 }
 
@@ -65,22 +65,22 @@ QString snapshotFolder(const QString &device)
 
 } // namespace
 
-PictureOperations::PictureOperations(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
-                                     const DeviceLogins &logins, UpgradeCheck isUpgradingAt,
-                                     const CurrentSession &session, BackEndSignals &backEndSignals)
+ImageOperations::ImageOperations(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
+                                 const DeviceLogins &logins, UpgradeCheck isUpgradingAt,
+                                 const CurrentSession &session, BackEndSignals &backEndSignals)
     : m_store(std::move(store)), m_libraries(std::move(libraries)), m_logins(logins),
       m_isUpgradingAt(std::move(isUpgradingAt)), m_session(session), m_signals(backEndSignals)
 {
 }
 
-PictureOperations::~PictureOperations() = default;
+ImageOperations::~ImageOperations() = default;
 
-void PictureOperations::cancelSnapshots()
+void ImageOperations::cancelSnapshots()
 {
     m_snapshots.reset();
 }
 
-void PictureOperations::takeSnapshots(const QString &kind, int channel, const QString &address)
+void ImageOperations::takeSnapshots(const QString &kind, int channel, const QString &address)
 {
     if (kind != allChannels && kind != oneChannel)
         return;
@@ -93,7 +93,7 @@ void PictureOperations::takeSnapshots(const QString &kind, int channel, const QS
     m_snapshots->take(snapTask(kind, kind == oneChannel ? channel : -1, address));
 }
 
-SnapTask PictureOperations::snapTask(const QString &kind, int onlyChannel, const QString &address) const
+SnapTask ImageOperations::snapTask(const QString &kind, int onlyChannel, const QString &address) const
 {
     return {.libraries = m_libraries,
             .kind = kind,
@@ -117,7 +117,7 @@ SnapTask PictureOperations::snapTask(const QString &kind, int onlyChannel, const
                 }};
 }
 
-QList<DeviceStep> PictureOperations::snapshotSteps(const QString &address)
+QList<DeviceStep> ImageOperations::snapshotSteps(const QString &address)
 {
     if (m_session.handle() == 0)
         return {};
@@ -135,7 +135,7 @@ QList<DeviceStep> PictureOperations::snapshotSteps(const QString &address)
                 std::call_once(channels->asked, [&] { channels->list = task.channels(); });
                 const SnapOutcome outcome =
                     takeSnapshot(task, channels->list.value(number, {.number = number}), control.stopToken());
-                if (outcome.problem == SnapProblem::NoPicture && control.shouldEnd())
+                if (outcome.problem == SnapProblem::NoFrame && control.shouldEnd())
                     return StepOutcome{.result = resultCode(LoginResult::NotDone), .text = {}};
                 noteSnapshot(allChannels, number, outcome.path, outcome.message);
                 return StepOutcome{.result = snapResult(outcome.problem), .text = outcome.reason};
@@ -144,7 +144,7 @@ QList<DeviceStep> PictureOperations::snapshotSteps(const QString &address)
     return steps;
 }
 
-DeviceStep PictureOperations::pictureStep(const PictureOrder &order)
+DeviceStep ImageOperations::imageStep(const ImageOrder &order)
 {
     const QJsonObject row = m_store->rowAt(order.ipport);
     const QJsonValue state = row.value(DeviceRowKey::state);
@@ -159,12 +159,12 @@ DeviceStep PictureOperations::pictureStep(const PictureOrder &order)
         if (login.result != LoginResult::Success)
             return StepOutcome{.result = resultCode(login.result), .text = {}};
         const UntakenLogin end(m_libraries.net, login);
-        return takePictures(order, login, control);
+        return takeImages(order, login, control);
     };
 }
 
-StepOutcome PictureOperations::takePictures(const PictureOrder &order, const SecureLogin &login,
-                                            const StepControl &control) const
+StepOutcome ImageOperations::takeImages(const ImageOrder &order, const SecureLogin &login,
+                                        const StepControl &control) const
 {
     const ConfigSession session(m_libraries, login.handle);
     QList<SnapChannel> channels;
@@ -173,7 +173,7 @@ StepOutcome PictureOperations::takePictures(const PictureOrder &order, const Sec
         channels.append({order.onlyChannel, connected.value(order.onlyChannel, true)});
     } else {
         const int count = std::max(1, login.channelCount); // a device that reports no channels has one
-        const QVariantList found = liveChannels(session, std::min(count, PictureOrder::maximumChannels));
+        const QVariantList found = liveChannels(session, std::min(count, ImageOrder::maximumChannels));
         for (const QVariant &channel : found) {
             const QVariantMap values = channel.toMap();
             channels.append(
@@ -197,15 +197,15 @@ StepOutcome PictureOperations::takePictures(const PictureOrder &order, const Sec
         if (control.shouldEnd())
             return {.result = resultCode(LoginResult::NotDone), .text = {}};
         const SnapOutcome outcome = takeSnapshot(task, channel, control.stopToken());
-        if (outcome.problem == SnapProblem::NoPicture)
+        if (outcome.problem == SnapProblem::NoFrame)
             task.tries = snapTries;
         else
             control.noteProgress(); // each image restarts the deadline: a recorder has many channels
         if (outcome.problem != SnapProblem::None && ++failures == 1)
-            failure = {.result = snapResult(outcome.problem), .text = missingPictureText(outcome)};
-        if (order.taken && !(outcome.problem == SnapProblem::NoPicture && control.shouldEnd()))
+            failure = {.result = snapResult(outcome.problem), .text = missingImageText(outcome)};
+        if (order.taken && !(outcome.problem == SnapProblem::NoFrame && control.shouldEnd()))
             order.taken(channel.number, outcome.path.mid(QStringLiteral("file:///").size()),
-                        missingPictureText(outcome));
+                        missingImageText(outcome));
     }
     if (failures == channels.size())
         return failure;
@@ -213,8 +213,8 @@ StepOutcome PictureOperations::takePictures(const PictureOrder &order, const Sec
             .text = failures > 0 ? tr("%n 个通道没有图像", nullptr, failures) : QString()};
 }
 
-OwnPicture PictureOperations::takeOwnPicture(const sdk::SdkLibraries &libraries, const OwnPictureOrder &order,
-                                             const StepControl &control)
+OwnImage ImageOperations::takeOwnImage(const sdk::SdkLibraries &libraries, const OwnImageOrder &order,
+                                       const StepControl &control)
 {
     const QList<bool> connected =
         connectedChannels(ConfigSession(libraries, order.handle), order.channelCount);
@@ -230,8 +230,8 @@ OwnPicture PictureOperations::takeOwnPicture(const sdk::SdkLibraries &libraries,
     return {.path = outcome.path, .message = outcome.message};
 }
 
-void PictureOperations::noteSnapshot(const QString &kind, int channel, const QString &path,
-                                     const QString &message)
+void ImageOperations::noteSnapshot(const QString &kind, int channel, const QString &path,
+                                   const QString &message)
 {
     if (kind == allChannels)
         m_signals.emitNow<&CDeviceBase::signalSnapPictureToFile>(channel, path, message);

@@ -7,15 +7,15 @@
 namespace sdk::ffmpeg {
 
 /// Not thread-safe.
-class PictureConverter
+class FrameConverter
 {
 public:
-    /// Writes the frame's pictureSize() bytes to `destination`. Planar 4:2:0 with 8 bits is copied, other
+    /// Writes the frame's frameSize() bytes to `destination`. Planar 4:2:0 with 8 bits is copied, other
     /// formats are converted. Returns false if the conversion fails.
     [[nodiscard]] bool write(const AVFrame &frame, std::uint8_t *destination);
 
     /// The colour space of the written bytes.
-    [[nodiscard]] static PictureColour colourOf(const AVFrame &frame);
+    [[nodiscard]] static FrameColour colourOf(const AVFrame &frame);
 
 private:
     [[nodiscard]] bool convert(const AVFrame &frame);

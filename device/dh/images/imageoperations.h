@@ -2,7 +2,7 @@
 #pragma once
 
 #include "device/registry/backendsignals.h"
-#include "device/registry/devicepictures.h"
+#include "device/registry/deviceimages.h"
 #include "device/registry/devicestep.h"
 #include "device/registry/upgradecheck.h"
 #include "sdk/sdklibraries.h"
@@ -13,8 +13,8 @@
 #include <memory>
 
 class CurrentSession;
-struct OwnPicture;
-struct OwnPictureOrder;
+struct OwnImage;
+struct OwnImageOrder;
 class DeviceLogins;
 class DeviceStore;
 class SnapThread;
@@ -23,16 +23,16 @@ struct SnapTask;
 
 /// Takes snapshots (one image of a live view) and writes them to files. Lives on the main thread; its steps
 /// run on any thread.
-class PictureOperations
+class ImageOperations
 {
-    Q_DECLARE_TR_FUNCTIONS(PictureOperations)
+    Q_DECLARE_TR_FUNCTIONS(ImageOperations)
 public:
-    PictureOperations(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
-                      const DeviceLogins &logins, UpgradeCheck isUpgradingAt, const CurrentSession &session,
-                      BackEndSignals &backEndSignals);
-    ~PictureOperations();
-    PictureOperations(const PictureOperations &) = delete;
-    PictureOperations &operator=(const PictureOperations &) = delete;
+    ImageOperations(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
+                    const DeviceLogins &logins, UpgradeCheck isUpgradingAt, const CurrentSession &session,
+                    BackEndSignals &backEndSignals);
+    ~ImageOperations();
+    ImageOperations(const ImageOperations &) = delete;
+    ImageOperations &operator=(const ImageOperations &) = delete;
 
     /// Takes snapshots of the current session's device one after another on a separate thread and returns
     /// immediately. `kind` is "liveCapture" for all channels or "againCapture" for `channel` (from 0); others
@@ -42,12 +42,12 @@ public:
     /// See CDeviceBase::snapshotSteps().
     [[nodiscard]] QList<DeviceStep> snapshotSteps(const QString &address);
 
-    /// Takes a snapshot with the login of a live view, see OwnSession::takePicture(). Any thread; blocks.
-    [[nodiscard]] static OwnPicture takeOwnPicture(const sdk::SdkLibraries &libraries,
-                                                   const OwnPictureOrder &order, const StepControl &control);
+    /// Takes a snapshot with the login of a live view, see OwnSession::takeImage(). Any thread; blocks.
+    [[nodiscard]] static OwnImage takeOwnImage(const sdk::SdkLibraries &libraries, const OwnImageOrder &order,
+                                               const StepControl &control);
 
-    /// See CDeviceBase::pictureStep().
-    [[nodiscard]] DeviceStep pictureStep(const PictureOrder &order);
+    /// See CDeviceBase::imageStep().
+    [[nodiscard]] DeviceStep imageStep(const ImageOrder &order);
 
     /// Cancels the snapshots of takeSnapshots() and waits for their thread.
     void cancelSnapshots();
@@ -56,8 +56,8 @@ private:
     /// Task for one channel (from 0), or for all with -1.
     [[nodiscard]] SnapTask snapTask(const QString &kind, int onlyChannel, const QString &address) const;
     /// Takes the images of an order with a login. Any thread.
-    [[nodiscard]] StepOutcome takePictures(const PictureOrder &order, const SecureLogin &login,
-                                           const StepControl &control) const;
+    [[nodiscard]] StepOutcome takeImages(const ImageOrder &order, const SecureLogin &login,
+                                         const StepControl &control) const;
     /// Emits the signal of `kind` for one snapshot. Any thread.
     void noteSnapshot(const QString &kind, int channel, const QString &path, const QString &message);
 

@@ -22,7 +22,7 @@ class QTemporaryDir;
 /// one cell until its channels are known.
 ///
 /// Lives on the main thread.
-class PictureGallery : public QAbstractListModel
+class ImageGallery : public QAbstractListModel
 {
     Q_OBJECT
     Q_MOC_INCLUDE("device/batch/batches.h")
@@ -35,7 +35,7 @@ class PictureGallery : public QAbstractListModel
     Q_PROPERTY(int count READ rowCount NOTIFY countsChanged)
     Q_PROPERTY(int deviceCount READ deviceCount NOTIFY countsChanged)
     Q_PROPERTY(int leftOut READ leftOut NOTIFY countsChanged)
-    Q_PROPERTY(int pictures READ pictures NOTIFY countsChanged)
+    Q_PROPERTY(int images READ images NOTIFY countsChanged)
     Q_PROPERTY(int failures READ failures NOTIFY countsChanged)
     Q_PROPERTY(bool saving READ isSaving NOTIFY savingChanged)
 public:
@@ -59,16 +59,16 @@ public:
         ChannelRole,               ///< "channel", from 0
         NameRole,                  ///< "name" of the channel; empty while the device has only one
         StateRole,                 ///< "stage": a State
-        PictureRole,               ///< "picture": URL of the file, also of an older image; empty without one
+        ImageRole,                 ///< "image": URL of the file, also of an older image; empty without one
         MessageRole,               ///< "message": reason of a missing image, in the user's language
         TimeRole,                  ///< "takenAt": "HH:mm:ss"; empty without an image
         NoteRole,                  ///< "note": omitted channels of the device, in the user's language
     };
 
-    explicit PictureGallery(QObject *parent = nullptr);
+    explicit ImageGallery(QObject *parent = nullptr);
 
     /// Cancels the batch and waits for saveAll().
-    ~PictureGallery() override;
+    ~ImageGallery() override;
 
     [[nodiscard]] CDeviceFactory *deviceFactory() const;
     void setDeviceFactory(CDeviceFactory *deviceFactory);
@@ -82,7 +82,7 @@ public:
 
     [[nodiscard]] int deviceCount() const { return m_deviceCount; }
     [[nodiscard]] int leftOut() const { return m_leftOut; }   ///< devices beyond maximumDevices
-    [[nodiscard]] int pictures() const { return m_pictures; } ///< number of cells with an image
+    [[nodiscard]] int images() const { return m_images; }     ///< number of cells with an image
     [[nodiscard]] int failures() const { return m_failures; } ///< number of failed cells
     [[nodiscard]] bool isSaving() const { return m_isSaving; }
 
@@ -181,7 +181,7 @@ private:
     int m_round = 0;     ///< increased by each batch and by clear(); updates of earlier rounds are ignored
     int m_deviceCount = 0;
     int m_leftOut = 0;
-    int m_pictures = 0;
+    int m_images = 0;
     int m_failures = 0;
     bool m_isSaving = false;
 };

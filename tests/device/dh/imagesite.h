@@ -11,7 +11,7 @@
 #include "tests/device/dh/scenedevices.h"
 
 /// Base class of tests. The application's factory accesses the site, in real time.
-class PictureSite
+class ImageSite
 {
 protected:
     void openSite(const QList<sdk::demo::SceneDevice> &devices)

@@ -11,7 +11,7 @@ namespace sdk::ffmpeg {
 
 /// Keeps the last two delivered frames while the next one is written, as DecodeHandler specifies. Not
 /// thread-safe.
-class PictureRing
+class FrameRing
 {
 public:
     /// Memory for the next frame; null without memory. Repeated calls return the same memory.

@@ -10,7 +10,7 @@
 #include <condition_variable>
 #include <mutex>
 
-class PicturesBackEnd : public RowsBackEnd
+class ImagesBackEnd : public RowsBackEnd
 {
     Q_OBJECT
 public:
@@ -65,7 +65,7 @@ public:
         return {};
     }
 
-    DeviceStep pictureStep(const PictureOrder &order) override
+    DeviceStep imageStep(const ImageOrder &order) override
     {
         return [this, order](const StepControl &control) {
             Device device;
@@ -85,7 +85,7 @@ public:
     }
 
 private:
-    static StepOutcome perform(const PictureOrder &order, const Device &device, const StepControl &control)
+    static StepOutcome perform(const ImageOrder &order, const Device &device, const StepControl &control)
     {
         if (device.result != 0)
             return {.result = device.result, .text = {}};
@@ -104,11 +104,11 @@ private:
                 order.taken(channel, {}, QStringLiteral("no camera"));
                 continue;
             }
-            QImage picture(960, 540, QImage::Format_RGB32);
-            picture.fill(QColor::fromHsv(channel * 40 % 360, 200, 200));
+            QImage image(960, 540, QImage::Format_RGB32);
+            image.fill(QColor::fromHsv(channel * 40 % 360, 200, 200));
             const QString path = QStringLiteral("%1/%2.jpg").arg(order.folder).arg(channel);
             QDir().mkpath(order.folder);
-            picture.save(path);
+            image.save(path);
             order.taken(channel, path, {});
         }
         return {};
@@ -123,10 +123,10 @@ private:
     bool m_isReleased = false;
 };
 
-/// A factory of one PicturesBackEnd under the name "dh".
-struct PicturesFactory
+/// A factory of one ImagesBackEnd under the name "dh".
+struct ImagesFactory
 {
-    std::shared_ptr<PicturesBackEnd> devices = std::make_shared<PicturesBackEnd>();
+    std::shared_ptr<ImagesBackEnd> devices = std::make_shared<ImagesBackEnd>();
     CDeviceFactory factory{{{QStringLiteral("dh"), [this] {
                                  return devices;
                              }}}};

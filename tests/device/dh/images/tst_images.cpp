@@ -1,7 +1,7 @@
 #include "device/store/devicerow.h"
 #include "device/work/livesession.h"
 #include "tests/datatable.h"
-#include "tests/device/dh/picturesite.h"
+#include "tests/device/dh/imagesite.h"
 
 #include <QDir>
 #include <QImage>
@@ -31,7 +31,7 @@ struct Report
 } // namespace
 
 /// Images of devices for an overview, and sessions in addition to the current one, on a simulated site.
-class TestPictures : public QObject, private PictureSite
+class TestImages : public QObject, private ImageSite
 {
     Q_OBJECT
 private:
@@ -40,9 +40,9 @@ private:
     Report take(const QString &ipport, int onlyChannel = -1)
     {
         Report report;
-        PictureOrder order = {.ipport = ipport,
-                              .folder = m_folder.filePath(QStringLiteral("pictures")),
-                              .onlyChannel = onlyChannel};
+        ImageOrder order = {.ipport = ipport,
+                            .folder = m_folder.filePath(QStringLiteral("images")),
+                            .onlyChannel = onlyChannel};
         order.found = [&report](const QVariantList &channels, int channelCount) {
             report.channelCount = channelCount;
             for (const QVariant &channel : channels)
@@ -51,15 +51,15 @@ private:
         order.taken = [&report](int channel, const QString &path, const QString &message) {
             report.taken.append(QStringLiteral("%1 %2").arg(channel).arg(path.isEmpty() ? message : path));
         };
-        const DeviceStep step = factory()->backEnd("dh")->pictureStep(order);
+        const DeviceStep step = factory()->backEnd("dh")->imageStep(order);
         const std::unique_ptr<QThread> thread(QThread::create([&] { report.outcome = step(StepControl()); }));
         thread->start();
         thread->wait();
         return report;
     }
-    [[nodiscard]] QString pictureOf(int channel) const
+    [[nodiscard]] QString imageOf(int channel) const
     {
-        return m_folder.filePath(QStringLiteral("pictures/%1.jpg").arg(channel));
+        return m_folder.filePath(QStringLiteral("images/%1.jpg").arg(channel));
     }
     [[nodiscard]] qint64 currentHandle()
     {
@@ -76,11 +76,11 @@ private:
 private Q_SLOTS:
     void init()
     {
-        QDir(m_folder.filePath(QStringLiteral("pictures"))).removeRecursively();
+        QDir(m_folder.filePath(QStringLiteral("images"))).removeRecursively();
         QList<sdk::demo::SceneDevice> devices = {sceneDevice(recorder, "192.168.1.12", "NVR"),
                                                  sceneDevice(camera, "192.168.1.13"),
                                                  sceneDevice(freshCamera, "192.168.1.14")};
-        for (int channel = 0; channel < PictureOrder::maximumChannels + 2; ++channel)
+        for (int channel = 0; channel < ImageOrder::maximumChannels + 2; ++channel)
             devices[0].channels.append({QStringLiteral("C%1").arg(channel), channel == 1});
         openSite(devices);
         for (const auto &[mac, ipport] :
@@ -101,21 +101,21 @@ private Q_SLOTS:
     {
         const qint64 before = currentHandle();
         const Report report = take(recorderPort);
-        QCOMPARE(report.channelCount, PictureOrder::maximumChannels + 2);
-        QCOMPARE(report.found.size(), PictureOrder::maximumChannels);
+        QCOMPARE(report.channelCount, ImageOrder::maximumChannels + 2);
+        QCOMPARE(report.found.size(), ImageOrder::maximumChannels);
         QCOMPARE(report.found.value(1), "C1");
-        QCOMPARE(report.taken.size(), PictureOrder::maximumChannels);
+        QCOMPARE(report.taken.size(), ImageOrder::maximumChannels);
         QCOMPARE(report.taken.value(0), QStringLiteral("0 通道未连接"));
-        QCOMPARE(report.taken.value(1), "1 " + pictureOf(1));
-        QVERIFY(!QImage(pictureOf(1)).isNull());
+        QCOMPARE(report.taken.value(1), "1 " + imageOf(1));
+        QVERIFY(!QImage(imageOf(1)).isNull());
         QCOMPARE(report.outcome.result, 0);
         QVERIFY(report.outcome.text.contains("15")); // channels without a camera
 
         const Report single = take(recorderPort, 1);
         QCOMPARE(single.channelCount, -1);
-        QCOMPARE(single.taken, QStringList("1 " + pictureOf(1)));
+        QCOMPARE(single.taken, QStringList("1 " + imageOf(1)));
 
-        QCOMPARE(take(cameraPort).taken, QStringList("0 " + pictureOf(0)));
+        QCOMPARE(take(cameraPort).taken, QStringList("0 " + imageOf(0)));
         // Each device had a separate login that has ended. The current session continues.
         QCOMPARE(m_site->requests().of("NetLoginSecure").size(), 3);
         QCOMPARE(m_site->requests().of("NetLogout").size(), 3);
@@ -174,12 +174,12 @@ private Q_SLOTS:
         const qsizetype logins = asked("NetLoginSecure", camera);
         const QString folder = QDir::currentPath();
         QVERIFY(QDir::setCurrent(m_folder.path()));
-        const QSignalSpy pictures(&session, &LiveSession::pictureTaken);
-        session.takePicture(0, "Gate/1");
-        const bool isTaken = QTest::qWaitFor([&] { return !pictures.isEmpty(); }, longWait);
+        const QSignalSpy images(&session, &LiveSession::imageTaken);
+        session.takeImage(0, "Gate/1");
+        const bool isTaken = QTest::qWaitFor([&] { return !images.isEmpty(); }, longWait);
         QVERIFY(QDir::setCurrent(folder));
         QVERIFY(isTaken);
-        const QString path = pictures.last().at(1).toString().mid(QStringLiteral("file:///").size());
+        const QString path = images.last().at(1).toString().mid(QStringLiteral("file:///").size());
         QCOMPARE(QFileInfo(path).path(), m_folder.filePath("snap/Gate_1"));
         QVERIFY(!QImage(path).isNull());
         QCOMPARE(m_site->requests().of("NetStartRealStream").last().mac, camera);
@@ -208,5 +208,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestPictures)
-#include "tst_pictures.moc"
+QTEST_MAIN(TestImages)
+#include "tst_images.moc"

@@ -1,4 +1,4 @@
-#include "sdk/ffmpeg/internal/planarpicture.h"
+#include "sdk/ffmpeg/internal/planarframe.h"
 
 #ifdef __SSE2__
 #include <emmintrin.h>
