@@ -11,7 +11,7 @@ namespace sdk {
 class CallGate
 {
 public:
-    /// One call. It lasts as long as this object.
+    /// One call. It lasts as long as this object, which the gate must outlive.
     class Call
     {
     public:

@@ -10,6 +10,7 @@ class WorkbookResults
 {
     Q_DECLARE_TR_FUNCTIONS(WorkbookResults)
 public:
+    /// `workbook` must outlive this object.
     explicit WorkbookResults(CommandWorkbook &workbook);
 
     [[nodiscard]] const std::vector<WorkbookCommand> &commands() const { return m_commands; }

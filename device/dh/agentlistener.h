@@ -17,6 +17,7 @@ class DeviceStore;
 class AgentListener
 {
 public:
+    /// `backEndSignals` must outlive this object.
     AgentListener(std::shared_ptr<DeviceStore> store, BackEndSignals &backEndSignals);
     ~AgentListener();
     AgentListener(const AgentListener &) = delete;

@@ -15,19 +15,21 @@ class DeviceReservations;
 class ConfigurationPages
 {
 public:
+    /// The referenced objects must outlive this object, which must outlive its steps.
     ConfigurationPages(sdk::SdkLibraries libraries, const DeviceReservations &reservations,
                        CurrentSession &session, BackEndSignals &backEndSignals);
 
-    /// Executes operations on the calling thread, blocks it for the device's responses, and emits their
-    /// signals.
+    /// Executes operations on the main thread, blocks it for the device's responses, and then emits the
+    /// signals of the operations.
     void perform(const std::function<void(SessionOperations &operations)> &operations);
 
     /// See CDeviceBase::sessionStep().
     [[nodiscard]] PageStep step(const SessionJob &job);
 
-    /// See SessionOperations::getConfigData(). Additional keys: "loginHandle" (handle of the current session
-    /// or 0; any thread), "sessionDevice" (its address and port, empty without a session) and "library" (a
-    /// map of the capabilities of the network library, see LibraryKey).
+    /// See SessionOperations::getConfigData(). Additional keys: "loginHandle" (handle of the current session,
+    /// or 0), "sessionDevice" (its address and port, empty without a session) and "library" (a map of the
+    /// capabilities of the network library, see LibraryKey). Main thread, except for "loginHandle", which may
+    /// be read on any thread.
     [[nodiscard]] QVariant value(const QString &key, const QVariant &channel) const;
 
 private:

@@ -18,6 +18,7 @@ struct SecureLogin;
 class CurrentSession
 {
 public:
+    /// `threads` must outlive this object.
     CurrentSession(sdk::SdkLibraries libraries, SessionThreads &threads);
 
     /// Starts a session with a successful login and clears the state. The present login is logged out in the

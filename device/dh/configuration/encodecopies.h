@@ -24,6 +24,7 @@ class EncodeCopies
 {
     Q_DECLARE_TR_FUNCTIONS(EncodeCopies)
 public:
+    /// The referenced objects must outlive this object, which must outlive its steps.
     EncodeCopies(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries, const DeviceLogins &logins,
                  UpgradeCheck isUpgradingAt, const CurrentSession &session, BackEndSignals &backEndSignals);
 

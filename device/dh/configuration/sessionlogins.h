@@ -22,6 +22,7 @@ class SessionThreads;
 class SessionLogins
 {
 public:
+    /// The referenced objects must outlive this object, which must outlive its steps.
     /// `threads` must not be null. Separate sessions keep a copy of `takeOwnImage`.
     SessionLogins(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries, const DeviceLogins &logins,
                   std::shared_ptr<SessionThreads> threads, OwnImageTaker takeOwnImage,

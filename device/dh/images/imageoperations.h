@@ -27,6 +27,7 @@ class ImageOperations
 {
     Q_DECLARE_TR_FUNCTIONS(ImageOperations)
 public:
+    /// The referenced objects must outlive this object, which must outlive its steps.
     ImageOperations(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
                     const DeviceLogins &logins, UpgradeCheck isUpgradingAt, const CurrentSession &session,
                     BackEndSignals &backEndSignals);
@@ -35,8 +36,10 @@ public:
     ImageOperations &operator=(const ImageOperations &) = delete;
 
     /// Takes snapshots of the current session's device one after another on a separate thread and returns
-    /// immediately. `kind` is "liveCapture" for all channels or "againCapture" for `channel` (from 0); others
-    /// are ignored. `address` is the name of the device's folder in "snap" in the working directory.
+    /// immediately. Snapshots that are not taken yet are taken first. `kind` is "liveCapture" for all
+    /// channels, each of which emits CDeviceBase::signalSnapPictureToFile, or "againCapture" for `channel`
+    /// (from 0), which emits CDeviceBase::signalSnapPictureToFileAgain; others are ignored. `address` is the
+    /// name of the device's folder in "snap" in the working directory.
     void takeSnapshots(const QString &kind, int channel, const QString &address);
 
     /// See CDeviceBase::snapshotSteps().

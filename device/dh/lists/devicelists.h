@@ -18,6 +18,7 @@ class P2PPorts;
 class DeviceLists
 {
 public:
+    /// The referenced objects must outlive this object.
     DeviceLists(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries, const DeviceLogins &logins,
                 BackEndSignals &backEndSignals);
 

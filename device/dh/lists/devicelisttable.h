@@ -14,6 +14,7 @@ public:
     static constexpr int maximumRowsAbove = 50;
     static constexpr int maximumColumns = 64;
 
+    /// The lines are added to `contents`, which must outlive this object.
     explicit DeviceListTable(DeviceListContents &contents) : m_contents(contents) {}
 
     /// Adds the next row. Returns false if the table cannot be used; DeviceListContents::refusal has the

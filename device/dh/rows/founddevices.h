@@ -19,7 +19,8 @@ class FoundDevices
 {
     Q_DECLARE_TR_FUNCTIONS(FoundDevices)
 public:
-    /// `isUpgrading` takes row names.
+    /// The referenced objects must outlive this object, which must outlive its steps. `isUpgrading`
+    /// takes row names.
     FoundDevices(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries, const DeviceLogins &logins,
                  UpgradeCheck isUpgrading);
 

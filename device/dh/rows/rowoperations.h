@@ -23,7 +23,7 @@ struct RowLoginRequest;
 class RowOperations
 {
 public:
-    /// `isUpgrading` takes row names.
+    /// The referenced objects must outlive this object. `isUpgrading` takes row names.
     RowOperations(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries, const DeviceLogins &logins,
                   UpgradeCheck isUpgrading, BackEndSignals &backEndSignals);
 

@@ -28,7 +28,8 @@ struct SearchSettings
 class SearchOperations
 {
 public:
-    /// `settings` is called at each start of a search, on the main thread.
+    /// `settings` is called at each start of a search, on the main thread. The referenced `logins` and
+    /// `backEndSignals` must outlive this object, which must outlive its steps.
     SearchOperations(const std::shared_ptr<DeviceStore> &store, const sdk::SdkLibraries &libraries,
                      std::function<SearchSettings()> settings, const DeviceLogins &logins,
                      BackEndSignals &backEndSignals);

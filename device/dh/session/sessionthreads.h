@@ -21,7 +21,7 @@ class NetLibrary;
 class SessionThreads
 {
 public:
-    /// `net` may be null; nothing may be logged out then.
+    /// `net` may be null; nothing may be logged out then. `backEndSignals` must outlive this object.
     SessionThreads(std::shared_ptr<sdk::NetLibrary> net, BackEndSignals &backEndSignals);
     ~SessionThreads();
     SessionThreads(const SessionThreads &) = delete;

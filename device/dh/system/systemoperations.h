@@ -23,6 +23,7 @@ class SystemOperations
 {
     Q_DECLARE_TR_FUNCTIONS(SystemOperations)
 public:
+    /// The referenced objects must outlive this object, which must outlive its steps.
     SystemOperations(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
                      const DeviceLogins &logins, SessionThreads &threads, UpgradeCheck isUpgradingAt,
                      BackEndSignals &backEndSignals);

@@ -26,6 +26,7 @@ struct UpgradeOrder;
 class DocumentUpgrades
 {
 public:
+    /// The referenced objects must outlive this object, which must outlive its steps.
     DocumentUpgrades(std::shared_ptr<DeviceStore> store, UpgradeRound &round, UpgradeOrders &orders);
 
     /// The lines as maps, see CDeviceBase::importUpgradeDocument(). Sets `refusal` to why the document is

@@ -22,6 +22,7 @@ class RowUpgrades
 {
     Q_DECLARE_TR_FUNCTIONS(RowUpgrades)
 public:
+    /// The referenced objects must outlive this object.
     RowUpgrades(std::shared_ptr<DeviceStore> store, UpgradeRound &round, const UpgradeOrders &orders,
                 BackEndSignals &backEndSignals);
 

@@ -19,6 +19,7 @@ class DeviceStore;
 class UpgradeOrders
 {
 public:
+    /// `logins` must outlive this object.
     UpgradeOrders(std::shared_ptr<DeviceStore> store, const DeviceLogins &logins);
 
     /// Order for a row, with the file in the row.

@@ -21,6 +21,7 @@ class DeviceStore;
 class UpgradeRound
 {
 public:
+    /// `backEndSignals` must outlive this object.
     UpgradeRound(std::shared_ptr<DeviceStore> store, const sdk::SdkLibraries &libraries,
                  const UpgradeLimits &limits, const std::shared_ptr<BatchEngine> &engine,
                  BackEndSignals &backEndSignals);

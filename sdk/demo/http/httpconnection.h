@@ -20,7 +20,8 @@ public:
     /// The timeout of an incomplete request, and between two requests.
     static constexpr std::chrono::seconds requestTime{15};
 
-    /// `socket` is connected; the caller closes it. `localPort` is as in HttpRoute.
+    /// `responder` must outlive the connection. `socket` is connected; the caller closes it. `localPort` is
+    /// as in HttpRoute.
     HttpConnection(HttpResponder &responder, int socket, int localPort, std::stop_token stop);
 
     void serve();

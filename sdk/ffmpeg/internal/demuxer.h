@@ -13,15 +13,17 @@ namespace sdk::ffmpeg {
 class Demuxer
 {
 public:
+    /// `source` must outlive the demuxer.
     Demuxer(StreamSource &source, std::stop_token stop);
     ~Demuxer();
     Demuxer(const Demuxer &) = delete;
     Demuxer &operator=(const Demuxer &) = delete;
 
-    /// Reads the head of the stream. Returns false if it is invalid.
+    /// Reads the head of the stream. Returns false if it is invalid. To be called once, before the other
+    /// functions.
     [[nodiscard]] bool open();
 
-    /// The first track with one of these codecs; null without one.
+    /// The first track with one of these codecs, owned by the demuxer; null without one.
     [[nodiscard]] const AVStream *track(AVMediaType type, std::initializer_list<AVCodecID> codecs) const;
 
     /// Waits for the next packet of any track. Returns false at the end of the stream.

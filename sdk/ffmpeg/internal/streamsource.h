@@ -17,6 +17,7 @@ namespace sdk::ffmpeg {
 class StreamSource
 {
 public:
+    /// `queue` must outlive the source.
     explicit StreamSource(InputQueue &queue) : m_queue(queue) {}
 
     /// Waits for the header of the next stream. Returns false after a request to stop.
