@@ -10,7 +10,7 @@
 /// The command of a row.
 struct WorkbookCommand
 {
-    int row = 0;
+    int row = 0;     ///< in the sheet, from 2; 1 is the row of titles
     QString command; ///< with the leading "/"; without it `refusal` is set
     QString url;     ///< scheme, address (with a web port, if the cell has one) and command
     QString ipport;  ///< "address:port" of the login, without the web port

@@ -27,7 +27,9 @@ struct BatchItem
 /// Limits of a batch.
 struct BatchPolicy
 {
-    int maximumParallel = 8;               ///< maximum number of steps in parallel; at least 1 is used
+    /// Maximum number of steps in parallel, without those that have called StepControl::releaseSlot(). At
+    /// least 1 is used; with 1, steps start in the order of the items.
+    int maximumParallel = 8;
     std::chrono::milliseconds deadline{0}; ///< of each step, see StepControl::noteProgress(); 0: none
     int wrongPasswordsInARow = 0;          ///< refused passwords in a row that pause the batch; 0: never
 };
@@ -43,7 +45,8 @@ public:
     /// `index` is the index of the item in the batch.
     virtual void started(std::size_t index) = 0;
 
-    /// Called without started() if the step was not run: it was stopped before, or got an earlier refusal.
+    /// Called without started() if the step was not run: the batch was stopped while the step was about to
+    /// start (LoginResult::NotDone), or the device refused the account before (the outcome of that refusal).
     virtual void finished(std::size_t index, const StepOutcome &outcome) = 0;
 
     /// The batch is paused: too many devices in a row refused the password. Running steps continue.

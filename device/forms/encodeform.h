@@ -36,6 +36,7 @@ class EncodeForm : public QObject
     /// The keys "exists" and "hasAudio" (bool) say whether the device has this stream, and audio in it.
     Q_PROPERTY(QVariantMap mainStream READ mainStream NOTIFY changed)
     Q_PROPERTY(QVariantMap subStream READ subStream NOTIFY changed)
+    /// The types of the sub stream that the device offers; may be empty.
     Q_PROPERTY(QStringList subStreamTypes READ subStreamTypes NOTIFY changed)
     Q_PROPERTY(int changedCount READ changedCount NOTIFY changed)
     /// Whether the device reported the supported encode modes and resolutions of the main stream.

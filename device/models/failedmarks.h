@@ -22,25 +22,29 @@ public:
     /// The result of a batch for one device.
     struct Outcome
     {
-        QString identity;
-        int result = 0;
-        QString message; ///< message for the user
+        QString identity; ///< name of the row
+        int result = 0;   ///< a result code, see BatchReport::Result
+        QString message;  ///< message for the user
     };
 
     explicit FailedMarks(QObject *parent = nullptr) : QObject(parent) {}
 
     /// Updates the marks with the results of a batch. Batches with the same `work` id replace each other's
-    /// marks; `title` is the name of the work, shown to the user. A device that waits for a further step or
-    /// was skipped keeps its marks and gets no new one.
+    /// marks; `title` is the name of the work, shown to the user: the "operation" of the functions below. A
+    /// device that waits for a further step or was skipped keeps its marks and gets no new one.
     void note(const QString &work, const QString &title, const QList<Outcome> &outcomes);
 
-    Q_INVOKABLE void clear();
+    Q_INVOKABLE void clear(); ///< removes all marks
 
-    /// Titles of the work that has marks, in alphabetical order.
+    /// Titles of the work that has marks, in alphabetical order, each once.
     [[nodiscard]] QStringList operations() const;
 
-    // `operation` is the title of a work: only its marks are counted. Empty: all marks.
+    // `operation` is one of operations(): only its marks count. Empty: all marks.
+
+    /// The number of marked devices.
     [[nodiscard]] int count(const QString &operation = {}) const;
+
+    /// Whether the device is marked.
     [[nodiscard]] bool contains(const QString &identity, const QString &operation = {}) const;
 
     /// The name of the most recent failed result of the device; empty if it is not marked.

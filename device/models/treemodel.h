@@ -119,6 +119,7 @@ public:
     /// Whether exactly these devices are checked, in any order.
     Q_INVOKABLE [[nodiscard]] bool areTicked(const QStringList &devices) const;
 
+    /// `devices` without each occurrence of `device`.
     Q_INVOKABLE [[nodiscard]] static QStringList without(const QStringList &devices, const QString &device);
 
     /// "ipport" and "name" of the checked devices, or of all devices if none is checked, in tree order.

@@ -19,7 +19,8 @@ class WatchedDevices : public QAbstractListModel
     /// The channels of all devices, in the order in which the devices were added: maps of "ipport",
     /// "channel", "connected", "name" (never empty), "caption" (the name that the device reports, with the
     /// device if there are several), "companion" (null for the first device) and "heading" (only with several
-    /// devices, for the first channel of each).
+    /// devices, for the first channel of each). A device without a companion, or whose companion is
+    /// destroyed, is left out.
     Q_PROPERTY(QVariantList channels READ channels NOTIFY channelsChanged)
     Q_PROPERTY(int most READ most CONSTANT)
     Q_PROPERTY(bool full READ isFull NOTIFY countChanged)
@@ -39,8 +40,10 @@ public:
     /// "connected".
     Q_INVOKABLE void setFirst(const QString &ipport, const QString &name, const QVariantList &channels);
 
-    /// Adds the rows (maps of "ipport", "name" and "model") that are not in the model yet, up to most().
-    /// Returns the indexes in `channels` of the first channel of each added device, if it is known already.
+    /// Adds the devices (maps of "ipport", "name" and "model") that are neither a row nor the first device,
+    /// up to most(). A device without a name gets its model as its name, or its "ipport" if that is empty,
+    /// too. Returns the indexes in `channels` of the first channel of each added device, if it is known
+    /// already.
     Q_INVOKABLE QVariantList add(const QVariantList &rows);
 
     /// Sets the channels that a companion has read, in the format of setFirst().
@@ -48,9 +51,10 @@ public:
 
     /// Removes a device. Its channels are removed first, since their streams use the companion's session.
     Q_INVOKABLE void remove(const QString &ipport);
-    Q_INVOKABLE void clear();
+    Q_INVOKABLE void clear(); ///< removes all rows; the first device and its channels remain
 
-    /// Updates the names of the additional devices from the device list.
+    /// Updates the names of the additional devices from the device list. A name that is empty there is not
+    /// taken.
     Q_INVOKABLE void readNames();
 
 Q_SIGNALS:

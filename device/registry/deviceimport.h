@@ -12,7 +12,7 @@
 struct DeviceToAdd
 {
     QString address; ///< IPv4 address or host name, or the P2P ID
-    int port = 0;    ///< of the device, also behind NAT
+    int port = 0;    ///< of the device itself; behind NAT it is not the local port of the port agent
     QString account;
     QString password;
     bool p2p = false;
