@@ -39,9 +39,9 @@ public:
     void push(const std::uint8_t *data, std::int32_t size, const std::function<void()> &pushed);
 
     /// Writes the buffered samples to the output, which drops those beyond its free space, and clears the
-    /// buffer. Without an output the samples are dropped. Also opens the
-    /// output again if it was removed or is not the default one any more. Debian 12 does not report such
-    /// changes, so they are checked once a second.
+    /// buffer. Without an output the samples are dropped. Also opens the output again if it was removed or is
+    /// not the default one any more. Debian 12 does not report such changes, so they are checked once a
+    /// second.
     void drain();
 
     /// Opens the default output, if there is one, with the current sample rate (1 to 384000 Hz), and clears

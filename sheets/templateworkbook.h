@@ -12,16 +12,16 @@ struct TemplateWorkbook
     struct Column
     {
         QString title;
-        QString example; ///< in the row below the titles
+        QString example; ///< in the row below the titles; may be empty
         QString meaning;
-        double width = 0; ///< in digits
+        double width = 0; ///< in digits, of the sheet to fill in
     };
-    QString sheet;
-    QString explanationSheet;
-    QString columnTitle;
-    QString meaningTitle;
+    QString sheet;            ///< name of the sheet to fill in
+    QString explanationSheet; ///< name of the sheet with the titles and meanings of the columns
+    QString columnTitle;      ///< title of the column of titles in that sheet
+    QString meaningTitle;     ///< title of its column of meanings
     QList<Column> columns;
-    QStringList remarks;
+    QStringList remarks; ///< below the meanings
 };
 
 /// Replaces an existing file. False when the file cannot be written.

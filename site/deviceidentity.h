@@ -29,8 +29,8 @@ inline constexpr const char *deviceServicePath = "/onvif/device_service";
 [[nodiscard]] DiscoveryIdentity discoveryIdentity(const sdk::demo::SceneDevice &device,
                                                   const DeviceManner &manner, int ipVersion);
 
-/// The name of the device as it reports it; with the corresponding faults it has invalid bytes, or is too
-/// long.
+// The name and the model of the device as it reports them. They have invalid bytes with Fault::OddBytes, and
+// are too long with Fault::OverLongTexts.
 [[nodiscard]] std::string reportedName(const sdk::demo::SceneDevice &device);
 [[nodiscard]] std::string reportedModel(const sdk::demo::SceneDevice &device);
 

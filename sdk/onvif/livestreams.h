@@ -31,8 +31,8 @@ public:
     /// previous handler does not run after the call.
     void setHandler(RealDataHandler handler, void *user);
 
-    void restart();
-    void stop();
+    void restart(); ///< makes the stream start again with a header, see RtspStream::restart()
+    void stop();    ///< ends the stream; no handler runs after the call
 
     [[nodiscard]] LLONG loginHandle() const { return m_loginHandle; }
     [[nodiscard]] const std::string &profile() const { return m_profile; }

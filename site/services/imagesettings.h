@@ -24,6 +24,7 @@ struct ImageSettings
 /// Nothing when the channel has neither picture nor exposure settings.
 [[nodiscard]] std::optional<ImageSettings> imageSettings(const sdk::demo::SceneDevice &device, int channel);
 
+/// Adds an element for each setting, as children of "timg:ImagingSettings".
 void writeImageSettings(XmlElement element, const ImageSettings &settings);
 
 /// Reads the settings of `element`. Missing elements change nothing. Returns false for settings that the
@@ -34,6 +35,7 @@ void writeImageSettings(XmlElement element, const ImageSettings &settings);
 [[nodiscard]] sdk::NetError takeImageSettings(const ServiceCall &call, int channel,
                                               const ImageSettings &settings);
 
+/// Adds the range or the modes of each setting, as children of "timg:ImagingOptions".
 void writeImageOptions(XmlElement element, const sdk::demo::SceneDevice &device,
                        const ImageSettings &settings);
 

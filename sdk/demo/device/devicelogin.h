@@ -23,9 +23,11 @@ enum class LoginKind
 class LoginGuard
 {
 public:
-    /// NetError::None if `device` accepts the account, NoSuchAccount for an unknown account. An uninitialised
-    /// device has no accounts and returns NotSupported. The last attempt before an account locks fails as a
-    /// wrong password; from then on the right password fails as well.
+    /// NetError::None if `device` accepts the account, otherwise the error of the kind of login for a wrong
+    /// password or, with Fault::AccountLoggedIn, for an account with a session. NoSuchAccount for an unknown
+    /// account, NotSupported for an uninitialised device. With Fault::AccountLocked, the last attempt before
+    /// the account locks fails as a wrong password; from then on the right password fails, too, with
+    /// AccountLocked.
     [[nodiscard]] NetError check(const SceneDevice &device, const QString &account, const QString &password,
                                  LoginKind kind);
 
@@ -40,7 +42,7 @@ private:
 /// The account `user` of `device`; null without one.
 [[nodiscard]] const SceneAccount *accountOf(const SceneDevice &device, const QString &user);
 
-/// The device information in the response to a login.
+/// The device information in the response to a login. `throughTunnel` sets its loginKind.
 [[nodiscard]] LoginDeviceInformation loginInformation(const SceneDevice &device, bool throughTunnel);
 
 } // namespace sdk::demo

@@ -51,7 +51,7 @@ public:
 
     [[nodiscard]] Clock &clock() const;
 
-    /// Whether `localPort` accepts HTTP: the proxy, and a tunnel to a device's web port.
+    /// Whether `localPort` accepts HTTP: the proxy, and a port of the port agent for a device's web port.
     [[nodiscard]] bool isHttpPort(int localPort) const;
 
     /// Responds to a request over `route` and adds it to the site's log. HttpStatus::None for a request

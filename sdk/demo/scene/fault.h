@@ -50,7 +50,7 @@ enum class Fault
     Sha256Last,            ///< offers Digest with MD5 first, then with SHA-256
     // HTTP responses to an accepted login:
     HttpLate,         ///< are sent `number` ms late
-    HttpSlow,         ///< are sent at one byte a second for `number` s
+    HttpSlow,         ///< are sent at one byte a second for `number` s, then without delay
     HttpBroken,       ///< end in the middle
     HttpNoStatusLine, ///< have no status line and no headers
     HttpHuge,         ///< are `number` megabytes long

@@ -11,7 +11,8 @@ namespace sdk::demo {
 
 class SiteState;
 
-/// The two kinds of search. Every device supports the second.
+/// The two kinds of search of NetLibrary; the second one is that of the operations "...Ex". Every device
+/// supports the second, some do not support the first.
 enum class SearchKind
 {
     First,
@@ -31,7 +32,7 @@ struct PlannedResponse
                                                            std::int64_t start);
 
 /// The responses to a search of `addresses` (IPv4 and canonical IPv6) that starts at `start`, in the order of
-/// their times. Responses after `end` are lost.
+/// their times. Responses after `end` are left out.
 [[nodiscard]] std::vector<PlannedResponse> planAddressSearch(const SiteState &site, SearchKind kind,
                                                              const QSet<QString> &addresses,
                                                              std::int64_t start, std::int64_t end);

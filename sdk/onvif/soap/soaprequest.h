@@ -10,8 +10,9 @@
 
 namespace sdk::onvif {
 
-/// A SOAP envelope whose body is built element by element. The names of elements have the prefixes that the
-/// envelope declares: "tds" device, "trt" media, "tr2" media 2, "timg" imaging, "tmd" device IO, "tt" schema.
+/// A SOAP envelope whose body is built element by element. The prefixes of names are "tds" device, "trt"
+/// media, "tr2" media 2, "timg" imaging, "tmd" device IO and "tt" schema. The envelope declares "tt" and the
+/// prefix of the operation only: elements of a request use no other ones.
 class SoapRequest
 {
 public:
@@ -21,7 +22,7 @@ public:
     /// The element of the operation.
     [[nodiscard]] pugi::xml_node operation() const { return m_operation; }
 
-    /// The name without its prefix.
+    /// The name of the operation without its prefix.
     [[nodiscard]] std::string_view name() const;
 
     /// The XML text of the envelope. `securityHeader` is the XML text of its header, or empty.
@@ -44,8 +45,7 @@ void setAttribute(pugi::xml_node element, std::string_view name, std::string_vie
 /// the schema. Vendor-specific content is omitted, so that the request is valid.
 pugi::xml_node appendCopy(pugi::xml_node parent, std::string_view name, const XmlElement &element);
 
-/// Sets the text of the child `name` (of the schema, with the prefix "tt:"). Returns false if there is no
-/// such child.
+/// Sets the text of the first child "tt:" + `name`. Returns false if there is no such child.
 bool setChild(pugi::xml_node parent, std::string_view name, std::string_view text);
 
 } // namespace sdk::onvif

@@ -33,20 +33,22 @@ public:
     /// The element at the end of a path of children in the schema's namespace.
     [[nodiscard]] XmlElement at(std::initializer_list<std::string_view> path) const;
 
-    /// The text without spaces at its ends.
+    /// The first text directly in the element, without spaces at its ends.
     [[nodiscard]] std::string_view text() const;
     /// The local part of a qualified name in the text: "NotAuthorized" of "ter:NotAuthorized".
     [[nodiscard]] std::string_view localText() const;
     /// Nothing if the text is not an integer in the range of the type.
     [[nodiscard]] std::optional<int> integer() const;
+    /// Nothing if the text is not a finite decimal number.
     [[nodiscard]] std::optional<double> number() const;
-    /// "true" and "1" are true, "false" and "0" are false.
+    /// "true" and "1" are true, "false" and "0" are false; nothing for any other text.
     [[nodiscard]] std::optional<bool> boolean() const;
     /// The attribute of that local name, empty if there is none.
     [[nodiscard]] std::string_view attribute(std::string_view name) const;
 
     /// The element for copying. Its names have the device's prefixes.
     [[nodiscard]] pugi::xml_node node() const { return m_node; }
+    /// The URI of the element's namespace; empty if its prefix is not declared.
     [[nodiscard]] std::string_view uri() const;
 
 private:
@@ -62,7 +64,7 @@ public:
     static constexpr int maximumAttributes = 64; ///< of one element
     static constexpr std::size_t maximumElements = 200'000;
 
-    /// Nothing if the text is not XML, exceeds the bounds of size or depth, or contains a document type. A
+    /// Nothing if the text is not XML, exceeds one of the bounds above, or contains a document type. A
     /// document type could define expanding entities; SOAP forbids it.
     [[nodiscard]] static std::optional<XmlDocument> read(std::string_view text);
 
