@@ -9,7 +9,7 @@ T.AbstractButton {
     id: root
 
     property string toolTip
-    property bool quiet: false
+    property bool quiet: false  // pressed since the pointer has entered: the tip stays hidden
     property bool ownArrows: false  // the button handles Left and Right itself, see keygroups.js
 
     focusPolicy: Qt.StrongFocus

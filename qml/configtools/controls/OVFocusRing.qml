@@ -4,7 +4,7 @@ import configtools
 
 Rectangle {
     required property bool shown
-    property int around: Theme.controlRadius
+    property int around: Theme.controlRadius  // corner radius of the control
 
     anchors.fill: parent
     anchors.margins: -Theme.focusRing

@@ -12,7 +12,7 @@ Item {
     property string runningDevice
     property bool running: false
     property bool compact: false  // in the foot of a dialog: optional parts are hidden
-    readonly property bool keyGroup: true
+    readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
     property real progress: -1  // 0 to 1; negative: unknown
     property Batches batches: null
     property DeviceSearch search: null

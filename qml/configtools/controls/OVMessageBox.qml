@@ -1,4 +1,4 @@
-// A message or question that must be answered.
+// A message with one button, or a question with "cancel" and an optional third button. It closes when it is answered.
 import QtQuick
 import configtools
 
@@ -9,7 +9,7 @@ OVDialog {
 
     property int kind: OVMessageBox.Information
     property string message
-    property string otherText  // text of a third button
+    property string otherText  // text of the third button; without a text it is hidden
     signal otherChosen
 
     function show(text, ofKind) {

@@ -5,8 +5,8 @@ import configtools
 Item {
     id: root
 
-    property int depth: 16
-    property int around: Theme.paneRadius
+    property int depth: 16  // distance that the shadow reaches
+    property int around: Theme.paneRadius  // corner radius of the popup
 
     anchors.fill: parent
     z: -1

@@ -1,4 +1,4 @@
-// A tab bar. `tabs` are the titles.
+// A tab bar. `tabs` are the titles. The owner changes `currentIndex` when a tab is activated.
 import QtQuick
 import configtools
 
@@ -28,7 +28,7 @@ Rectangle {
         x: Theme.pageMargin
         height: parent.height
 
-        /// Horizontal padding of a tab, less if there is little room.
+        /// Horizontal padding of a tab, the sum of both sides; less if there is little room.
         readonly property real padding: {
             let room = root.width - 2 * x;
             for (let i = 0; i < repeater.count; ++i)

@@ -13,7 +13,7 @@ Rectangle {
     property bool searching: false
     property string remark  // text next to the name
     property string remarkTip
-    readonly property bool keyGroup: true
+    readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
     readonly property alias menuButton: menuButton
     signal searchRequested
     signal settingsRequested

@@ -13,7 +13,7 @@ Rectangle {
     property string outcome      // result of the last save, "" for none
     property bool outcomeIsBad: false
     readonly property bool showsOutcome: outcome !== "" && batch === null
-    readonly property bool keyGroup: true
+    readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
     signal againRequested
     signal saveRequested
     signal folderRequested

@@ -7,8 +7,9 @@ import configtools
 Rectangle {
     id: root
 
-    required property var channels       // see LiveGrid.adopt(); "heading": name of the device
-    required property var shownChannels  // indices of the channels in the grid
+    // Below, a channel is identified by its index in `channels`.
+    required property var channels       // see WatchedDevices.channels
+    required property var shownChannels  // the channels in the grid
     required property int currentChannel
     signal channelClicked(int channel)
     signal enlargeRequested(int channel)

@@ -14,7 +14,7 @@ OVTableCell {
     signal liveRequested(int row)
 
     OVActionRow {
-        readonly property bool keyGroup: true
+        readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
 
         anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.controlGap

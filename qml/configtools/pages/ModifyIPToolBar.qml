@@ -13,8 +13,8 @@ Item {
     required property DeviceTableModel devices
     required property int upgradingCount  // number of ticked devices that are being upgraded
     property alias searchText: searchField.text
-    property int tipDrop: Theme.toolTipDrop
-    readonly property bool keyGroup: true
+    property int tipDrop: Theme.toolTipDrop  // from a button to its tool tip, see OVToolTip
+    readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
     signal initialisedToggled(bool shown)
     signal uninitialisedToggled(bool shown)
     signal ipv6Chosen(bool ipv6)

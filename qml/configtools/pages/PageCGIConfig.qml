@@ -189,8 +189,8 @@ FocusScope {
     RowLayout {
         id: toolBar
 
-        readonly property int tipDrop: Theme.toolTipDrop
-        readonly property bool keyGroup: true
+        readonly property int tipDrop: Theme.toolTipDrop  // from a button to its tool tip, see OVToolTip
+        readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
 
         x: Theme.pageMargin
         width: parent.width - 2 * x

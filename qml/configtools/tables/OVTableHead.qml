@@ -16,8 +16,8 @@ Rectangle {
     required property int rowCount
     required property string sortKey
     required property int sortOrder
-    required property real scrolled
-    readonly property bool keyGroup: true
+    required property real scrolled  // horizontal scroll position of the rows
+    readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
     signal sortRequested(string key)
     signal allToggled
     signal widthChosen(int column, real width)

@@ -195,7 +195,7 @@ OVTable {
             readonly property bool running: UpgradeTools.isRunning(result)
 
             Row {
-                readonly property bool keyGroup: true
+                readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
 
                 anchors.verticalCenter: parent.verticalCenter
                 spacing: Theme.controlGap

@@ -11,7 +11,7 @@ Item {
     required property DeviceTableModel devices
     required property int parallelUpgrades
     property alias searchText: searchField.text
-    readonly property bool keyGroup: true
+    readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
     signal ipv6Chosen(bool ipv6)
     signal fileRequested
     signal startRequested
