@@ -84,8 +84,8 @@ public:
 
     /// Sends a search to each address of `request` and blocks until `wait` has passed, NetCleanup is called
     /// or no further response is expected. Responses are passed to `handler` on threads of the library during
-    /// the call, never after it. Returns false when the request is malformed (size, count) or could not be
-    /// sent.
+    /// the call, never after it. `localAddress` is the source address, "0.0.0.0" for any. Returns false when
+    /// the request is malformed (size, count) or could not be sent.
     virtual bool NetSearchDevicesByIPs(const SearchByAddressesRequest &request, SearchResponseHandler handler,
                                        void *user, const char *localAddress,
                                        std::chrono::milliseconds wait) = 0;
@@ -110,13 +110,15 @@ public:
     /// that starts while no other one runs. Returns false, with NotSupported, if the library has no counters.
     virtual bool NetGetSearchReport(SearchReport &report) = 0;
 
-    /// Opens a session and blocks until the device has responded, up to `longestLogin`. Returns its handle; a
-    /// value below 1 on failure.
+    /// Opens a session and blocks until the device has responded, up to `longestLogin`. Returns its handle
+    /// and fills `device`; returns a value below 1 on failure. `error` is set to the code of
+    /// NetGetLastError(), 0 on success. `unused1` is 0, `unused2` is null.
     virtual LLONG NetLogin(const char *address, std::int32_t port, const char *account, const char *password,
                            std::int32_t unused1, void *unused2, LoginDeviceInformation &device,
                            std::int32_t &error) = 0;
 
-    /// The newer kind of login. Returns the handle of the session; a value below 1 on failure.
+    /// The newer kind of login, also up to `longestLogin`. Returns the handle of the session; a value below 1
+    /// on failure.
     virtual LLONG NetLoginSecure(const LoginSecureInput &input, LoginSecureOutput &output) = 0;
 
     /// Ends a session. Returns false for an invalid handle.
@@ -138,7 +140,8 @@ public:
                                 std::chrono::milliseconds wait) = 0;
 
     /// Reads the configuration text `name` of a channel (-1 for the device itself) into `text` of `textSize`
-    /// bytes, ended by a zero. Fails for a text that does not fit.
+    /// bytes, ended by a zero. Fails for a text that does not fit. `error` is set as by NetLogin(). Blocks
+    /// and fails otherwise as NetQueryCapabilities().
     virtual bool NetGetNewConfig(LLONG loginHandle, const char *name, std::int32_t channel, char *text,
                                  std::uint32_t textSize, std::int32_t &error,
                                  std::chrono::milliseconds wait) = 0;
@@ -185,8 +188,7 @@ public:
                             std::uint32_t blockSize, std::chrono::milliseconds wait) = 0;
 
     /// Writes the configuration text `name`: `text` has `textSize` bytes including a terminating zero. The
-    /// device applies the keys of the text and keeps its other settings. `error` is set as for
-    /// NetGetLastError().
+    /// device applies the keys of the text and keeps its other settings. `error` is set as by NetLogin().
     virtual bool NetSetNewConfig(LLONG loginHandle, const char *name, std::int32_t channel, const char *text,
                                  std::uint32_t textSize, std::int32_t &error,
                                  std::chrono::milliseconds wait) = 0;
@@ -218,7 +220,7 @@ public:
                                         std::uint32_t flag) = 0;
 
     /// Reports to the device that its stream is displayed from now on: the stream starts again with a key
-    /// frame. `reserved` is 0.
+    /// frame. `channel` is that of the stream, `reserved` is 0. Returns false for an invalid handle.
     virtual bool NetStreamFollowUp(std::int64_t streamHandle, std::int32_t channel,
                                    std::uint32_t reserved) = 0;
 
@@ -226,7 +228,8 @@ public:
     /// Returns false for an invalid handle.
     virtual bool NetStopRealStream(std::int64_t streamHandle) = 0;
 
-    /// Queries which channels of the device have a camera. Blocks and fails as NetQueryCapabilities().
+    /// Fills `states`, whose size is set, with the channels of the device that have a camera, and those that
+    /// have none. Blocks and fails as NetQueryCapabilities().
     virtual bool NetQueryChannelStates(LLONG loginHandle, ChannelStates &states,
                                        std::chrono::milliseconds wait) = 0;
 

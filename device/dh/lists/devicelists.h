@@ -22,9 +22,9 @@ public:
     DeviceLists(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries, const DeviceLogins &logins,
                 BackEndSignals &backEndSignals);
 
-    /// Writes the devices to `folder` (a path or "file:///" URL); the suffix of `fileName` selects the
-    /// format. Passwords of stored accounts are not written. Skips devices that are no longer in the list.
-    /// Returns false if none is left or the file cannot be written.
+    /// Writes the devices with these row names to `folder` (a path or "file:///" URL); the suffix of
+    /// `fileName` selects the format. Passwords of stored accounts are not written. Skips devices that are no
+    /// longer in the list. Returns false if none is left or the file cannot be written.
     bool exportDevices(const QString &folder, const QStringList &macs, const QString &fileName);
 
     /// Fields of the last exported list that an import would not read back, see CDeviceBase::exportFaults().
@@ -34,8 +34,9 @@ public:
     /// may be null.
     [[nodiscard]] ImportPlan importPlan(const QString &path, const std::shared_ptr<P2PPorts> &ports) const;
 
-    /// Logs in to all devices of a list and blocks until that is done. Returns why the list was refused, in
-    /// the user's language; empty on success.
+    /// Logs in to all devices of a list and blocks until that is done. Sets `summary`, emits
+    /// signalCDeviceImportProgress after each line, and signalCDeviceAddSingleDeviceToTable at the end if a
+    /// device was added. Returns why the list was refused, in the user's language; empty on success.
     [[nodiscard]] QString importDevices(const QString &path, const std::shared_ptr<P2PPorts> &ports,
                                         ImportSummary &summary);
 

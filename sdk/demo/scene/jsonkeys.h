@@ -19,13 +19,14 @@ public:
     QString text(const QString &key, const QString &fallback = QString());
     int number(const QString &key, int minimum, int maximum, int fallback);
     bool boolean(const QString &key, bool fallback);
+    // Empty if the object has no such key.
     QJsonObject object(const QString &key);
     QJsonArray list(const QString &key);
 
     /// The index of the string of `key` in `choices`, `fallback` without that key.
     int choice(const QString &key, const QStringList &choices, int fallback);
 
-    /// The same for mandatory keys.
+    /// The same for mandatory keys. An empty text is an error, too.
     QString requiredText(const QString &key);
     int requiredNumber(const QString &key, int minimum, int maximum);
 

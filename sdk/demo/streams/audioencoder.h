@@ -20,7 +20,7 @@ public:
     [[nodiscard]] const AVCodecContext &context() const { return *m_context; }
 
     /// Encodes the audio from the end of the last call until `seconds` after the start, in complete frames of
-    /// the encoder. Returns false on failure.
+    /// the encoder, and appends it to `packets`. Returns false on failure.
     [[nodiscard]] bool encodeUntil(double seconds, EncodedPackets &packets);
 
 private:

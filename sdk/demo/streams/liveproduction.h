@@ -35,7 +35,7 @@ public:
 
     /// Encodes the frame with the index `number`, which follows from the elapsed time, and the audio before
     /// it. `deviceTime` is the time of the device's clock, in ms since 1970. With `isKey` the frame is a key
-    /// frame. Returns false if the encoder fails.
+    /// frame. Both are appended to `packets`. Returns false if the encoder fails.
     [[nodiscard]] bool encodeFrame(std::int64_t number, std::int64_t deviceTime, bool isKey,
                                    EncodedPackets &packets);
 

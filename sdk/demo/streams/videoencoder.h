@@ -19,7 +19,8 @@ public:
     [[nodiscard]] const AVCodecContext &context() const { return *m_context; }
 
     /// Encodes `frame`, which has the size and format of context(), as the frame with the index `number`,
-    /// which follows from the elapsed time. With `isKey` it is a key frame. Returns false on failure.
+    /// which follows from the elapsed time. With `isKey` it is a key frame. Appends it to `packets`.
+    /// Returns false on failure.
     [[nodiscard]] bool encode(AVFrame &frame, std::int64_t number, bool isKey, EncodedPackets &packets);
 
 private:
