@@ -85,17 +85,19 @@ protected:
         QString description; ///< model and MAC; address and port if it reports neither
     };
 
-    /// The judgement of a checked row.
+    /// The judgement of a checked row. By default a device is skipped if it has a hindrance, and warned if
+    /// another device has its address or its new address.
     [[nodiscard]] virtual Judgement judgementOf(int row) const;
 
-    /// Called before judgementOf() is called for each row: after a change of the checked rows and by
-    /// rejudge().
+    /// Called once before judgementOf() is called for all checked rows: after a change of the checked rows
+    /// and by rejudge().
     virtual void prepare() {}
 
     /// Computes the judgements of all rows again and emits judged().
     void rejudge();
 
-    /// Reason to skip the device of a row; empty if there is none.
+    /// Reason to skip the device of a row, in the user's language; empty if there is none. By default the
+    /// "hindrance" of setEntries(), a device that is not initialised, and a running upgrade.
     [[nodiscard]] virtual QString hindranceOf(int row) const;
     [[nodiscard]] const QList<ListedDevice> &listedDevices() const { return m_listed; }
     [[nodiscard]] QVariantMap deviceAt(int row) const { return DeviceSelection::valuesOf(row); }

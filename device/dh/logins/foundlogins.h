@@ -17,8 +17,9 @@
 
 class DeviceStore;
 
-/// Logs in to the devices that a search finds and fills empty fields of their rows: model, version, MAC, and
-/// the serial number of the search record. Existing values are kept.
+/// Logs in to the devices that a search finds, sets "loggedIn" of their rows and fills empty fields: model,
+/// version, MAC (unless another row has it), and the serial number of the search record. Existing values are
+/// kept.
 ///
 /// A device gets one login in a search. A device that has refused its account gets no further login until its
 /// account changes, since wrong passwords lock accounts. Logins run on up to 8 threads of this object.
