@@ -11,7 +11,7 @@ namespace sheets {
 /// document can be sixteen times as large as its text.
 [[nodiscard]] qint64 neededXmlMemory(QByteArrayView text);
 
-/// True when elements below `top` are nested deeper than `depth`.
+/// True when nodes below `top`, which are elements, texts and comments, are nested deeper than `depth`.
 [[nodiscard]] bool isNestedDeeper(pugi::xml_node top, int depth);
 
 } // namespace sheets

@@ -14,8 +14,8 @@ class XmlPart : public LastError
 {
 public:
     /// Reads the part. Fails when it is not well-formed, has another root element, is nested deeper than 100
-    /// elements, or would take more than 1 GiB of memory. Entities that the document defines are not
-    /// replaced.
+    /// nodes (with texts), or would take more than 1 GiB of memory. Entities that the document defines are
+    /// not replaced.
     bool parse(const QByteArray &bytes, const char *rootName);
 
     /// The root element.

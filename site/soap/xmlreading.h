@@ -12,9 +12,9 @@
 
 namespace site {
 
-inline constexpr int deepestMessage = 64; ///< nested elements
+inline constexpr int deepestMessage = 64; ///< nested nodes, with texts
 
-/// Reads `bytes`. Returns false for text that is not XML, and for elements nested too deeply.
+/// Reads `bytes`. Returns false for text that is not XML, and for nodes nested too deeply.
 [[nodiscard]] bool readXml(const QByteArray &bytes, pugi::xml_document &document);
 
 /// The name of an element without its prefix.

@@ -32,8 +32,10 @@ public:
     [[nodiscard]] DeviceStep initialisationStep(const QString &mac, const QString &account,
                                                 const QString &password);
 
-    /// Changes the address of a device. The row gets the new address even if the request fails, with
-    /// "unconfirmed" set. Result Upgrading, without a request, during an upgrade. Blocks for the device.
+    /// Changes the address of a device. The row gets the new address, with DHCP an empty one, even if the
+    /// request fails; "unconfirmed" is set then. Result Upgrading or NotInitialised, without a request and
+    /// with an unchanged address, during an upgrade and for a device that is not initialised. Blocks for the
+    /// device.
     void changeAddress(const QString &mac, const QString &newip, const QString &newsubmask,
                        const QString &newgateway, bool dhcpON);
 
