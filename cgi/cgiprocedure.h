@@ -55,7 +55,8 @@ struct CgiResponse
 
 /// The login is checked first, so that a wrong password is reported by the device's own result. Then the
 /// command is sent to determine the type of the response, and, if it is accepted, sent again to receive the
-/// response accordingly: a command that changes something reaches the device twice.
+/// response accordingly: a command that changes something reaches the device twice. The first of these
+/// requests is repeated with Basic if the device refuses it and requests Basic or no scheme.
 class CgiProcedure
 {
     Q_DECLARE_TR_FUNCTIONS(CgiProcedure)

@@ -28,7 +28,7 @@ class SiteState;
 /// Error codes are DemoError for misuse and NetError for failures of devices. Every request, even a malformed
 /// one, is added to the site's log. Reachable devices respond to logins, queries and requests immediately.
 /// Requests to unreachable devices end after a timeout on the site's clock, which NetCleanup, NetLogout and
-/// NetCancelCalls interrupt.
+/// NetCancelCalls interrupt. No device is accessed over TLS: the certificate handler is not called.
 class DemoNetLibrary : public NetLibrary
 {
 public:

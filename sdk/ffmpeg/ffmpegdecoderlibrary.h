@@ -17,8 +17,8 @@ class DecoderPort;
 /// encoding. Damaged data is dropped. Frames are delivered one by one as they arrive, up to a size of 8192 x
 /// 4320. A port in the mode of real-time streams that is too slow continues with the newest key frame.
 ///
-/// A port has one thread, from DecoderPlay to DecoderStop. There are up to 512 ports. An operation that is
-/// called in a handler fails. The first library redirects FFmpeg's log to the logging category
+/// A port has one thread, from DecoderPlay to DecoderStop. There are up to 512 ports. An operation on a
+/// port that is called in a handler fails. The first library redirects FFmpeg's log to the logging category
 /// "configtools.sdk.ffmpeg" for the complete process.
 class FfmpegDecoderLibrary final : public DecoderLibrary
 {

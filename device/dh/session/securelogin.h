@@ -22,7 +22,8 @@ struct SecureLogin
 };
 
 /// Logs in to the device at `ipport` ("address:port", an IPv6 address in brackets). Blocks for the response
-/// or the library's timeout. NetworkFailure if `net` is null. Any thread.
+/// or the library's timeout. NetworkFailure if `net` is null, and without an
+/// address. Any thread.
 [[nodiscard]] SecureLogin secureLogin(sdk::NetLibrary *net, const QString &ipport, const QString &account,
                                       const QString &password);
 
