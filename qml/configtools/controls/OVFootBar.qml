@@ -195,8 +195,7 @@ Item {
             //: %1 is the title of the batch. The page may have a separate retry button.
             text: root.compact || root.showsSearch ? qsTr("重试失败") : qsTr("重试失败：%1").arg(root.batch?.title ?? "")
             toolTip: qsTr("对“%1”中失败和未执行的设备再试一次，密码错误等不会因重试而成功的除外").arg(root.batch?.title ?? "")
-            visible: root.incomplete && !root.running && root.batch.report.waiting === 0
-                && root.batch.retryRefusal === ""
+            visible: root.incomplete && !root.running && root.batch.retryRefusal === ""
             onClicked: root.batches.retry(root.batch)
         }
         OVLinkButton {
