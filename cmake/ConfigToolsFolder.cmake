@@ -34,6 +34,9 @@ function(configtools_add_folder target)
     endif()
 endfunction()
 
+# The codes of the languages of the window, as in app/languages.h.
+set(configtools_languages zh_CN en_US ro_RO JP_US de_DE es_ES fr_FR it_IT nl_NL no_NO pt_PT sv_SV gl_GL ca_CA)
+
 # A template workbook for users, in each language: a build tool writes it into the folder template/ of the application.
 # The file names are translated and so unknown here; a stamp file represents each of them.
 # configtools_add_template(<name of the tool> SOURCES <files>... LIBRARIES <targets>...) also creates the target
@@ -44,7 +47,7 @@ function(configtools_add_template name)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tools)
     target_link_libraries(${name} PRIVATE ${TEMPLATE_LIBRARIES})
     set(stamps)
-    foreach(language en_US zh_CN)
+    foreach(language IN LISTS configtools_languages)
         set(stamp ${CMAKE_CURRENT_BINARY_DIR}/${name}_${language}.stamp)
         add_custom_command(
             OUTPUT ${stamp}

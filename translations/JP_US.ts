@@ -1,0 +1,6994 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP" sourcelanguage="zh_CN">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>复制版本号</source>
+        <translation>バージョン番号をコピー</translation>
+    </message>
+    <message>
+        <source>已复制到剪贴板</source>
+        <translation>クリップボードにコピーしました</translation>
+    </message>
+</context>
+<context>
+    <name>AccountDialog</name>
+    <message>
+        <source>添加账号</source>
+        <translation>アカウントの追加</translation>
+    </message>
+    <message>
+        <source>修改账号</source>
+        <translation>アカウントの変更</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>请输入名称</source>
+        <translation>名前を入力してください</translation>
+    </message>
+    <message>
+        <source>例如：一号楼</source>
+        <translation>例: 1号棟</translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>ユーザー名</translation>
+    </message>
+    <message>
+        <source>请输入用户名</source>
+        <translation>ユーザー名を入力してください</translation>
+    </message>
+    <message>
+        <source>密码</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>请输入密码</source>
+        <translation>パスワードを入力してください</translation>
+    </message>
+    <message>
+        <source>留空则不修改</source>
+        <translation>変更しない場合は空欄</translation>
+    </message>
+    <message>
+        <source>这里只保存登录时使用的账号，不会修改设备上的密码。</source>
+        <translation>ログインに使うアカウントだけを保存します。デバイスのパスワードは変更されません。</translation>
+    </message>
+</context>
+<context>
+    <name>AccountKeeper</name>
+    <message>
+        <source>账号无法保存，只用到下次搜索：%1</source>
+        <translation>アカウントを保存できないため、次の検索までのみ使用します: %1</translation>
+    </message>
+    <message>
+        <source>新账号已设为默认账号</source>
+        <translation>新しいアカウントを既定のアカウントにしました</translation>
+    </message>
+    <message numerus="yes">
+        <source>新账号已保存，以后登录这 %n 台设备时使用</source>
+        <translation>
+            <numerusform>新しいアカウントを保存しました。今後は %n 台のデバイスで使用します</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>AccountKeeping</name>
+    <message>
+        <source>保存为这些设备的账号（推荐）</source>
+        <translation>これらのデバイス用に保存(推奨)</translation>
+    </message>
+    <message>
+        <source>设为默认账号，用于搜索和所有设备</source>
+        <translation>全デバイスの既定のアカウントにする</translation>
+    </message>
+    <message>
+        <source>不保存，只用到下次搜索</source>
+        <translation>保存せず、次の検索まで使用</translation>
+    </message>
+</context>
+<context>
+    <name>AccountList</name>
+    <message>
+        <source>设备没有MAC和UUID，账号只用到下次搜索</source>
+        <translation>デバイスにMACもUUIDもないため、アカウントは次の検索まで使用されます</translation>
+    </message>
+</context>
+<context>
+    <name>AccountStore</name>
+    <message>
+        <source>账号文件已损坏，其中的账号均未使用：%1</source>
+        <translation>アカウントファイルが破損しているため、どのアカウントも使用されません: %1</translation>
+    </message>
+    <message>
+        <source>请输入名称，最多 %1 个字符</source>
+        <translation>%1 文字以内の名前を入力してください</translation>
+    </message>
+    <message>
+        <source>请输入账号，最多 %1 个字符</source>
+        <translation>%1 文字以内のユーザー名を入力してください</translation>
+    </message>
+    <message>
+        <source>请输入密码，最多 %1 个字符</source>
+        <translation>%1 文字以内のパスワードを入力してください</translation>
+    </message>
+    <message>
+        <source>已有名为“%1”的账号</source>
+        <translation>「%1」というアカウントはすでにあります</translation>
+    </message>
+    <message>
+        <source>没有名为“%1”的账号</source>
+        <translation>「%1」というアカウントはありません</translation>
+    </message>
+    <message>
+        <source>账号已满：最多 %1 个账号和 %2 台设备</source>
+        <translation>上限に達しました: アカウント %1 件、デバイス %2 台まで</translation>
+    </message>
+</context>
+<context>
+    <name>AccountsDialog</name>
+    <message numerus="yes">
+        <source>%n 台设备使用默认账号</source>
+        <translation>
+            <numerusform>%n 台のデバイスが既定のアカウントを使用</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备使用账号“%1”</source>
+        <translation>
+            <numerusform>%n 台のデバイスがアカウント「%1」を使用</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>；其中 %n 台没有MAC和UUID，只用到下次搜索</source>
+        <translation>
+            <numerusform>(うち %n 台はMACもUUIDもないため、次の検索まで使用)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>删除账号“%1”？</source>
+        <translation>アカウント「%1」を削除しますか?</translation>
+    </message>
+    <message numerus="yes">
+        <source>使用它的 %n 台设备以后用默认账号登录。</source>
+        <translation>
+            <numerusform> これを使用している %n 台のデバイスには、以後、既定のアカウントでログインします。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>用于 %n 台设备</source>
+        <translation>
+            <numerusform>%n 台に使用</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>选择账号</source>
+        <translation>アカウントの選択</translation>
+    </message>
+    <message>
+        <source>账号管理</source>
+        <translation>アカウント管理</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>账号</source>
+        <translation>アカウント</translation>
+    </message>
+    <message>
+        <source>设备数</source>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>添加</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>修改</source>
+        <translation>変更</translation>
+    </message>
+    <message>
+        <source>默认账号在“搜索设置”中修改</source>
+        <translation>既定のアカウントは検索設定で変更します</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>每台设备只用一个账号登录：为它选定的账号，否则为默认账号。其他账号不会自动尝试。</source>
+        <translation>各デバイスには1つのアカウントだけでログインします。選択したアカウント、なければ既定のアカウントです。ほかのアカウントは試しません。</translation>
+    </message>
+    <message>
+        <source>默认账号</source>
+        <translation>既定のアカウント</translation>
+    </message>
+    <message>
+        <source>删除账号</source>
+        <translation>アカウントの削除</translation>
+    </message>
+    <message numerus="yes">
+        <source>删除没有设备使用的 %n 个账号？</source>
+        <translation>
+            <numerusform>どのデバイスも使用していない %n 件のアカウントを削除しますか?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>删除未使用的账号</source>
+        <translation>未使用のアカウントを削除</translation>
+    </message>
+    <message>
+        <source>没有为任何设备选定的账号</source>
+        <translation>どのデバイスにも選択されていないアカウント</translation>
+    </message>
+    <message>
+        <source>未使用</source>
+        <translation>未使用</translation>
+    </message>
+</context>
+<context>
+    <name>AddDeviceDialog</name>
+    <message>
+        <source>请输入P2P ID</source>
+        <translation>P2P IDを入力してください</translation>
+    </message>
+    <message>
+        <source>请输入正确的IP</source>
+        <translation>正しいIPアドレスを入力してください</translation>
+    </message>
+    <message>
+        <source>请输入账号</source>
+        <translation>アカウントを入力してください</translation>
+    </message>
+    <message>
+        <source>请输入密码</source>
+        <translation>パスワードを入力してください</translation>
+    </message>
+    <message>
+        <source>请输入端口</source>
+        <translation>ポート番号を入力してください</translation>
+    </message>
+    <message>
+        <source>端口范围为1到65535</source>
+        <translation>ポートは1~65535の範囲で指定してください</translation>
+    </message>
+    <message>
+        <source>手动添加设备</source>
+        <translation>デバイスの追加</translation>
+    </message>
+    <message>
+        <source>添加到收藏夹</source>
+        <translation>お気に入りに追加</translation>
+    </message>
+    <message>
+        <source>P2P ID</source>
+        <translation>P2P ID</translation>
+    </message>
+    <message>
+        <source>IP</source>
+        <translation>IP</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>ポート</translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>ユーザー名</translation>
+    </message>
+    <message>
+        <source>密码</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>备注</source>
+        <translation>備考</translation>
+    </message>
+    <message>
+        <source>最多50个字符</source>
+        <translation>50文字以内</translation>
+    </message>
+</context>
+<context>
+    <name>AddDevicesByFavoritesWindow</name>
+    <message>
+        <source>正在添加…</source>
+        <translation>追加中…</translation>
+    </message>
+    <message>
+        <source>已添加</source>
+        <translation>追加済み</translation>
+    </message>
+    <message>
+        <source>备注无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>備考を保存できませんでした。プログラムフォルダーへの書き込み権限を確認してください。</translation>
+    </message>
+    <message>
+        <source>收藏无法删除，请检查程序所在文件夹的写入权限</source>
+        <translation>お気に入りを削除できませんでした。プログラムフォルダーへの書き込み権限を確認してください。</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>添加</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>收藏夹</source>
+        <translation>お気に入り</translation>
+    </message>
+    <message numerus="yes">
+        <source>个收藏已选中</source>
+        <extracomment>Follows a number, as in &quot;3 favourites selected&quot;.</extracomment>
+        <translation>
+            <numerusform>件のお気に入りを選択</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>搜索…</source>
+        <translation>検索…</translation>
+    </message>
+    <message>
+        <source>双击一行可添加该设备</source>
+        <translation>行をダブルクリックするとデバイスを追加します</translation>
+    </message>
+    <message>
+        <source>清除筛选</source>
+        <translation>フィルターを解除</translation>
+    </message>
+    <message>
+        <source>手动添加设备</source>
+        <translation>デバイスの追加</translation>
+    </message>
+    <message>
+        <source>换一个搜索文字，或清除它。</source>
+        <translation>検索文字を変更するか、消去してください。</translation>
+    </message>
+    <message>
+        <source>手动添加设备时勾选“添加到收藏夹”，设备就会保存在这里。</source>
+        <translation>デバイスの追加時に「お気に入りに追加」を選択すると、ここに保存されます。</translation>
+    </message>
+    <message>
+        <source>没有符合搜索文字的收藏</source>
+        <translation>検索に一致するお気に入りはありません</translation>
+    </message>
+    <message>
+        <source>收藏夹是空的</source>
+        <translation>お気に入りはまだありません</translation>
+    </message>
+    <message>
+        <source>请确认是否要从收藏夹中删除 %1</source>
+        <translation>%1 をお気に入りから削除しますか?</translation>
+    </message>
+    <message>
+        <source>添加收藏设备</source>
+        <translation>お気に入りの追加</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>删除收藏</source>
+        <translation>お気に入りの削除</translation>
+    </message>
+</context>
+<context>
+    <name>AddingBatches</name>
+    <message>
+        <source>第%1行 %2</source>
+        <translation>%1 行目: %2</translation>
+    </message>
+</context>
+<context>
+    <name>AddressPlan</name>
+    <message>
+        <source>没有MAC，不会修改</source>
+        <translation>MACアドレスなし: スキップ</translation>
+    </message>
+    <message>
+        <source>与其他设备冲突</source>
+        <translation>ほかのデバイスが使用中</translation>
+    </message>
+    <message>
+        <source>与本批设备冲突</source>
+        <translation>割り当てが重複</translation>
+    </message>
+    <message>
+        <source>与网关地址相同</source>
+        <translation>ゲートウェイと同じ</translation>
+    </message>
+    <message>
+        <source>超出起始IP的网段</source>
+        <translation>サブネットの範囲外</translation>
+    </message>
+    <message>
+        <source>网络地址或广播地址</source>
+        <translation>ネットワークまたはブロードキャストアドレス</translation>
+    </message>
+</context>
+<context>
+    <name>Batch</name>
+    <message>
+        <source>、</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>批处理正在进行</source>
+        <translation>一括処理を実行中です</translation>
+    </message>
+    <message>
+        <source>设备正在等待新密码</source>
+        <translation>新しいパスワードの入力を待っているデバイスがあります</translation>
+    </message>
+    <message>
+        <source>没有失败或未执行的设备</source>
+        <translation>失敗または未実行のデバイスはありません</translation>
+    </message>
+    <message>
+        <source>此操作不能在这里重试</source>
+        <translation>この操作はここでは再試行できません</translation>
+    </message>
+    <message>
+        <source>只有最近一次批处理可以重试</source>
+        <translation>再試行できるのは最新の一括処理だけです</translation>
+    </message>
+    <message>
+        <source>这些设备的失败不会因重试而消失，请先更正原因（如密码）</source>
+        <translation>これらのデバイスは再試行しても成功しません。先に原因(アカウントなど)を修正してください。</translation>
+    </message>
+</context>
+<context>
+    <name>BatchCGIWindow</name>
+    <message>
+        <source>批量配置CGI</source>
+        <translation>CGI一括設定</translation>
+    </message>
+    <message numerus="yes">
+        <source>向选中的 %n 台设备发送同一条命令：</source>
+        <translation>
+            <numerusform>選択した %n 台のデバイスにこのコマンドを送信:</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>BatchPanel</name>
+    <message>
+        <source>关闭</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>批处理记录</source>
+        <translation>一括処理履歴</translation>
+    </message>
+    <message>
+        <source>重试失败</source>
+        <translation>失敗を再試行</translation>
+    </message>
+    <message>
+        <source>对失败和未执行的设备再试一次</source>
+        <translation>失敗または未実行のデバイスに対して一括処理を再実行します</translation>
+    </message>
+    <message>
+        <source>恢复地址</source>
+        <translation>アドレスを復元</translation>
+    </message>
+    <message>
+        <source>将修改成功的设备恢复为修改前的IP地址</source>
+        <translation>変更したデバイスを以前のIPアドレスに戻します</translation>
+    </message>
+    <message numerus="yes">
+        <source>确定要将 %n 台设备恢复为修改前的IP地址吗？</source>
+        <translation>
+            <numerusform>%n 台のデバイスを以前のIPアドレスに戻しますか?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>保存结果</source>
+        <translation>結果を保存</translation>
+    </message>
+    <message>
+        <source>批处理</source>
+        <translation>一括処理</translation>
+    </message>
+    <message>
+        <source>开始时间</source>
+        <translation>開始時刻</translation>
+    </message>
+    <message>
+        <source>成功 / 全部</source>
+        <translation>成功 / 全体</translation>
+    </message>
+    <message>
+        <source>只看失败</source>
+        <translation>失敗のみ</translation>
+    </message>
+    <message>
+        <source>包括未执行的设备</source>
+        <translation>未実行のデバイスを含みます</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>还没有批处理</source>
+        <translation>一括処理はまだありません</translation>
+    </message>
+    <message>
+        <source>没有失败的设备</source>
+        <translation>失敗したデバイスはありません</translation>
+    </message>
+    <message>
+        <source>恢复IP地址</source>
+        <translation>IPアドレスの復元</translation>
+    </message>
+    <message>
+        <source>保存全部</source>
+        <translation>すべて保存</translation>
+    </message>
+    <message>
+        <source>将列表中所有批处理的结果保存到一个文件</source>
+        <translation>一覧にあるすべての一括処理の結果を1つのファイルに保存します</translation>
+    </message>
+    <message>
+        <source>请等待当前批处理结束</source>
+        <translation>現在の一括処理が終わるまでお待ちください</translation>
+    </message>
+</context>
+<context>
+    <name>BatchPreview</name>
+    <message>
+        <source>未初始化，不会执行</source>
+        <translation>未初期化: スキップ</translation>
+    </message>
+    <message>
+        <source>正在升级，不会执行</source>
+        <translation>アップグレード中: スキップ</translation>
+    </message>
+    <message>
+        <source>IP地址冲突，可能作用于另一台设备</source>
+        <translation>アドレスの競合: 別のデバイスが変更される可能性があります</translation>
+    </message>
+    <message>
+        <source>与其他设备冲突</source>
+        <translation>ほかのデバイスが使用中</translation>
+    </message>
+    <message>
+        <source>%1（%2）：%3</source>
+        <extracomment>A device, what it gets, and a warning about that.</extracomment>
+        <translation>%1 (%2): %3</translation>
+    </message>
+</context>
+<context>
+    <name>BatchPreviewCounts</name>
+    <message numerus="yes">
+        <source>%n台设备已选中</source>
+        <translation>
+            <numerusform>%n 台のデバイスを選択</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个警告，请查看提示</source>
+        <translation>
+            <numerusform>警告 %n 件:「注記」を参照</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备不会执行，请查看提示</source>
+        <translation>
+            <numerusform>%n 台をスキップ:「注記」を参照</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>对 %n 台设备执行</source>
+        <translation>
+            <numerusform>%n 台のデバイスで実行</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>跳过 %n 台</source>
+        <translation>
+            <numerusform>%n 台スキップ</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>BatchPreviewDialog</name>
+    <message>
+        <source>提示</source>
+        <translation>お知らせ</translation>
+    </message>
+    <message>
+        <source>请选择一台设备</source>
+        <translation>デバイスを選択してください</translation>
+    </message>
+    <message>
+        <source>收起列表</source>
+        <translation>一覧を隠す</translation>
+    </message>
+    <message numerus="yes">
+        <source>查看 %n 台设备</source>
+        <translation>
+            <numerusform>%n 台のデバイスを表示</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>BatchPreviewTable</name>
+    <message>
+        <source>No.</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>名称和型号</source>
+        <translation>名前と型番</translation>
+    </message>
+    <message>
+        <source>原地址</source>
+        <translation>旧アドレス</translation>
+    </message>
+    <message>
+        <source>IP:端口</source>
+        <translation>IP:ポート</translation>
+    </message>
+    <message>
+        <source>新地址</source>
+        <translation>新アドレス</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>注記</translation>
+    </message>
+    <message>
+        <source>版本号</source>
+        <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>升级文件</source>
+        <translation>ファームウェアファイル</translation>
+    </message>
+    <message>
+        <source>新名称</source>
+        <translation>新しい名前</translation>
+    </message>
+</context>
+<context>
+    <name>BatchReport</name>
+    <message numerus="yes">
+        <source>%n 台设备成功</source>
+        <translation>
+            <numerusform>%n 台成功</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备等待新密码</source>
+        <translation>
+            <numerusform>%n 台が新しいパスワードを待機中</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备失败</source>
+        <translation>
+            <numerusform>%n 件失敗</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备未执行</source>
+        <translation>
+            <numerusform>%n 台未実行</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备已跳过</source>
+        <translation>
+            <numerusform>%n 台スキップ</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备等待执行</source>
+        <translation>
+            <numerusform>%n 台待機中</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>BatchResult</name>
+    <message>
+        <source>旧密码正确</source>
+        <translation>現在のパスワードは正しいです</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>步骤</source>
+        <translation>手順</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>超过时间限制</source>
+        <translation>制限時間を超えました</translation>
+    </message>
+    <message>
+        <source>%1，已跳过</source>
+        <translation>%1: スキップ</translation>
+    </message>
+</context>
+<context>
+    <name>BatchResults</name>
+    <message>
+        <source>保存结果</source>
+        <translation>結果を保存</translation>
+    </message>
+    <message>
+        <source>结果已保存到 %1</source>
+        <translation>結果を %1 に保存しました</translation>
+    </message>
+    <message>
+        <source>结果无法保存，可以另选位置重试。
+%1</source>
+        <translation>結果を保存できませんでした。別のフォルダーを選択してください。
+%1</translation>
+    </message>
+    <message>
+        <source>批处理记录</source>
+        <translation>一括処理履歴</translation>
+    </message>
+</context>
+<context>
+    <name>BatchWarningQuestion</name>
+    <message>
+        <source>继续</source>
+        <translation>続行</translation>
+    </message>
+    <message numerus="yes">
+        <source>有 %n 个警告，仍要继续吗？</source>
+        <translation>
+            <numerusform>%n 件の警告があります。続行しますか?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>警告</translation>
+    </message>
+</context>
+<context>
+    <name>Batches</name>
+    <message>
+        <source>设备之间互换地址（如 %1 与 %2），无法直接修改。请先将其中一台改为其他地址。</source>
+        <translation>デバイス間(%1 と %2 など)でアドレスを直接入れ替えることはできません。先に一方を別のアドレスに変更してください。</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请等待其完成</source>
+        <translation>「%1」を実行中です。終了するまでお待ちください。</translation>
+    </message>
+    <message>
+        <source>系统资源不足，无法开始</source>
+        <translation>メモリまたはスレッドが不足しているため開始できません。ほかのプログラムを閉じてから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>保存结果</source>
+        <translation>結果を保存</translation>
+    </message>
+    <message>
+        <source>%1 通道 %2</source>
+        <translation>%1 チャンネル %2</translation>
+    </message>
+    <message>
+        <source>地址 %1 仍由设备 %2 使用</source>
+        <translation>%1 はまだデバイス %2 が使用しています</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备的地址已改变，或已不在列表中，没有重试（如 %1）</source>
+        <translation>
+            <numerusform>%n 台のデバイスは、アドレスが変わったか一覧にないため、再試行されませんでした(%1 など)</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>BusyState</name>
+    <message>
+        <source>当前有设备正在升级中，请勿刷新设备！</source>
+        <translation>アップグレードを実行中です。終了後に検索してください。</translation>
+    </message>
+    <message>
+        <source>当前有设备正在升级中，请稍候再关闭</source>
+        <translation>アップグレードを実行中です。終了後にプログラムを閉じてください。</translation>
+    </message>
+    <message>
+        <source>”、“</source>
+        <translation>」、「</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请在结束后再搜索设备</source>
+        <extracomment>%1 is the name of running work, as on the button that starts it.</extracomment>
+        <translation>「%1」を実行中です。終了後に検索してください。</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请在结束后再删除设备</source>
+        <translation>「%1」を実行中です。終了後にデバイスを削除してください。</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请在结束后再修改设备</source>
+        <translation>「%1」を実行中です。終了後にデバイスを変更してください。</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请在结束后再关闭</source>
+        <translation>「%1」を実行中です。終了後にプログラムを閉じてください。</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请在结束后再重启程序</source>
+        <translation>「%1」を実行中です。終了後にプログラムを再起動してください。</translation>
+    </message>
+    <message>
+        <source>正在搜索，请先停止搜索（Esc）或稍候再关闭</source>
+        <translation>検索中です。Escキーで停止するか、終了するまでお待ちください。</translation>
+    </message>
+</context>
+<context>
+    <name>CGIConfigManage</name>
+    <message>
+        <source>正在执行另一个文件中的CGI命令。</source>
+        <translation>別のスプレッドシートのコマンドを実行中です。終了するまでお待ちください。</translation>
+    </message>
+    <message>
+        <source>批量操作CGI模板.xlsx</source>
+        <translation>CGI一括設定テンプレート.xlsx</translation>
+    </message>
+    <message>
+        <source>正在发送另一条CGI命令。</source>
+        <translation>別のCGIコマンドを実行中です。終了するまでお待ちください。</translation>
+    </message>
+    <message>
+        <source>…（内容过长，已截断）</source>
+        <translation>…(以下省略)</translation>
+    </message>
+</context>
+<context>
+    <name>CameraOptions</name>
+    <message>
+        <source>室外</source>
+        <translation>屋外</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>手动</source>
+        <translation>手動</translation>
+    </message>
+    <message>
+        <source>增益优先</source>
+        <translation>ゲイン優先</translation>
+    </message>
+    <message>
+        <source>快门优先</source>
+        <translation>シャッター優先</translation>
+    </message>
+    <message>
+        <source>自然光</source>
+        <translation>自然光</translation>
+    </message>
+    <message>
+        <source>路灯</source>
+        <translation>街灯</translation>
+    </message>
+    <message>
+        <source>区域自定义</source>
+        <translation>カスタム領域</translation>
+    </message>
+    <message>
+        <source>彩色</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>黑白</source>
+        <translation>白黒</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>红外</source>
+        <translation>赤外線</translation>
+    </message>
+    <message>
+        <source>白光</source>
+        <translation>白色光</translation>
+    </message>
+    <message>
+        <source>智能</source>
+        <translation>スマート</translation>
+    </message>
+</context>
+<context>
+    <name>CertificateDialog</name>
+    <message>
+        <source>暂不信任</source>
+        <translation>後で</translation>
+    </message>
+    <message>
+        <source>信任所选证书</source>
+        <translation>選択を信頼</translation>
+    </message>
+    <message>
+        <source>确认设备证书</source>
+        <translation>デバイス証明書の確認</translation>
+    </message>
+    <message>
+        <source>证书无法保存，未信任任何证书。
+%1</source>
+        <translation>証明書を保存できませんでした。どの証明書も信頼されていません。
+%1</translation>
+    </message>
+    <message>
+        <source>已选 %1 / %2 台设备</source>
+        <translation>%1 / %2 台のデバイスを選択</translation>
+    </message>
+    <message>
+        <source>以下设备通过 HTTPS 出示了自己创建的证书，尚未发送密码。请核对指纹，确认后只信任该密钥。</source>
+        <translation>以下のデバイスはHTTPSに自己署名証明書を使用しています。パスワードは送信されていません。フィンガープリントを照合してください。信頼すると、この鍵だけが受け入れられます。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备的证书与已确认的不同，已停止发送密码。可能有人冒充设备：仅在知道原因（如设备已恢复出厂设置）时才勾选。</source>
+        <translation>
+            <numerusform>%n 台のデバイスの証明書が変わりました。パスワードは送信されていません。別のデバイスの可能性があります。工場出荷時へのリセットなど、理由がわかる場合にのみ選択してください。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>状态</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>IP:端口</source>
+        <translation>IP:ポート</translation>
+    </message>
+    <message>
+        <source>MAC 或 UUID</source>
+        <translation>MACまたはUUID</translation>
+    </message>
+    <message>
+        <source>证书名称</source>
+        <translation>証明書</translation>
+    </message>
+    <message>
+        <source>有效期</source>
+        <translation>有効期限</translation>
+    </message>
+    <message>
+        <source>指纹</source>
+        <translation>フィンガープリント</translation>
+    </message>
+    <message>
+        <source>指纹（SHA-256）</source>
+        <translation>フィンガープリント(SHA-256)</translation>
+    </message>
+    <message>
+        <source>已确认的指纹</source>
+        <translation>信頼済みフィンガープリント</translation>
+    </message>
+    <message>
+        <source>证书已改变</source>
+        <translation>変更あり</translation>
+    </message>
+    <message>
+        <source>新证书</source>
+        <translation>新規</translation>
+    </message>
+</context>
+<context>
+    <name>CertificateStore</name>
+    <message>
+        <source>证书文件已损坏，其中的证书均不再信任，请重新确认：%1</source>
+        <translation>証明書ファイルが破損しています。どの証明書も信頼されません。もう一度確認してください: %1</translation>
+    </message>
+</context>
+<context>
+    <name>CgiBatches</name>
+    <message>
+        <source>没有通往设备网页端口的隧道。</source>
+        <translation>デバイスのWebポートへのトンネルがありません。</translation>
+    </message>
+    <message>
+        <source>未执行</source>
+        <translation>未送信</translation>
+    </message>
+</context>
+<context>
+    <name>CgiCommandField</name>
+    <message>
+        <source>CGI命令</source>
+        <translation>CGIコマンド</translation>
+    </message>
+    <message>
+        <source>从常用命令中移除</source>
+        <translation>保存済みコマンドから削除</translation>
+    </message>
+    <message>
+        <source>保存为常用命令</source>
+        <translation>このコマンドを保存</translation>
+    </message>
+</context>
+<context>
+    <name>CgiProcedure</name>
+    <message>
+        <source>应答头过大。</source>
+        <translation>応答のヘッダーが大きすぎます。</translation>
+    </message>
+    <message>
+        <source>账号或密码错误。</source>
+        <translation>ユーザー名またはパスワードが違います。検索設定のアカウントを確認してください。</translation>
+    </message>
+    <message>
+        <source>设备被锁定。</source>
+        <translation>アカウントがロックされています。デバイスのロックが解除されるまでお待ちください。</translation>
+    </message>
+    <message>
+        <source>网络连接失败。</source>
+        <translation>デバイスから応答がありません。</translation>
+    </message>
+    <message>
+        <source>设备未初始化。</source>
+        <translation>デバイスは初期化されていません。</translation>
+    </message>
+    <message>
+        <source>未知错误。</source>
+        <translation>不明なエラー。</translation>
+    </message>
+    <message>
+        <source>服务器连接失败</source>
+        <translation>デバイスが要求を拒否しました</translation>
+    </message>
+    <message>
+        <source>应答内容过大。</source>
+        <translation>応答が大きすぎます。</translation>
+    </message>
+    <message>
+        <source>文件写入失败：</source>
+        <translation>ファイルに書き込めませんでした: </translation>
+    </message>
+    <message>
+        <source>操作已停止。</source>
+        <translation>停止しました。</translation>
+    </message>
+    <message>
+        <source>已收到的部分录像保存在：%1</source>
+        <translation>受信できた録画の一部は %1 に保存されています</translation>
+    </message>
+    <message>
+        <source>设备正在升级。</source>
+        <translation>デバイスはアップグレード中です。</translation>
+    </message>
+    <message>
+        <source>设备证书未确认。</source>
+        <translation>デバイスの証明書は信頼されていません。</translation>
+    </message>
+    <message>
+        <source>设备证书已改变。</source>
+        <translation>デバイスの証明書が変わりました。</translation>
+    </message>
+    <message>
+        <source>找不到该主机</source>
+        <translation>ホストが見つかりません</translation>
+    </message>
+    <message>
+        <source>设备拒绝连接，请检查HTTP端口</source>
+        <translation>デバイスが接続を拒否しました。HTTPポートを確認してください</translation>
+    </message>
+    <message>
+        <source>无法连接设备</source>
+        <translation>デバイスに接続できません</translation>
+    </message>
+    <message>
+        <source>设备没有及时应答</source>
+        <translation>デバイスが時間内に応答しませんでした</translation>
+    </message>
+    <message>
+        <source>无法建立加密连接，请检查HTTPS端口</source>
+        <translation>暗号化接続を確立できません。HTTPSポートを確認してください</translation>
+    </message>
+    <message>
+        <source>设备的应答不是有效的HTTP</source>
+        <translation>デバイスの応答は有効なHTTPではありません</translation>
+    </message>
+    <message>
+        <source>应答结束前连接已断开</source>
+        <translation>応答が終わる前に接続が閉じられました</translation>
+    </message>
+    <message>
+        <source>请求失败</source>
+        <translation>要求に失敗しました</translation>
+    </message>
+    <message>
+        <source>%1（%2）</source>
+        <extracomment>Why a request failed, and the same in the words of a library.</extracomment>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>CgiRequest</name>
+    <message>
+        <source>用户名不能包含冒号或控制字符。</source>
+        <translation>ユーザー名にコロンや制御文字は使用できません。</translation>
+    </message>
+    <message>
+        <source>密码不能包含空字符。</source>
+        <translation>パスワードにヌル文字は使用できません。</translation>
+    </message>
+</context>
+<context>
+    <name>CgiResponseWindow</name>
+    <message>
+        <source>复制成功</source>
+        <translation>コピーしました</translation>
+    </message>
+    <message>
+        <source>文件写入失败：</source>
+        <translation>ファイルに書き込めませんでした: </translation>
+    </message>
+    <message>
+        <source>已保存到文件：%1</source>
+        <translation>%1 に保存しました</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>复制全部</source>
+        <translation>すべてコピー</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>保存为文本文件</source>
+        <translation>テキストをファイルに保存します</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>フォルダーの選択</translation>
+    </message>
+</context>
+<context>
+    <name>CgiSender</name>
+    <message>
+        <source>发送CGI命令</source>
+        <translation>CGIコマンドの送信</translation>
+    </message>
+    <message>
+        <source>批量配置CGI</source>
+        <translation>CGI一括設定</translation>
+    </message>
+    <message>
+        <source>请填写CGI命令的具体内容。</source>
+        <translation>コマンドを入力してください。</translation>
+    </message>
+    <message>
+        <source>URL格式错误。</source>
+        <translation>コマンドは /cgi-bin/ で始まる必要があります</translation>
+    </message>
+    <message>
+        <source>已停止，完成 %1 / %2</source>
+        <translation>停止しました: %1 / %2 完了</translation>
+    </message>
+    <message numerus="yes">
+        <source>批量配置CGI命令已完成</source>
+        <translation>
+            <numerusform>%n 台のデバイスに送信: すべて受理</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>命令已执行，没有可显示的结果。</source>
+        <translation>デバイスはコマンドを受理しましたが、結果は返しませんでした。</translation>
+    </message>
+    <message numerus="yes">
+        <source>批量配置CGI命令已完成：成功 %1，失败 %2</source>
+        <translation>
+            <numerusform>%n 台に送信: 受理 %1、失敗 %2</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CgiTable</name>
+    <message>
+        <source>型号</source>
+        <translation>型番</translation>
+    </message>
+    <message>
+        <source>IP:端口</source>
+        <translation>IP:ポート</translation>
+    </message>
+    <message>
+        <source>Url路径</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>
+右键点击可复制结果</source>
+        <translation>
+右クリックで結果をコピー</translation>
+    </message>
+    <message>
+        <source>配置</source>
+        <translation>送信</translation>
+    </message>
+    <message>
+        <source>向这台设备发送CGI命令</source>
+        <translation>このデバイスにコマンドを送信します</translation>
+    </message>
+    <message>
+        <source>查看全部内容</source>
+        <translation>結果をすべて表示</translation>
+    </message>
+    <message>
+        <source>设备正在升级，不能发送CGI命令</source>
+        <translation>デバイスはアップグレード中です。終了後にコマンドを送信してください。</translation>
+    </message>
+    <message>
+        <source>应答</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>备注</source>
+        <translation>備考</translation>
+    </message>
+</context>
+<context>
+    <name>CgiWorkbook</name>
+    <message>
+        <source>批量表单操作</source>
+        <translation>シートを実行</translation>
+    </message>
+    <message>
+        <source>打开</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>即将执行文件中的CGI命令，执行结果将记录在文件中</source>
+        <translation>スプレッドシートのCGIコマンドを送信します。結果はスプレッドシートに書き込まれます。</translation>
+    </message>
+    <message>
+        <source>打开模板文件失败。</source>
+        <translation>テンプレートを開けませんでした。</translation>
+    </message>
+    <message>
+        <source>执行</source>
+        <translation>送信</translation>
+    </message>
+</context>
+<context>
+    <name>CgiWorkbooks</name>
+    <message>
+        <source>正在执行另一个文件中的CGI命令。</source>
+        <translation>別のスプレッドシートのコマンドを実行中です。終了するまでお待ちください。</translation>
+    </message>
+    <message>
+        <source>读取表格文件</source>
+        <translation>スプレッドシートの読み込み</translation>
+    </message>
+    <message>
+        <source>第%1行</source>
+        <translation>%1 行目</translation>
+    </message>
+    <message>
+        <source>文件已被修改，请重新打开。</source>
+        <translation>ファイルが変更されました。もう一度開いてください。</translation>
+    </message>
+    <message>
+        <source>保存表格文件</source>
+        <translation>スプレッドシートの保存</translation>
+    </message>
+    <message>
+        <source>第%1行 %2</source>
+        <translation>%1 行目: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ChannelNameCell</name>
+    <message>
+        <source>已修改，尚未保存</source>
+        <translation>未保存</translation>
+    </message>
+    <message>
+        <source>通道 %1 的名称</source>
+        <translation>チャンネル %1 の名前</translation>
+    </message>
+</context>
+<context>
+    <name>ChannelNameTrouble</name>
+    <message>
+        <source>设备没有告知名称</source>
+        <translation>名前の通知なし</translation>
+    </message>
+    <message>
+        <source>名称不能为空</source>
+        <translation>名前を入力してください</translation>
+    </message>
+    <message>
+        <source>名称过长，最多 %1 字节</source>
+        <translation>%1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>设备没有接受</source>
+        <translation>デバイスが拒否しました</translation>
+    </message>
+    <message>
+        <source>设备没有应答</source>
+        <translation>デバイスから応答がありません</translation>
+    </message>
+    <message>
+        <source>设备改变了名称</source>
+        <translation>デバイスが変更しました</translation>
+    </message>
+    <message>
+        <source>截短</source>
+        <translation>短縮</translation>
+    </message>
+    <message>
+        <source>撤销</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>保留设备能存下的部分</source>
+        <translation>デバイスに保存できる長さに名前を短縮します</translation>
+    </message>
+    <message>
+        <source>恢复设备现有的名称</source>
+        <translation>デバイスの現在の名前に戻します</translation>
+    </message>
+    <message>
+        <source>设备正在升级</source>
+        <translation>デバイスはアップグレード中です</translation>
+    </message>
+</context>
+<context>
+    <name>ChannelNamesPanel</name>
+    <message>
+        <source>通道</source>
+        <translation>チャンネル</translation>
+    </message>
+    <message>
+        <source>连接</source>
+        <translation>接続</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>字节</source>
+        <translation>バイト</translation>
+    </message>
+    <message>
+        <source>已连接</source>
+        <translation>接続済み</translation>
+    </message>
+    <message>
+        <source>未连接</source>
+        <translation>未接続</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道名称未保存</source>
+        <translation>
+            <numerusform>%n 件のチャンネル名が未保存</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>有未保存的修改：%n 项</source>
+        <translation>
+            <numerusform>未保存の変更 %n 件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>设备没有告知 %n 个通道的名称</source>
+        <translation>
+            <numerusform>デバイスは %n 個のチャンネルの名前を通知していません</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>设备正在升级，不能保存修改</source>
+        <translation>デバイスはアップグレード中です。終了後に保存してください。</translation>
+    </message>
+    <message>
+        <source>按规则命名</source>
+        <translation>パターンで命名</translation>
+    </message>
+    <message>
+        <source>用一条规则为多个通道或多台摄像机命名</source>
+        <translation>複数のチャンネルまたはカメラを1つのパターンで命名</translation>
+    </message>
+</context>
+<context>
+    <name>ChannelNamesWork</name>
+    <message>
+        <source>正在读取通道名称…</source>
+        <translation>チャンネル名を読み込み中…</translation>
+    </message>
+    <message>
+        <source>通道 %1</source>
+        <translation>チャンネル %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道名称已保存</source>
+        <translation>
+            <numerusform>%n 件のチャンネル名を保存しました</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道名称未保存</source>
+        <translation>
+            <numerusform>%n 件のチャンネル名が未保存</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>CommandWorkbook</name>
+    <message>
+        <source>IP</source>
+        <translation>IP</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>ポート</translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>ユーザー名</translation>
+    </message>
+    <message>
+        <source>密码</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>CGI配置命令</source>
+        <translation>CGIコマンド</translation>
+    </message>
+    <message>
+        <source>文件打开失败</source>
+        <translation>ファイルを開けませんでした</translation>
+    </message>
+    <message>
+        <source>文件格式错误</source>
+        <translation>ファイル形式が正しくありません</translation>
+    </message>
+    <message>
+        <source>请填写CGI命令的具体内容。</source>
+        <translation>コマンドを入力してください。</translation>
+    </message>
+    <message>
+        <source>URL格式错误。</source>
+        <translation>コマンドは / で始まる必要があります</translation>
+    </message>
+    <message>
+        <source>…（内容过长，已截断）</source>
+        <translation>…(以下省略)</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>結果</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigCopy</name>
+    <message numerus="yes">
+        <source>%n 台设备已复制</source>
+        <translation>
+            <numerusform>%n 台のデバイスにコピーしました</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备只复制了一部分</source>
+        <translation>
+            <numerusform>%n 台のデバイスは一部のみ受理</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备复制失败</source>
+        <translation>
+            <numerusform>%n 台のデバイスで失敗</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备未执行</source>
+        <translation>
+            <numerusform>%n 台のデバイスは未実行</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>复制编码配置</source>
+        <translation>エンコード設定のコピー</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigSession</name>
+    <message>
+        <source>正在登录…</source>
+        <translation>ログイン中…</translation>
+    </message>
+    <message>
+        <source>获取设备配置失败</source>
+        <translation>デバイスの設定を読み込めませんでした</translation>
+    </message>
+    <message>
+        <source>获取设备能力失败</source>
+        <translation>デバイスの機能情報を読み込めませんでした</translation>
+    </message>
+    <message>
+        <source>设备已重新登录，尚未保存的修改已丢失</source>
+        <translation>再ログインしました。保存していない変更は失われました。</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceActions</name>
+    <message>
+        <source>%1 已存在，是否覆盖？</source>
+        <translation>%1 はすでに存在します。置き換えますか?</translation>
+    </message>
+    <message>
+        <source>已导出到 %1</source>
+        <translation>%1 にエクスポートしました</translation>
+    </message>
+    <message>
+        <source>无法写入文件 %1</source>
+        <translation>ファイル %1 に書き込めませんでした</translation>
+    </message>
+    <message>
+        <source>这台设备没有可打开的网页</source>
+        <translation>このデバイスにはWebページがありません</translation>
+    </message>
+    <message>
+        <source>已复制到剪贴板</source>
+        <translation>クリップボードにコピーしました</translation>
+    </message>
+    <message>
+        <source>%1 已在收藏夹中</source>
+        <translation>%1 はすでにお気に入りにあります</translation>
+    </message>
+    <message>
+        <source>%1 已添加到收藏夹</source>
+        <translation>%1 をお気に入りに追加しました</translation>
+    </message>
+    <message>
+        <source>收藏无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>お気に入りを保存できません。プログラムフォルダーに書き込めるか確認してください。</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>フォルダーの選択</translation>
+    </message>
+    <message>
+        <source>覆盖</source>
+        <translation>置き換え</translation>
+    </message>
+    <message>
+        <source>覆盖文件</source>
+        <translation>ファイルの置き換え</translation>
+    </message>
+    <message>
+        <source>设备没有报告MAC或UUID，不能添加备注</source>
+        <translation>デバイスがMACアドレスもUUIDも通知しないため、備考を付けられません</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceAdding</name>
+    <message>
+        <source>没有取得通往该设备的本地端口，请检查P2P ID和网络</source>
+        <translation>P2Pでデバイスに接続できません。P2P IDとネットワーク接続を確認してください。</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceAddressCell</name>
+    <message>
+        <source>IP地址冲突</source>
+        <translation>IPアドレスの競合</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceClock</name>
+    <message>
+        <source>%1 秒</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>%1 分 %2 秒</source>
+        <translation>%1 分 %2 秒</translation>
+    </message>
+    <message>
+        <source>%1 小时 %2 分</source>
+        <translation>%1 時間 %2 分</translation>
+    </message>
+    <message>
+        <source>%1 天 %2 小时</source>
+        <translation>%1 日 %2 時間</translation>
+    </message>
+    <message>
+        <source>与电脑一致</source>
+        <translation>このコンピューターと一致</translation>
+    </message>
+    <message>
+        <source>快 %1</source>
+        <extracomment>Of a device&apos;s clock, against this computer&apos;s. %1 is a span of time.</extracomment>
+        <translation>%1 進み</translation>
+    </message>
+    <message>
+        <source>慢 %1</source>
+        <translation>%1 遅れ</translation>
+    </message>
+    <message>
+        <source>%1，%2</source>
+        <extracomment>%1 is a device&apos;s date and time, %2 by how much its clock is ahead or behind.</extracomment>
+        <translation>%1、%2</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceDetail</name>
+    <message>
+        <source>标识</source>
+        <translation>識別情報</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>型番</translation>
+    </message>
+    <message>
+        <source>序列号</source>
+        <translation>シリアル番号</translation>
+    </message>
+    <message>
+        <source>状态</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>已初始化</source>
+        <translation>初期化済み</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>未初期化</translation>
+    </message>
+    <message>
+        <source>版本</source>
+        <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>版本号</source>
+        <translation>ファームウェア</translation>
+    </message>
+    <message>
+        <source>网络</source>
+        <translation>ネットワーク</translation>
+    </message>
+    <message>
+        <source>IPv6地址</source>
+        <translation>IPv6アドレス</translation>
+    </message>
+    <message>
+        <source>IPv4地址</source>
+        <translation>IPv4アドレス</translation>
+    </message>
+    <message>
+        <source>设备地址</source>
+        <translation>デバイスアドレス</translation>
+    </message>
+    <message>
+        <source>子网掩码</source>
+        <translation>サブネットマスク</translation>
+    </message>
+    <message>
+        <source>网关</source>
+        <translation>ゲートウェイ</translation>
+    </message>
+    <message>
+        <source>是</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
+        <source>主机名</source>
+        <translation>ホスト名</translation>
+    </message>
+    <message>
+        <source>本机地址</source>
+        <translation>検出元</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>ポート</translation>
+    </message>
+    <message>
+        <source>本地端口</source>
+        <translation>ローカルポート</translation>
+    </message>
+    <message>
+        <source>服务端口</source>
+        <translation>サービスポート</translation>
+    </message>
+    <message>
+        <source>设备服务端口</source>
+        <translation>デバイスサービスポート</translation>
+    </message>
+    <message>
+        <source>HTTP端口</source>
+        <translation>HTTPポート</translation>
+    </message>
+    <message>
+        <source>HTTPS端口</source>
+        <translation>HTTPSポート</translation>
+    </message>
+    <message>
+        <source>RTSP端口</source>
+        <translation>RTSPポート</translation>
+    </message>
+    <message>
+        <source>最大连接数</source>
+        <translation>最大接続数</translation>
+    </message>
+    <message>
+        <source>通道</source>
+        <translation>チャンネル</translation>
+    </message>
+    <message>
+        <source>通道数</source>
+        <translation>チャンネル</translation>
+    </message>
+    <message>
+        <source>已连接通道</source>
+        <translation>接続済み</translation>
+    </message>
+    <message>
+        <source>报警输入</source>
+        <translation>アラーム入力</translation>
+    </message>
+    <message>
+        <source>存储</source>
+        <translation>ストレージ</translation>
+    </message>
+    <message>
+        <source>硬盘数</source>
+        <translation>ハードディスク</translation>
+    </message>
+    <message>
+        <source>添加与账号</source>
+        <translation>アカウント</translation>
+    </message>
+    <message>
+        <source>添加方式</source>
+        <translation>追加方法</translation>
+    </message>
+    <message>
+        <source>手动添加（P2P）</source>
+        <translation>手動(P2P)</translation>
+    </message>
+    <message>
+        <source>搜索</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>手动添加（%1）</source>
+        <translation>手動(%1)</translation>
+    </message>
+    <message>
+        <source>P2P ID</source>
+        <translation>P2P ID</translation>
+    </message>
+    <message>
+        <source>P2P端口</source>
+        <translation>P2Pポート</translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>ユーザー名</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceDetailDialog</name>
+    <message>
+        <source>关闭</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>复制全部</source>
+        <translation>すべてコピー</translation>
+    </message>
+    <message>
+        <source>设备详情</source>
+        <translation>デバイスの詳細</translation>
+    </message>
+    <message>
+        <source>登录失败：%1</source>
+        <translation>ログイン失敗: %1</translation>
+    </message>
+    <message>
+        <source>登录读取更多</source>
+        <translation>ログインして詳細を取得</translation>
+    </message>
+    <message>
+        <source>登录设备，读取端口、通道和硬盘等信息</source>
+        <translation>デバイスにログインし、ポート、チャンネル、ハードディスクの情報を読み込みます</translation>
+    </message>
+    <message>
+        <source>导出</source>
+        <translation>エクスポート</translation>
+    </message>
+    <message>
+        <source>保存为文本文件</source>
+        <translation>テキストをファイルに保存します</translation>
+    </message>
+    <message>
+        <source>搜索名称或内容</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>没有包含这些文字的信息</source>
+        <translation>検索に一致する項目はありません</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceDetailLine</name>
+    <message>
+        <source>复制这一行</source>
+        <translation>この行をコピー</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceLibraries</name>
+    <message>
+        <source>无法读取设备库配置文件 %1</source>
+        <translation>デバイスライブラリファイル %1 を読み込めませんでした</translation>
+    </message>
+    <message>
+        <source>设备库配置文件 %1 中有无法识别的行：%2</source>
+        <translation>デバイスライブラリファイル %1 に不明な行があります: %2</translation>
+    </message>
+    <message>
+        <source>设备库配置文件中缺少 [%1] 或其 file</source>
+        <translation>デバイスライブラリファイルに [%1] またはその項目「file」がありません</translation>
+    </message>
+    <message>
+        <source>设备库配置文件没有列出 %1 的函数 %2</source>
+        <translation>デバイスライブラリファイルに %1 の関数 %2 がありません</translation>
+    </message>
+    <message>
+        <source>设备库配置文件为 %1 列出了未知的函数 %2</source>
+        <translation>デバイスライブラリファイルに %1 の不明な関数 %2 があります</translation>
+    </message>
+    <message>
+        <source>无法加载设备库 %1：%2</source>
+        <translation>デバイスライブラリ %1 を読み込めませんでした: %2</translation>
+    </message>
+    <message>
+        <source>设备库 %1 中没有入口 %2</source>
+        <translation>デバイスライブラリ %1 は %2 をエクスポートしていません</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceList</name>
+    <message>
+        <source>第 %1 行过长</source>
+        <translation>%1 行目が長すぎます</translation>
+    </message>
+    <message>
+        <source>第 %1 行不是UTF-8编码</source>
+        <translation>%1 行目はUTF-8でエンコードされていません</translation>
+    </message>
+    <message>
+        <source>无法打开文件</source>
+        <translation>ファイルを開けませんでした</translation>
+    </message>
+    <message>
+        <source>文件过大</source>
+        <translation>ファイルが大きすぎます</translation>
+    </message>
+    <message>
+        <source>字段比表头多</source>
+        <translation>フィールドの数が列より多いです</translation>
+    </message>
+    <message>
+        <source>字段过长</source>
+        <translation>フィールドが長すぎます</translation>
+    </message>
+    <message>
+        <source>字段内有控制字符</source>
+        <translation>フィールドに制御文字が含まれています</translation>
+    </message>
+    <message>
+        <source>不支持的添加模式</source>
+        <translation>不明な追加モード</translation>
+    </message>
+    <message>
+        <source>设备地址无效</source>
+        <translation>デバイスアドレスが無効です</translation>
+    </message>
+    <message>
+        <source>设备端口无效</source>
+        <translation>デバイスポートが無効です</translation>
+    </message>
+    <message>
+        <source>缺少用户名或密码</source>
+        <translation>ユーザー名またはパスワードがありません</translation>
+    </message>
+    <message>
+        <source>第 %1 行与第 %2 行的MAC地址相同：%3</source>
+        <translation>%1 行目と %2 行目のMACアドレスが同じです: %3</translation>
+    </message>
+    <message>
+        <source>文件内的设备超过 %1 台</source>
+        <translation>ファイルのデバイスが %1 台を超えています</translation>
+    </message>
+    <message>
+        <source>文件内没有设备列表的表头</source>
+        <translation>ファイルにデバイス一覧の見出し行がありません</translation>
+    </message>
+    <message>
+        <source>无法读取工作簿</source>
+        <translation>スプレッドシートを読み込めませんでした</translation>
+    </message>
+    <message>
+        <source>根元素不是 deviceList：%1</source>
+        <translation>ルート要素が deviceList ではありません: %1</translation>
+    </message>
+    <message>
+        <source>第 %1 行不是有效的XML</source>
+        <translation>%1 行目は有効なXMLではありません</translation>
+    </message>
+    <message>
+        <source>不支持的编码：%1</source>
+        <translation>エンコーディング %1 には対応していません</translation>
+    </message>
+    <message>
+        <source>表格超过 %1 行</source>
+        <translation>シートが %1 行を超えています</translation>
+    </message>
+    <message>
+        <source>字符 %1 在此格式中无法读回</source>
+        <translation>文字 %1 はこの形式から読み戻せません</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceMenu</name>
+    <message>
+        <source>只勾选同类型设备（%1）</source>
+        <translation>同じ種類のみ選択(%1)</translation>
+    </message>
+    <message>
+        <source>只勾选同型号设备（%1）</source>
+        <translation>同じ型番のみ選択(%1)</translation>
+    </message>
+    <message>
+        <source>详情</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>打开设备网页</source>
+        <translation>Webページを開く</translation>
+    </message>
+    <message>
+        <source>查看实时画面</source>
+        <translation>ライブビューを開く</translation>
+    </message>
+    <message>
+        <source>复制地址</source>
+        <translation>アドレスをコピー</translation>
+    </message>
+    <message>
+        <source>复制MAC</source>
+        <translation>MACをコピー</translation>
+    </message>
+    <message>
+        <source>复制整行</source>
+        <translation>行をコピー</translation>
+    </message>
+    <message>
+        <source>添加到收藏夹</source>
+        <translation>お気に入りに追加</translation>
+    </message>
+    <message>
+        <source>重试</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>备注…</source>
+        <translation>備考…</translation>
+    </message>
+    <message numerus="yes">
+        <source>选择勾选的 %n 台设备的账号…</source>
+        <translation>
+            <numerusform>選択した %n 台のアカウントを選択…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>选择账号…</source>
+        <translation>アカウントを選択…</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceNotes</name>
+    <message>
+        <source>备注文件 %1 无法读取：%2</source>
+        <translation>備考ファイル %1 を読み込めません: %2</translation>
+    </message>
+    <message>
+        <source>备注文件 %1 已损坏，部分备注可能丢失。下次保存备注时，该文件会改名保留。</source>
+        <translation>備考ファイル %1 が破損しています。一部の備考が失われた可能性があります。次に備考を保存するとき、このファイルは別の名前で保管されます。</translation>
+    </message>
+    <message>
+        <source>设备没有报告MAC或UUID，不能添加备注</source>
+        <translation>デバイスがMACアドレスもUUIDも通知しないため、備考を付けられません</translation>
+    </message>
+    <message>
+        <source>备注最多 %1 个字符</source>
+        <translation>備考は %1 文字までです</translation>
+    </message>
+    <message>
+        <source>最多可以保存 %1 条备注</source>
+        <translation>保存できる備考は %1 件までです</translation>
+    </message>
+    <message>
+        <source>备注无法保存：%1</source>
+        <translation>備考を保存できません: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceRow</name>
+    <message>
+        <source>Other</source>
+        <translation>その他</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceSearch</name>
+    <message>
+        <source>本地网段</source>
+        <translation>ローカルネットワーク</translation>
+    </message>
+    <message>
+        <source>本地网段（%1）</source>
+        <translation>ローカルネットワーク(%1)</translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>搜索设备</source>
+        <translation>デバイスの検索</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceState</name>
+    <message>
+        <source>未选择设备</source>
+        <translation>デバイスが選択されていません</translation>
+    </message>
+    <message>
+        <source>已登录</source>
+        <translation>ログイン済み</translation>
+    </message>
+    <message>
+        <source>登录失败：%1</source>
+        <translation>ログイン失敗: %1</translation>
+    </message>
+    <message>
+        <source>未登录</source>
+        <translation>未ログイン</translation>
+    </message>
+    <message>
+        <source>连接已断开</source>
+        <translation>接続が切れました</translation>
+    </message>
+    <message>
+        <source>正在升级</source>
+        <translation>アップグレード中</translation>
+    </message>
+</context>
+<context>
+    <name>EncodeBitRate</name>
+    <message>
+        <source>自定义码流值</source>
+        <translation>カスタムビットレート</translation>
+    </message>
+</context>
+<context>
+    <name>EncodeConfig</name>
+    <message>
+        <source>主码流编码视频格式属性</source>
+        <translation>メインストリーム: 映像形式</translation>
+    </message>
+    <message>
+        <source>主码流编码视频格式profile</source>
+        <translation>メインストリーム: 映像プロファイル</translation>
+    </message>
+    <message>
+        <source>主码流编码音频压缩格式</source>
+        <translation>メインストリーム: 音声圧縮</translation>
+    </message>
+    <message>
+        <source>主码流编码音频格式</source>
+        <translation>メインストリーム: 音声形式</translation>
+    </message>
+    <message>
+        <source>辅码流编码视频格式属性</source>
+        <translation>サブストリーム: 映像形式</translation>
+    </message>
+    <message>
+        <source>辅码流编码视频格式profile</source>
+        <translation>サブストリーム: 映像プロファイル</translation>
+    </message>
+    <message>
+        <source>辅码流编码音频压缩格式</source>
+        <translation>サブストリーム: 音声圧縮</translation>
+    </message>
+    <message>
+        <source>辅码流编码音频格式配置</source>
+        <translation>サブストリーム: 音声形式</translation>
+    </message>
+    <message>
+        <source>%1（没有读到，未写入）</source>
+        <translation>%1(読み込めないため書き込みなし)</translation>
+    </message>
+</context>
+<context>
+    <name>EncodeCopies</name>
+    <message>
+        <source>未复制：%1</source>
+        <translation>コピーされませんでした: %1</translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>EncodeCopy</name>
+    <message>
+        <source>辅码流编码模式</source>
+        <translation>サブストリームの圧縮方式</translation>
+    </message>
+    <message>
+        <source>主码流编码模式</source>
+        <translation>メインストリームの圧縮方式</translation>
+    </message>
+    <message>
+        <source>辅码流分辨率</source>
+        <translation>サブストリームの解像度</translation>
+    </message>
+    <message>
+        <source>主码流分辨率</source>
+        <translation>メインストリームの解像度</translation>
+    </message>
+    <message>
+        <source>辅码流码率</source>
+        <translation>サブストリームのビットレート</translation>
+    </message>
+    <message>
+        <source>主码流码率</source>
+        <translation>メインストリームのビットレート</translation>
+    </message>
+    <message>
+        <source>辅码流码率控制</source>
+        <translation>サブストリームのビットレート制御</translation>
+    </message>
+    <message>
+        <source>主码流码率控制</source>
+        <translation>メインストリームのビットレート制御</translation>
+    </message>
+    <message>
+        <source>辅码流帧率</source>
+        <translation>サブストリームのフレームレート</translation>
+    </message>
+    <message>
+        <source>主码流帧率</source>
+        <translation>メインストリームのフレームレート</translation>
+    </message>
+    <message>
+        <source>辅码流音频编码</source>
+        <translation>サブストリームの音声</translation>
+    </message>
+    <message>
+        <source>主码流音频编码</source>
+        <translation>メインストリームの音声</translation>
+    </message>
+</context>
+<context>
+    <name>EncodeForm</name>
+    <message>
+        <source>设备没有应答</source>
+        <translation>デバイスから応答がありません</translation>
+    </message>
+    <message>
+        <source>设备不支持此操作</source>
+        <translation>デバイスはこの操作に対応していません</translation>
+    </message>
+    <message>
+        <source>设备正忙</source>
+        <translation>デバイスはビジーです</translation>
+    </message>
+    <message>
+        <source>设备拒绝了此操作（错误 %1）</source>
+        <translation>デバイスが要求を拒否しました(エラー %1)</translation>
+    </message>
+</context>
+<context>
+    <name>EncodePanel</name>
+    <message>
+        <source>、</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>设备的配置无法识别，显示的内容可能不完整</source>
+        <translation>デバイスの設定が有効ではありません。一部の値が表示されない可能性があります。</translation>
+    </message>
+    <message>
+        <source>设备没有告知它的编码能力，部分选项为空</source>
+        <translation>デバイスがエンコード機能を通知していません。一部の値が表示されない可能性があります。</translation>
+    </message>
+    <message>
+        <source>通道</source>
+        <translation>チャンネル</translation>
+    </message>
+    <message>
+        <source>主码流</source>
+        <translation>メインストリーム</translation>
+    </message>
+    <message>
+        <source>辅码流</source>
+        <translation>サブストリーム</translation>
+    </message>
+    <message>
+        <source>没有读到通道 %1 的编码配置</source>
+        <translation>チャンネル %1 のエンコード設定を読み込めませんでした</translation>
+    </message>
+    <message numerus="yes">
+        <source>有未保存的修改：%n 项</source>
+        <translation>
+            <numerusform>未保存の変更 %n 件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>复制到 %n 台设备</source>
+        <translation>
+            <numerusform>%n 台のデバイスにコピー</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>复制到选中的设备</source>
+        <translation>選択したデバイスにコピー</translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>与设备的连接已断开</source>
+        <translation>接続が切れました</translation>
+    </message>
+    <message>
+        <source>没有保存：%1</source>
+        <translation>保存されませんでした: %1</translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>设备正在升级，不能保存修改</source>
+        <translation>デバイスはアップグレード中です。終了後に保存してください。</translation>
+    </message>
+    <message>
+        <source>与设备的连接已断开，请刷新重试。</source>
+        <translation>接続が切れました。「更新」で再試行してください。</translation>
+    </message>
+    <message>
+        <source>%1，或者这个通道没有连接。请选择其他通道，或刷新重试。</source>
+        <translation>%1、またはチャンネルが接続されていません。別のチャンネルを選択するか、「更新」を押してください。</translation>
+    </message>
+    <message>
+        <source>没有读到：%1，保存时不写入</source>
+        <translation>読み込めませんでした: %1。保存しても変更されません。</translation>
+    </message>
+</context>
+<context>
+    <name>EncodeStream</name>
+    <message>
+        <source>码流类型</source>
+        <translation>ストリームの種類</translation>
+    </message>
+    <message>
+        <source>启用辅码流</source>
+        <translation>サブストリームを有効にする</translation>
+    </message>
+    <message>
+        <source>启用</source>
+        <translation>有効</translation>
+    </message>
+    <message>
+        <source>编码模式</source>
+        <translation>圧縮方式</translation>
+    </message>
+    <message>
+        <source>分辨率</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
+        <source>码流控制</source>
+        <translation>ビットレート制御</translation>
+    </message>
+    <message>
+        <source>固定码流</source>
+        <translation>固定(CBR)</translation>
+    </message>
+    <message>
+        <source>可变码流</source>
+        <translation>可変(VBR)</translation>
+    </message>
+    <message>
+        <source>码流值(Kb/S)</source>
+        <translation>ビットレート(kbit/s)</translation>
+    </message>
+    <message>
+        <source>帧率(FPS)</source>
+        <translation>フレームレート(fps)</translation>
+    </message>
+    <message>
+        <source>画质</source>
+        <translation>画質</translation>
+    </message>
+    <message>
+        <source>音频编码</source>
+        <translation>音声</translation>
+    </message>
+    <message>
+        <source>启用音频</source>
+        <translation>音声を有効にする</translation>
+    </message>
+    <message>
+        <source>采样率(Hz)</source>
+        <translation>サンプリング(Hz)</translation>
+    </message>
+</context>
+<context>
+    <name>EncodeValues</name>
+    <message>
+        <source>自定义</source>
+        <translation>カスタム</translation>
+    </message>
+</context>
+<context>
+    <name>EncodeWork</name>
+    <message>
+        <source>正在读取编码配置…</source>
+        <translation>エンコード設定を読み込み中…</translation>
+    </message>
+    <message>
+        <source>正在写入辅码流分辨率…</source>
+        <translation>サブストリームの解像度を書き込み中…</translation>
+    </message>
+    <message>
+        <source>设备的编码模式由主码流决定：主码流已改为 %1</source>
+        <translation>両ストリームの圧縮方式は共通です。メインストリームは %1 になりました</translation>
+    </message>
+    <message>
+        <source>正在保存编码配置…</source>
+        <translation>エンコード設定を保存中…</translation>
+    </message>
+    <message>
+        <source>保存成功</source>
+        <translation>保存しました</translation>
+    </message>
+    <message>
+        <source>保存失败</source>
+        <translation>未保存</translation>
+    </message>
+    <message>
+        <source>读取配置失败：%1</source>
+        <translation>設定を読み込めませんでした: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message>
+        <source>请选择导出的文件格式</source>
+        <translation>ファイル形式を選択してください</translation>
+    </message>
+    <message>
+        <source>文件中的密码是明文。已保存账号的密码不导出。</source>
+        <translation>ファイル内のパスワードは平文です。保存済みアカウントのパスワードはエクスポートされません。</translation>
+    </message>
+</context>
+<context>
+    <name>FailedMarks</name>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>最近一次搜索没有找到该设备</source>
+        <translation>前回の検索で見つかりませんでした</translation>
+    </message>
+</context>
+<context>
+    <name>FavouriteNoteCell</name>
+    <message>
+        <source>编辑备注</source>
+        <translation>備考を編集</translation>
+    </message>
+    <message>
+        <source>备注</source>
+        <translation>備考</translation>
+    </message>
+</context>
+<context>
+    <name>FavouriteTable</name>
+    <message>
+        <source>No.</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>IP / P2P ID</source>
+        <translation>IP / P2P ID</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>ポート</translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>ユーザー名</translation>
+    </message>
+    <message>
+        <source>备注</source>
+        <translation>備考</translation>
+    </message>
+    <message>
+        <source>添加结果</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>从收藏夹中删除</source>
+        <translation>このデバイスをお気に入りから削除します</translation>
+    </message>
+</context>
+<context>
+    <name>FirstPasswordDialog</name>
+    <message>
+        <source>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</source>
+        <translation>数字、英字、記号のうち2種類以上を使用し、使用できない文字は含めないでください。</translation>
+    </message>
+    <message>
+        <source>请输入用户名</source>
+        <translation>ユーザー名を入力してください</translation>
+    </message>
+    <message>
+        <source>请输入密码</source>
+        <translation>パスワードを入力してください</translation>
+    </message>
+    <message>
+        <source>请确认密码</source>
+        <translation>パスワードを再入力してください</translation>
+    </message>
+    <message>
+        <source>请输入相同的密码</source>
+        <translation>パスワードが一致しません</translation>
+    </message>
+    <message>
+        <source>密码长度应当在8到32个字符范围内</source>
+        <translation>パスワードは8~32文字で入力してください</translation>
+    </message>
+    <message>
+        <source>初始化设置</source>
+        <translation>初期化</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n台未初始化设备</source>
+        <translation>
+            <numerusform>初期化するデバイス %n 台</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>ユーザー名</translation>
+    </message>
+    <message>
+        <source>新密码</source>
+        <translation>新しいパスワード</translation>
+    </message>
+    <message>
+        <source>确认密码</source>
+        <translation>確認</translation>
+    </message>
+    <message>
+        <source>密码8~32位,且至少包含数字、字母和常用字符中的两种(字符为除</source>
+        <translation>8~32文字。数字、英字、記号のうち2種類以上(使用できる記号は表示可能な文字、ただし次を除く: </translation>
+    </message>
+    <message>
+        <source>这五个字符以外的任意可见字符)</source>
+        <translation>)</translation>
+    </message>
+    <message>
+        <source>设定新密码后,请在“搜索设置”中设置新密码</source>
+        <translation>設定後、検索設定にも新しいパスワードを入力してください。</translation>
+    </message>
+    <message>
+        <source>成功后</source>
+        <translation>成功後</translation>
+    </message>
+</context>
+<context>
+    <name>FoundDevices</name>
+    <message>
+        <source>没有该设备的搜索应答，或应答中既没有MAC地址也没有UUID</source>
+        <translation>デバイスが検索で見つからなかったか、MACアドレスもUUIDも通知していません</translation>
+    </message>
+    <message>
+        <source>已停止等待设备，地址可能已修改</source>
+        <translation>デバイスの待機を停止しました。アドレスが変わった可能性があります</translation>
+    </message>
+    <message>
+        <source>超过时间限制，地址可能已修改</source>
+        <translation>制限時間を超えました。アドレスが変わった可能性があります</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryBar</name>
+    <message>
+        <source>连续多台设备密码错误，继续可能锁定账户。是否继续？</source>
+        <translation>複数のデバイスが続けてパスワードを拒否しました。続行するとアカウントがロックされる可能性があります。</translation>
+    </message>
+    <message>
+        <source>正在停止…</source>
+        <translation>停止中…</translation>
+    </message>
+    <message>
+        <source>正在获取图像 %1 / %2</source>
+        <translation>画像を取得中: %1 / %2 台</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 幅图像</source>
+        <translation>
+            <numerusform>画像 %n 枚</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 幅失败</source>
+        <translation>
+            <numerusform>%n 件失敗</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>另有 %n 台设备未显示</source>
+        <translation>
+            <numerusform>ほかに %n 台のデバイスが表示されていません</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>继续</source>
+        <translation>続行</translation>
+    </message>
+    <message>
+        <source>打开文件夹</source>
+        <translation>フォルダーを開く</translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>全部重新获取</source>
+        <translation>すべて再取得</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请等待其完成</source>
+        <translation>「%1」を実行中です。終了するまでお待ちください。</translation>
+    </message>
+    <message>
+        <source>重新获取所有图像（F5）</source>
+        <translation>すべての画像を再取得(F5)</translation>
+    </message>
+    <message>
+        <source>全部保存</source>
+        <translation>すべて保存</translation>
+    </message>
+    <message>
+        <source>把所有图像写入抓图文件夹（Ctrl+S）</source>
+        <translation>すべての画像をスナップショットのフォルダーに書き込む(Ctrl+S)</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryCell</name>
+    <message>
+        <source>正在获取…</source>
+        <translation>取得中…</translation>
+    </message>
+    <message>
+        <source>等待中</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>重新获取（R）</source>
+        <translation>再取得(R)</translation>
+    </message>
+    <message>
+        <source>失败</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>获取中</source>
+        <translation>取得中</translation>
+    </message>
+    <message>
+        <source>已跳过</source>
+        <translation>スキップ</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryWindow</name>
+    <message>
+        <source>设备图像</source>
+        <translation>デバイスの画像</translation>
+    </message>
+    <message>
+        <source>已保存 %1 幅图像到 %2</source>
+        <translation>画像 %1 枚を %2 に保存しました</translation>
+    </message>
+    <message>
+        <source>已保存 %1 幅图像到 %2，%3 幅无法写入：%4</source>
+        <translation>画像 %1 枚を %2 に保存しました。%3 枚は書き込めませんでした: %4</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备</source>
+        <translation>
+            <numerusform>デバイス %n 台</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>无法打开文件夹：%1</source>
+        <translation>フォルダーを開けませんでした: %1</translation>
+    </message>
+    <message>
+        <source>请在设备列表中勾选设备</source>
+        <translation>デバイス一覧でデバイスを選択してください</translation>
+    </message>
+    <message>
+        <source>没有设备</source>
+        <translation>デバイスなし</translation>
+    </message>
+</context>
+<context>
+    <name>ImageExposureGroups</name>
+    <message>
+        <source>曝光</source>
+        <translation>露出</translation>
+    </message>
+    <message>
+        <source>防闪烁</source>
+        <translation>フリッカー低減</translation>
+    </message>
+    <message>
+        <source>曝光模式</source>
+        <translation>露出モード</translation>
+    </message>
+    <message>
+        <source>增益</source>
+        <translation>ゲイン</translation>
+    </message>
+    <message>
+        <source>增益范围</source>
+        <translation>ゲイン範囲</translation>
+    </message>
+    <message>
+        <source>最小增益</source>
+        <translation>最小ゲイン</translation>
+    </message>
+    <message>
+        <source>最大增益</source>
+        <translation>最大ゲイン</translation>
+    </message>
+    <message>
+        <source>曝光补偿</source>
+        <translation>露出補正</translation>
+    </message>
+    <message>
+        <source>自动光圈</source>
+        <translation>オートアイリス</translation>
+    </message>
+    <message>
+        <source>3D降噪</source>
+        <translation>3Dノイズリダクション</translation>
+    </message>
+    <message>
+        <source>降噪等级</source>
+        <translation>レベル</translation>
+    </message>
+    <message>
+        <source>背光</source>
+        <translation>逆光</translation>
+    </message>
+    <message>
+        <source>背光模式</source>
+        <translation>逆光モード</translation>
+    </message>
+    <message>
+        <source>整个画面</source>
+        <translation>画面全体</translation>
+    </message>
+    <message>
+        <source>自定义区域</source>
+        <translation>カスタム領域</translation>
+    </message>
+    <message>
+        <source>补偿区域</source>
+        <translation>補正領域</translation>
+    </message>
+    <message>
+        <source>宽动态</source>
+        <translation>ワイドダイナミックレンジ</translation>
+    </message>
+    <message>
+        <source>强光抑制</source>
+        <translation>ハイライト補正</translation>
+    </message>
+    <message>
+        <source>白平衡</source>
+        <translation>ホワイトバランス</translation>
+    </message>
+    <message>
+        <source>白平衡模式</source>
+        <translation>モード</translation>
+    </message>
+    <message>
+        <source>蓝增益</source>
+        <translation>青ゲイン</translation>
+    </message>
+    <message>
+        <source>红增益</source>
+        <translation>赤ゲイン</translation>
+    </message>
+</context>
+<context>
+    <name>ImageGroup</name>
+    <message>
+        <source>没有读到这一组设置，不能修改。请刷新重试。</source>
+        <translation>この設定を読み込めませんでした。「更新」で再試行してください。</translation>
+    </message>
+</context>
+<context>
+    <name>ImageLightGroups</name>
+    <message>
+        <source>远近光</source>
+        <translation>近距離・遠距離照明</translation>
+    </message>
+    <message>
+        <source>近光</source>
+        <translation>近距離</translation>
+    </message>
+    <message>
+        <source>远光</source>
+        <translation>遠距離</translation>
+    </message>
+    <message>
+        <source>日夜转换</source>
+        <translation>デイ/ナイト切替</translation>
+    </message>
+    <message>
+        <source>模式</source>
+        <translation>モード</translation>
+    </message>
+    <message>
+        <source>低</source>
+        <translation>低</translation>
+    </message>
+    <message>
+        <source>中</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>高</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>灵敏度</source>
+        <translation>感度</translation>
+    </message>
+    <message>
+        <source>%1秒</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>切换延时</source>
+        <translation>切替遅延</translation>
+    </message>
+    <message>
+        <source>补光灯</source>
+        <translation>照明</translation>
+    </message>
+    <message>
+        <source>灯光</source>
+        <translation>照明</translation>
+    </message>
+    <message>
+        <source>近光亮度</source>
+        <translation>近距離照明の明るさ</translation>
+    </message>
+    <message>
+        <source>远光亮度</source>
+        <translation>遠距離照明の明るさ</translation>
+    </message>
+    <message>
+        <source>灯光校正</source>
+        <translation>補正</translation>
+    </message>
+    <message>
+        <source>混合补光</source>
+        <translation>赤外線と白色光</translation>
+    </message>
+    <message>
+        <source>补光方式</source>
+        <translation>光の種類</translation>
+    </message>
+    <message>
+        <source>亮度</source>
+        <translation>明るさ</translation>
+    </message>
+    <message>
+        <source>延时(秒)</source>
+        <translation>遅延(秒)</translation>
+    </message>
+</context>
+<context>
+    <name>ImagePanel</name>
+    <message>
+        <source>画面</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>曝光与白平衡</source>
+        <translation>露出とホワイトバランス</translation>
+    </message>
+    <message>
+        <source>日夜与补光</source>
+        <translation>デイ/ナイトと照明</translation>
+    </message>
+    <message>
+        <source>摄像机没有告知这方面的设置。</source>
+        <translation>カメラはこれらの設定を通知していません。</translation>
+    </message>
+    <message>
+        <source>没有可调的项目</source>
+        <translation>設定項目なし</translation>
+    </message>
+</context>
+<context>
+    <name>ImagePictureGroups</name>
+    <message>
+        <source>图像</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>柔和</source>
+        <translation>ソフト</translation>
+    </message>
+    <message>
+        <source>标准</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>艳丽</source>
+        <translation>鮮やか</translation>
+    </message>
+    <message>
+        <source>风格</source>
+        <translation>スタイル</translation>
+    </message>
+    <message>
+        <source>亮度</source>
+        <translation>明るさ</translation>
+    </message>
+    <message>
+        <source>对比度</source>
+        <translation>コントラスト</translation>
+    </message>
+    <message>
+        <source>饱和度</source>
+        <translation>彩度</translation>
+    </message>
+    <message>
+        <source>色调</source>
+        <translation>色相</translation>
+    </message>
+    <message>
+        <source>伽马</source>
+        <translation>ガンマ</translation>
+    </message>
+    <message>
+        <source>锐度</source>
+        <translation>シャープネス</translation>
+    </message>
+    <message>
+        <source>镜像与旋转</source>
+        <translation>ミラーと回転</translation>
+    </message>
+    <message>
+        <source>镜像</source>
+        <translation>ミラー</translation>
+    </message>
+    <message>
+        <source>正常视角</source>
+        <translation>通常表示</translation>
+    </message>
+    <message>
+        <source>走廊模式1</source>
+        <translation>廊下モード1</translation>
+    </message>
+    <message>
+        <source>走廊模式2</source>
+        <translation>廊下モード2</translation>
+    </message>
+    <message>
+        <source>倒影</source>
+        <translation>上下反転</translation>
+    </message>
+    <message>
+        <source>旋转</source>
+        <translation>回転</translation>
+    </message>
+    <message>
+        <source>防抖</source>
+        <translation>手ぶれ補正</translation>
+    </message>
+    <message>
+        <source>电子防抖</source>
+        <translation>電子手ぶれ補正</translation>
+    </message>
+    <message>
+        <source>透雾</source>
+        <translation>霧補正</translation>
+    </message>
+    <message>
+        <source>模式</source>
+        <translation>モード</translation>
+    </message>
+    <message>
+        <source>强度</source>
+        <translation>強度</translation>
+    </message>
+</context>
+<context>
+    <name>ImageRegion</name>
+    <message>
+        <source>左</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>上</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>右</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>下</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>区域(0–8192)</source>
+        <translation>領域(0–8192)</translation>
+    </message>
+    <message>
+        <source>左边不能大于右边</source>
+        <translation>左の値は右の値以下にしてください</translation>
+    </message>
+    <message>
+        <source>上边不能大于下边</source>
+        <translation>上の値は下の値以下にしてください</translation>
+    </message>
+</context>
+<context>
+    <name>ImageShutter</name>
+    <message>
+        <source>快门</source>
+        <translation>シャッター</translation>
+    </message>
+    <message>
+        <source>自定义范围</source>
+        <translation>カスタム範囲</translation>
+    </message>
+    <message>
+        <source>快门范围(ms)</source>
+        <translation>シャッター範囲(ms)</translation>
+    </message>
+    <message>
+        <source>最短快门</source>
+        <translation>最短シャッター</translation>
+    </message>
+    <message>
+        <source>最长快门</source>
+        <translation>最長シャッター</translation>
+    </message>
+    <message>
+        <source>下限不能大于上限</source>
+        <translation>最小値は最大値以下にしてください</translation>
+    </message>
+</context>
+<context>
+    <name>ImageSide</name>
+    <message>
+        <source>通道 %1</source>
+        <translation>チャンネル %1</translation>
+    </message>
+    <message>
+        <source>通道</source>
+        <translation>チャンネル</translation>
+    </message>
+    <message>
+        <source>通道名称</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>配置模式</source>
+        <translation>モード</translation>
+    </message>
+    <message>
+        <source>修改会立即写入设备。</source>
+        <translation>変更はすぐにデバイスに書き込まれます。</translation>
+    </message>
+    <message>
+        <source>刷新</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>恢复默认</source>
+        <translation>既定値に戻す</translation>
+    </message>
+    <message>
+        <source>名称过长，最多 %1 字节</source>
+        <translation>%1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>设备正在升级，不能修改。</source>
+        <translation>デバイスはアップグレード中です。終了後に設定を変更してください。</translation>
+    </message>
+</context>
+<context>
+    <name>ImageWork</name>
+    <message>
+        <source>正在读取图像配置…</source>
+        <translation>画像設定を読み込み中…</translation>
+    </message>
+    <message>
+        <source>正在写入图像配置…</source>
+        <translation>画像設定を書き込み中…</translation>
+    </message>
+    <message>
+        <source>设备没有应答，修改可能没有写入</source>
+        <translation>デバイスから応答がありません。変更が書き込まれていない可能性があります。</translation>
+    </message>
+    <message>
+        <source>没有修改：%1。显示的是设备现有的值</source>
+        <translation>変更されませんでした: %1。デバイスの値を表示しています。</translation>
+    </message>
+</context>
+<context>
+    <name>InitialisationPreview</name>
+    <message>
+        <source>已初始化，不会执行</source>
+        <translation>初期化済み: スキップ</translation>
+    </message>
+    <message>
+        <source>正在升级，不会执行</source>
+        <translation>アップグレード中: スキップ</translation>
+    </message>
+    <message>
+        <source>MAC地址未知，不会执行</source>
+        <translation>MACアドレス不明: スキップ</translation>
+    </message>
+</context>
+<context>
+    <name>InitialiseDialog</name>
+    <message>
+        <source>初始化</source>
+        <translation>初期化</translation>
+    </message>
+    <message>
+        <source>初始化设置</source>
+        <translation>初期化</translation>
+    </message>
+    <message>
+        <source>请选择一台未初始化的设备</source>
+        <translation>未初期化のデバイスを選択してください</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>型番</translation>
+    </message>
+    <message>
+        <source>IP:端口</source>
+        <translation>IP:ポート</translation>
+    </message>
+    <message>
+        <source>版本号</source>
+        <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>列表只显示本局域网设备,初始化不支持跨局域网</source>
+        <translation>このLANのデバイスのみ表示されます。ほかのLANのデバイスは初期化できません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>另有 %n 台不会执行，请查看提示</source>
+        <extracomment>Ticked devices that are not initialised.</extracomment>
+        <translation>
+            <numerusform>ほか %n 台をスキップ:「注記」を参照</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>注記</translation>
+    </message>
+</context>
+<context>
+    <name>LiveChannelList</name>
+    <message>
+        <source>通道列表</source>
+        <extracomment>Heads a list of the channels of a device.</extracomment>
+        <translation>チャンネル</translation>
+    </message>
+    <message>
+        <source>未连接</source>
+        <translation>未接続</translation>
+    </message>
+    <message>
+        <source>从画面中移除（Delete）</source>
+        <translation>画面から外す(Delete)</translation>
+    </message>
+</context>
+<context>
+    <name>LiveChannels</name>
+    <message>
+        <source>通道 %1</source>
+        <translation>チャンネル %1</translation>
+    </message>
+</context>
+<context>
+    <name>LiveCompanion</name>
+    <message>
+        <source>正在登录…</source>
+        <translation>ログイン中…</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1，%n 秒后重试</source>
+        <translation>
+            <numerusform>%1。%n 秒後に再試行</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>重新登录</source>
+        <translation>再ログイン</translation>
+    </message>
+    <message>
+        <source>重试</source>
+        <translation>再試行</translation>
+    </message>
+</context>
+<context>
+    <name>LiveFigures</name>
+    <message>
+        <source>%1 帧/秒   %2 kbit/s</source>
+        <translation>%1 fps   %2 kbit/s</translation>
+    </message>
+    <message>
+        <source>待解码 %1 KB</source>
+        <extracomment>Data of a live stream that is waiting to be decoded.</extracomment>
+        <translation>バッファー %1 KB</translation>
+    </message>
+    <message>
+        <source>音频 %1</source>
+        <translation>音声 %1</translation>
+    </message>
+    <message>
+        <source>跳过 %1 帧</source>
+        <translation>%1 フレームをスキップ</translation>
+    </message>
+</context>
+<context>
+    <name>LiveTitleBar</name>
+    <message>
+        <source>实时画面</source>
+        <translation>ライブビュー</translation>
+    </message>
+    <message>
+        <source>向下还原</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>最大化</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>上一台设备（PgUp）</source>
+        <translation>前のデバイス(PgUp)</translation>
+    </message>
+    <message>
+        <source>下一台设备（PgDn）</source>
+        <translation>次のデバイス(PgDn)</translation>
+    </message>
+</context>
+<context>
+    <name>LiveToolBar</name>
+    <message>
+        <source>1 画面</source>
+        <translation>1画面</translation>
+    </message>
+    <message>
+        <source>4 画面</source>
+        <translation>4画面</translation>
+    </message>
+    <message>
+        <source>9 画面</source>
+        <translation>9画面</translation>
+    </message>
+    <message>
+        <source>上一页通道</source>
+        <translation>前のチャンネル</translation>
+    </message>
+    <message>
+        <source>下一页通道</source>
+        <translation>次のチャンネル</translation>
+    </message>
+    <message>
+        <source>关闭声音</source>
+        <translation>ミュート</translation>
+    </message>
+    <message>
+        <source>打开声音</source>
+        <translation>ミュート解除</translation>
+    </message>
+    <message>
+        <source>保持画面比例</source>
+        <translation>縦横比を維持</translation>
+    </message>
+    <message>
+        <source>拉伸铺满</source>
+        <translation>画面に合わせて拡大</translation>
+    </message>
+    <message>
+        <source>隐藏码流信息</source>
+        <translation>ストリーム情報を隠す</translation>
+    </message>
+    <message>
+        <source>显示码流信息</source>
+        <translation>ストリーム情報を表示</translation>
+    </message>
+    <message>
+        <source>正在抓图…</source>
+        <translation>スナップショットを撮影中…</translation>
+    </message>
+    <message>
+        <source>抓取当前通道</source>
+        <translation>選択したチャンネルのスナップショット</translation>
+    </message>
+    <message>
+        <source>抓取全部通道</source>
+        <translation>全チャンネルのスナップショット</translation>
+    </message>
+    <message>
+        <source>退出全屏</source>
+        <translation>全画面表示を終了</translation>
+    </message>
+    <message>
+        <source>全屏</source>
+        <translation>全画面表示</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请等待其完成</source>
+        <translation>「%1」を実行中です。終了するまでお待ちください。</translation>
+    </message>
+    <message>
+        <source>画面中已有足够多的设备</source>
+        <translation>これ以上デバイスを追加できません</translation>
+    </message>
+    <message>
+        <source>请先在设备列表中勾选要一起查看的设备</source>
+        <translation>先にデバイス一覧で追加するデバイスを選択してください</translation>
+    </message>
+    <message>
+        <source>把列表中勾选的设备的通道加入画面（A）</source>
+        <translation>一覧で選択したデバイスのチャンネルを追加(A)</translation>
+    </message>
+    <message>
+        <source>加入勾选的设备（%1）</source>
+        <translation>選択したデバイスを追加(%1)</translation>
+    </message>
+    <message>
+        <source>加入勾选的设备</source>
+        <translation>選択したデバイスを追加</translation>
+    </message>
+</context>
+<context>
+    <name>LiveWindow</name>
+    <message>
+        <source>已登录另一台设备，实时画面已关闭</source>
+        <translation>別のデバイスにログインしたため、ライブビューを閉じました</translation>
+    </message>
+    <message>
+        <source>重新登录</source>
+        <translation>再ログイン</translation>
+    </message>
+    <message>
+        <source>重试</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>正在登录…</source>
+        <translation>ログイン中…</translation>
+    </message>
+    <message>
+        <source>没有通道</source>
+        <translation>チャンネルなし</translation>
+    </message>
+    <message>
+        <source>登录失败</source>
+        <translation>ログイン失敗</translation>
+    </message>
+    <message>
+        <source>无法打开文件夹：%1</source>
+        <translation>フォルダーを開けませんでした: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1，%n 秒后重试</source>
+        <translation>
+            <numerusform>%1。%n 秒後に再試行</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>抓图</source>
+        <translation>スナップショット</translation>
+    </message>
+    <message>
+        <source>勾选的设备都已在画面中</source>
+        <translation>選択したデバイスはすべて表示されています</translation>
+    </message>
+    <message>
+        <source>最多加入 %1 台设备，其余 %2 台没有加入</source>
+        <translation>追加できるデバイスは %1 台までです。%2 台は追加されませんでした。</translation>
+    </message>
+    <message>
+        <source>设备已移出画面</source>
+        <translation>デバイスは画面から外されました</translation>
+    </message>
+</context>
+<context>
+    <name>LoginMemory</name>
+    <message>
+        <source>%1 没有应答</source>
+        <translation>%1 から応答がありません</translation>
+    </message>
+</context>
+<context>
+    <name>MainMenu</name>
+    <message>
+        <source>帮助</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>语言</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>QA</source>
+        <translation>よくある質問</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>バージョン情報</translation>
+    </message>
+    <message>
+        <source>账号管理</source>
+        <translation>アカウント管理</translation>
+    </message>
+    <message>
+        <source>外观</source>
+        <translation>外観</translation>
+    </message>
+    <message>
+        <source>跟随系统</source>
+        <translation>システムに合わせる</translation>
+    </message>
+    <message>
+        <source>浅色</source>
+        <translation>ライト</translation>
+    </message>
+    <message>
+        <source>深色</source>
+        <translation>ダーク</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>修改IP</source>
+        <translation>IP変更</translation>
+    </message>
+    <message>
+        <source>设备升级</source>
+        <translation>デバイスアップグレード</translation>
+    </message>
+    <message>
+        <source>设备配置</source>
+        <translation>デバイス設定</translation>
+    </message>
+    <message>
+        <source>系统配置</source>
+        <translation>システム設定</translation>
+    </message>
+    <message>
+        <source>CGI协议</source>
+        <translation>CGIプロトコル</translation>
+    </message>
+    <message>
+        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>設定を保存できませんでした。プログラムフォルダーへの書き込み権限を確認してください。</translation>
+    </message>
+    <message>
+        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
+        <translation>%1 台を超えるデバイスが応答しました。残りの %2 件の応答は表示されません。検索範囲を狭めてください。</translation>
+    </message>
+    <message>
+        <source>演示站点</source>
+        <extracomment>In the title bar. %1 is a user name and a password.</extracomment>
+        <translation>デモサイト</translation>
+    </message>
+    <message>
+        <source>演示站点：%1</source>
+        <translation>デモサイト: %1</translation>
+    </message>
+    <message>
+        <source>模拟设备，不连接网络。账号为登录设备的用户名和密码；新设备须先初始化。</source>
+        <translation>模擬デバイスです。ネットワークには接続しません。デバイスへのログインに使うユーザー名とパスワードです。新しいデバイスは先に初期化が必要です。</translation>
+    </message>
+    <message>
+        <source>打开演示站点</source>
+        <translation>デモサイトを開く</translation>
+    </message>
+    <message>
+        <source>未安装设备库，无法与设备通信</source>
+        <translation>デバイスライブラリがインストールされていないため、デバイスに接続できません</translation>
+    </message>
+    <message>
+        <source>正在用系统的PDF程序打开 %1</source>
+        <translation>システムのPDFプログラムで %1 を開いています</translation>
+    </message>
+    <message>
+        <source>无法打开 %1</source>
+        <translation>%1 を開けません</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPActions</name>
+    <message>
+        <source>编辑</source>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>修改这台设备的IP地址</source>
+        <translation>このデバイスのIPアドレスを変更します</translation>
+    </message>
+    <message>
+        <source>详情</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>显示这台设备的全部信息</source>
+        <translation>このデバイスのすべての情報を表示します</translation>
+    </message>
+    <message>
+        <source>在浏览器中打开设备网页</source>
+        <translation>このデバイスのWebページをブラウザーで開きます</translation>
+    </message>
+    <message>
+        <source>查看实时画面</source>
+        <translation>このデバイスのライブビューを開きます</translation>
+    </message>
+    <message>
+        <source>未初始化的设备没有实时画面</source>
+        <translation>先にデバイスを初期化してください</translation>
+    </message>
+    <message>
+        <source>设备正在升级，不能修改IP地址</source>
+        <translation>デバイスはアップグレード中です。終了後にアドレスを変更してください。</translation>
+    </message>
+    <message>
+        <source>web</source>
+        <translation>Web</translation>
+    </message>
+    <message>
+        <source>live</source>
+        <translation>ライブ</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPAdding</name>
+    <message>
+        <source>设备已添加，但无法保存到收藏夹，请检查程序所在文件夹的写入权限</source>
+        <translation>デバイスを追加しましたが、お気に入りに保存できませんでした。プログラムフォルダーへの書き込み権限を確認してください。</translation>
+    </message>
+    <message>
+        <source>设备已添加，并保存到收藏夹</source>
+        <translation>デバイスを追加し、お気に入りに保存しました</translation>
+    </message>
+    <message>
+        <source>设备已添加</source>
+        <translation>デバイスを追加しました</translation>
+    </message>
+    <message>
+        <source>手动添加</source>
+        <translation>デバイスの追加</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPBatches</name>
+    <message>
+        <source>请选择一台未初始化的设备</source>
+        <translation>未初期化のデバイスを選択してください</translation>
+    </message>
+    <message>
+        <source>请选择一台设备</source>
+        <translation>デバイスを選択してください</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备未成功，请查看修改结果</source>
+        <extracomment>Devices of a batch that failed.</extracomment>
+        <translation>
+            <numerusform>%n 台のデバイスで失敗:「結果」を参照</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>设备正在升级，不能修改IP地址</source>
+        <translation>デバイスはアップグレード中です。終了後にアドレスを変更してください。</translation>
+    </message>
+    <message>
+        <source>初始化</source>
+        <translation>初期化</translation>
+    </message>
+    <message>
+        <source>修改IP地址</source>
+        <translation>IPアドレスの変更</translation>
+    </message>
+    <message numerus="yes">
+        <source>已修改 %n 台设备的IP地址</source>
+        <translation>
+            <numerusform>%n 台のデバイスのアドレスを変更しました</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>已初始化 %n 台设备</source>
+        <translation>
+            <numerusform>%n 台のデバイスを初期化しました</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>已停止：%1</source>
+        <translation>停止しました: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPDevices</name>
+    <message>
+        <source>请选择一台设备</source>
+        <translation>デバイスを選択してください</translation>
+    </message>
+    <message numerus="yes">
+        <source>请确认是否要删除</source>
+        <translation>
+            <numerusform>%n 台のデバイスを一覧から削除しますか?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备正在升级，没有删除</source>
+        <translation>
+            <numerusform>%n 台のデバイスはアップグレード中のため削除されませんでした</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>删除设备</source>
+        <translation>デバイスの削除</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPDialog</name>
+    <message>
+        <source>请输入正确的起始IP</source>
+        <translation>正しいIPアドレスを入力してください</translation>
+    </message>
+    <message>
+        <source>请输入正确的子网掩码</source>
+        <translation>正しいサブネットマスクを入力してください</translation>
+    </message>
+    <message>
+        <source>请输入正确的网关</source>
+        <translation>正しいゲートウェイアドレスを入力してください</translation>
+    </message>
+    <message>
+        <source>修改IP</source>
+        <translation>IP変更</translation>
+    </message>
+    <message>
+        <source>收起预览</source>
+        <translation>プレビューを隠す</translation>
+    </message>
+    <message>
+        <source>预览</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>显示每台设备将得到的地址</source>
+        <translation>各デバイスの新しいアドレスを表示します</translation>
+    </message>
+    <message>
+        <source>模式</source>
+        <translation>モード</translation>
+    </message>
+    <message>
+        <source>静态</source>
+        <translation>静的</translation>
+    </message>
+    <message>
+        <source>起始IP</source>
+        <extracomment>Some languages have a different term for the address of one device and the first address of a batch.</extracomment>
+        <translation>開始IP</translation>
+    </message>
+    <message>
+        <source>同一IP</source>
+        <translation>同一IP</translation>
+    </message>
+    <message>
+        <source>子网掩码</source>
+        <translation>サブネットマスク</translation>
+    </message>
+    <message>
+        <source>网关</source>
+        <translation>ゲートウェイ</translation>
+    </message>
+    <message>
+        <source>该地址已被 %1 使用</source>
+        <translation>%1 が使用中</translation>
+    </message>
+    <message>
+        <source>这是网络地址或广播地址</source>
+        <translation>ネットワークアドレスまたはブロードキャストアドレスです</translation>
+    </message>
+    <message>
+        <source>网关不在该网段内</source>
+        <translation>ゲートウェイがサブネットの範囲外です</translation>
+    </message>
+    <message>
+        <source>仍然修改</source>
+        <translation>このまま変更</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>这是网关的地址</source>
+        <translation>ゲートウェイのアドレスです</translation>
+    </message>
+    <message>
+        <source>请选择一台设备</source>
+        <translation>デバイスを選択してください</translation>
+    </message>
+    <message>
+        <source>起始IP</source>
+        <comment>one device</comment>
+        <translation>IPアドレス</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPEmptyState</name>
+    <message>
+        <source>筛选条件隐藏了全部 %1 台设备</source>
+        <translation>全 %1 台のデバイスがフィルターで非表示です</translation>
+    </message>
+    <message>
+        <source>正在搜索设备…</source>
+        <translation>デバイスを検索中…</translation>
+    </message>
+    <message>
+        <source>没有找到设备</source>
+        <translation>デバイスが見つかりません</translation>
+    </message>
+    <message>
+        <source>未安装设备库</source>
+        <translation>デバイスライブラリがインストールされていません</translation>
+    </message>
+    <message>
+        <source>放宽筛选条件，或清除搜索文字。</source>
+        <translation>フィルターを変更するか、検索文字を消去してください。</translation>
+    </message>
+    <message>
+        <source>找到的设备会陆续显示在这里。</source>
+        <translation>見つかったデバイスから順に表示されます。</translation>
+    </message>
+    <message>
+        <source>请检查网线和网段，或在搜索设置中添加其他网段，然后重新搜索。</source>
+        <translation>デバイスの電源と接続を確認してください。ほかのネットワークのデバイスは、検索設定でその範囲を追加するか、アドレスを指定してデバイスを追加してください。</translation>
+    </message>
+    <message>
+        <source>清除筛选</source>
+        <translation>フィルターを解除</translation>
+    </message>
+    <message>
+        <source>重新搜索</source>
+        <translation>再検索</translation>
+    </message>
+    <message>
+        <source>搜索设置中没有选择网段</source>
+        <translation>検索設定でネットワークが選択されていません</translation>
+    </message>
+    <message>
+        <source>请在搜索设置中选择本地网段或其他网段。</source>
+        <translation>検索設定でローカルネットワークまたはほかのネットワークを選択してください。</translation>
+    </message>
+    <message>
+        <source>搜索设置</source>
+        <translation>検索設定</translation>
+    </message>
+    <message>
+        <source>为什么没有找到设备？</source>
+        <translation>デバイスが見つからない理由</translation>
+    </message>
+    <message>
+        <source>程序无法与设备通信，因此找不到设备，也不能修改设备。演示站点不需要设备，可以试用全部功能。</source>
+        <translation>プログラムはデバイスと通信できないため、デバイスの検出も変更もできません。デモサイトではデバイスなしですべての機能を試せます。</translation>
+    </message>
+    <message>
+        <source>打开演示站点</source>
+        <translation>デモサイトを開く</translation>
+    </message>
+    <message>
+        <source>已搜索：%1</source>
+        <translation>検索済み: %1</translation>
+    </message>
+    <message>
+        <source>按地址添加设备</source>
+        <translation>アドレスでデバイスを追加</translation>
+    </message>
+    <message>
+        <source>请检查网线和网段，然后重新搜索。</source>
+        <translation>ケーブルとネットワークを確認し、再検索してください。</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPFiles</name>
+    <message>
+        <source>正在导出设备…</source>
+        <translation>デバイスをエクスポート中…</translation>
+    </message>
+    <message>
+        <source>请选择一台设备</source>
+        <translation>デバイスを選択してください</translation>
+    </message>
+    <message>
+        <source>%1 已存在，是否覆盖？</source>
+        <translation>%1 はすでに存在します。置き換えますか?</translation>
+    </message>
+    <message>
+        <source>导出设备成功
+文件路径:</source>
+        <translation>デバイスをエクスポートしました
+ファイル: </translation>
+    </message>
+    <message>
+        <source>导出设备失败，请检查本机是否已经安装了Office</source>
+        <translation>ファイルに書き込めませんでした。フォルダーと、ファイルがほかのプログラムで開かれていないかを確認してください。</translation>
+    </message>
+    <message>
+        <source>打开excel文件</source>
+        <translation>デバイス一覧を開く</translation>
+    </message>
+    <message>
+        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
+        <translation>インポートできませんでした。ファイルがほかのプログラムで開かれている、形式が異なる、またはMACアドレスが重複しています。</translation>
+    </message>
+    <message>
+        <source>批量导入设备：</source>
+        <translation>インポート完了: </translation>
+    </message>
+    <message>
+        <source>台已完成</source>
+        <translation>台</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>フォルダーの選択</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>インポート</translation>
+    </message>
+    <message>
+        <source>以下内容无法从该文件正确导入：</source>
+        <translation>次の値はファイルから読み戻せません:</translation>
+    </message>
+    <message>
+        <source>行</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>アドレス</translation>
+    </message>
+    <message>
+        <source>原因</source>
+        <translation>理由</translation>
+    </message>
+    <message>
+        <source>导入结果</source>
+        <translation>インポート結果</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>列</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>导出结果</source>
+        <translation>エクスポート結果</translation>
+    </message>
+    <message>
+        <source>正在读取设备列表…</source>
+        <translation>デバイス一覧を読み込み中…</translation>
+    </message>
+    <message>
+        <source>覆盖</source>
+        <translation>置き換え</translation>
+    </message>
+    <message>
+        <source>覆盖文件</source>
+        <translation>ファイルの置き換え</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPTable</name>
+    <message>
+        <source>No.</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>状态</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>型番</translation>
+    </message>
+    <message>
+        <source>IP:端口</source>
+        <translation>IP:ポート</translation>
+    </message>
+    <message>
+        <source>版本号</source>
+        <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>修改结果</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>已初始化</source>
+        <translation>初期化済み</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>未初期化</translation>
+    </message>
+    <message>
+        <source>备注</source>
+        <translation>備考</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPToolBar</name>
+    <message>
+        <source>初始化</source>
+        <translation>初期化</translation>
+    </message>
+    <message>
+        <source>为勾选的新设备设置第一个密码</source>
+        <translation>選択した新しいデバイスに最初のパスワードを設定します</translation>
+    </message>
+    <message>
+        <source>批量修改IP</source>
+        <translation>IP一括変更</translation>
+    </message>
+    <message>
+        <source>为勾选的设备依次分配地址</source>
+        <translation>選択したデバイスに連続したアドレスを割り当てます</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>インポート</translation>
+    </message>
+    <message>
+        <source>从表格文件读入设备列表</source>
+        <translation>スプレッドシートからデバイス一覧を読み込みます</translation>
+    </message>
+    <message>
+        <source>导出</source>
+        <translation>エクスポート</translation>
+    </message>
+    <message>
+        <source>把勾选的设备写入表格文件</source>
+        <translation>選択したデバイスをスプレッドシートに書き込みます</translation>
+    </message>
+    <message>
+        <source>手动添加</source>
+        <translation>手動追加</translation>
+    </message>
+    <message>
+        <source>添加搜索不到的设备：按IP、按P2P或从收藏夹</source>
+        <translation>検索で見つからないデバイスを、IPアドレス、P2P IDまたはお気に入りから追加します</translation>
+    </message>
+    <message>
+        <source>IP设备</source>
+        <translation>IPデバイス</translation>
+    </message>
+    <message>
+        <source>P2P设备</source>
+        <translation>P2Pデバイス</translation>
+    </message>
+    <message>
+        <source>收藏夹</source>
+        <translation>お気に入り</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>把勾选的设备从列表中删除</source>
+        <translation>選択したデバイスを一覧から削除します</translation>
+    </message>
+    <message>
+        <source>已初始化</source>
+        <translation>初期化済み</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>未初期化</translation>
+    </message>
+    <message>
+        <source>搜索…</source>
+        <translation>検索…</translation>
+    </message>
+    <message numerus="yes">
+        <source>勾选的设备中有 %n 台正在升级，不能修改IP地址</source>
+        <translation>
+            <numerusform>選択したデバイスのうち %n 台はアップグレード中のため、アドレスを変更できません</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>勾选的设备中有 %n 台正在升级，不能删除</source>
+        <translation>
+            <numerusform>選択したデバイスのうち %n 台はアップグレード中のため、削除できません</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>IPV4</source>
+        <translation>IPv4</translation>
+    </message>
+    <message>
+        <source>IPV6</source>
+        <translation>IPv6</translation>
+    </message>
+    <message>
+        <source>查看勾选设备的图像（Ctrl+G）</source>
+        <translation>選択したデバイスの画像(Ctrl+G)</translation>
+    </message>
+</context>
+<context>
+    <name>NamePatternDialog</name>
+    <message>
+        <source>填入</source>
+        <translation>入力</translation>
+    </message>
+    <message>
+        <source>执行</source>
+        <translation>送信</translation>
+    </message>
+    <message>
+        <source>按规则命名</source>
+        <translation>パターンで命名</translation>
+    </message>
+    <message>
+        <source>请选择要命名的项</source>
+        <translation>命名する対象を選択してください</translation>
+    </message>
+    <message>
+        <source>填入后可在表格中修改，保存时才写入设备。</source>
+        <translation>名前は表で編集できます。「保存」で書き込まれます。</translation>
+    </message>
+    <message numerus="yes">
+        <source>当前设备的 %n 个通道</source>
+        <translation>
+            <numerusform>このデバイスの %n チャンネル</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>勾选的 %n 台摄像机</source>
+        <translation>
+            <numerusform>選択したカメラ %n 台</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>命名规则：{n} 序号，{model} 型号，{ip4} 地址的最后一段</source>
+        <translation>パターン: {n}、{model}、{ip4}(アドレスの末尾)</translation>
+    </message>
+    <message>
+        <source>命名规则</source>
+        <translation>パターン</translation>
+    </message>
+    <message>
+        <source>多个通道会得到同一个名称</source>
+        <translation>複数のチャンネルが同じ名前になります</translation>
+    </message>
+    <message>
+        <source>起始序号</source>
+        <translation>開始番号</translation>
+    </message>
+    <message>
+        <source>位数</source>
+        <translation>桁数</translation>
+    </message>
+    <message>
+        <source>写入各台摄像机的通道 1。</source>
+        <translation>各カメラのチャンネル1に名前を付けます。</translation>
+    </message>
+</context>
+<context>
+    <name>NamePlan</name>
+    <message>
+        <source>通道 %1</source>
+        <translation>チャンネル %1</translation>
+    </message>
+    <message>
+        <source>请输入命名规则</source>
+        <translation>パターンを入力してください</translation>
+    </message>
+    <message>
+        <source>只能使用 {n}、{model} 和 {ip4}</source>
+        <translation>使用できるのは {n}、{model}、{ip4} だけです</translation>
+    </message>
+    <message>
+        <source>名称过长，最多 %1 字节</source>
+        <translation>%1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>录像机，不会执行；其通道请单独命名</source>
+        <translation>レコーダー: スキップ。開いてチャンネルに命名してください</translation>
+    </message>
+</context>
+<context>
+    <name>NoteDialog</name>
+    <message>
+        <source>保存</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>备注</source>
+        <translation>備考</translation>
+    </message>
+</context>
+<context>
+    <name>OMessageBox</name>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>OVBanner</name>
+    <message>
+        <source>关闭</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>OVDateTimeField</name>
+    <message>
+        <source>请输入正确的时间</source>
+        <translation>正しい時刻を入力してください</translation>
+    </message>
+</context>
+<context>
+    <name>OVDialog</name>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>OVFailedFilter</name>
+    <message>
+        <source>只显示失败和未执行的设备，按原因排列。已不在列表中的设备见批处理记录。</source>
+        <translation>失敗または未実行のデバイスのみを理由順に表示します。一覧にないデバイスは「一括処理履歴」を参照してください。</translation>
+    </message>
+    <message>
+        <source>清除标记</source>
+        <translation>クリア</translation>
+    </message>
+    <message>
+        <source>不再标记失败和未执行的设备</source>
+        <translation>失敗または未実行のデバイスのマークを消します</translation>
+    </message>
+    <message>
+        <source>仅未成功 %1</source>
+        <extracomment>Shows only the devices whose batches failed or did not reach them; %1 is their number.</extracomment>
+        <translation>未解決 %1</translation>
+    </message>
+</context>
+<context>
+    <name>OVFailedOperation</name>
+    <message>
+        <source>未成功的操作</source>
+        <translation>未解決の操作</translation>
+    </message>
+    <message>
+        <source>全部操作</source>
+        <translation>すべての操作</translation>
+    </message>
+</context>
+<context>
+    <name>OVFootBar</name>
+    <message>
+        <source>停止</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>：</source>
+        <translation>: </translation>
+    </message>
+    <message>
+        <source>剩余不到 1 分钟</source>
+        <extracomment>Remaining time of a batch.</extracomment>
+        <translation>残り1分未満</translation>
+    </message>
+    <message numerus="yes">
+        <source>剩余约 %n 分钟</source>
+        <translation>
+            <numerusform>残り約 %n 分</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台失败</source>
+        <extracomment>Devices of a running batch.</extracomment>
+        <translation>
+            <numerusform>%n 件失敗</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>继续</source>
+        <translation>続行</translation>
+    </message>
+    <message>
+        <source>正在停止…</source>
+        <translation>停止中…</translation>
+    </message>
+    <message>
+        <source>停止（Esc）</source>
+        <translation>停止(Esc)</translation>
+    </message>
+    <message>
+        <source>重试失败</source>
+        <extracomment>%1 is the title of the batch. The page may have a separate retry button.</extracomment>
+        <translation>失敗を再試行</translation>
+    </message>
+    <message>
+        <source>在本页只勾选失败和未执行的设备</source>
+        <translation>このページで失敗または未実行のデバイスのみを選択します</translation>
+    </message>
+    <message>
+        <source>保存结果</source>
+        <translation>結果を保存</translation>
+    </message>
+    <message>
+        <source>批处理记录</source>
+        <translation>一括処理履歴</translation>
+    </message>
+    <message>
+        <source>正在搜索设备…</source>
+        <translation>デバイスを検索中…</translation>
+    </message>
+    <message>
+        <source>%1 %2 / %3</source>
+        <extracomment>A running batch: title, finished devices, all devices.</extracomment>
+        <translation>%1: %2 / %3 完了</translation>
+    </message>
+    <message numerus="yes">
+        <source>，另有 %n 台此前未成功</source>
+        <extracomment>After the number of failed devices of a batch that retries another one.</extracomment>
+        <translation>
+            <numerusform>、ほか %n 台が未解決</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>连续 %n 台设备密码错误</source>
+        <translation>
+            <numerusform>%n 台続けてパスワードが違います</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>连续 %n 台设备密码错误（账号 %1）</source>
+        <translation>
+            <numerusform>%n 台続けてパスワードが違います(アカウント %1)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1：%2，继续可能锁定账户。是否继续？</source>
+        <translation>%1: %2。続行するとアカウントがロックされる可能性があります。続行しますか?</translation>
+    </message>
+    <message>
+        <source>停止后，可在设备的右键菜单中选择账号，再重试失败的设备（Esc）</source>
+        <translation>停止後、デバイスのメニューで別のアカウントを選択してから、失敗したデバイスを再試行してください(Esc)</translation>
+    </message>
+    <message>
+        <source>重试失败：%1</source>
+        <translation>失敗を再試行: %1</translation>
+    </message>
+    <message>
+        <source>对“%1”中失败和未执行的设备再试一次，密码错误等不会因重试而成功的除外</source>
+        <translation>失敗または未実行のデバイスに対して「%1」を再実行します。同じアカウントでパスワードが違う場合など、再試行しても成功しないデバイスは除外されます。</translation>
+    </message>
+    <message>
+        <source>选中未成功</source>
+        <translation>未解決を選択</translation>
+    </message>
+    <message>
+        <source>选择账号…</source>
+        <translation>アカウントを選択…</translation>
+    </message>
+    <message>
+        <source>为拒绝了此账号的设备和其余使用此账号的设备选择另一个账号，然后重试</source>
+        <translation>このアカウントを拒否したデバイスと、これを使用する残りのデバイスに別のアカウントを選択し、再試行します</translation>
+    </message>
+</context>
+<context>
+    <name>OVMessageBox</name>
+    <message>
+        <source>提示</source>
+        <translation>お知らせ</translation>
+    </message>
+</context>
+<context>
+    <name>OVNumberField</name>
+    <message>
+        <source>请输入数字</source>
+        <translation>数値を入力してください</translation>
+    </message>
+</context>
+<context>
+    <name>OVStrengthBar</name>
+    <message>
+        <source>弱</source>
+        <translation>弱</translation>
+    </message>
+    <message>
+        <source>中</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>强</source>
+        <translation>強</translation>
+    </message>
+    <message>
+        <source>密码强度</source>
+        <translation>パスワードの強度</translation>
+    </message>
+</context>
+<context>
+    <name>OVTable</name>
+    <message>
+        <source>列宽适合内容</source>
+        <translation>列幅を内容に合わせる</translation>
+    </message>
+    <message>
+        <source>恢复默认列</source>
+        <translation>列をリセット</translation>
+    </message>
+</context>
+<context>
+    <name>OVTableHead</name>
+    <message>
+        <source>全选</source>
+        <translation>すべて選択</translation>
+    </message>
+</context>
+<context>
+    <name>OVTextField</name>
+    <message>
+        <source>清除</source>
+        <translation>クリア</translation>
+    </message>
+    <message>
+        <source>隐藏密码</source>
+        <translation>パスワードを隠す</translation>
+    </message>
+    <message>
+        <source>显示密码</source>
+        <translation>パスワードを表示</translation>
+    </message>
+</context>
+<context>
+    <name>OVTitleBar</name>
+    <message numerus="yes">
+        <source>台设备被搜索到</source>
+        <extracomment>Follows a number in the title bar, as in &quot;24 devices found&quot;.</extracomment>
+        <translation>
+            <numerusform>台のデバイスを検出</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>搜索设备</source>
+        <translation>デバイスの検索</translation>
+    </message>
+    <message>
+        <source>搜索设置</source>
+        <translation>検索設定</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>バージョン情報</translation>
+    </message>
+    <message>
+        <source>最小化</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>向下还原</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>最大化</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>OVTreeRow</name>
+    <message>
+        <source>收起</source>
+        <translation>折りたたむ</translation>
+    </message>
+    <message>
+        <source>展开</source>
+        <translation>展開</translation>
+    </message>
+</context>
+<context>
+    <name>OV_MediaPlayer</name>
+    <message>
+        <source>没有通道</source>
+        <translation>チャンネルなし</translation>
+    </message>
+    <message>
+        <source>通道未连接</source>
+        <translation>チャンネル未接続</translation>
+    </message>
+    <message>
+        <source>正在连接…</source>
+        <translation>接続中…</translation>
+    </message>
+    <message>
+        <source>画面中断</source>
+        <translation>ストリーム中断</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 秒后重试</source>
+        <translation>
+            <numerusform>%n 秒後に再試行</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>立即重试</source>
+        <translation>今すぐ再試行</translation>
+    </message>
+</context>
+<context>
+    <name>P2PPorts</name>
+    <message>
+        <source>p2p.ini 中的 %1 缺失或无效</source>
+        <translation>p2p.ini の %1 がないか無効です</translation>
+    </message>
+    <message>
+        <source>P2P端口代理没有启动</source>
+        <translation>P2Pサービスを開始できませんでした</translation>
+    </message>
+</context>
+<context>
+    <name>PageCGIConfig</name>
+    <message>
+        <source>请选择一台设备。</source>
+        <translation>デバイスを選択してください。</translation>
+    </message>
+    <message>
+        <source>批量配置CGI</source>
+        <translation>CGI一括設定</translation>
+    </message>
+    <message>
+        <source>向勾选的设备发送同一条命令</source>
+        <translation>選択したデバイスに1つのコマンドを送信します</translation>
+    </message>
+    <message>
+        <source>批量表单操作</source>
+        <translation>シートを実行</translation>
+    </message>
+    <message>
+        <source>执行表格文件中的命令，并把结果写回文件</source>
+        <translation>スプレッドシートのコマンドを送信し、結果を書き込みます</translation>
+    </message>
+    <message>
+        <source>打开模板</source>
+        <translation>テンプレートを開く</translation>
+    </message>
+    <message>
+        <source>打开命令表格的模板文件</source>
+        <translation>コマンド用スプレッドシートのテンプレートを開きます</translation>
+    </message>
+    <message>
+        <source>搜索...</source>
+        <translation>検索...</translation>
+    </message>
+    <message>
+        <source>复制成功</source>
+        <translation>コピーしました</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n台设备已选中</source>
+        <extracomment>In the status line of a page.</extracomment>
+        <translation>
+            <numerusform>%n 台のデバイスを選択</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>未成功的设备</source>
+        <translation>失敗したデバイス</translation>
+    </message>
+    <message>
+        <source>将向下列设备发送命令：</source>
+        <translation>コマンドを次のデバイスに送信します:</translation>
+    </message>
+    <message>
+        <source>执行</source>
+        <translation>送信</translation>
+    </message>
+    <message>
+        <source>发送命令</source>
+        <translation>コマンドの送信</translation>
+    </message>
+    <message>
+        <source>查看全部结果</source>
+        <translation>結果をすべて表示</translation>
+    </message>
+    <message>
+        <source>复制结果</source>
+        <translation>結果をコピー</translation>
+    </message>
+</context>
+<context>
+    <name>PageDeviceConfig</name>
+    <message>
+        <source>放弃修改</source>
+        <translation>破棄</translation>
+    </message>
+    <message numerus="yes">
+        <source>有 %n 项修改尚未保存，离开后将丢失。</source>
+        <translation>
+            <numerusform>%n 件の変更が未保存です。破棄されます。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>复制</source>
+        <translation>コピー</translation>
+    </message>
+    <message numerus="yes">
+        <source>将通道 %1 的编码配置复制到选中的 %n 台设备的同一通道？</source>
+        <extracomment>%1 is a channel number.</extracomment>
+        <translation>
+            <numerusform>チャンネル %1 のエンコード設定を、選択した %n 台のデバイスの同じチャンネルにコピーしますか?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>其中包括尚未保存的修改。</source>
+        <translation>未保存の変更も含まれます。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n台设备已选中</source>
+        <extracomment>In the status line of a page.</extracomment>
+        <translation>
+            <numerusform>%n 台のデバイスを選択</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>正在保存通道名称…</source>
+        <translation>チャンネル名を保存中…</translation>
+    </message>
+    <message>
+        <source>（按Esc停止）</source>
+        <translation> (Escで停止)</translation>
+    </message>
+    <message>
+        <source>设备配置</source>
+        <translation>デバイス設定</translation>
+    </message>
+    <message>
+        <source>写入通道 %1 的编码配置</source>
+        <extracomment>The change of a device; %1 is a channel number.</extracomment>
+        <translation>チャンネル %1 のエンコード設定</translation>
+    </message>
+    <message>
+        <source>复制编码配置</source>
+        <translation>エンコード設定のコピー</translation>
+    </message>
+    <message>
+        <source>未保存的修改</source>
+        <translation>未保存の変更</translation>
+    </message>
+    <message>
+        <source>保存并离开</source>
+        <translation>保存して移動</translation>
+    </message>
+    <message>
+        <source>批量命名</source>
+        <translation>パターンで命名</translation>
+    </message>
+    <message>
+        <source>配置这台设备</source>
+        <translation>このデバイスを設定</translation>
+    </message>
+</context>
+<context>
+    <name>PageDeviceUpgrade</name>
+    <message numerus="yes">
+        <source>%n台设备已选中</source>
+        <extracomment>In the status line of a page.</extracomment>
+        <translation>
+            <numerusform>%n 台のデバイスを選択</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>設定を保存できませんでした。プログラムフォルダーへの書き込み権限を確認してください。</translation>
+    </message>
+    <message>
+        <source>选择升级文件</source>
+        <translation>ファームウェアファイルの選択</translation>
+    </message>
+    <message>
+        <source>升级</source>
+        <translation>アップグレード</translation>
+    </message>
+    <message>
+        <source>停止升级</source>
+        <translation>アップグレードを停止</translation>
+    </message>
+</context>
+<context>
+    <name>PageModifyIP</name>
+    <message numerus="yes">
+        <source>%n台设备已选中</source>
+        <extracomment>In the status line of a page.</extracomment>
+        <translation>
+            <numerusform>%n 台のデバイスを選択</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备IP地址冲突</source>
+        <extracomment>Number of devices whose address another device has, too.</extracomment>
+        <translation>
+            <numerusform>IPアドレスの競合: %n 台</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>到P2P设备 %1 的连接已断开，请删除后重新添加</source>
+        <translation>P2Pデバイス %1 への接続が切れました。デバイスを削除して追加し直してください。</translation>
+    </message>
+    <message>
+        <source>P2P服务已断开，P2P设备暂时无法访问</source>
+        <translation>P2Pサービスが切断されました。現在、P2Pデバイスに接続できません。</translation>
+    </message>
+    <message>
+        <source>导出</source>
+        <translation>エクスポート</translation>
+    </message>
+    <message>
+        <source>查看原因</source>
+        <translation>理由を表示</translation>
+    </message>
+    <message numerus="yes">
+        <source>找到的设备比上次搜索少 %n 台</source>
+        <translation>
+            <numerusform>前回の検索より %n 台少なくなっています</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>修改IP地址</source>
+        <translation>IPアドレスの変更</translation>
+    </message>
+    <message>
+        <source>请选择一台设备</source>
+        <translation>デバイスを選択してください</translation>
+    </message>
+    <message>
+        <source>查看勾选设备的图像</source>
+        <translation>選択したデバイスの画像</translation>
+    </message>
+    <message>
+        <source>重新搜索</source>
+        <translation>再検索</translation>
+    </message>
+    <message>
+        <source>搜索已停止，列表不完整。</source>
+        <translation>検索を停止したため、一覧は不完全です。</translation>
+    </message>
+</context>
+<context>
+    <name>PageSystemConfig</name>
+    <message>
+        <source>旧密码正确，等待新密码</source>
+        <translation>現在のパスワードは正しいです。新しいパスワードを待っています</translation>
+    </message>
+    <message>
+        <source>修改密码</source>
+        <translation>パスワード変更</translation>
+    </message>
+    <message>
+        <source>验证旧密码</source>
+        <translation>現在のパスワードの確認</translation>
+    </message>
+    <message>
+        <source>重启设备</source>
+        <translation>デバイスの再起動</translation>
+    </message>
+    <message>
+        <source>恢复出厂设置</source>
+        <translation>工場出荷時設定に戻す</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n台设备已选中</source>
+        <extracomment>In the status line of a page.</extracomment>
+        <translation>
+            <numerusform>%n 台のデバイスを選択</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>时间已到，%n 台设备的密码没有修改</source>
+        <translation>
+            <numerusform>時間切れ: %n 台のデバイスのパスワードは変更されませんでした</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>已开始其他操作，%n 台设备的密码没有修改</source>
+        <translation>
+            <numerusform>別の操作が開始されたため、%n 台のデバイスのパスワードは変更されませんでした</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>请先在左侧勾选设备</source>
+        <translation>先に左側でデバイスを選択してください</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行，请等待其完成</source>
+        <translation>「%1」を実行中です。終了するまでお待ちください。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备的密码没有修改（%1），已标记</source>
+        <extracomment>%1 are the reasons.</extracomment>
+        <translation>
+            <numerusform>%n 台のデバイスでパスワードが変更されませんでした(%1)。マークされています</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>；</source>
+        <translation>; </translation>
+    </message>
+</context>
+<context>
+    <name>PictureGallery</name>
+    <message>
+        <source>获取图像</source>
+        <translation>画像の取得</translation>
+    </message>
+    <message>
+        <source>共 %1 个通道，仅显示前 %2 个</source>
+        <translation>全 %1 チャンネルのうち最初の %2 を表示</translation>
+    </message>
+    <message>
+        <source>保存图像</source>
+        <translation>画像の保存</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>フォルダー %1 を作成できませんでした</translation>
+    </message>
+</context>
+<context>
+    <name>PictureOperations</name>
+    <message>
+        <source>设备没有发送画面</source>
+        <translation>デバイスから画像が送信されませんでした</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道没有图像</source>
+        <translation>
+            <numerusform>%n チャンネルの画像がありません</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>提示</source>
+        <translation>お知らせ</translation>
+    </message>
+    <message>
+        <source>应用程序已经运行!</source>
+        <translation>プログラムはすでに実行中です。</translation>
+    </message>
+</context>
+<context>
+    <name>ReloginDialog</name>
+    <message>
+        <source>请输入账号</source>
+        <translation>アカウントを入力してください</translation>
+    </message>
+    <message>
+        <source>请输入密码</source>
+        <translation>パスワードを入力してください</translation>
+    </message>
+    <message>
+        <source>重新登录</source>
+        <translation>再ログイン</translation>
+    </message>
+    <message>
+        <source>设备 %1 没有接受登录，请输入它的账号和密码。</source>
+        <translation>%1 にログインできませんでした。ユーザー名とパスワードを入力してください。</translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>ユーザー名</translation>
+    </message>
+    <message>
+        <source>密码</source>
+        <translation>パスワード</translation>
+    </message>
+    <message numerus="yes">
+        <source>密码错误，已 %n 次</source>
+        <translation>
+            <numerusform>パスワード誤り %n 回</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>设备的应答：%1</source>
+        <translation>デバイスの応答: %1</translation>
+    </message>
+    <message>
+        <source>设备没有报告剩余的尝试次数。继续输错可能锁定账户。</source>
+        <translation>デバイスは残りの試行回数を通知していません。さらに間違えると、アカウントがロックされる可能性があります。</translation>
+    </message>
+    <message>
+        <source>保存为此设备的账号</source>
+        <translation>このデバイスのアカウントとして保存</translation>
+    </message>
+    <message>
+        <source>登录成功后，以后登录这台设备都使用此账号</source>
+        <translation>ログインに成功すると、以後このデバイスには常にこのアカウントでログインします</translation>
+    </message>
+    <message>
+        <source>之后的设备也使用此账号</source>
+        <translation>以降のデバイスにも使用</translation>
+    </message>
+    <message>
+        <source>登录成功后，没有自己账号的设备都用此账号代替搜索设置中的账号，批处理也是如此，直到程序退出或搜索设置中的账号改变</source>
+        <translation>ログインに成功すると、個別のアカウントがないすべてのデバイス(一括処理を含む)で、プログラムを終了するか検索設定のアカウントが変更されるまで、検索設定のアカウントの代わりに使用します</translation>
+    </message>
+</context>
+<context>
+    <name>RestartDialog</name>
+    <message>
+        <source>重启</source>
+        <translation>再起動</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>言語の変更</translation>
+    </message>
+    <message>
+        <source>语言变更需要重新启动程序才能生效！</source>
+        <translation>言語はプログラムの再起動後に変わります。</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>後で</translation>
+    </message>
+</context>
+<context>
+    <name>ResultNames</name>
+    <message>
+        <source>命令失败</source>
+        <translation>コマンド失敗</translation>
+    </message>
+    <message>
+        <source>成功</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>账号不存在</source>
+        <translation>アカウントが存在しません</translation>
+    </message>
+    <message>
+        <source>密码错误</source>
+        <translation>パスワードが違います</translation>
+    </message>
+    <message>
+        <source>账号被锁定</source>
+        <translation>アカウントがロックされています。デバイスのロックが解除されるまでお待ちください。</translation>
+    </message>
+    <message>
+        <source>账号已登录</source>
+        <translation>アカウントはすでに使用中です</translation>
+    </message>
+    <message>
+        <source>网络异常</source>
+        <translation>デバイスから応答がありません</translation>
+    </message>
+    <message>
+        <source>协议不匹配</source>
+        <translation>プロトコルの不一致</translation>
+    </message>
+    <message>
+        <source>设备未初始化</source>
+        <translation>デバイスは初期化されていません</translation>
+    </message>
+    <message>
+        <source>设备不支持此操作</source>
+        <translation>デバイスはこの操作に対応していません</translation>
+    </message>
+    <message>
+        <source>设备已存在</source>
+        <translation>デバイスはすでに一覧にあります</translation>
+    </message>
+    <message>
+        <source>获取设备能力失败</source>
+        <translation>デバイスの機能情報を読み込めませんでした</translation>
+    </message>
+    <message>
+        <source>设备拒绝了此操作</source>
+        <translation>デバイスが要求を拒否しました</translation>
+    </message>
+    <message>
+        <source>未知错误 %1</source>
+        <translation>不明なエラー %1</translation>
+    </message>
+    <message>
+        <source>设备正在升级</source>
+        <translation>デバイスはアップグレード中です</translation>
+    </message>
+    <message>
+        <source>未执行</source>
+        <translation>未実行</translation>
+    </message>
+    <message>
+        <source>抓图失败</source>
+        <translation>スナップショット失敗</translation>
+    </message>
+    <message>
+        <source>数据无效</source>
+        <translation>無効なデータ</translation>
+    </message>
+    <message>
+        <source>升级文件不可用</source>
+        <translation>ファームウェアファイルを使用できません</translation>
+    </message>
+    <message>
+        <source>升级未完成</source>
+        <translation>アップグレード未完了</translation>
+    </message>
+    <message>
+        <source>升级结果未确认</source>
+        <translation>アップグレード未確認</translation>
+    </message>
+    <message>
+        <source>设备忙，请稍后重试</source>
+        <translation>デバイスはビジーです。後でもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>登录已失效，请重新登录</source>
+        <translation>セッションの有効期限が切れました。再ログインしてください。</translation>
+    </message>
+    <message>
+        <source>设备不接受该值</source>
+        <translation>デバイスはこの値を受け付けません</translation>
+    </message>
+    <message>
+        <source>设备证书未确认</source>
+        <translation>デバイスの証明書は信頼されていません</translation>
+    </message>
+    <message>
+        <source>设备证书已改变</source>
+        <translation>デバイスの証明書が変わりました</translation>
+    </message>
+    <message>
+        <source>已取消</source>
+        <translation>キャンセルしました</translation>
+    </message>
+    <message>
+        <source>该地址上应答的是其他设备</source>
+        <translation>このアドレスでは別のデバイスが応答しています</translation>
+    </message>
+    <message>
+        <source>设备已接受，但结果未确认</source>
+        <translation>デバイスは受理、結果は未確認</translation>
+    </message>
+</context>
+<context>
+    <name>RowUpgrades</name>
+    <message>
+        <source>设备已不在列表中</source>
+        <translation>デバイスは一覧にありません</translation>
+    </message>
+</context>
+<context>
+    <name>SearchReportDialog</name>
+    <message>
+        <source>复制文本</source>
+        <translation>テキストをコピー</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>搜索报告</source>
+        <translation>検索レポート</translation>
+    </message>
+    <message>
+        <source>已复制到剪贴板</source>
+        <translation>クリップボードにコピーしました</translation>
+    </message>
+</context>
+<context>
+    <name>SearchReportText</name>
+    <message>
+        <source>网卡</source>
+        <translation>ネットワークインターフェース</translation>
+    </message>
+    <message>
+        <source>本机没有可用的网卡</source>
+        <translation>このコンピューターには使用可能なネットワークインターフェースがありません</translation>
+    </message>
+    <message>
+        <source>检查网卡是否已安装并启用。</source>
+        <translation>インターフェースがインストールされ、有効になっているか確認してください。</translation>
+    </message>
+    <message>
+        <source>按地址搜索</source>
+        <translation>アドレスで検索</translation>
+    </message>
+    <message>
+        <source>已询问</source>
+        <translation>照会アドレス数</translation>
+    </message>
+    <message>
+        <source>%1 个地址</source>
+        <translation>%1</translation>
+    </message>
+    <message>
+        <source>有应答</source>
+        <translation>応答数</translation>
+    </message>
+    <message>
+        <source>本机没有到其中 %1 个地址的路由</source>
+        <translation>これらのアドレスのうち %1 件への経路がありません</translation>
+    </message>
+    <message>
+        <source>为网卡设置网关，或添加一个与这些地址同一网段的地址。</source>
+        <translation>インターフェースにゲートウェイを設定するか、これらのアドレスと同じネットワークのアドレスを追加してください。</translation>
+    </message>
+    <message>
+        <source>没有地址应答</source>
+        <translation>どのアドレスからも応答がありません</translation>
+    </message>
+    <message>
+        <source>检查搜索设置中的地址范围，以及设备是否已通电。</source>
+        <translation>検索設定のアドレス範囲と、デバイスの電源が入っているかを確認してください。</translation>
+    </message>
+    <message>
+        <source>其他网段</source>
+        <translation>ほかのネットワーク</translation>
+    </message>
+    <message>
+        <source>找到的 %1 台设备不在本机的任何网段内</source>
+        <translation>このコンピューターのどのネットワークにも属さない検出デバイス: %1</translation>
+    </message>
+    <message>
+        <source>登录它们之前，修改设备的IP地址，或为网卡添加一个同一网段的地址。</source>
+        <translation>ログインする前に、デバイスのIPアドレスを変更するか、デバイスのネットワークのアドレスをインターフェースに追加してください。</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>アドレス</translation>
+    </message>
+    <message>
+        <source>已发送</source>
+        <translation>送信要求数</translation>
+    </message>
+    <message>
+        <source>%1 个请求</source>
+        <translation>%1</translation>
+    </message>
+    <message>
+        <source>已收到</source>
+        <translation>受信メッセージ数</translation>
+    </message>
+    <message>
+        <source>%1 条消息</source>
+        <translation>%1</translation>
+    </message>
+    <message>
+        <source>找到</source>
+        <translation>検出デバイス数</translation>
+    </message>
+    <message>
+        <source>%1 台设备</source>
+        <translation>%1</translation>
+    </message>
+    <message>
+        <source>未采用</source>
+        <translation>未使用</translation>
+    </message>
+    <message>
+        <source>无法识别的消息 %1 条</source>
+        <translation>読み取れないメッセージ: %1</translation>
+    </message>
+    <message>
+        <source>非视频设备的消息 %1 条</source>
+        <translation>カメラとレコーダー以外のデバイスのメッセージ: %1</translation>
+    </message>
+    <message>
+        <source>没有服务地址的消息 %1 条</source>
+        <translation>サービスアドレスのないメッセージ: %1</translation>
+    </message>
+    <message>
+        <source>服务地址属于其他主机的消息 %1 条</source>
+        <translation>サービスアドレスが別のホストのメッセージ: %1</translation>
+    </message>
+    <message>
+        <source>设备离开网络的通知 %1 条</source>
+        <translation>ネットワークから離れるデバイスのメッセージ: %1</translation>
+    </message>
+    <message>
+        <source>超出数量限制的消息 %1 条</source>
+        <translation>上限を超えたメッセージ: %1</translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>网卡已停用</source>
+        <translation>インターフェースが無効です</translation>
+    </message>
+    <message>
+        <source>在操作系统的网络设置中启用它。</source>
+        <translation>オペレーティングシステムのネットワーク設定で有効にしてください。</translation>
+    </message>
+    <message>
+        <source>网络未连接</source>
+        <translation>インターフェースが接続されていません</translation>
+    </message>
+    <message>
+        <source>检查网线和交换机，或连接到无线网络。</source>
+        <translation>ケーブルとスイッチを確認するか、無線ネットワークに接続してください。</translation>
+    </message>
+    <message>
+        <source>没有IP地址</source>
+        <translation>インターフェースにIPアドレスがありません</translation>
+    </message>
+    <message>
+        <source>设置一个与设备同一网段的地址，或启用DHCP。</source>
+        <translation>デバイスのネットワークのアドレスを設定するか、DHCPを有効にしてください。</translation>
+    </message>
+    <message>
+        <source>网卡不能发送组播</source>
+        <translation>インターフェースはマルチキャストを送信できません</translation>
+    </message>
+    <message>
+        <source>在搜索设置中选择其他网段，按地址搜索。</source>
+        <translation>アドレスで検索するには、検索設定でほかのネットワークを選択してください。</translation>
+    </message>
+    <message>
+        <source>系统拒绝发送请求：%1</source>
+        <translation>オペレーティングシステムが要求を送信しませんでした: %1</translation>
+    </message>
+    <message>
+        <source>检查本机的防火墙和网卡的设置。</source>
+        <translation>このコンピューターのファイアウォールとインターフェースの設定を確認してください。</translation>
+    </message>
+    <message>
+        <source>没有收到任何应答</source>
+        <translation>応答を受信しませんでした</translation>
+    </message>
+    <message>
+        <source>检查设备是否已通电并连接到同一网络，以及本机的防火墙和交换机是否过滤了应答。也可以在搜索设置中按地址搜索。</source>
+        <translation>デバイスの電源が入っていて同じネットワークにあること、ファイアウォールやスイッチが応答を遮断していないことを確認してください。アドレスで検索することもできます(検索設定を参照)。</translation>
+    </message>
+    <message>
+        <source>找到 %1 台设备，比上次搜索少 %2 台。</source>
+        <translation>%1 台のデバイスが見つかりました。前回の検索より %2 台少なくなっています。</translation>
+    </message>
+    <message>
+        <source>找到 %1 台设备。</source>
+        <translation>見つかったデバイス: %1。</translation>
+    </message>
+    <message>
+        <source>没有找到设备。</source>
+        <translation>デバイスが見つかりません。</translation>
+    </message>
+</context>
+<context>
+    <name>SearchSettingsDialog</name>
+    <message>
+        <source>起始ip不可以大于结束ip</source>
+        <translation>開始IPは終了IP以下にしてください</translation>
+    </message>
+    <message>
+        <source>仅支持跨16个网段搜索</source>
+        <translation>範囲は17セグメントまでです</translation>
+    </message>
+    <message>
+        <source>请输入正确的起始IP</source>
+        <translation>正しい開始IPを入力してください</translation>
+    </message>
+    <message>
+        <source>请输入正确的结束IP</source>
+        <translation>正しい終了IPを入力してください</translation>
+    </message>
+    <message>
+        <source>搜索</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>搜索设置</source>
+        <translation>検索設定</translation>
+    </message>
+    <message>
+        <source>搜索本地网段</source>
+        <translation>ローカルネットワークを検索</translation>
+    </message>
+    <message>
+        <source>搜索其他网段</source>
+        <translation>ほかのネットワークを検索</translation>
+    </message>
+    <message>
+        <source>起始IP</source>
+        <translation>開始IP</translation>
+    </message>
+    <message>
+        <source>结束IP</source>
+        <translation>終了IP</translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>ユーザー名</translation>
+    </message>
+    <message>
+        <source>密码</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>登录搜索到的设备时默认使用此账号</source>
+        <translation>デバイスへのログインに使う既定のアカウント</translation>
+    </message>
+    <message>
+        <source>搜索时用此账号登录设备</source>
+        <translation>検索中にデバイスにログインする</translation>
+    </message>
+    <message>
+        <source>读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。</source>
+        <translation>型番、バージョン、MACアドレスを読み込みます。このアカウントはすべてのデバイスに送信されます。パスワードが違ったデバイスには再試行しません。</translation>
+    </message>
+</context>
+<context>
+    <name>Shell</name>
+    <message>
+        <source>无法打开模拟站点：</source>
+        <translation>デモサイトを開けませんでした:</translation>
+    </message>
+</context>
+<context>
+    <name>SnapThread</name>
+    <message>
+        <source>通道未连接</source>
+        <translation>チャンネル未接続</translation>
+    </message>
+    <message>
+        <source>抓图失败</source>
+        <translation>スナップショット失敗</translation>
+    </message>
+    <message>
+        <source>抓图失败，图片无法写入：%1</source>
+        <translation>スナップショット失敗: ファイルに書き込めませんでした: %1</translation>
+    </message>
+</context>
+<context>
+    <name>SnapshotCell</name>
+    <message>
+        <source>正在抓图…</source>
+        <translation>スナップショットを撮影中…</translation>
+    </message>
+    <message>
+        <source>等待中</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>重新抓取</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>重试</source>
+        <translation>再試行</translation>
+    </message>
+</context>
+<context>
+    <name>SnapshotDialog</name>
+    <message>
+        <source>关闭</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>打开文件夹</source>
+        <translation>フォルダーを開く</translation>
+    </message>
+    <message>
+        <source>抓图</source>
+        <translation>スナップショット</translation>
+    </message>
+    <message>
+        <source>正在抓图 %1 / %2</source>
+        <translation>スナップショットを撮影中: %1 / %2</translation>
+    </message>
+    <message>
+        <source>成功 %1，失败 %2</source>
+        <translation>成功 %1、失敗 %2</translation>
+    </message>
+    <message>
+        <source>成功 %1</source>
+        <translation>成功 %1</translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>正在停止…</source>
+        <translation>停止中…</translation>
+    </message>
+</context>
+<context>
+    <name>Snapshots</name>
+    <message>
+        <source>抓图</source>
+        <translation>スナップショット</translation>
+    </message>
+    <message>
+        <source>未执行</source>
+        <translation>未実行</translation>
+    </message>
+    <message>
+        <source>设备已移出画面</source>
+        <translation>デバイスは画面から外されました</translation>
+    </message>
+</context>
+<context>
+    <name>SystemDaylightPoint</name>
+    <message>
+        <source>月</source>
+        <translation>月</translation>
+    </message>
+    <message>
+        <source>日</source>
+        <translation>日</translation>
+    </message>
+    <message>
+        <source>周</source>
+        <translation>週</translation>
+    </message>
+    <message>
+        <source>星期</source>
+        <translation>曜日</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>時刻</translation>
+    </message>
+</context>
+<context>
+    <name>SystemDaylightSection</name>
+    <message>
+        <source>夏令时</source>
+        <translation>サマータイム</translation>
+    </message>
+    <message>
+        <source>启用</source>
+        <translation>有効</translation>
+    </message>
+    <message>
+        <source>按日期</source>
+        <translation>日付指定</translation>
+    </message>
+    <message>
+        <source>按星期</source>
+        <translation>曜日指定</translation>
+    </message>
+    <message>
+        <source>开始时间</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>结束时间</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>应用夏令时</source>
+        <translation>サマータイムを適用</translation>
+    </message>
+    <message>
+        <source>请输入正确的时间</source>
+        <translation>正しい時刻を入力してください</translation>
+    </message>
+</context>
+<context>
+    <name>SystemDeviceTree</name>
+    <message>
+        <source>全选</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>搜索…</source>
+        <translation>検索…</translation>
+    </message>
+    <message>
+        <source>清除搜索</source>
+        <translation>検索を消去</translation>
+    </message>
+    <message>
+        <source>重新搜索</source>
+        <translation>再検索</translation>
+    </message>
+    <message>
+        <source>没有设备的名称、类型、型号或地址包含这些文字。</source>
+        <translation>この名前、種類、型番、アドレスのデバイスはありません。</translation>
+    </message>
+    <message>
+        <source>找到的设备会陆续显示在这里。</source>
+        <translation>見つかったデバイスから順に表示されます。</translation>
+    </message>
+    <message>
+        <source>只列出已初始化的IPv4设备。</source>
+        <translation>初期化済みのIPv4デバイスのみ表示されます。</translation>
+    </message>
+    <message>
+        <source>没有匹配的设备</source>
+        <translation>一致するデバイスなし</translation>
+    </message>
+    <message>
+        <source>正在搜索设备…</source>
+        <translation>デバイスを検索中…</translation>
+    </message>
+    <message>
+        <source>没有可配置的设备</source>
+        <translation>設定できるデバイスなし</translation>
+    </message>
+    <message>
+        <source>未安装设备库</source>
+        <translation>デバイスライブラリがインストールされていません</translation>
+    </message>
+    <message>
+        <source>显示全部</source>
+        <translation>すべて表示</translation>
+    </message>
+    <message>
+        <source>程序无法与设备通信。可在“修改IP”页打开演示站点。</source>
+        <translation>プログラムはデバイスと通信できません。「IP変更」ページでデモサイトを開いてください。</translation>
+    </message>
+    <message>
+        <source>清除失败标记</source>
+        <translation>マークを消去</translation>
+    </message>
+    <message>
+        <source>不再标记失败和未执行的设备</source>
+        <translation>失敗または未実行のデバイスのマークを消します</translation>
+    </message>
+    <message>
+        <source>列表中的设备都已登录。</source>
+        <translation>一覧のすべてのデバイスはログイン済みです。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备没有IP地址（等待DHCP），未列出</source>
+        <translation>
+            <numerusform>アドレスのないデバイス %n 台(DHCP)は表示されていません</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>失败和未执行的设备不在此列表中：没有初始化、没有IPv4地址或不再被找到。请查看“修改IP”页和批处理记录。</source>
+        <translation>失敗または未実行のデバイスはこのツリーにありません。初期化されていないか、IPv4アドレスがないか、再検索で見つかりませんでした。「IP変更」ページと「一括処理履歴」を参照してください。</translation>
+    </message>
+</context>
+<context>
+    <name>SystemLists</name>
+    <message>
+        <source>1月</source>
+        <translation>1月</translation>
+    </message>
+    <message>
+        <source>2月</source>
+        <translation>2月</translation>
+    </message>
+    <message>
+        <source>3月</source>
+        <translation>3月</translation>
+    </message>
+    <message>
+        <source>4月</source>
+        <translation>4月</translation>
+    </message>
+    <message>
+        <source>5月</source>
+        <translation>5月</translation>
+    </message>
+    <message>
+        <source>6月</source>
+        <translation>6月</translation>
+    </message>
+    <message>
+        <source>7月</source>
+        <translation>7月</translation>
+    </message>
+    <message>
+        <source>8月</source>
+        <translation>8月</translation>
+    </message>
+    <message>
+        <source>9月</source>
+        <translation>9月</translation>
+    </message>
+    <message>
+        <source>10月</source>
+        <translation>10月</translation>
+    </message>
+    <message>
+        <source>11月</source>
+        <translation>11月</translation>
+    </message>
+    <message>
+        <source>12月</source>
+        <translation>12月</translation>
+    </message>
+    <message>
+        <source>第一周</source>
+        <translation>第1週</translation>
+    </message>
+    <message>
+        <source>第二周</source>
+        <translation>第2週</translation>
+    </message>
+    <message>
+        <source>第三周</source>
+        <translation>第3週</translation>
+    </message>
+    <message>
+        <source>第四周</source>
+        <translation>第4週</translation>
+    </message>
+    <message>
+        <source>最后一周</source>
+        <translation>最終週</translation>
+    </message>
+    <message>
+        <source>周日</source>
+        <translation>日曜日</translation>
+    </message>
+    <message>
+        <source>周一</source>
+        <translation>月曜日</translation>
+    </message>
+    <message>
+        <source>周二</source>
+        <translation>火曜日</translation>
+    </message>
+    <message>
+        <source>周三</source>
+        <translation>水曜日</translation>
+    </message>
+    <message>
+        <source>周四</source>
+        <translation>木曜日</translation>
+    </message>
+    <message>
+        <source>周五</source>
+        <translation>金曜日</translation>
+    </message>
+    <message>
+        <source>周六</source>
+        <translation>土曜日</translation>
+    </message>
+    <message>
+        <source>星期日</source>
+        <translation>日曜日</translation>
+    </message>
+    <message>
+        <source>星期一</source>
+        <translation>月曜日</translation>
+    </message>
+    <message>
+        <source>星期二</source>
+        <translation>火曜日</translation>
+    </message>
+    <message>
+        <source>星期三</source>
+        <translation>水曜日</translation>
+    </message>
+    <message>
+        <source>星期四</source>
+        <translation>木曜日</translation>
+    </message>
+    <message>
+        <source>星期五</source>
+        <translation>金曜日</translation>
+    </message>
+    <message>
+        <source>星期六</source>
+        <translation>土曜日</translation>
+    </message>
+    <message>
+        <source>每天</source>
+        <translation>毎日</translation>
+    </message>
+</context>
+<context>
+    <name>SystemOperations</name>
+    <message>
+        <source>设备没有应答</source>
+        <translation>デバイスから応答がありません</translation>
+    </message>
+    <message>
+        <source>没有读到设备的时间</source>
+        <translation>時刻を読み込めませんでした</translation>
+    </message>
+    <message>
+        <source>设备没有应答，密码可能已修改</source>
+        <translation>デバイスから応答がありません。パスワードが変更された可能性があります。</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPanels</name>
+    <message>
+        <source>校时</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>时区</source>
+        <translation>タイムゾーン</translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>再起動</translation>
+    </message>
+    <message>
+        <source>恢复</source>
+        <translation>工場出荷時設定</translation>
+    </message>
+    <message>
+        <source>密码</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>视频制式</source>
+        <translation>映像方式</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPasswordNotice</name>
+    <message>
+        <source>只剩 %1 秒，之后需要重新验证旧密码</source>
+        <translation>パスワードの入力時間は残り %1 秒です。その後は現在のパスワードを確認し直す必要があります。</translation>
+    </message>
+    <message>
+        <source>%1 秒后失效</source>
+        <translation>パスワードの入力時間は残り %1 秒</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备等待新密码</source>
+        <translation>
+            <numerusform>%n 台のデバイスが新しいパスワードを待機中</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>已恢复之前输入的新密码</source>
+        <translation>入力した新しいパスワードを復元しました</translation>
+    </message>
+    <message>
+        <source>请重新验证旧密码。</source>
+        <translation>現在のパスワードをもう一度確認してください。 </translation>
+    </message>
+    <message>
+        <source>已输入的新密码届时会恢复。</source>
+        <translation>その後、入力した新しいパスワードが復元されます。</translation>
+    </message>
+    <message numerus="yes">
+        <source>时间已到，%n 台设备的密码没有修改。</source>
+        <translation>
+            <numerusform>時間切れ: %n 台のデバイスのパスワードは変更されませんでした。 </numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>勾选的设备已改变。</source>
+        <translation>選択が変わりました。 </translation>
+    </message>
+</context>
+<context>
+    <name>SystemPasswordPanel</name>
+    <message>
+        <source>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</source>
+        <translation>数字、英字、記号のうち2種類以上を使用し、使用できない文字は含めないでください。</translation>
+    </message>
+    <message>
+        <source>请输入密码</source>
+        <translation>パスワードを入力してください</translation>
+    </message>
+    <message>
+        <source>请确认密码</source>
+        <translation>パスワードを再入力してください</translation>
+    </message>
+    <message>
+        <source>请输入相同的密码</source>
+        <translation>パスワードが一致しません</translation>
+    </message>
+    <message>
+        <source>密码长度应当在8到32个字符范围内</source>
+        <translation>パスワードは8~32文字で入力してください</translation>
+    </message>
+    <message>
+        <source>请输入旧密码</source>
+        <translation>現在のパスワードを入力してください</translation>
+    </message>
+    <message>
+        <source>第一步：验证旧密码</source>
+        <translation>手順1: 現在のパスワードを確認</translation>
+    </message>
+    <message>
+        <source>旧密码</source>
+        <translation>現在のパスワード</translation>
+    </message>
+    <message>
+        <source>验证</source>
+        <translation>確認</translation>
+    </message>
+    <message>
+        <source>第二步：设置新密码</source>
+        <translation>手順2: 新しいパスワードを設定</translation>
+    </message>
+    <message>
+        <source>新密码</source>
+        <translation>新しいパスワード</translation>
+    </message>
+    <message>
+        <source>确认密码</source>
+        <translation>パスワードの確認</translation>
+    </message>
+    <message>
+        <source>密码8~32位,且至少包含数字、字母和常用字符中的两种(字符为除&apos;&quot;:;&amp;这五个字符以外的任意可见字符)</source>
+        <translation>8~32文字。数字、英字、記号のうち2種類以上( &apos;&quot;:;&amp; を除くすべての表示可能な文字)</translation>
+    </message>
+    <message>
+        <source>修改密码</source>
+        <translation>パスワード変更</translation>
+    </message>
+    <message>
+        <source>成功后</source>
+        <translation>成功後</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPreview</name>
+    <message>
+        <source>启用夏令时</source>
+        <translation>サマータイム オン</translation>
+    </message>
+    <message>
+        <source>停用夏令时</source>
+        <translation>サマータイム オフ</translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>停用NTP</source>
+        <translation>NTP オフ</translation>
+    </message>
+    <message>
+        <source>%1 %2 重启</source>
+        <extracomment>Time of a reboot: a day of the week or every day, and a time.</extracomment>
+        <translation>再起動 %1 %2</translation>
+    </message>
+    <message>
+        <source>停用定时重启</source>
+        <translation>定期再起動 オフ</translation>
+    </message>
+    <message numerus="yes">
+        <source>确定要重启选中的 %n 台设备吗？</source>
+        <translation>
+            <numerusform>選択した %n 台のデバイスを再起動しますか?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>再起動</translation>
+    </message>
+    <message numerus="yes">
+        <source>确定要将选中的 %n 台设备恢复出厂设置吗？</source>
+        <translation>
+            <numerusform>選択した %n 台のデバイスを工場出荷時設定に戻しますか?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>执行</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>将对下列设备执行“%1”：</source>
+        <translation>次のデバイスに「%1」を適用します:</translation>
+    </message>
+    <message numerus="yes">
+        <source>更新周期为 0 分钟，设备可能不再校时。仍要应用到选中的 %n 台设备吗？</source>
+        <translation>
+            <numerusform>更新間隔が0分のため、デバイスの時刻が更新されなくなる可能性があります。選択した %n 台のデバイスに適用しますか?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>仍然应用</source>
+        <translation>このまま適用</translation>
+    </message>
+</context>
+<context>
+    <name>SystemRebootPanel</name>
+    <message>
+        <source>自动维护</source>
+        <translation>自動メンテナンス</translation>
+    </message>
+    <message>
+        <source>定时自动重启</source>
+        <translation>定期的に再起動</translation>
+    </message>
+    <message>
+        <source>重启时间</source>
+        <translation>再起動時刻</translation>
+    </message>
+    <message>
+        <source>重启日</source>
+        <translation>再起動する曜日</translation>
+    </message>
+    <message>
+        <source>应用</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>立即重启</source>
+        <translation>今すぐ再起動</translation>
+    </message>
+    <message>
+        <source>设备重启期间无法访问，录像和预览会中断。</source>
+        <translation>再起動中はデバイスに接続できず、録画も行われません。</translation>
+    </message>
+    <message>
+        <source>重启设备</source>
+        <translation>デバイスの再起動</translation>
+    </message>
+    <message numerus="yes">
+        <source>勾选的设备中有 %n 台正在升级，不能重启</source>
+        <translation>
+            <numerusform>選択したデバイスのうち %n 台はアップグレード中のため、再起動できません</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SystemResetPanel</name>
+    <message>
+        <source>恢复出厂设置</source>
+        <translation>工場出荷時設定に戻す</translation>
+    </message>
+    <message>
+        <source>设备的全部配置、账号和密码都会清除，此操作无法撤销。恢复后需要重新初始化设备。</source>
+        <translation>デバイスのすべての設定、アカウント、パスワードを消去します。この操作は元に戻せません。デバイスはもう一度初期化する必要があります。</translation>
+    </message>
+    <message numerus="yes">
+        <source>勾选的设备中有 %n 台正在升级，不能恢复出厂设置</source>
+        <translation>
+            <numerusform>選択したデバイスのうち %n 台はアップグレード中のため、工場出荷時設定に戻せません</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SystemTimePanel</name>
+    <message>
+        <source>按电脑时间校时</source>
+        <translation>コンピューターの時刻</translation>
+    </message>
+    <message>
+        <source>同步电脑时间</source>
+        <translation>コンピューターの時刻に同期</translation>
+    </message>
+    <message>
+        <source>每台设备得到发送时刻的电脑时间</source>
+        <translation>各デバイスを、要求を受信した時点の時刻に設定します</translation>
+    </message>
+    <message>
+        <source>手动校时</source>
+        <translation>手動</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>取当前时间</source>
+        <translation>現在時刻を使用</translation>
+    </message>
+    <message>
+        <source>应用</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>设备时间</source>
+        <translation>デバイスの時刻</translation>
+    </message>
+    <message>
+        <source>读取设备时间</source>
+        <translation>デバイスの時刻を読み込む</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>デバイス</translation>
+    </message>
+</context>
+<context>
+    <name>SystemTreeStates</name>
+    <message>
+        <source>全部</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>未登录 %1</source>
+        <extracomment>Shows only the devices without a login; %1 is their number.</extracomment>
+        <translation>未ログイン %1</translation>
+    </message>
+    <message>
+        <source>只显示还没有登录过或最近一次登录失败的设备</source>
+        <translation>まだログインしていないか、前回のログインに失敗したデバイスのみを表示します</translation>
+    </message>
+    <message>
+        <source>未成功 %1</source>
+        <extracomment>Shows only the devices whose batches failed or did not reach them; %1 is their number.</extracomment>
+        <translation>未解決 %1</translation>
+    </message>
+    <message>
+        <source>只显示失败和未执行的设备，按原因排列。</source>
+        <translation>失敗または未実行のデバイスのみを理由順に表示します。</translation>
+    </message>
+    <message numerus="yes">
+        <source>另有 %n 台不在此列表中，见批处理记录。</source>
+        <translation>
+            <numerusform> ほか %n 台はこの一覧にありません。「一括処理履歴」を参照してください。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SystemVideoPanel</name>
+    <message>
+        <source>视频制式</source>
+        <translation>映像方式</translation>
+    </message>
+    <message>
+        <source>制式</source>
+        <translation>方式</translation>
+    </message>
+    <message>
+        <source>PAL 为 50 Hz 电源地区使用，NTSC 为 60 Hz 电源地区使用。部分设备在切换后会重启。</source>
+        <translation>PALは電源周波数50 Hzの地域、NTSCは60 Hzの地域で使用します。変更後に再起動するデバイスがあります。</translation>
+    </message>
+    <message>
+        <source>应用</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>设备的接口没有此功能</source>
+        <translation>デバイスはこの機能に対応していません</translation>
+    </message>
+</context>
+<context>
+    <name>SystemZonePanel</name>
+    <message>
+        <source>请输入NTP服务器</source>
+        <translation>NTPサーバーを入力してください</translation>
+    </message>
+    <message>
+        <source>时区和NTP</source>
+        <translation>タイムゾーンとNTP</translation>
+    </message>
+    <message>
+        <source>时区</source>
+        <translation>タイムゾーン</translation>
+    </message>
+    <message>
+        <source>启用NTP</source>
+        <translation>NTPを有効にする</translation>
+    </message>
+    <message>
+        <source>NTP服务器</source>
+        <translation>NTPサーバー</translation>
+    </message>
+    <message>
+        <source>地址或域名</source>
+        <translation>IPアドレスまたはホスト名</translation>
+    </message>
+    <message>
+        <source>NTP端口</source>
+        <translation>NTPポート</translation>
+    </message>
+    <message>
+        <source>更新周期(分钟)</source>
+        <translation>間隔(分)</translation>
+    </message>
+    <message>
+        <source>应用时区和NTP</source>
+        <translation>タイムゾーンとNTPを適用</translation>
+    </message>
+    <message>
+        <source>设备没有本机的时区 %1，请选择时区</source>
+        <translation>このコンピューターのタイムゾーン %1 にデバイスが対応していません。タイムゾーンを選択してください。</translation>
+    </message>
+    <message>
+        <source>请输入正确的IP地址或域名</source>
+        <translation>正しいIPアドレスまたはホスト名を入力してください</translation>
+    </message>
+</context>
+<context>
+    <name>TemplateText</name>
+    <message>
+        <source>设备的IP地址；网页端口不是80时写成“地址:网页端口”。必填。</source>
+        <translation>デバイスのIPアドレス。Webポートが80以外の場合は「アドレス:Webポート」。必須。</translation>
+    </message>
+    <message>
+        <source>设备的登录端口，只用于检查账号，不用于发送命令。</source>
+        <translation>デバイスのログインポート。アカウントの確認だけに使用します。</translation>
+    </message>
+    <message>
+        <source>登录设备的用户名，不能包含冒号。</source>
+        <translation>デバイスのユーザー名。コロンは使用できません。</translation>
+    </message>
+    <message>
+        <source>登录设备的密码。执行完成后请从文件中删除。</source>
+        <translation>デバイスのパスワード。使用後はファイルから削除してください。</translation>
+    </message>
+    <message>
+        <source>以“/”开头的命令。设备接受的命令会发送两次。必填。</source>
+        <translation>「/」で始まるコマンド。受理されたコマンドはデバイスに2回送信されます。必須。</translation>
+    </message>
+    <message>
+        <source>协议</source>
+        <translation>プロトコル</translation>
+    </message>
+    <message>
+        <source>0表示HTTP，其他整数表示HTTPS；不填时为HTTP。</source>
+        <translation>0はHTTP、その他の整数はHTTPS。空欄の場合はHTTP。</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>由程序填写：设备的应答，图片或录像的文件路径，或以“Error:”开头的失败原因。</source>
+        <translation>プログラムが記入します: 応答、画像または録画のパス、または「Error:」と理由。</translation>
+    </message>
+    <message>
+        <source>命令</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>说明</source>
+        <translation>説明</translation>
+    </message>
+    <message>
+        <source>列</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>含义</source>
+        <translation>意味</translation>
+    </message>
+    <message>
+        <source>请保留第一行的标题，并在执行前用自己的内容替换示例行。</source>
+        <translation>見出し行は残してください。例の行をご自分の行に置き換えてください。</translation>
+    </message>
+    <message>
+        <source>IP和命令都为空的行会被跳过。</source>
+        <translation>アドレスもコマンドもない行はスキップされます。</translation>
+    </message>
+    <message>
+        <source>执行时请不要在其他程序中打开此文件。</source>
+        <translation>実行中は、このファイルをほかのプログラムで開かないでください。</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeBatches</name>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备不能用此文件升级，请查看结果</source>
+        <extracomment>Of the devices that a file was chosen for.</extracomment>
+        <translation>
+            <numerusform>%n 台のデバイスはこのファイルでアップグレードできません:「結果」を参照</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>第%1行 %2</source>
+        <translation>%1 行目: %2</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeDocument</name>
+    <message>
+        <source>IP</source>
+        <translation>IP</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>ポート</translation>
+    </message>
+    <message>
+        <source>用户名</source>
+        <translation>ユーザー名</translation>
+    </message>
+    <message>
+        <source>密码</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>升级文件</source>
+        <translation>ファームウェアファイル</translation>
+    </message>
+    <message>
+        <source>文件打开失败</source>
+        <translation>ファイルを開けませんでした</translation>
+    </message>
+    <message>
+        <source>文件格式错误</source>
+        <translation>ファイル形式が正しくありません</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>升级结果无法保存：%1</source>
+        <translation>結果を保存できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>升级结果已保存到文件：%1</source>
+        <translation>結果を %1 に保存しました</translation>
+    </message>
+    <message>
+        <source>原文件无法写入，可能已被打开或为只读。升级结果已另存为：%1</source>
+        <translation>ファイルに書き込めませんでした。読み取り専用か、ほかのプログラムで開かれています。結果を %1 に保存しました</translation>
+    </message>
+    <message>
+        <source>文档中的设备超过 %1 行，请分成多个文档</source>
+        <translation>スプレッドシートのデバイスが %1 台を超えています。分割してください。</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeDocuments</name>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1：成功%2台，失败%3台。</source>
+        <translation>%1: 成功 %2 台、失敗 %3 台。 </translation>
+    </message>
+</context>
+<context>
+    <name>UpgradePreview</name>
+    <message>
+        <source>文档中没有设备</source>
+        <translation>スプレッドシートにデバイスがありません</translation>
+    </message>
+    <message>
+        <source>%1，不会执行</source>
+        <translation>%1: スキップ</translation>
+    </message>
+    <message>
+        <source>%1（%2）</source>
+        <extracomment>The name of a file, and the version of the firmware in it.</extracomment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>设备已是此版本</source>
+        <translation>デバイスはすでにこのバージョンです</translation>
+    </message>
+    <message>
+        <source>读取升级文档</source>
+        <translation>スプレッドシートの読み込み</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradePreviewDialog</name>
+    <message>
+        <source>开始升级</source>
+        <translation>アップグレード開始</translation>
+    </message>
+    <message>
+        <source>设备升级</source>
+        <translation>デバイスアップグレード</translation>
+    </message>
+    <message>
+        <source>升级文档</source>
+        <translation>シートからアップグレード</translation>
+    </message>
+    <message numerus="yes">
+        <source>即将升级 %n 台设备。升级期间设备会重启，请勿断电。</source>
+        <translation>
+            <numerusform>%n 台のデバイスをアップグレードします。デバイスは再起動します。電源を切らないでください。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>结果将写入文档。</source>
+        <translation> 結果はスプレッドシートに書き込まれます。</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeSummary</name>
+    <message>
+        <source>成功 %1</source>
+        <translation>成功 %1</translation>
+    </message>
+    <message>
+        <source>失败 %1</source>
+        <translation>失敗 %1</translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>升级：%1 / %2</source>
+        <extracomment>Finished devices of an upgrade, and all of them.</extracomment>
+        <translation>アップグレード: %1 / %2 完了</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeTable</name>
+    <message>
+        <source>等待</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>登录</source>
+        <translation>ログイン中</translation>
+    </message>
+    <message>
+        <source>发送</source>
+        <translation>送信中</translation>
+    </message>
+    <message>
+        <source>写入</source>
+        <translation>書き込み中</translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>再起動中</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>型番</translation>
+    </message>
+    <message>
+        <source>IP:端口</source>
+        <translation>IP:ポート</translation>
+    </message>
+    <message>
+        <source>版本号</source>
+        <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>升级文件</source>
+        <translation>ファームウェアファイル</translation>
+    </message>
+    <message>
+        <source>进度</source>
+        <translation>進捗</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>未选择</source>
+        <translation>未選択</translation>
+    </message>
+    <message>
+        <source>可以重试</source>
+        <translation>再試行で成功する可能性があります</translation>
+    </message>
+    <message>
+        <source>请先更正文件、账号或设备，再重新升级</source>
+        <translation>ファイル、アカウントまたはデバイスを修正してから、もう一度アップグレードしてください</translation>
+    </message>
+    <message>
+        <source>选择文件</source>
+        <translation>ファイルを選択</translation>
+    </message>
+    <message>
+        <source>升级</source>
+        <translation>アップグレード</translation>
+    </message>
+    <message>
+        <source>停止</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>已开始写入，无法停止</source>
+        <translation>書き込みが始まっているため停止できません</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>备注</source>
+        <translation>備考</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeTemplateText</name>
+    <message>
+        <source>设备的IP地址。必填。</source>
+        <translation>デバイスのIPアドレス。必須。</translation>
+    </message>
+    <message>
+        <source>设备的登录端口，不填时为37777。</source>
+        <translation>デバイスのログインポート。空欄の場合は37777。</translation>
+    </message>
+    <message>
+        <source>登录设备的用户名；与密码都不填时使用程序已知的账号。</source>
+        <translation>デバイスのユーザー名。パスワードとともに空欄の場合は、プログラムのアカウントを使用します。</translation>
+    </message>
+    <message>
+        <source>登录设备的密码。升级完成后请从文件中删除。</source>
+        <translation>デバイスのパスワード。使用後はファイルから削除してください。</translation>
+    </message>
+    <message>
+        <source>升级文件的完整路径，或相对于此文档所在文件夹的路径。必填。</source>
+        <translation>ファームウェアファイルのパス。絶対パス、またはこのスプレッドシートのフォルダーからの相対パス。必須。</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>由程序填写：升级前后的版本，或失败原因。</source>
+        <translation>プログラムが記入します: アップグレード前後のバージョン、または失敗の理由。</translation>
+    </message>
+    <message>
+        <source>升级</source>
+        <translation>アップグレード</translation>
+    </message>
+    <message>
+        <source>说明</source>
+        <translation>説明</translation>
+    </message>
+    <message>
+        <source>列</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>含义</source>
+        <translation>意味</translation>
+    </message>
+    <message>
+        <source>请保留第一行的标题，并在升级前用自己的内容替换示例行。</source>
+        <translation>見出し行は残してください。例の行をご自分の行に置き換えてください。</translation>
+    </message>
+    <message>
+        <source>IP和升级文件都为空的行会被跳过。</source>
+        <translation>アドレスもファームウェアファイルもない行はスキップされます。</translation>
+    </message>
+    <message>
+        <source>升级时请不要在其他程序中打开此文件。</source>
+        <translation>アップグレード中は、このファイルをほかのプログラムで開かないでください。</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeTexts</name>
+    <message>
+        <source>已开始写入，无法停止</source>
+        <translation>書き込みが始まっているため停止できません</translation>
+    </message>
+    <message>
+        <source>%1（%2%）</source>
+        <translation>%1(%2 %)</translation>
+    </message>
+    <message>
+        <source>尚未停止，正在重试</source>
+        <translation>まだ停止していません: 再試行中</translation>
+    </message>
+    <message>
+        <source>固件已写入，设备正在重启，无法停止</source>
+        <translation>ファームウェアを書き込み済み、デバイス再起動中: 停止できません</translation>
+    </message>
+    <message>
+        <source>升级成功：%1</source>
+        <translation>アップグレードしました: %1</translation>
+    </message>
+    <message>
+        <source>%1：未读到版本号</source>
+        <translation>%1: バージョンの通知なし</translation>
+    </message>
+    <message>
+        <source>%1：现为 %2，升级前的版本未知</source>
+        <translation>%1: 現在 %2、以前のバージョンは不明</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeToolBar</name>
+    <message>
+        <source>开始升级</source>
+        <translation>アップグレード開始</translation>
+    </message>
+    <message>
+        <source>升级勾选的设备</source>
+        <translation>選択したデバイスをアップグレードします</translation>
+    </message>
+    <message>
+        <source>选择文件</source>
+        <translation>ファイルを選択</translation>
+    </message>
+    <message>
+        <source>为勾选的设备选择同一个升级文件</source>
+        <translation>選択したデバイスに使うファームウェアファイルを選択します</translation>
+    </message>
+    <message>
+        <source>重试失败项</source>
+        <translation>失敗を再試行</translation>
+    </message>
+    <message>
+        <source>再次升级重试可能成功的设备，例如无应答的设备</source>
+        <translation>応答がなかったデバイスなど、再試行で成功する可能性のあるデバイスをもう一度アップグレードします</translation>
+    </message>
+    <message>
+        <source>升级文档</source>
+        <translation>シートからアップグレード</translation>
+    </message>
+    <message>
+        <source>按表格文件升级其中的设备，并把结果写回文件</source>
+        <translation>スプレッドシートのデバイスをアップグレードし、結果を書き込みます</translation>
+    </message>
+    <message>
+        <source>打开模板</source>
+        <translation>テンプレートを開く</translation>
+    </message>
+    <message>
+        <source>打开升级文档的模板文件</source>
+        <translation>アップグレード用スプレッドシートのテンプレートを開きます</translation>
+    </message>
+    <message>
+        <source>搜索...</source>
+        <translation>検索...</translation>
+    </message>
+    <message>
+        <source>IPV4</source>
+        <translation>IPv4</translation>
+    </message>
+    <message>
+        <source>IPV6</source>
+        <translation>IPv6</translation>
+    </message>
+    <message>
+        <source>同时升级</source>
+        <extracomment>Followed by a number of devices.</extracomment>
+        <translation>同時実行台数</translation>
+    </message>
+    <message>
+        <source>同时升级的设备数</source>
+        <translation>同時にアップグレードするデバイス数</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeTools</name>
+    <message>
+        <source>等待设备重启</source>
+        <translation>デバイスの再起動を待機中</translation>
+    </message>
+    <message>
+        <source>正在写入，请勿断电</source>
+        <translation>書き込み中: デバイスの電源を切らないでください</translation>
+    </message>
+    <message>
+        <source>正在发送文件</source>
+        <translation>ファイルを送信中</translation>
+    </message>
+    <message>
+        <source>正在登录设备</source>
+        <translation>ログイン中</translation>
+    </message>
+    <message>
+        <source>等待升级</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>升级成功</source>
+        <translation>アップグレードしました</translation>
+    </message>
+    <message>
+        <source>未选择升级文件</source>
+        <translation>ファームウェアファイルが選択されていません</translation>
+    </message>
+    <message>
+        <source>升级文件不存在</source>
+        <translation>ファームウェアファイルが存在しません</translation>
+    </message>
+    <message>
+        <source>升级文件无法读取</source>
+        <translation>ファームウェアファイルを読み込めませんでした</translation>
+    </message>
+    <message>
+        <source>升级文件是空的</source>
+        <translation>ファームウェアファイルが空です</translation>
+    </message>
+    <message>
+        <source>升级文件过大</source>
+        <translation>ファームウェアファイルが大きすぎます</translation>
+    </message>
+    <message>
+        <source>升级文件已损坏</source>
+        <translation>ファームウェアファイルが破損しています</translation>
+    </message>
+    <message>
+        <source>升级文件不适用于此型号</source>
+        <translation>別の型番用のファームウェアです</translation>
+    </message>
+    <message>
+        <source>设备不接受此升级文件</source>
+        <translation>デバイスがファームウェアを拒否しました</translation>
+    </message>
+    <message>
+        <source>密码错误</source>
+        <translation>パスワードが違います</translation>
+    </message>
+    <message>
+        <source>账号不存在</source>
+        <translation>アカウントが存在しません</translation>
+    </message>
+    <message>
+        <source>账号被锁定</source>
+        <translation>アカウントがロックされています</translation>
+    </message>
+    <message>
+        <source>设备未初始化</source>
+        <translation>デバイスは初期化されていません</translation>
+    </message>
+    <message>
+        <source>设备不支持升级，或未初始化</source>
+        <translation>アップグレード非対応、またはデバイスが未初期化</translation>
+    </message>
+    <message>
+        <source>IP或端口填写错误</source>
+        <translation>IPアドレスまたはポートが無効です</translation>
+    </message>
+    <message>
+        <source>与前面的行是同一设备</source>
+        <translation>前の行と同じデバイスです</translation>
+    </message>
+    <message>
+        <source>设备无应答</source>
+        <translation>デバイスから応答がありません</translation>
+    </message>
+    <message>
+        <source>设备忙，请稍后重试</source>
+        <translation>デバイスはビジーです。後でもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>设备中断了升级</source>
+        <translation>デバイスが中断しました</translation>
+    </message>
+    <message>
+        <source>升级长时间没有进展</source>
+        <translation>長時間進捗がありません</translation>
+    </message>
+    <message>
+        <source>设备重启后未恢复</source>
+        <translation>再起動後に応答がありません</translation>
+    </message>
+    <message>
+        <source>重启后仍是原版本</source>
+        <translation>再起動後もバージョンが同じです</translation>
+    </message>
+    <message>
+        <source>已停止，设备未改动</source>
+        <translation>停止しました: デバイスの変更なし</translation>
+    </message>
+    <message>
+        <source>程序退出，升级中断</source>
+        <translation>中断: プログラムが閉じられました</translation>
+    </message>
+    <message>
+        <source>未知错误 %1</source>
+        <translation>不明なエラー %1</translation>
+    </message>
+    <message>
+        <source>批量升级模板.xlsx</source>
+        <translation>一括アップグレードテンプレート.xlsx</translation>
+    </message>
+    <message>
+        <source>设备已恢复，但无法确认版本</source>
+        <translation>再起動しましたが、バージョンを読み込めませんでした</translation>
+    </message>
+    <message>
+        <source>设备证书未确认</source>
+        <translation>証明書は信頼されていません</translation>
+    </message>
+    <message>
+        <source>设备证书已改变</source>
+        <translation>証明書が変わりました</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradeWork</name>
+    <message>
+        <source>请选择一台设备</source>
+        <translation>デバイスを選択してください</translation>
+    </message>
+    <message>
+        <source>选择升级文件</source>
+        <translation>ファームウェアファイルの選択</translation>
+    </message>
+    <message>
+        <source>升级文件</source>
+        <translation>ファームウェアファイル</translation>
+    </message>
+    <message>
+        <source>所有文件</source>
+        <translation>すべてのファイル</translation>
+    </message>
+    <message>
+        <source>没有可以重试的设备</source>
+        <translation>再試行するデバイスはありません</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备未升级成功，请查看结果</source>
+        <extracomment>Devices that were upgraded.</extracomment>
+        <translation>
+            <numerusform>%n 台のデバイスはアップグレードされませんでした:「結果」を参照</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备升级成功</source>
+        <translation>
+            <numerusform>%n 台のデバイスをアップグレードしました</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>打开</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>打开模板文件失败。</source>
+        <translation>テンプレートを開けませんでした。</translation>
+    </message>
+    <message>
+        <source>设备升级</source>
+        <translation>デバイスアップグレード</translation>
+    </message>
+    <message>
+        <source>升级文档</source>
+        <translation>シートからアップグレード</translation>
+    </message>
+    <message>
+        <source>已停止：升级成功 %1 台，失败 %2 台，未执行 %3 台</source>
+        <extracomment>Devices that were to be upgraded.</extracomment>
+        <translation>停止しました: 成功 %1 台、失敗 %2 台、未実行 %3 台</translation>
+    </message>
+</context>
+<context>
+    <name>ValueTables</name>
+    <message>
+        <source>普通</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>动检</source>
+        <translation>動体検知</translation>
+    </message>
+    <message>
+        <source>报警</source>
+        <translation>アラーム</translation>
+    </message>
+    <message>
+        <source>白天</source>
+        <translation>デイ</translation>
+    </message>
+    <message>
+        <source>夜晚</source>
+        <translation>ナイト</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>背光补偿</source>
+        <translation>逆光補正</translation>
+    </message>
+    <message>
+        <source>宽动态</source>
+        <translation>ワイドダイナミックレンジ</translation>
+    </message>
+    <message>
+        <source>强光抑制</source>
+        <translation>ハイライト補正</translation>
+    </message>
+</context>
+<context>
+    <name>VideoConfig</name>
+    <message>
+        <source>编码配置</source>
+        <translation>エンコード</translation>
+    </message>
+    <message>
+        <source>视频配置</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>重新登录</source>
+        <translation>再ログイン</translation>
+    </message>
+    <message>
+        <source>重试</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>单击左侧的一台设备，登录后在此查看并修改它的配置。</source>
+        <translation>左側のデバイスをクリックすると、ログインして設定を変更できます。</translation>
+    </message>
+    <message>
+        <source>请选择设备</source>
+        <translation>デバイスを選択してください</translation>
+    </message>
+    <message>
+        <source>登录失败</source>
+        <translation>ログイン失敗</translation>
+    </message>
+    <message>
+        <source>继续配置</source>
+        <translation>ここで続行</translation>
+    </message>
+    <message>
+        <source>同一时间只能登录一台设备。继续配置将关闭另一台设备的实时画面。</source>
+        <translation>同時にログインできるデバイスは1台だけです。続行すると、ほかのデバイスのライブビューが閉じます。</translation>
+    </message>
+    <message>
+        <source>正在查看另一台设备的实时画面</source>
+        <translation>別のデバイスのライブビューが開いています</translation>
+    </message>
+    <message>
+        <source>连接已断开</source>
+        <translation>接続が切れました</translation>
+    </message>
+    <message>
+        <source>通道名称</source>
+        <translation>チャンネル名</translation>
+    </message>
+    <message>
+        <source>搜索到设备后，在此查看并修改它们的配置。</source>
+        <translation>検索でデバイスが見つかると、ここで設定を表示・変更できます。</translation>
+    </message>
+    <message>
+        <source>没有设备</source>
+        <translation>デバイスなし</translation>
+    </message>
+</context>
+<context>
+    <name>VideoItem</name>
+    <message>
+        <source>无法显示画面：Shaders 文件夹中的文件缺失或无法使用</source>
+        <translation>画像なし: Shaders フォルダーのファイルがないか破損しています</translation>
+    </message>
+    <message>
+        <source>无法显示画面：显卡不支持这样大的画面</source>
+        <translation>画像なし: グラフィックカードに対して大きすぎます</translation>
+    </message>
+</context>
+<context>
+    <name>VideoStream</name>
+    <message>
+        <source>播放失败</source>
+        <translation>再生失敗</translation>
+    </message>
+    <message>
+        <source>播放失败：%1</source>
+        <translation>再生失敗: %1</translation>
+    </message>
+    <message>
+        <source>与设备的连接已中断</source>
+        <translation>デバイスとの接続が切れました</translation>
+    </message>
+    <message>
+        <source>设备结束了视频流</source>
+        <translation>デバイスがストリームを終了しました</translation>
+    </message>
+    <message>
+        <source>设备没有发送可显示的画面</source>
+        <translation>デバイスから映像が送信されていません</translation>
+    </message>
+    <message>
+        <source>设备不再接受登录</source>
+        <translation>デバイスがログインを受け付けなくなりました</translation>
+    </message>
+    <message>
+        <source>设备发送的数据不是视频流</source>
+        <translation>デバイスが送信するデータは映像ストリームではありません</translation>
+    </message>
+    <message>
+        <source>本机无法处理视频流</source>
+        <translation>このコンピューターではストリームをデコードできません</translation>
+    </message>
+</context>
+<context>
+    <name>WatchedDevices</name>
+    <message>
+        <source>通道 %1</source>
+        <translation>チャンネル %1</translation>
+    </message>
+</context>
+<context>
+    <name>WebPages</name>
+    <message>
+        <source>设备证书已改变，网页未打开。请勿在此设备上输入密码。</source>
+        <translation>デバイスの証明書が変わったため、Webページを開きませんでした。このデバイスにパスワードを入力しないでください。</translation>
+    </message>
+    <message>
+        <source>设备证书未确认，网页未打开。</source>
+        <translation>デバイスの証明書が確認されていないため、Webページを開きませんでした。</translation>
+    </message>
+    <message>
+        <source>无法打开浏览器，设备网页：%1</source>
+        <translation>ブラウザーを開けませんでした。デバイスのWebページ: %1</translation>
+    </message>
+</context>
+<context>
+    <name>WindowPopups</name>
+    <message>
+        <source>停止并退出</source>
+        <translation>停止して終了</translation>
+    </message>
+    <message>
+        <source>已开始写入的设备会自行完成升级，请勿断电。</source>
+        <translation> ファームウェアを書き込み中のデバイスはそのまま完了します。電源を切らないでください。</translation>
+    </message>
+    <message numerus="yes">
+        <source>已信任 %n 个证书，请重试刚才的操作</source>
+        <translation>
+            <numerusform>%n 件の証明書を信頼しました。もう一度お試しください。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>退出程序</source>
+        <translation>プログラムの終了</translation>
+    </message>
+    <message>
+        <source>账号无法保存，只用到下次搜索：%1</source>
+        <translation>アカウントを保存できないため、次の検索までのみ使用します: %1</translation>
+    </message>
+    <message>
+        <source>“%1”正在进行。退出后，其余设备不会更改。</source>
+        <translation>「%1」を実行中です。終了すると、残りのデバイスは変更されません。</translation>
+    </message>
+</context>
+<context>
+    <name>WorkbookResults</name>
+    <message>
+        <source>已停止执行：成功%1行，失败%2行，未执行%3行。</source>
+        <translation>停止しました: 成功 %1 行、失敗 %2 行、未送信 %3 行。</translation>
+    </message>
+    <message>
+        <source>执行完成：成功%1行，失败%2行。</source>
+        <translation>完了しました: 成功 %1 行、失敗 %2 行。</translation>
+    </message>
+    <message>
+        <source>执行结果无法保存：%1</source>
+        <translation>結果を保存できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>执行结果已保存到文件：%1</source>
+        <translation>結果を %1 に保存しました</translation>
+    </message>
+    <message>
+        <source>原文件无法写入，可能已被打开或为只读。执行结果已另存为：%1</source>
+        <translation>ファイルに書き込めませんでした。読み取り専用か、ほかのプログラムで開かれています。結果を %1 に保存しました</translation>
+    </message>
+</context>
+</TS>
