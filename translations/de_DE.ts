@@ -488,7 +488,7 @@
     </message>
     <message>
         <source>重试失败</source>
-        <translation>Fehler wiederholen</translation>
+        <translation>Fehlgeschl. wiederholen</translation>
     </message>
     <message>
         <source>对失败和未执行的设备再试一次</source>
@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>黑白</source>
-        <translation>Schwarz &amp; Weiß</translation>
+        <translation>Schwarzweiß</translation>
     </message>
     <message>
         <source>关闭</source>
@@ -4381,7 +4381,7 @@ Datei: </translation>
     <message>
         <source>重试失败</source>
         <extracomment>%1 is the title of the batch. The page may have a separate retry button.</extracomment>
-        <translation>Fehler wiederholen</translation>
+        <translation>Fehlgeschl. wiederholen</translation>
     </message>
     <message>
         <source>在本页只勾选失败和未执行的设备</source>
@@ -4436,7 +4436,7 @@ Datei: </translation>
     </message>
     <message>
         <source>重试失败：%1</source>
-        <translation>Fehler wiederholen: %1</translation>
+        <translation>Fehlgeschl. wiederholen: %1</translation>
     </message>
     <message>
         <source>对“%1”中失败和未执行的设备再试一次，密码错误等不会因重试而成功的除外</source>
@@ -5153,7 +5153,7 @@ Datei: </translation>
     </message>
     <message>
         <source>设备已接受，但结果未确认</source>
-        <translation>Vom Gerät übernommen, nicht bestätigt</translation>
+        <translation>Vom Gerät angenommen, nicht bestätigt</translation>
     </message>
 </context>
 <context>
@@ -6621,7 +6621,7 @@ Datei: </translation>
     </message>
     <message>
         <source>重试失败项</source>
-        <translation>Fehler wiederholen</translation>
+        <translation>Fehlgeschl. wiederholen</translation>
     </message>
     <message>
         <source>再次升级重试可能成功的设备，例如无应答的设备</source>

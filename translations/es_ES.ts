@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>黑白</source>
-        <translation>Blanco &amp; negro</translation>
+        <translation>Blanco y negro</translation>
     </message>
     <message>
         <source>关闭</source>
@@ -3186,7 +3186,7 @@ Clic derecho para copiar el resultado</translation>
     </message>
     <message>
         <source>恢复默认</source>
-        <translation>Restaurar valores</translation>
+        <translation>Valores predeterminados</translation>
     </message>
     <message>
         <source>名称过长，最多 %1 字节</source>
@@ -5153,7 +5153,7 @@ Archivo: </translation>
     </message>
     <message>
         <source>设备已接受，但结果未确认</source>
-        <translation>Recibido por el dispositivo, sin confirmar</translation>
+        <translation>Aceptado por el dispositivo, sin confirmar</translation>
     </message>
 </context>
 <context>
@@ -6761,7 +6761,7 @@ Archivo: </translation>
     </message>
     <message>
         <source>设备中断了升级</source>
-        <translation>Cancelado por el dispositivo</translation>
+        <translation>Interrumpido por el dispositivo</translation>
     </message>
     <message>
         <source>升级长时间没有进展</source>

@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>黑白</source>
-        <translation>Noir &amp; blanc</translation>
+        <translation>Noir et blanc</translation>
     </message>
     <message>
         <source>关闭</source>
@@ -5153,7 +5153,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>设备已接受，但结果未确认</source>
-        <translation>Reçu par l&apos;appareil, non confirmé</translation>
+        <translation>Accepté par l&apos;appareil, non confirmé</translation>
     </message>
 </context>
 <context>
@@ -6761,7 +6761,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>设备中断了升级</source>
-        <translation>Abandon de l&apos;appareil</translation>
+        <translation>Abandon par l&apos;appareil</translation>
     </message>
     <message>
         <source>升级长时间没有进展</source>

@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>黑白</source>
-        <translation>Bianco &amp; nero</translation>
+        <translation>Bianco e nero</translation>
     </message>
     <message>
         <source>关闭</source>
@@ -5153,7 +5153,7 @@ File: </translation>
     </message>
     <message>
         <source>设备已接受，但结果未确认</source>
-        <translation>Ricevuto dal dispositivo, non confermato</translation>
+        <translation>Accettato dal dispositivo, non confermato</translation>
     </message>
 </context>
 <context>
@@ -6761,7 +6761,7 @@ File: </translation>
     </message>
     <message>
         <source>设备中断了升级</source>
-        <translation>Annullato dal dispositivo</translation>
+        <translation>Interrotto dal dispositivo</translation>
     </message>
     <message>
         <source>升级长时间没有进展</source>

@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>黑白</source>
-        <translation>Zwart &amp; wit</translation>
+        <translation>Zwart-wit</translation>
     </message>
     <message>
         <source>关闭</source>
@@ -2951,7 +2951,7 @@ Klik met rechts om het resultaat te kopiëren</translation>
     </message>
     <message>
         <source>灯光</source>
-        <translation>Verlichting</translation>
+        <translation>Lamp</translation>
     </message>
     <message>
         <source>近光亮度</source>
@@ -5153,7 +5153,7 @@ Bestand: </translation>
     </message>
     <message>
         <source>设备已接受，但结果未确认</source>
-        <translation>Ontvangen door het apparaat, niet bevestigd</translation>
+        <translation>Geaccepteerd door het apparaat, niet bevestigd</translation>
     </message>
 </context>
 <context>
@@ -6578,7 +6578,7 @@ Bestand: </translation>
     </message>
     <message>
         <source>%1（%2%）</source>
-        <translation>%1 op %2%</translation>
+        <translation>%1 bij %2%</translation>
     </message>
     <message>
         <source>尚未停止，正在重试</source>

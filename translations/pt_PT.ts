@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>黑白</source>
-        <translation>Preto &amp; branco</translation>
+        <translation>Preto e branco</translation>
     </message>
     <message>
         <source>关闭</source>
@@ -2889,7 +2889,7 @@ Clique com o botão direito para copiar o resultado</translation>
     </message>
     <message>
         <source>红增益</source>
-        <translation>Ganho de verm.</translation>
+        <translation>Ganho de vermelho</translation>
     </message>
 </context>
 <context>
@@ -3320,7 +3320,7 @@ Clique com o botão direito para copiar o resultado</translation>
     </message>
     <message>
         <source>重新登录</source>
-        <translation>Reiniciar sessão</translation>
+        <translation>Iniciar sessão de novo</translation>
     </message>
     <message>
         <source>重试</source>
@@ -3473,7 +3473,7 @@ Clique com o botão direito para copiar o resultado</translation>
     </message>
     <message>
         <source>重新登录</source>
-        <translation>Reiniciar sessão</translation>
+        <translation>Iniciar sessão de novo</translation>
     </message>
     <message>
         <source>重试</source>
@@ -4564,7 +4564,7 @@ Ficheiro: </translation>
     <name>OVTreeRow</name>
     <message>
         <source>收起</source>
-        <translation>Fechar ramo</translation>
+        <translation>Recolher</translation>
     </message>
     <message>
         <source>展开</source>
@@ -4968,7 +4968,7 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>重新登录</source>
-        <translation>Reiniciar sessão</translation>
+        <translation>Iniciar sessão de novo</translation>
     </message>
     <message>
         <source>设备 %1 没有接受登录，请输入它的账号和密码。</source>
@@ -5153,7 +5153,7 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>设备已接受，但结果未确认</source>
-        <translation>Recebido pelo dispositivo, não confirmado</translation>
+        <translation>Aceite pelo dispositivo, não confirmado</translation>
     </message>
 </context>
 <context>
@@ -6578,7 +6578,7 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>%1（%2%）</source>
-        <translation>%1 a %2%</translation>
+        <translation>%1 aos %2%</translation>
     </message>
     <message>
         <source>尚未停止，正在重试</source>
@@ -6761,7 +6761,7 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>设备中断了升级</source>
-        <translation>Anulado pelo dispositivo</translation>
+        <translation>Interrompido pelo dispositivo</translation>
     </message>
     <message>
         <source>升级长时间没有进展</source>
@@ -6914,7 +6914,7 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>重新登录</source>
-        <translation>Reiniciar sessão</translation>
+        <translation>Iniciar sessão de novo</translation>
     </message>
     <message>
         <source>重试</source>
