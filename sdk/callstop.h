@@ -8,8 +8,9 @@
 namespace sdk {
 
 /// While the object exists, a call of NetModifyDeviceBySearch on this thread ends early: when a stop is
-/// requested, or when the caller's time is over. A request that is already sent is completed first. A wait
-/// for the device at its new address ends within a fraction of a second. A thread has one object at a time.
+/// requested, or when the caller's time is over. A request that changes the device is completed first, if it
+/// is already sent. Other requests end within a fraction of a second on a stop, and a wait for the device at
+/// its new address also when the time is over. A thread has one object at a time.
 class CallStop
 {
 public:

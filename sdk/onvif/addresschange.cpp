@@ -176,6 +176,31 @@ const DeviceInterface *interfaceOf(const std::vector<DeviceInterface> &interface
     return same != interfaces.end() ? &*same : interfaceInUse(interfaces, address);
 }
 
+/// A device before its address is changed.
+struct PresentDevice
+{
+    std::shared_ptr<OnvifSession> session; ///< null if the login failed
+    std::vector<DeviceInterface> interfaces;
+    NetError error = NetError::None;
+};
+
+/// Logs in and queries the interfaces. A stop ends these requests, since they change nothing.
+PresentDevice presentDevice(const ServiceAddress &service, const std::shared_ptr<HttpClient> &http,
+                            const HttpLogin &login, SoapClient::Deadline deadline)
+{
+    const std::stop_callback cancelOnStop(CallStop::token(), [http] { http->cancel(); });
+    PresentDevice present;
+    present.session = OnvifSession::open(service, login, http, deadline, present.error);
+    if (present.session) {
+        auto interfaces = present.session->device(deadline).interfaces();
+        present.interfaces = std::move(interfaces.value);
+        present.error = interfaces.error;
+    }
+    if (isAnswerLost(present.error) && CallStop::isRequested())
+        present.error = NetError::Cancelled;
+    return present;
+}
+
 } // namespace
 
 NetError changeAddress(const ServiceAddress &service, const std::shared_ptr<HttpClient> &http,
@@ -186,21 +211,19 @@ NetError changeAddress(const ServiceAddress &service, const std::shared_ptr<Http
         prefixLength || order.mask.empty(); // a search does not report the mask of every device
     if (!order.dhcp && (!isMask || order.address.empty()))
         return NetError::InvalidValue;
-    NetError error = NetError::None;
-    const std::shared_ptr<OnvifSession> session = OnvifSession::open(service, login, http, deadline, error);
-    if (!session)
-        return error;
-    DeviceService device = session->device(deadline);
-    const auto interfaces = device.interfaces();
-    if (interfaces.isOk() && isOtherDevice(interfaces.value, order.mac))
+    const PresentDevice present = presentDevice(service, http, login, deadline);
+    if (present.error != NetError::None)
+        return present.error;
+    if (isOtherDevice(present.interfaces, order.mac))
         return NetError::AddressInUse;
-    const DeviceInterface *interface = interfaceOf(interfaces.value, order.mac, service.host);
-    if (!interfaces.isOk() || !interface)
-        return interfaces.isOk() ? NetError::NotSupported : interfaces.error;
+    const DeviceInterface *interface = interfaceOf(present.interfaces, order.mac, service.host);
+    if (!interface)
+        return NetError::NotSupported;
 
     if (CallStop::isRequested())
         return NetError::Cancelled; // nothing has been changed up to here
-    std::vector<std::string> macs = macsOf(interfaces.value, service.host);
+    DeviceService device = present.session->device(deadline);
+    std::vector<std::string> macs = macsOf(present.interfaces, service.host);
     // The gateway is written first: after the change of the address the device may be unreachable from this
     // host.
     GatewayChange gateway(order.dhcp ? std::string() : order.gateway);
@@ -223,7 +246,7 @@ NetError changeAddress(const ServiceAddress &service, const std::shared_ptr<Http
     if (order.dhcp)
         return result.error; // only a search can find its new address
 
-    MovedDevice moved(*session, http, order.address, std::move(macs));
+    MovedDevice moved(*present.session, http, order.address, std::move(macs));
     const auto latest =
         std::chrono::steady_clock::now() + (needsReboot ? order.rebootTime : order.settlingTime);
     switch (moved.wait(std::max(deadline, latest))) {

@@ -28,8 +28,9 @@ struct AddressOrder
 /// limits the requests; the timeouts of the order limit the wait for the new address. A changed gateway is
 /// restored when the device refuses the address.
 ///
-/// A CallStop of this thread ends the wait for the device, and cancelling `http` ends every request. Returns
-/// Cancelled if the CallStop was requested before anything was changed.
+/// A CallStop of this thread ends the requests before the first change, and the wait for the device after the
+/// last one; changes are completed. Cancelling `http` ends every request. Returns Cancelled if the CallStop
+/// was requested before anything was changed.
 ///
 /// Returns InvalidValue for an invalid mask and for an empty address without DHCP. Returns AddressInUse if
 /// another device responds at the present or at the new address, Unconfirmed if no device responds at the new

@@ -269,6 +269,32 @@ private Q_SLOTS:
             QCOMPARE(device.requestsWith(QByteArray("Host: ") + newAddress, "UsernameToken"), 1);
     }
 
+    /// The user has stopped the change while the device does not respond: nothing has been changed.
+    void aStopEndsTheRequestsBeforeAnAddressChange_data()
+    {
+        const auto row = dataTable<QByteArray>({"silent"});
+        row("during the login", "GetDeviceInformation");
+        row("during the query of the interfaces", "GetNetworkInterfaces");
+    }
+
+    void aStopEndsTheRequestsBeforeAnAddressChange()
+    {
+        QFETCH(const QByteArray, silent);
+        const ScriptedDevice device(Manners{{silent, Manner::Silent}});
+        const AddressOrder order = {.address = newAddress, .mask = "255.0.0.0", .gateway = "127.0.0.10"};
+        std::stop_source stop;
+        auto result = std::async(std::launch::async, [&] {
+            const sdk::CallStop callStop(stop.get_token());
+            return changeAddress(device.service(), std::make_shared<HttpClient>(), login, order,
+                                 std::chrono::steady_clock::now() + 30s);
+        });
+        QTRY_VERIFY(device.requestsWith(silent) > 0);
+        stop.request_stop();
+        QCOMPARE(result.wait_for(5s), std::future_status::ready);
+        QCOMPARE(code(result.get()), code(NetError::Cancelled));
+        QCOMPARE(device.requestsWith("<tds:Set"), 0);
+    }
+
     /// A device may take a minute to restart: a stop does not wait for it.
     void theWaitForADeviceAtItsNewAddressEnds_data()
     {
