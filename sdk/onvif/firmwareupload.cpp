@@ -48,12 +48,13 @@ public:
         std::int64_t handle = 0;
         UpgradeProgressHandler handler = nullptr;
         void *user = nullptr;
+        std::function<void()> accepted;
     };
 
     FirmwareTransfer(LLONG loginHandle, FirmwareUpload upload, HttpLogin login, std::string fileName,
                      Receiver receiver, std::shared_ptr<const CertificateDecision> decision)
         : m_loginHandle(loginHandle), m_upload(std::move(upload)), m_login(std::move(login)),
-          m_fileName(std::move(fileName)), m_receiver(receiver), m_http(std::move(decision))
+          m_fileName(std::move(fileName)), m_receiver(std::move(receiver)), m_http(std::move(decision))
     {
         m_thread = std::jthread([this](const std::stop_token &stop) { run(stop); });
     }
@@ -87,10 +88,12 @@ private:
         if (stop.stop_requested())
             return;
         const NetError failure = errorOf(response);
-        if (failure == NetError::None)
+        if (failure == NetError::None) {
+            m_receiver.accepted();
             report(UpgradePhase::Done, fullPercent);
-        else
+        } else {
             report(UpgradePhase::Failed, 0, failure);
+        }
     }
 
     void takeProgress(std::int64_t sent)
@@ -152,16 +155,18 @@ bool FirmwareUploads::isReadable(const std::string &fileName)
 }
 
 std::int64_t FirmwareUploads::open(LLONG loginHandle, const FirmwareUpload &upload, const HttpLogin &login,
-                                   const std::string &fileName, UpgradeProgressHandler handler, void *user)
+                                   const std::string &fileName, UpgradeProgressHandler handler, void *user,
+                                   const std::function<void()> &accepted)
 {
     const std::scoped_lock lock(m_mutex);
     const std::int64_t handle = ++m_lastHandle;
     try {
-        m_transfers.emplace(
-            handle,
-            std::make_shared<FirmwareTransfer>(
-                loginHandle, upload, login, fileName,
-                FirmwareTransfer::Receiver{.handle = handle, .handler = handler, .user = user}, m_decision));
+        m_transfers.emplace(handle,
+                            std::make_shared<FirmwareTransfer>(
+                                loginHandle, upload, login, fileName,
+                                FirmwareTransfer::Receiver{
+                                    .handle = handle, .handler = handler, .user = user, .accepted = accepted},
+                                m_decision));
     } catch (const std::system_error &) {
         return 0;
     }

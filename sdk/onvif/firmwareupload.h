@@ -7,6 +7,7 @@
 #include "sdk/upgradeblocks.h"
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -30,10 +31,12 @@ public:
     [[nodiscard]] static bool isReadable(const std::string &fileName);
 
     /// Starts the upload of the file, after the delay that the device has requested. The progress is reported
-    /// on the thread of the upload, possibly before the return. Returns the handle, 0 when no thread can be
+    /// on the thread of the upload, possibly before the return. `accepted` is called on that thread when the
+    /// device has accepted the file, before Done is reported. Returns the handle, 0 when no thread can be
     /// created.
     [[nodiscard]] std::int64_t open(LLONG loginHandle, const FirmwareUpload &upload, const HttpLogin &login,
-                                    const std::string &fileName, UpgradeProgressHandler handler, void *user);
+                                    const std::string &fileName, UpgradeProgressHandler handler, void *user,
+                                    const std::function<void()> &accepted);
 
     /// Ends an upload and frees its handle. The handler does not run after a successful call. NotSupported
     /// while the device has the complete file and has not responded; InvalidValue for an invalid handle.

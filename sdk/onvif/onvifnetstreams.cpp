@@ -126,7 +126,8 @@ std::int64_t OnvifNetLibrary::NetStartUpgrade(LLONG loginHandle, const char *fil
         const auto upload = session.device(deadline).startFirmwareUpgrade();
         if (!upload.isOk())
             return upload.error;
-        handle = m_uploads.open(loginHandle, upload.value, session.client().login(), fileName, handler, user);
+        handle = m_uploads.open(loginHandle, upload.value, session.client().login(), fileName, handler, user,
+                                [this, host = session.service().host] { endSessionsTo(host); });
         return handle > 0 ? NetError::None : NetError::NetworkFailure;
     });
     if (!isStarted && handle > 0)

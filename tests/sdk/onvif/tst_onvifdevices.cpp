@@ -386,9 +386,12 @@ private Q_SLOTS:
         QVERIFY2(upgrade > 0, lastError());
         QTRY_VERIFY_WITH_TIMEOUT(phases.phases().contains(static_cast<int>(UpgradePhase::Done)), 60000);
         QVERIFY(m_net.NetStopUpgrade(upgrade));
-        m_net.NetLogout(handle);
-        // The device reboots when it has written the file.
+        // The device reboots when it has written the file. Its sessions end, although it would accept the
+        // login.
         QTRY_COMPARE_WITH_TIMEOUT(versionOf("192.168.1.105"), u"9.100.0"_s, 60000);
+        QVERIFY(!m_net.NetIsDeviceAlive(handle, 5000ms));
+        QCOMPARE(m_net.NetGetLastError(), code(NetError::NetworkFailure));
+        m_net.NetLogout(handle);
     }
 };
 
