@@ -22,7 +22,7 @@ constexpr int colour = 0;
 constexpr int blackAndWhite = 2;
 constexpr int backLightOn = 1;
 constexpr int wideDynamicOn = 2;
-constexpr int manualWhiteBalance = 1;
+constexpr int manualWhiteBalance = 4;
 constexpr int manualExposure = 1;
 
 ItemKey keyOfItem(sdk::CameraItem item, int channel)
