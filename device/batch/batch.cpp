@@ -522,14 +522,16 @@ void Batch::finish()
     m_isPaused = false;
     m_ended = QDateTime::currentDateTime();
     QList<BatchOutcome> outcomes;
+    QStringList notReached;
     for (const Entry &entry : std::as_const(m_entries)) {
-        if (!entry.time.isValid())
-            outcomes.append({.device = entry.device, .outcome = entry.outcome});
+        if (entry.time.isValid())
+            continue;
+        outcomes.append({.device = entry.device, .outcome = entry.outcome});
+        notReached.append(entry.device.name);
     }
     deliver(outcomes);
-    const QStringList notDone = m_report.devicesWith(BatchReport::NotDone);
-    if (!notDone.isEmpty())
-        Q_EMIT resulted(notDone, QList<int>(notDone.size(), BatchReport::NotDone));
+    if (!notReached.isEmpty())
+        Q_EMIT resulted(notReached, QList<int>(notReached.size(), BatchReport::NotDone));
     Q_EMIT changed();
     Q_EMIT finished();
 }

@@ -172,8 +172,8 @@ public:
 Q_SIGNALS:
     void changed();
 
-    /// Names of devices and their results, in the order of completion. At the end of the batch and in
-    /// cancelWaiting() it reports the devices that were not done; a device can be reported twice then.
+    /// Names of devices and their results, in the order of completion, and at the end of the batch those of
+    /// devices that were not reached. cancelWaiting() reports the waiting devices a second time.
     void resulted(const QStringList &devices, const QList<int> &results);
 
     void finished(); ///< emitted once, after the last result

@@ -224,9 +224,14 @@ private Q_SLOTS:
                                                               device.ipport);
         };
         Batch *batch = m_batches->start(std::move(plan));
+        const QSignalSpy resulted(batch, &Batch::resulted);
         QTRY_VERIFY(!batch->isRunning());
         QCOMPARE(batch->report()->succeeded(), 3);
         const QString late = ipportOf(m_devices.at(1));
+        QStringList reported;
+        for (const QVariantList &group : resulted)
+            reported += group.first().toStringList();
+        QCOMPARE(reported.count(late), 1);
         QCOMPARE(batch->report()->devicesWith(notDone), QStringList(late));
         QVERIFY(!batch->textOf(late).isEmpty()); // it had started
         QCOMPARE(batch->retryableDevices(), QStringList(late));
