@@ -178,15 +178,17 @@ Batch *Batches::changeAddresses(const QString &family, const QString &title, con
     plan.family = family;
     plan.title = title;
     plan.devices = batchDevices(m_factory, family, macs);
+    QHash<QString, QString> addressOf; // `macs` may contain a device twice
+    for (qsizetype index = 0; index < macs.size(); ++index)
+        addressOf.insert(macs.at(index), addresses.value(index));
     QHash<QString, AddressSettings> targets;
-    for (qsizetype index = 0; index < plan.devices.size(); ++index) {
+    for (const BatchDevice &device : std::as_const(plan.devices)) {
         if (dhcp)
-            targets.insert(plan.devices.at(index).identity,
-                           {.address = {}, .mask = {}, .gateway = {}, .dhcp = true});
+            targets.insert(device.identity, {.address = {}, .mask = {}, .gateway = {}, .dhcp = true});
         else
             targets.insert(
-                plan.devices.at(index).identity,
-                {.address = addresses.value(index), .mask = mask, .gateway = gateway, .dhcp = false});
+                device.identity,
+                {.address = addressOf.value(device.name), .mask = mask, .gateway = gateway, .dhcp = false});
     }
     return startAddresses(std::move(plan), targets);
 }

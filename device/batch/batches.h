@@ -64,8 +64,8 @@ public:
                                          const QString &account, const QString &password);
 
     /// Changes the addresses of devices, one after another in the order of `macs`, but a device that gets the
-    /// address of another one follows it. `addresses` is parallel to `macs`, which must not contain
-    /// duplicates. With `dhcp`, `addresses`, `mask` and `gateway` are ignored. Refused if devices exchange
+    /// address of another one follows it. `addresses` is parallel to `macs`; the last address of a repeated
+    /// MAC applies. With `dhcp`, `addresses`, `mask` and `gateway` are ignored. Refused if devices exchange
     /// addresses in a circle.
     Q_INVOKABLE Batch *changeAddresses(const QString &family, const QString &title, const QStringList &macs,
                                        const QStringList &addresses, const QString &mask,
