@@ -191,15 +191,19 @@ bool EncodeValues::setCompression(const QString &name, EncodeItems &items, Encod
     return true;
 }
 
-void EncodeValues::setAudioCompression(const QString &name, EncodeItems &items,
+bool EncodeValues::setAudioCompression(const QString &name, EncodeItems &items,
                                        const sdk::EncodeCapabilityBlock &block) const
 {
-    items.audioCompression.format = ValueTables::audioNameToFormat(name);
+    const int format = ValueTables::audioNameToFormat(name);
+    if (format == 0)
+        return false;
+    items.audioCompression.format = format;
     const QList<int> frequencies = EncodeChoices(m_tables, block).samplingFrequencies(name);
     // If the device does not report frequencies, the current one may be valid.
     if (block.audioRateCount > 0 && items.knows(EncodeItemIndex::AudioFormat) && !frequencies.isEmpty() &&
         !frequencies.contains(items.audioFormat.samplingFrequency))
         items.audioFormat.samplingFrequency = frequencies.first();
+    return true;
 }
 
 bool EncodeValues::setValue(const QString &key, const QVariant &value, EncodeState &state,
@@ -230,8 +234,7 @@ bool EncodeValues::setValue(const QString &key, const QVariant &value, EncodeSta
     if (parts.field == EncodeKey::curAudioCompression) {
         const sdk::EncodeCapabilityBlock &block =
             parts.isSub ? state.subBlock() : state.mainBlock(streamType);
-        setAudioCompression(value.toString(), items, block);
-        return true;
+        return setAudioCompression(value.toString(), items, block);
     }
     if (parts.field == EncodeKey::curResolution) {
         const std::optional<ResolutionChoice> choice = resolutionChoice(m_tables, value.toString());

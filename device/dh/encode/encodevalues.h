@@ -32,8 +32,8 @@ private:
                                        const sdk::EncodeCapabilityBlock &block) const;
     [[nodiscard]] QVariant listValue(const QString &field, bool isSub, const EncodeItems &items,
                                      const sdk::EncodeCapabilityBlock &block) const;
-    void setAudioCompression(const QString &name, EncodeItems &items,
-                             const sdk::EncodeCapabilityBlock &block) const;
+    [[nodiscard]] bool setAudioCompression(const QString &name, EncodeItems &items,
+                                           const sdk::EncodeCapabilityBlock &block) const;
     [[nodiscard]] bool setCompression(const QString &name, EncodeItems &items, EncodeState &state) const;
 
     const ValueTables &m_tables;

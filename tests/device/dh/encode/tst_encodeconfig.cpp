@@ -268,6 +268,8 @@ private Q_SLOTS:
         QCOMPARE(m_site->shown(keys), "AAC|48000|16000,48000");
         m_site->set("curAudioCompression", "G711u"); // the device reports no frequency of it
         QCOMPARE(m_site->shown(keys), "G711u|8000|8000");
+        m_site->set("curAudioCompression", "G999"); // is ignored: it has no format
+        QCOMPARE(m_site->shown(keys), "G711u|8000|8000");
         QCOMPARE(m_site->shown("subCurSamplingFrequency subSamplingFrequency"), "8000|8000");
     }
 
