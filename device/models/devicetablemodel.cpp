@@ -127,6 +127,12 @@ void DeviceTableModel::setIpv6(bool ipv6)
         applyFilter();
 }
 
+void DeviceTableModel::setOddAddressesFirst(bool first)
+{
+    if (std::exchange(m_oddAddressesFirst, first) != first)
+        applyFilter();
+}
+
 void DeviceTableModel::setSearchText(const QString &searchText)
 {
     if (std::exchange(m_searchText, searchText) != searchText)

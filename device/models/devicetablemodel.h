@@ -44,8 +44,8 @@ class DeviceTableModel : public QAbstractListModel
     Q_PROPERTY(bool onlyFailed READ onlyFailed WRITE setOnlyFailed NOTIFY filterChanged)
     Q_PROPERTY(QString failedOperation READ failedOperation WRITE setFailedOperation NOTIFY filterChanged)
     /// Whether strings that are not an IPv4 address are ordered as address 0; otherwise they are the last
-    /// ones. A change applies at the next refresh().
-    Q_PROPERTY(bool oddAddressesFirst MEMBER m_oddAddressesFirst NOTIFY filterChanged)
+    /// ones.
+    Q_PROPERTY(bool oddAddressesFirst READ oddAddressesFirst WRITE setOddAddressesFirst NOTIFY filterChanged)
     Q_PROPERTY(QString sortKey READ sortKey NOTIFY sortChanged)
     Q_PROPERTY(Qt::SortOrder sortOrder READ sortOrder NOTIFY sortChanged)
     Q_PROPERTY(int count READ rowCount NOTIFY countChanged)
@@ -71,6 +71,8 @@ public:
     void setShowUninitialised(bool show);
     [[nodiscard]] bool ipv6() const { return m_ipv6; }
     void setIpv6(bool ipv6);
+    [[nodiscard]] bool oddAddressesFirst() const { return m_oddAddressesFirst; }
+    void setOddAddressesFirst(bool first);
     [[nodiscard]] QString searchText() const { return m_searchText; }
     void setSearchText(const QString &searchText);
     [[nodiscard]] FailedMarks *failedMarks() const { return m_failedMarks.get(); }

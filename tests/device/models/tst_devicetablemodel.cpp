@@ -140,6 +140,16 @@ private Q_SLOTS:
         QCOMPARE(column(key.toUtf8()), ordered);
     }
 
+    void oddAddressesAreLastOrFirst()
+    {
+        m_site->rows->ipv4.append(
+            QJsonObject{{DeviceRowKey::mac, "m9"}, {DeviceRowKey::ipport, "camera:80"}});
+        m_model->setSort(DeviceRowKey::ipport, Qt::AscendingOrder);
+        QCOMPARE(m_model->rowOf("m9"), 5);
+        m_model->setOddAddressesFirst(true);
+        QCOMPARE(m_model->rowOf("m9"), 0);
+    }
+
     /// During a search, rows change between two reads of the list.
     void aRowChangedDuringARefreshHidesNoOther()
     {
