@@ -78,8 +78,6 @@ SystemTools::PasswordFault SystemTools::newPasswordFault(const QString &password
     constexpr int longest = 32;
     if (passwordStrength(password) <= weak)
         return TooWeak;
-    if (password.isEmpty())
-        return NoPassword;
     if (confirmation.isEmpty())
         return NoConfirmation;
     if (confirmation != password)

@@ -15,8 +15,7 @@ public:
     enum PasswordFault
     {
         NoFault = 0,
-        TooWeak,    ///< fewer than two kinds of characters, see passwordStrength(); also an empty password
-        NoPassword, ///< not returned: an empty password is too weak
+        TooWeak, ///< fewer than two kinds of characters, see passwordStrength(); also an empty password
         NoConfirmation,
         NotTheSame,      ///< password and confirmation differ
         LengthOutOfRange ///< not 8 to 32 characters

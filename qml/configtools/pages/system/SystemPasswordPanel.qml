@@ -45,8 +45,6 @@ Column {
         switch (fault) {
         case SystemTools.TooWeak:
             return qsTr("请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。");
-        case SystemTools.NoPassword:
-            return qsTr("请输入密码");
         case SystemTools.NoConfirmation:
             return qsTr("请确认密码");
         case SystemTools.NotTheSame:
