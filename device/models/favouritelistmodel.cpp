@@ -183,6 +183,8 @@ QVariantList FavouriteListModel::devicesToAdd(const QStringList &identities) con
     QVariantList devices;
     for (const QString &identity : identities) {
         QVariantMap favourite = device(identity);
+        if (favourite.isEmpty())
+            continue;
         favourite.insert(DeviceToAddKey::identity, identity);
         favourite.insert(DeviceToAddKey::password,
                          author.AesDecrypt(favourite.take(RowKey::cipher).toString()));

@@ -56,7 +56,7 @@ public:
     Q_INVOKABLE [[nodiscard]] QVariantMap device(const QString &identity) const;
 
     /// Favourites to be added, in the form of AddingBatches::addDevices(): with "identity" and the decrypted
-    /// "password" instead of "cipher".
+    /// "password" instead of "cipher". Without unknown identities.
     Q_INVOKABLE [[nodiscard]] QVariantList devicesToAdd(const QStringList &identities) const;
 
     /// The texts of a row, separated by tabs, for the clipboard.

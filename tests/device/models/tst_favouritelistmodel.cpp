@@ -135,6 +135,7 @@ private Q_SLOTS:
         QCOMPARE(model.get(1).value("note").toString(), QString("changed"));
         QCOMPARE(model.rowOf("a.json"), -1);
         QVERIFY(model.device("a.json").isEmpty());
+        QCOMPARE(model.devicesToAdd({"a.json", "c.json"}).size(), 1);
 
         model.forgetProgress();
         QCOMPARE(model.get(1).value("progress").toInt(), int(FavouriteListModel::Untried));
