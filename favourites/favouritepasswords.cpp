@@ -14,10 +14,10 @@ QString favouriteKey(const QString &ipport, const QString &account)
 
 } // namespace
 
-int renewFavouritePasswords(const QString &folder, const QList<AcceptedPassword> &accepted)
+void renewFavouritePasswords(const QString &folder, const QList<AcceptedPassword> &accepted)
 {
     if (folder.isEmpty() || accepted.isEmpty() || !QDir(folder).exists())
-        return 0;
+        return;
     QHash<QString, QString> passwords;
     for (const AcceptedPassword &device : accepted) {
         if (!device.password.isEmpty())
@@ -26,7 +26,6 @@ int renewFavouritePasswords(const QString &folder, const QList<AcceptedPassword>
     const CAuthor author;
     const QVariantMap favourites = author.readJsonFilesFromFolder(folder);
     constexpr qsizetype valueCount = 6;
-    int changed = 0;
     for (const QVariant &favourite : favourites) {
         const QStringList values = favourite.toStringList();
         if (values.size() != valueCount || values.at(0) != QStringLiteral("0"))
@@ -40,7 +39,5 @@ int renewFavouritePasswords(const QString &folder, const QList<AcceptedPassword>
             continue;
         author.saveTextAsJson(folder, values.at(0), values.at(1), values.at(2), values.at(3), cipher,
                               values.at(5));
-        ++changed;
     }
-    return changed;
 }

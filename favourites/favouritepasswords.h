@@ -14,6 +14,6 @@ struct AcceptedPassword
 
 /// Writes the passwords to the favourites of a folder with the same address, port and account, if they have
 /// another password. Empty passwords are ignored. Favourites of devices behind NAT are not changed, since
-/// their rows contain a local port. Returns the number of favourites with another password, including those
-/// whose file could not be written; 0 for a missing folder. May run on any thread and waits for the disk.
-int renewFavouritePasswords(const QString &folder, const QList<AcceptedPassword> &accepted);
+/// their rows contain a local port. A file that cannot be written keeps its password, and the failure is
+/// logged. May run on any thread and waits for the disk.
+void renewFavouritePasswords(const QString &folder, const QList<AcceptedPassword> &accepted);
