@@ -7,6 +7,21 @@
 
 #include <algorithm>
 
+namespace {
+
+bool isOctet(const QString &text)
+{
+    constexpr qsizetype mostDigits = 3;
+    constexpr int largest = 255;
+    const auto isDigit = [](QChar character) {
+        return character >= QLatin1Char('0') && character <= QLatin1Char('9');
+    };
+    return !text.isEmpty() && text.size() <= mostDigits && std::ranges::all_of(text, isDigit) &&
+           text.toInt() <= largest;
+}
+
+} // namespace
+
 bool AddressTools::isLegalAddress(const QString &text) const
 {
     return ipv4Number(text).has_value();
@@ -15,12 +30,8 @@ bool AddressTools::isLegalAddress(const QString &text) const
 bool AddressTools::mayBecomeAddress(const QString &text) const
 {
     const QStringList octets = text.trimmed().split(QLatin1Char('.'));
-    const auto mayBeOctet = [](const QString &octet) {
-        bool isNumber = false;
-        return octet.toUInt(&isNumber) <= 255 && isNumber && octet.size() <= 3;
-    };
     const bool isOpen = octets.constLast().isEmpty();
-    return octets.size() <= 4 && std::all_of(octets.cbegin(), octets.cend() - (isOpen ? 1 : 0), mayBeOctet);
+    return octets.size() <= 4 && std::all_of(octets.cbegin(), octets.cend() - (isOpen ? 1 : 0), isOctet);
 }
 
 bool AddressTools::mayBecomeMask(const QString &text) const
@@ -51,13 +62,11 @@ QString AddressTools::gatewayAfterEdit(const QString &before, const QString &aft
     const QStringList old = before.split(point);
     const QStringList now = after.split(point);
     QStringList octets = gateway.isEmpty() ? QStringList() : gateway.split(point);
-    // A text that is not a number up to 255 is not copied to the gateway.
-    const auto isOctet = [](const QString &text) {
-        constexpr int largest = 255;
-        bool isNumber = false;
-        return text.isEmpty() || (text.toInt(&isNumber) <= largest && isNumber);
+    // A text that is not an octet is not copied to the gateway.
+    const auto mayBeCopied = [](const QString &text) {
+        return text.isEmpty() || isOctet(text);
     };
-    if (now.size() > octetCount || octets.size() > octetCount || !std::ranges::all_of(now, isOctet))
+    if (now.size() > octetCount || octets.size() > octetCount || !std::ranges::all_of(now, mayBeCopied))
         return gateway;
     for (qsizetype index = 0; index < now.size(); ++index) {
         const bool last = index == octetCount - 1;

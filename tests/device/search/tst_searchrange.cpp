@@ -36,7 +36,7 @@ private Q_SLOTS:
         const AddressTools tools;
         for (const char *text : {"", "1", "192.", "192.168", "192.168.1.2", "010.1.1.1"})
             QVERIFY2(tools.mayBecomeAddress(text), text);
-        for (const char *text : {"192.168.1.500", "256", "1..2", ".1", "1.2.3.4.", "1.2.3.4.5", "0001"})
+        for (const char *text : {"192.168.1.500", "256", "1..2", ".1", "1.2.3.4.", "1.2.3.4.5", "0001", "+1"})
             QVERIFY2(!tools.mayBecomeAddress(text), text);
         for (const char *text : {"", "2", "255.255.25", "255.255.255.2", "255.255.255.0"})
             QVERIFY2(tools.mayBecomeMask(text), text);
