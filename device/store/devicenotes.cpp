@@ -122,8 +122,10 @@ QString DeviceNotes::setNote(const QVariantMap &row, const QString &note)
         return {};
     if (text.size() > longestNote() && text.size() > before.size())
         return tr("备注最多 %1 个字符").arg(longestNote());
-    if (m_state == State::Unopened)
+    if (m_state == State::Unopened) {
         read(); // the file may be readable now
+        Q_EMIT changed();
+    }
     if (m_state == State::Unopened)
         return m_problem;
 

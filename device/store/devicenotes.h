@@ -50,7 +50,7 @@ public:
     Q_INVOKABLE [[nodiscard]] QString setNote(const QVariantMap &row, const QString &note);
 
 Q_SIGNALS:
-    void changed(); ///< a note was stored or removed; problem() is empty then
+    void changed(); ///< a note was stored or removed, or the file was read again
 
 private:
     enum class State

@@ -149,6 +149,13 @@ private Q_SLOTS:
         QCOMPARE(notes.setNote(device("m1"), "first"), notes.problem());
         QVERIFY(QDir().rmdir(path())); // the file can be written again
         QVERIFY(writeFile(path(), "{\"notes\": [{\"device\": \"m2\", \"text\": \"second\"}]}"));
+        {
+            const FileSizeLimit limit(10);
+            const QSignalSpy changed(&notes, &DeviceNotes::changed);
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot write .*notes.json"));
+            QVERIFY(!notes.setNote(device("m1"), "first").isEmpty());
+            QCOMPARE(changed.count(), 1); // its notes are shown now
+        }
         QCOMPARE(notes.setNote(device("m1"), "first"), "");
         QCOMPARE(notes.noteOf(device("m2")), "second");
         QCOMPARE(notes.problem(), "");
