@@ -129,16 +129,17 @@ bool ZipPackage::checkEntry(const struct zip_stat &entry)
 bool ZipPackage::contains(const QString &name) const
 {
     const QString key = name.toLower();
-    return !m_removed.contains(key) && (m_entries.contains(key) || m_new.contains(name));
+    return !m_removed.contains(key) && (m_entries.contains(key) || m_new.contains(key));
 }
 
 bool ZipPackage::read(const QString &name, QByteArray &bytes)
 {
-    if (const auto replacement = m_new.find(name); replacement != m_new.end()) {
-        bytes = replacement->second;
+    const QString key = name.toLower();
+    if (const auto replacement = m_new.find(key); replacement != m_new.end()) {
+        bytes = replacement->second.bytes;
         return true;
     }
-    const auto index = m_entries.constFind(name.toLower());
+    const auto index = m_entries.constFind(key);
     zip_stat_t entry;
     zip_stat_init(&entry);
     if (!contains(name) || zip_stat_index(m_archive.get(), *index, 0, &entry) != 0)
@@ -164,14 +165,16 @@ bool ZipPackage::read(const QString &name, QByteArray &bytes)
 
 void ZipPackage::replace(const QString &name, const QByteArray &bytes)
 {
-    m_removed.remove(name.toLower());
-    m_new[name] = bytes;
+    const QString key = name.toLower();
+    m_removed.remove(key);
+    m_new[key] = {.name = name, .bytes = bytes};
 }
 
 void ZipPackage::remove(const QString &name)
 {
-    m_new.erase(name);
-    if (const auto index = m_entries.constFind(name.toLower()); index != m_entries.constEnd())
+    const QString key = name.toLower();
+    m_new.erase(key);
+    if (const auto index = m_entries.constFind(key); index != m_entries.constEnd())
         m_removed.insert(index.key(), *index);
 }
 
@@ -210,16 +213,16 @@ bool ZipPackage::writeChanges(Archive archive)
 
 bool ZipPackage::applyChanges(zip *archive)
 {
-    for (const auto &[name, bytes] : m_new) {
-        const auto size = zip_uint64_t(bytes.size());
-        zip_source_t *part = zip_source_buffer(archive, bytes.constData(), size, 0);
+    for (const auto &[key, newPart] : m_new) {
+        const auto size = zip_uint64_t(newPart.bytes.size());
+        zip_source_t *part = zip_source_buffer(archive, newPart.bytes.constData(), size, 0);
         if (!part)
             return fail(QString::fromUtf8(zip_strerror(archive)));
-        const auto known = m_entries.constFind(name.toLower());
+        const auto known = m_entries.constFind(key);
         const bool isKnown = known != m_entries.constEnd();
         const zip_int64_t index =
             isKnown ? zip_int64_t(*known)
-                    : zip_file_add(archive, name.toUtf8().constData(), part, ZIP_FL_ENC_UTF_8);
+                    : zip_file_add(archive, newPart.name.toUtf8().constData(), part, ZIP_FL_ENC_UTF_8);
         if (index < 0 || (isKnown && zip_file_replace(archive, *known, part, 0) != 0)) {
             zip_source_free(part);
             return fail(QString::fromUtf8(zip_strerror(archive)));

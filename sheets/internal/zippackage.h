@@ -16,7 +16,7 @@ namespace sheets {
 /// The parts of a workbook file, which is a zip archive. Changed parts are stored separately from the file's
 /// bytes. In a file that is built from both, all other parts are identical, byte for byte.
 ///
-/// Part names have no leading slash and are case-insensitive, except those of changed and added parts.
+/// Part names have no leading slash and are case-insensitive.
 class ZipPackage : public LastError
 {
 public:
@@ -45,15 +45,22 @@ private:
     };
     using Archive = std::unique_ptr<zip, ArchiveCloser>;
 
+    struct NewPart
+    {
+        QString name; ///< for a part that is added
+        QByteArray bytes;
+    };
+
     bool checkEntry(const struct zip_stat &entry);
     bool writeChanges(Archive archive);
     bool applyChanges(zip *archive);
 
     QByteArray m_file;
-    Archive m_archive;                   ///< for reading, on m_file
-    QHash<QString, quint64> m_entries;   ///< index in the archive by name in lower case
-    std::map<QString, QByteArray> m_new; ///< parts to write, by name
-    QHash<QString, quint64> m_removed;   ///< indices of parts to remove, by name in lower case
+    Archive m_archive; ///< for reading, on m_file
+    // By name in lower case.
+    QHash<QString, quint64> m_entries; ///< index in the archive
+    std::map<QString, NewPart> m_new;  ///< parts to write
+    QHash<QString, quint64> m_removed; ///< indices of parts to remove
 };
 
 } // namespace sheets
