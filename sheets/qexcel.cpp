@@ -31,9 +31,10 @@ bool QExcel::createWorkbook()
 
 bool QExcel::open(const QString &path)
 {
-    m_hasWorkbook = false;
-    if (!QFileInfo(path).isFile())
+    if (!QFileInfo(path).isFile()) {
+        quit();
         return fail(QStringLiteral("there is no file %1").arg(path));
+    }
     m_hasWorkbook = m_engine->open(QFileInfo(path).absoluteFilePath());
     return ended(m_hasWorkbook);
 }

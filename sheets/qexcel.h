@@ -36,8 +36,7 @@ public:
     bool createWorkbook();
 
     /// Opens a file and selects its first sheet. Fails for a file that is not a workbook, is encrypted,
-    /// damaged or too large. An earlier workbook is closed, even on failure; if the file is missing, it can
-    /// no longer be used, but is released later (by createWorkbook(), open() or quit()).
+    /// damaged or too large. An earlier workbook is closed, even on failure.
     bool open(const QString &path);
 
     /// Selects the sheet of the following operations, from 1. On failure the selection is unchanged.

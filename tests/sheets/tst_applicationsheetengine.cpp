@@ -82,6 +82,8 @@ private Q_SLOTS:
         const int alive = record.alive;
         (void)excel.cellText(3, 1);
         QCOMPARE(record.alive, alive); // no object is leaked for each cell
+        QVERIFY(!excel.open(file.fileName() + ".missing"));
+        QCOMPARE(record.alive, 0); // the first file is no longer open in the application
     }
 
     void reportsAMissingApplication()
