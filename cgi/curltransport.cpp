@@ -55,6 +55,13 @@ sdk::TlsPeer peerOf(const QByteArray &address)
     return {.address = host.toStdString(), .port = partOf(url.get(), CURLUPART_PORT).toInt(), .identity = {}};
 }
 
+// The error number of a refused connection. Windows has its own numbers for sockets, which <cerrno> lacks.
+#ifdef _WIN32
+constexpr long connectionRefused = WSAECONNREFUSED;
+#else
+constexpr long connectionRefused = ECONNREFUSED;
+#endif
+
 HttpFailure failureKindOf(CURLcode result, long systemError)
 {
     switch (result) {
@@ -64,7 +71,7 @@ HttpFailure failureKindOf(CURLcode result, long systemError)
     case CURLE_COULDNT_RESOLVE_PROXY:
         return HttpFailure::UnknownHost;
     case CURLE_COULDNT_CONNECT:
-        return systemError == ECONNREFUSED ? HttpFailure::Refused : HttpFailure::Unreachable;
+        return systemError == connectionRefused ? HttpFailure::Refused : HttpFailure::Unreachable;
     case CURLE_OPERATION_TIMEDOUT:
         return HttpFailure::TimedOut;
     case CURLE_SSL_CONNECT_ERROR:
