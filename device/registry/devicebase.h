@@ -318,8 +318,8 @@ public:
     /// The plan of upgradeStep() for each of these rows, from the rows and their files.
     virtual QList<PlannedUpgrade> plannedUpgrades(const QStringList &macs);
     /// setUpgradeFilePath() for many rows; reads the file once. Returns for each row an UpgradeTools::Result:
-    /// the reason why it cannot be upgraded with the file, or None, also for a name without a row. DeviceBusy
-    /// during an upgrade; the row is not changed then.
+    /// the reason why it cannot be upgraded with the file, or None. NotListed for a name without a row;
+    /// DeviceBusy during an upgrade, when the row is not changed.
     virtual QList<int> setUpgradeFiles(const QStringList &macs, const QString &path);
     /// The names of the rows that upgrades have changed since the last call of this function.
     virtual QStringList takeChangedUpgrades() { return {}; }

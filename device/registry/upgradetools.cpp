@@ -49,6 +49,8 @@ QString UpgradeTools::text(int result)
         return tr("IP或端口填写错误");
     case ListedTwice:
         return tr("与前面的行是同一设备");
+    case NotListed:
+        return tr("设备已不在列表中");
     case NoResponse:
         return tr("设备无应答");
     case DeviceBusy:
@@ -118,7 +120,7 @@ int UpgradeTools::batchResult(Result result)
         return resultCode(LoginResult::UnknownCertificate);
     case ChangedCertificate:
         return resultCode(LoginResult::ChangedCertificate);
-    default: // stopped before the device was changed, or not started
+    default: // stopped before the device was changed, not started, or no longer in the list
         return resultCode(LoginResult::NotDone);
     }
 }

@@ -36,6 +36,7 @@ public:
         NotSupported = 13, ///< the device does not support upgrades, or is not initialised
         LineUnusable = 14, ///< of a document: the address is missing or invalid
         ListedTwice = 15,  ///< of a document: an earlier line has the same device
+        NotListed = 16,    ///< the device is no longer in the list
 
         // Failures that a retry may solve
         NoResponse = 20,
@@ -70,7 +71,7 @@ public:
     Q_INVOKABLE [[nodiscard]] static QString text(int result);
 
     /// The result as a result code of batches: a LoginResult, a code of loginresult.h, or unusableLine.
-    /// LoginResult::NotDone for upgrades that are running, stopped, cut or None.
+    /// LoginResult::NotDone for NotListed, and for upgrades that are running, stopped, cut or None.
     [[nodiscard]] static int batchResult(Result result);
 
     /// File name of the template of upgrade documents, in the user's language.

@@ -33,7 +33,7 @@ UpgradeTools::Result RowUpgrades::setFile(const QString &mac, const QString &fil
 {
     if (m_round.isUpgrading(mac))
         return UpgradeTools::DeviceBusy;
-    UpgradeTools::Result refusal = UpgradeTools::None;
+    UpgradeTools::Result refusal = UpgradeTools::NotListed;
     m_store->changeRowNamed(mac, [&](QJsonObject &row) {
         refusal = firmware.refusalFor(row.value(DeviceRowKey::model).toString());
         row.insert(DeviceRowKey::filepath, file);
@@ -60,7 +60,7 @@ DeviceStep RowUpgrades::step(const QString &mac)
 {
     const std::optional<UpgradeOrder> order = m_orders.orderNamed(mac);
     if (!order) {
-        return [message = tr("设备已不在列表中")](const StepControl &) {
+        return [message = UpgradeTools::text(UpgradeTools::NotListed)](const StepControl &) {
             return StepOutcome{.result = resultCode(LoginResult::NotDone), .text = message};
         };
     }

@@ -4,7 +4,6 @@
 #include "device/registry/devicestep.h"
 #include "device/registry/upgradeplan.h"
 
-#include <QCoreApplication>
 #include <QList>
 #include <QStringList>
 
@@ -20,7 +19,6 @@ struct FirmwareFile;
 /// without one (as IPv6 rows). Lives on the main thread.
 class RowUpgrades
 {
-    Q_DECLARE_TR_FUNCTIONS(RowUpgrades)
 public:
     /// The referenced objects must outlive this object.
     RowUpgrades(std::shared_ptr<DeviceStore> store, UpgradeRound &round, const UpgradeOrders &orders,

@@ -294,6 +294,7 @@ private Q_SLOTS:
         row("damaged", "BRELM-FIRMWARE 1\nversion", "damaged.bin", "damaged.bin：升级文件已损坏");
         row("fits none", "bytes", "C-1_2.9.bin", "C-1_2.9.bin：升级文件不适用于此型号");
         row("fits one", "bytes", "D-1_2.9.bin", "1 台设备不能用此文件升级，请查看结果");
+        row("for removed devices", UpgradeSite::firmware, "gone.bin", "gone.bin：设备已不在列表中");
     }
 
     void aFileIsReadOnceForAllDevices()
@@ -304,6 +305,8 @@ private Q_SLOTS:
         if (name.startsWith("D-1"))
             test.store->changeRow(test.mac(1),
                                   [](QJsonObject &row) { row.insert(DeviceRowKey::model, "D-1"); });
+        if (name.startsWith("gone"))
+            test.store->removeRows({test.mac(0), test.mac(1)});
         QTEST(test.upgrades.chooseFile(test.macs({0, 1}), test.file(content, name)), "message");
     }
 
