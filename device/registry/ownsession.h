@@ -29,7 +29,8 @@ struct OwnImageOrder
 /// Takes a snapshot. Any thread; blocks it until the end.
 using OwnImageTaker = std::function<OwnImage(const OwnImageOrder &order, const StepControl &control)>;
 
-/// A session that lasts as long as this object. The destructor does not block.
+/// A session that lasts as long as this object. The destructor logs out: in the background on the main
+/// thread, otherwise it blocks for the device.
 class OwnSession
 {
 public:

@@ -32,8 +32,9 @@ public:
     /// emits done(). A running query of addresses (up to 3 s) is not interrupted.
     void stop();
 
-    /// Same, and no later search runs. limited(), progressed() and done() are not emitted any more; late
-    /// responses may still emit rowsAdded() and counted().
+    /// Same, and no later search runs. An emission of limited(), progressed() or done() that has begun
+    /// completes, later ones are omitted; late responses may still emit rowsAdded() and counted(). The
+    /// receivers must therefore exist until the destructor has returned.
     void requestStop();
 
     /// Sets the range of the next start() only.
@@ -66,7 +67,7 @@ private:
 
     const std::shared_ptr<DeviceStore> m_store;
     const sdk::SdkLibraries m_libraries;
-    std::atomic<bool> m_isEnding = false; ///< set by requestStop(): the receivers are being destroyed
+    std::atomic<bool> m_isEnding = false; ///< set by requestStop()
     std::stop_source m_stop;              ///< of the running searches
     QList<QFuture<void>> m_searches;
     SearchRange m_range; ///< of the next search
