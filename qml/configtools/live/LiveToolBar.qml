@@ -13,6 +13,7 @@ Rectangle {
     required property string otherBatch  // title of another running batch, "" for none
     required property int ticked         // number of ticked devices in the list
     property bool full: false            // no further devices can be added
+    property bool several: false         // there are several devices
     readonly property bool compact: width < Theme.liveToolBarWidth  // no room for texts
     readonly property bool canAdd: canSnap && ticked > 0 && !full
     signal fullScreenRequested
@@ -162,7 +163,8 @@ Rectangle {
             iconName: root.snapping ? "spinner" : "snapshots"
             objectName: "liveSnapAllButton"
             toolTip: root.snapping ? qsTr("正在抓图…")
-                : root.otherBatch !== "" ? qsTr("“%1”正在进行，请等待其完成").arg(root.otherBatch) : qsTr("抓取全部通道")
+                : root.otherBatch !== "" ? qsTr("“%1”正在进行，请等待其完成").arg(root.otherBatch)
+                : root.several ? qsTr("抓取全部设备的所有通道") : qsTr("抓取全部通道")
             turning: root.snapping
             onClicked: root.snapAllRequested()
         }

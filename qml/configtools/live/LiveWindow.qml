@@ -79,7 +79,7 @@ T.ApplicationWindow {
     }
 
     function removeAll() {
-        taking.leave(taking.ipport);
+        taking.leaveAll();
         watched.clear();
     }
 
@@ -112,22 +112,32 @@ T.ApplicationWindow {
     }
 
     function snap(entry) {
-        taking.take(entry.ipport, entry, entry.companion);
+        taking.take(entry);
         results.instance().open();
     }
 
     /// Repeats the snapshot of a channel. Refused if its device was removed.
-    function snapAgain(channel) {
-        const entry = grid.channels.find(shown => shown.ipport === taking.ipport && shown.channel === channel);
+    function snapAgain(ipport, channel) {
+        const entry = grid.channels.find(shown => shown.ipport === ipport && shown.channel === channel);
         if (entry)
             snap(entry);
         else
             results.instance().refuse(qsTr("设备已移出画面"));
     }
 
+    /// Takes snapshots of all channels of all devices.
     function snapAll() {
-        if (taking.takeAll(device.ipport, device.channels))
+        if (taking.takeAll(grid.channels))
             results.instance().open();
+    }
+
+    /// Opens the folder of the snapshots, of several devices the one that contains their folders.
+    function openFolder() {
+        const folderOf = path => path.slice(0, path.lastIndexOf("/"));
+        const folders = taking.results.filter(entry => entry.image !== "").map(entry => folderOf(entry.image));
+        const folder = folders.every(other => other === folders[0]) ? folders[0] : folderOf(folders[0]);
+        if (!Qt.openUrlExternally(folder))
+            notify(qsTr("无法打开文件夹：%1").arg(folder), OVToast.Error);
     }
 
     width: Math.min(Theme.liveWidth, Screen.desktopAvailableWidth)
@@ -267,6 +277,7 @@ T.ApplicationWindow {
         fullScreen: window.fullScreen
         grid: grid
         otherBatch: window.batches.running && !taking.batch ? window.batches.current.title : ""
+        several: grid.channels.some(entry => entry.companion)
         snapping: taking.busy
         ticked: order.ticked
         onAdditionRequested: window.addTicked()
@@ -315,12 +326,8 @@ T.ApplicationWindow {
         visible: false
         sourceComponent: SnapshotDialog {
             snapshots: taking
-            onAgainRequested: channel => window.snapAgain(channel)
-            onFolderRequested: {
-                const image = taking.results.find(entry => entry.image !== "").image;
-                if (!Qt.openUrlExternally(image.slice(0, image.lastIndexOf("/"))))
-                    window.notify(qsTr("无法打开文件夹：%1").arg(image), OVToast.Error);
-            }
+            onAgainRequested: (ipport, channel) => window.snapAgain(ipport, channel)
+            onFolderRequested: window.openFolder()
         }
     }
     // qmllint enable unqualified

@@ -7,6 +7,7 @@ Item {
 
     required property var entry   // element of Snapshots.results
     required property bool waits  // other snapshots are in progress
+    property bool withDevice: false  // the name includes the device
     readonly property int stage: entry?.state ?? Snapshots.Waiting
     signal againRequested
 
@@ -64,7 +65,7 @@ Item {
         width: parent.width - (again.visible ? again.width + Theme.unit : 0)
         height: Theme.controlHeight
         objectName: "snapshotName"
-        text: root.entry?.name ?? ""
+        text: (root.withDevice ? root.entry?.caption : root.entry?.name) ?? ""
     }
     OVLinkButton {
         id: again

@@ -1,4 +1,4 @@
-// The snapshots of a device, with progress and errors.
+// The snapshots of one device or several, with progress and errors.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -7,7 +7,7 @@ OVDialog {
     id: root
 
     required property Snapshots snapshots
-    signal againRequested(int channel)
+    signal againRequested(string ipport, int channel)
     signal folderRequested
 
     readonly property int columns: Math.max(1, Math.min(4, snapshots.results.length))
@@ -26,10 +26,10 @@ OVDialog {
     footContent: [OVLinkButton {
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        enabled: !(root.snapshots.batch?.stopping ?? false)
+        enabled: !root.snapshots.stopping
         objectName: "snapshotStopButton"
         text: enabled ? qsTr("停止") : qsTr("正在停止…")
-        visible: root.snapshots.batch !== null
+        visible: root.snapshots.all
         onClicked: root.snapshots.stop()
     }, OVLabel {
         anchors.fill: parent
@@ -68,7 +68,8 @@ OVDialog {
             height: view.cellHeight - Theme.controlGap
             entry: root.snapshots.results[index] ?? null
             waits: root.snapshots.busy
-            onAgainRequested: root.againRequested(entry.channel)
+            withDevice: root.snapshots.several
+            onAgainRequested: root.againRequested(entry.ipport, entry.channel)
         }
         // qmllint enable unqualified
     }

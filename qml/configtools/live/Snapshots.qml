@@ -1,4 +1,5 @@
-// Takes snapshots of a device's channels and keeps the results. All channels run as a batch, a single one does not.
+// Takes snapshots of channels and keeps the results. All channels of the first device run as a batch. Those of added
+// devices follow one after another, each in the session of its device. A single channel is not a batch.
 import QtQuick
 import configtools
 
@@ -7,17 +8,17 @@ Item {
 
     required property Batches batches
     required property var deviceFactory
-    property Batch batch: null        // batch of all channels while it runs, else null
-    property string ipport            // of the device
-    property var companion: null      // LiveCompanion of an added device; null for the first device
-    property string folder            // subfolder of the snapshots folder
-    /// Maps with "channel" (from 0), "name", "state" (a State), "image" (URL, "" for none), "message" (error) and
-    /// "revision" (number of results; undefined before the first).
+    property Batch batch: null        // batch of the first device while it runs, else null
+    property bool all: false          // snapshots of all channels are in progress
+    property bool stopping: false     // the user has cancelled the waiting channels
+    property var companion: null      // LiveCompanion whose channel is being taken; null for none
+    /// Maps with "ipport", "companion" (null for the first device), "channel" (from 0), "name", "caption" (name with the
+    /// device), "state" (a State), "image" (URL, "" for none), "message" (error) and "revision" (number of results;
+    /// undefined before the first).
     property var results: []
-    property int running: 0           // channels without a result
-    readonly property bool busy: running > 0
-    readonly property int done: results.filter(entry => entry.state !== Snapshots.Waiting
-                                                       && entry.state !== Snapshots.Taking).length
+    readonly property bool busy: results.some(isPending)
+    readonly property int done: results.filter(entry => !isPending(entry)).length
+    readonly property bool several: results.some(entry => entry.ipport !== results[0].ipport)  // of several devices
 
     enum State { Waiting, Taking, Taken, Failed }
 
@@ -26,77 +27,127 @@ Item {
         return ipport.replace(/[^0-9A-Za-z._-]+/g, "_");
     }
 
-    /// Returns false if the batch is refused.
-    function takeAll(ipport, channels) {
-        const wanted = folderOf(ipport);
-        batch = batches.takeSnapshots("dh", qsTr("抓图"), ipport, channels.map(entry => entry.name), wanted);
+    function isPending(entry) {
+        return entry.state === Snapshots.Waiting || entry.state === Snapshots.Taking;
+    }
+
+    /// A result before the snapshot, for an element of LiveGrid.channels.
+    function resultOf(entry) {
+        // The caption of a channel without a name is only that of its device.
+        const caption = entry.caption.endsWith(entry.name) ? entry.caption : entry.caption + " · " + entry.name;
+        return {ipport: entry.ipport, companion: entry.companion, channel: entry.channel, name: entry.name,
+                caption: caption, image: "", message: "", state: Snapshots.Waiting};
+    }
+
+    /// `channels` are elements of LiveGrid.channels, those of the first device first. Returns false if the batch is
+    /// refused.
+    function takeAll(channels) {
+        const own = channels.filter(entry => !entry.companion);
+        batch = batches.takeSnapshots("dh", qsTr("抓图"), own[0].ipport, own.map(entry => entry.name),
+            folderOf(own[0].ipport));
         if (!batch)
             return false;
-        folder = wanted;
-        root.ipport = ipport;
-        companion = null;
-        results = channels.map((entry, index) => ({
-            channel: entry.channel, name: entry.name, image: "", message: "",
-            state: index === 0 ? Snapshots.Taking : Snapshots.Waiting
-        }));
-        running = results.length;
+        all = true;
+        stopping = false;
+        results = channels.map(resultOf);
+        change(results[0], {state: Snapshots.Taking});
         return true;
     }
 
     /// Cancels the channels that are still waiting.
     function stop() {
+        stopping = true;
         if (batch)
             batch.stop();
     }
 
     function endBatch() {
+        const ownIsLeft = results.some(entry => !entry.companion && isPending(entry));
         batch = null;
-        running = 0;
-        results = results.map(entry => entry.state === Snapshots.Waiting || entry.state === Snapshots.Taking
-            ? Object.assign({}, entry, {state: Snapshots.Failed, message: qsTr("未执行")}) : entry);
+        fail(entry => !entry.companion, qsTr("未执行"));
+        stopping = stopping || ownIsLeft;
+        takeNext();
     }
 
-    /// Takes a snapshot of a channel and replaces its earlier one. `companion` is null for the first device.
-    function take(ipport, entry, companion) {
-        const wanted = folderOf(ipport);
-        if (wanted !== folder)
-            results = [];
-        folder = wanted;
-        root.ipport = ipport;
-        root.companion = companion;
-        if (!results.some(other => other.channel === entry.channel))
-            results = results.concat([{channel: entry.channel, name: entry.name, image: "", message: "",
-                                       state: Snapshots.Waiting}]);
-        change(entry.channel, {state: Snapshots.Taking, message: ""});
-        running += 1;
-        if (companion)
-            companion.takeSnapshot(entry.channel, folder);
+    /// Continues with the next channel of the added devices.
+    function takeNext() {
+        if (stopping)
+            fail(entry => entry.state === Snapshots.Waiting, qsTr("未执行"));
+        const next = results.find(entry => entry.state === Snapshots.Waiting);
+        if (next)
+            begin(next);
         else
-            deviceFactory.snapPictureToFile("dh", "againCapture", entry.channel, folder);
+            all = false;
     }
 
-    /// Called when an added device is removed: its running snapshots fail. Finished ones are kept.
+    /// Takes a snapshot of a channel, an element of LiveGrid.channels, and replaces its earlier one. Results of other
+    /// devices are kept only together with one of this device.
+    function take(entry) {
+        if (!results.some(other => other.ipport === entry.ipport))
+            results = [];
+        if (!results.some(other => isSame(other, entry)))
+            results = results.concat([resultOf(entry)]);
+        begin(entry);
+    }
+
+    function begin(entry) {
+        const device = entry.companion;
+        change(entry, {state: Snapshots.Taking, message: ""});
+        if (!device) {
+            deviceFactory.snapPictureToFile("dh", "againCapture", entry.channel, folderOf(entry.ipport));
+        } else if (device.loggedIn) {
+            companion = device;
+            device.takeSnapshot(entry.channel, folderOf(entry.ipport));
+        } else {
+            note(device, entry.channel, "", device.failure);
+        }
+    }
+
+    /// Called when an added device is removed: its pending snapshots fail. Finished ones are kept.
     function leave(ipport) {
-        if (companion === null || ipport !== root.ipport)
+        drop(entry => entry.companion && entry.ipport === ipport);
+    }
+
+    /// Same for all added devices.
+    function leaveAll() {
+        drop(entry => entry.companion);
+    }
+
+    function drop(applies) {
+        const ends = companion !== null && results.some(entry => applies(entry) && entry.companion === companion);
+        fail(applies, qsTr("设备已移出画面"));
+        if (!ends)
             return;
         companion = null;
-        running = 0;
-        results = results.map(entry => entry.state === Snapshots.Taking
-            ? Object.assign({}, entry, {state: Snapshots.Failed, message: qsTr("设备已移出画面")}) : entry);
+        takeNext();
     }
 
-    function change(channel, values) {
-        results = results.map(entry => entry.channel === channel ? Object.assign({}, entry, values) : entry);
+    /// Ends the pending snapshots to which the condition applies.
+    function fail(applies, message) {
+        results = results.map(entry => isPending(entry) && applies(entry)
+            ? Object.assign({}, entry, {state: Snapshots.Failed, message: message}) : entry);
     }
 
-    function note(channel, image, message) {
-        if (running === 0)
+    function isSame(one, other) {
+        return one.ipport === other.ipport && one.channel === other.channel;
+    }
+
+    function change(changed, values) {
+        results = results.map(entry => isSame(entry, changed) ? Object.assign({}, entry, values) : entry);
+    }
+
+    /// `device` is null for the first device.
+    function note(device, channel, image, message) {
+        const before = results.find(entry => entry.companion === device && entry.channel === channel && isPending(entry));
+        if (!before)
             return;
-        running -= 1;
-        const before = results.find(entry => entry.channel === channel);
         // The revision makes the view reload a replaced file.
-        change(channel, {image: image, message: message, revision: (before?.revision ?? 0) + 1,
-                         state: image !== "" ? Snapshots.Taken : Snapshots.Failed});
+        change(before, {image: image, message: message, revision: (before.revision ?? 0) + 1,
+                        state: image !== "" ? Snapshots.Taken : Snapshots.Failed});
+        if (!device)
+            return;
+        companion = null;
+        takeNext();
     }
 
     visible: false
@@ -104,6 +155,9 @@ Item {
     Connections {
         target: root.batch
 
+        function onChanged() {
+            root.stopping = root.stopping || root.batch.stopping;
+        }
         function onFinished() {
             root.endBatch();
         }
@@ -112,22 +166,30 @@ Item {
         target: root.companion
 
         function onSnapshotTaken(channel, image, message) {
-            root.note(channel, image, message);
+            root.note(root.companion, channel, image, message);
+        }
+        function onLoggedInChanged() {
+            if (root.companion.loggedIn)
+                return;
+            // The session has ended, and the snapshot with it.
+            const ended = root.results.find(entry => entry.companion === root.companion
+                                                     && entry.state === Snapshots.Taking);
+            if (ended)
+                root.note(root.companion, ended.channel, "", root.companion.failure);
         }
     }
     Connections {
-        enabled: root.companion === null
         target: root.deviceFactory
 
         function onSignalSnapPictureToFile(channel, image, message) {
-            root.note(channel, image, message);
+            root.note(null, channel, image, message);
             // They are taken in order.
-            const next = root.results.find(entry => entry.state === Snapshots.Waiting);
-            if (next && root.busy)
-                root.change(next.channel, {state: Snapshots.Taking});
+            const next = root.results.find(entry => !entry.companion && entry.state === Snapshots.Waiting);
+            if (next && root.batch)
+                root.change(next, {state: Snapshots.Taking});
         }
         function onSignalSnapPictureToFileAgain(channel, image, message) {
-            root.note(channel, image, message);
+            root.note(null, channel, image, message);
         }
     }
 }

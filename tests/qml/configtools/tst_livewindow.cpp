@@ -1,8 +1,13 @@
 #include "device/batch/batches.h"
 #include "media/videoitem.h"
+#include "tests/datatable.h"
 #include "tests/device/rowsbackend.h"
 #include "tests/media/fakelibraries.h"
 #include "tests/qml/configtools/qmlscene.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace {
 
@@ -79,11 +84,37 @@ public:
         };
     }
 
-    QString current;           ///< address of the current session's device
-    QHash<int, int> results;   ///< of separate sessions, by number; 0 for others
-    QHash<int, int> channels;  ///< channel counts by number; 1 for others
-    QHash<int, QString> names; ///< by number; "D20" and so on for others
-    QStringList asked;         ///< requested separate sessions
+    QList<DeviceStep> snapshotSteps(const QString &folder) override
+    {
+        QList<DeviceStep> steps;
+        for (int channel = 0; channel < channels.value(numberOf(current), 1); ++channel) {
+            steps.append([this, channel, folder](const StepControl &) {
+                Q_EMIT signalSnapPictureToFile(channel, {},
+                                               QStringLiteral("%1 of 1000 for %2").arg(channel).arg(folder));
+                return StepOutcome{.result = snapshotFailed, .text = {}};
+            });
+        }
+        return steps;
+    }
+    void runForPage(const PageStep &step, const std::stop_token &stop,
+                    const std::function<void(const PageOutcome &outcome)> &ended) override
+    {
+        if (!holds)
+            ended(step(StepControl()));
+        else
+            held = [step, stop, ended] {
+                if (!stop.stop_requested())
+                    ended(step(StepControl()));
+            };
+    }
+
+    bool holds = false;         ///< the next step runs only when the test calls `held`
+    std::function<void()> held; ///< null for none
+    QString current;            ///< address of the current session's device
+    QHash<int, int> results;    ///< of separate sessions, by number; 0 for others
+    QHash<int, int> channels;   ///< channel counts by number; 1 for others
+    QHash<int, QString> names;  ///< by number; "D20" and so on for others
+    QStringList asked;          ///< requested separate sessions
     std::shared_ptr<QStringList> open = std::make_shared<QStringList>(); ///< open separate sessions
 
 private:
@@ -128,6 +159,33 @@ private:
         const QQuickItem *item = player ? findBelow(player, name, Sight::Visible) : nullptr;
         return item ? item->property("text").toString() : QString();
     }
+    /// All visible items of the window.
+    [[nodiscard]] QList<QQuickItem *> visibleItems() const
+    {
+        QList<QQuickItem *> items = {m_window->contentItem()};
+        for (qsizetype next = 0; next < items.size(); ++next) {
+            const QList<QQuickItem *> children = items.at(next)->childItems();
+            std::copy_if(children.cbegin(), children.cend(), std::back_inserter(items),
+                         [](const QQuickItem *child) { return child->isVisible(); });
+        }
+        return items;
+    }
+    /// "name: message" of each snapshot, line by line.
+    [[nodiscard]] QStringList snapshots() const
+    {
+        QMap<std::pair<qreal, qreal>, QString> texts;
+        const QList<QQuickItem *> items = visibleItems();
+        for (const QQuickItem *item : items) {
+            if (item->objectName() != "snapshotName")
+                continue;
+            const QQuickItem *message = findBelow(item->parentItem(), "snapshotMessage", Sight::Visible);
+            const QPointF place = item->mapToScene({});
+            texts.insert({place.y(), place.x()},
+                         item->property("text").toString() + ": " +
+                             (message ? message->property("text").toString() : QString()));
+        }
+        return texts.values();
+    }
     void click(const QString &name) const
     {
         QQuickItem *item = find(name);
@@ -148,6 +206,15 @@ private:
                                           Q_ARG(QVariant, chosen)));
         QVERIFY(QTest::qWaitForWindowActive(m_window));
         QTRY_VERIFY(find("liveCell0"));
+    }
+    /// The LiveCompanion of an added device; null if there is none.
+    [[nodiscard]] QObject *companionOf(int number) const
+    {
+        const QList<QQuickItem *> items = m_window->contentItem()->childItems();
+        const auto companion = std::ranges::find_if(items, [number](const QQuickItem *item) {
+            return item->property("handle").isValid() && item->property("ipport") == ipportOf(number);
+        });
+        return companion == items.cend() ? nullptr : *companion;
     }
     /// "login of channel" of the requested streams, sorted, because several threads request them.
     QStringList startedStreams()
@@ -285,6 +352,59 @@ private Q_SLOTS:
         click("snapshotAgain1");
         QTRY_VERIFY(find("dialogNotice"));
         QCOMPARE(text("snapshotMessage"), taken);
+    }
+
+    void allDevicesHaveSnapshots_data()
+    {
+        const auto row = dataTable<QByteArray, QStringList>({"event", "ends"});
+        const QString refused = QStringLiteral("密码错误");
+        const QString last = QStringLiteral("0 of 24 for 192.168.1.24_37777");
+        const QString taken = QStringLiteral("%1 of 21 for 192.168.1.21_37777");
+        const QString notDone = QStringLiteral("未执行");
+        const QString removed = QStringLiteral("设备已移出画面");
+        row("complete", "", QStringList{taken.arg(0), taken.arg(1), refused, last});
+        row("stopped", "stop", QStringList{taken.arg(0), notDone, notDone, notDone});
+        row("device removed", "remove", QStringList{removed, removed, refused, last});
+        row("session ended", "end", QStringList{refused, refused, refused, last});
+    }
+    /// The batch of the first device is followed by the channels of the added devices, each in its session.
+    /// The event happens during the first snapshot of D21.
+    void allDevicesHaveSnapshots()
+    {
+        QFETCH(QByteArray, event);
+        QFETCH(QStringList, ends);
+        m_devices->channels = {{20, 2}, {21, 2}};
+        m_devices->results = {{23, 2}}; // a wrong password
+        openLive(20);
+        tick({1, 3, 4});
+        click("liveAddButton");
+        QTRY_COMPARE(m_devices->open->size(), 2);
+        m_devices->holds = !event.isEmpty();
+        click("liveSnapAllButton");
+        if (!event.isEmpty()) {
+            QTRY_VERIFY(m_devices->held);
+            m_devices->holds = false;
+        }
+        if (event == "stop") {
+            click("snapshotStopButton");
+        } else if (event == "remove") {
+            QMetaObject::invokeMethod(m_window, "remove", Q_ARG(QVariant, ipportOf(21)));
+        } else if (event == "end") {
+            m_devices->results.insert(21, 2);
+            QMetaObject::invokeMethod(companionOf(21), "expireResponse");
+            QMetaObject::invokeMethod(companionOf(21), "check");
+        }
+        if (m_devices->held)
+            m_devices->held();
+
+        QTRY_VERIFY(!find("snapshotStopButton"));
+        QCOMPARE(snapshots(),
+                 (QStringList{"D20 · C0: 0 of 1000 for 192.168.1.20_37777",
+                              "D20 · C1: 1 of 1000 for 192.168.1.20_37777", "D21 · C0: " + ends.at(0),
+                              "D21 · C1: " + ends.at(1), QStringLiteral("D23 · 通道 1: ") + ends.at(2),
+                              "D24 · C0: " + ends.at(3)}));
+        QCOMPARE(text("snapshotSummary"), QStringLiteral("成功 0，失败 6"));
+        QVERIFY(find("liveSnapAllButton")->isEnabled()); // no snapshot is awaited
     }
 
     void renamedDevicesHaveUniqueCaptions()
