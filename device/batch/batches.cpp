@@ -365,7 +365,8 @@ Batch *Batches::takeSnapshots(const QString &family, const QString &title, const
          .devices = channels,
          .policy = {.maximumParallel = 1, .deadline = stepDeadline},
          .stepOf = [stepOfChannel](const BatchDevice &channel) { return stepOfChannel.value(channel.name); },
-         .canBeRetried = false}); // the snapshot dialog retries single channels itself
+         .canBeRetried = false, // the snapshot dialog retries single channels itself
+         .marksFailed = false});
 }
 
 Batch *Batches::retry(Batch *batch)

@@ -198,6 +198,7 @@ private Q_SLOTS:
         QCOMPARE(QFile::exists(pathOf("rec", 2)), !isStopped);
         QCOMPARE(m_site->requests().of("NetQueryChannelStates").size(), 1);
         QCOMPARE(batch->entries().at(1).device.title, "B");
+        QCOMPARE(batches.failedMarks()->count(), 0); // a channel without a camera is no fault of the device
     }
 
     void closingCancelsSnapshots()
