@@ -54,6 +54,12 @@ private Q_SLOTS:
             "ListView { width: 60; height: 50; clip: true; model: 9\n"
             "delegate: OVButton { objectName: 'poor'; width: 100; text: 'Row' } }",
             "poor.*is truncated");
+        row("headings of a table that is scrolled",
+            "OVTableHead { width: 200; columns: [{key: 'model', title: 'Model', width: 150},\n"
+            "{key: 'mac', title: 'MAC', width: 150}]; columnWidths: [150, 150]; checkable: false\n"
+            "checkWidth: 8; checkState: Qt.Unchecked; rowCount: 1; sortKey: ''\n"
+            "sortOrder: Qt.AscendingOrder; scrolled: 0 }",
+            "");
         row("hidden items",
             "OVButton { x: 380; visible: false; text: 'Go on' }\n"
             "OVButton { x: 390; opacity: 0; text: 'Go on' }",

@@ -50,6 +50,27 @@ QPoint middleOf(const QQuickItem *item)
     return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
 }
 
+/// Scrolls the views around an item if they hide its centre.
+void scrollIntoView(const QQuickItem *item)
+{
+    for (QQuickItem *around = item->parentItem(); around; around = around->parentItem()) {
+        const bool isHead = around->property("scrolled").isValid(); // of a table: scrolled with its rows
+        QQuickItem *view = isHead ? around->parentItem()->findChild<QQuickItem *>(QStringLiteral("tableRows"))
+                           : around->inherits("QQuickFlickable") ? around
+                                                                 : nullptr;
+        const QRectF place = item->mapRectToItem(around, QRectF({}, item->size()));
+        if (!view || QRectF({}, around->size()).contains(place.center()))
+            continue;
+        const auto scroll = [view](const char *position, qreal first, qreal last, qreal room) {
+            const qreal by = first < 0 ? first : std::max(0.0, std::min(first, last - room));
+            view->setProperty(position, view->property(position).toReal() + by);
+        };
+        scroll("contentX", place.left(), place.right(), around->width());
+        if (!isHead)
+            scroll("contentY", place.top(), place.bottom(), around->height());
+    }
+}
+
 void blankVideo(QQuickItem *item, QPainter &painter)
 {
     if (!item->isVisible())
@@ -114,6 +135,7 @@ QStringList Driver::texts(const QString &name) const
 QQuickItem *Driver::requireForClicks(const QString &name) const
 {
     QQuickItem *item = require(name);
+    scrollIntoView(item);
     atRest();
     await(
         QStringLiteral("\"%1\" takes clicks").arg(name),
@@ -149,6 +171,7 @@ bool Driver::isUnderNotice(QPoint position) const
 void Driver::hover(const QString &name) const
 {
     QQuickItem *item = require(name);
+    scrollIntoView(item);
     atRest();
     QTest::mouseMove(m_window, middleOf(item) + QPoint(1, 1));
     QTest::mouseMove(m_window, middleOf(item));
@@ -211,6 +234,7 @@ void Driver::fill(const QString &name, const QString &text) const
     // Near the upper edge, because an error message may cover the lower part.
     constexpr int intoField = 8;
     QQuickItem *field = require(name);
+    scrollIntoView(field);
     atRest();
     const QPoint position = field->mapToScene(QPointF(field->width() / 2, intoField)).toPoint();
     // Input may still be blocked after the previous step.

@@ -33,6 +33,8 @@ public:
     /// "text" of every visible item with this object name.
     [[nodiscard]] QStringList texts(const QString &name) const;
 
+    // Items that are scrolled out of view are scrolled into view before the mouse acts on them.
+
     /// Clicks the centre of an item after animations have ended.
     void click(const QString &name, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
     void hover(const QString &name) const;

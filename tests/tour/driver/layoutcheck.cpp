@@ -184,8 +184,9 @@ private:
         const QRectF area = item->mapRectToScene(QRectF({}, item->size()));
         frame.shown &= area;
         const bool scrolls = item->inherits("QQuickFlickable");
+        const bool isHead = item->property("scrolled").isValid(); // scrolled with the rows of its table
         QRectF bounds = frame.bounds & area;
-        if (scrolls && item->property("contentWidth").toReal() > item->width() + tolerance) {
+        if (isHead || (scrolls && item->property("contentWidth").toReal() > item->width() + tolerance)) {
             bounds.setLeft(-farAway);
             bounds.setRight(farAway);
         }
