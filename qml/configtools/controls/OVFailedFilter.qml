@@ -22,7 +22,8 @@ Row {
     OVFailedOperation {
         width: Theme.operationWidth
         devices: root.devices
-        visible: root.devices.onlyFailed && operations.length > 1
+        enabled: root.devices.onlyFailed  // not hidden: the filter must not move when it is clicked
+        visible: operations.length > 1
     }
     OVLinkButton {
         anchors.verticalCenter: parent.verticalCenter

@@ -2,15 +2,15 @@
 import QtQuick
 import configtools
 
-OVComboBox {
+OVChoice {
     id: root
 
     required property var devices  // a DeviceTableModel or an OVTreeModel
     readonly property var operations: devices.failedMarks?.operations ?? []
 
     accessibleName: qsTr("未成功的操作")
-    currentIndex: operations.indexOf(devices.failedOperation) + 1
+    chosen: operations.indexOf(devices.failedOperation) + 1
     model: [qsTr("全部操作"), ...operations]
     objectName: "failedOperationBox"
-    onActivated: index => devices.failedOperation = index === 0 ? "" : operations[index - 1]
+    onIndexRequested: index => devices.failedOperation = index === 0 ? "" : operations[index - 1]
 }
