@@ -72,7 +72,9 @@ FocusScope {
     }
 
     function namePattern() {
-        naming.instance().ask(session.device, session.names.form.count, devices.tickedNow());
+        const channels = session.names.read ? session.names.form.count : 0;
+        if (!naming.instance().ask(session.device, channels, devices.tickedNow()))
+            notify(qsTr("勾选的设备中没有摄像机"), OVToast.Refusal, Theme.errorToastDuration);
     }
 
     /// Called after a batch of names: the tab shows the new name.
@@ -280,6 +282,7 @@ FocusScope {
         hasDevices: devices.deviceCount > 0
         session: session
         targetCount: page.targets.length
+        tickedCount: page.ticked
         onCopyRequested: page.copy()
         onEncodeChannelRequested: index => page.leave(() => session.encoding.choose("curChannel", index))
         onNamePatternRequested: page.namePattern()

@@ -17,14 +17,18 @@ OVDialog {
     signal channelsNamed(var channels, var names)  // channel numbers from 0, as texts
     signal camerasNamed(var ipports, var names)
 
+    /// Returns false if there is nothing to name. Without a device, `channelCount` is 0.
     function ask(device, channelCount, cameras) {
         root.device = device;
         root.channelCount = channelCount;
         root.cameras = cameras;
         cameraCount = plan.countCameras(cameras);
         tried = false;
+        if (cameraCount === 0 && channelCount === 0)
+            return false;
         choose(cameraCount === 0 || channelCount > 1);
         open();
+        return true;
     }
 
     function choose(ofChannels) {
@@ -84,7 +88,7 @@ OVDialog {
                 {text: qsTr("当前设备的 %n 个通道", "", root.channelCount), objectName: "nameChannelsChoice"},
                 {text: qsTr("勾选的 %n 台摄像机", "", root.cameraCount), objectName: "nameCamerasChoice"}
             ]
-            visible: root.cameras.length > 0
+            visible: root.cameras.length > 0 && root.channelCount > 0
             onActivated: index => root.choose(index === 0)
         }
         Row {

@@ -8,8 +8,11 @@ Rectangle {
     required property ConfigSession session
     required property bool hasDevices  // the tree is not empty
     required property int targetCount  // number of targets of a copy
+    required property int tickedCount  // number of ticked devices in the tree
     readonly property bool shown: session.encodeShown ? session.encoding.read
         : session.imageShown ? session.image.read : session.names.read
+    /// No device is chosen, but ticked cameras can be named.
+    readonly property bool canName: session.device === "" && session.namesShown && tickedCount > 0
     signal tabRequested(int index)
     signal encodeChannelRequested(int index)
     signal streamTypeRequested(int index)
@@ -87,11 +90,13 @@ Rectangle {
         }
         OVEmptyState {
             anchors.fill: parent
-            actionText: root.session.device === "" || root.session.busy || root.session.loggedIn ? ""
+            actionText: root.canName ? qsTr("按规则命名")
+                : root.session.device === "" || root.session.busy || root.session.loggedIn ? ""
                 : root.session.taken ? qsTr("继续配置")
                 : root.session.canLoginAgain() ? qsTr("重新登录") : qsTr("重试")
             busy: root.session.busy
             hint: root.session.device === "" && !root.hasDevices ? qsTr("搜索到设备后，在此查看并修改它们的配置。")
+                : root.canName ? qsTr("单击左侧的一台设备，在此修改它的通道名称，或者为勾选的摄像机统一命名。")
                 : root.session.device === "" ? qsTr("单击左侧的一台设备，登录后在此查看并修改它的配置。")
                 : root.session.busy ? root.session.device
                 : root.session.taken ? qsTr("同一时间只能登录一台设备。继续配置将关闭另一台设备的实时画面。")
@@ -104,7 +109,12 @@ Rectangle {
                 : root.session.taken ? qsTr("正在查看另一台设备的实时画面")
                 : root.session.lost ? qsTr("连接已断开") : qsTr("登录失败")
             visible: !root.shown
-            onActivated: root.session.tryAgain()
+            onActivated: {
+                if (root.canName)
+                    root.namePatternRequested();
+                else
+                    root.session.tryAgain();
+            }
         }
     }
 
