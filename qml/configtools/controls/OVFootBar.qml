@@ -24,6 +24,7 @@ Item {
     readonly property bool showsSearch: !running && !showsBatch && (search?.running ?? false)
     readonly property bool paused: showsBatch && batch.paused
     property Batch batchToRetry: null  // batch to stop and retry with another account, null for none
+    property var accountNotice: null   // message about that account, shown after the start of the retry: it removes messages
     readonly property bool ended: batch !== null && !batch.running
     readonly property bool incomplete: ended && batch.report.failed + batch.report.notDone + batch.failedBefore > 0
     readonly property string outcome: ended && batch.report.summary !== ""
@@ -50,8 +51,30 @@ Item {
         return seconds < 60 ? qsTr("剩余不到 1 分钟") : qsTr("剩余约 %n 分钟", "", Math.round(seconds / 60));
     }
 
+    function retryWithAccount() {
+        const ended = batchToRetry;
+        batchToRetry = null;
+        const isRefused = batches.retry(ended) === null;
+        if (accountNotice)
+            notify(accountNotice.message, accountNotice.severity);
+        accountNotice = null;
+        if (isRefused && ended.retryRefusal !== "")
+            notify(ended.retryRefusal, OVToast.Refusal);
+    }
+
     implicitHeight: Theme.footHeight
 
+    Rectangle {  // a question must not look like a state
+        anchors.verticalCenter: parent.verticalCenter
+        x: actions.x - Theme.unit
+        width: actions.width + 2 * Theme.unit
+        height: Theme.controlHeight
+        border.color: Theme.colours.warnLine
+        border.width: Theme.line
+        color: Theme.colours.warnSoft
+        radius: Theme.controlRadius
+        visible: root.paused
+    }
     Row {
         id: state
         readonly property real room: actions.x - Theme.pageMargin
@@ -95,6 +118,7 @@ Item {
     Row {
         id: actions
         anchors.right: parent.right
+        anchors.rightMargin: root.paused ? Theme.unit : 0
         height: parent.height
         spacing: Theme.pageMargin
 
@@ -111,7 +135,7 @@ Item {
                 visible: root.paused
             }
             OVLabel {
-                readonly property real room: root.width - Theme.smallIconSize - Theme.signGap - 5 * Theme.pageMargin
+                readonly property real room: root.width - Theme.smallIconSize - Theme.signGap - 6 * Theme.pageMargin
                     - (account.visible ? account.width : 0) - resume.width - stop.width
                     - (panel.visible ? panel.width : 0)
 
@@ -161,7 +185,7 @@ Item {
             text: qsTr("选择账号…")
             toolTip: root.compact ? "" : qsTr("为拒绝了此账号的设备和其余使用此账号的设备选择另一个账号，然后重试")
             visible: root.paused && LoginMemory.accounts !== null && root.batch.devicesOfRefusedAccounts().length > 0
-            onClicked: accounts.instance().choose(root.batch.devicesOfRefusedAccounts())
+            onClicked: accounts.instance().chooseOther(root.batch.devicesOfRefusedAccounts(), root.batch.refusedAccounts)
         }
         OVLinkButton {
             id: resume
@@ -227,12 +251,7 @@ Item {
         target: root.batchToRetry
 
         function onFinished() {
-            const ended = root.batchToRetry;
-            root.batchToRetry = null;
-            Qt.callLater(() => {  // after the pages have handled its end
-                if (root.batches.retry(ended) === null && ended.retryRefusal !== "")
-                    root.notify(ended.retryRefusal, OVToast.Refusal);
-            });
+            Qt.callLater(() => root.retryWithAccount());  // after the pages have handled its end
         }
     }
     // qmllint disable unqualified
@@ -247,7 +266,12 @@ Item {
                 root.batchToRetry = root.batch;
                 root.batch.stop();
             }
-            onNotify: (message, severity) => root.notify(message, severity)
+            onNotify: (message, severity) => {
+                if (root.batchToRetry === null)
+                    root.notify(message, severity);
+                else
+                    root.accountNotice = {message: message, severity: severity};
+            }
         }
     }
     OVOnDemand {

@@ -40,6 +40,12 @@ FocusScope {
             body.move(row, false);
     }
 
+    /// Makes no row current.
+    function showNone() {
+        body.currentIdentity = "";
+        body.currentIndex = -1;
+    }
+
     /// Gives the rows the keyboard focus without a focus ring.
     function takeFocus() {
         body.takePointerFocus();

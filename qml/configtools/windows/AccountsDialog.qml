@@ -7,6 +7,8 @@ OVDialog {
 
     required property AccountList accounts
     property var devices: []  // devices to assign an account to; empty: manage only
+    property string refused   // accounts that these devices have refused, before a retry; empty for another reason
+    property string edited    // name of the account edited since the dialog was opened
     readonly property bool choosing: devices.length > 0
     readonly property var current: shownRow(table.currentIndex, accounts.count)
     readonly property bool isOwn: (current.identity ?? "") !== "" && !current.isDefault
@@ -23,15 +25,32 @@ OVDialog {
     }
 
     function choose(devices) {
+        refused = "";
+        openFor(devices);
+        table.show(devices.length > 0 ? Math.max(0, accounts.rowOfDevice(devices[0])) : 0);
+    }
+
+    /// For a retry of devices that have refused their accounts. No account is preselected.
+    function chooseOther(devices, refused) {
+        root.refused = refused;
+        openFor(devices);
+        table.showNone();
+    }
+
+    function openFor(devices) {
         root.devices = devices;
+        edited = "";
         accounts.load();
         open();
-        table.show(devices.length > 0 ? Math.max(0, accounts.rowOfDevice(devices[0])) : 0);
         table.forceActiveFocus();
     }
 
     function use() {
         const name = current.name ?? "";
+        if (refused !== "" && table.currentIndex === accounts.rowOfDevice(devices[0]) && (name === "" || name !== edited)) {
+            refuse(qsTr("设备已拒绝此账号，请选择或添加另一个账号"));
+            return;
+        }
         const failure = accounts.select(devices, name);
         if (failure !== "") {
             refuse(failure);
@@ -69,7 +88,8 @@ OVDialog {
     hasCancel: choosing
     objectName: "accountsDialog"
     okEnabled: !choosing || (current.identity ?? "") !== ""
-    okText: choosing ? qsTr("用于 %n 台设备", "", devices.length) : qsTr("关闭")
+    okText: !choosing ? qsTr("关闭") : refused !== "" ? qsTr("用于 %n 台设备并重试", "", devices.length)
+        : qsTr("用于 %n 台设备", "", devices.length)
     title: choosing ? qsTr("选择账号") : qsTr("账号管理")
     onAccepted: choosing ? use() : close()
 
@@ -84,6 +104,14 @@ OVDialog {
             objectName: "accountsProblem"
             text: root.accounts.problem
             visible: text !== ""
+        }
+        OVNotice {
+            width: parent.width
+            iconColor: Theme.colours.warn
+            iconName: "alert"
+            objectName: "accountsRefused"
+            text: qsTr("设备拒绝了账号 %1。请选择或添加另一个账号。").arg(root.refused)
+            visible: root.refused !== ""
         }
         OVTable {
             id: table
@@ -130,7 +158,7 @@ OVDialog {
                 objectName: "removeUnusedButton"
                 text: qsTr("删除未使用的账号")
                 toolTip: qsTr("没有为任何设备选定的账号")
-                visible: root.accounts.unused.length > 0
+                visible: !root.choosing && root.accounts.unused.length > 0
                 onClicked: root.askToRemoveUnused()
             }
         }
@@ -166,7 +194,10 @@ OVDialog {
         visible: false
         sourceComponent: AccountDialog {
             accounts: root.accounts
-            onSaved: name => table.show(root.accounts.rowOfName(name))
+            onSaved: name => {
+                root.edited = name;
+                table.show(root.accounts.rowOfName(name));
+            }
         }
     }
     OVOnDemand {

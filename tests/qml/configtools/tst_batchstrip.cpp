@@ -27,6 +27,7 @@ const char *const scene = "    width: 1280; height: 720; visible: true\n"
                           "        }\n"
                           "    }\n"
                           "    QtObject { id: store; function keepNew(devices, keeping) { return ''; } }\n"
+                          "    OVFailedOperation { y: 100; devices: deviceTable }\n"
                           "    AccountKeeper { id: keeper; objectName: 'keeper'; batches: works }\n"
                           "    Component.onCompleted: LoginMemory.accounts = store\n"
                           "    function keepAccounts() { LoginMemory.accounts = deviceAccounts; }\n"
@@ -209,11 +210,49 @@ private Q_SLOTS:
         QTRY_VERIFY(find("continueButton"));
         press("selectAccountButton");
         QTRY_VERIFY(find("accountsTable"));
-        QCOMPARE(text("okButton"), QStringLiteral("用于 3 台设备"));
-        m_account.password = "new";
+        QCOMPARE(text("okButton"), QStringLiteral("用于 3 台设备并重试"));
+        QVERIFY(!find("okButton")->isEnabled()); // no account is preselected
+        find("accountsTable")->setProperty("currentIndex", 0);
+        press("okButton"); // the refused default account
+        QVERIFY(find("dialogNotice"));
+        QCOMPARE(m_accounts->put("", "Hall", "root", "new"), QString());
+        find("accountsTable")->setProperty("currentIndex", 1);
+        m_account = {.account = "root", .password = "new"};
+        QSignalSpy notices(find("foot"), SIGNAL(notify(QString, int)));
+        connect(m_batches.get(), &Batches::runningChanged, this, [&] {
+            if (m_batches->isRunning())
+                notices.clear(); // the start of a batch removes notices
+        });
         press("okButton");
         QTRY_COMPARE(text("selectedCount"), QStringLiteral("Ticked  ·  Work：3 台设备成功"));
         QCOMPARE(m_batches->kept().size(), 2);
+        QCOMPARE(notices.size(), 1);
+        QVERIFY(notices.first().first().toString().contains(QStringLiteral("3 台设备使用账号“Hall”")));
+    }
+
+    /// The choice of an operation follows the model when operations come and go.
+    void aChosenOperationStaysChosen()
+    {
+        FailedMarks &marks = *m_batches->failedMarks();
+        m_table->setFailedMarks(&marks);
+        QQuickItem *box = find("failedOperationBox");
+        QVERIFY(box);
+        const auto note = [&](const QString &work, int result) {
+            marks.note(work, work, {{.identity = "m1", .result = result, .words = work}});
+        };
+        note("Names", networkFailure);
+        note("Passwords", networkFailure);
+        m_table->setOnlyFailed(true);
+        QVERIFY(QMetaObject::invokeMethod(box, "activated", Q_ARG(int, 2)));
+        QCOMPARE(m_table->failedOperation(), "Passwords");
+        QCOMPARE(box->property("displayText").toString(), "Passwords");
+        for (const QString work : {"Zone", "Clock"}) { // the last and the first in alphabetical order
+            note(work, networkFailure);
+            QCOMPARE(box->property("displayText").toString(), "Passwords");
+        }
+        note("Passwords", 0);
+        QCOMPARE(m_table->failedOperation(), QString());
+        QCOMPARE(box->property("displayText").toString(), QStringLiteral("全部操作"));
     }
 
     void theEndOffersFurtherActions_data()
