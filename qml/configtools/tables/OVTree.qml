@@ -101,6 +101,8 @@ ListView {
         } else if (typeAhead.isMenuKey(event)) {
             const y = (cursor + 1) * Theme.controlHeight - contentY;
             openMenu({item: root, x: 2 * Theme.treeIndent, y: y, byKey: true});
+        } else if (event.key === Qt.Key_A && (event.modifiers & Qt.ControlModifier)) {
+            rows.tree.setAllChecked(true);
         } else if (typeAhead.take(event)) {
             return;
         } else if (event.key === Qt.Key_Space && cursor >= 0) {

@@ -249,6 +249,9 @@ private Q_SLOTS:
         press(Qt::Key_Down);
         press(Qt::Key_Return);
         QCOMPARE(done(), "open m1");
+        press(Qt::Key_A, Qt::ControlModifier);
+        QVERIFY(m_tree->checkedCount() > 1 && m_tree->checkedCount() == m_tree->deviceCount());
+        m_tree->setAllChecked(false);
         press(Qt::Key_Menu);
         awaitMenu();
         take("copyMacItem");
