@@ -239,6 +239,20 @@
         <source>未使用</source>
         <translation>未使用</translation>
     </message>
+    <message>
+        <source>设备已拒绝此账号，请选择或添加另一个账号</source>
+        <translation>デバイスがこのアカウントを拒否しました。別のアカウントを選択または追加してください。</translation>
+    </message>
+    <message numerus="yes">
+        <source>用于 %n 台设备并重试</source>
+        <translation>
+            <numerusform>%n 台に使用して再試行</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>设备拒绝了账号 %1。请选择或添加另一个账号。</source>
+        <translation>デバイスがアカウント %1 を拒否しました。別のアカウントを選択または追加してください。</translation>
+    </message>
 </context>
 <context>
     <name>AddDeviceDialog</name>
@@ -2849,6 +2863,25 @@
     </message>
 </context>
 <context>
+    <name>ImageGallery</name>
+    <message>
+        <source>获取图像</source>
+        <translation>画像の取得</translation>
+    </message>
+    <message>
+        <source>共 %1 个通道，仅显示前 %2 个</source>
+        <translation>全 %1 チャンネルのうち最初の %2 を表示</translation>
+    </message>
+    <message>
+        <source>保存图像</source>
+        <translation>画像の保存</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>フォルダー %1 を作成できませんでした</translation>
+    </message>
+</context>
+<context>
     <name>ImageGroup</name>
     <message>
         <source>没有读到这一组设置，不能修改。请刷新重试。</source>
@@ -2936,6 +2969,19 @@
     <message>
         <source>延时(秒)</source>
         <translation>遅延(秒)</translation>
+    </message>
+</context>
+<context>
+    <name>ImageOperations</name>
+    <message>
+        <source>设备没有发送画面</source>
+        <translation>デバイスから画像が送信されませんでした</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道没有图像</source>
+        <translation>
+            <numerusform>%n チャンネルの画像がありません</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3417,6 +3463,10 @@
     <message>
         <source>加入勾选的设备</source>
         <translation>選択したデバイスを追加</translation>
+    </message>
+    <message>
+        <source>抓取全部设备的所有通道</source>
+        <translation>全デバイスの全チャンネルのスナップショット</translation>
     </message>
 </context>
 <context>
@@ -4690,6 +4740,10 @@
         <source>配置这台设备</source>
         <translation>このデバイスを設定</translation>
     </message>
+    <message>
+        <source>勾选的设备中没有摄像机</source>
+        <translation>選択したデバイスにカメラがありません</translation>
+    </message>
 </context>
 <context>
     <name>PageDeviceUpgrade</name>
@@ -4835,38 +4889,6 @@
     <message>
         <source>；</source>
         <translation>; </translation>
-    </message>
-</context>
-<context>
-    <name>PictureGallery</name>
-    <message>
-        <source>获取图像</source>
-        <translation>画像の取得</translation>
-    </message>
-    <message>
-        <source>共 %1 个通道，仅显示前 %2 个</source>
-        <translation>全 %1 チャンネルのうち最初の %2 を表示</translation>
-    </message>
-    <message>
-        <source>保存图像</source>
-        <translation>画像の保存</translation>
-    </message>
-    <message>
-        <source>无法建立文件夹 %1</source>
-        <translation>フォルダー %1 を作成できませんでした</translation>
-    </message>
-</context>
-<context>
-    <name>PictureOperations</name>
-    <message>
-        <source>设备没有发送画面</source>
-        <translation>デバイスから画像が送信されませんでした</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 个通道没有图像</source>
-        <translation>
-            <numerusform>%n チャンネルの画像がありません</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -5077,13 +5099,6 @@
     <message>
         <source>设备已接受，但结果未确认</source>
         <translation>デバイスは受理、結果は未確認</translation>
-    </message>
-</context>
-<context>
-    <name>RowUpgrades</name>
-    <message>
-        <source>设备已不在列表中</source>
-        <translation>デバイスは一覧にありません</translation>
     </message>
 </context>
 <context>
@@ -5794,10 +5809,6 @@
     <message>
         <source>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</source>
         <translation>数字、英字、記号のうち2種類以上を使用し、使用できない文字は含めないでください。</translation>
-    </message>
-    <message>
-        <source>请输入密码</source>
-        <translation>パスワードを入力してください</translation>
     </message>
     <message>
         <source>请确认密码</source>
@@ -6715,6 +6726,10 @@
         <source>设备证书已改变</source>
         <translation>証明書が変わりました</translation>
     </message>
+    <message>
+        <source>设备已不在列表中</source>
+        <translation>デバイスは一覧にありません</translation>
+    </message>
 </context>
 <context>
     <name>UpgradeWork</name>
@@ -6869,6 +6884,14 @@
     <message>
         <source>没有设备</source>
         <translation>デバイスなし</translation>
+    </message>
+    <message>
+        <source>按规则命名</source>
+        <translation>パターンで命名</translation>
+    </message>
+    <message>
+        <source>单击左侧的一台设备，在此修改它的通道名称，或者为勾选的摄像机统一命名。</source>
+        <translation>左のデバイスをクリックしてチャンネル名を変更するか、選択したカメラにまとめて名前を付けてください。</translation>
     </message>
 </context>
 <context>

@@ -246,6 +246,21 @@
         <source>未使用</source>
         <translation>No usat</translation>
     </message>
+    <message>
+        <source>设备已拒绝此账号，请选择或添加另一个账号</source>
+        <translation>Els dispositius han rebutjat aquest compte. Seleccioneu o afegiu-ne un altre.</translation>
+    </message>
+    <message numerus="yes">
+        <source>用于 %n 台设备并重试</source>
+        <translation>
+            <numerusform>Usa per a %n dispositiu i reintenta</numerusform>
+            <numerusform>Usa per a %n dispositius i reintenta</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>设备拒绝了账号 %1。请选择或添加另一个账号。</source>
+        <translation>Els dispositius han rebutjat el compte %1. Seleccioneu o afegiu-ne un altre.</translation>
+    </message>
 </context>
 <context>
     <name>AddDeviceDialog</name>
@@ -2893,6 +2908,25 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     </message>
 </context>
 <context>
+    <name>ImageGallery</name>
+    <message>
+        <source>获取图像</source>
+        <translation>Obtén les imatges</translation>
+    </message>
+    <message>
+        <source>共 %1 个通道，仅显示前 %2 个</source>
+        <translation>%1 canals, es mostren els primers %2</translation>
+    </message>
+    <message>
+        <source>保存图像</source>
+        <translation>Desa les imatges</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>No s’ha pogut crear la carpeta %1</translation>
+    </message>
+</context>
+<context>
     <name>ImageGroup</name>
     <message>
         <source>没有读到这一组设置，不能修改。请刷新重试。</source>
@@ -2980,6 +3014,20 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     <message>
         <source>延时(秒)</source>
         <translation>Retard (s)</translation>
+    </message>
+</context>
+<context>
+    <name>ImageOperations</name>
+    <message>
+        <source>设备没有发送画面</source>
+        <translation>El dispositiu no ha enviat cap imatge</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道没有图像</source>
+        <translation>
+            <numerusform>Cap imatge de %n canal</numerusform>
+            <numerusform>Cap imatge de %n canals</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3463,6 +3511,10 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     <message>
         <source>加入勾选的设备</source>
         <translation>Afegeix els seleccionats</translation>
+    </message>
+    <message>
+        <source>抓取全部设备的所有通道</source>
+        <translation>Instantànies de tots els canals de tots els dispositius</translation>
     </message>
 </context>
 <context>
@@ -4757,6 +4809,10 @@ Fitxer: </translation>
         <source>配置这台设备</source>
         <translation>Configura aquest dispositiu</translation>
     </message>
+    <message>
+        <source>勾选的设备中没有摄像机</source>
+        <translation>No hi ha cap càmera entre els dispositius seleccionats</translation>
+    </message>
 </context>
 <context>
     <name>PageDeviceUpgrade</name>
@@ -4910,39 +4966,6 @@ Fitxer: </translation>
     <message>
         <source>；</source>
         <translation>; </translation>
-    </message>
-</context>
-<context>
-    <name>PictureGallery</name>
-    <message>
-        <source>获取图像</source>
-        <translation>Obtén les imatges</translation>
-    </message>
-    <message>
-        <source>共 %1 个通道，仅显示前 %2 个</source>
-        <translation>%1 canals, es mostren els primers %2</translation>
-    </message>
-    <message>
-        <source>保存图像</source>
-        <translation>Desa les imatges</translation>
-    </message>
-    <message>
-        <source>无法建立文件夹 %1</source>
-        <translation>No s’ha pogut crear la carpeta %1</translation>
-    </message>
-</context>
-<context>
-    <name>PictureOperations</name>
-    <message>
-        <source>设备没有发送画面</source>
-        <translation>El dispositiu no ha enviat cap imatge</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 个通道没有图像</source>
-        <translation>
-            <numerusform>Cap imatge de %n canal</numerusform>
-            <numerusform>Cap imatge de %n canals</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -5154,13 +5177,6 @@ Fitxer: </translation>
     <message>
         <source>设备已接受，但结果未确认</source>
         <translation>Rebut pel dispositiu, no confirmat</translation>
-    </message>
-</context>
-<context>
-    <name>RowUpgrades</name>
-    <message>
-        <source>设备已不在列表中</source>
-        <translation>El dispositiu ja no és a la llista</translation>
     </message>
 </context>
 <context>
@@ -5874,10 +5890,6 @@ Fitxer: </translation>
     <message>
         <source>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</source>
         <translation>Useu almenys dos d’aquests tipus: xifres, lletres i símbols, i cap caràcter no permès.</translation>
-    </message>
-    <message>
-        <source>请输入密码</source>
-        <translation>Introduïu la contrasenya</translation>
     </message>
     <message>
         <source>请确认密码</source>
@@ -6803,6 +6815,10 @@ Fitxer: </translation>
         <source>设备证书已改变</source>
         <translation>El certificat ha canviat</translation>
     </message>
+    <message>
+        <source>设备已不在列表中</source>
+        <translation>El dispositiu ja no és a la llista</translation>
+    </message>
 </context>
 <context>
     <name>UpgradeWork</name>
@@ -6959,6 +6975,14 @@ Fitxer: </translation>
     <message>
         <source>没有设备</source>
         <translation>Cap dispositiu</translation>
+    </message>
+    <message>
+        <source>按规则命名</source>
+        <translation>Anomena amb un patró</translation>
+    </message>
+    <message>
+        <source>单击左侧的一台设备，在此修改它的通道名称，或者为勾选的摄像机统一命名。</source>
+        <translation>Feu clic en un dispositiu a l’esquerra per canviar aquí els noms dels seus canals, o anomeneu juntes les càmeres seleccionades.</translation>
     </message>
 </context>
 <context>

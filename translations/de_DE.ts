@@ -246,6 +246,21 @@
         <source>未使用</source>
         <translation>Nicht verwendet</translation>
     </message>
+    <message>
+        <source>设备已拒绝此账号，请选择或添加另一个账号</source>
+        <translation>Die Geräte haben dieses Konto abgelehnt. Wählen oder fügen Sie ein anderes hinzu.</translation>
+    </message>
+    <message numerus="yes">
+        <source>用于 %n 台设备并重试</source>
+        <translation>
+            <numerusform>Für %n Gerät verwenden und wiederholen</numerusform>
+            <numerusform>Für %n Geräte verwenden und wiederholen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>设备拒绝了账号 %1。请选择或添加另一个账号。</source>
+        <translation>Die Geräte haben das Konto %1 abgelehnt. Wählen oder fügen Sie ein anderes hinzu.</translation>
+    </message>
 </context>
 <context>
     <name>AddDeviceDialog</name>
@@ -2893,6 +2908,25 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
     </message>
 </context>
 <context>
+    <name>ImageGallery</name>
+    <message>
+        <source>获取图像</source>
+        <translation>Bilder abrufen</translation>
+    </message>
+    <message>
+        <source>共 %1 个通道，仅显示前 %2 个</source>
+        <translation>%1 Kanäle, die ersten %2 werden angezeigt</translation>
+    </message>
+    <message>
+        <source>保存图像</source>
+        <translation>Bilder speichern</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>Der Ordner %1 konnte nicht erstellt werden</translation>
+    </message>
+</context>
+<context>
     <name>ImageGroup</name>
     <message>
         <source>没有读到这一组设置，不能修改。请刷新重试。</source>
@@ -2980,6 +3014,20 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
     <message>
         <source>延时(秒)</source>
         <translation>Verzögerung (s)</translation>
+    </message>
+</context>
+<context>
+    <name>ImageOperations</name>
+    <message>
+        <source>设备没有发送画面</source>
+        <translation>Das Gerät hat kein Bild gesendet</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道没有图像</source>
+        <translation>
+            <numerusform>Kein Bild von %n Kanal</numerusform>
+            <numerusform>Kein Bild von %n Kanälen</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3463,6 +3511,10 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
     <message>
         <source>加入勾选的设备</source>
         <translation>Ausgewählte Geräte hinzufügen</translation>
+    </message>
+    <message>
+        <source>抓取全部设备的所有通道</source>
+        <translation>Schnappschüsse aller Kanäle aller Geräte</translation>
     </message>
 </context>
 <context>
@@ -4757,6 +4809,10 @@ Datei: </translation>
         <source>配置这台设备</source>
         <translation>Dieses Gerät konfigurieren</translation>
     </message>
+    <message>
+        <source>勾选的设备中没有摄像机</source>
+        <translation>Unter den ausgewählten Geräten ist keine Kamera</translation>
+    </message>
 </context>
 <context>
     <name>PageDeviceUpgrade</name>
@@ -4910,39 +4966,6 @@ Datei: </translation>
     <message>
         <source>；</source>
         <translation>; </translation>
-    </message>
-</context>
-<context>
-    <name>PictureGallery</name>
-    <message>
-        <source>获取图像</source>
-        <translation>Bilder abrufen</translation>
-    </message>
-    <message>
-        <source>共 %1 个通道，仅显示前 %2 个</source>
-        <translation>%1 Kanäle, die ersten %2 werden angezeigt</translation>
-    </message>
-    <message>
-        <source>保存图像</source>
-        <translation>Bilder speichern</translation>
-    </message>
-    <message>
-        <source>无法建立文件夹 %1</source>
-        <translation>Der Ordner %1 konnte nicht erstellt werden</translation>
-    </message>
-</context>
-<context>
-    <name>PictureOperations</name>
-    <message>
-        <source>设备没有发送画面</source>
-        <translation>Das Gerät hat kein Bild gesendet</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 个通道没有图像</source>
-        <translation>
-            <numerusform>Kein Bild von %n Kanal</numerusform>
-            <numerusform>Kein Bild von %n Kanälen</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -5154,13 +5177,6 @@ Datei: </translation>
     <message>
         <source>设备已接受，但结果未确认</source>
         <translation>Vom Gerät angenommen, nicht bestätigt</translation>
-    </message>
-</context>
-<context>
-    <name>RowUpgrades</name>
-    <message>
-        <source>设备已不在列表中</source>
-        <translation>Das Gerät ist nicht mehr in der Liste</translation>
     </message>
 </context>
 <context>
@@ -5874,10 +5890,6 @@ Datei: </translation>
     <message>
         <source>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</source>
         <translation>Verwenden Sie mindestens zwei der Arten Ziffern, Buchstaben und Symbole und keine unzulässigen Zeichen.</translation>
-    </message>
-    <message>
-        <source>请输入密码</source>
-        <translation>Geben Sie das Passwort ein</translation>
     </message>
     <message>
         <source>请确认密码</source>
@@ -6803,6 +6815,10 @@ Datei: </translation>
         <source>设备证书已改变</source>
         <translation>Zertifikat hat sich geändert</translation>
     </message>
+    <message>
+        <source>设备已不在列表中</source>
+        <translation>Das Gerät ist nicht mehr in der Liste</translation>
+    </message>
 </context>
 <context>
     <name>UpgradeWork</name>
@@ -6959,6 +6975,14 @@ Datei: </translation>
     <message>
         <source>没有设备</source>
         <translation>Keine Geräte</translation>
+    </message>
+    <message>
+        <source>按规则命名</source>
+        <translation>Nach Muster benennen</translation>
+    </message>
+    <message>
+        <source>单击左侧的一台设备，在此修改它的通道名称，或者为勾选的摄像机统一命名。</source>
+        <translation>Klicken Sie links auf ein Gerät, um hier seine Kanalnamen zu ändern, oder benennen Sie die ausgewählten Kameras gemeinsam.</translation>
     </message>
 </context>
 <context>

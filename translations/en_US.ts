@@ -246,6 +246,21 @@
         <source>未使用</source>
         <translation>Not used</translation>
     </message>
+    <message>
+        <source>设备已拒绝此账号，请选择或添加另一个账号</source>
+        <translation>The devices have refused this account. Select or add another one.</translation>
+    </message>
+    <message numerus="yes">
+        <source>用于 %n 台设备并重试</source>
+        <translation>
+            <numerusform>Use for %n device and retry</numerusform>
+            <numerusform>Use for %n devices and retry</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>设备拒绝了账号 %1。请选择或添加另一个账号。</source>
+        <translation>The devices refused the account %1. Select or add another account.</translation>
+    </message>
 </context>
 <context>
     <name>AddDeviceDialog</name>
@@ -2893,6 +2908,25 @@ Right-click to copy the result</translation>
     </message>
 </context>
 <context>
+    <name>ImageGallery</name>
+    <message>
+        <source>获取图像</source>
+        <translation>Fetch images</translation>
+    </message>
+    <message>
+        <source>共 %1 个通道，仅显示前 %2 个</source>
+        <translation>%1 channels, the first %2 are shown</translation>
+    </message>
+    <message>
+        <source>保存图像</source>
+        <translation>Save images</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>The folder %1 could not be created</translation>
+    </message>
+</context>
+<context>
     <name>ImageGroup</name>
     <message>
         <source>没有读到这一组设置，不能修改。请刷新重试。</source>
@@ -2980,6 +3014,20 @@ Right-click to copy the result</translation>
     <message>
         <source>延时(秒)</source>
         <translation>Delay (s)</translation>
+    </message>
+</context>
+<context>
+    <name>ImageOperations</name>
+    <message>
+        <source>设备没有发送画面</source>
+        <translation>The device has sent no image</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道没有图像</source>
+        <translation>
+            <numerusform>No image of %n channel</numerusform>
+            <numerusform>No image of %n channels</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3463,6 +3511,10 @@ Right-click to copy the result</translation>
     <message>
         <source>加入勾选的设备</source>
         <translation>Add selected devices</translation>
+    </message>
+    <message>
+        <source>抓取全部设备的所有通道</source>
+        <translation>Snapshots of all channels of all devices</translation>
     </message>
 </context>
 <context>
@@ -4757,6 +4809,10 @@ File: </translation>
         <source>配置这台设备</source>
         <translation>Configure this device</translation>
     </message>
+    <message>
+        <source>勾选的设备中没有摄像机</source>
+        <translation>There is no camera among the selected devices</translation>
+    </message>
 </context>
 <context>
     <name>PageDeviceUpgrade</name>
@@ -4910,39 +4966,6 @@ File: </translation>
     <message>
         <source>；</source>
         <translation>; </translation>
-    </message>
-</context>
-<context>
-    <name>ImageGallery</name>
-    <message>
-        <source>获取图像</source>
-        <translation>Fetch images</translation>
-    </message>
-    <message>
-        <source>共 %1 个通道，仅显示前 %2 个</source>
-        <translation>%1 channels, the first %2 are shown</translation>
-    </message>
-    <message>
-        <source>保存图像</source>
-        <translation>Save images</translation>
-    </message>
-    <message>
-        <source>无法建立文件夹 %1</source>
-        <translation>The folder %1 could not be created</translation>
-    </message>
-</context>
-<context>
-    <name>ImageOperations</name>
-    <message>
-        <source>设备没有发送画面</source>
-        <translation>The device has sent no image</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 个通道没有图像</source>
-        <translation>
-            <numerusform>No image of %n channel</numerusform>
-            <numerusform>No image of %n channels</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -5154,13 +5177,6 @@ File: </translation>
     <message>
         <source>设备已接受，但结果未确认</source>
         <translation>Taken by the device, not confirmed</translation>
-    </message>
-</context>
-<context>
-    <name>RowUpgrades</name>
-    <message>
-        <source>设备已不在列表中</source>
-        <translation>The device is no longer in the list</translation>
     </message>
 </context>
 <context>
@@ -5874,10 +5890,6 @@ File: </translation>
     <message>
         <source>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</source>
         <translation>Use at least two of digits, letters and symbols, and no illegal characters.</translation>
-    </message>
-    <message>
-        <source>请输入密码</source>
-        <translation>Enter the password</translation>
     </message>
     <message>
         <source>请确认密码</source>
@@ -6803,6 +6815,10 @@ File: </translation>
         <source>设备证书已改变</source>
         <translation>Certificate has changed</translation>
     </message>
+    <message>
+        <source>设备已不在列表中</source>
+        <translation>The device is no longer in the list</translation>
+    </message>
 </context>
 <context>
     <name>UpgradeWork</name>
@@ -6959,6 +6975,14 @@ File: </translation>
     <message>
         <source>没有设备</source>
         <translation>No devices</translation>
+    </message>
+    <message>
+        <source>按规则命名</source>
+        <translation>Name by pattern</translation>
+    </message>
+    <message>
+        <source>单击左侧的一台设备，在此修改它的通道名称，或者为勾选的摄像机统一命名。</source>
+        <translation>Click a device on the left to change the names of its channels here, or name the selected cameras together.</translation>
     </message>
 </context>
 <context>

@@ -246,6 +246,21 @@
         <source>未使用</source>
         <translation>Sin usar</translation>
     </message>
+    <message>
+        <source>设备已拒绝此账号，请选择或添加另一个账号</source>
+        <translation>Los dispositivos han rechazado esta cuenta. Seleccione o añada otra.</translation>
+    </message>
+    <message numerus="yes">
+        <source>用于 %n 台设备并重试</source>
+        <translation>
+            <numerusform>Usar para %n dispositivo y reintentar</numerusform>
+            <numerusform>Usar para %n dispositivos y reintentar</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>设备拒绝了账号 %1。请选择或添加另一个账号。</source>
+        <translation>Los dispositivos han rechazado la cuenta %1. Seleccione o añada otra.</translation>
+    </message>
 </context>
 <context>
     <name>AddDeviceDialog</name>
@@ -2893,6 +2908,25 @@ Clic derecho para copiar el resultado</translation>
     </message>
 </context>
 <context>
+    <name>ImageGallery</name>
+    <message>
+        <source>获取图像</source>
+        <translation>Obtener imágenes</translation>
+    </message>
+    <message>
+        <source>共 %1 个通道，仅显示前 %2 个</source>
+        <translation>%1 canales, se muestran los primeros %2</translation>
+    </message>
+    <message>
+        <source>保存图像</source>
+        <translation>Guardar imágenes</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>No se pudo crear la carpeta %1</translation>
+    </message>
+</context>
+<context>
     <name>ImageGroup</name>
     <message>
         <source>没有读到这一组设置，不能修改。请刷新重试。</source>
@@ -2980,6 +3014,20 @@ Clic derecho para copiar el resultado</translation>
     <message>
         <source>延时(秒)</source>
         <translation>Retardo (s)</translation>
+    </message>
+</context>
+<context>
+    <name>ImageOperations</name>
+    <message>
+        <source>设备没有发送画面</source>
+        <translation>El dispositivo no ha enviado ninguna imagen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道没有图像</source>
+        <translation>
+            <numerusform>Sin imagen de %n canal</numerusform>
+            <numerusform>Sin imagen de %n canales</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3463,6 +3511,10 @@ Clic derecho para copiar el resultado</translation>
     <message>
         <source>加入勾选的设备</source>
         <translation>Añadir dispositivos seleccionados</translation>
+    </message>
+    <message>
+        <source>抓取全部设备的所有通道</source>
+        <translation>Capturas de todos los canales de todos los dispositivos</translation>
     </message>
 </context>
 <context>
@@ -4757,6 +4809,10 @@ Archivo: </translation>
         <source>配置这台设备</source>
         <translation>Configurar este dispositivo</translation>
     </message>
+    <message>
+        <source>勾选的设备中没有摄像机</source>
+        <translation>No hay ninguna cámara entre los dispositivos seleccionados</translation>
+    </message>
 </context>
 <context>
     <name>PageDeviceUpgrade</name>
@@ -4910,39 +4966,6 @@ Archivo: </translation>
     <message>
         <source>；</source>
         <translation>; </translation>
-    </message>
-</context>
-<context>
-    <name>PictureGallery</name>
-    <message>
-        <source>获取图像</source>
-        <translation>Obtener imágenes</translation>
-    </message>
-    <message>
-        <source>共 %1 个通道，仅显示前 %2 个</source>
-        <translation>%1 canales, se muestran los primeros %2</translation>
-    </message>
-    <message>
-        <source>保存图像</source>
-        <translation>Guardar imágenes</translation>
-    </message>
-    <message>
-        <source>无法建立文件夹 %1</source>
-        <translation>No se pudo crear la carpeta %1</translation>
-    </message>
-</context>
-<context>
-    <name>PictureOperations</name>
-    <message>
-        <source>设备没有发送画面</source>
-        <translation>El dispositivo no ha enviado ninguna imagen</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 个通道没有图像</source>
-        <translation>
-            <numerusform>Sin imagen de %n canal</numerusform>
-            <numerusform>Sin imagen de %n canales</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -5154,13 +5177,6 @@ Archivo: </translation>
     <message>
         <source>设备已接受，但结果未确认</source>
         <translation>Aceptado por el dispositivo, sin confirmar</translation>
-    </message>
-</context>
-<context>
-    <name>RowUpgrades</name>
-    <message>
-        <source>设备已不在列表中</source>
-        <translation>El dispositivo ya no está en la lista</translation>
     </message>
 </context>
 <context>
@@ -5874,10 +5890,6 @@ Archivo: </translation>
     <message>
         <source>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</source>
         <translation>Use al menos dos tipos entre dígitos, letras y símbolos, sin caracteres no permitidos.</translation>
-    </message>
-    <message>
-        <source>请输入密码</source>
-        <translation>Introduzca la contraseña</translation>
     </message>
     <message>
         <source>请确认密码</source>
@@ -6803,6 +6815,10 @@ Archivo: </translation>
         <source>设备证书已改变</source>
         <translation>El certificado ha cambiado</translation>
     </message>
+    <message>
+        <source>设备已不在列表中</source>
+        <translation>El dispositivo ya no está en la lista</translation>
+    </message>
 </context>
 <context>
     <name>UpgradeWork</name>
@@ -6959,6 +6975,14 @@ Archivo: </translation>
     <message>
         <source>没有设备</source>
         <translation>No hay dispositivos</translation>
+    </message>
+    <message>
+        <source>按规则命名</source>
+        <translation>Nombrar por patrón</translation>
+    </message>
+    <message>
+        <source>单击左侧的一台设备，在此修改它的通道名称，或者为勾选的摄像机统一命名。</source>
+        <translation>Haga clic en un dispositivo a la izquierda para cambiar aquí los nombres de sus canales, o nombre juntas las cámaras seleccionadas.</translation>
     </message>
 </context>
 <context>

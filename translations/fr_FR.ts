@@ -246,6 +246,21 @@
         <source>未使用</source>
         <translation>Non utilisé</translation>
     </message>
+    <message>
+        <source>设备已拒绝此账号，请选择或添加另一个账号</source>
+        <translation>Les appareils ont refusé ce compte. Choisissez-en ou ajoutez-en un autre.</translation>
+    </message>
+    <message numerus="yes">
+        <source>用于 %n 台设备并重试</source>
+        <translation>
+            <numerusform>Utiliser pour %n appareil et réessayer</numerusform>
+            <numerusform>Utiliser pour %n appareils et réessayer</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>设备拒绝了账号 %1。请选择或添加另一个账号。</source>
+        <translation>Les appareils ont refusé le compte %1. Choisissez-en ou ajoutez-en un autre.</translation>
+    </message>
 </context>
 <context>
     <name>AddDeviceDialog</name>
@@ -2893,6 +2908,25 @@ Clic droit pour copier le résultat</translation>
     </message>
 </context>
 <context>
+    <name>ImageGallery</name>
+    <message>
+        <source>获取图像</source>
+        <translation>Récupérer les images</translation>
+    </message>
+    <message>
+        <source>共 %1 个通道，仅显示前 %2 个</source>
+        <translation>%1 canaux, les %2 premiers sont affichés</translation>
+    </message>
+    <message>
+        <source>保存图像</source>
+        <translation>Enregistrer les images</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>Le dossier %1 n&apos;a pas pu être créé</translation>
+    </message>
+</context>
+<context>
     <name>ImageGroup</name>
     <message>
         <source>没有读到这一组设置，不能修改。请刷新重试。</source>
@@ -2980,6 +3014,20 @@ Clic droit pour copier le résultat</translation>
     <message>
         <source>延时(秒)</source>
         <translation>Délai (s)</translation>
+    </message>
+</context>
+<context>
+    <name>ImageOperations</name>
+    <message>
+        <source>设备没有发送画面</source>
+        <translation>L&apos;appareil n&apos;a envoyé aucune image</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道没有图像</source>
+        <translation>
+            <numerusform>Pas d&apos;image de %n canal</numerusform>
+            <numerusform>Pas d&apos;image de %n canaux</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3463,6 +3511,10 @@ Clic droit pour copier le résultat</translation>
     <message>
         <source>加入勾选的设备</source>
         <translation>Ajouter les appareils sélectionnés</translation>
+    </message>
+    <message>
+        <source>抓取全部设备的所有通道</source>
+        <translation>Captures de tous les canaux de tous les appareils</translation>
     </message>
 </context>
 <context>
@@ -4757,6 +4809,10 @@ Fichier : </translation>
         <source>配置这台设备</source>
         <translation>Configurer cet appareil</translation>
     </message>
+    <message>
+        <source>勾选的设备中没有摄像机</source>
+        <translation>Aucune caméra parmi les appareils sélectionnés</translation>
+    </message>
 </context>
 <context>
     <name>PageDeviceUpgrade</name>
@@ -4910,39 +4966,6 @@ Fichier : </translation>
     <message>
         <source>；</source>
         <translation> ; </translation>
-    </message>
-</context>
-<context>
-    <name>PictureGallery</name>
-    <message>
-        <source>获取图像</source>
-        <translation>Récupérer les images</translation>
-    </message>
-    <message>
-        <source>共 %1 个通道，仅显示前 %2 个</source>
-        <translation>%1 canaux, les %2 premiers sont affichés</translation>
-    </message>
-    <message>
-        <source>保存图像</source>
-        <translation>Enregistrer les images</translation>
-    </message>
-    <message>
-        <source>无法建立文件夹 %1</source>
-        <translation>Le dossier %1 n&apos;a pas pu être créé</translation>
-    </message>
-</context>
-<context>
-    <name>PictureOperations</name>
-    <message>
-        <source>设备没有发送画面</source>
-        <translation>L&apos;appareil n&apos;a envoyé aucune image</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 个通道没有图像</source>
-        <translation>
-            <numerusform>Pas d&apos;image de %n canal</numerusform>
-            <numerusform>Pas d&apos;image de %n canaux</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -5154,13 +5177,6 @@ Fichier : </translation>
     <message>
         <source>设备已接受，但结果未确认</source>
         <translation>Accepté par l&apos;appareil, non confirmé</translation>
-    </message>
-</context>
-<context>
-    <name>RowUpgrades</name>
-    <message>
-        <source>设备已不在列表中</source>
-        <translation>L&apos;appareil n&apos;est plus dans la liste</translation>
     </message>
 </context>
 <context>
@@ -5874,10 +5890,6 @@ Fichier : </translation>
     <message>
         <source>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</source>
         <translation>Utilisez au moins deux types parmi chiffres, lettres et symboles, sans caractère interdit.</translation>
-    </message>
-    <message>
-        <source>请输入密码</source>
-        <translation>Saisissez le mot de passe</translation>
     </message>
     <message>
         <source>请确认密码</source>
@@ -6803,6 +6815,10 @@ Fichier : </translation>
         <source>设备证书已改变</source>
         <translation>Le certificat a changé</translation>
     </message>
+    <message>
+        <source>设备已不在列表中</source>
+        <translation>L&apos;appareil n&apos;est plus dans la liste</translation>
+    </message>
 </context>
 <context>
     <name>UpgradeWork</name>
@@ -6959,6 +6975,14 @@ Fichier : </translation>
     <message>
         <source>没有设备</source>
         <translation>Aucun appareil</translation>
+    </message>
+    <message>
+        <source>按规则命名</source>
+        <translation>Nommer par motif</translation>
+    </message>
+    <message>
+        <source>单击左侧的一台设备，在此修改它的通道名称，或者为勾选的摄像机统一命名。</source>
+        <translation>Cliquez sur un appareil à gauche pour modifier ici les noms de ses canaux, ou nommez ensemble les caméras sélectionnées.</translation>
     </message>
 </context>
 <context>

@@ -246,6 +246,21 @@
         <source>未使用</source>
         <translation>Non usato</translation>
     </message>
+    <message>
+        <source>设备已拒绝此账号，请选择或添加另一个账号</source>
+        <translation>I dispositivi hanno rifiutato questo account. Selezionarne o aggiungerne un altro.</translation>
+    </message>
+    <message numerus="yes">
+        <source>用于 %n 台设备并重试</source>
+        <translation>
+            <numerusform>Usa per %n dispositivo e riprova</numerusform>
+            <numerusform>Usa per %n dispositivi e riprova</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>设备拒绝了账号 %1。请选择或添加另一个账号。</source>
+        <translation>I dispositivi hanno rifiutato l&apos;account %1. Selezionarne o aggiungerne un altro.</translation>
+    </message>
 </context>
 <context>
     <name>AddDeviceDialog</name>
@@ -2893,6 +2908,25 @@ Clic destro per copiare il risultato</translation>
     </message>
 </context>
 <context>
+    <name>ImageGallery</name>
+    <message>
+        <source>获取图像</source>
+        <translation>Recupera immagini</translation>
+    </message>
+    <message>
+        <source>共 %1 个通道，仅显示前 %2 个</source>
+        <translation>%1 canali, sono mostrati i primi %2</translation>
+    </message>
+    <message>
+        <source>保存图像</source>
+        <translation>Salva immagini</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>Impossibile creare la cartella %1</translation>
+    </message>
+</context>
+<context>
     <name>ImageGroup</name>
     <message>
         <source>没有读到这一组设置，不能修改。请刷新重试。</source>
@@ -2980,6 +3014,20 @@ Clic destro per copiare il risultato</translation>
     <message>
         <source>延时(秒)</source>
         <translation>Ritardo (s)</translation>
+    </message>
+</context>
+<context>
+    <name>ImageOperations</name>
+    <message>
+        <source>设备没有发送画面</source>
+        <translation>Il dispositivo non ha inviato alcuna immagine</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道没有图像</source>
+        <translation>
+            <numerusform>Nessuna immagine di %n canale</numerusform>
+            <numerusform>Nessuna immagine di %n canali</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3463,6 +3511,10 @@ Clic destro per copiare il risultato</translation>
     <message>
         <source>加入勾选的设备</source>
         <translation>Aggiungi dispositivi selezionati</translation>
+    </message>
+    <message>
+        <source>抓取全部设备的所有通道</source>
+        <translation>Istantanee di tutti i canali di tutti i dispositivi</translation>
     </message>
 </context>
 <context>
@@ -4757,6 +4809,10 @@ File: </translation>
         <source>配置这台设备</source>
         <translation>Configura questo dispositivo</translation>
     </message>
+    <message>
+        <source>勾选的设备中没有摄像机</source>
+        <translation>Nessuna telecamera tra i dispositivi selezionati</translation>
+    </message>
 </context>
 <context>
     <name>PageDeviceUpgrade</name>
@@ -4910,39 +4966,6 @@ File: </translation>
     <message>
         <source>；</source>
         <translation>; </translation>
-    </message>
-</context>
-<context>
-    <name>PictureGallery</name>
-    <message>
-        <source>获取图像</source>
-        <translation>Recupera immagini</translation>
-    </message>
-    <message>
-        <source>共 %1 个通道，仅显示前 %2 个</source>
-        <translation>%1 canali, sono mostrati i primi %2</translation>
-    </message>
-    <message>
-        <source>保存图像</source>
-        <translation>Salva immagini</translation>
-    </message>
-    <message>
-        <source>无法建立文件夹 %1</source>
-        <translation>Impossibile creare la cartella %1</translation>
-    </message>
-</context>
-<context>
-    <name>PictureOperations</name>
-    <message>
-        <source>设备没有发送画面</source>
-        <translation>Il dispositivo non ha inviato alcuna immagine</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 个通道没有图像</source>
-        <translation>
-            <numerusform>Nessuna immagine di %n canale</numerusform>
-            <numerusform>Nessuna immagine di %n canali</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -5154,13 +5177,6 @@ File: </translation>
     <message>
         <source>设备已接受，但结果未确认</source>
         <translation>Accettato dal dispositivo, non confermato</translation>
-    </message>
-</context>
-<context>
-    <name>RowUpgrades</name>
-    <message>
-        <source>设备已不在列表中</source>
-        <translation>Il dispositivo non è più nell&apos;elenco</translation>
     </message>
 </context>
 <context>
@@ -5874,10 +5890,6 @@ File: </translation>
     <message>
         <source>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</source>
         <translation>Usare almeno due tipi tra cifre, lettere e simboli, senza caratteri non ammessi.</translation>
-    </message>
-    <message>
-        <source>请输入密码</source>
-        <translation>Inserire la password</translation>
     </message>
     <message>
         <source>请确认密码</source>
@@ -6803,6 +6815,10 @@ File: </translation>
         <source>设备证书已改变</source>
         <translation>Il certificato è cambiato</translation>
     </message>
+    <message>
+        <source>设备已不在列表中</source>
+        <translation>Il dispositivo non è più nell&apos;elenco</translation>
+    </message>
 </context>
 <context>
     <name>UpgradeWork</name>
@@ -6959,6 +6975,14 @@ File: </translation>
     <message>
         <source>没有设备</source>
         <translation>Nessun dispositivo</translation>
+    </message>
+    <message>
+        <source>按规则命名</source>
+        <translation>Nomi da schema</translation>
+    </message>
+    <message>
+        <source>单击左侧的一台设备，在此修改它的通道名称，或者为勾选的摄像机统一命名。</source>
+        <translation>Fare clic su un dispositivo a sinistra per modificare qui i nomi dei suoi canali, oppure denominare insieme le telecamere selezionate.</translation>
     </message>
 </context>
 <context>

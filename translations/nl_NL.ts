@@ -246,6 +246,21 @@
         <source>未使用</source>
         <translation>Niet gebruikt</translation>
     </message>
+    <message>
+        <source>设备已拒绝此账号，请选择或添加另一个账号</source>
+        <translation>De apparaten hebben dit account geweigerd. Selecteer of voeg een ander account toe.</translation>
+    </message>
+    <message numerus="yes">
+        <source>用于 %n 台设备并重试</source>
+        <translation>
+            <numerusform>Gebruiken voor %n apparaat en opnieuw proberen</numerusform>
+            <numerusform>Gebruiken voor %n apparaten en opnieuw proberen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>设备拒绝了账号 %1。请选择或添加另一个账号。</source>
+        <translation>De apparaten hebben het account %1 geweigerd. Selecteer of voeg een ander account toe.</translation>
+    </message>
 </context>
 <context>
     <name>AddDeviceDialog</name>
@@ -2893,6 +2908,25 @@ Klik met rechts om het resultaat te kopiëren</translation>
     </message>
 </context>
 <context>
+    <name>ImageGallery</name>
+    <message>
+        <source>获取图像</source>
+        <translation>Beelden ophalen</translation>
+    </message>
+    <message>
+        <source>共 %1 个通道，仅显示前 %2 个</source>
+        <translation>%1 kanalen, de eerste %2 worden getoond</translation>
+    </message>
+    <message>
+        <source>保存图像</source>
+        <translation>Beelden opslaan</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>De map %1 kon niet worden gemaakt</translation>
+    </message>
+</context>
+<context>
     <name>ImageGroup</name>
     <message>
         <source>没有读到这一组设置，不能修改。请刷新重试。</source>
@@ -2980,6 +3014,20 @@ Klik met rechts om het resultaat te kopiëren</translation>
     <message>
         <source>延时(秒)</source>
         <translation>Vertraging (s)</translation>
+    </message>
+</context>
+<context>
+    <name>ImageOperations</name>
+    <message>
+        <source>设备没有发送画面</source>
+        <translation>Het apparaat heeft geen beeld verzonden</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道没有图像</source>
+        <translation>
+            <numerusform>Geen beeld van %n kanaal</numerusform>
+            <numerusform>Geen beeld van %n kanalen</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3463,6 +3511,10 @@ Klik met rechts om het resultaat te kopiëren</translation>
     <message>
         <source>加入勾选的设备</source>
         <translation>Geselecteerde apparaten toevoegen</translation>
+    </message>
+    <message>
+        <source>抓取全部设备的所有通道</source>
+        <translation>Snapshots van alle kanalen van alle apparaten</translation>
     </message>
 </context>
 <context>
@@ -4757,6 +4809,10 @@ Bestand: </translation>
         <source>配置这台设备</source>
         <translation>Dit apparaat configureren</translation>
     </message>
+    <message>
+        <source>勾选的设备中没有摄像机</source>
+        <translation>Er is geen camera onder de geselecteerde apparaten</translation>
+    </message>
 </context>
 <context>
     <name>PageDeviceUpgrade</name>
@@ -4910,39 +4966,6 @@ Bestand: </translation>
     <message>
         <source>；</source>
         <translation>; </translation>
-    </message>
-</context>
-<context>
-    <name>PictureGallery</name>
-    <message>
-        <source>获取图像</source>
-        <translation>Beelden ophalen</translation>
-    </message>
-    <message>
-        <source>共 %1 个通道，仅显示前 %2 个</source>
-        <translation>%1 kanalen, de eerste %2 worden getoond</translation>
-    </message>
-    <message>
-        <source>保存图像</source>
-        <translation>Beelden opslaan</translation>
-    </message>
-    <message>
-        <source>无法建立文件夹 %1</source>
-        <translation>De map %1 kon niet worden gemaakt</translation>
-    </message>
-</context>
-<context>
-    <name>PictureOperations</name>
-    <message>
-        <source>设备没有发送画面</source>
-        <translation>Het apparaat heeft geen beeld verzonden</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 个通道没有图像</source>
-        <translation>
-            <numerusform>Geen beeld van %n kanaal</numerusform>
-            <numerusform>Geen beeld van %n kanalen</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -5154,13 +5177,6 @@ Bestand: </translation>
     <message>
         <source>设备已接受，但结果未确认</source>
         <translation>Geaccepteerd door het apparaat, niet bevestigd</translation>
-    </message>
-</context>
-<context>
-    <name>RowUpgrades</name>
-    <message>
-        <source>设备已不在列表中</source>
-        <translation>Het apparaat staat niet meer in de lijst</translation>
     </message>
 </context>
 <context>
@@ -5874,10 +5890,6 @@ Bestand: </translation>
     <message>
         <source>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</source>
         <translation>Gebruik minstens twee van cijfers, letters en symbolen, en geen ongeldige tekens.</translation>
-    </message>
-    <message>
-        <source>请输入密码</source>
-        <translation>Voer het wachtwoord in</translation>
     </message>
     <message>
         <source>请确认密码</source>
@@ -6803,6 +6815,10 @@ Bestand: </translation>
         <source>设备证书已改变</source>
         <translation>Certificaat is gewijzigd</translation>
     </message>
+    <message>
+        <source>设备已不在列表中</source>
+        <translation>Het apparaat staat niet meer in de lijst</translation>
+    </message>
 </context>
 <context>
     <name>UpgradeWork</name>
@@ -6959,6 +6975,14 @@ Bestand: </translation>
     <message>
         <source>没有设备</source>
         <translation>Geen apparaten</translation>
+    </message>
+    <message>
+        <source>按规则命名</source>
+        <translation>Benoemen via patroon</translation>
+    </message>
+    <message>
+        <source>单击左侧的一台设备，在此修改它的通道名称，或者为勾选的摄像机统一命名。</source>
+        <translation>Klik links op een apparaat om hier de kanaalnamen te wijzigen, of geef de geselecteerde camera&apos;s samen een naam.</translation>
     </message>
 </context>
 <context>

@@ -246,6 +246,21 @@
         <source>未使用</source>
         <translation>Ikke brukt</translation>
     </message>
+    <message>
+        <source>设备已拒绝此账号，请选择或添加另一个账号</source>
+        <translation>Enhetene har avvist denne kontoen. Velg eller legg til en annen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>用于 %n 台设备并重试</source>
+        <translation>
+            <numerusform>Bruk for %n enhet og prøv igjen</numerusform>
+            <numerusform>Bruk for %n enheter og prøv igjen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>设备拒绝了账号 %1。请选择或添加另一个账号。</source>
+        <translation>Enhetene avviste kontoen %1. Velg eller legg til en annen konto.</translation>
+    </message>
 </context>
 <context>
     <name>AddDeviceDialog</name>
@@ -2893,6 +2908,25 @@ Høyreklikk for å kopiere resultatet</translation>
     </message>
 </context>
 <context>
+    <name>ImageGallery</name>
+    <message>
+        <source>获取图像</source>
+        <translation>Hent bilder</translation>
+    </message>
+    <message>
+        <source>共 %1 个通道，仅显示前 %2 个</source>
+        <translation>%1 kanaler, de første %2 vises</translation>
+    </message>
+    <message>
+        <source>保存图像</source>
+        <translation>Lagre bilder</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>Mappen %1 kunne ikke opprettes</translation>
+    </message>
+</context>
+<context>
     <name>ImageGroup</name>
     <message>
         <source>没有读到这一组设置，不能修改。请刷新重试。</source>
@@ -2980,6 +3014,20 @@ Høyreklikk for å kopiere resultatet</translation>
     <message>
         <source>延时(秒)</source>
         <translation>Forsinkelse (s)</translation>
+    </message>
+</context>
+<context>
+    <name>ImageOperations</name>
+    <message>
+        <source>设备没有发送画面</source>
+        <translation>Enheten har ikke sendt noe bilde</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道没有图像</source>
+        <translation>
+            <numerusform>Ikke noe bilde fra %n kanal</numerusform>
+            <numerusform>Ikke noe bilde fra %n kanaler</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3463,6 +3511,10 @@ Høyreklikk for å kopiere resultatet</translation>
     <message>
         <source>加入勾选的设备</source>
         <translation>Legg til valgte enheter</translation>
+    </message>
+    <message>
+        <source>抓取全部设备的所有通道</source>
+        <translation>Stillbilder av alle kanaler på alle enheter</translation>
     </message>
 </context>
 <context>
@@ -4757,6 +4809,10 @@ Fil: </translation>
         <source>配置这台设备</source>
         <translation>Konfigurer denne enheten</translation>
     </message>
+    <message>
+        <source>勾选的设备中没有摄像机</source>
+        <translation>Det er ikke noe kamera blant de valgte enhetene</translation>
+    </message>
 </context>
 <context>
     <name>PageDeviceUpgrade</name>
@@ -4910,39 +4966,6 @@ Fil: </translation>
     <message>
         <source>；</source>
         <translation>; </translation>
-    </message>
-</context>
-<context>
-    <name>PictureGallery</name>
-    <message>
-        <source>获取图像</source>
-        <translation>Hent bilder</translation>
-    </message>
-    <message>
-        <source>共 %1 个通道，仅显示前 %2 个</source>
-        <translation>%1 kanaler, de første %2 vises</translation>
-    </message>
-    <message>
-        <source>保存图像</source>
-        <translation>Lagre bilder</translation>
-    </message>
-    <message>
-        <source>无法建立文件夹 %1</source>
-        <translation>Mappen %1 kunne ikke opprettes</translation>
-    </message>
-</context>
-<context>
-    <name>PictureOperations</name>
-    <message>
-        <source>设备没有发送画面</source>
-        <translation>Enheten har ikke sendt noe bilde</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 个通道没有图像</source>
-        <translation>
-            <numerusform>Ikke noe bilde fra %n kanal</numerusform>
-            <numerusform>Ikke noe bilde fra %n kanaler</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -5154,13 +5177,6 @@ Fil: </translation>
     <message>
         <source>设备已接受，但结果未确认</source>
         <translation>Mottatt av enheten, ikke bekreftet</translation>
-    </message>
-</context>
-<context>
-    <name>RowUpgrades</name>
-    <message>
-        <source>设备已不在列表中</source>
-        <translation>Enheten finnes ikke lenger i listen</translation>
     </message>
 </context>
 <context>
@@ -5874,10 +5890,6 @@ Fil: </translation>
     <message>
         <source>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</source>
         <translation>Bruk minst to av sifre, bokstaver og symboler, og ingen ulovlige tegn.</translation>
-    </message>
-    <message>
-        <source>请输入密码</source>
-        <translation>Angi passordet</translation>
     </message>
     <message>
         <source>请确认密码</source>
@@ -6803,6 +6815,10 @@ Fil: </translation>
         <source>设备证书已改变</source>
         <translation>Sertifikatet er endret</translation>
     </message>
+    <message>
+        <source>设备已不在列表中</source>
+        <translation>Enheten finnes ikke lenger i listen</translation>
+    </message>
 </context>
 <context>
     <name>UpgradeWork</name>
@@ -6959,6 +6975,14 @@ Fil: </translation>
     <message>
         <source>没有设备</source>
         <translation>Ingen enheter</translation>
+    </message>
+    <message>
+        <source>按规则命名</source>
+        <translation>Gi navn etter mønster</translation>
+    </message>
+    <message>
+        <source>单击左侧的一台设备，在此修改它的通道名称，或者为勾选的摄像机统一命名。</source>
+        <translation>Klikk på en enhet til venstre for å endre kanalnavnene her, eller gi de valgte kameraene navn samlet.</translation>
     </message>
 </context>
 <context>

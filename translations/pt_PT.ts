@@ -246,6 +246,21 @@
         <source>未使用</source>
         <translation>Não usado</translation>
     </message>
+    <message>
+        <source>设备已拒绝此账号，请选择或添加另一个账号</source>
+        <translation>Os dispositivos recusaram esta conta. Selecione ou adicione outra.</translation>
+    </message>
+    <message numerus="yes">
+        <source>用于 %n 台设备并重试</source>
+        <translation>
+            <numerusform>Usar para %n dispositivo e repetir</numerusform>
+            <numerusform>Usar para %n dispositivos e repetir</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>设备拒绝了账号 %1。请选择或添加另一个账号。</source>
+        <translation>Os dispositivos recusaram a conta %1. Selecione ou adicione outra.</translation>
+    </message>
 </context>
 <context>
     <name>AddDeviceDialog</name>
@@ -2893,6 +2908,25 @@ Clique com o botão direito para copiar o resultado</translation>
     </message>
 </context>
 <context>
+    <name>ImageGallery</name>
+    <message>
+        <source>获取图像</source>
+        <translation>Obter imagens</translation>
+    </message>
+    <message>
+        <source>共 %1 个通道，仅显示前 %2 个</source>
+        <translation>%1 canais, são mostrados os primeiros %2</translation>
+    </message>
+    <message>
+        <source>保存图像</source>
+        <translation>Guardar imagens</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>Não foi possível criar a pasta %1</translation>
+    </message>
+</context>
+<context>
     <name>ImageGroup</name>
     <message>
         <source>没有读到这一组设置，不能修改。请刷新重试。</source>
@@ -2980,6 +3014,20 @@ Clique com o botão direito para copiar o resultado</translation>
     <message>
         <source>延时(秒)</source>
         <translation>Atraso (s)</translation>
+    </message>
+</context>
+<context>
+    <name>ImageOperations</name>
+    <message>
+        <source>设备没有发送画面</source>
+        <translation>O dispositivo não enviou nenhuma imagem</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道没有图像</source>
+        <translation>
+            <numerusform>Sem imagem de %n canal</numerusform>
+            <numerusform>Sem imagem de %n canais</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3463,6 +3511,10 @@ Clique com o botão direito para copiar o resultado</translation>
     <message>
         <source>加入勾选的设备</source>
         <translation>Adicionar dispositivos selecionados</translation>
+    </message>
+    <message>
+        <source>抓取全部设备的所有通道</source>
+        <translation>Capturas de todos os canais de todos os dispositivos</translation>
     </message>
 </context>
 <context>
@@ -4757,6 +4809,10 @@ Ficheiro: </translation>
         <source>配置这台设备</source>
         <translation>Configurar este dispositivo</translation>
     </message>
+    <message>
+        <source>勾选的设备中没有摄像机</source>
+        <translation>Não há nenhuma câmara entre os dispositivos selecionados</translation>
+    </message>
 </context>
 <context>
     <name>PageDeviceUpgrade</name>
@@ -4910,39 +4966,6 @@ Ficheiro: </translation>
     <message>
         <source>；</source>
         <translation>; </translation>
-    </message>
-</context>
-<context>
-    <name>PictureGallery</name>
-    <message>
-        <source>获取图像</source>
-        <translation>Obter imagens</translation>
-    </message>
-    <message>
-        <source>共 %1 个通道，仅显示前 %2 个</source>
-        <translation>%1 canais, são mostrados os primeiros %2</translation>
-    </message>
-    <message>
-        <source>保存图像</source>
-        <translation>Guardar imagens</translation>
-    </message>
-    <message>
-        <source>无法建立文件夹 %1</source>
-        <translation>Não foi possível criar a pasta %1</translation>
-    </message>
-</context>
-<context>
-    <name>PictureOperations</name>
-    <message>
-        <source>设备没有发送画面</source>
-        <translation>O dispositivo não enviou nenhuma imagem</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 个通道没有图像</source>
-        <translation>
-            <numerusform>Sem imagem de %n canal</numerusform>
-            <numerusform>Sem imagem de %n canais</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -5154,13 +5177,6 @@ Ficheiro: </translation>
     <message>
         <source>设备已接受，但结果未确认</source>
         <translation>Aceite pelo dispositivo, não confirmado</translation>
-    </message>
-</context>
-<context>
-    <name>RowUpgrades</name>
-    <message>
-        <source>设备已不在列表中</source>
-        <translation>O dispositivo já não está na lista</translation>
     </message>
 </context>
 <context>
@@ -5874,10 +5890,6 @@ Ficheiro: </translation>
     <message>
         <source>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</source>
         <translation>Use pelo menos dois tipos entre algarismos, letras e símbolos, sem caracteres não permitidos.</translation>
-    </message>
-    <message>
-        <source>请输入密码</source>
-        <translation>Introduza a palavra-passe</translation>
     </message>
     <message>
         <source>请确认密码</source>
@@ -6803,6 +6815,10 @@ Ficheiro: </translation>
         <source>设备证书已改变</source>
         <translation>O certificado mudou</translation>
     </message>
+    <message>
+        <source>设备已不在列表中</source>
+        <translation>O dispositivo já não está na lista</translation>
+    </message>
 </context>
 <context>
     <name>UpgradeWork</name>
@@ -6959,6 +6975,14 @@ Ficheiro: </translation>
     <message>
         <source>没有设备</source>
         <translation>Sem dispositivos</translation>
+    </message>
+    <message>
+        <source>按规则命名</source>
+        <translation>Nomear por padrão</translation>
+    </message>
+    <message>
+        <source>单击左侧的一台设备，在此修改它的通道名称，或者为勾选的摄像机统一命名。</source>
+        <translation>Clique num dispositivo à esquerda para alterar aqui os nomes dos seus canais, ou dê nome às câmaras selecionadas em conjunto.</translation>
     </message>
 </context>
 <context>

@@ -253,6 +253,22 @@
         <source>未使用</source>
         <translation>Nefolosit</translation>
     </message>
+    <message>
+        <source>设备已拒绝此账号，请选择或添加另一个账号</source>
+        <translation>Dispozitivele au refuzat acest cont. Selectați sau adăugați altul.</translation>
+    </message>
+    <message numerus="yes">
+        <source>用于 %n 台设备并重试</source>
+        <translation>
+            <numerusform>Utilizare la %n dispozitiv și reîncercare</numerusform>
+            <numerusform>Utilizare la %n dispozitive și reîncercare</numerusform>
+            <numerusform>Utilizare la %n de dispozitive și reîncercare</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>设备拒绝了账号 %1。请选择或添加另一个账号。</source>
+        <translation>Dispozitivele au refuzat contul %1. Selectați sau adăugați alt cont.</translation>
+    </message>
 </context>
 <context>
     <name>AddDeviceDialog</name>
@@ -2937,6 +2953,25 @@ Clic dreapta pentru a copia rezultatul</translation>
     </message>
 </context>
 <context>
+    <name>ImageGallery</name>
+    <message>
+        <source>获取图像</source>
+        <translation>Preluare imagini</translation>
+    </message>
+    <message>
+        <source>共 %1 个通道，仅显示前 %2 个</source>
+        <translation>%1 canale, sunt afișate primele %2</translation>
+    </message>
+    <message>
+        <source>保存图像</source>
+        <translation>Salvare imagini</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>Folderul %1 nu a putut fi creat</translation>
+    </message>
+</context>
+<context>
     <name>ImageGroup</name>
     <message>
         <source>没有读到这一组设置，不能修改。请刷新重试。</source>
@@ -3024,6 +3059,21 @@ Clic dreapta pentru a copia rezultatul</translation>
     <message>
         <source>延时(秒)</source>
         <translation>Întârziere (s)</translation>
+    </message>
+</context>
+<context>
+    <name>ImageOperations</name>
+    <message>
+        <source>设备没有发送画面</source>
+        <translation>Dispozitivul nu a trimis nicio imagine</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道没有图像</source>
+        <translation>
+            <numerusform>Nicio imagine de la %n canal</numerusform>
+            <numerusform>Nicio imagine de la %n canale</numerusform>
+            <numerusform>Nicio imagine de la %n de canale</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3509,6 +3559,10 @@ Clic dreapta pentru a copia rezultatul</translation>
     <message>
         <source>加入勾选的设备</source>
         <translation>Adăugare dispozitive selectate</translation>
+    </message>
+    <message>
+        <source>抓取全部设备的所有通道</source>
+        <translation>Instantanee ale tuturor canalelor de pe toate dispozitivele</translation>
     </message>
 </context>
 <context>
@@ -4824,6 +4878,10 @@ Fișier: </translation>
         <source>配置这台设备</source>
         <translation>Configurarea acestui dispozitiv</translation>
     </message>
+    <message>
+        <source>勾选的设备中没有摄像机</source>
+        <translation>Nu există nicio cameră între dispozitivele selectate</translation>
+    </message>
 </context>
 <context>
     <name>PageDeviceUpgrade</name>
@@ -4985,40 +5043,6 @@ Fișier: </translation>
     <message>
         <source>；</source>
         <translation>; </translation>
-    </message>
-</context>
-<context>
-    <name>PictureGallery</name>
-    <message>
-        <source>获取图像</source>
-        <translation>Preluare imagini</translation>
-    </message>
-    <message>
-        <source>共 %1 个通道，仅显示前 %2 个</source>
-        <translation>%1 canale, sunt afișate primele %2</translation>
-    </message>
-    <message>
-        <source>保存图像</source>
-        <translation>Salvare imagini</translation>
-    </message>
-    <message>
-        <source>无法建立文件夹 %1</source>
-        <translation>Folderul %1 nu a putut fi creat</translation>
-    </message>
-</context>
-<context>
-    <name>PictureOperations</name>
-    <message>
-        <source>设备没有发送画面</source>
-        <translation>Dispozitivul nu a trimis nicio imagine</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 个通道没有图像</source>
-        <translation>
-            <numerusform>Nicio imagine de la %n canal</numerusform>
-            <numerusform>Nicio imagine de la %n canale</numerusform>
-            <numerusform>Nicio imagine de la %n de canale</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -5231,13 +5255,6 @@ Fișier: </translation>
     <message>
         <source>设备已接受，但结果未确认</source>
         <translation>Preluat de dispozitiv, neconfirmat</translation>
-    </message>
-</context>
-<context>
-    <name>RowUpgrades</name>
-    <message>
-        <source>设备已不在列表中</source>
-        <translation>Dispozitivul nu mai este în listă</translation>
     </message>
 </context>
 <context>
@@ -5954,10 +5971,6 @@ Fișier: </translation>
     <message>
         <source>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</source>
         <translation>Folosiți cel puțin două dintre cifre, litere și simboluri și niciun caracter nepermis.</translation>
-    </message>
-    <message>
-        <source>请输入密码</source>
-        <translation>Introduceți parola</translation>
     </message>
     <message>
         <source>请确认密码</source>
@@ -6891,6 +6904,10 @@ Fișier: </translation>
         <source>设备证书已改变</source>
         <translation>Certificatul s-a schimbat</translation>
     </message>
+    <message>
+        <source>设备已不在列表中</source>
+        <translation>Dispozitivul nu mai este în listă</translation>
+    </message>
 </context>
 <context>
     <name>UpgradeWork</name>
@@ -7049,6 +7066,14 @@ Fișier: </translation>
     <message>
         <source>没有设备</source>
         <translation>Niciun dispozitiv</translation>
+    </message>
+    <message>
+        <source>按规则命名</source>
+        <translation>Denumire după tipar</translation>
+    </message>
+    <message>
+        <source>单击左侧的一台设备，在此修改它的通道名称，或者为勾选的摄像机统一命名。</source>
+        <translation>Faceți clic pe un dispozitiv din stânga pentru a modifica aici numele canalelor sale sau denumiți împreună camerele selectate.</translation>
     </message>
 </context>
 <context>

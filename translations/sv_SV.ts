@@ -246,6 +246,21 @@
         <source>未使用</source>
         <translation>Används ej</translation>
     </message>
+    <message>
+        <source>设备已拒绝此账号，请选择或添加另一个账号</source>
+        <translation>Enheterna har nekat det här kontot. Välj eller lägg till ett annat.</translation>
+    </message>
+    <message numerus="yes">
+        <source>用于 %n 台设备并重试</source>
+        <translation>
+            <numerusform>Använd för %n enhet och försök igen</numerusform>
+            <numerusform>Använd för %n enheter och försök igen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>设备拒绝了账号 %1。请选择或添加另一个账号。</source>
+        <translation>Enheterna nekade kontot %1. Välj eller lägg till ett annat konto.</translation>
+    </message>
 </context>
 <context>
     <name>AddDeviceDialog</name>
@@ -2893,6 +2908,25 @@ Högerklicka för att kopiera resultatet</translation>
     </message>
 </context>
 <context>
+    <name>ImageGallery</name>
+    <message>
+        <source>获取图像</source>
+        <translation>Hämta bilder</translation>
+    </message>
+    <message>
+        <source>共 %1 个通道，仅显示前 %2 个</source>
+        <translation>%1 kanaler, de första %2 visas</translation>
+    </message>
+    <message>
+        <source>保存图像</source>
+        <translation>Spara bilder</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>Mappen %1 kunde inte skapas</translation>
+    </message>
+</context>
+<context>
     <name>ImageGroup</name>
     <message>
         <source>没有读到这一组设置，不能修改。请刷新重试。</source>
@@ -2980,6 +3014,20 @@ Högerklicka för att kopiera resultatet</translation>
     <message>
         <source>延时(秒)</source>
         <translation>Fördröjning (s)</translation>
+    </message>
+</context>
+<context>
+    <name>ImageOperations</name>
+    <message>
+        <source>设备没有发送画面</source>
+        <translation>Enheten har inte skickat någon bild</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 个通道没有图像</source>
+        <translation>
+            <numerusform>Ingen bild från %n kanal</numerusform>
+            <numerusform>Ingen bild från %n kanaler</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3463,6 +3511,10 @@ Högerklicka för att kopiera resultatet</translation>
     <message>
         <source>加入勾选的设备</source>
         <translation>Lägg till valda enheter</translation>
+    </message>
+    <message>
+        <source>抓取全部设备的所有通道</source>
+        <translation>Stillbilder av alla kanaler på alla enheter</translation>
     </message>
 </context>
 <context>
@@ -4757,6 +4809,10 @@ Fil: </translation>
         <source>配置这台设备</source>
         <translation>Konfigurera den här enheten</translation>
     </message>
+    <message>
+        <source>勾选的设备中没有摄像机</source>
+        <translation>Det finns ingen kamera bland de valda enheterna</translation>
+    </message>
 </context>
 <context>
     <name>PageDeviceUpgrade</name>
@@ -4910,39 +4966,6 @@ Fil: </translation>
     <message>
         <source>；</source>
         <translation>; </translation>
-    </message>
-</context>
-<context>
-    <name>PictureGallery</name>
-    <message>
-        <source>获取图像</source>
-        <translation>Hämta bilder</translation>
-    </message>
-    <message>
-        <source>共 %1 个通道，仅显示前 %2 个</source>
-        <translation>%1 kanaler, de första %2 visas</translation>
-    </message>
-    <message>
-        <source>保存图像</source>
-        <translation>Spara bilder</translation>
-    </message>
-    <message>
-        <source>无法建立文件夹 %1</source>
-        <translation>Mappen %1 kunde inte skapas</translation>
-    </message>
-</context>
-<context>
-    <name>PictureOperations</name>
-    <message>
-        <source>设备没有发送画面</source>
-        <translation>Enheten har inte skickat någon bild</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n 个通道没有图像</source>
-        <translation>
-            <numerusform>Ingen bild från %n kanal</numerusform>
-            <numerusform>Ingen bild från %n kanaler</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -5154,13 +5177,6 @@ Fil: </translation>
     <message>
         <source>设备已接受，但结果未确认</source>
         <translation>Mottaget av enheten, ej bekräftat</translation>
-    </message>
-</context>
-<context>
-    <name>RowUpgrades</name>
-    <message>
-        <source>设备已不在列表中</source>
-        <translation>Enheten finns inte längre i listan</translation>
     </message>
 </context>
 <context>
@@ -5874,10 +5890,6 @@ Fil: </translation>
     <message>
         <source>请至少包含数字、字母和常用字符中的两种，且不能存在非法字符。</source>
         <translation>Använd minst två av siffror, bokstäver och symboler, och inga otillåtna tecken.</translation>
-    </message>
-    <message>
-        <source>请输入密码</source>
-        <translation>Ange lösenordet</translation>
     </message>
     <message>
         <source>请确认密码</source>
@@ -6803,6 +6815,10 @@ Fil: </translation>
         <source>设备证书已改变</source>
         <translation>Certifikatet har ändrats</translation>
     </message>
+    <message>
+        <source>设备已不在列表中</source>
+        <translation>Enheten finns inte längre i listan</translation>
+    </message>
 </context>
 <context>
     <name>UpgradeWork</name>
@@ -6959,6 +6975,14 @@ Fil: </translation>
     <message>
         <source>没有设备</source>
         <translation>Inga enheter</translation>
+    </message>
+    <message>
+        <source>按规则命名</source>
+        <translation>Namnge med mönster</translation>
+    </message>
+    <message>
+        <source>单击左侧的一台设备，在此修改它的通道名称，或者为勾选的摄像机统一命名。</source>
+        <translation>Klicka på en enhet till vänster för att ändra dess kanalnamn här, eller namnge de valda kamerorna tillsammans.</translation>
     </message>
 </context>
 <context>
