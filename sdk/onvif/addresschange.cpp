@@ -196,7 +196,7 @@ PresentDevice presentDevice(const ServiceAddress &service, const std::shared_ptr
         present.interfaces = std::move(interfaces.value);
         present.error = interfaces.error;
     }
-    if (isAnswerLost(present.error) && CallStop::isRequested())
+    if (isResponseLost(present.error) && CallStop::isRequested())
         present.error = NetError::Cancelled;
     return present;
 }
