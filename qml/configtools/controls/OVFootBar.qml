@@ -51,6 +51,16 @@ Item {
         return seconds < 60 ? qsTr("剩余不到 1 分钟") : qsTr("剩余约 %n 分钟", "", Math.round(seconds / 60));
     }
 
+    /// The question gets the keyboard focus if no control has it, as after a click on a button that the batch disables.
+    function takeFreeFocus() {
+        const holder = root.Window.activeFocusItem;
+        let around = root;
+        while (around && around !== holder)
+            around = around.parent;
+        if (paused && visible && (!holder || around))
+            (account.visible ? account : stop).forceActiveFocus(Qt.TabFocusReason);
+    }
+
     function retryWithAccount() {
         const ended = batchToRetry;
         batchToRetry = null;
@@ -247,11 +257,21 @@ Item {
         }
     }
 
+    Timer {  // when the buttons are shown
+        interval: 0
+        running: root.paused
+        onTriggered: root.takeFreeFocus()
+    }
+    Timer {  // after the pages have handled the end of the batch
+        id: retrying
+        interval: 0
+        onTriggered: root.retryWithAccount()
+    }
     Connections {
         target: root.batchToRetry
 
         function onFinished() {
-            Qt.callLater(() => root.retryWithAccount());  // after the pages have handled its end
+            retrying.start();
         }
     }
     // qmllint disable unqualified

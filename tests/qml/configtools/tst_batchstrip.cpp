@@ -196,6 +196,7 @@ private Q_SLOTS:
         QVERIFY(text("runningText").contains(QStringLiteral("连续 2 台设备密码错误")));
         QCOMPARE(m_batches->failedMarks()->count(), 2);
         QCOMPARE(shown(), (QStringList{"continueButton", "stopButton", "batchPanelButton"}));
+        QTRY_VERIFY(find("stopButton")->hasFocus()); // no other control has the keyboard
         press(button);
         QTRY_COMPARE(text("footWarning"), outcome);
     }
