@@ -133,6 +133,7 @@ QtObject {
     readonly property int columnState: 114
     readonly property int columnStateMinimum: 32  // only the dot of the state
     readonly property int columnName: 136
+    readonly property int columnNameField: 160  // minimum of a column with fields for names
     readonly property int columnType: 68
     readonly property int columnModel: 130
     readonly property int columnAddress: 172

@@ -9,7 +9,13 @@ Rectangle {
 
     required property var options
     required property int currentIndex
+    property real room: Infinity  // if it is short, the segments become narrower and then elide their texts
     signal activated(int index)
+
+    readonly property real textsWidth: options.reduce((sum, option) => sum + Math.ceil(metrics.advanceWidth(option.text)), 0)
+    readonly property real gaps: room - textsWidth - 2 * Theme.line  // room left and right of the texts
+    readonly property int padding: Math.max(2, Math.min(Theme.controlGap, Math.floor(gaps / options.length / 2)))
+    readonly property real shownPart: Math.min(1, 1 + (gaps - 2 * padding * options.length) / textsWidth)  // of the texts
 
     readonly property int stop: options[currentIndex]?.enabled ?? true ? currentIndex
         : options.findIndex(option => option.enabled ?? true)
@@ -37,6 +43,10 @@ Rectangle {
 
     Accessible.role: Accessible.Grouping
 
+    FontMetrics {
+        id: metrics
+        font: Theme.buttonFont
+    }
     Row {
         id: segments
         x: Theme.line
@@ -54,7 +64,7 @@ Rectangle {
                 required property var modelData
                 readonly property bool chosen: index === root.currentIndex
 
-                implicitWidth: label.implicitWidth + 24
+                implicitWidth: Math.floor(label.implicitWidth * root.shownPart) + 2 * root.padding
                 implicitHeight: root.height - 2 * Theme.line
                 checkable: false
                 ownArrows: true

@@ -76,9 +76,12 @@ Item {
         height: foot.y - y - Theme.pageMargin
         checkable: false
         columns: [
-            {key: "num", title: qsTr("通道"), width: Theme.columnShortActions, cell: numberCell},
+            {key: "num", title: qsTr("通道"), width: Theme.columnShortActions, leastWidth: Theme.columnNumber, cell: numberCell},
             {key: "connected", title: qsTr("连接"), width: Theme.columnVersion, cell: connectionCell},
-            {key: "name", title: qsTr("名称"), width: Theme.columnCommand, mostWidth: Theme.columnMost, stretch: 1, cell: nameCell},
+            {
+                key: "name", title: qsTr("名称"), width: Theme.columnCommand, leastWidth: Theme.columnNameField,
+                mostWidth: Theme.columnMost, stretch: 1, cell: nameCell
+            },
             {key: "bytes", title: qsTr("字节"), width: Theme.columnBytes, cell: bytesCell},
             {key: "trouble", title: " ", width: Theme.columnResponse, cell: troubleCell}
         ]

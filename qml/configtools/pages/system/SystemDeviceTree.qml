@@ -125,6 +125,7 @@ Rectangle {
         devices: root.devices
         enabled: !root.locked
         objectName: "treeStates"
+        room: parent.width - 2 * x
     }
     OVFailedOperation {
         id: operation
