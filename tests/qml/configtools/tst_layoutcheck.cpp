@@ -60,6 +60,12 @@ private Q_SLOTS:
             "checkWidth: 8; checkState: Qt.Unchecked; rowCount: 1; sortKey: ''\n"
             "sortOrder: Qt.AscendingOrder; scrolled: 0 }",
             "");
+        row("choice with little room",
+            "Item { width: 150; height: 40; clip: true; OVSegmentedChoice { room: parent.width\n"
+            "currentIndex: 0; options: [{text: 'All', objectName: 'all'},\n"
+            "{text: 'Unresolved 0', objectName: 'failed'},\n"
+            "{text: 'Not logged in 19', objectName: 'others'}] } }",
+            "");
         row("hidden items",
             "OVButton { x: 380; visible: false; text: 'Go on' }\n"
             "OVButton { x: 390; opacity: 0; text: 'Go on' }",
