@@ -121,8 +121,7 @@ private Q_SLOTS:
     {
         const QDir sources(QStringLiteral(SOURCES));
         QStringList arguments = {"-silent", "-locations", "none", "-extensions", "cpp,h,qml"};
-        for (const char *folder :
-             {"app", "cgi", "device", "favourites", "gallery", "media", "qml", "sdk"})
+        for (const char *folder : {"app", "cgi", "device", "favourites", "gallery", "media", "qml", "sdk"})
             arguments.append(sources.filePath(QString::fromLatin1(folder)));
         arguments.append(u"-ts"_s);
         for (const QLatin1StringView code : languageCodes) {
@@ -150,8 +149,8 @@ private Q_SLOTS:
             if (const QString fault = faultOf(message); !fault.isEmpty())
                 faults.append(u"%1, \"%2\": %3"_s.arg(message.context, message.source, fault));
         }
-        QVERIFY2(faults.isEmpty(), qPrintable(u"build update_translations and fill in the file:\n"_s +
-                                              faults.join(u'\n')));
+        QVERIFY2(faults.isEmpty(),
+                 qPrintable(u"build update_translations and fill in the file:\n"_s + faults.join(u'\n')));
     }
 };
 
