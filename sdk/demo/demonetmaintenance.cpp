@@ -118,18 +118,18 @@ bool DemoNetLibrary::NetSetNewConfig(std::int64_t loginHandle, const char *name,
     const std::string_view buffer(text ? text : "", text ? textSize : 0);
     const std::size_t length = buffer.find('\0'); // larger than every string without a terminating zero
     const bool isEnded = length <= longestConfigText;
-    const QByteArray words = isEnded ? QByteArray(text, static_cast<qsizetype>(length)) : QByteArray();
+    const QByteArray json = isEnded ? QByteArray(text, static_cast<qsizetype>(length)) : QByteArray();
     QJsonObject request = logValues(loginHandle, wait);
     request.insert(QStringLiteral("name"), written);
     request.insert(QStringLiteral("channel"), channel);
     request.insert(QStringLiteral("textSize"), static_cast<qint64>(textSize));
-    request.insert(QStringLiteral("text"), QJsonDocument::fromJson(words).object());
+    request.insert(QStringLiteral("text"), QJsonDocument::fromJson(json).object());
     record("NetSetNewConfig", request, macOf(session));
     const bool isWritten = isEnded ? maintain(call, session, wait,
                                               [&](SceneDevice &device) {
                                                   return isChannelConfiguration(written)
-                                                             ? setChannelText(device, written, channel, words)
-                                                             : setConfiguration(device, written, words);
+                                                             ? setChannelText(device, written, channel, json)
+                                                             : setConfiguration(device, written, json);
                                               })
                                    : m_error.fail(DemoError::WrongSize);
     error = isWritten ? 0 : static_cast<std::int32_t>(m_error.last());

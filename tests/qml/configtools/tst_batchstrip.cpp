@@ -239,7 +239,7 @@ private Q_SLOTS:
         QQuickItem *box = find("failedOperationBox");
         QVERIFY(box);
         const auto note = [&](const QString &work, int result) {
-            marks.note(work, work, {{.identity = "m1", .result = result, .words = work}});
+            marks.note(work, work, {{.identity = "m1", .result = result, .message = work}});
         };
         note("Names", networkFailure);
         note("Passwords", networkFailure);

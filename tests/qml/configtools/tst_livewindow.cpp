@@ -179,8 +179,8 @@ private:
             if (item->objectName() != "snapshotName")
                 continue;
             const QQuickItem *message = findBelow(item->parentItem(), "snapshotMessage", Sight::Visible);
-            const QPointF place = item->mapToScene({});
-            texts.insert({place.y(), place.x()},
+            const QPointF position = item->mapToScene({});
+            texts.insert({position.y(), position.x()},
                          item->property("text").toString() + ": " +
                              (message ? message->property("text").toString() : QString()));
         }

@@ -58,16 +58,16 @@ void scrollIntoView(const QQuickItem *item)
         QQuickItem *view = isHead ? around->parentItem()->findChild<QQuickItem *>(QStringLiteral("tableRows"))
                            : around->inherits("QQuickFlickable") ? around
                                                                  : nullptr;
-        const QRectF place = item->mapRectToItem(around, QRectF({}, item->size()));
-        if (!view || QRectF({}, around->size()).contains(place.center()))
+        const QRectF area = item->mapRectToItem(around, QRectF({}, item->size()));
+        if (!view || QRectF({}, around->size()).contains(area.center()))
             continue;
         const auto scroll = [view](const char *position, qreal first, qreal last, qreal room) {
             const qreal by = first < 0 ? first : std::max(0.0, std::min(first, last - room));
             view->setProperty(position, view->property(position).toReal() + by);
         };
-        scroll("contentX", place.left(), place.right(), around->width());
+        scroll("contentX", area.left(), area.right(), around->width());
         if (!isHead)
-            scroll("contentY", place.top(), place.bottom(), around->height());
+            scroll("contentY", area.top(), area.bottom(), around->height());
     }
 }
 
