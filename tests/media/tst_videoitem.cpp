@@ -295,7 +295,7 @@ private Q_SLOTS:
         frame.information.width = width;
         frame.information.height = height;
         deliver(frame);
-        m_item->currentFrame().read([](const VideoFrame &frame) { QVERIFY(!frame.isComplete()); });
+        m_item->currentFrame().read([](const VideoFrame &current) { QVERIFY(!current.isComplete()); });
     }
 
     /// As snapshots do it: on a thread without Qt's event dispatcher, which timers would require.
