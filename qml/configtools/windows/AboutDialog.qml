@@ -1,5 +1,6 @@
-// Name and version of the application, for copying.
+// Name and version of the application, for copying, and the licences of the software of others.
 import QtQuick
+import QtQuick.Templates as T
 import configtools
 
 OVDialog {
@@ -8,12 +9,25 @@ OVDialog {
     required property string productName
     required property string version
 
-    wantedWidth: Theme.messageWidth
+    wantedWidth: licences.visible ? Theme.responseWindowWidth : Theme.messageWidth
     objectName: "aboutDialog"
     hasCancel: false
+    onAboutToShow: licences.visible = false
     onAccepted: close()
 
+    footContent: OVLinkButton {
+        anchors.verticalCenter: parent.verticalCenter
+        objectName: "licencesButton"
+        text: qsTr("第三方软件许可")
+        visible: !licences.visible
+        onClicked: {
+            licences.visible = true;
+            licences.forceActiveFocus();
+        }
+    }
+
     Row {
+        id: heading
         width: parent.width
         spacing: Theme.controlGap
 
@@ -60,5 +74,48 @@ OVDialog {
                 root.inform(qsTr("已复制到剪贴板"), OVToast.Success);
             }
         }
+    }
+
+    ListView {
+        id: licences
+        y: heading.height + Theme.controlGap
+        width: parent.width
+        height: visible ? Math.min(Theme.detailHeight, root.contentRoom - y) : 0
+        activeFocusOnTab: true
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        model: visible ? Licences.lines : []
+        objectName: "licenceLines"
+        visible: false
+
+        Accessible.role: Accessible.StaticText
+        Accessible.name: Licences.lines.join("\n")
+
+        T.ScrollBar.vertical: OVScrollBar {}
+
+        Keys.onPressed: event => {
+            const steps = {
+                [Qt.Key_Down]: Theme.rowHeight, [Qt.Key_Up]: -Theme.rowHeight,
+                [Qt.Key_PageDown]: height, [Qt.Key_PageUp]: -height,
+                [Qt.Key_End]: contentHeight, [Qt.Key_Home]: -contentHeight
+            };
+            event.accepted = event.key in steps;
+            if (event.accepted)
+                contentY = Math.max(0, Math.min(contentHeight - height, contentY + steps[event.key]));
+        }
+
+        // qmllint disable unqualified
+        delegate: Text {
+            required property string modelData
+
+            width: ListView.view.width - Theme.pageMargin
+            color: Theme.colours.text
+            font: Theme.figureFont
+            renderType: Theme.textRendering
+            text: modelData
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+        }
+        // qmllint enable unqualified
     }
 }

@@ -1,0 +1,23 @@
+// Licences of the software of others.
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+#include <QtQml/qqmlregistration.h>
+
+/// The text of the about box about the software of others: the list of components, then the licences of the
+/// fonts in the application.
+class Licences : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(QStringList lines READ lines CONSTANT)
+public:
+    explicit Licences(QObject *parent = nullptr);
+
+    [[nodiscard]] const QStringList &lines() const { return m_lines; }
+
+private:
+    QStringList m_lines;
+};
