@@ -4,6 +4,7 @@
 #include "app/logging.h"
 #include "app/product.h"
 #include "app/settingsfile.h"
+#include "files/applicationfolders.h"
 
 #include <QCoreApplication>
 #include <QCursor>
@@ -42,8 +43,10 @@ const QString documentsFolder = QStringLiteral("\\documents\\");
 
 CLocalConfig *CLocalConfig::getinstance()
 {
-    if (!instance)
-        instance = new CLocalConfig(QCoreApplication::applicationDirPath());
+    if (!instance) {
+        const ApplicationFolders &folders = ApplicationFolders::current();
+        instance = new CLocalConfig(folders.program(), folders.configuration());
+    }
     return instance;
 }
 
@@ -53,8 +56,8 @@ void CLocalConfig::deleteInstance()
     instance = nullptr;
 }
 
-CLocalConfig::CLocalConfig(const QString &directory)
-    : m_directory(directory), m_settingsPath(directory + QStringLiteral("/LocalConfig.ini"))
+CLocalConfig::CLocalConfig(const QString &directory, const QString &settingsFolder)
+    : m_directory(directory), m_settingsPath(settingsFolder + QStringLiteral("/LocalConfig.ini"))
 {
     if (!QFileInfo::exists(m_settingsPath))
         writeDefaults();

@@ -19,7 +19,7 @@ class CLocalConfig : public QObject
 {
     Q_OBJECT
 public:
-    /// The process-wide object for the directory of the executable, created by the first call.
+    /// The process-wide object for the ApplicationFolders, created by the first call.
     static CLocalConfig *getinstance();
 
     /// Deletes the process-wide object.
@@ -27,7 +27,10 @@ public:
 
     /// Uses the files in `directory`. The settings file is "LocalConfig.ini". If there is none, one with the
     /// defaults is written; an existing one is not changed.
-    explicit CLocalConfig(const QString &directory);
+    explicit CLocalConfig(const QString &directory) : CLocalConfig(directory, directory) {}
+
+    /// As above, with the settings file in another folder.
+    CLocalConfig(const QString &directory, const QString &settingsFolder);
     ~CLocalConfig() override;
 
     /// The stored code of the languageCodes; empty before the first start.

@@ -16,7 +16,7 @@
 #include "device/registry/devicefactory.h"
 #include "device/search/searchreports.h"
 #include "device/store/devicenotes.h"
-#include "qml/configtools/programfolders.h"
+#include "files/applicationfolders.h"
 
 #include <QCoreApplication>
 #include <QQmlApplicationEngine>
@@ -46,7 +46,7 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
                                                                  account.password);
             }};
     auto *accountList = new AccountList(*CDeviceFactory::getinstance(), accounts, defaults, &engine);
-    accountList->setFavourites(ProgramFolders().favourites());
+    accountList->setFavourites(ApplicationFolders::current().favourites());
     context->setContextProperty(QStringLiteral("AccountsApi"), accountList);
     auto *batches = new Batches(
         *CDeviceFactory::getinstance(), batchEngine,
@@ -78,7 +78,7 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
     // Simulated devices may have the MACs of real ones.
     const QString notes = demo.isShown ? QStringLiteral("/notes-demo.json") : QStringLiteral("/notes.json");
     context->setContextProperty(QStringLiteral("DeviceNotesApi"),
-                                new DeviceNotes(QCoreApplication::applicationDirPath() + notes, &engine));
+                                new DeviceNotes(ApplicationFolders::current().data() + notes, &engine));
     context->setContextProperty(QStringLiteral("ViewMemoryApi"),
                                 new ViewMemory(CLocalConfig::getinstance()->settingsPath(), &engine));
     context->setContextProperty(QStringLiteral("systemTimeZone"), systemTimeZoneText());

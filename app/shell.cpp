@@ -16,6 +16,7 @@
 #include "device/registry/deviceol.h"
 #include "device/store/devicestore.h"
 #include "favourites/accountstore.h"
+#include "files/applicationfolders.h"
 #include "media/audiooutput.h"
 #include "media/freedmemory.h"
 #include "media/videoitem.h"
@@ -44,12 +45,6 @@ Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
 namespace {
 
 constexpr int startFailed = 1;
-
-/// Translation files are in the working directory, which may differ from the folder of the application.
-QString translationPath(const QString &code)
-{
-    return QLatin1String("./language/") + code + QLatin1String(".qm");
-}
 
 /// The account of most devices of a site as "user / password"; empty if no device has one.
 QString usualAccount(const sdk::demo::DemoSite &site)
@@ -118,13 +113,14 @@ std::optional<int> Shell::begin()
 
 void Shell::loadTranslators()
 {
+    const ApplicationFolders &folders = ApplicationFolders::current();
     const QString code = resolveLanguage(*CLocalConfig::getinstance(), QLocale::system().language());
     if (code != QLatin1String("en_US") && code != QLatin1String("zh_CN") &&
-        loadTranslation(m_fallbackTranslator, translationPath(QStringLiteral("en_US")))) {
+        loadTranslation(m_fallbackTranslator, folders.translation(QStringLiteral("en_US")))) {
         QCoreApplication::installTranslator(&m_fallbackTranslator);
     }
     // The last installed translator is searched first.
-    if (loadTranslation(m_mainTranslator, translationPath(code)))
+    if (loadTranslation(m_mainTranslator, folders.translation(code)))
         QCoreApplication::installTranslator(&m_mainTranslator);
 }
 
@@ -134,7 +130,7 @@ bool Shell::chooseLibraries()
     m_libraries.decoder = std::make_shared<sdk::ffmpeg::FfmpegDecoderLibrary>();
     QString bindingError;
     if (!m_commandLine.demo &&
-        bindDeviceLibraries(QCoreApplication::applicationDirPath(), m_libraries, bindingError)) {
+        bindDeviceLibraries(ApplicationFolders::current().program(), m_libraries, bindingError)) {
         if (bindingError.isEmpty())
             return true;
         qCCritical(logApp).noquote() << "The device libraries cannot be used:" << bindingError;
@@ -175,7 +171,7 @@ void Shell::chooseCertificates()
     // ones.
     const QString path = m_commandLine.demo
                              ? QString()
-                             : QCoreApplication::applicationDirPath() + QStringLiteral("/certificates.json");
+                             : ApplicationFolders::current().data() + QStringLiteral("/certificates.json");
     m_certificates = std::make_shared<CertificateStore>(path);
     if (m_libraries.net)
         m_libraries.net->NetSetCertificateHandler(&CertificateStore::handle, m_certificates.get());
@@ -187,7 +183,7 @@ void Shell::chooseAccounts()
     // Not stored for simulated devices: each start resets their passwords, and some have MACs of real ones.
     const QString path = m_commandLine.demo
                              ? QString()
-                             : QCoreApplication::applicationDirPath() + QStringLiteral("/accounts.json");
+                             : ApplicationFolders::current().data() + QStringLiteral("/accounts.json");
     m_accounts = std::make_shared<AccountStore>(path);
 }
 

@@ -5,6 +5,7 @@
 #include "cgi/internal/workbookresults.h"
 #include "cgi/responsekind.h"
 #include "device/registry/devicefactory.h"
+#include "files/applicationfolders.h"
 #include "files/filereplacement.h"
 
 #include <QClipboard>
@@ -56,7 +57,8 @@ private:
 CGIConfigManage *CGIConfigManage::getinstance()
 {
     if (!instance())
-        instance() = std::make_unique<CGIConfigManage>();
+        instance() =
+            std::make_unique<CGIConfigManage>(programSurroundings(), ApplicationFolders::current().data());
     return instance().get();
 }
 
@@ -65,9 +67,9 @@ void CGIConfigManage::deleteInstance()
     instance().reset();
 }
 
-CGIConfigManage::CGIConfigManage(CgiSurroundings surroundings, QObject *parent)
+CGIConfigManage::CGIConfigManage(CgiSurroundings surroundings, const QString &memoryFolder, QObject *parent)
     : QObject(parent), m_surroundings(watched(std::move(surroundings))), m_procedure(m_surroundings, {}),
-      m_memory(m_surroundings.folder + QStringLiteral("/cgicommands.json"))
+      m_memory(memoryFolder + QStringLiteral("/cgicommands.json"))
 {
 }
 
@@ -78,7 +80,7 @@ CgiSurroundings CGIConfigManage::programSurroundings()
     };
     return {.checkLogin = checkLogin,
             .transport = std::make_shared<CurlTransport>(),
-            .folder = QCoreApplication::applicationDirPath(),
+            .folder = ApplicationFolders::current().responses(),
             .localTime = &QDateTime::currentDateTime};
 }
 
@@ -210,7 +212,7 @@ QVariantMap CGIConfigManage::saveText(const QString &folder, const QString &text
 
 QString CGIConfigManage::templateFile() const
 {
-    return m_surroundings.folder + QStringLiteral("/template/") + templateFileName();
+    return ApplicationFolders::current().program() + QStringLiteral("/template/") + templateFileName();
 }
 
 QUrl CGIConfigManage::templateAddress() const

@@ -19,16 +19,16 @@ class CGIConfigManage : public QObject
     Q_OBJECT
 public:
     /// The process-wide object, created on first use. It checks logins by the process-wide factory and works
-    /// in the application's folder.
+    /// in the ApplicationFolders.
     static CGIConfigManage *getinstance();
 
     /// Deletes the process-wide object.
     static void deleteInstance();
 
-    /// Stores the typed commands in "cgicommands.json" in the folder of `surroundings`.
-    explicit CGIConfigManage(CgiSurroundings surroundings = programSurroundings(), QObject *parent = nullptr);
+    /// Stores the typed commands in "cgicommands.json" in `memoryFolder`.
+    CGIConfigManage(CgiSurroundings surroundings, const QString &memoryFolder, QObject *parent = nullptr);
 
-    /// The factory's login check, HTTP by libcurl, the application's folder and the system clock.
+    /// The factory's login check, HTTP by libcurl, the folder of responses and the system clock.
     [[nodiscard]] static CgiSurroundings programSurroundings();
 
     /// The context that its commands are sent with.

@@ -15,7 +15,7 @@ struct CgiSurroundings
 
     LoginCheck checkLogin;
     std::shared_ptr<HttpTransport> transport;
-    QString folder;                       ///< for images and recordings; must exist
+    QString folder;                       ///< for images and recordings; created if missing
     std::function<QDateTime()> localTime; ///< for their file names
     ExchangeWatch watch = {};             ///< ends a request immediately; may be empty
 

@@ -4,6 +4,7 @@
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
 #include "device/store/devicerow.h"
+#include "files/applicationfolders.h"
 #include "files/filereplacement.h"
 #include "sdk/threadpriority.h"
 
@@ -498,8 +499,7 @@ void ImageGallery::saveAll()
     m_isSaving = true;
     Q_EMIT savingChanged();
     const int work = m_deviceFactory->busyState()->begin(tr("保存图像"), BusyState::Program);
-    m_files.start([this, images, work, kept = m_folder,
-                   root = QDir::current().absoluteFilePath(QStringLiteral("snap"))] {
+    m_files.start([this, images, work, kept = m_folder, root = ApplicationFolders::current().snapshots()] {
         sdk::giveWayToWindow();
         int written = 0;
         QString reason;

@@ -112,7 +112,7 @@ public:
     /// Cancels the batch, and removes the devices and their images.
     Q_INVOKABLE void clear();
 
-    /// Writes the images as "snap/<device>/<channel>.jpg" in the current folder, on a separate thread.
+    /// Writes the images as "<device>/<channel>.jpg" in the folder of snapshots, on a separate thread.
     /// <device> is address and port with "_" for special characters; existing files are replaced. Emits
     /// saved() at the end; no effect without images, or while saving.
     Q_INVOKABLE void saveAll();
@@ -130,7 +130,7 @@ Q_SIGNALS:
     void countsChanged();
     void savingChanged();
 
-    /// Emitted after saveAll(): number of written files and of failures, absolute path of the folder "snap",
+    /// Emitted after saveAll(): number of written files and of failures, path of that folder,
     /// and the error text of the first failure.
     void saved(int files, int failures, const QString &folder, const QString &reason);
 

@@ -156,7 +156,7 @@ public:
                               const QStringList & /*ipports*/)
     {
     }
-    /// Takes snapshots in the current session into "snap/<address>" of the working directory. `kind` is
+    /// Takes snapshots in the current session into "<address>" in the folder of snapshots. `kind` is
     /// "liveCapture" for all channels or "againCapture" for `channelNum` (from 0). Returns immediately.
     virtual void snapPictureToFile(const QString & /*kind*/, const QVariant & /*channelNum*/,
                                    const QString & /*address*/)

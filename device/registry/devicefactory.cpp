@@ -6,6 +6,7 @@
 #include "device/registry/upgradetools.h"
 #include "device/store/devicerow.h"
 #include "device/store/logging.h"
+#include "files/applicationfolders.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>
@@ -85,8 +86,8 @@ void CDeviceFactory::deleteInstance()
 
 CDeviceFactory::CDeviceFactory(const BackEndCreators &creators, const P2PAgent &agent)
     : m_busyState([this] { return hasDeviceUpgrading(); }),
-      m_p2pPorts(std::make_shared<P2PPorts>(agent.library, P2PSettings::read(QStringLiteral("./p2p.ini")),
-                                            agent.handler))
+      m_p2pPorts(std::make_shared<P2PPorts>(
+          agent.library, P2PSettings::read(ApplicationFolders::current().portAgentSettings()), agent.handler))
 {
     for (auto creator = creators.cbegin(); creator != creators.cend(); ++creator) {
         const std::shared_ptr<CDeviceBase> backEnd = creator.value()();
@@ -261,7 +262,7 @@ int CDeviceFactory::getPassWordType(const QString &password)
 
 bool CDeviceFactory::openTemplate()
 {
-    const QString path = QCoreApplication::applicationDirPath() + QStringLiteral("/template/") +
+    const QString path = ApplicationFolders::current().program() + QStringLiteral("/template/") +
                          UpgradeTools::templateFileName();
     return QFileInfo::exists(path) && QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }

@@ -45,7 +45,7 @@ public:
     /// Deletes the process-wide factory with its back ends and clears the registered families.
     static void deleteInstance();
 
-    /// Starts the port agent with the settings of "p2p.ini" in the working directory.
+    /// Starts the port agent with the settings of ApplicationFolders::portAgentSettings().
     CDeviceFactory(const BackEndCreators &creators, const P2PAgent &agent);
 
     /// A factory without a port agent.

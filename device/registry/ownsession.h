@@ -23,7 +23,7 @@ struct OwnImageOrder
     qint64 handle = 0; ///< of the session
     int channelCount = 0;
     int channel = 0; ///< from 0
-    QString folder;  ///< name of a folder in "snap/" of the working directory
+    QString folder;  ///< name of a folder in the folder of snapshots
 };
 
 /// Takes a snapshot. Any thread; blocks it until the end.
@@ -42,7 +42,7 @@ public:
     [[nodiscard]] virtual qint64 handle() const = 0; ///< of the session, for live streams
     [[nodiscard]] virtual int channelCount() const = 0;
 
-    /// Takes a snapshot of a channel (from 0) into "snap/<folder>" of the working directory. Any thread
+    /// Takes a snapshot of a channel (from 0) into `folder` in the folder of snapshots. Any thread
     /// except the main thread; blocks it until the end.
     [[nodiscard]] virtual OwnImage takeImage(int channel, const QString &folder,
                                              const StepControl &control) const = 0;

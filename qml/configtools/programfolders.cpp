@@ -1,10 +1,10 @@
 #include "programfolders.h"
 
-#include <QCoreApplication>
+#include "files/applicationfolders.h"
 
 ProgramFolders::ProgramFolders(QObject *parent) : QObject(parent) {}
 
 QString ProgramFolders::favourites() const
 {
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/fav/");
+    return ApplicationFolders::current().favourites();
 }

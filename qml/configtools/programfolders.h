@@ -1,4 +1,4 @@
-// Folders next to the application that QML uses.
+// Folders of the user's files that QML uses.
 #pragma once
 
 #include <QObject>

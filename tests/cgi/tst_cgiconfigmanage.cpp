@@ -51,7 +51,8 @@ private Q_SLOTS:
             std::make_unique<CGIConfigManage>(CgiSurroundings{.checkLogin = checkLogin,
                                                               .transport = m_transport,
                                                               .folder = m_folder->path(),
-                                                              .localTime = &QDateTime::currentDateTime});
+                                                              .localTime = &QDateTime::currentDateTime},
+                                              m_folder->path());
     }
 
     void invalidFilesAreRefused_data()
@@ -164,7 +165,7 @@ private Q_SLOTS:
         QTranslator translator;
         QVERIFY(translator.load(program.filePath("language/" + language + ".qm")));
         QCoreApplication::installTranslator(&translator);
-        QCOMPARE(m_manager->templateFile(), m_folder->filePath("template/" + name));
+        QCOMPARE(m_manager->templateFile(), QCoreApplication::applicationDirPath() + "/template/" + name);
         CommandWorkbook workbook;
         QCOMPARE(workbook.open(program.filePath("template/" + name)), "");
         QCOMPARE(workbook.commands().size(), 1);

@@ -475,6 +475,7 @@ private Q_SLOTS:
             exchange.respond("200 OK", "Content-Type: image/png\r\n", "png");
         });
         m_surroundings.folder = m_folder.filePath("none");
+        QVERIFY(writeFile(m_surroundings.folder, "in the way"));
         QCOMPARE(run(server.url("/cgi-bin/a")), "");
         QCOMPARE(server.requests().size(), 1);
     }

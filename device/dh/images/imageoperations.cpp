@@ -8,10 +8,10 @@
 #include "device/registry/mapkeys.h"
 #include "device/store/devicerow.h"
 #include "device/store/devicestore.h"
+#include "files/applicationfolders.h"
 #include "media/snapthread.h"
 
 #include <QCoreApplication>
-#include <QDir>
 
 #include <algorithm>
 #include <memory>
@@ -60,7 +60,7 @@ QString missingImageText(const SnapOutcome &outcome)
 /// The folder of a device's snapshots.
 QString snapshotFolder(const QString &device)
 {
-    return QDir::current().absoluteFilePath(QStringLiteral("snap/") + folderName(device));
+    return ApplicationFolders::current().snapshots() + QLatin1Char('/') + folderName(device);
 }
 
 } // namespace

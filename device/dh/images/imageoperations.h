@@ -39,7 +39,7 @@ public:
     /// immediately. Snapshots that are not taken yet are taken first. `kind` is "liveCapture" for all
     /// channels, each of which emits CDeviceBase::signalSnapPictureToFile, or "againCapture" for `channel`
     /// (from 0), which emits CDeviceBase::signalSnapPictureToFileAgain; others are ignored. `address` is the
-    /// name of the device's folder in "snap" in the working directory.
+    /// name of the device's folder in the folder of snapshots.
     void takeSnapshots(const QString &kind, int channel, const QString &address);
 
     /// See CDeviceBase::snapshotSteps().
