@@ -5,6 +5,7 @@
 #include "app/shell.h"
 #include "app/timezonetext.h"
 #include "tests/datatable.h"
+#include "tests/files/filecontents.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -79,6 +80,28 @@ private Q_SLOTS:
         QTEST(commandLine.demo, "demo");
         QTEST(commandLine.scene, "scene");
         QTEST(commandLine.error.isEmpty(), "understood");
+    }
+
+    /// The manual page and the completion of the shell have every option of the help.
+    void optionsAreDocumented_data()
+    {
+        const auto row = dataTable<QString>({"file"});
+        row("manual page", "configtools.1.in");
+        row("completion", "completion.bash");
+    }
+
+    void optionsAreDocumented()
+    {
+        QFETCH(QString, file);
+        const QString text = QString::fromUtf8(fileContents(PACKAGING_DIRECTORY "/" + file)).remove(u'\\');
+        QVERIFY(!text.isEmpty());
+        QRegularExpressionMatchIterator option =
+            QRegularExpression("--[a-z-]+").globalMatch(CommandLine::usage());
+        QVERIFY(option.hasNext());
+        while (option.hasNext()) {
+            const QString name = option.next().captured();
+            QVERIFY2(QRegularExpression(name + "\\b(?!-)").match(text).hasMatch(), qPrintable(name));
+        }
     }
 
     void aSecondInstanceShowsAMessageAndEndsWith0()
