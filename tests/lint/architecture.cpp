@@ -57,7 +57,7 @@ const std::vector<Folder> &folders()
         {"sdk/onvif/live", {"sdk/streams"}},
         {"files", {}},
         {"device/store", {"files", "sdk"}},
-        {"device/registry", {"device/store", "sdk"}},
+        {"device/registry", {"device/store", "files", "sdk"}},
         {"device/accounts", {"device/store", "files", "sdk"}},
         {"device/search", {"device/store", "sdk"}},
         {"device/work", {"device/registry"}},
