@@ -11,6 +11,10 @@
         <source>已复制到剪贴板</source>
         <translation>クリップボードにコピーしました</translation>
     </message>
+    <message>
+        <source>第三方软件许可</source>
+        <translation>第三者のライセンス</translation>
+    </message>
 </context>
 <context>
     <name>AccountDialog</name>

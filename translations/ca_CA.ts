@@ -11,6 +11,10 @@
         <source>已复制到剪贴板</source>
         <translation>S’ha copiat al porta-retalls</translation>
     </message>
+    <message>
+        <source>第三方软件许可</source>
+        <translation>Llicències de tercers</translation>
+    </message>
 </context>
 <context>
     <name>AccountDialog</name>

@@ -11,6 +11,10 @@
         <source>已复制到剪贴板</source>
         <translation>In die Zwischenablage kopiert</translation>
     </message>
+    <message>
+        <source>第三方软件许可</source>
+        <translation>Lizenzen Dritter</translation>
+    </message>
 </context>
 <context>
     <name>AccountDialog</name>

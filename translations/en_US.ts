@@ -11,6 +11,10 @@
         <source>已复制到剪贴板</source>
         <translation>Copied to the clipboard</translation>
     </message>
+    <message>
+        <source>第三方软件许可</source>
+        <translation>Third-party licences</translation>
+    </message>
 </context>
 <context>
     <name>AccountDialog</name>

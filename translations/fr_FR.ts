@@ -11,6 +11,10 @@
         <source>已复制到剪贴板</source>
         <translation>Copié dans le presse-papiers</translation>
     </message>
+    <message>
+        <source>第三方软件许可</source>
+        <translation>Licences tierces</translation>
+    </message>
 </context>
 <context>
     <name>AccountDialog</name>

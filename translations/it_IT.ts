@@ -11,6 +11,10 @@
         <source>已复制到剪贴板</source>
         <translation>Copiato negli appunti</translation>
     </message>
+    <message>
+        <source>第三方软件许可</source>
+        <translation>Licenze di terze parti</translation>
+    </message>
 </context>
 <context>
     <name>AccountDialog</name>

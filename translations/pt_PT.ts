@@ -11,6 +11,10 @@
         <source>已复制到剪贴板</source>
         <translation>Copiado para a área de transferência</translation>
     </message>
+    <message>
+        <source>第三方软件许可</source>
+        <translation>Licenças de terceiros</translation>
+    </message>
 </context>
 <context>
     <name>AccountDialog</name>

@@ -11,6 +11,10 @@
         <source>已复制到剪贴板</source>
         <translation>Copiat în clipboard</translation>
     </message>
+    <message>
+        <source>第三方软件许可</source>
+        <translation>Licențe terțe</translation>
+    </message>
 </context>
 <context>
     <name>AccountDialog</name>

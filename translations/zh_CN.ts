@@ -11,6 +11,10 @@
         <source>已复制到剪贴板</source>
         <translation>已复制到剪贴板</translation>
     </message>
+    <message>
+        <source>第三方软件许可</source>
+        <translation>第三方软件许可</translation>
+    </message>
 </context>
 <context>
     <name>AccountDialog</name>
