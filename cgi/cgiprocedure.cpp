@@ -207,7 +207,7 @@ CgiProcedure::Received CgiProcedure::receive(PreparedHttpRequest &prepared, cons
         responseFilePath(m_surroundings.folder, m_surroundings.localTime(), responseFileEnding(headers));
     if (kind != ResponseKind::Text && m_surroundings.ownPath)
         path = m_surroundings.ownPath(path);
-    if (kind != AnswerKind::Text)
+    if (kind != ResponseKind::Text)
         QDir().mkpath(m_surroundings.folder); // the creation of the file reports a failure
     switch (kind) {
     case ResponseKind::Text:
