@@ -207,15 +207,6 @@ private:
         QVERIFY(QTest::qWaitForWindowActive(m_window));
         QTRY_VERIFY(find("liveCell0"));
     }
-    /// The LiveCompanion of an added device; null if there is none.
-    [[nodiscard]] QObject *companionOf(int number) const
-    {
-        const QList<QQuickItem *> items = m_window->contentItem()->childItems();
-        const auto companion = std::ranges::find_if(items, [number](const QQuickItem *item) {
-            return item->property("handle").isValid() && item->property("ipport") == ipportOf(number);
-        });
-        return companion == items.cend() ? nullptr : *companion;
-    }
     /// "login of channel" of the requested streams, sorted, because several threads request them.
     QStringList startedStreams()
     {
@@ -365,7 +356,6 @@ private Q_SLOTS:
         row("complete", "", QStringList{taken.arg(0), taken.arg(1), refused, last});
         row("stopped", "stop", QStringList{taken.arg(0), notDone, notDone, notDone});
         row("device removed", "remove", QStringList{removed, removed, refused, last});
-        row("session ended", "end", QStringList{refused, refused, refused, last});
     }
     /// The batch of the first device is followed by the channels of the added devices, each in its session.
     /// The event happens during the first snapshot of D21.
@@ -389,10 +379,6 @@ private Q_SLOTS:
             click("snapshotStopButton");
         } else if (event == "remove") {
             QMetaObject::invokeMethod(m_window, "remove", Q_ARG(QVariant, ipportOf(21)));
-        } else if (event == "end") {
-            m_devices->results.insert(21, 2);
-            QMetaObject::invokeMethod(companionOf(21), "expireResponse");
-            QMetaObject::invokeMethod(companionOf(21), "check");
         }
         if (m_devices->held)
             m_devices->held();

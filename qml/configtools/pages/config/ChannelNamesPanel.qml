@@ -76,7 +76,7 @@ Item {
         height: foot.y - y - Theme.pageMargin
         checkable: false
         columns: [
-            {key: "num", title: qsTr("通道"), width: Theme.columnShortActions, leastWidth: Theme.columnNumber, cell: numberCell},
+            {key: "num", title: qsTr("通道"), width: Theme.columnShortActions, cell: numberCell},
             {key: "connected", title: qsTr("连接"), width: Theme.columnVersion, cell: connectionCell},
             {
                 key: "name", title: qsTr("名称"), width: Theme.columnCommand, leastWidth: Theme.columnNameField,

@@ -2,7 +2,7 @@
 import QtQuick
 import configtools
 
-Row {
+Flow {
     id: root
 
     required property SystemLists lists
@@ -25,6 +25,7 @@ Row {
         };
     }
 
+    width: parent?.width ?? 0
     spacing: Theme.unit
 
     OVComboBox {

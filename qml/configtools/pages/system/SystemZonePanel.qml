@@ -81,7 +81,8 @@ Column {
                 textFont: Theme.figureFont
             }
         }
-        Row {
+        Flow {
+            width: parent.width
             spacing: Theme.pageMargin
             visible: root.hasServerDetails
 
