@@ -30,6 +30,7 @@ const char *const scene = "    width: 1280; height: 720; visible: true\n"
                           "        }\n"
                           "    }\n"
                           "    CertificateDialog { certificates: shownCertificates }\n"
+                          "    AboutDialog { productName: 'Tool'; version: 'V1' }\n"
                           "    OVTable {\n"
                           "        y: 100; width: 400; height: 300; objectName: 'table'; model: devices\n"
                           "        columns: [{key: 'mac', title: 'MAC', width: 200}]\n"
@@ -159,6 +160,26 @@ private Q_SLOTS:
         QVERIFY(table);
         QCOMPARE(table->property("count").toInt(), 1);
         QTest::keyClick(m_window.get(), Qt::Key_Return);
+    }
+
+    /// The licences of the typefaces require that users can read them in the application.
+    void theAboutBoxShowsLicences()
+    {
+        auto *dialog = m_window->findChild<QObject *>("aboutDialog");
+        QMetaObject::invokeMethod(dialog, "open");
+        QTRY_VERIFY(dialog->property("opened").toBool());
+        auto *lines = m_window->findChild<QQuickItem *>("licenceLines");
+        QVERIFY(lines && !lines->isVisible());
+        QMetaObject::invokeMethod(m_window->findChild<QObject *>("licencesButton"), "clicked");
+        QTRY_VERIFY(lines->isVisible());
+        const QString text = lines->property("model").toStringList().join(u'\n');
+        for (const char *part :
+             {"x264", "SIL Open Font License", "THE FONT SOFTWARE IS PROVIDED", "Lucide Icons"})
+            QVERIFY2(text.contains(QLatin1String(part), Qt::CaseInsensitive), part);
+        QTest::keyClick(m_window.get(), Qt::Key_End);
+        QVERIFY(lines->property("atYEnd").toBool());
+        QTest::keyClick(m_window.get(), Qt::Key_Escape);
+        QTRY_VERIFY(!dialog->property("visible").toBool());
     }
 
     /// Accepting new certificates does not accept a changed one.
