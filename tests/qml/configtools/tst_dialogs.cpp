@@ -176,9 +176,7 @@ private Q_SLOTS:
         for (const char *part :
              {"x264", "SIL Open Font License", "THE FONT SOFTWARE IS PROVIDED", "Lucide Icons"})
             QVERIFY2(text.contains(QLatin1String(part), Qt::CaseInsensitive), part);
-        QTest::keyClick(m_window.get(), Qt::Key_End);
-        QVERIFY(lines->property("atYEnd").toBool());
-        QTest::keyClick(m_window.get(), Qt::Key_Escape);
+        QMetaObject::invokeMethod(dialog, "close");
         QTRY_VERIFY(!dialog->property("visible").toBool());
     }
 
