@@ -104,6 +104,7 @@ int UpgradeTools::batchResult(Result result)
         return resultCode(LoginResult::NotSupported);
     case LineUnusable:
     case ListedTwice:
+    case NotListed:
         return unusableLine;
     case NoResponse:
         return resultCode(LoginResult::NetworkFailure);
@@ -120,7 +121,7 @@ int UpgradeTools::batchResult(Result result)
         return resultCode(LoginResult::UnknownCertificate);
     case ChangedCertificate:
         return resultCode(LoginResult::ChangedCertificate);
-    default: // stopped before the device was changed, not started, or no longer in the list
+    default: // stopped before the device was changed, or not started
         return resultCode(LoginResult::NotDone);
     }
 }

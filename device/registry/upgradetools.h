@@ -71,7 +71,7 @@ public:
     Q_INVOKABLE [[nodiscard]] static QString text(int result);
 
     /// The result as a result code of batches: a LoginResult, a code of loginresult.h, or unusableLine.
-    /// LoginResult::NotDone for NotListed, and for upgrades that are running, stopped, cut or None.
+    /// LoginResult::NotDone for upgrades that are running, stopped, cut or None.
     [[nodiscard]] static int batchResult(Result result);
 
     /// File name of the template of upgrade documents, in the user's language.
