@@ -1,6 +1,5 @@
 #include "app/shell.h"
 
-#include "app/devicelibraries.h"
 #include "app/languagechoice.h"
 #include "app/localconfig.h"
 #include "app/logging.h"
@@ -8,23 +7,11 @@
 #include "app/publication.h"
 #include "app/translationfile.h"
 #include "cgi/cgiconfigmanage.h"
-#include "device/accounts/certificatestore.h"
-#include "device/batch/batchengine.h"
-#include "device/dh/devicedh.h"
 #include "device/registry/devicefactory.h"
-#include "device/registry/devicehik.h"
-#include "device/registry/deviceol.h"
-#include "device/store/devicestore.h"
-#include "favourites/accountstore.h"
 #include "files/applicationfolders.h"
 #include "media/audiooutput.h"
 #include "media/freedmemory.h"
 #include "media/videoitem.h"
-#include "sdk/clock.h"
-#include "sdk/configtext/configtextlibrary.h"
-#include "sdk/demo/demosite.h"
-#include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
-#include "sdk/onvif/onvifnetlibrary.h"
 #include "sdk/threadpriority.h"
 
 #include <QApplication>
@@ -34,7 +21,6 @@
 #include <QQuickWindow>
 #include <QtQml/QQmlExtensionPlugin>
 
-#include <algorithm>
 #include <utility>
 
 Q_IMPORT_QML_PLUGIN(AuthorPlugin)
@@ -45,19 +31,6 @@ Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
 namespace {
 
 constexpr int startFailed = 1;
-
-/// The account of most devices of a site as "user / password"; empty if no device has one.
-QString usualAccount(const sdk::demo::DemoSite &site)
-{
-    QHash<QString, int> devices;
-    site.forEachDevice([&devices](const sdk::demo::SceneDevice &device) {
-        if (!device.accounts.isEmpty())
-            ++devices[device.accounts.constFirst().user + QLatin1String(" / ") +
-                      device.accounts.constFirst().password];
-    });
-    const auto most = std::max_element(devices.cbegin(), devices.cend());
-    return most == devices.cend() ? QString() : most.key();
-}
 
 } // namespace
 
@@ -71,7 +44,14 @@ void Shell::prepareApplication()
     QT_WARNING_POP
 }
 
-Shell::Shell(CommandLine commandLine) : m_commandLine(std::move(commandLine)) {}
+Shell::Shell(CommandLine commandLine)
+    : m_commandLine(std::move(commandLine)),
+      m_devices({.isDemo = m_commandLine.demo,
+                 .scene = m_commandLine.scene,
+                 .programFolder = ApplicationFolders::current().program(),
+                 .storeFolder = ApplicationFolders::current().data()})
+{
+}
 
 Shell::~Shell()
 {
@@ -101,12 +81,16 @@ std::optional<int> Shell::begin()
         QCoreApplication::exit(0);
         return 0;
     }
-    if (!chooseLibraries())
+    if (!openDevices())
         return startFailed;
-    chooseCertificates();
-    chooseAccounts();
-    registerBackEnds();
-    VideoItem::registerLibraries(m_libraries);
+    m_devices.registerBackEnds(
+        [] {
+            const CLocalConfig &config = *CLocalConfig::getinstance();
+            return SearchSettings{.localDomain = config.getSearchConfigLocalDomain() != 0,
+                                  .logsIn = config.searchLogsIn()};
+        },
+        {.atOnce = CLocalConfig::getinstance()->upgradesAtOnce()});
+    VideoItem::registerLibraries(m_devices.libraries());
     loadQml();
     return std::nullopt;
 }
@@ -124,93 +108,21 @@ void Shell::loadTranslators()
         QCoreApplication::installTranslator(&m_mainTranslator);
 }
 
-bool Shell::chooseLibraries()
+bool Shell::openDevices()
 {
-    m_libraries.clock = std::make_shared<sdk::SystemClock>();
-    m_libraries.decoder = std::make_shared<sdk::ffmpeg::FfmpegDecoderLibrary>();
-    QString bindingError;
-    if (!m_commandLine.demo &&
-        bindDeviceLibraries(ApplicationFolders::current().program(), m_libraries, bindingError)) {
-        if (bindingError.isEmpty())
-            return true;
-        qCCritical(logApp).noquote() << "The device libraries cannot be used:" << bindingError;
-        OMessageBox::show(QObject::tr("提示"), bindingError);
-        return false;
-    }
-    if (!m_commandLine.demo) {
-        m_libraries.net = std::make_shared<sdk::onvif::OnvifNetLibrary>();
-        m_libraries.config = std::make_shared<sdk::ConfigTextLibrary>();
+    const std::optional<DeviceSetup::Problem> problem = m_devices.open();
+    if (!problem) {
+        m_devices.prepare(*CGIConfigManage::getinstance()->surroundings().transport);
         return true;
     }
-    QString error;
-    const std::shared_ptr<sdk::demo::DemoSite> site =
-        sdk::demo::DemoSite::open(m_commandLine.scene, m_libraries.clock, &error);
-    if (!site) {
-        // The error may quote the scene file, whose strings may be long.
-        constexpr qsizetype longestError = 400;
-        error = error.simplified();
-        if (error.size() > longestError)
-            error = error.left(longestError) + QChar(0x2026);
-        qCCritical(logApp).noquote() << "The simulated site cannot be opened:" << error;
-        OMessageBox::show(QObject::tr("提示"), tr("无法打开模拟站点：") + QLatin1Char('\n') + error);
-        return false;
+    if (problem->isSite) {
+        qCCritical(logApp).noquote() << "The simulated site cannot be opened:" << problem->text;
+        OMessageBox::show(QObject::tr("提示"), tr("无法打开模拟站点：") + QLatin1Char('\n') + problem->text);
+    } else {
+        qCCritical(logApp).noquote() << "The device libraries cannot be used:" << problem->text;
+        OMessageBox::show(QObject::tr("提示"), problem->text);
     }
-    m_demo = {.isShown = true, .account = usualAccount(*site)};
-    const std::shared_ptr<sdk::DecoderLibrary> decoder = std::move(m_libraries.decoder);
-    m_libraries = site->libraries();
-    m_libraries.decoder = decoder;
-    // A site without a proxy gets an address where nothing listens, so that no real device is reached.
-    const QString proxy = site->httpProxy();
-    CGIConfigManage::getinstance()->setProxy(proxy.isEmpty() ? QStringLiteral("http://127.0.0.1:9") : proxy);
-    return true;
-}
-
-void Shell::chooseCertificates()
-{
-    // Not stored for simulated devices: their keys change at each start, and they have addresses of real
-    // ones.
-    const QString path = m_commandLine.demo
-                             ? QString()
-                             : ApplicationFolders::current().data() + QStringLiteral("/certificates.json");
-    m_certificates = std::make_shared<CertificateStore>(path);
-    if (m_libraries.net)
-        m_libraries.net->NetSetCertificateHandler(&CertificateStore::handle, m_certificates.get());
-    CGIConfigManage::getinstance()->setCertificateHandler(&CertificateStore::handle, m_certificates.get());
-}
-
-void Shell::chooseAccounts()
-{
-    // Not stored for simulated devices: each start resets their passwords, and some have MACs of real ones.
-    const QString path = m_commandLine.demo
-                             ? QString()
-                             : ApplicationFolders::current().data() + QStringLiteral("/accounts.json");
-    m_accounts = std::make_shared<AccountStore>(path);
-}
-
-void Shell::registerBackEnds()
-{
-    const auto store = m_deviceStore = std::make_shared<DeviceStore>(m_libraries.clock);
-    m_batchEngine = std::make_shared<BatchEngine>(m_libraries.clock);
-    CDeviceFactory::registerBackEnd(QStringLiteral("dh"), [store, libraries = m_libraries,
-                                                           engine = m_batchEngine, accounts = m_accounts] {
-        const auto searchSettings = [] {
-            const CLocalConfig &config = *CLocalConfig::getinstance();
-            return SearchSettings{.localDomain = config.getSearchConfigLocalDomain() != 0,
-                                  .logsIn = config.searchLogsIn()};
-        };
-        const UpgradeLimits upgradeLimits{.maximumParallel = CLocalConfig::getinstance()->parallelUpgrades()};
-        auto backEnd = std::make_shared<CDeviceDH>(store, libraries, searchSettings, upgradeLimits, engine);
-        backEnd->setStoredAccounts([accounts](const QStringList &identities) {
-            const std::optional<StoredAccount> stored = accounts->accountOf(identities);
-            return stored ? std::optional(
-                                DeviceAccount{.account = stored->account, .password = stored->password})
-                          : std::nullopt;
-        });
-        return backEnd;
-    });
-    CDeviceFactory::registerP2PAgent({.library = m_libraries.p2pAgent, .handler = &CDeviceDH::agentMessage});
-    CDeviceFactory::registerBackEnd(QStringLiteral("hik"), [] { return std::make_shared<CDeviceHik>(); });
-    CDeviceFactory::registerBackEnd(QStringLiteral("ol"), [] { return std::make_shared<CDeviceOL>(); });
+    return false;
 }
 
 void Shell::loadQml()
@@ -218,8 +130,12 @@ void Shell::loadQml()
     QQuickStyle::setStyle(QStringLiteral("Basic")); // the controls of the application are based on it
     m_engine = std::make_unique<QQmlApplicationEngine>();
     m_engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
-    publishToScene(*m_engine, *m_batchEngine, m_deviceStore, m_certificates, m_accounts, *m_colourScheme,
-                   m_libraries.net, m_demo);
+    const std::optional<DeviceAccount> &account = m_devices.siteAccount();
+    const DemoNotice demo = {.isShown = m_commandLine.demo,
+                             .account = account ? account->account + QLatin1String(" / ") + account->password
+                                                : QString()};
+    publishToScene(*m_engine, *m_devices.batchEngine(), m_devices.deviceStore(), m_devices.certificates(),
+                   m_devices.accounts(), *m_colourScheme, m_devices.libraries().net, demo);
     // Responses of a search leave fragmented free memory.
     QObject::connect(CDeviceFactory::getinstance(), &CDeviceFactory::signalSearchDone,
                      CDeviceFactory::getinstance(), &returnFreedMemory);

@@ -3,14 +3,15 @@
 #include "app/colourscheme.h"
 #include "app/commandline.h"
 #include "app/desktopscheme.h"
-#include "app/publication.h"
-#include "sdk/sdklibraries.h"
+#include "app/devicesetup.h"
 
 #include <QCoreApplication>
 #include <QTranslator>
 
 #include <memory>
 #include <optional>
+
+class QQmlApplicationEngine;
 
 /// Start-up and clean-up around the event loop. Requires the application object. Main thread only.
 class Shell
@@ -39,14 +40,11 @@ public:
     [[nodiscard]] QQmlApplicationEngine *engine() const { return m_engine.get(); }
 
     /// The libraries in use; complete after a successful begin() only.
-    [[nodiscard]] const sdk::SdkLibraries &libraries() const { return m_libraries; }
+    [[nodiscard]] const sdk::SdkLibraries &libraries() const { return m_devices.libraries(); }
 
 private:
     void loadTranslators();
-    [[nodiscard]] bool chooseLibraries();
-    void chooseCertificates();
-    void chooseAccounts();
-    void registerBackEnds();
+    [[nodiscard]] bool openDevices();
     void loadQml();
 
     const CommandLine m_commandLine;
@@ -54,11 +52,6 @@ private:
     QTranslator m_mainTranslator;
     std::unique_ptr<DesktopScheme> m_desktopScheme;
     std::unique_ptr<ColourScheme> m_colourScheme;
-    std::shared_ptr<CertificateStore> m_certificates; ///< outlives the libraries, which call it
-    std::shared_ptr<AccountStore> m_accounts;
-    sdk::SdkLibraries m_libraries;
-    DemoNotice m_demo;
-    std::shared_ptr<BatchEngine> m_batchEngine;
-    std::shared_ptr<DeviceStore> m_deviceStore;
+    DeviceSetup m_devices;
     std::unique_ptr<QQmlApplicationEngine> m_engine;
 };
