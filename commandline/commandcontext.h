@@ -1,0 +1,54 @@
+// What a command works with.
+#pragma once
+
+#include "cgi/cgiprocedure.h"
+#include "commandline/arguments.h"
+#include "commandline/exitcode.h"
+#include "commandline/recordtable.h"
+#include "commandline/terminal.h"
+#include "device/accounts/accountchoice.h"
+#include "device/batch/batches.h"
+#include "device/registry/devicefactory.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace commandline {
+
+/// The objects that the application provides. They must outlive the command.
+struct Surroundings
+{
+    CDeviceFactory &factory;
+    BatchEngine &engine;
+    CgiSurroundings cgi; ///< its folder is not used
+    std::function<int()> devicesAtOnce;
+    std::function<int()> upgradesAtOnce;
+
+    /// The account of a simulated site, for commands without a password.
+    std::optional<DeviceAccount> siteAccount = {};
+};
+
+/// The running command. Main thread.
+struct CommandContext
+{
+    const Arguments &arguments;
+    Terminal &terminal;
+    const Surroundings &surroundings;
+    CDeviceFactory &factory;
+    Batches &batches;
+    RecordFormat format = RecordFormat::Table;
+
+    /// Writes an error and returns `exitCode`.
+    [[nodiscard]] int fail(ExitCode exitCode, const QString &text) const
+    {
+        terminal.writeError(text);
+        return exitCode;
+    }
+
+    void print(const RecordTable &table) const { terminal.writeResult(table.text(format)); }
+
+    [[nodiscard]] bool isDryRun() const { return arguments.has(QLatin1StringView("dry-run")); }
+};
+
+} // namespace commandline

@@ -1,0 +1,14 @@
+// The exit codes of commands.
+#pragma once
+
+namespace commandline {
+
+enum ExitCode : int
+{
+    AllDone = 0,
+    SomeFailed = 1,  ///< at least one device failed, was skipped or was not found
+    UsageError = 2,  ///< the arguments are invalid; nothing was sent
+    NothingDone = 3, ///< the work could not start: no device library, scene, device or readable file
+};
+
+} // namespace commandline

@@ -1,0 +1,58 @@
+#include "commandline/batchrun.h"
+#include "commandline/commandfunctions.h"
+#include "commandline/secrets.h"
+#include "device/registry/devicefamily.h"
+#include "device/registry/mapkeys.h"
+
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace commandline {
+
+int runExport(CommandContext &context)
+{
+    const QFileInfo file(context.arguments.operands.constFirst());
+    const QString suffix = file.suffix().toLower();
+    if (suffix != "csv"_L1 && suffix != "xml"_L1 && suffix != "xlsx"_L1)
+        return context.fail(UsageError, u"the file of a device list ends in .csv, .xml or .xlsx"_s);
+    // Without a password, the list has none: no prompt.
+    const bool hasAccount = hasPassword(context.arguments) || context.surroundings.siteAccount;
+    if (hasAccount) {
+        if (const int exitCode = setAccount(context); exitCode != AllDone)
+            return exitCode;
+    } else {
+        context.factory.setDefaultAccount(dhFamily, context.arguments.value("user"_L1, u"admin"_s), {});
+    }
+    DeviceChoice choice;
+    if (const int exitCode = findDevices(context, choice); exitCode != AllDone)
+        return exitCode;
+    if (!context.factory.exportDevice(dhFamily, file.absolutePath(), choice.identities(), file.fileName()))
+        return context.fail(NothingDone, u"%1 cannot be written"_s.arg(file.filePath()));
+    const QVariantList faults = context.factory.exportFaults(dhFamily);
+    for (const QVariant &value : faults) {
+        const QVariantMap fault = value.toMap();
+        context.terminal.writeError(terminalText(u"%1, %2: %3"_s.arg(
+            fault.value(ExportFaultKey::address).toString(), fault.value(ExportFaultKey::column).toString(),
+            fault.value(ExportFaultKey::reason).toString())));
+    }
+    context.terminal.writeProgress(
+        u"Wrote %1 devices to %2%3."_s.arg(choice.rows.size())
+            .arg(file.filePath(), hasAccount ? u", with their passwords"_s : QString()));
+    for (const QString &name : std::as_const(choice.missing))
+        context.terminal.writeError(u"%1 was not found"_s.arg(name));
+    return choice.missing.isEmpty() && faults.isEmpty() ? AllDone : SomeFailed;
+}
+
+int runImport(CommandContext &context)
+{
+    Batch *batch = nullptr;
+    if (const int exitCode = readDeviceList(context, context.arguments.operands.constFirst(), batch);
+        exitCode != AllDone)
+        return exitCode;
+    ResultTable results({u"line"_s});
+    results.add(*batch, [](const BatchDevice &line) { return QVariantList{line.name}; });
+    return results.print(context);
+}
+
+} // namespace commandline
