@@ -8,6 +8,7 @@
 #include "device/registry/devicefactory.h"
 
 #include <QFileInfo>
+#include <QLoggingCategory>
 #include <QScopeGuard>
 #include <QTranslator>
 
@@ -70,6 +71,8 @@ QString commandOverview(const QString &program)
 
 int runCommand(const QStringList &arguments)
 {
+    // Standard error is for the progress of the command.
+    QLoggingCategory::setFilterRules(u"configtools.*.debug=false\nconfigtools.*.info=false"_s);
     commandline::Terminal terminal;
     const QString program = QFileInfo(arguments.constFirst()).fileName();
     const QString name = arguments.at(1) == "help"_L1 ? arguments.value(2) : arguments.at(1);

@@ -4,6 +4,7 @@
 #include "device/models/batchreport.h"
 
 #include <QEventLoop>
+#include <QHash>
 
 using namespace Qt::StringLiterals;
 
@@ -29,17 +30,20 @@ void awaitBatch(CommandContext &context, Batch &batch)
 {
     QEventLoop loop;
     qsizetype done = 0;
-    QObject::connect(&batch, &Batch::resulted, &loop,
-                     [&](const QStringList &devices, const QList<int> &results) {
-                         for (qsizetype index = 0; index < devices.size(); ++index) {
-                             const QString text = batch.textOf(devices.at(index));
-                             context.terminal.writeProgress(
-                                 u"[%1/%2] %3: %4"_s.arg(++done)
-                                     .arg(batch.total())
-                                     .arg(terminalText(devices.at(index)), outcomeWord(results.at(index))) +
-                                 (text.isEmpty() ? QString() : u" - "_s + terminalText(text)));
-                         }
-                     });
+    QHash<QString, QString> addresses; // by the names of the devices in the batch
+    for (const Batch::Entry &entry : batch.entries())
+        addresses.insert(entry.device.name, shownAddress(entry.device));
+    QObject::connect(
+        &batch, &Batch::resulted, &loop, [&](const QStringList &devices, const QList<int> &results) {
+            for (qsizetype index = 0; index < devices.size(); ++index) {
+                const QString text = batch.textOf(devices.at(index));
+                context.terminal.writeProgress(u"[%1/%2] %3: %4"_s.arg(++done)
+                                                   .arg(batch.total())
+                                                   .arg(terminalText(addresses.value(devices.at(index))),
+                                                        outcomeWord(results.at(index))) +
+                                               (text.isEmpty() ? QString() : u" - "_s + terminalText(text)));
+            }
+        });
     QObject::connect(&batch, &Batch::changed, &loop, [&] {
         if (!batch.isPaused())
             return;

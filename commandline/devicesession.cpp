@@ -88,7 +88,10 @@ void DeviceSequence::run(
         const bool isEnded = interruption.isRequested() || refusals >= refusalsToEnd;
         const StepOutcome outcome =
             isEnded ? StepOutcome{.result = BatchReport::NotDone, .text = {}} : work(row);
-        refusals = isRefusedAccount(outcome.result) ? refusals + 1 : isEnded ? refusals : 0;
+        if (isRefusedAccount(outcome.result))
+            ++refusals;
+        else if (outcome.result == BatchReport::Succeeded)
+            refusals = 0;
         take(row, outcome);
         m_context.terminal.writeProgress(
             u"[%1/%2] %3: %4"_s.arg(++done)

@@ -41,6 +41,14 @@ StepOutcome readSession(const CommandContext &context, const SessionSubject &sub
     return hasChannel ? result.outcome : noChannel(channel);
 }
 
+/// The name of a property of the device for the user.
+QString propertyName(const QString &key)
+{
+    if (key == DeviceRowKey::vision)
+        return u"version"_s;
+    return key == DeviceDetailKey::submask ? u"mask"_s : key;
+}
+
 /// Name, time and the properties that a login reports.
 StepOutcome readSystem(const CommandContext &context, DeviceSettings &device)
 {
@@ -62,7 +70,7 @@ StepOutcome readSystem(const CommandContext &context, DeviceSettings &device)
     const QVariantMap detail = context.factory.readDeviceDetail(dhFamily, ipport);
     for (auto entry = detail.cbegin(); entry != detail.cend(); ++entry) {
         if (entry.key() != DeviceDetailKey::loginResult && !entry.value().toString().isEmpty())
-            device.values.append({.name = entry.key(), .value = entry.value()});
+            device.values.append({.name = propertyName(entry.key()), .value = entry.value()});
     }
     return time.result == resultCode(LoginResult::Success) ? session.outcome : time;
 }

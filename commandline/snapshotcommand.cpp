@@ -5,8 +5,10 @@
 #include "device/registry/devicefamily.h"
 #include "device/registry/devicepictures.h"
 #include "device/registry/devicerow.h"
+#include "device/registry/mapkeys.h"
 
 #include <QHash>
+#include <QSet>
 
 #include <memory>
 #include <mutex>
@@ -22,15 +24,28 @@ struct SavedImage
     int channel = 0; ///< from 0
     QString path;    ///< empty on failure
     QString message;
+    bool isSkipped = false; ///< the channel has no camera
 };
 
 /// Receives the images on the threads of the steps.
 class SavedImages
 {
 public:
-    void add(const QString &ipport, const SavedImage &image)
+    /// `channels` are maps with the keys of ChannelKey.
+    void setChannels(const QString &ipport, const QVariantList &channels)
     {
         const std::lock_guard lock(m_mutex);
+        for (const QVariant &value : channels) {
+            const QVariantMap channel = value.toMap();
+            if (!channel.value(ChannelKey::connected, true).toBool())
+                m_unconnected.insert({ipport, channel.value(ChannelKey::channel).toInt()});
+        }
+    }
+
+    void add(const QString &ipport, SavedImage image)
+    {
+        const std::lock_guard lock(m_mutex);
+        image.isSkipped = m_unconnected.contains({ipport, image.channel});
         m_images[ipport].append(image);
     }
 
@@ -42,7 +57,8 @@ public:
 
 private:
     mutable std::mutex m_mutex;
-    QHash<QString, QList<SavedImage>> m_images; ///< by address and port
+    QHash<QString, QList<SavedImage>> m_images;  ///< by address and port
+    QSet<std::pair<QString, int>> m_unconnected; ///< channels without a camera
 };
 
 /// Address and port as the name of a folder.
@@ -69,10 +85,14 @@ BatchPlan snapshotPlan(const CommandContext &context, const DeviceChoice &choice
             {.ipport = device.ipport,
              .folder = folder + u'/' + folderOf(device.ipport),
              .onlyChannel = onlyChannel,
-             .taken = [images, ipport = device.ipport](int channel, const QString &path,
-                                                       const QString &message) {
-                 images->add(ipport, {.channel = channel, .path = path, .message = message});
-             }});
+             .found =
+                 [images, ipport = device.ipport](const QVariantList &channels, int /*channelCount*/) {
+                     images->setChannels(ipport, channels);
+                 },
+             .taken =
+                 [images, ipport = device.ipport](int channel, const QString &path, const QString &message) {
+                     images->add(ipport, {.channel = channel, .path = path, .message = message});
+                 }});
     };
     return plan;
 }
@@ -88,9 +108,12 @@ int printImages(const CommandContext &context, const Batch &batch, const SavedIm
         const QList<SavedImage> saved = images.of(device.ipport);
         hasFailures = hasFailures || entry.outcome.result != resultCode(LoginResult::Success);
         for (const SavedImage &image : saved) {
-            hasFailures = hasFailures || image.path.isEmpty();
+            hasFailures = hasFailures || (image.path.isEmpty() && !image.isSkipped);
             table.add({device.ipport, macOf(device), device.title, image.channel + 1, image.path,
-                       image.path.isEmpty() ? u"failed"_s : u"done"_s, image.message});
+                       image.isSkipped        ? u"skipped"_s
+                       : image.path.isEmpty() ? u"failed"_s
+                                              : u"done"_s,
+                       image.message});
         }
         if (saved.isEmpty())
             table.add({device.ipport, macOf(device), device.title, QVariant(), QString(),
