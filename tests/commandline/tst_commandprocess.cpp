@@ -1,0 +1,118 @@
+#include "tests/datatable.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <unistd.h>
+
+/// Processes of the application that run a command, without a display.
+class TestCommandProcess : public QObject
+{
+    Q_OBJECT
+private:
+    struct Outcome
+    {
+        int exitCode = -1;
+        QByteArray results;
+        QByteArray messages;
+    };
+
+    QTemporaryDir m_folder;
+
+    /// The environment of a server: no display and no terminal.
+    static QProcessEnvironment serverEnvironment()
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "CONFIGTOOLS_PASSWORD"})
+            environment.remove(QString::fromLatin1(name));
+        return environment;
+    }
+
+    [[nodiscard]] Outcome run(const QString &program, const QStringList &arguments,
+                              const QByteArray &input = {}) const
+    {
+        QProcess process;
+        process.setProcessEnvironment(serverEnvironment());
+        process.setWorkingDirectory(m_folder.path());
+        process.setChildProcessModifier([] { setsid(); }); // without a terminal that a prompt could use
+        process.start(program, arguments);
+        process.write(input);
+        process.closeWriteChannel();
+        if (!process.waitForFinished(60000))
+            process.kill();
+        const QByteArray messages = process.readAllStandardError();
+        return {.exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+                .results = process.readAllStandardOutput(),
+                .messages = messages};
+    }
+
+    [[nodiscard]] Outcome run(const QStringList &arguments, const QByteArray &input = {}) const
+    {
+        return run(PROGRAM, arguments, input);
+    }
+
+private Q_SLOTS:
+    void exitCodes_data()
+    {
+        const auto row =
+            dataTable<QStringList, int, QString, QString>({"arguments", "exitCode", "results", "messages"});
+        row("help", {"--help"}, 0, "set-address", "");
+        row("help of a command", {"set", "--help"}, 0, "main.frameRate", "");
+        row("version", {"--version"}, 0, "V1.", "");
+        row("unknown command", {"frobnicate"}, 2, "", "unknown command");
+        row("search", {"search", "--demo"}, 0, "02:1a:c5:00:40:25", "Found");
+        row("quiet", {"search", "--demo", "--quiet", "--devices", "192.168.1.101"}, 0, "B-2230-IR", "");
+        row("missing device", {"search", "--demo", "--devices", "10.9.9.9"}, 1, "ADDRESS", "10.9.9.9");
+        row("no such scene", {"search", "--demo", "absent.json"}, 3, "", "simulated site");
+        row("English results", {"get", "image", "dayNight.mode", "--demo", "--devices", "192.168.1.101"}, 0,
+            "Auto", "done");
+        row("cgi", {"cgi", "/cgi-bin/device", "--demo", "--devices", "192.168.1.101"}, 0, "B-2230-IR",
+            "done");
+        row("snapshot", {"snapshot", "--demo", "--devices", "192.168.1.101", "--output", "images"}, 0,
+            "images/192.168.1.101_8800/0.jpg", "done");
+        row("snapshot of a recorder with channels without a camera",
+            {"snapshot", "--demo", "--devices", "192.168.1.120", "--output", "images"}, 0, "skipped", "done");
+        row("no firmware file", {"upgrade", "--demo", "--devices", "all", "--file", "absent.bin"}, 3, "",
+            "absent.bin");
+        row("no password", {"get", "image", "--devices", "all"}, 2, "", "CONFIGTOOLS_PASSWORD");
+    }
+
+    void exitCodes()
+    {
+        QFETCH(const QStringList, arguments);
+        QFETCH(const QString, results);
+        QFETCH(const QString, messages);
+        const Outcome outcome = run(arguments);
+        QVERIFY2(outcome.exitCode >= 0, outcome.messages.constData());
+        QTEST(outcome.exitCode, "exitCode");
+        QVERIFY2(outcome.results.contains(results.toUtf8()),
+                 (outcome.results + outcome.messages).constData());
+        QVERIFY2(outcome.messages.contains(messages.toUtf8()), outcome.messages.constData());
+        QVERIFY2(!outcome.messages.contains("Office-2024") && !outcome.results.contains("Office-2024"),
+                 outcome.messages.constData());
+        QCOMPARE(outcome.results.isEmpty(), results.isEmpty());
+    }
+
+    void aSiteIsChangedByAScript()
+    {
+        const Outcome outcome = run(SITE_SCRIPT, {PROGRAM, m_folder.path(), "--demo", "office", "--quiet"});
+        QVERIFY2(outcome.exitCode == 0, outcome.messages.constData());
+        const auto read = [this](const QString &name) {
+            QFile file(m_folder.filePath(name));
+            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        };
+        QVERIFY(read("before.csv").contains("\r\n192.168.1.101,8800,02:1a:c5:00:40:25,"));
+        QVERIFY2(read("plan.txt").contains("192.168.1.201"), read("plan.txt").constData());
+        QVERIFY2(read("addresses.txt").contains("192.168.1.202"), read("addresses.txt").constData());
+        QVERIFY2(read("names.csv").contains(",name,done,0,Gate 1\r\n"), read("names.csv").constData());
+        QVERIFY2(read("site.xml").contains("192.168.1.160"), read("site.xml").constData());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestCommandProcess)
+#include "tst_commandprocess.moc"
