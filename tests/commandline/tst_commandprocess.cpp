@@ -93,7 +93,9 @@ private Q_SLOTS:
         QVERIFY2(outcome.results.contains(results.toUtf8()),
                  (outcome.results + outcome.messages).constData());
         QVERIFY2(outcome.messages.contains(messages.toUtf8()), outcome.messages.constData());
-        QVERIFY2(!outcome.messages.contains("Office-2024") && !outcome.results.contains("Office-2024"),
+        // The help names the account of the simulated devices.
+        const bool isHelp = arguments.contains("--help");
+        QVERIFY2(isHelp || !(outcome.messages + outcome.results).contains("Office-2024"),
                  outcome.messages.constData());
         QCOMPARE(outcome.results.isEmpty(), results.isEmpty());
     }
