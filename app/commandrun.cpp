@@ -6,6 +6,7 @@
 #include "cgi/cgiconfigmanage.h"
 #include "commandline/commands.h"
 #include "device/registry/devicefactory.h"
+#include "files/applicationfolders.h"
 
 #include <QFileInfo>
 #include <QLoggingCategory>
@@ -19,12 +20,12 @@ namespace {
 /// Without --demo, the scene is not used.
 DeviceSetup::Options setupOptions(const commandline::Arguments &arguments)
 {
-    const QString folder = QCoreApplication::applicationDirPath();
+    const ApplicationFolders &folders = ApplicationFolders::current();
     const QString scene = arguments.value("demo"_L1);
     return {.isDemo = arguments.has("demo"_L1) && !arguments.has("no-demo"_L1),
             .scene = scene.isEmpty() ? u"office"_s : scene,
-            .programFolder = folder,
-            .storeFolder = folder};
+            .programFolder = folders.program(),
+            .storeFolder = folders.data()};
 }
 
 int runWith(const commandline::Command &command, const commandline::Arguments &arguments,
@@ -45,16 +46,17 @@ int runWith(const commandline::Command &command, const commandline::Arguments &a
         [&arguments] {
             return SearchSettings{.localDomain = !arguments.has("no-local"_L1), .logsIn = false};
         },
-        {.atOnce = CLocalConfig::getinstance()->upgradesAtOnce()});
+        {.maximumParallel = CLocalConfig::getinstance()->parallelUpgrades()});
     const CgiSurroundings cgi = CGIConfigManage::programSurroundings();
     setup.prepare(*cgi.transport);
-    return commandline::run(command, arguments, terminal,
-                            {.factory = *CDeviceFactory::getinstance(),
-                             .engine = *setup.batchEngine(),
-                             .cgi = cgi,
-                             .devicesAtOnce = [] { return CLocalConfig::getinstance()->devicesAtOnce(); },
-                             .upgradesAtOnce = [] { return CLocalConfig::getinstance()->upgradesAtOnce(); },
-                             .siteAccount = setup.siteAccount()});
+    return commandline::run(
+        command, arguments, terminal,
+        {.factory = *CDeviceFactory::getinstance(),
+         .engine = *setup.batchEngine(),
+         .cgi = cgi,
+         .parallelDevices = [] { return CLocalConfig::getinstance()->parallelDevices(); },
+         .parallelUpgrades = [] { return CLocalConfig::getinstance()->parallelUpgrades(); },
+         .siteAccount = setup.siteAccount()});
 }
 
 } // namespace
@@ -98,7 +100,7 @@ int runCommand(const QStringList &arguments)
     }
     // English for scripts, independent of the language of the window.
     QTranslator translator;
-    if (loadTranslation(translator, QCoreApplication::applicationDirPath() + u"/language/en_US.qm"_s))
+    if (loadTranslation(translator, ApplicationFolders::current().program() + u"/language/en_US.qm"_s))
         QCoreApplication::installTranslator(&translator);
     return runWith(*command, parsed, terminal);
 }

@@ -89,7 +89,7 @@ std::optional<int> Shell::begin()
             return SearchSettings{.localDomain = config.getSearchConfigLocalDomain() != 0,
                                   .logsIn = config.searchLogsIn()};
         },
-        {.atOnce = CLocalConfig::getinstance()->upgradesAtOnce()});
+        {.maximumParallel = CLocalConfig::getinstance()->parallelUpgrades()});
     VideoItem::registerLibraries(m_devices.libraries());
     loadQml();
     return std::nullopt;

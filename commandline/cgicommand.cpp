@@ -5,7 +5,7 @@
 #include "commandline/textfile.h"
 #include "device/models/modelkeys.h"
 #include "device/registry/devicefamily.h"
-#include "device/registry/devicerow.h"
+#include "device/store/devicerow.h"
 
 #include <QEventLoop>
 #include <QFileInfo>

@@ -22,8 +22,8 @@ struct Surroundings
     CDeviceFactory &factory;
     BatchEngine &engine;
     CgiSurroundings cgi; ///< its folder is not used
-    std::function<int()> devicesAtOnce;
-    std::function<int()> upgradesAtOnce;
+    std::function<int()> parallelDevices;
+    std::function<int()> parallelUpgrades;
 
     /// The account of a simulated site, for commands without a password.
     std::optional<DeviceAccount> siteAccount = {};

@@ -187,7 +187,7 @@ int run(const Command &command, const Arguments &arguments, Terminal &terminal,
 {
     terminal.setQuiet(arguments.has("quiet"_L1));
     const std::optional<RecordFormat> format = recordFormat(arguments.value("format"_L1, u"table"_s));
-    Batches batches(surroundings.factory, surroundings.engine, surroundings.devicesAtOnce);
+    Batches batches(surroundings.factory, surroundings.engine, surroundings.parallelDevices);
     CommandContext context = {.arguments = arguments,
                               .terminal = terminal,
                               .surroundings = surroundings,

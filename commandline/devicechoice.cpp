@@ -6,10 +6,10 @@
 #include "commandline/textfile.h"
 #include "device/batch/addingbatches.h"
 #include "device/registry/devicefamily.h"
-#include "device/registry/devicefilter.h"
-#include "device/registry/devicerow.h"
-#include "device/registry/ipv4address.h"
 #include "device/search/searchrange.h"
+#include "device/store/devicefilter.h"
+#include "device/store/devicerow.h"
+#include "device/store/ipv4address.h"
 
 #include <QEventLoop>
 

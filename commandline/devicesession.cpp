@@ -2,11 +2,11 @@
 
 #include "commandline/batchrun.h"
 #include "commandline/interruption.h"
+#include "device/forms/encodeform.h"
 #include "device/models/batchreport.h"
-#include "device/models/encodeform.h"
 #include "device/registry/devicefamily.h"
-#include "device/registry/devicerow.h"
 #include "device/registry/mapkeys.h"
+#include "device/store/devicerow.h"
 
 #include <QCoreApplication>
 

@@ -4,9 +4,9 @@
 #include "commandline/settings.h"
 #include "commandline/settingsubject.h"
 #include "device/registry/devicefamily.h"
-#include "device/registry/devicerow.h"
 #include "device/registry/mapkeys.h"
 #include "device/registry/systemkeys.h"
+#include "device/store/devicerow.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -3,9 +3,9 @@
 #include "commandline/preview.h"
 #include "commandline/secrets.h"
 #include "device/batch/initialisationpreview.h"
-#include "device/models/systemtools.h"
+#include "device/forms/systemtools.h"
 #include "device/registry/devicefamily.h"
-#include "device/registry/devicerow.h"
+#include "device/store/devicerow.h"
 
 using namespace Qt::StringLiterals;
 

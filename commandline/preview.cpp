@@ -2,7 +2,7 @@
 
 #include "device/models/batchreport.h"
 #include "device/models/modelkeys.h"
-#include "device/registry/devicerow.h"
+#include "device/store/devicerow.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,8 +1,8 @@
 #include "commandline/commandfunctions.h"
 #include "commandline/devicechoice.h"
 #include "device/registry/devicefamily.h"
-#include "device/registry/devicefilter.h"
-#include "device/registry/devicerow.h"
+#include "device/store/devicefilter.h"
+#include "device/store/devicerow.h"
 
 using namespace Qt::StringLiterals;
 

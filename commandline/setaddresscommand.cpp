@@ -5,8 +5,8 @@
 #include "device/batch/addressplan.h"
 #include "device/models/modelkeys.h"
 #include "device/registry/devicefamily.h"
-#include "device/registry/devicerow.h"
-#include "device/registry/ipv4address.h"
+#include "device/store/devicerow.h"
+#include "device/store/ipv4address.h"
 
 using namespace Qt::StringLiterals;
 

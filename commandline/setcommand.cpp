@@ -6,7 +6,7 @@
 #include "commandline/systemsettings.h"
 #include "device/batch/nameplan.h"
 #include "device/registry/devicefamily.h"
-#include "device/registry/devicerow.h"
+#include "device/store/devicerow.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,9 +3,9 @@
 #include "commandline/outputfolder.h"
 #include "commandline/settingsubject.h"
 #include "device/registry/devicefamily.h"
-#include "device/registry/devicepictures.h"
-#include "device/registry/devicerow.h"
+#include "device/registry/deviceimages.h"
 #include "device/registry/mapkeys.h"
+#include "device/store/devicerow.h"
 
 #include <QHash>
 #include <QSet>
@@ -81,7 +81,7 @@ BatchPlan snapshotPlan(const CommandContext &context, const DeviceChoice &choice
                       .canBeRetried = false,
                       .marksFailed = false};
     plan.stepOf = [&factory = context.factory, folder, images, onlyChannel](const BatchDevice &device) {
-        return factory.backEnd(dhFamily)->pictureStep(
+        return factory.backEnd(dhFamily)->imageStep(
             {.ipport = device.ipport,
              .folder = folder + u'/' + folderOf(device.ipport),
              .onlyChannel = onlyChannel,

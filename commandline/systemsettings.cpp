@@ -1,6 +1,6 @@
 #include "commandline/systemsettings.h"
 
-#include "device/models/systemtools.h"
+#include "device/forms/systemtools.h"
 #include "device/registry/systemkeys.h"
 
 #include <QDateTime>

@@ -5,7 +5,7 @@
 #include "device/batch/upgradepreview.h"
 #include "device/models/modelkeys.h"
 #include "device/registry/devicefamily.h"
-#include "device/registry/devicerow.h"
+#include "device/store/devicerow.h"
 
 #include <QEventLoop>
 #include <QFileInfo>
@@ -118,7 +118,7 @@ int runUpgrade(CommandContext &context)
 {
     if (context.arguments.has("file"_L1) == context.arguments.has("document"_L1))
         return context.fail(UsageError, u"upgrade needs either --file or --document"_s);
-    UpgradeBatches upgrades(context.factory, context.batches, context.surroundings.upgradesAtOnce);
+    UpgradeBatches upgrades(context.factory, context.batches, context.surroundings.parallelUpgrades);
     return context.arguments.has("document"_L1) ? upgradeDocument(context, upgrades)
                                                 : upgradeDevices(context, upgrades);
 }

@@ -50,8 +50,8 @@ private:
                                             {.factory = *m_site->factory,
                                              .engine = *m_site->engine,
                                              .cgi = {},
-                                             .devicesAtOnce = [] { return 2; },
-                                             .upgradesAtOnce = [] { return 2; },
+                                             .parallelDevices = [] { return 2; },
+                                             .parallelUpgrades = [] { return 2; },
                                              .siteAccount = {}});
         return outcome;
     }
