@@ -9,7 +9,7 @@ Licences::Licences(QObject *parent) : QObject(parent)
         if (!file.open(QFile::ReadOnly | QFile::Text))
             continue;
         if (!m_lines.isEmpty())
-            m_lines.append({QString(), QString(60, u'\u2014'), QString()});
+            m_lines.append({QString(), QString(12, u'\u2014'), QString()});
         m_lines.append(QString::fromUtf8(file.readAll()).trimmed().split(u'\n'));
     }
 }

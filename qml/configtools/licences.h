@@ -13,10 +13,13 @@ class Licences : public QObject
     QML_ELEMENT
     QML_SINGLETON
     Q_PROPERTY(QStringList lines READ lines CONSTANT)
+    Q_PROPERTY(QString text READ text CONSTANT)
 public:
     explicit Licences(QObject *parent = nullptr);
 
     [[nodiscard]] const QStringList &lines() const { return m_lines; }
+    /// All lines, for screen readers.
+    [[nodiscard]] QString text() const { return m_lines.join(u'\n'); }
 
 private:
     QStringList m_lines;

@@ -89,18 +89,23 @@ OVDialog {
         visible: false
 
         Accessible.role: Accessible.StaticText
-        Accessible.name: Licences.lines.join("\n")
+        Accessible.name: Licences.text
 
         T.ScrollBar.vertical: OVScrollBar {}
 
         Keys.onPressed: event => {
             const steps = {
                 [Qt.Key_Down]: Theme.rowHeight, [Qt.Key_Up]: -Theme.rowHeight,
-                [Qt.Key_PageDown]: height, [Qt.Key_PageUp]: -height,
-                [Qt.Key_End]: contentHeight, [Qt.Key_Home]: -contentHeight
+                [Qt.Key_PageDown]: height, [Qt.Key_PageUp]: -height
             };
-            event.accepted = event.key in steps;
-            if (event.accepted)
+            event.accepted = true;
+            if (event.key === Qt.Key_Home)
+                positionViewAtBeginning();
+            else if (event.key === Qt.Key_End)
+                positionViewAtEnd();
+            else if (!(event.key in steps))
+                event.accepted = false;
+            else
                 contentY = Math.max(0, Math.min(contentHeight - height, contentY + steps[event.key]));
         }
 
