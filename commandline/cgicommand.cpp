@@ -70,7 +70,7 @@ int sendToDevices(CommandContext &context, CgiBatches &commands)
                                    ->deviceRow(device.identity)
                                    .value(DeviceRowKey::result)
                                    .toString();
-        return commands.answerOf(device.identity, result);
+        return commands.responseOf(device.identity, result);
     };
     ResultTable results({u"response"_s});
     const int exitCode = runBatch(
