@@ -23,7 +23,8 @@ struct DeviceCertificate
 static_assert(sizeof(DeviceCertificate) == 512);
 static_assert(offsetof(DeviceCertificate, fingerprint) == 136);
 
-/// The result of comparing the key of a certificate with the stored keys.
+/// The result of comparing the key of a certificate with the stored keys. With Unknown or Changed the request
+/// fails, each with an error of its own.
 enum class CertificateVerdict : std::int32_t
 {
     Trusted = 0,

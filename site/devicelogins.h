@@ -31,13 +31,15 @@ public:
     [[nodiscard]] LoginOutcome check(const sdk::demo::SceneDevice &device, const UserNameToken &token,
                                      std::int64_t utc);
 
-    /// Checks the value of the header "Authorization" of a request of that HTTP or RTSP method. `now` is the
-    /// time on the site's clock, in ms since 1970.
+    /// Checks the value of the header "Authorization" of a request of that HTTP or RTSP method. Digest only:
+    /// for another scheme, or an algorithm that the device does not offer, no password is checked. `now` is
+    /// the time on the site's clock, in ms since 1970.
     [[nodiscard]] LoginOutcome check(const sdk::demo::SceneDevice &device, const DeviceManner &manner,
                                      const QByteArray &authorization, const QByteArray &method,
                                      std::int64_t now);
 
-    /// The values of the headers "WWW-Authenticate" of a challenge.
+    /// The values of the headers "WWW-Authenticate" of a challenge: one for each digest algorithm that the
+    /// device offers.
     [[nodiscard]] QByteArrayList challenges(const sdk::demo::SceneDevice &device, const DeviceManner &manner,
                                             bool isStale, std::int64_t now) const;
 

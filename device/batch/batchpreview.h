@@ -85,8 +85,9 @@ protected:
         QString description; ///< model and MAC; address and port if it reports neither
     };
 
-    /// The judgement of a checked row. By default a device is skipped if it has a hindrance, and warned if
-    /// another device has its address or its new address.
+    /// The judgement of a checked row. By default a device is skipped if it has a hindrance. It is warned if
+    /// another device that is not offline has its address and port, if another checked device gets its new
+    /// address, or if another device of the list, also an offline one, has the new address and keeps it.
     [[nodiscard]] virtual Judgement judgementOf(int row) const;
 
     /// Called once before judgementOf() is called for all checked rows: after a change of the checked rows

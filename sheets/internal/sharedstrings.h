@@ -11,6 +11,7 @@ namespace sheets {
 class SharedStrings : public LastError
 {
 public:
+    /// Replaces the strings by those of the XML part `bytes`. On failure they are unchanged.
     bool load(const QByteArray &bytes);
 
     /// The string at `index`, from 0; empty for an invalid index.

@@ -17,7 +17,8 @@ struct CodecName
     std::string_view media2; ///< "H265"
 };
 
-/// The name of a codec in the service; "MPEG4" and "MPV4-ES" for a code that CodecName does not list.
+/// The name of a codec in the service; empty for H.265 in the media service, which does not have it. "MPEG4"
+/// and "MPV4-ES" for a code other than those of H.264, H.265 and JPEG.
 [[nodiscard]] std::string_view mediaCodec(int compression);
 [[nodiscard]] std::string_view media2Codec(int compression);
 /// Nothing for a codec that the stream does not support.
@@ -42,10 +43,10 @@ struct EncodeSettings
     sdk::VideoProfileItem profile;
     sdk::AudioCompressionItem sound;
     sdk::AudioFormatItem soundFormat;
-    int keyFrameInterval = 0; ///< frames from one key frame to the next
+    int keyFrameInterval = 0; ///< frames from one key frame to the next; kept by the services, not an item
 };
 
-/// Nothing when the device does not report them.
+/// Nothing when at least one item is missing.
 [[nodiscard]] std::optional<EncodeSettings> encodeSettings(const sdk::demo::SceneDevice &device,
                                                            const MediaStream &stream);
 

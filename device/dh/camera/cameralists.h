@@ -8,7 +8,7 @@
 #include <optional>
 
 /// The choices that a camera supports: the names whose bit is set in a mask, in the order of the values.
-/// Values without a name are left out. A page uses indexes of this list.
+/// Values past the end of the names are left out. A page uses indexes of this list.
 class OfferedValues
 {
 public:

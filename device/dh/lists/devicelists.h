@@ -23,8 +23,9 @@ public:
                 BackEndSignals &backEndSignals);
 
     /// Writes the devices with these row names to `folder` (a path or "file:///" URL); the suffix of
-    /// `fileName` selects the format. Passwords of stored accounts are not written. Skips devices that are no
-    /// longer in the list. Returns false if none is left or the file cannot be written.
+    /// `fileName` selects the format: "xlsx", "csv", otherwise XML. Writes the passwords of rows and of the
+    /// default account in plain text, but not those of stored accounts. Skips devices that are no longer in
+    /// the list. Returns false if none is left or the file cannot be written.
     bool exportDevices(const QString &folder, const QStringList &macs, const QString &fileName);
 
     /// Fields of the last exported list that an import would not read back, see CDeviceBase::exportFaults().

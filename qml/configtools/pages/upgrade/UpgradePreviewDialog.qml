@@ -8,7 +8,7 @@ OVDialog {
     required property var deviceFactory
     property string path  // path of the document; "" for devices of the table
     signal confirmed(var identities)
-    signal documentConfirmed(string path, var lines)
+    signal documentConfirmed(string path, var lines)  // line numbers as texts
     signal documentRefused(string reason)
 
     /// Asks for devices of the table.
