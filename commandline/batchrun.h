@@ -2,7 +2,6 @@
 #pragma once
 
 #include "commandline/commandcontext.h"
-#include "commandline/devicechoice.h"
 
 namespace commandline {
 

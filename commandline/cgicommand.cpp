@@ -1,6 +1,7 @@
 #include "cgi/cgibatches.h"
 #include "commandline/batchrun.h"
 #include "commandline/commandfunctions.h"
+#include "commandline/devicechoice.h"
 #include "commandline/outputfolder.h"
 #include "commandline/textfile.h"
 #include "device/models/modelkeys.h"

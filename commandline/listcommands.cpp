@@ -1,5 +1,6 @@
 #include "commandline/batchrun.h"
 #include "commandline/commandfunctions.h"
+#include "commandline/devicechoice.h"
 #include "commandline/secrets.h"
 #include "device/registry/devicefamily.h"
 #include "device/registry/mapkeys.h"

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "commandline/batchrun.h"
+#include "commandline/devicechoice.h"
 #include "device/batch/batchpreview.h"
 
 namespace commandline {

@@ -1,5 +1,6 @@
 #include "commandline/batchrun.h"
 #include "commandline/commandfunctions.h"
+#include "commandline/devicechoice.h"
 #include "commandline/preview.h"
 #include "commandline/textfile.h"
 #include "device/batch/addressplan.h"
