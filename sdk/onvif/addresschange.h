@@ -12,29 +12,34 @@ namespace sdk::onvif {
 /// The requested IPv4 settings of a device.
 struct AddressOrder
 {
-    std::string address = {}; ///< unused with `dhcp`, as are the next two
-    std::string mask = {};    ///< dotted; empty for the present mask
-    std::string gateway = {}; ///< empty for the present gateway
-    bool dhcp = false;
-    std::string mac = {}; ///< of the device, empty if unknown
-    /// Timeouts until a device responds at its new address, without and with a reboot. For most of a minute,
-    /// this host sends to the device that had the address before.
+    std::string address = {}; ///< dotted; not sent with `dhcp`
+    std::string mask = {};    ///< dotted; empty to keep the present mask; not sent with `dhcp`
+    std::string gateway = {}; ///< dotted; empty to keep the present gateway; not sent with `dhcp`
+    bool dhcp = false;        ///< the device gets its settings by DHCP
+    std::string mac = {};     ///< of the device, in the form of canonicalMac(); empty if unknown
+    /// Timeout until the device responds at its new address without a reboot. If another device had that
+    /// address before, this host sends to the MAC of the other device for most of a minute.
     std::chrono::milliseconds settlingTime{60000};
+    /// The same timeout for a device that reboots.
     std::chrono::milliseconds rebootTime{120000};
 };
 
-/// Logs in to the device, changes its address, and reboots the device if it requires that. Succeeds when the
-/// same device responds at the new address; with DHCP, when the device has accepted the request. `deadline`
-/// limits the requests; the timeouts of the order limit the wait for the new address. A changed gateway is
-/// restored when the device refuses the address.
+/// Logs in to the device, writes the gateway and then the address, and reboots the device if it requires
+/// that. Blocks, and succeeds when the same device responds at the new address. With DHCP it succeeds when
+/// the device has accepted the request. If the device refuses the gateway at first, the gateway is written
+/// again after the change of the address. If the device refuses the address, a written gateway is restored.
 ///
-/// A CallStop of this thread ends the requests before the first change, and the wait for the device after the
-/// last one; changes are completed. Cancelling `http` ends every request. Returns Cancelled if the CallStop
-/// was requested before anything was changed.
+/// `deadline` limits the requests up to the reboot. The wait for the new address ends at `deadline` or at the
+/// timeout of the order, whichever is later.
 ///
-/// Returns InvalidValue for an invalid mask and for an empty address without DHCP. Returns AddressInUse if
-/// another device responds at the present or at the new address, Unconfirmed if no device responds at the new
-/// one.
+/// A stop of this thread's CallStop ends the requests before the first change: the result is then Cancelled.
+/// Later it ends only the wait for the new address, with Unconfirmed. Cancelling `http` ends every request.
+///
+/// Errors before anything is changed: InvalidValue for an invalid mask or an empty address, without DHCP
+/// only; AddressInUse if the device is not the one with `AddressOrder::mac`; NotSupported if the device
+/// reports no interface to change; the errors of OnvifSession::open(). Errors of the change: the reason of
+/// the device to refuse the address or the reboot. Errors after the change: Unconfirmed if no device responds
+/// at the new address, AddressInUse if another device responds there, otherwise the error of the gateway.
 [[nodiscard]] NetError changeAddress(const ServiceAddress &service, const std::shared_ptr<HttpClient> &http,
                                      const HttpLogin &login, const AddressOrder &order,
                                      SoapClient::Deadline deadline);

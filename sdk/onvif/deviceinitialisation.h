@@ -8,11 +8,17 @@
 
 namespace sdk::onvif {
 
-/// Creates an administrator on a device that has none, or sets the password if an account of that name
-/// exists, and checks that the device then refuses requests without a login. NotSupported if the device
-/// already has an administrator; AddressInUse if the device is not the one with `mac`, where both are known;
-/// Refused if it still responds to requests without a login; Unconfirmed if it has accepted the account but
-/// does not respond to the check.
+/// Creates the administrator `account` on a device that has none. If an account of that name exists, it gets
+/// the password and becomes an administrator instead. All requests are sent without a login. At last the
+/// function checks that the device refuses a request without a login. Blocks until `deadline` at most.
+///
+/// `mac` is the MAC of the intended device in the form of canonicalMac(), empty if it is unknown.
+///
+/// Errors before anything is changed: NotSupported if the device refuses requests without a login, because it
+/// has an administrator; AddressInUse if the device reports the MACs of all its interfaces and `mac` is not
+/// among them; the error of the connection. Errors after the device has accepted the account: Refused if it
+/// still responds to requests without a login, Unconfirmed if it does not respond to the check. Any other
+/// error is the device's reason to refuse the account.
 [[nodiscard]] NetError initialiseDevice(const ServiceAddress &service,
                                         const std::shared_ptr<HttpClient> &http, const HttpLogin &account,
                                         const std::string &mac, SoapClient::Deadline deadline);

@@ -17,34 +17,44 @@ namespace sdk::onvif {
 
 class FirmwareTransfer;
 
-/// The running uploads. Thread-safe.
+/// The uploads by handle, each with a thread. Thread-safe.
 ///
-/// A device responds to the upload when it has the complete file, and does not report its further progress.
-/// So the phase Writing starts with the last byte and ends with the response.
+/// A device responds to the upload after it has received the complete file. It does not report the progress
+/// of writing. So the phase Writing starts when the last byte is sent and ends with the response.
+///
+/// A handle stays valid after Done or Failed, until it is closed. The functions that close uploads block
+/// until the threads of the uploads have ended. Handlers and `accepted` must not call them.
 class FirmwareUploads
 {
 public:
+    /// `decision` decides about the certificates of devices that receive the file over HTTPS.
     explicit FirmwareUploads(std::shared_ptr<const CertificateDecision> decision);
+
+    /// As closeAll().
     ~FirmwareUploads();
 
-    /// True for a file that can be opened and is not empty.
+    /// True for a file that can be opened and is not empty. `fileName` is in the local 8-bit encoding.
     [[nodiscard]] static bool isReadable(const std::string &fileName);
 
-    /// Starts the upload of the file, after the delay that the device has requested. The progress is reported
-    /// on the thread of the upload, possibly before the return. `accepted` is called on that thread when the
-    /// device has accepted the file, before Done is reported. Returns the handle, 0 when no thread can be
-    /// created.
+    /// Starts the upload of the file and returns immediately. The file is sent after the delay that the
+    /// device has requested, 60 s at most, and the upload fails after 30 min. The progress is passed to
+    /// `handler` (null for none) on the thread of the upload, possibly before the return: Sending with the
+    /// percentage of the sent bytes, Writing, and at last Done or Failed. Failed has the error: WrongPassword
+    /// for a refused login, FirmwareRefused for another refusal, or the failure of the connection. `accepted`
+    /// must not be empty. It is called on that thread when the device has accepted the file, before Done is
+    /// reported. Returns the handle; 0 when no thread can be created.
     [[nodiscard]] std::int64_t open(LLONG loginHandle, const FirmwareUpload &upload, const HttpLogin &login,
                                     const std::string &fileName, UpgradeProgressHandler handler, void *user,
                                     const std::function<void()> &accepted);
 
-    /// Ends an upload and frees its handle. The handler does not run after a successful call. NotSupported
-    /// while the device has the complete file and has not responded; InvalidValue for an invalid handle.
+    /// Ends an upload and frees its handle. The handler does not run after a successful call. Returns
+    /// NotSupported in the phase Writing: the upload then continues and the handle stays valid. Returns
+    /// InvalidValue for an invalid handle.
     [[nodiscard]] NetError close(std::int64_t handle);
-    /// Ends the uploads of a session, also those whose response is outstanding. Their handlers do not run
-    /// after the return.
+    /// Ends the uploads of a session in every phase, and frees their handles. Their handlers do not run after
+    /// the return. A device that has the complete file may still install it.
     void closeAllOf(LLONG loginHandle);
-    void closeAll();
+    void closeAll(); ///< the same for all sessions
 
 private:
     const std::shared_ptr<const CertificateDecision> m_decision;

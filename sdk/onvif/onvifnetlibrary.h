@@ -19,8 +19,10 @@
 
 namespace sdk::onvif {
 
-/// Devices are accessed by the ONVIF services and RTSP (docs/onvif.md). The error codes are those of
-/// NetError.
+/// Accesses devices by the ONVIF services and RTSP (docs/onvif.md). netlibrary.h states the effect, the
+/// threads and the lifetimes of each operation. NetGetLastError() returns values of NetError. A parameter
+/// without a name in the sources has no effect, for instance the local address of a search. The destructor
+/// calls NetCleanup().
 class OnvifNetLibrary : public NetLibrary
 {
 public:
@@ -102,13 +104,23 @@ private:
     using Deadline = OnvifSession::Deadline;
     using SessionWork = std::function<NetError(OnvifSession &session, Deadline deadline)>;
 
+    /// Opens a session within `longestLogin` and fills `device`. Returns the handle. On failure it returns 0
+    /// and stores the error for the calling thread.
     [[nodiscard]] LLONG login(const ServiceAddress &service, const HttpLogin &login,
                               LoginDeviceInformation &device);
+    /// Null for an invalid handle.
     [[nodiscard]] std::shared_ptr<OnvifSession> session(LLONG loginHandle) const;
-    /// Ends the sessions of all accounts with the device at `host`, which reboots.
+    /// Marks the sessions of all accounts with the device at `host` as ended, because the device reboots.
+    /// Their handles stay valid until NetLogout(), and their later calls fail.
     void endSessionsTo(const std::string &host);
-    /// Runs `work` on the session and stores its error for the calling thread. False for an invalid handle.
+    /// Runs `work` on the calling thread, with the deadline `wait` from now. Returns true if `work` returns
+    /// NetError::None. Otherwise it stores the error for the calling thread and returns false. The error is
+    /// SessionEnded for an invalid handle, and Cancelled if NetCancelCalls() has ended the call. In a session
+    /// that was marked as ended, `work` does not run: the error is then the reason why the device is not
+    /// reached, otherwise NetworkFailure.
     bool onSession(LLONG loginHandle, std::chrono::milliseconds wait, const SessionWork &work);
+    /// Searches on the calling thread and blocks until the search has ended. Returns false and stores
+    /// InvalidValue for a malformed request.
     bool searchByAddresses(const SearchByAddressesRequest &request, SearchResponseHandler handler, void *user,
                            std::chrono::milliseconds wait);
 
@@ -123,7 +135,7 @@ private:
 
     LiveStreams m_streams;
     FirmwareUploads m_uploads{m_certificates};
-    QThreadPool m_keyFrameRequests;
+    QThreadPool m_keyFrameRequests; ///< for requests of NetStreamFollowUp(), whose results are ignored
 };
 
 } // namespace sdk::onvif

@@ -20,20 +20,24 @@ namespace sdk::onvif {
 class HttpClient;
 class SearchCounters;
 
-/// One search: a probe to each address, then a request over HTTP (ports 80 and 8080) to each address without
-/// a response.
+/// One search: a probe of WS-Discovery to each address, then a request over HTTP (ports 80 and 8080) to each
+/// address without a response. A device that responds to the probe is reported even if its inspection fails.
+/// An address that accepts HTTP is reported only if it responds as an ONVIF device.
 class AddressSearch
 {
 public:
-    /// Called on threads of the search, one call at a time.
+    /// Called on threads of the search during run(), one call at a time.
     using Reporter = std::function<void(const FoundDevice &device)>;
 
-    /// `counters` and `isCancelled` must outlive the search.
+    /// `http` sends the requests. `counters` counts the queried and the responding addresses. `isCancelled`
+    /// is set by another thread to end the search, together with HttpClient::cancel(). `counters` and
+    /// `isCancelled` must outlive the search.
     AddressSearch(std::shared_ptr<HttpClient> http, Reporter reporter, SearchCounters &counters,
                   const std::atomic_bool &isCancelled);
 
-    /// Blocks until every address has responded or was queried in both ways, `wait` has passed or the search
-    /// is cancelled. Each address is reported at most once.
+    /// To be called once. Blocks until every address has responded or was queried in both ways, `wait` has
+    /// passed or the search is cancelled. No report follows the return. Each address is reported at most
+    /// once. `addresses` are numeric; any other string is ignored.
     void run(const std::vector<std::string> &addresses, std::chrono::milliseconds wait);
 
 private:

@@ -29,52 +29,61 @@ namespace sdk::onvif {
 
 class HttpClient;
 
-/// Finds devices by WS-Discovery. Any thread may call it. The handlers of local searches run one at a time,
-/// on threads of the object, and on the calling thread of start().
+/// Finds devices by WS-Discovery. Thread-safe. The handlers of local searches run one at a time, on threads
+/// of the object, and on the calling thread of start(). Handlers must not call start(), stop() or cancel(),
+/// which wait for them.
 ///
-/// A device is reported after a request without a login has determined its state, so that its row is complete
-/// when it appears. If the device does not respond to that request, or if the inspections before it take too
-/// long, it is reported with the state NotReported. It is not reported if its message alone is not
-/// sufficient: if no announced service has its own address. Devices in the networks of this host are
-/// inspected first, since devices of foreign networks often cannot respond. A device is inspected once,
-/// regardless of the number of running searches.
+/// A device is inspected before it is reported: a request without a login determines its state, so that its
+/// row is complete when it appears. If the device does not respond to that request, or if the inspections
+/// before it take too long, its announcement decides. If an announced service has the address that the
+/// announcement came from, the device is reported with the state NotReported. Otherwise it is not reported.
+/// Devices in the networks of this host are inspected first, since devices of foreign networks often cannot
+/// respond. A device is inspected and reported once in the running searches, regardless of their number.
 class DeviceDiscovery
 {
 public:
     /// `decision` decides about the certificates of devices that are inspected over HTTPS.
     explicit DeviceDiscovery(std::shared_ptr<const CertificateDecision> decision);
+
+    /// As cancel(). No searchAddresses() may run.
     ~DeviceDiscovery();
     DeviceDiscovery(const DeviceDiscovery &) = delete;
     DeviceDiscovery &operator=(const DeviceDiscovery &) = delete;
 
-    /// Starts a search of the networks of all interfaces. Devices that running searches have found are passed
-    /// to `handler` before the return. Returns the handle of the search; 0 if no interface can be searched,
-    /// and after cancel().
+    /// Starts a search of the networks of all interfaces: sends probes to the groups, repeats them once, and
+    /// receives messages until stop(). Devices that running searches have found are passed to `handler`
+    /// before the return. Returns the handle of the search; 0 for a null `handler`, if no interface can be
+    /// searched, and after cancel().
     std::int64_t start(SearchResponseHandler handler, void *user);
 
-    /// Ends a search. Its handler does not run after the call. False for an invalid handle.
+    /// Ends a search. Its handler does not run after the call. The end of the last running search drops the
+    /// inspections that have not begun. Returns false for an invalid handle.
     bool stop(std::int64_t handle);
 
-    /// Searches each address and blocks until all are done, `wait` has passed or cancel() is called.
-    /// `handler` is called with the handle 0, one call at a time. Each address gets a probe; an address that
-    /// does not respond to the probe is queried over HTTP, since routers do not always forward probes.
+    /// Searches each address as AddressSearch, and blocks until all are done, `wait` has passed or cancel()
+    /// is called. `handler` is called with the handle 0 on other threads during the call, one call at a time.
+    /// An address that does not respond to a probe is queried over HTTP, since routers do not always forward
+    /// probes. Returns immediately after cancel().
     void searchAddresses(const std::vector<std::string> &addresses, SearchResponseHandler handler, void *user,
                          std::chrono::milliseconds wait);
 
-    /// Fills the counters of the running searches, since the first of them was started; of the last searches
-    /// if none runs.
+    /// Fills `report` with the present interfaces of this host and the counters of the running searches, or
+    /// of the last searches if none runs. The counters are reset by a start() while no local search runs.
+    /// They include the address searches since then.
     void fillReport(SearchReport &report) const;
 
-    /// The device service that a search has found at an address and port. At an unknown port, the service has
-    /// the path of the standard, HTTPS if isHttpsPort(port), and the identity of a device that was found at
-    /// the address.
+    /// The device service at an address and port for a request. It is the service that a search of this
+    /// object has found there. If none has, the service has the path of the standard, HTTPS if
+    /// isHttpsPort(port), and the identity of a device that was found at another port of the address. Sends
+    /// nothing.
     [[nodiscard]] ServiceAddress serviceAt(const std::string &address, int port) const;
 
-    /// To be called after a device's address has changed: serviceAt() then finds its service at the new
-    /// address.
+    /// To be called after the address of the device with the service `from` has changed: serviceAt() then
+    /// finds this service at the new `address` and the same port.
     void moved(const ServiceAddress &from, const std::string &address);
 
-    /// Ends every search and every request, and refuses later ones.
+    /// Ends every search and every request, and refuses later ones. Blocks until the threads of local
+    /// searches have ended. Cannot be undone.
     void cancel();
 
 private:

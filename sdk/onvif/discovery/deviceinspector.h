@@ -9,12 +9,14 @@
 
 namespace sdk::onvif {
 
-/// Completes `device` by requests without a login, and blocks up to `wait`. Sets `mac`, if it is empty, from
-/// the neighbour table, and the identity of `service`. Sets `state`: Uninitialised if the device returns both
-/// its users and its information without a login, otherwise Initialised. The fields that need an open device
-/// (FoundDevice::model and those after it) are set for an uninitialised device only.
+/// Completes `device` by requests without a login to `FoundDevice::service`, and blocks up to `wait`. Any
+/// thread may call it. Sets `state`: Uninitialised if the device returns both its users and its information
+/// without a login, otherwise Initialised. Sets FoundDevice::model and the fields after it for an
+/// uninitialised device only. Sets an empty `mac` and `isNeighbour` from the neighbour table; if the table
+/// lacks the address, `mac` is set from the interfaces of an uninitialised device. Sets the identity of
+/// `service`.
 ///
-/// Returns false, with `state` unchanged, if no device responds with this protocol within `wait`. `mac` and
+/// Returns false, with `state` unchanged, if no ONVIF device responds within `wait`. `mac`, `isNeighbour` and
 /// the identity may be set even then.
 bool inspectDevice(FoundDevice &device, const std::shared_ptr<HttpClient> &http,
                    std::chrono::milliseconds wait);

@@ -1,5 +1,5 @@
-// The sockets of a search: one for each interface, and one for each group, which receives unsolicited
-// messages of devices.
+// The sockets of a search. One for each interface sends probes and receives the responses. One for each of
+// the two groups receives the messages that devices send on their own.
 #pragma once
 
 #include "sdk/onvif/discovery/networkaddress.h"
@@ -16,8 +16,8 @@ namespace sdk::onvif {
 class DiscoverySockets
 {
 public:
-    /// Called with a datagram. `localAddress` is the address of the interface that received it, empty if
-    /// unknown.
+    /// Called with a datagram of up to 65536 bytes, which is valid during the call. `localAddress` is the
+    /// address of the interface that received it, empty if unknown.
     using Receiver = std::function<void(std::string_view datagram, const SocketAddress &sender,
                                         const std::string &localAddress)>;
 
@@ -30,23 +30,25 @@ public:
     /// the system's error number, 0 on success.
     using SendObserver = std::function<void(const std::string &localAddress, int error)>;
 
-    /// Opens the sockets. Returns the number of sockets that send to a group; those of loopback interfaces do
-    /// not. `observer` is called for each interface whose socket cannot be opened.
+    /// Opens the sockets. To be called once. Returns the number of sockets that send to a group; those of
+    /// loopback interfaces do not. `observer` is called for each interface whose socket cannot be opened. A
+    /// failure of the sockets that receive from the groups is ignored.
     std::size_t open(const SendObserver &observer = {});
 
-    /// Sends a message to the group through every interface except loopback interfaces. Returns the number of
-    /// sockets that sent it. `observer` is called for each of them, also on an error.
+    /// Sends a message to the group of its address family through every interface except loopback interfaces.
+    /// Returns the number of sockets that sent it. `observer` is called for each socket, also on an error.
     std::size_t sendToGroups(const std::string &message, const SendObserver &observer = {});
 
-    /// Sends a message to one address, from the first socket of its family that can. Returns the system's
-    /// error, 0 for none.
+    /// Sends a message to one address, from the first socket of its family that can send it. Returns 0 when
+    /// one has sent it, otherwise the system's error number of the last failure.
     [[nodiscard]] int sendTo(const std::string &message, const SocketAddress &address);
 
-    /// Waits up to `milliseconds` for datagrams and passes the received ones to `receiver`, at most
-    /// `maximumDatagrams`, so that a continuous sender does not block the caller.
+    /// Waits up to `milliseconds` until a datagram arrives or wake() is called. Passes the datagrams that
+    /// have arrived to `receiver` on the calling thread, at most `maximumDatagrams`, so that a continuous
+    /// sender does not block the caller.
     void receive(int milliseconds, const Receiver &receiver);
 
-    /// Ends a wait in receive().
+    /// Ends a wait in receive(); if none runs, the next one ends immediately.
     void wake() const;
 
 private:

@@ -10,19 +10,20 @@ namespace sdk::onvif {
 struct InterfaceState
 {
     std::string name = {};
-    std::string address = {}; ///< as addressText() writes it; empty if there is none
-    int prefixLength = 0;     ///< of `address`
-    bool isUp = false;
+    std::string address = {};   ///< as addressText() writes it; empty if there is none
+    int prefixLength = 0;       ///< of `address`
+    bool isUp = false;          ///< enabled in the operating system
     bool hasLink = false;       ///< a cable or a peer is connected
     bool sendsToGroups = false; ///< can send multicast
     bool isLoopback = false;
 };
 
-/// One entry for each IPv4 address and each link-local IPv6 address: a search sends from these. An Ethernet
-/// or radio interface without such an address has one entry without an address.
+/// The present interfaces, also those that are down. One entry for each IPv4 address and each link-local IPv6
+/// address: a search sends from these. An Ethernet or radio interface without such an address has one entry
+/// without an address. Empty if the operating system reports an error.
 [[nodiscard]] std::vector<InterfaceState> interfaceStates();
 
-/// True if `address` is in the network of `interface`. False unless both are IPv4 addresses.
+/// True if `address` is in the network of `interface`. False unless both addresses are IPv4 addresses.
 [[nodiscard]] bool isInNetwork(const std::string &address, const InterfaceState &interface);
 
 } // namespace sdk::onvif

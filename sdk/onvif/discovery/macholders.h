@@ -9,16 +9,19 @@
 namespace sdk::onvif {
 
 /// Assigns each MAC to one device, since a MAC identifies a device in lists and a message may contain any
-/// MAC. The device is the one with the MAC in the neighbour table of this host, otherwise the first one that
-/// announced it. A second device at the same address, such as a factory-new device, does not get the MAC that
-/// the neighbour table has for that address. Not thread-safe.
+/// MAC. The device is the one with the MAC in the neighbour table of this host (FoundDevice::isNeighbour),
+/// otherwise the first one that announced it. A device is known by its address and UUID. IPv4 and IPv6
+/// addresses have separate assignments. A second device at the same address, such as a factory-new device,
+/// does not get the MAC that the neighbour table has for that address. Not thread-safe.
 class MacHolders
 {
 public:
     /// Removes all assignments, for the start of a search.
     void clear();
 
-    /// Clears the MACs of `device` that belong to another device, and corrects the identity of its service.
+    /// Assigns the MACs of `device` that are free. Clears FoundDevice::mac and the announced MAC in `device`
+    /// if they belong to another device. Sets the identity of its service accordingly. Devices that were
+    /// admitted before keep the MACs in their objects.
     void admit(FoundDevice &device);
 
 private:

@@ -6,8 +6,9 @@
 
 namespace sdk::onvif {
 
-/// MAC addresses ("02:1a:c5:00:40:17") by network address, of both address families, from the present table
-/// of the operating system. Complete entries only. Empty where the system provides no such table.
+/// MAC addresses in the form of canonicalMac() by network address in the form of addressText(), of both
+/// address families, from the present table of the operating system. Entries whose MAC is still being
+/// resolved are omitted. Empty where the system provides no such table. Sends nothing to the network.
 [[nodiscard]] std::unordered_map<std::string, std::string> neighbourTable();
 
 } // namespace sdk::onvif

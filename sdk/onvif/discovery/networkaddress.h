@@ -18,15 +18,15 @@ struct SocketAddress
     socklen_t length = 0;
 };
 
-/// Reads an IPv4 address, or an IPv6 address with the name or number of its interface behind "%". Nothing for
-/// host names: a search accepts addresses only.
+/// Reads an IPv4 address, or an IPv6 address without brackets. A link-local IPv6 address has the name or
+/// number of its interface behind "%". Nothing for host names: a search accepts addresses only.
 [[nodiscard]] std::optional<SocketAddress> socketAddress(const std::string &address, int port);
 
 /// The string of the address, with the interface of a link-local address; without brackets and port. Empty on
 /// failure.
 [[nodiscard]] std::string addressText(const SocketAddress &address);
 
-/// An active network interface of this host, with one of its addresses.
+/// A network interface of this host that is up, with one of its addresses.
 struct NetworkInterface
 {
     std::string name = {};
@@ -36,8 +36,8 @@ struct NetworkInterface
     bool isLoopback = false;
 };
 
-/// The interfaces that are up and can send to groups: one entry for each IPv4 address and each link-local
-/// IPv6 address. Loopback interfaces are included; the caller filters them.
+/// The interfaces that are up and can send to groups, and the loopback interfaces: one entry for each IPv4
+/// address and each link-local IPv6 address. Empty if the operating system reports an error.
 [[nodiscard]] std::vector<NetworkInterface> networkInterfaces();
 
 } // namespace sdk::onvif

@@ -25,12 +25,14 @@ enum class ProbeKind
 /// The XML text of a probe with a new message identifier.
 [[nodiscard]] std::string probeMessage(ProbeKind kind);
 
-/// The information that a device announces. All of it is unchecked: any host of the network can send it.
+/// The information that a device announces. Its form is checked, its truth is not: any host of the network
+/// can send it. Strings are empty if they are not announced.
 struct DeviceAnnouncement
 {
     bool isLeaving = false; ///< a Bye message
     std::string uuid = {};  ///< of the device, 36 characters without "urn:uuid:", in lower case; may be empty
-    std::vector<ServiceAddress> services = {}; ///< addresses of its device service, as the device knows them
+    std::vector<ServiceAddress> services = {}; ///< addresses of its device service, as the device knows them;
+                                               ///< at most 8
     std::string name = {};
     std::string model = {};
     std::string location = {};
@@ -49,11 +51,12 @@ struct DiscoveryMessage
     };
 
     Kind kind = Kind::Unreadable;
-    std::vector<DeviceAnnouncement> announcements = {}; ///< of devices of this standard
-    std::size_t otherDevices = 0;                       ///< announcements of other devices
+    std::vector<DeviceAnnouncement> announcements = {}; ///< with an ONVIF type, or without any type
+    std::size_t otherDevices = 0;                       ///< number of announcements with other types only
 };
 
-/// Reads a datagram; announcements after the first `maximumMatches` are ignored.
+/// Reads a datagram. Announcements after the first `maximumMatches` are ignored. An invalid datagram gives
+/// Kind::Unreadable.
 inline constexpr std::size_t maximumMatches = 16;
 [[nodiscard]] DiscoveryMessage readDiscoveryMessage(std::string_view datagram);
 

@@ -20,25 +20,30 @@ struct ReportedDevice
     std::string localAddress = {}; ///< of this host, that received its response
 };
 
-/// Counters by the local address that a message was sent from or received at. Thread-safe. The counters
-/// saturate at their largest value, and there is one entry for each address of an interface.
+/// Counters by the local address that a message was sent from or received at. Thread-safe. The counters stay
+/// at their largest value. A message whose local address is unknown (empty) does not appear in a report.
 class SearchCounters
 {
 public:
     /// Resets all counters, for the start of a search.
     void clear();
 
-    /// Counts a request to a group; `error` is the system's error number, 0 if the request was sent.
+    /// Counts a request to a group. `error` is the system's error number, 0 if the request was sent. A
+    /// request with an error is not counted as sent; the report has the last error.
     void noteRequest(const std::string &localAddress, int error);
+    /// Counts a received message, whether it is used or discarded.
     void noteMessage(const std::string &localAddress);
+    /// Counts a message or an announcement that did not lead to a reported device.
     void noteDiscarded(const std::string &localAddress, SearchDiscard reason);
 
-    /// Counts a request to a single address; `error` as above.
+    /// Counts a request to a single address. `error` is the system's error number, 0 if the request was sent.
     void noteAskedAddress(int error);
+    /// Counts a device that was reported by a search of single addresses.
     void noteRespondingAddress();
 
-    /// Fills a report of `interfaces` and of the found `devices`. Loopback interfaces are omitted unless
-    /// there are no others.
+    /// Replaces `report` by the counters, for `interfaces` and the found `devices`. Interfaces after the
+    /// first `maximumReportedInterfaces` are omitted, and so are loopback interfaces unless there are no
+    /// others.
     void fill(SearchReport &report, const std::vector<InterfaceState> &interfaces,
               const std::vector<ReportedDevice> &devices) const;
 

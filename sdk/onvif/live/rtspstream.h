@@ -17,24 +17,27 @@
 
 namespace sdk::onvif {
 
-/// One live stream with its thread, on which both handlers run. Video in H.264, H.265 or MJPEG and sound in
-/// G.711, AAC or PCM are written unchanged to the container of streams::MatroskaWriter; other tracks are
-/// dropped. A stream starts with a key frame. It starts again, with another header, when the size or the
-/// parameters of its frames change.
+/// One live stream with its thread, on which both handlers run. The first video track in H.264, H.265 or
+/// MJPEG and the first sound track in G.711, AAC or PCM are written unchanged to the container of
+/// streams::MatroskaWriter. Other tracks are dropped. The data start with a header and a key frame. They
+/// start again, with another header, when the size or the parameters of the frames change.
 ///
-/// A refused password is not sent again. The transport is interleaved in the connection of the session, or
-/// UDP for a device that does not support that.
+/// A refused password is not sent again. The RTP transport is interleaved in the connection of the session,
+/// or UDP for a device that does not support interleaved transport.
 class RtspStream
 {
 public:
-    /// Receives the next bytes of the container: a header or a complete packet. They are valid during the
-    /// call, which should be short, since no data are received meanwhile.
+    /// Receives the next bytes of the container: complete packets. A header precedes the first packet in the
+    /// same call. The bytes are valid during the call, which should be short, since no data are received
+    /// meanwhile.
     using DataHandler = std::function<void(std::span<const std::uint8_t> bytes)>;
 
-    /// Called once, after the last data. `text` describes the reason in English, for logs, without secrets.
+    /// Called once, after the last data, for every reason including StreamEnd::Stopped. `text` describes the
+    /// reason in English, for logs, without secrets; it may be empty.
     using EndHandler = std::function<void(StreamEnd end, const std::string &text)>;
 
-    /// Starts the stream and returns immediately. Throws std::system_error when no thread can be created.
+    /// Starts the stream and returns immediately. Errors of `order` are reported as the end of the stream.
+    /// Throws std::system_error when no thread can be created. The handlers must not be empty.
     RtspStream(RtspOrder order, DataHandler dataHandler, EndHandler endHandler);
 
     /// As stop().
@@ -42,7 +45,8 @@ public:
     RtspStream(const RtspStream &) = delete;
     RtspStream &operator=(const RtspStream &) = delete;
 
-    /// Blocks until the device plays (nothing is returned) or the stream has ended, slightly longer than
+    /// Blocks until the device plays a usable stream, and then returns nothing, also if the stream has ended
+    /// since. If the stream ends before, returns the reason. Blocks slightly longer than
     /// RtspTimeouts::response at most. For any thread, but not for a handler.
     [[nodiscard]] std::optional<StreamEnd> waitForResponse();
 
@@ -52,8 +56,9 @@ public:
     /// Requests the end of the stream as stop() does, and returns immediately. For any thread.
     void requestStop() { m_thread.request_stop(); }
 
-    /// Ends the stream with StreamEnd::Stopped, unless it has already ended, and returns within a fraction of
-    /// a second. No handler runs after the call. For one thread at a time, but not for a handler.
+    /// Ends the stream with StreamEnd::Stopped, unless it has already ended. Blocks until the thread has
+    /// ended, a fraction of a second and the duration of a running handler at most. No handler runs after the
+    /// call. For one thread at a time, but not for a handler.
     void stop();
 
 private:

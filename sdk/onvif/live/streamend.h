@@ -9,25 +9,26 @@ enum class StreamEnd
 {
     Stopped,           ///< by its owner
     BadUrl,            ///< not an rtsp:// URL with a numeric address, or too long
-    BadAccount,        ///< the account or the password cannot be sent: too long, or an invalid character
-    Refused,           ///< wrong account or password
+    BadAccount,        ///< the account or the password was not sent: too long, or an invalid character
+    Refused,           ///< wrong account or password, or a login that the device no longer accepts
     NotFound,          ///< the device has no such stream
     Busy,              ///< the device has reached its limit of streams
     Rejected,          ///< the device responded with another error, such as a missing right
     ConnectionRefused, ///< the port is closed
     Unreachable,       ///< there is no route to the address
     NoResponse,        ///< the device did not respond in time
-    Redirected,        ///< the device redirects to another address, which is not used
-    Oversized,         ///< the response exceeds the limits of a session
+    Redirected,        ///< the device announces another address for the session or the data; it is not used
+    Oversized,         ///< a response exceeds the limits of ReplyWatch
     Malformed,         ///< the response is not RTSP
-    Unsupported,       ///< no decodable video track, or no common transport
-    NoKeyFrame,        ///< no key frame arrived in time
-    NoData,            ///< no more frames arrived
+    Unsupported,       ///< no decodable video track, no common transport, or no login method but plain text
+                       ///< or an unknown digest
+    NoKeyFrame,        ///< no key frame arrived within RtspTimeouts::keyFrame
+    NoData,            ///< no video packet arrived for RtspTimeouts::silence
     Ended,             ///< the device ended the stream or the connection
-    Failed,            ///< a failure of this host
+    Failed,            ///< a failure of this host: no memory, or the container cannot be written
 };
 
-/// The name of a reason, in English, for logs.
+/// The reason as a short English phrase, such as "no key frame", for logs.
 [[nodiscard]] std::string_view streamEndName(StreamEnd end);
 
 } // namespace sdk::onvif

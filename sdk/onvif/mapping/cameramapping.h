@@ -1,8 +1,9 @@
 // The image settings of a video source by the operations of the imaging service.
 //
-// Channels are counted from 0. The functions fail with NotSupported for a channel, item or group that the
-// device does not have, and with InvalidValue for a block of another size or a value that the device does not
-// offer.
+// Channels are counted from 0. The functions send requests to the device, and block until `deadline` at most.
+// They fail with NotSupported for a device without the imaging service and for a channel, item or group that
+// the device does not have, with InvalidValue for a block of another size or a value that the device does not
+// offer, and with the errors of the requests. A failed reading leaves `block` and `output` unchanged.
 #pragma once
 
 #include "sdk/camerablocks.h"
@@ -17,18 +18,22 @@ namespace sdk::onvif {
 /// have the same values. On failure `error` is set and the text is empty.
 [[nodiscard]] std::string colorConfiguration(OnvifSession &session, int channel,
                                              OnvifSession::Deadline deadline, NetError &error);
-/// Writes the values of CameraMode::Normal.
+/// Writes the values that `text` has for CameraMode::Normal to the source; those of the other modes are
+/// ignored. InvalidValue for an invalid text.
 [[nodiscard]] NetError setColorConfiguration(OnvifSession &session, int channel, std::string_view text,
                                              OnvifSession::Deadline deadline);
 
-/// Reads or writes a CameraItem. CameraItem::Picture can also be written as a VideoColorRecord. `block` is
-/// the item's block of `size` bytes; its size field and its mode, if any, are set by the caller.
+/// These read and write one CameraItem, whose number is `item`. `block` is the item's block of `size` bytes;
+/// its size field and its mode, if any, are set by the caller. CameraItem::Picture can also be written as a
+/// VideoColorRecord, of which CameraMode::Normal is written. CameraItem::ChannelName needs a media service
+/// instead of the imaging service; it may be read from profiles of up to OnvifSession::recently ago.
 [[nodiscard]] NetError cameraItem(OnvifSession &session, std::uint32_t item, int channel, void *block,
                                   std::uint32_t size, OnvifSession::Deadline deadline);
 [[nodiscard]] NetError setCameraItem(OnvifSession &session, std::uint32_t item, int channel,
                                      const void *block, std::uint32_t size, OnvifSession::Deadline deadline);
 
-/// Fills `output` from the options that the device reports for the source.
+/// Fills `output`, whose size field is set by the caller, from the options that the device reports for the
+/// source of `input.channel`.
 [[nodiscard]] NetError cameraCapabilities(OnvifSession &session, const CameraCapabilityInput &input,
                                           CameraCapabilities &output, OnvifSession::Deadline deadline);
 

@@ -1,4 +1,5 @@
-// Numbers of codecs and formats, and their names in the standard.
+// Numbers of codecs and formats in blocks (encodeblocks.h), and their names in the standard. The names are
+// those of VideoEncoder and AudioEncoder, in upper and lower case as there.
 #pragma once
 
 #include <cstdint>
@@ -9,16 +10,18 @@ namespace sdk::onvif {
 
 /// The compression code of an encoding ("H264"); -1 for one without a code.
 [[nodiscard]] int compressionOf(std::string_view encoding);
-/// The encoding of a compression code; empty for one that the standard does not have.
+/// The encoding of a compression code; empty for a code that the standard does not have.
 [[nodiscard]] std::string encodingOf(int compression);
 
-/// 1 to 4 for the profiles of H.264; 0 for any other string.
+/// The number of a profile of H.264: 1 "Baseline", 2 "Main", 3 "Extended", 4 "High"; 0 for any other string.
 [[nodiscard]] int profileNumber(std::string_view profile);
-/// The name of such a number, "Baseline" for 1; empty for any other number.
+/// The profile of H.264 with that number; empty for any other number.
 [[nodiscard]] std::string profileName(int number);
 
-/// The numbers of an audio format in configurations and in capabilities; 0 for an encoding without a number.
+/// The number of an audio encoding in AudioCompressionItem::format; 0 for an encoding without a number.
 [[nodiscard]] int audioFormatOf(std::string_view encoding);
+/// The number of the same encoding in EncodeCapabilityBlock::audioFormats, which differs; 0 for an encoding
+/// without a number.
 [[nodiscard]] int audioCapabilityOf(std::string_view encoding);
 
 } // namespace sdk::onvif

@@ -1,12 +1,13 @@
-// The time zone numbers of devices.
+// The time zone numbers of devices, see NtpRecord::timeZone.
 #pragma once
 
 namespace sdk::onvif {
 
-/// Minutes ahead of UTC of a time zone's number, 0 to NtpRecord::timeZones - 1; 0 for any other number.
+/// The minutes that the time zone `number` is ahead of UTC, negative for a zone behind UTC. Numbers are 0 to
+/// NtpRecord::timeZones - 1; any other number gives 0.
 [[nodiscard]] int timeZoneOffset(int number);
 
-/// The number of the zone that is `minutesAhead` of UTC; -1 if there is none.
+/// The number of the zone that is `minutesAhead` of UTC; -1 if no zone has this offset.
 [[nodiscard]] int timeZoneNumber(int minutesAhead);
 
 } // namespace sdk::onvif

@@ -1,4 +1,7 @@
 // The device service (ONVIF Core, chapter 8): identity, network, users, clock and maintenance of a device.
+//
+// Strings from a device are truncated after 256 bytes, except URLs, and lists after 64 entries. A value that
+// the device does not report is empty or 0.
 #pragma once
 
 #include "sdk/onvif/services/serviceresult.h"
@@ -37,10 +40,10 @@ struct DateTime
 struct DeviceClock
 {
     bool followsNtp = false;
-    bool daylightSaving = false; ///< the zone's rule is applied
-    std::string timeZone = {};   ///< POSIX 1003.1 string, empty if the device does not report it
-    std::optional<DateTime> utc = {};
-    std::optional<DateTime> local = {};
+    bool daylightSaving = false;        ///< the zone's rule is applied
+    std::string timeZone = {};          ///< POSIX 1003.1 string, empty if the device does not report it
+    std::optional<DateTime> utc = {};   ///< nothing if it is not reported or invalid
+    std::optional<DateTime> local = {}; ///< the same
 };
 
 /// One network interface of a device.
@@ -48,11 +51,13 @@ struct DeviceInterface
 {
     std::string token = {};
     bool isEnabled = true;
-    std::string mac = {}; ///< as canonicalMac() writes it
+    std::string mac = {}; ///< as canonicalMac() writes it; empty if unknown
     bool hasIPv4 = false; ///< IPv4 is configured and enabled
     bool dhcp = false;
-    std::string address = {}; ///< the IPv4 address in use; empty if there is none
-    int prefixLength = 0;     ///< of `address`; 0 if not reported
+    /// The IPv4 address in use: with DHCP the leased one, otherwise the manual or the link-local one. Empty
+    /// if there is none.
+    std::string address = {};
+    int prefixLength = 0; ///< of `address`; 0 if not reported
     std::vector<std::string> ipv6Addresses = {};
 };
 
@@ -71,7 +76,7 @@ struct DeviceUser
 
 struct NtpSettings
 {
-    bool fromDhcp = false;
+    bool fromDhcp = false;   ///< the device gets its server by DHCP
     std::string server = {}; ///< an address or a name: the manual server, otherwise the one from DHCP
 };
 
@@ -80,56 +85,62 @@ struct FirmwareUpload
 {
     ServiceAddress address = {};
     std::chrono::seconds delay{0};    ///< to wait before sending
-    std::chrono::seconds downTime{0}; ///< offline time afterwards, 0 if not reported
+    std::chrono::seconds downTime{0}; ///< offline time after the upload, 0 if not reported
 };
 
-/// Operations of one device. Each blocks until the response has arrived or `deadline` has passed. Used by one
-/// thread; several objects may share the client.
+/// Operations of one device. Each blocks until the response has arrived or `deadline` has passed.
+/// SoapResponse and SoapClient state the errors. Used by one thread; several objects may share the client.
 class DeviceService
 {
 public:
     using Deadline = SoapClient::Deadline;
 
-    /// Both must outlive the object.
+    /// `client` and `address` must outlive the object.
     DeviceService(SoapClient &client, const ServiceAddress &address, Deadline deadline);
 
-    // Without the login.
+    // Without the login. WrongPassword means that the device requires a login.
 
     [[nodiscard]] ServiceResult<DeviceClock> clockOpenly();
-    /// Succeeds on a device without an administrator. Some devices with an administrator also respond, with
-    /// all their users or with none.
+    /// Succeeds on a device without an administrator. Most devices with an administrator refuse the request;
+    /// some respond with all their users or with an empty list.
     [[nodiscard]] ServiceResult<std::vector<DeviceUser>> usersOpenly();
     [[nodiscard]] ServiceResult<std::vector<DeviceInterface>> interfacesOpenly();
     [[nodiscard]] ServiceOutcome createAdministratorOpenly(const std::string &name,
                                                            const std::string &password);
 
-    // With the login.
+    // With the login of the client, if the device requires one.
 
     [[nodiscard]] ServiceResult<DeviceInformation> information();
     [[nodiscard]] ServiceResult<DeviceClock> clock();
-    /// Sends `utc` only if the clock does not follow NTP, and the zone only if it is not empty. `local` is
-    /// not sent.
+    /// Sends whether the clock follows NTP, and the switch of daylight saving. Sends `utc` only if it is set
+    /// and the clock does not follow NTP. Sends the zone only if it is not empty. `local` is not sent.
     [[nodiscard]] ServiceOutcome setClock(const DeviceClock &clock);
-    /// URLs of the services by namespace. The older operation is used for a device without the newer one.
+    /// The URLs of the services, as the device knows them, by namespace. If the request fails for another
+    /// reason than the login or a timeout, an older operation is requested, which some devices have instead.
     [[nodiscard]] ServiceResult<std::map<std::string, std::string>> services();
     [[nodiscard]] ServiceResult<std::vector<DeviceInterface>> interfaces();
+    /// The first IPv4 gateway; empty if the device has none.
     [[nodiscard]] ServiceResult<std::string> defaultGateway();
     [[nodiscard]] ServiceResult<std::vector<DeviceProtocol>> protocols();
     [[nodiscard]] ServiceResult<std::vector<DeviceUser>> users();
+    /// Sets the password and the level of the account `user.name`. The password of the client is not changed,
+    /// see SoapClient::setPassword().
     [[nodiscard]] ServiceOutcome setPassword(const DeviceUser &user, const std::string &password);
     [[nodiscard]] ServiceResult<NtpSettings> ntp();
-    /// Sends the server only if it is not empty and not from DHCP.
+    /// Sends the source of the server, and the server only if it is not empty and not from DHCP.
     [[nodiscard]] ServiceOutcome setNtp(const NtpSettings &settings);
     [[nodiscard]] ServiceResult<std::string> hostName();
 
-    /// Sets the IPv4 address and prefix length of `interface`, or DHCP. The value is true if the device must
-    /// be rebooted before they are in use.
+    /// Sends the token of `interface` with DHCP, or with the IPv4 address and the prefix length. Enables the
+    /// interface and IPv4. The value is true if the device must be rebooted before the settings are in use.
     [[nodiscard]] ServiceResult<bool> setAddress(const DeviceInterface &interface);
+    /// Sets the IPv4 gateway. With an empty `address`, the request contains no gateway.
     [[nodiscard]] ServiceOutcome setDefaultGateway(const std::string &address);
     [[nodiscard]] ServiceOutcome reboot();
     /// Resets all settings to the factory defaults, including the network settings.
     [[nodiscard]] ServiceOutcome resetCompletely();
-    /// ProtocolMismatch if the response contains no usable address for the upload.
+    /// Asks the device to prepare an upgrade, and returns the parameters of the upload. ProtocolMismatch if
+    /// the response contains no usable address for the upload.
     [[nodiscard]] ServiceResult<FirmwareUpload> startFirmwareUpgrade();
 
 private:
@@ -141,8 +152,8 @@ private:
     const Deadline m_deadline;
 };
 
-/// A duration of XML Schema ("PT5S", "PT1M30S") in whole seconds. Years and months count as 0. A longer
-/// duration than a day is limited to a day. 0 for an invalid string.
+/// A duration of XML Schema ("PT5S", "PT1M30S") in whole seconds, rounded down, at most one day. Years,
+/// months and unknown units count as 0. 0 for an invalid string and for a negative duration.
 [[nodiscard]] std::chrono::seconds xmlDuration(std::string_view text);
 
 } // namespace sdk::onvif

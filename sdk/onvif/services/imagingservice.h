@@ -1,4 +1,6 @@
 // The imaging service (ONVIF Imaging): image, exposure and similar settings of a video source.
+//
+// A number without a stated unit is in the range that ImagingOptions has for it.
 #pragma once
 
 #include "sdk/onvif/services/serviceresult.h"
@@ -18,13 +20,15 @@ struct ImagingRange
     [[nodiscard]] bool isUsable() const { return maximum > minimum; }
 };
 
-/// A mode by name ("OFF", "ON", "AUTO", "MANUAL") with a level.
+/// A mode by name ("OFF", "ON", "AUTO") with a level. The level is empty if the device does not report it,
+/// and is then not sent.
 struct ModeAndLevel
 {
     std::string mode = {};
     std::optional<double> level = {};
 };
 
+/// An empty number is one that the source does not report, or that is not changed.
 struct ExposureSettings
 {
     std::string mode = {};                  ///< "AUTO" or "MANUAL"
@@ -36,6 +40,7 @@ struct ExposureSettings
     std::optional<double> gain = {};        ///< dB, of MANUAL
 };
 
+/// An empty gain is one that the source does not report, or that is not changed.
 struct WhiteBalanceSettings
 {
     std::string mode = {}; ///< "AUTO" or "MANUAL"
@@ -57,8 +62,8 @@ struct ImagingSettings
     std::optional<WhiteBalanceSettings> whiteBalance = {};
     std::string irCutFilter = {}; ///< "ON" (colour), "OFF" (black and white), "AUTO"; empty for none
     std::optional<ModeAndLevel> stabilisation = {};
-    std::optional<ModeAndLevel> defogging = {};
-    std::optional<double> noiseReduction = {}; ///< 0 to 1
+    std::optional<ModeAndLevel> defogging = {}; ///< the level is 0 to 1
+    std::optional<double> noiseReduction = {};  ///< 0 to 1
 };
 
 /// The options of a video source. An empty list of modes or an unusable range means that the source does not
@@ -90,7 +95,9 @@ struct ImagingOptions
     bool hasNoiseReduction = false;
 };
 
-/// Operations of the imaging service. Used by one thread; several objects may share the client.
+/// Operations of the imaging service, with the login of the client. `sourceToken` is
+/// MediaProfile::sourceToken. Each operation blocks until the response has arrived or `deadline` has passed.
+/// SoapResponse and SoapClient state the errors. Used by one thread; several objects may share the client.
 class ImagingService
 {
 public:
@@ -102,7 +109,7 @@ public:
     [[nodiscard]] ServiceResult<ImagingSettings> settings(const std::string &sourceToken);
     [[nodiscard]] ServiceResult<ImagingOptions> options(const std::string &sourceToken);
 
-    /// Writes the non-empty settings, persistently; the device keeps the others.
+    /// Writes the non-empty settings. The device stores them persistently and keeps the others.
     [[nodiscard]] ServiceOutcome setSettings(const std::string &sourceToken, const ImagingSettings &settings);
 
 private:

@@ -1,3 +1,4 @@
+// The form of MAC addresses in this folder.
 #pragma once
 
 #include <string>

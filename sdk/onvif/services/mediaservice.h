@@ -1,5 +1,5 @@
 // The media services (ONVIF Media and Media 2): profiles of video sources, and the addresses of their
-// streams.
+// streams. "The older service" is Media, "the newer service" is Media 2.
 #pragma once
 
 #include "sdk/onvif/services/serviceresult.h"
@@ -11,19 +11,19 @@
 
 namespace sdk::onvif {
 
-/// The settings of a video encoder.
+/// The settings of a video encoder. A number or string that the device does not report is 0 or empty.
 struct VideoEncoder
 {
     std::string token = {};
     std::string encoding = {}; ///< "JPEG", "H264", "H265", "MPEG4"
     int width = 0;
     int height = 0;
-    double frameRate = 0;     ///< frames per second, 0 if the device does not report it
-    int bitRate = 0;          ///< kbit/s
-    int keyInterval = 0;      ///< frames from one key frame to the next
-    double quality = 0;       ///< in the range of VideoEncodingOptions
-    std::string profile = {}; ///< "Baseline", "Main", "Extended", "High", ...
-    bool constantBitRate = false;
+    double frameRate = 0;         ///< frames per second
+    int bitRate = 0;              ///< kbit/s
+    int keyInterval = 0;          ///< frames from one key frame to the next
+    double quality = 0;           ///< in the range of VideoEncodingOptions
+    std::string profile = {};     ///< of the codec: "Baseline", "Main", "Extended", "High", ...
+    bool constantBitRate = false; ///< always false in the older service
 };
 
 /// The settings of an audio encoder.
@@ -41,18 +41,18 @@ struct MediaProfile
 {
     std::string token = {};
     std::string name = {};
-    std::string sourceToken = {};         ///< of the video source, empty for a profile without video
-    std::string sourceConfiguration = {}; ///< token of the source's settings
-    std::string sourceName = {};          ///< name of these settings, editable by users
-    std::optional<VideoEncoder> video = {};
-    std::optional<AudioEncoder> audio = {};
+    std::string sourceToken = {};           ///< of the video source, empty for a profile without video
+    std::string sourceConfiguration = {};   ///< token of the source's settings
+    std::string sourceName = {};            ///< name of these settings, editable by users
+    std::optional<VideoEncoder> video = {}; ///< nothing for a profile without a video encoder
+    std::optional<AudioEncoder> audio = {}; ///< nothing for a profile without sound
 };
 
 /// The media service that is used for a device.
 enum class MediaVersion
 {
-    First,
-    Second, ///< has everything that the first has, and H.265
+    First,  ///< the older service
+    Second, ///< the newer service, with H.265
 };
 
 /// The options of a video encoder for one encoding. Numbers that the device does not report are 0.
@@ -67,8 +67,8 @@ struct VideoEncodingOptions
     int maximumKeyInterval = 0;                  ///< frames
     double minimumQuality = 0;
     double maximumQuality = 0;
-    std::vector<std::string> profiles = {};
-    bool offersConstantBitRate = false;
+    std::vector<std::string> profiles = {}; ///< as VideoEncoder::profile
+    bool offersConstantBitRate = false;     ///< always false in the older service
 };
 
 /// The options of an audio encoder for one encoding.
@@ -79,7 +79,9 @@ struct AudioEncodingOptions
     std::vector<int> sampleRates = {}; ///< kHz
 };
 
-/// Operations of a media service. Used by one thread; several objects may share the client.
+/// Operations of a media service, with the login of the client. Each blocks until the response has arrived or
+/// `deadline` has passed. SoapResponse and SoapClient state the errors. Used by one thread; several objects
+/// may share the client.
 class MediaService
 {
 public:
@@ -88,29 +90,38 @@ public:
     /// `client` and `address` must outlive the object.
     MediaService(SoapClient &client, const ServiceAddress &address, MediaVersion version, Deadline deadline);
 
-    /// Reads the profiles; those after the first `maximumProfiles` are ignored.
+    /// Reads all profiles of the device; those after the first `maximumProfiles` are ignored.
     static constexpr std::size_t maximumProfiles = 2048;
     [[nodiscard]] ServiceResult<std::vector<MediaProfile>> profiles();
 
-    /// The RTSP URL of a stream. The client chooses the transport of RTP: interleaved or UDP.
+    /// The RTSP URL of a stream, unchecked: it contains the device's address as the device knows it. It is
+    /// valid for RTP interleaved in the connection and for RTP over UDP.
     [[nodiscard]] ServiceResult<std::string> streamUrl(const std::string &profileToken);
+    /// The URL of a JPEG image of the stream over HTTP, unchecked as well.
     [[nodiscard]] ServiceResult<std::string> snapshotUrl(const std::string &profileToken);
 
     /// Requests that the stream continues with a key frame.
     [[nodiscard]] ServiceOutcome requestKeyFrame(const std::string &profileToken);
 
-    // Encoders. `profileToken` is the profile that the encoder belongs to.
+    // Encoders. `profileToken` is the profile that the encoder belongs to. A list has one entry for each
+    // encoding that the encoder supports.
 
     [[nodiscard]] ServiceResult<std::vector<VideoEncodingOptions>>
     videoOptions(const std::string &encoderToken, const std::string &profileToken);
     [[nodiscard]] ServiceResult<std::vector<AudioEncodingOptions>>
     audioOptions(const std::string &encoderToken, const std::string &profileToken);
 
-    /// Reads the encoder's settings, changes those that differ from `encoder`, and writes them back; the
-    /// device's other settings are kept.
+    // The next three read the settings from the device, change them, and write all of them back. So the other
+    // settings are kept, except settings outside the standard, which are not sent. They fail with
+    // ProtocolMismatch, without writing, if the device does not return the settings of the token.
+
+    /// Changes the encoder `encoder.token`. An empty profile and a key interval of 0 are not written. The
+    /// frame rate and the bit rate are not written to a device that does not report a rate control.
     [[nodiscard]] ServiceOutcome setVideoEncoder(const VideoEncoder &encoder);
+    /// Changes the encoder `encoder.token`.
     [[nodiscard]] ServiceOutcome setAudioEncoder(const AudioEncoder &encoder);
 
+    /// Changes MediaProfile::sourceName. `configurationToken` is MediaProfile::sourceConfiguration.
     [[nodiscard]] ServiceOutcome setSourceName(const std::string &configurationToken,
                                                const std::string &name);
 
@@ -132,7 +143,9 @@ private:
     const Deadline m_deadline;
 };
 
-/// Reads the settings of an encoder from an element of either service.
+// These read the settings of an encoder from its element in a response of either service. Missing children
+// leave their members empty or 0.
+
 [[nodiscard]] VideoEncoder readVideoEncoder(const XmlElement &element);
 [[nodiscard]] AudioEncoder readAudioEncoder(const XmlElement &element);
 

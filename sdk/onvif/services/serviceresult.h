@@ -9,13 +9,13 @@
 
 namespace sdk::onvif {
 
-/// The returned value of an operation, or its error.
+/// The returned value of an operation, or its error. SoapResponse and SoapClient state the errors.
 template<typename Value>
 struct ServiceResult
 {
     NetError error = NetError::None;
-    std::string reason = {}; ///< the text of the device's fault, for a log
-    Value value = {};        ///< empty on an error
+    std::string reason = {}; ///< the text of the device's fault, for a log; empty without a fault
+    Value value = {};        ///< default-constructed on an error
 
     [[nodiscard]] bool isOk() const { return error == NetError::None; }
 };
@@ -26,8 +26,8 @@ struct Nothing
 };
 using ServiceOutcome = ServiceResult<Nothing>;
 
-/// The error of a response, or the value that `read` returns for its content. A response of another operation
-/// is a protocol mismatch.
+/// The error of `response`, or the value that `read` returns for its content. `read` is called only if the
+/// content is the element `expected` in the namespace `uri`. Any other content is ProtocolMismatch.
 template<typename Read>
 [[nodiscard]] auto resultOf(const SoapResponse &response, std::string_view uri, std::string_view expected,
                             Read read) -> ServiceResult<decltype(read(response.content))>

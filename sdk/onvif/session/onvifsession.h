@@ -16,22 +16,26 @@
 
 namespace sdk::onvif {
 
-/// The profiles of one video source.
+/// A video source with the profiles of its main and its sub stream.
 struct MediaChannel
 {
     std::string sourceToken = {};
-    std::string mainProfile = {}; ///< token; never empty
-    std::string subProfile = {};  ///< token; empty if the source has one profile only
+    std::string mainProfile = {}; ///< token
+    std::string subProfile = {};  ///< token; empty if all profiles of the source have the same encoder
 };
 
-/// Thread-safe. Operations on one device are independent requests and need no order.
+/// A login at a device. The properties that open() reads do not change later. Thread-safe: operations on one
+/// device are independent requests and need no order. The destructor sends nothing.
 class OnvifSession
 {
 public:
     using Deadline = SoapClient::Deadline;
 
-    /// Logs in. On failure `error` is set and the result is null. NotSupported for a device without an
-    /// administrator, and for a device that returns everything, including its users, without a login.
+    /// Logs in and reads the properties of the device. Blocks until `deadline` at most. `error` is set in
+    /// either case; on failure the result is null. SoapResponse and SoapClient state the errors. NotSupported
+    /// for a device without an administrator, and for a device that returns everything, including its users,
+    /// without a login: the password cannot be checked there. A device without media services has a session
+    /// without channels.
     [[nodiscard]] static std::shared_ptr<OnvifSession> open(const ServiceAddress &service,
                                                             const HttpLogin &login,
                                                             const std::shared_ptr<HttpClient> &http,
@@ -43,11 +47,14 @@ public:
     [[nodiscard]] SoapClient &client() { return *m_client; }
     [[nodiscard]] DeviceService device(Deadline deadline) { return {*m_client, m_service, deadline}; }
 
-    /// The newer media service, otherwise the older one; nothing if the device has neither.
+    /// The newer media service, otherwise the older one; nothing if the device has neither. The session must
+    /// outlive the object.
     [[nodiscard]] std::optional<MediaService> media(Deadline deadline);
+    /// Nothing if the device does not have the service.
     [[nodiscard]] std::optional<ServiceAddress> imagingService() const { return m_imaging; }
     [[nodiscard]] std::optional<ServiceAddress> deviceIoService() const { return m_deviceIo; }
 
+    /// The device service that the session was opened with.
     [[nodiscard]] const ServiceAddress &service() const { return m_service; }
     [[nodiscard]] const DeviceInformation &information() const { return m_information; }
 
@@ -55,26 +62,28 @@ public:
     static constexpr std::size_t maximumChannels = 1024;
     [[nodiscard]] const std::vector<MediaChannel> &channels() const { return m_channels; }
 
-    /// The present profiles of the device.
+    /// Requests the profiles from the device. NotSupported for a device without a media service.
     [[nodiscard]] ServiceResult<std::vector<MediaProfile>> profiles(Deadline deadline);
 
-    /// The profiles, which may be up to `recently` old. The cache serves the items of a page and the names of
-    /// all channels, which are read one after another, each from all profiles.
+    /// The profiles of the last request if it was made within `recently`, otherwise those of a new request.
+    /// The cache serves the items of a page and the names of all channels, which are read one after another,
+    /// each from all profiles.
     static constexpr std::chrono::seconds recently{2};
     [[nodiscard]] ServiceResult<std::vector<MediaProfile>> recentProfiles(Deadline deadline);
 
-    /// Invalidates the cache of recentProfiles(), after a setting of a profile was written.
+    /// Clears the cache of recentProfiles(). To be called after a setting of a profile was written.
     void clearProfiles();
 
-    /// Marks the session as ended, because the device reboots. The sessions end in every provider, although a
-    /// device of this type gets the login with each request and would continue to accept it.
+    /// Marks the session as ended, because the device reboots. The object itself does not evaluate the mark:
+    /// the library refuses later calls. Sessions end at a reboot in every implementation of NetLibrary. An
+    /// ONVIF device gets the login with each request and would continue to accept it.
     void end() { m_hasEnded = true; }
     [[nodiscard]] bool hasEnded() const { return m_hasEnded; }
 
-    /// The calls that run on the session.
+    /// The calls that run on the session. Their cancellation does not affect later calls.
     [[nodiscard]] RunningCalls &calls() { return m_calls; }
 
-    /// Ends every call; later calls fail.
+    /// Ends the running calls, for the end of the session. Later calls fail with NetworkFailure.
     void cancel();
 
 private:
@@ -101,8 +110,10 @@ private:
     int m_profileChanges = 0; ///< number of calls of clearProfiles()
 };
 
-/// The video sources of `profiles` in their order. The main profile of a source is the one with the largest
-/// frame; the second profile is the largest one that has another encoder. Profiles without video are ignored.
+/// The video sources of `profiles` in the order of their first profiles, at most
+/// OnvifSession::maximumChannels. The main profile of a source is the one with the largest frame area. The
+/// sub profile is the largest one that has another encoder than the main profile. Profiles without a video
+/// source or a video encoder are ignored.
 [[nodiscard]] std::vector<MediaChannel> channelsOf(const std::vector<MediaProfile> &profiles);
 
 } // namespace sdk::onvif

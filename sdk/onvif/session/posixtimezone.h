@@ -22,16 +22,19 @@ struct PosixTimeZone
 
     [[nodiscard]] bool hasDaylightSaving() const { return !daylightName.empty(); }
 
-    /// The POSIX string. Names with characters other than letters are quoted: "<+08>-8".
+    /// The POSIX string. Names with characters other than letters are quoted: "<+08>-8". The string has no
+    /// form for a switch on a day of the month (DaylightSavingPoint::byDate): the 8th to the 14th, for
+    /// instance, become the second Sunday. Nothing is checked: values outside their ranges give an invalid
+    /// string.
     [[nodiscard]] std::string text() const;
 
-    /// Minutes ahead of UTC at a local standard time.
+    /// The minutes that local time is ahead of UTC at a valid local standard time, with daylight saving.
     [[nodiscard]] int offsetAt(const DateTime &standardTime) const;
 };
 
-/// Nothing if the name or the offset of standard time is invalid. A zone whose rule is missing, invalid or in
-/// days of the year ("J60", "59") is read without daylight saving. A switch at a time outside 0:00 to 23:59
-/// is read as 2:00.
+/// Reads a POSIX string. Nothing if the name or the offset of standard time is invalid. A zone whose rule of
+/// daylight saving is missing, invalid or in days of the year ("J60", "59") is read without daylight saving.
+/// A switch at a time outside 0:00 to 23:59 is read as 2:00.
 [[nodiscard]] std::optional<PosixTimeZone> readPosixTimeZone(std::string_view text);
 
 } // namespace sdk::onvif

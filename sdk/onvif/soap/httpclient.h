@@ -22,15 +22,16 @@ enum class HttpEnd
     Responded,   ///< with any status
     NotReached,  ///< no host responds at the address within 3 s or before the deadline
     NotAccepted, ///< the host at the address refuses the connection
-    NoResponse,  ///< no complete response before the deadline
-    TooLarge,    ///< the response exceeds HttpClient::largestResponse
+    NoResponse,  ///< no complete response before the deadline, or the deadline had passed before the call
+    TooLarge,    ///< the body exceeds HttpClient::largestResponse, or the headers exceed 64 KiB
     Broken,      ///< the connection ended early, or the response is not HTTP
-    Cancelled,
-    UnknownCertificate, ///< over HTTPS: the user has not accepted the key of the certificate; nothing was
+    Cancelled,   ///< by HttpClient::cancel() or a stop of the thread's RunningCall
+    UnknownCertificate, ///< over HTTPS: the user has not accepted the key of the certificate; no request was
                         ///< sent
-    ChangedCertificate, ///< the same for a device with another stored key
+    ChangedCertificate, ///< over HTTPS: another key is stored for the device; no request was sent
 };
 
+/// The result of an exchange. With an `end` other than HttpEnd::Responded, the other members are unspecified.
 struct HttpResponse
 {
     HttpEnd end = HttpEnd::NotReached;
@@ -45,39 +46,43 @@ struct HttpLogin
     std::string password = {};
 };
 
-/// Sends requests to one device. Thread-safe: each running request has a separate connection, which is kept
-/// for later requests. Redirections are not followed: they could send a password to another address.
+/// Sends requests to devices, usually to one. Thread-safe: each running request has a separate connection,
+/// which is kept for later requests. Redirections are not followed: they could send a password to another
+/// address. The proxy of the environment is not used.
 class HttpClient
 {
 public:
-    static constexpr std::size_t largestResponse = std::size_t(4) * 1024 * 1024;
+    static constexpr std::size_t largestResponse = std::size_t(4) * 1024 * 1024; ///< bytes of the body
 
-    /// `decision` decides about the certificates of HTTPS; without it all are refused.
+    /// `decision` decides about the certificates of HTTPS; if it is null, all are refused.
     explicit HttpClient(std::shared_ptr<const CertificateDecision> decision = {});
     ~HttpClient();
     HttpClient(const HttpClient &) = delete;
     HttpClient &operator=(const HttpClient &) = delete;
 
-    /// Blocks until the response has arrived, `deadline` has passed, cancel() is called or the thread's
-    /// RunningCall is stopped. With `login` (null for none), a challenge of the device is answered once by
-    /// HTTP Digest (RFC 7616), and never by Basic, which would send the password.
+    /// Sends a POST request. Blocks until the response has arrived, `deadline` has passed, cancel() is called
+    /// or the RunningCall of the calling thread is stopped. The request is sent without a login first. With
+    /// `login` (null for none), a challenge of the device is answered once by HTTP Digest (RFC 7616), and
+    /// never by Basic, which would send the password in plain text. A refused login is a response with the
+    /// status 401.
     [[nodiscard]] HttpResponse post(const ServiceAddress &address, const std::string &body,
                                     const std::string &contentType, const HttpLogin *login,
                                     std::chrono::steady_clock::time_point deadline);
 
-    /// Fetches the resource at `address`, under the same rules.
+    /// Sends a GET request for the resource at `address`. The rest is as for post().
     [[nodiscard]] HttpResponse get(const ServiceAddress &address, const HttpLogin *login,
                                    std::chrono::steady_clock::time_point deadline);
 
-    /// Sends a local file as the body of a POST request. `progress`, if not empty, is called repeatedly on
-    /// this thread with the number of sent bytes; it starts again if the file is sent again with a login.
-    /// HttpEnd::Broken if the file cannot be read. The response must arrive before `deadline`.
+    /// Sends a local file as the body of a POST request. The rest is as for post(). `progress`, if not empty,
+    /// is called repeatedly on the calling thread with the number of sent bytes. The number starts again at 0
+    /// if the device requests a login and the file is sent again. HttpEnd::Broken if the file cannot be read.
     [[nodiscard]] HttpResponse postFile(const ServiceAddress &address, const std::string &fileName,
                                         const HttpLogin *login,
                                         const std::function<void(std::int64_t sent)> &progress,
                                         std::chrono::steady_clock::time_point deadline);
 
-    /// Ends the running requests; later requests fail.
+    /// Ends the running requests with HttpEnd::Cancelled, without waiting for them. Later requests end in the
+    /// same way. Cannot be undone.
     void cancel();
     [[nodiscard]] bool isCancelled() const { return m_isCancelled; }
 

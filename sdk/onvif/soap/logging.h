@@ -1,3 +1,4 @@
+// The category of all log messages of sdk/onvif.
 #pragma once
 
 #include <QLoggingCategory>

@@ -6,8 +6,9 @@
 
 namespace sdk::onvif {
 
-/// One call on its caller's thread; it lasts as long as the object. Waits for the device on that thread end
-/// when stopOfThisThread() is stopped.
+/// One call on the thread that creates and destroys the object; it lasts as long as the object. A thread has
+/// at most one object at a time. When `stop` is stopped by any thread, waits for the device on the call's
+/// thread end: HttpClient and LiveStream::start() check it.
 class RunningCall
 {
 public:
@@ -27,7 +28,8 @@ public:
     /// The stop token for a call that starts now.
     [[nodiscard]] std::stop_token stop() const;
 
-    /// Stops the running calls; later calls are not affected.
+    /// Stops the tokens that stop() has returned before, without waiting for the calls to end. Tokens of
+    /// later calls are not affected.
     void cancel();
 
 private:

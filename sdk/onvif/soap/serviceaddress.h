@@ -11,11 +11,12 @@ namespace sdk::onvif {
 struct ServiceAddress
 {
     bool isSecure = false; ///< HTTPS
-    std::string host = {}; ///< an address without brackets
+    std::string host = {}; ///< an address without brackets, or a name
     int port = 80;
-    std::string path = "/onvif/device_service"; ///< with its query
+    std::string path = "/onvif/device_service"; ///< begins with "/"; with its query
     std::string identity = {};                  ///< the device's MAC, otherwise its UUID; empty if unknown
 
+    /// The URL with the port, without the identity.
     [[nodiscard]] std::string url() const;
     [[nodiscard]] bool operator==(const ServiceAddress &) const = default;
 };
@@ -31,8 +32,9 @@ inline constexpr int httpsPort = 443;
     return port == httpsPort || port == otherHttpsPort;
 }
 
-/// Reads an absolute http or https URL. Nothing for any other scheme, and for a URL with an account, with
-/// control characters or spaces, without a host or with an invalid port.
+/// Reads an absolute http or https URL; the identity is empty. Nothing for any other scheme, and for a URL
+/// with an account, with spaces, control or non-ASCII characters, without a host, with an invalid port, or of
+/// more than 2048 bytes.
 [[nodiscard]] std::optional<ServiceAddress> serviceAddressOf(std::string_view url);
 
 /// The address of the service at `url` for a client that reached the device at `reached`. The host is always
@@ -43,7 +45,7 @@ inline constexpr int httpsPort = 443;
 /// Nothing if serviceAddressOf(url) is nothing.
 [[nodiscard]] std::optional<ServiceAddress> serviceAt(const ServiceAddress &reached, std::string_view url);
 
-/// "[...]" around an IPv6 address.
+/// `host` as a URL contains it: an IPv6 address gets brackets, any other host is unchanged.
 [[nodiscard]] std::string bracketed(std::string_view host);
 
 } // namespace sdk::onvif

@@ -27,68 +27,84 @@ enum class LoginMethod
 };
 
 /// The response to a call.
+///
+/// Errors of the connection: ConnectFailed for a closed port, ConnectTimeout for a device that is not reached
+/// or does not respond in time, UnknownCertificate, ChangedCertificate, NetworkFailure for a broken or
+/// cancelled exchange. Errors of the device: WrongPassword, AccountLocked, NotSupported for an unknown
+/// operation, InvalidValue for refused parameters, Refused for any other fault. ProtocolMismatch for a
+/// response that is too large or not of the protocol.
 struct SoapResponse
 {
     NetError error = NetError::None;
-    bool mayLackRight = false; ///< the fault may mean a wrong password or a missing right
-    std::string reason = {};   ///< the text of a fault, for a log
-    std::unique_ptr<XmlDocument> document = {};
-    XmlElement content = {}; ///< the first element of the body; empty on failure
+    bool mayLackRight = false;                  ///< the fault may mean a wrong password or a missing right
+    std::string reason = {};                    ///< the text of a fault, for a log; empty without a fault
+    std::unique_ptr<XmlDocument> document = {}; ///< owns the elements of `content`
+    XmlElement content = {};                    ///< the first element of the body; empty on failure
 
     [[nodiscard]] bool isOk() const { return error == NetError::None; }
 };
 
-/// Calls operations of one device with one account. Several threads may use it.
+/// Calls operations of one device with one account. Thread-safe, except setClockReader().
 ///
-/// The first request that needs a login is sent without one: the refusal contains the device's login method.
-/// So a wrong password is sent once, not once for each method. Until the device has accepted the password,
-/// one call at a time sends it. After the device has refused the password, no further call sends it: each
-/// fails with WrongPassword, with SessionEnded if the password was accepted before, or with AccountLocked.
+/// Every request is sent without the login until the device refuses one: the refusal contains the device's
+/// login method. So a wrong password is sent once, not once for each method. Until the device has accepted
+/// the password, one call at a time runs. After the device has refused the password, no further call sends
+/// anything: each fails with WrongPassword, with SessionEnded if the password was accepted before, or with
+/// AccountLocked.
 ///
-/// A refusal applies to the password that was sent: if it has been changed meanwhile, the call is repeated.
-/// If the password was accepted before, two other causes are excluded first. The clock of the device may have
-/// been set, which invalidates tokens: the clock is read again. The account may lack the right for the
-/// operation: the device then still accepts the operation that first succeeded with the password, and the
-/// call fails with Refused.
+/// A refusal applies to the password that was sent: if setPassword() has changed it meanwhile, the call is
+/// repeated. If the password was accepted before, two other causes are excluded first. The clock of the
+/// device may have been set, which invalidates tokens: the clock is read again, and the call is repeated if
+/// the clock differs. The account may lack the right for the operation: the operation that first succeeded
+/// with the password is then repeated. If the device still accepts it, the call fails with Refused, and later
+/// calls send the password.
 class SoapClient
 {
 public:
     using Deadline = std::chrono::steady_clock::time_point;
 
-    /// Reads the device's clock without a login. Returns its time minus the time of this host.
+    /// Reads the device's clock without a login. Returns its time minus the time of this host; nothing on
+    /// failure. Called on the thread of a call.
     using ClockReader = std::function<std::optional<std::chrono::milliseconds>(Deadline deadline)>;
 
     SoapClient(HttpLogin login, std::shared_ptr<HttpClient> http);
 
-    /// To be set before the first call.
+    /// To be set before the first call. Without a reader, the clock is not read again.
     void setClockReader(ClockReader reader) { m_readClock = std::move(reader); }
 
-    /// A call with the login, where the device needs one.
+    /// Sends `request` with the login, if the device needs one. Blocks until `deadline` at most, or until the
+    /// RunningCall of the calling thread is stopped.
     [[nodiscard]] SoapResponse call(const ServiceAddress &service, const SoapRequest &request,
                                     Deadline deadline);
 
-    /// A call that never sends the login.
+    /// A call that never sends the login, and that is sent even after a refusal of the password.
+    /// WrongPassword means that the device requires a login. Its result does not affect later calls.
     [[nodiscard]] SoapResponse callOpenly(const ServiceAddress &service, const SoapRequest &request,
                                           Deadline deadline);
 
     /// Sets the time of the device minus the time of this host, for the token.
     void setClockOffset(std::chrono::milliseconds offset) { m_clockOffset = offset.count(); }
 
-    /// While the lock is held, refusals are not evaluated. Used by a call that changes the password, until it
-    /// has called setPassword().
+    /// While a thread holds the lock, calls of other threads wait before they evaluate a refusal. Used by a
+    /// call that changes the password at the device, until it has called setPassword(). The client must
+    /// outlive the lock.
     [[nodiscard]] std::unique_lock<std::recursive_mutex> delayRefusals() { return std::unique_lock(m_order); }
 
-    /// Sets the password of later calls, after it was changed in this session.
+    /// Sets the password of later calls, after it was changed at the device. A different password clears the
+    /// refusal of the previous one.
     void setPassword(const std::string &password);
 
     /// True if the device has accepted the password in a call.
     [[nodiscard]] bool isConfirmed() const { return m_isConfirmed; }
 
-    /// The error of every further call, after the device has refused the password.
+    /// The error of every further call, after the device has refused the password; nothing before.
     [[nodiscard]] std::optional<NetError> refusal() const;
 
-    /// Notes that the device has refused `refused` in another protocol, such as RTSP.
+    /// Notes that the device has refused `refused` in another protocol, such as RTSP. Without effect if the
+    /// login of the client is no longer `refused`.
     void setRefused(const HttpLogin &refused);
+
+    /// The present account and password.
     [[nodiscard]] HttpLogin login() const;
     [[nodiscard]] HttpClient &http() { return *m_http; }
 

@@ -12,37 +12,39 @@
 
 namespace sdk::onvif {
 
-/// FFmpeg's RTP depacketizers deliver H.264 and H.265 as fragments of the stream's units. A frame is complete
-/// when the first slice of the next frame arrives, or when the owner calls finish(). Frames of other codecs
-/// arrive complete. Used by one thread.
+/// FFmpeg's RTP depacketizers deliver H.264 and H.265 as fragments of the stream's units, with start codes. A
+/// frame is complete when the first slice of the next frame arrives, or when the owner calls finish(). Frames
+/// of other codecs arrive complete and are delivered immediately. Used by one thread.
 class FrameAssembler
 {
 public:
-    /// `bytes` are followed by AV_INPUT_BUFFER_PADDING_SIZE zeros, and are valid during the call. `time` is
-    /// the time of the frame's first fragment.
+    /// Receives a complete frame. `bytes` are followed by AV_INPUT_BUFFER_PADDING_SIZE zeros, and are valid
+    /// during the call. `time` is the timestamp of the frame's first fragment.
     using Handler = std::function<void(std::span<const std::uint8_t> bytes, std::int64_t time)>;
 
-    /// No camera sends larger frames.
+    /// A larger frame of H.264 or H.265 is dropped. No camera sends such frames.
     static constexpr std::size_t mostBytes = std::size_t{8} * 1024 * 1024;
 
     FrameAssembler(AVCodecID codec, Handler handler) : m_codec(codec), m_handler(std::move(handler)) {}
 
-    /// Appends the next fragment, and delivers the frame before it if that is now complete.
+    /// Appends the next fragment, and delivers the frame before it if that frame is now complete. `time` is
+    /// the fragment's timestamp, in any unit or AV_NOPTS_VALUE. The handler runs during the call.
     void add(std::span<const std::uint8_t> fragment, std::int64_t time);
 
     /// True if finish() would deliver a frame.
     [[nodiscard]] bool hasFrame() const { return m_hasSlices; }
 
-    /// Delivers the received fragments as a complete frame. Later fragments of it are dropped.
+    /// Delivers the received fragments as a complete frame, if they contain a slice. The rest of a frame that
+    /// arrives later is dropped.
     void finish();
 
 private:
     /// The destination of the next fragment.
     enum class Destination
     {
-        None, ///< dropped: the start of its unit is missing
-        Frame,
-        Following,
+        None,      ///< dropped: the start of its unit is missing
+        Frame,     ///< `m_frame`
+        Following, ///< `m_following`
     };
 
     void addUnits(std::span<const std::uint8_t> units, const StreamUnit &first, std::int64_t time);

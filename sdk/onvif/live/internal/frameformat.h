@@ -10,23 +10,24 @@
 
 namespace sdk::onvif {
 
-/// Follows the size and the parameters of a track from frame to frame. Used by one thread.
+/// Follows the frame size and the parameter sets of a video track from frame to frame. Used by one thread.
 class FrameFormat
 {
 public:
-    /// `track` has the parameters of the stream's description. Returns null for a codec that no decoder port
-    /// supports.
+    /// `track` has the parameters of the stream's description, and is copied. Returns null for a codec other
+    /// than H.264, H.265 and MJPEG, which no decoder port supports, and when memory is exhausted.
     [[nodiscard]] static std::unique_ptr<FrameFormat> of(const AVCodecParameters &track);
 
-    /// Checks a complete frame, followed by AV_INPUT_BUFFER_PADDING_SIZE zeros. Returns true if decoding can
-    /// start with it and all required parameters are known.
+    /// To be called with every frame: takes its size and parameter sets. `frame` is complete, and followed by
+    /// AV_INPUT_BUFFER_PADDING_SIZE zeros. Returns true for a key frame, if its size and all parameter sets
+    /// that a decoder needs are known from this frame, earlier ones or the description.
     [[nodiscard]] bool examine(std::span<const std::uint8_t> frame);
 
-    /// The parameters of the track according to its frames. Valid after examine() has returned true; null
-    /// when memory is exhausted.
+    /// The parameters of the track with the size and the parameter sets of its frames. Valid after examine()
+    /// has returned true; null when memory is exhausted.
     [[nodiscard]] streams::AvPointer<AVCodecParameters> parameters() const;
 
-    /// True if `other` is equivalent for a decoder.
+    /// True if `other`, an earlier result of parameters(), has the present size and parameter sets.
     [[nodiscard]] bool isSame(const AVCodecParameters &other) const;
 
 private:

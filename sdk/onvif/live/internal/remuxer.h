@@ -14,38 +14,44 @@
 
 namespace sdk::onvif {
 
-/// Used by one thread, except `mustRestart`.
+/// Assembles the frames of a video track, and writes them and the packets of a sound track to the container.
+/// Everything before the first key frame is dropped. Used by one thread, except `mustRestart`.
 class Remuxer
 {
 public:
+    /// Receives the bytes of the container: complete packets, after a header if one is due. They are valid
+    /// during the call. Called by add(), deliverWaiting() and finish().
     using BytesHandler = std::function<void(std::span<const std::uint8_t>)>;
 
-    /// A frame counts as complete if the next one does not follow within this time. It is longer than the
-    /// delay of a connection after a lost packet, and longer than the interval of frames at more than three
-    /// frames per second.
+    /// A frame counts as complete if no fragment follows within this time. The time is longer than the delay
+    /// of a connection after a lost packet, and longer than the interval of frames at more than three frames
+    /// per second.
     static constexpr std::chrono::milliseconds longestWait{300};
 
     /// `sound` is null for a stream without sound. The tracks must outlive the remuxer. Any thread may set
-    /// `mustRestart` to request a new header at the next key frame; the remuxer resets it with that header.
-    /// Returns null for a codec that no decoder port supports.
+    /// `mustRestart`, which must outlive the remuxer, to request a new header at the next key frame. The
+    /// remuxer resets it with that header. Returns null for a video codec that no decoder port supports. If
+    /// the description of the sound is incomplete, the container has no sound.
     [[nodiscard]] static std::unique_ptr<Remuxer> of(const AVStream &video, const AVStream *sound,
                                                      std::atomic<bool> &mustRestart, BytesHandler handler);
     Remuxer(const Remuxer &) = delete;
     Remuxer &operator=(const Remuxer &) = delete;
 
-    /// Adds a packet of any track. Returns true if it belongs to the video track.
+    /// Adds a packet of any track of the session, with its timestamp in the time base of its track. The
+    /// packet stays the caller's. Returns true if it belongs to the video track.
     bool add(const AVPacket &packet);
 
-    /// To be called repeatedly while no data arrive.
+    /// Writes the present frame if no fragment has followed within `longestWait`. To be called repeatedly
+    /// while no data arrive.
     void deliverWaiting();
 
-    /// To be called after the last packet.
+    /// Writes the present frame. To be called after the last packet.
     void finish() { m_assembler.finish(); }
 
     /// True after the first key frame.
     [[nodiscard]] bool hasBegun() const { return m_writer != nullptr; }
 
-    /// True if the container could not be written.
+    /// True if the container could not be written. The owner then ends the stream.
     [[nodiscard]] bool hasFailed() const { return m_hasFailed; }
 
 private:

@@ -15,27 +15,29 @@ namespace sdk::onvif {
 /// challenges of HTTP Digest it uses the last one, and it supports MD5 only. It logs each line of a response
 /// before it acts on it, so the lines are read from its log: the session is interrupted before FFmpeg acts on
 /// a harmful line, and unsupported challenges are hidden from FFmpeg. An object receives all log lines of the
-/// thread that created it, and is used by that thread only.
+/// thread that created it from its construction to its destruction, and is used by that thread only. It ends
+/// nothing by itself: the session polls objection().
 class ReplyWatch
 {
 public:
-    static constexpr int mostHeaderLines = 100;
-    static constexpr long mostContentBytes = 65536;
-    static constexpr int mostTracks = 32;
+    static constexpr int mostHeaderLines = 100;     ///< of one response
+    static constexpr long mostContentBytes = 65536; ///< announced by one response
+    static constexpr int mostTracks = 32;           ///< of the session
 
-    /// `host` is the numeric address of the device.
+    /// `host` is the numeric address of the device, without brackets.
     explicit ReplyWatch(std::string host);
 
-    /// The reason to end the session; nothing while there is none.
+    /// The reason to end the session; nothing while there is none. The first reason remains.
     [[nodiscard]] std::optional<StreamEnd> objection() const { return m_objection; }
 
-    /// The text of the objection, for logs.
+    /// A description of the objection in English, for logs; empty without an objection.
     [[nodiscard]] const std::string &text() const { return m_text; }
 
-    /// To be called when the device plays. From then on, a challenge for the login is a refusal.
+    /// To be called when the device plays. From then on, a response with the status 401 to a request with the
+    /// login is a refusal. One 401 because of an expired nonce is accepted: FFmpeg repeats the request.
     void notePlaying() { m_isPlaying = true; }
 
-    /// The status of the last response, 0 before the first one.
+    /// The RTSP status of the last response, 0 before the first one.
     [[nodiscard]] int status() const { return m_status; }
 
 private:

@@ -13,42 +13,45 @@
 
 namespace sdk::onvif {
 
-/// FFmpeg's RTSP client with limits of time, of size and of the addresses that it may connect to. Used by one
-/// thread.
+/// FFmpeg's RTSP client with limits of time, of size and of the addresses that it may connect to. Used by the
+/// thread that creates it.
 class RtspSession
 {
 public:
     using Time = std::chrono::steady_clock::time_point;
 
-    /// `whenWaiting` is called by read() about ten times per second while no data arrive.
+    /// `stop` ends the session with StreamEnd::Stopped. `whenWaiting` is called by read() about ten times per
+    /// second while no data arrive, and also between data.
     RtspSession(RtspAddress address, const RtspTimeouts &timeouts, std::stop_token stop,
                 std::function<void()> whenWaiting);
 
-    /// Sends TEARDOWN with a short timeout, except after a refused password.
+    /// Closes the session. Sends TEARDOWN with a timeout of 0.2 s, except after a refused password.
     ~RtspSession();
     RtspSession(const RtspSession &) = delete;
     RtspSession &operator=(const RtspSession &) = delete;
 
-    /// Blocks until the device plays. Returns false on failure; end() then has the reason.
+    /// To be called once. Blocks until the device plays, RtspTimeouts::response has passed or `stop` is
+    /// stopped. Returns false on failure; end() then has the reason.
     [[nodiscard]] bool open();
 
-    /// The first track in one of these encodings; null if there is none.
+    /// The first track in one of these encodings; null if there is none. To be called after open() has
+    /// returned true. The track is valid as long as the session.
     [[nodiscard]] const AVStream *track(AVMediaType type, std::initializer_list<AVCodecID> codecs) const;
 
-    /// Blocks until a packet of any track has arrived. Returns false after the end of the session; end() then
-    /// has the reason.
+    /// Blocks until a packet of any track has arrived; the caller unreferences it. Returns false after the
+    /// end of the session, also when a timeout has passed or `stop` is stopped; end() then has the reason.
     [[nodiscard]] bool read(AVPacket &packet);
 
-    /// To be called after a video packet has arrived.
+    /// To be called after each video packet: starts RtspTimeouts::silence again.
     void noteVideoPacket() { m_dataBy = std::chrono::steady_clock::now() + m_timeouts.silence; }
 
-    /// To be called after the first key frame.
+    /// To be called after the first key frame: ends RtspTimeouts::keyFrame.
     void noteKeyFrame() { m_keyFrameBy.reset(); }
 
     /// The reason of the session's end. Valid after open() or read() has returned false.
     [[nodiscard]] StreamEnd end() const { return m_end.value_or(StreamEnd::Failed); }
 
-    /// A description of the reason for logs, without secrets.
+    /// A description of the reason in English for logs, without secrets; empty for StreamEnd::Stopped.
     [[nodiscard]] const std::string &text() const { return m_text; }
 
 private:

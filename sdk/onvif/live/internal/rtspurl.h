@@ -16,11 +16,13 @@ struct RtspAddress
     std::string url;  ///< with account and password: must never reach a log
 };
 
-/// Checks the URL and the account of an order. Returns their error, or nothing. On an error, `address` is set
-/// as far as the URL could be read.
+/// Checks the URL and the account of an order against the rules of RtspOrder, and fills `address`. Returns
+/// StreamEnd::BadUrl or BadAccount on an error, otherwise nothing. On an error, `address` is set as far as
+/// the URL could be read.
 [[nodiscard]] std::optional<StreamEnd> readAddress(const RtspOrder &order, RtspAddress &address);
 
-/// True if both strings are the same numeric address.
+/// True if both strings are the same numeric address, regardless of its spelling and of an interface behind
+/// "%". False if one of them is not a numeric address.
 [[nodiscard]] bool isSameAddress(const std::string &one, const std::string &other);
 
 } // namespace sdk::onvif

@@ -1,4 +1,4 @@
-// The NAL units of H.264 and H.265 streams.
+// The NAL units of H.264 and H.265 streams with start codes (three or four bytes).
 #pragma once
 
 #include "sdk/streams/avpointers.h"
@@ -18,12 +18,12 @@ enum class ParameterSet
     Picture,
 };
 
-/// The start of a unit.
+/// The start of a unit in a span of bytes.
 struct StreamUnit
 {
-    std::size_t offset = 0;   ///< of its start code
-    std::size_t codeSize = 0; ///< of the start code
-    std::size_t headSize = 0; ///< of start code and header
+    std::size_t offset = 0;   ///< of its start code in the span
+    std::size_t codeSize = 0; ///< bytes of the start code
+    std::size_t headSize = 0; ///< bytes of the start code and the unit's header
     ParameterSet parameterSet = ParameterSet::None;
     bool isSlice = false;
     /// For a slice: it is the first one of its frame. For other units: after a slice, the unit belongs to the
@@ -31,10 +31,11 @@ struct StreamUnit
     bool startsFrame = false;
 };
 
-/// The first unit in `bytes` with a start code and a header; nothing if there is none.
+/// The first unit in `bytes` with a start code and a header; nothing if there is none. `codec` is H.264 or
+/// H.265.
 [[nodiscard]] std::optional<StreamUnit> firstUnit(std::span<const std::uint8_t> bytes, AVCodecID codec);
 
-/// The first slice among the units of `bytes`.
+/// The first slice among the units of `bytes`; nothing if there is none.
 [[nodiscard]] std::optional<StreamUnit> firstSlice(std::span<const std::uint8_t> bytes, AVCodecID codec);
 
 } // namespace sdk::onvif
