@@ -19,25 +19,30 @@ struct TlsPeer
 };
 
 /// Makes a handle of libcurl accept only the certificates that the decision trusts. Devices create their own
-/// certificates, so the public key decides instead of a certificate authority. The handshake ends at a
-/// refused key, before the first byte of a request is sent.
+/// certificates, so the public key decides instead of a certificate authority; host name and validity are not
+/// checked. The handshake ends at a refused key, before the first byte of a request is sent.
 ///
 /// Used by the thread of the transfers. It must outlive every transfer of the handle.
 class CertificateCheck
 {
 public:
-    /// Without a decision every certificate is refused.
+    /// `decision` must outlive the object. If it is null, every certificate is refused.
     CertificateCheck(const CertificateDecision *decision, TlsPeer peer);
     CertificateCheck(const CertificateCheck &) = delete;
     CertificateCheck &operator=(const CertificateCheck &) = delete;
 
-    /// Sets the options of a handle of libcurl; after curl_easy_reset() again.
+    /// Sets the options of `curlHandle`, a CURL pointer. To be repeated after curl_easy_reset(), which clears
+    /// them. If the TLS library of libcurl lacks the option, the handle keeps the check by certificate
+    /// authorities, which refuses the devices' own certificates.
     void attachTo(void *curlHandle);
 
-    /// The verdict that ended the last handshake; nothing if no handshake was ended by its certificate.
+    /// The verdict of the last handshake if it was ended by its certificate; nothing if the certificate was
+    /// accepted or none has been checked.
     [[nodiscard]] std::optional<CertificateVerdict> refusal() const { return m_refusal; }
 
-    /// Called during the handshake with the certificate of the device; null for none.
+    /// Called by libcurl during the handshake with the certificate of the device; null for none. Returns
+    /// false to end the handshake, and sets refusal(). A certificate whose key cannot be read is refused as
+    /// Unknown.
     [[nodiscard]] bool accepts(const x509_st *shown);
 
 private:

@@ -7,13 +7,17 @@
 
 namespace sdk {
 
-/// Shared by all TLS connections. Thread-safe. Without a handler every certificate is Unknown.
+/// The handler that decides about certificates. Shared by the TLS connections of its owner. Thread-safe.
 class CertificateDecision
 {
 public:
+    /// Replaces the handler; null removes it. `user` is passed to each call of `handler`. Calls of the
+    /// previous handler may still run after the return, so its `user` must stay valid until the connections
+    /// have ended.
     void setHandler(CertificateHandler handler, void *user);
 
-    /// Calls the handler on the calling thread.
+    /// Calls the handler on the calling thread, and returns its verdict. Without a handler every certificate
+    /// is CertificateVerdict::Unknown, which means refused.
     [[nodiscard]] CertificateVerdict verdictOn(const DeviceCertificate &certificate) const;
 
 private:

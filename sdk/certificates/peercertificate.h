@@ -7,8 +7,9 @@ struct x509_st;
 
 namespace sdk {
 
-/// The fingerprint of the public key, the subject and the validity; the device's address is not set. The
-/// fingerprint is empty for a certificate whose key cannot be read.
+/// The size, the fingerprint of the public key, the subject and the validity of `certificate`, which is an
+/// X509 pointer of OpenSSL and not null. Port, address and identity of the result are not set. The
+/// fingerprint is empty if the key cannot be read. Control characters of the subject are replaced by spaces.
 [[nodiscard]] DeviceCertificate readPeerCertificate(const x509_st *certificate);
 
 } // namespace sdk
