@@ -6,9 +6,11 @@
 //   NetInit = DevicesInit
 //   NetCleanup = 2
 //
-// There is a section for each library: network, configuration, decoder and agent. `file` is looked up in the
-// folder of the binding file. Each other line maps a function (entrypoints.h) to the name of its entry, or on
-// Windows to its ordinal.
+// There is a section for each library: network, configuration, decoder and agent. The value of `file` is
+// looked up in the folder of the binding file. Each other line maps a function (entrypoints.h) to the name of
+// its entry in the library, or on Windows to its ordinal. Empty lines and lines that begin with "#" are
+// ignored, and so are spaces around names and values. Of several lines with the same name, the last one
+// counts.
 #pragma once
 
 #include "sdk/binding/bindingproblem.h"
@@ -22,15 +24,16 @@ namespace sdk::binding {
 
 struct BindingSection
 {
-    std::string library = {};                        ///< UTF-8
-    std::map<std::string, std::string> entries = {}; ///< names or ordinals, by function
+    std::string library = {};                        ///< the value of `file`, UTF-8; empty if it is missing
+    std::map<std::string, std::string> entries = {}; ///< names or ordinals of entries, by function
 };
 
-/// By name.
+/// The sections by their names.
 using BindingSections = std::map<std::string, BindingSection>;
 
-/// The sections of the file; FileUnreadable or LineUnusable on failure. Unknown sections and functions are
-/// not detected here.
+/// Reads the sections of the file. Fails with FileUnreadable, or with LineUnusable for a line that is not a
+/// section, not an entry with a name and a value, or before the first section. Missing and unknown sections
+/// and functions are not detected here.
 [[nodiscard]] std::variant<BindingSections, BindingProblem>
 readBindingFile(const std::filesystem::path &file);
 

@@ -6,11 +6,13 @@
 //
 //   bool                     int32_t, 0 or 1
 //   a reference              a pointer, never null
-//   std::chrono::milliseconds  int32_t
+//   std::chrono::milliseconds  int32_t milliseconds, limited to 0 and the largest value
 //   an enumeration           the integer that it is based on
-//   std::string_view         for a name: a pointer, ended by a zero; for a text: a pointer and uint32_t bytes
+//   std::string_view         for a name: a pointer, ended by a zero; for a text: a pointer without an ending
+//                            zero, and its number of bytes as uint32_t
 //
-// Blocks and handlers are passed unchanged.
+// Blocks and handlers are passed unchanged. The headers of the interfaces state threads, errors and
+// lifetimes. The functions have the C calling convention of the system.
 #pragma once
 
 #include "sdk/decoderlibrary.h"
@@ -110,18 +112,19 @@
 
 namespace sdk::binding {
 
-/// A function of a library.
+/// A function of a library, for the search of its address.
 struct EntryPoint
 {
-    const char *name;
-    void *pointer; ///< address of the function pointer to set
+    const char *name; ///< of the operation, as in the interface
+    void *pointer;    ///< address of the function pointer to set
 };
 
 // NOLINTBEGIN(bugprone-macro-parentheses): declarations and parameter lists cannot have parentheses.
 #define SDK_ENTRY_POINTER(result, name, parameters) result(*name) parameters = nullptr;
 #define SDK_ENTRY_POINT(result, name, parameters) {#name, &name},
 // NOLINTEND(bugprone-macro-parentheses)
-// A structure with a function pointer for each entry of a table, and all of them as a list.
+// A structure with a function pointer for each entry of a table, null until it is set. all() lists the
+// entries; their pointers are valid as long as the structure is at the same place.
 #define SDK_ENTRY_POINTS_OF(structure, TABLE)                                                                \
     struct structure                                                                                         \
     {                                                                                                        \

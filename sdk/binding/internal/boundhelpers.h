@@ -1,5 +1,9 @@
-// The interfaces of the configuration library, the decoder library and the port agent, implemented by C
-// functions.
+// The interfaces of the configuration library, the decoder library and the port agent, implemented by the C
+// functions of closed libraries.
+//
+// Each operation calls the C function of the same name on the calling thread, with its parameters translated
+// as entrypoints.h states. The closed library defines its threads and errors. All pointers of the entries
+// must be set.
 #pragma once
 
 #include "sdk/binding/entrypoints.h"

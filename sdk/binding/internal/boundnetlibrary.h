@@ -1,11 +1,13 @@
-// The network library's interface, implemented by C functions.
+// The network library's interface, implemented by the C functions of a closed library.
 #pragma once
 
 #include "sdk/binding/entrypoints.h"
 
 namespace sdk::binding {
 
-/// The closed library defines its threads and error codes.
+/// Each operation calls the C function of the same name on the calling thread, with its parameters translated
+/// as entrypoints.h states. The closed library defines its threads and error codes. All pointers of the
+/// entries must be set.
 class BoundNetLibrary : public NetLibrary
 {
 public:

@@ -9,13 +9,15 @@
 
 namespace sdk::binding {
 
-/// In milliseconds. A negative time becomes 0, a longer time than the largest value becomes that value.
+/// The time in milliseconds. A negative time becomes 0, a longer time than the largest value becomes that
+/// value.
 [[nodiscard]] inline std::int32_t cValue(std::chrono::milliseconds time)
 {
     return static_cast<std::int32_t>(
         std::clamp<std::int64_t>(time.count(), 0, std::numeric_limits<std::int32_t>::max()));
 }
 
+/// The integer of an enumerator, in the type that the enumeration is based on.
 template<typename Enumeration>
 requires std::is_enum_v<Enumeration>
 [[nodiscard]] constexpr auto cValue(Enumeration value)
