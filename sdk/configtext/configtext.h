@@ -4,7 +4,9 @@
 //
 //   {"Https": {"enabled": true, "port": 443}}
 //
-// Keys of the inner object without a field in the record are ignored.
+// The names of the configurations and the keys are listed in internal/configtable.cpp and
+// internal/picturetables.h. Keys of the inner object without a field in the record are ignored. The functions
+// may be called from any thread.
 #pragma once
 
 #include <QByteArray>
@@ -15,19 +17,21 @@
 
 namespace sdk {
 
-/// Longer configuration texts are refused.
+/// The largest size in bytes of a text that unpackConfigText() reads.
 inline constexpr std::size_t longestConfigText = std::size_t(512) * 1024;
 
-/// Fills `record` of `recordSize` bytes from the text of the configuration `name`, and its leading size field
-/// with the filled size. Strings that are longer than their field are truncated between two characters. The
-/// fields of missing keys are not changed. Returns the size of the configuration's record in bytes; nothing,
-/// with the record unchanged, when the name is unknown, the record too small, or the text is too long, not
-/// JSON, of another configuration, or has a value of the wrong type or out of range.
+/// Fills `record`, which has `recordSize` bytes, from the text of the configuration `name`. Its leading size
+/// field is set to the size of the configuration's record, which is also the result. Bytes behind this size
+/// and the fields of missing keys are not changed. Strings that are longer than their field are truncated
+/// between two characters. Returns nothing, with the record unchanged, when the name is unknown, the record
+/// null or too small, or the text is too long, not JSON, of another configuration, or has a value of the
+/// wrong type or out of range.
 [[nodiscard]] std::optional<std::uint32_t> unpackConfigText(std::string_view name, std::string_view text,
                                                             void *record, std::uint32_t recordSize);
 
-/// The text of a record of the configuration `name`. Bytes of its strings that are not UTF-8 are replaced.
-/// Returns nothing when the name is unknown, the record too small, or a number is out of range.
+/// The text of a record of the configuration `name`, with every key. The size field of the record is ignored;
+/// `recordSize` counts. Bytes of its strings that are not UTF-8 are replaced by U+FFFD. Returns nothing when
+/// the name is unknown, the record null or too small, or a number is out of range.
 [[nodiscard]] std::optional<QByteArray> packConfigText(std::string_view name, const void *record,
                                                        std::uint32_t recordSize);
 

@@ -5,7 +5,8 @@
 
 namespace sdk {
 
-/// Has no state. configtext.h describes the texts.
+/// Has no state, so any thread may call it. configtext.h describes the texts and the limits. After a failure
+/// of ConfigParseData(), `returnedSize` is 0.
 class ConfigTextLibrary : public ConfigLibrary
 {
 public:

@@ -9,23 +9,23 @@ namespace sdk {
 enum class ConfigFieldKind
 {
     Number,   ///< std::int32_t from `minimum` to `maximum`; an integer in JSON
-    Flag,     ///< std::int32_t 0 or 1; true or false in JSON
+    Flag,     ///< std::int32_t 0 or 1; true or false in JSON; `minimum` is 0, `maximum` 1, also for ByteFlag
     ByteFlag, ///< std::uint8_t 0 or 1; true or false in JSON
     Text,     ///< `size` chars, UTF-8, null-terminated; a string in JSON
     Object,   ///< `inner` fields, whose offsets are relative to this field; an object in JSON
 };
 
-/// One key of a configuration and the field of the record that it fills.
+/// One key of a configuration and the field of the record that it fills. The tables are constants.
 struct ConfigField
 {
-    const char *key;
-    std::size_t offset; ///< in the record
+    const char *key;    ///< in JSON, ASCII
+    std::size_t offset; ///< in the record, in bytes; of an inner field in its object
     ConfigFieldKind kind;
-    std::int32_t minimum = 0;           ///< of a number
-    std::int32_t maximum = 0;           ///< of a number
-    std::size_t size = 0;               ///< of a text, in bytes
-    const ConfigField *inner = nullptr; ///< the fields of an object
-    std::size_t innerCount = 0;
+    std::int32_t minimum = 0;           ///< of a number or flag
+    std::int32_t maximum = 0;           ///< of a number or flag
+    std::size_t size = 0;               ///< of a text with its zero, or of a ByteFlag, in bytes
+    const ConfigField *inner = nullptr; ///< the fields of an object; null for other kinds
+    std::size_t innerCount = 0;         ///< number of fields at `inner`
 };
 
 } // namespace sdk

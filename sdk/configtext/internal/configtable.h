@@ -9,14 +9,15 @@
 
 namespace sdk {
 
+/// The keys of one configuration.
 struct ConfigTable
 {
     std::string_view name;    ///< of the configuration
-    std::uint32_t recordSize; ///< the record starts with its size, a std::uint32_t
+    std::uint32_t recordSize; ///< in bytes; the record starts with its size, a std::uint32_t without a field
     std::span<const ConfigField> fields;
 };
 
-/// Null for an unknown name.
+/// The table of the configuration `name`, a constant; null for an unknown name.
 [[nodiscard]] const ConfigTable *configTable(std::string_view name);
 
 } // namespace sdk

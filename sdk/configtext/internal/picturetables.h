@@ -10,9 +10,11 @@
 
 namespace sdk::picturetables {
 
-constexpr std::int32_t largest = std::numeric_limits<std::int32_t>::max();
-constexpr std::int32_t largestSide = 65535;
+constexpr std::int32_t largest = std::numeric_limits<std::int32_t>::max(); ///< for numbers without a limit
+constexpr std::int32_t largestSide = 65535;                                ///< of a frame, in pixels
 constexpr std::int32_t largestValue = 10000; ///< of a camera's setting with a slider or a list
+
+// Fields of the three kinds that the image configurations need. A number is 0 to `maximum`.
 
 constexpr ConfigField number(const char *key, std::size_t offset, std::int32_t maximum)
 {
@@ -45,6 +47,7 @@ constexpr std::array streamFields = {
     number("samplingFrequency", offsetof(EncodeStreamRecord, samplingFrequency), largest),
 };
 
+/// The offset of a stream in EncodeRecord.
 constexpr std::size_t streamOffset(StreamKind kind)
 {
     return offsetof(EncodeRecord, streams) + static_cast<std::size_t>(kind) * sizeof(EncodeStreamRecord);
@@ -66,6 +69,7 @@ constexpr std::array pictureFields = {
     number("gamma", offsetof(PictureItem, gamma), largestValue),
 };
 
+/// The offset of a mode in VideoColorRecord.
 constexpr std::size_t pictureOffset(CameraMode mode)
 {
     return offsetof(VideoColorRecord, pictures) + static_cast<std::size_t>(mode) * sizeof(PictureItem);
@@ -87,6 +91,7 @@ constexpr std::array lightFields = {
     number("delay", offsetof(MixedLightItem, delay), largestValue),
 };
 
+/// The offset of a mode in LightingRecord.
 constexpr std::size_t lightOffset(CameraMode mode)
 {
     return offsetof(LightingRecord, lights) + static_cast<std::size_t>(mode) * sizeof(MixedLightItem);
