@@ -2,8 +2,9 @@
 //
 // Channels are counted from 0. The functions send requests to the device, and block until `deadline` at most.
 // They fail with NotSupported for a device without the imaging service and for a channel, item or group that
-// the device does not have, with InvalidValue for a block of another size or a value that the device does not
-// offer, and with the errors of the requests. A failed reading leaves `block` and `output` unchanged.
+// the device does not have, with InvalidValue for a block of another size or a mode that the device does not
+// offer, and with the errors of the requests. A written number outside its range is limited to the range; a
+// value that the source lacks is not written. A failed reading leaves `block` and `output` unchanged.
 #pragma once
 
 #include "sdk/camerablocks.h"
