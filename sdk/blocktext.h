@@ -8,7 +8,8 @@
 
 namespace sdk {
 
-/// The string of a field: up to the first zero, or the complete field without one.
+/// The string of a field: the bytes before its first zero, or all bytes of a field without a zero. The result
+/// refers to `field` and is valid as long as `field`.
 template<std::size_t size>
 [[nodiscard]] std::string_view blockText(const std::array<char, size> &field)
 {
@@ -16,10 +17,12 @@ template<std::size_t size>
     return complete.substr(0, complete.find('\0'));
 }
 
-/// Writes `text` into `destination`, which has room for `size` bytes, and fills the rest with zeros. A string
-/// that does not fit with its terminating zero is truncated between two UTF-8 characters.
+/// Writes the UTF-8 string `text` into `destination`, which has room for `size` bytes, and fills the rest
+/// with zeros. The written string always ends with a zero. A string that does not fit is truncated between
+/// two characters. With a `size` of 0 nothing is written.
 void setBlockText(char *destination, std::size_t size, std::string_view text);
 
+/// The same for a field of a block.
 template<std::size_t size>
 void setBlockText(std::array<char, size> &field, std::string_view text)
 {

@@ -1,4 +1,5 @@
-// Admits calls to a library while the library is open, and waits for the last of them to end.
+// Admits calls to a library while the library is open. Closing the library waits until the last call has
+// ended.
 #pragma once
 
 #include <condition_variable>
@@ -7,11 +8,12 @@
 
 namespace sdk {
 
-/// Thread-safe.
+/// Initially closed. Thread-safe.
 class CallGate
 {
 public:
-    /// One call. It lasts as long as this object, which the gate must outlive.
+    /// One call of an operation, created at its start. The call lasts as long as this object. The gate must
+    /// outlive it.
     class Call
     {
     public:
@@ -20,10 +22,11 @@ public:
         Call(const Call &) = delete;
         Call &operator=(const Call &) = delete;
 
-        /// True if the gate was open at the start of the call. Otherwise the call must fail.
+        /// True if the gate was open at the start of the call. If false, the operation must return its
+        /// failure without any other effect; close() waits for such a call, too.
         [[nodiscard]] bool isAllowed() const { return m_isAllowed; }
 
-        /// Stopped when the gate is closed during the call.
+        /// Stopped when the gate is closed during the call. The operation then ends its waits.
         [[nodiscard]] const std::stop_token &stop() const { return m_stop; }
 
     private:
@@ -32,9 +35,11 @@ public:
         std::stop_token m_stop;
     };
 
+    /// Admits the calls that start from now on. No effect on an open gate.
     void open();
 
-    /// Stops the running calls and waits until they have ended. Must not be called during one.
+    /// Refuses the calls that start from now on, stops the running ones and blocks until they have ended.
+    /// Must not be called by a thread that has a Call. open() may follow.
     void close();
 
 private:

@@ -7,10 +7,14 @@
 
 namespace sdk {
 
-/// While the object exists, a call of NetModifyDeviceBySearch on this thread ends early: when a stop is
-/// requested, or when the caller's time is over. A request that changes the device is completed first, if it
-/// is already sent. Other requests end within a fraction of a second on a stop, and a wait for the device at
-/// its new address also when the time is over. A thread has one object at a time.
+/// While the object exists, a call of NetModifyDeviceBySearch on the thread that created it ends early: when
+/// a stop is requested, or when the caller's time is over. Other operations may ignore the object.
+///
+/// - A request that changes the device is completed if it is already sent.
+/// - Any other request ends within a fraction of a second after a stop. The end of the time need not end it.
+/// - The wait for the device at its new address ends after a stop, and when the time is over.
+///
+/// A thread has at most one object at a time, and destroys it itself.
 class CallStop
 {
 public:
@@ -24,11 +28,13 @@ public:
     CallStop(const CallStop &) = delete;
     CallStop &operator=(const CallStop &) = delete;
 
-    // These apply to the calling thread. They may be called without a CallStop.
+    // Implementations call these two. They use the object of the calling thread.
 
-    /// The caller's stop token. `isLate` does not stop it.
+    /// The stop token of the object; a token that is never stopped if the thread has no object. The end of
+    /// the time does not stop it.
     [[nodiscard]] static std::stop_token token() { return current() ? current()->m_stop : std::stop_token(); }
 
+    /// True if the stop was requested or the time is over; false if the thread has no object.
     [[nodiscard]] static bool isRequested()
     {
         const CallStop *const stop = current();

@@ -1,6 +1,9 @@
-// Blocks of the image configuration: the items of a video input, and the capabilities of its camera. Every
-// number is a little-endian word of 32 bits. Before it reads an item, the caller sets its size and, if it has
-// one, its mode.
+// Blocks of the image configuration: the items of a video input, and the capabilities of its camera.
+//
+// Every number is a little-endian word of 32 bits. The caller sets the word "size" of an item to the size of
+// its struct, and the word "mode", if the item has one, to a CameraMode: before reading, to select the
+// settings of that mode, and before writing. A level without a stated range has the range in
+// CameraCapabilities.
 #pragma once
 
 #include <array>
@@ -9,7 +12,8 @@
 
 namespace sdk {
 
-/// The condition in which the settings of an item apply; the word "mode" of the item.
+/// The condition in which the settings of an item apply. A device has separate settings for each mode that
+/// it supports (CameraCapabilities::switchModeMask).
 enum class CameraMode : std::int32_t
 {
     Day = 0,
@@ -19,7 +23,8 @@ enum class CameraMode : std::int32_t
 
 inline constexpr std::size_t cameraModeCount = 3;
 
-/// Item numbers of NetGetItem and NetSetItem that belong to a video input.
+/// Item numbers of NetGetItem and NetSetItem that belong to a video input. NetSetItem also accepts a
+/// VideoColorRecord with the number Picture, which writes the settings of all modes.
 enum class CameraItem : std::uint32_t
 {
     ChannelName = 1108,
@@ -45,7 +50,7 @@ struct ChannelNameItem
 };
 static_assert(sizeof(ChannelNameItem) == 260);
 
-/// CameraItem::Picture. Values are 0 to 100 unless the camera's capabilities say otherwise.
+/// CameraItem::Picture. Brightness to gamma have the range CameraCapabilities::picture, usually 0 to 100.
 struct PictureItem
 {
     std::uint32_t size;
@@ -77,7 +82,7 @@ struct MirrorItem
     std::uint32_t size;
     std::int32_t mode;
     std::int32_t mirror; ///< 0 or 1
-    std::int32_t rotate; ///< 0 normal, 1 and 2 corridor, 3 upside down
+    std::int32_t rotate; ///< 0 normal, 1 and 2 the corridor modes, 3 upside down
     std::int32_t reserved;
 };
 static_assert(sizeof(MirrorItem) == 20);
@@ -100,9 +105,9 @@ struct ExposureItem
     std::int32_t exposure;    ///< 0 automatic, 1 manual, 2 gain priority, 3 shutter priority
     float shortestShutter;    ///< in milliseconds
     float longestShutter;     ///< in milliseconds
-    std::int32_t gain;
-    std::int32_t gainMinimum;
-    std::int32_t gainMaximum;
+    std::int32_t gain;        ///< with a fixed gain; range CameraCapabilities::gain
+    std::int32_t gainMinimum; ///< of an automatic gain; the same range
+    std::int32_t gainMaximum; ///< of an automatic gain; the same range
     std::int32_t compensation;
     std::int32_t irisAutomatic; ///< 0 or 1
     std::array<std::int32_t, 5> reserved;
@@ -110,13 +115,13 @@ struct ExposureItem
 static_assert(sizeof(ExposureItem) == 64);
 static_assert(offsetof(ExposureItem, shortestShutter) == 16);
 
-/// CameraItem::NoiseReduction, which belongs to the exposure.
+/// CameraItem::NoiseReduction. A camera has it only with CameraGroup::Exposure.
 struct NoiseReductionItem
 {
     std::uint32_t size;
     std::int32_t mode;
     std::int32_t type;  ///< 0 off, 1 automatic
-    std::int32_t level; ///< of the reduction over time
+    std::int32_t level; ///< of the reduction over time; range CameraCapabilities::noiseReduction
 };
 static_assert(sizeof(NoiseReductionItem) == 16);
 
@@ -125,11 +130,11 @@ struct BackLightItem
 {
     std::uint32_t size;
     std::int32_t mode;
-    std::int32_t backMode;      ///< 0 off, 1 backlight, 2 wide dynamic range, 3 strong light
-    std::int32_t backLightMode; ///< of backlight compensation: 0 complete image, 1 the region
-    std::int32_t wideDynamic;
-    std::int32_t glareInhibition;
-    std::int32_t regionTop; ///< the region, in 8192ths of the image
+    std::int32_t backMode;        ///< 0 off, 1 backlight, 2 wide dynamic range, 3 strong light
+    std::int32_t backLightMode;   ///< of backlight compensation: 0 complete image, 1 the region
+    std::int32_t wideDynamic;     ///< level of the wide dynamic range
+    std::int32_t glareInhibition; ///< level of the reduction of strong light
+    std::int32_t regionTop;       ///< sides of the region from the upper left, 0 to 8192 (the complete image)
     std::int32_t regionBottom;
     std::int32_t regionLeft;
     std::int32_t regionRight;
@@ -142,9 +147,9 @@ struct WhiteBalanceItem
 {
     std::uint32_t size;
     std::int32_t mode;
-    std::int32_t type; ///< 0 automatic, 1 natural light, 2 street lamp, 3 outdoors, 4 manual, 5 region
-    std::int32_t gainBlue;
-    std::int32_t gainRed;
+    std::int32_t type;     ///< 0 automatic, 1 natural light, 2 street lamp, 3 outdoors, 4 manual, 5 region
+    std::int32_t gainBlue; ///< of the manual type; range CameraCapabilities::whiteBalanceGain
+    std::int32_t gainRed;  ///< the same
     std::array<std::int32_t, 2> reserved;
 };
 static_assert(sizeof(WhiteBalanceItem) == 28);
@@ -156,7 +161,7 @@ struct DayNightItem
     std::int32_t mode;
     std::int32_t type;        ///< 0 colour, 1 automatic, 2 black and white
     std::int32_t sensitivity; ///< 1 low, 2 medium, 3 high
-    std::int32_t switchDelay; ///< in seconds
+    std::int32_t switchDelay; ///< in seconds, 2 to 10
 };
 static_assert(sizeof(DayNightItem) == 20);
 
@@ -166,24 +171,26 @@ struct DefogItem
     std::uint32_t size;
     std::int32_t mode;
     std::int32_t defogMode; ///< 0 off, 1 manual, 2 automatic
-    std::int32_t intensity;
+    std::int32_t intensity; ///< with the manual mode; range CameraCapabilities::defogIntensity
     std::array<std::int32_t, 4> reserved;
 };
 static_assert(sizeof(DefogItem) == 32);
 
-/// CameraItem::Light: cameras with one type of light. It has no mode and always applies.
+/// CameraItem::Light: cameras with one type of light. The item has no mode: its settings apply in every
+/// condition. The levels have the range CameraCapabilities::light.
 struct LightItem
 {
     std::uint32_t size;
     std::int32_t controlMode; ///< 0 off, 1 manual, 2 automatic
     std::int32_t lightMode;   ///< which lamps: 0 near and far, 1 near, 2 far
-    std::int32_t nearLight;
-    std::int32_t farLight;
-    std::int32_t correction;
+    std::int32_t nearLight;   ///< level
+    std::int32_t farLight;    ///< level
+    std::int32_t correction;  ///< level of the light correction
 };
 static_assert(sizeof(LightItem) == 24);
 
-/// CameraItem::MixedLight: cameras with infrared and white light.
+/// CameraItem::MixedLight: cameras with infrared and white light. The levels have the range
+/// CameraCapabilities::mixedLight.
 struct MixedLightItem
 {
     std::uint32_t size;
@@ -191,26 +198,26 @@ struct MixedLightItem
     std::int32_t controlMode; ///< 0 off, 1 manual, 2 automatic
     std::int32_t mixMode;     ///< which lights: 0 infrared, 1 white, 2 selected by the camera
     std::int32_t lightMode;   ///< which lamps: 0 near and far, 1 near, 2 far
-    std::int32_t sensitive;   ///< 1, 3 or 5
-    std::int32_t correction;
-    std::int32_t brightness;
-    std::int32_t delay; ///< in seconds
+    std::int32_t sensitive;   ///< sensitivity: 1 low, 3 medium, 5 high
+    std::int32_t correction;  ///< level of the light correction
+    std::int32_t brightness;  ///< level
+    std::int32_t delay;       ///< in seconds, 0 to 3600
     std::int32_t reserved;
 };
 static_assert(sizeof(MixedLightItem) == 40);
 
-/// Configuration "VideoColor": the image settings of a channel. The first three entries are indexed by
-/// CameraMode; the others belong to times of day and are not used.
+/// Configuration "VideoColor": the image settings of a channel, as CameraItem::Picture. The first three
+/// entries are indexed by CameraMode. The other entries are settings for times of day, and are not used.
 struct VideoColorRecord
 {
     std::uint32_t size;
     std::int32_t reserved;
-    std::array<PictureItem, 24> pictures; ///< their sizes and modes are not part of the configuration
+    std::array<PictureItem, 24> pictures; ///< the words "size" and "mode" of the entries are not used
 };
 static_assert(sizeof(VideoColorRecord) == 1544);
 static_assert(offsetof(VideoColorRecord, pictures) == 8);
 
-/// Configuration "Lighting_V2": the lights of a channel.
+/// Configuration "Lighting_V2": the lights of a channel, as CameraItem::MixedLight.
 struct LightingRecord
 {
     std::uint32_t size;
@@ -220,7 +227,7 @@ struct LightingRecord
 };
 static_assert(sizeof(LightingRecord) == 512);
 
-/// Bits of CameraCapabilities::groups.
+/// Groups of settings, each with the item of the same name. Bit numbers of CameraCapabilities::groups.
 enum class CameraGroup : std::uint32_t
 {
     Picture = 0,
@@ -238,7 +245,8 @@ enum class CameraGroup : std::uint32_t
 
 inline constexpr std::uint32_t cameraGroupCount = 11;
 
-/// The range of a setting. It comes from a device: it may be empty, or `minimum` may exceed `maximum`.
+/// The range of a setting, both ends included. It comes from a device and is not checked: both ends may be
+/// equal, or `minimum` may exceed `maximum`.
 struct ValueRange
 {
     std::int32_t minimum;
@@ -246,7 +254,8 @@ struct ValueRange
 };
 static_assert(sizeof(ValueRange) == 8);
 
-/// Single values of a group that a camera may lack. Bits of CameraCapabilities::missingValues.
+/// Single values of a supported group that a camera may lack. Bit numbers of
+/// CameraCapabilities::missingValues.
 enum class CameraValue : std::uint32_t
 {
     Brightness = 0,
@@ -270,24 +279,25 @@ enum class CameraValue : std::uint32_t
     DefogIntensity,
 };
 
-/// Output of CapabilityQuery::Camera. In a mask, bit N is set if the camera supports value N.
+/// Output of CapabilityQuery::Camera. In a mask, bit N is set if the camera supports the value N of the named
+/// word. Bits of values that this header does not define are ignored.
 struct CameraCapabilities
 {
-    std::uint32_t size;           ///< sizeof(CameraCapabilities), set by the caller
-    std::uint32_t groups;         ///< CameraGroup: bit N is set if the camera has the group
-    std::uint32_t switchModeMask; ///< CameraMode
-    std::uint32_t colorStyleMask;
-    std::uint32_t rotateMask;
-    std::uint32_t antiFlickerMask;
-    std::uint32_t exposureMask;
-    std::uint32_t backModeMask;
-    std::uint32_t whiteBalanceMask;
-    std::uint32_t dayNightMask;
-    std::uint32_t defogMask;
-    std::uint32_t lightControlMask;
-    std::uint32_t mixedLightMask;
-    std::uint32_t missingValues; ///< CameraValue: bit N is set if the camera lacks the value
-    ValueRange picture;          ///< brightness, contrast, saturation, hue, gamma
+    std::uint32_t size;             ///< sizeof(CameraCapabilities), set by the caller
+    std::uint32_t groups;           ///< CameraGroup: bit N is set if the camera has the group
+    std::uint32_t switchModeMask;   ///< CameraMode: the modes with separate settings
+    std::uint32_t colorStyleMask;   ///< PictureItem::colorStyle
+    std::uint32_t rotateMask;       ///< MirrorItem::rotate
+    std::uint32_t antiFlickerMask;  ///< ExposureItem::antiFlicker
+    std::uint32_t exposureMask;     ///< ExposureItem::exposure
+    std::uint32_t backModeMask;     ///< BackLightItem::backMode
+    std::uint32_t whiteBalanceMask; ///< WhiteBalanceItem::type
+    std::uint32_t dayNightMask;     ///< DayNightItem::type
+    std::uint32_t defogMask;        ///< DefogItem::defogMode
+    std::uint32_t lightControlMask; ///< LightItem::controlMode and MixedLightItem::controlMode
+    std::uint32_t mixedLightMask;   ///< MixedLightItem::mixMode
+    std::uint32_t missingValues;    ///< CameraValue: bit N is set if the camera lacks the value
+    ValueRange picture;             ///< brightness, contrast, saturation, hue, gamma
     ValueRange sharpness;
     ValueRange gain;
     ValueRange compensation;
@@ -296,8 +306,8 @@ struct CameraCapabilities
     ValueRange glareInhibition;
     ValueRange whiteBalanceGain;
     ValueRange defogIntensity;
-    ValueRange light; ///< near and far light, correction
-    ValueRange mixedLight;
+    ValueRange light;      ///< near and far light, correction
+    ValueRange mixedLight; ///< correction, brightness
     std::array<std::uint8_t, 112> reserved2;
 };
 static_assert(sizeof(CameraCapabilities) == 256);
@@ -306,8 +316,8 @@ static_assert(offsetof(CameraCapabilities, picture) == 56);
 /// Input of CapabilityQuery::Camera.
 struct CameraCapabilityInput
 {
-    std::uint32_t size; ///< sizeof(CameraCapabilityInput)
-    std::int32_t channel;
+    std::uint32_t size;   ///< sizeof(CameraCapabilityInput)
+    std::int32_t channel; ///< from 0
 };
 static_assert(sizeof(CameraCapabilityInput) == 8);
 

@@ -7,15 +7,15 @@
 
 namespace sdk {
 
-/// The certificate that a device has presented. Strings end with a zero.
+/// The certificate that a device has presented during a TLS handshake. Strings end with a zero.
 struct DeviceCertificate
 {
-    std::uint32_t size; ///< sizeof(DeviceCertificate)
-    std::int32_t port;
-    std::array<char, 64> address;
+    std::uint32_t size;               ///< sizeof(DeviceCertificate)
+    std::int32_t port;                ///< of the TLS connection
+    std::array<char, 64> address;     ///< of the TLS connection
     std::array<char, 64> identity;    ///< the device's MAC, else its UUID; empty if the search knows neither
     std::array<char, 96> fingerprint; ///< SHA-256 of the public key: "AB:CD:..." of 32 bytes
-    std::array<char, 128> subject;    ///< common name; chosen by the device
+    std::array<char, 128> subject;    ///< common name; chosen by the device, so no proof of its identity
     std::array<char, 32> validFrom;   ///< "2026-11-26 13:30:00" UTC; empty if unreadable
     std::array<char, 32> validUntil;  ///< the same
     std::array<std::uint8_t, 88> reserved;
@@ -23,8 +23,9 @@ struct DeviceCertificate
 static_assert(sizeof(DeviceCertificate) == 512);
 static_assert(offsetof(DeviceCertificate, fingerprint) == 136);
 
-/// The result of comparing the key of a certificate with the stored keys. With Unknown or Changed the request
-/// fails, each with an error of its own.
+/// The result of comparing the key of a certificate with the stored keys. Trusted lets the request continue.
+/// Unknown ends it with NetError::UnknownCertificate, Changed with NetError::ChangedCertificate; nothing of
+/// the request is sent then.
 enum class CertificateVerdict : std::int32_t
 {
     Trusted = 0,
@@ -32,9 +33,9 @@ enum class CertificateVerdict : std::int32_t
     Changed = 2, ///< another key is stored for this device
 };
 
-/// Called during the handshake of a TLS connection, before any byte of a request is sent, on the thread of
-/// the request. Several calls may run at the same time. `certificate` is valid during the call only. Must not
-/// block.
+/// Returns the verdict on the certificate of a device. Called during the TLS handshake, before any byte of
+/// the request is sent, on the thread that sends the request. Several calls may run at the same time.
+/// `certificate` is valid during the call only. `user` is that of NetSetCertificateHandler. Must not block.
 using CertificateHandler = CertificateVerdict (*)(const DeviceCertificate *certificate, void *user);
 
 } // namespace sdk

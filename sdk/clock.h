@@ -9,7 +9,7 @@
 
 namespace sdk {
 
-/// Thread-safe.
+/// Implementations are thread-safe.
 class Clock
 {
 public:
@@ -18,12 +18,12 @@ public:
     /// Milliseconds since 1970-01-01T00:00:00Z.
     [[nodiscard]] virtual std::int64_t now() const = 0;
 
-    /// Blocks the calling thread until `duration` has passed on this clock. Returns false immediately when a
-    /// stop is requested, true after the complete wait.
+    /// Blocks the calling thread until `duration` has passed on this clock, and returns true. A duration of 0
+    /// or less does not block. Returns false immediately when a stop is requested, also before the call.
     virtual bool wait(std::chrono::milliseconds duration, const std::stop_token &stop) = 0;
 
-    /// Blocks the calling thread until now() has reached `time`, otherwise as wait(). A clock that can be
-    /// stepped overrides it: a step between the caller's now() and its wait would be lost otherwise.
+    /// As wait(), until now() has reached `time`. A clock that can be stepped overrides this function: in
+    /// this implementation, a step between now() and wait() would be lost.
     virtual bool waitUntil(std::int64_t time, const std::stop_token &stop)
     {
         return wait(std::chrono::milliseconds(time - now()), stop);
@@ -33,7 +33,7 @@ public:
     void wait(std::chrono::milliseconds duration) { wait(duration, std::stop_token()); }
 };
 
-/// The clock of the host.
+/// The clock of the host. A change of the host's time does not lengthen or shorten a running wait.
 class SystemClock : public Clock
 {
 public:

@@ -1,4 +1,5 @@
-// Records of the configurations "Network", "DVRIP" and "Https".
+// Records of the configurations "Network", "DVRIP" and "Https" of a device. Strings end with a zero. The word
+// "size" is the size of the struct.
 #pragma once
 
 #include <array>
@@ -12,25 +13,25 @@ struct NetworkRecord
     std::uint32_t size;
     std::int32_t dhcpEnabled; ///< 0 or 1
     std::array<char, 64> hostName;
-    std::array<char, 40> mac; ///< "02:1a:c5:00:40:17"
-    std::array<char, 64> address;
+    std::array<char, 40> mac;        ///< "02:1a:c5:00:40:17"
+    std::array<char, 64> address;    ///< IPv4; IPv6 for a device without IPv4
     std::array<char, 64> subnetMask; ///< dotted mask, or the prefix length of an IPv6 address
-    std::array<char, 64> gateway;
+    std::array<char, 64> gateway;    ///< empty if there is none
     std::array<std::uint8_t, 16> reserved;
 };
 static_assert(sizeof(NetworkRecord) == 320);
 
-/// "DVRIP": the device's vendor-specific service.
+/// "DVRIP": the device's vendor-specific service, to which NetLogin connects.
 struct ServiceRecord
 {
     std::uint32_t size;
     std::int32_t tcpPort;
-    std::int32_t maximumConnections;
+    std::int32_t maximumConnections; ///< at the same time
     std::array<std::uint8_t, 20> reserved;
 };
 static_assert(sizeof(ServiceRecord) == 32);
 
-/// "Https": the web page over TLS.
+/// "Https": the device's web page over TLS.
 struct HttpsRecord
 {
     std::uint32_t size;

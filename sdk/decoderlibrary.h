@@ -32,8 +32,8 @@ enum class FrameColour : std::int32_t
 
 struct DecodedFrameInformation
 {
-    std::int32_t width; ///< in pixels, 0 for sound
-    std::int32_t height;
+    std::int32_t width;  ///< in pixels, 0 for sound
+    std::int32_t height; ///< in pixels, 0 for sound
     std::int32_t reserved;
     DecodedFrameType type;
     std::int32_t rate;  ///< frames per second, 0 if not reported by the stream; samples per second for sound
@@ -43,9 +43,10 @@ static_assert(sizeof(DecodedFrameInformation) == 24);
 static_assert(offsetof(DecodedFrameInformation, type) == 12);
 static_assert(offsetof(DecodedFrameInformation, rate) == 16);
 
-/// Called with a decoded frame or a chunk of sound, on the thread of the port. The bytes of a frame are valid
-/// until the port is freed or two more frames of the port have been delivered; those of sound are valid
-/// during the call.
+/// Called with a decoded frame or a chunk of sound (`size` bytes at `data`), on the thread of the port, one
+/// call at a time. The bytes of a frame are valid until the port is freed or two more frames of the port have
+/// been delivered. The bytes of sound, and `information`, are valid during the call only. `user` is that of
+/// DecoderSetDecodeCallback.
 using DecodeHandler = void (*)(std::int32_t port, const std::uint8_t *data, std::int32_t size,
                                const DecodedFrameInformation *information, void *user);
 
@@ -55,7 +56,7 @@ enum class SavedImageType : std::int32_t
     Jpeg = 3,
 };
 
-/// Filled by DecoderGetStatus.
+/// Filled by DecoderGetStatus. The counters start with DecoderOpenStream.
 struct DecoderStatus
 {
     std::array<char, 16> videoCodec; ///< "H.264", "H.265", "MJPEG"; empty until it is known
@@ -66,9 +67,13 @@ struct DecoderStatus
 };
 static_assert(sizeof(DecoderStatus) == 44);
 
-/// Decodes live streams to frames and sound, one port per live view. Operations may be called from any
-/// thread. Those of one port must not run at the same time, except DecoderInputData and DecoderGetStatus.
-/// None may be called from a handler. Every operation on a port that is not allocated fails.
+/// Decodes live streams to frames and sound, one port per live view. The operations of a port are called in
+/// this order: alloc, (stream mode, callback), open, play, input..., stop, close, free.
+///
+/// Operations may be called from any thread. DecoderInputData and DecoderGetStatus may run at the same time
+/// as any operation of the port; two others of one port must not run at the same time. No operation on a port
+/// may be called from a handler. Operations return false on failure, and always for a port that is not
+/// allocated.
 class DecoderLibrary
 {
 public:
@@ -79,19 +84,23 @@ public:
     virtual bool DecoderAllocPort(std::int32_t &port) = 0;
 
     /// To be called before DecoderPlay. `mode` 0 is a real-time stream: frames and sound are delivered as
-    /// they arrive, and dropped when they are too late. No other mode is used. Without this call nothing is
-    /// dropped.
+    /// they arrive, and dropped when they are too late. Returns false for any other mode. Without this call
+    /// nothing is dropped.
     virtual bool DecoderSetStreamMode(std::int32_t port, std::uint32_t mode) = 0;
 
-    /// Opens the port for data. `header` of `headerSize` bytes is the header of the stream; null and 0 if the
-    /// data contain it. At most `bufferSize` bytes are buffered, 1 or more. Returns false for an open port.
+    /// Opens the port for data. `header` of `headerSize` bytes is the header of the stream, and is copied;
+    /// null and 0 if the data of DecoderInputData start with it. `bufferSize` is the maximum number of bytes
+    /// that wait to be decoded, 1 or more. Returns false for an open port, and for a header beyond
+    /// `bufferSize`.
     virtual bool DecoderOpenStream(std::int32_t port, const std::uint8_t *header, std::uint32_t headerSize,
                                    std::uint32_t bufferSize) = 0;
 
-    /// Sets the handler; null removes it. The previous handler does not run after the return.
+    /// Sets the handler; null removes it. Frames and sound without a handler are dropped. Waits for a running
+    /// call: the previous handler does not run after the return.
     virtual bool DecoderSetDecodeCallback(std::int32_t port, DecodeHandler handler, void *user) = 0;
 
-    /// Starts decoding. `window` is always 0: frames are delivered to the handler instead of a window.
+    /// Starts decoding on the thread of the port. `window` is always 0: frames are delivered to the handler
+    /// instead of a window. Returns false for a port that is not open or is playing already.
     virtual bool DecoderPlay(std::int32_t port, std::uintptr_t window) = 0;
 
     /// Copies the next `size` bytes of the stream to the buffer and returns immediately. Chunks may be split
@@ -99,22 +108,26 @@ public:
     /// all of them.
     virtual bool DecoderInputData(std::int32_t port, const std::uint8_t *data, std::uint32_t size) = 0;
 
-    /// Ends decoding. No handler of the port runs after the return.
+    /// Ends decoding; the buffered data remain. No handler of the port runs after the return. Returns false
+    /// for a port that is not playing.
     virtual bool DecoderStop(std::int32_t port) = 0;
 
-    /// Discards the buffered data. The port accepts no more data.
+    /// Ends decoding, as DecoderStop, and discards the buffered data. The port accepts no data until
+    /// DecoderOpenStream is called again. Returns false for a port that is not open.
     virtual bool DecoderCloseStream(std::int32_t port) = 0;
 
-    /// Frees the port in any state. Its frames become invalid.
+    /// Frees the port in any state; an open port is closed first. Its frames become invalid. The number may
+    /// be allocated again.
     virtual bool DecoderFreePort(std::int32_t port) = 0;
 
     /// Fills `status`. May be called at any time between DecoderAllocPort and DecoderFreePort.
     virtual bool DecoderGetStatus(std::int32_t port, DecoderStatus &status) = 0;
 
-    /// Writes a frame (its bytes as DecodedFrameType::Video) to the file of that name in the local 8-bit
-    /// encoding; an existing file is replaced. `quality` is 1 to 100. `colour` is
-    /// DecodedFrameInformation::colour of the frame. Returns false for a null frame, a width, height or
-    /// quality out of range, and when the file cannot be written: an existing file is unchanged then.
+    /// Encodes a frame (its bytes as DecodedFrameType::Video, `width` and `height` in pixels) as an image and
+    /// writes it to a file. `fileName` is in the local 8-bit encoding. An existing file is replaced.
+    /// `quality` is 1 to 100. `colour` is DecodedFrameInformation::colour of the frame. Needs no port, and
+    /// blocks until the file is written. Returns false, with an existing file unchanged, for a null frame,
+    /// for a width, height or quality out of range, and when the file cannot be written.
     virtual bool DecoderSaveFrame(const std::uint8_t *frame, std::int32_t width, std::int32_t height,
                                   SavedImageType type, std::int32_t quality, const char *fileName,
                                   FrameColour colour) = 0;

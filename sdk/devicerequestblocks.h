@@ -1,4 +1,5 @@
-// Blocks of requests without a login to devices that a search has found: initialisation, and a new address.
+// Blocks of requests to devices that a search has found, without a session: the first account of a
+// factory-new device, and a new address of a device. Strings are those of searchblocks.h.
 #pragma once
 
 #include "sdk/searchblocks.h"
@@ -16,21 +17,23 @@ struct InitDeviceAccountInput
     std::array<char, 40> mac; ///< of the device: "02:1a:c5:00:40:17"
     std::array<char, 128> account;
     std::array<char, 128> password;
-    std::uint8_t passwordResetWay; ///< as in the device's search response
+    std::uint8_t passwordResetWay; ///< SearchDeviceInformation::passwordResetWay of the device
     std::array<char, 64> address;  ///< current address of the device
     std::uint16_t port;            ///< of its service, 0 if unknown
     std::array<std::uint8_t, 32> reserved;
 };
 static_assert(sizeof(InitDeviceAccountInput) == 400);
 
-/// Filled by NetInitDeviceAccount and NetModifyDeviceBySearch.
+/// Given to NetInitDeviceAccount and NetModifyDeviceBySearch. The response of the device has no content.
 struct DeviceRequestOutput
 {
     std::uint32_t size; ///< sizeof(DeviceRequestOutput), set by the caller
 };
 static_assert(sizeof(DeviceRequestOutput) == 4);
 
-/// Given to NetModifyDeviceBySearch: the device's information from the search, with the new addresses.
+/// Given to NetModifyDeviceBySearch: the device's information from its search response, with these changes.
+/// `address`, `subnetMask`, `gateway` and `dhcpEnabled` are the new ones; `currentAddress` is the present
+/// address; `account` and `password` are those of an account that may change it.
 struct ModifyDeviceInput
 {
     std::uint32_t size; ///< sizeof(ModifyDeviceInput)

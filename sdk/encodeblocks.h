@@ -1,5 +1,6 @@
 // Blocks of the encode configuration: the items of a stream, and the capabilities of a device's encoder.
-// Numbers are little-endian words of 32 bits unless their type says otherwise.
+// Numbers are little-endian words of 32 bits unless their type says otherwise. Items and capabilities have
+// different codes of audio formats: AudioCompressionItem::format and EncodeCapabilityBlock::audioFormats.
 #pragma once
 
 #include <array>
@@ -8,7 +9,8 @@
 
 namespace sdk {
 
-/// Kinds of streams. Each has separate items and a separate capability block.
+/// The kinds of streams of a channel. Each has separate items and a separate capability block. MainNormal,
+/// MainMotion and MainAlarm are the main stream usually, during motion and during an alarm.
 enum class StreamKind : std::int32_t
 {
     MainNormal = 0,
@@ -25,8 +27,8 @@ inline constexpr std::size_t streamKindCount = 4;
     return static_cast<std::int32_t>(kind) + 1;
 }
 
-/// Item numbers of NetGetItem and NetSetItem that belong to a stream. Before it reads an item, the caller
-/// sets its size and stream.
+/// Item numbers of NetGetItem and NetSetItem that belong to a stream of a channel. The caller sets the word
+/// "size" to the size of the struct and the word "stream" to streamNumber(), before reading and writing.
 enum class EncodeItem : std::uint32_t
 {
     VideoFormat = 1100,
@@ -38,6 +40,8 @@ enum class EncodeItem : std::uint32_t
 /// Compression codes: 0 MPEG4, 5 MJPEG, 7 H.264, 8 H.265; others exist.
 /// EncodeCapabilityBlock::compressionMask has a bit for each code.
 inline constexpr std::int32_t compressionH264 = 7;
+
+/// Codes are 0 to compressionCount - 1.
 inline constexpr std::uint32_t compressionCount = 10;
 
 /// EncodeItem::VideoFormat.
@@ -45,15 +49,15 @@ struct VideoFormatItem
 {
     std::int32_t size;
     std::int32_t stream;
-    std::int32_t videoEnable; ///< 0 or 1
-    std::int32_t compression; ///< compression code, 0 to 9
-    std::int32_t width;       ///< in pixels
-    std::int32_t height;
+    std::int32_t videoEnable;    ///< 0 or 1
+    std::int32_t compression;    ///< compression code, 0 to 9
+    std::int32_t width;          ///< in pixels
+    std::int32_t height;         ///< in pixels
     std::int32_t bitRateControl; ///< 0 fixed, 1 variable
     std::int32_t bitRate;        ///< kbit/s
     float frameRate;             ///< frames per second
     std::int32_t reserved;
-    std::int32_t quality; ///< 1 to 6
+    std::int32_t quality; ///< 1 (lowest) to 6 (highest)
 };
 static_assert(sizeof(VideoFormatItem) == 44);
 static_assert(offsetof(VideoFormatItem, stream) == 4);
@@ -70,7 +74,7 @@ struct VideoProfileItem
 static_assert(sizeof(VideoProfileItem) == 12);
 static_assert(offsetof(VideoProfileItem, profile) == 8);
 
-/// EncodeItem::AudioCompression. The one item whose stream is not the second word.
+/// EncodeItem::AudioCompression. It is the only item whose word "stream" is not the second word.
 struct AudioCompressionItem
 {
     std::int32_t size;
@@ -103,7 +107,8 @@ static_assert(sizeof(FrameSize) == 4);
 
 inline constexpr std::size_t maximumFrameSizes = 64;
 
-/// A list of frame sizes in a block. `count` comes from a device: it must be bounded before it is used.
+/// A list of frame sizes in a block. `count` comes from a device and is not checked: its user must limit it
+/// to maximumFrameSizes.
 struct FrameSizeList
 {
     std::uint32_t count; ///< used entries of `sizes`
@@ -111,7 +116,8 @@ struct FrameSizeList
 };
 static_assert(sizeof(FrameSizeList) == 260);
 
-/// Features of a stream that a device may lack. Bits of EncodeCapabilityBlock::missingValues.
+/// Features of a stream that a device may lack. Bit numbers of EncodeCapabilityBlock::missingValues. The
+/// comments state the meaning of a set bit.
 enum class EncodeValue : std::uint32_t
 {
     Stream = 0,     ///< the device has no stream of this kind
@@ -121,7 +127,7 @@ enum class EncodeValue : std::uint32_t
     AudioSwitch,    ///< sound cannot be switched on and off
 };
 
-/// A sampling frequency of an audio format.
+/// A supported sampling frequency of an audio format. A format with several frequencies has several entries.
 struct AudioRate
 {
     std::int32_t format;    ///< as in EncodeCapabilityBlock::audioFormats
@@ -131,25 +137,25 @@ static_assert(sizeof(AudioRate) == 8);
 
 inline constexpr std::size_t maximumAudioRates = 24;
 
-/// The capabilities of the encoder for one kind of stream. The counts come from a device: they must be
-/// bounded before they are used.
+/// The capabilities of the encoder for one kind of stream. The counts come from a device and are not checked:
+/// their users must limit them to the sizes of the arrays.
 struct EncodeCapabilityBlock
 {
     std::uint32_t size;                    ///< sizeof(EncodeCapabilityBlock), set by the caller
     std::uint32_t compressionMask;         ///< bit N is set if the device supports compression code N
     std::int32_t sizesDependOnCompression; ///< if not 0, `sizesByCompression` is used instead of `sizes`
     std::int32_t minimumBitRate;           ///< kbit/s
-    std::int32_t maximumBitRate;           ///< kbit/s
+    std::int32_t maximumBitRate;           ///< kbit/s, for the frame size in EncodeCapabilityInput::text
     std::int32_t maximumFrameRate;         ///< frames per second
     std::uint32_t profileCount;            ///< used entries of `profiles`
-    std::array<std::int32_t, 8> profiles;  ///< H.264 profiles, 1 to 4; 0 for no profile
+    std::array<std::int32_t, 8> profiles;  ///< H.264 profiles, 1 to 4; entries of 0 are ignored
     std::uint32_t audioFormatCount;        ///< used entries of `audioFormats`
     /// 1 PCM, 2 G.711 A-law, 4 G.711 u-law, 5 G.726, 8 AAC; others exist.
     std::array<std::int32_t, 64> audioFormats;
     FrameSizeList sizes;
-    std::array<FrameSizeList, 16> sizesByCompression; ///< by compression code
+    std::array<FrameSizeList, 16> sizesByCompression; ///< indexed by compression code
     std::uint32_t missingValues;  ///< EncodeValue: bit N is set if the device lacks the value
-    std::uint32_t audioRateCount; ///< used entries of `audioRates`; 0 if not reported
+    std::uint32_t audioRateCount; ///< used entries of `audioRates`; 0 if the device reports no frequencies
     std::array<AudioRate, maximumAudioRates> audioRates;
     std::array<std::uint8_t, 36> reserved;
 };
@@ -157,7 +163,8 @@ static_assert(sizeof(EncodeCapabilityBlock) == 4976);
 static_assert(offsetof(EncodeCapabilityBlock, missingValues) == 4740);
 static_assert(offsetof(EncodeCapabilityBlock, sizes) == 320);
 
-/// Output of CapabilityQuery::Encode: a block for each StreamKind, and reserved ones.
+/// Output of CapabilityQuery::Encode. The first streamKindCount blocks are indexed by StreamKind, the others
+/// are reserved. The caller sets the size of every block as well.
 struct EncodeCapabilities
 {
     std::uint32_t size; ///< sizeof(EncodeCapabilities), set by the caller
@@ -172,16 +179,15 @@ struct EncodeCapabilityInput
 {
     std::uint32_t size; ///< sizeof(EncodeCapabilityInput)
     std::uint32_t reserved1;
-    std::int32_t channel;
+    std::int32_t channel; ///< from 0
     std::uint32_t reserved2;
-    const char
-        *text; ///< configuration text "Encode", ended by a zero: the capabilities depend on these settings
+    const char *text; ///< configuration text "Encode", ended by a zero: capabilities depend on its settings
 };
 static_assert(sizeof(EncodeCapabilityInput) == 24);
 static_assert(offsetof(EncodeCapabilityInput, channel) == 8);
 static_assert(offsetof(EncodeCapabilityInput, text) == 16);
 
-/// One stream in EncodeRecord. The values have the meanings and units of the items of the same names.
+/// One stream in EncodeRecord. The values have the meanings and units of the item words with the same names.
 struct EncodeStreamRecord
 {
     std::int32_t videoEnabled; ///< 0 or 1
@@ -191,7 +197,7 @@ struct EncodeStreamRecord
     std::int32_t height;
     std::int32_t bitRateControl;
     std::int32_t bitRate;
-    std::int32_t frameRate;
+    std::int32_t frameRate; ///< frames per second, whole
     std::int32_t quality;
     std::int32_t audioEnabled; ///< 0 or 1
     std::int32_t audioFormat;  ///< as AudioCompressionItem::format
@@ -205,7 +211,7 @@ struct EncodeRecord
 {
     std::uint32_t size;
     std::int32_t reserved1;
-    std::array<EncodeStreamRecord, streamKindCount> streams; ///< by StreamKind
+    std::array<EncodeStreamRecord, streamKindCount> streams; ///< indexed by StreamKind
     std::array<std::uint8_t, 2568> reserved2;
 };
 static_assert(sizeof(EncodeRecord) == 2832);

@@ -1,4 +1,4 @@
-// The models and the version of a firmware file, from the lines at its start or from its name.
+// The models and the version of a firmware file, from the lines at its start (its head) or from its name.
 #pragma once
 
 #include <cstddef>
@@ -9,7 +9,7 @@
 
 namespace sdk {
 
-/// The maximum size of a head in bytes, including the empty line at its end.
+/// The maximum size of a head in bytes, including the empty line at its end. A longer head is damaged.
 inline constexpr std::size_t longestFirmwareHead = 4096;
 
 struct FirmwareHead
@@ -17,7 +17,8 @@ struct FirmwareHead
     std::vector<std::string> models; ///< of the devices that the file is for; empty if not reported
     std::string version;             ///< "2.900.0", "2.900.0.R"; never empty in a head that was read
 
-    /// True if the file is for this model. Also true if the file reports no models, or `model` is empty.
+    /// True if `models` contains `model`; case and surrounding spaces are ignored. Also true if `models` or
+    /// `model` is empty.
     [[nodiscard]] bool fits(std::string_view model) const;
 };
 
@@ -26,33 +27,36 @@ struct FirmwareHeadReading
 {
     enum class Kind
     {
-        Unknown, ///< the file does not start with "BRELM-FIRMWARE"; it may still be firmware
-        Damaged, ///< the head is invalid
-        Known,
+        Unknown, ///< there is no head: the file does not start with "BRELM-FIRMWARE", but may be firmware
+        Damaged, ///< the file starts with that word, but the head is invalid or incomplete
+        Known,   ///< the head is valid
     };
     Kind kind = Kind::Unknown;
-    FirmwareHead head = {}; ///< valid with Known
+    FirmwareHead head = {}; ///< empty unless `kind` is Known
 };
 
-/// Reads the head at the start of `bytes`, of which the first longestFirmwareHead are sufficient:
+/// Reads the head at the start of `bytes`, the content of a file. The first longestFirmwareHead bytes of the
+/// file are sufficient. A head:
 ///
 ///     BRELM-FIRMWARE 1
 ///     model=B-2230-IR,B-2231-IR
 ///     version=2.900.0
 ///     (an empty line)
 ///
-/// Other keys are ignored. A head without a version is damaged. A line may end with CR LF. A version ends at
-/// the first space or comma, which may be followed by a build date.
+/// Other keys are ignored. The key "model" may be missing, the key "version" not. A line may end with CR LF.
+/// A value of "version" ends at the first space or comma; the text after it, such as a build date, is
+/// ignored.
 [[nodiscard]] FirmwareHeadReading readFirmwareHead(std::string_view bytes);
 
-/// True if two versions, from files or devices, are the same firmware. A leading "v" is ignored, and so is
-/// the part after a space or comma. Letters after the numbers ("2.900.0.R") are compared only if both
-/// versions have them. False when one of them has no number.
+/// True if two versions, from files or devices, are the same firmware: if their numbers ("2.900.0") are
+/// equal. Letters after the numbers ("2.900.0.R") are compared, without regard to case, only if both versions
+/// have such letters. A leading "v" and the part after a space or comma are ignored. False if one of the
+/// versions does not start with a number.
 [[nodiscard]] bool isSameVersion(std::string_view one, std::string_view other);
 
 /// The models and the version in a file name without its folder: "B-2230-IR,B-2231-IR_2.900.0.bin". The
-/// version may have a leading "v", and may be followed by "_" and any text. Every model contains a digit.
-/// Nothing for other names.
+/// version may have a leading "v", and may be followed by "_" and any text. Every model must contain a digit,
+/// which distinguishes it from a word. Returns nullopt for a name of any other form.
 [[nodiscard]] std::optional<FirmwareHead> firmwareHeadOfName(std::string_view fileName);
 
 } // namespace sdk

@@ -1,4 +1,4 @@
-// Blocks of the login to a device, and of the queries that follow it.
+// Blocks of the login to a device, and of the queries that follow it. Strings are those of searchblocks.h.
 #pragma once
 
 #include <array>
@@ -18,7 +18,7 @@ struct LoginDeviceInformation
     std::int32_t loginKind;     ///< 0 direct, 1 through a tunnel
     std::uint8_t deviceType;    ///< one of DeviceTypeCode, others exist
     std::uint8_t reserved1;
-    std::uint16_t channelCount; ///< video inputs
+    std::uint16_t channelCount; ///< number of video inputs
     std::array<std::uint8_t, 40> reserved;
 };
 static_assert(sizeof(LoginDeviceInformation) == 128);
@@ -36,19 +36,19 @@ enum class DeviceTypeCode : std::uint8_t
     ComputerRecorder = 42,
 };
 
-/// The connection of a session of NetLoginSecure.
+/// The connection of a session that NetLoginSecure opens.
 enum class LoginMode : std::int32_t
 {
     Direct = 0,
-    Tunnel = 19, ///< through a local port of the host, which is forwarded to the device
+    Tunnel = 19, ///< to 127.0.0.1 and a local port of the port agent, which forwards it to the device
 };
 
 /// Given to NetLoginSecure.
 struct LoginSecureInput
 {
-    std::uint32_t size; ///< sizeof(LoginSecureInput)
-    std::int32_t port;
-    std::array<char, 64> address;
+    std::uint32_t size;           ///< sizeof(LoginSecureInput)
+    std::int32_t port;            ///< service port of the device, or the local port of the tunnel
+    std::array<char, 64> address; ///< IPv4 or IPv6; 127.0.0.1 for a tunnel
     std::array<char, 64> account;
     std::array<char, 64> password;
     LoginMode mode;
@@ -59,17 +59,17 @@ static_assert(sizeof(LoginSecureInput) == 264);
 /// Filled by NetLoginSecure.
 struct LoginSecureOutput
 {
-    std::uint32_t size;  ///< sizeof(LoginSecureOutput), set by the caller
-    std::uint32_t error; ///< also returned by NetGetLastError; 0 on success
-    LoginDeviceInformation device;
+    std::uint32_t size;            ///< sizeof(LoginSecureOutput), set by the caller
+    std::uint32_t error;           ///< that of NetGetLastError; 0 on success
+    LoginDeviceInformation device; ///< valid after a successful login only
 };
 static_assert(sizeof(LoginSecureOutput) == 136);
 
-/// Commands of NetQueryConfig.
+/// Commands of NetQueryConfig, with the block of the response.
 enum class QueryCommand : std::uint32_t
 {
     DeviceAttributes = 1, ///< DeviceAttributes
-    Time = 8,             ///< TimeRecord
+    Time = 8,             ///< TimeRecord (systemblocks.h)
     NetworkServices = 91, ///< NetworkServices
 };
 
@@ -80,10 +80,10 @@ struct DeviceAttributes
     std::array<char, 48> serialNumber;
     std::array<char, 64> softwareVersion;
     std::array<char, 32> detailModel;
-    std::array<char, 40> mac;
-    std::int32_t videoInputs;
-    std::int32_t alarmInputs;
-    std::int32_t disks;
+    std::array<char, 40> mac; ///< "02:1a:c5:00:40:17"; empty if the device does not report it
+    std::int32_t videoInputs; ///< number
+    std::int32_t alarmInputs; ///< number
+    std::int32_t disks;       ///< number
     std::array<std::uint8_t, 12> reserved;
 };
 static_assert(sizeof(DeviceAttributes) == 212);
@@ -93,7 +93,7 @@ struct NetworkServices
 {
     std::uint32_t size;
     std::int32_t webPort;     ///< of the web page without TLS, 0 if not reported
-    std::int32_t servicePort; ///< the port of a login
+    std::int32_t servicePort; ///< the port for a login
     std::int32_t rtspPort;    ///< 0 if not reported
     std::array<std::uint8_t, 3024> reserved;
 };

@@ -5,7 +5,8 @@
 
 namespace sdk {
 
-/// Codes that callers distinguish. A library may return other codes, which are unspecified failures.
+/// Codes that callers distinguish. A library may return other codes: callers handle them as a failure without
+/// a known reason.
 enum class NetError : std::uint32_t
 {
     None = 0,
@@ -20,15 +21,15 @@ enum class NetError : std::uint32_t
     AccountLocked = 0x80000068,          ///< too many wrong passwords
     ConnectTimeout = 0x8000006B,         ///< no response from the address
     ConnectFailed = 0x8000006C,          ///< the address refuses the connection
-    WrongPasswordSecure = 0x80000096,    ///< as WrongPassword, returned by the newer kind of login
-    WrongPasswordTriesLeft = 0x80000097, ///< the same, with tries left before the account locks
-    AccountLoggedInSecure = 0x80000098,
-    DeviceBusy = 0x800000A0,      ///< the device runs an operation that cannot be interrupted
-    FirmwareRefused = 0x800000A1, ///< the device does not accept this firmware
-    UpgradeFailed = 0x800000A2,   ///< the device has cancelled its upgrade
-    Refused = 0x800000A3,         ///< the device understands the request and refuses it
-    InvalidValue = 0x800000A4,    ///< the device does not accept a value of the request
-    SessionEnded = 0x800000A5,    ///< the device no longer accepts the login of the session
+    WrongPasswordSecure = 0x80000096,    ///< as WrongPassword; returned by NetLoginSecure
+    WrongPasswordTriesLeft = 0x80000097, ///< as WrongPasswordSecure, with tries left before the account locks
+    AccountLoggedInSecure = 0x80000098,  ///< as AccountLoggedIn; returned by NetLoginSecure
+    DeviceBusy = 0x800000A0,             ///< the device runs an operation that cannot be interrupted
+    FirmwareRefused = 0x800000A1,        ///< the device does not accept this firmware
+    UpgradeFailed = 0x800000A2,          ///< the device has cancelled its upgrade
+    Refused = 0x800000A3,                ///< the device understands the request and refuses it
+    InvalidValue = 0x800000A4,           ///< the device does not accept a value of the request
+    SessionEnded = 0x800000A5,           ///< the device no longer accepts the login of the session
     UnknownCertificate =
         0x800000A6, ///< the user has not accepted the key of the device's certificate; nothing was sent
     ChangedCertificate = 0x800000A7, ///< the device's key differs from the stored one; nothing was sent

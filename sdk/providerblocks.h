@@ -5,20 +5,20 @@
 
 namespace sdk {
 
-/// Functions that a provider may lack for every device. Bits of ProviderInformation::missingFunctions.
+/// Functions that a provider may lack for every device. Bit numbers of ProviderInformation::missingFunctions.
 enum class ProviderFunction : std::uint32_t
 {
     VideoStandard = 0,    ///< VideoStandardItem
     AutomaticMaintenance, ///< the configuration "AutoMaintain"
-    TimeServerDetails,    ///< the port of the time server, and the period of its requests
+    TimeServerDetails,    ///< NtpRecord::port and NtpRecord::updatePeriod
 };
 
 /// Filled by NetGetProviderInformation.
 struct ProviderInformation
 {
-    std::uint32_t size;       ///< sizeof(ProviderInformation), set by the caller
-    std::int32_t defaultPort; ///< service port of most devices
-    std::uint32_t missingFunctions;
+    std::uint32_t size;             ///< sizeof(ProviderInformation), set by the caller
+    std::int32_t defaultPort;       ///< service port of most devices
+    std::uint32_t missingFunctions; ///< ProviderFunction: bit N is set if the provider lacks the function
     std::uint32_t reserved;
 };
 static_assert(sizeof(ProviderInformation) == 16);

@@ -1,3 +1,4 @@
+// The libraries that the application uses, as one value.
 #pragma once
 
 #include <memory>
@@ -10,8 +11,9 @@ class DecoderLibrary;
 class NetLibrary;
 class P2PAgentLibrary;
 
-/// The implementations of the library interfaces as one value. The application chooses it once at start-up;
-/// tests create others. A library that is not available is null: its features are disabled then.
+/// The implementations of the library interfaces. The application chooses them once at start-up, and shares
+/// them by copies of this value; tests create others. A library that is not available is null: its features
+/// are disabled then.
 struct SdkLibraries
 {
     std::shared_ptr<NetLibrary> net;

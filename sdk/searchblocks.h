@@ -1,6 +1,6 @@
 // Blocks of device searches: the requests that start a search, and the response of a found device. All
 // strings are 8-bit, in the local encoding. A string that fills its field does not end with a zero: use
-// blockText() to read it.
+// blockText() (blocktext.h) to read it.
 #pragma once
 
 #include <array>
@@ -9,8 +9,8 @@
 
 namespace sdk {
 
-/// The identity, network settings and state of one device, from its search response. The same bytes with new
-/// addresses are sent to the device to change its address.
+/// The identity, network settings and state of one device, from its search response. ModifyDeviceInput
+/// contains the same struct with new addresses: a request to change the address of the device.
 struct SearchDeviceInformation
 {
     std::int32_t ipVersion;                ///< 4 or 6: the family of `address`
@@ -29,9 +29,9 @@ struct SearchDeviceInformation
     std::uint8_t initialisationState;    ///< low two bits: see initialisationBits()
     std::uint8_t passwordResetWay;       ///< bit 0 telephone, bit 1 mail: contacts for a lost password
     std::array<char, 64> currentAddress; ///< in a request: present address of the device; empty in a response
-    std::array<char, 64> account;        ///< in a request: the account that may change the address
-    std::array<char, 64> password;       ///< in a request: of that account
-    std::array<char, 48> uuid;           ///< chosen by the device, lower case; empty if it has none
+    std::array<char, 64> account;  ///< in a request: one that may change the address; empty in a response
+    std::array<char, 64> password; ///< in a request: of that account; empty in a response
+    std::array<char, 48> uuid;     ///< chosen by the device, lower case; empty if it has none
     std::array<std::uint8_t, 2443> reserved; ///< 0
 };
 static_assert(sizeof(SearchDeviceInformation) == 3232);
@@ -66,8 +66,8 @@ static_assert(sizeof(SearchResponse) == 3304);
 static_assert(offsetof(SearchResponse, device) == 72);
 
 /// Receives responses on threads of the network library; several calls may run at the same time. `response`
-/// is valid during the call only. `searchHandle` is 0 for responses to NetSearchDevicesByIPs,
-/// NetSearchDevicesByIPsEx and NetSearchDeviceByIp.
+/// is valid during the call only. `searchHandle` is the handle of the local search; it is 0 for responses to
+/// NetSearchDevicesByIPs, NetSearchDevicesByIPsEx and NetSearchDeviceByIp. `user` is that of the search.
 using SearchResponseHandler = void (*)(std::int64_t searchHandle, const SearchResponse *response, void *user);
 
 /// Given to NetStartSearchDevices.
@@ -93,7 +93,8 @@ static_assert(sizeof(SearchParameterEx) == 88);
 
 inline constexpr int maximumSearchAddresses = 256;
 
-/// A list of addresses to search one by one: given to NetSearchDevicesByIPs and NetSearchDevicesByIPsEx.
+/// A list of addresses, each of which gets a request of its own. Given to NetSearchDevicesByIPs,
+/// NetSearchDevicesByIPsEx and NetSearchDeviceByIp.
 struct SearchByAddressesRequest
 {
     std::uint32_t size; ///< sizeof(SearchByAddressesRequest)

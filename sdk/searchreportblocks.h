@@ -1,4 +1,5 @@
-// The report of a search: the messages that it has sent and received. It explains an empty list of devices.
+// The report of searches: counters of the messages that they have sent and received. It explains an empty
+// list of devices. NetGetSearchReport states when the counters are reset.
 #pragma once
 
 #include <array>
@@ -7,8 +8,8 @@
 
 namespace sdk {
 
-/// The reason why a response to a search was not reported as a device. Indices of
-/// SearchInterfaceReport::discarded.
+/// The reason why a received message, or a device in it, was not reported to the handler of a search. Indices
+/// of SearchInterfaceReport::discarded.
 enum class SearchDiscard : std::uint32_t
 {
     Unreadable = 0, ///< not a message of the search's protocol
@@ -16,11 +17,11 @@ enum class SearchDiscard : std::uint32_t
     NoService,      ///< the message contains no service address of the device
     ForeignAddress, ///< every address in the message belongs to another host than its sender
     Leaving,        ///< the device reports that it leaves the network
-    TooMany,        ///< beyond the bounds of a search
+    TooMany,        ///< beyond the number of devices that the library keeps for a search
 };
 inline constexpr std::size_t searchDiscards = 6;
 
-/// The reason why a search through an interface is impossible or found no devices. Bits of
+/// The reason why a search through an interface is impossible or found no devices. Bit numbers of
 /// SearchInterfaceReport::obstacles.
 enum class SearchObstacle : std::uint32_t
 {
@@ -32,18 +33,19 @@ enum class SearchObstacle : std::uint32_t
     NoResponse,        ///< requests were sent and no response was received: filtered, or no devices
 };
 
-/// One address of an interface; an interface without one has one entry with an empty address.
+/// One address of a network interface of the host. An interface with several addresses has several entries;
+/// an interface without an address has one entry with an empty address. Strings end with a zero.
 struct SearchInterfaceReport
 {
     std::array<char, 32> name;
-    std::array<char, 64> address; ///< local; empty if there is none
-    std::int32_t prefixLength;    ///< of `address`
-    std::uint32_t obstacles;      ///< bits of SearchObstacle
-    std::int32_t sendError;       ///< last error number of the system, 0 for none
-    std::uint32_t requestsSent;   ///< by multicast
-    std::uint32_t messagesReceived;
-    std::uint32_t devicesFound;                          ///< reported to the handler of the search
-    std::array<std::uint32_t, searchDiscards> discarded; ///< by SearchDiscard
+    std::array<char, 64> address;   ///< local; empty if there is none
+    std::int32_t prefixLength;      ///< of `address`
+    std::uint32_t obstacles;        ///< SearchObstacle: bit N is set if the obstacle exists
+    std::int32_t sendError;         ///< last error number (errno) of the system on sending, 0 for none
+    std::uint32_t requestsSent;     ///< multicast requests of local searches
+    std::uint32_t messagesReceived; ///< at this address, discarded ones included
+    std::uint32_t devicesFound;     ///< reported to the handler of the search
+    std::array<std::uint32_t, searchDiscards> discarded; ///< messages, or devices in them, by SearchDiscard
     std::array<std::uint8_t, 48> reserved;
 };
 static_assert(sizeof(SearchInterfaceReport) == 192);
@@ -57,9 +59,9 @@ struct SearchReport
     std::uint32_t size;                ///< sizeof(SearchReport), set by the caller
     std::uint32_t count;               ///< entries of `interfaces` that are filled
     std::uint32_t addressesAsked;      ///< addresses searched by NetSearchDevicesByIPs and similar operations
-    std::uint32_t addressesResponding; ///< of them, with a response
-    std::uint32_t addressesNoRoute;    ///< of them, without a route from the host
-    std::uint32_t foreignDevices;      ///< devices found whose address is outside every interface's network
+    std::uint32_t addressesResponding; ///< searched addresses with a response
+    std::uint32_t addressesNoRoute;    ///< searched addresses to which the host has no route
+    std::uint32_t foreignDevices;      ///< found devices whose IPv4 address is in no network of the host
     std::array<std::uint8_t, 40> reserved;
     std::array<SearchInterfaceReport, maximumReportedInterfaces> interfaces;
 };

@@ -14,12 +14,11 @@ enum class LiveStreamKind : std::int32_t
     Sub = 1,
 };
 
-/// The type of the data that a RealDataHandler is called with.
+/// The type of a call of a RealDataHandler.
 enum class RealDataType : std::uint32_t
 {
     Stream = 0, ///< bytes of the stream: endless Matroska, as streams::MatroskaWriter writes it
-    End =
-        1, ///< no bytes: the stream has ended without a stop by the caller; `parameter` is a StreamEndReason
+    End = 1,    ///< the stream has ended, not by its caller: `size` is 0 and `parameter` is a StreamEndReason
 };
 
 /// The reason of the end of a live stream that its caller did not stop.
@@ -34,10 +33,11 @@ enum class StreamEndReason : std::int32_t
 };
 
 /// Called with a chunk of a live stream: `size` bytes at `data`, which are valid during the call. Chunks
-/// arrive in order, may be split anywhere, and are passed one at a time for each stream. `dataType` is a
-/// RealDataType. A stream may start again with another header. `parameter` is internal to the library except
-/// for RealDataType::End, which is the last call, made at most once: to the handler that is set when the
-/// stream ends, otherwise to the next one.
+/// arrive in order, may be split anywhere, and are passed one at a time for each stream. A stream may start
+/// again with another header, within or between chunks. `dataType` is a RealDataType. `parameter` has a
+/// meaning for RealDataType::End only. End is the last call of a stream, made at most once: to the handler
+/// that is set when the stream ends; if none is set, to the next one that is set. The handle stays valid
+/// until NetStopRealStream.
 using RealDataHandler = void (*)(std::int64_t streamHandle, std::uint32_t dataType, const std::uint8_t *data,
                                  std::uint32_t size, std::int64_t parameter, void *user);
 

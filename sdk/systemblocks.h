@@ -1,4 +1,5 @@
-// Blocks of the maintenance of a device: its clock, its video standard, a reset and a new password.
+// Blocks of the maintenance of a device: its clock, its video standard, a reset to factory settings and a new
+// password.
 #pragma once
 
 #include <array>
@@ -7,25 +8,25 @@
 
 namespace sdk {
 
-/// Settings that NetSetDeviceSetting writes.
+/// Settings that NetSetDeviceSetting writes, with their blocks.
 enum class DeviceSetting : std::uint32_t
 {
     Time = 8, ///< TimeRecord
 };
 
-/// The date and time of a device's clock, without a time zone.
+/// The date and time that a device's clock shows: the local time of the device.
 struct TimeRecord
 {
     std::uint32_t year;
-    std::uint32_t month; ///< 1 to 12
-    std::uint32_t day;   ///< 1 to 31
-    std::uint32_t hour;  ///< 0 to 23
-    std::uint32_t minute;
-    std::uint32_t second;
+    std::uint32_t month;  ///< 1 to 12
+    std::uint32_t day;    ///< 1 to 31
+    std::uint32_t hour;   ///< 0 to 23
+    std::uint32_t minute; ///< 0 to 59
+    std::uint32_t second; ///< 0 to 59
 };
 static_assert(sizeof(TimeRecord) == 24);
 
-/// The number of VideoStandardItem for NetSetItem.
+/// The item number of VideoStandardItem for NetSetItem. NetGetItem does not read it.
 inline constexpr std::uint32_t videoStandardItem = 11;
 
 enum class VideoStandard : std::int32_t
@@ -41,21 +42,22 @@ struct VideoStandardItem
 };
 static_assert(sizeof(VideoStandardItem) == 8);
 
-/// Given to NetResetSystem.
+/// Given to NetResetSystem. The request has no parameters.
 struct ResetSystemInput
 {
     std::uint32_t size; ///< sizeof(ResetSystemInput)
 };
 static_assert(sizeof(ResetSystemInput) == 4);
 
-/// Filled by NetResetSystem.
+/// Given to NetResetSystem. The response has no content.
 struct ResetSystemOutput
 {
     std::uint32_t size; ///< sizeof(ResetSystemOutput), set by the caller
 };
 static_assert(sizeof(ResetSystemOutput) == 4);
 
-/// Given to NetModifyPassword. The fields are as long as those of a login.
+/// Given to NetModifyPassword: the account whose password changes, and both passwords. The fields are as long
+/// as those of LoginSecureInput. Strings are those of searchblocks.h.
 struct ModifyPasswordInput
 {
     std::uint32_t size; ///< sizeof(ModifyPasswordInput)

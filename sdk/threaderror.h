@@ -12,12 +12,13 @@ class ThreadError
 public:
     ThreadError();
 
-    /// Sets the code of the calling thread. Always returns false, for `return m_error.fail(...)`.
+    /// Sets the code of the calling thread, which its next failure replaces. Always returns false, for
+    /// `return m_error.fail(...)`.
     template<typename Error>
     requires std::is_enum_v<Error>
     bool fail(Error error) const { return failWith(static_cast<std::uint32_t>(error)); }
 
-    /// The code of the calling thread, 0 if nothing has failed on it.
+    /// The last code of the calling thread, 0 if fail() was not called on it.
     [[nodiscard]] std::uint32_t last() const;
 
 private:

@@ -3,12 +3,13 @@
 
 namespace sdk {
 
-/// To be called at the start of an application with a window, before it creates threads.
+/// States that this process has a window, so that giveWayToWindow() takes effect. To be called at the start
+/// of the application, before it creates threads.
 void expectWindow() noexcept;
 
-/// Lowers the priority of the calling thread, and of the threads that it creates: when all processors are
-/// busy, the threads that paint the window run first. Does nothing without expectWindow(), and on systems
-/// without such a priority of a thread.
+/// Lowers the priority of the calling thread, and of the threads that it creates afterwards, for their whole
+/// life: when all processors are busy, the threads that paint the window run first. Does nothing without
+/// expectWindow(), and on systems other than Linux. A repeated call has no further effect.
 void giveWayToWindow() noexcept;
 
 } // namespace sdk

@@ -6,7 +6,7 @@
 
 namespace sdk {
 
-/// The phase of an upgrade: Sending, Writing, Done. Failed can follow Sending or Writing.
+/// The phases of an upgrade, in the order Sending, Writing, Done. Failed may come instead of any of them.
 enum class UpgradePhase : std::int32_t
 {
     Sending = 1, ///< the file is sent to the device; the upgrade can be cancelled
@@ -20,14 +20,15 @@ struct UpgradeProgress
 {
     std::uint32_t size; ///< sizeof(UpgradeProgress)
     UpgradePhase phase;
-    std::int32_t percent; ///< of the phase, 0 to 100; 0 with Failed
-    std::uint32_t error;  ///< a NetError with Failed, else 0
+    std::int32_t percent; ///< of `phase`, 0 to 100; 0 with Failed
+    std::uint32_t error;  ///< a NetError with Failed, otherwise 0
 };
 static_assert(sizeof(UpgradeProgress) == 16);
 static_assert(offsetof(UpgradeProgress, error) == 12);
 
 /// Called on a thread of the library, one call at a time for each upgrade. `progress` is valid during the
-/// call. Done or Failed is the last call. After a cancelled upgrade neither is reported.
+/// call. Done or Failed is the last call. A cancelled upgrade reports neither of them. `user` is that of
+/// NetStartUpgrade.
 using UpgradeProgressHandler = void (*)(std::int64_t upgradeHandle, const UpgradeProgress *progress,
                                         void *user);
 
