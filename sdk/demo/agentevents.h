@@ -17,24 +17,31 @@ class Clock;
 
 namespace sdk::demo {
 
-/// Thread-safe, except that the caller must not run start() and stop() at the same time.
+/// Reports events to one handler, in the order of their addition. Thread-safe, except that the caller must
+/// not run start() and stop() at the same time. The destructor waits for a running handler.
 class AgentEvents
 {
 public:
-    /// The time from the start to the connection of the service, on the site's clock. Other events follow it.
+    /// The time from start() to the event ServiceConnected, on the site's clock. Added events are reported
+    /// after it.
     static constexpr std::chrono::milliseconds connectTime{100};
 
     /// `clock` must outlive the events.
     explicit AgentEvents(Clock &clock) : m_clock(clock) {}
 
+    /// Sets the handler of the events that are reported from now on; without one (null) they are dropped.
+    /// Does not wait for a running call of the previous handler.
     void setHandler(P2PAgentMessageHandler handler, void *user);
 
-    /// Returns false if the host provides no thread.
+    /// Starts the thread, which reports ServiceConnected after connectTime. To be called while it does not
+    /// run. Returns false if the host provides no thread.
     [[nodiscard]] bool start();
 
-    /// Drops unreported events and waits for a running handler. Must not be called from a handler.
+    /// Ends the thread: drops unreported events and waits for a running handler. No effect if the thread does
+    /// not run. Must not be called from a handler. start() may follow.
     void stop();
 
+    /// Adds an event and returns immediately.
     void add(P2PAgentEvent event, const QByteArray &deviceId, int localPort);
 
     /// Whether the calling thread is inside a handler of any port agent of this process.

@@ -25,14 +25,18 @@ namespace sdk::demo {
 
 class SiteState;
 
-/// Error codes are DemoError for misuse and NetError for failures of devices. Every request, even a malformed
-/// one, is added to the site's log. Reachable devices respond to logins, queries and requests immediately.
-/// Requests to unreachable devices end after a timeout on the site's clock, which NetCleanup, NetLogout and
-/// NetCancelCalls interrupt. No device is accessed over TLS: the certificate handler is not called.
+/// Error codes are DemoError for misuse and NetError for failures of devices. Every operation that concerns
+/// devices, even a malformed one, is added to the site's log; passwords are not (RequestLog).
+///
+/// Reachable devices respond to logins, queries and requests immediately, unless they have
+/// Fault::SlowAnswers. A request to an unreachable device fails after its complete `wait` on the site's
+/// clock. NetCleanup, NetLogout and NetCancelCalls end that wait. NetModifyDeviceBySearch does not check the
+/// account of the request. No device is accessed over TLS: the certificate handler is not called. Operations
+/// that must not be called from a handler detect it and fail with DemoError::InsideHandler.
 class DemoNetLibrary : public NetLibrary
 {
 public:
-    /// The timeout of a login to an unreachable address.
+    /// The timeout of a login to an unreachable address, on the site's clock.
     static constexpr std::chrono::milliseconds connectTime{3000};
     static_assert(connectTime <= longestLogin);
 
@@ -148,15 +152,18 @@ private:
                          std::chrono::milliseconds wait, SearchEnd searchEnd);
     void endEverything();
 
-    /// Returns the handle; on failure 0, with the error in m_error.
+    /// Logs in and adds `decoded` and the login to the log. Returns the handle of the session; on failure 0,
+    /// with the error in m_error.
     std::int64_t login(const char *operation, QJsonObject decoded, const LoginRequest &request,
                        LoginDeviceInformation &device);
 
-    /// The device of a session, if it accepts requests; otherwise nullopt, with the error in m_error.
+    /// Waits for the response of a session's device. Returns the device; nullopt, with the error in m_error,
+    /// if it does not respond within `wait` or does not accept the session.
     std::optional<SceneDevice> askedDevice(const CallGate::Call &call,
                                            const std::optional<DemoSession> &session,
                                            std::chrono::milliseconds wait);
-    /// Calls `change` with the device of a session; it returns the error of a refusal.
+    /// Calls `change` with the device of a session, once it has responded. `change` returns the error of a
+    /// refusal, None if the device is changed. Returns false on failure, with the error in m_error.
     bool maintain(const CallGate::Call &call, const std::optional<DemoSession> &session,
                   std::chrono::milliseconds wait, const std::function<NetError(SceneDevice &device)> &change);
     bool fetchConfig(const CallGate::Call &call, const std::optional<DemoSession> &session,
@@ -176,17 +183,20 @@ private:
     NetError waitForDevice(const CallGate::Call &call, const DemoSession &session,
                            std::chrono::milliseconds wait, std::optional<SceneDevice> &device);
 
-    /// As Clock::wait(). A CallStop of this thread ends it as well.
+    /// As Clock::wait(). A CallStop of this thread ends it as well, within 100 ms of the site's clock.
     bool waitUnlessStopped(std::chrono::milliseconds duration, const std::stop_token &stop) const;
 
-    /// Waits for the delay of a slow device. Returns false if it exceeds `wait`, and on a stop.
+    /// Waits for the delay of a slow device, at most `wait`. Returns false if the delay exceeds `wait`, and
+    /// on a stop.
     bool waitForResponse(const std::stop_token &stop, const SceneDevice &device,
                          std::chrono::milliseconds wait) const;
 
-    /// Counts a request with an accepted password.
+    /// Counts a request with an accepted password, for Fault::PasswordChangesAfter.
     void noteRequest(const SceneDevice &device);
 
-    /// Whether `mac` responds to a request without a login; otherwise the error is in m_error.
+    /// Waits for the response of the device `mac` to a request without a session. `fromOtherSegment` also
+    /// reaches devices of the other segment. Returns false, with the error in m_error, if it does not
+    /// respond.
     bool responds(const CallGate::Call &call, const QString &mac, bool fromOtherSegment,
                   std::chrono::milliseconds wait);
 

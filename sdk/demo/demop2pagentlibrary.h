@@ -18,8 +18,10 @@ namespace sdk::demo {
 class HttpPort;
 class HttpResponder;
 
-/// Maps ports of the site's devices with a P2P ID to TCP ports of 127.0.0.1. A local port of a device's web
-/// port serves HTTP. Every request is added to the site's log, the server secret only as its length.
+/// Maps ports of the site's devices with a P2P ID to TCP ports of 127.0.0.1. A local port that is mapped to a
+/// device's web port serves HTTP. At any other local port, connections are closed immediately: sessions reach
+/// their device through SiteState::tunnel(), without a connection. Every call of an operation is added to the
+/// site's log, the server secret only as its length. Thread-safe.
 class DemoP2PAgentLibrary : public P2PAgentLibrary
 {
 public:
@@ -37,11 +39,11 @@ public:
     bool OAgent_ClientDelPort(std::int32_t localPort) override;
     void OAgent_ClientRelease() override;
 
-    /// The target of `localPort`; nullopt for a port that the agent has not opened.
+    /// The target of `localPort`; nullopt for a port that the agent has not opened or has closed.
     [[nodiscard]] std::optional<Tunnel> tunnel(int localPort) const;
 
-    /// Breaks the tunnel behind `localPort` permanently and reports the event. Returns false without such a
-    /// tunnel.
+    /// Breaks the tunnel behind `localPort` permanently (Tunnel::isBroken) and reports TunnelBroken. Returns
+    /// false if the port is not open, or the tunnel is broken already.
     bool breakTunnel(int localPort);
 
 private:

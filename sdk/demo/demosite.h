@@ -18,27 +18,29 @@ class DemoP2PAgentLibrary;
 class HttpPort;
 class HttpResponder;
 
-/// Thread-safe. The libraries keep the site alive; the last of them must not be released inside a handler.
+/// Thread-safe. The network library and the port agent keep the site alive. The last reference to the site or
+/// to one of them must not be released inside a handler: the destructor waits for handlers.
 class DemoSite final : public SiteState, public std::enable_shared_from_this<DemoSite>
 {
 public:
-    /// The scene names of open(), the default first: "office", ..., "fleet:N".
+    /// The scene names that open() accepts, the default first: "office", ..., and at the end "fleet:N", in
+    /// which N stands for a number of devices. For lists of choices and error messages.
     [[nodiscard]] static QStringList knownScenes();
 
-    /// Opens a built-in scene, a fleet ("fleet:500", 1 to 20000 devices), or the scene file at a path.
-    /// Returns null on failure and sets `error` (may be null) to a sentence with the reason. `clock` is not
-    /// null; it is the clock of the complete site.
+    /// Opens a built-in scene, a fleet ("fleet:500", 1 to maximumSceneDevices), or the scene file at a path.
+    /// Returns null on failure and sets `error` (may be null) to an English sentence with the reason; on
+    /// success `error` is set to an empty string. `clock` is not null; it is the clock of the complete site.
     [[nodiscard]] static std::shared_ptr<DemoSite> open(const QString &sceneNameOrFile,
                                                         std::shared_ptr<Clock> clock, QString *error);
 
-    /// A site of a given scene.
+    /// A site of a given scene. `clock` as in open().
     [[nodiscard]] static std::shared_ptr<DemoSite> create(const Scene &scene, std::shared_ptr<Clock> clock);
 
     ~DemoSite() override;
     DemoSite(const DemoSite &) = delete;
     DemoSite &operator=(const DemoSite &) = delete;
 
-    /// The libraries of the site. Every call returns the same objects.
+    /// The libraries of the site. The decoder is null. Every call returns the same objects.
     [[nodiscard]] SdkLibraries libraries();
 
     [[nodiscard]] std::optional<Tunnel> tunnel(int localPort) const override;
@@ -47,7 +49,8 @@ public:
     [[nodiscard]] DemoP2PAgentLibrary &portAgent() const { return *m_portAgent; }
 
     /// The URL of the HTTP proxy to the devices' web services: "http://127.0.0.1:40123". The first call opens
-    /// the proxy, which closes with the site. Empty if the host provides no port.
+    /// the proxy, which closes with the site. Empty if the host provides no port or thread; the next call
+    /// tries again.
     [[nodiscard]] QString httpProxy();
 
     /// The responder of the proxy and of the port agent's tunnels.

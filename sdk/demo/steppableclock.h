@@ -1,4 +1,5 @@
-// A clock for tests that advances only by steps: waits end without sleeping.
+// A clock for tests that advances only by the steps of advance(): a wait ends with the step that reaches its
+// end, independent of real time.
 #pragma once
 
 #include "sdk/clock.h"
@@ -14,6 +15,7 @@ public:
     /// 2024-01-01T00:00:00Z.
     static constexpr std::int64_t defaultStart = 1704067200000;
 
+    /// `start` in ms since 1970.
     explicit SteppableClock(std::int64_t start = defaultStart) : m_now(start) {}
 
     using Clock::wait;
@@ -21,14 +23,15 @@ public:
     bool wait(std::chrono::milliseconds duration, const std::stop_token &stop) override;
     bool waitUntil(std::int64_t time, const std::stop_token &stop) override;
 
-    /// Advances the clock. A negative step is ignored.
+    /// Advances the clock and wakes the threads whose time has come; does not wait for them. A negative step
+    /// is ignored.
     void advance(std::chrono::milliseconds step);
 
     /// The number of threads that wait for a later step. A thread whose time has come is not counted, even
     /// before it runs again.
     [[nodiscard]] int waiters() const;
 
-    /// Blocks until exactly `count` threads wait. Returns false after `timeout` of real time.
+    /// Blocks until waiters() is exactly `count`. Returns false after `timeout` of real time.
     [[nodiscard]] bool waitForWaiters(int count,
                                       std::chrono::milliseconds timeout = std::chrono::seconds(10)) const;
 

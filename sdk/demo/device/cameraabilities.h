@@ -7,11 +7,13 @@
 
 namespace sdk::demo {
 
-/// From the scene's capabilities ("camera"), otherwise those of a typical camera or recorder.
+/// The capabilities of every camera of the device. The groups are those of the scene's capabilities
+/// ("camera"), otherwise those of a typical camera or recorder. With Fault::OddCapabilities some values are
+/// invalid.
 [[nodiscard]] CameraCapabilities cameraCapabilities(const SceneDevice &device);
 
-/// The default block of a camera item; nullopt if the device does not support the item, or `itemKey` is not
-/// the key of a camera item.
+/// The default block of a camera item. Returns nullopt if the device does not support the item, if `itemKey`
+/// is not the key of a camera item, or if its selector is not a CameraMode. The channel is not checked.
 [[nodiscard]] std::optional<QByteArray> usualCameraItem(const SceneDevice &device, const ItemKey &itemKey);
 
 } // namespace sdk::demo

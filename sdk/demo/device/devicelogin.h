@@ -12,22 +12,26 @@
 
 namespace sdk::demo {
 
-/// The two kinds of login, whose error codes differ.
+/// The two kinds of login, whose error codes for a wrong password and an account with a session differ.
 enum class LoginKind
 {
-    First,
-    Secure,
+    First,  ///< NetLogin: WrongPassword, AccountLoggedIn
+    Secure, ///< NetLoginSecure: WrongPasswordSecure or WrongPasswordTriesLeft, AccountLoggedInSecure
 };
 
-/// Counts the wrong passwords of accounts that may lock. Thread-safe.
+/// Checks logins, and counts the wrong passwords for devices with Fault::AccountLocked. Thread-safe.
 class LoginGuard
 {
 public:
-    /// NetError::None if `device` accepts the account, otherwise the error of the kind of login for a wrong
-    /// password or, with Fault::AccountLoggedIn, for an account with a session. NoSuchAccount for an unknown
-    /// account, NotSupported for an uninitialised device. With Fault::AccountLocked, the last attempt before
-    /// the account locks fails as a wrong password; from then on the right password fails, too, with
-    /// AccountLocked.
+    /// Returns None if `device` accepts the login, otherwise the error of the first check that fails:
+    ///
+    /// - NotSupported for an uninitialised device.
+    /// - NoSuchAccount for an unknown account.
+    /// - AccountLocked, with Fault::AccountLocked, if FaultSetting::number wrong passwords were given since
+    ///   the last right one. From then on the right password is not accepted either.
+    /// - The error of `kind` for a wrong password. With Fault::AccountLocked, LoginKind::Secure returns
+    ///   WrongPasswordTriesLeft if the account does not lock after this attempt.
+    /// - The error of `kind` for an account with a session, with Fault::AccountLoggedIn.
     [[nodiscard]] NetError check(const SceneDevice &device, const QString &account, const QString &password,
                                  LoginKind kind);
 
@@ -39,10 +43,11 @@ private:
     QHash<std::pair<QString, QString>, int> m_wrongTries; // by MAC and account
 };
 
-/// The account `user` of `device`; null without one.
+/// The account `user` of `device`, which owns it; null without one.
 [[nodiscard]] const SceneAccount *accountOf(const SceneDevice &device, const QString &user);
 
-/// The device information in the response to a login. `throughTunnel` sets its loginKind.
+/// The device information in the response to a login, with the device's faults applied to its strings.
+/// `throughTunnel` sets its loginKind. An unknown type has a deviceType of 0.
 [[nodiscard]] LoginDeviceInformation loginInformation(const SceneDevice &device, bool throughTunnel);
 
 } // namespace sdk::demo

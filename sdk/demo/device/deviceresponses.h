@@ -11,17 +11,23 @@ namespace sdk::demo {
 
 inline constexpr int usualHttpsPort = 443;
 
-/// The HTTPS port of a device's web service, from its configuration "Https"; 0 if HTTPS is disabled.
+/// The HTTPS port of a device's web service, from its configuration "Https"; usualHttpsPort if that has no
+/// port; 0 if HTTPS is disabled, the default.
 [[nodiscard]] int httpsPortOf(const SceneDevice &device);
 
+/// With the device's faults applied to its strings.
 [[nodiscard]] DeviceAttributes deviceAttributes(const SceneDevice &device);
+
+/// The web port is 0 for a device without a web service, the RTSP port is always 554.
 [[nodiscard]] NetworkServices networkServices(const SceneDevice &device);
 
-/// The time of the device's clock at `now` of the site's clock.
+/// The time that the device's clock shows at `now` (ms since 1970) of the site's clock.
 [[nodiscard]] TimeRecord deviceTime(const SceneDevice &device, std::int64_t now);
 
-/// The configuration `name` as JSON: the device's own state, overridden by the scene's "configuration" of
-/// that name. `channel` is for configurations of channels. nullopt for an unknown name or channel.
+/// The text of the configuration `name`: a JSON object of the device's own state, in which the keys of
+/// SceneDevice::configuration replace those of the same names. By Fault::OddConfiguration the text is not
+/// JSON, by Fault::OverLongConfiguration it is longer than longestConfigText. `channel` (from 0) is used for
+/// configurations of channels only. Returns nullopt for an unknown name or channel.
 [[nodiscard]] std::optional<QByteArray> configurationText(const SceneDevice &device, const QString &name,
                                                           std::int32_t channel = -1);
 

@@ -8,31 +8,36 @@
 
 namespace sdk::demo {
 
-/// One kind of stream, from the scene's capabilities ("encode": "main", "sub") or those of a typical camera.
+/// The capabilities of the encoder for one kind of stream.
 struct StreamAbilities
 {
-    QList<int> compressions; ///< compression codes
-    QList<int> profiles;     ///< of H.264, 1 to 4
+    QList<int> compressions; ///< compression codes (encodeblocks.h)
+    QList<int> profiles;     ///< of H.264, 1 to 4; empty: the device accepts any
     QList<FrameSize> sizes;
-    QMap<int, QList<FrameSize>> sizesByCompression; ///< replaces `sizes` unless it is empty
+    QMap<int, QList<FrameSize>> sizesByCompression; ///< by compression code; replaces `sizes` unless empty
     int minimumBitRate = 0;                         ///< kbit/s
     int maximumBitRate = 0;                         ///< kbit/s
     int maximumFrameRate = 0;                       ///< frames per second
-    QList<int> audioFormats;                        ///< as EncodeCapabilityBlock::audioFormats
-    QList<int> samplingFrequencies;                 ///< Hz
+    QList<int> audioFormats;        ///< codes of EncodeCapabilityBlock::audioFormats; empty: without audio
+    QList<int> samplingFrequencies; ///< Hz, for every format; empty: the device accepts any
 
+    /// The frame sizes with a compression code.
     [[nodiscard]] QList<FrameSize> sizesOf(int compression) const
     {
         return sizesByCompression.isEmpty() ? sizes : sizesByCompression.value(compression);
     }
 
-    /// The encoder's highest bit rate for a frame size in pixels, in kbit/s.
+    /// The encoder's highest bit rate in kbit/s for a frame size in pixels: proportional to the size, between
+    /// minimumBitRate and maximumBitRate. maximumBitRate for a side of 0 or less.
     [[nodiscard]] int maximumBitRateOf(int width, int height) const;
 };
 
+/// The capabilities for `kind` in the scene ("encode": "sub" for Sub, "main" for the other kinds); a missing
+/// key has the value of a typical camera.
 [[nodiscard]] StreamAbilities streamAbilities(const SceneDevice &device, StreamKind kind);
 
-/// The capability block of a stream with the settings `format`.
+/// The capability block of a stream. Its maximum bit rate is that for the frame size in `format`. With
+/// Fault::OddCapabilities some values are invalid.
 [[nodiscard]] EncodeCapabilityBlock capabilityBlock(const SceneDevice &device, StreamKind kind,
                                                     const EncodeStreamRecord &format);
 
@@ -43,7 +48,8 @@ struct StreamAbilities
 [[nodiscard]] AudioCompressionItem usualAudioCompression(const SceneDevice &device, StreamKind kind);
 [[nodiscard]] AudioFormatItem usualAudioFormat(const SceneDevice &device, StreamKind kind);
 
-// Whether the device accepts an item, by its capabilities and its faults.
+// Whether the device accepts an item, by its capabilities and its faults. False if the word "stream" of the
+// item is not streamNumber() of a kind.
 
 [[nodiscard]] bool takes(const SceneDevice &device, const VideoFormatItem &item);
 [[nodiscard]] bool takes(const SceneDevice &device, const VideoProfileItem &item);

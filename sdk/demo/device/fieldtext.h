@@ -13,6 +13,7 @@
 
 namespace sdk::demo {
 
+/// The string of a field, from the local 8-bit encoding.
 template<std::size_t size>
 [[nodiscard]] QString textOf(const std::array<char, size> &field)
 {
@@ -20,6 +21,8 @@ template<std::size_t size>
     return QString::fromLocal8Bit(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+/// Writes `text` in the local 8-bit encoding. A string that does not fit with its terminating zero is
+/// truncated.
 template<std::size_t size>
 void writePlain(std::array<char, size> &field, const QString &text)
 {
@@ -27,7 +30,9 @@ void writePlain(std::array<char, size> &field, const QString &text)
     setBlockText(field, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
 }
 
-/// Writes strings to fields with the device's faults applied.
+/// Writes strings to fields with the device's faults applied: with Fault::OddBytes unusual bytes are
+/// appended, with Fault::OverLongTexts the string is repeated up to the last byte of the field. Without these
+/// faults it writes as writePlain().
 class FieldWriter
 {
 public:

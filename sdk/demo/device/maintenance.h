@@ -12,37 +12,43 @@ namespace sdk::demo {
 /// The duration of a reboot, unless the device has Fault::RebootTakes.
 inline constexpr std::chrono::seconds usualReboot{20};
 
-// A returned error is NetError::None, or NotSupported if the device refuses and stays unchanged. `now` is the
-// time on the site's clock, in ms since 1970.
+// A returned error is NetError::None, or NotSupported if the device refuses and stays unchanged. It refuses
+// invalid values, and by its faults. `now` is the time on the site's clock, in ms since 1970. Sessions are
+// not changed: after a reboot the caller ends them.
 
 /// Sets the device's clock, which continues from that time.
 [[nodiscard]] NetError setDeviceTime(SceneDevice &device, const TimeRecord &time, std::int64_t now);
 
 [[nodiscard]] NetError setVideoStandard(SceneDevice &device, VideoStandard standard);
 
-/// Overrides the keys in `text` of the configuration `name` of the device. An unknown name, and JSON that its
-/// record cannot hold, are refused.
+/// Stores the keys in `text` (JSON) of the configuration `name` of the device itself, not of a channel; its
+/// other keys keep their values. An unknown name, and a text that unpackConfigText() refuses, are refused.
 [[nodiscard]] NetError setConfiguration(SceneDevice &device, const QString &name, const QByteArray &text);
 
+/// The device is offline from `now` on, for usualReboot or the time of Fault::RebootTakes.
 [[nodiscard]] NetError reboot(SceneDevice &device, std::int64_t now);
 
-/// The same after a short delay, so that the HTTP client receives the response, also to a repeated request.
+/// The same two seconds later, so that the client still receives the response. A repeated request before that
+/// time is accepted and does not delay the reboot.
 [[nodiscard]] NetError rebootAfterResponse(SceneDevice &device, std::int64_t now);
 
 /// The device deletes its accounts, its configuration and the settings of its channels, and reboots. It keeps
-/// its address and its clock. It is uninitialised afterwards; a device without initialisation has the account
-/// "admin" with the password "admin".
+/// its address, its name, its clock and its faults. It is uninitialised afterwards. A device without
+/// initialisation (NotReported) has the account "admin" with the password "admin" instead.
 [[nodiscard]] NetError resetToFactory(SceneDevice &device, std::int64_t now);
 
-/// The device installs the firmware and reboots.
+/// The device has the version of the firmware and reboots. With Fault::UpgradeKeepsVersion it keeps its
+/// version, with Fault::UpgradeNeverReturns it stays offline.
 void installFirmware(SceneDevice &device, const FirmwareHead &firmware, std::int64_t now);
 
-/// A wrong old password, an unknown user and an empty new password are refused.
+/// Changes the password of the account `user`. A wrong old password, an unknown user and an empty new
+/// password are refused.
 [[nodiscard]] NetError changePassword(SceneDevice &device, const QString &user, const QString &oldPassword,
                                       const QString &newPassword);
 
-/// Records that the device has accepted a password for a login or a request. With Fault::PasswordChangesAfter
-/// this may have been the last time: from then on its passwords end with "-2".
+/// Records that the device has accepted a password for a login or a request. When that was the last time that
+/// Fault::PasswordChangesAfter allows, "-2" is appended to the passwords of all accounts, and the fault is
+/// cleared. No effect without that fault.
 void noteLogin(SceneDevice &device);
 
 } // namespace sdk::demo

@@ -1,12 +1,12 @@
-// The blocks of a response to a search.
+// The block of a device's response to a search.
 #pragma once
 
 #include "sdk/demo/scene/scene.h"
 
 namespace sdk::demo {
 
-/// The response of `device` for `ipVersion` (4 or 6), by its state and its faults. `localAddress` is the
-/// address of this host that receives it.
+/// The response of `device` with its address of `ipVersion` (4 or 6). Faults change its strings, except for
+/// the addresses and the MAC. `localAddress` is the address of this host that receives the response.
 [[nodiscard]] SearchResponse searchResponse(const SceneDevice &device, int ipVersion,
                                             const QString &localAddress);
 

@@ -8,7 +8,7 @@
 
 namespace sdk::demo {
 
-/// Not thread-safe. A shutdown() of its socket on another thread ends its waits.
+/// Used by one thread. A shutdown() of its socket on another thread ends receive() and send().
 class ByteStream
 {
 public:
@@ -17,19 +17,20 @@ public:
     ByteStream &operator=(const ByteStream &) = delete;
     virtual ~ByteStream() = default;
 
-    /// Waits for bytes, up to `patience`. Returns their number; 0 or less at the end of the stream and after
-    /// a timeout.
+    /// Waits for bytes, up to `patience` of real time, and receives up to `size` of them. Returns their
+    /// number; 0 or less at the end of the stream, after a timeout and on an error.
     [[nodiscard]] virtual ssize_t receive(char *bytes, std::size_t size,
                                           std::chrono::milliseconds patience) = 0;
 
-    /// Returns the number of sent bytes; 0 or less if the connection is closed.
+    /// Blocks until the connection takes bytes, up to the socket's SO_SNDTIMEO. Returns the number of sent
+    /// bytes, which may be less than `size`; 0 or less if the connection is closed, and after that time.
     [[nodiscard]] virtual ssize_t send(const char *bytes, std::size_t size) = 0;
 
-    /// Ends the sending direction.
+    /// Ends the sending direction: the client receives the end of the stream. receive() still works.
     virtual void finishSending() = 0;
 };
 
-/// Over a connected socket, which the caller closes.
+/// Unencrypted, over a connected socket, which the caller closes after the destruction of the stream.
 class PlainStream : public ByteStream
 {
 public:
@@ -43,7 +44,8 @@ private:
     const int m_socket;
 };
 
-/// Whether bytes, or the end, can be received within `patience`.
+/// Whether bytes, or the end of the stream, can be received within `patience` of real time. Blocks until
+/// then.
 [[nodiscard]] bool isReadable(int socket, std::chrono::milliseconds patience);
 
 } // namespace sdk::demo

@@ -11,13 +11,15 @@ struct ssl_st;
 
 namespace sdk::demo {
 
-/// The key of a device and its self-signed certificate. Thread-safe.
+/// The key of a device and its self-signed certificate, as a TLS context. Immutable, thread-safe.
 class DeviceKey
 {
 public:
-    /// Generates a key. Returns null if the library fails. `name` is the common name of the certificate.
+    /// Generates a key and a certificate that is valid for ten years. `name` is the common name of the
+    /// certificate (UTF-8). Returns null if the TLS library fails.
     [[nodiscard]] static std::shared_ptr<const DeviceKey> make(const std::string &name);
 
+    /// Owned by this object.
     [[nodiscard]] ssl_ctx_st *context() const { return m_context.get(); }
 
 private:
@@ -26,16 +28,17 @@ private:
     const std::shared_ptr<ssl_ctx_st> m_context;
 };
 
-/// The device's end of a TLS connection.
+/// The device's end of a TLS connection. Bytes may be received and sent after a successful accept().
 class EncryptedStream : public ByteStream
 {
 public:
-    /// `socket` is connected and blocking; the caller closes it.
+    /// `socket` is connected and blocking; the caller closes it after the destruction of the stream.
     EncryptedStream(int socket, std::shared_ptr<const DeviceKey> key);
     ~EncryptedStream() override;
 
-    /// Performs the handshake. Returns false if the client refuses the certificate or does not use TLS. From
-    /// then on SIGPIPE is blocked on the calling thread.
+    /// Performs the handshake, and blocks until its end or a timeout of the socket. Returns false if the
+    /// client refuses the certificate, does not use TLS or does not continue. Blocks SIGPIPE on the calling
+    /// thread permanently.
     [[nodiscard]] bool accept();
 
     [[nodiscard]] ssize_t receive(char *bytes, std::size_t size, std::chrono::milliseconds patience) override;

@@ -11,30 +11,34 @@
 
 namespace sdk::demo {
 
+/// The result of checking the credentials of a request.
 struct HttpCredentials
 {
-    bool areValid = false;
-    bool areStale = false; ///< valid except for an expired nonce
+    bool areValid = false; ///< the request may be run
+    bool areStale = false; ///< not valid, but only because the nonce has expired
     QString kind;          ///< "none", "basic" or "digest": the scheme of the request
-    QString user;          ///< as in the request
+    QString user;          ///< as in the request, also if unknown; empty without credentials
 };
 
 /// Stateless: a nonce contains the time of its creation and its device. Thread-safe.
 class HttpAuthentication
 {
 public:
-    /// The lifetime of a nonce.
+    /// The lifetime of a nonce, on the site's clock.
     static constexpr std::chrono::milliseconds nonceLife = std::chrono::minutes(5);
 
+    /// Generates the secret of the nonces: a nonce of another object is not accepted.
     HttpAuthentication();
 
-    /// Checks the header "Authorization" of `request`. An uninitialised device accepts no credentials. `now`
-    /// is the time on the site's clock, in ms since 1970.
+    /// Checks the header "Authorization" of `request`. Only the scheme of the device is accepted. A device
+    /// that is uninitialised or has Fault::WrongPassword accepts no credentials. `now` is the time on the
+    /// site's clock, in ms since 1970.
     [[nodiscard]] HttpCredentials check(const SceneDevice &device, const HttpRequest &request,
                                         std::int64_t now) const;
 
     /// The complete line of the header "WWW-Authenticate" with the challenge of the device's scheme, without
-    /// a line end. With `isStale` it reports that the nonce of the last request has expired.
+    /// a line end. With `isStale` (HttpCredentials::areStale) the line reports that the nonce of the request
+    /// has expired. `now` as in check().
     [[nodiscard]] QByteArray challenge(const SceneDevice &device, bool isStale, std::int64_t now) const;
 
 private:

@@ -9,8 +9,10 @@ namespace sdk::demo {
 
 class SiteState;
 
-/// Runs the command of `target` on the device and returns the response. An invalid or unknown parameter
-/// changes nothing; the response names it.
+/// Runs the command of `target` on the device `mac` and returns the response. Locks the site for changes, so
+/// the caller must not hold its lock. The caller has checked the credentials. An unknown command, or device,
+/// has a response with HttpStatus::NotFound. With an invalid or unknown parameter, and if the device refuses,
+/// nothing changes: the response has HttpStatus::BadRequest and a sentence with the reason.
 [[nodiscard]] HttpResponse runHttpCommand(SiteState &site, const QString &mac, const HttpTarget &target);
 
 } // namespace sdk::demo

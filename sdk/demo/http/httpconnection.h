@@ -12,18 +12,21 @@
 
 namespace sdk::demo {
 
-/// Responds to the requests of a connection, one after another, on the calling thread. It ends with the
-/// client, after an invalid request, after a timeout, and soon after a stop together with shutdown(socket).
+/// Responds to the requests of a connection, one after another, on the calling thread. The connection ends
+/// when the client closes it, after an invalid request, after a timeout, and soon after a stop that is
+/// followed by shutdown(socket).
 class HttpConnection
 {
 public:
-    /// The timeout of an incomplete request, and between two requests.
+    /// The timeout of an incomplete request, and between two requests, in real time.
     static constexpr std::chrono::seconds requestTime{15};
 
-    /// `responder` must outlive the connection. `socket` is connected; the caller closes it. `localPort` is
-    /// as in HttpRoute.
+    /// `responder` must outlive the connection. `socket` is connected; the caller closes it after serve().
+    /// `localPort` is HttpRoute::localPort.
     HttpConnection(HttpResponder &responder, int socket, int localPort, std::stop_token stop);
 
+    /// Serves the connection and returns at its end. To be called once. Returns immediately if `localPort`
+    /// does not accept HTTP.
     void serve();
 
 private:

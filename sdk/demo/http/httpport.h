@@ -13,19 +13,19 @@ namespace sdk::demo {
 
 class HttpResponder;
 
-/// Listens on one thread and serves each connection on another. The destructor closes the port and
-/// immediately ends the connections, even during a response. Its caller must not hold a lock that the
-/// responses need.
+/// Listens on one thread and serves each connection on a thread of its own. The destructor closes the port,
+/// ends the connections, even during a response, and joins the threads. Its caller must not hold a lock that
+/// the responses need, such as that of the site.
 class HttpPort
 {
 public:
-    /// Further clients are refused.
+    /// The number of simultaneous connections. A further connection is closed immediately.
     static constexpr std::size_t mostConnections = 128;
 
     enum class Role
     {
-        Proxy,  ///< of the complete site
-        Tunnel, ///< to the device behind a local port of the port agent
+        Proxy,  ///< to the web services of all devices of the site
+        Tunnel, ///< a local port of the port agent: to the web service of one device
     };
 
     /// Listens at `port`, 0 for any free port. Returns null if the port is in use, or the host provides no
@@ -36,6 +36,7 @@ public:
     HttpPort(const HttpPort &) = delete;
     HttpPort &operator=(const HttpPort &) = delete;
 
+    /// The port that was opened.
     [[nodiscard]] int port() const { return m_listener->port(); }
 
 private:

@@ -19,28 +19,29 @@ namespace sdk::demo {
 
 class SiteState;
 
-/// The destination of a connection.
+/// The destination of a connection: the proxy, a local port of the port agent, or a device behind the proxy's
+/// tunnel.
 struct HttpRoute
 {
-    int localPort = 0; ///< of the port agent, or HttpResponder::proxy
+    int localPort = 0; ///< a local port of the port agent, or HttpResponder::proxy
     QString host = {}; ///< address of the device for a tunnel through the proxy; otherwise empty
-    int port = 0;      ///< port of the device for such a tunnel
+    int port = 0;      ///< HTTPS port of the device for a tunnel through the proxy; otherwise 0
 };
 
 /// The result of a request for a tunnel through the proxy.
 struct HttpTunnel
 {
-    HttpResponse refusal = {}; ///< the response without a key
-    HttpRoute route = {};
+    HttpResponse refusal = {}; ///< the response to the client if `key` is null; its status may be None
+    HttpRoute route = {};      ///< of the later requests through the tunnel
     std::shared_ptr<const DeviceKey> key = {}; ///< of the device; null if the tunnel is refused
 };
 
-/// Thread-safe.
+/// Locks the site during its functions, so a caller must not hold the site's lock. Thread-safe.
 class HttpResponder
 {
 public:
-    /// The time until a request without a response ends, on the site's clock. It is longer than the timeouts
-    /// of clients.
+    /// The time, on the site's clock, for which HttpConnection keeps a connection open whose request gets no
+    /// response. It is longer than the timeouts of clients.
     static constexpr std::chrono::milliseconds silence = std::chrono::seconds(10);
 
     /// Stands for the proxy where a local port of the port agent is expected.
@@ -49,17 +50,19 @@ public:
     /// `site` must outlive the responder.
     explicit HttpResponder(SiteState &site) : m_site(site) {}
 
+    /// The site's clock.
     [[nodiscard]] Clock &clock() const;
 
-    /// Whether `localPort` accepts HTTP: the proxy, and a port of the port agent for a device's web port.
+    /// Whether `localPort` accepts HTTP: true for `proxy`, and for a local port that is mapped to a device's
+    /// web port.
     [[nodiscard]] bool isHttpPort(int localPort) const;
 
-    /// Responds to a request over `route` and adds it to the site's log. HttpStatus::None for a request
-    /// without a response.
+    /// Checks the credentials of a request over `route`, runs its command and adds the request to the site's
+    /// log as "HTTP". Returns the response; its status is None if the device is silent.
     [[nodiscard]] HttpResponse respond(const HttpRoute &route, const HttpRequest &request) const;
 
-    /// Opens the tunnel of a request "CONNECT" to the proxy and adds the request to the site's log. The
-    /// tunnel leads to the HTTPS port of a device.
+    /// Decides about a request "CONNECT" to the proxy and adds it to the site's log as "HTTP". A tunnel leads
+    /// to the HTTPS port of a device. It is refused for any other destination.
     [[nodiscard]] HttpTunnel openTunnel(const HttpRequest &request);
 
 private:

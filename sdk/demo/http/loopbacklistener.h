@@ -7,11 +7,13 @@
 
 namespace sdk::demo {
 
-/// Accepts connections on a separate thread. The destructor closes the port and joins the thread.
+/// Accepts connections on a separate thread. The destructor closes the port and joins the thread, so it waits
+/// for a running ConnectionTaker; it does not close accepted connections.
 class LoopbackListener
 {
 public:
-    /// Takes the ownership of a socket that was accepted at `port`. Called on the listener's thread.
+    /// Takes the ownership of a connected, blocking socket that was accepted at `port`, the port of the
+    /// listener. Called on the listener's thread, which accepts the next connection after the return.
     using ConnectionTaker = std::function<void(int socket, int port)>;
 
     /// Listens at `port`, 0 for any free port. Returns null if the port is in use, or the host provides no
@@ -22,6 +24,7 @@ public:
     LoopbackListener(const LoopbackListener &) = delete;
     LoopbackListener &operator=(const LoopbackListener &) = delete;
 
+    /// The port that was opened.
     [[nodiscard]] int port() const { return m_port; }
 
 private:

@@ -5,16 +5,17 @@
 
 namespace sdk::demo {
 
-/// Four decimal octets, without leading zeros.
+/// Whether `text` is four decimal octets with dots, without leading zeros. True for "0.0.0.0".
 [[nodiscard]] bool isIpv4Address(const QString &text);
 
-/// A dotted mask with all ones before all zeros.
+/// Whether `text` is a dotted mask with all ones before all zeros. True for "0.0.0.0" and "255.255.255.255".
 [[nodiscard]] bool isIpv4Mask(const QString &text);
 
 /// The canonical form of an IPv6 address; empty for an invalid one. Zones ("%eth0") are not accepted.
 [[nodiscard]] QString canonicalIpv6Address(const QString &text);
 
-/// Lower-case "02:1a:c5:00:40:17"; empty for anything except six pairs of hexadecimal digits with colons.
+/// The MAC in lower case: "02:1a:c5:00:40:17". Empty if `text` is not six pairs of hexadecimal digits with
+/// colons.
 [[nodiscard]] QString canonicalMac(const QString &text);
 
 } // namespace sdk::demo

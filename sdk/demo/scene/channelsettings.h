@@ -12,14 +12,14 @@ namespace sdk::demo {
 /// The key of an item of a device.
 struct ItemKey
 {
-    std::uint32_t item = 0;
-    std::int32_t channel = 0;
-    std::int32_t selector = 0; ///< stream or mode; 0 for items without either
+    std::uint32_t item = 0;    ///< EncodeItem or CameraItem
+    std::int32_t channel = 0;  ///< from 0
+    std::int32_t selector = 0; ///< the item's word "stream" (from 1) or "mode" (from 0); 0 without either
 
     auto operator<=>(const ItemKey &) const = default;
 };
 
-/// Blocks of items that were written. Other items have the device's defaults.
+/// The items that were written, each with the bytes of its block. Other items have the device's defaults.
 using ChannelSettings = QMap<ItemKey, QByteArray>;
 
 } // namespace sdk::demo

@@ -1,4 +1,4 @@
-// The faults of simulated devices.
+// The faults of simulated devices: deviations from the usual behaviour, for demonstrations and tests.
 #pragma once
 
 #include <QString>
@@ -8,25 +8,27 @@
 
 namespace sdk::demo {
 
+/// The comments state the behaviour of a device with the fault. `number` and `text` are those of
+/// FaultSetting. "Refuses" means that the request fails and changes nothing.
 enum class Fault
 {
-    NoAnswer,              ///< no response to searches, logins and requests
+    NoAnswer,              ///< sends no response to searches, logins, requests and HTTP
     LateAnswer,            ///< search responses are sent `number` ms after the device's latency
     AnswerTwice,           ///< every search response is sent twice
     WrongPassword,         ///< no password is accepted
-    AccountLocked,         ///< the account locks after `number` wrong passwords
-    AccountLoggedIn,       ///< every account has a session already
-    NotInitialised,        ///< the device reports that it is not initialised
+    AccountLocked,         ///< an account locks permanently after `number` wrong passwords
+    AccountLoggedIn,       ///< refuses logins: every account has a session already
+    NotInitialised,        ///< is not initialised, and refuses logins
     RefusesInitialisation, ///< refuses the initialisation
     RefusesAddressChange,  ///< refuses a new address
     RefusesItem,           ///< refuses to write item `number`
     WithholdsItem,         ///< does not report item `number`
     RefusesBitRatesAbove,  ///< refuses bit rates above `number` kbit/s
-    RefusesConfiguration,  ///< refuses the configuration named `text`
-    DropsStreamAfter,      ///< ends the stream after `number` frames
-    FirstPictureLate,      ///< the stream starts `number` ms late
+    RefusesConfiguration,  ///< refuses to read and write the configuration named `text`
+    DropsStreamAfter,      ///< ends each live stream after `number` frames
+    FirstPictureLate,      ///< each live stream starts `number` ms late
     RebootTakes,           ///< a reboot takes `number` s
-    UpgradeFailsAt,        ///< an upgrade fails at `number` % of the transfer, with 100 while writing
+    UpgradeFailsAt,        ///< an upgrade fails at `number` % of the transfer; with 100 while writing
     OddBytes,              ///< strings contain control characters, markup, line breaks and invalid UTF-8
     OverLongTexts,         ///< strings fill their fields to the last byte, without a terminating zero
     RefusesSetting,        ///< refuses to write setting `number`
@@ -38,26 +40,26 @@ enum class Fault
     OddConfiguration,      ///< the configuration named `text` is not JSON
     OverLongConfiguration, ///< the configuration named `text` is larger than any buffer
     RefusesChannelStates,  ///< refuses queries of its channel states
-    UpgradeBusy,           ///< another upgrade is running
-    UpgradeHangsAt,        ///< an upgrade stops making progress at the same points as UpgradeFailsAt
+    UpgradeBusy,           ///< refuses upgrades, as if another one were running
+    UpgradeHangsAt,        ///< an upgrade stops making progress at the points of UpgradeFailsAt, without end
     UpgradeKeepsVersion,   ///< has the old version after an upgrade
     UpgradeNeverReturns,   ///< stays offline after an upgrade
     UpgradeTakes,          ///< the transfer of a firmware file takes `number` s
-    RefusesUpgradeStop,    ///< refuses to stop an upgrade during the transfer
-    SlowAnswers,           ///< responds to logins and requests `number` ms late
-    RefusesConnections,    ///< the device's ports are closed; searches get responses
-    PasswordChangesAfter,  ///< accepts a password `number` times, then has other passwords
-    Sha256Last,            ///< offers Digest with MD5 first, then with SHA-256
+    RefusesUpgradeStop,    ///< refuses to stop an upgrade at any time
+    SlowAnswers,           ///< responds to logins and requests `number` ms late, not to HTTP
+    RefusesConnections,    ///< its ports are closed; it responds only to searches
+    PasswordChangesAfter,  ///< accepts a password `number` times; then "-2" is appended to its passwords
+    Sha256Last,            ///< offers Digest with MD5 first, then with SHA-256; only as a device of `site/`
     // HTTP responses to an accepted login:
     HttpLate,         ///< are sent `number` ms late
     HttpSlow,         ///< are sent at one byte a second for `number` s, then without delay
-    HttpBroken,       ///< end in the middle
-    HttpNoStatusLine, ///< have no status line and no headers
+    HttpBroken,       ///< end in the middle of the body, and the connection closes
+    HttpNoStatusLine, ///< have no status line and no headers, only a body
     HttpHuge,         ///< are `number` megabytes long
-    HttpRedirects,    ///< redirect the client
+    HttpRedirects,    ///< redirect the client to another path of the device
 };
 
-/// The parameter of a fault.
+/// The kind of parameter that a fault has.
 enum class FaultValue
 {
     None,
@@ -65,6 +67,7 @@ enum class FaultValue
     Text,   ///< FaultSetting::text, not empty
 };
 
+/// A fault of a device, with its parameter. The member that faultValue() does not name is not used.
 struct FaultSetting
 {
     Fault fault;
@@ -72,15 +75,16 @@ struct FaultSetting
     QString text = {};
 };
 
-/// The name of `fault` in scenes: "noResponse".
+/// The name of `fault` in scenes: "noAnswer".
 [[nodiscard]] QString faultName(Fault fault);
 
 /// The fault with `name` in scenes; nullopt for an unknown name.
 [[nodiscard]] std::optional<Fault> faultNamed(const QString &name);
 
+/// The kind of parameter of `fault`.
 [[nodiscard]] FaultValue faultValue(Fault fault);
 
-/// The largest valid FaultSetting::number of `fault`.
+/// The largest valid FaultSetting::number of `fault`; the smallest is 0.
 [[nodiscard]] int maximumFaultNumber(Fault fault);
 
 /// The names of all faults, in the order of the enumeration.

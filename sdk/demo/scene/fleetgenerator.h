@@ -10,7 +10,8 @@ class FleetGenerator
 public:
     /// Generates a scene of `count` devices, clamped to 1 to maximumSceneDevices. The same count gives the
     /// same scene every time, and the devices of a small fleet are the first of a larger one. MACs and
-    /// addresses (in 10.0.0.0/8) are unique. Responses to a search are spread over about 2.5 s.
+    /// addresses (IPv4, in 10.0.0.0/8) are unique. The devices have no faults. Their responses to a search
+    /// are spread over about 2.5 s.
     [[nodiscard]] static Scene generate(int count);
 };
 

@@ -13,11 +13,13 @@ namespace sdk::demo {
 class SceneReader
 {
 public:
-    /// Reads a scene. For an invalid scene, returns nullopt and sets `error` (may be null) to a sentence with
-    /// the device, the key and the expected value.
+    /// Reads a scene. For an invalid scene, returns nullopt and sets `error` (may be null) to an English
+    /// sentence with the device, the key and the expected value. For a valid scene, sets `error` to an empty
+    /// string.
     [[nodiscard]] static std::optional<Scene> read(const QByteArray &json, QString *error);
 
-    /// The same from a file or resource; the sentence starts with its name.
+    /// The same from a file or resource; the sentence starts with `path`. A file that cannot be read, that is
+    /// not a regular file or that is larger than 256 MiB is an error as well.
     [[nodiscard]] static std::optional<Scene> readFile(const QString &path, QString *error);
 };
 

@@ -15,16 +15,19 @@ namespace sdk::demo {
 /// The receiver of a search's responses.
 struct ResponseReceiver
 {
-    SearchResponseHandler handler = nullptr;
+    SearchResponseHandler handler = nullptr; ///< not null
     void *user = nullptr;
-    std::int64_t searchHandle = 0;
+    std::int64_t searchHandle = 0; ///< of a local search; 0 for a search of addresses
     QString localAddress; ///< source address of the search; empty or "0.0.0.0" for every address of this host
-    SearchTally *tally = nullptr; ///< counts the responses; outlives the delivery
+    SearchTally *tally = nullptr; ///< counts the responses; outlives the delivery; null for none
 };
 
-/// Up to four threads deliver the responses, each a share of them, at the times of the site's clock. One of
-/// the finish... functions ends all threads; the destructor calls finishImmediately. None may be called from
-/// a handler.
+/// Up to four threads deliver the responses, each a share of them, at the times of the site's clock. A device
+/// that was removed or has got Fault::NoAnswer since the start of the search does not respond.
+///
+/// Used by one thread, which calls start() and then one of the finish... functions. That function returns
+/// when all threads have ended. The destructor calls finishImmediately(). None of them may be called from a
+/// handler.
 class ResponseDelivery
 {
 public:
@@ -34,17 +37,18 @@ public:
     ResponseDelivery(const ResponseDelivery &) = delete;
     ResponseDelivery &operator=(const ResponseDelivery &) = delete;
 
-    /// Starts the threads. A delivery starts once. Returns false if the host provides no thread.
+    /// Starts the threads. To be called once. Returns false, with no thread running, if the host provides too
+    /// few threads.
     [[nodiscard]] bool start();
 
-    /// Waits until the complete plan is delivered.
+    /// Waits on the site's clock until the complete plan is delivered.
     void finishPlan();
 
-    /// Delivers the responses that are due, and none after them: the result of a stopped search depends only
-    /// on the clock, not on the speed of the threads.
+    /// Delivers the responses whose time has come but no later ones, without waiting for their times: the
+    /// result of a stopped search depends only on the clock, not on the speed of the threads.
     void finishDue();
 
-    /// Waits for running handlers only.
+    /// Drops all responses that are not delivered yet, and waits for running handlers.
     void finishImmediately();
 
     /// Whether the calling thread is inside a handler of any delivery of this process.

@@ -15,18 +15,23 @@ namespace sdk::demo {
 class SearchTally
 {
 public:
-    /// Clears the counters at the start of a search.
+    /// Resets all counters.
     void clear();
 
+    /// Counts the request of a local search.
     void noteRequest();
+
+    /// Counts a request to each of the addresses.
     void noteAskedAddresses(const QSet<QString> &addresses);
 
-    /// A response to a local search.
+    /// Counts a response to a local search. A device with several responses counts as one found device.
     void noteLocalResponse(const QString &mac, const QString &address);
-    /// A response to the search of an address. It is counted once for each request to the address.
+
+    /// Counts a response to the search of an address. Further responses from the address count only after the
+    /// next request to it.
     void noteAddressResponse(const QString &address);
 
-    /// Fills a report of one interface, which has `localAddress`.
+    /// Fills a report of one interface, "demo0", which has `localAddress` (IPv4) with a prefix length of 24.
     void fill(SearchReport &report, const QString &localAddress) const;
 
 private:

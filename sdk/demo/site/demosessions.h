@@ -16,36 +16,40 @@ struct DemoSession
 {
     QString mac;
     int localPort = 0;     ///< of the port agent; 0 for a direct session
-    bool hasEnded = false; ///< the device has rebooted since the login
+    bool hasEnded = false; ///< the device has rebooted since the login, and rejects the session
     QString account = {};
-    QString password = {}; ///< accepted by the device
-    std::int64_t handle = 0;
-    std::stop_token calls = {}; ///< stopped by the cancellation of the running calls
+    QString password = {};      ///< as the device has accepted it at the login or by a change
+    std::int64_t handle = 0;    ///< set by DemoSessions
+    std::stop_token calls = {}; ///< set by DemoSessions: stopped when the calls that run now are cancelled
 };
 
-/// Thread-safe. Handles are not reused.
+/// Thread-safe. Handles are not reused. A call of a session is cancelled by its stop token
+/// DemoSession::calls, which it gets from session() at its start; no function waits for the end of a call.
 class DemoSessions
 {
 public:
-    /// Returns the handle.
+    /// Stores a session. Returns its handle.
     std::int64_t open(const DemoSession &session);
 
     // The next two return false for an unknown handle.
 
-    /// Stops the running calls as well.
+    /// Removes a session and cancels its running calls.
     bool close(std::int64_t handle);
-    /// Stops the running calls of the session; later calls are not affected.
+
+    /// Cancels the running calls of the session. Calls that start later are not affected.
     bool cancelCalls(std::int64_t handle);
 
-    /// Does not stop the running calls.
+    /// Removes all sessions without cancelling their calls: NetCleanup has ended all calls before.
     void closeAll();
 
-    /// Updates the password of a session that has changed it.
+    /// Updates the password of a session after it was changed on the device. No effect for an unknown handle.
     void setPassword(std::int64_t handle, const QString &password);
 
-    /// The device rejects its sessions from now on. The caller still has to close them.
+    /// Sets DemoSession::hasEnded of all sessions to the device `mac`. They remain stored until they are
+    /// closed.
     void endSessionsTo(const QString &mac);
-    /// nullopt for an unknown handle.
+
+    /// A copy of the session; nullopt for an unknown handle.
     [[nodiscard]] std::optional<DemoSession> session(std::int64_t handle) const;
 
 private:

@@ -1,4 +1,4 @@
-// The index of devices by address.
+// The index of a site's devices by address.
 #pragma once
 
 #include "sdk/demo/scene/scene.h"
@@ -13,14 +13,17 @@ namespace sdk::demo {
 class DeviceAddresses
 {
 public:
+    /// Adds the device with its IPv4 and its IPv6 address.
     void add(const SceneDevice &device);
+
+    /// Removes the device. Its addresses must be those with which it was added.
     void remove(const SceneDevice &device);
 
-    /// MACs of the devices with an IPv4 or IPv6 address, in any order. There are several in an address
-    /// conflict.
+    /// MACs of the devices with an IPv4 or IPv6 address, in any order; empty without such a device. There are
+    /// several in an address conflict, and for "0.0.0.0".
     [[nodiscard]] QStringList macsAt(const QString &address) const { return m_macs.value(address); }
 
-    /// Whether a device other than `device` has the address.
+    /// Whether a device with another MAC than `device` has the address.
     [[nodiscard]] bool isTaken(const QString &address, const SceneDevice &device) const;
 
 private:

@@ -1,4 +1,4 @@
-// Changes of a device by requests without a login.
+// Changes of a device by requests without a session. A device that refuses stays unchanged.
 #pragma once
 
 #include "sdk/demo/scene/scene.h"
@@ -8,14 +8,19 @@ namespace sdk::demo {
 
 class SiteState;
 
-/// Initialises the device with its first account. Returns NotSupported for an initialised device and for an
-/// account without a name or password, Refused for a device with Fault::RefusesInitialisation, ConnectTimeout
-/// for an unknown MAC.
+/// Initialises the device with its first account, and clears Fault::NotInitialised. Returns None on success,
+/// NotSupported for an initialised device and for an account without a name or password, Refused for a device
+/// with Fault::RefusesInitialisation, ConnectTimeout for an unknown MAC.
 [[nodiscard]] NetError initialiseDevice(SiteState &site, const QString &mac, const SceneAccount &account);
 
-/// Sets the addresses in `requested`, or with DHCP a free one of twenty addresses. A device with a lease
-/// keeps it. A device without a free address gets 0.0.0.0. Returns NotSupported for an uninitialised device,
-/// a device without IPv4 and an invalid address, Refused for a device with Fault::RefusesAddressChange,
+/// Changes the IPv4 address, mask, gateway and use of DHCP to those in `requested`. The account and the
+/// password in `requested` are not checked, and an address that another device has is accepted.
+///
+/// With DHCP the device gets the first free one of twenty addresses (the last octet is 220 to 239) in its
+/// segment, or 0.0.0.0 if none is free. A device that has an address by DHCP already keeps it.
+///
+/// Returns None on success, NotSupported for an uninitialised device, a device without IPv4, a request of
+/// IPv6 and an invalid address, mask or gateway, Refused for a device with Fault::RefusesAddressChange,
 /// ConnectTimeout for an unknown MAC.
 [[nodiscard]] NetError changeDeviceAddress(SiteState &site, const QString &mac,
                                            const SearchDeviceInformation &requested);

@@ -1,3 +1,4 @@
+// The log category of the simulated site: "configtools.sdk.demo".
 #pragma once
 
 #include <QLoggingCategory>

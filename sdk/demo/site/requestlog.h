@@ -12,16 +12,18 @@
 
 namespace sdk::demo {
 
+/// One call of an operation, or one HTTP request.
 struct RecordedRequest
 {
-    QString operation;     ///< name in the interface: "NetStartSearchDevices"
+    QString operation;     ///< name in the interface: "NetStartSearchDevices"; "HTTP" for an HTTP request
     QString mac;           ///< the addressed device; empty for requests without one
-    QJsonObject request;   ///< the decoded blocks: "size", "wait" (ms), "addresses", ...
+    QJsonObject request;   ///< the decoded parameters and blocks: "size", "wait" (ms), "addresses", ...
     std::int64_t time = 0; ///< on the site's clock, ms since 1970
 };
 
-/// The latest maximumRequests requests in the order of their arrival. Passwords are not stored: only their
-/// length ("passwordLength") and, for a login, the result of the comparison ("passwordMatches"). Thread-safe.
+/// Keeps the latest maximumRequests requests in the order of their arrival, and drops older ones. The callers
+/// of add() leave passwords out: "passwordLength" is the length of a password and, for a login,
+/// "passwordMatches" the result of its comparison. Thread-safe.
 class RequestLog
 {
 public:
@@ -32,11 +34,11 @@ public:
 
     [[nodiscard]] QList<RecordedRequest> all() const;
 
-    /// Those of one operation.
+    /// The requests of one operation.
     [[nodiscard]] QList<RecordedRequest> of(const QString &operation) const;
 
-    /// Blocks until `operation` was requested at least `count` times, for tests that follow another thread.
-    /// Returns false after `timeout` of real time.
+    /// Blocks until the log contains at least `count` requests of `operation`, for tests that follow another
+    /// thread. Returns false after `timeout` of real time.
     [[nodiscard]] bool waitFor(const QString &operation, qsizetype count,
                                std::chrono::milliseconds timeout = std::chrono::seconds(10)) const;
 

@@ -1,4 +1,5 @@
-// The state of a simulated site: its devices, its clock and the log of its requests.
+// The state of a simulated site: its devices, its clock and the log of its requests. DemoSite adds the
+// libraries.
 #pragma once
 
 #include "sdk/demo/scene/scene.h"
@@ -22,12 +23,13 @@ namespace sdk::demo {
 /// The target of a local port of the port agent.
 struct Tunnel
 {
-    QString mac;
-    int devicePort;
-    bool isBroken; ///< the local port is still open, but no data passes
+    QString mac;    ///< of the device
+    int devicePort; ///< the mapped port of the device
+    bool isBroken;  ///< the local port is still open, but no data passes
 };
 
-/// Thread-safe. Devices are found by MAC, in upper or lower case.
+/// Thread-safe, by one lock. Devices are found by MAC, in upper or lower case; the site stores it in lower
+/// case.
 class SiteState
 {
 public:
@@ -39,30 +41,39 @@ public:
     [[nodiscard]] Clock &clock() const { return *m_clock; }
     [[nodiscard]] RequestLog &requests() { return m_requests; }
 
-    /// Copies, in the order of the scene.
+    /// Copies of all devices, in the order of the scene.
     [[nodiscard]] QList<SceneDevice> devices() const;
+
+    /// A copy of the device; nullopt for an unknown MAC.
     [[nodiscard]] std::optional<SceneDevice> device(const QString &mac) const;
 
-    /// Calls `visitor` with every device, without a copy. The site is locked during the call: `visitor` must
-    /// not call it.
+    /// Calls `visitor` with every device, in the order of the scene. The devices are not copied: a reference
+    /// is valid during its call. The site is locked meanwhile: `visitor` must not call it.
     void forEachDevice(const std::function<void(const SceneDevice &)> &visitor) const;
 
     /// The same for the devices that have one of the addresses (IPv4, or IPv6 as canonicalIpv6Address()
-    /// writes it), in the order of the scene. Its time does not depend on the number of devices.
+    /// writes it), each once. The duration does not depend on the number of devices of the site.
     void forEachDeviceAt(const QStringList &addresses,
                          const std::function<void(const SceneDevice &)> &visitor) const;
 
-    /// Changes the device of the same MAC, or adds a new one to the site.
+    /// Replaces the device of the same MAC, or adds `device` at the end of the site.
     void setDevice(const SceneDevice &device);
 
-    /// Calls `change` with a device, whose MAC must not change, and with the addresses of all devices. The
-    /// site is locked meanwhile: `change` must not call it. This and the following functions return false
-    /// when the site has no such device.
+    // These four return false, without an effect, when the site has no such device.
+
+    /// Calls `change` once with the device, which it may change except for its MAC, and with the addresses of
+    /// all devices before the change. The site is locked meanwhile: `change` must not call it.
     bool
     changeDevice(const QString &mac,
                  const std::function<void(SceneDevice &device, const DeviceAddresses &addresses)> &change);
+
+    /// Removes the device. Requests of its sessions then fail as for an unreachable device.
     bool removeDevice(const QString &mac);
+
+    /// Adds the fault to the device, or replaces the parameter of that fault.
     bool setFault(const QString &mac, const FaultSetting &setting);
+
+    /// Also returns true if the device does not have the fault.
     bool clearFault(const QString &mac, Fault fault);
 
     /// The target of a local port that the port agent has opened; nullopt for any other port.
@@ -71,7 +82,7 @@ public:
     /// The IPv4 address of this host in the local segment.
     [[nodiscard]] QString localAddress() const { return m_localAddress; }
 
-    /// The address of this host that receives messages of `device`.
+    /// The address of this host that receives messages of `device` over `ipVersion` (4 or 6).
     [[nodiscard]] QString localAddressFor(const SceneDevice &device, int ipVersion) const;
 
 protected:

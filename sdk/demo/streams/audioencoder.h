@@ -6,21 +6,23 @@
 
 namespace sdk::demo {
 
-/// Not thread-safe.
+/// Generates and encodes the tone. Not thread-safe.
 class AudioEncoder
 {
 public:
-    /// `pitch` in Hz. Returns null and logs the reason if the host has no encoder for the audio of
-    /// `settings`.
+    /// `pitch` in Hz. Returns null and logs the reason if the host cannot encode the audio of `settings`, and
+    /// if `settings` has none.
     [[nodiscard]] static std::unique_ptr<AudioEncoder> open(const StreamSettings &settings, double pitch);
 
     /// The pitch of a channel (from 0). Neighbouring channels are in harmony.
     [[nodiscard]] static double pitchOf(std::int32_t channel);
 
+    /// The parameters of the encoding. Owned by this object.
     [[nodiscard]] const AVCodecContext &context() const { return *m_context; }
 
-    /// Encodes the audio from the end of the last call until `seconds` after the start, in complete frames of
-    /// the encoder, and appends it to `packets`. Returns false on failure.
+    /// Encodes the audio from the end of the last call until `seconds` after the start of the stream, in
+    /// complete frames of the encoder, and appends it to `packets`. After a pause of more than two seconds,
+    /// the audio of the pause is left out. Returns false on failure.
     [[nodiscard]] bool encodeUntil(double seconds, EncodedPackets &packets);
 
 private:

@@ -12,12 +12,14 @@ namespace sdk::demo {
 class CardFrame
 {
 public:
-    /// A frame with the size, format and colours of `encoder`. Returns null without memory.
+    /// A frame with the size, format and colours of `encoder`, whose content is undefined until the complete
+    /// card is painted. Returns null without memory.
     [[nodiscard]] static std::unique_ptr<CardFrame> create(const AVCodecContext &encoder);
 
-    /// Paints a region of the card into the frame. Returns false on failure.
+    /// Replaces a region of the frame, which must be inside the frame. Returns false on failure.
     [[nodiscard]] bool paint(const TestCard::Region &region);
 
+    /// The frame for VideoEncoder::encode(). Owned by this object.
     [[nodiscard]] AVFrame &frame() { return *m_frame; }
 
 private:

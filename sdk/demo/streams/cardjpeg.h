@@ -7,8 +7,8 @@
 
 namespace sdk::demo {
 
-/// The card at `time` (ms since 1970) of the device's clock, as a JPEG file. A brightness of 50 percent
-/// leaves the colours unchanged. Empty on failure.
+/// The card at `time` (ms since 1970) of the device's clock, as the bytes of a JPEG file. `brightness` is 0
+/// to 100: 50 leaves the colours unchanged, less darkens them. Empty on failure.
 [[nodiscard]] QByteArray cardJpeg(const TestCard &card, std::int64_t time, int brightness);
 
 } // namespace sdk::demo

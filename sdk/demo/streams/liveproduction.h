@@ -10,15 +10,17 @@
 
 namespace sdk::demo {
 
-/// The test card of a channel (from 0).
+/// The test card of a channel (from 0), in the size of `settings`. Its tint depends on the device and the
+/// channel; its labels show the device, the channel, `kind`, the size and the codec.
 [[nodiscard]] TestCard testCardOf(const SceneDevice &device, std::int32_t channel, LiveStreamKind kind,
                                   const StreamSettings &settings);
 
-/// Not thread-safe. The settings do not change.
+/// Used by one thread at a time. The settings do not change: other settings need another production.
 class LiveProduction
 {
 public:
-    /// Returns null and logs the reason if the host cannot encode such a stream.
+    /// Opens the encoders. Returns null if the host cannot encode such video; a missing encoder is logged. If
+    /// the host cannot encode the audio, the reason is logged and the stream has no audio.
     [[nodiscard]] static std::unique_ptr<LiveProduction> start(const SceneDevice &device,
                                                                std::int32_t channel, LiveStreamKind kind,
                                                                const StreamSettings &settings);
@@ -26,16 +28,18 @@ public:
     [[nodiscard]] const StreamSettings &settings() const { return m_settings; }
 
     /// Codec-specific data that a decoder needs before the first packet, such as parameter sets. Empty for a
-    /// codec without such data.
+    /// codec without such data, and for the audio of a stream without audio.
     [[nodiscard]] QByteArray videoHead() const;
     [[nodiscard]] QByteArray soundHead() const;
 
-    /// The container of one viewer. Returns null and logs the reason on failure.
+    /// A container for one viewer, which starts with its header. Returns null and logs the failure if it
+    /// cannot be written.
     [[nodiscard]] std::unique_ptr<streams::MatroskaWriter> openWriter() const;
 
-    /// Encodes the frame with the index `number`, which follows from the elapsed time, and the audio before
-    /// it. `deviceTime` is the time of the device's clock, in ms since 1970. With `isKey` the frame is a key
-    /// frame. Both are appended to `packets`. Returns false if the encoder fails.
+    /// Encodes the frame with the index `number` and the audio before it, and appends both to `packets`.
+    /// Indexes count frame durations since the start of the production; they increase, and skip dropped
+    /// frames. `deviceTime` is the time of the device's clock that the card shows, in ms since 1970. With
+    /// `isKey` the frame is a key frame. Returns false if an encoder fails.
     [[nodiscard]] bool encodeFrame(std::int64_t number, std::int64_t deviceTime, bool isKey,
                                    EncodedPackets &packets);
 

@@ -17,24 +17,33 @@ class DemoSessions;
 class SiteState;
 
 /// One kind of stream of one channel. A separate thread generates the frames at the times of the site's
-/// clock, encodes them once and passes them to each viewer. It sleeps without viewers. Thread-safe.
+/// clock, encodes them once and passes them to each viewer, on this thread. It sleeps without viewers: while
+/// no stream has a handler. It ends the streams whose session has ended, and all streams when the device
+/// stops sending or the host cannot encode. Thread-safe.
 class LiveSource
 {
 public:
-    /// Frames with a longer delay are dropped, if the host is too slow or the clock was stepped far.
+    /// The longest delay of a frame, on the site's clock. Frames that would be later are dropped, if the host
+    /// is too slow or the clock was stepped far.
     static constexpr std::chrono::milliseconds longestDelay{200};
 
     /// `site` and `sessions` must outlive the source. Throws std::system_error if the host provides no
     /// thread.
+    /// The device, the channel and the kind of stream are those of `order`; its other members are not used.
     LiveSource(SiteState &site, const DemoSessions &sessions, LiveStreamOrder order);
+
+    /// Joins the thread, so it waits for running handlers. Must not run in a handler.
     ~LiveSource();
     LiveSource(const LiveSource &) = delete;
     LiveSource &operator=(const LiveSource &) = delete;
 
+    /// Adds a viewer. The order of `stream` must have the same device, channel and kind.
     void add(const std::shared_ptr<LiveStream> &stream);
+
+    /// Removes a viewer, without waiting for its handler. No effect for an unknown stream.
     void remove(const std::shared_ptr<LiveStream> &stream);
 
-    /// To be called after a stream has got a handler.
+    /// Wakes the thread. To be called after a stream has got a handler.
     void wake();
 
 private:

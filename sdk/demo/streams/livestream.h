@@ -30,27 +30,28 @@ struct LiveStreamOrder
 class LiveStream
 {
 public:
-    /// The maximum size of a chunk of data.
+    /// The maximum size of a chunk of data, in bytes.
     static constexpr std::size_t maximumChunk = 16384;
 
     LiveStream(std::int64_t handle, LiveStreamOrder order) : m_handle(handle), m_order(std::move(order)) {}
 
     [[nodiscard]] const LiveStreamOrder &order() const { return m_order; }
 
-    /// `handler` may be null. The previous handler is not running after the return, so this must not be
-    /// called from a handler. A handler that replaces another one continues its stream. A handler that
+    /// Sets the handler; null removes it. The previous handler is not running after the return, so this must
+    /// not be called from a handler. A handler that replaces another one continues its stream. A handler that
     /// replaces null gets a new header and a key frame first.
     void setHandler(RealDataHandler handler, void *user);
 
-    /// Whether a handler receives data, now or from the start time on.
+    /// Whether a handler is set and the stream has not ended. The data may start later, at the start time.
     [[nodiscard]] bool isWatched() const { return m_hasHandler && !m_hasEnded; }
 
     /// Whether the calling thread is inside a handler of any stream of this process.
     [[nodiscard]] static bool isInsideHandler();
 
-    /// No data is sent from now on.
+    /// Ends the stream without a call of the handler. Does not wait for a running handler.
     void close() { m_hasEnded = true; }
 
+    /// Makes the next frame of the source a key frame.
     void requestKeyFrame() { m_isKeyFrameRequested = true; }
 
     // Functions of the source's thread:
@@ -58,16 +59,18 @@ public:
     /// Prepares for the next frame of `production`. Returns whether it must be a key frame.
     [[nodiscard]] bool prepare(const LiveProduction &production);
 
-    /// The number of sent frames.
+    /// The number of sent frames since the stream was opened.
     [[nodiscard]] int frames() const { return m_frames; }
 
-    /// Sends the packets of the prepared frame to the handler.
+    /// Sends the packets of the prepared frame to the handler, in chunks. If the container cannot be written,
+    /// the frame is dropped and the stream restarts.
     void send(const EncodedPackets &packets);
 
-    /// The next frame starts with a new header.
+    /// Makes the next frame start with a new header and be a key frame.
     void restart() { m_writer.reset(); }
 
-    /// Calls the handler with the end of the stream. The handle stays valid until it is closed.
+    /// Ends the stream and calls the handler, if one is set, with RealDataType::End. No effect on a stream
+    /// that has ended. The handle stays valid until it is closed.
     void end(StreamEndReason reason);
 
 private:

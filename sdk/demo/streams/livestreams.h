@@ -1,4 +1,4 @@
-// The open live streams.
+// The live streams of all sessions.
 #pragma once
 
 #include "sdk/demo/streams/livesource.h"
@@ -16,26 +16,34 @@ namespace sdk::demo {
 class LiveStreams
 {
 public:
-    /// Both must outlive the streams.
+    /// `site` and `sessions` must outlive this object.
     LiveStreams(SiteState &site, const DemoSessions &sessions) : m_site(site), m_sessions(sessions) {}
 
-    /// Returns the handle, 0 if the host provides no thread.
+    /// Opens a stream, which sends data once it has a handler. Does not check whether the device has such a
+    /// stream. Returns the handle, which is valid until it is closed; 0 if the host provides no thread.
     [[nodiscard]] std::int64_t open(const LiveStreamOrder &order);
 
     /// The parameters of the stream; nullopt for an unknown handle.
     [[nodiscard]] std::optional<LiveStreamOrder> order(std::int64_t handle) const;
 
-    // These return false for an unknown handle.
+    // Those that return a bool return false for an unknown handle.
 
     /// As LiveStream::setHandler().
     bool setHandler(std::int64_t handle, RealDataHandler handler, void *user);
+
+    /// Makes the next frame of the stream a key frame.
     bool requestKeyFrame(std::int64_t handle);
 
-    /// No handler of the stream runs after the return, so this and the following functions must not be called
-    /// from a handler.
+    // The next three wait for running handlers: no handler of a closed stream runs after the return. So they
+    // must not be called from a handler.
+
+    /// Ends one stream.
     bool close(std::int64_t handle);
 
+    /// Ends the streams of a session.
     void closeAllOf(std::int64_t loginHandle);
+
+    /// Ends all streams.
     void closeAll();
 
 private:

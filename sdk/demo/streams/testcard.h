@@ -17,25 +17,26 @@ struct TestCardLabels
     QString details; ///< ASCII only
 };
 
-/// Not thread-safe; one thread of any kind may use it. The static part is drawn once. The moving regions are
-/// drawn for each frame.
+/// The static part is drawn once, by the constructor. The moving regions are drawn for each frame. Used by
+/// one thread at a time, which need not be that of the window.
 class TestCard
 {
 public:
-    /// `hue` is the tint of the card, 0 to 359. Both sides of `size` are even.
+    /// `size` is in pixels; both sides are even. `hue` is the tint of the card, in degrees, 0 to 359.
     TestCard(QSize size, int hue, const TestCardLabels &labels);
 
-    /// A region of the card with even corners and sides.
+    /// A rectangular region of the card. The coordinates of its corner and its sides are even.
     struct Region
     {
-        QPoint corner;
-        QImage image; ///< QImage::Format_RGB32
+        QPoint corner; ///< the upper left one, in pixels of the card
+        QImage image;  ///< QImage::Format_RGB32
     };
 
-    /// The complete static card.
+    /// The complete card without its moving parts.
     [[nodiscard]] Region still() const { return {{0, 0}, m_still}; }
 
-    /// The moving regions at `time` (ms since 1970) of the device's clock.
+    /// The moving regions at `time` (ms since 1970) of the device's clock. They are the same rectangles for
+    /// every time, so painting them over the card replaces those of an earlier time.
     [[nodiscard]] QList<Region> moving(std::int64_t time) const;
 
 private:

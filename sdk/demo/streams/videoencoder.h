@@ -6,21 +6,23 @@
 
 namespace sdk::demo {
 
-/// Not thread-safe. Every frame is output immediately, without look-ahead.
+/// Encodes every frame immediately, without look-ahead. Not thread-safe; several encoders may be used at the
+/// same time.
 class VideoEncoder
 {
 public:
-    /// Returns null and logs the reason if the host has no encoder for `settings`.
+    /// Returns null and logs the reason if the host has no encoder for the video of `settings`.
     [[nodiscard]] static std::unique_ptr<VideoEncoder> open(const StreamSettings &settings);
     ~VideoEncoder();
     VideoEncoder(const VideoEncoder &) = delete;
     VideoEncoder &operator=(const VideoEncoder &) = delete;
 
+    /// The parameters of the encoding. Owned by this object.
     [[nodiscard]] const AVCodecContext &context() const { return *m_context; }
 
-    /// Encodes `frame`, which has the size and format of context(), as the frame with the index `number`,
-    /// which follows from the elapsed time. With `isKey` it is a key frame. Appends it to `packets`.
-    /// Returns false on failure.
+    /// Encodes `frame`, which has the size and format of context(), and appends it to `packets`. `number` is
+    /// its index, as in LiveProduction::encodeFrame(): its time is the duration of as many frames. With
+    /// `isKey` it is a key frame. Returns false on failure.
     [[nodiscard]] bool encode(AVFrame &frame, std::int64_t number, bool isKey, EncodedPackets &packets);
 
 private:
@@ -29,7 +31,8 @@ private:
     AvPointer<AVCodecContext> m_context;
 };
 
-/// Moves the output of `context` to `packets`, as packets of `track`. Returns false on failure.
+/// Appends the available output of the encoder `context` to `packets`, as packets of `track` (videoTrack or
+/// soundTrack). Returns false on failure.
 [[nodiscard]] bool receivePackets(AVCodecContext &context, int track, EncodedPackets &packets);
 
 } // namespace sdk::demo

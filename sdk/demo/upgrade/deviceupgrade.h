@@ -25,33 +25,38 @@ struct UpgradeOrder
 {
     std::int64_t loginHandle = 0;
     DemoSession session;
-    std::optional<FirmwareHead> firmware; ///< nullopt for a file without a valid head
-    UpgradeProgressHandler handler = nullptr;
+    std::optional<FirmwareHead> firmware;     ///< nullopt: the device refuses the file after its transfer
+    UpgradeProgressHandler handler = nullptr; ///< not null
     void *user = nullptr;
 };
 
-/// Transfers a file to a device, which writes it and reboots. It has a thread and follows the site's clock.
-/// Thread-safe.
+/// Simulates the transfer of a file to a device, which writes it, has the new version and reboots. A separate
+/// thread follows the site's clock and calls the handler. Thread-safe, except for the destructor.
 class DeviceUpgrade
 {
 public:
-    static constexpr std::chrono::milliseconds usualSending{8000};
+    static constexpr std::chrono::milliseconds usualSending{8000}; ///< unless the device has UpgradeTakes
     static constexpr std::chrono::milliseconds writing{5000};
 
-    /// `site` and `sessions` must outlive the upgrade.
+    /// Starts the upgrade. `site` and `sessions` must outlive it. Throws std::system_error if the host
+    /// provides no thread.
     DeviceUpgrade(SiteState &site, DemoSessions &sessions, std::int64_t handle, UpgradeOrder order);
 
-    /// Cancels an unfinished upgrade. Must not run in a handler.
+    /// Ends an unfinished upgrade in any phase, without a report, and waits for a running handler: the device
+    /// keeps its firmware. Must not run in a handler.
     ~DeviceUpgrade();
 
     [[nodiscard]] const UpgradeOrder &order() const { return m_order; }
+
+    /// True once the upgrade has ended, already while the handler is called with Done or Failed.
     [[nodiscard]] bool hasEnded() const { return m_hasEnded; }
 
-    /// Cancels the transfer; the caller must then destroy the upgrade. Returns false while the device is
-    /// writing.
+    /// Cancels the transfer, or has no effect on an upgrade that has ended. Returns true in both cases: the
+    /// caller must then destroy the upgrade. Returns false, without an effect, while the device is writing.
     [[nodiscard]] bool cancelTransfer();
 
-    /// The handler is not called after the return.
+    /// Removes the handler and waits for its running call; the upgrade continues. Must not be called from the
+    /// handler.
     void clearHandler();
 
     /// Whether the calling thread is inside a handler of any upgrade of this process.

@@ -1,4 +1,4 @@
-// The open upgrades.
+// The upgrades of all sessions.
 #pragma once
 
 #include "sdk/demo/upgrade/deviceupgrade.h"
@@ -8,36 +8,42 @@
 
 namespace sdk::demo {
 
-/// Thread-safe. Handles are not reused.
+/// Owns the upgrades. Thread-safe. Handles are not reused.
 class DeviceUpgrades
 {
 public:
+    /// The result of close().
     enum class Closing
     {
-        Closed,
-        IsWriting, ///< the device continues
+        Closed,    ///< the transfer was cancelled, or the upgrade had ended; the handle is invalid now
+        IsWriting, ///< nothing changed: the device is writing, and the handle is still valid
         Unknown,   ///< unknown handle
     };
 
-    /// Both must outlive the upgrades.
+    /// `site` and `sessions` must outlive this object.
     DeviceUpgrades(SiteState &site, DemoSessions &sessions) : m_site(site), m_sessions(sessions) {}
 
     /// True while an upgrade of the device runs, also after the end of its session.
     [[nodiscard]] bool isUpgrading(const QString &mac) const;
 
-    /// Returns the handle, 0 if the host provides no thread.
+    /// Starts an upgrade. Returns its handle, which is valid until it is closed, also after the end of the
+    /// upgrade; 0 if the host provides no thread. Does not check isUpgrading().
     [[nodiscard]] std::int64_t open(const UpgradeOrder &order);
 
     /// The MAC of the device; empty for an unknown handle.
     [[nodiscard]] QString macOf(std::int64_t handle) const;
 
-    // No handler of a closed upgrade runs after the return, so these must not be called from a handler.
+    // The next three wait for running handlers: no handler of a closed upgrade runs after the return. So they
+    // must not be called from a handler.
 
+    /// Closes one upgrade.
     [[nodiscard]] Closing close(std::int64_t handle);
 
-    /// Transfers are cancelled. A device that is writing continues without reports.
+    /// Closes the upgrades of a session. Transfers are cancelled. A device that is writing continues without
+    /// reports.
     void closeAllOf(std::int64_t loginHandle);
-    /// Ends all upgrades, also of devices that are writing.
+
+    /// Ends all upgrades, also of devices that are writing: these keep their firmware.
     void closeAll();
 
 private:
