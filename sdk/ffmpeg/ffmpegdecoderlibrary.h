@@ -14,19 +14,21 @@ class DecoderPort;
 
 /// Decodes live Matroska streams: video in H.264, H.265 and MJPEG, audio in G.711, AAC and 16-bit PCM. A
 /// stream starts with its header. A further header starts another stream, which may have another size and
-/// encoding. Damaged data is dropped. Frames are delivered one by one as they arrive, up to a size of 8192 x
-/// 4320. A port in the mode of real-time streams that is too slow continues with the newest key frame.
+/// encoding. Damaged data is dropped and counted in DecoderStatus::damages. Frames are delivered one by one
+/// as they arrive. A frame with a side over 8192 pixels or more than 8192 x 4320 pixels counts as damaged. A
+/// port with DecoderSetStreamMode drops late frames and sound, and continues with the newest key frame.
 ///
-/// A port has one thread, from DecoderPlay to DecoderStop. There are up to 512 ports. An operation on a
-/// port that is called in a handler fails. The first library redirects FFmpeg's log to the logging category
-/// "configtools.sdk.ffmpeg" for the complete process.
+/// A port has one thread, from DecoderPlay to DecoderStop. There are up to 512 ports. A thread that runs a
+/// DecodeHandler of any port cannot use ports: every function with the number of a port returns false there.
+/// The first library redirects FFmpeg's log to the logging category "configtools.sdk.ffmpeg" for the complete
+/// process.
 class FfmpegDecoderLibrary final : public DecoderLibrary
 {
 public:
-    /// `clock` measures the delay of streams.
+    /// `clock` times the input of ports and measures the delay of their frames; not null.
     explicit FfmpegDecoderLibrary(std::shared_ptr<const Clock> clock = std::make_shared<SystemClock>());
 
-    /// Frees all ports.
+    /// Frees all ports, and waits for their threads. Must not run in a DecodeHandler.
     ~FfmpegDecoderLibrary() override;
 
     FfmpegDecoderLibrary(const FfmpegDecoderLibrary &) = delete;
@@ -48,10 +50,11 @@ public:
                           FrameColour colour) override;
 
 private:
+    /// Null for a number that is not allocated, and on a thread that runs a DecodeHandler.
     [[nodiscard]] std::shared_ptr<DecoderPort> portOf(std::int32_t number) const;
 
     const std::shared_ptr<const Clock> m_clock;
-    mutable std::mutex m_mutex;
+    mutable std::mutex m_mutex; // guards m_ports
     std::map<std::int32_t, std::shared_ptr<DecoderPort>> m_ports;
 };
 

@@ -15,6 +15,7 @@ extern "C" {
 
 namespace sdk::streams {
 
+/// Frees an object of FFmpeg with the function for its type.
 struct AvDelete
 {
     void operator()(AVFrame *frame) const { av_frame_free(&frame); }
@@ -22,6 +23,7 @@ struct AvDelete
     void operator()(AVCodecContext *context) const { avcodec_free_context(&context); }
     void operator()(AVCodecParameters *parameters) const { avcodec_parameters_free(&parameters); }
     void operator()(AVCodecParserContext *parser) const { av_parser_close(parser); }
+    /// For input only: MatroskaWriter frees its output context itself.
     void operator()(AVFormatContext *context) const { avformat_close_input(&context); }
     void operator()(AVIOContext *context) const
     {
@@ -32,6 +34,7 @@ struct AvDelete
     void operator()(SwrContext *context) const { swr_free(&context); }
 };
 
+/// Owns an object of FFmpeg; null for none.
 template<typename Object>
 using AvPointer = std::unique_ptr<Object, AvDelete>;
 

@@ -11,17 +11,21 @@ namespace sdk::streams {
 /// printf, and are valid during the call.
 using LibraryLogHandler = void (*)(void *source, int level, const char *format, va_list arguments);
 
-/// Sets the handler of the lines of all threads without a ThreadLog. FFmpeg has one log callback per process,
-/// which is shared by this function. Thread-safe.
+/// Sets the handler (not null) of the lines of all threads without a ThreadLog. It replaces the last one, at
+/// first FFmpeg's own handler, which writes to standard error. FFmpeg has one log callback per process. This
+/// function and ThreadLog share it: other code must not call av_log_set_callback(). Thread-safe.
 void setLibraryLogHandler(LibraryLogHandler handler);
 
-/// Receives the lines of the calling thread during its lifetime, instead of any other handler. To be
-/// destroyed on the same thread, in reverse order of creation.
+/// During its lifetime, its listener receives the lines of the thread that created it. The handler of the
+/// process and earlier ThreadLogs of the thread do not receive them. To be destroyed on the same thread, in
+/// reverse order of creation.
 class ThreadLog
 {
 public:
+    /// Called with lines of every level; the arguments are those of LibraryLogHandler.
     using Listener = std::function<void(int level, const char *format, va_list arguments)>;
 
+    /// `listener` must not be empty.
     explicit ThreadLog(Listener listener);
     ~ThreadLog();
     ThreadLog(const ThreadLog &) = delete;

@@ -10,40 +10,45 @@
 
 namespace sdk::streams {
 
-/// AVPacket::stream_index of the packets of a writer.
+/// AVPacket::stream_index of the packets that a writer takes.
 inline constexpr int videoTrack = 0;
 inline constexpr int soundTrack = 1;
 
-/// The container of every live stream of this application: unseekable, endless Matroska, in which every
-/// packet is complete as soon as it is written. Used by one thread.
+/// Writes packets to the container of every live stream of this application: unseekable, endless Matroska, in
+/// which every packet is complete as soon as it is written. The bytes are kept until takeBytes(). Used by one
+/// thread.
 class MatroskaWriter
 {
 public:
-    /// The encoding of a track. A video track needs its frame size; `extradata` has the decoder's
-    /// initialisation data.
+    /// The encoding of a track.
     struct Track
     {
+        /// Not null; copied by open(). Video needs `width` and `height`. `extradata` has the initialisation
+        /// data of the decoder, if the codec has such data.
         const AVCodecParameters *codec = nullptr;
-        AVRational frameRate = {0, 1}; ///< 0 if unknown
+        AVRational frameRate = {0, 1}; ///< in frames per second; 0 if unknown, and for sound
     };
 
-    /// `sound` is null for a stream without sound. The header is available by takeBytes() immediately.
-    /// Returns null on failure.
+    /// Writes the header, which takeBytes() returns first. `sound` is null for a stream without sound.
+    /// Returns null if there is no memory or the container does not support a track.
     [[nodiscard]] static std::unique_ptr<MatroskaWriter> open(const Track &video, const Track *sound);
 
-    /// The same with the parameters of encoders.
+    /// The same with the parameters of open encoders.
     [[nodiscard]] static std::unique_ptr<MatroskaWriter> open(const AVCodecContext &video,
                                                               const AVCodecContext *sound);
     ~MatroskaWriter();
     MatroskaWriter(const MatroskaWriter &) = delete;
     MatroskaWriter &operator=(const MatroskaWriter &) = delete;
 
-    /// Writes a packet in its AVPacket::time_base. Frames are in decoding order; their presentation times may
-    /// step back by up to `longestReordering`. The stream starts with the first key frame, at time 0: packets
-    /// before it are dropped. Returns false on failure.
+    /// Writes a packet. It has `pts`, `time_base` and the `stream_index` of a track of the writer; `dts` is
+    /// not used. Frames are in decoding order. The time of a frame may be up to `longestReordering` before
+    /// that of an earlier packet of its track; an even earlier time is raised to that limit. The stream
+    /// starts with the first key frame of video, at time 0. Packets of both tracks before it, and packets
+    /// with an earlier time, are dropped with the result true. Returns false if there is no memory or FFmpeg
+    /// refuses the packet.
     [[nodiscard]] bool write(const AVPacket &packet);
 
-    /// The bytes that were written since the last call.
+    /// Removes and returns the bytes that were written since the last call; empty if there are none.
     [[nodiscard]] std::vector<std::uint8_t> takeBytes() { return std::exchange(m_bytes, {}); }
 
     static constexpr std::int64_t longestReordering = 1000; ///< milliseconds

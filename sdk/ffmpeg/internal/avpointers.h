@@ -1,4 +1,4 @@
-// Owners of FFmpeg's objects.
+// Owners of FFmpeg's objects, which sdk/streams defines.
 #pragma once
 
 #include "sdk/streams/avpointers.h"

@@ -16,7 +16,7 @@ namespace sdk::ffmpeg {
     return colour == FrameColour::Bt601Full || colour == FrameColour::Bt709Full;
 }
 
-/// Coefficients for the scaler.
+/// The coefficients for sws_setColorspaceDetails(), a constant array of FFmpeg.
 [[nodiscard]] inline const int *colourMatrix(FrameColour colour)
 {
     return sws_getCoefficients(isBt709(colour) ? SWS_CS_ITU709 : SWS_CS_ITU601);

@@ -13,37 +13,51 @@
 
 namespace sdk::ffmpeg {
 
-/// The operations are those of DecoderLibrary, with the same rules for threads. Between play() and stop() the
-/// port has a thread, which decodes and calls the handler.
+/// The operations are those of DecoderLibrary, with the same rules for threads: input() and status() may run
+/// at the same time as any other function. Between play() and stop() the port has a thread, which decodes and
+/// calls the handler.
 class DecoderPort final : private StreamObserver
 {
 public:
+    /// `number` is passed to the handler. `clock` (not null) times the input.
     DecoderPort(std::int32_t number, std::shared_ptr<const Clock> clock)
         : m_number(number), m_clock(std::move(clock))
     {
     }
 
-    /// Stops decoding and frees the port's frames.
+    /// Stops decoding, waits for the thread and frees the port's frames.
     ~DecoderPort() override;
 
     DecoderPort(const DecoderPort &) = delete;
     DecoderPort &operator=(const DecoderPort &) = delete;
 
+    /// Opens the port and clears its status. `header` may be empty. Returns false if the port is open, and if
+    /// `bufferSize` is 0 or smaller than the header.
     [[nodiscard]] bool open(std::span<const std::uint8_t> header, std::size_t bufferSize);
+
+    /// Late frames and sound are dropped from the next play() on. Not to be called while the port plays.
     void setLive() { m_isLive = true; }
+
+    /// Waits for a handler that is running. `handler` may be null.
     void setHandler(DecodeHandler handler, void *user);
+
+    /// Starts the thread. Returns false if the port is not open or plays, and if no thread can be started.
     [[nodiscard]] bool play();
+
+    /// Copies the bytes. Returns false, with nothing copied, if the port is not open or its buffer has no
+    /// room for all of them.
     [[nodiscard]] bool input(std::span<const std::uint8_t> bytes);
 
-    /// Returns false if the port does not play.
+    /// Waits for the thread. The port stays open and keeps its input. Returns false if it does not play.
     bool stop();
 
-    /// Also stops. Returns false if the port is not open.
+    /// Stops, and discards the input. Returns false if the port is not open.
     bool close();
 
+    /// The status of the open port; after close(), the last one with `waitingBytes` 0.
     [[nodiscard]] DecoderStatus status() const;
 
-    /// Whether the calling thread is in the handler of a port.
+    /// Whether the calling thread runs the handler of any port.
     [[nodiscard]] static bool isInsideHandler();
 
 private:

@@ -9,7 +9,8 @@
 
 namespace sdk::ffmpeg {
 
-/// Reads from a source until its stream ends, or a stop is requested. Not thread-safe.
+/// Reads the packets of the current stream of a StreamSource, up to the end of the stream or a request to
+/// stop. Not thread-safe.
 class Demuxer
 {
 public:
@@ -19,18 +20,20 @@ public:
     Demuxer(const Demuxer &) = delete;
     Demuxer &operator=(const Demuxer &) = delete;
 
-    /// Reads the head of the stream. Returns false if it is invalid. To be called once, before the other
-    /// functions.
+    /// Waits for the head of the stream, which describes its tracks, and reads it. Returns false if it is
+    /// invalid or incomplete, and after a request to stop. To be called once. The other functions require the
+    /// result true.
     [[nodiscard]] bool open();
 
-    /// The first track with one of these codecs, owned by the demuxer; null without one.
+    /// The first track of this type with one of these codecs; null if there is none. The demuxer owns it.
     [[nodiscard]] const AVStream *track(AVMediaType type, std::initializer_list<AVCodecID> codecs) const;
 
-    /// Waits for the next packet of any track. Returns false at the end of the stream.
+    /// Waits for the next packet of any track. Returns false at the end of the stream, after a request to
+    /// stop, and if a packet is larger than 8 MB.
     [[nodiscard]] bool read(AVPacket &packet);
 
-    /// Returns whether read() has detected damage since the last call. It skips damaged data up to the next
-    /// cluster.
+    /// Returns whether read() has found damaged data since the last call of takeDamage(). read() skips
+    /// damaged data up to the next Matroska cluster.
     [[nodiscard]] bool takeDamage() { return std::exchange(m_isDamaged, false); }
 
 private:

@@ -1,4 +1,4 @@
-// Converts decoded frames to the format of delivery.
+// Converts decoded frames to the format of DecodedFrameType::Video.
 #pragma once
 
 #include "sdk/decoderlibrary.h"
@@ -6,15 +6,17 @@
 
 namespace sdk::ffmpeg {
 
-/// Not thread-safe.
+/// Keeps FFmpeg's scaler for the next frame of the same size and format. Not thread-safe.
 class FrameConverter
 {
 public:
-    /// Writes the frame's frameSize() bytes to `destination`. Planar 4:2:0 with 8 bits is copied, other
-    /// formats are converted. Returns false if the conversion fails.
+    /// Writes the image as DecodedFrameType::Video to `destination`, which has frameSize(width, height) bytes
+    /// (planarframe.h). The size does not change. Planar 4:2:0 with 8 bits is copied, other formats are
+    /// converted. Returns false, with nothing written, if the conversion fails.
     [[nodiscard]] bool write(const AVFrame &frame, std::uint8_t *destination);
 
-    /// The colour space of the written bytes.
+    /// The colour space of the bytes that write() writes: that of the frame, or usualFrameColour() for an RGB
+    /// frame. The matrix of a frame that does not report one is that of usualFrameColour().
     [[nodiscard]] static FrameColour colourOf(const AVFrame &frame);
 
 private:

@@ -9,12 +9,14 @@
 
 namespace sdk::ffmpeg {
 
-/// Keeps the last two delivered frames while the next one is written, as DecodeHandler specifies. Not
-/// thread-safe.
+/// Has the memory of three frames: two that were delivered, and the next one. The two stay valid while the
+/// next one is written, as DecodeHandler requires. Not thread-safe.
 class FrameRing
 {
 public:
-    /// Memory for the next frame; null without memory. Repeated calls return the same memory.
+    /// Memory of `size` bytes for the next frame, which is not initialised; null if there is no memory. Until
+    /// noteDelivered(), calls with the same size return the same memory, and a call with another size frees
+    /// it.
     [[nodiscard]] std::uint8_t *next(std::size_t size)
     {
         Buffer &buffer = m_buffers.at(m_next);
@@ -26,7 +28,8 @@ public:
         return buffer.bytes.get();
     }
 
-    /// Marks the next frame as delivered. The memory of the oldest one becomes free.
+    /// Marks the frame of next() as delivered. The following next() uses the memory of the oldest of the
+    /// three frames.
     void noteDelivered() { m_next = (m_next + 1) % m_buffers.size(); }
 
 private:

@@ -11,39 +11,44 @@
 
 namespace sdk::ffmpeg {
 
-/// put() and waitingBytes() are thread-safe. The other functions belong to one reading thread.
+/// The bytes from DecoderInputData on the way to the decoding thread. put() and waitingBytes() are
+/// thread-safe. The other functions are called on one thread, the reader.
 class InputQueue
 {
 public:
+    /// `limit` is the largest value of waitingBytes().
     explicit InputQueue(std::size_t limit) : m_limit(limit) {}
 
-    /// Adds bytes that arrive at `time`, in milliseconds since any start. Returns false and adds nothing if
-    /// the free space is too small.
+    /// Copies bytes that arrive at `time`, in milliseconds on one clock. Returns false and adds nothing if
+    /// waitingBytes() would exceed the limit.
     bool put(std::span<const std::uint8_t> bytes, std::int64_t time);
 
-    /// The number of unprocessed bytes. Used bytes count until the next call of next(); held bytes count as
-    /// well.
+    /// The number of bytes that the reader has not processed: the unused bytes, the used bytes until the next
+    /// call of next(), and the bytes of hold().
     [[nodiscard]] std::size_t waitingBytes() const;
 
-    /// Waits for bytes and returns them; they are valid until the next call. Empty after a request to stop.
+    /// Waits for unused bytes and returns them, perhaps not all. They are valid until the next call of
+    /// next(). Returns an empty span after a request to stop.
     [[nodiscard]] std::span<const std::uint8_t> next(const std::stop_token &stop);
 
-    /// Consumes the first `count` bytes of next(). They stay readable until the next call of next().
+    /// Marks the first `count` unused bytes of the last next() as used. `count` must not exceed their number.
+    /// The bytes stay readable until the next call of next().
     void use(std::size_t count);
 
-    /// Whether next() would not wait.
+    /// True if there are unused bytes: next() would return without waiting.
     [[nodiscard]] bool hasNext() const;
 
     struct Arrival
     {
-        std::int64_t time = 0;
-        std::size_t size = 0; ///< number of unused bytes that arrived at this time
+        std::int64_t time = 0; ///< the `time` of put()
+        std::size_t size = 0;  ///< number of the next unused bytes that arrived at this time
     };
 
-    /// The arrival of the next byte. Requires hasNext().
+    /// The arrival of the next unused byte. Requires hasNext().
     [[nodiscard]] Arrival arrival();
 
-    /// `count` used bytes are not processed yet.
+    /// Sets the number of used bytes that the reader keeps and has not processed. They count in
+    /// waitingBytes(), and so against the limit, until the next hold().
     void hold(std::size_t count);
 
 private:

@@ -4,15 +4,16 @@
 
 namespace sdk::ffmpeg {
 
-/// Its debug lines are FFmpeg's messages. They are disabled by default: a damaged stream causes many.
+/// The category "configtools.sdk.ffmpeg". Its debug lines are FFmpeg's warnings and errors, which are
+/// disabled by default: a damaged stream causes many. Its warnings are those of the decoder library.
 Q_DECLARE_LOGGING_CATEGORY(ffmpegLog)
 
 /// Redirects FFmpeg's log from standard error to ffmpegLog, for the complete process. Further calls have no
-/// effect.
+/// effect, unless setLibraryLogHandler() was called in between. Thread-safe.
 void routeLog();
 
-/// Detects errors that FFmpeg logs on the calling thread during the object's lifetime. Only for the two kinds
-/// of damage that FFmpeg 5.1 does not report otherwise, as the test streams with holes show:
+/// Detects errors that FFmpeg logs on the calling thread during the object's lifetime. Used only for the two
+/// kinds of damage that FFmpeg 5.1 does not report otherwise, as the test streams with holes show:
 /// - The Matroska demuxer resynchronises without an error code, and no packet has AV_PKT_FLAG_CORRUPT.
 /// - The H.265 decoder replaces missing reference frames without an error code (also with AV_EF_EXPLODE), and
 ///   no frame has AV_FRAME_FLAG_CORRUPT or decode_error_flags.
@@ -20,6 +21,8 @@ class LoggedErrors
 {
 public:
     LoggedErrors();
+
+    /// Whether FFmpeg has logged an error since the object was created. To be called on the same thread.
     /// Always false before routeLog() was called.
     [[nodiscard]] bool any() const;
 

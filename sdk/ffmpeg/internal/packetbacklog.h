@@ -9,52 +9,56 @@
 
 namespace sdk::ffmpeg {
 
-/// Keeps packets in their order and drops late ones. Times are in milliseconds since any start. Not
-/// thread-safe.
+/// Keeps packets in their order, and drops late ones when skip() is called. The delay is the time since the
+/// arrival of the next packet. Times are in milliseconds on one clock. Not thread-safe.
 class PacketBacklog
 {
 public:
-    /// With a longer delay, the stream is read ahead to find the next key frame, and non-reference frames are
-    /// dropped.
+    /// With a longer delay, StreamDecoder reads ahead to find the next key frame, and does not decode
+    /// non-reference frames. skip() does not use it.
     static constexpr std::int64_t noticeableDelay = 100;
 
-    /// With a longer delay, packets before the newest key frame are dropped.
+    /// With a longer delay, packets before the newest key frame in the backlog are dropped. The constants
+    /// below apply to a backlog without a key frame.
     static constexpr std::int64_t skippedDelay = 250;
 
-    /// With a longer delay, all packets are dropped if a key frame is expected within `shortWait`: the image
-    /// freezes until then.
+    /// With a longer delay, all packets are dropped if the next key frame is expected within `shortWait`, or
+    /// is overdue for at most `shortWait`. Video that follows is dropped up to a key frame: the image freezes
+    /// until then.
     static constexpr std::int64_t longDelay = 400;
     static constexpr std::int64_t shortWait = 700;
 
-    /// With a longer delay, all packets up to the next key frame are dropped.
+    /// With a longer delay, all packets are dropped at any time. Video that follows is dropped up to a key
+    /// frame.
     static constexpr std::int64_t longestDelay = 3000;
 
-    /// The timeout for a key frame is the longer one of this and twice the last interval of key frames. A
-    /// stream may have no key frame after its first: it is then shown late, without drops until a key frame
-    /// arrives.
+    /// The timeout of the wait for a key frame is the longer one of this and twice the last interval of key
+    /// frames. A stream may have no key frame after its first: after the timeout it is shown late, and
+    /// nothing is dropped until a key frame arrives.
     static constexpr std::int64_t longestWait = 5000;
 
-    /// Adds a packet that arrived at `arrival`.
+    /// Adds a packet (not null) that arrived at `arrival`. `isVideo` is false for a packet of any other
+    /// track.
     void add(AvPointer<AVPacket> packet, bool isVideo, std::int64_t arrival);
 
     [[nodiscard]] bool isEmpty() const { return m_entries.empty(); }
 
-    /// The total size of the packets.
+    /// The total size of the packets in bytes.
     [[nodiscard]] std::size_t bytes() const { return m_bytes; }
 
-    /// The delay of the next packet; 0 without one.
+    /// The delay of the next packet at the time `now`; 0 if the backlog is empty.
     [[nodiscard]] std::int64_t delay(std::int64_t now) const;
 
     struct Skip
     {
         int frames = 0;             ///< number of dropped frames
-        bool isInterrupted = false; ///< the next frame does not follow the last taken one
+        bool isInterrupted = false; ///< the next video packet may not follow the last one that was taken
     };
 
-    /// Drops late packets.
+    /// Drops the late packets at the time `now`. To be called before each take() of a live stream.
     [[nodiscard]] Skip skip(std::int64_t now);
 
-    /// Removes and returns the next packet. Requires one.
+    /// Removes and returns the next packet. The backlog must not be empty.
     [[nodiscard]] AvPointer<AVPacket> take();
 
 private:

@@ -7,7 +7,7 @@ namespace sdk::ffmpeg {
 
 inline constexpr int planes = 3; // Y, U, V
 
-struct PlaneSize
+struct PlaneSize // in samples of one byte
 {
     int width;
     int height;
@@ -18,7 +18,7 @@ struct PlaneSize
     }
 };
 
-/// The size of a plane (from 0) of an image.
+/// The size of the plane with this index (0 is Y, 1 is U, 2 is V) of an image of width x height pixels.
 [[nodiscard]] constexpr PlaneSize planeSize(int plane, int width, int height)
 {
     return plane == 0 ? PlaneSize{width, height} : PlaneSize{(width + 1) / 2, (height + 1) / 2};
@@ -30,11 +30,15 @@ struct PlaneSize
     return planeSize(0, width, height).bytes() + 2 * planeSize(1, width, height).bytes();
 }
 
-/// A frame with its own memory and padded lines: the scaler may write beyond their ends. Null without memory.
+/// A frame of this size in pixels, with its own memory. Its lines are padded: the scaler may write beyond the
+/// ends of lines. The memory is not initialised. Null if there is no memory.
 [[nodiscard]] AvPointer<AVFrame> paddedFrame(AVPixelFormat format, int width, int height);
 
-/// Copies a planar 4:2:0 frame to frameSize() bytes without padding, and back.
+/// Copies a planar 4:2:0 frame with 8 bits to `destination`, as DecodedFrameType::Video: frameSize() bytes
+/// without padding.
 void copyPlanes(const AVFrame &frame, std::uint8_t *destination);
+
+/// Copies frameSize() bytes, as DecodedFrameType::Video, to `frame`, whose size and format are set.
 void copyPlanes(const std::uint8_t *source, AVFrame &frame);
 
 } // namespace sdk::ffmpeg

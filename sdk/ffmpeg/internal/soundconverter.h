@@ -1,4 +1,4 @@
-// Converts decoded audio to the format of delivery.
+// Converts decoded audio to the format of DecodedFrameType::Sound.
 #pragma once
 
 #include "sdk/ffmpeg/internal/avpointers.h"
@@ -8,7 +8,7 @@
 
 namespace sdk::ffmpeg {
 
-/// Not thread-safe.
+/// Keeps FFmpeg's resampler for the next frame of the same format. Not thread-safe.
 class SoundConverter
 {
 public:
@@ -17,8 +17,9 @@ public:
     SoundConverter(const SoundConverter &) = delete;
     SoundConverter &operator=(const SoundConverter &) = delete;
 
-    /// The samples as 16-bit mono, valid until the next call and as long as `frame`. Empty if the conversion
-    /// fails.
+    /// The samples of `frame` as 16-bit mono with the same sample rate. They are valid until the next call or
+    /// the end of `frame`, whichever is first. Empty if the conversion fails, for a frame without samples, a
+    /// rate outside 1000 to 384000 Hz and more than 16 channels.
     [[nodiscard]] std::span<const std::int16_t> convert(const AVFrame &frame);
 
 private:

@@ -23,35 +23,42 @@ class StreamObserver
 public:
     virtual ~StreamObserver() = default;
 
-    /// The codecs as in DecoderStatus; empty for a missing track.
+    /// Called once, when the head of the stream was read. The names are those of DecoderStatus, and empty for
+    /// a track that is missing or cannot be decoded.
     virtual void codecsFound(std::string_view video, std::string_view audio) = 0;
 
-    /// A frame of video or audio. Video is in the ring; audio is valid during the call.
+    /// A frame of video or a chunk of audio. The bytes of video are in the FrameRing, and valid until two
+    /// more frames of video were delivered. The bytes of audio are valid during the call.
     virtual void decoded(std::span<const std::uint8_t> bytes, const DecodedFrameInformation &information) = 0;
 
-    /// A part of the stream could not be decoded.
+    /// A part of the stream could not be decoded, converted or kept in memory. Called once for each part.
     virtual void damaged() = 0;
 
-    /// `frames` late frames were dropped.
+    /// `frames` late frames of video were dropped.
     virtual void skipped(int frames) = 0;
 };
 
-/// Decodes from the head of the stream to its end. Not thread-safe.
+/// Decodes one stream from its head to its end, on the thread that calls run(). Not thread-safe.
 class StreamDecoder
 {
 public:
-    /// `liveClock` has timed the arrival of `source`; with it, late frames are dropped. It may be null.
+    /// `source`, `ring`, `observer` and `liveClock` must outlive the decoder. `liveClock` is the clock of the
+    /// arrival times of `source`. Late frames are dropped by this clock. If it is null, no frame is dropped
+    /// as late.
     StreamDecoder(StreamSource &source, FrameRing &ring, StreamObserver &observer, const Clock *liveClock,
                   std::stop_token stop);
 
-    /// Decodes until the stream ends or a stop is requested. An invalid head ends the stream.
+    /// Decodes until the stream ends or a stop is requested. An invalid head ends the stream. The frames in
+    /// the reorder buffer are delivered at the end of the stream, not after a request to stop. To be called
+    /// once.
     void run();
 
 private:
     [[nodiscard]] bool open();
 
-    /// Reads the next packet into the backlog and, while that is late, all available packets. Returns false
-    /// at the end.
+    /// Waits for a packet if the backlog is empty. While the next packet of a live stream is late, it also
+    /// reads the packets that have arrived. Returns false if the backlog is empty at the end of the stream,
+    /// and after a request to stop.
     [[nodiscard]] bool fillBacklog();
     [[nodiscard]] bool readPacket();
     void skipLateFrames();

@@ -8,15 +8,18 @@
 
 namespace sdk::ffmpeg {
 
-/// Finds the EBML header with a Matroska document type, the start of every stream.
+/// Finds EBML headers with the document type "matroska" or "webm". Every stream starts with one. A header
+/// with more than 1024 bytes of elements is not found. Not thread-safe.
 class StreamHeaderFinder
 {
 public:
-    /// Searches the next bytes up to the end of the first header. Returns the number of bytes up to its end,
-    /// or nullopt if no header ends in them.
+    /// Searches `bytes`, which follow the bytes of the last call. Returns the number of bytes up to the end
+    /// of the first header that ends in `bytes`, and does not search the bytes after it: the next call starts
+    /// with them. Returns nullopt if no header ends in `bytes`. The header may start in the bytes of earlier
+    /// calls.
     [[nodiscard]] std::optional<std::size_t> find(std::span<const std::uint8_t> bytes);
 
-    /// The last found header.
+    /// The complete bytes of the last header that find() has found; empty before the first one.
     [[nodiscard]] const std::vector<std::uint8_t> &header() const { return m_header; }
 
 private:

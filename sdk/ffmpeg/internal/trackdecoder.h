@@ -19,36 +19,45 @@ inline constexpr std::int64_t mostPixels = std::int64_t{8192} * 4320;
            width * height <= mostPixels;
 }
 
-/// Not thread-safe. It has no threads: frame threading would delay frames.
+/// Decodes the packets of one track on the calling thread: frame threading would delay frames. Not
+/// thread-safe.
 class TrackDecoder
 {
 public:
-    /// Returns null if the track cannot be decoded.
+    /// Returns null if FFmpeg has no decoder for the track or cannot open it. `track` is used during the call
+    /// only.
     [[nodiscard]] static std::unique_ptr<TrackDecoder> open(const AVStream &track);
 
-    /// Called with each undamaged frame, which is valid during the call.
+    /// Called with each frame that FFmpeg does not mark as damaged. The frame is valid during the call.
     using FrameHandler = std::function<void(const AVFrame &)>;
 
-    /// Decodes a packet of the track. Returns false if it is damaged.
+    /// Decodes a packet of the track, and calls `handler` for each frame that is complete. That may be none:
+    /// frames in the reorder buffer follow later. Returns false for a damaged packet, and if an H.265 frame
+    /// refers to missing frames; `handler` may have been called then. H.265 packets before the first key
+    /// frame are dropped with the result true.
     [[nodiscard]] bool decode(const AVPacket &packet, const FrameHandler &handler);
 
-    /// Prepares for a key frame that does not follow the last packet. Frames in the reorder buffer are
-    /// dropped.
+    /// To be called before a packet that does not follow the last decoded one. Frames in the reorder buffer
+    /// are dropped, and are counted by takeDropped().
     void restart();
 
-    /// In hurried mode, non-reference frames are dropped.
+    /// In hurried mode, frames that no other frame refers to are not decoded, and are counted by
+    /// takeDropped(). Initially off.
     void setHurried(bool isHurried);
 
-    /// Delivers the frames in the reorder buffer. No further packets can be decoded.
+    /// Calls `handler` for the frames in the reorder buffer. decode() must not be called afterwards.
     void finish(const FrameHandler &handler);
 
-    /// The number of frames that were dropped since the last call, without those of damaged packets.
+    /// The number of frames that restart() and the hurried mode have dropped since the last call. Damaged
+    /// frames are not counted.
     [[nodiscard]] int takeDropped() { return std::exchange(m_dropped, 0); }
 
+    /// AVPacket::stream_index of the packets of the track.
     [[nodiscard]] int track() const { return m_track; }
     [[nodiscard]] AVCodecID codec() const { return m_context->codec_id; }
 
-    /// The rounded frame rate from the container or the codec; 0 if unknown.
+    /// The rounded frame rate of the container, or of the codec if the container has none, in frames per
+    /// second; 0 if unknown or over 1000.
     [[nodiscard]] int frameRate() const;
 
 private:
@@ -59,8 +68,8 @@ private:
     const AvPointer<AVFrame> m_frame;
     const int m_track;
     const AVRational m_containerRate;
-    bool m_waitsForKey;
-    int m_held = 0; ///< frames in the reorder buffer
+    bool m_waitsForKey; ///< packets before the first key frame are dropped
+    int m_held = 0;     ///< frames in the reorder buffer
     int m_dropped = 0;
 };
 
