@@ -11,16 +11,18 @@
 struct VideoFrame
 {
     const std::uint8_t *data = nullptr;
-    std::int32_t size = 0;   ///< in bytes
-    std::int32_t width = -1; ///< in pixels; -1 before the first frame, 0 after the end of the stream
-    std::int32_t height = -1;
+    std::int32_t size = 0;    ///< in bytes
+    std::int32_t width = -1;  ///< in pixels; -1 before the first frame, 0 from clearSize() to the next frame
+    std::int32_t height = -1; ///< as `width`
     sdk::FrameColour colour = sdk::FrameColour::Bt601Limited;
-    std::uint64_t number = 0; ///< counts the frames of all streams of a CurrentFrame, from 1; 0 for none
-    bool isSizeStale = false; ///< the size has changed since the renderer last read the frame
+    std::uint64_t number =
+        0; ///< counts the calls of CurrentFrame::set(), also over streams; 0 before the first
+    bool isSizeStale = false; ///< set when the size changes; ItemRender resets it in CurrentFrame::read()
 
-    /// Width and height of the planes U and V.
+    /// Width and height of the planes U and V, in samples of one byte.
     [[nodiscard]] std::int32_t chromaWidth() const { return (width + 1) / 2; }
     [[nodiscard]] std::int32_t chromaHeight() const { return (height + 1) / 2; }
+    // The starts of the planes in `data`. They require isComplete().
     [[nodiscard]] const std::uint8_t *y() const { return data; }
     [[nodiscard]] const std::uint8_t *u() const { return data + std::ptrdiff_t(width) * height; }
     [[nodiscard]] const std::uint8_t *v() const
@@ -28,27 +30,31 @@ struct VideoFrame
         return u() + std::ptrdiff_t(chromaWidth()) * chromaHeight();
     }
 
-    /// Whether there is a frame with a valid size and at least as many bytes as the size requires.
+    /// Whether there is a frame with sides of 1 to 16384 pixels and at least as many bytes as the size
+    /// requires.
     [[nodiscard]] bool isComplete() const;
 };
 
-/// Holds one frame; thread-safe. Holding its lock blocks delivery of the next frame. The decoder overwrites a
-/// frame only after two more, so the bytes stay valid while the lock is held.
+/// Refers to the latest frame; the bytes are not copied. Thread-safe. set() waits while read() runs, and so
+/// does the decoder. The decoder overwrites a frame only after two more, so the bytes stay valid during
+/// read().
 class CurrentFrame
 {
 public:
-    /// Called on the decoder's thread.
+    /// Called on the decoder's thread with a frame as VideoFrame. `data` stays valid as
+    /// VideoDataObserver::onDecodedFrame() specifies.
     void set(const std::uint8_t *data, std::int32_t size, std::int32_t width, std::int32_t height,
              sdk::FrameColour colour);
 
-    /// Sets the size to 0: the stream is about to end.
+    /// Sets the size to 0 x 0: no frame is complete until the next set(). Called before the decoder stops.
     void clearSize();
 
-    /// Also removes the bytes, which the decoder frees next.
+    /// As clearSize(), and removes the pointer to the bytes. Called when the decoder has stopped, which has
+    /// freed them.
     void clear();
 
-    /// Calls `reader` with the frame while the lock is held. `reader` must be short and must not call the
-    /// decoder library.
+    /// Calls `reader` with the frame (VideoFrame &) while the lock is held, and returns its result. `reader`
+    /// must be short. It must not call the decoder library or this object.
     template<typename Reader>
     decltype(auto) read(Reader &&reader)
     {

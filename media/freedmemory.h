@@ -9,7 +9,9 @@
 /// process would keep hundreds of megabytes of free memory.
 void limitFreedMemory();
 
-/// Returns free memory to the system two seconds after the call, on a thread of the global pool. The delay
-/// includes memory that the caller and other threads are about to free. Further calls within the delay have
-/// no effect. Any thread; no effect without an application object or if the C library is not glibc.
+/// Schedules the return of free memory to the system: two seconds after the call, on a thread of the global
+/// pool. The call returns immediately. After the delay, memory that the caller and other threads are about to
+/// free at the call is returned as well. Further calls within the delay have no effect. Any thread. Requires
+/// the event loop of the main thread. No effect without an application object or if the C library is not
+/// glibc.
 void returnFreedMemory();

@@ -2,4 +2,5 @@
 
 #include <QLoggingCategory>
 
+/// The log lines of live views and snapshots.
 Q_DECLARE_LOGGING_CATEGORY(logMedia)

@@ -3,11 +3,12 @@
 #include <array>
 #include <cstdint>
 
-/// The sum of the amounts of the last second, with a resolution of 100 ms. Not thread-safe.
+/// The sum of the amounts of the last second, with a resolution of 100 ms. Times are in milliseconds on one
+/// clock, 0 or later. Not thread-safe.
 class SlidingSum
 {
 public:
-    /// `now` is in milliseconds since any start.
+    /// Adds an amount of any unit at the time `now`.
     void add(std::int64_t now, std::int64_t amount)
     {
         const std::int64_t tenth = now / tenthOfSecond;
@@ -17,7 +18,8 @@ public:
         slot.amount += amount;
     }
 
-    /// The sum of the ten completed tenths before `now`.
+    /// The sum of the amounts in the ten complete tenths of a second before `now`. The tenth of a second that
+    /// contains `now` does not count.
     [[nodiscard]] std::int64_t sum(std::int64_t now) const
     {
         const std::int64_t current = now / tenthOfSecond;
@@ -34,7 +36,7 @@ private:
 
     struct Slot
     {
-        std::int64_t tenth = -1000;
+        std::int64_t tenth = -1000; // number of the tenth of a second; initially too old to count
         std::int64_t amount = 0;
     };
 

@@ -17,40 +17,43 @@ inline constexpr int snapQuality = 50;            ///< of the JPEG files, 1 to 1
 /// A requested channel.
 struct SnapChannel
 {
-    int number = 0; ///< from 0
-    bool connected = true;
+    int number = 0;        ///< from 0
+    bool connected = true; ///< whether the channel has a camera; without one, no stream is requested
 };
 
 /// The common data of the snapshots of one device. The functions are called on the thread of the snapshots.
 struct SnapTask
 {
     sdk::SdkLibraries libraries;
-    QString kind;                          ///< passed to SnapThread::captured(); may be empty
-    QString folder;                        ///< absolute path of the device's folder
+    QString kind;   ///< passed to SnapThread::captured(); may be empty
+    QString folder; ///< absolute path of the device's folder, which is created if it is missing
     std::function<bool()> isDeviceCurrent; ///< whether sessionHandle() is still a session with the device
-    std::function<qint64()> sessionHandle; ///< changes with a new login
-    std::function<QList<SnapChannel>()> channels; ///< for SnapThread: the requested channels; may block
-    int tries = snapTries;                        ///< for each channel
+    std::function<qint64()> sessionHandle; ///< the present session; a new login changes it
+    std::function<QList<SnapChannel>()> channels; ///< the requested channels; may block; SnapThread only
+    int tries = snapTries;                        ///< number of attempts to save a frame, for each channel
 };
 
 enum class SnapProblem
 {
     None,
     NotConnected, ///< the channel has no camera
-    NoFrame,      ///< the stream was refused, no frame was decoded in time, or the snapshot was cancelled
+    NoFrame,      ///< the stream was refused, no frame was decoded in time, the snapshot was cancelled, or
+                  ///< the session is with another device now
     NotWritten,   ///< the file could not be written
 };
 
 struct SnapOutcome
 {
-    QString path;    ///< a "file:///" URL, empty on failure
+    QString path;    ///< the "file:///" URL of the file, empty on failure
     QString message; ///< in the user's language, empty on success
     SnapProblem problem = SnapProblem::None;
     QString reason; ///< details of the problem in the user's language; may be empty
 };
 
-/// Opens a separate stream of the channel, waits for a frame, and saves it as "<channel>.jpg" in the folder
-/// of the task. Blocks for at most 0.1 s per try plus the responses of the device. A file that cannot be
-/// written is reported immediately. A request to stop cancels. Any thread except the main thread.
+/// Opens a separate main stream of the channel, waits for a frame, and saves it as "<channel>.jpg" (from 0)
+/// in the folder of the task. An existing file is replaced. Tries again every snapPauseMilliseconds, up to
+/// SnapTask::tries times. Blocks for these pauses and for the responses of the device. After a new login it
+/// opens the stream again. A file that cannot be written ends it immediately. A request to stop ends it
+/// before the next try. Any thread except the main thread, which would block.
 [[nodiscard]] SnapOutcome takeSnapshot(const SnapTask &task, const SnapChannel &channel,
                                        const std::stop_token &stop);

@@ -3,14 +3,15 @@
 #include <atomic>
 #include <cstdint>
 
-/// Detects a stream that delivers no frames. Times are in milliseconds since any start.
+/// Detects a stream that delivers no frames. Times are in milliseconds on one clock. noteFrame() may be
+/// called on any thread, the other functions on one thread.
 class StreamWatch
 {
 public:
-    static constexpr std::int64_t firstFrameTimeout = 8000;
-    static constexpr std::int64_t nextFrameTimeout = 4000;
+    static constexpr std::int64_t firstFrameTimeout = 8000; ///< from start() to the first frame
+    static constexpr std::int64_t nextFrameTimeout = 4000;  ///< from a frame to the next one
 
-    /// A stream was started at `now`.
+    /// A stream was started at `now`. To be called before hasTimedOut().
     void start(std::int64_t now)
     {
         m_lastFrame = none;
@@ -18,10 +19,11 @@ public:
         m_reported = none;
     }
 
-    /// A frame arrived at `now`. Any thread.
+    /// A frame arrived at `now`.
     void noteFrame(std::int64_t now) { m_lastFrame = now; }
 
-    /// Returns true once after each timeout; the next one starts with the next frame.
+    /// Returns true if no frame has arrived in time. It returns true once for each timeout; after that it
+    /// returns false until a further frame has arrived and the next one is missing.
     [[nodiscard]] bool hasTimedOut(std::int64_t now)
     {
         const std::int64_t last = m_lastFrame;
@@ -37,5 +39,5 @@ private:
 
     std::int64_t m_start = 0;
     std::atomic<std::int64_t> m_lastFrame = none;
-    std::int64_t m_reported = none; ///< the start of the reported timeout
+    std::int64_t m_reported = none; ///< time of the start or frame whose timeout was reported
 };

@@ -14,9 +14,10 @@
 #include <QtQml/qqmlregistration.h>
 
 /// Draws the live stream of one channel with zoom and pan, and plays its audio if it is switched on. The
-/// session is the current one of the back end or a given one. The item is transparent without a frame.
+/// channel, the session and the kind of stream are those at the call of start(): a later change does not
+/// affect a running stream. The item is transparent without a frame.
 ///
-/// Lives on the main thread.
+/// Lives on the main thread. The zoom and the centre remain from one stream to the next.
 class VideoItem : public QQuickFramebufferObject, public DrawnVideo
 {
     Q_OBJECT
@@ -50,8 +51,8 @@ public:
     Q_ENUM(StreamKind)
 
     /// Sets the libraries of all items created afterwards, since QML creates items without arguments. Called
-    /// before the first item is created, and with empty libraries after the last one is destroyed. Without
-    /// libraries every start fails.
+    /// before the first item is created, and with empty libraries after the last one is destroyed. Without a
+    /// network or decoder library every start fails. Without a clock, items use the system's clock.
     static void registerLibraries(const sdk::SdkLibraries &libraries);
 
     explicit VideoItem(QQuickItem *parent = nullptr);
@@ -59,45 +60,55 @@ public:
     /// Closes the stream.
     ~VideoItem() override;
 
+    /// Whether the audio of the stream is played; initially false. It may change while a stream runs.
     [[nodiscard]] bool isAudioOutput() const { return m_stream.hasAudio(); }
     void setIsAudioOutput(bool isAudioOutput);
-    /// The session of the last start; 0 for none.
+    /// The handle of the session that the last start used, also after stop(); 0 for none.
     [[nodiscard]] qint64 loginHandle() const { return m_loginHandle; }
     [[nodiscard]] FillModeType fillMode() const { return m_fillMode; }
     void setFillMode(FillModeType fillMode);
-    /// The channel of the next start, from 0; -1 for none.
+    /// The channel of the next start, from 0. With -1, the initial value, a start fails.
     [[nodiscard]] int channelId() const { return m_channelId; }
     void setChannelId(int channelId);
-    /// The session handle of the next start; 0 for the current session of the back end.
+    /// The session handle of the next start. With 0, the initial value, the next start uses the back end's
+    /// current session.
     [[nodiscard]] qint64 session() const { return m_session; }
     void setSession(qint64 session);
     /// The same for QML, which represents integers up to 2^53.
     [[nodiscard]] double sessionNumber() const { return static_cast<double>(m_session); }
     void setSessionNumber(double session) { setSession(static_cast<qint64>(session)); }
-    /// Not used by the item; free for QML.
+    /// A string of the QML code, which the item does not use.
     [[nodiscard]] QString url() const { return m_url; }
     void setUrl(const QString &url);
-    /// Why the last start failed or the stream has ended, in the user's language; empty otherwise.
+    /// Why the last start failed or the stream has ended, in the user's language. It stays until the next
+    /// successful start, also after stop(); empty otherwise.
     [[nodiscard]] QString text() const { return m_stream.text(); }
-    /// The stream of the channel that the next start requests.
+    /// The stream of the channel that the next start requests; initially Main.
     [[nodiscard]] StreamKind streamKind() const { return m_streamKind; }
     void setStreamKind(StreamKind streamKind);
-    /// Size of the current frame in pixels; -1 x -1 before the first frame, 0 x 0 after stop().
+    /// Size of the current frame in pixels. -1 x -1 until the first frame or the first stop(); 0 x 0 from
+    /// stop() to the next frame. It is not cleared when the device ends the stream.
     [[nodiscard]] QSize frameSize() const { return m_frameSize; }
     [[nodiscard]] bool hasFrame() const { return !m_frameSize.isEmpty(); }
     [[nodiscard]] int zoomLevel() const { return m_geometry.level(); } ///< 0 to ViewGeometry::maximumLevel
-    /// True from a successful start to stop().
+    /// True from a successful start to stop(), also after the device has ended the stream.
     [[nodiscard]] bool isStreaming() const { return m_stream.isStreaming(); }
     /// Why the current frame cannot be drawn, in the user's language; empty otherwise.
     [[nodiscard]] QString problemText() const;
 
-    /// "width" and "height" of the frame in pixels, 0 without a frame; "codec" and "audioCodec", empty if
-    /// missing or unknown; "rate" in frames per second and "bitRate" in kbit/s during the last second;
-    /// "waiting": bytes that are not decoded yet; "damages" of the stream and "skipped" late frames since the
-    /// start.
+    /// The keys and values:
+    /// - "width", "height": of the frame in pixels (int); 0 without a frame
+    /// - "codec", "audioCodec": as in DecoderStatus (string); empty if missing or unknown
+    /// - "rate": frames per second during the last second (double)
+    /// - "bitRate": received kbit/s during the last second (double)
+    /// - "waiting": number of bytes that were received and not decoded yet
+    /// - "damages": number of damaged parts of the stream since the start
+    /// - "skipped": number of frames that were dropped as late since the start
+    ///
+    /// The strings are empty and the numbers 0 without an open stream.
     Q_INVOKABLE [[nodiscard]] QVariantMap figures() const;
 
-    // For the renderer.
+    // For ItemRender, as DrawnVideo specifies.
     [[nodiscard]] const ViewGeometry &geometry() const override { return m_geometry; }
     [[nodiscard]] FrameFill frameFill() const override;
     [[nodiscard]] CurrentFrame &currentFrame() override { return m_stream.currentFrame(); }
@@ -114,18 +125,20 @@ Q_SIGNALS:
     void videoInfoChangedSig(); ///< frameSize() or hasFrame() has changed
     void fillModeChanged();
     void channelIdChanged();
-    void videoErrorSig(); ///< the stream delivers no frames; it may still recover
+    void videoErrorSig(); ///< as VideoStream::framesMissing()
     void urlChanged();
-    void sigVideoDataChanged(); ///< decoder's thread: a frame has arrived
-    void sigAudioDataChanged(); ///< decoder's thread: audio has arrived
+    void sigVideoDataChanged(); ///< emitted on the decoder's thread: a frame has arrived
+    /// Emitted on the decoder's thread, with the audio buffer locked: audio has arrived. A connection must be
+    /// queued.
+    void sigAudioDataChanged();
     void textChanged();
-    void sigSampleRateChanged(); ///< decoder's thread
+    void
+    sigSampleRateChanged(); ///< emitted on the decoder's thread: the sample rate of the audio has changed
     void streamKindChanged();
     void zoomLevelChanged();
     void isStreamingChanged();
     void problemTextChanged();
-    /// Emitted after startInBackground(). `mayTryOther`: the device responds, and may accept a request for
-    /// the other stream of the channel.
+    /// As VideoStream::startEnded().
     void startEnded(bool isStreaming, bool mayTryOther);
     void sessionChanged();
 
@@ -133,26 +146,30 @@ public Q_SLOTS:
     // The order of the slots is fixed; new ones are appended.
 
     /// Closes an open stream and starts the stream of the channel. Blocks until the device has responded; the
-    /// window uses startInBackground(). Returns false on failure, with the reason in `text`.
+    /// window uses startInBackground(). Returns false on failure, with the reason in `text`. Without a device
+    /// factory it returns false and does not change `text`.
     bool start();
 
-    /// Closes the stream or cancels a start, and clears the item.
+    /// Closes the stream or cancels a start in the background, and makes the item transparent. startEnded()
+    /// is not emitted for a cancelled start. `text` does not change.
     void stop();
 
-    void onSigVideoDataChanged(); ///< repaints
-    void onSizeChanged();         ///< zooms about the centre
+    // Called by the item itself after its signals.
+    void onSigVideoDataChanged(); ///< updates frameSize() and repaints
+    void onSizeChanged();         ///< repaints with the same zoom level and the same centre
     void onSigAudioDataChanged(); ///< plays the buffered audio
     void onAudioFormatChanged();  ///< opens the audio output with the current sample rate
 
-    /// Zooms by `facotr` notches of a mouse wheel (positive: in), a level for each and at least one, about
-    /// the point `center` in the item's pixels.
+    /// Changes the zoom level by `facotr` (notches of a mouse wheel, positive: in), rounded to a whole number
+    /// of levels and to at least one. No effect for 0. The point of the image at `center`, in pixels of the
+    /// item, stays there if possible.
     void changeScale(double facotr, QPointF center);
 
-    /// Pans by a distance in the item's pixels.
+    /// Moves the image by a distance in pixels of the item, as far as ViewGeometry permits.
     void drag(double deltx, double delty);
 
     /// As start(), but does not block. Emits startEnded() when the device has responded, unless stop() or
-    /// another start is called first.
+    /// another start is called first. Without a device factory it emits nothing.
     void startInBackground();
 
 private:

@@ -18,7 +18,8 @@
 #include <memory>
 
 /// The live stream of one channel: requests it, has it decoded, keeps the latest frame, buffers its audio and
-/// detects missing frames. It can be started again after its end.
+/// detects missing frames. It can be started again after stop(). When the device ends the stream, text()
+/// changes and the stream stays open until stop().
 ///
 /// Functions are called on the thread that created the object, and signals are emitted there, unless stated
 /// otherwise. A stream for snapshots may live on any thread. Without an event loop, startInBackground() does
@@ -28,44 +29,51 @@ class VideoStream : public QObject, public VideoDataObserver
 {
     Q_OBJECT
 public:
-    /// A null network or decoder library makes every start fail. The clock must not be null.
+    /// Without a network or decoder library (null) every start fails. The clock must not be null.
     explicit VideoStream(sdk::SdkLibraries libraries, QObject *parent = nullptr);
 
-    /// Closes the stream without emitting signals of this thread.
+    /// Closes the stream as stop(), without isStreamingChanged(). The decoder's thread may emit its signals
+    /// until then.
     ~VideoStream() override;
 
-    /// Blocks until the device has responded. Returns false on failure, with the reason in text().
-    /// Requires a closed stream.
+    /// Blocks until the device has responded. Returns false on failure, with the reason in text(). isOpen()
+    /// must be false. If no decoder port is free, the start succeeds and no frame arrives.
     bool start(const StreamOpening::Request &request);
 
-    /// As start(), but does not block. Emits startEnded() unless stop() is called first.
+    /// As start(), but does not block. Emits startEnded() when the device has responded, unless stop() is
+    /// called first. isOpen() is true from the call on.
     void startInBackground(const StreamOpening::Request &request);
 
-    /// Closes the stream or cancels a start. No effect on a closed stream.
+    /// Closes the stream or cancels a start, and clears currentFrame(). Waits for the decoder's thread.
+    /// text() does not change.
     void stop();
 
-    /// Whether stop() has something to close. A failed start can leave a stream to close.
+    /// Whether a stream is open or a start in the background is pending. If it is true, stop() must be called
+    /// before the next start. A failed start can leave an open stream.
     [[nodiscard]] bool isOpen() const { return m_handle != 0 || m_opening; }
 
-    /// True from a successful start to stop().
+    /// True from a successful start to stop(), also after the device has ended the stream.
     [[nodiscard]] bool isStreaming() const { return m_isStreaming; }
 
-    /// Why the last start failed or the stream has ended, in the user's language; empty otherwise.
+    /// Why the last start failed or the stream has ended, in the user's language. It stays until the next
+    /// successful start; empty otherwise.
     [[nodiscard]] QString text() const { return m_text; }
 
+    /// As CDHDecoder::figures().
     [[nodiscard]] StreamFigures figures() const { return m_decoder->figures(); }
 
-    /// Any thread.
+    /// The latest frame; incomplete before the first frame and after stop(). Any thread.
     [[nodiscard]] CurrentFrame &currentFrame() { return m_frame; }
 
-    /// Writes the current frame as JPEG to `path`, replacing an existing file. `quality` is 1 to 100. Returns
-    /// false without a frame and if the file cannot be written.
+    /// Writes the current frame as JPEG to `path`, replacing an existing file. `quality` is 1 to 100. The
+    /// folder must exist. Returns false without a frame and if the file cannot be written; an existing file
+    /// is unchanged then.
     bool saveFrame(const QString &path, int quality);
 
-    /// Whether audio is buffered; false initially.
+    /// Whether the audio of the stream is buffered for playAudio(); false initially.
     [[nodiscard]] bool hasAudio() const { return m_hasAudio; }
 
-    /// Returns false if nothing changes.
+    /// Returns true if the value has changed.
     bool setHasAudio(bool hasAudio) { return m_hasAudio.exchange(hasAudio) != hasAudio; }
 
     /// Plays the buffered audio. The owner calls it after audioArrived().
@@ -74,20 +82,24 @@ public:
     /// Opens the audio output with the current sample rate. The owner calls it after sampleRateChanged().
     void openAudio() { m_audio.reopen(); }
 
-    /// Called by the decoder.
+    /// Called by the decoder on its thread.
     void onDecodedFrame(const std::uint8_t *data, std::int32_t size, std::int32_t width, std::int32_t height,
                         sdk::DecodedFrameType type, std::int32_t rate, std::int32_t reserved) override;
 
 Q_SIGNALS:
-    void frameArrived();      ///< decoder's thread
-    void audioArrived();      ///< decoder's thread, with the audio buffer locked
-    void sampleRateChanged(); ///< decoder's thread
+    void frameArrived();      ///< emitted on the decoder's thread
+    void audioArrived();      ///< emitted on the decoder's thread, with the audio buffer locked
+    void sampleRateChanged(); ///< emitted on the decoder's thread
     void textChanged();
     void isStreamingChanged();
-    /// Emitted after startInBackground(). `mayTryOther`: the device responds, and may accept a request for
-    /// the other stream of the channel.
+    /// The end of startInBackground(). `isStreaming` is its result: false on failure, with the reason in
+    /// text(). `mayTryOther` is true if the start has failed for this stream only: the device responds and
+    /// accepts the session, so a request for the other stream of the channel may succeed. It is also true for
+    /// a failure without an error number.
     void startEnded(bool isStreaming, bool mayTryOther);
-    void framesMissing(); ///< once after each timeout of StreamWatch; the stream may still recover
+    /// No frame has arrived for the time of StreamWatch. Emitted once for each timeout; the stream stays open
+    /// and may recover.
+    void framesMissing();
 
 private:
     static constexpr int watchInterval = 250; // milliseconds

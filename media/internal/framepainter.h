@@ -13,7 +13,9 @@
 #include <array>
 
 /// Draws frames in planar YUV 4:2:0 with OpenGL. All functions and the destructor require the same current
-/// context, which may be of desktop OpenGL, its core profile or ES. They do not restore the OpenGL state.
+/// context, which may be of desktop OpenGL, its core profile or ES. They do not restore the OpenGL state. The
+/// order is setFrameSize() for the first frame and after a change of the size, upload() for each frame, then
+/// clear() and draw() for each repaint.
 class FramePainter : protected QOpenGLFunctions
 {
 public:
@@ -23,21 +25,23 @@ public:
     FramePainter(const FramePainter &) = delete;
     FramePainter &operator=(const FramePainter &) = delete;
 
-    /// Creates the textures for frames of this size in pixels, unless it exceeds the driver's texture size.
+    /// Replaces the textures by textures for frames of this size in pixels. A size that exceeds the driver's
+    /// texture size leaves no textures; a warning is logged.
     void setFrameSize(const QSize &size);
+    /// The last setFrameSize(), also if it has created no textures; invalid before the first one.
     [[nodiscard]] QSize frameSize() const { return m_size; }
     [[nodiscard]] bool hasTextures() const { return m_textures.front() != 0; }
 
-    /// Whether frames of frameSize() can be drawn.
+    /// Whether frames of frameSize() can be drawn. To be called after setFrameSize().
     [[nodiscard]] DrawingError error() const;
 
-    /// Copies a frame of frameSize() to the textures. Requires textures.
+    /// Copies a frame of frameSize() to the textures. Requires hasTextures() and a complete frame.
     void upload(const VideoFrame &frame);
 
     /// Sets the viewport to `view`, in device pixels, and makes it transparent.
     void clear(const QSize &view);
 
-    /// Draws the uploaded frame into the viewport.
+    /// Draws the last uploaded frame into the viewport of clear(). No effect without valid shaders.
     void draw(const ViewMatrices &matrices);
 
 private:
