@@ -49,7 +49,7 @@ public:
 
     /// Clears the buffer, closes the output and opens the default one with the current sample rate. No output
     /// is open afterwards if there is none, or for a rate outside 1 to 384000 Hz. Closing runs an event loop,
-    /// in which calls of this function have no effect.
+    /// in which a call of this function only clears the buffer.
     void reopen();
 
     [[nodiscard]] bool isOpen() const { return m_sink != nullptr; }

@@ -132,8 +132,7 @@ Q_SIGNALS:
     /// queued.
     void sigAudioDataChanged();
     void textChanged();
-    void
-    sigSampleRateChanged(); ///< emitted on the decoder's thread: the sample rate of the audio has changed
+    void sigSampleRateChanged(); ///< emitted on the decoder's thread: audio has another sample rate
     void streamKindChanged();
     void zoomLevelChanged();
     void isStreamingChanged();

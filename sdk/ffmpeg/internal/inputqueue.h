@@ -16,7 +16,7 @@ namespace sdk::ffmpeg {
 class InputQueue
 {
 public:
-    /// `limit` is the largest value of waitingBytes().
+    /// `limit` is the number of bytes up to which put() accepts more.
     explicit InputQueue(std::size_t limit) : m_limit(limit) {}
 
     /// Copies bytes that arrive at `time`, in milliseconds on one clock. Returns false and adds nothing if
