@@ -13,15 +13,16 @@ struct CommandLine
     /// The name of a scene ("fleet:N" for N devices), or the path of a scene file.
     QString scene = QStringLiteral("office");
     QString interface = QStringLiteral("eth0"); ///< the network interface that the devices are connected to
-    int mostDevices = 0; ///< the site has the first devices of the scene, up to this number; 0 for all
+    int mostDevices = 0; ///< --devices N: the site has the first N devices of the scene; 0 for all
     bool lists = false;  ///< --list: print the devices and their accounts, and exit
     bool help = false;   ///< --help: print usage(), and exit
-    SiteOptions options;
-    QString error; ///< a text with the invalid argument; empty on success
+    SiteOptions options; ///< --login, --digest, --record and --new-keys
+    QString error;       ///< the problem of the first invalid argument, in English; empty on success
 
-    /// `arguments` starts with the name of the program.
+    /// Reads the arguments up to the first invalid one; `error` is set then. `arguments` starts with the name
+    /// of the program. It opens no scene and checks no interface.
     [[nodiscard]] static CommandLine parse(const QStringList &arguments);
-    /// The help text: several lines with a line end.
+    /// The help text in English: several lines, the last one with a line end.
     [[nodiscard]] static QString usage();
 };
 

@@ -9,10 +9,17 @@ class DemoSite;
 
 namespace site {
 
-/// A line for the host of the installer ("installer", address/prefix length), then one for each device. The
-/// columns are separated by tabs: "device", "elsewhere" (another segment) or "left-out"; MAC; IPv4 and IPv6
-/// address; type; model; accounts ("user/password", separated by spaces); name; remarks. A missing address
-/// and missing accounts are "-".
+/// The first line is for the host of the installer: "installer", and its IPv4 address with the prefix length
+/// ("192.168.1.10/24"). A line for each device follows. Each line has a line end. The columns are separated
+/// by tabs:
+/// - "device", "elsewhere" (a device of another segment) or "left-out" (SiteServer::objectionTo())
+/// - MAC
+/// - IPv4 address, IPv6 address (two columns); "-" if missing
+/// - type
+/// - model
+/// - accounts with their passwords: "user/password", separated by spaces; "-" without accounts
+/// - name
+/// - remarks in English, separated by "; "; may be empty
 [[nodiscard]] QString deviceList(const sdk::demo::DemoSite &site);
 
 } // namespace site

@@ -6,36 +6,38 @@
 
 namespace site {
 
-/// The login methods that devices accept.
+/// The login methods that the devices of a site accept.
 enum class LoginChoice
 {
-    ByDevice,
-    Token,  ///< user-name tokens in messages
-    Digest, ///< HTTP Digest
+    ByDevice, ///< each device accepts those of its make
+    Token,    ///< user-name tokens in messages
+    Digest,   ///< HTTP Digest
     Both,
 };
 
-/// The algorithms of HTTP Digest that devices offer.
+/// The algorithms of HTTP Digest that the devices of a site offer.
 enum class DigestChoice
 {
-    ByDevice,
+    ByDevice, ///< each device offers those of its make
     Md5,
     Sha256,
     Both,
 };
 
+/// The behaviour of one make.
 struct DeviceManner
 {
     XmlManner xml = XmlManner::UsualPrefixes;
-    bool takesToken = true;
-    bool takesDigest = true;
-    bool offersMd5 = true;
-    bool offersSha256 = false;
-    bool hasMedia2 = true;
-    bool changesAddressAtReboot = false; ///< a new address is used after the next restart
+    bool takesToken = true;              ///< accepts user-name tokens in messages
+    bool takesDigest = true;             ///< accepts HTTP Digest in its services
+    bool offersMd5 = true;               ///< offers and accepts MD5 for Digest
+    bool offersSha256 = false;           ///< offers and accepts SHA-256 for Digest
+    bool hasMedia2 = true;               ///< has the second media service ("tr2")
+    bool changesAddressAtReboot = false; ///< changed addresses apply when a reboot is requested
 };
 
-/// Depends on the type of the device, so that a site has different makes.
+/// The manner of the device's type, so that a site has different makes. `login` and `digest` replace its
+/// login methods and algorithms, unless they are ByDevice.
 [[nodiscard]] DeviceManner mannerOf(const sdk::demo::SceneDevice &device, LoginChoice login,
                                     DigestChoice digest);
 

@@ -4,6 +4,7 @@
 
 namespace site {
 
+/// The log lines of the simulated site on a network.
 Q_DECLARE_LOGGING_CATEGORY(siteLog)
 
 } // namespace site

@@ -19,7 +19,8 @@ namespace site {
 class HttpServer;
 class Poller;
 
-/// Follows its device: changes of the device change the interface and the sockets. Used by one thread.
+/// The interface and the sockets of one device of the scene. follow() adapts them to the state of the device.
+/// Used by one thread.
 class ServedDevice
 {
 public:
@@ -33,7 +34,11 @@ public:
         RtspContext &rtsp;
     };
 
+    /// The device is not on the network before the first follow(). `interface` must not be null.
     ServedDevice(const Parts &parts, QString mac, std::unique_ptr<DeviceInterface> interface);
+
+    /// Removes the device from the network without a Bye message. Ends its connections and waits for their
+    /// threads.
     ~ServedDevice();
     ServedDevice(const ServedDevice &) = delete;
     ServedDevice &operator=(const ServedDevice &) = delete;
@@ -41,11 +46,13 @@ public:
     [[nodiscard]] const QString &mac() const { return m_mac; }
 
     /// Updates the network to the state of the device. `now` is the time on the site's clock, in ms since
-    /// 1970. A new address is used after a delay, so that the response to the request that set it is sent
-    /// from the old one.
+    /// 1970. A device that goes offline leaves at once. Changed addresses and ports are used after 500 ms, so
+    /// that the response to the request that set them is sent from the old address; all connections end then.
+    /// A failure is logged, and the next change is the next attempt.
     void follow(const sdk::demo::SceneDevice &device, std::int64_t now);
 
-    /// Removes the device from the network, after a Bye message if possible.
+    /// Removes the device from the network, after a Bye message if its DiscoveryPort can send one. A further
+    /// follow() brings it back.
     void leave();
 
 private:
@@ -55,7 +62,7 @@ private:
         DeviceNetwork network;
         int httpPort = 0;
         int httpsPort = 0;       // 0 for none
-        bool isListening = true; ///< at its ports
+        bool isListening = true; ///< at its TCP ports; false with Fault::RefusesConnections
         bool operator==(const Shape &) const = default;
     };
     [[nodiscard]] static Shape shapeOf(const sdk::demo::SceneDevice &device);
@@ -69,9 +76,9 @@ private:
     const Parts m_parts;
     const QString m_mac;
     const std::unique_ptr<DeviceInterface> m_interface;
-    std::optional<Shape> m_shape; // present state on the network; nothing while the device is offline
-    Shape m_target;               // state of the device
-    std::int64_t m_targetSince = 0;
+    std::optional<Shape> m_shape;   // present state on the network; nothing while the device is offline
+    Shape m_target;                 // state of the device
+    std::int64_t m_targetSince = 0; // time of the last change of m_target, as `now`
     std::unique_ptr<DiscoveryPort> m_discovery;
     RtspPort m_rtsp;
     FileDescriptor m_httpListener;

@@ -7,13 +7,17 @@
 
 namespace site {
 
+/// The options of all devices of a site.
 struct SiteOptions
 {
     LoginChoice login = LoginChoice::ByDevice;
     DigestChoice digest = DigestChoice::ByDevice;
-    QString recordFolder; ///< for every message of a service; empty for none
-    bool newKeys = false; ///< a device creates another HTTPS key at each start
+    QString recordFolder; ///< recordExchange() writes every message of a service here; empty for none
+    /// A device creates another HTTPS key at each start and after a change of its addresses or ports.
+    /// Otherwise it keeps its key until the process ends.
+    bool newKeys = false;
 
+    /// The manner of the device with these options.
     [[nodiscard]] DeviceManner mannerOf(const sdk::demo::SceneDevice &device) const
     {
         return site::mannerOf(device, login, digest);

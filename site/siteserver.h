@@ -20,24 +20,30 @@ class DemoSite;
 
 namespace site {
 
-/// Used by one thread, whose network namespace contains the interface of the site.
+/// The devices of a site on an interface, with everything that they share. Used by one thread, whose network
+/// namespace contains the interface of the site.
 class SiteServer
 {
 public:
-    /// The interval of follow().
+    /// The interval at which the owner calls follow().
     static constexpr std::chrono::milliseconds followInterval{50};
 
     /// `site` and `options` must outlive the server.
     SiteServer(sdk::demo::DemoSite &site, const SiteOptions &options);
+
+    /// Removes the devices from the network, with Bye messages, and waits for all threads.
     ~SiteServer();
 
-    /// Connects the devices to the interface of that name. Devices with an objection (objectionTo()) are left
-    /// out. On failure it returns false and sets `error`.
+    /// Connects the devices that the site has at the call to the interface of that name. Devices with an
+    /// objection (objectionTo()) are left out. On failure it returns false and sets `error` (not null) to an
+    /// English sentence; the server must be destroyed then. To be called once.
     [[nodiscard]] bool start(const QString &interfaceName, QString *error);
 
-    /// Updates the network to the state of the devices; to be called every followInterval.
+    /// Updates the network to the state of the devices. A device that was removed from the site stays on the
+    /// network as it is.
     void follow();
 
+    /// The number of connected devices, also of those that are offline.
     [[nodiscard]] std::size_t deviceCount() const { return m_devices.size(); }
 
     /// The reason why a device cannot be on a network, as the end of a sentence: "is reached through the port

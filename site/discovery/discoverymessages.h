@@ -29,14 +29,16 @@ struct DiscoveryRequest
     };
     Kind kind = Kind::Probe;
     QString messageId;
-    std::vector<Type> types;         ///< a device must be of all of them
-    QStringList scopes;              ///< a device must have all of them
-    bool comparesCharacters = false; ///< scopes by characters, not by segments
-    bool knowsRule = true;           ///< false for an unknown matching rule of scopes
-    QString endpoint;                ///< of Resolve
+    std::vector<Type> types;         ///< of Probe: a device must be of all of them; empty for any device
+    QStringList scopes;              ///< of Probe: a device must have all of them; empty for any device
+    bool comparesCharacters = false; ///< scopes are equal strings; otherwise, requested scopes are prefixes
+                                     ///< by segments of the path
+    bool knowsRule = true;           ///< false for an unknown matching rule: no device responds
+    QString endpoint;                ///< of Resolve: the DiscoveryIdentity::endpoint
 };
 
-/// Nothing for any other message.
+/// Reads a Probe or a Resolve with a message identifier. Nothing for any other message and for text that is
+/// not XML.
 [[nodiscard]] std::optional<DiscoveryRequest> readDiscoveryRequest(const QByteArray &bytes);
 
 /// The identity that a device announces.
@@ -44,19 +46,21 @@ struct DiscoveryIdentity
 {
     QString endpoint; ///< "urn:uuid:...", which never changes
     QStringList scopes;
-    QStringList addresses; ///< of its device service
+    QStringList addresses; ///< URLs of its device service
 };
 
-/// True if the request applies to the device.
+/// True if the request applies to the device with this identity, which should respond. Devices are of the
+/// types dn:NetworkVideoTransmitter and tds:Device.
 [[nodiscard]] bool matches(const DiscoveryRequest &request, const DiscoveryIdentity &identity);
 
 /// Counts the messages of a device since its start.
 struct DiscoverySequence
 {
     std::int64_t instance = 0; ///< time of the start, in seconds since 1970
-    std::int64_t number = 0;
+    std::int64_t number = 0;   ///< of the message, from 1
 };
 
+/// The ProbeMatches or ResolveMatches for a request that matches.
 [[nodiscard]] QByteArray responseTo(const DiscoveryRequest &request, const DiscoveryIdentity &identity,
                                     DiscoverySequence sequence, XmlManner manner);
 [[nodiscard]] QByteArray helloMessage(const DiscoveryIdentity &identity, DiscoverySequence sequence,

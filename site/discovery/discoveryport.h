@@ -18,25 +18,27 @@ namespace site {
 class DeviceInterface;
 class Poller;
 
-/// Responds with the latency and the faults of the device. A device of another segment receives only messages
-/// to its own address. To be created and destroyed on one thread; messages are handled on the poller's
-/// thread.
+/// Responds to Probe and Resolve messages with the latency and the faults of the device. A device of another
+/// segment ignores messages to the multicast groups and responds only to those to its own address. To be
+/// created, used and destroyed on one thread; messages are handled on the poller's thread.
 class DiscoveryPort
 {
 public:
     static constexpr int port = 3702;
 
-    /// `site` and `poller` must outlive the port.
+    /// Opens sockets in the namespace of `interface`, for each family of which the device has an address.
+    /// `site`, `poller` and `options` must outlive the port.
     DiscoveryPort(sdk::demo::DemoSite &site, Poller &poller, const SiteOptions &options, QString mac,
                   const DeviceInterface &interface);
     ~DiscoveryPort();
     DiscoveryPort(const DiscoveryPort &) = delete;
     DiscoveryPort &operator=(const DiscoveryPort &) = delete;
 
-    /// False when no socket is open, since the port is in use or the device has no address.
+    /// False if no socket is open: the port is in use, or the device has no address or has left the site.
     [[nodiscard]] bool isOpen() const;
 
-    /// Sends Hello or Bye to the segment; nothing for a device of another segment.
+    // Send Hello or Bye to the multicast groups of the open sockets. A device of another segment sends
+    // nothing.
     void sendHello();
     void sendBye();
 

@@ -10,7 +10,7 @@
 
 namespace site {
 
-/// The response of a client to a challenge.
+/// The response of a client to a challenge. Missing parameters are empty.
 struct DigestResponse
 {
     QString user;
@@ -24,28 +24,32 @@ struct DigestResponse
     QByteArray nonceCount;
 };
 
-/// Reads the header "Authorization". Nothing for another authentication scheme.
+/// Reads the value of the header "Authorization". Nothing for another authentication scheme and for an empty
+/// value.
 [[nodiscard]] std::optional<DigestResponse> readDigestResponse(const QByteArray &header);
 
-/// True if the response was made with that password for a request of that method.
+/// True if the response was made with that password for a request of that method ("GET"). False for another
+/// algorithm than MD5 and SHA-256. The nonce, the realm and the URI are not checked.
 [[nodiscard]] bool provesPassword(const DigestResponse &response, const QString &password,
                                   const QByteArray &method);
 
-/// Nonces that contain their time and their device. Thread-safe.
+/// Makes and checks nonces, which are not stored: a nonce contains its time, and a hash of the time, its
+/// device and a secret of this object. A nonce may be used several times. Thread-safe.
 class DigestNonces
 {
 public:
     enum class State
     {
         Foreign, ///< not made for this device by this object
-        Old,     ///< older than 5 minutes
+        Old,     ///< made for this device by this object, and older than 5 minutes or of a later time
         Good,
     };
 
     DigestNonces();
 
-    /// A nonce for the device. `now` is in ms since 1970, also for check().
+    /// A nonce for the device. `now` is the time on the site's clock, in ms since 1970.
     [[nodiscard]] QByteArray make(const QString &mac, std::int64_t now) const;
+    /// The state of any nonce at the time `now`.
     [[nodiscard]] State check(const QByteArray &nonce, const QString &mac, std::int64_t now) const;
 
 private:
@@ -58,7 +62,8 @@ enum class DigestAlgorithm
     Sha256,
 };
 
-/// The value of a header "WWW-Authenticate".
+/// The value of a header "WWW-Authenticate". `realm` has no quotation marks. `isStale`: the client may repeat
+/// the request with this nonce and the same password.
 [[nodiscard]] QByteArray digestChallenge(const QByteArray &realm, const QByteArray &nonce,
                                          DigestAlgorithm algorithm, bool isStale);
 

@@ -11,31 +11,35 @@
 
 namespace site {
 
-/// The receiver of a request.
+/// The device that receives a request, and its end of the connection.
 struct HttpReceiver
 {
-    QString mac;               ///< the device
-    QString address;           ///< of the device, as the client has reached it
-    int port = 0;              ///< of the device
+    QString mac;               ///< of the device
+    QString address;           ///< of the device, IPv4 or IPv6, as the client has reached it
+    int port = 0;              ///< of the device, as the client has reached it
     bool isSecure = false;     ///< over TLS
-    std::stop_token stop = {}; ///< of the connection: ends waits
+    std::stop_token stop = {}; ///< requested when the connection ends; a wait for the response ends then
 };
 
-/// Receives a body in chunks. Returns false to close the connection.
+/// Receives a body in chunks, which are valid during the call. Returns false to close the connection without
+/// a response.
 using BodyReceiver = std::function<bool(QByteArrayView chunk)>;
 
-/// Its functions are called on threads of connections.
+/// Responds to the requests to all devices. Its functions are called on the threads of connections, several
+/// at a time.
 class HttpService
 {
 public:
     virtual ~HttpService() = default;
 
-    /// Called before the body of a request is read. Returns the function that receives the body, if it may be
-    /// too large to keep; empty for a body that is passed to respond().
+    /// Called before the body of a request is read. Returns a function for a body that may be too large to
+    /// keep; respond() gets an empty body then. Returns an empty function for a body that is passed to
+    /// respond().
     [[nodiscard]] virtual BodyReceiver bodyReceiver(const HttpReceiver &receiver,
                                                     const sdk::demo::HttpRequest &head) = 0;
 
-    /// HttpStatus::None for no response: the connection is closed.
+    /// Called when the body was read completely. Returns the response; with HttpStatus::None, the connection
+    /// is closed without a response.
     [[nodiscard]] virtual sdk::demo::HttpResponse
     respond(const HttpReceiver &receiver, const sdk::demo::HttpRequest &head, const QByteArray &body) = 0;
 };

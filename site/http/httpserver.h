@@ -16,25 +16,29 @@ class Clock;
 
 namespace site {
 
-/// Serves each connection on a separate thread. Thread-safe. The destructor ends the connections.
+/// Serves each connection on a separate thread. Thread-safe.
 class HttpServer
 {
 public:
     /// The limit of connections of one device; further ones are closed.
     static constexpr int mostConnectionsOfDevice = 16;
 
-    /// Both must outlive the server.
+    /// `service` and `clock` must outlive the server.
     HttpServer(HttpService &service, sdk::Clock &clock) : m_service(service), m_clock(clock) {}
+
+    /// Ends the connections, even during a response, and waits for their threads.
     ~HttpServer();
     HttpServer(const HttpServer &) = delete;
     HttpServer &operator=(const HttpServer &) = delete;
 
-    /// Accepts the pending connection of `listener`, which belongs to the device. With `key`, the connection
-    /// uses TLS.
+    /// Accepts the pending connection of `listener`, the number of a listening socket of the device, and
+    /// serves it on a thread. With `key`, the connection uses TLS. No effect if no connection is pending. A
+    /// connection over the limit, or without a thread, is closed at once.
     void accept(int listener, const QString &mac,
                 const std::shared_ptr<const sdk::demo::DeviceKey> &key = {});
 
-    /// Ends the connections to the device, even during a response, and waits for their threads.
+    /// Ends the connections to the device, even during a response, and waits for their threads. Must not be
+    /// called on these threads.
     void closeAllOf(const QString &mac);
 
 private:
@@ -44,7 +48,7 @@ private:
         HttpReceiver receiver;
         std::shared_ptr<const sdk::demo::DeviceKey> key; // null without TLS
         std::stop_source stop = {};
-        bool isOver = false; // its thread returns immediately
+        bool isOver = false; // set by its thread, which returns immediately afterwards
         std::thread thread = {};
     };
 
@@ -53,8 +57,8 @@ private:
 
     HttpService &m_service;
     sdk::Clock &m_clock;
-    std::mutex m_mutex;
-    std::list<Connection> m_connections;
+    std::mutex m_mutex;                  // guards m_connections
+    std::list<Connection> m_connections; // also those that are over, until the next accept()
 };
 
 } // namespace site

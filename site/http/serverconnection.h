@@ -12,9 +12,7 @@ class Clock;
 
 namespace site {
 
-/// Responds to the requests of a connection, one after another, on the calling thread. It ends when the
-/// client closes the connection, at an invalid request, after a timeout, and soon after a stop together with
-/// shutdown() of its socket.
+/// Responds to the requests of one connection, one after another.
 class ServerConnection
 {
 public:
@@ -22,18 +20,28 @@ public:
     /// between two chunks of a body.
     static constexpr std::chrono::seconds requestTime{30};
 
+    /// The limit in bytes of a body that is passed to HttpService::respond().
     static constexpr qsizetype longestKeptBody = qsizetype{128} * 1024;
+    /// The limit in bytes of a body for HttpService::bodyReceiver().
     static constexpr qint64 longestBody = qint64{512} * 1024 * 1024;
 
-    /// All arguments except the receiver must outlive the connection.
+    /// All arguments except the receiver must outlive the connection. `clock` times the delays of responses;
+    /// timeouts use the system's clock.
     ServerConnection(HttpService &service, sdk::Clock &clock, sdk::demo::ByteStream &stream,
                      HttpReceiver receiver);
 
+    /// Responds on the calling thread, and returns when the connection is over: the client has closed it or
+    /// does not keep it, a request is invalid or too long (the client gets an error response), a timeout has
+    /// expired, the service gives no response, or HttpReceiver::stop is requested and shutdown() was called
+    /// for the socket. The caller closes the stream. To be called once.
     void serve();
 
 private:
+    // These return Ok, the status of an error response, or None to end the connection without a response.
     sdk::demo::HttpStatus receiveHead(sdk::demo::HttpRequest &head);
     sdk::demo::HttpStatus receiveBody(const sdk::demo::HttpRequest &head, QByteArray &body);
+
+    /// Returns false at the end of the connection and after `patience` without data.
     bool receiveMore(std::chrono::milliseconds patience);
 
     /// Returns false when the connection is unusable.

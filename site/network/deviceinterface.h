@@ -10,7 +10,8 @@
 
 namespace site {
 
-/// The addresses of a device; a string is empty if the device has no such address.
+/// The addresses of a device. A string is empty if the device has no such address; its prefix length has no
+/// meaning then.
 struct DeviceNetwork
 {
     QString address; ///< IPv4
@@ -21,35 +22,41 @@ struct DeviceNetwork
     bool operator==(const DeviceNetwork &) const = default;
 };
 
-/// A network namespace with one interface, which has the MAC of the device and is a sibling of the others on
-/// the interface of the site. It is removed with this object. Used by one thread.
+/// A network namespace with one interface. The interface has the MAC of the device. It is connected to the
+/// site's interface, and so to the interfaces of the other devices. Both are removed with this object, when
+/// its sockets are closed. Used by one thread.
 class DeviceInterface
 {
 public:
-    /// `lower` is the index of the site's interface in the namespace of the calling thread. On failure it
-    /// returns null and sets `error`.
+    /// Creates the namespace and the interface, which is down. `lower` is the index of the site's interface
+    /// in the namespace of the calling thread. On failure, such as a missing right, it returns null and sets
+    /// `error` to an English sentence. `error` must not be null.
     [[nodiscard]] static std::unique_ptr<DeviceInterface> create(unsigned lower, const QString &mac,
                                                                  QString *error);
 
     [[nodiscard]] const NetworkSpace &space() const { return m_space; }
 
-    /// Replaces the addresses and brings the interface up. Every address of the segment is reached without a
-    /// router. On failure it returns false and sets `error`.
+    /// Replaces the addresses and brings the interface up. With an IPv6 address, the interface also gets a
+    /// link-local one. All addresses are reached without a router, also those of other subnets. On failure it
+    /// returns false and sets `error`, as create(); the interface may have a part of the addresses then.
     bool bringUp(const DeviceNetwork &network, QString *error);
 
     /// Brings the interface down and removes its addresses.
     void bringDown();
 
-    // Sockets in the namespace; not open on failure, with errno set.
+    // Non-blocking sockets in the namespace, for any thread. On failure they are not open, and errno is set.
 
-    /// Accepts connections at that port of all addresses of the device.
+    /// Accepts connections at that TCP port of all addresses of the device, of both address families.
     [[nodiscard]] FileDescriptor openListener(int port) const;
 
-    /// Receives datagrams to that port of the device and to the group of its address family.
+    /// Receives datagrams to that UDP port of the device, at all its addresses and at the multicast address
+    /// `group`. The address family is that of `group`.
     [[nodiscard]] FileDescriptor openDatagrams(int port, const QString &group) const;
 
 private:
     explicit DeviceInterface(NetworkSpace space) : m_space(std::move(space)) {}
+
+    // These return 0, or the error number.
     [[nodiscard]] int addAddress(const QString &address, int prefixLength) const;
     [[nodiscard]] int addLinkLocalAddress() const;
     [[nodiscard]] int addDefaultRoute(int family) const;

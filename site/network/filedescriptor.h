@@ -6,11 +6,12 @@
 
 namespace site {
 
-/// Owns the number of an open file or socket; -1 for none.
+/// Owns an open file or socket by its number, and closes it at the end; -1 for none.
 class FileDescriptor
 {
 public:
     FileDescriptor() = default;
+    /// Takes the ownership of `number`. A negative number, as from a failed call, is none.
     explicit FileDescriptor(int number) : m_number(number) {}
     ~FileDescriptor() { reset(); }
     FileDescriptor(FileDescriptor &&other) noexcept : m_number(other.release()) {}
@@ -24,7 +25,9 @@ public:
 
     [[nodiscard]] bool isOpen() const { return m_number >= 0; }
     [[nodiscard]] int number() const { return m_number; }
+    /// Returns the number, which the caller closes. This object has none afterwards.
     [[nodiscard]] int release() { return std::exchange(m_number, -1); }
+    /// Closes the file, if there is one, and takes the ownership of `number`.
     void reset(int number = -1)
     {
         if (m_number >= 0)

@@ -10,17 +10,20 @@
 
 namespace site {
 
-/// One request, built from attributes. Its size is bounded: send() refuses a larger one, which is a
-/// programming error.
+/// One request to the kernel's routing service, built from a head and attributes (rtnetlink). Its size is
+/// limited to 1024 bytes: send() refuses a larger one, which is a programming error. Not thread-safe.
 class NetlinkRequest
 {
 public:
+    /// `type` is one of RTM_*, `flags` are NLM_F_*; NLM_F_REQUEST and NLM_F_ACK are added. `body` is the
+    /// structure of the type, such as ifinfomsg.
     template<typename Body>
     NetlinkRequest(std::uint16_t type, std::uint16_t flags, const Body &body)
     {
         begin(type, flags, {reinterpret_cast<const std::byte *>(&body), sizeof(body)});
     }
 
+    // Add an attribute with that number and a copy of its value. A text has no final zero byte.
     void add(std::uint16_t attribute, std::span<const std::byte> value);
     void add(std::uint16_t attribute, std::string_view text);
     template<typename Number>
@@ -34,8 +37,9 @@ public:
     [[nodiscard]] std::size_t beginNested(std::uint16_t attribute);
     void endNested(std::size_t nested);
 
-    /// Sends the request to the kernel in the network namespace of the calling thread. Returns 0, or the
-    /// error number.
+    /// Sends the request to the kernel in the network namespace of the calling thread, and waits for the
+    /// response. Returns 0, or the error number: that of the kernel, EMSGSIZE for a request that is too
+    /// large, or EPROTO for an unexpected response.
     [[nodiscard]] int send();
 
 private:

@@ -7,20 +7,22 @@
 
 namespace site {
 
-/// A network namespace. It exists as long as this object, an open socket in it or a thread in it.
+/// A network namespace. It exists as long as a NetworkSpace of it, an open socket in it or a thread in it.
 class NetworkSpace
 {
 public:
-    /// The one of the calling thread.
+    /// The namespace of the calling thread. Nothing, with errno set, on failure.
     [[nodiscard]] static std::optional<NetworkSpace> current();
 
-    /// A new namespace with only a loopback interface, which is down. Nothing, with errno set, when the
-    /// process lacks the right.
+    /// A new namespace with only a loopback interface, which is down. The calling thread stays in its own
+    /// one. Nothing, with errno set, on failure: the process may lack the right.
     [[nodiscard]] static std::optional<NetworkSpace> create();
 
+    /// The file descriptor of the namespace, which this object owns.
     [[nodiscard]] int number() const { return m_file.number(); }
 
-    /// Moves the calling thread into the namespace. Returns false, with errno set, on failure.
+    /// Moves the calling thread into the namespace; its sockets stay in theirs. Returns false, with errno
+    /// set, on failure: the thread has not moved then.
     bool enter() const;
 
 private:
@@ -29,7 +31,8 @@ private:
     FileDescriptor m_file;
 };
 
-/// Keeps the calling thread in a namespace until the end of a block.
+/// Keeps the calling thread in a namespace until the end of a block, and then moves it back. To be checked by
+/// isInside().
 class InsideNetworkSpace
 {
 public:
@@ -45,6 +48,7 @@ public:
     InsideNetworkSpace(const InsideNetworkSpace &) = delete;
     InsideNetworkSpace &operator=(const InsideNetworkSpace &) = delete;
 
+    /// False if the thread could not be moved, with errno set: it is still in its own namespace.
     [[nodiscard]] bool isInside() const { return m_isInside; }
 
 private:

@@ -12,30 +12,38 @@
 
 namespace site {
 
-/// Thread-safe. Handlers run on the poller's thread, one at a time, and must not block. The destructor ends
-/// the thread and discards pending timers.
+/// Thread-safe. Handlers run on the poller's thread, one at a time, and must not block. They may call
+/// watch(), at() and after().
 class Poller
 {
 public:
     using Time = std::chrono::steady_clock::time_point;
     using Handler = std::function<void()>;
 
+    /// Starts the thread.
     Poller();
+
+    /// As stop().
     ~Poller();
     Poller(const Poller &) = delete;
     Poller &operator=(const Poller &) = delete;
 
-    /// Ends the thread: no handler runs after the call.
+    /// Ends the thread, and waits for a handler that is running: no handler runs after the call. Pending
+    /// timers are discarded. It cannot be started again. Must not be called by a handler.
     void stop();
 
-    /// Calls `readable` whenever the socket is readable, until remove().
+    /// Calls `readable` whenever the socket is readable, until remove(). The socket (its number) stays open
+    /// until then. `readable` must read from it or accept its connection; otherwise it is called again at
+    /// once.
     void watch(int socket, Handler readable);
 
-    /// The handler does not run after the call. Must not be called by a handler.
+    /// Ends watch(). Waits for a handler that is running; that of the socket does not run after the call.
+    /// Must not be called by a handler.
     void remove(int socket);
 
-    /// Calls `handler` once at `time`.
+    /// Calls `handler` once at `time`, or at once if that is in the past. It cannot be cancelled.
     void at(Time time, Handler handler);
+    /// Calls `handler` once after `duration`.
     void after(std::chrono::milliseconds duration, Handler handler)
     {
         at(std::chrono::steady_clock::now() + duration, std::move(handler));

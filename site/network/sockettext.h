@@ -11,7 +11,7 @@ struct SocketAddress
     int port = 0;
 };
 
-/// The local address of a connected socket. On failure the address is empty and the port 0.
+/// The local address of a connected socket (its number). On failure the address is empty and the port 0.
 [[nodiscard]] SocketAddress ownAddress(int socket);
 
 } // namespace site

@@ -11,14 +11,16 @@
 
 namespace site {
 
+/// Counts the requests for key frames of the streams of all devices. A StreamFeeder compares the counts.
 /// Thread-safe.
 class KeyFrames
 {
 public:
-    /// Requests that the next frame of the stream is a key frame.
+    /// Requests that the next frame of the stream is a key frame. If no StreamFeeder feeds the stream, it has
+    /// no effect.
     void request(const QString &mac, const MediaStream &stream);
 
-    /// The number of requests for the stream so far.
+    /// The number of requests for the stream since this object was created.
     [[nodiscard]] int count(const QString &mac, const MediaStream &stream) const;
 
     /// Blocks until there are more than `count` requests, or until a stop.

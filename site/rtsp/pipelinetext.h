@@ -7,18 +7,20 @@
 
 namespace site {
 
-/// The description of a pipeline with the sources (elements "appsrc") "video" and, for a stream with
-/// sound, "sound", which take encoded frames.
+/// The description of a pipeline for gst_parse_launch_full(). It has the sources (elements "appsrc") "video"
+/// and, for a stream with sound, "sound". They take encoded frames with times.
 [[nodiscard]] QByteArray pipelineText(const sdk::demo::StreamSettings &settings);
 
-/// Whether the stream has sound. All sound codecs of the settings can be streamed.
+/// Whether the stream has sound. All sound codecs of StreamSettings can be streamed.
 [[nodiscard]] bool hasStreamedSound(const sdk::demo::StreamSettings &settings);
 
-/// The caps of the source "sound"; empty for a stream without sound. `head` is the decoder configuration of
-/// AAC; it is not used for other codecs.
+// The format of the frames of a source, for gst_caps_from_string().
+
+/// For the source "sound"; empty for a stream without sound. `head` is the decoder configuration of AAC; it
+/// is not used for other codecs.
 [[nodiscard]] QByteArray soundCaps(const sdk::demo::StreamSettings &settings, const QByteArray &head);
 
-/// The caps of the source "video".
+/// For the source "video".
 [[nodiscard]] QByteArray videoCaps(const sdk::demo::StreamSettings &settings);
 
 } // namespace site

@@ -12,27 +12,29 @@
 
 namespace site {
 
-/// The data of one device's server; they outlive the objects below.
+/// The data of one device's server. The object must outlive the objects of the functions below.
 struct RtspDevice
 {
     RtspContext &context;
     QString mac;
     const NetworkSpace &space;
-    std::function<void()> closeClientsSoon; ///< runs on another thread
+    std::function<void()> closeClientsSoon; ///< returns at once; the poller's thread closes the clients
 };
 
-// Each function returns a reference that the caller owns.
+// Each function returns a reference that the caller owns. The library calls the objects on its threads.
 
-/// Requires the same login as the other services, except for OPTIONS. Digest with MD5 is always offered.
+/// Requires a login by Digest with DeviceLogins, except for OPTIONS. MD5 is always offered, also by a device
+/// that does not offer it over HTTP. Every user may play streams.
 [[nodiscard]] GstRTSPAuth *newAuthentication(RtspDevice &device);
 
-/// Its threads are in the network namespace of the device.
+/// The threads of the pool are in the network namespace of the device, and so are the sockets they create.
 [[nodiscard]] GstRTSPThreadPool *newThreadPool(RtspDevice &device);
 
-/// Creates pipelines for the streams of a device by the path of the URL.
+/// Creates the pipeline and the StreamFeeder of the stream with the path of the URL. The clients of a stream
+/// share them. Creates nothing for an unknown path.
 [[nodiscard]] GstRTSPMediaFactory *newMediaFactory(RtspDevice &device);
 
-/// A factory for each stream of the device.
+/// A factory at the path of each stream that the device has at the call.
 [[nodiscard]] GstRTSPMountPoints *newMountPoints(RtspDevice &device);
 
 } // namespace site

@@ -13,7 +13,7 @@ namespace site {
 class KeyFrames;
 class Poller;
 
-/// The common data of all devices' RTSP servers.
+/// The objects that the RTSP servers of all devices share.
 struct RtspContext
 {
     sdk::demo::DemoSite &site;

@@ -10,21 +10,24 @@
 
 namespace site {
 
-/// The server of one device. Its threads are in the device's network namespace. To be destroyed on the thread
-/// that created it, while no accept() runs; the other functions are thread-safe.
+/// The RTSP server of one device. Its threads are in the device's network namespace. To be destroyed on the
+/// thread that created it, while no accept() runs; the other functions are thread-safe.
 class RtspPort
 {
 public:
-    /// `context` and `space` must outlive the port.
+    /// `context` and `space` must outlive the port. It opens no socket: the owner listens and calls accept().
     RtspPort(RtspContext &context, QString mac, const NetworkSpace &space);
+
+    /// Ends all connections and waits for their threads, for up to 2 s.
     ~RtspPort();
     RtspPort(const RtspPort &) = delete;
     RtspPort &operator=(const RtspPort &) = delete;
 
-    /// Accepts the pending connection of `listener`.
+    /// Accepts the pending connection of `listener`, the number of a listening socket of the device. No
+    /// effect if no connection is pending.
     void accept(int listener);
 
-    /// Ends all connections.
+    /// Ends all connections; does not wait for their threads. New ones are still accepted.
     void closeClients();
 
 private:

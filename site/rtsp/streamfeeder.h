@@ -20,32 +20,41 @@ namespace site {
 
 class KeyFrames;
 
-/// Generates the video and the sound of one stream on its thread: first the data that the pipeline needs for
-/// the description, and the rest when a client plays. Ends when the device stops the stream or changes its
-/// codec. Thread-safe.
+/// Generates the video and the sound of one stream on a separate thread and pushes them to a pipeline. It
+/// starts with the frames that the pipeline needs for the description of the stream (SDP). The others follow
+/// in real time from the next KeyFrames::request() for the stream on, as when a client plays. It ends the
+/// stream of the pipeline when the device goes offline, is reset or changes the codec or the sound of the
+/// stream. Other changes of the settings apply to the next frame. Used by one thread at a time.
 class StreamFeeder
 {
 public:
+    /// The stream and the pipeline that it is fed to.
     struct Order
     {
         QString mac;
         MediaStream stream;
-        sdk::demo::StreamSettings settings; ///< of the pipeline
+        sdk::demo::StreamSettings settings; ///< with which the pipeline was created
         GstAppSrc *video = nullptr;         ///< takes a reference
         GstAppSrc *sound = nullptr;         ///< null for a stream without sound; takes a reference
-        std::function<void()> dropped; ///< called on the feeder's thread when the device drops the stream
+        /// Called on the feeder's thread when the device drops the stream (Fault::DropsStreamAfter). Not
+        /// empty.
+        std::function<void()> dropped;
     };
 
-    /// `site` and `keyFrames` must outlive the feeder.
+    /// Starts the thread. `site` and `keyFrames` must outlive the feeder. `video` must not be null.
     StreamFeeder(sdk::demo::DemoSite &site, KeyFrames &keyFrames, Order order);
+
+    /// As stop().
     ~StreamFeeder();
     StreamFeeder(const StreamFeeder &) = delete;
     StreamFeeder &operator=(const StreamFeeder &) = delete;
 
-    /// No data are fed after the call.
+    /// Ends the thread and waits for it. No data are fed after the call; the stream of the pipeline is not
+    /// ended.
     void stop();
 
 private:
+    // The functions with a bool return false if the stream cannot continue.
     void run(const std::stop_token &stop);
     [[nodiscard]] bool feedBeginning(sdk::demo::LiveProduction &production);
     void feedWhilePlayed(std::unique_ptr<sdk::demo::LiveProduction> production, const std::stop_token &stop);

@@ -1,4 +1,5 @@
-// The information that a device reports about itself. The functions are operations of the device service.
+// The information that a device reports about itself. The functions are operations of the device service
+// (ServiceOperation::run).
 #pragma once
 
 #include "site/services/servicecall.h"

@@ -1,4 +1,5 @@
-// The network settings of a device.
+// The network settings of a device. The functions with a ServiceResult are operations of the device service
+// (ServiceOperation::run).
 #pragma once
 
 #include "site/services/servicecall.h"
@@ -6,17 +7,27 @@
 namespace site {
 
 ServiceResult getNetworkInterfaces(ServiceCall &call);
+
+/// Changes the IPv4 settings; those of IPv6 are ignored. With DeviceManner::changesAddressAtReboot, the
+/// settings are only stored until applyPendingAddress().
 ServiceResult setNetworkInterfaces(ServiceCall &call);
+
 ServiceResult getNetworkDefaultGateway(ServiceCall &call);
+
+/// As setNetworkInterfaces(). With DHCP, the gateway is not changed and the call succeeds.
 ServiceResult setNetworkDefaultGateway(ServiceCall &call);
+
 ServiceResult getNetworkProtocols(ServiceCall &call);
 ServiceResult getHostname(ServiceCall &call);
 ServiceResult getDns(ServiceCall &call);
 
-/// Applies addresses that were set for the next restart of the device.
+/// Applies the settings that setNetworkInterfaces() and setNetworkDefaultGateway() have stored, if there are
+/// any. They are not stored any more afterwards, even if the device refuses them. Called when a reboot is
+/// requested.
 void applyPendingAddress(const ServiceCall &call);
 
-/// The prefix length of a dotted mask; 0 for an invalid one.
+/// The prefix length of a dotted IPv4 mask (the number of its bits that are set), 0 to 32; 0 if it is no
+/// dotted address.
 [[nodiscard]] int prefixLengthOf(const QString &mask);
 
 } // namespace site

@@ -1,12 +1,14 @@
-// The clock of a device.
+// The clock of a device. The functions with a ServiceResult are operations of the device service
+// (ServiceOperation::run).
 #pragma once
 
 #include "site/services/servicecall.h"
 
 namespace site {
 
-/// UTC of a device, in ms since 1970. The device's clock has the time of its zone. `now` is the time on the
-/// site's clock, in ms since 1970.
+/// The time of a device as UTC, in ms since 1970. The clock of a device runs ahead of the site's clock by a
+/// constant and shows the local time of the device's zone. `now` is the time on the site's clock, in ms since
+/// 1970.
 [[nodiscard]] std::int64_t utcOf(const sdk::demo::SceneDevice &device, std::int64_t now);
 
 ServiceResult getSystemDateAndTime(ServiceCall &call);

@@ -1,13 +1,22 @@
-// The users of a device. The functions are operations of the device service.
+// The users of a device. The functions are operations of the device service (ServiceOperation::run).
 #pragma once
 
 #include "site/services/servicecall.h"
 
 namespace site {
 
+/// Names and levels without passwords. An uninitialised device reports no user.
 ServiceResult getUsers(ServiceCall &call);
+
+/// Creates all users of the request or none. The first user initialises an uninitialised device. If the
+/// creation of a further user fails then, the device stays initialised.
 ServiceResult createUsers(ServiceCall &call);
+
+/// Changes the passwords and levels of users. A missing password or level is not changed. A fault for one
+/// user leaves the changes of the users before it.
 ServiceResult setUser(ServiceCall &call);
+
+/// Deletes all users of the request or none. A client cannot delete its own user.
 ServiceResult deleteUsers(ServiceCall &call);
 
 } // namespace site

@@ -6,15 +6,18 @@
 
 namespace site {
 
-/// The SOAP services and the web service of the simulated devices. Thread-safe.
+/// Responds to the HTTP requests to the simulated devices by their path: SOAP services, firmware uploads, and
+/// the web service of the demo site for all other paths. Thread-safe.
 class DeviceWeb : public HttpService
 {
 public:
-    /// `context` must outlive it.
+    /// `context` must outlive this object.
     explicit DeviceWeb(ServiceContext &context) : m_context(context), m_soap(context) {}
 
+    /// A receiver for a POST to an upload path; empty for other requests.
     [[nodiscard]] BodyReceiver bodyReceiver(const HttpReceiver &receiver,
                                             const sdk::demo::HttpRequest &head) override;
+    /// Services take POST only. NotFound for other paths of a device without a web page.
     [[nodiscard]] sdk::demo::HttpResponse respond(const HttpReceiver &receiver,
                                                   const sdk::demo::HttpRequest &head,
                                                   const QByteArray &body) override;

@@ -19,26 +19,32 @@ namespace site {
 
 class Poller;
 
-/// A device accepts one file at a time, writes it and reboots. Faults of the device apply. Thread-safe.
+/// A device accepts one file at a time, writes it and reboots. An upload is begin(), then bodyReceiver() with
+/// its chunks, then finish(). The faults of upgrades (Fault::Upgrade...) apply. Thread-safe.
 class FirmwareUploads
 {
 public:
-    /// `site` and `poller` must outlive the uploads.
+    /// `site` and `poller` must outlive this object. The poller must be stopped before this object is
+    /// destroyed.
     FirmwareUploads(sdk::demo::DemoSite &site, Poller &poller) : m_site(site), m_poller(poller) {}
 
-    /// Returns the path of the URL for the upload of a file, which replaces an earlier path; nothing while
-    /// the device writes, and for a device with Fault::UpgradeBusy.
+    /// Starts an upload to the device and returns the path of its URL. An earlier path of the device becomes
+    /// unknown. Nothing while the device writes a file, and for a device with Fault::UpgradeBusy.
     [[nodiscard]] std::optional<QString> begin(const sdk::demo::SceneDevice &device);
 
+    /// Whether a path has the form of begin(), also if it is unknown.
     [[nodiscard]] static bool isUploadPath(const QByteArray &path);
 
-    /// Returns the function that receives the `size` bytes of a file. The bytes for an unknown path are
-    /// discarded. The function blocks for the duration of slow and hanging uploads.
+    /// Returns the function that receives the `size` bytes of a file. Only the head of the file is kept. The
+    /// function discards the bytes for an unknown path. It blocks for the duration of slow and hanging
+    /// uploads, until HttpReceiver::stop. It returns false when the upload fails by a fault or the device has
+    /// left the site: the upload is over then.
     [[nodiscard]] BodyReceiver bodyReceiver(const HttpReceiver &receiver, const QByteArray &path,
                                             qint64 size);
 
-    /// The response to a complete file: Ok if the device writes it, NotFound for an unknown path,
-    /// InternalServerError for a refused file.
+    /// The response to a complete file: Ok if the device accepts it, NotFound for an unknown path,
+    /// InternalServerError for a file that is refused, which ends the upload. After Ok, the device writes the
+    /// file for DeviceUpgrade::writing and reboots; with Fault::UpgradeHangsAt 100 it writes forever.
     [[nodiscard]] sdk::demo::HttpResponse finish(const HttpReceiver &receiver, const QByteArray &path);
 
 private:
@@ -59,8 +65,8 @@ private:
 
     sdk::demo::DemoSite &m_site;
     Poller &m_poller;
-    mutable std::mutex m_mutex; // guards the members below
-    int m_last = 0;
+    mutable std::mutex m_mutex;             // guards the members below
+    int m_last = 0;                         ///< number in the last path
     QMap<QString, UploadPointer> m_uploads; ///< by MAC
 };
 

@@ -9,7 +9,8 @@
 
 namespace site {
 
-/// The items of a channel (from 0) in CameraMode::Normal. Items that the camera does not support are empty.
+/// The items of a channel (from 0) in CameraMode::Normal. An item is empty if the camera does not support it
+/// or Fault::WithholdsItem withholds it.
 struct ImageSettings
 {
     std::optional<sdk::PictureItem> picture;
@@ -24,18 +25,20 @@ struct ImageSettings
 /// Nothing when the channel has neither picture nor exposure settings.
 [[nodiscard]] std::optional<ImageSettings> imageSettings(const sdk::demo::SceneDevice &device, int channel);
 
-/// Adds an element for each setting, as children of "timg:ImagingSettings".
+/// Adds the settings as children of `element`, a "timg:ImagingSettings". Empty items add nothing.
 void writeImageSettings(XmlElement element, const ImageSettings &settings);
 
-/// Reads the settings of `element`. Missing elements change nothing. Returns false for settings that the
-/// camera does not have, and for values out of range; `settings` may be changed in part then.
+/// Changes `settings` by the children of `element`. Missing children change nothing. Returns false for a
+/// setting whose item is empty, and for values out of range; `settings` may be changed in part then.
 [[nodiscard]] bool readImageSettings(pugi::xml_node element, ImageSettings &settings);
 
-/// Writes the settings. The device accepts all or none of them.
+/// Writes the items of `settings` that differ from those of the device; empty items are not written. The
+/// device accepts all or none of them. Returns the first error, or that of ServiceCall::change().
 [[nodiscard]] sdk::NetError takeImageSettings(const ServiceCall &call, int channel,
                                               const ImageSettings &settings);
 
-/// Adds the range or the modes of each setting, as children of "timg:ImagingOptions".
+/// Adds the range or the modes of each setting as children of `element`, a "timg:ImagingOptions". Empty items
+/// add nothing.
 void writeImageOptions(XmlElement element, const sdk::demo::SceneDevice &device,
                        const ImageSettings &settings);
 

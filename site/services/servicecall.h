@@ -19,7 +19,7 @@ namespace site {
 class FirmwareUploads;
 class KeyFrames;
 
-/// The context of the services of all devices.
+/// The objects that the services of all devices share.
 struct ServiceContext
 {
     sdk::demo::DemoSite &site;
@@ -29,27 +29,29 @@ struct ServiceContext
     FirmwareUploads &uploads;
 };
 
-/// One authorised request to one device.
+/// One request to one device whose client has the right for the operation.
 struct ServiceCall
 {
     ServiceContext &context;
     const HttpReceiver &receiver;
     const sdk::demo::SceneDevice device; ///< its state at the arrival of the request
     const DeviceManner manner;
-    const LoginOutcome login;
-    const pugi::xml_node request; ///< the operation's element
-    XmlElement response;          ///< the operation's element of the response
+    const LoginOutcome login;     ///< Anonymous if the operation needs no login
+    const pugi::xml_node request; ///< the operation's element of the request
+    XmlElement response;          ///< the operation's element of the response; not sent after a fault
     const std::int64_t now;       ///< on the site's clock, in ms since 1970
 
     /// "http://192.168.1.101", "https://[fd00::31]:8443": the scheme, address and port that the client has
-    /// used.
+    /// used, without a path.
     [[nodiscard]] QString root() const;
 
-    /// Applies `change` to the device. NetError::ConnectTimeout when it has left the site.
+    /// Applies `change` to the present state of the device, which may differ from `device`, and returns its
+    /// result. `change` must leave the device unchanged if it returns an error. ConnectTimeout, without a
+    /// call of `change`, if the device has left the site. The member `device` does not change.
     sdk::NetError change(const std::function<sdk::NetError(sdk::demo::SceneDevice &device)> &change) const;
 };
 
-/// Nothing for success.
+/// The fault that is sent instead of the response; nothing for success.
 using ServiceResult = std::optional<SoapFault>;
 
 /// Success, or `fault` for an error.
@@ -58,18 +60,20 @@ using ServiceResult = std::optional<SoapFault>;
     return error == sdk::NetError::None ? std::nullopt : ServiceResult(fault);
 }
 
-/// The access class of an operation.
+/// The clients that may call an operation. A higher UserLevel has the rights of the lower ones.
 enum class Access
 {
     BeforeLogin,         ///< every client
-    ReadSystem,          ///< users; every client of an uninitialised device
-    ReadSystemSensitive, ///< operators
-    WriteSystem,         ///< administrators
-    FirstUser,           ///< administrators; every client of an uninitialised device
-    ReadMedia,           ///< users
-    Actuate,             ///< operators
+    ReadSystem,          ///< from User; every client of an uninitialised device
+    ReadSystemSensitive, ///< from Operator
+    WriteSystem,         ///< Administrator
+    FirstUser,           ///< Administrator; every client of an uninitialised device
+    ReadMedia,           ///< from User
+    Actuate,             ///< from Operator
 };
 
+/// An operation of a service. `run` fills ServiceCall::response or returns a fault. It is called on threads
+/// of connections, several at a time.
 struct ServiceOperation
 {
     const char *name; ///< without a prefix: "GetUsers"

@@ -1,4 +1,5 @@
-// The state of a device's services that other protocols do not have. A reset clears it.
+// The state of a device's services that other protocols do not have. It is kept in the scene device, and a
+// reset clears it.
 #pragma once
 
 #include "sdk/demo/scene/scene.h"
@@ -7,9 +8,10 @@
 
 namespace site {
 
-/// Undefined if nothing is stored under `key`.
+/// The value that is stored under `key`; undefined if there is none.
 [[nodiscard]] QJsonValue serviceState(const sdk::demo::SceneDevice &device, const QString &key);
-/// An undefined value removes the key.
+/// Stores `value` under `key` in `device`; the caller has the device from ServiceCall::change(). An undefined
+/// value removes the key.
 void setServiceState(sdk::demo::SceneDevice &device, const QString &key, const QJsonValue &value);
 
 } // namespace site

@@ -5,15 +5,18 @@
 
 namespace site {
 
-/// Thread-safe.
+/// Reads a request, checks the login, runs the operation and writes the response or a fault in the device's
+/// XML style. Thread-safe.
 class SoapService
 {
 public:
     /// `context` must outlive the service.
     explicit SoapService(ServiceContext &context) : m_context(context) {}
 
-    /// The response to a request with the text `body`. HttpStatus::None while the device is offline. Blocks
-    /// for the delay of a slow device.
+    /// The response to a request with the text `body`. HttpStatus::None while the device is offline. A fault
+    /// is a response with an HTTP error status, and with a challenge if a login by Digest is missing. Blocks
+    /// for the delay of a device with Fault::SlowAnswers, until HttpReceiver::stop. Writes the request and
+    /// the response to SiteOptions::recordFolder, if it is set.
     [[nodiscard]] sdk::demo::HttpResponse respond(const HttpReceiver &receiver,
                                                   const sdk::demo::HttpRequest &head, const QByteArray &body);
 

@@ -1,4 +1,4 @@
-// The levels of a device's users.
+// The levels of a device's users in its services.
 #pragma once
 
 #include "sdk/demo/scene/scene.h"
@@ -9,6 +9,7 @@
 
 namespace site {
 
+/// In the order of the rights: a level has those of the levels before it.
 enum class UserLevel
 {
     Anonymous,
@@ -17,15 +18,17 @@ enum class UserLevel
     Administrator,
 };
 
-/// The name in messages of the device service: "Administrator".
+/// The name of a level in messages of the device service: "Administrator".
 [[nodiscard]] const char *userLevelName(UserLevel level);
 
-/// Nothing for an unknown name, and for "Anonymous", which no user has.
+/// The level of such a name. Nothing for an unknown name, and for "Anonymous", which no user has.
 [[nodiscard]] std::optional<UserLevel> userLevelNamed(const QString &name);
 
-/// Users of the scene are administrators; created users have the level of their creation.
+/// The level that setUserLevel() has stored; Administrator for a user without one, such as those of the scene
+/// and an unknown user.
 [[nodiscard]] UserLevel userLevelOf(const sdk::demo::SceneDevice &device, const QString &user);
 
+/// Stores the level of a user in the serviceState() of `device`.
 void setUserLevel(sdk::demo::SceneDevice &device, const QString &user, UserLevel level);
 
 } // namespace site

@@ -9,7 +9,7 @@ namespace site {
 
 struct XmlNamespace
 {
-    std::string_view prefix; ///< in the sources of the site
+    std::string_view prefix; ///< in the sources of the site; messages may have other prefixes
     std::string_view uri;
 };
 
@@ -29,7 +29,7 @@ inline constexpr std::array xmlNamespaces = {
     XmlNamespace{"wsu", "http://docs.oasis-open.org/wss/2004/01/oasis-200401-wss-wssecurity-utility-1.0.xsd"},
 };
 
-/// Empty for an unknown prefix.
+/// The namespace of a prefix of the table above; empty for an unknown prefix.
 [[nodiscard]] constexpr std::string_view namespaceUri(std::string_view prefix)
 {
     for (const XmlNamespace &known : xmlNamespaces) {
@@ -39,7 +39,7 @@ inline constexpr std::array xmlNamespaces = {
     return {};
 }
 
-/// Empty for an unknown namespace.
+/// The prefix of a namespace in the table above; empty for an unknown namespace.
 [[nodiscard]] constexpr std::string_view namespacePrefix(std::string_view uri)
 {
     for (const XmlNamespace &known : xmlNamespaces) {

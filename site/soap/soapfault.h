@@ -7,13 +7,16 @@
 
 namespace site {
 
+/// A fault: it is sent instead of the response. Its names have the prefixes of soap/namespaces.h, and are
+/// string literals.
 struct SoapFault
 {
-    bool isSender = true; ///< fault code Sender, otherwise Receiver
+    bool isSender = true; ///< fault code Sender, with HTTP status 400; otherwise Receiver, with 500
     const char *subcode = "ter:InvalidArgVal";
-    const char *detail = nullptr; ///< the subcode below it: "ter:NoProfile"
-    QString reason;
+    const char *detail = nullptr; ///< the subcode below `subcode`: "ter:NoProfile"; null for none
+    QString reason;               ///< an English sentence
 
+    /// `detail` may be null.
     [[nodiscard]] static SoapFault invalid(const char *detail, const QString &reason)
     {
         return {true, "ter:InvalidArgVal", detail, reason};
@@ -36,6 +39,7 @@ struct SoapFault
     }
 };
 
+/// Adds the fault to the body of a message, which should be empty.
 void writeFault(SoapMessage &message, const SoapFault &fault);
 
 } // namespace site

@@ -26,19 +26,21 @@ struct UserNameToken
 struct SoapRequest
 {
     std::unique_ptr<pugi::xml_document> document; ///< owns `operation`
-    pugi::xml_node operation;
-    std::string prefix; ///< of its service, by soap/namespaces.h; empty for an unknown one
-    std::string name;
-    std::optional<UserNameToken> token;
+    pugi::xml_node operation;                     ///< the first element of the body
+    std::string prefix; ///< of its namespace in soap/namespaces.h: "tds"; empty for an unknown namespace
+    std::string name;   ///< of the operation, without a prefix: "GetUsers"
+    std::optional<UserNameToken> token; ///< nothing for a message without one
 };
 
+/// Why a message is no request.
 enum class UnusableRequest
 {
-    NoXml,
-    NoEnvelope,    ///< or one of another version
-    NotUnderstood, ///< an unknown header with mustUnderstand
+    NoXml,         ///< readXml() has failed
+    NoEnvelope,    ///< no SOAP 1.2 envelope with an operation in its body
+    NotUnderstood, ///< it has an unknown header with mustUnderstand
 };
 
+/// Reads a message. The namespace and the name of the operation may be unknown.
 [[nodiscard]] std::variant<SoapRequest, UnusableRequest> readSoapRequest(const QByteArray &bytes);
 
 /// True if the token was made with that password. `now` is the time of the device (UTC, ms since 1970): a

@@ -11,12 +11,14 @@
 
 namespace site {
 
-/// An element that is being written. Names have the prefixes of soap/namespaces.h.
+/// An element that is being written. A copy refers to the same element, which the SoapMessage owns. Names
+/// have the prefixes of soap/namespaces.h. Texts are UTF-8 and are escaped.
 class XmlElement
 {
 public:
     explicit XmlElement(pugi::xml_node node) : m_node(node) {}
 
+    // Append a child element with that name and text, and return the child.
     XmlElement add(const char *name) { return XmlElement(m_node.append_child(name)); }
     XmlElement add(const char *name, const char *text) { return add(name, std::string_view(text)); }
     XmlElement add(const char *name, std::string_view text);
@@ -25,6 +27,7 @@ public:
     XmlElement add(const char *name, int number) { return add(name, std::to_string(number)); }
     XmlElement add(const char *name, double number) { return add(name, QString::number(number)); }
 
+    // Append an attribute to this element, and return this element.
     XmlElement &attribute(const char *name, std::string_view value);
     XmlElement &attribute(const char *name, const QString &value);
     XmlElement &attribute(const char *name, const char *value)
@@ -45,20 +48,22 @@ enum class XmlManner
 {
     UsualPrefixes, ///< the usual prefixes, "SOAP-ENV" for the envelope
     OwnPrefixes,   ///< "ns1", "ns2" and so on, "s" for the envelope
-    Defaults,      ///< most elements have no prefix and declare their namespace as the default one
+    Defaults,      ///< most elements have no prefix and declare their namespace as the default one; those of
+                   ///< the envelope, faults, addressing and discovery have the prefixes of soap/namespaces.h
 };
 
-/// A SOAP message.
+/// A SOAP 1.2 message that is being written. Not thread-safe.
 class SoapMessage
 {
 public:
     SoapMessage();
 
-    /// The header, which is written only if it has content.
+    /// The header. A message without a call of header() has none.
     [[nodiscard]] XmlElement header();
     [[nodiscard]] XmlElement body() const { return XmlElement(m_body); }
 
-    /// The bytes of the message. To be called once.
+    /// The bytes of the message as UTF-8. It replaces the prefixes by those of `manner`, also in the elements
+    /// of the message. To be called once, when the message is complete.
     [[nodiscard]] QByteArray bytes(XmlManner manner);
 
 private:
