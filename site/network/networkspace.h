@@ -14,15 +14,15 @@ public:
     /// The namespace of the calling thread. Nothing, with errno set, on failure.
     [[nodiscard]] static std::optional<NetworkSpace> current();
 
-    /// A new namespace with only a loopback interface, which is down. The calling thread stays in its own
-    /// one. Nothing, with errno set, on failure: the process may lack the right.
+    /// A new namespace with only a loopback interface, which is down. The calling thread stays in its
+    /// namespace. Nothing, with errno set, on failure: the process may lack the right.
     [[nodiscard]] static std::optional<NetworkSpace> create();
 
     /// The file descriptor of the namespace, which this object owns.
     [[nodiscard]] int number() const { return m_file.number(); }
 
-    /// Moves the calling thread into the namespace; its sockets stay in theirs. Returns false, with errno
-    /// set, on failure: the thread has not moved then.
+    /// Moves the calling thread into the namespace. Sockets that exist stay in their namespaces. Returns
+    /// false, with errno set, on failure: the thread has not moved then.
     bool enter() const;
 
 private:
@@ -31,8 +31,8 @@ private:
     FileDescriptor m_file;
 };
 
-/// Keeps the calling thread in a namespace until the end of a block, and then moves it back. To be checked by
-/// isInside().
+/// Moves the calling thread into a namespace, and back at the end of the block. The move may fail: the caller
+/// checks isInside().
 class InsideNetworkSpace
 {
 public:
