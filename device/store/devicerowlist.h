@@ -8,15 +8,18 @@
 
 #include <optional>
 
-/// An ordered list of rows, indexed by the name of a row (see rowName()) and by its "ipport". Not
-/// thread-safe: the owner, DeviceStore, holds a lock.
+/// An ordered list of device rows, indexed by the name of a row (see rowName()) and by its "ipport". Names
+/// are unique, addresses are not. A copy is independent of the original. Not thread-safe: the owner,
+/// DeviceStore, holds a lock during each call.
 class DeviceRowList
 {
 public:
-    [[nodiscard]] const QVariantList &rows() const { return m_rows; } ///< QJsonObjects
+    [[nodiscard]] const QVariantList &rows() const { return m_rows; } ///< QJsonObjects, in their order
+    /// Whether the list has a row of this name. Constant time.
     [[nodiscard]] bool contains(const QString &name) const { return m_positions.contains(name); }
 
-    // The list must not contain the name.
+    // Add a row at the end or at the start. `name` must be rowName() of the row, and the list must not
+    // contain it.
     void append(const QString &name, const QJsonObject &row);
     void prepend(const QString &name, const QJsonObject &row);
 
@@ -30,8 +33,9 @@ public:
     /// Names of the rows with this "ipport", in their order.
     [[nodiscard]] QStringList namesAt(const QString &ipport) const;
 
-    /// Replaces the row of this name, which must exist. The new row keeps the name and the position. Constant
-    /// time unless many rows share the old or the new address.
+    /// Replaces the row of this name, which must exist. The new row gets the position and the name of the old
+    /// one: if its own name differs, `name` is stored in its "identity". Constant time unless many rows share
+    /// the old or the new address.
     void replace(const QString &name, QJsonObject row);
 
     /// Removes rows in one pass. Names without a row are ignored.
@@ -47,5 +51,5 @@ private:
     /// prepending a row does not change the positions of the others.
     QHash<QString, qsizetype> m_positions;
     qsizetype m_firstPosition = 0;                         ///< 0 or negative
-    QHash<QString, QList<qsizetype>> m_positionsByAddress; ///< ascending
+    QHash<QString, QList<qsizetype>> m_positionsByAddress; ///< ascending positions, by "ipport"
 };

@@ -2,4 +2,5 @@
 
 #include <QLoggingCategory>
 
+/// The log category "configtools.device" of all code in the folder device.
 Q_DECLARE_LOGGING_CATEGORY(logDevice)
