@@ -1,4 +1,4 @@
-// The accepted keys of devices, and the refused certificates.
+// The keys of devices that the user has accepted, and the certificates that were refused.
 #pragma once
 
 #include "sdk/certificateblocks.h"
@@ -15,56 +15,65 @@
 struct RefusedCertificate
 {
     QString identity; ///< MAC or UUID of the device in lower case; empty if unknown
-    QString address;
+    QString address;  ///< of the device in the connection
     int port = 0;
     QString fingerprint;       ///< SHA-256 of the public key: "AB:CD:..." of 32 bytes
-    QString subject;           ///< common name; chosen by the device
+    QString subject;           ///< common name; chosen by the device, so it proves nothing
     QString validFrom;         ///< "2026-11-26 13:30:00" UTC; empty if unreadable
-    QString validUntil;        ///< the same
-    QString storedFingerprint; ///< of the accepted key; empty for an unknown device
+    QString validUntil;        ///< as validFrom
+    QString storedFingerprint; ///< of the key that the user has accepted for this device; empty for none
 
+    /// Whether the user has accepted another key for this device.
     [[nodiscard]] bool isChanged() const { return !storedFingerprint.isEmpty(); }
     [[nodiscard]] bool operator==(const RefusedCertificate &) const = default;
 };
 
-/// Decides whether certificates of devices are trusted. The user accepts keys; they are stored in a file. The
-/// key of a device is compared with the accepted key of its identity. If there is none, or the identity is
-/// unknown, the accepted key of its address and port is used, also that of another identity. A different key
-/// is reported as changed.
+/// Decides whether certificates of devices are trusted. The user accepts keys, which are stored in a file.
+/// The key of a certificate is compared with the accepted key of the device's identity. If there is none, or
+/// the identity is unknown, it is compared with the key that was last accepted for the address and port,
+/// whatever the identity of that key is. A certificate is trusted if the keys are equal, "changed" if they
+/// differ, and "unknown" if there is no accepted key. Dates and names of certificates are not checked.
 ///
-/// If the file cannot be read, no certificate is trusted. The file is renamed when the user accepts a
-/// certificate.
+/// If the file cannot be read completely, no certificate is trusted. When the user then accepts a
+/// certificate, the unreadable file is renamed and a new one is written.
 ///
-/// Thread-safe. verdictOn() does not access the disk.
+/// Refused certificates are in memory only. Thread-safe. verdictOn() does not access the disk.
 class CertificateStore
 {
     Q_DECLARE_TR_FUNCTIONS(CertificateStore)
 public:
-    static constexpr qsizetype maximumRefused = 20'000;
+    static constexpr qsizetype maximumRefused = 20'000; ///< maximum number of certificates in refused()
 
-    /// Reads the file, which may be missing. Without a path, keys are stored in memory only.
+    /// Reads the file in this call. A missing file contains no keys and is no problem(). With an empty path,
+    /// accepted keys are kept in memory only.
     explicit CertificateStore(const QString &path);
 
-    /// The reason why the file cannot be read, in the user's language; otherwise empty.
+    /// The reason why the file could not be read, in the user's language. Empty if it was, and after a
+    /// successful agree().
     [[nodiscard]] QString problem() const;
 
-    /// Adds a certificate that is not trusted to refused() and calls the listener. The certificate replaces
-    /// an earlier one of the device. It is not added if refused() has maximumRefused others.
+    /// The verdict on the certificate of a connection. If it is not trusted, the certificate is added to
+    /// refused(), where it replaces an earlier one of the device, and the listener is called. It is not added
+    /// if refused() has maximumRefused certificates of other devices.
     [[nodiscard]] sdk::CertificateVerdict verdictOn(const sdk::DeviceCertificate &certificate);
 
-    /// verdictOn() as an sdk::CertificateHandler; `user` is the store.
+    /// verdictOn() as an sdk::CertificateHandler; `user` is the store, which must exist. `certificate` must
+    /// not be null.
     static sdk::CertificateVerdict handle(const sdk::DeviceCertificate *certificate, void *user);
 
-    /// The certificates that the user has not accepted, in the order of their first refusals.
+    /// The last refused certificate of each device since the start of the application that the user has not
+    /// accepted, in the order of the first refusals.
     [[nodiscard]] QList<RefusedCertificate> refused() const;
 
-    /// Accepts the keys of these certificates and removes them from refused(). A device that has presented
-    /// another key in the meantime stays refused. Returns an empty string, or the error text of the system if
-    /// the file cannot be written; nothing is accepted then. Blocks until the file is written.
+    /// Accepts the keys of these certificates and removes the certificates from refused(). A device that has
+    /// presented another key in the meantime stays in refused(). Returns an empty string on success,
+    /// otherwise the error text of the system: the file could not be written, and nothing is accepted. Blocks
+    /// until the file is written.
     [[nodiscard]] QString agree(const QList<RefusedCertificate> &certificates);
 
-    /// Sets the function that is called after each refusal, on the thread of the request; empty for none. The
-    /// earlier function is not running any more when this returns. The function must not call setListener().
+    /// Sets the function that is called after each refusal, on the thread of the request; empty for none.
+    /// Blocks while the earlier function runs; it is not called after this returns. The function may call
+    /// refused(), but neither setListener() nor verdictOn().
     void setListener(std::function<void()> listener);
 
 private:

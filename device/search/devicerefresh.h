@@ -14,12 +14,14 @@ class DeviceStore;
 template<typename T>
 class QFuture;
 
-/// Queries devices of the list again after work that changed values in their rows. Each device is queried at
-/// the address of its row. A device that does not respond is searched by MAC in the local segment, and its
-/// row gets the reported address. Only a response of the device itself updates its row and search record.
-/// Checked states and results are kept.
+/// Queries listed devices again after work that may have changed values that their rows show. Each device is
+/// queried at the address of its row. A device that does not respond there is searched in the local segment,
+/// and its row gets the address that it reports. Responses of other devices change nothing: a response is
+/// assigned to a row by DeviceStore::nameOf() and written by DeviceStore::updateRow(), which keeps checked
+/// states and results. A device that is not found keeps its row unchanged.
 ///
-/// Lives on the main thread. Each start() is one task on the global thread pool.
+/// Lives on the main thread, except locate(). Each start() is one task on the global thread pool. Without a
+/// network library, nothing is sent.
 class DeviceRefresh : public QObject
 {
     Q_OBJECT
@@ -29,25 +31,31 @@ public:
     /// Stops the running tasks and waits for them.
     ~DeviceRefresh() override;
 
-    /// Stops running tasks at their next step, without waiting. A later start() sends nothing.
+    /// Stops the tasks of start() at their next query, without waiting. A later start() sends nothing. Does
+    /// not affect locate().
     void requestStop();
 
-    /// Queries the devices of these rows and returns immediately. Skips devices behind a tunnel and devices
-    /// with an IPv6 address, which these queries do not reach. Up to four queries of up to 3 s for up to 4096
-    /// devices each are sent to devices that have not responded or are not initialised yet. These are then
-    /// searched by MAC for 3 s.
+    /// Queries the devices of these IPv4 rows (names of rows) and returns immediately. Skips names without a
+    /// row, devices behind a tunnel and devices with an IPv6 address, which these queries do not reach. Sends
+    /// four queries one after another; the second to fourth go only to devices that have not responded yet,
+    /// or whose response states that they are not initialised. A query takes up to 3 s for up to 4096
+    /// devices, longer for more. The devices that are then still left are searched in the local segment for
+    /// 3 s. The end is not reported.
     void start(const QStringList &names);
 
     /// Same with one query instead of four, on the caller's thread, which must not be the main thread. Blocks
-    /// up to 6 s for up to 4096 devices. A name without a row is the MAC or uuidName() of a device that was
-    /// removed from the list: it is searched by that, and gets a row when it responds.
+    /// for about 6 s for up to 4096 devices; a request of `stop` ends it at the next query. A name without a
+    /// row is the MAC or uuidName() of a device that was removed from the list: the device is searched in the
+    /// local segment by this name, and gets a row when it responds.
     void locate(const QStringList &names, const std::stop_token &stop);
 
 Q_SIGNALS:
     void rowsChanged(); ///< emitted on threads of the network library, for each response that changed a row
 
 private:
+    /// The IPv4 addresses of the rows that can be queried, by name.
     [[nodiscard]] QHash<QString, QString> addressesOf(const QStringList &names) const;
+    /// `devices` are addresses by name; a device without an address is only searched in the local segment.
     void run(const QHash<QString, QString> &devices, int attempts, const std::stop_token &stop);
 
     const std::shared_ptr<DeviceStore> m_store;

@@ -15,10 +15,11 @@ class DeviceStore;
 template<typename T>
 class QFuture;
 
-/// Finds the devices of the local segment and of a range of addresses. Each search is one task on the global
-/// thread pool. Responses arrive on threads of the network library and are written to the store directly.
+/// Finds the devices of the local segment and of a range of IPv4 addresses. Each search is one task on the
+/// global thread pool. Responses arrive on threads of the network library, which write them to the store.
 ///
-/// Lives on the main thread. Signals are emitted on the task's thread and on threads of the library.
+/// Lives on the main thread. rowsAdded() and counted() are emitted on the task's thread and on threads of the
+/// library, the other signals on the task's thread.
 class DeviceSearch : public QObject
 {
     Q_OBJECT
@@ -28,31 +29,37 @@ public:
     /// Stops running searches and waits for their tasks.
     ~DeviceSearch() override;
 
-    /// Stops running searches at their next step, without waiting. Found devices are kept and each search
-    /// emits done(). A running query of addresses (up to 3 s) is not interrupted.
+    /// Stops running searches at their next step, without waiting. Found devices stay in the store, and each
+    /// search emits done(). A running query of addresses (up to 3 s) is not interrupted. A later start()
+    /// starts a search as usual.
     void stop();
 
-    /// Same, and no later search runs. An emission of limited(), progressed() or done() that has begun
-    /// completes, later ones are omitted; late responses may still emit rowsAdded() and counted(). The
-    /// receivers must therefore exist until the destructor has returned.
+    /// For the end of the application. Same as stop(), but the searches do not emit done(), and a later
+    /// start() ends after its first step. limited(), progressed() and done() are not emitted after this call,
+    /// except an emission that has already begun; late responses may still emit rowsAdded() and counted().
+    /// The receivers must therefore exist until the destructor has returned.
     void requestStop();
 
-    /// Sets the range of the next start() only.
+    /// Sets the range that the next start() searches; later searches have no range unless it is set again.
+    /// The range must have passed searchRangeError().
     void setRange(SearchRange range);
 
-    /// Starts a search of the range and, with `localSegment`, of the local segment before it. Returns
-    /// immediately; the task clears the store first. Without a network library, nothing is found. A search
-    /// that is still running continues: both fill the same store.
+    /// Starts a search: first of the local segment (5 s) if `localSegment` is true, then of the range, if one
+    /// is set (6 s for each /24 block). Returns immediately; done() reports the end. The task clears the
+    /// store first, see DeviceStore::clear(). Without a network library, nothing is found. A search that is
+    /// still running continues: both searches fill the same store.
     void start(bool localSegment);
 
 Q_SIGNALS:
-    /// Rows were added or removed. Emitted at the begin and the end of a search, and at most once a second
-    /// between them.
+    /// Rows were added or removed. Emitted at the beginning and at the end of a search, and at most once a
+    /// second between them.
     void rowsAdded();
-    void counted(int ipv4Rows);          ///< number of IPv4 rows found so far
-    void limited(int rows, int leftOut); ///< at the end: `leftOut` responses exceeded the limit of `rows`
-    void progressed(int percent);        ///< elapsed share of the search time, 0 to 100
-    void done();                         ///< the last signal of a search
+    void counted(int ipv4Rows); ///< IPv4 rows that are not lost; emitted after rowsAdded() except the first
+    /// At the end of a search: `leftOut` responses were dropped because the search had added `rows` rows, the
+    /// maximum. Not emitted if none was dropped.
+    void limited(int rows, int leftOut);
+    void progressed(int percent); ///< elapsed share of the search time, 0 to 100
+    void done();                  ///< the last signal of a search, also of a stopped one
 
 private:
     class Progress;
@@ -60,7 +67,7 @@ private:
     void run(bool localSegment, const SearchRange &range, const std::stop_token &stop);
     void searchLocalSegment(const std::stop_token &stop, Progress &progress);
     void searchRange(const SearchRange &addresses, const std::stop_token &stop, Progress &progress);
-    void keepHandle(std::int64_t handle);
+    void keepHandle(std::int64_t handle); ///< 0: the local search could not be started; only logged
     void stopHandles();
     void handleResponse(const sdk::SearchResponse &response);
     static void responseHandler(std::int64_t searchHandle, const sdk::SearchResponse *response, void *user);

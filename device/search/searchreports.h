@@ -13,7 +13,8 @@ class NetLibrary;
 struct SearchReport;
 } // namespace sdk
 
-/// Keys of the maps of SearchReports::blocks(). The other values are strings in the user's language.
+/// Keys of the maps of SearchReports::blocks(). A value is a string in the user's language unless stated
+/// otherwise.
 namespace SearchReportKey {
 inline constexpr QLatin1StringView title("title");
 inline constexpr QLatin1StringView lines("lines"); ///< list of maps of `label` and `value`
@@ -24,28 +25,33 @@ inline constexpr QLatin1StringView text("text");
 inline constexpr QLatin1StringView advice("advice");
 } // namespace SearchReportKey
 
-/// The report of the last search for QML, to explain an empty or shorter device list. Lives on the main
-/// thread.
+/// The report of the last search for QML, to explain an empty or shorter device list. The search page calls
+/// begin() and end(); the report is read from the network library in end(). Lives on the main thread.
 class SearchReports : public QObject
 {
     Q_OBJECT
-    /// Whether a report exists. False during a search.
+    /// Whether a report exists. False before the end of the first search, during a search, and if the network
+    /// library has no report.
     Q_PROPERTY(bool available READ isAvailable NOTIFY changed)
-    /// How many devices fewer than in the previous search, not counting stopped ones. 0 if that was a search
-    /// of other networks, if the last search was stopped, or if the message was dismissed.
+    /// The number of devices by which the last search found fewer than the search before it that was not
+    /// stopped. 0 if it did not find fewer, if the two searched different networks, if the last search was
+    /// stopped, during a search, or after dismiss().
     Q_PROPERTY(int missing READ missing NOTIFY changed)
-    /// Whether the last search was stopped and the user has not dismissed the message.
+    /// Whether the last search was stopped. False during a search and after dismiss().
     Q_PROPERTY(bool incomplete READ isIncomplete NOTIFY changed)
-    /// SearchReportText::summaryOf() of the last search, also if the message was dismissed.
+    /// SearchReportText::summaryOf() of the last search, also after dismiss().
     Q_PROPERTY(QString summary READ summary NOTIFY changed)
-    /// The IPv4 networks of the host that were searched, "192.168.1.0/24, 10.0.0.0/8"; empty if unknown.
+    /// The IPv4 networks of the host that were searched, "192.168.1.0/24, 10.0.0.0/8"; empty without a
+    /// report.
     Q_PROPERTY(QString networks READ networks NOTIFY changed)
-    /// Maps of "title", "lines" (maps of "label" and "value") and "obstacles" (maps of "text" and "advice").
+    /// The blocks of the report as maps with the keys of SearchReportKey: "title", "lines" and "obstacles".
+    /// Empty without a report.
     Q_PROPERTY(QVariantList blocks READ blocks NOTIFY changed)
-    /// The complete report as plain text: time of the end, summary and blocks.
+    /// The complete report as plain text: time of the end, summary and blocks. Meaningful only if
+    /// `available`.
     Q_PROPERTY(QString text READ text NOTIFY changed)
 public:
-    /// `net` may be null: no report exists then.
+    /// `net` may be null: no report exists then, but missing() and summary() are set.
     explicit SearchReports(std::shared_ptr<sdk::NetLibrary> net, QObject *parent = nullptr);
     ~SearchReports() override;
 
@@ -57,24 +63,28 @@ public:
     [[nodiscard]] QVariantList blocks() const;
     [[nodiscard]] QString text() const;
 
-    /// Called when a search starts; clears the report. `range` identifies the address range, empty for none.
+    /// Called before a search starts; clears the report. `localSegment`: the local segment is searched.
+    /// `range` is a text that identifies the searched address range; empty for none. Searches with the same
+    /// two values are compared in `missing`.
     Q_INVOKABLE void begin(bool localSegment, const QString &range);
 
     /// Called when the search has ended or was stopped. `devices` is the number of devices found.
     Q_INVOKABLE void end(int devices, bool isStopped);
 
-    /// Hides the messages about missing devices and a stopped search.
+    /// The user has dismissed the messages about missing devices and a stopped search. The report stays.
     Q_INVOKABLE void dismiss();
 
 Q_SIGNALS:
-    void changed();
+    void changed(); ///< emitted by begin(), end() and dismiss()
 
 private:
+    /// Reads the report of the library. Returns false if there is none.
     [[nodiscard]] bool read(sdk::SearchReport &report) const;
 
     const std::shared_ptr<sdk::NetLibrary> m_net;
-    QString m_scope; ///< key of the searched networks
-    /// Counters before the search. Null with the local segment: the library resets its counters then.
+    QString m_scope; ///< both parameters of begin() as one text
+    /// Counters before the search, to be subtracted. Null for a search of the local segment: the library
+    /// resets its counters then.
     std::unique_ptr<sdk::SearchReport> m_before;
     QString m_countedScope;   ///< m_scope of the last search that was not stopped
     int m_countedDevices = 0; ///< devices of that search

@@ -11,15 +11,16 @@
 
 class CDeviceFactory;
 
-/// Runs one piece of work at a time on a thread of the back end. Starting work cancels the previous one, and
-/// so does the destructor. Cancelled work continues to its next safe point in the background; its outcome is
-/// dropped, and its login is logged out.
+/// Runs one piece of work at a time on a thread of the back end of dhFamily. Running work is cancelled by the
+/// start of other work, by another factory and by the destructor. Cancelled work continues to its next safe
+/// point in the background; its outcome is dropped, its ended() is not emitted, and its login is logged out.
 ///
-/// No function blocks, and no lock is held during a request. Without a factory, no function has an effect.
-/// Work on the current session uses a copy of the session's state. When it ends, in one turn of the event
-/// loop, the copy replaces the state, the factory emits the signals of the work in order, and ended()
-/// follows. Until then the factory's getters return the previous state. Start a sequence of work from a
-/// handler of ended().
+/// No function blocks. Without a factory, no function has an effect: ended() does not follow.
+///
+/// Work on the current session (SessionWork) uses a copy of the session's state. Until it ends, the factory's
+/// getters return the previous state. When it ends, in one turn of the event loop, the copy replaces the
+/// state, the factory emits the signals of the work in order, and ended() follows. The next work of a
+/// sequence must be started from a handler of ended().
 ///
 /// Lives on the main thread.
 class DeviceWork : public QObject
@@ -33,36 +34,40 @@ public:
     explicit DeviceWork(QObject *parent = nullptr) : QObject(parent) {}
     ~DeviceWork() override;
 
+    /// The factory that gives access to the devices; null before it is set and after it is destroyed.
     [[nodiscard]] CDeviceFactory *deviceFactory() const;
     void setDeviceFactory(CDeviceFactory *deviceFactory);
+    /// True from the start of work until its ended() or its cancellation.
     [[nodiscard]] bool isRunning() const { return m_isRunning; }
 
-    /// Logs in to a device and reads its details. The value of ended() is that of
-    /// CDeviceFactory::readDeviceDetail(). `ipport` is its "address:port".
+    /// Logs in to the device at `ipport` ("address:port") with its account, reads its properties and logs
+    /// out. The value of ended() is the map of CDeviceBase::readDeviceDetail(), also after a failed login.
     Q_INVOKABLE void readDetail(const QString &ipport);
 
     /// Logs in to a device and adds its row. Keys of `device`: "mode" (0 by address, 1 by P2P ID), "address"
     /// (or the P2P ID), "port" (int), "account" and "password". The value of ended() is a map of "result" (a
-    /// LoginResult) and "text" (a message in the user's language, may be empty). A row that was added before
-    /// a cancellation is reported by the factory like any other new row.
+    /// LoginResult) and "text" (a message in the user's language, may be empty). No row is added on failure.
+    /// A row that was added before a cancellation stays, and the factory reports it like any other new row.
     Q_INVOKABLE void addDevice(const QVariantMap &device);
 
-    /// Drops the running work: ended() is not emitted.
+    /// Cancels the running work; does nothing without one.
     Q_INVOKABLE void cancel();
 
 Q_SIGNALS:
     void deviceFactoryChanged();
     void runningChanged();
-    void ended(const QVariant &value); ///< `value` depends on the work; invalid if the work has none
+    /// Work has ended without being cancelled, with or without success. The function that starts the work
+    /// states its `value`; invalid if it states none.
+    void ended(const QVariant &value);
 
 protected:
-    /// Starts work and cancels the running one.
+    /// Starts work and cancels the running one. deviceFactory() must not be null.
     void begin(const PageStep &step);
 
     /// True while the outcome of work is applied and its signals are emitted.
     [[nodiscard]] bool isTaking() const { return m_isTaking; }
 
-    /// Called after the factory has changed from `before`, which may be null.
+    /// Called after the factory has changed from `before`, which may be null. Does nothing by default.
     virtual void changeFactory(CDeviceFactory *before);
 
 private:

@@ -12,9 +12,10 @@
 
 class CDeviceFactory;
 
-/// Logs in to a device for QML on a thread of the back end. The login lasts until close(), the destructor or
-/// a later successful open(). A new open() replaces one that is running, whose result is dropped and logged
-/// out. Without a factory, open() has no effect.
+/// A login to one device for QML, made on a thread of the back end. The session lasts until close(), another
+/// factory, the destructor, or a later open() that makes a new login. An open() cancels an earlier one that
+/// is still running: its ended() is not emitted, and its login is logged out. Without a factory, open() has
+/// no effect. No function blocks; a logout runs in the background.
 ///
 /// Lives on the main thread.
 class LiveSession : public QObject
@@ -28,33 +29,38 @@ public:
     explicit LiveSession(QObject *parent = nullptr) : QObject(parent) {}
     ~LiveSession() override;
 
+    /// The factory that gives access to the devices; null before it is set and after it is destroyed.
     [[nodiscard]] CDeviceFactory *deviceFactory() const;
+    /// Closes the session, then sets the factory.
     void setDeviceFactory(CDeviceFactory *deviceFactory);
 
-    /// Login handle of the device library; 0 without a session.
+    /// Login handle of the network library, for live streams; 0 without a session.
     [[nodiscard]] qint64 handle() const { return m_session ? m_session->handle() : 0; }
     /// Same for QML, whose numbers are exact up to 2^53.
     [[nodiscard]] double handleNumber() const { return static_cast<double>(handle()); }
 
-    /// Keeps the present session if the device responds in it, otherwise logs in to the device at `ipport`,
-    /// its "address:port". The present session must be with the same device. ended() follows, unless open()
-    /// or close() is called before.
+    /// Logs in to the device at `ipport` ("address:port"). If there is a session already, it must be with
+    /// this device; it is kept if the device responds in it, and `account` and `password` are not used then.
+    /// ended() follows, unless open() or close() is called before.
     Q_INVOKABLE void open(const QString &ipport, const QString &account, const QString &password);
 
-    /// Saves an image of a channel (from 0) of the present session to `folder`, see OwnSession.
-    /// imageTaken() follows, unless the session is closed before. Without a session, nothing happens.
+    /// Saves an image of a channel (from 0) to the folder `folder` in the folder of snapshots, see
+    /// OwnSession::takeImage(). imageTaken() follows, unless close() is called before. Several calls may run
+    /// at the same time. Without a session, nothing happens.
     Q_INVOKABLE void takeImage(int channel, const QString &folder);
 
-    /// Logs out and cancels open() and takeImage().
+    /// Cancels open() and takeImage(), whose signals are not emitted then, and logs out.
     Q_INVOKABLE void close();
 
 Q_SIGNALS:
     void deviceFactoryChanged();
     void handleChanged();
-    /// `result` is a LoginResult. The present session is kept after every failure. `channels` are those of a
-    /// new login, maps with the keys of ChannelKey; empty if the present session is kept.
+    /// An open() has ended. `result` is a LoginResult. After a failure, an existing session stays. `channels`
+    /// are the channels after a new login, maps with the keys of ChannelKey; empty after a failure and if the
+    /// session was kept.
     void ended(int result, const QVariantList &channels);
-    /// `path` is a "file:///" URL, empty on failure; `message` is then the reason in the user's language.
+    /// A takeImage() has ended. `path` is a "file:///" URL, empty on failure; `message` is then the reason in
+    /// the user's language.
     void imageTaken(int channel, const QString &path, const QString &message);
 
 private:
@@ -62,8 +68,8 @@ private:
     void setSession(const std::shared_ptr<OwnSession> &session);
 
     QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before this object
-    std::stop_source m_stop;
-    std::stop_source m_imageStop;
-    std::shared_ptr<OwnSession> m_session;
+    std::stop_source m_stop;                  ///< of the latest open()
+    std::stop_source m_imageStop;             ///< of each takeImage() since close()
+    std::shared_ptr<OwnSession> m_session;    ///< null without a session; shared with running takeImage()
     int m_number = 0; ///< of the latest open(); results with another number are dropped
 };
