@@ -26,7 +26,8 @@ inline constexpr bool isForwarded = std::apply(
     },
     forwardedSignals);
 
-/// Emits the signals of one back end. The back end owns this object. Any thread.
+/// Emits the signals of one back end for its components. The back end owns this object. Functions may be
+/// called on any thread unless stated otherwise.
 class BackEndSignals
 {
 public:
@@ -34,14 +35,16 @@ public:
     BackEndSignals(const BackEndSignals &) = delete;
     BackEndSignals &operator=(const BackEndSignals &) = delete;
 
-    /// A function that emits `signal` with these arguments, for emitNow().
+    /// A function that emits a signal of the back end.
     using Emission = std::function<void(CDeviceBase &backEnd)>;
+    /// Returns an Emission of `signal` with copies of these arguments. Emits nothing itself.
     template<auto signal, typename... Arguments>
     [[nodiscard]] static Emission emission(const Arguments &...arguments)
     {
         static_assert(isForwarded<signal>, "add the signal to forwardedSignals and to the factory");
         return bound(signal, arguments...);
     }
+    /// Emits the signal of `emission` in this call, on the caller's thread.
     void emitNow(const Emission &emission) const { emission(m_backEnd); }
 
     /// Emits `signal` in this call, on the caller's thread.
@@ -52,7 +55,7 @@ public:
         Q_EMIT(m_backEnd.*signal)(arguments...);
     }
 
-    /// Emits `target` whenever `sender` emits `signal`, on the same thread.
+    /// From now on, emits `target` whenever `sender` emits `signal`, on the thread of that emission.
     template<auto target, typename Sender, typename Signal>
     void relay(const Sender *sender, Signal signal) const
     {
@@ -60,7 +63,7 @@ public:
         QObject::connect(sender, signal, &m_backEnd, target, Qt::DirectConnection);
     }
 
-    /// Calls noteChangedRows() whenever `sender` emits `signal`.
+    /// From now on, calls noteChangedRows() whenever `sender` emits `signal`.
     template<typename Sender, typename Signal>
     void relayChangedRows(const Sender *sender, Signal signal)
     {
@@ -68,14 +71,15 @@ public:
             sender, signal, &m_backEnd, [this] { noteChangedRows(); }, Qt::DirectConnection);
     }
 
-    /// Runs `work` later on the main thread, after the signals that this thread has queued. Dropped when the
-    /// back end is destroyed before.
+    /// Runs `work` later on the main thread, after the signals that the caller's thread has queued before.
+    /// `work` is dropped if the back end is destroyed first.
     void queue(const std::function<void()> &work) const;
 
-    /// Emits signalCDeviceAddSingleDeviceToTable later on the main thread, once for all calls until then.
+    /// Rows have changed outside a search. Emits signalCDeviceAddSingleDeviceToTable later on the main
+    /// thread, once for all calls until then.
     void noteChangedRows();
 
-    /// The back end as a context for connections: it lives on the main thread.
+    /// The back end, as the context object of connections whose slots must run on the main thread.
     [[nodiscard]] QObject *receiver() const { return &m_backEnd; }
 
 private:

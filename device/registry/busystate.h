@@ -8,10 +8,11 @@
 #include <functional>
 #include <vector>
 
-/// The list of running work: batches, imports, single requests, searches. Code that starts work adds it here
-/// and removes it at its end; code that starts an action checks refusal() before.
+/// The list of running work: batches, imports, single requests, searches. It only informs: code that starts
+/// work must call begin() and, at its end, end(); code that starts an action must check refusal() and
+/// losesEdits() before.
 ///
-/// Lives on the main thread. QML adds work with BusyReport.
+/// Lives on the main thread; owned by CDeviceFactory. QML adds work with BusyReport.
 class BusyState : public QObject
 {
     Q_OBJECT
@@ -19,10 +20,10 @@ public:
     /// The resource that a work needs until its end.
     enum Need
     {
-        Program, ///< the application must not end
-        Rows,    ///< like Program; the device rows with their addresses and accounts must also stay
-        Listing, ///< a search: the application must not end before the search
-        Edits,   ///< unsaved input: the user is asked before it is lost
+        Program, ///< the application: blocks Close and Restart
+        Rows,    ///< also the device rows with their addresses and accounts: blocks all but ChangeTab
+        Listing, ///< a search: blocks Close and Restart, with a message about the search
+        Edits,   ///< unsaved input: blocks nothing, see losesEdits()
     };
     Q_ENUM(Need)
 
@@ -41,24 +42,26 @@ public:
     /// `isUpgrading` returns whether the firmware of any device is being upgraded; empty for never.
     explicit BusyState(std::function<bool()> isUpgrading, QObject *parent = nullptr);
 
-    /// Adds a work. `title` is its name for the user. Returns its number for end(), never 0.
+    /// Adds a work. `title` is its name for the user. Returns its number for rename() and end(), never 0.
     int begin(const QString &title, Need need);
 
-    /// Changes the title of a work. Does nothing for an unknown number.
+    /// Changes the title of the work with this number. Does nothing for an unknown number. Does not emit
+    /// changed().
     void rename(int work, const QString &title);
 
-    /// Removes a work. Does nothing for an unknown number.
+    /// Removes the work with this number. Does nothing for an unknown number.
     void end(int work);
 
-    /// Whether running work needs the rows.
+    /// Whether a running work has the need Rows.
     [[nodiscard]] bool areRowsInUse() const;
 
-    /// The reason why an action must wait, as a sentence for the user with the titles of the running work;
-    /// empty if the action may start. Running upgrades block Search, Close and Restart. They do not block
-    /// Delete and ChangeAddress: the back end refuses these for the devices concerned.
+    /// The reason why an action must wait, as a sentence for the user with the titles of the work that blocks
+    /// it; empty if the action may start. Running upgrades also block Search, Close and Restart. They do not
+    /// block Delete and ChangeAddress: the back end refuses these for the devices that are being upgraded.
     Q_INVOKABLE [[nodiscard]] QString refusal(BusyState::Action action) const;
 
-    /// Whether the action discards unsaved input, so that the user must be asked first.
+    /// Whether the action discards unsaved input (a work with the need Edits), so that the user must be asked
+    /// first. Only Close, Restart and ChangeTab discard it.
     Q_INVOKABLE [[nodiscard]] bool losesEdits(BusyState::Action action) const;
 
 Q_SIGNALS:

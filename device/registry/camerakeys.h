@@ -6,8 +6,9 @@
 
 #include <array>
 
-/// Keys of getConfigData() and setConfigData(). Those of a group of settings have maps as values, with the
-/// keys of CameraGroupKey and CameraSetting.
+/// Keys of getConfigData() and setConfigData(). A key without a comment is the name of a group of settings.
+/// getConfigData() returns a map for a group, with the keys of CameraGroupKey and CameraSetting.
+/// setConfigData() writes one setting of a group: its sub-key is a key of CameraSetting.
 namespace CameraKey {
 inline constexpr QLatin1StringView picture("picture");
 inline constexpr QLatin1StringView sharpness("sharpness");
@@ -21,17 +22,18 @@ inline constexpr QLatin1StringView inDefog("inDefog");
 inline constexpr QLatin1StringView lightControl("lightControl");
 inline constexpr QLatin1StringView lightControlEx("lightControlEx"); ///< mixed infrared and white light
 
+/// All groups.
 inline constexpr std::array groups = {picture,      sharpness, mirror,  stable,       exposure,      backMode,
                                       whiteBalance, dayNight,  inDefog, lightControl, lightControlEx};
 
-/// List of strings: the modes of curSwitchMode.
+/// List of strings: the modes of curSwitchMode. A camera has separate settings for each mode.
 inline constexpr QLatin1StringView allSwitchMode("allSwitchMode");
 inline constexpr QLatin1StringView curSwitchMode("curSwitchMode");     ///< int: index in allSwitchMode
 inline constexpr QLatin1StringView curDayNightMode("curDayNightMode"); ///< int: an sdk::CameraMode
 /// Int: as sdk::BackLightItem::backMode.
 inline constexpr QLatin1StringView curBackLightMode("curBackLightMode");
 inline constexpr QLatin1StringView curChannelName("curChannelName"); ///< string; null if it was not read
-// Int: single picture settings of the current mode.
+// Int: single picture settings of the current mode. Their ranges are those of the group picture.
 inline constexpr QLatin1StringView curColorStyle("curColorStyle"); ///< 1 to 3; 2 is the standard
 inline constexpr QLatin1StringView curBrightness("curBrightness");
 inline constexpr QLatin1StringView curContrast("curContrast");
@@ -45,16 +47,18 @@ inline constexpr QLatin1StringView setDefault("setDefault");
 namespace CameraGroupKey {
 inline constexpr QLatin1StringView support("support"); ///< bool: the camera has the group, and it was read
 inline constexpr QLatin1StringView unread("unread"); ///< bool: the camera has the group, but it was not read
-/// List of settings that the camera does not have. May be missing.
+/// List of strings: settings (keys of CameraSetting) that the camera does not have. May be missing.
 inline constexpr QLatin1StringView missing("missing");
-inline constexpr QLatin1StringView ranges("ranges"); ///< map by setting: maps of `min` and `max`
-inline constexpr QLatin1StringView min("min");
-inline constexpr QLatin1StringView max("max");
+/// Map: a map of `min` and `max` for each setting that has a range.
+inline constexpr QLatin1StringView ranges("ranges");
+inline constexpr QLatin1StringView min("min"); ///< int, included
+inline constexpr QLatin1StringView max("max"); ///< int, included
 } // namespace CameraGroupKey
 
-/// Settings of the groups, in their maps and as sub-keys of setConfigData(). Lists ("all...") are lists of
-/// strings. A choice is an index in its list, -1 for none. Other settings are int unless stated otherwise;
-/// the key `ranges` of the group has their ranges, as far as they have one.
+/// Settings of the groups, as keys of their maps and as sub-keys of setConfigData(). A key "all..." is a list
+/// of strings, read only: the choices of another setting, which is an index in this list, -1 for none. Other
+/// settings are int unless stated otherwise. Their units are those of the camera unless stated; the map
+/// `ranges` of the group has their ranges, as far as they have one.
 namespace CameraSetting {
 /// The main setting of the groups sharpness (int), mirror and stable (bool), and exposure (index in
 /// allExposureType).

@@ -15,11 +15,11 @@
 
 class P2PPorts;
 
-/// Result of importing a device list file.
+/// Result of importing a device list file. Both are 0 if the list is refused.
 struct ImportSummary
 {
-    int total = 0;    ///< devices in the file
-    int errcount = 0; ///< devices of the file that could not be added
+    int total = 0;    ///< number of devices in the file
+    int errcount = 0; ///< number of those devices that could not be added
 };
 
 /// The back end of one family of devices. It accesses the devices with the family's library. CDeviceFactory
@@ -30,7 +30,13 @@ struct ImportSummary
 /// value, so this class itself is the back end of a family without operations.
 ///
 /// Parameters: `ipport` is the "address:port" of a device, an IPv6 address in brackets. `mac` is the name of
-/// a row: its MAC, or another identity if the device has not reported a MAC, see rowName().
+/// a row: its MAC, or another identity if the device has not reported a MAC, see rowName(). `macs` are such
+/// names. `newip`, `newsubmask` and `newgateway` are dotted IPv4
+/// texts. "Blocks" means: until the device responds or
+/// the timeouts of the network library have passed.
+///
+/// Rows: a row is a JSON object or map with the keys of DeviceRowKey. The current session is the one login
+/// that the back end keeps for the configuration pages.
 class CDeviceBase : public QObject
 {
     Q_OBJECT
@@ -40,10 +46,11 @@ public:
     // The order of the virtual operations is part of the interface, since back ends may be compiled
     // separately. New operations are added at the end.
 
-    /// Removes the rows and searches for devices. Returns immediately; signalCDeviceSearchDone reports the
-    /// end.
+    /// Removes the rows, except those that DeviceStore keeps, and searches for devices. Returns immediately;
+    /// signalCDeviceSearchDone reports the end.
     virtual void startSearch() {}
-    /// The range of the next search only. Addresses in host byte order; 0 for no range.
+    /// Sets the range that the next startSearch() searches; later searches have no range unless it is set
+    /// again. Addresses in host byte order; 0 in either for no range.
     virtual void setSearchByIPInfo(quint32 /*beginip*/, quint32 /*endip*/) {}
     /// The IPv4 rows (JSON objects) that pass a filter of RowFilter, see filteredRows().
     virtual QVariantList filterData(const QString & /*filtertype*/, const QString & /*searchtext*/)
@@ -55,88 +62,103 @@ public:
     {
         return {};
     }
-    /// Changes the address of a found device; the texts are ignored with `dhcpON`. Blocks. The result is in
-    /// "res" of the row.
+    /// Changes the address of the device of an IPv4 row; the texts are ignored with `dhcpON`. Blocks. The
+    /// LoginResult is written to "res" of the row. Once the request was sent, the row shows the new address
+    /// (an empty one with `dhcpON`), also after a failure; "unconfirmed" is true then.
     virtual void modifyIP(const QString & /*mac*/, const QString & /*newip*/, const QString & /*newsubmask*/,
                           const QString & /*newgateway*/, bool /*dhcpON*/)
     {
     }
-    /// The account of devices that have no other one, see AccountChoice.
+    /// Sets the account for logins to devices without an account in their row and without a stored one, see
+    /// AccountChoice.
     virtual void setDefaultAccount(const QString & /*account*/, const QString & /*password*/) {}
-    /// Initialises a found device: creates its first account. Blocks. The result is in "res" of the row.
+    /// Initialises the device of an IPv4 row: creates its first account. Blocks. The LoginResult is written
+    /// to "res" of the row.
     virtual void setInitAccount(const QString & /*mac*/, const QString & /*account*/,
                                 const QString & /*password*/)
     {
     }
-    /// Removes a row; "IPV6" as the last argument means the IPv6 list, any other text the IPv4 list. The row
-    /// of a device that is being upgraded stays.
+    /// Removes a row from the list; nothing is sent to the device. "IPV6" as the last argument means the IPv6
+    /// list, any other text the IPv4 list. The row of a device that is being upgraded stays.
     virtual void setDeleteDevice(const QString & /*mac*/, const QString & /*ipvision*/) {}
-    /// The same for the rows whose names are the keys of `macs`.
+    /// The same for the rows whose names are the keys of `macs`; its values are ignored.
     virtual void setBatchDeleteDevice(const QVariantMap & /*macs*/, const QString & /*ipversion*/) {}
     /// The IPv4 row at an address, with its password; empty if there is none.
     virtual QVariantMap getDeviceInfo(const QString & /*ipport*/) { return {}; }
-    /// The row of either list without its password, and keys of DeviceDetailKey from its search record; empty
-    /// if there is no row.
+    /// The row of either list without its password, with keys of DeviceDetailKey from its search record
+    /// added. Nothing is sent to the device. Empty if there is no row.
     virtual QVariantMap getDeviceDetail(const QString & /*mac*/) { return {}; }
     /// The same for the IPv4 row at an address.
     virtual QVariantMap getDeviceDetailByAddress(const QString & /*ipport*/) { return {}; }
-    /// Logs in to a device and adds or replaces its row. Blocks. Returns a LoginResult. `loginType` is 0 by
-    /// address or 1 by P2P ID, which is then in `address`; `port` is then the local port of the tunnel and
-    /// `devicePort` the port of the device.
+    /// Logs in to a device, adds or replaces its row on success, and logs out. Blocks. Returns a LoginResult.
+    /// `loginType` is 0 for a device at `address` and `port`; `devicePort` is ignored then. It is 1 for a
+    /// device behind NAT: `address` is its P2P ID, `port` the local port of the tunnel, `devicePort` the
+    /// service port of the device itself.
     virtual int getLoginDevice(const QString & /*address*/, const QString & /*account*/,
                                const QString & /*password*/, const QString & /*port*/, int /*loginType*/,
                                const QString & /*devicePort*/)
     {
         return {};
     }
-    /// Sets the firmware file of a row: a path or "file:///" URL.
+    /// Sets the firmware file of a row: a path or "file:///" URL, empty to remove the file. Nothing is sent.
+    /// "upgraderes" of the row is then the reason why the file cannot be used, or UpgradeTools::None. Does
+    /// nothing while the device is being upgraded.
     virtual void setUpgradeFilePath(const QString & /*mac*/, const QString & /*path*/) {}
-    /// Upgrades the devices of these rows with their files. Returns immediately; see
-    /// signalCDeviceUpdateSchedule.
+    /// Upgrades the devices of these rows with their files. Returns immediately. The rows show progress and
+    /// result; signalCDeviceUpdateSchedule and signalCDeviceShowUpgradeFinishTip report them.
     virtual void startUpgrade(const QStringList & /*macs*/) {}
-    /// Upgrades the devices in these upgrade documents. Reads the files, then returns.
+    /// Upgrades the devices in these upgrade documents (workbooks with devices and firmware files). Blocks
+    /// while it reads the documents, then returns. The results are written to the documents at the end, which
+    /// signalCDeviceUpdateScheduleUpgradeByDocument reports.
     virtual void startUpgradeByDocument(const QStringList & /*paths*/) {}
-    /// Requests a stop of an upgrade. Ignored while the device writes the firmware.
+    /// Requests a stop of the upgrade of a row. Ignored while the device writes the firmware.
     virtual void stopUpgrade(const QString & /*mac*/) {}
-    /// A map for each line of the document, with the keys of ListLineKey. importError() returns why a
-    /// document is refused.
+    /// Reads an upgrade document without starting upgrades. Returns a map for each line, with the keys of
+    /// ListLineKey. Empty for a document that is refused; importError() returns the reason then.
     virtual QVariantList importUpgradeDocument(const QString & /*file*/) { return {}; }
-    /// Logs in for the current session. Blocks. Returns a LoginResult and emits
-    /// signalCDeviceHighLevelLoginRet with it. The earlier session is kept after a failure.
+    /// Logs in to the device for the current session, which it replaces on success. Blocks. Returns a
+    /// LoginResult and emits signalCDeviceHighLevelLoginRet with it. The earlier session is kept after a
+    /// failure.
     virtual int findAndLoginDevice(const QString & /*ipport*/, const QString & /*account*/,
                                    const QString & /*password*/)
     {
         return {};
     }
-    /// Sets a value of the row `mac` or, if there is none, of the first row at `ipport`. Returns whether
-    /// there is such a row. For the key "name", which several pages show, emits
-    /// signalCDeviceAddSingleDeviceToTable later.
+    /// Sets the value of `key` (see DeviceRowKey) in the row `mac` of either list or, if there is none, in
+    /// the first row at `ipport`. Nothing is sent to the device. Returns whether there is such a row. For the
+    /// key "name", which several pages show, emits signalCDeviceAddSingleDeviceToTable later; for other keys
+    /// no signal.
     virtual bool updataDeviceInfo(const QString & /*key*/, const QVariant & /*newValue*/,
                                   const QString & /*mac*/, const QString & /*ipport*/)
     {
         return {};
     }
 
-    // Operations on the current session. They block for its device. signalCDeviceGetDeviceCapRet reports
+    // Operations on the current session. The pages read with them into the session's state and get the values
+    // by getConfigData(). They block for the device of the session. signalCDeviceGetDeviceCapRet reports
     // failures, and the results of getEncodeCaps() and getEncodeInfo().
 
-    /// Reads the capabilities of the camera of the image page; getVideoIn() reads its settings.
+    /// Reads the capabilities of the camera of the image page. getVideoIn() reads its settings.
     virtual void getCameraConfig() {}
     /// Reads the choices and the values of the encode page, and the colours of its channel.
     virtual void getEncodeCaps() {}
-    /// A value by its key in SessionKey, EncodeKey or CameraKey; invalid if it is unknown. `channel` (from 0)
-    /// is for the names of channels.
+    /// The value of a key of SessionKey, EncodeKey or CameraKey in the session's state; invalid if the key is
+    /// unknown or the value was not read. `channel` (from 0) is used for the names of channels only. Only
+    /// SessionKey::connectedChannels sends a request, and blocks.
     virtual QVariant getConfigData(const QString & /*key*/, const QVariant & /*channel*/) { return {}; }
-    /// Sets a value. Values of the image page, names and EncodeKey::subCurResolution are written to the
-    /// device immediately, other encode values by confirmConfigData(). `otype` is the setting of an image
-    /// group, or the channel (from 0) of a name.
+    /// Sets a value. Values of the image page, names of channels and EncodeKey::subCurResolution are written
+    /// to the device immediately. Other encode values are only stored, until confirmConfigData(). The
+    /// selected channels and stream type are not sent. `otype` is the setting of an image group, or the
+    /// channel (from 0) of a name; otherwise it is ignored.
     virtual void setConfigData(const QString & /*key*/, const QVariant & /*value*/, const QString & /*otype*/)
     {
     }
-    /// A list of values, one for each channel: SessionKey::channelNames or SessionKey::channelsConnected. It
-    /// covers the first `channelNum` channels, all of them for 0 or less.
+    /// Reads a value of each channel from the device: SessionKey::channelNames or
+    /// SessionKey::channelsConnected. The list covers the first `channelNum` channels, all of them for 0 or
+    /// less.
     virtual QVariantList getDeviceChannelData(const QString & /*key*/, int /*channelNum*/) { return {}; }
-    /// Writes the changed encode values; signalCDeviceConfirmEncodeConfig reports the result.
+    /// Writes the encode values of the selected channel to the device; signalCDeviceConfirmEncodeConfig
+    /// reports which values the device has refused.
     virtual void confirmConfigData() {}
     /// Reads the image settings of the selected channel; emits signalCDeviceChangeVideoType.
     virtual void getVideoIn() {}
@@ -156,19 +178,25 @@ public:
                               const QStringList & /*ipports*/)
     {
     }
-    /// Takes snapshots in the current session into "<address>" in the folder of snapshots. `kind` is
-    /// "liveCapture" for all channels or "againCapture" for `channelNum` (from 0). Returns immediately.
+    /// Takes snapshots in the current session into the folder `address` in the folder of snapshots. `kind` is
+    /// "liveCapture" for all channels (`channelNum` is ignored) or "againCapture" for the channel
+    /// `channelNum` (from 0). Returns immediately; signalSnapPictureToFile or signalSnapPictureToFileAgain
+    /// reports each snapshot.
     virtual void snapPictureToFile(const QString & /*kind*/, const QVariant & /*channelNum*/,
                                    const QString & /*address*/)
     {
     }
+    /// Whether the firmware of any device is being upgraded, or the results of a document are not written
+    /// yet.
     virtual bool hasDeviceUpgrading() { return {}; }
 
-    /// Logs in to the devices of a list file and adds their rows. Blocks. Returns false if the list is
-    /// refused, see importError().
+    /// Logs in to the devices of a list file (a path or "file:///" URL) and adds their rows. Blocks for all
+    /// devices. Returns false if the complete list is refused, see importError(). Devices that could not be
+    /// added are in importFailures() and are no reason for false.
     virtual bool importDevice(const QString & /*path*/, ImportSummary & /*summary*/) { return {}; }
-    /// Writes the rows to a list file; the suffix of the name selects the format. `folder` is a path or
-    /// "file:///" URL. Returns false if no row exists or the file cannot be written.
+    /// Writes the IPv4 rows of these names to a list file, replacing an existing one; the suffix of
+    /// `fileName` selects the format. `folder` is a path or "file:///" URL. Names without a row are left out.
+    /// Returns false if no device is left or the file cannot be written.
     virtual bool exportDevice(const QString & /*folder*/, const QStringList & /*macs*/,
                               const QString & /*fileName*/)
     {
@@ -180,8 +208,8 @@ public:
     /// The lines of the last imported list whose devices could not be added, in the order of the file: maps
     /// with the keys of ListLineKey, see importFailure().
     virtual QVariantList importFailures() { return {}; }
-    /// The reason why the last list or document was refused completely, in the user's language; otherwise
-    /// empty.
+    /// The reason why the last importDevice() or importUpgradeDocument() was refused completely, in the
+    /// user's language; empty if it was not.
     virtual QString importError() { return {}; }
 
     /// Logs in to the device and out again, and returns a LoginResult. The current session is not affected.
@@ -193,61 +221,69 @@ public:
     }
 
     /// Logs in to the device with the account of accountOf(), reads all its properties and logs out. Blocks.
-    /// Contains "loginResult" (a LoginResult) and, as far as the device has responded, keys of
+    /// The map contains "loginResult" (a LoginResult) and, as far as the device has responded, other keys of
     /// DeviceDetailKey, "mac", "model" and "vision".
     virtual QVariantMap readDeviceDetail(const QString & /*ipport*/) { return {}; }
 
-    /// Called by the destructor of the factory. Ends the threads that call the factory.
+    /// Called by the destructor of the factory. Ends running upgrades and batches and waits for the threads
+    /// that call the factory.
     virtual void factoryEnds() {}
 
-    /// Results of the documents of the last startUpgradeByDocument() or upgradeDocumentSteps(), one line for
-    /// each document, in the user's language. Empty while they are running.
+    // "The latest documents" are those of the last startUpgradeByDocument() or upgradeDocumentSteps().
+
+    /// Results of the latest documents, one line for each document, in the user's language. Empty while their
+    /// upgrades are running.
     virtual QString upgradeDocumentResult() { return {}; }
 
-    /// Progress of these documents, a map with the keys of ProgressKey: numbers of lines.
+    /// Progress of the latest documents, a map with the keys of ProgressKey: numbers of lines.
     virtual QVariantMap upgradeDocumentProgress() { return {}; }
 
-    /// Keeps the current session if it is with the device and the device responds in it, otherwise logs in,
-    /// which is reported as by findAndLoginDevice(). Returns immediately; signalCDeviceSessionOpened reports
-    /// the end, unless another login is requested before. With `readsChannels`, the channels of a kept
-    /// session are read as well. A login that the device has refused in its session is repeated only with
-    /// `isGivenNow`: the user has just entered it.
+    /// Makes the current session one with this device. A session with this device is kept if the device
+    /// responds in it. Otherwise logs in, which signalCDeviceHighLevelLoginRet reports as well; the earlier
+    /// session is kept after a failure. Returns immediately; signalCDeviceSessionOpened reports the end,
+    /// unless openSession() or stopOpeningSession() is called before, or another page logs in to another
+    /// device. `readsChannels`: the channels are also read if the session is kept. `isGivenNow`: the user has
+    /// just entered the account. Without it, an account that the device no longer accepts in the session is
+    /// not tried again in a new login.
     virtual void openSession(const QString & /*ipport*/, const QString & /*account*/,
                              const QString & /*password*/, bool /*readsChannels*/, bool /*isGivenNow*/)
     {
     }
-    /// Cancels openSession(). No signal reports its end.
+    /// Cancels openSession(). No signal reports its end; the current session is kept.
     virtual void stopOpeningSession() {}
     /// Checks whether the device responds in the current session. Returns immediately;
     /// signalCDeviceSessionChecked reports the result.
     virtual void checkSession() {}
 
-    /// The number of upgraded devices of the documents that are finished.
+    /// The number of devices that the latest documents have upgraded, as far as the documents are finished.
     virtual int upgradeDocumentSuccesses() { return {}; }
 
-    /// The names of the rows, of both lists, whose upgrade failed in a way that may succeed later.
+    /// The names of the rows, of both lists, whose last upgrade failed in a way that a repetition may
+    /// succeed.
     virtual QStringList upgradesToRetry() { return {}; }
 
-    /// The strings of the last exported list that change when its file is read: maps with the keys of
-    /// ExportFaultKey.
+    /// The strings of the last exported list that its file format cannot keep, so that they differ when the
+    /// file is read again: maps with the keys of ExportFaultKey.
     virtual QVariantList exportFaults() { return {}; }
 
     /// Whether the current session is with the device at this "address:port", also when its row was removed.
     virtual bool isInSession(const QString & /*ipport*/) { return {}; }
 
-    /// Queries the devices of these IPv4 rows again. Returns immediately; signalCDeviceAddSingleDeviceToTable
-    /// reports changed rows.
+    /// Queries the devices of these IPv4 rows again, see DeviceRefresh::start(). Returns immediately;
+    /// signalCDeviceAddSingleDeviceToTable reports changed rows. The end is not reported.
     virtual void refreshDevices(const QStringList & /*macs*/) {}
 
-    /// Ends the running search and keeps its rows. signalCDeviceSearchDone reports the end.
+    /// Ends the running search and keeps its rows. Returns immediately; signalCDeviceSearchDone reports the
+    /// end.
     virtual void stopSearch() {}
 
-    // Steps: the work of an operation with one device, for any thread. They are created on the main thread
-    // and may run until the back end is destroyed. The default returns LoginResult::NotSupported.
+    // Steps: the work of an operation with one device, as a function for any thread except the main thread. A
+    // comment "For x()" means: the step does the work of x() with one device, and its outcome is the result
+    // of x(). Steps are created on the main thread and may run until the back end is destroyed. The step of a
+    // family without the operation returns LoginResult::NotSupported.
 
-    /// For systemConfig(). With "timeOfRequest" in `data`, "time" is the time of the request of this device.
-    /// The command "readTime" reads the device's clock: the text of the outcome is its time, compared with
-    /// the host's.
+    /// For systemConfig(), `command` and `data` as there. In addition, the command "readTime" reads the
+    /// device's clock: the text of the outcome is its time, compared with the host's.
     virtual DeviceStep systemStep(const QString &command, const QVariantMap &data, const QString &ipport);
     /// For setInitAccount().
     virtual DeviceStep initialisationStep(const QString &mac, const QString &account,
@@ -259,46 +295,49 @@ public:
     /// text of the outcome lists the values that the device does not take.
     virtual DeviceStepMaker encodeCopy();
     /// For snapPictureToFile() with "liveCapture": a step for each channel of the current session, in their
-    /// order. Each emits signalSnapPictureToFile on its thread, unless it is ended early. Empty without a
-    /// session.
+    /// order. Each step emits signalSnapPictureToFile on its thread, unless it is ended early. Empty without
+    /// a session.
     virtual QList<DeviceStep> snapshotSteps(const QString & /*address*/) { return {}; }
-    /// Logs in to a device and adds its row, as getLoginDevice() does. Opens and closes the local ports of a
-    /// device behind NAT. For other devices: LoginResult::AlreadyListed if a row has this address and port.
+    /// For getLoginDevice(). Opens the local ports of a device behind NAT itself, and closes them after a
+    /// failure. For a device that is not behind NAT, the result is LoginResult::AlreadyListed, without a
+    /// request, if a row has this address and port.
     virtual DeviceStep addingStep(const DeviceToAdd &device);
 
-    /// Reads a device list for importDevice(). Any thread; blocks it while reading the file. `path` is a path
-    /// or "file:///" URL.
+    /// Reads a device list and returns the steps of importDevice(), without running them. Any thread; blocks
+    /// it while reading the file. `path` is a path or "file:///" URL.
     virtual ImportPlan importPlan(const QString & /*path*/) { return {}; }
 
     /// The row of a device, of either list; empty if there is none. The default converts getDeviceDetail().
     virtual QJsonObject deviceRow(const QString &name);
 
-    /// For refreshDevices(), with one query at the addresses of the rows, before devices are searched by
-    /// their MACs. Blocks up to 6 s for up to 4096 devices. The outcome is always a success.
+    /// For refreshDevices(), but in the step itself, see DeviceRefresh::locate(). Blocks for about 6 s for up
+    /// to 4096 devices. The outcome is a success, also if no device responds.
     virtual DeviceStep locationStep(const QStringList &macs);
 
     // Steps of pages. They are created on the main thread.
 
-    /// For findAndLoginDevice(). The value of the outcome is its result.
+    /// For findAndLoginDevice(). The value of the outcome is its result, a LoginResult.
     virtual PageStep loginStep(const QString &ipport, const QString &account, const QString &password);
     /// For operations in the session that is current when the step is created. The outcome is discarded if
     /// another session is current when it is taken. Values that are set on the main thread while the step
     /// runs are lost: the page blocks its input.
     virtual PageStep sessionStep(const SessionJob &job);
-    /// For readDeviceDetail(). The value of the outcome is its result.
+    /// For readDeviceDetail(). The value of the outcome is its map. Taking the outcome also writes the MAC of
+    /// the device to its row.
     virtual PageStep detailStep(const QString &ipport);
 
     /// Runs a step on a thread of the back end and returns immediately. `ended` is called on the main thread
-    /// with the outcome, unless `stop` was requested before: the step then runs to its next safe point and
-    /// its outcome is dropped. The default runs the step in the call.
+    /// with the outcome, and must take it. If `stop` is requested before, `ended` is not called: the step
+    /// runs to its next safe point, and its outcome is dropped. A family without operations runs the step,
+    /// and calls `ended`, in this call.
     virtual void runForPage(const PageStep &step, const std::stop_token &stop,
                             const std::function<void(const PageOutcome &outcome)> &ended);
 
     // Upgrades.
 
-    /// For startUpgrade(). The row shows immediately that it is waiting, and later the progress. It shows a
-    /// stopped upgrade after stopUpgrade() and when the step is destroyed without having run. The result is
-    /// that of UpgradeTools::batchResult().
+    /// For startUpgrade(). "upgraderes" of the row is UpgradeTools::Waiting from this call on and later shows
+    /// the progress. It becomes UpgradeTools::Stopped after stopUpgrade() and when the step is destroyed
+    /// without having run. The result of the outcome is that of UpgradeTools::batchResult().
     virtual DeviceStep upgradeStep(const QString &mac);
     /// For importUpgradeDocument(). The value is a map of "refusal", the reason why the document cannot be
     /// used in the user's language, and "lines", the result of importUpgradeDocument() with the row of each
@@ -312,8 +351,8 @@ public:
     {
         return {};
     }
-    /// upgradeStep() for a device whose line of a document was upgraded before. The result is also written to
-    /// the file, when the other repeated lines are done.
+    /// upgradeStep() for a device whose upgrade from a document line has failed. The result is also written
+    /// to the document, when all repeated lines are done.
     virtual DeviceStep repeatedDocumentStep(const QString &mac);
     /// The plan of upgradeStep() for each of these rows, from the rows and their files.
     virtual QList<PlannedUpgrade> plannedUpgrades(const QStringList &macs);
@@ -323,21 +362,22 @@ public:
     virtual QList<int> setUpgradeFiles(const QStringList &macs, const QString &path);
     /// The names of the rows that upgrades have changed since the last call of this function.
     virtual QStringList takeChangedUpgrades() { return {}; }
-    /// The account that is used for a login to the device, see AccountChoice: a map with the keys of
-    /// AccountKey. `name` is the name of a row, or its address and port.
+    /// The account that a login to the device would use now, see AccountChoice: a map with the keys of
+    /// AccountKey. `name` is the name of a row, or its address and port. Without a row: the default account.
     virtual QVariantMap accountOf(const QString & /*name*/) { return {}; }
 
     /// Logs in to a device with the account of accountOf(), takes images of its channels one after another,
-    /// and logs out. The current session is not affected.
+    /// and logs out. The current session is not affected. The outcome is a failure only if no image was
+    /// taken; otherwise its text states how many are missing.
     virtual DeviceStep imageStep(const ImageOrder &order);
     /// Logs in to a device in a separate session, for live video. Steps for several devices may run at the
     /// same time.
     virtual OwnSessionStep ownSessionStep(const OwnSessionOrder &order);
     /// Sets the account of all following devices. It replaces the default account until setDefaultAccount()
-    /// sets another one.
+    /// sets a different one.
     virtual void setFollowingAccount(const QString & /*account*/, const QString & /*password*/) {}
 
-    /// checkLogin() as a function for any thread, until the back end is destroyed.
+    /// checkLogin() as a function for any thread. It must not be called after the back end is destroyed.
     using LoginCheck =
         std::function<int(const QString &ipport, const QString &account, const QString &password)>;
     [[nodiscard]] LoginCheck loginCheck();
@@ -357,9 +397,9 @@ Q_SIGNALS:
     void signalCDeviceUpdateScheduleUpgradeByDocument(const QString &filename, int value);
     /// All upgrades have finished, and the results of documents are written.
     void signalCDeviceShowUpgradeFinishTip();
-    /// `result` is a LoginResult or another code of resultName().
+    /// The result of a device of copyConfigToDevice(): a LoginResult or another code of resultName().
     void signalCDeviceRetToCopyConfig(const QString &ipport, int result);
-    /// The same. The command "loginCheck" reports -1 if the password is correct.
+    /// The same for systemConfig(). The command "loginCheck" reports -1 if the password is correct.
     void signalCDeviceRetToSystemConfig(const QString &ipport, int result);
     /// The command "loginCheck" has succeeded for at least one device: a new password can be set.
     void signalCDeviceSystemConfigEnablePassword();
@@ -380,19 +420,21 @@ Q_SIGNALS:
     void signalSnapPictureToFile(int channel, const QString &path, const QString &message);
     /// The same for a snapshot of the kind "againCapture".
     void signalSnapPictureToFileAgain(int channel, const QString &path, const QString &message);
-    /// The tunnel behind a local port is broken. An empty `deviceId`: those of all devices.
+    /// The tunnel behind a local port to the device with this P2P ID is broken. If `deviceId` is empty, the
+    /// tunnels of all devices are broken, and `localPort` has no meaning.
     void signalCDeviceTunnelBroken(const QString &deviceId, int localPort);
     void signalCDeviceImportProgress(int done, int total); ///< numbers of devices of the list
-    /// `result` is a LoginResult. `channels` are maps with the keys of ChannelKey; empty when they were not
-    /// read.
+    /// openSession() has ended. `result` is a LoginResult. `channels` are maps with the keys of ChannelKey;
+    /// empty when they were not read.
     void signalCDeviceSessionOpened(const QString &ipport, int result, const QVariantList &channels);
-    void signalCDeviceSessionChecked(bool responses); ///< also false without a session
+    /// The result of checkSession(): the device responds. False without a session.
+    void signalCDeviceSessionChecked(bool responses);
     /// A finished search found more devices than it lists: `rows` are listed, `leftOut` responses are not.
     void signalCDeviceSearchLimited(int rows, int leftOut);
     void signalCDeviceSearchProgress(int percent); ///< of the running search, 0 to 100
 
 protected:
-    /// Null for none. Any thread.
+    /// The local ports of setP2PPorts(); null before it and at the end of the factory. Any thread.
     [[nodiscard]] const std::shared_ptr<P2PPorts> &p2pPorts() const { return m_p2pPorts; }
 
 private:

@@ -6,22 +6,24 @@
 #include <QString>
 #include <QVariantMap>
 
-/// A line of the detail, in the user's language.
+/// A property of a device, in the user's language.
 struct DeviceDetailLine
 {
-    QString group;
+    QString group; ///< name of its group, such as "network"
     QString label;
     QString value;
 
+    /// "label: value"
     [[nodiscard]] QString text() const { return label + QLatin1String(": ") + value; }
 };
 
+/// Makes the lines of a device's properties, for a dialog and the clipboard. Stateless.
 class DeviceDetail
 {
     Q_DECLARE_TR_FUNCTIONS(DeviceDetail)
 public:
-    /// The lines of the maps of CDeviceFactory::getDeviceDetail() and readDeviceDetail() together, in groups.
-    /// Unknown values and passwords have no line.
+    /// The lines of a map with the values of CDeviceFactory::getDeviceDetail(), of readDeviceDetail(), or of
+    /// both. The lines of a group follow each other. Unknown values and passwords have no line.
     [[nodiscard]] static QList<DeviceDetailLine> linesOf(const QVariantMap &detail);
 
     /// The lines as one string: for each group a line with its name, then its lines. An empty line separates

@@ -12,8 +12,8 @@
 
 /// QML's access to devices. It owns one back end for each device family, forwards each operation to the back
 /// end of the family in the first argument, and forwards the signals of the back ends under its own names.
-/// See CDeviceBase for the operations. For an unknown family, an operation does nothing and returns an empty
-/// value.
+/// An operation or signal without a comment is the one of CDeviceBase with the same name; its comment is
+/// there. For an unknown family, an operation does nothing and returns an empty value.
 ///
 /// Thread: operations are called on the main thread unless stated otherwise. Signals are emitted there,
 /// queued if a back end emits them on another thread.
@@ -45,11 +45,14 @@ public:
     /// Deletes the process-wide factory with its back ends and clears the registered families.
     static void deleteInstance();
 
-    /// Starts the port agent with the settings of ApplicationFolders::portAgentSettings().
+    /// Creates the back ends, and starts the port agent with the settings of
+    /// ApplicationFolders::portAgentSettings().
     CDeviceFactory(const BackEndCreators &creators, const P2PAgent &agent);
 
     /// A factory without a port agent.
     explicit CDeviceFactory(const BackEndCreators &creators);
+
+    /// Calls CDeviceBase::factoryEnds() of each back end, which may block.
     ~CDeviceFactory() override;
 
     /// The running work with devices. Owned by the factory.
@@ -65,7 +68,8 @@ public:
 
     // NOLINTBEGIN(readability-make-member-function-const): the operations change devices and the back end.
 
-    /// Does nothing but emit signalSearchDone while running work needs the rows.
+    /// CDeviceBase::startSearch(). While running work needs the rows (BusyState::areRowsInUse()), no search
+    /// is started and the rows stay; signalSearchDone is emitted in this call.
     Q_INVOKABLE void startSearch(const QString &family);
     Q_INVOKABLE void setSearchByIPInfo(const QString &family, quint32 beginip, quint32 endip)
     {
@@ -104,12 +108,16 @@ public:
     {
         return backEnd(family)->accountOf(name);
     }
-    /// Returns the local port for `port` of the device behind NAT, 0 on failure. A `p2pPort` other than 0
-    /// must be equal to `port`, see P2PPorts::portFor(). The account is not used. Blocks.
+    /// Opens a tunnel to a device behind NAT. No row is added. Returns the local port for `port` of the
+    /// device with this P2P ID, 0 on failure. A `p2pPort` other than 0 must be equal to `port`, see
+    /// P2PPorts::portFor(). Account and password are not used. Blocks until the port agent responds.
     Q_INVOKABLE int setAddDevice(const QString &family, const QString &deviceId, const QString &account,
                                  const QString &password, const QString &port, int p2pPort);
-    /// Sets "devp2pPort" of a row.
+    /// Sets "devp2pPort" of a row. Does nothing if there is no such row.
     Q_INVOKABLE void setPluginPort(const QString &family, const QString &mac, int devp2pPort);
+
+    // These two also release the local ports of deleted devices behind NAT, except the port of the current
+    // session.
     Q_INVOKABLE void setDeleteDevice(const QString &family, const QString &mac, const QString &ipvision);
     Q_INVOKABLE void setBatchDeleteDevice(const QString &family, const QVariantMap &macs,
                                           const QString &ipversion);
@@ -118,14 +126,15 @@ public:
     {
         return backEnd(family)->getDeviceDetail(mac);
     }
-    /// The detail in the user's language, as lines "label: value" in groups.
+    /// getDeviceDetail() as text in the user's language, see DeviceDetail::textOf().
     Q_INVOKABLE QString getDeviceDetailString(const QString &family, const QString &mac);
     Q_INVOKABLE QVariantMap getDeviceInfo(const QString &family, const QString &ipport)
     {
         return backEnd(family)->getDeviceInfo(ipport);
     }
-    /// Sets the properties "total" and "errcount" of `msg` (see ImportSummary), or calls it with both if it
-    /// is a function.
+    /// CDeviceBase::importDevice(). The summary (see ImportSummary) is returned in `msg`: its properties
+    /// "total" and "errcount" are set, or, if `msg` is a function, it is called with the two numbers in this
+    /// order.
     Q_INVOKABLE bool importDevice(const QString &family, const QString &path, QJSValue msg);
     Q_INVOKABLE bool exportDevice(const QString &family, const QString &folder, const QStringList &macs,
                                   const QString &fileName)
@@ -135,7 +144,7 @@ public:
     Q_INVOKABLE int getLoginDevice(const QString &family, const QString &address, const QString &account,
                                    const QString &password, const QString &port, int loginType = 0,
                                    const QString &devp2pPort = QString());
-    /// The passwordStrength(), 0 to 3.
+    /// passwordStrength() of the password, 0 to 3.
     Q_INVOKABLE int getPassWordType(const QString &password);
     Q_INVOKABLE void setUpgradeFilePath(const QString &family, const QString &mac, const QString &path)
     {
@@ -204,11 +213,13 @@ public:
     {
         backEnd(family)->systemConfig(command, data, ipports);
     }
-    /// Registers the local login port and the local web port (0 for none) of a device behind NAT.
+    /// Registers the local login port and the local web port (0 for none) of a device behind NAT, see
+    /// P2PPorts::pair().
     Q_INVOKABLE void addP2PPort(int p2pPort, int webPort);
     /// The local web port of a local login port, 0 for none.
     Q_INVOKABLE int getP2PWebPort(int port);
-    /// The days of a month (1 to 12) of this year, as numbers from 1. Empty for other months.
+    /// The days of a month (1 to 12) of the current year, as a list of numbers from 1. Empty for other
+    /// months.
     Q_INVOKABLE QVariantList getDays(int month);
     /// Whether a device of any family is being upgraded.
     Q_INVOKABLE bool hasDeviceUpgrading();
@@ -221,11 +232,11 @@ public:
     Q_INVOKABLE void startSnap(const QString &family, const QVariant &channelNum, const QString &address);
     /// Asks the application to leave its event loop with exit code 0.
     Q_INVOKABLE void exitProgram();
-    /// Releases the local ports of a device by its login port; those of the current session's device when the
-    /// session ends.
+    /// Releases the local login port `p2pPort` of a device and its web port. If the current session uses the
+    /// port, the ports are released when the session is replaced.
     Q_INVOKABLE void releaseP2PPort(int p2pPort);
-    /// The reason why setAddDevice() fails for every device, in the user's language: a wrong setting, or a
-    /// port agent that did not start. Otherwise empty.
+    /// The reason why setAddDevice() fails for every device, in the user's language, see
+    /// P2PPorts::faultText(). Otherwise empty.
     Q_INVOKABLE QString p2pFault();
     Q_INVOKABLE QVariantList exportFaults(const QString &family) { return backEnd(family)->exportFaults(); }
     Q_INVOKABLE QVariantList importFailures(const QString &family)
@@ -271,11 +282,11 @@ public:
 
     Q_INVOKABLE void stopSearch(const QString &family) { backEnd(family)->stopSearch(); }
 
-    /// Releases the local ports of devices that are no longer listed, except those of a current session. Must
-    /// be called after steps have replaced rows.
+    /// Releases the registered local ports of devices that are no longer listed, except those of a current
+    /// session. Must be called on the main thread after steps have added or replaced rows.
     void releaseUnneededP2PPorts();
 
-    /// Any thread; blocks it.
+    /// CDeviceBase::checkLogin(). Any thread; blocks it.
     int checkLogin(const QString &family, const QString &ipport, const QString &account,
                    const QString &password)
     {

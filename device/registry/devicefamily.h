@@ -2,5 +2,6 @@
 
 #include <QString>
 
-/// The family of all devices in the window: the first argument of the factory's operations.
+/// The name of the only device family that the window uses: the first argument of the operations of
+/// CDeviceFactory.
 inline const QString dhFamily = QStringLiteral("dh");

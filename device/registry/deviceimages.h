@@ -6,21 +6,24 @@
 
 #include <functional>
 
-/// The images to take of a device. The functions are called on the thread of the step. They may be empty.
+/// The images to take of a device with CDeviceBase::imageStep(). The step calls the functions on its thread.
+/// Both may be empty.
 struct ImageOrder
 {
-    /// Maximum number of channels of a device.
+    /// Maximum number of channels of a device of which images are taken.
     static constexpr int maximumChannels = 16;
 
     QString ipport;       ///< "address:port" of the device
-    QString folder;       ///< absolute, for the files "<channel>.jpg"; created if missing
-    int onlyChannel = -1; ///< from 0; negative for all channels up to maximumChannels
+    QString folder;       ///< absolute path, for the files "<channel>.jpg"; created if missing
+    int onlyChannel = -1; ///< the only channel, from 0; negative: the first maximumChannels channels
 
-    /// Called before the first image with the channels, maps with the keys of ChannelKey, and with the number
-    /// of channels of the device. Not called for a single channel.
+    /// Called before the first image. `channels` are the channels of which images are taken, maps with the
+    /// keys of ChannelKey; `channelCount` is the number of all channels of the device. Not called with
+    /// `onlyChannel`.
     std::function<void(const QVariantList &channels, int channelCount)> found = {};
 
-    /// Called after each image, with the channel (from 0). `path` of the file is empty on failure; `message`
-    /// is the reason then, in the user's language. Not called for an image that is cancelled.
+    /// Called after each image, with the channel (from 0) and the path of the file. `path` is empty on
+    /// failure; `message` is the reason then, in the user's language. Not called for an image whose request
+    /// was stopped.
     std::function<void(int channel, const QString &path, const QString &message)> taken = {};
 };

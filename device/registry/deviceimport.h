@@ -11,42 +11,47 @@
 /// A device to log in to.
 struct DeviceToAdd
 {
-    QString address; ///< IPv4 address or host name, or the P2P ID
-    int port = 0;    ///< of the device itself; behind NAT it is not the local port of the port agent
+    QString address; ///< IPv4 address or host name, or the P2P ID if `p2p`
+    int port = 0;    ///< service port of the device itself, not the local port of the port agent
     QString account;
     QString password;
-    bool p2p = false;
+    bool p2p = false; ///< the device is behind NAT and is reached through the port agent
 };
 
-/// Reads a map of QML with the keys of DeviceToAddKey. A missing value is empty or 0.
+/// Converts a map of QML with the keys of DeviceToAddKey. A missing value is empty, 0 or false.
 [[nodiscard]] DeviceToAdd deviceToAdd(const QVariantMap &values);
 
-/// A line of a device list, for the user.
+/// Names a line of a device list to the user.
 struct ImportPosition
 {
     int number = 0;  ///< line number in the file, from 1
-    QString address; ///< of the line, truncated
+    QString address; ///< the text of the line's address, truncated if it is long
 };
 
 /// A line of a device list, with the step that adds its device.
 struct ImportLine
 {
     ImportPosition position;
-    QString device; ///< name of the row of the device, or its address and port; equal for the same device
-    QString title;  ///< name and model in the line
-    QString login;  ///< equal for lines with the same account
+    /// Name of the row of the device, or its address and port without a row. Lines with the same device have
+    /// the same text.
+    QString device;
+    QString title; ///< name and model in the line, as one text
+    QString login; ///< key of the account, not the account itself; equal for lines with the same account
+    /// Logs in to the device and adds its row. For a line with invalid values: returns unusableLine.
     DeviceStep step;
 };
 
-/// The steps of importing a list.
+/// The steps of importing a list, one for each line.
 struct ImportPlan
 {
-    QString refusal; ///< why the list is refused, in the user's language; otherwise empty
-    std::vector<ImportLine> lines;
+    QString refusal; ///< why the complete list is refused, in the user's language; otherwise empty
+    std::vector<ImportLine> lines; ///< in the order of the file; empty if the list is refused
 };
 
-/// The result of a line with invalid values. No request was sent. The text of the outcome is the reason.
+/// StepOutcome::result of a line with invalid values. No request was sent. The text of the outcome is the
+/// reason.
 inline constexpr int unusableLine = 997;
 
-/// A failed line as a map with the keys of ListLineKey. The code of an unusable line is LoginResult::Unknown.
+/// A failed line as a map with the keys `line`, `address`, `code` and `reason` of ListLineKey. The code of an
+/// unusable line is LoginResult::Unknown.
 [[nodiscard]] QVariantMap importFailure(const ImportPosition &position, const StepOutcome &outcome);

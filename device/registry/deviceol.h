@@ -2,7 +2,7 @@
 
 #include "device/registry/devicebase.h"
 
-/// A family without operations.
+/// The back end of a family without operations: each operation is the default of CDeviceBase.
 class CDeviceOL : public CDeviceBase
 {
     Q_OBJECT

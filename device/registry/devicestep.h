@@ -1,5 +1,5 @@
-// The work of an operation with one device. A step is created on the main thread and runs on any other
-// thread.
+// The work of an operation with one device, such as an address change, as a function. A step is created on
+// the main thread and runs on any other thread, usually in a batch.
 #pragma once
 
 #include "device/registry/loginresult.h"
@@ -19,21 +19,22 @@ struct StepOutcome
 {
     int result = resultCode(LoginResult::Success); ///< a LoginResult, or another code of the operation
     QString text;               ///< details in the user's language; empty if the code is sufficient
-    QString response = {};      ///< response of the device, for the caller; not kept by batches
+    QString response = {};      ///< response text of a command; Batch passes it on but does not keep it
     bool hasNoResponse = false; ///< the device was reached but did not respond: a retry may succeed
 
     bool operator==(const StepOutcome &) const = default;
 };
 
-/// Control of a running step. The step checks it at its safe points: between two requests and during
-/// timeouts.
+/// Ends a running step early: because of a stop or a deadline. The step checks it at its safe points, between
+/// two requests and during timeouts, and then returns LoginResult::NotDone. Used on the thread of the step.
 class StepControl
 {
 public:
-    /// For a step that is not ended early.
+    /// For a step that is neither stopped nor late.
     StepControl() = default;
 
-    /// `limit` is the deadline from now by `clock`; 0 for none. `releaseSlot` may be empty.
+    /// The deadline is `limit` from now on, measured by `clock`; no deadline if `limit` is 0 or `clock` is
+    /// null. `releaseSlot` is called by releaseSlot(); it may be empty.
     StepControl(std::stop_token stop, std::shared_ptr<const sdk::Clock> clock,
                 std::chrono::milliseconds limit, std::function<void()> releaseSlot)
         : m_stop(std::move(stop)), m_clock(std::move(clock)), m_limit(limit),
@@ -46,18 +47,20 @@ public:
     [[nodiscard]] bool isStopped() const { return m_stop.stop_requested(); }
     /// Whether the deadline has passed.
     [[nodiscard]] bool isLate() const { return m_clock && m_clock->now() >= m_deadline; }
+    /// Whether the step must end at this safe point.
     [[nodiscard]] bool shouldEnd() const { return isStopped() || isLate(); }
     [[nodiscard]] const std::stop_token &stopToken() const { return m_stop; }
 
-    /// Restarts the deadline. Called by a step with several parts after each part, on its thread.
+    /// Sets the deadline again, to the full limit from now on. Called by a step with several parts after each
+    /// part.
     void noteProgress() const
     {
         if (m_clock && m_limit.count() > 0)
             m_deadline = m_clock->now() + m_limit.count();
     }
 
-    /// From now on the step only waits for its device. It no longer counts towards the limit of devices at a
-    /// time.
+    /// Called by a step that from now on only waits for its device. It no longer counts towards
+    /// BatchPolicy::maximumParallel.
     void releaseSlot() const
     {
         if (m_releaseSlot)
@@ -72,8 +75,10 @@ private:
     std::function<void()> m_releaseSlot;
 };
 
-/// Runs once. Blocks its thread for the timeouts of the library.
+/// The work with one device. Must be called at most once. Blocks its thread for the timeouts of the network
+/// library.
 using DeviceStep = std::function<StepOutcome(const StepControl &control)>;
 
-/// Creates the steps of one work, for devices by "address:port". Called on the main thread.
+/// Creates the step of one device, by its "address:port". May be called for several devices, on the main
+/// thread.
 using DeviceStepMaker = std::function<DeviceStep(const QString &ipport)>;

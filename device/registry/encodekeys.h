@@ -7,7 +7,8 @@
 #include <cstdint>
 #include <optional>
 
-/// The items of a stream, in the order in which they are read and written.
+/// The items of a stream, in the order in which they are read and written. An item is a set of settings that
+/// the device reads and writes together.
 enum class EncodeItemIndex : std::uint8_t
 {
     VideoFormat,
@@ -16,13 +17,14 @@ enum class EncodeItemIndex : std::uint8_t
     AudioFormat,
 };
 
-inline constexpr int itemsOfStream = 4;
+inline constexpr int itemsOfStream = 4; ///< number of values of EncodeItemIndex
 
-/// Keys of a stream. They are those of the main stream; a key of the sub stream is "sub" and the key with a
-/// capital first letter, see encodeKey(). A value whose item was not read is invalid.
+/// Keys of the values of a stream. The keys below are those of the main stream; a key of the sub stream is
+/// "sub" and the key with a capital first letter, see encodeKey(). A value whose item was not read is
+/// invalid. Lists are read only: the choices of the value under them.
 namespace EncodeKey {
 inline constexpr QLatin1StringView allStreamType("allStreamType"); ///< list of strings: of curStreamType
-inline constexpr QLatin1StringView encodeMode("encodeMode");       ///< list of strings: compressions
+inline constexpr QLatin1StringView encodeMode("encodeMode");       ///< list of strings: video compressions
 inline constexpr QLatin1StringView curEncodeMode("curEncodeMode"); ///< string of encodeMode
 inline constexpr QLatin1StringView resolution("resolution");       ///< list of strings
 inline constexpr QLatin1StringView curResolution("curResolution"); ///< string of resolution
@@ -45,8 +47,9 @@ inline constexpr QLatin1StringView missingSettings("missingSettings");
 
 // Of the sub stream only.
 
-inline constexpr QLatin1StringView videoEnable("videoEnable");       ///< the field of subVideoEnable
-inline constexpr QLatin1StringView subVideoEnable("subVideoEnable"); ///< int: 0 or 1
+/// StreamKey::field of subVideoEnable; no key of getConfigData() itself.
+inline constexpr QLatin1StringView videoEnable("videoEnable");
+inline constexpr QLatin1StringView subVideoEnable("subVideoEnable"); ///< int: 0 or 1, the sub stream is on
 /// curResolution of the sub stream; setConfigData() writes it to the device immediately.
 inline constexpr QLatin1StringView subCurResolution("subCurResolution");
 
@@ -57,7 +60,8 @@ inline constexpr QLatin1StringView channelNum("channelNum");
 inline constexpr QLatin1StringView curChannel("curChannel"); ///< int: of the encode page, from 0
 /// Int: of the camera image page, from 0.
 inline constexpr QLatin1StringView curVideoChannel("curVideoChannel");
-inline constexpr QLatin1StringView curStreamType("curStreamType"); ///< int: 0 normal, 1 motion, 2 alarm
+/// Int: main stream of the encode page, 0 normal, 1 motion, 2 alarm.
+inline constexpr QLatin1StringView curStreamType("curStreamType");
 inline constexpr QLatin1StringView offeredStreamTypes("offeredStreamTypes"); ///< int: number of main streams
 // An item is the int of its EncodeItemIndex, plus itemsOfStream for the sub stream.
 
@@ -107,12 +111,14 @@ inline constexpr std::array encodeFields = {
 /// A key, split into its stream and the key of the main stream.
 struct StreamKey
 {
-    bool isSub = false;
-    QString field; ///< a key of EncodeKey
+    bool isSub = false; ///< the sub stream
+    QString field;      ///< the key of the main stream, see EncodeKey
 };
+/// Splits any text: a text that begins with "sub" and has more characters is a key of the sub stream. The
+/// result need not be an existing key.
 [[nodiscard]] StreamKey splitEncodeKey(const QString &key);
 
-/// The reverse of splitEncodeKey().
+/// The reverse of splitEncodeKey(). `field` must not be empty.
 [[nodiscard]] QString encodeKey(bool isSub, QLatin1StringView field);
 
 /// The item that contains the value of a StreamKey::field. Empty for a list and for other keys.

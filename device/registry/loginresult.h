@@ -8,17 +8,17 @@
 /// The result of a request to a device.
 enum class LoginResult : int
 {
-    Unknown = -1, ///< no request yet
+    Unknown = -1, ///< no request yet; also the code of an unusable line of a list
     Success = 0,
     NoSuchAccount = 1,
     WrongPassword = 2,
     AccountLocked = 3,
-    AccountLoggedIn = 4,
-    NetworkFailure = 5, ///< no response, and every failure without another code
+    AccountLoggedIn = 4, ///< the account has a session already
+    NetworkFailure = 5,  ///< no response, and every failure without another code
     ProtocolMismatch = 6,
     NotInitialised = 7,
-    NotSupported = 12, ///< the dialog for adding devices shows no message for it
-    AlreadyListed = 13,
+    NotSupported = 12,       ///< the dialog for adding devices shows no message for it
+    AlreadyListed = 13,      ///< no request: the list has a row with this address and port
     Upgrading = 14,          ///< no request: the firmware of the device is being upgraded
     NotDone = 15,            ///< the work ended before the turn of the device, or between two requests
     SessionEnded = 16,       ///< the device no longer accepts the session of the request
@@ -53,9 +53,10 @@ enum class LoginResult : int
     return static_cast<int>(result);
 }
 
-// More result codes of operations. See also unusableLine (997) in deviceimport.h.
+// More result codes of operations, which are used in the same place as a LoginResult. See also unusableLine
+// (997) in deviceimport.h.
 
-inline constexpr int upgradeFileUnusable = 992; ///< no request
+inline constexpr int upgradeFileUnusable = 992; ///< no request was sent
 inline constexpr int upgradeFailed =
     993; ///< aborted by the device, not restarted, or the version is the old one
 inline constexpr int upgradeUnconfirmed =
@@ -68,5 +69,6 @@ inline constexpr int snapshotFailed = 996;
 /// The device has refused the request.
 inline constexpr int refusedByDevice = resultCode(LoginResult::Refused);
 
-/// The meaning of a result code in the user's language. An unknown code is shown as a number.
+/// The meaning of a LoginResult or another result code, in the user's language. The text for an unknown code
+/// contains its number.
 [[nodiscard]] QString resultName(int code);

@@ -4,25 +4,29 @@
 
 #include <QString>
 
-/// Keys of getConfigData(), setConfigData() and getDeviceChannelData() that belong to no page.
+/// Keys of getConfigData(), setConfigData() and getDeviceChannelData() of the current session that belong to
+/// no page. Read only unless stated otherwise.
 namespace SessionKey {
 inline constexpr QLatin1StringView loginHandle("loginHandle"); ///< qint64: of the current session, 0 for none
 /// String: "address:port", empty without a session.
 inline constexpr QLatin1StringView sessionDevice("sessionDevice");
-inline constexpr QLatin1StringView library("library");         ///< map with the keys of LibraryKey
-inline constexpr QLatin1StringView channelName("channelName"); ///< string: of the channel in the argument
-/// Int: result of the last write, -1 for none.
+inline constexpr QLatin1StringView library("library"); ///< map with the keys of LibraryKey
+/// String, read and write: name of the channel in the argument `channel` or `otype`.
+inline constexpr QLatin1StringView channelName("channelName");
+/// Int: the LoginResult of the last write of the channel's name; -1 if there was none.
 inline constexpr QLatin1StringView channelNameResult("channelNameResult");
-/// Write only: all names were written.
+/// Write only, after the last of several names: emits signalCDeviceSetChannelNameFinished.
 inline constexpr QLatin1StringView channelNamesSaved("channelNamesSaved");
-/// Int: result of all writes, -1 for none.
+/// Int: the LoginResult of all writes of names together; -1 if there were none.
 inline constexpr QLatin1StringView channelNamesResult("channelNamesResult");
-inline constexpr QLatin1StringView channelNames("channelNames"); ///< list of strings, null if unread
-inline constexpr QLatin1StringView channelsConnected("channelsConnected"); ///< list of bool
-inline constexpr QLatin1StringView connectedChannels("connectedChannels"); ///< list of bool, of all channels
+// Of getDeviceChannelData(). An unread name is null.
+inline constexpr QLatin1StringView channelNames("channelNames");           ///< list of strings
+inline constexpr QLatin1StringView channelsConnected("channelsConnected"); ///< list of bool: has a camera
+/// Of getConfigData(), list of bool for all channels: has a camera.
+inline constexpr QLatin1StringView connectedChannels("connectedChannels");
 } // namespace SessionKey
 
-/// Capabilities of the network library. Bool: it has the operation.
+/// Capabilities of the network library. A bool states whether it has the operation.
 namespace LibraryKey {
 inline constexpr QLatin1StringView defaultPort("defaultPort");     ///< int: service port of most devices
 inline constexpr QLatin1StringView videoStandard("videoStandard"); ///< bool
@@ -52,7 +56,7 @@ inline constexpr QLatin1StringView uuid("uuid");
 inline constexpr QLatin1StringView hostName("hostName");
 /// Of the host, on the network of the device.
 inline constexpr QLatin1StringView localAddress("localAddress");
-inline constexpr QLatin1StringView address("address");
+inline constexpr QLatin1StringView address("address"); ///< of the device itself, also behind NAT
 inline constexpr QLatin1StringView submask("submask");
 inline constexpr QLatin1StringView gateway("gateway");
 inline constexpr QLatin1StringView dhcp("dhcp"); ///< bool
@@ -87,7 +91,7 @@ inline constexpr QLatin1StringView account("account");
 inline constexpr QLatin1StringView password("password");
 } // namespace DeviceToAddKey
 
-/// Result of one device, or of one of several.
+/// The result of an operation with a device. A map has only those keys that its function states.
 namespace ResultKey {
 inline constexpr QLatin1StringView identity("identity"); ///< DeviceToAddKey::identity
 inline constexpr QLatin1StringView result("result");     ///< int: a LoginResult
@@ -115,13 +119,13 @@ inline constexpr QLatin1StringView refusal("refusal"); ///< why it cannot be use
 inline constexpr QLatin1StringView lines("lines");     ///< list of maps with the keys of ListLineKey
 } // namespace UpgradeDocumentKey
 
-/// Numbers of lines or devices.
+/// Progress: int, numbers of lines or devices.
 namespace ProgressKey {
 inline constexpr QLatin1StringView total("total");
-inline constexpr QLatin1StringView done("done");
+inline constexpr QLatin1StringView done("done"); ///< finished, with or without success
 } // namespace ProgressKey
 
-/// A string of an exported list that changes when its file is read.
+/// A string of an exported list that the file format cannot keep: it differs when the file is read again.
 namespace ExportFaultKey {
 inline constexpr QLatin1StringView address("address");
 inline constexpr QLatin1StringView name("name");     ///< of the device

@@ -10,27 +10,28 @@
 #include <functional>
 #include <memory>
 
-/// A snapshot of a channel.
+/// The result of a snapshot of a channel.
 struct OwnImage
 {
-    QString path = {};    ///< "file:///" URL; empty on failure
+    QString path = {};    ///< "file:///" URL of the file; empty on failure
     QString message = {}; ///< reason of the failure in the user's language
 };
 
 /// A snapshot to be taken in a session.
 struct OwnImageOrder
 {
-    qint64 handle = 0; ///< of the session
-    int channelCount = 0;
-    int channel = 0; ///< from 0
-    QString folder;  ///< name of a folder in the folder of snapshots
+    qint64 handle = 0;    ///< login handle of the session
+    int channelCount = 0; ///< of the device
+    int channel = 0;      ///< from 0
+    QString folder;       ///< name of a folder in the folder of snapshots; created if missing
 };
 
-/// Takes a snapshot. Any thread; blocks it until the end.
+/// Takes a snapshot. Any thread except the main thread; blocks it until the image is saved or has failed.
 using OwnImageTaker = std::function<OwnImage(const OwnImageOrder &order, const StepControl &control)>;
 
-/// A session that lasts as long as this object. The destructor logs out: in the background on the main
-/// thread, otherwise it blocks for the device.
+/// A login to a device that lasts as long as this object. The destructor logs out: on the main thread it
+/// returns immediately and the logout runs in the background; on another thread it blocks for the device. The
+/// back end logs out at its end, also if this object still exists; the handle is invalid then.
 class OwnSession
 {
 public:
@@ -39,11 +40,11 @@ public:
     OwnSession(const OwnSession &) = delete;
     OwnSession &operator=(const OwnSession &) = delete;
 
-    [[nodiscard]] virtual qint64 handle() const = 0; ///< of the session, for live streams
-    [[nodiscard]] virtual int channelCount() const = 0;
+    [[nodiscard]] virtual qint64 handle() const = 0;    ///< login handle, for live streams; never 0
+    [[nodiscard]] virtual int channelCount() const = 0; ///< number of channels of the device
 
-    /// Takes a snapshot of a channel (from 0) into `folder` in the folder of snapshots. Any thread
-    /// except the main thread; blocks it until the end.
+    /// Saves a snapshot of a channel (from 0) in the folder of this name in the folder of snapshots. Any
+    /// thread except the main thread; blocks it until the image is saved or has failed.
     [[nodiscard]] virtual OwnImage takeImage(int channel, const QString &folder,
                                              const StepControl &control) const = 0;
 };
@@ -54,7 +55,8 @@ struct OwnSessionOrder
     QString ipport; ///< "address:port" of the device
     QString account;
     QString password;
-    /// A session with the same device, kept if the device responds in it; null for none.
+    /// An existing session with the same device; null for none. If the device responds in it, no login is
+    /// made, and `account` and `password` are not used.
     std::shared_ptr<OwnSession> present = {};
 };
 
@@ -66,5 +68,6 @@ struct OwnSessionOffer
     std::shared_ptr<OwnSession> session = {}; ///< the present session or a new one; null on failure
 };
 
-/// Runs once. Blocks its thread for the timeouts of the library.
+/// Opens a session. Must be called at most once, on any thread except the main thread. Blocks it for the
+/// timeouts of the network library.
 using OwnSessionStep = std::function<OwnSessionOffer(const StepControl &control)>;

@@ -10,7 +10,8 @@
 #include <mutex>
 #include <optional>
 
-/// Addresses of the services of the port agent.
+/// Addresses of the services that the port agent uses. Hosts are names or addresses, ports 1 to 65535. All
+/// members except `domain` are required.
 struct P2PSettings
 {
     QString tunnelHost;
@@ -18,72 +19,82 @@ struct P2PSettings
     QString relayHost;
     int relayPort = 0;
     QString domain;
-    QString restAddress;
+    QString restAddress; ///< URL
     QString mediaHost;
     int mediaPort = 0;
 
-    /// The settings without a settings file.
+    /// The settings that are used without a settings file.
     [[nodiscard]] static P2PSettings builtIn();
 
-    /// Reads the settings from an INI file; returns builtIn() if it is missing. A missing key is an empty
-    /// string or 0.
+    /// Reads the settings from an INI file (a path); returns builtIn() if it does not exist. The value of a
+    /// missing key is an empty string or 0. Values are not checked here.
     [[nodiscard]] static P2PSettings read(const QString &file);
 };
 
-/// The local ports that the port agent maps to ports of devices behind NAT. A device has a login port for its
-/// service and may have a web port. Owned by the factory and shared with the back ends. The constructor
-/// starts the agent, the destructor stops it. Thread-safe.
+/// The local ports that the port agent maps to ports of devices behind NAT. The host reaches such a device at
+/// 127.0.0.1 and the local port. A device has a login port (the local port of its service) and may have a web
+/// port (the local port of its web page). A mapping exists from portFor() or claim() until it is removed. The
+/// registration of a login port, by note() or pair(), only records which mappings releaseUnneeded() may
+/// remove.
+///
+/// Owned by the factory and shared with the back ends. The destructor stops the agent, which removes all
+/// mappings. Thread-safe.
 class P2PPorts
 {
 public:
-    /// Starts the agent. Without a library, or if the agent does not start, every request for a port fails.
+    /// Starts the agent, which calls `handler` with its events. Without a library (null), or if the agent
+    /// does not start, every request for a port fails, see faultText().
     P2PPorts(std::shared_ptr<sdk::P2PAgentLibrary> library, const P2PSettings &settings,
              sdk::P2PAgentMessageHandler handler);
     ~P2PPorts();
     P2PPorts(const P2PPorts &) = delete;
     P2PPorts &operator=(const P2PPorts &) = delete;
 
-    /// The local port of `devicePort` of the device, 0 on failure. A `requestedPort` other than 0 must be
-    /// equal to `devicePort`. Blocks until the agent responds. Requests are serialised, so that two requests
-    /// for the same device get the same port.
+    /// Returns the local port that is mapped to `devicePort` of the device with this P2P ID, adding a mapping
+    /// if there is none; 0 on failure. `requestedPort` is 0 for any local port; another value must be equal
+    /// to `devicePort`, otherwise the request fails. Blocks until the agent responds. Requests run one after
+    /// another, so that two requests for the same device get the same port.
     [[nodiscard]] int portFor(const QString &deviceId, int devicePort, int requestedPort);
 
-    /// portFor() without a requested port. The mapping is kept until each caller has called giveBack().
+    /// portFor() without a requested port, for temporary use. Each successful call must be followed by
+    /// giveBack().
     [[nodiscard]] int claim(const QString &deviceId, int devicePort);
 
-    /// Ends a claim(). Removes the mapping if the port has no other claim, is not known (see isKnown()), and
-    /// `isListed` returns false: no row has it.
+    /// Ends a claim(). Then removes the mapping, if the port has no other claim, no device is registered with
+    /// it as its login port, and `isListed` returns false: no row of the list uses it. `isListed` must not
+    /// call claim(), portFor() or giveBack().
     void giveBack(int localPort, const std::function<bool()> &isListed);
 
     /// The reason why requests fail for every device, in the user's language: a missing or invalid setting,
     /// or an agent that did not start. Otherwise empty.
     [[nodiscard]] QString faultText() const;
 
-    /// Removes a mapping. Does nothing for 0.
+    /// Removes the mapping of a local port. Does nothing for 0. Ends no registration.
     void release(int localPort);
 
-    /// Registers the login port of a device. Its web port is kept if it is registered already.
+    /// Registers the login port of a device, without a web port. A registered login port keeps its web port.
     void note(int loginPort);
 
-    /// Whether a login port is registered by note() or pair() and not released since.
+    /// Whether this login port is registered.
     [[nodiscard]] bool isKnown(int loginPort) const;
 
-    /// Registers the login port and the web port of a device; 0 for no web port.
+    /// Registers the login port of a device and its web port, 0 for none. Replaces an earlier web port.
     void pair(int loginPort, int webPort);
 
-    /// The web port of a login port, 0 for none.
+    /// The web port of a registered login port; 0 if it has none or is not registered.
     [[nodiscard]] int webPortOf(int loginPort) const;
 
-    /// Releases the two ports of a device and ends their registration.
+    /// Removes the mappings of the login port and of its web port, and ends the registration.
     void releaseDevice(int loginPort);
 
-    /// Releases both ports of each registered device whose login port is not needed. `isNeeded` is called on
-    /// the caller's thread and may use this object.
+    /// Calls releaseDevice() for each registered login port for which `isNeeded` returns false. `isNeeded` is
+    /// called on the caller's thread and may use this object.
     void releaseUnneeded(const std::function<bool(int loginPort)> &isNeeded);
 
 private:
-    /// For portFor() and claim(). m_requestMutex must be locked.
+    // For portFor() and claim(). m_requestMutex must be locked. Return a local port, 0 on failure.
     [[nodiscard]] int findOrAddPort(const QString &deviceId, int devicePort, int requestedPort);
+    /// `localPort` is 0 if the agent chooses it.
     [[nodiscard]] int addPort(const QString &deviceId, int devicePort, int localPort);
 
     const std::shared_ptr<sdk::P2PAgentLibrary> m_library; ///< null if the agent was not started

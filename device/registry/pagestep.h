@@ -1,4 +1,5 @@
-// The work of a page with one device. A step is created on the main thread and runs on any other thread.
+// The work of a page with one device, as a function. A step is created on the main thread and runs on any
+// other thread, see CDeviceBase::runForPage(). Its outcome is applied ("taken") on the main thread.
 #pragma once
 
 #include "device/registry/devicestep.h"
@@ -12,18 +13,20 @@
 /// The result of a step of a page.
 struct PageOutcome
 {
-    QVariant value; ///< for QML
-    /// Stores the results in the back end and emits the signals of the work in their order. Called at most
-    /// once, on the main thread. May be empty.
+    QVariant value; ///< for QML; its type depends on the work
+    /// Stores the results in the back end and emits the signals of the work in their order. The receiver of
+    /// the outcome calls it at most once, on the main thread. May be empty.
     std::function<void()> take;
 };
 
-/// Runs once. Blocks its thread for the timeouts of the library. It changes nothing that QML can see before
-/// the outcome is taken. A login for an outcome that is not taken is logged out.
+/// Must be called at most once. Blocks its thread for the timeouts of the network library. It changes nothing
+/// that QML can see before the outcome is taken. If the outcome is destroyed without being taken, its login
+/// is logged out.
 using PageStep = std::function<PageOutcome(const StepControl &control)>;
 
-/// The operations of CDeviceBase on the current session, for any thread. They change a copy of the session's
-/// state. When the outcome is taken, the copy replaces the state and the signals are emitted.
+/// The operations of CDeviceBase on the current session, see there, for the thread of a step. They change a
+/// copy of the session's state and collect their signals. When the outcome is taken, the copy replaces the
+/// state and the signals are emitted.
 class SessionOperations
 {
 public:
@@ -43,5 +46,5 @@ public:
     [[nodiscard]] virtual bool isDeviceAway() const = 0;
 };
 
-/// Several operations. The return value is the value of the outcome.
+/// Several operations that run one after another in one step. Returns the value of the outcome.
 using SessionJob = std::function<QVariant(SessionOperations &operations, const StepControl &control)>;

@@ -3,7 +3,8 @@
 
 #include <QString>
 
-/// Commands of systemConfig() and systemStep().
+/// Commands of CDeviceBase::systemConfig() and systemStep(). The comment of a command names its data;
+/// dstConfig, ntpConfig, autoMaintain and videoStandard have the keys under their names in SystemDataKey.
 namespace SystemCommand {
 inline constexpr QLatin1StringView setTimeByPC("setTimeByPC");         ///< SystemDataKey::time
 inline constexpr QLatin1StringView setTimeByManual("setTimeByManual"); ///< SystemDataKey::time
@@ -13,18 +14,21 @@ inline constexpr QLatin1StringView autoMaintain("autoMaintain");
 inline constexpr QLatin1StringView rebootDevice("rebootDevice"); ///< without data
 inline constexpr QLatin1StringView resetSystem("resetSystem");   ///< without data
 inline constexpr QLatin1StringView videoStandard("videoStandard");
-inline constexpr QLatin1StringView channelName("channelName"); ///< of the first channel
-inline constexpr QLatin1StringView loginCheck("loginCheck");   ///< SystemDataKey::password: the old one
+inline constexpr QLatin1StringView channelName("channelName"); ///< SystemDataKey::name, of the first channel
+/// SystemDataKey::password: the old one. Logs in and keeps the login for modifyPassword.
+inline constexpr QLatin1StringView loginCheck("loginCheck");
 /// SystemDataKey::password: the new one. Only for devices whose loginCheck has succeeded.
 inline constexpr QLatin1StringView modifyPassword("modifyPassword");
-inline constexpr QLatin1StringView cancelLogin("cancelLogin"); ///< ends the logins of loginCheck
-inline constexpr QLatin1StringView readTime("readTime");       ///< without data
+inline constexpr QLatin1StringView
+    cancelLogin("cancelLogin"); ///< ends all logins of loginCheck; without data
+inline constexpr QLatin1StringView
+    readTime("readTime"); ///< without data; its result is the text of systemStep()
 } // namespace SystemCommand
 
-/// Keys of the data of the commands.
+/// Keys of the data of the commands. Values are strings unless stated otherwise.
 namespace SystemDataKey {
 inline constexpr QLatin1StringView time("time"); ///< "yyyy-MM-dd HH:mm:ss"; of autoMaintain "hh:mm"
-/// Bool, of setTimeByPC: `time` is the time of the request of each device.
+/// Bool, of setTimeByPC. True: each device gets the host's time at its request, and `time` is ignored.
 inline constexpr QLatin1StringView timeOfRequest("timeOfRequest");
 inline constexpr QLatin1StringView password("password");
 inline constexpr QLatin1StringView name("name"); ///< of channelName

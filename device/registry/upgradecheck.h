@@ -4,6 +4,6 @@
 
 #include <functional>
 
-/// Returns whether the firmware of a device is being upgraded. `device` is its "address:port" or the name of
-/// its row. Any thread.
+/// Returns whether the firmware of a device is being upgraded, so that requests could disturb it. The owner
+/// of the function states whether `device` is the "address:port" or the name of its row. Any thread.
 using UpgradeCheck = std::function<bool(const QString &device)>;

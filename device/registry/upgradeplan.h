@@ -6,20 +6,21 @@
 
 #include <QString>
 
-/// The plan of the upgrade of one device.
+/// What an upgrade of one device would do if it started now.
 struct PlannedUpgrade
 {
     UpgradeTools::Result refusal =
         UpgradeTools::NoFile; ///< reason why the device is not upgraded; None if it is
     QString file;             ///< path of the firmware file
-    QString version;          ///< of the file; empty if unknown
+    QString version;          ///< firmware version in the file; empty if unknown
 };
 
-/// A line of an upgrade document, with the step that upgrades its device.
+/// A line of an upgrade document (a workbook with devices and firmware files), with the step that upgrades
+/// its device.
 struct UpgradeDocumentStep
 {
-    int line = 0;   ///< line number in the file
-    QString device; ///< name of the row of the device, or its address and port
-    QString ipport;
+    int line = 0;   ///< line number in the file, from 1
+    QString device; ///< name of the row of the device, or its address and port without a row
+    QString ipport; ///< "address:port" in the line
     DeviceStep step;
 };

@@ -2,8 +2,8 @@
 
 #include <QObject>
 
-/// The states and results of firmware upgrades ("upgraderes" of the rows), with their texts and properties.
-/// For QML and C++.
+/// The states and results of firmware upgrades (the int "upgraderes" of device rows), with their texts and
+/// properties. Stateless. For QML and C++; parameters of type int are values of Result.
 class UpgradeTools : public QObject
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
         Preparing = -3,  ///< checking the file and logging in
         Waiting = -2,    ///< until other upgrades are finished
 
-        None = -1,   ///< no upgrade, or no reason against one
+        None = -1,   ///< no upgrade yet; as the result of a check: no reason against an upgrade
         Success = 0, ///< the device has responded with the new version
 
         // Failures that a retry does not solve
@@ -58,7 +58,7 @@ public:
     Q_INVOKABLE [[nodiscard]] static bool isRunning(int result) { return result < None; }
     Q_INVOKABLE [[nodiscard]] static bool isFailure(int result) { return result > Success; }
 
-    /// Whether the upgrade can still be stopped.
+    /// Whether the upgrade runs and can still be stopped.
     Q_INVOKABLE [[nodiscard]] static bool canStop(int result)
     {
         return isRunning(result) && result != Writing && result != Restarting;
@@ -67,13 +67,14 @@ public:
     /// Whether a retry may succeed.
     Q_INVOKABLE [[nodiscard]] static bool canTryAgain(int result) { return result >= NoResponse; }
 
-    /// The state or result in the user's language; empty for None. Any thread.
+    /// The state or result in the user's language; empty for None. The text for an unknown value contains its
+    /// number. Any thread.
     Q_INVOKABLE [[nodiscard]] static QString text(int result);
 
-    /// The result as a result code of batches: a LoginResult, a code of loginresult.h, or unusableLine.
-    /// LoginResult::NotDone for upgrades that are running, stopped, cut or None.
+    /// The result as StepOutcome::result: a LoginResult, another code of loginresult.h, or unusableLine.
+    /// LoginResult::NotDone for states of running upgrades, Stopped, Cut and None.
     [[nodiscard]] static int batchResult(Result result);
 
-    /// File name of the template of upgrade documents, in the user's language.
+    /// File name, without a folder, of the template of upgrade documents in the user's language.
     [[nodiscard]] static QString templateFileName();
 };

@@ -28,7 +28,7 @@ public:
     /// Writes one value to the device. `key` must be a key of EncodeKey that setConfigData() writes
     /// immediately: subCurResolution.
     Q_INVOKABLE void writeEncodeValue(const QString &key, const QVariant &value);
-    /// Writes all values that setConfigData() has changed since they were read.
+    /// Writes the values of the selected channel with the changes of CDeviceFactory::setConfigData().
     Q_INVOKABLE void saveEncoding();
 
     // Image page, with the keys of CameraKey.
