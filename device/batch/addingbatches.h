@@ -17,33 +17,38 @@ public:
     /// `factory` and `batches` must outlive this object.
     AddingBatches(CDeviceFactory &factory, Batches &batches, QObject *parent = nullptr);
 
-    /// Waits until the current file is read.
+    /// Waits until the current file is read. importBegan() and importRefused() are not emitted then.
     ~AddingBatches() override;
 
     /// Whether a list file is being read.
     [[nodiscard]] bool isReading() const { return m_work != 0; }
 
-    /// Reads a device list file on a separate thread, then starts a batch that logs in to its devices. `path`
-    /// is a path or a "file:///" URL. importBegan() or importRefused() follows, unless another batch is
-    /// running. Does nothing while a list is being read.
+    /// Reads a device list file on a separate thread and returns immediately. Then starts a batch with this
+    /// title that logs in to the devices of the list and adds their rows. `path` is a path or a "file:///"
+    /// URL. importBegan() or importRefused() follows; if another batch is running when the file is read,
+    /// Batches::refused() follows instead, and nothing is imported. Does nothing while a list is being read.
     Q_INVOKABLE void importList(const QString &title, const QString &path);
 
-    /// The lines of an import or of its retry that have not succeeded, as maps made by importFailure(). Empty
-    /// without a batch. Valid for the latest list only.
+    /// The lines without success of a batch of importBegan(), or of its retry, as maps made by
+    /// importFailure(). The batch must be that of the latest list: the positions in earlier files are lost.
+    /// Empty if `batch` is null.
     Q_INVOKABLE [[nodiscard]] QVariantList importFailures(Batch *batch) const;
 
-    /// Adds devices. `devices` are maps of "identity" (used in tried()), "mode" (0 by address, 1 by P2P ID),
-    /// "address", "port", "account" and "password". Returns the batch, null if it was not started. QML does
-    /// not own it.
+    /// Starts a batch that logs in to these devices and adds their rows. `devices` are maps of "identity" (a
+    /// text that tried() returns), "mode" (0 by address, 1 by P2P ID), "address" (or the P2P ID), "port"
+    /// (int, of the device itself), "account" and "password". Returns the batch; null after
+    /// Batches::refused(). QML does not own it.
     Q_INVOKABLE Batch *addDevices(const QString &title, const QVariantList &devices);
 
 Q_SIGNALS:
     void readingChanged();
-    void importBegan(Batch *batch);
+    void importBegan(Batch *batch); ///< the file is read, and the batch has started
+    /// The file cannot be imported, for this reason in the user's language.
     void importRefused(const QString &reason);
 
-    /// Results of devices of addDevices() or of its retry: maps of "identity", "result" (a LoginResult) and
-    /// "message" (message in the user's language).
+    /// Results of devices of addDevices() or of its retry, in groups while the batch runs: maps of
+    /// "identity", "result" (a LoginResult or another code of resultName()) and "message" (in the user's
+    /// language).
     void tried(const QVariantList &results);
 
 private:
@@ -57,6 +62,7 @@ private:
 
     [[nodiscard]] List readList(const QString &title, const QString &path) const; ///< on any thread
     void takeList(List &list);
+    /// Notifies pages of new rows at most once a second: they read the complete list then.
     void noteRows(const QList<BatchOutcome> &outcomes);
     /// Notifies pages of new rows at the end of any batch: a retry is started elsewhere.
     void noteEnd();

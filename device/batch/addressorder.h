@@ -4,17 +4,17 @@
 #include <QList>
 #include <QString>
 
-/// The change of one device's address.
+/// The change of one device's address. Addresses are texts without a port.
 struct AddressChange
 {
-    QString oldAddress;
+    QString oldAddress; ///< that the device has now
     QString newAddress; ///< empty if unknown (DHCP)
 };
 
 /// Result of addressOrder().
 struct AddressOrder
 {
-    QList<qsizetype> order; ///< indexes of the changes
+    QList<qsizetype> order; ///< indexes of the changes that can be ordered, the first one first
     /// Indexes of the changes that cannot be ordered: a circle of devices that exchange addresses, and those
     /// that depend on it.
     QList<qsizetype> circle;

@@ -10,13 +10,15 @@
 #include <optional>
 #include <utility>
 
-/// Computes the new addresses of a batch. The first checked device gets the start address, and each further
-/// one the next higher address; or all devices get the start address; or each device uses DHCP. Addresses and
-/// mask are IPv4 texts. Lives on the main thread.
+/// Computes the new addresses of a batch of address changes; nothing is changed by it. The first checked row
+/// gets the start address, and each further checked row the next higher address, also after a row that will
+/// be skipped; with `sameAddress`, all rows get the start address; with `dhcp`, each device uses DHCP.
+/// Addresses and mask are dotted IPv4 texts, which may be invalid while the user types. Lives on the main
+/// thread.
 ///
-/// "action" of a row is its new address, or "DHCP". It is empty if the row is unchecked, the device is
-/// skipped or the start address is invalid. The additional key "issue" is an Issue: NotChanged skips the
-/// device, the others are warnings. TakenByOther and TakenInBatch set the row's conflict role.
+/// "action" of a row is its new address, or "DHCP". It is empty if the row is unchecked, the device will be
+/// skipped or the start address is invalid. The additional key "issue" is an Issue: a device with NotChanged
+/// is skipped, the others are warnings. TakenByOther and TakenInBatch set the row's conflict role.
 class AddressPlan : public BatchPreview
 {
     Q_OBJECT
@@ -57,15 +59,15 @@ public:
     /// gateway is invalid.
     [[nodiscard]] bool isGatewayOutside() const;
 
-    /// The address of a row without DHCP, also of a device that will be skipped. Empty if `row` is out of
-    /// range or not checked, or the start address is invalid.
+    /// The new address of a row if `dhcp` is off, also of a device that will be skipped. Empty if `row` is
+    /// out of range or not checked, or the start address is invalid.
     Q_INVOKABLE [[nodiscard]] QString addressOf(int row) const;
 
     /// addressOf() for the checked rows, in the order of checkedIdentities().
     Q_INVOKABLE [[nodiscard]] QStringList addresses() const;
 
-    /// The device that keeps the address of addressOf(): model and MAC, or address and port if it reports
-    /// neither. Empty if there is none.
+    /// The listed device that already has the address of addressOf() and is not changed by the batch: its
+    /// model and MAC, or its address and port if it reports neither. Empty if there is none.
     Q_INVOKABLE [[nodiscard]] QString otherDeviceAt(int row) const;
 
 protected:
@@ -94,5 +96,5 @@ private:
 
     QList<std::optional<std::uint32_t>> m_numbers; ///< new addresses by row; nullopt if not checked
     QHash<std::uint32_t, int> m_timesGiven;        ///< number of devices (not skipped) by new address
-    QHash<std::uint32_t, QString> m_taken;         ///< devices that keep their addresses, by address
+    QHash<std::uint32_t, QString> m_taken;         ///< descriptions of devices that keep their addresses
 };

@@ -12,10 +12,14 @@
 #include <memory>
 #include <mutex>
 
-/// One batch, for QML: its progress and the result of each device. Reports of the engine's threads arrive
-/// here in groups, at most one every 16 ms.
+/// One batch, for QML: a work with several devices, its progress and the result of each device. Results
+/// arrive from the engine's threads in groups, at most one group every 16 ms.
 ///
-/// Lives on the main thread; created and owned by Batches.
+/// A device has succeeded, failed, been skipped (BatchReport::isSkipped()), is waiting for a further step, or
+/// is not done: it has no result yet, or the batch ended before its turn. Functions that return "names" or
+/// "identities" use BatchDevice::name and BatchDevice::identity.
+///
+/// Lives on the main thread; created and owned by Batches. The destructor stops a running batch.
 class Batch : public QObject
 {
     Q_OBJECT
@@ -43,7 +47,7 @@ public:
     {
         BatchDevice device;
         StepOutcome outcome = {.result = BatchReport::NotDone, .text = {}};
-        QDateTime time;        ///< of the outcome; invalid while there is none
+        QDateTime time;        ///< of the outcome; invalid if the device is not done
         QString account = {};  ///< account of the step; empty if the plan has no accountOf
         QByteArray login = {}; ///< hash of account and password of the step, compared for a retry
     };
@@ -52,15 +56,17 @@ public:
     Batch(BatchEngine &engine, BatchPlan plan, QObject *parent = nullptr);
     ~Batch() override;
 
-    /// Starts the batch; may be called once. Returns false if the engine does not accept it.
+    /// Starts the batch; may be called once. Returns false, without a signal of the end, if the engine does
+    /// not accept it.
     bool start();
 
-    /// Name of the work; after cancelWaiting() the name of the step that was cancelled.
+    /// Name of the work in the user's language; after cancelWaiting() the name of the step that was
+    /// cancelled.
     [[nodiscard]] const QString &title() const { return m_title; }
-    /// The number of devices for each kind of result, in the user's language.
+    /// The numbers of devices that have succeeded, failed and so on, as a text in the user's language.
     [[nodiscard]] QString summary() const;
     [[nodiscard]] int total() const { return static_cast<int>(m_entries.size()); }
-    /// The number of devices with an outcome, also a failed one.
+    /// The number of devices with an outcome: succeeded, failed, skipped or waiting.
     [[nodiscard]] int done() const { return m_done; }
     /// 0 to 1: the share of done() in total(), or the value of noteProgress() if that is greater.
     [[nodiscard]] double progress() const;
@@ -73,18 +79,19 @@ public:
     [[nodiscard]] bool isRunning() const { return m_isRunning; }
     [[nodiscard]] bool isStopping() const { return m_isRunning && m_isStopping; }
 
-    /// Whether the batch is paused, because too many devices in a row refused the password, until the user
-    /// decides.
+    /// Whether no further step starts because refusalsInARow() was reached, until resume() or stop(). Steps
+    /// that were running continue.
     [[nodiscard]] bool isPaused() const { return m_isRunning && m_isPaused && !m_isStopping; }
 
     /// The number of refused passwords in a row after which the batch is paused; 0: never.
     [[nodiscard]] int refusalsInARow() const { return m_plan.policy.wrongPasswordsInARow; }
 
-    /// The names of the accounts that devices refused, as one line; empty if there are none or if the plan
-    /// has no accountOf.
+    /// The user names of the accounts that devices of this batch refused, as one line; empty if there are
+    /// none or if the plan has no accountOf.
     [[nodiscard]] QString refusedAccounts() const;
 
-    /// For a retry: the number of failed or not done devices of the earlier batches that the retry left out.
+    /// For a retry: the number of devices of the retried batches that failed there or are not done, and that
+    /// are not part of this batch. 0 if this batch is no retry.
     [[nodiscard]] int failedBefore() const;
 
     /// Estimated remaining seconds. -1 if the batch does not run, in its first two seconds, without progress,
@@ -100,69 +107,73 @@ public:
     [[nodiscard]] const QList<Entry> &entries() const { return m_entries; }
     [[nodiscard]] const BatchPlan &plan() const { return m_plan; }
 
-    /// Whether a device may be retried, now or after its account has changed.
+    /// Whether a retry of a device of devicesToRetry() is possible now, or would be after a change of its
+    /// account. False after releaseSteps().
     [[nodiscard]] bool hasRetryable() const;
 
     /// Releases the step maker of the plan, which may hold a password. The batch cannot be retried
     /// afterwards.
     void releaseSteps();
 
-    /// Stops the batch: steps that have not started are dropped, running steps end at their next safe point.
+    /// Requests the end of the batch and returns immediately: steps that have not started are dropped, and
+    /// running steps end at their next safe point. finished() follows. Does nothing if the batch does not
+    /// run.
     Q_INVOKABLE void stop();
 
-    /// Continues a paused batch.
+    /// Continues a paused batch; does nothing for another one.
     Q_INVOKABLE void resume();
 
-    /// Sets the devices that wait for a further step to NotDone. `title` is the name of that step. Does
-    /// nothing if no device waits.
+    /// The user has cancelled the further step that devices of this batch wait for. Sets these devices to
+    /// NotDone. `title` is the name of that step. Does nothing if no device waits.
     Q_INVOKABLE void cancelWaiting(const QString &title);
 
-    /// Sets the batch that this batch retries.
+    /// Sets the batch that this batch retries. It is not owned and may be deleted first.
     void setRetryOf(Batch *earlier);
 
-    /// Accounts of devices may have changed, which can make a refused device retryable. Emits changed() if
-    /// the plan has accountOf.
+    /// Accounts of devices may have changed, which can make a device retryable that has refused its account.
+    /// Emits changed() if the plan has accountOf.
     void noteAccounts();
 
-    /// The devices of this batch and of the batches that it retries for which a retry may succeed now. Empty
-    /// after releaseSteps().
+    /// The devices of this batch, and of the batches that it retries, that have not succeeded and for which a
+    /// retry may succeed now. A device of several of these batches is returned if its latest outcome permits
+    /// it. Empty after releaseSteps().
     [[nodiscard]] QList<BatchDevice> devicesToRetry() const;
 
-    /// Identities of the devices that failed or have no result, including those of the batches that this one
-    /// retries. Pages check their rows by them.
+    /// Identities of the devices of this batch, and of the batches that it retries, that have failed or are
+    /// not done. Skipped and waiting devices are left out. Pages check the rows of these devices.
     Q_INVOKABLE [[nodiscard]] QStringList failedIdentities() const;
 
-    /// Identities of the devices of this batch that refused their account, and of the devices without an
-    /// outcome whose account has been refused by another device. Empty if no retry with another account is
-    /// possible.
+    /// Identities of the devices of this batch that refused their account, and of the devices that are not
+    /// done and have an account that another device has refused. Empty if the plan has no accountOf or cannot
+    /// be retried.
     Q_INVOKABLE [[nodiscard]] QStringList devicesOfRefusedAccounts() const;
 
     /// Names of the devices of devicesToRetry().
     Q_INVOKABLE [[nodiscard]] QStringList retryableDevices() const;
 
-    /// Names of the devices of this batch that have not succeeded (failed, skipped, waiting or without a
-    /// result).
+    /// Names of the devices of this batch that have not succeeded: failed, skipped, waiting or not done.
     Q_INVOKABLE [[nodiscard]] QStringList failedDevices() const;
 
-    /// Why no device of the batch can be retried, in the user's language; empty if one can.
+    /// Why devicesToRetry() cannot be retried now, in the user's language; empty if there is a device and the
+    /// batch has ended.
     [[nodiscard]] QString retryRefusal() const;
 
-    /// Whether the batch has ended and its device with this identity can be retried. False for devices of the
-    /// batches that it retries.
+    /// Whether the batch has ended and its device with this identity can be retried. False for devices that
+    /// are only in a batch that it retries.
     Q_INVOKABLE [[nodiscard]] bool canRetry(const QString &identity) const;
 
-    /// The text of a device's outcome, from this batch or from the one that it retries; empty if there is
-    /// none. `device` is the device's name.
+    /// The text of the outcome (StepOutcome::text) of the device with this name, from this batch or, if the
+    /// device is not in it, from the one that it retries; empty if there is none.
     Q_INVOKABLE [[nodiscard]] QString textOf(const QString &device) const;
     /// Same for several devices, in the same order.
     Q_INVOKABLE [[nodiscard]] QStringList textsOf(const QStringList &devices) const;
 
-    /// Maps of "device" and "message" for those of the devices that are in this batch or in the one that it
-    /// retries. "message" is the text of the outcome, or the name of its result.
+    /// Maps of "device" and "message" for those of the devices with these names that are in this batch or in
+    /// the one that it retries. "message" is the text of the outcome, or resultName() if that is empty.
     Q_INVOKABLE [[nodiscard]] QVariantList messagesOf(const QStringList &devices) const;
 
-    /// The devices that have succeeded until now, in the order of their results, without the first `known`
-    /// ones.
+    /// The names of the devices that have succeeded until now, in the order of their results, without the
+    /// first `known` ones.
     Q_INVOKABLE [[nodiscard]] QStringList succeededDevices(int known) const;
 
     /// The number of devices that succeeded with a text. For settings this means that the device did not
@@ -170,18 +181,19 @@ public:
     Q_INVOKABLE [[nodiscard]] int partlyDone() const;
 
 Q_SIGNALS:
-    void changed();
+    void changed(); ///< a property has changed
 
-    /// Names of devices and their results, in the order of completion, and at the end of the batch those of
-    /// devices that were not reached. cancelWaiting() reports the waiting devices a second time.
+    /// New results: the names of devices and, parallel to them, their results (StepOutcome::result), in the
+    /// order of completion. At the end of the batch, NotDone is reported for the devices that were not
+    /// reached. cancelWaiting() reports the waiting devices a second time, as NotDone.
     void resulted(const QStringList &devices, const QList<int> &results);
 
-    void finished(); ///< emitted once, after the last result
+    void finished(); ///< the batch has ended or was stopped; emitted once, after the last result
 
 private:
-    class Mailbox;
+    class Mailbox; ///< receives the reports of the engine's threads
 
-    /// The progress after its last increase, and the time of that.
+    /// The progress after its last increase, and the time of that increase.
     struct Advance
     {
         double progress = 0;
@@ -212,8 +224,8 @@ private:
     QList<Entry> m_entries;
     QHash<QString, qsizetype> m_indexByName; ///< indexes in m_entries, by device name
     const std::shared_ptr<Mailbox> m_mailbox;
-    QTimer m_frame;
-    QStringList m_succeeded;    ///< in the order of completion
+    QTimer m_frame;             ///< delays takeUpdates() after a report
+    QStringList m_succeeded;    ///< names, in the order of completion
     QList<qsizetype> m_running; ///< indexes of running steps, in the order of their start
     QDateTime m_began;
     QDateTime m_ended;

@@ -19,9 +19,9 @@
 /// One step of a batch.
 struct BatchItem
 {
-    QString device;     ///< key; two steps of one device never run in parallel, also of different batches
+    QString device;     ///< key of the device; steps with the same key never run in parallel, in any batch
     QString login = {}; ///< key of the account that the step uses; empty if all steps use one account
-    DeviceStep step;
+    DeviceStep step;    ///< must not be empty
 };
 
 /// Limits of a batch.
@@ -34,37 +34,40 @@ struct BatchPolicy
     int wrongPasswordsInARow = 0;          ///< refused passwords in a row that pause the batch; 0: never
 };
 
-/// Receives the events of a batch, on the engine's threads and without a lock. Calls for one batch may be
-/// made on several threads in parallel, except for ended(), which is the last call. ended() is also called on
-/// the thread of the caller of BatchEngine::start(), stop() or requestEnd(), during that call.
+/// Receives the events of a batch, on the engine's threads. The engine holds no lock during a call. Calls for
+/// one batch may be made on several threads in parallel, except for ended(), which is the last call. ended()
+/// may also be called on the thread that calls BatchEngine::start(), stop() or requestEnd(), during that
+/// call.
 class BatchWatcher
 {
 public:
     virtual ~BatchWatcher() = default;
 
-    /// `index` is the index of the item in the batch.
+    /// The step of the item with this index is about to run.
     virtual void started(std::size_t index) = 0;
 
-    /// Called without started() if the step was not run: the batch was stopped while the step was about to
-    /// start (LoginResult::NotDone), or the device refused the account before (the outcome of that refusal).
+    /// The step of the item with this index has ended with `outcome`. Without an earlier started() the step
+    /// was not run: either the batch was stopped just before (LoginResult::NotDone), or an earlier step of
+    /// the device was refused with the same account (`outcome` is that of the refusal).
     virtual void finished(std::size_t index, const StepOutcome &outcome) = 0;
 
     /// The batch is paused: too many devices in a row refused the password. Running steps continue.
     virtual void paused() = 0;
 
-    /// No step of the batch runs any more. Items without a finished() call were not run.
+    /// No step of the batch runs any more. Items without a finished() call were not run, because of a stop.
     virtual void ended() = 0;
 };
 
-/// Runs the steps of batches on up to 80 threads. Steps of one device keep their order. After a device has
-/// refused an account, further steps of the batch with that device and account are not run and get the same
-/// outcome, because each attempt counts towards the device's lock. Thread-safe.
+/// Runs the steps of batches on up to 80 threads. Several batches may run at the same time. Steps of one
+/// device run one after another, in the order of the items. After a device has refused an account, further
+/// steps of the batch with that device and account are not run and get the same outcome, because each attempt
+/// counts towards the device's lock. Thread-safe.
 class BatchEngine
 {
 public:
     static constexpr std::size_t maximumThreads = 80;
 
-    /// Deadlines use `clock`. Null: steps have no deadline.
+    /// `clock` measures the deadlines of steps. Null: steps have no deadline.
     explicit BatchEngine(std::shared_ptr<const sdk::Clock> clock);
 
     /// Calls end().
@@ -72,25 +75,30 @@ public:
     BatchEngine(const BatchEngine &) = delete;
     BatchEngine &operator=(const BatchEngine &) = delete;
 
-    /// Milliseconds of the deadlines' clock; without one, of the system clock.
+    /// The present time in milliseconds, by `clock` or, if that is null, by the system clock.
     [[nodiscard]] std::int64_t now() const;
 
-    /// Starts a batch. Returns its number (1 or more), or 0 without a call of the watcher if the engine has
-    /// ended or no thread can be created. Steps may start before this call returns. An empty batch ends
-    /// during this call. The engine keeps the watcher until ended() has returned.
+    /// Starts a batch and returns immediately. Returns its number (1 or more). Returns 0, without a call of
+    /// the watcher, if the engine has ended or no thread can be created. Steps may start before this call
+    /// returns. An empty batch ends during this call. The engine keeps the watcher until ended() has
+    /// returned.
     int start(std::vector<BatchItem> items, const BatchPolicy &policy, std::shared_ptr<BatchWatcher> watcher);
 
-    /// Appends a step to a running batch. Returns false if the batch has ended or is stopped.
+    /// Appends a step to the running batch with this number. The device of the step must not be in the batch
+    /// yet. Returns false, and drops the step, if the batch has ended or is stopped.
     bool append(int number, BatchItem item);
 
-    /// Stops a batch: destroys the steps that have not started, and requests the running steps to end, whose
-    /// stop callbacks run during this call. Does nothing if the batch has ended.
+    /// Stops the batch with this number: destroys the steps that have not started, and requests the running
+    /// steps to end, whose stop callbacks run during this call. Does not wait for running steps. Does nothing
+    /// if the batch has ended.
     void stop(int number);
 
-    /// Continues a paused batch, and counts the refused passwords from 0 again.
+    /// Continues the paused batch with this number, and counts the refused passwords from 0 again. Does
+    /// nothing if the batch has ended.
     void resume(int number);
 
-    /// Reservation of a device: no step of the device starts while it exists. The engine must outlive it.
+    /// Reservation of a device: no step of the device starts while this object exists. An empty Reservation,
+    /// as from the default constructor, reserves nothing. The engine must outlive it.
     class Reservation
     {
     public:
@@ -107,15 +115,17 @@ public:
         QString m_device;
     };
 
-    /// Reserves a device for work outside a batch. Blocks until no step of the device runs. Returns an empty
-    /// Reservation if the engine ends, or if `stop` is requested while a step of the device runs. A free
-    /// device is reserved even if `stop` is requested. A device may have several reservations.
+    /// Reserves a device (BatchItem::device) for work outside a batch. Blocks until no step of the device
+    /// runs. Returns an empty Reservation if the engine ends, or if `stop` is requested while a step of the
+    /// device runs. A free device is reserved even if `stop` is requested. A device may have several
+    /// reservations at the same time: they do not exclude each other.
     [[nodiscard]] Reservation reserve(const QString &device, const std::stop_token &stop);
 
-    /// Stops all batches and refuses new ones. Does not wait for running steps.
+    /// Stops all batches and refuses new ones and reservations. Does not wait for running steps.
     void requestEnd();
 
-    /// requestEnd(), then joins the threads.
+    /// requestEnd(), then blocks until all running steps have ended. Must not be called on a thread of the
+    /// engine.
     void end();
 
 private:

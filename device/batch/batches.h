@@ -12,8 +12,9 @@
 class CDeviceFactory;
 class DeviceStore;
 
-/// Starts batches and keeps those of the session. One batch runs at a time; starting another one is refused
-/// until it has ended. A running batch is registered in BusyState.
+/// Starts batches and keeps the batches since the start of the application with their results. One batch runs
+/// at a time; starting another one is refused until it has ended. A running batch is registered in BusyState.
+/// Only the latest batch can be retried.
 ///
 /// Lives on the main thread.
 class Batches : public QObject
@@ -23,7 +24,8 @@ class Batches : public QObject
     Q_PROPERTY(bool running READ isRunning NOTIFY runningChanged)
     Q_PROPERTY(FailedMarks *failedMarks READ failedMarks CONSTANT)
 public:
-    /// Maximum number of batches that are kept, including the running one. The oldest one is deleted.
+    /// Maximum number of batches that are kept, including the running one. When another batch starts, the
+    /// oldest one is deleted.
     static constexpr int maximumKept = 50;
 
     /// `factory` and `engine` must outlive this object. `maximumParallel` returns the maximum number of
@@ -40,99 +42,113 @@ public:
     /// Oldest first.
     [[nodiscard]] const QList<Batch *> &kept() const { return m_kept; }
 
-    /// Marks of the devices that failed, or were not reached, in the batches of the session.
+    /// Marks of the devices that failed or were not done in the batches since the start of the application.
+    /// Owned by this object.
     [[nodiscard]] FailedMarks *failedMarks() { return &m_failedMarks; }
 
-    /// Keeps the rows of marked devices in `store` through searches.
+    /// From now on, the searches of `store` keep the rows of marked devices, see DeviceStore::setKept().
     void keepFailedIn(const std::shared_ptr<DeviceStore> &store);
 
-    // The functions below that return a batch have started it. They return null after refused(), or without
-    // it if there is no device to work on. QML does not own the batch.
+    // The functions below that return a batch have started it. A null return means that nothing was started;
+    // refused() was emitted with the reason unless stated otherwise. QML does not own the batch. `title` is
+    // the name of the work for the user, `ipports` are addresses and ports, `macs` are names of rows. Unless
+    // stated otherwise, the steps log in with the accounts of the rows (CDeviceBase::accountOf()) and run in
+    // parallel.
 
-    /// Runs a command of CDeviceBase::systemConfig() for devices by address and port. "setTimeByPC" sends
-    /// each device the time of its own request.
+    /// Runs a command of CDeviceBase::systemConfig() for these devices; `data` as there. "setTimeByPC" sends
+    /// each device the host's time at its request. The commands of a password change use the passwords in
+    /// `data`.
     Q_INVOKABLE Batch *configureSystem(const QString &family, const QString &command, const QString &title,
                                        const QVariantMap &data, const QStringList &ipports);
 
-    /// Sets the name of channel 1 of each device; `names` is parallel to `ipports`. Updates the name in the
-    /// rows of cameras.
+    /// Sets the name of channel 1 of each device; `names` is parallel to `ipports`. After a success, the name
+    /// in the row of a camera is updated; that of a recorder is its device name and stays.
     Q_INVOKABLE Batch *nameCameras(const QString &family, const QString &title, const QStringList &ipports,
                                    const QStringList &names);
 
-    /// Initialises factory-new devices with an account, one device after another.
+    /// Initialises factory-new devices, one after another: creates this account on each device.
     Q_INVOKABLE Batch *initialiseDevices(const QString &family, const QString &title, const QStringList &macs,
                                          const QString &account, const QString &password);
 
-    /// Changes the addresses of devices, one after another in the order of `macs`, but a device that gets the
-    /// address of another one follows it. `addresses` is parallel to `macs`; the last address of a repeated
-    /// MAC applies. With `dhcp`, `addresses`, `mask` and `gateway` are ignored. Refused if devices exchange
+    /// Changes the addresses of devices one after another, in the order of `macs`, except that a device that
+    /// gets the address of another device of the batch is changed after that device. If that device keeps its
+    /// address, no request is sent. `addresses` is parallel to `macs`; the last address of a repeated name
+    /// applies. With `dhcp`, `addresses`, `mask` and `gateway` are ignored. Refused if devices exchange
     /// addresses in a circle.
     Q_INVOKABLE Batch *changeAddresses(const QString &family, const QString &title, const QStringList &macs,
                                        const QStringList &addresses, const QString &mask,
                                        const QString &gateway, bool dhcp);
 
-    /// The devices and settings of putAddressesBack(), as entries for BatchPreview::setEntries(): the
-    /// settings before an ended changeAddresses(). Includes devices that did not respond, since their address
-    /// may have changed nevertheless.
+    /// What putAddressesBack() would do for an ended batch that changed addresses: its devices, each with the
+    /// settings before the batch, as entries for BatchPreview::setEntries(). Devices whose address is
+    /// certainly unchanged are left out; devices that did not respond are included, since their address may
+    /// have changed. Changes nothing. Empty if `batch` is null.
     Q_INVOKABLE [[nodiscard]] QVariantList addressesToPutBack(Batch *batch) const;
 
-    /// Restores the addresses of the devices of the batch with these identities. Devices that do not respond
-    /// at their rows' addresses, or have no row, are searched by MAC first. Null without refused() if `batch`
-    /// is null or running.
+    /// Changes the devices of `batch` with these identities back to their settings before that batch. Devices
+    /// that do not respond at their rows' addresses, or have no row, are searched by MAC or UUID first. Null
+    /// without refused() if `batch` is null or running, or has none of the devices.
     Q_INVOKABLE Batch *putAddressesBack(Batch *batch, const QString &title, const QStringList &identities);
 
-    /// Copies the encode settings of the current session's channel to devices by address and port.
+    /// Copies the encode settings of the current session's selected channel to these devices.
     Q_INVOKABLE Batch *copyEncodeSettings(const QString &family, const QString &title,
                                           const QStringList &ipports);
 
-    /// Saves a snapshot of each channel of the current session to `folder`, one after another. `ipport` is
-    /// the address and port of its device, `channelNames` are shown in the results.
+    /// Saves a snapshot of each channel of the current session to the folder `folder` in the folder of
+    /// snapshots, one after another. `ipport` is the address and port of the session's device, `channelNames`
+    /// are shown in the results. Cannot be retried. Null without refused() if there is no session.
     Q_INVOKABLE Batch *takeSnapshots(const QString &family, const QString &title, const QString &ipport,
                                      const QStringList &channelNames, const QString &folder);
 
-    /// Stops the running batch because the application closes, and logs the devices that are not done.
+    /// Stops the running batch because the application closes, and writes a log message with the devices that
+    /// are not done. Does not wait. Does nothing without a running batch.
     Q_INVOKABLE void stopForExit() const;
 
-    /// Repeats an ended batch for the devices that may succeed now. If the steps log in by address, devices
-    /// whose rows are gone or have other addresses now are left out, and reported by refused(). Null without
-    /// refused() if `batch` is null or running.
+    /// Repeats an ended batch for its Batch::devicesToRetry(). If the steps log in by address, devices whose
+    /// rows are gone or have other addresses now are left out; refused() states them, also if a batch is
+    /// started for the others. Null without refused() if `batch` is null or running, or has no device to
+    /// retry.
     Q_INVOKABLE Batch *retry(Batch *batch);
 
     /// Same for the device with this identity only.
     Q_INVOKABLE Batch *retryDevice(Batch *batch, const QString &identity);
 
-    /// Writes the results of a batch to a file on a separate thread: a workbook, or comma-separated text if
-    /// the name ends in ".csv". resultsSaved() follows. Does nothing without a batch.
+    /// Writes the results of a batch to the file `path` on a separate thread and returns immediately, see
+    /// saveBatchResults(). resultsSaved() follows. Does nothing if `batch` is null.
     Q_INVOKABLE void saveResults(Batch *batch, const QString &path);
 
-    /// Same for all kept batches, in one file.
+    /// Same for all kept batches, in one file. Does nothing if there are none.
     Q_INVOKABLE void saveAllResults(const QString &path);
 
-    /// Accounts of devices have changed: refused devices of the latest batch may be retryable.
+    /// Must be called after accounts of devices have changed: devices of the latest batch that refused their
+    /// account may be retryable.
     void noteAccounts() const;
 
-    /// BatchPlan::accountOf for steps that log in with the accounts of the rows.
+    /// A BatchPlan::accountOf for steps that log in with the accounts of the rows.
     [[nodiscard]] std::function<DeviceAccount(const BatchDevice &device)>
     rowAccounts(const QString &family) const;
 
-    /// The default policy: devices in parallel as set by the user, deadline of 60 s, pause after 5 refusals.
+    /// The default policy: the number of devices in parallel that the user has set, a deadline of 60 s for
+    /// each step, a pause after 5 refused passwords in a row.
     [[nodiscard]] BatchPolicy usualPolicy() const;
 
-    /// Whether a batch can start now. If not, emits refused() with the reason.
+    /// Whether no batch runs, so that a batch can start now. If one runs, emits refused() and returns false.
     Q_INVOKABLE [[nodiscard]] bool mayStart();
 
-    /// Starts a batch with this plan. Returns null after refused() if another batch runs or no thread is
-    /// free.
+    /// Starts a batch with this plan and releases the steps of the earlier batches. Returns null after
+    /// refused() if another batch runs or the engine does not accept the batch.
     Batch *start(BatchPlan plan);
 
 Q_SIGNALS:
     void currentChanged();
     void runningChanged();
-    void refused(const QString &message);
+    void refused(const QString &message); ///< reason or hint in the user's language
 
-    void retried(Batch *earlier, Batch *again); ///< emitted before the first result of `again`
+    /// `again` has started as a retry of `earlier`. Emitted before the first result of `again`.
+    void retried(Batch *earlier, Batch *again);
 
-    /// `reason` is the system's error message; the file is unchanged in that case. Empty on success.
+    /// saveResults() or saveAllResults() has ended. `reason` is empty on success, otherwise an error message;
+    /// the file is unchanged then.
     void resultsSaved(const QString &path, const QString &reason);
 
 private:

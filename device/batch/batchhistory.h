@@ -5,10 +5,11 @@
 
 #include <QPointer>
 
-/// The kept batches of the session as table rows, newest first. Keys of a row: "identity", "title", "time" of
-/// its start ("HH:mm:ss"), "counts" ("done / total" while running; then the succeeded and waiting devices
-/// instead of the done ones), "running" (bool) and "complete" (bool: ended without failed or not done
-/// devices). Lives on the main thread.
+/// The kept batches of Batches as table rows, newest first. Keys of a row: "identity" (a unique text),
+/// "title", "time" (of the start, "HH:mm:ss"), "counts" ("done / total" while the batch runs; after its end
+/// the succeeded and waiting devices are counted instead of the done ones), "running" (bool) and "complete"
+/// (bool: the batch has ended, and no device failed or is not done). Updates itself. Lives on the main
+/// thread.
 class BatchHistory : public DialogRows
 {
     Q_OBJECT
@@ -19,7 +20,7 @@ public:
     [[nodiscard]] Batches *batches() const { return m_batches; }
     void setBatches(Batches *batches);
 
-    /// The batch of a row, null when `row` is out of range.
+    /// The batch of a row, owned by Batches; null if `row` is out of range.
     Q_INVOKABLE [[nodiscard]] Batch *batchAt(int row) const;
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = QModelIndex()) const override;

@@ -14,7 +14,8 @@
 
 class CDeviceFactory;
 
-/// Network settings of a device.
+/// Network settings of a device: dotted IPv4 texts without a port. They are empty if unknown or if the device
+/// gets them by DHCP.
 struct AddressSettings
 {
     QString address;
@@ -26,10 +27,10 @@ struct AddressSettings
 /// A device of a batch.
 struct BatchDevice
 {
-    QString name;             ///< name that the page uses: address and port, or MAC
-    QString identity;         ///< name of its row, see rowName()
+    QString name;             ///< unique in the batch; the page's name: address and port, MAC, or other text
+    QString identity;         ///< name of its row, see rowName(); without a row, `name`
     QString ipport;           ///< address and port at the start of the batch; ":port" without an address
-    QString title;            ///< name and model, shown to the user
+    QString title;            ///< deviceTitle(): name and model, shown to the user
     QString login = {};       ///< see BatchItem::login
     QString key = {};         ///< see workKey(); set at the start of the batch
     bool isUpgrading = false; ///< being upgraded at the start of the batch: gets no request
@@ -45,25 +46,26 @@ struct BatchOutcome
 /// Definition of a batch.
 struct BatchPlan
 {
-    QString family; ///< of the devices
+    QString family; ///< device family, see dhFamily
     QString title;  ///< name of the work, shown to the user
 
-    /// Id of the work. Success in a batch removes the failed marks of earlier batches with the same id.
-    /// Empty: `title` is the id.
+    /// Id of the work. If a device succeeds in the batch, its failed mark (FailedMarks) of earlier batches
+    /// with the same id is removed. Empty: `title` is the id.
     QString work = {};
 
     QList<BatchDevice> devices = {};
     BatchPolicy policy = {};
 
-    /// Makes the step of a device. Called on the main thread, at the start and at each retry.
+    /// Makes the step of a device. Called on the main thread for each device, at the start and at each retry.
+    /// Must not be empty. Released when the batch cannot be retried any more.
     std::function<DeviceStep(const BatchDevice &device)> stepOf = {};
 
     /// The account that the step of a device uses now. After a refused login, a device is retried only if
     /// this account has changed. Called on the main thread. Empty if the steps use other accounts.
     std::function<DeviceAccount(const BatchDevice &device)> accountOf = {};
 
-    /// Runs once in each batch and each retry, on the thread of the first step, before that step. May be
-    /// empty.
+    /// Runs once in each batch and each retry, on the thread of the first step, before that step; the other
+    /// steps wait for it. Its outcome is ignored. May be empty.
     DeviceStep preparation = {};
 
     /// Receives the results of devices in the order of completion, at most once every 16 ms, and at the end
@@ -71,7 +73,8 @@ struct BatchPlan
     /// Batch::resulted(). May be empty.
     std::function<void(const QList<BatchOutcome> &outcomes)> takeOutcomes = {};
 
-    /// Whether the steps log in by address. Two rows with one address are then the same device.
+    /// Whether the steps log in by address. Two rows with one address are then the same device: after one of
+    /// them has refused an account, the account is not tried for the other.
     bool isByAddress = false;
 
     /// Whether failed devices can be retried in another batch.
@@ -84,40 +87,43 @@ struct BatchPlan
     /// end keeps the row of a device that is being upgraded.
     bool holdsRows = true;
 
-    /// Whether results are written to "res" of the rows. The steps write their own results; the batch writes
-    /// those of devices that were not done or are being upgraded.
+    /// Whether "res" of the rows shows the results. The steps themselves write it; if this is true, the batch
+    /// writes it for the devices whose step did not run: not done, or being upgraded.
     bool notesResults = false;
 
     /// Whether failed devices get a mark (FailedMarks). False for work that only reads from devices.
     bool marksFailed = true;
 
-    /// Whether an upgrade state in a row is that of this batch itself, and is no reason to skip the device.
+    /// Whether the rows already show the upgrades of this batch when it starts. If so, a running upgrade in a
+    /// row is no reason to skip the device.
     bool rowsShowIt = false;
 
-    QHash<QString, AddressSettings> addressesBefore = {}; ///< by identity; only for address changes
+    /// Settings of the devices before the batch, by identity; only for address changes, otherwise empty.
+    QHash<QString, AddressSettings> addressesBefore = {};
 };
 
-/// Makes the BatchDevice of a device that a page names by address and port or by MAC. Without a row, `name`
-/// is also its identity and ipport. Main thread.
+/// Makes the BatchDevice of the row with this name (see rowName()) or, if there is none, of the row at this
+/// address and port. Without a row, `name` is also its identity and ipport, and its title is empty. Main
+/// thread.
 [[nodiscard]] BatchDevice batchDevice(CDeviceFactory &factory, const QString &family, const QString &name);
-/// Same for several devices; duplicate names are removed.
+/// Same for several devices, in their order; duplicate names are removed.
 [[nodiscard]] QList<BatchDevice> batchDevices(CDeviceFactory &factory, const QString &family,
                                               const QStringList &names);
 
-/// Rows by "ipport". Of several rows with one address the first that is not offline; the last one if all are
-/// offline.
+/// Rows (JSON objects) by "ipport". Of several rows with one address: the first one that is not "lost", or
+/// the last one if all are lost.
 [[nodiscard]] QHash<QString, QJsonObject> rowsByAddress(const QVariantList &rows);
 
-/// The key of a device in BatchEngine. Batches and pages reserve the device with it. `rowThere` is the row
-/// for `ipport` from rowsByAddress(), empty if there is none. `identity` is the key of a device without
-/// address.
+/// The key of a device in BatchEngine (BatchItem::device), which batches and pages use for the same device.
+/// `rowThere` is the row for `ipport` from rowsByAddress(), empty if there is none. The key is the name of
+/// that row, `ipport` without a row, or `identity` if `ipport` has no address.
 [[nodiscard]] QString workKey(const QJsonObject &rowThere, const QString &ipport, const QString &identity);
 
-/// The MAC of a device; empty if its row has none.
+/// The MAC of a device, if its row is named by it; otherwise empty.
 [[nodiscard]] QString macOf(const BatchDevice &device);
 
-/// The result of a device and its text, in the user's language.
+/// The result of a device and the text of its outcome as one text, in the user's language.
 [[nodiscard]] QString outcomeText(const StepOutcome &outcome);
 
-/// Whether a retry with the same data may succeed.
+/// Whether a retry with the same data and account may succeed. True for LoginResult::NotDone.
 [[nodiscard]] bool maySucceedLater(const StepOutcome &outcome);

@@ -8,12 +8,16 @@
 
 class CDeviceFactory;
 
-/// The devices of a planned batch as table rows, each with its action and a note. The note is a warning, or
-/// the reason why the device will be skipped. A device that the user unchecks does not take part in the batch
-/// and has no note. Lives on the main thread.
+/// The devices of a planned batch as table rows, each with its action (the new value, or what will be done)
+/// and a note. The note is a warning, or the reason why the device will be skipped. A device that the user
+/// unchecks does not take part in the batch and has no note. The preview sends nothing and starts nothing.
+/// The device list is read when the devices are set; later changes of the list have no effect. Without a
+/// factory, the list counts as empty. Lives on the main thread.
 ///
-/// Keys of a row: "num" (from 1), "title" (name and model), "mac", "ipport", "identity", "checked", "action"
-/// (empty if the row is skipped or unchecked), "note" and "kind" (a Kind; Planned if unchecked).
+/// Keys of a row: "num" (int from 1), "title" (name and model), "mac", "ipport", "identity", "checked"
+/// (bool), "action" (empty if the row is skipped or unchecked), "note" (in the user's language) and "kind" (a
+/// Kind; Planned if unchecked). "identity" is the name of the device's row unless a function states
+/// otherwise.
 class BatchPreview : public DeviceSelection
 {
     Q_OBJECT
@@ -26,8 +30,8 @@ public:
     /// Kind of a row.
     enum Kind
     {
-        Planned,
-        Warned,
+        Planned, ///< part of the batch
+        Warned,  ///< part of the batch, with a warning in "note"
         Skipped, ///< part of the batch, but gets no request
     };
     Q_ENUM(Kind)
@@ -37,23 +41,26 @@ public:
     [[nodiscard]] CDeviceFactory *deviceFactory() const;
     void setDeviceFactory(CDeviceFactory *deviceFactory);
 
-    /// The text of "action" for devices that were not set by setEntries().
+    /// The text of "action" of all devices, except of those that setEntries() has set.
     [[nodiscard]] QString action() const { return m_action; }
     void setAction(const QString &action);
 
-    [[nodiscard]] int warningCount() const { return m_warningCount; } ///< among checked rows
+    // Numbers of checked rows of the kinds Warned and Skipped.
+    [[nodiscard]] int warningCount() const { return m_warningCount; }
     [[nodiscard]] int skippedCount() const { return m_skippedCount; }
 
     /// Sets the devices from rows of a DeviceTableModel, all of them checked.
     Q_INVOKABLE void setDevices(const QVariantList &rows);
 
-    /// Sets the devices with these addresses and ports, all of them checked.
+    /// Sets the devices with these addresses and ports, all of them checked. An address without a row of the
+    /// list is a device without other values.
     Q_INVOKABLE void setAddresses(const QStringList &ipports);
 
-    /// Sets the devices and actions, all of them checked: maps of "name" (returned by checkedIdentities()),
-    /// "ipport", "action" and, optionally, "title" (put before that of the device), "mac" (of a device
-    /// without a row), "hindrance" (reason to skip the device) and "newAddress". The row of a device is found
-    /// by "name", otherwise by "ipport".
+    /// Sets the devices and their actions, all of them checked. Each entry is a map of "name", "ipport" and
+    /// "action" and, optionally, "title" (put before the title of the device), "mac" (of a device without a
+    /// row), "hindrance" (reason to skip the device, in the user's language) and "newAddress" (the address
+    /// that the device gets, for warnings). "name" becomes the identity, which checkedIdentities() returns.
+    /// The row of the device is the one with this name, otherwise the one at "ipport".
     Q_INVOKABLE void setEntries(const QVariantList &entries);
 
     // "ipport" of the checked rows, and of the others, in row order.
@@ -65,16 +72,16 @@ public:
 
 Q_SIGNALS:
     void factoryChanged();
-    void judged();
+    void judged(); ///< actions, notes, kinds and counts were computed again
 
 protected:
-    /// The planned result of a row.
+    /// The values that are computed for a row.
     struct Judgement
     {
         Kind kind = Planned;
         QString action = {};
         QString note = {};
-        bool isConflict = false; ///< the row is highlighted
+        bool isConflict = false; ///< role "conflict": the table highlights the row
     };
 
     /// A device of the list at the time when the devices were set.
@@ -85,22 +92,24 @@ protected:
         QString description; ///< model and MAC; address and port if it reports neither
     };
 
-    /// The judgement of a checked row. By default a device is skipped if it has a hindrance. It is warned if
-    /// another device that is not offline has its address and port, if another checked device gets its new
-    /// address, or if another device of the list, also an offline one, has the new address and keeps it.
+    /// The judgement of a checked row. By default a device is Skipped if it has a hindrance. It is Warned if
+    /// another device that is not "lost" has its address and port, if another checked device gets the same
+    /// new address, or if another device of the list, also a lost one, has the new address and keeps it.
     [[nodiscard]] virtual Judgement judgementOf(int row) const;
 
-    /// Called once before judgementOf() is called for all checked rows: after a change of the checked rows
-    /// and by rejudge().
+    /// Called by rejudge() before judgementOf(), so that a subclass can compute values for all rows. Must not
+    /// call rejudge().
     virtual void prepare() {}
 
-    /// Computes the judgements of all rows again and emits judged().
+    /// Computes the judgements of all rows again and emits judged(). Called when devices are set or checked;
+    /// a subclass calls it when its settings change.
     void rejudge();
 
     /// Reason to skip the device of a row, in the user's language; empty if there is none. By default the
     /// "hindrance" of setEntries(), a device that is not initialised, and a running upgrade.
     [[nodiscard]] virtual QString hindranceOf(int row) const;
     [[nodiscard]] const QList<ListedDevice> &listedDevices() const { return m_listed; }
+    /// The values of the device of a row, without those that are computed.
     [[nodiscard]] QVariantMap deviceAt(int row) const { return DeviceSelection::valuesOf(row); }
     [[nodiscard]] QString addressAndPortOf(int row) const;
 

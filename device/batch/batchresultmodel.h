@@ -7,10 +7,11 @@
 #include <QTimer>
 
 /// The devices of a batch as table rows, ordered by state and then as in the batch. Keys of a row: "identity"
-/// (its index in the batch, as text), "device" (address and port), "mac" (empty if unknown), "name" (name and
-/// model in one text), "result" (text in the user's language; empty in the state ToCome), "time" of the
-/// result ("HH:mm:ss"; empty without one) and "state" (a State). Updated 250 ms after a result, and at the
-/// end of the batch. Lives on the main thread.
+/// (its index in the batch, as text; not the name of a device row), "device" (address and port), "mac" (empty
+/// if unknown), "name" (name and model in one text), "result" (text in the user's language; empty in the
+/// state ToCome), "time" of the result ("HH:mm:ss"; empty without one) and "state" (a State). The rows are
+/// built again 250 ms after a result, and at the end of the batch. Without a batch, or after its deletion,
+/// there are no rows. Lives on the main thread.
 class BatchResultModel : public DialogRows
 {
     Q_OBJECT
@@ -20,10 +21,10 @@ public:
     /// State of a device, in the order of the rows.
     enum State
     {
-        Failed,
+        Failed,  ///< any other result
         NotDone, ///< the batch has ended without a result of the device
         Skipped, ///< no request was sent because of the device's state
-        Waiting, ///< the first step of the work has succeeded; a further one must follow
+        Waiting, ///< the first step of the work has succeeded; the user must start a further one
         Succeeded,
         ToCome, ///< no result yet, and the batch runs
     };
@@ -34,7 +35,7 @@ public:
     [[nodiscard]] Batch *batch() const { return m_batch; }
     void setBatch(Batch *batch);
 
-    /// Whether only devices that failed or were not done are shown.
+    /// Whether only devices in the states Failed and NotDone are shown.
     [[nodiscard]] bool onlyFailed() const { return m_onlyFailed; }
     void setOnlyFailed(bool only);
 

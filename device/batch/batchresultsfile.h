@@ -10,8 +10,10 @@ struct BatchRecord
     QList<Batch::Entry> entries;
 };
 
-/// Writes a title line and one line for each device: address and port, MAC, name and model, title of the
-/// batch, result text, time ("yyyy-MM-dd HH:mm:ss"). The file is a workbook, or comma-separated UTF-8 text if
-/// the path ends in ".csv" (upper or lower case). Any thread. Returns an error message and leaves the file
-/// unchanged on failure; empty on success.
+/// Writes the results of these batches to one file, which is replaced if it exists. It has a title line and
+/// one line for each device: address and port, MAC, name and model, title of the batch, result text, time of
+/// the result ("yyyy-MM-dd HH:mm:ss", local time; empty without a result). The file is a workbook, or
+/// comma-separated UTF-8 text if the path ends in ".csv" (upper or lower case). Returns an empty string on
+/// success, otherwise an error message; the file is unchanged then. Any thread; blocks until the file is
+/// written.
 [[nodiscard]] QString saveBatchResults(const QList<BatchRecord> &records, const QString &path);

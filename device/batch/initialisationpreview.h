@@ -3,9 +3,10 @@
 
 #include "device/batch/batchpreview.h"
 
-/// The devices that the user has checked for initialisation: factory-new devices first, then those that will
-/// be skipped. Additional keys of a row: "type" and "vision" (firmware version). The devices are reached by
-/// MAC or UUID, so a shared address is not a conflict. Lives on the main thread.
+/// The devices that the user has checked for initialisation: devices that are not initialised first, then
+/// those that are. A device is skipped if it is initialised, is being upgraded, or has neither MAC nor UUID.
+/// Additional keys of a row: "type" and "vision" (firmware version). The devices are reached by MAC or UUID,
+/// so a shared address is not a conflict. Lives on the main thread.
 class InitialisationPreview : public BatchPreview
 {
     Q_OBJECT
@@ -13,11 +14,12 @@ class InitialisationPreview : public BatchPreview
 public:
     explicit InitialisationPreview(QObject *parent = nullptr) : BatchPreview(parent) {}
 
-    /// Sets the devices from rows of a DeviceTableModel, all of them checked.
+    /// Sets the devices from rows (maps) of a DeviceTableModel, all of them checked.
     Q_INVOKABLE void setTicked(const QVariantList &rows);
 
-    // Number and identities of the checked devices that will be initialised.
+    /// Number of checked devices that will be initialised, that is, not skipped.
     [[nodiscard]] int deviceCount() const { return checkedCount() - skippedCount(); }
+    /// Their identities (names of rows), in row order.
     Q_INVOKABLE [[nodiscard]] QStringList identities() const;
 
 protected:

@@ -7,9 +7,10 @@
 
 #include <utility>
 
-/// Makes names from one pattern: {n} is the number of the row counted from `start` with at least `digits`
-/// digits, {model} the model of the device, {ip4} the last number of its IPv4 address (empty for IPv6).
-/// Unchecked rows are counted too. Names have no spaces at their ends. "action" of a checked row is its name.
+/// Makes names from one pattern, for the channels of one device or for channel 1 of several cameras. In the
+/// pattern, {n} is the number of the row, {model} the model of the device, and {ip4} the last number of its
+/// IPv4 address (empty for IPv6). Rows are numbered from `start` with at least `digits` digits; unchecked
+/// rows are counted too. Names have no spaces at their ends. "action" of a checked row is its planned name.
 /// Lives on the main thread.
 ///
 /// A recorder in a list of cameras is skipped and gets neither name nor number, because its channel 1 shows
@@ -20,7 +21,8 @@ class NamePlan : public BatchPreview
     Q_PROPERTY(QString pattern READ pattern WRITE setPattern NOTIFY judged)
     Q_PROPERTY(int start READ start WRITE setStart NOTIFY judged)
     Q_PROPERTY(int digits READ digits WRITE setDigits NOTIFY judged)
-    /// Why the pattern cannot be used, in the user's language; empty if it can.
+    /// Why the pattern cannot be used, in the user's language: it is empty, has an unknown {...}, or makes a
+    /// name that is too long for devices. Empty if it can be used.
     Q_PROPERTY(QString fault READ fault NOTIFY judged)
     /// Whether there are several rows and the pattern gives all rows of one model the same name.
     Q_PROPERTY(bool repeated READ isRepeated NOTIFY judged)
@@ -36,17 +38,18 @@ public:
     [[nodiscard]] QString fault() const { return m_fault; }
     [[nodiscard]] bool isRepeated() const;
 
-    /// Sets the channels of the device at `ipport`; the name of a row is the channel number from 0.
+    /// Sets the rows to the `count` channels of the device at `ipport`, all of them checked. The identity of
+    /// a row is the channel number from 0, as text.
     Q_INVOKABLE void takeChannels(const QString &ipport, int count);
-    /// Sets the cameras; the name of a row is address and port. All rows are checked in both cases.
+    /// Sets the rows to these devices, all of them checked. The identity of a row is its address and port.
     Q_INVOKABLE void takeCameras(const QStringList &ipports);
 
-    /// The number of cameras among these devices.
+    /// The number of these devices that are not recorders; all of them without a factory.
     Q_INVOKABLE [[nodiscard]] int countCameras(const QStringList &ipports) const;
 
-    // The names of the checked rows without recorders (see takeChannels() and takeCameras()), and the planned
-    // names in the same order.
+    /// The identities of the checked rows without recorders, see takeChannels() and takeCameras().
     Q_INVOKABLE [[nodiscard]] QStringList namedIdentities() const;
+    /// The planned names of these rows, in the same order.
     Q_INVOKABLE [[nodiscard]] QStringList names() const;
 
 protected:

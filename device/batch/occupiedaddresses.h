@@ -9,7 +9,8 @@
 #include <algorithm>
 #include <optional>
 
-/// The addresses that devices of a batch still have. Used by steps that run one after another; not
+/// The addresses that devices of a batch of address changes still have, so that no device gets the address of
+/// another one. Addresses are texts without a port. Used by steps that run one after another; not
 /// thread-safe.
 class OccupiedAddresses
 {
@@ -17,11 +18,12 @@ public:
     /// The device that still has an address.
     struct Holder
     {
-        QString title;      ///< its title or identity
-        bool stays = false; ///< its change has failed, and a retry cannot succeed
+        QString title;      ///< its title, or its identity if that is empty
+        bool stays = false; ///< stay() was called: its change has failed, and a retry cannot succeed
     };
 
-    /// A device may have the address of its row, or the address before its failed changes: both are occupied.
+    /// Each device occupies the address of its row. It also occupies its address in plan.addressesBefore:
+    /// after a failed change, its row may show an address that the device does not have.
     explicit OccupiedAddresses(const BatchPlan &plan)
     {
         for (const BatchDevice &device : plan.devices) {
@@ -45,14 +47,14 @@ public:
         return Holder{.title = m_titles.value(*other), .stays = m_staying.contains(*other)};
     }
 
-    /// The device has another address now.
+    /// The change of the device has succeeded: it occupies no address any more.
     void leave(const QString &identity)
     {
         for (const QString &address : m_addresses.values(identity))
             m_devices.remove(address, identity);
     }
 
-    /// The change of the device has failed permanently: it keeps its address.
+    /// The change of the device has failed, and a retry cannot succeed: it keeps its addresses.
     void stay(const QString &identity) { m_staying.insert(identity); }
 
 private:

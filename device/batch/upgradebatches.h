@@ -4,8 +4,8 @@
 
 #include <QPointer>
 
-/// Firmware upgrades as batches: of devices in the list, and of the lines of an upgrade document (a
-/// workbook).
+/// Firmware upgrades as batches: of devices in the list, and of the lines of an upgrade document (a workbook
+/// with devices and firmware files, to which the results are written).
 ///
 /// Lives on the main thread.
 class UpgradeBatches : public QObject
@@ -21,35 +21,40 @@ public:
 
     [[nodiscard]] Batch *last() const { return m_batch; }
 
-    /// Sets the firmware file of these rows. Returns an error message in the user's language; empty if all
-    /// devices can be upgraded with it.
+    /// Sets the firmware file of these rows (names of rows), see CDeviceBase::setUpgradeFiles(). `path` is a
+    /// path or "file:///" URL. Returns an error message in the user's language if a device cannot be upgraded
+    /// with the file; the file is then set nevertheless, and the row shows the reason. Otherwise empty.
     Q_INVOKABLE [[nodiscard]] QString chooseFile(const QStringList &identities, const QString &path);
 
-    // Each function below returns the batch, or null if it was not started. QML does not own the batch.
+    // Each function below returns the batch, or null after Batches::refused() if it was not started. QML does
+    // not own the batch. `title` is the name of the work for the user.
 
-    /// Upgrades the devices of these rows, each with the file in its row.
+    /// Upgrades the devices of these rows (names of rows), each with the file in its row. A device that is
+    /// not initialised is skipped. ended() follows, also after a retry.
     Q_INVOKABLE Batch *start(const QString &title, const QStringList &identities);
 
-    /// Upgrades the devices of the document lines with these numbers (as texts). documentEnded() follows,
-    /// also if the document is refused, and after a retry, whose results are written to the document as well.
-    /// It does not follow if another batch is running.
+    /// Upgrades the devices of the lines of the document at `path`. `lines` are the line numbers in the file,
+    /// as texts. documentEnded() follows, also if the document is refused, and again after a retry, whose
+    /// results are written to the document as well. It does not follow if another batch is running.
     Q_INVOKABLE Batch *startDocument(const QString &title, const QString &path, const QStringList &lines);
 
 Q_SIGNALS:
     void lastChanged();
 
-    /// Rows of the list have changed. Emitted at the start of a batch, up to four times a second while
-    /// devices are upgraded, and at the end.
+    /// Upgrades have changed these rows of the list. Emitted at the start of a batch, up to four times a
+    /// second while devices are upgraded, and at the end.
     void rowsChanged(const QStringList &identities);
 
-    /// Same for more than 500 rows: reading the complete list is faster.
+    /// Emitted instead of rowsChanged() if more than 500 rows have changed: reading the complete list is
+    /// faster.
     void listChanged();
 
-    /// A batch of listed devices has ended; the numbers of devices by result.
+    /// A batch of start() has ended; the numbers of devices by result. Skipped devices are not counted.
     void ended(int upgraded, int failed, int notDone);
 
-    /// The results are written to the document file. `text` is a message for the user. `hasSuccess`: at
-    /// least one device was upgraded.
+    /// The upgrades of a document have ended. `text` is a message for the user: CDeviceBase's
+    /// upgradeDocumentResult(), which also states whether the results were written to the file. `hasSuccess`:
+    /// at least one device was upgraded.
     void documentEnded(const QString &text, bool hasSuccess);
 
 private:

@@ -6,9 +6,11 @@
 
 #include <stop_token>
 
-/// The devices that will be upgraded, from rows or from the lines of an upgrade document. "action" of a row
-/// is the name of the firmware file with its version. Additional key: "vision", the device's current version.
-/// For a document, "num" (int) and "identity" (text) are the number of the line. Lives on the main thread.
+/// The devices that will be upgraded, from rows of the list or from the lines of an upgrade document.
+/// "action" of a row is the name of the firmware file with its version. A device that cannot be upgraded with
+/// its file is skipped; a device that already has the version is warned. Additional key: "vision", the
+/// device's current version. For a document, "num" (int) and "identity" (text) are the number of the line in
+/// the file. Lives on the main thread.
 class UpgradePreview : public BatchPreview
 {
     Q_OBJECT
@@ -20,15 +22,19 @@ public:
     /// The number of checked devices that are not skipped.
     [[nodiscard]] int upgradeCount() const { return checkedCount() - skippedCount(); }
 
-    /// Sets the devices of these rows, each with the file in its row.
+    /// Sets the devices of these rows (names of rows), each with the file in its row, all of them checked. No
+    /// devices without a factory.
     Q_INVOKABLE void setIdentities(const QStringList &identities);
 
-    /// Reads an upgrade document on a thread of the back end and sets the devices of its lines.
-    /// documentRead() follows, unless setIdentities() or readDocument() is called before that.
+    /// Reads the upgrade document at `path` (a path or "file:///" URL) on a thread of the back end and
+    /// returns immediately. Then sets the devices of its lines, all of them checked, and emits
+    /// documentRead(). A later setIdentities() or readDocument() and the destructor cancel it. Does nothing
+    /// without a factory.
     Q_INVOKABLE void readDocument(const QString &path);
 
 Q_SIGNALS:
-    /// `refusal` is the reason why there are no lines, in the user's language; empty on success.
+    /// The document of readDocument() was read. `refusal` is the reason why there are no devices, in the
+    /// user's language; empty on success.
     void documentRead(const QString &refusal);
 
 protected:
@@ -39,11 +45,11 @@ private:
     /// Planned upgrade of a row.
     struct Upgrade
     {
-        QString device;  ///< current version of the device
-        QString file;    ///< name without folder
-        QString version; ///< of the file; empty if unknown
-        int refusal = UpgradeTools::None;
-        int line = 0; ///< of a document; 0 for a row
+        QString device;                   ///< current version of the device
+        QString file;                     ///< name without folder
+        QString version;                  ///< of the file; empty if unknown
+        int refusal = UpgradeTools::None; ///< UpgradeTools::Result: why it is skipped; None if it is not
+        int line = 0;                     ///< of a document; 0 for a row
     };
 
     void takeDocument(const QVariantMap &document);
