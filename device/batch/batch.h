@@ -98,7 +98,7 @@ public:
     /// and when the estimate has passed without further progress.
     [[nodiscard]] int secondsLeft() const;
     [[nodiscard]] BatchReport *report() { return &m_report; }
-    /// Whether Batches::putAddressesBack() can revert the batch.
+    /// Whether the batch changes addresses, so that Batches::putAddressesBack() can revert it after its end.
     [[nodiscard]] bool changesAddresses() const { return !m_plan.addressesBefore.isEmpty(); }
     /// Time of start().
     [[nodiscard]] const QDateTime &began() const { return m_began; }
@@ -107,8 +107,8 @@ public:
     [[nodiscard]] const QList<Entry> &entries() const { return m_entries; }
     [[nodiscard]] const BatchPlan &plan() const { return m_plan; }
 
-    /// Whether a retry of a device of devicesToRetry() is possible now, or would be after a change of its
-    /// account. False after releaseSteps().
+    /// Whether a retry of any device may succeed, now or after a change of its account. False after
+    /// releaseSteps() and if the plan cannot be retried.
     [[nodiscard]] bool hasRetryable() const;
 
     /// Releases the step maker of the plan, which may hold a password. The batch cannot be retried

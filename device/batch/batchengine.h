@@ -84,8 +84,8 @@ public:
     /// returned.
     int start(std::vector<BatchItem> items, const BatchPolicy &policy, std::shared_ptr<BatchWatcher> watcher);
 
-    /// Appends a step to the running batch with this number. The device of the step must not be in the batch
-    /// yet. Returns false, and drops the step, if the batch has ended or is stopped.
+    /// Appends a step to the running batch with this number. It runs after the earlier steps of its
+    /// device. Returns false, and drops the step, if the batch has ended or is stopped.
     bool append(int number, BatchItem item);
 
     /// Stops the batch with this number: destroys the steps that have not started, and requests the running

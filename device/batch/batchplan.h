@@ -73,8 +73,8 @@ struct BatchPlan
     /// Batch::resulted(). May be empty.
     std::function<void(const QList<BatchOutcome> &outcomes)> takeOutcomes = {};
 
-    /// Whether the steps log in by address. Two rows with one address are then the same device: after one of
-    /// them has refused an account, the account is not tried for the other.
+    /// Whether rows with the same address count as one device: after one of them has refused an account, the
+    /// account is not tried for the others. True for steps that log in by address, and for address changes.
     bool isByAddress = false;
 
     /// Whether failed devices can be retried in another batch.

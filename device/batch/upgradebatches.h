@@ -23,7 +23,8 @@ public:
 
     /// Sets the firmware file of these rows (names of rows), see CDeviceBase::setUpgradeFiles(). `path` is a
     /// path or "file:///" URL. Returns an error message in the user's language if a device cannot be upgraded
-    /// with the file; the file is then set nevertheless, and the row shows the reason. Otherwise empty.
+    /// with the file, otherwise an empty string. The file is set in either case, and the row shows the
+    /// reason, except for a device that is being upgraded.
     Q_INVOKABLE [[nodiscard]] QString chooseFile(const QStringList &identities, const QString &path);
 
     // Each function below returns the batch, or null after Batches::refused() if it was not started. QML does

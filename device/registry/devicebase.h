@@ -31,9 +31,8 @@ struct ImportSummary
 ///
 /// Parameters: `ipport` is the "address:port" of a device, an IPv6 address in brackets. `mac` is the name of
 /// a row: its MAC, or another identity if the device has not reported a MAC, see rowName(). `macs` are such
-/// names. `newip`, `newsubmask` and `newgateway` are dotted IPv4
-/// texts. "Blocks" means: until the device responds or
-/// the timeouts of the network library have passed.
+/// names. `newip`, `newsubmask` and `newgateway` are dotted IPv4 texts. "Blocks" means: until the device
+/// responds or the timeouts of the network library have passed.
 ///
 /// Rows: a row is a JSON object or map with the keys of DeviceRowKey. The current session is the one login
 /// that the back end keeps for the configuration pages.
@@ -307,7 +306,8 @@ public:
     /// it while reading the file. `path` is a path or "file:///" URL.
     virtual ImportPlan importPlan(const QString & /*path*/) { return {}; }
 
-    /// The row of a device, of either list; empty if there is none. The default converts getDeviceDetail().
+    /// The row of this name, of either list; empty if there is none. It may contain the password. The default
+    /// converts getDeviceDetail().
     virtual QJsonObject deviceRow(const QString &name);
 
     /// For refreshDevices(), but in the step itself, see DeviceRefresh::locate(). Blocks for about 6 s for up
@@ -323,13 +323,13 @@ public:
     /// runs are lost: the page blocks its input.
     virtual PageStep sessionStep(const SessionJob &job);
     /// For readDeviceDetail(). The value of the outcome is its map. Taking the outcome also writes the MAC of
-    /// the device to its row.
+    /// the device to its row, if the row has none.
     virtual PageStep detailStep(const QString &ipport);
 
     /// Runs a step on a thread of the back end and returns immediately. `ended` is called on the main thread
-    /// with the outcome, and must take it. If `stop` is requested before, `ended` is not called: the step
-    /// runs to its next safe point, and its outcome is dropped. A family without operations runs the step,
-    /// and calls `ended`, in this call.
+    /// with the outcome, whose `take` it must call. If `stop` is requested before, `ended` is not called: the
+    /// step runs to its next safe point, and its outcome is dropped. A family without operations runs the
+    /// step, and calls `ended`, in this call.
     virtual void runForPage(const PageStep &step, const std::stop_token &stop,
                             const std::function<void(const PageOutcome &outcome)> &ended);
 

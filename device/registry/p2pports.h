@@ -51,9 +51,11 @@ public:
     P2PPorts &operator=(const P2PPorts &) = delete;
 
     /// Returns the local port that is mapped to `devicePort` of the device with this P2P ID, adding a mapping
-    /// if there is none; 0 on failure. `requestedPort` is 0 for any local port; another value must be equal
-    /// to `devicePort`, otherwise the request fails. Blocks until the agent responds. Requests run one after
-    /// another, so that two requests for the same device get the same port.
+    /// if there is none; 0 on failure. `requestedPort` is 0 if the agent chooses the local port;
+    /// another value requests the local port of this number, which must be `devicePort`, otherwise the
+    /// request fails. If `devicePort` has several mappings, one with another number is returned. Blocks until
+    /// the agent responds. Requests run one after another, so that two requests for the same device get the
+    /// same port.
     [[nodiscard]] int portFor(const QString &deviceId, int devicePort, int requestedPort);
 
     /// portFor() without a requested port, for temporary use. Each successful call must be followed by
