@@ -6,8 +6,8 @@
 #include <QObject>
 #include <QStringList>
 
-/// The results of a batch, by device. Each device of the batch has succeeded, failed, been skipped, is
-/// waiting for a further step, or is not done. Lives on the main thread.
+/// The results of a batch, by device. Each device of the batch is in one of these states: succeeded, failed,
+/// skipped, waiting for a further step, or not done. Nothing is stored on disk. Lives on the main thread.
 class BatchReport : public QObject
 {
     Q_OBJECT
@@ -19,7 +19,8 @@ class BatchReport : public QObject
     Q_PROPERTY(int notDone READ notDone NOTIFY changed)
     Q_PROPERTY(QString summary READ summary NOTIFY changed)
 public:
-    /// Results in addition to LoginResult values. Any other result is a failure, unless isSkipped().
+    /// The results that are not failures. Every other result is a failure: a LoginResult, or another code of
+    /// resultName().
     enum Result
     {
         Waiting = resultCode(LoginResult::Unknown), ///< a further step follows
@@ -30,7 +31,8 @@ public:
     };
     Q_ENUM(Result)
 
-    /// Whether the batch sent no request to the device because of its state. The batch's preview shows this.
+    /// Whether the result means that the batch sends no request to the device because of the device's state.
+    /// The preview of a batch shows these devices before its start.
     [[nodiscard]] static constexpr bool isSkipped(int result)
     {
         return result == NotInitialised || result == Upgrading;
@@ -41,15 +43,16 @@ public:
     /// Clears the report and sets each device to NotDone. A name that is listed twice counts as two devices.
     Q_INVOKABLE void begin(const QStringList &devices);
 
-    /// Sets the result of the first device with this name that is NotDone or Waiting. Does nothing if the
-    /// batch has no such device.
+    /// Sets the result of the first device with this name whose result is NotDone or Waiting. Does nothing
+    /// if there is none: any other result is final.
     void note(const QString &device, int result);
 
     /// Same for several devices, with one changed() for all. Both lists must have the same length.
     void note(const QStringList &devices, const QList<int> &results);
 
-    // The names of the devices, in the order of the batch.
+    /// The names of the devices with this result, in the order of the batch.
     Q_INVOKABLE [[nodiscard]] QStringList devicesWith(int result) const;
+    /// The names of all devices whose result is not Succeeded, in the order of the batch.
     Q_INVOKABLE [[nodiscard]] QStringList devicesNotSucceeded() const;
 
     /// devicesNotSucceeded() followed by `leftOut`, the devices that were not part of the batch.
@@ -68,14 +71,15 @@ public:
     [[nodiscard]] int notDone() const { return m_counts.value(NotDone); }
     [[nodiscard]] int failed() const { return total() - succeeded() - waiting() - skipped() - notDone(); }
 
-    /// The number of devices for each kind of result, in the user's language; empty for an empty batch.
+    /// The numbers of devices by state, in the user's language. States without devices are omitted; empty
+    /// for an empty batch.
     [[nodiscard]] QString summary() const;
 
-    /// Same for a running batch: NotDone is shown as pending.
+    /// Same for a running batch: the text calls NotDone devices pending.
     [[nodiscard]] QString summaryOfRunning() const;
 
 Q_SIGNALS:
-    void changed();
+    void changed(); ///< a result has changed, or begin() was called
 
 private:
     struct Entry

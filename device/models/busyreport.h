@@ -4,8 +4,8 @@
 
 #include <QPointer>
 
-/// QML element that registers work in BusyState while `active` is true. The destructor ends the registration,
-/// so that a closed page or dialog leaves none. Lives on the main thread.
+/// QML element that registers a work in BusyState while `active` is true and `state` is not null. The
+/// destructor ends the registration, so that a closed page or dialog leaves none. Lives on the main thread.
 class BusyReport : public QObject
 {
     Q_OBJECT
@@ -17,22 +17,25 @@ public:
     explicit BusyReport(QObject *parent = nullptr);
     ~BusyReport() override;
 
+    /// May be null. A change ends the registration in the earlier object and starts one in the new object.
     [[nodiscard]] BusyState *state() const { return m_state; }
     void setState(BusyState *state);
 
-    /// The name of the work, shown to the user.
+    /// The name of the work, shown to the user. A change renames a running registration.
     [[nodiscard]] QString title() const { return m_title; }
     void setTitle(const QString &title);
 
-    /// BusyState::Rows by default. A change applies to the next registration.
+    /// The resource that the work needs: BusyState::Rows by default. A change has no effect on a running
+    /// registration, only on the next one.
     [[nodiscard]] BusyState::Need need() const { return m_need; }
     void setNeed(BusyState::Need need);
 
+    /// Whether the work runs; false initially.
     [[nodiscard]] bool isActive() const { return m_isActive; }
     void setActive(bool isActive);
 
 Q_SIGNALS:
-    void changed();
+    void changed(); ///< one of the properties has changed
 
 private:
     /// Starts or ends the registration according to `active` and `state`.

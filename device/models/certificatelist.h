@@ -6,12 +6,14 @@
 #include <atomic>
 #include <memory>
 
-/// Lists the refused device certificates in a dialog, where the user accepts them; changed ones first. Keys
-/// of a row: "identity", "device" (address and port), "mac" (or UUID; empty if unknown), "subject",
-/// "validity" (first and last day), "fingerprint", "stored" (the previously accepted fingerprint; empty for
-/// an unknown certificate) and "changed" (bool). Unknown certificates are checked initially, changed ones are
-/// not.
+/// The device certificates that were refused, for a dialog in which the user accepts them. A certificate is
+/// unknown (no certificate of the device was accepted before) or changed (it differs from the accepted one).
+/// Changed certificates are the first rows. Keys of a row: "identity", "device" (address and port), "mac"
+/// (or UUID; empty if unknown), "subject", "validity" (first and last day), "fingerprint", "stored" (the
+/// previously accepted fingerprint; empty for an unknown certificate) and "changed" (bool). load() checks
+/// the unknown certificates and unchecks the changed ones.
 ///
+/// The listener of the store belongs to this object: a store must not have two CertificateList objects.
 /// Lives on the main thread.
 class CertificateList : public DialogRows
 {
@@ -20,21 +22,23 @@ class CertificateList : public DialogRows
     /// See CertificateStore::problem().
     Q_PROPERTY(QString problem READ problem NOTIFY rowsChanged)
     Q_PROPERTY(int count READ rowCount NOTIFY rowsChanged)
-    Q_PROPERTY(int changedCount READ changedCount NOTIFY rowsChanged)
+    Q_PROPERTY(int changedCount READ changedCount NOTIFY rowsChanged) ///< number of changed certificates
     Q_PROPERTY(int checkedCount READ checkedCount NOTIFY checkedCountChanged)
     Q_PROPERTY(Qt::CheckState checkState READ checkState NOTIFY checkedCountChanged)
 public:
+    /// `store` must not be null. The rows are empty until load().
     explicit CertificateList(std::shared_ptr<CertificateStore> store, QObject *parent = nullptr);
     ~CertificateList() override;
 
-    /// Whether a certificate was refused since load().
+    /// Whether a certificate was refused since the last load(). It is then missing in the rows.
     [[nodiscard]] bool hasNewRefusals() const { return m_hasNewRefusals; }
 
     /// Replaces the rows by the certificates that are refused now, and clears hasNewRefusals.
     Q_INVOKABLE void load();
 
-    /// Stores the checked certificates as accepted. Returns an error message, empty on success. The rows are
-    /// unchanged until load().
+    /// Accepts the checked certificates and writes them to the file; blocks until that is done. Returns an
+    /// error message, empty on success. After an error, none is accepted. The rows are unchanged until
+    /// load().
     Q_INVOKABLE QString agree();
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = QModelIndex()) const override;
@@ -46,10 +50,11 @@ public:
     /// checked one by one; unchecked if no certificate is checked.
     [[nodiscard]] Qt::CheckState checkState() const;
 
-    /// Clamps the range to the rows. A range of several rows does not check changed certificates.
+    /// Checks or unchecks the rows from `first` to `last`, as far as they exist. A range of several rows
+    /// checks its unknown certificates only. A range of one row also checks a changed certificate.
     Q_INVOKABLE void setRangeChecked(int first, int last, bool checked);
 
-    /// Checks the unknown certificates and unchecks the changed ones; or unchecks all.
+    /// True: checks the unknown certificates and unchecks the changed ones. False: unchecks all.
     Q_INVOKABLE void setAllChecked(bool checked);
 
 Q_SIGNALS:
@@ -60,6 +65,7 @@ Q_SIGNALS:
 protected:
     [[nodiscard]] QVariantMap valuesOf(int row) const override;
     [[nodiscard]] bool isChecked(int row) const override { return m_rows.at(row).isChecked; }
+    /// Whether the certificate is a changed one.
     [[nodiscard]] bool isInConflict(int row) const override { return m_rows.at(row).certificate.isChanged(); }
 
 private:

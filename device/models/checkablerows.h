@@ -5,7 +5,8 @@
 
 #include <QStringList>
 
-/// The check boxes of the rows and of the table's header. Lives on the main thread.
+/// The check boxes of the rows and of the table's header. A subclass stores the rows and their check marks,
+/// and emits rowsChanged() and checkedCountChanged() after a change of its rows. Lives on the main thread.
 class CheckableRows : public DialogRows
 {
     Q_OBJECT
@@ -16,13 +17,15 @@ public:
     explicit CheckableRows(QObject *parent = nullptr);
 
     [[nodiscard]] int checkedCount() const;
-    [[nodiscard]] Qt::CheckState checkState() const; ///< of all rows together; unchecked without rows
+    /// The state of the header's box: Checked or Unchecked if that is true for all rows, otherwise
+    /// PartiallyChecked. Unchecked without rows.
+    [[nodiscard]] Qt::CheckState checkState() const;
 
     /// Checks or unchecks the rows from `first` to `last`, as far as they exist.
     Q_INVOKABLE void setRangeChecked(int first, int last, bool checked);
-    Q_INVOKABLE void setAllChecked(bool checked);
+    Q_INVOKABLE void setAllChecked(bool checked); ///< checks or unchecks all rows
 
-    /// The identities of the checked rows in their order.
+    /// The identities (see identityOf()) of the checked rows, in the order of the rows.
     Q_INVOKABLE [[nodiscard]] QStringList checkedIdentities() const;
 
 Q_SIGNALS:
@@ -30,6 +33,7 @@ Q_SIGNALS:
     void checkedCountChanged();
 
 protected:
-    /// Stores the check mark of an existing row. isChecked() returns it.
+    /// Stores the check mark of the row with this valid index, which isChecked() then returns. Must not emit
+    /// signals: the caller emits them once for all its rows.
     virtual void setChecked(int row, bool checked) = 0;
 };

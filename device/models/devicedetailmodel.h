@@ -5,15 +5,16 @@
 
 #include <QAbstractListModel>
 
-/// The lines of DeviceDetail that contain the search text, or whose group contains it. The roles are "group",
-/// "label" and "value". Lives on the main thread.
+/// The lines of DeviceDetail, filtered: a line is shown if it or the name of its group contains the search
+/// text. The case and spaces around the search text are ignored. The roles are "group", "label" and "value".
+/// Lives on the main thread.
 class DeviceDetailModel : public QAbstractListModel
 {
     Q_OBJECT
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
     Q_PROPERTY(int count READ rowCount NOTIFY linesChanged)
     Q_PROPERTY(int totalCount READ totalCount NOTIFY linesChanged) ///< including lines that are not shown
-    Q_PROPERTY(QString text READ text NOTIFY linesChanged)         ///< all lines as plain text
+    Q_PROPERTY(QString text READ text NOTIFY linesChanged)         ///< all lines, see DeviceDetail::textOf()
     /// Suggested name of a file for the text: address and port with "_" for special characters, and ".txt".
     /// Without an address "device.txt".
     Q_PROPERTY(QString fileName READ fileName NOTIFY linesChanged)
@@ -30,16 +31,19 @@ public:
     [[nodiscard]] QString text() const { return DeviceDetail::textOf(m_lines); }
     [[nodiscard]] QString fileName() const;
 
-    /// Clears the lines and the search text, and shows `detail` (keys of CDeviceBase::getDeviceDetail()).
+    /// Replaces the lines by those of `detail` (keys of CDeviceBase::getDeviceDetail()) and clears the
+    /// search text.
     Q_INVOKABLE void load(const QVariantMap &detail);
 
-    /// Adds further details of the same device; existing keys are replaced.
+    /// Adds further details of the same device, for example of CDeviceBase::readDeviceDetail(). A key that
+    /// exists already gets the new value. The search text stays.
     Q_INVOKABLE void add(const QVariantMap &detail);
 
-    /// The text of a shown line, for the clipboard; empty if `row` is out of range.
+    /// The text of a shown line (label and value), for the clipboard; empty if `row` is out of range.
     Q_INVOKABLE [[nodiscard]] QString lineText(int row) const;
 
-    /// Writes all lines to a file atomically. Returns false on failure, and logs the reason.
+    /// Writes `text` as UTF-8 to a file and replaces an existing one. Returns false on failure: the reason
+    /// is logged, and an existing file is unchanged.
     Q_INVOKABLE [[nodiscard]] bool write(const QString &path) const;
 
 Q_SIGNALS:

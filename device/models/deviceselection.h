@@ -6,8 +6,8 @@
 #include <QList>
 #include <QVariantList>
 
-/// Each row is a map with its own checked state, independent of the page that the row comes from. Lives on
-/// the main thread.
+/// Device rows of a page, copied into a dialog, where each has its own check mark. A row is a map with any
+/// keys; its "checked" is that of this dialog and not that of the page. Lives on the main thread.
 class DeviceSelection : public CheckableRows
 {
     Q_OBJECT
@@ -16,14 +16,15 @@ public:
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = QModelIndex()) const override;
 
-    /// Replaces the rows; all of them are checked.
+    /// Replaces the rows by these maps and checks all of them. The identity of a row is its "identity", or
+    /// its "mac" if that is empty.
     Q_INVOKABLE void setRows(const QVariantList &rows);
 
-    /// Same for rows without a name: "mac" of each is set to its index (from 0) as text.
+    /// Same for rows without identities: sets "mac" of each map to its index in `rows` (from 0) as text.
     Q_INVOKABLE void setNumberedRows(const QVariantList &rows);
 
 protected:
-    [[nodiscard]] QVariantMap valuesOf(int row) const override; ///< "checked" is the state in this dialog
+    [[nodiscard]] QVariantMap valuesOf(int row) const override;
     [[nodiscard]] bool isChecked(int row) const override { return m_rows.at(row).checked; }
     void setChecked(int row, bool checked) override { m_rows[row].checked = checked; }
 

@@ -13,20 +13,28 @@
 
 class CDeviceFactory;
 
-/// The rows of one device page. The roles are row keys ("state", "name", ...) and these:
-///  - "checked", "num" (from 1, as text)
-///  - "conflict": another row, shown or not and not offline, has the same "ipport"
-///  - "identity": see rowName()
+/// The rows of one device page, from the IPv4 or the IPv6 list. The roles are those keys of DeviceRowKey
+/// that the tables of the pages show ("state", "name", ...), and these:
+///
+///  - "checked" (bool), "num" (number of the row as shown, from 1, as text)
+///  - "conflict": another row has the same "ipport". Rows that a filter hides count; offline devices do not.
+///  - "identity": the name of the row, see rowName()
 ///  - "note": the user's note about the device, which the text search includes
-/// get() returns the keys of the row without "conflict", and in addition "failure" (the failed batches of the
-/// device, see FollowedMarks::messagesOf()) and "onlyNotDone" (see FailedMarks).
 ///
-/// The model reads all rows with one call of the factory's filterData() or filterDataIPV6() and filters them
-/// itself, so that list and filter are consistent. Checked states and order survive a refresh.
-/// Lives on the main thread.
+/// get() returns all keys of the row, also account and password, and in addition "checked", "num",
+/// "identity", "failure" (see FollowedMarks::messagesOf()) and "onlyNotDone" (see FailedMarks), but not
+/// "conflict".
 ///
-/// Qt's TableModel is not used because it reads its rows through JavaScript objects: with 10,000 devices each
-/// refresh would block the window for a quarter of a second, once a second during a search.
+/// refresh() reads all rows with one call of the factory's filterData() or filterDataIPV6(); the model then
+/// filters and orders them, so that rows, counts and conflicts are consistent. Check marks belong to the
+/// identity of a row: they survive a refresh and a filter that hides the row, until the row is removed from
+/// the list. The two lists have separate check marks. Functions about checked rows consider shown rows only,
+/// unless they say otherwise.
+///
+/// Lives on the main thread. A change of a property reads the rows again.
+///
+/// Qt's TableModel is not used because it reads its rows through JavaScript objects: with 10,000 devices
+/// each refresh would block the window for a quarter of a second, once a second during a search.
 class DeviceTableModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -35,16 +43,19 @@ class DeviceTableModel : public QAbstractListModel
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
     Q_PROPERTY(bool showInitialised READ showInitialised WRITE setShowInitialised NOTIFY filterChanged)
     Q_PROPERTY(bool showUninitialised READ showUninitialised WRITE setShowUninitialised NOTIFY filterChanged)
+    /// Whether the rows are those of the IPv6 list.
     Q_PROPERTY(bool ipv6 READ ipv6 WRITE setIpv6 NOTIFY filterChanged)
+    /// A text in the values or the note of a shown row; the case is ignored. Empty: all rows.
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY filterChanged)
+    /// The marks and the notes are not owned. Null: no device has one.
     Q_PROPERTY(FailedMarks *failedMarks READ failedMarks WRITE setFailedMarks NOTIFY failedMarksChanged)
     Q_PROPERTY(DeviceNotes *notes READ notes WRITE setNotes NOTIFY notesChanged)
     /// Whether only marked devices are shown, ordered by reason and then by address unless the user has
-    /// chosen another order. Reset to false when no mark is left.
+    /// chosen another order. Becomes false when no mark is left. A change clears failedOperation.
     Q_PROPERTY(bool onlyFailed READ onlyFailed WRITE setOnlyFailed NOTIFY filterChanged)
     Q_PROPERTY(QString failedOperation READ failedOperation WRITE setFailedOperation NOTIFY filterChanged)
-    /// Whether strings that are not an IPv4 address are ordered as address 0; otherwise they are the last
-    /// ones.
+    /// Position of strings that are not an IPv4 address in an order by address: before the addresses if
+    /// true, as address 0, otherwise after them.
     Q_PROPERTY(bool oddAddressesFirst READ oddAddressesFirst WRITE setOddAddressesFirst NOTIFY filterChanged)
     Q_PROPERTY(QString sortKey READ sortKey NOTIFY sortChanged)
     Q_PROPERTY(Qt::SortOrder sortOrder READ sortOrder NOTIFY sortChanged)
@@ -80,7 +91,8 @@ public:
     [[nodiscard]] DeviceNotes *notes() const { return m_notes; }
     void setNotes(DeviceNotes *notes);
     [[nodiscard]] bool onlyFailed() const { return m_onlyFailed; }
-    /// Title of the work whose marks are shown, while only marked devices are shown; empty: all marks.
+    /// Title of the work to whose marks onlyFailed and failedCount are restricted; empty: all marks. Becomes
+    /// empty when that work has no mark left.
     [[nodiscard]] QString failedOperation() const { return m_failedMarks.operation(); }
     void setFailedOperation(const QString &operation);
     void setOnlyFailed(bool only);
@@ -88,7 +100,7 @@ public:
     [[nodiscard]] Qt::SortOrder sortOrder() const { return m_sortOrder; }
 
     [[nodiscard]] int totalCount() const { return m_totalCount; }     ///< rows of the list before any filter
-    [[nodiscard]] int failedCount() const { return m_failedCount; }   ///< marked rows of the list
+    [[nodiscard]] int failedCount() const { return m_failedCount; }   ///< marked rows, also hidden
     [[nodiscard]] int checkedCount() const { return m_checkedCount; } ///< shown rows that are checked
     [[nodiscard]] int checkedUpgradingCount() const
     {
@@ -97,27 +109,32 @@ public:
     [[nodiscard]] int conflictCount() const { return m_conflictCount; } ///< shown rows in conflict
     [[nodiscard]] Qt::CheckState checkState() const; ///< of all shown rows, for the check box of the header
 
-    /// Reads the rows again. The page calls it on the factory's signalAddDeviceToTable.
+    /// Reads the rows again; does nothing without a factory. The page calls it on the factory's
+    /// signalAddDeviceToTable.
     Q_INVOKABLE void refresh();
 
-    /// Reads the row of one IPv4 device again, if it is shown. Results of a batch use it: reading all rows
-    /// for each result would take longer than the batch. Filters, order and "conflict" are updated by
-    /// refresh() only.
+    /// Reads the values of one row again, by its identity. Ignores a row that is not shown or was deleted.
+    /// Used for the results of a batch: reading all rows for each result would take longer than the batch.
+    /// Filters, order and "conflict" are updated by refresh() only.
     Q_INVOKABLE void refreshDevice(const QString &mac);
+    /// Same for several rows, with one signal for all.
     Q_INVOKABLE void refreshDevices(const QStringList &macs);
 
-    /// Cycles through ascending, descending and list order. Addresses are compared as numbers, strings by the
-    /// user's language.
+    /// Changes the order by a column: ascending, then descending, then the order of the list. Another `key`
+    /// starts with ascending. Addresses are compared as numbers, strings by the rules of the user's
+    /// language.
     Q_INVOKABLE void toggleSort(const QString &key);
 
     /// Sets key and direction of the order. An empty key is the order of the list.
     Q_INVOKABLE void setSort(const QString &key, Qt::SortOrder order);
 
+    // Check marks of shown rows. Indexes out of range are ignored.
     Q_INVOKABLE void setChecked(int row, bool checked);
-    Q_INVOKABLE void setRangeChecked(int first, int last, bool checked);
-    Q_INVOKABLE void setAllChecked(bool checked);
+    Q_INVOKABLE void setRangeChecked(int first, int last, bool checked); ///< both included
+    Q_INVOKABLE void setAllChecked(bool checked);                        ///< hidden rows keep their marks
 
-    /// Checks the devices with these identities, including hidden ones, and unchecks all others.
+    /// Checks the rows with these identities, also hidden ones, and unchecks all others of the list. An
+    /// identity that the list does not have is dropped by the next refresh().
     Q_INVOKABLE void setCheckedDevices(const QStringList &identities);
 
     /// The values of a row by key, for QML; empty if `row` is out of range.
@@ -130,23 +147,25 @@ public:
     /// there is none. Ignores case.
     Q_INVOKABLE [[nodiscard]] int rowStarting(const QString &text, int from) const;
 
-    /// Checks the shown rows that have the same value of `key` as `row`, and unchecks all other devices.
+    /// Checks the shown rows that have the same value of `key` as `row`, and unchecks all other rows, also
+    /// hidden ones. Does nothing if `row` is out of range.
     Q_INVOKABLE void checkSimilar(int row, const QString &key);
 
-    /// "identity" of the checked rows, in the order shown. Operations on IPv4 devices take it as `mac`.
+    /// The identities of the checked rows, in the order shown. The operations of the factory take them as
+    /// `mac`.
     Q_INVOKABLE [[nodiscard]] QStringList checkedMacs() const;
 
     /// The checked rows as get() returns them, in the order shown.
     Q_INVOKABLE [[nodiscard]] QVariantList checkedRows() const;
 
-    /// The checked rows of initialised devices, or of uninitialised devices.
+    /// Same, only the initialised devices, or only the uninitialised ones.
     Q_INVOKABLE [[nodiscard]] QVariantList checkedRowsWith(bool initialised) const;
 
-    /// Deletes the devices of the checked rows from the list. Returns the number of those that remain because
-    /// they are being upgraded.
+    /// Removes the checked rows from the device list and reads the rows again. A row whose device is being
+    /// upgraded stays. Returns the number of checked rows that stay; 0 without a factory.
     Q_INVOKABLE int deleteChecked();
 
-    /// The given rows as lines with tab-separated columns, for the clipboard. Rows out of range are ignored.
+    /// The given rows as lines for the clipboard, see DeviceTableRow::text(). Rows out of range are ignored.
     Q_INVOKABLE [[nodiscard]] QString textOf(const QList<int> &rows) const;
 
 Q_SIGNALS:
@@ -160,7 +179,7 @@ Q_SIGNALS:
     void checkedCountChanged();
 
 private:
-    [[nodiscard]] QVariantList readList() const;
+    [[nodiscard]] QVariantList readList() const; ///< m_deviceFactory must not be null
     [[nodiscard]] QList<DeviceTableRow> readRows();
     void updateMarks();
     void addNotes(QVariantList &list) const;

@@ -16,13 +16,13 @@ struct DeviceTableRow
 {
     QJsonObject values;
     QString identity;      ///< see rowName()
-    bool conflict = false; ///< another row, shown or not and not offline, has the same "ipport"
-    QString reason = {};   ///< reason of the device's mark, while only failed devices are shown
+    bool conflict = false; ///< another row of a device that is not offline has the same "ipport"
+    QString reason = {};   ///< FollowedMarks::reasonOf(); empty unless only marked devices are shown
 
     /// The value of a key. A missing key (IPv6 rows lack some) gives the initial value of new rows.
     [[nodiscard]] QVariant value(QLatin1StringView key) const;
 
-    /// The main columns separated by tabs, for the clipboard.
+    /// Name, type, model, address and port, MAC and version, separated by tabs, for the clipboard.
     [[nodiscard]] QString text() const;
 
     bool operator==(const DeviceTableRow &) const = default;
@@ -33,8 +33,9 @@ struct DeviceTableFilter
 {
     bool showInitialised = true;
     bool showUninitialised = true;
-    QString searchText = {};                  ///< in the values or the note of a row; empty: all rows
-    const FollowedMarks *onlyThose = nullptr; ///< not null: only marked devices are shown
+    /// A text in the values (see containsText()) or the note of a row, ignoring the case; empty: all rows.
+    QString searchText = {};
+    const FollowedMarks *onlyThose = nullptr; ///< not null: rows with a mark for its operation() only
 };
 
 /// The order of the rows.
@@ -48,6 +49,7 @@ struct DeviceTableOrder
 /// The names of all rows of `list`, see rowName().
 [[nodiscard]] QSet<QString> namesOf(const QVariantList &list);
 
-/// The filtered and ordered rows of `list`, which holds JSON objects as returned by filterData().
+/// The filtered and ordered rows of `list`, which contains JSON objects as filterData() returns them.
+/// Conflicts are those of the whole list, before the filter.
 [[nodiscard]] QList<DeviceTableRow> deviceTableRows(const QVariantList &list, const DeviceTableFilter &filter,
                                                     const DeviceTableOrder &order);

@@ -5,7 +5,8 @@
 #include <QVariantMap>
 
 /// Implements the interface that the QML table requires of its model: the roles "checked", "conflict" and
-/// "identity", get() and rowOf(). A subclass provides the values of a row. Lives on the main thread.
+/// "identity", get() and rowOf(). A subclass stores the rows and provides their values; it emits the signals
+/// of QAbstractListModel at a change. Lives on the main thread.
 class DialogRows : public QAbstractListModel
 {
     Q_OBJECT
@@ -18,7 +19,7 @@ public:
     /// The values of a row by key; empty if `row` is out of range.
     Q_INVOKABLE [[nodiscard]] QVariantMap get(int row) const;
 
-    /// The index of the row with this identity; -1 if there is none.
+    /// The index of the last row with this identity (see identityOf()); -1 if there is none.
     Q_INVOKABLE [[nodiscard]] int rowOf(const QString &identity) const;
 
 protected:
@@ -32,9 +33,9 @@ protected:
     /// Identity of a row: its "identity", or its "mac" if that is empty.
     [[nodiscard]] static QString identityOf(const QVariantMap &values);
 
-    // `row` is a valid index.
+    // The functions below are called with a valid index only.
 
-    [[nodiscard]] virtual QVariantMap valuesOf(int row) const = 0;
-    [[nodiscard]] virtual bool isChecked(int row) const;    ///< role "checked"; false by default
-    [[nodiscard]] virtual bool isInConflict(int row) const; ///< role "conflict"; false by default
+    [[nodiscard]] virtual QVariantMap valuesOf(int row) const = 0; ///< for get(), with the keys of a subclass
+    [[nodiscard]] virtual bool isChecked(int row) const;           ///< role "checked"; false by default
+    [[nodiscard]] virtual bool isInConflict(int row) const;        ///< role "conflict"; false by default
 };

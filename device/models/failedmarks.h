@@ -8,11 +8,12 @@
 #include <QStringList>
 
 /// Marks the devices for which a batch failed or which it did not reach. A mark remains until a later batch
-/// of the same work succeeds for the device, or until the user clears the marks. It belongs to the name of a
-/// row (see rowName()): it survives a search, which keeps the row (see DeviceStore::setKept()), and a change
-/// of the device's address.
+/// of the same work succeeds for the device, or until the user clears all marks. A mark belongs to the name
+/// of a row (see rowName()). It survives a change of the device's address, and a search: Batches sets the
+/// marked rows as DeviceStore::setKept(), so that the search does not remove them. A name need not have a
+/// row.
 ///
-/// Lives on the main thread.
+/// The marks are in memory only. Lives on the main thread.
 class FailedMarks : public QObject
 {
     Q_OBJECT
@@ -29,9 +30,11 @@ public:
 
     explicit FailedMarks(QObject *parent = nullptr) : QObject(parent) {}
 
-    /// Updates the marks with the results of a batch. Batches with the same `work` id replace each other's
-    /// marks; `title` is the name of the work, shown to the user: the "operation" of the functions below. A
-    /// device that waits for a further step or was skipped keeps its marks and gets no new one.
+    /// Updates the marks with the results of a batch. `work` is the id of the work: the new results replace
+    /// the marks of earlier batches with the same id, for the devices in `outcomes`. `title` is the name of
+    /// the work for the user; the functions below call it the operation. A device that waits for a further
+    /// step or was skipped (see BatchReport) keeps its marks and gets no new one. A success only removes
+    /// marks. Messages are cut to one line of 160 characters.
     void note(const QString &work, const QString &title, const QList<Outcome> &outcomes);
 
     Q_INVOKABLE void clear(); ///< removes all marks
@@ -39,7 +42,7 @@ public:
     /// Titles of the work that has marks, in alphabetical order, each once.
     [[nodiscard]] QStringList operations() const;
 
-    // `operation` is one of operations(): only its marks count. Empty: all marks.
+    // In the following functions only the marks of `operation`, one of operations(), count. Empty: all marks.
 
     /// The number of marked devices.
     [[nodiscard]] int count(const QString &operation = {}) const;
@@ -47,8 +50,11 @@ public:
     /// Whether the device is marked.
     [[nodiscard]] bool contains(const QString &identity, const QString &operation = {}) const;
 
-    /// The name of the most recent failed result of the device; empty if it is not marked.
+    /// The result (see resultName()) of the most recent mark of the device, in the user's language; empty if
+    /// it has none.
     [[nodiscard]] QString reasonOf(const QString &identity, const QString &operation = {}) const;
+
+    // The following functions consider all marks.
 
     /// The names of the marked rows.
     [[nodiscard]] QSet<QString> identities() const { return {m_failures.keyBegin(), m_failures.keyEnd()}; }
@@ -56,8 +62,8 @@ public:
     /// Whether all marks of the device are from batches that did not reach it. True if it is not marked.
     [[nodiscard]] bool isOnlyNotDone(const QString &identity) const;
 
-    /// The failed work of the device, one line for each with its result, most recent first; empty if it is
-    /// not marked.
+    /// The marks of the device, most recent first: a line of title and message for each; empty if it is not
+    /// marked. Equal lines are shown once.
     [[nodiscard]] QString messagesOf(const QString &identity) const;
 
 Q_SIGNALS:

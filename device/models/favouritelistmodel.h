@@ -10,9 +10,12 @@
 #include <utility>
 
 /// The favourites of a folder that match a search text, with the progress of adding each one to the device
-/// list. The identity of a row is its file name. Check marks and progress of a hidden favourite are kept. The
-/// functions of CheckableRows apply to shown favourites only. Lives on the main thread; reads and writes no
-/// files.
+/// list. The identity of a row is its file name. Check marks and progress of a hidden favourite are kept.
+/// The functions of CheckableRows apply to shown favourites only. A favourite matches if its address, port,
+/// user name, note or type ("IP" or "P2P") contains the text; the case and spaces around the text are
+/// ignored.
+///
+/// Lives on the main thread. Reads and writes no files: the caller reads them and passes them to load().
 class FavouriteListModel : public CheckableRows
 {
     Q_OBJECT
@@ -22,8 +25,8 @@ public:
     /// The progress of adding a favourite to the device list.
     enum Progress
     {
-        Untried,
-        Running,
+        Untried, ///< not added since load() or forgetProgress()
+        Running, ///< is being added
         Added,
         Failed,
     };
@@ -35,40 +38,48 @@ public:
 
     [[nodiscard]] QString searchText() const { return m_searchText; }
     void setSearchText(const QString &searchText);
-    [[nodiscard]] int totalCount() const { return static_cast<int>(m_favourites.size()); } ///< also hidden
+    [[nodiscard]] int totalCount() const
+    {
+        return static_cast<int>(m_favourites.size());
+    } ///< shown and hidden
 
-    /// Loads the favourites of a folder, in the form of CAuthor::readJsonFilesFromFolder() and in the order
-    /// of the file names. A favourite that was loaded before keeps its check mark and its progress.
+    /// Replaces the favourites by those of a folder, in the form of CAuthor::readJsonFilesFromFolder() and
+    /// in the order of the file names. A favourite that was loaded before (by file name) keeps its check
+    /// mark and its progress.
     Q_INVOKABLE void load(const QVariantMap &files);
 
-    /// Sets the results of adding favourites: maps with the keys of ResultKey, `message` for a failure only.
-    /// Unchecks the added ones.
+    /// Sets the results of adding favourites: maps with the keys of ResultKey. The result 0 is a success,
+    /// whose message is `successMessage`; every other result is a failure with the message in the map.
+    /// Unchecks the added favourites. Unknown identities are ignored.
     Q_INVOKABLE void takeResults(const QVariantList &results, const QString &successMessage);
 
-    /// Marks these favourites as being added.
+    /// Sets the progress Running with this message for these favourites. Unknown identities are ignored.
     Q_INVOKABLE void setRunning(const QStringList &identities, const QString &message);
 
-    /// Clears the progress of all favourites.
+    /// Sets the progress of all favourites to Untried and clears their messages.
     Q_INVOKABLE void forgetProgress();
 
     /// A favourite, shown or not, for a login: "mode" (0 by address, 1 by P2P ID), "address", "port",
     /// "account", "cipher" (its encrypted password) and "note". Empty for an unknown identity.
     Q_INVOKABLE [[nodiscard]] QVariantMap device(const QString &identity) const;
 
-    /// Favourites to be added, in the form of AddingBatches::addDevices(): with "identity" and the decrypted
-    /// "password" instead of "cipher". Without unknown identities.
+    /// Favourites to be added, in the form of AddingBatches::addDevices(): as device(), with "identity", and
+    /// with the decrypted "password" instead of "cipher". Unknown identities are left out. The password is
+    /// undefined, often empty, if "cipher" was not encrypted by CAuthor.
     Q_INVOKABLE [[nodiscard]] QVariantList devicesToAdd(const QStringList &identities) const;
 
-    /// The texts of a row, separated by tabs, for the clipboard.
+    /// Type, address, port, user name and note of a row, separated by tabs, for the clipboard; empty if
+    /// `row` is out of range.
     Q_INVOKABLE [[nodiscard]] QString textOf(int row) const;
 
 Q_SIGNALS:
     void searchTextChanged();
 
 protected:
-    /// "checked", "identity", "fileName", "num" (its number among all, from 1, as text), "type" ("IP" or
-    /// "P2P"), "ip", "port" (text), "ipport", "username", "note", "progress" (a Progress) and "message". The
-    /// map contains no password, since the contents of a table can be copied.
+    /// Keys: "checked", "identity", "fileName", "num" (position among all favourites, shown or not, from 1,
+    /// as text), "type" ("IP" or "P2P"), "ip" (address or P2P ID), "port" (text), "ipport", "username",
+    /// "note", "progress" (a Progress) and "message". Texts are cut to 200 characters. The map contains no
+    /// password, since the contents of a table can be copied.
     [[nodiscard]] QVariantMap valuesOf(int row) const override;
     [[nodiscard]] bool isChecked(int row) const override { return at(row).checked; }
     void setChecked(int row, bool checked) override { m_favourites[m_shown.at(row)].checked = checked; }

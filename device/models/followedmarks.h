@@ -7,12 +7,13 @@
 
 #include <utility>
 
-/// Reference from a model to the FailedMarks that it shows; may be empty. Also stores the operation (title of
-/// a work) to which the shown marks are restricted. Lives on the main thread.
+/// The FailedMarks that a model shows, or none, and the operation (title of a work) to which the model
+/// restricts them. A member of the model. Lives on the main thread.
 class FollowedMarks
 {
 public:
     [[nodiscard]] FailedMarks *get() const { return m_marks; }
+    /// Whether there are no marks at all, whatever the operation is.
     [[nodiscard]] bool isEmpty() const { return !m_marks || m_marks->count() == 0; }
 
     /// The title of the operation; empty for all operations.
@@ -27,7 +28,8 @@ public:
         return isOver && setOperation({});
     }
 
-    // Forward to FailedMarks, for the operation. Without marks: 0, empty, false and true.
+    // The functions of FailedMarks with these names, for the operation. Without a FailedMarks object they
+    // return the values for a device that is not marked.
     [[nodiscard]] int count() const { return m_marks ? m_marks->count(m_operation) : 0; }
     [[nodiscard]] QString reasonOf(const QString &identity) const
     {
@@ -37,12 +39,14 @@ public:
     {
         return m_marks && m_marks->contains(identity, m_operation);
     }
+    /// For all operations.
     [[nodiscard]] bool isOnlyNotDone(const QString &identity) const
     {
         return !m_marks || m_marks->isOnlyNotDone(identity);
     }
 
-    /// The text for a row: the failures of its marks, and a line if the last search did not find the device.
+    /// The text for a row: FailedMarks::messagesOf() for all operations, and a line if `isLost`, which means
+    /// that the last search did not find the device. Empty for neither.
     [[nodiscard]] QString messagesOf(const QString &identity, bool isLost) const
     {
         QStringList lines = {m_marks ? m_marks->messagesOf(identity) : QString()};
@@ -52,8 +56,9 @@ public:
         return lines.join(QLatin1Char('\n'));
     }
 
-    /// Replaces the marks; null for none. Emits `replaced` of `model` and calls its function `read`, which is
-    /// also called at each later change of the marks. Does nothing if the marks are the same.
+    /// Replaces the marks; null for none. Emits the signal `replaced` of `model` and calls its function
+    /// `read`. From then on, `read` is called at each change of the marks, until the next follow(). Does
+    /// nothing if the object is the same. `model` owns this object.
     template<typename Model>
     void follow(FailedMarks *marks, Model *model, void (Model::*replaced)(), void (Model::*read)())
     {

@@ -8,8 +8,9 @@
 class CDeviceFactory;
 class DeviceTableModel;
 
-/// The devices that were chosen when the window was opened; without any, the rows of the table. Lives on the
-/// main thread.
+/// The order of the devices in the live window: the chosen devices, or the rows of the table if none was
+/// chosen. A device can be watched if it is initialised and has an address; the others are in the order, but
+/// are skipped. Lives on the main thread.
 class LiveOrder : public QObject
 {
     Q_OBJECT
@@ -17,10 +18,12 @@ class LiveOrder : public QObject
     Q_MOC_INCLUDE("device/models/devicetablemodel.h")
     Q_PROPERTY(
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
-    /// The table that the window was opened from; may be null.
+    /// The table that the window was opened from; may be null, then there is no device without chosen ones.
     Q_PROPERTY(DeviceTableModel *table READ table WRITE setTable NOTIFY tableChanged)
-    /// Maps with "ipport" and "name"; empty: the rows of the table are used.
+    /// The devices that were chosen when the window was opened: maps with "ipport" and "name". A map without
+    /// "state" counts as initialised. Empty: the rows of the table are used.
     Q_PROPERTY(QVariantList chosen READ chosen WRITE setChosen NOTIFY chosenChanged)
+    /// The number of devices in the order, with those that cannot be watched.
     Q_PROPERTY(int count READ count NOTIFY countChanged)
     Q_PROPERTY(int ticked READ ticked NOTIFY tickedChanged) ///< number of checked rows of the table
 public:
@@ -35,11 +38,13 @@ public:
     [[nodiscard]] int count() const;
     [[nodiscard]] int ticked() const;
 
-    /// The index of a device; -1 if it is not in the order.
+    /// The index (from 0) of the device with this address and port; -1 if it is not in the order. For the
+    /// rows of the table, also -1 without a factory.
     Q_INVOKABLE [[nodiscard]] int positionOf(const QString &ipport) const;
 
-    /// Address and port of the next device in the direction 1 or -1 that can be watched; empty if there is
-    /// none. If `ipport` is not in the order, direction 1 starts with the first device.
+    /// Address and port of the nearest device after `ipport` (direction 1) or before it (direction -1) that
+    /// can be watched; empty if there is none. The order does not wrap around. If `ipport` is not in the
+    /// order, direction 1 starts with the first device, and direction -1 finds none.
     Q_INVOKABLE [[nodiscard]] QString neighbour(const QString &ipport, int direction) const;
 
     /// The checked rows of the table whose devices can be watched, in table order, as DeviceTableModel::get()

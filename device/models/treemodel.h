@@ -13,12 +13,17 @@
 
 class CDeviceFactory;
 
-/// Two levels: groups named by device type ("IPC", "NVR", ...), each with its devices, named by "ipport". A
-/// device without a type is in the group "Other". Groups are in alphabetical order, with "PC-NVR" and "Other"
-/// last since they are not device hardware. Devices are in address order. The check box of a group covers its
-/// devices; it is partial if only some are checked. Checked states and results survive a rebuild. They belong
+/// A tree of two levels: groups named by device type ("IPC", "NVR", ...), each with its devices, named by
+/// "ipport". A device without a type is in the group "Other". Groups are in alphabetical order, with
+/// "PC-NVR" and "Other" last since they are not device hardware. Devices are in address order. The check box
+/// of a group covers its devices; it is partial if only some are checked.
+///
+/// resetItems() reads the rows; the page calls it whenever the device list has changed. The tree contains
+/// the devices that pass the filter of resetItems(), belong to `shown` and have an address. All other
+/// devices are hidden. Check marks and results survive a rebuild, also those of hidden devices. They belong
 /// to the name of the row (see rowName()): a device keeps them when its address changes, and a device that
-/// takes over an address does not inherit them.
+/// takes over an address does not inherit them. Functions about checked devices consider the devices of the
+/// tree only, unless they say otherwise.
 ///
 /// With Shown::Failed, the groups are the failure reasons in alphabetical order. Lives on the main thread.
 class OVTreeModel : public QAbstractItemModel
@@ -27,6 +32,7 @@ class OVTreeModel : public QAbstractItemModel
     Q_MOC_INCLUDE("device/registry/devicefactory.h")
     Q_PROPERTY(
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
+    /// Not owned. Null: no device is marked.
     Q_PROPERTY(FailedMarks *failedMarks READ failedMarks WRITE setFailedMarks NOTIFY failedMarksChanged)
     Q_PROPERTY(Shown shown READ shown WRITE setShown NOTIFY shownChanged)
     Q_PROPERTY(QString failedOperation READ failedOperation WRITE setFailedOperation NOTIFY shownChanged)
@@ -53,8 +59,8 @@ public:
     enum Shown
     {
         All,
-        Failed,    ///< devices with FailedMarks; reset to All when no device of the tree is marked any more
-        LoggedOut, ///< devices without a login, or whose last login failed
+        Failed,    ///< devices with a mark; becomes All when no device that passes the filter is marked
+        LoggedOut, ///< devices without a login so far, or whose last login failed
     };
     Q_ENUM(Shown)
 
@@ -78,7 +84,8 @@ public:
     [[nodiscard]] int columnCount(const QModelIndex &parent = QModelIndex()) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
 
-    /// Writes "isChecked" (a bool or a Qt::CheckState; a group applies it to its devices) or "copyRet".
+    /// Writes "isChecked" (a bool or a Qt::CheckState; for a group to all its devices) or "copyRet" (of a
+    /// device). Returns false, and writes nothing, for another role or index.
     Q_INVOKABLE bool setData(const QModelIndex &index, const QVariant &value, int role) override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
@@ -88,52 +95,59 @@ public:
     void setFailedMarks(FailedMarks *marks);
     [[nodiscard]] Shown shown() const { return m_shown; }
     void setShown(Shown shown);
-    /// Title of the work whose marks are shown, while only marked devices are shown; empty: all marks.
+    /// Title of the work to whose marks Shown::Failed and the counts are restricted; empty: all marks.
+    /// Becomes empty when that work has no mark left, and when `shown` changes.
     [[nodiscard]] QString failedOperation() const { return m_failedMarks.operation(); }
     void setFailedOperation(const QString &operation);
 
-    /// Among the devices that the filter of the last rebuild accepts, shown or not.
-    [[nodiscard]] int loggedOutCount() const { return m_loggedOutCount; }
-    [[nodiscard]] int failedCount() const { return m_failedCount; }
+    // Numbers of the devices with an address that passed the filter of the last resetItems(), in the tree or
+    // hidden by `shown`.
+    [[nodiscard]] int loggedOutCount() const { return m_loggedOutCount; } ///< without a successful last login
+    [[nodiscard]] int failedCount() const { return m_failedCount; }       ///< with a mark
 
-    /// The number of marked devices that the filter of the last rebuild does not accept; 0 while there is a
-    /// search text.
+    /// The number of marked devices that did not pass the filter of the last resetItems(); 0 while there is
+    /// a search text.
     [[nodiscard]] int failedElsewhereCount() const;
 
-    /// Devices that the last rebuild left out because they have no address yet (waiting for DHCP).
+    /// The number of devices that passed the filter of the last resetItems() and have no address yet
+    /// (waiting for DHCP). They are not in the tree.
     [[nodiscard]] int unaddressedCount() const { return m_unaddressedCount; }
 
-    /// Rebuilds the tree from the IPv4 rows. `type` is a filter of filterData(): "search" (devices that
-    /// contain `searchText`), "removeuninit" (initialised devices only) or another one.
+    /// Rebuilds the tree from the IPv4 rows. `type` is a filter of RowFilter: usually "removeuninit"
+    /// (initialised devices only), or "search" (devices that contain `searchText`). Does nothing without a
+    /// factory.
     Q_INVOKABLE void resetItems(const QString &type, const QString &searchText);
 
     /// "ipport" of the checked devices, in tree order.
     [[nodiscard]] QStringList checkedDevices() const;
     [[nodiscard]] int checkedCount() const;
     [[nodiscard]] int checkedUpgradingCount() const; ///< checked devices being upgraded at the last rebuild
-    [[nodiscard]] int deviceCount() const;
+    [[nodiscard]] int deviceCount() const;           ///< devices of the tree
 
-    /// A copy of checkedDevices() that a later check does not change (a QML binding would update).
+    /// checkedDevices() as a function: QML gets a copy that later checks do not change, whereas a binding to
+    /// the property would update.
     Q_INVOKABLE [[nodiscard]] QStringList tickedNow() const { return checkedDevices(); }
 
-    /// Whether exactly these devices are checked, in any order.
+    /// Whether exactly the devices with these addresses and ports are checked, in any order.
     Q_INVOKABLE [[nodiscard]] bool areTicked(const QStringList &devices) const;
 
     /// `devices` without each occurrence of `device`.
     Q_INVOKABLE [[nodiscard]] static QStringList without(const QStringList &devices, const QString &device);
 
-    /// "ipport" and "name" of the checked devices, or of all devices if none is checked, in tree order.
+    /// Maps of "ipport" and "name" of the checked devices, or of all devices of the tree if none is checked,
+    /// in tree order.
     Q_INVOKABLE [[nodiscard]] QVariantList devicesToWatch() const;
 
     /// The state of the check box for the complete tree.
     [[nodiscard]] Qt::CheckState checkState() const;
+    /// Checks or unchecks the devices of the tree. Hidden devices keep their check marks.
     Q_INVOKABLE void setAllChecked(bool checked);
 
-    /// Checks the devices with these identities, including hidden ones, and unchecks all others.
+    /// Checks the devices with these identities and unchecks all others, in the tree and hidden.
     Q_INVOKABLE void setCheckedDevices(const QStringList &identities);
 
-    /// Checks the devices of the tree whose rows have the same value of `key` as this device, and unchecks
-    /// all others.
+    /// Checks the devices of the tree whose rows have the same text under `key` as the device `identity`,
+    /// and unchecks all others, also hidden ones. Does nothing if that device is not listed.
     Q_INVOKABLE void checkSimilar(const QString &identity, const QString &key);
 
     /// Sets "copyRet" of the devices with this address and port. Does nothing if the tree has none.
@@ -142,8 +156,9 @@ public:
     /// Same for many devices, with one result.
     Q_INVOKABLE void setResultOfAll(const QStringList &ipports, int result);
 
-    /// Sets the results of a batch; the lists are parallel. LoginResult::Unknown becomes WaitsForPassword, a
-    /// success with a text becomes PartlyDone.
+    /// Sets the results of a batch; the entries of the three lists belong together by index. A result is a
+    /// code of resultName(). LoginResult::Unknown becomes WaitsForPassword. A success with a text becomes
+    /// PartlyDone; a missing text is empty.
     Q_INVOKABLE void takeResults(const QStringList &ipports, const QList<int> &results,
                                  const QStringList &texts);
 
@@ -153,8 +168,8 @@ public:
 Q_SIGNALS:
     void deviceFactoryChanged();
     void failedMarksChanged();
-    void shownChanged();
-    void checkedDevicesChanged();
+    void shownChanged();          ///< `shown` or `failedOperation` has changed
+    void checkedDevicesChanged(); ///< check marks, marks or the devices of the tree may have changed
 
 private:
     struct Device

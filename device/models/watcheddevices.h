@@ -8,23 +8,27 @@
 
 class CDeviceFactory;
 
-/// The rows are the additional devices; the first device, for which the window was opened, is not a row. For
-/// each row QML creates a companion object, which holds the session of the device and reports its channels.
-/// Lives on the main thread.
+/// The rows are the additional devices of the live window, with the roles "ipport" and "name". The first
+/// device, for which the window was opened, is not a row. For each row QML creates a companion object, which
+/// logs in to the device, owns that session and passes its channels to setChannels(). Lives on the main
+/// thread; sends no requests.
 class WatchedDevices : public QAbstractListModel
 {
     Q_OBJECT
     Q_MOC_INCLUDE("device/registry/devicefactory.h")
     Q_PROPERTY(CDeviceFactory *deviceFactory MEMBER m_deviceFactory NOTIFY deviceFactoryChanged)
     /// The channels of all devices, in the order in which the devices were added: maps of "ipport",
-    /// "channel", "connected", "name" (never empty), "caption" (the name that the device reports, with the
-    /// device if there are several), "companion" (null for the first device) and "heading" (only with several
-    /// devices, for the first channel of each). A device without a companion, or whose companion is
-    /// destroyed, is left out.
+    /// "channel" (from 0), "connected", "name" (never empty: without a reported name it is made of the
+    /// channel number), "caption", "companion" (null for the first device) and "heading". The caption is the
+    /// reported name, which may be empty. With several devices the title of the device precedes it. The
+    /// title is the device's name, with the address and port if two devices have the same name. The heading
+    /// is that title; only the first channel of each device has one, and only with several devices. An
+    /// additional device without a companion, or whose companion is destroyed, is left out.
     Q_PROPERTY(QVariantList channels READ channels NOTIFY channelsChanged)
     Q_PROPERTY(int most READ most CONSTANT)
     Q_PROPERTY(bool full READ isFull NOTIFY countChanged)
-    Q_PROPERTY(int leftOut MEMBER m_leftOut NOTIFY countChanged) ///< rows that the last add() had no room for
+    /// The number of devices that the last add() did not add because most() was reached.
+    Q_PROPERTY(int leftOut MEMBER m_leftOut NOTIFY countChanged)
 public:
     explicit WatchedDevices(QObject *parent = nullptr) : QAbstractListModel(parent) {}
 
@@ -36,25 +40,27 @@ public:
     [[nodiscard]] static constexpr int most() { return 15; } ///< maximum number of additional devices
     [[nodiscard]] bool isFull() const { return m_further.size() >= most(); }
 
-    /// Sets the first device. `channels` are maps of "channel" (from 0), "name" (may be empty) and
-    /// "connected".
+    /// Sets or replaces the first device. `channels` are maps of "channel" (from 0), "name" (may be empty)
+    /// and "connected".
     Q_INVOKABLE void setFirst(const QString &ipport, const QString &name, const QVariantList &channels);
 
     /// Adds the devices (maps of "ipport", "name" and "model") that are neither a row nor the first device,
-    /// up to most(). A device without a name gets its model as its name, or its "ipport" if that is empty,
-    /// too. Returns the indexes in `channels` of the first channel of each added device, if it is known
-    /// already.
+    /// up to most() rows. A device without a name gets its model as its name, or its "ipport" if the model
+    /// is empty, too. Returns the index in `channels` of the first channel of each added device; a device
+    /// whose channels are not known yet has none.
     Q_INVOKABLE QVariantList add(const QVariantList &rows);
 
-    /// Sets the channels that a companion has read, in the format of setFirst().
+    /// Sets the companion of a row and the channels that it has read, in the format of setFirst(). The
+    /// companion is not owned. Ignored if no row has this address and port.
     Q_INVOKABLE void setChannels(const QString &ipport, QObject *companion, const QVariantList &channels);
 
-    /// Removes a device. Its channels are removed first, since their streams use the companion's session.
+    /// Removes a row; ignored if there is none. `channels` changes before the row is removed, since the
+    /// streams of these channels use the companion's session.
     Q_INVOKABLE void remove(const QString &ipport);
-    Q_INVOKABLE void clear(); ///< removes all rows; the first device and its channels remain
+    Q_INVOKABLE void clear(); ///< same for all rows; the first device and its channels remain
 
-    /// Updates the names of the additional devices from the device list. A name that is empty there is not
-    /// taken.
+    /// Sets the names of the rows to the names in the device list. A row keeps its name if the name in the
+    /// list is empty.
     Q_INVOKABLE void readNames();
 
 Q_SIGNALS:
