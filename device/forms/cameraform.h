@@ -8,23 +8,26 @@
 
 class CDeviceFactory;
 
-/// Copies the camera values of the back end, by the keys of CDeviceFactory::setConfigData(). Reading sends no
-/// request to the device. Lives on the main thread.
+/// A copy of the back end's values of the image page, by the keys of CDeviceFactory::setConfigData(), in a
+/// form that is complete without a device. The form only reads: the page changes values with setConfigData()
+/// and then calls read(). read() sends no request to the device. Lives on the main thread.
 class CameraForm : public QObject
 {
     Q_OBJECT
     Q_MOC_INCLUDE("device/registry/devicefactory.h")
     Q_PROPERTY(
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
-    Q_PROPERTY(QStringList channels READ channels NOTIFY changed) ///< never empty
-    Q_PROPERTY(int channel READ channel NOTIFY changed)           ///< index in channels
-    Q_PROPERTY(QString channelName READ channelName NOTIFY changed)
+    /// The channel numbers from "1"; never empty, since a device that reports no channels has one.
+    Q_PROPERTY(QStringList channels READ channels NOTIFY changed)
+    Q_PROPERTY(int channel READ channel NOTIFY changed)             ///< index in channels
+    Q_PROPERTY(QString channelName READ channelName NOTIFY changed) ///< empty also if it was not read
+    /// Names of the modes (day, night, ...) that the camera has, in the user's language.
     Q_PROPERTY(QStringList switchModes READ switchModes NOTIFY changed)
     Q_PROPERTY(int switchMode READ switchMode NOTIFY changed) ///< index in switchModes, -1 for none
-    /// One map for each group of CameraKey::groups ("picture", "sharpness", ...), with the keys of
-    /// CameraSetting and CameraGroupKey. All groups exist; each has the bool "support".
+    /// A map by the names in CameraKey::groups ("picture", "sharpness", ...). Its values are maps with the
+    /// keys of CameraSetting and CameraGroupKey. All groups exist; each has at least the bool "support".
     Q_PROPERTY(QVariantMap groups READ groups NOTIFY changed)
-    Q_PROPERTY(bool supportsAny READ supportsAny NOTIFY changed) ///< "support" of any group
+    Q_PROPERTY(bool supportsAny READ supportsAny NOTIFY changed) ///< whether a group has "support"
     /// Exposure times in seconds, "1/100000" to "1/25".
     Q_PROPERTY(QStringList shutterTimes READ shutterTimes CONSTANT)
 public:
@@ -41,7 +44,7 @@ public:
     [[nodiscard]] QVariantMap groups() const { return m_groups; }
     [[nodiscard]] bool supportsAny() const;
 
-    /// Reads all values of the back end again.
+    /// Copies all values of the back end again and emits changed(). Also called when the factory is set.
     Q_INVOKABLE void read();
 
     [[nodiscard]] static QStringList shutterTimes();
@@ -49,13 +52,15 @@ public:
     /// The exposure time at an index of shutterTimes in milliseconds; 0 for an index out of range.
     Q_INVOKABLE [[nodiscard]] double shutterMilliseconds(int index) const;
 
-    /// The index in shutterTimes of an exposure time given as a range in milliseconds. -1 if `shortest` and
-    /// `longest` differ, or if the time is not listed.
+    /// The index in shutterTimes of an exposure time that is given as a range in milliseconds. -1 if
+    /// `shortest` and `longest` differ, or if shutterTimes does not have the time. Times that differ by up
+    /// to 0.01 % are equal.
     Q_INVOKABLE [[nodiscard]] int shutterIndex(double shortest, double longest) const;
 
-    /// The calls of setConfigData() that set the exposure range in milliseconds, each as [sub-key, value].
-    /// The bounds are written one after the other. `longestNow` is the current upper bound; it decides the
-    /// order, so that the range is never empty in between.
+    /// The two calls of setConfigData() with the key "exposure" that set the exposure range from `shortest`
+    /// to `longest` (milliseconds), in their order: lists of sub-key and value. `longestNow` is the present
+    /// upper bound in milliseconds. The order is such that the lower bound never exceeds the upper one
+    /// between the two calls.
     Q_INVOKABLE [[nodiscard]] QVariantList shutterWrites(double longestNow, double shortest,
                                                          double longest) const;
 

@@ -6,19 +6,22 @@
 #include <QList>
 #include <QVariantList>
 
-/// One row for each channel. An edited name stays in this model until it is written. The roles are those of
-/// DialogRows; "identity" is the channel number from 0 as text. The model sends no requests: the page handles
-/// writeRequested() and reports the result with takeWritten(). Lives on the main thread.
+/// One row for each channel; the index of a row is the number of its channel (from 0). An edited name stays
+/// in this model until it is written. The roles are those of DialogRows; "identity" is the channel number
+/// from 0 as text. The role "conflict" is true for a row whose name is empty or too long, or whose last
+/// write failed. The model sends no requests: the page handles writeRequested() and reports the result with
+/// takeWritten(). A row index out of range is ignored. Lives on the main thread.
 class ChannelNameForm : public DialogRows
 {
     Q_OBJECT
     Q_PROPERTY(int count READ rowCount NOTIFY changed)
+    /// Rows whose name in this model differs from the name on the device.
     Q_PROPERTY(int changedCount READ changedCount NOTIFY changed)
     Q_PROPERTY(int failedCount READ failedCount NOTIFY changed)   ///< rows whose last write failed
     Q_PROPERTY(int unknownCount READ unknownCount NOTIFY changed) ///< connected cameras with an unknown name
     Q_PROPERTY(bool saving READ isSaving NOTIFY savingChanged)
     Q_PROPERTY(int savingRow READ savingRow NOTIFY savingChanged) ///< the row being written; -1 for none
-    Q_PROPERTY(double savingProgress READ savingProgress NOTIFY savingChanged) ///< 0 to 1
+    Q_PROPERTY(double savingProgress READ savingProgress NOTIFY savingChanged) ///< 0 to 1; 0 while not saving
 public:
     /// The problem that a row shows.
     enum Trouble
@@ -41,41 +44,48 @@ public:
     [[nodiscard]] int failedCount() const;
     [[nodiscard]] int unknownCount() const;
 
-    /// Replaces the rows. A null name is a name that the device does not report. `connected` has a bool for
-    /// each channel: whether it has a camera. Discards edits that are not written, and ends a running save as
-    /// cancelSaving() does.
+    /// Replaces the rows, one for each entry of `names`; a null entry is a name that the device does not
+    /// report. `connected` has a bool for each channel: whether it has a camera (true if the entry is
+    /// missing). Discards edits that are not written. Before that, a running save ends as with
+    /// cancelSaving().
     Q_INVOKABLE void load(const QVariantList &names, const QVariantList &connected);
 
-    /// Sets the name that the user typed for a row, without control, line-break and bidirectional characters.
+    /// Sets the name that the user typed for a row. Control, line-break and bidirectional characters are
+    /// removed. A changed name clears the trouble of the last write.
     Q_INVOKABLE void set(int row, const QString &typed);
 
-    /// Same for several channels; `channels` are numbers from 0 as strings.
+    /// Same for several channels. `channels` are numbers from 0 as strings; `names` has the name of each.
     Q_INVOKABLE void setNames(const QStringList &channels, const QStringList &names);
 
-    /// Restores the saved name.
+    /// Sets the name to the one on the device.
     Q_INVOKABLE void restoreName(int row);
 
-    /// Truncates the name to the number of bytes that the device can store.
+    /// Truncates the name at a character boundary to the number of bytes that the device can store, without
+    /// spaces at its ends.
     Q_INVOKABLE void truncate(int row);
 
     /// The first changed row whose name is empty or too long; -1 if there is none.
     Q_INVOKABLE [[nodiscard]] int firstFaulty() const;
 
-    /// Requests a write of each changed name without spaces at its ends, one after another in channel order,
-    /// also of a name that is empty or too long: the caller checks firstFaulty() first. Stops early if the
-    /// device does not respond or is being upgraded, since the other writes would fail as well. Does nothing
-    /// while saving, or if no name is changed.
+    /// Starts a save: requests a write of each changed name without spaces at its ends, one after another in
+    /// channel order, with writeRequested(). A name that is empty or too long is written as well: the caller
+    /// checks firstFaulty() first. The save ends early if the device does not respond or is being upgraded,
+    /// since the other writes would fail as well; it continues after a refusal. Emits saved() at the end.
+    /// Does nothing while saving, or if no name is changed.
     Q_INVOKABLE void save();
 
     /// Sets the result of a write. `result` is 0, a LoginResult, or an error code of the device library.
-    /// `name` is the name that the device has now, null if it is not reported. Continues a running save with
-    /// the next row.
+    /// `name` is the name that the device reports after a success, null if it reports none. It becomes the
+    /// name of the row; for null the written name does. After a failure the edited name stays. If `row` is
+    /// savingRow, the save continues with the next row.
     Q_INVOKABLE void takeWritten(int row, int result, const QVariant &name);
 
-    /// Skips the names that are not written yet. The save ends with the result of the current write.
+    /// Ends the save after the current write: the remaining names are not written, and stay edited. The save
+    /// ends immediately if no write is running.
     Q_INVOKABLE void stopSaving();
 
-    /// Ends the save immediately, with saved(). The result of the current write is not waited for.
+    /// Ends the save immediately, with saved(). A result of the current write that arrives later is still
+    /// set, but does not count in saved(). Does nothing while not saving.
     Q_INVOKABLE void cancelSaving();
 
     [[nodiscard]] bool isSaving() const { return !m_rowsToSave.isEmpty(); }
@@ -83,14 +93,15 @@ public:
     [[nodiscard]] double savingProgress() const;
 
 Q_SIGNALS:
-    void changed();
+    void changed(); ///< names, troubles or counts
     void savingChanged();
 
-    /// Requests the write of one name. The receiver calls takeWritten() with the result.
+    /// Requests the write of one name. The receiver calls takeWritten() with the result, once.
     void writeRequested(int row, const QString &name);
 
-    /// A save has ended. `rows` names were to be written, the device accepted `written` of them, and
-    /// `failedRow` is the first row whose write failed, -1 if none failed.
+    /// A save has ended. `rows` names were to be written, and the device accepted `written` of them, also
+    /// those with the trouble Different. `failedRow` is the first row with the trouble Refused, NoResponse
+    /// or Upgrading after its write; -1 if there is none.
     void saved(int rows, int written, int failedRow);
 
 protected:

@@ -8,10 +8,11 @@
 class SystemTools : public QObject
 {
     Q_OBJECT
-    /// "UTC+08:00" etc., in the numbering of the devices. The last seven are out of order.
+    /// The 40 time zones of the devices as "UTC+08:00" etc. The index is the number of the zone in
+    /// SystemDataKey::timeZone. The last seven are not in the order of their offsets.
     Q_PROPERTY(QStringList timeZones READ timeZones CONSTANT)
 public:
-    /// The first problem of a new password; checked in this order.
+    /// The problem of a new password. The values are in the order of the checks.
     enum PasswordFault
     {
         NoFault = 0,
@@ -26,7 +27,8 @@ public:
 
     [[nodiscard]] static QStringList timeZones();
 
-    /// The index in timeZones of the zone with the offset of `text` ("UTC+08:00"); -1 if there is none.
+    /// The index in timeZones of the zone with the offset of `text` ("UTC+08:00", also with one digit for
+    /// the hour or without a sign); -1 if there is none.
     Q_INVOKABLE [[nodiscard]] int timeZoneIndex(const QString &text) const;
 
     /// The local time of the host as "yyyy-MM-dd HH:mm:ss".
@@ -36,6 +38,7 @@ public:
     /// part consists of digits is not one.
     Q_INVOKABLE [[nodiscard]] bool isHost(const QString &text) const;
 
+    /// The first problem of a new password that the user has typed twice; NoFault if it can be set.
     Q_INVOKABLE [[nodiscard]] PasswordFault newPasswordFault(const QString &password,
                                                              const QString &confirmation) const;
 };
