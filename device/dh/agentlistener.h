@@ -10,10 +10,11 @@
 
 class DeviceStore;
 
-/// Reports broken tunnels: sets the result of the device's row to a network failure and emits
-/// signalCDeviceTunnelBroken, both on the main thread. A tunnel without a row is not reported. The loss of
-/// the service is reported with an empty device and port 0. Only the object created last receives events.
-/// Created and destroyed on the main thread by CDeviceDH.
+/// Reports broken tunnels to devices behind NAT, on the main thread: sets "res" of the row at the tunnel's
+/// local port to a network failure and emits signalCDeviceTunnelBroken. A tunnel without a row is not
+/// reported. The loss of the agent's service is reported by the signal with an empty device and port 0; no
+/// row changes then. If there are several listeners, only the one created last receives events. Created and
+/// destroyed on the main thread by CDeviceDH.
 class AgentListener
 {
 public:
@@ -23,7 +24,8 @@ public:
     AgentListener(const AgentListener &) = delete;
     AgentListener &operator=(const AgentListener &) = delete;
 
-    /// Logs an event and passes it to the current listener. Called on a thread of the agent.
+    /// Logs an event and queues it for the current listener; without a listener it is only logged. Returns
+    /// immediately; the text `deviceId` (a P2P ID) is copied. Called on a thread of the agent.
     static void take(sdk::P2PAgentEvent event, const char *deviceId, std::int32_t localPort);
 
 private:

@@ -31,28 +31,31 @@ class SystemOperations;
 class UpgradeOrders;
 class UpgradeRound;
 
-/// The back end "dh", which implements all operations. Each group of operations is a component; this class
-/// creates, destroys and forwards to the components. Threads are as documented in CDeviceBase, unless a
-/// declaration says otherwise. Created on the main thread by CDeviceFactory.
+/// The back end "dh", which implements all operations of CDeviceBase with the network library. Each group of
+/// operations is a component; this class creates the components, forwards the operations to them and
+/// destroys them. Threads are as documented in CDeviceBase, unless a declaration says otherwise. Created on
+/// the main thread by CDeviceFactory.
 class CDeviceDH : public CDeviceBase
 {
     Q_OBJECT
 public:
-    /// `searchSettings` is called on the main thread at each start of a search. `engine` runs the batch steps
-    /// of this back end, whose destructor ends it; null: a new engine.
+    /// Initialises the network library; a failure is logged only. `searchSettings` is called on the main
+    /// thread at each start of a search. `engine` runs the batch steps of this back end; null: a new engine.
+    /// The destructor of this back end ends the engine.
     CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
               std::function<SearchSettings()> searchSettings,
               const UpgradeLimits &upgradeLimits = UpgradeLimits(),
               std::shared_ptr<BatchEngine> engine = nullptr);
 
-    /// Ends searches, steps and the session, and releases the network library. Main thread.
+    /// Ends searches, batch steps, upgrades and the session, releases the network library, which aborts
+    /// running requests, and waits for all threads. Main thread.
     ~CDeviceDH() override;
 
-    /// Sets the function that returns the stored account of a device; called on any thread. Must be called
-    /// before any operation.
+    /// Sets the function that returns the stored account of a device. The function is called on any thread.
+    /// Must be called before any operation.
     void setStoredAccounts(const AccountChoice::Stored &stored);
 
-    /// Callback of the port agent; forwards to AgentListener::take(). `user` is not used.
+    /// Callback of the port agent on its threads; forwards to AgentListener::take(). `user` is not used.
     static void agentMessage(sdk::P2PAgentEvent event, const char *deviceId, std::int32_t localPort,
                              void *user);
 
@@ -147,7 +150,8 @@ public:
     QList<DeviceStep> snapshotSteps(const QString &address) override;
     DeviceStep imageStep(const ImageOrder &order) override;
 
-    /// Cancels running snapshots and upgrades, and waits for result files of upgrade documents.
+    /// Cancels running snapshots and upgrades and requests the end of all batch steps. Waits half a second
+    /// at most for the upgrades, and until the result files of upgrade documents are written.
     void factoryEnds() override;
 
     // RowUpgrades, DocumentUpgrades and UpgradeRound
@@ -170,8 +174,10 @@ public:
     int upgradeDocumentSuccesses() override;
 
 private:
-    /// A function that takes one snapshot with a given login.
+    /// A function that takes one snapshot with a given login. It does not use this object.
     [[nodiscard]] OwnImageTaker takeOwnImage() const;
+    // The functions use m_upgrades; any thread.
+
     /// Upgrade check by row name.
     [[nodiscard]] UpgradeCheck isUpgrading() const;
     /// Upgrade check by address and port.

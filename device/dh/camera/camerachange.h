@@ -6,11 +6,12 @@
 
 #include <span>
 
-/// One change by the user. All references must outlive it.
+/// One change by the user, converted to a field of `state`. A temporary object: all references must outlive
+/// it.
 struct CameraChange
 {
-    const QString &subKey;
-    const QVariant &value;
+    const QString &subKey; ///< a CameraSetting; empty for the main value of a group
+    const QVariant &value; ///< as set by QML
     const ValueTables &tables;
     CameraState &state;
 
@@ -20,11 +21,16 @@ struct CameraChange
     [[nodiscard]] CameraOptions options() const { return {tables, state.capabilities}; }
 
     // Each of these functions converts `value` and writes it to `field`. It returns false, and leaves `field`
-    // unchanged, if `value` is invalid. number() clamps to `range`, slider() to usableRange(). choice() takes
-    // an index of `offered` and writes the value at it. oneOf() accepts only the listed numbers.
+    // unchanged, if `value` is not a number or is not allowed.
+
+    /// Rounds, and clamps to `range`.
     [[nodiscard]] bool number(sdk::ValueRange range, std::int32_t &field) const;
+    /// number() with usableRange(reported).
     [[nodiscard]] bool slider(sdk::ValueRange reported, std::int32_t &field) const;
+    /// `value` is an index of `offered`; writes the value at it. Any other index is not allowed.
     [[nodiscard]] bool choice(const OfferedValues &offered, std::int32_t &field) const;
+    /// Allows only the listed numbers.
     [[nodiscard]] bool oneOf(std::span<const int> numbers, std::int32_t &field) const;
-    [[nodiscard]] bool shutter(float &field) const; ///< exposure time in milliseconds, 0 to 100000
+    /// Allows an exposure time of 0 to 100000 milliseconds; it is not clamped.
+    [[nodiscard]] bool shutter(float &field) const;
 };

@@ -5,7 +5,7 @@
 
 #include <QList>
 
-/// One write request to the device.
+/// One write request to the device: an item (see sdk::CameraItem) unless stated otherwise.
 enum class CameraWrite
 {
     Picture,
@@ -17,10 +17,10 @@ enum class CameraWrite
     Exposure,
     NoiseReduction,
     BackLight,
-    BackLightByMode,
+    BackLightByMode, ///< item BackLight with the values of CameraState::backLightByMode
     WhiteBalance,
     DayNight,
-    DayNightByMode,
+    DayNightByMode, ///< item DayNight with the values of CameraState::dayNightByMode
     Defog,
     Light,
     MixedLight,
@@ -28,13 +28,16 @@ enum class CameraWrite
     ChannelName,
 };
 
-/// Whether a change of `key` changes the configuration "VideoColor" in the state or on the device.
+/// Whether a change of `key` (see CameraKey) changes the configuration "VideoColor" in the state or on the
+/// device. The caller must have read that configuration of the channel before.
 [[nodiscard]] bool changesColor(const QString &key);
 
-/// Applies a change to `state` and returns the writes in their order. Returns an empty list and leaves
-/// `state` unchanged for an unknown key or sub-key, a group that the camera does not support, or an invalid
-/// value. Numbers are clamped to their range, those of sliders to the camera's. An empty sub-key means
-/// "value", the main value of a group. Keys without sub-keys ignore it.
+/// Applies a change to `state` and returns the writes that send it to the device, in their order; sends
+/// nothing. `key` is a CameraKey and `subKey` a CameraSetting; an empty sub-key means "value", the main
+/// value of a group. Keys without sub-keys ignore it. Returns an empty list and leaves `state` unchanged for
+/// an unknown key or sub-key, a group that the camera does not support or that was not read, or an invalid
+/// value. Numbers are clamped to their range, those of sliders to the camera's. A channel name is truncated
+/// to the bytes that a device can store.
 [[nodiscard]] QList<CameraWrite> changeCamera(const QString &key, const QString &subKey,
                                               const QVariant &value, const ValueTables &tables,
                                               CameraState &state);

@@ -3,17 +3,19 @@
 
 #include "device/dh/camera/camerachanges.h"
 
-/// Temporary object for the writes of one change. Blocks for the timeout of the device library.
+/// Sends write requests with the values of a CameraState to one channel. Temporary object for the writes of
+/// one change. Blocks for the timeout of the device library.
 class CameraJob
 {
 public:
-    /// `session` and `state` must outlive the job.
+    /// `session` and `state` must outlive the job. `channel` is from 0.
     CameraJob(const ConfigSession &session, int channel, const CameraState &state)
         : m_session(session), m_channel(channel), m_state(state)
     {
     }
 
-    /// Returns false, and logs the error, if the device does not accept the write.
+    /// Sends one write. Returns false, and logs the error, if the device refuses it or does not respond: see
+    /// ConfigSession::isDeviceAway() and lastError().
     [[nodiscard]] bool run(CameraWrite write) const;
 
 private:

@@ -7,12 +7,13 @@
 
 #include <optional>
 
-/// The choices that a camera supports: the names whose bit is set in a mask, in the order of the values.
-/// Values past the end of the names are left out. A page uses indexes of this list.
+/// The choices that a camera supports: the names whose bit is set in a mask, in the order of their values. A
+/// value without a name is left out. The page names a choice by its index in names(); the device by its
+/// value.
 class OfferedValues
 {
 public:
-    /// `names` by value; bit n of `mask` is value n.
+    /// `names[n]` is the name of the value n, and bit n of `mask` says whether the camera supports it.
     OfferedValues(const QStringList &names, std::uint32_t mask);
 
     [[nodiscard]] const QStringList &names() const { return m_names; }
@@ -28,7 +29,7 @@ private:
     QList<int> m_values;
 };
 
-/// Translated names by value.
+/// Names in the language at the time of the call; the index is the value in the items.
 namespace CameraNames {
 [[nodiscard]] QStringList antiFlickerTypes();
 [[nodiscard]] QStringList exposureTypes();

@@ -4,15 +4,15 @@
 #include "device/dh/session/configsession.h"
 #include "sdk/camerablocks.h"
 
-/// State read from one camera channel. The items belong to `mode`. After readCameraItems() an item that was
-/// not read is zero.
+/// State read from one camera channel. The items belong to `mode`, the selected mode. An item of
+/// readCameraItems() that could not be read is zero.
 struct CameraState
 {
     static constexpr std::uint32_t allGroups = ~0u;
 
     sdk::CameraMode mode = sdk::CameraMode::Day;
     sdk::CameraCapabilities capabilities{};
-    std::uint32_t unreadGroups = allGroups; ///< bit n: the item of group n was not read
+    std::uint32_t unreadGroups = allGroups; ///< bit n: the item of sdk::CameraGroup n was not read
     bool isNoiseReductionRead = false;      ///< noise reduction is a second item of the group Exposure
     bool isChannelNameRead = false;
     sdk::VideoColorRecord color{};
@@ -38,13 +38,13 @@ struct CameraState
     sdk::LightItem light{};
     sdk::MixedLightItem mixedLight{};
 
-    /// Whether the camera has the group.
+    /// Whether the camera reports the group in its capabilities.
     [[nodiscard]] bool has(sdk::CameraGroup group) const
     {
         return (capabilities.groups >> static_cast<std::uint32_t>(group) & 1) != 0;
     }
 
-    /// Whether the camera has the group and its item was read.
+    /// Whether the camera has the group and its item was read, so that it can be written.
     [[nodiscard]] bool supports(sdk::CameraGroup group) const
     {
         return has(group) && (unreadGroups >> static_cast<std::uint32_t>(group) & 1) == 0;
@@ -58,7 +58,8 @@ struct CameraState
     }
 };
 
-/// Maximum size of the texts of "VideoColor" and "Lighting_V2", and the timeout for each.
+/// Maximum size in bytes of the texts of the configurations "VideoColor" and "Lighting_V2", and the timeout
+/// of a request for one of them.
 inline constexpr std::uint32_t cameraTextSize = 4096;
 inline constexpr std::chrono::milliseconds cameraTextWait{3000};
 
@@ -70,18 +71,22 @@ enum class CameraReading
     NoResponse, ///< the device does not respond; further requests were not sent
 };
 
-/// Reads the configuration "VideoColor" of a channel. `state.isColorKnown` is false on failure.
+// The functions below block for the timeouts of the device library. Channels are counted from 0.
+
+/// Reads the configuration "VideoColor" of a channel. On failure `state.color` is zero and
+/// `state.isColorKnown` false.
 CameraReading readVideoColor(const ConfigSession &session, int channel, CameraState &state);
 
-/// Reads capabilities, configurations and channel name; items and mode are unchanged. Refused: the device
-/// does not report its capabilities, and no group is supported. A refused configuration or name is marked as
-/// unknown.
+/// Reads the capabilities, the configurations that belong to them and the channel name; items and mode are
+/// unchanged. Refused: the device does not report its capabilities; no group is supported then. A refused
+/// configuration or name is marked as unknown, and the result is Done. NoResponse: `state` contains what was
+/// read before.
 [[nodiscard]] CameraReading readCameraCapabilities(const ConfigSession &session, int channel,
                                                    CameraState &state);
 
-/// Reads the items of the camera's groups for the current mode. A group whose item cannot be read counts as
-/// unsupported until it is read, since writing one value would overwrite its other values. Returns false if
-/// the device does not respond.
+/// Reads the items of the groups in the capabilities for the current mode. A group whose item cannot be read
+/// counts as unsupported until it is read, since writing one of its values would overwrite the others.
+/// Returns false if the device does not respond; the items that were not requested count as not read.
 [[nodiscard]] bool readCameraItems(const ConfigSession &session, int channel, CameraState &state);
 
 /// Reads the defog item, which is read again before each change. Returns false, and leaves the state

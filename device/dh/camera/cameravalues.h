@@ -9,6 +9,7 @@
 /// The lists of choices of a camera.
 struct CameraOptions
 {
+    /// The lists have those names that `capabilities` reports as supported. Keeps no reference.
     CameraOptions(const ValueTables &tables, const sdk::CameraCapabilities &capabilities);
 
     OfferedValues switchModes;
@@ -22,14 +23,15 @@ struct CameraOptions
     OfferedValues mixedLights;
 };
 
-/// A reported range if it is valid, otherwise 0 to 100.
+/// A reported range if its minimum is less than its maximum, otherwise 0 to 100.
 [[nodiscard]] sdk::ValueRange usableRange(sdk::ValueRange reported);
 
-/// The value of a key of the image page. Invalid for an unknown key, and for a channel name that was not
-/// read.
+/// The value of a key of the image page, see CameraKey; sends no request. Invalid for an unknown key, and
+/// for a channel name that was not read.
 ///
 /// The key of a group returns a map with "support" (bool), "unread" (bool: the camera has the group but it
 /// could not be read), the values by sub-key, the lists ("allExposureType", ...), "ranges" (map of {"min",
-/// "max"} by sub-key of each slider) and "missing" (sub-keys that the camera lacks; only if there are any). A
-/// value that is chosen from a list is an index, -1 if it is not in the list.
+/// "max"} by sub-key of each slider) and "missing" (sub-keys that the camera lacks; only if there are any).
+/// A value that is chosen from a list is an index, -1 if it is not in the list. The values of a group
+/// without "support" have no meaning.
 [[nodiscard]] QVariant cameraValue(const QString &key, const CameraState &state, const ValueTables &tables);

@@ -11,7 +11,8 @@
 class CurrentSession;
 class DeviceReservations;
 
-/// Executes the operations of the configuration pages. Lives on the main thread; its steps run on any thread.
+/// Executes the operations of the configuration pages on the current session: on the main thread with
+/// perform(), or on another thread with step(). Lives on the main thread; its steps run on any thread.
 class ConfigurationPages
 {
 public:
@@ -19,17 +20,18 @@ public:
     ConfigurationPages(sdk::SdkLibraries libraries, const DeviceReservations &reservations,
                        CurrentSession &session, BackEndSignals &backEndSignals);
 
-    /// Executes operations on the main thread, blocks it for the device's responses, and then emits the
-    /// signals of the operations.
+    /// Executes operations on the state of the current session, blocks the main thread for the device's
+    /// responses, and then emits the signals of the operations. Without a session the requests fail.
     void perform(const std::function<void(SessionOperations &operations)> &operations);
 
     /// See CDeviceBase::sessionStep().
     [[nodiscard]] PageStep step(const SessionJob &job);
 
-    /// See SessionOperations::getConfigData(). Additional keys: "loginHandle" (handle of the current session,
-    /// or 0), "sessionDevice" (its address and port, empty without a session) and "library" (a map of the
-    /// capabilities of the network library, see LibraryKey). Main thread, except for "loginHandle", which may
-    /// be read on any thread.
+    /// See SessionOperations::getConfigData(); a channel name is requested from the device, other values are
+    /// those that were read. Additional keys: "loginHandle" (handle of the current session, or 0),
+    /// "sessionDevice" (its address and port, empty without a session) and "library" (a map of the
+    /// capabilities of the network library, see LibraryKey). Main thread, except for "loginHandle", which
+    /// may be read on any thread.
     [[nodiscard]] QVariant value(const QString &key, const QVariant &channel) const;
 
 private:

@@ -14,22 +14,25 @@
 class SessionThreads;
 struct SecureLogin;
 
-/// The current session and its state. Lives on the main thread; functions for other threads say so.
+/// The one login of the configuration pages, live view and snapshots, and the state that was read in it.
+/// Owns the login: CDeviceDH calls end() before it destroys this object. Lives on the main thread; functions
+/// for other threads say so.
 class CurrentSession
 {
 public:
     /// `threads` must outlive this object.
     CurrentSession(sdk::SdkLibraries libraries, SessionThreads &threads);
 
-    /// Starts a session with a successful login and clears the state. The present login is logged out in the
-    /// background.
+    /// Starts a session with a successful login, which this object owns from then on, and clears the state.
+    /// An earlier login is logged out in the background.
     void begin(const QString &ipport, const QString &account, const QString &password,
                const SecureLogin &login);
 
-    /// Logs out and clears the state. Blocks for the device.
+    /// Logs out and clears the state. Blocks for the device. Does nothing without a session.
     void end();
 
     [[nodiscard]] std::int64_t handle() const { return m_handle; } ///< 0 without a session
+    // Of the login; empty or 0 without a session.
     [[nodiscard]] const QString &ipport() const { return m_ipport; }
     [[nodiscard]] const QString &account() const { return m_account; }
     [[nodiscard]] const QString &password() const { return m_password; }
@@ -41,14 +44,15 @@ public:
     /// handle(); any thread.
     [[nodiscard]] std::int64_t sharedHandle() const { return m_sharedHandle; }
 
-    /// Counter that is incremented by a login to another device. Any thread.
+    /// Counter that is incremented by a login at another address and port. A snapshot uses it to detect that
+    /// the session is no longer with its device. Any thread.
     [[nodiscard]] int deviceGeneration() const { return m_deviceGeneration; }
 
-    /// The state read from the device.
+    /// The state read from the device. The reference is valid until setState().
     [[nodiscard]] SessionState &state() { return *m_state; }
     [[nodiscard]] const SessionState &state() const { return *m_state; }
 
-    /// Replaces state() by a changed copy of it.
+    /// Replaces state() by a changed copy of it. `state` must not be null.
     void setState(const std::shared_ptr<SessionState> &state) { m_state = state; }
 
     /// Tables for the values of the pages. They live as long as this object.

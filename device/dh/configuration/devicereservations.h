@@ -9,18 +9,20 @@
 
 class DeviceStore;
 
-/// Reservations of devices against batch steps. Thread-safe.
+/// Reserves a device, so that no batch step runs on it. Reservations do not exclude each other. Thread-safe.
 class DeviceReservations
 {
 public:
     DeviceReservations(std::shared_ptr<DeviceStore> store, std::shared_ptr<BatchEngine> engine,
                        UpgradeCheck isUpgradingAt);
 
-    /// Reserves a device; blocks until its running batch step ends. Returns an empty reservation during an
-    /// upgrade, and if `control` is stopped or the engine ends before. Any thread.
+    /// Reserves a device for the lifetime of the result. Blocks until the running batch step of the device
+    /// ends; its further steps wait for the end of the reservation. Returns an empty reservation immediately
+    /// if the device is being upgraded, and if a stop of `control` is requested or the engine ends during
+    /// the wait. The deadline of `control` has no effect. Any thread.
     [[nodiscard]] BatchEngine::Reservation reserve(const QString &ipport, const StepControl &control) const;
 
-    /// Whether the firmware of the device is being upgraded.
+    /// Whether the firmware of the device with this address and port is being upgraded. Any thread.
     [[nodiscard]] bool isUpgradingAt(const QString &ipport) const { return m_isUpgradingAt(ipport); }
 
 private:

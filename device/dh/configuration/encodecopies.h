@@ -17,9 +17,11 @@ class DeviceLogins;
 class DeviceStore;
 struct DeviceAccount;
 
-/// Copies the settings of the current channel to the channel with the same number of each device. Settings
-/// that a device does not support are skipped and listed in "result" of its row. Lives on the main thread;
-/// its steps run on any thread.
+/// Copies the encode settings of the current channel to the channel with the same number of each device. The
+/// settings are those that the current session has read at the time of the call, with changes of the page
+/// that are not written yet. Settings that a device does not support are skipped. "result" of the device's
+/// row lists them, and is empty otherwise. Nothing is sent to a device that is being upgraded. Lives on the
+/// main thread; its steps run on any thread.
 class EncodeCopies
 {
     Q_DECLARE_TR_FUNCTIONS(EncodeCopies)
@@ -29,7 +31,8 @@ public:
                  UpgradeCheck isUpgradingAt, const CurrentSession &session, BackEndSignals &backEndSignals);
 
     /// Copies to devices by address and port, one after another. Blocks for the devices. Emits
-    /// signalCDeviceRetToCopyConfig for each.
+    /// signalCDeviceRetToCopyConfig with the result of each, see EncodeCopyOutcome; 10 also if the current
+    /// session has read no settings.
     void copyTo(const QStringList &devices);
 
     /// See CDeviceBase::encodeCopy().

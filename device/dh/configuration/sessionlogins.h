@@ -17,8 +17,8 @@ class DeviceStore;
 class DeviceReservations;
 class SessionThreads;
 
-/// Implements the operations of CDeviceBase with similar names, and their steps. Lives on the main thread;
-/// its steps run on any thread.
+/// Implements the operations of CDeviceBase that log in for the window, and their steps; the comments there
+/// apply to functions without one here. Lives on the main thread; its steps run on any thread.
 class SessionLogins
 {
 public:
@@ -29,23 +29,29 @@ public:
                   const DeviceReservations &reservations, CurrentSession &session,
                   BackEndSignals &backEndSignals);
 
-    /// Logs in for the current session. Returns a LoginResult. Blocks for the device.
+    /// Logs in for the current session and emits signalCDeviceHighLevelLoginRet. Returns a LoginResult.
+    /// After a failure the earlier session is kept. Blocks for the device.
     int findAndLogin(const QString &ipport, const QString &account, const QString &password);
+    /// The step of findAndLogin(). The session begins when the outcome is taken.
     [[nodiscard]] PageStep loginStep(const QString &ipport, const QString &account, const QString &password);
 
-    /// Logs in and out to check an account. Any thread; blocks for the device. Returns a LoginResult;
-    /// Upgrading, without a request, during an upgrade.
+    /// Logs in and out to check an account; the current session is not affected. Any thread; blocks for the
+    /// device. Returns a LoginResult: Upgrading, without a request, during an upgrade; NotInitialised if the
+    /// device refuses without a reason and its row is not initialised.
     [[nodiscard]] int check(const QString &ipport, const QString &account, const QString &password) const;
 
-    /// Logs in, reads the details of a device, and logs out. Blocks for the device.
+    /// Logs in with the account of the device, reads its details, and logs out, see
+    /// CDeviceBase::readDeviceDetail(). Sets the MAC of a row without one. Blocks for the device.
     [[nodiscard]] QVariantMap readDetail(const QString &ipport);
     [[nodiscard]] PageStep detailStep(const QString &ipport);
 
+    /// The session that the step returns logs out when it is destroyed, or when the back end ends.
     [[nodiscard]] OwnSessionStep ownSessionStep(const OwnSessionOrder &order);
 
     void openSession(const QString &ipport, const QString &account, const QString &password,
                      bool readsChannels, bool isGivenNow);
-    void stopOpeningSession() { ++m_lastRequest; } ///< drops the result of a pending openSession()
+    /// Drops the result of a pending openSession(): its login is logged out, and no signal is emitted.
+    void stopOpeningSession() { ++m_lastRequest; }
     void checkSession();
 
 private:

@@ -8,13 +8,16 @@
 #include <functional>
 #include <vector>
 
-/// Executes operations on one SessionState and collects their signals. Any thread, one at a time. Blocks for
-/// the timeouts of the device library.
+/// Executes operations on one SessionState and collects their signals; the caller emits them. Any thread,
+/// but one thread at a time. Blocks for the timeouts of the device library. While the device is being
+/// upgraded, it is read but nothing is written to it: the write has the result LoginResult::Upgrading. See
+/// CDeviceBase for the operations.
 class SessionRun final : public SessionOperations
 {
 public:
-    /// `isUpgrading` returns whether the firmware of the device is being upgraded; it must be callable on any
-    /// thread. `state` must outlive this object.
+    /// `isUpgrading` returns whether the firmware of the device is being upgraded; it must be callable on
+    /// the thread of the operations, and may be empty if only getConfigData() is called. `state` must
+    /// outlive this object.
     SessionRun(SessionState &state, std::function<bool()> isUpgrading);
 
     void getEncodeCaps() override;

@@ -6,7 +6,8 @@
 #include <optional>
 
 /// The lists of choices for one kind of stream, from its capability block. The block comes from a device and
-/// is not trusted: counts are limited, unknown bits and codes are left out, an empty block has no choices.
+/// is not trusted: counts are limited, unknown bits and codes are left out, and a block whose size is not
+/// set has no choices. The functions use the block as it is at the time of the call.
 class EncodeChoices
 {
 public:
@@ -16,31 +17,33 @@ public:
     {
     }
 
-    /// Names of the compressions. For H.264 one entry for each reported profile replaces "H264"; profiles
-    /// without a name are left out.
+    /// Names of the compressions, in the order of their codes. For H.264 one entry for each reported profile
+    /// replaces "H264"; profiles without a name are left out.
     [[nodiscard]] QStringList compressions() const;
 
-    /// Whether a compression is offered. For H.264 on a device that reports profiles, `profile` (1 to 4) must
-    /// be one of them; another value of `profile` matches any.
+    /// Whether a compression (by code) is offered. For H.264 on a device that reports profiles, `profile` (1
+    /// to 4) must be one of them; any other value of `profile` is no requirement.
     [[nodiscard]] bool offersCompression(int code, int profile) const;
 
-    /// Names of the sizes. May contain a size more than once if sizes depend on the compression.
+    /// Names of the sizes, see resolutionName(). If the sizes depend on the compression, those of all
+    /// compressions, so that a size may be in the list more than once.
     [[nodiscard]] QStringList resolutions() const;
 
-    /// Whether this size (in pixels) is offered with a compression.
+    /// Whether this size (in pixels) is offered with a compression (by code).
     [[nodiscard]] bool offersSize(int compression, int width, int height) const;
 
-    /// Bit rates in kbit/s between the block's minimum and maximum, from the first 32 steps of the tables. A
-    /// limit that no step keeps is ignored.
+    /// Bit rates in kbit/s as decimal texts: those of the first 32 steps of the tables that are between the
+    /// block's minimum and maximum. A minimum above all of these steps, and a maximum below all of them, is
+    /// ignored.
     [[nodiscard]] QStringList bitRates() const;
 
     [[nodiscard]] QStringList audioCompressions() const; ///< names of the audio formats
 
-    /// Sampling frequencies in Hz for an audio format by name; those of the tables if the device reports none
-    /// for this format.
+    /// Sampling frequencies in Hz for an audio format by its name in audioCompressions(); those of the
+    /// tables if the device reports none for this format. Never empty.
     [[nodiscard]] QList<int> samplingFrequencies(const QString &audioCompression) const;
 
-    /// Whether the device reports that it does not have this value.
+    /// Whether the device reports that it does not have this value. False if the block is empty.
     [[nodiscard]] bool isMissing(sdk::EncodeValue value) const;
 
     /// Whether the device reports any profile of H.264, including unknown ones.

@@ -8,49 +8,61 @@
 
 #include <optional>
 
-/// The encode settings of one channel of the current session's device: read from the device, changed by the
-/// page, and written when the user confirms. A value type; a copy works on the same device. Blocks for the
-/// timeouts of the device library. Not thread-safe.
+/// The encode settings of one channel of the current session's device: read() reads them from the device,
+/// setValue() changes them here, and confirm() writes them when the user confirms. A value type; a copy has
+/// its own values and works on the same device. Blocks for the timeouts of the device library. Not
+/// thread-safe.
 class EncodeConfig
 {
 public:
     /// `tables` must outlive this object and its copies.
     explicit EncodeConfig(const ValueTables &tables);
 
-    /// Sets the session and clears all values.
+    /// Sets the session and clears all values. Sends no request.
     void begin(const ConfigSession &session);
 
-    /// Reads the selected channel and kind of stream. Returns 0 on success, configurationUnreadable (1),
-    /// capabilitiesUnknown (10), or an error of the device library.
+    /// Reads the settings of the selected channel and kind of stream, and the choices for them. Returns 0 on
+    /// success, configurationUnreadable (1), capabilitiesUnknown (10), or an error of the device library. If
+    /// the device refuses the configuration or does not respond to its request, the earlier values stay. If
+    /// a later request fails, its values are not read and cannot be set.
     [[nodiscard]] int read(const ChannelChoice &channels);
 
     /// Marks all items as not read, after another channel or kind of stream was selected; read() reads them.
     /// The lists of choices stay.
     void markItemsUnread();
 
-    /// A value by key, see EncodeValues::value(). Additional keys: "takenItems" (indexes of the items that
-    /// the device accepted in the last setValue() or confirm(), with confirm() also of those that it does not
-    /// have; empty after read()), "unreadItems" and "unreadIndexes" (names and indexes of the items that the
-    /// device has but that were not read). Indexes are those of writeEncodeItems().
+    /// A value by key, see EncodeValues::value(); sends no request. Additional keys:
+    ///
+    ///  - "takenItems": indexes of the items that are not unsaved any more. After confirm(): those that the
+    ///    device accepted, and those that it does not have. After setValue(): the item that was written
+    ///    immediately and accepted, if any. Empty after read().
+    ///  - "unreadItems" and "unreadIndexes": names and indexes of the items that the device has but that
+    ///    were not read
+    ///
+    /// Indexes are those of writeEncodeItems().
     [[nodiscard]] QVariant value(const QString &key, const ChannelChoice &channels) const;
 
     /// Result of a write.
     struct Outcome
     {
-        QString notWritten; ///< a line, with its end, for each item that was not written; empty without one
+        QString notWritten; ///< names of the items that were not written, each with "\n"; empty for none
         int result = 0; ///< 0, the library's error if the device stopped responding, or a result of read()
     };
 
-    /// Changes a value. The resolution of the sub stream is written immediately, to the channel of the image
-    /// page, which devices expect; all other values are written by confirm(). An invalid value is logged and
-    /// ignored.
+    /// Changes a value; see EncodeValues::setValue(). An invalid value, and a value whose item was not read,
+    /// is logged and ignored, with an empty outcome. Only the resolution of the sub stream is written
+    /// immediately, to the channel of the image page, which devices expect. If the device refuses it, other
+    /// bit rates are tried, of which the first accepted one stays. The choices are then read again. All other
+    /// values are written by confirm().
     Outcome setValue(const QString &key, const QVariant &value, const ChannelChoice &channels);
 
-    /// Writes the items that were read. `notWritten` lists those that failed or were not read. Items that the
-    /// device does not have are neither written nor listed.
+    /// Writes all items that were read, changed or not. `notWritten` lists those that the device refused,
+    /// those that were not sent since the device stopped responding, and those that were not read. Items
+    /// that the device does not have are neither written nor listed. If the channel was not read, nothing is
+    /// written and all items are listed.
     [[nodiscard]] Outcome confirm(const ChannelChoice &channels);
 
-    /// The state of the channel; nullopt if it was not read.
+    /// The state of the channel, with changes that are not confirmed; nullopt if it was not read.
     [[nodiscard]] const std::optional<EncodeState> &state() const { return m_state; }
 
     /// Names of the items in the user's language, by the indexes of writeEncodeItems().

@@ -10,12 +10,12 @@
 #include <cstdint>
 #include <vector>
 
-/// Maps codes to texts. In a list of names the index is the code, unless stated otherwise. Immutable after
-/// construction.
+/// Maps codes of the devices to texts. In a list of names the index is the code, unless stated otherwise.
+/// Immutable after construction; any thread.
 class ValueTables
 {
 public:
-    /// Uses the translations of the current language.
+    /// Uses the translations of the language at the time of construction.
     ValueTables();
 
     const QStringList StreamTypeNames;       ///< kinds of main streams
@@ -29,16 +29,18 @@ public:
     const QStringList DayNightModeNames;
     const QStringList BackLightModeNames;
 
-    /// The name of an audio format. Configurations and items use a different numbering than capabilities:
-    /// this function and audioNameToFormat() use theirs. Empty for an unknown format.
+    /// The name of an audio format in configurations and items, which use another numbering than
+    /// capabilities (AudioCompressionNames). Empty for an unknown format.
     [[nodiscard]] static QString audioFormatToName(int format);
 
-    /// 0 for an unknown name. Both variants of G.723 are written as G.726.
+    /// The reverse of audioFormatToName(); 0 for an unknown name. Both variants of G.723 give the format of
+    /// G.726.
     [[nodiscard]] static int audioNameToFormat(const QString &name);
 
     /// The index of exactly this size in ResolutionNames; -1 if it has no name.
     [[nodiscard]] int resolutionIndexFromSize(int width, int height) const;
 
-    /// Returns false, and leaves the arguments unchanged, if the index is out of range.
+    /// Sets `width` and `height` (pixels) to the size with this index in ResolutionNames. Returns false, and
+    /// leaves the arguments unchanged, if the index is out of range.
     bool resolutionSizeFromIndex(int index, int &width, int &height) const;
 };

@@ -21,8 +21,9 @@ class SnapThread;
 struct SecureLogin;
 struct SnapTask;
 
-/// Takes snapshots (one image of a live view) and writes them to files. Lives on the main thread; its steps
-/// run on any thread.
+/// Takes snapshots (one image of a live view) in the current session or in a session of the live window, and
+/// images of many devices, each in a separate login. Writes them to files. Lives on the main thread; its
+/// steps run on any thread.
 class ImageOperations
 {
     Q_DECLARE_TR_FUNCTIONS(ImageOperations)
@@ -35,24 +36,26 @@ public:
     ImageOperations(const ImageOperations &) = delete;
     ImageOperations &operator=(const ImageOperations &) = delete;
 
-    /// Takes snapshots of the current session's device one after another on a separate thread and returns
-    /// immediately. Snapshots that are not taken yet are taken first. `kind` is "liveCapture" for all
-    /// channels, each of which emits CDeviceBase::signalSnapPictureToFile, or "againCapture" for `channel`
-    /// (from 0), which emits CDeviceBase::signalSnapPictureToFileAgain; others are ignored. `address` is the
-    /// name of the device's folder in the folder of snapshots.
+    /// Takes snapshots of the current session's device one after another on a separate thread, after those
+    /// of earlier calls, and returns immediately. `kind` is "liveCapture" for all channels, each of which
+    /// emits CDeviceBase::signalSnapPictureToFile, or "againCapture" for `channel` (from 0), which emits
+    /// CDeviceBase::signalSnapPictureToFileAgain; others are ignored. The signals also report failures. A
+    /// session with another device ends the snapshots of this one. `address` is the name of the device's
+    /// folder in the folder of snapshots.
     void takeSnapshots(const QString &kind, int channel, const QString &address);
 
     /// See CDeviceBase::snapshotSteps().
     [[nodiscard]] QList<DeviceStep> snapshotSteps(const QString &address);
 
-    /// Takes a snapshot with the login of a live view, see OwnSession::takeImage(). Any thread; blocks.
+    /// Takes a snapshot with the login of a live view, which must stay open until the return, see
+    /// OwnSession::takeImage(). Any thread; blocks.
     [[nodiscard]] static OwnImage takeOwnImage(const sdk::SdkLibraries &libraries, const OwnImageOrder &order,
                                                const StepControl &control);
 
     /// See CDeviceBase::imageStep().
     [[nodiscard]] DeviceStep imageStep(const ImageOrder &order);
 
-    /// Cancels the snapshots of takeSnapshots() and waits for their thread.
+    /// Cancels the snapshots of takeSnapshots() and waits for their thread. Steps are not affected.
     void cancelSnapshots();
 
 private:

@@ -3,26 +3,28 @@
 
 #include "device/dh/lists/devicelistline.h"
 
-/// Writes a list to a file: ".xlsx" as workbook, ".csv" as comma-separated text, any other suffix as XML. The
-/// file is replaced atomically. On failure it is unchanged, the reason is logged, and false is returned.
+/// Writes a list to a file: ".xlsx" as workbook, ".csv" as comma-separated text, any other suffix as XML.
+/// The file is replaced atomically. Returns false on failure: an existing file is unchanged, and the reason
+/// is logged.
 [[nodiscard]] bool writeDeviceList(const QString &path, const std::vector<DeviceListLine> &lines);
 
-/// A field that an import of the file would not read back unchanged.
+/// A field that an import of the file would not read back unchanged, or a missing address.
 struct UnreadableText
 {
     std::size_t line = 0; ///< index of its line in the list
     ListColumn column = ListColumn::DeviceCategory;
-    QString character; ///< first character that is lost or makes the field or file invalid; empty if the
-                       ///< field is too long or a missing address
+    /// First character that is lost or makes the field or file invalid. Empty if the field is too long, or if
+    /// it is a missing address.
+    QString character;
 };
 
 /// Maximum number of results of unreadableTexts().
 constexpr std::size_t maximumUnreadableTexts = 1000;
 
-/// The fields that an import of a file with this name would not read back unchanged. Includes missing
-/// addresses (device without an address from DHCP), since an import rejects such a line. CSV and XML text is
-/// read by the reader of the format: first all lines together, then line by line if that differs. Workbooks
-/// keep every character; only the rules for fields are applied.
+/// The fields that an import of a file with this name and these lines would not read back unchanged, in
+/// their order, at most maximumUnreadableTexts. Includes missing addresses (a device without an address from
+/// DHCP), since an import rejects such a line. Accesses no file: CSV and XML text is formatted and parsed in
+/// memory. Workbooks keep every character, so that only the rules for fields apply.
 [[nodiscard]] std::vector<UnreadableText> unreadableTexts(const QString &fileName,
                                                           const std::vector<DeviceListLine> &lines);
 

@@ -60,12 +60,12 @@ inline constexpr QLatin1StringView initialised("INITIALIZED");
 inline constexpr QLatin1StringView notInitialised("NOT INITIALIZED");
 } // namespace ListWord
 
-/// One device of a list file.
+/// One device of a list file. The values are as in the file: they may be too long or invalid.
 struct DeviceListLine
 {
     int number = 0;                ///< line or row number in the file, from 1
     bool hasTooManyFields = false; ///< more fields than headers: the fields are ambiguous and not kept
-    std::array<QString, listColumnCount> values;
+    std::array<QString, listColumnCount> values; ///< by ListColumn; empty for a missing field
 
     [[nodiscard]] QString &operator[](ListColumn column)
     {
@@ -84,7 +84,7 @@ inline constexpr qsizetype maximumListText = 256;
 /// Result of reading a list file.
 struct DeviceListContents
 {
-    static constexpr std::size_t maximumLines = 100'000;
+    static constexpr std::size_t maximumLines = 100'000; ///< a file with more lines is refused
 
     std::vector<DeviceListLine> lines;
     QString refusal; ///< why the file cannot be used, in the user's language; empty on success
@@ -97,8 +97,8 @@ struct DeviceListContents
     bool refuse(const QString &reason);
 };
 
-/// Why a field is invalid, in the user's language: too long, or with control characters, which would break
-/// table rows. Empty if it is valid.
+/// Why a field is invalid, in the user's language: longer than maximumListText, or with control characters,
+/// which would break table rows. Empty if it is valid.
 [[nodiscard]] QString faultOfText(const QString &text);
 
 /// Converts a field of a file for a DeviceListLine: truncated to maximumListText + 1 characters, and without

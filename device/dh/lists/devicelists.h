@@ -14,7 +14,8 @@ class DeviceLogins;
 class DeviceStore;
 class P2PPorts;
 
-/// Implements the operations of CDeviceBase with similar names. Lives on the main thread.
+/// Implements the operations of CDeviceBase with similar names. Lives on the main thread; functions for
+/// other threads say so.
 class DeviceLists
 {
 public:
@@ -22,22 +23,26 @@ public:
     DeviceLists(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries, const DeviceLogins &logins,
                 BackEndSignals &backEndSignals);
 
-    /// Writes the devices with these row names to `folder` (a path or "file:///" URL); the suffix of
-    /// `fileName` selects the format: "xlsx", "csv", otherwise XML. Writes the passwords of rows and of the
-    /// default account in plain text, but not those of stored accounts. Skips devices that are no longer in
-    /// the list. Returns false if none is left or the file cannot be written.
+    /// Writes the devices with these row names to a file in `folder` (a path or "file:///" URL), replacing
+    /// an existing file. The suffix of `fileName` selects the format: "xlsx", "csv", otherwise XML. Writes
+    /// the passwords of rows and of the default account in plain text, but not those of stored accounts.
+    /// Skips devices that are no longer in the list. Returns false if none is left or the file cannot be
+    /// written; an existing file is unchanged then.
     bool exportDevices(const QString &folder, const QStringList &macs, const QString &fileName);
 
     /// Fields of the last exported list that an import would not read back, see CDeviceBase::exportFaults().
+    /// Empty after a failed export.
     [[nodiscard]] QVariantList exportFaults() const { return m_exportFaults; }
 
-    /// Reads a list file. Any thread; blocks for the file. `ports` opens local ports to devices behind NAT;
-    /// may be null.
+    /// Reads a list file and makes its import; adds no device. The reason of a refused list is in the
+    /// result. `path` may be a "file:///" URL. Any thread; blocks for the file. `ports` opens local ports to
+    /// devices behind NAT; may be null, then the steps of such devices fail.
     [[nodiscard]] ImportPlan importPlan(const QString &path, const std::shared_ptr<P2PPorts> &ports) const;
 
-    /// Logs in to all devices of a list and blocks until that is done. Sets `summary`, emits
-    /// signalCDeviceImportProgress after each line, and signalCDeviceAddSingleDeviceToTable at the end if a
-    /// device was added. Returns why the list was refused, in the user's language; empty on success.
+    /// Logs in to all devices of a list file, adds their rows and blocks until that is done. Sets `summary`,
+    /// emits signalCDeviceImportProgress after each line, and signalCDeviceAddSingleDeviceToTable at the end
+    /// if a device was added. Returns why the list was refused as a whole, in the user's language; otherwise
+    /// empty, also if lines failed.
     [[nodiscard]] QString importDevices(const QString &path, const std::shared_ptr<P2PPorts> &ports,
                                         ImportSummary &summary);
 

@@ -5,20 +5,22 @@
 #include <QList>
 #include <QStringView>
 
-/// Converts the rows of a table to lines of a list. Columns are found by their headers: any order, and all
-/// but the address may be missing. Skips rows above the headers and empty rows.
+/// Converts the rows of a table to lines of a list. The headers are the first row that contains the header
+/// of the address. Columns are found by their headers: any order, and all but the address may be missing;
+/// unknown columns are ignored. Skips rows above the headers and empty rows.
 class DeviceListTable
 {
 public:
-    /// Maximum number of rows above the headers, and of columns that are read.
+    /// Maximum number of rows above the headers, and of columns in the row of the headers.
     static constexpr int maximumRowsAbove = 50;
     static constexpr int maximumColumns = 64;
 
     /// The lines are added to `contents`, which must outlive this object.
     explicit DeviceListTable(DeviceListContents &contents) : m_contents(contents) {}
 
-    /// Adds the next row. Returns false if the table cannot be used; DeviceListContents::refusal has the
-    /// reason.
+    /// Adds the next row, with its number in the file from 1. A row with more cells than the headers becomes
+    /// a line with hasTooManyFields and without values. Returns false if the table cannot be used: no row
+    /// may be added then, and DeviceListContents::refusal has the reason.
     bool addRow(int number, const QList<QStringView> &cells);
 
     /// Must be called after the last row. Returns false, and sets the refusal, if no headers were found.

@@ -16,12 +16,13 @@ struct ListedDevice
     std::optional<sdk::SearchResponse> record; ///< nullopt if no search has found the device
 };
 
-/// The line of a device. Values come from the row, which the user sees; the search record provides what rows
-/// do not have. An initialised device without an account in its row gets `usual`, the account that would be
-/// used to log in.
+/// The line of a device for an export. Values come from the row, which the user sees; the search record
+/// provides what rows do not have. A device without an account in its row gets `usual`, the account that
+/// would be used to log in, if it is initialised; otherwise user name and password are empty.
 [[nodiscard]] DeviceListLine listLineOf(const ListedDevice &device, const DeviceAccount &usual);
 
-/// The device type (as devices report it) that a line means.
+/// The device type, as devices report it, of a line that was read. Exported lists have other words for some
+/// types.
 [[nodiscard]] QString deviceTypeOf(const DeviceListLine &line);
 
 /// Fills empty fields of a device's row, and an unknown type, from a line of a list. A row without a name

@@ -5,7 +5,8 @@
 
 class QIODevice;
 
-/// The list as UTF-8 text, one element in each line. Values are written without escapes.
+/// The list as UTF-8 text, one element in each line. Values are written without escapes, so that "<" or "&"
+/// in a value makes the file unreadable: see unreadableTexts().
 [[nodiscard]] QByteArray xmlOf(const std::vector<DeviceListLine> &lines);
 
 /// Reads a list from an open file. The encoding is that of a byte order mark or of the XML declaration

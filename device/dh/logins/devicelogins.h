@@ -14,8 +14,8 @@
 
 class DeviceStore;
 
-/// Chooses the accounts of devices and logs in with them. Thread-safe, except for the setters. Logins block
-/// for the timeouts of the device library.
+/// Chooses the accounts of devices and logs in with them. Thread-safe, except for the setters: no other
+/// function may run during a setter. Logins block for the timeouts of the device library.
 class DeviceLogins
 {
 public:
@@ -24,25 +24,28 @@ public:
     /// Sets the function that returns stored accounts. Must be called before any other function.
     void setStoredAccounts(const AccountChoice::Stored &stored) { m_accounts.setStored(stored); }
 
-    // Main thread.
+    // See AccountChoice. Main thread.
     void setDefaultAccount(const DeviceAccount &account) { m_accounts.setDefault(account); }
     void setFollowingAccount(const DeviceAccount &account) { m_accounts.setFollowing(account); }
 
     [[nodiscard]] const AccountChoice &accounts() const { return m_accounts; }
 
-    /// The account in the device's row; if it has none, the stored or default account (see AccountChoice).
-    /// The default account for an unknown device.
+    /// The account for a login to the device at this address and port: the account in its row, otherwise the
+    /// stored or the default account (see AccountChoice). The default account for a device without a row.
     [[nodiscard]] DeviceAccount accountAt(const QString &ipport) const;
+    /// Same for a row; an empty row is a device without a row.
     [[nodiscard]] DeviceAccount accountOf(const QJsonObject &row) const;
 
-    /// Logs in with secureLogin() and sets "loggedIn" of the device's row. The caller logs out.
+    /// Logs in with secureLogin() and sets "loggedIn" of the device's row, if it has one, also after a
+    /// failure. The caller logs out a successful login.
     [[nodiscard]] SecureLogin logIn(const QString &ipport, const DeviceAccount &account) const;
 
-    /// Sets "loggedIn" of the device's row to whether `result` is a success.
+    /// Sets "loggedIn" of the row at this address and port to whether `result` is a success.
     void note(const QString &ipport, LoginResult result) const;
 
-    /// Logs in, runs `work`, and logs out. Returns the outcome of `work`, the result of a failed login, or
-    /// NotDone if `control` ends the step before `work`.
+    /// Logs in as logIn() does, runs `work` with the handle of the login, and logs out. Returns the outcome
+    /// of `work`, the result of a failed login, or NotDone if `control` ends the step before `work`; `work`
+    /// is not called in the last two cases.
     [[nodiscard]] StepOutcome inLogin(const QString &ipport, const DeviceAccount &account,
                                       const StepControl &control,
                                       const std::function<StepOutcome(sdk::LLONG loginHandle)> &work) const;

@@ -17,38 +17,42 @@
 
 class DeviceStore;
 
-/// Logs in to the devices that a search finds, sets "loggedIn" of their rows and fills empty fields: model,
-/// version, MAC (unless another row has it), and the serial number of the search record. Existing values are
-/// kept.
+/// Logs in to the devices that a search finds, sets "loggedIn" of their rows after a success and fills empty
+/// fields: model, version, MAC (unless another row has it), and the serial number of the search record.
+/// Existing values are kept. The logins are logged out again.
 ///
-/// A device gets one login in a search. A device that has refused its account gets no further login until its
-/// account changes, since wrong passwords lock accounts. Logins run on up to 8 threads of this object.
+/// A device gets one login in a search. The account that a device refused last is not sent to it again, also
+/// not in later searches, since wrong passwords lock accounts. Logins run on up to 8 threads of this object.
 /// Thread-safe.
 class FoundLogins : public QObject
 {
     Q_OBJECT
 public:
     FoundLogins(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries);
+    /// requestStop(), then waits for running logins.
     ~FoundLogins() override;
 
-    /// Called when a search starts. nullopt: no logins in this search.
+    /// Called when a search starts. Drops logins of the earlier search that have not started. nullopt: no
+    /// logins in this search.
     void begin(const std::optional<AccountChoice> &accounts);
 
     /// Starts logins to the listed IPv4 devices that are initialised, have not had one in this search and
-    /// lack a value. Returns immediately.
+    /// lack model, version or MAC. Returns immediately. Does nothing before begin() and after stop().
     void logInToNew();
 
-    /// Drops logins that have not started, and starts no further ones until the next begin().
+    /// Drops logins that have not started, and starts no further ones until the next begin(). Running logins
+    /// continue.
     void stop();
 
     /// Blocks until no login is running or waiting for a thread.
     void waitForDone();
 
-    /// stop() permanently; running logins end at their next request.
+    /// stop() permanently: begin() has no effect any more. Running logins end at their next request. Does
+    /// not wait.
     void requestStop();
 
 Q_SIGNALS:
-    /// A login has filled fields of a row. Emitted on any thread.
+    /// A login has filled fields of a row. Emitted on a thread of this object.
     void rowsChanged();
 
 private:

@@ -13,8 +13,9 @@
 class DeviceLogins;
 class DeviceStore;
 
-/// Sends requests to devices that a search has found, using their search records. Writes the results to "res"
-/// of the rows. Lives on the main thread; its steps run on any thread.
+/// Sends requests to devices that a search has found, using their search records. Writes the result of each,
+/// a LoginResult, to "res" of the row `mac`. Functions that return a StepOutcome also return it. Lives on
+/// the main thread; its steps run on any thread.
 class FoundDevices
 {
     Q_DECLARE_TR_FUNCTIONS(FoundDevices)
@@ -24,22 +25,28 @@ public:
     FoundDevices(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries, const DeviceLogins &logins,
                  UpgradeCheck isUpgrading);
 
-    /// Initialises a device: creates its first account, which is then set in its row. Any thread; blocks for
-    /// the device. Success, without a request, for a device without a search record.
+    /// Initialises a device: creates its first account. After a success the account is set in the device's
+    /// row. Any thread; blocks for the device. For a device without a search record, no request is sent and
+    /// the result is Success.
     StepOutcome initialise(const QString &mac, const QString &account, const QString &password);
 
-    /// Step of initialise(); fails for a device that no search has found.
+    /// Step of initialise(). NotSupported, without a request, if no search has found the device or its
+    /// record has neither MAC nor UUID.
     [[nodiscard]] DeviceStep initialisationStep(const QString &mac, const QString &account,
                                                 const QString &password);
 
-    /// Changes the address of a device. The row gets the new address, with DHCP an empty one, even if the
-    /// request fails; "unconfirmed" is set then. Result Upgrading or NotInitialised, without a request and
-    /// with an unchanged address, during an upgrade and for a device that is not initialised. Blocks for the
+    /// Changes the address of a device. The row then has the new address, with DHCP an empty one, even if
+    /// the device refuses the request or does not respond: "unconfirmed" of the row is true then. Without a
+    /// request, and with an unchanged address, the result is Upgrading during an upgrade and NotInitialised
+    /// for a device that is not initialised. For a device without a search record, no request is sent, and
+    /// the row and the result are as after a success. The texts are ignored with `dhcpON`. Blocks for the
     /// device.
     void changeAddress(const QString &mac, const QString &newip, const QString &newsubmask,
                        const QString &newgateway, bool dhcpON);
 
-    /// Step of changeAddress(); fails for a device that no search has found.
+    /// Step of changeAddress(), with the account that the device has at this call. NotSupported, without a
+    /// request, if no search has found the device or its record has neither MAC nor UUID. NotDone, with an
+    /// unchanged address, if the step ends before the request is sent.
     [[nodiscard]] DeviceStep addressStep(const QString &mac, const QString &newip, const QString &newsubmask,
                                          const QString &newgateway, bool dhcpON);
 

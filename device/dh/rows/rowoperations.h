@@ -18,8 +18,8 @@ class DeviceStore;
 class P2PPorts;
 struct RowLoginRequest;
 
-/// Reads, changes, adds and removes rows. Rows are named by MAC, or by address and port without one. Lives on
-/// the main thread.
+/// Reads, changes, adds and removes rows of the device store. Rows are named by rowName(). Lives on the main
+/// thread.
 class RowOperations
 {
 public:
@@ -27,26 +27,29 @@ public:
     RowOperations(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries, const DeviceLogins &logins,
                   UpgradeCheck isUpgrading, BackEndSignals &backEndSignals);
 
-    /// Logs in to a device and adds its row. Returns a LoginResult. Blocks for the device.
+    /// Logs in to a device and adds its row, replacing an existing one. Emits
+    /// signalCDeviceAddSingleDeviceToTable after a success. Returns a LoginResult. Blocks for the device.
     [[nodiscard]] int add(const RowLoginRequest &request);
 
     /// See CDeviceBase::addingStep(). `ports` opens local ports to devices behind NAT; may be null.
     [[nodiscard]] DeviceStep addingStep(const DeviceToAdd &device,
                                         const std::shared_ptr<P2PPorts> &ports) const;
 
-    // Operations of CDeviceBase with similar names (updataDeviceInfo(), getDeviceInfo(), deviceRow(), ...).
+    // Operations of CDeviceBase; their names there are in the comments.
 
+    /// updataDeviceInfo()
     bool update(const QString &key, const QVariant &newValue, const QString &mac, const QString &ipport);
     [[nodiscard]] QVariantMap accountOf(const QString &name) const;
-    [[nodiscard]] QVariantMap rowAt(const QString &ipport) const;
-    [[nodiscard]] QJsonObject rowNamed(const QString &name) const;
-    [[nodiscard]] QVariantMap detail(const QString &mac) const;
-    [[nodiscard]] QVariantMap detailAt(const QString &ipport) const;
-    [[nodiscard]] QVariantList filtered(const QString &filter, const QString &text) const;
-    [[nodiscard]] QVariantList filteredIPv6(const QString &filter, const QString &text) const;
+    [[nodiscard]] QVariantMap rowAt(const QString &ipport) const;    ///< getDeviceInfo()
+    [[nodiscard]] QJsonObject rowNamed(const QString &name) const;   ///< deviceRow()
+    [[nodiscard]] QVariantMap detail(const QString &mac) const;      ///< getDeviceDetail()
+    [[nodiscard]] QVariantMap detailAt(const QString &ipport) const; ///< getDeviceDetailByAddress()
+    [[nodiscard]] QVariantList filtered(const QString &filter, const QString &text) const; ///< filterData()
+    [[nodiscard]] QVariantList filteredIPv6(const QString &filter,
+                                            const QString &text) const; ///< filterDataIPV6()
 
-    /// Removes the rows named by the keys of `macs`; with `ipversion` "IPV6" the keys are addresses and
-    /// ports, since those rows have no MAC. Keeps rows of devices that are being upgraded.
+    /// Removes the rows named by the keys of `macs` from the IPv4 list, or with `ipversion` "IPV6" from the
+    /// IPv6 list. Keeps rows of devices that are being upgraded. Emits signalCDeviceAddSingleDeviceToTable.
     void remove(const QVariantMap &macs, const QString &ipversion);
 
 private:

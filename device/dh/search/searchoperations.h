@@ -19,12 +19,12 @@ class FoundLogins;
 /// Settings of a search.
 struct SearchSettings
 {
-    bool localDomain = true; ///< search the local segment
+    bool localDomain = true; ///< search the local segment; the range of setRange() is searched in any case
     bool logsIn = false;     ///< log in to found devices; ignored without a default account
 };
 
 /// Implements the search operations of CDeviceBase. Lives on the main thread. Signals of the back end are
-/// emitted on the threads of the searches.
+/// emitted on the threads of the searches and logins.
 class SearchOperations
 {
 public:
@@ -34,17 +34,19 @@ public:
                      std::function<SearchSettings()> settings, const DeviceLogins &logins,
                      BackEndSignals &backEndSignals);
 
-    /// Waits for running searches and logins.
+    /// Ends running searches and logins and waits for their threads.
     ~SearchOperations();
     SearchOperations(const SearchOperations &) = delete;
     SearchOperations &operator=(const SearchOperations &) = delete;
 
+    /// See CDeviceBase::startSearch(). Uses the settings and accounts at this time.
     void start();
 
     /// Sets the address range of the next search (host byte order; 0: none).
     void setRange(quint32 begin, quint32 end);
 
-    /// Stops the running search and drops logins that have not started; found devices are kept.
+    /// Stops the running search and drops logins that have not started. Found devices and running logins are
+    /// kept.
     void stop();
 
     /// Queries the devices of these rows again in the background, see DeviceRefresh::start().
@@ -53,8 +55,9 @@ public:
     /// See CDeviceBase::locationStep().
     [[nodiscard]] DeviceStep locationStep(const QStringList &macs);
 
-    /// Stops everything at its next step, without waiting. Signals of the search are not emitted any more;
-    /// running logins and queries may still report changed rows.
+    /// Stops everything at its next step, without waiting; no search or login starts afterwards. The
+    /// progress and the end of a search are not signalled any more. Late responses, running logins and
+    /// queries may still report changed rows.
     void requestEnd();
 
 private:

@@ -8,33 +8,36 @@
 
 #include <optional>
 
-/// Reads and writes channel names, one request for each. Stores only the results of writes. Blocks for the
-/// timeouts of the device library. Not thread-safe.
+/// Reads and writes channel names of the device, one request for each; channels are counted from 0. The
+/// names are not stored here, only the results of writes. Blocks for the timeouts of the device library. Not
+/// thread-safe.
 class ChannelNames
 {
 public:
     /// Maximum number of channels of a device; further ones are ignored.
     static constexpr int maximumChannels = 1024;
 
-    static constexpr int refused = 999; ///< result: the device refused the name
+    static constexpr int refused = 999; ///< result of a write: the device refused the name
 
     /// Sets the session and clears the results.
     void begin(const ConfigSession &session);
 
-    /// The name of a channel (from 0), without surrounding spaces; null if the device does not report it.
+    /// The name of a channel, without surrounding spaces; null if the device refuses the request or does not
+    /// respond.
     [[nodiscard]] QVariant name(int channel);
 
-    /// The names of the first `count` channels. If the device stops responding, the remaining names are null.
+    /// The names of the first `count` channels, at most maximumChannels, null as by name(). If the device
+    /// stops responding, no further name is requested and the remaining ones are null.
     [[nodiscard]] QVariantList names(int count);
 
-    /// Whether the last read ended because the device did not respond.
+    /// Whether the last name() or names() failed because the device did not respond.
     [[nodiscard]] bool isDeviceAway() const { return m_isDeviceAway; }
 
-    /// Writes the name of a channel (from 0). A name that is too long for the item is truncated at a
-    /// character boundary. Returns 0, `refused` or deviceAway.
+    /// Writes the name of a channel and stores the result, which is returned: 0, `refused` or deviceAway. A
+    /// name that is too long for the item is truncated at a character boundary.
     int write(int channel, const QString &name);
 
-    /// Stores `result` (not 0) as the result of a write that was not sent.
+    /// Stores `result` (not 0) for a write that was not sent. It counts in the save like a failed write.
     void noteFailure(int channel, int result);
 
     /// Ends a save, which consists of the writes since the previous endSaving(). Returns false if there were

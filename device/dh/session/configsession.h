@@ -14,9 +14,9 @@ using ConfigText = std::vector<char>;
 /// Result for a device that did not respond, of operations that do not return the library's error.
 inline constexpr int deviceAway = static_cast<int>(sdk::NetError::NetworkFailure);
 
-/// Typed access to the configuration functions of the device library for one login. Does not own the login.
-/// All functions block for their timeout. Without a library or login they fail. Channels are counted from 0;
-/// -1 is the device itself. Any thread.
+/// Typed access to the configuration functions of the device library for one login. Does not own the login:
+/// the functions fail after its logout. All functions block for their timeout. Without a library or login
+/// they fail. Channels are counted from 0; -1 is the device itself. Any thread.
 class ConfigSession
 {
 public:
@@ -32,8 +32,8 @@ public:
     /// Timeout of requests without a specific one.
     static constexpr std::chrono::milliseconds usualWait{5000};
 
-    /// Reads a configuration text into `text`, whose size is the maximum. Returns 0, or the library's error,
-    /// which is never 0.
+    /// Reads a configuration text into `text`, whose size is the maximum and is unchanged. Returns 0, or the
+    /// library's error, which is never 0.
     [[nodiscard]] std::int32_t fetchText(const char *name, int channel, ConfigText &text,
                                          std::chrono::milliseconds wait) const;
 
@@ -59,14 +59,15 @@ public:
         return unpack(name, text, &record, sizeof(record));
     }
 
-    /// Formats `record` into `text`, whose size is the maximum. Returns false on failure.
+    /// Formats `record` into `text`, whose size is the maximum and is unchanged. Returns false on failure;
+    /// sends nothing.
     template<typename Record>
     [[nodiscard]] bool pack(const char *name, const Record &record, ConfigText &text) const
     {
         return pack(name, &record, sizeof(record), text);
     }
 
-    /// Writes a configuration text. Returns false on failure.
+    /// Writes a configuration text to the device. Returns false on failure, see lastError().
     bool writeText(const char *name, int channel, const ConfigText &text,
                    std::chrono::milliseconds wait) const;
 
@@ -80,7 +81,8 @@ public:
         return pack(name, record, text) && writeText(name, channel, text, wait);
     }
 
-    // The following functions send one request each and return false on failure; see lastError().
+    // The following functions send one request each and return false on failure, see lastError(). The caller
+    // sets the size and the requested stream or mode of an item, and the sizes of `input` and `output`.
 
     template<typename Item>
     bool readItem(std::uint32_t number, int channel, Item &item) const
@@ -106,7 +108,7 @@ public:
         return m_net && m_net->NetQueryChannelStates(m_handle, states, wait);
     }
 
-    /// Also fails if the response does not fill the block.
+    /// Also fails if the response does not fill the block, which may then be changed.
     template<typename Block>
     bool queryBlock(sdk::QueryCommand command, Block &block, std::chrono::milliseconds wait) const
     {

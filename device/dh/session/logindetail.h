@@ -5,9 +5,10 @@
 
 #include <QVariantMap>
 
-/// Reads attributes, addresses, ports and channel states. Keys: "serial", "vision", "model", "mac",
-/// "hostName", "address", "submask", "gateway", "dhcp", "servicePort", "maximumConnections", "webPort",
-/// "httpsPort" (0: off), "rtspPort", "channelCount", "connectedCount", "alarmInputs" and "disks". "dhcp" is a
-/// bool, ports and counts are integers, the others texts. Keys without a response are missing. Stops if the
-/// device does not respond. Blocks for the timeouts of the library; any thread.
+/// Reads attributes, addresses, ports and channel states. Keys: "serial", "vision" (version), "model",
+/// "mac", "hostName", "address", "submask", "gateway", "dhcp", "servicePort", "maximumConnections",
+/// "webPort", "httpsPort" (0: off), "rtspPort", "channelCount", "connectedCount", "alarmInputs" and "disks".
+/// "dhcp" is a bool, ports and counts are integers, the others texts. A value that the device refuses or
+/// reports as empty has no key. If the device does not respond, the remaining values are not requested, and
+/// the map contains those read before. Blocks for the timeouts of the library; any thread.
 [[nodiscard]] QVariantMap loginDetail(const ConfigSession &session);

@@ -21,13 +21,13 @@ struct SecureLogin
     int channelCount = 0;       ///< video inputs that the device reports
 };
 
-/// Logs in to the device at `ipport` ("address:port", an IPv6 address in brackets). Blocks for the response
-/// or the library's timeout. NetworkFailure if `net` is null, and without an
-/// address. Any thread.
+/// Logs in to the device at `ipport` ("address:port", an IPv6 address in brackets; 127.0.0.1 is the local
+/// end of a tunnel). Blocks for the response or the library's timeout. NetworkFailure, without a request, if
+/// `net` is null or the address is empty. Any thread.
 [[nodiscard]] SecureLogin secureLogin(sdk::NetLibrary *net, const QString &ipport, const QString &account,
                                       const QString &password);
 
-/// A login that is logged out by the destructor unless take() was called.
+/// A login that is logged out by the destructor, which blocks for the device, unless take() was called.
 class UntakenLogin
 {
 public:
@@ -39,7 +39,7 @@ public:
 
     [[nodiscard]] LoginResult result() const { return m_login.result; }
 
-    /// Passes the handle to the caller, who must log it out.
+    /// Passes the login to the caller, who must log it out.
     [[nodiscard]] SecureLogin take();
 
 private:

@@ -15,7 +15,8 @@ struct SessionOrder
     QString password;
     std::int64_t handle = 0; ///< of the present session, 0 for none
     int channelCount = 0;    ///< of the present session's device
-    bool isNewLogin = true;  ///< account differs from the present session's, or the user has just entered it
+    /// The account differs from that of the present session, or the user has just entered it.
+    bool isNewLogin = true;
     bool readsChannels = true; ///< read the channels also if the present session is kept
 };
 
@@ -27,11 +28,14 @@ struct SessionOffer
     QVariantList channels; ///< see liveChannels(); empty unless requested or after a new login
 };
 
-/// Whether the device responds in the session. A refused request counts as a response, unless the device
-/// refuses the login of the session. Blocks for up to two seconds; any thread.
+/// Whether the device responds in the session. A refused request counts as a response. A refused connection,
+/// and a device that no longer accepts the login of the session, do not. Blocks for up to two seconds; any
+/// thread.
 [[nodiscard]] bool respondsInSession(const ConfigSession &session);
 
-/// Checks the present session, and logs in if the device does not respond in it, for example after a restart.
-/// If the device has refused the session's login, the same login is not sent again: the result is
-/// SessionEnded or the refusal. Blocks for the timeouts of the library; any thread.
+/// Checks the present session, and logs in with the account of the order if there is none or the device does
+/// not respond in it, for example after a restart. A session in which the device responds is kept, also with
+/// isNewLogin; the account of the order is not checked then. If the device no longer accepts the present
+/// login and the order has no new one, no login is sent: the result is SessionEnded or the refusal. Logs out
+/// nothing; the caller owns a new login. Blocks for the timeouts of the library; any thread.
 [[nodiscard]] SessionOffer offerSession(const sdk::SdkLibraries &libraries, const SessionOrder &order);

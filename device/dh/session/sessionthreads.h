@@ -16,8 +16,9 @@ namespace sdk {
 class NetLibrary;
 }
 
-/// Runs session checks, logins, logouts and work of pages on up to 16 threads. Thread-safe; created and
-/// destroyed on the main thread. The destructor waits for all started work.
+/// Runs session checks, logins, logouts and work of pages on up to 16 threads; further work waits for a
+/// thread. Thread-safe; created and destroyed on the main thread. The destructor waits for all started and
+/// waiting work.
 class SessionThreads
 {
 public:
@@ -27,20 +28,23 @@ public:
     SessionThreads(const SessionThreads &) = delete;
     SessionThreads &operator=(const SessionThreads &) = delete;
 
-    /// Runs `work` on one of the threads.
+    /// Runs `work` on one of the threads. Returns immediately.
     void start(const std::function<void()> &work);
 
-    /// See CDeviceBase::runForPage().
+    /// See CDeviceBase::runForPage(). The step does not run if `stop` is requested or clear() is called
+    /// before its start; `ended` is not called then.
     void runForPage(const PageStep &step, const std::stop_token &stop,
                     const std::function<void(const PageOutcome &outcome)> &ended);
 
     /// Logs out on one of the threads and returns immediately.
     void logOutLater(const QList<std::int64_t> &handles);
 
-    /// Logs out: on the main thread with logOutLater(), on another thread in this call.
+    /// Logs out: on the main thread with logOutLater(), on another thread in this call, which blocks for the
+    /// device.
     void logOut(std::int64_t handle);
 
-    /// Drops work that has not started.
+    /// Drops work that has not started, also logouts. Called when the back end ends, whose library then
+    /// releases every login.
     void clear() { m_threads.clear(); }
     /// Blocks until no work is running or waiting for a thread.
     void waitForDone() { m_threads.waitForDone(); }

@@ -13,10 +13,11 @@ namespace sdk {
 class NetLibrary;
 } // namespace sdk
 
-/// The time of a device. nullopt on failure: `error` is the library's error, or 0 if the response is not a
-/// valid time. Blocks for up to 3 s; any thread.
+/// The time of a device, in its local time without a zone. On failure nullopt: `error` is the library's
+/// error, or 0 if the response is not a valid time. `net` must not be null. Blocks for up to 3 s; any
+/// thread.
 [[nodiscard]] std::optional<QDateTime> readDeviceClock(sdk::NetLibrary &net, std::int64_t loginHandle,
                                                        std::uint32_t &error);
 
-/// Text with the device's time and its difference to `here`, the host's time, in the user's language.
+/// Text with the device's time and its difference to `here`, the host's local time, in the user's language.
 [[nodiscard]] QString deviceClockText(const QDateTime &device, const QDateTime &here);

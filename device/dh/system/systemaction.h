@@ -9,11 +9,13 @@
 #include <functional>
 #include <optional>
 
-/// Executes a command on a logged-in device. Blocks for the timeouts of the library; any thread. Returns the
-/// library's error, 0 on success.
+/// Executes a command on a logged-in device. Blocks for the timeouts of the library; any thread. Returns 0
+/// on success, otherwise the library's error, or ConfigSession::unusableText if a configuration cannot be
+/// read or written as text.
 using SystemAction = std::function<std::uint32_t(std::int64_t loginHandle)>;
 
-/// The action of a command. nullopt for an unknown command and for data that the command does not accept.
-/// `libraries.net` must not be null.
+/// The action of a SystemCommand with its data (keys of SystemDataKey); sends nothing. nullopt for a command
+/// without an action, also those that SystemOperations executes itself, and for data that the command does
+/// not accept. `libraries.net` must not be null.
 [[nodiscard]] std::optional<SystemAction> systemAction(const sdk::SdkLibraries &libraries,
                                                        const QString &command, const QVariantMap &data);

@@ -21,20 +21,21 @@ struct DaylightSaving
     sdk::DaylightSavingPoint end;
 };
 
-/// Keys: "dstEnable", "dstMode" (0 by date, 1 by week), and with the prefixes "start" and "end": "Month" (1
-/// to 12), "Day" (by date: index from 0), "Week" (by week: 0 first to 3 fourth, 4 last), "WeekDay" (by week:
-/// 0 Sunday to 6 Saturday) and "Time" ("hh:mm").
+/// Keys: "dstEnable" (bool), "dstMode" (0 by date, 1 by week), and with the prefixes "start" and "end":
+/// "Month" (1 to 12), "Day" (by date: 0 to 30 for the days 1 to 31), "Week" (by week: 0 first to 3 fourth, 4
+/// last), "WeekDay" (by week: 0 Sunday to 6 Saturday) and "Time" ("hh:mm").
 [[nodiscard]] std::optional<DaylightSaving> daylightSavingFrom(const QVariantMap &data);
 
-/// Keys: "timeZone" (index in the devices' time zones, 0 to 39), "ntpSet" (bool), "ntpServer", "ntpPort" (0
-/// to 65535) and "updatePeriod" (minutes, 0 to 65535).
+/// Keys: "timeZone" (index in the devices' time zones, 0 to 39), "ntpSet" (bool: the device uses the
+/// server), "ntpServer" (may be empty; invalid if it is too long for the record), "ntpPort" (0 to 65535) and
+/// "updatePeriod" (minutes, 0 to 65535).
 [[nodiscard]] std::optional<sdk::NtpRecord> ntpFrom(const QVariantMap &data);
 
 /// Keys: "week" (0 Sunday to 6 Saturday, 7 every day), "time" ("hh:mm") and "autoReboot" (bool).
 [[nodiscard]] std::optional<sdk::AutoMaintainRecord> autoMaintainFrom(const QVariantMap &data);
 
-/// Key: "name" of a channel. Invisible characters and surrounding spaces are removed; the rest has 1 to
-/// ByteText::channelNameBytes() bytes.
+/// Key: "name" of a channel. Invisible characters and surrounding spaces are removed. The rest must have 1
+/// to ByteText::channelNameBytes() bytes; it is not truncated.
 [[nodiscard]] std::optional<sdk::ChannelNameItem> channelNameFrom(const QVariantMap &data);
 
 /// Key: "videoStandard": 1 PAL, 2 NTSC.

@@ -18,7 +18,8 @@ class DeviceStore;
 class SessionThreads;
 struct DeviceAccount;
 
-/// Runs a maintenance command on one device or many. Lives on the main thread; its steps run on any thread.
+/// Runs a maintenance command (a SystemCommand) on one device or many. The data have the keys of
+/// SystemDataKey. Lives on the main thread; its steps run on any thread.
 class SystemOperations
 {
     Q_DECLARE_TR_FUNCTIONS(SystemOperations)
@@ -28,15 +29,20 @@ public:
                      const DeviceLogins &logins, SessionThreads &threads, UpgradeCheck isUpgradingAt,
                      BackEndSignals &backEndSignals);
 
-    /// Runs a command on each device and blocks for the devices. Emits signalCDeviceRetToSystemConfig with
-    /// the result of each: 0, the result of a failed login, Upgrading, or 999 (refusedByDevice) for a
-    /// refusal, an unknown command or invalid data. "loginCheck" keeps the logins open (result -1) for
-    /// "modifyPassword" and emits signalCDeviceSystemConfigEnablePassword at the end if there is one.
-    /// "modifyPassword" skips devices without such a login. "cancelLogin" closes these logins in the
-    /// background.
+    /// Runs a command on each device, one after another, and blocks for the devices. Emits
+    /// signalCDeviceRetToSystemConfig with the result of each: 0, the result of a failed login, Upgrading
+    /// (without a request), or 999 (refusedByDevice) for a refusal, no response, an unknown command or
+    /// invalid data.
+    ///
+    /// "loginCheck" logs in with the password in `data`. It keeps a successful login open for
+    /// "modifyPassword" (result -1), and emits signalCDeviceSystemConfigEnablePassword at the end if there
+    /// is one. "modifyPassword" skips devices without such a login, without a signal. After a success it
+    /// writes account and new password to the device's row; the login stays open. "cancelLogin" closes all
+    /// of these logins in the background; it ignores `ipports`.
     void run(const QString &command, const QVariantMap &data, const QStringList &ipports);
 
-    /// The step of a command for one device, see CDeviceBase::systemStep().
+    /// The step of a command for one device, see CDeviceBase::systemStep(). It uses the account that the
+    /// device has at this call. "modifyPassword" without an open login of "loginCheck" returns NotDone.
     [[nodiscard]] DeviceStep step(const QString &command, const QVariantMap &data, const QString &ipport);
 
     /// Closes the logins that "loginCheck" has kept open. Blocks for the devices.

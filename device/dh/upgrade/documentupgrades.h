@@ -20,31 +20,35 @@ class UpgradeOrders;
 class UpgradeRound;
 struct UpgradeOrder;
 
-/// Starts the upgrades of upgrade documents (workbooks). A line is upgraded with the row of its address, if
-/// the list has one, otherwise without a row. Paths may be "file:///" URLs. Lives on the main thread; its
-/// steps run on any thread.
+/// Starts the upgrades of upgrade documents (workbooks). A line is upgraded with the row that has its
+/// address and port, from the IPv4 or the IPv6 list; without such a row it is upgraded as well. Paths may be
+/// "file:///" URLs. Lives on the main thread; its steps run on any thread.
 class DocumentUpgrades
 {
 public:
     /// The referenced objects must outlive this object, which must outlive its steps.
     DocumentUpgrades(std::shared_ptr<DeviceStore> store, UpgradeRound &round, UpgradeOrders &orders);
 
-    /// The lines as maps, see CDeviceBase::importUpgradeDocument(). Sets `refusal` to why the document is
-    /// refused, in the user's language; empty if it is not.
+    /// The lines as maps, see CDeviceBase::importUpgradeDocument(); starts nothing. Sets `refusal` to the
+    /// reason why the document is refused, in the user's language; empty if it is not. Blocks for the files.
     [[nodiscard]] QVariantList report(const QString &path, QString &refusal) const;
 
-    /// See CDeviceBase::upgradeDocumentReading().
+    /// See CDeviceBase::upgradeDocumentReading(). The next start() or steps() uses the document that was
+    /// read, if its file is unchanged.
     [[nodiscard]] PageStep reading(const QString &path);
 
-    /// Upgrades all lines of these documents. The progress signals name a document by its entry in `paths`;
-    /// at 100 % its results are written.
+    /// Upgrades all lines of these documents; returns after reading the files. A line that cannot be
+    /// upgraded gets the reason as its result, and the others are upgraded. The progress signals name a
+    /// document by its entry in `paths`; at 100 % its results are written.
     void start(const QStringList &paths);
 
-    /// Steps of start() for the lines with these row numbers, in the order of the document.
+    /// Steps of start() for the lines with these row numbers in the sheet, in the order of the document. A
+    /// line that cannot be upgraded has a step that returns the reason. Other lines of the document keep
+    /// their result cells. Empty if the document is refused.
     [[nodiscard]] QList<UpgradeDocumentStep> steps(const QString &path, const QList<int> &lines);
 
 private:
-    /// Clears the results of earlier documents, unless upgrades of documents are running.
+    /// Clears the results of earlier documents, unless documents are open (see UpgradeDocuments::hasOpen()).
     void begin();
     [[nodiscard]] QHash<QString, QJsonObject> rowsByAddress() const;
     /// Adds a document to the round and returns its lines; none if it is refused.

@@ -15,23 +15,25 @@ struct FirmwareFile
     /// Maximum file size in bytes; larger files are refused.
     static constexpr qint64 largest = qint64(1) << 30;
 
-    UpgradeTools::Result refusal = UpgradeTools::None; ///< why it cannot be sent; None: it can
-    std::optional<sdk::FirmwareHead> head;             ///< of header or file name; nullopt: unknown
+    UpgradeTools::Result refusal = UpgradeTools::None; ///< why it cannot be sent to any device; None: it can
+    std::optional<sdk::FirmwareHead> head; ///< model and version, from header or file name; nullopt: unknown
 
-    /// Whether the file is for this model. True if either model is unknown.
+    /// Whether the file is for this model. True if either model is unknown. Does not consider `refusal`.
     [[nodiscard]] bool fits(const QString &model) const;
 
-    /// Why the file cannot be sent to a device of this model; None if it can.
+    /// Why the file cannot be sent to a device of this model: `refusal`, or WrongModel. None if it can.
     [[nodiscard]] UpgradeTools::Result refusalFor(const QString &model) const;
 };
 
-/// Checks a file; reads its header only. Any thread.
+/// Checks a file (local path); reads its header only. A missing, unreadable, empty, too large or damaged
+/// file has a refusal, and an empty path NoFile. Any thread.
 [[nodiscard]] FirmwareFile checkFirmwareFile(const QString &path);
 
-/// Cache of checkFirmwareFile(): checks each path once. Not thread-safe.
+/// Cache of checkFirmwareFile(): checks each path once, at its first use. Not thread-safe.
 class FirmwareFiles
 {
 public:
+    /// The reference is valid until the next call.
     [[nodiscard]] const FirmwareFile &at(const QString &path);
 
 private:

@@ -15,34 +15,39 @@ class UpgradeOrders;
 class UpgradeRound;
 struct FirmwareFile;
 
-/// Sets firmware files of rows and starts their upgrades. Rows are named by MAC, or by address and port
-/// without one (as IPv6 rows). Lives on the main thread.
+/// Sets firmware files of rows and starts their upgrades. `mac` is the name of a row of either list, see
+/// rowName(). Lives on the main thread; its steps run on any thread.
 class RowUpgrades
 {
 public:
-    /// The referenced objects must outlive this object.
+    /// The referenced objects must outlive this object and its steps.
     RowUpgrades(std::shared_ptr<DeviceStore> store, UpgradeRound &round, const UpgradeOrders &orders,
                 BackEndSignals &backEndSignals);
 
-    /// Sets the firmware file of rows; `path` may be a "file:///" URL, or empty to remove the file. A device
-    /// that is being upgraded keeps its file. "upgraderes" and "upgradetext" of a row show why the file
-    /// cannot be used; the file is checked again at the start. Returns an UpgradeTools::Result for each row:
-    /// None, or why the upgrade is refused.
+    /// Sets the firmware file of rows; `path` may be a "file:///" URL, or empty to remove the file. The file
+    /// is set also if it cannot be used: "upgraderes" and "upgradetext" of a row then show the reason; the
+    /// file is checked again at the start. Returns an UpgradeTools::Result for each row: None, or why the
+    /// upgrade is refused. The row of a device that is being upgraded is unchanged (DeviceBusy). NotListed
+    /// for a name without a row.
     QList<int> setFiles(const QStringList &macs, const QString &path);
 
-    /// Starts upgrades and returns immediately. The rows show the progress and result: "upgrade" (percent),
-    /// "upgraderes" (an UpgradeTools::Result), "upgradetext" (in the user's language), and at the end
-    /// "vision".
+    /// Starts upgrades and returns immediately. A name without a row is logged and ignored; a device that is
+    /// being upgraded is ignored. The rows show the progress and result: "upgrade" (percent), "upgraderes"
+    /// (an UpgradeTools::Result), "upgradetext" (in the user's language), and at the end "vision" (the
+    /// version).
     void start(const QStringList &macs);
 
-    /// The upgrade step for a row, or for a document line without a row.
+    /// The step of an upgrade, see UpgradeRunner::step(). `mac` is the name of a row, or the address and
+    /// port of a document line without a row. The row shows immediately that it is waiting. For an unknown
+    /// name the step returns NotDone.
     [[nodiscard]] DeviceStep step(const QString &mac);
 
-    /// step() for a device that was upgraded from a document before: the result is written to the document as
-    /// well.
+    /// step() for a device that was upgraded from a document before: the result is written to the document's
+    /// file as well, unless another document is open.
     [[nodiscard]] DeviceStep repeatedDocumentStep(const QString &mac);
 
-    /// The file and version that step() would use for each of these rows, and why it would refuse.
+    /// The file and version that step() would use for each of these rows, and why it would refuse. Reads the
+    /// headers of the files.
     [[nodiscard]] QList<PlannedUpgrade> planned(const QStringList &macs) const;
 
     /// Names of the rows (IPv4 and IPv6) whose upgrade failed and may succeed if repeated.

@@ -13,17 +13,19 @@
 /// A line of an upgrade document.
 struct UpgradeDocumentLine
 {
-    int row = 0;    ///< in the sheet, from 2
-    QString ipport; ///< as in rows; of an invalid line the text of its cell, ":" and the port or 0
-    QString user;
-    QString password;
+    int row = 0; ///< in the sheet, from 2
+    /// "address:port" as in rows; the port of an empty cell is 37777. With an invalid address, the text of
+    /// its cell; with an invalid port, 0.
+    QString ipport;
+    QString user;                                      ///< empty if the cell is empty
+    QString password;                                  ///< with its spaces; empty if the cell is empty
     QString file;                                      ///< absolute path; empty if the cell is empty
     UpgradeTools::Result refusal = UpgradeTools::None; ///< error in the line itself; None if there is none
 };
 
 /// An upgrade document: a workbook of devices and firmware files, to which the results are written. Row 1
 /// contains the titles. Each other row is a device: address, port, user name, password, file (absolute, or
-/// relative to the folder of the workbook) and result. Not thread-safe.
+/// relative to the folder of the workbook) and result. open() is called first. Not thread-safe.
 class UpgradeDocument
 {
     Q_DECLARE_TR_FUNCTIONS(UpgradeDocument)
@@ -34,21 +36,24 @@ public:
     /// The titles that row 1 must start with, in the user's language.
     [[nodiscard]] static QStringList requiredTitles();
 
-    /// Opens the file. Returns why it cannot be used, in the user's language; empty on success.
+    /// Opens the file (local path) and checks titles and size. Returns why it cannot be used, in the user's
+    /// language; empty on success. After a failure no other function may be called.
     [[nodiscard]] QString open(const QString &path);
 
-    /// The rows that contain an address or a file, in order. An invalid address or port is refused with
-    /// LineUnusable, a repeated address and port with ListedTwice.
+    /// The rows that contain an address or a file, in order. A row with an invalid address or port has the
+    /// refusal LineUnusable; one with the address and port of an earlier row ListedTwice. Files are not
+    /// checked.
     [[nodiscard]] std::vector<UpgradeDocumentLine> lines();
 
-    /// The opened file; after keep() the file with the results.
+    /// The opened file; after keep() the file to which the results were written.
     [[nodiscard]] const QString &path() const { return m_path; }
 
-    /// Sets the result cell of a row; keep() writes it.
+    /// Sets the result cell of a row in memory; keep() writes it. A failure is logged.
     void setResult(int row, const QString &result);
 
-    /// Writes the results to the file, or to a file next to it if that fails. Returns a message for the user,
-    /// also on failure (see isKept()).
+    /// Writes the results to the opened file. If that fails, writes the workbook to a file next to it.
+    /// Returns a message for the user: the path of the file, or the error (see isKept()). Blocks for the
+    /// file.
     [[nodiscard]] QString keep();
 
     /// Whether keep() has succeeded.
@@ -78,5 +83,6 @@ struct OpenedUpgradeDocument
     [[nodiscard]] bool isCurrent(const QString &localPath) const;
 };
 
-/// Opens a document and reads its lines. Any thread.
+/// Opens a document and reads its lines. Blocks for the file. Any thread; the result is used by one thread
+/// at a time.
 [[nodiscard]] OpenedUpgradeDocument openUpgradeDocument(const QString &localPath);

@@ -13,7 +13,8 @@
 #include <vector>
 
 /// Collects the results of upgrades that were started from documents, and writes them when the last upgrade
-/// of a document has ended. note() may be called on any thread, all other functions on the main thread only.
+/// of a document has ended. A document is open from add() until its results are written, also if that fails.
+/// note() may be called on any thread, all other functions on the main thread only.
 class UpgradeDocuments
 {
     Q_DECLARE_TR_FUNCTIONS(UpgradeDocuments)
@@ -21,11 +22,11 @@ public:
     /// Progress of a document.
     struct Schedule
     {
-        QString name; ///< name passed to add()
-        int percent = 0;
+        QString name;    ///< name passed to add()
+        int percent = 0; ///< 0 to 100; 100 when the results are written, or could not be
     };
 
-    /// Number of lines of all documents since begin().
+    /// Numbers of lines of all documents since the last begin(), or since the first repeat() after it.
     struct Progress
     {
         int done = 0; ///< including refused lines
@@ -36,46 +37,54 @@ public:
     using Writer =
         std::function<void(const std::function<void()> &write, const std::function<void()> &written)>;
 
+    /// This object must outlive the functions that it passes to `writer`.
     explicit UpgradeDocuments(Writer writer) : m_writer(std::move(writer)) {}
 
-    /// Clears the results of earlier documents.
+    /// Clears the results of earlier documents, which cannot be repeated then. Must not be called while
+    /// documents are open.
     void begin();
 
-    /// Adds an opened document. `name` identifies it in Schedule.
+    /// Adds an opened document, which must not be null. `name` (its path as the caller knows it) identifies
+    /// it in Schedule. update() starts the writing of a document without running upgrades: the lines must be
+    /// added before.
     void add(const QString &name, std::unique_ptr<UpgradeDocument> document);
 
-    /// Adds the reason of a refused document to resultText().
+    /// Adds a line with the file name of a refused document and the reason to resultText().
     void addRefused(const QString &name, const QString &reason);
 
-    // Functions for the document added last:
+    // Functions for the lines of the document added last, before the next update():
 
-    /// Tracks the upgrade `key` of this line. Keys are unique in a document.
+    /// Tracks the upgrade of this line. `key` is UpgradeOrder::key; it must be unique in the document.
     void follow(const QString &key, const UpgradeDocumentLine &line);
 
-    /// Sets the result of a line that is not upgraded. `row` is its row in the sheet.
+    /// Sets the result of a line that is not upgraded; it counts as failed. `row` is its row in the sheet.
     void refuse(int row, const QString &reason);
 
-    /// Tracks a repeated upgrade of the line with this key. Its result is written to the document's file
-    /// again, which may have changed since. Returns false if no document has the line, if it is being
-    /// upgraded, or while other documents are open.
+    /// Tracks a repeated upgrade of the line with this key, from now on until its end. Its result is written
+    /// to the document's file again. If the file was changed in the meantime and its row has another
+    /// address, the row is not written. Clears the results of earlier documents if none is open. Returns
+    /// false, and tracks nothing, if no document since begin() has the line, if the line is being upgraded,
+    /// or while other documents are open.
     bool repeat(const QString &key);
 
-    /// Sets the state of an upgrade. Ignored if no document tracks the key. Any thread.
+    /// Sets the state of an upgrade: an UpgradeTools::Result, its progress (0 to 100) and its text for the
+    /// result cell. Ignored if no open document tracks the key, or if its upgrade has ended. Any thread.
     void note(const QString &key, int result, int percent, const QString &text);
 
-    /// Returns the documents whose progress has changed since the last call. Starts writing documents whose
-    /// upgrades have ended.
+    /// Returns the documents whose progress has changed since the last call. Starts the writing of documents
+    /// whose upgrades have ended. Called after changes by note() and after each writing.
     [[nodiscard]] QList<Schedule> update();
 
-    [[nodiscard]] Progress progress() const; ///< of all documents since begin()
+    [[nodiscard]] Progress progress() const;
 
     /// Whether documents have running upgrades or are being written.
     [[nodiscard]] bool hasOpen() const { return !m_documents.empty() || m_beingWritten > 0; }
 
-    /// Messages for the user, one line for each document; empty while documents are open.
+    /// Messages for the user: for each document of Progress a line with the numbers of successes and
+    /// failures and the result file, or the reason of its refusal. Empty while documents are open.
     [[nodiscard]] QString resultText() const { return hasOpen() ? QString() : m_result; }
 
-    /// The number of successful upgrades in finished documents.
+    /// The number of successful upgrades in the documents that are written.
     [[nodiscard]] int succeeded() const { return m_succeeded; }
 
 private:

@@ -14,25 +14,28 @@
 class DeviceLogins;
 class DeviceStore;
 
-/// Makes upgrade orders from rows and document lines. Remembers the accounts and devices of document lines,
-/// so that a repeated upgrade uses them again. Lives on the main thread.
+/// Makes upgrade orders from rows and document lines. Remembers the accounts and devices of document lines
+/// in memory, so that a repeated upgrade uses them again. Lives on the main thread.
 class UpgradeOrders
 {
 public:
     /// `logins` must outlive this object.
     UpgradeOrders(std::shared_ptr<DeviceStore> store, const DeviceLogins &logins);
 
-    /// Order for a row, with the file in the row.
+    /// Order for a row, with the file in the row. The account is that of an earlier document line for the
+    /// row, if there is one and the device has not refused it, otherwise that of DeviceLogins::accountOf().
     [[nodiscard]] UpgradeOrder orderOf(const QJsonObject &row) const;
 
-    /// Order for a document line. `row` is the row with its address; empty if there is none.
+    /// Order for a document line, with its file. `row` is the row with its address; empty if there is none.
+    /// A line without a user name gets the one that orderOf(row) would use without documents, and, if its
+    /// password is empty, too, that password.
     [[nodiscard]] UpgradeOrder orderOf(const UpgradeDocumentLine &line, const QJsonObject &row) const;
 
     /// Order for a row by name, or for a remembered line without a row by address and port; nullopt if
-    /// unknown.
+    /// neither is known.
     [[nodiscard]] std::optional<UpgradeOrder> orderNamed(const QString &name) const;
 
-    /// Remembers the order of a document line.
+    /// Remembers the order of a document line. `row` is the row of orderOf().
     void keep(const UpgradeOrder &order, const QJsonObject &row);
 
 private:

@@ -17,7 +17,8 @@
 class DeviceStore;
 
 /// Owns the upgrade runner and the upgrade documents. Writes the progress of upgrades to rows and documents
-/// and emits the upgrade signals of the back end. Lives on the main thread.
+/// and emits the upgrade signals of the back end. Lives on the main thread; functions for other threads say
+/// so.
 class UpgradeRound
 {
 public:
@@ -26,7 +27,7 @@ public:
                  const UpgradeLimits &limits, const std::shared_ptr<BatchEngine> &engine,
                  BackEndSignals &backEndSignals);
 
-    /// Waits for documents that are being written.
+    /// Waits for documents that are being written, and ends the upgrades, see UpgradeRunner::end().
     ~UpgradeRound();
     UpgradeRound(const UpgradeRound &) = delete;
     UpgradeRound &operator=(const UpgradeRound &) = delete;
@@ -35,22 +36,24 @@ public:
     [[nodiscard]] UpgradeDocuments &documents() { return m_documents; }
     [[nodiscard]] const UpgradeDocuments &documents() const { return m_documents; }
 
-    /// Whether upgrades are running or documents are open.
+    /// Whether upgrades are waiting or running, or documents are open.
     [[nodiscard]] bool isOpen() const { return m_runner->isUpgrading() || m_documents.hasOpen(); }
 
-    /// Whether a device with this address and port is being upgraded. Any thread.
+    /// Whether a device with this address and port is being upgraded; if several rows have it, whether any
+    /// of their devices is. Any thread.
     [[nodiscard]] bool isUpgradingAt(const QString &ipport) const;
 
     /// Whether the device with this row name is being upgraded. Any thread.
     [[nodiscard]] bool isUpgrading(const QString &name) const { return m_runner->isUpgrading(name); }
 
-    /// Returns and clears the names of the rows that upgrades have changed. Any thread.
+    /// Returns the names of the rows that upgrades have changed since the last call. Any thread.
     [[nodiscard]] QStringList takeChanged();
 
-    /// Emits the changed progress of documents.
+    /// Emits the changed progress of documents and starts the writing of finished ones.
     void noteDocuments();
 
-    /// Emits the signals after lines of a document have been started.
+    /// Called after lines of a document were started: emits the changed progress and rows. Reports the end
+    /// of the round later if no upgrade runs, since all lines were refused.
     void noteDocumentsBegun();
 
     /// See UpgradeRunner::requestEnd().

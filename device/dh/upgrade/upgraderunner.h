@@ -11,52 +11,59 @@
 #include <memory>
 #include <mutex>
 
-/// Makes steps of upgrades and tracks the progress of the round. A round starts with the first upgrade and
-/// ends when no upgrade is running. Thread-safe.
+/// Makes steps of upgrades and tracks the progress of the round: the upgrades since no upgrade was running.
+/// A round starts with the first upgrade and ends when none is waiting or running. Thread-safe.
 class UpgradeRunner
 {
 public:
-    /// Callbacks. Called on threads of the engine, inside step(), start(), stop(), requestEnd() and end(),
-    /// and where a step is destroyed. Must not call end().
+    /// Callbacks; both must be set. Called on threads of the engine, inside step(), start(), stop(),
+    /// requestEnd() and end(), and where a step is destroyed. Must not call end().
     struct Watchers
     {
-        std::function<void(const UpgradeOrder &order, const UpgradeState &state)> changed;
-        std::function<void()> roundEnded;
+        std::function<void(const UpgradeOrder &order, const UpgradeState &state)> changed; ///< each state
+        std::function<void()> roundEnded; ///< after `changed` of the last upgrade
     };
 
-    /// `engine` runs the upgrades of start(). A restarting device releases its slot of parallel upgrades.
+    /// `engine` runs the upgrades of start(), up to UpgradeLimits::maximumParallel at a time; it must not be
+    /// null. A restarting device does not count.
     UpgradeRunner(sdk::SdkLibraries libraries, const UpgradeLimits &limits,
                   std::shared_ptr<BatchEngine> engine, Watchers watchers);
 
-    /// Calls end().
+    /// Calls end(). A step that still runs uses this object: the threads that run steps must have ended
+    /// before.
     ~UpgradeRunner();
     UpgradeRunner(const UpgradeRunner &) = delete;
     UpgradeRunner &operator=(const UpgradeRunner &) = delete;
 
-    /// Adds an upgrade to the round and returns its step. The upgrade waits until the step runs, or ends as
-    /// stopped if stop() is called or the step is destroyed without having run. If the device is being
-    /// upgraded or the runner has ended, nothing is added and the step returns LoginResult::Upgrading.
-    /// Results are those of UpgradeTools::batchResult().
+    /// Adds an upgrade to the round and returns its step; the upgrade is waiting until the step runs. It
+    /// ends as Stopped if stop() is called, or the step is destroyed, before. If the device is being
+    /// upgraded or the runner has ended, nothing is added and the step returns LoginResult::Upgrading. The
+    /// result of a step is that of UpgradeTools::batchResult().
     [[nodiscard]] DeviceStep step(const UpgradeOrder &order);
 
     /// Adds an upgrade and runs it on the engine, after those started before. Returns false, and adds
     /// nothing, if the device is being upgraded or the runner has ended.
     bool start(const UpgradeOrder &order);
 
-    /// Requests a stop of an upgrade. It takes effect unless the device writes its firmware already.
+    /// Requests a stop of an upgrade by UpgradeOrder::key; an unknown key is ignored. A waiting upgrade ends
+    /// in this call. A running one ends when the library accepts the stop; it continues if the device writes
+    /// its firmware already.
     void stop(const QString &key);
 
-    [[nodiscard]] bool isUpgrading() const; ///< whether any upgrade is waiting or running
-    [[nodiscard]] bool isUpgrading(const QString &key) const;
+    [[nodiscard]] bool isUpgrading() const;                   ///< whether any upgrade is waiting or running
+    [[nodiscard]] bool isUpgrading(const QString &key) const; ///< whether this one is
 
-    /// Progress of the round, 0 to 100; 100 before the first round and after the end of a round.
+    /// Progress of the round in percent, the mean of its upgrades; 100 before the first round and after the
+    /// end of a round.
     [[nodiscard]] int percent() const;
 
-    /// Starts no further upgrades and cancels the unfinished ones. Does not wait.
+    /// Starts no further upgrades and ends the waiting ones as Cut. Running ones are requested to end. Does
+    /// not wait.
     void requestEnd();
 
-    /// requestEnd(), then waits up to half a second. Devices that write their firmware continue without the
-    /// application.
+    /// requestEnd(), then waits up to half a second for the running upgrades. Those that have not ended are
+    /// then reported as Cut; their requests end when the library is released. Devices that write their
+    /// firmware continue without the application.
     void end();
 
 private:

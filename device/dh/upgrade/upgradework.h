@@ -15,12 +15,12 @@
 /// Device, account and file of an upgrade.
 struct UpgradeOrder
 {
-    QString key; ///< identifies the upgrade in a round: MAC, or address and port
-    QString row; ///< row name, see DeviceStore::rowNamed(); empty if there is no row
-    QString ipport;
+    QString key;    ///< identifies the upgrade in a round: `row`, or `ipport` without a row
+    QString row;    ///< row name, see DeviceStore::rowNamed(); empty if there is no row
+    QString ipport; ///< "address:port" of the device
     QString account;
     QString password;
-    QString model;       ///< empty if unknown
+    QString model;       ///< of the device; empty if unknown: then only the device's own report is checked
     QString file;        ///< local path
     QString device = {}; ///< key of the device in BatchEngine, see workKey()
 };
@@ -46,16 +46,19 @@ struct UpgradeStop
 struct UpgradeLimits
 {
     int maximumParallel = 4; ///< maximum number of upgrades in parallel
-    /// Maximum time without progress while sending, and while the device writes.
+    /// Maximum time without progress while sending, and while the device writes. The result is Stuck then.
     std::chrono::milliseconds sendingStandsStill = std::chrono::seconds(25);
     std::chrono::milliseconds writingStandsStill = std::chrono::seconds(90);
-    /// Maximum time until the device starts to reboot, and until it has returned.
+    /// Time from the end of writing after which a device that still responds counts as rebooted.
     std::chrono::milliseconds leaves = std::chrono::seconds(30);
+    /// Maximum time from the end of writing until the device responds again. The result is NotBack then.
     std::chrono::milliseconds comesBack = std::chrono::minutes(3);
-    std::chrono::milliseconds whole = std::chrono::minutes(30); ///< for sending and writing together
+    /// Maximum time for sending and writing together. The result is Stuck then.
+    std::chrono::milliseconds whole = std::chrono::minutes(30);
 };
 
-/// Upgrades one device. run() blocks its thread, which may be any.
+/// Upgrades one device: checks the file, logs in, sends the file, waits until the device has restarted, and
+/// compares the versions. run() is called once; it blocks its thread, which may be any.
 class UpgradeWork
 {
 public:
@@ -66,8 +69,11 @@ public:
     UpgradeWork(const sdk::SdkLibraries &libraries, const UpgradeLimits &limits, const UpgradeOrder &order,
                 UpgradeStop stop, Report report);
 
-    /// Runs the upgrade and returns its final state. A stop of the batch counts as a stop by the user: an
-    /// upgrade that the device is already writing continues to its end.
+    /// Runs the upgrade and returns its final state. A stop by the user or of the batch (`control`) ends an
+    /// upgrade before and while the file is sent. Once the device writes its firmware, the upgrade continues
+    /// to its end, and the reported text says that it cannot be stopped. UpgradeStop::end aborts it at any
+    /// time with the result Cut. Calls control.releaseSlot() when the device restarts. The deadline of
+    /// `control` has no effect.
     [[nodiscard]] UpgradeState run(const StepControl &control);
 
 private:
