@@ -4,8 +4,9 @@
 
 class LongResponses;
 
-/// Batches of commands to devices over HTTP, for QML: one command to several listed devices, each with the
-/// account of the device. The responses are written to the rows. workbooks() has the commands of workbooks.
+/// Batches of commands to devices over HTTP, for QML: one command is sent to several devices of the back end
+/// "dh", to each with the account of its row. The responses are written to the rows. workbooks() sends the
+/// commands of workbooks.
 ///
 /// Lives on the main thread.
 class CgiBatches : public QObject
@@ -13,19 +14,26 @@ class CgiBatches : public QObject
     Q_OBJECT
     Q_PROPERTY(CgiWorkbooks *workbooks READ workbooks CONSTANT)
 public:
-    /// `factory` and `batches` must outlive this object. The login check, the watch and the file paths of
-    /// `surroundings` are not used: this object has its own.
+    /// `factory` and `batches` must outlive this object. `surroundings` gives the transport, the folder and
+    /// the clock; its functions are called on the threads of the batches. Its other members are replaced.
     CgiBatches(CDeviceFactory &factory, Batches &batches, CgiSurroundings surroundings,
                QObject *parent = nullptr);
 
+    /// The batches of workbooks. Owned by this object.
     [[nodiscard]] CgiWorkbooks *workbooks() const { return m_workbooks; }
 
-    /// Sends a command to the devices with these row identities. The rows get the command as "url"
-    /// immediately, and as "result" the start of the response, "Error:" and the reason, or the text for "not
-    /// sent". Returns the batch, or null when it does not start. QML does not own it.
+    /// Sends a command to the devices with these row identities. `command` is the part of the URL after the
+    /// port and starts with "/"; the rows supply the scheme, the address and the web port (80 if unknown).
+    /// `title` is displayed as the name of the batch.
+    ///
+    /// The rows get the command as "url" when the batch has started. They get "result" at the end of their
+    /// devices: the start of the response (up to 4,000 characters), "Error:" and the reason, or the text for
+    /// "not done". Returns the batch, or null as Batches::start() does; then no row is changed. QML does not
+    /// own the batch.
     Q_INVOKABLE Batch *send(const QString &title, const QStringList &identities, const QString &command);
 
-    /// The complete response whose start is the row's "result", if it is kept; otherwise `result`.
+    /// The complete response of the row with this identity, whose "result" is `result`. Responses are kept up
+    /// to a total length. If the response is not kept, returns `result`.
     Q_INVOKABLE [[nodiscard]] QString responseOf(const QString &identity, const QString &result) const;
 
     /// The failures of a batch of send(): a line with "address:port", two spaces and the result for each
@@ -33,7 +41,7 @@ public:
     Q_INVOKABLE [[nodiscard]] QStringList failuresOf(Batch *batch) const;
 
 Q_SIGNALS:
-    /// Emitted when rows have new results, also in a retry of a batch.
+    /// Emitted when the rows with these identities have new results, also in a retry of a batch.
     void responded(const QStringList &identities);
 
 private:

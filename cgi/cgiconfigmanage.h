@@ -8,82 +8,88 @@
 #include <QVariantList>
 #include <QVariantMap>
 
-/// Commands to devices over HTTP, for QML: one command, or the commands of a workbook with their results
-/// written to it; and utilities of the command page.
+/// Commands to devices over HTTP, for QML: one command, or the commands of a workbook, whose results are
+/// written to the workbook. Also has utilities of the command page.
 ///
-/// Operations run on the main thread and block it. The pages send commands with CgiBatches instead. The event
-/// loop runs during a request and between two rows of a workbook, so that stop() can be called. The object
-/// must exist until the call has returned.
+/// Lives on the main thread. singleCGIConfig() and batchCGIConfig() block until their end. The pages send
+/// commands with CgiBatches instead. Events of the main thread are processed during a request and between two
+/// rows of a workbook, so that stop() can be called. The object must not be deleted by such an event.
 class CGIConfigManage : public QObject
 {
     Q_OBJECT
 public:
-    /// The process-wide object, created on first use. It checks logins by the process-wide factory and works
-    /// in the ApplicationFolders.
+    /// The process-wide object, created on first use with programSurroundings(). It stores the typed commands
+    /// in ApplicationFolders::data().
     static CGIConfigManage *getinstance();
 
-    /// Deletes the process-wide object.
+    /// Deletes the process-wide object. The next getinstance() creates another one.
     static void deleteInstance();
 
-    /// Stores the typed commands in "cgicommands.json" in `memoryFolder`.
+    /// `surroundings` without its watch: this object has its own for stop(). The typed commands are stored in
+    /// "cgicommands.json" in `memoryFolder`.
     CGIConfigManage(CgiSurroundings surroundings, const QString &memoryFolder, QObject *parent = nullptr);
 
-    /// The factory's login check, HTTP by libcurl, the folder of responses and the system clock.
+    /// The login check of the process-wide factory, HTTP by libcurl, ApplicationFolders::responses() and the
+    /// system clock.
     [[nodiscard]] static CgiSurroundings programSurroundings();
 
-    /// The context that its commands are sent with.
+    /// The context that this object sends its commands with.
     [[nodiscard]] const CgiSurroundings &surroundings() const { return m_surroundings; }
 
-    /// Sets the proxy of later requests to other hosts, as "http://host:port"; empty for none.
+    /// As HttpTransport::setProxy(), for all users of the transport of surroundings().
     void setProxy(const QString &proxy);
 
-    /// Sets the handler that decides about certificates of devices over HTTPS; `user` must outlive the
-    /// requests.
+    /// As HttpTransport::setCertificateHandler(), for all users of the transport of surroundings().
     void setCertificateHandler(sdk::CertificateHandler handler, void *user);
 
-    /// Sends one command. Returns the result of CgiProcedure::run(). Fails with "Error:" and the reason while
-    /// another command or a workbook runs.
+    /// Sends one command. The parameters and the result are those of CgiProcedure::run(). While another
+    /// command or a workbook runs, nothing is sent, and the result is "Error:" and the reason.
     Q_INVOKABLE QString singleCGIConfig(const QString &url, const QString &user, const QString &pass,
                                         const QString &ipport);
 
     /// Sends the commands of a workbook in the order of its rows, and writes each result into its row. `path`
     /// may be a "file:///" URL. Returns a message for the user: the numbers of successes and failures and the
-    /// file of the results, or the reason why the workbook cannot be used. Refused while a command runs.
+    /// file with the results, or the reason why the workbook cannot be used. While a command or another
+    /// workbook runs, nothing is sent, and the message is the reason.
     Q_INVOKABLE QString batchCGIConfig(const QString &path);
 
-    /// Ends the running request immediately, and the workbook, whose results so far are saved. The device may
-    /// have executed the command.
+    /// Ends the running request immediately; its device may have executed the command. Of a workbook, no
+    /// further command is sent, and the results so far are saved. Returns before the stopped call returns.
     Q_INVOKABLE void stop();
 
-    /// The rows (maps or JSON objects) sorted by the text of one field; the sort is stable.
+    /// The rows (maps or JSON objects) sorted by the text of the field `key`, in the order of its Unicode
+    /// values; the sort is stable.
     Q_INVOKABLE QVariantList sortList(const QVariantList &list, const QString &key, Qt::SortOrder order);
 
     /// Copies the text to the clipboard.
     Q_INVOKABLE void copyText(const QString &text);
 
-    /// The lines of the text for a list. A line of more than 500 characters is split. A text of more than
-    /// 100,000 lines is truncated, and a further line contains a note of that.
+    /// The lines of the text for a list, without carriage returns. A line of more than 500 characters becomes
+    /// several lines. After 100,000 lines the rest is omitted, and a last line states that.
     Q_INVOKABLE QStringList linesOf(const QString &text) const;
 
-    /// Saves a text as UTF-8 in a new file in `folder`, named by the time. Returns its "path", and a
-    /// "failure" (error text of the system) that is empty on success.
+    /// Saves a text as UTF-8 in a new file "<yyyyMMddhhmmss>.txt" in the existing folder `folder`, with "_2",
+    /// "_3" and so on before ".txt" if that file exists. Returns the "path" of the file with the separators
+    /// of the system, and a "failure" (reason as text of the system) that is empty on success.
     Q_INVOKABLE QVariantMap saveText(const QString &folder, const QString &text) const;
 
-    /// The path of the template workbook in the user's language, in "template" of the surroundings' folder.
+    /// The path of the template workbook in the user's language, in the folder "template" of
+    /// ApplicationFolders::program().
     Q_INVOKABLE QString templateFile() const;
 
-    /// The URL of the template workbook, for the desktop.
+    /// templateFile() as a URL, for the desktop.
     Q_INVOKABLE QUrl templateAddress() const;
 
-    /// The file name of the template workbook.
+    /// The file name of the template workbook in the user's language.
     [[nodiscard]] static QString templateFileName();
 
-    /// The last 20 commands, the latest first.
+    /// As CommandMemory::recent(): up to 20 commands, the latest first.
     Q_INVOKABLE QStringList recentCommands() const;
-    /// Adds a command to recentCommands(), see CommandMemory::remember().
+    /// As CommandMemory::remember(): adds a command to recentCommands() and writes the file.
     Q_INVOKABLE void rememberCommand(const QString &command);
-    /// In the order in which they were added, up to 200.
+    /// As CommandMemory::favourites(): up to 200 commands, in the order in which they were added.
     Q_INVOKABLE QStringList favouriteCommands() const;
+    /// As CommandMemory::setFavourite(): adds or removes a favourite command and writes the file.
     Q_INVOKABLE void setFavouriteCommand(const QString &command, bool favourite);
 
 private:

@@ -6,37 +6,41 @@
 #include <QCoreApplication>
 #include <QDateTime>
 
-/// The context of a command. The functions are called on the thread that sends it.
+/// The context of a command. The functions are called on the thread that sends the command.
 struct CgiSurroundings
 {
-    /// Logs in to the device at `ipport`. Returns a LoginResult.
+    /// Logs in to the device at `ipport` ("address:port" of the login, not of the web service). Returns the
+    /// code of a LoginResult. Blocks.
     using LoginCheck =
         std::function<int(const QString &ipport, const QString &account, const QString &password)>;
 
-    LoginCheck checkLogin;
-    std::shared_ptr<HttpTransport> transport;
-    QString folder;                       ///< for images and recordings; created if missing
-    std::function<QDateTime()> localTime; ///< for their file names
-    ExchangeWatch watch = {};             ///< ends a request immediately; may be empty
+    LoginCheck checkLogin;                    ///< required, except for CgiProcedure::exchange()
+    std::shared_ptr<HttpTransport> transport; ///< required
+    QString folder;                           ///< for images and recordings; created if missing
+    std::function<QDateTime()> localTime;     ///< the current time, for the names of their files; required
+    ExchangeWatch watch = {};                 ///< false ends a request immediately; may be empty
 
-    /// Returns a unique path for a path by the time. Without this function, a later response replaces one of
-    /// the same second.
+    /// Returns the path of the file for an image or a recording. `path` is the path by the time (see
+    /// responseFilePath()), which responses of the same second share. Without this function `path` is used,
+    /// and a later response of the same second replaces the earlier one.
     std::function<QString(const QString &path)> ownPath = {};
 
-    /// If true, the reason of a failure is in the user's language, followed by the library's text and the
-    /// status of the response. Otherwise it is only the library's text.
+    /// If true, the reason of a failed transfer is in the user's language, followed by the library's text,
+    /// and the reason of a failure by another status than 200 contains the status. If false, the reason of a
+    /// failed transfer is the library's text only. All other reasons are in the user's language in both
+    /// cases.
     bool explainsFailures = false;
 };
 
-/// The limits of a command's exchanges.
+/// The limits of a command's exchanges. A recording has no limit of its size.
 struct CgiLimits
 {
-    HttpLimits first{.total = std::chrono::milliseconds(3000)};
+    HttpLimits first{.total = std::chrono::milliseconds(3000)}; ///< the request whose body is discarded
     HttpLimits text{.total = std::chrono::milliseconds(30000)};
     HttpLimits image{.total = std::chrono::milliseconds(10000)};
     HttpLimits recording{.slowestRate = 1024, .slowTime = std::chrono::seconds(10)};
-    qsizetype longestText = 8LL * 1024 * 1024;
-    qsizetype largestImage = 64LL * 1024 * 1024;
+    qsizetype longestText = 8LL * 1024 * 1024;   ///< bytes; a longer text is a failure
+    qsizetype largestImage = 64LL * 1024 * 1024; ///< bytes; a larger image is a failure
 };
 
 /// The prefix of the result of a failed command.
@@ -46,17 +50,23 @@ inline const QString failedResult = QStringLiteral("Error:");
 struct CgiResponse
 {
     QString text;                ///< see CgiProcedure::run()
-    bool hasNoResponse = false;  ///< no complete response: another attempt may succeed
+    bool hasNoResponse = false;  ///< failed without a complete response: another attempt may succeed
     bool isLoginRefused = false; ///< the web service refuses the account or its password (status 401)
 
     /// The verdict on the device's certificate, if it prevented a request over HTTPS.
     std::optional<sdk::CertificateVerdict> certificateRefusal = {};
 };
 
-/// The login is checked first, so that a wrong password is reported by the device's own result. Then the
-/// command is sent to determine the type of the response, and, if it is accepted, sent again to receive the
-/// response accordingly: a command that changes something reaches the device twice. The first of these
-/// requests is repeated with Basic if the device refuses it and requests Basic or no scheme.
+/// Sends one command. The login is checked first, so that a wrong password is reported by the device's own
+/// result. Then the command is sent, and the body of the response is discarded: its headers give the type of
+/// the response. If the status is 200, even of an incomplete response, the command is sent again, and the
+/// response is received by its type. So a command that changes something reaches the device twice. Any other
+/// status is a failure.
+///
+/// If the response to the first request has status 401 and requests Basic or no scheme, that request is
+/// repeated with Basic, which then applies to the second request as well.
+///
+/// An object may be used on several threads at the same time if the functions of its surroundings may.
 class CgiProcedure
 {
     Q_DECLARE_TR_FUNCTIONS(CgiProcedure)
@@ -64,18 +74,19 @@ public:
     /// `surroundings` must outlive this object.
     CgiProcedure(const CgiSurroundings &surroundings, const CgiLimits &limits);
 
-    /// Blocks. Returns the text of the response, the path of the file that it was saved to, or "Error:" and
-    /// the reason. Empty when the file could not be created (this is logged). An incomplete recording is kept
-    /// in a file, whose name is in the result.
+    /// Blocks. `url` is complete, with its scheme; `ipport` is the "address:port" of the login. Returns the
+    /// text of a text response, the path of the file of an image or a recording, or "Error:" and the reason.
+    /// Returns an empty text when the file cannot be created; a warning is logged. An incomplete recording is
+    /// kept in a file, whose path follows the reason.
     [[nodiscard]] QString run(const QString &url, const QString &user, const QString &password,
                               const QString &ipport) const;
 
-    /// The same without the check of the login.
+    /// The same without the check of the login. Sends nothing if CgiRequest::refusal() is not empty.
     [[nodiscard]] CgiResponse exchange(const QString &url, const QString &user,
                                        const QString &password) const;
 
-    /// The reason why a login with this result prevents the command, in the user's language; empty if it does
-    /// not.
+    /// The reason why a login with this result prevents the command, in the user's language. Empty for a
+    /// success and for every other result that does not prevent it.
     [[nodiscard]] static QString loginRefusal(int loginResult);
 
 private:

@@ -10,7 +10,8 @@ class CgiRequest
 {
     Q_DECLARE_TR_FUNCTIONS(CgiRequest)
 public:
-    /// `url` is user input: spaces, non-ASCII characters and single percent signs are encoded.
+    /// `url` is user input, with its scheme: spaces, non-ASCII characters and single percent signs are
+    /// encoded.
     CgiRequest(const QString &url, const QString &user, const QString &password);
 
     /// The encoded URL; empty when the input is not a URL.
@@ -19,9 +20,10 @@ public:
     /// "user:password".
     [[nodiscard]] const QByteArray &userPassword() const { return m_userPassword; }
 
-    /// The reason why the request cannot be sent, in the user's language; empty if it can. The transport
-    /// separates the user name and the password at the first colon, and quotes the name in a header without
-    /// escaping.
+    /// The reason why the request must not be sent, in the user's language; otherwise empty. A user name with
+    /// a colon or a control character is refused, since the transport separates it from the password at the
+    /// first colon, and writes it into a header without escaping. A password with a null character is refused
+    /// as well. The URL is not checked.
     [[nodiscard]] QString refusal() const;
 
 private:

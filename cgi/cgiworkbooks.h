@@ -6,38 +6,47 @@
 #include <QThreadPool>
 #include <QVariantList>
 
-/// Batches of the commands of a workbook, for QML: the command of each line is sent, and the response is
-/// written to the line.
+/// Batches of the commands of a workbook, for QML: read() reads the lines of a workbook, run() sends the
+/// commands of chosen lines and writes the results to these lines. There is one workbook at a time. It is
+/// released at the end of its batch.
 ///
 /// Lives on the main thread. Files are read and written on a separate thread.
 class CgiWorkbooks : public QObject
 {
     Q_OBJECT
 public:
-    /// `factory` and `batches` must outlive this object. `surroundings` is used on any thread.
+    /// `factory` and `batches` must outlive this object. The functions of `surroundings` are called on the
+    /// threads of the batches; its watch is not used.
     CgiWorkbooks(CDeviceFactory &factory, Batches &batches, CgiSurroundings surroundings,
                  QObject *parent = nullptr);
 
-    /// Saves the results of a running workbook.
+    /// Waits for the file thread, and saves the results of a running workbook. Blocks until then.
     ~CgiWorkbooks() override;
 
-    /// Reads a workbook. `path` may be a "file:///" URL. Emits wasRead(), or ended() with the reason why it
-    /// cannot be used. It replaces a workbook that was read and not started, also if it cannot be used. While
-    /// another one is read or runs, ended() is emitted during this call.
+    /// Reads a workbook on the file thread. `path` may be a "file:///" URL. Later emits wasRead(), or ended()
+    /// with the reason why the workbook cannot be used. In both cases the workbook that was read before is
+    /// released. While another workbook is read or runs, nothing is read, and ended() is emitted with the
+    /// reason during this call.
     Q_INVOKABLE void read(const QString &path);
 
-    /// Sends the commands of the lines with these names in the last read workbook; the commands for one
-    /// device are sent in their order. Returns the batch, or null when it does not start. QML does not own
-    /// it. When the results are in the file, ended() is emitted with a message for the user. If the file has
-    /// been changed since it was read, ended() is emitted during this call.
+    /// Starts a batch that sends the commands of the chosen lines of the last read workbook. `lines` has
+    /// values "name" of wasRead(); `title` is displayed as the name of the batch. The commands for one device
+    /// are sent in their order. When the results are in the file, ended() is emitted with a message for the
+    /// user, and the workbook is released.
+    ///
+    /// Returns the batch, which QML does not own. Returns null without a workbook, while a workbook runs, and
+    /// as Batches::start() does. Also returns null if the file has been changed since it was read: then the
+    /// workbook is released, and ended() is emitted with the reason during this call.
     Q_INVOKABLE Batch *run(const QString &title, const QStringList &lines);
 
 Q_SIGNALS:
-    /// Emitted with the lines of a workbook, in the form of BatchPreview::setEntries().
+    /// Emitted after read() with the lines of the workbook, as entries for BatchPreview::setEntries(): maps
+    /// with "name" (unique), "title", "ipport", "action" (the command) and "hindrance" (the reason why the
+    /// command must not be sent, usually empty).
     void wasRead(const QVariantList &lines);
 
-    /// Emitted at the end with the text of CGIConfigManage::batchCGIConfig(), or with the reason why a
-    /// workbook is not read or not run.
+    /// Emitted at the end of a batch with a message as that of CGIConfigManage::batchCGIConfig(), or with the
+    /// reason why a workbook is not read or not run.
     void ended(const QString &text);
 
 private:

@@ -2,26 +2,30 @@
 
 #include <QStringList>
 
-/// The recent and the favourite commands, in a small file. There is one object for a file. If the file cannot
-/// be written, a warning is logged, and the commands are kept until the end of the process.
+/// The recent and the favourite commands of the user, in a small JSON file. There is one object for a file,
+/// used on one thread. Each change writes the file before it returns. If the file cannot be written, a
+/// warning is logged, and the commands are kept in memory only.
 class CommandMemory
 {
 public:
     static constexpr qsizetype mostRecent = 20;
     static constexpr qsizetype mostFavourites = 200;
-    static constexpr qsizetype longestCommand = 2048; ///< longer ones are not stored
+    static constexpr qsizetype longestCommand = 2048; ///< characters; longer commands are not stored
 
-    /// Reads the file, if it exists. Entries beyond the limits are ignored.
+    /// Reads the file, if it exists. Entries beyond the limits are ignored. A file of more than 4 MiB and an
+    /// invalid one count as empty, a warning is logged, and the next change replaces the file.
     explicit CommandMemory(const QString &path);
 
-    /// The latest first, without duplicates.
+    /// The recent commands, the latest first, without duplicates. At most mostRecent.
     [[nodiscard]] const QStringList &recent() const { return m_recent; }
-    /// Spaces at the ends are removed. Ignores an empty or too long command.
+    /// Makes a command the latest one, and removes the oldest one beyond mostRecent. Spaces at the ends are
+    /// removed. An empty or too long command is ignored.
     void remember(const QString &command);
 
-    /// In the order in which they were added.
+    /// The favourite commands, in the order in which they were added. At most mostFavourites.
     [[nodiscard]] const QStringList &favourites() const { return m_favourites; }
-    /// Same; also ignores a new favourite beyond the limit.
+    /// Adds a favourite command at the end, or removes it. Spaces at the ends are removed. An empty or too
+    /// long command, and a new one beyond mostFavourites, is ignored.
     void setFavourite(const QString &command, bool isFavourite);
 
 private:

@@ -11,7 +11,7 @@
 struct WorkbookCommand
 {
     int row = 0;     ///< in the sheet, from 2; 1 is the row of titles
-    QString command; ///< with the leading "/"; without it `refusal` is set
+    QString command; ///< the text of the cell; if it does not start with "/", `refusal` is set
     QString url;     ///< scheme, address (with a web port, if the cell has one) and command
     QString ipport;  ///< "address:port" of the login, without the web port
     QString user;
@@ -20,42 +20,47 @@ struct WorkbookCommand
 };
 
 /// A workbook of commands, whose results are written to its rows. The first row contains the titles, each
-/// other row a command: address, port, user name, password, command, scheme (empty or 0 for HTTP, another
-/// integer for HTTPS) and result.
+/// other row a command. The columns are address (also "address:web port"), port of the login, user name,
+/// password, command, scheme (an integer other than 0 for HTTPS, anything else for HTTP) and result.
+///
+/// Not thread-safe. Operations block.
 class CommandWorkbook
 {
     Q_DECLARE_TR_FUNCTIONS(CommandWorkbook)
 public:
     static constexpr qsizetype longestResult = 32'000; ///< characters; slightly below the limit of a cell
 
-    /// Uses the engine for this host.
+    /// Uses the engine of sheets::makeSheetEngine().
     CommandWorkbook() = default;
     explicit CommandWorkbook(std::unique_ptr<sheets::SheetEngine> engine);
 
-    /// The titles in the first five cells of the first row, in the user's language.
+    /// The titles that open() requires in the first five cells of the first row, in the user's language.
     [[nodiscard]] static QStringList requiredTitles();
 
     /// The local path of a path or a "file:///" URL.
     [[nodiscard]] static QString localPath(const QString &path);
 
-    /// Opens the file. Returns the reason why it cannot be used, in the user's language; empty on success.
+    /// Opens the file with this local path. Returns the reason why it cannot be used, in the user's language:
+    /// it is not a readable workbook, or has other titles. Empty on success.
     [[nodiscard]] QString open(const QString &path);
 
-    /// The rows with a command or an address, without the row of titles, in ascending order.
+    /// The rows with a command or an address in ascending order, without the row of titles. Includes rows
+    /// whose command must not be sent, see `refusal`.
     [[nodiscard]] std::vector<WorkbookCommand> commands();
 
-    /// Writes a result to its row. A text of more than longestResult is truncated, with a note in the cell.
-    /// An error is logged.
+    /// Writes a result to the row in the opened workbook; keepResults() writes the file. A text of more than
+    /// longestResult is truncated, with a note in the cell. A failure is logged.
     void setResult(int row, const QString &result);
 
-    /// Writes all results so far to the file. If that fails, it writes a new file next to it or in the user's
-    /// documents folder, and uses that from then on. False when all of that failed.
+    /// Writes the workbook with all results so far to path(). If that fails, it is written to a new file in
+    /// the same folder or in the user's documents folder, and path() is that file from then on. Returns false
+    /// when all of that failed.
     bool keepResults();
 
-    /// The file with the results.
+    /// The file that was opened, or the file that keepResults() has written instead.
     [[nodiscard]] const QString &path() const { return m_path; }
 
-    /// The reason of the last failure of any operation.
+    /// The reason of the last failure of any operation, for the log; empty when none has failed.
     [[nodiscard]] QString errorText() const { return m_excel.errorText(); }
 
 private:

@@ -5,7 +5,8 @@
 
 #include <mutex>
 
-/// Requests by libcurl, each with a separate easy handle. HTTP and HTTPS only.
+/// Requests by libcurl, each with a separate easy handle. HTTP and HTTPS only. A failure is also printed to
+/// the standard error.
 class CurlTransport : public HttpTransport
 {
 public:

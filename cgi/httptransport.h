@@ -12,10 +12,10 @@
 #include <memory>
 #include <optional>
 
-/// Time limits of an exchange.
+/// Time limits of an exchange. An exchange that reaches a limit fails as TimedOut.
 struct HttpLimits
 {
-    std::chrono::milliseconds total{0}; ///< 0 for no limit
+    std::chrono::milliseconds total{0}; ///< with the connection attempt; 0 for no limit
     long slowestRate = 0;               ///< in bytes per second; 0 for no limit
     std::chrono::seconds slowTime{0};   ///< longest time below `slowestRate`; 0 for no limit
 };
@@ -37,10 +37,10 @@ enum class HttpFailure
 /// How an exchange ended.
 struct HttpOutcome
 {
-    long status = 0; ///< of the last response; 0 for none
-    QString failure; ///< reason of the failure as text of the library; empty on success
+    long status = 0; ///< of the last response; 0 for none; also set if the body is incomplete
+    QString failure; ///< reason of the failure as text of the library; empty on success, with any status
     HttpFailure failureKind = HttpFailure::None;
-    bool hasTooLongHeaders = false; ///< ended because of too long headers; also a failure
+    bool hasTooLongHeaders = false; ///< ended because of headers of more than 256 KiB; also a failure
     bool isStopped = false;         ///< ended by the watch; also a failure
 
     /// The verdict on the device's certificate, if it prevented a request over HTTPS; also a failure.
@@ -50,11 +50,12 @@ struct HttpOutcome
 /// Receives the body of a response in chunks. False ends the exchange as failed.
 using BodySink = std::function<bool(QByteArrayView)>;
 
-/// Called several times per second during an exchange, on its thread. False ends the exchange immediately.
+/// Called several times per second during an exchange, on the thread of perform(). False ends the exchange
+/// immediately; HttpOutcome::isStopped is then set.
 using ExchangeWatch = std::function<bool()>;
 
-/// One request, which may be sent several times. Used by the thread that opened it. A redirection is a
-/// response like any other.
+/// One request, which may be sent several times. It is used on the thread that opened it, and may outlive the
+/// transport. A redirection is not followed: it is a response like any other.
 class PreparedHttpRequest
 {
 public:
@@ -63,20 +64,20 @@ public:
     PreparedHttpRequest &operator=(const PreparedHttpRequest &) = delete;
     virtual ~PreparedHttpRequest() = default;
 
-    /// Sends the user name and the password with every later request, by Basic. Without this call they are
-    /// sent only in response to a challenge, by Digest.
+    /// Later calls of perform() send the user name and the password by Basic, with the first request. Without
+    /// this call they are sent only in response to a challenge, by Digest.
     virtual void useBasic() = 0;
 
-    /// Sends the request. Blocks until the response is complete or a limit is reached. Without a sink the
-    /// body is discarded; without a watch only a limit ends the exchange early.
+    /// Sends the request as GET. Blocks until the response is complete, a limit is reached, or the sink or
+    /// the watch ends the exchange. `sink` and `watch` may be empty: without a sink the body is discarded.
     virtual HttpOutcome perform(const HttpLimits &limits, const BodySink &sink,
                                 const ExchangeWatch &watch) = 0;
 
-    /// The header lines of all responses so far, of all calls of perform(), up to a bounded length.
+    /// The header lines of all responses so far, of all calls of perform(). Truncated after 64 KiB.
     [[nodiscard]] virtual QByteArray headerText() const = 0;
 };
 
-/// Thread-safe.
+/// Makes requests. Thread-safe.
 class HttpTransport
 {
 public:
@@ -85,14 +86,17 @@ public:
     HttpTransport &operator=(const HttpTransport &) = delete;
     virtual ~HttpTransport() = default;
 
-    /// Sets the proxy of later requests to other hosts, as "http://host:port". Empty, the default, for no
-    /// proxy, regardless of the environment, since devices are in the local network.
+    /// Sets the proxy of the requests that are opened later, as "http://host:port". Requests to this host
+    /// (127.0.0.1, ::1 and localhost) do not use it. Empty, the default, for no proxy, regardless of the
+    /// environment, since devices are in the local network.
     virtual void setProxy(const QString &proxy) = 0;
 
-    /// Sets the handler that decides about the certificates of devices. Without it no request is made over
-    /// HTTPS.
+    /// Sets the handler that decides about the certificates of devices, also for requests that are already
+    /// open. `user` is passed to it and must outlive the requests. Without a handler no request is sent over
+    /// HTTPS: HttpOutcome::certificateRefusal is set.
     virtual void setCertificateHandler(sdk::CertificateHandler handler, void *user) = 0;
 
-    /// Null when memory is exhausted.
+    /// Prepares a request; nothing is sent until PreparedHttpRequest::perform(). Does not check
+    /// CgiRequest::refusal(). Null when memory is exhausted.
     [[nodiscard]] virtual std::unique_ptr<PreparedHttpRequest> open(const CgiRequest &request) = 0;
 };

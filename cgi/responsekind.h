@@ -12,10 +12,12 @@ enum class ResponseKind
     Recording,
 };
 
-/// The type by the text of all headers, compared case-sensitively. Text if no other one is recognised.
+/// Image if the headers contain "image/" anywhere, otherwise Recording if they contain "octet-stream",
+/// otherwise Text. Upper and lower case differ.
 [[nodiscard]] ResponseKind responseKind(const QByteArray &headers);
 
-/// The suffix of the file for a response with these headers, with its dot. Empty for a text.
+/// The suffix of the file for a response with these headers, with its dot: ".dav" for a recording, the suffix
+/// of the format for an image (".jpg" for an unknown one). Empty for a text.
 [[nodiscard]] QString responseFileEnding(const QByteArray &headers);
 
 /// The text of a response's body, which is usually UTF-8. If it is not UTF-8, the encoding is that of its

@@ -9,17 +9,19 @@
 #include <memory>
 
 /// Opens web pages of devices in the browser of the desktop. The browser does not know the keys that the user
-/// has accepted, and the user enters the password there: so the key of a device is checked first. Lives on
-/// the main thread; connections are made on another thread, without an account.
+/// has accepted, and the user enters the password there: so the key of a device is checked first, with the
+/// certificate handler of the transport. Lives on the main thread. The checks run on threads of the global
+/// pool and send no account.
 class WebPages : public QObject
 {
     Q_OBJECT
 public:
     explicit WebPages(std::shared_ptr<HttpTransport> transport, QObject *parent = nullptr);
-    ~WebPages() override; ///< ends the running checks
+    ~WebPages() override; ///< ends the running checks; their pages are not opened
 
-    /// Opens a page without TLS immediately, and one with TLS after the check of the key, which takes up to
-    /// five seconds. The page of a device that does not respond is opened as well: the browser reports that.
+    /// Opens the page with this URL. A page without TLS is opened during this call. An "https://" page is
+    /// opened later, after the check of the key, which takes up to five seconds. The page of a device that
+    /// does not respond is opened as well: the browser reports that.
     Q_INVOKABLE void open(const QString &page);
 
 Q_SIGNALS:

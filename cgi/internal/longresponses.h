@@ -5,15 +5,16 @@
 
 #include <mutex>
 
-/// Stores complete long responses up to a limit: rows and outcomes contain only their start. Thread-safe.
+/// Stores complete long responses in memory up to a limit: rows and outcomes contain only their start. The
+/// key of a response is the identity of a row or the name of a line. Thread-safe.
 class LongResponses
 {
 public:
-    static constexpr qsizetype longestBeginning = 4000;
+    static constexpr qsizetype longestBeginning = 4000;    ///< characters of a start
     static constexpr qsizetype maximumLength = 32'000'000; ///< total number of stored characters
 
-    /// Stores the response of `key` in place of an earlier one. A response up to longestBeginning or longer
-    /// than maximumLength is not stored; the oldest ones are removed at the limit.
+    /// Removes the earlier response of `key` and stores `response`. A response of up to longestBeginning or
+    /// more than maximumLength characters is not stored. The oldest responses are removed to make room.
     void keep(const QString &key, const QString &response);
 
     /// Removes the response of `key`, if there is one.

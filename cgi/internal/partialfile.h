@@ -3,8 +3,9 @@
 #include <QByteArrayView>
 #include <QFile>
 
-/// A file whose contents arrive in chunks. A chunk is in the file as soon as it has arrived, so that a killed
-/// process leaves all received data. Until the file is complete, its name contains ".partial".
+/// A file whose contents arrive in chunks. A chunk is in the file when write() has returned, so that a killed
+/// process leaves all received data. Until the file is complete, its name contains ".partial". The destructor
+/// does not remove an incomplete file.
 class PartialFile
 {
 public:
@@ -12,22 +13,29 @@ public:
     /// folder.
     explicit PartialFile(const QString &path);
 
+    // These three return false on failure; failure() then has the reason.
+
+    /// Creates the incomplete file, or empties an existing one.
     [[nodiscard]] bool open();
 
-    /// False when the chunk could not be written completely.
+    /// Appends a chunk. After a failure, the file may contain a part of it.
     [[nodiscard]] bool write(QByteArrayView chunk);
 
-    /// Renames the file to its final name; an existing file is replaced. False on failure.
+    /// Closes the file and renames it to its final name; an existing file is replaced. After a failure, the
+    /// file keeps the incomplete name.
     [[nodiscard]] bool complete();
 
-    /// Closes an incomplete file. Returns its path, or removes it and returns an empty path if it is empty.
+    /// Closes the incomplete file. Returns its path if it has contents. Otherwise removes it and returns an
+    /// empty path.
     [[nodiscard]] QString keepPartial();
 
     /// Removes the incomplete file.
     void remove();
 
+    /// Whether open(), write() or complete() has failed.
     [[nodiscard]] bool hasFailed() const { return !m_failure.isEmpty(); }
-    [[nodiscard]] const QString &failure() const { return m_failure; } ///< error text of the system
+    /// The error text of the system for that failure; empty without one.
+    [[nodiscard]] const QString &failure() const { return m_failure; }
 
 private:
     const QString m_path;

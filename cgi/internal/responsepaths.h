@@ -9,8 +9,9 @@
 class ResponsePaths
 {
 public:
-    /// Returns `path` at the first call, then "<name>_2.<suffix>", "<name>_3.<suffix>" and so on. Does not
-    /// check for existing files.
+    /// Returns `path` at the first call with this path, then "<name>_2.<suffix>", "<name>_3.<suffix>" and so
+    /// on. `path` has a suffix. Existing files are not checked: only the paths of this object differ. The
+    /// last 100 paths are remembered.
     [[nodiscard]] QString own(const QString &path);
 
 private:

@@ -4,21 +4,26 @@
 
 #include <QElapsedTimer>
 
-/// Writes the results of an opened workbook's commands to it, and saves it in finish() and about every 30 s
-/// before, so that few results are lost in a crash.
+/// Writes the results of the commands to the rows of their workbook. Saves the workbook's file in finish(),
+/// and in take() if the last save was more than 30 s ago, so that few results are lost in a crash. Not
+/// thread-safe.
 class WorkbookResults
 {
     Q_DECLARE_TR_FUNCTIONS(WorkbookResults)
 public:
-    /// `workbook` must outlive this object.
+    /// Reads the commands of `workbook`, which is open and must outlive this object.
     explicit WorkbookResults(CommandWorkbook &workbook);
 
+    /// The commands of the workbook, as they were at the construction.
     [[nodiscard]] const std::vector<WorkbookCommand> &commands() const { return m_commands; }
 
-    /// Adds the result of a command, once for each. The result of a failed command starts with "Error:".
+    /// Writes the result of a command to its row. Called at most once for each command, in any order. The
+    /// result of a failed command starts with "Error:".
     void take(const WorkbookCommand &command, const QString &result);
 
-    /// Saves the results. Returns a message for the user; commands without a result were not sent.
+    /// Saves the results. Returns a message for the user in the user's language: the numbers of succeeded,
+    /// failed and not sent commands (those without a result), and the file with the results or the reason why
+    /// they cannot be saved.
     [[nodiscard]] QString finish();
 
 private:
