@@ -15,13 +15,14 @@ namespace sheets {
 class ApplicationSheetEngine : public SheetEngine
 {
 public:
-    /// Starts the application without a window and without dialogs.
+    /// Starts the application without a window and without dialogs. After a failure isAvailable() is false.
     ApplicationSheetEngine();
 
-    /// Ends the application.
+    /// Ends the application. Unsaved changes are lost.
     ~ApplicationSheetEngine() override;
 
-    /// Whether the application is started. False after a failed start and after quit().
+    /// Whether the application is started. False after a failed start, and from quit() until the next
+    /// createWorkbook() or open().
     [[nodiscard]] bool isAvailable() const;
 
     bool createWorkbook() override;
@@ -31,7 +32,7 @@ public:
     [[nodiscard]] std::optional<QString> cellText(CellPosition position) override;
     bool setCellText(CellPosition position, const QString &text) override;
     bool mergeCells(const CellRange &range) override;
-    /// Ignores `isText` of the change; setCellText() always sets that format.
+    /// Ignores `isText` of the change; setCellText() sets that format.
     bool changeFormat(const CellRange &range, const FormatChange &change) override;
     bool setRowHeight(int row, double points) override;
     bool save() override;

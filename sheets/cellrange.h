@@ -33,9 +33,11 @@ struct CellRange
 
     bool operator==(const CellRange &) const = default;
 
+    /// The range of a single cell.
     [[nodiscard]] static CellRange cell(int row, int column) { return {{row, column}, {row, column}}; }
 
-    /// False also if `last` is above or left of `first`.
+    /// True if both corners are in a sheet, and `last` is neither above nor left of `first`. The functions
+    /// below require that.
     [[nodiscard]] bool isInSheet() const
     {
         return first.isInSheet() && last.isInSheet() && first.row <= last.row && first.column <= last.column;
@@ -53,7 +55,7 @@ struct CellRange
     }
 };
 
-/// The position as a reference: column letters, then the row's number.
+/// The position as a reference: column letters, then the row's number. Both numbers of `position` are from 1.
 [[nodiscard]] QString positionText(CellPosition position);
 
 /// The range as a reference: both corners with a colon between, or one position for a single cell.
@@ -64,7 +66,8 @@ struct CellRange
 [[nodiscard]] std::optional<CellPosition> cellPosition(QStringView text);
 
 /// The range of the reference `text`: two opposite corners, in any order, with a colon between, or one
-/// position. Nothing for an invalid reference.
+/// position. In the result, `first` is the top left corner. Nothing for an invalid reference and for one
+/// outside of a sheet.
 [[nodiscard]] std::optional<CellRange> cellRange(QStringView text);
 
 } // namespace sheets

@@ -12,11 +12,13 @@ class Workbook;
 /// Works on the file format itself, without a spreadsheet application. A workbook from a file is changed in
 /// place: all other parts of the file stay identical, byte for byte.
 ///
-/// A new workbook that is filled row by row, in ascending order, and then saved takes constant memory. The
-/// first operation in another order, such as reading a cell or writing to an earlier row, loads it like a
-/// workbook from a file. save() fails for a new workbook until saveAs().
+/// A new workbook that is filled row by row, in ascending order, takes constant memory. saveAs() then takes
+/// the memory of the file's bytes. The first other operation, such as reading a cell, writing to an earlier
+/// row, or any change after saveAs(), loads the workbook like one from a file. save() fails for a new
+/// workbook until saveAs() has succeeded.
 ///
-/// Limits of a file: 128 MiB, 10,000 parts; of one part: 192 MiB of text, 1 GiB of memory.
+/// A file that exceeds a limit cannot be opened: 128 MiB and 10,000 parts for the file, 192 MiB of text and
+/// 1 GiB of memory as a document for one part.
 class FileSheetEngine : public SheetEngine
 {
 public:
@@ -31,7 +33,7 @@ public:
     bool setCellText(CellPosition position, const QString &text) override;
     bool mergeCells(const CellRange &range) override;
 
-    /// As declared; fails for a range of more than 100,000 cells.
+    /// Fails for a range of more than 100,000 cells.
     bool changeFormat(const CellRange &range, const FormatChange &change) override;
     bool setRowHeight(int row, double points) override;
     bool save() override;

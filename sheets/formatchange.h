@@ -7,8 +7,10 @@ namespace sheets {
 /// A change of the format of cells; members without a value are not changed.
 struct FormatChange
 {
-    std::optional<bool> isText; ///< number format "text" ("@"), which keeps "007" from becoming a number
-    std::optional<bool> wrap;   ///< long text is wrapped in the cell
+    /// True for the number format "text" ("@"), which keeps "007" from becoming a number; false for the
+    /// default number format.
+    std::optional<bool> isText;
+    std::optional<bool> wrap; ///< long text is wrapped in the cell
     std::optional<bool> bold;
     std::optional<double> fontSize; ///< in points
 

@@ -5,8 +5,12 @@
 
 class QExcel;
 
-/// Writes the workbook to `path`, the file that it was opened from. If that fails, it writes a new file next
-/// to it or in the user's documents folder, and sets `path` to it. Its name is that of `path` with "_" and
-/// `addition` appended, with a number from 2 if that file exists, and ".xlsx". Returns false when all of that
-/// failed: QExcel::errorText() has the reason, and the workbook is unchanged.
+/// Saves the workbook with QExcel::save(). `path` is the file that the workbook was opened from or last saved
+/// to. If saving fails, the workbook is saved as a new file in the folder of `path`, or else in the user's
+/// documents folder, which is created if missing. `path` is then set to the new file, which later saves use.
+/// The name of the new file is that of `path` without its suffix, "_", `addition`, a number from 2 if that
+/// file exists, and ".xlsx". Existing files are not replaced.
+///
+/// Returns false when all of that failed. QExcel::errorText() then has the reason of the last attempt; `path`
+/// and the workbook are unchanged. Failures are logged.
 bool keepWorkbook(QExcel &workbook, QString &path, const QString &addition);

@@ -4,7 +4,8 @@
 
 namespace sheets {
 
-/// Stores the reason of an object's last failure, for classes whose operations return false on failure.
+/// A base class that stores the reason of the object's last failure, for classes whose operations return
+/// false on failure. Not thread-safe.
 class LastError
 {
 public:

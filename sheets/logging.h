@@ -2,4 +2,5 @@
 
 #include <QLoggingCategory>
 
+/// The log messages of workbooks: category "configtools.sheets".
 Q_DECLARE_LOGGING_CATEGORY(logSheets)

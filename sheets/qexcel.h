@@ -9,19 +9,21 @@
 #include <optional>
 
 /// One workbook, which is created or opened, read, changed and saved. Rows, columns and sheets are numbered
-/// from 1. It uses the spreadsheet application if that is installed, otherwise the file itself.
+/// from 1. On Windows it uses the spreadsheet application if that is installed, otherwise the file itself.
 ///
-/// On failure, an operation returns false, nothing or -1 and changes nothing, except createWorkbook() and
-/// open(), after which there is no workbook; errorText() has the reason. An operation that needs a workbook
-/// fails when there is none. Unsaved changes are lost when the workbook is closed.
+/// On failure, an operation returns false, nothing or -1. errorText() then has the reason, which is also
+/// logged as a warning. A failed createWorkbook() or open() leaves no workbook; any other failed operation
+/// changes nothing. Every operation except createWorkbook(), open() and quit() fails without a workbook, and
+/// for a cell outside of a sheet. Changes are in memory until save() or saveAs(); they are lost when the
+/// workbook is closed before.
 ///
-/// Not thread-safe; use an object on the thread that created it. Operations block: opening and saving 10,000
-/// rows takes about a second. A new workbook that is filled row by row, in ascending order, and then saved
-/// takes the least memory.
+/// Not thread-safe; an object is used on the thread that created it. Operations block: opening and saving
+/// 10,000 rows takes about a second. A new workbook takes the least memory if its rows are filled in
+/// ascending order before it is saved, without reading a cell.
 class QExcel
 {
 public:
-    /// Uses the engine that fits this machine.
+    /// Uses the engine of sheets::makeSheetEngine().
     QExcel();
     explicit QExcel(std::unique_ptr<sheets::SheetEngine> engine);
 
@@ -55,32 +57,41 @@ public:
     /// number, the last result of a formula, an empty text for an empty cell. Nothing on failure.
     [[nodiscard]] std::optional<QString> cellText(int row, int column);
 
-    /// Writes a cell as text, so that "007" is not converted to a number. At most 32,767 characters; a
-    /// control character counts as seven. Line feeds and tabs are not counted as control characters.
+    /// Replaces the content of a cell by a text, so that "007" is not converted to a number. The cell keeps
+    /// its format except the number format; an empty text empties it. At most 32,767 characters; a control
+    /// character except line feed and tab counts as seven. Without the spreadsheet application, fails for a
+    /// cell whose formula is shared with other cells.
     bool setCellText(int row, int column, const QString &text);
 
-    /// Merges a range. The text of its first cell is kept, the other texts are removed. Fails when it
-    /// overlaps another merged range. A single cell is not changed; the result is true.
+    /// Merges a range. The text of its first cell is kept, the other texts are removed. Fails when the range
+    /// overlaps a different merged range. Returns true without a change for a single cell, and for a range
+    /// that is merged already.
     bool mergeCells(const sheets::CellRange &range);
 
-    // The formats of cells. Without the spreadsheet application, a range of more than 100,000 cells fails.
+    // The formats of cells; the other formats and the texts are kept. Without the spreadsheet application, a
+    // range of more than 100,000 cells fails.
+
+    /// Sets whether long texts are wrapped in their cells.
     bool setWrapText(const sheets::CellRange &range, bool on);
+    /// Sets whether the font is bold.
     bool setBold(const sheets::CellRange &range, bool on);
 
     /// Fails for a size that is not between 1 and 409 points.
     bool setFontSize(const sheets::CellRange &range, double points);
 
-    /// Fails for a height that is not between 0 and 409 points.
+    /// Fails for a height that is not between 0 and 409 points; 0 hides the row.
     bool setRowHeight(int row, double points);
 
-    /// Writes the workbook to the file that it was opened from or last saved as. A new workbook needs
-    /// saveAs() first. On failure the file is unchanged.
+    /// Writes the workbook to the file that it was opened from or last saved as. Fails for a new workbook
+    /// before saveAs(). On failure the file is unchanged.
     bool save();
 
-    /// Writes the workbook to a file, which is replaced if it exists. On failure the file is unchanged.
+    /// Writes the workbook to a file, which is replaced if it exists and is the file of later saves. On
+    /// failure the file is unchanged. Fails for an empty path.
     bool saveAs(const QString &path);
 
-    /// Closes the workbook without saving and ends the spreadsheet application. The object can be used again.
+    /// Closes the workbook, if there is one, without saving, and ends the spreadsheet application. The object
+    /// can be used again.
     void quit();
 
     /// The reason of the last failure, for the log; also after later successes. Empty when no operation has

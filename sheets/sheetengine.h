@@ -8,16 +8,18 @@
 
 namespace sheets {
 
-/// The range of used rows: its first row and the number of rows. Both are 0 for an empty sheet, except with
-/// the spreadsheet application: there the first row is used.
+/// The rows from the first to the last used row of a sheet, see QExcel::usedRowCount(). For an empty sheet
+/// both numbers are 0; with the spreadsheet application both are 1.
 struct UsedRows
 {
-    int first = 0;
-    int count = 0;
+    int first = 0; ///< number of the first used row, from 1
+    int count = 0; ///< number of rows
 };
 
-/// The back end of QExcel; it has one workbook at a time. The caller checks that positions are in a sheet,
-/// that texts are not too long and that there is a workbook.
+/// The back end of QExcel, whose operations of the same names describe those without a comment here. An
+/// engine has one workbook at a time. The caller checks that positions and ranges are in a sheet, that texts
+/// and sizes are within the limits of QExcel, and that there is a workbook, except for createWorkbook(),
+/// open() and quit().
 ///
 /// On failure an operation returns false or nothing, and errorText() has the reason. Not thread-safe; an
 /// object is used on the thread that created it.
@@ -37,22 +39,26 @@ public:
     /// even on failure.
     virtual bool open(const QString &path) = 0;
 
-    /// `index` is from 1.
+    /// Selects the sheet of the operations below. `index` is from 1. On failure the selection is unchanged.
     virtual bool selectSheet(int index) = 0;
+    /// The used rows of the selected sheet.
     [[nodiscard]] virtual std::optional<UsedRows> usedRows() = 0;
     [[nodiscard]] virtual std::optional<QString> cellText(CellPosition position) = 0;
     virtual bool setCellText(CellPosition position, const QString &text) = 0;
     virtual bool mergeCells(const CellRange &range) = 0;
+    /// Changes the formats of all cells of the range, also of empty ones.
     virtual bool changeFormat(const CellRange &range, const FormatChange &change) = 0;
     virtual bool setRowHeight(int row, double points) = 0;
 
-    /// Writes the workbook to the file that it was opened from or last saved to.
+    /// Writes the workbook to the file that it was opened from or last saved to. Fails if there is none.
     virtual bool save() = 0;
 
-    /// Writes the workbook to the file, whose path is absolute. An existing file is replaced.
+    /// Writes the workbook to the file, whose path is absolute. An existing file is replaced. save() uses
+    /// this file from then on.
     virtual bool saveAs(const QString &path) = 0;
 
-    /// Closes the workbook without saving, and releases all other resources of the engine.
+    /// Closes the workbook, if there is one, without saving, and releases all other resources of the engine,
+    /// which can be used again.
     virtual void quit() = 0;
 };
 

@@ -6,8 +6,8 @@
 
 namespace sheets {
 
-/// The engine for this host: on Windows the spreadsheet application if it is installed, otherwise the engine
-/// on the file format. Never null.
+/// Makes the engine for this host: on Windows an ApplicationSheetEngine if the spreadsheet application can be
+/// started, which this call does; otherwise a FileSheetEngine. Never null.
 [[nodiscard]] std::unique_ptr<SheetEngine> makeSheetEngine();
 
 } // namespace sheets

@@ -10,19 +10,19 @@ class QExcel;
 
 namespace sheets {
 
-/// True if the first row starts with these titles, in their order. Spaces at the ends of the cells are
-/// ignored.
+/// True if the first cells of row 1 of the selected sheet contain these titles, in their order. Spaces at the
+/// ends of the cells are ignored. False also when a cell cannot be read.
 [[nodiscard]] bool beginsWithTitles(QExcel &excel, const QStringList &titles);
 
-/// The last row of QExcel's used range; below 1 on failure and for an empty sheet (1 with the spreadsheet
-/// application).
+/// The number of the last row of QExcel's used range, from 1. Below 1 on failure and for an empty sheet; with
+/// the spreadsheet application 1 for an empty sheet.
 [[nodiscard]] int lastUsedRow(QExcel &excel);
 
-/// The text of a cell without spaces at its ends; empty also when it cannot be read.
+/// The text of a cell without spaces at its ends; empty also when the cell cannot be read.
 [[nodiscard]] QString trimmedCellText(QExcel &excel, int row, int column);
 
-/// The integer of a cell with a number or a text such as "80.0"; a fraction is truncated. Nothing for other
-/// texts, and above 1,000,000,000 or below -1,000,000,000.
+/// The integer of a cell's text with a number, such as "80" or "80.0"; a fraction is truncated. Spaces at the
+/// ends are ignored. Nothing for other texts, and above 1,000,000,000 or below -1,000,000,000.
 [[nodiscard]] std::optional<qint64> wholeNumber(const QString &cellText);
 
 } // namespace sheets

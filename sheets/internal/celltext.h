@@ -6,19 +6,19 @@
 namespace sheets {
 
 /// The escaped text for the file: the carriage return and characters that XML cannot contain are written as
-/// "_xHHHH_". In a text that looks like such a sequence, the first underscore is escaped.
+/// "_xHHHH_". If the text itself contains such a sequence, the first underscore of the sequence is escaped.
 [[nodiscard]] QString escapedCellText(const QString &text);
 
-/// The text of the escaped form `escaped`.
+/// The text of the escaped form `escaped`; the reverse of escapedCellText().
 [[nodiscard]] QString unescapedCellText(const QString &escaped);
 
 /// True for a text whose escaped form is short enough for a cell: up to 32,767 characters.
 [[nodiscard]] bool fitsCell(const QString &text);
 
-/// A number with up to 15 digits, as a sheet shows it: binary fractions are stored with 17.
+/// A number with up to 15 digits, as a sheet shows it; the file stores up to 17 digits.
 [[nodiscard]] QString numberText(double value);
 
-/// A boolean as a sheet shows it.
+/// A boolean as a sheet shows it: "TRUE" or "FALSE".
 [[nodiscard]] QString truthText(bool value);
 
 } // namespace sheets

@@ -10,7 +10,8 @@ namespace sheets {
 
 class ZipPackage;
 
-/// The relationships of one part of a workbook file to others.
+/// The relationships of one part of a workbook file to other parts. Relationships to the outside, such as
+/// links to web pages, are kept in the file and are not in targets(). Part names are those of ZipPackage.
 class Relationships : public LastError
 {
 public:
@@ -21,21 +22,26 @@ public:
         QString part; ///< name of the part
     };
 
-    /// Reads the relationships of `part`; an empty name stands for the relationships of the package.
+    /// Reads the relationships of `part`; an empty name stands for the relationships of the package. Fails
+    /// when the part that holds them is missing or damaged; there are no targets then.
     bool load(ZipPackage &package, const QString &part);
 
     [[nodiscard]] const QList<Target> &targets() const { return m_targets; }
 
-    /// The first target of a type.
+    /// The name of the first target with this Target::type; nothing when there is none.
     [[nodiscard]] std::optional<QString> partOfType(QLatin1String type) const;
+    /// The first target with this Target::id; nothing when there is none.
     [[nodiscard]] std::optional<Target> targetById(const QString &id) const;
 
-    /// Removes a part from the relationships, the list of content types and the file. Returns false if the
-    /// list of content types is damaged; the other changes are made nevertheless. The same applies to
-    /// addPart().
+    // The two functions below change the package that was loaded. They return false if the list of content
+    // types is damaged; the other changes are made nevertheless.
+
+    /// Removes a part from the relationships, the list of content types and the package.
     bool removePart(ZipPackage &package, const QString &part);
 
-    /// Adds a part in the folder of the part whose relationships these are.
+    /// Adds a part with these contents to the package, the relationships (with a free id) and the list of
+    /// content types. The part is in the folder of the part whose relationships these are. `type` is as in
+    /// Target.
     bool addPart(ZipPackage &package, const QString &fileName, QLatin1String type, QLatin1String contentType,
                  const QByteArray &bytes);
 

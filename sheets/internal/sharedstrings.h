@@ -11,7 +11,8 @@ namespace sheets {
 class SharedStrings : public LastError
 {
 public:
-    /// Replaces the strings by those of the XML part `bytes`. On failure they are unchanged.
+    /// Replaces the strings by those of the XML part `bytes`, without their formats. On failure the strings
+    /// are unchanged.
     bool load(const QByteArray &bytes);
 
     /// The string at `index`, from 0; empty for an invalid index.

@@ -8,20 +8,26 @@
 
 namespace sheets {
 
-/// The cell formats of a workbook, which cells refer to by index.
+/// The cell formats of a workbook, which cells refer to by index, from 0.
 class StyleSheet : public LastError
 {
 public:
-    /// A style sheet with only the default cell format.
+    /// The XML text of a style sheet with only the default cell format. `nameSpace` is the XML name space of
+    /// the workbook.
     [[nodiscard]] static QByteArray smallest(const QByteArray &nameSpace);
 
+    /// Reads the XML part `bytes`. Fails when it is damaged, or has no cell formats or no fonts; the object
+    /// must not be used then.
     bool load(const QByteArray &bytes);
 
-    /// The index of the cell format `base` with the change applied. Returns `base` if it has these values
-    /// already, otherwise the format that this or an earlier call has added. An invalid `base` counts as 0.
+    /// The index of a cell format that is the format with the index `base`, with the change applied. Returns
+    /// `base` if that format has these values already. Otherwise a format is added to the style sheet at the
+    /// first such call, and its index is returned. An invalid `base` counts as 0.
     [[nodiscard]] int changed(int base, const FormatChange &change);
 
+    /// Whether a format was added since load().
     [[nodiscard]] bool isModified() const { return m_isModified; }
+    /// The XML text with the added formats.
     [[nodiscard]] QByteArray bytes() { return m_part.bytes(); }
 
 private:

@@ -13,13 +13,17 @@
 namespace sheets {
 
 /// The file engine's workbook, from the bytes of a file. Only the selected sheet is in memory as a document;
-/// changes of other sheets are in the package. Operations as in SheetEngine, after selectSheet().
+/// the other sheets, with their changes, are in the package. The operations without a comment are those of
+/// SheetEngine. They require a selected sheet.
 class Workbook : public LastError
 {
 public:
-    /// Reads the bytes of a file and finds its sheets. No sheet is selected.
+    /// Reads the bytes of a file and finds its sheets. No sheet is selected. On failure the object must not
+    /// be used.
     bool load(const QByteArray &file);
 
+    /// Stores the changes of the selected sheet in the package, and selects another sheet. `index` is from 1;
+    /// sheets without cells, such as chart sheets, are not counted. On failure the selection is unchanged.
     bool selectSheet(int index);
     [[nodiscard]] UsedRows usedRows() const;
     [[nodiscard]] QString cellText(CellPosition position) const;
@@ -28,7 +32,7 @@ public:
     bool changeFormat(const CellRange &range, const FormatChange &change);
     bool setRowHeight(int row, double points);
 
-    /// Sets `file` to the bytes of the workbook's file.
+    /// Sets `file` to the bytes of a file with all changes. The workbook can be changed further.
     bool build(QByteArray &file);
 
 private:

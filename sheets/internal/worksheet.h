@@ -10,27 +10,38 @@ namespace sheets {
 class SharedStrings;
 class StyleSheet;
 
-/// One sheet of a workbook from a file, changed in place.
+/// One sheet of a workbook from a file, as an XML document that is changed in place. Positions and ranges
+/// must be in a sheet. An operation that fails changes nothing.
 class Worksheet : public LastError
 {
 public:
+    /// Reads the XML part `bytes`. On failure the object must not be used.
     bool load(const QByteArray &bytes);
 
+    /// As WorksheetRows::usedRows().
     [[nodiscard]] UsedRows usedRows() const { return m_rows.usedRows(); }
+    /// The text of a cell as QExcel::cellText(); empty also for a missing cell. `strings` are those of the
+    /// workbook.
     [[nodiscard]] QString cellText(CellPosition position, const SharedStrings &strings) const;
 
-    /// Writes a text into a cell, which keeps its format except the number format. Fails for a cell whose
-    /// formula is shared with other cells.
+    /// Writes a text into a cell, which keeps its format except the number format; an empty text empties the
+    /// cell. A formula of the cell is replaced. Fails for a formula that is shared with other cells. `styles`
+    /// is the style sheet of the workbook and gets the format.
     bool setCellText(CellPosition position, const QString &text, StyleSheet &styles);
-    /// Fails for a range that overlaps a different merged range, and for a formula outside of its first cell
-    /// that is shared with other cells.
+    /// Merges a range. The content of its first cell is kept, the other contents are removed. Fails for a
+    /// range that overlaps a different merged range, and if a removed formula is shared with other cells.
+    /// Returns true without a change for a range that is merged already.
     bool mergeCells(const CellRange &range);
+    /// Changes the formats of all cells of the range, and adds the missing cells. `styles` gets the formats.
     void changeFormat(const CellRange &range, const FormatChange &change, StyleSheet &styles);
+    /// Sets the height of a row, in points.
     void setRowHeight(int row, double points);
 
+    /// Whether the document was changed since load().
     [[nodiscard]] bool isModified() const { return m_isModified; }
-    /// Whether a formula was replaced or removed.
+    /// Whether a formula was replaced or removed since load().
     [[nodiscard]] bool hasLostFormulas() const { return m_hasLostFormulas; }
+    /// The XML text with all changes.
     [[nodiscard]] QByteArray bytes();
 
 private:

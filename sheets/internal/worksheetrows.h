@@ -12,12 +12,13 @@
 
 namespace sheets {
 
-/// The rows and cells of a sheet's document, indexed by number. A row or cell without a number follows the
-/// one before it.
+/// The rows and cells of a sheet's XML document, indexed by number, from 1. The document must outlive this
+/// object. In the document, a row or cell without a number follows the row or cell before it. Cells of rows
+/// with the same number count as one row. Of two cells at the same position, the first one is used.
 class WorksheetRows : public LastError
 {
 public:
-    /// Finds the rows of the element `data`. Fails for a number outside of a sheet.
+    /// Finds the rows of the element `data` ("sheetData"). Fails for a number outside of a sheet.
     bool load(pugi::xml_node data);
 
     /// From the first to the last row with a value or a formula; both numbers are 0 if there is none. A cell

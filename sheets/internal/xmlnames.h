@@ -25,13 +25,15 @@ namespace sheets {
 /// The attribute of `node`, which is added when it is missing.
 [[nodiscard]] pugi::xml_attribute attributeOf(pugi::xml_node node, const char *name);
 
-/// The texts directly inside of a node, in their order, without those of its child elements.
+/// The texts directly inside of a node, in their order, without those of its child elements. Empty for a null
+/// node.
 [[nodiscard]] QString textOf(pugi::xml_node node);
 
-/// The text of a string item: a plain text, or runs of rich text without their phonetic hints.
+/// The unescaped text of a string item (of the shared strings or of a cell): a plain text, or runs of rich
+/// text without their phonetic hints.
 [[nodiscard]] QString richTextOf(pugi::xml_node item);
 
-/// True for "1", "true" and "on".
+/// True for the values "1", "true" and "on". False for other values and a missing attribute.
 [[nodiscard]] bool isOn(pugi::xml_attribute attribute);
 
 } // namespace sheets

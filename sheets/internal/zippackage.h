@@ -20,13 +20,17 @@ namespace sheets {
 class ZipPackage : public LastError
 {
 public:
-    /// Reads the bytes of a file. Fails for a file that is not an archive, is damaged or encrypted, has more
-    /// than 10,000 parts or a suspicious compression ratio.
+    /// Opens the bytes of a file, without decompressing parts; earlier contents and changes are dropped.
+    /// Fails for a file that is not an archive, is damaged or encrypted, or has more than 10,000 parts. Also
+    /// fails for a part of more than 8 MiB that was compressed to 1/250 or less. After a failure the object
+    /// must not be used before another load().
     bool load(const QByteArray &file);
 
+    /// Whether there is a part with this name, after the changes.
     [[nodiscard]] bool contains(const QString &name) const;
 
-    /// Decompresses a part. Fails when it is larger than 192 MiB, damaged or missing.
+    /// Sets `bytes` to the contents of a part, after the changes. Fails when the part is larger than 192 MiB,
+    /// damaged or missing; the value of `bytes` is then undefined.
     bool read(const QString &name, QByteArray &bytes);
 
     /// Replaces the contents of a part by `bytes`, or adds the part.
@@ -35,7 +39,7 @@ public:
     /// Removes a part, which may be missing.
     void remove(const QString &name);
 
-    /// Sets `file` to the bytes of the file with all changes.
+    /// Sets `file` to the bytes of a file with all changes. The package can be changed further.
     bool build(QByteArray &file);
 
 private:
