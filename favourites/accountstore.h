@@ -20,16 +20,18 @@ struct StoredAccount
     [[nodiscard]] bool operator==(const StoredAccount &) const = default;
 };
 
-/// Accounts in a file of the user, like favourites: passwords are encrypted with a key that is part of the
-/// application, and the file is written completely or not at all. A device is identified by a string that
-/// does not depend on its address, such as its MAC, and has one account or none.
+/// Accounts in a JSON file of the user. Passwords are encrypted with a key that is part of the application
+/// (CAuthor::AesEncrypt()). The file is written completely or not at all. A device is identified by a string
+/// that does not depend on its address, such as its MAC, and has one account or none.
 ///
-/// A file that cannot be read contains no account. It is kept under another name at the next change. No
+/// If the file cannot be read or has one invalid entry, the store has no account, and problem() has the
+/// reason. The next successful change keeps that file with the ending ".damaged" and writes another one. No
 /// password reaches the log.
 ///
-/// Thread-safe. Only the constructor and changes wait for the disk. A change returns an empty string on
-/// success. Otherwise it changes nothing and returns the reason: a sentence in the user's language or, for a
-/// file that cannot be written, the error text of the system.
+/// Thread-safe. Only the constructor and the changes (put(), remove(), assign(), keep()) wait for the disk. A
+/// change writes the file before it returns. It returns an empty string on success. Otherwise it changes
+/// nothing and returns the reason: a sentence in the user's language or, for a file that cannot be written,
+/// the error text of the system. A change beyond maximumAccounts or maximumDevices fails.
 class AccountStore
 {
     Q_DECLARE_TR_FUNCTIONS(AccountStore)
@@ -43,22 +45,26 @@ public:
     /// Reads the file, which may be missing. Without a path, accounts are stored in memory only.
     explicit AccountStore(const QString &path);
 
-    /// The reason why the file cannot be read, in the user's language; otherwise empty.
+    /// The reason why the file cannot be read, in the user's language. Empty otherwise, and after the next
+    /// successful change.
     [[nodiscard]] QString problem() const;
 
-    /// Sorted by name.
+    /// All accounts, sorted by name.
     [[nodiscard]] QList<StoredAccount> accounts() const;
+    /// The account with this name; nullopt if there is none.
     [[nodiscard]] std::optional<StoredAccount> account(const QString &name) const;
 
     /// The number of devices of each account, by its name. Accounts without devices are omitted.
     [[nodiscard]] QHash<QString, int> deviceCounts() const;
 
-    /// The account of the device with these identities; the first identity with an account decides.
+    /// The account of the device with these identities; the first identity with an account decides. nullopt
+    /// for a device without an account.
     [[nodiscard]] std::optional<StoredAccount> accountOf(const QStringList &identities) const;
 
-    /// Changes the account with the name `before`, whose devices keep it, also under a new name. Adds an
-    /// account if there is none with that name. Fails if another account has the new name, or if the name,
-    /// the user name or the password is empty or too long.
+    /// Replaces the account with the name `before` by `account`, which may have another name. The devices of
+    /// `before` then have `account`. If there is no account `before`, or it is empty, `account` is added.
+    /// Fails if another account has the name of `account`, or if its name, user name or password is empty or
+    /// too long.
     [[nodiscard]] QString put(const QString &before, const StoredAccount &account);
 
     /// Removes an account; its devices then have no account. Succeeds if there is no such account.
@@ -67,12 +73,14 @@ public:
     /// The identities of a device, the most reliable one first.
     using Device = QStringList;
 
-    /// Assigns the account of this name to the devices, under their first identities. An empty name removes
-    /// their account; the name of no account is a failure.
+    /// Assigns the account of this name to the devices, in place of their earlier accounts. The assignment is
+    /// stored under the first identity of each device. An empty name removes the accounts of the devices.
+    /// Fails if there is no account of this name.
     [[nodiscard]] QString assign(const QList<Device> &devices, const QString &name);
 
-    /// The same for an account that may not be stored yet. A stored one with the same user name and password
-    /// is used. Otherwise the account is stored; its name is the user name, with a number if it is taken.
+    /// Assigns an account that may not be stored yet. If a stored account has this user name and password, it
+    /// is assigned. Otherwise the account is added; its name is the user name, with a number from 2 if
+    /// another account has that name. Fails if the user name or the password is empty or too long.
     [[nodiscard]] QString keep(const QList<Device> &devices, const QString &account, const QString &password);
 
 private:

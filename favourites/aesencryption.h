@@ -45,14 +45,15 @@ public:
     /// Length in bytes of the keys of this object's level: 16, 24 or 32.
     [[nodiscard]] int keyLength() const;
 
-    /// The cipher text of `text` with its padding, in every mode. `iv` is ignored in the mode ECB. Empty when
-    /// the length of `key` is not keyLength(), when `iv` is not one block long in another mode than ECB, when
-    /// the padded text has 2 GiB or more, or when libcrypto fails.
+    /// The cipher text of `text` with its padding, which is added in every mode. `iv` is ignored in the mode
+    /// ECB. Empty when the length of `key` is not keyLength(), when `iv` is not one block long in another
+    /// mode than ECB, when the padded text has 2 GiB or more, or when libcrypto fails. Also empty for an
+    /// empty text with the padding ZERO.
     [[nodiscard]] QByteArray encode(const QByteArray &text, const QByteArray &key,
                                     const QByteArray &iv = QByteArray()) const;
 
-    /// The plain text of `cipherText`, still with its padding. Empty in the same cases as encode(), and when
-    /// `cipherText` does not consist of complete blocks.
+    /// The plain text of `cipherText`, still with its padding, see removePadding(). Empty in the same cases
+    /// as encode(), and when `cipherText` does not consist of complete blocks. A wrong key is not detected.
     [[nodiscard]] QByteArray decode(const QByteArray &cipherText, const QByteArray &key,
                                     const QByteArray &iv = QByteArray()) const;
 

@@ -4,12 +4,12 @@
 #include <QVariantMap>
 #include <QtQml/qqmlregistration.h>
 
-/// Favourites: a folder with one JSON file for each saved device, with an encrypted password.
-/// The key is part of the application, so the encryption protects against casual reading, not against a user
-/// of the application.
+/// Favourites: a folder with one JSON file for each saved device, with an encrypted password. The key is part
+/// of the application, so the encryption protects against casual reading, not against a user of the
+/// application.
 ///
-/// Paths may be "file:///" URLs. File errors are logged and never shown; no password reaches the log. The
-/// object is stateless; operations access the disk on the caller's thread, which may be any.
+/// Paths may be "file:///" URLs. File errors are logged and not shown to the user; no password reaches the
+/// log. The object is stateless; operations access the disk on the caller's thread, which may be any.
 class CAuthor : public QObject
 {
     Q_OBJECT
@@ -23,14 +23,16 @@ public:
     /// The cipher text of `input`, in Base64.
     Q_INVOKABLE [[nodiscard]] QString AesEncrypt(const QString &input) const;
 
-    /// The reverse of AesEncrypt(). For any other text the result is undefined, often empty.
+    /// The plain text of a result of AesEncrypt(). For any other text the result is undefined, often empty.
     Q_INVOKABLE [[nodiscard]] QString AesDecrypt(const QString &input) const;
 
-    /// Writes the file of the device at `addr` and `port` into the folder `inputPath`, or, when that is not a
-    /// folder, into its parent folder, which is created when missing. An existing file of the device is
-    /// replaced; when the new one cannot be written completely, the old one is unchanged. An empty path
-    /// writes nothing. `type` is "0" for a device at an address, "1" for one behind NAT. `password` is
-    /// written as given, so the caller encrypts it.
+    /// Writes the file of the device at `addr` and `port` into the folder `inputPath`. If `inputPath` is not
+    /// an existing folder, the file is written into the parent folder of `inputPath`, which is created when
+    /// missing. An existing file of the device is replaced. When the file cannot be written completely, the
+    /// existing file is unchanged, and a warning is logged: the caller is not informed. An empty path writes
+    /// nothing. `type` is "0" for a device at an address, "1" for a device behind NAT, whose `addr` is its
+    /// identifier. `password` is written as given, so the caller encrypts it. The file also contains the
+    /// current time and `inputPath`.
     ///
     /// The file name consists of the address and the port. Characters that would lead out of the folder or
     /// hide the file from the list are written as "%" and two hexadecimal digits: the identifier of a device
@@ -40,10 +42,10 @@ public:
                                     const QString &note) const;
 
     /// The favourites of a folder, by file name without the folder. Each value is a list of six strings:
-    /// type, address, port, user name, encrypted password and note. Files that are not favourites are
-    /// omitted; missing values are empty.
+    /// type, address, port, user name, encrypted password and note. Missing values are empty. Only files
+    /// "*.json" with a JSON object are read; others are omitted. Empty also when the folder is missing.
     Q_INVOKABLE [[nodiscard]] QVariantMap readJsonFilesFromFolder(const QString &folderPath) const;
 
-    /// True when the file existed and is deleted.
+    /// Deletes the file of a favourite. True when the file existed and is deleted.
     Q_INVOKABLE bool deleteFile(const QString &filePath) const;
 };

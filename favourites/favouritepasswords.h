@@ -12,8 +12,9 @@ struct AcceptedPassword
     QString password;
 };
 
-/// Writes the passwords to the favourites of a folder with the same address, port and account, if they have
-/// another password. Empty passwords are ignored. Favourites of devices behind NAT are not changed, since
-/// their rows contain a local port. A file that cannot be written keeps its password, and the failure is
-/// logged. May run on any thread and waits for the disk.
+/// Writes the accepted passwords to the favourites in `folder`: a favourite with the same address, port and
+/// account and another password gets the accepted one. Other favourites are not written. An empty password is
+/// ignored. Favourites of devices behind NAT are not changed, since the rows of these devices contain a local
+/// port. A file that cannot be written keeps its password, and the failure is logged. May run on any thread
+/// and waits for the disk.
 void renewFavouritePasswords(const QString &folder, const QList<AcceptedPassword> &accepted);

@@ -2,4 +2,5 @@
 
 #include <QLoggingCategory>
 
+/// The log messages of saved devices and accounts: category "configtools.favourites".
 Q_DECLARE_LOGGING_CATEGORY(logFavourites)
