@@ -6,11 +6,13 @@
 /// Name of the file that marks an installed copy, in the folder of the executable.
 inline constexpr const char *installedMarkName = "installed.txt";
 
-/// A portable copy stores everything next to its executable. An installed copy stores it in the folders of
-/// the user that the desktop defines (XDG base directories and user directories). A copy is installed if its
-/// folder is not writable, or contains the mark: for the administrator every folder is writable.
+/// A portable copy stores everything in the folder of its executable, except where a function below names the
+/// working directory. An installed copy stores everything in the folders of the user that the desktop defines
+/// (XDG base directories and user directories). A copy is installed if its folder is not writable, or
+/// contains the mark, which is needed for the administrator: every folder is writable for the administrator.
 ///
-/// Folders have no trailing "/" unless stated otherwise, and need not exist.
+/// Paths of folders have no trailing "/" unless stated otherwise. The folders need not exist. An object is
+/// immutable.
 class ApplicationFolders
 {
 public:
@@ -22,36 +24,40 @@ public:
     /// The folders of a copy whose executable is in `program`.
     explicit ApplicationFolders(const QString &program);
 
+    /// Whether this copy is portable.
     [[nodiscard]] bool isPortable() const { return m_isPortable; }
 
-    /// Files that the application only reads: translations, documents, templates, device libraries.
+    /// The folder of the executable, with the files that the application only reads: translations, documents,
+    /// templates, device libraries.
     [[nodiscard]] const QString &program() const { return m_program; }
 
-    /// The settings.
+    /// The folder of the settings.
     [[nodiscard]] const QString &configuration() const { return m_configuration; }
 
-    /// The settings of the port agent for devices behind NAT. A portable copy reads them in the working
-    /// directory.
+    /// The path of the file "p2p.ini" with the settings of the port agent for devices behind NAT. For a
+    /// portable copy it is relative to the working directory.
     [[nodiscard]] QString portAgentSettings() const;
 
-    /// Accounts, certificates, notes and typed commands.
+    /// The folder of the files with accounts, certificates, notes and typed commands.
     [[nodiscard]] const QString &data() const { return m_data; }
 
-    /// Saved devices, with a trailing "/".
+    /// The folder of the saved devices, in data(), with a trailing "/".
     [[nodiscard]] QString favourites() const;
 
-    /// The folders of the devices' snapshots: "snap" in the working directory of a portable copy, which is
-    /// read at each call, otherwise "ConfigTools" in the pictures of the user.
+    /// The folder that contains a folder of snapshots for each device: for a portable copy "snap" in the
+    /// working directory at the time of the call, otherwise "ConfigTools" in the pictures of the user.
     [[nodiscard]] QString snapshots() const;
 
-    /// Images and recordings that devices send in response to commands.
+    /// The folder of the images and recordings that devices send in response to commands: for a portable copy
+    /// program(), otherwise "ConfigTools" in the documents of the user.
     [[nodiscard]] const QString &responses() const { return m_responses; }
 
-    /// The translation file of a language code. A portable copy reads it in the working directory.
+    /// The path of the translation file of a language code. For a portable copy it is relative to the working
+    /// directory.
     [[nodiscard]] QString translation(const QString &code) const;
 
-    /// Creates the folders of settings and data of an installed copy. A failure is reported by the first
-    /// write.
+    /// Creates configuration() and data() of an installed copy, readable by the user only. Existing folders
+    /// are not changed. A failure is not reported here; the first write into the folder fails.
     void createMissing() const;
 
 private:

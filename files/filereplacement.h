@@ -1,4 +1,4 @@
-// Files of the user are written completely or not at all.
+// Writing files of the user completely or not at all.
 #pragma once
 
 #include <QByteArray>
@@ -11,18 +11,20 @@ class QFileDevice;
 /// power failure the file has its old or its new contents. The permissions of an existing file are kept, and
 /// a symbolic link is followed.
 ///
-/// Returns the error text of the system on failure; empty on success. Fails if the path exists and is not a
-/// regular file. Blocks until the contents are on the disk; may be called on any thread.
+/// The file need not exist; its folder must. Returns the error text of the system on failure; empty on
+/// success. Fails if the path exists and is not a regular file. Blocks until the contents are on the disk;
+/// may be called on any thread.
 [[nodiscard]] QString replaceFile(const QString &path, const QByteArray &contents);
 
-/// Writes all the bytes into a file that is open with QIODevice::Unbuffered. On failure, such as a full disk,
-/// the file contains a part of them and its errorString() has the reason.
+/// Writes all the bytes at the position of a file that is open with QIODevice::Unbuffered. Returns false on
+/// failure, such as a full disk: the file then contains a part of the bytes, and its errorString() has the
+/// reason. Does not wait until the bytes are on the disk.
 [[nodiscard]] bool writeCompletely(QFileDevice &file, QByteArrayView bytes);
 
-/// Renames the file `from` to `to` in the same file system; an existing file is replaced. Returns the reason
-/// of a failure; empty on success.
+/// Renames the file `from` to `to` in the same file system; an existing file `to` is replaced. Returns the
+/// error text of the system on failure, when both files are unchanged; empty on success.
 [[nodiscard]] QString renameOver(const QString &from, const QString &to);
 
-/// Keeps the damaged file `path` under a free name next to it: with the ending ".damaged", ".damaged2" and so
-/// on. Returns the reason of a failure; empty on success.
+/// Renames the damaged file `path` to a free name in its folder: with the ending ".damaged", ".damaged2" and
+/// so on. Returns the error text of the system on failure; empty on success.
 [[nodiscard]] QString setDamagedFileAside(const QString &path);
