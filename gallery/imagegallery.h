@@ -17,11 +17,11 @@ class Batches;
 class CDeviceFactory;
 class QTemporaryDir;
 
-/// A list with a cell and an image for each channel of several devices. Batches fetch the images and store
-/// them in files of a temporary folder. The settings define the number of simultaneous devices. A device has
-/// one cell until its channels are known.
+/// A list with a cell and an image for each channel of several devices of the back end "dh". Batches fetch
+/// the images and store them in files of a temporary folder, which is removed with the devices. Batches run
+/// as many devices at the same time as the user has set. A device has one cell until its channels are known.
 ///
-/// Lives on the main thread.
+/// The properties deviceFactory and batches must be set before show(). Lives on the main thread.
 class ImageGallery : public QAbstractListModel
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ class ImageGallery : public QAbstractListModel
     Q_PROPERTY(
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
     Q_PROPERTY(Batches *batches READ batches WRITE setBatches NOTIFY batchesChanged)
-    /// The running batch; null without one.
+    /// The running batch of the gallery; null without one. Batches owns it.
     Q_PROPERTY(Batch *batch READ batch NOTIFY batchChanged)
     Q_PROPERTY(int count READ rowCount NOTIFY countsChanged)
     Q_PROPERTY(int deviceCount READ deviceCount NOTIFY countsChanged)
@@ -39,16 +39,16 @@ class ImageGallery : public QAbstractListModel
     Q_PROPERTY(int failures READ failures NOTIFY countsChanged)
     Q_PROPERTY(bool saving READ isSaving NOTIFY savingChanged)
 public:
-    /// The maximum number of devices; further ones are omitted.
+    /// The maximum number of devices; further ones are omitted and counted by leftOut().
     static constexpr int maximumDevices = 500;
 
     enum State
     {
-        Waiting,
-        Fetching,
-        Taken,
-        Failed,
-        Skipped, ///< no request was sent because of the state of its device
+        Waiting,  ///< the turn of the cell has not come, or no batch has been started
+        Fetching, ///< the image is requested
+        Taken,    ///< the cell has an image; it is the older one if a stopped batch did not request another
+        Failed,   ///< the cell has no image; "message" has the reason
+        Skipped,  ///< as Failed, but no request was sent because of the state of the device
     };
     Q_ENUM(State)
 
@@ -59,15 +59,15 @@ public:
         ChannelRole,               ///< "channel", from 0
         NameRole,                  ///< "name" of the channel; empty while the device has only one
         StateRole,                 ///< "stage": a State
-        ImageRole,                 ///< "image": URL of the file, also of an older image; empty without one
+        ImageRole,                 ///< "image": URL of the file, of the older one during a repetition
         MessageRole,               ///< "message": reason of a missing image, in the user's language
-        TimeRole,                  ///< "takenAt": "HH:mm:ss"; empty without an image
-        NoteRole,                  ///< "note": omitted channels of the device, in the user's language
+        TimeRole,                  ///< "takenAt": local "HH:mm:ss"; empty without an image
+        NoteRole, ///< "note": number of omitted channels, in the user's language; last cell of a device only
     };
 
     explicit ImageGallery(QObject *parent = nullptr);
 
-    /// Cancels the batch and waits for saveAll().
+    /// Cancels the batch without waiting for its steps, and waits for saveAll().
     ~ImageGallery() override;
 
     [[nodiscard]] CDeviceFactory *deviceFactory() const;
@@ -80,47 +80,52 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-    [[nodiscard]] int deviceCount() const { return m_deviceCount; }
-    [[nodiscard]] int leftOut() const { return m_leftOut; }   ///< devices beyond maximumDevices
-    [[nodiscard]] int images() const { return m_images; }     ///< number of cells with an image
-    [[nodiscard]] int failures() const { return m_failures; } ///< number of failed cells
-    [[nodiscard]] bool isSaving() const { return m_isSaving; }
+    [[nodiscard]] int deviceCount() const { return m_deviceCount; } ///< devices with cells
+    [[nodiscard]] int leftOut() const { return m_leftOut; }         ///< devices beyond maximumDevices
+    [[nodiscard]] int images() const { return m_images; }           ///< number of cells with an image
+    [[nodiscard]] int failures() const { return m_failures; }       ///< number of cells in the state Failed
+    [[nodiscard]] bool isSaving() const { return m_isSaving; }      ///< saveAll() has begun and not ended
 
-    /// Replaces the devices by those of `rows`, maps with the keys of DeviceRowKey and "identity", and
-    /// fetches their images. Ignores rows without an identity, or with one that is repeated. Returns false if
-    /// the batch is refused or there are no devices; the cells then stay in the waiting state.
+    /// Calls clear(), adds the devices of `rows`, and starts a batch that fetches their images. `rows` are
+    /// maps with the keys of DeviceRowKey and "identity". Ignores rows without an identity, and all but the
+    /// first row with the same identity. Returns false if the batch does not start, see fetchAll(); the cells
+    /// then stay in the state Waiting.
     Q_INVOKABLE bool show(const QVariantList &rows);
 
-    /// Reads the current names and addresses of the devices. A device that was removed from the device list
-    /// keeps them.
+    /// Reads the current names and addresses of the devices from the device list. A device that was removed
+    /// from the list keeps its name and address.
     Q_INVOKABLE void readDevices();
 
-    /// Takes over a new name of a channel (from 0) of the device at `ipport`. Ignored for a device with one
-    /// cell.
+    /// Sets the displayed name of a channel (from 0) of the device at `ipport`; nothing is sent to the
+    /// device. Ignored for a device with one cell.
     Q_INVOKABLE void renameChannel(const QString &ipport, int channel, const QString &name);
 
-    /// Fetches all images again. Returns false if the batch is refused, or if one of the gallery is running.
+    /// Starts a batch that fetches the images of all devices again. Returns false and changes nothing if
+    /// there are no devices, if a batch of the gallery is running, or if Batches::start() refuses the batch,
+    /// for example while a batch of another page is running.
     Q_INVOKABLE bool fetchAll();
 
-    /// Fetches the image of a cell again, or all images of a device whose channels are unknown. Returns false
-    /// if `row` is invalid, and as fetchAll() does.
+    /// Starts a batch that fetches the image of a cell again. For a device with one cell it fetches the
+    /// images of all its channels. Returns false if `row` is invalid, and as fetchAll() does.
     Q_INVOKABLE bool fetch(int row);
 
-    /// Cancels the batch. At its end, waiting cells without an image change to the failed state.
+    /// Cancels the batch and returns before its end. At the end of the batch, cells whose images were not
+    /// requested have the state Taken if they have an older image, otherwise Failed.
     Q_INVOKABLE void stop();
 
-    /// Cancels the batch, and removes the devices and their images.
+    /// Cancels the batch, and removes the devices and their images. The steps that are still running have no
+    /// effect on the gallery, but the next batch may be refused until they have ended.
     Q_INVOKABLE void clear();
 
-    /// Writes the images as "<device>/<channel>.jpg" in the folder of snapshots, on a separate thread.
-    /// <device> is address and port with "_" for special characters; existing files are replaced. Emits
-    /// saved() at the end; no effect without images, or while saving.
+    /// Writes the images as "<device>/<channel>.jpg" in ApplicationFolders::snapshots(), on a separate
+    /// thread. <device> is address and port with "_" for special characters, <channel> counts from 0.
+    /// Existing files are replaced. Emits saved() at the end. No effect without images, or while saving.
     Q_INVOKABLE void saveAll();
 
-    /// The values of a cell by role name; empty for an invalid row.
+    /// The values of the cell at `row` (from 0) by role name; empty for an invalid row.
     Q_INVOKABLE [[nodiscard]] QVariantMap get(int row) const;
 
-    /// The devices in their order, as maps with "ipport" and "name".
+    /// The devices in their order, as maps with "ipport" and "name" (the text of DeviceRole).
     Q_INVOKABLE [[nodiscard]] QVariantList devices() const;
 
 Q_SIGNALS:
@@ -130,8 +135,9 @@ Q_SIGNALS:
     void countsChanged();
     void savingChanged();
 
-    /// Emitted after saveAll(): number of written files and of failures, path of that folder,
-    /// and the error text of the first failure.
+    /// Emitted at the end of saveAll(): number of written files, number of files that could not be written,
+    /// path of the folder of snapshots, and the reason of the first failure as text of the system, empty
+    /// without one.
     void saved(int files, int failures, const QString &folder, const QString &reason);
 
 private:
