@@ -23,7 +23,7 @@ public:
     /// "desktop", "light" or "dark".
     [[nodiscard]] QString choice() const { return m_choice; }
 
-    /// Applies and stores a choice, with the values of choice(). Returns false if it could not be stored; it
+    /// Applies and stores `choice`, a value of choice(). Returns false if the choice could not be stored; it
     /// then applies until the application ends.
     Q_INVOKABLE bool choose(const QString &choice);
 

@@ -8,12 +8,14 @@
 
 class QDBusError;
 
-/// The colour scheme that the portal service of a D-Bus reports, and its changes. Calls do not block: there
-/// is no preference without a service or until it has responded. Main thread only.
+/// The colour scheme that the portal service of a D-Bus reports, and its changes. The constructor sends the
+/// request and does not wait: there is no preference until the service has responded, and without a service.
+/// Main thread only.
 class DesktopPortal : public QObject
 {
     Q_OBJECT
 public:
+    /// `bus` may be disconnected; there is no preference then.
     explicit DesktopPortal(const QDBusConnection &bus, QObject *parent = nullptr);
 
     /// Whether dark windows are preferred; nullopt without a known preference.

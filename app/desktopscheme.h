@@ -14,7 +14,7 @@ class DesktopScheme : public QObject
 {
     Q_OBJECT
 public:
-    /// The address of the running session bus; empty without one. No bus is started.
+    /// The address of the session bus of the user, by the environment; empty without one. No bus is started.
     [[nodiscard]] static QString sessionBus();
 
     /// Requires the application object. `portalBus` is the address of the bus of the portal; empty for no
@@ -22,6 +22,7 @@ public:
     explicit DesktopScheme(const QString &portalBus, QObject *parent = nullptr);
     ~DesktopScheme() override;
 
+    /// Whether dark windows are preferred. May change later, when the portal has responded.
     [[nodiscard]] bool isDark() const { return m_isDark; }
 
     /// Observes the events of the application for changes of the palette and of the settings of Windows.

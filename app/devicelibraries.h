@@ -8,7 +8,8 @@
 /// Name of the binding file, which lists the libraries and their functions.
 inline constexpr const char *bindingFileName = "devicelibraries.txt";
 
-/// Loads the libraries of the binding file in `folder` into all members of `libraries` except the clock.
-/// Returns false if there is no binding file. If the libraries cannot be loaded, returns true, leaves
-/// `libraries` unchanged and sets `error` to a sentence in the user's language.
+/// Loads the libraries that the binding file in `folder` lists, and replaces all members of `libraries` by
+/// them except the clock, which is kept. Returns true if there is a binding file. If one of its libraries
+/// cannot be loaded, `libraries` is unchanged and `error` is set to a sentence in the user's language;
+/// otherwise `error` is unchanged. Returns false and changes nothing if there is no binding file.
 bool bindDeviceLibraries(const QString &folder, sdk::SdkLibraries &libraries, QString &error);

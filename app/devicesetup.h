@@ -15,9 +15,12 @@
 #include <memory>
 #include <optional>
 
-/// What the window and the commands need to work with devices: the libraries, the stores of certificates and
-/// accounts, the rows, and the back ends, which are registered with CDeviceFactory. The factory must be
-/// deleted before this object. Main thread.
+/// The objects with which the window and the commands work with devices: the libraries, the stores of
+/// certificates and accounts, the rows, and the back ends, which are registered with CDeviceFactory. The
+/// factory must be deleted before this object. Main thread.
+///
+/// The libraries are those of a simulated site, or the closed libraries of "devicelibraries.txt", or without
+/// that file the open ones. For a simulated site, certificates and accounts are in memory only.
 class DeviceSetup
 {
 public:
@@ -29,26 +32,32 @@ public:
         QString storeFolder;   ///< of "certificates.json" and "accounts.json"
     };
 
-    /// Why the libraries cannot be used.
+    /// The reason why the libraries cannot be used.
     struct Problem
     {
-        bool isSite = false; ///< of the simulated site, in English; otherwise in the user's language
-        QString text;
+        bool isSite = false; ///< true: `text` is about the simulated site and in English
+        QString text;        ///< otherwise in the user's language
     };
 
+    /// Opens nothing yet.
     explicit DeviceSetup(Options options);
 
-    /// Chooses the libraries and creates the stores. Returns nullopt on success.
+    /// Chooses the libraries and creates the stores. Called once, before all other functions. Returns nullopt
+    /// on success. After a problem, only the destructor may be called.
     [[nodiscard]] std::optional<Problem> open();
 
-    /// Sets the proxy and the certificate handler of requests over HTTP.
+    /// Sets the certificate handler of `transport`, and on a simulated site its proxy, through which all
+    /// requests reach simulated devices only. This object must outlive the requests.
     void prepare(HttpTransport &transport) const;
 
-    /// Registers the back ends with the factory; called before its first use. `searchSettings` is called at
-    /// each start of a search.
+    /// Registers the back ends with the factory; called before the factory is first used. `searchSettings` is
+    /// called on the main thread at each start of a search.
     void registerBackEnds(const std::function<SearchSettings()> &searchSettings,
                           const UpgradeLimits &upgradeLimits) const;
 
+    // The objects that open() has created; empty before.
+
+    /// The libraries. A library that is not available is null.
     [[nodiscard]] const sdk::SdkLibraries &libraries() const { return m_libraries; }
     [[nodiscard]] const std::shared_ptr<CertificateStore> &certificates() const { return m_certificates; }
     [[nodiscard]] const std::shared_ptr<AccountStore> &accounts() const { return m_accounts; }

@@ -16,6 +16,7 @@ inline constexpr std::array languageCodes = {
     QLatin1StringView("gl_GL"), QLatin1StringView("ca_CA"),
 };
 
-/// The language of a first start on a system with the given language; English by default. Galician and
-/// Catalan are only available by the user's choice.
+/// The code of the language of a first start on a system with the given language; "en_US" for languages
+/// without a code. Galician and Catalan systems start in English: these languages are only available by the
+/// user's choice.
 [[nodiscard]] QString languageCodeFor(QLocale::Language systemLanguage);

@@ -12,9 +12,10 @@ class QSharedMemory;
 /// The user's local settings, the interface language, the product name, the help documents and the
 /// single-instance lock.
 ///
-/// Settings are not cached: each getter reads the file, each setter writes it. A missing key reads as an
-/// empty string or 0, unless the getter states another default. A failed write leaves the file unchanged and
-/// logs a warning; a caller detects it by reading the value. Main thread only.
+/// Settings are not cached: each getter reads the file, each setter writes it before it returns. A missing
+/// key reads as an empty string or 0, unless the getter states another default. Setters do not check their
+/// values. A failed write leaves the file unchanged and logs a warning; a caller detects it by reading the
+/// value. Main thread only.
 class CLocalConfig : public QObject
 {
     Q_OBJECT
@@ -22,18 +23,19 @@ public:
     /// The process-wide object for the ApplicationFolders, created by the first call.
     static CLocalConfig *getinstance();
 
-    /// Deletes the process-wide object.
+    /// Deletes the process-wide object. The next getinstance() creates another one.
     static void deleteInstance();
 
-    /// Uses the files in `directory`. The settings file is "LocalConfig.ini". If there is none, one with the
-    /// defaults is written; an existing one is not changed.
+    /// `directory` contains the settings file "LocalConfig.ini" and the folders "language" (translation
+    /// files) and "documents". If there is no settings file, one with the defaults is written; an existing
+    /// one is not changed.
     explicit CLocalConfig(const QString &directory) : CLocalConfig(directory, directory) {}
 
-    /// As above, with the settings file in another folder.
+    /// As above, with the settings file in `settingsFolder`.
     CLocalConfig(const QString &directory, const QString &settingsFolder);
     ~CLocalConfig() override;
 
-    /// The stored code of the languageCodes; empty before the first start.
+    /// The stored language code, one of languageCodes; empty before the first start.
     Q_INVOKABLE [[nodiscard]] QString getLanguage() const;
     /// Stores the language of the next start. The current language does not change.
     Q_INVOKABLE void setLanguage(const QString &lang);
@@ -61,42 +63,48 @@ public:
     Q_INVOKABLE void setSearchLogsIn(bool logsIn);
     /// The colours of the windows: "light", "dark", or "desktop" (default).
     [[nodiscard]] QString colourScheme() const;
-    /// Stores one of these values. Any other one is stored, too, and reads as "desktop".
+    /// Stores a value of colourScheme(). Any other value is stored, too, and reads as "desktop".
     void setColourScheme(const QString &scheme);
-    /// Releases the single-instance lock, starts the application with the same arguments, and ends this one.
+    /// Releases the single-instance lock, starts a process of the application with the same arguments, and
+    /// ends the event loop of this process. This process ends also if the other one cannot be started.
     Q_INVOKABLE void reboot();
-    /// As reboot(), on the demo site.
+    /// As reboot(), with the argument "--demo" alone: the other process runs on the demo site "office".
     Q_INVOKABLE void openDemoSite();
     Q_INVOKABLE [[nodiscard]] QString getVersion() const; ///< Product::version
     /// The display name of the application object: the name of the executable, unless another one was set.
     Q_INVOKABLE [[nodiscard]] QString getSoftwareName() const;
     Q_INVOKABLE [[nodiscard]] QString getLogoSoftwareName() const; ///< Product::logoName
-    // Open a PDF document in the current language, or the English one if there is none, with the default
-    // application of the system. Emit documentRequested().
-    Q_INVOKABLE void OpenHelpFile();
-    Q_INVOKABLE void OpenQAFile();
+    // The two functions below open a PDF document of the folder "documents" with the default application of
+    // the system: the document in the current language, or the English one if there is none. They emit
+    // documentRequested() before they return.
+    Q_INVOKABLE void OpenHelpFile();                      ///< the manual
+    Q_INVOKABLE void OpenQAFile();                        ///< questions and answers
     Q_INVOKABLE [[nodiscard]] QString getAppPath() const; ///< `directory` of the constructor
-    /// Indexes of the languageCodes that had no translation file at the start, in ascending order.
+    /// Indexes of the languageCodes that had no translation file at the start, in ascending order; the menu
+    /// of languages omits them.
     Q_INVOKABLE [[nodiscard]] QVariantList getRemoveLanguageList() const;
     Q_INVOKABLE [[nodiscard]] QPoint cursorPos() const; ///< of the mouse, in screen coordinates
 
-    /// Number of simultaneous devices of a batch: 1 to 32, or 8 if the setting is missing or invalid.
+    /// Maximum number of devices that a batch processes at the same time: 1 to 32, or 8 if the setting is
+    /// missing or invalid. The user sets it in the file.
     [[nodiscard]] int parallelDevices() const;
 
-    /// Number of simultaneous upgrades: 1 to 16, or 4 if the setting is missing or invalid.
+    /// Maximum number of upgrades at the same time: 1 to 16, or 4 if the setting is missing or invalid.
     Q_INVOKABLE [[nodiscard]] int parallelUpgrades() const;
     Q_INVOKABLE void setParallelUpgrades(int count);
 
-    /// Sets the language of the documents until the application ends. It is not stored.
+    /// Sets the language code of the documents until the application ends. It is not stored.
     void setCurrentLanguage(const QString &code);
-    /// Whether there is a translation file for a language code.
+    /// Whether there is a translation file for a language code in `directory`.
     [[nodiscard]] bool hasTranslation(const QString &code) const;
+    /// The path of the settings file.
     [[nodiscard]] QString settingsPath() const { return m_settingsPath; }
     /// Paths of the translation files that existed at the start, in the order of languageCodes.
     [[nodiscard]] QStringList languageFiles() const { return m_languageFiles; }
 
-    /// Acquires the single-instance lock until reboot(), openDemoSite() or the destructor. Returns false if
-    /// another instance holds it. The lock of a killed process is taken over.
+    /// Acquires the single-instance lock until reboot(), openDemoSite() or the destructor. Does not wait.
+    /// Returns false if another process of the application holds the lock. The lock of a killed process is
+    /// taken over.
     [[nodiscard]] bool acquireInstanceLock();
 
 Q_SIGNALS:

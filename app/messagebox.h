@@ -7,8 +7,9 @@ class OMessageBox : public QDialog
 {
     Q_OBJECT
 public:
+    /// `text` is plain text; the user can select it.
     OMessageBox(const QString &title, const QString &text, QWidget *parent = nullptr);
 
-    /// Shows a message box and blocks until the user has closed it.
+    /// Shows a message box and blocks, with a running event loop, until the user has closed it.
     static void show(const QString &title, const QString &text);
 };

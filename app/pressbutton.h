@@ -2,7 +2,7 @@
 
 #include <QPushButton>
 
-/// A button of the widget dialogs, drawn like a primary button of QML.
+/// A button of the widget dialogs. widgetStyle() draws it like a primary button of QML.
 class OPressButton : public QPushButton
 {
     Q_OBJECT

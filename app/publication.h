@@ -16,15 +16,18 @@ namespace sdk {
 class NetLibrary;
 }
 
-/// Information about a simulated site for the window.
+/// Information about a simulated site, which the window displays.
 struct DemoNotice
 {
     bool isShown = false; ///< the application uses a simulated site
     QString account = {}; ///< of most of its devices, as "user / password"; empty if no device has an account
 };
 
-/// Sets the context properties of QML. `net` may be null, which the window reports. `batchEngine` and
-/// `colourScheme` outlive the engine. A search keeps rows of `store` whose devices failed in a batch.
+/// Sets the context properties of `engine`: the objects ("...Api") and values that QML uses by name. Called
+/// once, before QML is loaded, after the back ends are registered. Creates the objects that only QML uses;
+/// the engine owns them. `batchEngine`, `colourScheme` and the process-wide objects must outlive the engine.
+/// `net` may be null: the window then states that no device library is installed. From then on a search keeps
+/// the rows of `store` whose devices failed in a batch.
 void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
                     const std::shared_ptr<DeviceStore> &store,
                     const std::shared_ptr<CertificateStore> &certificates,

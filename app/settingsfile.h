@@ -4,18 +4,19 @@
 #include <QPair>
 #include <QString>
 
-/// A settings file in INI format, which is changed completely or not at all.
+/// Changes a settings file in INI format completely or not at all.
 ///
 /// QSettings does not detect that a full disk truncates its output, and replaces the file by the truncated
-/// one. It therefore writes a draft in the same folder. The draft replaces the file once its values have been
-/// read back.
+/// one. This class therefore lets QSettings write a draft in the same folder. The draft replaces the file
+/// once its values have been read back.
 class SettingsFile
 {
 public:
     explicit SettingsFile(const QString &path) : m_path(path) {}
 
-    /// Sets the values of some keys; the others are kept. Creates the file if it does not exist. Returns an
-    /// error text for the log, empty on success. Blocks until the file is on disk.
+    /// Sets the values of the given keys ("/group/key"); the other keys are kept. Creates the file if it does
+    /// not exist. Returns an error text for the log; the file is unchanged then. Empty on success. Blocks
+    /// until the file is on disk.
     [[nodiscard]] QString change(const QList<QPair<QString, QString>> &values) const;
 
 private:

@@ -13,7 +13,8 @@
 
 class QQmlApplicationEngine;
 
-/// Start-up and clean-up around the event loop. Requires the application object. Main thread only.
+/// Start-up and clean-up of the window around the event loop. Requires the application object, except
+/// prepareApplication(). Main thread only.
 class Shell
 {
     Q_DECLARE_TR_FUNCTIONS(Shell)
@@ -22,6 +23,7 @@ public:
     /// object is created.
     static void prepareApplication();
 
+    /// Starts nothing yet.
     explicit Shell(CommandLine commandLine);
 
     /// Deletes the windows and the engine of QML, the local settings (CLocalConfig), the object for commands
@@ -32,8 +34,9 @@ public:
     Shell &operator=(const Shell &) = delete;
 
     /// Chooses colours and language, acquires the single-instance lock, chooses the device libraries, creates
-    /// the stores and back ends, and loads QML, in this order. Returns nullopt if the event loop may run.
-    /// Otherwise it has shown the reason and returns the exit code.
+    /// the stores and back ends, and loads QML, in this order. Called once. Returns nullopt if the event loop
+    /// may run. Otherwise returns the exit code, after the user has closed a message with the reason: 0 if
+    /// the application is running already, 1 if the libraries cannot be used.
     [[nodiscard]] std::optional<int> begin();
 
     /// The engine of QML; null before a successful begin().

@@ -9,9 +9,9 @@
 /// Named strings in the group "view" of the settings file: columns and order of the tables, tab and position
 /// of the window. The other settings are not changed.
 ///
-/// Changes are written one second after the last one, because a drag of a column has many steps. Without a
-/// settings file, nothing is written and the changes stay pending: a file with these strings alone would lack
-/// the defaults of the other settings. Main thread only.
+/// All changes are written together, one second after the last one, because a drag of a column has many
+/// steps. Without a settings file, nothing is written and the changes stay pending: a file with these strings
+/// alone would lack the defaults of the other settings. Main thread only.
 class ViewMemory : public QObject
 {
     Q_OBJECT
@@ -19,6 +19,7 @@ public:
     static constexpr qsizetype longestText =
         4096; ///< in characters; a longer string in the file reads as empty
 
+    /// `settingsPath` is the path of the settings file.
     explicit ViewMemory(QString settingsPath, QObject *parent = nullptr);
     ~ViewMemory() override; ///< writes pending changes
 
@@ -33,8 +34,9 @@ public:
     Q_INVOKABLE void write();
 
 Q_SIGNALS:
-    /// The first of consecutive writes has failed. The changes stay pending for the next one. Not emitted if
-    /// there is no settings file.
+    /// A write has failed after a successful one, or the first one has failed; a further failure in a row is
+    /// not reported. The changes stay pending until the next change or write(). Not emitted if there is no
+    /// settings file.
     void failed();
 
 private:

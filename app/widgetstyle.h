@@ -2,5 +2,6 @@
 
 #include <QString>
 
-/// Style sheet of OMessageBox and OPressButton with the colours of the light or dark theme of QML.
+/// The style sheet for all widgets of the application, OMessageBox and OPressButton, with the colours of the
+/// light or dark theme of QML.
 [[nodiscard]] QString widgetStyle(bool dark);
