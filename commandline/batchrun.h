@@ -5,34 +5,36 @@
 
 namespace commandline {
 
-/// Waits for the end of a batch and writes the result of each device as progress. A batch that is paused
-/// after several refused passwords is stopped: each further attempt counts towards the lock of a device. So
-/// is one that the user interrupts. Runs the event loop.
+/// Waits for the end of a batch, and writes the result of each device as progress when it is known. Returns
+/// at once if the batch has ended. A batch that is paused after several refused passwords is stopped, since
+/// each further attempt counts towards the lock of a device. A batch that the user interrupts is stopped as
+/// well. Both stops are reported on standard error. Runs the event loop.
 void awaitBatch(CommandContext &context, Batch &batch);
 
-/// "done", "failed", "skipped" or "not done".
+/// The word for the result of a StepOutcome: "done", "failed", "skipped" or "not done".
 [[nodiscard]] QString outcomeWord(int result);
 
-/// The results of devices: the columns "device", "mac", "name", "result", "code" and "text", and further ones
-/// between "name" and "result".
+/// The results of devices: the columns "device" (address and port), "mac", "name", "result" (outcomeWord()),
+/// "code" and "text", and further ones between "name" and "result".
 class ResultTable
 {
 public:
     explicit ResultTable(const QStringList &furtherColumns = {});
 
-    /// Adds the devices of a batch. `values` returns the values of the further columns.
+    /// Adds the devices of an ended batch with their results. `values` returns the values of the further
+    /// columns; without it they are empty.
     void add(const Batch &batch, const std::function<QVariantList(const BatchDevice &device)> &values = {});
 
-    /// Adds the result of one device.
+    /// Adds the result of one device. `values` are those of the further columns; missing ones are empty.
     void add(const BatchDevice &device, const StepOutcome &outcome, const QVariantList &values = {});
 
-    /// Adds names without a device.
+    /// Adds names of devices that were not found, as failed.
     void addMissing(const QStringList &names);
 
-    /// SomeFailed unless all results are successes.
+    /// SomeFailed unless all added results are successes: skipped and not done devices count as failures.
     [[nodiscard]] int exitCode() const { return m_hasFailures ? SomeFailed : AllDone; }
 
-    /// Writes the table and returns exitCode().
+    /// Writes the table to standard output and returns exitCode().
     [[nodiscard]] int print(const CommandContext &context) const;
 
 private:
@@ -41,8 +43,10 @@ private:
     bool m_hasFailures = false;
 };
 
-/// Starts a batch with `start`, waits for its end and adds its results to `table`. Returns AllDone, or writes
-/// why the batch does not start and returns NothingDone.
+/// Starts a batch with `start`, waits for its end with awaitBatch() and adds its results to `table`, with
+/// `values` for the further columns. Returns AllDone at the end of the batch, also if devices failed: see
+/// ResultTable::exitCode(). If `start` returns null, writes the reason to standard error and returns
+/// NothingDone.
 [[nodiscard]] int runBatch(CommandContext &context, const std::function<Batch *()> &start, ResultTable &table,
                            const std::function<QVariantList(const BatchDevice &device)> &values = {});
 

@@ -1,4 +1,4 @@
-// What a command works with.
+// The objects that a command works with.
 #pragma once
 
 #include "cgi/cgiprocedure.h"
@@ -21,11 +21,11 @@ struct Surroundings
 {
     CDeviceFactory &factory;
     BatchEngine &engine;
-    CgiSurroundings cgi; ///< its folder is not used
-    std::function<int()> parallelDevices;
-    std::function<int()> parallelUpgrades;
+    CgiSurroundings cgi;                   ///< its folder is not used: "--output" replaces it
+    std::function<int()> parallelDevices;  ///< returns the maximum number of devices at the same time
+    std::function<int()> parallelUpgrades; ///< returns the maximum number of upgrades at the same time
 
-    /// The account of a simulated site, for commands without a password.
+    /// The account of a simulated site, for commands without a password. nullopt without a site.
     std::optional<DeviceAccount> siteAccount = {};
 };
 
@@ -39,15 +39,17 @@ struct CommandContext
     Batches &batches;
     RecordFormat format = RecordFormat::Table;
 
-    /// Writes an error and returns `exitCode`.
+    /// Writes an error text in English to standard error and returns `exitCode`.
     [[nodiscard]] int fail(ExitCode exitCode, const QString &text) const
     {
         terminal.writeError(text);
         return exitCode;
     }
 
+    /// Writes results to standard output in the format of "--format".
     void print(const RecordTable &table) const { terminal.writeResult(table.text(format)); }
 
+    /// Whether "--dry-run" is given: the command prints its plan and changes nothing.
     [[nodiscard]] bool isDryRun() const { return arguments.has(QLatin1StringView("dry-run")); }
 };
 

@@ -1,4 +1,6 @@
-// The functions of the commands. Each runs to the end of its command and returns an ExitCode.
+// The functions of the commands, for commands(), which describes each command. Each function checks the
+// values of its arguments, runs its command to the end, writes results and errors to the terminal of the
+// context, and returns an ExitCode. Main thread; runs the event loop.
 #pragma once
 
 namespace commandline {

@@ -11,13 +11,15 @@ namespace commandline {
 /// The command with this name; null if there is none.
 [[nodiscard]] const Command *findCommand(QStringView name);
 
-/// The list of commands. `program` is the name of the executable file.
+/// The text with the list of commands, in English. `program` is the name of the executable file.
 [[nodiscard]] QString overview(const QString &program);
 
-/// Operands, options and exit codes of a command.
+/// The help of a command in English: its operands, options and exit codes.
 [[nodiscard]] QString helpOf(const Command &command, const QString &program);
 
-/// Runs a command to its end and returns its exit code. Its arguments must be valid. Runs the event loop.
+/// Runs a command to its end and returns its ExitCode. `arguments` have no error; an invalid value gives
+/// UsageError. Returns SomeFailed if results could not be written completely. Main thread; runs the event
+/// loop.
 [[nodiscard]] int run(const Command &command, const Arguments &arguments, Terminal &terminal,
                       const Surroundings &surroundings);
 

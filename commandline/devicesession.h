@@ -8,29 +8,35 @@
 
 namespace commandline {
 
+/// The result of the work with one device.
 struct SessionResult
 {
     StepOutcome outcome;
-    QVariant value; ///< of the job; invalid without a login
+    QVariant value; ///< PageOutcome::value of the job; invalid if the job was not run
 };
 
-/// Logs in to the device of a row with its account and runs a job in the session. The outcome is a failure if
-/// the login or a request of the job fails, or if a value is refused; its text has the reason. Blocks.
+/// Logs in to the device of a row of the device list with its account, runs `job` in the session on this
+/// thread, and calls PageOutcome::take(). If the device is not initialised or the login fails, the job is not
+/// run, and the outcome has that result, without a text. If a request of the job fails or the device refuses
+/// a value, the outcome is a failure; its text has the reason in English. Blocks. Main thread.
 [[nodiscard]] SessionResult workInSession(const CommandContext &context, const QJsonObject &row,
                                           const SessionJob &job);
 
-/// The outcome for a device without this channel (from 0).
+/// The failed outcome for a device without this channel (from 0; the text counts from 1).
 [[nodiscard]] StepOutcome noChannel(int channel);
 
-/// Work with several devices, one after another. It ends after several refused accounts in a row, since each
-/// further attempt counts towards the lock of a device, and when the user interrupts it.
+/// Work with several devices, one after another. It ends early after several refused accounts in a row
+/// (BatchPolicy::wrongPasswordsInARow), since each further attempt counts towards the lock of a device, and
+/// when the user interrupts it.
 class DeviceSequence
 {
 public:
+    /// `context` must outlive this object.
     explicit DeviceSequence(const CommandContext &context) : m_context(context) {}
 
-    /// Runs `work` for each row. Calls `take` with its outcome and writes it as progress; devices after the
-    /// end are not done. Processes events between two devices.
+    /// Runs `work` for each row in order. After each device, calls `take` with the outcome and writes the
+    /// outcome as progress. After an early end, `work` is not run for the remaining rows; `take` gets NotDone
+    /// for each of them. Blocks; processes events between two devices.
     void run(const QList<QJsonObject> &rows, const std::function<StepOutcome(const QJsonObject &row)> &work,
              const std::function<void(const QJsonObject &row, const StepOutcome &outcome)> &take) const;
 

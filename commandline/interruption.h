@@ -8,17 +8,19 @@ class QSocketNotifier;
 
 namespace commandline {
 
-/// While this object exists, the first SIGINT or SIGTERM calls a function on the main thread, in the event
-/// loop: running steps end at a safe point. A second signal ends the process. One object at a time. Main
-/// thread.
+/// While this object exists, the first SIGINT or SIGTERM does not end the process but calls a function in the
+/// event loop of the main thread, so that the command can end at a safe point. A second signal of the same
+/// kind ends the process. One object at a time. Main thread. Has no effect on Windows.
 class Interruption
 {
 public:
+    /// `requested` is called once for each of the two signals.
     explicit Interruption(std::function<void()> requested);
-    ~Interruption();
+    ~Interruption(); ///< from then on, each signal ends the process
     Interruption(const Interruption &) = delete;
     Interruption &operator=(const Interruption &) = delete;
 
+    /// Whether a signal was received and processed by the event loop.
     [[nodiscard]] bool isRequested() const { return m_isRequested; }
 
 private:

@@ -11,7 +11,8 @@ struct OutputFolder
     QString error; ///< in English; empty on success
 };
 
-/// The folder of "--output", created if it is missing; the working directory without that option.
+/// The folder of "--output"; the working directory without that option. A missing folder is created, except
+/// with "--dry-run".
 [[nodiscard]] OutputFolder outputFolder(const CommandContext &context);
 
 } // namespace commandline

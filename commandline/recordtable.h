@@ -12,12 +12,12 @@ namespace commandline {
 
 enum class RecordFormat
 {
-    Table,
-    Json,
-    Csv,
+    Table, ///< aligned columns for a terminal; control characters become spaces, bool is "yes" or "no"
+    Json,  ///< an array with an object for each record
+    Csv,   ///< RFC 4180; bool is "true" or "false"
 };
 
-/// The format with this name; nullopt if there is none.
+/// The format with the name "table", "json" or "csv"; nullopt for another name.
 [[nodiscard]] std::optional<RecordFormat> recordFormat(QStringView name);
 
 /// Records with the same columns. Values are texts, numbers and bool.
@@ -30,10 +30,11 @@ public:
     /// Adds a record; `values` are parallel to the columns.
     void add(const QVariantList &values) { m_records.append(values); }
 
+    /// Whether there are no records.
     [[nodiscard]] bool isEmpty() const { return m_records.isEmpty(); }
 
-    /// UTF-8 with a line break at the end. A table without records consists of its headings, so does
-    /// comma-separated text; JSON is always an array.
+    /// The records as UTF-8 text with a line break at the end. Without records, a table and comma-separated
+    /// text consist of the headings, and JSON is an empty array.
     [[nodiscard]] QByteArray text(RecordFormat format) const;
 
 private:

@@ -16,16 +16,17 @@ struct Secret
 enum class SecretPurpose
 {
     Login,
-    NewAccount, ///< a prompt asks twice
+    NewAccount, ///< the prompt asks twice; different answers are an error
 };
 
-/// The password from the file of "--password-file", else from the environment variable CONFIGTOOLS_PASSWORD,
-/// else from the prompt. A password is never an argument: all users of the host can read the arguments of a
-/// process.
+/// Reads the password: with "--password-file" the first line of that file (up to 1,024 bytes), otherwise the
+/// environment variable CONFIGTOOLS_PASSWORD, and if that is empty the answer to a prompt. An unreadable file
+/// and an empty password are errors; no other source is tried then. A password is never an argument: all
+/// users of the host can read the arguments of a process. The prompt blocks.
 [[nodiscard]] Secret readPassword(const Arguments &arguments, const Terminal &terminal,
                                   SecretPurpose purpose);
 
-/// Whether readPassword() would read a file or the environment.
+/// Whether readPassword() would use a file or the environment, not the prompt.
 [[nodiscard]] bool hasPassword(const Arguments &arguments);
 
 } // namespace commandline

@@ -31,50 +31,59 @@ struct SettingValue
 struct SettingInfo
 {
     QString name;
-    QLatin1StringView values;
+    QLatin1StringView values; ///< description of the values that can be set, in English
 };
 
-/// Splits "name=value"; nullopt without a name or without "=".
+/// Splits "name=value" at the first "="; nullopt without a name or without "=". The name is not checked.
 [[nodiscard]] std::optional<Assignment> assignmentFrom(const QString &operand);
 
-/// A subject whose settings are read and written in a session with a device. The functions run on any thread
-/// and send requests to the device, except names().
+/// A subject whose settings are read and written in a session with a device. The functions with a parameter
+/// `device` run on the thread of the session's job. load() and write() send requests and block; a failed
+/// request is reported by the signals of the back end, see workInSession().
 struct SessionSubject
 {
+    /// The settings of the subject, for all devices.
     std::vector<SettingInfo> (*names)();
 
-    /// Selects a channel (from 0) and reads its settings from the device. Returns false, without a request,
-    /// if the device has no such channel.
+    /// Selects a channel (from 0) and reads its settings from the device. Called before the functions below.
+    /// Returns false, without a request, if the device has no such channel.
     bool (*load)(SessionOperations &device, int channel);
 
-    /// The settings that were read, in the order of names(). Without those that the device does not have.
+    /// The settings that load() has read, in the order of names(). Without those that the device does not
+    /// have.
     QList<SettingValue> (*read)(SessionOperations &device);
 
-    /// Why the device does not take a value, in English; empty if it does.
+    /// The reason why the device does not accept a value, in English; empty if it does. The assignment has a
+    /// name of names().
     QString (*faultOf)(SessionOperations &device, const Assignment &assignment);
 
-    /// Writes values that have no fault.
+    /// Writes values to the device. faultOf() is empty for each of them.
     void (*write)(SessionOperations &device, const QList<Assignment> &assignments);
 };
 
+/// The subject "encode", see SettingSubject.
 [[nodiscard]] const SessionSubject &encodeSubject();
+/// The subject "image".
 [[nodiscard]] const SessionSubject &imageSubject();
 
-/// The settings of the subject "system" that can be set.
+/// The settings of the subject "system" that can be set. It is not a SessionSubject: see systemPlan().
 [[nodiscard]] const std::vector<SettingInfo> &systemSettings();
 
-/// The names and values of all subjects; `writable` for those that can be set.
+/// The text of the help with the settings of all subjects: for the command "set" if `writable`, otherwise for
+/// the command "get".
 [[nodiscard]] QString settingsHelp(bool writable);
 
-/// Selects a channel (from 0) by a key of EncodeKey. Returns false if the device has no such channel.
+/// Selects the channel (from 0) of a session. `key` is the key of the current channel, such as
+/// EncodeKey::curChannel. Returns false if the device has no such channel.
 [[nodiscard]] bool selectChannel(SessionOperations &device, QLatin1StringView key, int channel);
 
-/// The texts of on and off.
+/// True for "on", "1", "yes" and "true"; false for "off", "0", "no" and "false"; nullopt for other texts.
 [[nodiscard]] std::optional<bool> flagFrom(const QString &text);
+/// "on" or "off".
 [[nodiscard]] QString flagText(bool flag);
 
-/// The index of the choice that a text names. The case, spaces and the sign between width and height are
-/// ignored. -1 if there is none.
+/// The index of the choice that a text names, from 0; -1 if there is none. Upper and lower case, spaces and
+/// the sign between width and height are ignored.
 [[nodiscard]] qsizetype choiceIndex(const QStringList &choices, const QString &text);
 
 } // namespace commandline

@@ -6,18 +6,20 @@
 
 namespace commandline {
 
+/// The subject of settings.
 struct SettingSubject
 {
-    const SessionSubject *session = nullptr; ///< null: "system"
+    const SessionSubject *session = nullptr; ///< of "encode" and "image"; null for "system"
 
     /// Whether the subject has a setting of this name that can be set.
     [[nodiscard]] bool knows(const QString &setting) const;
 };
 
-/// "encode", "image" or "system"; nullopt for another name.
+/// The subject with the name "encode", "image" or "system"; nullopt for another name.
 [[nodiscard]] std::optional<SettingSubject> subjectNamed(const QString &name);
 
-/// The channel of "--channel", from 0; nullopt if it is no number from 1.
+/// The channel of "--channel", converted to count from 0; 0 without that option. nullopt if its value is no
+/// number from 1.
 [[nodiscard]] std::optional<int> channelOf(const Arguments &arguments);
 
 } // namespace commandline

@@ -8,7 +8,7 @@ namespace commandline {
 
 struct TextLine
 {
-    int number = 0; ///< from 1
+    int number = 0; ///< of the line in the file, from 1
     QString text;   ///< without surrounding spaces
 };
 
@@ -18,7 +18,8 @@ struct TextLines
     QString error;         ///< in English; empty on success
 };
 
-/// Reads a UTF-8 file of up to 4 MiB; "-" is standard input.
+/// Reads the lines of a text file; the path "-" is standard input. A file that cannot be read, is larger than
+/// 4 MiB or is not UTF-8 gives an error and no lines. Blocks.
 [[nodiscard]] TextLines readTextLines(const QString &path);
 
 } // namespace commandline
