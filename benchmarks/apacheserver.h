@@ -4,25 +4,27 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-/// Apache with the folders "digest", "strict", "basic" and "open". All except "open" require the account.
-/// "strict" refuses a Digest whose URI lacks the query, which is Apache's default. Each folder contains
-/// "text", "picture.jpg", "picture.svg" and "recording.dav".
+/// Apache on 127.0.0.1 with the folders "digest", "strict", "basic" and "open". All except "open" require the
+/// account: "digest" and "strict" by Digest, "basic" by Basic. "digest" accepts a Digest whose URI lacks the
+/// query; "strict" refuses it, which is Apache's default. Each folder contains "text", "picture.jpg",
+/// "picture.svg" and "recording.dav".
 class ApacheServer
 {
 public:
-    /// Starts the server and waits until it accepts connections, up to 20 s; see failure().
+    /// Starts the server with one account, and blocks until it accepts connections, up to 20 s. After an
+    /// error failure() has the reason. Requires an installed Apache and the permission for user namespaces.
     ApacheServer(const QString &user, const QString &password);
-    ~ApacheServer();
+    ~ApacheServer(); ///< ends the server; blocks for up to 10 s
     ApacheServer(const ApacheServer &) = delete;
     ApacheServer &operator=(const ApacheServer &) = delete;
 
     /// The reason why the server does not run; empty if it runs.
     [[nodiscard]] const QString &failure() const { return m_failure; }
 
-    /// `path` starts with "/", such as "/digest/text".
+    /// The complete URL of `path`, which starts with "/", such as "/digest/text".
     [[nodiscard]] QString url(const QString &path) const;
 
-    /// "status method URI" of each request, the oldest first.
+    /// "status method URI" of each request that the server has answered, the oldest first.
     [[nodiscard]] QStringList requests() const;
 
 private:

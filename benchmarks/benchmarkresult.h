@@ -11,18 +11,18 @@
 struct BenchmarkResult
 {
     QString subject;
-    double value = 0; ///< median
+    double value = 0; ///< usually a median, in `unit`; smaller is better
     QString unit;
     double budget = 0;                  ///< in the same unit; a larger value is over budget
-    std::optional<double> peer;         ///< median of the peer in the same run; nullopt: no comparison
+    std::optional<double> peer;         ///< value of the peer in the same run; nullopt: no comparison
     std::optional<double> largestRatio; ///< of `value` to `peer`; nullopt: no limit
-    QString peerName;
+    QString peerName;                   ///< empty without a peer
 };
 
-/// The median time of several runs of `work`, in milliseconds.
+/// The median time of several runs of `work`, in milliseconds. `runs` is at least 1.
 [[nodiscard]] double medianMilliseconds(int runs, const std::function<void()> &work);
-/// The upper median of an even number of values; 0 of none.
+/// The median of the values; of an even number of values the upper one of the middle two; 0 of none.
 [[nodiscard]] double median(QList<double> values);
 
-/// Prints the table. Returns false if a result is over its budget or its ratio.
+/// Prints the table to standard output. Returns false if a result is over its budget or its ratio.
 bool printResults(const QList<BenchmarkResult> &results);

@@ -8,7 +8,8 @@
 #include <mutex>
 #include <span>
 
-/// Opens a port of a separate decoder library. The destructor frees it.
+/// Opens and plays a port of its own decoder library, with a buffer of 8 MiB. The destructor frees the port.
+/// push() and waitFor() are used on one thread.
 class DecodingPort
 {
 public:
@@ -17,10 +18,11 @@ public:
     DecodingPort(const DecodingPort &) = delete;
     DecodingPort &operator=(const DecodingPort &) = delete;
 
-    /// Blocks while the port's buffer is full.
+    /// Adds bytes of the stream. Blocks while the port's buffer is full.
     void push(std::span<const std::uint8_t> bytes);
 
-    /// Blocks until that many frames were delivered, up to two minutes.
+    /// Blocks until at least `frames` frames were decoded since the construction, up to two minutes. Returns
+    /// without an error after that time.
     void waitFor(int frames);
 
 private:

@@ -3,7 +3,8 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
-/// Measures the iterations of the event loop between start() and stop(). Main thread only.
+/// Measures the times between iterations of the event loop from start() to stop(), with a timer of 5 ms. Used
+/// once. Main thread only.
 class IterationWatch
 {
 public:
@@ -12,7 +13,7 @@ public:
     void start();
     void stop() { m_timer.stop(); }
 
-    /// The longest iteration in milliseconds.
+    /// The longest time between two iterations in milliseconds, at least about 5; 0 before the second one.
     [[nodiscard]] qint64 longest() const { return m_longest; }
 
 private:

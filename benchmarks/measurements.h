@@ -1,4 +1,5 @@
-// The measurements. main.cpp maps subjects to them.
+// The measurements. main.cpp maps subjects to them. Each function runs for seconds to minutes on the main
+// thread and requires the application object.
 #pragma once
 
 #include "benchmarks/benchmarkresult.h"
@@ -32,10 +33,10 @@ class NumberedStream;
 /// Decoding of a live stream, compared with ffmpeg on one thread.
 [[nodiscard]] QList<BenchmarkResult> measureDecoding();
 
-/// Nine live streams in real time: the delay of their decoded frames.
+/// Nine live streams in real time: the delay of their decoded frames. `stream` is valid.
 [[nodiscard]] QList<BenchmarkResult> measureLivePorts(const NumberedStream &stream);
 
-/// The same on the screen.
+/// Nine live streams in real time: the delay of their frames on the screen. `stream` is valid.
 [[nodiscard]] QList<BenchmarkResult> measureLiveWindow(const NumberedStream &stream);
 
 /// The start of the application, compared with an empty window of Qt.
@@ -50,7 +51,8 @@ class NumberedStream;
 /// The window and its memory while a search receives more responses than a real network can send.
 [[nodiscard]] QList<BenchmarkResult> measureFlood();
 
-/// The resident memory of a process in megabytes, including free memory of its allocator.
+/// The resident memory of the process with this ID in megabytes, including free memory of its allocator. Not
+/// a measurement: used by several of them.
 [[nodiscard]] double residentMegabytes(qint64 process);
 
 /// The memory of the application with 10,000 rows.

@@ -9,41 +9,42 @@
 #include <functional>
 #include <vector>
 
-/// A minute of 1440p H.264 with 25 frames per second.
+/// A minute of 1440p H.264 with 25 frames per second. Frame N (from 0) displays the number N. Immutable.
 class NumberedStream
 {
 public:
     using Time = std::chrono::steady_clock::time_point;
 
-    static constexpr int frames = 1500;
-    static constexpr std::chrono::milliseconds period{40};
-    static constexpr std::chrono::milliseconds keyPeriod{2000};
+    static constexpr int frames = 1500;                         ///< number of frames
+    static constexpr std::chrono::milliseconds period{40};      ///< between two frames
+    static constexpr std::chrono::milliseconds keyPeriod{2000}; ///< between two key frames
 
-    /// Creates the stream.
+    /// Creates the stream with the program ffmpeg. Blocks for up to five minutes.
     NumberedStream();
 
-    /// False if the stream cannot be created on this host.
+    /// False if the stream could not be created on this host.
     [[nodiscard]] bool isValid() const { return m_chunks.size() >= frames; }
 
-    /// The start of `stream` if the first of `streams` starts at `begin`. Their key frames are evenly spaced.
+    /// The start of the copy `stream` (from 0) of `streams` copies if the first copy starts at `begin`. The
+    /// copies start one after another within a keyPeriod, so that their key frames are evenly spaced.
     [[nodiscard]] static Time startOf(int stream, int streams, Time begin)
     {
         return begin + stream * keyPeriod / streams;
     }
 
-    /// Sends that many copies of the stream in real time: calls `send` with each chunk when it is due.
-    /// Returns at the end of the last copy.
+    /// Sends `streams` copies of the stream in real time: calls `send` on this thread with each chunk when it
+    /// is due, and with the number of its copy, from 0. Blocks until the end of the last copy.
     void send(int streams, Time begin,
               const std::function<void(int stream, const QByteArray &chunk)> &send) const;
 
-    /// The number that a frame displays, from its plane Y.
+    /// The number that a decoded frame displays. `luma` is its plane Y, with 2,560 bytes per line.
     [[nodiscard]] static int numberOf(const std::uint8_t *luma);
 
 private:
     std::vector<QByteArray> m_chunks; ///< the header, then one for each frame
 };
 
-/// The times of a stream's frames. Not thread-safe.
+/// The times of the frames of one copy of the stream. Not thread-safe.
 class FrameTimes
 {
 public:
@@ -52,15 +53,17 @@ public:
     /// `begin` is the start of the stream, see NumberedStream::startOf().
     explicit FrameTimes(Time begin) : m_begin(begin) {}
 
-    /// To be called for each displayed frame. A repeated frame is ignored.
+    /// Notes that the frame with this number is displayed at the time `now`. Ignored if the number is that of
+    /// the last call.
     void note(int number, Time now);
 
-    /// To be called after the end of the stream.
+    /// Notes the end of the stream, for longestGap. Called once, after the last note().
     void end();
 
+    // The results.
     double longestGap = 0; ///< between two frames, or the last one and the end, in milliseconds
-    double longestLag = 0; ///< from sending a frame to its display, in milliseconds
-    double lastLag = 0;    ///< the longest lag of the last four seconds, in milliseconds
+    double longestLag = 0; ///< from the due time of sending a frame to its display, in milliseconds
+    double lastLag = 0;    ///< the longest lag of the frames of the last four seconds, in milliseconds
     int shown = 0;         ///< number of displayed frames
 
 private:
@@ -71,6 +74,7 @@ private:
     int m_number = -1;
 };
 
-/// The worst results of several streams. `skipped` is the total number of dropped frames.
+/// The worst results of the copies of a stream, whose names start with `subject`. `skipped` is the number of
+/// frames of all copies that were not decoded.
 [[nodiscard]] QList<BenchmarkResult> resultsOf(const QString &subject, const std::vector<FrameTimes> &times,
                                                double skipped);
