@@ -3,9 +3,10 @@
 #include <QValidator>
 #include <QtQml/qqmlregistration.h>
 
-/// Accepts dates and times in a format of fixed width, by default "yyyy-MM-dd hh:mm:ss". Incomplete or
-/// invalid text of digits and separators is Intermediate, so that the user can edit single digits. Longer
-/// text is Invalid.
+/// Accepts dates and times in a format of fixed width, by default "yyyy-MM-dd hh:mm:ss". A text in this
+/// format with an existing date and time is Acceptable. A text that has other signs than digits and the
+/// separators of the format, or is longer than the format, is Invalid. Any other text, such as an incomplete
+/// one or "2024-02-31", is Intermediate, so that the user can edit single digits.
 class DateTimeValidator : public QValidator
 {
     Q_OBJECT
@@ -18,6 +19,7 @@ public:
     [[nodiscard]] QString format() const { return m_format; }
     void setFormat(const QString &format);
 
+    /// Does not change `text`; `position` is not used.
     State validate(QString &text, int &position) const override;
 
 Q_SIGNALS:
