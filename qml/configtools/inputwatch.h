@@ -5,13 +5,14 @@
 #include <QQuickWindow>
 #include <QtQml/qqmlregistration.h>
 
-/// Reports each press of a mouse button or key in a window, before an item receives it. It is C++ because an
-/// item receives only its own input. Main thread.
+/// Reports each press of a mouse button or key in a window, before an item receives it. The press is not
+/// consumed. It is C++ because an item receives only its own input. Main thread.
 class InputWatch : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QQuickWindow *window READ window WRITE setWindow NOTIFY windowChanged) ///< not owned
+    /// The observed window; null observes nothing. Not owned, and may be destroyed first.
+    Q_PROPERTY(QQuickWindow *window READ window WRITE setWindow NOTIFY windowChanged)
 public:
     explicit InputWatch(QObject *parent = nullptr) : QObject(parent) {}
 
@@ -22,7 +23,7 @@ public:
 
 Q_SIGNALS:
     void windowChanged();
-    void pressed(); ///< emitted also while a popup is open
+    void pressed(); ///< emitted also while a popup of the window is open
 
 private:
     QPointer<QQuickWindow> m_window;

@@ -6,7 +6,7 @@
 #include <QtQml/qqmlregistration.h>
 
 /// The text of the about box about the software of others: the list of components, then the licences of the
-/// fonts in the application.
+/// fonts in the application. The constructor reads it from the resources; a missing resource is left out.
 class Licences : public QObject
 {
     Q_OBJECT
@@ -17,8 +17,9 @@ class Licences : public QObject
 public:
     explicit Licences(QObject *parent = nullptr);
 
+    /// The lines of the text, for a list.
     [[nodiscard]] const QStringList &lines() const { return m_lines; }
-    /// All lines, for screen readers.
+    /// All lines in one text, for screen readers.
     [[nodiscard]] QString text() const { return m_lines.join(u'\n'); }
 
 private:

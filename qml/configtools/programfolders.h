@@ -4,7 +4,7 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// Paths of folders, with a trailing "/". A folder need not exist.
+/// Local paths of folders of ApplicationFolders, with a trailing "/". A folder need not exist.
 class ProgramFolders : public QObject
 {
     Q_OBJECT
@@ -14,5 +14,5 @@ class ProgramFolders : public QObject
 public:
     explicit ProgramFolders(QObject *parent = nullptr);
 
-    [[nodiscard]] QString favourites() const; ///< saved devices
+    [[nodiscard]] QString favourites() const; ///< the folder of the saved devices
 };

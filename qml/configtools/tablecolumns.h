@@ -7,13 +7,14 @@
 #include <QVariantMap>
 #include <QtQml/qqmlregistration.h>
 
-/// The shown columns of a table, their order and widths, by key. A hidden column keeps its position and
-/// width. Fixed columns are always shown, after all others.
+/// The arrangement of a table's columns, which are identified by keys: the shown columns, their order and
+/// their widths. A hidden column keeps its position and width. Fixed columns are always shown, after all
+/// others. The object stores nothing: the table stores and restores `text`.
 ///
-/// The text form lists all columns in order, separated by spaces, such as "state name:180 -mac": "-" marks a
-/// hidden column, ":180" a width that the user has set, in pixels. The default arrangement has the empty
-/// text. Text is not trusted: unknown columns are ignored, an invalid width means the default width, and
-/// missing columns are inserted after their predecessor in the default order. Text that hides all columns
+/// `text` lists all columns in order, separated by spaces, such as "state name:180 -mac": "-" marks a hidden
+/// column, ":180" a width that the user has set, in pixels. The default arrangement has the empty text. Text
+/// is not trusted: unknown columns are ignored, an invalid width means the default width, and missing columns
+/// are inserted after their predecessor in the default order. Text that hides all columns that are not fixed
 /// counts as empty.
 ///
 /// Main thread.
@@ -25,12 +26,13 @@ class TableColumns : public QObject
     Q_PROPERTY(
         QStringList hiddenKeys READ hiddenKeys WRITE setHiddenKeys NOTIFY keysChanged) ///< hidden by default
     Q_PROPERTY(QStringList fixedKeys READ fixedKeys WRITE setFixedKeys NOTIFY keysChanged)
+    /// Keys of the shown columns in display order.
     Q_PROPERTY(QStringList shown READ shown NOTIFY shownChanged)
     Q_PROPERTY(QVariantMap widths READ widths NOTIFY widthsChanged) ///< set by the user, in pixels, by key
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
 public:
-    static constexpr int leastWidth = 24;
-    static constexpr int mostWidth = 2000;
+    static constexpr int leastWidth = 24;          ///< pixels
+    static constexpr int mostWidth = 2000;         ///< pixels
     static constexpr qsizetype longestText = 4096; ///< characters; longer text counts as empty
 
     using QObject::QObject;
@@ -44,25 +46,27 @@ public:
 
     [[nodiscard]] QStringList shown() const; ///< in display order
     [[nodiscard]] QVariantMap widths() const;
+    /// The text of the arrangement; after setText() that text, until the next change by a function below.
     [[nodiscard]] QString text() const { return m_text; }
     void setText(const QString &text);
 
+    /// Whether the column is shown. False for an unknown key; the functions below ignore unknown keys.
     Q_INVOKABLE [[nodiscard]] bool isShown(const QString &key) const;
 
     /// False for a hidden or fixed column and for the last shown column that is not fixed.
     Q_INVOKABLE [[nodiscard]] bool canHide(const QString &key) const;
 
-    /// Hides a column only if canHide().
+    /// Shows or hides a column. A column is hidden only if canHide().
     Q_INVOKABLE void setShown(const QString &key, bool shown);
 
-    /// Moves a shown column to `index` among the shown columns, at most to the position before the fixed
-    /// ones.
+    /// Moves a shown column to `index` (from 0) among the shown columns, at most to the position before the
+    /// fixed ones. A hidden or fixed column is not moved.
     Q_INVOKABLE void move(const QString &key, int index);
 
     /// Sets the width in pixels, clamped to the range from leastWidth to mostWidth.
     Q_INVOKABLE void setWidth(const QString &key, int width);
 
-    /// Restores the default arrangement.
+    /// Restores the default arrangement: order, shown columns and widths.
     Q_INVOKABLE void reset();
 
 Q_SIGNALS:

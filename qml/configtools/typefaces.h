@@ -4,9 +4,10 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// Family names of the packaged and installed fonts. The constructor loads the packaged ones. It is C++
-/// because a QML font has one family only, and the Chinese family must be the explicit substitute of the
-/// Latin one: the system may choose Japanese glyphs for Chinese text.
+/// Family names of the fonts of the window. The constructor loads the packaged fonts (figures and icons) and
+/// sets the substitutes for Chinese text in the process. It is C++ because a QML font has one family only,
+/// and the Chinese family must be the explicit substitute of the Latin one: the system may choose Japanese
+/// glyphs for Chinese text.
 class Typefaces : public QObject
 {
     Q_OBJECT
@@ -18,9 +19,9 @@ class Typefaces : public QObject
 public:
     explicit Typefaces(QObject *parent = nullptr);
 
-    [[nodiscard]] QString text() const { return m_text; }
-    [[nodiscard]] QString figures() const { return m_figures; } ///< digits of equal width
-    [[nodiscard]] QString icons() const { return m_icons; }
+    [[nodiscard]] QString text() const { return m_text; }       ///< an installed font, for texts
+    [[nodiscard]] QString figures() const { return m_figures; } ///< packaged, with digits of equal width
+    [[nodiscard]] QString icons() const { return m_icons; }     ///< packaged, with a glyph for each icon
 
 private:
     QString m_text;
