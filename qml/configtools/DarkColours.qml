@@ -1,4 +1,5 @@
-// The dark theme. Text has a contrast of at least 4.5:1 on every background that it is used on, except disabled text.
+// The dark theme. A colour that is not set here is as in the light theme (ThemeColours).
+// Text has a contrast of at least 4.5:1 on every background that it is used on, except disabled text.
 
 ThemeColours {
     // Title bar.

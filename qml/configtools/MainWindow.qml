@@ -1,4 +1,5 @@
-// The main window: title bar, tabs and their pages, and the search that fills the list.
+// The main window: title bar, tabs and their pages, and the search that fills the list. It starts a search when it is
+// created. The objects that C++ publishes are its first properties.
 import QtQuick
 import QtQuick.Layouts
 import QtQuick.Templates as T
@@ -9,36 +10,39 @@ T.ApplicationWindow {
 
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi
-    readonly property var localConfig: LocalConfigApi
+    readonly property var localConfig: LocalConfigApi  // a CLocalConfig
     readonly property BusyState busyState: BusyStateApi
     readonly property Batches batches: BatchesApi
     readonly property SearchReports searchReports: SearchReportsApi
     readonly property CertificateList certificates: CertificatesApi
-    readonly property var webPages: WebPagesApi
-    readonly property var colourScheme: ColourSchemeApi
+    readonly property var webPages: WebPagesApi  // a WebPages
+    readonly property var colourScheme: ColourSchemeApi  // a ColourScheme
     readonly property DeviceNotes notes: DeviceNotesApi
-    readonly property var memory: ViewMemoryApi
-    readonly property bool libraryInstalled: deviceLibraryInstalled
-    readonly property var accounts: AccountsApi
-    readonly property bool simulated: demoSite
+    readonly property var memory: ViewMemoryApi  // a ViewMemory
+    readonly property bool libraryInstalled: deviceLibraryInstalled  // false: no device responds
+    readonly property var accounts: AccountsApi  // an AccountList, see LoginMemory
+    readonly property bool simulated: demoSite  // the devices are those of the demo site
     readonly property string demoAccount: demoSiteAccount  // user name and password; "" if no device has an account
     // qmllint enable unqualified
 
-    readonly property alias count: search.count
+    readonly property alias count: search.count  // devices found by the last search
     readonly property alias deviceSearch: search
     readonly property alias searching: search.running
-    property int currentTab: 0
-    property string chosenLanguage: localConfig.getLanguage()
-    /// Area of toasts: next to the tabs, between the buttons of the title bar and those of the tool bars.
+    property int currentTab: 0  // index from 0; set by showTab() only
+    property string chosenLanguage: localConfig.getLanguage()  // such as "en_US"; used after a restart
+    /// Area of toasts, in window coordinates: next to the tabs, between the buttons of the title bar and those of the
+    /// tool bars.
     readonly property rect toastArea: {
         const left = tabBar.tabsWidth + Theme.pageMargin;
         const top = (Theme.titleBarHeight + Theme.controlHeight) / 2 + 2;
         const bottom = titleBar.height + tabBar.height + (Theme.toolBarHeight - Theme.controlHeight) / 2 - 2;
         return Qt.rect(left, top, width - left - Theme.pageMargin, bottom - top);
     }
+    /// Whether the window fills the screen, also in full screen.
     readonly property bool maximised: visibility === Window.Maximized || visibility === Window.FullScreen
 
-    /// Starts a search requested by the user. A search removes all rows, so it is refused while work needs them.
+    /// Starts a search requested by the user, in place of a running one. A search removes all rows: while work needs
+    /// them, a message box shows the refusal of BusyState instead.
     function requestSearch() {
         const refusal = busyState.refusal(BusyState.Search);
         if (refusal !== "")
@@ -47,6 +51,7 @@ T.ApplicationWindow {
             search.start(searchSettings.read());
     }
 
+    /// Stores the language and offers a restart. If it cannot be stored, a toast reports that and nothing changes.
     function chooseLanguage(code) {
         localConfig.setLanguage(code);
         if (localConfig.getLanguage() !== code) {
@@ -57,11 +62,15 @@ T.ApplicationWindow {
         popups.openRestartPrompt();
     }
 
+    /// Applies a choice ("desktop", "light" or "dark") and stores it. A toast reports a failure to store it; the
+    /// colours then apply until the application ends.
     function chooseColours(choice) {
         if (!colourScheme.choose(choice))
             popups.notify(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
     }
 
+    /// Shows a tab and removes all toasts. Asks about unsaved settings first: the tab is then shown after the user's
+    /// consent. Ignores the current tab and an invalid index.
     function showTab(index) {
         if (index === currentTab || index < 0 || index >= tabBar.tabs.length)
             return;
@@ -73,7 +82,7 @@ T.ApplicationWindow {
         leavePage(go);
     }
 
-    /// Shows a tab and gives its page the keyboard focus.
+    /// As showTab(); also gives the page the keyboard focus, except after a question about unsaved settings.
     function turnTo(index) {
         showTab(index);
         if (currentTab !== index)
@@ -81,17 +90,20 @@ T.ApplicationWindow {
         pages.takeFocus(index);
     }
 
-    /// Runs `action`, after asking about unsaved settings. Returns whether a question is shown.
+    /// Without unsaved settings, runs `action` and returns false. Otherwise asks about them and returns true: `action`
+    /// runs later, unless the user cancels.
     function leavePage(action) {
         return pages.leave(action);
     }
 
+    /// Writes the current tab and the geometry of the window to the settings, see WindowGeometry.
     function rememberView() {
         memory.keep("tab", String(currentTab));
         memory.keep("window", savedGeometry.text());
         memory.write();
     }
 
+    /// Shows the stored tab, the first one if there is none, and gives its page the keyboard focus.
     function restoreTab() {
         const tab = Number(memory.text("tab"));
         if (Number.isInteger(tab) && tab > 0 && tab < tabBar.tabs.length)
@@ -118,7 +130,7 @@ T.ApplicationWindow {
             popups.notify(notes.problem, OVToast.Error);
     }
 
-    // Qt loses the maximised state of a window when it is minimised.
+    // Qt loses the maximised state of a window when it is minimised: the window restores it.
     property int lastVisibility: Window.Windowed
     property bool maximisedBefore: false
     onVisibilityChanged: {

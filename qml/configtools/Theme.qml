@@ -6,20 +6,20 @@ import configtools
 QtObject {
     id: theme
 
-    /// Set by the window: the choice of the user or the desktop.
+    /// Whether `colours` is the dark theme. MainWindow sets it from ColourScheme, which has the choice of the user.
     property bool dark: false
     readonly property ThemeColours colours: dark ? darkColours : lightColours
     readonly property ThemeColours lightColours: ThemeColours {}
     readonly property ThemeColours darkColours: DarkColours {}
 
-    // Folder of the favourites.
+    // Path of the folder of the favourites.
     readonly property string favPath: ProgramFolders.favourites
 
-    // Measures, on a grid of 8.
+    // Measures in pixels, mostly on a grid of 8. Those that end in "Share" are fractions.
     readonly property int unit: 8
     readonly property int half: 4
-    readonly property int pageMargin: 16
-    readonly property int controlGap: 12
+    readonly property int pageMargin: 16  // around the content of a page, dialog or bar
+    readonly property int controlGap: 12  // between the controls of a row
     readonly property int signGap: 6  // between an icon and its text; also the height of a strength step
     readonly property int controlHeight: 32
     readonly property int rowHeight: 34
@@ -30,14 +30,14 @@ QtObject {
     readonly property int footHeight: 40
     readonly property int dialogHeadHeight: 44
     readonly property int dialogFootHeight: 56
-    readonly property int denseHeadHeight: 40
+    readonly property int denseHeadHeight: 40  // of a small dialog, see OVDialog.dense
     readonly property int denseFootHeight: 48
-    readonly property int boxSize: 16
+    readonly property int boxSize: 16  // check boxes, and icons in buttons and rows
     readonly property int iconSize: 18
     readonly property int smallIconSize: 14
-    readonly property int line: 1
-    readonly property int focusRing: 3
-    readonly property int resizeEdge: 10
+    readonly property int line: 1  // width of borders and separators
+    readonly property int focusRing: 3  // width of its line
+    readonly property int resizeEdge: 10  // width of the edges that resize a window
     readonly property int paneRadius: 8
     readonly property int controlRadius: 6
     readonly property int smallRadius: 4
@@ -45,11 +45,11 @@ QtObject {
     readonly property int largeLogoSize: 40
     readonly property int formLabelWidth: 100
     readonly property int searchFieldWidth: 240
-    readonly property int searchFieldMinimum: 104
-    readonly property int windowWidth: 1280
+    readonly property int searchFieldMinimum: 104  // width if room is short
+    readonly property int windowWidth: 1280  // minimum of the main window, as the height below
     readonly property int windowHeight: 720
     readonly property int dialogWidth: 460
-    readonly property int messageWidth: 400
+    readonly property int messageWidth: 400  // of OVMessageBox
     readonly property int restartWidth: 480
     readonly property int restartHeight: 200
     readonly property int modifyIpWidth: 415
@@ -71,29 +71,29 @@ QtObject {
     readonly property int batchPanelWidth: 1216
     readonly property int batchPanelHeight: 600
     readonly property int batchListWidth: 408
-    readonly property real batchListShare: 0.3  // maximum, of the panel
-    readonly property int batchBarWidth: 120
+    readonly property real batchListShare: 0.3  // maximum of batchListWidth, of the width of the panel
+    readonly property int batchBarWidth: 120  // of the progress bar of a batch
     readonly property int strengthWidth: 160
-    readonly property int toastWidth: 380
-    readonly property int toastMost: 640
-    readonly property int toastLeast: 240
-    readonly property int toolTipWidth: 360
-    // From a button of a tool bar to below the table head under it.
+    readonly property int toastWidth: 380  // of the default area of toasts
+    readonly property int toastMost: 640  // maximum width of a toast
+    readonly property int toastLeast: 240  // a toast may always be this wide, also in a narrower area
+    readonly property int toolTipWidth: 360  // maximum, unless the tip sets another one
+    // Distance from a button of a tool bar to its tool tip below the head of the table under the bar, see OVToolTip.
     readonly property int toolTipDrop: (toolBarHeight - controlHeight) / 2 + tableHeadHeight
     readonly property int responseWindowWidth: 760
     readonly property int responseTipWidth: 560  // for a device's response, which has longer lines
 
     // Pages with a device tree on the left and panels on the right.
     readonly property int treePaneWidth: 344
-    readonly property real treePaneShare: 0.3  // maximum, of the page
+    readonly property real treePaneShare: 0.3  // maximum of treePaneWidth, of the width of the page
     readonly property int treeIndent: 22
     readonly property int panelWidth: 640
-    readonly property int clockListHeight: 210
+    readonly property int clockListHeight: 210  // maximum
     readonly property int panelLabelWidth: 116
     readonly property int choiceWidth: 200
     readonly property int operationWidth: 152
     readonly property int shortChoiceWidth: 104
-    readonly property int momentFieldWidth: 200
+    readonly property int momentFieldWidth: 200  // for a date with its time
     readonly property int passwordFieldWidth: 260
     readonly property int hourFieldWidth: 84
     readonly property int shownChoices: 8  // rows of an open combo box; more rows scroll
@@ -104,14 +104,14 @@ QtObject {
     readonly property int sliderNumberWidth: 36
     readonly property int switchWidth: 36
     readonly property int switchHeight: 20
-    readonly property int changeMark: 6
+    readonly property int changeMark: 6  // size of the mark of a value that is not saved
     readonly property int encodeLabelWidth: 104
     readonly property int imageLabelWidth: 156
     readonly property int imageWidth: 640  // maximum width of the image settings
     readonly property int encodeWidth: 900
     readonly property int encodeColumnWidth: 260  // minimum width of a stream next to the other one
     readonly property int imageSideWidth: 272
-    readonly property real imageSideShare: 0.4  // maximum, of the panel
+    readonly property real imageSideShare: 0.4  // maximum of imageSideWidth, of the width of the panel
     readonly property int sideLabelWidth: 88
     readonly property int rangeFieldWidth: 76
     readonly property int sliderRest: 400  // ms without a change after which a value is committed
@@ -122,13 +122,13 @@ QtObject {
     readonly property int liveMinimumWidth: 720
     readonly property int liveMinimumHeight: 480
     readonly property int liveListWidth: 220
-    readonly property int liveToolBarWidth: 680  // with all of its texts
-    readonly property int snapshotWidth: 216
-    readonly property int snapshotsHeight: 400
+    readonly property int liveToolBarWidth: 680  // minimum for all of its texts
+    readonly property int snapshotWidth: 216  // of one snapshot in the dialog
+    readonly property int snapshotsHeight: 400  // maximum of all snapshots in the dialog; more scroll
     readonly property int galleryCellWidth: 230  // minimum
     readonly property int galleryTextHeight: 64  // below and around the image of a cell
 
-    // Widths of table columns, by content.
+    // Widths of table columns, by content. "Least": the "leastWidth" of an OVTable column.
     readonly property int columnNumber: 56
     readonly property int columnState: 114
     readonly property int columnStateMinimum: 32  // only the dot of the state
@@ -169,7 +169,7 @@ QtObject {
     readonly property int columnUpgradeVersionLeast: 84
     readonly property int columnUpgradeResult: 224
     readonly property int columnNote: 128
-    readonly property int columnLeast: 88  // minimum of columns that give way
+    readonly property int columnLeast: 88  // of a column with "stretch" but without "leastWidth"
     readonly property int columnNameMost: 400  // maximum of names and models that spare room enlarges
     readonly property int columnMost: 480  // maximum when fitted to its content
     readonly property int progressWidth: 76  // of a progress bar in a row
@@ -200,22 +200,23 @@ QtObject {
     // and Chinese characters alike; the metrics of the fonts differ by a pixel.
     readonly property real baselineShift: 0.37
     readonly property real lineRatio: 1.5
-    /// Set by the window. Native rendering aligns glyphs to whole pixels of the window, which are not whole pixels of
-    /// the screen at a scale such as 1.5: distances and weights would differ.
+    /// The renderType of texts. MainWindow sets it: native rendering only at an integer scale of the screen. Native
+    /// rendering aligns glyphs to whole pixels of the window, which are not whole pixels of the screen at a scale such
+    /// as 1.5: distances and weights would differ.
     property int textRendering: Text.NativeRendering
 
     // Durations in milliseconds.
-    readonly property int quick: 120
+    readonly property int quick: 120  // fading of colours and popups
     readonly property int queueDrains: 100  // time to discard queued input
     readonly property int paintEvery: 25  // maximum work between two frames
-    readonly property int turn: 1000
-    readonly property int toolTipDelay: 500
-    readonly property int toolTipTime: 8000
-    readonly property int toastDuration: 4000
-    readonly property int errorToastDuration: 9000
+    readonly property int turn: 1000  // one rotation of a spinner
+    readonly property int toolTipDelay: 500  // from the entry of the pointer to the tip
+    readonly property int toolTipTime: 8000  // after which a tip closes
+    readonly property int toastDuration: 4000  // of information and success
+    readonly property int errorToastDuration: 9000  // of errors and refusals
     readonly property int frame: 16  // one frame between two pieces of work
 
-    // Code points of the icon font, see fonts/make-fonts.py.
+    // Code points of the icon font by the name of the icon (OVIcon.name), see fonts/make-fonts.py.
     readonly property var icons: ({
         "about": "\ue0f9",
         "accounts": "\ue1a4",
