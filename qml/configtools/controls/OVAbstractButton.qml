@@ -1,5 +1,6 @@
-// Base of all buttons. It has a tool tip; OVActionRow shows the tip of a disabled button. The tip stays hidden after a
-// press until the pointer enters again, as it would cover an opened menu.
+// Base of all buttons. Emits clicked() for a click, the space key, Return and Enter. It has a tool tip; the tip of a
+// disabled button is shown only in an OVActionRow. After a press the tip stays hidden until the pointer enters again,
+// as it would cover an opened menu.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -8,19 +9,20 @@ import "keygroups.js" as KeyGroups
 T.AbstractButton {
     id: root
 
-    property string toolTip
+    property string toolTip  // "" for none
     property bool quiet: false  // pressed since the pointer has entered: the tip stays hidden
     property bool ownArrows: false  // the button handles Left and Right itself, see keygroups.js
 
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
 
-    /// Ignores the auto-repeat of a key.
+    /// press() for a key event; ignores the auto-repeat of the key.
     function pressOnce(event) {
         if (!event.isAutoRepeat)
             press();
     }
 
+    /// Acts like a click: toggles a checkable button, then emits clicked().
     function press() {
         if (checkable)
             toggle();

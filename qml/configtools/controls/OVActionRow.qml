@@ -1,10 +1,12 @@
-// A row of buttons. It shows the tool tip of a disabled button, which receives no hover events itself.
+// A row of buttons, which are its direct children. It shows the tool tip of a disabled OVAbstractButton, which receives
+// no hover events itself; an enabled one shows its own tip.
 import QtQuick
 import configtools
 
 Row {
     id: root
 
+    /// The button under the pointer, null for none.
     readonly property OVAbstractButton over: pointer.hovered
         ? childAt(pointer.point.position.x, pointer.point.position.y) as OVAbstractButton : null
     readonly property bool explains: over !== null && !over.enabled

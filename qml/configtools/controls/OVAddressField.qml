@@ -1,12 +1,13 @@
-// A field for an IPv4 address. The caller sets the error text.
+// A field for an IPv4 address or a subnet mask. It takes only digits and dots, up to 15. It does not set `errorText`:
+// the owner does, by `acceptable` or `wrong`.
 import QtQuick
 import configtools
 
 OVTextField {
     id: root
 
-    readonly property bool acceptable: AddressTools.isLegalAddress(text)
-    readonly property bool wrong: !AddressTools.mayBecomeAddress(text)  // and not only incomplete
+    readonly property bool acceptable: AddressTools.isLegalAddress(text)  // a complete address; not an empty text
+    readonly property bool wrong: !AddressTools.mayBecomeAddress(text)  // cannot become an address by further input
 
     removedCharacters: /\s/g
     textFont: Theme.figureFont

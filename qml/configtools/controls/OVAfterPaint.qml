@@ -1,13 +1,14 @@
-// Runs blocking work after the window has shown the busy state. run() starts the work two frames later, as the next
-// frame may already be in progress, but after a second at the latest. A later call replaces waiting work.
+// Runs blocking work on the main thread after the window has shown its busy state.
 import QtQuick
 
 Item {
     id: root
 
     property var work: null  // a function
-    property int frames: 0
+    property int frames: 0  // frames of the window since run()
 
+    /// Calls the function `work` once, two frames later, as the next frame may already be in progress, or after a
+    /// second if the window renders no frames. Work that still waits from an earlier call is dropped.
     function run(work) {
         root.work = work;
         frames = 0;

@@ -1,4 +1,4 @@
-// A notice across the window, with a link.
+// A notice across the window, with an optional link. The owner shows it, and hides it on closed().
 import QtQuick
 import configtools
 
@@ -6,11 +6,11 @@ Rectangle {
     id: root
 
     required property string text
-    property string iconName: "unplugged"
-    property string linkText  // text of the link
-    property bool closable: false
+    property string iconName: "unplugged"  // see OVIcon
+    property string linkText  // text of the link; no link without a text
+    property bool closable: false  // has a close button
     signal linkActivated
-    signal closed
+    signal closed  // by the close button; the banner stays visible
 
     implicitHeight: Theme.rowHeight
     color: Theme.colours.warnSoft

@@ -1,4 +1,5 @@
-// Passes the reason of a refused batch to the page, while the page is visible.
+// Emits notify() with the reason when Batches refuses a batch, but only for the page that is visible: all pages share
+// one Batches.
 import QtQml
 import configtools
 
@@ -7,7 +8,7 @@ QtObject {
 
     required property Batches batches
     required property bool shown  // the page is visible
-    signal notify(string message, int severity)  // severity: of OVToast
+    signal notify(string message, int severity)  // severity: always OVToast.Refusal
 
     readonly property Connections reports: Connections {
         enabled: root.shown

@@ -1,16 +1,17 @@
-// A button with text.
+// A button with text, and an icon on its left if it has an `iconName`. A text that is too long is elided.
 import QtQuick
 import configtools
 
 OVAbstractButton {
     id: root
 
+    /// Primary: the main action, filled. Danger: in red. DangerPrimary: both.
     enum Kind { Outlined, Primary, Danger, DangerPrimary }
 
-    property int kind: OVButton.Outlined
-    property bool opensMenu: false  // shows an arrow
-    property bool busy: false  // a spinner replaces the icon
-    property string iconName
+    property int kind: OVButton.Outlined  // a Kind
+    property bool opensMenu: false  // shows an arrow; the owner opens the menu on clicked()
+    property bool busy: false  // a spinner replaces the icon; the owner disables the button
+    property string iconName  // see OVIcon; "" for none
 
     readonly property bool filled: kind === OVButton.Primary || kind === OVButton.DangerPrimary
     readonly property color fill: {

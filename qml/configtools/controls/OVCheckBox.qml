@@ -1,4 +1,5 @@
-// A check box. With `tristate` it also shows a partial selection.
+// A check box, with or without text. A click changes its state, unless the owner sets `nextCheckState`. With `tristate`
+// it can also show a partial selection.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -7,7 +8,7 @@ import "keygroups.js" as KeyGroups
 T.CheckBox {
     id: root
 
-    property string toolTip
+    property string toolTip  // "" for none; the accessible name of a box without text
 
     implicitWidth: text === "" ? Theme.boxSize : implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Theme.controlHeight

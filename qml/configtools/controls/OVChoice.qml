@@ -1,14 +1,14 @@
-// A combo box whose current entry is set from outside. A selection by the user is only requested: the box keeps showing
-// `chosen`.
+// A combo box whose current entry is set from outside. A selection by the user is only requested: the box shows
+// `chosen` until the owner changes it. Without a chosen entry it shows a dash.
 import QtQuick
 import configtools
 
 OVComboBox {
     id: root
 
-    property int chosen: -1  // index; -1: none
-    property var source: null  // on a change the box shows `chosen` again
-    signal indexRequested(int index)
+    property int chosen: -1  // index in the model; -1: none
+    property var source: null  // any object with the values: when it is replaced, the box shows `chosen` again
+    signal indexRequested(int index)  // not emitted for the chosen entry
 
     // A combo box selects the first entry of a new model.
     function follow() {

@@ -2,6 +2,7 @@
 import QtQuick
 
 Item {
+    /// Replaces the content of the clipboard by this plain text.
     function copy(text) {
         buffer.text = text;
         buffer.selectAll();

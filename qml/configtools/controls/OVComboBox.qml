@@ -1,4 +1,5 @@
-// A combo box. The model is a list of texts or numbers.
+// A combo box. The model is an array of texts or numbers. activated(index) reports a choice of the user; the mouse
+// wheel does not change the choice.
 import QtQuick
 import QtQuick.Templates as T
 import configtools

@@ -1,5 +1,6 @@
-// A modal dialog in the window: title, content, buttons. Escape closes it, Enter presses the primary button, and the
-// keyboard focus stays inside. It is limited to the size of the window; larger content scrolls.
+// A modal dialog in the window: title, content, buttons. Enter acts like the primary button, Escape and the close
+// button like the cancel button, also if that is hidden. The keyboard focus stays inside. It is limited to the size of
+// the window; larger content scrolls.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -10,26 +11,27 @@ T.Popup {
     property string title
     property string okText: qsTr("确定")
     property string cancelText: qsTr("取消")
-    property int okKind: OVButton.Primary
+    property int okKind: OVButton.Primary  // an OVButton.Kind
     property bool okEnabled: true
-    property bool hasCancel: true
-    property bool closable: true
+    property bool hasCancel: true  // shows the cancel button
+    property bool closable: true  // shows the close button in the head
     property bool dense: false  // for a small dialog: smaller head, foot and margins
-    property bool busy: false  // the accepted work runs: the primary button shows it, and input is disabled
-    property bool cancellable: false  // the dialog can be cancelled while it is busy
-    property string notice  // about the content of the dialog, above the buttons
-    property int noticeSeverity: OVToast.Error
+    property bool busy: false  // set by the owner while accepted work runs: a spinner; input is disabled
+    property bool cancellable: false  // may close while it is busy; the owner ends the work on rejected()
+    property string notice  // text above the buttons, "" for none; removed by accept() and on opening
+    property int noticeSeverity: OVToast.Error  // an OVToast.Severity
     property alias footContent: footSlot.data  // left of the buttons
-    readonly property alias buttonsWidth: buttons.width
-    property int wantedWidth: Theme.dialogWidth
-    property int leastHeight: 0
+    readonly property alias buttonsWidth: buttons.width  // of the buttons on the right of the foot
+    property int wantedWidth: Theme.dialogWidth  // less if the window is too narrow
+    property int leastHeight: 0  // minimum height, if the window has room for it
     property bool scrolls: true  // false if the content fits itself to the height of the dialog
+    // Limits of the dialog in the window.
     readonly property int mostWidth: parent ? parent.width - 4 * Theme.pageMargin : wantedWidth
     readonly property int mostHeight: parent ? parent.height - 2 * Theme.pageMargin : implicitHeight
     /// Maximum height of the content, also while a notice is above the buttons.
     readonly property int contentRoom: mostHeight - head.height - strip.height - foot.height - 2 * contentMargin
     default property alias content: body.data
-    signal accepted  // the owner closes the dialog
+    signal accepted  // by the primary button; the dialog stays open: the owner closes it
     signal rejected  // the dialog has closed
 
     // The dialog ignores input while it closes: a second click must not count.
@@ -42,12 +44,14 @@ T.Popup {
         body.focus = true;  // not the button that closed it the last time
     }
 
+    /// Acts like the primary button. Ignored if that is disabled, while the dialog is busy and while it closes.
     function accept() {
         if (!okEnabled || leaving || busy)
             return;
         notice = "";
         accepted();
     }
+    /// Closes the dialog, then emits rejected(). Ignored while it closes, and while it is busy unless `cancellable`.
     function reject() {
         if (leaving || busy && !cancellable)
             return;
@@ -55,14 +59,14 @@ T.Popup {
         rejected();
     }
 
-    /// Ignores the auto-repeat of a key.
+    /// accept() for a key event; ignores the auto-repeat of the key.
     function acceptOnce(event) {
         if (!event.isAutoRepeat)
             accept();
     }
 
-    /// Rejects the input: the first field with an error gets the keyboard focus. If no field has an error, the message
-    /// is shown above the buttons.
+    /// Reports that the input is not accepted; the dialog stays open. The first visible field with an `errorText` gets
+    /// the keyboard focus. The message is shown above the buttons only if no field has an error.
     function refuse(message) {
         const field = faultyField(body);
         if (field)
@@ -71,11 +75,13 @@ T.Popup {
             inform(message, OVToast.Error);
     }
 
+    /// Shows a message above the buttons. `severity` is an OVToast.Severity.
     function inform(message, severity) {
         noticeSeverity = severity;
         notice = message;
     }
 
+    /// The first visible and enabled item inside `item` with an `errorText`; null for none.
     function faultyField(item) {
         for (let i = 0; i < item.children.length; ++i) {
             const child = item.children[i];
@@ -88,6 +94,7 @@ T.Popup {
         return null;
     }
 
+    /// Gives the cancel button the keyboard focus.
     function focusCancel() {
         cancel.forceActiveFocus();
     }

@@ -1,4 +1,5 @@
-// Shown in place of an empty list: the reason, and an action.
+// Shown in place of an empty list: icon, reason (title), hint, and optional buttons and links. A button or link without
+// a text is hidden.
 import QtQuick
 import configtools
 
@@ -8,13 +9,13 @@ Item {
     required property string iconName
     required property string title
     property string hint
-    property string actionText
+    property string actionText  // text of the first button
     property var choices: []  // further buttons next to the action: objects with "text" and "objectName"
     property string linkText  // text of a link below the action
-    property string demoText  // text of a second link
-    property bool busy: false
-    signal activated
-    signal chosen(string choice)  // object name of the button
+    property string demoText  // text of a second link, to the demo site
+    property bool busy: false  // a spinner replaces the icon
+    signal activated  // by the first button
+    signal chosen(string choice)  // "objectName" of one of `choices`
     signal linkActivated
     signal demoActivated
 

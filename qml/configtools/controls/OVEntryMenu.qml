@@ -1,5 +1,5 @@
-// A menu with entries set on opening: objects with "key", "text" and optionally "enabled", "startsGroup" (a line above
-// the entry) and "checked" (a check box with this state).
+// A menu with entries set on opening: objects with "key", "text" and optionally "enabled" (true by default),
+// "startsGroup" (a line above the entry) and "checked" (bool; the entry has room for a check mark).
 import QtQuick
 import QtQml
 import configtools
@@ -8,9 +8,10 @@ OVMenu {
     id: root
 
     property var entries: []
-    signal chosen(string key)
+    signal chosen(string key)  // of the entry
 
-    /// `position` has "item", "x", "y" and "byKey". If opened by a key, the first enabled entry is current.
+    /// Opens the menu with these entries. `position` is a map: "x" and "y" in pixels of the item "item", and "byKey"
+    /// (bool). If opened by a key, the first enabled entry is current.
     function openAt(entries, position) {
         root.entries = entries;
         popup(position.item, position.x, position.y);

@@ -1,12 +1,13 @@
-// Filters the devices of a table whose batches failed or did not reach them, optionally for one operation, and clears
-// their marks. Hidden without marks.
+// Shows only the failed devices of a table: those with a failed mark (FailedMarks), optionally of one operation. Its
+// link clears all marks, also those of devices and operations that are not shown, in all pages. Hidden while there is
+// no mark.
 import QtQuick
 import configtools
 
 Row {
     id: root
 
-    required property DeviceTableModel devices
+    required property DeviceTableModel devices  // its filters are changed
 
     spacing: Theme.unit
     visible: (devices.failedMarks?.count ?? 0) > 0

@@ -1,4 +1,4 @@
-// Chooses the operation whose failed marks are shown, or all operations.
+// Chooses the operation whose failed marks `devices` shows, or all operations. Sets `failedOperation` of the model.
 import QtQuick
 import configtools
 
@@ -6,7 +6,7 @@ OVChoice {
     id: root
 
     required property var devices  // a DeviceTableModel or an OVTreeModel
-    readonly property var operations: devices.failedMarks?.operations ?? []
+    readonly property var operations: devices.failedMarks?.operations ?? []  // titles of the operations with marks
 
     accessibleName: qsTr("未成功的操作")
     chosen: operations.indexOf(devices.failedOperation) + 1

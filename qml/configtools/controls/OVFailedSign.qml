@@ -1,11 +1,12 @@
-// Icon of a device whose batches failed or did not reach it. Its tool tip has the batches and reasons.
+// Icon of a device with a failed mark (FailedMarks). Its tool tip has the batches and reasons. Hidden for a device
+// without a mark.
 import QtQuick
 import configtools
 
 OVIcon {
     id: root
 
-    required property string failure  // batches and reasons, one per line; empty for an unmarked device
+    required property string failure  // batches and reasons, one for each line; "" without a mark
 
     property bool onlyNotDone: false  // no batch failed; some did not reach the device
 

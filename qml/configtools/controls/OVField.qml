@@ -1,4 +1,4 @@
-// A field with its label above it, for dialogs without room for a label on the left.
+// A field, its child, with a label above it, for dialogs without room for a label on the left.
 import QtQuick
 import configtools
 

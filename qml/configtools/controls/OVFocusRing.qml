@@ -1,9 +1,10 @@
-// The ring around the control with the keyboard focus.
+// The ring around the control with the keyboard focus. It is a child of the control, or of its background, and drawn
+// outside of it.
 import QtQuick
 import configtools
 
 Rectangle {
-    required property bool shown
+    required property bool shown  // the control has the focus from the keyboard
     property int around: Theme.controlRadius  // corner radius of the control
 
     anchors.fill: parent

@@ -1,30 +1,33 @@
-// The status line of a page. Left: the selection, the result of the last batch, warnings. Right: the running batch (of
-// any page, with a stop button), else the work of the page, else the search.
+// The status line of a page. Left: the selection, the result of the last batch, warnings. Right: the running batch of
+// any page, otherwise the other work of this page, otherwise the search. A batch and a search have a stop button. When
+// a batch is paused after refused passwords, the line asks whether to continue, to stop, or to retry with another
+// account. After a batch it offers to retry, to tick the failed devices, to save the results and to show the records of
+// all batches.
 import QtQuick
 import configtools
 
 Item {
     id: root
 
-    required property string text
-    property string warning
-    property string runningText
-    property string runningDevice
-    property bool running: false
+    required property string text  // the selection, such as the number of ticked devices
+    property string warning  // "" for none
+    property string runningText  // text about the other work of the page, while `running`
+    property string runningDevice  // device or item that this work processes, "" for none
+    property bool running: false  // work of the page that is not a batch runs
     property bool compact: false  // in the foot of a dialog: optional parts are hidden
     readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
-    property real progress: -1  // 0 to 1; negative: unknown
-    property Batches batches: null
-    property DeviceSearch search: null
-    signal tickRequested(var identities)  // identities of the devices to tick
-    signal notify(string message, int severity)
+    property real progress: -1  // of that work, 0 to 1; negative: unknown
+    property Batches batches: null  // null: no batch is shown
+    property DeviceSearch search: null  // null: no search is shown
+    signal tickRequested(var identities)  // the page ticks only these devices; array of texts
+    signal notify(string message, int severity)  // the page shows a toast; severity: of OVToast
 
-    readonly property Batch batch: batches?.current ?? null
+    readonly property Batch batch: batches?.current ?? null  // the latest one, also after its end
     readonly property bool showsBatch: batch?.running ?? false
     readonly property bool showsSearch: !running && !showsBatch && (search?.running ?? false)
     readonly property bool paused: showsBatch && batch.paused
-    property Batch batchToRetry: null  // batch to stop and retry with another account, null for none
-    property var accountNotice: null   // message about that account, shown after the start of the retry: it removes messages
+    property Batch batchToRetry: null  // batch that is stopping, to be retried with another account; null for none
+    property var accountNotice: null  // "message" and "severity"; shown after the retry has removed all toasts
     readonly property bool ended: batch !== null && !batch.running
     readonly property bool incomplete: ended && batch.report.failed + batch.report.notDone + batch.failedBefore > 0
     readonly property string outcome: ended && batch.report.summary !== ""
@@ -43,7 +46,7 @@ Item {
     //: A running batch: title, finished devices, all devices.
     readonly property string runningBatch: showsBatch ? qsTr("%1 %2 / %3").arg(batch.title).arg(batch.done).arg(batch.total) : ""
 
-    /// Remaining time of a batch as text; empty if unknown.
+    /// Remaining time of a batch as text; "" for a negative number, which means unknown.
     function timeLeft(seconds) {
         if (seconds < 0)
             return "";
@@ -51,7 +54,8 @@ Item {
         return seconds < 60 ? qsTr("剩余不到 1 分钟") : qsTr("剩余约 %n 分钟", "", Math.round(seconds / 60));
     }
 
-    /// The question gets the keyboard focus if no control has it, as after a click on a button that the batch disables.
+    /// Gives the keyboard focus to the question of a paused batch if no control has it, as after a click on a button
+    /// that the batch disables.
     function takeFreeFocus() {
         const holder = root.Window.activeFocusItem;
         let around = root;
@@ -61,6 +65,7 @@ Item {
             (account.visible ? account : stop).forceActiveFocus(Qt.TabFocusReason);
     }
 
+    /// Retries `batchToRetry`, which has ended, and shows the messages that waited for it.
     function retryWithAccount() {
         const ended = batchToRetry;
         batchToRetry = null;

@@ -1,4 +1,4 @@
-// A label and its field. The label is centred on the first line of the field.
+// A label on the left of its field, which is its child. The label is centred on the first line of the field.
 import QtQuick
 import configtools
 

@@ -1,4 +1,4 @@
-// An icon of the icon font, by its name in Theme.icons.
+// An icon of the icon font, by its name in Theme.icons. An unknown or empty name shows nothing.
 import QtQuick
 import configtools
 

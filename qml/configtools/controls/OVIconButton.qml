@@ -7,11 +7,11 @@ OVAbstractButton {
 
     required property string iconName
     property int iconSize: Theme.iconSize
-    property bool turning: false  // the icon turns
+    property bool turning: false  // the icon turns, for running work
     property color iconColor: Theme.colours.sub
     property color iconHoverColor: iconColor
     property color iconDisabledColor: Theme.colours.disabledText
-    property color fill: Theme.colours.clear
+    property color fill: Theme.colours.clear  // background
     property color fillHover: Theme.colours.hover
     property color fillPressed: Theme.colours.pressed
 

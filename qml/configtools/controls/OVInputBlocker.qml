@@ -1,4 +1,5 @@
-// Blocks all input to the window. Only Escape, and a click on `stopper`, pass.
+// Blocks all input to the window from open() until after release(). Only Escape, and a click on `stopper`, are
+// reported.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -6,10 +7,11 @@ import configtools
 T.Popup {
     id: root
 
-    property Item stopper: null  // button under the blocker: a click on it acts like Escape
-    signal escapePressed
+    property Item stopper: null  // button under the blocker: a click at its place acts like Escape; null for none
+    signal escapePressed  // also by `stopper`; the blocker stays open
 
-    /// Unblocks after the queued input is discarded: it was meant for the earlier content of the window.
+    /// Closes the blocker after Theme.queueDrains. Input that was queued until then is discarded, as it was meant for
+    /// the earlier content of the window.
     function release() {
         late.start();
     }

@@ -1,5 +1,5 @@
-// A line of text. The baseline does not depend on the script, so that Chinese and Latin texts align. Elided text is
-// shown in full in a tool tip.
+// A line of plain text, elided if it is too long. The baseline does not depend on the script, so that Chinese and Latin
+// texts align.
 import QtQuick
 import configtools
 
@@ -11,7 +11,7 @@ Item {
     property alias font: label.font
     property alias horizontalAlignment: label.horizontalAlignment
     property alias elide: label.elide
-    property bool showsFullTextOnHover: true
+    property bool showsFullTextOnHover: true  // an elided text has a tool tip with the full text
     readonly property alias truncated: label.truncated
 
     implicitWidth: Math.ceil(label.implicitWidth)

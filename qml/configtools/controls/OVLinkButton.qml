@@ -1,4 +1,5 @@
-// A button in a line of text or a table row.
+// A button that looks like a link: coloured text without a border, for a line of text or a table row. It emits
+// clicked().
 import QtQuick
 import configtools
 

@@ -1,11 +1,11 @@
-// The logo: the first character of the application's name on a coloured square.
+// The logo: the first character of `name` on a coloured square.
 import QtQuick
 import configtools
 
 Rectangle {
     id: root
 
-    required property string name
+    required property string name  // of the application
     property bool large: false
 
     implicitWidth: large ? Theme.largeLogoSize : Theme.logoSize

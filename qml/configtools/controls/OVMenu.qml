@@ -1,4 +1,4 @@
-// A popup menu.
+// A popup menu of OVMenuItem; an OVMenu in it is a submenu. It is as wide as its widest entry.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -6,7 +6,7 @@ import configtools
 T.Menu {
     id: root
 
-    property string iconName  // icon of its entry in the parent menu
+    property string iconName  // icon of its entry in the parent menu, see OVIcon; "" for none
 
     implicitWidth: Math.max(180, entries.contentWidth)
     implicitHeight: entries.contentHeight + topPadding + bottomPadding

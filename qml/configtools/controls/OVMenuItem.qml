@@ -1,4 +1,4 @@
-// An entry of a menu.
+// An entry of an OVMenu. It emits triggered().
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -6,9 +6,9 @@ import configtools
 T.MenuItem {
     id: root
 
-    property string iconName
+    property string iconName  // see OVIcon; "" for none; not shown if `ticks`
     property bool marksChoice: false  // the entry is the current choice: shown in colour, with a check mark
-    property bool ticks: false  // the entry has a check mark or room for one
+    property bool ticks: false  // choosing the entry toggles `checked`, shown by a check mark
     property bool startsGroup: false  // first of a group: a line is drawn above it
 
     implicitWidth: Math.max(180, label.implicitWidth + leftPadding + rightPadding)

@@ -1,17 +1,20 @@
-// A message with one button, or a question with "cancel" and an optional third button. It closes when it is answered.
+// A message with one button, or a question with "cancel" and an optional third button. It closes with the answer, which
+// is accepted(), rejected() or otherChosen(). Escape and the close button are rejected(), also for a message.
 import QtQuick
 import configtools
 
 OVDialog {
     id: root
 
+    /// Questions have the cancel button. In a DangerQuestion it has the keyboard focus, and the primary button is red.
     enum Kind { Information, Error, Question, DangerQuestion }
 
-    property int kind: OVMessageBox.Information
+    property int kind: OVMessageBox.Information  // a Kind
     property string message
     property string otherText  // text of the third button; without a text it is hidden
     signal otherChosen
 
+    /// Opens the box with this message. Without `ofKind` it is an Information.
     function show(text, ofKind) {
         message = text;
         kind = ofKind ?? OVMessageBox.Information;

@@ -1,4 +1,4 @@
-// Wrapped text with an icon before its first line.
+// Wrapped plain text with an icon before its first line. The owner sets the width.
 import QtQuick
 import configtools
 
@@ -8,7 +8,7 @@ Row {
     required property string iconName
     required property string text
     property color iconColor: Theme.colours.accent
-    property string messageName: "messageText"
+    property string messageName: "messageText"  // object name of the text, for tests
 
     spacing: Theme.controlGap
 

@@ -1,13 +1,14 @@
-// A field for an integer from 0. Larger numbers are replaced by `largest`.
+// A field for an integer from 0 to `largest`: a larger number is replaced by `largest` while it is typed. An empty
+// field shows `invalidText`.
 import QtQuick
 import configtools
 
 OVTextField {
     id: root
 
-    property int largest: 65535
+    property int largest: 65535  // at most 999999999
     property string invalidText: qsTr("请输入数字")
-    readonly property bool acceptable: text !== ""
+    readonly property bool acceptable: text !== ""  // the field has a number
 
     errorText: acceptable ? "" : invalidText
     textFont: Theme.figureFont

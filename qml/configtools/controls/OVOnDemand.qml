@@ -1,5 +1,5 @@
-// Creates its component on first use: many runs never show a page or dialog.
-// A page is created when it becomes visible, a dialog by instance().
+// Creates its component on first use: many runs never show a page or dialog. A page is created when it becomes visible,
+// a dialog by instance(). The object remains until this loader is destroyed. `item` is null before the first use.
 import QtQuick
 
 Loader {

@@ -1,13 +1,15 @@
-// Blocks input to its parent while work runs there. The rest of the window stays usable. Afterwards the keyboard focus
-// returns to its earlier item, unless the user has moved it.
+// Blocks mouse and keyboard input to its parent item while `active`. The rest of the window stays usable. If the parent
+// had the keyboard focus, the blocker takes it, and returns it to the same item at the end, unless the user has moved
+// it.
 import QtQuick
 
 MouseArea {
     id: root
 
-    property bool active: false
-    property var back: null  // item that had the keyboard focus
+    property bool active: false  // set by the owner while work runs in the parent
+    property var back: null  // item that had the keyboard focus, null for none
 
+    /// Whether the item is the parent or inside it.
     function isCovered(item) {
         let above = item;
         while (above && above !== parent)

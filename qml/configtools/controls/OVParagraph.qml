@@ -1,4 +1,4 @@
-// Wrapped plain text. Markup in texts of devices is not interpreted.
+// Wrapped plain text: markup in it is shown as text, as it may come from a device. The owner sets the width.
 import QtQuick
 import configtools
 

@@ -1,4 +1,4 @@
-// A progress bar. While it is `indeterminate`, a segment moves along the bar.
+// A progress bar for `value` from 0 to 1. While it is `indeterminate`, a segment moves along the bar instead.
 import QtQuick
 import QtQuick.Templates as T
 import configtools

@@ -1,4 +1,4 @@
-// A radio button.
+// A radio button with a text. Those with the same parent exclude each other.
 import QtQuick
 import QtQuick.Templates as T
 import configtools

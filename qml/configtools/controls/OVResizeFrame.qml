@@ -1,12 +1,13 @@
-// Resizes a frameless window by its edges and corners.
+// The edges and corners by which a frameless window is resized, as an item over the whole window. It only reports a
+// press: the window resizes itself.
 import QtQuick
 import configtools
 
 Item {
     id: root
 
-    required property bool active
-    signal resizeRequested(int edges)
+    required property bool active  // false: the window cannot be resized, as it is maximised
+    signal resizeRequested(int edges)  // a combination of Qt::Edge, for Window.startSystemResize()
 
     // qmllint disable unqualified
     Repeater {

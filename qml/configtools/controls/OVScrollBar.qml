@@ -1,4 +1,4 @@
-// A thin scroll bar.
+// A thin scroll bar. Hidden while the whole content is in view.
 import QtQuick
 import QtQuick.Templates as T
 import configtools

@@ -6,7 +6,7 @@ Column {
     id: root
 
     required property string title
-    property string note  // shown in place of the content
+    property string note  // shown in place of the content; "" shows the content
     default property alias content: body.data
 
     spacing: Theme.controlGap

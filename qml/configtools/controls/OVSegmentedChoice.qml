@@ -1,5 +1,5 @@
-// A choice of a few options in a row. Options are objects with "text", "objectName" and optionally "enabled" and
-// "toolTip". It is one stop of the Tab key: Left and Right choose.
+// A choice of a few options in a row. It is one stop of the Tab key: Left and Right choose. A choice of the user is
+// only requested by activated(): the owner sets `currentIndex`.
 import QtQuick
 import configtools
 import "keygroups.js" as KeyGroups
@@ -7,20 +7,22 @@ import "keygroups.js" as KeyGroups
 Rectangle {
     id: root
 
-    required property var options
+    required property var options  // array of objects with "text", "objectName" and optionally "enabled" and "toolTip"
     required property int currentIndex
-    property real room: Infinity  // if it is short, the segments become narrower and then elide their texts
-    signal activated(int index)
+    property real room: Infinity  // maximum width: the segments get narrower, then elide their texts
+    signal activated(int index)  // also for the current option
 
     readonly property real textsWidth: options.reduce((sum, option) => sum + Math.ceil(metrics.advanceWidth(option.text)), 0)
     readonly property real gaps: room - textsWidth - 2 * Theme.line  // room left and right of the texts
     readonly property int padding: Math.max(2, Math.min(Theme.controlGap, Math.floor(gaps / options.length / 2)))
     readonly property real shownPart: Math.min(1, 1 + (gaps - 2 * padding * options.length) / textsWidth)  // of the texts
 
+    /// The option that the Tab key reaches: the current one, or the first enabled one if that is disabled.
     readonly property int stop: options[currentIndex]?.enabled ?? true ? currentIndex
         : options.findIndex(option => option.enabled ?? true)
 
-    /// Chooses the next enabled option. At the end, the arrow keys continue in the key group of this choice.
+    /// Requests the next enabled option in the direction `by` (1 or -1). After the last one, moves the keyboard focus
+    /// on in the key group that contains this choice.
     function step(event, by) {
         let next = currentIndex + by;
         while (options[next] && !(options[next].enabled ?? true))

@@ -1,11 +1,12 @@
-// A soft shadow of popups, drawn in layers: this version of Qt Quick has no blur.
+// A soft shadow around its parent, the background of a popup. It is drawn in layers: this version of Qt Quick has no
+// blur.
 import QtQuick
 import configtools
 
 Item {
     id: root
 
-    property int depth: 16  // distance that the shadow reaches
+    property int depth: 16  // distance in pixels that the shadow reaches; also the number of layers
     property int around: Theme.paneRadius  // corner radius of the popup
 
     anchors.fill: parent

@@ -1,5 +1,6 @@
-// A slider for integers, with its number. The value is set from outside. committed() is emitted once, on release or
-// Theme.sliderRest after the last step, if the number differs from `value`.
+// A slider for integers, with its number. The user's number is reported by committed(): when the mouse releases the
+// slider, or Theme.sliderRest after the last key. The owner then sets `value`; to refuse the number it replaces
+// `source`. Until then the slider keeps showing the number.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -8,14 +9,14 @@ Item {
     id: root
 
     property int from: 0
-    property int to: 100
-    property int value: 0
+    property int to: 100  // counts as from + 1 if it is not above `from`
+    property int value: 0  // not changed by the slider
     property string accessibleName
-    property bool unknown: false  // the value is unknown
-    property var source: null     // on a change the slider shows `value` again
-    /// The user does not move the slider: it shows `value`.
+    property bool unknown: false  // no handle, and a dash instead of the number
+    property var source: null  // any object with the values: when it is replaced, the slider shows `value` again
+    /// False while the user moves the slider: it then ignores a change of `value`.
     readonly property bool rested: !slider.pressed && !rest.running
-    signal committed(int value)
+    signal committed(int value)  // only a number other than `value`
 
     function follow() {
         if (rested)

@@ -1,4 +1,4 @@
-// A turning icon for running work.
+// An icon that turns while `running` and visible. The owner hides it when no work runs.
 import QtQuick
 import configtools
 

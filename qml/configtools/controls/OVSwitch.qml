@@ -1,13 +1,13 @@
-// A switch. The state is set from outside; a click requests the other state.
+// A switch, with its text on the right. The state is set from outside: a click or key only requests the other state.
 import QtQuick
 import configtools
 
 OVAbstractButton {
     id: root
 
-    property bool on: false
+    property bool on: false  // not changed by the switch
     property string accessibleName
-    signal toggleRequested(bool on)
+    signal toggleRequested(bool on)  // the requested state
 
     implicitWidth: track.width + (text === "" ? 0 : Theme.unit + word.implicitWidth)
     implicitHeight: Theme.controlHeight

@@ -1,15 +1,16 @@
-// A tab bar. `tabs` are the titles. The owner changes `currentIndex` when a tab is activated.
+// A tab bar. A click, Left and Right only request a tab by activated(): the owner sets `currentIndex`.
 import QtQuick
 import configtools
 
 Rectangle {
     id: root
 
-    required property var tabs
+    required property var tabs  // array of titles
     required property int currentIndex
     property string namePrefix: "tab"  // prefix of the object names of the tabs
+    /// Distance from the left edge of the bar to the right edge of the last tab.
     readonly property real tabsWidth: row.x + row.width
-    signal activated(int index)
+    signal activated(int index)  // also for the current tab
 
     implicitHeight: Theme.tabBarHeight
     color: Theme.colours.surface
@@ -92,6 +93,7 @@ Rectangle {
         // qmllint enable unqualified
     }
 
+    /// Requests the next tab (1) or the previous one (-1), cyclically, and gives it the keyboard focus.
     function step(by) {
         const next = (currentIndex + by + tabs.length) % tabs.length;
         activated(next);

@@ -1,4 +1,5 @@
-// A text field with an error or warning below it.
+// A text field of one line with an error or warning below it, which makes it higher. The owner sets both texts; they
+// are hidden while the field is disabled.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -12,19 +13,20 @@ FocusScope {
     property alias maximumLength: field.maximumLength
     property alias readOnly: field.readOnly
     property alias textFont: field.font
-    readonly property alias acceptableText: field.acceptableInput
-    property string errorText
-    property string warningText  // the text is accepted nevertheless
+    readonly property alias acceptableText: field.acceptableInput  // by the validator
+    property string errorText  // "" for none; also makes the border red
+    property string warningText  // shown without an error only; the text is accepted nevertheless
     property string accessibleName
-    property string iconName
-    property bool clearable: false
-    property bool secret: false
-    /// Removed from the text, for example after pasting: line breaks would be invisible in a single line.
+    property string iconName  // on the left; "" for none
+    property bool clearable: false  // Escape and a button remove the text
+    property bool secret: false  // shows dots; a button reveals the text until the field is hidden
+    /// Regular expression (global) of characters that are removed from the text, also a pasted or assigned one: line
+    /// breaks would be invisible in a single line.
     property var removedCharacters: /[\r\n\t]/g
     /// function(event) that receives each key before the field and accepts those that it handles
     property var keyFilter: null
-    signal edited  // by the user
-    signal accepted
+    signal edited  // by the user, also by removing the text; not when `text` is assigned
+    signal accepted  // by Return or Enter, if the validator accepts the text
     signal tabPressed(var event)  // Tab or Shift+Tab; the receiver accepts the event to override Qt's order
 
     function selectAll() {
@@ -168,6 +170,7 @@ FocusScope {
         }
     }
 
+    /// Removes the text for the user: takes the keyboard focus and emits edited().
     function wipe() {
         field.clear();
         field.forceActiveFocus();

@@ -1,4 +1,5 @@
-// The title bar of the main window: logo, name, device counter and buttons.
+// The title bar of the main window: logo, name, device counter and buttons. It moves the window when dragged; the
+// buttons and a double click only emit signals.
 import QtQuick
 import configtools
 
@@ -6,20 +7,20 @@ Rectangle {
     id: root
 
     required property string title
-    required property string version  // name and version of the application
+    required property string version  // name and version of the application, for the tool tip of the name
     required property bool maximised
-    required property var cursor  // its cursorPos() returns the pointer's screen position
-    property int count: 0
-    property bool searching: false
-    property string remark  // text next to the name
-    property string remarkTip
+    required property var cursor  // a CLocalConfig; its cursorPos() returns the pointer's screen position
+    property int count: 0  // number of devices found
+    property bool searching: false  // the icon of the search turns
+    property string remark  // text next to the name, "" for none
+    property string remarkTip  // tool tip of the remark
     readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
-    readonly property alias menuButton: menuButton
+    readonly property alias menuButton: menuButton  // the menu opens below it
     signal searchRequested
     signal settingsRequested
     signal menuRequested
     signal minimiseRequested
-    signal maximiseRequested
+    signal maximiseRequested  // or restore, if `maximised`
     signal closeRequested
 
     component BarButton: OVIconButton {

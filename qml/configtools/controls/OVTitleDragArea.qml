@@ -1,17 +1,18 @@
-// Moves its frameless window when dragged, by the window system if supported.
+// Moves its frameless window when dragged. If the window system cannot move it, the area does, but not a maximised
+// window.
 import QtQuick
 import configtools
 
 MouseArea {
     id: root
 
-    required property var cursor  // its cursorPos() returns the pointer's screen position
-    property point start
-    property bool moving: false
-    property bool bySystem: false
+    required property var cursor  // a CLocalConfig; its cursorPos() returns the pointer's screen position
+    property point start  // of the press, in the area
+    property bool moving: false  // dragged by at least Theme.unit since the press
+    property bool bySystem: false  // the window system moves the window
     property point grip  // offset from the pointer to the window's corner
     readonly property var target: Window.window
-    signal maximiseRequested
+    signal maximiseRequested  // by a double click
 
     function follow() {
         const pointer = cursor.cursorPos();

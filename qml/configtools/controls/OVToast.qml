@@ -1,7 +1,6 @@
-// Short messages that need no response. The newest one is shown, with the number of waiting ones. The time of a message
-// runs only while it is shown. Of more than `maximumCount` messages the oldest ones are dropped. Errors and refusals
-// stay longer; a click removes a message. They are shown where no tabs, tool bars, rows and buttons
-// are, in front of dialogs. A dialog shows its own messages itself.
+// Short messages that need no response. Only the newest one is shown, with the number of the others, which wait behind
+// it. A click removes it, or the end of its time, which starts again when it becomes the newest one and when the
+// pointer leaves it. Then the message before it is shown. A dialog shows its own messages itself (OVDialog.inform).
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -12,14 +11,17 @@ T.Popup {
     /// A refusal names the obstacle to an action. It is removed with the obstacle, see removeRefusals().
     enum Severity { Information, Success, Error, Refusal }
 
-    readonly property int maximumCount: 3
+    readonly property int maximumCount: 3  // a further message removes the oldest one
 
-    /// Area of the messages, in window coordinates: they are centred in it and not wider. A higher message extends below it.
+    /// Area of the messages, in window coordinates. They are centred in it, in front of dialogs, and not wider than the
+    /// area, unless that is narrower than Theme.toastLeast. A higher message extends below it. The window chooses an
+    /// area without tabs, rows and buttons.
     property rect area: Qt.rect(((parent?.width ?? 0) - Theme.toastWidth) / 2, Theme.half, Theme.toastWidth, 0)
     readonly property real mostWidth: Math.min(Theme.toastMost, Math.max(area.width, Theme.toastLeast))
     readonly property Item newest: toasts.newest(toasts.revision)
 
-    /// `duration` in ms; the default depends on the severity.
+    /// Shows a message. `severity` is a Severity, Information by default; `duration` is in ms, the default depends on
+    /// the severity. A message with the same text is replaced.
     function show(text, severity, duration) {
         for (let i = messages.count - 1; i >= 0; --i) {
             if (messages.get(i).message === text)

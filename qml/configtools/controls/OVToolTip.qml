@@ -1,6 +1,7 @@
-// The tool tip of its parent item. It is created only while shown, as a table has hundreds of them. It closes on a
-// click, a key or a timeout. Long text is elided to stay within the window. It is below the parent, plus the "tipDrop"
-// of an ancestor such as a tool bar above a table.
+// The tool tip of its parent item. The popup is created only while `shown`, as a table has hundreds of tool tips. It
+// opens after Theme.toolTipDelay and closes on a click, a key or after Theme.toolTipTime. Long text is elided to stay
+// within the window. The popup is below the parent. An ancestor can have a property "tipDrop": a further distance in
+// pixels, so that the tips of a tool bar do not cover the head of the table below it.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -8,12 +9,13 @@ import configtools
 Loader {
     id: root
 
-    required property string text
-    required property bool shown
+    required property string text  // no tool tip without a text
+    required property bool shown  // the pointer is over the parent
     property string footnote  // below the text, also if that is elided
-    property int widest: Theme.toolTipWidth
+    property int widest: Theme.toolTipWidth  // maximum width of the text
     readonly property int mostLines: 24
 
+    /// The "tipDrop" of the item or its nearest ancestor that has one; 0 without one.
     function dropIn(item) {
         return item ? item.tipDrop || dropIn(item.parent) : 0;
     }
