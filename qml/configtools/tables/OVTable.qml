@@ -1,15 +1,19 @@
-// A table. Columns are objects with "key" (a role of the model), "title", "width" and optionally (widths in pixels):
-// - "minimumWidth": minimum when the user resizes the column
-// - "stretch": share of spare room, up to "mostWidth"
-// - "leastWidth": minimum if room is short; columns with "stretch" shrink first
-// - "sortable"
-// - "cell": Component of an OVTableCell
-// - "hidden": not shown by default
-// - "fixed": always shown, after all others
-// The user chooses and moves columns only in an `arrangeable` table.
-// The model has the roles "checked", "conflict" (highlights the row) and "identity", get(row) for the values of a row,
-// and rowOf(identity), which restores the current row after a reset. Values are read by get(), as role names such as
-// "model" are reserved in delegates. The model owns check states and order; the table only requests changes.
+// A table. Columns are objects with "key" (a key of the values of a row), "title", "width" and optionally (widths in
+// pixels):
+// - "minimumWidth": minimum when the user resizes the column, 40 by default
+// - "stretch": number, the share of spare room that the column gets, up to "mostWidth"
+// - "leastWidth": minimum if room is short; columns with "stretch" shrink first. Without it only those with "stretch"
+//   shrink, to Theme.columnLeast.
+// - "sortable": bool, a click on the title requests a sorting
+// - "cell": Component of an OVTableCell, by default an OVTableTextCell
+// - "hidden": bool, not shown by default
+// - "fixed": bool, always shown, after all others
+// A column whose width the user has set keeps it. The user chooses and moves columns only in an `arrangeable` table.
+// The model has the roles "checked", "conflict" (bool, highlights the row) and "identity" (a unique string), get(row),
+// which returns the values of a row by key, and rowOf(identity), which returns -1 for an unknown row and restores the
+// current row after a reset. Values are read by get(), as role names such as "model" are reserved in delegates. If the
+// model has rowStarting(text, from), typed text selects a row. The model owns check states and order: the table only
+// requests changes of both.
 import QtQuick
 import configtools
 
@@ -19,22 +23,22 @@ FocusScope {
     required property var model
     required property var columns
     property bool arrangeable: false
-    property alias columnsText: arrangement.text  // the user's arrangement, see TableColumns
-    property bool checkable: true
-    property int checkState: Qt.Unchecked  // of all rows, in the head
-    property string sortKey
+    property alias columnsText: arrangement.text  // arrangement of the user, see TableColumns; stored by the owner
+    property bool checkable: true  // the rows have check boxes
+    property int checkState: Qt.Unchecked  // a Qt::CheckState for all rows, set by the owner
+    property string sortKey  // key of the sorted column, set by the owner; "" for none
     property int sortOrder: Qt.AscendingOrder
-    property alias currentIndex: body.currentIndex
+    property alias currentIndex: body.currentIndex  // row, -1 for none; use show() to set it
     readonly property alias count: body.count
-    default property alias emptyState: emptySlot.data
-    signal sortRequested(string key)
-    signal allToggled(bool checked)
-    signal rangeToggled(int first, int last, bool checked)
-    signal copyRequested(int row)
+    default property alias emptyState: emptySlot.data  // shown while the table has no rows
+    signal sortRequested(string key)  // by a click on the title, also of the sorted column
+    signal allToggled(bool checked)  // the requested check state of all rows
+    signal rangeToggled(int first, int last, bool checked)  // the rows from first to last, both included
+    signal copyRequested(int row)  // Ctrl+C in the current row
     signal rowActivated(int row)  // by a double click or Enter
     signal menuRequested(int row, var position)  // see OVEntryMenu.openAt()
 
-    /// Makes a row current and scrolls to it.
+    /// Makes a row current and scrolls to it; ignores a negative row. A row after the last one means the last one.
     function show(row) {
         if (row >= 0)
             body.move(row, false);
@@ -56,6 +60,8 @@ FocusScope {
         .map(key => columns.find(column => column.key === key)).filter(column => column !== undefined)
     readonly property var columnWidths: layOut(shownColumns, arrangement.widths, body.width - checkWidth)
 
+    /// The width of each column for a table of the width `room`. `chosen` has the widths that the user has set, by key:
+    /// these are kept. Spare room goes to the columns with "stretch".
     function layOut(columns, chosen, room) {
         const widths = columns.map(column => chosen[column.key] ?? column.width);
         const spare = room - widths.reduce((sum, width) => sum + width, 0);
@@ -70,12 +76,14 @@ FocusScope {
             : Math.max(width, Math.min(columns[i].mostWidth ?? Infinity, width + Math.floor(spare * shares[i] / all))));
     }
 
-    /// Shrinks columns with "stretch", then those with "leastWidth". If that is not enough, the table scrolls.
+    /// The widths without `missing` pixels, taken from the columns with "stretch" (those with a share above 0), then
+    /// from all columns down to their `leastWidths`. If that is not enough, the table scrolls.
     function shrink(columns, widths, shares, leastWidths, missing) {
         const first = giveWay(widths, widths.map((width, i) => shares[i] > 0 ? columns[i].leastWidth ?? Theme.columnLeast : width), missing);
         return giveWay(first, leastWidths, missing - widths.reduce((sum, width, i) => sum + width - first[i], 0));
     }
 
+    /// The widths without `missing` pixels, each in proportion to its distance to its least width, but not below that.
     function giveWay(widths, leastWidths, missing) {
         const gives = widths.map((width, i) => Math.max(0, width - leastWidths[i]));
         const all = gives.reduce((sum, give) => sum + give, 0);
@@ -83,15 +91,19 @@ FocusScope {
         return widths.map((width, i) => width - Math.ceil(gives[i] * part));
     }
 
+    /// Sets the width of a shown column for the user, at least its "minimumWidth".
     function setWidth(column, width) {
         const least = shownColumns[column].minimumWidth ?? 40;
         arrangement.setWidth(shownColumns[column].key, Math.round(Math.max(least, width)));
     }
 
+    /// Sets the width of a shown column so that its title and the rows in view are not elided, up to Theme.columnMost.
     function fit(column) {
         setWidth(column, Math.min(Theme.columnMost, Math.max(head.fittingWidth(column), body.fittingWidth(column))));
     }
 
+    /// Opens the menu that shows and hides columns. `column` is the index of the shown column under the pointer, -1 for
+    /// none; `position` see OVEntryMenu.openAt().
     function openColumnMenu(column, position) {
         const entries = columns.filter(column => !(column.fixed ?? false)).map(column => ({
             key: column.key, text: column.title, checked: arrangement.isShown(column.key),

@@ -1,4 +1,5 @@
-// The rows of an OVTable, with mouse and keyboard input.
+// The rows of an OVTable, with mouse and keyboard input. Rows are created and read in small numbers between two frames,
+// so that a large table does not block the window. For columns, model and signals see OVTable.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -6,27 +7,28 @@ import configtools
 ListView {
     id: root
 
-    required property var columns
-    required property var columnWidths
+    required property var columns  // the shown ones
+    required property var columnWidths  // in pixels, parallel to `columns`
     required property bool checkable
-    required property int checkWidth
+    required property int checkWidth  // room before the first column, for the check boxes
     readonly property real rowWidth: columnWidths.reduce((sum, width) => sum + width, checkWidth)
-    property bool byPointer: false  // focused by a click: no ring
-    property int tickAnchor: -1
-    property string currentIdentity
-    property real keptY: 0
-    required property real room  // height for the rows; a new table is filled over several frames
-    property int filled: rowsAFrame  // number of rows that may be created
+    property bool byPointer: false  // the keyboard focus came by the pointer: no focus ring
+    property int tickAnchor: -1  // row where an extended selection begins, -1 for none
+    property string currentIdentity  // of the current row, also while the model does not have it; "" for none
+    property real keptY: 0  // contentY before a reset of the model
+    required property real room  // height for the rows in pixels; a new table is filled over several frames
+    property int filled: rowsAFrame  // number of rows for which the view has height; grows with each frame
     property var changedRows: []  // indices of rows to read again
     property int readsLeft: rowsAFrame  // reads left before the next frame
     readonly property int rowsAFrame: 5  // created or read between two frames
-    signal allToggled(bool checked)
+    signal allToggled(bool checked)  // Ctrl+A: always true
     signal rangeToggled(int first, int last, bool checked)
     signal copyRequested(int row)
     signal rowActivated(int row)
     signal menuRequested(int row, var position)
 
-    /// Makes `to` the current row. With `extend`, also ticks the rows from the last one that became current without it.
+    /// Makes the row `to` current, within the valid rows, and scrolls to it. With `extend`, also requests to tick all
+    /// rows between `to` and the last row that became current without `extend`.
     function move(to, extend) {
         if (count === 0)
             return;
@@ -44,7 +46,8 @@ ListView {
         currentIdentity = (itemAtIndex(row) as OVTableRow)?.identity ?? "";
     }
 
-    /// Makes the row with this identity current, if it exists.
+    /// Takes the keyboard focus and makes the row with this identity current, if it exists. `modifiers` are those of
+    /// the click: Shift extends, see move().
     function selectRow(identity, modifiers) {
         takePointerFocus();
         const row = model.rowOf(identity);
@@ -52,6 +55,7 @@ ListView {
             move(row, modifiers & Qt.ShiftModifier);
     }
 
+    /// Requests the other check state of a row and makes it current; with Shift, see move() with `extend`.
     function toggle(row, modifiers) {
         const extend = modifiers & Qt.ShiftModifier;
         if (!extend)
@@ -59,6 +63,7 @@ ListView {
         move(row, extend);
     }
 
+    /// Requests the menu of the current row, below it; without a current row, of the first one.
     function openMenuByKey() {
         if (currentIndex < 0)
             move(0, false);
@@ -67,12 +72,13 @@ ListView {
         menuRequested(currentIndex, {item: root, x: checkWidth, y: y, byKey: true});
     }
 
+    /// Takes the keyboard focus without a focus ring.
     function takePointerFocus() {
         forceActiveFocus(Qt.MouseFocusReason);
         byPointer = true;
     }
 
-    /// The width of a column that shows all visible rows without eliding.
+    /// The width in pixels of a column that shows all created rows (in view or near it) without eliding.
     function fittingWidth(column) {
         let width = 0;
         for (let row = 0; row < count; ++row) {
@@ -83,23 +89,26 @@ ListView {
         return width;
     }
 
+    /// Scrolls by a distance in pixels, within the content; positive: towards the start.
     function scrollBy(x, y) {
         contentX = Math.max(0, Math.min(contentWidth - width, contentX - x));
         contentY = Math.max(0, Math.min(contentHeight - height, contentY - y));
     }
 
-    /// Scrolls horizontally to a part of the rows.
+    /// Scrolls horizontally until the range from `left` (in the content), `extent` pixels wide, is in view.
     function showAcross(left, extent) {
         contentX = Math.max(Math.min(contentX, left), Math.min(left, left + extent - width));
     }
 
+    /// Restores the current row and the scroll position after a reset of the model.
     function restore() {
         forceLayout();
         currentIndex = currentIdentity !== "" ? model.rowOf(currentIdentity) : -1;
         contentY = Math.max(0, Math.min(contentHeight - height, keptY));
     }
 
-    /// Only rows near the view are read now; the others are read when they come into view.
+    /// The values of the rows from first to last have changed. Rows near the view are read now, or between the next
+    /// frames if they are many; the others are read when they come into view.
     function noteChanged(first, last) {
         const from = Math.max(first, Math.floor((contentY - cacheBuffer) / Theme.rowHeight) - 1);
         const to = Math.min(last, Math.ceil((contentY + room + cacheBuffer) / Theme.rowHeight) + 1);

@@ -1,16 +1,16 @@
-// Base of the cells of an OVTable.
+// Base of the cells of an OVTable. The row sets all properties except `value`.
 import QtQuick
 import configtools
 
 Item {
-    property string key
+    property string key            // of the column
     property var row: null         // values of the row, by key
-    property int rowIndex: -1
-    property bool current: false
-    property bool conflict: false
+    property int rowIndex: -1  // in the table
+    property bool current: false  // the row is the current one
+    property bool conflict: false  // role "conflict" of the row
     readonly property var value: row && key !== "" ? row[key] : undefined
 
-    /// The width of the column that shows the cell without eliding.
+    /// The width in pixels of the column that shows the cell without eliding.
     function fittingWidth() {
         let right = 0;
         for (let i = 0; i < children.length; ++i) {

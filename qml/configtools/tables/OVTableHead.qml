@@ -1,35 +1,36 @@
 // The head of an OVTable: titles with sort icons, edges for resizing, and the check box of all rows. If `arrangeable`,
-// titles can be dragged and there is a menu. Keyboard: Ctrl+Left/Right moves the column, Alt+Left/Right changes its
-// width, Menu or Shift+F10 opens the menu.
+// titles can be dragged and the right mouse button opens a menu; keyboard: Ctrl+Left/Right moves the column,
+// Alt+Left/Right changes its width, Menu or Shift+F10 opens the menu. The head only requests changes by its signals.
 import QtQuick
 import configtools
 
 Rectangle {
     id: root
 
-    required property var columns
-    required property var columnWidths
+    required property var columns  // the shown ones, see OVTable
+    required property var columnWidths  // in pixels, parallel to `columns`
     property bool arrangeable: false
     required property bool checkable
     required property int checkWidth  // without check boxes: room before the first column
-    required property int checkState
-    required property int rowCount
-    required property string sortKey
-    required property int sortOrder
-    required property real scrolled  // horizontal scroll position of the rows
+    required property int checkState  // of the check box, a Qt::CheckState
+    required property int rowCount  // without rows the check box is disabled
+    required property string sortKey  // "" for none
+    required property int sortOrder  // a Qt::SortOrder
+    required property real scrolled  // contentX of the rows, in pixels
     readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
-    signal sortRequested(string key)
-    signal allToggled
-    signal widthChosen(int column, real width)
-    signal fitRequested(int column)
+    signal sortRequested(string key)  // by a click on a title
+    signal allToggled  // a click on the check box; its state does not change
+    signal widthChosen(int column, real width)  // in pixels, not limited yet
+    signal fitRequested(int column)  // by a double click on the right edge of the title
     signal columnReached(int column)  // got the keyboard focus
-    signal columnMoved(string key, int index)
+    signal columnMoved(string key, int index)  // to this index in `columns`, counted without the moved one
     signal menuRequested(int column, var position)  // see OVEntryMenu.openAt(); column is -1 next to the columns
 
     property int draggedColumn: -1  // index of the dragged column, -1 for none
     property int dropIndex: -1  // index before which it would be dropped, -1 for none
 
-    /// Left edge of the column in the head.
+    /// Left edge of the column in the head, in pixels; for the index after the last one, the right edge of the last
+    /// one.
     function leftOf(column) {
         return columnWidths.slice(0, column).reduce((sum, width) => sum + width, checkWidth) - scrolled;
     }
@@ -39,12 +40,13 @@ Rectangle {
         return columns.findIndex((column, i) => x >= leftOf(i) && x < leftOf(i + 1));
     }
 
-    /// Index of a column dropped at this x. It is before the fixed columns.
+    /// Index of the column before which a column is dropped at this x; not after the first fixed column.
     function dropIndexAt(x) {
         const behind = columns.filter((column, i) => !(column.fixed ?? false) && x > (leftOf(i) + leftOf(i + 1)) / 2);
         return behind.length;
     }
 
+    /// Ends the drag: requests the new position of the dragged column, if there is one.
     function drop() {
         const column = draggedColumn;
         const index = dropIndex;
@@ -53,10 +55,12 @@ Rectangle {
             columnMoved(columns[column].key, index > column ? index - 1 : index);
     }
 
+    /// Gives the title the keyboard focus; after the last column, the last title.
     function focusColumn(column) {
         heads.itemAt(Math.min(column, heads.count - 1))?.forceActiveFocus(Qt.TabFocusReason);
     }
 
+    /// The width in pixels of the column that shows its title without eliding; 0 for an invalid index.
     function fittingWidth(column) {
         return heads.itemAt(column)?.fittingWidth ?? 0;
     }
@@ -70,6 +74,7 @@ Rectangle {
         return -1;
     }
 
+    /// Requests to move the column by 1 or -1. Its title keeps the keyboard focus.
     function moveByKey(column, by) {
         const key = columns[column].key;
         columnMoved(key, column + by);

@@ -1,4 +1,5 @@
-// A row of an OVTable.
+// A row of an OVTable. The view reuses it for other rows: signals have the identity of the row, not its index. The row
+// only reports input.
 import QtQuick
 import configtools
 
@@ -9,17 +10,17 @@ Rectangle {
     required property bool checked
     required property bool conflict
     required property string identity
-    required property var values  // from get() of the model
-    required property var columns
-    required property var columnWidths
+    required property var values  // by key, from get() of the model
+    required property var columns  // the shown ones, see OVTable
+    required property var columnWidths  // in pixels, parallel to `columns`
     required property bool checkable
     required property int checkWidth
     required property bool current
-    property string pressedIdentity
-    property int readings: 0  // incremented to read the values again
-    property int pooledIndex: -1
-    signal clicked(string identity, int modifiers)
-    signal tickToggled(string identity, int modifiers)
+    property string pressedIdentity  // identity at the press of a mouse button, "" without a press
+    property int readings: 0  // incremented by read()
+    property int pooledIndex: -1  // index when the view put the item aside
+    signal clicked(string identity, int modifiers)  // outside of the check box
+    signal tickToggled(string identity, int modifiers)  // a click in the check column; the check state does not change
     signal doubleClicked(string identity)
     signal menuRequested(string identity, real x, real y)  // in coordinates of the view's content
 
@@ -31,10 +32,12 @@ Rectangle {
         return identity;
     }
 
+    /// The width in pixels of the column that shows this row without eliding.
     function fittingWidth(column) {
         return (cells.itemAt(column) as Loader)?.item?.fittingWidth() ?? 0;
     }
 
+    /// Makes the owner read `values` again.
     function read() {
         ++readings;
     }

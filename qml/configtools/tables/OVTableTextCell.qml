@@ -1,4 +1,4 @@
-// A cell with a line of text.
+// A cell with a line of text: by default `value`, "" for an undefined one.
 import QtQuick
 import configtools
 

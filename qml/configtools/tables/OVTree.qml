@@ -1,5 +1,6 @@
-// Devices in groups, each with a check box and its last result. If `choosing`, a click or Enter chooses a device;
-// otherwise Enter requests its details.
+// Devices in groups, each with a check box and its last result. A click on a check box and the space key tick the row
+// in the model (`rows`). If `choosing`, a click or Enter requests a device by deviceChosen(); otherwise a click only
+// makes it current and Enter requests its details. A double click opens or closes a group.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -8,18 +9,18 @@ ListView {
     id: root
 
     required property DeviceTreeRows rows
-    required property var describer  // object with resultText(result, name)
-    property string busyDevice          // address and port of the device that is processed now
+    required property var describer  // object with resultText(result, ipport), which returns the text of the tool tip
+    property string busyDevice          // address and port of the device that is processed now, "" for none
     property bool choosing: false       // a device can be chosen
-    property string chosenDevice        // address and port
-    property bool byPointer: false      // focused by a click: no ring
-    property real keptY: 0
-    // The row of the keyboard. `currentIndex` of the view stays -1: changing it scrolls the view, which would move the
-    // row away from the pointer.
+    property string chosenDevice        // address and port, "" for none; set by the owner
+    property bool byPointer: false      // the keyboard focus came by the pointer: no focus ring
+    property real keptY: 0  // contentY before a reset of the model
+    // The row of the keyboard, -1 for none. `currentIndex` of the view stays -1: changing it scrolls the view, which
+    // would move the row away from the pointer.
     property int cursor: -1
-    property string cursorIdentity
-    signal deviceChosen(string ipport)
-    signal detailRequested(string name)  // name of the device's row
+    property string cursorIdentity  // of that row, also while the model does not have it; "" for none
+    signal deviceChosen(string ipport)  // also for the chosen device
+    signal detailRequested(string name)  // name of the device's row, see rowName()
     signal menuRequested(string name, var position)  // see OVEntryMenu.openAt()
 
     function moveCursor(row) {
@@ -27,7 +28,7 @@ ListView {
         cursorIdentity = rows.identityAt(row);
     }
 
-    /// Makes the row with this identity current. Returns the row, -1 if it does not exist.
+    /// Takes the keyboard focus and makes the row with this identity current. Returns the row, -1 if it does not exist.
     function selectRow(identity) {
         const row = rows.rowOf(identity);
         if (row >= 0)
@@ -37,6 +38,7 @@ ListView {
         return row;
     }
 
+    /// Makes the row current and scrolls to it.
     function moveIntoView(row) {
         moveCursor(row);
         positionViewAtIndex(row, ListView.Contain);
@@ -49,6 +51,7 @@ ListView {
             menuRequested(name, position);
     }
 
+    /// Enter in the current row: chooses the device or requests its details. Ignored for a group.
     function open() {
         if (choosing && rows.deviceAt(cursor) !== "")
             deviceChosen(rows.deviceAt(cursor));
@@ -56,6 +59,7 @@ ListView {
             detailRequested(rows.nameAt(cursor));
     }
 
+    /// Scrolls by a distance in pixels, within the content; positive: towards the start.
     function scrollBy(by) {
         contentY = Math.max(0, Math.min(contentHeight - height, contentY - by));
     }

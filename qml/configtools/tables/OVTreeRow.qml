@@ -1,4 +1,5 @@
-// A row of an OVTree: a group, or a device of a group.
+// A row of an OVTree: a group, or a device of a group. Its required properties are the roles of DeviceTreeRows. The
+// view reuses it for other rows: signals have the identity of the row, not its index. The row only reports input.
 import QtQuick
 import configtools
 
@@ -9,23 +10,23 @@ Rectangle {
     required property string identity
     required property string title  // type of a group, address and port of a device
     required property string label  // shown text of the title
-    required property string detail
+    required property string detail  // text after the label of a device
     required property int tick  // a Qt::CheckState
-    required property int result  // of the last batch, OVTreeModel.NoResult for none
+    required property int result  // of the last batch: a BatchReport.Result or OVTreeModel.Result
     required property bool isGroup
     required property bool isOpen
     required property int deviceCount
     required property string failure  // see OVFailedSign
-    required property bool onlyNotDone
+    required property bool onlyNotDone  // see OVFailedSign
     property var describer  // see OVTree
-    property bool current: false
-    property bool busy: false
-    property bool choosing: false
+    property bool current: false  // row of the keyboard
+    property bool busy: false  // a spinner replaces the result
+    property bool choosing: false  // see OVTree
     property bool chosen: false
-    property string pressedIdentity
+    property string pressedIdentity  // identity at the press of a mouse button, "" without a press
     signal clicked(string identity)
-    signal openToggled(string identity)
-    signal tickToggled(string identity)
+    signal openToggled(string identity)  // by the arrow or a double click; without effect for a device
+    signal tickToggled(string identity)  // the check state does not change
     signal menuRequested(string identity, real x, real y)  // in coordinates of the view's content
 
     /// The identity at the time of the press: this item may show another row since. A screen reader clicks without a
@@ -36,7 +37,7 @@ Rectangle {
         return identity;
     }
 
-    readonly property bool hasResult: !isGroup && result !== OVTreeModel.NoResult
+    readonly property bool hasResult: !isGroup && result !== OVTreeModel.NoResult  // NoResult: no batch yet
     readonly property bool waits: result === OVTreeModel.WaitsForPassword
     readonly property bool incomplete: result === OVTreeModel.PartlyDone || result === BatchReport.NotDone
     readonly property bool skipped: result === BatchReport.NotInitialised || result === BatchReport.Upgrading
