@@ -1,21 +1,23 @@
-// Delay before a retry. It grows with each consecutive failure, up to 30 s.
+// Delay before a retry. It grows with each consecutive failure, up to 30 s. The owner retries on elapsed(); `running`
+// means that the delay runs.
 import QtQuick
 
 Timer {
     id: root
 
     property int failures: 0  // consecutive failures
-    property int secondsLeft: 0   // until elapsed()
+    property int secondsLeft: 0   // until elapsed(), while `running`
     readonly property var delays: [1, 2, 4, 8, 15, 30]  // in seconds, by the number of failures
-    signal elapsed
+    signal elapsed  // once for each fail(), unless the timer is stopped before; `failures` is kept
 
+    /// Counts a failure and starts the delay.
     function fail() {
         failures += 1;
         secondsLeft = delays[Math.min(failures, delays.length) - 1];
         restart();
     }
 
-    /// Resets the delay after a success.
+    /// Stops the delay and sets `failures` to 0: after a success, or when the work ends.
     function reset() {
         stop();
         failures = 0;

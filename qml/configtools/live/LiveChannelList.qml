@@ -1,5 +1,5 @@
-// The channels of the watched devices, with marks for channels without a camera. With several devices, the device's
-// name is above its first channel.
+// The channels of the watched devices, with marks for channels without a camera. With several devices, the name of each
+// device is above its first channel. The list only requests changes by its signals.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -7,13 +7,13 @@ import configtools
 Rectangle {
     id: root
 
-    // Below, a channel is identified by its index in `channels`.
+    // In the properties and signals below, a channel is an index in `channels`.
     required property var channels       // see WatchedDevices.channels
-    required property var shownChannels  // the channels in the grid
-    required property int currentChannel
-    signal channelClicked(int channel)
-    signal enlargeRequested(int channel)
-    signal removalRequested(string ipport)
+    required property var shownChannels  // the channel of each cell of the grid, -1 for an empty cell
+    required property int currentChannel  // of the current cell, -1 for none
+    signal channelClicked(int channel)  // also by Return and the space key
+    signal enlargeRequested(int channel)  // by a double click, after channelClicked()
+    signal removalRequested(string ipport)  // of an added device; not for the first device
 
     color: Theme.colours.surface
 

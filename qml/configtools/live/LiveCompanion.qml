@@ -1,4 +1,5 @@
-// An added device of the live window, with a separate session. The session ends with this object.
+// An added device of the live window, with a separate session. It logs in when it is created and after failures as
+// stated at `unreachable`. The login runs in the background. The session ends with this object.
 import QtQuick
 import configtools
 
@@ -6,43 +7,46 @@ Item {
     id: root
 
     required property var deviceFactory
-    required property string ipport
+    required property string ipport  // "address:port"
     required property string name
-    property bool loggedIn: false
-    property bool checking: false  // login or check runs
+    property bool loggedIn: false  // there is a session; it is kept while the device does not respond
+    property bool checking: false  // a login or check runs
     property bool isGiven: false  // the running login uses an account just entered
-    property int result: 0       // a LoginResult
-    property var channels: [{channel: 0, name: "", connected: true}]  // see LiveDevice; one channel until they are known
-    readonly property alias handle: session.handle  // handle of the session
-    readonly property bool busy: checking && !loggedIn
+    property int result: 0       // a LoginResult: of the last login or check
+    property var channels: [{channel: 0, name: "", connected: true}]  // see LiveDevice; one until they are known
+    readonly property alias handle: session.handle  // handle of the session in the device library, 0 without one
+    readonly property bool busy: checking && !loggedIn  // a login runs
 
-    /// Why the device cannot be watched; empty if it can.
+    /// Why the device cannot be watched now, also that the login runs; "" if it can.
     readonly property string failure: loggedIn ? "" : busy ? qsTr("正在登录…")
         : backoff.running ? qsTr("%1，%n 秒后重试", "", backoff.secondsLeft).arg(deviceFactory.getErrorName(result))
         : deviceFactory.getErrorName(result)
+    /// Text of the button for tryAgain(), "" for no button.
     readonly property string action: loggedIn || busy ? "" : accountRefused ? qsTr("重新登录") : qsTr("重试")
 
-    /// Whether another account or password may help.
+    /// Whether another account or password may help: NoSuchAccount, WrongPassword, AccountLoggedIn or SessionEnded.
     readonly property bool accountRefused: result === 1 || result === 2 || result === 4 || result === 16
-    /// The device may become reachable later. Other failures are not retried: repeated wrong passwords lock the
-    /// account.
+    /// NetworkFailure: the login is retried with growing delays. After other failures it is not, as repeated wrong
+    /// passwords lock the account.
     readonly property bool unreachable: result === 5
 
-    property double lastResponse: 0  // time of the last response, in ms
-    readonly property int responseValidity: 1000  // ms after a response without a check
-    signal renewed                   // a new session was opened
-    signal checked(bool isReachable)    // result of check()
-    signal snapshotTaken(int channel, string image, string message)  // of takeSnapshot(): URL or error
+    property double lastResponse: 0  // time of the last response, in ms since 1970
+    readonly property int responseValidity: 1000  // ms after a response in which check() sends no request
+    signal renewed                   // a new session was opened, also the first one: streams must start again in it
+    signal checked(bool isReachable)    // end of check(), of a login or of a check
+    signal snapshotTaken(int channel, string image, string message)  // URL of the file, or "" and the reason
 
     function account() {
         return LoginMemory.accountFor(ipport, deviceFactory);
     }
 
+    /// Logs in with the account that is chosen for the device, see LoginMemory; keeps a session in which it responds.
     function ask() {
         const known = account();
         login(known.user, known.password, false);
     }
 
+    /// Same with this account. `given`: the user has just entered it, so that a refusal opens the login dialog again.
     function login(user, password, given) {
         backoff.stop();
         checking = true;
@@ -50,6 +54,7 @@ Item {
         session.open(ipport, user, password);
     }
 
+    /// For the user: opens the login dialog if the account was refused, otherwise logs in again.
     function tryAgain() {
         const row = deviceFactory.getDeviceInfo("dh", ipport);
         if (accountRefused)
@@ -58,17 +63,19 @@ Item {
             ask();
     }
 
+    /// Called when a stream has received its first frame.
     function noteResponse() {
         lastResponse = Date.now();
     }
 
-    /// Called after a stream failed: the session may have ended, so the next check() logs in again.
+    /// Called after a stream failed: the session may have ended, so the next check() sends a request.
     function expireResponse() {
         lastResponse = 0;
     }
 
-    /// Checks whether the device is reachable. Emits checked(): immediately without a login and if it responded within
-    /// `responseValidity`.
+    /// Checks whether the device is reachable, with one request for all of its streams. checked() follows: immediately
+    /// without a session (false), or if the device responded within `responseValidity` (true); otherwise after the
+    /// request, which opens a new session if the present one has ended.
     function check() {
         if (checking)
             return;
@@ -80,11 +87,13 @@ Item {
             ask();
     }
 
-    /// Saves a snapshot to this subfolder of the snapshots folder.
+    /// Saves a snapshot of a channel (from 0) to the folder `folder` in the folder of snapshots. snapshotTaken()
+    /// follows, unless the session ends before.
     function takeSnapshot(channel, folder) {
         session.takeImage(channel, folder);
     }
 
+    /// Takes a successful result. Without new channels, the known ones remain.
     function take(channels) {
         backoff.reset();
         noteResponse();
@@ -93,6 +102,7 @@ Item {
         loggedIn = true;
     }
 
+    /// Takes the failure `result`: ends the session, except if the device did not respond.
     function fail() {
         if (!unreachable) {
             loggedIn = false;

@@ -1,5 +1,6 @@
-// The device that the live window was opened for. It shares its login with the configuration pages. Logins and checks
-// run in the background.
+// The device that the live window was opened for. It uses the current session of the back end, which it shares with the
+// configuration pages: another page can log in to another device and take the session over, see lost(). Logins and
+// checks run in the background.
 import QtQuick
 import configtools
 
@@ -7,33 +8,34 @@ Item {
     id: root
 
     required property var deviceFactory
-    property string ipport
+    property string ipport             // "address:port"; "" while no device is open
     property string name
-    property bool loggedIn: false
-    property bool checking: false        // login or check in progress
-    readonly property bool busy: checking && !loggedIn
+    property bool loggedIn: false  // there is a session; it is kept while the device does not respond
+    property bool checking: false        // a login or check runs
+    readonly property bool busy: checking && !loggedIn  // a login runs
     property bool isGiven: false       // the running login uses an account just entered by the user
-    property int result: 0             // a LoginResult
+    property int result: 0             // a LoginResult: of the last login or check
     readonly property string failure: result !== 0 ? LoginMemory.failureText(result, ipport, deviceFactory) : ""
-    readonly property alias waitingForRetry: backoff.running  // waits for the next login attempt
+    readonly property alias waitingForRetry: backoff.running  // the next login follows in `retrySeconds`
     readonly property alias retrySeconds: backoff.secondsLeft
     property var channels: []          // maps with "channel" (from 0), "name" and "connected" (bool)
-    signal opened                      // logged in; the channels are known
-    signal lost                        // another device took over the session
-    signal renewed                     // a new session with the same device was opened
-    signal checked(bool isReachable)      // result of check()
+    signal opened                      // logged in by open() or after failures; the channels are known
+    signal lost                        // a page has logged in to another device, which ended this session
+    signal renewed                     // a new session with the same device: streams must start again
+    signal checked(bool isReachable)      // end of check(), of a login or of a check
 
-    /// Whether another account or password may help.
+    /// Whether another account or password may help: NoSuchAccount, WrongPassword, AccountLoggedIn or SessionEnded.
     readonly property bool accountRefused: result === 1 || result === 2 || result === 4
         || result === 16
 
-    /// The device may become reachable later. Other failures are not retried: repeated wrong passwords lock the
-    /// account.
+    /// NetworkFailure: the login is retried with growing delays. After other failures it is not, as repeated wrong
+    /// passwords lock the account.
     readonly property bool unreachable: result === 5
 
-    property double lastResponse: 0  // time of the last response, in ms
-    readonly property int responseValidity: 1000  // ms after a response without a check
+    property double lastResponse: 0  // time of the last response, in ms since 1970; 0: none
+    readonly property int responseValidity: 1000  // ms after a response in which check() sends no request
 
+    /// Address and port of the device of the current session.
     function sessionDevice() {
         return deviceFactory.getConfigData("dh", "sessionDevice");
     }
@@ -42,6 +44,8 @@ Item {
         return LoginMemory.accountFor(ipport, deviceFactory);
     }
 
+    /// Closes the earlier device and logs in to this one, in the background. opened() follows a success; after a
+    /// failure see `result`.
     function open(ipport) {
         close();
         root.ipport = ipport;
@@ -49,13 +53,14 @@ Item {
         ask();
     }
 
+    /// Logs in with the account that is chosen for the device, see LoginMemory; keeps a session in which it responds.
     function ask() {
         const known = account();
         login(known.user, known.password, false);
     }
 
-    /// The back end rejects an account that the device has refused in this session, unless `given`: just entered by the
-    /// user.
+    /// Same with this account. `given`: the user has just entered it. Otherwise, if the device refuses the account in
+    /// the current session, the back end reports that and does not log in with it again.
     function login(user, password, given) {
         backoff.stop();
         checking = true;
@@ -63,6 +68,7 @@ Item {
         deviceFactory.openSession("dh", ipport, user, password, !loggedIn, given);
     }
 
+    /// For the user: opens the login dialog if the account was refused, otherwise logs in again.
     function tryAgain() {
         const row = deviceFactory.getDeviceInfo("dh", ipport);
         if (accountRefused)
@@ -71,18 +77,19 @@ Item {
             ask();
     }
 
-    /// Called when a frame was received.
+    /// Called when a stream has received its first frame.
     function noteResponse() {
         lastResponse = Date.now();
     }
 
-    /// Called after a stream failed: the session may have ended, so the next check() logs in again.
+    /// Called after a stream failed: the session may have ended, so the next check() sends a request.
     function expireResponse() {
         lastResponse = 0;
     }
 
-    /// Checks whether the device is reachable, once for all streams. Emits checked(), immediately if it responded
-    /// within `responseValidity`. If a restart of the device has ended the session, it logs in again.
+    /// Checks whether the device is reachable, with one request for all of its streams. checked() follows: immediately
+    /// without a session (false), or if the device responded within `responseValidity` (true); otherwise after the
+    /// request, which opens a new session if a restart of the device has ended the present one.
     function check() {
         if (checking)
             return;
@@ -94,6 +101,7 @@ Item {
             ask();
     }
 
+    /// Ends the use of the device and a running login, without a signal. The session of the back end remains.
     function close() {
         relogin.item?.close();
         backoff.reset();
@@ -107,6 +115,7 @@ Item {
         expireResponse();
     }
 
+    /// Takes a successful result. Without new channels, the known ones remain.
     function take(channels) {
         backoff.reset();
         noteResponse();
@@ -120,6 +129,7 @@ Item {
         }
     }
 
+    /// Takes the failure `result`: ends the use of the session, except if the device did not respond.
     function fail() {
         if (!unreachable)
             loggedIn = false;

@@ -1,5 +1,5 @@
-// Statistics of a live stream: size, codec, frames per second, bit rate, buffered data, and frames skipped because the
-// host is too slow.
+// Statistics of a live stream: size, codec, frames per second, bit rate, data that is not decoded yet, frames skipped
+// because the host is too slow, and the codec of the sound if there is one. Read once a second while visible.
 import QtQuick
 import VideoItem 1.0
 import configtools
@@ -8,7 +8,7 @@ Rectangle {
     id: root
 
     required property VideoItem video
-    property var figures: ({})
+    property var figures: ({})  // see VideoItem.figures()
 
     readonly property var lines: [
         [figures.width ?? 0, figures.height ?? 0].join(" × ") + "   " + (figures.codec ?? ""),

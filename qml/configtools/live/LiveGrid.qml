@@ -1,34 +1,36 @@
-// A grid of 1, 4 or 9 live views, one of which can be enlarged. A view in the grid shows the sub stream, a single or
-// enlarged one the main stream. Channels are identified by their index in `channels`, which may belong to several
-// devices.
+// A grid of 1, 4 or 9 live views, one of which can be enlarged. A view among others shows the sub stream, a single or
+// enlarged one the main stream; the views behind an enlarged one have no stream. The channels can belong to several
+// devices: the first device (LiveDevice) and added ones (LiveCompanion). Unless stated otherwise, a channel is an index
+// in `channels`.
 import QtQuick
 import configtools
 
 Item {
     id: root
 
-    required property bool active
+    required property bool active  // streams may run; those of an added device also need its session
     /// The channels, and the channel index of each cell, -1 for an empty cell. Both change in one assignment, so that a
     /// stream continues when its channel moves in the list.
     property var arrangement: ({channels: [], shown: []})
     readonly property var channels: arrangement.channels
     readonly property var shownChannels: arrangement.shown
-    property int cellCount: 1
-    property int currentCell: 0
-    property int enlargedCell: -1
-    property bool stretched: false
-    property bool sounding: false
-    property bool figuresShown: false
-    readonly property int currentChannel: shownChannels[currentCell] ?? -1
-    readonly property var currentEntry: channels[currentChannel] ?? null
+    property int cellCount: 1  // 1, 4 or 9
+    property int currentCell: 0  // from 0
+    property int enlargedCell: -1  // -1 for none
+    property bool stretched: false  // videos fill their views, without their aspect ratio
+    property bool sounding: false  // the current cell plays its sound
+    property bool figuresShown: false  // the views show LiveFigures
+    readonly property int currentChannel: shownChannels[currentCell] ?? -1  // -1: the cell is empty
+    readonly property var currentEntry: channels[currentChannel] ?? null  // element of `channels`
     readonly property int pages: Math.max(1, Math.ceil(channels.length / cellCount))
-    property int page: 0
-    signal checkRequested   // before a stream of the first device starts; answered by takeCheckResult()
+    property int page: 0  // from 0; the last one of showPage()
+    signal checkRequested   // before a stream of the first device starts; the owner answers by takeCheckResult()
     signal failed  // a stream of the first device failed
-    signal frameReceived
+    signal frameReceived  // the first frame of a stream of the first device
 
-    /// Sets the channels: maps with "ipport", "channel", "name", "connected", "caption" (text in the view) and
-    /// "companion" (null for the first device). The cells keep their channels.
+    /// Replaces `channels`. Its elements are maps with "ipport", "channel" (of the device, from 0), "name",
+    /// "connected", "caption" (text in the view) and "companion" (a LiveCompanion, null for the first device). The
+    /// cells keep their channels; the cell of a removed one becomes empty.
     function adopt(channels) {
         const nameOf = entry => entry.ipport + "/" + entry.channel;
         const indexOf = {};
@@ -41,10 +43,13 @@ Item {
         page = Math.min(page, pages - 1);
     }
 
+    /// Sets the channel of each cell, -1 for an empty one.
     function show(shown) {
         arrangement = {channels: channels, shown: shown};
     }
 
+    /// Fills the cells with the channels from `wanted` * cellCount on. The page is limited to the valid ones. The first
+    /// cell becomes current, and no view is enlarged.
     function showPage(wanted) {
         page = Math.max(0, Math.min(pages - 1, wanted));
         const first = page * cellCount;
@@ -53,7 +58,7 @@ Item {
         enlargedCell = -1;
     }
 
-    /// Changes the number of cells. The current channel stays visible.
+    /// Changes the number of cells and shows the page with the current channel, whose cell becomes current.
     function arrange(count) {
         const channel = Math.max(0, currentChannel);
         cellCount = count;
@@ -61,7 +66,7 @@ Item {
         currentCell = Math.max(0, shownChannels.indexOf(channel));
     }
 
-    /// Shows further channels, as far as there is room for them.
+    /// Shows these channels after the present ones, with more cells if necessary; those beyond the ninth are not shown.
     function include(wanted) {
         const shown = shownChannels.filter(channel => channel >= 0);
         const together = shown.concat(wanted.filter(channel => !shown.includes(channel)));
@@ -71,7 +76,8 @@ Item {
         show(Array.from({length: cellCount}, (_, cell) => together[cell] ?? -1));
     }
 
-    /// Shows a channel in the current cell, or makes the cell current that shows it.
+    /// Makes the cell current that shows the channel; without one, shows the channel in the current cell. An enlarged
+    /// view stays enlarged.
     function showChannel(channel) {
         const cell = shownChannels.indexOf(channel);
         if (cell >= 0) {
@@ -89,13 +95,14 @@ Item {
         show(changed);
     }
 
+    /// As showChannel(); also enlarges the cell if there are several.
     function enlarge(channel) {
         showChannel(channel);
         if (cellCount > 1)
             enlargedCell = currentCell;
     }
 
-    /// Calls `action` with each player of a device.
+    /// Calls `action` with each player that shows a channel of the device: a LiveCompanion, null for the first device.
     function eachPlayerOf(companion, action) {
         for (let cell = 0; cell < players.count; ++cell) {
             const player = players.itemAt(cell);
@@ -104,10 +111,12 @@ Item {
         }
     }
 
+    /// Starts the streams of the device again, in its new session.
     function reconnect(companion) {
         eachPlayerOf(companion, player => player.reconnect());
     }
 
+    /// Passes the result of a check to the streams of the device that wait for it.
     function takeCheckResult(companion, isReachable) {
         eachPlayerOf(companion, player => player.takeCheckResult(isReachable));
     }
@@ -116,7 +125,7 @@ Item {
     readonly property real cellWidth: Math.floor((width - (columns - 1) * Theme.half) / columns)
     readonly property real cellHeight: Math.floor((height - (columns - 1) * Theme.half) / columns)
 
-    /// Shows the first channels of a new device: one, or up to four.
+    /// Shows the first channels of a new device: one cell for a single channel, otherwise four.
     function begin() {
         cellCount = channels.length <= 1 ? 1 : 4;
         showPage(0);

@@ -1,21 +1,22 @@
-// The title bar of the live window: the watched device, and buttons for the previous and the next device.
+// The title bar of the live window, also of the gallery: a name, an address and, with a `position`, buttons for the
+// previous and the next device. The buttons and a double click only emit signals.
 import QtQuick
 import configtools
 
 Rectangle {
     id: root
 
-    required property string name
-    required property string address
+    required property string name  // of the device or the window; a default text for ""
+    required property string address  // text after the name
     required property bool maximised
-    required property var cursor  // its cursorPos() returns the pointer's screen position
-    property string position                 // position in the list, such as "2 / 5"; "" for none
-    property bool hasEarlier: false
-    property bool hasLater: false
+    required property var cursor  // a CLocalConfig; its cursorPos() returns the pointer's screen position
+    property string position                 // position in the list, such as "2 / 5"; "" hides these buttons
+    property bool hasEarlier: false  // the button for the previous device is enabled
+    property bool hasLater: false  // the button for the next device is enabled
     signal earlierRequested
     signal laterRequested
     signal closeRequested
-    signal maximiseRequested
+    signal maximiseRequested  // or restore, if `maximised`
 
     implicitHeight: Theme.tabBarHeight
     color: Theme.colours.bar

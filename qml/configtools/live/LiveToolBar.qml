@@ -1,4 +1,6 @@
-// The tool bar of the live window: layout on the left, actions for the current channel on the right.
+// The tool bar of the live window. Left: layout, pages of channels, and a button that adds the ticked devices. Right:
+// sound, aspect ratio, figures, snapshots and full screen. It changes the properties of `grid` itself; the other
+// buttons emit signals.
 import QtQuick
 import configtools
 
@@ -7,19 +9,19 @@ Rectangle {
 
     required property LiveGrid grid
     required property bool fullScreen
-    required property bool canSnap
+    required property bool canSnap  // there is a session with the first device, and it has channels
     required property bool canSnapCurrent  // a snapshot of the current channel is possible
-    required property bool snapping
-    required property string otherBatch  // title of another running batch, "" for none
-    required property int ticked         // number of ticked devices in the list
+    required property bool snapping  // snapshots are in progress
+    required property string otherBatch  // title of another running batch: no snapshots of all channels; "" for none
+    required property int ticked         // number of ticked devices in the device list
     property bool full: false            // no further devices can be added
-    property bool several: false         // there are several devices
+    property bool several: false         // there are added devices
     readonly property bool compact: width < Theme.liveToolBarWidth  // no room for texts
     readonly property bool canAdd: canSnap && ticked > 0 && !full
-    signal fullScreenRequested
-    signal snapRequested
-    signal snapAllRequested
-    signal additionRequested
+    signal fullScreenRequested  // or its end
+    signal snapRequested  // of the current channel
+    signal snapAllRequested  // of all channels of all devices
+    signal additionRequested  // of the ticked devices
 
     component BarButton: OVIconButton {
         property bool on: false

@@ -1,5 +1,6 @@
-// The live window: channels on the left, live views on the right. Further devices can be added, each with a separate
-// session, which ends when the device is removed, another one is opened or the window is closed.
+// The live window: channels on the left, live views on the right. It is opened for one device, the first one
+// (LiveDevice). Further devices (LiveCompanion) can be added. Each has a separate session, which ends when the device
+// is removed, the window is opened for another first device, or the window is closed.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -13,20 +14,24 @@ T.ApplicationWindow {
     required property var localConfig
     readonly property bool fullScreen: visibility === Window.FullScreen
     readonly property bool maximised: visibility === Window.Maximized
-    property int visibilityBefore: Window.Windowed
-    property int firstChannel: 0   // channel to show after the login
-    property string earlier        // addresses of the previous and next device, "" for none
+    property int visibilityBefore: Window.Windowed  // before the full screen
+    property int firstChannel: 0   // channel of the first device to show after the login; 0 or less: the first ones
+    property string earlier        // "address:port" of the previous and the next device, "" for none
     property string later
-    signal notify(string message, int severity)
+    signal notify(string message, int severity)  // a message of the main window; severity: of OVToast
 
-    /// `table` is the list of the device, a DeviceTableModel. `chosen` are devices to go through instead of its rows.
-    /// These and the channel are optional.
+    /// Opens the window for the device at `ipport` ("address:port"). `channel` is the first channel to show (from 0;
+    /// -1: none is preferred). `table` is the list of the device, a DeviceTableModel: its ticked devices can be added.
+    /// `chosen` are the devices to step through instead of its rows: maps with "ipport" and "name". All except `ipport`
+    /// are optional.
     function open(ipport, channel, table, chosen) {
         order.table = table ?? null;
         order.chosen = chosen ?? [];
         openDevice(ipport, channel ?? -1);
     }
 
+    /// Logs in to the device and removes the added ones. If it is open already, or its login runs, only shows the
+    /// channel.
     function openDevice(ipport, channel) {
         if (visible && device.ipport === ipport && (device.loggedIn || device.busy)) {
             if (channel >= 0 && channel < device.channels.length)
@@ -48,12 +53,13 @@ T.ApplicationWindow {
         findNeighbours();
     }
 
+    /// Updates `earlier` and `later`.
     function findNeighbours() {
         earlier = visible ? order.neighbour(device.ipport, -1) : "";
         later = visible ? order.neighbour(device.ipport, 1) : "";
     }
 
-    /// Opens the previous device (-1) or the next one (1).
+    /// Opens the previous device (-1) or the next one (1); nothing if there is none.
     function go(direction) {
         findNeighbours();  // the list may have changed
         const next = direction < 0 ? earlier : later;
@@ -61,7 +67,8 @@ T.ApplicationWindow {
             openDevice(next, -1);
     }
 
-    /// Adds the ticked devices of the list to the grid.
+    /// Adds the ticked devices of the list, and shows their channels as far as the grid has room. A toast reports
+    /// devices that were left out, and that all are added already.
     function addTicked() {
         const added = watched.add(order.tickedDevices());
         if (watched.leftOut > 0)
@@ -72,24 +79,26 @@ T.ApplicationWindow {
         grid.include(added);
     }
 
-    /// The snapshots end first: they use the session of the device.
+    /// Removes an added device and ends its session. Its snapshots end first, as they use the session.
     function remove(ipport) {
         taking.leave(ipport);
         watched.remove(ipport);
     }
 
+    /// Same for all added devices.
     function removeAll() {
         taking.leaveAll();
         watched.clear();
     }
 
-    /// Reads the names of the devices again.
+    /// Reads the names of the devices from the device list again.
     function readNames() {
         device.name = deviceFactory.getDeviceInfo("dh", device.ipport).name ?? device.name;
         noteDevice();
         watched.readNames();
     }
 
+    /// Passes the first device and its channels to the list of all channels.
     function noteDevice() {
         watched.setFirst(device.ipport, device.name, device.channels);
     }
@@ -103,7 +112,7 @@ T.ApplicationWindow {
         }
     }
 
-    /// Leaves the enlarged view, else the full screen.
+    /// Leaves the enlarged view; without one, the full screen.
     function goBack() {
         if (grid.enlargedCell >= 0)
             grid.enlargedCell = -1;
@@ -111,12 +120,13 @@ T.ApplicationWindow {
             toggleFullScreen();
     }
 
+    /// Takes a snapshot of a channel, an element of LiveGrid.channels, and shows the results.
     function snap(entry) {
         taking.take(entry);
         results.instance().open();
     }
 
-    /// Repeats the snapshot of a channel. Refused if its device was removed.
+    /// Repeats the snapshot of a channel (from 0) of a device. If the device was removed, the dialog shows a refusal.
     function snapAgain(ipport, channel) {
         const entry = grid.channels.find(shown => shown.ipport === ipport && shown.channel === channel);
         if (entry)
@@ -125,13 +135,15 @@ T.ApplicationWindow {
             results.instance().refuse(qsTr("设备已移出画面"));
     }
 
-    /// Takes snapshots of all channels of all devices.
+    /// Takes snapshots of all channels of all devices and shows the results; nothing if takeAll() returns
+    /// false.
     function snapAll() {
         if (taking.takeAll(grid.channels))
             results.instance().open();
     }
 
-    /// Opens the folder of the snapshots, of several devices the one that contains their folders.
+    /// Opens the folder of the snapshots in the system's file manager. For snapshots of several devices it is the one
+    /// that contains their folders. There must be a snapshot.
     function openFolder() {
         const folderOf = path => path.slice(0, path.lastIndexOf("/"));
         const folders = taking.results.filter(entry => entry.image !== "").map(entry => folderOf(entry.image));

@@ -1,4 +1,6 @@
-// The live view of a channel, with its state. A failed or broken stream is retried with growing delays.
+// The live view of a channel, with its state as text. The stream starts when `wanted` becomes true and ends when it
+// becomes false or the item is destroyed. A failed or broken stream is retried with growing delays, see
+// ExponentialBackoff. Before each start the owner checks the device, see checkRequested().
 import QtQuick
 import VideoItem 1.0
 import configtools
@@ -7,42 +9,44 @@ FocusScope {
     id: root
 
     required property int channel         // from 0; negative: empty cell
-    required property string channelName
+    required property string channelName  // text in the corner of the view
     required property bool connected      // a camera is connected
     required property bool active         // the stream may run
-    property bool mainStream: false
-    property bool current: false
-    property bool stretched: false
-    property bool sounding: false
-    property bool figuresShown: false
-    property bool compact: false          // small view: only texts
+    property bool mainStream: false  // otherwise the sub stream, or the main one if the device refuses that
+    property bool current: false  // has a coloured border
+    property bool stretched: false  // the video fills the view, without its aspect ratio
+    property bool sounding: false  // plays the sound
+    property bool figuresShown: false  // shows LiveFigures while playing
+    property bool compact: false          // small view: no mouse input, no retry button
     property double session: 0            // handle of a separate session, 0 for the session of the configuration pages
     property string sessionText           // why there is no session, "" if there is one
-    property string sessionAction         // text of the button for that, "" for none
+    property string sessionAction         // text of the button that emits sessionActivated(), "" for none
     property bool sessionBusy: false      // the session is being opened
     readonly property bool wanted: active && connected && channel >= 0
     readonly property bool playing: video.hasFrame
     readonly property bool waitingForRetry: backoff.failures > 0 && !connecting && !playing  // waits for the next attempt
     readonly property bool turning: connecting || sessionBusy
     readonly property alias video: video
-    signal checkRequested  // before a start; the owner calls takeCheckResult()
-    signal chosen
-    signal enlargeRequested
-    signal failed
-    signal sessionActivated
+    signal checkRequested  // before a start: the owner checks the device, then calls takeCheckResult()
+    signal chosen  // by a press of the mouse
+    signal enlargeRequested  // by a double click
+    signal failed  // the device does not respond, or the stream failed; a retry follows
+    signal sessionActivated  // the button of `sessionAction` was clicked
 
-    property bool connecting: false
+    property bool connecting: false  // from begin() to the first frame or a failure
     property bool checking: false  // waits for takeCheckResult()
     property bool subRefused: false  // the device refused the sub stream: the main stream is used
 
-    readonly property int zoomLevels: 20
+    readonly property int zoomLevels: 20  // as ViewGeometry::maximumLevel
     readonly property real zoomStep: 1.2  // factor between two levels
     // Scale of the shown frame; the bars are the unused rest of the view.
     readonly property real frameScale: !playing || stretched ? 0
         : Math.min(width / video.frameSize.width, height / video.frameSize.height) * Math.pow(zoomStep, video.zoomLevel)
+    // Width of the bars on the left and right of the frame, and height of those above and below it, in pixels.
     readonly property int sideBar: frameScale > 0 ? Math.max(0, (width - video.frameSize.width * frameScale) / 2) : 0
     readonly property int topBar: frameScale > 0 ? Math.max(0, (height - video.frameSize.height * frameScale) / 2) : 0
 
+    /// Starts the stream if it is `wanted`: requests the check first.
     function begin() {
         backoff.stop();
         if (!wanted)
@@ -52,7 +56,7 @@ FocusScope {
         starting.restart();
     }
 
-    /// Result of checkRequested().
+    /// Result of checkRequested(). Ignored if this view does not wait for one.
     function takeCheckResult(isReachable) {
         if (!checking)
             return;
@@ -63,7 +67,8 @@ FocusScope {
             fail();
     }
 
-    /// Result of the request for the stream.
+    /// Result of the request for the stream, see VideoItem::startEnded(). A refused sub stream is replaced by the main
+    /// stream.
     function takeStart(isStreaming, mayTryOther) {
         if (isStreaming)
             return;
@@ -76,6 +81,7 @@ FocusScope {
         fail();
     }
 
+    /// Stops the stream and its retries.
     function end() {
         starting.stop();
         backoff.reset();
@@ -85,6 +91,7 @@ FocusScope {
         video.stop();
     }
 
+    /// Stops the stream and waits for the next attempt.
     function fail() {
         video.stop();
         connecting = false;
@@ -97,7 +104,7 @@ FocusScope {
         begin();
     }
 
-    /// Retries immediately. The failure count is kept.
+    /// Stops the stream and starts it again immediately. The number of failures, and with it the next delay, is kept.
     function reconnect() {
         video.stop();
         begin();

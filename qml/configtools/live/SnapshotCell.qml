@@ -1,4 +1,4 @@
-// The snapshot of a channel, or its state or error.
+// The snapshot of a channel, or its state or error, with a button to take it again.
 import QtQuick
 import configtools
 
@@ -6,10 +6,10 @@ Item {
     id: root
 
     required property var entry   // element of Snapshots.results
-    required property bool waits  // other snapshots are in progress
-    property bool withDevice: false  // the name includes the device
-    readonly property int stage: entry?.state ?? Snapshots.Waiting
-    signal againRequested
+    required property bool waits  // snapshots are in progress: the button is disabled
+    property bool withDevice: false  // the text below the image includes the device
+    readonly property int stage: entry?.state ?? Snapshots.Waiting  // a Snapshots.State
+    signal againRequested  // the snapshot is to be taken again
 
     Rectangle {
         id: frame

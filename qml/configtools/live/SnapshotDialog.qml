@@ -1,4 +1,5 @@
-// The snapshots of one device or several, with progress and errors.
+// The snapshots of one device or several, with progress and errors. Closing it does not stop snapshots in progress. The
+// primary button, enabled after the end if there is a snapshot, requests the folder; the dialog then stays open.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -7,11 +8,11 @@ OVDialog {
     id: root
 
     required property Snapshots snapshots
-    signal againRequested(string ipport, int channel)
+    signal againRequested(string ipport, int channel)  // channel from 0
     signal folderRequested
 
     readonly property int columns: Math.max(1, Math.min(4, snapshots.results.length))
-    readonly property int columnsOfWidth: Math.max(2, columns)  // minimum width of the foot
+    readonly property int columnsOfWidth: Math.max(2, columns)  // at least 2: the foot needs this width
     readonly property int failures: snapshots.results.filter(entry => entry.state === Snapshots.Failed).length
 
     width: Math.min(Theme.snapshotWidth * columnsOfWidth + Theme.controlGap * (columnsOfWidth - 1)

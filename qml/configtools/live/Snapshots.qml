@@ -1,5 +1,6 @@
-// Takes snapshots of channels and keeps the results. All channels of the first device run as a batch. Those of added
-// devices follow one after another, each in the session of its device. A single channel is not a batch.
+// Takes snapshots of channels of the live window and keeps the results. They are written to files, in a folder for each
+// device in the folder of snapshots. takeAll() takes all channels of the first device as a batch, then those of the
+// added devices one after another, each in the session of its device. take() takes a single channel without a batch.
 import QtQuick
 import configtools
 
@@ -8,16 +9,16 @@ Item {
 
     required property Batches batches
     required property var deviceFactory
-    property Batch batch: null        // batch of the first device while it runs, else null
-    property bool all: false          // snapshots of all channels are in progress
-    property bool stopping: false     // the user has cancelled the waiting channels
+    property Batch batch: null        // batch of the first device while it runs, otherwise null
+    property bool all: false          // takeAll() is in progress
+    property bool stopping: false     // the waiting channels are cancelled; they fail when the running one ends
     property var companion: null      // LiveCompanion whose channel is being taken; null for none
-    /// Maps with "ipport", "companion" (null for the first device), "channel" (from 0), "name", "caption" (name with the
-    /// device), "state" (a State), "image" (URL, "" for none), "message" (error) and "revision" (number of results;
-    /// undefined before the first).
+    /// Maps with "ipport", "companion" (null for the first device), "channel" (from 0), "name", "caption" (name with
+    /// the device), "state" (a State), "image" (URL of the file, "" for none), "message" (error) and "revision" (number
+    /// of results; undefined before the first).
     property var results: []
-    readonly property bool busy: results.some(isPending)
-    readonly property int done: results.filter(entry => !isPending(entry)).length
+    readonly property bool busy: results.some(isPending)  // a result is waiting or being taken
+    readonly property int done: results.filter(entry => !isPending(entry)).length  // taken or failed ones
     readonly property bool several: results.some(entry => entry.ipport !== results[0].ipport)  // of several devices
 
     enum State { Waiting, Taking, Taken, Failed }
@@ -31,7 +32,7 @@ Item {
         return entry.state === Snapshots.Waiting || entry.state === Snapshots.Taking;
     }
 
-    /// A result before the snapshot, for an element of LiveGrid.channels.
+    /// The result, waiting for its snapshot, for an element of LiveGrid.channels.
     function resultOf(entry) {
         // The caption of a channel without a name is only that of its device.
         const caption = entry.caption.endsWith(entry.name) ? entry.caption : entry.caption + " · " + entry.name;
@@ -39,8 +40,9 @@ Item {
                 caption: caption, image: "", message: "", state: Snapshots.Waiting};
     }
 
-    /// `channels` are elements of LiveGrid.channels, those of the first device first. Returns false if the batch is
-    /// refused.
+    /// Replaces the results and takes a snapshot of each channel. `channels` are elements of LiveGrid.channels, those
+    /// of the first device first; there must be at least one of these. Returns false, and keeps the results, if the
+    /// batch is refused (reported by Batches) or the back end has no session.
     function takeAll(channels) {
         const own = channels.filter(entry => !entry.companion);
         batch = batches.takeSnapshots("dh", qsTr("抓图"), own[0].ipport, own.map(entry => entry.name),
@@ -54,13 +56,14 @@ Item {
         return true;
     }
 
-    /// Cancels the channels that are still waiting.
+    /// Cancels the channels that are still waiting: they fail when the running one has ended.
     function stop() {
         stopping = true;
         if (batch)
             batch.stop();
     }
 
+    /// Takes the end of the batch. If it was stopped early, the added devices are cancelled, too.
     function endBatch() {
         const ownIsLeft = results.some(entry => !entry.companion && isPending(entry));
         batch = null;
@@ -69,7 +72,7 @@ Item {
         takeNext();
     }
 
-    /// Continues with the next channel of the added devices.
+    /// Continues with the next waiting channel of the added devices; after stop(), all waiting ones fail.
     function takeNext() {
         if (stopping)
             fail(entry => entry.state === Snapshots.Waiting, qsTr("未执行"));
@@ -80,8 +83,8 @@ Item {
             all = false;
     }
 
-    /// Takes a snapshot of a channel, an element of LiveGrid.channels, and replaces its earlier one. Results of other
-    /// devices are kept only together with one of this device.
+    /// Takes a snapshot of a channel, an element of LiveGrid.channels, and replaces its earlier result. If there is no
+    /// result of this device yet, the results of other devices are removed.
     function take(entry) {
         if (!results.some(other => other.ipport === entry.ipport))
             results = [];
@@ -90,6 +93,7 @@ Item {
         begin(entry);
     }
 
+    /// Starts the snapshot of a result. Without a session of its added device it fails.
     function begin(entry) {
         const device = entry.companion;
         change(entry, {state: Snapshots.Taking, message: ""});
@@ -103,7 +107,7 @@ Item {
         }
     }
 
-    /// Called when an added device is removed: its pending snapshots fail. Finished ones are kept.
+    /// Called before an added device is removed: its pending snapshots fail. Finished ones are kept.
     function leave(ipport) {
         drop(entry => entry.companion && entry.ipport === ipport);
     }
@@ -113,6 +117,7 @@ Item {
         drop(entry => entry.companion);
     }
 
+    /// Ends the pending snapshots for which the function `applies` returns true, and continues with the others.
     function drop(applies) {
         const ends = companion !== null && results.some(entry => applies(entry) && entry.companion === companion);
         fail(applies, qsTr("设备已移出画面"));
@@ -122,7 +127,7 @@ Item {
         takeNext();
     }
 
-    /// Ends the pending snapshots to which the condition applies.
+    /// Sets the pending results for which the function `applies` returns true to failed, with this message.
     function fail(applies, message) {
         results = results.map(entry => isPending(entry) && applies(entry)
             ? Object.assign({}, entry, {state: Snapshots.Failed, message: message}) : entry);
@@ -132,11 +137,13 @@ Item {
         return one.ipport === other.ipport && one.channel === other.channel;
     }
 
+    /// Changes these values of the result of the same channel.
     function change(changed, values) {
         results = results.map(entry => isSame(entry, changed) ? Object.assign({}, entry, values) : entry);
     }
 
-    /// `device` is null for the first device.
+    /// Takes the end of a snapshot: `image` is the URL of its file, or "" and `message` the reason. `device` is its
+    /// LiveCompanion, null for the first device. Ignored for a channel that is not pending.
     function note(device, channel, image, message) {
         const before = results.find(entry => entry.companion === device && entry.channel === channel && isPending(entry));
         if (!before)
