@@ -1,4 +1,5 @@
-// The bar of the gallery: progress or summary on the left, buttons on the right.
+// The bar of the gallery: progress or summary on the left, buttons on the right. It stops and resumes the batch of
+// `gallery` itself; the other buttons emit signals.
 import QtQuick
 import configtools
 
@@ -7,16 +8,17 @@ Rectangle {
 
     required property ImageGallery gallery
     required property string otherBatch  // title of another running batch, "" for none
-    readonly property Batch batch: gallery.batch
-    readonly property bool paused: batch?.paused ?? false
+    readonly property Batch batch: gallery.batch  // of the gallery, null while it fetches nothing
+    readonly property bool paused: batch?.paused ?? false  // after refused passwords, until the user decides
+    /// Whether images can be fetched now: there are devices, and no batch runs.
     readonly property bool canFetch: batch === null && otherBatch === "" && gallery.count > 0
-    property string outcome      // result of the last save, "" for none
-    property bool outcomeIsBad: false
+    property string outcome      // text about the last save, set and removed by the owner; "" for none
+    property bool outcomeIsBad: false  // the outcome is an error
     readonly property bool showsOutcome: outcome !== "" && batch === null
     readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
-    signal againRequested
-    signal saveRequested
-    signal folderRequested
+    signal againRequested  // fetch all images again
+    signal saveRequested  // save all images
+    signal folderRequested  // open the folder of the saved images
 
     implicitHeight: Theme.toolBarHeight
     color: Theme.colours.surface

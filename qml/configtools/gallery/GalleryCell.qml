@@ -1,4 +1,6 @@
-// A channel of the gallery: image, title, address, and state or error.
+// A channel of the gallery: image, title, address, and state or error. The required properties from `ipport` to `note`
+// are roles of ImageGallery. A click on the cell emits chosen(), then liveRequested(); a click on its button chosen(),
+// then againRequested().
 import QtQuick
 import configtools
 
@@ -7,15 +9,15 @@ Item {
 
     required property int index
     required property string ipport
-    required property string device
-    required property string name
-    required property int stage
-    required property string image
+    required property string device  // its name, otherwise its model or address
+    required property string name  // of the channel; "" while the device has one cell
+    required property int stage  // an ImageGallery.State
+    required property string image  // URL, also of an image before the last failure; "" for none
     required property string message
     required property string takenAt
     required property string note
-    property bool current: false
-    property bool canFetch: true
+    property bool current: false  // the current cell of the view
+    property bool canFetch: true  // the button that fetches the image again is enabled
     readonly property bool skipped: stage === ImageGallery.Skipped
     readonly property bool failed: stage === ImageGallery.Failed
     readonly property bool busy: stage === ImageGallery.Fetching

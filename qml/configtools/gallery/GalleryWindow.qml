@@ -1,4 +1,5 @@
-// Images of several devices: one for each channel. A click opens the live view of the device.
+// Images of several devices: one for each channel. A click requests the live view of the channel. Closing the window
+// cancels the batch and removes the images that are not saved.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -11,10 +12,11 @@ T.ApplicationWindow {
     required property var localConfig
     readonly property bool maximised: visibility === Window.Maximized
     readonly property alias gallery: gallery
-    property string folder  // folder of the saved images
-    signal liveRequested(string ipport, int channel)
+    property string folder  // path of the folder of the last save
+    signal liveRequested(string ipport, int channel)  // channel from 0
 
-    /// Shows the devices of these rows and fetches their images.
+    /// Opens the window, shows the devices of these rows and fetches their images. `rows` and a refusal see
+    /// ImageGallery::show().
     function open(rows) {
         bar.outcome = "";
         if (!visible)
@@ -27,24 +29,29 @@ T.ApplicationWindow {
         grid.forceActiveFocus();
     }
 
+    /// Requests the live view of the channel of a cell. Ignores an invalid index.
     function watch(row) {
         const values = Object.assign({}, gallery.get(row));
         if (values.ipport !== undefined)
             liveRequested(values.ipport, values.channel);
     }
 
+    /// Fetches all images again. Ignored while a batch runs, also one of a page.
     function fetchAll() {
         bar.outcome = "";
         if (bar.canFetch)
             gallery.fetchAll();
     }
 
+    /// Same for one cell, see ImageGallery::fetch().
     function fetch(row) {
         bar.outcome = "";
         if (bar.canFetch)
             gallery.fetch(row);
     }
 
+    /// Saves all images, see ImageGallery::saveAll(); the bar then shows the result. Ignored without images and while
+    /// images are fetched.
     function saveAll() {
         bar.outcome = "";
         if (gallery.images > 0 && gallery.batch === null)
