@@ -40,9 +40,8 @@ Item {
                 caption: caption, image: "", message: "", state: Snapshots.Waiting};
     }
 
-    /// Replaces the results and takes a snapshot of each channel. `channels` are elements of LiveGrid.channels, those
-    /// of the first device first; there must be at least one of these. Returns false, and keeps the results, if the
-    /// batch is refused (reported by Batches) or the back end has no session.
+    /// Takes snapshots of `channels`, elements of LiveGrid.channels: those of the first device first, at least one.
+    /// Returns false and keeps the results if the batch is refused (reported by Batches) or there is no session.
     function takeAll(channels) {
         const own = channels.filter(entry => !entry.companion);
         batch = batches.takeSnapshots("dh", qsTr("抓图"), own[0].ipport, own.map(entry => entry.name),
@@ -137,13 +136,11 @@ Item {
         return one.ipport === other.ipport && one.channel === other.channel;
     }
 
-    /// Changes these values of the result of the same channel.
     function change(changed, values) {
         results = results.map(entry => isSame(entry, changed) ? Object.assign({}, entry, values) : entry);
     }
 
-    /// Takes the end of a snapshot: `image` is the URL of its file, or "" and `message` the reason. `device` is its
-    /// LiveCompanion, null for the first device. Ignored for a channel that is not pending.
+    /// Takes a finished snapshot of a pending channel: URL of the file, or "" and the reason. `device`: "companion".
     function note(device, channel, image, message) {
         const before = results.find(entry => entry.companion === device && entry.channel === channel && isPending(entry));
         if (!before)
