@@ -1,4 +1,4 @@
-// Asks for a command for all ticked devices.
+// Asks for the command that all ticked devices get. It sends nothing.
 import QtQuick
 import configtools
 
@@ -6,11 +6,12 @@ OVDialog {
     id: root
 
     required property CgiCommands commands
-    required property CgiSender sender
-    property int deviceCount: 0
-    property string fault
-    signal confirmed(string command)
+    required property CgiSender sender  // checks the command
+    property int deviceCount: 0  // number of ticked devices, for the text
+    property string fault  // error of the command, "" for none
+    signal confirmed(string command)  // a valid command without spaces at its ends; the window has closed
 
+    /// Opens the window with the command that was entered last. `count`: number of devices.
     function ask(count) {
         deviceCount = count;
         fault = "";

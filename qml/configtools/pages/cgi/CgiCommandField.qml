@@ -1,5 +1,5 @@
-// A field for a CGI command. While focused it suggests earlier commands. The star adds the command to the favourites or
-// removes it from them.
+// A field for a CGI command. While the field has the keyboard focus, it suggests earlier commands that contain its
+// text. The star adds the command to the stored favourite commands or removes it.
 import QtQuick
 import configtools
 
@@ -9,13 +9,14 @@ FocusScope {
     required property CgiCommands commands
     property alias text: field.text
     property alias errorText: field.errorText
-    readonly property bool starred: commands.isFavourite(field.text.trim())
-    property var suggestions: []
+    readonly property bool starred: commands.isFavourite(field.text.trim())  // the command is a favourite
+    property var suggestions: []  // texts of the suggested commands
     property int marked: -1  // index of the selected suggestion, -1 for none
-    property real topInWindow: 0  // top edge in the window when suggestions were last shown
-    signal edited
-    signal accepted
+    property real topInWindow: 0  // y of the top edge in the window, in pixels, when suggestions were last shown
+    signal edited  // the text was changed by typing or by a suggestion
+    signal accepted  // Enter was pressed without a selected suggestion
 
+    /// Shows the suggestions for the text, or closes the list if there are none.
     function suggest() {
         suggestions = field.activeFocus ? commands.matching(field.text) : [];
         marked = -1;
@@ -26,17 +27,20 @@ FocusScope {
             close();
     }
 
+    /// Closes the list of suggestions.
     function close() {
         list.item?.close();
     }
 
+    /// Replaces the text by a suggestion.
     function take(command) {
         close();
         field.text = command;
         edited();
     }
 
-    /// While suggestions are shown, the arrow keys select one and Enter takes it.
+    /// Handles a key before the field does: while suggestions are shown, the arrow keys select one, Enter takes it and
+    /// Escape closes the list. Otherwise the Down key opens the list.
     function filterKey(event) {
         const step = event.key === Qt.Key_Down ? 1 : event.key === Qt.Key_Up ? -1 : 0;
         const isEnter = event.key === Qt.Key_Return || event.key === Qt.Key_Enter;

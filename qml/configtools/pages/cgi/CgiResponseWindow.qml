@@ -1,4 +1,5 @@
-// Shows the complete response of a device, which can be copied and saved to a file.
+// Shows the complete response of a device, or another long text. The text can be copied, as a whole or by line, and
+// saved to a file.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -6,10 +7,11 @@ import configtools
 OVDialog {
     id: root
 
-    required property var cgiManager
-    required property var fileDialogs
-    property string response
+    required property var cgiManager  // a CGIConfigManage
+    required property var fileDialogs  // a FileDialogs
+    property string response  // the complete text
 
+    /// Opens the window with this title and text.
     function show(heading, text) {
         title = heading;
         response = text;
@@ -18,11 +20,14 @@ OVDialog {
         open();
     }
 
+    /// Copies a text to the clipboard and shows that in the window.
     function copy(text) {
         cgiManager.copyText(text);
         inform(qsTr("复制成功"), OVToast.Success);
     }
 
+    /// Saves the text to a new file in `folder` (a path), named by the time. Shows the path or the failure in the
+    /// window.
     function save(folder) {
         const saved = cgiManager.saveText(folder, response);
         if (saved.failure !== "")

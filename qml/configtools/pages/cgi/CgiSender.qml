@@ -1,4 +1,5 @@
-// Sends commands to devices. The rows get the responses; the result is reported.
+// Sends one command to one device or to several, as a batch. The batch writes command and response to the rows; the
+// result is notified at the end. A command that was sent is remembered as recent.
 import QtQuick
 import configtools
 
@@ -6,21 +7,23 @@ Item {
     id: root
 
     required property Batches batches
-    required property var cgiBatches
-    required property var deviceFactory
+    required property var cgiBatches  // a CgiBatches
+    required property var deviceFactory  // a CDeviceFactory
     required property var deviceTable  // a DeviceTableModel
     required property CgiCommands commands
-    property Batch batch: null
+    property Batch batch: null  // the latest batch of this object or its retry; null before
     property string singleRow  // identity of the row for a single command, "" for several devices
-    signal notify(string message, int severity)
-    /// A batch ended with failed or skipped devices. A line for each, grouped by result.
+    signal notify(string message, int severity)  // severity: of OVToast
+    /// A batch for several devices has ended, and devices failed or were skipped. `lines`: one text for each of these
+    /// devices, grouped by result.
     signal failed(var lines)
-    /// The device refused the account of the command.
+    /// The device has refused the account of a single command. `result`: unknown account or wrong password, a
+    /// LoginResult.
     signal accountRefused(string identity, string ipport, int result)
 
-    readonly property string prefix: "/cgi-bin/"
+    readonly property string prefix: "/cgi-bin/"  // start of every valid command
 
-    /// The complete response of a row.
+    /// The complete response of a row; its stored start if the complete one is no longer kept.
     function responseOf(row) {
         const values = deviceTable.get(row);
         return cgiBatches.responseOf(values.identity, values.result ?? "");
@@ -33,7 +36,7 @@ Item {
         return command.startsWith(prefix) ? "" : qsTr("URL格式错误。");
     }
 
-    /// Sends the command of a row.
+    /// Sends the command of a row to its device. Notifies an invalid command.
     function send(row) {
         const values = deviceTable.get(row);
         const command = (values.url ?? "").trim();
@@ -44,11 +47,13 @@ Item {
             begin(qsTr("发送CGI命令"), [values.identity], command, values.identity);
     }
 
-    /// Sends a command to the devices with these identities.
+    /// Sends a command to the devices with these identities. The caller has checked it with faultOf().
     function sendToAll(identities, command) {
         begin(qsTr("批量配置CGI"), identities, command, "");
     }
 
+    /// Starts the batch. `row`: identity of the row for a single command, "" for several devices. If another batch
+    /// runs, the command is remembered and nothing is sent.
     function begin(title, identities, command, row) {
         commands.remember(command);
         const begun = cgiBatches.send(title, identities, command);
@@ -59,7 +64,7 @@ Item {
         deviceTable.refreshDevices(identities);
     }
 
-    /// Records the login result of the single row.
+    /// Records the login result of the single row in LoginMemory.
     function noteLogin() {
         const {ipport} = deviceFactory.getDeviceDetail("dh", singleRow);
         const noSuchAccount = 1;
@@ -72,6 +77,7 @@ Item {
         accountRefused(singleRow, ipport, result);
     }
 
+    /// Notifies the result of the ended batch.
     function notifyEnd() {
         const report = batch.report;
         if (singleRow !== "") {

@@ -1,4 +1,4 @@
-// The list of suggested commands below a field.
+// The list of suggested commands below or above a field. The field keeps the keyboard focus and handles the keys.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -6,10 +6,10 @@ import configtools
 T.Popup {
     id: root
 
-    required property CgiCommands commands
-    required property var suggestions
-    required property int marked
-    signal taken(string command)
+    required property CgiCommands commands  // marks favourites with a star
+    required property var suggestions  // texts of the commands
+    required property int marked  // index of the selected suggestion, -1 for none
+    signal taken(string command)  // a suggestion was clicked
 
     implicitHeight: column.implicitHeight + topPadding + bottomPadding
     margins: Theme.unit

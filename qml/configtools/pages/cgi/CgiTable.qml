@@ -1,20 +1,23 @@
-// The table of the CGI page: last response, command and send button of each device.
+// The table of the CGI page: last response, command and send button of each device. A typed command is stored in the
+// row of the device list. The table sends nothing; the page handles the signals. F2 requests the note of the current
+// row.
 import QtQuick
 import configtools
 
 OVTable {
     id: root
 
-    required property var deviceFactory
+    required property var deviceFactory  // a CDeviceFactory
     required property CgiCommands commands
     property int editRow: -1  // row whose field gets the keyboard focus when it is created
     signal sendRequested(int row)
-    signal responseCopyRequested(int row)
-    signal responseOpenRequested(int row)
-    signal noteRequested(int row)
+    signal responseCopyRequested(int row)  // copy the complete response
+    signal responseOpenRequested(int row)  // show the complete response
+    signal noteRequested(int row)  // edit the note
 
     readonly property int tipLength: 3000  // maximum characters of a response in a tool tip
 
+    /// The start of a response for a tool tip, with "…" if it is longer.
     function startOf(response) {
         return response.slice(0, tipLength).replace(/\s+$/, "") + (response.length > tipLength ? "…" : "");
     }

@@ -1,34 +1,40 @@
-// Runs the commands of a workbook and writes the responses to it. Opens the template.
+// Reads the commands of a workbook, sends them in a batch after a confirmation, and writes the responses to the same
+// file. Also opens the template.
 import QtQuick
 import configtools
 
 Item {
     id: root
 
-    required property var deviceFactory
+    required property var deviceFactory  // a CDeviceFactory
     required property var workbooks  // a CgiWorkbooks
-    required property var cgiManager
-    required property var fileDialogs
+    required property var cgiManager  // a CGIConfigManage
+    required property var fileDialogs  // a FileDialogs
     required property bool shown  // the page is visible
-    property string pendingOutcome  // result of a workbook until the page is shown
-    signal notify(string message, int severity)
+    /// Message about a workbook that was not shown yet, as the page is hidden; "" for none.
+    property string pendingOutcome
+    signal notify(string message, int severity)  // severity: of OVToast
 
+    /// Asks for a workbook and reads it. The confirmation follows, or a message why the workbook cannot be used.
     function choose() {
         fileDialogs.chooseFile(qsTr("打开"), ["Excel Files (*.xlsx)"], path => workbooks.read(path));
     }
 
+    /// Opens the template in the desktop's application. Notifies a failure.
     function openTemplate() {
         if (!fileDialogs.exists(cgiManager.templateFile()) || !Qt.openUrlExternally(cgiManager.templateAddress()))
             notify(qsTr("打开模板文件失败。"), OVToast.Error);
     }
 
+    /// Confirms the lines of the workbook, in the form of BatchPreview::setEntries(), and runs the ticked ones.
     function ask(lines) {
         question.instance().askEntries(qsTr("即将执行文件中的CGI命令，执行结果将记录在文件中"), lines, {
             title: qsTr("批量表单操作"), okText: qsTr("执行"), listed: true, action: names => workbooks.run(qsTr("批量表单操作"), names)
         });
     }
 
-    /// While another page is shown, only the first line is reported; the result follows when this page is shown.
+    /// Shows the result of a workbook, or why it was not run. While another page is shown, only the first line is
+    /// notified; the complete text follows when this page is shown.
     function notifyEnd(text) {
         pendingOutcome = text;
         if (shown)
@@ -37,6 +43,7 @@ Item {
             notify(text.split("\n")[0], OVToast.Information);
     }
 
+    /// Shows the pending message, if any.
     function showPendingOutcome() {
         if (pendingOutcome !== "")
             outcome.instance().show(pendingOutcome, OVMessageBox.Information);
