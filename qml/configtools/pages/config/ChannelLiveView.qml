@@ -1,15 +1,16 @@
-// The live view of a channel next to its settings, which shows changes immediately.
+// The live view of a channel next to its image settings. It shows the device of the session, so that a written change
+// is visible at once.
 import QtQuick
 import configtools
 
 Item {
     id: root
 
-    required property var deviceFactory
-    required property int channel
+    required property var deviceFactory  // a CDeviceFactory
+    required property int channel  // from 0
     required property string channelName
-    required property bool active     // logged in
-    required property bool connected  // a camera is connected
+    required property bool active     // the session is logged in; otherwise no stream runs
+    required property bool connected  // a camera is connected to the channel
 
     implicitHeight: Math.round(width * 9 / 16)
     objectName: "channelLiveView"

@@ -1,5 +1,5 @@
-// An editable channel name. Enter, Tab and the arrow keys move to another row, Enter in the last row to the next
-// device. Escape reverts.
+// A table cell with an editable channel name. Tab and the arrow keys move to another row, and Escape reverts the name.
+// Enter is only reported: the panel moves on or saves. The cell writes nothing.
 import QtQuick
 import configtools
 
@@ -7,16 +7,17 @@ OVTableCell {
     id: root
 
     required property int wantedRow  // row that gets the keyboard focus, -1 for none
-    signal edited(string name)
-    signal reverted
-    signal leftFor(int row)  // -1 and the row count are outside
+    signal edited(string name)  // the text was changed by typing
+    signal reverted  // restore the saved name
+    signal leftFor(int row)  // row that gets the keyboard focus; -1 and the row count: outside of the rows
     signal confirmed  // by Enter
     signal reached  // the wanted row got the keyboard focus
     signal entered  // focused by a click
 
-    readonly property bool wanted: rowIndex >= 0 && wantedRow === rowIndex
-    readonly property string name: value ?? ""
+    readonly property bool wanted: rowIndex >= 0 && wantedRow === rowIndex  // this row gets the keyboard focus
+    readonly property string name: value ?? ""  // the edited name
 
+    /// Takes the keyboard focus if this row is still the wanted one.
     function take() {
         if (!wanted)
             return;

@@ -1,17 +1,20 @@
-// The error of a channel name, and a button to correct it.
+// A table cell with the problem of a channel name and, for an unsaved name, a button that corrects it: a name that is
+// too long is truncated, any other one is reverted.
 import QtQuick
 import configtools
 
 OVTableCell {
     id: root
 
-    signal cutRequested
-    signal revertRequested
+    signal cutRequested  // truncate the name to the bytes that a device can store
+    signal revertRequested  // restore the saved name
 
-    readonly property int trouble: value ?? ChannelNameForm.None
+    readonly property int trouble: value ?? ChannelNameForm.None  // a ChannelNameForm.Trouble
+    /// An error; the other problems are warnings or notes.
     readonly property bool bad: trouble === ChannelNameForm.Empty || trouble === ChannelNameForm.TooLong
         || trouble === ChannelNameForm.Refused || trouble === ChannelNameForm.NoResponse
         || trouble === ChannelNameForm.Upgrading
+    /// "" for no problem.
     readonly property string message: {
         switch (trouble) {
         case ChannelNameForm.Unknown:

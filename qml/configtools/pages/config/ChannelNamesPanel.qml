@@ -1,4 +1,5 @@
-// The channel names of a device in a table, with a common save button.
+// The tab with the channel names of the shown device in a table. Changes stay in the table until the save button writes
+// all of them.
 import QtQuick
 import configtools
 
@@ -8,12 +9,13 @@ Item {
     required property ChannelNamesWork work
     readonly property ChannelNameForm form: work.form
     property int wantedRow: -1  // row whose field gets the keyboard focus, -1 for none
-    property bool advancing: false  // after the save, opens the next device
-    signal refreshRequested
-    signal nextDeviceRequested
-    signal patternRequested
+    property bool advancing: false  // Enter in the last row has started a save; after success the next device is opened
+    signal refreshRequested  // read the names again
+    signal nextDeviceRequested  // open the next device of the tree
+    signal patternRequested  // open the dialog that names by a pattern
 
-    /// Focuses the field of a row; after the last row, the buttons.
+    /// Focuses the name field of a row; after the last row the save button, or the next button if saving is not
+    /// possible. Does nothing for a negative row.
     function edit(row) {
         if (row < 0)
             return;
@@ -25,7 +27,8 @@ Item {
         wantedRow = row;
     }
 
-    /// Handles Enter in a row. In the last row, saves the changes and opens the next device.
+    /// Handles Enter in a row: moves to the next row. In the last row it saves the changes and then opens the next
+    /// device; after a failed save it stays.
     function confirm(row) {
         if (row + 1 < form.count) {
             edit(row + 1);
@@ -37,12 +40,13 @@ Item {
         }
     }
 
+    /// Requests the next device.
     function advance() {
         advancing = false;
         nextDeviceRequested();
     }
 
-    /// Focuses the first name of a device that was chosen for naming.
+    /// Focuses the first name when the names of a newly chosen device are read.
     function arrive() {
         if (!work.read || !work.arriving)
             return;

@@ -1,4 +1,5 @@
-// Reads and writes the channel names of the session's device.
+// Reads and writes the channel names of the session's device. The names are edited in `form`; a save writes the changed
+// ones, one request after another.
 import QtQuick
 import configtools
 
@@ -6,18 +7,23 @@ Item {
     id: root
 
     required property var session  // a ConfigSession
-    required property var deviceFactory
+    required property var deviceFactory  // a CDeviceFactory
     property bool read: false  // the form shows the current device
     property bool arriving: false  // the device was just chosen: its first name gets the keyboard focus
-    property var saved: null   // result of a save that is not reported yet
+    /// Result of the ended save that is not notified yet: "rows" (names to write), "written" and "failedRow" (-1 for
+    /// none). Null for none.
+    property var saved: null
     readonly property alias form: nameForm
-    readonly property alias running: nameForm.saving
-    readonly property alias progress: nameForm.savingProgress
+    readonly property alias running: nameForm.saving  // a save runs
+    readonly property alias progress: nameForm.savingProgress  // of the save, 0 to 1
+    /// Channel that is being written, as text; "" for none.
     readonly property string current: running ? qsTr("通道 %1").arg(nameForm.savingRow + 1) : ""
-    readonly property int unsaved: read ? nameForm.changedCount : 0
-    signal rowWanted(int row)  // a row has an error
-    signal allSaved
+    readonly property int unsaved: read ? nameForm.changedCount : 0  // number of changed names
+    signal rowWanted(int row)  // this row has an error and should get the keyboard focus
+    signal allSaved  // a save has written all changed names
 
+    /// Drops unsaved names and ends a running save; the request that was sent may still take effect. The names are read
+    /// again when the tab is next shown.
     function clear() {
         nameForm.cancelSaving();
         read = false;
@@ -28,7 +34,7 @@ Item {
         nameForm.stopSaving();
     }
 
-    /// Reads the names. Logs in again first if the login was lost.
+    /// Reads the names. If the login was lost, logs in again instead; the names are read after that.
     function load() {
         if (!session.loggedIn) {
             session.tryAgain();
@@ -40,7 +46,8 @@ Item {
         });
     }
 
-    /// Writes the changed names one by one. Errors are shown in their rows.
+    /// Writes the changed names one by one. Errors are shown in their rows. If a name is empty or too long, nothing is
+    /// written and its row is reported.
     function save() {
         const faulty = nameForm.firstFaulty();
         if (faulty >= 0) {
@@ -50,6 +57,7 @@ Item {
         nameForm.save();
     }
 
+    /// Writes the name of one channel. `row` is the channel number from 0.
     function write(row, name) {
         const device = session.device;
         session.work.run("", () => session.work.writeName(row, name), response => {
@@ -59,6 +67,7 @@ Item {
         });
     }
 
+    /// Called at the end of a save: reports it to the back end, then notifies the user and runs what was postponed.
     function endSaving(rows, written, failedRow) {
         saved = {rows: rows, written: written, failedRow: failedRow};
         deviceFactory.setConfigData("dh", "channelNamesSaved", true);
@@ -67,6 +76,7 @@ Item {
         session.work.runPostponed();
     }
 
+    /// Notifies the numbers of saved and unsaved names.
     function notifySaved() {
         const {rows, written, failedRow} = saved;
         saved = null;

@@ -1,4 +1,5 @@
-// Copies the encode settings of the current device to others.
+// Copies the encode settings of the current channel to the same channel of other devices, in a batch. The tree shows
+// the result of each device.
 import QtQuick
 import configtools
 
@@ -6,13 +7,15 @@ Item {
     id: root
 
     required property Batches batches
-    required property var deviceFactory
-    required property OVTreeModel devices
-    property Batch batch: null
+    required property var deviceFactory  // a CDeviceFactory
+    required property OVTreeModel devices  // the tree that shows the results
+    property Batch batch: null  // the latest copy or its retry; null before
     readonly property bool running: batch?.running ?? false
+    /// "address:port" of a device that is being written; "" for none.
     readonly property string current: running ? batch.device : ""
-    signal notify(string message, int severity, int duration)
+    signal notify(string message, int severity, int duration)  // severity: of OVToast; duration in ms
 
+    /// Starts the copy to these devices ("address:port"). Does nothing after a refusal, which Batches reports.
     function start(targets) {
         const begun = batches.copyEncodeSettings("dh", qsTr("复制编码配置"), targets);
         if (begun === null)
@@ -21,6 +24,8 @@ Item {
         batch = begun;
     }
 
+    /// The text of a result in the tree. `result`: a LoginResult or OVTreeModel.PartlyDone, whose text is the list of
+    /// settings that the device did not take.
     function resultText(result, ipport) {
         if (result === BatchReport.NotDone)
             return deviceFactory.getErrorName(result);
@@ -30,6 +35,7 @@ Item {
         return deviceFactory.getErrorName(result) + (skipped === "" ? "" : "\n" + skipped);
     }
 
+    /// Notifies the numbers of devices by result.
     function notifyEnd() {
         const report = batch.report;
         const failed = report.failed;

@@ -1,42 +1,45 @@
-// The session of the configuration page: login, and background reading and writing of settings. One operation runs at a
-// time.
+// The session of the configuration page with one device: login, and reading and writing of settings in the background.
+// One operation runs at a time. The values of the three tabs are in `encoding`, `image` and `names`.
 import QtQuick
 import configtools
 
 Item {
     id: root
 
-    required property var deviceFactory
-    property bool shown: true        // the page is visible: a failed login may ask for an account
+    required property var deviceFactory  // a CDeviceFactory
+    property bool shown: true        // the page is visible; otherwise a failed login does not ask for an account
     property int tab: 0              // current tab: 0 encode settings, 1 image, 2 channel names
     readonly property bool encodeShown: tab === 0
     readonly property bool imageShown: tab === 1
     readonly property bool namesShown: tab === 2
-    property string device           // address and port; "" for none
+    property string device           // "address:port" of the shown device; "" for none
     property string name
     property string model
     property string type
     property bool loggedIn: false
-    property int loginResult: 0
-    property bool taken: false       // the live view has logged in to another device
-    property bool lost: false        // the device no longer responds
+    property int loginResult: 0  // of the last login, a LoginResult; 5 (no response) also after lose()
+    property bool taken: false       // the live window has logged in to another device: this session has ended
+    property bool lost: false        // the device has stopped responding, or no longer accepts the login
     property bool upgrading: false   // a firmware upgrade runs: no settings can be written
-    property string failure          // error of the login
+    property string failure          // why the session is not logged in, for the user; "" if it is
     readonly property alias work: sessionWork
-    readonly property alias busy: sessionWork.busy
+    readonly property alias busy: sessionWork.busy  // an operation runs whose text is shown; the panel is blocked
     readonly property alias busyText: sessionWork.text
+    /// Settings of the device are being changed.
     readonly property bool writing: sessionWork.writing || namesWork.running
     readonly property alias encoding: encodeWork
     readonly property alias image: imageWork
     readonly property alias names: namesWork
+    /// Number of changed encode settings and channel names that are not written.
     readonly property int unsaved: encodeWork.unsaved + namesWork.unsaved
-    signal renewed                   // the settings must be read again
-    signal notify(string message, int severity, int duration)
+    signal renewed  // the live window has logged in: the settings of the shown tab must be read again
+    signal notify(string message, int severity, int duration)  // severity: of OVToast; duration in ms
 
-    readonly property int shortDuration: 3000
-    readonly property int longDuration: 5000
+    readonly property int shortDuration: 3000  // of messages, ms
+    readonly property int longDuration: 5000  // of error messages, ms
 
-    /// Logs in to a device. Cancels a running login or read.
+    /// Shows a device and logs in to it with the account of LoginMemory.accountFor(). Drops a running operation and
+    /// unsaved changes without a question: the page asks before.
     function open(ipport) {
         const row = deviceFactory.getDeviceInfo("dh", ipport);
         device = ipport;
@@ -48,6 +51,7 @@ Item {
         login(known.user, known.password, known.isForAll);
     }
 
+    /// Reads again whether the firmware of the device is being upgraded.
     function noteUpgrade() {
         const row = device === "" ? {} : deviceFactory.getDeviceInfo("dh", device);
         upgrading = UpgradeTools.isRunning(row.upgraderes ?? UpgradeTools.None);
@@ -60,7 +64,9 @@ Item {
         namesWork.clear();
     }
 
-    /// With `keeps`, a successful account becomes the account of the row.
+    /// Logs in to `device`, then reads the settings of the shown tab. With `keeps`, an account that the device accepts
+    /// becomes the account of its row; otherwise the row is not changed. After a refusal of the account the user is
+    /// asked for another one.
     function login(account, password, keeps) {
         loggedIn = taken = lost = false;
         failure = "";
@@ -79,13 +85,15 @@ Item {
         });
     }
 
+    /// Stores the account in the row of the device, until the next search.
     function keep(account, password) {
         const mac = deviceFactory.getDeviceInfo("dh", device).mac ?? "";
         deviceFactory.updataDeviceInfo("dh", "username", account, mac, device);
         deviceFactory.updataDeviceInfo("dh", "password", password, mac, device);
     }
 
-    /// Called when the device did not respond. After a restart it no longer accepts the login.
+    /// Called when the device did not respond, or no longer accepts the login, as after a restart. Read values stay on
+    /// the page.
     function lose() {
         const networkFailure = 5;
         loginResult = networkFailure;
@@ -94,22 +102,25 @@ Item {
         loggedIn = false;
     }
 
-    /// Called when the device responded in the same login.
+    /// Called when the device has responded again in the same login.
     function regain() {
         lost = false;
         loggedIn = true;
     }
 
-    /// Whether another account or password may help: unknown account, wrong password, or account logged in elsewhere.
+    /// Whether another account or password may help after the last login: unknown account, wrong password, or account
+    /// logged in elsewhere.
     function canLoginAgain() {
         return loginResult === 1 || loginResult === 2 || loginResult === 4;
     }
 
+    /// Asks for another account and logs in with it. `account`: the refused user name.
     function askAgain(account) {
         const row = deviceFactory.getDeviceInfo("dh", device);
         relogin.instance().ask(row.mac ?? "", device, account, loginResult);
     }
 
+    /// Logs in again. Asks for an account if another one may help, otherwise uses the same one.
     function tryAgain() {
         if (canLoginAgain() && !taken)
             askAgain(LoginMemory.accountFor(device, deviceFactory).user);
@@ -117,14 +128,16 @@ Item {
             open(device);
     }
 
-    /// Reads the settings of the current tab unless they were read already.
+    /// Reads the settings of the current tab. Does nothing if they were read already, without a login, and while an
+    /// operation runs.
     function readShown() {
         const shown = [encodeWork, imageWork, namesWork][tab];
         if (loggedIn && !busy && !shown.read)
             shown.load();
     }
 
-    /// The live view has logged in again. The running operation belonged to the earlier login.
+    /// Called when the live window has logged in, to this or to another device. The running operation belonged to the
+    /// earlier login and is dropped, with unsaved changes; the user is notified of lost changes.
     function noteOtherLogin() {
         const isChangeLost = unsaved > 0 || writing;
         lost = false;

@@ -1,4 +1,5 @@
-// Operations on the session's device, one at a time, each with a continuation.
+// Operations on the session's device, one at a time, each with a function for its result. Starting an operation drops
+// the running one: its function is not called.
 import QtQml
 import configtools
 
@@ -7,30 +8,32 @@ SessionWork {
 
     property string text             // description of the running operation; "" if the page shows it otherwise
     readonly property bool busy: text !== ""
-    property bool writing: false     // the running operation changes the device
-    property bool savingNames: false  // also between the single writes
-    property var next: null          // called with the result of the running operation
-    property var postponed: null     // called when writing has ended
+    property bool writing: false     // the running operation changes the device and was started by write()
+    property bool savingNames: false  // a series of names is being written, also between its single requests
+    property var next: null          // function of the running operation, called with its result; null for none
+    property var postponed: null     // function of afterWriting() that waits; null for none
 
-    /// Shows `text`, starts an operation by `begin`, and calls `next` with its result.
+    /// Shows `text`, starts an operation of SessionWork by the function `begin`, and calls `next` with its result.
+    /// `next` may be null.
     function run(text, begin, next) {
         root.text = text;
         root.next = next;
         begin();
     }
 
-    /// Like run() for an operation that changes the device: opening another device does not cancel it.
+    /// Like run() for an operation that changes the device: afterWriting() waits for its end.
     function write(text, begin, next) {
         writing = true;
         run(text, begin, next);
     }
 
-    /// Ends the operation without calling `next`.
+    /// Marks the operation as ended without calling `next`, after SessionWork has dropped it.
     function abandon() {
         next = null;
         finish();
     }
 
+    /// Called at the end of the operation with its result.
     function finish(value) {
         const callback = next;
         next = null;
@@ -41,12 +44,14 @@ SessionWork {
         runPostponed();
     }
 
-    /// Runs `action` immediately, or when writing has ended.
+    /// Runs `action` immediately, or when nothing is being written any more. A later call replaces an action that
+    /// waits.
     function afterWriting(action) {
         postponed = action;
         runPostponed();
     }
 
+    /// Runs the action that waits, unless something is being written.
     function runPostponed() {
         if (postponed === null || writing || savingNames)
             return;

@@ -1,4 +1,4 @@
-// The configured device and the state of its login.
+// A line with the device of the session (address, name, model, type) and the state of its login.
 import QtQuick
 import configtools
 

@@ -1,20 +1,24 @@
-// The bit rate of a stream in kbit/s: a step, or a custom number with the last entry.
+// The bit rate of a stream in kbit/s: a choice of fixed rates, whose last entry is "custom" with a field for a number.
+// It writes nothing.
 import QtQuick
 import configtools
 
 Row {
     id: root
 
-    required property var setting  // map of EncodeForm: "choices", "index", "value" (kbit/s) and "usable"
-    property string namePrefix
+    /// The setting "bitRate" of a stream of EncodeForm: a map with "choices" (texts), "index", "value" (kbit/s) and
+    /// "usable".
+    required property var setting
+    property string namePrefix  // of the object names: "main" or "sub"
     property string accessibleName
     property bool asked: false  // custom is chosen, the number is not entered yet
     readonly property bool custom: asked || (last >= 0 && setting.index === last)
-    readonly property int last: setting.choices.length - 1
-    readonly property int largest: 100000
-    readonly property bool wrong: field.text !== "" && Number(field.text) < 1
-    signal chosen(string bitRate)  // kbit/s
+    readonly property int last: setting.choices.length - 1  // index of the entry "custom"
+    readonly property int largest: 100000  // kbit/s
+    readonly property bool wrong: field.text !== "" && Number(field.text) < 1  // the number is 0
+    signal chosen(string bitRate)  // another rate in kbit/s, as text
 
+    /// Takes the typed number when the field is left. An empty, invalid or equal number restores the current one.
     function finish() {
         if (!custom || !visible)
             return;

@@ -1,4 +1,5 @@
-// The encode settings of a channel: both streams, with a common save button.
+// The tab with the encode settings of a channel: both streams, with a common save button. Changes stay on the page
+// until they are saved.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -7,8 +8,9 @@ Item {
     id: root
 
     required property EncodeWork work
-    required property int targetCount
+    required property int targetCount  // number of devices that a copy would write
     readonly property EncodeForm form: work.form
+    /// Error in the foot, "" for none.
     readonly property string errorText: {
         const lost = work.session.lost ? qsTr("与设备的连接已断开") : "";
         if (work.unsavedItems !== "")
@@ -24,10 +26,10 @@ Item {
             return qsTr("设备的配置无法识别，显示的内容可能不完整");
         return form.complete ? "" : qsTr("设备没有告知它的编码能力，部分选项为空");
     }
-    signal channelRequested(int index)
-    signal streamTypeRequested(int index)
-    signal refreshRequested
-    signal copyRequested
+    signal channelRequested(int index)  // select the channel with this index, from 0
+    signal streamTypeRequested(int index)  // select the type of the main stream with this index
+    signal refreshRequested  // read the settings again
+    signal copyRequested  // copy the settings to the ticked devices
 
     Flickable {
         id: view

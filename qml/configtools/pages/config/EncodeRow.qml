@@ -1,4 +1,4 @@
-// A setting of a stream: label, mark for an unsaved change, and control.
+// A row of an encode setting: label, a mark for an unsaved change, and the control that is its child.
 import QtQuick
 import configtools
 
@@ -6,7 +6,7 @@ Item {
     id: root
 
     required property string label
-    property bool changed: false
+    property bool changed: false  // the value is not saved
     default property alias field: slot.data
 
     width: parent?.width ?? 0

@@ -1,4 +1,4 @@
-// The encode settings of a stream. `stream` is a map of EncodeForm.
+// The encode settings of the main or the sub stream of a channel. It only requests changes.
 import QtQuick
 import configtools
 
@@ -7,13 +7,15 @@ Column {
 
     required property string title
     required property string namePrefix  // prefix of the object names
-    required property var stream
-    required property var streamTypes
-    property int streamType: 0
-    property bool isSub: false
+    required property var stream  // mainStream or subStream of EncodeForm: a map with a map for each setting
+    required property var streamTypes  // names of the types of this stream; may be empty
+    property int streamType: 0  // index in streamTypes
+    property bool isSub: false  // the sub stream: it can be switched off
+    /// Set the value with this key of EncodeForm. `value`: a text of a choice, or a number.
     signal changeRequested(string key, var value)
-    signal streamTypeRequested(int index)
+    signal streamTypeRequested(int index)  // select the type with this index
 
+    /// Requests the choice with this index for a setting of `stream`.
     function requestChoice(setting, index) {
         changeRequested(setting.key, setting.choices[index]);
     }

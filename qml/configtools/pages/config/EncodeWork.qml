@@ -1,4 +1,5 @@
-// Reads and writes the encode settings of the session's device.
+// Reads and writes the encode settings of the session's device. Changes stay in `form` until save(), except for the
+// resolution of the sub stream, which is written immediately.
 import QtQuick
 import configtools
 
@@ -6,18 +7,23 @@ Item {
     id: root
 
     required property var session  // a ConfigSession
-    required property var deviceFactory
+    required property var deviceFactory  // a CDeviceFactory
     property bool read: false  // the form shows the current device
     property int result: 0     // of the last read: 0, a constant below, or an error of the device library
+    /// The device's values are not understood; the page may be incomplete.
     readonly property int configurationUnreadable: 1
-    readonly property int abilitiesUnknown: 10
-    readonly property bool failed: isFailure(result)
-    property string unsavedItems  // unsaved settings of the last save, one per line, or its error
+    readonly property int abilitiesUnknown: 10  // the device did not report the possible values; choices may be empty
+    readonly property bool failed: isFailure(result)  // the last read has failed: the page shows no values
+    /// Names of the settings that the last save did not write, one per line, or the error of the save. "" after
+    /// success.
+    property string unsavedItems
     readonly property alias form: encodeForm
     readonly property var subStream: encodeForm.subStream
-    readonly property int unsaved: read ? encodeForm.changedCount : 0
+    readonly property int unsaved: read ? encodeForm.changedCount : 0  // number of changed values that are not written
+    /// The settings were read completely and can be copied to other devices.
     readonly property bool copyable: read && !failed && encodeForm.complete
 
+    /// Whether a result means that nothing was read.
     function isFailure(result) {
         return result !== 0 && result !== configurationUnreadable && result !== abilitiesUnknown;
     }
@@ -29,7 +35,8 @@ Item {
         result = 0;
     }
 
-    /// Reads the settings. Logs in again first if the login was lost.
+    /// Reads the settings of the current channel. If the login was lost, logs in again instead; the settings are read
+    /// after that.
     function load() {
         if (!session.loggedIn) {
             session.tryAgain();
@@ -42,12 +49,14 @@ Item {
         });
     }
 
-    /// `key` is "curChannel" or "curStreamType".
+    /// Selects a channel or the type of the main stream and reads it. Unsaved changes are lost: the page asks before.
+    /// `key` is "curChannel" or "curStreamType", `index` its number from 0.
     function choose(key, index) {
         unsavedItems = "";
         session.work.run(qsTr("正在读取编码配置…"), () => session.work.chooseEncoding(key, index), () => read = true);
     }
 
+    /// Sets a value in the form, by a key of EncodeForm. "subCurResolution" is written to the device immediately.
     function set(key, value) {
         unsavedItems = "";
         // Only this setting is written immediately.
@@ -63,6 +72,8 @@ Item {
                          session.longDuration);
     }
 
+    /// Writes all changed values, then reads the channel again. Values that the device refused stay unsaved and are
+    /// notified.
     function save() {
         unsavedItems = "";
         session.work.write(qsTr("正在保存编码配置…"), () => session.work.saveEncoding(), () => {

@@ -1,4 +1,5 @@
-// An image setting with several values. The device numbers them from `first`.
+// A row of an image setting with several values. The choice with index 0 has the number `first` on the device, unless
+// `numbers` is given.
 import QtQuick
 import configtools
 
@@ -6,10 +7,10 @@ OVFormRow {
     id: root
 
     required property ImageGroup group
-    required property string subKey
-    required property var choices
-    property int first: 0
-    property var numbers: []  // numbers of the choices if they are not consecutive
+    required property string subKey  // key of the setting in the group
+    required property var choices  // texts of the choices
+    property int first: 0  // number of the first choice
+    property var numbers: []  // number of each choice, if the numbers are not consecutive; replaces `first`
 
     labelWidth: Theme.imageLabelWidth
     visible: group.supports(subKey)

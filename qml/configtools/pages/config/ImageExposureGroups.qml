@@ -1,4 +1,4 @@
-// Image settings: exposure, backlight, white balance.
+// The image settings of the second subject: exposure, backlight, white balance.
 import QtQuick
 import configtools
 

@@ -1,5 +1,5 @@
 // A group of image settings. It is hidden if the camera does not have it, and shows a note if its values could not be
-// read. The rows read values and report changes here.
+// read. Its child rows read values here and report changes to change(), which writes to the device immediately.
 import QtQuick
 import configtools
 
@@ -7,34 +7,41 @@ OVSection {
     id: root
 
     required property ImageWork work
-    required property string key
+    required property string key  // of the group, see CameraForm
+    /// Values of the group by sub-key, and its properties; see CameraForm.
     readonly property var values: work.form.groups[key] ?? ({})
 
+    /// The value of a setting; 0 if it is missing or not a number.
     function number(subKey) {
         return Number(values[subKey] ?? 0) || 0;
     }
 
+    /// Whether a setting is on: true or 1.
     function flag(subKey) {
         return values[subKey] === true || values[subKey] === 1;
     }
 
+    /// The list with this name, for example the texts of a choice; empty if it is missing.
     function list(name) {
         return values[name] ?? [];
     }
 
-    /// Whether the camera supports the setting.
+    /// Whether the camera has the setting. A setting that the group does not list as missing counts as supported.
     function supports(setting) {
         return !list("missing").includes(setting);
     }
 
+    /// The minimum of a setting; 0 if its range is unknown.
     function least(subKey) {
         return values.ranges?.[subKey]?.min ?? 0;
     }
 
+    /// The maximum of a setting; 100 if its range is unknown.
     function most(subKey) {
         return values.ranges?.[subKey]?.max ?? 100;
     }
 
+    /// Writes a value of this group to the device.
     function change(subKey, value) {
         work.set(key, [[subKey, value]]);
     }

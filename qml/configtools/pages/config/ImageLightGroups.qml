@@ -1,4 +1,4 @@
-// Image settings: day and night, lamps.
+// The image settings of the third subject: day and night, lamps.
 import QtQuick
 import configtools
 
@@ -6,7 +6,7 @@ Column {
     id: root
 
     required property ImageWork work
-    readonly property var lamps: [qsTr("远近光"), qsTr("近光"), qsTr("远光")]
+    readonly property var lamps: [qsTr("远近光"), qsTr("近光"), qsTr("远光")]  // in the numbering of devices
 
     spacing: Theme.pageMargin
 

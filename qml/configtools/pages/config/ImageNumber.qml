@@ -1,4 +1,5 @@
-// A typed number of an image setting. It is written on Enter or when the field loses the focus.
+// A field for an integer of an image setting. A changed number is reported, and by default written to the device, on
+// Enter or when the field loses the focus.
 import QtQuick
 import configtools
 
@@ -6,16 +7,19 @@ OVNumberField {
     id: root
 
     required property ImageGroup group
-    required property string subKey
+    required property string subKey  // key of the setting in the group
     property int least: 0  // smaller numbers are replaced by it
-    property int current: group.number(subKey)
-    property bool wrong: false  // inconsistent with related numbers: not written yet
-    signal finished(int number)
+    property int current: group.number(subKey)  // number on the device
+    /// The number is inconsistent with related numbers: it stays in the field and is not reported.
+    property bool wrong: false
+    signal finished(int number)  // the typed number is valid and differs from `current`
 
+    /// Shows the number on the device.
     function follow() {
         text = current;
     }
 
+    /// Takes the typed number; shows the number on the device if it is empty or equal.
     function finish() {
         if (acceptable && wrong)
             return;

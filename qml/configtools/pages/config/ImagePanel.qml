@@ -1,4 +1,5 @@
-// The image settings of a channel. Each change is written to the device immediately.
+// The tab with the image settings of a channel, in three subjects, with a live view. Each change is written to the
+// device immediately.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -7,7 +8,7 @@ Item {
     id: root
 
     required property ImageWork work
-    property int subject: 0
+    property int subject: 0  // index in `subjects`: 0 picture, 1 exposure and white balance, 2 day, night and lamps
     readonly property CameraForm form: work.form
 
     /// Keys of the groups of each subject.
@@ -16,6 +17,7 @@ Item {
         ["exposure", "backMode", "whiteBalance"],
         ["dayNight", "lightControl", "lightControlEx"]
     ]
+    /// The camera has no setting of this subject.
     readonly property bool empty: !subjects[subject].some(key => form.groups[key].support || form.groups[key].unread)
 
     // Scrolls to the item with the keyboard focus.

@@ -1,4 +1,4 @@
-// Image settings: colours, sharpness, mirroring, stabilisation, defog.
+// The image settings of the first subject: colours, sharpness, mirroring, stabilisation, defog.
 import QtQuick
 import configtools
 

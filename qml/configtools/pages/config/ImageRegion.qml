@@ -1,4 +1,5 @@
-// The region of backlight compensation, in 1/8192 of the image's width and height.
+// The region of backlight compensation, in 1/8192 of the image's width and height. All four sides are written together,
+// when one of them is changed and none is inconsistent.
 import QtQuick
 import configtools
 
@@ -6,15 +7,17 @@ OVFormRow {
     id: root
 
     required property ImageGroup group
+    /// On the device: numbers by "Left", "Top", "Right" and "Bottom".
     readonly property var region: group.values.BacklightRegion ?? ({})
     readonly property var sides: [
         {key: "Left", name: qsTr("左")}, {key: "Top", name: qsTr("上")},
         {key: "Right", name: qsTr("右")}, {key: "Bottom", name: qsTr("下")}
     ]
     readonly property int fullScale: 8192
+    /// The numbers in the fields, by the same keys.
     property var typed: ({Left: 0, Top: 0, Right: fullScale, Bottom: fullScale})
-    readonly property bool acrossWrong: typed.Left > typed.Right
-    readonly property bool downWrong: typed.Top > typed.Bottom
+    readonly property bool acrossWrong: typed.Left > typed.Right  // left is greater than right
+    readonly property bool downWrong: typed.Top > typed.Bottom  // top is greater than bottom
     readonly property bool wrong: acrossWrong || downWrong
 
     label: qsTr("区域(0–8192)")

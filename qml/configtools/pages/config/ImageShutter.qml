@@ -1,4 +1,5 @@
-// The shutter time: a preset, or a custom range in milliseconds with the last entry.
+// The shutter time: a choice of fixed times, whose last entry is "custom" with fields for a range in milliseconds. A
+// change is written to the device immediately.
 import QtQuick
 import configtools
 
@@ -8,14 +9,17 @@ Column {
     required property ImageGroup group
     required property CameraForm form
     property bool asked: false  // custom is chosen, the range is not entered yet
-    readonly property real shortest: group.number("dbExposureValue1")
-    readonly property real longest: group.number("dbExposureValue2")
-    readonly property int last: form.shutterTimes.length
+    readonly property real shortest: group.number("dbExposureValue1")  // lower bound on the device, ms
+    readonly property real longest: group.number("dbExposureValue2")  // upper bound on the device, ms
+    readonly property int last: form.shutterTimes.length  // index of the entry "custom"
+    /// Of the fixed time on the device; -1 for a custom range.
     readonly property int index: form.shutterIndex(shortest, longest)
     readonly property bool custom: asked || index < 0
+    /// The typed lower bound is greater than the upper one.
     readonly property bool wrong: lower.text !== "" && upper.text !== "" && Number(lower.text) > Number(upper.text)
-    readonly property real longestKnown: 100000
+    readonly property real longestKnown: 100000  // largest number of the fields, ms
 
+    /// Shows the range on the device.
     function follow() {
         asked = false;
         // Devices store times as single-precision floats.
@@ -23,10 +27,12 @@ Column {
         upper.text = String(Number(longest.toPrecision(6)));
     }
 
+    /// Writes a range in ms.
     function write(lowest, highest) {
         group.work.set(group.key, form.shutterWrites(longest, lowest, highest));
     }
 
+    /// Writes the typed range if it is valid and differs from the range on the device.
     function finish() {
         if (!custom || wrong || !lower.acceptableText || !upper.acceptableText)
             return;

@@ -1,4 +1,5 @@
-// The side of the image settings: channel with live view and name, configuration mode, refresh and defaults.
+// The side of the image settings: live view, channel and its name, configuration mode, refresh and defaults. A changed
+// name is written to the device immediately.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -11,6 +12,8 @@ Item {
     readonly property var groups: form.groups
     signal defaultsRequested
 
+    /// Writes the typed name if it is valid and differs. An empty name is replaced by the current one; a name that is
+    /// too long stays with its error.
     function finishName() {
         if (nameField.errorText !== "")
             return;

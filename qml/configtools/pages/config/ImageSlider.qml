@@ -1,4 +1,5 @@
-// An image setting with a slider.
+// A row of an image setting with a slider. The value is written to the device when the slider is released, or shortly
+// after the last step by a key.
 import QtQuick
 import configtools
 
@@ -6,9 +7,9 @@ OVFormRow {
     id: root
 
     required property ImageGroup group
-    required property string subKey
-    property int least: group.least(subKey)
-    property int most: group.most(subKey)
+    required property string subKey  // key of the setting in the group
+    property int least: group.least(subKey)  // of the slider
+    property int most: group.most(subKey)  // of the slider
 
     labelWidth: Theme.imageLabelWidth
     visible: group.supports(subKey)

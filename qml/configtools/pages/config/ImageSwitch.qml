@@ -1,4 +1,4 @@
-// An image setting that is on or off.
+// A row of an image setting that is on or off. A change is written to the device immediately.
 import QtQuick
 import configtools
 
@@ -6,8 +6,8 @@ OVFormRow {
     id: root
 
     required property ImageGroup group
-    required property string subKey
-    property bool asNumber: false  // the device uses 0 and 1
+    required property string subKey  // key of the setting in the group
+    property bool asNumber: false  // the setting is the number 0 or 1 instead of a bool
 
     labelWidth: Theme.imageLabelWidth
     visible: group.supports(subKey)

@@ -1,4 +1,5 @@
-// Reads and writes the image settings of the session's device.
+// Reads and writes the image settings of the session's device. Each change is written immediately, so nothing is
+// unsaved.
 import QtQuick
 import configtools
 
@@ -6,21 +7,24 @@ Item {
     id: root
 
     required property var session  // a ConfigSession
-    required property var deviceFactory
+    required property var deviceFactory  // a CDeviceFactory
     property bool read: false  // the form shows the current device
-    property int refusal: 0  // error code of the last change, 0 for none
-    property var connectedChannels: []  // whether each channel has a camera
+    property int refusal: 0  // error of the device library for the last change, 0 for none
+    property var connectedChannels: []  // list of bool: whether each channel has a camera
     readonly property alias form: cameraForm
 
+    /// The settings are read again when the tab is next shown.
     function clear() {
         read = false;
     }
 
+    /// Reads the settings of the current channel again.
     function load() {
         chooseChannel(-1);
     }
 
-    /// `index` is -1 for the last chosen channel.
+    /// Selects a channel and reads its settings. `index` counts from 0; -1 for the current channel. After a failure the
+    /// form shows the earlier values.
     function chooseChannel(index) {
         session.work.run(qsTr("正在读取图像配置…"), () => session.work.readImage(index), connected => {
             read = session.loggedIn;
@@ -31,12 +35,14 @@ Item {
         });
     }
 
+    /// Selects the configuration mode with this index in `form.switchModes` and reads its settings.
     function chooseMode(index) {
         session.work.run(qsTr("正在读取图像配置…"), () => session.work.chooseImageMode(index),
                          () => read = session.loggedIn);
     }
 
-    /// Writes values of a group: pairs of sub-key and value.
+    /// Writes values of a group: pairs [sub-key, value]. Then the form shows the values that the device has; a refusal
+    /// or a missing response is notified.
     function set(key, values) {
         refusal = 0;
         session.work.write(qsTr("正在写入图像配置…"), () => session.work.writeImage(key, values), () => {

@@ -1,23 +1,26 @@
-// Names many channels of a device, or many cameras, by a pattern, with a preview.
+// Makes names from a pattern, with a preview: for the channels of one device, or for channel 1 of several cameras. It
+// writes nothing; the owner handles the signals.
 import QtQuick
 import configtools
 
 OVDialog {
     id: root
 
-    required property var deviceFactory
-    property string device: ""    // device with the channels
-    property int channelCount: 0
-    property var cameras: []      // addresses and ports of ticked devices; the first channel of cameras is named
+    required property var deviceFactory  // a CDeviceFactory
+    property string device: ""    // "address:port" of the device with the channels; "" for none
+    property int channelCount: 0  // number of its channels; 0 without a device
+    property var cameras: []      // "address:port" of the ticked devices; recorders among them are skipped
     property int cameraCount: 0   // number of cameras among these devices
-    property bool ofChannels: true
+    property bool ofChannels: true  // channels of `device` are named; otherwise `cameras`
+    /// Error of the pattern or a number, "" for none.
     readonly property string fault: plan.fault !== "" ? plan.fault
         : !startField.acceptable || !digitsField.acceptable ? startField.invalidText : ""
-    property bool tried: false
-    signal channelsNamed(var channels, var names)  // channel numbers from 0, as texts
-    signal camerasNamed(var ipports, var names)
+    property bool tried: false  // OK was pressed: the field shows its error
+    signal channelsNamed(var channels, var names)  // channels: numbers from 0, as texts; names: in the same order
+    signal camerasNamed(var ipports, var names)  // ipports: of the ticked cameras; names: in the same order
 
-    /// Returns false if there is nothing to name. Without a device, `channelCount` is 0.
+    /// Opens the dialog. Returns false, without opening it, if there is neither a channel nor a camera. `device` is ""
+    /// and `channelCount` 0 without a device.
     function ask(device, channelCount, cameras) {
         root.device = device;
         root.channelCount = channelCount;
@@ -31,6 +34,7 @@ OVDialog {
         return true;
     }
 
+    /// Shows the preview for the channels or for the cameras.
     function choose(ofChannels) {
         root.ofChannels = ofChannels;
         if (ofChannels)
@@ -39,6 +43,7 @@ OVDialog {
             plan.takeCameras(cameras);
     }
 
+    /// Closes the dialog and emits the names of the ticked rows.
     function begin() {
         close();
         if (ofChannels)

@@ -1,4 +1,5 @@
-// The tabs of the configuration page and the state of the device.
+// The right side of the configuration page: its three tabs and the state of the device. Before the settings of a tab
+// are read, it shows the reason and an action instead.
 import QtQuick
 import configtools
 
@@ -6,21 +7,22 @@ Rectangle {
     id: root
 
     required property ConfigSession session
-    required property bool hasDevices  // the tree is not empty
+    required property bool hasDevices  // the tree has a device
     required property int targetCount  // number of targets of a copy
     required property int tickedCount  // number of ticked devices in the tree
+    /// The settings of the current tab were read.
     readonly property bool shown: session.encodeShown ? session.encoding.read
         : session.imageShown ? session.image.read : session.names.read
     /// No device is chosen, but ticked cameras can be named.
     readonly property bool canName: session.device === "" && session.namesShown && tickedCount > 0
-    signal tabRequested(int index)
-    signal encodeChannelRequested(int index)
-    signal streamTypeRequested(int index)
-    signal refreshRequested
-    signal namesRefreshRequested
-    signal namePatternRequested
-    signal nextDeviceRequested
-    signal copyRequested
+    signal tabRequested(int index)  // show the tab with this index
+    signal encodeChannelRequested(int index)  // read the encode settings of the channel with this index
+    signal streamTypeRequested(int index)  // read the type of the main stream with this index
+    signal refreshRequested  // read the encode settings again
+    signal namesRefreshRequested  // read the channel names again
+    signal namePatternRequested  // open the dialog that names by a pattern
+    signal nextDeviceRequested  // open the next device of the tree
+    signal copyRequested  // copy the encode settings to the ticked devices
 
     border.color: Theme.colours.line
     border.width: Theme.line
