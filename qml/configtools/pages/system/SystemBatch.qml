@@ -1,4 +1,4 @@
-// A system command and its batch.
+// The last system command of the page and its batch.
 import QtQuick
 import configtools
 
@@ -6,16 +6,17 @@ QtObject {
     id: root
 
     required property Batches batches
-    property Batch batch: null  // of the last command, null before
-    property string command
-    readonly property BatchReport report: batch?.report ?? none
+    property Batch batch: null  // of the last command or its retry; null before
+    property string command  // name of the last command, see run()
+    readonly property BatchReport report: batch?.report ?? none  // of the batch; empty before the first
     readonly property bool running: batch?.running ?? false
-    readonly property string device: batch?.device ?? ""
-    signal resulted(var devices, var results)  // see Batch
+    readonly property string device: batch?.device ?? ""  // a device with a running request, see Batch::device()
+    signal resulted(var devices, var results)  // devices: "address:port"; results: of the same devices; see Batch
     signal retried  // `batch` is now the retry
     signal finished
 
-    /// Returns false if the batch is refused.
+    /// Starts a command. `command` and the keys of `data`: see SystemCommand and SystemDataKey of the back end.
+    /// `title`: its name for the user. `devices`: "address:port". Returns false after a refusal, which Batches reports.
     function run(command, title, devices, data) {
         const begun = batches.configureSystem("dh", command, title, data, devices);
         if (begun === null)
@@ -25,7 +26,7 @@ QtObject {
         return true;
     }
 
-    /// Cancels the next step, `title`, of the waiting devices.
+    /// Sets the devices that wait for their next step to "not done". `title`: name of that step.
     function cancelWaiting(title) {
         batch?.cancelWaiting(title);
     }

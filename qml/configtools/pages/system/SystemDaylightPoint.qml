@@ -1,20 +1,20 @@
-// Start or end of daylight saving: a day of the month, or a weekday of a week.
+// Fields for the start or end of daylight saving: either month and day, or month, week and weekday, and a time.
 import QtQuick
 import configtools
 
 Flow {
     id: root
 
-    required property SystemLists lists
-    required property var deviceFactory  // provides the days of a month
-    required property bool byWeek
-    required property string name  // prefix of its keys and object names: "start" or "end"
+    required property SystemLists lists  // texts of the choices
+    required property var deviceFactory  // a CDeviceFactory; provides the days of a month
+    required property bool byWeek  // week and weekday are entered instead of the day
+    required property string name  // prefix of the keys and object names: "start" or "end"
     property alias month: monthBox.currentIndex  // from 0
-    property alias week: weekBox.currentIndex
-    property alias time: timeField.text
-    readonly property alias acceptable: timeField.acceptable
+    property alias week: weekBox.currentIndex  // index in SystemLists.weeks
+    property alias time: timeField.text  // "hh:mm"
+    readonly property alias acceptable: timeField.acceptable  // the time is valid
 
-    /// Its values in the command's data.
+    /// The values as part of the data of the command "dstConfig". The keys begin with `name`.
     function values() {
         return {
             [name + "Month"]: monthBox.currentIndex + 1,

@@ -1,15 +1,16 @@
-// Daylight saving settings.
+// The section for daylight saving of the ticked devices: switched on or off, start and end. It shows no values of
+// devices and requests the command "dstConfig".
 import QtQuick
 import configtools
 
 OVSection {
     id: root
 
-    required property bool available
-    required property string unavailableText  // why the ticked devices cannot be used; "" if they can
-    required property var deviceFactory
-    signal actionRequested(string command, string title, var data)
-    signal refused(string message)
+    required property bool available  // devices are ticked and no batch runs
+    required property string unavailableText  // why no command can start, for tool tips; "" if `available`
+    required property var deviceFactory  // a CDeviceFactory; provides the days of a month
+    signal actionRequested(string command, string title, var data)  // see SystemPanels
+    signal refused(string message)  // the input is invalid; nothing was requested
 
     title: qsTr("夏令时")
 

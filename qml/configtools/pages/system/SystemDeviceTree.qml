@@ -1,4 +1,5 @@
-// The device tree of a page, with search field and filters.
+// The device tree of the configuration page and of the system page, with a search field and filters. Devices can be
+// ticked; on the configuration page one device can also be chosen.
 import QtQuick
 import configtools
 
@@ -6,25 +7,27 @@ Rectangle {
     id: root
 
     required property OVTreeModel devices
-    required property var describer
-    required property string busyDevice
-    required property bool searching
-    required property bool libraryInstalled
-    property bool locked: false  // an operation runs: the selection cannot be changed
-    property bool choosing: false  // a device can be chosen
-    property string chosenDevice
+    required property var describer  // object with the function resultText(result, ipport), see OVTree
+    required property string busyDevice  // "address:port" of a device with a running request; "" for none
+    required property bool searching  // a search runs
+    required property bool libraryInstalled  // false: there is no device library, so no device can be reached
+    property bool locked: false  // an operation runs: the tree is disabled, and the ticks cannot be changed
+    property bool choosing: false  // a click on a device chooses it
+    property string chosenDevice  // "address:port"; "" for none
+    /// Text of the search field without spaces at its ends. The page rebuilds the tree when it changes.
     readonly property string searchText: searchField.text.trim()
-    signal searchRequested
-    signal deviceChosen(string ipport)
-    signal detailRequested(string name)  // name of the device's row
-    signal menuRequested(string name, var position)
+    signal searchRequested  // start a device search
+    signal deviceChosen(string ipport)  // "address:port"
+    signal detailRequested(string name)  // name (identity) of the device's row
+    signal menuRequested(string name, var position)  // name: of the device's row; position: see OVEntryMenu.openAt()
 
+    /// Focuses the search field and selects its text.
     function focusSearch() {
         searchField.forceActiveFocus(Qt.ShortcutFocusReason);
         searchField.selectAll();
     }
 
-    /// Chooses the next device. Returns whether there is one.
+    /// Chooses the device below the chosen one. Returns false if there is none.
     function chooseNext() {
         const row = treeRows.deviceAfter(chosenDevice);
         if (row >= 0) {

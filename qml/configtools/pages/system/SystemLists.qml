@@ -1,4 +1,5 @@
-// Choices of the system page, in the numbering of devices.
+// Texts of the choices of the system page. The index of a text is its number in the data of a command, except for
+// months, which count from 1 there.
 import QtQuick
 
 QtObject {

@@ -1,4 +1,5 @@
-// The panels of the system page, in tabs.
+// The tabs with the commands of the system page. They only request; the page confirms and starts the command for the
+// ticked devices.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -6,28 +7,34 @@ import configtools
 Rectangle {
     id: root
 
-    required property bool available
-    required property string unavailableText  // why the ticked devices cannot be used; "" if they can
+    required property bool available  // devices are ticked and no batch runs
+    required property string unavailableText  // why no command can start, for tool tips; "" if `available`
     required property int upgradingCount  // number of ticked devices that are being upgraded
-    required property bool locked  // an operation runs
-    required property string timeZone
-    required property var deviceFactory
+    required property bool locked  // a command runs: the tabs cannot be used
+    required property string timeZone  // of this computer, as "UTC+08:00" or "UTC-5:00"
+    required property var deviceFactory  // a CDeviceFactory
     required property SystemPasswordTime passwordTime
-    property int currentPanel: 0
+    property int currentPanel: 0  // index of the tab
 
-    // Functions of the network library.
+    /// Functions of the network library, as a map of bool: "timeServerDetails", "automaticMaintenance" and
+    /// "videoStandard" are used here.
     readonly property var functions: deviceFactory.getConfigData("dh", "library", 0)
-    property alias clocks: timePanel.clocks
+    property alias clocks: timePanel.clocks  // see SystemTimePanel
+    /// Run a command. `command` and the keys of `data`: see SystemCommand and SystemDataKey of the back end. `title`:
+    /// its name for the user.
     signal actionRequested(string command, string title, var data)
     signal rebootRequested
     signal resetRequested
-    signal passwordCheckRequested(string password)
+    signal passwordCheckRequested(string password)  // check the old password
+    /// Set the new password; keeping: an AccountList.Keeping.
     signal passwordChangeRequested(string password, int keeping)
-    signal refused(string message)
+    signal refused(string message)  // the input is invalid; nothing was requested
 
+    /// Clears the new password, also the one that is set aside.
     function clearNewPassword() {
         passwordPanel.clearNewPassword();
     }
+    /// Clears the old password.
     function clearOldPassword() {
         passwordPanel.clearOldPassword();
     }

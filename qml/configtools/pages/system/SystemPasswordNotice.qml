@@ -1,4 +1,4 @@
-// Remaining time for the new password, or why it has ended.
+// A line with the remaining time for the new password or, after its end, the reason of the end.
 import QtQuick
 import configtools
 
@@ -6,16 +6,17 @@ Row {
     id: root
 
     required property SystemPasswordTime time
-    required property bool keeps     // a typed new password is kept
-    required property bool restored  // the kept password is in the fields again
+    required property bool keeps     // a typed new password is set aside and will be restored
+    required property bool restored  // the password that was set aside is in the fields again
 
-    readonly property bool hurried: time.open && time.secondsLeft <= 15
+    readonly property bool hurried: time.open && time.secondsLeft <= 15  // 15 seconds or less are left
     readonly property string text: time.changing ? "" : time.open ? remaining : reason
     readonly property string remaining:
         (hurried ? qsTr("只剩 %1 秒，之后需要重新验证旧密码").arg(time.secondsLeft)
                  : qsTr("%1 秒后失效").arg(time.secondsLeft))
         + " · " + qsTr("%n 台设备等待新密码", "", time.devices.length)
         + (restored ? " · " + qsTr("已恢复之前输入的新密码") : "")
+    /// Why the time has ended; "" after a regular end.
     readonly property string reason: {
         const next = qsTr("请重新验证旧密码。") + (keeps ? qsTr("已输入的新密码届时会恢复。") : "");
         switch (time.ending) {

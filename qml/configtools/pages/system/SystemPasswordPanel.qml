@@ -1,35 +1,40 @@
-// Changes passwords: checks the old one, then takes the new one within a minute.
+// The tab that changes passwords: first the old password is checked, then the new one can be entered within a minute.
+// It only requests; the page starts the batches.
 import QtQuick
 import configtools
 
 Column {
     id: root
 
-    required property bool available
-    required property string unavailableText  // why the ticked devices cannot be used; "" if they can
+    required property bool available  // devices are ticked and no batch runs
+    required property string unavailableText  // why no command can start, for tool tips; "" if `available`
     required property SystemPasswordTime time
-    required property var deviceFactory  // provides the password strength
-    signal checkRequested(string password)
-    signal changeRequested(string password, int keeping)
-    signal refused(string message)
+    required property var deviceFactory  // a CDeviceFactory; provides the password strength
+    signal checkRequested(string password)  // check this old password on the ticked devices
+    signal changeRequested(string password, int keeping)  // set this new password; keeping: an AccountList.Keeping
+    signal refused(string message)  // the input is invalid; nothing was requested
 
-    readonly property bool editorEnabled: time.open
+    readonly property bool editorEnabled: time.open  // the new password can be entered
     // Input when the editor closed. It is restored after the next check of the old password.
     property string keptPassword
     property string keptConfirmation
-    property bool restored: false
+    property bool restored: false  // the fields were filled with the input that was set aside
 
+    /// A SystemTools.PasswordFault of the new password.
     readonly property int fault: SystemTools.newPasswordFault(newField.text, confirmField.text)
 
+    /// Clears the new password, also the one that is set aside.
     function clearNewPassword() {
         newField.text = confirmField.text = keptPassword = keptConfirmation = "";
     }
+    /// Called when the time has ended: clears the fields, and keeps their input in memory for restore().
     function setAside() {
         keptPassword = newField.text;
         keptConfirmation = confirmField.text;
         newField.text = confirmField.text = "";
         restored = false;
     }
+    /// Called when the time begins: fills the fields with the input that was set aside.
     function restore() {
         newField.text = keptPassword;
         confirmField.text = keptConfirmation;
@@ -37,10 +42,12 @@ Column {
         keptPassword = keptConfirmation = "";
         newField.forceActiveFocus();
     }
+    /// Clears the old password.
     function clearOldPassword() {
         oldField.text = "";
     }
 
+    /// The error text of a SystemTools.PasswordFault.
     function textOf(fault) {
         switch (fault) {
         case SystemTools.TooWeak:
@@ -56,12 +63,14 @@ Column {
         }
     }
 
+    /// Requests the check of the old password, or refuses an empty one.
     function check() {
         if (oldField.text === "")
             refused(qsTr("请输入旧密码"));
         else
             checkRequested(oldField.text);
     }
+    /// Requests the change to the new password, or refuses an invalid one.
     function change() {
         if (fault !== SystemTools.NoFault)
             refused(textOf(fault));

@@ -1,24 +1,25 @@
-// The minute for the new password after the check of the old one: devices, remaining time, reason of the end. The back
-// end keeps their logins for that time.
+// The minute for the new password after the check of the old one. The back end keeps the logins of the devices that
+// have accepted the old password until endLogins().
 import QtQml
 import configtools
 
 QtObject {
     id: root
 
-    required property var deviceFactory
-    required property bool changing  // a batch sends the new password with the kept logins
+    required property var deviceFactory  // a CDeviceFactory
+    required property bool changing  // the batch that sends the new password runs; the time does not run out meanwhile
     property bool open: false        // the new password can be entered
-    property int secondsLeft: 0
-    property list<string> devices    // with the old password
-    property int ending: SystemPasswordTime.Regular
+    property int secondsLeft: 0  // 0 to 60
+    property list<string> devices    // "address:port" of the devices that still have the old password
+    property int ending: SystemPasswordTime.Regular  // reason of the last end, an Ending
     property int leftCount: 0        // number of devices with the old password at the end
-    property int second: 1000        // ms
-    property bool endsLater: false
-    signal ended
+    property int second: 1000        // length of a second in ms; tests set a shorter one
+    property bool endsLater: false  // the logins end after the running batch
+    signal ended  // the logins are closed
 
     enum Ending { Regular, TimeOver, OtherTicks, OtherWork }
 
+    /// Starts the time. `waiting`: "address:port" of the devices that have accepted the old password.
     function begin(waiting) {
         devices = waiting;
         ending = SystemPasswordTime.Regular;
@@ -27,7 +28,8 @@ QtObject {
         countdown.restart();
     }
 
-    /// Ends the input. The logins end too, those of a running batch after its end.
+    /// Ends the time. The kept logins are closed, too; while a batch uses them, after its end. Does nothing if the time
+    /// has ended already. `why`: an Ending.
     function close(why) {
         if (!open)
             return;
@@ -41,7 +43,8 @@ QtObject {
             endLogins();
     }
 
-    /// Result of a batch; `left` still have the old password.
+    /// Called at the end of a batch of new passwords. `left`: "address:port" of the devices that still have the old
+    /// password. Without such a device, or when no time is left, the time ends.
     function takeResults(left) {
         devices = left;
         if (endsLater)
@@ -52,6 +55,7 @@ QtObject {
             close(SystemPasswordTime.TimeOver);
     }
 
+    /// Closes the kept logins in the background.
     function endLogins() {
         endsLater = false;
         devices = [];

@@ -1,17 +1,17 @@
-// Confirms a command, with a list of the changes to each device.
+// Confirms a command of the system page, with a list of the devices and their changes.
 import QtQuick
 import configtools
 
 Item {
     id: root
 
-    required property var deviceFactory
+    required property var deviceFactory  // a CDeviceFactory
     readonly property SystemLists lists: SystemLists {}
 
-    // Commands without changes are sent immediately.
+    /// Commands that change nothing: they need no confirmation.
     readonly property var harmless: ["readTime", "loginCheck"]
 
-    /// The change by a command, as text.
+    /// The change by a command, as text. Parameters: see SystemBatch.run().
     function actionText(command, title, data) {
         switch (command) {
         case "dstConfig":
@@ -32,8 +32,9 @@ Item {
         }
     }
 
-    /// Calls `send` with the devices of the command and those that the user has unticked, immediately if no
-    /// confirmation is needed.
+    /// Asks the user, then calls `send` with two lists of "address:port": the ticked devices and the unticked ones.
+    /// Calls it immediately if no confirmation is needed, and not at all if the user cancels. Other parameters: see
+    /// SystemBatch.run().
     function ask(command, title, data, ipports, send) {
         if (harmless.includes(command)) {
             send(ipports, []);
@@ -54,7 +55,7 @@ Item {
                                 {title: title, okText: qsTr("执行"), listed: true, quick: true, subject: command, action: send});
     }
 
-    /// Closes the confirmation of a command that is no longer possible.
+    /// Closes the open confirmation of this command, which is no longer possible.
     function withdraw(command) {
         dialog.item?.withdraw(command);
     }

@@ -1,17 +1,17 @@
-// Scheduled reboots, and an immediate one.
+// The tab with scheduled reboots (command "autoMaintain") and an immediate reboot.
 import QtQuick
 import configtools
 
 Column {
     id: root
 
-    required property bool available
-    required property string unavailableText  // why the ticked devices cannot be used; "" if they can
-    required property bool hasMaintenance
+    required property bool available  // devices are ticked and no batch runs
+    required property string unavailableText  // why no command can start, for tool tips; "" if `available`
+    required property bool hasMaintenance  // the network library can schedule reboots
     required property int upgradingCount  // number of ticked devices that are being upgraded
-    signal actionRequested(string command, string title, var data)
-    signal rebootRequested
-    signal refused(string message)
+    signal actionRequested(string command, string title, var data)  // see SystemPanels
+    signal rebootRequested  // reboot the ticked devices; nothing was asked yet
+    signal refused(string message)  // the input is invalid; nothing was requested
 
     spacing: Theme.pageMargin * 1.5
 

@@ -1,14 +1,14 @@
-// Factory reset.
+// The tab with the factory reset of the ticked devices.
 import QtQuick
 import configtools
 
 OVSection {
     id: root
 
-    required property bool available
-    required property string unavailableText  // why the ticked devices cannot be used; "" if they can
+    required property bool available  // devices are ticked and no batch runs
+    required property string unavailableText  // why no command can start, for tool tips; "" if `available`
     required property int upgradingCount  // number of ticked devices that are being upgraded
-    signal resetRequested
+    signal resetRequested  // reset the ticked devices; nothing was asked yet
 
     title: qsTr("恢复出厂设置")
 

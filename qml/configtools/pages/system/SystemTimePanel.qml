@@ -1,16 +1,18 @@
-// Device clocks: set to the host's time or manually, and read.
+// The tab for the clocks of the ticked devices: they can be set to the time of this computer or to a typed time, and
+// read.
 import QtQuick
 import configtools
 
 Column {
     id: root
 
-    required property bool available
-    required property string unavailableText  // why the ticked devices cannot be used; "" if they can
-    required property string timeZone
-    property var clocks: []  // maps with "device" and "message" (its time), of the last devices read
-    signal actionRequested(string command, string title, var data)
-    signal refused(string message)
+    required property bool available  // devices are ticked and no batch runs
+    required property string unavailableText  // why no command can start, for tool tips; "" if `available`
+    required property string timeZone  // of this computer, as "UTC+08:00" or "UTC-5:00"
+    /// Maps with "device" ("address:port") and "message" (its time or the error), of the last devices read.
+    property var clocks: []
+    signal actionRequested(string command, string title, var data)  // see SystemPanels
+    signal refused(string message)  // the input is invalid; nothing was requested
 
     spacing: Theme.pageMargin * 1.5
     onClocksChanged: clockRows.setNumberedRows(clocks)
@@ -130,6 +132,7 @@ Column {
         }
     }
 
+    /// Requests the command with the typed time, or refuses an invalid one.
     function applyByHand() {
         const time = field.text;
         if (field.acceptable)

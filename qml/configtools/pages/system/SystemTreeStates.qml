@@ -1,4 +1,4 @@
-// The filter of a device tree: all, failed, or not logged in.
+// The filter of a device tree: all devices, those with a failed batch, or those not logged in.
 import QtQuick
 import configtools
 
@@ -6,7 +6,9 @@ OVSegmentedChoice {
     id: root
 
     required property OVTreeModel devices
+    /// Number of failed devices that this tree cannot list.
     readonly property int elsewhereCount: devices.failedElsewhereCount
+    /// The OVTreeModel.Shown of each option.
     readonly property var shownOf: [OVTreeModel.All, OVTreeModel.Failed, OVTreeModel.LoggedOut]
 
     currentIndex: shownOf.indexOf(devices.shown)

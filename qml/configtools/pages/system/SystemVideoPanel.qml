@@ -1,14 +1,14 @@
-// The video standard of devices.
+// The tab that sets the video standard of the ticked devices. It does not show their current standard.
 import QtQuick
 import configtools
 
 OVSection {
     id: root
 
-    required property bool available
-    required property string unavailableText  // why the ticked devices cannot be used; "" if they can
-    required property bool supported
-    signal actionRequested(string command, string title, var data)
+    required property bool available  // devices are ticked and no batch runs
+    required property string unavailableText  // why no command can start, for tool tips; "" if `available`
+    required property bool supported  // the network library can set the standard
+    signal actionRequested(string command, string title, var data)  // see SystemPanels
 
     title: qsTr("视频制式")
 

@@ -1,20 +1,24 @@
-// Daylight saving, time zone and NTP.
+// The tab for daylight saving, time zone and NTP of the ticked devices. It shows no values of devices: the time zone is
+// initially that of this computer.
 import QtQuick
 import configtools
 
 Column {
     id: root
 
-    required property bool available
-    required property string unavailableText  // why the ticked devices cannot be used; "" if they can
-    required property bool hasServerDetails  // the network library can set port and period
-    required property string timeZone
-    required property var deviceFactory
-    signal actionRequested(string command, string title, var data)
-    signal refused(string message)
+    required property bool available  // devices are ticked and no batch runs
+    required property string unavailableText  // why no command can start, for tool tips; "" if `available`
+    /// The network library can set NTP port and period; otherwise their fields are hidden.
+    required property bool hasServerDetails
+    required property string timeZone  // of this computer, as "UTC+08:00" or "UTC-5:00"
+    required property var deviceFactory  // a CDeviceFactory; provides the days of a month
+    signal actionRequested(string command, string title, var data)  // see SystemPanels
+    signal refused(string message)  // the input is invalid; nothing was requested
 
+    /// "" if a time zone is selected.
     readonly property string zoneError: zoneBox.currentIndex >= 0 ? ""
         : qsTr("设备没有本机的时区 %1，请选择时区").arg(timeZone)
+    /// First error of time zone and NTP, "" for none.
     readonly property string ntpError: zoneError !== "" ? zoneError : ntpBox.checked && serverField.errorText !== "" ? serverField.errorText
         : !portField.acceptable ? portField.invalidText : !periodField.acceptable ? periodField.invalidText : ""
 
