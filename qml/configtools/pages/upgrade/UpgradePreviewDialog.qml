@@ -1,29 +1,31 @@
-// Confirms upgrades, with a list of the firmware of each device and of skipped devices with reasons.
+// Confirms upgrades of listed devices or of a document, with a list of the firmware of each device and of skipped
+// devices with reasons. It starts nothing; the owner handles the signals.
 import QtQuick
 import configtools
 
 OVDialog {
     id: root
 
-    required property var deviceFactory
+    required property var deviceFactory  // a CDeviceFactory
     property string path  // path of the document; "" for devices of the table
-    signal confirmed(var identities)
-    signal documentConfirmed(string path, var lines)  // line numbers as texts
-    signal documentRefused(string reason)
+    signal confirmed(var identities)  // identities of the ticked devices, including skipped ones
+    signal documentConfirmed(string path, var lines)  // lines: numbers of the ticked lines, as texts
+    signal documentRefused(string reason)  // the document cannot be used; the dialog does not open
 
-    /// Asks for devices of the table.
+    /// Opens the dialog for listed devices, each with the file in its row.
     function ask(identities) {
         path = "";
         preview.setIdentities(identities);
         open();
     }
 
-    /// Asks for devices of a document after reading it.
+    /// Reads a document in the background. Then the dialog opens, or documentRefused is emitted.
     function askDocument(file) {
         path = file;
         preview.readDocument(file);
     }
 
+    /// Closes the dialog and emits `confirmed` or `documentConfirmed`.
     function start() {
         close();
         if (path === "")

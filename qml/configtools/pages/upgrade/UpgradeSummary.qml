@@ -1,14 +1,15 @@
-// The result of the last upgrade batch.
+// A line with the progress and the result of the latest upgrade batch. It has no height before the first batch.
 import QtQuick
 import configtools
 
 Item {
     id: root
 
-    required property Batch batch  // null before the first one
+    required property Batch batch  // the latest upgrade batch; null before the first one
 
     readonly property BatchReport report: batch?.report ?? none
     readonly property BatchReport none: BatchReport {}
+    /// Number of devices with a result; devices that were not reached do not count.
     readonly property int done: batch?.running ? batch.done : report.total - report.notDone
     readonly property string outcome: {
         if (batch?.running)  // the remaining ones are still in progress

@@ -1,16 +1,18 @@
-// The table of the upgrade page: file, progress and result of each device.
+// The table of the upgrade page: file, progress and result of each device. It only requests; the page acts. F2 requests
+// the note of the current row.
 import QtQuick
 import configtools
 
 OVTable {
     id: root
 
-    required property bool ipv6
-    signal fileRequested(int row)
+    required property bool ipv6  // the rows are IPv6 devices: wider addresses
+    signal fileRequested(int row)  // choose the firmware file
     signal startRequested(int row)
     signal stopRequested(int row)
-    signal noteRequested(int row)
+    signal noteRequested(int row)  // edit the note
 
+    /// Names of the states of a running upgrade, by UpgradeTools.Result.
     readonly property var phases: ({
         [UpgradeTools.Waiting]: qsTr("等待"), [UpgradeTools.Preparing]: qsTr("登录"),
         [UpgradeTools.Sending]: qsTr("发送"), [UpgradeTools.Writing]: qsTr("写入"),

@@ -1,5 +1,5 @@
-// The tool bar of the upgrade page: actions on the ticked devices, number of concurrent upgrades, and filters. In a
-// narrow window the filters are in a second line.
+// The tool bar of the upgrade page: actions on the ticked devices that the filters show, the number of concurrent
+// upgrades, and the filters. It only requests; the page acts. In a narrow window the filters are in a second line.
 import QtQuick
 import QtQuick.Layouts
 import configtools
@@ -7,25 +7,27 @@ import configtools
 Item {
     id: root
 
-    required property bool ipv6
+    required property bool ipv6  // IPv6 devices are shown
     required property DeviceTableModel devices
-    required property int parallelUpgrades
+    required property int parallelUpgrades  // chosen number of concurrent upgrades, from 1
     property alias searchText: searchField.text
     readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
     signal ipv6Chosen(bool ipv6)
     signal fileRequested
     signal startRequested
-    signal retryRequested
-    signal documentRequested
-    signal templateRequested
-    signal parallelUpgradesChosen(int count)
+    signal retryRequested  // retry failed upgrades of all devices
+    signal documentRequested  // upgrade the devices of a document
+    signal templateRequested  // open the template of documents
+    signal parallelUpgradesChosen(int count)  // 1 to `maximumUpgrades`
 
+    /// Focuses the search field and selects its text.
     function focusSearch() {
         searchField.forceActiveFocus(Qt.ShortcutFocusReason);
         searchField.selectAll();
     }
 
     readonly property int maximumUpgrades: 16
+    /// The filters are in a second line.
     readonly property bool wraps: width < actions.width + filters.spacing + filters.leastWidth
     readonly property int lineHeight: Theme.controlHeight + Theme.unit
 

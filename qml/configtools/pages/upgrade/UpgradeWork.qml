@@ -1,4 +1,5 @@
-// Upgrades of the devices in the table: files, confirmation, and refresh of rows.
+// The upgrades of the upgrade page: choice of files, confirmation, start, refresh of rows and messages. Refusals are
+// notified.
 import QtQuick
 import configtools
 
@@ -6,14 +7,15 @@ Item {
     id: root
 
     required property Batches batches
-    required property var deviceFactory
+    required property var deviceFactory  // a CDeviceFactory
     required property var deviceTable  // a DeviceTableModel
-    required property var fileDialogs
-    required property var upgradeBatches
-    required property bool shown
-    signal changed  // any row may have changed
-    signal notify(string message, int severity)
+    required property var fileDialogs  // a FileDialogs
+    required property var upgradeBatches  // an UpgradeBatches
+    required property bool shown  // the page is visible; changed rows of a hidden page are read when it is shown
+    signal changed  // any row may have changed: the page reads the list again
+    signal notify(string message, int severity)  // severity: of OVToast
 
+    /// Sets one firmware file for all ticked devices. Refused if none is ticked.
     function chooseFileForChecked() {
         if (deviceTable.checkedCount === 0)
             notify(qsTr("请选择一台设备"), OVToast.Refusal);
@@ -21,6 +23,8 @@ Item {
             chooseFile(deviceTable.checkedMacs());
     }
 
+    /// Asks for a firmware file and sets it for the devices with these identities. Notifies if a device cannot be
+    /// upgraded with it.
     function chooseFile(identities) {
         fileDialogs.chooseFile(qsTr("选择升级文件"),
                                [qsTr("升级文件") + " (*.bin *.img *.upg)", qsTr("所有文件") + " (*)"], path => {
@@ -31,6 +35,7 @@ Item {
         });
     }
 
+    /// Starts upgrades of the ticked devices, after a confirmation. Refused if none is ticked.
     function startChecked() {
         if (deviceTable.checkedCount === 0)
             notify(qsTr("请选择一台设备"), OVToast.Refusal);
@@ -38,7 +43,8 @@ Item {
             start(deviceTable.checkedMacs());
     }
 
-    /// Retries upgrades that may succeed, including rows hidden by filters.
+    /// Starts the failed upgrades that may succeed now, after a confirmation. Includes devices that are not ticked or
+    /// hidden by filters.
     function retry() {
         const identities = deviceFactory.upgradesToRetry("dh");
         if (identities.length === 0)
@@ -47,20 +53,24 @@ Item {
             start(identities);
     }
 
+    /// Confirms and starts upgrades of the devices with these identities. Refused while a batch runs.
     function start(identities) {
         if (batches.mayStart())
             question.instance().ask(identities);
     }
 
+    /// Confirms and starts the upgrades of a document. `path`: of a workbook.
     function startDocument(path) {
         question.instance().askDocument(path);
     }
 
+    /// Asks for a document, then startDocument(). Refused while a batch runs.
     function chooseDocument() {
         if (batches.mayStart())
             fileDialogs.chooseFile(qsTr("打开"), ["Excel Files (*.xlsx)"], path => startDocument(path));
     }
 
+    /// Opens the template of documents in the desktop's application. Notifies a failure.
     function openTemplate() {
         if (!deviceFactory.openTemplate())
             notify(qsTr("打开模板文件失败。"), OVToast.Error);
