@@ -1,30 +1,32 @@
-// Actions of all pages on a device that do not change it: details, web page, copy, favourite, note, account. A device
-// is given by the values of its row.
+// Actions of all pages on one device: details, web page, copy, favourite, note, account. They send nothing that changes
+// the device. `values` are the values of its row: those of DeviceTableModel.get(), or of the detail of a tree device.
 import QtQuick
 import configtools
 
 Item {
     id: root
 
-    required property var deviceFactory
-    required property var fileDialogs
+    required property var deviceFactory  // a CDeviceFactory
+    required property var fileDialogs  // a FileDialogs
     required property var webPages  // a WebPages
-    property DeviceNotes notes: null
-    property bool ipv6: false  // rows of IPv6 devices: their details are not available
-    property alias favouritesFolder: favourites.folder
-    signal notify(string message, int severity)
+    property DeviceNotes notes: null  // null: devices have no notes
+    property bool ipv6: false  // the list shows IPv6 devices, which have no details in the back end
+    property alias favouritesFolder: favourites.folder  // path of the folder of the favourites
+    signal notify(string message, int severity)  // severity: of OVToast
 
+    /// The row and the search record of the device; empty for an IPv6 device.
     function detailOf(values) {
         return ipv6 ? {} : deviceFactory.getDeviceDetail("dh", values.identity);
     }
 
+    /// Opens the dialog with all known values. It sends no request until the user asks for more values.
     function showDetail(values) {
         const dialog = detail.instance();
         dialog.load(Object.assign({}, values, detailOf(values)));
         dialog.open();
     }
 
-    /// Asks before replacing an existing file.
+    /// Writes the text of the open detail dialog to `folder`. Asks before it replaces an existing file.
     function exportDetail(folder, fileName) {
         const path = folder + "/" + fileName;
         if (!fileDialogs.exists(path)) {
@@ -36,6 +38,7 @@ Item {
         asked.show(qsTr("%1 已存在，是否覆盖？").arg(path), OVMessageBox.DangerQuestion);
     }
 
+    /// Replaces the file without a question. Shows the path or the failure in the detail dialog.
     function writeDetail(path) {
         const dialog = detail.instance();
         if (dialog.write(path))
@@ -44,7 +47,8 @@ Item {
             dialog.inform(qsTr("无法写入文件 %1").arg(path), OVToast.Error);
     }
 
-    /// The web page of a device behind a tunnel needs a second tunnel.
+    /// Opens the web page of the device in the browser, or notifies that it has none. The web port of a device behind a
+    /// tunnel is that of a second tunnel, as the tunnel in `ipport` leads to the login port.
     function openWebPage(values) {
         const known = ipv6 ? values : detailOf(values);
         const port = Number(values.ipport.slice(values.ipport.lastIndexOf(":") + 1));
@@ -56,10 +60,12 @@ Item {
             webPages.open(page);
     }
 
+    /// Whether the device can have a note: it has reported a MAC or a UUID.
     function canNote(values) {
         return notes?.canNote(values) ?? false;
     }
 
+    /// Opens the dialog of the note. Refused for a device without MAC and UUID.
     function editNote(values) {
         if (canNote(values))
             noteDialog.instance().edit(values);
@@ -67,26 +73,31 @@ Item {
             notify(qsTr("设备没有报告MAC或UUID，不能添加备注"), OVToast.Refusal);
     }
 
+    /// The address without port and without the brackets of IPv6; "" if the device has none.
     function addressOf(values) {
         return (values.ipport ?? "").replace(/:\d+$/, "").replace(/^\[|\]$/g, "");
     }
 
+    /// Name, type, model, address and port, MAC and firmware version, separated by tabs, for the clipboard.
     function textOf(values) {
         return [values.name, values.type, values.model, values.ipport, values.mac, values.vision]
             .map(text => String(text ?? "").replace(/\s+/g, " ").trim()).join("\t");
     }
 
+    /// Copies a text to the clipboard and notifies the user.
     function copy(text) {
         clipboard.copy(text);
         notify(qsTr("已复制到剪贴板"), OVToast.Success);
     }
 
-    /// Opens the choice of the account for devices, by identity or by address and port.
+    /// Opens the choice of the stored account that these devices use. `devices` are identities, or texts
+    /// "address:port".
     function chooseAccount(devices) {
         accounts.instance().choose(devices);
     }
 
-    /// Saves the device with its login account.
+    /// Saves the device as a favourite by address, with the account that a login to it uses and its name as note. A
+    /// favourite that already exists for this address and port stays unchanged. Notifies the result.
     function addFavourite(values) {
         const known = deviceFactory.accountOf("dh", values.ipport);
         const address = addressOf(values);

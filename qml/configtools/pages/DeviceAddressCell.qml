@@ -1,4 +1,5 @@
-// The address of a device, with an icon for an address conflict.
+// A table cell with address and port of a device. An icon marks an address that another device has, too. A device
+// without an address shows "DHCP:" and its port.
 import QtQuick
 import configtools
 

@@ -1,23 +1,24 @@
-// Requests that a page reads the device list after changes: once per turn of the event loop, only while the page is
-// shown.
+// Decides when a page reads the device list again after changes. Several changes in one turn of the event loop cause
+// one request. While the page is hidden, a change is only noted; the request follows when the page is shown.
 import QtQml
 
 QtObject {
     id: root
 
-    required property var deviceFactory
-    required property bool shown
+    required property var deviceFactory  // a CDeviceFactory
+    required property bool shown  // the page is visible
     property bool outdated: true  // the list changed since the last read
-    property bool complete: false  // before, properties of the page may not be set
-    signal readingRequested
+    property bool complete: false  // this object is created; before that, the properties of the page may not be set
+    signal readingRequested  // the page reads its model again
 
-    /// Called when the list has changed.
+    /// Notes a change of the list. Reports of the factory are noted without this function; a page calls it for other
+    /// changes.
     function note() {
         outdated = true;
         turn.start();
     }
 
-    /// Requests a read if the page is shown and outdated.
+    /// Requests a read now if the page is shown and the list has changed since the last read; otherwise does nothing.
     function read() {
         if (!complete || !shown || !outdated)
             return;

@@ -1,4 +1,5 @@
-// The context menu of a device (right click, Menu key, Shift+F10): the entries of the page, then the common ones.
+// The context menu of a device (right click, Menu key, Shift+F10): the entries of the page, then the common ones. Most
+// common entries are done by DeviceActions; the page handles the signals.
 import QtQuick
 import configtools
 
@@ -7,19 +8,23 @@ Item {
 
     required property Batches batches
     required property DeviceActions actions
-    property var values: ({})  // values of the row
+    property var values: ({})  // values of the row that the menu was opened for
     property bool ticks: true  // the page has check boxes
-    property var tickedDevices: () => []  // returns identities, or addresses and ports
-    signal ownChosen(string key, var values)  // an entry of the page was chosen
-    signal liveRequested(string ipport)
-    signal similarRequested(string key, var values)  // tick the devices with the same value of `key`
+    /// Function of the page: returns the ticked devices, as identities or "address:port".
+    property var tickedDevices: () => []
+    signal ownChosen(string key, var values)  // an entry of the page was chosen; values: of the row
+    signal liveRequested(string ipport)  // "address:port"
+    /// The page ticks only the devices with the same value of `key` ("type" or "model") as this row.
+    signal similarRequested(string key, var values)
 
-    /// `own` are entries of the page, see OVEntryMenu.
+    /// Opens the menu. `position`: see OVEntryMenu.openAt(). `values`: see DeviceActions. `own` are the entries of the
+    /// page, see OVEntryMenu; [] for none.
     function openAt(position, values, own) {
         root.values = values;
         menu.instance().openAt(own.concat(commonEntries(own.length > 0)), position);
     }
 
+    /// The entries after those of the page. `startsGroup`: a line separates them from the entries before.
     function commonEntries(startsGroup) {
         const address = actions.addressOf(values);
         const isInitialised = values.state ?? true;
@@ -46,6 +51,8 @@ Item {
         ]);
     }
 
+    /// The entries for the choice of an account; none without a list of accounts. `isPossible`: the device can be
+    /// logged in to.
     function accountEntries(isPossible) {
         if (!LoginMemory.accounts)
             return [];
@@ -56,6 +63,7 @@ Item {
         return [{key: "account", startsGroup: true, text: qsTr("选择账号…"), enabled: isPossible}].concat(many);
     }
 
+    /// Runs the entry with this key for the device of the menu.
     function take(key) {
         switch (key) {
         case "account":

@@ -1,11 +1,12 @@
-// The actions of a row of the main page. Only the current row's buttons are stops of the Tab key.
+// The cell with the buttons of a row of the main page. The buttons only request; the page acts. The Tab key stops only
+// at the buttons of the current row.
 import QtQuick
 import configtools
 
 OVTableCell {
     id: root
 
-    property bool editable: true
+    property bool editable: true  // false: IPv6 devices, whose address cannot be changed
     readonly property bool initialised: row?.state ?? true
     readonly property bool upgrading: UpgradeTools.isRunning(row?.upgraderes ?? UpgradeTools.None)
     signal editRequested(int row)

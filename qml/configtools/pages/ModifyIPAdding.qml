@@ -1,30 +1,37 @@
-// Adds devices by hand and from favourites: dialogs, progress and messages.
+// Adds devices to the list: one device by hand, with its dialog, progress and messages, and the window that adds
+// favourites. Each device is added by a login.
 import QtQuick
 import configtools
 
 Item {
     id: root
 
-    required property var addingBatches
+    required property var addingBatches  // an AddingBatches
     required property Batches batches
     required property BusyState busyState
-    required property var deviceFactory
-    property var pending: null  // the device being added: "dialog", "device", "isFavourite"; null for none
-    property alias favouritesFolder: savedDevices.folder
-    signal notify(string message, int severity)
-    signal added  // the device list has changed
+    required property var deviceFactory  // a CDeviceFactory
+    /// The device being added: "dialog" (an AddDeviceDialog), "device" (see AddDeviceDialog.confirmed) and
+    /// "isFavourite" (save it as a favourite after success). Null for none.
+    property var pending: null
+    property alias favouritesFolder: savedDevices.folder  // path of the folder of the favourites
+    signal notify(string message, int severity)  // severity: of OVToast
+    signal added  // a device was added by hand: the page reads the list again
 
+    /// Opens the dialog for a device by IP address.
     function openIp() {
         byHand.instance().begin(DeviceAdding.IP);
     }
+    /// Opens the dialog for a device by P2P ID.
     function openP2p() {
         byHand.instance().begin(DeviceAdding.P2P);
     }
+    /// Opens the window of the favourites.
     function openFavourites() {
         fromFavourites.instance().begin();
     }
 
-    /// Adds the device of the dialog. The dialog is busy meanwhile and can be cancelled.
+    /// Starts adding the device of the dialog. The dialog is busy meanwhile and can be cancelled, which ends the work.
+    /// While other work needs the rows, nothing starts and the dialog shows the reason.
     function tryDevice(dialog, device, isFavourite) {
         // The device may replace its row and change account and address.
         const refusal = busyState.refusal(BusyState.ChangeAddress);
@@ -37,6 +44,7 @@ Item {
         deviceAdding.addDevice(device);
     }
 
+    /// Closes the dialog after success, otherwise shows the error in it. `outcome`: see DeviceWork::addDevice().
     function showOutcome(outcome) {
         const {dialog, device, isFavourite} = pending;
         pending = null;

@@ -1,4 +1,5 @@
-// Initialisation and address changes: dialogs, batches and messages.
+// Initialisation and address changes of the main page: the dialogs, their batches, and messages. Refusals are notified,
+// and nothing starts then.
 import QtQuick
 import configtools
 
@@ -6,14 +7,14 @@ Item {
     id: root
 
     required property BusyState busyState
-    required property var deviceFactory
+    required property var deviceFactory  // a CDeviceFactory
     required property var deviceTable  // a DeviceTableModel
     required property Batches batches
-    property Batch batch: null
-    signal notify(string message, int severity)
-    signal batchStarted  // a dialog has closed after starting a batch
+    property Batch batch: null  // the latest batch of this page, also one that restores addresses; null for none
+    signal notify(string message, int severity)  // severity: of OVToast
+    signal batchStarted  // a dialog has closed while a batch runs: the page moves the keyboard focus
 
-    /// Whether devices may be changed now. If not, reports the obstacle.
+    /// Whether addresses and accounts of rows may be changed now. Notifies the obstacle if not.
     function mayBegin() {
         const refusal = busyState.refusal(BusyState.ChangeAddress);
         if (refusal !== "")
@@ -21,6 +22,8 @@ Item {
         return refusal === "";
     }
 
+    /// Opens the list of the ticked devices, then the dialog of the first password. The batch starts when both are
+    /// confirmed. Refused if no uninitialised device is ticked.
     function initialise() {
         if (!mayBegin())
             return;
@@ -33,7 +36,7 @@ Item {
         dialog.open();
     }
 
-    /// Changes the addresses of the ticked rows.
+    /// Opens the address dialog for all ticked rows.
     function modifyChecked() {
         const rows = deviceTable.checkedRows();
         if (rows.length === 0)
@@ -42,6 +45,7 @@ Item {
             askForAddresses(rows, true);
     }
 
+    /// Opens the address dialog for the device of one row. Refused while its firmware is being upgraded.
     function modifyRow(row) {
         const values = deviceTable.get(row);
         if (UpgradeTools.isRunning(values.upgraderes ?? UpgradeTools.None))
@@ -50,6 +54,7 @@ Item {
             askForAddresses([values], false);
     }
 
+    /// `rows`: values of DeviceTableModel. `isBatch`: the dialog assigns consecutive addresses.
     function askForAddresses(rows, isBatch) {
         if (!mayBegin())
             return;
@@ -58,23 +63,27 @@ Item {
         dialog.open();
     }
 
+    /// Starts the initialisation with this account. `keeping` (AccountList.Keeping): where the account is stored for
+    /// the devices that accept it.
     function sendFirstPasswords(identities, account, password, keeping) {
         batch = batches.initialiseDevices("dh", qsTr("初始化"), identities, account, password);
         keeper.follow(batch, keeping);
     }
 
+    /// Starts the address changes of the confirmed dialog, a ModifyIPDialog.
     function sendAddresses(dialog) {
         batch = batches.changeAddresses("dh", qsTr("修改IP地址"), dialog.plan.checkedIdentities(),
                                         dialog.plan.addresses(), dialog.mask, dialog.gateway, dialog.dhcp);
     }
 
-    /// A closed dialog returns the focus to its button, where a second Enter would open it again.
+    /// Moves the keyboard focus away from the button that opened the dialog: a closed dialog returns the focus to it,
+    /// and a second Enter would open the dialog again.
     function moveFocusFromButton() {
         if (batches.running)
             batchStarted();
     }
 
-    /// Reports the result and refreshes the table.
+    /// Notifies the result of the ended batch and reads the table again.
     function notifyEnd() {
         const report = batch.report;
         deviceTable.refresh();

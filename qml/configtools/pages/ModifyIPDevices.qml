@@ -1,4 +1,5 @@
-// Deletes the ticked devices from the list.
+// Deletes the ticked devices of the main page from the list, after a question. The devices themselves are not changed,
+// and a search may list them again.
 import QtQuick
 import configtools
 
@@ -7,8 +8,9 @@ Item {
 
     required property BusyState busyState
     required property var deviceTable  // a DeviceTableModel
-    signal notify(string message, int severity)
+    signal notify(string message, int severity)  // severity: of OVToast
 
+    /// Asks for confirmation. Refused without a ticked device, and while running work needs the rows.
     function removeChecked() {
         const refusal = busyState.refusal(BusyState.Delete);
         if (deviceTable.checkedCount === 0)
@@ -19,6 +21,7 @@ Item {
             question.instance().show(qsTr("请确认是否要删除", "", deviceTable.checkedCount), OVMessageBox.DangerQuestion);
     }
 
+    /// Deletes without a question. Devices being upgraded stay in the list, and their number is notified.
     function removeNow() {
         const kept = deviceTable.deleteChecked();
         if (kept > 0)

@@ -1,31 +1,34 @@
-// Empty state of a device table: the reason, and actions.
+// Shown in place of the rows of a device table without rows: the reason, and actions. The owner handles the signals.
+// Used by all pages with a table.
 import QtQuick
 import configtools
 
 OVEmptyState {
     id: root
 
-    required property bool searching
-    required property bool libraryInstalled
-    required property int hiddenCount  // number of devices hidden by filters
+    required property bool searching  // a search runs
+    required property bool libraryInstalled  // false: there is no device library, so no device can be reached
+    required property int hiddenCount  // number of devices in the list; as no row is shown, filters hide all of them
     required property bool searchesNothing  // the search settings select no network
-    property bool hasReport: false  // a report of the last search is available
+    property bool hasReport: false  // a report of the last search can be opened
     property bool helps: false  // the page offers settings, adding devices and the demo site
-    property bool simulated: false
+    property bool simulated: false  // the application shows the demo site, so it is not offered
     property string searched  // networks of the last search, as text
     signal searchRequested
-    signal addRequested
-    signal demoRequested
-    signal settingsRequested
-    signal filtersCleared
-    signal reportRequested
+    signal addRequested  // add a device by its address
+    signal demoRequested  // open the demo site
+    signal settingsRequested  // open the search settings
+    signal filtersCleared  // the owner clears its filters and its search text
+    signal reportRequested  // open the report of the last search
 
     enum Reason { Hidden, Searching, NoLibrary, NothingToSearch, NothingFound }
 
+    /// A Reason: the first that applies.
     readonly property int reason: hiddenCount > 0 ? ModifyIPEmptyState.Hidden
         : searching ? ModifyIPEmptyState.Searching
         : !libraryInstalled ? ModifyIPEmptyState.NoLibrary
         : searchesNothing ? ModifyIPEmptyState.NothingToSearch : ModifyIPEmptyState.NothingFound
+    /// In the order of Reason.
     readonly property var texts: [
         {icon: "filtered", title: qsTr("筛选条件隐藏了全部 %1 台设备").arg(hiddenCount),
             hint: qsTr("放宽筛选条件，或清除搜索文字。"), action: qsTr("清除筛选")},

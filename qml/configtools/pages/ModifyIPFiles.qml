@@ -1,24 +1,27 @@
-// Exports and imports device lists.
+// Exports the ticked devices to a list file, and imports devices from a list file in a batch of logins.
 import QtQuick
 import configtools
 
 Item {
     id: root
 
-    required property var addingBatches
+    required property var addingBatches  // an AddingBatches
     required property Batches batches
     required property BusyState busyState
-    required property var deviceFactory
-    required property var fileDialogs
+    required property var deviceFactory  // a CDeviceFactory
+    required property var fileDialogs  // a FileDialogs
     required property var deviceTable  // a DeviceTableModel
     required property bool shown  // the page is visible
+    /// A list is being read or written; the batch of the import is not included.
     readonly property bool running: addingBatches.reading || writing
-    property bool writing: false
+    property bool writing: false  // a list is being written: the window is blocked
     readonly property string runningText: addingBatches.reading ? qsTr("正在读取设备列表…") : qsTr("正在导出设备…")
-    property Batch batch: null  // batch of the last import
-    property bool reportPending: false  // its failed lines are to be shown when the page is visible
-    signal notify(string message, int severity)
+    property Batch batch: null  // batch of the last import or of its retry; null before
+    /// The import has ended with failed lines that were not shown yet, as the page is hidden.
+    property bool reportPending: false
+    signal notify(string message, int severity)  // severity: of OVToast
 
+    /// Asks for format and folder, then writes the ticked devices. Refused if no device is ticked.
     function startExport() {
         if (deviceTable.checkedCount === 0)
             notify(qsTr("请选择一台设备"), OVToast.Refusal);
@@ -26,7 +29,7 @@ Item {
             format.instance().open();
     }
 
-    /// Asks before replacing an existing file.
+    /// Asks before it replaces an existing file. `folder`: a path.
     function exportTo(folder, fileName) {
         if (!fileDialogs.exists(folder + "/" + fileName)) {
             writeList(folder, fileName);
@@ -38,6 +41,8 @@ Item {
         asked.show(qsTr("%1 已存在，是否覆盖？").arg(folder + "/" + fileName), OVMessageBox.DangerQuestion);
     }
 
+    /// Writes the ticked devices and replaces an existing file. The window is blocked meanwhile; writing begins after
+    /// the progress text is painted.
     function writeList(folder, fileName) {
         const macs = deviceTable.checkedMacs();
         writing = true;
@@ -53,7 +58,7 @@ Item {
         });
     }
 
-    /// Reports success, and the values that cannot be imported from the file again.
+    /// Notifies `success`. If values of the file would be different after an import, a dialog lists them as well.
     function reportExport(success) {
         const faults = deviceFactory.exportFaults("dh");
         if (faults.length === 0) {
@@ -65,10 +70,11 @@ Item {
         dialog.open();
     }
 
+    /// Asks for a file and starts the import. Refused after the choice while other work needs the rows, as an imported
+    /// device may replace its row and change account and address.
     function startImport() {
         fileDialogs.chooseFile(qsTr("打开excel文件"),
                                ["Excel Files (*.xlsx)", "CSV Files (*.csv)", "XML Files (*.xml)"], path => {
-            // An imported device may replace its row and change account and address.
             const refusal = busyState.refusal(BusyState.ChangeAddress);
             if (refusal !== "") {
                 notify(refusal, OVToast.Refusal);
@@ -78,12 +84,14 @@ Item {
         });
     }
 
+    /// The numbers of successful and of all devices of the import, as text.
     function summary() {
         const report = batch.report;
         return qsTr("批量导入设备：") + report.succeeded + "/" + report.total + " " + qsTr("台已完成");
     }
 
-    /// While another page is shown, only a summary is reported; the failures follow when this page is shown.
+    /// Called at the end of the import. Without failures it notifies the summary. With failures a dialog lists the
+    /// failed lines; while another page is shown, the summary is notified and the dialog opens when this page is shown.
     function notifyEnd() {
         const report = batch.report;
         reportPending = report.succeeded < report.total;
@@ -94,6 +102,7 @@ Item {
         showPendingReport();
     }
 
+    /// Opens the dialog of failed lines if it is pending and the page is shown.
     function showPendingReport() {
         if (!reportPending || !shown || batch.running)
             return;

@@ -1,18 +1,20 @@
-// The table of the main page: columns and cells.
+// The table of the main page: columns and cells. It only requests; the page acts. F2 requests the note of the current
+// row.
 import QtQuick
 import configtools
 
 OVTable {
     id: root
 
-    required property bool ipv6
-    required property var deviceFactory  // provides names of results
-    signal editRequested(int row)
+    required property bool ipv6  // the rows are IPv6 devices: wider addresses, no address changes
+    required property var deviceFactory  // a CDeviceFactory; provides the names of results
+    signal editRequested(int row)  // change the address
     signal detailRequested(int row)
     signal webRequested(int row)
     signal liveRequested(int row)
-    signal noteRequested(int row)
+    signal noteRequested(int row)  // edit the note
 
+    /// The user shows the column of notes; otherwise an icon at the name marks a note.
     readonly property bool noteShown: shownColumns.some(column => column.key === "note")
 
     arrangeable: true

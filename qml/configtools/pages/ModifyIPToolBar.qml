@@ -1,5 +1,5 @@
-// The tool bar of the main page: actions on the ticked devices, and filters. In a narrow window the filters are in a
-// second line.
+// The tool bar of the main page: actions on the ticked devices that the filters show, and the filters. It only
+// requests; the page acts. In a narrow window the filters are in a second line.
 import QtQuick
 import QtQuick.Layouts
 import configtools
@@ -7,13 +7,13 @@ import configtools
 Item {
     id: root
 
-    required property bool showInitialised
-    required property bool showUninitialised
-    required property bool ipv6
+    required property bool showInitialised  // state of the filter: initialised devices are shown
+    required property bool showUninitialised  // state of the filter: uninitialised devices are shown
+    required property bool ipv6  // IPv6 devices are shown: most actions are disabled
     required property DeviceTableModel devices
     required property int upgradingCount  // number of ticked devices that are being upgraded
     property alias searchText: searchField.text
-    property int tipDrop: Theme.toolTipDrop  // from a button to its tool tip, see OVToolTip
+    property int tipDrop: Theme.toolTipDrop  // vertical distance in pixels from a button to its tool tip, see OVToolTip
     readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
     signal initialisedToggled(bool shown)
     signal uninitialisedToggled(bool shown)
@@ -28,11 +28,13 @@ Item {
     signal addP2pRequested
     signal addFavouriteRequested
 
+    /// Focuses the search field and selects its text.
     function focusSearch() {
         searchField.forceActiveFocus(Qt.ShortcutFocusReason);
         searchField.selectAll();
     }
 
+    /// The filters are in a second line.
     readonly property bool wraps: width < actions.width + filters.spacing + filters.leastWidth
     readonly property int lineHeight: Theme.controlHeight + Theme.unit
 

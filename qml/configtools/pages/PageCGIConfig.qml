@@ -1,4 +1,4 @@
-// The CGI page: sends commands to one device, to all ticked ones, or from a workbook.
+// The CGI page: sends commands over HTTP to the device of a row, to all ticked devices, or as listed in a workbook.
 import QtQuick
 import QtQuick.Layouts
 import configtools
@@ -7,18 +7,18 @@ FocusScope {
     id: page
 
     required property Batches batches
-    property DeviceSearch search: null
+    property DeviceSearch search: null  // null: no search is shown
     readonly property bool searching: search?.running ?? false
-    required property bool libraryInstalled
-    property var memory: null  // stores the arrangement of tables
-    property DeviceNotes notes: null
+    required property bool libraryInstalled  // false: there is no device library, so no device can be reached
+    property var memory: null  // a ViewMemory that stores columns and order of the table; null: not stored
+    property DeviceNotes notes: null  // null: devices have no notes
     signal searchRequested
-    signal liveRequested(string ipport)
-    signal notify(string message, int severity)
-    signal selectionChanged  // the selection changed: refusals may no longer apply
+    signal liveRequested(string ipport)  // "address:port"
+    signal notify(string message, int severity)  // severity: of OVToast
+    signal selectionChanged  // the number of ticked devices has changed: the window removes refusals
 
-    readonly property int ticked: devices.checkedCount
-    readonly property alias deviceTable: devices
+    readonly property int ticked: devices.checkedCount  // number of ticked devices that the filters show
+    readonly property alias deviceTable: devices  // the DeviceTableModel of the table
 
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi
@@ -28,11 +28,13 @@ FocusScope {
     readonly property var webPages: WebPagesApi
     // qmllint enable unqualified
 
+    /// Focuses the search field and selects its text.
     function focusSearch() {
         searchField.forceActiveFocus(Qt.ShortcutFocusReason);
         searchField.selectAll();
     }
 
+    /// Opens the dialog for the command to all ticked devices. Refused if none is ticked.
     function askForAll() {
         if (devices.checkedCount === 0)
             notify(qsTr("请选择一台设备。"), OVToast.Refusal);
@@ -40,6 +42,8 @@ FocusScope {
             batchWindow.instance().ask(devices.checkedCount);
     }
 
+    /// Sends a command to the ticked devices after a confirmation that lists them. A single device without a warning
+    /// gets the command without a question.
     function askToSend(command) {
         preview.instance().askRows(qsTr("将向下列设备发送命令："), command, devices.checkedRows(), {
             title: qsTr("批量配置CGI"), okText: qsTr("执行"), listed: true, quick: true,
@@ -47,6 +51,7 @@ FocusScope {
         });
     }
 
+    /// Runs an entry of entriesOf() for a row: "send", "response" (show the complete response) or "copyResponse".
     function actOn(key, row) {
         const values = Object.assign({}, devices.get(row));
         if (key === "send") {
@@ -59,6 +64,7 @@ FocusScope {
         }
     }
 
+    /// The entries of this page in the context menu of a row, see OVEntryMenu.
     function entriesOf(values) {
         const isUpgrading = UpgradeTools.isRunning(values.upgraderes ?? UpgradeTools.None);
         const hasResponse = (values.result ?? "") !== "";

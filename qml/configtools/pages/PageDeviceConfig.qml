@@ -1,5 +1,5 @@
-// The configuration page: device tree on the left, settings of one device on the right. Encode settings can be copied
-// to the ticked devices.
+// The configuration page: device tree on the left, settings of one device on the right. The device chosen in the tree
+// is logged in to. Its encode settings can be copied to the ticked devices.
 import QtQuick
 import configtools
 
@@ -8,17 +8,17 @@ FocusScope {
 
     required property Batches batches
     required property BusyState busyState
-    property DeviceSearch search: null
+    property DeviceSearch search: null  // null: no search is shown
     readonly property bool searching: search?.running ?? false
-    required property bool libraryInstalled
-    property DeviceNotes notes: null
+    required property bool libraryInstalled  // false: there is no device library, so no device can be reached
+    property DeviceNotes notes: null  // null: devices have no notes
     signal searchRequested
-    signal liveRequested(string ipport)
-    signal notify(string message, int severity, int duration)
-    signal selectionChanged  // the selection changed: refusals may no longer apply
+    signal liveRequested(string ipport)  // "address:port"
+    signal notify(string message, int severity, int duration)  // severity: of OVToast; duration in ms
+    signal selectionChanged  // the number of ticked devices has changed: the window removes refusals
 
-    readonly property int ticked: devices.checkedCount
-    readonly property alias treeDevices: devices
+    readonly property int ticked: devices.checkedCount  // number of ticked devices that the filters show
+    readonly property alias treeDevices: devices  // the OVTreeModel of the tree
 
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi
@@ -26,22 +26,26 @@ FocusScope {
     readonly property var webPages: WebPagesApi
     // qmllint enable unqualified
 
-    /// Targets of a copy: the ticked devices without the current one.
+    /// Targets of a copy, as "address:port": the ticked devices without the device that is shown.
     readonly property var targets: devices.without(devices.checkedDevices, session.device)
 
+    /// Focuses the search field of the tree and selects its text.
     function focusSearch() {
         deviceTree.focusSearch();
     }
 
+    /// The values of a device for DeviceActions. `name`: the name (identity) of its row.
     function valuesOf(name) {
         return Object.assign({}, deviceFactory.getDeviceDetail("dh", name), {identity: name});
     }
 
+    /// Rebuilds the tree from the device list. Without a search text it lists the initialised devices.
     function refresh() {
         devices.resetItems(deviceTree.searchText === "" ? "removeuninit" : "search", deviceTree.searchText);
     }
 
-    /// Runs `action`, after asking about unsaved changes. Returns whether a question is shown.
+    /// Runs `action` immediately if no setting is unsaved, and returns false. Otherwise asks and returns true: `action`
+    /// runs after the changes are discarded or saved, and not at all if the user cancels.
     function leave(action) {
         if (session.unsaved === 0) {
             action();
@@ -60,7 +64,8 @@ FocusScope {
         return true;
     }
 
-    /// Saves, then runs `action`. If a name is invalid, shows it and stays.
+    /// Saves, then runs `action`. If a name is invalid, shows it and does not run `action`. If changes are still
+    /// unsaved after the save, the user is asked again.
     function saveAndLeave(action) {
         const faulty = session.names.unsaved > 0 && session.names.form.firstFaulty() >= 0;
         if (session.encoding.unsaved > 0)
@@ -71,19 +76,23 @@ FocusScope {
             session.work.afterWriting(() => leave(action));
     }
 
+    /// Opens the dialog that names the channels of the shown device, or channel 1 of the ticked cameras. Refused if
+    /// there is neither.
     function namePattern() {
         const channels = session.names.read ? session.names.form.count : 0;
         if (!naming.instance().ask(session.device, channels, devices.tickedNow()))
             notify(qsTr("勾选的设备中没有摄像机"), OVToast.Refusal, Theme.errorToastDuration);
     }
 
-    /// Called after a batch of names: the tab shows the new name.
+    /// Called at the end of a batch of names: reads the names of the shown device again if the batch has changed them.
     function takeNamed(report) {
         if (report.devicesWith(BatchReport.Succeeded).includes(session.device))
             session.names.clear();
         session.readShown();
     }
 
+    /// Logs in to another device and shows it, or tries again if the shown device is not logged in. Waits for a running
+    /// write and asks about unsaved changes first.
     function choose(ipport) {
         if (ipport !== session.device || !session.loggedIn && !session.busy)
             session.work.afterWriting(() => leave(() => {
@@ -92,6 +101,8 @@ FocusScope {
             }));
     }
 
+    /// Confirms and starts the copy of the encode settings of the current channel to `targets`. The values are those on
+    /// the page, with unsaved changes.
     function copy() {
         const number = session.encoding.form.channel + 1;
         //: %1 is a channel number.

@@ -1,4 +1,4 @@
-// The upgrade page: a firmware file for each device, and its progress.
+// The upgrade page: the firmware file of each device, upgrades of ticked devices or by a document, and their progress.
 import QtQuick
 import configtools
 
@@ -6,18 +6,18 @@ FocusScope {
     id: page
 
     required property Batches batches
-    property DeviceSearch search: null
+    property DeviceSearch search: null  // null: no search is shown
     readonly property bool searching: search?.running ?? false
-    required property bool libraryInstalled
-    property var memory: null  // stores the arrangement of tables
-    property DeviceNotes notes: null
+    required property bool libraryInstalled  // false: there is no device library, so no device can be reached
+    property var memory: null  // a ViewMemory that stores columns and order of the table; null: not stored
+    property DeviceNotes notes: null  // null: devices have no notes
     signal searchRequested
-    signal liveRequested(string ipport)
-    signal notify(string message, int severity)
-    signal selectionChanged  // the selection changed: refusals may no longer apply
+    signal liveRequested(string ipport)  // "address:port"
+    signal notify(string message, int severity)  // severity: of OVToast
+    signal selectionChanged  // the number of ticked devices has changed: the window removes refusals
 
-    readonly property int ticked: devices.checkedCount
-    readonly property alias deviceTable: devices
+    readonly property int ticked: devices.checkedCount  // number of ticked devices that the filters show
+    readonly property alias deviceTable: devices  // the DeviceTableModel of the table
 
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi
@@ -27,13 +27,16 @@ FocusScope {
     readonly property var upgradeBatches: UpgradeBatchesApi
     // qmllint enable unqualified
 
+    /// Focuses the search field and selects its text.
     function focusSearch() {
         toolBar.focusSearch();
     }
 
+    /// Maximum number of devices upgraded at the same time, 1 to 16.
     property int parallelUpgrades: localConfig.parallelUpgrades()
 
-    /// Sets the number of concurrent upgrades and stores it. It applies to upgrades started from now on.
+    /// Stores the number of concurrent upgrades (1 to 16). It applies to upgrades started from now on. If it cannot be
+    /// stored, the earlier number stays and the failure is notified.
     function chooseParallelUpgrades(count) {
         localConfig.setParallelUpgrades(count);
         parallelUpgrades = localConfig.parallelUpgrades();
@@ -41,6 +44,7 @@ FocusScope {
             notify(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
     }
 
+    /// Runs an entry of entriesOf() for the device of a row: "file", "start" or "stop".
     function actOn(key, row) {
         const identity = Object.assign({}, devices.get(row)).identity;
         if (key === "file")
@@ -51,6 +55,7 @@ FocusScope {
             deviceFactory.stopUpgrade("dh", identity);
     }
 
+    /// The entries of this page in the context menu of a row, see OVEntryMenu.
     function entriesOf(values) {
         const result = values.upgraderes ?? UpgradeTools.None;
         const isRunning = UpgradeTools.isRunning(result);

@@ -1,4 +1,5 @@
-// The main page: the device list and actions on it.
+// The main page: the device list, with initialisation, address changes, import and export, adding and deleting. The
+// other pages use the same list.
 import QtQuick
 import configtools
 
@@ -8,22 +9,22 @@ FocusScope {
     required property Batches batches
     required property BusyState busyState
     required property DeviceSearch search
-    required property bool libraryInstalled
-    property bool simulated: false
-    required property var memory  // stores the arrangement of tables
-    property DeviceNotes notes: null
+    required property bool libraryInstalled  // false: there is no device library, so no device can be reached
+    property bool simulated: false  // the application shows the demo site
+    required property var memory  // a ViewMemory that stores columns and order of the table; null: not stored
+    property DeviceNotes notes: null  // null: devices have no notes
     required property SearchReports searchReports
     signal searchRequested
-    signal reportRequested
-    signal settingsRequested
-    signal demoRequested
-    signal liveRequested(string ipport)
-    signal galleryRequested(var rows)
-    signal notify(string message, int severity)
-    signal selectionChanged  // the selection changed: refusals may no longer apply
+    signal reportRequested  // open the report of the last search
+    signal settingsRequested  // open the search settings
+    signal demoRequested  // open the demo site
+    signal liveRequested(string ipport)  // "address:port"
+    signal galleryRequested(var rows)  // rows: values of the ticked rows
+    signal notify(string message, int severity)  // severity: of OVToast
+    signal selectionChanged  // the number of ticked devices has changed: the window removes refusals
 
-    readonly property int ticked: devices.checkedCount
-    readonly property alias deviceTable: devices
+    readonly property int ticked: devices.checkedCount  // number of ticked devices that the filters show
+    readonly property alias deviceTable: devices  // the DeviceTableModel of the table
 
     // qmllint disable unqualified
     readonly property var addingBatches: AddingBatchesApi
@@ -32,10 +33,12 @@ FocusScope {
     readonly property var webPages: WebPagesApi
     // qmllint enable unqualified
 
+    /// Focuses the search field and selects its text.
     function focusSearch() {
         toolBar.focusSearch();
     }
 
+    /// Requests the images of the ticked devices. Refused without a ticked device and while a batch runs.
     function openGallery() {
         if (devices.checkedCount === 0)
             notify(qsTr("请选择一台设备"), OVToast.Refusal);
@@ -43,10 +46,12 @@ FocusScope {
             galleryRequested(devices.checkedRows());
     }
 
+    /// Focuses the table without a focus ring.
     function focusTable() {
         table.takeFocus();
     }
 
+    /// Shows all devices: resets the filters and the search text. IPv4 or IPv6 stays selected.
     function clearFilters() {
         devices.showInitialised = true;
         devices.showUninitialised = true;

@@ -1,4 +1,5 @@
-// The system page: device tree on the left, maintenance commands for the ticked devices on the right.
+// The system page: device tree on the left, maintenance commands for the ticked devices on the right. Each command is
+// one batch. The results are shown in the tree.
 import QtQuick
 import configtools
 
@@ -6,17 +7,17 @@ FocusScope {
     id: page
 
     required property Batches batches
-    property DeviceSearch search: null
+    property DeviceSearch search: null  // null: no search is shown
     readonly property bool searching: search?.running ?? false
-    required property bool libraryInstalled
-    property DeviceNotes notes: null
+    required property bool libraryInstalled  // false: there is no device library, so no device can be reached
+    property DeviceNotes notes: null  // null: devices have no notes
     signal searchRequested
-    signal liveRequested(string ipport)
-    signal notify(string message, int severity)
-    signal selectionChanged  // the selection changed: refusals may no longer apply
+    signal liveRequested(string ipport)  // "address:port"
+    signal notify(string message, int severity)  // severity: of OVToast
+    signal selectionChanged  // the number of ticked devices has changed: the window removes refusals
 
-    readonly property int ticked: devices.checkedCount
-    readonly property alias treeDevices: devices
+    readonly property int ticked: devices.checkedCount  // number of ticked devices that the filters show
+    readonly property alias treeDevices: devices  // the OVTreeModel of the tree
 
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi
@@ -25,25 +26,31 @@ FocusScope {
     readonly property string timeZone: systemTimeZone
     // qmllint enable unqualified
 
-    property list<string> passwordTicks  // devices that were ticked when the old password was checked
-    property list<string> checkedWhenAsked  // devices of the last command
-    property list<string> leftOut  // devices left out of the last password change
+    property list<string> passwordTicks  // devices ("address:port") that were ticked when the old password was accepted
+    property list<string> checkedWhenAsked  // devices ("address:port") of the last command
+    property list<string> leftOut  // devices ("address:port") that the user unticked in the last password change
 
+    /// A command can start: devices are ticked and no batch runs.
     readonly property bool available: unavailableText === ""
+    /// Why no command can start; "" if one can.
     readonly property string unavailableText: devices.checkedCount === 0 ? qsTr("请先在左侧勾选设备")
         : batches.running ? qsTr("“%1”正在进行，请等待其完成").arg(batches.current?.title ?? "") : ""
 
+    /// Focuses the search field of the tree and selects its text.
     function focusSearch() {
         deviceTree.focusSearch();
     }
 
-    /// Called when another tab is shown: clears the new password. A running batch continues.
+    /// Called when another tab is shown: ends the time for the new password and clears the typed one. A running batch
+    /// continues.
     function disablePasswordEditor() {
         passwordTime.close(SystemPasswordTime.Regular);
         passwordTime.ending = SystemPasswordTime.Regular;
         panels.clearNewPassword();
     }
 
+    /// Called when devices have accepted the old password: starts the time for the new one. It ends immediately if the
+    /// page is hidden or other devices are ticked now.
     function askForNewPassword() {
         passwordTicks = devices.tickedNow();
         passwordTime.begin(batch.report.devicesWith(BatchReport.Waiting));
@@ -53,6 +60,8 @@ FocusScope {
             passwordTime.close(SystemPasswordTime.OtherTicks);
     }
 
+    /// Called at the end of a password change: stores the account as chosen and notifies the result. The typed
+    /// passwords are cleared when no device has the old password any more.
     function takeChangedPasswords() {
         keeper.keep();
         if (keeper.message !== "")
@@ -66,7 +75,8 @@ FocusScope {
         panels.clearOldPassword();
     }
 
-    /// Reports the devices whose password was not changed, with the reasons.
+    /// Notifies the number of devices whose password was not changed, with up to three reasons. Silent if all were
+    /// changed.
     function notifyUnchangedPasswords() {
         const unchanged = batch.report.devicesNotSucceeded();
         if (unchanged.length === 0)
@@ -78,19 +88,24 @@ FocusScope {
                  .arg(reasons.slice(0, shown).join(qsTr("；")) + (reasons.length > shown ? "…" : "")), OVToast.Error);
     }
 
+    /// The text of a result in the tree. `result`: a LoginResult or an OVTreeModel.Result.
     function resultText(result) {
         return result === OVTreeModel.WaitsForPassword ? qsTr("旧密码正确，等待新密码")
                                                        : deviceFactory.getErrorName(result);
     }
 
+    /// The values of a device for DeviceActions. `name`: the name (identity) of its row.
     function valuesOf(name) {
         return Object.assign({}, deviceFactory.getDeviceDetail("dh", name), {identity: name});
     }
 
+    /// Rebuilds the tree from the device list. Without a search text it lists the initialised devices.
     function refresh() {
         devices.resetItems(deviceTree.searchText === "" ? "removeuninit" : "search", deviceTree.searchText);
     }
 
+    /// Starts a command without a question and clears the results in the tree. Does nothing after a refusal, which is
+    /// notified. Parameters: see SystemBatch.run().
     function run(command, title, targets, data) {
         if (!batch.run(command, title, targets, data))
             return;
@@ -98,6 +113,8 @@ FocusScope {
         devices.clearResults();
     }
 
+    /// Confirms a command for the ticked devices and starts it. A started command ends the time for the new password.
+    /// Parameters: see SystemBatch.run().
     function runOnTicked(command, title, data) {
         preview.ask(command, title, data, devices.tickedNow(), chosen => {
             if (passwordTime.open && !batches.running)  // otherwise the command is refused
@@ -106,7 +123,8 @@ FocusScope {
         });
     }
 
-    /// Devices that the user unticks keep waiting for their new password.
+    /// Confirms and starts the password change of the devices that have accepted the old password. Devices that the
+    /// user unticks there keep waiting for their new password. `keeping`: an AccountList.Keeping.
     function changePasswords(password, keeping) {
         preview.ask("modifyPassword", qsTr("修改密码"), {}, passwordTime.devices, (chosen, others) => {
             leftOut = others;
@@ -116,6 +134,7 @@ FocusScope {
         });
     }
 
+    /// Handles the end of the batch of the last command.
     function takeEnd() {
         if (batch.report.waiting === 0)
             refresh();  // the set of logged-out devices has changed

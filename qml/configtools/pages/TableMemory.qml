@@ -1,4 +1,5 @@
-// Stores the columns and the sort order of a device table.
+// Stores columns and sort order of a device table: restores both when the page is created, and keeps each later change.
+// Text of an unknown or unsortable column is ignored.
 import QtQuick
 import QtQml
 import configtools
@@ -6,7 +7,7 @@ import configtools
 Item {
     id: root
 
-    required property var memory
+    required property var memory  // a ViewMemory; null: nothing is stored
     required property string name  // name of the table in the settings
     required property OVTable table
     required property DeviceTableModel model
@@ -14,11 +15,12 @@ Item {
     readonly property string columnsName: name + "Columns"
     readonly property string orderName: name + "Order"
 
-    /// Sort key, with the prefix "-" for descending order.
+    /// The sort key, with the prefix "-" for descending order; "" for the order of the list.
     function orderText() {
         return (model.sortOrder === Qt.DescendingOrder ? "-" : "") + model.sortKey;
     }
 
+    /// Sorts the table by a text of orderText(). Does nothing if the table has no such sortable column.
     function restoreOrder(text) {
         const key = text.replace(/^-/, "");
         if (table.columns.some(column => column.key === key && (column.sortable ?? false)))
