@@ -1,4 +1,5 @@
-// Name and version of the application, for copying, and the licences of the software of others.
+// The about box: name and version of the application, where the version can be copied, and on request the licences of
+// the software of others. The owner sets `title`.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -6,7 +7,7 @@ import configtools
 OVDialog {
     id: root
 
-    required property string productName
+    required property string productName  // shown with the logo
     required property string version
 
     wantedWidth: licences.visible ? Theme.responseWindowWidth : Theme.messageWidth

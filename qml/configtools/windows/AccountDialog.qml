@@ -1,4 +1,5 @@
-// Adds or edits an account. A stored password is not shown.
+// Adds or edits a stored account. It stores the account itself and changes no password on a device. A stored password
+// is not shown; an empty field keeps it.
 import QtQuick
 import configtools
 
@@ -7,12 +8,13 @@ OVDialog {
 
     required property AccountList accounts
     property string before  // current name, "" for a new account
-    property bool tried: false
-    /// The first incomplete field.
+    property bool tried: false  // OK was pressed: the first incomplete field shows its error
+    /// The first incomplete field: "name", "account" or "password"; "" for none or before OK.
     readonly property string faulty: !tried ? "" : nameField.text.trim() === "" ? "name"
         : accountField.text === "" ? "account" : before === "" && passwordField.text === "" ? "password" : ""
-    signal saved(string name)
+    signal saved(string name)  // the account with this name is stored; the dialog has closed
 
+    /// Opens the dialog. `name` is the account to change, "" for a new one; `account` is its user name.
     function edit(name, account) {
         before = name;
         tried = false;

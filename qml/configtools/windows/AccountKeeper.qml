@@ -1,5 +1,5 @@
-// Stores the new account of the devices of a batch, as the user has chosen. It does so during the batch, since the
-// application may exit before the end.
+// Stores the new account of the devices of a batch that sets passwords, as the user has chosen. It does so during the
+// batch, since the application may exit before the end. It also follows the retries of the batch.
 import QtQuick
 import configtools
 
@@ -7,21 +7,22 @@ Item {
     id: root
 
     required property Batches batches
-    property Batch batch: null
-    property int keeping: AccountList.Unkept
+    property Batch batch: null  // the followed batch or its retry; null for none
+    property int keeping: AccountList.Unkept  // an AccountList.Keeping
     property int takenCount: 0  // number of devices of the batch already processed
     property int keptCount: 0   // number of devices with a stored account, including batches before a retry
     property int keptBefore: 0  // of these, devices of batches before the retry
-    property string failure
+    property string failure  // why an account could not be stored, "" if all were
     readonly property var accounts: LoginMemory.accounts
 
-    /// Result as the end of a message; "" if the account was not to be stored.
+    /// Result for the user; "" if the account was not to be stored, or no device has accepted it.
     readonly property string message: failure !== "" ? qsTr("账号无法保存，只用到下次搜索：%1").arg(failure)
         : keptCount === keptBefore || keeping === AccountList.Unkept ? ""
         : keeping === AccountList.AsDefault ? qsTr("新账号已设为默认账号")
         : qsTr("新账号已保存，以后登录这 %n 台设备时使用", "", keptCount)
 
-    /// Observes a batch that sets a new password. `batch` may be null.
+    /// Follows a batch that sets a new password, instead of the earlier one. `batch` may be null; `keeping` is an
+    /// AccountList.Keeping.
     function follow(batch, keeping) {
         keep();
         root.batch = batch;
@@ -32,7 +33,7 @@ Item {
         failure = "";
     }
 
-    /// Stores the accounts of further successful devices. After the batch, `message` is final.
+    /// Stores the accounts of the devices that have succeeded since the last call. After the batch, `message` is final.
     function keep() {
         delay.stop();
         const devices = batch?.succeededDevices(takenCount) ?? [];

@@ -1,11 +1,11 @@
-// A choice: where a new account is stored.
+// A choice: where the new account of devices is stored. It stores nothing.
 import QtQuick
 import configtools
 
 Column {
     id: root
 
-    property int keeping: AccountList.ForDevices
+    property int keeping: AccountList.ForDevices  // the chosen AccountList.Keeping
     topPadding: Theme.half
 
     Accessible.role: Accessible.Grouping

@@ -1,4 +1,5 @@
-// Manages the stored accounts, and assigns one of them to devices.
+// Manages the stored accounts. If opened for devices, it also assigns the selected account to them, which changes no
+// password on a device. Changes are stored immediately.
 import QtQuick
 import configtools
 
@@ -6,31 +7,37 @@ OVDialog {
     id: root
 
     required property AccountList accounts
-    property var devices: []  // devices to assign an account to; empty: manage only
-    property string refused   // accounts that these devices have refused, before a retry; empty for another reason
-    property string edited    // name of the account edited since the dialog was opened
+    property var devices: []  // identities or "address:port" of the devices to assign an account to; empty: manage only
+    /// Names of the accounts that these devices have refused, before a retry; "" for another reason.
+    property string refused
+    property string edited  // name of the account that was added or changed since the dialog was opened; "" for none
     readonly property bool choosing: devices.length > 0
+    /// Values of the selected row, see AccountList; empty for none.
     readonly property var current: shownRow(table.currentIndex, accounts.count)
+    /// The selected row is a stored account, not the default one.
     readonly property bool isOwn: (current.identity ?? "") !== "" && !current.isDefault
-    signal notify(string message, int severity)
-    signal chosen  // the devices have the account
+    signal notify(string message, int severity)  // severity: of OVToast
+    signal chosen  // the account was assigned to the devices; emitted before the dialog closes
 
-    /// `count` is a dependency: it changes with the rows.
+    /// The values of a row. `count` is unused: with it, a binding is evaluated again when the rows change.
     function shownRow(index, count) {
         return accounts.get(index);
     }
 
+    /// Opens the dialog without devices.
     function manage() {
         choose([]);
     }
 
+    /// Opens the dialog for devices and selects the account that the first one uses. `devices`: see the property.
     function choose(devices) {
         refused = "";
         openFor(devices);
         table.show(devices.length > 0 ? Math.max(0, accounts.rowOfDevice(devices[0])) : 0);
     }
 
-    /// For a retry of devices that have refused their accounts. No account is preselected.
+    /// Opens the dialog for a retry of devices that have refused their accounts. No account is selected. `refused`: see
+    /// the property.
     function chooseOther(devices, refused) {
         root.refused = refused;
         openFor(devices);
@@ -45,6 +52,8 @@ OVDialog {
         table.forceActiveFocus();
     }
 
+    /// Assigns the selected account to the devices and closes the dialog. Refuses an account that they have refused,
+    /// unless it was edited since.
     function use() {
         const name = current.name ?? "";
         if (refused !== "" && table.currentIndex === accounts.rowOfDevice(devices[0]) && (name === "" || name !== edited)) {
@@ -64,10 +73,12 @@ OVDialog {
             + (unknown > 0 ? qsTr("；其中 %n 台没有MAC和UUID，只用到下次搜索", "", unknown) : ""), OVToast.Success);
     }
 
+    /// Opens the dialog of an account, see AccountDialog.edit().
     function edit(name, account) {
         editing.instance().edit(name, account);
     }
 
+    /// Asks, then removes the selected account. Its devices use the default account afterwards.
     function askToRemove() {
         const box = removing.instance();
         box.name = current.name;
@@ -75,6 +86,7 @@ OVDialog {
             ? qsTr("使用它的 %n 台设备以后用默认账号登录。", "", current.deviceCount) : ""), OVMessageBox.DangerQuestion);
     }
 
+    /// Asks, then removes all stored accounts that no device uses.
     function askToRemoveUnused() {
         const names = accounts.unused;
         const shown = 5;

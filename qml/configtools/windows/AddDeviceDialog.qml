@@ -1,19 +1,23 @@
-// Input of a device to add, by IP address or P2P ID. The owner adds it while the dialog is busy, then closes the dialog
-// or calls showResult(). The user may close it before.
+// Input of one device to add, by IP address or P2P ID. The dialog adds nothing: after `confirmed` the owner sets `busy`
+// and adds the device, then closes the dialog or calls showResult(). The user may close the dialog before that, which
+// the owner treats as a cancellation.
 import QtQuick
 import configtools
 
 OVDialog {
     id: root
 
-    property int mode: DeviceAdding.IP
-    required property int defaultPort
+    property int mode: DeviceAdding.IP  // DeviceAdding.IP or DeviceAdding.P2P
+    required property int defaultPort  // port that is filled in
     readonly property bool p2p: mode === DeviceAdding.P2P
+    /// `device`: map of "mode", "address" (or the P2P ID), "port" (text), "account", "password" and "note".
+    /// `isFavourite`: save it as a favourite after success.
     signal confirmed(var device, bool isFavourite)
 
-    property string faultKind  // field of the first error, after OK was pressed
-    property string fault
+    property string faultKind  // field of the error: "id", "address", "account", "password" or "port"; "" for none
+    property string fault  // error text, "" for none
 
+    /// Clears the fields and opens the dialog in this mode.
     function begin(mode) {
         root.mode = mode;
         busy = false;
@@ -28,12 +32,14 @@ OVDialog {
         open();
     }
 
+    /// Removes the error from its field.
     function clearError() {
         faultKind = "";
         fault = "";
     }
 
-    /// Shows the result, at the field that it concerns.
+    /// Shows why the device was not added, at the field that it concerns. `code`: a LoginResult. `error`: its text;
+    /// with "" the dialog shows nothing and stays open.
     function showResult(code, error) {
         faultKind = code === DeviceAdding.NoSuchAccount ? "account" : code === DeviceAdding.WrongPassword ? "password"
             : code === DeviceAdding.AlreadyListed ? "address" : "";
@@ -45,12 +51,13 @@ OVDialog {
             passwordField.selectAll();
     }
 
+    /// Sets the error and its field.
     function note(kind, message) {
         faultKind = kind;
         fault = message;
     }
 
-    /// Notes the first invalid field, if any.
+    /// Sets the error of the first invalid field, or no error.
     function check() {
         clearError();
         if (p2p && idField.text === "")

@@ -1,18 +1,19 @@
-// The favourites window: adds favourites to the device list in a batch, shows the results, and edits notes. The batch
-// continues when the window is closed.
+// The favourites window: adds favourites to the device list in a batch of logins, shows the results, edits notes and
+// deletes favourites. The batch continues when the window is closed.
 import QtQuick
 import configtools
 
 OVDialog {
     id: root
 
-    required property var addingBatches
+    required property var addingBatches  // an AddingBatches
     required property Batches batches
     required property Favourites favourites
-    readonly property bool running: batch?.running ?? false
-    property Batch batch: null  // last batch started here
-    signal byHandRequested
+    readonly property bool running: batch?.running ?? false  // its batch runs: favourites cannot be edited
+    property Batch batch: null  // last batch started here or its retry; null before
+    signal byHandRequested  // open the dialog for a device by hand; the window has closed
 
+    /// Reads the favourites and opens the window. Ticks and results of an ended batch are cleared.
     function begin() {
         filter.text = "";
         if (!running) {
@@ -23,6 +24,8 @@ OVDialog {
         open();
     }
 
+    /// Starts a batch that adds the favourites with these identities (file names). Does nothing while the batch runs,
+    /// or if another batch runs.
     function addThese(identities) {
         if (running || identities.length === 0)
             return;
@@ -33,6 +36,7 @@ OVDialog {
         saved.setRunning(identities, qsTr("正在添加…"));
     }
 
+    /// Stores the note of a favourite. After a failure the earlier note is shown.
     function changeNote(identity, note) {
         const device = favourites.deviceOf(saved.device(identity));
         device.note = note;
@@ -46,6 +50,7 @@ OVDialog {
         table.forceActiveFocus();
     }
 
+    /// Deletes a favourite without a question. Its device stays in the device list.
     function remove(identity) {
         if (!favourites.remove(identity))
             inform(qsTr("收藏无法删除，请检查程序所在文件夹的写入权限"), OVToast.Error);

@@ -1,4 +1,6 @@
-// Exits or restarts the application, or opens the demo site. Running work and unsaved settings are handled first.
+// Exits or restarts the application, or restarts it on the demo site. An exit during a batch stops the batch after a
+// question; other running work prevents the exit. A restart is refused while any work runs. The user is asked about
+// unsaved settings in each case.
 import QtQuick
 import configtools
 
@@ -7,13 +9,14 @@ Item {
 
     required property Batches batches
     required property BusyState busyState
-    required property var deviceFactory
-    required property var localConfig
+    required property var deviceFactory  // a CDeviceFactory
+    required property var localConfig  // a CLocalConfig
     required property WindowPopups popups
-    required property var host  // the window; its leavePage(action) returns whether it asks first
-    signal leaving  // the window state is to be stored
+    required property var host  // the main window; its leavePage(action) returns whether it asks first
+    signal leaving  // the application ends now: the window state is to be stored
 
-    /// Exits unless work runs or the user wants to save. Returns whether it exits.
+    /// Exits if nothing prevents it, and returns true. Returns false if running work prevents it, which is notified, or
+    /// if the user is asked first. After a question the application exits unless the user cancels.
     function requestEnd() {
         if (batches.running) {
             popups.askToEnd(batches.current.title, deviceFactory.hasDeviceUpgrading());
@@ -22,7 +25,7 @@ Item {
         return isFree(BusyState.Close) && !host.leavePage(end);
     }
 
-    /// Exits during a batch.
+    /// Stops the running batch and exits. Asks about unsaved settings before.
     function endBatch() {
         host.leavePage(() => {
             batches.stopForExit();
@@ -30,14 +33,17 @@ Item {
         });
     }
 
+    /// Restarts the application. Refused while work runs.
     function requestRestart() {
         restartBy(() => localConfig.reboot());
     }
 
+    /// Restarts the application on the demo site. Refused while work runs.
     function requestDemo() {
         restartBy(() => localConfig.openDemoSite());
     }
 
+    /// Calls `start`, which restarts the application, when the page can be left. Refused while work runs.
     function restartBy(start) {
         if (isFree(BusyState.Restart))
             host.leavePage(() => {
@@ -46,7 +52,7 @@ Item {
             });
     }
 
-    /// Whether no running work prevents the action. If it does, reports it.
+    /// Whether no running work prevents the action, a BusyState.Action. Notifies the obstacle otherwise.
     function isFree(action) {
         const refusal = busyState.refusal(action);
         if (refusal !== "")
@@ -54,6 +60,7 @@ Item {
         return refusal === "";
     }
 
+    /// Exits without a question.
     function end() {
         leaving();
         popups.closeLive();

@@ -1,4 +1,5 @@
-// The batches since the start, and the results of the selected one.
+// The panel of batches: a list of the batches since the start of the application (the last 50), and the results of the
+// selected one. A batch can be retried, and an address change can be reverted.
 import QtQuick
 import configtools
 
@@ -6,22 +7,25 @@ OVDialog {
     id: root
 
     required property Batches batches
-    required property var deviceFactory
-    readonly property Batch batch: results.batch
-    readonly property bool idle: batch !== null && !batches.running
-    signal saveRequested(Batch batch)
-    signal saveAllRequested
+    required property var deviceFactory  // a CDeviceFactory
+    readonly property Batch batch: results.batch  // the selected one; null for none
+    readonly property bool idle: batch !== null && !batches.running  // a batch is selected, and no batch runs
+    signal saveRequested(Batch batch)  // save the results of this batch to a file
+    signal saveAllRequested  // save the results of all listed batches to one file
 
+    /// Opens the panel with the latest batch selected.
     function show() {
         list.show(0);
         open();
     }
 
+    /// Selects the latest batch if `begun`, the result of starting one, is not null.
     function showNewest(begun) {
         if (begun !== null)
             list.show(0);
     }
 
+    /// Asks, then starts a batch that restores the addresses before the address change `changed`.
     function askToPutBack(changed) {
         const entries = batches.addressesToPutBack(changed);
         preview.instance().askEntries(

@@ -1,4 +1,5 @@
-// Numbers of devices of a batch: selected, processed, with warnings, skipped.
+// Numbers of devices of a planned batch: all ticked ones, those to be processed, those with warnings, and skipped ones,
+// which get no request.
 import QtQuick
 import configtools
 

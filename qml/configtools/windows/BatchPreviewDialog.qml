@@ -1,22 +1,26 @@
-// Confirms a batch, with a list of the change to each device.
+// Confirms a batch, with a list of the change to each device. It starts nothing: after the confirmation it calls the
+// action of the caller. The action is not called if the user cancels.
 import QtQuick
 import configtools
 
 OVDialog {
     id: root
 
-    required property var deviceFactory
-    property string message
-    property bool danger: false
-    property bool listed: false
-    property bool expanded: false
-    property var action: null  // called with the devices to process and the unticked ones
-    property bool byAddress: true  // `action` gets addresses and ports, else identities
-    property string subject    // identifies the question for withdraw()
+    required property var deviceFactory  // a CDeviceFactory
+    property string message  // the question
+    property bool danger: false  // a dangerous change: the primary button is red, and "cancel" has the focus
+    property bool listed: false  // the list cannot be hidden
+    property bool expanded: false  // the list is shown
+    /// Function of the caller, called with two lists: the ticked devices, see `byAddress`, and the unticked ones,
+    /// always as "address:port". Null while the dialog is closed.
+    property var action: null
+    property bool byAddress: true  // the ticked devices are passed as "address:port", otherwise by identity
+    property string subject  // identifies the question for withdraw(); "" for none
 
-    /// `text` is the question, `actionText` the change to each device. `choices` has "okText" and "action" and
-    /// optionally "title", "danger", "listed" (shows the list even without notes), "quick" (a single device without a
-    /// note needs no confirmation) and "subject" (for withdraw()).
+    /// Asks for devices by `ipports` ("address:port"). `text` is the question, `actionText` the change to each device.
+    /// `choices` has "okText" and "action" and optionally "title", "danger", "listed" (the list is always shown),
+    /// "quick" (no confirmation for a single device without a warning that is not skipped: the action is called during
+    /// this call) and "subject" (for withdraw()). The list is also shown if a device has a warning or is skipped.
     function ask(text, actionText, ipports, choices) {
         preview.action = actionText;
         preview.setAddresses(ipports);
@@ -24,7 +28,7 @@ OVDialog {
         begin(text, choices);
     }
 
-    /// Like ask() for rows of a DeviceTableModel. The action gets their identities.
+    /// Like ask() for rows (values) of a DeviceTableModel. The action gets the identities of the ticked ones.
     function askRows(text, actionText, rows, choices) {
         preview.action = actionText;
         preview.setDevices(rows);
@@ -32,7 +36,8 @@ OVDialog {
         begin(text, choices);
     }
 
-    /// Like ask() for entries of BatchPreview.setEntries(). The action gets their names.
+    /// Like ask() for entries of BatchPreview::setEntries(), which contain their changes. The action gets the names of
+    /// the ticked ones.
     function askEntries(text, entries, choices) {
         preview.action = "";
         preview.setEntries(entries);
@@ -40,6 +45,7 @@ OVDialog {
         begin(text, choices);
     }
 
+    /// Opens the dialog, or calls the action if no confirmation is needed.
     function begin(text, choices) {
         const noted = preview.warningCount + preview.skippedCount > 0;
         if (choices.quick && preview.count === 1 && !noted) {
@@ -57,7 +63,7 @@ OVDialog {
         open();
     }
 
-    /// Closes the question if it has this subject.
+    /// Closes the dialog without calling the action if its question has this subject.
     function withdraw(about) {
         if (subject !== about)
             return;
@@ -65,6 +71,7 @@ OVDialog {
         close();
     }
 
+    /// Closes the dialog and calls the action.
     function start() {
         const wanted = action;
         if (wanted === null)
@@ -75,6 +82,7 @@ OVDialog {
         wanted(devices, others);
     }
 
+    /// The ticked devices as the action gets them.
     function chosen() {
         return byAddress ? preview.checkedAddresses() : preview.checkedIdentities();
     }

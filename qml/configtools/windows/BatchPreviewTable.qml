@@ -1,4 +1,4 @@
-// The changes of a batch and possible problems. Unticked devices are left out.
+// A table of the changes of a planned batch and possible problems. Unticked devices do not take part in the batch.
 import QtQuick
 import configtools
 

@@ -1,10 +1,11 @@
-// The result of a device or batch, with an icon.
+// A table cell with the result of a device or batch, and an icon for its kind.
 import QtQuick
 import configtools
 
 OVTableCell {
     id: root
 
+    /// A BatchResultModel.State, index in the lists below; ToCome shows no icon.
     property int outcome: BatchResultModel.ToCome
     readonly property var signNames: ["error", "alert", "mixed", "ok", "ok"]
     readonly property var signColors: [Theme.colours.bad, Theme.colours.warn, Theme.colours.sub, Theme.colours.sub, Theme.colours.ok]

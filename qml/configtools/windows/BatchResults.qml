@@ -1,4 +1,4 @@
-// The panel of batches, and saving of results.
+// Opens the panel of batches, and saves results of batches to files. The end of writing is notified.
 import QtQuick
 import configtools
 
@@ -10,21 +10,25 @@ Item {
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var fileDialogs: FileDialogsApi
     // qmllint enable unqualified
-    property var writtenPaths: []  // paths of files being written
-    signal notify(string message, int severity)
+    property var writtenPaths: []  // paths of files being written for this object
+    signal notify(string message, int severity)  // severity: of OVToast
 
+    /// Opens the panel with the latest batch.
     function show() {
         panel.instance().show();
     }
 
+    /// Asks for a file, then writes the results of a batch to it in the background.
     function save(batch) {
         chooseFile(batch.title, batch.began, path => batches.saveResults(batch, path));
     }
 
+    /// Asks for a file, then writes the results of all listed batches to it in the background.
     function saveAll() {
         chooseFile(qsTr("批处理记录"), new Date(), path => batches.saveAllResults(path));
     }
 
+    /// Asks for a file whose suggested name is `subject` and the date `time`, then calls `write` with its path.
     function chooseFile(subject, time, write) {
         const name = subject + time.toLocaleString(Qt.locale("C"), " yyyy-MM-dd HH-mm-ss");
         fileDialogs.chooseNewFile(qsTr("保存结果"), ["Excel Files (*.xlsx)", "CSV Files (*.csv)"], name, path => {

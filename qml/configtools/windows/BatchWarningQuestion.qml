@@ -1,9 +1,9 @@
-// Confirms a batch with warnings.
+// Asks whether to start a batch despite warnings. `accepted` means yes.
 import QtQuick
 import configtools
 
 OVMessageBox {
-    /// `descriptions` describe the warnings.
+    /// Opens the question. `warnings` is the number of warnings, `descriptions` their texts, one per line.
     function ask(warnings, descriptions) {
         okText = qsTr("继续");
         show(qsTr("有 %n 个警告，仍要继续吗？", "", warnings) + "\n" + descriptions, OVMessageBox.DangerQuestion);

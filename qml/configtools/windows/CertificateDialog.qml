@@ -1,4 +1,5 @@
-// Lists certificates that were refused, and stores those that the user trusts.
+// Lists the device certificates that were refused, and stores those that the user ticks as trusted. Requests that were
+// refused before are not repeated.
 import QtQuick
 import configtools
 
@@ -6,15 +7,17 @@ OVDialog {
     id: root
 
     required property CertificateList certificates
-    readonly property bool warns: certificates.changedCount > 0
+    readonly property bool warns: certificates.changedCount > 0  // a certificate differs from the one trusted before
+    /// Values of the selected row, see CertificateList; empty for none.
     readonly property var current: shownRow(table.currentIndex, certificates.count)
-    signal agreed(int count)
+    signal agreed(int count)  // `count` certificates are trusted now; the dialog has closed
 
-    /// `count` is a dependency: it changes with the rows.
+    /// The values of a row. `count` is unused: with it, a binding is evaluated again when the rows change.
     function shownRow(index, count) {
         return certificates.get(index);
     }
 
+    /// Reads the refused certificates and opens the dialog.
     function show() {
         certificates.load();
         table.show(0);

@@ -1,8 +1,8 @@
-// The new names of channels, from the configuration page that has written them to the windows that show the channels.
+// Announces new names of channels: the configuration page emits the signal after a device has taken a name, and windows
+// that show the channel change its name.
 pragma Singleton
 import QtQuick
 
 QtObject {
-    /// `channel` counts from 0.
-    signal renamed(string ipport, int channel, string name)
+    signal renamed(string ipport, int channel, string name)  // `ipport`: "address:port". `channel` counts from 0.
 }

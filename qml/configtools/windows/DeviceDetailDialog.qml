@@ -1,5 +1,6 @@
-// All known values of a device, in groups, with search, copy and export. Values that need a login are read on request
-// only: it takes time, and the device counts wrong passwords.
+// All known values of a device, in groups, with search, copy and export. Values that need a login are read only when
+// the user asks: a login takes time, and a wrong password counts towards the lock of the account. The owner copies and
+// exports.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -7,16 +8,17 @@ import configtools
 OVDialog {
     id: root
 
-    required property var deviceFactory
-    property string ipport
+    required property var deviceFactory  // a CDeviceFactory
+    property string ipport  // "address:port"
     property string mac
-    property bool isLent: false    // the row has its account only for this attempt
-    readonly property alias asking: work.running
-    property string loginError        // error of the last login
+    property bool isLent: false  // the row has its account only for the running login; it is removed after a failure
+    readonly property alias asking: work.running  // the login or reading runs
+    property string loginError  // error of the last login, "" for none
     signal copyRequested(string text)
-    signal exportRequested(string fileName)
+    signal exportRequested(string fileName)  // fileName: suggested name without folder
 
-    /// Shows the values of a row and further values, by key.
+    /// Shows the values of a row and further values, by key, and clears the search text. Cancels running work. The
+    /// caller opens the dialog.
     function load(detail) {
         work.cancel();
         loginError = "";
@@ -26,12 +28,13 @@ OVDialog {
         lines.load(detail);
     }
 
+    /// Writes all values to a text file, without a question. Returns false on failure.
     function write(path) {
         return lines.write(path);
     }
 
-    /// Logs in and reads further values. A following account becomes the row's account for the attempt, and stays if
-    /// the device accepts it.
+    /// Logs in with the account of LoginMemory.accountFor() and reads further values. If that is an account for all
+    /// following devices, the row has it for this login, and keeps it if the device accepts it.
     function ask() {
         loginError = "";
         notice = "";
@@ -42,11 +45,13 @@ OVDialog {
         work.readDetail(ipport);
     }
 
+    /// Sets the account of the row; two empty texts remove it.
     function setAccount(account, password) {
         deviceFactory.updataDeviceInfo("dh", "username", account, mac, ipport);
         deviceFactory.updataDeviceInfo("dh", "password", password, mac, ipport);
     }
 
+    /// Takes the result of ask(): adds the values, or shows the error and asks for another account if that may help.
     function add(detail) {
         const result = detail.loginResult ?? -1;
         const account = LoginMemory.accountFor(ipport, deviceFactory).user;

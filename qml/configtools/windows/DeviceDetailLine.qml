@@ -1,4 +1,5 @@
-// A label and its value, which can be selected and copied.
+// A line of the details: a label and its value. Part of the value can be selected and copied with the mouse and
+// keyboard; a button copies the line.
 import QtQuick
 import configtools
 
@@ -8,8 +9,8 @@ Rectangle {
     required property int index
     required property string label
     required property string value
-    property bool current: false
-    signal copyRequested
+    property bool current: false  // the line is selected in the list
+    signal copyRequested  // copy the line
 
     height: Math.max(Theme.rowHeight, valueText.height + Theme.controlGap)
     color: current ? Theme.colours.rowSelected : pointer.hovered ? Theme.colours.rowHoverVeil : Theme.colours.clear

@@ -1,4 +1,5 @@
-// The device search: start, stop, state and number of devices found.
+// The device search of the window: start, stop, state and number of devices found. A search replaces the device list,
+// so the caller of start() asks BusyState before.
 import QtQml
 import configtools
 
@@ -6,13 +7,13 @@ QtObject {
     id: root
 
     required property BusyState busyState
-    required property var deviceFactory
+    required property var deviceFactory  // a CDeviceFactory
     required property SearchReports searchReports
-    property int count: 0
+    property int count: 0  // number of devices found by the running or last search
     property bool running: false
-    property bool searchedNothing: false  // the settings select no network
+    property bool searchedNothing: false  // the settings of the last search select no network
     property bool searchesLocal: false  // the last search included the local network
-    property string searchedRange  // address range of the last search, "" for none
+    property string searchedRange  // address range of the last search, "first - last"; "" for none
     /// Networks of the last search as text. Without the local network if no interface could search it.
     readonly property string searched: {
         const networks = searchReports.networks;
@@ -21,11 +22,11 @@ QtObject {
         return [searchesLocal ? local : "", searchedRange].filter(part => part !== "").join(qsTr("、"));
     }
     property int percent: 0  // progress of the search, 0 to 100
-    property bool stopping: false
-    /// Settings of the search to start after the running one, null for none.
-    property var next: null
+    property bool stopping: false  // the running search was asked to stop; after its end: it was stopped
+    property var next: null  // settings of the search to start after the running one; null for none
 
-    /// Starts a search, after stopping a running one: two searches would fill the same list and report one end.
+    /// Starts a search. `settings`: see SearchSettings.read(). A running search is stopped first, and the new one
+    /// starts after its end: two searches would fill the same list and report one end.
     function start(settings) {
         if (running) {
             next = settings;
@@ -46,12 +47,14 @@ QtObject {
         deviceFactory.startSearch("dh");
     }
 
-    /// Stops the search. Its devices stay in the list.
+    /// Stops the search, and drops one that waits. Devices that were found stay in the list. Does nothing without a
+    /// search.
     function stop() {
         next = null;
         end();
     }
 
+    /// Asks the back end to stop the running search.
     function end() {
         if (!running || stopping)
             return;
@@ -59,10 +62,10 @@ QtObject {
         deviceFactory.stopSearch("dh");
     }
 
-    /// The search ends with `rows` devices in the list and `leftOut` ignored responses of further ones.
+    /// The list is full: the search ends with `rows` devices in it, and ignored `leftOut` responses of further ones.
     signal limited(int rows, int leftOut)
 
-    /// Starts the next search when no operation needs the current rows.
+    /// Starts the search that waits. Does nothing while a search runs or an operation needs the rows.
     function startNext() {
         const settings = next;
         if (!settings || running || busyState.refusal(BusyState.Search) !== "")

@@ -1,10 +1,12 @@
-// The file format of an exported device list.
+// Asks for the file format of an exported device list. It writes nothing: the owner reads `fileName` on `accepted` and
+// closes the dialog.
 import QtQuick
 import configtools
 
 OVDialog {
     id: root
 
+    /// With the suffix of the chosen format, without folder.
     readonly property string fileName: "device" + suffixes[formats.chosen]
     readonly property var suffixes: [".xlsx", ".csv", ".xml"]
 

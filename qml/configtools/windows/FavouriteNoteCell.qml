@@ -1,4 +1,5 @@
-// The editable note of a favourite. Enter and leaving the field save the text, Escape discards it.
+// A table cell with the editable note of a favourite. Enter and leaving the field report a changed text, Escape
+// discards it. The owner stores it.
 import QtQuick
 import configtools
 
@@ -6,14 +7,15 @@ OVTableCell {
     id: root
 
     required property string fullNote  // full text; the table may show a part
-    property bool editable: true
-    signal edited(string note)
+    property bool editable: true  // editing can begin
+    signal edited(string note)  // store the changed note
 
-    property bool editing: false
+    property bool editing: false  // the field is shown
     property string before  // text at the start of editing
 
     readonly property int longest: 50  // maximum characters of input; a longer stored note is not truncated
 
+    /// Shows the field with the complete note.
     function begin() {
         field.maximumLength = Math.max(longest, fullNote.length);
         field.text = fullNote;
@@ -23,6 +25,7 @@ OVTableCell {
         field.selectAll();
     }
 
+    /// Hides the field, and with `keep` reports a changed text.
     function end(keep) {
         if (!editing)
             return;

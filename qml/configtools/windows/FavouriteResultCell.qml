@@ -1,4 +1,5 @@
-// The result of adding a favourite.
+// A table cell with the result of adding a favourite: icon and message. `value` is a FavouriteListModel.Progress; a
+// favourite that was not tried shows nothing.
 import QtQuick
 import configtools
 

@@ -1,13 +1,13 @@
-// The table of favourites: columns and cells.
+// The table of favourites: columns and cells. Its model is a FavouriteListModel. It only requests; the window acts.
 import QtQuick
 import configtools
 
 OVTable {
     id: root
 
-    property bool editable: true
-    signal noteEdited(int row, string note)
-    signal deletionRequested(int row)
+    property bool editable: true  // notes can be edited and favourites deleted
+    signal noteEdited(int row, string note)  // store the changed note
+    signal deletionRequested(int row)  // ask, then delete the favourite
 
     columns: [
         {key: "num", title: qsTr("No."), width: Theme.columnNumber, cell: figureCell},

@@ -1,4 +1,5 @@
-// The favourites: files in one folder. Passwords are encrypted in the files.
+// The favourites: a file for each in one folder. Passwords are encrypted in the files. list(), save() and remove()
+// access files on the main thread.
 import QtQuick
 import Author 1.0
 import configtools
@@ -6,16 +7,17 @@ import configtools
 QtObject {
     id: root
 
-    property string folder: Theme.favPath
+    property string folder: Theme.favPath  // path that ends with "/"
     readonly property CAuthor author: CAuthor {}
 
-    /// Returns the favourites by file name. Each is a list of texts: mode, address, port, account, encrypted password,
-    /// note.
+    /// Returns the favourites by file name (without folder). Each is a list of six texts: mode, address, port, account,
+    /// encrypted password, note.
     function list() {
         return author.readJsonFilesFromFolder(folder);
     }
 
-    /// Saves a device in the form of DeviceAdding with "note". Returns the file name, "" on failure. saveTextAsJson()
+    /// Saves a device: a map of "mode" (DeviceAdding.Mode), "address", "port", "account", "password" and "note".
+    /// Replaces the favourite with the same address and port. Returns the file name, "" on failure. saveTextAsJson()
     /// reports no failure, so the file is read back.
     function save(device) {
         const cipher = author.AesEncrypt(device.password);
@@ -29,12 +31,12 @@ QtObject {
         return Object.keys(files).find(isSaved) ?? "";  // characters that are invalid in file names are replaced
     }
 
-    /// Returns false if the file does not exist or cannot be removed.
+    /// Deletes the file of a favourite. Returns false if it does not exist or cannot be removed.
     function remove(fileName) {
         return author.deleteFile(folder + fileName);
     }
 
-    /// Converts a favourite to the form of DeviceAdding and save().
+    /// Converts a favourite of FavouriteListModel.device() to the form of save(), with the decrypted password.
     function deviceOf(favourite) {
         return {
             mode: favourite.mode, address: favourite.address, port: favourite.port, account: favourite.account,

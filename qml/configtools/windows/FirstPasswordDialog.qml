@@ -1,20 +1,23 @@
-// The account and password for the initialisation of devices.
+// Asks for the account and password for the initialisation of devices, and where the account is stored. It sends
+// nothing: the owner reads the input on `confirmed` and closes the dialog, which clears the password.
 import QtQuick
 import configtools
 
 OVDialog {
     id: root
 
-    required property var deviceFactory
-    property int deviceCount: 0
-    readonly property alias account: accountField.text
+    required property var deviceFactory  // a CDeviceFactory
+    property int deviceCount: 0  // number of devices to initialise, for the text
+    readonly property alias account: accountField.text  // user name
     readonly property alias password: passwordField.text
-    readonly property alias keeping: keepingChoice.keeping
+    readonly property alias keeping: keepingChoice.keeping  // an AccountList.Keeping
+    /// Strength of the password, 0 to 3; at least 2 is needed.
     readonly property int grade: deviceFactory.getPassWordType(passwordField.text)
     property bool tried: false  // OK was pressed: incomplete fields show errors
-    readonly property int mostCharacters: 32
-    signal confirmed
+    readonly property int mostCharacters: 32  // of the password
+    signal confirmed  // the input is valid
 
+    /// Resets the input; the caller opens the dialog. `count`: number of devices.
     function load(count) {
         deviceCount = count;
         tried = false;
@@ -23,7 +26,7 @@ OVDialog {
         clearPasswords();
     }
 
-    /// Keeps the password in memory no longer than needed.
+    /// Clears both fields, so that the password is in memory no longer than needed.
     function clearPasswords() {
         confirmationField.text = "";
         passwordField.text = "";
@@ -44,6 +47,7 @@ OVDialog {
             : length < 8 || length > mostCharacters ? wrongLength : "";
     }
 
+    /// Field of the error: "account", "confirmation" or "password"; "" for none.
     readonly property string faultField: fault === "" ? "" : fault === noAccount ? "account"
         : fault === noConfirmation || fault === different ? "confirmation" : "password"
 

@@ -1,24 +1,26 @@
-// The devices to initialise, and the skipped ones with reasons.
+// The ticked devices before their initialisation: those that will be initialised, and the skipped ones with reasons. It
+// sends nothing; the owner handles `confirmed`, reads chosen() and closes the dialog.
 import QtQuick
 import configtools
 
 OVDialog {
     id: root
 
-    readonly property alias count: devices.deviceCount
+    readonly property alias count: devices.deviceCount  // number of ticked devices that will be initialised
+    /// Height in pixels that shows all rows.
     readonly property int wantedListHeight: Theme.tableHeadHeight + devices.count * Theme.rowHeight + Theme.controlRadius
         + 2 * Theme.line
-    /// Maximum height of the list, also while a notice is above the buttons.
+    /// Maximum height of the list in pixels, also while a notice is above the buttons.
     readonly property int roomForList: (parent?.height ?? 0) - 2 * Theme.pageMargin - Theme.dialogHeadHeight
         - 2 * Theme.dialogFootHeight - 2 * contentMargin - hint.height - Theme.unit
-    signal confirmed
+    signal confirmed  // at least one device will be initialised
 
-    /// Takes rows of a DeviceTableModel.
+    /// Takes rows (values) of a DeviceTableModel, all of them ticked; the caller opens the dialog.
     function load(rows) {
         devices.setTicked(rows);
     }
 
-    /// Identities of the devices to initialise.
+    /// Identities of the ticked devices that will be initialised.
     function chosen() {
         return devices.identities();
     }

@@ -1,7 +1,8 @@
-// The languages of the menu: code, and name in the language.
+// The languages of the menu: the code of each, and its name.
 import QtQml
 
 QtObject {
+    /// Maps of "code" (as stored in the settings) and "label".
     property var entries: [
         {code: "zh_CN", label: "简体中文"}, {code: "en_US", label: "English"},
         {code: "ro_RO", label: "Romanian"}, {code: "JP_US", label: "日本語"},
@@ -12,7 +13,8 @@ QtObject {
         {code: "gl_GL", label: "Galician"}, {code: "ca_CA", label: "Catalan"}
     ]
 
-    /// Removes entries by ascending indices. It removes the last one first, so that the remaining indices stay valid.
+    /// Removes the entries with these indexes, which are in ascending order. The last one is removed first, so that the
+    /// other indexes stay valid.
     function remove(indexes) {
         const kept = entries.slice();
         for (let i = indexes.length - 1; i >= 0; --i)

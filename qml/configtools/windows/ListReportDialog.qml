@@ -1,14 +1,14 @@
-// Problems of an import or export: a summary, and a table with reasons.
+// Problems of an ended import or export: a summary, and a table with reasons.
 import QtQuick
 import configtools
 
 OVDialog {
     id: root
 
-    property string summary
-    required property var columns  // as in OVTable; "figure": digits of equal width
+    property string summary  // text above the table
+    required property var columns  // as in OVTable; with "figure" the digits have equal width
 
-    /// `list` are maps with the keys of the columns.
+    /// Sets the summary and the rows; the caller opens the dialog. `list`: maps with the keys of the columns.
     function load(text, list) {
         summary = text;
         entries.setNumberedRows(list);

@@ -11,10 +11,12 @@ QtObject {
     /// An account entered by the user and not tried yet: "ipport", "account", "password", "isForAll" (use it for all
     /// later devices), "isKept" (store it for the device), "deviceFactory". Null for none.
     property var pendingAccount: null
-    property var accounts: null  // an AccountList; null if accounts are not stored
-    signal unkept(string reason)
+    property var accounts: null  // the AccountList of the application; null before the main window sets it
+    signal unkept(string reason)  // an accepted account could not be stored; reason: for the user
 
-    /// Records the result of a login. After success, an entered account is used for later devices or stored, as chosen.
+    /// Records the result of a login, a LoginResult. A success clears the count of wrong passwords. An account that the
+    /// user has entered for this device is then used for all following devices or stored for the device, as chosen.
+    /// After any other result it is dropped.
     function note(ipport, result) {
         if (result === wrongPassword)
             wrongTimes = Object.assign({}, wrongTimes, {[ipport]: timesWrong(ipport) + 1});
@@ -30,6 +32,8 @@ QtObject {
             unkept(failure);
     }
 
+    /// Remembers an account that the user has entered until note() gets the result of its login. It replaces an earlier
+    /// one. Parameters: see `pendingAccount`.
     function setPendingAccount(ipport, account, password, isForAll, isKept, deviceFactory) {
         pendingAccount = {
             ipport: ipport, account: account, password: password, isForAll: isForAll, isKept: isKept,
@@ -37,17 +41,19 @@ QtObject {
         };
     }
 
-    /// Error text of a login. That of a device without a response contains its address.
+    /// Error text of a failed login, a LoginResult. The text for a device without a response contains its address.
     function failureText(result, ipport, deviceFactory) {
         const networkFailure = 5;
         return result === networkFailure ? qsTr("%1 没有应答").arg(ipport) : deviceFactory.getErrorName(result);
     }
 
+    /// Number of passwords that the device has refused since its last successful login.
     function timesWrong(ipport) {
         return wrongTimes[ipport] ?? 0;
     }
 
-    /// The account to log in to a device with: "user", "password" and "isForAll" (entered for all later devices).
+    /// The account to log in to a device with: "user", "password" and "isForAll" (the user has entered it for all
+    /// following devices).
     function accountFor(ipport, deviceFactory) {
         const chosen = deviceFactory.accountOf("dh", ipport);
         return {user: chosen.account, password: chosen.password, isForAll: chosen.isFollowing ?? false};

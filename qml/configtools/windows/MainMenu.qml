@@ -1,4 +1,4 @@
-// The menu of the main window.
+// The menu of the main window. It only requests; the owner acts.
 import QtQuick
 import QtQml
 import configtools
@@ -7,14 +7,14 @@ OVMenu {
     id: root
 
     required property var languages  // objects with "code" and "label"
-    required property string currentLanguage
+    required property string currentLanguage  // code of the chosen language
     required property string colourChoice  // "desktop", "light" or "dark"
-    signal accountsRequested
-    signal helpRequested
-    signal questionsRequested
+    signal accountsRequested  // manage the stored accounts
+    signal helpRequested  // open the manual
+    signal questionsRequested  // open the questions and answers
     signal aboutRequested
     signal languageChosen(string code)
-    signal coloursChosen(string choice)
+    signal coloursChosen(string choice)  // see colourChoice
 
     objectName: "mainMenu"
 

@@ -1,22 +1,25 @@
-// Changes the address of a device or of a batch. For a batch, a preview opens when the addresses are known.
+// Input of new addresses, for one device or for a batch. The dialog changes nothing: the owner reads the input on
+// `confirmed` and closes the dialog. Warnings of one device are shown at the fields, and a second OK confirms them.
+// Warnings of a batch are confirmed by a question. For a batch, the preview opens when the addresses are known.
 import QtQuick
 import configtools
 
 OVDialog {
     id: root
 
-    required property var deviceFactory
+    required property var deviceFactory  // a CDeviceFactory
+    /// The ticked devices get consecutive addresses, or the same one; otherwise one device gets the address.
     property bool batch: false
-    property bool expanded: false
-    readonly property alias plan: plan
+    property bool expanded: false  // the preview is shown
+    readonly property alias plan: plan  // the AddressPlan with the devices, their ticks and new addresses
     readonly property int formWidth: Theme.modifyIpWidth - 2 * Theme.pageMargin  // also next to the preview
-    readonly property alias dhcp: dhcpButton.checked
+    readonly property alias dhcp: dhcpButton.checked  // the devices use DHCP; address, mask and gateway are ignored
     readonly property string mask: AddressTools.plainAddress(maskField.text)
     readonly property string gateway: AddressTools.plainAddress(gatewayField.text)
     //: Some languages have a different term for the address of one device and the first address of a batch.
     readonly property string startLabel: batch ? qsTr("起始IP") : qsTr("起始IP", "one device")
     property bool tried: false  // OK was pressed: incomplete fields show errors
-    readonly property bool planned: dhcp || startField.acceptable
+    readonly property bool planned: dhcp || startField.acceptable  // the new addresses are known
     readonly property string addressWarning: {
         plan.warningCount + plan.skippedCount;  // dependency on the plan
         if (batch || dhcp)
@@ -38,9 +41,9 @@ OVDialog {
     readonly property string gatewayWarning: plan.gatewayOutside && !dhcp ? qsTr("网关不在该网段内") : ""
     readonly property string warnings: addressWarning + gatewayWarning
     property string warned  // warnings that were already shown; they do not block a second confirmation
-    signal confirmed
+    signal confirmed  // the input is valid, and warnings were confirmed
 
-    /// Takes rows of devices and resets all input.
+    /// Takes rows (values) of devices, all of them ticked, and resets all input; the caller opens the dialog.
     function load(devices, isBatch) {
         batch = isBatch;
         expanded = false;
@@ -54,6 +57,7 @@ OVDialog {
         plan.setDevices(devices);
     }
 
+    /// Error text of the first invalid field, "" for none.
     function fault() {
         if (dhcp)
             return "";
@@ -64,7 +68,7 @@ OVDialog {
         return gatewayField.acceptable ? "" : qsTr("请输入正确的网关");
     }
 
-    /// Confirms warnings of a batch after showing the preview.
+    /// Confirms a batch. Shows the preview and asks first if there are warnings; refuses if no device is ticked.
     function startBatch() {
         const count = plan.warningCount + (gatewayWarning === "" ? 0 : 1);
         warned = warnings;

@@ -1,4 +1,4 @@
-// Edits the note of a device.
+// Edits and stores the note of a device, which must have a MAC or UUID. An empty note is removed.
 import QtQuick
 import configtools
 
@@ -8,6 +8,7 @@ OVDialog {
     required property DeviceNotes notes
     property var values: ({})  // values of the device's row
 
+    /// Opens the dialog for the device of a row. Shows why the stored notes could not be read, if so.
     function edit(values) {
         root.values = values;
         const note = notes.noteOf(values);

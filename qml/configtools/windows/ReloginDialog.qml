@@ -1,22 +1,25 @@
-// Asks for the account after a refused login, shows the device's response, and sets the password of the row.
+// Asks for another account after a refused login and shows the device's response. On OK it sets the password of the
+// row; the owner sets the user name of the row and logs in again.
 import QtQuick
 import configtools
 
 OVDialog {
     id: root
 
-    required property var deviceFactory
-    /// Emitted once for each ask(). Two empty texts: the user has cancelled, or the device has no row any more.
+    required property var deviceFactory  // a CDeviceFactory
+    /// Emitted once for each ask(). Two empty texts: the user has cancelled, the device has no row any more, or another
+    /// ask() followed.
     signal responded(string account, string password)
 
-    property string mac
-    property string ipport
-    property bool waiting: false
-    property string faultKind
-    property string fault
+    property string mac  // of the row, "" if unknown
+    property string ipport  // "address:port"
+    property bool waiting: false  // `responded` was not emitted yet for the last ask()
+    property string faultKind  // field of the error: "account" or "password"; "" for none
+    property string fault  // error text, "" for none
     property int result: 0  // of the refused login, a LoginResult
     property int wrongTimes: 0  // number of wrong passwords sent to this device
 
+    /// Opens the dialog. `account` is the refused user name, `result` the LoginResult of the refused login.
     function ask(mac, ipport, account, result) {
         finish("", "");
         root.mac = mac;
@@ -33,6 +36,7 @@ OVDialog {
         open();
     }
 
+    /// Emits `responded` if it was not emitted yet.
     function finish(account, password) {
         if (!waiting)
             return;
@@ -48,11 +52,13 @@ OVDialog {
             : faultKind === "" ? "" : deviceFactory.getErrorName(result);
     }
 
+    /// Removes the error from its field.
     function clearError() {
         faultKind = "";
         fault = "";
     }
 
+    /// Sets the error of the first empty field. Returns whether there is none.
     function check() {
         faultKind = accountField.text === "" ? "account" : passwordField.text === "" ? "password" : "";
         fault = faultKind === "account" ? qsTr("请输入账号") : faultKind === "password" ? qsTr("请输入密码") : "";

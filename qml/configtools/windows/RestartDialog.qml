@@ -1,4 +1,5 @@
-// Asks for a restart after a change of language.
+// Asks for a restart after a change of language. The change is stored already; after "cancel" it applies at the next
+// start.
 import QtQuick
 import configtools
 

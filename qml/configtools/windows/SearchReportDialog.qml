@@ -1,4 +1,4 @@
-// The report of the last search: packets of each network interface, and problems.
+// The report of the last search: packets of each network interface, and problems with advice. It can be copied as text.
 import QtQuick
 import QtQuick.Templates as T
 import configtools

@@ -1,9 +1,12 @@
-// The search settings as one object; localConfig stores them.
+// Reads and stores the search settings as one object.
 import QtQml
 
 QtObject {
-    required property var localConfig
+    required property var localConfig  // a CLocalConfig
 
+    /// Returns the stored settings: "localDomain" (bool: search the networks of this computer), "otherDomain" (bool:
+    /// search the address range), "startIP", "endIP", "userName", "password" (the default account) and "logsIn" (bool:
+    /// log in to found devices).
     function read() {
         return {
             localDomain: localConfig.getSearchConfigLocalDomain() !== 0,
@@ -16,7 +19,7 @@ QtObject {
         };
     }
 
-    /// Stores settings. Returns false if reading them back gives other values.
+    /// Stores settings in the form of read(). Returns false if reading them back gives other values.
     function write(settings) {
         localConfig.setSearchConfigStartIP(settings.startIP);
         localConfig.setSearchConfigEndIP(settings.endIP);

@@ -1,15 +1,17 @@
-// Edits a copy of the search settings: networks and account.
+// Edits a copy of the search settings: networks and account. It stores nothing: the owner reads values() on `confirmed`
+// and closes the dialog.
 import QtQuick
 import configtools
 
 OVDialog {
     id: root
 
+    /// An AddressTools.RangeError; no error while the address range is not searched.
     readonly property int fault: otherBox.checked
         ? AddressTools.searchRangeError(startField.text, endField.text) : AddressTools.NoFault
-    signal confirmed
+    signal confirmed  // the input is valid
 
-    /// Loads settings into the fields.
+    /// Loads settings into the fields, in the form of SearchSettings.read(); the caller opens the dialog.
     function load(settings) {
         localBox.checked = settings.localDomain;
         otherBox.checked = settings.otherDomain;
@@ -20,7 +22,7 @@ OVDialog {
         loginBox.checked = settings.logsIn;
     }
 
-    /// Returns the settings of the fields.
+    /// Returns the settings of the fields, in the form of SearchSettings.read().
     function values() {
         return {
             localDomain: localBox.checked,
@@ -33,6 +35,7 @@ OVDialog {
         };
     }
 
+    /// The error text of an AddressTools.RangeError; "" for no error.
     function textOf(fault) {
         switch (fault) {
         case AddressTools.BeginAboveEnd:

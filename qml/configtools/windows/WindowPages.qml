@@ -1,4 +1,5 @@
-// The pages of the main window, one for each tab. All except the first are created on first use.
+// The pages of the main window, one for each tab. All except the first are created on first use. Requests of the pages
+// are forwarded to the window and to its popups.
 import QtQuick
 import QtQuick.Layouts
 import configtools
@@ -8,18 +9,19 @@ StackLayout {
 
     required property Batches batches
     required property BusyState busyState
-    required property bool libraryInstalled
-    required property var memory
+    required property bool libraryInstalled  // false: there is no device library, so no device can be reached
+    required property var memory  // a ViewMemory that stores columns and order of the tables
     required property DeviceNotes notes
     required property WindowPopups popups
     required property DeviceSearch search
     required property SearchReports searchReports
-    required property bool simulated
-    signal demoRequested
-    signal searchRequested
-    signal settingsRequested
+    required property bool simulated  // the application shows the demo site
+    signal demoRequested  // restart on the demo site
+    signal searchRequested  // start a search
+    signal settingsRequested  // open the search settings
 
-    /// Runs `action` if the current page can be left. Returns whether the user is asked about unsaved settings first.
+    /// Runs `action` if the current page can be left, and returns false. If the configuration page has unsaved
+    /// settings, asks the user and returns true; `action` then runs after the answer, unless the user cancels.
     function leave(action) {
         if (deviceConfigPage.visible && busyState.losesEdits(BusyState.ChangeTab))
             return (deviceConfigPage.item as PageDeviceConfig).leave(action);
@@ -27,11 +29,13 @@ StackLayout {
         return false;
     }
 
+    /// The page of a tab; an empty OVOnDemand if it was not created yet.
     function pageAt(index) {
         const holder = children[index];
         return holder.item ?? holder;
     }
 
+    /// Gives the page of a tab the keyboard focus.
     function takeFocus(index) {
         pageAt(index).forceActiveFocus(Qt.ShortcutFocusReason);
     }
@@ -41,14 +45,17 @@ StackLayout {
         pageAt(currentIndex).focusSearch();
     }
 
+    /// Focuses the table of the main page.
     function focusTable() {
         modifyIpPage.focusTable();
     }
 
+    /// Opens the images of the devices that are ticked on the main page, whichever page is shown.
     function openGallery() {
         modifyIpPage.openGallery();
     }
 
+    /// Ends the input of a new password on the system page.
     function disablePasswordEditor() {
         systemConfigPage.item?.disablePasswordEditor();
     }

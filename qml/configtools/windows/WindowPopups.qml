@@ -1,4 +1,5 @@
-// Dialogs, menus, messages and further windows of the main window, created on first use.
+// Dialogs, menus, messages and further windows of the main window, created on first use. Settings are not changed here:
+// the window handles the signals.
 import QtQuick
 import configtools
 
@@ -8,47 +9,51 @@ Item {
     required property Batches batches
     required property BusyState busyState
     required property CertificateList certificates
-    required property var deviceFactory
-    required property var localConfig
+    required property var deviceFactory  // a CDeviceFactory
+    required property var localConfig  // a CLocalConfig
     required property SearchReports searchReports
-    required property var languages
-    required property string currentLanguage
+    required property var languages  // entries of the menu, see MainMenu
+    required property string currentLanguage  // code of the chosen language
     required property string colourChoice  // see MainMenu
-    required property string logoName
-    required property string softwareName
+    required property string logoName  // name of the product, in the about box
+    required property string softwareName  // title of the about box
     required property string version
-    required property bool searching
-    required property rect toastArea  // area of the toasts, in window coordinates
+    required property bool searching  // a search runs
+    required property rect toastArea  // area of the toasts in pixels, in window coordinates
     required property var webPages  // a WebPages
-    signal helpRequested
-    signal questionsRequested
+    signal helpRequested  // open the manual
+    signal questionsRequested  // open the questions and answers
     signal languageChosen(string code)
-    signal coloursChosen(string choice)
+    signal coloursChosen(string choice)  // see MainMenu
     signal restartRequested
-    signal settingsAccepted(var values)
-    signal endConfirmed  // exit during a batch
+    signal settingsAccepted(var values)  // store the search settings and search; values: see SearchSettings.read()
+    signal endConfirmed  // stop the running batch and exit
 
+    /// Opens the main menu below its button.
     function openMenu(button) {
         const mainMenu = menu.instance();
         mainMenu.popup(button, button.width - mainMenu.width, button.height + Theme.half);
     }
 
+    /// Opens the search settings with these values, see SearchSettings.read().
     function openSearchSettings(values) {
         const dialog = searchSettings.instance();
         dialog.load(values);
         dialog.open();
     }
 
+    /// Opens the report of the last search.
     function openSearchReport() {
         searchReport.instance().open();
     }
 
+    /// Asks for a restart after a change of language.
     function openRestartPrompt() {
         restart.instance().open();
     }
 
-    /// `table` is the list of the device, a DeviceTableModel. The live window goes through its ticked devices, or all
-    /// rows if none is ticked.
+    /// Opens the live window with the device at `ipport`. `table` is the list of the device, a DeviceTableModel. The
+    /// window goes through its ticked devices, or all rows if none is ticked.
     function openLive(ipport, table) {
         live.instance().open(ipport, -1, table, table.checkedCount > 0 ? table.checkedRows() : []);
     }
@@ -58,13 +63,14 @@ Item {
         live.instance().open(ipport, -1, null, tree.devicesToWatch());
     }
 
-    /// Shows images of these rows of `table`.
+    /// Shows images of devices. `rows`: values of rows of `table`, a DeviceTableModel.
     function openGallery(rows, table) {
         const window = gallery.instance();
         window.table = table;
         window.open(rows);
     }
 
+    /// Closes the live window and the images.
     function closeLive() {
         live.item?.close();
         gallery.item?.close();
@@ -75,7 +81,8 @@ Item {
         messageBox.instance().show(message, OVMessageBox.Information);
     }
 
-    /// Asks whether to exit during a batch. `upgrades`: firmware may be being written.
+    /// Asks whether to exit during the batch with this title. `upgrades`: firmware is being upgraded, so devices may be
+    /// writing it.
     function askToEnd(title, upgrades) {
         const box = endQuestion.instance();
         box.okText = qsTr("停止并退出");
@@ -83,16 +90,17 @@ Item {
             + (upgrades ? qsTr("已开始写入的设备会自行完成升级，请勿断电。") : ""), OVMessageBox.DangerQuestion);
     }
 
-    /// Shows a toast.
+    /// Shows a toast. `severity` is one of OVToast; `duration` in ms, by default that of the severity.
     function notify(message, severity, duration) {
         toasts.instance().show(message, severity, duration);
     }
 
-    /// Removes refusals: their obstacle may no longer exist.
+    /// Removes the toasts with refusals: their obstacle may no longer exist.
     function removeRefusals() {
         toasts.item?.removeRefusals();
     }
 
+    /// Removes all toasts.
     function clearNotices() {
         toasts.item?.clear();
     }

@@ -5,15 +5,16 @@ import QtQml
 Item {
     id: root
 
-    required property int tabCount
-    required property int currentTab
+    required property int tabCount  // number of tabs; Ctrl+1 is the first
+    required property int currentTab  // index
     signal searchRequested
     signal helpRequested
     signal settingsRequested
-    signal findRequested
-    signal galleryRequested
-    signal tabRequested(int index)
+    signal findRequested  // focus the search field
+    signal galleryRequested  // open the images of the ticked devices
+    signal tabRequested(int index)  // show the tab with this index
 
+    /// Requests the tab that is `steps` (1 or -1) further; after the last one the first follows.
     function turn(steps) {
         tabRequested((currentTab + tabCount + steps) % tabCount);
     }
