@@ -16,10 +16,12 @@ namespace sdk {
 class NetLibrary;
 }
 
-/// Information about a simulated site, which the window displays.
+/// Information about a simulated site. The window displays it.
 struct DemoNotice
 {
-    bool isShown = false; ///< the application uses a simulated site
+    /// The application uses a simulated site. The user's notes about devices are then stored in a separate
+    /// file, because simulated devices may have the MACs of real ones.
+    bool isShown = false;
     QString account = {}; ///< of most of its devices, as "user / password"; empty if no device has an account
 };
 

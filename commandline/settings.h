@@ -34,7 +34,8 @@ struct SettingInfo
     QLatin1StringView values; ///< description of the values that can be set, in English
 };
 
-/// Splits "name=value" at the first "="; nullopt without a name or without "=". The name is not checked.
+/// Splits "name=value" at the first "="; nullopt if the text has no "=" or begins with it. Spaces around the
+/// name are removed, those around the value are not. The name is not checked.
 [[nodiscard]] std::optional<Assignment> assignmentFrom(const QString &operand);
 
 /// A subject whose settings are read and written in a session with a device. The functions with a parameter
@@ -46,7 +47,8 @@ struct SessionSubject
     std::vector<SettingInfo> (*names)();
 
     /// Selects a channel (from 0) and reads its settings from the device. Called before the functions below.
-    /// Returns false, without a request, if the device has no such channel.
+    /// Returns false, without a request, if the device has no such channel. Returns true also after a failed
+    /// request: the caller checks SessionOperations::isDeviceAway() before it calls the functions below.
     bool (*load)(SessionOperations &device, int channel);
 
     /// The settings that load() has read, in the order of names(). Without those that the device does not
@@ -57,7 +59,8 @@ struct SessionSubject
     /// name of names().
     QString (*faultOf)(SessionOperations &device, const Assignment &assignment);
 
-    /// Writes values to the device. faultOf() is empty for each of them.
+    /// Writes values to the device. faultOf() is empty for each of them. Sends no further request once the
+    /// session is lost; values that were sent before stay on the device.
     void (*write)(SessionOperations &device, const QList<Assignment> &assignments);
 };
 
@@ -77,13 +80,14 @@ struct SessionSubject
 /// EncodeKey::curChannel. Returns false if the device has no such channel.
 [[nodiscard]] bool selectChannel(SessionOperations &device, QLatin1StringView key, int channel);
 
-/// True for "on", "1", "yes" and "true"; false for "off", "0", "no" and "false"; nullopt for other texts.
+/// True for "on", "1", "yes" and "true"; false for "off", "0", "no" and "false"; nullopt for other texts,
+/// also for "ON".
 [[nodiscard]] std::optional<bool> flagFrom(const QString &text);
 /// "on" or "off".
 [[nodiscard]] QString flagText(bool flag);
 
-/// The index of the choice that a text names, from 0; -1 if there is none. Upper and lower case, spaces and
-/// the sign between width and height are ignored.
+/// The index of the choice that a text names, from 0; -1 if there is none. Case, spaces and full stops are
+/// ignored: "h264" names "H.264". "x", "*", "_" and the multiplication sign are the same.
 [[nodiscard]] qsizetype choiceIndex(const QStringList &choices, const QString &text);
 
 } // namespace commandline

@@ -128,7 +128,8 @@ public:
     /// Removes IPv4 rows and their search records. addResponse() does not add these rows again before
     /// clear().
     void removeRows(const QSet<QString> &names);
-    /// Removes IPv6 rows. Their search records are kept.
+    /// Removes IPv6 rows. Their search records are kept. addResponse() does not add a row again before
+    /// clear() if it was found since the last clear(); a lost row is added again when its device responds.
     void removeIPv6Rows(const QSet<QString> &names);
 
     /// The search record of the IPv4 row of this name; nullopt if there is none. The record of a device that

@@ -25,12 +25,13 @@ public:
     [[nodiscard]] QString cellText(CellPosition position, const SharedStrings &strings) const;
 
     /// Writes a text into a cell, which keeps its format except the number format; an empty text empties the
-    /// cell. A formula of the cell is replaced. Fails for a formula that is shared with other cells. `styles`
-    /// is the style sheet of the workbook and gets the format.
+    /// cell. A formula of the cell is replaced. Fails for the cell with the definition of a formula that
+    /// other cells share; those other cells can be written. `styles` is the style sheet of the workbook and
+    /// gets the format.
     bool setCellText(CellPosition position, const QString &text, StyleSheet &styles);
     /// Merges a range. The content of its first cell is kept, the other contents are removed. Fails for a
-    /// range that overlaps a different merged range, and if a removed formula is shared with other cells.
-    /// Returns true without a change for a range that is merged already.
+    /// range that overlaps a different merged range, and if a removed cell has the definition of a formula
+    /// that other cells share. Returns true without a change for a range that is merged already.
     bool mergeCells(const CellRange &range);
     /// Changes the formats of all cells of the range, and adds the missing cells. `styles` gets the formats.
     void changeFormat(const CellRange &range, const FormatChange &change, StyleSheet &styles);
