@@ -40,7 +40,7 @@ std::optional<DeviceSetup::Problem> DeviceSetup::open()
     m_libraries.decoder = std::make_shared<sdk::ffmpeg::FfmpegDecoderLibrary>();
     QString bindingError;
     if (m_options.isDemo) {
-        if (const std::optional<Problem> problem = openSite())
+        if (std::optional<Problem> problem = openSite())
             return problem;
     } else if (bindDeviceLibraries(m_options.programFolder, m_libraries, bindingError)) {
         if (!bindingError.isEmpty())
