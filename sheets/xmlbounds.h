@@ -1,4 +1,4 @@
-// Resource limits of an XML document, checked before it is parsed.
+// Memory and depth of an XML document, for limits: the memory before it is parsed, the depth after that.
 #pragma once
 
 #include <QByteArrayView>
@@ -8,7 +8,8 @@
 namespace sheets {
 
 /// An upper bound of the memory, in bytes, of a document parsed from this text, including the text. The text
-/// need not be well-formed. A document can be sixteen times as large as its text.
+/// need not be well-formed. The bound is many times the size of a text of short elements: 26 times for
+/// "<a/>b", repeated.
 [[nodiscard]] qint64 neededXmlMemory(QByteArrayView text);
 
 /// True when a node (element, text or comment) is more than `depth` levels below `top`. The children of `top`

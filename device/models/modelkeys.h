@@ -11,26 +11,31 @@ inline constexpr QLatin1StringView title("title");     ///< name of a device or 
 inline constexpr QLatin1StringView time("time");       ///< "HH:mm:ss"
 inline constexpr QLatin1StringView changed("changed"); ///< bool: differs from the stored value
 
-// DeviceTableModel: what batches have done with the device, see FailedMarks.
-inline constexpr QLatin1StringView failure("failure");         ///< in the user's language; empty for none
+// DeviceTableModel: the marks of the device, see FailedMarks.
+
+/// Lines with the results of its marks, and one if the last search did not find the device, in the user's
+/// language. Empty for neither.
+inline constexpr QLatin1StringView failure("failure");
 inline constexpr QLatin1StringView onlyNotDone("onlyNotDone"); ///< bool: no batch has failed with the device
 
 // Devices of batches, their previews and their results.
 inline constexpr QLatin1StringView device("device");         ///< "address:port", or another name for the user
 inline constexpr QLatin1StringView action("action");         ///< the new value, for the user
 inline constexpr QLatin1StringView newAddress("newAddress"); ///< address that a batch assigns
-inline constexpr QLatin1StringView note("note");             ///< reason or warning, in the user's language
-inline constexpr QLatin1StringView kind("kind");             ///< int: see BatchPreview
-inline constexpr QLatin1StringView issue("issue");           ///< int: the problem of the row, see AddressPlan
-inline constexpr QLatin1StringView state("state");           ///< int: see BatchResultModel
-inline constexpr QLatin1StringView message("message");       ///< result in the user's language
+/// Reason or warning, in the user's language. Of a favourite: the user's note.
+inline constexpr QLatin1StringView note("note");
+inline constexpr QLatin1StringView kind("kind");       ///< int: see BatchPreview
+inline constexpr QLatin1StringView issue("issue");     ///< int: the problem of the row, see AddressPlan
+inline constexpr QLatin1StringView state("state");     ///< int: see BatchResultModel
+inline constexpr QLatin1StringView message("message"); ///< result in the user's language
 /// Why the device is skipped, in the user's language.
 inline constexpr QLatin1StringView hindrance("hindrance");
 
 // BatchHistory
-inline constexpr QLatin1StringView counts("counts");     ///< "done / total", see BatchHistory
-inline constexpr QLatin1StringView complete("complete"); ///< bool: no device failed or was not done
-inline constexpr QLatin1StringView running("running");   ///< bool
+inline constexpr QLatin1StringView counts("counts"); ///< "done / total", see BatchHistory
+/// Bool: the batch has ended, and no device failed or was not done.
+inline constexpr QLatin1StringView complete("complete");
+inline constexpr QLatin1StringView running("running"); ///< bool
 
 // AccountList
 inline constexpr QLatin1StringView account("account");         ///< the user name

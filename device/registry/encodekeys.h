@@ -83,7 +83,8 @@ inline constexpr QLatin1StringView control("control"); ///< bitstreamControl
 struct EncodeField
 {
     QLatin1StringView key;
-    std::optional<EncodeItemIndex> item = std::nullopt; ///< empty for a list, which is not written
+    /// Empty for lists and frameRateMax, which are not in an item and are read only.
+    std::optional<EncodeItemIndex> item = std::nullopt;
 };
 
 /// Every key that both streams have.
@@ -121,5 +122,6 @@ struct StreamKey
 /// The reverse of splitEncodeKey(). `field` must not be empty.
 [[nodiscard]] QString encodeKey(bool isSub, QLatin1StringView field);
 
-/// The item that contains the value of a StreamKey::field. Empty for a list and for other keys.
+/// The item that contains the value of a StreamKey::field, also of videoEnable. Empty for lists, for
+/// frameRateMax and for all other texts.
 [[nodiscard]] std::optional<EncodeItemIndex> encodeItemIndexOf(const QString &field);

@@ -26,7 +26,8 @@ public:
         int percent = 0; ///< 0 to 100; 100 when the results are written, or could not be
     };
 
-    /// Numbers of lines of all documents since the last begin(), or since the first repeat() after it.
+    /// Numbers of lines of all documents since the results of earlier documents were last cleared, by begin()
+    /// or repeat().
     struct Progress
     {
         int done = 0; ///< including refused lines
@@ -64,7 +65,7 @@ public:
     /// to the document's file again. If the file was changed in the meantime and its row has another
     /// address, the row is not written. Clears the results of earlier documents if none is open. Returns
     /// false, and tracks nothing, if no document since begin() has the line, if the line is being upgraded,
-    /// or while other documents are open.
+    /// while its document is being written, or while only other documents are open.
     bool repeat(const QString &key);
 
     /// Sets the state of an upgrade: an UpgradeTools::Result, its progress (0 to 100) and its text for the
@@ -84,7 +85,7 @@ public:
     /// failures and the result file, or the reason of its refusal. Empty while documents are open.
     [[nodiscard]] QString resultText() const { return hasOpen() ? QString() : m_result; }
 
-    /// The number of successful upgrades in the documents that are written.
+    /// The number of successful upgrades in those documents of Progress whose writing has ended.
     [[nodiscard]] int succeeded() const { return m_succeeded; }
 
 private:

@@ -1,5 +1,5 @@
 // The tab with the encode settings of a channel: both streams, with a common save button. Changes stay on the page
-// until they are saved.
+// until they are saved, except for the resolution of the sub stream: EncodeWork writes it to the device immediately.
 import QtQuick
 import QtQuick.Templates as T
 import configtools

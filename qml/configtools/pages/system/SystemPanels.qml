@@ -10,7 +10,7 @@ Rectangle {
     required property bool available  // devices are ticked and no batch runs
     required property string unavailableText  // why no command can start, for tool tips; "" if `available`
     required property int upgradingCount  // number of ticked devices that are being upgraded
-    required property bool locked  // a command runs: the tabs cannot be used
+    required property bool locked  // a command runs: the panels are disabled; another tab can be selected
     required property string timeZone  // of this computer, as "UTC+08:00" or "UTC-5:00"
     required property var deviceFactory  // a CDeviceFactory
     required property SystemPasswordTime passwordTime
