@@ -11,8 +11,10 @@
 class DeviceListTable
 {
 public:
-    /// Maximum number of rows above the headers, and of columns in the row of the headers.
+    /// Maximum number of rows above the headers. A table with more of them is refused.
     static constexpr int maximumRowsAbove = 50;
+    /// Maximum number of columns in the row of the headers. A row with more cells is not read as the headers:
+    /// it counts as a row above them.
     static constexpr int maximumColumns = 64;
 
     /// The lines are added to `contents`, which must outlive this object.

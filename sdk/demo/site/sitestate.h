@@ -82,7 +82,9 @@ public:
     /// The IPv4 address of this host in the local segment.
     [[nodiscard]] QString localAddress() const { return m_localAddress; }
 
-    /// The address of this host that receives messages of `device` over `ipVersion` (4 or 6).
+    /// The address of this host that receives messages of `device` over `ipVersion` (4 or 6). For IPv4 this
+    /// is 127.0.0.1 if the device has a loopback address, otherwise localAddress(). For IPv6 it is the
+    /// localIpv6 of the scene.
     [[nodiscard]] QString localAddressFor(const SceneDevice &device, int ipVersion) const;
 
 protected:

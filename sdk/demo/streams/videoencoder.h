@@ -22,7 +22,8 @@ public:
 
     /// Encodes `frame`, which has the size and format of context(), and appends it to `packets`. `number` is
     /// its index, as in LiveProduction::encodeFrame(): its time is the duration of as many frames. With
-    /// `isKey` it is a key frame. Returns false on failure.
+    /// `isKey` it is a key frame. Without `isKey` the encoder makes key frames at its own interval, of 2 s at
+    /// the frame rate of the settings. Returns false on failure.
     [[nodiscard]] bool encode(AVFrame &frame, std::int64_t number, bool isKey, EncodedPackets &packets);
 
 private:

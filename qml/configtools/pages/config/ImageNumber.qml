@@ -1,5 +1,6 @@
-// A field for an integer of an image setting. A changed number is reported, and by default written to the device, on
-// Enter or when the field loses the focus.
+// A field for an integer of an image setting. A changed number is reported, and written to the device as the value of
+// `subKey`, on Enter or when the field loses the focus. A handler of finished() in the owner runs after this write has
+// been requested, and does not replace it.
 import QtQuick
 import configtools
 
