@@ -95,8 +95,8 @@ private Q_SLOTS:
         QFETCH(QString, file);
         const QString text = QString::fromUtf8(fileContents(PACKAGING_DIRECTORY "/" + file)).remove(u'\\');
         QVERIFY(!text.isEmpty());
-        QRegularExpressionMatchIterator option =
-            QRegularExpression("--[a-z-]+").globalMatch(CommandLine::usage());
+        static const QRegularExpression pattern("--[a-z-]+");
+        QRegularExpressionMatchIterator option = pattern.globalMatch(CommandLine::usage());
         QVERIFY(option.hasNext());
         while (option.hasNext()) {
             const QString name = option.next().captured();
