@@ -220,9 +220,9 @@ private Q_SLOTS:
         find("accountsTable")->setProperty("currentIndex", 1);
         m_account = {.account = "root", .password = "new"};
         QSignalSpy notices(find("foot"), SIGNAL(notify(QString, int)));
-        connect(m_batches.get(), &Batches::runningChanged, this, [&] {
+        connect(m_batches.get(), &Batches::runningChanged, &notices, [this, shown = &notices] {
             if (m_batches->isRunning())
-                notices.clear(); // the start of a batch removes notices
+                shown->clear(); // the start of a batch removes notices
         });
         press("okButton");
         QTRY_COMPARE(text("selectedCount"), QStringLiteral("Ticked  ·  Work：3 台设备成功"));
