@@ -26,9 +26,10 @@ QString shownAddress(const BatchDevice &device)
 
 } // namespace
 
-void awaitBatch(CommandContext &context, Batch &batch)
+bool awaitBatch(CommandContext &context, Batch &batch)
 {
     QEventLoop loop;
+    bool isStopped = false;
     qsizetype done = 0;
     QHash<QString, QString> addresses; // by the names of the devices in the batch
     for (const Batch::Entry &entry : batch.entries())
@@ -47,18 +48,20 @@ void awaitBatch(CommandContext &context, Batch &batch)
     QObject::connect(&batch, &Batch::changed, &loop, [&] {
         if (!batch.isPaused())
             return;
+        isStopped = true;
         context.terminal.writeError(
             u"Stopped: %1 devices in a row refused the account."_s.arg(batch.refusalsInARow()));
         batch.stop();
     });
     QObject::connect(&batch, &Batch::finished, &loop, &QEventLoop::quit);
-    const Interruption interruption([&] {
+    Interruption interruption([&] {
         context.terminal.writeError(u"Stopping; running steps end at a safe point. A further signal ends "
                                     "the program immediately."_s);
         batch.stop();
     });
     if (batch.isRunning())
         loop.exec();
+    return !isStopped && !interruption.isRequested(); // also a signal during the last result
 }
 
 QString outcomeWord(int result)
@@ -118,9 +121,24 @@ int runBatch(CommandContext &context, const std::function<Batch *()> &start, Res
     QObject::disconnect(connection);
     if (!batch)
         return context.fail(NothingDone, refusal);
-    awaitBatch(context, *batch);
+    if (!awaitBatch(context, *batch))
+        table.noteStopped();
     table.add(*batch, values);
     return AllDone;
+}
+
+int runLines(CommandContext &context, const std::function<Batch *()> &start, QEventLoop &loop,
+             const QString &written)
+{
+    ResultTable results({u"line"_s});
+    const int exitCode =
+        runBatch(context, start, results, [](const BatchDevice &line) { return QVariantList{line.name}; });
+    if (exitCode != AllDone)
+        return exitCode;
+    if (written.isEmpty())
+        loop.exec();
+    context.terminal.writeProgress(written);
+    return results.print(context);
 }
 
 } // namespace commandline

@@ -126,16 +126,8 @@ int runWorkbook(CommandContext &context, CgiWorkbooks &workbooks)
     QStringList names;
     for (const QVariant &line : std::as_const(lines))
         names.append(line.toMap().value(DeviceRowKey::name).toString());
-    ResultTable results({u"line"_s});
-    const int exitCode = runBatch(
-        context, [&] { return workbooks.run(u"cgi"_s, names); }, results,
-        [](const BatchDevice &line) { return QVariantList{line.name}; });
-    if (exitCode != AllDone)
-        return exitCode;
-    if (text.isEmpty())
-        loop.exec(); // until the results are in the file
-    context.terminal.writeProgress(text);
-    return results.print(context);
+    return runLines(
+        context, [&] { return workbooks.run(u"cgi"_s, names); }, loop, text);
 }
 
 } // namespace

@@ -38,7 +38,7 @@ constexpr QLatin1StringView
 
 constexpr QLatin1StringView
     exitCodes("Exit codes: 0 all done; 1 at least one device failed, was skipped or was not found;\n"
-              "2 invalid arguments, nothing was sent; 3 the work could not start.\n");
+              "2 invalid arguments, nothing was changed; 3 the work could not start.\n");
 
 QString optionLine(const Option &option)
 {

@@ -61,7 +61,7 @@ int search(CommandContext &context)
             context.terminal.writeError(
                 u"The list is limited to %1 devices; %2 responses are left out."_s.arg(rows).arg(leftOut));
         });
-    const Interruption interruption([&context] { context.factory.stopSearch(dhFamily); });
+    Interruption interruption([&context] { context.factory.stopSearch(dhFamily); });
     context.factory.startSearch(dhFamily);
     loop.exec();
     const qsizetype found = context.factory.filterData(dhFamily, RowFilter::all).size();

@@ -82,7 +82,7 @@ void DeviceSequence::run(
     const int refusalsToEnd = m_context.batches.usualPolicy().wrongPasswordsInARow;
     int refusals = 0;
     qsizetype done = 0;
-    const Interruption interruption([] {});
+    Interruption interruption([] {});
     for (const QJsonObject &row : rows) {
         QCoreApplication::processEvents(); // an interruption
         const bool isEnded = interruption.isRequested() || refusals >= refusalsToEnd;

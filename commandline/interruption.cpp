@@ -34,14 +34,20 @@ Interruption::Interruption(std::function<void()> requested) : m_requested(std::m
         return;
     m_notifier = std::make_unique<QSocketNotifier>(signalPipe[0], QSocketNotifier::Read);
     QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [this] {
-        char byte = 0;
-        if (read(signalPipe[0], &byte, 1) != 1)
-            return;
-        m_isRequested = true;
-        m_requested();
+        const bool wasRequested = m_isRequested;
+        if (isRequested() && !wasRequested)
+            m_requested();
     });
     std::signal(SIGINT, &noteInterruption);
     std::signal(SIGTERM, &noteInterruption);
+}
+
+bool Interruption::isRequested()
+{
+    char byte = 0;
+    if (read(signalPipe[0], &byte, 1) == 1)
+        m_isRequested = true;
+    return m_isRequested;
 }
 
 Interruption::~Interruption()
@@ -54,6 +60,11 @@ Interruption::~Interruption()
 
 Interruption::Interruption(std::function<void()> requested) : m_requested(std::move(requested)) {}
 Interruption::~Interruption() = default;
+
+bool Interruption::isRequested()
+{
+    return false;
+}
 
 #endif
 

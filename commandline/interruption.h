@@ -14,14 +14,15 @@ namespace commandline {
 class Interruption
 {
 public:
-    /// `requested` is called once for each of the two signals.
+    /// `requested` is called once, after the first signal.
     explicit Interruption(std::function<void()> requested);
     ~Interruption(); ///< from then on, each signal ends the process
     Interruption(const Interruption &) = delete;
     Interruption &operator=(const Interruption &) = delete;
 
-    /// Whether a signal was received and processed by the event loop.
-    [[nodiscard]] bool isRequested() const { return m_isRequested; }
+    /// Whether a signal was received, also if the event loop has not processed it yet. In that case the
+    /// function is no longer called for it.
+    [[nodiscard]] bool isRequested();
 
 private:
     const std::function<void()> m_requested;

@@ -9,6 +9,8 @@
 #include "device/registry/devicefamily.h"
 #include "device/store/devicerow.h"
 
+#include <functional>
+
 using namespace Qt::StringLiterals;
 
 namespace commandline {
@@ -77,6 +79,35 @@ int planSystem(const CommandContext &context, const SystemPlan &plan, const Name
     return choice.missing.isEmpty() ? AllDone : SomeFailed;
 }
 
+/// The batch of one setting.
+struct SystemWork
+{
+    QString setting;
+    std::function<Batch *()> start; ///< returns null if the batch does not start
+};
+
+/// Runs the batches one after another, until one is stopped or does not start. The results up to then are
+/// printed.
+int setInBatches(CommandContext &context, const QList<SystemWork> &works, const DeviceChoice &choice)
+{
+    ResultTable results({u"setting"_s});
+    for (const SystemWork &work : works) {
+        const int exitCode = runBatch(context, work.start, results,
+                                      [&work](const BatchDevice &) { return QVariantList{work.setting}; });
+        if (exitCode == AllDone && !results.isStopped())
+            continue;
+        if (exitCode != AllDone && &work == &works.constFirst())
+            return exitCode;
+        if (&work != &works.constLast())
+            context.terminal.writeError(u"The remaining settings were not changed."_s);
+        results.addMissing(choice.missing);
+        static_cast<void>(results.print(context));
+        return SomeFailed;
+    }
+    results.addMissing(choice.missing);
+    return results.print(context);
+}
+
 int setSystem(CommandContext &context, const SystemPlan &plan, const DeviceChoice &choice)
 {
     NamePlan names;
@@ -89,31 +120,18 @@ int setSystem(CommandContext &context, const SystemPlan &plan, const DeviceChoic
     }
     if (context.isDryRun())
         return planSystem(context, plan, names, choice);
-    ResultTable results({u"setting"_s});
-    if (!plan.name.isEmpty()) {
-        const int exitCode = runBatch(
-            context,
-            [&] {
-                return context.batches.nameCameras(dhFamily, u"set"_s, names.namedIdentities(),
-                                                   names.names());
-            },
-            results, [](const BatchDevice &) { return QVariantList{u"name"_s}; });
-        if (exitCode != AllDone)
-            return exitCode;
-    }
-    for (const SystemPlan::Step &step : plan.steps) {
-        const int exitCode = runBatch(
-            context,
-            [&] {
-                return context.batches.configureSystem(dhFamily, step.command, u"set"_s, step.data,
-                                                       choice.addresses());
-            },
-            results, [&step](const BatchDevice &) { return QVariantList{step.command}; });
-        if (exitCode != AllDone)
-            return exitCode;
-    }
-    results.addMissing(choice.missing);
-    return results.print(context);
+    QList<SystemWork> works;
+    if (!plan.name.isEmpty())
+        works.append({u"name"_s, [&] {
+                          return context.batches.nameCameras(dhFamily, u"set"_s, names.namedIdentities(),
+                                                             names.names());
+                      }});
+    for (const SystemPlan::Step &step : plan.steps)
+        works.append({step.command, [&] {
+                          return context.batches.configureSystem(dhFamily, step.command, u"set"_s, step.data,
+                                                                 choice.addresses());
+                      }});
+    return setInBatches(context, works, choice);
 }
 
 } // namespace

@@ -100,17 +100,10 @@ int upgradeDocument(CommandContext &context, UpgradeBatches &upgrades)
         text = message;
         loop.quit();
     });
-    ResultTable results({u"line"_s});
     const UpgradeProgress progress(context, upgrades);
-    const int exitCode = runBatch(
+    return runLines(
         context, [&] { return upgrades.startDocument(u"upgrade"_s, path, preview.checkedIdentities()); },
-        results, [](const BatchDevice &line) { return QVariantList{line.name}; });
-    if (exitCode != AllDone)
-        return exitCode;
-    if (text.isEmpty())
-        loop.exec(); // until the results are in the file
-    context.terminal.writeProgress(text);
-    return results.print(context);
+        loop, text);
 }
 
 } // namespace

@@ -208,13 +208,11 @@ QtObject {
     // Durations in milliseconds.
     readonly property int quick: 120  // fading of colours and popups
     readonly property int queueDrains: 100  // time to discard queued input
-    readonly property int paintEvery: 25  // maximum work between two frames
     readonly property int turn: 1000  // one rotation of a spinner
     readonly property int toolTipDelay: 500  // from the entry of the pointer to the tip
     readonly property int toolTipTime: 8000  // after which a tip closes
     readonly property int toastDuration: 4000  // of information and success
     readonly property int errorToastDuration: 9000  // of errors and refusals
-    readonly property int frame: 16  // one frame between two pieces of work
 
     // Code points of the icon font by the name of the icon (OVIcon.name), see fonts/make-fonts.py.
     readonly property var icons: ({

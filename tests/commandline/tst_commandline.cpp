@@ -7,7 +7,24 @@
 #include <QScopeGuard>
 #include <QTemporaryDir>
 
+#include <csignal>
+
 using namespace commandline;
+
+/// Interrupts the process, as Ctrl+C does, when the result of the first device is written.
+class InterruptingBuffer : public QBuffer
+{
+public:
+    using QBuffer::QBuffer;
+
+protected:
+    qint64 writeData(const char *data, qint64 size) override
+    {
+        if (QByteArrayView(data, size).contains("[1/"))
+            std::raise(SIGINT);
+        return QBuffer::writeData(data, size);
+    }
+};
 
 /// Commands on a simulated site of four cameras, of which the last one is new.
 class TestCommandLine : public QObject
@@ -26,12 +43,15 @@ private:
     std::unique_ptr<ConfigSite> m_site;
     QTemporaryDir m_folder;
     QStringList m_answers; ///< to prompts
+    bool m_isInterrupted = false;
 
     [[nodiscard]] Outcome run(const QStringList &words) const
     {
         Outcome outcome;
         QBuffer results(&outcome.results);
-        QBuffer messages(&outcome.messages);
+        QBuffer plainMessages(&outcome.messages);
+        InterruptingBuffer interruptingMessages(&outcome.messages);
+        QBuffer &messages = m_isInterrupted ? interruptingMessages : plainMessages;
         results.open(QIODevice::WriteOnly);
         messages.open(QIODevice::WriteOnly);
         Terminal terminal(results, messages, [&](const QString &prompt) -> std::optional<QString> {
@@ -90,6 +110,7 @@ private Q_SLOTS:
     {
         qunsetenv("CONFIGTOOLS_PASSWORD");
         m_answers.clear();
+        m_isInterrupted = false;
         m_devices.clear();
         for (int number = 1; number <= 4; ++number) {
             m_devices.append(configDevice(number, "IPC", 1));
@@ -296,6 +317,20 @@ private Q_SLOTS:
         QCOMPARE(run(QStringList{"get", "image", "saturation", "mirror"} + csv).results,
                  head + line + "saturation,33\r\n" + line + "mirror,on\r\n");
         QCOMPARE(run(QStringList{"get", "system", "name"} + csv).results, head + line + "name,Back door\r\n");
+    }
+
+    /// The settings are written one after another. Those after the interruption are not.
+    void anInterruptedChangeStartsNoFurtherOne()
+    {
+        m_isInterrupted = true;
+        const Outcome outcome =
+            run({"set", "system", "name=Gate", "videoStandard=NTSC", "--format", "csv", "--devices",
+                 "192.168.1.1,192.168.1.2,192.168.1.3", "--password-file", password()});
+        QCOMPARE(outcome.exitCode, 1);
+        QVERIFY2(outcome.messages.contains("The remaining settings were not changed."),
+                 outcome.messages.constData());
+        QVERIFY2(outcome.results.contains("192.168.1.1:37777"), outcome.results.constData());
+        QVERIFY2(!outcome.results.contains("videoStandard"), outcome.results.constData());
     }
 
     void aMissingChannelIsNotReplacedByAnotherOne()

@@ -14,7 +14,6 @@ T.Popup {
     property int okKind: OVButton.Primary  // an OVButton.Kind
     property bool okEnabled: true
     property bool hasCancel: true  // shows the cancel button
-    property bool closable: true  // shows the close button in the head
     property bool dense: false  // for a small dialog: smaller head, foot and margins
     property bool busy: false  // set by the owner while accepted work runs: a spinner; input is disabled
     property bool cancellable: false  // may close while it is busy; the owner ends the work on rejected()
@@ -150,7 +149,6 @@ T.Popup {
                 iconSize: Theme.boxSize
                 objectName: "dialogCloseButton"
                 toolTip: qsTr("关闭")
-                visible: root.closable
                 onClicked: root.reject()
             }
             Rectangle {

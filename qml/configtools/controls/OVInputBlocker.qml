@@ -1,5 +1,4 @@
-// Blocks all input to the window from open() until after release(). Only Escape, and a click on `stopper`, are
-// reported.
+// Blocks all input to the window from block() until after release().
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -7,11 +6,14 @@ import configtools
 T.Popup {
     id: root
 
-    property Item stopper: null  // button under the blocker: a click at its place acts like Escape; null for none
-    signal escapePressed  // also by `stopper`; the blocker stays open
+    /// Starts to block. A release() before it no longer has an effect.
+    function block() {
+        late.stop();
+        open();
+    }
 
-    /// Closes the blocker after Theme.queueDrains. Input that was queued until then is discarded, as it was meant for
-    /// the earlier content of the window.
+    /// Ends the block after Theme.queueDrains. Input that was queued until then is discarded, as it was meant for the
+    /// earlier content of the window.
     function release() {
         late.start();
     }
@@ -24,8 +26,6 @@ T.Popup {
     focus: true
     modal: true
 
-    onAboutToShow: late.stop()
-
     Timer {
         id: late
         interval: Theme.queueDrains
@@ -33,21 +33,10 @@ T.Popup {
     }
 
     contentItem: MouseArea {
-        id: sheet
-        objectName: "inputBlocker"
-        readonly property Item stopper: root.stopper
-        readonly property point pointer: Qt.point(mouseX, mouseY)
-        readonly property bool overStopper: containsMouse && root.stopper !== null && root.stopper.visible
-            && root.stopper.contains(sheet.mapToItem(root.stopper, pointer))
-
-        cursorShape: overStopper ? Qt.PointingHandCursor : Qt.BusyCursor
+        cursorShape: Qt.BusyCursor
         focus: true
         hoverEnabled: true
-        onClicked: if (overStopper) root.escapePressed()
-        Keys.onPressed: event => {
-            event.accepted = true;
-            if (event.key === Qt.Key_Escape)
-                root.escapePressed();
-        }
+        objectName: "inputBlocker"
+        Keys.onPressed: event => event.accepted = true
     }
 }

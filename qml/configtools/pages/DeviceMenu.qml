@@ -9,7 +9,6 @@ Item {
     required property Batches batches
     required property DeviceActions actions
     property var values: ({})  // values of the row that the menu was opened for
-    property bool ticks: true  // the page has check boxes
     /// Function of the page: returns the ticked devices, as identities or "address:port".
     property var tickedDevices: () => []
     signal ownChosen(string key, var values)  // an entry of the page was chosen; values: of the row
@@ -29,7 +28,7 @@ Item {
         const address = actions.addressOf(values);
         const isInitialised = values.state ?? true;
         const isP2p = (values.loginType ?? "") === "P2P";
-        const similar = !ticks ? [] : [
+        const similar = [
             {key: "similarType", startsGroup: true, text: qsTr("只勾选同类型设备（%1）").arg(values.type),
                 enabled: (values.type ?? "") !== ""},
             {key: "similarModel", text: qsTr("只勾选同型号设备（%1）").arg(values.model),

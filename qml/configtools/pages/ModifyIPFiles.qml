@@ -46,7 +46,7 @@ Item {
     function writeList(folder, fileName) {
         const macs = deviceTable.checkedMacs();
         writing = true;
-        blocker.open();
+        blocker.block();
         paint.run(() => {
             const written = deviceFactory.exportDevice("dh", folder, macs, fileName);
             writing = false;

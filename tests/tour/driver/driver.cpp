@@ -140,11 +140,10 @@ QQuickItem *Driver::requireForClicks(const QString &name) const
     await(
         QStringLiteral("\"%1\" takes clicks").arg(name),
         [&] {
-            const QQuickItem *blocker = find(QStringLiteral("inputBlocker"));
-            const bool isHeld = blocker && blocker->property("stopper").value<QQuickItem *>() != item;
+            const bool isBlocked = find(QStringLiteral("inputBlocker"));
             const QQuickItem *sheet = find(QStringLiteral("panelBlocker"));
             const bool isUnderSheet = sheet && sheet->contains(sheet->mapFromScene(QPointF(middleOf(item))));
-            return !isHeld && !isUnderSheet && !isUnderNotice(middleOf(item));
+            return !isBlocked && !isUnderSheet && !isUnderNotice(middleOf(item));
         },
         30);
     return item;

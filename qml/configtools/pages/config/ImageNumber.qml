@@ -1,6 +1,5 @@
-// A field for an integer of an image setting. A changed number is reported, and written to the device as the value of
-// `subKey`, on Enter or when the field loses the focus. A handler of finished() in the owner runs after this write has
-// been requested, and does not replace it.
+// A field for an integer of an image setting. A changed number is reported on Enter or when the field loses the focus,
+// and written to the device as the value of `subKey`.
 import QtQuick
 import configtools
 
@@ -8,7 +7,7 @@ OVNumberField {
     id: root
 
     required property ImageGroup group
-    required property string subKey  // key of the setting in the group
+    required property string subKey  // key of the setting in the group; "": the owner writes the number
     property int least: 0  // smaller numbers are replaced by it
     property int current: group.number(subKey)  // number on the device
     /// The number is inconsistent with related numbers: it stays in the field and is not reported.
@@ -36,7 +35,10 @@ OVNumberField {
     onAccepted: finish()
     onActiveFocusChanged: if (!activeFocus) finish()
     onCurrentChanged: follow()
-    onFinished: number => group.change(subKey, number)
+    onFinished: number => {
+        if (subKey !== "")
+            group.change(subKey, number);
+    }
     Component.onCompleted: follow()
 
     Connections {

@@ -54,7 +54,7 @@ OVFormRow {
                         group: root.group
                         largest: root.fullScale
                         objectName: "region" + side.modelData.key
-                        subKey: "BacklightRegion"
+                        subKey: ""
                         width: Theme.rangeFieldWidth - Theme.pageMargin
                         wrong: root.wrong
                         onFinished: root.group.change("BacklightRegion", root.typed)

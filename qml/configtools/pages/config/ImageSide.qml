@@ -10,7 +10,6 @@ Item {
     required property ImageWork work
     readonly property CameraForm form: work.form
     readonly property var groups: form.groups
-    signal defaultsRequested
 
     /// Writes the typed name if it is valid and differs. An empty name is replaced by the current one; a name that is
     /// too long stays with its error.
