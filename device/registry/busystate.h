@@ -52,7 +52,7 @@ public:
     /// Removes the work with this number. Does nothing for an unknown number.
     void end(int work);
 
-    /// Whether a running work has the need Rows.
+    /// Whether a work with the need Rows is registered.
     [[nodiscard]] bool areRowsInUse() const;
 
     /// The reason why an action must wait, as a sentence for the user with the titles of the work that blocks

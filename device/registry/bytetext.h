@@ -22,6 +22,7 @@ public:
     /// it (a grapheme). May be empty.
     Q_INVOKABLE [[nodiscard]] static QString truncated(const QString &text, int bytes);
 
-    /// `text` without invisible characters: control characters, line separators and direction marks.
+    /// `text` without invisible characters: control characters, line and paragraph separators, and direction
+    /// marks.
     [[nodiscard]] static QString withoutInvisible(QString text);
 };

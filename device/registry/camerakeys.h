@@ -6,20 +6,21 @@
 
 #include <array>
 
-/// Keys of getConfigData() and setConfigData(). A key without a comment is the name of a group of settings.
-/// getConfigData() returns a map for a group, with the keys of CameraGroupKey and CameraSetting.
-/// setConfigData() writes one setting of a group: its sub-key is a key of CameraSetting.
+/// Keys of getConfigData() and setConfigData(). The keys up to lightControlEx are the names of groups of
+/// settings. getConfigData() returns a map for a group, with the keys of CameraGroupKey and CameraSetting.
+/// setConfigData() writes one setting of a group: its sub-key, the argument `otype`, is a key of
+/// CameraSetting.
 namespace CameraKey {
 inline constexpr QLatin1StringView picture("picture");
 inline constexpr QLatin1StringView sharpness("sharpness");
 inline constexpr QLatin1StringView mirror("mirror");
-inline constexpr QLatin1StringView stable("stable");
+inline constexpr QLatin1StringView stable("stable"); ///< electronic image stabilisation
 inline constexpr QLatin1StringView exposure("exposure");
-inline constexpr QLatin1StringView backMode("backMode");
+inline constexpr QLatin1StringView backMode("backMode"); ///< backlight and wide dynamic range
 inline constexpr QLatin1StringView whiteBalance("whiteBalance");
 inline constexpr QLatin1StringView dayNight("dayNight");
 inline constexpr QLatin1StringView inDefog("inDefog");
-inline constexpr QLatin1StringView lightControl("lightControl");
+inline constexpr QLatin1StringView lightControl("lightControl");     ///< one type of light
 inline constexpr QLatin1StringView lightControlEx("lightControlEx"); ///< mixed infrared and white light
 
 /// All groups.
@@ -28,9 +29,10 @@ inline constexpr std::array groups = {picture,      sharpness, mirror,  stable, 
 
 /// List of strings: the modes of curSwitchMode. A camera has separate settings for each mode.
 inline constexpr QLatin1StringView allSwitchMode("allSwitchMode");
-inline constexpr QLatin1StringView curSwitchMode("curSwitchMode");     ///< int: index in allSwitchMode
-inline constexpr QLatin1StringView curDayNightMode("curDayNightMode"); ///< int: an sdk::CameraMode
-/// Int: as sdk::BackLightItem::backMode.
+inline constexpr QLatin1StringView curSwitchMode("curSwitchMode"); ///< int: index in allSwitchMode
+/// Int: 0 day, 1 night, 2 normal. A write applies the settings of the group dayNight to this mode.
+inline constexpr QLatin1StringView curDayNightMode("curDayNightMode");
+/// Int: the backlight mode, 0 off, 1 backlight, 2 wide dynamic range, 3 strong light.
 inline constexpr QLatin1StringView curBackLightMode("curBackLightMode");
 inline constexpr QLatin1StringView curChannelName("curChannelName"); ///< string; null if it was not read
 // Int: single picture settings of the current mode. Their ranges are those of the group picture.
@@ -39,7 +41,8 @@ inline constexpr QLatin1StringView curBrightness("curBrightness");
 inline constexpr QLatin1StringView curContrast("curContrast");
 inline constexpr QLatin1StringView curSaturation("curSaturation");
 inline constexpr QLatin1StringView curGamma("curGamma");
-/// Write only: sets the standard style and the middle of the range of the other picture settings.
+/// Write only, the value is ignored: sets the standard style and the middle of the range of the other picture
+/// settings.
 inline constexpr QLatin1StringView setDefault("setDefault");
 } // namespace CameraKey
 
@@ -131,7 +134,7 @@ inline constexpr QLatin1StringView lightMode("LightMode"); ///< lamps: 0 near an
 inline constexpr QLatin1StringView nearLight("NearLight");
 inline constexpr QLatin1StringView farLight("FarLight");
 inline constexpr QLatin1StringView correction("Correction");
-inline constexpr QLatin1StringView sensitive("Sensitive"); ///< 1, 3 or 5
+inline constexpr QLatin1StringView sensitive("Sensitive"); ///< 1 low, 3 medium, 5 high
 inline constexpr QLatin1StringView brightness("Brightness");
 inline constexpr QLatin1StringView delay("Delay"); ///< seconds
 } // namespace CameraSetting

@@ -27,7 +27,8 @@ struct ImportSummary
 ///
 /// Thread: operations are called on the main thread unless stated otherwise. Signals are emitted on any
 /// thread. A family overrides the operations that it supports; the others do nothing and return an empty
-/// value, so this class itself is the back end of a family without operations.
+/// value (false, 0, an empty string or list), so this class itself is the back end of a family without
+/// operations.
 ///
 /// Parameters: `ipport` is the "address:port" of a device, an IPv6 address in brackets. `mac` is the name of
 /// a row: its MAC, or another identity if the device has not reported a MAC, see rowName(). `macs` are such
@@ -45,8 +46,8 @@ public:
     // The order of the virtual operations is part of the interface, since back ends may be compiled
     // separately. New operations are added at the end.
 
-    /// Removes the rows, except those that DeviceStore keeps, and searches for devices. Returns immediately;
-    /// signalCDeviceSearchDone reports the end.
+    /// Removes the rows, except those of DeviceStore::setKept(), and searches for devices. Returns
+    /// immediately; signalCDeviceSearchDone reports the end.
     virtual void startSearch() {}
     /// Sets the range that the next startSearch() searches; later searches have no range unless it is set
     /// again. Addresses in host byte order; 0 in either for no range.
@@ -84,15 +85,16 @@ public:
     virtual void setBatchDeleteDevice(const QVariantMap & /*macs*/, const QString & /*ipversion*/) {}
     /// The IPv4 row at an address, with its password; empty if there is none.
     virtual QVariantMap getDeviceInfo(const QString & /*ipport*/) { return {}; }
-    /// The row of either list without its password, with keys of DeviceDetailKey from its search record
-    /// added. Nothing is sent to the device. Empty if there is no row.
+    /// The row of either list without its password. The values of the search record of an IPv4 row are added
+    /// with the keys of DeviceDetailKey. "username" is that of the stored account if logins use it. Nothing
+    /// is sent to the device. Empty if there is neither a row nor a search record of this name.
     virtual QVariantMap getDeviceDetail(const QString & /*mac*/) { return {}; }
     /// The same for the IPv4 row at an address.
     virtual QVariantMap getDeviceDetailByAddress(const QString & /*ipport*/) { return {}; }
-    /// Logs in to a device, adds or replaces its row on success, and logs out. Blocks. Returns a LoginResult.
-    /// `loginType` is 0 for a device at `address` and `port`; `devicePort` is ignored then. It is 1 for a
-    /// device behind NAT: `address` is its P2P ID, `port` the local port of the tunnel, `devicePort` the
-    /// service port of the device itself.
+    /// Logs in to a device, adds or replaces its row on success, and logs out. Blocks. Returns a LoginResult;
+    /// signalCDeviceAddSingleDeviceToTable follows a success. `loginType` is 0 for a device at `address` and
+    /// `port`; `devicePort` is ignored then. It is 1 for a device behind NAT: `address` is its P2P ID, `port`
+    /// the local port of the tunnel, `devicePort` the service port of the device itself.
     virtual int getLoginDevice(const QString & /*address*/, const QString & /*account*/,
                                const QString & /*password*/, const QString & /*port*/, int /*loginType*/,
                                const QString & /*devicePort*/)
@@ -143,12 +145,12 @@ public:
     virtual void getEncodeCaps() {}
     /// The value of a key of SessionKey, EncodeKey or CameraKey in the session's state; invalid if the key is
     /// unknown or the value was not read. `channel` (from 0) is used for the names of channels only. Only
-    /// SessionKey::connectedChannels sends a request, and blocks.
+    /// SessionKey::channelName and SessionKey::connectedChannels send a request, and block.
     virtual QVariant getConfigData(const QString & /*key*/, const QVariant & /*channel*/) { return {}; }
     /// Sets a value. Values of the image page, names of channels and EncodeKey::subCurResolution are written
     /// to the device immediately. Other encode values are only stored, until confirmConfigData(). The
-    /// selected channels and stream type are not sent. `otype` is the setting of an image group, or the
-    /// channel (from 0) of a name; otherwise it is ignored.
+    /// selected channels, stream type and image mode (CameraKey::curSwitchMode) are not sent. `otype` is the
+    /// setting of an image group, or the channel (from 0) of a name; otherwise it is ignored.
     virtual void setConfigData(const QString & /*key*/, const QVariant & /*value*/, const QString & /*otype*/)
     {
     }
@@ -224,11 +226,11 @@ public:
     /// DeviceDetailKey, "mac", "model" and "vision".
     virtual QVariantMap readDeviceDetail(const QString & /*ipport*/) { return {}; }
 
-    /// Called by the destructor of the factory. Ends running upgrades and batches and waits for the threads
-    /// that call the factory.
+    /// Called by the destructor of the factory. Ends running upgrades, snapshots and batch steps. May block.
     virtual void factoryEnds() {}
 
-    // "The latest documents" are those of the last startUpgradeByDocument() or upgradeDocumentSteps().
+    // "The latest documents" are those of the last startUpgradeByDocument(), upgradeDocumentSteps() or
+    // repeatedDocumentStep(), and those that were not finished at that call.
 
     /// Results of the latest documents, one line for each document, in the user's language. Empty while their
     /// upgrades are running.
@@ -327,9 +329,10 @@ public:
     virtual PageStep detailStep(const QString &ipport);
 
     /// Runs a step on a thread of the back end and returns immediately. `ended` is called on the main thread
-    /// with the outcome, whose `take` it must call. If `stop` is requested before, `ended` is not called: the
-    /// step runs to its next safe point, and its outcome is dropped. A family without operations runs the
-    /// step, and calls `ended`, in this call.
+    /// with the outcome, whose `take` it must call unless that is empty. If `stop` is requested before the
+    /// end of the step, the step runs to its next safe point, its outcome is dropped, and `ended` is not
+    /// called. After a later request, `ended` may still be called. A family without operations runs the step,
+    /// and calls `ended`, in this call.
     virtual void runForPage(const PageStep &step, const std::stop_token &stop,
                             const std::function<void(const PageOutcome &outcome)> &ended);
 
@@ -367,14 +370,15 @@ public:
     virtual QVariantMap accountOf(const QString & /*name*/) { return {}; }
 
     /// Logs in to a device with the account of accountOf(), takes images of its channels one after another,
-    /// and logs out. The current session is not affected. The outcome is a failure only if no image was
-    /// taken; otherwise its text states how many are missing.
+    /// and logs out. The current session is not affected. The outcome is NotDone if the step was ended
+    /// between two channels, also after some images. Otherwise it is a failure only if no image was taken,
+    /// and the text of a success states how many are missing.
     virtual DeviceStep imageStep(const ImageOrder &order);
     /// Logs in to a device in a separate session, for live video. Steps for several devices may run at the
     /// same time.
     virtual OwnSessionStep ownSessionStep(const OwnSessionOrder &order);
-    /// Sets the account of all following devices. It replaces the default account until setDefaultAccount()
-    /// sets a different one.
+    /// Sets the account of all devices without an account in their row and without a stored one. It replaces
+    /// the default account until setDefaultAccount() sets a different one.
     virtual void setFollowingAccount(const QString & /*account*/, const QString & /*password*/) {}
 
     /// checkLogin() as a function for any thread. It must not be called after the back end is destroyed.
@@ -411,10 +415,13 @@ Q_SIGNALS:
     void signalCDeviceChangeVideoType();     ///< the image settings have changed or were read again
     void signalCDeviceChangeVideoChannel();  ///< those of another channel were read
     void signalCDeviceChangeEncodeChannel(); ///< the encode values were read
-    /// The refused values, one line for each; empty on success. Also emitted for values that setConfigData()
-    /// wrote immediately and the device refused.
+    /// The names of the refused values, one line for each, in the user's language; empty on success. During
+    /// an upgrade of the device the text of LoginResult::Upgrading. Also emitted for values that
+    /// setConfigData() wrote immediately and the device refused.
     void signalCDeviceConfirmEncodeConfig(const QString &resStr);
-    void signalCDeviceSetChannelNameFinished(); ///< the names of channels are written, see SessionKey
+    /// A series of channel names was written (see SessionKey::channelNamesSaved), with or without failures,
+    /// or the name of the image page's channel was written with success.
+    void signalCDeviceSetChannelNameFinished();
     /// A snapshot of `channel` (from 0) is finished. `path` is a "file:///" URL, empty on failure; `message`
     /// is then the reason in the user's language.
     void signalSnapPictureToFile(int channel, const QString &path, const QString &message);

@@ -6,15 +6,15 @@
 
 #include <functional>
 
-/// The images to take of a device with CDeviceBase::imageStep(). The step calls the functions on its thread.
-/// Both may be empty.
+/// The images to take of a device with CDeviceBase::imageStep(). The step calls the functions `found` and
+/// `taken` on its thread; each of them may be empty.
 struct ImageOrder
 {
     /// Maximum number of channels of a device of which images are taken.
     static constexpr int maximumChannels = 16;
 
     QString ipport;       ///< "address:port" of the device
-    QString folder;       ///< absolute path, for the files "<channel>.jpg"; created if missing
+    QString folder;       ///< absolute path, for "<channel>.jpg" (from 0); created if missing
     int onlyChannel = -1; ///< the only channel, from 0; negative: the first maximumChannels channels
 
     /// Called before the first image. `channels` are the channels of which images are taken, maps with the

@@ -18,7 +18,8 @@ struct DeviceToAdd
     bool p2p = false; ///< the device is behind NAT and is reached through the port agent
 };
 
-/// Converts a map of QML with the keys of DeviceToAddKey. A missing value is empty, 0 or false.
+/// Converts a map of QML with the keys of DeviceToAddKey ("mode", "address", "port", "account", "password");
+/// nothing is checked. A missing value is empty, 0 or false.
 [[nodiscard]] DeviceToAdd deviceToAdd(const QVariantMap &values);
 
 /// Names a line of a device list to the user.
@@ -36,7 +37,9 @@ struct ImportLine
     /// the same text.
     QString device;
     QString title; ///< name and model in the line, as one text
-    QString login; ///< key of the account, not the account itself; equal for lines with the same account
+    /// Text that stands for the account and its password without containing them: equal for lines with the
+    /// same account.
+    QString login;
     /// Logs in to the device and adds its row. For a line with invalid values: returns unusableLine.
     DeviceStep step;
 };

@@ -2,7 +2,8 @@
 
 #include "device/registry/devicebase.h"
 
-/// The back end of a family without operations: each operation is the default of CDeviceBase.
+/// The back end of the family "ol", which has no operations yet: each operation is the default of
+/// CDeviceBase.
 class CDeviceOL : public CDeviceBase
 {
     Q_OBJECT

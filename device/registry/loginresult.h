@@ -53,8 +53,9 @@ enum class LoginResult : int
     return static_cast<int>(result);
 }
 
-// More result codes of operations, which are used in the same place as a LoginResult. See also unusableLine
-// (997) in deviceimport.h.
+// More result codes of operations, which are used in the same place as a LoginResult. Further codes are
+// unusableLine (997) in deviceimport.h, commandFailed (998) of CGI commands, and 10 of an encode page whose
+// capabilities are unknown.
 
 inline constexpr int upgradeFileUnusable = 992; ///< no request was sent
 inline constexpr int upgradeFailed =

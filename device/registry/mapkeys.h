@@ -11,18 +11,23 @@ inline constexpr QLatin1StringView loginHandle("loginHandle"); ///< qint64: of t
 /// String: "address:port", empty without a session.
 inline constexpr QLatin1StringView sessionDevice("sessionDevice");
 inline constexpr QLatin1StringView library("library"); ///< map with the keys of LibraryKey
-/// String, read and write: name of the channel in the argument `channel` or `otype`.
+/// String, read and write: name of the channel in the argument `channel` or `otype`. A read sends a request;
+/// it returns null if the device reports no name.
 inline constexpr QLatin1StringView channelName("channelName");
-/// Int: the LoginResult of the last write of the channel's name; -1 if there was none.
+/// Int: the result of the last write of the channel's name. 0 on success, LoginResult::Refused,
+/// LoginResult::Upgrading, or an error of the network library if the device did not respond; -1 if there was
+/// none.
 inline constexpr QLatin1StringView channelNameResult("channelNameResult");
 /// Write only, after the last of several names: emits signalCDeviceSetChannelNameFinished.
 inline constexpr QLatin1StringView channelNamesSaved("channelNamesSaved");
-/// Int: the LoginResult of all writes of names together; -1 if there were none.
+/// Int: the combined result of the writes before the last channelNamesSaved: 0 if all succeeded, otherwise
+/// the result of the last failed one, see channelNameResult; -1 if there was none.
 inline constexpr QLatin1StringView channelNamesResult("channelNamesResult");
 // Of getDeviceChannelData(). An unread name is null.
 inline constexpr QLatin1StringView channelNames("channelNames");           ///< list of strings
 inline constexpr QLatin1StringView channelsConnected("channelsConnected"); ///< list of bool: has a camera
-/// Of getConfigData(), list of bool for all channels: has a camera.
+/// Of getConfigData(), list of bool for all channels: has a camera. A read sends a request. Empty without a
+/// session.
 inline constexpr QLatin1StringView connectedChannels("connectedChannels");
 } // namespace SessionKey
 

@@ -23,7 +23,7 @@ struct OwnImageOrder
     qint64 handle = 0;    ///< login handle of the session
     int channelCount = 0; ///< of the device
     int channel = 0;      ///< from 0
-    QString folder;       ///< name of a folder in the folder of snapshots; created if missing
+    QString folder;       ///< name of the device's folder in the folder of snapshots; created if missing
 };
 
 /// Takes a snapshot. Any thread except the main thread; blocks it until the image is saved or has failed.
@@ -56,7 +56,9 @@ struct OwnSessionOrder
     QString account;
     QString password;
     /// An existing session with the same device; null for none. If the device responds in it, no login is
-    /// made, and `account` and `password` are not used.
+    /// made, and `account` and `password` are not used. No login is made either if the device no longer
+    /// accepts the login of this session: the result is SessionEnded or the reason of the refusal then. If
+    /// the device does not respond in it, a new login is tried.
     std::shared_ptr<OwnSession> present = {};
 };
 

@@ -50,12 +50,13 @@ public:
     P2PPorts(const P2PPorts &) = delete;
     P2PPorts &operator=(const P2PPorts &) = delete;
 
-    /// Returns the local port that is mapped to `devicePort` of the device with this P2P ID, adding a mapping
-    /// if there is none; 0 on failure. `requestedPort` is 0 if the agent chooses the local port;
-    /// another value requests the local port of this number, which must be `devicePort`, otherwise the
-    /// request fails. If `devicePort` has several mappings, one with another number is returned. Blocks until
-    /// the agent responds. Requests run one after another, so that two requests for the same device get the
-    /// same port.
+    /// Returns a local port that is mapped to `devicePort` of the device with this P2P ID; 0 on failure.
+    /// `requestedPort` is 0, or `devicePort` to request the local port of this number; any other value fails.
+    /// Without a mapping, one is added, and the agent chooses its port in either case. A single mapping is
+    /// used if its number is `devicePort` and that was requested, or if neither is the case; otherwise a
+    /// second mapping is added. Of several mappings, the first with another number than `devicePort` is
+    /// returned. Blocks until the agent responds. Requests run one after another, so that two requests for
+    /// the same device get the same port.
     [[nodiscard]] int portFor(const QString &deviceId, int devicePort, int requestedPort);
 
     /// portFor() without a requested port, for temporary use. Each successful call must be followed by

@@ -15,14 +15,15 @@ inline constexpr QLatin1StringView rebootDevice("rebootDevice"); ///< without da
 inline constexpr QLatin1StringView resetSystem("resetSystem");   ///< without data
 inline constexpr QLatin1StringView videoStandard("videoStandard");
 inline constexpr QLatin1StringView channelName("channelName"); ///< SystemDataKey::name, of the first channel
-/// SystemDataKey::password: the old one. Logs in and keeps the login for modifyPassword.
+/// SystemDataKey::password: the old one. Logs in and keeps the login for modifyPassword; the result is then
+/// -1 instead of 0.
 inline constexpr QLatin1StringView loginCheck("loginCheck");
 /// SystemDataKey::password: the new one. Only for devices whose loginCheck has succeeded.
 inline constexpr QLatin1StringView modifyPassword("modifyPassword");
 inline constexpr QLatin1StringView
     cancelLogin("cancelLogin"); ///< ends all logins of loginCheck; without data
 inline constexpr QLatin1StringView
-    readTime("readTime"); ///< without data; its result is the text of systemStep()
+    readTime("readTime"); ///< without data; the clock is in the text of the outcome of systemStep()
 } // namespace SystemCommand
 
 /// Keys of the data of the commands. Values are strings unless stated otherwise.
@@ -39,7 +40,7 @@ inline constexpr QLatin1StringView dstMode("dstMode");     ///< int: 0 by date, 
 inline constexpr QLatin1StringView start("start");
 inline constexpr QLatin1StringView end("end");
 inline constexpr QLatin1StringView pointMonth("Month"); ///< int: 1 to 12
-inline constexpr QLatin1StringView pointDay("Day");     ///< int, by date: index in the days of the month
+inline constexpr QLatin1StringView pointDay("Day");     ///< int, by date: 0 to 30 for the days 1 to 31
 /// Int, by week: 0 the first to 3 the fourth, 4 the last.
 inline constexpr QLatin1StringView pointWeek("Week");
 inline constexpr QLatin1StringView pointWeekDay("WeekDay"); ///< int, by week: 0 Sunday to 6 Saturday

@@ -6,7 +6,7 @@
 
 #include <QString>
 
-/// What an upgrade of one device would do if it started now.
+/// The file and the check of an upgrade of one device, if it started now. Default values: no file is chosen.
 struct PlannedUpgrade
 {
     UpgradeTools::Result refusal =

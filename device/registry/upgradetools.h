@@ -75,6 +75,7 @@ public:
     /// LoginResult::NotDone for states of running upgrades, Stopped, Cut and None.
     [[nodiscard]] static int batchResult(Result result);
 
-    /// File name, without a folder, of the template of upgrade documents in the user's language.
+    /// File name, without a folder, of the template of upgrade documents (workbooks with devices and firmware
+    /// files) in the user's language.
     [[nodiscard]] static QString templateFileName();
 };

@@ -29,6 +29,6 @@ inline constexpr QLatin1StringView singleAddress("single");
 [[nodiscard]] QVariantList filteredRows(const QVariantList &rows, const QString &filtertype,
                                         const QString &searchtext, RowFamily family);
 
-/// Whether the "type", "model", "ipport", "mac", "vision" or "name" of the row contains `searchtext`. The
-/// case is ignored. True for an empty text.
+/// Whether the "type", "model", "ipport" (address and port), "mac", "vision" (version) or "name" of the row
+/// contains `searchtext`. The case is ignored. True for an empty text.
 [[nodiscard]] bool containsText(const QJsonObject &row, const QString &searchtext);

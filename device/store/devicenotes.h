@@ -25,7 +25,8 @@ class DeviceNotes : public QObject
     Q_PROPERTY(QString problem READ problem NOTIFY changed)
     Q_PROPERTY(int longestNote READ longestNote CONSTANT)
 public:
-    /// Maximum number of notes. Further notes in the file are ignored; setNote() refuses a further one.
+    /// Maximum number of notes; setNote() refuses a further one. Further notes in the file are ignored, and
+    /// are lost when the next note is written.
     static constexpr qsizetype mostNotes = 20'000;
     static constexpr qint64 largestFile = 64LL * 1024 * 1024; ///< bytes; a longer file counts as damaged
 
@@ -37,11 +38,12 @@ public:
     [[nodiscard]] QString problem() const { return m_problem; }
 
     /// Maximum length of a new note in characters. A longer note from the file may be replaced by any note
-    /// that is shorter than it.
+    /// that is not longer than it.
     [[nodiscard]] static int longestNote() { return 200; }
     [[nodiscard]] qsizetype count() const { return m_notes.size(); } ///< number of notes
 
-    /// The note of the device of a row with the keys of DeviceRowKey; empty if it has none.
+    /// The note of the device of a row, which is identified by the keys "mac" and "identity" of DeviceRowKey;
+    /// empty if it has none.
     [[nodiscard]] QString noteOf(const QJsonObject &row) const;
 
     // The following functions are for QML. `row` is the map from get() of a table model.
@@ -58,7 +60,8 @@ public:
     Q_INVOKABLE [[nodiscard]] QString setNote(const QVariantMap &row, const QString &note);
 
 Q_SIGNALS:
-    /// A note was stored or removed, or setNote() has read again a file that could not be opened before.
+    /// A note was stored or removed, or setNote() has tried again to read a file that could not be opened
+    /// before.
     void changed();
 
 private:

@@ -26,7 +26,8 @@ inline constexpr QLatin1StringView model("model");     ///< text: detailed model
 inline constexpr QLatin1StringView ipport("ipport");
 inline constexpr QLatin1StringView mac("mac");       ///< text: MAC; empty if the device has not reported one
 inline constexpr QLatin1StringView vision("vision"); ///< text: software version, "v" in front
-/// Int: the LoginResult of the last address change or initialisation; -1 if there was none.
+/// Int: the LoginResult of the last address change or initialisation, or NetworkFailure after the tunnel to a
+/// device behind NAT has broken; -1 without these.
 inline constexpr QLatin1StringView res("res");
 inline constexpr QLatin1StringView operate("operate");   ///< text of the operation column; always empty
 inline constexpr QLatin1StringView filepath("filepath"); ///< text: firmware file chosen for the device
@@ -34,9 +35,10 @@ inline constexpr QLatin1StringView upgrade("upgrade");   ///< int: upgrade progr
 /// Int: UpgradeTools::Result, the state of the running upgrade, the result of the last one, or the reason
 /// why `filepath` cannot be used. UpgradeTools::None (-1) without these.
 inline constexpr QLatin1StringView upgraderes("upgraderes");
-inline constexpr QLatin1StringView url("url");           ///< text: command of the last batch over HTTP
-inline constexpr QLatin1StringView result("result");     ///< text: result of the last CGI command or copy
-inline constexpr QLatin1StringView httpport("httpport"); ///< int: HTTP port, or HTTPS port if `https`
+inline constexpr QLatin1StringView url("url"); ///< text: CGI command of the last batch of commands
+/// Text: result of the last CGI command, or the settings that the last copy of encode settings left out.
+inline constexpr QLatin1StringView result("result");
+inline constexpr QLatin1StringView httpport("httpport"); ///< int: HTTP port, HTTPS port if `https`; 0: none
 
 /// Text: `upgraderes` in the user's language. Missing before a firmware file is chosen or an upgrade starts.
 inline constexpr QLatin1StringView upgradetext("upgradetext");
@@ -59,7 +61,8 @@ inline constexpr QLatin1StringView unconfirmed("unconfirmed");
 /// DeviceStore::setKept().
 inline constexpr QLatin1StringView lost("lost");
 
-/// Bool: the last login to the device succeeded. Missing before the first login.
+/// Bool: the last login to the device succeeded. Missing until a login has succeeded. Logins for upgrades,
+/// for the gallery and for additional live sessions, and failed logins of a search, do not change it.
 inline constexpr QLatin1StringView loggedIn("loggedIn");
 
 /// Text: the name of the row (see rowName()), if the row had another name without this key: for a device that

@@ -51,9 +51,9 @@ public:
 
     /// Adds a row for a response of a search. Only the first response of a device since clear() adds a row,
     /// or replaces the lost row of the device. An IPv4 row with the loopback address is prepended unless its
-    /// type is otherDeviceType(); other rows are appended. A response is dropped if the IPv4 row of its
-    /// device was added by upsertRow(), if that row was removed since clear(), or if the search has added
-    /// maximumFound rows. Constant time.
+    /// type is otherDeviceType(); other rows are appended. An IPv4 response is dropped if the row of its
+    /// device was added by upsertRow() or was removed since clear(). Any response is dropped if the search
+    /// has added maximumFound rows. Constant time.
     ///
     /// An IPv4 device without a MAC is identified by its UUID. A UUID belongs to the address that first
     /// reported it since clear(); a device with the same UUID at another address is identified by that
@@ -136,7 +136,7 @@ public:
     /// has only IPv6 rows is found by its MAC.
     [[nodiscard]] std::optional<sdk::SearchResponse> record(const QString &name) const;
 
-    /// Sets the search record for this name. The row need not exist.
+    /// Sets the search record of the row with this name, which need not exist.
     void putRecord(const QString &name, const sdk::SearchResponse &response);
 
 private:
