@@ -32,9 +32,10 @@ class UpgradeOrders;
 class UpgradeRound;
 
 /// The back end "dh", which implements all operations of CDeviceBase with the network library. Each group of
-/// operations is a component; this class creates the components, forwards the operations to them and
-/// destroys them. Threads are as documented in CDeviceBase, unless a declaration says otherwise. Created on
-/// the main thread by CDeviceFactory.
+/// operations is a component; this class creates the components, forwards the operations to them and destroys
+/// them. Each group below begins with the name of its component. Parameters, results and threads are as
+/// documented in CDeviceBase, unless a declaration says otherwise. Created on the main thread by
+/// CDeviceFactory.
 class CDeviceDH : public CDeviceBase
 {
     Q_OBJECT
@@ -59,14 +60,14 @@ public:
     static void agentMessage(sdk::P2PAgentEvent event, const char *deviceId, std::int32_t localPort,
                              void *user);
 
-    // SearchOperations
+    // SearchOperations: searches for devices, and queries of listed devices.
     void startSearch() override;
     void setSearchByIPInfo(quint32 beginip, quint32 endip) override;
     void refreshDevices(const QStringList &macs) override;
     void stopSearch() override;
     DeviceStep locationStep(const QStringList &macs) override;
 
-    // RowOperations
+    // RowOperations: adds, reads, changes and removes rows; accounts.
     int getLoginDevice(const QString &address, const QString &account, const QString &password,
                        const QString &port, int loginType, const QString &devicePort) override;
     DeviceStep addingStep(const DeviceToAdd &device) override;
@@ -84,7 +85,7 @@ public:
     void setDeleteDevice(const QString &mac, const QString &ipvision) override;
     void setBatchDeleteDevice(const QVariantMap &macs, const QString &ipversion) override;
 
-    // SessionLogins
+    // SessionLogins: logins for the current session, for separate sessions and for checks; work of pages.
     int findAndLoginDevice(const QString &ipport, const QString &account, const QString &password) override;
     QVariantMap readDeviceDetail(const QString &ipport) override;
     int checkLogin(const QString &ipport, const QString &account, const QString &password) override;
@@ -99,7 +100,7 @@ public:
     void runForPage(const PageStep &step, const std::stop_token &stop,
                     const std::function<void(const PageOutcome &outcome)> &ended) override;
 
-    // FoundDevices
+    // FoundDevices: initialisation and address changes, with the search records of the devices.
     void setInitAccount(const QString &mac, const QString &account, const QString &password) override;
     void modifyIP(const QString &mac, const QString &newip, const QString &newsubmask,
                   const QString &newgateway, bool dhcpON) override;
@@ -108,7 +109,7 @@ public:
     DeviceStep addressStep(const QString &mac, const QString &newip, const QString &newsubmask,
                            const QString &newgateway, bool dhcpON) override;
 
-    // DeviceLists
+    // DeviceLists: device lists as files.
     bool exportDevice(const QString &folder, const QStringList &macs, const QString &fileName) override;
     bool importDevice(const QString &path, ImportSummary &summary) override;
     QVariantList exportFaults() override;
@@ -116,14 +117,15 @@ public:
     QString importError() override;
     ImportPlan importPlan(const QString &path) override;
 
-    // SystemOperations
+    // SystemOperations: maintenance commands of the system page.
     void systemConfig(const QString &command, const QVariantMap &data, const QStringList &ipports) override;
     DeviceStep systemStep(const QString &command, const QVariantMap &data, const QString &ipport) override;
 
-    // ConfigurationPages
+    // ConfigurationPages: the encode page and the image page, in the current session.
     void getEncodeCaps() override;
     void getEncodeInfo() override;
-    /// See ConfigurationPages::value(). The key "loginHandle" may be read on any thread.
+    /// Additional keys are those of SessionKey, such as "loginHandle" (handle of the current session, 0
+    /// without one), which may be read on any thread.
     QVariant getConfigData(const QString &key, const QVariant &channel) override;
     /// `otype` is the sub-key of a value of the image page. For "channelName" it is the channel (from 0), and
     /// the name is written to the device immediately; getConfigData("channelNameResult", channel) returns the
@@ -141,11 +143,11 @@ public:
     void getVideoIn() override;
     void getVideoInByChangeChannel() override;
 
-    // EncodeCopies
+    // EncodeCopies: copies encode settings to other devices.
     void copyConfigToDevice(const QStringList &devlist) override;
     DeviceStepMaker encodeCopy() override;
 
-    // ImageOperations
+    // ImageOperations: snapshots of the current session, images of many devices.
     void snapPictureToFile(const QString &kind, const QVariant &channelNum, const QString &address) override;
     QList<DeviceStep> snapshotSteps(const QString &address) override;
     DeviceStep imageStep(const ImageOrder &order) override;
@@ -154,7 +156,7 @@ public:
     /// at most for the upgrades, and until the result files of upgrade documents are written.
     void factoryEnds() override;
 
-    // RowUpgrades, DocumentUpgrades and UpgradeRound
+    // RowUpgrades, DocumentUpgrades and UpgradeRound: firmware upgrades of rows and of upgrade documents.
     void setUpgradeFilePath(const QString &mac, const QString &path) override;
     void startUpgrade(const QStringList &macs) override;
     DeviceStep upgradeStep(const QString &mac) override;

@@ -52,7 +52,7 @@ public:
     [[nodiscard]] SessionState &state() { return *m_state; }
     [[nodiscard]] const SessionState &state() const { return *m_state; }
 
-    /// Replaces state() by a changed copy of it. `state` must not be null.
+    /// Replaces state() by a changed copy of it, which this object shares. `state` must not be null.
     void setState(const std::shared_ptr<SessionState> &state) { m_state = state; }
 
     /// Tables for the values of the pages. They live as long as this object.

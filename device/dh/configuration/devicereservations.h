@@ -17,9 +17,9 @@ public:
                        UpgradeCheck isUpgradingAt);
 
     /// Reserves a device for the lifetime of the result. Blocks until the running batch step of the device
-    /// ends; its further steps wait for the end of the reservation. Returns an empty reservation immediately
-    /// if the device is being upgraded, and if a stop of `control` is requested or the engine ends during
-    /// the wait. The deadline of `control` has no effect. Any thread.
+    /// ends; its further steps wait for the end of the reservation. Returns an empty reservation, which
+    /// reserves nothing, immediately if the device is being upgraded, and if a stop of `control` is requested
+    /// or the engine ends during the wait. The deadline of `control` has no effect. Any thread.
     [[nodiscard]] BatchEngine::Reservation reserve(const QString &ipport, const StepControl &control) const;
 
     /// Whether the firmware of the device with this address and port is being upgraded. Any thread.

@@ -31,11 +31,12 @@ public:
                  UpgradeCheck isUpgradingAt, const CurrentSession &session, BackEndSignals &backEndSignals);
 
     /// Copies to devices by address and port, one after another. Blocks for the devices. Emits
-    /// signalCDeviceRetToCopyConfig with the result of each, see EncodeCopyOutcome; 10 also if the current
-    /// session has read no settings.
+    /// signalCDeviceRetToCopyConfig with the result of each: that of a failed login, Upgrading, or that of
+    /// copyEncodeSettings(); 10 also if the current session has read no settings.
     void copyTo(const QStringList &devices);
 
-    /// See CDeviceBase::encodeCopy().
+    /// Makes the steps of copyTo() for single devices; they share the settings of this call. The text of an
+    /// outcome lists the skipped settings.
     [[nodiscard]] DeviceStepMaker steps();
 
 private:

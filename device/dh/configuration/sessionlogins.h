@@ -29,8 +29,9 @@ public:
                   const DeviceReservations &reservations, CurrentSession &session,
                   BackEndSignals &backEndSignals);
 
-    /// Logs in for the current session and emits signalCDeviceHighLevelLoginRet. Returns a LoginResult.
-    /// After a failure the earlier session is kept. Blocks for the device.
+    /// Logs in for the current session and emits signalCDeviceHighLevelLoginRet. Returns a LoginResult;
+    /// NetworkFailure, without a signal, if there is no network library. After a failure the earlier session
+    /// is kept. Blocks for the device, and before that until its running batch step has ended.
     int findAndLogin(const QString &ipport, const QString &account, const QString &password);
     /// The step of findAndLogin(). The session begins when the outcome is taken.
     [[nodiscard]] PageStep loginStep(const QString &ipport, const QString &account, const QString &password);
@@ -40,18 +41,26 @@ public:
     /// device refuses without a reason and its row is not initialised.
     [[nodiscard]] int check(const QString &ipport, const QString &account, const QString &password) const;
 
-    /// Logs in with the account of the device, reads its details, and logs out, see
-    /// CDeviceBase::readDeviceDetail(). Sets the MAC of a row without one. Blocks for the device.
+    /// Logs in with the account of the device, reads its details, and logs out. Returns the map of
+    /// loginDetail() with "loginResult" (a LoginResult). Blocks for the device.
     [[nodiscard]] QVariantMap readDetail(const QString &ipport);
+    /// The step of readDetail(). Its value is the map; taking the outcome also sets the MAC of a row without
+    /// one.
     [[nodiscard]] PageStep detailStep(const QString &ipport);
 
-    /// The session that the step returns logs out when it is destroyed, or when the back end ends.
+    /// Logs in for a separate session, or keeps `order.present`. The session that the step returns logs out
+    /// when it is destroyed, or when the back end ends.
     [[nodiscard]] OwnSessionStep ownSessionStep(const OwnSessionOrder &order);
 
+    /// Makes the current session one with this device: keeps it if the device responds in it, otherwise logs
+    /// in. Returns immediately; signalCDeviceSessionOpened follows, unless the request is replaced or stopped
+    /// before. See CDeviceBase::openSession() for the parameters.
     void openSession(const QString &ipport, const QString &account, const QString &password,
                      bool readsChannels, bool isGivenNow);
     /// Drops the result of a pending openSession(): its login is logged out, and no signal is emitted.
     void stopOpeningSession() { ++m_lastRequest; }
+    /// Requests a response in the current session; signalCDeviceSessionChecked reports later whether there
+    /// was one.
     void checkSession();
 
 private:

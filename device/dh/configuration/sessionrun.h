@@ -8,10 +8,11 @@
 #include <functional>
 #include <vector>
 
-/// Executes operations on one SessionState and collects their signals; the caller emits them. Any thread,
-/// but one thread at a time. Blocks for the timeouts of the device library. While the device is being
-/// upgraded, it is read but nothing is written to it: the write has the result LoginResult::Upgrading. See
-/// CDeviceBase for the operations.
+/// Executes operations on one SessionState and collects their signals; the caller emits them. Any thread, but
+/// one thread at a time. Blocks for the timeouts of the device library. While the device is being upgraded,
+/// it is read but nothing is written to it: an operation that would write reports LoginResult::Upgrading by
+/// its signal or as the result of the channel's name. The operations are described in SessionOperations and
+/// CDeviceBase.
 class SessionRun final : public SessionOperations
 {
 public:

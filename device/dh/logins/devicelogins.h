@@ -33,11 +33,11 @@ public:
     /// The account for a login to the device at this address and port: the account in its row, otherwise the
     /// stored or the default account (see AccountChoice). The default account for a device without a row.
     [[nodiscard]] DeviceAccount accountAt(const QString &ipport) const;
-    /// Same for a row; an empty row is a device without a row.
+    /// Same for the device of a row (keys of DeviceRowKey); an empty row is a device without a row.
     [[nodiscard]] DeviceAccount accountOf(const QJsonObject &row) const;
 
-    /// Logs in with secureLogin() and sets "loggedIn" of the device's row, if it has one, also after a
-    /// failure. The caller logs out a successful login.
+    /// Logs in with secureLogin(), which blocks, and sets "loggedIn" of the device's row, if it has one: true
+    /// after a success, otherwise false. The caller logs out a successful login.
     [[nodiscard]] SecureLogin logIn(const QString &ipport, const DeviceAccount &account) const;
 
     /// Sets "loggedIn" of the row at this address and port to whether `result` is a success.

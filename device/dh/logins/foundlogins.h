@@ -32,12 +32,13 @@ public:
     /// requestStop(), then waits for running logins.
     ~FoundLogins() override;
 
-    /// Called when a search starts. Drops logins of the earlier search that have not started. nullopt: no
-    /// logins in this search.
+    /// Called when a search starts. Drops logins of the earlier search that have not started. `accounts`
+    /// chooses the accounts of the logins; nullopt: no logins in this search.
     void begin(const std::optional<AccountChoice> &accounts);
 
     /// Starts logins to the listed IPv4 devices that are initialised, have not had one in this search and
-    /// lack model, version or MAC. Returns immediately. Does nothing before begin() and after stop().
+    /// lack model, version or MAC, with the accounts of begin(). Returns immediately. Does nothing before
+    /// begin() and after stop().
     void logInToNew();
 
     /// Drops logins that have not started, and starts no further ones until the next begin(). Running logins

@@ -31,22 +31,31 @@ public:
     /// signalCDeviceAddSingleDeviceToTable after a success. Returns a LoginResult. Blocks for the device.
     [[nodiscard]] int add(const RowLoginRequest &request);
 
-    /// See CDeviceBase::addingStep(). `ports` opens local ports to devices behind NAT; may be null.
+    /// A step that logs in to the device and adds its row, see RowAdding::addNew(). `ports` opens local ports
+    /// to devices behind NAT; null: such devices cannot be added.
     [[nodiscard]] DeviceStep addingStep(const DeviceToAdd &device,
                                         const std::shared_ptr<P2PPorts> &ports) const;
 
-    // Operations of CDeviceBase; their names there are in the comments.
+    // Operations of CDeviceBase; their names there are in brackets. They send nothing to devices.
 
-    /// updataDeviceInfo()
+    /// Sets a value of the row `mac`, of either list, or without such a row of the first row at `ipport`.
+    /// Returns whether there is such a row. A new "name" is signalled later (updataDeviceInfo).
     bool update(const QString &key, const QVariant &newValue, const QString &mac, const QString &ipport);
+    /// The account that a login would use, a map with the keys of AccountKey. `name` is the name of a row or
+    /// an "address:port"; without a row the default account is returned (accountOf).
     [[nodiscard]] QVariantMap accountOf(const QString &name) const;
-    [[nodiscard]] QVariantMap rowAt(const QString &ipport) const;    ///< getDeviceInfo()
-    [[nodiscard]] QJsonObject rowNamed(const QString &name) const;   ///< deviceRow()
-    [[nodiscard]] QVariantMap detail(const QString &mac) const;      ///< getDeviceDetail()
-    [[nodiscard]] QVariantMap detailAt(const QString &ipport) const; ///< getDeviceDetailByAddress()
-    [[nodiscard]] QVariantList filtered(const QString &filter, const QString &text) const; ///< filterData()
-    [[nodiscard]] QVariantList filteredIPv6(const QString &filter,
-                                            const QString &text) const; ///< filterDataIPV6()
+    /// The IPv4 row at an address, with its password; empty if there is none (getDeviceInfo).
+    [[nodiscard]] QVariantMap rowAt(const QString &ipport) const;
+    /// The row of this name, of either list; empty if there is none (deviceRow).
+    [[nodiscard]] QJsonObject rowNamed(const QString &name) const;
+    /// The row of this name with values of its search record, without its password (getDeviceDetail).
+    [[nodiscard]] QVariantMap detail(const QString &mac) const;
+    /// The same for the IPv4 row at an address (getDeviceDetailByAddress).
+    [[nodiscard]] QVariantMap detailAt(const QString &ipport) const;
+    /// The IPv4 rows that pass a filter, see filteredRows() (filterData).
+    [[nodiscard]] QVariantList filtered(const QString &filter, const QString &text) const;
+    /// The same for the IPv6 rows (filterDataIPV6).
+    [[nodiscard]] QVariantList filteredIPv6(const QString &filter, const QString &text) const;
 
     /// Removes the rows named by the keys of `macs` from the IPv4 list, or with `ipversion` "IPV6" from the
     /// IPv6 list. Keeps rows of devices that are being upgraded. Emits signalCDeviceAddSingleDeviceToTable.

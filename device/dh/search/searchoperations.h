@@ -39,20 +39,23 @@ public:
     SearchOperations(const SearchOperations &) = delete;
     SearchOperations &operator=(const SearchOperations &) = delete;
 
-    /// See CDeviceBase::startSearch(). Uses the settings and accounts at this time.
+    /// Removes the rows, except those of DeviceStore::setKept(), and starts a search in the background, with
+    /// the settings and accounts at this time.
     void start();
 
-    /// Sets the address range of the next search (host byte order; 0: none).
+    /// Sets the address range of the next search: first and last address in host byte order, 0 in either for
+    /// no range. Later searches have no range unless it is set again.
     void setRange(quint32 begin, quint32 end);
 
-    /// Stops the running search and drops logins that have not started. Found devices and running logins are
-    /// kept.
+    /// Stops the running search and drops logins that have not started. The rows stay, and running logins
+    /// continue.
     void stop();
 
     /// Queries the devices of these rows again in the background, see DeviceRefresh::start().
     void refresh(const QStringList &macs);
 
-    /// See CDeviceBase::locationStep().
+    /// A step that queries the devices of these rows again, see DeviceRefresh::locate(). It blocks for about
+    /// 6 s for up to 4096 devices; its outcome is always a success.
     [[nodiscard]] DeviceStep locationStep(const QStringList &macs);
 
     /// Stops everything at its next step, without waiting; no search or login starts afterwards. The

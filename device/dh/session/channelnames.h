@@ -22,19 +22,21 @@ public:
     /// Sets the session and clears the results.
     void begin(const ConfigSession &session);
 
-    /// The name of a channel, without surrounding spaces; null if the device refuses the request or does not
-    /// respond.
+    /// Requests the name of a channel. Returns it without surrounding spaces; null if the device refuses the
+    /// request or does not respond.
     [[nodiscard]] QVariant name(int channel);
 
     /// The names of the first `count` channels, at most maximumChannels, null as by name(). If the device
     /// stops responding, no further name is requested and the remaining ones are null.
     [[nodiscard]] QVariantList names(int count);
 
-    /// Whether the last name() or names() failed because the device did not respond.
+    /// Whether the last name() or names() failed because the device did not respond or no longer accepts the
+    /// session.
     [[nodiscard]] bool isDeviceAway() const { return m_isDeviceAway; }
 
-    /// Writes the name of a channel and stores the result, which is returned: 0, `refused` or deviceAway. A
-    /// name that is too long for the item is truncated at a character boundary.
+    /// Writes the name of a channel, and stores and returns the result: 0, `refused`, or deviceAway if the
+    /// device did not respond or no longer accepts the session. A name that is too long for the item is
+    /// truncated at a character boundary.
     int write(int channel, const QString &name);
 
     /// Stores `result` (not 0) for a write that was not sent. It counts in the save like a failed write.

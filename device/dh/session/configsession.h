@@ -11,12 +11,15 @@
 /// Buffer for a configuration text, zero-terminated.
 using ConfigText = std::vector<char>;
 
-/// Result for a device that did not respond, of operations that do not return the library's error.
+/// Result for a device that did not respond or no longer accepts the session, of operations that do not
+/// return the library's error. It is an sdk::NetError, not a LoginResult.
 inline constexpr int deviceAway = static_cast<int>(sdk::NetError::NetworkFailure);
 
-/// Typed access to the configuration functions of the device library for one login. Does not own the login:
-/// the functions fail after its logout. All functions block for their timeout. Without a library or login
-/// they fail. Channels are counted from 0; -1 is the device itself. Any thread.
+/// Typed access to the configuration functions of the device library for one login. A configuration is a text
+/// with a name such as "Network"; it is packed from and unpacked into a record, a struct of sdk/. An item is
+/// a block with a number. Does not own the login: the functions fail after its logout. All functions block
+/// for their timeout. Without a library or login they fail. Channels are counted from 0; -1 is the device
+/// itself. Any thread.
 class ConfigSession
 {
 public:

@@ -21,9 +21,9 @@ struct SecureLogin
     int channelCount = 0;       ///< video inputs that the device reports
 };
 
-/// Logs in to the device at `ipport` ("address:port", an IPv6 address in brackets; 127.0.0.1 is the local
-/// end of a tunnel). Blocks for the response or the library's timeout. NetworkFailure, without a request, if
-/// `net` is null or the address is empty. Any thread.
+/// Logs in to the device at `ipport` ("address:port", an IPv6 address in brackets; 127.0.0.1 is the local end
+/// of a tunnel). A successful login stays open. Blocks for the response or the library's timeout.
+/// NetworkFailure, without a request, if `net` is null or the address is empty. Any thread.
 [[nodiscard]] SecureLogin secureLogin(sdk::NetLibrary *net, const QString &ipport, const QString &account,
                                       const QString &password);
 

@@ -10,7 +10,7 @@
 /// Parameters of offerSession().
 struct SessionOrder
 {
-    QString ipport;
+    QString ipport; ///< "address:port"
     QString account;
     QString password;
     std::int64_t handle = 0; ///< of the present session, 0 for none
@@ -24,8 +24,10 @@ struct SessionOrder
 struct SessionOffer
 {
     LoginResult result = LoginResult::Unknown;
-    SecureLogin login;     ///< handle is 0 on failure, and if the present session is kept
-    QVariantList channels; ///< see liveChannels(); empty unless requested or after a new login
+    SecureLogin login; ///< handle is 0 on failure, and if the present session is kept
+    /// The channels as liveChannels() returns them: after a new login, and with SessionOrder::readsChannels
+    /// also in the kept session. Otherwise empty.
+    QVariantList channels;
 };
 
 /// Whether the device responds in the session. A refused request counts as a response. A refused connection,

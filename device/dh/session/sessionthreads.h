@@ -31,8 +31,10 @@ public:
     /// Runs `work` on one of the threads. Returns immediately.
     void start(const std::function<void()> &work);
 
-    /// See CDeviceBase::runForPage(). The step does not run if `stop` is requested or clear() is called
-    /// before its start; `ended` is not called then.
+    /// Runs `step` on one of the threads and returns immediately. Then calls `ended` with the outcome, queued
+    /// on the main thread. If `stop` is requested before the end of the step, its outcome is dropped and
+    /// `ended` is not called. The step does not run if `stop` is requested or clear() is called before its
+    /// start.
     void runForPage(const PageStep &step, const std::stop_token &stop,
                     const std::function<void(const PageOutcome &outcome)> &ended);
 
