@@ -1,4 +1,5 @@
-// Conversion of a changed value of the image page to a field of a camera item.
+// Conversion of a changed value of the image page to a field of a camera item (a block of settings that the
+// device reads and writes together).
 #pragma once
 
 #include "device/dh/camera/cameravalues.h"

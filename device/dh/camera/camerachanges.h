@@ -29,7 +29,8 @@ enum class CameraWrite
 };
 
 /// Whether a change of `key` (see CameraKey) changes the configuration "VideoColor" in the state or on the
-/// device. The caller must have read that configuration of the channel before.
+/// device. The caller must read that configuration of the channel before; a change of a single value of it
+/// (curBrightness, ...) is refused while it is unknown.
 [[nodiscard]] bool changesColor(const QString &key);
 
 /// Applies a change to `state` and returns the writes that send it to the device, in their order; sends

@@ -53,7 +53,8 @@ public:
     /// have succeeded; if that is refused, too, value() is unchanged.
     Outcome setValue(const QString &key, const QVariant &value, const QString &subKey, int channel);
 
-    /// The device library's error of the last change that was Refused or NoResponse; 0 before.
+    /// The device library's error of the last setValue() that returned Refused or NoResponse; 0 before the
+    /// first one.
     [[nodiscard]] int lastError() const { return m_lastError; }
 
 private:

@@ -79,8 +79,8 @@ CameraReading readVideoColor(const ConfigSession &session, int channel, CameraSt
 
 /// Reads the capabilities, the configurations that belong to them and the channel name; items and mode are
 /// unchanged. Refused: the device does not report its capabilities; no group is supported then. A refused
-/// configuration or name is marked as unknown, and the result is Done. NoResponse: `state` contains what was
-/// read before.
+/// configuration or name is marked as unknown, and the result is Done. NoResponse: `state` contains the
+/// responses received before; capabilities that were not received are empty.
 [[nodiscard]] CameraReading readCameraCapabilities(const ConfigSession &session, int channel,
                                                    CameraState &state);
 

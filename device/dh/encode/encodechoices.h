@@ -5,9 +5,10 @@
 
 #include <optional>
 
-/// The lists of choices for one kind of stream, from its capability block. The block comes from a device and
-/// is not trusted: counts are limited, unknown bits and codes are left out, and a block whose size is not
-/// set has no choices. The functions use the block as it is at the time of the call.
+/// The lists of choices for one kind of stream (a kind of main stream, or the sub stream), from its
+/// capability block. The block comes from a device and is not trusted: counts are limited, unknown bits and
+/// codes are left out, and a block whose size is not set has no choices. The functions use the block as it is
+/// at the time of the call.
 class EncodeChoices
 {
 public:
@@ -22,7 +23,8 @@ public:
     [[nodiscard]] QStringList compressions() const;
 
     /// Whether a compression (by code) is offered. For H.264 on a device that reports profiles, `profile` (1
-    /// to 4) must be one of them; any other value of `profile` is no requirement.
+    /// to 4) must be one of them; with any other value of `profile`, the device must report at least one of
+    /// the profiles 1 to 4.
     [[nodiscard]] bool offersCompression(int code, int profile) const;
 
     /// Names of the sizes, see resolutionName(). If the sizes depend on the compression, those of all

@@ -23,8 +23,8 @@ public:
 
     /// Reads the settings of the selected channel and kind of stream, and the choices for them. Returns 0 on
     /// success, configurationUnreadable (1), capabilitiesUnknown (10), or an error of the device library. If
-    /// the device refuses the configuration or does not respond to its request, the earlier values stay. If
-    /// a later request fails, its values are not read and cannot be set.
+    /// the device refuses the configuration or does not respond to its request, the earlier values stay. If a
+    /// later request fails, its values count as not read and cannot be set.
     [[nodiscard]] int read(const ChannelChoice &channels);
 
     /// Marks all items as not read, after another channel or kind of stream was selected; read() reads them.
@@ -51,9 +51,9 @@ public:
 
     /// Changes a value; see EncodeValues::setValue(). An invalid value, and a value whose item was not read,
     /// is logged and ignored, with an empty outcome. Only the resolution of the sub stream is written
-    /// immediately, to the channel of the image page, which devices expect. If the device refuses it, other
-    /// bit rates are tried, of which the first accepted one stays. The choices are then read again. All other
-    /// values are written by confirm().
+    /// immediately, to the channel of the image page, which devices expect. If the device refuses it, the
+    /// entries of ValueTables::BitRateSteps are tried as the bit rate, of which the first accepted one stays.
+    /// The choices are then read again. All other values are written by confirm().
     Outcome setValue(const QString &key, const QVariant &value, const ChannelChoice &channels);
 
     /// Writes all items that were read, changed or not. `notWritten` lists those that the device refused,
@@ -62,7 +62,7 @@ public:
     /// written and all items are listed.
     [[nodiscard]] Outcome confirm(const ChannelChoice &channels);
 
-    /// The state of the channel, with changes that are not confirmed; nullopt if it was not read.
+    /// The state of the channel, with changes that confirm() has not written; nullopt if it was not read.
     [[nodiscard]] const std::optional<EncodeState> &state() const { return m_state; }
 
     /// Names of the items in the user's language, by the indexes of writeEncodeItems().

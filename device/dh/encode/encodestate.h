@@ -60,7 +60,7 @@ struct EncodeReading
 {
     int result = 0;         ///< 0, configurationUnreadable, capabilitiesUnknown, or an error of the library
     bool isFetched = false; ///< the device returned its configuration, which replaced `record`
-    bool isQueried = false; ///< the capabilities were requested, successfully or not
+    bool isQueried = false; ///< the capabilities were requested, with or without success
 };
 
 /// Whether a result is an error of the device library.

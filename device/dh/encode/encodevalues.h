@@ -16,10 +16,11 @@ public:
     /// Whether `key` belongs to the encode page, also the additional keys of EncodeConfig::value().
     [[nodiscard]] static bool isKey(const QString &key);
 
-    /// A value of the main stream, or of the sub stream for a key of it, see splitEncodeKey(). `streamType`
-    /// is the kind of main stream (0 to 2) and selects its capabilities. Returns an invalid value for an
-    /// unknown key and for a value whose item was not read. "curBitStream" is the index of the bit rate in
-    /// "bitStream", -1 if the list does not have it; "bitRate" is the bit rate in kbit/s.
+    /// A value of the main stream, or of the sub stream for a key that begins with "sub", see
+    /// splitEncodeKey(). `streamType` is the kind of main stream (0 to 2) and selects its capabilities.
+    /// Returns an invalid value for an unknown key and for a value whose item was not read. "curBitStream" is
+    /// the index of the bit rate in "bitStream", -1 if the list does not have it; "bitRate" is the bit rate
+    /// in kbit/s.
     [[nodiscard]] QVariant value(const QString &key, const EncodeState &state, int streamType) const;
 
     /// Changes the state, not the device. Returns false, and leaves the state unchanged, for an invalid

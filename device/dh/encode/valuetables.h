@@ -18,16 +18,16 @@ public:
     /// Uses the translations of the language at the time of construction.
     ValueTables();
 
-    const QStringList StreamTypeNames;       ///< kinds of main streams
-    const QStringList VideoCompressionNames; ///< by bit of a compression mask
-    const QStringList H264ProfileNames;      ///< by profile - 1
-    const QStringList ResolutionNames;
+    const QStringList StreamTypeNames;                 ///< kinds of main streams: normal, motion, alarm
+    const QStringList VideoCompressionNames;           ///< by bit of a compression mask
+    const QStringList H264ProfileNames;                ///< by profile - 1
+    const QStringList ResolutionNames;                 ///< "720P", "1080P", ...; the index is not a code
     const std::vector<sdk::FrameSize> ResolutionSizes; ///< by index in ResolutionNames
     const std::array<std::int32_t, 64> BitRateSteps;   ///< kbit/s, ascending, then zeros
     const QStringList AudioCompressionNames;           ///< by format code of capabilities; empty: not offered
     const std::array<std::int32_t, 64> AudioSamplingFrequencies; ///< Hz, then zeros
-    const QStringList DayNightModeNames;
-    const QStringList BackLightModeNames;
+    const QStringList DayNightModeNames;                         ///< by sdk::CameraMode: day, night, normal
+    const QStringList BackLightModeNames;                        ///< by sdk::BackLightItem::backMode
 
     /// The name of an audio format in configurations and items, which use another numbering than
     /// capabilities (AudioCompressionNames). Empty for an unknown format.
@@ -40,7 +40,7 @@ public:
     /// The index of exactly this size in ResolutionNames; -1 if it has no name.
     [[nodiscard]] int resolutionIndexFromSize(int width, int height) const;
 
-    /// Sets `width` and `height` (pixels) to the size with this index in ResolutionNames. Returns false, and
-    /// leaves the arguments unchanged, if the index is out of range.
+    /// Sets `width` and `height` (pixels) to the size with this index in ResolutionNames and returns true.
+    /// Returns false, and leaves the arguments unchanged, if the index is out of range.
     bool resolutionSizeFromIndex(int index, int &width, int &height) const;
 };

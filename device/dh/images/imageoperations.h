@@ -44,7 +44,9 @@ public:
     /// folder in the folder of snapshots.
     void takeSnapshots(const QString &kind, int channel, const QString &address);
 
-    /// See CDeviceBase::snapshotSteps().
+    /// A step for each channel of the current session, in their order; none without a session. A step saves a
+    /// snapshot in the folder `address` and emits CDeviceBase::signalSnapPictureToFile on its thread, unless
+    /// it is ended early (NotDone).
     [[nodiscard]] QList<DeviceStep> snapshotSteps(const QString &address);
 
     /// Takes a snapshot with the login of a live view, which must stay open until the return, see
@@ -52,7 +54,9 @@ public:
     [[nodiscard]] static OwnImage takeOwnImage(const sdk::SdkLibraries &libraries, const OwnImageOrder &order,
                                                const StepControl &control);
 
-    /// See CDeviceBase::imageStep().
+    /// A step that logs in to the device with its account, saves the images of its channels one after
+    /// another, and logs out. Without a request: NotInitialised for such a device, Upgrading during an
+    /// upgrade. NotDone if it is ended between two channels, otherwise a failure only if no image was taken.
     [[nodiscard]] DeviceStep imageStep(const ImageOrder &order);
 
     /// Cancels the snapshots of takeSnapshots() and waits for their thread. Steps are not affected.

@@ -14,7 +14,7 @@ class DeviceLogins;
 class DeviceStore;
 class P2PPorts;
 
-/// Implements the operations of CDeviceBase with similar names. Lives on the main thread; functions for
+/// Exports devices to files and imports them by a login to each. Lives on the main thread; functions for
 /// other threads say so.
 class DeviceLists
 {
@@ -30,8 +30,8 @@ public:
     /// written; an existing file is unchanged then.
     bool exportDevices(const QString &folder, const QStringList &macs, const QString &fileName);
 
-    /// Fields of the last exported list that an import would not read back, see CDeviceBase::exportFaults().
-    /// Empty after a failed export.
+    /// Fields of the last exported list that an import would not read back unchanged, maps with the keys of
+    /// ExportFaultKey. Empty after a failed export.
     [[nodiscard]] QVariantList exportFaults() const { return m_exportFaults; }
 
     /// Reads a list file and makes its import; adds no device. The reason of a refused list is in the
@@ -46,7 +46,8 @@ public:
     [[nodiscard]] QString importDevices(const QString &path, const std::shared_ptr<P2PPorts> &ports,
                                         ImportSummary &summary);
 
-    /// Lines of the last importDevices() that failed, see importFailure().
+    /// Lines of the last importDevices() that failed, in the order of the file, as maps made by
+    /// importFailure().
     [[nodiscard]] QVariantList importFailures() const { return m_importFailures; }
 
 private:

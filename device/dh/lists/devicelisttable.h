@@ -5,9 +5,10 @@
 #include <QList>
 #include <QStringView>
 
-/// Converts the rows of a table to lines of a list. The headers are the first row that contains the header
-/// of the address. Columns are found by their headers: any order, and all but the address may be missing;
-/// unknown columns are ignored. Skips rows above the headers and empty rows.
+/// Converts the rows of a table to lines of a list. The headers are the first row that contains the header of
+/// the address. Columns are found by their headers (ListColumnName::header, also after "*"): any order, and
+/// all but the address may be missing; unknown columns are ignored. Skips rows above the headers and empty
+/// rows.
 class DeviceListTable
 {
 public:

@@ -12,7 +12,7 @@
 /// A device to export.
 struct ListedDevice
 {
-    QJsonObject row;                           ///< empty if only a search record is left
+    QJsonObject row; ///< keys of DeviceRowKey; empty if only a search record is left
     std::optional<sdk::SearchResponse> record; ///< nullopt if no search has found the device
 };
 

@@ -34,8 +34,8 @@ struct DaylightSaving
 /// Keys: "week" (0 Sunday to 6 Saturday, 7 every day), "time" ("hh:mm") and "autoReboot" (bool).
 [[nodiscard]] std::optional<sdk::AutoMaintainRecord> autoMaintainFrom(const QVariantMap &data);
 
-/// Key: "name" of a channel. Invisible characters and surrounding spaces are removed. The rest must have 1
-/// to ByteText::channelNameBytes() bytes; it is not truncated.
+/// Key: "name" of a channel. Invisible characters and surrounding spaces are removed. The rest must have 1 to
+/// ByteText::channelNameBytes() bytes in UTF-8; it is not truncated.
 [[nodiscard]] std::optional<sdk::ChannelNameItem> channelNameFrom(const QVariantMap &data);
 
 /// Key: "videoStandard": 1 PAL, 2 NTSC.

@@ -41,8 +41,9 @@ public:
     /// of these logins in the background; it ignores `ipports`.
     void run(const QString &command, const QVariantMap &data, const QStringList &ipports);
 
-    /// The step of a command for one device, see CDeviceBase::systemStep(). It uses the account that the
-    /// device has at this call. "modifyPassword" without an open login of "loginCheck" returns NotDone.
+    /// The step of a command for one device, with the results of run(). It uses the account that the device
+    /// has at this call. "readTime" reads the clock of the device: the text of the outcome is its time,
+    /// compared with the host's. "modifyPassword" without an open login of "loginCheck" returns NotDone.
     [[nodiscard]] DeviceStep step(const QString &command, const QVariantMap &data, const QString &ipport);
 
     /// Closes the logins that "loginCheck" has kept open. Blocks for the devices.

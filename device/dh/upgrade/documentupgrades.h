@@ -29,12 +29,16 @@ public:
     /// The referenced objects must outlive this object, which must outlive its steps.
     DocumentUpgrades(std::shared_ptr<DeviceStore> store, UpgradeRound &round, UpgradeOrders &orders);
 
-    /// The lines as maps, see CDeviceBase::importUpgradeDocument(); starts nothing. Sets `refusal` to the
-    /// reason why the document is refused, in the user's language; empty if it is not. Blocks for the files.
+    /// The lines as maps with the keys "line", "address", "mac" (name of the row), "file", "version", "code"
+    /// (an UpgradeTools::Result, None if the line can be upgraded) and "reason" of ListLineKey; starts
+    /// nothing. Sets `refusal` to the reason why the document is refused, in the user's language; empty if it
+    /// is not. Blocks for the files.
     [[nodiscard]] QVariantList report(const QString &path, QString &refusal) const;
 
-    /// See CDeviceBase::upgradeDocumentReading(). The next start() or steps() uses the document that was
-    /// read, if its file is unchanged.
+    /// A step that reads a document without starting upgrades. Its value is a map with the keys of
+    /// UpgradeDocumentKey: the reason of a refusal, and the lines of report() with their rows under "device".
+    /// After the outcome is taken, the next start() or steps() uses the document that was read, if its file
+    /// is unchanged.
     [[nodiscard]] PageStep reading(const QString &path);
 
     /// Upgrades all lines of these documents; returns after reading the files. A line that cannot be

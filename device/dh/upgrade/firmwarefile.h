@@ -29,7 +29,7 @@ struct FirmwareFile
 /// file has a refusal, and an empty path NoFile. Any thread.
 [[nodiscard]] FirmwareFile checkFirmwareFile(const QString &path);
 
-/// Cache of checkFirmwareFile(): checks each path once, at its first use. Not thread-safe.
+/// Cache of checkFirmwareFile() for one operation: checks each path once, at its first use. Not thread-safe.
 class FirmwareFiles
 {
 public:

@@ -26,9 +26,9 @@ public:
 
     /// Sets the firmware file of rows; `path` may be a "file:///" URL, or empty to remove the file. The file
     /// is set also if it cannot be used: "upgraderes" and "upgradetext" of a row then show the reason; the
-    /// file is checked again at the start. Returns an UpgradeTools::Result for each row: None, or why the
-    /// upgrade is refused. The row of a device that is being upgraded is unchanged (DeviceBusy). NotListed
-    /// for a name without a row.
+    /// file is checked again at the start. Returns an UpgradeTools::Result for each row: None (also for an
+    /// empty path), or why the upgrade is refused. The row of a device that is being upgraded is unchanged
+    /// (DeviceBusy). NotListed for a name without a row.
     QList<int> setFiles(const QStringList &macs, const QString &path);
 
     /// Starts upgrades and returns immediately. A name without a row is logged and ignored; a device that is
