@@ -74,6 +74,6 @@ private:
 };
 
 /// The strings that identify the device of a row in the store of accounts, the most reliable one first: its
-/// MAC, then its "identity" if that is a uuidName(), both in lower case. A MAC without a digit other than 0
-/// is left out. Empty if the row has neither.
+/// MAC, then its "identity" if that is a uuidName(), both in lower case. A MAC whose digits are all 0 is left
+/// out. Empty if the row has neither.
 [[nodiscard]] QStringList accountIdentities(const QJsonObject &row);

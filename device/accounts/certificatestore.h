@@ -34,8 +34,9 @@ struct RefusedCertificate
 /// whatever the identity of that key is. A certificate is trusted if the keys are equal, "changed" if they
 /// differ, and "unknown" if there is no accepted key. Dates and names of certificates are not checked.
 ///
-/// If the file cannot be read completely, no certificate is trusted. When the user then accepts a
-/// certificate, the unreadable file is renamed and a new one is written.
+/// If the file cannot be read or contains an invalid entry, no certificate is trusted until the user accepts
+/// it again. When the user then accepts a certificate, the unreadable file is renamed and a new one is
+/// written.
 ///
 /// Refused certificates are in memory only. Thread-safe. verdictOn() does not access the disk.
 class CertificateStore
@@ -48,8 +49,8 @@ public:
     /// accepted keys are kept in memory only.
     explicit CertificateStore(const QString &path);
 
-    /// The reason why the file could not be read, in the user's language. Empty if it was, and after a
-    /// successful agree().
+    /// The reason why the file could not be read or contains an invalid entry, in the user's language. Empty
+    /// otherwise, and after a successful agree().
     [[nodiscard]] QString problem() const;
 
     /// The verdict on the certificate of a connection. If it is not trusted, the certificate is added to
@@ -72,8 +73,8 @@ public:
     [[nodiscard]] QString agree(const QList<RefusedCertificate> &certificates);
 
     /// Sets the function that is called after each refusal, on the thread of the request; empty for none.
-    /// Blocks while the earlier function runs; it is not called after this returns. The function may call
-    /// refused(), but neither setListener() nor verdictOn().
+    /// Blocks while the earlier function runs; the earlier function is not called after this returns. The
+    /// function may call refused(), but neither setListener() nor verdictOn().
     void setListener(std::function<void()> listener);
 
 private:

@@ -8,9 +8,10 @@
 
 class CDeviceFactory;
 
-/// A copy of the back end's values of the image page, by the keys of CDeviceFactory::setConfigData(), in a
-/// form that is complete without a device. The form only reads: the page changes values with setConfigData()
-/// and then calls read(). read() sends no request to the device. Lives on the main thread.
+/// A copy of the values of the image page that the back end has read from the device. It is complete without
+/// a device: lists are empty, and no group is supported then. The form only reads: the page changes values
+/// with setConfigData() and then calls read(). read() sends no request to the device. Lives on the main
+/// thread.
 class CameraForm : public QObject
 {
     Q_OBJECT

@@ -23,7 +23,7 @@ class ChannelNameForm : public DialogRows
     Q_PROPERTY(int savingRow READ savingRow NOTIFY savingChanged) ///< the row being written; -1 for none
     Q_PROPERTY(double savingProgress READ savingProgress NOTIFY savingChanged) ///< 0 to 1; 0 while not saving
 public:
-    /// The problem that a row shows.
+    /// The problem that a row shows: of the entered name, otherwise of the last write of the row.
     enum Trouble
     {
         None,
@@ -50,8 +50,8 @@ public:
     /// cancelSaving().
     Q_INVOKABLE void load(const QVariantList &names, const QVariantList &connected);
 
-    /// Sets the name that the user typed for a row. Control, line-break and bidirectional characters are
-    /// removed. A changed name clears the trouble of the last write.
+    /// Sets the name that the user typed for a row. Control characters, line separators and direction marks
+    /// are removed. A changed name clears the trouble of the last write.
     Q_INVOKABLE void set(int row, const QString &typed);
 
     /// Same for several channels. `channels` are numbers from 0 as strings; `names` has the name of each.

@@ -50,7 +50,8 @@ class EncodeForm : public QObject
     Q_PROPERTY(int changedCount READ changedCount NOTIFY changed) ///< settings with "changed"
     /// Whether the device reported the supported encode modes and resolutions of the main stream.
     Q_PROPERTY(bool complete READ isComplete NOTIFY changed)
-    /// Whether the device accepted any item of the last write. False after the device was read again.
+    /// Whether the device accepted any item of the last write, or lacks an item, which counts as accepted
+    /// then. False after the device was read again.
     Q_PROPERTY(bool taken READ isTaken NOTIFY changed)
     /// The names, in the user's language, of the items (groups of settings that are written together) that
     /// the device has but that could not be read. They are not written either.

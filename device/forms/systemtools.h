@@ -9,7 +9,7 @@ class SystemTools : public QObject
 {
     Q_OBJECT
     /// The 40 time zones of the devices as "UTC+08:00" etc. The index is the number of the zone in
-    /// SystemDataKey::timeZone. The last seven are not in the order of their offsets.
+    /// SystemDataKey::timeZone. East of Greenwich first, then west; the last seven are in no order.
     Q_PROPERTY(QStringList timeZones READ timeZones CONSTANT)
 public:
     /// The problem of a new password. The values are in the order of the checks.

@@ -30,7 +30,7 @@ public:
     explicit CertificateList(std::shared_ptr<CertificateStore> store, QObject *parent = nullptr);
     ~CertificateList() override;
 
-    /// Whether a certificate was refused since the last load(). It is then missing in the rows.
+    /// Whether a certificate was refused since the last load(). The rows do not contain it then.
     [[nodiscard]] bool hasNewRefusals() const { return m_hasNewRefusals; }
 
     /// Replaces the rows by the certificates that are refused now, and clears hasNewRefusals.

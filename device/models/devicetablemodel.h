@@ -54,8 +54,8 @@ class DeviceTableModel : public QAbstractListModel
     /// chosen another order. Becomes false when no mark is left. A change clears failedOperation.
     Q_PROPERTY(bool onlyFailed READ onlyFailed WRITE setOnlyFailed NOTIFY filterChanged)
     Q_PROPERTY(QString failedOperation READ failedOperation WRITE setFailedOperation NOTIFY filterChanged)
-    /// Position of strings that are not an IPv4 address in an order by address: before the addresses if
-    /// true, as address 0, otherwise after them.
+    /// Position of the rows whose address is not IPv4 in an order by address: before the IPv4 addresses if
+    /// true, otherwise after them.
     Q_PROPERTY(bool oddAddressesFirst READ oddAddressesFirst WRITE setOddAddressesFirst NOTIFY filterChanged)
     Q_PROPERTY(QString sortKey READ sortKey NOTIFY sortChanged)
     Q_PROPERTY(Qt::SortOrder sortOrder READ sortOrder NOTIFY sortChanged)
@@ -99,8 +99,9 @@ public:
     [[nodiscard]] QString sortKey() const { return m_sortKey; }
     [[nodiscard]] Qt::SortOrder sortOrder() const { return m_sortOrder; }
 
-    [[nodiscard]] int totalCount() const { return m_totalCount; }     ///< rows of the list before any filter
-    [[nodiscard]] int failedCount() const { return m_failedCount; }   ///< marked rows, also hidden
+    [[nodiscard]] int totalCount() const { return m_totalCount; } ///< rows of the list before any filter
+    /// Rows of the list with a mark of failedOperation, also those that a filter hides.
+    [[nodiscard]] int failedCount() const { return m_failedCount; }
     [[nodiscard]] int checkedCount() const { return m_checkedCount; } ///< shown rows that are checked
     [[nodiscard]] int checkedUpgradingCount() const
     {

@@ -7,11 +7,11 @@
 #include <QSet>
 #include <QStringList>
 
-/// Marks the devices for which a batch failed or which it did not reach. A mark remains until a later batch
-/// of the same work succeeds for the device, or until the user clears all marks. A mark belongs to the name
-/// of a row (see rowName()). It survives a change of the device's address, and a search: Batches sets the
-/// marked rows as DeviceStore::setKept(), so that the search does not remove them. A name need not have a
-/// row.
+/// Marks the devices for which a batch failed or which it did not reach. The pages filter their devices by
+/// the marks and show the results. A mark remains until a later batch of the same work succeeds for the
+/// device, or until the user clears all marks. A mark belongs to the name of a row (see rowName()). It
+/// survives a change of the device's address, and a search: Batches sets the marked rows as
+/// DeviceStore::setKept(), so that the search does not remove them. A name need not have a row.
 ///
 /// The marks are in memory only. Lives on the main thread.
 class FailedMarks : public QObject

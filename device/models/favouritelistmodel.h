@@ -43,14 +43,15 @@ public:
         return static_cast<int>(m_favourites.size());
     } ///< shown and hidden
 
-    /// Replaces the favourites by those of a folder, in the form of CAuthor::readJsonFilesFromFolder() and
-    /// in the order of the file names. A favourite that was loaded before (by file name) keeps its check
-    /// mark and its progress.
+    /// Replaces the favourites by those of a folder, in the order of the file names. `files` is a map by file
+    /// name, as CAuthor::readJsonFilesFromFolder() returns it. A value is a list of strings: type ("0" by
+    /// address, otherwise by P2P ID), address, port, user name, encrypted password and note. A favourite that
+    /// was loaded before (by file name) keeps its check mark and its progress.
     Q_INVOKABLE void load(const QVariantMap &files);
 
-    /// Sets the results of adding favourites: maps with the keys of ResultKey. The result 0 is a success,
-    /// whose message is `successMessage`; every other result is a failure with the message in the map.
-    /// Unchecks the added favourites. Unknown identities are ignored.
+    /// Sets the results of adding favourites: maps of "identity", "result" and "message". The result 0 is a
+    /// success, whose message is `successMessage`; every other result is a failure with the message in the
+    /// map. Unchecks the added favourites. Unknown identities are ignored.
     Q_INVOKABLE void takeResults(const QVariantList &results, const QString &successMessage);
 
     /// Sets the progress Running with this message for these favourites. Unknown identities are ignored.

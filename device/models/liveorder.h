@@ -39,7 +39,8 @@ public:
     [[nodiscard]] int ticked() const;
 
     /// The index (from 0) of the device with this address and port; -1 if it is not in the order. For the
-    /// rows of the table, also -1 without a factory.
+    /// rows of the table, also -1 without a factory, and for a row whose name is neither its MAC nor its
+    /// address and port.
     Q_INVOKABLE [[nodiscard]] int positionOf(const QString &ipport) const;
 
     /// Address and port of the nearest device after `ipport` (direction 1) or before it (direction -1) that

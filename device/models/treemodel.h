@@ -114,8 +114,8 @@ public:
     [[nodiscard]] int unaddressedCount() const { return m_unaddressedCount; }
 
     /// Rebuilds the tree from the IPv4 rows. `type` is a filter of RowFilter: usually "removeuninit"
-    /// (initialised devices only), or "search" (devices that contain `searchText`). Does nothing without a
-    /// factory.
+    /// (initialised devices only), or "search" (devices whose type, model, address, MAC, version or name
+    /// contains `searchText`). Does nothing without a factory.
     Q_INVOKABLE void resetItems(const QString &type, const QString &searchText);
 
     /// "ipport" of the checked devices, in tree order.

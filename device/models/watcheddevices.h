@@ -17,13 +17,13 @@ class WatchedDevices : public QAbstractListModel
     Q_OBJECT
     Q_MOC_INCLUDE("device/registry/devicefactory.h")
     Q_PROPERTY(CDeviceFactory *deviceFactory MEMBER m_deviceFactory NOTIFY deviceFactoryChanged)
-    /// The channels of all devices, in the order in which the devices were added: maps of "ipport",
-    /// "channel" (from 0), "connected", "name" (never empty: without a reported name it is made of the
-    /// channel number), "caption", "companion" (null for the first device) and "heading". The caption is the
-    /// reported name, which may be empty. With several devices the title of the device precedes it. The
-    /// title is the device's name, with the address and port if two devices have the same name. The heading
-    /// is that title; only the first channel of each device has one, and only with several devices. An
-    /// additional device without a companion, or whose companion is destroyed, is left out.
+    /// The channels of all devices, in the order in which the devices were added: maps of "ipport", "channel"
+    /// (from 0), "connected", "name" (never empty: without a reported name it is made of the channel number),
+    /// "caption", "companion" (null for the first device) and "heading". The caption is the reported name,
+    /// which may be empty. With several devices the title of the device precedes it, unless the name begins
+    /// with the title. The title is the device's name, with the address and port if two devices have the same
+    /// name. The heading is that title; only the first channel of each device has one, and only with several
+    /// devices. An additional device without a companion, or whose companion is destroyed, is left out.
     Q_PROPERTY(QVariantList channels READ channels NOTIFY channelsChanged)
     Q_PROPERTY(int most READ most CONSTANT)
     Q_PROPERTY(bool full READ isFull NOTIFY countChanged)

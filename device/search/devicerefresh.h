@@ -17,8 +17,9 @@ class QFuture;
 /// Queries listed devices again after work that may have changed values that their rows show. Each device is
 /// queried at the address of its row. A device that does not respond there is searched in the local segment,
 /// and its row gets the address that it reports. Responses of other devices change nothing: a response is
-/// assigned to a row by DeviceStore::nameOf() and written by DeviceStore::updateRow(), which keeps checked
-/// states and results. A device that is not found keeps its row unchanged.
+/// assigned to a row by DeviceStore::nameOf() and written by DeviceStore::updateRow(), which keeps the
+/// account and the results ("res", "result", "upgraderes") of the row. A device that is not found keeps its
+/// row unchanged.
 ///
 /// Lives on the main thread, except locate(). Each start() is one task on the global thread pool. Without a
 /// network library, nothing is sent.

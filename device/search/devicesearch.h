@@ -36,8 +36,8 @@ public:
 
     /// For the end of the application. Same as stop(), but the searches do not emit done(), and a later
     /// start() ends after its first step. limited(), progressed() and done() are not emitted after this call,
-    /// except an emission that has already begun; late responses may still emit rowsAdded() and counted().
-    /// The receivers must therefore exist until the destructor has returned.
+    /// except an emission that has already begun; rowsAdded() and counted() may still be emitted. The
+    /// receivers must therefore exist until the destructor has returned.
     void requestStop();
 
     /// Sets the range that the next start() searches; later searches have no range unless it is set again.
@@ -54,7 +54,9 @@ Q_SIGNALS:
     /// Rows were added or removed. Emitted at the beginning and at the end of a search, and at most once a
     /// second between them.
     void rowsAdded();
-    void counted(int ipv4Rows); ///< IPv4 rows that are not lost; emitted after rowsAdded() except the first
+    /// Number of IPv4 rows that are not lost. Emitted after each rowsAdded(), except the one at the
+    /// beginning.
+    void counted(int ipv4Rows);
     /// At the end of a search: `leftOut` responses were dropped because the search had added `rows` rows, the
     /// maximum. Not emitted if none was dropped.
     void limited(int rows, int leftOut);

@@ -39,7 +39,9 @@ class SearchReports : public QObject
     Q_PROPERTY(int missing READ missing NOTIFY changed)
     /// Whether the last search was stopped. False during a search and after dismiss().
     Q_PROPERTY(bool incomplete READ isIncomplete NOTIFY changed)
-    /// SearchReportText::summaryOf() of the last search, also after dismiss().
+    /// One sentence with the numbers of devices that the last search found and that are missing, in the
+    /// user's language; also after dismiss(). It states that no device was found during a search and before
+    /// the first one.
     Q_PROPERTY(QString summary READ summary NOTIFY changed)
     /// The IPv4 networks of the host that were searched, "192.168.1.0/24, 10.0.0.0/8"; empty without a
     /// report.
@@ -68,7 +70,8 @@ public:
     /// two values are compared in `missing`.
     Q_INVOKABLE void begin(bool localSegment, const QString &range);
 
-    /// Called when the search has ended or was stopped. `devices` is the number of devices found.
+    /// Called when the search has ended or was stopped; reads the report. `devices` is the number of devices
+    /// found.
     Q_INVOKABLE void end(int devices, bool isStopped);
 
     /// The user has dismissed the messages about missing devices and a stopped search. The report stays.

@@ -41,7 +41,8 @@ public:
 
     /// Logs in to the device at `ipport` ("address:port"). If there is a session already, it must be with
     /// this device; it is kept if the device responds in it, and `account` and `password` are not used then.
-    /// ended() follows, unless open() or close() is called before.
+    /// If the device no longer accepts its login, no login is made, and ended() reports that. ended()
+    /// follows, unless open() or close() is called before.
     Q_INVOKABLE void open(const QString &ipport, const QString &account, const QString &password);
 
     /// Saves an image of a channel (from 0) to the folder `folder` in the folder of snapshots, see

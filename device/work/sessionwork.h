@@ -46,12 +46,14 @@ public:
 
     // Names of channels.
 
-    /// Reads the names of all channels. The value of ended() is a map of "names" and "connected", with the
-    /// lists of CDeviceBase::getDeviceChannelData(): an entry for each channel. "connected" is empty if the
-    /// device did not respond.
+    /// Reads the names of all channels. The value of ended() is a map of two lists with an entry for each
+    /// channel: "names" (strings, null for a name that was not read) and "connected" (bool: has a camera),
+    /// which is empty if the device did not respond.
     Q_INVOKABLE void readNames();
-    /// Writes the name of a channel (from 0) and reads it back. The value of ended() is a map of "result" (a
-    /// LoginResult) and "name", which is null after a failure or if the device does not report it.
+    /// Writes the name of a channel (from 0) and reads it back. The value of ended() is a map of "result" and
+    /// "name", which is null after a failure or if the device does not report it. "result" is 0 on success,
+    /// LoginResult::Refused, LoginResult::Upgrading, or an error of the network library if the device did not
+    /// respond; -1 if there is no such channel.
     Q_INVOKABLE void writeName(int channel, const QString &name);
 
 Q_SIGNALS:
