@@ -14,8 +14,9 @@ class CgiBatches : public QObject
     Q_OBJECT
     Q_PROPERTY(CgiWorkbooks *workbooks READ workbooks CONSTANT)
 public:
-    /// `factory` and `batches` must outlive this object. `surroundings` gives the transport, the folder and
-    /// the clock; its functions are called on the threads of the batches. Its other members are replaced.
+    /// `factory` and `batches` must outlive this object. `surroundings` gives the transport, the folder of
+    /// received files and the clock; its functions are called on the threads of the batches. Its other
+    /// members are replaced.
     CgiBatches(CDeviceFactory &factory, Batches &batches, CgiSurroundings surroundings,
                QObject *parent = nullptr);
 
@@ -28,8 +29,8 @@ public:
     ///
     /// The rows get the command as "url" when the batch has started. They get "result" at the end of their
     /// devices: the start of the response (up to 4,000 characters), "Error:" and the reason, or the text for
-    /// "not done". Returns the batch, or null as Batches::start() does; then no row is changed. QML does not
-    /// own the batch.
+    /// "not done". Returns the batch, or null after Batches::refused() if it was not started; then no row is
+    /// changed. QML does not own the batch.
     Q_INVOKABLE Batch *send(const QString &title, const QStringList &identities, const QString &command);
 
     /// The complete response of the row with this identity, whose "result" is `result`. Responses are kept up

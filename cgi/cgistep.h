@@ -13,8 +13,8 @@ struct CgiCommand
     QString ipport; ///< "address:port" of the login, not of the web service
 };
 
-/// The result of a step whose login succeeded and whose command failed or could not be sent. It differs from
-/// the results of a login and from 999, a configuration that a device refused.
+/// The result of a step whose login check did not prevent the command, and whose command failed or could not
+/// be sent. It differs from the results of a login and from 999, a configuration that a device refused.
 inline constexpr int commandFailed = 998;
 
 /// Receives the text of CgiProcedure::exchange(): the complete response, or "Error:" and the reason. Called

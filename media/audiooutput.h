@@ -16,8 +16,8 @@ class QObject;
 
 /// The audio of one live stream: buffers decoded samples on the decoder's thread and writes them to the
 /// system's default output on the main thread. Samples are 16-bit mono, as DecodedFrameType::Sound. Functions
-/// are called on the thread that created the object unless stated otherwise. An output is open from the first
-/// reopen() on.
+/// are called on the thread that created the object unless stated otherwise. No output is open before the
+/// first reopen().
 class AudioOutput
 {
 public:

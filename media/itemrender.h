@@ -13,8 +13,8 @@
 class ItemRender : public QQuickFramebufferObject::Renderer
 {
 public:
-    /// Copies the geometry and uploads the current frame if it is a further one. Reports a change of the
-    /// drawing error by a queued call of DrawnVideo::setDrawingError(). `item` must be a DrawnVideo.
+    /// Copies the geometry and uploads the current frame if that was not uploaded before. Reports a change of
+    /// the drawing error by a queued call of DrawnVideo::setDrawingError(). `item` must be a DrawnVideo.
     void synchronize(QQuickFramebufferObject *item) override;
 
     /// Draws the uploaded frame; transparent without a complete frame and after a drawing error.

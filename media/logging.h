@@ -2,5 +2,5 @@
 
 #include <QLoggingCategory>
 
-/// The log lines of live views and snapshots.
+/// The log category "configtools.media" of live views and snapshots.
 Q_DECLARE_LOGGING_CATEGORY(logMedia)

@@ -29,8 +29,9 @@ struct SnapTask
     QString folder; ///< absolute path of the device's folder, which is created if it is missing
     std::function<bool()> isDeviceCurrent; ///< whether sessionHandle() is still a session with the device
     std::function<qint64()> sessionHandle; ///< the present session; a new login changes it
-    std::function<QList<SnapChannel>()> channels; ///< the requested channels; may block; SnapThread only
-    int tries = snapTries;                        ///< number of attempts to save a frame, for each channel
+    /// The requested channels; may block. SnapThread calls it; takeSnapshot() does not.
+    std::function<QList<SnapChannel>()> channels;
+    int tries = snapTries; ///< number of attempts to save a frame, for each channel
 };
 
 enum class SnapProblem

@@ -125,7 +125,7 @@ Q_SIGNALS:
     void videoInfoChangedSig(); ///< frameSize() or hasFrame() has changed
     void fillModeChanged();
     void channelIdChanged();
-    void videoErrorSig(); ///< as VideoStream::framesMissing()
+    void videoErrorSig(); ///< no frame for 8 s since the start, or for 4 s since the last one
     void urlChanged();
     void sigVideoDataChanged(); ///< emitted on the decoder's thread: a frame has arrived
     /// Emitted on the decoder's thread, with the audio buffer locked: audio has arrived. A connection must be
@@ -137,7 +137,9 @@ Q_SIGNALS:
     void zoomLevelChanged();
     void isStreamingChanged();
     void problemTextChanged();
-    /// As VideoStream::startEnded().
+    /// The end of startInBackground(). `isStreaming` is its result: false on failure, with the reason in
+    /// `text`. `mayTryOther`: the start has failed for this stream only, so that a request for the other
+    /// stream of the channel may succeed.
     void startEnded(bool isStreaming, bool mayTryOther);
     void sessionChanged();
 

@@ -59,7 +59,7 @@ public:
     /// successful start; empty otherwise.
     [[nodiscard]] QString text() const { return m_text; }
 
-    /// As CDHDecoder::figures().
+    /// Codecs and statistics of the stream; empty strings and 0 while no stream is decoded.
     [[nodiscard]] StreamFigures figures() const { return m_decoder->figures(); }
 
     /// The latest frame; incomplete before the first frame and after stop(). Any thread.
@@ -97,8 +97,8 @@ Q_SIGNALS:
     /// accepts the session, so a request for the other stream of the channel may succeed. It is also true for
     /// a failure without an error number.
     void startEnded(bool isStreaming, bool mayTryOther);
-    /// No frame has arrived for the time of StreamWatch. Emitted once for each timeout; the stream stays open
-    /// and may recover.
+    /// No frame has arrived for 8 s since the start, or for 4 s since the last frame. Emitted once for each
+    /// timeout; the stream stays open and may recover.
     void framesMissing();
 
 private:

@@ -30,8 +30,8 @@ public:
     Q_INVOKABLE void importList(const QString &title, const QString &path);
 
     /// The lines without success of a batch of importBegan(), or of its retry, as maps made by
-    /// importFailure(). The batch must be that of the latest list: the positions in earlier files are lost.
-    /// Empty if `batch` is null.
+    /// importFailure(): "line", "address", "code" and "reason". The batch must be that of the latest list:
+    /// the positions in earlier files are lost. Empty if `batch` is null.
     Q_INVOKABLE [[nodiscard]] QVariantList importFailures(Batch *batch) const;
 
     /// Starts a batch that logs in to these devices and adds their rows. `devices` are maps of "identity" (a

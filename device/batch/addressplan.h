@@ -16,9 +16,10 @@
 /// Addresses and mask are dotted IPv4 texts, which may be invalid while the user types. Lives on the main
 /// thread.
 ///
-/// "action" of a row is its new address, or "DHCP". It is empty if the row is unchecked, the device will be
-/// skipped or the start address is invalid. The additional key "issue" is an Issue: a device with NotChanged
-/// is skipped, the others are warnings. TakenByOther and TakenInBatch set the row's conflict role.
+/// "action" of a row is its new address, or "DHCP". It is empty if the row is unchecked, if the device will
+/// be skipped, and without DHCP if the start address is invalid. The additional key "issue" is an Issue: a
+/// device with NotChanged is skipped, the others are warnings. TakenByOther and TakenInBatch set the row's
+/// conflict role.
 class AddressPlan : public BatchPreview
 {
     Q_OBJECT

@@ -65,6 +65,7 @@ public:
     [[nodiscard]] const QString &title() const { return m_title; }
     /// The numbers of devices that have succeeded, failed and so on, as a text in the user's language.
     [[nodiscard]] QString summary() const;
+    /// The number of devices of the batch.
     [[nodiscard]] int total() const { return static_cast<int>(m_entries.size()); }
     /// The number of devices with an outcome: succeeded, failed, skipped or waiting.
     [[nodiscard]] int done() const { return m_done; }
@@ -73,10 +74,11 @@ public:
     /// Sets the progress (0 to 1) of all devices together, for batches with long steps.
     void noteProgress(double progress);
 
-    /// Address and port of a device with a running step, or its name if it has no address; empty if no step
-    /// runs.
+    /// BatchDevice::ipport of the device whose running step started first (":port" without an address), or
+    /// its name if that is empty; empty if no step runs.
     [[nodiscard]] QString device() const;
     [[nodiscard]] bool isRunning() const { return m_isRunning; }
+    /// Whether the batch runs and stop() was called.
     [[nodiscard]] bool isStopping() const { return m_isRunning && m_isStopping; }
 
     /// Whether no further step starts because refusalsInARow() was reached, until resume() or stop(). Steps
@@ -97,6 +99,7 @@ public:
     /// Estimated remaining seconds. -1 if the batch does not run, in its first two seconds, without progress,
     /// and when the estimate has passed without further progress.
     [[nodiscard]] int secondsLeft() const;
+    /// The results and their numbers by state. Owned by this object.
     [[nodiscard]] BatchReport *report() { return &m_report; }
     /// Whether the batch changes addresses, so that Batches::putAddressesBack() can revert it after its end.
     [[nodiscard]] bool changesAddresses() const { return !m_plan.addressesBefore.isEmpty(); }
@@ -104,6 +107,7 @@ public:
     [[nodiscard]] const QDateTime &began() const { return m_began; }
     /// Invalid until the end of the batch.
     [[nodiscard]] const QDateTime &ended() const { return m_ended; }
+    /// The devices with their results, in the order of the plan.
     [[nodiscard]] const QList<Entry> &entries() const { return m_entries; }
     [[nodiscard]] const BatchPlan &plan() const { return m_plan; }
 
@@ -163,13 +167,13 @@ public:
     Q_INVOKABLE [[nodiscard]] bool canRetry(const QString &identity) const;
 
     /// The text of the outcome (StepOutcome::text) of the device with this name, from this batch or, if the
-    /// device is not in it, from the one that it retries; empty if there is none.
+    /// device is not in it, from the latest of the batches that it retries; empty if there is none.
     Q_INVOKABLE [[nodiscard]] QString textOf(const QString &device) const;
     /// Same for several devices, in the same order.
     Q_INVOKABLE [[nodiscard]] QStringList textsOf(const QStringList &devices) const;
 
     /// Maps of "device" and "message" for those of the devices with these names that are in this batch or in
-    /// the one that it retries. "message" is the text of the outcome, or resultName() if that is empty.
+    /// the batches that it retries. "message" is the text of the outcome, or resultName() if that is empty.
     Q_INVOKABLE [[nodiscard]] QVariantList messagesOf(const QStringList &devices) const;
 
     /// The names of the devices that have succeeded until now, in the order of their results, without the

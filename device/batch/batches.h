@@ -13,8 +13,8 @@ class CDeviceFactory;
 class DeviceStore;
 
 /// Starts batches and keeps the batches since the start of the application with their results. One batch runs
-/// at a time; starting another one is refused until it has ended. A running batch is registered in BusyState.
-/// Only the latest batch can be retried.
+/// at a time; starting another one is refused until it has ended. A running batch is registered in BusyState,
+/// so that pages refuse actions that would disturb it. Only the latest batch can be retried.
 ///
 /// Lives on the main thread.
 class Batches : public QObject
@@ -38,6 +38,7 @@ public:
 
     /// The latest batch; null before the first.
     [[nodiscard]] Batch *current() const { return m_kept.isEmpty() ? nullptr : m_kept.constLast(); }
+    /// Whether current() runs.
     [[nodiscard]] bool isRunning() const { return current() && current()->isRunning(); }
     /// Oldest first.
     [[nodiscard]] const QList<Batch *> &kept() const { return m_kept; }
@@ -140,8 +141,8 @@ public:
     Batch *start(BatchPlan plan);
 
 Q_SIGNALS:
-    void currentChanged();
-    void runningChanged();
+    void currentChanged();                ///< a batch has started, which is current() now
+    void runningChanged();                ///< a batch has started or ended
     void refused(const QString &message); ///< reason or hint in the user's language
 
     /// `again` has started as a retry of `earlier`. Emitted before the first result of `again`.

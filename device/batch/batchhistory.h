@@ -5,11 +5,11 @@
 
 #include <QPointer>
 
-/// The kept batches of Batches as table rows, newest first. Keys of a row: "identity" (a unique text),
-/// "title", "time" (of the start, "HH:mm:ss"), "counts" ("done / total" while the batch runs; after its end
-/// the succeeded and waiting devices are counted instead of the done ones), "running" (bool) and "complete"
-/// (bool: the batch has ended, and no device failed or is not done). Updates itself. Lives on the main
-/// thread.
+/// The kept batches of Batches as table rows, newest first. Keys of a row: "identity" (the time of the start
+/// with milliseconds), "title", "time" (of the start, "HH:mm:ss"), "counts" ("done / total" while the batch
+/// runs; after its end the succeeded and waiting devices are counted instead of the done ones), "running"
+/// (bool) and "complete" (bool: the batch has ended, and no device failed or is not done). Updates itself.
+/// Without a Batches object there are no rows. Lives on the main thread.
 class BatchHistory : public DialogRows
 {
     Q_OBJECT

@@ -53,14 +53,14 @@ public:
     Q_INVOKABLE void setDevices(const QVariantList &rows);
 
     /// Sets the devices with these addresses and ports, all of them checked. An address without a row of the
-    /// list is a device without other values.
+    /// list is a device without other values and without an identity.
     Q_INVOKABLE void setAddresses(const QStringList &ipports);
 
     /// Sets the devices and their actions, all of them checked. Each entry is a map of "name", "ipport" and
     /// "action" and, optionally, "title" (put before the title of the device), "mac" (of a device without a
     /// row), "hindrance" (reason to skip the device, in the user's language) and "newAddress" (the address
     /// that the device gets, for warnings). "name" becomes the identity, which checkedIdentities() returns.
-    /// The row of the device is the one with this name, otherwise the one at "ipport".
+    /// The row of the device in the device list is the one with this name, otherwise the one at "ipport".
     Q_INVOKABLE void setEntries(const QVariantList &entries);
 
     // "ipport" of the checked rows, and of the others, in row order.

@@ -6,12 +6,12 @@
 #include <QPointer>
 #include <QTimer>
 
-/// The devices of a batch as table rows, ordered by state and then as in the batch. Keys of a row: "identity"
-/// (its index in the batch, as text; not the name of a device row), "device" (address and port), "mac" (empty
-/// if unknown), "name" (name and model in one text), "result" (text in the user's language; empty in the
-/// state ToCome), "time" of the result ("HH:mm:ss"; empty without one) and "state" (a State). The rows are
-/// built again 250 ms after a result, and at the end of the batch. Without a batch, or after its deletion,
-/// there are no rows. Lives on the main thread.
+/// The devices of a batch as table rows, ordered by state (see State) and then as in the batch. Keys of a
+/// row: "identity" (its index in the batch, as text; not the name of a device row), "device" (address and
+/// port), "mac" (empty if unknown), "name" (name and model in one text), "result" (text in the user's
+/// language; empty in the state ToCome), "time" of the result ("HH:mm:ss"; empty without one) and "state" (a
+/// State). The rows are built again 250 ms after a result, and at the end of the batch. Without a batch, or
+/// after its deletion, there are no rows. Lives on the main thread.
 class BatchResultModel : public DialogRows
 {
     Q_OBJECT
@@ -21,12 +21,12 @@ public:
     /// State of a device, in the order of the rows.
     enum State
     {
-        Failed,  ///< any other result
-        NotDone, ///< the batch has ended without a result of the device
+        Failed,  ///< a result that belongs to no other state
+        NotDone, ///< the batch has ended; the step of the device was not run or was ended early
         Skipped, ///< no request was sent because of the device's state
         Waiting, ///< the first step of the work has succeeded; the user must start a further one
         Succeeded,
-        ToCome, ///< no result yet, and the batch runs
+        ToCome, ///< as NotDone while the batch runs: usually there is no result yet
     };
     Q_ENUM(State)
 

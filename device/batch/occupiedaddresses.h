@@ -36,7 +36,8 @@ public:
         }
     }
 
-    /// A device other than `identity` that still has `address`; nullopt if there is none.
+    /// A device other than `identity` that still has `address`; nullopt if there is none or `address` is
+    /// empty.
     [[nodiscard]] std::optional<Holder> holderOf(const QString &address, const QString &identity) const
     {
         const auto [begin, end] = m_devices.equal_range(address);

@@ -40,7 +40,7 @@ public:
     Q_INVOKABLE Batch *startDocument(const QString &title, const QString &path, const QStringList &lines);
 
 Q_SIGNALS:
-    void lastChanged();
+    void lastChanged(); ///< an upgrade batch has started, also as a retry
 
     /// Upgrades have changed these rows of the list. Emitted at the start of a batch, up to four times a
     /// second while devices are upgraded, and at the end.

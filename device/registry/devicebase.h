@@ -35,8 +35,9 @@ struct ImportSummary
 /// names. `newip`, `newsubmask` and `newgateway` are dotted IPv4 texts. "Blocks" means: until the device
 /// responds or the timeouts of the network library have passed.
 ///
-/// Rows: a row is a JSON object or map with the keys of DeviceRowKey. The current session is the one login
-/// that the back end keeps for the configuration pages.
+/// Rows: a row is a JSON object or map with the keys of DeviceRowKey. Its search record is the last search
+/// response of its device. The current session is the one login that the back end keeps for the configuration
+/// pages.
 class CDeviceBase : public QObject
 {
     Q_OBJECT
@@ -46,8 +47,8 @@ public:
     // The order of the virtual operations is part of the interface, since back ends may be compiled
     // separately. New operations are added at the end.
 
-    /// Removes the rows, except those of DeviceStore::setKept(), and searches for devices. Returns
-    /// immediately; signalCDeviceSearchDone reports the end.
+    /// Removes the rows, except those of devices with failed operations (DeviceStore::setKept()), and
+    /// searches for devices. Returns immediately; signalCDeviceSearchDone reports the end.
     virtual void startSearch() {}
     /// Sets the range that the next startSearch() searches; later searches have no range unless it is set
     /// again. Addresses in host byte order; 0 in either for no range.

@@ -22,7 +22,7 @@ struct DeviceToAdd
 /// nothing is checked. A missing value is empty, 0 or false.
 [[nodiscard]] DeviceToAdd deviceToAdd(const QVariantMap &values);
 
-/// Names a line of a device list to the user.
+/// The position of a line of a device list, for messages to the user.
 struct ImportPosition
 {
     int number = 0;  ///< line number in the file, from 1

@@ -39,7 +39,8 @@ public:
     ///  - "unreadItems" and "unreadIndexes": names and indexes of the items that the device has but that
     ///    were not read
     ///
-    /// Indexes are those of writeEncodeItems().
+    /// Indexes 0 to 3 are video format, video profile, audio compression and audio format of the main stream,
+    /// 4 to 7 those of the sub stream.
     [[nodiscard]] QVariant value(const QString &key, const ChannelChoice &channels) const;
 
     /// Result of a write.
@@ -65,7 +66,7 @@ public:
     /// The state of the channel, with changes that confirm() has not written; nullopt if it was not read.
     [[nodiscard]] const std::optional<EncodeState> &state() const { return m_state; }
 
-    /// Names of the items in the user's language, by the indexes of writeEncodeItems().
+    /// Names of the eight items in the user's language, by the indexes stated at value().
     [[nodiscard]] static QStringList itemNames();
 
 private:

@@ -40,8 +40,8 @@ struct EncodeState
         return capabilities.blocks[static_cast<std::size_t>(sdk::StreamKind::Sub)];
     }
 
-    /// Indexes (see writeEncodeItems()) of the items that were not read, also of those that the device does
-    /// not have.
+    /// Indexes (0 to 7, see writeEncodeItems()) of the items that were not read, also of those that the
+    /// device does not have.
     [[nodiscard]] QList<int> unreadItems() const;
 
     /// Indexes of the items that the device does not have, for this kind of main stream.

@@ -13,9 +13,10 @@
 class DeviceLogins;
 class DeviceStore;
 
-/// Sends requests to devices that a search has found, using their search records. Writes the result of each,
-/// a LoginResult, to "res" of the row `mac`. Functions that return a StepOutcome also return it. Lives on
-/// the main thread; its steps run on any thread.
+/// Sends requests to devices that a search has found, using their search records (the stored search
+/// responses, see DeviceStore::record()). Writes the result of each, a LoginResult, to "res" of the row
+/// `mac`. Functions that return a StepOutcome also return it. Lives on the main thread; its steps run on any
+/// thread.
 class FoundDevices
 {
     Q_DECLARE_TR_FUNCTIONS(FoundDevices)
