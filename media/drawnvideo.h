@@ -10,9 +10,9 @@
 class DrawnVideo
 {
 public:
-    [[nodiscard]] virtual const ViewGeometry &geometry() const = 0;
-    [[nodiscard]] virtual FrameFill frameFill() const = 0;
-    [[nodiscard]] virtual CurrentFrame &currentFrame() = 0;
+    [[nodiscard]] virtual const ViewGeometry &geometry() const = 0; ///< zoom and pan
+    [[nodiscard]] virtual FrameFill frameFill() const = 0;          ///< how a frame fills the item
+    [[nodiscard]] virtual CurrentFrame &currentFrame() = 0;         ///< the latest decoded frame
     /// The error of the last setDrawingError(); None before the first one.
     [[nodiscard]] virtual DrawingError drawingError() const = 0;
     /// Called on the main thread when the error differs from drawingError(). None: the frame is drawn again,

@@ -27,9 +27,11 @@ struct AddressSettings
 /// A device of a batch.
 struct BatchDevice
 {
-    QString name;             ///< unique in the batch; the page's name: address and port, MAC, or other text
-    QString identity;         ///< name of its row, see rowName(); without a row, `name`
-    QString ipport;           ///< address and port at the start of the batch; ":port" without an address
+    QString name;     ///< unique in the batch; the page's name: address and port, MAC, or other text
+    QString identity; ///< name of its row, see rowName(); without a row, `name`
+    /// Address and port at the start of the batch; ":port" without an address. Of a line of an imported list
+    /// the address only.
+    QString ipport;
     QString title;            ///< deviceTitle(): name and model, shown to the user
     QString login = {};       ///< see BatchItem::login
     QString key = {};         ///< see workKey(); set at the start of the batch

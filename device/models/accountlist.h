@@ -26,7 +26,8 @@ class CDeviceFactory;
 class AccountList : public DialogRows
 {
     Q_OBJECT
-    /// See AccountStore::problem().
+    /// Why the file of the accounts could not be read, in the user's language; empty if it was, and after a
+    /// successful change.
     Q_PROPERTY(QString problem READ problem NOTIFY changed)
     Q_PROPERTY(int count READ rowCount NOTIFY changed)
     /// The names of the stored accounts that were assigned to no device at the last load().
@@ -62,9 +63,10 @@ public:
     /// Reads the store and the default account again.
     Q_INVOKABLE void load();
 
-    /// Changes the account with the name `before`, or adds an account if there is none with that name.
-    /// `name` is the new name, and `account` the user name. The devices of a changed account keep it. An
-    /// empty password keeps the password of a changed account. See AccountStore::put() for the errors.
+    /// Changes the account with the name `before`, or adds an account if there is none with that name. `name`
+    /// is the new name, and `account` the user name. The devices of a changed account keep it. An empty
+    /// password keeps the password of a changed account. Error if another account has the new name, or if
+    /// name, user name or password is empty or too long.
     Q_INVOKABLE QString put(const QString &before, const QString &name, const QString &account,
                             const QString &password);
     /// Removes an account. Its devices use the default account from then on. Success if there is no account

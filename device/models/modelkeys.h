@@ -13,7 +13,7 @@ inline constexpr QLatin1StringView changed("changed"); ///< bool: differs from t
 
 // DeviceTableModel: the marks of the device, see FailedMarks.
 
-/// Lines with the results of its marks, and one if the last search did not find the device, in the user's
+/// Lines with the results of its marks, and a line if the last search did not find the device, in the user's
 /// language. Empty for neither.
 inline constexpr QLatin1StringView failure("failure");
 inline constexpr QLatin1StringView onlyNotDone("onlyNotDone"); ///< bool: no batch has failed with the device

@@ -22,8 +22,9 @@ class DeviceDetail
 {
     Q_DECLARE_TR_FUNCTIONS(DeviceDetail)
 public:
-    /// The lines of a map with the values of CDeviceFactory::getDeviceDetail(), of readDeviceDetail(), or of
-    /// both. The lines of a group follow each other. Unknown values and passwords have no line.
+    /// The lines of a map with the keys of DeviceRowKey and DeviceDetailKey: the values of
+    /// CDeviceFactory::getDeviceDetail(), of readDeviceDetail(), or of both. The lines of a group follow each
+    /// other. Unknown values and passwords have no line.
     [[nodiscard]] static QList<DeviceDetailLine> linesOf(const QVariantMap &detail);
 
     /// The lines as one string: for each group a line with its name, then its lines. An empty line separates

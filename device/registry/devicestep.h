@@ -59,8 +59,8 @@ public:
             m_deadline = m_clock->now() + m_limit.count();
     }
 
-    /// Called by a step that from now on only waits for its device. It no longer counts towards
-    /// BatchPolicy::maximumParallel.
+    /// Called by a step that from now on only waits for its device. It no longer counts towards the maximum
+    /// number of parallel steps of its batch (BatchPolicy::maximumParallel).
     void releaseSlot() const
     {
         if (m_releaseSlot)

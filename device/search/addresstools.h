@@ -12,7 +12,7 @@ public:
     {
         NoFault = 0,
         BeginAboveEnd = 1,
-        TooManySegments = 2,
+        TooManySegments = 2, ///< octet 1 or 2 of the bounds differs, or octets 3 differ by more than 16
         BeginIsNoAddress = 3,
         EndIsNoAddress = 4,
     };
@@ -54,6 +54,7 @@ public:
     /// An IPv4 address without leading zeros in its octets. Any other text is returned unchanged.
     Q_INVOKABLE [[nodiscard]] QString plainAddress(const QString &text) const;
 
-    /// Checks the bounds of a search range, see searchRangeError() in searchrange.h.
+    /// The first error of a search range of two dotted IPv4 addresses: an invalid begin, an invalid end, the
+    /// wrong order, or too many segments. NoFault if there is none.
     Q_INVOKABLE [[nodiscard]] RangeError searchRangeError(const QString &begin, const QString &end) const;
 };

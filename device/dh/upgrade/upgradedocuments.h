@@ -55,7 +55,8 @@ public:
 
     // Functions for the lines of the document added last, before the next update():
 
-    /// Tracks the upgrade of this line. `key` is UpgradeOrder::key; it must be unique in the document.
+    /// Tracks the upgrade of this line. `key` is UpgradeOrder::key: the name of the row, or address and port
+    /// without a row; it must be unique in the document.
     void follow(const QString &key, const UpgradeDocumentLine &line);
 
     /// Sets the result of a line that is not upgraded; it counts as failed. `row` is its row in the sheet.

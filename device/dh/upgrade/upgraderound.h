@@ -16,9 +16,9 @@
 
 class DeviceStore;
 
-/// Owns the upgrade runner and the upgrade documents. Writes the progress of upgrades to rows and documents
-/// and emits the upgrade signals of the back end. Lives on the main thread; functions for other threads say
-/// so.
+/// Owns the upgrade runner and the upgrade documents. A round is all upgrades from the start of the first one
+/// until no upgrade is waiting or running. Writes the progress of upgrades to rows and documents and emits
+/// the upgrade signals of the back end. Lives on the main thread; functions for other threads say so.
 class UpgradeRound
 {
 public:
@@ -56,10 +56,11 @@ public:
     /// of the round later if no upgrade runs, since all lines were refused.
     void noteDocumentsBegun();
 
-    /// See UpgradeRunner::requestEnd().
+    /// Starts no further upgrades, ends the waiting ones and requests the end of the running ones. Does not
+    /// wait.
     void requestEnd() { m_runner->requestEnd(); }
 
-    /// See UpgradeRunner::end().
+    /// requestEnd(), then waits up to half a second for the running upgrades.
     void end() { m_runner->end(); }
 
     /// Blocks until no document is being written.
@@ -72,7 +73,7 @@ private:
     void noteSchedule();
     /// Reports the end of the round, unless upgrades are running or documents are open.
     void noteEnd();
-    /// See UpgradeDocuments::Writer.
+    /// Runs `write` on the thread of m_documentFiles, then `written` on the main thread.
     void writeDocument(const std::function<void()> &write, const std::function<void()> &written);
 
     const std::shared_ptr<DeviceStore> m_store;
