@@ -1,4 +1,5 @@
-// Reading and writing the fixed-size string fields of blocks.
+// Reading and writing the fixed-size string fields of blocks: the structs that are passed to and from device
+// libraries.
 #pragma once
 
 #include <array>

@@ -1,5 +1,5 @@
-// Admits calls to a library while the library is open. Closing the library waits until the last call has
-// ended.
+// Admits the calls of a device library's operations while the library is initialised. Closing the library
+// waits until the last call has ended.
 #pragma once
 
 #include <condition_variable>
@@ -26,7 +26,8 @@ public:
         /// failure without any other effect; close() waits for such a call, too.
         [[nodiscard]] bool isAllowed() const { return m_isAllowed; }
 
-        /// Stopped when the gate is closed during the call. The operation then ends its waits.
+        /// Stopped when the gate is closed during the call. The operation then ends its waits. Not to be used
+        /// by a refused call.
         [[nodiscard]] const std::stop_token &stop() const { return m_stop; }
 
     private:

@@ -11,7 +11,8 @@ namespace sdk {
 /// a stop is requested, or when the caller's time is over. Other operations may ignore the object.
 ///
 /// - A request that changes the device is completed if it is already sent.
-/// - Any other request ends within a fraction of a second after a stop. The end of the time need not end it.
+/// - Any other request ends within a fraction of a second after a stop. When the time is over, it may
+///   continue until its own timeout.
 /// - The wait for the device at its new address ends after a stop, and when the time is over.
 ///
 /// A thread has at most one object at a time, and destroys it itself.

@@ -1,9 +1,10 @@
-// Blocks of the image configuration: the items of a video input, and the capabilities of its camera.
+// Blocks of the image configuration: the items of a video input, and the capabilities of its camera. An item
+// is a group of settings that is read and written as one block, by its number (NetGetItem, NetSetItem).
 //
 // Every number is a little-endian word of 32 bits. The caller sets the word "size" of an item to the size of
 // its struct, and the word "mode", if the item has one, to a CameraMode: before reading, to select the
-// settings of that mode, and before writing. A level without a stated range has the range in
-// CameraCapabilities.
+// settings of that mode, and before writing. A level without a stated range has the range of the same name in
+// CameraCapabilities. Words named "reserved" are not used.
 #pragma once
 
 #include <array>
@@ -82,7 +83,7 @@ struct MirrorItem
     std::uint32_t size;
     std::int32_t mode;
     std::int32_t mirror; ///< 0 or 1
-    std::int32_t rotate; ///< 0 normal, 1 and 2 the corridor modes, 3 upside down
+    std::int32_t rotate; ///< 0 normal, 1 and 2 the corridor modes (upright images), 3 upside down
     std::int32_t reserved;
 };
 static_assert(sizeof(MirrorItem) == 20);
@@ -101,14 +102,14 @@ struct ExposureItem
 {
     std::uint32_t size;
     std::int32_t mode;
-    std::int32_t antiFlicker; ///< 0 outdoors, 1 50 Hz, 2 60 Hz
-    std::int32_t exposure;    ///< 0 automatic, 1 manual, 2 gain priority, 3 shutter priority
-    float shortestShutter;    ///< in milliseconds
-    float longestShutter;     ///< in milliseconds
-    std::int32_t gain;        ///< with a fixed gain; range CameraCapabilities::gain
-    std::int32_t gainMinimum; ///< of an automatic gain; the same range
-    std::int32_t gainMaximum; ///< of an automatic gain; the same range
-    std::int32_t compensation;
+    std::int32_t antiFlicker;   ///< 0 outdoors, 1 50 Hz, 2 60 Hz
+    std::int32_t exposure;      ///< 0 automatic, 1 manual, 2 gain priority, 3 shutter priority
+    float shortestShutter;      ///< in milliseconds
+    float longestShutter;       ///< in milliseconds
+    std::int32_t gain;          ///< with a fixed gain; range CameraCapabilities::gain
+    std::int32_t gainMinimum;   ///< of an automatic gain; the same range
+    std::int32_t gainMaximum;   ///< of an automatic gain; the same range
+    std::int32_t compensation;  ///< level of the exposure compensation
     std::int32_t irisAutomatic; ///< 0 or 1
     std::array<std::int32_t, 5> reserved;
 };
@@ -130,7 +131,8 @@ struct BackLightItem
 {
     std::uint32_t size;
     std::int32_t mode;
-    std::int32_t backMode;        ///< 0 off, 1 backlight, 2 wide dynamic range, 3 strong light
+    std::int32_t backMode;        ///< 0 off, 1 backlight compensation, 2 wide dynamic range, 3 reduction of
+                                  ///< strong light
     std::int32_t backLightMode;   ///< of backlight compensation: 0 complete image, 1 the region
     std::int32_t wideDynamic;     ///< level of the wide dynamic range
     std::int32_t glareInhibition; ///< level of the reduction of strong light
@@ -227,7 +229,8 @@ struct LightingRecord
 };
 static_assert(sizeof(LightingRecord) == 512);
 
-/// Groups of settings, each with the item of the same name. Bit numbers of CameraCapabilities::groups.
+/// Groups of settings, each with the CameraItem of the same name (Exposure also with NoiseReduction). A
+/// camera that lacks a group does not have its items. Bit numbers of CameraCapabilities::groups.
 enum class CameraGroup : std::uint32_t
 {
     Picture = 0,

@@ -13,7 +13,8 @@ struct DeviceCertificate
     std::uint32_t size;               ///< sizeof(DeviceCertificate)
     std::int32_t port;                ///< of the TLS connection
     std::array<char, 64> address;     ///< of the TLS connection
-    std::array<char, 64> identity;    ///< the device's MAC, else its UUID; empty if the search knows neither
+    std::array<char, 64> identity;    ///< MAC of the device, or its UUID if a search found no MAC; empty if
+                                      ///< neither is known
     std::array<char, 96> fingerprint; ///< SHA-256 of the public key: "AB:CD:..." of 32 bytes
     std::array<char, 128> subject;    ///< common name; chosen by the device, so no proof of its identity
     std::array<char, 32> validFrom;   ///< "2026-11-26 13:30:00" UTC; empty if unreadable

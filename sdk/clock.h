@@ -19,11 +19,12 @@ public:
     [[nodiscard]] virtual std::int64_t now() const = 0;
 
     /// Blocks the calling thread until `duration` has passed on this clock, and returns true. A duration of 0
-    /// or less does not block. Returns false immediately when a stop is requested, also before the call.
+    /// or less does not block. Returns false, without a further wait, when a stop is requested; also if it
+    /// was requested before the call.
     virtual bool wait(std::chrono::milliseconds duration, const std::stop_token &stop) = 0;
 
-    /// As wait(), until now() has reached `time`. A clock that can be stepped overrides this function: in
-    /// this implementation, a step between now() and wait() would be lost.
+    /// As wait(), until now() has reached `time`, in milliseconds since 1970. A clock that can be stepped
+    /// overrides this function: in this implementation, a step between now() and wait() would be lost.
     virtual bool waitUntil(std::int64_t time, const std::stop_token &stop)
     {
         return wait(std::chrono::milliseconds(time - now()), stop);

@@ -1,5 +1,6 @@
-// Records of the configurations "Network", "DVRIP" and "Https" of a device. Strings end with a zero. The word
-// "size" is the size of the struct.
+// Records of the configurations "Network", "DVRIP" and "Https" of a device. A record is the struct that the
+// configuration library fills from a configuration text. Strings end with a zero. The word "size" is the size
+// of the struct.
 #pragma once
 
 #include <array>
@@ -13,9 +14,9 @@ struct NetworkRecord
     std::uint32_t size;
     std::int32_t dhcpEnabled; ///< 0 or 1
     std::array<char, 64> hostName;
-    std::array<char, 40> mac;        ///< "02:1a:c5:00:40:17"
-    std::array<char, 64> address;    ///< IPv4; IPv6 for a device without IPv4
-    std::array<char, 64> subnetMask; ///< dotted mask, or the prefix length of an IPv6 address
+    std::array<char, 40> mac;        ///< "02:1a:c5:00:40:17"; empty if not reported
+    std::array<char, 64> address;    ///< IPv4; for a device without IPv4, IPv6 or empty
+    std::array<char, 64> subnetMask; ///< dotted mask, or the prefix length of an IPv6 address; may be empty
     std::array<char, 64> gateway;    ///< empty if there is none
     std::array<std::uint8_t, 16> reserved;
 };
@@ -25,8 +26,8 @@ static_assert(sizeof(NetworkRecord) == 320);
 struct ServiceRecord
 {
     std::uint32_t size;
-    std::int32_t tcpPort;
-    std::int32_t maximumConnections; ///< at the same time
+    std::int32_t tcpPort;            ///< of the service, as for NetLogin
+    std::int32_t maximumConnections; ///< at the same time; 0 if not reported
     std::array<std::uint8_t, 20> reserved;
 };
 static_assert(sizeof(ServiceRecord) == 32);

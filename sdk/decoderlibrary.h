@@ -30,6 +30,7 @@ enum class FrameColour : std::int32_t
     return height >= 720 ? FrameColour::Bt709Limited : FrameColour::Bt601Limited;
 }
 
+/// Describes a decoded frame or a chunk of sound.
 struct DecodedFrameInformation
 {
     std::int32_t width;  ///< in pixels, 0 for sound
@@ -37,7 +38,7 @@ struct DecodedFrameInformation
     std::int32_t reserved;
     DecodedFrameType type;
     std::int32_t rate;  ///< frames per second, 0 if not reported by the stream; samples per second for sound
-    FrameColour colour; ///< of a frame
+    FrameColour colour; ///< of a frame; without a meaning for sound
 };
 static_assert(sizeof(DecodedFrameInformation) == 24);
 static_assert(offsetof(DecodedFrameInformation, type) == 12);
@@ -56,14 +57,15 @@ enum class SavedImageType : std::int32_t
     Jpeg = 3,
 };
 
-/// Filled by DecoderGetStatus. The counters start with DecoderOpenStream.
+/// Filled by DecoderGetStatus. DecoderOpenStream clears it: the counters start with 0.
 struct DecoderStatus
 {
     std::array<char, 16> videoCodec; ///< "H.264", "H.265", "MJPEG"; empty until it is known
     std::array<char, 16> audioCodec; ///< "AAC", "G.711A", "G.711Mu", "PCM"; empty without sound
     std::uint32_t waitingBytes;      ///< received and not yet decoded
-    std::uint32_t damages;           ///< number of packets that could not be decoded
-    std::uint32_t skippedFrames;     ///< frames that were dropped because they were too late
+    std::uint32_t damages;           ///< number of damaged parts: packets that could not be decoded, bytes
+                                     ///< that belong to no stream
+    std::uint32_t skippedFrames;     ///< frames of video that were dropped because they were too late
 };
 static_assert(sizeof(DecoderStatus) == 44);
 
@@ -85,7 +87,7 @@ public:
 
     /// To be called before DecoderPlay. `mode` 0 is a real-time stream: frames and sound are delivered as
     /// they arrive, and dropped when they are too late. Returns false for any other mode. Without this call
-    /// nothing is dropped.
+    /// nothing is dropped. The mode stays set until the port is freed.
     virtual bool DecoderSetStreamMode(std::int32_t port, std::uint32_t mode) = 0;
 
     /// Opens the port for data. `header` of `headerSize` bytes is the header of the stream, and is copied;
@@ -108,8 +110,8 @@ public:
     /// all of them.
     virtual bool DecoderInputData(std::int32_t port, const std::uint8_t *data, std::uint32_t size) = 0;
 
-    /// Ends decoding; the buffered data remain. No handler of the port runs after the return. Returns false
-    /// for a port that is not playing.
+    /// Ends decoding; the buffered data remain. A further DecoderPlay skips them up to the next header of a
+    /// stream. No handler of the port runs after the return. Returns false for a port that is not playing.
     virtual bool DecoderStop(std::int32_t port) = 0;
 
     /// Ends decoding, as DecoderStop, and discards the buffered data. The port accepts no data until
@@ -120,14 +122,16 @@ public:
     /// be allocated again.
     virtual bool DecoderFreePort(std::int32_t port) = 0;
 
-    /// Fills `status`. May be called at any time between DecoderAllocPort and DecoderFreePort.
+    /// Fills `status`. May be called at any time between DecoderAllocPort and DecoderFreePort. Before
+    /// DecoderOpenStream the status is empty; after DecoderCloseStream it is the last one.
     virtual bool DecoderGetStatus(std::int32_t port, DecoderStatus &status) = 0;
 
     /// Encodes a frame (its bytes as DecodedFrameType::Video, `width` and `height` in pixels) as an image and
     /// writes it to a file. `fileName` is in the local 8-bit encoding. An existing file is replaced.
     /// `quality` is 1 to 100. `colour` is DecodedFrameInformation::colour of the frame. Needs no port, and
     /// blocks until the file is written. Returns false, with an existing file unchanged, for a null frame,
-    /// for a width, height or quality out of range, and when the file cannot be written.
+    /// for a quality out of range, for a width or height of 0 or beyond the limit of the implementation, and
+    /// when the file cannot be written.
     virtual bool DecoderSaveFrame(const std::uint8_t *frame, std::int32_t width, std::int32_t height,
                                   SavedImageType type, std::int32_t quality, const char *fileName,
                                   FrameColour colour) = 0;

@@ -14,10 +14,10 @@ namespace sdk {
 struct InitDeviceAccountInput
 {
     std::uint32_t size;       ///< sizeof(InitDeviceAccountInput)
-    std::array<char, 40> mac; ///< of the device: "02:1a:c5:00:40:17"
+    std::array<char, 40> mac; ///< of the device: "02:1a:c5:00:40:17"; empty if its search reported none
     std::array<char, 128> account;
     std::array<char, 128> password;
-    std::uint8_t passwordResetWay; ///< SearchDeviceInformation::passwordResetWay of the device
+    std::uint8_t passwordResetWay; ///< as in its search response: bit 0 telephone, bit 1 mail
     std::array<char, 64> address;  ///< current address of the device
     std::uint16_t port;            ///< of its service, 0 if unknown
     std::array<std::uint8_t, 32> reserved;
@@ -32,8 +32,9 @@ struct DeviceRequestOutput
 static_assert(sizeof(DeviceRequestOutput) == 4);
 
 /// Given to NetModifyDeviceBySearch: the device's information from its search response, with these changes.
-/// `address`, `subnetMask`, `gateway` and `dhcpEnabled` are the new ones; `currentAddress` is the present
-/// address; `account` and `password` are those of an account that may change it.
+/// `address`, `subnetMask`, `gateway` and `dhcpEnabled` are the new ones (the first three have no effect with
+/// DHCP); `currentAddress` is the present address; `account` and `password` are those of an account that may
+/// change it.
 struct ModifyDeviceInput
 {
     std::uint32_t size; ///< sizeof(ModifyDeviceInput)

@@ -1,6 +1,8 @@
-// Blocks of the encode configuration: the items of a stream, and the capabilities of a device's encoder.
-// Numbers are little-endian words of 32 bits unless their type says otherwise. Items and capabilities have
-// different codes of audio formats: AudioCompressionItem::format and EncodeCapabilityBlock::audioFormats.
+// Blocks of the encode configuration: the items of a stream, and the capabilities of a device's encoder. An
+// item is a group of settings that is read and written as one block, by its number (NetGetItem, NetSetItem).
+// Numbers are little-endian words of 32 bits unless their type says otherwise; those named "reserved" are not
+// used. Items and capabilities have different codes of audio formats: AudioCompressionItem::format and
+// EncodeCapabilityBlock::audioFormats.
 #pragma once
 
 #include <array>
@@ -21,7 +23,7 @@ enum class StreamKind : std::int32_t
 
 inline constexpr std::size_t streamKindCount = 4;
 
-/// The value of the word "stream" of items: kinds are numbered from 1.
+/// The value of the word "stream" of items for a kind: 1 to 4.
 [[nodiscard]] constexpr std::int32_t streamNumber(StreamKind kind)
 {
     return static_cast<std::int32_t>(kind) + 1;
@@ -69,7 +71,7 @@ struct VideoProfileItem
 {
     std::int32_t size;
     std::int32_t stream;
-    std::int32_t profile; ///< of H.264, 1 to 4
+    std::int32_t profile; ///< of H.264: 1 Baseline, 2 Main, 3 Extended, 4 High
 };
 static_assert(sizeof(VideoProfileItem) == 12);
 static_assert(offsetof(VideoProfileItem, profile) == 8);
@@ -148,7 +150,7 @@ struct EncodeCapabilityBlock
     std::int32_t maximumBitRate;           ///< kbit/s, for the frame size in EncodeCapabilityInput::text
     std::int32_t maximumFrameRate;         ///< frames per second
     std::uint32_t profileCount;            ///< used entries of `profiles`
-    std::array<std::int32_t, 8> profiles;  ///< H.264 profiles, 1 to 4; entries of 0 are ignored
+    std::array<std::int32_t, 8> profiles;  ///< as VideoProfileItem::profile; entries of 0 are ignored
     std::uint32_t audioFormatCount;        ///< used entries of `audioFormats`
     /// 1 PCM, 2 G.711 A-law, 4 G.711 u-law, 5 G.726, 8 AAC; others exist.
     std::array<std::int32_t, 64> audioFormats;
@@ -192,7 +194,7 @@ struct EncodeStreamRecord
 {
     std::int32_t videoEnabled; ///< 0 or 1
     std::int32_t compression;
-    std::int32_t profile; ///< of H.264, 0 if not reported
+    std::int32_t profile; ///< as VideoProfileItem::profile; 0 if not reported
     std::int32_t width;
     std::int32_t height;
     std::int32_t bitRateControl;

@@ -1,4 +1,5 @@
-// Blocks of the login to a device, and of the queries that follow it. Strings are those of searchblocks.h.
+// Blocks of the login to a device, and of the queries that follow it. Strings are 8-bit, in the local
+// encoding. A string that fills its field does not end with a zero: use blockText() (blocktext.h) to read it.
 #pragma once
 
 #include <array>
@@ -14,16 +15,17 @@ using LLONG = std::int64_t;
 struct LoginDeviceInformation
 {
     std::array<char, 48> serialNumber;
-    std::array<char, 32> model; ///< need not end with a zero
-    std::int32_t loginKind;     ///< 0 direct, 1 through a tunnel
-    std::uint8_t deviceType;    ///< one of DeviceTypeCode, others exist
+    std::array<char, 32> model;
+    std::int32_t loginKind;  ///< 0 direct, 1 through a tunnel of the port agent
+    std::uint8_t deviceType; ///< one of DeviceTypeCode, others exist; 0 if unknown
     std::uint8_t reserved1;
     std::uint16_t channelCount; ///< number of video inputs
     std::array<std::uint8_t, 40> reserved;
 };
 static_assert(sizeof(LoginDeviceInformation) == 128);
 
-/// LoginDeviceInformation::deviceType of the types of devices that have a separate name.
+/// The known values of LoginDeviceInformation::deviceType. Both numbers of video servers have the same
+/// meaning.
 enum class DeviceTypeCode : std::uint8_t
 {
     SpeedDome = 19,
@@ -73,10 +75,10 @@ enum class QueryCommand : std::uint32_t
     NetworkServices = 91, ///< NetworkServices
 };
 
-/// Response to QueryCommand::DeviceAttributes. A string that fills its field does not end with a zero.
+/// Response to QueryCommand::DeviceAttributes. Counts are 0 if the device does not report them.
 struct DeviceAttributes
 {
-    std::uint32_t size;
+    std::uint32_t size; ///< sizeof(DeviceAttributes), set by the library
     std::array<char, 48> serialNumber;
     std::array<char, 64> softwareVersion;
     std::array<char, 32> detailModel;
@@ -91,7 +93,7 @@ static_assert(sizeof(DeviceAttributes) == 212);
 /// Response to QueryCommand::NetworkServices.
 struct NetworkServices
 {
-    std::uint32_t size;
+    std::uint32_t size;       ///< sizeof(NetworkServices), set by the library
     std::int32_t webPort;     ///< of the web page without TLS, 0 if not reported
     std::int32_t servicePort; ///< the port for a login
     std::int32_t rtspPort;    ///< 0 if not reported

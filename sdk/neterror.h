@@ -14,9 +14,9 @@ enum class NetError : std::uint32_t
     ProtocolMismatch = 0x80000003, ///< the device speaks another version of the protocol
     NotSupported =
         0x80000013, ///< the device does not support the request, or refuses it in its present state
-    UnusableFile = 0x80000017, ///< a file of the host cannot be read
-    WrongPassword = 0x80000064,
-    NoSuchAccount = 0x80000065,
+    UnusableFile = 0x80000017,           ///< a file of the host cannot be read
+    WrongPassword = 0x80000064,          ///< some devices report it for an unknown account as well
+    NoSuchAccount = 0x80000065,          ///< the device does not have the account
     AccountLoggedIn = 0x80000067,        ///< the account has a session already
     AccountLocked = 0x80000068,          ///< too many wrong passwords
     ConnectTimeout = 0x8000006B,         ///< no response from the address
@@ -35,7 +35,8 @@ enum class NetError : std::uint32_t
     ChangedCertificate = 0x800000A7, ///< the device's key differs from the stored one; nothing was sent
     Cancelled = 0x800000A8,          ///< the call was ended by NetCancelCalls or by a CallStop of the caller
     AddressInUse = 0x800000A9,       ///< another device responds at the address
-    Unconfirmed = 0x800000AA, ///< the device has accepted the request, but its effect could not be confirmed
+    Unconfirmed = 0x800000AA, ///< the device has accepted the request, or may have received it, but its
+                              ///< effect could not be confirmed
 };
 
 } // namespace sdk

@@ -1,4 +1,5 @@
 // The interface of the network library: searches, sessions, settings, live streams and upgrades of devices.
+// Blocks are structs that callers pass to it; the included headers define them.
 #pragma once
 
 #include "sdk/camerablocks.h"
@@ -62,7 +63,8 @@ public:
     virtual bool NetInit() = 0;
 
     /// Ends every search, blocked call, session, stream and upgrade, and releases the library. After the
-    /// return no handler runs, and every operation except NetInit fails. Must not be called from a handler.
+    /// return no handler runs, and every operation that needs NetInit fails until it is called again. Must
+    /// not be called from a handler.
     virtual void NetCleanup() = 0;
 
     /// The NetError, or another code, of the last failed operation of the calling thread; 0 if none has
@@ -72,10 +74,10 @@ public:
     /// Fills `information`. May be called before NetInit. Sends nothing.
     virtual void NetGetProviderInformation(ProviderInformation &information) const = 0;
 
-    /// Sets the handler that decides about the certificates of devices. With null, the default, every
-    /// certificate is refused. To be called before requests are sent. A refused certificate ends a request
-    /// with UnknownCertificate or ChangedCertificate, before the account or the password is sent. Requests
-    /// without TLS do not call the handler.
+    /// Sets the handler that decides about the certificates of devices. `user` is passed to it. With null,
+    /// the default, every certificate is refused. To be called before requests are sent. A refused
+    /// certificate ends a request with UnknownCertificate or ChangedCertificate, before the account or the
+    /// password is sent. Requests without TLS do not call the handler.
     virtual void NetSetCertificateHandler(CertificateHandler handler, void *user) = 0;
 
     /// Starts a search of the local segment and returns immediately. The search ends with
@@ -93,8 +95,8 @@ public:
     /// Sends a search to each address of `request` and blocks until `wait` has passed, NetCleanup is called
     /// or no further response is expected. Responses are passed to `handler` (not null) on threads of the
     /// library during the call, never after it. `localAddress` is the source address, "0.0.0.0" for any.
-    /// Returns true also without a response. Returns false when the request is malformed (size, count) or
-    /// could not be sent.
+    /// Returns true also without a response. Returns false when the request is malformed (size, count,
+    /// handler) or could not be sent.
     virtual bool NetSearchDevicesByIPs(const SearchByAddressesRequest &request, SearchResponseHandler handler,
                                        void *user, const char *localAddress,
                                        std::chrono::milliseconds wait) = 0;
@@ -146,12 +148,14 @@ public:
 
     /// True if the device responds and still accepts the login of the session. Sends one small request and
     /// blocks up to `wait`. On false, the error is SessionEnded if the device refuses the login or the handle
-    /// is invalid, Cancelled after NetCancelCalls, otherwise that of a device without a response.
+    /// is invalid, NetworkFailure if the device has rebooted since the login, Cancelled after NetCancelCalls,
+    /// otherwise that of a device without a response.
     virtual bool NetIsDeviceAlive(LLONG loginHandle, std::chrono::milliseconds wait) = 0;
 
-    /// Reads the block of `command` from the device into `buffer` of `bufferSize` bytes. `returnedSize` is
-    /// set to the number of filled bytes, 0 on failure. Fails, with the buffer unchanged, for a block that
-    /// does not fit. `channel` is not used. Blocks and fails otherwise as NetQueryCapabilities().
+    /// Reads the block of `command` (QueryCommand lists the blocks) from the device into `buffer` of
+    /// `bufferSize` bytes. `returnedSize` is set to the number of filled bytes, 0 on failure. Fails, with the
+    /// buffer unchanged, for a block that does not fit. `channel` is not used. Blocks and fails otherwise as
+    /// NetQueryCapabilities().
     virtual bool NetQueryConfig(LLONG loginHandle, QueryCommand command, std::int32_t channel, void *buffer,
                                 std::uint32_t bufferSize, std::uint32_t &returnedSize,
                                 std::chrono::milliseconds wait) = 0;
@@ -210,8 +214,9 @@ public:
                             std::uint32_t blockSize, std::chrono::milliseconds wait) = 0;
 
     /// Writes the configuration text `name` of a channel, -1 for the device itself. `text` has `textSize`
-    /// bytes including a terminating zero. The device applies the keys of the text and keeps its other
-    /// settings. `error` is set as by NetLogin().
+    /// bytes including a terminating zero. Callers write all keys of the configuration: depending on the
+    /// implementation, a key that the text lacks keeps its value at the device or counts as 0. `error` is set
+    /// as by NetLogin().
     virtual bool NetSetNewConfig(LLONG loginHandle, const char *name, std::int32_t channel, const char *text,
                                  std::uint32_t textSize, std::int32_t &error,
                                  std::chrono::milliseconds wait) = 0;
@@ -225,8 +230,9 @@ public:
     virtual bool NetResetSystem(LLONG loginHandle, const ResetSystemInput &input, ResetSystemOutput &output,
                                 std::chrono::milliseconds wait) = 0;
 
-    /// Changes the password of an account. If it is the account of the session, the session continues with
-    /// the new password. Other sessions of the account may end.
+    /// Changes the password of an account. Fails for an unknown account, and for a wrong old password; that
+    /// of another account than the session's need not be checked. If it is the account of the session, the
+    /// session continues with the new password. Other sessions of the account may end.
     virtual bool NetModifyPassword(LLONG loginHandle, const ModifyPasswordInput &input,
                                    std::chrono::milliseconds wait) = 0;
 
@@ -248,7 +254,8 @@ public:
 
     /// Reports to the device that its stream is displayed from now on, and asks it for a key frame. The
     /// stream then continues with a key frame, or starts again with a header and a key frame. Does not wait
-    /// for it. `channel` is that of the stream, `reserved` is 0. Returns false for an invalid handle.
+    /// for it. `channel` is that of the stream, `reserved` is 0. Returns false for an invalid handle; an
+    /// implementation may also refuse another channel.
     virtual bool NetStreamFollowUp(std::int64_t streamHandle, std::int32_t channel,
                                    std::uint32_t reserved) = 0;
 

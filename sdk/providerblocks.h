@@ -8,9 +8,9 @@ namespace sdk {
 /// Functions that a provider may lack for every device. Bit numbers of ProviderInformation::missingFunctions.
 enum class ProviderFunction : std::uint32_t
 {
-    VideoStandard = 0,    ///< VideoStandardItem
-    AutomaticMaintenance, ///< the configuration "AutoMaintain"
-    TimeServerDetails,    ///< NtpRecord::port and NtpRecord::updatePeriod
+    VideoStandard = 0,    ///< writing the video standard, PAL or NTSC (VideoStandardItem)
+    AutomaticMaintenance, ///< reboots at regular times (configuration "AutoMaintain")
+    TimeServerDetails,    ///< the port and the period of a time server (NtpRecord::port, updatePeriod)
 };
 
 /// Filled by NetGetProviderInformation.

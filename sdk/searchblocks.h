@@ -1,6 +1,6 @@
 // Blocks of device searches: the requests that start a search, and the response of a found device. All
-// strings are 8-bit, in the local encoding. A string that fills its field does not end with a zero: use
-// blockText() (blocktext.h) to read it.
+// strings are 8-bit, in the local encoding; a string that the device does not report is empty. A string that
+// fills its field does not end with a zero: use blockText() (blocktext.h) to read it.
 #pragma once
 
 #include <array>
@@ -15,7 +15,8 @@ struct SearchDeviceInformation
 {
     std::int32_t ipVersion;                ///< 4 or 6: the family of `address`
     std::int32_t port;                     ///< service port, 1 to 65535
-    std::array<char, 64> address;          ///< "0.0.0.0" while an IPv4 address is unset
+    std::array<char, 64> address;          ///< "0.0.0.0" while an IPv4 address is unset; a link-local IPv6
+                                           ///< address may have the interface of this host: "fe80::1%eth0"
     std::array<char, 64> subnetMask;       ///< dotted mask, or the IPv6 prefix length; may be empty
     std::array<char, 64> gateway;          ///< empty if there is none
     std::array<char, 40> mac;              ///< "02:1a:c5:00:40:17"
@@ -44,11 +45,12 @@ static_assert(offsetof(SearchDeviceInformation, reserved) == 789);
 /// Meaning of the low two bits of SearchDeviceInformation::initialisationState.
 enum class InitialisationBits : std::uint8_t
 {
-    NotReported = 0, ///< devices without initialisation; they count as initialised
+    NotReported = 0, ///< the device has no initialisation, or its state is unknown; counts as initialised
     Uninitialised = 1,
     Initialised = 2,
 };
 
+/// The low two bits. Their value 3, which has no enumerator, counts as initialised as well.
 [[nodiscard]] constexpr InitialisationBits initialisationBits(std::uint8_t initialisationState)
 {
     return static_cast<InitialisationBits>(initialisationState & 0x03);
@@ -91,7 +93,7 @@ struct SearchParameterEx
 };
 static_assert(sizeof(SearchParameterEx) == 88);
 
-inline constexpr int maximumSearchAddresses = 256;
+inline constexpr int maximumSearchAddresses = 256; ///< of one request
 
 /// A list of addresses, each of which gets a request of its own. Given to NetSearchDevicesByIPs,
 /// NetSearchDevicesByIPsEx and NetSearchDeviceByIp.

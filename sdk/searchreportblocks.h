@@ -19,7 +19,7 @@ enum class SearchDiscard : std::uint32_t
     Leaving,        ///< the device reports that it leaves the network
     TooMany,        ///< beyond the number of devices that the library keeps for a search
 };
-inline constexpr std::size_t searchDiscards = 6;
+inline constexpr std::size_t searchDiscards = 6; ///< number of enumerators of SearchDiscard
 
 /// The reason why a search through an interface is impossible or found no devices. Bit numbers of
 /// SearchInterfaceReport::obstacles.
@@ -39,13 +39,14 @@ struct SearchInterfaceReport
 {
     std::array<char, 32> name;
     std::array<char, 64> address;   ///< local; empty if there is none
-    std::int32_t prefixLength;      ///< of `address`
-    std::uint32_t obstacles;        ///< SearchObstacle: bit N is set if the obstacle exists
+    std::int32_t prefixLength;      ///< of `address`; 0 without one
+    std::uint32_t obstacles;        ///< SearchObstacle: bit N is set if the obstacle N exists
     std::int32_t sendError;         ///< last error number (errno) of the system on sending, 0 for none
     std::uint32_t requestsSent;     ///< multicast requests of local searches
-    std::uint32_t messagesReceived; ///< at this address, discarded ones included
-    std::uint32_t devicesFound;     ///< reported to the handler of the search
-    std::array<std::uint32_t, searchDiscards> discarded; ///< messages, or devices in them, by SearchDiscard
+    std::uint32_t messagesReceived; ///< by local searches at this address, discarded ones included
+    std::uint32_t devicesFound;     ///< reported to the handlers of local searches, each once
+    std::array<std::uint32_t, searchDiscards> discarded; ///< numbers of messages, or of devices in them;
+                                                         ///< indexed by SearchDiscard
     std::array<std::uint8_t, 48> reserved;
 };
 static_assert(sizeof(SearchInterfaceReport) == 192);

@@ -17,7 +17,7 @@ enum class LiveStreamKind : std::int32_t
 /// The type of a call of a RealDataHandler.
 enum class RealDataType : std::uint32_t
 {
-    Stream = 0, ///< bytes of the stream: endless Matroska, as streams::MatroskaWriter writes it
+    Stream = 0, ///< bytes of the stream: endless Matroska, which starts with a header and a key frame
     End = 1,    ///< the stream has ended, not by its caller: `size` is 0 and `parameter` is a StreamEndReason
 };
 

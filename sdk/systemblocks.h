@@ -1,5 +1,5 @@
 // Blocks of the maintenance of a device: its clock, its video standard, a reset to factory settings and a new
-// password.
+// password. A block is a struct that is passed to or filled by the network library.
 #pragma once
 
 #include <array>
@@ -14,7 +14,8 @@ enum class DeviceSetting : std::uint32_t
     Time = 8, ///< TimeRecord
 };
 
-/// The date and time that a device's clock shows: the local time of the device.
+/// The date and time that a device's clock shows: the local time of the device. Read by QueryCommand::Time,
+/// written by DeviceSetting::Time.
 struct TimeRecord
 {
     std::uint32_t year;
@@ -29,6 +30,7 @@ static_assert(sizeof(TimeRecord) == 24);
 /// The item number of VideoStandardItem for NetSetItem. NetGetItem does not read it.
 inline constexpr std::uint32_t videoStandardItem = 11;
 
+/// The television standard of the device's video: 25 (PAL) or 30 (NTSC) frames per second.
 enum class VideoStandard : std::int32_t
 {
     Pal = 1,
@@ -57,7 +59,8 @@ struct ResetSystemOutput
 static_assert(sizeof(ResetSystemOutput) == 4);
 
 /// Given to NetModifyPassword: the account whose password changes, and both passwords. The fields are as long
-/// as those of LoginSecureInput. Strings are those of searchblocks.h.
+/// as those of LoginSecureInput. Strings are 8-bit, in the local encoding; one that fills its field does not
+/// end with a zero.
 struct ModifyPasswordInput
 {
     std::uint32_t size; ///< sizeof(ModifyPasswordInput)

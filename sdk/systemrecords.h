@@ -1,5 +1,6 @@
-// Records of the configurations "Locales", "AutoMaintain" and "NTP" of a device. Times are local times of the
-// device. The word "size" is the size of the struct. Strings end with a zero.
+// Records of the configurations "Locales", "AutoMaintain" and "NTP" of a device. A record is the struct that
+// the configuration library fills from a configuration text. Times are local times of the device. The word
+// "size" is the size of the struct. Strings end with a zero.
 #pragma once
 
 #include <array>
@@ -51,7 +52,7 @@ struct AutoMaintainRecord
 static_assert(sizeof(AutoMaintainRecord) == 44);
 static_assert(offsetof(AutoMaintainRecord, rebootEnabled) == 40);
 
-/// "NTP": the time server of the device.
+/// "NTP": the time server of the device, and its time zone.
 struct NtpRecord
 {
     static constexpr std::int32_t timeZones = 40; ///< number of time zones of devices
@@ -61,7 +62,8 @@ struct NtpRecord
     std::array<char, 256> address; ///< of the time server; empty if there is none
     std::int32_t port;             ///< of the time server
     std::int32_t updatePeriod;     ///< between requests to the time server, in minutes, up to 65535
-    std::int32_t timeZone; ///< of the device: 0 to timeZones - 1; not in the order of the offsets from UTC
+    std::int32_t timeZone; ///< number of the device's zone: 0 to timeZones - 1 (0 is UTC); not in the order
+                           ///< of the offsets from UTC
     std::array<std::uint8_t, 1188> reserved;
 };
 static_assert(sizeof(NtpRecord) == 1464);

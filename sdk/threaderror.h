@@ -1,4 +1,5 @@
-// The last error of every calling thread, stored separately for each library object.
+// The last error of every calling thread, stored separately for each library object. Implementations of
+// NetLibrary return it by NetGetLastError().
 #pragma once
 
 #include <cstdint>
@@ -12,8 +13,8 @@ class ThreadError
 public:
     ThreadError();
 
-    /// Sets the code of the calling thread, which its next failure replaces. Always returns false, for
-    /// `return m_error.fail(...)`.
+    /// Sets the code of the calling thread to the value of an enumerator. It stays until the next failure of
+    /// the thread. Always returns false, for `return m_error.fail(...)`.
     template<typename Error>
     requires std::is_enum_v<Error>
     bool fail(Error error) const { return failWith(static_cast<std::uint32_t>(error)); }

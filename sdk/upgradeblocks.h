@@ -12,7 +12,7 @@ enum class UpgradePhase : std::int32_t
     Sending = 1, ///< the file is sent to the device; the upgrade can be cancelled
     Writing = 2, ///< the device replaces its firmware; the upgrade cannot be cancelled
     Done = 3,    ///< the device has accepted the firmware and reboots; its sessions end
-    Failed = 4,  ///< the upgrade has ended; the device usually keeps its previous firmware
+    Failed = 4,  ///< the upgrade has ended without success; the device usually keeps its previous firmware
 };
 
 /// The progress of an upgrade.

@@ -9,8 +9,8 @@
 // There is a section for each library: network, configuration, decoder and agent. The value of `file` is
 // looked up in the folder of the binding file. Each other line maps a function (entrypoints.h) to the name of
 // its entry in the library, or on Windows to its ordinal. Empty lines and lines that begin with "#" are
-// ignored, and so are spaces around names and values. Of several lines with the same name, the last one
-// counts.
+// ignored, and so are spaces around names and values. Sections with the same name are one section. Of several
+// lines of a section with the same name, the last one counts.
 #pragma once
 
 #include "sdk/binding/bindingproblem.h"
@@ -22,10 +22,12 @@
 
 namespace sdk::binding {
 
+/// One library of the file, and its functions.
 struct BindingSection
 {
     std::string library = {};                        ///< the value of `file`, UTF-8; empty if it is missing
-    std::map<std::string, std::string> entries = {}; ///< names or ordinals of entries, by function
+    std::map<std::string, std::string> entries = {}; ///< names or ordinals of the library's entries, by the
+                                                     ///< names of functions in entrypoints.h
 };
 
 /// The sections by their names.

@@ -1,4 +1,4 @@
-// A library that is loaded at run time.
+// A shared library that is loaded at run time.
 #pragma once
 
 #include <filesystem>

@@ -112,11 +112,11 @@
 
 namespace sdk::binding {
 
-/// A function of a library, for the search of its address.
+/// A function of a library, whose address is to be found and stored.
 struct EntryPoint
 {
     const char *name; ///< of the operation, as in the interface
-    void *pointer;    ///< address of the function pointer to set
+    void *pointer;    ///< address of the function pointer that receives the address of the function
 };
 
 // NOLINTBEGIN(bugprone-macro-parentheses): declarations and parameter lists cannot have parentheses.

@@ -22,7 +22,8 @@ struct TlsPeer
 /// certificates, so the public key decides instead of a certificate authority; host name and validity are not
 /// checked. The handshake ends at a refused key, before the first byte of a request is sent.
 ///
-/// Used by the thread of the transfers. It must outlive every transfer of the handle.
+/// One object for the transfers of one handle to one peer. Used by the thread of the transfers. It must
+/// outlive every transfer of the handle.
 class CertificateCheck
 {
 public:
@@ -36,8 +37,8 @@ public:
     /// authorities, which refuses the devices' own certificates.
     void attachTo(void *curlHandle);
 
-    /// The verdict of the last handshake if it was ended by its certificate; nothing if the certificate was
-    /// accepted or none has been checked.
+    /// The verdict of the last handshake if it was ended by its certificate: Unknown or Changed. Nothing if
+    /// the certificate was accepted or none has been checked.
     [[nodiscard]] std::optional<CertificateVerdict> refusal() const { return m_refusal; }
 
     /// Called by libcurl during the handshake with the certificate of the device; null for none. Returns

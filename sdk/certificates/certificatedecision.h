@@ -7,7 +7,8 @@
 
 namespace sdk {
 
-/// The handler that decides about certificates. Shared by the TLS connections of its owner. Thread-safe.
+/// Holds the handler that decides about certificates (NetSetCertificateHandler). Shared by the TLS
+/// connections of its owner, which call verdictOn() during their handshakes. Thread-safe.
 class CertificateDecision
 {
 public:

@@ -4,9 +4,9 @@
 //
 //   {"Https": {"enabled": true, "port": 443}}
 //
-// The names of the configurations and the keys are listed in internal/configtable.cpp and
-// internal/picturetables.h. Keys of the inner object without a field in the record are ignored. The functions
-// may be called from any thread.
+// A record is the struct of a configuration, such as HttpsRecord. The names of the configurations and the
+// keys are listed in internal/configtable.cpp and internal/picturetables.h. Keys of the inner object without
+// a field in the record are ignored. The functions may be called from any thread.
 #pragma once
 
 #include <QByteArray>
@@ -21,17 +21,17 @@ namespace sdk {
 inline constexpr std::size_t longestConfigText = std::size_t(512) * 1024;
 
 /// Fills `record`, which has `recordSize` bytes, from the text of the configuration `name`. Its leading size
-/// field is set to the size of the configuration's record, which is also the result. Bytes behind this size
-/// and the fields of missing keys are not changed. Strings that are longer than their field are truncated
-/// between two characters. Returns nothing, with the record unchanged, when the name is unknown, the record
-/// null or too small, or the text is too long, not JSON, of another configuration, or has a value of the
-/// wrong type or out of range.
+/// field is set to the size of the configuration's record in bytes, which is also the result. Bytes behind
+/// this size and the fields of missing keys are not changed. Strings that are longer than their field are
+/// truncated between two characters. Returns nothing, with the record unchanged, when the name is unknown,
+/// the record null or too small, or the text is too long, not JSON, of another configuration, or has a value
+/// of the wrong type or out of range.
 [[nodiscard]] std::optional<std::uint32_t> unpackConfigText(std::string_view name, std::string_view text,
                                                             void *record, std::uint32_t recordSize);
 
-/// The text of a record of the configuration `name`, with every key. The size field of the record is ignored;
-/// `recordSize` counts. Bytes of its strings that are not UTF-8 are replaced by U+FFFD. Returns nothing when
-/// the name is unknown, the record null or too small, or a number is out of range.
+/// The text of a record of the configuration `name`, with every key. The record has `recordSize` bytes; its
+/// size field is ignored. Bytes of its strings that are not UTF-8 are replaced by U+FFFD. Returns nothing
+/// when the name is unknown, the record null or too small, or a number is out of range.
 [[nodiscard]] std::optional<QByteArray> packConfigText(std::string_view name, const void *record,
                                                        std::uint32_t recordSize);
 

@@ -5,8 +5,9 @@
 
 namespace sdk {
 
-/// Has no state, so any thread may call it. configtext.h describes the texts and the limits. After a failure
-/// of ConfigParseData(), `returnedSize` is 0.
+/// Converts the texts of the simulated devices and of the devices with open standards to records and back, by
+/// unpackConfigText() and packConfigText() (configtext.h). The operations are those of ConfigLibrary, with a
+/// limit of longestConfigText (512 KiB) for a text to unpack. Has no state, so any thread may call it.
 class ConfigTextLibrary : public ConfigLibrary
 {
 public:

@@ -38,7 +38,7 @@ struct AvDelete
 template<typename Object>
 using AvPointer = std::unique_ptr<Object, AvDelete>;
 
-/// The error text of a return value of FFmpeg's functions.
+/// The text of an error code (negative) that a function of FFmpeg has returned, in English.
 [[nodiscard]] inline std::string avErrorText(int error)
 {
     std::string text(AV_ERROR_MAX_STRING_SIZE, '\0');

@@ -16,9 +16,9 @@ using LibraryLogHandler = void (*)(void *source, int level, const char *format, 
 /// function and ThreadLog share it: other code must not call av_log_set_callback(). Thread-safe.
 void setLibraryLogHandler(LibraryLogHandler handler);
 
-/// During its lifetime, its listener receives the lines of the thread that created it. The handler of the
-/// process and earlier ThreadLogs of the thread do not receive them. To be destroyed on the same thread, in
-/// reverse order of creation.
+/// During its lifetime, its listener receives the lines that FFmpeg logs on the thread that created it,
+/// during the call that logs them. The handler of the process and earlier ThreadLogs of the thread do not
+/// receive them. To be destroyed on the same thread, in reverse order of creation.
 class ThreadLog
 {
 public:

@@ -2,8 +2,9 @@
 // functions of closed libraries.
 //
 // Each operation calls the C function of the same name on the calling thread, with its parameters translated
-// as entrypoints.h states. The closed library defines its threads and errors. All pointers of the entries
-// must be set.
+// as entrypoints.h states: for instance a reference to a pointer, a bool to an integer. Nothing else is done:
+// the closed library defines its threads and errors. The constructors copy the entries, whose pointers must
+// all be set.
 #pragma once
 
 #include "sdk/binding/entrypoints.h"

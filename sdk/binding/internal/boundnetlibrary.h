@@ -6,8 +6,9 @@
 namespace sdk::binding {
 
 /// Each operation calls the C function of the same name on the calling thread, with its parameters translated
-/// as entrypoints.h states. The closed library defines its threads and error codes. All pointers of the
-/// entries must be set.
+/// as entrypoints.h states: for instance a reference to a pointer, a time to milliseconds as a number.
+/// Nothing else is done: the closed library defines its threads and error codes. The constructor copies the
+/// entries, whose pointers must all be set.
 class BoundNetLibrary : public NetLibrary
 {
 public:

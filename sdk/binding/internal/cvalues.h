@@ -9,7 +9,7 @@
 
 namespace sdk::binding {
 
-/// The time in milliseconds. A negative time becomes 0, a longer time than the largest value becomes that
+/// The time in milliseconds. A negative time gives 0, a time that is too long for the type gives its largest
 /// value.
 [[nodiscard]] inline std::int32_t cValue(std::chrono::milliseconds time)
 {

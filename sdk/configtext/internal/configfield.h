@@ -6,6 +6,7 @@
 
 namespace sdk {
 
+/// The types of a field in the record and in JSON.
 enum class ConfigFieldKind
 {
     Number,   ///< std::int32_t from `minimum` to `maximum`; an integer in JSON
@@ -23,7 +24,7 @@ struct ConfigField
     ConfigFieldKind kind;
     std::int32_t minimum = 0;           ///< of a number or flag
     std::int32_t maximum = 0;           ///< of a number or flag
-    std::size_t size = 0;               ///< of a text with its zero, or of a ByteFlag, in bytes
+    std::size_t size = 0;               ///< of a text with its zero, or of a ByteFlag, in bytes; else 0
     const ConfigField *inner = nullptr; ///< the fields of an object; null for other kinds
     std::size_t innerCount = 0;         ///< number of fields at `inner`
 };

@@ -1,4 +1,6 @@
-// Tables of the image configurations: "Encode", "VideoColor" and "Lighting_V2".
+// Tables of the image configurations: "Encode", "VideoColor" and "Lighting_V2". A table lists the JSON keys
+// of a configuration and the fields of its record: encodeFields of EncodeRecord, videoColorFields of
+// VideoColorRecord, lightingFields of LightingRecord. The other tables are their inner objects.
 #pragma once
 
 #include "sdk/camerablocks.h"
@@ -14,7 +16,8 @@ constexpr std::int32_t largest = std::numeric_limits<std::int32_t>::max(); ///< 
 constexpr std::int32_t largestSide = 65535;                                ///< of a frame, in pixels
 constexpr std::int32_t largestValue = 10000; ///< of a camera's setting with a slider or a list
 
-// Fields of the three kinds that the image configurations need. A number is 0 to `maximum`.
+// Fields of the three kinds that the image configurations need. `offset` is in bytes from the start of the
+// record, or of the inner struct. A number is valid from 0 to `maximum`.
 
 constexpr ConfigField number(const char *key, std::size_t offset, std::int32_t maximum)
 {
@@ -47,7 +50,7 @@ constexpr std::array streamFields = {
     number("samplingFrequency", offsetof(EncodeStreamRecord, samplingFrequency), largest),
 };
 
-/// The offset of a stream in EncodeRecord.
+/// The offset of a stream in EncodeRecord, in bytes.
 constexpr std::size_t streamOffset(StreamKind kind)
 {
     return offsetof(EncodeRecord, streams) + static_cast<std::size_t>(kind) * sizeof(EncodeStreamRecord);
@@ -69,7 +72,7 @@ constexpr std::array pictureFields = {
     number("gamma", offsetof(PictureItem, gamma), largestValue),
 };
 
-/// The offset of a mode in VideoColorRecord.
+/// The offset of a mode in VideoColorRecord, in bytes.
 constexpr std::size_t pictureOffset(CameraMode mode)
 {
     return offsetof(VideoColorRecord, pictures) + static_cast<std::size_t>(mode) * sizeof(PictureItem);
@@ -91,7 +94,7 @@ constexpr std::array lightFields = {
     number("delay", offsetof(MixedLightItem, delay), largestValue),
 };
 
-/// The offset of a mode in LightingRecord.
+/// The offset of a mode in LightingRecord, in bytes.
 constexpr std::size_t lightOffset(CameraMode mode)
 {
     return offsetof(LightingRecord, lights) + static_cast<std::size_t>(mode) * sizeof(MixedLightItem);
