@@ -15,8 +15,12 @@ class DecoderPort;
 /// Decodes live Matroska streams: video in H.264, H.265 and MJPEG, audio in G.711, AAC and 16-bit PCM. A
 /// stream starts with its header. A further header starts another stream, which may have another size and
 /// encoding. Damaged data is dropped and counted in DecoderStatus::damages. Frames are delivered one by one
-/// as they arrive. A frame with a side over 8192 pixels or more than 8192 x 4320 pixels counts as damaged. A
-/// port with DecoderSetStreamMode drops late frames and sound, and continues with the newest key frame.
+/// as they arrive. A frame with a side over 8192 pixels or more than 8192 x 4320 pixels counts as damaged;
+/// for DecoderSaveFrame it is out of range.
+///
+/// A port with DecoderSetStreamMode does not fall behind. Frames and sound that arrived more than 250 ms ago
+/// are dropped up to the newest key frame. Without a key frame, a port that is more than 100 ms late omits
+/// some frames, and one that is more than 400 ms late may drop all frames up to the next key frame.
 ///
 /// A port has one thread, from DecoderPlay to DecoderStop. There are up to 512 ports. A thread that runs a
 /// DecodeHandler of any port cannot use ports: every function with the number of a port returns false there.
@@ -25,7 +29,8 @@ class DecoderPort;
 class FfmpegDecoderLibrary final : public DecoderLibrary
 {
 public:
-    /// `clock` times the input of ports and measures the delay of their frames; not null.
+    /// `clock` times the input of ports and measures the delay of their frames; not null. Tests use a clock
+    /// that they step.
     explicit FfmpegDecoderLibrary(std::shared_ptr<const Clock> clock = std::make_shared<SystemClock>());
 
     /// Frees all ports, and waits for their threads. Must not run in a DecodeHandler.

@@ -1,4 +1,4 @@
-// Owners of FFmpeg's objects, which sdk/streams defines.
+// Owning pointers of FFmpeg's objects. sdk/streams/avpointers.h defines them and includes FFmpeg's headers.
 #pragma once
 
 #include "sdk/streams/avpointers.h"

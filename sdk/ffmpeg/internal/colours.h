@@ -1,4 +1,4 @@
-// FrameColour in FFmpeg's terms.
+// FrameColour, the colour space of a frame, in FFmpeg's terms.
 #pragma once
 
 #include "sdk/decoderlibrary.h"
@@ -6,11 +6,13 @@
 
 namespace sdk::ffmpeg {
 
+/// True for ITU-R BT.709, false for BT.601.
 [[nodiscard]] constexpr bool isBt709(FrameColour colour)
 {
     return colour == FrameColour::Bt709Limited || colour == FrameColour::Bt709Full;
 }
 
+/// True if Y is 0 to 255, false if it is 16 to 235.
 [[nodiscard]] constexpr bool isFullRange(FrameColour colour)
 {
     return colour == FrameColour::Bt601Full || colour == FrameColour::Bt709Full;

@@ -13,9 +13,11 @@
 
 namespace sdk::ffmpeg {
 
-/// The operations are those of DecoderLibrary, with the same rules for threads: input() and status() may run
-/// at the same time as any other function. Between play() and stop() the port has a thread, which decodes and
-/// calls the handler.
+/// A port decodes the bytes of live streams, which input() receives, to frames and sound, which it passes to
+/// the handler. The operations are those of DecoderLibrary, with the same rules for threads: input() and
+/// status() may run at the same time as any other function; two others must not run at the same time, and no
+/// function may be called from the handler. Between play() and stop() the port has a thread, which decodes
+/// and calls the handler. Without a handler, frames and sound are dropped.
 class DecoderPort final : private StreamObserver
 {
 public:
@@ -31,14 +33,16 @@ public:
     DecoderPort(const DecoderPort &) = delete;
     DecoderPort &operator=(const DecoderPort &) = delete;
 
-    /// Opens the port and clears its status. `header` may be empty. Returns false if the port is open, and if
-    /// `bufferSize` is 0 or smaller than the header.
+    /// Opens the port and clears its status. `header` is the first part of the input and is copied; it may be
+    /// empty. `bufferSize` is the number of undecoded bytes up to which input() accepts more. Returns false
+    /// if the port is open, and if `bufferSize` is 0 or smaller than the header.
     [[nodiscard]] bool open(std::span<const std::uint8_t> header, std::size_t bufferSize);
 
     /// Late frames and sound are dropped from the next play() on. Not to be called while the port plays.
     void setLive() { m_isLive = true; }
 
-    /// Waits for a handler that is running. `handler` may be null.
+    /// Sets the handler (null for none) and the `user` that it gets. Waits for a running call of the previous
+    /// handler, which does not run after the return.
     void setHandler(DecodeHandler handler, void *user);
 
     /// Starts the thread. Returns false if the port is not open or plays, and if no thread can be started.
@@ -48,13 +52,14 @@ public:
     /// room for all of them.
     [[nodiscard]] bool input(std::span<const std::uint8_t> bytes);
 
-    /// Waits for the thread. The port stays open and keeps its input. Returns false if it does not play.
+    /// Ends the thread and waits for it. The port stays open and keeps its input: a further play() continues
+    /// with the next stream header in it. Returns false if the port does not play.
     bool stop();
 
     /// Stops, and discards the input. Returns false if the port is not open.
     bool close();
 
-    /// The status of the open port; after close(), the last one with `waitingBytes` 0.
+    /// The status of the open port; after close(), the last one with `waitingBytes` 0. Empty before open().
     [[nodiscard]] DecoderStatus status() const;
 
     /// Whether the calling thread runs the handler of any port.

@@ -9,12 +9,13 @@
 
 namespace sdk::ffmpeg {
 
-/// Reads the packets of the current stream of a StreamSource, up to the end of the stream or a request to
-/// stop. Not thread-safe.
+/// Reads the encoded packets of the current stream of a StreamSource (Matroska), up to the end of the stream
+/// or a request to stop. The blocking functions wait for input of the port. Not thread-safe: used by the
+/// decoding thread.
 class Demuxer
 {
 public:
-    /// `source` must outlive the demuxer.
+    /// `source` must outlive the demuxer. A request on `stop` ends the waits.
     Demuxer(StreamSource &source, std::stop_token stop);
     ~Demuxer();
     Demuxer(const Demuxer &) = delete;
@@ -28,12 +29,13 @@ public:
     /// The first track of this type with one of these codecs; null if there is none. The demuxer owns it.
     [[nodiscard]] const AVStream *track(AVMediaType type, std::initializer_list<AVCodecID> codecs) const;
 
-    /// Waits for the next packet of any track. Returns false at the end of the stream, after a request to
-    /// stop, and if a packet is larger than 8 MB.
+    /// Waits for the next packet of any track and moves it into `packet`, which is empty before. Returns
+    /// false at the end of the stream, after a request to stop, and if a packet is larger than 8 MB: the
+    /// stream cannot be read further then.
     [[nodiscard]] bool read(AVPacket &packet);
 
     /// Returns whether read() has found damaged data since the last call of takeDamage(). read() skips
-    /// damaged data up to the next Matroska cluster.
+    /// damaged data up to the next cluster, a group of packets in Matroska.
     [[nodiscard]] bool takeDamage() { return std::exchange(m_isDamaged, false); }
 
 private:

@@ -10,9 +10,10 @@ namespace sdk::ffmpeg {
 class FrameConverter
 {
 public:
-    /// Writes the image as DecodedFrameType::Video to `destination`, which has frameSize(width, height) bytes
-    /// (planarframe.h). The size does not change. Planar 4:2:0 with 8 bits is copied, other formats are
-    /// converted. Returns false, with nothing written, if the conversion fails.
+    /// Writes the image as DecodedFrameType::Video (planes of Y, U and V, 4:2:0, without padding) to
+    /// `destination`, which has frameSize(width, height) bytes (planarframe.h). Width and height do not
+    /// change. Planar 4:2:0 with 8 bits is copied, other formats are converted. Returns false, with nothing
+    /// written, if the conversion fails.
     [[nodiscard]] bool write(const AVFrame &frame, std::uint8_t *destination);
 
     /// The colour space of the bytes that write() writes: that of the frame, or usualFrameColour() for an RGB

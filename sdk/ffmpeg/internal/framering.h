@@ -14,9 +14,9 @@ namespace sdk::ffmpeg {
 class FrameRing
 {
 public:
-    /// Memory of `size` bytes for the next frame, which is not initialised; null if there is no memory. Until
-    /// noteDelivered(), calls with the same size return the same memory, and a call with another size frees
-    /// it.
+    /// Memory of `size` bytes (above 0) for the next frame, which is not initialised and stays owned by the
+    /// ring; null if there is no memory. Until noteDelivered(), calls with the same size return the same
+    /// memory, and a call with another size frees it.
     [[nodiscard]] std::uint8_t *next(std::size_t size)
     {
         Buffer &buffer = m_buffers.at(m_next);

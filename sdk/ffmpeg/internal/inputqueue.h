@@ -11,16 +11,17 @@
 
 namespace sdk::ffmpeg {
 
-/// The bytes from DecoderInputData on the way to the decoding thread. put() and waitingBytes() are
-/// thread-safe. The other functions are called on one thread, the reader.
+/// The bytes from DecoderInputData on the way to the decoding thread, each with the time of its arrival.
+/// put() and waitingBytes() are thread-safe. The other functions are called on one thread, the reader.
+/// "Unused" bytes are those that the reader has not passed to use().
 class InputQueue
 {
 public:
     /// `limit` is the number of bytes up to which put() accepts more.
     explicit InputQueue(std::size_t limit) : m_limit(limit) {}
 
-    /// Copies bytes that arrive at `time`, in milliseconds on one clock. Returns false and adds nothing if
-    /// waitingBytes() would exceed the limit.
+    /// Copies bytes that arrive at `time`, in milliseconds, the same clock for all calls. Returns false and
+    /// adds nothing if waitingBytes() would exceed the limit.
     bool put(std::span<const std::uint8_t> bytes, std::int64_t time);
 
     /// The number of bytes that the reader has not processed: the unused bytes, the used bytes until the next
@@ -38,6 +39,7 @@ public:
     /// True if there are unused bytes: next() would return without waiting.
     [[nodiscard]] bool hasNext() const;
 
+    /// Bytes that arrived together.
     struct Arrival
     {
         std::int64_t time = 0; ///< the `time` of put()
@@ -47,8 +49,8 @@ public:
     /// The arrival of the next unused byte. Requires hasNext().
     [[nodiscard]] Arrival arrival();
 
-    /// Sets the number of used bytes that the reader keeps and has not processed. They count in
-    /// waitingBytes(), and so against the limit, until the next hold().
+    /// Sets the number of used bytes that the reader keeps elsewhere and has not processed. They count in
+    /// waitingBytes(), and so against the limit, until the next hold() sets another number.
     void hold(std::size_t count);
 
 private:

@@ -1,3 +1,4 @@
+// The log of the decoder library and of FFmpeg, and errors that only FFmpeg's log reports.
 #pragma once
 
 #include <QLoggingCategory>

@@ -9,13 +9,14 @@
 
 namespace sdk::ffmpeg {
 
-/// Keeps packets in their order, and drops late ones when skip() is called. The delay is the time since the
-/// arrival of the next packet. Times are in milliseconds on one clock. Not thread-safe.
+/// Keeps encoded packets in their order, and drops late ones when skip() is called. The delay is the time
+/// since the arrival of the next packet, the one that take() returns. Times are in milliseconds on one clock.
+/// Not thread-safe.
 class PacketBacklog
 {
 public:
-    /// With a longer delay, StreamDecoder reads ahead to find the next key frame, and does not decode
-    /// non-reference frames. skip() does not use it.
+    /// With a longer delay, StreamDecoder reads ahead to find the next key frame, and does not decode frames
+    /// that no other frame refers to. skip() does not use it.
     static constexpr std::int64_t noticeableDelay = 100;
 
     /// With a longer delay, packets before the newest key frame in the backlog are dropped. The constants
@@ -49,13 +50,16 @@ public:
     /// The delay of the next packet at the time `now`; 0 if the backlog is empty.
     [[nodiscard]] std::int64_t delay(std::int64_t now) const;
 
+    /// The result of skip().
     struct Skip
     {
-        int frames = 0;             ///< number of dropped frames
-        bool isInterrupted = false; ///< the next video packet may not follow the last one that was taken
+        int frames = 0;             ///< number of dropped frames of video
+        bool isInterrupted = false; ///< the next video packet may not follow the last one that was taken:
+                                    ///< the decoder must be restarted
     };
 
-    /// Drops the late packets at the time `now`. To be called before each take() of a live stream.
+    /// Drops the late packets at the time `now`, which may leave the backlog empty. To be called before each
+    /// take() of a live stream.
     [[nodiscard]] Skip skip(std::int64_t now);
 
     /// Removes and returns the next packet. The backlog must not be empty.

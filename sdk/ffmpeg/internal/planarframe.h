@@ -7,7 +7,8 @@ namespace sdk::ffmpeg {
 
 inline constexpr int planes = 3; // Y, U, V
 
-struct PlaneSize // in samples of one byte
+/// The size of one plane, in samples of one byte.
+struct PlaneSize
 {
     int width;
     int height;

@@ -17,9 +17,10 @@ public:
     SoundConverter(const SoundConverter &) = delete;
     SoundConverter &operator=(const SoundConverter &) = delete;
 
-    /// The samples of `frame` as 16-bit mono with the same sample rate. They may be in the memory of `frame`:
-    /// they are valid until the next call and not longer than `frame`. Empty if the conversion fails, for a
-    /// frame without samples, a rate outside 1000 to 384000 Hz and more than 16 channels.
+    /// The samples of `frame` as 16-bit mono with the same sample rate; several channels are mixed. They may
+    /// be in the memory of `frame`: they are valid until the next call and not longer than `frame`. Empty if
+    /// the conversion fails, for a frame without samples, a rate outside 1000 to 384000 Hz and more than 16
+    /// channels.
     [[nodiscard]] std::span<const std::int16_t> convert(const AVFrame &frame);
 
 private:

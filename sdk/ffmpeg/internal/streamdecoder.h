@@ -38,13 +38,14 @@ public:
     virtual void skipped(int frames) = 0;
 };
 
-/// Decodes one stream from its head to its end, on the thread that calls run(). Not thread-safe.
+/// Decodes one stream from its head to its end, on the thread that calls run(), and passes its frames and
+/// sound to an observer. A port has one object for each stream of its input. Not thread-safe.
 class StreamDecoder
 {
 public:
-    /// `source`, `ring`, `observer` and `liveClock` must outlive the decoder. `liveClock` is the clock of the
-    /// arrival times of `source`. Late frames are dropped by this clock. If it is null, no frame is dropped
-    /// as late.
+    /// Decodes the current stream of `source`. Frames are written to the memory of `ring`. `source`, `ring`,
+    /// `observer` and `liveClock` must outlive the decoder. `liveClock` is the clock of the arrival times of
+    /// `source`. Late frames are dropped by this clock. If it is null, no frame is dropped as late.
     StreamDecoder(StreamSource &source, FrameRing &ring, StreamObserver &observer, const Clock *liveClock,
                   std::stop_token stop);
 

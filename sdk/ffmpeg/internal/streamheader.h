@@ -8,8 +8,8 @@
 
 namespace sdk::ffmpeg {
 
-/// Finds EBML headers with the document type "matroska" or "webm". Every stream starts with one. A header
-/// with more than 1024 bytes of elements is not found. Not thread-safe.
+/// Finds EBML headers, the first element of every Matroska stream, with the document type "matroska" or
+/// "webm". A header with more than 1024 bytes of content is not found. Not thread-safe.
 class StreamHeaderFinder
 {
 public:

@@ -12,8 +12,8 @@
 namespace sdk::ffmpeg {
 
 /// The input of a port is a sequence of streams. A stream starts with a header and ends at the header of the
-/// next one. The demuxer does not detect the second header: it would skip it as damaged data. Bytes between
-/// streams are skipped. Not thread-safe.
+/// next one. The demuxer does not detect the second header: it would skip it as damaged data. Bytes before a
+/// header that belong to no stream are skipped. Not thread-safe: used by the decoding thread.
 class StreamSource
 {
 public:
@@ -26,7 +26,8 @@ public:
 
     /// Waits for bytes of the current stream, which starts with its header. Copies at least one to
     /// `destination` and returns the number of copied bytes. Returns 0 at the end of the stream, after 8 MB
-    /// without notePacket(), after a request to stop and for an empty `destination`.
+    /// without notePacket(), after a request to stop and for an empty `destination`. A stream that ended by
+    /// the limit is not continued: start() searches the next header.
     [[nodiscard]] std::size_t read(std::span<std::uint8_t> destination, const std::stop_token &stop);
 
     /// The reader has completed a packet: the limit of 8 MB applies to the bytes after it.
@@ -46,8 +47,8 @@ public:
     /// the first ones.
     [[nodiscard]] std::int64_t arrival() const { return m_arrival; }
 
-    /// Sets the number of bytes that the reader keeps and has not processed. They count in the size of the
-    /// queue.
+    /// Sets the number of bytes that the reader keeps and has not processed. They count against the limit of
+    /// the queue.
     void setHeldBytes(std::size_t count) { m_queue.hold(count); }
 
     /// The number of bytes that the last start() has skipped before the header.

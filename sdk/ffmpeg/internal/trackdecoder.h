@@ -13,14 +13,15 @@ namespace sdk::ffmpeg {
 inline constexpr int longestSide = 8192;
 inline constexpr std::int64_t mostPixels = std::int64_t{8192} * 4320;
 
+/// True for a size in pixels within these limits.
 [[nodiscard]] constexpr bool isUsableSize(std::int64_t width, std::int64_t height)
 {
     return width > 0 && height > 0 && width <= longestSide && height <= longestSide &&
            width * height <= mostPixels;
 }
 
-/// Decodes the packets of one track on the calling thread: frame threading would delay frames. Not
-/// thread-safe.
+/// Decodes the packets of one track on the calling thread: FFmpeg's threads would delay frames. FFmpeg's
+/// reorder buffer keeps decoded frames until the frames before them in time are decoded. Not thread-safe.
 class TrackDecoder
 {
 public:
@@ -32,9 +33,9 @@ public:
     using FrameHandler = std::function<void(const AVFrame &)>;
 
     /// Decodes a packet of the track, and calls `handler` for each frame that is complete. That may be none:
-    /// frames in the reorder buffer follow later. Returns false for a damaged packet, and if an H.265 frame
-    /// refers to missing frames; `handler` may have been called then. H.265 packets before the first key
-    /// frame are dropped with the result true.
+    /// frames in the reorder buffer follow later. `packet` stays the caller's. Returns false for a damaged
+    /// packet, and if an H.265 frame refers to missing frames; `handler` may have been called then. H.265
+    /// packets before the first key frame are dropped with the result true.
     [[nodiscard]] bool decode(const AVPacket &packet, const FrameHandler &handler);
 
     /// To be called before a packet that does not follow the last decoded one. Frames in the reorder buffer
