@@ -33,15 +33,16 @@ public:
     /// Does not wait for a running call of the previous handler.
     void setHandler(P2PAgentMessageHandler handler, void *user);
 
-    /// Starts the thread, which reports ServiceConnected after connectTime. To be called while it does not
-    /// run. Returns false if the host provides no thread.
+    /// Starts the thread, on which the handler is called; it reports ServiceConnected after connectTime. To
+    /// be called while it does not run. Returns false if the host provides no thread.
     [[nodiscard]] bool start();
 
     /// Ends the thread: drops unreported events and waits for a running handler. No effect if the thread does
     /// not run. Must not be called from a handler. start() may follow.
     void stop();
 
-    /// Adds an event and returns immediately.
+    /// Adds an event and returns immediately. `deviceId` is the P2P ID of the device, `localPort` the mapped
+    /// local port. An event that is added while the thread does not run is reported after the next start().
     void add(P2PAgentEvent event, const QByteArray &deviceId, int localPort);
 
     /// Whether the calling thread is inside a handler of any port agent of this process.

@@ -1,4 +1,5 @@
-// Error codes of the simulated libraries for misuse. Failures of devices and networks are sdk::NetError.
+// Error codes of the simulated network library for misuse by its caller. Failures of devices and networks are
+// sdk::NetError.
 #pragma once
 
 #include <cstdint>
@@ -12,9 +13,9 @@ enum class DemoError : std::uint32_t
     None = 0,
     NotPrepared = 0x1001, ///< the library is not initialised, or was released by NetCleanup
     WrongSize,     ///< the size field of a block is not the size of the block, or a buffer is too small
-    WrongCount,    ///< too many addresses, or a negative number; other than one for NetSearchDeviceByIp
+    WrongCount,    ///< a count of addresses beyond the limit or below 0; NetSearchDeviceByIp: other than 1
     NoHandler,     ///< search or upgrade without a handler
-    InsideHandler, ///< called from a handler, which would be a deadlock
+    InsideHandler, ///< called from a handler, for whose end the operation would wait
     NoThread,      ///< the host provides no thread
 };
 

@@ -25,14 +25,16 @@ namespace sdk::demo {
 
 class SiteState;
 
-/// Error codes are DemoError for misuse and NetError for failures of devices. Every operation that concerns
-/// devices, even a malformed one, is added to the site's log; passwords are not (RequestLog).
+/// The operations are those of NetLibrary, on the devices of a site in this process. Error codes are
+/// DemoError for misuse and NetError for failures of devices. NetInit, NetCleanup and every operation that
+/// concerns devices, even a malformed one, are added to the site's log; passwords are not (RequestLog).
 ///
 /// Reachable devices respond to logins, queries and requests immediately, unless they have
 /// Fault::SlowAnswers. A request to an unreachable device fails after its complete `wait` on the site's
-/// clock. NetCleanup, NetLogout and NetCancelCalls end that wait. NetModifyDeviceBySearch does not check the
-/// account of the request. No device is accessed over TLS: the certificate handler is not called. Operations
-/// that must not be called from a handler detect it and fail with DemoError::InsideHandler.
+/// clock; a login fails after `connectTime`. NetCleanup, NetLogout and NetCancelCalls end that wait.
+/// NetModifyDeviceBySearch does not check the account of the request, and does not wait for the device at its
+/// new address. No device is accessed over TLS: the certificate handler is not called. Operations that must
+/// not be called from a handler detect it and fail with DemoError::InsideHandler.
 class DemoNetLibrary : public NetLibrary
 {
 public:
@@ -42,6 +44,8 @@ public:
 
     /// `site` must outlive the library.
     explicit DemoNetLibrary(SiteState &site);
+
+    /// As NetCleanup().
     ~DemoNetLibrary() override;
 
     [[nodiscard]] SiteState &site() const { return m_site; }

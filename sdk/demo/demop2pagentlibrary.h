@@ -25,8 +25,10 @@ class HttpResponder;
 class DemoP2PAgentLibrary : public P2PAgentLibrary
 {
 public:
-    /// `site` and `httpResponder` must outlive the agent.
+    /// `site` and `httpResponder` must outlive the agent. `httpResponder` serves the mapped web ports.
     DemoP2PAgentLibrary(SiteState &site, HttpResponder &httpResponder);
+
+    /// As OAgent_ClientRelease(): waits for a running handler.
     ~DemoP2PAgentLibrary() override;
 
     bool OAgent_ClientInit(const P2PAgentServices &services) override;
@@ -39,7 +41,8 @@ public:
     bool OAgent_ClientDelPort(std::int32_t localPort) override;
     void OAgent_ClientRelease() override;
 
-    /// The target of `localPort`; nullopt for a port that the agent has not opened or has closed.
+    /// The target of `localPort`, also if its tunnel is broken; nullopt for a port that the agent has not
+    /// opened or has closed.
     [[nodiscard]] std::optional<Tunnel> tunnel(int localPort) const;
 
     /// Breaks the tunnel behind `localPort` permanently (Tunnel::isBroken) and reports TunnelBroken. Returns

@@ -18,8 +18,9 @@ class DemoP2PAgentLibrary;
 class HttpPort;
 class HttpResponder;
 
-/// Thread-safe. The network library and the port agent keep the site alive. The last reference to the site or
-/// to one of them must not be released inside a handler: the destructor waits for handlers.
+/// A SiteState (devices, clock, log of requests) with the libraries and the web service on it. Thread-safe.
+/// The network library and the port agent of libraries() share the ownership of the site. The last reference
+/// to the site or to one of them must not be released inside a handler: the destructor waits for handlers.
 class DemoSite final : public SiteState, public std::enable_shared_from_this<DemoSite>
 {
 public:
@@ -33,7 +34,7 @@ public:
     [[nodiscard]] static std::shared_ptr<DemoSite> open(const QString &sceneNameOrFile,
                                                         std::shared_ptr<Clock> clock, QString *error);
 
-    /// A site of a given scene. `clock` as in open().
+    /// A site of a given scene, of which it has a copy. `clock` as in open().
     [[nodiscard]] static std::shared_ptr<DemoSite> create(const Scene &scene, std::shared_ptr<Clock> clock);
 
     ~DemoSite() override;
@@ -45,12 +46,12 @@ public:
 
     [[nodiscard]] std::optional<Tunnel> tunnel(int localPort) const override;
 
-    /// The port agent. Tests break its tunnels.
+    /// The port agent, which the site owns. Tests break its tunnels.
     [[nodiscard]] DemoP2PAgentLibrary &portAgent() const { return *m_portAgent; }
 
-    /// The URL of the HTTP proxy to the devices' web services: "http://127.0.0.1:40123". The first call opens
-    /// the proxy, which closes with the site. Empty if the host provides no port or thread; the next call
-    /// tries again.
+    /// The URL of the HTTP proxy to the devices' web services: "http://127.0.0.1:40123". Through it, a client
+    /// reaches the simulated addresses. The first call opens the proxy, which closes with the site. Empty if
+    /// the host provides no port or thread; the next call tries again.
     [[nodiscard]] QString httpProxy();
 
     /// The responder of the proxy and of the port agent's tunnels.

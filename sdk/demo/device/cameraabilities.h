@@ -7,13 +7,14 @@
 
 namespace sdk::demo {
 
-/// The capabilities of every camera of the device. The groups are those of the scene's capabilities
-/// ("camera"), otherwise those of a typical camera or recorder. With Fault::OddCapabilities some values are
-/// invalid.
+/// The capabilities of every camera of the device. The groups are those that the scene lists in the device's
+/// capabilities ("camera"); without a list those of a typical camera or recorder. With Fault::OddCapabilities
+/// some values are invalid.
 [[nodiscard]] CameraCapabilities cameraCapabilities(const SceneDevice &device);
 
-/// The default block of a camera item. Returns nullopt if the device does not support the item, if `itemKey`
-/// is not the key of a camera item, or if its selector is not a CameraMode. The channel is not checked.
+/// The default block of a camera item (CameraItem): the bytes of its struct. Returns nullopt if the device
+/// does not support the item, if `itemKey` is not the key of a camera item, or if its selector is not a
+/// CameraMode. The channel is not checked.
 [[nodiscard]] std::optional<QByteArray> usualCameraItem(const SceneDevice &device, const ItemKey &itemKey);
 
 } // namespace sdk::demo

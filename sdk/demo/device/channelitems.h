@@ -1,4 +1,6 @@
-// Reads and changes the items and configurations of a simulated device's channels.
+// Reads and changes the items and configurations of a simulated device's channels. An item is a group of
+// settings as a block with a number (EncodeItem, CameraItem); a configuration contains the values of several
+// items as a JSON text.
 #pragma once
 
 #include "sdk/demo/device/itemblocks.h"
@@ -36,8 +38,8 @@ namespace sdk::demo {
                                       const QByteArray &text);
 
 /// Fills the blocks of `capabilities` by StreamKind, for the settings in `text`, a text of the configuration
-/// "Encode". Returns None, or NotSupported, with `capabilities` unchanged, if the device has no such channel
-/// or `text` is not of that configuration.
+/// "Encode": the maximum bit rates depend on its frame sizes. Returns None, or NotSupported, with
+/// `capabilities` unchanged, if the device has no such channel or `text` is not of that configuration.
 [[nodiscard]] NetError fillEncodeCapabilities(const SceneDevice &device, std::int32_t channel,
                                               const QByteArray &text, EncodeCapabilities &capabilities);
 

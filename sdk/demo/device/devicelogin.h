@@ -1,4 +1,4 @@
-// The check of a login.
+// The check of a login to a simulated device, and its response.
 #pragma once
 
 #include "sdk/demo/scene/scene.h"
@@ -19,7 +19,8 @@ enum class LoginKind
     Secure, ///< NetLoginSecure: WrongPasswordSecure or WrongPasswordTriesLeft, AccountLoggedInSecure
 };
 
-/// Checks logins, and counts the wrong passwords for devices with Fault::AccountLocked. Thread-safe.
+/// Checks logins, and counts the wrong passwords for devices with Fault::AccountLocked, by device and
+/// account. Thread-safe.
 class LoginGuard
 {
 public:
@@ -29,8 +30,9 @@ public:
     /// - NoSuchAccount for an unknown account.
     /// - AccountLocked, with Fault::AccountLocked, if FaultSetting::number wrong passwords were given since
     ///   the last right one. From then on the right password is not accepted either.
-    /// - The error of `kind` for a wrong password. With Fault::AccountLocked, LoginKind::Secure returns
-    ///   WrongPasswordTriesLeft if the account does not lock after this attempt.
+    /// - The error of `kind` for a wrong password, with Fault::WrongPassword for any password. With
+    ///   Fault::AccountLocked, LoginKind::Secure returns WrongPasswordTriesLeft if the account does not lock
+    ///   after this attempt.
     /// - The error of `kind` for an account with a session, with Fault::AccountLoggedIn.
     [[nodiscard]] NetError check(const SceneDevice &device, const QString &account, const QString &password,
                                  LoginKind kind);

@@ -21,7 +21,7 @@ struct StreamAbilities
     QList<int> audioFormats;        ///< codes of EncodeCapabilityBlock::audioFormats; empty: without audio
     QList<int> samplingFrequencies; ///< Hz, for every format; empty: the device accepts any
 
-    /// The frame sizes with a compression code.
+    /// The frame sizes with a compression code; empty if `sizesByCompression` is used and lacks the code.
     [[nodiscard]] QList<FrameSize> sizesOf(int compression) const
     {
         return sizesByCompression.isEmpty() ? sizes : sizesByCompression.value(compression);
@@ -36,20 +36,20 @@ struct StreamAbilities
 /// key has the value of a typical camera.
 [[nodiscard]] StreamAbilities streamAbilities(const SceneDevice &device, StreamKind kind);
 
-/// The capability block of a stream. Its maximum bit rate is that for the frame size in `format`. With
-/// Fault::OddCapabilities some values are invalid.
+/// The capability block of a stream. Its maximum bit rate is that for the frame size in `format`; the other
+/// values of `format` are not used. With Fault::OddCapabilities some values are invalid.
 [[nodiscard]] EncodeCapabilityBlock capabilityBlock(const SceneDevice &device, StreamKind kind,
                                                     const EncodeStreamRecord &format);
 
-// Default items of the device.
+// Default items of the device, within its capabilities. Their words "size" and "stream" are set.
 
 [[nodiscard]] VideoFormatItem usualVideoFormat(const SceneDevice &device, StreamKind kind);
 [[nodiscard]] VideoProfileItem usualVideoProfile(const SceneDevice &device, StreamKind kind);
 [[nodiscard]] AudioCompressionItem usualAudioCompression(const SceneDevice &device, StreamKind kind);
 [[nodiscard]] AudioFormatItem usualAudioFormat(const SceneDevice &device, StreamKind kind);
 
-// Whether the device accepts an item, by its capabilities and its faults. False if the word "stream" of the
-// item is not streamNumber() of a kind.
+// Whether the device accepts an item, by its capabilities and its faults (RefusesItem, RefusesBitRatesAbove).
+// False if the word "stream" of the item is not streamNumber() of a kind, 1 to 4.
 
 [[nodiscard]] bool takes(const SceneDevice &device, const VideoFormatItem &item);
 [[nodiscard]] bool takes(const SceneDevice &device, const VideoProfileItem &item);

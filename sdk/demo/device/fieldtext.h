@@ -1,4 +1,5 @@
-// String fields of blocks: reading them from requests, and writing them with a device's faults applied.
+// String fields of blocks, the structs of the network library: reading them from requests, and writing them
+// with a device's faults applied.
 #pragma once
 
 #include "sdk/blocktext.h"
@@ -21,8 +22,8 @@ template<std::size_t size>
     return QString::fromLocal8Bit(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-/// Writes `text` in the local 8-bit encoding. A string that does not fit with its terminating zero is
-/// truncated.
+/// Writes `text` in the local 8-bit encoding, without faults. A string that does not fit with its terminating
+/// zero is truncated.
 template<std::size_t size>
 void writePlain(std::array<char, size> &field, const QString &text)
 {
@@ -30,9 +31,10 @@ void writePlain(std::array<char, size> &field, const QString &text)
     setBlockText(field, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
 }
 
-/// Writes strings to fields with the device's faults applied: with Fault::OddBytes unusual bytes are
-/// appended, with Fault::OverLongTexts the string is repeated up to the last byte of the field. Without these
-/// faults it writes as writePlain().
+/// Writes strings to fields with the faults that the device has at the construction: with Fault::OddBytes
+/// unusual bytes are appended, with Fault::OverLongTexts the string is repeated up to the last byte of the
+/// field, without a terminating zero. Without these faults it writes as writePlain(). Does not refer to the
+/// device.
 class FieldWriter
 {
 public:

@@ -16,9 +16,10 @@ inline constexpr std::chrono::seconds usualReboot{20};
 // invalid values, and by its faults. `now` is the time on the site's clock, in ms since 1970. Sessions are
 // not changed: after a reboot the caller ends them.
 
-/// Sets the device's clock, which continues from that time.
+/// Sets the device's clock to `time` (the time that it shows), from which it continues.
 [[nodiscard]] NetError setDeviceTime(SceneDevice &device, const TimeRecord &time, std::int64_t now);
 
+/// Any value but Pal and Ntsc is invalid.
 [[nodiscard]] NetError setVideoStandard(SceneDevice &device, VideoStandard standard);
 
 /// Stores the keys in `text` (JSON) of the configuration `name` of the device itself, not of a channel; its
@@ -32,13 +33,14 @@ inline constexpr std::chrono::seconds usualReboot{20};
 /// time is accepted and does not delay the reboot.
 [[nodiscard]] NetError rebootAfterResponse(SceneDevice &device, std::int64_t now);
 
-/// The device deletes its accounts, its configuration and the settings of its channels, and reboots. It keeps
-/// its address, its name, its clock and its faults. It is uninitialised afterwards. A device without
-/// initialisation (NotReported) has the account "admin" with the password "admin" instead.
+/// The device deletes its accounts, its configuration and the settings of its channels, sets the video
+/// standard to PAL, and reboots. It keeps its address, its name, its version, its clock and its faults. It is
+/// uninitialised afterwards. A device without initialisation (NotReported) has the account "admin" with the
+/// password "admin" instead.
 [[nodiscard]] NetError resetToFactory(SceneDevice &device, std::int64_t now);
 
-/// The device has the version of the firmware and reboots. With Fault::UpgradeKeepsVersion it keeps its
-/// version, with Fault::UpgradeNeverReturns it stays offline.
+/// The device has the version of the firmware and reboots, as by reboot(). With Fault::UpgradeKeepsVersion it
+/// keeps its version, with Fault::UpgradeNeverReturns it stays offline.
 void installFirmware(SceneDevice &device, const FirmwareHead &firmware, std::int64_t now);
 
 /// Changes the password of the account `user`. A wrong old password, an unknown user and an empty new

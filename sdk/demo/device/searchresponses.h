@@ -5,8 +5,9 @@
 
 namespace sdk::demo {
 
-/// The response of `device` with its address of `ipVersion` (4 or 6). Faults change its strings, except for
-/// the addresses and the MAC. `localAddress` is the address of this host that receives the response.
+/// The response of `device` with its address of `ipVersion` (4 or 6). Faults change its strings (OddBytes,
+/// OverLongTexts), except for the addresses and the MAC, and its state (NotInitialised). `localAddress` is
+/// the address of this host that receives the response.
 [[nodiscard]] SearchResponse searchResponse(const SceneDevice &device, int ipVersion,
                                             const QString &localAddress);
 

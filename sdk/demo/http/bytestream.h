@@ -8,7 +8,8 @@
 
 namespace sdk::demo {
 
-/// Used by one thread. A shutdown() of its socket on another thread ends receive() and send().
+/// The transport of an HTTP connection. Blocking, used by one thread. A shutdown() of its socket on another
+/// thread ends receive() and send().
 class ByteStream
 {
 public:

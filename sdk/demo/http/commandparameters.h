@@ -11,8 +11,8 @@
 
 namespace sdk::demo {
 
-/// Reads the parameters one by one. Only the first error is kept. The caller checks error() when it has read
-/// all parameters: if it is not empty, the read values are meaningless.
+/// Reads the parameters one by one by their names. Only the first error is kept. The caller checks error()
+/// when it has read all parameters: if it is not empty, the read values are meaningless. Used by one thread.
 class CommandParameters
 {
 public:
@@ -27,11 +27,11 @@ public:
     std::optional<QString> text(const QString &name);
 
     /// The parameter's value as a number; `fallback` without the parameter. A value that is not a whole
-    /// number from `minimum` to `maximum` is an error.
+    /// number from `minimum` to `maximum` is an error, and gives `fallback`.
     int number(const QString &name, int minimum, int maximum, int fallback);
 
     /// The index of the parameter's value in `choices`; `fallback` without the parameter. Any other value is
-    /// an error.
+    /// an error, and gives `fallback`.
     int choice(const QString &name, const QStringList &choices, int fallback);
 
     /// Reports an error if there are parameters that were not read: they would have no effect and are

@@ -15,8 +15,8 @@ namespace sdk::demo {
 class DeviceKey
 {
 public:
-    /// Generates a key and a certificate that is valid for ten years. `name` is the common name of the
-    /// certificate (UTF-8). Returns null if the TLS library fails.
+    /// Generates a key (EC, P-256) and a certificate that is valid for ten years from now. `name` is the
+    /// common name of the certificate (UTF-8). Returns null if the TLS library fails.
     [[nodiscard]] static std::shared_ptr<const DeviceKey> make(const std::string &name);
 
     /// Owned by this object.
@@ -28,7 +28,8 @@ private:
     const std::shared_ptr<ssl_ctx_st> m_context;
 };
 
-/// The device's end of a TLS connection. Bytes may be received and sent after a successful accept().
+/// The device's end of a TLS connection, over a connected socket. Bytes may be received and sent only after a
+/// successful accept().
 class EncryptedStream : public ByteStream
 {
 public:
@@ -36,9 +37,9 @@ public:
     EncryptedStream(int socket, std::shared_ptr<const DeviceKey> key);
     ~EncryptedStream() override;
 
-    /// Performs the handshake, and blocks until its end or a timeout of the socket. Returns false if the
-    /// client refuses the certificate, does not use TLS or does not continue. Blocks SIGPIPE on the calling
-    /// thread permanently.
+    /// Performs the handshake, and blocks until its end or a timeout of the socket (SO_RCVTIMEO,
+    /// SO_SNDTIMEO). To be called once. Returns false if the client refuses the certificate, does not use TLS
+    /// or does not continue. Blocks SIGPIPE on the calling thread permanently.
     [[nodiscard]] bool accept();
 
     [[nodiscard]] ssize_t receive(char *bytes, std::size_t size, std::chrono::milliseconds patience) override;

@@ -16,11 +16,12 @@ struct HttpCredentials
 {
     bool areValid = false; ///< the request may be run
     bool areStale = false; ///< not valid, but only because the nonce has expired
-    QString kind;          ///< "none", "basic" or "digest": the scheme of the request
+    QString kind;          ///< "basic" or "digest": the scheme of the request; "none" for no other scheme
     QString user;          ///< as in the request, also if unknown; empty without credentials
 };
 
-/// Stateless: a nonce contains the time of its creation and its device. Thread-safe.
+/// Stores no nonces: a nonce of a Digest challenge contains the time of its creation, and a hash of the time,
+/// the device and a secret of this object. A nonce may be used several times. Thread-safe.
 class HttpAuthentication
 {
 public:

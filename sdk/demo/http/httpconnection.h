@@ -22,7 +22,8 @@ public:
     static constexpr std::chrono::seconds requestTime{15};
 
     /// `responder` must outlive the connection. `socket` is connected; the caller closes it after serve().
-    /// `localPort` is HttpRoute::localPort.
+    /// `localPort` is the local port of the port agent at which the connection was accepted, or
+    /// HttpResponder::proxy for a connection to the proxy. `stop` ends the delays of responses.
     HttpConnection(HttpResponder &responder, int socket, int localPort, std::stop_token stop);
 
     /// Serves the connection and returns at its end. To be called once. Returns immediately if `localPort`

@@ -15,6 +15,7 @@ inline constexpr qsizetype longestHttpTarget = qsizetype{8} * 1024;
 inline constexpr qsizetype longestHttpHead = qsizetype{32} * 1024; ///< request line and headers
 inline constexpr qsizetype longestHttpBody = qsizetype{64} * 1024;
 
+/// The status codes that the simulated devices and the proxy use.
 enum class HttpStatus
 {
     None = 0, ///< not a status of HTTP: the request gets no response
@@ -42,8 +43,8 @@ enum class HttpStatus
 /// The head of a request.
 struct HttpRequest
 {
-    QByteArray method;
-    QByteArray target;                               ///< as in the request line
+    QByteArray method;                               ///< "GET"
+    QByteArray target;                               ///< as in the request line: a path or a URL
     QList<std::pair<QByteArray, QByteArray>> fields; ///< names in lower case
     qsizetype bodyLength = 0;                        ///< in bytes; the body is not part of this struct
     bool keepsConnection = true;   ///< the client may send another request over the connection
@@ -53,9 +54,9 @@ struct HttpRequest
     [[nodiscard]] QByteArray field(QByteArrayView name) const;
 };
 
-/// Reads a request line and headers, including the empty line, into the empty `request`. Returns Ok, or the
-/// status with which the request is refused; `request` is incomplete then. `longestBody` is the limit of
-/// Content-Length, in bytes.
+/// Reads a request line and headers, including the empty line, into the empty `request`. `head` has the
+/// length that httpHeadLength() returns. Returns Ok, or the status with which the request is refused;
+/// `request` is incomplete then. `longestBody` is the limit of Content-Length, in bytes.
 [[nodiscard]] HttpStatus readHttpHead(const QByteArray &head, HttpRequest &request,
                                       qint64 longestBody = longestHttpBody);
 
@@ -75,10 +76,11 @@ struct HttpTarget
     bool isValid = false; ///< false for an invalid target, and for one with a user: the rest is meaningless
 };
 
-/// Any scheme is valid. A fragment ("#...") is ignored.
+/// Reads the target of a request line. Any scheme is valid. A fragment ("#...") is ignored.
 [[nodiscard]] HttpTarget readHttpTarget(const QByteArray &target);
 
-/// A response and the faults of its transport, which HttpConnection applies. Plain text by default.
+/// A response, and the faults of its transport, which the connection applies when it sends the response.
+/// Plain text by default.
 struct HttpResponse
 {
     HttpStatus status = HttpStatus::Ok;

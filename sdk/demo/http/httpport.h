@@ -13,9 +13,9 @@ namespace sdk::demo {
 
 class HttpResponder;
 
-/// Listens on one thread and serves each connection on a thread of its own. The destructor closes the port,
+/// Listens on one thread and serves each connection on a separate thread. The destructor closes the port,
 /// ends the connections, even during a response, and joins the threads. Its caller must not hold a lock that
-/// the responses need, such as that of the site.
+/// the responses need, such as that of the site, and must not be one of these threads.
 class HttpPort
 {
 public:

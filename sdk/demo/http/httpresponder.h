@@ -19,8 +19,8 @@ namespace sdk::demo {
 
 class SiteState;
 
-/// The destination of a connection: the proxy, a local port of the port agent, or a device behind the proxy's
-/// tunnel.
+/// The destination of a connection: the proxy, a local port of the port agent, or a device behind a tunnel
+/// (CONNECT) through the proxy.
 struct HttpRoute
 {
     int localPort = 0; ///< a local port of the port agent, or HttpResponder::proxy
@@ -36,7 +36,8 @@ struct HttpTunnel
     std::shared_ptr<const DeviceKey> key = {}; ///< of the device; null if the tunnel is refused
 };
 
-/// Locks the site during its functions, so a caller must not hold the site's lock. Thread-safe.
+/// Responds for all devices of a site. Locks the site for short periods, so a caller must not hold the site's
+/// lock. Thread-safe: used by the threads of all connections.
 class HttpResponder
 {
 public:
@@ -57,12 +58,15 @@ public:
     /// web port.
     [[nodiscard]] bool isHttpPort(int localPort) const;
 
-    /// Checks the credentials of a request over `route`, runs its command and adds the request to the site's
-    /// log as "HTTP". Returns the response; its status is None if the device is silent.
+    /// Checks the credentials of a request over `route`, runs its command, applies the HTTP faults of the
+    /// device to the response, and adds the request to the site's log as "HTTP". Returns the response:
+    /// Unauthorized with a challenge for invalid credentials, BadGateway if nothing listens at the address
+    /// and port. Its status is None if the device is silent.
     [[nodiscard]] HttpResponse respond(const HttpRoute &route, const HttpRequest &request) const;
 
     /// Decides about a request "CONNECT" to the proxy and adds it to the site's log as "HTTP". A tunnel leads
-    /// to the HTTPS port of a device. It is refused for any other destination.
+    /// to the HTTPS port of a device. It is refused for any other destination. The first tunnel to a device
+    /// generates its key.
     [[nodiscard]] HttpTunnel openTunnel(const HttpRequest &request);
 
 private:

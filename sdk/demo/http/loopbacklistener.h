@@ -16,8 +16,8 @@ public:
     /// listener. Called on the listener's thread, which accepts the next connection after the return.
     using ConnectionTaker = std::function<void(int socket, int port)>;
 
-    /// Listens at `port`, 0 for any free port. Returns null if the port is in use, or the host provides no
-    /// socket or thread.
+    /// Listens at `port`, 0 for any free port. `taker` must not be empty. Returns null if the port is in use,
+    /// or the host provides no socket or thread.
     [[nodiscard]] static std::unique_ptr<LoopbackListener> open(int port, ConnectionTaker taker);
 
     ~LoopbackListener();

@@ -11,7 +11,8 @@ namespace sdk::demo {
 /// Whether `text` is a dotted mask with all ones before all zeros. True for "0.0.0.0" and "255.255.255.255".
 [[nodiscard]] bool isIpv4Mask(const QString &text);
 
-/// The canonical form of an IPv6 address; empty for an invalid one. Zones ("%eth0") are not accepted.
+/// The canonical form of an IPv6 address, by which addresses are compared: "fd00::31". Empty for an invalid
+/// one. Zones ("%eth0") are not accepted.
 [[nodiscard]] QString canonicalIpv6Address(const QString &text);
 
 /// The MAC in lower case: "02:1a:c5:00:40:17". Empty if `text` is not six pairs of hexadecimal digits with

@@ -1,4 +1,5 @@
-// The settings that were written to the channels of a simulated device.
+// The settings that were written to the channels of a simulated device. An item is a group of settings of a
+// channel, as a block with a number.
 #pragma once
 
 #include <QByteArray>
@@ -19,7 +20,8 @@ struct ItemKey
     auto operator<=>(const ItemKey &) const = default;
 };
 
-/// The items that were written, each with the bytes of its block. Other items have the device's defaults.
+/// The items that were written, each with the bytes of its block (the struct of the item). Other items have
+/// the device's defaults.
 using ChannelSettings = QMap<ItemKey, QByteArray>;
 
 } // namespace sdk::demo

@@ -21,8 +21,8 @@ enum class Fault
     NotInitialised,        ///< is not initialised, and refuses logins
     RefusesInitialisation, ///< refuses the initialisation
     RefusesAddressChange,  ///< refuses a new address
-    RefusesItem,           ///< refuses to write item `number`
-    WithholdsItem,         ///< does not report item `number`
+    RefusesItem,           ///< refuses to write item `number` (EncodeItem, CameraItem, videoStandardItem)
+    WithholdsItem,         ///< does not report item `number` (EncodeItem, CameraItem)
     RefusesBitRatesAbove,  ///< refuses bit rates above `number` kbit/s
     RefusesConfiguration,  ///< refuses to read and write the configuration named `text`
     DropsStreamAfter,      ///< ends each live stream after `number` frames
@@ -31,7 +31,7 @@ enum class Fault
     UpgradeFailsAt,        ///< an upgrade fails at `number` % of the transfer; with 100 while writing
     OddBytes,              ///< strings contain control characters, markup, line breaks and invalid UTF-8
     OverLongTexts,         ///< strings fill their fields to the last byte, without a terminating zero
-    RefusesSetting,        ///< refuses to write setting `number`
+    RefusesSetting,        ///< refuses to write setting `number` (DeviceSetting)
     RefusesReboot,         ///< refuses to reboot
     RefusesReset,          ///< refuses a reset to factory settings
     RefusesPasswordChange, ///< refuses a new password
@@ -48,7 +48,7 @@ enum class Fault
     RefusesUpgradeStop,    ///< refuses to stop an upgrade at any time
     SlowAnswers,           ///< responds to logins and requests `number` ms late, not to HTTP
     RefusesConnections,    ///< its ports are closed; it responds only to searches
-    PasswordChangesAfter,  ///< accepts a password `number` times; then "-2" is appended to its passwords
+    PasswordChangesAfter,  ///< accepts passwords `number` times (0 as 1); then "-2" is appended to them
     Sha256Last,            ///< offers Digest with MD5 first, then with SHA-256; only as a device of `site/`
     // HTTP responses to an accepted login:
     HttpLate,         ///< are sent `number` ms late

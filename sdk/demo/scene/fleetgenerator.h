@@ -5,6 +5,7 @@
 
 namespace sdk::demo {
 
+/// Generates the scene "fleet:N". Has no state, so any thread may call it.
 class FleetGenerator
 {
 public:

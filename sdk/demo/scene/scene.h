@@ -16,7 +16,7 @@
 
 namespace sdk::demo {
 
-inline constexpr int maximumSceneDevices = 20000;
+inline constexpr int maximumSceneDevices = 20000; ///< of a scene
 
 /// An account of a device.
 struct SceneAccount
@@ -36,8 +36,9 @@ struct SceneChannel
 struct SceneMaintenance
 {
     std::chrono::milliseconds clockAhead{0}; ///< offset of the device's clock from the site's clock
-    std::int64_t offlineFrom = 0;            ///< start of a reboot, on the site's clock, in ms since 1970
-    std::int64_t offlineUntil = 0;           ///< end of the reboot, on the same clock
+    std::int64_t offlineFrom = 0;            ///< start of the last reboot, on the site's clock, in ms since
+                                             ///< 1970; it may be in the future
+    std::int64_t offlineUntil = 0;           ///< end of that reboot, on the same clock
     VideoStandard videoStandard = VideoStandard::Pal;
 };
 
@@ -77,7 +78,7 @@ struct SceneDevice
     QJsonObject configuration;       ///< by name; its keys override those of the device's own state
     std::chrono::milliseconds latency{100}; ///< from a search to the response
     bool inOtherSegment = false;  ///< not found by local searches; responds to searches of its address
-    bool isRemote = false;        ///< reachable only through the port agent
+    bool isRemote = false;        ///< reachable only through the port agent; `inOtherSegment` is true as well
     bool knowsFirstSearch = true; ///< false: responds only to the second kind (…Ex) of search
     QList<FaultSetting> faults;   ///< each fault at most once
     SceneMaintenance maintenance;
@@ -113,6 +114,7 @@ struct SceneDevice
     }
 };
 
+/// The devices of a site, and this host in its network.
 struct Scene
 {
     QString title;

@@ -14,8 +14,8 @@ class SceneReader
 {
 public:
     /// Reads a scene. For an invalid scene, returns nullopt and sets `error` (may be null) to an English
-    /// sentence with the device, the key and the expected value. For a valid scene, sets `error` to an empty
-    /// string.
+    /// sentence about the first error, with the device, the key and the expected value. For a valid scene,
+    /// sets `error` to an empty string.
     [[nodiscard]] static std::optional<Scene> read(const QByteArray &json, QString *error);
 
     /// The same from a file or resource; the sentence starts with `path`. A file that cannot be read, that is

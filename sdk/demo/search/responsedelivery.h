@@ -18,12 +18,14 @@ struct ResponseReceiver
     SearchResponseHandler handler = nullptr; ///< not null
     void *user = nullptr;
     std::int64_t searchHandle = 0; ///< of a local search; 0 for a search of addresses
-    QString localAddress; ///< source address of the search; empty or "0.0.0.0" for every address of this host
+    QString localAddress; ///< source address of the search, which responses report as their receiver; empty
+                          ///< or "0.0.0.0": the address of this host that receives messages of the device
     SearchTally *tally = nullptr; ///< counts the responses; outlives the delivery; null for none
 };
 
-/// Up to four threads deliver the responses, each a share of them, at the times of the site's clock. A device
-/// that was removed or has got Fault::NoAnswer since the start of the search does not respond.
+/// Up to four threads deliver the responses, each a share of them, at the times of the site's clock. The
+/// handler is called on these threads. A response contains the present state of its device. A device that was
+/// removed or has got Fault::NoAnswer since the start of the search does not respond.
 ///
 /// Used by one thread, which calls start() and then one of the finish... functions. That function returns
 /// when all threads have ended. The destructor calls finishImmediately(). None of them may be called from a

@@ -1,4 +1,4 @@
-// Counts the packets of a simulated site's searches, for the search report.
+// Counts the requests and responses of a simulated site's searches, for the search report.
 #pragma once
 
 #include "sdk/searchreportblocks.h"
@@ -24,14 +24,16 @@ public:
     /// Counts a request to each of the addresses.
     void noteAskedAddresses(const QSet<QString> &addresses);
 
-    /// Counts a response to a local search. A device with several responses counts as one found device.
+    /// Counts a response to a local search from the device `mac` at `address`. A device with several
+    /// responses counts as one found device.
     void noteLocalResponse(const QString &mac, const QString &address);
 
     /// Counts a response to the search of an address. Further responses from the address count only after the
     /// next request to it.
     void noteAddressResponse(const QString &address);
 
-    /// Fills a report of one interface, "demo0", which has `localAddress` (IPv4) with a prefix length of 24.
+    /// Replaces `report` by one of a single interface, "demo0", which has `localAddress` (IPv4) with a prefix
+    /// length of 24. Found devices with an IPv4 address outside this network are counted as foreign.
     void fill(SearchReport &report, const QString &localAddress) const;
 
 private:

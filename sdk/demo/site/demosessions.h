@@ -1,4 +1,4 @@
-// The open sessions.
+// The open sessions of the simulated network library.
 #pragma once
 
 #include <QString>
@@ -15,12 +15,14 @@ namespace sdk::demo {
 struct DemoSession
 {
     QString mac;
-    int localPort = 0;     ///< of the port agent; 0 for a direct session
+    int localPort = 0; ///< of the port agent, through which the session reaches the device; 0 for a direct
+                       ///< session
     bool hasEnded = false; ///< the device has rebooted since the login, and rejects the session
     QString account = {};
     QString password = {};      ///< as the device has accepted it at the login or by a change
     std::int64_t handle = 0;    ///< set by DemoSessions
-    std::stop_token calls = {}; ///< set by DemoSessions: stopped when the calls that run now are cancelled
+    std::stop_token calls = {}; ///< set by DemoSessions::session(): stopped when the calls that run at that
+                                ///< time are cancelled or the session is closed
 };
 
 /// Thread-safe. Handles are not reused. A call of a session is cancelled by its stop token

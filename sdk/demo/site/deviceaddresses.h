@@ -9,11 +9,11 @@
 
 namespace sdk::demo {
 
-/// Not thread-safe.
+/// Not thread-safe: SiteState uses it with its lock held.
 class DeviceAddresses
 {
 public:
-    /// Adds the device with its IPv4 and its IPv6 address.
+    /// Adds the device with its IPv4 and its IPv6 address. Empty addresses are left out.
     void add(const SceneDevice &device);
 
     /// Removes the device. Its addresses must be those with which it was added.

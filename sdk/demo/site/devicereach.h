@@ -30,15 +30,15 @@ struct DeviceReach
 
 // Both lock the site during the call, so the caller must not hold its lock. They do not block.
 
-/// Connects to `port` of `address` (IPv4 or IPv6), which must be a port of the `kind`. If the address is
-/// 127.0.0.1 and `port` is a local port of the port agent, the device behind it is the only candidate.
-/// Otherwise the first device of the scene that responds at the address is the result. A remote device
-/// responds only through the port agent.
+/// Connects to `port` of `address` (IPv4 or IPv6). The device responds if `port` is its port of the `kind`.
+/// If the address is 127.0.0.1 and `port` is a local port of the port agent, the device behind it is the only
+/// candidate; the mapped port must be of the `kind`. Otherwise the first device of the scene that responds at
+/// the address is the result. A remote device responds only through the port agent.
 [[nodiscard]] DeviceReach reach(const SiteState &site, const QString &address, int port,
                                 DevicePort kind = DevicePort::Service);
 
 /// Whether the device of `session` still responds. A direct session follows its device to a new address. A
-/// session through the port agent needs its tunnel.
+/// session through the port agent needs its tunnel. Not evaluated: DemoSession::hasEnded and the password.
 [[nodiscard]] bool isReachable(const SiteState &site, const DemoSession &session);
 
 } // namespace sdk::demo

@@ -32,9 +32,10 @@ public:
     void add(const RecordedRequest &request);
     void clear();
 
+    /// The stored requests, the oldest first.
     [[nodiscard]] QList<RecordedRequest> all() const;
 
-    /// The requests of one operation.
+    /// The stored requests of one operation, the oldest first.
     [[nodiscard]] QList<RecordedRequest> of(const QString &operation) const;
 
     /// Blocks until the log contains at least `count` requests of `operation`, for tests that follow another

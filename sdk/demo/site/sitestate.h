@@ -1,5 +1,5 @@
-// The state of a simulated site: its devices, its clock and the log of its requests. DemoSite adds the
-// libraries.
+// The state of a simulated site: its devices, its clock and the log of its requests. DemoSite, the only
+// concrete class, adds the libraries.
 #pragma once
 
 #include "sdk/demo/scene/scene.h"
@@ -56,7 +56,7 @@ public:
     void forEachDeviceAt(const QStringList &addresses,
                          const std::function<void(const SceneDevice &)> &visitor) const;
 
-    /// Replaces the device of the same MAC, or adds `device` at the end of the site.
+    /// Replaces the device of the same MAC, or adds `device` at the end of the site. Stores a copy.
     void setDevice(const SceneDevice &device);
 
     // These four return false, without an effect, when the site has no such device.

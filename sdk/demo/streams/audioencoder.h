@@ -1,4 +1,4 @@
-// The audio of a live stream: a quiet tone.
+// The audio of a simulated live stream: a quiet tone.
 #pragma once
 
 #include "sdk/demo/device/streamsettings.h"
@@ -14,7 +14,7 @@ public:
     /// if `settings` has none.
     [[nodiscard]] static std::unique_ptr<AudioEncoder> open(const StreamSettings &settings, double pitch);
 
-    /// The pitch of a channel (from 0). Neighbouring channels are in harmony.
+    /// The pitch of a channel (from 0), in Hz. Neighbouring channels are in harmony.
     [[nodiscard]] static double pitchOf(std::int32_t channel);
 
     /// The parameters of the encoding. Owned by this object.

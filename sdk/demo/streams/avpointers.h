@@ -1,4 +1,5 @@
-// Owners of objects of the codec libraries, and the packets that the encoders exchange.
+// Owning pointers of FFmpeg's objects, which sdk/streams/avpointers.h defines, and the packets that the
+// encoders produce.
 #pragma once
 
 #include "sdk/streams/avpointers.h"

@@ -8,15 +8,17 @@
 
 namespace sdk::demo {
 
-/// Not thread-safe.
+/// Converts regions of a test card from RGB to the format of the encoder, and keeps the complete frame. Not
+/// thread-safe.
 class CardFrame
 {
 public:
-    /// A frame with the size, format and colours of `encoder`, whose content is undefined until the complete
-    /// card is painted. Returns null without memory.
+    /// A frame with the size, format and colour space of `encoder` (used during the call only), whose content
+    /// is undefined until the complete card is painted. Returns null if there is no memory.
     [[nodiscard]] static std::unique_ptr<CardFrame> create(const AVCodecContext &encoder);
 
-    /// Replaces a region of the frame, which must be inside the frame. Returns false on failure.
+    /// Replaces a region of the frame, which must be inside the frame. Returns false if it cannot be
+    /// converted, or there is no memory.
     [[nodiscard]] bool paint(const TestCard::Region &region);
 
     /// The frame for VideoEncoder::encode(). Owned by this object.

@@ -15,7 +15,8 @@ namespace sdk::demo {
 [[nodiscard]] TestCard testCardOf(const SceneDevice &device, std::int32_t channel, LiveStreamKind kind,
                                   const StreamSettings &settings);
 
-/// Used by one thread at a time. The settings do not change: other settings need another production.
+/// Draws the test card and the tone of a channel and encodes them; it does not time the frames. Used by one
+/// thread at a time. The settings do not change: other settings need another production.
 class LiveProduction
 {
 public:
@@ -36,7 +37,7 @@ public:
     /// cannot be written.
     [[nodiscard]] std::unique_ptr<streams::MatroskaWriter> openWriter() const;
 
-    /// Encodes the frame with the index `number` and the audio before it, and appends both to `packets`.
+    /// Encodes the frame with the index `number` and the audio up to it, and appends both to `packets`.
     /// Indexes count frame durations since the start of the production; they increase, and skip dropped
     /// frames. `deviceTime` is the time of the device's clock that the card shows, in ms since 1970. With
     /// `isKey` the frame is a key frame. Returns false if an encoder fails.

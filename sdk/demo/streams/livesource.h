@@ -16,10 +16,11 @@ namespace sdk::demo {
 class DemoSessions;
 class SiteState;
 
-/// One kind of stream of one channel. A separate thread generates the frames at the times of the site's
-/// clock, encodes them once and passes them to each viewer, on this thread. It sleeps without viewers: while
-/// no stream has a handler. It ends the streams whose session has ended, and all streams when the device
-/// stops sending or the host cannot encode. Thread-safe.
+/// One kind of stream (main or sub) of one channel. A separate thread generates the frames at the times of
+/// the site's clock, encodes them once and passes them to each viewer (a LiveStream), on this thread. It
+/// sleeps without viewers: while no stream has a handler. It ends the streams whose session has ended, and
+/// all watched streams when the device stops sending or the host cannot encode. A change of the channel's
+/// settings restarts the streams with the new encoding. Thread-safe.
 class LiveSource
 {
 public:
@@ -27,9 +28,9 @@ public:
     /// is too slow or the clock was stepped far.
     static constexpr std::chrono::milliseconds longestDelay{200};
 
+    /// The device, the channel and the kind of stream are those of `order`; its other members are not used.
     /// `site` and `sessions` must outlive the source. Throws std::system_error if the host provides no
     /// thread.
-    /// The device, the channel and the kind of stream are those of `order`; its other members are not used.
     LiveSource(SiteState &site, const DemoSessions &sessions, LiveStreamOrder order);
 
     /// Joins the thread, so it waits for running handlers. Must not run in a handler.

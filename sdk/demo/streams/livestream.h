@@ -26,13 +26,16 @@ struct LiveStreamOrder
     std::int64_t startTime = 0; ///< the earliest time of data, on the site's clock
 };
 
-/// One viewer of a LiveSource. Thread-safe, except for the functions of the source's thread.
+/// One viewer of a LiveSource, which encodes for all viewers of a channel. A stream writes the encoded
+/// packets to its own container and passes the bytes to its handler, on the source's thread. Thread-safe,
+/// except for the functions of that thread.
 class LiveStream
 {
 public:
     /// The maximum size of a chunk of data, in bytes.
     static constexpr std::size_t maximumChunk = 16384;
 
+    /// `handle` is passed to the handler.
     LiveStream(std::int64_t handle, LiveStreamOrder order) : m_handle(handle), m_order(std::move(order)) {}
 
     [[nodiscard]] const LiveStreamOrder &order() const { return m_order; }

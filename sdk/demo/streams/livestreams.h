@@ -19,8 +19,9 @@ public:
     /// `site` and `sessions` must outlive this object.
     LiveStreams(SiteState &site, const DemoSessions &sessions) : m_site(site), m_sessions(sessions) {}
 
-    /// Opens a stream, which sends data once it has a handler. Does not check whether the device has such a
-    /// stream. Returns the handle, which is valid until it is closed; 0 if the host provides no thread.
+    /// Opens a stream, which sends data once it has a handler and its start time has come. Does not check
+    /// whether the device has such a stream. Returns the handle, which is valid until it is closed, also
+    /// after the end of the stream; 0 if the host provides no thread.
     [[nodiscard]] std::int64_t open(const LiveStreamOrder &order);
 
     /// The parameters of the stream; nullopt for an unknown handle.

@@ -13,12 +13,13 @@ namespace sdk::demo {
 /// The labels of a test card.
 struct TestCardLabels
 {
-    QString name;    ///< of the device, in any script; drawn as dots if the application has no fonts
-    QString details; ///< ASCII only
+    QString name;    ///< of the device, in any script; drawn by drawBitmapText() if the program has no fonts
+    QString details; ///< drawn by drawBitmapText(), so only with characters of its font
 };
 
-/// The static part is drawn once, by the constructor. The moving regions are drawn for each frame. Used by
-/// one thread at a time, which need not be that of the window.
+/// An image with colours, lines and labels, and a moving hand, slider and clock. The static part is drawn
+/// once, by the constructor. The moving regions are drawn for each frame. Used by one thread at a time, which
+/// need not be that of the window.
 class TestCard
 {
 public:

@@ -23,8 +23,8 @@ struct SceneDevice;
 /// The parameters of an upgrade.
 struct UpgradeOrder
 {
-    std::int64_t loginHandle = 0;
-    DemoSession session;
+    std::int64_t loginHandle = 0;             ///< of the session
+    DemoSession session;                      ///< its device is upgraded, and must stay reachable through it
     std::optional<FirmwareHead> firmware;     ///< nullopt: the device refuses the file after its transfer
     UpgradeProgressHandler handler = nullptr; ///< not null
     void *user = nullptr;
@@ -35,6 +35,7 @@ struct UpgradeOrder
 class DeviceUpgrade
 {
 public:
+    // Durations of the phases, on the site's clock.
     static constexpr std::chrono::milliseconds usualSending{8000}; ///< unless the device has UpgradeTakes
     static constexpr std::chrono::milliseconds writing{5000};
 

@@ -1,4 +1,4 @@
-// The upgrades of all sessions.
+// The upgrades of all sessions of the simulated network library.
 #pragma once
 
 #include "sdk/demo/upgrade/deviceupgrade.h"
