@@ -24,22 +24,25 @@ struct AddressOrder
     std::chrono::milliseconds rebootTime{120000};
 };
 
-/// Logs in to the device, writes the gateway and then the address, and reboots the device if it requires
-/// that. Blocks, and succeeds when the same device responds at the new address. With DHCP it succeeds when
-/// the device has accepted the request. If the device refuses the gateway at first, the gateway is written
-/// again after the change of the address. If the device refuses the address, a written gateway is restored.
+/// Logs in to the device with the device service `service`, writes the gateway and then the address, and
+/// reboots the device if it requires that. Blocks, and returns NetError::None when the same device responds
+/// at the new address. With DHCP it returns None when the device has accepted the request. If the device
+/// refuses the gateway at first, the gateway is written again after the change of the address. If the device
+/// refuses the address, a written gateway is restored.
 ///
 /// `deadline` limits the requests up to the reboot. The wait for the new address ends at `deadline` or at the
 /// timeout of the order, whichever is later.
 ///
-/// A stop of this thread's CallStop ends the requests before the first change: the result is then Cancelled.
-/// Later it ends only the wait for the new address, with Unconfirmed. Cancelling `http` ends every request.
+/// A stop of this thread's CallStop (the caller has cancelled the operation) ends the requests before the
+/// first change: the result is then Cancelled. Later it ends only the wait for the new address, with
+/// Unconfirmed. Cancelling `http`, which sends the requests, ends every request.
 ///
 /// Errors before anything is changed: InvalidValue for an invalid mask or an empty address, without DHCP
 /// only; AddressInUse if the device is not the one with `AddressOrder::mac`; NotSupported if the device
-/// reports no interface to change; the errors of OnvifSession::open(). Errors of the change: the reason of
-/// the device to refuse the address or the reboot. Errors after the change: Unconfirmed if no device responds
-/// at the new address, AddressInUse if another device responds there, otherwise the error of the gateway.
+/// reports no interface to change; the errors of the login (OnvifSession::open()). Errors of the change: the
+/// reason of the device to refuse the address or the reboot; with DHCP also the error of a lost response.
+/// Errors after the change: Unconfirmed if no device responds at the new address, AddressInUse if another
+/// device responds there, otherwise the error of the gateway.
 [[nodiscard]] NetError changeAddress(const ServiceAddress &service, const std::shared_ptr<HttpClient> &http,
                                      const HttpLogin &login, const AddressOrder &order,
                                      SoapClient::Deadline deadline);

@@ -9,10 +9,12 @@
 namespace sdk::onvif {
 
 /// Creates the administrator `account` on a device that has none. If an account of that name exists, it gets
-/// the password and becomes an administrator instead. All requests are sent without a login. At last the
-/// function checks that the device refuses a request without a login. Blocks until `deadline` at most.
+/// the password and becomes an administrator instead. `service` is the device service, `http` sends the
+/// requests; all are sent without a login. At last the function checks that the device refuses a request
+/// without a login. Blocks until `deadline` at most. Returns NetError::None if the account is created and the
+/// check has succeeded.
 ///
-/// `mac` is the MAC of the intended device in the form of canonicalMac(), empty if it is unknown.
+/// `mac` is the MAC of the intended device, "02:1a:c5:00:40:17"; empty if it is unknown.
 ///
 /// Errors before anything is changed: NotSupported if the device refuses requests without a login, because it
 /// has an administrator; AddressInUse if the device reports the MACs of all its interfaces and `mac` is not

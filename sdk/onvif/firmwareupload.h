@@ -17,13 +17,13 @@ namespace sdk::onvif {
 
 class FirmwareTransfer;
 
-/// The uploads by handle, each with a thread. Thread-safe.
+/// The uploads of the firmware files of all sessions, by handle, each with a thread. Thread-safe.
 ///
 /// A device responds to the upload after it has received the complete file. It does not report the progress
 /// of writing. So the phase Writing starts when the last byte is sent and ends with the response.
 ///
 /// A handle stays valid after Done or Failed, until it is closed. The functions that close uploads block
-/// until the threads of the uploads have ended. Handlers and `accepted` must not call them.
+/// until the threads of the uploads have ended, so handlers and `accepted` must not call them.
 class FirmwareUploads
 {
 public:
@@ -36,13 +36,14 @@ public:
     /// True for a file that can be opened and is not empty. `fileName` is in the local 8-bit encoding.
     [[nodiscard]] static bool isReadable(const std::string &fileName);
 
-    /// Starts the upload of the file and returns immediately. The file is sent after the delay that the
-    /// device has requested, 60 s at most, and the upload fails after 30 min. The progress is passed to
-    /// `handler` (null for none) on the thread of the upload, possibly before the return: Sending with the
-    /// percentage of the sent bytes, Writing, and at last Done or Failed. Failed has the error: WrongPassword
-    /// for a refused login, FirmwareRefused for another refusal, or the failure of the connection. `accepted`
+    /// Starts the upload of the file and returns immediately. `upload` is the response of the device to the
+    /// request for an upgrade. The file is sent to its address with `login`, after the delay that the device
+    /// has requested, 60 s at most, and the upload fails after 30 min. The progress is passed to `handler`
+    /// (null for none) on the thread of the upload, possibly before the return: Sending with the percentage
+    /// of the sent bytes, Writing with 0, and at last Done or Failed. Failed has the error: WrongPassword for
+    /// a refused login, FirmwareRefused for another refusal, or the failure of the connection. `accepted`
     /// must not be empty. It is called on that thread when the device has accepted the file, before Done is
-    /// reported. Returns the handle; 0 when no thread can be created.
+    /// reported. Returns the handle, above 0; 0 when no thread can be created.
     [[nodiscard]] std::int64_t open(LLONG loginHandle, const FirmwareUpload &upload, const HttpLogin &login,
                                     const std::string &fileName, UpgradeProgressHandler handler, void *user,
                                     const std::function<void()> &accepted);

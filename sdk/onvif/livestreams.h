@@ -16,14 +16,15 @@
 
 namespace sdk::onvif {
 
-/// Connects an RtspStream to the handler of the library's caller. The handler runs on the thread of the
-/// stream. After start() has succeeded, any thread may call the other functions. The handler must not call
-/// setHandler() or stop(), which wait until it has returned.
+/// Connects an RtspStream, which receives the video of a device, to the handler of the library's caller. The
+/// handler runs on the thread of the stream. After start() has succeeded, any thread may call the other
+/// functions. The handler must not call setHandler() or stop(), which wait until it has returned.
 class LiveStream
 {
 public:
-    /// `profile` is the token of the stream's media profile. `onRefusal` must not be empty. It is called on
-    /// the stream's thread when the device refuses the password.
+    /// `handle` is passed to the handler. `loginHandle` is the session of the stream. `profile` is the token
+    /// of the stream's media profile, the device's name for the settings of a stream. `onRefusal` must not be
+    /// empty. It is called on the stream's thread when the device refuses the password.
     LiveStream(std::int64_t handle, LLONG loginHandle, std::string profile, std::function<void()> onRefusal);
 
     /// Starts the stream. To be called once, before the other functions. Blocks until the device plays, the
@@ -42,7 +43,7 @@ public:
     /// reported. The previous handler does not run after the call.
     void setHandler(RealDataHandler handler, void *user);
 
-    /// Makes the stream start again with a header, see RtspStream::restart(). Returns immediately.
+    /// Makes the stream start again with a header at its next key frame. Returns immediately.
     void restart();
 
     /// Ends the stream and blocks until its thread has ended. No handler runs after the call.
@@ -78,7 +79,7 @@ class LiveStreams
 {
 public:
     /// Opens a stream and blocks as LiveStream::start(), whose error is stored in `error`. Returns the handle
-    /// of the stream, which close() frees; 0 on failure. `onRefusal` as for LiveStream.
+    /// of the stream, above 0, which close() frees; 0 on failure. `onRefusal` as for LiveStream.
     [[nodiscard]] std::int64_t open(LLONG loginHandle, const std::string &profile, const RtspOrder &order,
                                     const std::function<void()> &onRefusal, NetError &error);
     /// The stream of a handle; null for an invalid handle.
@@ -87,7 +88,7 @@ public:
     /// Stops the stream and frees its handle. Returns false for an invalid handle.
     bool close(std::int64_t handle);
     void closeAllOf(LLONG loginHandle); ///< closes the streams of one session
-    void closeAll();
+    void closeAll();                    ///< closes the streams of all sessions
 
 private:
     mutable std::mutex m_mutex;

@@ -20,9 +20,14 @@
 namespace sdk::onvif {
 
 /// Accesses devices by the ONVIF services and RTSP (docs/onvif.md). netlibrary.h states the effect, the
-/// threads and the lifetimes of each operation. NetGetLastError() returns values of NetError. A parameter
-/// without a name in the sources has no effect, for instance the local address of a search. The destructor
-/// calls NetCleanup().
+/// threads and the lifetimes of each operation. NetGetLastError() returns values of NetError: InvalidValue
+/// for malformed arguments and before NetInit, SessionEnded for an invalid handle of a session.
+///
+/// These parameters have no effect: the local address of a search and of an initialisation, the `wait` of a
+/// local search, `unused1`, `unused2`, `window`, `flag` and `reserved`, and the channel of NetQueryConfig,
+/// NetSetDeviceSetting and NetStreamFollowUp. There is one kind of search: NetStartSearchDevicesEx repeats
+/// NetStartSearchDevices, NetSearchDevicesByIPsEx returns immediately. Calls that must not be made from a
+/// handler are not detected. The destructor calls NetCleanup().
 class OnvifNetLibrary : public NetLibrary
 {
 public:

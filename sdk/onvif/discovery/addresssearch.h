@@ -20,9 +20,10 @@ namespace sdk::onvif {
 class HttpClient;
 class SearchCounters;
 
-/// One search: a probe of WS-Discovery to each address, then a request over HTTP (ports 80 and 8080) to each
-/// address without a response. A device that responds to the probe is reported even if its inspection fails.
-/// An address that accepts HTTP is reported only if it responds as an ONVIF device.
+/// One search: a probe of WS-Discovery (a UDP message) to each address, then a request over HTTP (ports 80
+/// and 8080) to each address without a response. Each device is inspected, by requests without a login,
+/// before it is reported. A device that responds to the probe is reported even if its inspection fails. An
+/// address that accepts HTTP is reported only if it responds as an ONVIF device.
 class AddressSearch
 {
 public:

@@ -29,9 +29,10 @@ namespace sdk::onvif {
 
 class HttpClient;
 
-/// Finds devices by WS-Discovery. Thread-safe. The handlers of local searches run one at a time, on threads
-/// of the object, and on the calling thread of start(). Handlers must not call start(), stop() or cancel(),
-/// which wait for them.
+/// Finds devices by WS-Discovery: messages that are sent to multicast groups or to single addresses. A
+/// message in which a device describes itself is its announcement. Thread-safe. The handlers of local
+/// searches run one at a time, on threads of the object, and on the calling thread of start(). Handlers must
+/// not call start(), stop() or cancel(), which wait for them.
 ///
 /// A device is inspected before it is reported: a request without a login determines its state, so that its
 /// row is complete when it appears. If the device does not respond to that request, or if the inspections
@@ -50,20 +51,20 @@ public:
     DeviceDiscovery(const DeviceDiscovery &) = delete;
     DeviceDiscovery &operator=(const DeviceDiscovery &) = delete;
 
-    /// Starts a search of the networks of all interfaces: sends probes to the groups, repeats them once, and
-    /// receives messages until stop(). Devices that running searches have found are passed to `handler`
-    /// before the return. Returns the handle of the search; 0 for a null `handler`, if no interface can be
-    /// searched, and after cancel().
+    /// Starts a search of the networks of all interfaces and returns: sends probes to the groups, repeats
+    /// them once, and receives messages until stop(). Devices that running searches have found are passed to
+    /// `handler` before the return. Returns the handle of the search, above 0; 0 for a null `handler`, if no
+    /// interface can be searched, and after cancel().
     std::int64_t start(SearchResponseHandler handler, void *user);
 
     /// Ends a search. Its handler does not run after the call. The end of the last running search drops the
     /// inspections that have not begun. Returns false for an invalid handle.
     bool stop(std::int64_t handle);
 
-    /// Searches each address as AddressSearch, and blocks until all are done, `wait` has passed or cancel()
-    /// is called. `handler` is called with the handle 0 on other threads during the call, one call at a time.
-    /// An address that does not respond to a probe is queried over HTTP, since routers do not always forward
-    /// probes. Returns immediately after cancel().
+    /// Searches each address by AddressSearch, and blocks until all are done, `wait` has passed or cancel()
+    /// is called. `handler` is called with the handle 0 on other threads during the call, one call at a time,
+    /// never after it. An address that does not respond to a probe is queried over HTTP, since routers do not
+    /// always forward probes. Returns immediately after cancel() and for a null `handler`.
     void searchAddresses(const std::vector<std::string> &addresses, SearchResponseHandler handler, void *user,
                          std::chrono::milliseconds wait);
 
@@ -73,9 +74,9 @@ public:
     void fillReport(SearchReport &report) const;
 
     /// The device service at an address and port for a request. It is the service that a search of this
-    /// object has found there. If none has, the service has the path of the standard, HTTPS if
-    /// isHttpsPort(port), and the identity of a device that was found at another port of the address. Sends
-    /// nothing.
+    /// object has found there. If none has, the service has the path of the standard, HTTPS at the ports 443
+    /// and 8443, and the identity (MAC or UUID) of a device that was found at another port of the address.
+    /// Sends nothing.
     [[nodiscard]] ServiceAddress serviceAt(const std::string &address, int port) const;
 
     /// To be called after the address of the device with the service `from` has changed: serviceAt() then

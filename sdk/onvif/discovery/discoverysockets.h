@@ -40,12 +40,13 @@ public:
     std::size_t sendToGroups(const std::string &message, const SendObserver &observer = {});
 
     /// Sends a message to one address, from the first socket of its family that can send it. Returns 0 when
-    /// one has sent it, otherwise the system's error number of the last failure.
+    /// one has sent it, otherwise the system's error number of the last failure; ENETUNREACH without a socket
+    /// of the family.
     [[nodiscard]] int sendTo(const std::string &message, const SocketAddress &address);
 
     /// Waits up to `milliseconds` until a datagram arrives or wake() is called. Passes the datagrams that
-    /// have arrived to `receiver` on the calling thread, at most `maximumDatagrams`, so that a continuous
-    /// sender does not block the caller.
+    /// have arrived to `receiver` on the calling thread, at most 1000, so that a continuous sender does not
+    /// block the caller.
     void receive(int milliseconds, const Receiver &receiver);
 
     /// Ends a wait in receive(); if none runs, the next one ends immediately.

@@ -13,10 +13,10 @@ struct FoundDevice
 {
     std::string address = {};      ///< sender of its response; with the interface for a link-local address
     std::string localAddress = {}; ///< of this host, that received the response; empty if unknown
-    ServiceAddress service = {};   ///< its device service
-    DeviceAnnouncement announcement = {};
-    std::string mac = {};     ///< "02:1a:c5:00:40:17"; empty if unknown
-    bool isNeighbour = false; ///< `mac` is from the neighbour table of this host
+    ServiceAddress service = {};   ///< its device service, to which requests are sent
+    DeviceAnnouncement announcement = {}; ///< the content of its message, which any host may have forged
+    std::string mac = {};                 ///< "02:1a:c5:00:40:17"; empty if unknown
+    bool isNeighbour = false;             ///< `mac` is from the neighbour table of this host
     InitialisationBits state = InitialisationBits::NotReported;
 
     // Known only for a device without an administrator; otherwise empty, and `dhcp` is false.
@@ -40,7 +40,7 @@ struct FoundDevice
 /// True if the host of an announced service is `address`, with or without its interface.
 [[nodiscard]] bool namesOwnService(const DeviceAnnouncement &announcement, const std::string &address);
 
-/// The device as the block that search handlers receive.
+/// The device as the block that search handlers receive. Strings that do not fit their fields are truncated.
 [[nodiscard]] SearchResponse searchResponseOf(const FoundDevice &device);
 
 /// "255.255.255.0" for 24; empty for a length outside 1 to 32.

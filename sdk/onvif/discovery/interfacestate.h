@@ -10,8 +10,9 @@ namespace sdk::onvif {
 struct InterfaceState
 {
     std::string name = {};
-    std::string address = {};   ///< as addressText() writes it; empty if there is none
-    int prefixLength = 0;       ///< of `address`
+    std::string address = {};   ///< IPv4, or link-local IPv6 with its interface ("fe80::1%eth0"); empty if
+                                ///< there is none
+    int prefixLength = 0;       ///< of `address`; 0 without one
     bool isUp = false;          ///< enabled in the operating system
     bool hasLink = false;       ///< a cable or a peer is connected
     bool sendsToGroups = false; ///< can send multicast

@@ -8,11 +8,12 @@
 
 namespace sdk::onvif {
 
-/// Assigns each MAC to one device, since a MAC identifies a device in lists and a message may contain any
-/// MAC. The device is the one with the MAC in the neighbour table of this host (FoundDevice::isNeighbour),
-/// otherwise the first one that announced it. A device is known by its address and UUID. IPv4 and IPv6
-/// addresses have separate assignments. A second device at the same address, such as a factory-new device,
-/// does not get the MAC that the neighbour table has for that address. Not thread-safe.
+/// Assigns each MAC to one of the devices that a search has found, since a MAC identifies a device in lists
+/// and a message may contain any MAC. The device is the one with the MAC in the neighbour table of this host
+/// (FoundDevice::isNeighbour), otherwise the first one that announced it. A device is known by its address
+/// and UUID. IPv4 and IPv6 addresses have separate assignments, since a device responds over both. A second
+/// device at the same address, such as a factory-new device, does not get the MAC that the neighbour table
+/// has for that address. Not thread-safe.
 class MacHolders
 {
 public:

@@ -6,9 +6,10 @@
 
 namespace sdk::onvif {
 
-/// MAC addresses in the form of canonicalMac() by network address in the form of addressText(), of both
-/// address families, from the present table of the operating system. Entries whose MAC is still being
-/// resolved are omitted. Empty where the system provides no such table. Sends nothing to the network.
+/// MAC addresses ("02:1a:c5:00:40:17") by network address ("192.168.1.101", "fe80::1%eth0"), of both address
+/// families, from the present table of the operating system. The table has the addresses of local networks
+/// with which this host has communicated lately. Entries whose MAC is still being resolved are omitted. Empty
+/// where the system provides no such table. Sends nothing to the network. Any thread may call it.
 [[nodiscard]] std::unordered_map<std::string, std::string> neighbourTable();
 
 } // namespace sdk::onvif

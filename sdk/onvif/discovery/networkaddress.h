@@ -19,7 +19,8 @@ struct SocketAddress
 };
 
 /// Reads an IPv4 address, or an IPv6 address without brackets. A link-local IPv6 address has the name or
-/// number of its interface behind "%". Nothing for host names: a search accepts addresses only.
+/// number of its interface behind "%". `port` is 0 to 65535. Nothing for host names: a search accepts
+/// addresses only.
 [[nodiscard]] std::optional<SocketAddress> socketAddress(const std::string &address, int port);
 
 /// The string of the address, with the interface of a link-local address; without brackets and port. Empty on
@@ -32,7 +33,7 @@ struct NetworkInterface
     std::string name = {};
     unsigned int index = 0;
     bool isIPv4 = true;
-    std::string address = {}; ///< as addressText() writes it
+    std::string address = {}; ///< as addressText() writes it: link-local ones with their interface
     bool isLoopback = false;
 };
 

@@ -26,7 +26,7 @@ enum class ProbeKind
 [[nodiscard]] std::string probeMessage(ProbeKind kind);
 
 /// The information that a device announces. Its form is checked, its truth is not: any host of the network
-/// can send it. Strings are empty if they are not announced.
+/// can send it. Strings are empty if they are not announced, and truncated after 120 bytes.
 struct DeviceAnnouncement
 {
     bool isLeaving = false; ///< a Bye message
@@ -36,7 +36,7 @@ struct DeviceAnnouncement
     std::string name = {};
     std::string model = {};
     std::string location = {};
-    std::string mac = {};    ///< "02:1a:c5:00:40:17"; empty if the scopes contain none
+    std::string mac = {};    ///< "02:1a:c5:00:40:17"; empty if the scopes (URIs with properties) have none
     bool isRecorder = false; ///< a type in its scopes contains "recorder"
 };
 
@@ -55,9 +55,10 @@ struct DiscoveryMessage
     std::size_t otherDevices = 0;                       ///< number of announcements with other types only
 };
 
-/// Reads a datagram. Announcements after the first `maximumMatches` are ignored. An invalid datagram gives
-/// Kind::Unreadable.
+/// Announcements in one datagram after this number are ignored.
 inline constexpr std::size_t maximumMatches = 16;
+
+/// Reads a datagram. An invalid datagram gives Kind::Unreadable.
 [[nodiscard]] DiscoveryMessage readDiscoveryMessage(std::string_view datagram);
 
 } // namespace sdk::onvif

@@ -20,8 +20,8 @@ struct ReportedDevice
     std::string localAddress = {}; ///< of this host, that received its response
 };
 
-/// Counters by the local address that a message was sent from or received at. Thread-safe. The counters stay
-/// at their largest value. A message whose local address is unknown (empty) does not appear in a report.
+/// Counters by the address of this host that a message was sent from or received at. Thread-safe. A counter
+/// stops at its largest value. A message whose local address is unknown (empty) does not appear in a report.
 class SearchCounters
 {
 public:
@@ -41,9 +41,10 @@ public:
     /// Counts a device that was reported by a search of single addresses.
     void noteRespondingAddress();
 
-    /// Replaces `report` by the counters, for `interfaces` and the found `devices`. Interfaces after the
-    /// first `maximumReportedInterfaces` are omitted, and so are loopback interfaces unless there are no
-    /// others.
+    /// Replaces `report` by the counters, for the present `interfaces` of this host and the found `devices`,
+    /// from which it derives the obstacles, the devices of each interface and the foreign devices. Interfaces
+    /// after the first `maximumReportedInterfaces` (64) are omitted, and so are loopback interfaces unless
+    /// there are no others.
     void fill(SearchReport &report, const std::vector<InterfaceState> &interfaces,
               const std::vector<ReportedDevice> &devices) const;
 

@@ -6,7 +6,7 @@
 
 namespace sdk::onvif {
 
-/// Timeouts of a live stream.
+/// Timeouts of a live stream, in real time. One that passes ends the stream.
 struct RtspTimeouts
 {
     std::chrono::milliseconds response{5000};  ///< from the start until the device plays

@@ -5,6 +5,7 @@
 
 namespace sdk::onvif {
 
+/// Why a stream has ended, or could not be started.
 enum class StreamEnd
 {
     Stopped,           ///< by its owner
@@ -18,12 +19,12 @@ enum class StreamEnd
     Unreachable,       ///< there is no route to the address
     NoResponse,        ///< the device did not respond in time
     Redirected,        ///< the device announces another address for the session or the data; it is not used
-    Oversized,         ///< a response exceeds the limits of ReplyWatch
+    Oversized,         ///< a response has too many lines, bytes or tracks
     Malformed,         ///< the response is not RTSP
     Unsupported,       ///< no decodable video track, no common transport, or no login method but plain text
                        ///< or an unknown digest
-    NoKeyFrame,        ///< no key frame arrived within RtspTimeouts::keyFrame
-    NoData,            ///< no video packet arrived for RtspTimeouts::silence
+    NoKeyFrame,        ///< no key frame arrived within its timeout (RtspTimeouts::keyFrame, 20 s)
+    NoData,            ///< no video packet arrived within its timeout (RtspTimeouts::silence, 10 s)
     Ended,             ///< the device ended the stream or the connection
     Failed,            ///< a failure of this host: no memory, or the container cannot be written
 };

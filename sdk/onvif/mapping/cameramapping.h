@@ -1,10 +1,11 @@
 // The image settings of a video source by the operations of the imaging service.
 //
 // Channels are counted from 0. The functions send requests to the device, and block until `deadline` at most.
-// They fail with NotSupported for a device without the imaging service and for a channel, item or group that
-// the device does not have, with InvalidValue for a block of another size or a mode that the device does not
-// offer, and with the errors of the requests. A written number outside its range is limited to the range; a
-// value that the source lacks is not written. A failed reading leaves `block` and `output` unchanged.
+// They return NetError::None on success. They fail with NotSupported for a device without the imaging service
+// and for a channel, item or group that the device does not have, with InvalidValue for a block of another
+// size or a mode that the device does not offer, and with the errors of the requests. Levels of the device
+// are percentages in the blocks. A written number outside its range is limited to the range; a value that the
+// source lacks is not written. A failed reading leaves `block` and `output` unchanged.
 #pragma once
 
 #include "sdk/camerablocks.h"
@@ -19,8 +20,8 @@ namespace sdk::onvif {
 /// have the same values. On failure `error` is set and the text is empty.
 [[nodiscard]] std::string colorConfiguration(OnvifSession &session, int channel,
                                              OnvifSession::Deadline deadline, NetError &error);
-/// Writes the values that `text` has for CameraMode::Normal to the source; those of the other modes are
-/// ignored. InvalidValue for an invalid text.
+/// Writes the values of `text` for CameraMode::Normal to the source; those of the other modes are ignored. A
+/// value that the text lacks is written as 0. InvalidValue for an invalid text.
 [[nodiscard]] NetError setColorConfiguration(OnvifSession &session, int channel, std::string_view text,
                                              OnvifSession::Deadline deadline);
 

@@ -1,10 +1,11 @@
 // The encode settings of a channel by the operations of the media services.
 //
 // Channels are counted from 0. A channel has the streams StreamKind::MainNormal and Sub; Sub may be missing.
-// The functions send requests to the device, and block until `deadline` at most. They fail with NotSupported
-// for a channel or stream that the device does not have, with InvalidValue for a block of another size or a
-// value that the standard cannot express, and with the errors of the requests. Reading may use profiles of up
-// to OnvifSession::recently ago. Writing reads the present profiles, and clears the cache of the session.
+// The functions send requests to the device, and block until `deadline` at most. They return NetError::None
+// on success. They fail with NotSupported for a channel or stream that the device does not have, with
+// InvalidValue for a block of another size or a value that the standard cannot express, and with the errors
+// of the requests. Reading may use profiles of up to OnvifSession::recently ago. Writing reads the present
+// profiles, and clears the cache of the session.
 #pragma once
 
 #include "sdk/encodeblocks.h"
@@ -20,8 +21,9 @@ namespace sdk::onvif {
 [[nodiscard]] std::string encodeConfiguration(OnvifSession &session, int channel,
                                               OnvifSession::Deadline deadline, NetError &error);
 /// Writes the streams one after another, MainNormal first. A stream whose video is disabled in `text` is
-/// skipped, and so is the sound of a stream whose sound is disabled in `text` or missing at the device. The
-/// first error ends the call; the earlier streams stay written. InvalidValue for an invalid text.
+/// skipped, and so is the sound of a stream whose sound is disabled in `text` or missing at the device.
+/// Values that `text` lacks count as 0. The first error ends the call; the earlier streams stay written.
+/// InvalidValue for an invalid text.
 [[nodiscard]] NetError setEncodeConfiguration(OnvifSession &session, int channel, std::string_view text,
                                               OnvifSession::Deadline deadline);
 
@@ -35,8 +37,8 @@ namespace sdk::onvif {
                                      const void *block, std::uint32_t size, OnvifSession::Deadline deadline);
 
 /// Fills `output`, whose size field is set by the caller, from the options that the device reports for the
-/// encoders of `input.channel`. A stream that the channel lacks has EncodeValue::Stream in `missingValues`.
-/// After an error, `output` is unchanged.
+/// encoders of `input.channel`; `input.text` is not used. A stream that the channel lacks has
+/// EncodeValue::Stream in `missingValues`. After an error, `output` is unchanged.
 [[nodiscard]] NetError encodeCapabilities(OnvifSession &session, const EncodeCapabilityInput &input,
                                           EncodeCapabilities &output, OnvifSession::Deadline deadline);
 

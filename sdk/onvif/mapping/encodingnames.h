@@ -1,5 +1,5 @@
-// Numbers of codecs and formats in blocks (encodeblocks.h), and their names in the standard. The names are
-// those of VideoEncoder and AudioEncoder, in upper and lower case as there.
+// Numbers of codecs and formats in blocks (encodeblocks.h), and their names in the ONVIF standard. Names are
+// compared with their case: "H264", "G711".
 #pragma once
 
 #include <cstdint>

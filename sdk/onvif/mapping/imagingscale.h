@@ -1,4 +1,4 @@
-// Conversion between values of a device's range and percentages of the pages.
+// Conversion between values in a device's range and the percentages that the blocks and the pages use.
 #pragma once
 
 #include "sdk/onvif/services/imagingservice.h"

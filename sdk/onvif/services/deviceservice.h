@@ -14,6 +14,7 @@
 
 namespace sdk::onvif {
 
+/// The identity of a device, as it reports it.
 struct DeviceInformation
 {
     std::string manufacturer = {};
@@ -37,11 +38,12 @@ struct DateTime
     [[nodiscard]] bool isValid() const;
 };
 
+/// The clock of a device, as it reports it or as it is to be set.
 struct DeviceClock
 {
-    bool followsNtp = false;
+    bool followsNtp = false;            ///< the time comes from a time server
     bool daylightSaving = false;        ///< the zone's rule is applied
-    std::string timeZone = {};          ///< POSIX 1003.1 string, empty if the device does not report it
+    std::string timeZone = {};          ///< POSIX 1003.1 ("CST-8"), empty if the device does not report it
     std::optional<DateTime> utc = {};   ///< nothing if it is not reported or invalid
     std::optional<DateTime> local = {}; ///< the same
 };
@@ -51,7 +53,7 @@ struct DeviceInterface
 {
     std::string token = {};
     bool isEnabled = true;
-    std::string mac = {}; ///< as canonicalMac() writes it; empty if unknown
+    std::string mac = {}; ///< "02:1a:c5:00:40:17"; empty if unknown
     bool hasIPv4 = false; ///< IPv4 is configured and enabled
     bool dhcp = false;
     /// The IPv4 address in use: with DHCP the leased one, otherwise the manual or the link-local one. Empty
@@ -61,6 +63,7 @@ struct DeviceInterface
     std::vector<std::string> ipv6Addresses = {};
 };
 
+/// A protocol of a device and its port.
 struct DeviceProtocol
 {
     std::string name = {}; ///< "HTTP", "HTTPS", "RTSP"
@@ -68,12 +71,14 @@ struct DeviceProtocol
     int port = 0; ///< 0 if not reported or invalid
 };
 
+/// An account of a device, without its password.
 struct DeviceUser
 {
     std::string name = {};
     std::string level = {}; ///< "Administrator", "Operator", "User", "Anonymous", "Extended"
 };
 
+/// The time server of a device.
 struct NtpSettings
 {
     bool fromDhcp = false;   ///< the device gets its server by DHCP
@@ -83,19 +88,23 @@ struct NtpSettings
 /// The parameters of a firmware upload.
 struct FirmwareUpload
 {
-    ServiceAddress address = {};
+    ServiceAddress address = {};      ///< for a POST with the content of the file
     std::chrono::seconds delay{0};    ///< to wait before sending
     std::chrono::seconds downTime{0}; ///< offline time after the upload, 0 if not reported
 };
 
-/// Operations of one device. Each blocks until the response has arrived or `deadline` has passed.
-/// SoapResponse and SoapClient state the errors. Used by one thread; several objects may share the client.
+/// Operations of one device, created for a call or a few. Each sends a request and blocks until the response
+/// has arrived or `deadline` has passed. Errors are ConnectTimeout, ConnectFailed, NetworkFailure and the two
+/// of certificates for the connection, WrongPassword, AccountLocked and SessionEnded for the login,
+/// NotSupported, InvalidValue and Refused for the request, ProtocolMismatch for the response; SoapResponse
+/// and SoapClient state the details. Used by one thread; several objects may share the client.
 class DeviceService
 {
 public:
     using Deadline = SoapClient::Deadline;
 
-    /// `client` and `address` must outlive the object.
+    /// `client` has the login and sends the requests to `address`; both must outlive the object. `deadline`
+    /// limits all operations together.
     DeviceService(SoapClient &client, const ServiceAddress &address, Deadline deadline);
 
     // Without the login. WrongPassword means that the device requires a login.
@@ -105,6 +114,7 @@ public:
     /// some respond with all their users or with an empty list.
     [[nodiscard]] ServiceResult<std::vector<DeviceUser>> usersOpenly();
     [[nodiscard]] ServiceResult<std::vector<DeviceInterface>> interfacesOpenly();
+    /// Creates an account with the level "Administrator".
     [[nodiscard]] ServiceOutcome createAdministratorOpenly(const std::string &name,
                                                            const std::string &password);
 

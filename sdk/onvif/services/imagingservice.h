@@ -17,6 +17,7 @@ struct ImagingRange
     double minimum = 0;
     double maximum = 0;
 
+    /// False for equal or reversed ends, such as those of a range that the device does not report.
     [[nodiscard]] bool isUsable() const { return maximum > minimum; }
 };
 
@@ -91,19 +92,23 @@ struct ImagingOptions
     std::vector<std::string> irCutFilterModes = {};
     std::vector<std::string> stabilisationModes = {};
     std::vector<std::string> defoggingModes = {};
-    bool hasDefoggingLevel = false;
-    bool hasNoiseReduction = false;
+    bool hasDefoggingLevel = false; ///< its range is 0 to 1
+    bool hasNoiseReduction = false; ///< its range is 0 to 1
 };
 
-/// Operations of the imaging service, with the login of the client. `sourceToken` is
-/// MediaProfile::sourceToken. Each operation blocks until the response has arrived or `deadline` has passed.
-/// SoapResponse and SoapClient state the errors. Used by one thread; several objects may share the client.
+/// Operations of the imaging service, with the login of the client. `sourceToken` is the device's name of a
+/// video source (MediaProfile::sourceToken). Each operation sends a request and blocks until the response has
+/// arrived or `deadline` has passed. Errors are ConnectTimeout, ConnectFailed, NetworkFailure and the two of
+/// certificates for the connection, WrongPassword, AccountLocked and SessionEnded for the login,
+/// NotSupported, InvalidValue and Refused for the request, ProtocolMismatch for the response; SoapResponse
+/// and SoapClient state the details. Used by one thread; several objects may share the client.
 class ImagingService
 {
 public:
     using Deadline = SoapClient::Deadline;
 
-    /// `client` and `address` must outlive the object.
+    /// `client` has the login and sends the requests to `address`; both must outlive the object. `deadline`
+    /// limits all operations together.
     ImagingService(SoapClient &client, const ServiceAddress &address, Deadline deadline);
 
     [[nodiscard]] ServiceResult<ImagingSettings> settings(const std::string &sourceToken);

@@ -1,5 +1,7 @@
 // The media services (ONVIF Media and Media 2): profiles of video sources, and the addresses of their
-// streams. "The older service" is Media, "the newer service" is Media 2.
+// streams. "The older service" is Media, "the newer service" is Media 2. A token is the identifier that a
+// device gives to an object. Strings of profiles are truncated after 256 bytes, URLs after 1024, lists of
+// options after 64 entries. Numbers are limited to 0 to 1,000,000.
 #pragma once
 
 #include "sdk/onvif/services/serviceresult.h"
@@ -26,7 +28,7 @@ struct VideoEncoder
     bool constantBitRate = false; ///< always false in the older service
 };
 
-/// The settings of an audio encoder.
+/// The settings of an audio encoder. A number or string that the device does not report is 0 or empty.
 struct AudioEncoder
 {
     std::string token = {};
@@ -79,23 +81,26 @@ struct AudioEncodingOptions
     std::vector<int> sampleRates = {}; ///< kHz
 };
 
-/// Operations of a media service, with the login of the client. Each blocks until the response has arrived or
-/// `deadline` has passed. SoapResponse and SoapClient state the errors. Used by one thread; several objects
-/// may share the client.
+/// Operations of a media service, with the login of the client. Each sends a request and blocks until the
+/// response has arrived or `deadline` has passed. Errors are ConnectTimeout, ConnectFailed, NetworkFailure
+/// and the two of certificates for the connection, WrongPassword, AccountLocked and SessionEnded for the
+/// login, NotSupported, InvalidValue and Refused for the request, ProtocolMismatch for the response;
+/// SoapResponse and SoapClient state the details. Used by one thread; several objects may share the client.
 class MediaService
 {
 public:
     using Deadline = SoapClient::Deadline;
 
-    /// `client` and `address` must outlive the object.
+    /// `client` has the login and sends the requests to `address`, the service of that `version`; both must
+    /// outlive the object. `deadline` limits all operations together.
     MediaService(SoapClient &client, const ServiceAddress &address, MediaVersion version, Deadline deadline);
 
     /// Reads all profiles of the device; those after the first `maximumProfiles` are ignored.
     static constexpr std::size_t maximumProfiles = 2048;
     [[nodiscard]] ServiceResult<std::vector<MediaProfile>> profiles();
 
-    /// The RTSP URL of a stream, unchecked: it contains the device's address as the device knows it. It is
-    /// valid for RTP interleaved in the connection and for RTP over UDP.
+    /// The RTSP URL of the stream of a profile, unchecked: it contains the device's address as the device
+    /// knows it. It is requested for RTP within the RTSP connection; empty if the response contains none.
     [[nodiscard]] ServiceResult<std::string> streamUrl(const std::string &profileToken);
     /// The URL of a JPEG image of the stream over HTTP, unchecked as well.
     [[nodiscard]] ServiceResult<std::string> snapshotUrl(const std::string &profileToken);
@@ -103,8 +108,9 @@ public:
     /// Requests that the stream continues with a key frame.
     [[nodiscard]] ServiceOutcome requestKeyFrame(const std::string &profileToken);
 
-    // Encoders. `profileToken` is the profile that the encoder belongs to. A list has one entry for each
-    // encoding that the encoder supports.
+    // The options of encoders. `encoderToken` is VideoEncoder::token or AudioEncoder::token, `profileToken`
+    // the profile that the encoder belongs to. A list has one entry for each encoding that the encoder
+    // supports.
 
     [[nodiscard]] ServiceResult<std::vector<VideoEncodingOptions>>
     videoOptions(const std::string &encoderToken, const std::string &profileToken);
@@ -115,10 +121,11 @@ public:
     // settings are kept, except settings outside the standard, which are not sent. They fail with
     // ProtocolMismatch, without writing, if the device does not return the settings of the token.
 
-    /// Changes the encoder `encoder.token`. An empty profile and a key interval of 0 are not written. The
-    /// frame rate and the bit rate are not written to a device that does not report a rate control.
+    /// Changes the encoder `encoder.token` to the values of `encoder`. An empty profile and a key interval of
+    /// 0 are not written. The frame rate and the bit rate are not written to a device that does not report a
+    /// rate control.
     [[nodiscard]] ServiceOutcome setVideoEncoder(const VideoEncoder &encoder);
-    /// Changes the encoder `encoder.token`.
+    /// Changes the encoder `encoder.token` to the values of `encoder`.
     [[nodiscard]] ServiceOutcome setAudioEncoder(const AudioEncoder &encoder);
 
     /// Changes MediaProfile::sourceName. `configurationToken` is MediaProfile::sourceConfiguration.

@@ -9,18 +9,20 @@
 
 namespace sdk::onvif {
 
-/// The returned value of an operation, or its error. SoapResponse and SoapClient state the errors.
+/// The returned value of an operation (a request to a service of a device), or its error. SoapResponse and
+/// SoapClient state the errors.
 template<typename Value>
 struct ServiceResult
 {
     NetError error = NetError::None;
-    std::string reason = {}; ///< the text of the device's fault, for a log; empty without a fault
+    std::string reason = {}; ///< the text of the device's fault (its error response), for a log; empty
+                             ///< without a fault
     Value value = {};        ///< default-constructed on an error
 
     [[nodiscard]] bool isOk() const { return error == NetError::None; }
 };
 
-/// For operations that return nothing.
+/// The value of operations that return nothing.
 struct Nothing
 {
 };

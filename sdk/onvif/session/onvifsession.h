@@ -16,7 +16,8 @@
 
 namespace sdk::onvif {
 
-/// A video source with the profiles of its main and its sub stream.
+/// A video source of a device, which is a channel of the library, with the profiles (stream settings) of its
+/// main and its sub stream. Tokens are identifiers that the device gives.
 struct MediaChannel
 {
     std::string sourceToken = {};
@@ -24,18 +25,20 @@ struct MediaChannel
     std::string subProfile = {};  ///< token; empty if all profiles of the source have the same encoder
 };
 
-/// A login at a device. The properties that open() reads do not change later. Thread-safe: operations on one
-/// device are independent requests and need no order. The destructor sends nothing.
+/// A login at a device, for the sessions of NetLibrary. ONVIF has no sessions: each request contains the
+/// login. The properties that open() reads do not change later. Thread-safe: operations on one device are
+/// independent requests and need no order. The destructor sends nothing.
 class OnvifSession
 {
 public:
     using Deadline = SoapClient::Deadline;
 
-    /// Logs in and reads the properties of the device. Blocks until `deadline` at most. `error` is set in
-    /// either case; on failure the result is null. SoapResponse and SoapClient state the errors. NotSupported
-    /// for a device without an administrator, and for a device that returns everything, including its users,
-    /// without a login: the password cannot be checked there. A device without media services has a session
-    /// without channels.
+    /// Logs in to the device service `service` and reads the properties of the device. `http` sends the
+    /// requests of the session. Blocks until `deadline` at most. `error` is set in either case, to None on
+    /// success; on failure the result is null. SoapResponse and SoapClient state the errors: WrongPassword,
+    /// for instance. NotSupported for a device without an administrator, and for a device that returns
+    /// everything, including its users, without a login: the password cannot be checked there. A device
+    /// without media services has a session without channels.
     [[nodiscard]] static std::shared_ptr<OnvifSession> open(const ServiceAddress &service,
                                                             const HttpLogin &login,
                                                             const std::shared_ptr<HttpClient> &http,
@@ -44,7 +47,9 @@ public:
     /// Used by open(). The object has no properties of the device yet.
     OnvifSession(const ServiceAddress &service, std::unique_ptr<SoapClient> client);
 
+    /// The client with the login; owned by the session.
     [[nodiscard]] SoapClient &client() { return *m_client; }
+    /// The device service, for operations up to `deadline`. The session must outlive the object.
     [[nodiscard]] DeviceService device(Deadline deadline) { return {*m_client, m_service, deadline}; }
 
     /// The newer media service, otherwise the older one; nothing if the device has neither. The session must
@@ -83,7 +88,8 @@ public:
     /// The calls that run on the session. Their cancellation does not affect later calls.
     [[nodiscard]] RunningCalls &calls() { return m_calls; }
 
-    /// Ends the running calls, for the end of the session. Later calls fail with NetworkFailure.
+    /// Ends the running calls, for the end of the session, without waiting for them. Later calls fail with
+    /// NetworkFailure.
     void cancel();
 
 private:

@@ -10,15 +10,15 @@
 
 namespace sdk::onvif {
 
-/// A zone by IEEE Std 1003.1, section 8.3.
+/// A zone by IEEE Std 1003.1, section 8.3. Devices report and accept zones in this form.
 struct PosixTimeZone
 {
     std::string name = {};          ///< of standard time
     int offset = 0;                 ///< minutes that local standard time is ahead of UTC
     std::string daylightName = {};  ///< empty for a zone without daylight saving
     int daylightOffset = 0;         ///< minutes ahead of UTC
-    DaylightSavingPoint begin = {}; ///< in standard time
-    DaylightSavingPoint end = {};   ///< in daylight saving time
+    DaylightSavingPoint begin = {}; ///< of daylight saving, in standard time
+    DaylightSavingPoint end = {};   ///< of daylight saving, in daylight saving time
 
     [[nodiscard]] bool hasDaylightSaving() const { return !daylightName.empty(); }
 

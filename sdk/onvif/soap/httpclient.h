@@ -37,9 +37,10 @@ struct HttpResponse
     HttpEnd end = HttpEnd::NotReached;
     long status = 0; ///< HTTP status; 0 without a response
     std::string body = {};
-    bool offersDigest = false; ///< the last response contains a challenge for HTTP Digest
+    bool offersDigest = false; ///< the last response contains a challenge for HTTP Digest, any algorithm
 };
 
+/// The account of a request. Strings are UTF-8.
 struct HttpLogin
 {
     std::string account = {};

@@ -1,4 +1,4 @@
-// The category of all log messages of sdk/onvif.
+// The log category of sdk/onvif: "configtools.sdk.onvif". Messages contain no passwords.
 #pragma once
 
 #include <QLoggingCategory>

@@ -1,4 +1,4 @@
-// The namespaces of the messages that devices exchange by the open standard.
+// The XML namespaces (URIs) of the messages that are exchanged with devices by the open standards.
 #pragma once
 
 #include <string_view>

@@ -7,9 +7,10 @@
 
 namespace sdk::onvif {
 
-/// The element wsse:Security, as an XML text, for the header of one request. It contains the account and the
-/// digest of the password with a new random nonce and `deviceTime`. `deviceTime` is the present time of the
-/// device's clock: a device refuses a token whose time differs from its clock by minutes.
+/// The element wsse:Security, as an XML text, for the header of one request (SoapRequest::text()). It
+/// contains the account and the digest of the password with a new random nonce and `deviceTime`. `deviceTime`
+/// is the present time of the device's clock, in UTC: a device refuses a token whose time differs from its
+/// clock by minutes.
 [[nodiscard]] std::string passwordToken(std::string_view account, std::string_view password,
                                         std::chrono::system_clock::time_point deviceTime);
 

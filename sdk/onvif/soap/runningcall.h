@@ -6,9 +6,10 @@
 
 namespace sdk::onvif {
 
-/// One call on the thread that creates and destroys the object; it lasts as long as the object. A thread has
-/// at most one object at a time. When `stop` is stopped by any thread, waits for the device on the call's
-/// thread end: HttpClient and LiveStream::start() check it.
+/// One call of an operation on the thread that creates and destroys the object; it lasts as long as the
+/// object. A thread has at most one object at a time. When `stop` is stopped by any thread, waits for the
+/// device on the call's thread end within a fraction of a second: HttpClient and LiveStream::start() check
+/// it.
 class RunningCall
 {
 public:
@@ -21,7 +22,7 @@ public:
     [[nodiscard]] static std::stop_token stopOfThisThread();
 };
 
-/// The calls of one session. Thread-safe.
+/// Ends the calls of one session: gives each call the stop token for its RunningCall. Thread-safe.
 class RunningCalls
 {
 public:

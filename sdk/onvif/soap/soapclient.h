@@ -30,9 +30,9 @@ enum class LoginMethod
 ///
 /// Errors of the connection: ConnectFailed for a closed port, ConnectTimeout for a device that is not reached
 /// or does not respond in time, UnknownCertificate, ChangedCertificate, NetworkFailure for a broken or
-/// cancelled exchange. Errors of the device: WrongPassword, AccountLocked, NotSupported for an unknown
-/// operation, InvalidValue for refused parameters, Refused for any other fault. ProtocolMismatch for a
-/// response that is too large or not of the protocol.
+/// cancelled exchange. Errors of the device: WrongPassword, AccountLocked, SessionEnded (see SoapClient),
+/// NotSupported for an unknown operation, InvalidValue for refused parameters, Refused for any other fault.
+/// ProtocolMismatch for a response that is too large or not of the protocol.
 struct SoapResponse
 {
     NetError error = NetError::None;
@@ -67,6 +67,7 @@ public:
     /// failure. Called on the thread of a call.
     using ClockReader = std::function<std::optional<std::chrono::milliseconds>(Deadline deadline)>;
 
+    /// `http` (not null) sends the requests. Other clients may share it.
     SoapClient(HttpLogin login, std::shared_ptr<HttpClient> http);
 
     /// To be set before the first call. Without a reader, the clock is not read again.
@@ -100,8 +101,8 @@ public:
     /// The error of every further call, after the device has refused the password; nothing before.
     [[nodiscard]] std::optional<NetError> refusal() const;
 
-    /// Notes that the device has refused `refused` in another protocol, such as RTSP. Without effect if the
-    /// login of the client is no longer `refused`.
+    /// Notes that the device has refused `refused` in another protocol, such as RTSP: further calls then fail
+    /// as after a refused call. Without effect if the login of the client is no longer `refused`.
     void setRefused(const HttpLogin &refused);
 
     /// The present account and password.

@@ -1,4 +1,4 @@
-// Building of requests.
+// Building of requests to the services of a device.
 #pragma once
 
 #include "sdk/onvif/soap/xmldocument.h"
@@ -50,8 +50,8 @@ void setAttribute(pugi::xml_node element, std::string_view name, std::string_vie
 /// omitted, so that the request is valid.
 pugi::xml_node appendCopy(pugi::xml_node parent, std::string_view name, const XmlElement &element);
 
-/// Replaces the text of the first child "tt:" + `name`. Returns false, without a change, if there is no such
-/// child.
+/// Replaces the text of the first child "tt:" + `name` (`name` has no prefix). Returns false, without a
+/// change, if there is no such child.
 bool setChild(pugi::xml_node parent, std::string_view name, std::string_view text);
 
 } // namespace sdk::onvif

@@ -51,7 +51,7 @@ public:
     /// The attribute of that local name, empty if there is none.
     [[nodiscard]] std::string_view attribute(std::string_view name) const;
 
-    /// The element for copying. Its names have the device's prefixes.
+    /// The element as a node of the parser, for copying. Its names have the device's prefixes.
     [[nodiscard]] pugi::xml_node node() const { return m_node; }
     /// The URI of the element's namespace; empty if its prefix is not declared.
     [[nodiscard]] std::string_view uri() const;

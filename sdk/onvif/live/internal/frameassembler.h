@@ -12,9 +12,10 @@
 
 namespace sdk::onvif {
 
-/// FFmpeg's RTP depacketizers deliver H.264 and H.265 as fragments of the stream's units, with start codes. A
-/// frame is complete when the first slice of the next frame arrives, or when the owner calls finish(). Frames
-/// of other codecs arrive complete and are delivered immediately. Used by one thread.
+/// FFmpeg's RTP depacketizers deliver H.264 and H.265 as fragments of the stream's NAL units, with start
+/// codes. A frame consists of one or several units with image data (slices) and units with parameters. It is
+/// complete when the first slice of the next frame arrives, or when the owner calls finish(). Frames of other
+/// codecs arrive complete and are delivered immediately. Used by one thread.
 class FrameAssembler
 {
 public:
@@ -25,6 +26,7 @@ public:
     /// A larger frame of H.264 or H.265 is dropped. No camera sends such frames.
     static constexpr std::size_t mostBytes = std::size_t{8} * 1024 * 1024;
 
+    /// `codec` is the codec of the video track. `handler` must not be empty.
     FrameAssembler(AVCodecID codec, Handler handler) : m_codec(codec), m_handler(std::move(handler)) {}
 
     /// Appends the next fragment, and delivers the frame before it if that frame is now complete. `time` is

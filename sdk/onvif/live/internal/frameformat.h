@@ -10,7 +10,8 @@
 
 namespace sdk::onvif {
 
-/// Follows the frame size and the parameter sets of a video track from frame to frame. Used by one thread.
+/// Follows the frame size and the parameter sets (units that a decoder needs before the first frame) of a
+/// video track from frame to frame. Used by one thread.
 class FrameFormat
 {
 public:
@@ -23,8 +24,8 @@ public:
     /// that a decoder needs are known from this frame, earlier ones or the description.
     [[nodiscard]] bool examine(std::span<const std::uint8_t> frame);
 
-    /// The parameters of the track with the size and the parameter sets of its frames. Valid after examine()
-    /// has returned true; null when memory is exhausted.
+    /// The parameters of the track for a container: with the size of its frames in pixels, and with their
+    /// parameter sets as extradata. Valid after examine() has returned true; null when memory is exhausted.
     [[nodiscard]] streams::AvPointer<AVCodecParameters> parameters() const;
 
     /// True if `other`, an earlier result of parameters(), has the present size and parameter sets.

@@ -14,8 +14,9 @@
 
 namespace sdk::onvif {
 
-/// Assembles the frames of a video track, and writes them and the packets of a sound track to the container.
-/// Everything before the first key frame is dropped. Used by one thread, except `mustRestart`.
+/// Assembles the frames of a video track, and writes them and the packets of a sound track, with continuous
+/// timestamps, to the container of live streams (Matroska). Everything before the first key frame is dropped.
+/// Used by one thread, except `mustRestart`.
 class Remuxer
 {
 public:
@@ -24,8 +25,8 @@ public:
     using BytesHandler = std::function<void(std::span<const std::uint8_t>)>;
 
     /// A frame counts as complete if no fragment follows within this time. The time is longer than the delay
-    /// of a connection after a lost packet, and longer than the interval of frames at more than three frames
-    /// per second.
+    /// of a connection after a lost packet. Above three frames per second, the next frame arrives earlier and
+    /// completes it.
     static constexpr std::chrono::milliseconds longestWait{300};
 
     /// `sound` is null for a stream without sound. The tracks must outlive the remuxer. Any thread may set
@@ -37,8 +38,9 @@ public:
     Remuxer(const Remuxer &) = delete;
     Remuxer &operator=(const Remuxer &) = delete;
 
-    /// Adds a packet of any track of the session, with its timestamp in the time base of its track. The
-    /// packet stays the caller's. Returns true if it belongs to the video track.
+    /// Adds a packet of any track of the session, with its timestamp in the time base of its track. Packets
+    /// of other tracks are ignored. The packet stays the caller's. Returns true if it belongs to the video
+    /// track.
     bool add(const AVPacket &packet);
 
     /// Writes the present frame if no fragment has followed within `longestWait`. To be called repeatedly

@@ -1,4 +1,4 @@
-// Checks the RTSP responses of a device.
+// Checks the RTSP responses of a device, since FFmpeg's client trusts them.
 #pragma once
 
 #include "sdk/onvif/live/streamend.h"

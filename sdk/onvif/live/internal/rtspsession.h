@@ -13,15 +13,15 @@
 
 namespace sdk::onvif {
 
-/// FFmpeg's RTSP client with limits of time, of size and of the addresses that it may connect to. Used by the
-/// thread that creates it.
+/// FFmpeg's RTSP client with limits of time, of size and of the addresses that it may connect to. It delivers
+/// packets; the caller assembles frames. Used by the thread that creates it.
 class RtspSession
 {
 public:
     using Time = std::chrono::steady_clock::time_point;
 
-    /// `stop` ends the session with StreamEnd::Stopped. `whenWaiting` is called by read() about ten times per
-    /// second while no data arrive, and also between data.
+    /// Connects to nothing yet. `stop` ends the session with StreamEnd::Stopped. `whenWaiting` (not empty) is
+    /// called by read() about ten times per second while no data arrive, and also between data.
     RtspSession(RtspAddress address, const RtspTimeouts &timeouts, std::stop_token stop,
                 std::function<void()> whenWaiting);
 

@@ -1,4 +1,5 @@
-// The NAL units of H.264 and H.265 streams with start codes (three or four bytes).
+// The NAL units of H.264 and H.265 streams with start codes (three or four bytes). A unit contains a slice,
+// the image data of a frame or of its part, or parameters and other information.
 #pragma once
 
 #include "sdk/streams/avpointers.h"

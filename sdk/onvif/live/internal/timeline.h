@@ -14,7 +14,8 @@ class Timeline
 {
 public:
     /// The continuous timestamp of a packet with the timestamp `time`, which arrived at `arrival` on a steady
-    /// clock. A packet without a timestamp gets the last result plus the time elapsed since.
+    /// clock. The first one is unchanged, 0 without a timestamp. A later packet without a timestamp gets the
+    /// last result plus the time elapsed since.
     [[nodiscard]] std::int64_t continuousTime(std::optional<std::int64_t> time, std::int64_t arrival);
 
     static constexpr std::int64_t largestStep = 5'000'000; ///< largest difference from the elapsed time
