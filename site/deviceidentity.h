@@ -1,4 +1,4 @@
-// The identifiers of a device on the network.
+// The identifiers of a simulated device on the network: its ports, URLs and names.
 #pragma once
 
 #include "sdk/demo/scene/scene.h"
@@ -18,15 +18,18 @@ inline constexpr const char *deviceServicePath = "/onvif/device_service";
 /// "urn:uuid:...": a hash of the MAC, so that it never changes and does not contain the MAC.
 [[nodiscard]] QString endpointOf(const sdk::demo::SceneDevice &device);
 
-/// The scopes that a device announces, such as "onvif://www.onvif.org/name/Gate". Names are percent-encoded.
+/// The scopes that a device announces in discovery: URIs with its properties, such as
+/// "onvif://www.onvif.org/name/Gate". Names are percent-encoded. `manner` decides whether media 2 is
+/// included.
 [[nodiscard]] QStringList scopesOf(const sdk::demo::SceneDevice &device, const DeviceManner &manner);
 
 /// A URL without its path: "http://192.168.1.101", "https://[fd00::31]:8443". The usual port of the scheme is
 /// omitted.
 [[nodiscard]] QString serviceRoot(const QString &address, int port, bool isSecure = false);
 
-/// The identity for a request over `ipVersion` (4 or 6). It has the IPv4 and the IPv6 address of the device.
-/// The first one is of that family, if the device has one.
+/// The identity for a request over `ipVersion` (4 or 6). It has the URLs of the device service at the IPv4
+/// and the IPv6 address of the device, without those that the device does not have. The first one is of that
+/// family, if the device has one.
 [[nodiscard]] DiscoveryIdentity discoveryIdentity(const sdk::demo::SceneDevice &device,
                                                   const DeviceManner &manner, int ipVersion);
 

@@ -13,29 +13,32 @@
 
 namespace site {
 
-/// The result of a check of a login.
+/// The result of a check of a login. A login is successful if `level` is not Anonymous.
 struct LoginOutcome
 {
     UserLevel level = UserLevel::Anonymous; ///< of the client; Anonymous if the login is missing or refused
     QString user;          ///< the requested user, also if it is refused; empty if no password was checked
     bool wasTried = false; ///< a user name and a password were checked
     bool isStale = false;  ///< the nonce has expired: no password was checked
-    QString reason = QStringLiteral("A user and a password are required"); ///< why `level` is Anonymous
+    QString reason = QStringLiteral("A user and a password are required"); ///< why `level` is Anonymous;
+                                                                           ///< else without a meaning
 };
 
-/// The logins over SOAP, HTTP and RTSP to the devices of a site. Wrong passwords of all protocols are counted
-/// together and lock the account, as LoginGuard specifies. Thread-safe.
+/// Checks the logins over SOAP, HTTP and RTSP to the devices of a site. Wrong passwords of all protocols are
+/// counted together, and lock the account of a device with Fault::AccountLocked (LoginGuard). Thread-safe.
 class DeviceLogins
 {
 public:
-    /// Checks a token. A token without a digest, and one whose time is more than five minutes away from
-    /// `utc`, counts as a wrong password. `utc` is the time of the device, in ms since 1970.
+    /// Checks the user-name token of a SOAP message. A token without a digest, and one whose time is more
+    /// than five minutes away from `utc`, counts as a wrong password. `utc` is the time of the device, in ms
+    /// since 1970.
     [[nodiscard]] LoginOutcome check(const sdk::demo::SceneDevice &device, const UserNameToken &token,
                                      std::int64_t utc);
 
     /// Checks the value of the header "Authorization" (may be empty) of a request of that HTTP or RTSP
     /// method. No password is checked for another scheme than Digest, an algorithm that the device does not
-    /// offer, and a nonce that is not valid. `now` is the time on the site's clock, in ms since 1970.
+    /// offer (`manner`), and a nonce that is not valid: the client may try again with a new challenge. `now`
+    /// is the time on the site's clock, in ms since 1970.
     [[nodiscard]] LoginOutcome check(const sdk::demo::SceneDevice &device, const DeviceManner &manner,
                                      const QByteArray &authorization, const QByteArray &method,
                                      std::int64_t now);

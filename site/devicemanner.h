@@ -1,4 +1,5 @@
-// The differences between makes of devices that the scene does not define.
+// The differences between makes of devices that the scene does not define. They follow from the type of a
+// device, so that clients are tested with several variants.
 #pragma once
 
 #include "sdk/demo/scene/scene.h"
@@ -27,13 +28,13 @@ enum class DigestChoice
 /// The behaviour of one make.
 struct DeviceManner
 {
-    XmlManner xml = XmlManner::UsualPrefixes;
-    bool takesToken = true;              ///< accepts user-name tokens in messages
-    bool takesDigest = true;             ///< accepts HTTP Digest in its services
-    bool offersMd5 = true;               ///< offers and accepts MD5 for Digest
-    bool offersSha256 = false;           ///< offers and accepts SHA-256 for Digest
-    bool hasMedia2 = true;               ///< has the second media service ("tr2")
-    bool changesAddressAtReboot = false; ///< changed addresses apply when a reboot is requested
+    XmlManner xml = XmlManner::UsualPrefixes; ///< the namespace prefixes of its messages
+    bool takesToken = true;                   ///< accepts user-name tokens in messages
+    bool takesDigest = true;                  ///< accepts HTTP Digest in its services
+    bool offersMd5 = true;                    ///< offers and accepts MD5 for Digest
+    bool offersSha256 = false;                ///< offers and accepts SHA-256 for Digest
+    bool hasMedia2 = true;                    ///< has the second media service ("tr2")
+    bool changesAddressAtReboot = false;      ///< changed addresses apply when a reboot is requested
 };
 
 /// The manner of the device's type, so that a site has different makes. `login` and `digest` replace its

@@ -1,10 +1,11 @@
+// The log category of the simulated site on a network: "configtools.site".
 #pragma once
 
 #include <QLoggingCategory>
 
 namespace site {
 
-/// The log lines of the simulated site on a network.
+/// Its warnings are failures of the host, such as a port that is in use.
 Q_DECLARE_LOGGING_CATEGORY(siteLog)
 
 } // namespace site

@@ -20,7 +20,8 @@ class HttpServer;
 class Poller;
 
 /// The interface and the sockets of one device of the scene. follow() adapts them to the state of the device.
-/// Used by one thread.
+/// Used by one thread. Messages and new connections are handled on the poller's thread, requests on threads
+/// of the servers.
 class ServedDevice
 {
 public:
@@ -34,7 +35,8 @@ public:
         RtspContext &rtsp;
     };
 
-    /// The device is not on the network before the first follow(). `interface` must not be null.
+    /// The device is not on the network before the first follow(). `mac` is the device's MAC in the site.
+    /// `interface` has that MAC and must not be null.
     ServedDevice(const Parts &parts, QString mac, std::unique_ptr<DeviceInterface> interface);
 
     /// Removes the device from the network without a Bye message. Ends its connections and waits for their
@@ -45,14 +47,15 @@ public:
 
     [[nodiscard]] const QString &mac() const { return m_mac; }
 
-    /// Updates the network to the state of the device. `now` is the time on the site's clock, in ms since
-    /// 1970. A device that goes offline leaves at once. Changed addresses and ports are used after 500 ms, so
-    /// that the response to the request that set them is sent from the old address; all connections end then.
-    /// A failure is logged, and the next change is the next attempt.
+    /// Updates the network to the state of the device: it appears with a Hello message when it is online. To
+    /// be called repeatedly. `now` is the time on the site's clock, in ms since 1970. A device that goes
+    /// offline leaves at once, as by leave(). Changed addresses and ports are used after 500 ms, so that the
+    /// response to the request that set them is sent from the old address; all connections end then. A
+    /// failure is logged, and the next change is the next attempt.
     void follow(const sdk::demo::SceneDevice &device, std::int64_t now);
 
-    /// Removes the device from the network, after a Bye message if its DiscoveryPort can send one. A further
-    /// follow() brings it back.
+    /// Removes the device from the network and ends its connections, after a Bye message if its DiscoveryPort
+    /// can send one. A further follow() brings it back.
     void leave();
 
 private:

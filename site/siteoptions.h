@@ -12,7 +12,7 @@ struct SiteOptions
 {
     LoginChoice login = LoginChoice::ByDevice;
     DigestChoice digest = DigestChoice::ByDevice;
-    QString recordFolder; ///< recordExchange() writes every message of a service here; empty for none
+    QString recordFolder; ///< every message of a service is written to a file in it; empty for none
     /// A device creates another HTTPS key at each start and after a change of its addresses or ports.
     /// Otherwise it keeps its key until the process ends.
     bool newKeys = false;

@@ -20,8 +20,8 @@ class DemoSite;
 
 namespace site {
 
-/// The devices of a site on an interface, with everything that they share. Used by one thread, whose network
-/// namespace contains the interface of the site.
+/// The devices of a site on a network interface of this host, with everything that they share. Used by one
+/// thread, whose network namespace contains the interface of the site.
 class SiteServer
 {
 public:
@@ -34,13 +34,14 @@ public:
     /// Removes the devices from the network, with Bye messages, and waits for all threads.
     ~SiteServer();
 
-    /// Connects the devices that the site has at the call to the interface of that name. Devices with an
-    /// objection (objectionTo()) are left out. On failure it returns false and sets `error` (not null) to an
-    /// English sentence; the server must be destroyed then. To be called once.
+    /// Connects the devices that the site has at the call to the interface of that name, which needs the
+    /// right to create network namespaces and interfaces, and puts those that are online on the network.
+    /// Devices with an objection (objectionTo()) are left out. On failure it returns false and sets `error`
+    /// (not null) to an English sentence; the server must be destroyed then. To be called once.
     [[nodiscard]] bool start(const QString &interfaceName, QString *error);
 
-    /// Updates the network to the state of the devices. A device that was removed from the site stays on the
-    /// network as it is.
+    /// Updates the network to the state of the devices, such as a changed address or a reboot. A device that
+    /// was removed from the site stays on the network as it is.
     void follow();
 
     /// The number of connected devices, also of those that are offline.

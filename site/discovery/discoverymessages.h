@@ -1,4 +1,5 @@
-// The discovery messages that devices receive and send.
+// The messages of WS-Discovery that devices receive and send: Probe and Resolve with their responses, Hello
+// and Bye.
 #pragma once
 
 #include "site/soap/xmlwriting.h"
@@ -22,6 +23,7 @@ struct DiscoveryRequest
         Probe,   ///< for devices of these types and scopes
         Resolve, ///< for the addresses of one device
     };
+    /// A type of devices, by its XML namespace and its local name.
     struct Type
     {
         std::string uri;
@@ -44,8 +46,8 @@ struct DiscoveryRequest
 /// The identity that a device announces.
 struct DiscoveryIdentity
 {
-    QString endpoint; ///< "urn:uuid:...", which never changes
-    QStringList scopes;
+    QString endpoint;      ///< "urn:uuid:...", which never changes
+    QStringList scopes;    ///< URIs with its properties
     QStringList addresses; ///< URLs of its device service
 };
 
@@ -59,6 +61,8 @@ struct DiscoverySequence
     std::int64_t instance = 0; ///< time of the start, in seconds since 1970
     std::int64_t number = 0;   ///< of the message, from 1
 };
+
+// The texts of messages, with the namespace prefixes of `manner`.
 
 /// The ProbeMatches or ResolveMatches for a request that matches.
 [[nodiscard]] QByteArray responseTo(const DiscoveryRequest &request, const DiscoveryIdentity &identity,

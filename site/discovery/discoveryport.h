@@ -18,9 +18,10 @@ namespace site {
 class DeviceInterface;
 class Poller;
 
-/// Responds to Probe and Resolve messages with the latency and the faults of the device. A device of another
-/// segment ignores messages to the multicast groups and responds only to those to its own address. To be
-/// created, used and destroyed on one thread; messages are handled on the poller's thread.
+/// Responds to Probe and Resolve messages with the latency and the faults of the device, and adds them to the
+/// site's log as "Discovery". A device of another segment ignores messages to the multicast groups and
+/// responds only to those to its own address. To be created, used and destroyed on one thread, which must not
+/// be the poller's; messages are handled on the poller's thread.
 class DiscoveryPort
 {
 public:
@@ -37,8 +38,8 @@ public:
     /// False if no socket is open: the port is in use, or the device has no address or has left the site.
     [[nodiscard]] bool isOpen() const;
 
-    // Send Hello or Bye to the multicast groups of the open sockets. A device of another segment sends
-    // nothing.
+    // Send Hello (the device appears) or Bye (it leaves) to the multicast groups of the open sockets. A
+    // device of another segment sends nothing.
     void sendHello();
     void sendBye();
 

@@ -10,7 +10,7 @@
 
 namespace site {
 
-/// The response of a client to a challenge. Missing parameters are empty.
+/// The response of a client to a challenge: the parameters of its header. Missing parameters are empty.
 struct DigestResponse
 {
     QString user;
@@ -45,6 +45,7 @@ public:
         Good,
     };
 
+    /// Generates the secret: nonces of another object are Foreign.
     DigestNonces();
 
     /// A nonce for the device. `now` is the time on the site's clock, in ms since 1970.
@@ -56,14 +57,16 @@ private:
     const QByteArray m_secret;
 };
 
+/// The hash algorithms of a challenge.
 enum class DigestAlgorithm
 {
     Md5,
     Sha256,
 };
 
-/// The value of a header "WWW-Authenticate". `realm` has no quotation marks. `isStale`: the client may repeat
-/// the request with this nonce and the same password.
+/// The value of a header "WWW-Authenticate" (qop "auth"). `realm` has no quotation marks. `isStale` reports
+/// that the nonce of the request has expired: the client may repeat the request with this nonce and the same
+/// password.
 [[nodiscard]] QByteArray digestChallenge(const QByteArray &realm, const QByteArray &nonce,
                                          DigestAlgorithm algorithm, bool isStale);
 

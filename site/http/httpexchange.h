@@ -18,11 +18,12 @@ struct HttpReceiver
     QString address;           ///< of the device, IPv4 or IPv6, as the client has reached it
     int port = 0;              ///< of the device, as the client has reached it
     bool isSecure = false;     ///< over TLS
-    std::stop_token stop = {}; ///< requested when the connection ends; a wait for the response ends then
+    std::stop_token stop = {}; ///< requested when the server ends the connection; a wait for the response
+                               ///< ends then
 };
 
-/// Receives a body in chunks, which are valid during the call. Returns false to close the connection without
-/// a response.
+/// Receives a body in chunks, which are valid during the call, on the thread of the connection. Returns false
+/// to close the connection without a response.
 using BodyReceiver = std::function<bool(QByteArrayView chunk)>;
 
 /// Responds to the requests to all devices. Its functions are called on the threads of connections, several
@@ -32,9 +33,9 @@ class HttpService
 public:
     virtual ~HttpService() = default;
 
-    /// Called before the body of a request is read. Returns a function for a body that may be too large to
-    /// keep; respond() gets an empty body then. Returns an empty function for a body that is passed to
-    /// respond().
+    /// Called before the body of a request is read, also for a request without a body. Returns a function for
+    /// a body that may be too large to keep; respond() gets an empty body then. Returns an empty function for
+    /// a body that is passed to respond(); a longer one than 128 KiB is refused then.
     [[nodiscard]] virtual BodyReceiver bodyReceiver(const HttpReceiver &receiver,
                                                     const sdk::demo::HttpRequest &head) = 0;
 

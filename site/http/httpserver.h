@@ -16,14 +16,15 @@ class Clock;
 
 namespace site {
 
-/// Serves each connection on a separate thread. Thread-safe.
+/// Serves each connection on a separate thread, by a HttpService. It opens no ports: the owners of the
+/// listening sockets call accept(). Thread-safe.
 class HttpServer
 {
 public:
     /// The limit of connections of one device; further ones are closed.
     static constexpr int mostConnectionsOfDevice = 16;
 
-    /// `service` and `clock` must outlive the server.
+    /// `service` and `clock` must outlive the server. `clock` times the delays of responses.
     HttpServer(HttpService &service, sdk::Clock &clock) : m_service(service), m_clock(clock) {}
 
     /// Ends the connections, even during a response, and waits for their threads.

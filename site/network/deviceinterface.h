@@ -50,7 +50,8 @@ public:
     [[nodiscard]] FileDescriptor openListener(int port) const;
 
     /// Receives datagrams to that UDP port of the device, at all its addresses and at the multicast address
-    /// `group`. The address family is that of `group`.
+    /// `group`, and sends from the interface. The address family is that of `group`. The control data of a
+    /// datagram have its destination (IP_PKTINFO, IPV6_PKTINFO).
     [[nodiscard]] FileDescriptor openDatagrams(int port, const QString &group) const;
 
 private:

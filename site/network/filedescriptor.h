@@ -1,3 +1,4 @@
+// An open file or socket with an owner.
 #pragma once
 
 #include <utility>

@@ -1,4 +1,4 @@
-// Requests to the kernel about interfaces, addresses and routes.
+// Requests to the Linux kernel about interfaces, addresses and routes.
 #pragma once
 
 #include <array>

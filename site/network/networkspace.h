@@ -7,7 +7,9 @@
 
 namespace site {
 
-/// A network namespace. It exists as long as a NetworkSpace of it, an open socket in it or a thread in it.
+/// A network namespace of the Linux kernel: a separate set of interfaces, addresses and routes. A thread is
+/// in one namespace, and its new sockets are in the same one. A namespace exists as long as a NetworkSpace of
+/// it, an open socket in it or a thread in it.
 class NetworkSpace
 {
 public:

@@ -32,9 +32,9 @@ public:
     /// timers are discarded. It cannot be started again. Must not be called by a handler.
     void stop();
 
-    /// Calls `readable` whenever the socket is readable, until remove(). The socket (its number) stays open
-    /// until then. `readable` must read from it or accept its connection; otherwise it is called again at
-    /// once.
+    /// Calls `readable` whenever the socket is readable, until remove(). `socket` is its number; the caller
+    /// keeps it open until then. `readable` must read from it or accept its connection; otherwise it is
+    /// called again at once.
     void watch(int socket, Handler readable);
 
     /// Ends watch(). Waits for a handler that is running; that of the socket does not run after the call.

@@ -5,6 +5,7 @@
 
 namespace site {
 
+/// An address and a port.
 struct SocketAddress
 {
     QString address; ///< without a zone; a mapped IPv4 address in its IPv4 form

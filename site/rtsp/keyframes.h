@@ -11,8 +11,8 @@
 
 namespace site {
 
-/// Counts the requests for key frames of the streams of all devices. A StreamFeeder compares the counts.
-/// Thread-safe.
+/// Counts the requests for key frames of the streams of all devices, by MAC and stream. Services and RTSP
+/// servers make requests; a StreamFeeder, which encodes a stream, compares the counts. Thread-safe.
 class KeyFrames
 {
 public:

@@ -17,7 +17,7 @@ struct RtspDevice
 {
     RtspContext &context;
     QString mac;
-    const NetworkSpace &space;
+    const NetworkSpace &space;              ///< of the device
     std::function<void()> closeClientsSoon; ///< returns at once; the poller's thread closes the clients
 };
 

@@ -13,7 +13,7 @@ namespace site {
 class KeyFrames;
 class Poller;
 
-/// The objects that the RTSP servers of all devices share.
+/// The objects that the RTSP servers of all devices share; their owner keeps them longer than the servers.
 struct RtspContext
 {
     sdk::demo::DemoSite &site;

@@ -10,8 +10,9 @@
 
 namespace site {
 
-/// The RTSP server of one device. Its threads are in the device's network namespace. To be destroyed on the
-/// thread that created it, while no accept() runs; the other functions are thread-safe.
+/// The RTSP server of one device: it requires a login by Digest and serves the streams that the device has at
+/// the construction. Its threads are in the device's network namespace. To be destroyed on the thread that
+/// created it, while no accept() runs; the other functions are thread-safe.
 class RtspPort
 {
 public:

@@ -22,9 +22,10 @@ class KeyFrames;
 
 /// Generates the video and the sound of one stream on a separate thread and pushes them to a pipeline. It
 /// starts with the frames that the pipeline needs for the description of the stream (SDP). The others follow
-/// in real time from the next KeyFrames::request() for the stream on, as when a client plays. It ends the
-/// stream of the pipeline when the device goes offline, is reset or changes the codec or the sound of the
-/// stream. Other changes of the settings apply to the next frame. Used by one thread at a time.
+/// at the times of the site's clock from the next KeyFrames::request() for the stream on, as when a client
+/// plays. It ends the stream of the pipeline when the device goes offline, is reset or changes the codec or
+/// the sound of the stream, and when the stream cannot be encoded. Other changes of the settings apply to the
+/// next frame. Used by one thread at a time.
 class StreamFeeder
 {
 public:

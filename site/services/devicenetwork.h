@@ -1,5 +1,5 @@
-// The network settings of a device. The functions with a ServiceResult are operations of the device service
-// (ServiceOperation::run).
+// The network settings of a device. The functions with a ServiceResult are the operations of the device
+// service with the same names: each reads the request of `call`, and fills its response or returns a fault.
 #pragma once
 
 #include "site/services/servicecall.h"
@@ -9,7 +9,7 @@ namespace site {
 ServiceResult getNetworkInterfaces(ServiceCall &call);
 
 /// Changes the IPv4 settings; those of IPv6 are ignored. With DeviceManner::changesAddressAtReboot, the
-/// settings are only stored until applyPendingAddress().
+/// settings are only stored until applyPendingAddress(), and the response requests a reboot.
 ServiceResult setNetworkInterfaces(ServiceCall &call);
 
 ServiceResult getNetworkDefaultGateway(ServiceCall &call);

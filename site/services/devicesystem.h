@@ -1,19 +1,20 @@
-// Reboot, reset and firmware of a device. The functions are operations of the device service
-// (ServiceOperation::run).
+// Reboot, reset and firmware of a device. The functions are the operations of the device service with the
+// same names: each reads the request of `call`, and fills its response or returns a fault.
 #pragma once
 
 #include "site/services/servicecall.h"
 
 namespace site {
 
-/// Schedules a reboot after the response, and applies an address that was stored for it.
+/// Schedules a reboot in 2 s, after the response, and applies an address that was stored for it.
 ServiceResult systemReboot(ServiceCall &call);
 
-/// Resets the device by resetToFactory(): its settings at once, and the reboot 1.5 s after the request.
-/// "Hard" and "Soft" have the same effect.
+/// Resets the device by resetToFactory(), which keeps its addresses: its settings at once, and the reboot
+/// 1500 ms after the request. "Hard" and "Soft" have the same effect.
 ServiceResult setSystemFactoryDefault(ServiceCall &call);
 
-/// Responds with the URL of FirmwareUploads::begin(), to which the client sends the file.
+/// Responds with the URL of FirmwareUploads::begin(), to which the client sends the file. A fault while an
+/// upgrade is written.
 ServiceResult startFirmwareUpgrade(ServiceCall &call);
 
 } // namespace site

@@ -1,5 +1,6 @@
-// The clock of a device. The functions with a ServiceResult are operations of the device service
-// (ServiceOperation::run).
+// The clock and the time server of a device. The functions with a ServiceResult are the operations of the
+// device service with the same names: each reads the request of `call`, and fills its response or returns a
+// fault.
 #pragma once
 
 #include "site/services/servicecall.h"

@@ -1,4 +1,5 @@
-// The users of a device. The functions are operations of the device service (ServiceOperation::run).
+// The users of a device. The functions are the operations of the device service with the same names: each
+// reads the request of `call`, and fills its response or returns a fault.
 #pragma once
 
 #include "site/services/servicecall.h"

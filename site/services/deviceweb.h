@@ -7,7 +7,8 @@
 namespace site {
 
 /// Responds to the HTTP requests to the simulated devices by their path: SOAP services, firmware uploads, and
-/// the web service of the demo site for all other paths. Thread-safe.
+/// the web service of the demo site (/cgi-bin/) for all other paths. Thread-safe: used by the threads of
+/// connections.
 class DeviceWeb : public HttpService
 {
 public:

@@ -56,7 +56,8 @@ struct EncodeSettings
                                                            const MediaStream &stream);
 
 /// Writes the items that differ from those of the device, and the key frame interval. The device accepts all
-/// or none of them. Returns the error of the first refused item, or that of ServiceCall::change().
+/// or none of them. Returns None, the error of the first refused item, or ConnectTimeout if the device has
+/// left the site (ServiceCall::change()).
 [[nodiscard]] sdk::NetError takeEncodeSettings(const ServiceCall &call, const MediaStream &stream,
                                                const EncodeSettings &settings);
 

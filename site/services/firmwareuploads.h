@@ -19,8 +19,9 @@ namespace site {
 
 class Poller;
 
-/// A device accepts one file at a time, writes it and reboots. An upload is begin(), then bodyReceiver() with
-/// its chunks, then finish(). The faults of upgrades (Fault::Upgrade...) apply. Thread-safe.
+/// The uploads to all devices of a site. A device accepts one file at a time, writes it and reboots. An
+/// upload is begin(), then bodyReceiver() with its chunks, then finish(). The faults of upgrades
+/// (Fault::Upgrade...) apply. Thread-safe: the functions are called on threads of connections.
 class FirmwareUploads
 {
 public:

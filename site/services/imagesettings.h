@@ -9,8 +9,8 @@
 
 namespace site {
 
-/// The items of a channel (from 0) in CameraMode::Normal. An item is empty if the camera does not support it
-/// or Fault::WithholdsItem withholds it.
+/// The items (blocks of settings) of a channel in CameraMode::Normal. An item is empty if the camera does not
+/// support it or Fault::WithholdsItem withholds it.
 struct ImageSettings
 {
     std::optional<sdk::PictureItem> picture;
@@ -22,7 +22,8 @@ struct ImageSettings
     std::optional<sdk::DefogItem> defog;
 };
 
-/// Nothing when the channel has neither picture nor exposure settings.
+/// The items of a channel (from 0). Nothing when it has neither picture nor exposure settings, or does not
+/// exist.
 [[nodiscard]] std::optional<ImageSettings> imageSettings(const sdk::demo::SceneDevice &device, int channel);
 
 /// Adds the settings as children of `element`, a "timg:ImagingSettings". Empty items add nothing.
@@ -33,7 +34,8 @@ void writeImageSettings(XmlElement element, const ImageSettings &settings);
 [[nodiscard]] bool readImageSettings(pugi::xml_node element, ImageSettings &settings);
 
 /// Writes the items of `settings` that differ from those of the device; empty items are not written. The
-/// device accepts all or none of them. Returns the first error, or that of ServiceCall::change().
+/// device accepts all or none of them. Returns None, the first error, or ConnectTimeout if the device has
+/// left the site (ServiceCall::change()).
 [[nodiscard]] sdk::NetError takeImageSettings(const ServiceCall &call, int channel,
                                               const ImageSettings &settings);
 

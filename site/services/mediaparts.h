@@ -1,4 +1,4 @@
-// Elements that both media services have in common.
+// Elements and functions that both media services have in common.
 #pragma once
 
 #include "site/services/encodesettings.h"
@@ -14,7 +14,8 @@ namespace site {
 /// `parent`.
 void writeRange(XmlElement parent, const char *name, double minimum, double maximum);
 
-// Write the token and the children of the configuration of a source to `element`. `channel` is from 0.
+// Write the token and the children of the configuration of a source to `element`, which the caller has added
+// with its name. `channel` is from 0.
 void writeVideoSourceConfiguration(XmlElement element, const ServiceCall &call, int channel);
 void writeAudioSourceConfiguration(XmlElement element, const ServiceCall &call, int channel);
 

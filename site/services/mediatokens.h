@@ -1,5 +1,5 @@
-// The tokens of a device's streams and sources, by which clients name them. They are constant. Their numbers
-// are those of the channels, from 1: "VideoSource_1" for channel 0.
+// The tokens of a device's streams and sources: the identifiers by which clients refer to them. They are
+// constant. Their numbers are those of the channels, from 1: "VideoSource_1" for channel 0.
 #pragma once
 
 #include "sdk/demo/scene/scene.h"
@@ -28,7 +28,7 @@ struct MediaStream
     }
 };
 
-/// The object of a token.
+/// The object of a token: the profile of a stream, or one of its encoders.
 enum class MediaObject
 {
     Profile,

@@ -1,4 +1,4 @@
-// The encoder options of a stream for the media services.
+// The encoder options of a stream, its valid codecs, sizes and ranges, for the media services.
 #pragma once
 
 #include "site/services/mediatokens.h"

@@ -1,4 +1,5 @@
-// Common data of the operations of services.
+// Common data of the operations of services. An operation is a function that responds to one kind of SOAP
+// request.
 #pragma once
 
 #include "sdk/demo/demosite.h"
@@ -19,7 +20,7 @@ namespace site {
 class FirmwareUploads;
 class KeyFrames;
 
-/// The objects that the services of all devices share.
+/// The objects that the services of all devices share. Their owner keeps them longer than the services.
 struct ServiceContext
 {
     sdk::demo::DemoSite &site;
@@ -29,7 +30,8 @@ struct ServiceContext
     FirmwareUploads &uploads;
 };
 
-/// One request to one device whose client has the right for the operation.
+/// One request to one device whose client has the right for the operation. It exists during the call of
+/// ServiceOperation::run, on the thread of the connection.
 struct ServiceCall
 {
     ServiceContext &context;
@@ -47,7 +49,8 @@ struct ServiceCall
 
     /// Applies `change` to the present state of the device, which may differ from `device`, and returns its
     /// result. `change` must leave the device unchanged if it returns an error. ConnectTimeout, without a
-    /// call of `change`, if the device has left the site. The member `device` does not change.
+    /// call of `change`, if the device has left the site. The site is locked during `change`, which must not
+    /// use it. The member `device` does not change.
     sdk::NetError change(const std::function<sdk::NetError(sdk::demo::SceneDevice &device)> &change) const;
 };
 

@@ -1,4 +1,4 @@
-// The services that devices have, and their operations.
+// The SOAP services that devices have, and their operations.
 #pragma once
 
 #include "site/services/servicecall.h"

@@ -1,5 +1,5 @@
-// The state of a device's services that other protocols do not have. It is kept in the scene device, and a
-// reset clears it.
+// The state of a device's services that other protocols do not have, such as the levels of users. It is kept
+// in the scene device, by keys, and a reset clears it.
 #pragma once
 
 #include "sdk/demo/scene/scene.h"

@@ -24,8 +24,8 @@ enum class UserLevel
 /// The level of such a name. Nothing for an unknown name, and for "Anonymous", which no user has.
 [[nodiscard]] std::optional<UserLevel> userLevelNamed(const QString &name);
 
-/// The level that setUserLevel() has stored; Administrator for a user without one, such as those of the scene
-/// and an unknown user.
+/// The level that setUserLevel() has stored for that name; Administrator if there is none, as for the users
+/// of the scene and for an unknown user.
 [[nodiscard]] UserLevel userLevelOf(const sdk::demo::SceneDevice &device, const QString &user);
 
 /// Stores the level of a user in the serviceState() of `device`.

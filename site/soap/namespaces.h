@@ -7,6 +7,7 @@
 
 namespace site {
 
+/// A namespace (URI) and its prefix.
 struct XmlNamespace
 {
     std::string_view prefix; ///< in the sources of the site; messages may have other prefixes

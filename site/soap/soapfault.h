@@ -7,8 +7,8 @@
 
 namespace site {
 
-/// A fault: it is sent instead of the response. Its names have the prefixes of soap/namespaces.h, and are
-/// string literals.
+/// A fault, the error response of SOAP: it is sent instead of the response. Its names have the prefixes of
+/// soap/namespaces.h, and are string literals.
 struct SoapFault
 {
     bool isSender = true; ///< fault code Sender, with HTTP status 400; otherwise Receiver, with 500

@@ -23,6 +23,7 @@ struct UserNameToken
     QByteArray created; ///< as in the message
 };
 
+/// A message with an operation, which a client sends to a service of a device.
 struct SoapRequest
 {
     std::unique_ptr<pugi::xml_document> document; ///< owns `operation`
@@ -32,7 +33,7 @@ struct SoapRequest
     std::optional<UserNameToken> token; ///< nothing for a message without one
 };
 
-/// Why a message is no request.
+/// The reason why a message is not a request.
 enum class UnusableRequest
 {
     NoXml,         ///< readXml() has failed

@@ -1,5 +1,6 @@
-// Reading messages with any prefixes. Names in the arguments have the prefixes of soap/namespaces.h. Views
-// and nodes that are returned are valid as long as the document.
+// Reading messages with any prefixes. Names in the arguments have the prefixes of soap/namespaces.h:
+// "tds:User" is found by its namespace, whichever prefix the message has. Views and nodes that are returned
+// are valid as long as the document. An empty node has no children.
 #pragma once
 
 #include <QByteArray>
@@ -16,9 +17,9 @@ namespace site {
 /// The limit of the depth of nested nodes; texts are nodes as well.
 inline constexpr int deepestMessage = 64;
 
-/// Reads `bytes`, which may end afterwards, into `document`. Document types and entities are ignored. Returns
-/// false for text that is not XML and for nodes that are nested too deeply: the document must not be used
-/// then.
+/// Reads `bytes`, of which `document` keeps a copy, into `document`. Document types and entities are ignored.
+/// Returns false for text that is not XML and for nodes that are nested too deeply: the document must not be
+/// used then.
 [[nodiscard]] bool readXml(const QByteArray &bytes, pugi::xml_document &document);
 
 /// The name of an element without its prefix.

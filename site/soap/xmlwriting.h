@@ -46,7 +46,7 @@ private:
 /// The namespace prefixes of a device.
 enum class XmlManner
 {
-    UsualPrefixes, ///< the usual prefixes, "SOAP-ENV" for the envelope
+    UsualPrefixes, ///< the prefixes of soap/namespaces.h, but "SOAP-ENV" for the envelope
     OwnPrefixes,   ///< "ns1", "ns2" and so on, "s" for the envelope
     Defaults,      ///< most elements have no prefix and declare their namespace as the default one; those of
                    ///< the envelope, faults, addressing and discovery have the prefixes of soap/namespaces.h
