@@ -12,6 +12,7 @@ namespace sdk {
 /// The maximum size of a head in bytes, including the empty line at its end. A longer head is damaged.
 inline constexpr std::size_t longestFirmwareHead = 4096;
 
+/// The models and the version that a firmware file states.
 struct FirmwareHead
 {
     std::vector<std::string> models; ///< of the devices that the file is for; empty if not reported

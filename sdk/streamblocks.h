@@ -43,6 +43,7 @@ using RealDataHandler = void (*)(std::int64_t streamHandle, std::uint32_t dataTy
 
 inline constexpr std::size_t maximumChannelStates = 1024;
 
+/// Whether a channel has a camera.
 enum class ChannelConnection : std::int32_t
 {
     Unknown = 0, ///< not reported by the device

@@ -37,6 +37,7 @@ enum class VideoStandard : std::int32_t
     Ntsc = 2,
 };
 
+/// The block of the item number videoStandardItem.
 struct VideoStandardItem
 {
     std::uint32_t size; ///< sizeof(VideoStandardItem)

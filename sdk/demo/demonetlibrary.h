@@ -48,6 +48,7 @@ public:
     /// As NetCleanup().
     ~DemoNetLibrary() override;
 
+    /// The site of the library, not owned.
     [[nodiscard]] SiteState &site() const { return m_site; }
 
     bool NetInit() override;

@@ -67,8 +67,10 @@ struct DiscoverySequence
 /// The ProbeMatches or ResolveMatches for a request that matches.
 [[nodiscard]] QByteArray responseTo(const DiscoveryRequest &request, const DiscoveryIdentity &identity,
                                     DiscoverySequence sequence, XmlManner manner);
+/// The Hello with which a device announces that it is on the network.
 [[nodiscard]] QByteArray helloMessage(const DiscoveryIdentity &identity, DiscoverySequence sequence,
                                       XmlManner manner);
+/// The Bye with which a device announces that it leaves; only the endpoint of `identity` is used.
 [[nodiscard]] QByteArray byeMessage(const DiscoveryIdentity &identity, DiscoverySequence sequence,
                                     XmlManner manner);
 

@@ -16,8 +16,8 @@ namespace site {
 class ServerConnection
 {
 public:
-    /// The timeout from the first byte of a request until its head is complete, between two requests, and
-    /// between two chunks of a body.
+    /// The timeout from the start of the connection, or the response to the last request, until the head of
+    /// the next request is complete; and the timeout between two chunks of a body.
     static constexpr std::chrono::seconds requestTime{30};
 
     /// The limit in bytes of a body that is passed to HttpService::respond().

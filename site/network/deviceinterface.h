@@ -34,6 +34,7 @@ public:
     [[nodiscard]] static std::unique_ptr<DeviceInterface> create(unsigned lower, const QString &mac,
                                                                  QString *error);
 
+    /// The namespace of the device. Valid as long as this object.
     [[nodiscard]] const NetworkSpace &space() const { return m_space; }
 
     /// Replaces the addresses and brings the interface up. With an IPv6 address, the interface also gets a

@@ -25,6 +25,7 @@ public:
     FileDescriptor &operator=(const FileDescriptor &) = delete;
 
     [[nodiscard]] bool isOpen() const { return m_number >= 0; }
+    /// -1 for none.
     [[nodiscard]] int number() const { return m_number; }
     /// Returns the number, which the caller closes. This object has none afterwards.
     [[nodiscard]] int release() { return std::exchange(m_number, -1); }

@@ -17,8 +17,11 @@ ServiceResult getNetworkDefaultGateway(ServiceCall &call);
 /// As setNetworkInterfaces(). With DHCP, the gateway is not changed and the call succeeds.
 ServiceResult setNetworkDefaultGateway(ServiceCall &call);
 
+/// HTTP, HTTPS (if it is enabled) and RTSP with their ports.
 ServiceResult getNetworkProtocols(ServiceCall &call);
+/// A constant name of the type and the last digits of the MAC.
 ServiceResult getHostname(ServiceCall &call);
+/// Only whether DHCP is used: the devices have no name servers.
 ServiceResult getDns(ServiceCall &call);
 
 /// Applies the settings that setNetworkInterfaces() and setNetworkDefaultGateway() have stored, if there are

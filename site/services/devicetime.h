@@ -13,8 +13,11 @@ namespace site {
 [[nodiscard]] std::int64_t utcOf(const sdk::demo::SceneDevice &device, std::int64_t now);
 
 ServiceResult getSystemDateAndTime(ServiceCall &call);
+/// Stores the zone, the switch of daylight saving, and whether the clock follows NTP. The UTC time is set
+/// only with the type "Manual" and a time in the request; otherwise it is kept.
 ServiceResult setSystemDateAndTime(ServiceCall &call);
 ServiceResult getNtp(ServiceCall &call);
+/// Stores the server, unless it comes from DHCP. The clock of the device is not changed.
 ServiceResult setNtp(ServiceCall &call);
 
 } // namespace site

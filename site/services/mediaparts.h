@@ -34,7 +34,8 @@ void writeAudioSourceConfiguration(XmlElement element, const ServiceCall &call, 
 /// otherwise the result of takeEncodeSettings().
 [[nodiscard]] sdk::NetError switchSound(const ServiceCall &call, const MediaStream &stream, bool isOn);
 
-/// The RTSP URL of the stream, with the address by which the client of `call` has reached the device.
+/// The RTSP URL of the stream, with the address by which the client of `call` has reached the device, and
+/// port 554.
 [[nodiscard]] QString streamUri(const ServiceCall &call, const MediaStream &stream);
 
 /// The URL of a JPEG snapshot of the stream's channel, below ServiceCall::root(). Empty if the device has no

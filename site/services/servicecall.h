@@ -35,13 +35,13 @@ struct ServiceContext
 struct ServiceCall
 {
     ServiceContext &context;
-    const HttpReceiver &receiver;
+    const HttpReceiver &receiver;        ///< the MAC of the device, and its end of the connection
     const sdk::demo::SceneDevice device; ///< its state at the arrival of the request
-    const DeviceManner manner;
-    const LoginOutcome login;     ///< Anonymous if the operation needs no login
-    const pugi::xml_node request; ///< the operation's element of the request
-    XmlElement response;          ///< the operation's element of the response; not sent after a fault
-    const std::int64_t now;       ///< on the site's clock, in ms since 1970
+    const DeviceManner manner;           ///< of the device
+    const LoginOutcome login;            ///< Anonymous if the operation needs no login
+    const pugi::xml_node request;        ///< the operation's element of the request
+    XmlElement response;                 ///< the operation's element of the response; not sent after a fault
+    const std::int64_t now;              ///< on the site's clock, in ms since 1970
 
     /// "http://192.168.1.101", "https://[fd00::31]:8443": the scheme, address and port that the client has
     /// used, without a path.

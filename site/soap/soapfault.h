@@ -16,7 +16,9 @@ struct SoapFault
     const char *detail = nullptr; ///< the subcode below `subcode`: "ter:NoProfile"; null for none
     QString reason;               ///< an English sentence
 
-    /// `detail` may be null.
+    // Faults of the usual kinds: an invalid parameter (`detail` may be null), an operation that the device
+    // does not have, a missing login or right, a refusal by the device, and a failure of the device.
+
     [[nodiscard]] static SoapFault invalid(const char *detail, const QString &reason)
     {
         return {true, "ter:InvalidArgVal", detail, reason};

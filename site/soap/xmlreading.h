@@ -1,6 +1,6 @@
 // Reading messages with any prefixes. Names in the arguments have the prefixes of soap/namespaces.h:
-// "tds:User" is found by its namespace, whichever prefix the message has. Views and nodes that are returned
-// are valid as long as the document. An empty node has no children.
+// "tds:User" is found by its namespace and name, regardless of the prefix in the message. Views and nodes
+// that are returned are valid as long as the document. An empty node has no children.
 #pragma once
 
 #include <QByteArray>

@@ -27,11 +27,11 @@ public:
     std::optional<QString> text(const QString &name);
 
     /// The parameter's value as a number; `fallback` without the parameter. A value that is not a whole
-    /// number from `minimum` to `maximum` is an error, and gives `fallback`.
+    /// number from `minimum` to `maximum` is an error, and returns `fallback`.
     int number(const QString &name, int minimum, int maximum, int fallback);
 
     /// The index of the parameter's value in `choices`; `fallback` without the parameter. Any other value is
-    /// an error, and gives `fallback`.
+    /// an error, and returns `fallback`.
     int choice(const QString &name, const QStringList &choices, int fallback);
 
     /// Reports an error if there are parameters that were not read: they would have no effect and are

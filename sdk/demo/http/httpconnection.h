@@ -18,7 +18,8 @@ namespace sdk::demo {
 class HttpConnection
 {
 public:
-    /// The timeout of an incomplete request, and between two requests, in real time.
+    /// The timeout from the start of the connection, or the response to the last request, until the next
+    /// request is complete, in real time.
     static constexpr std::chrono::seconds requestTime{15};
 
     /// `responder` must outlive the connection. `socket` is connected; the caller closes it after serve().

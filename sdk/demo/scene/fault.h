@@ -46,7 +46,7 @@ enum class Fault
     UpgradeNeverReturns,   ///< stays offline after an upgrade
     UpgradeTakes,          ///< the transfer of a firmware file takes `number` s
     RefusesUpgradeStop,    ///< refuses to stop an upgrade at any time
-    SlowAnswers,           ///< responds to logins and requests `number` ms late, not to HTTP
+    SlowAnswers,           ///< responds to logins and requests `number` ms late; CGI commands are not delayed
     RefusesConnections,    ///< its ports are closed; it responds only to searches
     PasswordChangesAfter,  ///< accepts passwords `number` times (0 as 1); then "-2" is appended to them
     Sha256Last,            ///< offers Digest with MD5 first, then with SHA-256; only as a device of `site/`

@@ -16,7 +16,7 @@ public:
     JsonKeys(const QJsonObject &object, const QString &where) : m_object(object), m_where(where) {}
 
     /// The value of `key`, or `fallback` if the object has no such key. A value of another type, and a number
-    /// that is not whole or not from `minimum` to `maximum`, is an error, and gives `fallback`.
+    /// that is not whole or not from `minimum` to `maximum`, is an error, and returns `fallback`.
     QString text(const QString &key, const QString &fallback = QString());
     int number(const QString &key, int minimum, int maximum, int fallback);
     bool boolean(const QString &key, bool fallback);
@@ -26,7 +26,7 @@ public:
     QJsonArray list(const QString &key);
 
     /// The index of the string of `key` in `choices`; `fallback` if the object has no such key. Any other
-    /// value is an error, and gives `fallback`.
+    /// value is an error, and returns `fallback`.
     int choice(const QString &key, const QStringList &choices, int fallback);
 
     /// As text() and number(), for mandatory keys: a missing key and an empty text are errors, too.

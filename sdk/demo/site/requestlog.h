@@ -29,7 +29,10 @@ class RequestLog
 public:
     static constexpr qsizetype maximumRequests = 10000;
 
+    /// Stores a copy of the request, and wakes the threads in waitFor().
     void add(const RecordedRequest &request);
+
+    /// Removes all requests.
     void clear();
 
     /// The stored requests, the oldest first.

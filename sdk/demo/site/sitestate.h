@@ -36,9 +36,14 @@ public:
     SiteState(const SiteState &) = delete;
     SiteState &operator=(const SiteState &) = delete;
 
+    // Texts of the scene; may be empty.
     [[nodiscard]] QString sceneTitle() const { return m_title; }
     [[nodiscard]] QString sceneDescription() const { return m_description; }
+
+    /// The clock of all times and waits of the site.
     [[nodiscard]] Clock &clock() const { return *m_clock; }
+
+    /// The log, which has a separate lock.
     [[nodiscard]] RequestLog &requests() { return m_requests; }
 
     /// Copies of all devices, in the order of the scene.

@@ -19,11 +19,11 @@ class LiveProduction;
 /// The parameters of a stream.
 struct LiveStreamOrder
 {
-    std::int64_t loginHandle = 0;
-    QString mac;
-    std::int32_t channel = 0;
+    std::int64_t loginHandle = 0; ///< of the session
+    QString mac;                  ///< of the device
+    std::int32_t channel = 0;     ///< from 0
     LiveStreamKind kind = LiveStreamKind::Main;
-    std::int64_t startTime = 0; ///< the earliest time of data, on the site's clock
+    std::int64_t startTime = 0; ///< the earliest time of data, on the site's clock, in ms since 1970
 };
 
 /// One viewer of a LiveSource, which encodes for all viewers of a channel. A stream writes the encoded
@@ -57,7 +57,8 @@ public:
     /// Makes the next frame of the source a key frame.
     void requestKeyFrame() { m_isKeyFrameRequested = true; }
 
-    // Functions of the source's thread:
+    // Functions of the source's thread. For each frame it calls prepare(), encodes the frame, and calls
+    // send().
 
     /// Prepares for the next frame of `production`. Returns whether it must be a key frame.
     [[nodiscard]] bool prepare(const LiveProduction &production);

@@ -31,7 +31,8 @@ struct UpgradeOrder
 };
 
 /// Simulates the transfer of a file to a device, which writes it, has the new version and reboots. A separate
-/// thread follows the site's clock and calls the handler. Thread-safe, except for the destructor.
+/// thread follows the site's clock and calls the handler: for each percent of Sending and of Writing, and at
+/// last with Done or Failed. Thread-safe, except for the destructor.
 class DeviceUpgrade
 {
 public:
@@ -39,8 +40,8 @@ public:
     static constexpr std::chrono::milliseconds usualSending{8000}; ///< unless the device has UpgradeTakes
     static constexpr std::chrono::milliseconds writing{5000};
 
-    /// Starts the upgrade. `site` and `sessions` must outlive it. Throws std::system_error if the host
-    /// provides no thread.
+    /// Starts the upgrade. `handle` is passed to the handler. `site` and `sessions` must outlive the object.
+    /// Throws std::system_error if the host provides no thread.
     DeviceUpgrade(SiteState &site, DemoSessions &sessions, std::int64_t handle, UpgradeOrder order);
 
     /// Ends an unfinished upgrade in any phase, without a report, and waits for a running handler: the device

@@ -132,6 +132,7 @@ public:
     /// The first IPv4 gateway; empty if the device has none.
     [[nodiscard]] ServiceResult<std::string> defaultGateway();
     [[nodiscard]] ServiceResult<std::vector<DeviceProtocol>> protocols();
+    /// The accounts of the device.
     [[nodiscard]] ServiceResult<std::vector<DeviceUser>> users();
     /// Sets the password and the level of the account `user.name`. The password of the client is not changed,
     /// see SoapClient::setPassword().
@@ -146,6 +147,7 @@ public:
     [[nodiscard]] ServiceResult<bool> setAddress(const DeviceInterface &interface);
     /// Sets the IPv4 gateway. With an empty `address`, the request contains no gateway.
     [[nodiscard]] ServiceOutcome setDefaultGateway(const std::string &address);
+    /// Succeeds when the device has accepted the request; the reboot follows.
     [[nodiscard]] ServiceOutcome reboot();
     /// Resets all settings to the factory defaults, including the network settings.
     [[nodiscard]] ServiceOutcome resetCompletely();

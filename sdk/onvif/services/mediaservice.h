@@ -1,6 +1,6 @@
 // The media services (ONVIF Media and Media 2): profiles of video sources, and the addresses of their
 // streams. "The older service" is Media, "the newer service" is Media 2. A token is the identifier that a
-// device gives to an object. Strings of profiles are truncated after 256 bytes, URLs after 1024, lists of
+// device assigns to an object. Strings of profiles are truncated after 256 bytes, URLs after 1024, lists of
 // options after 64 entries. Numbers are limited to 0 to 1,000,000.
 #pragma once
 

@@ -17,7 +17,7 @@
 namespace sdk::onvif {
 
 /// A video source of a device, which is a channel of the library, with the profiles (stream settings) of its
-/// main and its sub stream. Tokens are identifiers that the device gives.
+/// main and its sub stream. Tokens are identifiers that the device assigns.
 struct MediaChannel
 {
     std::string sourceToken = {};

@@ -22,7 +22,7 @@ public:
     [[nodiscard]] static std::stop_token stopOfThisThread();
 };
 
-/// Ends the calls of one session: gives each call the stop token for its RunningCall. Thread-safe.
+/// Ends the calls of one session: provides the stop tokens for their RunningCall objects. Thread-safe.
 class RunningCalls
 {
 public:

@@ -107,6 +107,7 @@ public:
 
     /// The present account and password.
     [[nodiscard]] HttpLogin login() const;
+    /// The client that sends the requests.
     [[nodiscard]] HttpClient &http() { return *m_http; }
 
 private:

@@ -21,6 +21,7 @@ public:
     explicit XmlElement(pugi::xml_node node) : m_node(node) {}
 
     [[nodiscard]] bool exists() const { return static_cast<bool>(m_node); }
+    /// True if the element has that namespace and that local name.
     [[nodiscard]] bool is(std::string_view uri, std::string_view name) const;
     /// The name without its prefix.
     [[nodiscard]] std::string_view name() const;
@@ -73,6 +74,7 @@ public:
     /// a document type. A document type could define expanding entities; SOAP forbids it.
     [[nodiscard]] static std::optional<XmlDocument> read(std::string_view text);
 
+    /// The root element, which exists. Valid as long as the document.
     [[nodiscard]] XmlElement root() const { return XmlElement(m_document.document_element()); }
 
 private:

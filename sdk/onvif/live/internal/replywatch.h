@@ -1,4 +1,4 @@
-// Checks the RTSP responses of a device, since FFmpeg's client trusts them.
+// Checks the RTSP responses of a device, since FFmpeg's client does not check them.
 #pragma once
 
 #include "sdk/onvif/live/streamend.h"

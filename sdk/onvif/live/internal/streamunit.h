@@ -13,7 +13,7 @@ namespace sdk::onvif {
 /// The type of a unit with parameters. Video exists in H.265 only.
 enum class ParameterSet
 {
-    None,
+    None, ///< any other unit
     Video,
     Sequence,
     Picture,
