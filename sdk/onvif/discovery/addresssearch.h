@@ -38,7 +38,7 @@ public:
 
     /// To be called once. Blocks until every address has responded or was queried in both ways, `wait` has
     /// passed or the search is cancelled. No report follows the return. Each address is reported at most
-    /// once. `addresses` are numeric; any other string is ignored.
+    /// once. `addresses` are numeric, IPv6 in the form of addressText(); any other string is ignored.
     void run(const std::vector<std::string> &addresses, std::chrono::milliseconds wait);
 
 private:

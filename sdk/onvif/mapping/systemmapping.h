@@ -14,7 +14,8 @@ namespace sdk::onvif {
 
 /// The configuration text of a device: "Network", "DVRIP", "Https", "NTP" or "Locales". On failure `error` is
 /// set and the text is empty: NotSupported for any other name, and for "Network" of a device without an
-/// interface.
+/// interface. "NTP" has the constant port 123 and period 1440, and the zone 0 (UTC) for an offset without a
+/// number and for an unreadable zone.
 [[nodiscard]] std::string systemConfiguration(OnvifSession &session, std::string_view name,
                                               OnvifSession::Deadline deadline, NetError &error);
 
