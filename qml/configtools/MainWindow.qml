@@ -11,21 +11,21 @@ T.ApplicationWindow {
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var localConfig: LocalConfigApi  // a CLocalConfig
-    readonly property BusyState busyState: BusyStateApi
-    readonly property Batches batches: BatchesApi
-    readonly property SearchReports searchReports: SearchReportsApi
-    readonly property CertificateList certificates: CertificatesApi
-    readonly property var webPages: WebPagesApi  // a WebPages
-    readonly property var colourScheme: ColourSchemeApi  // a ColourScheme
-    readonly property DeviceNotes notes: DeviceNotesApi
-    readonly property var memory: ViewMemoryApi  // a ViewMemory
+    readonly property BusyState busyState: BusyStateApi  // the running work, and which actions must wait for it
+    readonly property Batches batches: BatchesApi  // starts work on several devices; one batch runs at a time
+    readonly property SearchReports searchReports: SearchReportsApi  // why the last search found few devices
+    readonly property CertificateList certificates: CertificatesApi  // refused certificates of devices
+    readonly property var webPages: WebPagesApi  // a WebPages, which opens web pages of devices in the browser
+    readonly property var colourScheme: ColourSchemeApi  // a ColourScheme, which stores the choice of colours
+    readonly property DeviceNotes notes: DeviceNotesApi  // notes of the user about devices
+    readonly property var memory: ViewMemoryApi  // a ViewMemory: named texts in the settings, such as "tab"
     readonly property bool libraryInstalled: deviceLibraryInstalled  // false: no device responds
     readonly property var accounts: AccountsApi  // an AccountList, see LoginMemory
     readonly property bool simulated: demoSite  // the devices are those of the demo site
-    readonly property string demoAccount: demoSiteAccount  // user name and password; "" if no device has an account
+    readonly property string demoAccount: demoSiteAccount  // "user / password" of most demo devices; "" for none
     // qmllint enable unqualified
 
-    readonly property alias count: search.count  // devices found by the last search
+    readonly property alias count: search.count  // IPv4 devices found by the running or last search
     readonly property alias deviceSearch: search
     readonly property alias searching: search.running
     property int currentTab: 0  // index from 0; set by showTab() only
@@ -96,7 +96,7 @@ T.ApplicationWindow {
         return pages.leave(action);
     }
 
-    /// Writes the current tab and the geometry of the window to the settings, see WindowGeometry.
+    /// Writes the current tab and the geometry of the window to the settings. Called before the application exits.
     function rememberView() {
         memory.keep("tab", String(currentTab));
         memory.keep("window", savedGeometry.text());

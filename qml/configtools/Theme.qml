@@ -12,7 +12,7 @@ QtObject {
     readonly property ThemeColours lightColours: ThemeColours {}
     readonly property ThemeColours darkColours: DarkColours {}
 
-    // Path of the folder of the favourites.
+    // Path of the folder of the favourites (saved devices), with a trailing "/".
     readonly property string favPath: ProgramFolders.favourites
 
     // Measures in pixels, mostly on a grid of 8. Those that end in "Share" are fractions.
@@ -46,7 +46,7 @@ QtObject {
     readonly property int formLabelWidth: 100
     readonly property int searchFieldWidth: 240
     readonly property int searchFieldMinimum: 104  // width if room is short
-    readonly property int windowWidth: 1280  // minimum of the main window, as the height below
+    readonly property int windowWidth: 1280  // minimum width of the main window; windowHeight: minimum height
     readonly property int windowHeight: 720
     readonly property int dialogWidth: 460
     readonly property int messageWidth: 400  // of OVMessageBox
@@ -175,7 +175,7 @@ QtObject {
     readonly property int progressWidth: 76  // of a progress bar in a row
     readonly property int noteWidth: 480  // of the note dialog
 
-    // Type.
+    // Font sizes in pixels, and fonts.
     readonly property int hintSize: 12
     readonly property int headSize: 12
     readonly property int bodySize: 13

@@ -23,7 +23,9 @@ public:
 
 Q_SIGNALS:
     void windowChanged();
-    void pressed(); ///< emitted also while a popup of the window is open
+    /// A mouse button or key was pressed in the window; repeated for a held key. Emitted also while a popup
+    /// of the window is open, and not for touches and the wheel.
+    void pressed();
 
 private:
     QPointer<QQuickWindow> m_window;

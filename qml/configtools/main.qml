@@ -1,3 +1,4 @@
+// The root object, which app/ loads: the main window, shown.
 import configtools
 
 MainWindow {

@@ -4,7 +4,8 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// Local paths of folders of ApplicationFolders, with a trailing "/". A folder need not exist.
+/// Local paths of folders of ApplicationFolders, which QML cannot use itself, with a trailing "/". A folder
+/// need not exist.
 class ProgramFolders : public QObject
 {
     Q_OBJECT

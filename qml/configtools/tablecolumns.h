@@ -9,15 +9,15 @@
 
 /// The arrangement of a table's columns, which are identified by keys: the shown columns, their order and
 /// their widths. A hidden column keeps its position and width. Fixed columns are always shown, after all
-/// others. The object stores nothing: the table stores and restores `text`.
+/// others. The object writes no file: its owner stores `text` and sets it at the next start.
 ///
 /// `text` lists all columns in order, separated by spaces, such as "state name:180 -mac": "-" marks a hidden
 /// column, ":180" a width that the user has set, in pixels. The default arrangement has the empty text. Text
 /// is not trusted: unknown columns are ignored, an invalid width means the default width, and missing columns
 /// are inserted after their predecessor in the default order. Text that hides all columns that are not fixed
-/// counts as empty.
+/// counts as empty. A key that is listed twice counts once, at its first position.
 ///
-/// Main thread.
+/// A key has no spaces and no ":", and does not begin with "-". Main thread.
 class TableColumns : public QObject
 {
     Q_OBJECT
@@ -46,7 +46,8 @@ public:
 
     [[nodiscard]] QStringList shown() const; ///< in display order
     [[nodiscard]] QVariantMap widths() const;
-    /// The text of the arrangement; after setText() that text, until the next change by a function below.
+    /// The text of the arrangement; after setText() that text, also if it is invalid, until the next change
+    /// by a function below.
     [[nodiscard]] QString text() const { return m_text; }
     void setText(const QString &text);
 
@@ -70,8 +71,8 @@ public:
     Q_INVOKABLE void reset();
 
 Q_SIGNALS:
-    void keysChanged();
-    void shownChanged();
+    void keysChanged();  ///< `keys`, `hiddenKeys` or `fixedKeys` has changed
+    void shownChanged(); ///< the shown columns or their order
     void widthsChanged();
     void textChanged();
 

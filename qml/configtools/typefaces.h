@@ -19,9 +19,11 @@ class Typefaces : public QObject
 public:
     explicit Typefaces(QObject *parent = nullptr);
 
-    [[nodiscard]] QString text() const { return m_text; }       ///< an installed font, for texts
-    [[nodiscard]] QString figures() const { return m_figures; } ///< packaged, with digits of equal width
-    [[nodiscard]] QString icons() const { return m_icons; }     ///< packaged, with a glyph for each icon
+    /// For texts. Fixed name of a font that must be installed; Qt replaces a missing one.
+    [[nodiscard]] QString text() const { return m_text; }
+    // Packaged fonts; empty if the file cannot be loaded.
+    [[nodiscard]] QString figures() const { return m_figures; } ///< with digits of equal width
+    [[nodiscard]] QString icons() const { return m_icons; }     ///< with a glyph for each icon
 
 private:
     QString m_text;

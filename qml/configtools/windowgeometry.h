@@ -10,9 +10,9 @@
 #include <QtQml/qqmlregistration.h>
 
 /// Restores position and size of a window before it is shown, and returns the text to store at the end. QML
-/// stores the text. Its form is "LEFT TOP WIDTH HEIGHT", then " maximised" if the window is maximised, such
-/// as "120 80 1280 720 maximised". The numbers are the geometry of the window while it is not maximised, in
-/// device-independent pixels of the desktop. Invalid text has no effect.
+/// stores the text. Its form is "LEFT TOP WIDTH HEIGHT", then " maximised" if the window is maximised or in
+/// full screen, such as "120 80 1280 720 maximised". The numbers are the geometry of the window while it is
+/// not maximised, in device-independent pixels of the desktop. Invalid text has no effect.
 ///
 /// It is C++ because Qt does not keep the normal size of a maximised window, and because the stored position
 /// is compared with the current screens. Main thread.
@@ -46,5 +46,5 @@ private:
     QString m_stored;
     QRect m_normal; ///< while the window is not maximised
     bool m_isMaximised = false;
-    QTimer m_settling; ///< a window is resized before its state becomes "maximised"
+    QTimer m_settling; ///< delays note(): a window is resized before its state becomes "maximised"
 };

@@ -11,7 +11,8 @@ class DateTimeValidator : public QValidator
 {
     Q_OBJECT
     QML_ELEMENT
-    /// Consists of y, M, d, h, m, s and separators; date and time are separated by a space.
+    /// Consists of y, M, d, h, m, s and separators; date and time are separated by a space. A part with "y"
+    /// is a date, one without it a time.
     Q_PROPERTY(QString format READ format WRITE setFormat NOTIFY formatChanged)
 public:
     explicit DateTimeValidator(QObject *parent = nullptr) : QValidator(parent) {}

@@ -1,6 +1,7 @@
 // Base of all buttons. Emits clicked() for a click, the space key, Return and Enter. It has a tool tip; the tip of a
 // disabled button is shown only in an OVActionRow. After a press the tip stays hidden until the pointer enters again,
-// as it would cover an opened menu.
+// as it would cover an opened menu. In a key group (an ancestor with `keyGroup: true`), Left and Right move the
+// keyboard focus to the other buttons of the group, and Tab leaves the group.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -11,7 +12,7 @@ T.AbstractButton {
 
     property string toolTip  // "" for none
     property bool quiet: false  // pressed since the pointer has entered: the tip stays hidden
-    property bool ownArrows: false  // the button handles Left and Right itself, see keygroups.js
+    property bool ownArrows: false  // Left and Right do not move the focus: the user of the button handles them
 
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true

@@ -9,7 +9,7 @@ Row {
     /// The button under the pointer, null for none.
     readonly property OVAbstractButton over: pointer.hovered
         ? childAt(pointer.point.position.x, pointer.point.position.y) as OVAbstractButton : null
-    readonly property bool explains: over !== null && !over.enabled
+    readonly property bool explains: over !== null && !over.enabled  // the row shows the tip of `over`
 
     spacing: Theme.unit
 

@@ -1,5 +1,5 @@
 // A field for an IPv4 address or a subnet mask. It takes only digits and dots, up to 15. It does not set `errorText`:
-// the owner does, by `acceptable` or `wrong`.
+// the owner does, by `acceptable` or `wrong`. Both check the text as an address; the owner checks a mask itself.
 import QtQuick
 import configtools
 

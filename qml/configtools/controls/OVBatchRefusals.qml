@@ -1,5 +1,5 @@
-// Emits notify() with the reason when Batches refuses a batch, but only for the page that is visible: all pages share
-// one Batches.
+// Emits notify() with the reason when Batches refuses to start a batch, as while another one runs, but only for the
+// page that is visible: all pages share one Batches.
 import QtQml
 import configtools
 

@@ -5,7 +5,7 @@ import configtools
 OVAbstractButton {
     id: root
 
-    /// Primary: the main action, filled. Danger: in red. DangerPrimary: both.
+    /// Outlined: with a border. Primary: the main action, filled. Danger: in red. DangerPrimary: filled in red.
     enum Kind { Outlined, Primary, Danger, DangerPrimary }
 
     property int kind: OVButton.Outlined  // a Kind
@@ -35,6 +35,7 @@ OVAbstractButton {
         return kind === OVButton.Danger ? c.bad : c.text;
     }
 
+    // Width of the icons with their gaps, in pixels.
     readonly property int signsWidth: (iconName !== "" || busy ? Theme.boxSize + 6 : 0)
                                       + (opensMenu ? Theme.smallIconSize + 6 : 0)
 

@@ -7,7 +7,9 @@ OVComboBox {
     id: root
 
     property int chosen: -1  // index in the model; -1: none
-    property var source: null  // any object with the values: when it is replaced, the box shows `chosen` again
+    /// The object from which the owner reads `chosen`, such as a map of values. When it is replaced, the box shows
+    /// `chosen` again, also if that has the same value; the box does not use its content.
+    property var source: null
     signal indexRequested(int index)  // not emitted for the chosen entry
 
     // A combo box selects the first entry of a new model.

@@ -1,5 +1,5 @@
-// A combo box. The model is an array of texts or numbers. activated(index) reports a choice of the user; the mouse
-// wheel does not change the choice.
+// A combo box without text input. The model is an array of texts or numbers. activated(index), with the index from 0,
+// reports a choice of the user; the mouse wheel does not change the choice.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -7,7 +7,7 @@ import configtools
 T.ComboBox {
     id: root
 
-    property string accessibleName
+    property string accessibleName  // for screen readers
 
     implicitWidth: Theme.choiceWidth
     implicitHeight: Theme.controlHeight

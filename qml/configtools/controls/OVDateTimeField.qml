@@ -8,7 +8,7 @@ OVTextField {
     id: root
 
     property alias format: dateTime.format  // such as "yyyy-MM-dd hh:mm:ss", the default; see DateTimeValidator
-    property string invalidText: qsTr("请输入正确的时间")
+    property string invalidText: qsTr("请输入正确的时间")  // error text
     readonly property bool acceptable: acceptableText  // the text is complete and valid
 
     errorText: acceptable ? "" : invalidText

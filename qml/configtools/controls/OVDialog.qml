@@ -27,11 +27,11 @@ T.Popup {
     // Limits of the dialog in the window.
     readonly property int mostWidth: parent ? parent.width - 4 * Theme.pageMargin : wantedWidth
     readonly property int mostHeight: parent ? parent.height - 2 * Theme.pageMargin : implicitHeight
-    /// Maximum height of the content, also while a notice is above the buttons.
+    /// Maximum height of the content in pixels; smaller while a notice is shown above the buttons.
     readonly property int contentRoom: mostHeight - head.height - strip.height - foot.height - 2 * contentMargin
     default property alias content: body.data
     signal accepted  // by the primary button; the dialog stays open: the owner closes it
-    signal rejected  // the dialog has closed
+    signal rejected  // by the cancel button, the close button or Escape; the dialog has closed. Not by close()
 
     // The dialog ignores input while it closes: a second click must not count.
     property bool leaving: false

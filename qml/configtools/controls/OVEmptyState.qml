@@ -6,9 +6,9 @@ import configtools
 Item {
     id: root
 
-    required property string iconName
+    required property string iconName  // see OVIcon
     required property string title
-    property string hint
+    property string hint  // "" for none
     property string actionText  // text of the first button
     property var choices: []  // further buttons next to the action: objects with "text" and "objectName"
     property string linkText  // text of a link below the action

@@ -8,7 +8,7 @@ OVMenu {
     id: root
 
     property var entries: []
-    signal chosen(string key)  // of the entry
+    signal chosen(string key)  // "key" of the chosen entry
 
     /// Opens the menu with these entries. `position` is a map: "x" and "y" in pixels of the item "item", and "byKey"
     /// (bool). If opened by a key, the first enabled entry is current.

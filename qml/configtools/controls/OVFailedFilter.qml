@@ -1,6 +1,7 @@
-// Shows only the failed devices of a table: those with a failed mark (FailedMarks), optionally of one operation. Its
-// link clears all marks, also those of devices and operations that are not shown, in all pages. Hidden while there is
-// no mark.
+// A filter that shows only the failed devices of a table: those with a failed mark, optionally of one operation. A
+// device is marked when a batch has failed for it or has not reached it, until a later batch of the same work succeeds.
+// The link of the filter clears all marks, also those of devices and operations that are not shown, in all pages.
+// Hidden while there is no mark.
 import QtQuick
 import configtools
 

@@ -1,4 +1,5 @@
-// Chooses the operation whose failed marks `devices` shows, or all operations. Sets `failedOperation` of the model.
+// Chooses the operation (title of a batch, such as a reboot) whose failed devices `devices` shows, or all operations.
+// Sets `failedOperation` of the model; "" there means all.
 import QtQuick
 import configtools
 

@@ -1,5 +1,5 @@
-// Icon of a device with a failed mark (FailedMarks). Its tool tip has the batches and reasons. Hidden for a device
-// without a mark.
+// Icon of a device with a failed mark: a batch has failed for it or has not reached it. The tool tip has the batches
+// and reasons. Hidden for a device without a mark.
 import QtQuick
 import configtools
 
@@ -8,7 +8,7 @@ OVIcon {
 
     required property string failure  // batches and reasons, one for each line; "" without a mark
 
-    property bool onlyNotDone: false  // no batch failed; some did not reach the device
+    property bool onlyNotDone: false  // no batch failed, but some did not reach the device: another icon
 
     color: onlyNotDone ? Theme.colours.warn : Theme.colours.bad
     name: onlyNotDone ? "alert" : "error"

@@ -16,19 +16,23 @@ Item {
     property bool running: false  // work of the page that is not a batch runs
     property bool compact: false  // in the foot of a dialog: optional parts are hidden
     readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
-    property real progress: -1  // of that work, 0 to 1; negative: unknown
+    property real progress: -1  // of the work of `running`, 0 to 1; negative: unknown
     property Batches batches: null  // null: no batch is shown
     property DeviceSearch search: null  // null: no search is shown
-    signal tickRequested(var identities)  // the page ticks only these devices; array of texts
+    signal tickRequested(var identities)  // the page ticks only these devices; array of names (identities) of rows
     signal notify(string message, int severity)  // the page shows a toast; severity: of OVToast
 
     readonly property Batch batch: batches?.current ?? null  // the latest one, also after its end
     readonly property bool showsBatch: batch?.running ?? false
     readonly property bool showsSearch: !running && !showsBatch && (search?.running ?? false)
     readonly property bool paused: showsBatch && batch.paused
-    property Batch batchToRetry: null  // batch that is stopping, to be retried with another account; null for none
-    property var accountNotice: null  // "message" and "severity"; shown after the retry has removed all toasts
+    /// The paused batch after the choice of another account: it is stopping and is retried at its end. Null for none.
+    property Batch batchToRetry: null
+    /// Message of the choice of an account, a map of "message" and "severity". It is shown after the start of the
+    /// retry, which removes all toasts. Null for none.
+    property var accountNotice: null
     readonly property bool ended: batch !== null && !batch.running
+    /// The batch has ended, and devices of it, or of the batches that it retries, failed or were not reached.
     readonly property bool incomplete: ended && batch.report.failed + batch.report.notDone + batch.failedBefore > 0
     readonly property string outcome: ended && batch.report.summary !== ""
         ? batch.title + qsTr("：") + batch.report.summary + before : ""
@@ -65,7 +69,7 @@ Item {
             (account.visible ? account : stop).forceActiveFocus(Qt.TabFocusReason);
     }
 
-    /// Retries `batchToRetry`, which has ended, and shows the messages that waited for it.
+    /// Retries `batchToRetry`, which has ended, and shows `accountNotice` and the reason if nothing can be retried.
     function retryWithAccount() {
         const ended = batchToRetry;
         batchToRetry = null;

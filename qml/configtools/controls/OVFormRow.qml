@@ -6,7 +6,7 @@ Item {
     id: root
 
     required property string label
-    property int labelWidth: Theme.formLabelWidth
+    property int labelWidth: Theme.formLabelWidth  // in pixels; the field has the rest of the row
     default property alias field: slot.data
 
     implicitHeight: Math.max(Theme.controlHeight, slot.height)

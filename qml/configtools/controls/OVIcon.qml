@@ -6,7 +6,7 @@ Item {
     id: root
 
     required property string name
-    property int size: Theme.iconSize
+    property int size: Theme.iconSize  // height and width in pixels
     property color color: Theme.colours.sub
 
     implicitWidth: size

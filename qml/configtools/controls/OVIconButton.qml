@@ -5,7 +5,7 @@ import configtools
 OVAbstractButton {
     id: root
 
-    required property string iconName
+    required property string iconName  // see OVIcon
     property int iconSize: Theme.iconSize
     property bool turning: false  // the icon turns, for running work
     property color iconColor: Theme.colours.sub

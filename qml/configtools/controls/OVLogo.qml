@@ -6,7 +6,7 @@ Rectangle {
     id: root
 
     required property string name  // of the application
-    property bool large: false
+    property bool large: false  // for the about box; otherwise for a title bar
 
     implicitWidth: large ? Theme.largeLogoSize : Theme.logoSize
     implicitHeight: implicitWidth

@@ -1,4 +1,4 @@
-// A popup menu of OVMenuItem; an OVMenu in it is a submenu. It is as wide as its widest entry.
+// A popup menu of OVMenuItem; an OVMenu in it is a submenu. It is as wide as its widest entry, at least 180 pixels.
 import QtQuick
 import QtQuick.Templates as T
 import configtools

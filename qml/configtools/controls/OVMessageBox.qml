@@ -1,5 +1,6 @@
-// A message with one button, or a question with "cancel" and an optional third button. It closes with the answer, which
-// is accepted(), rejected() or otherChosen(). Escape and the close button are rejected(), also for a message.
+// A message with one button, or a question that also has "cancel". A third button is optional (`otherText`). A button
+// closes the box and emits accepted(), rejected() ("cancel") or otherChosen(). Escape and the close button emit
+// rejected(), also for a message.
 import QtQuick
 import configtools
 

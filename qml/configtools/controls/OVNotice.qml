@@ -5,7 +5,7 @@ import configtools
 Row {
     id: root
 
-    required property string iconName
+    required property string iconName  // see OVIcon
     required property string text
     property color iconColor: Theme.colours.accent
     property string messageName: "messageText"  // object name of the text, for tests

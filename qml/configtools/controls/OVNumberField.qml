@@ -7,7 +7,7 @@ OVTextField {
     id: root
 
     property int largest: 65535  // at most 999999999
-    property string invalidText: qsTr("请输入数字")
+    property string invalidText: qsTr("请输入数字")  // error text of an empty field
     readonly property bool acceptable: text !== ""  // the field has a number
 
     errorText: acceptable ? "" : invalidText

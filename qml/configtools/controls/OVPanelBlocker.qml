@@ -7,7 +7,7 @@ MouseArea {
     id: root
 
     property bool active: false  // set by the owner while work runs in the parent
-    property var back: null  // item that had the keyboard focus, null for none
+    property var back: null  // item in the parent that had the keyboard focus, null for none
 
     /// Whether the item is the parent or inside it.
     function isCovered(item) {

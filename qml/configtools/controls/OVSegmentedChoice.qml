@@ -8,8 +8,8 @@ Rectangle {
     id: root
 
     required property var options  // array of objects with "text", "objectName" and optionally "enabled" and "toolTip"
-    required property int currentIndex
-    property real room: Infinity  // maximum width: the segments get narrower, then elide their texts
+    required property int currentIndex  // from 0; set by the owner
+    property real room: Infinity  // maximum width in pixels: the segments get narrower, then elide their texts
     signal activated(int index)  // also for the current option
 
     readonly property real textsWidth: options.reduce((sum, option) => sum + Math.ceil(metrics.advanceWidth(option.text)), 0)

@@ -13,7 +13,9 @@ Item {
     property int value: 0  // not changed by the slider
     property string accessibleName
     property bool unknown: false  // no handle, and a dash instead of the number
-    property var source: null  // any object with the values: when it is replaced, the slider shows `value` again
+    /// The object from which the owner reads `value`, such as a map of values. When it is replaced, the slider shows
+    /// `value` again, also if that is the same number; the slider does not use its content.
+    property var source: null
     /// False while the user moves the slider: it then ignores a change of `value`.
     readonly property bool rested: !slider.pressed && !rest.running
     signal committed(int value)  // only a number other than `value`

@@ -1,11 +1,13 @@
-// The strength of a password in three steps, one of which is lit.
+// The strength of a password in three steps, one of which is lit. The owner sets the width.
 import QtQuick
 import configtools
 
 Row {
     id: root
 
-    required property int grade  // 1 (weak) to 3 (strong); 0: empty or too weak, no step is lit
+    /// Number of kinds of characters in the password (digits, letters, others): 1 (weak) to 3 (strong). 0, as for an
+    /// empty password: no step is lit.
+    required property int grade
     readonly property var steps: [
         {word: qsTr("弱"), lit: Theme.colours.passwordWeak},
         {word: qsTr("中"), lit: Theme.colours.passwordMedium},

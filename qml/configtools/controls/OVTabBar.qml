@@ -1,4 +1,5 @@
-// A tab bar. A click, Left and Right only request a tab by activated(): the owner sets `currentIndex`.
+// A tab bar. A click, Left and Right only request a tab by activated(): the owner sets `currentIndex`. The bar is one
+// stop of the Tab key.
 import QtQuick
 import configtools
 

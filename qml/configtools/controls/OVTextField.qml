@@ -9,15 +9,15 @@ FocusScope {
 
     property alias text: field.text
     property alias placeholderText: field.placeholderText
-    property alias validator: field.validator
+    property alias validator: field.validator  // input that is invalid for it cannot be typed
     property alias maximumLength: field.maximumLength
     property alias readOnly: field.readOnly
     property alias textFont: field.font
     readonly property alias acceptableText: field.acceptableInput  // by the validator
     property string errorText  // "" for none; also makes the border red
     property string warningText  // shown without an error only; the text is accepted nevertheless
-    property string accessibleName
-    property string iconName  // on the left; "" for none
+    property string accessibleName  // for screen readers; "": the placeholder
+    property string iconName  // on the left, see OVIcon; "" for none
     property bool clearable: false  // Escape and a button remove the text
     property bool secret: false  // shows dots; a button reveals the text until the field is hidden
     /// Regular expression (global) of characters that are removed from the text, also a pasted or assigned one: line

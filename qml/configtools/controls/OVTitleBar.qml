@@ -10,7 +10,7 @@ Rectangle {
     required property string version  // name and version of the application, for the tool tip of the name
     required property bool maximised
     required property var cursor  // a CLocalConfig; its cursorPos() returns the pointer's screen position
-    property int count: 0  // number of devices found
+    property int count: 0  // number of devices found by the search, shown left of the buttons
     property bool searching: false  // the icon of the search turns
     property string remark  // text next to the name, "" for none
     property string remarkTip  // tool tip of the remark

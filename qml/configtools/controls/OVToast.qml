@@ -14,8 +14,8 @@ T.Popup {
     readonly property int maximumCount: 3  // a further message removes the oldest one
 
     /// Area of the messages, in window coordinates. They are centred in it, in front of dialogs, and not wider than the
-    /// area, unless that is narrower than Theme.toastLeast. A higher message extends below it. The window chooses an
-    /// area without tabs, rows and buttons.
+    /// area, unless that is narrower than Theme.toastLeast. A message higher than the area extends below it. The window
+    /// chooses an area without tabs, rows and buttons.
     property rect area: Qt.rect(((parent?.width ?? 0) - Theme.toastWidth) / 2, Theme.half, Theme.toastWidth, 0)
     readonly property real mostWidth: Math.min(Theme.toastMost, Math.max(area.width, Theme.toastLeast))
     readonly property Item newest: toasts.newest(toasts.revision)

@@ -11,8 +11,8 @@ Loader {
 
     required property string text  // no tool tip without a text
     required property bool shown  // the pointer is over the parent
-    property string footnote  // below the text, also if that is elided
-    property int widest: Theme.toolTipWidth  // maximum width of the text
+    property string footnote  // further text below, shown completely also if `text` is elided; "" for none
+    property int widest: Theme.toolTipWidth  // maximum width of the text in pixels
     readonly property int mostLines: 24
 
     /// The "tipDrop" of the item or its nearest ancestor that has one; 0 without one.

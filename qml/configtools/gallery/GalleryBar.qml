@@ -8,11 +8,11 @@ Rectangle {
 
     required property ImageGallery gallery
     required property string otherBatch  // title of another running batch, "" for none
-    readonly property Batch batch: gallery.batch  // of the gallery, null while it fetches nothing
-    readonly property bool paused: batch?.paused ?? false  // after refused passwords, until the user decides
+    readonly property Batch batch: gallery.batch  // batch that fetches images; null while none is fetched
+    readonly property bool paused: batch?.paused ?? false  // several passwords in a row were refused: asks to continue
     /// Whether images can be fetched now: there are devices, and no batch runs.
     readonly property bool canFetch: batch === null && otherBatch === "" && gallery.count > 0
-    property string outcome      // text about the last save, set and removed by the owner; "" for none
+    property string outcome  // text about the last save of images, set and removed by the owner; "" for none
     property bool outcomeIsBad: false  // the outcome is an error
     readonly property bool showsOutcome: outcome !== "" && batch === null
     readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js

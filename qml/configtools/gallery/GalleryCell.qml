@@ -1,30 +1,31 @@
-// A channel of the gallery: image, title, address, and state or error. The required properties from `ipport` to `note`
-// are roles of ImageGallery. A click on the cell emits chosen(), then liveRequested(); a click on its button chosen(),
-// then againRequested().
+// A channel of the gallery: image, title, address, and state or error. The view sets the required properties from the
+// roles of ImageGallery with the same names. A click on the cell emits chosen(), then liveRequested(); a click on its
+// button chosen(), then againRequested().
 import QtQuick
 import configtools
 
 Item {
     id: root
 
-    required property int index
-    required property string ipport
+    required property int index  // in the view
+    required property string ipport  // "address:port" of the device
     required property string device  // its name, otherwise its model or address
     required property string name  // of the channel; "" while the device has one cell
-    required property int stage  // an ImageGallery.State
-    required property string image  // URL, also of an image before the last failure; "" for none
-    required property string message
-    required property string takenAt
-    required property string note
+    /// An ImageGallery.State: Waiting, Fetching, Taken, Failed, or Skipped (no request, because of the device's state).
+    required property int stage
+    required property string image  // URL of the file, of the older image while another one is fetched; "" for none
+    required property string message  // reason of Failed or Skipped, otherwise ""
+    required property string takenAt  // local time of the image as "HH:mm:ss"; "" for none
+    required property string note  // number of channels that are not shown, in the last cell of a device; "" for none
     property bool current: false  // the current cell of the view
     property bool canFetch: true  // the button that fetches the image again is enabled
     readonly property bool skipped: stage === ImageGallery.Skipped
     readonly property bool failed: stage === ImageGallery.Failed
     readonly property bool busy: stage === ImageGallery.Fetching
     readonly property string title: name === "" ? device : name.startsWith(device) ? name : device + " · " + name
-    signal chosen
-    signal liveRequested
-    signal againRequested
+    signal chosen  // make this cell the current one
+    signal liveRequested  // open the live view of the channel
+    signal againRequested  // fetch the image again
 
     objectName: "galleryCell" + index
 

@@ -8,15 +8,16 @@ T.ApplicationWindow {
     id: window
 
     required property Batches batches
-    required property var deviceFactory
-    required property var localConfig
+    required property var deviceFactory  // a CDeviceFactory
+    required property var localConfig  // a CLocalConfig
     readonly property bool maximised: visibility === Window.Maximized
     readonly property alias gallery: gallery
     property string folder  // path of the folder of the last save
-    signal liveRequested(string ipport, int channel)  // channel from 0
+    signal liveRequested(string ipport, int channel)  // ipport: "address:port"; channel from 0
 
-    /// Opens the window, shows the devices of these rows and fetches their images. `rows` and a refusal see
-    /// ImageGallery::show().
+    /// Opens the window, shows the devices of these rows and starts a batch that fetches their images. `rows`: values
+    /// of rows of the device list, with "identity", "ipport", "name" and "model". Devices beyond 500 are left out. If
+    /// another batch runs, no image is fetched, Batches emits refused(), and the cells keep waiting.
     function open(rows) {
         bar.outcome = "";
         if (!visible)
@@ -43,15 +44,15 @@ T.ApplicationWindow {
             gallery.fetchAll();
     }
 
-    /// Same for one cell, see ImageGallery::fetch().
+    /// Same for one cell; for all channels of a device that has only one cell, as its channels may be unknown.
     function fetch(row) {
         bar.outcome = "";
         if (bar.canFetch)
             gallery.fetch(row);
     }
 
-    /// Saves all images, see ImageGallery::saveAll(); the bar then shows the result. Ignored without images and while
-    /// images are fetched.
+    /// Saves all images in the background, as "<address>_<port>/<channel>.jpg" in the folder of snapshots, replacing
+    /// existing files; the bar then shows the result. Ignored without images and while images are fetched.
     function saveAll() {
         bar.outcome = "";
         if (gallery.images > 0 && gallery.batch === null)

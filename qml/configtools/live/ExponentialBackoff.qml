@@ -7,10 +7,10 @@ Timer {
 
     property int failures: 0  // consecutive failures
     property int secondsLeft: 0   // until elapsed(), while `running`
-    readonly property var delays: [1, 2, 4, 8, 15, 30]  // in seconds, by the number of failures
-    signal elapsed  // once for each fail(), unless the timer is stopped before; `failures` is kept
+    readonly property var delays: [1, 2, 4, 8, 15, 30]  // in seconds: after the first failure, the second and so on
+    signal elapsed  // the delay has passed; not after stop() or reset(). `failures` is kept
 
-    /// Counts a failure and starts the delay.
+    /// Counts a failure and starts its delay, in place of a running one.
     function fail() {
         failures += 1;
         secondsLeft = delays[Math.min(failures, delays.length) - 1];

@@ -7,13 +7,16 @@ import configtools
 Rectangle {
     id: root
 
+    /// Array of maps with "name", "connected" (bool: a camera is connected), "ipport", "companion" (the LiveCompanion
+    /// of an added device, null for the first device) and "heading" (text above the first channel of a device;
+    /// undefined for the others and for a single device).
+    required property var channels
     // In the properties and signals below, a channel is an index in `channels`.
-    required property var channels       // see WatchedDevices.channels
-    required property var shownChannels  // the channel of each cell of the grid, -1 for an empty cell
+    required property var shownChannels  // array: the channel of each cell of the grid, -1 for an empty cell
     required property int currentChannel  // of the current cell, -1 for none
     signal channelClicked(int channel)  // also by Return and the space key
     signal enlargeRequested(int channel)  // by a double click, after channelClicked()
-    signal removalRequested(string ipport)  // of an added device; not for the first device
+    signal removalRequested(string ipport)  // remove this added device ("address:port"); not for the first device
 
     color: Theme.colours.surface
 

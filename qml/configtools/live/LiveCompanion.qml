@@ -1,19 +1,22 @@
-// An added device of the live window, with a separate session. It logs in when it is created and after failures as
-// stated at `unreachable`. The login runs in the background. The session ends with this object.
+// An added device of the live window, with a separate session. It logs in when it is created, and again after failures
+// as stated at `unreachable`. The login runs in the background. The session ends with this object, and after a failure
+// other than a missing response.
 import QtQuick
 import configtools
 
 Item {
     id: root
 
-    required property var deviceFactory
+    required property var deviceFactory  // a CDeviceFactory
     required property string ipport  // "address:port"
     required property string name
     property bool loggedIn: false  // there is a session; it is kept while the device does not respond
     property bool checking: false  // a login or check runs
-    property bool isGiven: false  // the running login uses an account just entered
-    property int result: 0       // a LoginResult: of the last login or check
-    property var channels: [{channel: 0, name: "", connected: true}]  // see LiveDevice; one until they are known
+    property bool isGiven: false  // the running login uses an account just entered by the user
+    property int result: 0       // a LoginResult (0: success) of the last login or check
+    /// Array of maps with "channel" (from 0), "name" and "connected" (bool: a camera is connected). One entry until the
+    /// channels are known.
+    property var channels: [{channel: 0, name: "", connected: true}]
     readonly property alias handle: session.handle  // handle of the session in the device library, 0 without one
     readonly property bool busy: checking && !loggedIn  // a login runs
 
@@ -33,14 +36,16 @@ Item {
     property double lastResponse: 0  // time of the last response, in ms since 1970
     readonly property int responseValidity: 1000  // ms after a response in which check() sends no request
     signal renewed                   // a new session was opened, also the first one: streams must start again in it
-    signal checked(bool isReachable)    // end of check(), of a login or of a check
+    signal checked(bool isReachable)  // the result of check(); also emitted at the end of each login
     signal snapshotTaken(int channel, string image, string message)  // URL of the file, or "" and the reason
 
+    /// The account for a login to the device: a map of "user" and "password".
     function account() {
         return LoginMemory.accountFor(ipport, deviceFactory);
     }
 
-    /// Logs in with the account that is chosen for the device, see LoginMemory; keeps a session in which it responds.
+    /// Logs in with the account that is chosen for the device, see account(). If there is a session already and the
+    /// device responds in it, the session is kept. checked() follows.
     function ask() {
         const known = account();
         login(known.user, known.password, false);
@@ -75,7 +80,8 @@ Item {
 
     /// Checks whether the device is reachable, with one request for all of its streams. checked() follows: immediately
     /// without a session (false), or if the device responded within `responseValidity` (true); otherwise after the
-    /// request, which opens a new session if the present one has ended.
+    /// request, which opens a new session if the present one has ended. While a login or check runs, no further request
+    /// is sent; its end is the result.
     function check() {
         if (checking)
             return;

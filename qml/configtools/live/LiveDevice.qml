@@ -7,22 +7,23 @@ import configtools
 Item {
     id: root
 
-    required property var deviceFactory
+    required property var deviceFactory  // a CDeviceFactory
     property string ipport             // "address:port"; "" while no device is open
     property string name
     property bool loggedIn: false  // there is a session; it is kept while the device does not respond
     property bool checking: false        // a login or check runs
     readonly property bool busy: checking && !loggedIn  // a login runs
     property bool isGiven: false       // the running login uses an account just entered by the user
-    property int result: 0             // a LoginResult: of the last login or check
+    property int result: 0             // a LoginResult (0: success) of the last login or check
+    /// Error text of `result`; "" for a success.
     readonly property string failure: result !== 0 ? LoginMemory.failureText(result, ipport, deviceFactory) : ""
     readonly property alias waitingForRetry: backoff.running  // the next login follows in `retrySeconds`
     readonly property alias retrySeconds: backoff.secondsLeft
-    property var channels: []          // maps with "channel" (from 0), "name" and "connected" (bool)
-    signal opened                      // logged in by open() or after failures; the channels are known
+    property var channels: []  // maps with "channel" (from 0), "name", "connected" (bool: has a camera); [] if unknown
+    signal opened                      // logged in, after open() or a retry; the channels are known
     signal lost                        // a page has logged in to another device, which ended this session
     signal renewed                     // a new session with the same device: streams must start again
-    signal checked(bool isReachable)      // end of check(), of a login or of a check
+    signal checked(bool isReachable)  // the result of check(); also emitted, with false, after a failed login
 
     /// Whether another account or password may help: NoSuchAccount, WrongPassword, AccountLoggedIn or SessionEnded.
     readonly property bool accountRefused: result === 1 || result === 2 || result === 4
@@ -40,6 +41,7 @@ Item {
         return deviceFactory.getConfigData("dh", "sessionDevice");
     }
 
+    /// The account for a login to the device: a map of "user" and "password".
     function account() {
         return LoginMemory.accountFor(ipport, deviceFactory);
     }
@@ -53,7 +55,8 @@ Item {
         ask();
     }
 
-    /// Logs in with the account that is chosen for the device, see LoginMemory; keeps a session in which it responds.
+    /// Logs in with the account that is chosen for the device, see account(). If the current session is with this
+    /// device already and the device responds in it, the session is kept.
     function ask() {
         const known = account();
         login(known.user, known.password, false);
@@ -89,7 +92,8 @@ Item {
 
     /// Checks whether the device is reachable, with one request for all of its streams. checked() follows: immediately
     /// without a session (false), or if the device responded within `responseValidity` (true); otherwise after the
-    /// request, which opens a new session if a restart of the device has ended the present one.
+    /// request, which opens a new session if a restart of the device has ended the present one. While a check runs, no
+    /// further request is sent; its end is the result.
     function check() {
         if (checking)
             return;

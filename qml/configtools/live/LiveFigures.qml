@@ -7,8 +7,10 @@ import configtools
 Rectangle {
     id: root
 
-    required property VideoItem video
-    property var figures: ({})  // see VideoItem.figures()
+    required property VideoItem video  // draws the stream
+    /// Map of "width", "height" (pixels), "codec", "rate" (frames per second), "bitRate" (kbit/s), "waiting" (bytes
+    /// that are not decoded), "skipped" (frames) and "audioCodec" ("" without sound).
+    property var figures: ({})
 
     readonly property var lines: [
         [figures.width ?? 0, figures.height ?? 0].join(" × ") + "   " + (figures.codec ?? ""),

@@ -21,16 +21,17 @@ Item {
     property bool sounding: false  // the current cell plays its sound
     property bool figuresShown: false  // the views show LiveFigures
     readonly property int currentChannel: shownChannels[currentCell] ?? -1  // -1: the cell is empty
-    readonly property var currentEntry: channels[currentChannel] ?? null  // element of `channels`
+    readonly property var currentEntry: channels[currentChannel] ?? null  // element of `channels`; null for none
     readonly property int pages: Math.max(1, Math.ceil(channels.length / cellCount))
-    property int page: 0  // from 0; the last one of showPage()
-    signal checkRequested   // before a stream of the first device starts; the owner answers by takeCheckResult()
+    property int page: 0  // from 0; as chosen by showPage()
+    /// Before a stream of the first device starts: the owner checks the device, then calls takeCheckResult(null, ...).
+    signal checkRequested
     signal failed  // a stream of the first device failed
     signal frameReceived  // the first frame of a stream of the first device
 
-    /// Replaces `channels`. Its elements are maps with "ipport", "channel" (of the device, from 0), "name",
-    /// "connected", "caption" (text in the view) and "companion" (a LiveCompanion, null for the first device). The
-    /// cells keep their channels; the cell of a removed one becomes empty.
+    /// Replaces `channels` and adjusts the page. Its elements are maps with "ipport", "channel" (of the device, from
+    /// 0), "name", "connected", "caption" (text in the view) and "companion" (a LiveCompanion, null for the first
+    /// device). The cells keep their channels; the cell of a removed one becomes empty.
     function adopt(channels) {
         const nameOf = entry => entry.ipport + "/" + entry.channel;
         const indexOf = {};
@@ -76,8 +77,8 @@ Item {
         show(Array.from({length: cellCount}, (_, cell) => together[cell] ?? -1));
     }
 
-    /// Makes the cell current that shows the channel; without one, shows the channel in the current cell. An enlarged
-    /// view stays enlarged.
+    /// Makes the cell current that shows the channel; if a view is enlarged, this one is enlarged instead. If no cell
+    /// shows the channel, it is shown in the current cell.
     function showChannel(channel) {
         const cell = shownChannels.indexOf(channel);
         if (cell >= 0) {
@@ -102,7 +103,8 @@ Item {
             enlargedCell = currentCell;
     }
 
-    /// Calls `action` with each player that shows a channel of the device: a LiveCompanion, null for the first device.
+    /// Calls `action` with each player that shows a channel of the device with this LiveCompanion; null: of the first
+    /// device, and the empty cells.
     function eachPlayerOf(companion, action) {
         for (let cell = 0; cell < players.count; ++cell) {
             const player = players.itemAt(cell);
@@ -111,7 +113,7 @@ Item {
         }
     }
 
-    /// Starts the streams of the device again, in its new session.
+    /// Starts the streams of the device again, in its new session. `companion`: see eachPlayerOf().
     function reconnect(companion) {
         eachPlayerOf(companion, player => player.reconnect());
     }

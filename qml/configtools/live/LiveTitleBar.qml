@@ -13,8 +13,8 @@ Rectangle {
     property string position                 // position in the list, such as "2 / 5"; "" hides these buttons
     property bool hasEarlier: false  // the button for the previous device is enabled
     property bool hasLater: false  // the button for the next device is enabled
-    signal earlierRequested
-    signal laterRequested
+    signal earlierRequested  // show the previous device
+    signal laterRequested  // show the next device
     signal closeRequested
     signal maximiseRequested  // or restore, if `maximised`
 

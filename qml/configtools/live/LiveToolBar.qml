@@ -8,17 +8,17 @@ Rectangle {
     id: root
 
     required property LiveGrid grid
-    required property bool fullScreen
+    required property bool fullScreen  // the window is in full screen
     required property bool canSnap  // there is a session with the first device, and it has channels
-    required property bool canSnapCurrent  // a snapshot of the current channel is possible
+    required property bool canSnapCurrent  // there is a session with the device of the current channel
     required property bool snapping  // snapshots are in progress
     required property string otherBatch  // title of another running batch: no snapshots of all channels; "" for none
     required property int ticked         // number of ticked devices in the device list
-    property bool full: false            // no further devices can be added
+    property bool full: false            // the maximum number of devices is added
     property bool several: false         // there are added devices
     readonly property bool compact: width < Theme.liveToolBarWidth  // no room for texts
     readonly property bool canAdd: canSnap && ticked > 0 && !full
-    signal fullScreenRequested  // or its end
+    signal fullScreenRequested  // show the window in full screen, or end that if `fullScreen`
     signal snapRequested  // of the current channel
     signal snapAllRequested  // of all channels of all devices
     signal additionRequested  // of the ticked devices

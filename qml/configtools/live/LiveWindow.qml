@@ -10,15 +10,15 @@ T.ApplicationWindow {
 
     required property Batches batches
     required property BusyState busyState
-    required property var deviceFactory
-    required property var localConfig
+    required property var deviceFactory  // a CDeviceFactory
+    required property var localConfig  // a CLocalConfig
     readonly property bool fullScreen: visibility === Window.FullScreen
     readonly property bool maximised: visibility === Window.Maximized
     property int visibilityBefore: Window.Windowed  // before the full screen
     property int firstChannel: 0   // channel of the first device to show after the login; 0 or less: the first ones
     property string earlier        // "address:port" of the previous and the next device, "" for none
     property string later
-    signal notify(string message, int severity)  // a message of the main window; severity: of OVToast
+    signal notify(string message, int severity)  // the main window shows this message; severity: of OVToast
 
     /// Opens the window for the device at `ipport` ("address:port"). `channel` is the first channel to show (from 0;
     /// -1: none is preferred). `table` is the list of the device, a DeviceTableModel: its ticked devices can be added.
@@ -30,8 +30,8 @@ T.ApplicationWindow {
         openDevice(ipport, channel ?? -1);
     }
 
-    /// Logs in to the device and removes the added ones. If it is open already, or its login runs, only shows the
-    /// channel.
+    /// Logs in to the device as the first one and removes the added ones. If it is open already, or its login runs,
+    /// only shows the channel. Parameters: see open().
     function openDevice(ipport, channel) {
         if (visible && device.ipport === ipport && (device.loggedIn || device.busy)) {
             if (channel >= 0 && channel < device.channels.length)
@@ -53,7 +53,7 @@ T.ApplicationWindow {
         findNeighbours();
     }
 
-    /// Updates `earlier` and `later`.
+    /// Updates `earlier` and `later` from the order of the devices; both are "" while the window is closed.
     function findNeighbours() {
         earlier = visible ? order.neighbour(device.ipport, -1) : "";
         later = visible ? order.neighbour(device.ipport, 1) : "";

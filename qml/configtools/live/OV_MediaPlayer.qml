@@ -17,15 +17,15 @@ FocusScope {
     property bool stretched: false  // the video fills the view, without its aspect ratio
     property bool sounding: false  // plays the sound
     property bool figuresShown: false  // shows LiveFigures while playing
-    property bool compact: false          // small view: no mouse input, no retry button
+    property bool compact: false          // small view: no mouse input, no button for a retry
     property double session: 0            // handle of a separate session, 0 for the session of the configuration pages
     property string sessionText           // why there is no session, "" if there is one
     property string sessionAction         // text of the button that emits sessionActivated(), "" for none
     property bool sessionBusy: false      // the session is being opened
-    readonly property bool wanted: active && connected && channel >= 0
-    readonly property bool playing: video.hasFrame
+    readonly property bool wanted: active && connected && channel >= 0  // the stream is to run
+    readonly property bool playing: video.hasFrame  // a frame of the stream is shown
     readonly property bool waitingForRetry: backoff.failures > 0 && !connecting && !playing  // waits for the next attempt
-    readonly property bool turning: connecting || sessionBusy
+    readonly property bool turning: connecting || sessionBusy  // the spinner is shown
     readonly property alias video: video
     signal checkRequested  // before a start: the owner checks the device, then calls takeCheckResult()
     signal chosen  // by a press of the mouse
@@ -67,8 +67,8 @@ FocusScope {
             fail();
     }
 
-    /// Result of the request for the stream, see VideoItem::startEnded(). A refused sub stream is replaced by the main
-    /// stream.
+    /// Takes the result of the request for the stream. `mayTryOther`: the start failed for this kind of stream only, so
+    /// that a request for the other one may succeed. A refused sub stream is replaced by the main stream.
     function takeStart(isStreaming, mayTryOther) {
         if (isStreaming)
             return;
@@ -91,7 +91,7 @@ FocusScope {
         video.stop();
     }
 
-    /// Stops the stream and waits for the next attempt.
+    /// Stops the stream and waits for the next attempt; emits failed().
     function fail() {
         video.stop();
         connecting = false;
@@ -99,6 +99,7 @@ FocusScope {
         failed();
     }
 
+    /// Stops the stream and starts it again immediately. The number of failures is reset.
     function restart() {
         end();
         begin();

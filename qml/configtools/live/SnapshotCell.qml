@@ -5,7 +5,9 @@ import configtools
 Item {
     id: root
 
-    required property var entry   // element of Snapshots.results
+    /// Element of Snapshots.results: a map with "state" (a Snapshots.State), "image" (URL), "revision", "name" and
+    /// "caption" (name with the device) of the channel, "channel" (from 0) and "message" (error). Null for none.
+    required property var entry
     required property bool waits  // snapshots are in progress: the button is disabled
     property bool withDevice: false  // the text below the image includes the device
     readonly property int stage: entry?.state ?? Snapshots.Waiting  // a Snapshots.State

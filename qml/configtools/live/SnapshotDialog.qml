@@ -8,8 +8,8 @@ OVDialog {
     id: root
 
     required property Snapshots snapshots
-    signal againRequested(string ipport, int channel)  // channel from 0
-    signal folderRequested
+    signal againRequested(string ipport, int channel)  // ipport: "address:port", channel from 0
+    signal folderRequested  // open the folder of the snapshots
 
     readonly property int columns: Math.max(1, Math.min(4, snapshots.results.length))
     readonly property int columnsOfWidth: Math.max(2, columns)  // at least 2: the foot needs this width

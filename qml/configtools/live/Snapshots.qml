@@ -8,7 +8,7 @@ Item {
     id: root
 
     required property Batches batches
-    required property var deviceFactory
+    required property var deviceFactory  // a CDeviceFactory
     property Batch batch: null        // batch of the first device while it runs, otherwise null
     property bool all: false          // takeAll() is in progress
     property bool stopping: false     // the waiting channels are cancelled; they fail when the running one ends
@@ -21,9 +21,10 @@ Item {
     readonly property int done: results.filter(entry => !isPending(entry)).length  // taken or failed ones
     readonly property bool several: results.some(entry => entry.ipport !== results[0].ipport)  // of several devices
 
+    /// Waiting: for earlier channels. Taking: in progress. Taken: the file is written.
     enum State { Waiting, Taking, Taken, Failed }
 
-    /// Folder name for a device address.
+    /// Name of the folder of a device ("address:port") in the folder of snapshots.
     function folderOf(ipport) {
         return ipport.replace(/[^0-9A-Za-z._-]+/g, "_");
     }
@@ -55,7 +56,7 @@ Item {
         return true;
     }
 
-    /// Cancels the channels that are still waiting: they fail when the running one has ended.
+    /// Cancels the channels of takeAll() that are still waiting: they fail when the running one has ended.
     function stop() {
         stopping = true;
         if (batch)

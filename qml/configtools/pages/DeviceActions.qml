@@ -1,5 +1,7 @@
 // Actions of all pages on one device: details, web page, copy, favourite, note, account. They send nothing that changes
-// the device. `values` are the values of its row: those of DeviceTableModel.get(), or of the detail of a tree device.
+// the device. `values` is a map with the values of its row in the device list: "identity" (the unique name of the row),
+// "ipport" ("address:port"), "name", "type", "model", "mac", "vision" (firmware version) and others. It comes from
+// DeviceTableModel.get() or, for a device of a tree, from getDeviceDetail() of the factory.
 import QtQuick
 import configtools
 
@@ -14,7 +16,7 @@ Item {
     property alias favouritesFolder: favourites.folder  // path of the folder of the favourites
     signal notify(string message, int severity)  // severity: of OVToast
 
-    /// The row and the search record of the device; empty for an IPv6 device.
+    /// The values of the row, with those that the device reported to the search; empty for an IPv6 device.
     function detailOf(values) {
         return ipv6 ? {} : deviceFactory.getDeviceDetail("dh", values.identity);
     }
@@ -90,7 +92,7 @@ Item {
         notify(qsTr("已复制到剪贴板"), OVToast.Success);
     }
 
-    /// Opens the choice of the stored account that these devices use. `devices` are identities, or texts
+    /// Opens the dialog that assigns one of the stored accounts to these devices. `devices` are identities, or texts
     /// "address:port".
     function chooseAccount(devices) {
         accounts.instance().choose(devices);

@@ -1,5 +1,5 @@
-// A table cell with address and port of a device. An icon marks an address that another device has, too. A device
-// without an address shows "DHCP:" and its port.
+// A table cell with address and port of a device. An icon marks a row whose address and port another device has, too. A
+// device that was set to DHCP has no address until the next search finds it: the cell shows "DHCP:" and its port.
 import QtQuick
 import configtools
 

@@ -8,10 +8,10 @@ Item {
 
     required property Batches batches
     required property DeviceActions actions
-    property var values: ({})  // values of the row that the menu was opened for
+    property var values: ({})  // values of the row that the menu was opened for, see DeviceActions
     /// Function of the page: returns the ticked devices, as identities or "address:port".
     property var tickedDevices: () => []
-    signal ownChosen(string key, var values)  // an entry of the page was chosen; values: of the row
+    signal ownChosen(string key, var values)  // the entry of the page with this key was chosen; values: of the row
     signal liveRequested(string ipport)  // "address:port"
     /// The page ticks only the devices with the same value of `key` ("type" or "model") as this row.
     signal similarRequested(string key, var values)

@@ -7,12 +7,13 @@ OVTableCell {
     id: root
 
     property bool editable: true  // false: IPv6 devices, whose address cannot be changed
-    readonly property bool initialised: row?.state ?? true
+    readonly property bool initialised: row?.state ?? true  // otherwise the device has no live view
     readonly property bool upgrading: UpgradeTools.isRunning(row?.upgraderes ?? UpgradeTools.None)
-    signal editRequested(int row)
-    signal detailRequested(int row)
-    signal webRequested(int row)
-    signal liveRequested(int row)
+    // In the signals, a row is the index in the table.
+    signal editRequested(int row)  // change the address
+    signal detailRequested(int row)  // open the details
+    signal webRequested(int row)  // open the web page of the device
+    signal liveRequested(int row)  // open the live window
 
     OVActionRow {
         readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js

@@ -44,7 +44,8 @@ Item {
         deviceAdding.addDevice(device);
     }
 
-    /// Closes the dialog after success, otherwise shows the error in it. `outcome`: see DeviceWork::addDevice().
+    /// Closes the dialog after success, otherwise shows the error in it. `outcome`: map of "result" (a LoginResult) and
+    /// "text", see DeviceAdding.errorText().
     function showOutcome(outcome) {
         const {dialog, device, isFavourite} = pending;
         pending = null;

@@ -22,8 +22,8 @@ Item {
         return refusal === "";
     }
 
-    /// Opens the list of the ticked devices, then the dialog of the first password. The batch starts when both are
-    /// confirmed. Refused if no uninitialised device is ticked.
+    /// Opens the list of the ticked devices, then the dialog for the account to create on them. The batch starts when
+    /// both are confirmed. Refused if no uninitialised device is ticked.
     function initialise() {
         if (!mayBegin())
             return;
@@ -54,7 +54,8 @@ Item {
             askForAddresses([values], false);
     }
 
-    /// `rows`: values of DeviceTableModel. `isBatch`: the dialog assigns consecutive addresses.
+    /// Opens the address dialog. `rows`: values of rows of the table. `isBatch`: the dialog assigns consecutive
+    /// addresses from a start address, otherwise one address. Refused while other work needs the rows.
     function askForAddresses(rows, isBatch) {
         if (!mayBegin())
             return;
@@ -83,7 +84,7 @@ Item {
             batchStarted();
     }
 
-    /// Notifies the result of the ended batch and reads the table again.
+    /// Called at the end of `batch`: reads the table again, stores the new accounts and notifies the results.
     function notifyEnd() {
         const report = batch.report;
         deviceTable.refresh();

@@ -9,9 +9,9 @@ OVEmptyState {
     required property bool searching  // a search runs
     required property bool libraryInstalled  // false: there is no device library, so no device can be reached
     required property int hiddenCount  // number of devices in the list; as no row is shown, filters hide all of them
-    required property bool searchesNothing  // the search settings select no network
+    required property bool searchesNothing  // the settings of the last search selected no network
     property bool hasReport: false  // a report of the last search can be opened
-    property bool helps: false  // the page offers settings, adding devices and the demo site
+    property bool helps: false  // also offers the search settings, adding a device and the demo site
     property bool simulated: false  // the application shows the demo site, so it is not offered
     property string searched  // networks of the last search, as text
     signal searchRequested
@@ -21,6 +21,8 @@ OVEmptyState {
     signal filtersCleared  // the owner clears its filters and its search text
     signal reportRequested  // open the report of the last search
 
+    /// Why no row is shown: filters hide all devices, a search runs, there is no device library, the search settings
+    /// select no network, or the search found no device.
     enum Reason { Hidden, Searching, NoLibrary, NothingToSearch, NothingFound }
 
     /// A Reason: the first that applies.

@@ -1,4 +1,5 @@
-// Exports the ticked devices to a list file, and imports devices from a list file in a batch of logins.
+// Exports the ticked devices to a list file (.xlsx, .csv or .xml), and imports devices from such a file in a batch that
+// logs in to each device and adds its row.
 import QtQuick
 import configtools
 
@@ -29,7 +30,8 @@ Item {
             format.instance().open();
     }
 
-    /// Asks before it replaces an existing file. `folder`: a path.
+    /// Writes the ticked devices; asks before it replaces an existing file. `folder`: a path. The suffix of `fileName`
+    /// is the format.
     function exportTo(folder, fileName) {
         if (!fileDialogs.exists(folder + "/" + fileName)) {
             writeList(folder, fileName);
@@ -58,7 +60,8 @@ Item {
         });
     }
 
-    /// Notifies `success`. If values of the file would be different after an import, a dialog lists them as well.
+    /// Notifies `success`. If the file format cannot keep some values, so that an import would read other ones, a
+    /// dialog with `success` lists them instead.
     function reportExport(success) {
         const faults = deviceFactory.exportFaults("dh");
         if (faults.length === 0) {

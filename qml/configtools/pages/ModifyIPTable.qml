@@ -9,9 +9,9 @@ OVTable {
     required property bool ipv6  // the rows are IPv6 devices: wider addresses, no address changes
     required property var deviceFactory  // a CDeviceFactory; provides the names of results
     signal editRequested(int row)  // change the address
-    signal detailRequested(int row)
-    signal webRequested(int row)
-    signal liveRequested(int row)
+    signal detailRequested(int row)  // open the details
+    signal webRequested(int row)  // open the web page of the device
+    signal liveRequested(int row)  // open the live window
     signal noteRequested(int row)  // edit the note
 
     /// The user shows the column of notes; otherwise an icon at the name marks a note.
@@ -24,6 +24,8 @@ OVTable {
             noteRequested(currentIndex);
     }
 
+    // The keys are those of the rows of the device list. "state": bool, the device is initialised. "vision": firmware
+    // version. "res": LoginResult of the last address change or initialisation, -1 for none.
     columns: [
         {
             key: "num", title: qsTr("No."), width: Theme.columnNumber, leastWidth: Theme.columnUpgradeNumber,

@@ -15,15 +15,15 @@ Item {
     property alias searchText: searchField.text
     property int tipDrop: Theme.toolTipDrop  // vertical distance in pixels from a button to its tool tip, see OVToolTip
     readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
-    signal initialisedToggled(bool shown)
-    signal uninitialisedToggled(bool shown)
-    signal ipv6Chosen(bool ipv6)
+    signal initialisedToggled(bool shown)  // show or hide the initialised devices
+    signal uninitialisedToggled(bool shown)  // show or hide the uninitialised devices
+    signal ipv6Chosen(bool ipv6)  // show the IPv6 devices, otherwise the IPv4 devices
     signal initialiseRequested
-    signal modifyRequested
+    signal modifyRequested  // change the addresses
     signal importRequested
     signal exportRequested
-    signal deleteRequested
-    signal galleryRequested
+    signal deleteRequested  // remove the devices from the list
+    signal galleryRequested  // show images of the devices
     signal addIpRequested
     signal addP2pRequested
     signal addFavouriteRequested

@@ -1,4 +1,5 @@
-// The CGI page: sends commands over HTTP to the device of a row, to all ticked devices, or as listed in a workbook.
+// The CGI page: sends CGI commands (paths with parameters, over HTTP) to the device of a row, to all ticked devices, or
+// as listed in a workbook.
 import QtQuick
 import QtQuick.Layouts
 import configtools
@@ -22,8 +23,8 @@ FocusScope {
 
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi
-    readonly property var cgiManager: CGIConfigManageApi
-    readonly property var cgiBatches: CgiBatchesApi
+    readonly property var cgiManager: CGIConfigManageApi  // stored commands, template, clipboard
+    readonly property var cgiBatches: CgiBatchesApi  // sends commands in batches
     readonly property var fileDialogs: FileDialogsApi
     readonly property var webPages: WebPagesApi
     // qmllint enable unqualified
@@ -51,7 +52,8 @@ FocusScope {
         });
     }
 
-    /// Runs an entry of entriesOf() for a row: "send", "response" (show the complete response) or "copyResponse".
+    /// Runs an entry of entriesOf() for a row: "send" (its command), "response" (show the complete response) or
+    /// "copyResponse".
     function actOn(key, row) {
         const values = Object.assign({}, devices.get(row));
         if (key === "send") {
@@ -64,7 +66,8 @@ FocusScope {
         }
     }
 
-    /// The entries of this page in the context menu of a row, see OVEntryMenu.
+    /// The entries of this page in the context menu of a row, see OVEntryMenu. `values`: of the row; "url" is its
+    /// command, "result" the start of the last response.
     function entriesOf(values) {
         const isUpgrading = UpgradeTools.isRunning(values.upgraderes ?? UpgradeTools.None);
         const hasResponse = (values.result ?? "") !== "";

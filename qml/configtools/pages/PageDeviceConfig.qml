@@ -1,5 +1,5 @@
-// The configuration page: device tree on the left, settings of one device on the right. The device chosen in the tree
-// is logged in to. Its encode settings can be copied to the ticked devices.
+// The configuration page: device tree on the left, settings of one device on the right. The page logs in to the device
+// chosen in the tree. Its encode settings (video and audio streams) can be copied to the ticked devices.
 import QtQuick
 import configtools
 
@@ -14,7 +14,7 @@ FocusScope {
     property DeviceNotes notes: null  // null: devices have no notes
     signal searchRequested
     signal liveRequested(string ipport)  // "address:port"
-    signal notify(string message, int severity, int duration)  // severity: of OVToast; duration in ms
+    signal notify(string message, int severity, int duration)  // shows a toast; severity: of OVToast; duration in ms
     signal selectionChanged  // the number of ticked devices has changed: the window removes refusals
 
     readonly property int ticked: devices.checkedCount  // number of ticked devices that the filters show
@@ -84,7 +84,8 @@ FocusScope {
             notify(qsTr("勾选的设备中没有摄像机"), OVToast.Refusal, Theme.errorToastDuration);
     }
 
-    /// Called at the end of a batch of names: reads the names of the shown device again if the batch has changed them.
+    /// Called at the end of a batch of names with its BatchReport: reads the names of the shown device again if the
+    /// batch has changed them.
     function takeNamed(report) {
         if (report.devicesWith(BatchReport.Succeeded).includes(session.device))
             session.names.clear();

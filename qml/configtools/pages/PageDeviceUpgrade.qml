@@ -1,4 +1,5 @@
-// The upgrade page: the firmware file of each device, upgrades of ticked devices or by a document, and their progress.
+// The upgrade page: the firmware file of each device, upgrades of ticked devices or by a document (a workbook with
+// devices and firmware files), and their progress.
 import QtQuick
 import configtools
 
@@ -44,7 +45,7 @@ FocusScope {
             notify(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
     }
 
-    /// Runs an entry of entriesOf() for the device of a row: "file", "start" or "stop".
+    /// Runs an entry of entriesOf() for the device of a row: "file" (choose its file), "start" or "stop" (its upgrade).
     function actOn(key, row) {
         const identity = Object.assign({}, devices.get(row)).identity;
         if (key === "file")
@@ -55,7 +56,8 @@ FocusScope {
             deviceFactory.stopUpgrade("dh", identity);
     }
 
-    /// The entries of this page in the context menu of a row, see OVEntryMenu.
+    /// The entries of this page in the context menu of a row, see OVEntryMenu. `values`: of the row; "upgraderes" is an
+    /// UpgradeTools.Result.
     function entriesOf(values) {
         const result = values.upgraderes ?? UpgradeTools.None;
         const isRunning = UpgradeTools.isRunning(result);

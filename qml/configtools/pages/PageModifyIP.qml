@@ -13,7 +13,7 @@ FocusScope {
     property bool simulated: false  // the application shows the demo site
     required property var memory  // a ViewMemory that stores columns and order of the table; null: not stored
     property DeviceNotes notes: null  // null: devices have no notes
-    required property SearchReports searchReports
+    required property SearchReports searchReports  // report of the last search, and the number of missing devices
     signal searchRequested
     signal reportRequested  // open the report of the last search
     signal settingsRequested  // open the search settings

@@ -1,5 +1,7 @@
 // The system page: device tree on the left, maintenance commands for the ticked devices on the right. Each command is
-// one batch. The results are shown in the tree.
+// one batch. The results are shown in the tree. A password change has two commands: "loginCheck" checks the old
+// password, and the devices that accept it wait; within a minute (SystemPasswordTime) the user enters the new password,
+// which "modifyPassword" sends to them.
 import QtQuick
 import configtools
 
@@ -23,12 +25,12 @@ FocusScope {
     readonly property var deviceFactory: CDeviceFactoryApi
     readonly property var fileDialogs: FileDialogsApi
     readonly property var webPages: WebPagesApi
-    readonly property string timeZone: systemTimeZone
+    readonly property string timeZone: systemTimeZone  // of this computer, as "UTC+08:00" or "UTC-5:00"
     // qmllint enable unqualified
 
     property list<string> passwordTicks  // devices ("address:port") that were ticked when the old password was accepted
     property list<string> checkedWhenAsked  // devices ("address:port") of the last command
-    property list<string> leftOut  // devices ("address:port") that the user unticked in the last password change
+    property list<string> leftOut  // devices ("address:port") that the user unticked in the last "modifyPassword"
 
     /// A command can start: devices are ticked and no batch runs.
     readonly property bool available: unavailableText === ""
@@ -88,7 +90,7 @@ FocusScope {
                  .arg(reasons.slice(0, shown).join(qsTr("；")) + (reasons.length > shown ? "…" : "")), OVToast.Error);
     }
 
-    /// The text of a result in the tree. `result`: a LoginResult or an OVTreeModel.Result.
+    /// The text of a result in the tree, for its tool tip. `result`: a LoginResult or an OVTreeModel.Result.
     function resultText(result) {
         return result === OVTreeModel.WaitsForPassword ? qsTr("旧密码正确，等待新密码")
                                                        : deviceFactory.getErrorName(result);
@@ -105,7 +107,7 @@ FocusScope {
     }
 
     /// Starts a command without a question and clears the results in the tree. Does nothing after a refusal, which is
-    /// notified. Parameters: see SystemBatch.run().
+    /// notified. `targets` are "address:port"; the other parameters: see SystemBatch.run().
     function run(command, title, targets, data) {
         if (!batch.run(command, title, targets, data))
             return;
@@ -134,7 +136,7 @@ FocusScope {
         });
     }
 
-    /// Handles the end of the batch of the last command.
+    /// Handles the end of the batch of the last command, according to the command.
     function takeEnd() {
         if (batch.report.waiting === 0)
             refresh();  // the set of logged-out devices has changed

@@ -1,5 +1,5 @@
-// Stores columns and sort order of a device table: restores both when the page is created, and keeps each later change.
-// Text of an unknown or unsortable column is ignored.
+// Stores columns and sort order of a device table in the settings: restores both when the page is created, and passes
+// each later change to `memory`. A stored order by an unknown or unsortable column is ignored.
 import QtQuick
 import QtQml
 import configtools
@@ -8,7 +8,7 @@ Item {
     id: root
 
     required property var memory  // a ViewMemory; null: nothing is stored
-    required property string name  // name of the table in the settings
+    required property string name  // prefix of the names of both texts in the settings, such as "device"
     required property OVTable table
     required property DeviceTableModel model
 

@@ -11,7 +11,7 @@ OVDialog {
     property string fault  // error of the command, "" for none
     signal confirmed(string command)  // a valid command without spaces at its ends; the window has closed
 
-    /// Opens the window with the command that was entered last. `count`: number of devices.
+    /// Opens the window; its field keeps the command that was entered last. `count`: number of devices.
     function ask(count) {
         deviceCount = count;
         fault = "";

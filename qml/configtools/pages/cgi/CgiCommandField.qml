@@ -10,7 +10,7 @@ FocusScope {
     property alias text: field.text
     property alias errorText: field.errorText
     readonly property bool starred: commands.isFavourite(field.text.trim())  // the command is a favourite
-    property var suggestions: []  // texts of the suggested commands
+    property var suggestions: []  // texts of the commands that were suggested last
     property int marked: -1  // index of the selected suggestion, -1 for none
     property real topInWindow: 0  // y of the top edge in the window, in pixels, when suggestions were last shown
     signal edited  // the text was changed by typing or by a suggestion
@@ -32,7 +32,7 @@ FocusScope {
         list.item?.close();
     }
 
-    /// Replaces the text by a suggestion.
+    /// Replaces the text by a suggestion, closes the list and emits edited().
     function take(command) {
         close();
         field.text = command;

@@ -30,13 +30,14 @@ Item {
         return command !== "" && command.length <= longestKept;
     }
 
-    /// Stores a sent command as the latest one.
+    /// Stores a sent command as the latest one in `recent`. One that cannot be stored, see canBeKept(), is ignored.
     function remember(command) {
         cgiManager.rememberCommand(command);
         read();
     }
 
-    /// Adds a favourite command, or removes it if `kept` is false.
+    /// Adds a favourite command, or removes it if `kept` is false. Ignored for one that cannot be stored, and beyond
+    /// 200.
     function setFavourite(command, kept) {
         cgiManager.setFavouriteCommand(command, kept);
         read();

@@ -1,5 +1,6 @@
-// Sends one command to one device or to several, as a batch. The batch writes command and response to the rows; the
-// result is notified at the end. A command that was sent is remembered as recent.
+// Sends one command to one device or to several, as a batch. The batch writes the command ("url") and the start of the
+// response, or "Error:" and the reason ("result"), to the rows; the result is notified at the end. A command that was
+// sent is remembered as recent. A row is an index in `deviceTable`, an identity the unique name of a row.
 import QtQuick
 import configtools
 
@@ -15,7 +16,7 @@ Item {
     property string singleRow  // identity of the row for a single command, "" for several devices
     signal notify(string message, int severity)  // severity: of OVToast
     /// A batch for several devices has ended, and devices failed or were skipped. `lines`: one text for each of these
-    /// devices, grouped by result.
+    /// devices ("address:port" and the reason), grouped by result.
     signal failed(var lines)
     /// The device has refused the account of a single command. `result`: unknown account or wrong password, a
     /// LoginResult.
@@ -23,7 +24,7 @@ Item {
 
     readonly property string prefix: "/cgi-bin/"  // start of every valid command
 
-    /// The complete response of a row; its stored start if the complete one is no longer kept.
+    /// The last response of a row; only its start if the complete one is no longer in memory.
     function responseOf(row) {
         const values = deviceTable.get(row);
         return cgiBatches.responseOf(values.identity, values.result ?? "");

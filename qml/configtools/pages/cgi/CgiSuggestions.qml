@@ -7,7 +7,7 @@ T.Popup {
     id: root
 
     required property CgiCommands commands  // marks favourites with a star
-    required property var suggestions  // texts of the commands
+    required property var suggestions  // array of the commands, as texts
     required property int marked  // index of the selected suggestion, -1 for none
     signal taken(string command)  // a suggestion was clicked
 

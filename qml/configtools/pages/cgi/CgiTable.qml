@@ -10,7 +10,7 @@ OVTable {
     required property var deviceFactory  // a CDeviceFactory
     required property CgiCommands commands
     property int editRow: -1  // row whose field gets the keyboard focus when it is created
-    signal sendRequested(int row)
+    signal sendRequested(int row)  // send the command of the row
     signal responseCopyRequested(int row)  // copy the complete response
     signal responseOpenRequested(int row)  // show the complete response
     signal noteRequested(int row)  // edit the note
@@ -35,6 +35,8 @@ OVTable {
             noteRequested(currentIndex);
     }
 
+    // The keys are those of the rows of the device list. "result": start of the last response, or "Error:" and the
+    // reason. "url": the command.
     columns: [
         {key: "num", title: "No.", width: Theme.columnNumber, cell: numberCell},
         {key: "model", title: qsTr("型号"), width: Theme.columnModel, stretch: 1, sortable: true, cell: modelCell},

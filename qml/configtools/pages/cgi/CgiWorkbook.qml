@@ -7,8 +7,8 @@ Item {
     id: root
 
     required property var deviceFactory  // a CDeviceFactory
-    required property var workbooks  // a CgiWorkbooks
-    required property var cgiManager  // a CGIConfigManage
+    required property var workbooks  // a CgiWorkbooks, which reads and runs the workbook
+    required property var cgiManager  // a CGIConfigManage, which has the path of the template
     required property var fileDialogs  // a FileDialogs
     required property bool shown  // the page is visible
     /// Message about a workbook that was not shown yet, as the page is hidden; "" for none.
@@ -26,7 +26,8 @@ Item {
             notify(qsTr("打开模板文件失败。"), OVToast.Error);
     }
 
-    /// Confirms the lines of the workbook, in the form of BatchPreview::setEntries(), and runs the ticked ones.
+    /// Confirms the lines of the workbook and runs the ticked ones. `lines`: maps with "name" (unique), "title",
+    /// "ipport", "action" (the command) and "hindrance" (why the command must not be sent; "" for none).
     function ask(lines) {
         question.instance().askEntries(qsTr("即将执行文件中的CGI命令，执行结果将记录在文件中"), lines, {
             title: qsTr("批量表单操作"), okText: qsTr("执行"), listed: true, action: names => workbooks.run(qsTr("批量表单操作"), names)
