@@ -21,9 +21,11 @@ FocusScope {
     id: root
 
     required property var model
-    required property var columns
+    required property var columns  // array of all columns in default order
     property bool arrangeable: false
-    property alias columnsText: arrangement.text  // arrangement of the user, see TableColumns; stored by the owner
+    /// The columns as the user has arranged them: order, hidden ones and widths, as text. "" for the default
+    /// arrangement. The owner stores and restores it.
+    property alias columnsText: arrangement.text
     property bool checkable: true  // the rows have check boxes
     property int checkState: Qt.Unchecked  // a Qt::CheckState for all rows, set by the owner
     property string sortKey  // key of the sorted column, set by the owner; "" for none
@@ -55,7 +57,7 @@ FocusScope {
         body.takePointerFocus();
     }
 
-    readonly property int checkWidth: checkable ? 48 : Theme.controlGap
+    readonly property int checkWidth: checkable ? 48 : Theme.controlGap  // room before the first column, in pixels
     readonly property var shownColumns: Array.from(arrangement.shown)
         .map(key => columns.find(column => column.key === key)).filter(column => column !== undefined)
     readonly property var columnWidths: layOut(shownColumns, arrangement.widths, body.width - checkWidth)
@@ -117,6 +119,7 @@ FocusScope {
         menu.openAt(entries, position);
     }
 
+    /// Runs an entry of the menu of columns: "resetColumns", "fitColumn", or a column to show or hide.
     function takeFromMenu(key, menu) {
         if (key === "resetColumns")
             arrangement.reset();

@@ -17,15 +17,15 @@ ListView {
     property string currentIdentity  // of the current row, also while the model does not have it; "" for none
     property real keptY: 0  // contentY before a reset of the model
     required property real room  // height for the rows in pixels; a new table is filled over several frames
-    property int filled: rowsAFrame  // number of rows for which the view has height; grows with each frame
+    property int filled: rowsAFrame  // the view has height for this number of rows; grows with each frame up to `room`
     property var changedRows: []  // indices of rows to read again
     property int readsLeft: rowsAFrame  // reads left before the next frame
     readonly property int rowsAFrame: 5  // created or read between two frames
-    signal allToggled(bool checked)  // Ctrl+A: always true
-    signal rangeToggled(int first, int last, bool checked)
-    signal copyRequested(int row)
-    signal rowActivated(int row)
-    signal menuRequested(int row, var position)
+    signal allToggled(bool checked)  // tick all rows, by Ctrl+A; always true
+    signal rangeToggled(int first, int last, bool checked)  // tick or untick the rows from first to last, both included
+    signal copyRequested(int row)  // Ctrl+C
+    signal rowActivated(int row)  // by a double click or Enter
+    signal menuRequested(int row, var position)  // see OVEntryMenu.openAt()
 
     /// Makes the row `to` current, within the valid rows, and scrolls to it. With `extend`, also requests to tick all
     /// rows between `to` and the last row that became current without `extend`.
@@ -122,6 +122,7 @@ ListView {
         changedRows = Array.from(rows);
     }
 
+    /// Makes a row read its values again, if it is created.
     function read(row) {
         --readsLeft;
         (itemAtIndex(row) as OVTableRow)?.read();

@@ -5,10 +5,10 @@ import configtools
 Item {
     property string key            // of the column
     property var row: null         // values of the row, by key
-    property int rowIndex: -1  // in the table
+    property int rowIndex: -1  // index of the row in the table, from 0
     property bool current: false  // the row is the current one
-    property bool conflict: false  // role "conflict" of the row
-    readonly property var value: row && key !== "" ? row[key] : undefined
+    property bool conflict: false  // role "conflict" of the row: the row is highlighted
+    readonly property var value: row && key !== "" ? row[key] : undefined  // value of the column in this row
 
     /// The width in pixels of the column that shows the cell without eliding.
     function fittingWidth() {

@@ -9,8 +9,8 @@ Rectangle {
 
     required property var columns  // the shown ones, see OVTable
     required property var columnWidths  // in pixels, parallel to `columns`
-    property bool arrangeable: false
-    required property bool checkable
+    property bool arrangeable: false  // the user chooses and moves the columns
+    required property bool checkable  // the check box is shown
     required property int checkWidth  // without check boxes: room before the first column
     required property int checkState  // of the check box, a Qt::CheckState
     required property int rowCount  // without rows the check box is disabled

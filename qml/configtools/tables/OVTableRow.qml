@@ -6,10 +6,10 @@ import configtools
 Rectangle {
     id: root
 
-    required property int index
+    required property int index  // from 0
     required property bool checked
-    required property bool conflict
-    required property string identity
+    required property bool conflict  // the row is highlighted
+    required property string identity  // unique name of the row in the model
     required property var values  // by key, from get() of the model
     required property var columns  // the shown ones, see OVTable
     required property var columnWidths  // in pixels, parallel to `columns`

@@ -8,7 +8,7 @@ import configtools
 ListView {
     id: root
 
-    required property DeviceTreeRows rows
+    required property DeviceTreeRows rows  // the model, a flat list; not changed except for ticks and open groups
     required property var describer  // object with resultText(result, ipport), which returns the text of the tool tip
     property string busyDevice          // address and port of the device that is processed now, "" for none
     property bool choosing: false       // a device can be chosen
@@ -23,6 +23,7 @@ ListView {
     signal detailRequested(string name)  // name of the device's row, see rowName()
     signal menuRequested(string name, var position)  // see OVEntryMenu.openAt()
 
+    /// Makes the row current, without scrolling.
     function moveCursor(row) {
         cursor = row;
         cursorIdentity = rows.identityAt(row);

@@ -8,21 +8,21 @@ Rectangle {
 
     required property int index
     required property string identity
-    required property string title  // type of a group, address and port of a device
+    required property string title  // of a group its name (a device type or failure reason), of a device "address:port"
     required property string label  // shown text of the title
     required property string detail  // text after the label of a device
     required property int tick  // a Qt::CheckState
-    required property int result  // of the last batch: a BatchReport.Result or OVTreeModel.Result
+    required property int result  // of the last batch: 0 success, an OVTreeModel.Result, or another LoginResult
     required property bool isGroup
     required property bool isOpen
-    required property int deviceCount
+    required property int deviceCount  // of a group
     required property string failure  // see OVFailedSign
     required property bool onlyNotDone  // see OVFailedSign
     property var describer  // see OVTree
     property bool current: false  // row of the keyboard
     property bool busy: false  // a spinner replaces the result
     property bool choosing: false  // see OVTree
-    property bool chosen: false
+    property bool chosen: false  // the device is the chosen one
     property string pressedIdentity  // identity at the press of a mouse button, "" without a press
     signal clicked(string identity)
     signal openToggled(string identity)  // by the arrow or a double click; without effect for a device

@@ -6,7 +6,7 @@ import configtools
 OVDialog {
     id: root
 
-    required property AccountList accounts
+    required property AccountList accounts  // stores the account
     property string before  // current name, "" for a new account
     property bool tried: false  // OK was pressed: the first incomplete field shows its error
     /// The first incomplete field: "name", "account" or "password"; "" for none or before OK.

@@ -9,11 +9,11 @@ Item {
     required property Batches batches
     property Batch batch: null  // the followed batch or its retry; null for none
     property int keeping: AccountList.Unkept  // an AccountList.Keeping
-    property int takenCount: 0  // number of devices of the batch already processed
+    property int takenCount: 0  // number of succeeded devices of the batch whose accounts were processed
     property int keptCount: 0   // number of devices with a stored account, including batches before a retry
     property int keptBefore: 0  // of these, devices of batches before the retry
     property string failure  // why an account could not be stored, "" if all were
-    readonly property var accounts: LoginMemory.accounts
+    readonly property var accounts: LoginMemory.accounts  // the AccountList; null: nothing is stored
 
     /// Result for the user; "" if the account was not to be stored, or no device has accepted it.
     readonly property string message: failure !== "" ? qsTr("账号无法保存，只用到下次搜索：%1").arg(failure)
@@ -21,8 +21,8 @@ Item {
         : keeping === AccountList.AsDefault ? qsTr("新账号已设为默认账号")
         : qsTr("新账号已保存，以后登录这 %n 台设备时使用", "", keptCount)
 
-    /// Follows a batch that sets a new password, instead of the earlier one. `batch` may be null; `keeping` is an
-    /// AccountList.Keeping.
+    /// Follows a batch that sets a new password, instead of the earlier one. `batch` may be null; `keeping`
+    /// (AccountList.Keeping) is the choice of the user: for the devices, as default account, or not stored.
     function follow(batch, keeping) {
         keep();
         root.batch = batch;

@@ -1,4 +1,5 @@
-// A choice: where the new account of devices is stored. It stores nothing.
+// A choice: where the new account of devices is stored: for these devices, as the default account, or not at all. It
+// stores nothing.
 import QtQuick
 import configtools
 

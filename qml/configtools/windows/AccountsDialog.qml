@@ -12,7 +12,8 @@ OVDialog {
     property string refused
     property string edited  // name of the account that was added or changed since the dialog was opened; "" for none
     readonly property bool choosing: devices.length > 0
-    /// Values of the selected row, see AccountList; empty for none.
+    /// Values of the selected row: "identity", "name" ("" for the default account), "account" (user name),
+    /// "deviceCount" and "isDefault"; empty for none.
     readonly property var current: shownRow(table.currentIndex, accounts.count)
     /// The selected row is a stored account, not the default one.
     readonly property bool isOwn: (current.identity ?? "") !== "" && !current.isDefault
@@ -44,6 +45,7 @@ OVDialog {
         table.showNone();
     }
 
+    /// Reads the accounts and opens the dialog for these devices.
     function openFor(devices) {
         root.devices = devices;
         edited = "";

@@ -51,7 +51,7 @@ OVDialog {
             passwordField.selectAll();
     }
 
-    /// Sets the error and its field.
+    /// Sets the error text and its field, see `faultKind`.
     function note(kind, message) {
         faultKind = kind;
         fault = message;

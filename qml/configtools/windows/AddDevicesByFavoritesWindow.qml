@@ -36,7 +36,7 @@ OVDialog {
         saved.setRunning(identities, qsTr("正在添加…"));
     }
 
-    /// Stores the note of a favourite. After a failure the earlier note is shown.
+    /// Stores the note of a favourite (`identity`: its file name). After a failure the earlier note is shown.
     function changeNote(identity, note) {
         const device = favourites.deviceOf(saved.device(identity));
         device.note = note;
@@ -50,7 +50,7 @@ OVDialog {
         table.forceActiveFocus();
     }
 
-    /// Deletes a favourite without a question. Its device stays in the device list.
+    /// Deletes a favourite (`identity`: its file name) without a question. Its device stays in the device list.
     function remove(identity) {
         if (!favourites.remove(identity))
             inform(qsTr("收藏无法删除，请检查程序所在文件夹的写入权限"), OVToast.Error);

@@ -52,7 +52,7 @@ Item {
             });
     }
 
-    /// Whether no running work prevents the action, a BusyState.Action. Notifies the obstacle otherwise.
+    /// Whether no running work prevents the action (BusyState.Close or Restart). Notifies the obstacle otherwise.
     function isFree(action) {
         const refusal = busyState.refusal(action);
         if (refusal !== "")

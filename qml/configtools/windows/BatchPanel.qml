@@ -1,5 +1,5 @@
 // The panel of batches: a list of the batches since the start of the application (the last 50), and the results of the
-// selected one. A batch can be retried, and an address change can be reverted.
+// selected one. The latest batch can be retried, and an address change can be reverted.
 import QtQuick
 import configtools
 
@@ -25,7 +25,7 @@ OVDialog {
             list.show(0);
     }
 
-    /// Asks, then starts a batch that restores the addresses before the address change `changed`.
+    /// Asks, then starts a batch that restores the addresses that the devices had before the batch `changed`.
     function askToPutBack(changed) {
         const entries = batches.addressesToPutBack(changed);
         preview.instance().askEntries(

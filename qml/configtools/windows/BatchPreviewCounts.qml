@@ -6,7 +6,7 @@ import configtools
 Row {
     id: root
 
-    required property BatchPreview preview
+    required property BatchPreview preview  // the devices of the batch
 
     spacing: Theme.controlGap
 

@@ -17,10 +17,11 @@ OVDialog {
     property bool byAddress: true  // the ticked devices are passed as "address:port", otherwise by identity
     property string subject  // identifies the question for withdraw(); "" for none
 
-    /// Asks for devices by `ipports` ("address:port"). `text` is the question, `actionText` the change to each device.
-    /// `choices` has "okText" and "action" and optionally "title", "danger", "listed" (the list is always shown),
-    /// "quick" (no confirmation for a single device without a warning that is not skipped: the action is called during
-    /// this call) and "subject" (for withdraw()). The list is also shown if a device has a warning or is skipped.
+    /// Asks whether to process the devices at `ipports` ("address:port"). `text` is the question, `actionText` the
+    /// change to each device as shown in the list. `choices` has "okText" and "action" and optionally "title",
+    /// "danger", "listed" (the list is always shown), "quick" (no confirmation for a single device without a warning
+    /// that is not skipped: the action is called during this call) and "subject" (for withdraw()). The list is also
+    /// shown if a device has a warning or is skipped.
     function ask(text, actionText, ipports, choices) {
         preview.action = actionText;
         preview.setAddresses(ipports);
@@ -36,8 +37,9 @@ OVDialog {
         begin(text, choices);
     }
 
-    /// Like ask() for entries of BatchPreview::setEntries(), which contain their changes. The action gets the names of
-    /// the ticked ones.
+    /// Like ask() for devices with separate changes. `entries`: maps of "name" (unique), "ipport" and "action" (the
+    /// change) and optionally "title", "mac", "hindrance" (why the device is skipped) and "newAddress" (for warnings).
+    /// The action gets the "name" of the ticked ones.
     function askEntries(text, entries, choices) {
         preview.action = "";
         preview.setEntries(entries);

@@ -5,7 +5,7 @@ import configtools
 OVTable {
     id: root
 
-    required property BatchPreview preview
+    required property BatchPreview preview  // the model; also stores the ticks
     property bool givesAddresses: false  // the change is a new address
     property bool givesFirmware: false   // the change is a firmware upgrade
     property bool givesNames: false      // the change is a new name of a camera or channel

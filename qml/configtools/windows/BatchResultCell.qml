@@ -5,7 +5,8 @@ import configtools
 OVTableCell {
     id: root
 
-    /// A BatchResultModel.State, index in the lists below; ToCome shows no icon.
+    /// A BatchResultModel.State: Failed, NotDone, Skipped, Waiting or Succeeded, in the order of the lists below.
+    /// ToCome shows no icon.
     property int outcome: BatchResultModel.ToCome
     readonly property var signNames: ["error", "alert", "mixed", "ok", "ok"]
     readonly property var signColors: [Theme.colours.bad, Theme.colours.warn, Theme.colours.sub, Theme.colours.sub, Theme.colours.ok]

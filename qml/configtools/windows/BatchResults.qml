@@ -18,7 +18,7 @@ Item {
         panel.instance().show();
     }
 
-    /// Asks for a file, then writes the results of a batch to it in the background.
+    /// Asks for a file (.xlsx or .csv), then writes the results of a batch to it in the background.
     function save(batch) {
         chooseFile(batch.title, batch.began, path => batches.saveResults(batch, path));
     }

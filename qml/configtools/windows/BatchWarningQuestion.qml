@@ -1,4 +1,4 @@
-// Asks whether to start a batch despite warnings. `accepted` means yes.
+// Asks whether to start a batch despite warnings. accepted() means yes, rejected() no.
 import QtQuick
 import configtools
 

@@ -8,7 +8,8 @@ OVDialog {
 
     required property CertificateList certificates
     readonly property bool warns: certificates.changedCount > 0  // a certificate differs from the one trusted before
-    /// Values of the selected row, see CertificateList; empty for none.
+    /// Values of the selected row, such as "device", "fingerprint" (SHA-256) and "stored" (the fingerprint trusted
+    /// before, "" for none); empty for none.
     readonly property var current: shownRow(table.currentIndex, certificates.count)
     signal agreed(int count)  // `count` certificates are trusted now; the dialog has closed
 

@@ -17,8 +17,8 @@ OVDialog {
     signal copyRequested(string text)
     signal exportRequested(string fileName)  // fileName: suggested name without folder
 
-    /// Shows the values of a row and further values, by key, and clears the search text. Cancels running work. The
-    /// caller opens the dialog.
+    /// Shows known values of a device and clears the search text. `detail`: map of the values of its row ("ipport",
+    /// "mac" and others), and optionally further ones. Cancels running work. The caller opens the dialog.
     function load(detail) {
         work.cancel();
         loginError = "";

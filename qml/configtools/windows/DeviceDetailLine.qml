@@ -6,7 +6,7 @@ import configtools
 Rectangle {
     id: root
 
-    required property int index
+    required property int index  // in the list
     required property string label
     required property string value
     property bool current: false  // the line is selected in the list

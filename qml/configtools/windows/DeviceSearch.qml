@@ -6,11 +6,11 @@ import configtools
 QtObject {
     id: root
 
-    required property BusyState busyState
+    required property BusyState busyState  // the search is registered there while it runs
     required property var deviceFactory  // a CDeviceFactory
-    required property SearchReports searchReports
-    property int count: 0  // number of devices found by the running or last search
-    property bool running: false
+    required property SearchReports searchReports  // gets the start and the end of each search
+    property int count: 0  // number of IPv4 devices found by the running or last search
+    property bool running: false  // a search runs
     property bool searchedNothing: false  // the settings of the last search select no network
     property bool searchesLocal: false  // the last search included the local network
     property string searchedRange  // address range of the last search, "first - last"; "" for none
@@ -25,8 +25,9 @@ QtObject {
     property bool stopping: false  // the running search was asked to stop; after its end: it was stopped
     property var next: null  // settings of the search to start after the running one; null for none
 
-    /// Starts a search. `settings`: see SearchSettings.read(). A running search is stopped first, and the new one
-    /// starts after its end: two searches would fill the same list and report one end.
+    /// Starts a search of the networks in `settings`, see SearchSettings.read(); also sets its default account. A
+    /// running search is stopped first, and the new one starts after its end: two searches would fill the same list and
+    /// report one end.
     function start(settings) {
         if (running) {
             next = settings;

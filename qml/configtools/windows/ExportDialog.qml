@@ -6,7 +6,7 @@ import configtools
 OVDialog {
     id: root
 
-    /// With the suffix of the chosen format, without folder.
+    /// Name of the file without folder: "device.xlsx", "device.csv" or "device.xml", as chosen.
     readonly property string fileName: "device" + suffixes[formats.chosen]
     readonly property var suffixes: [".xlsx", ".csv", ".xml"]
 

@@ -1,5 +1,5 @@
-// A table cell with the editable note of a favourite. Enter and leaving the field report a changed text, Escape
-// discards it. The owner stores it.
+// A table cell with the note of a favourite and a button that edits it in a field. Enter and leaving the field report a
+// changed text, Escape discards it. The owner stores it.
 import QtQuick
 import configtools
 

@@ -1,5 +1,5 @@
-// A table cell with the result of adding a favourite: icon and message. `value` is a FavouriteListModel.Progress; a
-// favourite that was not tried shows nothing.
+// A table cell with the result of adding a favourite to the device list: icon and message. `value` is a
+// FavouriteListModel.Progress; a favourite that was not tried shows nothing.
 import QtQuick
 import configtools
 

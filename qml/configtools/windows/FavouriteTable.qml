@@ -1,4 +1,5 @@
-// The table of favourites: columns and cells. Its model is a FavouriteListModel. It only requests; the window acts.
+// The table of favourites (saved devices): columns and cells. Its model is a FavouriteListModel. It only requests; the
+// window acts.
 import QtQuick
 import configtools
 

@@ -1,5 +1,5 @@
-// The favourites: a file for each in one folder. Passwords are encrypted in the files. list(), save() and remove()
-// access files on the main thread.
+// The favourites (saved devices): a file for each in one folder. Passwords are encrypted in the files. list(), save()
+// and remove() access files on the main thread.
 import QtQuick
 import Author 1.0
 import configtools
@@ -10,8 +10,8 @@ QtObject {
     property string folder: Theme.favPath  // path that ends with "/"
     readonly property CAuthor author: CAuthor {}
 
-    /// Returns the favourites by file name (without folder). Each is a list of six texts: mode, address, port, account,
-    /// encrypted password, note.
+    /// Returns a map of the favourites by file name (without folder). Each is a list of six texts: mode ("0" by
+    /// address, "1" by P2P ID), address, port, account, encrypted password, note. Empty without a folder.
     function list() {
         return author.readJsonFilesFromFolder(folder);
     }

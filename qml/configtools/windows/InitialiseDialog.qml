@@ -10,12 +10,12 @@ OVDialog {
     /// Height in pixels that shows all rows.
     readonly property int wantedListHeight: Theme.tableHeadHeight + devices.count * Theme.rowHeight + Theme.controlRadius
         + 2 * Theme.line
-    /// Maximum height of the list in pixels, also while a notice is above the buttons.
+    /// Maximum height of the list in pixels; leaves room for a notice above the buttons.
     readonly property int roomForList: (parent?.height ?? 0) - 2 * Theme.pageMargin - Theme.dialogHeadHeight
         - 2 * Theme.dialogFootHeight - 2 * contentMargin - hint.height - Theme.unit
     signal confirmed  // at least one device will be initialised
 
-    /// Takes rows (values) of a DeviceTableModel, all of them ticked; the caller opens the dialog.
+    /// Sets the devices: values of rows of a DeviceTableModel, all of them ticked; the caller opens the dialog.
     function load(rows) {
         devices.setTicked(rows);
     }

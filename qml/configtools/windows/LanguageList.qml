@@ -1,4 +1,4 @@
-// The languages of the menu: the code of each, and its name.
+// The languages of the menu: the code of each, and its name. The order is that of the language codes of CLocalConfig.
 import QtQml
 
 QtObject {
@@ -13,8 +13,8 @@ QtObject {
         {code: "gl_GL", label: "Galician"}, {code: "ca_CA", label: "Catalan"}
     ]
 
-    /// Removes the entries with these indexes, which are in ascending order. The last one is removed first, so that the
-    /// other indexes stay valid.
+    /// Removes the entries with these indexes, which are in ascending order: languages without a translation file. The
+    /// last one is removed first, so that the other indexes stay valid.
     function remove(indexes) {
         const kept = entries.slice();
         for (let i = indexes.length - 1; i >= 0; --i)

@@ -1,5 +1,5 @@
 // State of logins, shared by all windows until the application exits: wrong passwords of each device, an account
-// entered by the user and not tried yet, and the account list.
+// entered by the user and not tried yet, and the account list. `ipport` is "address:port" of a device.
 pragma Singleton
 import QtQuick
 
@@ -52,8 +52,9 @@ QtObject {
         return wrongTimes[ipport] ?? 0;
     }
 
-    /// The account to log in to a device with: "user", "password" and "isForAll" (the user has entered it for all
-    /// following devices).
+    /// The account for a login to a device: a map of "user", "password" and "isForAll" (bool: the user has entered it
+    /// for all following devices). It is the account of the device's row, otherwise the stored account of the device,
+    /// otherwise the one for all following devices or the default one.
     function accountFor(ipport, deviceFactory) {
         const chosen = deviceFactory.accountOf("dh", ipport);
         return {user: chosen.account, password: chosen.password, isForAll: chosen.isFollowing ?? false};

@@ -13,7 +13,7 @@ OVMenu {
     signal helpRequested  // open the manual
     signal questionsRequested  // open the questions and answers
     signal aboutRequested
-    signal languageChosen(string code)
+    signal languageChosen(string code)  // code of an element of `languages`
     signal coloursChosen(string choice)  // see colourChoice
 
     objectName: "mainMenu"

@@ -43,7 +43,8 @@ OVDialog {
     property string warned  // warnings that were already shown; they do not block a second confirmation
     signal confirmed  // the input is valid, and warnings were confirmed
 
-    /// Takes rows (values) of devices, all of them ticked, and resets all input; the caller opens the dialog.
+    /// Sets the devices (values of rows of a DeviceTableModel), all of them ticked, and resets all input; the caller
+    /// opens the dialog. `isBatch`: see `batch`.
     function load(devices, isBatch) {
         batch = isBatch;
         expanded = false;

@@ -6,7 +6,7 @@ OVDialog {
     id: root
 
     required property DeviceNotes notes
-    property var values: ({})  // values of the device's row
+    property var values: ({})  // values of the device's row, as in DeviceActions
 
     /// Opens the dialog for the device of a row. Shows why the stored notes could not be read, if so.
     function edit(values) {

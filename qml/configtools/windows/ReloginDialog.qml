@@ -7,8 +7,9 @@ OVDialog {
     id: root
 
     required property var deviceFactory  // a CDeviceFactory
-    /// Emitted once for each ask(). Two empty texts: the user has cancelled, the device has no row any more, or another
-    /// ask() followed.
+    /// Emitted once for each ask(): on OK with the typed account, otherwise with two empty texts: the user has
+    /// cancelled, the device has no row any more, or another ask() followed. If the owner closes the dialog, it is
+    /// emitted by the next ask().
     signal responded(string account, string password)
 
     property string mac  // of the row, "" if unknown

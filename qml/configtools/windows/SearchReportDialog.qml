@@ -6,7 +6,7 @@ import configtools
 OVDialog {
     id: root
 
-    required property SearchReports reports
+    required property SearchReports reports  // provides the report as texts; not changed
     readonly property int labelWidth: Theme.imageLabelWidth
 
     wantedWidth: Theme.detailWidth

@@ -1,12 +1,12 @@
-// Reads and stores the search settings as one object.
+// Reads the search settings from the settings file as one map, and writes them there.
 import QtQml
 
 QtObject {
     required property var localConfig  // a CLocalConfig
 
-    /// Returns the stored settings: "localDomain" (bool: search the networks of this computer), "otherDomain" (bool:
-    /// search the address range), "startIP", "endIP", "userName", "password" (the default account) and "logsIn" (bool:
-    /// log in to found devices).
+    /// Returns a map of the stored settings: "localDomain" (bool: search the networks of this computer), "otherDomain"
+    /// (bool: search the address range), "startIP", "endIP", "userName", "password" (the default account) and "logsIn"
+    /// (bool: log in to found devices).
     function read() {
         return {
             localDomain: localConfig.getSearchConfigLocalDomain() !== 0,

@@ -29,7 +29,7 @@ StackLayout {
         return false;
     }
 
-    /// The page of a tab; an empty OVOnDemand if it was not created yet.
+    /// The page of a tab (index from 0); an empty OVOnDemand if it was not created yet.
     function pageAt(index) {
         const holder = children[index];
         return holder.item ?? holder;

@@ -19,7 +19,7 @@ Item {
     required property string softwareName  // title of the about box
     required property string version
     required property bool searching  // a search runs
-    required property rect toastArea  // area of the toasts in pixels, in window coordinates
+    required property rect toastArea  // see OVToast.area; in pixels, in window coordinates
     required property var webPages  // a WebPages
     signal helpRequested  // open the manual
     signal questionsRequested  // open the questions and answers
@@ -53,17 +53,17 @@ Item {
     }
 
     /// Opens the live window with the device at `ipport`. `table` is the list of the device, a DeviceTableModel. The
-    /// window goes through its ticked devices, or all rows if none is ticked.
+    /// buttons for the previous and the next device step through its ticked devices, or all rows if none is ticked.
     function openLive(ipport, table) {
         live.instance().open(ipport, -1, table, table.checkedCount > 0 ? table.checkedRows() : []);
     }
 
-    /// Like openLive() for a device of a tree, an OVTreeModel.
+    /// Like openLive() for a device of a tree, an OVTreeModel. No devices can be added to the live window then.
     function openLiveOfTree(ipport, tree) {
         live.instance().open(ipport, -1, null, tree.devicesToWatch());
     }
 
-    /// Shows images of devices. `rows`: values of rows of `table`, a DeviceTableModel.
+    /// Opens the gallery with images of devices. `rows`: values of rows of `table`, a DeviceTableModel.
     function openGallery(rows, table) {
         const window = gallery.instance();
         window.table = table;

@@ -7,9 +7,9 @@ Item {
 
     required property int tabCount  // number of tabs; Ctrl+1 is the first
     required property int currentTab  // index
-    signal searchRequested
-    signal helpRequested
-    signal settingsRequested
+    signal searchRequested  // F5: start a search
+    signal helpRequested  // F1: open the manual
+    signal settingsRequested  // open the search settings
     signal findRequested  // focus the search field
     signal galleryRequested  // open the images of the ticked devices
     signal tabRequested(int index)  // show the tab with this index

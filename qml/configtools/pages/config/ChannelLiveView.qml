@@ -1,5 +1,6 @@
-// The live view of a channel next to its image settings. It shows the device of the session, so that a written change
-// is visible at once.
+// The live view of a channel next to its image settings. It shows the device of the current session of the
+// configuration page, so that a written change is visible immediately. Before a stream starts, it checks whether the
+// device responds.
 import QtQuick
 import configtools
 
@@ -9,7 +10,7 @@ Item {
     required property var deviceFactory  // a CDeviceFactory
     required property int channel  // from 0
     required property string channelName
-    required property bool active     // the session is logged in; otherwise no stream runs
+    required property bool active     // the view is shown and the session is logged in; otherwise no stream runs
     required property bool connected  // a camera is connected to the channel
 
     implicitHeight: Math.round(width * 9 / 16)

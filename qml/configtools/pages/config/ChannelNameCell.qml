@@ -6,8 +6,8 @@ import configtools
 OVTableCell {
     id: root
 
-    required property int wantedRow  // row that gets the keyboard focus, -1 for none
-    signal edited(string name)  // the text was changed by typing
+    required property int wantedRow  // row (from 0) whose cell takes the keyboard focus, -1 for none
+    signal edited(string name)  // the text was changed by typing; name: the complete new text
     signal reverted  // restore the saved name
     signal leftFor(int row)  // row that gets the keyboard focus; -1 and the row count: outside of the rows
     signal confirmed  // by Enter

@@ -1,5 +1,5 @@
-// A table cell with the problem of a channel name and, for an unsaved name, a button that corrects it: a name that is
-// too long is truncated, any other one is reverted.
+// A table cell with the problem of a channel name and, for an unsaved name, a button that requests a correction: a name
+// that is too long is truncated, any other one is reverted.
 import QtQuick
 import configtools
 

@@ -7,15 +7,15 @@ Item {
     id: root
 
     required property ChannelNamesWork work
-    readonly property ChannelNameForm form: work.form
+    readonly property ChannelNameForm form: work.form  // model of the table: a row for each channel, from 0
     property int wantedRow: -1  // row whose field gets the keyboard focus, -1 for none
     property bool advancing: false  // Enter in the last row has started a save; after success the next device is opened
     signal refreshRequested  // read the names again
     signal nextDeviceRequested  // open the next device of the tree
     signal patternRequested  // open the dialog that names by a pattern
 
-    /// Focuses the name field of a row; after the last row the save button, or the next button if saving is not
-    /// possible. Does nothing for a negative row.
+    /// Focuses the name field of a row; after the last row the save button, or the button for the pattern if saving is
+    /// not possible. Does nothing for a negative row.
     function edit(row) {
         if (row < 0)
             return;

@@ -8,7 +8,7 @@ Item {
 
     required property var session  // a ConfigSession
     required property var deviceFactory  // a CDeviceFactory
-    property bool read: false  // the form shows the current device
+    property bool read: false  // the form has the names of the current device
     property bool arriving: false  // the device was just chosen: its first name gets the keyboard focus
     /// Result of the ended save that is not notified yet: "rows" (names to write), "written" and "failedRow" (-1 for
     /// none). Null for none.
@@ -57,7 +57,7 @@ Item {
         nameForm.save();
     }
 
-    /// Writes the name of one channel. `row` is the channel number from 0.
+    /// Writes the name of one channel in the background; the form gets the result. `row` is the channel number from 0.
     function write(row, name) {
         const device = session.device;
         session.work.run("", () => session.work.writeName(row, name), response => {

@@ -24,8 +24,8 @@ Item {
         batch = begun;
     }
 
-    /// The text of a result in the tree. `result`: a LoginResult or OVTreeModel.PartlyDone, whose text is the list of
-    /// settings that the device did not take.
+    /// The text of a result in the tree, for its tool tip. `result`: a LoginResult or OVTreeModel.PartlyDone, whose
+    /// text is the list of settings that the device did not take. `ipport`: "address:port" of the device.
     function resultText(result, ipport) {
         if (result === BatchReport.NotDone)
             return deviceFactory.getErrorName(result);

@@ -1,5 +1,6 @@
 // The session of the configuration page with one device: login, and reading and writing of settings in the background.
-// One operation runs at a time. The values of the three tabs are in `encoding`, `image` and `names`.
+// One operation runs at a time. The values of the three tabs are in `encoding`, `image` and `names`. The back end keeps
+// one such session, which the live window uses, too: its login to another device ends this session (`taken`).
 import QtQuick
 import configtools
 
@@ -16,13 +17,13 @@ Item {
     property string name
     property string model
     property string type
-    property bool loggedIn: false
-    property int loginResult: 0  // of the last login, a LoginResult; 5 (no response) also after lose()
+    property bool loggedIn: false  // settings can be read; false also while the login runs, if `taken` and if `lost`
+    property int loginResult: 0  // of the last login, a LoginResult (0: success); 5 (no response) also after lose()
     property bool taken: false       // the live window has logged in to another device: this session has ended
     property bool lost: false        // the device has stopped responding, or no longer accepts the login
     property bool upgrading: false   // a firmware upgrade runs: no settings can be written
     property string failure          // why the session is not logged in, for the user; "" if it is
-    readonly property alias work: sessionWork
+    readonly property alias work: sessionWork  // runs the operations
     readonly property alias busy: sessionWork.busy  // an operation runs whose text is shown; the panel is blocked
     readonly property alias busyText: sessionWork.text
     /// Settings of the device are being changed.
@@ -136,8 +137,9 @@ Item {
             shown.load();
     }
 
-    /// Called when the live window has logged in, to this or to another device. The running operation belonged to the
-    /// earlier login and is dropped, with unsaved changes; the user is notified of lost changes.
+    /// Called when the live window has logged in, to this device (the new session is used) or to another one (`taken`).
+    /// The running operation belonged to the earlier login and is dropped, with unsaved changes; the user is notified
+    /// of lost changes.
     function noteOtherLogin() {
         const isChangeLost = unsaved > 0 || writing;
         lost = false;

@@ -13,8 +13,8 @@ SessionWork {
     property var next: null          // function of the running operation, called with its result; null for none
     property var postponed: null     // function of afterWriting() that waits; null for none
 
-    /// Shows `text`, starts an operation of SessionWork by the function `begin`, and calls `next` with its result.
-    /// `next` may be null.
+    /// Shows `text`, starts an operation of SessionWork by the function `begin`, and calls `next` at its end with the
+    /// value that the operation returns (undefined for most). `next` may be null.
     function run(text, begin, next) {
         root.text = text;
         root.next = next;
@@ -33,7 +33,7 @@ SessionWork {
         finish();
     }
 
-    /// Called at the end of the operation with its result.
+    /// Called at the end of the operation with its value: calls its function, then runs a postponed action.
     function finish(value) {
         const callback = next;
         next = null;

@@ -6,8 +6,8 @@ import configtools
 Row {
     id: root
 
-    /// The setting "bitRate" of a stream of EncodeForm: a map with "choices" (texts), "index", "value" (kbit/s) and
-    /// "usable".
+    /// The setting "bitRate" of a stream of EncodeForm: a map with "choices" (texts), "index" (-1: unknown), "value"
+    /// (kbit/s; not above 0: unknown) and "usable" (bool: can be set).
     required property var setting
     property string namePrefix  // of the object names: "main" or "sub"
     property string accessibleName

@@ -8,7 +8,7 @@ Item {
     id: root
 
     required property EncodeWork work
-    required property int targetCount  // number of devices that a copy would write
+    required property int targetCount  // number of devices that a copy would write to: ticked ones except this device
     readonly property EncodeForm form: work.form
     /// Error in the foot, "" for none.
     readonly property string errorText: {

@@ -6,7 +6,7 @@ Item {
     id: root
 
     required property string label
-    property bool changed: false  // the value is not saved
+    property bool changed: false  // the value differs from that of the device: the mark is shown
     default property alias field: slot.data
 
     width: parent?.width ?? 0

@@ -8,8 +8,8 @@ Item {
 
     required property var session  // a ConfigSession
     required property var deviceFactory  // a CDeviceFactory
-    property bool read: false  // the form shows the current device
-    property int result: 0     // of the last read: 0, a constant below, or an error of the device library
+    property bool read: false  // the form has the values of the current device, or the read has failed, see `failed`
+    property int result: 0     // of the last read: 0, a constant below, or an error of the network library
     /// The device's values are not understood; the page may be incomplete.
     readonly property int configurationUnreadable: 1
     readonly property int abilitiesUnknown: 10  // the device did not report the possible values; choices may be empty
@@ -18,7 +18,7 @@ Item {
     /// success.
     property string unsavedItems
     readonly property alias form: encodeForm
-    readonly property var subStream: encodeForm.subStream
+    readonly property var subStream: encodeForm.subStream  // see EncodeStream.stream; also "exists" (bool)
     readonly property int unsaved: read ? encodeForm.changedCount : 0  // number of changed values that are not written
     /// The settings were read completely and can be copied to other devices.
     readonly property bool copyable: read && !failed && encodeForm.complete
@@ -56,7 +56,8 @@ Item {
         session.work.run(qsTr("正在读取编码配置…"), () => session.work.chooseEncoding(key, index), () => read = true);
     }
 
-    /// Sets a value in the form, by a key of EncodeForm. "subCurResolution" is written to the device immediately.
+    /// Sets a value in the form, by the "key" of the setting. "subCurResolution", the resolution of the sub stream, is
+    /// written to the device immediately.
     function set(key, value) {
         unsavedItems = "";
         // Only this setting is written immediately.

@@ -6,10 +6,10 @@ import configtools
 OVFormRow {
     id: root
 
-    required property ImageGroup group
+    required property ImageGroup group  // reads and writes the value
     required property string subKey  // key of the setting in the group
     required property var choices  // texts of the choices
-    property int first: 0  // number of the first choice
+    property int first: 0  // number of the first choice on the device
     property var numbers: []  // number of each choice, if the numbers are not consecutive; replaces `first`
 
     labelWidth: Theme.imageLabelWidth

@@ -1,4 +1,5 @@
-// The image settings of the second subject: exposure, backlight, white balance.
+// The image settings of the second subject of ImagePanel: exposure, backlight, white balance. Each change is written to
+// the device immediately.
 import QtQuick
 import configtools
 

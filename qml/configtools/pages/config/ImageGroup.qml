@@ -7,8 +7,11 @@ OVSection {
     id: root
 
     required property ImageWork work
-    required property string key  // of the group, see CameraForm
-    /// Values of the group by sub-key, and its properties; see CameraForm.
+    required property string key  // of the group in CameraForm.groups, such as "exposure"
+    /// Values of the group by sub-key (key of a setting), and its properties: "support" (bool: the camera has the
+    /// group, and it was read), "unread" (bool: the camera has it, but it was not read), "missing" (list of sub-keys
+    /// that the camera does not have) and "ranges" (by sub-key, maps of "min" and "max"). Lists "all..." have texts of
+    /// choices.
     readonly property var values: work.form.groups[key] ?? ({})
 
     /// The value of a setting; 0 if it is missing or not a number.
@@ -41,7 +44,7 @@ OVSection {
         return values.ranges?.[subKey]?.max ?? 100;
     }
 
-    /// Writes a value of this group to the device.
+    /// Writes a value of this group to the device, in the background.
     function change(subKey, value) {
         work.set(key, [[subKey, value]]);
     }

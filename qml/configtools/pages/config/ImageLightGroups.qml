@@ -1,4 +1,5 @@
-// The image settings of the third subject: day and night, lamps.
+// The image settings of the third subject of ImagePanel: day and night, lamps. Each change is written to the device
+// immediately.
 import QtQuick
 import configtools
 
@@ -6,7 +7,7 @@ Column {
     id: root
 
     required property ImageWork work
-    readonly property var lamps: [qsTr("远近光"), qsTr("近光"), qsTr("远光")]  // in the numbering of devices
+    readonly property var lamps: [qsTr("远近光"), qsTr("近光"), qsTr("远光")]  // the index is the number on the device
 
     spacing: Theme.pageMargin
 

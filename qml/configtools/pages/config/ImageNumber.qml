@@ -9,7 +9,7 @@ OVNumberField {
     required property ImageGroup group
     required property string subKey  // key of the setting in the group; "": the owner writes the number
     property int least: 0  // smaller numbers are replaced by it
-    property int current: group.number(subKey)  // number on the device
+    property int current: group.number(subKey)  // number on the device, as last read
     /// The number is inconsistent with related numbers: it stays in the field and is not reported.
     property bool wrong: false
     signal finished(int number)  // the typed number is valid and differs from `current`

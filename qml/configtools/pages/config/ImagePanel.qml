@@ -9,7 +9,7 @@ Item {
 
     required property ImageWork work
     property int subject: 0  // index in `subjects`: 0 picture, 1 exposure and white balance, 2 day, night and lamps
-    readonly property CameraForm form: work.form
+    readonly property CameraForm form: work.form  // has the values as last read
 
     /// Keys of the groups of each subject.
     readonly property var subjects: [

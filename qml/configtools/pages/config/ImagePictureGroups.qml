@@ -1,4 +1,5 @@
-// The image settings of the first subject: colours, sharpness, mirroring, stabilisation, defog.
+// The image settings of the first subject of ImagePanel: colours, sharpness, mirroring, stabilisation, defog. Each
+// change is written to the device immediately.
 import QtQuick
 import configtools
 

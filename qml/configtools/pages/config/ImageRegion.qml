@@ -6,7 +6,7 @@ import configtools
 OVFormRow {
     id: root
 
-    required property ImageGroup group
+    required property ImageGroup group  // the group "backMode"
     /// On the device: numbers by "Left", "Top", "Right" and "Bottom".
     readonly property var region: group.values.BacklightRegion ?? ({})
     readonly property var sides: [

@@ -6,13 +6,13 @@ import configtools
 Column {
     id: root
 
-    required property ImageGroup group
-    required property CameraForm form
+    required property ImageGroup group  // the group "exposure"
+    required property CameraForm form  // has the fixed times
     property bool asked: false  // custom is chosen, the range is not entered yet
     readonly property real shortest: group.number("dbExposureValue1")  // lower bound on the device, ms
     readonly property real longest: group.number("dbExposureValue2")  // upper bound on the device, ms
     readonly property int last: form.shutterTimes.length  // index of the entry "custom"
-    /// Of the fixed time on the device; -1 for a custom range.
+    /// Index of the fixed time on the device; -1 for a custom range.
     readonly property int index: form.shutterIndex(shortest, longest)
     readonly property bool custom: asked || index < 0
     /// The typed lower bound is greater than the upper one.

@@ -9,7 +9,7 @@ Item {
 
     required property ImageWork work
     readonly property CameraForm form: work.form
-    readonly property var groups: form.groups
+    readonly property var groups: form.groups  // by key, see ImageGroup.values
 
     /// Writes the typed name if it is valid and differs. An empty name is replaced by the current one; a name that is
     /// too long stays with its error.

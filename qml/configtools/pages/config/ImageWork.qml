@@ -8,8 +8,8 @@ Item {
 
     required property var session  // a ConfigSession
     required property var deviceFactory  // a CDeviceFactory
-    property bool read: false  // the form shows the current device
-    property int refusal: 0  // error of the device library for the last change, 0 for none
+    property bool read: false  // the form has the values of the current device
+    property int refusal: 0  // error of the network library for the last change, 0 for none
     property var connectedChannels: []  // list of bool: whether each channel has a camera
     readonly property alias form: cameraForm
 
@@ -41,8 +41,9 @@ Item {
                          () => read = session.loggedIn);
     }
 
-    /// Writes values of a group: pairs [sub-key, value]. Then the form shows the values that the device has; a refusal
-    /// or a missing response is notified.
+    /// Writes values of the group `key` in the background: pairs [sub-key, value]. Then the form shows the values that
+    /// the device has; a refusal or a missing response is notified. "curChannelName" (the name of the channel) and
+    /// "setDefault" (default picture settings) are keys without sub-keys.
     function set(key, values) {
         refusal = 0;
         session.work.write(qsTr("正在写入图像配置…"), () => session.work.writeImage(key, values), () => {

@@ -1,5 +1,6 @@
-// Makes names from a pattern, with a preview: for the channels of one device, or for channel 1 of several cameras. It
-// writes nothing; the owner handles the signals.
+// Makes names from a pattern, with a preview: for the channels of one device, or for channel 1 of several cameras. In
+// the pattern, {n} is a number, {model} the model and {ip4} the last number of the IPv4 address. The dialog writes
+// nothing; the owner handles the signals.
 import QtQuick
 import configtools
 
@@ -43,7 +44,7 @@ OVDialog {
             plan.takeCameras(cameras);
     }
 
-    /// Closes the dialog and emits the names of the ticked rows.
+    /// Closes the dialog and emits channelsNamed() or camerasNamed() with the names of the ticked rows.
     function begin() {
         close();
         if (ofChannels)

@@ -8,9 +8,9 @@ Rectangle {
 
     required property ConfigSession session
     required property bool hasDevices  // the tree has a device
-    required property int targetCount  // number of targets of a copy
+    required property int targetCount  // number of devices that a copy of the encode settings would write to
     required property int tickedCount  // number of ticked devices in the tree
-    /// The settings of the current tab were read.
+    /// The settings of the current tab were read: its panel is shown.
     readonly property bool shown: session.encodeShown ? session.encoding.read
         : session.imageShown ? session.image.read : session.names.read
     /// No device is chosen, but ticked cameras can be named.

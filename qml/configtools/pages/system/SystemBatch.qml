@@ -10,13 +10,15 @@ QtObject {
     property string command  // name of the last command, see run()
     readonly property BatchReport report: batch?.report ?? none  // of the batch; empty before the first
     readonly property bool running: batch?.running ?? false
-    readonly property string device: batch?.device ?? ""  // a device with a running request, see Batch::device()
-    signal resulted(var devices, var results)  // devices: "address:port"; results: of the same devices; see Batch
+    readonly property string device: batch?.device ?? ""  // "address:port" of a device being processed, "" for none
+    /// New results. devices: "address:port"; results: a result code (LoginResult) for each of them, 0 for a success.
+    signal resulted(var devices, var results)
     signal retried  // `batch` is now the retry
-    signal finished
+    signal finished  // the batch has ended or was stopped
 
-    /// Starts a command. `command` and the keys of `data`: see SystemCommand and SystemDataKey of the back end.
-    /// `title`: its name for the user. `devices`: "address:port". Returns false after a refusal, which Batches reports.
+    /// Starts a command of the back end, such as "rebootDevice". `data`: its parameters, a map; the panels of the page
+    /// make it (namespace SystemDataKey lists all keys). `title`: name for the user. `devices`: "address:port". Returns
+    /// false after a refusal, which Batches reports.
     function run(command, title, devices, data) {
         const begun = batches.configureSystem("dh", command, title, data, devices);
         if (begun === null)
@@ -26,7 +28,8 @@ QtObject {
         return true;
     }
 
-    /// Sets the devices that wait for their next step to "not done". `title`: name of that step.
+    /// Sets the devices that wait for a further step (the new password after the check of the old one) to "not done".
+    /// `title`: name of that step for the user.
     function cancelWaiting(title) {
         batch?.cancelWaiting(title);
     }

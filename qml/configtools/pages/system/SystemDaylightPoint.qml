@@ -14,7 +14,8 @@ Flow {
     property alias time: timeField.text  // "hh:mm"
     readonly property alias acceptable: timeField.acceptable  // the time is valid
 
-    /// The values as part of the data of the command "dstConfig". The keys begin with `name`.
+    /// The values as part of the data of the command "dstConfig". The keys begin with `name`: "Month" (1 to 12), "Day"
+    /// (index in the days of the month, from 0), "Week" and "WeekDay" (indexes in SystemLists) and "Time" ("hh:mm").
     function values() {
         return {
             [name + "Month"]: monthBox.currentIndex + 1,

@@ -9,7 +9,7 @@ OVSection {
     required property bool available  // devices are ticked and no batch runs
     required property string unavailableText  // why no command can start, for tool tips; "" if `available`
     required property var deviceFactory  // a CDeviceFactory; provides the days of a month
-    signal actionRequested(string command, string title, var data)  // see SystemPanels
+    signal actionRequested(string command, string title, var data)  // title: for the user; see SystemBatch.run()
     signal refused(string message)  // the input is invalid; nothing was requested
 
     title: qsTr("夏令时")

@@ -6,8 +6,8 @@ import configtools
 Rectangle {
     id: root
 
-    required property OVTreeModel devices
-    required property var describer  // object with the function resultText(result, ipport), see OVTree
+    required property OVTreeModel devices  // owns the ticks; its `shown` is the filter
+    required property var describer  // its function resultText(result, ipport) returns the tool tip of a result
     required property string busyDevice  // "address:port" of a device with a running request; "" for none
     required property bool searching  // a search runs
     required property bool libraryInstalled  // false: there is no device library, so no device can be reached
@@ -17,8 +17,8 @@ Rectangle {
     /// Text of the search field without spaces at its ends. The page rebuilds the tree when it changes.
     readonly property string searchText: searchField.text.trim()
     signal searchRequested  // start a device search
-    signal deviceChosen(string ipport)  // "address:port"
-    signal detailRequested(string name)  // name (identity) of the device's row
+    signal deviceChosen(string ipport)  // "address:port"; only if `choosing`, also for the chosen device
+    signal detailRequested(string name)  // open the details; name (identity) of the device's row; not if `choosing`
     signal menuRequested(string name, var position)  // name: of the device's row; position: see OVEntryMenu.openAt()
 
     /// Focuses the search field and selects its text.
@@ -27,7 +27,7 @@ Rectangle {
         searchField.selectAll();
     }
 
-    /// Chooses the device below the chosen one. Returns false if there is none.
+    /// Requests the device below the chosen one, by deviceChosen(). Returns false if there is none.
     function chooseNext() {
         const row = treeRows.deviceAfter(chosenDevice);
         if (row >= 0) {

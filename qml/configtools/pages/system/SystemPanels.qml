@@ -13,18 +13,18 @@ Rectangle {
     required property bool locked  // a command runs: the panels are disabled; another tab can be selected
     required property string timeZone  // of this computer, as "UTC+08:00" or "UTC-5:00"
     required property var deviceFactory  // a CDeviceFactory
-    required property SystemPasswordTime passwordTime
+    required property SystemPasswordTime passwordTime  // the time in which a new password can be entered
     property int currentPanel: 0  // index of the tab
 
     /// Functions of the network library, as a map of bool: "timeServerDetails", "automaticMaintenance" and
     /// "videoStandard" are used here.
     readonly property var functions: deviceFactory.getConfigData("dh", "library", 0)
-    property alias clocks: timePanel.clocks  // see SystemTimePanel
-    /// Run a command. `command` and the keys of `data`: see SystemCommand and SystemDataKey of the back end. `title`:
-    /// its name for the user.
+    property alias clocks: timePanel.clocks  // times of devices, see SystemTimePanel
+    /// Run a command, such as "ntpConfig". `data`: its parameters, a map; the panel that emits the signal shows its
+    /// keys. `title`: name for the user.
     signal actionRequested(string command, string title, var data)
-    signal rebootRequested
-    signal resetRequested
+    signal rebootRequested  // reboot the devices now
+    signal resetRequested  // reset the devices to factory settings
     signal passwordCheckRequested(string password)  // check the old password
     /// Set the new password; keeping: an AccountList.Keeping.
     signal passwordChangeRequested(string password, int keeping)

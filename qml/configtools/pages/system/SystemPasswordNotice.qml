@@ -5,7 +5,7 @@ import configtools
 Row {
     id: root
 
-    required property SystemPasswordTime time
+    required property SystemPasswordTime time  // the time in which a new password can be entered
     required property bool keeps     // a typed new password is set aside and will be restored
     required property bool restored  // the password that was set aside is in the fields again
 

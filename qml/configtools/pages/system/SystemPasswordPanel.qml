@@ -8,14 +8,14 @@ Column {
 
     required property bool available  // devices are ticked and no batch runs
     required property string unavailableText  // why no command can start, for tool tips; "" if `available`
-    required property SystemPasswordTime time
+    required property SystemPasswordTime time  // the time in which a new password can be entered
     required property var deviceFactory  // a CDeviceFactory; provides the password strength
     signal checkRequested(string password)  // check this old password on the ticked devices
     signal changeRequested(string password, int keeping)  // set this new password; keeping: an AccountList.Keeping
     signal refused(string message)  // the input is invalid; nothing was requested
 
     readonly property bool editorEnabled: time.open  // the new password can be entered
-    // Input when the editor closed. It is restored after the next check of the old password.
+    // Input of the new password at the end of the time. It is restored after the next check of the old password.
     property string keptPassword
     property string keptConfirmation
     property bool restored: false  // the fields were filled with the input that was set aside

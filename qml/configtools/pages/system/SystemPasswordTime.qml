@@ -1,5 +1,5 @@
-// The minute for the new password after the check of the old one. The back end keeps the logins of the devices that
-// have accepted the old password until endLogins().
+// The minute in which the user enters the new password, after the check of the old one. The back end keeps the logins
+// of the devices that have accepted the old password until endLogins().
 import QtQml
 import configtools
 
@@ -10,13 +10,15 @@ QtObject {
     required property bool changing  // the batch that sends the new password runs; the time does not run out meanwhile
     property bool open: false        // the new password can be entered
     property int secondsLeft: 0  // 0 to 60
-    property list<string> devices    // "address:port" of the devices that still have the old password
+    property list<string> devices    // "address:port" of the logged-in devices that still have the old password
     property int ending: SystemPasswordTime.Regular  // reason of the last end, an Ending
     property int leftCount: 0        // number of devices with the old password at the end
     property int second: 1000        // length of a second in ms; tests set a shorter one
     property bool endsLater: false  // the logins end after the running batch
-    signal ended  // the logins are closed
+    signal ended  // the logins are being closed; after close(), or after the batch that uses them
 
+    /// Why the time has ended. Regular: the new password is set, or the user left the page or checks a password again.
+    /// TimeOver: the minute has passed. OtherTicks: other devices are ticked. OtherWork: another command has started.
     enum Ending { Regular, TimeOver, OtherTicks, OtherWork }
 
     /// Starts the time. `waiting`: "address:port" of the devices that have accepted the old password.

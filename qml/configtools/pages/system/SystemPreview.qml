@@ -11,7 +11,8 @@ Item {
     /// Commands that change nothing: they need no confirmation.
     readonly property var harmless: ["readTime", "loginCheck"]
 
-    /// The change by a command, as text. Parameters: see SystemBatch.run().
+    /// The change by a command, as a text for the user; the `title` for a command without details. Parameters: see
+    /// SystemBatch.run().
     function actionText(command, title, data) {
         switch (command) {
         case "dstConfig":

@@ -9,7 +9,7 @@ Column {
     required property string unavailableText  // why no command can start, for tool tips; "" if `available`
     required property bool hasMaintenance  // the network library can schedule reboots
     required property int upgradingCount  // number of ticked devices that are being upgraded
-    signal actionRequested(string command, string title, var data)  // see SystemPanels
+    signal actionRequested(string command, string title, var data)  // title: for the user; see SystemBatch.run()
     signal rebootRequested  // reboot the ticked devices; nothing was asked yet
     signal refused(string message)  // the input is invalid; nothing was requested
 

@@ -11,7 +11,7 @@ Column {
     required property string timeZone  // of this computer, as "UTC+08:00" or "UTC-5:00"
     /// Maps with "device" ("address:port") and "message" (its time or the error), of the last devices read.
     property var clocks: []
-    signal actionRequested(string command, string title, var data)  // see SystemPanels
+    signal actionRequested(string command, string title, var data)  // title: for the user; see SystemBatch.run()
     signal refused(string message)  // the input is invalid; nothing was requested
 
     spacing: Theme.pageMargin * 1.5

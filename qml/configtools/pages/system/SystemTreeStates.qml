@@ -1,11 +1,12 @@
-// The filter of a device tree: all devices, those with a failed batch, or those not logged in.
+// The filter of a device tree: all devices, those with a failed mark (a batch failed or did not reach them), or those
+// without a login so far or whose last login failed.
 import QtQuick
 import configtools
 
 OVSegmentedChoice {
     id: root
 
-    required property OVTreeModel devices
+    required property OVTreeModel devices  // its property `shown` is changed
     /// Number of failed devices that this tree cannot list.
     readonly property int elsewhereCount: devices.failedElsewhereCount
     /// The OVTreeModel.Shown of each option.

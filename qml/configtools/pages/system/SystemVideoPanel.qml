@@ -8,7 +8,7 @@ OVSection {
     required property bool available  // devices are ticked and no batch runs
     required property string unavailableText  // why no command can start, for tool tips; "" if `available`
     required property bool supported  // the network library can set the standard
-    signal actionRequested(string command, string title, var data)  // see SystemPanels
+    signal actionRequested(string command, string title, var data)  // title: for the user; see SystemBatch.run()
 
     title: qsTr("视频制式")
 

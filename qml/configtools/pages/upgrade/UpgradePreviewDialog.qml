@@ -9,17 +9,18 @@ OVDialog {
     required property var deviceFactory  // a CDeviceFactory
     property string path  // path of the document; "" for devices of the table
     signal confirmed(var identities)  // identities of the ticked devices, including skipped ones
-    signal documentConfirmed(string path, var lines)  // lines: numbers of the ticked lines, as texts
+    signal documentConfirmed(string path, var lines)  // lines: numbers of the ticked lines in the file, as texts
     signal documentRefused(string reason)  // the document cannot be used; the dialog does not open
 
-    /// Opens the dialog for listed devices, each with the file in its row.
+    /// Opens the dialog for listed devices, each with the file in its row. `identities`: names of rows.
     function ask(identities) {
         path = "";
         preview.setIdentities(identities);
         open();
     }
 
-    /// Reads a document in the background. Then the dialog opens, or documentRefused is emitted.
+    /// Reads a document (the path of a workbook) in the background. Then the dialog opens, or documentRefused is
+    /// emitted.
     function askDocument(file) {
         path = file;
         preview.readDocument(file);

@@ -11,6 +11,7 @@ Item {
     readonly property BatchReport none: BatchReport {}
     /// Number of devices with a result; devices that were not reached do not count.
     readonly property int done: batch?.running ? batch.done : report.total - report.notDone
+    /// Numbers of devices by result, as text.
     readonly property string outcome: {
         if (batch?.running)  // the remaining ones are still in progress
             return [report.succeeded > 0 ? qsTr("成功 %1").arg(report.succeeded) : "",

@@ -8,8 +8,8 @@ OVTable {
 
     required property bool ipv6  // the rows are IPv6 devices: wider addresses
     signal fileRequested(int row)  // choose the firmware file
-    signal startRequested(int row)
-    signal stopRequested(int row)
+    signal startRequested(int row)  // start the upgrade of the device
+    signal stopRequested(int row)  // stop it
     signal noteRequested(int row)  // edit the note
 
     /// Names of the states of a running upgrade, by UpgradeTools.Result.
@@ -26,6 +26,8 @@ OVTable {
             noteRequested(currentIndex);
     }
 
+    // The keys are those of the rows of the device list. "vision": current firmware version. "filepath": firmware file.
+    // "upgrade": progress in percent. "upgraderes": an UpgradeTools.Result.
     columns: [
         {key: "num", title: qsTr("No."), width: Theme.columnUpgradeNumber, cell: numberCell},
         {key: "name", title: qsTr("名称"), width: Theme.columnUpgradeName, stretch: 1, sortable: true, cell: nameCell},

@@ -12,9 +12,9 @@ Item {
     required property int parallelUpgrades  // chosen number of concurrent upgrades, from 1
     property alias searchText: searchField.text
     readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
-    signal ipv6Chosen(bool ipv6)
-    signal fileRequested
-    signal startRequested
+    signal ipv6Chosen(bool ipv6)  // show the IPv6 devices, otherwise the IPv4 devices
+    signal fileRequested  // choose one firmware file for the ticked devices
+    signal startRequested  // upgrade the ticked devices
     signal retryRequested  // retry failed upgrades of all devices
     signal documentRequested  // upgrade the devices of a document
     signal templateRequested  // open the template of documents

@@ -10,7 +10,7 @@ Item {
     required property var deviceFactory  // a CDeviceFactory
     required property var deviceTable  // a DeviceTableModel
     required property var fileDialogs  // a FileDialogs
-    required property var upgradeBatches  // an UpgradeBatches
+    required property var upgradeBatches  // an UpgradeBatches, which runs the upgrades
     required property bool shown  // the page is visible; changed rows of a hidden page are read when it is shown
     signal changed  // any row may have changed: the page reads the list again
     signal notify(string message, int severity)  // severity: of OVToast
