@@ -9,7 +9,7 @@ T.ApplicationWindow {
     id: window
 
     // qmllint disable unqualified
-    readonly property var deviceFactory: CDeviceFactoryApi
+    readonly property var deviceFactory: CDeviceFactoryApi  // access to the device list and the devices
     readonly property var localConfig: LocalConfigApi  // a CLocalConfig
     readonly property BusyState busyState: BusyStateApi  // the running work, and which actions must wait for it
     readonly property Batches batches: BatchesApi  // starts work on several devices; one batch runs at a time

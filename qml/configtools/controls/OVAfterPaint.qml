@@ -16,6 +16,7 @@ Item {
         Window.window?.update();
     }
 
+    /// Runs the work that still waits.
     function finish() {
         timeout.stop();
         const work = root.work;

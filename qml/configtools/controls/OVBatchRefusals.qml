@@ -6,7 +6,7 @@ import configtools
 QtObject {
     id: root
 
-    required property Batches batches
+    required property Batches batches  // starts batches for all pages; one batch runs at a time
     required property bool shown  // the page is visible
     signal notify(string message, int severity)  // severity: always OVToast.Refusal
 

@@ -17,7 +17,7 @@ Item {
     property bool compact: false  // in the foot of a dialog: optional parts are hidden
     readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
     property real progress: -1  // of the work of `running`, 0 to 1; negative: unknown
-    property Batches batches: null  // null: no batch is shown
+    property Batches batches: null  // starts batches for all pages; null: no batch is shown
     property DeviceSearch search: null  // null: no search is shown
     signal tickRequested(var identities)  // the page ticks only these devices; array of names (identities) of rows
     signal notify(string message, int severity)  // the page shows a toast; severity: of OVToast
@@ -34,10 +34,12 @@ Item {
     readonly property bool ended: batch !== null && !batch.running
     /// The batch has ended, and devices of it, or of the batches that it retries, failed or were not reached.
     readonly property bool incomplete: ended && batch.report.failed + batch.report.notDone + batch.failedBefore > 0
+    /// Result of the ended batch, as text; "" while it runs.
     readonly property string outcome: ended && batch.report.summary !== ""
         ? batch.title + qsTr("：") + batch.report.summary + before : ""
     //: After the number of failed devices of a batch that retries another one.
     readonly property string before: ended && batch.failedBefore > 0 ? qsTr("，另有 %n 台此前未成功", "", batch.failedBefore) : ""
+    /// Question of a paused batch; "" for none.
     readonly property string question: {
         if (!paused)
             return "";

@@ -13,7 +13,7 @@ OVDialog {
     property int kind: OVMessageBox.Information  // a Kind
     property string message
     property string otherText  // text of the third button; without a text it is hidden
-    signal otherChosen
+    signal otherChosen  // by the third button
 
     /// Opens the box with this message. Without `ofKind` it is an Information.
     function show(text, ofKind) {

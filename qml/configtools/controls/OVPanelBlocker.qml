@@ -17,6 +17,7 @@ MouseArea {
         return above !== null && item !== root;
     }
 
+    /// Takes the keyboard focus if it is in the parent.
     function takeKeyboard() {
         const item = Window.activeFocusItem;
         if (!active || !visible || !isCovered(item))
@@ -25,6 +26,7 @@ MouseArea {
         forceActiveFocus();
     }
 
+    /// Returns the keyboard focus, if it was taken and is still here.
     function giveBack() {
         if (activeFocus && back !== null)
             back.forceActiveFocus(back.focusReason ?? Qt.OtherFocusReason);

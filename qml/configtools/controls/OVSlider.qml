@@ -20,11 +20,13 @@ Item {
     readonly property bool rested: !slider.pressed && !rest.running
     signal committed(int value)  // only a number other than `value`
 
+    /// Shows `value`, unless the user moves the slider.
     function follow() {
         if (rested)
             slider.value = value;
     }
 
+    /// Reports the shown number if it differs from `value`.
     function commit() {
         rest.stop();
         const chosen = Math.round(slider.value);

@@ -7,7 +7,7 @@ Rectangle {
     id: root
 
     required property var tabs  // array of titles
-    required property int currentIndex
+    required property int currentIndex  // from 0
     property string namePrefix: "tab"  // prefix of the object names of the tabs
     /// Distance from the left edge of the bar to the right edge of the last tab.
     readonly property real tabsWidth: row.x + row.width

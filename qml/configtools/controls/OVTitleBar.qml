@@ -16,7 +16,7 @@ Rectangle {
     property string remarkTip  // tool tip of the remark
     readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
     readonly property alias menuButton: menuButton  // the menu opens below it
-    signal searchRequested
+    signal searchRequested  // start a search
     signal settingsRequested
     signal menuRequested
     signal minimiseRequested

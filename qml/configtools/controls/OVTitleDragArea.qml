@@ -11,9 +11,10 @@ MouseArea {
     property bool moving: false  // dragged by at least Theme.unit since the press
     property bool bySystem: false  // the window system moves the window
     property point grip  // offset from the pointer to the window's corner
-    readonly property var target: Window.window
+    readonly property var target: Window.window  // the window that is moved
     signal maximiseRequested  // by a double click
 
+    /// Moves the window with the pointer.
     function follow() {
         const pointer = cursor.cursorPos();
         target.x = pointer.x + grip.x;

@@ -7,9 +7,9 @@ import configtools
 T.ApplicationWindow {
     id: window
 
-    required property Batches batches
-    required property var deviceFactory  // a CDeviceFactory
-    required property var localConfig  // a CLocalConfig
+    required property Batches batches  // starts batches for all pages; one batch runs at a time
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
+    required property var localConfig  // a CLocalConfig: the settings of the application
     readonly property bool maximised: visibility === Window.Maximized
     readonly property alias gallery: gallery
     property string folder  // path of the folder of the last save

@@ -7,9 +7,9 @@ import configtools
 Item {
     id: root
 
-    required property var deviceFactory  // a CDeviceFactory
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     required property string ipport  // "address:port"
-    required property string name
+    required property string name  // of the device
     property bool loggedIn: false  // there is a session; it is kept while the device does not respond
     property bool checking: false  // a login or check runs
     property bool isGiven: false  // the running login uses an account just entered by the user

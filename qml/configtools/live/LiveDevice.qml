@@ -7,9 +7,9 @@ import configtools
 Item {
     id: root
 
-    required property var deviceFactory  // a CDeviceFactory
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     property string ipport             // "address:port"; "" while no device is open
-    property string name
+    property string name  // of the device
     property bool loggedIn: false  // there is a session; it is kept while the device does not respond
     property bool checking: false        // a login or check runs
     readonly property bool busy: checking && !loggedIn  // a login runs

@@ -22,6 +22,7 @@ Item {
     property bool figuresShown: false  // the views show LiveFigures
     readonly property int currentChannel: shownChannels[currentCell] ?? -1  // -1: the cell is empty
     readonly property var currentEntry: channels[currentChannel] ?? null  // element of `channels`; null for none
+    /// Number of pages of channels, at least 1.
     readonly property int pages: Math.max(1, Math.ceil(channels.length / cellCount))
     property int page: 0  // from 0; as chosen by showPage()
     /// Before a stream of the first device starts: the owner checks the device, then calls takeCheckResult(null, ...).

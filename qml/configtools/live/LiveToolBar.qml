@@ -7,7 +7,7 @@ import configtools
 Rectangle {
     id: root
 
-    required property LiveGrid grid
+    required property LiveGrid grid  // the live views
     required property bool fullScreen  // the window is in full screen
     required property bool canSnap  // there is a session with the first device, and it has channels
     required property bool canSnapCurrent  // there is a session with the device of the current channel
@@ -17,6 +17,7 @@ Rectangle {
     property bool full: false            // the maximum number of devices is added
     property bool several: false         // there are added devices
     readonly property bool compact: width < Theme.liveToolBarWidth  // no room for texts
+    /// The ticked devices can be added.
     readonly property bool canAdd: canSnap && ticked > 0 && !full
     signal fullScreenRequested  // show the window in full screen, or end that if `fullScreen`
     signal snapRequested  // of the current channel

@@ -8,10 +8,10 @@ import configtools
 T.ApplicationWindow {
     id: window
 
-    required property Batches batches
-    required property BusyState busyState
-    required property var deviceFactory  // a CDeviceFactory
-    required property var localConfig  // a CLocalConfig
+    required property Batches batches  // starts batches for all pages; one batch runs at a time
+    required property BusyState busyState  // running work of all pages, and the actions that it blocks
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
+    required property var localConfig  // a CLocalConfig: the settings of the application
     readonly property bool fullScreen: visibility === Window.FullScreen
     readonly property bool maximised: visibility === Window.Maximized
     property int visibilityBefore: Window.Windowed  // before the full screen

@@ -7,8 +7,8 @@ import configtools
 Item {
     id: root
 
-    required property Batches batches
-    required property var deviceFactory  // a CDeviceFactory
+    required property Batches batches  // starts batches for all pages; one batch runs at a time
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     property Batch batch: null        // batch of the first device while it runs, otherwise null
     property bool all: false          // takeAll() is in progress
     property bool stopping: false     // the waiting channels are cancelled; they fail when the running one ends

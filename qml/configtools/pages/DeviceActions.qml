@@ -8,9 +8,9 @@ import configtools
 Item {
     id: root
 
-    required property var deviceFactory  // a CDeviceFactory
-    required property var fileDialogs  // a FileDialogs
-    required property var webPages  // a WebPages
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
+    required property var fileDialogs  // a FileDialogs: the desktop's dialogs for files and folders
+    required property var webPages  // a WebPages: opens web pages of devices in the browser
     property DeviceNotes notes: null  // null: devices have no notes
     property bool ipv6: false  // the list shows IPv6 devices, which have no details in the back end
     property alias favouritesFolder: favourites.folder  // path of the folder of the favourites

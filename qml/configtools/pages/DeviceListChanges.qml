@@ -5,7 +5,7 @@ import QtQml
 QtObject {
     id: root
 
-    required property var deviceFactory  // a CDeviceFactory
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     required property bool shown  // the page is visible
     property bool outdated: true  // the list changed since the last read
     property bool complete: false  // this object is created; before that, the properties of the page may not be set

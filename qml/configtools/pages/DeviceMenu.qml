@@ -6,7 +6,7 @@ import configtools
 Item {
     id: root
 
-    required property Batches batches
+    required property Batches batches  // starts batches for all pages; one batch runs at a time
     required property DeviceActions actions
     property var values: ({})  // values of the row that the menu was opened for, see DeviceActions
     /// Function of the page: returns the ticked devices, as identities or "address:port".

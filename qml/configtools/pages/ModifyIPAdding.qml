@@ -6,10 +6,10 @@ import configtools
 Item {
     id: root
 
-    required property var addingBatches  // an AddingBatches
-    required property Batches batches
-    required property BusyState busyState
-    required property var deviceFactory  // a CDeviceFactory
+    required property var addingBatches  // an AddingBatches: starts batches that add devices to the list
+    required property Batches batches  // starts batches for all pages; one batch runs at a time
+    required property BusyState busyState  // running work of all pages, and the actions that it blocks
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     /// The device being added: "dialog" (an AddDeviceDialog), "device" (see AddDeviceDialog.confirmed) and
     /// "isFavourite" (save it as a favourite after success). Null for none.
     property var pending: null

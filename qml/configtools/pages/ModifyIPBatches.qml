@@ -6,10 +6,10 @@ import configtools
 Item {
     id: root
 
-    required property BusyState busyState
-    required property var deviceFactory  // a CDeviceFactory
-    required property var deviceTable  // a DeviceTableModel
-    required property Batches batches
+    required property BusyState busyState  // running work of all pages, and the actions that it blocks
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
+    required property var deviceTable  // a DeviceTableModel: the rows of the page, with their ticks
+    required property Batches batches  // starts batches for all pages; one batch runs at a time
     property Batch batch: null  // the latest batch of this page, also one that restores addresses; null for none
     signal notify(string message, int severity)  // severity: of OVToast
     signal batchStarted  // a dialog has closed while a batch runs: the page moves the keyboard focus

@@ -6,8 +6,8 @@ import configtools
 Item {
     id: root
 
-    required property BusyState busyState
-    required property var deviceTable  // a DeviceTableModel
+    required property BusyState busyState  // running work of all pages, and the actions that it blocks
+    required property var deviceTable  // a DeviceTableModel: the rows of the page, with their ticks
     signal notify(string message, int severity)  // severity: of OVToast
 
     /// Asks for confirmation. Refused without a ticked device, and while running work needs the rows.

@@ -14,7 +14,7 @@ OVEmptyState {
     property bool helps: false  // also offers the search settings, adding a device and the demo site
     property bool simulated: false  // the application shows the demo site, so it is not offered
     property string searched  // networks of the last search, as text
-    signal searchRequested
+    signal searchRequested  // start a search
     signal addRequested  // add a device by its address
     signal demoRequested  // open the demo site
     signal settingsRequested  // open the search settings

@@ -6,12 +6,12 @@ import configtools
 Item {
     id: root
 
-    required property var addingBatches  // an AddingBatches
-    required property Batches batches
-    required property BusyState busyState
-    required property var deviceFactory  // a CDeviceFactory
-    required property var fileDialogs  // a FileDialogs
-    required property var deviceTable  // a DeviceTableModel
+    required property var addingBatches  // an AddingBatches: starts batches that add devices to the list
+    required property Batches batches  // starts batches for all pages; one batch runs at a time
+    required property BusyState busyState  // running work of all pages, and the actions that it blocks
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
+    required property var fileDialogs  // a FileDialogs: the desktop's dialogs for files and folders
+    required property var deviceTable  // a DeviceTableModel: the rows of the page, with their ticks
     required property bool shown  // the page is visible
     /// A list is being read or written; the batch of the import is not included.
     readonly property bool running: addingBatches.reading || writing

@@ -10,7 +10,7 @@ Item {
     required property bool showInitialised  // state of the filter: initialised devices are shown
     required property bool showUninitialised  // state of the filter: uninitialised devices are shown
     required property bool ipv6  // IPv6 devices are shown: most actions are disabled
-    required property DeviceTableModel devices
+    required property DeviceTableModel devices  // the rows of the page, with filters and ticks
     required property int upgradingCount  // number of ticked devices that are being upgraded
     property alias searchText: searchField.text
     property int tipDrop: Theme.toolTipDrop  // vertical distance in pixels from a button to its tool tip, see OVToolTip

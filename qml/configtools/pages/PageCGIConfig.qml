@@ -7,13 +7,13 @@ import configtools
 FocusScope {
     id: page
 
-    required property Batches batches
+    required property Batches batches  // starts batches for all pages; one batch runs at a time
     property DeviceSearch search: null  // null: no search is shown
     readonly property bool searching: search?.running ?? false
     required property bool libraryInstalled  // false: there is no device library, so no device can be reached
     property var memory: null  // a ViewMemory that stores columns and order of the table; null: not stored
     property DeviceNotes notes: null  // null: devices have no notes
-    signal searchRequested
+    signal searchRequested  // start a search
     signal liveRequested(string ipport)  // "address:port"
     signal notify(string message, int severity)  // severity: of OVToast
     signal selectionChanged  // the number of ticked devices has changed: the window removes refusals
@@ -22,11 +22,11 @@ FocusScope {
     readonly property alias deviceTable: devices  // the DeviceTableModel of the table
 
     // qmllint disable unqualified
-    readonly property var deviceFactory: CDeviceFactoryApi
+    readonly property var deviceFactory: CDeviceFactoryApi  // access to the device list and the devices
     readonly property var cgiManager: CGIConfigManageApi  // stored commands, template, clipboard
     readonly property var cgiBatches: CgiBatchesApi  // sends commands in batches
-    readonly property var fileDialogs: FileDialogsApi
-    readonly property var webPages: WebPagesApi
+    readonly property var fileDialogs: FileDialogsApi  // the desktop's dialogs for files and folders
+    readonly property var webPages: WebPagesApi  // opens web pages of devices in the browser
     // qmllint enable unqualified
 
     /// Focuses the search field and selects its text.

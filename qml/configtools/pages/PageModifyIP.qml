@@ -6,15 +6,15 @@ import configtools
 FocusScope {
     id: page
 
-    required property Batches batches
-    required property BusyState busyState
-    required property DeviceSearch search
+    required property Batches batches  // starts batches for all pages; one batch runs at a time
+    required property BusyState busyState  // running work of all pages, and the actions that it blocks
+    required property DeviceSearch search  // state of the running and the last search
     required property bool libraryInstalled  // false: there is no device library, so no device can be reached
     property bool simulated: false  // the application shows the demo site
     required property var memory  // a ViewMemory that stores columns and order of the table; null: not stored
     property DeviceNotes notes: null  // null: devices have no notes
     required property SearchReports searchReports  // report of the last search, and the number of missing devices
-    signal searchRequested
+    signal searchRequested  // start a search
     signal reportRequested  // open the report of the last search
     signal settingsRequested  // open the search settings
     signal demoRequested  // open the demo site
@@ -28,9 +28,9 @@ FocusScope {
 
     // qmllint disable unqualified
     readonly property var addingBatches: AddingBatchesApi
-    readonly property var deviceFactory: CDeviceFactoryApi
-    readonly property var fileDialogs: FileDialogsApi
-    readonly property var webPages: WebPagesApi
+    readonly property var deviceFactory: CDeviceFactoryApi  // access to the device list and the devices
+    readonly property var fileDialogs: FileDialogsApi  // the desktop's dialogs for files and folders
+    readonly property var webPages: WebPagesApi  // opens web pages of devices in the browser
     // qmllint enable unqualified
 
     /// Focuses the search field and selects its text.

@@ -8,12 +8,12 @@ import configtools
 FocusScope {
     id: page
 
-    required property Batches batches
+    required property Batches batches  // starts batches for all pages; one batch runs at a time
     property DeviceSearch search: null  // null: no search is shown
     readonly property bool searching: search?.running ?? false
     required property bool libraryInstalled  // false: there is no device library, so no device can be reached
     property DeviceNotes notes: null  // null: devices have no notes
-    signal searchRequested
+    signal searchRequested  // start a search
     signal liveRequested(string ipport)  // "address:port"
     signal notify(string message, int severity)  // severity: of OVToast
     signal selectionChanged  // the number of ticked devices has changed: the window removes refusals
@@ -22,9 +22,9 @@ FocusScope {
     readonly property alias treeDevices: devices  // the OVTreeModel of the tree
 
     // qmllint disable unqualified
-    readonly property var deviceFactory: CDeviceFactoryApi
-    readonly property var fileDialogs: FileDialogsApi
-    readonly property var webPages: WebPagesApi
+    readonly property var deviceFactory: CDeviceFactoryApi  // access to the device list and the devices
+    readonly property var fileDialogs: FileDialogsApi  // the desktop's dialogs for files and folders
+    readonly property var webPages: WebPagesApi  // opens web pages of devices in the browser
     readonly property string timeZone: systemTimeZone  // of this computer, as "UTC+08:00" or "UTC-5:00"
     // qmllint enable unqualified
 

@@ -20,9 +20,9 @@ import configtools
 FocusScope {
     id: root
 
-    required property var model
+    required property var model  // see above
     required property var columns  // array of all columns in default order
-    property bool arrangeable: false
+    property bool arrangeable: false  // the user may choose and move the columns
     /// The columns as the user has arranged them: order, hidden ones and widths, as text. "" for the default
     /// arrangement. The owner stores and restores it.
     property alias columnsText: arrangement.text
@@ -31,7 +31,7 @@ FocusScope {
     property string sortKey  // key of the sorted column, set by the owner; "" for none
     property int sortOrder: Qt.AscendingOrder
     property alias currentIndex: body.currentIndex  // row, -1 for none; use show() to set it
-    readonly property alias count: body.count
+    readonly property alias count: body.count  // number of rows
     default property alias emptyState: emptySlot.data  // shown while the table has no rows
     signal sortRequested(string key)  // by a click on the title, also of the sorted column
     signal allToggled(bool checked)  // the requested check state of all rows

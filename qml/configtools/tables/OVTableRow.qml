@@ -21,7 +21,7 @@ Rectangle {
     property int pooledIndex: -1  // index when the view put the item aside
     signal clicked(string identity, int modifiers)  // outside of the check box
     signal tickToggled(string identity, int modifiers)  // a click in the check column; the check state does not change
-    signal doubleClicked(string identity)
+    signal doubleClicked(string identity)  // after clicked()
     signal menuRequested(string identity, real x, real y)  // in coordinates of the view's content
 
     /// The identity at the time of the press: this item may show another row since. A screen reader clicks without a

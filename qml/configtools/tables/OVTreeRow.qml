@@ -7,14 +7,14 @@ Rectangle {
     id: root
 
     required property int index
-    required property string identity
+    required property string identity  // unique name of the row in the model
     required property string title  // of a group its name (a device type or failure reason), of a device "address:port"
     required property string label  // shown text of the title
     required property string detail  // text after the label of a device
     required property int tick  // a Qt::CheckState
     required property int result  // of the last batch: 0 success, an OVTreeModel.Result, or another LoginResult
     required property bool isGroup
-    required property bool isOpen
+    required property bool isOpen  // of a group: its devices are shown
     required property int deviceCount  // of a group
     required property string failure  // see OVFailedSign
     required property bool onlyNotDone  // see OVFailedSign
@@ -24,7 +24,7 @@ Rectangle {
     property bool choosing: false  // see OVTree
     property bool chosen: false  // the device is the chosen one
     property string pressedIdentity  // identity at the press of a mouse button, "" without a press
-    signal clicked(string identity)
+    signal clicked(string identity)  // outside of the check box
     signal openToggled(string identity)  // by the arrow or a double click; without effect for a device
     signal tickToggled(string identity)  // the check state does not change
     signal menuRequested(string identity, real x, real y)  // in coordinates of the view's content

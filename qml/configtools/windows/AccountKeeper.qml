@@ -6,7 +6,7 @@ import configtools
 Item {
     id: root
 
-    required property Batches batches
+    required property Batches batches  // starts batches for all pages; one batch runs at a time
     property Batch batch: null  // the followed batch or its retry; null for none
     property int keeping: AccountList.Unkept  // an AccountList.Keeping
     property int takenCount: 0  // number of succeeded devices of the batch whose accounts were processed

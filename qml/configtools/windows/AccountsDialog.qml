@@ -6,12 +6,12 @@ import configtools
 OVDialog {
     id: root
 
-    required property AccountList accounts
+    required property AccountList accounts  // the stored accounts, and the default account in row 0
     property var devices: []  // identities or "address:port" of the devices to assign an account to; empty: manage only
     /// Names of the accounts that these devices have refused, before a retry; "" for another reason.
     property string refused
     property string edited  // name of the account that was added or changed since the dialog was opened; "" for none
-    readonly property bool choosing: devices.length > 0
+    readonly property bool choosing: devices.length > 0  // an account is assigned
     /// Values of the selected row: "identity", "name" ("" for the default account), "account" (user name),
     /// "deviceCount" and "isDefault"; empty for none.
     readonly property var current: shownRow(table.currentIndex, accounts.count)

@@ -6,9 +6,9 @@ import configtools
 OVDialog {
     id: root
 
-    required property var addingBatches  // an AddingBatches
-    required property Batches batches
-    required property Favourites favourites
+    required property var addingBatches  // an AddingBatches: starts batches that add devices to the list
+    required property Batches batches  // starts batches for all pages; one batch runs at a time
+    required property Favourites favourites  // reads and writes the files
     readonly property bool running: batch?.running ?? false  // its batch runs: favourites cannot be edited
     property Batch batch: null  // last batch started here or its retry; null before
     signal byHandRequested  // open the dialog for a device by hand; the window has closed

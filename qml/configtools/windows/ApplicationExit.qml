@@ -7,11 +7,11 @@ import configtools
 Item {
     id: root
 
-    required property Batches batches
-    required property BusyState busyState
-    required property var deviceFactory  // a CDeviceFactory
-    required property var localConfig  // a CLocalConfig
-    required property WindowPopups popups
+    required property Batches batches  // starts batches for all pages; one batch runs at a time
+    required property BusyState busyState  // running work of all pages, and the actions that it blocks
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
+    required property var localConfig  // a CLocalConfig: the settings of the application
+    required property WindowPopups popups  // questions and messages
     required property var host  // the main window; its leavePage(action) returns whether it asks first
     signal leaving  // the application ends now: the window state is to be stored
 

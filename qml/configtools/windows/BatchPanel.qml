@@ -6,8 +6,8 @@ import configtools
 OVDialog {
     id: root
 
-    required property Batches batches
-    required property var deviceFactory  // a CDeviceFactory
+    required property Batches batches  // starts batches for all pages; one batch runs at a time
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     readonly property Batch batch: results.batch  // the selected one; null for none
     readonly property bool idle: batch !== null && !batches.running  // a batch is selected, and no batch runs
     signal saveRequested(Batch batch)  // save the results of this batch to a file

@@ -6,7 +6,7 @@ import configtools
 OVDialog {
     id: root
 
-    required property var deviceFactory  // a CDeviceFactory
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     property string message  // the question
     property bool danger: false  // a dangerous change: the primary button is red, and "cancel" has the focus
     property bool listed: false  // the list cannot be hidden

@@ -5,10 +5,10 @@ import configtools
 Item {
     id: root
 
-    required property Batches batches
+    required property Batches batches  // starts batches for all pages; one batch runs at a time
     // qmllint disable unqualified
-    readonly property var deviceFactory: CDeviceFactoryApi
-    readonly property var fileDialogs: FileDialogsApi
+    readonly property var deviceFactory: CDeviceFactoryApi  // access to the device list and the devices
+    readonly property var fileDialogs: FileDialogsApi  // the desktop's dialogs for files and folders
     // qmllint enable unqualified
     property var writtenPaths: []  // paths of files being written for this object
     signal notify(string message, int severity)  // severity: of OVToast

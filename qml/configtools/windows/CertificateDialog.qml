@@ -6,7 +6,7 @@ import configtools
 OVDialog {
     id: root
 
-    required property CertificateList certificates
+    required property CertificateList certificates  // the refused certificates, with their ticks
     readonly property bool warns: certificates.changedCount > 0  // a certificate differs from the one trusted before
     /// Values of the selected row, such as "device", "fingerprint" (SHA-256) and "stored" (the fingerprint trusted
     /// before, "" for none); empty for none.

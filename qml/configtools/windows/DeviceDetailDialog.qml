@@ -8,9 +8,9 @@ import configtools
 OVDialog {
     id: root
 
-    required property var deviceFactory  // a CDeviceFactory
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     property string ipport  // "address:port"
-    property string mac
+    property string mac  // "" if unknown
     property bool isLent: false  // the row has its account only for the running login; it is removed after a failure
     readonly property alias asking: work.running  // the login or reading runs
     property string loginError  // error of the last login, "" for none

@@ -7,7 +7,7 @@ QtObject {
     id: root
 
     required property BusyState busyState  // the search is registered there while it runs
-    required property var deviceFactory  // a CDeviceFactory
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     required property SearchReports searchReports  // gets the start and the end of each search
     property int count: 0  // number of IPv4 devices found by the running or last search
     property bool running: false  // a search runs

@@ -6,7 +6,7 @@ import configtools
 OVDialog {
     id: root
 
-    required property var deviceFactory  // a CDeviceFactory
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     property int deviceCount: 0  // number of devices to initialise, for the text
     readonly property alias account: accountField.text  // user name
     readonly property alias password: passwordField.text

@@ -7,19 +7,21 @@ import configtools
 OVDialog {
     id: root
 
-    required property var deviceFactory  // a CDeviceFactory
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     /// The ticked devices get consecutive addresses, or the same one; otherwise one device gets the address.
     property bool batch: false
     property bool expanded: false  // the preview is shown
     readonly property alias plan: plan  // the AddressPlan with the devices, their ticks and new addresses
     readonly property int formWidth: Theme.modifyIpWidth - 2 * Theme.pageMargin  // also next to the preview
     readonly property alias dhcp: dhcpButton.checked  // the devices use DHCP; address, mask and gateway are ignored
+    // The typed addresses without leading zeros in their octets.
     readonly property string mask: AddressTools.plainAddress(maskField.text)
     readonly property string gateway: AddressTools.plainAddress(gatewayField.text)
     //: Some languages have a different term for the address of one device and the first address of a batch.
     readonly property string startLabel: batch ? qsTr("起始IP") : qsTr("起始IP", "one device")
     property bool tried: false  // OK was pressed: incomplete fields show errors
     readonly property bool planned: dhcp || startField.acceptable  // the new addresses are known
+    /// Problem of the new address of a single device; "" for none, for a batch and with DHCP.
     readonly property string addressWarning: {
         plan.warningCount + plan.skippedCount;  // dependency on the plan
         if (batch || dhcp)

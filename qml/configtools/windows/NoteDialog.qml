@@ -5,7 +5,7 @@ import configtools
 OVDialog {
     id: root
 
-    required property DeviceNotes notes
+    required property DeviceNotes notes  // notes of the user about devices
     property var values: ({})  // values of the device's row, as in DeviceActions
 
     /// Opens the dialog for the device of a row. Shows why the stored notes could not be read, if so.

@@ -6,7 +6,7 @@ import configtools
 OVDialog {
     id: root
 
-    required property var deviceFactory  // a CDeviceFactory
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     /// Emitted once for each ask(): on OK with the typed account, otherwise with two empty texts: the user has
     /// cancelled, the device has no row any more, or another ask() followed. If the owner closes the dialog, it is
     /// emitted by the next ask().

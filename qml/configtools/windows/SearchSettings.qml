@@ -2,7 +2,7 @@
 import QtQml
 
 QtObject {
-    required property var localConfig  // a CLocalConfig
+    required property var localConfig  // a CLocalConfig: the settings of the application
 
     /// Returns a map of the stored settings: "localDomain" (bool: search the networks of this computer), "otherDomain"
     /// (bool: search the address range), "startIP", "endIP", "userName", "password" (the default account) and "logsIn"

@@ -7,14 +7,14 @@ import configtools
 StackLayout {
     id: root
 
-    required property Batches batches
-    required property BusyState busyState
+    required property Batches batches  // starts batches for all pages; one batch runs at a time
+    required property BusyState busyState  // running work of all pages, and the actions that it blocks
     required property bool libraryInstalled  // false: there is no device library, so no device can be reached
     required property var memory  // a ViewMemory that stores columns and order of the tables
-    required property DeviceNotes notes
-    required property WindowPopups popups
-    required property DeviceSearch search
-    required property SearchReports searchReports
+    required property DeviceNotes notes  // notes of the user about devices
+    required property WindowPopups popups  // messages, live window and gallery
+    required property DeviceSearch search  // state of the running and the last search
+    required property SearchReports searchReports  // report of the last search
     required property bool simulated  // the application shows the demo site
     signal demoRequested  // restart on the demo site
     signal searchRequested  // start a search

@@ -6,12 +6,12 @@ import configtools
 Item {
     id: root
 
-    required property Batches batches
-    required property BusyState busyState
-    required property CertificateList certificates
-    required property var deviceFactory  // a CDeviceFactory
-    required property var localConfig  // a CLocalConfig
-    required property SearchReports searchReports
+    required property Batches batches  // starts batches for all pages; one batch runs at a time
+    required property BusyState busyState  // running work of all pages, and the actions that it blocks
+    required property CertificateList certificates  // refused certificates of devices
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
+    required property var localConfig  // a CLocalConfig: the settings of the application
+    required property SearchReports searchReports  // report of the last search
     required property var languages  // entries of the menu, see MainMenu
     required property string currentLanguage  // code of the chosen language
     required property string colourChoice  // see MainMenu
@@ -20,7 +20,7 @@ Item {
     required property string version
     required property bool searching  // a search runs
     required property rect toastArea  // see OVToast.area; in pixels, in window coordinates
-    required property var webPages  // a WebPages
+    required property var webPages  // a WebPages: opens web pages of devices in the browser
     signal helpRequested  // open the manual
     signal questionsRequested  // open the questions and answers
     signal languageChosen(string code)

@@ -5,7 +5,7 @@ import configtools
 OVDialog {
     id: root
 
-    required property CgiCommands commands
+    required property CgiCommands commands  // recent and favourite commands
     required property CgiSender sender  // checks the command
     property int deviceCount: 0  // number of ticked devices, for the text
     property string fault  // error of the command, "" for none

@@ -6,7 +6,7 @@ import configtools
 FocusScope {
     id: root
 
-    required property CgiCommands commands
+    required property CgiCommands commands  // recent and favourite commands
     property alias text: field.text
     property alias errorText: field.errorText
     readonly property bool starred: commands.isFavourite(field.text.trim())  // the command is a favourite

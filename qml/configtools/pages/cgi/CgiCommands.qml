@@ -5,7 +5,7 @@ import configtools
 Item {
     id: root
 
-    required property var cgiManager  // a CGIConfigManage
+    required property var cgiManager  // a CGIConfigManage: stored commands, clipboard, files
     property var recent: []  // texts, the latest first; up to 20
     property var favourites: []  // texts in the order in which they were added; up to 200
 

@@ -7,8 +7,8 @@ import configtools
 OVDialog {
     id: root
 
-    required property var cgiManager  // a CGIConfigManage
-    required property var fileDialogs  // a FileDialogs
+    required property var cgiManager  // a CGIConfigManage: stored commands, clipboard, files
+    required property var fileDialogs  // a FileDialogs: the desktop's dialogs for files and folders
     property string response  // the complete text
 
     /// Opens the window with this title and text.

@@ -7,11 +7,11 @@ import configtools
 Item {
     id: root
 
-    required property Batches batches
-    required property var cgiBatches  // a CgiBatches
-    required property var deviceFactory  // a CDeviceFactory
-    required property var deviceTable  // a DeviceTableModel
-    required property CgiCommands commands
+    required property Batches batches  // starts batches for all pages; one batch runs at a time
+    required property var cgiBatches  // a CgiBatches: starts batches of CGI commands
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
+    required property var deviceTable  // a DeviceTableModel: the rows of the page, with their ticks
+    required property CgiCommands commands  // recent and favourite commands
     property Batch batch: null  // the latest batch of this object or its retry; null before
     property string singleRow  // identity of the row for a single command, "" for several devices
     signal notify(string message, int severity)  // severity: of OVToast

@@ -7,8 +7,8 @@ import configtools
 OVTable {
     id: root
 
-    required property var deviceFactory  // a CDeviceFactory
-    required property CgiCommands commands
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
+    required property CgiCommands commands  // recent and favourite commands
     property int editRow: -1  // row whose field gets the keyboard focus when it is created
     signal sendRequested(int row)  // send the command of the row
     signal responseCopyRequested(int row)  // copy the complete response

@@ -6,10 +6,10 @@ import configtools
 Item {
     id: root
 
-    required property var deviceFactory  // a CDeviceFactory
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     required property var workbooks  // a CgiWorkbooks, which reads and runs the workbook
     required property var cgiManager  // a CGIConfigManage, which has the path of the template
-    required property var fileDialogs  // a FileDialogs
+    required property var fileDialogs  // a FileDialogs: the desktop's dialogs for files and folders
     required property bool shown  // the page is visible
     /// Message about a workbook that was not shown yet, as the page is hidden; "" for none.
     property string pendingOutcome

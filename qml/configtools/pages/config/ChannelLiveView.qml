@@ -7,7 +7,7 @@ import configtools
 Item {
     id: root
 
-    required property var deviceFactory  // a CDeviceFactory
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     required property int channel  // from 0
     required property string channelName
     required property bool active     // the view is shown and the session is logged in; otherwise no stream runs

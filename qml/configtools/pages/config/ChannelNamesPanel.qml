@@ -6,7 +6,7 @@ import configtools
 Item {
     id: root
 
-    required property ChannelNamesWork work
+    required property ChannelNamesWork work  // reads and writes the names
     readonly property ChannelNameForm form: work.form  // model of the table: a row for each channel, from 0
     property int wantedRow: -1  // row whose field gets the keyboard focus, -1 for none
     property bool advancing: false  // Enter in the last row has started a save; after success the next device is opened

@@ -6,8 +6,8 @@ import configtools
 Item {
     id: root
 
-    required property var session  // a ConfigSession
-    required property var deviceFactory  // a CDeviceFactory
+    required property var session  // a ConfigSession: the login to the device; runs the operations
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     property bool read: false  // the form has the names of the current device
     property bool arriving: false  // the device was just chosen: its first name gets the keyboard focus
     /// Result of the ended save that is not notified yet: "rows" (names to write), "written" and "failedRow" (-1 for

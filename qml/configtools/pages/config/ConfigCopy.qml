@@ -6,8 +6,8 @@ import configtools
 Item {
     id: root
 
-    required property Batches batches
-    required property var deviceFactory  // a CDeviceFactory
+    required property Batches batches  // starts batches for all pages; one batch runs at a time
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     required property OVTreeModel devices  // the tree that shows the results
     property Batch batch: null  // the latest copy or its retry; null before
     readonly property bool running: batch?.running ?? false

@@ -7,13 +7,14 @@ import configtools
 Item {
     id: root
 
-    required property var deviceFactory  // a CDeviceFactory
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     property bool shown: true        // the page is visible; otherwise a failed login does not ask for an account
     property int tab: 0              // current tab: 0 encode settings, 1 image, 2 channel names
     readonly property bool encodeShown: tab === 0
     readonly property bool imageShown: tab === 1
     readonly property bool namesShown: tab === 2
     property string device           // "address:port" of the shown device; "" for none
+    // Of the device, as in the device list when it was opened.
     property string name
     property string model
     property string type
@@ -28,9 +29,9 @@ Item {
     readonly property alias busyText: sessionWork.text
     /// Settings of the device are being changed.
     readonly property bool writing: sessionWork.writing || namesWork.running
-    readonly property alias encoding: encodeWork
-    readonly property alias image: imageWork
-    readonly property alias names: namesWork
+    readonly property alias encoding: encodeWork  // encode settings
+    readonly property alias image: imageWork  // image settings
+    readonly property alias names: namesWork  // channel names
     /// Number of changed encode settings and channel names that are not written.
     readonly property int unsaved: encodeWork.unsaved + namesWork.unsaved
     signal renewed  // the live window has logged in: the settings of the shown tab must be read again

@@ -5,7 +5,7 @@ import configtools
 Item {
     id: root
 
-    required property ConfigSession session
+    required property ConfigSession session  // the login to the device, and the settings that were read
     readonly property string message: {
         if (session.device === "")
             return qsTr("未选择设备");

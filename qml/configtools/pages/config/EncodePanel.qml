@@ -7,7 +7,7 @@ import configtools
 Item {
     id: root
 
-    required property EncodeWork work
+    required property EncodeWork work  // reads and writes the settings
     required property int targetCount  // number of devices that a copy would write to: ticked ones except this device
     readonly property EncodeForm form: work.form
     /// Error in the foot, "" for none.

@@ -6,8 +6,8 @@ import configtools
 Item {
     id: root
 
-    required property var session  // a ConfigSession
-    required property var deviceFactory  // a CDeviceFactory
+    required property var session  // a ConfigSession: the login to the device; runs the operations
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     property bool read: false  // the form has the values of the current device, or the read has failed, see `failed`
     property int result: 0     // of the last read: 0, a constant below, or an error of the network library
     /// The device's values are not understood; the page may be incomplete.

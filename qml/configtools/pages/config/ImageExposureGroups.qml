@@ -6,7 +6,7 @@ import configtools
 Column {
     id: root
 
-    required property ImageWork work
+    required property ImageWork work  // reads and writes the settings
 
     spacing: Theme.pageMargin
 

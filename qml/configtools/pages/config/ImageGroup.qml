@@ -6,7 +6,7 @@ import configtools
 OVSection {
     id: root
 
-    required property ImageWork work
+    required property ImageWork work  // reads and writes the settings
     required property string key  // of the group in CameraForm.groups, such as "exposure"
     /// Values of the group by sub-key (key of a setting), and its properties: "support" (bool: the camera has the
     /// group, and it was read), "unread" (bool: the camera has it, but it was not read), "missing" (list of sub-keys

@@ -6,7 +6,7 @@ import configtools
 Column {
     id: root
 
-    required property ImageWork work
+    required property ImageWork work  // reads and writes the settings
     readonly property var lamps: [qsTr("远近光"), qsTr("近光"), qsTr("远光")]  // the index is the number on the device
 
     spacing: Theme.pageMargin

@@ -6,7 +6,7 @@ import configtools
 OVNumberField {
     id: root
 
-    required property ImageGroup group
+    required property ImageGroup group  // reads and writes the value
     required property string subKey  // key of the setting in the group; "": the owner writes the number
     property int least: 0  // smaller numbers are replaced by it
     property int current: group.number(subKey)  // number on the device, as last read

@@ -7,7 +7,7 @@ import configtools
 Item {
     id: root
 
-    required property ImageWork work
+    required property ImageWork work  // reads and writes the settings
     property int subject: 0  // index in `subjects`: 0 picture, 1 exposure and white balance, 2 day, night and lamps
     readonly property CameraForm form: work.form  // has the values as last read
 

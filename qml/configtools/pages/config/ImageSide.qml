@@ -7,7 +7,7 @@ import configtools
 Item {
     id: root
 
-    required property ImageWork work
+    required property ImageWork work  // reads and writes the settings
     readonly property CameraForm form: work.form
     readonly property var groups: form.groups  // by key, see ImageGroup.values
 

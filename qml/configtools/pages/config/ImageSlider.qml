@@ -6,7 +6,7 @@ import configtools
 OVFormRow {
     id: root
 
-    required property ImageGroup group
+    required property ImageGroup group  // reads and writes the value
     required property string subKey  // key of the setting in the group
     property int least: group.least(subKey)  // of the slider
     property int most: group.most(subKey)  // of the slider

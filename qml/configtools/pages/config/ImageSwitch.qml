@@ -5,7 +5,7 @@ import configtools
 OVFormRow {
     id: root
 
-    required property ImageGroup group
+    required property ImageGroup group  // reads and writes the value
     required property string subKey  // key of the setting in the group
     property bool asNumber: false  // the setting is the number 0 or 1 instead of a bool
 

@@ -6,8 +6,8 @@ import configtools
 Item {
     id: root
 
-    required property var session  // a ConfigSession
-    required property var deviceFactory  // a CDeviceFactory
+    required property var session  // a ConfigSession: the login to the device; runs the operations
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     property bool read: false  // the form has the values of the current device
     property int refusal: 0  // error of the network library for the last change, 0 for none
     property var connectedChannels: []  // list of bool: whether each channel has a camera

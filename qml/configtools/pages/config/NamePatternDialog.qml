@@ -7,7 +7,7 @@ import configtools
 OVDialog {
     id: root
 
-    required property var deviceFactory  // a CDeviceFactory
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     property string device: ""    // "address:port" of the device with the channels; "" for none
     property int channelCount: 0  // number of its channels; 0 without a device
     property var cameras: []      // "address:port" of the ticked devices; recorders among them are skipped

@@ -6,7 +6,7 @@ import configtools
 Rectangle {
     id: root
 
-    required property ConfigSession session
+    required property ConfigSession session  // the login to the device, and the settings that were read
     required property bool hasDevices  // the tree has a device
     required property int targetCount  // number of devices that a copy of the encode settings would write to
     required property int tickedCount  // number of ticked devices in the tree

@@ -5,7 +5,7 @@ import configtools
 QtObject {
     id: root
 
-    required property Batches batches
+    required property Batches batches  // starts batches for all pages; one batch runs at a time
     property Batch batch: null  // of the last command or its retry; null before
     property string command  // name of the last command, see run()
     readonly property BatchReport report: batch?.report ?? none  // of the batch; empty before the first

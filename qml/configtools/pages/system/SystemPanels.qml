@@ -12,7 +12,7 @@ Rectangle {
     required property int upgradingCount  // number of ticked devices that are being upgraded
     required property bool locked  // a command runs: the panels are disabled; another tab can be selected
     required property string timeZone  // of this computer, as "UTC+08:00" or "UTC-5:00"
-    required property var deviceFactory  // a CDeviceFactory
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     required property SystemPasswordTime passwordTime  // the time in which a new password can be entered
     property int currentPanel: 0  // index of the tab
 

@@ -6,7 +6,7 @@ import configtools
 QtObject {
     id: root
 
-    required property var deviceFactory  // a CDeviceFactory
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     required property bool changing  // the batch that sends the new password runs; the time does not run out meanwhile
     property bool open: false        // the new password can be entered
     property int secondsLeft: 0  // 0 to 60

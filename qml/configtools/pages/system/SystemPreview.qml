@@ -5,7 +5,7 @@ import configtools
 Item {
     id: root
 
-    required property var deviceFactory  // a CDeviceFactory
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     readonly property SystemLists lists: SystemLists {}
 
     /// Commands that change nothing: they need no confirmation.

@@ -6,7 +6,7 @@ import configtools
 OVDialog {
     id: root
 
-    required property var deviceFactory  // a CDeviceFactory
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     property string path  // path of the document; "" for devices of the table
     signal confirmed(var identities)  // identities of the ticked devices, including skipped ones
     signal documentConfirmed(string path, var lines)  // lines: numbers of the ticked lines in the file, as texts

@@ -7,7 +7,7 @@ Item {
 
     required property Batch batch  // the latest upgrade batch; null before the first one
 
-    readonly property BatchReport report: batch?.report ?? none
+    readonly property BatchReport report: batch?.report ?? none  // numbers of devices by result
     readonly property BatchReport none: BatchReport {}
     /// Number of devices with a result; devices that were not reached do not count.
     readonly property int done: batch?.running ? batch.done : report.total - report.notDone

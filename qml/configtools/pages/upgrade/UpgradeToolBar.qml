@@ -8,7 +8,7 @@ Item {
     id: root
 
     required property bool ipv6  // IPv6 devices are shown
-    required property DeviceTableModel devices
+    required property DeviceTableModel devices  // the rows of the page, with filters and ticks
     required property int parallelUpgrades  // chosen number of concurrent upgrades, from 1
     property alias searchText: searchField.text
     readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
@@ -26,7 +26,7 @@ Item {
         searchField.selectAll();
     }
 
-    readonly property int maximumUpgrades: 16
+    readonly property int maximumUpgrades: 16  // at the same time
     /// The filters are in a second line.
     readonly property bool wraps: width < actions.width + filters.spacing + filters.leastWidth
     readonly property int lineHeight: Theme.controlHeight + Theme.unit

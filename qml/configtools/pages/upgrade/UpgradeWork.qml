@@ -6,10 +6,10 @@ import configtools
 Item {
     id: root
 
-    required property Batches batches
-    required property var deviceFactory  // a CDeviceFactory
-    required property var deviceTable  // a DeviceTableModel
-    required property var fileDialogs  // a FileDialogs
+    required property Batches batches  // starts batches for all pages; one batch runs at a time
+    required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
+    required property var deviceTable  // a DeviceTableModel: the rows of the page, with their ticks
+    required property var fileDialogs  // a FileDialogs: the desktop's dialogs for files and folders
     required property var upgradeBatches  // an UpgradeBatches, which runs the upgrades
     required property bool shown  // the page is visible; changed rows of a hidden page are read when it is shown
     signal changed  // any row may have changed: the page reads the list again
