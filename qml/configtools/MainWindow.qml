@@ -10,7 +10,7 @@ T.ApplicationWindow {
 
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi  // access to the device list and the devices
-    readonly property var localConfig: LocalConfigApi  // a CLocalConfig
+    readonly property var localConfig: LocalConfigApi  // a CLocalConfig: settings, documents, restart
     readonly property BusyState busyState: BusyStateApi  // the running work, and which actions must wait for it
     readonly property Batches batches: BatchesApi  // starts work on several devices; one batch runs at a time
     readonly property SearchReports searchReports: SearchReportsApi  // why the last search found few devices
@@ -20,7 +20,7 @@ T.ApplicationWindow {
     readonly property DeviceNotes notes: DeviceNotesApi  // notes of the user about devices
     readonly property var memory: ViewMemoryApi  // a ViewMemory: named texts in the settings, such as "tab"
     readonly property bool libraryInstalled: deviceLibraryInstalled  // false: no device responds
-    readonly property var accounts: AccountsApi  // an AccountList, see LoginMemory
+    readonly property var accounts: AccountsApi  // an AccountList: the stored accounts, for LoginMemory
     readonly property bool simulated: demoSite  // the devices are those of the demo site
     readonly property string demoAccount: demoSiteAccount  // "user / password" of most demo devices; "" for none
     // qmllint enable unqualified

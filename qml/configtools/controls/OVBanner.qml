@@ -9,7 +9,7 @@ Rectangle {
     property string iconName: "unplugged"  // see OVIcon
     property string linkText  // text of the link; no link without a text
     property bool closable: false  // has a close button
-    signal linkActivated
+    signal linkActivated  // the link was clicked
     signal closed  // by the close button; the banner stays visible
 
     implicitHeight: Theme.rowHeight

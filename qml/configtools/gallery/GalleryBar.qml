@@ -6,7 +6,7 @@ import configtools
 Rectangle {
     id: root
 
-    required property ImageGallery gallery
+    required property ImageGallery gallery  // the images and their devices
     required property string otherBatch  // title of another running batch, "" for none
     readonly property Batch batch: gallery.batch  // batch that fetches images; null while none is fetched
     readonly property bool paused: batch?.paused ?? false  // several passwords in a row were refused: asks to continue

@@ -7,7 +7,7 @@ import configtools
 OVDialog {
     id: root
 
-    required property Snapshots snapshots
+    required property Snapshots snapshots  // takes the snapshots and has the results
     signal againRequested(string ipport, int channel)  // ipport: "address:port", channel from 0
     signal folderRequested  // open the folder of the snapshots
 

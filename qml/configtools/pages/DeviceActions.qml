@@ -14,7 +14,7 @@ Item {
     property DeviceNotes notes: null  // null: devices have no notes
     property bool ipv6: false  // the list shows IPv6 devices, which have no details in the back end
     property alias favouritesFolder: favourites.folder  // path of the folder of the favourites
-    signal notify(string message, int severity)  // severity: of OVToast
+    signal notify(string message, int severity)  // show this message; severity: an OVToast.Severity
 
     /// The values of the row, with those that the device reported to the search; empty for an IPv6 device.
     function detailOf(values) {

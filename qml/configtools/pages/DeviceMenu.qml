@@ -7,12 +7,12 @@ Item {
     id: root
 
     required property Batches batches  // starts batches for all pages; one batch runs at a time
-    required property DeviceActions actions
+    required property DeviceActions actions  // does most of the common entries
     property var values: ({})  // values of the row that the menu was opened for, see DeviceActions
     /// Function of the page: returns the ticked devices, as identities or "address:port".
     property var tickedDevices: () => []
     signal ownChosen(string key, var values)  // the entry of the page with this key was chosen; values: of the row
-    signal liveRequested(string ipport)  // "address:port"
+    signal liveRequested(string ipport)  // open the live window of the device; ipport: "address:port"
     /// The page ticks only the devices with the same value of `key` ("type" or "model") as this row.
     signal similarRequested(string key, var values)
 

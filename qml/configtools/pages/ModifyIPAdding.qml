@@ -14,7 +14,7 @@ Item {
     /// "isFavourite" (save it as a favourite after success). Null for none.
     property var pending: null
     property alias favouritesFolder: savedDevices.folder  // path of the folder of the favourites
-    signal notify(string message, int severity)  // severity: of OVToast
+    signal notify(string message, int severity)  // show this message; severity: an OVToast.Severity
     signal added  // a device was added by hand: the page reads the list again
 
     /// Opens the dialog for a device by IP address.

@@ -11,7 +11,7 @@ Item {
     required property var deviceTable  // a DeviceTableModel: the rows of the page, with their ticks
     required property Batches batches  // starts batches for all pages; one batch runs at a time
     property Batch batch: null  // the latest batch of this page, also one that restores addresses; null for none
-    signal notify(string message, int severity)  // severity: of OVToast
+    signal notify(string message, int severity)  // show this message; severity: an OVToast.Severity
     signal batchStarted  // a dialog has closed while a batch runs: the page moves the keyboard focus
 
     /// Whether addresses and accounts of rows may be changed now. Notifies the obstacle if not.

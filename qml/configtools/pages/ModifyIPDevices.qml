@@ -8,7 +8,7 @@ Item {
 
     required property BusyState busyState  // running work of all pages, and the actions that it blocks
     required property var deviceTable  // a DeviceTableModel: the rows of the page, with their ticks
-    signal notify(string message, int severity)  // severity: of OVToast
+    signal notify(string message, int severity)  // show this message; severity: an OVToast.Severity
 
     /// Asks for confirmation. Refused without a ticked device, and while running work needs the rows.
     function removeChecked() {

@@ -20,7 +20,7 @@ Item {
     property Batch batch: null  // batch of the last import or of its retry; null before
     /// The import has ended with failed lines that were not shown yet, as the page is hidden.
     property bool reportPending: false
-    signal notify(string message, int severity)  // severity: of OVToast
+    signal notify(string message, int severity)  // show this message; severity: an OVToast.Severity
 
     /// Asks for format and folder, then writes the ticked devices. Refused if no device is ticked.
     function startExport() {

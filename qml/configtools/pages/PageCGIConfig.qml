@@ -14,8 +14,8 @@ FocusScope {
     property var memory: null  // a ViewMemory that stores columns and order of the table; null: not stored
     property DeviceNotes notes: null  // null: devices have no notes
     signal searchRequested  // start a search
-    signal liveRequested(string ipport)  // "address:port"
-    signal notify(string message, int severity)  // severity: of OVToast
+    signal liveRequested(string ipport)  // open the live window of the device; ipport: "address:port"
+    signal notify(string message, int severity)  // show this message; severity: an OVToast.Severity
     signal selectionChanged  // the number of ticked devices has changed: the window removes refusals
 
     readonly property int ticked: devices.checkedCount  // number of ticked devices that the filters show

@@ -13,7 +13,7 @@ FocusScope {
     required property bool libraryInstalled  // false: there is no device library, so no device can be reached
     property DeviceNotes notes: null  // null: devices have no notes
     signal searchRequested  // start a search
-    signal liveRequested(string ipport)  // "address:port"
+    signal liveRequested(string ipport)  // open the live window of the device; ipport: "address:port"
     signal notify(string message, int severity, int duration)  // shows a toast; severity: of OVToast; duration in ms
     signal selectionChanged  // the number of ticked devices has changed: the window removes refusals
 
@@ -39,7 +39,8 @@ FocusScope {
         return Object.assign({}, deviceFactory.getDeviceDetail("dh", name), {identity: name});
     }
 
-    /// Rebuilds the tree from the device list. Without a search text it lists the initialised devices.
+    /// Rebuilds the tree from the device list: with the devices that contain the search text, without one with the
+    /// initialised devices.
     function refresh() {
         devices.resetItems(deviceTree.searchText === "" ? "removeuninit" : "search", deviceTree.searchText);
     }

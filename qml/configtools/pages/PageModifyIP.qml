@@ -18,9 +18,9 @@ FocusScope {
     signal reportRequested  // open the report of the last search
     signal settingsRequested  // open the search settings
     signal demoRequested  // open the demo site
-    signal liveRequested(string ipport)  // "address:port"
-    signal galleryRequested(var rows)  // rows: values of the ticked rows
-    signal notify(string message, int severity)  // severity: of OVToast
+    signal liveRequested(string ipport)  // open the live window of the device; ipport: "address:port"
+    signal galleryRequested(var rows)  // show images of these devices; rows: values of the ticked rows
+    signal notify(string message, int severity)  // show this message; severity: an OVToast.Severity
     signal selectionChanged  // the number of ticked devices has changed: the window removes refusals
 
     readonly property int ticked: devices.checkedCount  // number of ticked devices that the filters show

@@ -14,8 +14,8 @@ FocusScope {
     required property bool libraryInstalled  // false: there is no device library, so no device can be reached
     property DeviceNotes notes: null  // null: devices have no notes
     signal searchRequested  // start a search
-    signal liveRequested(string ipport)  // "address:port"
-    signal notify(string message, int severity)  // severity: of OVToast
+    signal liveRequested(string ipport)  // open the live window of the device; ipport: "address:port"
+    signal notify(string message, int severity)  // show this message; severity: an OVToast.Severity
     signal selectionChanged  // the number of ticked devices has changed: the window removes refusals
 
     readonly property int ticked: devices.checkedCount  // number of ticked devices that the filters show
@@ -101,7 +101,8 @@ FocusScope {
         return Object.assign({}, deviceFactory.getDeviceDetail("dh", name), {identity: name});
     }
 
-    /// Rebuilds the tree from the device list. Without a search text it lists the initialised devices.
+    /// Rebuilds the tree from the device list: with the devices that contain the search text, without one with the
+    /// initialised devices.
     function refresh() {
         devices.resetItems(deviceTree.searchText === "" ? "removeuninit" : "search", deviceTree.searchText);
     }

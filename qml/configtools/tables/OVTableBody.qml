@@ -25,7 +25,7 @@ ListView {
     signal rangeToggled(int first, int last, bool checked)  // tick or untick the rows from first to last, both included
     signal copyRequested(int row)  // Ctrl+C
     signal rowActivated(int row)  // by a double click or Enter
-    signal menuRequested(int row, var position)  // see OVEntryMenu.openAt()
+    signal menuRequested(int row, var position)  // open the menu of the row; position: see OVEntryMenu.openAt()
 
     /// Makes the row `to` current, within the valid rows, and scrolls to it. With `extend`, also requests to tick all
     /// rows between `to` and the last row that became current without `extend`.

@@ -19,9 +19,9 @@ ListView {
     // would move the row away from the pointer.
     property int cursor: -1
     property string cursorIdentity  // of that row, also while the model does not have it; "" for none
-    signal deviceChosen(string ipport)  // also for the chosen device
-    signal detailRequested(string name)  // name of the device's row, see rowName()
-    signal menuRequested(string name, var position)  // see OVEntryMenu.openAt()
+    signal deviceChosen(string ipport)  // "address:port"; also for the chosen device
+    signal detailRequested(string name)  // open the details; name (identity) of the device's row
+    signal menuRequested(string name, var position)  // open the menu of a device; position: see OVEntryMenu.openAt()
 
     /// Makes the row current, without scrolling.
     function moveCursor(row) {

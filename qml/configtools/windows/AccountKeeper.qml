@@ -10,7 +10,7 @@ Item {
     property Batch batch: null  // the followed batch or its retry; null for none
     property int keeping: AccountList.Unkept  // an AccountList.Keeping
     property int takenCount: 0  // number of succeeded devices of the batch whose accounts were processed
-    property int keptCount: 0   // number of devices with a stored account, including batches before a retry
+    property int keptCount: 0   // number of devices processed without an error, including batches before a retry
     property int keptBefore: 0  // of these, devices of batches before the retry
     property string failure  // why an account could not be stored, "" if all were
     readonly property var accounts: LoginMemory.accounts  // the AccountList; null: nothing is stored
@@ -33,7 +33,8 @@ Item {
         failure = "";
     }
 
-    /// Stores the accounts of the devices that have succeeded since the last call. After the batch, `message` is final.
+    /// Processes the accounts of the devices that have succeeded since the last call, as `keeping` states. After the
+    /// batch, `message` is final.
     function keep() {
         delay.stop();
         const devices = batch?.succeededDevices(takenCount) ?? [];

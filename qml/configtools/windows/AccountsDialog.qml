@@ -17,7 +17,7 @@ OVDialog {
     readonly property var current: shownRow(table.currentIndex, accounts.count)
     /// The selected row is a stored account, not the default one.
     readonly property bool isOwn: (current.identity ?? "") !== "" && !current.isDefault
-    signal notify(string message, int severity)  // severity: of OVToast
+    signal notify(string message, int severity)  // show this message; severity: an OVToast.Severity
     signal chosen  // the account was assigned to the devices; emitted before the dialog closes
 
     /// The values of a row. `count` is unused: with it, a binding is evaluated again when the rows change.

@@ -11,7 +11,7 @@ Item {
     readonly property var fileDialogs: FileDialogsApi  // the desktop's dialogs for files and folders
     // qmllint enable unqualified
     property var writtenPaths: []  // paths of files being written for this object
-    signal notify(string message, int severity)  // severity: of OVToast
+    signal notify(string message, int severity)  // show this message; severity: an OVToast.Severity
 
     /// Opens the panel with the latest batch.
     function show() {

@@ -14,7 +14,7 @@ Item {
     required property CgiCommands commands  // recent and favourite commands
     property Batch batch: null  // the latest batch of this object or its retry; null before
     property string singleRow  // identity of the row for a single command, "" for several devices
-    signal notify(string message, int severity)  // severity: of OVToast
+    signal notify(string message, int severity)  // show this message; severity: an OVToast.Severity
     /// A batch for several devices has ended, and devices failed or were skipped. `lines`: one text for each of these
     /// devices ("address:port" and the reason), grouped by result.
     signal failed(var lines)

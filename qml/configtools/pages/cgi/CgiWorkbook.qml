@@ -13,7 +13,7 @@ Item {
     required property bool shown  // the page is visible
     /// Message about a workbook that was not shown yet, as the page is hidden; "" for none.
     property string pendingOutcome
-    signal notify(string message, int severity)  // severity: of OVToast
+    signal notify(string message, int severity)  // show this message; severity: an OVToast.Severity
 
     /// Asks for a workbook and reads it. The confirmation follows, or a message why the workbook cannot be used.
     function choose() {

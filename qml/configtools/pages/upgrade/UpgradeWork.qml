@@ -13,7 +13,7 @@ Item {
     required property var upgradeBatches  // an UpgradeBatches, which runs the upgrades
     required property bool shown  // the page is visible; changed rows of a hidden page are read when it is shown
     signal changed  // any row may have changed: the page reads the list again
-    signal notify(string message, int severity)  // severity: of OVToast
+    signal notify(string message, int severity)  // show this message; severity: an OVToast.Severity
 
     /// Sets one firmware file for all ticked devices. Refused if none is ticked.
     function chooseFileForChecked() {
