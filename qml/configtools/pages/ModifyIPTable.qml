@@ -1,5 +1,4 @@
-// The table of the main page: columns and cells. It only requests; the page acts. F2 requests the note of the current
-// row.
+// The table of the main page. It only requests; the page acts. F2 requests the note of the current row.
 import QtQuick
 import configtools
 
@@ -24,8 +23,7 @@ OVTable {
             noteRequested(currentIndex);
     }
 
-    // The keys are those of the rows of the device list. "state": bool, the device is initialised. "vision": firmware
-    // version. "res": LoginResult of the last address change or initialisation, -1 for none.
+    // By key of a row. "vision": firmware version. "res": LoginResult of address change or initialisation, -1: none.
     columns: [
         {
             key: "num", title: qsTr("No."), width: Theme.columnNumber, leastWidth: Theme.columnUpgradeNumber,
