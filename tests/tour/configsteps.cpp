@@ -2,6 +2,7 @@
 #include "sdk/demo/scene/fault.h"
 #include "sdk/encodeblocks.h"
 #include "tests/tour/driver/commonsteps.h"
+#include "tests/tour/driver/configpage.h"
 #include "tests/tour/driver/scenedevices.h"
 #include "tests/tour/driver/scrolledtree.h"
 #include "tests/tour/steps.h"
@@ -24,34 +25,9 @@ const QString recorder = u"192.168.1.120:8800"_s;
 const QString twoLamps = u"192.168.1.103:8800"_s;
 const QString password = u"Office-2024"_s;
 
-int numberOf(const Driver &driver, const QString &slider)
-{
-    return driver.require(slider)->property("value").toInt();
-}
-
 QString shownBy(const Driver &driver, const QString &choice)
 {
     return driver.require(choice)->property("displayText").toString();
-}
-
-void pick(const Driver &driver, const QString &choice, int index)
-{
-    driver.require(choice)->forceActiveFocus(Qt::TabFocusReason); // scrolls it into view
-    driver.click(choice);
-    driver.key(Qt::Key_Home); // to the start of a long list
-    driver.click(u"choice%1"_s.arg(index));
-    driver.await(u"the list of \"%1\" is closed"_s.arg(choice), [&] { return !driver.find(u"choice0"_s); });
-    awaitConfigIdle(driver);
-}
-
-/// Moves a slider with the keyboard.
-void slide(const Driver &driver, const QString &slider, Qt::Key key, int expected)
-{
-    driver.require(slider)->childItems().constFirst()->forceActiveFocus(Qt::TabFocusReason);
-    driver.key(key);
-    driver.await(u"\"%1\" has the number %2"_s.arg(slider).arg(expected),
-                 [&] { return numberOf(driver, slider) == expected; });
-    awaitConfigIdle(driver);
 }
 
 void setNumber(const Driver &driver, const QString &field, int number)
@@ -59,12 +35,6 @@ void setNumber(const Driver &driver, const QString &field, int number)
     driver.require(field)->forceActiveFocus(Qt::TabFocusReason); // scrolls it into view
     driver.fill(field, QString::number(number));
     driver.key(Qt::Key_Return);
-}
-
-void choose(const Driver &driver, const QString &device)
-{
-    driver.click(u"device_"_s + device);
-    awaitConfigIdle(driver);
 }
 
 /// The recorders are below the cameras, outside the visible area.

@@ -1,6 +1,6 @@
 // ConfigTools LANGUAGE FOLDER [STAGE]: plays the tour, or one stage of it, in a language and saves its images
-// in a folder. The stage "lab" is not part of the tour: it runs on the devices of the current network
-// (scripts/lab), without the simulated site.
+// in a folder. Two stages are not part of the tour: "lab" runs on the devices of the current network
+// (scripts/lab), without the simulated site, and "soak" repeats its work for hours (scripts/soak).
 //
 // Several processes take part: the supervisor, the driven application, a second instance of it, and the
 // instance that replaces the application after a change of the language or on opening the demo site.
@@ -13,6 +13,7 @@
 #include "tests/files/filecontents.h"
 #include "tests/tour/driver/commonsteps.h"
 #include "tests/tour/driver/driver.h"
+#include "tests/tour/driver/timedapplication.h"
 #include "tests/tour/stages.h"
 #include "tests/tour/steps.h"
 #include "tests/tour/users/usersteps.h"
@@ -117,8 +118,8 @@ bool runStage(const QString &stage, const QString &language, const QString &fold
     program.setProcessEnvironment(environment);
     program.setProcessChannelMode(QProcess::ForwardedChannels);
     program.start(QCoreApplication::applicationFilePath(), {language, folder});
-    return program.waitForFinished(22 * minutes) && program.exitStatus() == QProcess::NormalExit &&
-           program.exitCode() == EXIT_SUCCESS;
+    return program.waitForFinished((known ? known->minutes : Stage().minutes) * minutes) &&
+           program.exitStatus() == QProcess::NormalExit && program.exitCode() == EXIT_SUCCESS;
 }
 
 /// True if the process that replaced the application has succeeded.
@@ -287,7 +288,7 @@ int main(int argc, char *argv[])
 {
     previousHandler = qInstallMessageHandler(countWarnings);
     Shell::prepareApplication();
-    const QApplication application(argc, argv);
+    TimedApplication application(argc, argv);
     QStringList arguments = QCoreApplication::arguments();
     QByteArray stage = qgetenv(stageVariable);
     if (arguments.size() == 2 && arguments.at(1) == u"--demo") {

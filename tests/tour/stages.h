@@ -17,6 +17,7 @@ struct Stage
     QString scene = {};     ///< the simulated site; empty: the real network
     QString password = {};  ///< of the search settings
     bool continues = false; ///< keeps the settings of the previous stage
+    int minutes = 22;       ///< after which it has failed
     std::function<void(Driver &driver, sdk::demo::DemoSite *site)> drive;
     std::function<void(Driver &driver)> leave =
         {}; ///< closes the application; empty: with the window's button
@@ -25,5 +26,5 @@ struct Stage
 /// In the order of execution. The first stages represent users with their tasks.
 [[nodiscard]] const QList<Stage> &stagesOfTour();
 
-/// The stage with this name; null if there is none.
+/// The stage with this name, also "soak", which is not part of the tour; null if there is none.
 [[nodiscard]] const Stage *stageOfTour(const QString &name);

@@ -39,6 +39,11 @@ void walkUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &folde
 /// Images of many devices in the gallery, saved in `folder`, and live views of several devices. Requires the
 /// default account to be that of the site's devices.
 void walkGallery(Driver &driver, sdk::demo::DemoSite &site, const QString &folder);
+/// Repeats work on devices with faults for soakMinutes() and prints the figures of the process after each
+/// round. Fails if they grow. Requires the scene "faulty".
+void walkSoak(Driver &driver, sdk::demo::DemoSite &site);
+/// CONFIGTOOLS_SOAK_MINUTES of the environment; 120 without a valid number there.
+[[nodiscard]] int soakMinutes();
 /// The main operations on devices of a site on real sockets (scripts/lab).
 void walkLab(Driver &driver);
 /// Batches on the same devices.

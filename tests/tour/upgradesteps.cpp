@@ -4,6 +4,7 @@
 #include "sheets/qexcel.h"
 #include "tests/files/filecontents.h"
 #include "tests/tour/driver/commonsteps.h"
+#include "tests/tour/driver/firmware.h"
 #include "tests/tour/driver/openedaddresses.h"
 #include "tests/tour/driver/rows.h"
 #include "tests/tour/steps.h"
@@ -20,11 +21,6 @@ namespace {
 const QString password = u"Office-2024"_s;
 const QString newVersion = u"3.000.1"_s;
 const QString newestVersion = u"3.000.2"_s; // set by the document
-
-QString firmwareName(const QString &version)
-{
-    return u"cameras_%1.bin"_s.arg(version);
-}
 
 bool acceptsPassword(const sdk::demo::DemoSite &site, const QString &mac)
 {
@@ -44,18 +40,6 @@ QList<int> usableRows(const Driver &driver, const Rows &rows, const sdk::demo::D
     }
     driver.check(found.size() == count, u"there are %1 devices to upgrade"_s.arg(count));
     return found;
-}
-
-/// Writes a firmware file and returns its path.
-QString writeFirmware(const Driver &driver, const QString &folder, const QString &version,
-                      const QStringList &models)
-{
-    QDir().mkpath(folder);
-    const QByteArray content = "BRELM-FIRMWARE 1\nmodel=" + models.join(u',').toLatin1() +
-                               "\nversion=" + version.toLatin1() + "\n\n" + QByteArray(100000, '\1');
-    const QString path = folder + u'/' + firmwareName(version);
-    driver.check(writeFile(path, content), u"the firmware is written"_s);
-    return path;
 }
 
 /// Makes six devices fast, except for the faults of some.

@@ -134,12 +134,15 @@ QStringList Driver::texts(const QString &name) const
 
 QQuickItem *Driver::requireForClicks(const QString &name) const
 {
-    QQuickItem *item = require(name);
-    scrollIntoView(item);
+    scrollIntoView(require(name));
     atRest();
+    QQuickItem *item = nullptr; // a list may have replaced it meanwhile
     await(
         QStringLiteral("\"%1\" takes clicks").arg(name),
         [&] {
+            item = find(name);
+            if (!item)
+                return false;
             const bool isBlocked = find(QStringLiteral("inputBlocker"));
             const QQuickItem *sheet = find(QStringLiteral("panelBlocker"));
             const bool isUnderSheet = sheet && sheet->contains(sheet->mapFromScene(QPointF(middleOf(item))));

@@ -2,8 +2,8 @@
 #include "device/registry/upgradetools.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/scene/fault.h"
-#include "tests/files/filecontents.h"
 #include "tests/tour/driver/commonsteps.h"
+#include "tests/tour/driver/firmware.h"
 #include "tests/tour/driver/rows.h"
 #include "tests/tour/users/usersteps.h"
 
@@ -128,10 +128,7 @@ void walkSomeUpgrades(Driver &driver, sdk::demo::DemoSite &site, const QList<sdk
         site.setFault(camera.mac, {.fault = sdk::demo::Fault::RebootTakes, .number = 2});
     }
     models.removeDuplicates();
-    const QString firmware = driver.imageFolder() + u"/cameras_3.000.1.bin"_s;
-    driver.check(writeFile(firmware, "BRELM-FIRMWARE 1\nmodel=" + models.join(u',').toLatin1() +
-                                         "\nversion=3.000.1\n\n" + QByteArray(100000, '\1')),
-                 u"the firmware is written"_s);
+    const QString firmware = writeFirmware(driver, driver.imageFolder(), u"3.000.1"_s, models);
     driver.click(u"tab1"_s);
     const Rows rows(driver, u"upgradeTable"_s);
     for (const sdk::demo::SceneDevice &camera : cameras) {
