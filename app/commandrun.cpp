@@ -1,5 +1,6 @@
 #include "app/commandrun.h"
 
+#include "app/crashreport.h"
 #include "app/devicesetup.h"
 #include "app/localconfig.h"
 #include "app/translationfile.h"

@@ -1,7 +1,9 @@
 #include "app/commandline.h"
 #include "app/commandrun.h"
+#include "app/crashreport.h"
 #include "app/product.h"
 #include "app/shell.h"
+#include "files/applicationfolders.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -56,6 +58,7 @@ int main(int argc, char *argv[])
     }
     if (const std::optional<int> exitCode = printText(commandLine, program))
         return *exitCode;
+    CrashReport::install(ApplicationFolders::current().crashReports());
     Shell shell(commandLine);
     if (const std::optional<int> exitCode = shell.begin())
         return *exitCode;

@@ -1,6 +1,7 @@
 #include "app/publication.h"
 
 #include "app/colourscheme.h"
+#include "app/crashreports.h"
 #include "app/filedialogs.h"
 #include "app/localconfig.h"
 #include "app/timezonetext.h"
@@ -69,6 +70,8 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
     context->setContextProperty(QStringLiteral("CDeviceFactoryApi"), CDeviceFactory::getinstance());
     context->setContextProperty(QStringLiteral("CGIConfigManageApi"), CGIConfigManage::getinstance());
     context->setContextProperty(QStringLiteral("ColourSchemeApi"), &colourScheme);
+    context->setContextProperty(QStringLiteral("CrashReportsApi"),
+                                new CrashReports(ApplicationFolders::current().crashReports(), &engine));
     context->setContextProperty(QStringLiteral("FileDialogsApi"), new FileDialogs(&engine));
     context->setContextProperty(QStringLiteral("LocalConfigApi"), CLocalConfig::getinstance());
     context->setContextProperty(QStringLiteral("SearchReportsApi"), new SearchReports(net, &engine));

@@ -41,6 +41,9 @@ public:
     /// The folder of the files with accounts, certificates, notes and typed commands.
     [[nodiscard]] const QString &data() const { return m_data; }
 
+    /// The folder of the crash reports, in data().
+    [[nodiscard]] QString crashReports() const { return m_data + QStringLiteral("/crashes"); }
+
     /// The folder of the saved devices, in data(), with a trailing "/".
     [[nodiscard]] QString favourites() const;
 

@@ -1651,6 +1651,21 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     </message>
 </context>
 <context>
+    <name>CrashReportNotice</name>
+    <message>
+        <source>显示报告</source>
+        <translation>Mostra l’informe</translation>
+    </message>
+    <message>
+        <source>程序上次异常退出，已写入报告</source>
+        <translation>El programa es va tancar inesperadament. S’ha escrit un informe</translation>
+    </message>
+    <message>
+        <source>异常退出报告</source>
+        <translation>Informe de fallada</translation>
+    </message>
+</context>
+<context>
     <name>DeviceActions</name>
     <message>
         <source>%1 已存在，是否覆盖？</source>

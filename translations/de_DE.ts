@@ -1651,6 +1651,21 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
     </message>
 </context>
 <context>
+    <name>CrashReportNotice</name>
+    <message>
+        <source>显示报告</source>
+        <translation>Bericht anzeigen</translation>
+    </message>
+    <message>
+        <source>程序上次异常退出，已写入报告</source>
+        <translation>Das Programm wurde unerwartet beendet. Ein Bericht wurde geschrieben</translation>
+    </message>
+    <message>
+        <source>异常退出报告</source>
+        <translation>Absturzbericht</translation>
+    </message>
+</context>
+<context>
     <name>DeviceActions</name>
     <message>
         <source>%1 已存在，是否覆盖？</source>

@@ -1651,6 +1651,21 @@ Right-click to copy the result</translation>
     </message>
 </context>
 <context>
+    <name>CrashReportNotice</name>
+    <message>
+        <source>显示报告</source>
+        <translation>Show report</translation>
+    </message>
+    <message>
+        <source>程序上次异常退出，已写入报告</source>
+        <translation>The tool ended unexpectedly. A report has been written</translation>
+    </message>
+    <message>
+        <source>异常退出报告</source>
+        <translation>Crash report</translation>
+    </message>
+</context>
+<context>
     <name>DeviceActions</name>
     <message>
         <source>%1 已存在，是否覆盖？</source>

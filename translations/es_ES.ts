@@ -1651,6 +1651,21 @@ Clic derecho para copiar el resultado</translation>
     </message>
 </context>
 <context>
+    <name>CrashReportNotice</name>
+    <message>
+        <source>显示报告</source>
+        <translation>Mostrar informe</translation>
+    </message>
+    <message>
+        <source>程序上次异常退出，已写入报告</source>
+        <translation>El programa se cerró inesperadamente. Se ha escrito un informe</translation>
+    </message>
+    <message>
+        <source>异常退出报告</source>
+        <translation>Informe de fallo</translation>
+    </message>
+</context>
+<context>
     <name>DeviceActions</name>
     <message>
         <source>%1 已存在，是否覆盖？</source>

@@ -1651,6 +1651,21 @@ Clic droit pour copier le résultat</translation>
     </message>
 </context>
 <context>
+    <name>CrashReportNotice</name>
+    <message>
+        <source>显示报告</source>
+        <translation>Afficher le rapport</translation>
+    </message>
+    <message>
+        <source>程序上次异常退出，已写入报告</source>
+        <translation>Le programme s’est arrêté de façon inattendue. Un rapport a été écrit</translation>
+    </message>
+    <message>
+        <source>异常退出报告</source>
+        <translation>Rapport d’incident</translation>
+    </message>
+</context>
+<context>
     <name>DeviceActions</name>
     <message>
         <source>%1 已存在，是否覆盖？</source>

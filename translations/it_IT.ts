@@ -1651,6 +1651,21 @@ Clic destro per copiare il risultato</translation>
     </message>
 </context>
 <context>
+    <name>CrashReportNotice</name>
+    <message>
+        <source>显示报告</source>
+        <translation>Mostra rapporto</translation>
+    </message>
+    <message>
+        <source>程序上次异常退出，已写入报告</source>
+        <translation>Il programma si è chiuso in modo imprevisto. È stato scritto un rapporto</translation>
+    </message>
+    <message>
+        <source>异常退出报告</source>
+        <translation>Rapporto di arresto anomalo</translation>
+    </message>
+</context>
+<context>
     <name>DeviceActions</name>
     <message>
         <source>%1 已存在，是否覆盖？</source>

@@ -1651,6 +1651,21 @@ Klik met rechts om het resultaat te kopiëren</translation>
     </message>
 </context>
 <context>
+    <name>CrashReportNotice</name>
+    <message>
+        <source>显示报告</source>
+        <translation>Rapport tonen</translation>
+    </message>
+    <message>
+        <source>程序上次异常退出，已写入报告</source>
+        <translation>Het programma is onverwacht beëindigd. Er is een rapport geschreven</translation>
+    </message>
+    <message>
+        <source>异常退出报告</source>
+        <translation>Crashrapport</translation>
+    </message>
+</context>
+<context>
     <name>DeviceActions</name>
     <message>
         <source>%1 已存在，是否覆盖？</source>

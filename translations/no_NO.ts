@@ -1651,6 +1651,21 @@ Høyreklikk for å kopiere resultatet</translation>
     </message>
 </context>
 <context>
+    <name>CrashReportNotice</name>
+    <message>
+        <source>显示报告</source>
+        <translation>Vis rapport</translation>
+    </message>
+    <message>
+        <source>程序上次异常退出，已写入报告</source>
+        <translation>Programmet ble avsluttet uventet. En rapport er skrevet</translation>
+    </message>
+    <message>
+        <source>异常退出报告</source>
+        <translation>Krasjrapport</translation>
+    </message>
+</context>
+<context>
     <name>DeviceActions</name>
     <message>
         <source>%1 已存在，是否覆盖？</source>

@@ -1651,6 +1651,21 @@ Clique com o botão direito para copiar o resultado</translation>
     </message>
 </context>
 <context>
+    <name>CrashReportNotice</name>
+    <message>
+        <source>显示报告</source>
+        <translation>Mostrar relatório</translation>
+    </message>
+    <message>
+        <source>程序上次异常退出，已写入报告</source>
+        <translation>O programa terminou inesperadamente. Foi escrito um relatório</translation>
+    </message>
+    <message>
+        <source>异常退出报告</source>
+        <translation>Relatório de falha</translation>
+    </message>
+</context>
+<context>
     <name>DeviceActions</name>
     <message>
         <source>%1 已存在，是否覆盖？</source>

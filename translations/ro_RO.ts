@@ -1688,6 +1688,21 @@ Clic dreapta pentru a copia rezultatul</translation>
     </message>
 </context>
 <context>
+    <name>CrashReportNotice</name>
+    <message>
+        <source>显示报告</source>
+        <translation>Afișați raportul</translation>
+    </message>
+    <message>
+        <source>程序上次异常退出，已写入报告</source>
+        <translation>Programul s-a închis neașteptat. A fost scris un raport</translation>
+    </message>
+    <message>
+        <source>异常退出报告</source>
+        <translation>Raport de eroare</translation>
+    </message>
+</context>
+<context>
     <name>DeviceActions</name>
     <message>
         <source>%1 已存在，是否覆盖？</source>

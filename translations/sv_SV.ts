@@ -1651,6 +1651,21 @@ Högerklicka för att kopiera resultatet</translation>
     </message>
 </context>
 <context>
+    <name>CrashReportNotice</name>
+    <message>
+        <source>显示报告</source>
+        <translation>Visa rapport</translation>
+    </message>
+    <message>
+        <source>程序上次异常退出，已写入报告</source>
+        <translation>Programmet avslutades oväntat. En rapport har skrivits</translation>
+    </message>
+    <message>
+        <source>异常退出报告</source>
+        <translation>Kraschrapport</translation>
+    </message>
+</context>
+<context>
     <name>DeviceActions</name>
     <message>
         <source>%1 已存在，是否覆盖？</source>

@@ -1614,6 +1614,21 @@
     </message>
 </context>
 <context>
+    <name>CrashReportNotice</name>
+    <message>
+        <source>显示报告</source>
+        <translation>显示报告</translation>
+    </message>
+    <message>
+        <source>程序上次异常退出，已写入报告</source>
+        <translation>程序上次异常退出，已写入报告</translation>
+    </message>
+    <message>
+        <source>异常退出报告</source>
+        <translation>异常退出报告</translation>
+    </message>
+</context>
+<context>
     <name>DeviceActions</name>
     <message>
         <source>%1 已存在，是否覆盖？</source>

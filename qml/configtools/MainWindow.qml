@@ -19,6 +19,9 @@ T.ApplicationWindow {
     readonly property var colourScheme: ColourSchemeApi  // a ColourScheme, which stores the choice of colours
     readonly property DeviceNotes notes: DeviceNotesApi  // notes of the user about devices
     readonly property var memory: ViewMemoryApi  // a ViewMemory: named texts in the settings, such as "tab"
+    readonly property var crashReports: CrashReportsApi  // a CrashReports
+    readonly property var cgiManager: CGIConfigManageApi  // a CGIConfigManage
+    readonly property var fileDialogs: FileDialogsApi  // a FileDialogs
     readonly property bool libraryInstalled: deviceLibraryInstalled  // false: no device responds
     readonly property var accounts: AccountsApi  // an AccountList: the stored accounts, for LoginMemory
     readonly property bool simulated: demoSite  // the devices are those of the demo site
@@ -261,6 +264,12 @@ T.ApplicationWindow {
             text: qsTr("未安装设备库，无法与设备通信")
             visible: !window.libraryInstalled
             onLinkActivated: applicationExit.requestDemo()
+        }
+        CrashReportNotice {
+            Layout.fillWidth: true
+            cgiManager: window.cgiManager
+            fileDialogs: window.fileDialogs
+            reports: window.crashReports
         }
         WindowPages {
             id: pages

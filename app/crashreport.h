@@ -1,0 +1,21 @@
+// Writes a report when the process ends by a fault.
+#pragma once
+
+#include <QString>
+
+namespace CrashReport {
+
+/// Name filter of the reports in their folder.
+inline constexpr const char *nameFilter = "crash-*.txt";
+
+/// From then on, SIGSEGV, SIGABRT, SIGBUS, SIGFPE, SIGILL, std::terminate() and qFatal() write a report into
+/// `folder` before their default action, which still occurs. The folder is created when the first report is
+/// written. A report has the version, the time, the reason, the thread, its stack and the latest lines of the
+/// log, without passwords. It is readable by the user only.
+///
+/// Stack overflows are reported for the calling thread only. Messages are forwarded to the previous message
+/// handler. Called once, on the main thread. No effect on systems other than Linux, and in a build with
+/// sanitizers, which have their own reports.
+void install(const QString &folder);
+
+} // namespace CrashReport
