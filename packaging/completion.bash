@@ -1,19 +1,54 @@
-# Completion of the options of configtools.
+# Completion of the commands and options of configtools.
 # shellcheck shell=bash
 
+# _configtools_options COMMAND: sets `options` to those of a command.
+_configtools_options() {
+    case $1 in
+        search) options='--devices --filter --list --format --quiet --range --no-local --demo --no-demo --help' ;;
+        init) options='--devices --filter --user --password-file --dry-run --format --quiet --range --no-local --demo --no-demo --help' ;;
+        set-address) options='--start --map --dhcp --mask --gateway --force --dry-run --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
+        get) options='--channel --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
+        set) options='--channel --dry-run --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
+        cgi) options='--workbook --output --dry-run --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
+        snapshot) options='--channel --output --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
+        export) options='--devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
+        import) options='--format --quiet --range --no-local --demo --no-demo --help' ;;
+        upgrade) options='--file --document --dry-run --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
+        *) options='--demo --no-demo --version --help' ;;
+    esac
+}
+
 _configtools() {
-    local current=$2 previous=$3
-    local options='--demo --no-demo --version --help'
-    if [[ $previous != --demo ]]; then
-        mapfile -t COMPREPLY < <(compgen -W "$options" -- "$current")
-        return
+    local current=$2 previous=$3 command='' options words=''
+    local commands='search init set-address get set cgi snapshot export import upgrade help'
+    if ((COMP_CWORD > 1)) && [[ ${COMP_WORDS[1]} != -* ]]; then
+        command=${COMP_WORDS[1]}
     fi
-    # The name of a scene, a scene file, or the next option.
-    mapfile -t COMPREPLY < <(
-        compgen -W "office factory faulty fleet: $options" -- "$current"
-        compgen -f -X '!*.json' -- "$current"
-        compgen -d -S / -- "$current"
-    )
+    _configtools_options "$command"
+    case $previous in
+        --demo) words='office factory faulty fleet:' ;;
+        --format) options='table json csv' ;;
+        --list | --password-file | --map | --file | --document | --workbook | --output)
+            compopt -o filenames
+            mapfile -t COMPREPLY < <(compgen -f -- "$current")
+            return
+            ;;
+        *)
+            case $COMP_CWORD:$command in
+                1:) words=$commands ;;
+                2:help) options=$commands ;;
+                2:get | 2:set) words='encode image system' ;;
+                2:export | 2:import) words=$(compgen -f -- "$current") ;;
+            esac
+            ;;
+    esac
+    mapfile -t COMPREPLY < <(compgen -W "$words $options" -- "$current")
+    if [[ $previous == --demo ]]; then
+        mapfile -t -O "${#COMPREPLY[@]}" COMPREPLY < <(
+            compgen -f -X '!*.json' -- "$current"
+            compgen -d -S / -- "$current"
+        )
+    fi
     if [[ ${#COMPREPLY[@]} -eq 1 && ${COMPREPLY[0]} == *[:/] ]]; then
         compopt -o nospace
     fi

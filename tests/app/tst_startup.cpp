@@ -4,6 +4,7 @@
 #include "app/messagebox.h"
 #include "app/shell.h"
 #include "app/timezonetext.h"
+#include "commandline/commands.h"
 #include "tests/datatable.h"
 #include "tests/files/filecontents.h"
 
@@ -102,6 +103,44 @@ private Q_SLOTS:
             const QString name = option.next().captured();
             QVERIFY2(QRegularExpression(name + "\\b(?!-)").match(text).hasMatch(), qPrintable(name));
         }
+    }
+
+    /// The manual page has a section for each command, and the completion a line, with its options.
+    void commandsAreDocumented_data()
+    {
+        const auto row = dataTable<QString>({"command"});
+        for (const commandline::Command &command : commandline::commands())
+            row(command.name.data(), command.name);
+    }
+
+    void commandsAreDocumented()
+    {
+        QFETCH(QString, command);
+        QStringList expected;
+        for (const QLatin1StringView option : commandline::findCommand(command)->options)
+            expected.append(QString(option).prepend("--"));
+        expected.sort();
+        const auto optionsIn = [](const QString &text) {
+            static const QRegularExpression pattern("(?<![a-z-])--[a-z-]+");
+            QSet<QString> found;
+            QRegularExpressionMatchIterator option = pattern.globalMatch(text);
+            while (option.hasNext())
+                found.insert(option.next().captured());
+            QStringList sorted(found.cbegin(), found.cend());
+            sorted.sort();
+            return sorted;
+        };
+        const QString manual =
+            QString::fromUtf8(fileContents(PACKAGING_DIRECTORY "/configtools.1.in")).remove(u'\\');
+        const QRegularExpression section("\n\\.SS \"" + command + "\\b(?!-)(.*?)\n\\.S[SH] ",
+                                         QRegularExpression::DotMatchesEverythingOption);
+        QCOMPARE(optionsIn(section.match(manual).captured(1)), expected);
+
+        const QString completion = QString::fromUtf8(fileContents(PACKAGING_DIRECTORY "/completion.bash"));
+        const QRegularExpression options("\n +" + command + "\\) options='([^']*)' ;;\n");
+        QCOMPARE(optionsIn(options.match(completion).captured(1)), expected);
+        const QRegularExpression commands("local commands='([^']*)'");
+        QVERIFY(commands.match(completion).captured(1).split(u' ').contains(command));
     }
 
     void aSecondInstanceShowsAMessageAndEndsWith0()
