@@ -275,6 +275,10 @@ void workOnLists(const Driver &driver)
         driver.click(u"okButton"_s);
         driver.acceptFileBox(folder);
         driver.await(u"%1 is written"_s.arg(path), [&] { return QFile::exists(path); });
+        if (driver.find(u"reportTable"_s)) { // values that an import would change
+            driver.click(u"okButton"_s);
+            driver.awaitGone(u"reportTable"_s);
+        }
     }
     driver.click(u"importButton"_s);
     driver.acceptFileBox(folder + u"/device.xlsx"_s);
