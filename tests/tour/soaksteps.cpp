@@ -323,9 +323,9 @@ void workOnReset(const Driver &driver)
     driver.fill(u"treeSearchField"_s, healthy);
     driver.click(u"tick_"_s + ipportOf(healthy));
     driver.click(u"resetButton"_s);
-    driver.require(u"messageText"_s);
+    driver.require(u"cancelButton"_s); // the panel has a text with the name of that of the question
     driver.click(u"okButton"_s);
-    driver.awaitGone(u"messageText"_s);
+    driver.awaitGone(u"cancelButton"_s);
     awaitBatchEnd(driver, batchSeconds);
     driver.fill(u"treeSearchField"_s, {});
     if (driver.find(u"clearMarksButton"_s))
