@@ -116,7 +116,7 @@ struct ExposureItem
 static_assert(sizeof(ExposureItem) == 64);
 static_assert(offsetof(ExposureItem, shortestShutter) == 16);
 
-/// CameraItem::NoiseReduction. A camera has it only with CameraGroup::Exposure.
+/// CameraItem::NoiseReduction. It belongs to CameraGroup::Exposure.
 struct NoiseReductionItem
 {
     std::uint32_t size;

@@ -87,7 +87,7 @@ public:
 
     /// To be called before DecoderPlay. `mode` 0 is a real-time stream: frames and sound are delivered as
     /// they arrive, and dropped when they are too late. Returns false for any other mode. Without this call
-    /// nothing is dropped. The mode stays set until the port is freed.
+    /// nothing is dropped as late. The mode stays set until the port is freed.
     virtual bool DecoderSetStreamMode(std::int32_t port, std::uint32_t mode) = 0;
 
     /// Opens the port for data. `header` of `headerSize` bytes is the header of the stream, and is copied;
@@ -123,7 +123,8 @@ public:
     virtual bool DecoderFreePort(std::int32_t port) = 0;
 
     /// Fills `status`. May be called at any time between DecoderAllocPort and DecoderFreePort. Before
-    /// DecoderOpenStream the status is empty; after DecoderCloseStream it is the last one.
+    /// DecoderOpenStream the status is empty; after DecoderCloseStream it is the last one, with a
+    /// `waitingBytes` of 0.
     virtual bool DecoderGetStatus(std::int32_t port, DecoderStatus &status) = 0;
 
     /// Encodes a frame (its bytes as DecodedFrameType::Video, `width` and `height` in pixels) as an image and

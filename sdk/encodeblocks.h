@@ -147,7 +147,7 @@ struct EncodeCapabilityBlock
     std::uint32_t compressionMask;         ///< bit N is set if the device supports compression code N
     std::int32_t sizesDependOnCompression; ///< if not 0, `sizesByCompression` is used instead of `sizes`
     std::int32_t minimumBitRate;           ///< kbit/s
-    std::int32_t maximumBitRate;           ///< kbit/s, for the frame size in EncodeCapabilityInput::text
+    std::int32_t maximumBitRate;           ///< kbit/s; may depend on the size in EncodeCapabilityInput::text
     std::int32_t maximumFrameRate;         ///< frames per second
     std::uint32_t profileCount;            ///< used entries of `profiles`
     std::array<std::int32_t, 8> profiles;  ///< as VideoProfileItem::profile; entries of 0 are ignored
@@ -183,7 +183,7 @@ struct EncodeCapabilityInput
     std::uint32_t reserved1;
     std::int32_t channel; ///< from 0
     std::uint32_t reserved2;
-    const char *text; ///< configuration text "Encode", ended by a zero: capabilities depend on its settings
+    const char *text; ///< configuration text "Encode", ended by a zero: capabilities may depend on it
 };
 static_assert(sizeof(EncodeCapabilityInput) == 24);
 static_assert(offsetof(EncodeCapabilityInput, channel) == 8);

@@ -112,9 +112,9 @@ public:
     virtual bool NetStopSearchDevices(std::int64_t searchHandle) = 0;
 
     /// Sends a search to the one address of `request` (its count is 1) and blocks until a response has
-    /// arrived, `wait` has passed or NetCleanup is called. Responses are passed to `handler` (not null) on a
-    /// thread of the library during the call, never after it. A failure is visible only as a missing
-    /// response, and in NetGetLastError.
+    /// arrived or none is expected any more, `wait` has passed or NetCleanup is called. Responses are passed
+    /// to `handler` (not null) on a thread of the library during the call, never after it. A failure is
+    /// visible only as a missing response, and in NetGetLastError.
     virtual void NetSearchDeviceByIp(const SearchByAddressesRequest &request, SearchResponseHandler handler,
                                      void *user, std::chrono::milliseconds wait) = 0;
 
@@ -148,8 +148,8 @@ public:
 
     /// True if the device responds and still accepts the login of the session. Sends one small request and
     /// blocks up to `wait`. On false, the error is SessionEnded if the device refuses the login or the handle
-    /// is invalid, NetworkFailure if the device has rebooted since the login, Cancelled after NetCancelCalls,
-    /// otherwise that of a device without a response.
+    /// is invalid, AccountLocked for a locked account, NetworkFailure if the device has rebooted since the
+    /// login, Cancelled after NetCancelCalls, otherwise that of a device without a response.
     virtual bool NetIsDeviceAlive(LLONG loginHandle, std::chrono::milliseconds wait) = 0;
 
     /// Reads the block of `command` (QueryCommand lists the blocks) from the device into `buffer` of
@@ -183,7 +183,7 @@ public:
     /// for any. Blocks up to `wait`. Returns false on failure. The error is NotSupported if the device is
     /// initialised already, and AddressInUse if another device responds. The error is Unconfirmed if the
     /// device has accepted the account, but the library could not verify that the device now requires a
-    /// login.
+    /// login, and may be Refused if the device requires none.
     virtual bool NetInitDeviceAccount(const InitDeviceAccountInput &input, DeviceRequestOutput &output,
                                       std::chrono::milliseconds wait, const char *localAddress) = 0;
 
@@ -245,10 +245,11 @@ public:
     virtual std::int64_t NetStartRealStream(LLONG loginHandle, std::int32_t channel, std::uintptr_t window,
                                             LiveStreamKind kind) = 0;
 
-    /// Sets the handler of the stream's data; null removes it. The handler runs on a thread of the library.
-    /// The first handler receives the stream from its start, its header included. The previous handler does
-    /// not run after the return, so this must not be called from a handler. `flag` is always 1. Returns false
-    /// for an invalid handle.
+    /// Sets the handler of the stream's data; null removes it. The handler runs on a thread of the library,
+    /// and possibly on the calling thread before the return, with data or an end that were kept for it. The
+    /// first handler receives the stream from a header on. The previous handler does not run after the
+    /// return, so this must not be called from a handler. `flag` is always 1. Returns false for an invalid
+    /// handle.
     virtual bool NetSetRealDataCallback(std::int64_t streamHandle, RealDataHandler handler, void *user,
                                         std::uint32_t flag) = 0;
 

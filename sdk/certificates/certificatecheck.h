@@ -32,9 +32,10 @@ public:
     CertificateCheck(const CertificateCheck &) = delete;
     CertificateCheck &operator=(const CertificateCheck &) = delete;
 
-    /// Sets the options of `curlHandle`, a CURL pointer. To be repeated after curl_easy_reset(), which clears
-    /// them. If the TLS library of libcurl lacks the option, the handle keeps the check by certificate
-    /// authorities, which refuses the devices' own certificates.
+    /// Sets the options of `curlHandle`, a CURL pointer. The handle then uses HTTP/1.1, and resumes no TLS
+    /// sessions. To be repeated after curl_easy_reset(), which clears the options. If the TLS library of
+    /// libcurl lacks the option, the handle keeps the check by certificate authorities, which refuses the
+    /// devices' own certificates.
     void attachTo(void *curlHandle);
 
     /// The verdict of the last handshake if it was ended by its certificate: Unknown or Changed. Nothing if

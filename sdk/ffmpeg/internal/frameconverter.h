@@ -17,7 +17,8 @@ public:
     [[nodiscard]] bool write(const AVFrame &frame, std::uint8_t *destination);
 
     /// The colour space of the bytes that write() writes: that of the frame, or usualFrameColour() for an RGB
-    /// frame. The matrix of a frame that does not report one is that of usualFrameColour().
+    /// frame. A frame that reports no matrix has that of usualFrameColour(); one that reports no range has
+    /// the limited range. BT.2020 counts as BT.709.
     [[nodiscard]] static FrameColour colourOf(const AVFrame &frame);
 
 private:

@@ -24,7 +24,7 @@ public:
     LoggedErrors();
 
     /// Whether FFmpeg has logged an error since the object was created. To be called on the same thread.
-    /// Always false before routeLog() was called.
+    /// Always false before routeLog() was called, and on a thread with a ThreadLog.
     [[nodiscard]] bool any() const;
 
 private:
