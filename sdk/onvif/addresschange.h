@@ -31,7 +31,8 @@ struct AddressOrder
 /// refuses the address, a written gateway is restored.
 ///
 /// `deadline` limits the requests up to the reboot. The wait for the new address ends at `deadline` or at the
-/// timeout of the order, whichever is later.
+/// timeout of the order, whichever is later. The second request for the gateway has the timeout
+/// `AddressOrder::settlingTime`.
 ///
 /// A stop of this thread's CallStop (the caller has cancelled the operation) ends the requests before the
 /// first change: the result is then Cancelled. Later it ends only the wait for the new address, with
@@ -39,10 +40,10 @@ struct AddressOrder
 ///
 /// Errors before anything is changed: InvalidValue for an invalid mask or an empty address, without DHCP
 /// only; AddressInUse if the device is not the one with `AddressOrder::mac`; NotSupported if the device
-/// reports no interface to change; the errors of the login (OnvifSession::open()). Errors of the change: the
-/// reason of the device to refuse the address or the reboot; with DHCP also the error of a lost response.
-/// Errors after the change: Unconfirmed if no device responds at the new address, AddressInUse if another
-/// device responds there, otherwise the error of the gateway.
+/// reports no interface to change; the errors of the login (OnvifSession::open()) and of the request for the
+/// interfaces. Errors of the change: the reason of the device to refuse the address or the reboot; with DHCP
+/// also the error of a lost response. Errors after the change: Unconfirmed if no device responds at the new
+/// address, AddressInUse if another device responds there, otherwise the error of the gateway.
 [[nodiscard]] NetError changeAddress(const ServiceAddress &service, const std::shared_ptr<HttpClient> &http,
                                      const HttpLogin &login, const AddressOrder &order,
                                      SoapClient::Deadline deadline);

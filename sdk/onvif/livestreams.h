@@ -30,10 +30,10 @@ public:
     /// Starts the stream. To be called once, before the other functions. Blocks until the device plays, the
     /// start has failed, or the RunningCall of the calling thread is stopped. Returns NetError::None if the
     /// device plays. Errors: WrongPassword for a refused password, Refused for another refusal, NotSupported
-    /// for a missing or undecodable stream, DeviceBusy at the device's limit of streams, ConnectFailed for a
-    /// closed port, ConnectTimeout for a device that does not respond, ProtocolMismatch for an unusable URL
-    /// or response, InvalidValue for an account that cannot be sent, NetworkFailure after a stop, after a
-    /// broken connection and if no thread can be created.
+    /// for a missing or undecodable stream or an unsupported login method, DeviceBusy at the device's limit
+    /// of streams, ConnectFailed for a closed port, ConnectTimeout for a device that does not respond,
+    /// ProtocolMismatch for an unusable URL or response, InvalidValue for an account that cannot be sent,
+    /// NetworkFailure after a stop, after a broken connection and if no thread can be created.
     [[nodiscard]] NetError start(const RtspOrder &order);
 
     /// Sets the handler; null removes it. Data that arrive before the first handler are kept, up to 4 MiB.

@@ -40,8 +40,8 @@ public:
     std::size_t sendToGroups(const std::string &message, const SendObserver &observer = {});
 
     /// Sends a message to one address, from the first socket of its family that can send it. Returns 0 when
-    /// one has sent it, otherwise the system's error number of the last failure; ENETUNREACH without a socket
-    /// of the family.
+    /// one has sent it, otherwise the system's error number of the last failure other than EINVAL;
+    /// ENETUNREACH if there is none, as without a socket of the family.
     [[nodiscard]] int sendTo(const std::string &message, const SocketAddress &address);
 
     /// Waits up to `milliseconds` until a datagram arrives or wake() is called. Passes the datagrams that

@@ -25,6 +25,7 @@ namespace sdk::onvif {
 /// does not follow NTP is set to the time that was just read. "NTP" writes the time server before the clock,
 /// and only if NTP is enabled in `text`; after an error of the clock, the server stays written. The port of
 /// the time server and the period of its requests have no counterpart in the standard and are not sent.
+/// "Locales" without daylight saving removes its rule from the zone of the device.
 [[nodiscard]] NetError setSystemConfiguration(OnvifSession &session, std::string_view name,
                                               std::string_view text, OnvifSession::Deadline deadline);
 

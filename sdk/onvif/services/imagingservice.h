@@ -1,6 +1,7 @@
 // The imaging service (ONVIF Imaging): image, exposure and similar settings of a video source.
 //
-// A number without a stated unit is in the range that ImagingOptions has for it.
+// A number without a stated unit is in the range that ImagingOptions has for it. Names of modes are truncated
+// after 32 bytes, lists of modes after 16 entries.
 #pragma once
 
 #include "sdk/onvif/services/serviceresult.h"

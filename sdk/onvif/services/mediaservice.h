@@ -122,8 +122,8 @@ public:
     // ProtocolMismatch, without writing, if the device does not return the settings of the token.
 
     /// Changes the encoder `encoder.token` to the values of `encoder`. An empty profile and a key interval of
-    /// 0 are not written. The frame rate and the bit rate are not written to a device that does not report a
-    /// rate control.
+    /// 0 are not written; in the older service, a codec that the encoder has no settings of gets "Main" and
+    /// 1. The frame rate and the bit rate are not written to a device that does not report a rate control.
     [[nodiscard]] ServiceOutcome setVideoEncoder(const VideoEncoder &encoder);
     /// Changes the encoder `encoder.token` to the values of `encoder`.
     [[nodiscard]] ServiceOutcome setAudioEncoder(const AudioEncoder &encoder);

@@ -38,7 +38,8 @@ public:
     /// success; on failure the result is null. SoapResponse and SoapClient state the errors: WrongPassword,
     /// for instance. NotSupported for a device without an administrator, and for a device that returns
     /// everything, including its users, without a login: the password cannot be checked there. A device
-    /// without media services has a session without channels.
+    /// that requires no login and has no operation for users accepts any password. A device without media
+    /// services has a session without channels.
     [[nodiscard]] static std::shared_ptr<OnvifSession> open(const ServiceAddress &service,
                                                             const HttpLogin &login,
                                                             const std::shared_ptr<HttpClient> &http,

@@ -1,4 +1,5 @@
-// The log category of sdk/onvif: "configtools.sdk.onvif". Messages contain no passwords.
+// The log category of sdk/onvif: "configtools.sdk.onvif". Its debug messages are disabled by default.
+// Messages contain no passwords.
 #pragma once
 
 #include <QLoggingCategory>

@@ -13,14 +13,15 @@
 
 namespace sdk::onvif {
 
-/// FFmpeg's RTSP client with limits of time, of size and of the addresses that it may connect to. It delivers
-/// packets; the caller assembles frames. Used by the thread that creates it.
+/// FFmpeg's RTSP client with limits of time (RtspTimeouts), of the size of responses and the number of tracks
+/// (ReplyWatch), and of the addresses that it may connect to. It delivers packets; the caller assembles
+/// frames. Used by the thread that creates it.
 class RtspSession
 {
 public:
     using Time = std::chrono::steady_clock::time_point;
 
-    /// Connects to nothing yet. `stop` ends the session with StreamEnd::Stopped. `whenWaiting` (not empty) is
+    /// Connects to nothing yet. A stop ends the session with StreamEnd::Stopped. `whenWaiting` (not empty) is
     /// called by read() about ten times per second while no data arrive, and also between data.
     RtspSession(RtspAddress address, const RtspTimeouts &timeouts, std::stop_token stop,
                 std::function<void()> whenWaiting);
@@ -30,8 +31,9 @@ public:
     RtspSession(const RtspSession &) = delete;
     RtspSession &operator=(const RtspSession &) = delete;
 
-    /// To be called once. Blocks until the device plays, RtspTimeouts::response has passed or `stop` is
-    /// stopped. Returns false on failure; end() then has the reason.
+    /// To be called once. Blocks until the device plays, RtspTimeouts::response has passed or a stop is
+    /// requested. RtspTimeouts::keyFrame and silence start at the return. Returns false on failure; end()
+    /// then has the reason.
     [[nodiscard]] bool open();
 
     /// The first track in one of these encodings; null if there is none. To be called after open() has
@@ -39,7 +41,7 @@ public:
     [[nodiscard]] const AVStream *track(AVMediaType type, std::initializer_list<AVCodecID> codecs) const;
 
     /// Blocks until a packet of any track has arrived; the caller unreferences it. Returns false after the
-    /// end of the session, also when a timeout has passed or `stop` is stopped; end() then has the reason.
+    /// end of the session, also when a timeout has passed or a stop is requested; end() then has the reason.
     [[nodiscard]] bool read(AVPacket &packet);
 
     /// To be called after each video packet: starts RtspTimeouts::silence again.

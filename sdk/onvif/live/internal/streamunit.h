@@ -27,7 +27,8 @@ struct StreamUnit
     std::size_t headSize = 0; ///< bytes of the start code and the unit's header
     ParameterSet parameterSet = ParameterSet::None;
     bool isSlice = false;
-    /// For a slice: it is the first one of its frame. For other units: after a slice, the unit belongs to the
+    /// For a slice: it is the first one of its frame; false if the byte after its header is missing, and for
+    /// the partitions of H.264 (types 2 to 4). For any other unit: if it follows a slice, it belongs to the
     /// next frame.
     bool startsFrame = false;
 };
