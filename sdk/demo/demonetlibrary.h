@@ -31,7 +31,8 @@ class SiteState;
 ///
 /// Reachable devices respond to logins, queries and requests immediately, unless they have
 /// Fault::SlowAnswers. A request to an unreachable device fails after its complete `wait` on the site's
-/// clock; a login fails after `connectTime`. NetCleanup, NetLogout and NetCancelCalls end that wait.
+/// clock; a login fails after `connectTime`. NetCleanup, NetLogout and NetCancelCalls end that wait. A device
+/// with Fault::RefusesConnections fails logins and requests at once.
 /// NetModifyDeviceBySearch does not check the account of the request, and does not wait for the device at its
 /// new address. No device is accessed over TLS: the certificate handler is not called. Operations that must
 /// not be called from a handler detect it and fail with DemoError::InsideHandler.

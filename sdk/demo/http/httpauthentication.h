@@ -16,7 +16,7 @@ struct HttpCredentials
 {
     bool areValid = false; ///< the request may be run
     bool areStale = false; ///< not valid, but only because the nonce has expired
-    QString kind;          ///< "basic" or "digest": the scheme of the request; "none" for no other scheme
+    QString kind;          ///< scheme of the request: "basic", "digest"; "none" for another scheme or none
     QString user;          ///< as in the request, also if unknown; empty without credentials
 };
 

@@ -101,8 +101,8 @@ struct HttpResponse
     [[nodiscard]] static HttpResponse line(HttpStatus status, const QString &text);
 };
 
-/// Status line and headers of `response`, including the empty line. Without `keepsConnection` the client is
-/// asked to close the connection.
+/// Status line and headers of `response`, including the empty line. Without `keepsConnection` they announce
+/// that the server closes the connection.
 [[nodiscard]] QByteArray httpHead(const HttpResponse &response, bool keepsConnection);
 
 } // namespace sdk::demo

@@ -16,7 +16,7 @@ enum class Fault
     LateAnswer,            ///< search responses are sent `number` ms after the device's latency
     AnswerTwice,           ///< every search response is sent twice
     WrongPassword,         ///< no password is accepted
-    AccountLocked,         ///< an account locks permanently after `number` wrong passwords
+    AccountLocked,         ///< an account locks permanently after `number` wrong passwords in a row
     AccountLoggedIn,       ///< refuses logins: every account has a session already
     NotInitialised,        ///< is not initialised, and refuses logins
     RefusesInitialisation, ///< refuses the initialisation

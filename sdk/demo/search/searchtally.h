@@ -33,7 +33,8 @@ public:
     void noteAddressResponse(const QString &address);
 
     /// Replaces `report` by one of a single interface, "demo0", which has `localAddress` (IPv4) with a prefix
-    /// length of 24. Found devices with an IPv4 address outside this network are counted as foreign.
+    /// length of 24. Found devices with an IPv4 address outside this network are counted as foreign, except
+    /// for 0.0.0.0 and loopback addresses.
     void fill(SearchReport &report, const QString &localAddress) const;
 
 private:

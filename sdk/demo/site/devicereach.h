@@ -38,7 +38,8 @@ struct DeviceReach
                                 DevicePort kind = DevicePort::Service);
 
 /// Whether the device of `session` still responds. A direct session follows its device to a new address. A
-/// session through the port agent needs its tunnel. Not evaluated: DemoSession::hasEnded and the password.
+/// session through the port agent needs its tunnel. Not evaluated: DemoSession::hasEnded, the password and,
+/// for a direct session, Fault::RefusesConnections.
 [[nodiscard]] bool isReachable(const SiteState &site, const DemoSession &session);
 
 } // namespace sdk::demo

@@ -8,7 +8,8 @@
 
 namespace sdk::demo {
 
-/// Owns the upgrades. Thread-safe. Handles are not reused.
+/// Owns the upgrades. Thread-safe. Handles are not reused. The handler of an upgrade runs on the thread of
+/// that upgrade. The destructor must not run in a handler: it ends the upgrades as closeAll().
 class DeviceUpgrades
 {
 public:
@@ -23,7 +24,8 @@ public:
     /// `site` and `sessions` must outlive this object.
     DeviceUpgrades(SiteState &site, DemoSessions &sessions) : m_site(site), m_sessions(sessions) {}
 
-    /// True while an upgrade of the device runs, also after the end of its session.
+    /// True while an upgrade of the device runs, also after the end of its session. Already false while the
+    /// handler is called with Done or Failed.
     [[nodiscard]] bool isUpgrading(const QString &mac) const;
 
     /// Starts an upgrade. Returns its handle, which is valid until it is closed, also after the end of the
@@ -39,8 +41,8 @@ public:
     /// Closes one upgrade.
     [[nodiscard]] Closing close(std::int64_t handle);
 
-    /// Closes the upgrades of a session. Transfers are cancelled. A device that is writing continues without
-    /// reports.
+    /// Closes the upgrades of a session: their handles are unknown then. Transfers are cancelled. A device
+    /// that is writing continues without reports.
     void closeAllOf(std::int64_t loginHandle);
 
     /// Ends all upgrades, also of devices that are writing: these keep their firmware.
