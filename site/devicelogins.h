@@ -24,8 +24,10 @@ struct LoginOutcome
                                                                            ///< else without a meaning
 };
 
-/// Checks the logins over SOAP, HTTP and RTSP to the devices of a site. Wrong passwords of all protocols are
-/// counted together, and lock the account of a device with Fault::AccountLocked (LoginGuard). Thread-safe.
+/// Checks the logins of SOAP requests, by token or HTTP Digest, and of RTSP requests to the devices of a
+/// site. Only a device with Fault::AccountLocked locks accounts: after FaultSetting::number wrong passwords
+/// in a row, over these protocols together, the account is refused permanently, even with the right password.
+/// Requests below /cgi-bin/ are checked and counted elsewhere (HttpAuthentication). Thread-safe.
 class DeviceLogins
 {
 public:
@@ -36,15 +38,18 @@ public:
                                      std::int64_t utc);
 
     /// Checks the value of the header "Authorization" (may be empty) of a request of that HTTP or RTSP
-    /// method. No password is checked for another scheme than Digest, an algorithm that the device does not
-    /// offer (`manner`), and a nonce that is not valid: the client may try again with a new challenge. `now`
-    /// is the time on the site's clock, in ms since 1970.
+    /// method. No password is checked for another scheme than Digest, for MD5 or SHA-256 if challenges() does
+    /// not offer it, and for a nonce that is not valid: the client may try again with a new challenge. Any
+    /// other algorithm counts as a wrong password if MD5 is offered. `now` is the time on the site's clock,
+    /// in ms since 1970.
     [[nodiscard]] LoginOutcome check(const sdk::demo::SceneDevice &device, const DeviceManner &manner,
                                      const QByteArray &authorization, const QByteArray &method,
                                      std::int64_t now);
 
     /// The values of the headers "WWW-Authenticate" of a challenge: one for each digest algorithm that the
-    /// device offers, with the same nonce. `isStale` is LoginOutcome::isStale. `now` is as for check().
+    /// device offers, with the same nonce. These are the algorithms of `manner`, and SHA-256 also with
+    /// Fault::Sha256Last. SHA-256 is first; with that fault it is last. `isStale` is LoginOutcome::isStale.
+    /// `now` is as for check().
     [[nodiscard]] QByteArrayList challenges(const sdk::demo::SceneDevice &device, const DeviceManner &manner,
                                             bool isStale, std::int64_t now) const;
 

@@ -37,8 +37,9 @@ struct DeviceManner
     bool changesAddressAtReboot = false;      ///< changed addresses apply when a reboot is requested
 };
 
-/// The manner of the device's type, so that a site has different makes. `login` and `digest` replace its
-/// login methods and algorithms, unless they are ByDevice.
+/// The manner of the device's type, so that a site has different makes; a device with
+/// InitialisationBits::NotReported is older and lacks the second media service. `login` and `digest` replace
+/// its login methods and algorithms, unless they are ByDevice.
 [[nodiscard]] DeviceManner mannerOf(const sdk::demo::SceneDevice &device, LoginChoice login,
                                     DigestChoice digest);
 

@@ -18,10 +18,10 @@ namespace site {
 class DeviceInterface;
 class Poller;
 
-/// Responds to Probe and Resolve messages with the latency and the faults of the device, and adds them to the
-/// site's log as "Discovery". A device of another segment ignores messages to the multicast groups and
-/// responds only to those to its own address. To be created, used and destroyed on one thread, which must not
-/// be the poller's; messages are handled on the poller's thread.
+/// Responds to the Probe and Resolve messages that apply to the device, with its latency and its faults, and
+/// adds these messages to the site's log as "Discovery". A device of another segment ignores messages to the
+/// multicast groups and responds only to those to its own address. To be created, used and destroyed on one
+/// thread, which must not be the poller's; messages are handled on the poller's thread.
 class DiscoveryPort
 {
 public:

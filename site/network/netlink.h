@@ -38,8 +38,8 @@ public:
     void endNested(std::size_t nested);
 
     /// Sends the request to the kernel in the network namespace of the calling thread, and waits for the
-    /// response. Returns 0, or the error number: that of the kernel, EMSGSIZE for a request that is too
-    /// large, or EPROTO for an unexpected response.
+    /// response. Returns 0, or the error number: that of the kernel or the socket, EMSGSIZE for a request
+    /// that is too large, or EPROTO for an unexpected response.
     [[nodiscard]] int send();
 
 private:

@@ -14,7 +14,8 @@ ServiceResult setNetworkInterfaces(ServiceCall &call);
 
 ServiceResult getNetworkDefaultGateway(ServiceCall &call);
 
-/// As setNetworkInterfaces(). With DHCP, the gateway is not changed and the call succeeds.
+/// Changes the IPv4 gateway, or stores it as setNetworkInterfaces(); the response requests no reboot. With
+/// DHCP, the gateway is not changed and the call succeeds.
 ServiceResult setNetworkDefaultGateway(ServiceCall &call);
 
 /// HTTP, HTTPS (if it is enabled) and RTSP with their ports.

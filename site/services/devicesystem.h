@@ -6,7 +6,9 @@
 
 namespace site {
 
-/// Schedules a reboot in 2 s, after the response, and applies an address that was stored for it.
+/// Schedules a reboot 2 s after the request. Applies at once, before the reboot, the IPv4 settings that
+/// setNetworkInterfaces() or setNetworkDefaultGateway() have stored (DeviceManner::changesAddressAtReboot).
+/// Returns a fault, and applies nothing, if the device refuses the reboot.
 ServiceResult systemReboot(ServiceCall &call);
 
 /// Resets the device by resetToFactory(), which keeps its addresses: its settings at once, and the reboot
@@ -14,7 +16,7 @@ ServiceResult systemReboot(ServiceCall &call);
 ServiceResult setSystemFactoryDefault(ServiceCall &call);
 
 /// Responds with the URL of FirmwareUploads::begin(), to which the client sends the file. A fault while an
-/// upgrade is written.
+/// upgrade is written, and for a device with Fault::UpgradeBusy.
 ServiceResult startFirmwareUpgrade(ServiceCall &call);
 
 } // namespace site

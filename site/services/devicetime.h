@@ -17,7 +17,8 @@ ServiceResult getSystemDateAndTime(ServiceCall &call);
 /// only with the type "Manual" and a time in the request; otherwise it is kept.
 ServiceResult setSystemDateAndTime(ServiceCall &call);
 ServiceResult getNtp(ServiceCall &call);
-/// Stores the server, unless it comes from DHCP. The clock of the device is not changed.
+/// Stores whether the server comes from DHCP, and the server of the request otherwise. The clock of the
+/// device is not changed.
 ServiceResult setNtp(ServiceCall &call);
 
 } // namespace site

@@ -28,7 +28,8 @@ enum class UserLevel
 /// of the scene and for an unknown user.
 [[nodiscard]] UserLevel userLevelOf(const sdk::demo::SceneDevice &device, const QString &user);
 
-/// Stores the level of a user in the serviceState() of `device`.
+/// Stores the level of a user, which must not be Anonymous, in the serviceState() of `device`, until the
+/// device is reset. The caller has `device` from ServiceCall::change().
 void setUserLevel(sdk::demo::SceneDevice &device, const QString &user, UserLevel level);
 
 } // namespace site
