@@ -33,8 +33,9 @@ static_assert(sizeof(DeviceRequestOutput) == 4);
 
 /// Given to NetModifyDeviceBySearch: the device's information from its search response, with these changes.
 /// `address`, `subnetMask`, `gateway` and `dhcpEnabled` are the new ones (the first three have no effect with
-/// DHCP); `currentAddress` is the present address; `account` and `password` are those of an account that may
-/// change it.
+/// DHCP; depending on the implementation, an empty `subnetMask` or `gateway` keeps the present one);
+/// `currentAddress` is the present address; `account` and `password` are those of an account that may change
+/// it.
 struct ModifyDeviceInput
 {
     std::uint32_t size; ///< sizeof(ModifyDeviceInput)

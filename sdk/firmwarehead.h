@@ -37,8 +37,8 @@ struct FirmwareHeadReading
 };
 
 /// Reads the head at the start of `bytes`, the content of a file. The first longestFirmwareHead bytes of the
-/// file are sufficient. Up to 64 models of up to 32 characters, and a version of up to 63 characters that
-/// starts with at least two numbers separated by dots, are valid. A head:
+/// file are sufficient. Up to 64 models of up to 32 characters (letters, digits and "-/.+"), and a version of
+/// up to 63 characters that starts with at least two numbers separated by dots, are valid. A head:
 ///
 ///     BRELM-FIRMWARE 1
 ///     model=B-2230-IR,B-2231-IR

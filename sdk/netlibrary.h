@@ -132,7 +132,7 @@ public:
                            std::int32_t unused1, void *unused2, LoginDeviceInformation &device,
                            std::int32_t &error) = 0;
 
-    /// The same with the newer kind of login, which reports other error codes for a wrong password and an
+    /// The same with the newer kind of login, which may report other error codes for a wrong password and an
     /// account with a session (neterror.h).
     virtual LLONG NetLoginSecure(const LoginSecureInput &input, LoginSecureOutput &output) = 0;
 

@@ -27,7 +27,7 @@ struct LoginOutcome
 /// Checks the logins of SOAP requests, by token or HTTP Digest, and of RTSP requests to the devices of a
 /// site. Only a device with Fault::AccountLocked locks accounts: after FaultSetting::number wrong passwords
 /// in a row, over these protocols together, the account is refused permanently, even with the right password.
-/// Requests below /cgi-bin/ are checked and counted elsewhere (HttpAuthentication). Thread-safe.
+/// Requests below /cgi-bin/ are checked by HttpAuthentication instead, and lock nothing. Thread-safe.
 class DeviceLogins
 {
 public:

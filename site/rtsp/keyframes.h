@@ -16,8 +16,8 @@ namespace site {
 class KeyFrames
 {
 public:
-    /// Requests that the next frame of the stream is a key frame. If no StreamFeeder feeds the stream, it has
-    /// no effect.
+    /// Requests that the next frame of the stream is a key frame. A StreamFeeder that waits for a client
+    /// starts to feed the stream then. Without a StreamFeeder of the stream, the request has no effect.
     void request(const QString &mac, const MediaStream &stream);
 
     /// The number of requests for the stream since this object was created.
