@@ -60,8 +60,9 @@ public:
 
     /// Checks the credentials of a request over `route`, runs its command, applies the HTTP faults of the
     /// device to the response, and adds the request to the site's log as "HTTP". Returns the response:
-    /// Unauthorized with a challenge for invalid credentials, BadGateway if nothing listens at the address
-    /// and port. Its status is None if the device is silent.
+    /// Unauthorized with a challenge for invalid credentials, MethodNotAllowed for a method other than GET
+    /// and POST, BadGateway if nothing listens at the address and port, BadRequest or NotImplemented for an
+    /// address that the proxy does not support. Its status is None if the device is silent.
     [[nodiscard]] HttpResponse respond(const HttpRoute &route, const HttpRequest &request) const;
 
     /// Decides about a request "CONNECT" to the proxy and adds it to the site's log as "HTTP". A tunnel leads

@@ -19,9 +19,10 @@ public:
     /// than H.264, H.265 and MJPEG, which no decoder port supports, and when memory is exhausted.
     [[nodiscard]] static std::unique_ptr<FrameFormat> of(const AVCodecParameters &track);
 
-    /// To be called with every frame: takes its size and parameter sets. `frame` is complete, and followed by
-    /// AV_INPUT_BUFFER_PADDING_SIZE zeros. Returns true for a key frame, if its size and all parameter sets
-    /// that a decoder needs are known from this frame, earlier ones or the description.
+    /// To be called with every frame: takes the size and the parameter sets of key frames. `frame` is
+    /// complete, and followed by AV_INPUT_BUFFER_PADDING_SIZE zeros. Returns true for a key frame, if its
+    /// size and all parameter sets that a decoder needs are known from this frame, earlier ones or the
+    /// description.
     [[nodiscard]] bool examine(std::span<const std::uint8_t> frame);
 
     /// The parameters of the track for a container: with the size of its frames in pixels, and with their
