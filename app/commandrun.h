@@ -1,16 +1,18 @@
-// Commands without a window.
+// Commands without a window, such as "ConfigTools search".
 #pragma once
 
 #include <QStringList>
 
-/// Whether the first argument after the name of the application is not an option, so that runCommand() needs
-/// no display. Also true for a word that is no command. `arguments` are those of the process.
+/// Whether the start is that of a command, without a display: there is an argument after the name of the
+/// application, and the first one does not start with "-". Also true for an unknown command. `arguments` are
+/// those of the process.
 [[nodiscard]] bool isCommand(const QStringList &arguments);
 
 /// Runs the command in the arguments of the process (isCommand() is true) with the libraries, the stores and
-/// the settings of the application. Returns its commandline::ExitCode. Also runs "help", and reports an
-/// unknown command. Texts are in English, for scripts. Requires a QCoreApplication. Main thread; runs the
-/// event loop.
+/// the settings of the application, and with the standard streams. Returns the exit code of the process: 0
+/// all done, 1 some devices failed, 2 unknown command or invalid arguments, 3 the work could not start. Also
+/// runs "help". Texts are in English, for scripts. Requires a QCoreApplication. Main thread; blocks, and runs
+/// the event loop.
 [[nodiscard]] int runCommand(const QStringList &arguments);
 
 /// The text with the list of commands, in English. `program` is the name of the executable file.

@@ -8,17 +8,18 @@
 
 class QDBusError;
 
-/// The colour scheme that the portal service of a D-Bus reports, and its changes. The constructor sends the
-/// request and does not wait: there is no preference until the service has responded, and without a service.
-/// Main thread only.
+/// The preference of the desktop for light or dark windows, from the portal service of a D-Bus. The
+/// constructor sends the request and does not wait: the preference is unknown until the service has
+/// responded, and remains unknown without a service. Later changes are received. Main thread only.
 class DesktopPortal : public QObject
 {
     Q_OBJECT
 public:
-    /// `bus` may be disconnected; there is no preference then.
+    /// `bus` is the session bus of the user. If it is disconnected, the preference remains unknown.
     explicit DesktopPortal(const QDBusConnection &bus, QObject *parent = nullptr);
 
-    /// Whether dark windows are preferred; nullopt without a known preference.
+    /// True: dark windows are preferred; false: light ones. nullopt: unknown, or the desktop has no
+    /// preference.
     [[nodiscard]] std::optional<bool> prefersDark() const { return m_prefersDark; }
 
 Q_SIGNALS:

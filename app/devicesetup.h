@@ -15,28 +15,30 @@
 #include <memory>
 #include <optional>
 
-/// The objects with which the window and the commands work with devices: the libraries, the stores of
-/// certificates and accounts, the rows, and the back ends, which are registered with CDeviceFactory. The
-/// factory must be deleted before this object. Main thread.
+/// The objects with which the window and the commands work with devices: the device libraries, the stores of
+/// certificates and accounts, the device list, and the back ends (the implementations of the operations, by
+/// device family), which are registered with CDeviceFactory. The process-wide factory must be deleted before
+/// this object. Main thread.
 ///
-/// The libraries are those of a simulated site, or the closed libraries of "devicelibraries.txt", or without
-/// that file the open ones. For a simulated site, certificates and accounts are in memory only.
+/// The libraries are those of a simulated site; otherwise the closed libraries that the file
+/// "devicelibraries.txt" lists; without that file the open ones, which have no port agent for devices behind
+/// NAT. For a simulated site, certificates and accounts are in memory only.
 class DeviceSetup
 {
 public:
     struct Options
     {
         bool isDemo = false;   ///< work on a simulated site
-        QString scene;         ///< of the site, see sdk::demo::DemoSite::open()
+        QString scene;         ///< its devices: name of a built-in scene, "fleet:N", or path of a scene file
         QString programFolder; ///< contains "devicelibraries.txt", if there are closed libraries
-        QString storeFolder;   ///< of "certificates.json" and "accounts.json"
+        QString storeFolder;   ///< of "certificates.json" and "accounts.json"; not used with a site
     };
 
     /// The reason why the libraries cannot be used.
     struct Problem
     {
-        bool isSite = false; ///< true: `text` is about the simulated site and in English
-        QString text;        ///< otherwise in the user's language
+        bool isSite = false; ///< true: the simulated site; false: the closed libraries
+        QString text;        ///< the reason; in English for the site, otherwise in the user's language
     };
 
     /// Opens nothing yet.
@@ -46,25 +48,27 @@ public:
     /// on success. After a problem, only the destructor may be called.
     [[nodiscard]] std::optional<Problem> open();
 
-    /// Sets the certificate handler of `transport`, and on a simulated site its proxy, through which all
-    /// requests reach simulated devices only. This object must outlive the requests.
+    /// Prepares the transport of commands over HTTP: sets its certificate handler, and on a simulated site
+    /// its proxy, so that no request reaches a real device. This object must outlive the requests.
     void prepare(HttpTransport &transport) const;
 
-    /// Registers the back ends with the factory; called before the factory is first used. `searchSettings` is
-    /// called on the main thread at each start of a search.
+    /// Registers the back ends of all families with the factory; called before the factory is first used.
+    /// `searchSettings` is called on the main thread at each start of a search. `upgradeLimits` are the
+    /// number of parallel upgrades and their timeouts.
     void registerBackEnds(const std::function<SearchSettings()> &searchSettings,
                           const UpgradeLimits &upgradeLimits) const;
 
-    // The objects that open() has created; empty before.
+    // The objects that open() has created; null before.
 
-    /// The libraries. A library that is not available is null.
+    /// The device libraries. A library that is not available is null.
     [[nodiscard]] const sdk::SdkLibraries &libraries() const { return m_libraries; }
     [[nodiscard]] const std::shared_ptr<CertificateStore> &certificates() const { return m_certificates; }
     [[nodiscard]] const std::shared_ptr<AccountStore> &accounts() const { return m_accounts; }
     [[nodiscard]] const std::shared_ptr<BatchEngine> &batchEngine() const { return m_batchEngine; }
     [[nodiscard]] const std::shared_ptr<DeviceStore> &deviceStore() const { return m_deviceStore; }
 
-    /// The account of most devices of the simulated site; nullopt without a site or an account.
+    /// The account that most devices of the simulated site have; nullopt without a site, and if none of its
+    /// devices has an account.
     [[nodiscard]] const std::optional<DeviceAccount> &siteAccount() const { return m_siteAccount; }
 
 private:
@@ -75,7 +79,7 @@ private:
     std::shared_ptr<CertificateStore> m_certificates; ///< outlives the libraries, which call it
     std::shared_ptr<AccountStore> m_accounts;
     sdk::SdkLibraries m_libraries;
-    QString m_proxy; ///< of the simulated site
+    QString m_proxy; ///< URL of the HTTP proxy of the simulated site; empty without a site
     std::optional<DeviceAccount> m_siteAccount;
     std::shared_ptr<BatchEngine> m_batchEngine;
     std::shared_ptr<DeviceStore> m_deviceStore;

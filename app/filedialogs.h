@@ -8,9 +8,9 @@ class QFileDialog;
 
 /// The desktop's dialogs for files and folders, for QML. The functions that open a dialog do not block: the
 /// function `chosen` is called later with the local path of the choice (a string). It is not called if the
-/// dialog is cancelled. There is one dialog at a time: while it is open, further calls have no effect. A
-/// dialog starts in the last folder of the previous one, the first dialog in the user's home folder. Main
-/// thread only.
+/// dialog is cancelled. A dialog blocks the input of all windows of the application. There is one dialog at a
+/// time: while it is open, further calls have no effect, and their `chosen` is never called. A dialog starts
+/// in the last folder of the previous one, the first dialog in the user's home folder. Main thread only.
 class FileDialogs : public QObject
 {
     Q_OBJECT

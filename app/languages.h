@@ -6,8 +6,8 @@
 
 #include <array>
 
-/// Language codes in the order of the language menu, which uses their indexes. Translation files and the
-/// settings use the codes, so their unusual spellings must not change.
+/// Language codes in the order of the language menu, which uses their indexes. The codes are the names of
+/// translation files and values in the settings, so their unusual spellings must not change.
 inline constexpr std::array languageCodes = {
     QLatin1StringView("zh_CN"), QLatin1StringView("en_US"), QLatin1StringView("ro_RO"),
     QLatin1StringView("JP_US"), QLatin1StringView("de_DE"), QLatin1StringView("es_ES"),
@@ -16,7 +16,7 @@ inline constexpr std::array languageCodes = {
     QLatin1StringView("gl_GL"), QLatin1StringView("ca_CA"),
 };
 
-/// The code of the language of a first start on a system with the given language; "en_US" for languages
-/// without a code. Galician and Catalan systems start in English: these languages are only available by the
-/// user's choice.
+/// The language code for the first start on a system with the given language; "en_US" for languages without a
+/// code. Galician and Catalan systems start in English: these languages are only available by the user's
+/// choice. Whether there is a translation file is not checked.
 [[nodiscard]] QString languageCodeFor(QLocale::Language systemLanguage);

@@ -15,12 +15,13 @@ class QSharedMemory;
 /// Settings are not cached: each getter reads the file, each setter writes it before it returns. A missing
 /// key reads as an empty string or 0, unless the getter states another default. Setters do not check their
 /// values. A failed write leaves the file unchanged and logs a warning; a caller detects it by reading the
-/// value. Main thread only.
+/// value. Changes are not signalled. Main thread only.
 class CLocalConfig : public QObject
 {
     Q_OBJECT
 public:
-    /// The process-wide object for the ApplicationFolders, created by the first call.
+    /// The process-wide object, created by the first call for the application's own folder, and for the
+    /// folder of the user's settings.
     static CLocalConfig *getinstance();
 
     /// Deletes the process-wide object. The next getinstance() creates another one.
@@ -40,7 +41,8 @@ public:
     /// Stores the language of the next start. The current language does not change.
     Q_INVOKABLE void setLanguage(const QString &lang);
 
-    // Search settings. The range of addresses consists of two dotted IPv4 addresses.
+    // Search settings, which the next search uses. The range of addresses consists of its first and its last
+    // address, as dotted IPv4 addresses.
     Q_INVOKABLE [[nodiscard]] QString getSearchConfigStartIP() const;
     Q_INVOKABLE void setSearchConfigStartIP(const QString &address);
     Q_INVOKABLE [[nodiscard]] QString getSearchConfigEndIP() const;
@@ -51,32 +53,34 @@ public:
     /// Password of the default account. The file contains it as plain text.
     Q_INVOKABLE [[nodiscard]] QString getSearchConfigPass() const;
     Q_INVOKABLE void setSearchConfigPass(const QString &pass);
-    /// 1 if a search includes the local segment, otherwise 0.
+    /// 1 if a search includes the networks of this host, 0 if not.
     Q_INVOKABLE [[nodiscard]] int getSearchConfigLocalDomain() const;
     Q_INVOKABLE void setSearchConfigLocalDomain(int check);
-    /// 1 if a search includes the range of addresses, otherwise 0.
+    /// 1 if a search includes the range of addresses, 0 if not.
     Q_INVOKABLE [[nodiscard]] int getSearchConfigOtherDomain() const;
     Q_INVOKABLE void setSearchConfigOtherDomain(int check);
 
     /// Whether a search logs in to the devices that it finds; false by default.
     Q_INVOKABLE [[nodiscard]] bool searchLogsIn() const;
     Q_INVOKABLE void setSearchLogsIn(bool logsIn);
-    /// The colours of the windows: "light", "dark", or "desktop" (default).
+    /// The colours of the windows: "light", "dark", or "desktop" (as the desktop; default).
     [[nodiscard]] QString colourScheme() const;
     /// Stores a value of colourScheme(). Any other value is stored, too, and reads as "desktop".
     void setColourScheme(const QString &scheme);
     /// Releases the single-instance lock, starts a process of the application with the same arguments, and
     /// ends the event loop of this process. This process ends also if the other one cannot be started.
     Q_INVOKABLE void reboot();
-    /// As reboot(), with the argument "--demo" alone: the other process runs on the demo site "office".
+    /// As reboot(), with the argument "--demo" alone: the other process runs on the simulated devices of the
+    /// scene "office".
     Q_INVOKABLE void openDemoSite();
-    Q_INVOKABLE [[nodiscard]] QString getVersion() const; ///< Product::version
+    /// Version number, and date and time of the build: "V1.2.5.1.20260306_133556".
+    Q_INVOKABLE [[nodiscard]] QString getVersion() const;
     /// The display name of the application object: the name of the executable, unless another one was set.
     Q_INVOKABLE [[nodiscard]] QString getSoftwareName() const;
-    Q_INVOKABLE [[nodiscard]] QString getLogoSoftwareName() const; ///< Product::logoName
+    Q_INVOKABLE [[nodiscard]] QString getLogoSoftwareName() const; ///< name of the product, next to its logo
     // The two functions below open a PDF document of the folder "documents" with the default application of
-    // the system: the document in the current language, or the English one if there is none. They emit
-    // documentRequested() before they return.
+    // the system: the document in the current language (setCurrentLanguage()), or the English one if there is
+    // none. They emit documentRequested() before they return.
     Q_INVOKABLE void OpenHelpFile();                      ///< the manual
     Q_INVOKABLE void OpenQAFile();                        ///< questions and answers
     Q_INVOKABLE [[nodiscard]] QString getAppPath() const; ///< `directory` of the constructor
@@ -86,30 +90,30 @@ public:
     Q_INVOKABLE [[nodiscard]] QPoint cursorPos() const; ///< of the mouse, in screen coordinates
 
     /// Maximum number of devices that a batch processes at the same time: 1 to 32, or 8 if the setting is
-    /// missing or invalid. The user sets it in the file.
+    /// missing or invalid. There is no setter: the user edits the file ("atOnce" in the group "batchConfig").
     [[nodiscard]] int parallelDevices() const;
 
     /// Maximum number of upgrades at the same time: 1 to 16, or 4 if the setting is missing or invalid.
     Q_INVOKABLE [[nodiscard]] int parallelUpgrades() const;
     Q_INVOKABLE void setParallelUpgrades(int count);
 
-    /// Sets the language code of the documents until the application ends. It is not stored.
+    /// Sets the language code of the help documents until the application ends. It is not stored.
     void setCurrentLanguage(const QString &code);
-    /// Whether there is a translation file for a language code in `directory`.
+    /// Whether there is a translation file for this language code now. Its contents are not checked.
     [[nodiscard]] bool hasTranslation(const QString &code) const;
     /// The path of the settings file.
     [[nodiscard]] QString settingsPath() const { return m_settingsPath; }
     /// Paths of the translation files that existed at the start, in the order of languageCodes.
     [[nodiscard]] QStringList languageFiles() const { return m_languageFiles; }
 
-    /// Acquires the single-instance lock until reboot(), openDemoSite() or the destructor. Does not wait.
-    /// Returns false if another process of the application holds the lock. The lock of a killed process is
-    /// taken over.
+    /// Acquires the single-instance lock, so that a second window of the application on this host is
+    /// detected. It is held until reboot(), openDemoSite() or the destructor. Does not wait. Returns false if
+    /// another process of the application holds the lock. The lock of a killed process is taken over.
     [[nodiscard]] bool acquireInstanceLock();
 
 Q_SIGNALS:
-    /// The system was requested to open a document. `path` has the separators of the system. `isAccepted` is
-    /// false if the file is missing or the system has refused the request.
+    /// OpenHelpFile() or OpenQAFile() was called. `path` is the path of the document with the separators of
+    /// the system. `isAccepted` is false if the file is missing or the system has refused to open it.
     void documentRequested(const QString &path, bool isAccepted);
 
 private:

@@ -3,6 +3,7 @@
 #include <QDialog>
 
 /// A message box for errors before QML is loaded: modal and frameless, with a title, a text and one button.
+/// The colours are those of widgetStyle(), the style sheet of the application. Requires the QApplication.
 class OMessageBox : public QDialog
 {
     Q_OBJECT
