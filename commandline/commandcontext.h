@@ -16,28 +16,30 @@
 
 namespace commandline {
 
-/// The objects that the application provides. They must outlive the command.
+/// The objects that the application provides. They must outlive the command. The functions are called on the
+/// main thread, each time the number is needed.
 struct Surroundings
 {
-    CDeviceFactory &factory;
-    BatchEngine &engine;
-    CgiSurroundings cgi;                   ///< its folder is not used: "--output" replaces it
+    CDeviceFactory &factory;               ///< access to the device list and to the operations on devices
+    BatchEngine &engine;                   ///< worker threads of the batches
+    CgiSurroundings cgi;                   ///< for HTTP commands; its folder is not used, see "--output"
     std::function<int()> parallelDevices;  ///< returns the maximum number of devices at the same time
     std::function<int()> parallelUpgrades; ///< returns the maximum number of upgrades at the same time
 
-    /// The account of a simulated site, for commands without a password. nullopt without a site.
+    /// The account of most devices of a simulated site, for commands without a password. nullopt without a
+    /// site.
     std::optional<DeviceAccount> siteAccount = {};
 };
 
-/// The running command. Main thread.
+/// The objects of the running command. They outlive this value. Main thread.
 struct CommandContext
 {
-    const Arguments &arguments;
+    const Arguments &arguments; ///< without an error; the values of options are not checked yet
     Terminal &terminal;
     const Surroundings &surroundings;
-    CDeviceFactory &factory;
-    Batches &batches;
-    RecordFormat format = RecordFormat::Table;
+    CDeviceFactory &factory;                   ///< that of `surroundings`
+    Batches &batches;                          ///< starts the batches of the command and owns them
+    RecordFormat format = RecordFormat::Table; ///< of "--format"
 
     /// Writes an error text in English to standard error and returns `exitCode`.
     [[nodiscard]] int fail(ExitCode exitCode, const QString &text) const

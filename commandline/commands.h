@@ -1,4 +1,4 @@
-// The commands of the command line.
+// The commands of the command line: their table, their help, and the start of a command.
 #pragma once
 
 #include "commandline/commandcontext.h"
@@ -18,8 +18,8 @@ namespace commandline {
 [[nodiscard]] QString helpOf(const Command &command, const QString &program);
 
 /// Runs a command to its end and returns its ExitCode. `arguments` have no error; an invalid value gives
-/// UsageError. Returns SomeFailed if results could not be written completely. Main thread; runs the event
-/// loop.
+/// UsageError. Returns SomeFailed instead if results could not be written completely. The arguments, the
+/// terminal and the surroundings must outlive the call. Main thread; blocks, and runs the event loop.
 [[nodiscard]] int run(const Command &command, const Arguments &arguments, Terminal &terminal,
                       const Surroundings &surroundings);
 

@@ -1,4 +1,4 @@
-// The request of the user to end a command.
+// The request of the user to end a command, by a signal of the system.
 #pragma once
 
 #include <functional>
@@ -10,18 +10,19 @@ namespace commandline {
 
 /// While this object exists, the first SIGINT or SIGTERM does not end the process but calls a function in the
 /// event loop of the main thread, so that the command can end at a safe point. A second signal of the same
-/// kind ends the process. One object at a time. Main thread. Has no effect on Windows.
+/// kind ends the process; the first signal of the other kind then has no effect. One object at a time. Main
+/// thread. Has no effect on Windows.
 class Interruption
 {
 public:
-    /// `requested` is called once, after the first signal.
+    /// `requested` is called at most once, after the first signal, when the event loop runs.
     explicit Interruption(std::function<void()> requested);
     ~Interruption(); ///< from then on, each signal ends the process
     Interruption(const Interruption &) = delete;
     Interruption &operator=(const Interruption &) = delete;
 
-    /// Whether a signal was received, also if the event loop has not processed it yet. In that case the
-    /// function is no longer called for it.
+    /// Whether a signal was received, also if the event loop has not processed it yet.
+    /// In that case `requested` is no longer called for it.
     [[nodiscard]] bool isRequested();
 
 private:

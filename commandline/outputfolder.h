@@ -12,7 +12,7 @@ struct OutputFolder
 };
 
 /// The folder of "--output"; the working directory without that option. A missing folder is created, except
-/// with "--dry-run".
+/// with "--dry-run". If that fails, the path is empty and the error is set.
 [[nodiscard]] OutputFolder outputFolder(const CommandContext &context);
 
 } // namespace commandline

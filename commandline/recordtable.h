@@ -13,21 +13,21 @@ namespace commandline {
 enum class RecordFormat
 {
     Table, ///< aligned columns for a terminal; control characters become spaces, bool is "yes" or "no"
-    Json,  ///< an array with an object for each record
+    Json,  ///< an array with an object for each record; numbers and bool keep their types
     Csv,   ///< RFC 4180; bool is "true" or "false"
 };
 
 /// The format with the name "table", "json" or "csv"; nullopt for another name.
 [[nodiscard]] std::optional<RecordFormat> recordFormat(QStringView name);
 
-/// Records with the same columns. Values are texts, numbers and bool.
+/// Records with the same columns. Values are texts, numbers, bool, or invalid for an empty value.
 class RecordTable
 {
 public:
-    /// `columns` are the keys in JSON and the headings of the other formats.
+    /// `columns` are the keys in JSON and the headings of the other formats; a table has them in capitals.
     explicit RecordTable(QStringList columns) : m_columns(std::move(columns)) {}
 
-    /// Adds a record; `values` are parallel to the columns.
+    /// Adds a record at the end; `values` are in the order of the columns.
     void add(const QVariantList &values) { m_records.append(values); }
 
     /// Whether there are no records.

@@ -1,4 +1,4 @@
-// The password of a command.
+// The password of a command: for logins, or for the account that the command creates.
 #pragma once
 
 #include "commandline/arguments.h"
@@ -16,13 +16,14 @@ struct Secret
 enum class SecretPurpose
 {
     Login,
-    NewAccount, ///< the prompt asks twice; different answers are an error
+    NewAccount, ///< the prompt asks twice; different inputs are an error
 };
 
-/// Reads the password: with "--password-file" the first line of that file (up to 1,024 bytes), otherwise the
-/// environment variable CONFIGTOOLS_PASSWORD, and if that is empty the answer to a prompt. An unreadable file
-/// and an empty password are errors; no other source is tried then. A password is never an argument: all
-/// users of the host can read the arguments of a process. The prompt blocks.
+/// Reads the password from the first source that exists: with "--password-file" the first line of that file
+/// (UTF-8, up to 1,024 bytes), otherwise the environment variable CONFIGTOOLS_PASSWORD if it is not empty,
+/// otherwise a prompt on the terminal. An unreadable file, an empty first line or input, and a process
+/// without a terminal are errors. A password is never an argument: all users of the host can read the
+/// arguments of a process. The prompt blocks.
 [[nodiscard]] Secret readPassword(const Arguments &arguments, const Terminal &terminal,
                                   SecretPurpose purpose);
 

@@ -16,10 +16,12 @@ namespace commandline {
 class Terminal
 {
 public:
-    /// Reads a line from the terminal without showing it. Nullopt if there is no terminal or its input ends.
+    /// Shows the prompt and reads a line from the terminal without showing it. nullopt if there is no
+    /// terminal or its input ends.
     using SecretReader = std::function<std::optional<QString>(const QString &prompt)>;
 
-    /// Uses the streams of the process. Secrets can be read on Unix only.
+    /// Uses the streams of the process. Secrets are read from the terminal of the process (/dev/tty), also if
+    /// standard input is redirected; on Unix only.
     Terminal();
 
     /// Uses other streams, which must be open and outlive this object. `readSecret` may be empty.
@@ -32,17 +34,19 @@ public:
     /// Sets whether progress is suppressed. Errors are always written.
     void setQuiet(bool quiet) { m_isQuiet = quiet; }
 
-    /// Writes bytes to standard output, unchanged. A failure sets hasLostResults().
+    /// Writes bytes to standard output, unchanged. After a failure hasLostResults() is true.
     void writeResult(const QByteArray &bytes);
 
     /// Whether a result could not be written, for example because the disk is full.
     [[nodiscard]] bool hasLostResults() const { return m_hasLostResults; }
 
-    // These functions write a line to standard error and add its line break. Failures are ignored.
-    void writeProgress(const QString &line); ///< writes nothing if quiet
+    // These functions write a line to standard error, in the encoding of the system, and add its line break.
+    // Failures are ignored. Texts of devices must be converted by terminalText() before.
+    void writeProgress(const QString &line); ///< writes nothing if progress is suppressed
     void writeError(const QString &line);
 
-    /// Shows the prompt and reads a secret as SecretReader. Blocks. nullopt without a reader.
+    /// Shows the prompt and reads a secret with the SecretReader. Blocks. nullopt as the reader, and without
+    /// one.
     [[nodiscard]] std::optional<QString> readSecret(const QString &prompt) const;
 
 private:

@@ -1,4 +1,4 @@
-// Small text files of commands.
+// Small text files that the user passes to commands, such as lists of devices.
 #pragma once
 
 #include <QList>
@@ -18,8 +18,8 @@ struct TextLines
     QString error;         ///< in English; empty on success
 };
 
-/// Reads the lines of a text file; the path "-" is standard input. A file that cannot be read, is larger than
-/// 4 MiB or is not UTF-8 gives an error and no lines. Blocks.
+/// Reads the lines of a text file; the path "-" is standard input, which can be read once only. A file that
+/// cannot be read, is larger than 4 MiB or is not UTF-8 gives an error and no lines. Blocks.
 [[nodiscard]] TextLines readTextLines(const QString &path);
 
 } // namespace commandline
