@@ -1,4 +1,4 @@
-// A real web server on a loopback port.
+// A real web server on a loopback port, for the measurement of HTTP commands.
 #pragma once
 
 #include <QProcess>
@@ -12,7 +12,8 @@ class ApacheServer
 {
 public:
     /// Starts the server with one account, and blocks until it accepts connections, up to 20 s. After an
-    /// error failure() has the reason. Requires an installed Apache and the permission for user namespaces.
+    /// error failure() has the reason and the other functions are useless. Requires an installed Apache and
+    /// the permission to create user namespaces.
     ApacheServer(const QString &user, const QString &password);
     ~ApacheServer(); ///< ends the server; blocks for up to 10 s
     ApacheServer(const ApacheServer &) = delete;
@@ -24,7 +25,8 @@ public:
     /// The complete URL of `path`, which starts with "/", such as "/digest/text".
     [[nodiscard]] QString url(const QString &path) const;
 
-    /// "status method URI" of each request that the server has answered, the oldest first.
+    /// "status method URI" of each request that the server has responded to, the oldest first. Includes
+    /// requests that were refused with status 401.
     [[nodiscard]] QStringList requests() const;
 
 private:

@@ -1,4 +1,4 @@
-// A port of the decoder that counts its frames.
+// A port of the decoder (the decoder of one stream) that counts its frames.
 #pragma once
 
 #include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
@@ -8,8 +8,9 @@
 #include <mutex>
 #include <span>
 
-/// Opens and plays a port of its own decoder library, with a buffer of 8 MiB. The destructor frees the port.
-/// push() and waitFor() are used on one thread.
+/// Opens and plays a port of its own decoder library, with a buffer of 8 MiB for bytes that are not decoded
+/// yet. The destructor frees the port. push() and waitFor() are used on one thread; frames are decoded on
+/// another one.
 class DecodingPort
 {
 public:
@@ -18,7 +19,7 @@ public:
     DecodingPort(const DecodingPort &) = delete;
     DecodingPort &operator=(const DecodingPort &) = delete;
 
-    /// Adds bytes of the stream. Blocks while the port's buffer is full.
+    /// Adds the next bytes of the stream, less than the buffer. Blocks while the port's buffer is full.
     void push(std::span<const std::uint8_t> bytes);
 
     /// Blocks until at least `frames` frames were decoded since the construction, up to two minutes. Returns

@@ -3,8 +3,8 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
-/// Measures the times between iterations of the event loop from start() to stop(), with a timer of 5 ms. Used
-/// once. Main thread only.
+/// Measures how long the event loop of the main thread is blocked, from start() to stop(): a timer of 5 ms
+/// expires late if work blocks the loop. Used once. Main thread only.
 class IterationWatch
 {
 public:
@@ -13,11 +13,12 @@ public:
     void start();
     void stop() { m_timer.stop(); }
 
-    /// The longest time between two iterations in milliseconds, at least about 5; 0 before the second one.
+    /// The longest time between two expirations of the timer in milliseconds, at least about 5; 0 before the
+    /// second one.
     [[nodiscard]] qint64 longest() const { return m_longest; }
 
 private:
     QTimer m_timer;
-    QElapsedTimer m_sinceIteration; ///< invalid before the first iteration
+    QElapsedTimer m_sinceIteration; ///< invalid before the first expiration
     qint64 m_longest = 0;
 };

@@ -1,4 +1,4 @@
-// A live stream whose frames display their numbers, and the times of these frames.
+// A live stream whose frames display their numbers, so that the delay of each frame can be measured.
 #pragma once
 
 #include "benchmarks/benchmarkresult.h"
@@ -9,7 +9,8 @@
 #include <functional>
 #include <vector>
 
-/// A minute of 1440p H.264 with 25 frames per second. Frame N (from 0) displays the number N. Immutable.
+/// A minute of 2560 x 1440 H.264 in Matroska with 25 frames per second. Frame N (from 0) displays the number
+/// N as black and white squares, one for each bit. Immutable.
 class NumberedStream
 {
 public:
@@ -22,7 +23,8 @@ public:
     /// Creates the stream with the program ffmpeg. Blocks for up to five minutes.
     NumberedStream();
 
-    /// False if the stream could not be created on this host.
+    /// False if the stream could not be created on this host, for example without ffmpeg. The other functions
+    /// must not be used then.
     [[nodiscard]] bool isValid() const { return m_chunks.size() >= frames; }
 
     /// The start of the copy `stream` (from 0) of `streams` copies if the first copy starts at `begin`. The
@@ -32,32 +34,34 @@ public:
         return begin + stream * keyPeriod / streams;
     }
 
-    /// Sends `streams` copies of the stream in real time: calls `send` on this thread with each chunk when it
-    /// is due, and with the number of its copy, from 0. Blocks until the end of the last copy.
+    /// Sends `streams` copies of the stream in real time; the first one starts at `begin`, see startOf().
+    /// Calls `send` on this thread with each chunk when it is due, and with the number of its copy, from 0. A
+    /// chunk is the header of the container, or one frame. Blocks until the end of the last copy.
     void send(int streams, Time begin,
               const std::function<void(int stream, const QByteArray &chunk)> &send) const;
 
-    /// The number that a decoded frame displays. `luma` is its plane Y, with 2,560 bytes per line.
+    /// The number that a decoded frame displays, from 0. `luma` is its plane Y, with 2,560 bytes per line.
     [[nodiscard]] static int numberOf(const std::uint8_t *luma);
 
 private:
     std::vector<QByteArray> m_chunks; ///< the header, then one for each frame
 };
 
-/// The times of the frames of one copy of the stream. Not thread-safe.
+/// Measures the delays and gaps of the displayed frames of one copy of the stream. Not thread-safe.
 class FrameTimes
 {
 public:
     using Time = NumberedStream::Time;
 
-    /// `begin` is the start of the stream, see NumberedStream::startOf().
+    /// `begin` is the start of this copy, see NumberedStream::startOf().
     explicit FrameTimes(Time begin) : m_begin(begin) {}
 
-    /// Notes that the frame with this number is displayed at the time `now`. Ignored if the number is that of
-    /// the last call.
+    /// Notes that the frame with this number is displayed (or decoded) at the time `now`. Ignored if the
+    /// number is that of the last call.
     void note(int number, Time now);
 
-    /// Notes the end of the stream, for longestGap. Called once, after the last note().
+    /// Notes the end of the stream, for longestGap. Called once, after the last note(); the results are
+    /// complete then.
     void end();
 
     // The results.
@@ -74,7 +78,9 @@ private:
     int m_number = -1;
 };
 
-/// The worst results of the copies of a stream, whose names start with `subject`. `skipped` is the number of
-/// frames of all copies that were not decoded.
+/// Five lines of the table, whose subjects start with `subject`: the worst lag after a minute, the worst lag
+/// and the longest gap of all copies, and the percentages of frames that were not decoded and not displayed.
+/// `times` has one element for each copy. `skipped` is the number of frames of all copies that were not
+/// decoded.
 [[nodiscard]] QList<BenchmarkResult> resultsOf(const QString &subject, const std::vector<FrameTimes> &times,
                                                double skipped);

@@ -1,4 +1,4 @@
-// A live stream for measurements.
+// A file with a live stream for measurements.
 #pragma once
 
 #include <QString>

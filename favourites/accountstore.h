@@ -13,20 +13,21 @@
 /// An account with its display name.
 struct StoredAccount
 {
-    QString name;
-    QString account;
-    QString password;
+    QString name;     ///< display name, unique in the store
+    QString account;  ///< user name for the login to a device
+    QString password; ///< not encrypted
 
     [[nodiscard]] bool operator==(const StoredAccount &) const = default;
 };
 
-/// Accounts in a JSON file of the user. Passwords are encrypted with a key that is part of the application
-/// (CAuthor::AesEncrypt()). The file is written completely or not at all. A device is identified by a string
-/// that does not depend on its address, such as its MAC, and has one account or none.
+/// Accounts in a JSON file of the user, and the assignment of accounts to devices. Passwords are encrypted in
+/// the file with a key that is part of the application (CAuthor::AesEncrypt()). The file is written
+/// completely or not at all. A device is identified by a string that does not depend on its address, such as
+/// its MAC, and has one account or none.
 ///
 /// If the file cannot be read or has one invalid entry, the store has no account, and problem() has the
-/// reason. The next successful change keeps that file with the ending ".damaged" and writes another one. No
-/// password reaches the log.
+/// reason. The next change that is written renames that file to the ending ".damaged" and writes another one.
+/// No password reaches the log.
 ///
 /// Thread-safe. Only the constructor and the changes (put(), remove(), assign(), keep()) wait for the disk. A
 /// change writes the file before it returns. It returns an empty string on success. Otherwise it changes
@@ -38,18 +39,18 @@ class AccountStore
 public:
     static constexpr qsizetype maximumAccounts = 500;
     static constexpr qsizetype maximumDevices = 50'000;
-    static constexpr qsizetype maximumText = 63;          ///< characters of a name, an account or a password
-    static constexpr qsizetype maximumIdentity = 80;      ///< characters of a device identity in the file
+    static constexpr qsizetype maximumText = 63;     ///< characters of a name, an account or a password
+    static constexpr qsizetype maximumIdentity = 80; ///< characters of a device identity; checked when read
     static constexpr qint64 maximumFileSize = 16'777'216; ///< bytes
 
-    /// Reads the file, which may be missing. Without a path, accounts are stored in memory only.
+    /// Reads the file, which may be missing. With an empty path, accounts are stored in memory only.
     explicit AccountStore(const QString &path);
 
     /// The reason why the file cannot be read, in the user's language. Empty otherwise, and after the next
-    /// successful change.
+    /// change that is written.
     [[nodiscard]] QString problem() const;
 
-    /// All accounts, sorted by name.
+    /// All accounts, sorted by name in the order of the user's locale.
     [[nodiscard]] QList<StoredAccount> accounts() const;
     /// The account with this name; nullopt if there is none.
     [[nodiscard]] std::optional<StoredAccount> account(const QString &name) const;
@@ -61,10 +62,10 @@ public:
     /// for a device without an account.
     [[nodiscard]] std::optional<StoredAccount> accountOf(const QStringList &identities) const;
 
-    /// Replaces the account with the name `before` by `account`, which may have another name. The devices of
-    /// `before` then have `account`. If there is no account `before`, or it is empty, `account` is added.
-    /// Fails if another account has the name of `account`, or if its name, user name or password is empty or
-    /// too long.
+    /// Adds or replaces an account. Replaces the account with the name `before` by `account`, which may have
+    /// another name; the devices of `before` then have `account`. If there is no account `before`, or
+    /// `before` is empty, `account` is added. Fails if another account has the name of `account`, or if its
+    /// name, user name or password is empty or longer than maximumText.
     [[nodiscard]] QString put(const QString &before, const StoredAccount &account);
 
     /// Removes an account; its devices then have no account. Succeeds if there is no such account.
@@ -74,13 +75,14 @@ public:
     using Device = QStringList;
 
     /// Assigns the account of this name to the devices, in place of their earlier accounts. The assignment is
-    /// stored under the first identity of each device. An empty name removes the accounts of the devices.
-    /// Fails if there is no account of this name.
+    /// stored under the first identity of each device; a device without identities is ignored. An empty name
+    /// removes the accounts of the devices. Fails if there is no account of this name.
     [[nodiscard]] QString assign(const QList<Device> &devices, const QString &name);
 
     /// Assigns an account that may not be stored yet. If a stored account has this user name and password, it
-    /// is assigned. Otherwise the account is added; its name is the user name, with a number from 2 if
-    /// another account has that name. Fails if the user name or the password is empty or too long.
+    /// is assigned. Otherwise the account is added; its name is the user name (its first 57 characters), with
+    /// a number from 2 if another account has that name. Fails if the user name or the password is empty or
+    /// longer than maximumText.
     [[nodiscard]] QString keep(const QList<Device> &devices, const QString &account, const QString &password);
 
 private:

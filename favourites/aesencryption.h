@@ -3,7 +3,8 @@
 #include <QByteArray>
 #include <QObject>
 
-/// AES in the common modes of operation (FIPS-197, SP 800-38A) on byte arrays, by libcrypto.
+/// The cipher AES in the common modes of operation (FIPS-197, SP 800-38A) on byte arrays, by libcrypto. Used
+/// for the passwords that the application stores.
 ///
 /// An object is immutable and keeps no text and no key. Its operations may be called on any thread.
 class AESEncryption : public QObject
@@ -28,8 +29,9 @@ public:
     };
     Q_ENUM(Mode)
 
-    /// Bytes that extend a text to complete blocks. PKCS7 and ISO add a block to a text of complete blocks,
-    /// so that their padding can be removed unambiguously.
+    /// The bytes that extend a text to complete blocks. PKCS7 and ISO add a block to a text of complete
+    /// blocks, so that their padding can be removed unambiguously. ZERO cannot: zero bytes at the end of the
+    /// text are lost.
     enum Padding
     {
         ZERO = 0,  ///< zero bytes
@@ -45,10 +47,10 @@ public:
     /// Length in bytes of the keys of this object's level: 16, 24 or 32.
     [[nodiscard]] int keyLength() const;
 
-    /// The cipher text of `text` with its padding, which is added in every mode. `iv` is ignored in the mode
-    /// ECB. Empty when the length of `key` is not keyLength(), when `iv` is not one block long in another
-    /// mode than ECB, when the padded text has 2 GiB or more, or when libcrypto fails. Also empty for an
-    /// empty text with the padding ZERO.
+    /// The cipher text of `text` with its padding, which is added in every mode. `iv` is the initialisation
+    /// vector, which the mode ECB ignores. On failure empty: when the length of `key` is not keyLength(),
+    /// when `iv` is not one block long in another mode than ECB, when the padded text has 2 GiB or more, or
+    /// when libcrypto fails. Also empty for an empty text with the padding ZERO.
     [[nodiscard]] QByteArray encode(const QByteArray &text, const QByteArray &key,
                                     const QByteArray &iv = QByteArray()) const;
 

@@ -4,9 +4,9 @@
 #include <QVariantMap>
 #include <QtQml/qqmlregistration.h>
 
-/// Favourites: a folder with one JSON file for each saved device, with an encrypted password. The key is part
-/// of the application, so the encryption protects against casual reading, not against a user of the
-/// application.
+/// Favourites, the devices that the user has saved: a folder with one JSON file for each of them, with an
+/// encrypted password. Also has the encryption of stored passwords. Its key is part of the application, so it
+/// protects against casual reading, not against a user of the application.
 ///
 /// Paths may be "file:///" URLs. File errors are logged and not shown to the user; no password reaches the
 /// log. The object is stateless; operations access the disk on the caller's thread, which may be any.
@@ -15,12 +15,12 @@ class CAuthor : public QObject
     Q_OBJECT
     QML_ELEMENT
 public:
-    /// Bytes. Longer files are not favourites and are ignored.
+    /// In bytes. Longer files are not favourites and are ignored.
     static constexpr qint64 maximumFileSize = 1'048'576;
 
     explicit CAuthor(QObject *parent = nullptr);
 
-    /// The cipher text of `input`, in Base64.
+    /// The cipher text of a password, in Base64.
     Q_INVOKABLE [[nodiscard]] QString AesEncrypt(const QString &input) const;
 
     /// The plain text of a result of AesEncrypt(). For any other text the result is undefined, often empty.
@@ -31,8 +31,8 @@ public:
     /// missing. An existing file of the device is replaced. When the file cannot be written completely, the
     /// existing file is unchanged, and a warning is logged: the caller is not informed. An empty path writes
     /// nothing. `type` is "0" for a device at an address, "1" for a device behind NAT, whose `addr` is its
-    /// identifier. `password` is written as given, so the caller encrypts it. The file also contains the
-    /// current time and `inputPath`.
+    /// identifier. `password` is written as given: the caller passes the result of AesEncrypt(). The file
+    /// also contains the current time and `inputPath`.
     ///
     /// The file name consists of the address and the port. Characters that would lead out of the folder or
     /// hide the file from the list are written as "%" and two hexadecimal digits: the identifier of a device
@@ -41,9 +41,10 @@ public:
                                     const QString &port, const QString &username, const QString &password,
                                     const QString &note) const;
 
-    /// The favourites of a folder, by file name without the folder. Each value is a list of six strings:
-    /// type, address, port, user name, encrypted password and note. Missing values are empty. Only files
-    /// "*.json" with a JSON object are read; others are omitted. Empty also when the folder is missing.
+    /// The favourites of a folder, by file name without the folder. Each value is a list of six strings, the
+    /// parameters of saveTextAsJson(): type, address, port, user name, encrypted password and note. Missing
+    /// values are empty. Only files "*.json" with a JSON object are read; others are omitted. Empty also when
+    /// the folder is missing.
     Q_INVOKABLE [[nodiscard]] QVariantMap readJsonFilesFromFolder(const QString &folderPath) const;
 
     /// Deletes the file of a favourite. True when the file existed and is deleted.

@@ -1,4 +1,4 @@
-// New passwords for favourites.
+// New passwords for favourites, the saved devices.
 #pragma once
 
 #include <QList>
@@ -7,14 +7,14 @@
 /// A device that has accepted a new password.
 struct AcceptedPassword
 {
-    QString ipport; ///< "address:port" of its row
-    QString account;
-    QString password;
+    QString ipport;   ///< "address:port" of its row in the device list
+    QString account;  ///< user name
+    QString password; ///< not encrypted
 };
 
 /// Writes the accepted passwords to the favourites in `folder`: a favourite with the same address, port and
 /// account and another password gets the accepted one. Other favourites are not written. An empty password is
 /// ignored. Favourites of devices behind NAT are not changed, since the rows of these devices contain a local
-/// port. A file that cannot be written keeps its password, and the failure is logged. May run on any thread
-/// and waits for the disk.
+/// port. A file that cannot be written keeps its password, and the failure is logged. A missing folder is not
+/// an error. May run on any thread and waits for the disk.
 void renewFavouritePasswords(const QString &folder, const QList<AcceptedPassword> &accepted);

@@ -1,4 +1,5 @@
-// Inputs of the readers under test.
+// The inputs of a fuzzer, a program that passes random bytes to a reader of files or responses and detects
+// faults.
 #pragma once
 
 #include <QByteArray>
@@ -9,17 +10,20 @@
 #include <cstddef>
 #include <cstdint>
 
-/// Passes one input to a reader. Returns 0. A violated property ends the process.
+/// Passes one input to a reader; each program of this folder implements it for its reader. Called many times.
+/// The `size` bytes at `data` are valid during the call. Returns 0. A violated property of the result ends
+/// the process.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
 namespace fuzz {
 
+/// A copy of an input.
 inline QByteArray bytesOf(const std::uint8_t *data, std::size_t size)
 {
     return QByteArray(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
 }
 
-/// Disables logging. Readers would log a warning for nearly every input.
+/// Disables all log messages of the process. Readers would log a warning for nearly every input.
 inline void disableLogging()
 {
     [[maybe_unused]] static const bool done = [] {
@@ -33,6 +37,7 @@ inline void disableLogging()
 class InputFile
 {
 public:
+    /// Writes the file `name`. Ends the process if that fails.
     InputFile(const QString &name, const QByteArray &bytes) : m_path(m_folder.filePath(name))
     {
         QFile file(m_path);

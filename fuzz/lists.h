@@ -1,4 +1,4 @@
-// The properties of every device list that was read.
+// The properties that every device list has after it was read from a file, also from a damaged one.
 #pragma once
 
 #include "device/dh/lists/devicelistimport.h"
@@ -6,7 +6,9 @@
 
 namespace fuzz {
 
-/// Processes a list as far as possible without a device. Ends the process if the list violates a property.
+/// Processes a list as far as possible without a device: converts its lines to rows and back, and checks them
+/// as for an import. Ends the process if a refused list has lines, or if a text is longer than the readers
+/// keep.
 inline void useList(const DeviceListContents &contents)
 {
     if (!contents.refusal.isEmpty() && !contents.lines.empty())
