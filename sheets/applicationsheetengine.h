@@ -10,34 +10,39 @@ class QAxObject;
 
 namespace sheets {
 
-/// Drives the installed spreadsheet application through its automation interface. Every cell is a call to
-/// another process. To be used on a thread with an initialised automation interface, such as the main thread.
+/// The SheetEngine that drives the installed spreadsheet application of Windows through its automation
+/// interface. Every access to a cell is a call to another process. An operation that fails may have changed a
+/// part, such as the format of the cell. To be used on a thread with an initialised automation interface,
+/// such as the main thread.
 class ApplicationSheetEngine : public SheetEngine
 {
 public:
-    /// Starts the application without a window and without dialogs. After a failure isAvailable() is false.
+    /// Starts the application without a window and without dialogs. isAvailable() is false if there is none.
     ApplicationSheetEngine();
 
     /// Ends the application. Unsaved changes are lost.
     ~ApplicationSheetEngine() override;
 
-    /// Whether the application is started. False after a failed start, and from quit() until the next
-    /// createWorkbook() or open().
+    /// Whether the application is started. False if it could not be started, and from quit() until the next
+    /// createWorkbook() or open(), which start it again.
     [[nodiscard]] bool isAvailable() const;
+
+    // The operations are those of SheetEngine, with the differences stated here.
 
     bool createWorkbook() override;
     bool open(const QString &path) override;
     bool selectSheet(int index) override;
+    /// Cells with a format only count as used. An empty sheet has one row.
     [[nodiscard]] std::optional<UsedRows> usedRows() override;
     [[nodiscard]] std::optional<QString> cellText(CellPosition position) override;
     bool setCellText(CellPosition position, const QString &text) override;
     bool mergeCells(const CellRange &range) override;
-    /// Ignores `isText` of the change; setCellText() sets that format.
+    /// Ignores `isText` of the change: setCellText() sets the number format "text" of the cell.
     bool changeFormat(const CellRange &range, const FormatChange &change) override;
     bool setRowHeight(int row, double points) override;
     bool save() override;
     bool saveAs(const QString &path) override;
-    /// Also ends the application. The next createWorkbook() or open() starts it again.
+    /// Also ends the application.
     void quit() override;
 
 private:

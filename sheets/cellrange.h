@@ -43,6 +43,7 @@ struct CellRange
         return first.isInSheet() && last.isInSheet() && first.row <= last.row && first.column <= last.column;
     }
 
+    /// Whether the ranges have a cell in common.
     [[nodiscard]] bool overlaps(const CellRange &other) const
     {
         return first.row <= other.last.row && other.first.row <= last.row &&
@@ -55,18 +56,19 @@ struct CellRange
     }
 };
 
-/// The position as a reference: column letters, then the row's number. Both numbers of `position` are from 1.
+/// The position as a reference: column letters, then the row's number, such as "C7" for row 7 and column 3.
+/// Row and column are at least 1.
 [[nodiscard]] QString positionText(CellPosition position);
 
-/// The range as a reference: both corners with a colon between, or one position for a single cell.
+/// The range as a reference: both corners with a colon between ("C7:D9"), or one position for a single cell.
 [[nodiscard]] QString rangeText(const CellRange &range);
 
-/// The position of the reference `text`, with or without "$", in upper or lower case. Nothing for an invalid
+/// The position of the reference `text`, with or without "$", in upper or lower case. nullopt for an invalid
 /// reference and for one outside of a sheet.
 [[nodiscard]] std::optional<CellPosition> cellPosition(QStringView text);
 
 /// The range of the reference `text`: two opposite corners, in any order, with a colon between, or one
-/// position. In the result, `first` is the top left corner. Nothing for an invalid reference and for one
+/// position. In the result, `first` is the top left corner. nullopt for an invalid reference and for one
 /// outside of a sheet.
 [[nodiscard]] std::optional<CellRange> cellRange(QStringView text);
 

@@ -9,27 +9,34 @@ namespace sheets {
 class NewWorkbook;
 class Workbook;
 
-/// Works on the file format itself, without a spreadsheet application. A workbook from a file is changed in
-/// place: all other parts of the file stay identical, byte for byte.
+/// The SheetEngine that works on the file format itself, without a spreadsheet application. The file of a
+/// workbook is an archive of parts, such as one part for each sheet. When a workbook from a file is saved,
+/// only the changed parts are written again; all other parts stay identical, byte for byte. A failed save
+/// leaves the file unchanged.
 ///
 /// A new workbook that is filled row by row, in ascending order, takes constant memory. saveAs() then takes
 /// the memory of the file's bytes. The first other operation, such as reading a cell, writing to an earlier
 /// row, or any change after saveAs(), loads the workbook like one from a file. save() fails for a new
 /// workbook until saveAs() has succeeded.
 ///
-/// A file that exceeds a limit cannot be opened: 128 MiB and 10,000 parts for the file, 192 MiB of text and
-/// 1 GiB of memory as a document for one part.
+/// open() fails for a file of more than 128 MiB or more than 10,000 parts, or with a suspicious compression
+/// ratio. An operation fails if a part that it reads has more than 192 MiB of text, or would take more than 1
+/// GiB of memory as a document.
 class FileSheetEngine : public SheetEngine
 {
 public:
     FileSheetEngine();
     ~FileSheetEngine() override;
 
+    // The operations are those of SheetEngine, with the differences stated here.
+
     bool createWorkbook() override;
     bool open(const QString &path) override;
     bool selectSheet(int index) override;
+    /// Cells with a format only do not count as used. Both numbers are 0 for an empty sheet.
     [[nodiscard]] std::optional<UsedRows> usedRows() override;
     [[nodiscard]] std::optional<QString> cellText(CellPosition position) override;
+    /// Fails for the cell with the definition of a formula that other cells share.
     bool setCellText(CellPosition position, const QString &text) override;
     bool mergeCells(const CellRange &range) override;
 

@@ -4,7 +4,7 @@
 
 namespace sheets {
 
-/// A change of the format of cells; members without a value are not changed.
+/// A change of the format of cells. Members without a value leave that property of the format as it is.
 struct FormatChange
 {
     /// True for the number format "text" ("@"), which keeps "007" from becoming a number; false for the

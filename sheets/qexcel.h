@@ -11,11 +11,11 @@
 /// One workbook, which is created or opened, read, changed and saved. Rows, columns and sheets are numbered
 /// from 1. On Windows it uses the spreadsheet application if that is installed, otherwise the file itself.
 ///
-/// On failure, an operation returns false, nothing or -1. errorText() then has the reason, which is also
+/// On failure, an operation returns false, nullopt or -1. errorText() then has the reason, which is also
 /// logged as a warning. A failed createWorkbook() or open() leaves no workbook; any other failed operation
-/// changes nothing. Every operation except createWorkbook(), open() and quit() fails without a workbook, and
-/// for a cell outside of a sheet. Changes are in memory until save() or saveAs(); they are lost when the
-/// workbook is closed before.
+/// changes nothing, except that the spreadsheet application may have changed a format. Every operation except
+/// createWorkbook(), open() and quit() fails without a workbook, and for a cell outside of a sheet. Changes
+/// are in memory until save() or saveAs(); they are lost when the workbook is closed before.
 ///
 /// Not thread-safe; an object is used on the thread that created it. Operations block: opening and saving
 /// 10,000 rows takes about a second. A new workbook takes the least memory if its rows are filled in
@@ -23,11 +23,12 @@
 class QExcel
 {
 public:
-    /// Uses the engine of sheets::makeSheetEngine().
+    /// Uses the engine for this host, see above. The object has no workbook yet.
     QExcel();
+    /// Uses the given engine, which is not null. For tests.
     explicit QExcel(std::unique_ptr<sheets::SheetEngine> engine);
 
-    /// Calls quit().
+    /// Closes the workbook without saving.
     ~QExcel();
 
     QExcel(const QExcel &) = delete;
@@ -44,23 +45,25 @@ public:
     /// Selects the sheet of the following operations, from 1. On failure the selection is unchanged.
     bool selectSheet(int index);
 
-    /// The number of rows of the used range: from the first to the last non-empty row, without the empty rows
-    /// above. 0 for an empty sheet. For the spreadsheet application a cell with a format only is not empty,
-    /// and an empty sheet has one row. -1 on failure.
+    /// The number of rows of the used range of the selected sheet: from the first to the last non-empty row,
+    /// without the empty rows above, so that the last row is firstUsedRow() + usedRowCount() - 1. 0 for an
+    /// empty sheet. For the spreadsheet application a cell with a format only is not empty, and an empty
+    /// sheet has one row. -1 on failure.
     [[nodiscard]] int usedRowCount();
 
-    /// The first row of the used range; for an empty sheet 0, with the spreadsheet application 1. -1 on
-    /// failure.
+    /// The number of the first row of the used range; for an empty sheet 0, with the spreadsheet application
+    /// 1. -1 on failure.
     [[nodiscard]] int firstUsedRow();
 
-    /// The content of a cell as text: numbers with up to 15 digits, "TRUE" or "FALSE", a date as its day
-    /// number, the last result of a formula, an empty text for an empty cell. Nothing on failure.
+    /// The content of a cell as text: numbers with up to 15 digits, "TRUE" or "FALSE", a date as its number
+    /// of days since 1899-12-30, the stored result of a formula, an empty text for an empty cell. nullopt on
+    /// failure.
     [[nodiscard]] std::optional<QString> cellText(int row, int column);
 
     /// Replaces the content of a cell by a text, so that "007" is not converted to a number. The cell keeps
     /// its format except the number format; an empty text empties it. At most 32,767 characters; a control
-    /// character except line feed and tab counts as seven. Without the spreadsheet application, fails for a
-    /// cell whose formula is shared with other cells.
+    /// character except line feed and tab counts as seven. Without the spreadsheet application, fails for the
+    /// cell with the definition of a formula that other cells share.
     bool setCellText(int row, int column, const QString &text);
 
     /// Merges a range. The text of its first cell is kept, the other texts are removed. Fails when the range
@@ -76,18 +79,18 @@ public:
     /// Sets whether the font is bold.
     bool setBold(const sheets::CellRange &range, bool on);
 
-    /// Fails for a size that is not between 1 and 409 points.
+    /// Sets the size of the font. Fails for a size that is not between 1 and 409 points.
     bool setFontSize(const sheets::CellRange &range, double points);
 
-    /// Fails for a height that is not between 0 and 409 points; 0 hides the row.
+    /// Sets the height of a row. Fails for a height that is not between 0 and 409 points; 0 hides the row.
     bool setRowHeight(int row, double points);
 
     /// Writes the workbook to the file that it was opened from or last saved as. Fails for a new workbook
     /// before saveAs(). On failure the file is unchanged.
     bool save();
 
-    /// Writes the workbook to a file, which is replaced if it exists and is the file of later saves. On
-    /// failure the file is unchanged. Fails for an empty path.
+    /// Writes the workbook to a file. An existing file is replaced; its folder must exist. Later save() calls
+    /// use this file. On failure the file is unchanged. Fails for an empty path.
     bool saveAs(const QString &path);
 
     /// Closes the workbook, if there is one, without saving, and ends the spreadsheet application. The object

@@ -8,21 +8,21 @@
 
 namespace sheets {
 
-/// The rows from the first to the last used row of a sheet, see QExcel::usedRowCount(). For an empty sheet
-/// both numbers are 0; with the spreadsheet application both are 1.
+/// The rows from the first to the last used (non-empty) row of a sheet. For an empty sheet both numbers are
+/// 0; with the spreadsheet application both are 1.
 struct UsedRows
 {
     int first = 0; ///< number of the first used row, from 1
     int count = 0; ///< number of rows
 };
 
-/// The back end of QExcel, whose operations of the same names describe those without a comment here. An
-/// engine has one workbook at a time. The caller checks that positions and ranges are in a sheet, that texts
-/// and sizes are within the limits of QExcel, and that there is a workbook, except for createWorkbook(),
-/// open() and quit().
+/// The interface to the implementations of QExcel: one works on the file format, one drives a spreadsheet
+/// application. An engine has one workbook at a time, and one selected sheet in it. The caller (QExcel)
+/// checks that positions and ranges are in a sheet, that texts and sizes are within the limits of QExcel, and
+/// that there is a workbook, except for createWorkbook(), open() and quit().
 ///
-/// On failure an operation returns false or nothing, and errorText() has the reason. Not thread-safe; an
-/// object is used on the thread that created it.
+/// On failure an operation returns false or nullopt, and errorText() has the reason. Not thread-safe; an
+/// object is used on the thread that created it. Operations block.
 class SheetEngine : public LastError
 {
 public:
@@ -43,11 +43,16 @@ public:
     virtual bool selectSheet(int index) = 0;
     /// The used rows of the selected sheet.
     [[nodiscard]] virtual std::optional<UsedRows> usedRows() = 0;
+    /// The content of a cell as text, see QExcel::cellText(); empty for an empty cell.
     [[nodiscard]] virtual std::optional<QString> cellText(CellPosition position) = 0;
+    /// Replaces the content of a cell by a text, with the number format "text". An empty text empties the
+    /// cell.
     virtual bool setCellText(CellPosition position, const QString &text) = 0;
+    /// Merges the cells of a range, which has more than one cell. The text of its first cell is kept.
     virtual bool mergeCells(const CellRange &range) = 0;
     /// Changes the formats of all cells of the range, also of empty ones.
     virtual bool changeFormat(const CellRange &range, const FormatChange &change) = 0;
+    /// Sets the height of a row, 0 to 409 points.
     virtual bool setRowHeight(int row, double points) = 0;
 
     /// Writes the workbook to the file that it was opened from or last saved to. Fails if there is none.
@@ -57,8 +62,8 @@ public:
     /// this file from then on.
     virtual bool saveAs(const QString &path) = 0;
 
-    /// Closes the workbook, if there is one, without saving, and releases all other resources of the engine,
-    /// which can be used again.
+    /// Closes the workbook, if there is one, without saving, and releases all other resources of the engine.
+    /// The engine can be used again.
     virtual void quit() = 0;
 };
 

@@ -1,5 +1,5 @@
-// Template workbooks: a sheet to fill in, and a sheet with the explanations of its columns. Used by tools of
-// the build.
+// Template workbooks, which users fill in: a sheet with titles, and a sheet with the explanations of its
+// columns. Used by tools of the build.
 #pragma once
 
 #include <QList>
@@ -8,25 +8,27 @@
 
 #include <functional>
 
+/// The content of a template workbook, in one language.
 struct TemplateWorkbook
 {
+    /// A column of the sheet to fill in.
     struct Column
     {
-        QString title;
-        QString example; ///< in the row below the titles; may be empty
-        QString meaning;
+        QString title;    ///< in row 1
+        QString example;  ///< in row 2; may be empty
+        QString meaning;  ///< explanation in the other sheet
         double width = 0; ///< of the column in the sheet to fill in, in digits of the default font
     };
     QString sheet;            ///< name of the sheet to fill in
     QString explanationSheet; ///< name of the sheet with the titles and meanings of the columns
-    QString columnTitle;      ///< title of the column of titles in that sheet
-    QString meaningTitle;     ///< title of its column of meanings
-    QList<Column> columns;
-    QStringList remarks; ///< rows below the meanings
+    QString columnTitle;      ///< heading of the first column of that sheet, which has the titles
+    QString meaningTitle;     ///< heading of its second column, which has the meanings
+    QList<Column> columns;    ///< from left to right
+    QStringList remarks;      ///< texts below the meanings, one row each
 };
 
-/// Writes a template workbook. An existing file is replaced. False when the file cannot be written; an
-/// existing file may then be lost.
+/// Writes a template workbook as ".xlsx". An existing file is replaced. False when the file cannot be
+/// written; an existing file may then be lost.
 [[nodiscard]] bool writeTemplateWorkbook(const QString &path, const TemplateWorkbook &content);
 
 /// The file name and the content of a template, in the language of the installed translator.

@@ -1,4 +1,5 @@
-// Memory and depth of an XML document, for limits: the memory before it is parsed, the depth after that.
+// Memory and depth of an XML document, so that a small malicious file cannot exhaust the memory or the stack:
+// the memory is estimated before the text is parsed, the depth is checked after that.
 #pragma once
 
 #include <QByteArrayView>

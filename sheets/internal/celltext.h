@@ -6,10 +6,11 @@
 namespace sheets {
 
 /// The escaped text for the file: the carriage return and characters that XML cannot contain are written as
-/// "_xHHHH_". If the text itself contains such a sequence, the first underscore of the sequence is escaped.
+/// "_xHHHH_" (HHHH is the code in hexadecimal digits). If the text itself contains such a sequence, the first
+/// underscore of the sequence is escaped.
 [[nodiscard]] QString escapedCellText(const QString &text);
 
-/// The text of the escaped form `escaped`; the reverse of escapedCellText().
+/// The text of the escaped form `escaped`, as read from a file; the reverse of escapedCellText().
 [[nodiscard]] QString unescapedCellText(const QString &escaped);
 
 /// True for a text whose escaped form is short enough for a cell: up to 32,767 characters.

@@ -21,8 +21,9 @@ namespace sheets {
 /// the number of rows: the current row is in memory, and the rows before it are in temporary files of
 /// libxlsxwriter.
 ///
-/// Rows and cells are checked by the caller. An error of a temporary file is reported by build(). The
-/// temporary files are removed by build() and by the destructor. Cells cannot be read.
+/// Order of calls: create(), any number of the four writing operations, build(). The caller checks that rows
+/// and cells are in a sheet. An error of a temporary file is reported by build(). The temporary files are
+/// removed by build() and by the destructor. Cells cannot be read.
 class NewWorkbook : public LastError
 {
 public:
@@ -31,29 +32,31 @@ public:
     NewWorkbook &operator=(const NewWorkbook &) = delete;
     ~NewWorkbook();
 
-    /// Creates the temporary files, once, before any other operation. Fails when the system cannot create
-    /// them; the object is then useless.
+    /// Creates the temporary files, once, before any other operation. Returns false when the system cannot
+    /// create them; the object must not be used then.
     bool create();
 
     /// True when all cells of the range can still be written: they are in one row, which is the current row
-    /// or a later one, and build() has not been called. The four operations below are for such ranges only.
-    /// They make the range's row the current one, after which earlier rows cannot be written.
+    /// (first row 1) or a later one, and build() has not been called. The four operations below are for such
+    /// ranges only. They make the range's row the current one, after which earlier rows cannot be written.
     [[nodiscard]] bool accepts(const CellRange &range) const;
 
     /// Sets the text of a cell, with the number format "text".
     void setCellText(CellPosition position, const QString &text);
 
-    /// Merges a range. The text of its first cell is kept, the other texts are removed. Returns false when
-    /// the range overlaps a different merged range of its row; nothing is changed then.
+    /// Merges a range. The text of its first cell is kept, the other texts are removed. Returns true without
+    /// a change for a range that is merged already. Returns false when the range overlaps a different merged
+    /// range of its row; nothing is changed then.
     bool mergeCells(const CellRange &range);
     /// Changes the formats of all cells of the range, also of empty ones.
     void changeFormat(const CellRange &range, const FormatChange &change);
 
-    /// `points` is above 0.
+    /// Sets the height of a row; `points` is above 0.
     void setRowHeight(int row, double points);
 
     /// Sets `file` to the bytes of the workbook's file. The first call ends the writing of rows; further
-    /// calls give the same result. Fails when a temporary file could not be written completely.
+    /// calls give the same result. Returns false when a row or a temporary file could not be written
+    /// completely.
     bool build(QByteArray &file);
 
 private:

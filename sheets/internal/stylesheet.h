@@ -8,7 +8,8 @@
 
 namespace sheets {
 
-/// The cell formats of a workbook, which cells refer to by index, from 0.
+/// The cell formats of a workbook: a list in a part of the file, which cells refer to by index, from 0.
+/// Formats are added, never changed or removed.
 class StyleSheet : public LastError
 {
 public:
@@ -16,8 +17,8 @@ public:
     /// the workbook.
     [[nodiscard]] static QByteArray smallest(const QByteArray &nameSpace);
 
-    /// Reads the XML part `bytes`. Fails when it is damaged, or has no cell formats or no fonts; the object
-    /// must not be used then.
+    /// Reads the XML part `bytes`. Returns false when it is damaged, or has no cell formats or no fonts; the
+    /// object must not be used then.
     bool load(const QByteArray &bytes);
 
     /// The index of a cell format that is the format with the index `base`, with the change applied. Returns

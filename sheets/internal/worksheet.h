@@ -18,10 +18,10 @@ public:
     /// Reads the XML part `bytes`. On failure the object must not be used.
     bool load(const QByteArray &bytes);
 
-    /// As WorksheetRows::usedRows().
+    /// From the first to the last row with a value or a formula; both numbers are 0 if there is none.
     [[nodiscard]] UsedRows usedRows() const { return m_rows.usedRows(); }
-    /// The text of a cell as QExcel::cellText(); empty also for a missing cell. `strings` are those of the
-    /// workbook.
+    /// The content of a cell as text: a number with up to 15 digits, "TRUE" or "FALSE", the stored result of
+    /// a formula; empty for an empty or missing cell. `strings` are those of the workbook.
     [[nodiscard]] QString cellText(CellPosition position, const SharedStrings &strings) const;
 
     /// Writes a text into a cell, which keeps its format except the number format; an empty text empties the
@@ -40,7 +40,8 @@ public:
 
     /// Whether the document was changed since load().
     [[nodiscard]] bool isModified() const { return m_isModified; }
-    /// Whether a formula was replaced or removed since load().
+    /// Whether a formula was replaced or removed since load(), so that the workbook's list of formulas is
+    /// outdated.
     [[nodiscard]] bool hasLostFormulas() const { return m_hasLostFormulas; }
     /// The XML text with all changes.
     [[nodiscard]] QByteArray bytes();

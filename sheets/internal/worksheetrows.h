@@ -12,20 +12,22 @@
 
 namespace sheets {
 
-/// The rows and cells of a sheet's XML document, indexed by number, from 1. The document must outlive this
-/// object. In the document, a row or cell without a number follows the row or cell before it. Cells of rows
-/// with the same number count as one row. Of two cells at the same position, the first one is used.
+/// An index of the rows and cells of a sheet's XML document, by number, from 1. The document must outlive
+/// this object. Its rows and cells are only added by makeRow() and makeCell(), and not removed. In the
+/// document, a row or cell without a number follows the row or cell before it. Cells of rows with the same
+/// number count as one row. Of two cells at the same position, the first one is used.
 class WorksheetRows : public LastError
 {
 public:
-    /// Finds the rows of the element `data` ("sheetData"). Fails for a number outside of a sheet.
+    /// Finds the rows of the element `data` ("sheetData"). Returns false for a number outside of a sheet; the
+    /// object must not be used then.
     bool load(pugi::xml_node data);
 
     /// From the first to the last row with a value or a formula; both numbers are 0 if there is none. A cell
     /// with a format only does not count.
     [[nodiscard]] UsedRows usedRows() const;
 
-    /// The range from the first to the last row and column with cells, also those with a format only; nothing
+    /// The range from the first to the last row and column with cells, also those with a format only; nullopt
     /// for a sheet without cells.
     [[nodiscard]] std::optional<CellRange> usedRange() const;
 

@@ -1,4 +1,5 @@
-// Names in XML documents with any prefixes.
+// Names and texts in XML documents. Writers of workbooks use different namespace prefixes ("row" or "x:row"),
+// so that names are compared without them.
 #pragma once
 
 #include <QString>
@@ -10,7 +11,7 @@
 
 namespace sheets {
 
-/// The name without its prefix.
+/// The name without its prefix: "row" for "x:row".
 [[nodiscard]] std::string_view localName(std::string_view name);
 
 /// The first child element of that name with any prefix; a null node when there is none.
@@ -19,10 +20,10 @@ namespace sheets {
 /// The next sibling element of `node` with that name and any prefix; a null node when there is none.
 [[nodiscard]] pugi::xml_node nextNamed(pugi::xml_node node, std::string_view name);
 
-/// The name with the prefix of `relative`, for a sibling or child element of it.
+/// `name` with the prefix of the element `relative`, for a new sibling or child element of it.
 [[nodiscard]] std::string nameLike(pugi::xml_node relative, std::string_view name);
 
-/// The attribute of `node`, which is added when it is missing.
+/// The attribute of `node` with exactly this name, which is added when it is missing.
 [[nodiscard]] pugi::xml_attribute attributeOf(pugi::xml_node node, const char *name);
 
 /// The texts directly inside of a node, in their order, without those of its child elements. Empty for a null

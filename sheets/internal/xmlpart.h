@@ -8,8 +8,8 @@
 
 namespace sheets {
 
-/// A part of a workbook as an XML document. It is written exactly as it was read, except the changes and the
-/// encoding, which is UTF-8.
+/// A part of a workbook as an XML document that is changed and written again. All nodes are kept when it is
+/// written, also comments and white space between elements. The encoding is then UTF-8.
 class XmlPart : public LastError
 {
 public:

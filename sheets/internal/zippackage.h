@@ -26,11 +26,11 @@ public:
     /// must not be used before another load().
     bool load(const QByteArray &file);
 
-    /// Whether there is a part with this name, after the changes.
+    /// Whether there is a part with this name, after replace() and remove().
     [[nodiscard]] bool contains(const QString &name) const;
 
-    /// Sets `bytes` to the contents of a part, after the changes. Fails when the part is larger than 192 MiB,
-    /// damaged or missing; the value of `bytes` is then undefined.
+    /// Sets `bytes` to the contents of a part, after replace(). Fails when the part is missing or removed,
+    /// or, in the file, larger than 192 MiB or damaged; the value of `bytes` is then undefined.
     bool read(const QString &name, QByteArray &bytes);
 
     /// Replaces the contents of a part by `bytes`, or adds the part.
@@ -39,7 +39,8 @@ public:
     /// Removes a part, which may be missing.
     void remove(const QString &name);
 
-    /// Sets `file` to the bytes of a file with all changes. The package can be changed further.
+    /// Sets `file` to the bytes of a file with all changes; without changes, the bytes of load(). Fails when
+    /// the archive cannot be written in memory. The package can be changed further.
     bool build(QByteArray &file);
 
 private:
