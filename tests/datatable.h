@@ -1,4 +1,4 @@
-// Rows of test data whose types the compiler checks.
+// Rows of test data for the functions "..._data()" of Qt Test. The compiler checks the types of the values.
 #pragma once
 
 #include <QTest>
@@ -6,8 +6,8 @@
 
 #include <array>
 
-/// Adds the columns of a test's data. Returns a function that adds a row: its title and a value for each
-/// column.
+/// Adds the columns with these names and types to the data of a test. Returns a function that adds a row; its
+/// arguments are the title of the row and a value for each column.
 template<typename... Columns>
 auto dataTable(const std::array<const char *, sizeof...(Columns)> &names)
 {
@@ -18,7 +18,8 @@ auto dataTable(const std::array<const char *, sizeof...(Columns)> &names)
     };
 }
 
-/// The same for rows whose titles consist of their values.
+/// The same, but the returned function takes the values only: the title of a row consists of its values,
+/// separated by spaces.
 template<typename... Columns>
 auto namedTable(const std::array<const char *, sizeof...(Columns)> &names)
 {

@@ -1,12 +1,12 @@
-// Several values of an object in one comparison.
+// Several values of an object as one text, so that a test compares them at once.
 #pragma once
 
 #include <QJsonObject>
 #include <QStringList>
 #include <QVariantMap>
 
-/// The values of `keys` (separated by spaces) as text, separated by bars. Entries of a list are separated by
-/// commas.
+/// The values of `keys` (separated by spaces) as text, separated by "|", in the order of the keys. Entries of
+/// a list are separated by commas. A missing value is empty.
 inline QString valuesOf(const QVariantMap &object, const QString &keys)
 {
     QStringList texts;

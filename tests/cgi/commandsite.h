@@ -1,4 +1,4 @@
-// Devices for batches of commands, without a network.
+// Devices for batches of HTTP commands, without a network: the back end and the transport are test doubles.
 #pragma once
 
 #include "cgi/cgibatches.h"
@@ -8,16 +8,19 @@
 #include <QJsonObject>
 #include <QTemporaryDir>
 
-/// Rows by identity. A device accepts every password except "wrong".
+/// A back end whose device list a test sets. Login checks accept every password except "wrong". All members
+/// are used on the main thread, except checkLogin(), which the threads of a batch call.
 class CommandBackEnd : public CDeviceBase
 {
 public:
     CommandBackEnd() : CDeviceBase(nullptr) {}
 
-    QMap<QString, QVariantMap> rows;
-    QMap<QString, QVariantMap> accounts; ///< by identity; other devices have the default one
-    QStringList logins;                  ///< "account password", in order; readable while no command runs
+    QMap<QString, QVariantMap> rows;     ///< by identity; a row is a map by column
+    QMap<QString, QVariantMap> accounts; ///< by identity; other devices have "admin" with "secret1"
+    QStringList logins; ///< login checks as "account password", in order; read between batches
 
+    /// Adds the row of an initialised device. `identity` is also its MAC, `ipport` is "address:port",
+    /// `webPort` the port for HTTP commands.
     void add(const QString &identity, const QString &ipport, int webPort)
     {
         rows.insert(identity, {{QStringLiteral("mac"), identity},
@@ -70,8 +73,11 @@ private:
     std::mutex m_mutex;
 };
 
+/// Everything that a test of CgiBatches needs: add rows to `devices`, then start batches with `commands`.
+/// Main thread.
 struct CommandSite
 {
+    /// `maximumParallel` is the maximum number of devices that a batch processes at the same time.
     explicit CommandSite(int maximumParallel)
         : batches(
               factory, engine, [maximumParallel] { return maximumParallel; }, nullptr),
@@ -85,12 +91,13 @@ struct CommandSite
     CommandSite(const CommandSite &) = delete;
     CommandSite &operator=(const CommandSite &) = delete;
 
+    /// The column "result" of a row, which has the response or the error of its last command.
     [[nodiscard]] QString result(const QString &identity) const
     {
         return devices->rows.value(identity).value(QStringLiteral("result")).toString();
     }
 
-    QTemporaryDir folder;
+    QTemporaryDir folder; ///< for images and recordings in responses
     std::shared_ptr<CommandBackEnd> devices = std::make_shared<CommandBackEnd>();
     std::shared_ptr<RecordedTransport> transport = std::make_shared<RecordedTransport>();
     CDeviceFactory factory{{{QStringLiteral("dh"), [this] {

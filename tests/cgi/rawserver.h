@@ -1,4 +1,4 @@
-// A server on a loopback port that sends the bytes of a test, including invalid responses.
+// An HTTP server on a loopback port whose responses are bytes of a test, also invalid ones.
 #pragma once
 
 #include <QByteArray>
@@ -9,7 +9,8 @@
 #include <functional>
 #include <thread>
 
-/// A received request, and the functions to respond to it.
+/// A received request, and the functions to respond to it. Exists during a call of the handler, on the thread
+/// of the server.
 class RawExchange
 {
 public:
@@ -18,18 +19,20 @@ public:
     {
     }
 
-    /// The request's line and headers, and its body.
+    /// All bytes of the request: its first line, its headers and its body.
     [[nodiscard]] const QByteArray &request() const { return m_request; }
-    /// The number of the request, from 1 over the lifetime of the server.
+    /// The number of the request, counted from 1 over the lifetime of the server.
     [[nodiscard]] int number() const { return m_number; }
 
-    /// False when the client has disconnected or the server ends.
+    /// Sends bytes, which need not be a valid response; may be called several times. False when the client
+    /// has disconnected or the server ends.
     bool send(QByteArrayView bytes) const;
 
-    /// Sends a complete response with headers and body.
+    /// Sends a complete response. `status` is as in "200 OK". `headers` are complete lines that end with
+    /// CRLF; the headers Connection and Content-Length are added. Returns as send().
     bool respond(const QByteArray &status, const QByteArray &headers, const QByteArray &body) const;
 
-    /// Waits until the end of the server or of the client at most. False when one of them has ended.
+    /// Waits for that time, or until the client disconnects or the server ends. False in the latter cases.
     [[nodiscard]] bool pause(int milliseconds) const;
 
 private:
@@ -39,7 +42,8 @@ private:
     const std::atomic<bool> &m_ends;
 };
 
-/// Serves one connection after another, with one request in each, on a separate thread.
+/// Serves one connection after another, with one request in each, on a separate thread. The connection is
+/// closed when the handler returns.
 class RawServer
 {
 public:
@@ -51,16 +55,19 @@ public:
         EveryAddress, ///< of this host, such as 127.0.0.2
     };
 
+    /// Listens on a free port when the constructor returns. `handler` is called for each complete request, on
+    /// the thread of the server.
     explicit RawServer(Handler handler, Reach reach = Reach::OneAddress);
-    ~RawServer();
+    ~RawServer(); ///< waits for a running handler, whose functions return false from then on
     RawServer(const RawServer &) = delete;
     RawServer &operator=(const RawServer &) = delete;
 
     /// "127.0.0.1:port".
     [[nodiscard]] QString address() const;
+    /// The URL of `command`, a path that starts with "/".
     [[nodiscard]] QString url(const QString &command) const;
 
-    /// The requests received so far.
+    /// The complete requests received so far, in order. Any thread.
     [[nodiscard]] QList<QByteArray> requests() const;
 
 private:

@@ -1,4 +1,4 @@
-// A transport that responds from memory and records its requests, on any thread.
+// A transport for HTTP commands that responds from memory and records its requests.
 #pragma once
 
 #include "cgi/httptransport.h"
@@ -9,21 +9,26 @@
 #include <atomic>
 #include <mutex>
 
+/// An HttpTransport without a network. Every exchange (request and response) succeeds with status 200, unless
+/// its watch or its sink ends it. Requests may be sent on several threads in parallel. The public members are
+/// set before and read between requests.
 class RecordedTransport : public HttpTransport
 {
 public:
-    /// The response to each URL.
+    /// Returns the body of the response to a URL; called on the thread of the request, one call at a time.
+    /// "OK" by default.
     std::function<QByteArray(const QByteArray &url)> response = [](const QByteArray &) {
         return QByteArray("OK");
     };
-    // The records may be read while no command runs.
-    QStringList urls;        ///< of the commands, in order
-    QStringList credentials; ///< of each of them
-    QStringList
-        exchangeLimits; ///< of each exchange: milliseconds, lowest bytes per second, seconds below that
-    QByteArray headers = "Content-Type: text/plain\r\n";
-    std::unique_ptr<QSemaphore> gate; ///< admits an exchange for each of its resources; null for all
-    std::atomic<int> atGate = 0;      ///< exchanges that have reached it
+    // The records may be read while no request runs.
+    QStringList urls;        ///< of the requests, in order
+    QStringList credentials; ///< "user:password" of each of them, in the same order
+    /// The limits of each exchange as three numbers: its longest duration in milliseconds, a rate in bytes
+    /// per second, and the longest time below that rate in seconds.
+    QStringList exchangeLimits;
+    QByteArray headers = "Content-Type: text/plain\r\n"; ///< of every response
+    std::unique_ptr<QSemaphore> gate; ///< each of its resources admits one exchange; null: all are admitted
+    std::atomic<int> atGate = 0;      ///< number of exchanges that have reached the gate; any thread
 
     void setProxy(const QString &) override {}
     void setCertificateHandler(sdk::CertificateHandler, void *) override {}

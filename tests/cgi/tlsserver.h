@@ -1,4 +1,4 @@
-// A TLS server on a loopback port with a generated key, which records its requests.
+// An HTTPS server on a loopback port with a generated key, which records its requests.
 #pragma once
 
 #include "sdk/demo/http/encryption.h"
@@ -15,10 +15,12 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-/// Responds to each request of one connection after another with the same bytes, on a separate thread.
+/// Serves one connection after another on a separate thread. Reads one request of each connection, and
+/// responds with the same bytes.
 class TlsServer
 {
 public:
+    /// Listens on a free port when the constructor returns. `response` is a complete HTTP response.
     explicit TlsServer(QByteArray response) : m_response(std::move(response))
     {
         sockaddr_in address{};
@@ -40,16 +42,17 @@ public:
     TlsServer(const TlsServer &) = delete;
     TlsServer &operator=(const TlsServer &) = delete;
 
+    /// The port on 127.0.0.1.
     [[nodiscard]] int port() const { return m_port; }
 
-    /// Later connections get another key.
+    /// Later connections get another key, as from a device with a changed certificate. Any thread.
     void renewKey()
     {
         const std::scoped_lock lock(m_mutex);
         m_key = sdk::demo::DeviceKey::make("renewed");
     }
 
-    /// The requests received after a completed handshake.
+    /// The requests received after a completed TLS handshake, in order; at most 64 KiB of each. Any thread.
     [[nodiscard]] QList<QByteArray> requests() const
     {
         const std::scoped_lock lock(m_mutex);

@@ -1,4 +1,4 @@
-// A back end whose rows a test sets.
+// A back end without devices, whose device list a test sets.
 #pragma once
 
 #include "device/registry/devicebase.h"
@@ -11,12 +11,14 @@
 #include <algorithm>
 #include <utility>
 
+/// Has the device list only: other operations have the defaults of CDeviceBase. Main thread.
 class RowsBackEnd : public CDeviceBase
 {
     Q_OBJECT
 public:
     RowsBackEnd() : CDeviceBase(nullptr) {}
 
+    /// The IPv4 row at this "address:port"; empty if there is none.
     QVariantMap getDeviceInfo(const QString &ipport) override
     {
         const auto row = std::ranges::find_if(std::as_const(ipv4), [&ipport](const QVariant &candidate) {
@@ -35,6 +37,7 @@ public:
         return filteredRows(ipv6, filtertype, searchtext, RowFamily::IPv6);
     }
 
+    /// Adds the row of a device that has sent this search response, to the list of its IP version.
     void add(const ResponseTexts &texts)
     {
         const sdk::SearchResponse response = searchResponse(texts);
@@ -44,7 +47,7 @@ public:
             ipv6.append(ipv6Row(response));
     }
 
-    /// Sets the upgrade result of an IPv4 row.
+    /// Sets the upgrade result of the IPv4 row with this index, from 0.
     void setUpgrade(qsizetype index, UpgradeTools::Result result)
     {
         QJsonObject row = ipv4.at(index).toJsonObject();
@@ -52,12 +55,12 @@ public:
         ipv4[index] = row;
     }
 
-    std::function<void()> beforeReading; ///< called before the IPv4 rows are read
-    QVariantList ipv4;
-    QVariantList ipv6;
+    std::function<void()> beforeReading; ///< called by filterData() before it reads the rows; may be empty
+    QVariantList ipv4;                   ///< rows of the IPv4 list, JSON objects by column
+    QVariantList ipv6;                   ///< rows of the IPv6 list
 };
 
-/// A factory of one RowsBackEnd under the name "dh".
+/// A factory whose back end "dh" is a RowsBackEnd.
 struct RowsFactory
 {
     std::shared_ptr<RowsBackEnd> rows = std::make_shared<RowsBackEnd>();

@@ -1,4 +1,4 @@
-// Search responses for tests.
+// Responses of devices to a search, for tests.
 #pragma once
 
 #include "sdk/blocktext.h"
@@ -8,6 +8,7 @@
 
 #include <string>
 
+/// The values of a response that tests set; the others are constant.
 struct ResponseTexts
 {
     std::string address = "192.168.1.64";
@@ -15,11 +16,12 @@ struct ResponseTexts
     std::string type = "IPC";
     std::string name = "东门";
     sdk::InitialisationBits state = sdk::InitialisationBits::Initialised;
-    int ipVersion = 4;
+    int ipVersion = 4; ///< 4 or 6, that of `address`
     int port = 37777;
-    std::string uuid = {};
+    std::string uuid = {}; ///< empty: the device has none
 };
 
+/// The block that the network library delivers for a device with these values.
 inline sdk::SearchResponse searchResponse(const ResponseTexts &texts)
 {
     sdk::SearchResponse response{};
@@ -38,7 +40,7 @@ inline sdk::SearchResponse searchResponse(const ResponseTexts &texts)
     return response;
 }
 
-/// "02:1a:c5:00:00:2a" for 42.
+/// The MAC with this number in its last three bytes: "02:1a:c5:00:00:2a" for 42.
 inline std::string numberedMac(int number)
 {
     return QStringLiteral("02:1a:c5:%1:%2:%3")

@@ -9,10 +9,13 @@
 
 #include <memory>
 
-/// Base class of batch tests. A test opens the site in init() and closes it in cleanup().
+/// Base class of batch tests. A test opens the site in init() and closes it in cleanup(). The clock of the
+/// site advances by itself, see ConfigSite. Main thread.
 class BatchSite
 {
 protected:
+    /// Creates the site with the cameras 192.168.1.1 to 192.168.1.4 and searches for them. Batches process
+    /// two devices at the same time. The recorded requests are empty then.
     void open()
     {
         m_devices.clear();
@@ -28,6 +31,7 @@ protected:
         m_site->site->requests().clear();
     }
 
+    /// Stops running batches and destroys the site.
     void close()
     {
         m_site->net->passwordGate.reset();
@@ -36,11 +40,14 @@ protected:
         m_site.reset();
     }
 
+    /// The key of the row of a device (its MAC); `index` is from 0.
     [[nodiscard]] QString identityOf(int index) const { return m_devices.at(index).mac; }
+    /// New addresses for the four devices, in their order.
     static QStringList wantedAddresses()
     {
         return {"192.168.1.51", "192.168.1.52", "192.168.1.53", "192.168.1.54"};
     }
+    /// The MACs of the devices, in their order.
     [[nodiscard]] QStringList macs() const
     {
         QStringList macs;
@@ -48,12 +55,15 @@ protected:
             macs.append(device.mac);
         return macs;
     }
+    /// Searches for the devices. Returns false if the search does not end within 30 s.
     [[nodiscard]] bool search() const
     {
         QSignalSpy found(m_site->factory.get(), &CDeviceFactory::signalSearchDone);
         m_site->factory->startSearch("dh");
         return QTest::qWaitFor([&] { return !found.isEmpty(); }, 30000);
     }
+    /// The MACs of the devices that received requests of an operation of the network library, such as
+    /// "NetRebootDevice"; one for each request, the oldest first.
     [[nodiscard]] QStringList askedMacs(const QString &operation) const
     {
         QStringList asked;
@@ -62,7 +72,7 @@ protected:
         return asked;
     }
 
-    QList<sdk::demo::SceneDevice> m_devices;
+    QList<sdk::demo::SceneDevice> m_devices; ///< as they were created
     std::unique_ptr<ConfigSite> m_site;
     std::unique_ptr<Batches> m_batches;
 };

@@ -16,7 +16,8 @@
 
 #include <atomic>
 
-/// A device of kind `type` at 192.168.1.`number`, with one account.
+/// An initialised device of the type `type` ("IPC", "NVR") at 192.168.1.`number`, port 37777, with the
+/// account "admin" and the password "secret1". `number` also makes its MAC unique.
 inline sdk::demo::SceneDevice configDevice(int number, const QString &type, int channels)
 {
     sdk::demo::SceneDevice device;
@@ -30,21 +31,23 @@ inline sdk::demo::SceneDevice configDevice(int number, const QString &type, int 
     return device;
 }
 
+/// "address:port" of the device.
 inline QString ipportOf(const sdk::demo::SceneDevice &device)
 {
     return QStringLiteral("%1:%2").arg(device.address).arg(device.port);
 }
 
-/// The site's network library with faults: an item that is not read, failed writes, and a gate for password
-/// changes.
+/// The network library of the site with faults that a test sets in its public members: an item (a group of
+/// settings with a number) that cannot be read, failed writes, changed capabilities, and a gate that delays
+/// password changes. The members are set while no request runs.
 class SilentNetLibrary : public sdk::demo::DemoNetLibrary
 {
 public:
     using DemoNetLibrary::DemoNetLibrary;
 
-    int silentItem = 0;                       ///< 0 for none
-    std::unique_ptr<QSemaphore> passwordGate; ///< each resource admits one request; null: all pass
-    std::atomic<int> passwordsAtGate = 0;     ///< requests that have reached the gate
+    int silentItem = 0;                       ///< number of the item whose read times out; 0 for none
+    std::unique_ptr<QSemaphore> passwordGate; ///< each resource admits one password change; null: all pass
+    std::atomic<int> passwordsAtGate = 0;     ///< password changes that have reached the gate
 
     bool NetModifyPassword(std::int64_t loginHandle, const sdk::ModifyPasswordInput &input,
                            std::chrono::milliseconds wait) override
@@ -56,7 +59,7 @@ public:
     }
 
     std::function<void(sdk::EncodeCapabilities &)>
-        changeEncodeCapabilities; ///< called for every device; may be null
+        changeEncodeCapabilities; ///< changes the capabilities that any device reports; may be empty
 
     bool NetQueryCapabilities(std::int64_t loginHandle, sdk::CapabilityQuery query, const void *input,
                               void *output, std::chrono::milliseconds wait) override
@@ -68,9 +71,9 @@ public:
         return hasResponse;
     }
 
-    std::function<void()> beforeWriting; ///< called before an item is written; may be null
+    std::function<void()> beforeWriting; ///< called before an item is written; may be empty
     sdk::NetError writeError =
-        sdk::NetError::None; ///< reported for written items; None: the device's own error
+        sdk::NetError::None; ///< writes report this failure, although they reach the device; None: no fault
 
     bool NetSetItem(std::int64_t loginHandle, std::uint32_t item, std::int32_t channel, const void *block,
                     std::uint32_t blockSize, std::chrono::milliseconds wait) override
@@ -99,6 +102,9 @@ private:
     bool m_isSilent = false; ///< at the last read of an item
 };
 
+/// A simulated site with these devices, the factory and the back end "dh" on it. The default account is that
+/// of configDevice(). The clock of the site advances whenever a thread waits for it, unless stopTime() was
+/// called. Main thread.
 class ConfigSite
 {
 public:
@@ -120,11 +126,14 @@ public:
         factory->setDefaultAccount(QStringLiteral("dh"), QStringLiteral("admin"), QStringLiteral("secret1"));
     }
 
-    /// Stops the clock: waits for devices do not end until letTimePass().
+    /// Stops the clock: waits for devices do not end until letTimePass(), or until the test advances clock().
     void stopTime() { m_time.reset(); }
+    /// Lets the clock advance by itself again.
     void letTimePass() { m_time = std::make_unique<FlowingClock>(*m_clock); }
     [[nodiscard]] sdk::demo::SteppableClock &clock() const { return *m_clock; }
 
+    /// Logs in to the device for the current session, and clears the recorded requests. Returns the result, a
+    /// LoginResult. Blocks.
     int login(const sdk::demo::SceneDevice &device) const
     {
         const int result = factory->findAndLoginDevice(QStringLiteral("dh"), ipportOf(device),
@@ -133,11 +142,12 @@ public:
         return result;
     }
 
+    /// A value of the current session, by its key (EncodeKey, CameraKey).
     [[nodiscard]] QVariant get(const QString &key) const
     {
         return factory->getConfigData(QStringLiteral("dh"), key);
     }
-    /// The values of several keys, separated by bars.
+    /// The values of `keys` (separated by spaces) as text, separated by "|".
     [[nodiscard]] QString shown(const QString &keys) const
     {
         QVariantMap values;
@@ -145,12 +155,14 @@ public:
             values.insert(key, get(key));
         return valuesOf(values, keys);
     }
+    /// Sets a value of the current session. `subKey` is the name of the setting if `key` is a group of image
+    /// settings (CameraKey).
     void set(const QString &key, const QVariant &value, const QString &subKey = QString()) const
     {
         factory->setConfigData(QStringLiteral("dh"), key, value, subKey);
     }
 
-    /// The decoded requests of an operation, oldest first.
+    /// The recorded requests of an operation of the network library ("NetSetItem"), the oldest first.
     [[nodiscard]] QList<QJsonObject> asked(const QString &operation) const
     {
         QList<QJsonObject> requests;
@@ -159,7 +171,9 @@ public:
         return requests;
     }
 
-    /// "item/stream or mode@channel size wait" of the requests of an operation on items.
+    /// The requests of an operation on items as "item/stream@channel size wait" ("item/mode@..." for camera
+    /// items): numbers of the item, of its stream or mode and of the channel (from 0), bytes of the block,
+    /// timeout in milliseconds.
     [[nodiscard]] QStringList askedItems(const QString &operation) const
     {
         QStringList lines;

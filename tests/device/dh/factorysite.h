@@ -12,10 +12,13 @@
 #include <QSignalSpy>
 #include <QTest>
 
-/// Base class of tests. The site's clock advances whenever a thread waits for it.
+/// Base class of tests of the back end "dh". The clock of the site advances whenever a thread waits for it,
+/// so that timeouts take no real time. Main thread.
 class FactorySite
 {
 protected:
+    /// Creates a site with these devices, and a factory on it. An earlier site is closed. Nothing is searched
+    /// yet.
     void openSite(const QList<sdk::demo::SceneDevice> &devices)
     {
         sdk::demo::Scene scene;
@@ -25,6 +28,7 @@ protected:
         m_site = sdk::demo::DemoSite::create(scene, m_clock);
         makeFactory();
     }
+    /// The same with a built-in scene, such as "office".
     void openSite(const QString &sceneName)
     {
         closeSite();
@@ -39,6 +43,7 @@ protected:
         m_time.reset();
     }
 
+    /// Searches for devices and waits for the end. Fails the test after 20 s.
     void search() const
     {
         QSignalSpy done(m_factory.get(), &CDeviceFactory::signalSearchDone);
@@ -46,7 +51,7 @@ protected:
         QVERIFY(done.wait(20000));
     }
 
-    /// The row of a device; empty if it is not listed.
+    /// The IPv4 row of a device in the device list; empty if it is not listed.
     [[nodiscard]] QJsonObject row(const QString &mac) const
     {
         for (const QVariant &value : m_factory->filterData("dh", "nofilter")) {
@@ -55,6 +60,7 @@ protected:
         }
         return {};
     }
+    /// The number of recorded requests of an operation of the network library, such as "NetRebootDevice".
     [[nodiscard]] qsizetype asked(const char *operation) const
     {
         return m_site->requests().of(operation).size();
@@ -65,7 +71,7 @@ protected:
     std::shared_ptr<DeviceStore> m_store;
     std::unique_ptr<CDeviceFactory> m_factory;
     std::unique_ptr<FlowingClock> m_time;
-    AccountChoice::Stored m_storedAccounts; ///< used by the next site
+    AccountChoice::Stored m_storedAccounts; ///< of the next site: finds the stored account of a device
 
 private:
     void makeFactory()

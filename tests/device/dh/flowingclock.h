@@ -1,11 +1,12 @@
-// A stepped clock that advances by itself.
+// Lets a stepped clock, which otherwise stands still, advance by itself.
 #pragma once
 
 #include "sdk/demo/steppableclock.h"
 
 #include <thread>
 
-/// Advances a stepped clock on a separate thread whenever a thread waits for it.
+/// During its lifetime, advances a stepped clock by 50 ms on a separate thread whenever a thread waits for
+/// it: a timeout ends after a moment of real time. The clock must outlive this object.
 class FlowingClock
 {
 public:

@@ -10,10 +10,12 @@
 #include "sdk/ffmpeg/ffmpegdecoderlibrary.h"
 #include "tests/device/dh/scenedevices.h"
 
-/// Base class of tests. The application's factory accesses the site, in real time.
+/// Base class of tests. The process-wide factory works on the site, in real time, since video is decoded.
+/// Main thread.
 class ImageSite
 {
 protected:
+    /// Creates a site with these devices. Called before the factory is first used.
     void openSite(const QList<sdk::demo::SceneDevice> &devices)
     {
         sdk::demo::Scene scene;
@@ -27,6 +29,7 @@ protected:
             return std::make_shared<CDeviceDH>(store, libraries, [] { return SearchSettings(); });
         });
     }
+    /// Deletes the process-wide factory, then the site.
     void closeSite()
     {
         CDeviceFactory::deleteInstance();
@@ -36,5 +39,5 @@ protected:
     [[nodiscard]] static CDeviceFactory *factory() { return CDeviceFactory::getinstance(); }
 
     std::shared_ptr<sdk::demo::DemoSite> m_site;
-    std::shared_ptr<DeviceStore> m_store;
+    std::shared_ptr<DeviceStore> m_store; ///< the device list
 };

@@ -3,7 +3,8 @@
 
 #include "sdk/demo/scene/scene.h"
 
-/// An initialised device with the account "admin" and the password "secret1".
+/// An initialised device at `address`, port 37777, with the account "admin" and the password "secret1".
+/// `type` is the type that it reports. It responds after 20 ms.
 inline sdk::demo::SceneDevice sceneDevice(const QString &mac, const QString &address,
                                           const QString &type = QStringLiteral("IPC"))
 {

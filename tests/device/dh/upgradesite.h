@@ -18,10 +18,13 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-/// `count` cameras from 192.168.1.11 on, each with a row.
+/// A simulated site with `count` cameras at 192.168.1.11 and the following addresses, each with a row in the
+/// device list. Functions with an index mean the camera with this index, from 0. The clock stands still:
+/// passUntil() advances it. Main thread.
 class UpgradeSite
 {
 public:
+    /// `limits` are the number of parallel upgrades and their timeouts.
     explicit UpgradeSite(int count, const UpgradeLimits &limits = UpgradeLimits())
     {
         sdk::demo::Scene scene;
@@ -45,6 +48,7 @@ public:
 
     ~UpgradeSite() { endFactory(); }
 
+    /// Destroys the factory. The clock advances meanwhile, so that a running login ends.
     void endFactory()
     {
         schedule.reset();
@@ -60,7 +64,8 @@ public:
     [[nodiscard]] static QString address(int index) { return QStringLiteral("192.168.1.%1").arg(11 + index); }
     [[nodiscard]] static QString ipport(int index) { return address(index) + QStringLiteral(":37777"); }
 
-    /// Writes a firmware file and returns its path.
+    /// Writes a firmware file in `folder` and returns its path; empty on failure. By default it is valid for
+    /// the cameras, with the version 2.900.0.
     [[nodiscard]] QString file(const QByteArray &content = firmware,
                                const QString &name = QStringLiteral("firmware.bin")) const
     {
@@ -68,6 +73,7 @@ public:
         return writeFile(path, content) ? path : QString();
     }
 
+    /// The MACs of the cameras with these indexes.
     [[nodiscard]] static QStringList macs(const QList<int> &indexes)
     {
         QStringList macs;
@@ -76,14 +82,15 @@ public:
         return macs;
     }
 
-    /// Starts the upgrade of the devices with these indexes.
+    /// Starts the upgrades of the cameras with these indexes with the firmware file `path`. Does not wait.
     void start(const QList<int> &indexes, const QString &path) const
     {
         factory->backEnd(family)->setUpgradeFiles(macs(indexes), path);
         factory->startUpgrade(family, macs(indexes));
     }
 
-    /// Writes a workbook of these rows and returns its path.
+    /// Writes an upgrade document, a workbook with these rows below the titles, in `folder`. Returns its
+    /// path; empty on failure. The columns are address, port, user name, password, firmware file and result.
     [[nodiscard]] QString workbook(const QList<QStringList> &rows,
                                    const QString &name = QStringLiteral("upgrades.xlsx")) const
     {
@@ -101,7 +108,8 @@ public:
         return isWritten && excel.saveAs(path) ? path : QString();
     }
 
-    /// The results in the first `rows` rows of a workbook.
+    /// The results (column 6) of the first `rows` rows below the titles of a workbook; empty if it cannot be
+    /// opened.
     [[nodiscard]] static QStringList resultsOf(const QString &path, int rows)
     {
         QExcel excel;
@@ -112,15 +120,20 @@ public:
         return texts;
     }
 
+    /// A value of the row of a camera.
     [[nodiscard]] QJsonValue value(int index, QLatin1StringView key) const
     {
         return store->row(mac(index)).value(key);
     }
+    /// The result or state of the upgrade, an UpgradeTools::Result; -1 before the start; -99 if it is
+    /// missing.
     [[nodiscard]] int result(int index) const { return value(index, DeviceRowKey::upgraderes).toInt(-99); }
+    /// The result or state as text for the user.
     [[nodiscard]] QString text(int index) const { return value(index, DeviceRowKey::upgradetext).toString(); }
+    /// The progress of the upgrade in percent; -99 if it is missing.
     [[nodiscard]] int percent(int index) const { return value(index, DeviceRowKey::upgrade).toInt(-99); }
 
-    /// Advances the clock until `isThere` returns true. False after a minute.
+    /// Advances the clock in steps of 500 ms until `isThere` returns true. False after a minute of real time.
     template<typename Condition>
     [[nodiscard]] bool passUntil(const Condition &isThere) const
     {
@@ -134,6 +147,7 @@ public:
             },
             longest);
     }
+    /// Advances the clock until all upgrades have ended. False after a minute of real time.
     [[nodiscard]] bool passUntilEnd() const
     {
         return passUntil([this] { return !ends->isEmpty(); }) && !factory->hasDeviceUpgrading();
@@ -147,6 +161,6 @@ public:
     std::shared_ptr<sdk::demo::DemoSite> site;
     std::shared_ptr<DeviceStore> store = std::make_shared<DeviceStore>(clock);
     std::unique_ptr<CDeviceFactory> factory;
-    std::unique_ptr<QSignalSpy> schedule;
-    std::unique_ptr<QSignalSpy> ends;
+    std::unique_ptr<QSignalSpy> schedule; ///< CDeviceFactory::signalUpdateSchedule(): progress of upgrades
+    std::unique_ptr<QSignalSpy> ends;     ///< signalShowUpgradeFinishTip(): all started upgrades have ended
 };
