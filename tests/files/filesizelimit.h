@@ -4,7 +4,8 @@
 #include <csignal>
 #include <sys/resource.h>
 
-/// While the object exists, no file can grow beyond `bytes`: a write is truncated there, as on a full disk.
+/// While the object exists, this process cannot write beyond the first `bytes` bytes of any file: a write is
+/// truncated there, and the next one fails, as on a full disk.
 class FileSizeLimit
 {
 public:

@@ -1,4 +1,4 @@
-// A back end whose devices have the images of a test.
+// A back end whose devices deliver images of one colour, without a network.
 #pragma once
 
 #include "tests/device/rowsbackend.h"
@@ -10,21 +10,26 @@
 #include <condition_variable>
 #include <mutex>
 
+/// A back end with the device list of RowsBackEnd and steps that save images. The steps run on the threads of
+/// batches; the other functions are called on the main thread.
 class ImagesBackEnd : public RowsBackEnd
 {
     Q_OBJECT
 public:
+    /// The behaviour of a device.
     struct Device
     {
+        /// Names of its channels (video inputs); a channel with an empty name has no camera and no image.
         QStringList channels = {QStringLiteral("A")};
-        int channelCount = 1;
-        int result = 0;     ///< of the login
-        bool waits = false; ///< until release(), after its login
+        int channelCount = 1; ///< the number of channels that the device reports; may be larger
+        int result = 0;       ///< LoginResult of its login; other than 0: no image is saved
+        bool waits = false;   ///< its steps block until release() or a stop of the batch
     };
 
+    /// "address:port" of the device with this number, the last byte of its address.
     static QString ipportOf(int number) { return QStringLiteral("192.168.1.%1:37777").arg(number); }
 
-    /// Adds a row and its device.
+    /// Adds a device with the number `number`, and its row.
     void addDevice(int number, const QString &name, const Device &device)
     {
         add({.address = QStringLiteral("192.168.1.%1").arg(number).toStdString(),
@@ -33,29 +38,34 @@ public:
         const std::lock_guard lock(m_mutex);
         m_devices.insert(ipportOf(number), device);
     }
+    /// Replaces the behaviour of a device, for steps that start later.
     void change(int number, const Device &device)
     {
         const std::lock_guard lock(m_mutex);
         m_devices.insert(ipportOf(number), device);
     }
+    /// Ends the wait of all devices, also of later steps.
     void release()
     {
         const std::lock_guard lock(m_mutex);
         m_isReleased = true;
         m_changed.notify_all();
     }
-    /// The orders as "address only-channel", in the order of their execution.
+    /// The steps that were run, in the order of their start, as "address:port channel": the channel (from 0)
+    /// whose image was ordered, or -1 for all channels. Removes them.
     [[nodiscard]] QStringList takeOrders()
     {
         const std::lock_guard lock(m_mutex);
         return std::exchange(m_orders, {});
     }
+    /// The largest number of steps that were running at the same time.
     [[nodiscard]] int mostParallel()
     {
         const std::lock_guard lock(m_mutex);
         return m_mostParallel;
     }
 
+    /// The IPv4 row with this name (its key); empty if there is none.
     QJsonObject deviceRow(const QString &name) override
     {
         for (const QVariant &row : std::as_const(ipv4)) {
@@ -65,6 +75,7 @@ public:
         return {};
     }
 
+    /// A step that saves an image of 960 x 540 pixels as "<channel>.jpg" for each ordered channel.
     DeviceStep imageStep(const ImageOrder &order) override
     {
         return [this, order](const StepControl &control) {
@@ -123,7 +134,7 @@ private:
     bool m_isReleased = false;
 };
 
-/// A factory of one ImagesBackEnd under the name "dh".
+/// A factory whose back end "dh" is an ImagesBackEnd.
 struct ImagesFactory
 {
     std::shared_ptr<ImagesBackEnd> devices = std::make_shared<ImagesBackEnd>();
@@ -131,7 +142,7 @@ struct ImagesFactory
                                  return devices;
                              }}}};
 
-    /// The rows in the form of a page.
+    /// The IPv4 rows as maps by column, with the key "identity", as a table of QML has them.
     [[nodiscard]] QVariantList rows() const
     {
         QVariantList rows;

@@ -1,4 +1,4 @@
-// Libraries that record how they are called and deliver what a test gives them.
+// Device libraries without devices and decoder: they record their calls and deliver the data of a test.
 #pragma once
 
 #include "device/registry/devicebase.h"
@@ -20,7 +20,7 @@
 class LibraryCalls
 {
 public:
-    /// Returns true if the operation is to succeed.
+    /// Records a call. Returns true if the operation is to succeed.
     bool add(const QString &operation, const QString &arguments)
     {
         const std::lock_guard lock(m_mutex);
@@ -28,13 +28,14 @@ public:
         return !m_failing.contains(operation);
     }
 
-    /// From now on, only the operations of that name fail.
+    /// From now on, only the operations of that name fail; initially none does.
     void failOnly(const QString &operation)
     {
         const std::lock_guard lock(m_mutex);
         m_failing = {operation};
     }
 
+    /// Returns the calls since the last take(), and removes them.
     QStringList take()
     {
         const std::lock_guard lock(m_mutex);
@@ -47,11 +48,14 @@ private:
     QSet<QString> m_failing;
 };
 
+/// A decoder library with one port, which decodes nothing: deliver() passes decoded data to the user of the
+/// port.
 class FakeDecoder : public sdk::DecoderLibrary
 {
 public:
-    static constexpr std::int32_t firstPort = 3;
+    static constexpr std::int32_t firstPort = 3; ///< the number of the port
 
+    /// `calls` must outlive the object.
     explicit FakeDecoder(LibraryCalls &calls) : m_calls(calls) {}
 
     bool DecoderAllocPort(std::int32_t &port) override
@@ -120,7 +124,8 @@ public:
                frame;
     }
 
-    /// Calls the handler on the calling thread. Returns false if none is set.
+    /// Passes decoded data to the handler of the port, on the calling thread. Returns false if no handler is
+    /// set.
     bool deliver(const std::vector<std::uint8_t> &bytes, const sdk::DecodedFrameInformation &information)
     {
         const std::lock_guard lock(m_handlerMutex);
@@ -138,11 +143,13 @@ private:
     void *m_user = nullptr;
 };
 
+/// A network library with one live stream: deliver() passes its data to the user of the stream.
 class FakeNet : public QuietNetLibrary
 {
 public:
-    static constexpr std::int64_t stream = 77;
+    static constexpr std::int64_t stream = 77; ///< the handle of the stream
 
+    /// `calls` must outlive the object.
     explicit FakeNet(LibraryCalls &calls) : m_calls(calls) {}
 
     std::int64_t NetStartRealStream(std::int64_t loginHandle, std::int32_t channel, std::uintptr_t window,
@@ -173,9 +180,10 @@ public:
 
     [[nodiscard]] std::uint32_t NetGetLastError() const override { return lastError; }
 
-    std::atomic<std::uint32_t> lastError = 0;
+    std::atomic<std::uint32_t> lastError = 0; ///< the value of NetGetLastError()
     std::mutex mutexOfResponses; ///< while locked, the device does not respond to a request for a stream
 
+    /// Passes bytes of the stream to its handler, on the calling thread. Returns false if no handler is set.
     bool deliver(const QByteArray &bytes)
     {
         const std::lock_guard lock(m_handlerMutex);
@@ -185,6 +193,7 @@ public:
         return m_handler != nullptr;
     }
 
+    /// Reports the end of the stream to its handler, on the calling thread. A handler must be set.
     void endStream(sdk::StreamEndReason reason)
     {
         const std::lock_guard lock(m_handlerMutex);
@@ -198,7 +207,7 @@ private:
     void *m_user = nullptr;
 };
 
-/// A back end with a session of the handle `loginHandle`.
+/// A back end whose current session has the handle `loginHandle`; it has nothing else.
 class SessionBackEnd : public CDeviceBase
 {
     Q_OBJECT
@@ -212,7 +221,7 @@ public:
     qint64 loginHandle = 5'000'000'000; // more than 32 bits
 };
 
-/// Counts how often it is read.
+/// A stepped clock that counts how often it is read.
 class WatchedClock : public sdk::demo::SteppableClock
 {
 public:
@@ -222,9 +231,10 @@ public:
         return SteppableClock::now();
     }
 
-    mutable std::atomic<int> looks = 0;
+    mutable std::atomic<int> looks = 0; ///< number of now() calls
 };
 
+/// The libraries of one test, with the record of their calls.
 struct FakeLibraries
 {
     LibraryCalls calls;
@@ -232,13 +242,14 @@ struct FakeLibraries
     std::shared_ptr<FakeDecoder> decoder = std::make_shared<FakeDecoder>(calls);
     std::shared_ptr<WatchedClock> clock = std::make_shared<WatchedClock>();
 
+    /// The libraries for the code under test, which shares them with this object.
     [[nodiscard]] sdk::SdkLibraries libraries() const
     {
         return {.net = net, .config = nullptr, .decoder = decoder, .p2pAgent = nullptr, .clock = clock};
     }
 };
 
-/// A frame of one colour, given as Y, U and V.
+/// A decoded frame of one colour, given as Y, U and V, with half-size chroma planes (I420).
 struct PlainFrame
 {
     PlainFrame(int width, int height, std::uint8_t y, std::uint8_t u, std::uint8_t v,
@@ -256,11 +267,12 @@ struct PlainFrame
         bytes.insert(bytes.end(), chroma, v);
     }
 
-    std::vector<std::uint8_t> bytes;
+    std::vector<std::uint8_t> bytes; ///< plane Y, then U, then V, without gaps
     sdk::DecodedFrameInformation information;
 };
 
-/// Records the debug messages of the folder under test during its lifetime.
+/// Records the log messages of the category "configtools.media" during its lifetime; no message is printed
+/// then. One object at a time.
 class MessageLog
 {
 public:
@@ -273,6 +285,7 @@ public:
     MessageLog(const MessageLog &) = delete;
     MessageLog &operator=(const MessageLog &) = delete;
 
+    /// Returns the messages since the last take(), and removes them. Any thread.
     QStringList take()
     {
         const std::lock_guard lock(mutex());

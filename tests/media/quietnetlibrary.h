@@ -1,11 +1,12 @@
-// A network library without devices.
+// A network library without devices, as a base class of test doubles.
 #pragma once
 
 #include "sdk/demo/demonetlibrary.h"
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/steppableclock.h"
 
-/// Refuses every request. Tests override the operations that they need.
+/// The network library of a simulated site without devices: searches find nothing and logins fail. Tests
+/// override the operations that they need.
 class QuietNetLibrary : public sdk::demo::DemoNetLibrary
 {
 public:

@@ -1,15 +1,16 @@
-// A sound server with one output, which a test records.
+// A sound server (PulseAudio) with one output, whose sound a test records.
 #pragma once
 
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
-/// Runs during the object's lifetime in a separate folder. This process connects to it.
+/// Runs in separate processes until the object is destroyed, with its files in a temporary folder. Main
+/// thread.
 class SoundServer
 {
 public:
-    static constexpr int rate = 48000;
+    static constexpr int rate = 48000; ///< samples per second
 
     ~SoundServer()
     {
@@ -17,6 +18,8 @@ public:
         end(m_server);
     }
 
+    /// Starts the server and sets the environment of this process, so that Qt connects to it. Called before
+    /// Qt uses sound. Blocks until it accepts connections. Returns false if it does not within 10 s.
     bool start()
     {
         const QString socket = m_directory.filePath("native");
@@ -34,11 +37,13 @@ public:
         return m_server.waitForStarted() && QTest::qWaitFor([&] { return control({"info"}); }, 10000);
     }
 
-    /// Removes or adds the output.
+    /// Removes the output, as if the loudspeaker were unplugged. Returns false on failure.
     bool unplug() { return control({"unload-module", "module-null-sink"}); }
+    /// Adds the output again. Returns false on failure.
     bool plug() { return control(QStringList{"load-module", "module-null-sink"} + sink.split(' ')); }
 
-    /// Starts recording the output as one channel of 16-bit samples.
+    /// Starts recording the output as one channel of signed 16-bit samples, little-endian. Earlier samples
+    /// are dropped. Returns false if the recorder does not start.
     bool listen()
     {
         end(m_listener);
@@ -48,7 +53,7 @@ public:
         return m_listener.waitForStarted();
     }
 
-    /// The samples recorded since listen().
+    /// The bytes of the samples recorded since listen().
     QByteArray heard()
     {
         m_heard += m_listener.readAllStandardOutput();

@@ -1,11 +1,12 @@
-// A login with NetLoginSecure.
+// A login to a device with the network library, for tests.
 #pragma once
 
 #include "sdk/blocktext.h"
 #include "sdk/loginblocks.h"
 #include "sdk/netlibrary.h"
 
-/// The handle of the session; 0 on failure; -1 if the reported error is not the library's last error.
+/// Logs in with NetLoginSecure(). Returns the handle of the session; 0 on failure; -1 if the login failed and
+/// the error in its output differs from the last error of the library, which is a fault. Blocks.
 inline sdk::LLONG logIn(sdk::NetLibrary &net, const char *address, const char *account, const char *password,
                         int port = 80)
 {

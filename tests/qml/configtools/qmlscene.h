@@ -1,4 +1,4 @@
-// A window with QML of the application, for tests of single components.
+// A window with QML components of the application, for tests of single components.
 #pragma once
 
 #include <QHash>
@@ -18,8 +18,10 @@ Q_IMPORT_QML_PLUGIN(DateTimeValidatorPlugin)
 Q_IMPORT_QML_PLUGIN(VideoItemPlugin)
 Q_IMPORT_QML_PLUGIN(configtoolsPlugin)
 
-/// Opens a window with the QML `content`, drawn without OpenGL. QML accesses `objects` by name; the caller
-/// keeps ownership. Null on failure, with a warning.
+/// Creates a window (T.ApplicationWindow) with the QML `content`, its properties and children, drawn without
+/// OpenGL. QtQuick, QtQuick.Templates as T and the module "configtools" are imported. The window is shown if
+/// `content` sets "visible: true". QML accesses `objects` by name; the caller keeps ownership. The engine and
+/// the objects must outlive the window. Returns null on failure, with a warning.
 inline std::unique_ptr<QQuickWindow> openScene(QQmlEngine &engine, const QByteArray &content,
                                                const QHash<QString, QObject *> &objects = {})
 {
@@ -40,11 +42,12 @@ inline std::unique_ptr<QQuickWindow> openScene(QQmlEngine &engine, const QByteAr
 
 enum class Sight
 {
-    Any,
-    Visible
+    Any,    ///< also invisible items
+    Visible ///< only items that are visible, as are all items around them
 };
 
-/// The first item below `item` with this object name, or the first visible one; null if there is none.
+/// The first item with this object name among `item` and the items below it, in depth-first order; null if
+/// there is none.
 inline QQuickItem *findBelow(QQuickItem *item, const QString &name, Sight sight)
 {
     if (sight == Sight::Visible && !item->isVisible())

@@ -1,4 +1,4 @@
-// Binding files for the library of fakelibrary.cpp.
+// Binding files, which list the functions of closed libraries, for the test library of fakelibrary.cpp.
 #pragma once
 
 #include "sdk/binding/entrypoints.h"
@@ -8,7 +8,8 @@
 #include <map>
 #include <string>
 
-/// Entries that do more than record their call.
+/// The names of the entries of the test library that do more than record their call, by the functions that
+/// they implement.
 inline const std::map<std::string, std::string> &livelyEntries()
 {
     static const std::map<std::string, std::string> entries = {{"NetLoginSecure", "echoLogin"},
@@ -19,7 +20,8 @@ inline const std::map<std::string, std::string> &livelyEntries()
     return entries;
 }
 
-/// The text of a binding file. `entryOf` returns the name or the ordinal of a function's entry.
+/// The text of a binding file whose four sections list all functions in one library, the file `library`.
+/// `entryOf` returns the name or the ordinal of the entry of a function.
 inline std::string bindingText(const std::string &library,
                                const std::function<std::string(const std::string &function)> &entryOf)
 {
@@ -37,6 +39,7 @@ inline std::string bindingText(const std::string &library,
     return text;
 }
 
+/// Writes a text file. Errors are ignored.
 inline void writeText(const std::string &fileName, const std::string &text)
 {
     std::ofstream(fileName, std::ios::binary) << text;

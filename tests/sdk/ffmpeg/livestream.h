@@ -1,4 +1,4 @@
-// Live streams for tests.
+// Encoded live streams with known frames and sound, for tests of the decoder.
 #pragma once
 
 #include "sdk/ffmpeg/internal/avpointers.h"
@@ -10,18 +10,20 @@
 
 namespace sdk::ffmpeg {
 
-/// The content of a test frame: four patches of one colour each, in reading order.
+/// The content of a test frame: four patches of one colour each, which divide the frame at its centre, in
+/// reading order.
 struct Patches
 {
+    /// The values of the three components of the pixel format, 0 to 255: Y, U, V, or red, green, blue.
     struct Colour
     {
-        int y; ///< or red, green, blue
+        int y;
         int u;
         int v;
     };
     std::array<Colour, 4> colours;
 
-    /// Clearly different colours, which depend on the number.
+    /// Clearly different colours, which depend on the number; they repeat after five numbers.
     [[nodiscard]] static Patches numbered(int number);
 
     /// The patch that covers a point of a frame or of one of its planes.
@@ -38,22 +40,23 @@ struct VideoFormat
     int width = 64;
     int height = 36;
     AVPixelFormat pixels = AV_PIX_FMT_YUV420P;
-    int rate = 25;
+    int rate = 25; ///< frames per second
     AVColorSpace colourSpace = AVCOL_SPC_UNSPECIFIED;
     AVColorRange range = AVCOL_RANGE_UNSPECIFIED;
-    int keyEvery = 5;         ///< frames
-    const char *options = ""; ///< of the encoder, as "name=value:name=value"
+    int keyEvery = 5;         ///< number of frames from a key frame to the next one
+    const char *options = ""; ///< further options of the encoder, as "name=value:name=value"
 };
 
 /// The encoding of the sound.
 struct SoundFormat
 {
     const char *encoder = "pcm_alaw";
-    int rate = 8000;
+    int rate = 8000; ///< samples per second
     int channels = 1;
 };
 
-/// A live Matroska stream: each call returns a separate cluster immediately.
+/// Encodes a live stream in Matroska with video, sound or both. Each call returns the bytes of its frames or
+/// samples as clusters of their own, without a delay. A failure ends the process. Not thread-safe.
 class LiveStream
 {
 public:
@@ -64,17 +67,18 @@ public:
     LiveStream(const LiveStream &) = delete;
     LiveStream &operator=(const LiveStream &) = delete;
 
-    /// The header of the stream.
+    /// The header of the stream, which a decoder needs first.
     [[nodiscard]] const QByteArray &head() const { return m_head; }
 
-    /// The bytes of the next frame.
+    /// The bytes of the next frame. Requires video.
     [[nodiscard]] QByteArray frame(const Patches &patches);
 
-    /// The bytes of several frames, numbered from `first` on.
+    /// The bytes of the next `count` frames, with the contents Patches::numbered() from `first` on.
     [[nodiscard]] QByteArray frames(int count, int first = 0);
 
-    /// The bytes of the next samples: a tone of 500 Hz and a quarter of the largest amplitude. The container
-    /// keeps the last packet until something else is added.
+    /// The bytes of the next samples (rounded up to complete frames of the encoder): a tone of 500 Hz and a
+    /// quarter of the largest amplitude. The container keeps the last packet until something else is added.
+    /// Requires sound.
     [[nodiscard]] QByteArray tone(int samples);
 
 private:

@@ -1,4 +1,4 @@
-// A port and a receiver that stores its data.
+// A port of the decoder library (the decoder of one stream), and a receiver that stores its decoded data.
 #pragma once
 
 #include "sdk/blocktext.h"
@@ -16,20 +16,23 @@
 
 namespace sdk::ffmpeg {
 
+/// The size of a port's buffer for encoded data, in bytes.
 inline constexpr std::uint32_t usualBuffer = 8388608;
 
+/// A frame or a block of sound that the decoder has delivered.
 struct Delivered
 {
-    QByteArray bytes;
+    QByteArray bytes; ///< a copy
     DecodedFrameInformation information;
-    const std::uint8_t *address; ///< address of the delivered bytes
-    std::thread::id thread;
+    const std::uint8_t *address; ///< address of the delivered bytes, only for comparisons
+    std::thread::id thread;      ///< on which they were delivered
 };
 
 /// Stores copies of the delivered data. Thread-safe.
 class Receiver
 {
 public:
+    /// The decode handler of a port; `user` is the receiver.
     static void handle(std::int32_t, const std::uint8_t *data, std::int32_t size,
                        const DecodedFrameInformation *information, void *user)
     {
@@ -41,6 +44,7 @@ public:
                                 std::this_thread::get_id()});
     }
 
+    /// The data of this type so far, the oldest first.
     [[nodiscard]] QList<Delivered> all(DecodedFrameType type) const
     {
         const std::lock_guard lock(m_mutex);
@@ -52,7 +56,7 @@ public:
     [[nodiscard]] QList<Delivered> frames() const { return all(DecodedFrameType::Video); }
     [[nodiscard]] QList<Delivered> sounds() const { return all(DecodedFrameType::Sound); }
 
-    /// The total number of samples.
+    /// The total number of 16-bit samples, of all channels together.
     [[nodiscard]] qsizetype sampleCount() const
     {
         qsizetype count = 0;
@@ -61,18 +65,19 @@ public:
         return count;
     }
 
-    std::function<void()> onDelivery; ///< called before data is stored
+    std::function<void()> onDelivery; ///< called on the decoder's thread before data is stored; may be empty
 
 private:
     mutable std::mutex m_mutex;
     QList<Delivered> m_all;
 };
 
-/// A playing port, until the object is destroyed.
+/// A playing port of its own library, until the object is destroyed.
 class TestPort
 {
 public:
-    /// With a clock it is a port for a live stream, which skips frames that are late on that clock.
+    /// `bufferSize` is in bytes. With a clock it is a port for a live stream, which skips frames that are
+    /// late on that clock. Ends the process if the port cannot be opened.
     explicit TestPort(std::uint32_t bufferSize = usualBuffer,
                       const std::shared_ptr<const Clock> &liveClock = nullptr)
         : library(liveClock ? liveClock : std::make_shared<SystemClock>())
@@ -88,13 +93,15 @@ public:
     TestPort(const TestPort &) = delete;
     TestPort &operator=(const TestPort &) = delete;
 
+    /// Passes encoded data to the port. False if it was refused, because the buffer is full.
     bool push(const QByteArray &bytes)
     {
         return library.DecoderInputData(number, reinterpret_cast<const std::uint8_t *>(bytes.constData()),
                                         static_cast<std::uint32_t>(bytes.size()));
     }
 
-    /// Pushes data in chunks of that size. False if one was refused.
+    /// Passes encoded data to the port in chunks of that size. False if one was refused; the rest is not
+    /// passed then.
     bool push(const QByteArray &bytes, qsizetype pieceSize)
     {
         for (qsizetype index = 0; index < bytes.size(); index += pieceSize) {
@@ -104,6 +111,7 @@ public:
         return true;
     }
 
+    /// The current status of the port: codecs, waiting bytes and counters.
     [[nodiscard]] DecoderStatus status()
     {
         DecoderStatus status{};
@@ -114,12 +122,13 @@ public:
     /// True if the port has processed all data.
     [[nodiscard]] bool isIdle() { return status().waitingBytes == 0; }
 
+    // The names of the codecs, such as "H.264"; empty before the first data.
     [[nodiscard]] QString videoCodec() { return textOf(status().videoCodec); }
     [[nodiscard]] QString audioCodec() { return textOf(status().audioCodec); }
 
     FfmpegDecoderLibrary library;
-    Receiver receiver; // must outlive the port's thread, which ends in the destructor
-    std::int32_t number = -1;
+    Receiver receiver;        // must outlive the port's thread, which ends in the destructor
+    std::int32_t number = -1; ///< of the port
 
 private:
     static QString textOf(const std::array<char, 16> &field)
@@ -129,7 +138,8 @@ private:
     }
 };
 
-/// A value of /proc/self/status about this process's memory.
+/// A value of /proc/self/status about the memory of this process, such as "VmRSS", in MiB; 0 if it is
+/// missing.
 inline double processMegabytes(const QByteArray &name)
 {
     for (const QByteArray &line : fileContents(QStringLiteral("/proc/self/status")).split('\n')) {
@@ -139,8 +149,9 @@ inline double processMegabytes(const QByteArray &name)
     return 0;
 }
 
-/// The largest mean difference of a plane to the expected frame. The encoder causes about 1. Very large for a
-/// frame with the wrong number of bytes.
+/// How much a decoded frame (I420) differs from the expected one: the mean absolute difference of the values
+/// of a plane, 0 to 255, of the worst of its three planes. The encoder causes about 1. 255 for a frame with
+/// the wrong number of bytes.
 inline double distance(const Delivered &frame, const Patches &patches)
 {
     constexpr double far = 255;
