@@ -1,4 +1,4 @@
-// Several values of an object as one text, so that a test compares them at once.
+// Several values of an object as one text, so that one comparison checks all of them.
 #pragma once
 
 #include <QJsonObject>

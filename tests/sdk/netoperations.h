@@ -1,4 +1,5 @@
-// The operations of a session as data.
+// The operations of a login session of the network library as a list, so that a test runs the same check on
+// each.
 #pragma once
 
 #include "sdk/blocktext.h"
@@ -16,15 +17,19 @@
 #include <functional>
 #include <memory>
 
+/// One operation of the network library in a session.
 struct NetOperation
 {
+    /// Sends the request in the session with the handle `session`, with the timeout `wait`. Returns whether
+    /// the operation succeeded.
     using Run = std::function<bool(sdk::NetLibrary &net, sdk::LLONG session, std::chrono::milliseconds wait)>;
 
-    const char *name;
-    bool isHarmless; ///< the device is not changed
+    const char *name; ///< for messages
+    bool isHarmless;  ///< the device is not changed
     Run run;
 };
 
+/// A query of the device with NetQueryConfig().
 inline NetOperation queryOperation(const char *name, sdk::QueryCommand command)
 {
     return {name, true, [command](auto &net, auto session, auto wait) {
@@ -34,6 +39,8 @@ inline NetOperation queryOperation(const char *name, sdk::QueryCommand command)
             }};
 }
 
+/// A read of a configuration text, such as "Encode", with NetGetNewConfig(). `channel` is from 0; -1 for a
+/// configuration of the device.
 inline NetOperation readOperation(const char *name, const char *configuration, int channel)
 {
     return {name, true, [configuration, channel](auto &net, auto session, auto wait) {
@@ -44,6 +51,7 @@ inline NetOperation readOperation(const char *name, const char *configuration, i
             }};
 }
 
+/// An empty block for a read or a write of an item, with its size set.
 template<typename Item>
 Item requestedItem()
 {
@@ -52,7 +60,9 @@ Item requestedItem()
     return item;
 }
 
-/// `file` is the firmware file of the upgrade.
+/// All operations, those that change nothing first. `file` is the path of the firmware file of the upgrade,
+/// in the local encoding. The operation "password" changes the password of "admin" from "Contract-1" to
+/// "Contract-2".
 inline QList<NetOperation> netOperations(const QByteArray &file)
 {
     using namespace sdk;

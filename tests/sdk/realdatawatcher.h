@@ -1,4 +1,4 @@
-// The data of a live stream, recorded by a handler of the network library.
+// Records the data of a live stream of the network library.
 #pragma once
 
 #include "sdk/streamblocks.h"
@@ -13,7 +13,7 @@
 class RealDataWatcher
 {
 public:
-    /// The handler; `user` is the watcher.
+    /// The handler for NetSetRealDataCallback(); `user` is the watcher. Called on a thread of the library.
     static void take(std::int64_t, std::uint32_t type, const std::uint8_t *data, std::uint32_t size,
                      std::int64_t parameter, void *user)
     {
@@ -28,12 +28,13 @@ public:
             watcher->m_hasLateData = true;
     }
 
-    /// The number of handler calls.
+    /// The number of handler calls so far: data and ends.
     [[nodiscard]] int calls() const { return locked(m_calls); }
+    /// The data before the end.
     [[nodiscard]] QByteArray bytes() const { return locked(m_bytes); }
-    /// The reasons of the reported ends; at most one in a correct stream.
+    /// The reasons (sdk::StreamEndReason) of the reported ends; at most one in a correct stream.
     [[nodiscard]] QList<int> ends() const { return locked(m_ends); }
-    /// True if data has arrived after the end.
+    /// True if data has arrived after the end, which is a fault.
     [[nodiscard]] bool hasLateData() const { return locked(m_hasLateData); }
 
 private:

@@ -1,4 +1,5 @@
-// A client of site devices that sends the requests of a test.
+// A client of the simulated devices of a site on real sockets: it sends SOAP requests over HTTP, as a test
+// defines them. All functions block.
 #pragma once
 
 #include <QByteArray>
@@ -15,13 +16,14 @@
 
 namespace site {
 
+/// The response to a request.
 struct Response
 {
-    int status = 0; ///< 0 without a response
-    QByteArray head;
+    int status = 0;  ///< of HTTP; 0 without a complete response
+    QByteArray head; ///< status line and headers
     QByteArray body;
 
-    /// All values of a header.
+    /// All values of the header `name`, whose case is ignored, in order.
     [[nodiscard]] QByteArrayList fields(const QByteArray &name) const
     {
         QByteArrayList values;
@@ -32,7 +34,7 @@ struct Response
         return values;
     }
 
-    /// The texts of all elements of that name, with any prefix.
+    /// The texts of all XML elements of the body with that name and any prefix, in order.
     [[nodiscard]] QStringList texts(const QString &name) const
     {
         static const QRegularExpression element(
@@ -46,9 +48,11 @@ struct Response
         }
         return found;
     }
+    /// The first one of texts(); empty if there is none.
     [[nodiscard]] QString text(const QString &name) const { return texts(name).value(0); }
 
-    /// "400 NotAuthorized": status and the innermost code of a fault, without its prefix.
+    /// The HTTP status and, for a SOAP fault, its innermost code without its prefix: "200", "400
+    /// NotAuthorized".
     [[nodiscard]] QString outcome() const
     {
         const QStringList codes = body.contains("Fault>") ? texts(QStringLiteral("Value")) : QStringList();
@@ -57,7 +61,9 @@ struct Response
     }
 };
 
-/// One request on a separate connection, which is closed after the response.
+/// Sends the complete request `bytes` on a new connection, which is closed after the response. `patience` is
+/// the timeout of the connection and of each wait for bytes, in milliseconds. After a timeout, the status is
+/// 0.
 inline Response exchange(const QString &address, int port, const QByteArray &bytes, int patience = 10000)
 {
     QTcpSocket socket;
@@ -84,19 +90,21 @@ inline Response exchange(const QString &address, int port, const QByteArray &byt
     return response;
 }
 
+/// How a request logs in, with the user name "admin".
 struct Login
 {
     enum class Kind
     {
         None,
-        Token,
-        Digest,
+        Token,  ///< a WS-Security user name token in the SOAP header
+        Digest, ///< an HTTP Digest in response to the challenge of a first request
     };
     Kind kind = Kind::None;
     QString password;
-    int minutesOff = 0; ///< error of the client's clock
+    int minutesOff = 0; ///< by which the client's clock is ahead of the real time; for a token
 };
 
+/// The hash of a text in hexadecimal digits, by "SHA-256" or, for any other algorithm, by MD5.
 inline QByteArray hashed(const QByteArray &text, const QByteArray &algorithm)
 {
     return QCryptographicHash::hash(text, algorithm == "SHA-256" ? QCryptographicHash::Sha256
@@ -104,7 +112,8 @@ inline QByteArray hashed(const QByteArray &text, const QByteArray &algorithm)
         .toHex();
 }
 
-/// The response to the first challenge of `refusal` for the user "admin".
+/// The header line Authorization, with CRLF, for a Digest of the user "admin": the response to the first
+/// challenge of `refusal`, a response with status 401.
 inline QByteArray digestHeader(const Response &refusal, const QString &password, const QByteArray &method,
                                const QByteArray &uri)
 {
@@ -130,6 +139,7 @@ inline QByteArray digestHeader(const Response &refusal, const QString &password,
            "\"\r\n";
 }
 
+/// The SOAP header with the user name token of a login.
 inline QByteArray tokenHeader(const Login &login)
 {
     const QByteArray created =
@@ -146,8 +156,10 @@ inline QByteArray tokenHeader(const Login &login)
            "</c:Created></UsernameToken></Security></e:Header>";
 }
 
-/// Sends a request to a service: `operation` is the element with the default namespace of its service; the
-/// prefix "tt" is declared.
+/// Sends an operation to a service of a device and returns the response. `operation` is the XML element of
+/// the operation, with the default namespace of its service; the prefix "tt" is declared. `service` is the
+/// name in the path, as in "/onvif/device_service". With Login::Kind::Digest, a request that is refused with
+/// status 401 is sent again with the Digest.
 inline Response ask(const QString &address, const QByteArray &operation, const Login &login = {},
                     const QByteArray &service = "device", int port = 80)
 {
@@ -167,18 +179,19 @@ inline Response ask(const QString &address, const QByteArray &operation, const L
     return exchange(address, port, request(digestHeader(response, login.password, "POST", path)));
 }
 
-/// An operation of the device service.
+/// The XML element of an operation of the device service; `content` are its child elements.
 inline QByteArray deviceOperation(const QByteArray &name, const QByteArray &content = {})
 {
     return "<" + name + " xmlns=\"http://www.onvif.org/ver10/device/wsdl\">" + content + "</" + name + ">";
 }
 
+/// The same for the media service (version 2).
 inline QByteArray mediaOperation(const QByteArray &name, const QByteArray &content = {})
 {
     return "<" + name + " xmlns=\"http://www.onvif.org/ver20/media/wsdl\">" + content + "</" + name + ">";
 }
 
-/// Polls `isRight`; returns false when it is not true within `seconds`.
+/// Polls `isRight` every 50 ms until it returns true. Returns false if it does not within `seconds`.
 inline bool becomes(const std::function<bool()> &isRight, int seconds = 20)
 {
     QElapsedTimer timer;

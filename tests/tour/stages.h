@@ -1,4 +1,5 @@
-// The stages of the tour. Each of them is one start of the application.
+// The stages of the tour. Each of them is one start of the application, which steps then drive as a user
+// does.
 #pragma once
 
 #include <QString>
@@ -11,6 +12,7 @@ namespace sdk::demo {
 class DemoSite;
 }
 
+/// One stage.
 struct Stage
 {
     QString name;
@@ -20,7 +22,7 @@ struct Stage
     int minutes = 22;       ///< after which it has failed
     std::function<void(Driver &driver, sdk::demo::DemoSite *site)> drive;
     std::function<void(Driver &driver)> leave =
-        {}; ///< closes the application; empty: with the window's button
+        {}; ///< closes the application at the end; empty: with the button of the window
 };
 
 /// In the order of execution. The first stages represent users with their tasks.

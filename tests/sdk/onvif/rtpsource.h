@@ -1,4 +1,4 @@
-// RTP packets of a session for tests.
+// RTP packets of a live stream for tests.
 #pragma once
 
 #include <QByteArray>
@@ -8,23 +8,26 @@
 
 namespace sdk::onvif {
 
+/// A packet that the device sends.
 struct RtpPacket
 {
-    int channel = 0; ///< of the session: two for each track, the second one for its control
-    QByteArray bytes;
-    std::chrono::milliseconds due{0}; ///< after the start of the playback
+    /// Channel of the RTSP session: each track has two, an even one for its data (RTP) and the next one for
+    /// its control (RTCP).
+    int channel = 0;
+    QByteArray bytes;                 ///< the packet without the frame of the interleaved transport
+    std::chrono::milliseconds due{0}; ///< when it is sent, after the start of the playback
 };
 
 /// A live stream in packets, and its description.
 struct RtpSource
 {
-    QByteArray description;
-    QList<RtpPacket> packets;
+    QByteArray description;   ///< in the session description protocol (SDP)
+    QList<RtpPacket> packets; ///< in the order of sending, all due immediately
 
-    /// Created from Matroska: a header and its packets.
+    /// Converts a stream in Matroska (a header and its packets). Ends the process on failure.
     [[nodiscard]] static RtpSource of(const QByteArray &container);
 
-    /// The description without lines that hold `text`.
+    /// The description without lines that contain `text`.
     [[nodiscard]] QByteArray descriptionWithout(const QByteArray &text) const;
 };
 

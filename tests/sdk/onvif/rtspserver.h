@@ -11,35 +11,39 @@
 
 namespace sdk::onvif {
 
-/// The interleaved frame of a packet.
+/// The bytes of a packet in the interleaved transport: "$", channel, length, then the packet.
 [[nodiscard]] QByteArray framed(const RtpPacket &packet);
 
+/// The stream and the behaviour of the server, including its faults.
 struct RtspScript
 {
-    QByteArray description;
-    QList<RtpPacket> packets; ///< sent after PLAY
-    bool closesAtEnd = false; ///< the connection, after the packets
+    QByteArray description;   ///< response to DESCRIBE, in SDP
+    QList<RtpPacket> packets; ///< sent after PLAY, each when it is due
+    bool closesAtEnd = false; ///< whether the server closes the connection after the packets
 
-    QByteArray account; ///< empty: no login
+    QByteArray account; ///< user name; empty: no login is required
     QByteArray password;
-    /// Values of WWW-Authenticate, in order. The login must use the challenge with MD5.
+    /// Values of the header WWW-Authenticate of a response 401, one header each. The server accepts a Digest
+    /// with MD5, the realm "camera" and the nonce "47" only.
     QByteArrayList challenges = {"Digest realm=\"camera\", nonce=\"47\"", "Basic realm=\"camera\""};
 
-    /// Special responses by method: these bytes, in which CSEQ is replaced by the number of the request, or
-    /// no response if empty.
+    /// Replacements of the regular responses, by method ("SETUP"): these bytes, in which "CSEQ" is replaced
+    /// by the number of the request; empty: no response.
     QHash<QByteArray, QByteArray> responses = {};
-    QByteArray endless; ///< sent repeatedly after one of `responses`, or after the packets
+    /// Bytes that are sent repeatedly after one of `responses`, or after the packets; empty: none.
+    QByteArray endless;
 
-    bool onlyDatagrams = false;
-    QByteArray dataSource;   ///< the announced source address of datagrams
-    int sessionTimeout = 60; ///< seconds
+    bool onlyDatagrams = false; ///< true: the server supports UDP only; false: the interleaved transport only
+    QByteArray dataSource;      ///< announced source address of the datagrams; empty: not announced
+    int sessionTimeout = 60; ///< announced timeout of the session in seconds; it has no effect on the server
 };
 
-/// Listens at a port of 127.0.0.1 on a separate thread, for one connection after another, until it is
-/// destroyed.
+/// Serves one connection after another at a port of 127.0.0.1, on a separate thread, until it is destroyed.
+/// All functions may be called on any thread.
 class RtspServer
 {
 public:
+    /// Listens on a free port when the constructor returns.
     explicit RtspServer(RtspScript script);
     ~RtspServer();
     RtspServer(const RtspServer &) = delete;
@@ -48,12 +52,14 @@ public:
     [[nodiscard]] int port() const { return m_port; }
     [[nodiscard]] std::string url() const { return "rtsp://127.0.0.1:" + std::to_string(m_port) + "/live"; }
 
-    /// Heads of the requests so far.
+    /// The requests received so far (first line and headers), in order.
     [[nodiscard]] QList<QByteArray> requests() const;
+    /// The number of requests that contain `text`, such as a method.
     [[nodiscard]] qsizetype requestsOf(const QByteArray &text) const;
+    /// The number of connections accepted so far.
     [[nodiscard]] int connections() const;
 
-    /// The CPU time of the server's thread.
+    /// The processor time of the server's thread so far.
     [[nodiscard]] std::chrono::nanoseconds computingTime() const;
 
 private:

@@ -1,4 +1,4 @@
-// The results of device searches.
+// Collects the responses of device searches of the network library.
 #pragma once
 
 #include "sdk/blocktext.h"
@@ -12,10 +12,12 @@
 #include <chrono>
 #include <mutex>
 
-/// The results of a search by address.
+/// The responses of one or several searches, by the addresses of the devices. Thread-safe. Must outlive the
+/// searches.
 class SearchResponses
 {
 public:
+    /// The response handler of a search; `user` is a SearchResponses. Called on threads of the library.
     static void take(std::int64_t, const sdk::SearchResponse *response, void *user)
     {
         auto *self = static_cast<SearchResponses *>(user);
@@ -24,7 +26,8 @@ public:
         self->m_uuids.insert(textOf(response->device.address), textOf(response->device.uuid));
     }
 
-    /// The UUIDs of all devices that were reported with the address.
+    /// The UUIDs of all devices that were reported with the address, in alphabetical order; one for each
+    /// response.
     [[nodiscard]] QStringList uuidsAt(const QString &address) const
     {
         const std::scoped_lock lock(m_mutex);
@@ -33,19 +36,22 @@ public:
         return uuids;
     }
 
+    /// Whether a device with this address was reported.
     [[nodiscard]] bool has(const QString &address) const
     {
         const std::scoped_lock lock(m_mutex);
         return m_responses.contains(address);
     }
 
+    /// The information of the last response from this address; all fields are empty if there was none.
     [[nodiscard]] sdk::SearchDeviceInformation device(const QString &address) const
     {
         const std::scoped_lock lock(m_mutex);
         return m_responses.value(address).device;
     }
 
-    /// The information of a device that is queried at its address; empty without a response.
+    /// Queries a device at its address, and returns its information; all fields are empty without a response
+    /// within 3 s. Blocks.
     static sdk::SearchDeviceInformation found(sdk::NetLibrary &net, const QString &address)
     {
         SearchResponses responses;
@@ -57,6 +63,7 @@ public:
         return responses.device(address);
     }
 
+    /// The text of a field of a block.
     template<std::size_t size>
     static QString textOf(const std::array<char, size> &field)
     {

@@ -1,4 +1,4 @@
-// The data of a device's stream.
+// The data and the end of a live stream over RTSP, for tests.
 #pragma once
 
 #include "sdk/onvif/live/rtspstream.h"
@@ -11,11 +11,12 @@
 
 namespace sdk::onvif {
 
-/// Opens a stream and stores its data. Thread-safe.
+/// Opens a stream and stores its data. The destructor ends the stream. Thread-safe.
 class StreamWatcher
 {
 public:
-    /// `sink` receives the bytes as well, on the stream's thread.
+    /// Starts the stream of `order` (URL and account) and returns immediately. `sink` receives the bytes as
+    /// well, on the stream's thread; it may be empty.
     explicit StreamWatcher(RtspOrder order, std::function<void(const QByteArray &)> sink = {})
         : m_sink(std::move(sink)),
           m_stream(
@@ -24,27 +25,30 @@ public:
     {
     }
 
+    /// All bytes of the stream so far, in Matroska.
     [[nodiscard]] QByteArray bytes() const
     {
         const std::lock_guard lock(m_mutex);
         return m_bytes;
     }
 
-    /// The name of the end, empty before it.
+    /// The name of the reason why the stream has ended (streamEndName()); empty before the end.
     [[nodiscard]] QString end() const
     {
         const std::lock_guard lock(m_mutex);
         return m_end;
     }
+    /// The description of that reason in English; may be empty.
     [[nodiscard]] QString endText() const
     {
         const std::lock_guard lock(m_mutex);
         return m_endText;
     }
 
-    /// The number of handler calls.
+    /// The number of handler calls so far: data and end.
     [[nodiscard]] int calls() const { return m_calls; }
 
+    /// The stream, to stop or restart it.
     [[nodiscard]] RtspStream &stream() { return m_stream; }
 
 private:

@@ -1,5 +1,5 @@
-// A test double of the automation interface's client objects: it records calls and returns the values of a
-// test.
+// A test double of QAxObject, the class of Qt for objects of the automation interface of a Windows
+// application: it records calls and returns the values of a test, so that its users are tested on any system.
 #pragma once
 
 #include <QHash>
@@ -7,14 +7,18 @@
 #include <QStringList>
 #include <QVariant>
 
-/// The common data of all objects of one test.
+/// The common data of all objects of one test. A path is the name of the application object and the labels of
+/// the objects below it, separated by full stops; a label is a name and the arguments, separated by spaces.
 struct AxRecord
 {
-    QStringList calls;                  ///< "path what arguments", in order
-    QHash<QString, QVariant> responses; ///< values of properties by "path.name"
-    bool isInstalled = true;
-    int alive = 0; ///< number of existing objects
+    /// In order: "path.label" of each object query and function call, "path.name = value" of each property
+    /// that was set, and "path.name" of each one that was read.
+    QStringList calls;
+    QHash<QString, QVariant> responses; ///< values of properties by "path.name"; others are invalid
+    bool isInstalled = true;            ///< false: the application cannot be started
+    int alive = 0;                      ///< number of existing objects
 
+    /// The only object of the process. A test resets it.
     static AxRecord &instance()
     {
         static AxRecord record;
@@ -22,16 +26,21 @@ struct AxRecord
     }
 };
 
+/// Has the functions of Qt's class that ApplicationSheetEngine uses. All calls succeed; a test emits
+/// exception() for a failure.
 class QAxObject : public QObject
 {
     Q_OBJECT
 public:
+    /// Starts the application with the name `control`.
     explicit QAxObject(const QString &control) : QAxObject(control, nullptr) {}
 
     ~QAxObject() override { --AxRecord::instance().alive; }
 
+    /// True if the application could not be started.
     [[nodiscard]] bool isNull() const { return !AxRecord::instance().isInstalled; }
 
+    /// A new object below this one, which owns it.
     QAxObject *querySubObject(const char *name, const QVariant &first = {}, const QVariant &second = {})
     {
         const QString label = labelOf(name, first, second);
@@ -58,6 +67,7 @@ public:
     }
 
 Q_SIGNALS:
+    /// The application has raised an error during a call.
     void exception(int code, const QString &source, const QString &description, const QString &help);
 
 private:

@@ -1,17 +1,20 @@
-// Steps that several subjects of the tour share.
+// Steps that several subjects of the tour share. A step drives the main window with `driver`. A check that
+// fails, or a condition that does not become true in time, ends the process.
 #pragma once
 
 #include "tests/tour/driver/driver.h"
 
 #include <QCoreApplication>
 
-/// A string of the application in the language of the tour.
+/// A string of the application in the language of the tour: the translation of the source text `text`
+/// (Chinese) in the context `context`, the name of its class or QML file.
 inline QString translated(const char *context, const char *text)
 {
     return QCoreApplication::translate(context, text);
 }
 
-/// Waits for a message to the user: at a field, in the open dialog, or as a notice of the window.
+/// Waits until exactly this message is shown to the user: at a field, in the open dialog, or as a notice of
+/// the window.
 inline void expectToast(const Driver &driver, const QString &text)
 {
     driver.await(QStringLiteral("the message \"%1\" is shown").arg(text), [&] {
@@ -21,11 +24,13 @@ inline void expectToast(const Driver &driver, const QString &text)
     });
 }
 
+/// Whether a search for devices runs.
 inline bool isSearching(const Driver &driver)
 {
     return driver.window()->property("searching").toBool();
 }
 
+/// Waits until no search runs, also if none has been started; `seconds` at most.
 inline void awaitSearchEnd(const Driver &driver, int seconds = 30)
 {
     driver.await(
@@ -39,24 +44,27 @@ inline void awaitSearch(const Driver &driver)
     awaitSearchEnd(driver);
 }
 
+/// Starts a search with the keyboard and waits for its end.
 inline void searchAgain(const Driver &driver)
 {
     driver.key(Qt::Key_F5);
     awaitSearch(driver);
 }
 
+/// Whether the current page shows a running batch (work on several devices).
 inline bool isBatchRunning(const Driver &driver)
 {
     return driver.find(QStringLiteral("runningText")) != nullptr;
 }
 
+/// Waits until the current page shows no running batch; `seconds` at most.
 inline void awaitBatchEnd(const Driver &driver, int seconds = 120)
 {
     driver.await(
         QStringLiteral("the batch ends"), [&] { return !isBatchRunning(driver); }, seconds);
 }
 
-/// Waits until the configuration page has finished its requests to the device.
+/// Waits until the configuration page has finished its requests to the device, 30 s at most.
 inline void awaitConfigIdle(const Driver &driver)
 {
     driver.await(
@@ -69,7 +77,7 @@ inline void awaitConfigIdle(const Driver &driver)
         30);
 }
 
-/// Sets the default account's password in the search settings. This starts a search.
+/// Sets the default account's password in the search settings. This starts a search, whose end is awaited.
 inline void setDefaultPassword(const Driver &driver, const QString &password)
 {
     driver.click(QStringLiteral("searchSettingsButton"));

@@ -5,7 +5,8 @@
 
 class QQuickWindow;
 
-/// One line for each fault, with the name of the item. Faults are:
+/// Checks the visible items once. Returns one line for each fault, with the name of the item; empty without
+/// faults. Faults are:
 /// - a text or a control that is truncated by its window, or by an enclosing item that does not scroll,
 /// - an elided text without a tool tip that shows it completely,
 /// - overlapping texts or controls,

@@ -1,4 +1,5 @@
-// Opening and closing the live window of a device, and its snapshots.
+// Opening and closing the live window (live video of a device) and its snapshots. `driver` drives the main
+// window, `live` the live window. A failed check ends the process.
 #pragma once
 
 #include "tests/tour/driver/otherwindow.h"
@@ -7,7 +8,8 @@
 #include <QImage>
 #include <QVariantMap>
 
-/// Enters an address in the search field of the main window and waits until the device is the first row.
+/// Opens the device page, enters the address in its search field and waits until the device with this
+/// "address:port" is the first row.
 inline void findDevice(const Driver &driver, const QString &ipport)
 {
     driver.click(QStringLiteral("tab0"));
@@ -18,6 +20,7 @@ inline void findDevice(const Driver &driver, const QString &ipport)
     });
 }
 
+/// Opens the live window of a device from the device page. Returns the window, which the application owns.
 inline QQuickWindow *openLive(const Driver &driver, const QString &ipport)
 {
     driver.activate(); // a live window may cover it
@@ -26,7 +29,8 @@ inline QQuickWindow *openLive(const Driver &driver, const QString &ipport)
     return awaitWindow(driver, QStringLiteral("liveWindow"));
 }
 
-/// Checks that `folder` has an image for each of `count` connected channels, and closes the snapshots.
+/// Checks that `folder` has exactly `count` images ("*.jpg"), one for each channel with a camera, and closes
+/// the snapshots in the live window.
 inline void closeSnapshots(const Driver &live, const QString &folder, int count)
 {
     const QDir images(folder);
@@ -40,6 +44,7 @@ inline void closeSnapshots(const Driver &live, const QString &folder, int count)
                [&] { return !live.find(QStringLiteral("snapshotGrid")); });
 }
 
+/// Closes the live window and waits until it is hidden.
 inline void closeLive(const Driver &driver, const Driver &live)
 {
     live.click(QStringLiteral("liveCloseButton"));

@@ -15,7 +15,8 @@ inline QQuickWindow *visibleWindow(const QString &name)
     return nullptr;
 }
 
-/// Waits for the window; the tour fails if it does not open.
+/// Waits for the window with this object name, up to 15 s, and returns it; the tour fails if it does not
+/// open.
 inline QQuickWindow *awaitWindow(const Driver &driver, const QString &name)
 {
     driver.await(QStringLiteral("the window \"%1\" opens").arg(name), [&] {

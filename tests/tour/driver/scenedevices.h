@@ -1,4 +1,4 @@
-// Devices of the simulated site.
+// Look-up of devices of the simulated site.
 #pragma once
 
 #include "sdk/demo/demosite.h"

@@ -1,20 +1,25 @@
-// Clicks into a device tree that is scrolled to its end.
+// Clicks into the device tree of the current page while it is scrolled to its end.
 #pragma once
 
 #include "tests/tour/driver/driver.h"
 
-/// Clicks visible rows. The tour fails if the tree scrolls, or if another row reacts.
+/// Clicks visible rows. The tour fails if a click scrolls the tree, or if another row reacts. The tree must
+/// be higher than its view.
 class ScrolledTree
 {
 public:
+    /// Scrolls the tree to its end. `driver` must outlive this object.
     explicit ScrolledTree(const Driver &driver);
 
-    /// Clicks the row of the lowest device. Returns its address.
+    /// Clicks the row of the lowest visible device. Returns its "address:port".
     [[nodiscard]] QString clickDevice() const;
 
-    // Each function ticks with a click on the box and unticks with a second one.
+    // Each function clicks the box of a row twice: the first click ticks it, the second one unticks it. No
+    // device may be ticked before.
 
+    /// The lowest visible device.
     void tickDevice() const;
+    /// The lowest visible group; its box ticks all devices of the group.
     void tickGroup() const;
 
 private:
