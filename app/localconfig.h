@@ -73,7 +73,7 @@ public:
     /// As reboot(), with the argument "--demo" alone: the other process runs on the simulated devices of the
     /// scene "office".
     Q_INVOKABLE void openDemoSite();
-    /// Version number, and date and time of the build: "V1.2.5.1.20260306_133556".
+    /// Version number, then a date and time: "V1.2.5.1.20260306_133556".
     Q_INVOKABLE [[nodiscard]] QString getVersion() const;
     /// The display name of the application object: the name of the executable, unless another one was set.
     Q_INVOKABLE [[nodiscard]] QString getSoftwareName() const;

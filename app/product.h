@@ -5,7 +5,7 @@
 
 namespace Product {
 
-/// Version number, then date and time of the build as yyyyMMdd_HHmmss.
+/// Version number, then a date and time as yyyyMMdd_HHmmss. Constant: the build does not change it.
 inline constexpr QLatin1StringView version("V1.2.5.1.20260306_133556");
 
 /// Shown next to the logo.

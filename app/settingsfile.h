@@ -14,10 +14,10 @@ class SettingsFile
 public:
     explicit SettingsFile(const QString &path) : m_path(path) {}
 
-    /// Sets the values of the given keys ("/group/key"), which are pairs of key and value; the other keys are
-    /// kept. Creates the file if it does not exist; its folder must exist. Returns an error text for the log;
-    /// the file is unchanged then. Empty on success. Blocks until the file is on disk. Two changes of a file
-    /// must not run at the same time: one of them would be lost.
+    /// Sets values, given as pairs of a key ("/group/key") and its value; the other keys are kept. Creates
+    /// the file if it does not exist; its folder must exist. Returns an error text for the log; the file is
+    /// unchanged then. Empty on success. Blocks until the file is on disk. Two changes of a file must not run
+    /// at the same time: one of them would be lost.
     [[nodiscard]] QString change(const QList<QPair<QString, QString>> &values) const;
 
 private:

@@ -8,9 +8,9 @@
 #include <mutex>
 #include <span>
 
-/// Opens and plays a port of its own decoder library, with a buffer of 8 MiB for bytes that are not decoded
-/// yet. The destructor frees the port. push() and waitFor() are used on one thread; frames are decoded on
-/// another one.
+/// Opens and plays a port of a separate decoder library, with a buffer of 8 MiB for bytes that are not
+/// decoded yet. The destructor frees the port. push() and waitFor() are used on one thread; frames are
+/// decoded on another one.
 class DecodingPort
 {
 public:

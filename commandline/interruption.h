@@ -21,8 +21,8 @@ public:
     Interruption(const Interruption &) = delete;
     Interruption &operator=(const Interruption &) = delete;
 
-    /// Whether a signal was received, also if the event loop has not processed it yet.
-    /// In that case `requested` is no longer called for it.
+    /// Whether a signal was received, also if the event loop has not processed it yet. In that case
+    /// `requested` is no longer called for it.
     [[nodiscard]] bool isRequested();
 
 private:

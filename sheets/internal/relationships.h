@@ -24,8 +24,9 @@ public:
         QString part; ///< name of the target part
     };
 
-    /// Reads the relationships of `part`; an empty name stands for the relationships of the whole file. Fails
-    /// when the part that holds them is missing or damaged; there are no targets then. `package` is not kept.
+    /// Reads the relationships of `part`; an empty name stands for the relationships of the file itself.
+    /// Fails when the part that holds them is missing or damaged; there are no targets then. `package` is not
+    /// kept.
     bool load(ZipPackage &package, const QString &part);
 
     /// The relationships to other parts, in the order of the file.

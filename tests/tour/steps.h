@@ -1,8 +1,7 @@
 // The steps of the tour, by subject. Each function drives the main window of the running application, checks
-// the results, and reports images of the window. A failed check ends the process. main.cpp and stages.cpp
-// call them in a suitable order; a step expects the main window on any page unless stated otherwise. `site`
-// is the simulated site, whose devices the step changes or whose requests it reads. A folder is created if
-// missing.
+// the results, and reports images of the window. A failed check ends the process. The order of calls matters
+// (main.cpp and stages.cpp): a step starts at the page where the previous step has ended. `site` is the
+// simulated site, whose devices the step changes or whose requests it reads. A folder is created if missing.
 #pragma once
 
 #include <QString>

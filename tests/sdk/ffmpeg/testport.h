@@ -72,7 +72,7 @@ private:
     QList<Delivered> m_all;
 };
 
-/// A playing port of its own library, until the object is destroyed.
+/// A playing port of a separate library, until the object is destroyed.
 class TestPort
 {
 public:
