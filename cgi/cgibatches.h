@@ -24,8 +24,10 @@ public:
     [[nodiscard]] CgiWorkbooks *workbooks() const { return m_workbooks; }
 
     /// Sends a command to the devices with these row identities. `command` is the part of the URL after the
-    /// port and starts with "/"; the rows supply the scheme, the address and the web port (80 if unknown).
-    /// `title` is displayed as the name of the batch.
+    /// port and starts with "/"; the rows supply the scheme, the address and the web port (80 if unknown). A
+    /// device behind a P2P tunnel (127.0.0.1) is accessed over HTTP at the local port of its web tunnel;
+    /// without one nothing is sent, and its result is LoginResult::NetworkFailure. `title` is displayed as
+    /// the name of the batch.
     ///
     /// The rows get the command as "url" when the batch has started. They get "result" at the end of their
     /// devices: the start of the response (up to 4,000 characters), "Error:" and the reason, or the text for
@@ -37,8 +39,9 @@ public:
     /// to a total length. If the response is not kept, returns `result`.
     Q_INVOKABLE [[nodiscard]] QString responseOf(const QString &identity, const QString &result) const;
 
-    /// The failures of a batch of send(): a line with "address:port", two spaces and the result for each
-    /// device that has not succeeded, grouped by result. Empty without a batch.
+    /// The failures of a batch of send(): a line with "address:port", two spaces and the result in one line
+    /// for each device that has not succeeded, also if it is not done; sorted by result. Empty without a
+    /// batch.
     Q_INVOKABLE [[nodiscard]] QStringList failuresOf(Batch *batch) const;
 
 Q_SIGNALS:

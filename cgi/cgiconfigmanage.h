@@ -57,8 +57,9 @@ public:
     /// workbook runs, nothing is sent, and the message is the reason.
     Q_INVOKABLE QString batchCGIConfig(const QString &path);
 
-    /// Ends the running request immediately; its device may have executed the command. Of a workbook, no
-    /// further command is sent, and the results so far are saved. Returns before the stopped call returns.
+    /// Ends the running request immediately; its device may have executed the command. A running login check
+    /// is not ended. Of a workbook, no further command is sent, and the results so far are saved. Returns
+    /// before the stopped call returns. No effect while nothing runs.
     Q_INVOKABLE void stop();
 
     /// The rows (maps or JSON objects) sorted by the text of the field `key`, in the order of its Unicode

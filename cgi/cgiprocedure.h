@@ -27,8 +27,8 @@ struct CgiSurroundings
 
     /// If true, the reason of a failed transfer is in the user's language, followed by the library's text,
     /// and the reason of a failure by another status than 200 contains the status. If false, the reason of a
-    /// failed transfer is the library's text only. All other reasons are in the user's language in both
-    /// cases.
+    /// failed transfer is the library's text only, and the status is stated only if the second request has
+    /// it. All other reasons are in the user's language in both cases.
     bool explainsFailures = false;
 };
 
@@ -50,7 +50,8 @@ inline const QString failedResult = QStringLiteral("Error:");
 struct CgiResponse
 {
     QString text;                ///< see CgiProcedure::run()
-    bool hasNoResponse = false;  ///< failed without a complete response: another attempt may succeed
+    /// Failed without a complete response, also because of a stop: another attempt may succeed.
+    bool hasNoResponse = false;
     bool isLoginRefused = false; ///< the web service refuses the account or its password (status 401)
 
     /// The verdict on the device's certificate, if it prevented a request over HTTPS.
@@ -76,8 +77,9 @@ public:
 
     /// Blocks. `url` is complete, with its scheme; `ipport` is the "address:port" of the login. Returns the
     /// text of a text response, the path of the file of an image or a recording, or "Error:" and the reason.
-    /// Returns an empty text when the file cannot be created; a warning is logged. An incomplete recording is
-    /// kept in a file, whose path follows the reason.
+    /// When the file cannot be created, a warning is logged, and the result depends on the first response: an
+    /// empty text if it was complete, otherwise "Error:" and the reason why it was not. An incomplete
+    /// recording is kept in a file, whose path follows the reason.
     [[nodiscard]] QString run(const QString &url, const QString &user, const QString &password,
                               const QString &ipport) const;
 
@@ -85,8 +87,10 @@ public:
     [[nodiscard]] CgiResponse exchange(const QString &url, const QString &user,
                                        const QString &password) const;
 
-    /// The reason why a login with this result prevents the command, in the user's language. Empty for a
-    /// success and for every other result that does not prevent it.
+    /// The reason why a login with this result prevents the command, in the user's language. The results that
+    /// prevent it are NoSuchAccount, WrongPassword, AccountLocked, NetworkFailure, NotInitialised, Upgrading,
+    /// UnknownCertificate and ChangedCertificate of LoginResult, and 99 (unknown error). Empty for all
+    /// others.
     [[nodiscard]] static QString loginRefusal(int loginResult);
 
 private:

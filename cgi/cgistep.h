@@ -25,7 +25,7 @@ using ResponseSink = std::function<void(const QString &response)>;
 /// Checks the login, then sends the command. `surroundings` is copied; its watch is not used. The result of
 /// the outcome is
 /// - the result of the login, if CgiProcedure::loginRefusal() has a reason for it; without a text;
-/// - NotDone after a stop between the login and the command; without a text;
+/// - NotDone after a stop or the deadline between the login and the command; without a text;
 /// - WrongPassword if the web service refuses the account; with a text;
 /// - UnknownCertificate or ChangedCertificate if the certificate prevents the command; without a text;
 /// - commandFailed after another failure, also after a stop during the transfer; with a text;
@@ -42,7 +42,7 @@ using ResponseSink = std::function<void(const QString &response)>;
 /// recording may take any time.
 [[nodiscard]] BatchPolicy commandPolicy(const Batches &batches);
 
-/// True if the batch ended before the command of the device was sent.
+/// True if the step ended with NotDone: the command of the device was not sent.
 [[nodiscard]] bool isNotDone(const StepOutcome &outcome);
 
 /// The text of a row or a cell for an outcome of cgiStep() or refusedCgiStep(): the start of the response,

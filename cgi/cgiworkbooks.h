@@ -34,10 +34,10 @@ public:
     /// are sent in their order. When the results are in the file, ended() is emitted with a message for the
     /// user, and the workbook is released.
     ///
-    /// Returns the batch, which QML does not own. Returns null without a workbook, while a workbook runs, and
-    /// after Batches::refused() if the batch was not started. Also returns null if the file has been changed
-    /// since it was read: then the workbook is released, and ended() is emitted with the reason during this
-    /// call.
+    /// Must not be called between read() and its signal. Returns the batch, which QML does not own. Returns
+    /// null without a workbook, while a workbook runs, and after Batches::refused() if the batch was not
+    /// started. Also returns null if the file has been changed since it was read: then the workbook is
+    /// released, and ended() is emitted with the reason during this call.
     Q_INVOKABLE Batch *run(const QString &title, const QStringList &lines);
 
 Q_SIGNALS:
@@ -46,8 +46,9 @@ Q_SIGNALS:
     /// command must not be sent, usually empty).
     void wasRead(const QVariantList &lines);
 
-    /// Emitted at the end of a batch with a message as that of CGIConfigManage::batchCGIConfig(), or with the
-    /// reason why a workbook is not read or not run.
+    /// A message in the user's language: at the end of a batch the numbers of succeeded, failed and not sent
+    /// commands and the file with the results (or the reason why they cannot be saved), otherwise the reason
+    /// why a workbook is not read or not run.
     void ended(const QString &text);
 
 private:
@@ -64,7 +65,8 @@ private:
     Batches &m_batches;
     const CgiSurroundings m_surroundings;
     QThreadPool m_files; ///< one thread
-    /// Null when there is none. While it runs, only the file thread accesses its file.
+    /// Null when there is none. While it runs, only the file thread accesses its file; the destructor does
+    /// so after the end of that thread.
     std::shared_ptr<Workbook> m_workbook;
     bool m_isRunning = false; ///< also until the results are in the file
     int m_work = 0;           ///< handle of reading or writing in the busy state; 0 for none

@@ -23,7 +23,7 @@ struct WorkbookCommand
 /// other row a command. The columns are address (also "address:web port"), port of the login, user name,
 /// password, command, scheme (an integer other than 0 for HTTPS, anything else for HTTP) and result.
 ///
-/// Not thread-safe. Operations block.
+/// Not thread-safe: several threads may use an object only one after another. Operations block.
 class CommandWorkbook
 {
     Q_DECLARE_TR_FUNCTIONS(CommandWorkbook)

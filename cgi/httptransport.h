@@ -15,7 +15,9 @@
 /// Time limits of an exchange. An exchange that reaches a limit fails as TimedOut.
 struct HttpLimits
 {
-    std::chrono::milliseconds total{0}; ///< with the connection attempt; 0 for no limit
+    /// With the connection attempt; 0 for no limit. The connection attempt also has a limit of its own, see
+    /// CurlTransport.
+    std::chrono::milliseconds total{0};
     long slowestRate = 0;               ///< in bytes per second; 0 for no limit
     std::chrono::seconds slowTime{0};   ///< longest time below `slowestRate`; 0 for no limit
 };
@@ -31,7 +33,7 @@ enum class HttpFailure
     Tls,         ///< no encrypted connection
     Malformed,   ///< the response is not HTTP
     Interrupted, ///< the device closed the connection before the end of the response
-    Other,
+    Other,       ///< also ended by the watch or the sink, or because of too long headers
 };
 
 /// How an exchange ended.

@@ -20,9 +20,9 @@ enum class ResponseKind
 /// of the format for an image (".jpg" for an unknown one). Empty for a text.
 [[nodiscard]] QString responseFileEnding(const QByteArray &headers);
 
-/// The text of a response's body, which is usually UTF-8. If it is not UTF-8, the encoding is that of its
-/// byte order mark, otherwise the "charset" of the last "Content-Type" header, otherwise UTF-8. Undecodable
-/// bytes become replacement characters.
+/// The text of a response's body, which is usually UTF-8. If it is not UTF-8 or has null bytes, the encoding
+/// is that of its byte order mark, otherwise the "charset" of the last "Content-Type" header, otherwise
+/// UTF-8. Undecodable bytes become replacement characters.
 [[nodiscard]] QString responseText(const QByteArray &headers, const QByteArray &body);
 
 /// "<folder>/<yyyyMMddhhmmss><ending>": two responses within a second have the same file, and the later one

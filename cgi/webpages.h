@@ -10,23 +10,24 @@
 
 /// Opens web pages of devices in the browser of the desktop. The browser does not know the keys that the user
 /// has accepted, and the user enters the password there: so the key of a device is checked first, with the
-/// certificate handler of the transport. Lives on the main thread. The checks run on threads of the global
-/// pool and send no account.
+/// certificate handler of the transport. The check is a GET of the page without an account, on a thread of
+/// the global pool. The user is not asked about a refused key. Lives on the main thread.
 class WebPages : public QObject
 {
     Q_OBJECT
 public:
     explicit WebPages(std::shared_ptr<HttpTransport> transport, QObject *parent = nullptr);
-    ~WebPages() override; ///< ends the running checks; their pages are not opened
+    ~WebPages() override; ///< ends the running checks without waiting; their pages are not opened
 
     /// Opens the page with this URL. A page without TLS is opened during this call. An "https://" page is
-    /// opened later, after the check of the key, which takes up to five seconds. The page of a device that
-    /// does not respond is opened as well: the browser reports that.
+    /// opened later, after the check of the key, which takes up to five seconds. It is also opened if the
+    /// check fails for another reason, such as no response: the browser reports that.
     Q_INVOKABLE void open(const QString &page);
 
 Q_SIGNALS:
     /// A page was not opened: the key of the device is unknown or has changed, or there is no browser.
-    /// `reason` is in the user's language.
+    /// `reason` is in the user's language. Without a browser it is emitted during open() for a page without
+    /// TLS.
     void refused(const QString &reason);
 
 private:

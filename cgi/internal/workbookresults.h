@@ -5,8 +5,8 @@
 #include <QElapsedTimer>
 
 /// Writes the results of the commands to the rows of their workbook. Saves the workbook's file in finish(),
-/// and in take() if the last save was more than 30 s ago, so that few results are lost in a crash. Not
-/// thread-safe.
+/// and in take() if the last save or the construction was more than 30 s ago, so that few results are lost in
+/// a crash. Not thread-safe.
 class WorkbookResults
 {
     Q_DECLARE_TR_FUNCTIONS(WorkbookResults)
@@ -23,7 +23,7 @@ public:
 
     /// Saves the results. Returns a message for the user in the user's language: the numbers of succeeded,
     /// failed and not sent commands (those without a result), and the file with the results or the reason why
-    /// they cannot be saved.
+    /// they cannot be saved. That is another file than the opened one if the latter cannot be written.
     [[nodiscard]] QString finish();
 
 private:
