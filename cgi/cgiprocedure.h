@@ -49,7 +49,7 @@ inline const QString failedResult = QStringLiteral("Error:");
 /// The result of a command.
 struct CgiResponse
 {
-    QString text;                ///< see CgiProcedure::run()
+    QString text; ///< see CgiProcedure::run()
     /// Failed without a complete response, also because of a stop: another attempt may succeed.
     bool hasNoResponse = false;
     bool isLoginRefused = false; ///< the web service refuses the account or its password (status 401)

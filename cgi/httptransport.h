@@ -18,8 +18,8 @@ struct HttpLimits
     /// With the connection attempt; 0 for no limit. The connection attempt also has a limit of its own, see
     /// CurlTransport.
     std::chrono::milliseconds total{0};
-    long slowestRate = 0;               ///< in bytes per second; 0 for no limit
-    std::chrono::seconds slowTime{0};   ///< longest time below `slowestRate`; 0 for no limit
+    long slowestRate = 0;             ///< in bytes per second; 0 for no limit
+    std::chrono::seconds slowTime{0}; ///< longest time below `slowestRate`; 0 for no limit
 };
 
 /// Kinds of failures that need different actions of the user.

@@ -45,16 +45,17 @@ enum class SnapProblem
 
 struct SnapOutcome
 {
-    QString path;    ///< the "file:///" URL of the file, empty on failure
+    QString path;    ///< "file:///" and the absolute path of the file; empty on failure
     QString message; ///< in the user's language, empty on success
     SnapProblem problem = SnapProblem::None;
-    QString reason; ///< details of the problem in the user's language; may be empty
+    /// Details of the problem in the user's language, of NotWritten as text of the system; may be empty.
+    QString reason;
 };
 
 /// Opens a separate main stream of the channel, waits for a frame, and saves it as "<channel>.jpg" (from 0)
 /// in the folder of the task. An existing file is replaced. Tries again every snapPauseMilliseconds, up to
 /// SnapTask::tries times. Blocks for these pauses and for the responses of the device. After a new login it
-/// opens the stream again. A file that cannot be written ends it immediately. A request to stop ends it
-/// before the next try. Any thread except the main thread, which would block.
+/// opens the stream again. A refused stream and a file that cannot be written end it immediately. A request
+/// to stop ends it before the next pause. Any thread except the main thread, which would block.
 [[nodiscard]] SnapOutcome takeSnapshot(const SnapTask &task, const SnapChannel &channel,
                                        const std::stop_token &stop);

@@ -29,8 +29,8 @@ public:
 Q_SIGNALS:
     /// Emitted on the separate thread, once for each channel whose snapshot was started; a snapshot that is
     /// cancelled while it runs is reported as a failure. `kind` is SnapTask::kind, `channel` is from 0.
-    /// `path` is the "file:///" URL of the JPEG file, empty on failure. `message` is the reason of a failure
-    /// in the user's language, empty on success.
+    /// `path` is "file:///" and the absolute path of the JPEG file, empty on failure. `message` is the reason
+    /// of a failure in the user's language, empty on success.
     void captured(const QString &kind, int channel, const QString &path, const QString &message);
 
 protected:

@@ -40,8 +40,8 @@ public:
     /// must be false. If no decoder port is free, the start succeeds and no frame arrives.
     bool start(const StreamOpening::Request &request);
 
-    /// As start(), but does not block. Emits startEnded() when the device has responded, unless stop() is
-    /// called first. isOpen() is true from the call on.
+    /// As start(), but does not block. isOpen() must be false, and is true from the call on. Emits
+    /// startEnded() when the device has responded, unless stop() is called first.
     void startInBackground(const StreamOpening::Request &request);
 
     /// Closes the stream or cancels a start, and clears currentFrame(). Waits for the decoder's thread.
