@@ -87,9 +87,9 @@ public:
     [[nodiscard]] bool isSaving() const { return m_isSaving; }      ///< saveAll() has begun and not ended
 
     /// Calls clear(), adds the devices of `rows`, and starts a batch that fetches their images. `rows` are
-    /// maps with the keys of DeviceRowKey and "identity". Ignores rows without an identity, and all but the
-    /// first row with the same identity. Returns false if the batch does not start, see fetchAll(); the cells
-    /// then stay in the state Waiting.
+    /// maps with "identity" (the name of the row), "ipport", "name" and "model". Ignores rows without an
+    /// identity, and all but the first row with the same identity. Returns false if the batch does not start,
+    /// see fetchAll(); the cells then stay in the state Waiting.
     Q_INVOKABLE bool show(const QVariantList &rows);
 
     /// Reads the current names and addresses of the devices from the device list. A device that was removed
@@ -101,8 +101,8 @@ public:
     Q_INVOKABLE void renameChannel(const QString &ipport, int channel, const QString &name);
 
     /// Starts a batch that fetches the images of all devices again. Returns false and changes nothing if
-    /// there are no devices, if a batch of the gallery is running, or if Batches::start() refuses the batch,
-    /// for example while a batch of another page is running.
+    /// deviceFactory or batches is not set, if there are no devices, if a batch of the gallery is running, or
+    /// if Batches::start() refuses the batch, for example while a batch of another page is running.
     Q_INVOKABLE bool fetchAll();
 
     /// Starts a batch that fetches the image of a cell again. For a device with one cell it fetches the
@@ -119,7 +119,8 @@ public:
 
     /// Writes the images as "<device>/<channel>.jpg" in ApplicationFolders::snapshots(), on a separate
     /// thread. <device> is address and port with "_" for special characters, <channel> counts from 0.
-    /// Existing files are replaced. Emits saved() at the end. No effect without images, or while saving.
+    /// Existing files are replaced. Emits saved() at the end. No effect without images or a device factory,
+    /// or while saving.
     Q_INVOKABLE void saveAll();
 
     /// The values of the cell at `row` (from 0) by role name; empty for an invalid row.
@@ -136,8 +137,8 @@ Q_SIGNALS:
     void savingChanged();
 
     /// Emitted at the end of saveAll(): number of written files, number of files that could not be written,
-    /// path of the folder of snapshots, and the reason of the first failure as text of the system, empty
-    /// without one.
+    /// path of the folder of snapshots, and the reason of the first failure (text of the system, or in the
+    /// user's language for a folder that cannot be created), empty without one.
     void saved(int files, int failures, const QString &folder, const QString &reason);
 
 private:
