@@ -21,6 +21,6 @@ struct AddressOrder
 };
 
 /// Orders the changes so that no device gets an address that another device of the batch still has. Otherwise
-/// keeps the given order. Devices with the same old address, or with the same new address, do not depend on
-/// each other. Any thread.
+/// keeps the given order. Devices with the same new address do not depend on each other. Of devices with the
+/// same old address, one that keeps it comes after those that leave it. Any thread.
 [[nodiscard]] AddressOrder addressOrder(const QList<AddressChange> &changes);

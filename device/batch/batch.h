@@ -16,8 +16,9 @@
 /// arrive from the engine's threads in groups, at most one group every 16 ms.
 ///
 /// A device has succeeded, failed, been skipped (BatchReport::isSkipped()), is waiting for a further step, or
-/// is not done: it has no result yet, or the batch ended before its turn. Functions that return "names" or
-/// "identities" use BatchDevice::name and BatchDevice::identity.
+/// is not done: it has no result yet, the batch ended before its turn, or its step ended early (the outcome
+/// is NotDone). Functions that return "names" or "identities" use BatchDevice::name and
+/// BatchDevice::identity.
 ///
 /// Lives on the main thread; created and owned by Batches. The destructor stops a running batch.
 class Batch : public QObject
@@ -47,7 +48,7 @@ public:
     {
         BatchDevice device;
         StepOutcome outcome = {.result = BatchReport::NotDone, .text = {}};
-        QDateTime time;        ///< of the outcome; invalid if the device is not done
+        QDateTime time;        ///< of the outcome; invalid before it, and without one at the end
         QString account = {};  ///< account of the step; empty if the plan has no accountOf
         QByteArray login = {}; ///< hash of account and password of the step, compared for a retry
     };
@@ -67,7 +68,7 @@ public:
     [[nodiscard]] QString summary() const;
     /// The number of devices of the batch.
     [[nodiscard]] int total() const { return static_cast<int>(m_entries.size()); }
-    /// The number of devices with an outcome: succeeded, failed, skipped or waiting.
+    /// The number of devices with an outcome, also of those whose step ended early with NotDone.
     [[nodiscard]] int done() const { return m_done; }
     /// 0 to 1: the share of done() in total(), or the value of noteProgress() if that is greater.
     [[nodiscard]] double progress() const;
@@ -158,8 +159,8 @@ public:
     /// Names of the devices of this batch that have not succeeded: failed, skipped, waiting or not done.
     Q_INVOKABLE [[nodiscard]] QStringList failedDevices() const;
 
-    /// Why devicesToRetry() cannot be retried now, in the user's language; empty if there is a device and the
-    /// batch has ended.
+    /// Why devicesToRetry() cannot be retried now, in the user's language; empty if there is a device to
+    /// retry, the batch has ended, and no device waits for a further step.
     [[nodiscard]] QString retryRefusal() const;
 
     /// Whether the batch has ended and its device with this identity can be retried. False for devices that

@@ -21,9 +21,9 @@ class CDeviceFactory;
 ///  - "identity": the name of the row, see rowName()
 ///  - "note": the user's note about the device, which the text search includes
 ///
-/// get() returns all keys of the row, also account and password, and in addition "checked", "num",
-/// "identity", "failure" (see FollowedMarks::messagesOf()) and "onlyNotDone" (see FailedMarks), but not
-/// "conflict".
+/// get() returns all keys of the row, also "username" and "password", and in addition "checked", "num",
+/// "identity", "failure" (see FollowedMarks::messagesOf()), "onlyNotDone" (see FailedMarks) and, if the
+/// device has one, "note", but not "conflict".
 ///
 /// refresh() reads all rows with one call of the factory's filterData() or filterDataIPV6(); the model then
 /// filters and orders them, so that rows, counts and conflicts are consistent. Check marks belong to the

@@ -25,7 +25,7 @@ public:
     /// The progress of adding a favourite to the device list.
     enum Progress
     {
-        Untried, ///< not added since load() or forgetProgress()
+        Untried, ///< not added since it was first loaded, or since forgetProgress()
         Running, ///< is being added
         Added,
         Failed,
@@ -79,8 +79,8 @@ Q_SIGNALS:
 protected:
     /// Keys: "checked", "identity", "fileName", "num" (position among all favourites, shown or not, from 1,
     /// as text), "type" ("IP" or "P2P"), "ip" (address or P2P ID), "port" (text), "ipport", "username",
-    /// "note", "progress" (a Progress) and "message". Texts are cut to 200 characters. The map contains no
-    /// password, since the contents of a table can be copied.
+    /// "note", "progress" (a Progress) and "message". Values of the file are cut to 200 characters. The map
+    /// contains no password, since the contents of a table can be copied.
     [[nodiscard]] QVariantMap valuesOf(int row) const override;
     [[nodiscard]] bool isChecked(int row) const override { return at(row).checked; }
     void setChecked(int row, bool checked) override { m_favourites[m_shown.at(row)].checked = checked; }

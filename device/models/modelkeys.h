@@ -16,7 +16,8 @@ inline constexpr QLatin1StringView changed("changed"); ///< bool: differs from t
 /// Lines with the results of its marks, and a line if the last search did not find the device, in the user's
 /// language. Empty for neither.
 inline constexpr QLatin1StringView failure("failure");
-inline constexpr QLatin1StringView onlyNotDone("onlyNotDone"); ///< bool: no batch has failed with the device
+/// Bool: all marks of the device are from batches that did not reach it; true without marks.
+inline constexpr QLatin1StringView onlyNotDone("onlyNotDone");
 
 // Devices of batches, their previews and their results.
 inline constexpr QLatin1StringView device("device");         ///< "address:port", or another name for the user

@@ -59,7 +59,9 @@ public:
     enum Shown
     {
         All,
-        Failed,    ///< devices with a mark; becomes All when no device that passes the filter is marked
+        /// Devices with a mark. After a change of the marks it becomes All if no mark is left, or if no
+        /// device that passes the filter is marked and there is no search text.
+        Failed,
         LoggedOut, ///< devices without a login so far, or whose last login failed
     };
     Q_ENUM(Shown)
