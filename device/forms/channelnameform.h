@@ -8,9 +8,9 @@
 
 /// One row for each channel; the index of a row is the number of its channel (from 0). An edited name stays
 /// in this model until it is written. The roles are those of DialogRows; "identity" is the channel number
-/// from 0 as text. The role "conflict" is true for a row whose name is empty or too long, or whose last
-/// write failed. The model sends no requests: the page handles writeRequested() and reports the result with
-/// takeWritten(). A row index out of range is ignored. Lives on the main thread.
+/// from 0 as text. The role "conflict" is true for a row whose changed name is empty or too long, or whose
+/// last write failed. The model sends no requests: the page handles writeRequested() and reports the result
+/// with takeWritten(). A row index out of range is ignored. Lives on the main thread.
 class ChannelNameForm : public DialogRows
 {
     Q_OBJECT

@@ -42,7 +42,7 @@ class EncodeForm : public QObject
     ///  - "usable": whether the value was read and another one can be set
     ///
     /// The keys "exists" and "hasAudio" (bool) of the map say whether the device has this stream, and audio
-    /// in it.
+    /// in it. The map is empty before a factory is set.
     Q_PROPERTY(QVariantMap mainStream READ mainStream NOTIFY changed)
     Q_PROPERTY(QVariantMap subStream READ subStream NOTIFY changed)
     /// The types of the sub stream that the device offers; may be empty.

@@ -166,8 +166,8 @@ public:
     virtual void getVideoIn() {}
     /// The same with signalCDeviceChangeVideoChannel.
     virtual void getVideoInByChangeChannel() {}
-    /// Copies the encode values of the session to the devices at these addresses and ports;
-    /// signalCDeviceRetToCopyConfig reports the result of each.
+    /// Copies the encode values of the session to the devices at these addresses and ports, one after
+    /// another, and blocks for them; signalCDeviceRetToCopyConfig reports the result of each.
     virtual void copyConfigToDevice(const QStringList & /*devlist*/) {}
     /// Reads the encode values of the selected channel; emits signalCDeviceChangeEncodeChannel.
     virtual void getEncodeInfo() {}
@@ -198,7 +198,8 @@ public:
     virtual bool importDevice(const QString & /*path*/, ImportSummary & /*summary*/) { return {}; }
     /// Writes the IPv4 rows of these names to a list file, replacing an existing one; the suffix of
     /// `fileName` selects the format. `folder` is a path or "file:///" URL. Names without a row are left out.
-    /// Returns false if no device is left or the file cannot be written.
+    /// The file contains passwords in plain text, but not those of stored accounts. Returns false if no
+    /// device is left or the file cannot be written.
     virtual bool exportDevice(const QString & /*folder*/, const QStringList & /*macs*/,
                               const QString & /*fileName*/)
     {
@@ -423,8 +424,8 @@ Q_SIGNALS:
     /// A series of channel names was written (see SessionKey::channelNamesSaved), with or without failures,
     /// or the name of the image page's channel was written with success.
     void signalCDeviceSetChannelNameFinished();
-    /// A snapshot of `channel` (from 0) is finished. `path` is a "file:///" URL, empty on failure; `message`
-    /// is then the reason in the user's language.
+    /// A snapshot of `channel` (from 0) is finished. `path` is "file:///" and the absolute path of the file,
+    /// empty on failure; `message` is then the reason in the user's language.
     void signalSnapPictureToFile(int channel, const QString &path, const QString &message);
     /// The same for a snapshot of the kind "againCapture".
     void signalSnapPictureToFileAgain(int channel, const QString &path, const QString &message);

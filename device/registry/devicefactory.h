@@ -387,8 +387,8 @@ Q_SIGNALS:
     /// The names of the encode values that the device has refused, one line for each; empty on success.
     void signalConfirmEncodeConfig(const QString &resStr);
     void signalSetChannelNameFinished(); ///< channel names were written
-    /// A snapshot of `channel` (from 0) is finished. `path` is a "file:///" URL, empty on failure; `message`
-    /// is then the reason.
+    /// A snapshot of `channel` (from 0) is finished. `path` is "file:///" and the absolute path of the file,
+    /// empty on failure; `message` is then the reason.
     void signalSnapPictureToFile(int channel, const QString &path, const QString &message);
     /// The same for a snapshot of the kind "againCapture".
     void signalSnapPictureToFileAgain(int channel, const QString &path, const QString &message);

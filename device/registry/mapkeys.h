@@ -80,8 +80,9 @@ inline constexpr QLatin1StringView disks("disks");
 namespace AccountKey {
 inline constexpr QLatin1StringView account("account");
 inline constexpr QLatin1StringView password("password");
-inline constexpr QLatin1StringView isStored("isStored");   ///< bool: it is the stored account of the device
-inline constexpr QLatin1StringView isDefault("isDefault"); ///< bool: it is the default account
+inline constexpr QLatin1StringView isStored("isStored"); ///< bool: it is the stored account of the device
+/// Bool: it is the default account, or that of setFollowingAccount().
+inline constexpr QLatin1StringView isDefault("isDefault");
 /// Bool: see CDeviceBase::setFollowingAccount().
 inline constexpr QLatin1StringView isFollowing("isFollowing");
 } // namespace AccountKey
@@ -99,10 +100,10 @@ inline constexpr QLatin1StringView password("password");
 /// The result of an operation with a device. A map has only those keys that its function states.
 namespace ResultKey {
 inline constexpr QLatin1StringView identity("identity"); ///< DeviceToAddKey::identity
-inline constexpr QLatin1StringView result("result");     ///< int: a LoginResult
-inline constexpr QLatin1StringView message("message");   ///< the result in the user's language
-inline constexpr QLatin1StringView text("text"); ///< more than the result says, in the user's language
-inline constexpr QLatin1StringView name("name"); ///< the name of a channel after it was written
+inline constexpr QLatin1StringView result("result");   ///< int: a LoginResult or another code of resultName()
+inline constexpr QLatin1StringView message("message"); ///< the result in the user's language
+inline constexpr QLatin1StringView text("text");       ///< more than the result says, in the user's language
+inline constexpr QLatin1StringView name("name");       ///< the name of a channel after it was written
 } // namespace ResultKey
 
 /// A line of a device list or an upgrade document.

@@ -13,7 +13,7 @@
 /// The result of a snapshot of a channel.
 struct OwnImage
 {
-    QString path = {};    ///< "file:///" URL of the file; empty on failure
+    QString path = {};    ///< "file:///" and the absolute path of the file; empty on failure
     QString message = {}; ///< reason of the failure in the user's language
 };
 

@@ -68,8 +68,8 @@ public:
     /// call claim(), portFor() or giveBack().
     void giveBack(int localPort, const std::function<bool()> &isListed);
 
-    /// The reason why requests fail for every device, in the user's language: a missing or invalid setting,
-    /// or an agent that did not start. Otherwise empty.
+    /// The reason why requests fail for every device, in the user's language: an agent that did not start, or
+    /// a missing or invalid setting, which an agent that has started may not need. Otherwise empty.
     [[nodiscard]] QString faultText() const;
 
     /// Removes the mapping of a local port. Does nothing for 0. Ends no registration.

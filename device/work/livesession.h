@@ -60,8 +60,8 @@ Q_SIGNALS:
     /// are the channels after a new login, maps with the keys of ChannelKey; empty after a failure and if the
     /// session was kept.
     void ended(int result, const QVariantList &channels);
-    /// A takeImage() has ended. `path` is a "file:///" URL, empty on failure; `message` is then the reason in
-    /// the user's language.
+    /// A takeImage() has ended. `path` is "file:///" and the absolute path of the file, empty on failure;
+    /// `message` is then the reason in the user's language.
     void imageTaken(int channel, const QString &path, const QString &message);
 
 private:

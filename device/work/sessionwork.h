@@ -40,8 +40,9 @@ public:
     /// Selects the mode with this index in "allSwitchMode" and reads its settings.
     Q_INVOKABLE void chooseImageMode(int index);
     /// Writes values of the group `key` (a key of CameraKey) one after another. Each entry of `values` is a
-    /// list of two: a setting (a key of CameraSetting) and its value. If the device stops responding, the
-    /// remaining values are not written.
+    /// list of two: a setting (a key of CameraSetting) and its value. The setting is an empty string if `key`
+    /// is not a group but a single value, such as "curChannelName" or "setDefault". If the device stops
+    /// responding, the remaining values are not written.
     Q_INVOKABLE void writeImage(const QString &key, const QVariantList &values);
 
     // Names of channels.

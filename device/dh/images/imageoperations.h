@@ -39,9 +39,10 @@ public:
     /// Takes snapshots of the current session's device one after another on a separate thread, after those
     /// of earlier calls, and returns immediately. `kind` is "liveCapture" for all channels, each of which
     /// emits CDeviceBase::signalSnapPictureToFile, or "againCapture" for `channel` (from 0), which emits
-    /// CDeviceBase::signalSnapPictureToFileAgain; others are ignored. The signals also report failures. A
-    /// session with another device ends the snapshots of this one. `address` is the name of the device's
-    /// folder in the folder of snapshots.
+    /// CDeviceBase::signalSnapPictureToFileAgain; others are ignored. The signals also report failures. After
+    /// a login to another device, the remaining snapshots of this one are reported as failures. `address` is
+    /// the name of the device's folder in the folder of snapshots; characters that file systems do not accept
+    /// become "_".
     void takeSnapshots(const QString &kind, int channel, const QString &address);
 
     /// A step for each channel of the current session, in their order; none without a session. A step saves a

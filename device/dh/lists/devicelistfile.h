@@ -22,9 +22,9 @@ struct UnreadableText
 constexpr std::size_t maximumUnreadableTexts = 1000;
 
 /// The fields that an import of a file with this name and these lines would not read back unchanged, in
-/// their order, at most maximumUnreadableTexts. Includes missing addresses (a device without an address from
-/// DHCP), since an import rejects such a line. Accesses no file: CSV and XML text is formatted and parsed in
-/// memory. Workbooks keep every character, so that only the rules for fields apply.
+/// their order, at most maximumUnreadableTexts. Includes missing addresses (of a device that waits for DHCP),
+/// since an import rejects such a line. Accesses no file: CSV and XML text is formatted and parsed in memory.
+/// Workbooks keep every character, so that only the rules for fields apply.
 [[nodiscard]] std::vector<UnreadableText> unreadableTexts(const QString &fileName,
                                                           const std::vector<DeviceListLine> &lines);
 

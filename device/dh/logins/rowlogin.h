@@ -40,7 +40,7 @@ struct RowLoginOutcome
 /// Logs in, queries the values of a row, and logs out; changes no stored row. The last query is a directed
 /// search: a search request to this address only. Blocks for the timeouts of the library, up to 5 s for each
 /// query. A query that fails leaves its part of the row empty and does not change the result; the web port is
-/// 80 then. NotDone if `control` ends the step before the last query. If it ends later, only the directed
-/// search is left out. Any thread.
+/// 80 then. NotDone if `control` ends the step before the last but one query (the ports of services). If it
+/// ends during that query, only the directed search is left out. Any thread.
 [[nodiscard]] RowLoginOutcome loginForRow(const sdk::SdkLibraries &libraries, const RowLoginRequest &request,
                                           const StepControl &control = StepControl());

@@ -27,8 +27,8 @@ public:
                  UpgradeCheck isUpgrading);
 
     /// Initialises a device: creates its first account. After a success the account is set in the device's
-    /// row. Any thread; blocks for the device. For a device without a search record, no request is sent and
-    /// the result is Success.
+    /// row. Any thread; blocks for the device. For a device without a search record, and without a network
+    /// library, no request is sent and the result is Success.
     StepOutcome initialise(const QString &mac, const QString &account, const QString &password);
 
     /// Step of initialise(). NotSupported, without a request, if no search has found the device or its

@@ -44,6 +44,7 @@ public:
     /// The step of a command for one device, with the results of run(). It uses the account that the device
     /// has at this call. "readTime" reads the clock of the device: the text of the outcome is its time,
     /// compared with the host's. "modifyPassword" without an open login of "loginCheck" returns NotDone.
+    /// "cancelLogin" has no step: it counts as an unknown command.
     [[nodiscard]] DeviceStep step(const QString &command, const QVariantMap &data, const QString &ipport);
 
     /// Closes the logins that "loginCheck" has kept open. Blocks for the devices.

@@ -45,15 +45,15 @@ public:
     /// checked.
     [[nodiscard]] std::vector<UpgradeDocumentLine> lines();
 
-    /// The opened file; after keep() the file to which the results were written.
+    /// The opened file; after a successful keep() the file to which the results were written.
     [[nodiscard]] const QString &path() const { return m_path; }
 
     /// Sets the result cell of a row in memory; keep() writes it. A failure is logged.
     void setResult(int row, const QString &result);
 
-    /// Writes the results to the opened file. If that fails, writes the workbook to a file next to it.
-    /// Returns a message for the user: the path of the file, or the error (see isKept()). Blocks for the
-    /// file.
+    /// Writes the results to the opened file. If that fails, writes the workbook to a new file next to it or
+    /// in the user's documents folder. Returns a message for the user: the path of the file, or the error
+    /// (see isKept()). Blocks for the file.
     [[nodiscard]] QString keep();
 
     /// Whether keep() has succeeded.

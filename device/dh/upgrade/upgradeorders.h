@@ -23,7 +23,8 @@ public:
     UpgradeOrders(std::shared_ptr<DeviceStore> store, const DeviceLogins &logins);
 
     /// Order for a row, with the file in the row. The account is that of an earlier document line for the
-    /// row, if there is one and the device has not refused it, otherwise that of DeviceLogins::accountOf().
+    /// row, if there is one, the last upgrade was not refused because of it, and DeviceLogins::accountOf() is
+    /// the same as then. Otherwise it is that of DeviceLogins::accountOf().
     [[nodiscard]] UpgradeOrder orderOf(const QJsonObject &row) const;
 
     /// Order for a document line, with its file. `row` is the row with its address; empty if there is none.
