@@ -20,7 +20,7 @@ struct StepOutcome
     int result = resultCode(LoginResult::Success); ///< a LoginResult, or another code of the operation
     QString text;               ///< details in the user's language; empty if the code is sufficient
     QString response = {};      ///< response text of a command; Batch passes it on but does not keep it
-    bool hasNoResponse = false; ///< the device was reached but did not respond: a retry may succeed
+    bool hasNoResponse = false; ///< a request got no complete response: a retry may succeed
 
     bool operator==(const StepOutcome &) const = default;
 };

@@ -12,7 +12,7 @@ inline constexpr QLatin1StringView dstConfig("dstConfig");
 inline constexpr QLatin1StringView ntpConfig("ntpConfig");
 inline constexpr QLatin1StringView autoMaintain("autoMaintain");
 inline constexpr QLatin1StringView rebootDevice("rebootDevice"); ///< without data
-inline constexpr QLatin1StringView resetSystem("resetSystem");   ///< without data
+inline constexpr QLatin1StringView resetSystem("resetSystem");   ///< to factory settings; without data
 inline constexpr QLatin1StringView videoStandard("videoStandard");
 inline constexpr QLatin1StringView channelName("channelName"); ///< SystemDataKey::name, of the first channel
 /// SystemDataKey::password: the old one. Logs in and keeps the login for modifyPassword; the result is then

@@ -34,7 +34,7 @@ public:
         AccountLocked = 11,
         NotInitialised = 12,
         NotSupported = 13, ///< the device does not support upgrades, or is not initialised
-        LineUnusable = 14, ///< of a document: the address is missing or invalid
+        LineUnusable = 14, ///< of a document: the address is missing, or address or port is invalid
         ListedTwice = 15,  ///< of a document: an earlier line has the same device
         NotListed = 16,    ///< the device is no longer in the list
 

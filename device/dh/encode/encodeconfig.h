@@ -53,9 +53,10 @@ public:
 
     /// Changes a value; see EncodeValues::setValue(). An invalid value, and a value whose item was not read,
     /// is logged and ignored, with an empty outcome. Only the resolution of the sub stream is written
-    /// immediately, to the channel of the image page, which devices expect. If the device refuses it, the
+    /// immediately, to the channel of the image page, which devices expect. If the device refuses it, all 64
     /// entries of ValueTables::BitRateSteps are tried as the bit rate, of which the first accepted one stays.
-    /// The choices are then read again. All other values are written by confirm().
+    /// The choices are then read again, unless the device does not respond. All other values are written by
+    /// confirm().
     Outcome setValue(const QString &key, const QVariant &value, const ChannelChoice &channels);
 
     /// Writes all items that were read, changed or not. `notWritten` lists those that the device refused,
