@@ -73,9 +73,10 @@ public:
     /// several lines. After 100,000 lines the rest is omitted, and a last line states that.
     Q_INVOKABLE QStringList linesOf(const QString &text) const;
 
-    /// Saves a text as UTF-8 in a new file "<yyyyMMddhhmmss>.txt" in the existing folder `folder`, with "_2",
-    /// "_3" and so on before ".txt" if that file exists. Returns the "path" of the file with the separators
-    /// of the system, and a "failure" (reason as text of the system) that is empty on success.
+    /// Saves a text as UTF-8 in a new file "<yyyyMMddhhmmss>.txt" in the existing folder `folder` (a local
+    /// path), with "_2", "_3" and so on before ".txt" if that file exists. Returns the "path" of the file
+    /// with the separators of the system, and a "failure" (reason as text of the system) that is empty on
+    /// success.
     Q_INVOKABLE QVariantMap saveText(const QString &folder, const QString &text) const;
 
     /// The path of the template workbook in the user's language, in the folder "template" of

@@ -48,7 +48,7 @@ public:
     {
         BatchDevice device;
         StepOutcome outcome = {.result = BatchReport::NotDone, .text = {}};
-        QDateTime time;        ///< of the outcome; invalid before it, and without one at the end
+        QDateTime time;        ///< of the outcome; invalid before it, and for a device that was not reached
         QString account = {};  ///< account of the step; empty if the plan has no accountOf
         QByteArray login = {}; ///< hash of account and password of the step, compared for a retry
     };
@@ -148,9 +148,9 @@ public:
     /// not done. Skipped and waiting devices are left out. Pages check the rows of these devices.
     Q_INVOKABLE [[nodiscard]] QStringList failedIdentities() const;
 
-    /// Identities of the devices of this batch that refused their account, and of the devices that are not
-    /// done and have an account that another device has refused. Empty if the plan has no accountOf or cannot
-    /// be retried.
+    /// Identities of the devices of this batch that refused their account, and of the devices without an
+    /// outcome that have an account that another device has refused. Empty if the plan has no accountOf or
+    /// cannot be retried.
     Q_INVOKABLE [[nodiscard]] QStringList devicesOfRefusedAccounts() const;
 
     /// Names of the devices of devicesToRetry().

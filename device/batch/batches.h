@@ -114,8 +114,8 @@ public:
     /// Same for the device with this identity only.
     Q_INVOKABLE Batch *retryDevice(Batch *batch, const QString &identity);
 
-    /// Writes the results of a batch to the file `path` on a separate thread and returns immediately, see
-    /// saveBatchResults(). resultsSaved() follows. Does nothing if `batch` is null.
+    /// Writes the results of a batch to the file `path` (a local path) on a separate thread and returns
+    /// immediately, see saveBatchResults(). resultsSaved() follows. Does nothing if `batch` is null.
     Q_INVOKABLE void saveResults(Batch *batch, const QString &path);
 
     /// Same for all kept batches, in one file. Does nothing if there are none.

@@ -42,8 +42,8 @@ public:
     /// The text of a shown line (label and value), for the clipboard; empty if `row` is out of range.
     Q_INVOKABLE [[nodiscard]] QString lineText(int row) const;
 
-    /// Writes `text` as UTF-8 to a file and replaces an existing one. Returns false on failure: the reason
-    /// is logged, and an existing file is unchanged.
+    /// Writes `text` as UTF-8 to a file (a local path) and replaces an existing one. Returns false on
+    /// failure: the reason is logged, and an existing file is unchanged.
     Q_INVOKABLE [[nodiscard]] bool write(const QString &path) const;
 
 Q_SIGNALS:

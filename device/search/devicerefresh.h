@@ -27,6 +27,7 @@ class DeviceRefresh : public QObject
 {
     Q_OBJECT
 public:
+    /// `store` must not be null. With a network library, the clock must not be null either.
     DeviceRefresh(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries);
 
     /// Stops the running tasks and waits for them.

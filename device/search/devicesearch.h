@@ -24,6 +24,7 @@ class DeviceSearch : public QObject
 {
     Q_OBJECT
 public:
+    /// `store` must not be null. With a network library, the clock must not be null either.
     DeviceSearch(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries);
 
     /// Stops running searches and waits for their tasks.
