@@ -88,6 +88,13 @@ const QList<Stage> &stagesOfTour()
                  walkFirstSearch(driver);
                  walkGallery(driver, *site, driver.imageFolder() + u"/images"_s);
              }},
+        {.name = u"manual"_s,
+         .scene = u"office"_s,
+         .password = u"Office-2024"_s,
+         .drive =
+             [](Driver &driver, DemoSite *site) {
+                 takeManualImages(driver, *site);
+             }},
     };
     return stages;
 }

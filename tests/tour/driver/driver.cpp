@@ -272,18 +272,24 @@ void Driver::check(bool condition, const QString &what) const
 
 void Driver::report(const QString &step, const QString &seen)
 {
+    const QString name = QStringLiteral("%1-%2").arg(++m_images, 2, 10, QLatin1Char('0')).arg(step);
+    save(name);
+    QTextStream(stdout) << name << ".png: " << seen << Qt::endl;
+}
+
+void Driver::save(const QString &name) const
+{
     atRest();
     checkNames(m_window->contentItem());
-    const QString name = QStringLiteral("%1-%2.png").arg(++m_images, 2, 10, QLatin1Char('0')).arg(step);
+    const QString file = name + QStringLiteral(".png");
     // Grabbing the window updates the layout of items that have changed since the last frame.
     const QImage image = m_window->grabWindow();
     // A warning fails the tour at its end, so that the other images are still checked.
     const QStringList faults = layoutFaults(*m_window);
     for (const QString &fault : faults)
-        qWarning().noquote() << "Layout of" << name + ':' << fault;
-    check(!image.isNull() && image.save(m_imageFolder + QLatin1Char('/') + name),
-          QStringLiteral("the image %1 is saved").arg(name));
-    QTextStream(stdout) << name << ": " << seen << Qt::endl;
+        qWarning().noquote() << "Layout of" << file + ':' << fault;
+    check(!image.isNull() && image.save(m_imageFolder + QLatin1Char('/') + file),
+          QStringLiteral("the image %1 is saved").arg(file));
 }
 
 void Driver::checkNames(QQuickItem *item) const

@@ -79,6 +79,9 @@ public:
     /// the layout is logged as a warning, which fails the tour at its end.
     void report(const QString &step, const QString &seen);
 
+    /// Saves an image "<name>.png" with the same checks as report().
+    void save(const QString &name) const;
+
 private:
     /// Waits until animations have ended and the item accepts clicks.
     [[nodiscard]] QQuickItem *requireForClicks(const QString &name) const;
