@@ -1,5 +1,12 @@
-// Build tool that turns a document written in Markdown into a PDF file: documentwriter <file.md> <file.pdf>.
-// The language is that of the file's name ("manual_zh_CN.md").
+// Build tool that turns a document written in Markdown into a PDF file:
+//
+//   documentwriter FILE.md FILE.pdf [FOLDER]
+//
+// FOLDER has the images of the document. Without it, the PDF has no images and no captions. An image that is
+// missing in the folder is an error.
+#include "documents/documentcontents.h"
+#include "documents/documentimages.h"
+#include "documents/pagebreaks.h"
 #include "documents/searchabletext.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -9,15 +16,16 @@
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QImage>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSaveFile>
 #include <QTextBlock>
 #include <QTextDocument>
-#include <QTextDocumentFragment>
 #include <QTextFrame>
 #include <QTextList>
 #include <QTextTable>
+#include <QUrl>
 
 #include <cstdio>
 
@@ -149,12 +157,6 @@ void styleTable(QTextTable *table, qreal width)
     }
 }
 
-/// A quoted paragraph is a note; its box is painted with the page.
-bool isNote(const QTextBlock &block)
-{
-    return block.blockFormat().intProperty(QTextFormat::BlockQuoteLevel) > 0;
-}
-
 void styleBlock(const QTextBlock &block)
 {
     QTextBlockFormat format = block.blockFormat();
@@ -166,6 +168,15 @@ void styleBlock(const QTextBlock &block)
         setBlockSpace(format, notePadding + 4 * pt, notePadding + 10 * pt);
         format.setLeftMargin(notePadding + 4 * pt);
         format.setRightMargin(notePadding);
+    } else if (isImage(block)) {
+        setBlockSpace(format, 4 * pt, 5 * pt, 100);
+        QTextCursor(block).setBlockFormat(format);
+        return;
+    } else if (isCaption(block)) {
+        setBlockSpace(format, 0, 12 * pt, 130);
+        QTextCursor(block).setBlockFormat(format);
+        setText(block, 9 * pt, QFont::Normal, Colour::sub);
+        return;
     } else if (block.textList()) {
         const bool isLast = block.next().textList() != block.textList();
         setBlockSpace(format, 0, (isLast ? 8 : 3) * pt);
@@ -205,52 +216,12 @@ void style(QTextDocument &document, qreal width)
         styleLead(lead);
 }
 
-int pageOf(const QTextDocument &document, qreal y)
+void styleContents(const QTextBlock &line)
 {
-    return static_cast<int>(y / document.pageSize().height());
-}
-
-void breakPageBefore(QTextBlock block)
-{
-    // Headings, and the sentence before a table, stay on the same page as the following text.
-    for (QTextBlock before = block.previous(); before.isValid(); before = before.previous()) {
-        const QString text = before.text();
-        const bool leadsOn = before.blockFormat().headingLevel() > 1 || text.endsWith(QLatin1Char(':')) ||
-                             text.endsWith(QChar(0xff1a));
-        if (!leadsOn || QTextCursor(before).currentTable())
-            break;
-        block = before;
-    }
-    QTextBlockFormat format = block.blockFormat();
-    format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
-    QTextCursor(block).setBlockFormat(format);
-}
-
-/// Keeps a table, a note, and a heading with the first lines below it on one page.
-void placePageBreaks(QTextDocument &document)
-{
-    QAbstractTextDocumentLayout *layout = document.documentLayout();
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        QTextTable *table = QTextCursor(block).currentTable();
-        qreal top = layout->blockBoundingRect(block).top();
-        qreal bottom = top;
-        if (table) {
-            if (block != table->firstCursorPosition().block())
-                continue;
-            // The paragraph before a table introduces it.
-            const QRectF area = layout->frameBoundingRect(table);
-            top = block.previous().isValid() ? layout->blockBoundingRect(block.previous()).top() : area.top();
-            bottom = area.bottom() - table->format().bottomMargin() - 1;
-        } else if (isNote(block)) {
-            bottom = layout->blockBoundingRect(block).bottom();
-        } else if (block.blockFormat().headingLevel() > 0 && block.next().isValid()) {
-            const QRectF next = layout->blockBoundingRect(block.next());
-            bottom = next.top() + std::min(next.height(), 34 * pt);
-        }
-        if (pageOf(document, top) == pageOf(document, bottom))
-            continue;
-        breakPageBefore(table && block.previous().isValid() ? block.previous() : block);
-    }
+    QTextBlockFormat format = line.blockFormat();
+    setBlockSpace(format, 0, 5 * pt, 120);
+    QTextCursor(line).setBlockFormat(format);
+    setText(line, textSize, QFont::Normal, Colour::textColor);
 }
 
 void drawNotes(QPainter &painter, const QTextDocument &document, int page)
@@ -266,6 +237,21 @@ void drawNotes(QPainter &painter, const QTextDocument &document, int page)
     }
 }
 
+/// A window has the colour of the page, so that its edge needs a line.
+void drawImageEdges(QPainter &painter, const QTextDocument &document, int page)
+{
+    painter.setPen(QPen(Colour::line, 0.8 * pt));
+    painter.setBrush(Qt::NoBrush);
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        if (!isImage(block))
+            continue;
+        const QRectF area = document.documentLayout()->blockBoundingRect(block);
+        const qreal height = block.begin().fragment().charFormat().toImageFormat().height();
+        if (pageOf(document, area.top()) == page)
+            painter.drawRect(QRectF(area.left(), area.top(), document.pageSize().width(), height));
+    }
+}
+
 void drawPage(QPainter &painter, const QTextDocument &document, int page, const QSizeF &paper,
               const QString &title)
 {
@@ -276,8 +262,11 @@ void drawPage(QPainter &painter, const QTextDocument &document, int page, const 
     context.clip = QRectF(0, page * body.height(), body.width(), body.height());
     context.palette.setColor(QPalette::Text, Colour::textColor);
     drawNotes(painter, document, page);
-    painter.setClipRect(context.clip);
+    // The background of code is higher than its line, also of the first line of the next page.
+    painter.setClipRect(context.clip.adjusted(0, 0, 0, -pt));
     document.documentLayout()->draw(&painter, context);
+    painter.setClipping(false);
+    drawImageEdges(painter, document, page);
     painter.restore();
 
     if (page == 0)
@@ -293,8 +282,9 @@ void drawPage(QPainter &painter, const QTextDocument &document, int page, const 
                      QStringLiteral("%1 / %2").arg(page + 1).arg(document.pageCount()));
 }
 
-/// The document as PDF; empty when it could not be painted.
-QByteArray pdfOf(const QString &markdown)
+/// The document as PDF; empty when it could not be painted. `imageFolder` is empty for a document without
+/// images.
+QByteArray pdfOf(const QString &markdown, const QString &imageFolder)
 {
     QByteArray pdf;
     QBuffer output(&pdf);
@@ -309,11 +299,18 @@ QByteArray pdfOf(const QString &markdown)
     QTextDocument document;
     document.setDocumentMargin(0);
     document.setDefaultFont(textFont(textSize));
-    document.setMarkdown(markdown, QTextDocument::MarkdownDialectGitHub);
+    document.setBaseUrl(QUrl::fromLocalFile(imageFolder + u'/'));
+    document.setMarkdown(imageFolder.isEmpty() ? withoutImages(markdown) : markdown,
+                         QTextDocument::MarkdownDialectGitHub);
     document.setIndentWidth(18 * pt);
+    placeImages(document, width);
     style(document, width);
+    const DocumentContents contents(document, width, styleContents);
     document.setPageSize(QSizeF(width, paper.height() - marginTop - marginBottom));
-    placePageBreaks(document);
+    placePageBreaks(document, 34 * pt);
+    contents.setPages([&document](const QTextBlock &heading) {
+        return pageOf(document, document.documentLayout()->blockBoundingRect(heading).top());
+    });
 
     const QString title = document.begin().text();
     writer.setTitle(title);
@@ -328,6 +325,20 @@ QByteArray pdfOf(const QString &markdown)
     }
     painter.end();
     return withSearchableText(pdf, document.toRawText(), textFont(textSize));
+}
+
+/// True if the folder has all images of the document.
+bool hasImages(const QString &markdown, const QString &folder)
+{
+    const QStringList names = imagesOf(markdown);
+    for (const QString &name : names) {
+        const QString path = folder + u'/' + name;
+        if (QImage(path).isNull()) {
+            std::fprintf(stderr, "%s: the image is missing or cannot be read\n", qPrintable(path));
+            return false;
+        }
+    }
+    return true;
 }
 
 bool hasFonts()
@@ -348,8 +359,8 @@ int main(int argc, char **argv)
 {
     const QGuiApplication application(argc, argv);
     const QStringList arguments = QGuiApplication::arguments();
-    if (arguments.size() != 3) {
-        std::fprintf(stderr, "usage: documentwriter FILE.md FILE.pdf\n");
+    if (arguments.size() != 3 && arguments.size() != 4) {
+        std::fprintf(stderr, "usage: documentwriter FILE.md FILE.pdf [FOLDER]\n");
         return 2;
     }
     QFile input(arguments.at(1));
@@ -357,9 +368,11 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "%s: %s\n", qPrintable(input.fileName()), qPrintable(input.errorString()));
         return 1;
     }
-    if (!hasFonts())
+    const QString markdown = QString::fromUtf8(input.readAll());
+    const QString imageFolder = arguments.value(3);
+    if (!hasFonts() || (!imageFolder.isEmpty() && !hasImages(markdown, imageFolder)))
         return 1;
-    const QByteArray pdf = pdfOf(QString::fromUtf8(input.readAll()));
+    const QByteArray pdf = pdfOf(markdown, imageFolder);
     if (pdf.isEmpty()) {
         std::fprintf(stderr, "%s: it could not be turned into PDF\n", qPrintable(input.fileName()));
         return 1;
