@@ -1124,7 +1124,7 @@
     </message>
     <message>
         <source>网络连接失败。</source>
-        <translation>No answer from the device.</translation>
+        <translation>No response from the device.</translation>
     </message>
     <message>
         <source>设备未初始化。</source>
@@ -1421,7 +1421,7 @@ Right-click to copy the result</translation>
     </message>
     <message>
         <source>设备没有应答</source>
-        <translation>No answer from the device</translation>
+        <translation>No response from the device</translation>
     </message>
     <message>
         <source>设备改变了名称</source>
@@ -2352,7 +2352,7 @@ Right-click to copy the result</translation>
     <name>EncodeForm</name>
     <message>
         <source>设备没有应答</source>
-        <translation>No answer from the device</translation>
+        <translation>No response from the device</translation>
     </message>
     <message>
         <source>设备不支持此操作</source>
@@ -3276,7 +3276,7 @@ Right-click to copy the result</translation>
     </message>
     <message>
         <source>设备没有应答，修改可能没有写入</source>
-        <translation>No answer from the device. The change may not have been written.</translation>
+        <translation>No response from the device. The change may not have been written.</translation>
     </message>
     <message>
         <source>没有修改：%1。显示的是设备现有的值</source>
@@ -3594,7 +3594,7 @@ Right-click to copy the result</translation>
     <name>LoginMemory</name>
     <message>
         <source>%1 没有应答</source>
-        <translation>No answer from %1</translation>
+        <translation>No response from %1</translation>
     </message>
 </context>
 <context>
@@ -3664,7 +3664,7 @@ Right-click to copy the result</translation>
     </message>
     <message>
         <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
-        <translation>More than %1 devices answered. %2 further answers are not listed. Search a smaller range.</translation>
+        <translation>More than %1 devices responded. %2 further responses are not listed. Search a smaller range.</translation>
     </message>
     <message>
         <source>演示站点</source>
@@ -5107,7 +5107,7 @@ File: </translation>
     </message>
     <message>
         <source>网络异常</source>
-        <translation>No answer from the device</translation>
+        <translation>No response from the device</translation>
     </message>
     <message>
         <source>协议不匹配</source>
@@ -5191,7 +5191,7 @@ File: </translation>
     </message>
     <message>
         <source>该地址上应答的是其他设备</source>
-        <translation>Another device answers at the address</translation>
+        <translation>Another device responds at the address</translation>
     </message>
     <message>
         <source>设备已接受，但结果未确认</source>
@@ -5257,7 +5257,7 @@ File: </translation>
     </message>
     <message>
         <source>没有地址应答</source>
-        <translation>No answer from any address</translation>
+        <translation>No response from any address</translation>
     </message>
     <message>
         <source>检查搜索设置中的地址范围，以及设备是否已通电。</source>
@@ -5377,11 +5377,11 @@ File: </translation>
     </message>
     <message>
         <source>没有收到任何应答</source>
-        <translation>No answers received</translation>
+        <translation>No responses received</translation>
     </message>
     <message>
         <source>检查设备是否已通电并连接到同一网络，以及本机的防火墙和交换机是否过滤了应答。也可以在搜索设置中按地址搜索。</source>
-        <translation>Check that the devices are powered on and in the same network, and that no firewall or switch filters their answers. You can also search by address: see the search settings.</translation>
+        <translation>Check that the devices are powered on and in the same network, and that no firewall or switch filters their responses. You can also search by address: see the search settings.</translation>
     </message>
     <message>
         <source>找到 %1 台设备，比上次搜索少 %2 台。</source>
@@ -5825,7 +5825,7 @@ File: </translation>
     <name>SystemOperations</name>
     <message>
         <source>设备没有应答</source>
-        <translation>No answer from the device</translation>
+        <translation>No response from the device</translation>
     </message>
     <message>
         <source>没有读到设备的时间</source>
@@ -5833,7 +5833,7 @@ File: </translation>
     </message>
     <message>
         <source>设备没有应答，密码可能已修改</source>
-        <translation>No answer from the device. Its password may have been changed.</translation>
+        <translation>No response from the device. Its password may have been changed.</translation>
     </message>
 </context>
 <context>
@@ -6269,7 +6269,7 @@ File: </translation>
     </message>
     <message>
         <source>由程序填写：设备的应答，图片或录像的文件路径，或以“Error:”开头的失败原因。</source>
-        <translation>Filled in by the program: the answer, the path of the image or recording, or &quot;Error:&quot; and the reason.</translation>
+        <translation>Filled in by the program: the response, the path of the image or recording, or &quot;Error:&quot; and the reason.</translation>
     </message>
     <message>
         <source>命令</source>
@@ -6656,7 +6656,7 @@ File: </translation>
     </message>
     <message>
         <source>再次升级重试可能成功的设备，例如无应答的设备</source>
-        <translation>Upgrades the devices again for which a retry may help, such as those that did not answer</translation>
+        <translation>Upgrades the devices again for which a retry may help, such as those that did not respond</translation>
     </message>
     <message>
         <source>升级文档</source>
@@ -6784,7 +6784,7 @@ File: </translation>
     </message>
     <message>
         <source>设备无应答</source>
-        <translation>No answer from the device</translation>
+        <translation>No response from the device</translation>
     </message>
     <message>
         <source>设备忙，请稍后重试</source>
@@ -6800,7 +6800,7 @@ File: </translation>
     </message>
     <message>
         <source>设备重启后未恢复</source>
-        <translation>No answer after the restart</translation>
+        <translation>No response after the restart</translation>
     </message>
     <message>
         <source>重启后仍是原版本</source>
