@@ -19,8 +19,8 @@
 
 namespace {
 
-constexpr double allowedMegabytes = 16;            // from the second round to the last one
-constexpr double allowedMegabytesPerRound = 0.125; // over the last three quarters of the rounds
+constexpr double allowedMegabytes = 16;            // over the last three quarters of the rounds
+constexpr double allowedMegabytesPerRound = 0.125; // over the same rounds
 constexpr double allowedObjectsPerRound = 2;       // delegates of lists are created and removed in batches
 constexpr qsizetype enoughForSlope = 8;
 
@@ -117,8 +117,10 @@ QStringList growthOf(const QList<ProcessFigures> &rounds)
     QStringList growth;
     const ProcessFigures &second = rounds.at(1);
     const ProcessFigures &last = rounds.constLast();
-    if (const double grown = last.megabytes - second.megabytes; grown > allowedMegabytes)
-        growth.append(QStringLiteral("memory: +%1 MB since the second round").arg(grown, 0, 'f', 1));
+    // Caches and kept results fill in the first quarter.
+    const qsizetype filled = std::max<qsizetype>(1, rounds.size() / 4);
+    if (const double grown = last.megabytes - rounds.at(filled).megabytes; grown > allowedMegabytes)
+        growth.append(QStringLiteral("memory: +%1 MB since round %2").arg(grown, 0, 'f', 1).arg(filled + 1));
     if (last.threads > second.threads)
         growth.append(QStringLiteral("threads: %1 instead of %2").arg(last.threads).arg(second.threads));
     if (last.descriptors > second.descriptors)
@@ -127,7 +129,7 @@ QStringList growthOf(const QList<ProcessFigures> &rounds)
                           .arg(second.descriptors));
     if (rounds.size() < enoughForSlope)
         return growth;
-    const QList<ProcessFigures> later = rounds.mid(rounds.size() / 4);
+    const QList<ProcessFigures> later = rounds.mid(filled);
     const auto slopeOf = [&later](const std::function<double(const ProcessFigures &)> &figure) {
         QList<double> values;
         for (const ProcessFigures &round : later)

@@ -24,6 +24,7 @@ struct ProcessFigures
 [[nodiscard]] double medianSlope(const QList<double> &values);
 
 /// A text for each figure that grew over the rounds, whose figures are in their order; empty if none did. The
-/// first round is not compared, because it fills caches. Requires at least two rounds. Growth per round is
-/// checked from eight rounds.
+/// first quarter of the rounds, at least one round, is not compared for memory and objects, because it fills
+/// caches and lists of results. Threads and descriptors are compared with the second round. Requires at least
+/// two rounds. Growth per round is checked from eight rounds.
 [[nodiscard]] QStringList growthOf(const QList<ProcessFigures> &rounds);

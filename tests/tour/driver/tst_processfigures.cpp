@@ -44,7 +44,7 @@ private Q_SLOTS:
         row(
             "large leak, few rounds", 3,
             [](int round) { return ProcessFigures{.megabytes = 100.0 + 30 * round}; },
-            "memory: +30.0 MB since the second round");
+            "memory: +30.0 MB since round 2");
         row(
             "thread", 3, [](int round) { return ProcessFigures{.threads = round < 2 ? 20 : 21}; },
             "threads: 21 instead of 20");
