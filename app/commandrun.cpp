@@ -67,6 +67,12 @@ bool isCommand(const QStringList &arguments)
     return arguments.size() > 1 && !arguments.at(1).startsWith(u'-');
 }
 
+bool commandNeedsFonts(const QStringList &arguments)
+{
+    const commandline::Command *command = commandline::findCommand(arguments.value(1));
+    return command && command->needsFonts;
+}
+
 QString commandOverview(const QString &program)
 {
     return commandline::overview(program);

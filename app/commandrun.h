@@ -15,5 +15,9 @@
 /// the event loop.
 [[nodiscard]] int runCommand(const QStringList &arguments);
 
+/// Whether the command in the arguments of the process draws text: runCommand() then requires a
+/// QGuiApplication, whose platform may be one without a display.
+[[nodiscard]] bool commandNeedsFonts(const QStringList &arguments);
+
 /// The text with the list of commands, in English. `program` is the name of the executable file.
 [[nodiscard]] QString commandOverview(const QString &program);

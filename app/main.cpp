@@ -41,7 +41,12 @@ int main(int argc, char *argv[])
 {
     const QStringList arguments = argumentsOf(argc, argv);
     if (isCommand(arguments)) {
-        const QCoreApplication application(argc, argv); // works without a display
+        if (commandNeedsFonts(arguments)) {
+            qputenv("QT_QPA_PLATFORM", "offscreen"); // works without a display
+            const QGuiApplication application(argc, argv);
+            return runCommand(arguments);
+        }
+        const QCoreApplication application(argc, argv);
         return runCommand(arguments);
     }
     // Without the options of Qt, such as -style, which only the application object removes.

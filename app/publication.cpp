@@ -18,6 +18,7 @@
 #include "device/search/searchreports.h"
 #include "device/store/devicenotes.h"
 #include "files/applicationfolders.h"
+#include "report/sitereport.h"
 
 #include <QCoreApplication>
 #include <QQmlApplicationEngine>
@@ -55,6 +56,10 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
     batches->keepFailedIn(store);
     QObject::connect(accountList, &AccountList::changed, batches, &Batches::noteAccounts);
     context->setContextProperty(QStringLiteral("BatchesApi"), batches);
+    auto *changes = new VisitChanges(*CDeviceFactory::getinstance(), *batches,
+                                     VisitChanges::ImagesBefore::Taken, batches);
+    context->setContextProperty(QStringLiteral("SiteReportApi"),
+                                new SiteReport(*CDeviceFactory::getinstance(), *batches, changes, batches));
     context->setContextProperty(QStringLiteral("AddingBatchesApi"),
                                 new AddingBatches(*CDeviceFactory::getinstance(), *batches, batches));
     context->setContextProperty(QStringLiteral("CertificatesApi"),

@@ -71,6 +71,12 @@ const std::vector<Option> &knownOptions()
          "upgrade document with devices, accounts and firmware files; it receives the results"_L1},
         {"workbook"_L1, Required, "WORKBOOK"_L1,
          "commands with devices and accounts; it receives the results"_L1},
+        {"name"_L1, Required, "TEXT"_L1, "name of the site (Site), also in the names of the files"_L1},
+        {"installer"_L1, Required, "TEXT"_L1, "name of the installer, on the first page"_L1},
+        {"files"_L1, Required, "KINDS"_L1, "pdf, xlsx or pdf,xlsx (pdf,xlsx)"_L1},
+        {"visit"_L1, Required, "FILE"_L1,
+         "the changes of a visit: a command that changes devices adds its changes to FILE, and\n"
+         "report lists them"_L1},
         {"help"_L1, None, {}, "print this text and end"_L1},
     };
     return options;

@@ -38,6 +38,7 @@ struct Command
     std::vector<QLatin1StringView> options; ///< names of the accepted options, in the order of the help
     int minimumOperands = 0;
     int maximumOperands = 0;                       ///< negative: no limit
+    bool needsFonts = false;                       ///< draws text: needs a QGuiApplication
     int (*run)(CommandContext &context) = nullptr; ///< runs the command to its end, returns the exit code
 };
 

@@ -28,5 +28,6 @@ struct CommandContext;
 [[nodiscard]] int runImport(CommandContext &context);
 /// "upgrade": upgrades the firmware of devices.
 [[nodiscard]] int runUpgrade(CommandContext &context);
+[[nodiscard]] int runReport(CommandContext &context);
 
 } // namespace commandline

@@ -2,6 +2,8 @@
 
 #include "commandline/commandfunctions.h"
 #include "commandline/settings.h"
+#include "commandline/visitfile.h"
+#include "report/visitchanges.h"
 
 #include <algorithm>
 
@@ -71,7 +73,7 @@ const std::vector<Command> &commands()
          .help = "--user and the password are those of the new account. The password has 8 to 32\n"
                  "characters of at least two kinds. With --devices all, only the devices that are not\n"
                  "initialised take part.\n"_L1,
-         .options = with({"devices"_L1, "filter"_L1, "user"_L1, "password-file"_L1, "dry-run"_L1}),
+         .options = with({"devices"_L1, "filter"_L1, "user"_L1, "password-file"_L1, "visit"_L1, "dry-run"_L1}),
          .run = &runInit},
         {.name = "set-address"_L1,
          .operands = {},
@@ -80,7 +82,7 @@ const std::vector<Command> &commands()
                  "command still has. Warnings, such as an address of another device, end the command\n"
                  "before the first change, unless --force is given.\n"_L1,
          .options = withDevices(
-             {"start"_L1, "map"_L1, "dhcp"_L1, "mask"_L1, "gateway"_L1, "force"_L1, "dry-run"_L1}),
+             {"start"_L1, "map"_L1, "dhcp"_L1, "mask"_L1, "gateway"_L1, "force"_L1, "visit"_L1, "dry-run"_L1}),
          .run = &runSetAddress},
         {.name = "get"_L1,
          .operands = "encode|image|system [SETTING ...]"_L1,
@@ -94,7 +96,7 @@ const std::vector<Command> &commands()
          .operands = "encode|image|system SETTING=VALUE ..."_L1,
          .summary = "change settings of devices"_L1,
          .help = {},
-         .options = withDevices({"channel"_L1, "dry-run"_L1}),
+         .options = withDevices({"channel"_L1, "visit"_L1, "dry-run"_L1}),
          .minimumOperands = 2,
          .maximumOperands = -1,
          .run = &runSet},
@@ -104,7 +106,7 @@ const std::vector<Command> &commands()
          .help = "COMMAND is the path with its query, as in \"/cgi-bin/device\".\n"
                  "\"-\" reads it from standard input, for commands that contain a secret. Images and\n"
                  "recordings are saved to --output. An accepted command reaches its device twice.\n"_L1,
-         .options = withDevices({"workbook"_L1, "output"_L1, "dry-run"_L1}),
+         .options = withDevices({"workbook"_L1, "output"_L1, "visit"_L1, "dry-run"_L1}),
          .maximumOperands = 1,
          .run = &runCgi},
         {.name = "snapshot"_L1,
@@ -137,8 +139,17 @@ const std::vector<Command> &commands()
          .operands = {},
          .summary = "upgrade the firmware of devices"_L1,
          .help = "Either --file, which is checked against each device, or --document.\n"_L1,
-         .options = withDevices({"file"_L1, "document"_L1, "dry-run"_L1}),
+         .options = withDevices({"file"_L1, "document"_L1, "visit"_L1, "dry-run"_L1}),
          .run = &runUpgrade},
+        {.name = "report"_L1,
+         .operands = {},
+         .summary = "write a report of the site as PDF and workbook"_L1,
+         .help = "The report lists each device with an image, its settings and conspicuous findings, and the\n"
+                 "changes in the file of --visit. The files are \"<name>-<date>-<time>.pdf\" and \".xlsx\" in\n"
+                 "--output. An interrupted command writes no file.\n"_L1,
+         .options = withDevices({"output"_L1, "name"_L1, "installer"_L1, "files"_L1, "visit"_L1}),
+         .needsFonts = true,
+         .run = &runReport},
     };
     return table;
 }
@@ -196,7 +207,13 @@ int run(const Command &command, const Arguments &arguments, Terminal &terminal,
                               .format = format.value_or(RecordFormat::Table)};
     if (!format)
         return context.fail(UsageError, u"--format is table, json or csv"_s);
+    VisitFile visit(arguments.value("visit"_L1));
+    if (command.run != &runReport && !context.isDryRun() && !visit.isWritable())
+        return context.fail(UsageError, visit.error());
+    VisitChanges changes(surroundings.factory, batches, VisitChanges::ImagesBefore::None);
     const int exitCode = command.run(context);
+    if (!visit.append(changes.changes()))
+        return context.fail(SomeFailed, visit.error());
     if (terminal.hasLostResults())
         return context.fail(SomeFailed, u"The results could not be written completely."_s);
     return exitCode;

@@ -80,7 +80,8 @@ BatchPlan snapshotPlan(const CommandContext &context, const DeviceChoice &choice
                       .policy = context.batches.usualPolicy(),
                       .isByAddress = true,
                       .canBeRetried = false,
-                      .marksFailed = false};
+                      .marksFailed = false,
+                      .changesDevices = false};
     plan.stepOf = [&factory = context.factory, folder, images, onlyChannel](const BatchDevice &device) {
         return factory.backEnd(dhFamily)->imageStep(
             {.ipport = device.ipport,

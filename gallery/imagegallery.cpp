@@ -269,7 +269,8 @@ bool ImageGallery::start(const QStringList &identities, int onlyChannel)
                       .policy = m_batches->usualPolicy(),
                       .isByAddress = true,
                       .canBeRetried = false,
-                      .marksFailed = false};
+                      .marksFailed = false,
+                      .changesDevices = false};
     for (BatchDevice &device : plan.devices) {
         if (device.ipport == device.name) // its row has been removed from the list
             device.ipport = m_cells.value(cellsOf(device.name).first).ipport;

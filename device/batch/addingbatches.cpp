@@ -81,6 +81,7 @@ void AddingBatches::takeList(List &list)
         return;
     }
     list.plan.policy = m_batches.usualPolicy();
+    list.plan.changesDevices = false;
     list.plan.takeOutcomes = [this](const QList<BatchOutcome> &outcomes) {
         noteRows(outcomes);
     };
@@ -105,7 +106,7 @@ QVariantList AddingBatches::importFailures(Batch *batch) const
 
 Batch *AddingBatches::addDevices(const QString &title, const QVariantList &devices)
 {
-    BatchPlan plan = {.family = dhFamily, .title = title, .policy = m_batches.usualPolicy()};
+    BatchPlan plan = {.family = dhFamily, .title = title, .policy = m_batches.usualPolicy(), .changesDevices = false};
     QHash<QString, DeviceToAdd> targets; // by the names in the batch
     QHash<QString, QString> identities;
     QHash<std::pair<QString, QString>, qsizetype> accounts; // number of each account: no secret in `login`

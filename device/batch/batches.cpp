@@ -34,6 +34,24 @@ QString workOf(const QString &command)
     return command == SystemCommand::loginCheck ? QString(SystemCommand::modifyPassword) : command;
 }
 
+/// The values of a system command for the record of changes.
+QString valuesOf(const QString &command, const QVariantMap &data)
+{
+    if (command == SystemCommand::setTimeByManual)
+        return data.value(SystemDataKey::time).toString();
+    if (command == SystemCommand::ntpConfig && data.value(SystemDataKey::ntpSet).toBool())
+        return data.value(SystemDataKey::ntpServer).toString();
+    return {};
+}
+
+/// Whether the device has refused the account: another attempt would count towards its lock.
+bool isAccountRefused(int result)
+{
+    return result == resultCode(LoginResult::WrongPassword) ||
+           result == resultCode(LoginResult::NoSuchAccount) ||
+           result == resultCode(LoginResult::AccountLocked);
+}
+
 /// Whether the address of a device may have changed although the change has this result.
 bool mayBeChanged(int result)
 {
@@ -111,7 +129,10 @@ Batch *Batches::configureSystem(const QString &family, const QString &command, c
          // A password change uses the old password that the user enters, not the account of the row.
          .accountOf = workOf(command) == SystemCommand::modifyPassword ? nullptr : rowAccounts(family),
          .isByAddress = true,
-         .changesRows = command == SystemCommand::resetSystem});
+         .changesRows = command == SystemCommand::resetSystem,
+         .changesDevices = command != SystemCommand::readTime && command != SystemCommand::loginCheck &&
+                           command != SystemCommand::cancelLogin,
+         .values = valuesOf(command, values)});
 }
 
 Batch *Batches::nameCameras(const QString &family, const QString &title, const QStringList &ipports,
@@ -167,7 +188,8 @@ Batch *Batches::initialiseDevices(const QString &family, const QString &title, c
                                                                                password);
                       },
                   .changesRows = true,
-                  .notesResults = true});
+                  .notesResults = true,
+                  .values = account});
 }
 
 Batch *Batches::changeAddresses(const QString &family, const QString &title, const QStringList &macs,
@@ -366,7 +388,8 @@ Batch *Batches::takeSnapshots(const QString &family, const QString &title, const
          .policy = {.maximumParallel = 1, .deadline = stepDeadline},
          .stepOf = [stepOfChannel](const BatchDevice &channel) { return stepOfChannel.value(channel.name); },
          .canBeRetried = false, // the snapshot dialog retries single channels itself
-         .marksFailed = false});
+         .marksFailed = false,
+         .changesDevices = false});
 }
 
 Batch *Batches::retry(Batch *batch)
@@ -477,6 +500,24 @@ void Batches::stopForExit() const
     qCWarning(logDevice).noquote() << message;
 }
 
+void Batches::addStepBefore(BatchPlan &plan) const
+{
+    if (!m_stepBefore)
+        return;
+    plan.stepOf = [stepOf = plan.stepOf, before = m_stepBefore, work = plan.work,
+                   usesRowAccount = static_cast<bool>(plan.accountOf)](const BatchDevice &device) {
+        const DeviceStep first = before(work, usesRowAccount, device);
+        const DeviceStep step = stepOf(device);
+        if (!first || !step)
+            return step;
+        return DeviceStep([first, step](const StepControl &control) {
+            const StepOutcome outcome = first(control);
+            control.noteProgress();
+            return isAccountRefused(outcome.result) ? outcome : step(control);
+        });
+    };
+}
+
 bool Batches::mayStart()
 {
     if (isRunning())
@@ -494,6 +535,7 @@ Batch *Batches::start(BatchPlan plan)
         device.isUpgrading =
             !plan.rowsShowIt && UpgradeTools::isRunning(upgradeOf(m_factory, plan.family, device));
     }
+    addStepBefore(plan);
     auto *batch = new Batch(m_engine, std::move(plan), this);
     const int work = m_factory.busyState()->begin(
         batch->title(), batch->plan().holdsRows ? BusyState::Rows : BusyState::Program);

@@ -125,6 +125,15 @@ public:
     /// account may be retryable.
     void noteAccounts() const;
 
+    /// Makes a step that runs before the step of a device, in the same turn; empty for none. `work` is
+    /// BatchPlan::work. `usesRowAccount`: the step of the device logs in with the account of its row.
+    using StepBefore =
+        std::function<DeviceStep(const QString &work, bool usesRowAccount, const BatchDevice &device)>;
+    /// Sets StepBefore for all following batches. If its step reports that the device refuses the account,
+    /// that is the outcome, and the step of the device does not run: each attempt counts towards the
+    /// device's lock. Any other failure is ignored.
+    void setStepBefore(StepBefore stepBefore) { m_stepBefore = std::move(stepBefore); }
+
     /// A BatchPlan::accountOf for steps that log in with the accounts of the rows.
     [[nodiscard]] std::function<DeviceAccount(const BatchDevice &device)>
     rowAccounts(const QString &family) const;
@@ -171,6 +180,8 @@ private:
     /// Retries the device with this identity, or all devices if it is empty.
     Batch *retryWhere(Batch *batch, const QString &identity);
     void removeMoved(BatchPlan &plan);
+    /// Adds the steps of m_stepBefore to those of the plan.
+    void addStepBefore(BatchPlan &plan) const;
     /// Updates the row of a camera. A recorder's name is separate from the name of its channel 1.
     void noteCameraName(const QString &family, const BatchDevice &device, const QString &name);
     void saveRecords(const QList<BatchRecord> &records, const QString &path);
@@ -182,6 +193,7 @@ private:
     CDeviceFactory &m_factory;
     BatchEngine &m_engine;
     const std::function<int()> m_maximumParallel;
+    StepBefore m_stepBefore;
     QList<Batch *> m_kept; ///< owned, oldest first
     FailedMarks m_failedMarks;
     QThreadPool m_files; ///< one thread, which writes results

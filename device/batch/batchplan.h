@@ -96,6 +96,13 @@ struct BatchPlan
     /// Whether failed devices get a mark (FailedMarks). False for work that only reads from devices.
     bool marksFailed = true;
 
+    /// Whether a success has changed the device. False for work that only reads from devices or adds rows.
+    bool changesDevices = true;
+
+    /// The values that the work sets, as a short text in the user's language without secrets, for the record
+    /// of changes. Empty if they differ between devices: the text of a successful outcome applies then.
+    QString values = {};
+
     /// Whether the rows already show the upgrades of this batch when it starts. If so, a running upgrade in a
     /// row is no reason to skip the device.
     bool rowsShowIt = false;

@@ -7,6 +7,7 @@
 #include "device/dh/configuration/encodecopies.h"
 #include "device/dh/configuration/sessionlogins.h"
 #include "device/dh/images/imageoperations.h"
+#include "device/dh/inspection/inspectionoperations.h"
 #include "device/dh/lists/devicelists.h"
 #include "device/dh/logins/devicelogins.h"
 #include "device/dh/logins/rowlogin.h"
@@ -18,7 +19,10 @@
 #include "device/dh/upgrade/rowupgrades.h"
 #include "device/dh/upgrade/upgradeorders.h"
 #include "device/dh/upgrade/upgraderound.h"
+#include "device/registry/beforeimages.h"
 #include "device/registry/mapkeys.h"
+#include "device/store/devicerow.h"
+#include "device/store/devicestore.h"
 #include "device/store/logging.h"
 #include "sdk/netlibrary.h"
 
@@ -44,11 +48,17 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
       m_session(std::make_unique<CurrentSession>(m_libraries, *m_threads)),
       m_sessionLogins(std::make_unique<SessionLogins>(
           store, m_libraries, *m_logins, m_threads, takeOwnImage(), *m_reservations, *m_session, m_signals)),
-      m_pages(std::make_unique<ConfigurationPages>(m_libraries, *m_reservations, *m_session, m_signals)),
+      m_pages(std::make_unique<ConfigurationPages>(m_libraries, *m_reservations, *m_session, m_signals,
+                                                   [this, store](const QString &ipport, qint64 handle,
+                                                                 int channel) {
+                                                       takeBeforeChange(*store, ipport, handle, channel);
+                                                   })),
       m_encodeCopies(std::make_unique<EncodeCopies>(store, m_libraries, *m_logins, isUpgradingAt(),
                                                     *m_session, m_signals)),
       m_images(std::make_unique<ImageOperations>(store, m_libraries, *m_logins, isUpgradingAt(), *m_session,
                                                  m_signals)),
+      m_inspections(
+          std::make_unique<InspectionOperations>(store, m_libraries, *m_logins, isUpgradingAt())),
       m_search(std::make_unique<SearchOperations>(store, m_libraries, std::move(searchSettings), *m_logins,
                                                   m_signals))
 {
@@ -62,6 +72,21 @@ OwnImageTaker CDeviceDH::takeOwnImage() const
     return [libraries = m_libraries](const OwnImageOrder &order, const StepControl &control) {
         return ImageOperations::takeOwnImage(libraries, order, control);
     };
+}
+
+void CDeviceDH::takeBeforeChange(const DeviceStore &store, const QString &ipport, qint64 handle,
+                                 int channel) const
+{
+    if (!beforeImages())
+        return;
+    const QString device = rowName(store.rowAt(ipport));
+    const QString folder = beforeImages()->claim(device.isEmpty() ? ipport : device, channel);
+    if (folder.isEmpty())
+        return;
+    const QString path =
+        ImageOperations::takeQuickImage(m_libraries, handle, channel, folder, BeforeImages::maximumTries);
+    if (!path.isEmpty())
+        beforeImages()->add(device.isEmpty() ? ipport : device, channel, path);
 }
 
 UpgradeCheck CDeviceDH::isUpgrading() const
@@ -497,6 +522,11 @@ void CDeviceDH::snapPictureToFile(const QString &kind, const QVariant &channelNu
 QList<DeviceStep> CDeviceDH::snapshotSteps(const QString &address)
 {
     return m_images->snapshotSteps(address);
+}
+
+DeviceStep CDeviceDH::inspectionStep(const InspectionOrder &order)
+{
+    return m_inspections->step(order);
 }
 
 DeviceStep CDeviceDH::imageStep(const ImageOrder &order)

@@ -23,6 +23,7 @@ class EncodeCopies;
 class FoundDevices;
 class DeviceReservations;
 class ImageOperations;
+class InspectionOperations;
 class RowOperations;
 class RowUpgrades;
 class SessionLogins;
@@ -152,6 +153,9 @@ public:
     QList<DeviceStep> snapshotSteps(const QString &address) override;
     DeviceStep imageStep(const ImageOrder &order) override;
 
+    // InspectionOperations
+    DeviceStep inspectionStep(const InspectionOrder &order) override;
+
     /// Cancels running snapshots and upgrades and requests the end of all batch steps. Waits half a second
     /// at most for the upgrades, and until the result files of upgrade documents are written.
     void factoryEnds() override;
@@ -178,6 +182,8 @@ public:
 private:
     /// A function that takes one snapshot with a given login. It does not use this object.
     [[nodiscard]] OwnImageTaker takeOwnImage() const;
+    /// Stores the image of a channel of the device at `ipport` in beforeImages(), with the login `handle`.
+    void takeBeforeChange(const DeviceStore &store, const QString &ipport, qint64 handle, int channel) const;
     // The functions use m_upgrades; any thread.
 
     /// Upgrade check by row name.
@@ -205,6 +211,7 @@ private:
     const std::unique_ptr<ConfigurationPages> m_pages;
     const std::unique_ptr<EncodeCopies> m_encodeCopies;
     const std::unique_ptr<ImageOperations> m_images;
+    const std::unique_ptr<InspectionOperations> m_inspections;
     std::unique_ptr<SearchOperations> m_search;     ///< destroyed after the network library is released
     std::unique_ptr<AgentListener> m_agentListener; ///< destroyed first: no further events
     QString m_importError;                          ///< of the last device list or upgrade document

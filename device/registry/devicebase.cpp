@@ -113,6 +113,11 @@ DeviceStep CDeviceBase::imageStep(const ImageOrder &)
     return unsupportedStep();
 }
 
+DeviceStep CDeviceBase::inspectionStep(const InspectionOrder &)
+{
+    return unsupportedStep();
+}
+
 OwnSessionStep CDeviceBase::ownSessionStep(const OwnSessionOrder &)
 {
     return [](const StepControl &) {
@@ -125,6 +130,11 @@ CDeviceBase::LoginCheck CDeviceBase::loginCheck()
     return [this](const QString &ipport, const QString &account, const QString &password) {
         return checkLogin(ipport, account, password);
     };
+}
+
+void CDeviceBase::setBeforeImages(std::shared_ptr<BeforeImages> images)
+{
+    m_beforeImages = std::move(images);
 }
 
 void CDeviceBase::setP2PPorts(std::shared_ptr<P2PPorts> ports)

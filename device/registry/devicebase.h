@@ -2,6 +2,7 @@
 
 #include "device/registry/deviceimages.h"
 #include "device/registry/deviceimport.h"
+#include "device/registry/deviceinspection.h"
 #include "device/registry/ownsession.h"
 #include "device/registry/pagestep.h"
 #include "device/registry/upgradeplan.h"
@@ -13,6 +14,7 @@
 #include <memory>
 #include <tuple>
 
+class BeforeImages;
 class P2PPorts;
 
 /// Result of importing a device list file. Both are 0 if the list is refused.
@@ -382,6 +384,10 @@ public:
     /// Sets the account of all devices without an account in their row and without a stored one. It replaces
     /// the default account until setDefaultAccount() sets a different one.
     virtual void setFollowingAccount(const QString & /*account*/, const QString & /*password*/) {}
+    /// Logs in to a device with the account of accountOf(), reads its properties, the main stream of each
+    /// channel, its clock and its time server, and logs out. The current session is not affected. A device
+    /// that is not initialised or is being upgraded gets no request.
+    virtual DeviceStep inspectionStep(const InspectionOrder &order);
 
     /// checkLogin() as a function for any thread. It must not be called after the back end is destroyed.
     using LoginCheck =
@@ -391,6 +397,10 @@ public:
     /// Sets the local ports of devices behind NAT. Called by the factory before any operation, and with null
     /// at its end.
     void setP2PPorts(std::shared_ptr<P2PPorts> ports);
+
+    /// Sets where the images from before a change of image settings are stored. Without it, none is taken.
+    /// Called before any operation.
+    void setBeforeImages(std::shared_ptr<BeforeImages> images);
 
 Q_SIGNALS:
     void signalCDeviceAddDeviceToTable();        ///< the running search has added or removed rows
@@ -441,13 +451,21 @@ Q_SIGNALS:
     /// A finished search found more devices than it lists: `rows` are listed, `leftOut` responses are not.
     void signalCDeviceSearchLimited(int rows, int leftOut);
     void signalCDeviceSearchProgress(int percent); ///< of the running search, 0 to 100
+    /// An operation of the configuration pages has changed a setting of the device at `ipport`. `setting` is
+    /// a key of WrittenSetting, `channel` is from 0. `value` is the new value in the user's language, empty
+    /// if it has no short form.
+    void signalCDeviceSettingWritten(const QString &ipport, const QString &setting, int channel,
+                                     const QString &value);
 
 protected:
     /// The local ports of setP2PPorts(); null before it and at the end of the factory. Any thread.
     [[nodiscard]] const std::shared_ptr<P2PPorts> &p2pPorts() const { return m_p2pPorts; }
+    /// The images of setBeforeImages(); may be null. Any thread.
+    [[nodiscard]] const std::shared_ptr<BeforeImages> &beforeImages() const { return m_beforeImages; }
 
 private:
     std::shared_ptr<P2PPorts> m_p2pPorts;
+    std::shared_ptr<BeforeImages> m_beforeImages;
 };
 
 /// The signals of a back end in the order of their declaration. A signal outside this list cannot be emitted
@@ -465,4 +483,4 @@ inline constexpr std::tuple forwardedSignals(
     &CDeviceBase::signalSnapPictureToFileAgain, &CDeviceBase::signalCDeviceTunnelBroken,
     &CDeviceBase::signalCDeviceImportProgress, &CDeviceBase::signalCDeviceSessionOpened,
     &CDeviceBase::signalCDeviceSessionChecked, &CDeviceBase::signalCDeviceSearchLimited,
-    &CDeviceBase::signalCDeviceSearchProgress);
+    &CDeviceBase::signalCDeviceSearchProgress, &CDeviceBase::signalCDeviceSettingWritten);

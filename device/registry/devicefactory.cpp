@@ -53,7 +53,7 @@ constexpr std::tuple factorySignals(
     &CDeviceFactory::signalSnapPictureToFileAgain, &CDeviceFactory::signalTunnelBroken,
     &CDeviceFactory::signalImportProgress, &CDeviceFactory::signalSessionOpened,
     &CDeviceFactory::signalSessionChecked, &CDeviceFactory::signalSearchLimited,
-    &CDeviceFactory::signalSearchProgress);
+    &CDeviceFactory::signalSearchProgress, &CDeviceFactory::signalSettingWritten);
 static_assert(std::tuple_size_v<decltype(factorySignals)> == std::tuple_size_v<decltype(forwardedSignals)>,
               "the factory must forward every signal of a back end");
 

@@ -401,6 +401,8 @@ Q_SIGNALS:
     /// A search has ended with `rows` rows, the maximum; `leftOut` responses were dropped.
     void signalSearchLimited(int rows, int leftOut);
     void signalSearchProgress(int percent); ///< of the running search, 0 to 100
+    void signalSettingWritten(const QString &ipport, const QString &setting, int channel,
+                              const QString &value);
 
 private:
     void forwardSignals(const CDeviceBase &backEnd);

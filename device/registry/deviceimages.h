@@ -16,6 +16,9 @@ struct ImageOrder
     QString ipport;       ///< "address:port" of the device
     QString folder;       ///< absolute path, for "<channel>.jpg" (from 0); created if missing
     int onlyChannel = -1; ///< the only channel, from 0; negative: the first maximumChannels channels
+    int mostChannels = maximumChannels; ///< 1 to maximumChannels
+    int tries = 0;
+    bool isBeforeUpgrade = false;
 
     /// Called before the first image. `channels` are the channels of which images are taken, maps with the
     /// keys of ChannelKey; `channelCount` is the number of all channels of the device. Not called with

@@ -31,6 +31,14 @@ inline constexpr QLatin1StringView channelsConnected("channelsConnected"); ///< 
 inline constexpr QLatin1StringView connectedChannels("connectedChannels");
 } // namespace SessionKey
 
+/// Settings of signalCDeviceSettingWritten. Those of the image page are "image.", the group (a key of
+/// CameraKey), and "." with the key of CameraSetting if the group has several.
+namespace WrittenSetting {
+inline constexpr QLatin1StringView channelName("channelName");
+inline constexpr QLatin1StringView encode("encode");
+inline constexpr QLatin1StringView imagePrefix("image.");
+} // namespace WrittenSetting
+
 /// Capabilities of the network library. A bool states whether it has the operation.
 namespace LibraryKey {
 inline constexpr QLatin1StringView defaultPort("defaultPort");     ///< int: service port of most devices

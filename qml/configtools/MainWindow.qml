@@ -16,6 +16,7 @@ T.ApplicationWindow {
     readonly property SearchReports searchReports: SearchReportsApi  // why the last search found few devices
     readonly property CertificateList certificates: CertificatesApi  // refused certificates of devices
     readonly property var webPages: WebPagesApi  // a WebPages, which opens web pages of devices in the browser
+    readonly property SiteReport siteReport: SiteReportApi
     readonly property var colourScheme: ColourSchemeApi  // a ColourScheme, which stores the choice of colours
     readonly property DeviceNotes notes: DeviceNotesApi  // notes of the user about devices
     readonly property var memory: ViewMemoryApi  // a ViewMemory: named texts in the settings, such as "tab"
@@ -224,6 +225,7 @@ T.ApplicationWindow {
         onHelpRequested: window.localConfig.OpenHelpFile()
         onSearchRequested: if (!window.searching) window.requestSearch()
         onSettingsRequested: popups.openSearchSettings(searchSettings.read())
+        onSiteReportRequested: popups.openSiteReport(pages.tickedDevices())
         onTabRequested: index => window.turnTo(index)
     }
 
@@ -313,12 +315,15 @@ T.ApplicationWindow {
         colourChoice: window.colourScheme.choice
         currentLanguage: window.chosenLanguage
         deviceFactory: window.deviceFactory
+        fileDialogs: window.fileDialogs
         languages: languageList.entries
         localConfig: window.localConfig
         logoName: window.title
+        memory: window.memory
         toastArea: window.toastArea
         searchReports: window.searchReports
         searching: window.searching
+        siteReport: window.siteReport
         softwareName: window.localConfig.getSoftwareName()
         version: window.localConfig.getVersion()
         webPages: window.webPages
@@ -328,6 +333,7 @@ T.ApplicationWindow {
         onLanguageChosen: code => window.chooseLanguage(code)
         onQuestionsRequested: window.localConfig.OpenQAFile()
         onRestartRequested: applicationExit.requestRestart()
+        onSiteReportRequested: popups.openSiteReport(pages.tickedDevices())
         onSettingsAccepted: values => {
             if (!searchSettings.write(values))
                 popups.notify(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);

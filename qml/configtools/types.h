@@ -41,6 +41,7 @@
 #include "device/work/livesession.h"
 #include "device/work/sessionwork.h"
 #include "gallery/imagegallery.h"
+#include "report/sitereport.h"
 
 #include <QtQml/qqml.h>
 
@@ -49,6 +50,14 @@ struct CDeviceFactoryForeign
     Q_GADGET
     QML_FOREIGN(CDeviceFactory)
     QML_ANONYMOUS
+};
+
+struct SiteReportForeign
+{
+    Q_GADGET
+    QML_FOREIGN(SiteReport)
+    QML_NAMED_ELEMENT(SiteReport)
+    QML_UNCREATABLE("there is one instance per application")
 };
 
 struct DeviceNotesForeign

@@ -8,9 +8,10 @@
 #include <utility>
 
 ConfigurationPages::ConfigurationPages(sdk::SdkLibraries libraries, const DeviceReservations &reservations,
-                                       CurrentSession &session, BackEndSignals &backEndSignals)
+                                       CurrentSession &session, BackEndSignals &backEndSignals,
+                                       BeforeChange beforeChange)
     : m_libraries(std::move(libraries)), m_reservations(reservations), m_session(session),
-      m_signals(backEndSignals)
+      m_signals(backEndSignals), m_beforeChange(std::move(beforeChange))
 {
 }
 
@@ -41,7 +42,9 @@ PageStep ConfigurationPages::step(const SessionJob &job)
             const BatchEngine::Reservation reservation = m_reservations.reserve(state->ipport, control);
             if (control.isStopped())
                 return PageOutcome();
-            SessionRun run(*state, upgradeCheck(state->ipport));
+            SessionRun run(*state, upgradeCheck(state->ipport), [this, &state](int channel) {
+                m_beforeChange(state->ipport, state->session.handle(), channel);
+            });
             const QVariant value = job(run, control);
             return PageOutcome{.value = value, .take = [this, state, calls = run.takeSignals()] {
                                    if (state->session.handle() != m_session.handle())

@@ -16,9 +16,14 @@ class DeviceReservations;
 class ConfigurationPages
 {
 public:
-    /// The referenced objects must outlive this object, which must outlive its steps.
+    /// Stores the image of a channel (from 0) from before its first change. Any thread except the main
+    /// thread; blocks it for up to 2 s.
+    using BeforeChange = std::function<void(const QString &ipport, qint64 handle, int channel)>;
+
+    /// The referenced objects must outlive this object, which must outlive its steps. The steps call
+    /// `beforeChange` before they write image settings; operations on the main thread do not.
     ConfigurationPages(sdk::SdkLibraries libraries, const DeviceReservations &reservations,
-                       CurrentSession &session, BackEndSignals &backEndSignals);
+                       CurrentSession &session, BackEndSignals &backEndSignals, BeforeChange beforeChange);
 
     /// Executes operations on the state of the current session, blocks the main thread for the device's
     /// responses, and then emits the signals of the operations. Without a session the requests fail.
@@ -45,4 +50,5 @@ private:
     const DeviceReservations &m_reservations;
     CurrentSession &m_session;
     BackEndSignals &m_signals;
+    const BeforeChange m_beforeChange;
 };

@@ -21,8 +21,9 @@ QVariantList listOf(const QList<bool> &values)
 
 } // namespace
 
-SessionRun::SessionRun(SessionState &state, std::function<bool()> isUpgrading)
-    : m_state(state), m_isUpgrading(std::move(isUpgrading))
+SessionRun::SessionRun(SessionState &state, std::function<bool()> isUpgrading,
+                       std::function<void(int channel)> beforeImageChange)
+    : m_state(state), m_isUpgrading(std::move(isUpgrading)), m_beforeImageChange(std::move(beforeImageChange))
 {
 }
 
@@ -41,6 +42,22 @@ void SessionRun::noteUpgrading()
 {
     collect<&CDeviceBase::signalCDeviceConfirmEncodeConfig>(resultName(resultCode(LoginResult::Upgrading)) +
                                                             u'\n');
+}
+
+void SessionRun::noteWritten(const QString &setting, int channel, const QString &value)
+{
+    collect<&CDeviceBase::signalCDeviceSettingWritten>(m_state.ipport, setting, channel, value);
+}
+
+QString SessionRun::encodeText() const
+{
+    QStringList parts;
+    for (const QLatin1StringView key : {EncodeKey::curEncodeMode, EncodeKey::curResolution}) {
+        const QString part = m_state.encode.value(key, m_state.channels).toString().trimmed();
+        if (!part.isEmpty())
+            parts.append(part);
+    }
+    return parts.join(u' ');
 }
 
 void SessionRun::getEncodeCaps()
@@ -66,6 +83,8 @@ void SessionRun::confirmConfigData()
     }
     const EncodeConfig::Outcome outcome = m_state.encode.confirm(m_state.channels);
     collect<&CDeviceBase::signalCDeviceConfirmEncodeConfig>(outcome.notWritten);
+    if (outcome.notWritten.isEmpty())
+        noteWritten(WrittenSetting::encode, m_state.channels.curChannel, encodeText());
     if (outcome.result != 0)
         noteResult(outcome.result);
 }
@@ -121,6 +140,8 @@ void SessionRun::setEncodeValue(const QString &key, const QVariant &value)
     const EncodeConfig::Outcome outcome = m_state.encode.setValue(key, value, m_state.channels);
     if (!outcome.notWritten.isEmpty())
         collect<&CDeviceBase::signalCDeviceConfirmEncodeConfig>(outcome.notWritten);
+    else if (key == EncodeKey::subCurResolution && outcome.result == 0)
+        noteWritten(WrittenSetting::encode, m_state.channels.curVideoChannel, value.toString());
     if (outcome.result != 0)
         noteResult(outcome.result);
 }
@@ -156,12 +177,17 @@ void SessionRun::setCameraValue(const QString &key, const QVariant &value, const
     if (key != CameraKey::curSwitchMode && m_isUpgrading()) {
         failure = resultCode(LoginResult::Upgrading);
     } else {
-        switch (m_state.camera.setValue(key, value, subKey, m_state.channels.curVideoChannel)) {
+        const int channel = m_state.channels.curVideoChannel;
+        if (m_beforeImageChange && key != CameraKey::curSwitchMode && key != CameraKey::curChannelName)
+            m_beforeImageChange(channel);
+        switch (m_state.camera.setValue(key, value, subKey, channel)) {
         case CameraConfig::Outcome::Ignored:
             break;
         case CameraConfig::Outcome::Taken:
             if (key == CameraKey::curChannelName)
                 collect<&CDeviceBase::signalCDeviceSetChannelNameFinished>();
+            if (key != CameraKey::curSwitchMode)
+                noteCameraValue(key, value, subKey);
             break;
         case CameraConfig::Outcome::Refused:
             failure = m_state.camera.lastError();
@@ -175,6 +201,18 @@ void SessionRun::setCameraValue(const QString &key, const QVariant &value, const
         return;
     collect<&CDeviceBase::signalCDeviceChangeVideoType>(); // the page shows the device's values again
     noteResult(failure);
+}
+
+void SessionRun::noteCameraValue(const QString &key, const QVariant &value, const QString &subKey)
+{
+    const int channel = m_state.channels.curVideoChannel;
+    if (key == CameraKey::curChannelName) {
+        noteWritten(WrittenSetting::channelName, channel, value.toString());
+        return;
+    }
+    const bool isMain = subKey.isEmpty() || subKey == CameraSetting::value;
+    noteWritten(WrittenSetting::imagePrefix + key + (isMain ? QString() : u'.' + subKey), channel,
+                value.typeId() == QMetaType::Bool ? QString() : value.toString());
 }
 
 // The names of the channels.
@@ -215,6 +253,9 @@ void SessionRun::writeChannelName(const QString &name, const QString &channel)
         m_state.names.noteFailure(number, resultCode(LoginResult::Upgrading));
         return;
     }
-    if (m_state.names.write(number, name) == deviceAway)
+    const int result = m_state.names.write(number, name);
+    if (result == deviceAway)
         noteResult(deviceAway);
+    else if (result == 0)
+        noteWritten(WrittenSetting::channelName, number, name);
 }

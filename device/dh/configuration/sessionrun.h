@@ -17,9 +17,11 @@ class SessionRun final : public SessionOperations
 {
 public:
     /// `isUpgrading` returns whether the firmware of the device is being upgraded; it must be callable on
-    /// the thread of the operations, and may be empty if only getConfigData() is called. `state` must
-    /// outlive this object.
-    SessionRun(SessionState &state, std::function<bool()> isUpgrading);
+    /// the thread of the operations, and may be empty if only getConfigData() is called. `beforeImageChange`
+    /// is called before each write of an image setting with its channel (from 0); it may be empty. `state`
+    /// must outlive this object.
+    SessionRun(SessionState &state, std::function<bool()> isUpgrading,
+               std::function<void(int channel)> beforeImageChange = {});
 
     void getEncodeCaps() override;
     void getEncodeInfo() override;
@@ -48,14 +50,21 @@ private:
     /// Collects signalCDeviceGetDeviceCapRet with this result.
     void noteResult(int result);
     void noteUpgrading();
+    /// Collects signalCDeviceSettingWritten.
+    void noteWritten(const QString &setting, int channel, const QString &value);
+    /// The main stream of the encode page as a short text.
+    [[nodiscard]] QString encodeText() const;
     void setEncodeValue(const QString &key, const QVariant &value);
     void setCameraValue(const QString &key, const QVariant &value, const QString &subKey);
+    /// noteWritten() for a setting of the image page.
+    void noteCameraValue(const QString &key, const QVariant &value, const QString &subKey);
     void writeChannelName(const QString &name, const QString &channel);
     /// The number of channels for a request of `wanted` channels (0 or less: all); 0 without a session.
     [[nodiscard]] int askedChannels(int wanted) const;
 
     SessionState &m_state;
     const std::function<bool()> m_isUpgrading;
+    const std::function<void(int channel)> m_beforeImageChange;
     std::vector<SignalCall> m_signals;
     bool m_isDeviceAway = false;
 };

@@ -152,7 +152,7 @@ DeviceStep ImageOperations::imageStep(const ImageOrder &order)
             isInitialised = !state.isBool() || state.toBool()](const StepControl &control) {
         if (!isInitialised) // an uninitialised device accepts no login
             return StepOutcome{.result = resultCode(LoginResult::NotInitialised), .text = {}};
-        if (m_isUpgradingAt(order.ipport)) // requests could disturb the upgrade
+        if (!order.isBeforeUpgrade && m_isUpgradingAt(order.ipport)) // requests could disturb the upgrade
             return StepOutcome{.result = resultCode(LoginResult::Upgrading), .text = {}};
         const SecureLogin login =
             secureLogin(m_libraries.net.get(), order.ipport, account.account, account.password);
@@ -173,7 +173,8 @@ StepOutcome ImageOperations::takeImages(const ImageOrder &order, const SecureLog
         channels.append({order.onlyChannel, connected.value(order.onlyChannel, true)});
     } else {
         const int count = std::max(1, login.channelCount); // a device that reports no channels has one
-        const QVariantList found = liveChannels(session, std::min(count, ImageOrder::maximumChannels));
+        const int most = std::clamp(order.mostChannels, 1, ImageOrder::maximumChannels);
+        const QVariantList found = liveChannels(session, std::min(count, most));
         for (const QVariant &channel : found) {
             const QVariantMap values = channel.toMap();
             channels.append(
@@ -190,7 +191,7 @@ StepOutcome ImageOperations::takeImages(const ImageOrder &order, const SecureLog
                      .isDeviceCurrent = [] { return true; },
                      .sessionHandle = [handle = login.handle] { return handle; },
                      .channels = {},
-                     .tries = 4 * snapTries};
+                     .tries = order.tries > 0 ? order.tries : 4 * snapTries};
     StepOutcome failure = {.result = resultCode(LoginResult::NotDone), .text = {}};
     int failures = 0;
     for (const SnapChannel &channel : std::as_const(channels)) {
@@ -198,7 +199,7 @@ StepOutcome ImageOperations::takeImages(const ImageOrder &order, const SecureLog
             return {.result = resultCode(LoginResult::NotDone), .text = {}};
         const SnapOutcome outcome = takeSnapshot(task, channel, control.stopToken());
         if (outcome.problem == SnapProblem::NoFrame)
-            task.tries = snapTries;
+            task.tries = std::min(task.tries, snapTries);
         else
             control.noteProgress(); // each image restarts the deadline: a recorder has many channels
         if (outcome.problem != SnapProblem::None && ++failures == 1)
@@ -211,6 +212,19 @@ StepOutcome ImageOperations::takeImages(const ImageOrder &order, const SecureLog
         return failure;
     return {.result = resultCode(LoginResult::Success),
             .text = failures > 0 ? tr("%n 个通道没有图像", nullptr, failures) : QString()};
+}
+
+QString ImageOperations::takeQuickImage(const sdk::SdkLibraries &libraries, qint64 handle, int channel,
+                                        const QString &folder, int tries)
+{
+    const SnapTask task = {.libraries = libraries,
+                           .kind = {},
+                           .folder = folder,
+                           .isDeviceCurrent = [] { return true; },
+                           .sessionHandle = [handle] { return handle; },
+                           .channels = {},
+                           .tries = tries};
+    return takeSnapshot(task, {.number = channel}, {}).path.mid(QStringLiteral("file:///").size());
 }
 
 OwnImage ImageOperations::takeOwnImage(const sdk::SdkLibraries &libraries, const OwnImageOrder &order,

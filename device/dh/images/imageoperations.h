@@ -55,6 +55,8 @@ public:
     [[nodiscard]] static OwnImage takeOwnImage(const sdk::SdkLibraries &libraries, const OwnImageOrder &order,
                                                const StepControl &control);
 
+    [[nodiscard]] static QString takeQuickImage(const sdk::SdkLibraries &libraries, qint64 handle,
+                                                int channel, const QString &folder, int tries);
     /// A step that logs in to the device with its account, saves the images of its channels one after
     /// another, and logs out. Without a request: NotInitialised for such a device, Upgrading during an
     /// upgrade. NotDone if it is ended between two channels, otherwise a failure only if no image was taken.

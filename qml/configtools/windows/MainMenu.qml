@@ -10,6 +10,7 @@ OVMenu {
     required property string currentLanguage  // code of the chosen language
     required property string colourChoice  // "desktop", "light" or "dark"
     signal accountsRequested  // manage the stored accounts
+    signal siteReportRequested
     signal helpRequested  // open the manual
     signal questionsRequested  // open the questions and answers
     signal aboutRequested
@@ -18,6 +19,12 @@ OVMenu {
 
     objectName: "mainMenu"
 
+    OVMenuItem {
+        iconName: "note"
+        objectName: "siteReportItem"
+        text: qsTr("现场报告（Ctrl+R）")
+        onTriggered: root.siteReportRequested()
+    }
     OVMenuItem {
         iconName: "accounts"
         objectName: "accountsItem"

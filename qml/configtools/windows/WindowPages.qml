@@ -55,6 +55,11 @@ StackLayout {
         modifyIpPage.openGallery();
     }
 
+    /// Names of the rows that are ticked on the main page.
+    function tickedDevices() {
+        return modifyIpPage.deviceTable.checkedRows().map(row => row.identity);
+    }
+
     /// Ends the input of a new password on the system page.
     function disablePasswordEditor() {
         systemConfigPage.item?.disablePasswordEditor();

@@ -21,6 +21,10 @@ Item {
     required property bool searching  // a search runs
     required property rect toastArea  // see OVToast.area; in pixels, in window coordinates
     required property var webPages  // a WebPages: opens web pages of devices in the browser
+    required property SiteReport siteReport
+    required property var fileDialogs  // a FileDialogs
+    required property var memory  // a ViewMemory
+    signal siteReportRequested  // by the menu
     signal helpRequested  // open the manual
     signal questionsRequested  // open the questions and answers
     signal languageChosen(string code)
@@ -45,6 +49,11 @@ Item {
     /// Opens the report of the last search.
     function openSearchReport() {
         searchReport.instance().open();
+    }
+
+    /// Asks for the data of a site report. `ticked`: names of the ticked rows of the device list.
+    function openSiteReport(ticked) {
+        siteReportDialog.instance().begin(ticked);
     }
 
     /// Asks for a restart after a change of language.
@@ -130,6 +139,17 @@ Item {
     }
 
     Connections {
+        target: root.siteReport
+
+        function onFinished(paths, reason) {
+            if (paths.length > 0 || reason !== "")
+                siteReportResult.instance().show(paths, reason);
+            else
+                root.notify(qsTr("报告已停止，没有生成文件"), OVToast.Information);
+        }
+    }
+
+    Connections {
         target: LoginMemory
 
         function onUnkept(reason) {
@@ -167,6 +187,7 @@ Item {
             onHelpRequested: root.helpRequested()
             onLanguageChosen: code => root.languageChosen(code)
             onQuestionsRequested: root.questionsRequested()
+            onSiteReportRequested: root.siteReportRequested()
         }
     }
     OVOnDemand {
@@ -194,6 +215,20 @@ Item {
         sourceComponent: SearchReportDialog {
             reports: root.searchReports
         }
+    }
+    OVOnDemand {
+        id: siteReportDialog
+        visible: false
+        sourceComponent: SiteReportDialog {
+            fileDialogs: root.fileDialogs
+            memory: root.memory
+            siteReport: root.siteReport
+        }
+    }
+    OVOnDemand {
+        id: siteReportResult
+        visible: false
+        sourceComponent: SiteReportResult {}
     }
     OVOnDemand {
         id: restart

@@ -12,6 +12,7 @@ Item {
     signal settingsRequested  // open the search settings
     signal findRequested  // focus the search field
     signal galleryRequested  // open the images of the ticked devices
+    signal siteReportRequested
     signal tabRequested(int index)  // show the tab with this index
 
     /// Requests the tab that is `steps` (1 or -1) further; after the last one the first follows.
@@ -24,6 +25,7 @@ Item {
     Shortcut { sequence: "Ctrl+,"; onActivated: root.settingsRequested() }
     Shortcut { sequence: "Ctrl+F"; onActivated: root.findRequested() }
     Shortcut { sequence: "Ctrl+G"; onActivated: root.galleryRequested() }
+    Shortcut { sequence: "Ctrl+R"; onActivated: root.siteReportRequested() }
     Shortcut { sequence: "Ctrl+Tab"; onActivated: root.turn(1) }
     Shortcut { sequence: "Ctrl+Shift+Tab"; onActivated: root.turn(-1) }
 

@@ -1,0 +1,82 @@
+// The result of a site report: its files, which can be opened, or why a file is missing.
+import QtQuick
+import configtools
+
+OVDialog {
+    id: root
+
+    property var paths: []  // of the written files
+    property string reason  // why a file is missing, "" if none is
+    readonly property string documentPath: paths.find(path => path.endsWith(".pdf")) ?? ""
+
+    /// Shows the result of SiteReport::finished().
+    function show(paths, reason) {
+        root.paths = paths;
+        root.reason = reason;
+        open();
+    }
+
+    /// Opens a file or folder with the desktop; reports a failure.
+    function openPath(path) {
+        if (!Qt.openUrlExternally("file:///" + path.replace(/^\//, "")))
+            inform(qsTr("无法打开 %1").arg(path), OVToast.Error);
+    }
+
+    wantedWidth: Theme.dialogWidth
+    hasCancel: documentPath !== ""
+    objectName: "siteReportResult"
+    cancelText: qsTr("关闭")
+    okText: documentPath !== "" ? qsTr("打开PDF") : qsTr("关闭")
+    title: qsTr("现场报告")
+    onAccepted: {
+        if (documentPath !== "")
+            openPath(documentPath);
+        else
+            close();
+    }
+
+    footContent: OVButton {
+        anchors.verticalCenter: parent?.verticalCenter
+        objectName: "reportFolderOpener"
+        text: qsTr("打开文件夹")
+        visible: root.paths.length > 0
+        onClicked: root.openPath(root.paths[0].replace(/[^\/]*$/, ""))
+    }
+
+    Column {
+        width: parent.width
+        spacing: Theme.controlGap
+
+        OVNotice {
+            width: parent.width
+            iconColor: Theme.colours.bad
+            iconName: "error"
+            messageName: "reportReason"
+            text: root.reason
+            visible: root.reason !== ""
+        }
+        OVNotice {
+            width: parent.width
+            iconColor: Theme.colours.ok
+            iconName: "ok"
+            messageName: "reportDone"
+            text: qsTr("报告已生成")
+            visible: root.reason === ""
+        }
+        // qmllint disable unqualified
+        Repeater {
+            model: root.paths
+
+            OVParagraph {
+                required property int index
+                required property string modelData
+
+                width: root.availableWidth - 2 * Theme.pageMargin
+                color: Theme.colours.sub
+                objectName: "reportPath" + index
+                text: modelData
+            }
+        }
+        // qmllint enable unqualified
+    }
+}

@@ -1,0 +1,126 @@
+#include "report/sitefindings.h"
+
+#include "report/reporttexts.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+namespace {
+
+bool isAccountRefused(int result)
+{
+    switch (static_cast<LoginResult>(result)) {
+    case LoginResult::NoSuchAccount:
+    case LoginResult::WrongPassword:
+    case LoginResult::AccountLocked:
+    case LoginResult::AccountLoggedIn:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Whether the step of a device has failed for a reason that says something about the device: it was not left
+/// out by a stop of the report.
+bool isFailure(int result)
+{
+    return result != resultCode(LoginResult::Success) && result != resultCode(LoginResult::NotDone) &&
+           result != resultCode(LoginResult::Upgrading);
+}
+
+bool isLoopback(const QString &address)
+{
+    return address.startsWith(QLatin1String("127.")) || address == QLatin1String("[::1]");
+}
+
+/// The titles of the other devices with the address of each device.
+QHash<QString, QList<qsizetype>> devicesByAddress(const QList<ReportDevice> &devices)
+{
+    QHash<QString, QList<qsizetype>> found;
+    for (qsizetype index = 0; index < devices.size(); ++index) {
+        const QString &address = devices.at(index).address;
+        if (!address.isEmpty() && !isLoopback(address))
+            found[address].append(index);
+    }
+    return found;
+}
+
+/// The newest version of each model.
+QHash<QString, QString> newestVersions(const QList<ReportDevice> &devices)
+{
+    QHash<QString, QString> newest;
+    for (const ReportDevice &device : devices) {
+        if (device.model.isEmpty() || device.version.isEmpty())
+            continue;
+        QString &version = newest[device.model];
+        if (version.isEmpty() || compareVersions(version, device.version) < 0)
+            version = device.version;
+    }
+    return newest;
+}
+
+/// The number in `text` from `position` on; moves `position` behind it. -1 if there is none.
+qint64 nextNumber(QStringView text, qsizetype &position)
+{
+    while (position < text.size() && !text.at(position).isDigit())
+        ++position;
+    if (position >= text.size())
+        return -1;
+    constexpr qint64 largest = 1'000'000'000'000'000; // versions are texts of devices: no overflow
+    qint64 number = 0;
+    for (; position < text.size() && text.at(position).isDigit(); ++position)
+        number = std::min(largest, number * 10 + text.at(position).digitValue());
+    return number;
+}
+
+} // namespace
+
+int compareVersions(QStringView left, QStringView right)
+{
+    qsizetype leftPosition = 0;
+    qsizetype rightPosition = 0;
+    for (;;) {
+        const qint64 leftNumber = nextNumber(left, leftPosition);
+        const qint64 rightNumber = nextNumber(right, rightPosition);
+        if (leftNumber != rightNumber)
+            return leftNumber < rightNumber ? -1 : 1;
+        if (leftNumber < 0)
+            return 0;
+    }
+}
+
+QList<Finding> siteFindings(const QList<ReportDevice> &devices)
+{
+    const QHash<QString, QList<qsizetype>> byAddress = devicesByAddress(devices);
+    const QHash<QString, QString> newest = newestVersions(devices);
+    QList<Finding> findings;
+    for (qsizetype index = 0; index < devices.size(); ++index) {
+        const ReportDevice &device = devices.at(index);
+        const auto add = [&](FindingKind kind, const QString &text) {
+            findings.append({.kind = kind, .device = index, .text = text});
+        };
+        if (!device.isInitialised)
+            add(FindingKind::NotInitialised, {});
+        QStringList others;
+        for (const qsizetype other : byAddress.value(device.address)) {
+            if (other != index)
+                others.append(ReportTexts::deviceName(devices.at(other)));
+        }
+        if (!others.isEmpty())
+            add(FindingKind::DuplicateAddress, others.join(QStringLiteral(", ")));
+        const int result = device.outcome.result;
+        if (device.isInitialised && isFailure(result) && (!device.isRead || device.inspection.detail.isEmpty()))
+            add(isAccountRefused(result) ? FindingKind::LoginRefused : FindingKind::NotReached,
+                ReportTexts::outcome(device.outcome));
+        if (device.isRead && device.inspection.clockOffset &&
+            std::abs(*device.inspection.clockOffset) > clockTolerance)
+            add(FindingKind::ClockOff, ReportTexts::clockOffset(*device.inspection.clockOffset));
+        const QString sibling = newest.value(device.model);
+        if (!device.version.isEmpty() && compareVersions(device.version, sibling) < 0)
+            add(FindingKind::OldFirmware, ReportTexts::versions(device.version, sibling));
+        if (device.isRead && device.inspection.usesTimeServer == false)
+            add(FindingKind::NoTimeServer, {});
+    }
+    return findings;
+}

@@ -1,0 +1,16 @@
+// Conspicuous states of the devices of a site.
+#pragma once
+
+#include "report/sitedata.h"
+
+/// A clock that differs from the host by more seconds than this is a finding.
+inline constexpr qint64 clockTolerance = 30;
+
+/// The findings of the devices, by device and, for one device, in the order of FindingKind. A value that a
+/// device has not reported causes no finding. Devices behind one end of a tunnel (a loopback address) share
+/// their address legitimately.
+[[nodiscard]] QList<Finding> siteFindings(const QList<ReportDevice> &devices);
+
+/// Compares two versions by their numbers, from left to right: negative if `left` is older, 0 if all numbers
+/// are the same, otherwise positive. "v2.10" is newer than "v2.9". A missing number is less than 0.
+[[nodiscard]] int compareVersions(QStringView left, QStringView right);

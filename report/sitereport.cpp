@@ -1,0 +1,334 @@
+#include "report/sitereport.h"
+
+#include "device/batch/batches.h"
+#include "device/registry/devicefactory.h"
+#include "device/registry/devicefamily.h"
+#include "device/registry/mapkeys.h"
+#include "device/store/devicefilter.h"
+#include "device/store/devicerow.h"
+#include "report/reporttexts.h"
+#include "report/sitedocument.h"
+#include "report/sitefindings.h"
+#include "report/siteworkbook.h"
+#include "sdk/threadpriority.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImageReader>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <mutex>
+#include <utility>
+
+namespace {
+
+constexpr qsizetype longestStem = 80;
+constexpr int imageQuality = 80;
+
+/// The name of the files of a report without their suffix.
+QString fileStem(const QString &site, const QDateTime &time)
+{
+    QString name = site.left(longestStem).simplified();
+    for (QChar &character : name) {
+        if (character.unicode() < 0x20 || QStringLiteral("/\\:*?\"<>|").contains(character))
+            character = u'_';
+    }
+    while (name.startsWith(u'.'))
+        name.remove(0, 1);
+    return QStringLiteral("%1-%2").arg(name.isEmpty() ? QStringLiteral("site") : name,
+                                       time.toString(QStringLiteral("yyyyMMdd-HHmm")));
+}
+
+/// Scales a large image file down in place. On failure the file is unchanged.
+void limitImage(const QString &path)
+{
+    QImageReader reader(path);
+    const QSize size = reader.size();
+    if (size.width() <= SiteReport::imageWidth)
+        return;
+    reader.setScaledSize(size.scaled(SiteReport::imageWidth, size.height(), Qt::KeepAspectRatio));
+    const QImage image = reader.read();
+    if (!image.isNull())
+        image.save(path, "JPG", imageQuality);
+}
+
+} // namespace
+
+/// The results of the steps, by the name of the device in the batch. Thread-safe.
+class SiteReport::Collection
+{
+public:
+    struct Result
+    {
+        bool isRead = false;
+        DeviceInspection inspection;
+        QList<ReportImage> images;
+        QHash<int, QString> channelNames;
+    };
+
+    [[nodiscard]] QString folderOf(const QString &device)
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_folder.filePath(QString::number(++m_folders)) + QLatin1String("-") +
+               QString::number(qHash(device) % 1000);
+    }
+    [[nodiscard]] bool isValid() const { return m_folder.isValid(); }
+
+    template<typename Change>
+    void change(const QString &device, Change change)
+    {
+        const std::lock_guard lock(m_mutex);
+        change(m_results[device]);
+    }
+    [[nodiscard]] Result resultOf(const QString &device) const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_results.value(device);
+    }
+
+private:
+    mutable std::mutex m_mutex;
+    QTemporaryDir m_folder;
+    int m_folders = 0;
+    QHash<QString, Result> m_results;
+};
+
+SiteReport::SiteReport(CDeviceFactory &factory, Batches &batches, const VisitChanges *changes,
+                       QObject *parent)
+    : QObject(parent), m_factory(factory), m_batches(batches), m_changes(changes)
+{
+    m_files.setMaxThreadCount(1);
+}
+
+SiteReport::~SiteReport()
+{
+    m_files.waitForDone();
+}
+
+QString SiteReport::suggestedFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+QStringList SiteReport::allDevices() const
+{
+    CDeviceBase &backEnd = *m_factory.backEnd(dhFamily);
+    const QVariantList rows =
+        backEnd.filterData(RowFilter::all, {}) + backEnd.filterDataIPV6(RowFilter::all, {});
+    QStringList names;
+    for (const QVariant &row : rows)
+        names.append(rowName(row.toJsonObject()));
+    return names;
+}
+
+bool SiteReport::begin(const QVariantMap &order)
+{
+    return start({.site = order.value(ReportKey::site).toString(),
+                  .installer = order.value(ReportKey::installer).toString(),
+                  .folder = order.value(ReportKey::folder).toString(),
+                  .identities = order.value(ReportKey::identities).toStringList(),
+                  .wantsDocument = order.value(ReportKey::document).toBool(),
+                  .wantsWorkbook = order.value(ReportKey::workbook).toBool()}) != nullptr;
+}
+
+Batch *SiteReport::start(const ReportOrder &order)
+{
+    if (isRunning() || order.identities.isEmpty())
+        return nullptr;
+    const auto collection = std::make_shared<Collection>();
+    m_order = order;
+    m_data = {};
+    m_collection = collection;
+    BatchPlan plan = {.family = dhFamily,
+                      .title = ReportTexts::report(),
+                      .work = QStringLiteral("report"),
+                      .devices = batchDevices(m_factory, dhFamily, order.identities),
+                      .policy = m_batches.usualPolicy(),
+                      .accountOf = m_batches.rowAccounts(dhFamily),
+                      .isByAddress = true,
+                      .canBeRetried = false,
+                      .marksFailed = false,
+                      .changesDevices = false};
+    plan.stepOf = [this](const BatchDevice &device) {
+        return stepOf(device);
+    };
+    m_batch = m_batches.start(std::move(plan));
+    if (!m_batch)
+        return nullptr;
+    connect(m_batch, &Batch::finished, this, &SiteReport::takeResults);
+    Q_EMIT stateChanged();
+    if (!m_batch->isRunning())
+        takeResults();
+    return m_batch;
+}
+
+void SiteReport::stop()
+{
+    if (m_batch)
+        m_batch->stop();
+}
+
+DeviceStep SiteReport::stepOf(const BatchDevice &device) const
+{
+    const std::shared_ptr<Collection> collection = m_collection;
+    const QString name = device.name;
+    CDeviceBase &backEnd = *m_factory.backEnd(dhFamily);
+    const DeviceStep inspection =
+        backEnd.inspectionStep({.ipport = device.ipport,
+                                .inspected = [collection, name](const DeviceInspection &values) {
+                                    collection->change(name, [&values](Collection::Result &result) {
+                                        result.isRead = true;
+                                        result.inspection = values;
+                                    });
+                                }});
+    const DeviceStep images = backEnd.imageStep(
+        {.ipport = device.ipport,
+         .folder = collection->folderOf(name),
+         .mostChannels = mostImages,
+         .found =
+             [collection, name](const QVariantList &channels, int channelCount) {
+                 collection->change(name, [&](Collection::Result &result) {
+                     for (const QVariant &value : channels) {
+                         const QVariantMap channel = value.toMap();
+                         if (channelCount > 1)
+                             result.channelNames.insert(channel.value(ChannelKey::channel).toInt(),
+                                                        channel.value(ChannelKey::name).toString());
+                     }
+                 });
+             },
+         .taken =
+             [collection, name](int channel, const QString &path, const QString &message) {
+                 if (!path.isEmpty())
+                     limitImage(path);
+                 collection->change(name, [&](Collection::Result &result) {
+                     result.images.append({.channel = channel,
+                                           .name = result.channelNames.value(channel),
+                                           .path = path,
+                                           .message = path.isEmpty() ? message : QString()});
+                 });
+             }});
+    return [inspection, images](const StepControl &control) {
+        const StepOutcome outcome = inspection(control);
+        if (outcome.result != resultCode(LoginResult::Success))
+            return outcome;
+        control.noteProgress();
+        const StepOutcome ofImages = images(control);
+        // Devices without video are complete. A stop leaves the report incomplete.
+        return control.isStopped() ? ofImages : outcome;
+    };
+}
+
+void SiteReport::takeResults()
+{
+    if (!m_batch || m_batch->isRunning())
+        return;
+    const Batch &batch = *m_batch;
+    const bool isStopped =
+        std::any_of(batch.entries().cbegin(), batch.entries().cend(), [](const Batch::Entry &entry) {
+            return entry.outcome.result == BatchReport::NotDone;
+        });
+    if (isStopped) {
+        end({}, {});
+        return;
+    }
+    m_data = dataOf(batch);
+    write();
+}
+
+SiteData SiteReport::dataOf(const Batch &batch) const
+{
+    SiteData data = {
+        .site = m_order.site, .installer = m_order.installer, .time = QDateTime::currentDateTime()};
+    QStringList macs;
+    for (const Batch::Entry &entry : batch.entries()) {
+        const QJsonObject row = m_factory.backEnd(dhFamily)->deviceRow(entry.device.identity);
+        const auto text = [&row](QLatin1StringView key) {
+            return row.value(key).toString();
+        };
+        const Collection::Result result = m_collection->resultOf(entry.device.name);
+        const QVariantMap &read = result.inspection.detail;
+        const auto reported = [&](QLatin1StringView key) {
+            return read.contains(key) ? read.value(key).toString() : text(key);
+        };
+        ReportDevice device = {.identity = entry.device.identity,
+                               .ipport = row.isEmpty() ? entry.device.ipport : text(DeviceRowKey::ipport),
+                               .address = rowAddress(row),
+                               .mac = reported(DeviceRowKey::mac),
+                               .name = text(DeviceRowKey::name),
+                               .type = text(DeviceRowKey::type),
+                               .model = reported(DeviceRowKey::model),
+                               .version = reported(DeviceRowKey::vision),
+                               .serial = read.value(DeviceDetailKey::serial).toString(),
+                               .isInitialised = row.value(DeviceRowKey::state).toBool(true),
+                               .outcome = entry.outcome,
+                               .isRead = result.isRead,
+                               .inspection = result.inspection,
+                               .images = result.images,
+                               .channelCount = std::max(result.inspection.channelCount, 0)};
+        if (device.serial.isEmpty())
+            device.serial = m_factory.getDeviceDetail(dhFamily, device.identity)
+                                .value(DeviceDetailKey::serial)
+                                .toString();
+        // The IPv4 and the IPv6 row of one device.
+        const bool isSecondRow = row.value(DeviceRowKey::mac).toString().isEmpty() && !device.mac.isEmpty() &&
+                                 macs.contains(device.mac, Qt::CaseInsensitive);
+        if (isSecondRow)
+            continue;
+        macs.append(device.mac);
+        if (m_changes)
+            device.imagesBefore = m_changes->imagesBefore()->of(device.identity);
+        data.devices.append(device);
+    }
+    data.findings = siteFindings(data.devices);
+    if (m_changes) {
+        data.changes = m_changes->changes();
+        data.droppedChanges = m_changes->droppedChanges();
+    }
+    return data;
+}
+
+void SiteReport::write()
+{
+    m_batch = nullptr;
+    m_isWriting = true;
+    Q_EMIT stateChanged();
+    const int work = m_factory.busyState()->begin(ReportTexts::report(), BusyState::Program);
+    // The collection keeps the images until the files are written.
+    m_files.start([this, data = m_data, work, order = m_order, kept = m_collection] {
+        sdk::giveWayToWindow();
+        QStringList paths;
+        QString reason;
+        const QString stem = QDir(order.folder).filePath(fileStem(order.site, data.time));
+        if (!QDir().mkpath(order.folder))
+            reason = ReportTexts::noFolder(order.folder);
+        const auto save = [&](const QString &path, QString (*saveFile)(const SiteData &, const QString &)) {
+            const QString failure = saveFile(data, path);
+            if (failure.isEmpty())
+                paths.append(path);
+            else if (reason.isEmpty())
+                reason = ReportTexts::fileFailed(path, failure);
+        };
+        if (reason.isEmpty() && order.wantsDocument)
+            save(stem + QLatin1String(".pdf"), &saveSiteDocument);
+        if (reason.isEmpty() && order.wantsWorkbook)
+            save(stem + QLatin1String(".xlsx"), &saveSiteWorkbook);
+        QMetaObject::invokeMethod(
+            this,
+            [this, work, paths, reason] {
+                m_factory.busyState()->end(work);
+                end(paths, reason);
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+void SiteReport::end(const QStringList &paths, const QString &reason)
+{
+    m_batch = nullptr;
+    m_isWriting = false;
+    m_collection.reset(); // removes the images
+    Q_EMIT stateChanged();
+    Q_EMIT finished(paths, reason);
+}
