@@ -16,26 +16,26 @@ struct ImageSettingText
 
 /// By group of settings.
 constexpr std::array imageSettingTexts = {
-    ImageSettingText{CameraKey::sharpness, QT_TRANSLATE_NOOP("SiteReport", "锐度")},
-    ImageSettingText{CameraKey::mirror, QT_TRANSLATE_NOOP("SiteReport", "镜像")},
-    ImageSettingText{CameraKey::stable, QT_TRANSLATE_NOOP("SiteReport", "防抖")},
-    ImageSettingText{CameraKey::exposure, QT_TRANSLATE_NOOP("SiteReport", "曝光")},
-    ImageSettingText{CameraKey::backMode, QT_TRANSLATE_NOOP("SiteReport", "背光")},
-    ImageSettingText{CameraKey::whiteBalance, QT_TRANSLATE_NOOP("SiteReport", "白平衡")},
-    ImageSettingText{CameraKey::dayNight, QT_TRANSLATE_NOOP("SiteReport", "日夜模式")},
-    ImageSettingText{CameraKey::inDefog, QT_TRANSLATE_NOOP("SiteReport", "透雾")},
-    ImageSettingText{CameraKey::lightControl, QT_TRANSLATE_NOOP("SiteReport", "补光灯")},
-    ImageSettingText{CameraKey::lightControlEx, QT_TRANSLATE_NOOP("SiteReport", "补光灯")},
-    ImageSettingText{CameraKey::curDayNightMode, QT_TRANSLATE_NOOP("SiteReport", "日夜模式")},
-    ImageSettingText{CameraKey::curBackLightMode, QT_TRANSLATE_NOOP("SiteReport", "背光")},
-    ImageSettingText{CameraKey::curBrightness, QT_TRANSLATE_NOOP("SiteReport", "亮度")},
-    ImageSettingText{CameraKey::curContrast, QT_TRANSLATE_NOOP("SiteReport", "对比度")},
-    ImageSettingText{CameraKey::curSaturation, QT_TRANSLATE_NOOP("SiteReport", "饱和度")},
-    ImageSettingText{CameraSetting::brightnessSlider, QT_TRANSLATE_NOOP("SiteReport", "亮度")},
-    ImageSettingText{CameraSetting::contrastSlider, QT_TRANSLATE_NOOP("SiteReport", "对比度")},
-    ImageSettingText{CameraSetting::saturationSlider, QT_TRANSLATE_NOOP("SiteReport", "饱和度")},
-    ImageSettingText{CameraSetting::hue, QT_TRANSLATE_NOOP("SiteReport", "色调")},
-    ImageSettingText{CameraSetting::gamma, QT_TRANSLATE_NOOP("SiteReport", "伽马")},
+    ImageSettingText{CameraKey::sharpness, QT_TRANSLATE_NOOP("ReportTexts", "锐度")},
+    ImageSettingText{CameraKey::mirror, QT_TRANSLATE_NOOP("ReportTexts", "镜像")},
+    ImageSettingText{CameraKey::stable, QT_TRANSLATE_NOOP("ReportTexts", "防抖")},
+    ImageSettingText{CameraKey::exposure, QT_TRANSLATE_NOOP("ReportTexts", "曝光")},
+    ImageSettingText{CameraKey::backMode, QT_TRANSLATE_NOOP("ReportTexts", "背光")},
+    ImageSettingText{CameraKey::whiteBalance, QT_TRANSLATE_NOOP("ReportTexts", "白平衡")},
+    ImageSettingText{CameraKey::dayNight, QT_TRANSLATE_NOOP("ReportTexts", "日夜模式")},
+    ImageSettingText{CameraKey::inDefog, QT_TRANSLATE_NOOP("ReportTexts", "透雾")},
+    ImageSettingText{CameraKey::lightControl, QT_TRANSLATE_NOOP("ReportTexts", "补光灯")},
+    ImageSettingText{CameraKey::lightControlEx, QT_TRANSLATE_NOOP("ReportTexts", "补光灯")},
+    ImageSettingText{CameraKey::curDayNightMode, QT_TRANSLATE_NOOP("ReportTexts", "日夜模式")},
+    ImageSettingText{CameraKey::curBackLightMode, QT_TRANSLATE_NOOP("ReportTexts", "背光")},
+    ImageSettingText{CameraKey::curBrightness, QT_TRANSLATE_NOOP("ReportTexts", "亮度")},
+    ImageSettingText{CameraKey::curContrast, QT_TRANSLATE_NOOP("ReportTexts", "对比度")},
+    ImageSettingText{CameraKey::curSaturation, QT_TRANSLATE_NOOP("ReportTexts", "饱和度")},
+    ImageSettingText{CameraSetting::brightnessSlider, QT_TRANSLATE_NOOP("ReportTexts", "亮度")},
+    ImageSettingText{CameraSetting::contrastSlider, QT_TRANSLATE_NOOP("ReportTexts", "对比度")},
+    ImageSettingText{CameraSetting::saturationSlider, QT_TRANSLATE_NOOP("ReportTexts", "饱和度")},
+    ImageSettingText{CameraSetting::hue, QT_TRANSLATE_NOOP("ReportTexts", "色调")},
+    ImageSettingText{CameraSetting::gamma, QT_TRANSLATE_NOOP("ReportTexts", "伽马")},
 };
 
 /// The name of an image setting; empty if it has none.
@@ -45,7 +45,7 @@ QString imageSettingName(const QString &setting)
     const QString group = key.section(u'.', 0, 0);
     for (const ImageSettingText &text : imageSettingTexts) {
         if (group == text.group)
-            return QCoreApplication::translate("SiteReport", text.source);
+            return QCoreApplication::translate("ReportTexts", text.source);
     }
     return {};
 }

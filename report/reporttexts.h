@@ -8,7 +8,7 @@
 /// Stateless; any thread.
 class ReportTexts
 {
-    Q_DECLARE_TR_FUNCTIONS(SiteReport)
+    Q_DECLARE_TR_FUNCTIONS(ReportTexts)
 public:
     // Titles of values and columns.
     static QString report() { return tr("现场报告"); }

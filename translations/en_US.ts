@@ -3635,6 +3635,10 @@ Right-click to copy the result</translation>
         <source>深色</source>
         <translation>Dark</translation>
     </message>
+    <message>
+        <source>现场报告（Ctrl+R）</source>
+        <translation>Site report (Ctrl+R)</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -5057,6 +5061,319 @@ File: </translation>
     </message>
 </context>
 <context>
+    <name>ReportTexts</name>
+    <message>
+        <source>锐度</source>
+        <translation>sharpness</translation>
+    </message>
+    <message>
+        <source>镜像</source>
+        <translation>mirror</translation>
+    </message>
+    <message>
+        <source>防抖</source>
+        <translation>stabilisation</translation>
+    </message>
+    <message>
+        <source>曝光</source>
+        <translation>exposure</translation>
+    </message>
+    <message>
+        <source>背光</source>
+        <translation>back light</translation>
+    </message>
+    <message>
+        <source>白平衡</source>
+        <translation>white balance</translation>
+    </message>
+    <message>
+        <source>日夜模式</source>
+        <translation>day and night</translation>
+    </message>
+    <message>
+        <source>透雾</source>
+        <translation>defog</translation>
+    </message>
+    <message>
+        <source>补光灯</source>
+        <translation>light</translation>
+    </message>
+    <message>
+        <source>亮度</source>
+        <translation>brightness</translation>
+    </message>
+    <message>
+        <source>对比度</source>
+        <translation>contrast</translation>
+    </message>
+    <message>
+        <source>饱和度</source>
+        <translation>saturation</translation>
+    </message>
+    <message>
+        <source>色调</source>
+        <translation>hue</translation>
+    </message>
+    <message>
+        <source>伽马</source>
+        <translation>gamma</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>Not initialised</translation>
+    </message>
+    <message>
+        <source>地址重复</source>
+        <translation>Duplicate address</translation>
+    </message>
+    <message>
+        <source>登录被拒绝</source>
+        <translation>Login refused</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>Cannot be read</translation>
+    </message>
+    <message>
+        <source>时间不准</source>
+        <translation>Clock is off</translation>
+    </message>
+    <message>
+        <source>固件较旧</source>
+        <translation>Older firmware</translation>
+    </message>
+    <message>
+        <source>未使用时间服务器</source>
+        <translation>No time server</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <extracomment>A finding of the site report. %1 is its kind, %2 are its details.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 秒</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 分 %2 秒</source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message>
+        <source>%1 小时 %2 分</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1 天 %2 小时</source>
+        <translation>%1 d %2 h</translation>
+    </message>
+    <message>
+        <source>一致</source>
+        <translation>Exact</translation>
+    </message>
+    <message>
+        <source>快 %1</source>
+        <extracomment>The clock of a device against that of the computer. %1 is a span of time.</extracomment>
+        <translation>%1 ahead</translation>
+    </message>
+    <message>
+        <source>慢 %1</source>
+        <translation>%1 behind</translation>
+    </message>
+    <message>
+        <source>%1，同型号设备为 %2</source>
+        <extracomment>%1 is the firmware version of a device, %2 the newer version of another device of the same model.</extracomment>
+        <translation>%1; another device of this model has %2</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>开启</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>通道名称</source>
+        <translation>Channel name</translation>
+    </message>
+    <message>
+        <source>编码设置</source>
+        <translation>Encode settings</translation>
+    </message>
+    <message>
+        <source>图像设置</source>
+        <extracomment>An image setting of a device was changed. %1 is the setting.</extracomment>
+        <translation>Image settings</translation>
+    </message>
+    <message>
+        <source>图像设置：%1</source>
+        <translation>Image settings: %1</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Site report</translation>
+    </message>
+    <message>
+        <source>异常项</source>
+        <translation>Findings</translation>
+    </message>
+    <message>
+        <source>本次更改</source>
+        <translation>Changes of this visit</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Devices</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Address</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>固件版本</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>序列号</source>
+        <translation>Serial number</translation>
+    </message>
+    <message>
+        <source>时间偏差</source>
+        <translation>Time offset</translation>
+    </message>
+    <message>
+        <source>时间偏差（秒）</source>
+        <translation>Time offset (s)</translation>
+    </message>
+    <message>
+        <source>时间服务器</source>
+        <translation>Time server</translation>
+    </message>
+    <message>
+        <source>通道数</source>
+        <translation>Channels</translation>
+    </message>
+    <message>
+        <source>主码流</source>
+        <translation>Main stream</translation>
+    </message>
+    <message>
+        <source>通道</source>
+        <translation>Channel</translation>
+    </message>
+    <message>
+        <source>宽度（像素）</source>
+        <translation>Width (px)</translation>
+    </message>
+    <message>
+        <source>高度（像素）</source>
+        <translation>Height (px)</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>Result</translation>
+    </message>
+    <message>
+        <source>图像</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>更改前</source>
+        <translation>Before</translation>
+    </message>
+    <message>
+        <source>当前</source>
+        <translation>Now</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>Operation</translation>
+    </message>
+    <message>
+        <source>新值</source>
+        <translation>New value</translation>
+    </message>
+    <message>
+        <source>说明</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>Installer</translation>
+    </message>
+    <message>
+        <source>未报告</source>
+        <translation>Not reported</translation>
+    </message>
+    <message>
+        <source>无图像</source>
+        <translation>No image</translation>
+    </message>
+    <message>
+        <source>没有异常项。</source>
+        <translation>No findings.</translation>
+    </message>
+    <message>
+        <source>程序启动以来没有更改设备。</source>
+        <translation>No device was changed since the start of the program.</translation>
+    </message>
+    <message>
+        <source>已读取</source>
+        <translation>Read</translation>
+    </message>
+    <message>
+        <source>有异常</source>
+        <translation>With findings</translation>
+    </message>
+    <message>
+        <source>PDF文件无法生成</source>
+        <translation>The PDF file cannot be made</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>The folder %1 cannot be created</translation>
+    </message>
+    <message>
+        <source>%1 无法写入：%2</source>
+        <extracomment>%1 is the path of a file, %2 the reason why it cannot be written.</extracomment>
+        <translation>%1 cannot be written: %2</translation>
+    </message>
+    <message>
+        <source>较早的 %1 项更改未保留。</source>
+        <translation>%1 earlier changes are not listed.</translation>
+    </message>
+    <message>
+        <source>另有 %1 个通道</source>
+        <translation>%1 more channels</translation>
+    </message>
+    <message>
+        <source>通道 %1</source>
+        <extracomment>A channel of a recorder. %1 is its number.</extracomment>
+        <translation>Channel %1</translation>
+    </message>
+</context>
+<context>
     <name>RestartDialog</name>
     <message>
         <source>重启</source>
@@ -5464,6 +5781,100 @@ File: </translation>
     <message>
         <source>无法打开模拟站点：</source>
         <translation>The demo site could not be opened:</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportDialog</name>
+    <message>
+        <source>请输入现场名称</source>
+        <translation>Enter the name of the site</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>Choose a folder</translation>
+    </message>
+    <message>
+        <source>请至少选择一种文件</source>
+        <translation>Choose at least one file</translation>
+    </message>
+    <message>
+        <source>列表中没有设备</source>
+        <translation>There are no devices in the list</translation>
+    </message>
+    <message>
+        <source>生成报告</source>
+        <translation>Make report</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Site report</translation>
+    </message>
+    <message>
+        <source>报告正在生成</source>
+        <translation>A report is being made</translation>
+    </message>
+    <message>
+        <source>现场名称</source>
+        <translation>Name of the site</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>Installer</translation>
+    </message>
+    <message>
+        <source>保存到</source>
+        <translation>Save to</translation>
+    </message>
+    <message>
+        <source>选择…</source>
+        <translation>Choose…</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Devices</translation>
+    </message>
+    <message>
+        <source>全部（%1）</source>
+        <translation>All (%1)</translation>
+    </message>
+    <message>
+        <source>勾选的（%1）</source>
+        <translation>Selected (%1)</translation>
+    </message>
+    <message>
+        <source>文件</source>
+        <translation>Files</translation>
+    </message>
+    <message>
+        <source>将登录每台设备，读取信息并获取图像。报告包含程序启动以来的更改，不含密码。</source>
+        <translation>The program logs in to each device, reads its settings and takes an image. The report lists the changes since the start of the program and contains no passwords.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportResult</name>
+    <message>
+        <source>无法打开 %1</source>
+        <translation>%1 cannot be opened</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>打开PDF</source>
+        <translation>Open PDF</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Site report</translation>
+    </message>
+    <message>
+        <source>打开文件夹</source>
+        <translation>Open folder</translation>
+    </message>
+    <message>
+        <source>报告已生成</source>
+        <translation>The report is complete</translation>
     </message>
 </context>
 <context>
@@ -7100,6 +7511,10 @@ File: </translation>
     <message>
         <source>“%1”正在进行。退出后，其余设备不会更改。</source>
         <translation>“%1” is running. If you exit, the remaining devices will not be changed.</translation>
+    </message>
+    <message>
+        <source>报告已停止，没有生成文件</source>
+        <translation>The report was stopped; no file was written</translation>
     </message>
 </context>
 <context>

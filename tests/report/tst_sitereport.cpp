@@ -1,0 +1,308 @@
+#include "device/batch/batches.h"
+#include "report/sitereport.h"
+#include "sheets/qexcel.h"
+#include "tests/datatable.h"
+#include "tests/gallery/imagesbackend.h"
+
+#include <QFileInfo>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+namespace {
+
+constexpr int reportWait = 60000;
+
+} // namespace
+
+/// A back end whose devices have values and images.
+class ReportBackEnd : public ImagesBackEnd
+{
+    Q_OBJECT
+public:
+    /// A device with an image, whose clock is `offset` seconds ahead.
+    void addReportDevice(int number, const QString &name, qint64 offset = 0, int result = 0)
+    {
+        addDevice(number, name, {.result = result});
+        m_results.insert(ipportOf(number), result);
+        m_offsets.insert(ipportOf(number), offset);
+    }
+
+    DeviceStep inspectionStep(const InspectionOrder &order) override
+    {
+        return [order, result = m_results.value(order.ipport),
+                offset = m_offsets.value(order.ipport)](const StepControl &) {
+            if (result != 0)
+                return StepOutcome{.result = result, .text = {}};
+            order.inspected({.detail = {{"serial", "SN-" + order.ipport.section(':', 0, 0)}},
+                             .channelCount = 1,
+                             .streams = {{.channel = 0,
+                                          .compression = "H.265",
+                                          .width = 1920,
+                                          .height = 1080,
+                                          .frameRate = 25,
+                                          .bitRate = 4096}},
+                             .clockOffset = offset,
+                             .usesTimeServer = true,
+                             .timeServer = "ntp.example"});
+            return StepOutcome();
+        };
+    }
+    DeviceStep upgradeStep(const QString &mac) override
+    {
+        return [this, mac](const StepControl &) {
+            const std::lock_guard lock(m_mutex);
+            m_upgraded.append(mac);
+            return StepOutcome();
+        };
+    }
+    DeviceStep systemStep(const QString &, const QVariantMap &, const QString &) override
+    {
+        return [](const StepControl &) {
+            return StepOutcome();
+        };
+    }
+    [[nodiscard]] QStringList upgraded()
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_upgraded;
+    }
+
+private:
+    QHash<QString, int> m_results;
+    QHash<QString, qint64> m_offsets;
+    std::mutex m_mutex;
+    QStringList m_upgraded;
+};
+
+/// Reports of a site: their files and their contents.
+class TestSiteReport : public QObject
+{
+    Q_OBJECT
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::shared_ptr<ReportBackEnd> m_devices;
+    std::unique_ptr<CDeviceFactory> m_factory;
+    std::unique_ptr<BatchEngine> m_engine;
+    std::unique_ptr<Batches> m_batches;
+    std::unique_ptr<VisitChanges> m_changes;
+    std::unique_ptr<SiteReport> m_report;
+    QStringList m_paths;
+    QString m_reason;
+
+    [[nodiscard]] ReportOrder order() const
+    {
+        return {.site = QStringLiteral("North / 北"),
+                .installer = "A. Fitter",
+                .folder = m_folder->filePath("reports"),
+                .identities = m_report->allDevices()};
+    }
+
+    /// Makes a report and waits for its end.
+    bool make(const ReportOrder &order)
+    {
+        QSignalSpy finished(m_report.get(), &SiteReport::finished);
+        if (!m_report->start(order) || (finished.isEmpty() && !finished.wait(reportWait)))
+            return false;
+        m_paths = finished.constFirst().at(0).toStringList();
+        m_reason = finished.constFirst().at(1).toString();
+        return true;
+    }
+
+    [[nodiscard]] static QByteArray outputOf(const QString &program, const QStringList &arguments)
+    {
+        QProcess process;
+        process.start(program, arguments);
+        return process.waitForFinished() ? process.readAllStandardOutput() : QByteArray();
+    }
+    [[nodiscard]] QString documentText() const
+    {
+        return QString::fromUtf8(outputOf("pdftotext", {"-layout", m_paths.value(0), "-"}));
+    }
+    /// The number of JPEG images in the document.
+    [[nodiscard]] qsizetype documentImages() const
+    {
+        return outputOf("pdfimages", {"-list", m_paths.value(0)}).count(" jpeg ");
+    }
+    /// The cells of a row of a sheet of the workbook, separated by bars.
+    [[nodiscard]] QString cells(int sheet, int row, int columns) const
+    {
+        QExcel workbook;
+        QStringList texts;
+        if (!workbook.open(m_paths.value(1)) || !workbook.selectSheet(sheet))
+            return "cannot be read";
+        for (int column = 1; column <= columns; ++column)
+            texts.append(workbook.cellText(row, column).value_or("?"));
+        return texts.join('|');
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_devices = std::make_shared<ReportBackEnd>();
+        m_factory = std::make_unique<CDeviceFactory>(
+            CDeviceFactory::BackEndCreators{{QStringLiteral("dh"), [this] { return m_devices; }}});
+        m_engine = std::make_unique<BatchEngine>(nullptr);
+        m_batches = std::make_unique<Batches>(*m_factory, *m_engine, [] { return 2; });
+        m_changes = std::make_unique<VisitChanges>(*m_factory, *m_batches, VisitChanges::ImagesBefore::Taken);
+        m_report = std::make_unique<SiteReport>(*m_factory, *m_batches, m_changes.get());
+    }
+    void cleanup()
+    {
+        m_devices->release();
+        m_report.reset();
+        m_changes.reset();
+        m_batches.reset();
+        m_engine.reset();
+        m_factory.reset();
+        m_devices.reset();
+    }
+
+    void aReportHasEachDevice()
+    {
+        m_devices->addReportDevice(20, QStringLiteral("东门"));
+        m_devices->addReportDevice(21, "shed", 90);
+        m_devices->addReportDevice(22, "yard", 0, resultCode(LoginResult::WrongPassword));
+        m_devices->addReportDevice(23, "annex", 0, resultCode(LoginResult::NetworkFailure));
+        QVERIFY(make(order()));
+        QCOMPARE(m_reason, QString());
+        QCOMPARE(m_paths.size(), 2);
+        QVERIFY2(QFileInfo(m_paths.at(0)).fileName().startsWith(QStringLiteral("North _ 北-")),
+                 qPrintable(m_paths.at(0)));
+
+        const QString text = documentText();
+        for (const QString &part :
+             {QStringLiteral("North / 北"), QStringLiteral("A. Fitter"), QStringLiteral("东门"),
+              QStringLiteral("SN-192.168.1.21"), QStringLiteral("192.168.1.23:37777"),
+              QStringLiteral("H.265 1920×1080 25 fps 4096 kbit/s"), QStringLiteral("ntp.example"),
+              QStringLiteral("登录被拒绝"), QStringLiteral("时间不准"), QStringLiteral("快 90 秒"),
+              QStringLiteral("未报告")})
+            QVERIFY2(text.contains(part), qPrintable(part + '\n' + text));
+        QCOMPARE(documentImages(), 2); // of the devices that were reached
+
+        QCOMPARE(cells(1, 2, 9).section('|', 1),
+                 QStringLiteral("东门|IPC|B-2230-IR|192.168.1.20|37777|02:1a:c5:00:00:14|v2.840.1|"
+                                "SN-192.168.1.20"));
+        QCOMPARE(cells(1, 3, 12).section('|', -1), "90");
+        QCOMPARE(cells(2, 2, 3), QStringLiteral("时间不准|shed|192.168.1.21:37777"));
+        QCOMPARE(cells(2, 3, 2), QStringLiteral("登录被拒绝|yard"));
+        QCOMPARE(cells(2, 4, 2), QStringLiteral("无法读取|annex"));
+    }
+
+    void changesOfTheVisitAreListed()
+    {
+        m_devices->addReportDevice(20, "gate");
+        m_devices->addReportDevice(21, "shed");
+        const QStringList addresses = {"192.168.1.20:37777", "192.168.1.21:37777"};
+        const auto run = [](Batch *batch) {
+            QSignalSpy finished(batch, &Batch::finished);
+            return !batch->isRunning() || finished.wait();
+        };
+        QVERIFY(run(m_batches->configureSystem("dh", "readTime", "Read clock", {}, addresses)));
+        QVERIFY(run(m_batches->configureSystem("dh", "ntpConfig", "Time server",
+                                               {{"ntpSet", true}, {"ntpServer", "ntp.example"}}, addresses)));
+        QVERIFY(run(m_batches->configureSystem("dh", "modifyPassword", "Password",
+                                               {{"password", "secret7"}}, addresses.mid(1))));
+        // A slider writes each of its positions.
+        for (const QString &value : {"51", "52", "53"})
+            Q_EMIT m_factory->signalSettingWritten(addresses.at(0), "image.picture.brightnessSlider", 0,
+                                                   value);
+        QVERIFY(make(order()));
+        QStringList changes;
+        for (const VisitChange &change : m_report->data().changes)
+            changes.append(QStringLiteral("%1 %2 %3").arg(change.ipport.section(':', 0, 0), change.operation,
+                                                          change.value));
+        changes.sort();
+        const QStringList expected = {"192.168.1.20 Time server ntp.example",
+                                      QStringLiteral("192.168.1.20 图像设置：亮度 53"),
+                                      "192.168.1.21 Password ", "192.168.1.21 Time server ntp.example"};
+        QCOMPARE(changes, expected);
+        const QString text = documentText();
+        QVERIFY(text.contains(QStringLiteral("图像设置：亮度")));
+        QVERIFY(!text.contains("secret7"));
+        QVERIFY2(cells(3, 5, 5).contains(QStringLiteral("图像设置：亮度|53")), qPrintable(cells(3, 5, 5)));
+        QVERIFY2(cells(3, 2, 1).toDouble() > 40000, qPrintable(cells(3, 2, 1))); // a date, not a text
+    }
+
+    void anUpgradedDeviceHasTwoImages()
+    {
+        m_devices->addReportDevice(20, "gate");
+        m_devices->addReportDevice(21, "shed");
+        m_devices->addReportDevice(22, "locked");
+        // The image before the upgrade is refused: the upgrade must not try the account a second time.
+        m_devices->change(22, {.result = resultCode(LoginResult::WrongPassword)});
+        const QStringList names = m_report->allDevices();
+        BatchPlan plan = {.family = "dh", .title = "Upgrade", .work = "upgrade"};
+        plan.devices = batchDevices(*m_factory, "dh", {names.at(0), names.at(2)});
+        plan.accountOf = m_batches->rowAccounts("dh");
+        plan.stepOf = [this](const BatchDevice &device) {
+            return m_devices->upgradeStep(device.identity);
+        };
+        Batch *batch = m_batches->start(plan);
+        QTRY_VERIFY(!batch->isRunning());
+        QCOMPARE(m_devices->upgraded(), names.mid(0, 1));
+        QVERIFY(make(order()));
+        QCOMPARE(m_report->data().devices.at(0).imagesBefore.size(), 1);
+        QCOMPARE(m_report->data().devices.at(1).imagesBefore.size(), 0);
+        QVERIFY(documentText().contains(QStringLiteral("更改前")));
+        QCOMPARE(documentImages(), 3);
+    }
+
+    void aStoppedReportWritesNothing()
+    {
+        for (int number = 20; number < 26; ++number) {
+            m_devices->addReportDevice(number, "gate");
+            m_devices->change(number, {.waits = true});
+        }
+        QSignalSpy finished(m_report.get(), &SiteReport::finished);
+        QVERIFY(m_report->start(order()));
+        QVERIFY(!m_report->start(order())); // one at a time
+        QTRY_VERIFY(!m_devices->takeOrders().isEmpty());
+        m_report->stop();
+        QTRY_COMPARE(finished.size(), 1);
+        QCOMPARE(finished.at(0).at(0).toStringList(), QStringList());
+        QCOMPARE(finished.at(0).at(1).toString(), QString());
+        QVERIFY(!QFileInfo::exists(m_folder->filePath("reports")));
+        QVERIFY(!m_report->isRunning());
+    }
+
+    void anUnusableFolderIsReported()
+    {
+        m_devices->addReportDevice(20, "gate");
+        QFile file(m_folder->filePath("reports")); // no folder can be created here
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(make(order()));
+        QCOMPARE(m_paths, QStringList());
+        QVERIFY2(m_reason.contains(file.fileName()), qPrintable(m_reason));
+    }
+
+    void oneFileIsEnough()
+    {
+        m_devices->addReportDevice(20, "gate");
+        ReportOrder onlyWorkbook = order();
+        onlyWorkbook.wantsDocument = false;
+        QVERIFY(make(onlyWorkbook));
+        QCOMPARE(m_paths.size(), 1);
+        QVERIFY(m_paths.at(0).endsWith(".xlsx"));
+    }
+
+    void manyDevicesHaveBoundedImages()
+    {
+        constexpr int count = 200;
+        for (int number = 1; number <= count; ++number)
+            m_devices->addReportDevice(number, QStringLiteral("camera %1").arg(number));
+        QVERIFY(make(order()));
+        QCOMPARE(m_reason, QString());
+        QCOMPARE(documentImages(), count);
+        const QString size =
+            QString::fromLatin1(outputOf("pdfimages", {"-list", m_paths.at(0)}).split('\n').value(2));
+        QVERIFY2(size.contains(QStringLiteral(" %1 ").arg(SiteReport::imageWidth)), qPrintable(size));
+        QVERIFY2(QFileInfo(m_paths.at(0)).size() < qint64{count} * 64 * 1024,
+                 qPrintable(QString::number(QFileInfo(m_paths.at(0)).size())));
+        QVERIFY(documentText().contains("camera 200"));
+    }
+};
+
+QTEST_MAIN(TestSiteReport)
+#include "tst_sitereport.moc"
