@@ -73,7 +73,8 @@ const std::vector<Command> &commands()
          .help = "--user and the password are those of the new account. The password has 8 to 32\n"
                  "characters of at least two kinds. With --devices all, only the devices that are not\n"
                  "initialised take part.\n"_L1,
-         .options = with({"devices"_L1, "filter"_L1, "user"_L1, "password-file"_L1, "visit"_L1, "dry-run"_L1}),
+         .options =
+             with({"devices"_L1, "filter"_L1, "user"_L1, "password-file"_L1, "visit"_L1, "dry-run"_L1}),
          .run = &runInit},
         {.name = "set-address"_L1,
          .operands = {},
@@ -81,8 +82,8 @@ const std::vector<Command> &commands()
          .help = "Either --start, --map or --dhcp. No device gets an address that another device of the\n"
                  "command still has. Warnings, such as an address of another device, end the command\n"
                  "before the first change, unless --force is given.\n"_L1,
-         .options = withDevices(
-             {"start"_L1, "map"_L1, "dhcp"_L1, "mask"_L1, "gateway"_L1, "force"_L1, "visit"_L1, "dry-run"_L1}),
+         .options = withDevices({"start"_L1, "map"_L1, "dhcp"_L1, "mask"_L1, "gateway"_L1, "force"_L1,
+                                 "visit"_L1, "dry-run"_L1}),
          .run = &runSetAddress},
         {.name = "get"_L1,
          .operands = "encode|image|system [SETTING ...]"_L1,
@@ -144,9 +145,10 @@ const std::vector<Command> &commands()
         {.name = "report"_L1,
          .operands = {},
          .summary = "write a report of the site as PDF and workbook"_L1,
-         .help = "The report lists each device with an image, its settings and conspicuous findings, and the\n"
-                 "changes in the file of --visit. The files are \"<name>-<date>-<time>.pdf\" and \".xlsx\" in\n"
-                 "--output. An interrupted command writes no file.\n"_L1,
+         .help =
+             "The report lists each device with an image, its settings and conspicuous findings, and the\n"
+             "changes in the file of --visit. The files are \"<name>-<date>-<time>.pdf\" and \".xlsx\" in\n"
+             "--output. An interrupted command writes no file.\n"_L1,
          .options = withDevices({"output"_L1, "name"_L1, "installer"_L1, "files"_L1, "visit"_L1}),
          .needsFonts = true,
          .run = &runReport},

@@ -20,8 +20,7 @@ bool readKinds(const Arguments &arguments, ReportOrder &order)
     const QStringList kinds = arguments.value("files"_L1, u"pdf,xlsx"_s).split(u',', Qt::SkipEmptyParts);
     order.wantsDocument = kinds.contains("pdf"_L1);
     order.wantsWorkbook = kinds.contains("xlsx"_L1);
-    return !kinds.isEmpty() &&
-           kinds.count("pdf"_L1) + kinds.count("xlsx"_L1) == kinds.size();
+    return !kinds.isEmpty() && kinds.count("pdf"_L1) + kinds.count("xlsx"_L1) == kinds.size();
 }
 
 QString findingsOf(const SiteData &data, const QString &identity)
@@ -63,16 +62,16 @@ int runReport(CommandContext &context)
     QEventLoop loop;
     QStringList written;
     QString failure;
-    QObject::connect(&report, &SiteReport::finished, &loop, [&](const QStringList &paths, const QString &reason) {
-        written = paths;
-        failure = reason;
-        loop.quit();
-    });
+    QObject::connect(&report, &SiteReport::finished, &loop,
+                     [&](const QStringList &paths, const QString &reason) {
+                         written = paths;
+                         failure = reason;
+                         loop.quit();
+                     });
     ResultTable results({u"findings"_s});
-    const int exitCode =
-        runBatch(context, [&] { return report.start(order); }, results, [&](const BatchDevice &device) {
-            return QVariantList{findingsOf(report.data(), device.identity)};
-        });
+    const int exitCode = runBatch(
+        context, [&] { return report.start(order); }, results,
+        [&](const BatchDevice &device) { return QVariantList{findingsOf(report.data(), device.identity)}; });
     if (exitCode != AllDone)
         return exitCode;
     if (report.isRunning())

@@ -76,8 +76,13 @@ QString ReportTexts::finding(FindingKind kind)
 QString ReportTexts::finding(const Finding &finding)
 {
     const QString kind = ReportTexts::finding(finding.kind);
-    //: A finding of the site report. %1 is its kind, %2 are its details.
-    return finding.text.isEmpty() ? kind : tr("%1：%2").arg(kind, finding.text);
+    return finding.text.isEmpty() ? kind : titled(kind, finding.text);
+}
+
+QString ReportTexts::titled(const QString &title, const QString &text)
+{
+    //: A line of the site report. %1 is a title, such as the kind of a finding, %2 its text.
+    return tr("%1：%2").arg(title, text);
 }
 
 QString ReportTexts::outcome(const StepOutcome &outcome)

@@ -57,6 +57,8 @@ public:
     //: A channel of a recorder. %1 is its number.
     static QString channel(int number) { return tr("通道 %1").arg(number); }
 
+    /// A title and its text as one line.
+    static QString titled(const QString &title, const QString &text);
     static QString finding(FindingKind kind);
     /// The kind of a finding and its details as one line.
     static QString finding(const Finding &finding);

@@ -37,7 +37,7 @@ struct ReportDevice
     DeviceInspection inspection = {};
 
     QList<ReportImage> images = {}; ///< by channel
-    int channelCount = 0;      ///< channels of the device; images are taken of the first ones only
+    int channelCount = 0;           ///< channels of the device; images are taken of the first ones only
     QList<BeforeImages::Image> imagesBefore = {};
 
     /// The title of the device for the user: its name, or its model without a name.
@@ -69,9 +69,9 @@ struct Finding
 struct VisitChange
 {
     QDateTime time;
-    QString identity; ///< name of the row of the device
-    QString ipport;   ///< address and port at the time of the change
-    QString device;   ///< name and model
+    QString identity;  ///< name of the row of the device
+    QString ipport;    ///< address and port at the time of the change
+    QString device;    ///< name and model
     QString operation; ///< in the user's language
     QString value;     ///< the new value in the user's language; may be empty
 };
@@ -83,9 +83,9 @@ struct SiteData
     QString installer; ///< may be empty
     QDateTime time;
     QList<ReportDevice> devices = {};
-    QList<Finding> findings = {}; ///< by device
+    QList<Finding> findings = {};    ///< by device
     QList<VisitChange> changes = {}; ///< oldest first
-    qsizetype droppedChanges = 0; ///< older changes that were not kept
+    qsizetype droppedChanges = 0;    ///< older changes that were not kept
 
     /// The findings of a device.
     [[nodiscard]] QList<Finding> findingsOf(qsizetype device) const

@@ -40,8 +40,11 @@ struct ShownImage
     QString caption;
 };
 
+/// Null without a readable image.
 QImage loadedImage(const QString &path)
 {
+    if (path.isEmpty())
+        return {};
     QImageReader reader(path);
     const QSize size = reader.size();
     if (size.width() > largestImageWidth)
@@ -77,7 +80,7 @@ private:
         write(m_data.site, {.size = 24, .weight = QFont::DemiBold, .mostLines = 2}, 4 * point);
         QString line = QLocale().toString(m_data.time, QStringLiteral("yyyy-MM-dd HH:mm"));
         if (!m_data.installer.isEmpty())
-            line += QStringLiteral("   ·   %1: %2").arg(Texts::installer(), m_data.installer);
+            line += QStringLiteral("   ·   ") + Texts::titled(Texts::installer(), m_data.installer);
         write(line, {.size = 10, .color = Colour::sub, .mostLines = 2}, 18 * point);
     }
 
@@ -163,8 +166,7 @@ private:
         for (qsizetype index = first; index < m_data.changes.size(); ++index) {
             const VisitChange &change = m_data.changes.at(index);
             rows.append({change.time.toString(QStringLiteral("MM-dd HH:mm:ss")),
-                         change.device.isEmpty() ? change.ipport
-                                                 : change.device + u'\n' + change.ipport,
+                         change.device.isEmpty() ? change.ipport : change.device + u'\n' + change.ipport,
                          change.operation, change.value});
         }
         m_page.table(columns({Texts::time(), Texts::devices(), Texts::operation(), Texts::value()},
@@ -202,7 +204,8 @@ private:
             return m_page.textHeight(Texts::finding(finding), valueStyle, valuesWidth - 12 * point) +
                    2.5 * point;
         };
-        qreal right = 0;
+        const qreal aboveFindings = findings.isEmpty() ? 0 : 5 * point;
+        qreal right = aboveFindings;
         for (const auto &[label, value] : values)
             right += valueHeight(value);
         for (const Finding &finding : findings)
@@ -223,6 +226,7 @@ private:
             m_page.drawText({valuesX + labelWidth, y}, valuesWidth - labelWidth, value, valueStyle);
             y += valueHeight(value);
         }
+        y += aboveFindings;
         for (const Finding &finding : findings) {
             if (QPainter *painter = m_page.painter()) {
                 painter->setRenderHint(QPainter::Antialiasing);
@@ -259,8 +263,8 @@ private:
         ShownImage now = {.path = {}, .caption = {}};
         if (!device.images.isEmpty()) {
             now.path = device.images.constFirst().path;
-            now.caption = now.path.isEmpty() ? device.images.constFirst().message
-                                             : device.images.constFirst().name;
+            now.caption =
+                now.path.isEmpty() ? device.images.constFirst().message : device.images.constFirst().name;
         }
         QList<ShownImage> images = {now};
         for (const BeforeImages::Image &before : device.imagesBefore) {
@@ -283,8 +287,8 @@ private:
             images.append({.path = before.path, .caption = beforeCaption(device, before)});
             for (const ReportImage &image : device.images) {
                 if (image.channel == before.channel)
-                    images.append({.path = image.path,
-                                   .caption = captionOf(Texts::imageNow(), device, image.channel)});
+                    images.append(
+                        {.path = image.path, .caption = captionOf(Texts::imageNow(), device, image.channel)});
             }
         }
         for (const ReportImage &image : device.images) {
@@ -299,9 +303,8 @@ private:
 
     static QString captionOf(const QString &kind, const ReportDevice &device, int channel)
     {
-        return device.channelCount > 1
-                   ? QStringLiteral("%1 · %2").arg(kind, Texts::channel(channel + 1))
-                   : kind;
+        return device.channelCount > 1 ? QStringLiteral("%1 · %2").arg(kind, Texts::channel(channel + 1))
+                                       : kind;
     }
     static QString beforeCaption(const ReportDevice &device, const BeforeImages::Image &before)
     {
@@ -384,8 +387,8 @@ private:
         }
         if (picture.isNull()) {
             const TextStyle style = {.size = 8.5, .color = Colour::faint, .mostLines = 1};
-            const qreal textWidth = std::min(
-                size.width(), QFontMetricsF(fontOf(style)).horizontalAdvance(Texts::noImage()));
+            const qreal textWidth =
+                std::min(size.width(), QFontMetricsF(fontOf(style)).horizontalAdvance(Texts::noImage()));
             m_page.drawText({area.center().x() - textWidth / 2, area.center().y() - 6 * point}, size.width(),
                             Texts::noImage(), style);
         }
@@ -421,9 +424,9 @@ QString saveSiteDocument(const SiteData &data, const QString &path)
     device.setPageMargins(QMarginsF());
     device.setTitle(QStringLiteral("%1 - %2").arg(data.site, ReportTexts::report()));
     device.setCreator(QStringLiteral("BRELM Tool"));
-    const QString footText = QStringLiteral("%1   ·   %2   ·   %3")
-                                 .arg(data.site, ReportTexts::report(),
-                                      data.time.toString(QStringLiteral("yyyy-MM-dd HH:mm")));
+    const QString footText =
+        QStringLiteral("%1   ·   %2   ·   %3")
+            .arg(data.site, ReportTexts::report(), data.time.toString(QStringLiteral("yyyy-MM-dd HH:mm")));
     const int pageCount = pageCountOf(data, device, footText);
     QPainter painter;
     if (!painter.begin(&device))

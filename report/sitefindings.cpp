@@ -110,7 +110,8 @@ QList<Finding> siteFindings(const QList<ReportDevice> &devices)
         if (!others.isEmpty())
             add(FindingKind::DuplicateAddress, others.join(QStringLiteral(", ")));
         const int result = device.outcome.result;
-        if (device.isInitialised && isFailure(result) && (!device.isRead || device.inspection.detail.isEmpty()))
+        if (device.isInitialised && isFailure(result) &&
+            (!device.isRead || device.inspection.detail.isEmpty()))
             add(isAccountRefused(result) ? FindingKind::LoginRefused : FindingKind::NotReached,
                 ReportTexts::outcome(device.outcome));
         if (device.isRead && device.inspection.clockOffset &&

@@ -175,14 +175,13 @@ DeviceStep SiteReport::stepOf(const BatchDevice &device) const
     const std::shared_ptr<Collection> collection = m_collection;
     const QString name = device.name;
     CDeviceBase &backEnd = *m_factory.backEnd(dhFamily);
-    const DeviceStep inspection =
-        backEnd.inspectionStep({.ipport = device.ipport,
-                                .inspected = [collection, name](const DeviceInspection &values) {
-                                    collection->change(name, [&values](Collection::Result &result) {
-                                        result.isRead = true;
-                                        result.inspection = values;
-                                    });
-                                }});
+    const DeviceStep inspection = backEnd.inspectionStep(
+        {.ipport = device.ipport, .inspected = [collection, name](const DeviceInspection &values) {
+             collection->change(name, [&values](Collection::Result &result) {
+                 result.isRead = true;
+                 result.inspection = values;
+             });
+         }});
     const DeviceStep images = backEnd.imageStep(
         {.ipport = device.ipport,
          .folder = collection->folderOf(name),
@@ -226,9 +225,8 @@ void SiteReport::takeResults()
         return;
     const Batch &batch = *m_batch;
     const bool isStopped =
-        std::any_of(batch.entries().cbegin(), batch.entries().cend(), [](const Batch::Entry &entry) {
-            return entry.outcome.result == BatchReport::NotDone;
-        });
+        std::any_of(batch.entries().cbegin(), batch.entries().cend(),
+                    [](const Batch::Entry &entry) { return entry.outcome.result == BatchReport::NotDone; });
     if (isStopped) {
         end({}, {});
         return;

@@ -17,9 +17,9 @@ class CDeviceFactory;
 /// The wanted report.
 struct ReportOrder
 {
-    QString site;      ///< name of the site; must not be empty
-    QString installer; ///< may be empty
-    QString folder;    ///< absolute path; created if it is missing
+    QString site;           ///< name of the site; must not be empty
+    QString installer;      ///< may be empty
+    QString folder;         ///< absolute path; created if it is missing
     QStringList identities; ///< names of the rows of the devices, in the order of the report
     bool wantsDocument = true;
     bool wantsWorkbook = true;
@@ -35,9 +35,9 @@ inline constexpr QLatin1StringView document("document");     ///< bool: the PDF 
 inline constexpr QLatin1StringView workbook("workbook");     ///< bool
 } // namespace ReportKey
 
-/// Makes reports, one at a time: a batch reads each device and takes its images, then a separate thread writes
-/// the files "<site>-<date>-<time>.pdf" and ".xlsx". Images are in a temporary folder until the files are
-/// written. A stopped batch writes no file. Lives on the main thread.
+/// Makes reports, one at a time: a batch reads each device and takes its images, then a separate thread
+/// writes the files "<site>-<date>-<time>.pdf" and ".xlsx". Images are in a temporary folder until the files
+/// are written. A stopped batch writes no file. Lives on the main thread.
 class SiteReport : public QObject
 {
     Q_OBJECT

@@ -193,9 +193,8 @@ lxw_error writeDevices(lxw_workbook *workbook, const SiteData &data)
         sheet.text(device.version);
         sheet.text(device.serial);
         sheet.number(device.channelCount > 0 ? std::optional<double>(device.channelCount) : std::nullopt);
-        sheet.text(device.inspection.streams.isEmpty()
-                       ? QString()
-                       : T::streamOf(device.inspection.streams.constFirst()));
+        sheet.text(device.inspection.streams.isEmpty() ? QString()
+                                                       : T::streamOf(device.inspection.streams.constFirst()));
         sheet.number(numberOf(device.inspection.clockOffset));
         sheet.text(device.isRead ? T::timeServerOf(device.inspection) : QString());
         sheet.text(findingsText(data, index));

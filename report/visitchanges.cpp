@@ -24,8 +24,8 @@ DeviceStep imageBeforeUpgrade(CDeviceBase &backEnd, const std::shared_ptr<Before
                               .onlyChannel = 0,
                               .tries = BeforeImages::maximumTries,
                               .isBeforeUpgrade = true,
-                              .taken = [images, identity = device.identity](
-                                           int channel, const QString &path, const QString & /*message*/) {
+                              .taken = [images, identity = device.identity](int channel, const QString &path,
+                                                                            const QString & /*message*/) {
                                   if (!path.isEmpty())
                                       images->add(identity, channel, path);
                               }});
@@ -50,7 +50,7 @@ void VisitChanges::requestImages(Batches &batches)
 {
     m_factory.backEnd(dhFamily)->setBeforeImages(m_images);
     batches.setStepBefore([&factory = m_factory, images = m_images](const QString &work, bool usesRowAccount,
-                                                        const BatchDevice &device) -> DeviceStep {
+                                                                    const BatchDevice &device) -> DeviceStep {
         // The account of a document line may differ from that of the row: no attempt with the latter.
         const QJsonObject row = factory.backEnd(dhFamily)->deviceRow(device.identity);
         const bool mayLogIn = usesRowAccount || row.value(DeviceRowKey::loggedIn).toBool();
@@ -99,7 +99,8 @@ void VisitChanges::recordBatch(const Batch &batch, const QHash<QString, QString>
             // The row has the new version already, unless the device has not reported it yet.
             const QString before = versionsBefore.value(entry.device.identity);
             const QString now = versionOf(entry.device.identity);
-            change.value = before == now || before.isEmpty() ? now : QStringLiteral("%1 → %2").arg(before, now);
+            change.value =
+                before == now || before.isEmpty() ? now : QStringLiteral("%1 → %2").arg(before, now);
         } else if (!isCommand && !entry.outcome.text.isEmpty()) {
             change.value = entry.outcome.text;
         }

@@ -5148,7 +5148,7 @@ File: </translation>
     </message>
     <message>
         <source>%1：%2</source>
-        <extracomment>A finding of the site report. %1 is its kind, %2 are its details.</extracomment>
+        <extracomment>A line of the site report. %1 is a title, such as the kind of a finding, %2 its text.</extracomment>
         <translation>%1: %2</translation>
     </message>
     <message>

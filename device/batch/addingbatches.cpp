@@ -106,7 +106,8 @@ QVariantList AddingBatches::importFailures(Batch *batch) const
 
 Batch *AddingBatches::addDevices(const QString &title, const QVariantList &devices)
 {
-    BatchPlan plan = {.family = dhFamily, .title = title, .policy = m_batches.usualPolicy(), .changesDevices = false};
+    BatchPlan plan = {
+        .family = dhFamily, .title = title, .policy = m_batches.usualPolicy(), .changesDevices = false};
     QHash<QString, DeviceToAdd> targets; // by the names in the batch
     QHash<QString, QString> identities;
     QHash<std::pair<QString, QString>, qsizetype> accounts; // number of each account: no secret in `login`

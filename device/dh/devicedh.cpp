@@ -48,17 +48,16 @@ CDeviceDH::CDeviceDH(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libra
       m_session(std::make_unique<CurrentSession>(m_libraries, *m_threads)),
       m_sessionLogins(std::make_unique<SessionLogins>(
           store, m_libraries, *m_logins, m_threads, takeOwnImage(), *m_reservations, *m_session, m_signals)),
-      m_pages(std::make_unique<ConfigurationPages>(m_libraries, *m_reservations, *m_session, m_signals,
-                                                   [this, store](const QString &ipport, qint64 handle,
-                                                                 int channel) {
-                                                       takeBeforeChange(*store, ipport, handle, channel);
-                                                   })),
+      m_pages(std::make_unique<ConfigurationPages>(
+          m_libraries, *m_reservations, *m_session, m_signals,
+          [this, store](const QString &ipport, qint64 handle, int channel) {
+              takeBeforeChange(*store, ipport, handle, channel);
+          })),
       m_encodeCopies(std::make_unique<EncodeCopies>(store, m_libraries, *m_logins, isUpgradingAt(),
                                                     *m_session, m_signals)),
       m_images(std::make_unique<ImageOperations>(store, m_libraries, *m_logins, isUpgradingAt(), *m_session,
                                                  m_signals)),
-      m_inspections(
-          std::make_unique<InspectionOperations>(store, m_libraries, *m_logins, isUpgradingAt())),
+      m_inspections(std::make_unique<InspectionOperations>(store, m_libraries, *m_logins, isUpgradingAt())),
       m_search(std::make_unique<SearchOperations>(store, m_libraries, std::move(searchSettings), *m_logins,
                                                   m_signals))
 {

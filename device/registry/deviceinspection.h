@@ -30,7 +30,8 @@ struct DeviceInspection
     int channelCount = 0;          ///< as reported by the login; 0 if not reported
     QList<StreamSettings> streams; ///< of the first InspectionOrder::maximumStreams channels
 
-    /// Seconds between the clock of the device and the local time of the host, positive if the device is ahead.
+    /// Seconds between the clock of the device and the local time of the host, positive if the device is
+    /// ahead.
     std::optional<qint64> clockOffset;
     std::optional<bool> usesTimeServer;
     QString timeServer; ///< empty if not reported

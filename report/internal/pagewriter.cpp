@@ -67,8 +67,7 @@ QFont fontOf(const TextStyle &style)
 
 PageWriter::PageWriter(QPdfWriter &device, QPainter *painter, const QString &footText, int pageCount)
     : m_device(device), m_painter(painter), m_footText(footText),
-      m_paper(device.pageLayout().fullRectPixels(unitsPerInch).size()), m_pageCount(pageCount),
-      m_y(marginTop)
+      m_paper(device.pageLayout().fullRectPixels(unitsPerInch).size()), m_pageCount(pageCount), m_y(marginTop)
 {
 }
 

@@ -50,7 +50,7 @@ public:
 
     [[nodiscard]] bool isMeasuring() const { return !m_painter; }
     [[nodiscard]] QPainter *painter() const { return m_painter; } ///< null when measuring
-    [[nodiscard]] int pageNumber() const { return m_page; }        ///< from 1
+    [[nodiscard]] int pageNumber() const { return m_page; }       ///< from 1
     [[nodiscard]] qreal left() const;
     [[nodiscard]] qreal width() const;
     [[nodiscard]] qreal y() const { return m_y; }

@@ -176,6 +176,9 @@ private Q_SLOTS:
             "ntp.timeZone");
         row("channel", {"get", "image", "--channel", "0", "--devices", "all"}, "--channel");
         row("relative command", {"cgi", "action=reboot", "--devices", "all"}, "starts with");
+        row("files of a report", {"report", "--files", "pdf,doc", "--devices", "all"}, "--files");
+        row("damaged file of a visit", {"report", "--visit", file("{}\n", "visit.txt"), "--devices", "all"},
+            "--visit");
         row("list format", {"export", "site.txt", "--devices", "all"}, ".csv");
         row("password as an argument", {"get", "encode", "--password", "secret7"}, "is not accepted");
         row("password as an argument with =", {"get", "encode", "--password=secret7"}, "is not accepted");

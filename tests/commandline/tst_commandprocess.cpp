@@ -1,3 +1,4 @@
+#include "sheets/qexcel.h"
 #include "tests/datatable.h"
 
 #include <QDir>
@@ -43,7 +44,7 @@ private:
         process.start(program, arguments);
         process.write(input);
         process.closeWriteChannel();
-        if (!process.waitForFinished(60000))
+        if (!process.waitForFinished(170000))
             process.kill();
         const QByteArray messages = process.readAllStandardError();
         return {.exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
@@ -113,6 +114,24 @@ private Q_SLOTS:
         QVERIFY2(read("addresses.txt").contains("192.168.1.202"), read("addresses.txt").constData());
         QVERIFY2(read("names.csv").contains(",name,done,0,Gate 1\r\n"), read("names.csv").constData());
         QVERIFY2(read("site.xml").contains("192.168.1.160"), read("site.xml").constData());
+
+        QVERIFY2(read("report.csv").contains("Duplicate address"), read("report.csv").constData());
+        const QDir reports(m_folder.filePath("report"));
+        const QStringList files = reports.entryList({"Head office-*.pdf", "Head office-*.xlsx"});
+        QCOMPARE(files.size(), 2);
+        const QString document =
+            QString::fromUtf8(run("pdftotext", {"-layout", reports.filePath(files.at(0)), "-"}).results);
+        for (const QString &part :
+             {QStringLiteral("Head office"), QStringLiteral("Changes of this visit"),
+              QStringLiteral("192.168.1.202"), QStringLiteral("Gate 1"), QStringLiteral("3A4820613BR"),
+              QStringLiteral("Lagerhalle Süd"), QStringLiteral("Not initialised"),
+              QStringLiteral("Older firmware"), QStringLiteral("No time server")})
+            QVERIFY2(document.contains(part), qPrintable(part + '\n' + document));
+        QExcel workbook;
+        QVERIFY(workbook.open(reports.filePath(files.at(1))));
+        QVERIFY2(workbook.usedRowCount() > 20, qPrintable(QString::number(workbook.usedRowCount())));
+        QVERIFY(workbook.selectSheet(3));
+        QVERIFY(workbook.usedRowCount() > 10); // the changes of both commands
     }
 };
 

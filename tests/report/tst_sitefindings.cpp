@@ -31,11 +31,12 @@ private:
     /// "index kind text" of each finding.
     static QString findingsOf(const QList<ReportDevice> &devices)
     {
-        static const QStringList kinds = {"new", "duplicate", "refused", "unread", "clock", "firmware", "ntp"};
+        static const QStringList kinds = {"new",   "duplicate", "refused", "unread",
+                                          "clock", "firmware",  "ntp"};
         QStringList lines;
         for (const Finding &finding : siteFindings(devices))
-            lines.append(QStringLiteral("%1 %2").arg(finding.device).arg(
-                kinds.at(static_cast<int>(finding.kind))));
+            lines.append(
+                QStringLiteral("%1 %2").arg(finding.device).arg(kinds.at(static_cast<int>(finding.kind))));
         return lines.join(", ");
     }
 
@@ -50,7 +51,8 @@ private Q_SLOTS:
                 device.isRead = false;
             };
         };
-        row("nothing", [](ReportDevice &) {}, "");
+        row(
+            "nothing", [](ReportDevice &) {}, "");
         row(
             "not initialised, which is not a failed login",
             [](ReportDevice &device) {
@@ -79,8 +81,8 @@ private Q_SLOTS:
             "clock within the tolerance",
             [](ReportDevice &device) { device.inspection.clockOffset = -clockTolerance; }, "");
         row(
-            "clock behind",
-            [](ReportDevice &device) { device.inspection.clockOffset = -clockTolerance - 1; }, "1 clock");
+            "clock behind", [](ReportDevice &device) { device.inspection.clockOffset = -clockTolerance - 1; },
+            "1 clock");
         row(
             "clock not reported", [](ReportDevice &device) { device.inspection.clockOffset.reset(); }, "");
         row(
@@ -90,7 +92,8 @@ private Q_SLOTS:
             "time server not reported",
             [](ReportDevice &device) { device.inspection.usesTimeServer.reset(); }, "");
         row(
-            "older than the sibling", [](ReportDevice &device) { device.version = "v2.840.9"; }, "1 firmware");
+            "older than the sibling", [](ReportDevice &device) { device.version = "v2.840.9"; },
+            "1 firmware");
         row(
             "newer than the sibling", [](ReportDevice &device) { device.version = "v2.841"; }, "0 firmware");
         row(

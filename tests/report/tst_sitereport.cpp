@@ -141,8 +141,10 @@ private Q_SLOTS:
     {
         m_folder = std::make_unique<QTemporaryDir>();
         m_devices = std::make_shared<ReportBackEnd>();
-        m_factory = std::make_unique<CDeviceFactory>(
-            CDeviceFactory::BackEndCreators{{QStringLiteral("dh"), [this] { return m_devices; }}});
+        m_factory =
+            std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators{{QStringLiteral("dh"), [this] {
+                                                                                  return m_devices;
+                                                                              }}});
         m_engine = std::make_unique<BatchEngine>(nullptr);
         m_batches = std::make_unique<Batches>(*m_factory, *m_engine, [] { return 2; });
         m_changes = std::make_unique<VisitChanges>(*m_factory, *m_batches, VisitChanges::ImagesBefore::Taken);
@@ -202,8 +204,8 @@ private Q_SLOTS:
         QVERIFY(run(m_batches->configureSystem("dh", "readTime", "Read clock", {}, addresses)));
         QVERIFY(run(m_batches->configureSystem("dh", "ntpConfig", "Time server",
                                                {{"ntpSet", true}, {"ntpServer", "ntp.example"}}, addresses)));
-        QVERIFY(run(m_batches->configureSystem("dh", "modifyPassword", "Password",
-                                               {{"password", "secret7"}}, addresses.mid(1))));
+        QVERIFY(run(m_batches->configureSystem("dh", "modifyPassword", "Password", {{"password", "secret7"}},
+                                               addresses.mid(1))));
         // A slider writes each of its positions.
         for (const QString &value : {"51", "52", "53"})
             Q_EMIT m_factory->signalSettingWritten(addresses.at(0), "image.picture.brightnessSlider", 0,
@@ -211,8 +213,8 @@ private Q_SLOTS:
         QVERIFY(make(order()));
         QStringList changes;
         for (const VisitChange &change : m_report->data().changes)
-            changes.append(QStringLiteral("%1 %2 %3").arg(change.ipport.section(':', 0, 0), change.operation,
-                                                          change.value));
+            changes.append(QStringLiteral("%1 %2 %3")
+                               .arg(change.ipport.section(':', 0, 0), change.operation, change.value));
         changes.sort();
         const QStringList expected = {"192.168.1.20 Time server ntp.example",
                                       QStringLiteral("192.168.1.20 图像设置：亮度 53"),

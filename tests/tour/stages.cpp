@@ -87,6 +87,7 @@ const QList<Stage> &stagesOfTour()
              [](Driver &driver, DemoSite *site) {
                  walkFirstSearch(driver);
                  walkGallery(driver, *site, driver.imageFolder() + u"/images"_s);
+                 walkSiteReport(driver, driver.imageFolder() + u"/report"_s);
              }},
         {.name = u"manual"_s,
          .scene = u"office"_s,

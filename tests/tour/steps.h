@@ -46,6 +46,7 @@ void walkUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &folde
 /// views of several devices. The tour's images of these windows are saved in `folder`. Requires the default
 /// account to be that of the site's devices.
 void walkGallery(Driver &driver, sdk::demo::DemoSite &site, const QString &folder);
+void walkSiteReport(Driver &driver, const QString &folder);
 void takeManualImages(Driver &driver, sdk::demo::DemoSite &site);
 /// Repeats work on devices with faults for soakMinutes() and prints the figures of the process after each
 /// round. Fails if they grow. Requires the scene "faulty".

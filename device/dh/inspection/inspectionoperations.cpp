@@ -17,8 +17,8 @@ namespace {
 
 constexpr std::uint32_t timeServerTextSize = 32768;
 
-/// Reads the main stream of a channel. A refused request leaves no entry. Returns false if the device does not
-/// respond.
+/// Reads the main stream of a channel. A refused request leaves no entry. Returns false if the device does
+/// not respond.
 bool readStream(const ConfigSession &session, int channel, const ValueTables &tables,
                 QList<StreamSettings> &streams)
 {
@@ -80,9 +80,9 @@ DeviceStep InspectionOperations::step(const InspectionOrder &order) const
             order.inspected(inspection);
         if (isComplete)
             return StepOutcome();
-        return StepOutcome{.result = resultCode(control.isStopped() ? LoginResult::NotDone
-                                                                    : LoginResult::NetworkFailure),
-                           .text = {}};
+        return StepOutcome{
+            .result = resultCode(control.isStopped() ? LoginResult::NotDone : LoginResult::NetworkFailure),
+            .text = {}};
     };
 }
 
