@@ -19,11 +19,24 @@ _configtools_options() {
 }
 
 _configtools() {
+    local current=$2 previous=$3
+    local options='--demo --no-demo --version --help'
+    local commands='search init set-address get set cgi snapshot export import upgrade report'
+    if [[ $COMP_CWORD -eq 1 && $current != -* ]]; then
+        mapfile -t COMPREPLY < <(compgen -W "help $commands" -- "$current")
     local current=$2 previous=$3 command='' options words=''
     local commands='search init set-address get set cgi snapshot export import upgrade help'
     if ((COMP_CWORD > 1)) && [[ ${COMP_WORDS[1]} != -* ]]; then
         command=${COMP_WORDS[1]}
     fi
+    if [[ $previous != --demo ]]; then
+        mapfile -t COMPREPLY < <(compgen -W "$options" -- "$current")
+    if [[ " $commands " == *" ${COMP_WORDS[1]} "* ]]; then
+        # The help of a command lists its options.
+        options=$("$1" help "${COMP_WORDS[1]}" 2>/dev/null | grep -o '^  --[a-z-]*' | tr -d '\n')
+        if [[ $current != -* && $previous != --demo ]]; then
+    if [[ ${COMP_WORDS[1]} == help ]]; then
+        mapfile -t COMPREPLY < <(compgen -W "$commands" -- "$current")
     _configtools_options "$command"
     case $previous in
         --demo) words='office factory faulty fleet:' ;;

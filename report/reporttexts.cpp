@@ -165,3 +165,10 @@ QString ReportTexts::writtenSetting(const QString &setting, int channel)
     return channel > 0 ? operation + QStringLiteral(" (%1)").arg(ReportTexts::channel(channel + 1))
                        : operation;
 }
+
+QString ReportTexts::writtenValue(const QString &value)
+{
+    if (value == QLatin1String("true"))
+        return tr("开启");
+    return value == QLatin1String("false") ? tr("关闭") : value;
+}

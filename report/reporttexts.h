@@ -76,4 +76,6 @@ public:
     static QString streamOf(const StreamSettings &stream);
     /// The operation of a setting (WrittenSetting) of the configuration pages. `channel` is from 0.
     static QString writtenSetting(const QString &setting, int channel);
+    /// The value of such a setting: that of a switch in the user's language.
+    static QString writtenValue(const QString &value);
 };

@@ -31,6 +31,7 @@ struct ReportDevice
     QString version; ///< with the prefix "v"; empty if unknown
     QString serial;  ///< empty if unknown
     bool isInitialised = true;
+    bool isLost = false; ///< the last search has not found the device
 
     StepOutcome outcome = {.result = resultCode(LoginResult::NotDone), .text = {}};
     bool isRead = false; ///< the login succeeded: `inspection` has the values of the device

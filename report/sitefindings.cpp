@@ -29,19 +29,14 @@ bool isFailure(int result)
            result != resultCode(LoginResult::Upgrading);
 }
 
-bool isLoopback(const QString &address)
-{
-    return address.startsWith(QLatin1String("127.")) || address == QLatin1String("[::1]");
-}
-
-/// The titles of the other devices with the address of each device.
+/// The indexes of the devices at each address and port. Devices that were not found do not count.
 QHash<QString, QList<qsizetype>> devicesByAddress(const QList<ReportDevice> &devices)
 {
     QHash<QString, QList<qsizetype>> found;
     for (qsizetype index = 0; index < devices.size(); ++index) {
-        const QString &address = devices.at(index).address;
-        if (!address.isEmpty() && !isLoopback(address))
-            found[address].append(index);
+        const ReportDevice &device = devices.at(index);
+        if (!device.address.isEmpty() && !device.isLost)
+            found[device.ipport].append(index);
     }
     return found;
 }
@@ -103,15 +98,14 @@ QList<Finding> siteFindings(const QList<ReportDevice> &devices)
         if (!device.isInitialised)
             add(FindingKind::NotInitialised, {});
         QStringList others;
-        for (const qsizetype other : byAddress.value(device.address)) {
+        for (const qsizetype other : byAddress.value(device.ipport)) {
             if (other != index)
                 others.append(ReportTexts::deviceName(devices.at(other)));
         }
-        if (!others.isEmpty())
+        if (!others.isEmpty() && !device.isLost)
             add(FindingKind::DuplicateAddress, others.join(QStringLiteral(", ")));
         const int result = device.outcome.result;
-        if (device.isInitialised && isFailure(result) &&
-            (!device.isRead || device.inspection.detail.isEmpty()))
+        if (device.isInitialised && isFailure(result))
             add(isAccountRefused(result) ? FindingKind::LoginRefused : FindingKind::NotReached,
                 ReportTexts::outcome(device.outcome));
         if (device.isRead && device.inspection.clockOffset &&

@@ -7,8 +7,8 @@
 inline constexpr qint64 clockTolerance = 30;
 
 /// The findings of the devices, by device and, for one device, in the order of FindingKind. A value that a
-/// device has not reported causes no finding. Devices behind one end of a tunnel (a loopback address) share
-/// their address legitimately.
+/// device has not reported causes no finding. Two devices have the same address if the ports are the same as
+/// well, as in the device table: devices behind a router share its address.
 [[nodiscard]] QList<Finding> siteFindings(const QList<ReportDevice> &devices);
 
 /// Compares two versions by their numbers, from left to right: negative if `left` is older, 0 if all numbers

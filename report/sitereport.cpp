@@ -260,6 +260,7 @@ SiteData SiteReport::dataOf(const Batch &batch) const
                                .version = reported(DeviceRowKey::vision),
                                .serial = read.value(DeviceDetailKey::serial).toString(),
                                .isInitialised = row.value(DeviceRowKey::state).toBool(true),
+                               .isLost = row.value(DeviceRowKey::lost).toBool(),
                                .outcome = entry.outcome,
                                .isRead = result.isRead,
                                .inspection = result.inspection,

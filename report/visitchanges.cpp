@@ -117,7 +117,7 @@ void VisitChanges::recordSetting(const QString &ipport, const QString &setting, 
                                 .ipport = ipport,
                                 .device = device.title,
                                 .operation = ReportTexts::writtenSetting(setting, channel),
-                                .value = value};
+                                .value = ReportTexts::writtenValue(value)};
     if (!m_changes.isEmpty() && m_changes.constLast().identity == change.identity &&
         m_changes.constLast().operation == change.operation)
         m_changes.last() = change; // a slider writes each of its positions

@@ -452,8 +452,8 @@ Q_SIGNALS:
     void signalCDeviceSearchLimited(int rows, int leftOut);
     void signalCDeviceSearchProgress(int percent); ///< of the running search, 0 to 100
     /// An operation of the configuration pages has changed a setting of the device at `ipport`. `setting` is
-    /// a key of WrittenSetting, `channel` is from 0. `value` is the new value in the user's language, empty
-    /// if it has no short form.
+    /// a key of WrittenSetting, `channel` is from 0. `value` is the new value, "true" or "false" for a
+    /// switch, empty if it has no short form.
     void signalCDeviceSettingWritten(const QString &ipport, const QString &setting, int channel,
                                      const QString &value);
 

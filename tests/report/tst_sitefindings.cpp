@@ -62,16 +62,34 @@ private Q_SLOTS:
             },
             "1 new");
         row(
-            "same address, another port",
+            "same address",
+            [](ReportDevice &device) {
+                device.address = "192.168.1.1";
+                device.ipport = "192.168.1.1:80";
+            },
+            "0 duplicate, 1 duplicate");
+        row(
+            "same address, another port of the router",
             [](ReportDevice &device) {
                 device.address = "192.168.1.1";
                 device.ipport = "192.168.1.1:81";
             },
-            "0 duplicate, 1 duplicate");
+            "");
         row(
-            "both behind a tunnel", [](ReportDevice &device) { device.address = "127.0.0.1"; }, "");
+            "same address as before, but not found any more",
+            [](ReportDevice &device) {
+                device.address = "192.168.1.1";
+                device.ipport = "192.168.1.1:80";
+                device.isLost = true;
+            },
+            "");
         row(
-            "without an address", [](ReportDevice &device) { device.address.clear(); }, "");
+            "without an address",
+            [](ReportDevice &device) {
+                device.address.clear();
+                device.ipport = ":80";
+            },
+            "");
         row("wrong password", result(LoginResult::WrongPassword), "1 refused");
         row("locked", result(LoginResult::AccountLocked), "1 refused");
         row("offline", result(LoginResult::NetworkFailure), "1 unread");
@@ -120,8 +138,6 @@ private Q_SLOTS:
         QFETCH(const std::function<void(ReportDevice &)>, change);
         QList<ReportDevice> devices = {device(1), device(2)};
         devices[0].mac = "02:1a:c5:00:00:01";
-        if (QLatin1String(QTest::currentDataTag()) == QLatin1String("both behind a tunnel"))
-            devices[0].address = "127.0.0.1";
         change(devices[1]);
         QTEST(findingsOf(devices), "findings");
     }

@@ -19,6 +19,27 @@ QVariantList listOf(const QList<bool> &values)
     return list;
 }
 
+/// The list of choices (a key of CameraSetting) of a setting whose value is an index; empty for another one.
+QLatin1StringView choicesOf(const QString &group, const QString &setting)
+{
+    if (group == CameraKey::exposure && setting == CameraSetting::value)
+        return CameraSetting::allExposureType;
+    constexpr std::array choices = {
+        std::pair(CameraSetting::antiFlicker, CameraSetting::allAntiFlickerType),
+        std::pair(CameraSetting::backmode, CameraSetting::allBackModeType),
+        std::pair(CameraSetting::whiteBalanceType, CameraSetting::allType),
+        std::pair(CameraSetting::dayNightType, CameraSetting::allDayNightType),
+        std::pair(CameraSetting::defogMode, CameraSetting::allInDefogType),
+        std::pair(CameraSetting::controlMode, CameraSetting::allLightControlType),
+        std::pair(CameraSetting::mixMode, CameraSetting::allmixLightType),
+    };
+    for (const auto &[name, list] : choices) {
+        if (setting == name)
+            return list;
+    }
+    return {};
+}
+
 } // namespace
 
 SessionRun::SessionRun(SessionState &state, std::function<bool()> isUpgrading,
@@ -210,9 +231,12 @@ void SessionRun::noteCameraValue(const QString &key, const QVariant &value, cons
         noteWritten(WrittenSetting::channelName, channel, value.toString());
         return;
     }
+    QString text = key == CameraKey::setDefault ? QString() : value.toString();
+    const QLatin1StringView choices = choicesOf(key, subKey);
+    if (!choices.isEmpty())
+        text = m_state.camera.value(key).toMap().value(choices).toStringList().value(value.toInt());
     const bool isMain = subKey.isEmpty() || subKey == CameraSetting::value;
-    noteWritten(WrittenSetting::imagePrefix + key + (isMain ? QString() : u'.' + subKey), channel,
-                value.typeId() == QMetaType::Bool ? QString() : value.toString());
+    noteWritten(WrittenSetting::imagePrefix + key + (isMain ? QString() : u'.' + subKey), channel, text);
 }
 
 // The names of the channels.
