@@ -84,7 +84,7 @@ struct SiteData
     QString installer; ///< may be empty
     QDateTime time;
     QList<ReportDevice> devices = {};
-    QList<Finding> findings = {};    ///< by device
+    QList<Finding> findings = {};    ///< by kind, then by device
     QList<VisitChange> changes = {}; ///< oldest first
     qsizetype droppedChanges = 0;    ///< older changes that were not kept
 

@@ -117,5 +117,7 @@ QList<Finding> siteFindings(const QList<ReportDevice> &devices)
         if (device.isRead && device.inspection.usesTimeServer == false)
             add(FindingKind::NoTimeServer, {});
     }
+    std::stable_sort(findings.begin(), findings.end(),
+                     [](const Finding &left, const Finding &right) { return left.kind < right.kind; });
     return findings;
 }

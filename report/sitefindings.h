@@ -6,7 +6,7 @@
 /// A clock that differs from the host by more seconds than this is a finding.
 inline constexpr qint64 clockTolerance = 30;
 
-/// The findings of the devices, by device and, for one device, in the order of FindingKind. A value that a
+/// The findings of the devices, in the order of FindingKind and, for one kind, of the devices. A value that a
 /// device has not reported causes no finding. Two devices have the same address if the ports are the same as
 /// well, as in the device table: devices behind a router share its address.
 [[nodiscard]] QList<Finding> siteFindings(const QList<ReportDevice> &devices);

@@ -235,49 +235,63 @@ void SiteReport::takeResults()
     write();
 }
 
+ReportDevice SiteReport::deviceOf(const Batch::Entry &entry, bool isAddressShared) const
+{
+    const QJsonObject row = m_factory.backEnd(dhFamily)->deviceRow(entry.device.identity);
+    const auto text = [&row](QLatin1StringView key) {
+        return row.value(key).toString();
+    };
+    Collection::Result result = m_collection->resultOf(entry.device.name);
+    const QString mac = text(DeviceRowKey::mac);
+    const QString readMac = result.inspection.detail.value(DeviceRowKey::mac).toString();
+    // Another device with the same address has responded.
+    if (isAddressShared && !mac.isEmpty() && !readMac.isEmpty() &&
+        mac.compare(readMac, Qt::CaseInsensitive) != 0)
+        result = {};
+    const QVariantMap &read = result.inspection.detail;
+    const auto reported = [&](QLatin1StringView key) {
+        return read.contains(key) ? read.value(key).toString() : text(key);
+    };
+    ReportDevice device = {.identity = entry.device.identity,
+                           .ipport = row.isEmpty() ? entry.device.ipport : text(DeviceRowKey::ipport),
+                           .address = rowAddress(row),
+                           .mac = reported(DeviceRowKey::mac),
+                           .name = text(DeviceRowKey::name),
+                           .type = text(DeviceRowKey::type),
+                           .model = reported(DeviceRowKey::model),
+                           .version = reported(DeviceRowKey::vision),
+                           .serial = read.value(DeviceDetailKey::serial).toString(),
+                           .isInitialised = row.value(DeviceRowKey::state).toBool(true),
+                           .isLost = row.value(DeviceRowKey::lost).toBool(),
+                           .outcome = entry.outcome,
+                           .isRead = result.isRead,
+                           .inspection = result.inspection,
+                           .images = result.images,
+                           .channelCount = std::max(result.inspection.channelCount, 0)};
+    if (device.serial.isEmpty())
+        device.serial =
+            m_factory.getDeviceDetail(dhFamily, device.identity).value(DeviceDetailKey::serial).toString();
+    if (m_changes)
+        device.imagesBefore = m_changes->imagesBefore()->of(device.identity);
+    return device;
+}
+
 SiteData SiteReport::dataOf(const Batch &batch) const
 {
     SiteData data = {
         .site = m_order.site, .installer = m_order.installer, .time = QDateTime::currentDateTime()};
+    QStringList addresses;
+    for (const Batch::Entry &entry : batch.entries())
+        addresses.append(entry.device.ipport);
     QStringList macs;
     for (const Batch::Entry &entry : batch.entries()) {
-        const QJsonObject row = m_factory.backEnd(dhFamily)->deviceRow(entry.device.identity);
-        const auto text = [&row](QLatin1StringView key) {
-            return row.value(key).toString();
-        };
-        const Collection::Result result = m_collection->resultOf(entry.device.name);
-        const QVariantMap &read = result.inspection.detail;
-        const auto reported = [&](QLatin1StringView key) {
-            return read.contains(key) ? read.value(key).toString() : text(key);
-        };
-        ReportDevice device = {.identity = entry.device.identity,
-                               .ipport = row.isEmpty() ? entry.device.ipport : text(DeviceRowKey::ipport),
-                               .address = rowAddress(row),
-                               .mac = reported(DeviceRowKey::mac),
-                               .name = text(DeviceRowKey::name),
-                               .type = text(DeviceRowKey::type),
-                               .model = reported(DeviceRowKey::model),
-                               .version = reported(DeviceRowKey::vision),
-                               .serial = read.value(DeviceDetailKey::serial).toString(),
-                               .isInitialised = row.value(DeviceRowKey::state).toBool(true),
-                               .isLost = row.value(DeviceRowKey::lost).toBool(),
-                               .outcome = entry.outcome,
-                               .isRead = result.isRead,
-                               .inspection = result.inspection,
-                               .images = result.images,
-                               .channelCount = std::max(result.inspection.channelCount, 0)};
-        if (device.serial.isEmpty())
-            device.serial = m_factory.getDeviceDetail(dhFamily, device.identity)
-                                .value(DeviceDetailKey::serial)
-                                .toString();
-        // The IPv4 and the IPv6 row of one device.
-        const bool isSecondRow = row.value(DeviceRowKey::mac).toString().isEmpty() && !device.mac.isEmpty() &&
+        const ReportDevice device = deviceOf(entry, addresses.count(entry.device.ipport) > 1);
+        // The IPv4 and the IPv6 row of one device: rows of the IPv6 list have no MAC.
+        const bool isSecondRow = device.address.startsWith(u'[') && !device.mac.isEmpty() &&
                                  macs.contains(device.mac, Qt::CaseInsensitive);
         if (isSecondRow)
             continue;
         macs.append(device.mac);
-        if (m_changes)
-            device.imagesBefore = m_changes->imagesBefore()->of(device.identity);
         data.devices.append(device);
     }
     data.findings = siteFindings(data.devices);

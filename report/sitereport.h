@@ -90,6 +90,8 @@ private:
     [[nodiscard]] DeviceStep stepOf(const BatchDevice &device) const;
     void takeResults();
     [[nodiscard]] SiteData dataOf(const Batch &batch) const;
+    /// `isAddressShared`: another device of the batch has the same address and port.
+    [[nodiscard]] ReportDevice deviceOf(const Batch::Entry &entry, bool isAddressShared) const;
     void write();
     void end(const QStringList &paths, const QString &reason);
 

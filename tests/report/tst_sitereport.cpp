@@ -34,7 +34,9 @@ public:
                 offset = m_offsets.value(order.ipport)](const StepControl &) {
             if (result != 0)
                 return StepOutcome{.result = result, .text = {}};
-            order.inspected({.detail = {{"serial", "SN-" + order.ipport.section(':', 0, 0)}},
+            const int number = order.ipport.section(':', 0, 0).section('.', -1).toInt();
+            order.inspected({.detail = {{"serial", "SN-" + order.ipport.section(':', 0, 0)},
+                                        {"mac", QString::fromStdString(numberedMac(number))}},
                              .channelCount = 1,
                              .streams = {{.channel = 0,
                                           .compression = "H.265",
@@ -187,9 +189,23 @@ private Q_SLOTS:
                  QStringLiteral("东门|IPC|B-2230-IR|192.168.1.20|37777|02:1a:c5:00:00:14|v2.840.1|"
                                 "SN-192.168.1.20"));
         QCOMPARE(cells(1, 3, 12).section('|', -1), "90");
-        QCOMPARE(cells(2, 2, 3), QStringLiteral("时间不准|shed|192.168.1.21:37777"));
-        QCOMPARE(cells(2, 3, 2), QStringLiteral("登录被拒绝|yard"));
-        QCOMPARE(cells(2, 4, 2), QStringLiteral("无法读取|annex"));
+        QCOMPARE(cells(2, 2, 2), QStringLiteral("登录被拒绝|yard"));
+        QCOMPARE(cells(2, 3, 2), QStringLiteral("无法读取|annex"));
+        QCOMPARE(cells(2, 4, 3), QStringLiteral("时间不准|shed|192.168.1.21:37777"));
+    }
+
+    void valuesOfAnotherDeviceAtTheAddressAreNotShown()
+    {
+        m_devices->addReportDevice(20, "first");
+        m_devices->add({.address = "192.168.1.20", .mac = "02:1a:c5:00:99:01", .name = "second"});
+        QVERIFY(make(order()));
+        const QList<ReportDevice> &devices = m_report->data().devices;
+        QCOMPARE(devices.size(), 2);
+        QVERIFY(devices.at(0).isRead); // the device has reported this MAC
+        QVERIFY(!devices.at(1).isRead);
+        QCOMPARE(devices.at(1).mac, "02:1a:c5:00:99:01");
+        QCOMPARE(devices.at(1).images.size(), 0);
+        QCOMPARE(m_report->data().findings.size(), 2);
     }
 
     void changesOfTheVisitAreListed()
@@ -207,9 +223,9 @@ private Q_SLOTS:
         QVERIFY(run(m_batches->configureSystem("dh", "modifyPassword", "Password", {{"password", "secret7"}},
                                                addresses.mid(1))));
         // A slider writes each of its positions.
-        for (const QString &value : {"51", "52", "53"})
+        for (const char *value : {"51", "52", "53"})
             Q_EMIT m_factory->signalSettingWritten(addresses.at(0), "image.picture.brightnessSlider", 0,
-                                                   value);
+                                                   QString::fromLatin1(value));
         QVERIFY(make(order()));
         QStringList changes;
         for (const VisitChange &change : m_report->data().changes)
