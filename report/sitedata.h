@@ -88,14 +88,12 @@ struct SiteData
     QList<VisitChange> changes = {}; ///< oldest first
     qsizetype droppedChanges = 0;    ///< older changes that were not kept
 
-    /// The findings of a device.
-    [[nodiscard]] QList<Finding> findingsOf(qsizetype device) const
+    /// The findings of each device, by its index in `devices`.
+    [[nodiscard]] QList<QList<Finding>> findingsByDevice() const
     {
-        QList<Finding> found;
-        for (const Finding &finding : findings) {
-            if (finding.device == device)
-                found.append(finding);
-        }
+        QList<QList<Finding>> found(devices.size());
+        for (const Finding &finding : findings)
+            found[finding.device].append(finding);
         return found;
     }
 };

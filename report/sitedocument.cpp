@@ -56,7 +56,10 @@ QImage loadedImage(const QString &path)
 class DocumentPages
 {
 public:
-    DocumentPages(const SiteData &data, PageWriter &page) : m_data(data), m_page(page) {}
+    DocumentPages(const SiteData &data, PageWriter &page)
+        : m_data(data), m_findings(data.findingsByDevice()), m_page(page)
+    {
+    }
 
     void write()
     {
@@ -93,20 +96,15 @@ private:
 
     void writeCounts()
     {
-        const auto conspicuous = [this] {
-            QList<qsizetype> devices;
-            for (const Finding &finding : m_data.findings) {
-                if (!devices.contains(finding.device))
-                    devices.append(finding.device);
-            }
-            return devices.size();
-        };
+        const auto conspicuous =
+            std::count_if(m_findings.cbegin(), m_findings.cend(),
+                          [](const QList<Finding> &findings) { return !findings.isEmpty(); });
         const auto reached = std::count_if(m_data.devices.cbegin(), m_data.devices.cend(),
                                            [](const ReportDevice &device) { return device.isRead; });
         const QList<std::pair<QString, qsizetype>> counts = {
             {Texts::devices(), m_data.devices.size()},
             {Texts::reached(), reached},
-            {Texts::conspicuous(), conspicuous()},
+            {Texts::conspicuous(), conspicuous},
             {Texts::changes(), m_data.changes.size() + m_data.droppedChanges}};
         const qreal width = (m_page.width() - 3 * gap) / 4;
         const qreal height = 54 * point;
@@ -192,7 +190,7 @@ private:
         const QList<ShownImage> main = mainImages(device);
         const QList<ShownImage> thumbs = furtherImages(device);
         const QList<std::pair<QString, QString>> values = valuesOf(device);
-        const QList<Finding> findings = m_data.findingsOf(index);
+        const QList<Finding> &findings = m_findings.at(index);
 
         const qreal valuesX = m_page.left() + imageWidth + 14 * point;
         const qreal valuesWidth = m_page.left() + m_page.width() - valuesX;
@@ -397,6 +395,7 @@ private:
     }
 
     const SiteData &m_data;
+    const QList<QList<Finding>> m_findings; ///< by device
     PageWriter &m_page;
 };
 

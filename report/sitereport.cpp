@@ -15,6 +15,7 @@
 #include <QDir>
 #include <QFile>
 #include <QImageReader>
+#include <QSet>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
@@ -280,18 +281,18 @@ SiteData SiteReport::dataOf(const Batch &batch) const
 {
     SiteData data = {
         .site = m_order.site, .installer = m_order.installer, .time = QDateTime::currentDateTime()};
-    QStringList addresses;
+    QHash<QString, int> devicesAt; // by address and port
     for (const Batch::Entry &entry : batch.entries())
-        addresses.append(entry.device.ipport);
-    QStringList macs;
+        ++devicesAt[entry.device.ipport];
+    QSet<QString> macs;
     for (const Batch::Entry &entry : batch.entries()) {
-        const ReportDevice device = deviceOf(entry, addresses.count(entry.device.ipport) > 1);
+        const ReportDevice device = deviceOf(entry, devicesAt.value(entry.device.ipport) > 1);
         // The IPv4 and the IPv6 row of one device: rows of the IPv6 list have no MAC.
-        const bool isSecondRow = device.address.startsWith(u'[') && !device.mac.isEmpty() &&
-                                 macs.contains(device.mac, Qt::CaseInsensitive);
+        const bool isSecondRow =
+            device.address.startsWith(u'[') && !device.mac.isEmpty() && macs.contains(device.mac.toLower());
         if (isSecondRow)
             continue;
-        macs.append(device.mac);
+        macs.insert(device.mac.toLower());
         data.devices.append(device);
     }
     data.findings = siteFindings(data.devices);

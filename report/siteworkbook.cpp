@@ -139,10 +139,10 @@ std::optional<double> numberOf(const std::optional<qint64> &value)
     return value ? std::optional(static_cast<double>(*value)) : std::nullopt;
 }
 
-QString findingsText(const SiteData &data, qsizetype device)
+QString findingsText(const QList<Finding> &findings)
 {
     QStringList lines;
-    for (const Finding &finding : data.findingsOf(device))
+    for (const Finding &finding : findings)
         lines.append(ReportTexts::finding(finding));
     return lines.join(u'\n');
 }
@@ -175,6 +175,7 @@ lxw_error writeDevices(lxw_workbook *workbook, const SiteData &data)
                        {T::timeServer(), 18},
                        {T::findings(), 44},
                        {T::result(), 22}});
+    const QList<QList<Finding>> findings = data.findingsByDevice();
     int images = 0;
     for (qsizetype index = 0; index < data.devices.size(); ++index) {
         const ReportDevice &device = data.devices.at(index);
@@ -197,7 +198,7 @@ lxw_error writeDevices(lxw_workbook *workbook, const SiteData &data)
                                                        : T::streamOf(device.inspection.streams.constFirst()));
         sheet.number(numberOf(device.inspection.clockOffset));
         sheet.text(device.isRead ? T::timeServerOf(device.inspection) : QString());
-        sheet.text(findingsText(data, index));
+        sheet.text(findingsText(findings.at(index)));
         sheet.text(T::outcome(device.outcome));
     }
     sheet.end();
