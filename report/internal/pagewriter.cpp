@@ -62,6 +62,10 @@ QFont fontOf(const TextStyle &style)
     font.setFamilies({QStringLiteral("Inter"), QStringLiteral("Noto Sans CJK SC")});
     font.setPixelSize(qRound(style.size * point));
     font.setWeight(style.weight);
+    // The Latin face has contextual brackets and colons next to capitals and digits. These glyphs have no
+    // character code, so a reader could not search or copy them.
+    font.setStyleStrategy(QFont::PreferNoShaping);
+    font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }
 

@@ -120,15 +120,16 @@ private Q_SLOTS:
             QSignalSpy spy(&m_factory, factory.method(twinIndex));
 
             int number = 40 + index;
-            QString text = "text " + QString::number(index);
-            QString other = "other " + QString::number(index);
-            QVariantList list = {index, text};
+            QStringList texts;
+            for (const char *name : {"first", "second", "third"})
+                texts.append(QStringLiteral("%1 %2").arg(QLatin1String(name)).arg(index));
+            qsizetype usedTexts = 0;
+            QVariantList list = {index, texts.at(0)};
             bool flag = true;
             QVariantList expected;
-            std::array<void *, 4> arguments = {};
+            std::array<void *, 5> arguments = {};
             for (int argument = 0; argument < signal.parameterCount(); ++argument) {
                 const QMetaType type = signal.parameterMetaType(argument);
-                QString &string = expected.contains(text) ? other : text;
                 if (type == QMetaType::fromType<int>())
                     arguments[argument + 1] = &number;
                 else if (type == QMetaType::fromType<bool>())
@@ -136,7 +137,7 @@ private Q_SLOTS:
                 else if (type == QMetaType::fromType<QVariantList>())
                     arguments[argument + 1] = &list;
                 else
-                    arguments[argument + 1] = &string;
+                    arguments[argument + 1] = &texts[usedTexts++];
                 expected.append(QVariant(type, arguments[argument + 1]));
             }
             QMetaObject::activate(m_backEnd.get(), &base, index - base.methodOffset(), arguments.data());
