@@ -10,6 +10,7 @@ OVDialog {
     required property var memory  // a ViewMemory that stores the input
     property var ticked: []  // names of the ticked rows
     property var listed: []  // names of all rows
+    property bool onlyTicked: false  // the chosen scope
 
     property string faultKind  // field of the error: "site", "folder" or "files"; "" for none
     property string fault  // error text, "" for none
@@ -18,7 +19,7 @@ OVDialog {
     function begin(ticked) {
         root.ticked = ticked;
         listed = siteReport.allDevices();
-        scope.currentIndex = ticked.length > 0 ? 1 : 0;
+        onlyTicked = ticked.length > 0;
         siteField.text = memory.text("reportSite");
         installerField.text = memory.text("reportInstaller");
         folderField.text = memory.text("reportFolder") || siteReport.suggestedFolder;
@@ -53,7 +54,7 @@ OVDialog {
 
     /// Names of the rows of the chosen scope.
     function devices() {
-        return scope.currentIndex === 1 ? ticked : listed;
+        return onlyTicked ? ticked : listed;
     }
 
     wantedWidth: Theme.dialogWidth
@@ -142,13 +143,13 @@ OVDialog {
             label: qsTr("设备")
 
             OVSegmentedChoice {
-                id: scope
+                currentIndex: root.onlyTicked ? 1 : 0
                 options: [
                     {text: qsTr("全部（%1）").arg(root.listed.length), objectName: "reportAllChoice"},
                     {text: qsTr("勾选的（%1）").arg(root.ticked.length), objectName: "reportTickedChoice"}
                 ]
                 onActivated: index => {
-                    currentIndex = index;
+                    root.onlyTicked = index === 1;
                     root.clearError();
                 }
             }
