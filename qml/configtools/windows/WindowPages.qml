@@ -57,7 +57,7 @@ StackLayout {
 
     /// Names of the rows that are ticked on the main page.
     function tickedDevices() {
-        return modifyIpPage.deviceTable.checkedRows().map(row => row.identity);
+        return modifyIpPage.deviceTable.checkedMacs();
     }
 
     /// Ends the input of a new password on the system page.
