@@ -5815,7 +5815,7 @@ File: </translation>
     </message>
     <message>
         <source>现场名称</source>
-        <translation>Name of the site</translation>
+        <translation>Site name</translation>
     </message>
     <message>
         <source>安装人员</source>

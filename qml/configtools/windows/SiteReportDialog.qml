@@ -91,6 +91,7 @@ OVDialog {
         OVFormRow {
             width: parent.width
             label: qsTr("现场名称")
+            labelWidth: Theme.panelLabelWidth
 
             OVTextField {
                 id: siteField
@@ -105,6 +106,7 @@ OVDialog {
         OVFormRow {
             width: parent.width
             label: qsTr("安装人员")
+            labelWidth: Theme.panelLabelWidth
 
             OVTextField {
                 id: installerField
@@ -118,6 +120,7 @@ OVDialog {
             id: folderRow
             width: parent.width
             label: qsTr("保存到")
+            labelWidth: Theme.panelLabelWidth
 
             OVTextField {
                 id: folderField
@@ -141,6 +144,7 @@ OVDialog {
         OVFormRow {
             width: parent.width
             label: qsTr("设备")
+            labelWidth: Theme.panelLabelWidth
 
             OVSegmentedChoice {
                 currentIndex: root.onlyTicked ? 1 : 0
@@ -157,6 +161,7 @@ OVDialog {
         OVFormRow {
             width: parent.width
             label: qsTr("文件")
+            labelWidth: Theme.panelLabelWidth
 
             Row {
                 height: Theme.controlHeight
