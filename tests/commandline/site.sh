@@ -1,5 +1,6 @@
 #!/bin/bash
-# Gives the cameras of a site new addresses and names, lists the site and makes its report: site.sh PROGRAM FOLDER [SITE OPTIONS]
+# Gives the cameras of a site new addresses and names, lists the site and makes its report:
+# site.sh PROGRAM FOLDER [SITE OPTIONS]
 set -euo pipefail
 program=$1; folder=$2; shift 2
 cameras=(--devices all --filter IPC --visit "$folder/visit.txt")
