@@ -3,6 +3,7 @@
 #include "device/batch/batchplan.h"
 #include "device/registry/camerakeys.h"
 #include "device/registry/mapkeys.h"
+#include "device/registry/systemkeys.h"
 
 #include <array>
 
@@ -36,6 +37,26 @@ constexpr std::array imageSettingTexts = {
     ImageSettingText{CameraSetting::saturationSlider, QT_TRANSLATE_NOOP("ReportTexts", "饱和度")},
     ImageSettingText{CameraSetting::hue, QT_TRANSLATE_NOOP("ReportTexts", "色调")},
     ImageSettingText{CameraSetting::gamma, QT_TRANSLATE_NOOP("ReportTexts", "伽马")},
+};
+
+struct WorkText
+{
+    QLatin1StringView work;
+    const char *source;
+};
+
+constexpr std::array workTexts = {
+    WorkText{QLatin1StringView("changeAddress"), QT_TRANSLATE_NOOP("ReportTexts", "修改IP地址")},
+    WorkText{QLatin1StringView("setTime"), QT_TRANSLATE_NOOP("ReportTexts", "设置时间")},
+    WorkText{QLatin1StringView("upgrade"), QT_TRANSLATE_NOOP("ReportTexts", "固件升级")},
+    WorkText{SystemCommand::channelName, QT_TRANSLATE_NOOP("ReportTexts", "通道名称")},
+    WorkText{SystemCommand::ntpConfig, QT_TRANSLATE_NOOP("ReportTexts", "时间服务器和时区")},
+    WorkText{SystemCommand::dstConfig, QT_TRANSLATE_NOOP("ReportTexts", "夏令时")},
+    WorkText{SystemCommand::autoMaintain, QT_TRANSLATE_NOOP("ReportTexts", "自动维护")},
+    WorkText{SystemCommand::rebootDevice, QT_TRANSLATE_NOOP("ReportTexts", "重启")},
+    WorkText{SystemCommand::resetSystem, QT_TRANSLATE_NOOP("ReportTexts", "恢复默认设置")},
+    WorkText{SystemCommand::videoStandard, QT_TRANSLATE_NOOP("ReportTexts", "视频制式")},
+    WorkText{SystemCommand::modifyPassword, QT_TRANSLATE_NOOP("ReportTexts", "修改密码")},
 };
 
 /// The name of an image setting; empty if it has none.
@@ -148,6 +169,15 @@ QString ReportTexts::streamOf(const StreamSettings &stream)
                          .arg(stream.bitRate)
                          .arg(stream.isVariable ? QStringLiteral("VBR") : QStringLiteral("CBR")));
     return parts.isEmpty() ? notReported() : parts.join(u' ');
+}
+
+QString ReportTexts::batchOperation(const QString &work, const QString &title)
+{
+    for (const WorkText &text : workTexts) {
+        if (work == text.work)
+            return QCoreApplication::translate("ReportTexts", text.source);
+    }
+    return title;
 }
 
 QString ReportTexts::writtenSetting(const QString &setting, int channel)

@@ -74,6 +74,9 @@ public:
     static QString timeServerOf(const DeviceInspection &inspection);
     /// "H.265 1920×1080 25 fps 4096 kbit/s"
     static QString streamOf(const StreamSettings &stream);
+    /// The operation of a batch by BatchPlan::work, which commands and the window share. `title` for other
+    /// work.
+    static QString batchOperation(const QString &work, const QString &title);
     /// The operation of a setting (WrittenSetting) of the configuration pages. `channel` is from 0.
     static QString writtenSetting(const QString &setting, int channel);
     /// The value of such a setting: that of a switch in the user's language.

@@ -93,7 +93,7 @@ void VisitChanges::recordBatch(const Batch &batch, const QHash<QString, QString>
                               .identity = entry.device.identity,
                               .ipport = entry.device.ipport,
                               .device = entry.device.title,
-                              .operation = batch.title(),
+                              .operation = ReportTexts::batchOperation(plan.work, batch.title()),
                               .value = plan.values};
         if (plan.work == upgradeWork) {
             // The row has the new version already, unless the device has not reported it yet.

@@ -5372,6 +5372,46 @@ File: </translation>
         <extracomment>A channel of a recorder. %1 is its number.</extracomment>
         <translation>Channel %1</translation>
     </message>
+    <message>
+        <source>修改IP地址</source>
+        <translation>Set address</translation>
+    </message>
+    <message>
+        <source>设置时间</source>
+        <translation>Set time</translation>
+    </message>
+    <message>
+        <source>固件升级</source>
+        <translation>Upgrade firmware</translation>
+    </message>
+    <message>
+        <source>时间服务器和时区</source>
+        <translation>Time server and zone</translation>
+    </message>
+    <message>
+        <source>夏令时</source>
+        <translation>Daylight saving time</translation>
+    </message>
+    <message>
+        <source>自动维护</source>
+        <translation>Automatic maintenance</translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>Reboot</translation>
+    </message>
+    <message>
+        <source>恢复默认设置</source>
+        <translation>Restore defaults</translation>
+    </message>
+    <message>
+        <source>视频制式</source>
+        <translation>Video standard</translation>
+    </message>
+    <message>
+        <source>修改密码</source>
+        <translation>Change password</translation>
+    </message>
 </context>
 <context>
     <name>RestartDialog</name>

@@ -8,7 +8,7 @@ trap 'rm -rf "$folder"' EXIT
 export CONFIGTOOLS_LAB=$folder/lab CONFIGTOOLS_SITE=$2 CONFIGTOOLS_PASSWORD=Office-2024
 "$here/../../scripts/lab" run office -- "$here/site.sh" "$1" "$folder" --quiet
 pdftotext -layout "$folder"/report/*.pdf "$folder/report.txt"
-for text in 'Head office' 'Changes of this visit' '192.168.1.202:80' 'Gate 1' 'Older firmware' 'Lagerhalle'; do
+for text in 'Head office' 'Changes of this visit' '192.168.1.202:80' 'Set address' 'Older firmware' 'Lagerhalle'; do
     grep -q "$text" "$folder/report.txt" || {
         echo "the report does not contain \"$text\":"
         cat "$folder/report.txt"

@@ -232,9 +232,10 @@ private Q_SLOTS:
             changes.append(QStringLiteral("%1 %2 %3")
                                .arg(change.ipport.section(':', 0, 0), change.operation, change.value));
         changes.sort();
-        const QStringList expected = {"192.168.1.20 Time server ntp.example",
-                                      QStringLiteral("192.168.1.20 图像设置：亮度 53"),
-                                      "192.168.1.21 Password ", "192.168.1.21 Time server ntp.example"};
+        const QStringList expected = {QStringLiteral("192.168.1.20 图像设置：亮度 53"),
+                                      QStringLiteral("192.168.1.20 时间服务器和时区 ntp.example"),
+                                      QStringLiteral("192.168.1.21 修改密码 "),
+                                      QStringLiteral("192.168.1.21 时间服务器和时区 ntp.example")};
         QCOMPARE(changes, expected);
         const QString text = documentText();
         QVERIFY(text.contains(QStringLiteral("图像设置：亮度")));
