@@ -320,6 +320,10 @@ private Q_SLOTS:
         QVERIFY2(QFileInfo(m_paths.at(0)).size() < qint64{count} * 64 * 1024,
                  qPrintable(QString::number(QFileInfo(m_paths.at(0)).size())));
         QVERIFY(documentText().contains("camera 200"));
+        // The workbook has the files of the images.
+        const QImage image =
+            QImage::fromData(outputOf("unzip", {"-p", m_paths.at(1), "xl/media/image1.jpeg"}));
+        QCOMPARE(image.width(), SiteReport::imageWidth);
     }
 };
 
