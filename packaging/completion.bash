@@ -5,43 +5,31 @@
 _configtools_options() {
     case $1 in
         search) options='--devices --filter --list --format --quiet --range --no-local --demo --no-demo --help' ;;
-        init) options='--devices --filter --user --password-file --dry-run --format --quiet --range --no-local --demo --no-demo --help' ;;
-        set-address) options='--start --map --dhcp --mask --gateway --force --dry-run --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
+        init) options='--devices --filter --user --password-file --visit --dry-run --format --quiet --range --no-local --demo --no-demo --help' ;;
+        set-address) options='--start --map --dhcp --mask --gateway --force --visit --dry-run --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
         get) options='--channel --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
-        set) options='--channel --dry-run --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
-        cgi) options='--workbook --output --dry-run --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
+        set) options='--channel --visit --dry-run --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
+        cgi) options='--workbook --output --visit --dry-run --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
         snapshot) options='--channel --output --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
         export) options='--devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
         import) options='--format --quiet --range --no-local --demo --no-demo --help' ;;
-        upgrade) options='--file --document --dry-run --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
+        upgrade) options='--file --document --visit --dry-run --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
+        report) options='--output --name --installer --files --visit --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
         *) options='--demo --no-demo --version --help' ;;
     esac
 }
 
 _configtools() {
-    local current=$2 previous=$3
-    local options='--demo --no-demo --version --help'
-    local commands='search init set-address get set cgi snapshot export import upgrade report'
-    if [[ $COMP_CWORD -eq 1 && $current != -* ]]; then
-        mapfile -t COMPREPLY < <(compgen -W "help $commands" -- "$current")
     local current=$2 previous=$3 command='' options words=''
-    local commands='search init set-address get set cgi snapshot export import upgrade help'
+    local commands='search init set-address get set cgi snapshot export import upgrade report help'
     if ((COMP_CWORD > 1)) && [[ ${COMP_WORDS[1]} != -* ]]; then
         command=${COMP_WORDS[1]}
     fi
-    if [[ $previous != --demo ]]; then
-        mapfile -t COMPREPLY < <(compgen -W "$options" -- "$current")
-    if [[ " $commands " == *" ${COMP_WORDS[1]} "* ]]; then
-        # The help of a command lists its options.
-        options=$("$1" help "${COMP_WORDS[1]}" 2>/dev/null | grep -o '^  --[a-z-]*' | tr -d '\n')
-        if [[ $current != -* && $previous != --demo ]]; then
-    if [[ ${COMP_WORDS[1]} == help ]]; then
-        mapfile -t COMPREPLY < <(compgen -W "$commands" -- "$current")
     _configtools_options "$command"
     case $previous in
         --demo) words='office factory faulty fleet:' ;;
         --format) options='table json csv' ;;
-        --list | --password-file | --map | --file | --document | --workbook | --output)
+        --list | --password-file | --map | --file | --document | --workbook | --output | --visit)
             compopt -o filenames
             mapfile -t COMPREPLY < <(compgen -f -- "$current")
             return

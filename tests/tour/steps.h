@@ -46,7 +46,10 @@ void walkUpgrade(Driver &driver, sdk::demo::DemoSite &site, const QString &folde
 /// views of several devices. The tour's images of these windows are saved in `folder`. Requires the default
 /// account to be that of the site's devices.
 void walkGallery(Driver &driver, sdk::demo::DemoSite &site, const QString &folder);
+/// The report of the ticked devices, with its files in `folder`. Requires the same default account.
 void walkSiteReport(Driver &driver, const QString &folder);
+/// Saves the images of the manual, which documents/images.txt lists. Requires the default account to be that
+/// of the site's devices.
 void takeManualImages(Driver &driver, sdk::demo::DemoSite &site);
 /// Repeats work on devices with faults for soakMinutes() and prints the figures of the process after each
 /// round. Fails if they grow. Requires the scene "faulty".
