@@ -16,13 +16,28 @@
 #include "device/models/certificatelist.h"
 #include "device/registry/devicefactory.h"
 #include "device/search/searchreports.h"
+#include "device/sites/knowndevices.h"
 #include "device/store/devicenotes.h"
 #include "files/applicationfolders.h"
 #include "report/sitereport.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QQmlApplicationEngine>
 #include <QQmlContext>
+#include <QRegularExpression>
+
+namespace {
+
+/// The name of the file with the known devices of a scene, without suffix.
+QString siteFileOf(const QString &scene)
+{
+    QString name = QFileInfo(scene.isEmpty() ? QStringLiteral("office") : scene).completeBaseName().left(60);
+    name.replace(QRegularExpression(QStringLiteral("[^A-Za-z0-9]+")), QStringLiteral("-"));
+    return QStringLiteral("site-demo-") + name;
+}
+
+} // namespace
 
 void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
                     const std::shared_ptr<DeviceStore> &store,
@@ -85,8 +100,14 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
         new WebPages(CGIConfigManage::getinstance()->surroundings().transport, &engine));
     // Simulated devices may have the MACs of real ones.
     const QString notes = demo.isShown ? QStringLiteral("/notes-demo.json") : QStringLiteral("/notes.json");
-    context->setContextProperty(QStringLiteral("DeviceNotesApi"),
-                                new DeviceNotes(ApplicationFolders::current().data() + notes, &engine));
+    auto *deviceNotes = new DeviceNotes(ApplicationFolders::current().data() + notes, &engine);
+    context->setContextProperty(QStringLiteral("DeviceNotesApi"), deviceNotes);
+    auto *known = new KnownDevices(store,
+                                   {.folder = ApplicationFolders::current().data(),
+                                    .prefix = demo.isShown ? siteFileOf(demo.scene) : QStringLiteral("site")},
+                                   &engine);
+    known->setNotes(deviceNotes);
+    context->setContextProperty(QStringLiteral("KnownDevicesApi"), known);
     context->setContextProperty(QStringLiteral("ViewMemoryApi"),
                                 new ViewMemory(CLocalConfig::getinstance()->settingsPath(), &engine));
     context->setContextProperty(QStringLiteral("systemTimeZone"), systemTimeZoneText());

@@ -22,6 +22,7 @@ struct DemoNotice
     /// Whether the application uses a simulated site. The user's notes about devices are then stored in a
     /// separate file, because simulated devices may have the MACs of real ones.
     bool isShown = false;
+    QString scene = {};   ///< of the site, see sdk::demo::DemoSite::open(); each has its own known devices
     QString account = {}; ///< of most of its devices, as "user / password"; empty if no device has an account
 };
 

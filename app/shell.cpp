@@ -132,6 +132,7 @@ void Shell::loadQml()
     m_engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
     const std::optional<DeviceAccount> &account = m_devices.siteAccount();
     const DemoNotice demo = {.isShown = m_commandLine.demo,
+                             .scene = m_commandLine.scene,
                              .account = account ? account->account + QLatin1String(" / ") + account->password
                                                 : QString()};
     publishToScene(*m_engine, *m_devices.batchEngine(), m_devices.deviceStore(), m_devices.certificates(),

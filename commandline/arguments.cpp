@@ -17,10 +17,17 @@ const Option *acceptedOption(const Command &command, QStringView name)
     return isAccepted ? findOption(name) : nullptr;
 }
 
-/// A password as an argument would be readable by every user of the host.
-bool isPasswordOption(QStringView name)
+/// A secret as an argument would be readable by every user of the host. Returns how to give it instead; empty
+/// if the option is not one of a secret.
+QString objectionToSecret(QStringView name)
 {
-    return name == "password"_L1 || name == "new-password"_L1;
+    if (name == "password"_L1 || name == "new-password"_L1)
+        return u"a password is not accepted as an argument: use --password-file, the "
+               "environment variable CONFIGTOOLS_PASSWORD, or the prompt"_s;
+    if (name == "passphrase"_L1)
+        return u"a passphrase is not accepted as an argument: use --passphrase-file, the "
+               "environment variable CONFIGTOOLS_PASSPHRASE, or the prompt"_s;
+    return {};
 }
 
 QString operandError(const Command &command, qsizetype count)
@@ -45,7 +52,7 @@ const std::vector<Option> &knownOptions()
         {"range"_L1, Required, "FIRST-LAST"_L1, "also search these IPv4 addresses"_L1},
         {"no-local"_L1, None, {}, "do not search the local segment"_L1},
         {"list"_L1, Required, "FILE"_L1,
-         "use the devices of a device list (.csv, .xml, .xlsx) instead of a search"_L1},
+         "use the devices of a device list (.csv, .xml, .xlsx, .devlist) instead of a search"_L1},
         {"devices"_L1, Required, "WHICH"_L1,
          "\"all\", or addresses, address:port or MACs, separated by commas; @FILE reads\n"
          "them from a file with one on each line"_L1},
@@ -53,6 +60,9 @@ const std::vector<Option> &knownOptions()
          "only devices whose type, model, address, MAC, version or name contains TEXT"_L1},
         {"user"_L1, Required, "NAME"_L1, "the user name of the devices (admin)"_L1},
         {"password-file"_L1, Required, "FILE"_L1, "the first line of FILE is the password"_L1},
+        {"passphrase-file"_L1, Required, "FILE"_L1,
+         "the first line of FILE is the passphrase of an encrypted device list"_L1},
+        {"without-passwords"_L1, None, {}, "leave the passwords out of the device list"_L1},
         {"format"_L1, Required, "FORMAT"_L1, "of the results: table (the default), json or csv"_L1},
         {"quiet"_L1, None, {}, "no progress on standard error"_L1},
         {"dry-run"_L1, None, {}, "print the planned changes and send none of them"_L1},
@@ -110,11 +120,9 @@ Arguments Arguments::parse(const Command &command, const QStringList &arguments)
         const QString name =
             given == "-h"_L1 ? u"help"_s : given.sliced(given.startsWith(optionPrefix) ? 2 : 1);
         const Option *option = acceptedOption(command, name);
-        if (isPasswordOption(name)) {
-            parsed.error = u"a password is not accepted as an argument: use --password-file, the "
-                           "environment variable CONFIGTOOLS_PASSWORD, or the prompt"_s;
+        parsed.error = objectionToSecret(name);
+        if (!parsed.error.isEmpty())
             return parsed;
-        }
         if (!option) {
             parsed.error = u"%1 has no option %2"_s.arg(command.name, given);
             return parsed;

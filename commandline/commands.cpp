@@ -27,7 +27,8 @@ Options with(Options options)
 /// The same, for commands that choose devices and log in.
 Options withDevices(Options options)
 {
-    for (const QLatin1StringView name : {"devices"_L1, "filter"_L1, "list"_L1, "user"_L1, "password-file"_L1})
+    for (const QLatin1StringView name :
+         {"devices"_L1, "filter"_L1, "list"_L1, "passphrase-file"_L1, "user"_L1, "password-file"_L1})
         options.push_back(name);
     return with(std::move(options));
 }
@@ -65,7 +66,7 @@ const std::vector<Command> &commands()
          .operands = {},
          .summary = "list the devices of the network"_L1,
          .help = {},
-         .options = with({"devices"_L1, "filter"_L1, "list"_L1}),
+         .options = with({"devices"_L1, "filter"_L1, "list"_L1, "passphrase-file"_L1}),
          .run = &runSearch},
         {.name = "init"_L1,
          .operands = {},
@@ -121,18 +122,22 @@ const std::vector<Command> &commands()
         {.name = "export"_L1,
          .operands = "FILE"_L1,
          .summary = "write a device list"_L1,
-         .help =
-             "The ending of FILE selects the format: .csv, .xml or .xlsx. The file contains the password\n"
-             "of the command, if one is given.\n"_L1,
-         .options = withDevices({}),
+         .help = "The ending of FILE selects the format: .csv, .xml or .xlsx, or .devlist for an encrypted\n"
+                 "list. The file contains the password of the command, if one is given, in readable form\n"
+                 "unless the list is encrypted. The passphrase of an encrypted list is read from\n"
+                 "--passphrase-file, else from the environment variable CONFIGTOOLS_PASSPHRASE, else from\n"
+                 "the terminal; it has at least 8 characters.\n"_L1,
+         .options = withDevices({"without-passwords"_L1}),
          .minimumOperands = 1,
          .maximumOperands = 1,
          .run = &runExport},
         {.name = "import"_L1,
          .operands = "FILE"_L1,
          .summary = "log in to the devices of a device list and print the results"_L1,
-         .help = "Other commands use the devices of a list with --list.\n"_L1,
-         .options = with({}),
+         .help = "Other commands use the devices of a list with --list. The passphrase of an encrypted list\n"
+                 "(.devlist) is read from --passphrase-file, else from the environment variable\n"
+                 "CONFIGTOOLS_PASSPHRASE, else from the terminal.\n"_L1,
+         .options = with({"passphrase-file"_L1}),
          .minimumOperands = 1,
          .maximumOperands = 1,
          .run = &runImport},

@@ -6,12 +6,14 @@
 #include "commandline/textfile.h"
 #include "device/batch/addingbatches.h"
 #include "device/registry/devicefamily.h"
+#include "device/registry/listprotection.h"
 #include "device/search/searchrange.h"
 #include "device/store/devicefilter.h"
 #include "device/store/devicerow.h"
 #include "device/store/ipv4address.h"
 
 #include <QEventLoop>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -143,6 +145,13 @@ QStringList DeviceChoice::addresses() const
 
 int readDeviceList(CommandContext &context, const QString &path, Batch *&batch)
 {
+    QString passphrase;
+    if (QFileInfo(path).suffix().compare(encryptedListSuffix, Qt::CaseInsensitive) == 0) {
+        const Secret secret = readPassphrase(context.arguments, context.terminal, SecretPurpose::Login);
+        if (!secret.error.isEmpty())
+            return context.fail(UsageError, secret.error);
+        passphrase = secret.password;
+    }
     AddingBatches adding(context.factory, context.batches);
     QEventLoop loop;
     QString refusal;
@@ -154,7 +163,7 @@ int readDeviceList(CommandContext &context, const QString &path, Batch *&batch)
         refusal = reason;
         loop.quit();
     });
-    adding.importList(u"import"_s, path);
+    adding.importList(u"import"_s, path, passphrase);
     loop.exec();
     if (!batch)
         return context.fail(NothingDone, refusal);

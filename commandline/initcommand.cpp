@@ -34,7 +34,7 @@ int runInit(CommandContext &context)
 {
     QString password;
     if (!context.isDryRun()) {
-        const Secret secret = readPassword(context.arguments, context.terminal, SecretPurpose::NewAccount);
+        const Secret secret = readPassword(context.arguments, context.terminal, SecretPurpose::NewSecret);
         const QString fault = secret.error.isEmpty() ? passwordFault(secret.password) : secret.error;
         if (!fault.isEmpty())
             return context.fail(UsageError, fault);

@@ -3,9 +3,12 @@
 #include "commandline/devicechoice.h"
 #include "commandline/secrets.h"
 #include "device/registry/devicefamily.h"
+#include "device/registry/listprotection.h"
 #include "device/registry/mapkeys.h"
 
 #include <QFileInfo>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -15,8 +18,16 @@ int runExport(CommandContext &context)
 {
     const QFileInfo file(context.arguments.operands.constFirst());
     const QString suffix = file.suffix().toLower();
-    if (suffix != "csv"_L1 && suffix != "xml"_L1 && suffix != "xlsx"_L1)
-        return context.fail(UsageError, u"the file of a device list ends in .csv, .xml or .xlsx"_s);
+    const bool isEncrypted = suffix == encryptedListSuffix;
+    if (!isEncrypted && suffix != "csv"_L1 && suffix != "xml"_L1 && suffix != "xlsx"_L1)
+        return context.fail(UsageError, u"the file of a device list ends in .csv, .xml, .xlsx or .devlist"_s);
+    ListProtection protection = {.leavesOutPasswords = context.arguments.has("without-passwords"_L1)};
+    if (isEncrypted) {
+        Secret secret = readPassphrase(context.arguments, context.terminal, SecretPurpose::NewSecret);
+        if (!secret.error.isEmpty())
+            return context.fail(UsageError, secret.error);
+        protection.passphrase = std::move(secret.password);
+    }
     // Without a password, the list has none: no prompt.
     const bool hasAccount = hasPassword(context.arguments) || context.surroundings.siteAccount;
     if (hasAccount) {
@@ -28,7 +39,9 @@ int runExport(CommandContext &context)
     DeviceChoice choice;
     if (const int exitCode = findDevices(context, choice); exitCode != AllDone)
         return exitCode;
-    if (!context.factory.exportDevice(dhFamily, file.absolutePath(), choice.identities(), file.fileName()))
+    const bool isWritten = context.factory.backEnd(dhFamily)->exportProtected(
+        file.absolutePath(), choice.identities(), file.fileName(), protection);
+    if (!isWritten)
         return context.fail(NothingDone, u"%1 cannot be written"_s.arg(file.filePath()));
     const QVariantList faults = context.factory.exportFaults(dhFamily);
     for (const QVariant &value : faults) {
@@ -37,9 +50,11 @@ int runExport(CommandContext &context)
             fault.value(ExportFaultKey::address).toString(), fault.value(ExportFaultKey::column).toString(),
             fault.value(ExportFaultKey::reason).toString())));
     }
+    const QString remark = protection.leavesOutPasswords || !hasAccount ? QString()
+                           : isEncrypted ? u", with their passwords, encrypted"_s
+                                         : u", with their passwords in readable form"_s;
     context.terminal.writeProgress(
-        u"Wrote %1 devices to %2%3."_s.arg(choice.rows.size())
-            .arg(file.filePath(), hasAccount ? u", with their passwords"_s : QString()));
+        u"Wrote %1 devices to %2%3."_s.arg(choice.rows.size()).arg(file.filePath(), remark));
     for (const QString &name : std::as_const(choice.missing))
         context.terminal.writeError(u"%1 was not found"_s.arg(name));
     return choice.missing.isEmpty() && faults.isEmpty() ? AllDone : SomeFailed;

@@ -1,4 +1,4 @@
-// The password of a command: for logins, or for the account that the command creates.
+// The passwords of a command (for logins, or for the account that it creates), and passphrases of lists.
 #pragma once
 
 #include "commandline/arguments.h"
@@ -16,7 +16,7 @@ struct Secret
 enum class SecretPurpose
 {
     Login,
-    NewAccount, ///< the prompt asks twice; different inputs are an error
+    NewSecret, ///< the prompt asks twice; different inputs are an error
 };
 
 /// Reads the password from the first source that exists: with "--password-file" the first line of that file
@@ -26,6 +26,12 @@ enum class SecretPurpose
 /// arguments of a process. The prompt blocks.
 [[nodiscard]] Secret readPassword(const Arguments &arguments, const Terminal &terminal,
                                   SecretPurpose purpose);
+
+/// Reads the passphrase of an encrypted device list in the same way: with "--passphrase-file", otherwise from
+/// the environment variable CONFIGTOOLS_PASSPHRASE, and if that is empty from a prompt. A new one
+/// (SecretPurpose::NewSecret) has at least shortestPassphrase characters.
+[[nodiscard]] Secret readPassphrase(const Arguments &arguments, const Terminal &terminal,
+                                    SecretPurpose purpose);
 
 /// Whether readPassword() would use a file or the environment, not the prompt.
 [[nodiscard]] bool hasPassword(const Arguments &arguments);

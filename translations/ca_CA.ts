@@ -2101,6 +2101,30 @@ Feu clic amb el botó dret per copiar el resultat</translation>
         <source>字符 %1 在此格式中无法读回</source>
         <translation>El caràcter %1 no es pot tornar a llegir d’aquest format</translation>
     </message>
+    <message>
+        <source>加密列表的内容无效</source>
+        <translation>El contingut de la llista xifrada no és vàlid</translation>
+    </message>
+    <message>
+        <source>文件不是加密的设备列表，或者不完整</source>
+        <translation>El fitxer no és una llista de dispositius xifrada o està incomplet</translation>
+    </message>
+    <message>
+        <source>加密列表的版本不受支持</source>
+        <translation>Aquesta versió de les llistes xifrades no és compatible</translation>
+    </message>
+    <message>
+        <source>加密列表的参数无效</source>
+        <translation>Els paràmetres de la llista xifrada no són vàlids</translation>
+    </message>
+    <message>
+        <source>列表已加密，需要密码短语</source>
+        <translation>La llista està xifrada: cal una frase de contrasenya</translation>
+    </message>
+    <message>
+        <source>密码短语错误，或者文件已损坏</source>
+        <translation>Frase de contrasenya incorrecta, o el fitxer està malmès</translation>
+    </message>
 </context>
 <context>
     <name>DeviceMenu</name>
@@ -2238,6 +2262,52 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     <message>
         <source>正在升级</source>
         <translation>Actualització en curs</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceStateCell</name>
+    <message>
+        <source>未找到</source>
+        <translation>No trobat</translation>
+    </message>
+    <message>
+        <source>待确认</source>
+        <translation>Per confirmar</translation>
+    </message>
+    <message>
+        <source>已初始化</source>
+        <translation>Inicialitzat</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>No inicialitzat</translation>
+    </message>
+    <message>
+        <source>最近一次搜索没有找到该设备</source>
+        <translation>No trobat a l’última cerca</translation>
+    </message>
+    <message>
+        <source>上次的列表中的设备，尚未找到</source>
+        <translation>Dispositiu de l&apos;última llista, encara no trobat</translation>
+    </message>
+    <message>
+        <source>最后一次找到：%1</source>
+        <translation>Trobat per última vegada: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DroppedFiles</name>
+    <message>
+        <source>一次只能拖入一个文件</source>
+        <translation>Només es pot arrossegar un fitxer alhora a la finestra</translation>
+    </message>
+    <message>
+        <source>拖入的不是本机上的文件</source>
+        <translation>No és un fitxer d&apos;aquest ordinador</translation>
+    </message>
+    <message>
+        <source>不支持的文件：%1。可以拖入设备列表（.xlsx、.csv、.xml、.devlist）或现场文件（.site）</source>
+        <translation>Fitxer no compatible: %1. Arrossegueu a la finestra una llista de dispositius (.xlsx, .csv, .xml, .devlist) o un fitxer de lloc (.site)</translation>
     </message>
 </context>
 <context>
@@ -2559,6 +2629,42 @@ Feu clic amb el botó dret per copiar el resultat</translation>
         <source>文件中的密码是明文。已保存账号的密码不导出。</source>
         <translation>Les contrasenyes del fitxer són en text sense xifrar. Les dels comptes desats no s’exporten.</translation>
     </message>
+    <message>
+        <source>文件不含密码。导入前须在文件中填写密码。</source>
+        <translation>El fitxer no conté contrasenyes. Introduïu-les abans d&apos;importar-lo.</translation>
+    </message>
+    <message>
+        <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
+        <translation>Tota la llista es xifra amb la frase de contrasenya i només aquesta eina la pot llegir. No es pot recuperar sense la frase de contrasenya. Les contrasenyes dels comptes desats no s&apos;exporten.</translation>
+    </message>
+    <message>
+        <source>完整列表</source>
+        <translation>Llista completa</translation>
+    </message>
+    <message>
+        <source>不含密码</source>
+        <translation>Sense contrasenyes</translation>
+    </message>
+    <message>
+        <source>加密（.devlist）</source>
+        <translation>Xifrada (.devlist)</translation>
+    </message>
+    <message>
+        <source>密码短语至少 %1 个字符</source>
+        <translation>La frase de contrasenya necessita com a mínim %1 caràcters</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Frase de contrasenya</translation>
+    </message>
+    <message>
+        <source>两次输入不一致</source>
+        <translation>Els dos textos són diferents</translation>
+    </message>
+    <message>
+        <source>再次输入密码短语</source>
+        <translation>Repetiu la frase de contrasenya</translation>
+    </message>
 </context>
 <context>
     <name>FailedMarks</name>
@@ -2623,6 +2729,17 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     <message>
         <source>从收藏夹中删除</source>
         <translation>Elimina aquest dispositiu dels preferits</translation>
+    </message>
+</context>
+<context>
+    <name>FileDrop</name>
+    <message>
+        <source>请先关闭对话框，再拖入文件</source>
+        <translation>Tanqueu el quadre de diàleg abans d&apos;arrossegar un fitxer a la finestra</translation>
+    </message>
+    <message>
+        <source>松开鼠标，导入设备列表或打开现场</source>
+        <translation>Deixeu anar per importar una llista de dispositius o obrir un lloc</translation>
     </message>
 </context>
 <context>
@@ -2833,6 +2950,28 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     <message>
         <source>没有设备</source>
         <translation>Cap dispositiu</translation>
+    </message>
+</context>
+<context>
+    <name>GroupDialog</name>
+    <message>
+        <source>保存</source>
+        <translation>Desa</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Grup</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备</source>
+        <translation>
+            <numerusform>%n dispositiu</numerusform>
+            <numerusform>%n dispositius</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>不属于任何分组</source>
+        <translation>Cap grup</translation>
     </message>
 </context>
 <context>
@@ -3347,6 +3486,41 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     <message>
         <source>提示</source>
         <translation>Observacions</translation>
+    </message>
+</context>
+<context>
+    <name>KnownDevices</name>
+    <message>
+        <source>上次的设备列表 %1 无法读取：%2</source>
+        <translation>No es pot llegir l&apos;última llista de dispositius %1: %2</translation>
+    </message>
+    <message>
+        <source>分组名称最多 %1 个字符</source>
+        <translation>El nom d&apos;un grup té com a màxim %1 caràcters</translation>
+    </message>
+    <message>
+        <source>P2P设备不能分组</source>
+        <translation>Els dispositius P2P no poden ser en un grup</translation>
+    </message>
+    <message>
+        <source>现场最多 %1 台设备</source>
+        <translation>Un lloc té com a màxim %1 dispositius</translation>
+    </message>
+    <message>
+        <source>现场无法保存：%1</source>
+        <translation>No es pot desar el lloc: %1</translation>
+    </message>
+    <message>
+        <source>设备列表无法保存：%1</source>
+        <translation>No es pot desar la llista de dispositius: %1</translation>
+    </message>
+    <message>
+        <source>未保存的现场</source>
+        <translation>Lloc no desat</translation>
+    </message>
+    <message>
+        <source>原现场无法保存：%1</source>
+        <translation>No es pot desar el lloc anterior: %1</translation>
     </message>
 </context>
 <context>
@@ -4092,6 +4266,47 @@ Fitxer: </translation>
         <source>覆盖文件</source>
         <translation>Substitueix el fitxer</translation>
     </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Llistes de dispositius xifrades (*.devlist)</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPGroups</name>
+    <message>
+        <source>分组…</source>
+        <translation>Grup…</translation>
+    </message>
+    <message>
+        <source>从现场中移除</source>
+        <translation>Treu del lloc</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPNotice</name>
+    <message>
+        <source>重新搜索</source>
+        <translation>Torna a cercar</translation>
+    </message>
+    <message>
+        <source>查看原因</source>
+        <translation>Mostra els motius</translation>
+    </message>
+    <message>
+        <source>搜索已停止，列表不完整。</source>
+        <translation>S’ha aturat la cerca; la llista és incompleta.</translation>
+    </message>
+    <message>
+        <source>没有找到设备，灰色的是以前找到的设备</source>
+        <translation>No s&apos;ha trobat cap dispositiu. Els de color gris s&apos;havien trobat abans.</translation>
+    </message>
+    <message numerus="yes">
+        <source>找到的设备比上次搜索少 %n 台</source>
+        <translation>
+            <numerusform>%n dispositiu menys que a l’última cerca</numerusform>
+            <numerusform>%n dispositius menys que a l’última cerca</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPTable</name>
@@ -4132,16 +4347,16 @@ Fitxer: </translation>
         <translation>Accions</translation>
     </message>
     <message>
-        <source>已初始化</source>
-        <translation>Inicialitzat</translation>
-    </message>
-    <message>
-        <source>未初始化</source>
-        <translation>No inicialitzat</translation>
-    </message>
-    <message>
         <source>备注</source>
         <translation>Nota</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Grup</translation>
+    </message>
+    <message>
+        <source>新</source>
+        <translation>Nou</translation>
     </message>
 </context>
 <context>
@@ -4641,6 +4856,10 @@ Fitxer: </translation>
         <source>展开</source>
         <translation>Expandeix</translation>
     </message>
+    <message>
+        <source>新</source>
+        <translation>Nou</translation>
+    </message>
 </context>
 <context>
     <name>OV_MediaPlayer</name>
@@ -4891,17 +5110,6 @@ Fitxer: </translation>
         <translation>Exporta</translation>
     </message>
     <message>
-        <source>查看原因</source>
-        <translation>Mostra els motius</translation>
-    </message>
-    <message numerus="yes">
-        <source>找到的设备比上次搜索少 %n 台</source>
-        <translation>
-            <numerusform>%n dispositiu menys que a l’última cerca</numerusform>
-            <numerusform>%n dispositius menys que a l’última cerca</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>修改IP地址</source>
         <translation>Canvia les adreces IP</translation>
     </message>
@@ -4912,14 +5120,6 @@ Fitxer: </translation>
     <message>
         <source>查看勾选设备的图像</source>
         <translation>Imatges dels dispositius seleccionats</translation>
-    </message>
-    <message>
-        <source>重新搜索</source>
-        <translation>Torna a cercar</translation>
-    </message>
-    <message>
-        <source>搜索已停止，列表不完整。</source>
-        <translation>S’ha aturat la cerca; la llista és incompleta.</translation>
     </message>
 </context>
 <context>
@@ -4985,6 +5185,17 @@ Fitxer: </translation>
     <message>
         <source>；</source>
         <translation>; </translation>
+    </message>
+</context>
+<context>
+    <name>PassphraseDialog</name>
+    <message>
+        <source>加密的设备列表</source>
+        <translation>Llista de dispositius xifrada</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Frase de contrasenya</translation>
     </message>
 </context>
 <context>
@@ -5464,6 +5675,110 @@ Fitxer: </translation>
     <message>
         <source>无法打开模拟站点：</source>
         <translation>No s’ha pogut obrir el lloc de demo:</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFile</name>
+    <message>
+        <source>文件不是现场文件，或者已损坏</source>
+        <translation>El fitxer no és un fitxer de lloc o està malmès</translation>
+    </message>
+    <message>
+        <source>现场文件由更新的版本保存，无法读取</source>
+        <translation>El fitxer de lloc és d&apos;una versió més nova i no es pot llegir</translation>
+    </message>
+    <message>
+        <source>现场文件的设备超过 %1 台</source>
+        <translation>El fitxer de lloc té més de %1 dispositius</translation>
+    </message>
+    <message>
+        <source>现场文件中的名称无效</source>
+        <translation>El nom del fitxer de lloc no és vàlid</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备的 %2 无效</source>
+        <translation>Dispositiu %1 del fitxer de lloc: %2 no és vàlid</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备重复</source>
+        <translation>El dispositiu %1 del fitxer de lloc està repetit</translation>
+    </message>
+    <message>
+        <source>无法打开文件</source>
+        <translation>No s’ha pogut obrir el fitxer</translation>
+    </message>
+    <message>
+        <source>文件过大</source>
+        <translation>El fitxer és massa gran</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFiles</name>
+    <message>
+        <source>现场文件 (*.site)</source>
+        <translation>Fitxers de lloc (*.site)</translation>
+    </message>
+    <message>
+        <source>打开现场</source>
+        <translation>Obre un lloc</translation>
+    </message>
+    <message numerus="yes">
+        <source>已打开现场“%1”，共 %n 台设备</source>
+        <translation>
+            <numerusform>Lloc «%1» obert, amb %n dispositiu</numerusform>
+            <numerusform>Lloc «%1» obert, amb %n dispositius</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>无法打开现场 %1：%2</source>
+        <translation>No es pot obrir el lloc %1: %2</translation>
+    </message>
+    <message>
+        <source>现场</source>
+        <translation>Lloc</translation>
+    </message>
+    <message>
+        <source>现场另存为</source>
+        <translation>Anomena i desa el lloc</translation>
+    </message>
+    <message>
+        <source>现场已保存到 %1</source>
+        <translation>El lloc s&apos;ha desat a %1</translation>
+    </message>
+    <message>
+        <source>文件不含密码。</source>
+        <translation>El fitxer no conté contrasenyes.</translation>
+    </message>
+    <message>
+        <source>新建现场后，已知设备和分组从列表中清除。未保存的更改会保留在最近的现场中。</source>
+        <translation>Un lloc nou treu de la llista els dispositius coneguts i els grups. Els canvis no desats es conserven als llocs recents.</translation>
+    </message>
+    <message>
+        <source>新建</source>
+        <translation>Nou</translation>
+    </message>
+    <message>
+        <source>新建现场</source>
+        <translation>Lloc nou</translation>
+    </message>
+</context>
+<context>
+    <name>SiteMenu</name>
+    <message>
+        <source>现场</source>
+        <translation>Lloc</translation>
+    </message>
+    <message>
+        <source>打开现场…</source>
+        <translation>Obre un lloc…</translation>
+    </message>
+    <message>
+        <source>现场另存为…</source>
+        <translation>Anomena i desa el lloc…</translation>
+    </message>
+    <message>
+        <source>新建现场…</source>
+        <translation>Lloc nou…</translation>
     </message>
 </context>
 <context>

@@ -2101,6 +2101,30 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
         <source>字符 %1 在此格式中无法读回</source>
         <translation>Das Zeichen %1 kann aus diesem Format nicht zurückgelesen werden</translation>
     </message>
+    <message>
+        <source>加密列表的内容无效</source>
+        <translation>Der Inhalt der verschlüsselten Liste ist ungültig</translation>
+    </message>
+    <message>
+        <source>文件不是加密的设备列表，或者不完整</source>
+        <translation>Die Datei ist keine verschlüsselte Geräteliste oder unvollständig</translation>
+    </message>
+    <message>
+        <source>加密列表的版本不受支持</source>
+        <translation>Diese Version verschlüsselter Listen wird nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>加密列表的参数无效</source>
+        <translation>Die Parameter der verschlüsselten Liste sind ungültig</translation>
+    </message>
+    <message>
+        <source>列表已加密，需要密码短语</source>
+        <translation>Die Liste ist verschlüsselt: Eine Passphrase ist erforderlich</translation>
+    </message>
+    <message>
+        <source>密码短语错误，或者文件已损坏</source>
+        <translation>Falsche Passphrase, oder die Datei ist beschädigt</translation>
+    </message>
 </context>
 <context>
     <name>DeviceMenu</name>
@@ -2238,6 +2262,52 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
     <message>
         <source>正在升级</source>
         <translation>Update läuft</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceStateCell</name>
+    <message>
+        <source>未找到</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <source>待确认</source>
+        <translation>Unbestätigt</translation>
+    </message>
+    <message>
+        <source>已初始化</source>
+        <translation>Initialisiert</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>Nicht initialisiert</translation>
+    </message>
+    <message>
+        <source>最近一次搜索没有找到该设备</source>
+        <translation>Bei der letzten Suche nicht gefunden</translation>
+    </message>
+    <message>
+        <source>上次的列表中的设备，尚未找到</source>
+        <translation>Gerät der letzten Liste, noch nicht gefunden</translation>
+    </message>
+    <message>
+        <source>最后一次找到：%1</source>
+        <translation>Zuletzt gefunden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DroppedFiles</name>
+    <message>
+        <source>一次只能拖入一个文件</source>
+        <translation>Es kann nur eine Datei auf einmal in das Fenster gezogen werden</translation>
+    </message>
+    <message>
+        <source>拖入的不是本机上的文件</source>
+        <translation>Dies ist keine Datei auf diesem Computer</translation>
+    </message>
+    <message>
+        <source>不支持的文件：%1。可以拖入设备列表（.xlsx、.csv、.xml、.devlist）或现场文件（.site）</source>
+        <translation>Nicht unterstützte Datei: %1. Ziehen Sie eine Geräteliste (.xlsx, .csv, .xml, .devlist) oder eine Standortdatei (.site) in das Fenster</translation>
     </message>
 </context>
 <context>
@@ -2559,6 +2629,42 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
         <source>文件中的密码是明文。已保存账号的密码不导出。</source>
         <translation>Passwörter stehen in der Datei im Klartext. Passwörter gespeicherter Konten werden nicht exportiert.</translation>
     </message>
+    <message>
+        <source>文件不含密码。导入前须在文件中填写密码。</source>
+        <translation>Die Datei enthält keine Passwörter. Sie müssen vor dem Import eingetragen werden.</translation>
+    </message>
+    <message>
+        <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
+        <translation>Die gesamte Liste wird mit der Passphrase verschlüsselt, nur dieses Programm kann sie lesen. Ohne Passphrase kann sie nicht wiederhergestellt werden. Passwörter gespeicherter Konten werden nicht exportiert.</translation>
+    </message>
+    <message>
+        <source>完整列表</source>
+        <translation>Vollständige Liste</translation>
+    </message>
+    <message>
+        <source>不含密码</source>
+        <translation>Ohne Passwörter</translation>
+    </message>
+    <message>
+        <source>加密（.devlist）</source>
+        <translation>Verschlüsselt (.devlist)</translation>
+    </message>
+    <message>
+        <source>密码短语至少 %1 个字符</source>
+        <translation>Die Passphrase braucht mindestens %1 Zeichen</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Passphrase</translation>
+    </message>
+    <message>
+        <source>两次输入不一致</source>
+        <translation>Die Eingaben stimmen nicht überein</translation>
+    </message>
+    <message>
+        <source>再次输入密码短语</source>
+        <translation>Passphrase wiederholen</translation>
+    </message>
 </context>
 <context>
     <name>FailedMarks</name>
@@ -2623,6 +2729,17 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
     <message>
         <source>从收藏夹中删除</source>
         <translation>Entfernt dieses Gerät aus den Favoriten</translation>
+    </message>
+</context>
+<context>
+    <name>FileDrop</name>
+    <message>
+        <source>请先关闭对话框，再拖入文件</source>
+        <translation>Schließen Sie den Dialog, bevor Sie eine Datei in das Fenster ziehen</translation>
+    </message>
+    <message>
+        <source>松开鼠标，导入设备列表或打开现场</source>
+        <translation>Loslassen, um eine Geräteliste zu importieren oder einen Standort zu öffnen</translation>
     </message>
 </context>
 <context>
@@ -2833,6 +2950,28 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
     <message>
         <source>没有设备</source>
         <translation>Keine Geräte</translation>
+    </message>
+</context>
+<context>
+    <name>GroupDialog</name>
+    <message>
+        <source>保存</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备</source>
+        <translation>
+            <numerusform>%n Gerät</numerusform>
+            <numerusform>%n Geräte</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>不属于任何分组</source>
+        <translation>Keine Gruppe</translation>
     </message>
 </context>
 <context>
@@ -3347,6 +3486,41 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
     <message>
         <source>提示</source>
         <translation>Hinweise</translation>
+    </message>
+</context>
+<context>
+    <name>KnownDevices</name>
+    <message>
+        <source>上次的设备列表 %1 无法读取：%2</source>
+        <translation>Die letzte Geräteliste %1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>分组名称最多 %1 个字符</source>
+        <translation>Der Name einer Gruppe hat höchstens %1 Zeichen</translation>
+    </message>
+    <message>
+        <source>P2P设备不能分组</source>
+        <translation>P2P-Geräte können keiner Gruppe angehören</translation>
+    </message>
+    <message>
+        <source>现场最多 %1 台设备</source>
+        <translation>Ein Standort hat höchstens %1 Geräte</translation>
+    </message>
+    <message>
+        <source>现场无法保存：%1</source>
+        <translation>Der Standort kann nicht gespeichert werden: %1</translation>
+    </message>
+    <message>
+        <source>设备列表无法保存：%1</source>
+        <translation>Die Geräteliste kann nicht gespeichert werden: %1</translation>
+    </message>
+    <message>
+        <source>未保存的现场</source>
+        <translation>Nicht gespeicherter Standort</translation>
+    </message>
+    <message>
+        <source>原现场无法保存：%1</source>
+        <translation>Der vorherige Standort kann nicht gespeichert werden: %1</translation>
     </message>
 </context>
 <context>
@@ -4092,6 +4266,47 @@ Datei: </translation>
         <source>覆盖文件</source>
         <translation>Datei ersetzen</translation>
     </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Verschlüsselte Gerätelisten (*.devlist)</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPGroups</name>
+    <message>
+        <source>分组…</source>
+        <translation>Gruppe…</translation>
+    </message>
+    <message>
+        <source>从现场中移除</source>
+        <translation>Aus dem Standort entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPNotice</name>
+    <message>
+        <source>重新搜索</source>
+        <translation>Erneut suchen</translation>
+    </message>
+    <message>
+        <source>查看原因</source>
+        <translation>Gründe anzeigen</translation>
+    </message>
+    <message>
+        <source>搜索已停止，列表不完整。</source>
+        <translation>Die Suche wurde gestoppt; die Liste ist unvollständig.</translation>
+    </message>
+    <message>
+        <source>没有找到设备，灰色的是以前找到的设备</source>
+        <translation>Kein Gerät gefunden. Grau sind die früher gefundenen Geräte.</translation>
+    </message>
+    <message numerus="yes">
+        <source>找到的设备比上次搜索少 %n 台</source>
+        <translation>
+            <numerusform>%n Gerät weniger als bei der letzten Suche</numerusform>
+            <numerusform>%n Geräte weniger als bei der letzten Suche</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPTable</name>
@@ -4132,16 +4347,16 @@ Datei: </translation>
         <translation>Aktionen</translation>
     </message>
     <message>
-        <source>已初始化</source>
-        <translation>Initialisiert</translation>
-    </message>
-    <message>
-        <source>未初始化</source>
-        <translation>Nicht initialisiert</translation>
-    </message>
-    <message>
         <source>备注</source>
         <translation>Notiz</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>新</source>
+        <translation>Neu</translation>
     </message>
 </context>
 <context>
@@ -4641,6 +4856,10 @@ Datei: </translation>
         <source>展开</source>
         <translation>Ausklappen</translation>
     </message>
+    <message>
+        <source>新</source>
+        <translation>Neu</translation>
+    </message>
 </context>
 <context>
     <name>OV_MediaPlayer</name>
@@ -4891,17 +5110,6 @@ Datei: </translation>
         <translation>Exportieren</translation>
     </message>
     <message>
-        <source>查看原因</source>
-        <translation>Gründe anzeigen</translation>
-    </message>
-    <message numerus="yes">
-        <source>找到的设备比上次搜索少 %n 台</source>
-        <translation>
-            <numerusform>%n Gerät weniger als bei der letzten Suche</numerusform>
-            <numerusform>%n Geräte weniger als bei der letzten Suche</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>修改IP地址</source>
         <translation>IP-Adressen ändern</translation>
     </message>
@@ -4912,14 +5120,6 @@ Datei: </translation>
     <message>
         <source>查看勾选设备的图像</source>
         <translation>Bilder der ausgewählten Geräte</translation>
-    </message>
-    <message>
-        <source>重新搜索</source>
-        <translation>Erneut suchen</translation>
-    </message>
-    <message>
-        <source>搜索已停止，列表不完整。</source>
-        <translation>Die Suche wurde gestoppt; die Liste ist unvollständig.</translation>
     </message>
 </context>
 <context>
@@ -4985,6 +5185,17 @@ Datei: </translation>
     <message>
         <source>；</source>
         <translation>; </translation>
+    </message>
+</context>
+<context>
+    <name>PassphraseDialog</name>
+    <message>
+        <source>加密的设备列表</source>
+        <translation>Verschlüsselte Geräteliste</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Passphrase</translation>
     </message>
 </context>
 <context>
@@ -5464,6 +5675,110 @@ Datei: </translation>
     <message>
         <source>无法打开模拟站点：</source>
         <translation>Der Demo-Standort konnte nicht geöffnet werden:</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFile</name>
+    <message>
+        <source>文件不是现场文件，或者已损坏</source>
+        <translation>Die Datei ist keine Standortdatei oder beschädigt</translation>
+    </message>
+    <message>
+        <source>现场文件由更新的版本保存，无法读取</source>
+        <translation>Die Standortdatei stammt von einer neueren Version und kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>现场文件的设备超过 %1 台</source>
+        <translation>Die Standortdatei hat mehr als %1 Geräte</translation>
+    </message>
+    <message>
+        <source>现场文件中的名称无效</source>
+        <translation>Der Name in der Standortdatei ist ungültig</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备的 %2 无效</source>
+        <translation>Gerät %1 der Standortdatei: %2 ist ungültig</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备重复</source>
+        <translation>Gerät %1 der Standortdatei kommt doppelt vor</translation>
+    </message>
+    <message>
+        <source>无法打开文件</source>
+        <translation>Die Datei konnte nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>文件过大</source>
+        <translation>Die Datei ist zu groß</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFiles</name>
+    <message>
+        <source>现场文件 (*.site)</source>
+        <translation>Standortdateien (*.site)</translation>
+    </message>
+    <message>
+        <source>打开现场</source>
+        <translation>Standort öffnen</translation>
+    </message>
+    <message numerus="yes">
+        <source>已打开现场“%1”，共 %n 台设备</source>
+        <translation>
+            <numerusform>Standort „%1“ mit %n Gerät geöffnet</numerusform>
+            <numerusform>Standort „%1“ mit %n Geräten geöffnet</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>无法打开现场 %1：%2</source>
+        <translation>Der Standort %1 kann nicht geöffnet werden: %2</translation>
+    </message>
+    <message>
+        <source>现场</source>
+        <translation>Standort</translation>
+    </message>
+    <message>
+        <source>现场另存为</source>
+        <translation>Standort speichern unter</translation>
+    </message>
+    <message>
+        <source>现场已保存到 %1</source>
+        <translation>Der Standort wurde unter %1 gespeichert</translation>
+    </message>
+    <message>
+        <source>文件不含密码。</source>
+        <translation>Die Datei enthält keine Passwörter.</translation>
+    </message>
+    <message>
+        <source>新建现场后，已知设备和分组从列表中清除。未保存的更改会保留在最近的现场中。</source>
+        <translation>Ein neuer Standort entfernt bekannte Geräte und Gruppen aus der Liste. Nicht gespeicherte Änderungen bleiben bei den letzten Standorten erhalten.</translation>
+    </message>
+    <message>
+        <source>新建</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>新建现场</source>
+        <translation>Neuer Standort</translation>
+    </message>
+</context>
+<context>
+    <name>SiteMenu</name>
+    <message>
+        <source>现场</source>
+        <translation>Standort</translation>
+    </message>
+    <message>
+        <source>打开现场…</source>
+        <translation>Standort öffnen…</translation>
+    </message>
+    <message>
+        <source>现场另存为…</source>
+        <translation>Standort speichern unter…</translation>
+    </message>
+    <message>
+        <source>新建现场…</source>
+        <translation>Neuer Standort…</translation>
     </message>
 </context>
 <context>

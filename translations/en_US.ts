@@ -2101,6 +2101,30 @@ Right-click to copy the result</translation>
         <source>字符 %1 在此格式中无法读回</source>
         <translation>The character %1 cannot be read back from this format</translation>
     </message>
+    <message>
+        <source>加密列表的内容无效</source>
+        <translation>The content of the encrypted list is invalid</translation>
+    </message>
+    <message>
+        <source>文件不是加密的设备列表，或者不完整</source>
+        <translation>The file is not an encrypted device list, or is incomplete</translation>
+    </message>
+    <message>
+        <source>加密列表的版本不受支持</source>
+        <translation>This version of encrypted lists is not supported</translation>
+    </message>
+    <message>
+        <source>加密列表的参数无效</source>
+        <translation>The parameters of the encrypted list are invalid</translation>
+    </message>
+    <message>
+        <source>列表已加密，需要密码短语</source>
+        <translation>The list is encrypted: a passphrase is required</translation>
+    </message>
+    <message>
+        <source>密码短语错误，或者文件已损坏</source>
+        <translation>Wrong passphrase, or the file is damaged</translation>
+    </message>
 </context>
 <context>
     <name>DeviceMenu</name>
@@ -2238,6 +2262,52 @@ Right-click to copy the result</translation>
     <message>
         <source>正在升级</source>
         <translation>Upgrade in progress</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceStateCell</name>
+    <message>
+        <source>未找到</source>
+        <translation>Not found</translation>
+    </message>
+    <message>
+        <source>待确认</source>
+        <translation>Unconfirmed</translation>
+    </message>
+    <message>
+        <source>已初始化</source>
+        <translation>Initialised</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>Not initialised</translation>
+    </message>
+    <message>
+        <source>最近一次搜索没有找到该设备</source>
+        <translation>The last search did not find this device</translation>
+    </message>
+    <message>
+        <source>上次的列表中的设备，尚未找到</source>
+        <translation>A device of the last list, not found yet</translation>
+    </message>
+    <message>
+        <source>最后一次找到：%1</source>
+        <translation>Last found: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DroppedFiles</name>
+    <message>
+        <source>一次只能拖入一个文件</source>
+        <translation>Only one file at a time can be dragged into the window</translation>
+    </message>
+    <message>
+        <source>拖入的不是本机上的文件</source>
+        <translation>This is not a file on this computer</translation>
+    </message>
+    <message>
+        <source>不支持的文件：%1。可以拖入设备列表（.xlsx、.csv、.xml、.devlist）或现场文件（.site）</source>
+        <translation>File not supported: %1. Drag a device list (.xlsx, .csv, .xml, .devlist) or a site file (.site) into the window</translation>
     </message>
 </context>
 <context>
@@ -2559,6 +2629,42 @@ Right-click to copy the result</translation>
         <source>文件中的密码是明文。已保存账号的密码不导出。</source>
         <translation>Passwords in the file are in plain text. Passwords of stored accounts are not exported.</translation>
     </message>
+    <message>
+        <source>文件不含密码。导入前须在文件中填写密码。</source>
+        <translation>The file contains no passwords. Fill them in before the file is imported.</translation>
+    </message>
+    <message>
+        <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
+        <translation>The complete list is encrypted with the passphrase, and only this tool can read it. It cannot be recovered without the passphrase. Passwords of stored accounts are not exported.</translation>
+    </message>
+    <message>
+        <source>完整列表</source>
+        <translation>Complete list</translation>
+    </message>
+    <message>
+        <source>不含密码</source>
+        <translation>Without passwords</translation>
+    </message>
+    <message>
+        <source>加密（.devlist）</source>
+        <translation>Encrypted (.devlist)</translation>
+    </message>
+    <message>
+        <source>密码短语至少 %1 个字符</source>
+        <translation>The passphrase needs at least %1 characters</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Passphrase</translation>
+    </message>
+    <message>
+        <source>两次输入不一致</source>
+        <translation>The two passphrases differ</translation>
+    </message>
+    <message>
+        <source>再次输入密码短语</source>
+        <translation>Repeat the passphrase</translation>
+    </message>
 </context>
 <context>
     <name>FailedMarks</name>
@@ -2623,6 +2729,17 @@ Right-click to copy the result</translation>
     <message>
         <source>从收藏夹中删除</source>
         <translation>Removes this device from the favourites</translation>
+    </message>
+</context>
+<context>
+    <name>FileDrop</name>
+    <message>
+        <source>请先关闭对话框，再拖入文件</source>
+        <translation>Close the dialog before you drag a file into the window</translation>
+    </message>
+    <message>
+        <source>松开鼠标，导入设备列表或打开现场</source>
+        <translation>Release to import a device list or to open a site</translation>
     </message>
 </context>
 <context>
@@ -2833,6 +2950,28 @@ Right-click to copy the result</translation>
     <message>
         <source>没有设备</source>
         <translation>No devices</translation>
+    </message>
+</context>
+<context>
+    <name>GroupDialog</name>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Group</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备</source>
+        <translation>
+            <numerusform>%n device</numerusform>
+            <numerusform>%n devices</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>不属于任何分组</source>
+        <translation>No group</translation>
     </message>
 </context>
 <context>
@@ -3347,6 +3486,41 @@ Right-click to copy the result</translation>
     <message>
         <source>提示</source>
         <translation>Notes</translation>
+    </message>
+</context>
+<context>
+    <name>KnownDevices</name>
+    <message>
+        <source>上次的设备列表 %1 无法读取：%2</source>
+        <translation>The last device list %1 cannot be read: %2</translation>
+    </message>
+    <message>
+        <source>分组名称最多 %1 个字符</source>
+        <translation>The name of a group has at most %1 characters</translation>
+    </message>
+    <message>
+        <source>P2P设备不能分组</source>
+        <translation>P2P devices cannot be in a group</translation>
+    </message>
+    <message>
+        <source>现场最多 %1 台设备</source>
+        <translation>A site has at most %1 devices</translation>
+    </message>
+    <message>
+        <source>现场无法保存：%1</source>
+        <translation>The site cannot be saved: %1</translation>
+    </message>
+    <message>
+        <source>设备列表无法保存：%1</source>
+        <translation>The device list cannot be stored: %1</translation>
+    </message>
+    <message>
+        <source>未保存的现场</source>
+        <translation>Unsaved site</translation>
+    </message>
+    <message>
+        <source>原现场无法保存：%1</source>
+        <translation>The previous site cannot be saved: %1</translation>
     </message>
 </context>
 <context>
@@ -4096,6 +4270,47 @@ File: </translation>
         <source>覆盖文件</source>
         <translation>Replace file</translation>
     </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Encrypted device lists (*.devlist)</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPGroups</name>
+    <message>
+        <source>分组…</source>
+        <translation>Group…</translation>
+    </message>
+    <message>
+        <source>从现场中移除</source>
+        <translation>Remove from site</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPNotice</name>
+    <message>
+        <source>重新搜索</source>
+        <translation>Search again</translation>
+    </message>
+    <message>
+        <source>查看原因</source>
+        <translation>Show reasons</translation>
+    </message>
+    <message>
+        <source>搜索已停止，列表不完整。</source>
+        <translation>The search was stopped; the list is incomplete.</translation>
+    </message>
+    <message>
+        <source>没有找到设备，灰色的是以前找到的设备</source>
+        <translation>No device was found. The greyed devices are those found before.</translation>
+    </message>
+    <message numerus="yes">
+        <source>找到的设备比上次搜索少 %n 台</source>
+        <translation>
+            <numerusform>%n device fewer than in the last search</numerusform>
+            <numerusform>%n devices fewer than in the last search</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPTable</name>
@@ -4136,16 +4351,16 @@ File: </translation>
         <translation>Actions</translation>
     </message>
     <message>
-        <source>已初始化</source>
-        <translation>Initialised</translation>
-    </message>
-    <message>
-        <source>未初始化</source>
-        <translation>Not initialised</translation>
-    </message>
-    <message>
         <source>备注</source>
         <translation>Note</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Group</translation>
+    </message>
+    <message>
+        <source>新</source>
+        <translation>New</translation>
     </message>
 </context>
 <context>
@@ -4645,6 +4860,10 @@ File: </translation>
         <source>展开</source>
         <translation>Expand</translation>
     </message>
+    <message>
+        <source>新</source>
+        <translation>New</translation>
+    </message>
 </context>
 <context>
     <name>OV_MediaPlayer</name>
@@ -4895,17 +5114,6 @@ File: </translation>
         <translation>Export</translation>
     </message>
     <message>
-        <source>查看原因</source>
-        <translation>Show reasons</translation>
-    </message>
-    <message numerus="yes">
-        <source>找到的设备比上次搜索少 %n 台</source>
-        <translation>
-            <numerusform>%n device fewer than in the last search</numerusform>
-            <numerusform>%n devices fewer than in the last search</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>修改IP地址</source>
         <translation>Change IP addresses</translation>
     </message>
@@ -4916,14 +5124,6 @@ File: </translation>
     <message>
         <source>查看勾选设备的图像</source>
         <translation>Images of the selected devices</translation>
-    </message>
-    <message>
-        <source>重新搜索</source>
-        <translation>Search again</translation>
-    </message>
-    <message>
-        <source>搜索已停止，列表不完整。</source>
-        <translation>The search was stopped; the list is incomplete.</translation>
     </message>
 </context>
 <context>
@@ -4989,6 +5189,17 @@ File: </translation>
     <message>
         <source>；</source>
         <translation>; </translation>
+    </message>
+</context>
+<context>
+    <name>PassphraseDialog</name>
+    <message>
+        <source>加密的设备列表</source>
+        <translation>Encrypted device list</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Passphrase</translation>
     </message>
 </context>
 <context>
@@ -5915,6 +6126,110 @@ File: </translation>
     <message>
         <source>报告已生成</source>
         <translation>The report is complete</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFile</name>
+    <message>
+        <source>文件不是现场文件，或者已损坏</source>
+        <translation>The file is not a site file, or is damaged</translation>
+    </message>
+    <message>
+        <source>现场文件由更新的版本保存，无法读取</source>
+        <translation>The site file was saved by a newer version and cannot be read</translation>
+    </message>
+    <message>
+        <source>现场文件的设备超过 %1 台</source>
+        <translation>The site file has more than %1 devices</translation>
+    </message>
+    <message>
+        <source>现场文件中的名称无效</source>
+        <translation>The name in the site file is invalid</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备的 %2 无效</source>
+        <translation>Device %1 of the site file: %2 is invalid</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备重复</source>
+        <translation>Device %1 of the site file is a duplicate</translation>
+    </message>
+    <message>
+        <source>无法打开文件</source>
+        <translation>The file cannot be opened</translation>
+    </message>
+    <message>
+        <source>文件过大</source>
+        <translation>The file is too large</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFiles</name>
+    <message>
+        <source>现场文件 (*.site)</source>
+        <translation>Site files (*.site)</translation>
+    </message>
+    <message>
+        <source>打开现场</source>
+        <translation>Open site</translation>
+    </message>
+    <message numerus="yes">
+        <source>已打开现场“%1”，共 %n 台设备</source>
+        <translation>
+            <numerusform>Site “%1” is open, with %n device</numerusform>
+            <numerusform>Site “%1” is open, with %n devices</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>无法打开现场 %1：%2</source>
+        <translation>Site %1 cannot be opened: %2</translation>
+    </message>
+    <message>
+        <source>现场</source>
+        <translation>Site</translation>
+    </message>
+    <message>
+        <source>现场另存为</source>
+        <translation>Save site as</translation>
+    </message>
+    <message>
+        <source>现场已保存到 %1</source>
+        <translation>The site is saved to %1</translation>
+    </message>
+    <message>
+        <source>文件不含密码。</source>
+        <translation>The file contains no passwords.</translation>
+    </message>
+    <message>
+        <source>新建现场后，已知设备和分组从列表中清除。未保存的更改会保留在最近的现场中。</source>
+        <translation>A new site removes known devices and groups from the list. Unsaved changes are kept in the recent sites.</translation>
+    </message>
+    <message>
+        <source>新建</source>
+        <translation>New site</translation>
+    </message>
+    <message>
+        <source>新建现场</source>
+        <translation>New site</translation>
+    </message>
+</context>
+<context>
+    <name>SiteMenu</name>
+    <message>
+        <source>现场</source>
+        <translation>Site</translation>
+    </message>
+    <message>
+        <source>打开现场…</source>
+        <translation>Open site…</translation>
+    </message>
+    <message>
+        <source>现场另存为…</source>
+        <translation>Save site as…</translation>
+    </message>
+    <message>
+        <source>新建现场…</source>
+        <translation>New site…</translation>
     </message>
 </context>
 <context>

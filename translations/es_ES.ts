@@ -2101,6 +2101,30 @@ Clic derecho para copiar el resultado</translation>
         <source>字符 %1 在此格式中无法读回</source>
         <translation>El carácter %1 no se puede volver a leer desde este formato</translation>
     </message>
+    <message>
+        <source>加密列表的内容无效</source>
+        <translation>El contenido de la lista cifrada no es válido</translation>
+    </message>
+    <message>
+        <source>文件不是加密的设备列表，或者不完整</source>
+        <translation>El archivo no es una lista de dispositivos cifrada o está incompleto</translation>
+    </message>
+    <message>
+        <source>加密列表的版本不受支持</source>
+        <translation>Esta versión de las listas cifradas no es compatible</translation>
+    </message>
+    <message>
+        <source>加密列表的参数无效</source>
+        <translation>Los parámetros de la lista cifrada no son válidos</translation>
+    </message>
+    <message>
+        <source>列表已加密，需要密码短语</source>
+        <translation>La lista está cifrada: se necesita una frase de contraseña</translation>
+    </message>
+    <message>
+        <source>密码短语错误，或者文件已损坏</source>
+        <translation>Frase de contraseña incorrecta, o el archivo está dañado</translation>
+    </message>
 </context>
 <context>
     <name>DeviceMenu</name>
@@ -2238,6 +2262,52 @@ Clic derecho para copiar el resultado</translation>
     <message>
         <source>正在升级</source>
         <translation>Actualización en curso</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceStateCell</name>
+    <message>
+        <source>未找到</source>
+        <translation>No encontrado</translation>
+    </message>
+    <message>
+        <source>待确认</source>
+        <translation>Por confirmar</translation>
+    </message>
+    <message>
+        <source>已初始化</source>
+        <translation>Inicializado</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>No inicializado</translation>
+    </message>
+    <message>
+        <source>最近一次搜索没有找到该设备</source>
+        <translation>No encontrado en la última búsqueda</translation>
+    </message>
+    <message>
+        <source>上次的列表中的设备，尚未找到</source>
+        <translation>Dispositivo de la última lista, aún no encontrado</translation>
+    </message>
+    <message>
+        <source>最后一次找到：%1</source>
+        <translation>Encontrado por última vez: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DroppedFiles</name>
+    <message>
+        <source>一次只能拖入一个文件</source>
+        <translation>Solo se puede arrastrar un archivo a la vez a la ventana</translation>
+    </message>
+    <message>
+        <source>拖入的不是本机上的文件</source>
+        <translation>No es un archivo de este equipo</translation>
+    </message>
+    <message>
+        <source>不支持的文件：%1。可以拖入设备列表（.xlsx、.csv、.xml、.devlist）或现场文件（.site）</source>
+        <translation>Archivo no compatible: %1. Arrastre a la ventana una lista de dispositivos (.xlsx, .csv, .xml, .devlist) o un archivo de sitio (.site)</translation>
     </message>
 </context>
 <context>
@@ -2559,6 +2629,42 @@ Clic derecho para copiar el resultado</translation>
         <source>文件中的密码是明文。已保存账号的密码不导出。</source>
         <translation>Las contraseñas del archivo están en texto sin cifrar. Las contraseñas de las cuentas guardadas no se exportan.</translation>
     </message>
+    <message>
+        <source>文件不含密码。导入前须在文件中填写密码。</source>
+        <translation>El archivo no contiene contraseñas. Introdúzcalas antes de importarlo.</translation>
+    </message>
+    <message>
+        <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
+        <translation>Toda la lista se cifra con la frase de contraseña y solo esta herramienta puede leerla. No se puede recuperar sin la frase de contraseña. Las contraseñas de las cuentas guardadas no se exportan.</translation>
+    </message>
+    <message>
+        <source>完整列表</source>
+        <translation>Lista completa</translation>
+    </message>
+    <message>
+        <source>不含密码</source>
+        <translation>Sin contraseñas</translation>
+    </message>
+    <message>
+        <source>加密（.devlist）</source>
+        <translation>Cifrada (.devlist)</translation>
+    </message>
+    <message>
+        <source>密码短语至少 %1 个字符</source>
+        <translation>La frase de contraseña necesita al menos %1 caracteres</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Frase de contraseña</translation>
+    </message>
+    <message>
+        <source>两次输入不一致</source>
+        <translation>Las dos entradas son distintas</translation>
+    </message>
+    <message>
+        <source>再次输入密码短语</source>
+        <translation>Repita la frase de contraseña</translation>
+    </message>
 </context>
 <context>
     <name>FailedMarks</name>
@@ -2623,6 +2729,17 @@ Clic derecho para copiar el resultado</translation>
     <message>
         <source>从收藏夹中删除</source>
         <translation>Elimina este dispositivo de los favoritos</translation>
+    </message>
+</context>
+<context>
+    <name>FileDrop</name>
+    <message>
+        <source>请先关闭对话框，再拖入文件</source>
+        <translation>Cierre el cuadro de diálogo antes de arrastrar un archivo a la ventana</translation>
+    </message>
+    <message>
+        <source>松开鼠标，导入设备列表或打开现场</source>
+        <translation>Suelte para importar una lista de dispositivos o abrir un sitio</translation>
     </message>
 </context>
 <context>
@@ -2833,6 +2950,28 @@ Clic derecho para copiar el resultado</translation>
     <message>
         <source>没有设备</source>
         <translation>No hay dispositivos</translation>
+    </message>
+</context>
+<context>
+    <name>GroupDialog</name>
+    <message>
+        <source>保存</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Grupo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备</source>
+        <translation>
+            <numerusform>%n dispositivo</numerusform>
+            <numerusform>%n dispositivos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>不属于任何分组</source>
+        <translation>Ningún grupo</translation>
     </message>
 </context>
 <context>
@@ -3347,6 +3486,41 @@ Clic derecho para copiar el resultado</translation>
     <message>
         <source>提示</source>
         <translation>Notas</translation>
+    </message>
+</context>
+<context>
+    <name>KnownDevices</name>
+    <message>
+        <source>上次的设备列表 %1 无法读取：%2</source>
+        <translation>No se puede leer la última lista de dispositivos %1: %2</translation>
+    </message>
+    <message>
+        <source>分组名称最多 %1 个字符</source>
+        <translation>El nombre de un grupo tiene como máximo %1 caracteres</translation>
+    </message>
+    <message>
+        <source>P2P设备不能分组</source>
+        <translation>Los dispositivos P2P no pueden estar en un grupo</translation>
+    </message>
+    <message>
+        <source>现场最多 %1 台设备</source>
+        <translation>Un sitio tiene como máximo %1 dispositivos</translation>
+    </message>
+    <message>
+        <source>现场无法保存：%1</source>
+        <translation>No se puede guardar el sitio: %1</translation>
+    </message>
+    <message>
+        <source>设备列表无法保存：%1</source>
+        <translation>No se puede guardar la lista de dispositivos: %1</translation>
+    </message>
+    <message>
+        <source>未保存的现场</source>
+        <translation>Sitio no guardado</translation>
+    </message>
+    <message>
+        <source>原现场无法保存：%1</source>
+        <translation>No se puede guardar el sitio anterior: %1</translation>
     </message>
 </context>
 <context>
@@ -4092,6 +4266,47 @@ Archivo: </translation>
         <source>覆盖文件</source>
         <translation>Reemplazar archivo</translation>
     </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Listas de dispositivos cifradas (*.devlist)</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPGroups</name>
+    <message>
+        <source>分组…</source>
+        <translation>Grupo…</translation>
+    </message>
+    <message>
+        <source>从现场中移除</source>
+        <translation>Quitar del sitio</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPNotice</name>
+    <message>
+        <source>重新搜索</source>
+        <translation>Buscar de nuevo</translation>
+    </message>
+    <message>
+        <source>查看原因</source>
+        <translation>Mostrar motivos</translation>
+    </message>
+    <message>
+        <source>搜索已停止，列表不完整。</source>
+        <translation>La búsqueda se detuvo; la lista está incompleta.</translation>
+    </message>
+    <message>
+        <source>没有找到设备，灰色的是以前找到的设备</source>
+        <translation>No se encontró ningún dispositivo. Los de color gris se encontraron antes.</translation>
+    </message>
+    <message numerus="yes">
+        <source>找到的设备比上次搜索少 %n 台</source>
+        <translation>
+            <numerusform>%n dispositivo menos que en la última búsqueda</numerusform>
+            <numerusform>%n dispositivos menos que en la última búsqueda</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPTable</name>
@@ -4132,16 +4347,16 @@ Archivo: </translation>
         <translation>Acciones</translation>
     </message>
     <message>
-        <source>已初始化</source>
-        <translation>Inicializado</translation>
-    </message>
-    <message>
-        <source>未初始化</source>
-        <translation>No inicializado</translation>
-    </message>
-    <message>
         <source>备注</source>
         <translation>Nota</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Grupo</translation>
+    </message>
+    <message>
+        <source>新</source>
+        <translation>Nuevo</translation>
     </message>
 </context>
 <context>
@@ -4641,6 +4856,10 @@ Archivo: </translation>
         <source>展开</source>
         <translation>Expandir</translation>
     </message>
+    <message>
+        <source>新</source>
+        <translation>Nuevo</translation>
+    </message>
 </context>
 <context>
     <name>OV_MediaPlayer</name>
@@ -4891,17 +5110,6 @@ Archivo: </translation>
         <translation>Exportar</translation>
     </message>
     <message>
-        <source>查看原因</source>
-        <translation>Mostrar motivos</translation>
-    </message>
-    <message numerus="yes">
-        <source>找到的设备比上次搜索少 %n 台</source>
-        <translation>
-            <numerusform>%n dispositivo menos que en la última búsqueda</numerusform>
-            <numerusform>%n dispositivos menos que en la última búsqueda</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>修改IP地址</source>
         <translation>Modificar direcciones IP</translation>
     </message>
@@ -4912,14 +5120,6 @@ Archivo: </translation>
     <message>
         <source>查看勾选设备的图像</source>
         <translation>Imágenes de los dispositivos seleccionados</translation>
-    </message>
-    <message>
-        <source>重新搜索</source>
-        <translation>Buscar de nuevo</translation>
-    </message>
-    <message>
-        <source>搜索已停止，列表不完整。</source>
-        <translation>La búsqueda se detuvo; la lista está incompleta.</translation>
     </message>
 </context>
 <context>
@@ -4985,6 +5185,17 @@ Archivo: </translation>
     <message>
         <source>；</source>
         <translation>; </translation>
+    </message>
+</context>
+<context>
+    <name>PassphraseDialog</name>
+    <message>
+        <source>加密的设备列表</source>
+        <translation>Lista de dispositivos cifrada</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Frase de contraseña</translation>
     </message>
 </context>
 <context>
@@ -5464,6 +5675,110 @@ Archivo: </translation>
     <message>
         <source>无法打开模拟站点：</source>
         <translation>No se pudo abrir el sitio de demo:</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFile</name>
+    <message>
+        <source>文件不是现场文件，或者已损坏</source>
+        <translation>El archivo no es un archivo de sitio o está dañado</translation>
+    </message>
+    <message>
+        <source>现场文件由更新的版本保存，无法读取</source>
+        <translation>El archivo de sitio es de una versión más reciente y no se puede leer</translation>
+    </message>
+    <message>
+        <source>现场文件的设备超过 %1 台</source>
+        <translation>El archivo de sitio tiene más de %1 dispositivos</translation>
+    </message>
+    <message>
+        <source>现场文件中的名称无效</source>
+        <translation>El nombre en el archivo de sitio no es válido</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备的 %2 无效</source>
+        <translation>Dispositivo %1 del archivo de sitio: %2 no es válido</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备重复</source>
+        <translation>El dispositivo %1 del archivo de sitio está repetido</translation>
+    </message>
+    <message>
+        <source>无法打开文件</source>
+        <translation>No se pudo abrir el archivo</translation>
+    </message>
+    <message>
+        <source>文件过大</source>
+        <translation>El archivo es demasiado grande</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFiles</name>
+    <message>
+        <source>现场文件 (*.site)</source>
+        <translation>Archivos de sitio (*.site)</translation>
+    </message>
+    <message>
+        <source>打开现场</source>
+        <translation>Abrir sitio</translation>
+    </message>
+    <message numerus="yes">
+        <source>已打开现场“%1”，共 %n 台设备</source>
+        <translation>
+            <numerusform>Sitio «%1» abierto, con %n dispositivo</numerusform>
+            <numerusform>Sitio «%1» abierto, con %n dispositivos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>无法打开现场 %1：%2</source>
+        <translation>No se puede abrir el sitio %1: %2</translation>
+    </message>
+    <message>
+        <source>现场</source>
+        <translation>Sitio</translation>
+    </message>
+    <message>
+        <source>现场另存为</source>
+        <translation>Guardar sitio como</translation>
+    </message>
+    <message>
+        <source>现场已保存到 %1</source>
+        <translation>El sitio se guardó en %1</translation>
+    </message>
+    <message>
+        <source>文件不含密码。</source>
+        <translation>El archivo no contiene contraseñas.</translation>
+    </message>
+    <message>
+        <source>新建现场后，已知设备和分组从列表中清除。未保存的更改会保留在最近的现场中。</source>
+        <translation>Un sitio nuevo quita de la lista los dispositivos conocidos y los grupos. Los cambios no guardados se conservan en los sitios recientes.</translation>
+    </message>
+    <message>
+        <source>新建</source>
+        <translation>Nuevo</translation>
+    </message>
+    <message>
+        <source>新建现场</source>
+        <translation>Sitio nuevo</translation>
+    </message>
+</context>
+<context>
+    <name>SiteMenu</name>
+    <message>
+        <source>现场</source>
+        <translation>Sitio</translation>
+    </message>
+    <message>
+        <source>打开现场…</source>
+        <translation>Abrir sitio…</translation>
+    </message>
+    <message>
+        <source>现场另存为…</source>
+        <translation>Guardar sitio como…</translation>
+    </message>
+    <message>
+        <source>新建现场…</source>
+        <translation>Sitio nuevo…</translation>
     </message>
 </context>
 <context>
@@ -6609,7 +6924,7 @@ Archivo: </translation>
     </message>
     <message>
         <source>%1（%2%）</source>
-        <translation>%1 al %2 %</translation>
+        <translation>%1 al %2&#xa0;%</translation>
     </message>
     <message>
         <source>尚未停止，正在重试</source>

@@ -36,7 +36,7 @@
     </message>
     <message>
         <source>例如：一号楼</source>
-        <translation>Par exemple : Bâtiment 1</translation>
+        <translation>Par exemple&#xa0;: Bâtiment 1</translation>
     </message>
     <message>
         <source>用户名</source>
@@ -67,7 +67,7 @@
     <name>AccountKeeper</name>
     <message>
         <source>账号无法保存，只用到下次搜索：%1</source>
-        <translation>Le compte ne peut pas être enregistré et n&apos;est utilisé que jusqu&apos;à la prochaine recherche : %1</translation>
+        <translation>Le compte ne peut pas être enregistré et n&apos;est utilisé que jusqu&apos;à la prochaine recherche&#xa0;: %1</translation>
     </message>
     <message>
         <source>新账号已设为默认账号</source>
@@ -93,21 +93,21 @@
     </message>
     <message>
         <source>不保存，只用到下次搜索</source>
-        <translation>Ne pas enregistrer ; utiliser jusqu&apos;à la prochaine recherche</translation>
+        <translation>Ne pas enregistrer&#xa0;; utiliser jusqu&apos;à la prochaine recherche</translation>
     </message>
 </context>
 <context>
     <name>AccountList</name>
     <message>
         <source>设备没有MAC和UUID，账号只用到下次搜索</source>
-        <translation>L&apos;appareil n&apos;a ni MAC ni UUID : le compte n&apos;est utilisé que jusqu&apos;à la prochaine recherche</translation>
+        <translation>L&apos;appareil n&apos;a ni MAC ni UUID&#xa0;: le compte n&apos;est utilisé que jusqu&apos;à la prochaine recherche</translation>
     </message>
 </context>
 <context>
     <name>AccountStore</name>
     <message>
         <source>账号文件已损坏，其中的账号均未使用：%1</source>
-        <translation>Le fichier des comptes est endommagé et aucun de ses comptes n&apos;est utilisé : %1</translation>
+        <translation>Le fichier des comptes est endommagé et aucun de ses comptes n&apos;est utilisé&#xa0;: %1</translation>
     </message>
     <message>
         <source>请输入名称，最多 %1 个字符</source>
@@ -123,15 +123,15 @@
     </message>
     <message>
         <source>已有名为“%1”的账号</source>
-        <translation>Il existe déjà un compte nommé « %1 »</translation>
+        <translation>Il existe déjà un compte nommé «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>没有名为“%1”的账号</source>
-        <translation>Il n&apos;existe aucun compte nommé « %1 »</translation>
+        <translation>Il n&apos;existe aucun compte nommé «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>账号已满：最多 %1 个账号和 %2 台设备</source>
-        <translation>Plus de place : %1 comptes et %2 appareils au maximum</translation>
+        <translation>Plus de place&#xa0;: %1 comptes et %2 appareils au maximum</translation>
     </message>
 </context>
 <context>
@@ -146,20 +146,20 @@
     <message numerus="yes">
         <source>%n 台设备使用账号“%1”</source>
         <translation>
-            <numerusform>%n appareil utilise le compte « %1 »</numerusform>
-            <numerusform>%n appareils utilisent le compte « %1 »</numerusform>
+            <numerusform>%n appareil utilise le compte «&#xa0;%1&#xa0;»</numerusform>
+            <numerusform>%n appareils utilisent le compte «&#xa0;%1&#xa0;»</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>；其中 %n 台没有MAC和UUID，只用到下次搜索</source>
         <translation>
-            <numerusform> ; %n d&apos;entre eux n&apos;a ni MAC ni UUID et ne l&apos;utilise que jusqu&apos;à la prochaine recherche</numerusform>
-            <numerusform> ; %n d&apos;entre eux n&apos;ont ni MAC ni UUID et ne l&apos;utilisent que jusqu&apos;à la prochaine recherche</numerusform>
+            <numerusform>&#xa0;; %n d&apos;entre eux n&apos;a ni MAC ni UUID et ne l&apos;utilise que jusqu&apos;à la prochaine recherche</numerusform>
+            <numerusform>&#xa0;; %n d&apos;entre eux n&apos;ont ni MAC ni UUID et ne l&apos;utilisent que jusqu&apos;à la prochaine recherche</numerusform>
         </translation>
     </message>
     <message>
         <source>删除账号“%1”？</source>
-        <translation>Supprimer le compte « %1 » ?</translation>
+        <translation>Supprimer le compte «&#xa0;%1&#xa0;»&#xa0;?</translation>
     </message>
     <message numerus="yes">
         <source>使用它的 %n 台设备以后用默认账号登录。</source>
@@ -217,7 +217,7 @@
     </message>
     <message>
         <source>每台设备只用一个账号登录：为它选定的账号，否则为默认账号。其他账号不会自动尝试。</source>
-        <translation>Chaque appareil est essayé avec un seul compte : celui qui lui est affecté, sinon le compte par défaut. Les autres comptes ne sont jamais essayés.</translation>
+        <translation>Chaque appareil est essayé avec un seul compte&#xa0;: celui qui lui est affecté, sinon le compte par défaut. Les autres comptes ne sont jamais essayés.</translation>
     </message>
     <message>
         <source>默认账号</source>
@@ -230,8 +230,8 @@
     <message numerus="yes">
         <source>删除没有设备使用的 %n 个账号？</source>
         <translation>
-            <numerusform>Supprimer %n compte qu&apos;aucun appareil n&apos;utilise ?</numerusform>
-            <numerusform>Supprimer %n comptes qu&apos;aucun appareil n&apos;utilise ?</numerusform>
+            <numerusform>Supprimer %n compte qu&apos;aucun appareil n&apos;utilise&#xa0;?</numerusform>
+            <numerusform>Supprimer %n comptes qu&apos;aucun appareil n&apos;utilise&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>手动添加设备时勾选“添加到收藏夹”，设备就会保存在这里。</source>
-        <translation>Sélectionnez « Ajouter aux favoris » lors de l&apos;ajout d&apos;un appareil pour l&apos;enregistrer ici.</translation>
+        <translation>Sélectionnez «&#xa0;Ajouter aux favoris&#xa0;» lors de l&apos;ajout d&apos;un appareil pour l&apos;enregistrer ici.</translation>
     </message>
     <message>
         <source>没有符合搜索文字的收藏</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>请确认是否要从收藏夹中删除 %1</source>
-        <translation>Supprimer %1 des favoris ?</translation>
+        <translation>Supprimer %1 des favoris&#xa0;?</translation>
     </message>
     <message>
         <source>添加收藏设备</source>
@@ -420,14 +420,14 @@
     <name>AddingBatches</name>
     <message>
         <source>第%1行 %2</source>
-        <translation>Ligne %1 : %2</translation>
+        <translation>Ligne %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
     <name>AddressPlan</name>
     <message>
         <source>没有MAC，不会修改</source>
-        <translation>Pas d&apos;adresse MAC : ignoré</translation>
+        <translation>Pas d&apos;adresse MAC&#xa0;: ignoré</translation>
     </message>
     <message>
         <source>与其他设备冲突</source>
@@ -490,8 +490,8 @@
     <message numerus="yes">
         <source>向选中的 %n 台设备发送同一条命令：</source>
         <translation>
-            <numerusform>Envoyer cette commande à l&apos;appareil sélectionné :</numerusform>
-            <numerusform>Envoyer cette commande aux %n appareils sélectionnés :</numerusform>
+            <numerusform>Envoyer cette commande à l&apos;appareil sélectionné&#xa0;:</numerusform>
+            <numerusform>Envoyer cette commande aux %n appareils sélectionnés&#xa0;:</numerusform>
         </translation>
     </message>
 </context>
@@ -524,8 +524,8 @@
     <message numerus="yes">
         <source>确定要将 %n 台设备恢复为修改前的IP地址吗？</source>
         <translation>
-            <numerusform>Remettre %n appareil à son adresse IP précédente ?</numerusform>
-            <numerusform>Remettre %n appareils à leur adresse IP précédente ?</numerusform>
+            <numerusform>Remettre %n appareil à son adresse IP précédente&#xa0;?</numerusform>
+            <numerusform>Remettre %n appareils à leur adresse IP précédente&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -597,15 +597,15 @@
     <name>BatchPreview</name>
     <message>
         <source>未初始化，不会执行</source>
-        <translation>Non initialisé : ignoré</translation>
+        <translation>Non initialisé&#xa0;: ignoré</translation>
     </message>
     <message>
         <source>正在升级，不会执行</source>
-        <translation>Mise à jour en cours : ignoré</translation>
+        <translation>Mise à jour en cours&#xa0;: ignoré</translation>
     </message>
     <message>
         <source>IP地址冲突，可能作用于另一台设备</source>
-        <translation>Conflit d&apos;adresse : un autre appareil pourrait être modifié</translation>
+        <translation>Conflit d&apos;adresse&#xa0;: un autre appareil pourrait être modifié</translation>
     </message>
     <message>
         <source>与其他设备冲突</source>
@@ -614,7 +614,7 @@
     <message>
         <source>%1（%2）：%3</source>
         <extracomment>A device, what it gets, and a warning about that.</extracomment>
-        <translation>%1 (%2) : %3</translation>
+        <translation>%1 (%2)&#xa0;: %3</translation>
     </message>
 </context>
 <context>
@@ -629,15 +629,15 @@
     <message numerus="yes">
         <source>%n 个警告，请查看提示</source>
         <translation>
-            <numerusform>%n avertissement : voir Remarques</numerusform>
-            <numerusform>%n avertissements : voir Remarques</numerusform>
+            <numerusform>%n avertissement&#xa0;: voir Remarques</numerusform>
+            <numerusform>%n avertissements&#xa0;: voir Remarques</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n 台设备不会执行，请查看提示</source>
         <translation>
-            <numerusform>%n appareil est ignoré : voir Remarques</numerusform>
-            <numerusform>%n appareils sont ignorés : voir Remarques</numerusform>
+            <numerusform>%n appareil est ignoré&#xa0;: voir Remarques</numerusform>
+            <numerusform>%n appareils sont ignorés&#xa0;: voir Remarques</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -777,7 +777,7 @@
     </message>
     <message>
         <source>%1：%2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>设备</source>
@@ -805,7 +805,7 @@
     </message>
     <message>
         <source>%1，已跳过</source>
-        <translation>%1 : ignoré</translation>
+        <translation>%1&#xa0;: ignoré</translation>
     </message>
 </context>
 <context>
@@ -838,8 +838,8 @@
     <message numerus="yes">
         <source>有 %n 个警告，仍要继续吗？</source>
         <translation>
-            <numerusform>Il y a %n avertissement. Continuer ?</numerusform>
-            <numerusform>Il y a %n avertissements. Continuer ?</numerusform>
+            <numerusform>Il y a %n avertissement. Continuer&#xa0;?</numerusform>
+            <numerusform>Il y a %n avertissements. Continuer&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -855,7 +855,7 @@
     </message>
     <message>
         <source>“%1”正在进行，请等待其完成</source>
-        <translation>« %1 » est en cours. Attendez la fin.</translation>
+        <translation>«&#xa0;%1&#xa0;» est en cours. Attendez la fin.</translation>
     </message>
     <message>
         <source>系统资源不足，无法开始</source>
@@ -876,8 +876,8 @@
     <message numerus="yes">
         <source>%n 台设备的地址已改变，或已不在列表中，没有重试（如 %1）</source>
         <translation>
-            <numerusform>%n appareil n&apos;a pas été relancé : son adresse a changé ou il n&apos;est plus dans la liste (%1)</numerusform>
-            <numerusform>%n appareils n&apos;ont pas été relancés : leur adresse a changé ou ils ne sont plus dans la liste (par exemple %1)</numerusform>
+            <numerusform>%n appareil n&apos;a pas été relancé&#xa0;: son adresse a changé ou il n&apos;est plus dans la liste (%1)</numerusform>
+            <numerusform>%n appareils n&apos;ont pas été relancés&#xa0;: leur adresse a changé ou ils ne sont plus dans la liste (par exemple %1)</numerusform>
         </translation>
     </message>
 </context>
@@ -893,28 +893,28 @@
     </message>
     <message>
         <source>”、“</source>
-        <translation> », « </translation>
+        <translation>&#xa0;», «&#xa0;</translation>
     </message>
     <message>
         <source>“%1”正在进行，请在结束后再搜索设备</source>
         <extracomment>%1 is the name of running work, as on the button that starts it.</extracomment>
-        <translation>« %1 » est en cours. Lancez la recherche à la fin.</translation>
+        <translation>«&#xa0;%1&#xa0;» est en cours. Lancez la recherche à la fin.</translation>
     </message>
     <message>
         <source>“%1”正在进行，请在结束后再删除设备</source>
-        <translation>« %1 » est en cours. Supprimez des appareils à la fin.</translation>
+        <translation>«&#xa0;%1&#xa0;» est en cours. Supprimez des appareils à la fin.</translation>
     </message>
     <message>
         <source>“%1”正在进行，请在结束后再修改设备</source>
-        <translation>« %1 » est en cours. Modifiez des appareils à la fin.</translation>
+        <translation>«&#xa0;%1&#xa0;» est en cours. Modifiez des appareils à la fin.</translation>
     </message>
     <message>
         <source>“%1”正在进行，请在结束后再关闭</source>
-        <translation>« %1 » est en cours. Fermez le programme à la fin.</translation>
+        <translation>«&#xa0;%1&#xa0;» est en cours. Fermez le programme à la fin.</translation>
     </message>
     <message>
         <source>“%1”正在进行，请在结束后再重启程序</source>
-        <translation>« %1 » est en cours. Redémarrez le programme à la fin.</translation>
+        <translation>«&#xa0;%1&#xa0;» est en cours. Redémarrez le programme à la fin.</translation>
     </message>
     <message>
         <source>正在搜索，请先停止搜索（Esc）或稍候再关闭</source>
@@ -1030,8 +1030,8 @@
     <message numerus="yes">
         <source>%n 台设备的证书与已确认的不同，已停止发送密码。可能有人冒充设备：仅在知道原因（如设备已恢复出厂设置）时才勾选。</source>
         <translation>
-            <numerusform>Le certificat de %n appareil a changé. Aucun mot de passe n&apos;a été envoyé. Il peut s&apos;agir d&apos;un autre appareil : ne le sélectionnez que si vous connaissez la raison, par exemple une réinitialisation d&apos;usine.</numerusform>
-            <numerusform>Les certificats de %n appareils ont changé. Aucun mot de passe n&apos;a été envoyé. Il peut s&apos;agir d&apos;autres appareils : ne les sélectionnez que si vous connaissez la raison, par exemple une réinitialisation d&apos;usine.</numerusform>
+            <numerusform>Le certificat de %n appareil a changé. Aucun mot de passe n&apos;a été envoyé. Il peut s&apos;agir d&apos;un autre appareil&#xa0;: ne le sélectionnez que si vous connaissez la raison, par exemple une réinitialisation d&apos;usine.</numerusform>
+            <numerusform>Les certificats de %n appareils ont changé. Aucun mot de passe n&apos;a été envoyé. Il peut s&apos;agir d&apos;autres appareils&#xa0;: ne les sélectionnez que si vous connaissez la raison, par exemple une réinitialisation d&apos;usine.</numerusform>
         </translation>
     </message>
     <message>
@@ -1079,7 +1079,7 @@
     <name>CertificateStore</name>
     <message>
         <source>证书文件已损坏，其中的证书均不再信任，请重新确认：%1</source>
-        <translation>Le fichier des certificats est endommagé. Aucun certificat n&apos;est approuvé. Confirmez-les à nouveau : %1</translation>
+        <translation>Le fichier des certificats est endommagé. Aucun certificat n&apos;est approuvé. Confirmez-les à nouveau&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1144,7 +1144,7 @@
     </message>
     <message>
         <source>文件写入失败：</source>
-        <translation>Le fichier n&apos;a pas pu être écrit : </translation>
+        <translation>Le fichier n&apos;a pas pu être écrit&#xa0;: </translation>
     </message>
     <message>
         <source>操作已停止。</source>
@@ -1223,7 +1223,7 @@
     </message>
     <message>
         <source>文件写入失败：</source>
-        <translation>Le fichier n&apos;a pas pu être écrit : </translation>
+        <translation>Le fichier n&apos;a pas pu être écrit&#xa0;: </translation>
     </message>
     <message>
         <source>已保存到文件：%1</source>
@@ -1270,13 +1270,13 @@
     </message>
     <message>
         <source>已停止，完成 %1 / %2</source>
-        <translation>Arrêté : %1 sur %2 traités</translation>
+        <translation>Arrêté&#xa0;: %1 sur %2 traités</translation>
     </message>
     <message numerus="yes">
         <source>批量配置CGI命令已完成</source>
         <translation>
-            <numerusform>Envoyé à %n appareil : accepté</numerusform>
-            <numerusform>Envoyé à %n appareils : tous acceptés</numerusform>
+            <numerusform>Envoyé à %n appareil&#xa0;: accepté</numerusform>
+            <numerusform>Envoyé à %n appareils&#xa0;: tous acceptés</numerusform>
         </translation>
     </message>
     <message>
@@ -1286,8 +1286,8 @@
     <message numerus="yes">
         <source>批量配置CGI命令已完成：成功 %1，失败 %2</source>
         <translation>
-            <numerusform>Envoyé à %n : %1 acceptés, %2 échecs</numerusform>
-            <numerusform>Envoyé à %n : %1 acceptés, %2 échecs</numerusform>
+            <numerusform>Envoyé à %n&#xa0;: %1 acceptés, %2 échecs</numerusform>
+            <numerusform>Envoyé à %n&#xa0;: %1 acceptés, %2 échecs</numerusform>
         </translation>
     </message>
 </context>
@@ -1387,7 +1387,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>第%1行 %2</source>
-        <translation>Ligne %1 : %2</translation>
+        <translation>Ligne %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -1669,7 +1669,7 @@ Clic droit pour copier le résultat</translation>
     <name>DeviceActions</name>
     <message>
         <source>%1 已存在，是否覆盖？</source>
-        <translation>%1 existe déjà. Le remplacer ?</translation>
+        <translation>%1 existe déjà. Le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>已导出到 %1</source>
@@ -1954,7 +1954,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>登录失败：%1</source>
-        <translation>Échec de l&apos;identification : %1</translation>
+        <translation>Échec de l&apos;identification&#xa0;: %1</translation>
     </message>
     <message>
         <source>登录读取更多</source>
@@ -1996,11 +1996,11 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>设备库配置文件 %1 中有无法识别的行：%2</source>
-        <translation>Le fichier de bibliothèques d&apos;appareils %1 contient une ligne inconnue : %2</translation>
+        <translation>Le fichier de bibliothèques d&apos;appareils %1 contient une ligne inconnue&#xa0;: %2</translation>
     </message>
     <message>
         <source>设备库配置文件中缺少 [%1] 或其 file</source>
-        <translation>[%1] ou son entrée « file » manque dans le fichier de bibliothèques d&apos;appareils</translation>
+        <translation>[%1] ou son entrée «&#xa0;file&#xa0;» manque dans le fichier de bibliothèques d&apos;appareils</translation>
     </message>
     <message>
         <source>设备库配置文件没有列出 %1 的函数 %2</source>
@@ -2012,7 +2012,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>无法加载设备库 %1：%2</source>
-        <translation>La bibliothèque d&apos;appareils %1 n&apos;a pas pu être chargée : %2</translation>
+        <translation>La bibliothèque d&apos;appareils %1 n&apos;a pas pu être chargée&#xa0;: %2</translation>
     </message>
     <message>
         <source>设备库 %1 中没有入口 %2</source>
@@ -2067,7 +2067,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>第 %1 行与第 %2 行的MAC地址相同：%3</source>
-        <translation>Les lignes %1 et %2 ont la même adresse MAC : %3</translation>
+        <translation>Les lignes %1 et %2 ont la même adresse MAC&#xa0;: %3</translation>
     </message>
     <message>
         <source>文件内的设备超过 %1 台</source>
@@ -2083,7 +2083,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>根元素不是 deviceList：%1</source>
-        <translation>L&apos;élément racine n&apos;est pas deviceList : %1</translation>
+        <translation>L&apos;élément racine n&apos;est pas deviceList&#xa0;: %1</translation>
     </message>
     <message>
         <source>第 %1 行不是有效的XML</source>
@@ -2100,6 +2100,30 @@ Clic droit pour copier le résultat</translation>
     <message>
         <source>字符 %1 在此格式中无法读回</source>
         <translation>Le caractère %1 ne peut pas être relu depuis ce format</translation>
+    </message>
+    <message>
+        <source>加密列表的内容无效</source>
+        <translation>Le contenu de la liste chiffrée n&apos;est pas valide</translation>
+    </message>
+    <message>
+        <source>文件不是加密的设备列表，或者不完整</source>
+        <translation>Le fichier n&apos;est pas une liste d&apos;appareils chiffrée, ou il est incomplet</translation>
+    </message>
+    <message>
+        <source>加密列表的版本不受支持</source>
+        <translation>Cette version des listes chiffrées n&apos;est pas prise en charge</translation>
+    </message>
+    <message>
+        <source>加密列表的参数无效</source>
+        <translation>Les paramètres de la liste chiffrée ne sont pas valides</translation>
+    </message>
+    <message>
+        <source>列表已加密，需要密码短语</source>
+        <translation>La liste est chiffrée : une phrase secrète est nécessaire</translation>
+    </message>
+    <message>
+        <source>密码短语错误，或者文件已损坏</source>
+        <translation>Phrase secrète incorrecte, ou fichier endommagé</translation>
     </message>
 </context>
 <context>
@@ -2164,7 +2188,7 @@ Clic droit pour copier le résultat</translation>
     <name>DeviceNotes</name>
     <message>
         <source>备注文件 %1 无法读取：%2</source>
-        <translation>Le fichier des remarques, %1, ne peut pas être lu : %2</translation>
+        <translation>Le fichier des remarques, %1, ne peut pas être lu&#xa0;: %2</translation>
     </message>
     <message>
         <source>备注文件 %1 已损坏，部分备注可能丢失。下次保存备注时，该文件会改名保留。</source>
@@ -2184,7 +2208,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>备注无法保存：%1</source>
-        <translation>La remarque ne peut pas être enregistrée : %1</translation>
+        <translation>La remarque ne peut pas être enregistrée&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -2225,7 +2249,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>登录失败：%1</source>
-        <translation>Échec de l&apos;identification : %1</translation>
+        <translation>Échec de l&apos;identification&#xa0;: %1</translation>
     </message>
     <message>
         <source>未登录</source>
@@ -2241,6 +2265,52 @@ Clic droit pour copier le résultat</translation>
     </message>
 </context>
 <context>
+    <name>DeviceStateCell</name>
+    <message>
+        <source>未找到</source>
+        <translation>Non trouvé</translation>
+    </message>
+    <message>
+        <source>待确认</source>
+        <translation>À confirmer</translation>
+    </message>
+    <message>
+        <source>已初始化</source>
+        <translation>Initialisé</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>Non initialisé</translation>
+    </message>
+    <message>
+        <source>最近一次搜索没有找到该设备</source>
+        <translation>Introuvable à la dernière recherche</translation>
+    </message>
+    <message>
+        <source>上次的列表中的设备，尚未找到</source>
+        <translation>Appareil de la dernière liste, pas encore trouvé</translation>
+    </message>
+    <message>
+        <source>最后一次找到：%1</source>
+        <translation>Trouvé pour la dernière fois : %1</translation>
+    </message>
+</context>
+<context>
+    <name>DroppedFiles</name>
+    <message>
+        <source>一次只能拖入一个文件</source>
+        <translation>Un seul fichier à la fois peut être glissé dans la fenêtre</translation>
+    </message>
+    <message>
+        <source>拖入的不是本机上的文件</source>
+        <translation>Ce n&apos;est pas un fichier de cet ordinateur</translation>
+    </message>
+    <message>
+        <source>不支持的文件：%1。可以拖入设备列表（.xlsx、.csv、.xml、.devlist）或现场文件（.site）</source>
+        <translation>Fichier non pris en charge : %1. Glissez une liste d&apos;appareils (.xlsx, .csv, .xml, .devlist) ou un fichier de site (.site) dans la fenêtre</translation>
+    </message>
+</context>
+<context>
     <name>EncodeBitRate</name>
     <message>
         <source>自定义码流值</source>
@@ -2251,35 +2321,35 @@ Clic droit pour copier le résultat</translation>
     <name>EncodeConfig</name>
     <message>
         <source>主码流编码视频格式属性</source>
-        <translation>Flux principal : format vidéo</translation>
+        <translation>Flux principal&#xa0;: format vidéo</translation>
     </message>
     <message>
         <source>主码流编码视频格式profile</source>
-        <translation>Flux principal : profil vidéo</translation>
+        <translation>Flux principal&#xa0;: profil vidéo</translation>
     </message>
     <message>
         <source>主码流编码音频压缩格式</source>
-        <translation>Flux principal : compression audio</translation>
+        <translation>Flux principal&#xa0;: compression audio</translation>
     </message>
     <message>
         <source>主码流编码音频格式</source>
-        <translation>Flux principal : format audio</translation>
+        <translation>Flux principal&#xa0;: format audio</translation>
     </message>
     <message>
         <source>辅码流编码视频格式属性</source>
-        <translation>Flux secondaire : format vidéo</translation>
+        <translation>Flux secondaire&#xa0;: format vidéo</translation>
     </message>
     <message>
         <source>辅码流编码视频格式profile</source>
-        <translation>Flux secondaire : profil vidéo</translation>
+        <translation>Flux secondaire&#xa0;: profil vidéo</translation>
     </message>
     <message>
         <source>辅码流编码音频压缩格式</source>
-        <translation>Flux secondaire : compression audio</translation>
+        <translation>Flux secondaire&#xa0;: compression audio</translation>
     </message>
     <message>
         <source>辅码流编码音频格式配置</source>
-        <translation>Flux secondaire : format audio</translation>
+        <translation>Flux secondaire&#xa0;: format audio</translation>
     </message>
     <message>
         <source>%1（没有读到，未写入）</source>
@@ -2290,7 +2360,7 @@ Clic droit pour copier le résultat</translation>
     <name>EncodeCopies</name>
     <message>
         <source>未复制：%1</source>
-        <translation>Non copié : %1</translation>
+        <translation>Non copié&#xa0;: %1</translation>
     </message>
     <message>
         <source>、</source>
@@ -2429,7 +2499,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>没有保存：%1</source>
-        <translation>Non enregistré : %1</translation>
+        <translation>Non enregistré&#xa0;: %1</translation>
     </message>
     <message>
         <source>，</source>
@@ -2449,7 +2519,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>没有读到：%1，保存时不写入</source>
-        <translation>Non lu : %1. L&apos;enregistrement n&apos;y change rien.</translation>
+        <translation>Non lu&#xa0;: %1. L&apos;enregistrement n&apos;y change rien.</translation>
     </message>
 </context>
 <context>
@@ -2530,7 +2600,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>设备的编码模式由主码流决定：主码流已改为 %1</source>
-        <translation>Les deux flux utilisent la même compression : le flux principal est désormais en %1</translation>
+        <translation>Les deux flux utilisent la même compression&#xa0;: le flux principal est désormais en %1</translation>
     </message>
     <message>
         <source>正在保存编码配置…</source>
@@ -2546,7 +2616,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>读取配置失败：%1</source>
-        <translation>Les paramètres n&apos;ont pas pu être lus : %1</translation>
+        <translation>Les paramètres n&apos;ont pas pu être lus&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -2559,12 +2629,48 @@ Clic droit pour copier le résultat</translation>
         <source>文件中的密码是明文。已保存账号的密码不导出。</source>
         <translation>Les mots de passe du fichier sont en clair. Les mots de passe des comptes enregistrés ne sont pas exportés.</translation>
     </message>
+    <message>
+        <source>文件不含密码。导入前须在文件中填写密码。</source>
+        <translation>Le fichier ne contient pas de mots de passe. Saisissez-les avant l&apos;importation.</translation>
+    </message>
+    <message>
+        <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
+        <translation>Toute la liste est chiffrée avec la phrase secrète, et seul cet outil peut la lire. Elle ne peut pas être récupérée sans la phrase secrète. Les mots de passe des comptes enregistrés ne sont pas exportés.</translation>
+    </message>
+    <message>
+        <source>完整列表</source>
+        <translation>Liste complète</translation>
+    </message>
+    <message>
+        <source>不含密码</source>
+        <translation>Sans mots de passe</translation>
+    </message>
+    <message>
+        <source>加密（.devlist）</source>
+        <translation>Chiffrée (.devlist)</translation>
+    </message>
+    <message>
+        <source>密码短语至少 %1 个字符</source>
+        <translation>La phrase secrète doit avoir au moins %1 caractères</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Phrase secrète</translation>
+    </message>
+    <message>
+        <source>两次输入不一致</source>
+        <translation>Les deux saisies sont différentes</translation>
+    </message>
+    <message>
+        <source>再次输入密码短语</source>
+        <translation>Répéter la phrase secrète</translation>
+    </message>
 </context>
 <context>
     <name>FailedMarks</name>
     <message>
         <source>%1：%2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>最近一次搜索没有找到该设备</source>
@@ -2623,6 +2729,17 @@ Clic droit pour copier le résultat</translation>
     <message>
         <source>从收藏夹中删除</source>
         <translation>Supprime cet appareil des favoris</translation>
+    </message>
+</context>
+<context>
+    <name>FileDrop</name>
+    <message>
+        <source>请先关闭对话框，再拖入文件</source>
+        <translation>Fermez la boîte de dialogue avant de glisser un fichier dans la fenêtre</translation>
+    </message>
+    <message>
+        <source>松开鼠标，导入设备列表或打开现场</source>
+        <translation>Relâchez pour importer une liste d&apos;appareils ou ouvrir un site</translation>
     </message>
 </context>
 <context>
@@ -2699,11 +2816,11 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>已停止等待设备，地址可能已修改</source>
-        <translation>Attente de l&apos;appareil arrêtée : son adresse a peut-être changé</translation>
+        <translation>Attente de l&apos;appareil arrêtée&#xa0;: son adresse a peut-être changé</translation>
     </message>
     <message>
         <source>超过时间限制，地址可能已修改</source>
-        <translation>Délai dépassé : l&apos;adresse a peut-être changé</translation>
+        <translation>Délai dépassé&#xa0;: l&apos;adresse a peut-être changé</translation>
     </message>
 </context>
 <context>
@@ -2759,7 +2876,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>“%1”正在进行，请等待其完成</source>
-        <translation>« %1 » est en cours. Attendez la fin.</translation>
+        <translation>«&#xa0;%1&#xa0;» est en cours. Attendez la fin.</translation>
     </message>
     <message>
         <source>重新获取所有图像（F5）</source>
@@ -2813,7 +2930,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>已保存 %1 幅图像到 %2，%3 幅无法写入：%4</source>
-        <translation>%1 images enregistrées dans %2, %3 non écrites : %4</translation>
+        <translation>%1 images enregistrées dans %2, %3 non écrites&#xa0;: %4</translation>
     </message>
     <message numerus="yes">
         <source>%n 台设备</source>
@@ -2824,7 +2941,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>无法打开文件夹：%1</source>
-        <translation>Le dossier n&apos;a pas pu être ouvert : %1</translation>
+        <translation>Le dossier n&apos;a pas pu être ouvert&#xa0;: %1</translation>
     </message>
     <message>
         <source>请在设备列表中勾选设备</source>
@@ -2833,6 +2950,28 @@ Clic droit pour copier le résultat</translation>
     <message>
         <source>没有设备</source>
         <translation>Aucun appareil</translation>
+    </message>
+</context>
+<context>
+    <name>GroupDialog</name>
+    <message>
+        <source>保存</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Groupe</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备</source>
+        <translation>
+            <numerusform>%n appareil</numerusform>
+            <numerusform>%n appareils</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>不属于任何分组</source>
+        <translation>Aucun groupe</translation>
     </message>
 </context>
 <context>
@@ -3280,22 +3419,22 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>没有修改：%1。显示的是设备现有的值</source>
-        <translation>Non modifié : %1. La valeur de l&apos;appareil est affichée.</translation>
+        <translation>Non modifié&#xa0;: %1. La valeur de l&apos;appareil est affichée.</translation>
     </message>
 </context>
 <context>
     <name>InitialisationPreview</name>
     <message>
         <source>已初始化，不会执行</source>
-        <translation>Déjà initialisé : ignoré</translation>
+        <translation>Déjà initialisé&#xa0;: ignoré</translation>
     </message>
     <message>
         <source>正在升级，不会执行</source>
-        <translation>Mise à jour en cours : ignoré</translation>
+        <translation>Mise à jour en cours&#xa0;: ignoré</translation>
     </message>
     <message>
         <source>MAC地址未知，不会执行</source>
-        <translation>Adresse MAC inconnue : ignoré</translation>
+        <translation>Adresse MAC inconnue&#xa0;: ignoré</translation>
     </message>
 </context>
 <context>
@@ -3347,6 +3486,41 @@ Clic droit pour copier le résultat</translation>
     <message>
         <source>提示</source>
         <translation>Remarques</translation>
+    </message>
+</context>
+<context>
+    <name>KnownDevices</name>
+    <message>
+        <source>上次的设备列表 %1 无法读取：%2</source>
+        <translation>La dernière liste d&apos;appareils %1 ne peut pas être lue : %2</translation>
+    </message>
+    <message>
+        <source>分组名称最多 %1 个字符</source>
+        <translation>Le nom d&apos;un groupe a au plus %1 caractères</translation>
+    </message>
+    <message>
+        <source>P2P设备不能分组</source>
+        <translation>Les appareils P2P ne peuvent pas être dans un groupe</translation>
+    </message>
+    <message>
+        <source>现场最多 %1 台设备</source>
+        <translation>Un site a au plus %1 appareils</translation>
+    </message>
+    <message>
+        <source>现场无法保存：%1</source>
+        <translation>Le site ne peut pas être enregistré : %1</translation>
+    </message>
+    <message>
+        <source>设备列表无法保存：%1</source>
+        <translation>La liste d&apos;appareils ne peut pas être enregistrée : %1</translation>
+    </message>
+    <message>
+        <source>未保存的现场</source>
+        <translation>Site non enregistré</translation>
+    </message>
+    <message>
+        <source>原现场无法保存：%1</source>
+        <translation>Le site précédent ne peut pas être enregistré : %1</translation>
     </message>
 </context>
 <context>
@@ -3509,7 +3683,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>“%1”正在进行，请等待其完成</source>
-        <translation>« %1 » est en cours. Attendez la fin.</translation>
+        <translation>«&#xa0;%1&#xa0;» est en cours. Attendez la fin.</translation>
     </message>
     <message>
         <source>画面中已有足够多的设备</source>
@@ -3564,7 +3738,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>无法打开文件夹：%1</source>
-        <translation>Le dossier n&apos;a pas pu être ouvert : %1</translation>
+        <translation>Le dossier n&apos;a pas pu être ouvert&#xa0;: %1</translation>
     </message>
     <message numerus="yes">
         <source>%1，%n 秒后重试</source>
@@ -3673,7 +3847,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>演示站点：%1</source>
-        <translation>Site de démo : %1</translation>
+        <translation>Site de démo&#xa0;: %1</translation>
     </message>
     <message>
         <source>模拟设备，不连接网络。账号为登录设备的用户名和密码；新设备须先初始化。</source>
@@ -3685,7 +3859,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>未安装设备库，无法与设备通信</source>
-        <translation>Aucune bibliothèque d&apos;appareils installée : les appareils sont injoignables</translation>
+        <translation>Aucune bibliothèque d&apos;appareils installée&#xa0;: les appareils sont injoignables</translation>
     </message>
     <message>
         <source>正在用系统的PDF程序打开 %1</source>
@@ -3772,8 +3946,8 @@ Clic droit pour copier le résultat</translation>
         <source>%n 台设备未成功，请查看修改结果</source>
         <extracomment>Devices of a batch that failed.</extracomment>
         <translation>
-            <numerusform>%n appareil en échec : voir Résultat</numerusform>
-            <numerusform>%n appareils en échec : voir Résultat</numerusform>
+            <numerusform>%n appareil en échec&#xa0;: voir Résultat</numerusform>
+            <numerusform>%n appareils en échec&#xa0;: voir Résultat</numerusform>
         </translation>
     </message>
     <message>
@@ -3804,7 +3978,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>已停止：%1</source>
-        <translation>Arrêté : %1</translation>
+        <translation>Arrêté&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -3816,8 +3990,8 @@ Clic droit pour copier le résultat</translation>
     <message numerus="yes">
         <source>请确认是否要删除</source>
         <translation>
-            <numerusform>Supprimer %n appareil de la liste ?</numerusform>
-            <numerusform>Supprimer %n appareils de la liste ?</numerusform>
+            <numerusform>Supprimer %n appareil de la liste&#xa0;?</numerusform>
+            <numerusform>Supprimer %n appareils de la liste&#xa0;?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3977,11 +4151,11 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>为什么没有找到设备？</source>
-        <translation>Pourquoi aucun appareil n&apos;a-t-il été trouvé ?</translation>
+        <translation>Pourquoi aucun appareil n&apos;a-t-il été trouvé&#xa0;?</translation>
     </message>
     <message>
         <source>程序无法与设备通信，因此找不到设备，也不能修改设备。演示站点不需要设备，可以试用全部功能。</source>
-        <translation>Le programme ne peut pas communiquer avec les appareils : aucun ne peut être trouvé ni modifié. Le site de démo n&apos;a pas besoin d&apos;appareils et montre toutes les fonctions.</translation>
+        <translation>Le programme ne peut pas communiquer avec les appareils&#xa0;: aucun ne peut être trouvé ni modifié. Le site de démo n&apos;a pas besoin d&apos;appareils et montre toutes les fonctions.</translation>
     </message>
     <message>
         <source>打开演示站点</source>
@@ -3989,7 +4163,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>已搜索：%1</source>
-        <translation>Recherché : %1</translation>
+        <translation>Recherché&#xa0;: %1</translation>
     </message>
     <message>
         <source>按地址添加设备</source>
@@ -4012,13 +4186,13 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>%1 已存在，是否覆盖？</source>
-        <translation>%1 existe déjà. Le remplacer ?</translation>
+        <translation>%1 existe déjà. Le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>导出设备成功
 文件路径:</source>
         <translation>Appareils exportés
-Fichier : </translation>
+Fichier&#xa0;: </translation>
     </message>
     <message>
         <source>导出设备失败，请检查本机是否已经安装了Office</source>
@@ -4034,7 +4208,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>批量导入设备：</source>
-        <translation>Importé : </translation>
+        <translation>Importé&#xa0;: </translation>
     </message>
     <message>
         <source>台已完成</source>
@@ -4050,7 +4224,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>以下内容无法从该文件正确导入：</source>
-        <translation>Ces valeurs ne peuvent pas être relues depuis le fichier :</translation>
+        <translation>Ces valeurs ne peuvent pas être relues depuis le fichier&#xa0;:</translation>
     </message>
     <message>
         <source>行</source>
@@ -4092,6 +4266,47 @@ Fichier : </translation>
         <source>覆盖文件</source>
         <translation>Remplacer le fichier</translation>
     </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Listes d&apos;appareils chiffrées (*.devlist)</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPGroups</name>
+    <message>
+        <source>分组…</source>
+        <translation>Groupe…</translation>
+    </message>
+    <message>
+        <source>从现场中移除</source>
+        <translation>Retirer du site</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPNotice</name>
+    <message>
+        <source>重新搜索</source>
+        <translation>Relancer la recherche</translation>
+    </message>
+    <message>
+        <source>查看原因</source>
+        <translation>Afficher les raisons</translation>
+    </message>
+    <message>
+        <source>搜索已停止，列表不完整。</source>
+        <translation>La recherche a été arrêtée ; la liste est incomplète.</translation>
+    </message>
+    <message>
+        <source>没有找到设备，灰色的是以前找到的设备</source>
+        <translation>Aucun appareil trouvé. Les appareils grisés ont été trouvés auparavant.</translation>
+    </message>
+    <message numerus="yes">
+        <source>找到的设备比上次搜索少 %n 台</source>
+        <translation>
+            <numerusform>%n appareil de moins qu&apos;à la dernière recherche</numerusform>
+            <numerusform>%n appareils de moins qu&apos;à la dernière recherche</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPTable</name>
@@ -4132,16 +4347,16 @@ Fichier : </translation>
         <translation>Actions</translation>
     </message>
     <message>
-        <source>已初始化</source>
-        <translation>Initialisé</translation>
-    </message>
-    <message>
-        <source>未初始化</source>
-        <translation>Non initialisé</translation>
-    </message>
-    <message>
         <source>备注</source>
         <translation>Remarque</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Groupe</translation>
+    </message>
+    <message>
+        <source>新</source>
+        <translation>Nouveau</translation>
     </message>
 </context>
 <context>
@@ -4184,7 +4399,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>添加搜索不到的设备：按IP、按P2P或从收藏夹</source>
-        <translation>Ajoute des appareils qu&apos;une recherche ne trouve pas : par adresse IP, par ID P2P ou depuis les favoris</translation>
+        <translation>Ajoute des appareils qu&apos;une recherche ne trouve pas&#xa0;: par adresse IP, par ID P2P ou depuis les favoris</translation>
     </message>
     <message>
         <source>IP设备</source>
@@ -4221,8 +4436,8 @@ Fichier : </translation>
     <message numerus="yes">
         <source>勾选的设备中有 %n 台正在升级，不能修改IP地址</source>
         <translation>
-            <numerusform>%n appareil sélectionné est en cours de mise à jour : son adresse ne peut pas être modifiée</numerusform>
-            <numerusform>%n appareils sélectionnés sont en cours de mise à jour : leurs adresses ne peuvent pas être modifiées</numerusform>
+            <numerusform>%n appareil sélectionné est en cours de mise à jour&#xa0;: son adresse ne peut pas être modifiée</numerusform>
+            <numerusform>%n appareils sélectionnés sont en cours de mise à jour&#xa0;: leurs adresses ne peuvent pas être modifiées</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4265,7 +4480,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>填入后可在表格中修改，保存时才写入设备。</source>
-        <translation>Les noms peuvent être modifiés dans le tableau. « Enregistrer » les écrit.</translation>
+        <translation>Les noms peuvent être modifiés dans le tableau. «&#xa0;Enregistrer&#xa0;» les écrit.</translation>
     </message>
     <message numerus="yes">
         <source>当前设备的 %n 个通道</source>
@@ -4283,7 +4498,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>命名规则：{n} 序号，{model} 型号，{ip4} 地址的最后一段</source>
-        <translation>Motif : {n}, {model}, {ip4} (fin de l&apos;adresse)</translation>
+        <translation>Motif&#xa0;: {n}, {model}, {ip4} (fin de l&apos;adresse)</translation>
     </message>
     <message>
         <source>命名规则</source>
@@ -4326,7 +4541,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>录像机，不会执行；其通道请单独命名</source>
-        <translation>Enregistreur : ignoré. Ouvrez-le pour nommer ses canaux</translation>
+        <translation>Enregistreur&#xa0;: ignoré. Ouvrez-le pour nommer ses canaux</translation>
     </message>
 </context>
 <context>
@@ -4415,7 +4630,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>：</source>
-        <translation> : </translation>
+        <translation>&#xa0;: </translation>
     </message>
     <message>
         <source>剩余不到 1 分钟</source>
@@ -4473,7 +4688,7 @@ Fichier : </translation>
     <message>
         <source>%1 %2 / %3</source>
         <extracomment>A running batch: title, finished devices, all devices.</extracomment>
-        <translation>%1 : %2 sur %3 traités</translation>
+        <translation>%1&#xa0;: %2 sur %3 traités</translation>
     </message>
     <message numerus="yes">
         <source>，另有 %n 台此前未成功</source>
@@ -4499,7 +4714,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>%1：%2，继续可能锁定账户。是否继续？</source>
-        <translation>%1 : %2. Continuer peut verrouiller des comptes. Continuer ?</translation>
+        <translation>%1&#xa0;: %2. Continuer peut verrouiller des comptes. Continuer&#xa0;?</translation>
     </message>
     <message>
         <source>停止后，可在设备的右键菜单中选择账号，再重试失败的设备（Esc）</source>
@@ -4507,11 +4722,11 @@ Fichier : </translation>
     </message>
     <message>
         <source>重试失败：%1</source>
-        <translation>Relancer les échecs : %1</translation>
+        <translation>Relancer les échecs&#xa0;: %1</translation>
     </message>
     <message>
         <source>对“%1”中失败和未执行的设备再试一次，密码错误等不会因重试而成功的除外</source>
-        <translation>Relance « %1 » pour les appareils en échec ou non exécutés. Les appareils pour lesquels une relance ne peut pas aider, par exemple après un mot de passe incorrect avec le même compte, sont exclus.</translation>
+        <translation>Relance «&#xa0;%1&#xa0;» pour les appareils en échec ou non exécutés. Les appareils pour lesquels une relance ne peut pas aider, par exemple après un mot de passe incorrect avec le même compte, sont exclus.</translation>
     </message>
     <message>
         <source>选中未成功</source>
@@ -4641,6 +4856,10 @@ Fichier : </translation>
         <source>展开</source>
         <translation>Déplier</translation>
     </message>
+    <message>
+        <source>新</source>
+        <translation>Nouveau</translation>
+    </message>
 </context>
 <context>
     <name>OV_MediaPlayer</name>
@@ -4735,7 +4954,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>将向下列设备发送命令：</source>
-        <translation>La commande sera envoyée à ces appareils :</translation>
+        <translation>La commande sera envoyée à ces appareils&#xa0;:</translation>
     </message>
     <message>
         <source>执行</source>
@@ -4775,8 +4994,8 @@ Fichier : </translation>
         <source>将通道 %1 的编码配置复制到选中的 %n 台设备的同一通道？</source>
         <extracomment>%1 is a channel number.</extracomment>
         <translation>
-            <numerusform>Copier les paramètres d&apos;encodage du canal %1 sur le même canal de l&apos;appareil sélectionné ?</numerusform>
-            <numerusform>Copier les paramètres d&apos;encodage du canal %1 sur le même canal des %n appareils sélectionnés ?</numerusform>
+            <numerusform>Copier les paramètres d&apos;encodage du canal %1 sur le même canal de l&apos;appareil sélectionné&#xa0;?</numerusform>
+            <numerusform>Copier les paramètres d&apos;encodage du canal %1 sur le même canal des %n appareils sélectionnés&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -4874,8 +5093,8 @@ Fichier : </translation>
         <source>%n 台设备IP地址冲突</source>
         <extracomment>Number of devices whose address another device has, too.</extracomment>
         <translation>
-            <numerusform>Conflit d&apos;adresses IP : %n appareil</numerusform>
-            <numerusform>Conflit d&apos;adresses IP : %n appareils</numerusform>
+            <numerusform>Conflit d&apos;adresses IP&#xa0;: %n appareil</numerusform>
+            <numerusform>Conflit d&apos;adresses IP&#xa0;: %n appareils</numerusform>
         </translation>
     </message>
     <message>
@@ -4891,17 +5110,6 @@ Fichier : </translation>
         <translation>Exporter</translation>
     </message>
     <message>
-        <source>查看原因</source>
-        <translation>Afficher les raisons</translation>
-    </message>
-    <message numerus="yes">
-        <source>找到的设备比上次搜索少 %n 台</source>
-        <translation>
-            <numerusform>%n appareil de moins qu&apos;à la dernière recherche</numerusform>
-            <numerusform>%n appareils de moins qu&apos;à la dernière recherche</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>修改IP地址</source>
         <translation>Modifier les adresses IP</translation>
     </message>
@@ -4913,20 +5121,12 @@ Fichier : </translation>
         <source>查看勾选设备的图像</source>
         <translation>Images des appareils sélectionnés</translation>
     </message>
-    <message>
-        <source>重新搜索</source>
-        <translation>Relancer la recherche</translation>
-    </message>
-    <message>
-        <source>搜索已停止，列表不完整。</source>
-        <translation>La recherche a été arrêtée ; la liste est incomplète.</translation>
-    </message>
 </context>
 <context>
     <name>PageSystemConfig</name>
     <message>
         <source>旧密码正确，等待新密码</source>
-        <translation>Ancien mot de passe correct : en attente du nouveau</translation>
+        <translation>Ancien mot de passe correct&#xa0;: en attente du nouveau</translation>
     </message>
     <message>
         <source>修改密码</source>
@@ -4955,15 +5155,15 @@ Fichier : </translation>
     <message numerus="yes">
         <source>时间已到，%n 台设备的密码没有修改</source>
         <translation>
-            <numerusform>Temps écoulé : le mot de passe de %n appareil n&apos;a pas été changé</numerusform>
-            <numerusform>Temps écoulé : les mots de passe de %n appareils n&apos;ont pas été changés</numerusform>
+            <numerusform>Temps écoulé&#xa0;: le mot de passe de %n appareil n&apos;a pas été changé</numerusform>
+            <numerusform>Temps écoulé&#xa0;: les mots de passe de %n appareils n&apos;ont pas été changés</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>已开始其他操作，%n 台设备的密码没有修改</source>
         <translation>
-            <numerusform>Une autre opération a été lancée : le mot de passe de %n appareil n&apos;a pas été changé</numerusform>
-            <numerusform>Une autre opération a été lancée : les mots de passe de %n appareils n&apos;ont pas été changés</numerusform>
+            <numerusform>Une autre opération a été lancée&#xa0;: le mot de passe de %n appareil n&apos;a pas été changé</numerusform>
+            <numerusform>Une autre opération a été lancée&#xa0;: les mots de passe de %n appareils n&apos;ont pas été changés</numerusform>
         </translation>
     </message>
     <message>
@@ -4972,19 +5172,30 @@ Fichier : </translation>
     </message>
     <message>
         <source>“%1”正在进行，请等待其完成</source>
-        <translation>« %1 » est en cours. Attendez la fin.</translation>
+        <translation>«&#xa0;%1&#xa0;» est en cours. Attendez la fin.</translation>
     </message>
     <message numerus="yes">
         <source>%n 台设备的密码没有修改（%1），已标记</source>
         <extracomment>%1 are the reasons.</extracomment>
         <translation>
-            <numerusform>Mot de passe non changé sur %n appareil (%1) ; il est marqué</numerusform>
-            <numerusform>Mot de passe non changé sur %n appareils (%1) ; ils sont marqués</numerusform>
+            <numerusform>Mot de passe non changé sur %n appareil (%1)&#xa0;; il est marqué</numerusform>
+            <numerusform>Mot de passe non changé sur %n appareils (%1)&#xa0;; ils sont marqués</numerusform>
         </translation>
     </message>
     <message>
         <source>；</source>
-        <translation> ; </translation>
+        <translation>&#xa0;; </translation>
+    </message>
+</context>
+<context>
+    <name>PassphraseDialog</name>
+    <message>
+        <source>加密的设备列表</source>
+        <translation>Liste d&apos;appareils chiffrée</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Phrase secrète</translation>
     </message>
 </context>
 <context>
@@ -5033,7 +5244,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>设备的应答：%1</source>
-        <translation>Réponse de l&apos;appareil : %1</translation>
+        <translation>Réponse de l&apos;appareil&#xa0;: %1</translation>
     </message>
     <message>
         <source>设备没有报告剩余的尝试次数。继续输错可能锁定账户。</source>
@@ -5269,7 +5480,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>找到的 %1 台设备不在本机的任何网段内</source>
-        <translation>Appareils trouvés hors de tous les réseaux de cet ordinateur : %1</translation>
+        <translation>Appareils trouvés hors de tous les réseaux de cet ordinateur&#xa0;: %1</translation>
     </message>
     <message>
         <source>登录它们之前，修改设备的IP地址，或为网卡添加一个同一网段的地址。</source>
@@ -5309,27 +5520,27 @@ Fichier : </translation>
     </message>
     <message>
         <source>无法识别的消息 %1 条</source>
-        <translation>messages illisibles : %1</translation>
+        <translation>messages illisibles&#xa0;: %1</translation>
     </message>
     <message>
         <source>非视频设备的消息 %1 条</source>
-        <translation>messages d&apos;appareils autres que des caméras et enregistreurs : %1</translation>
+        <translation>messages d&apos;appareils autres que des caméras et enregistreurs&#xa0;: %1</translation>
     </message>
     <message>
         <source>没有服务地址的消息 %1 条</source>
-        <translation>messages sans adresse de service : %1</translation>
+        <translation>messages sans adresse de service&#xa0;: %1</translation>
     </message>
     <message>
         <source>服务地址属于其他主机的消息 %1 条</source>
-        <translation>messages avec l&apos;adresse de service d&apos;un autre hôte : %1</translation>
+        <translation>messages avec l&apos;adresse de service d&apos;un autre hôte&#xa0;: %1</translation>
     </message>
     <message>
         <source>设备离开网络的通知 %1 条</source>
-        <translation>messages d&apos;appareils quittant le réseau : %1</translation>
+        <translation>messages d&apos;appareils quittant le réseau&#xa0;: %1</translation>
     </message>
     <message>
         <source>超出数量限制的消息 %1 条</source>
-        <translation>messages au-delà de la limite : %1</translation>
+        <translation>messages au-delà de la limite&#xa0;: %1</translation>
     </message>
     <message>
         <source>，</source>
@@ -5369,7 +5580,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>系统拒绝发送请求：%1</source>
-        <translation>Le système d&apos;exploitation n&apos;a pas envoyé les requêtes : %1</translation>
+        <translation>Le système d&apos;exploitation n&apos;a pas envoyé les requêtes&#xa0;: %1</translation>
     </message>
     <message>
         <source>检查本机的防火墙和网卡的设置。</source>
@@ -5381,7 +5592,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>检查设备是否已通电并连接到同一网络，以及本机的防火墙和交换机是否过滤了应答。也可以在搜索设置中按地址搜索。</source>
-        <translation>Vérifiez que les appareils sont sous tension et dans le même réseau, et qu&apos;aucun pare-feu ni switch ne filtre leurs réponses. Vous pouvez aussi rechercher par adresse : voir les paramètres de recherche.</translation>
+        <translation>Vérifiez que les appareils sont sous tension et dans le même réseau, et qu&apos;aucun pare-feu ni switch ne filtre leurs réponses. Vous pouvez aussi rechercher par adresse&#xa0;: voir les paramètres de recherche.</translation>
     </message>
     <message>
         <source>找到 %1 台设备，比上次搜索少 %2 台。</source>
@@ -5389,7 +5600,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>找到 %1 台设备。</source>
-        <translation>Appareils trouvés : %1.</translation>
+        <translation>Appareils trouvés&#xa0;: %1.</translation>
     </message>
     <message>
         <source>没有找到设备。</source>
@@ -5463,7 +5674,111 @@ Fichier : </translation>
     <name>Shell</name>
     <message>
         <source>无法打开模拟站点：</source>
-        <translation>Le site de démo n&apos;a pas pu être ouvert :</translation>
+        <translation>Le site de démo n&apos;a pas pu être ouvert&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFile</name>
+    <message>
+        <source>文件不是现场文件，或者已损坏</source>
+        <translation>Le fichier n&apos;est pas un fichier de site, ou il est endommagé</translation>
+    </message>
+    <message>
+        <source>现场文件由更新的版本保存，无法读取</source>
+        <translation>Le fichier de site provient d&apos;une version plus récente et ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>现场文件的设备超过 %1 台</source>
+        <translation>Le fichier de site a plus de %1 appareils</translation>
+    </message>
+    <message>
+        <source>现场文件中的名称无效</source>
+        <translation>Le nom dans le fichier de site n&apos;est pas valide</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备的 %2 无效</source>
+        <translation>Appareil %1 du fichier de site : %2 n&apos;est pas valide</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备重复</source>
+        <translation>L&apos;appareil %1 du fichier de site est en double</translation>
+    </message>
+    <message>
+        <source>无法打开文件</source>
+        <translation>Le fichier n&apos;a pas pu être ouvert</translation>
+    </message>
+    <message>
+        <source>文件过大</source>
+        <translation>Le fichier est trop volumineux</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFiles</name>
+    <message>
+        <source>现场文件 (*.site)</source>
+        <translation>Fichiers de site (*.site)</translation>
+    </message>
+    <message>
+        <source>打开现场</source>
+        <translation>Ouvrir un site</translation>
+    </message>
+    <message numerus="yes">
+        <source>已打开现场“%1”，共 %n 台设备</source>
+        <translation>
+            <numerusform>Site « %1 » ouvert, avec %n appareil</numerusform>
+            <numerusform>Site « %1 » ouvert, avec %n appareils</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>无法打开现场 %1：%2</source>
+        <translation>Le site %1 ne peut pas être ouvert : %2</translation>
+    </message>
+    <message>
+        <source>现场</source>
+        <translation>Site</translation>
+    </message>
+    <message>
+        <source>现场另存为</source>
+        <translation>Enregistrer le site sous</translation>
+    </message>
+    <message>
+        <source>现场已保存到 %1</source>
+        <translation>Le site est enregistré dans %1</translation>
+    </message>
+    <message>
+        <source>文件不含密码。</source>
+        <translation>Le fichier ne contient pas de mots de passe.</translation>
+    </message>
+    <message>
+        <source>新建现场后，已知设备和分组从列表中清除。未保存的更改会保留在最近的现场中。</source>
+        <translation>Un nouveau site retire de la liste les appareils connus et les groupes. Les modifications non enregistrées restent dans les sites récents.</translation>
+    </message>
+    <message>
+        <source>新建</source>
+        <translation>Nouveau</translation>
+    </message>
+    <message>
+        <source>新建现场</source>
+        <translation>Nouveau site</translation>
+    </message>
+</context>
+<context>
+    <name>SiteMenu</name>
+    <message>
+        <source>现场</source>
+        <translation>Site</translation>
+    </message>
+    <message>
+        <source>打开现场…</source>
+        <translation>Ouvrir un site…</translation>
+    </message>
+    <message>
+        <source>现场另存为…</source>
+        <translation>Enregistrer le site sous…</translation>
+    </message>
+    <message>
+        <source>新建现场…</source>
+        <translation>Nouveau site…</translation>
     </message>
 </context>
 <context>
@@ -5478,7 +5793,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>抓图失败，图片无法写入：%1</source>
-        <translation>Échec de la capture : le fichier n&apos;a pas pu être écrit : %1</translation>
+        <translation>Échec de la capture&#xa0;: le fichier n&apos;a pas pu être écrit&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -5664,7 +5979,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>程序无法与设备通信。可在“修改IP”页打开演示站点。</source>
-        <translation>Le programme ne peut pas communiquer avec les appareils. Ouvrez le site de démo sur la page « Modifier l&apos;IP ».</translation>
+        <translation>Le programme ne peut pas communiquer avec les appareils. Ouvrez le site de démo sur la page «&#xa0;Modifier l&apos;IP&#xa0;».</translation>
     </message>
     <message>
         <source>清除失败标记</source>
@@ -5687,7 +6002,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>失败和未执行的设备不在此列表中：没有初始化、没有IPv4地址或不再被找到。请查看“修改IP”页和批处理记录。</source>
-        <translation>Les appareils en échec ou non exécutés ne sont pas dans cette arborescence : ils ne sont pas initialisés, n&apos;ont pas d&apos;adresse IPv4 ou n&apos;ont pas été retrouvés. Voir la page « Modifier l&apos;IP » et Lots.</translation>
+        <translation>Les appareils en échec ou non exécutés ne sont pas dans cette arborescence&#xa0;: ils ne sont pas initialisés, n&apos;ont pas d&apos;adresse IPv4 ou n&apos;ont pas été retrouvés. Voir la page «&#xa0;Modifier l&apos;IP&#xa0;» et Lots.</translation>
     </message>
 </context>
 <context>
@@ -5895,8 +6210,8 @@ Fichier : </translation>
     <message numerus="yes">
         <source>时间已到，%n 台设备的密码没有修改。</source>
         <translation>
-            <numerusform>Temps écoulé : le mot de passe de %n appareil n&apos;a pas été changé. </numerusform>
-            <numerusform>Temps écoulé : les mots de passe de %n appareils n&apos;ont pas été changés. </numerusform>
+            <numerusform>Temps écoulé&#xa0;: le mot de passe de %n appareil n&apos;a pas été changé. </numerusform>
+            <numerusform>Temps écoulé&#xa0;: les mots de passe de %n appareils n&apos;ont pas été changés. </numerusform>
         </translation>
     </message>
     <message>
@@ -5928,7 +6243,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>第一步：验证旧密码</source>
-        <translation>Étape 1 : vérifier l&apos;ancien mot de passe</translation>
+        <translation>Étape 1&#xa0;: vérifier l&apos;ancien mot de passe</translation>
     </message>
     <message>
         <source>旧密码</source>
@@ -5940,7 +6255,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>第二步：设置新密码</source>
-        <translation>Étape 2 : définir le nouveau mot de passe</translation>
+        <translation>Étape 2&#xa0;: définir le nouveau mot de passe</translation>
     </message>
     <message>
         <source>新密码</source>
@@ -5993,8 +6308,8 @@ Fichier : </translation>
     <message numerus="yes">
         <source>确定要重启选中的 %n 台设备吗？</source>
         <translation>
-            <numerusform>Redémarrer l&apos;appareil sélectionné ?</numerusform>
-            <numerusform>Redémarrer les %n appareils sélectionnés ?</numerusform>
+            <numerusform>Redémarrer l&apos;appareil sélectionné&#xa0;?</numerusform>
+            <numerusform>Redémarrer les %n appareils sélectionnés&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -6004,8 +6319,8 @@ Fichier : </translation>
     <message numerus="yes">
         <source>确定要将选中的 %n 台设备恢复出厂设置吗？</source>
         <translation>
-            <numerusform>Réinitialiser l&apos;appareil sélectionné aux paramètres d&apos;usine ?</numerusform>
-            <numerusform>Réinitialiser les %n appareils sélectionnés aux paramètres d&apos;usine ?</numerusform>
+            <numerusform>Réinitialiser l&apos;appareil sélectionné aux paramètres d&apos;usine&#xa0;?</numerusform>
+            <numerusform>Réinitialiser les %n appareils sélectionnés aux paramètres d&apos;usine&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -6014,13 +6329,13 @@ Fichier : </translation>
     </message>
     <message>
         <source>将对下列设备执行“%1”：</source>
-        <translation>« %1 » sera appliqué à ces appareils :</translation>
+        <translation>«&#xa0;%1&#xa0;» sera appliqué à ces appareils&#xa0;:</translation>
     </message>
     <message numerus="yes">
         <source>更新周期为 0 分钟，设备可能不再校时。仍要应用到选中的 %n 台设备吗？</source>
         <translation>
-            <numerusform>L&apos;intervalle de mise à l&apos;heure est de 0 minute : l&apos;appareil risque de ne plus mettre son heure à jour. L&apos;appliquer à l&apos;appareil sélectionné ?</numerusform>
-            <numerusform>L&apos;intervalle de mise à l&apos;heure est de 0 minute : les appareils risquent de ne plus mettre leur heure à jour. L&apos;appliquer aux %n appareils sélectionnés ?</numerusform>
+            <numerusform>L&apos;intervalle de mise à l&apos;heure est de 0 minute&#xa0;: l&apos;appareil risque de ne plus mettre son heure à jour. L&apos;appliquer à l&apos;appareil sélectionné&#xa0;?</numerusform>
+            <numerusform>L&apos;intervalle de mise à l&apos;heure est de 0 minute&#xa0;: les appareils risquent de ne plus mettre leur heure à jour. L&apos;appliquer aux %n appareils sélectionnés&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -6158,8 +6473,8 @@ Fichier : </translation>
     <message numerus="yes">
         <source>另有 %n 台不在此列表中，见批处理记录。</source>
         <translation>
-            <numerusform> %n autre n&apos;est pas dans cette liste : voir Lots.</numerusform>
-            <numerusform> %n autres ne sont pas dans cette liste : voir Lots.</numerusform>
+            <numerusform> %n autre n&apos;est pas dans cette liste&#xa0;: voir Lots.</numerusform>
+            <numerusform> %n autres ne sont pas dans cette liste&#xa0;: voir Lots.</numerusform>
         </translation>
     </message>
 </context>
@@ -6237,7 +6552,7 @@ Fichier : </translation>
     <name>TemplateText</name>
     <message>
         <source>设备的IP地址；网页端口不是80时写成“地址:网页端口”。必填。</source>
-        <translation>Adresse IP de l&apos;appareil, ou « adresse:port web » si le port web n&apos;est pas 80. Obligatoire.</translation>
+        <translation>Adresse IP de l&apos;appareil, ou «&#xa0;adresse:port web&#xa0;» si le port web n&apos;est pas 80. Obligatoire.</translation>
     </message>
     <message>
         <source>设备的登录端口，只用于检查账号，不用于发送命令。</source>
@@ -6253,7 +6568,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>以“/”开头的命令。设备接受的命令会发送两次。必填。</source>
-        <translation>Commande commençant par « / ». L&apos;appareil reçoit deux fois une commande acceptée. Obligatoire.</translation>
+        <translation>Commande commençant par «&#xa0;/&#xa0;». L&apos;appareil reçoit deux fois une commande acceptée. Obligatoire.</translation>
     </message>
     <message>
         <source>协议</source>
@@ -6269,7 +6584,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>由程序填写：设备的应答，图片或录像的文件路径，或以“Error:”开头的失败原因。</source>
-        <translation>Rempli par le programme : la réponse, le chemin de l&apos;image ou de l&apos;enregistrement, ou « Error: » et la raison.</translation>
+        <translation>Rempli par le programme&#xa0;: la réponse, le chemin de l&apos;image ou de l&apos;enregistrement, ou «&#xa0;Error:&#xa0;» et la raison.</translation>
     </message>
     <message>
         <source>命令</source>
@@ -6304,19 +6619,19 @@ Fichier : </translation>
     <name>UpgradeBatches</name>
     <message>
         <source>%1：%2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message numerus="yes">
         <source>%n 台设备不能用此文件升级，请查看结果</source>
         <extracomment>Of the devices that a file was chosen for.</extracomment>
         <translation>
-            <numerusform>%n appareil ne peut pas être mis à jour avec ce fichier : voir Résultat</numerusform>
-            <numerusform>%n appareils ne peuvent pas être mis à jour avec ce fichier : voir Résultat</numerusform>
+            <numerusform>%n appareil ne peut pas être mis à jour avec ce fichier&#xa0;: voir Résultat</numerusform>
+            <numerusform>%n appareils ne peuvent pas être mis à jour avec ce fichier&#xa0;: voir Résultat</numerusform>
         </translation>
     </message>
     <message>
         <source>第%1行 %2</source>
-        <translation>Ligne %1 : %2</translation>
+        <translation>Ligne %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -6355,7 +6670,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>升级结果无法保存：%1</source>
-        <translation>Les résultats n&apos;ont pas pu être enregistrés : %1</translation>
+        <translation>Les résultats n&apos;ont pas pu être enregistrés&#xa0;: %1</translation>
     </message>
     <message>
         <source>升级结果已保存到文件：%1</source>
@@ -6374,11 +6689,11 @@ Fichier : </translation>
     <name>UpgradeDocuments</name>
     <message>
         <source>%1：%2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1：成功%2台，失败%3台。</source>
-        <translation>%1 : %2 mis à jour, %3 échecs. </translation>
+        <translation>%1&#xa0;: %2 mis à jour, %3 échecs. </translation>
     </message>
 </context>
 <context>
@@ -6389,7 +6704,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>%1，不会执行</source>
-        <translation>%1 : ignoré</translation>
+        <translation>%1&#xa0;: ignoré</translation>
     </message>
     <message>
         <source>%1（%2）</source>
@@ -6448,7 +6763,7 @@ Fichier : </translation>
     <message>
         <source>升级：%1 / %2</source>
         <extracomment>Finished devices of an upgrade, and all of them.</extracomment>
-        <translation>Mise à jour : %1 sur %2 traités</translation>
+        <translation>Mise à jour&#xa0;: %1 sur %2 traités</translation>
     </message>
 </context>
 <context>
@@ -6531,7 +6846,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>已开始写入，无法停止</source>
-        <translation>Écriture commencée : arrêt impossible</translation>
+        <translation>Écriture commencée&#xa0;: arrêt impossible</translation>
     </message>
     <message>
         <source>名称</source>
@@ -6570,7 +6885,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>由程序填写：升级前后的版本，或失败原因。</source>
-        <translation>Rempli par le programme : les versions avant et après la mise à jour, ou la raison de l&apos;échec.</translation>
+        <translation>Rempli par le programme&#xa0;: les versions avant et après la mise à jour, ou la raison de l&apos;échec.</translation>
     </message>
     <message>
         <source>升级</source>
@@ -6605,31 +6920,31 @@ Fichier : </translation>
     <name>UpgradeTexts</name>
     <message>
         <source>已开始写入，无法停止</source>
-        <translation>Écriture commencée : arrêt impossible</translation>
+        <translation>Écriture commencée&#xa0;: arrêt impossible</translation>
     </message>
     <message>
         <source>%1（%2%）</source>
-        <translation>%1 à %2 %</translation>
+        <translation>%1 à %2&#xa0;%</translation>
     </message>
     <message>
         <source>尚未停止，正在重试</source>
-        <translation>Pas encore arrêté : nouvel essai</translation>
+        <translation>Pas encore arrêté&#xa0;: nouvel essai</translation>
     </message>
     <message>
         <source>固件已写入，设备正在重启，无法停止</source>
-        <translation>Firmware écrit, l&apos;appareil redémarre : arrêt impossible</translation>
+        <translation>Firmware écrit, l&apos;appareil redémarre&#xa0;: arrêt impossible</translation>
     </message>
     <message>
         <source>升级成功：%1</source>
-        <translation>Mis à jour : %1</translation>
+        <translation>Mis à jour&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1：未读到版本号</source>
-        <translation>%1 : aucune version communiquée</translation>
+        <translation>%1&#xa0;: aucune version communiquée</translation>
     </message>
     <message>
         <source>%1：现为 %2，升级前的版本未知</source>
-        <translation>%1 : maintenant %2, version précédente inconnue</translation>
+        <translation>%1&#xa0;: maintenant %2, version précédente inconnue</translation>
     </message>
 </context>
 <context>
@@ -6704,7 +7019,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>正在写入，请勿断电</source>
-        <translation>Écriture : n&apos;éteignez pas l&apos;appareil</translation>
+        <translation>Écriture&#xa0;: n&apos;éteignez pas l&apos;appareil</translation>
     </message>
     <message>
         <source>正在发送文件</source>
@@ -6808,11 +7123,11 @@ Fichier : </translation>
     </message>
     <message>
         <source>已停止，设备未改动</source>
-        <translation>Arrêté : appareil non modifié</translation>
+        <translation>Arrêté&#xa0;: appareil non modifié</translation>
     </message>
     <message>
         <source>程序退出，升级中断</source>
-        <translation>Interrompu : le programme a été fermé</translation>
+        <translation>Interrompu&#xa0;: le programme a été fermé</translation>
     </message>
     <message>
         <source>未知错误 %1</source>
@@ -6865,8 +7180,8 @@ Fichier : </translation>
         <source>%n 台设备未升级成功，请查看结果</source>
         <extracomment>Devices that were upgraded.</extracomment>
         <translation>
-            <numerusform>%n appareil n&apos;a pas été mis à jour : voir Résultat</numerusform>
-            <numerusform>%n appareils n&apos;ont pas été mis à jour : voir Résultat</numerusform>
+            <numerusform>%n appareil n&apos;a pas été mis à jour&#xa0;: voir Résultat</numerusform>
+            <numerusform>%n appareils n&apos;ont pas été mis à jour&#xa0;: voir Résultat</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -6895,7 +7210,7 @@ Fichier : </translation>
     <message>
         <source>已停止：升级成功 %1 台，失败 %2 台，未执行 %3 台</source>
         <extracomment>Devices that were to be upgraded.</extracomment>
-        <translation>Arrêté : %1 mis à jour, %2 échecs, %3 non exécutés</translation>
+        <translation>Arrêté&#xa0;: %1 mis à jour, %2 échecs, %3 non exécutés</translation>
     </message>
 </context>
 <context>
@@ -7008,11 +7323,11 @@ Fichier : </translation>
     <name>VideoItem</name>
     <message>
         <source>无法显示画面：Shaders 文件夹中的文件缺失或无法使用</source>
-        <translation>Pas d&apos;image : des fichiers du dossier Shaders manquent ou sont endommagés</translation>
+        <translation>Pas d&apos;image&#xa0;: des fichiers du dossier Shaders manquent ou sont endommagés</translation>
     </message>
     <message>
         <source>无法显示画面：显卡不支持这样大的画面</source>
-        <translation>Pas d&apos;image : trop grande pour la carte graphique</translation>
+        <translation>Pas d&apos;image&#xa0;: trop grande pour la carte graphique</translation>
     </message>
 </context>
 <context>
@@ -7023,7 +7338,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>播放失败：%1</source>
-        <translation>Échec de la lecture : %1</translation>
+        <translation>Échec de la lecture&#xa0;: %1</translation>
     </message>
     <message>
         <source>与设备的连接已中断</source>
@@ -7069,7 +7384,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>无法打开浏览器，设备网页：%1</source>
-        <translation>Le navigateur n&apos;a pas pu être ouvert. Page web de l&apos;appareil : %1</translation>
+        <translation>Le navigateur n&apos;a pas pu être ouvert. Page web de l&apos;appareil&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -7080,7 +7395,7 @@ Fichier : </translation>
     </message>
     <message>
         <source>已开始写入的设备会自行完成升级，请勿断电。</source>
-        <translation> Les appareils en train d&apos;écrire le firmware terminent d&apos;eux-mêmes : ne les éteignez pas.</translation>
+        <translation> Les appareils en train d&apos;écrire le firmware terminent d&apos;eux-mêmes&#xa0;: ne les éteignez pas.</translation>
     </message>
     <message numerus="yes">
         <source>已信任 %n 个证书，请重试刚才的操作</source>
@@ -7095,26 +7410,26 @@ Fichier : </translation>
     </message>
     <message>
         <source>账号无法保存，只用到下次搜索：%1</source>
-        <translation>Le compte ne peut pas être enregistré et n&apos;est utilisé que jusqu&apos;à la prochaine recherche : %1</translation>
+        <translation>Le compte ne peut pas être enregistré et n&apos;est utilisé que jusqu&apos;à la prochaine recherche&#xa0;: %1</translation>
     </message>
     <message>
         <source>“%1”正在进行。退出后，其余设备不会更改。</source>
-        <translation>« %1 » est en cours. Si vous quittez, les appareils restants ne seront pas modifiés.</translation>
+        <translation>«&#xa0;%1&#xa0;» est en cours. Si vous quittez, les appareils restants ne seront pas modifiés.</translation>
     </message>
 </context>
 <context>
     <name>WorkbookResults</name>
     <message>
         <source>已停止执行：成功%1行，失败%2行，未执行%3行。</source>
-        <translation>Arrêté : %1 lignes réussies, %2 échecs, %3 non envoyées.</translation>
+        <translation>Arrêté&#xa0;: %1 lignes réussies, %2 échecs, %3 non envoyées.</translation>
     </message>
     <message>
         <source>执行完成：成功%1行，失败%2行。</source>
-        <translation>Terminé : %1 lignes réussies, %2 échecs.</translation>
+        <translation>Terminé&#xa0;: %1 lignes réussies, %2 échecs.</translation>
     </message>
     <message>
         <source>执行结果无法保存：%1</source>
-        <translation>Les résultats n&apos;ont pas pu être enregistrés : %1</translation>
+        <translation>Les résultats n&apos;ont pas pu être enregistrés&#xa0;: %1</translation>
     </message>
     <message>
         <source>执行结果已保存到文件：%1</source>

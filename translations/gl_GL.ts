@@ -2101,6 +2101,30 @@ Prema co botón dereito para copiar o resultado</translation>
         <source>字符 %1 在此格式中无法读回</source>
         <translation>O carácter %1 non se pode volver ler deste formato</translation>
     </message>
+    <message>
+        <source>加密列表的内容无效</source>
+        <translation>O contido da lista cifrada non é válido</translation>
+    </message>
+    <message>
+        <source>文件不是加密的设备列表，或者不完整</source>
+        <translation>O ficheiro non é unha lista de dispositivos cifrada ou está incompleto</translation>
+    </message>
+    <message>
+        <source>加密列表的版本不受支持</source>
+        <translation>Esta versión das listas cifradas non é compatible</translation>
+    </message>
+    <message>
+        <source>加密列表的参数无效</source>
+        <translation>Os parámetros da lista cifrada non son válidos</translation>
+    </message>
+    <message>
+        <source>列表已加密，需要密码短语</source>
+        <translation>A lista está cifrada: precísase unha frase de contrasinal</translation>
+    </message>
+    <message>
+        <source>密码短语错误，或者文件已损坏</source>
+        <translation>Frase de contrasinal incorrecta, ou o ficheiro está danado</translation>
+    </message>
 </context>
 <context>
     <name>DeviceMenu</name>
@@ -2238,6 +2262,52 @@ Prema co botón dereito para copiar o resultado</translation>
     <message>
         <source>正在升级</source>
         <translation>Actualización en curso</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceStateCell</name>
+    <message>
+        <source>未找到</source>
+        <translation>Non atopado</translation>
+    </message>
+    <message>
+        <source>待确认</source>
+        <translation>Por confirmar</translation>
+    </message>
+    <message>
+        <source>已初始化</source>
+        <translation>Inicializado</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>Sen inicializar</translation>
+    </message>
+    <message>
+        <source>最近一次搜索没有找到该设备</source>
+        <translation>Non atopado na última busca</translation>
+    </message>
+    <message>
+        <source>上次的列表中的设备，尚未找到</source>
+        <translation>Dispositivo da última lista, aínda non atopado</translation>
+    </message>
+    <message>
+        <source>最后一次找到：%1</source>
+        <translation>Atopado por última vez: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DroppedFiles</name>
+    <message>
+        <source>一次只能拖入一个文件</source>
+        <translation>Só se pode arrastrar un ficheiro de cada vez á xanela</translation>
+    </message>
+    <message>
+        <source>拖入的不是本机上的文件</source>
+        <translation>Non é un ficheiro deste equipo</translation>
+    </message>
+    <message>
+        <source>不支持的文件：%1。可以拖入设备列表（.xlsx、.csv、.xml、.devlist）或现场文件（.site）</source>
+        <translation>Ficheiro non compatible: %1. Arrastre á xanela unha lista de dispositivos (.xlsx, .csv, .xml, .devlist) ou un ficheiro de sitio (.site)</translation>
     </message>
 </context>
 <context>
@@ -2559,6 +2629,42 @@ Prema co botón dereito para copiar o resultado</translation>
         <source>文件中的密码是明文。已保存账号的密码不导出。</source>
         <translation>Os contrasinais do ficheiro están en texto sen cifrar. Os das contas gardadas non se exportan.</translation>
     </message>
+    <message>
+        <source>文件不含密码。导入前须在文件中填写密码。</source>
+        <translation>O ficheiro non contén contrasinais. Introdúzaos antes de importalo.</translation>
+    </message>
+    <message>
+        <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
+        <translation>Toda a lista cífrase coa frase de contrasinal e só esta ferramenta pode lela. Non se pode recuperar sen a frase de contrasinal. Os contrasinais das contas gardadas non se exportan.</translation>
+    </message>
+    <message>
+        <source>完整列表</source>
+        <translation>Lista completa</translation>
+    </message>
+    <message>
+        <source>不含密码</source>
+        <translation>Sen contrasinais</translation>
+    </message>
+    <message>
+        <source>加密（.devlist）</source>
+        <translation>Cifrada (.devlist)</translation>
+    </message>
+    <message>
+        <source>密码短语至少 %1 个字符</source>
+        <translation>A frase de contrasinal precisa polo menos %1 caracteres</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Frase de contrasinal</translation>
+    </message>
+    <message>
+        <source>两次输入不一致</source>
+        <translation>Os dous textos son distintos</translation>
+    </message>
+    <message>
+        <source>再次输入密码短语</source>
+        <translation>Repita a frase de contrasinal</translation>
+    </message>
 </context>
 <context>
     <name>FailedMarks</name>
@@ -2623,6 +2729,17 @@ Prema co botón dereito para copiar o resultado</translation>
     <message>
         <source>从收藏夹中删除</source>
         <translation>Elimina este dispositivo dos favoritos</translation>
+    </message>
+</context>
+<context>
+    <name>FileDrop</name>
+    <message>
+        <source>请先关闭对话框，再拖入文件</source>
+        <translation>Peche o cadro de diálogo antes de arrastrar un ficheiro á xanela</translation>
+    </message>
+    <message>
+        <source>松开鼠标，导入设备列表或打开现场</source>
+        <translation>Solte para importar unha lista de dispositivos ou abrir un sitio</translation>
     </message>
 </context>
 <context>
@@ -2833,6 +2950,28 @@ Prema co botón dereito para copiar o resultado</translation>
     <message>
         <source>没有设备</source>
         <translation>Ningún dispositivo</translation>
+    </message>
+</context>
+<context>
+    <name>GroupDialog</name>
+    <message>
+        <source>保存</source>
+        <translation>Gardar</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Grupo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备</source>
+        <translation>
+            <numerusform>%n dispositivo</numerusform>
+            <numerusform>%n dispositivos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>不属于任何分组</source>
+        <translation>Ningún grupo</translation>
     </message>
 </context>
 <context>
@@ -3347,6 +3486,41 @@ Prema co botón dereito para copiar o resultado</translation>
     <message>
         <source>提示</source>
         <translation>Observacións</translation>
+    </message>
+</context>
+<context>
+    <name>KnownDevices</name>
+    <message>
+        <source>上次的设备列表 %1 无法读取：%2</source>
+        <translation>Non se pode ler a última lista de dispositivos %1: %2</translation>
+    </message>
+    <message>
+        <source>分组名称最多 %1 个字符</source>
+        <translation>O nome dun grupo ten como máximo %1 caracteres</translation>
+    </message>
+    <message>
+        <source>P2P设备不能分组</source>
+        <translation>Os dispositivos P2P non poden estar nun grupo</translation>
+    </message>
+    <message>
+        <source>现场最多 %1 台设备</source>
+        <translation>Un sitio ten como máximo %1 dispositivos</translation>
+    </message>
+    <message>
+        <source>现场无法保存：%1</source>
+        <translation>Non se pode gardar o sitio: %1</translation>
+    </message>
+    <message>
+        <source>设备列表无法保存：%1</source>
+        <translation>Non se pode gardar a lista de dispositivos: %1</translation>
+    </message>
+    <message>
+        <source>未保存的现场</source>
+        <translation>Sitio non gardado</translation>
+    </message>
+    <message>
+        <source>原现场无法保存：%1</source>
+        <translation>Non se pode gardar o sitio anterior: %1</translation>
     </message>
 </context>
 <context>
@@ -4092,6 +4266,47 @@ Ficheiro: </translation>
         <source>覆盖文件</source>
         <translation>Substituír ficheiro</translation>
     </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Listas de dispositivos cifradas (*.devlist)</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPGroups</name>
+    <message>
+        <source>分组…</source>
+        <translation>Grupo…</translation>
+    </message>
+    <message>
+        <source>从现场中移除</source>
+        <translation>Retirar do sitio</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPNotice</name>
+    <message>
+        <source>重新搜索</source>
+        <translation>Buscar de novo</translation>
+    </message>
+    <message>
+        <source>查看原因</source>
+        <translation>Mostrar motivos</translation>
+    </message>
+    <message>
+        <source>搜索已停止，列表不完整。</source>
+        <translation>Detívose a busca; a lista está incompleta.</translation>
+    </message>
+    <message>
+        <source>没有找到设备，灰色的是以前找到的设备</source>
+        <translation>Non se atopou ningún dispositivo. Os de cor gris atopáronse antes.</translation>
+    </message>
+    <message numerus="yes">
+        <source>找到的设备比上次搜索少 %n 台</source>
+        <translation>
+            <numerusform>%n dispositivo menos que na última busca</numerusform>
+            <numerusform>%n dispositivos menos que na última busca</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPTable</name>
@@ -4132,16 +4347,16 @@ Ficheiro: </translation>
         <translation>Accións</translation>
     </message>
     <message>
-        <source>已初始化</source>
-        <translation>Inicializado</translation>
-    </message>
-    <message>
-        <source>未初始化</source>
-        <translation>Sen inicializar</translation>
-    </message>
-    <message>
         <source>备注</source>
         <translation>Nota</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Grupo</translation>
+    </message>
+    <message>
+        <source>新</source>
+        <translation>Novo</translation>
     </message>
 </context>
 <context>
@@ -4641,6 +4856,10 @@ Ficheiro: </translation>
         <source>展开</source>
         <translation>Expandir</translation>
     </message>
+    <message>
+        <source>新</source>
+        <translation>Novo</translation>
+    </message>
 </context>
 <context>
     <name>OV_MediaPlayer</name>
@@ -4891,17 +5110,6 @@ Ficheiro: </translation>
         <translation>Exportar</translation>
     </message>
     <message>
-        <source>查看原因</source>
-        <translation>Mostrar motivos</translation>
-    </message>
-    <message numerus="yes">
-        <source>找到的设备比上次搜索少 %n 台</source>
-        <translation>
-            <numerusform>%n dispositivo menos que na última busca</numerusform>
-            <numerusform>%n dispositivos menos que na última busca</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>修改IP地址</source>
         <translation>Cambiar enderezos IP</translation>
     </message>
@@ -4912,14 +5120,6 @@ Ficheiro: </translation>
     <message>
         <source>查看勾选设备的图像</source>
         <translation>Imaxes dos dispositivos seleccionados</translation>
-    </message>
-    <message>
-        <source>重新搜索</source>
-        <translation>Buscar de novo</translation>
-    </message>
-    <message>
-        <source>搜索已停止，列表不完整。</source>
-        <translation>Detívose a busca; a lista está incompleta.</translation>
     </message>
 </context>
 <context>
@@ -4985,6 +5185,17 @@ Ficheiro: </translation>
     <message>
         <source>；</source>
         <translation>; </translation>
+    </message>
+</context>
+<context>
+    <name>PassphraseDialog</name>
+    <message>
+        <source>加密的设备列表</source>
+        <translation>Lista de dispositivos cifrada</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Frase de contrasinal</translation>
     </message>
 </context>
 <context>
@@ -5464,6 +5675,110 @@ Ficheiro: </translation>
     <message>
         <source>无法打开模拟站点：</source>
         <translation>Non se puido abrir o sitio de demo:</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFile</name>
+    <message>
+        <source>文件不是现场文件，或者已损坏</source>
+        <translation>O ficheiro non é un ficheiro de sitio ou está danado</translation>
+    </message>
+    <message>
+        <source>现场文件由更新的版本保存，无法读取</source>
+        <translation>O ficheiro de sitio é dunha versión máis nova e non se pode ler</translation>
+    </message>
+    <message>
+        <source>现场文件的设备超过 %1 台</source>
+        <translation>O ficheiro de sitio ten máis de %1 dispositivos</translation>
+    </message>
+    <message>
+        <source>现场文件中的名称无效</source>
+        <translation>O nome no ficheiro de sitio non é válido</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备的 %2 无效</source>
+        <translation>Dispositivo %1 do ficheiro de sitio: %2 non é válido</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备重复</source>
+        <translation>O dispositivo %1 do ficheiro de sitio está repetido</translation>
+    </message>
+    <message>
+        <source>无法打开文件</source>
+        <translation>Non se puido abrir o ficheiro</translation>
+    </message>
+    <message>
+        <source>文件过大</source>
+        <translation>O ficheiro é demasiado grande</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFiles</name>
+    <message>
+        <source>现场文件 (*.site)</source>
+        <translation>Ficheiros de sitio (*.site)</translation>
+    </message>
+    <message>
+        <source>打开现场</source>
+        <translation>Abrir sitio</translation>
+    </message>
+    <message numerus="yes">
+        <source>已打开现场“%1”，共 %n 台设备</source>
+        <translation>
+            <numerusform>Sitio «%1» aberto, con %n dispositivo</numerusform>
+            <numerusform>Sitio «%1» aberto, con %n dispositivos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>无法打开现场 %1：%2</source>
+        <translation>Non se pode abrir o sitio %1: %2</translation>
+    </message>
+    <message>
+        <source>现场</source>
+        <translation>Sitio</translation>
+    </message>
+    <message>
+        <source>现场另存为</source>
+        <translation>Gardar sitio como</translation>
+    </message>
+    <message>
+        <source>现场已保存到 %1</source>
+        <translation>O sitio gardouse en %1</translation>
+    </message>
+    <message>
+        <source>文件不含密码。</source>
+        <translation>O ficheiro non contén contrasinais.</translation>
+    </message>
+    <message>
+        <source>新建现场后，已知设备和分组从列表中清除。未保存的更改会保留在最近的现场中。</source>
+        <translation>Un sitio novo retira da lista os dispositivos coñecidos e os grupos. Os cambios non gardados consérvanse nos sitios recentes.</translation>
+    </message>
+    <message>
+        <source>新建</source>
+        <translation>Novo</translation>
+    </message>
+    <message>
+        <source>新建现场</source>
+        <translation>Sitio novo</translation>
+    </message>
+</context>
+<context>
+    <name>SiteMenu</name>
+    <message>
+        <source>现场</source>
+        <translation>Sitio</translation>
+    </message>
+    <message>
+        <source>打开现场…</source>
+        <translation>Abrir sitio…</translation>
+    </message>
+    <message>
+        <source>现场另存为…</source>
+        <translation>Gardar sitio como…</translation>
+    </message>
+    <message>
+        <source>新建现场…</source>
+        <translation>Sitio novo…</translation>
     </message>
 </context>
 <context>

@@ -2101,6 +2101,30 @@ Clic destro per copiare il risultato</translation>
         <source>字符 %1 在此格式中无法读回</source>
         <translation>Il carattere %1 non può essere riletto da questo formato</translation>
     </message>
+    <message>
+        <source>加密列表的内容无效</source>
+        <translation>Il contenuto dell&apos;elenco cifrato non è valido</translation>
+    </message>
+    <message>
+        <source>文件不是加密的设备列表，或者不完整</source>
+        <translation>Il file non è un elenco di dispositivi cifrato o è incompleto</translation>
+    </message>
+    <message>
+        <source>加密列表的版本不受支持</source>
+        <translation>Questa versione degli elenchi cifrati non è supportata</translation>
+    </message>
+    <message>
+        <source>加密列表的参数无效</source>
+        <translation>I parametri dell&apos;elenco cifrato non sono validi</translation>
+    </message>
+    <message>
+        <source>列表已加密，需要密码短语</source>
+        <translation>L&apos;elenco è cifrato: è necessaria una passphrase</translation>
+    </message>
+    <message>
+        <source>密码短语错误，或者文件已损坏</source>
+        <translation>Passphrase errata o file danneggiato</translation>
+    </message>
 </context>
 <context>
     <name>DeviceMenu</name>
@@ -2238,6 +2262,52 @@ Clic destro per copiare il risultato</translation>
     <message>
         <source>正在升级</source>
         <translation>Aggiornamento in corso</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceStateCell</name>
+    <message>
+        <source>未找到</source>
+        <translation>Non trovato</translation>
+    </message>
+    <message>
+        <source>待确认</source>
+        <translation>Da confermare</translation>
+    </message>
+    <message>
+        <source>已初始化</source>
+        <translation>Inizializzato</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>Non inizializzato</translation>
+    </message>
+    <message>
+        <source>最近一次搜索没有找到该设备</source>
+        <translation>Non trovato nell&apos;ultima ricerca</translation>
+    </message>
+    <message>
+        <source>上次的列表中的设备，尚未找到</source>
+        <translation>Dispositivo dell&apos;ultimo elenco, non ancora trovato</translation>
+    </message>
+    <message>
+        <source>最后一次找到：%1</source>
+        <translation>Trovato l&apos;ultima volta: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DroppedFiles</name>
+    <message>
+        <source>一次只能拖入一个文件</source>
+        <translation>Si può trascinare nella finestra un solo file alla volta</translation>
+    </message>
+    <message>
+        <source>拖入的不是本机上的文件</source>
+        <translation>Non è un file di questo computer</translation>
+    </message>
+    <message>
+        <source>不支持的文件：%1。可以拖入设备列表（.xlsx、.csv、.xml、.devlist）或现场文件（.site）</source>
+        <translation>File non supportato: %1. Trascinare nella finestra un elenco di dispositivi (.xlsx, .csv, .xml, .devlist) o un file di sito (.site)</translation>
     </message>
 </context>
 <context>
@@ -2559,6 +2629,42 @@ Clic destro per copiare il risultato</translation>
         <source>文件中的密码是明文。已保存账号的密码不导出。</source>
         <translation>Le password nel file sono in chiaro. Le password degli account salvati non vengono esportate.</translation>
     </message>
+    <message>
+        <source>文件不含密码。导入前须在文件中填写密码。</source>
+        <translation>Il file non contiene password. Inserirle prima dell&apos;importazione.</translation>
+    </message>
+    <message>
+        <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
+        <translation>L&apos;intero elenco è cifrato con la passphrase e può essere letto solo da questo strumento. Senza la passphrase non può essere recuperato. Le password degli account salvati non vengono esportate.</translation>
+    </message>
+    <message>
+        <source>完整列表</source>
+        <translation>Elenco completo</translation>
+    </message>
+    <message>
+        <source>不含密码</source>
+        <translation>Senza password</translation>
+    </message>
+    <message>
+        <source>加密（.devlist）</source>
+        <translation>Cifrato (.devlist)</translation>
+    </message>
+    <message>
+        <source>密码短语至少 %1 个字符</source>
+        <translation>La passphrase deve avere almeno %1 caratteri</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Passphrase</translation>
+    </message>
+    <message>
+        <source>两次输入不一致</source>
+        <translation>I due testi sono diversi</translation>
+    </message>
+    <message>
+        <source>再次输入密码短语</source>
+        <translation>Ripetere la passphrase</translation>
+    </message>
 </context>
 <context>
     <name>FailedMarks</name>
@@ -2623,6 +2729,17 @@ Clic destro per copiare il risultato</translation>
     <message>
         <source>从收藏夹中删除</source>
         <translation>Rimuove questo dispositivo dai preferiti</translation>
+    </message>
+</context>
+<context>
+    <name>FileDrop</name>
+    <message>
+        <source>请先关闭对话框，再拖入文件</source>
+        <translation>Chiudere la finestra di dialogo prima di trascinare un file</translation>
+    </message>
+    <message>
+        <source>松开鼠标，导入设备列表或打开现场</source>
+        <translation>Rilasciare per importare un elenco di dispositivi o aprire un sito</translation>
     </message>
 </context>
 <context>
@@ -2833,6 +2950,28 @@ Clic destro per copiare il risultato</translation>
     <message>
         <source>没有设备</source>
         <translation>Nessun dispositivo</translation>
+    </message>
+</context>
+<context>
+    <name>GroupDialog</name>
+    <message>
+        <source>保存</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Gruppo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备</source>
+        <translation>
+            <numerusform>%n dispositivo</numerusform>
+            <numerusform>%n dispositivi</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>不属于任何分组</source>
+        <translation>Nessun gruppo</translation>
     </message>
 </context>
 <context>
@@ -3347,6 +3486,41 @@ Clic destro per copiare il risultato</translation>
     <message>
         <source>提示</source>
         <translation>Note</translation>
+    </message>
+</context>
+<context>
+    <name>KnownDevices</name>
+    <message>
+        <source>上次的设备列表 %1 无法读取：%2</source>
+        <translation>L&apos;ultimo elenco di dispositivi %1 non può essere letto: %2</translation>
+    </message>
+    <message>
+        <source>分组名称最多 %1 个字符</source>
+        <translation>Il nome di un gruppo ha al massimo %1 caratteri</translation>
+    </message>
+    <message>
+        <source>P2P设备不能分组</source>
+        <translation>I dispositivi P2P non possono appartenere a un gruppo</translation>
+    </message>
+    <message>
+        <source>现场最多 %1 台设备</source>
+        <translation>Un sito ha al massimo %1 dispositivi</translation>
+    </message>
+    <message>
+        <source>现场无法保存：%1</source>
+        <translation>Il sito non può essere salvato: %1</translation>
+    </message>
+    <message>
+        <source>设备列表无法保存：%1</source>
+        <translation>L&apos;elenco di dispositivi non può essere salvato: %1</translation>
+    </message>
+    <message>
+        <source>未保存的现场</source>
+        <translation>Sito non salvato</translation>
+    </message>
+    <message>
+        <source>原现场无法保存：%1</source>
+        <translation>Il sito precedente non può essere salvato: %1</translation>
     </message>
 </context>
 <context>
@@ -4092,6 +4266,47 @@ File: </translation>
         <source>覆盖文件</source>
         <translation>Sostituisci file</translation>
     </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Elenchi di dispositivi cifrati (*.devlist)</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPGroups</name>
+    <message>
+        <source>分组…</source>
+        <translation>Gruppo…</translation>
+    </message>
+    <message>
+        <source>从现场中移除</source>
+        <translation>Rimuovi dal sito</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPNotice</name>
+    <message>
+        <source>重新搜索</source>
+        <translation>Cerca di nuovo</translation>
+    </message>
+    <message>
+        <source>查看原因</source>
+        <translation>Mostra motivi</translation>
+    </message>
+    <message>
+        <source>搜索已停止，列表不完整。</source>
+        <translation>La ricerca è stata interrotta; l&apos;elenco è incompleto.</translation>
+    </message>
+    <message>
+        <source>没有找到设备，灰色的是以前找到的设备</source>
+        <translation>Nessun dispositivo trovato. Quelli in grigio sono stati trovati in precedenza.</translation>
+    </message>
+    <message numerus="yes">
+        <source>找到的设备比上次搜索少 %n 台</source>
+        <translation>
+            <numerusform>%n dispositivo in meno rispetto all&apos;ultima ricerca</numerusform>
+            <numerusform>%n dispositivi in meno rispetto all&apos;ultima ricerca</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPTable</name>
@@ -4132,16 +4347,16 @@ File: </translation>
         <translation>Azioni</translation>
     </message>
     <message>
-        <source>已初始化</source>
-        <translation>Inizializzato</translation>
-    </message>
-    <message>
-        <source>未初始化</source>
-        <translation>Non inizializzato</translation>
-    </message>
-    <message>
         <source>备注</source>
         <translation>Nota</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Gruppo</translation>
+    </message>
+    <message>
+        <source>新</source>
+        <translation>Nuovo</translation>
     </message>
 </context>
 <context>
@@ -4641,6 +4856,10 @@ File: </translation>
         <source>展开</source>
         <translation>Espandi</translation>
     </message>
+    <message>
+        <source>新</source>
+        <translation>Nuovo</translation>
+    </message>
 </context>
 <context>
     <name>OV_MediaPlayer</name>
@@ -4891,17 +5110,6 @@ File: </translation>
         <translation>Esporta</translation>
     </message>
     <message>
-        <source>查看原因</source>
-        <translation>Mostra motivi</translation>
-    </message>
-    <message numerus="yes">
-        <source>找到的设备比上次搜索少 %n 台</source>
-        <translation>
-            <numerusform>%n dispositivo in meno rispetto all&apos;ultima ricerca</numerusform>
-            <numerusform>%n dispositivi in meno rispetto all&apos;ultima ricerca</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>修改IP地址</source>
         <translation>Modifica indirizzi IP</translation>
     </message>
@@ -4912,14 +5120,6 @@ File: </translation>
     <message>
         <source>查看勾选设备的图像</source>
         <translation>Immagini dei dispositivi selezionati</translation>
-    </message>
-    <message>
-        <source>重新搜索</source>
-        <translation>Cerca di nuovo</translation>
-    </message>
-    <message>
-        <source>搜索已停止，列表不完整。</source>
-        <translation>La ricerca è stata interrotta; l&apos;elenco è incompleto.</translation>
     </message>
 </context>
 <context>
@@ -4985,6 +5185,17 @@ File: </translation>
     <message>
         <source>；</source>
         <translation>; </translation>
+    </message>
+</context>
+<context>
+    <name>PassphraseDialog</name>
+    <message>
+        <source>加密的设备列表</source>
+        <translation>Elenco di dispositivi cifrato</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Passphrase</translation>
     </message>
 </context>
 <context>
@@ -5464,6 +5675,110 @@ File: </translation>
     <message>
         <source>无法打开模拟站点：</source>
         <translation>Impossibile aprire il sito demo:</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFile</name>
+    <message>
+        <source>文件不是现场文件，或者已损坏</source>
+        <translation>Il file non è un file di sito o è danneggiato</translation>
+    </message>
+    <message>
+        <source>现场文件由更新的版本保存，无法读取</source>
+        <translation>Il file di sito proviene da una versione più recente e non può essere letto</translation>
+    </message>
+    <message>
+        <source>现场文件的设备超过 %1 台</source>
+        <translation>Il file di sito ha più di %1 dispositivi</translation>
+    </message>
+    <message>
+        <source>现场文件中的名称无效</source>
+        <translation>Il nome nel file di sito non è valido</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备的 %2 无效</source>
+        <translation>Dispositivo %1 del file di sito: %2 non è valido</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备重复</source>
+        <translation>Il dispositivo %1 del file di sito è duplicato</translation>
+    </message>
+    <message>
+        <source>无法打开文件</source>
+        <translation>Impossibile aprire il file</translation>
+    </message>
+    <message>
+        <source>文件过大</source>
+        <translation>Il file è troppo grande</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFiles</name>
+    <message>
+        <source>现场文件 (*.site)</source>
+        <translation>File di sito (*.site)</translation>
+    </message>
+    <message>
+        <source>打开现场</source>
+        <translation>Apri sito</translation>
+    </message>
+    <message numerus="yes">
+        <source>已打开现场“%1”，共 %n 台设备</source>
+        <translation>
+            <numerusform>Sito “%1” aperto, con %n dispositivo</numerusform>
+            <numerusform>Sito “%1” aperto, con %n dispositivi</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>无法打开现场 %1：%2</source>
+        <translation>Il sito %1 non può essere aperto: %2</translation>
+    </message>
+    <message>
+        <source>现场</source>
+        <translation>Sito</translation>
+    </message>
+    <message>
+        <source>现场另存为</source>
+        <translation>Salva sito con nome</translation>
+    </message>
+    <message>
+        <source>现场已保存到 %1</source>
+        <translation>Il sito è stato salvato in %1</translation>
+    </message>
+    <message>
+        <source>文件不含密码。</source>
+        <translation>Il file non contiene password.</translation>
+    </message>
+    <message>
+        <source>新建现场后，已知设备和分组从列表中清除。未保存的更改会保留在最近的现场中。</source>
+        <translation>Un nuovo sito rimuove dall&apos;elenco i dispositivi noti e i gruppi. Le modifiche non salvate restano nei siti recenti.</translation>
+    </message>
+    <message>
+        <source>新建</source>
+        <translation>Nuovo</translation>
+    </message>
+    <message>
+        <source>新建现场</source>
+        <translation>Nuovo sito</translation>
+    </message>
+</context>
+<context>
+    <name>SiteMenu</name>
+    <message>
+        <source>现场</source>
+        <translation>Sito</translation>
+    </message>
+    <message>
+        <source>打开现场…</source>
+        <translation>Apri sito…</translation>
+    </message>
+    <message>
+        <source>现场另存为…</source>
+        <translation>Salva sito con nome…</translation>
+    </message>
+    <message>
+        <source>新建现场…</source>
+        <translation>Nuovo sito…</translation>
     </message>
 </context>
 <context>

@@ -2101,6 +2101,30 @@ Klik met rechts om het resultaat te kopiëren</translation>
         <source>字符 %1 在此格式中无法读回</source>
         <translation>Het teken %1 kan niet uit deze indeling worden teruggelezen</translation>
     </message>
+    <message>
+        <source>加密列表的内容无效</source>
+        <translation>De inhoud van de versleutelde lijst is ongeldig</translation>
+    </message>
+    <message>
+        <source>文件不是加密的设备列表，或者不完整</source>
+        <translation>Het bestand is geen versleutelde apparatenlijst of is onvolledig</translation>
+    </message>
+    <message>
+        <source>加密列表的版本不受支持</source>
+        <translation>Deze versie van versleutelde lijsten wordt niet ondersteund</translation>
+    </message>
+    <message>
+        <source>加密列表的参数无效</source>
+        <translation>De parameters van de versleutelde lijst zijn ongeldig</translation>
+    </message>
+    <message>
+        <source>列表已加密，需要密码短语</source>
+        <translation>De lijst is versleuteld: een wachtwoordzin is vereist</translation>
+    </message>
+    <message>
+        <source>密码短语错误，或者文件已损坏</source>
+        <translation>Verkeerde wachtwoordzin, of het bestand is beschadigd</translation>
+    </message>
 </context>
 <context>
     <name>DeviceMenu</name>
@@ -2238,6 +2262,52 @@ Klik met rechts om het resultaat te kopiëren</translation>
     <message>
         <source>正在升级</source>
         <translation>Upgrade bezig</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceStateCell</name>
+    <message>
+        <source>未找到</source>
+        <translation>Niet gevonden</translation>
+    </message>
+    <message>
+        <source>待确认</source>
+        <translation>Te bevestigen</translation>
+    </message>
+    <message>
+        <source>已初始化</source>
+        <translation>Geïnitialiseerd</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>Niet geïnitialiseerd</translation>
+    </message>
+    <message>
+        <source>最近一次搜索没有找到该设备</source>
+        <translation>Niet gevonden bij de laatste zoekopdracht</translation>
+    </message>
+    <message>
+        <source>上次的列表中的设备，尚未找到</source>
+        <translation>Apparaat van de laatste lijst, nog niet gevonden</translation>
+    </message>
+    <message>
+        <source>最后一次找到：%1</source>
+        <translation>Laatst gevonden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DroppedFiles</name>
+    <message>
+        <source>一次只能拖入一个文件</source>
+        <translation>Er kan maar één bestand tegelijk naar het venster worden gesleept</translation>
+    </message>
+    <message>
+        <source>拖入的不是本机上的文件</source>
+        <translation>Dit is geen bestand op deze computer</translation>
+    </message>
+    <message>
+        <source>不支持的文件：%1。可以拖入设备列表（.xlsx、.csv、.xml、.devlist）或现场文件（.site）</source>
+        <translation>Bestand niet ondersteund: %1. Sleep een apparatenlijst (.xlsx, .csv, .xml, .devlist) of een locatiebestand (.site) naar het venster</translation>
     </message>
 </context>
 <context>
@@ -2559,6 +2629,42 @@ Klik met rechts om het resultaat te kopiëren</translation>
         <source>文件中的密码是明文。已保存账号的密码不导出。</source>
         <translation>Wachtwoorden in het bestand zijn onversleuteld. Wachtwoorden van opgeslagen accounts worden niet geëxporteerd.</translation>
     </message>
+    <message>
+        <source>文件不含密码。导入前须在文件中填写密码。</source>
+        <translation>Het bestand bevat geen wachtwoorden. Vul ze in vóór het importeren.</translation>
+    </message>
+    <message>
+        <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
+        <translation>De hele lijst wordt versleuteld met de wachtwoordzin en alleen dit programma kan haar lezen. Zonder de wachtwoordzin kan de lijst niet worden hersteld. Wachtwoorden van opgeslagen accounts worden niet geëxporteerd.</translation>
+    </message>
+    <message>
+        <source>完整列表</source>
+        <translation>Volledige lijst</translation>
+    </message>
+    <message>
+        <source>不含密码</source>
+        <translation>Zonder wachtwoorden</translation>
+    </message>
+    <message>
+        <source>加密（.devlist）</source>
+        <translation>Versleuteld (.devlist)</translation>
+    </message>
+    <message>
+        <source>密码短语至少 %1 个字符</source>
+        <translation>De wachtwoordzin moet minstens %1 tekens hebben</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Wachtwoordzin</translation>
+    </message>
+    <message>
+        <source>两次输入不一致</source>
+        <translation>De twee invoeren verschillen</translation>
+    </message>
+    <message>
+        <source>再次输入密码短语</source>
+        <translation>Herhaal de wachtwoordzin</translation>
+    </message>
 </context>
 <context>
     <name>FailedMarks</name>
@@ -2623,6 +2729,17 @@ Klik met rechts om het resultaat te kopiëren</translation>
     <message>
         <source>从收藏夹中删除</source>
         <translation>Verwijdert dit apparaat uit de favorieten</translation>
+    </message>
+</context>
+<context>
+    <name>FileDrop</name>
+    <message>
+        <source>请先关闭对话框，再拖入文件</source>
+        <translation>Sluit het dialoogvenster voordat u een bestand naar het venster sleept</translation>
+    </message>
+    <message>
+        <source>松开鼠标，导入设备列表或打开现场</source>
+        <translation>Laat los om een apparatenlijst te importeren of een locatie te openen</translation>
     </message>
 </context>
 <context>
@@ -2833,6 +2950,28 @@ Klik met rechts om het resultaat te kopiëren</translation>
     <message>
         <source>没有设备</source>
         <translation>Geen apparaten</translation>
+    </message>
+</context>
+<context>
+    <name>GroupDialog</name>
+    <message>
+        <source>保存</source>
+        <translation>Opslaan</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Groep</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备</source>
+        <translation>
+            <numerusform>%n apparaat</numerusform>
+            <numerusform>%n apparaten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>不属于任何分组</source>
+        <translation>Geen groep</translation>
     </message>
 </context>
 <context>
@@ -3347,6 +3486,41 @@ Klik met rechts om het resultaat te kopiëren</translation>
     <message>
         <source>提示</source>
         <translation>Notities</translation>
+    </message>
+</context>
+<context>
+    <name>KnownDevices</name>
+    <message>
+        <source>上次的设备列表 %1 无法读取：%2</source>
+        <translation>De laatste apparatenlijst %1 kan niet worden gelezen: %2</translation>
+    </message>
+    <message>
+        <source>分组名称最多 %1 个字符</source>
+        <translation>De naam van een groep heeft hoogstens %1 tekens</translation>
+    </message>
+    <message>
+        <source>P2P设备不能分组</source>
+        <translation>P2P-apparaten kunnen niet in een groep zitten</translation>
+    </message>
+    <message>
+        <source>现场最多 %1 台设备</source>
+        <translation>Een locatie heeft hoogstens %1 apparaten</translation>
+    </message>
+    <message>
+        <source>现场无法保存：%1</source>
+        <translation>De locatie kan niet worden opgeslagen: %1</translation>
+    </message>
+    <message>
+        <source>设备列表无法保存：%1</source>
+        <translation>De apparatenlijst kan niet worden opgeslagen: %1</translation>
+    </message>
+    <message>
+        <source>未保存的现场</source>
+        <translation>Niet-opgeslagen locatie</translation>
+    </message>
+    <message>
+        <source>原现场无法保存：%1</source>
+        <translation>De vorige locatie kan niet worden opgeslagen: %1</translation>
     </message>
 </context>
 <context>
@@ -4092,6 +4266,47 @@ Bestand: </translation>
         <source>覆盖文件</source>
         <translation>Bestand vervangen</translation>
     </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Versleutelde apparatenlijsten (*.devlist)</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPGroups</name>
+    <message>
+        <source>分组…</source>
+        <translation>Groep…</translation>
+    </message>
+    <message>
+        <source>从现场中移除</source>
+        <translation>Uit locatie verwijderen</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPNotice</name>
+    <message>
+        <source>重新搜索</source>
+        <translation>Opnieuw zoeken</translation>
+    </message>
+    <message>
+        <source>查看原因</source>
+        <translation>Redenen tonen</translation>
+    </message>
+    <message>
+        <source>搜索已停止，列表不完整。</source>
+        <translation>Het zoeken is gestopt; de lijst is onvolledig.</translation>
+    </message>
+    <message>
+        <source>没有找到设备，灰色的是以前找到的设备</source>
+        <translation>Geen apparaat gevonden. De grijze apparaten zijn eerder gevonden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>找到的设备比上次搜索少 %n 台</source>
+        <translation>
+            <numerusform>%n apparaat minder dan bij de laatste zoekopdracht</numerusform>
+            <numerusform>%n apparaten minder dan bij de laatste zoekopdracht</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPTable</name>
@@ -4132,16 +4347,16 @@ Bestand: </translation>
         <translation>Acties</translation>
     </message>
     <message>
-        <source>已初始化</source>
-        <translation>Geïnitialiseerd</translation>
-    </message>
-    <message>
-        <source>未初始化</source>
-        <translation>Niet geïnitialiseerd</translation>
-    </message>
-    <message>
         <source>备注</source>
         <translation>Notitie</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Groep</translation>
+    </message>
+    <message>
+        <source>新</source>
+        <translation>Nieuw</translation>
     </message>
 </context>
 <context>
@@ -4641,6 +4856,10 @@ Bestand: </translation>
         <source>展开</source>
         <translation>Uitklappen</translation>
     </message>
+    <message>
+        <source>新</source>
+        <translation>Nieuw</translation>
+    </message>
 </context>
 <context>
     <name>OV_MediaPlayer</name>
@@ -4891,17 +5110,6 @@ Bestand: </translation>
         <translation>Exporteren</translation>
     </message>
     <message>
-        <source>查看原因</source>
-        <translation>Redenen tonen</translation>
-    </message>
-    <message numerus="yes">
-        <source>找到的设备比上次搜索少 %n 台</source>
-        <translation>
-            <numerusform>%n apparaat minder dan bij de laatste zoekopdracht</numerusform>
-            <numerusform>%n apparaten minder dan bij de laatste zoekopdracht</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>修改IP地址</source>
         <translation>IP-adressen wijzigen</translation>
     </message>
@@ -4912,14 +5120,6 @@ Bestand: </translation>
     <message>
         <source>查看勾选设备的图像</source>
         <translation>Beelden van de geselecteerde apparaten</translation>
-    </message>
-    <message>
-        <source>重新搜索</source>
-        <translation>Opnieuw zoeken</translation>
-    </message>
-    <message>
-        <source>搜索已停止，列表不完整。</source>
-        <translation>Het zoeken is gestopt; de lijst is onvolledig.</translation>
     </message>
 </context>
 <context>
@@ -4985,6 +5185,17 @@ Bestand: </translation>
     <message>
         <source>；</source>
         <translation>; </translation>
+    </message>
+</context>
+<context>
+    <name>PassphraseDialog</name>
+    <message>
+        <source>加密的设备列表</source>
+        <translation>Versleutelde apparatenlijst</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Wachtwoordzin</translation>
     </message>
 </context>
 <context>
@@ -5464,6 +5675,110 @@ Bestand: </translation>
     <message>
         <source>无法打开模拟站点：</source>
         <translation>De demolocatie kon niet worden geopend:</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFile</name>
+    <message>
+        <source>文件不是现场文件，或者已损坏</source>
+        <translation>Het bestand is geen locatiebestand of is beschadigd</translation>
+    </message>
+    <message>
+        <source>现场文件由更新的版本保存，无法读取</source>
+        <translation>Het locatiebestand is van een nieuwere versie en kan niet worden gelezen</translation>
+    </message>
+    <message>
+        <source>现场文件的设备超过 %1 台</source>
+        <translation>Het locatiebestand heeft meer dan %1 apparaten</translation>
+    </message>
+    <message>
+        <source>现场文件中的名称无效</source>
+        <translation>De naam in het locatiebestand is ongeldig</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备的 %2 无效</source>
+        <translation>Apparaat %1 van het locatiebestand: %2 is ongeldig</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备重复</source>
+        <translation>Apparaat %1 van het locatiebestand komt dubbel voor</translation>
+    </message>
+    <message>
+        <source>无法打开文件</source>
+        <translation>Het bestand kon niet worden geopend</translation>
+    </message>
+    <message>
+        <source>文件过大</source>
+        <translation>Het bestand is te groot</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFiles</name>
+    <message>
+        <source>现场文件 (*.site)</source>
+        <translation>Locatiebestanden (*.site)</translation>
+    </message>
+    <message>
+        <source>打开现场</source>
+        <translation>Locatie openen</translation>
+    </message>
+    <message numerus="yes">
+        <source>已打开现场“%1”，共 %n 台设备</source>
+        <translation>
+            <numerusform>Locatie ‘%1’ geopend, met %n apparaat</numerusform>
+            <numerusform>Locatie ‘%1’ geopend, met %n apparaten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>无法打开现场 %1：%2</source>
+        <translation>Locatie %1 kan niet worden geopend: %2</translation>
+    </message>
+    <message>
+        <source>现场</source>
+        <translation>Locatie</translation>
+    </message>
+    <message>
+        <source>现场另存为</source>
+        <translation>Locatie opslaan als</translation>
+    </message>
+    <message>
+        <source>现场已保存到 %1</source>
+        <translation>De locatie is opgeslagen in %1</translation>
+    </message>
+    <message>
+        <source>文件不含密码。</source>
+        <translation>Het bestand bevat geen wachtwoorden.</translation>
+    </message>
+    <message>
+        <source>新建现场后，已知设备和分组从列表中清除。未保存的更改会保留在最近的现场中。</source>
+        <translation>Een nieuwe locatie verwijdert bekende apparaten en groepen uit de lijst. Niet-opgeslagen wijzigingen blijven bewaard in de recente locaties.</translation>
+    </message>
+    <message>
+        <source>新建</source>
+        <translation>Nieuw</translation>
+    </message>
+    <message>
+        <source>新建现场</source>
+        <translation>Nieuwe locatie</translation>
+    </message>
+</context>
+<context>
+    <name>SiteMenu</name>
+    <message>
+        <source>现场</source>
+        <translation>Locatie</translation>
+    </message>
+    <message>
+        <source>打开现场…</source>
+        <translation>Locatie openen…</translation>
+    </message>
+    <message>
+        <source>现场另存为…</source>
+        <translation>Locatie opslaan als…</translation>
+    </message>
+    <message>
+        <source>新建现场…</source>
+        <translation>Nieuwe locatie…</translation>
     </message>
 </context>
 <context>

@@ -2101,6 +2101,30 @@ Høyreklikk for å kopiere resultatet</translation>
         <source>字符 %1 在此格式中无法读回</source>
         <translation>Tegnet %1 kan ikke leses tilbake fra dette formatet</translation>
     </message>
+    <message>
+        <source>加密列表的内容无效</source>
+        <translation>Innholdet i den krypterte listen er ugyldig</translation>
+    </message>
+    <message>
+        <source>文件不是加密的设备列表，或者不完整</source>
+        <translation>Filen er ikke en kryptert enhetsliste, eller den er ufullstendig</translation>
+    </message>
+    <message>
+        <source>加密列表的版本不受支持</source>
+        <translation>Denne versjonen av krypterte lister støttes ikke</translation>
+    </message>
+    <message>
+        <source>加密列表的参数无效</source>
+        <translation>Parameterne i den krypterte listen er ugyldige</translation>
+    </message>
+    <message>
+        <source>列表已加密，需要密码短语</source>
+        <translation>Listen er kryptert: en passfrase kreves</translation>
+    </message>
+    <message>
+        <source>密码短语错误，或者文件已损坏</source>
+        <translation>Feil passfrase, eller filen er skadet</translation>
+    </message>
 </context>
 <context>
     <name>DeviceMenu</name>
@@ -2238,6 +2262,52 @@ Høyreklikk for å kopiere resultatet</translation>
     <message>
         <source>正在升级</source>
         <translation>Oppgradering pågår</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceStateCell</name>
+    <message>
+        <source>未找到</source>
+        <translation>Ikke funnet</translation>
+    </message>
+    <message>
+        <source>待确认</source>
+        <translation>Ubekreftet</translation>
+    </message>
+    <message>
+        <source>已初始化</source>
+        <translation>Initialisert</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>Ikke initialisert</translation>
+    </message>
+    <message>
+        <source>最近一次搜索没有找到该设备</source>
+        <translation>Ikke funnet i det siste søket</translation>
+    </message>
+    <message>
+        <source>上次的列表中的设备，尚未找到</source>
+        <translation>Enhet fra forrige liste, ennå ikke funnet</translation>
+    </message>
+    <message>
+        <source>最后一次找到：%1</source>
+        <translation>Sist funnet: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DroppedFiles</name>
+    <message>
+        <source>一次只能拖入一个文件</source>
+        <translation>Bare én fil om gangen kan dras til vinduet</translation>
+    </message>
+    <message>
+        <source>拖入的不是本机上的文件</source>
+        <translation>Dette er ikke en fil på denne datamaskinen</translation>
+    </message>
+    <message>
+        <source>不支持的文件：%1。可以拖入设备列表（.xlsx、.csv、.xml、.devlist）或现场文件（.site）</source>
+        <translation>Filen støttes ikke: %1. Dra en enhetsliste (.xlsx, .csv, .xml, .devlist) eller en anleggsfil (.site) til vinduet</translation>
     </message>
 </context>
 <context>
@@ -2559,6 +2629,42 @@ Høyreklikk for å kopiere resultatet</translation>
         <source>文件中的密码是明文。已保存账号的密码不导出。</source>
         <translation>Passordene i filen er i klartekst. Passord for lagrede kontoer eksporteres ikke.</translation>
     </message>
+    <message>
+        <source>文件不含密码。导入前须在文件中填写密码。</source>
+        <translation>Filen inneholder ingen passord. Fyll dem inn før filen importeres.</translation>
+    </message>
+    <message>
+        <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
+        <translation>Hele listen krypteres med passfrasen, og bare dette verktøyet kan lese den. Den kan ikke gjenopprettes uten passfrasen. Passord for lagrede kontoer eksporteres ikke.</translation>
+    </message>
+    <message>
+        <source>完整列表</source>
+        <translation>Fullstendig liste</translation>
+    </message>
+    <message>
+        <source>不含密码</source>
+        <translation>Uten passord</translation>
+    </message>
+    <message>
+        <source>加密（.devlist）</source>
+        <translation>Kryptert (.devlist)</translation>
+    </message>
+    <message>
+        <source>密码短语至少 %1 个字符</source>
+        <translation>Passfrasen må ha minst %1 tegn</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Passfrase</translation>
+    </message>
+    <message>
+        <source>两次输入不一致</source>
+        <translation>De to tekstene er forskjellige</translation>
+    </message>
+    <message>
+        <source>再次输入密码短语</source>
+        <translation>Gjenta passfrasen</translation>
+    </message>
 </context>
 <context>
     <name>FailedMarks</name>
@@ -2623,6 +2729,17 @@ Høyreklikk for å kopiere resultatet</translation>
     <message>
         <source>从收藏夹中删除</source>
         <translation>Fjerner denne enheten fra favorittene</translation>
+    </message>
+</context>
+<context>
+    <name>FileDrop</name>
+    <message>
+        <source>请先关闭对话框，再拖入文件</source>
+        <translation>Lukk dialogen før du drar en fil til vinduet</translation>
+    </message>
+    <message>
+        <source>松开鼠标，导入设备列表或打开现场</source>
+        <translation>Slipp for å importere en enhetsliste eller åpne et anlegg</translation>
     </message>
 </context>
 <context>
@@ -2833,6 +2950,28 @@ Høyreklikk for å kopiere resultatet</translation>
     <message>
         <source>没有设备</source>
         <translation>Ingen enheter</translation>
+    </message>
+</context>
+<context>
+    <name>GroupDialog</name>
+    <message>
+        <source>保存</source>
+        <translation>Lagre</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备</source>
+        <translation>
+            <numerusform>%n enhet</numerusform>
+            <numerusform>%n enheter</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>不属于任何分组</source>
+        <translation>Ingen gruppe</translation>
     </message>
 </context>
 <context>
@@ -3347,6 +3486,41 @@ Høyreklikk for å kopiere resultatet</translation>
     <message>
         <source>提示</source>
         <translation>Merknad</translation>
+    </message>
+</context>
+<context>
+    <name>KnownDevices</name>
+    <message>
+        <source>上次的设备列表 %1 无法读取：%2</source>
+        <translation>Den forrige enhetslisten %1 kan ikke leses: %2</translation>
+    </message>
+    <message>
+        <source>分组名称最多 %1 个字符</source>
+        <translation>Navnet på en gruppe har høyst %1 tegn</translation>
+    </message>
+    <message>
+        <source>P2P设备不能分组</source>
+        <translation>P2P-enheter kan ikke være i en gruppe</translation>
+    </message>
+    <message>
+        <source>现场最多 %1 台设备</source>
+        <translation>Et anlegg har høyst %1 enheter</translation>
+    </message>
+    <message>
+        <source>现场无法保存：%1</source>
+        <translation>Anlegget kan ikke lagres: %1</translation>
+    </message>
+    <message>
+        <source>设备列表无法保存：%1</source>
+        <translation>Enhetslisten kan ikke lagres: %1</translation>
+    </message>
+    <message>
+        <source>未保存的现场</source>
+        <translation>Ulagret anlegg</translation>
+    </message>
+    <message>
+        <source>原现场无法保存：%1</source>
+        <translation>Det forrige anlegget kan ikke lagres: %1</translation>
     </message>
 </context>
 <context>
@@ -4092,6 +4266,47 @@ Fil: </translation>
         <source>覆盖文件</source>
         <translation>Erstatt fil</translation>
     </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Krypterte enhetslister (*.devlist)</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPGroups</name>
+    <message>
+        <source>分组…</source>
+        <translation>Gruppe…</translation>
+    </message>
+    <message>
+        <source>从现场中移除</source>
+        <translation>Fjern fra anlegget</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPNotice</name>
+    <message>
+        <source>重新搜索</source>
+        <translation>Søk på nytt</translation>
+    </message>
+    <message>
+        <source>查看原因</source>
+        <translation>Vis årsaker</translation>
+    </message>
+    <message>
+        <source>搜索已停止，列表不完整。</source>
+        <translation>Søket ble stoppet; listen er ufullstendig.</translation>
+    </message>
+    <message>
+        <source>没有找到设备，灰色的是以前找到的设备</source>
+        <translation>Ingen enhet ble funnet. De grå enhetene ble funnet tidligere.</translation>
+    </message>
+    <message numerus="yes">
+        <source>找到的设备比上次搜索少 %n 台</source>
+        <translation>
+            <numerusform>%n enhet færre enn i siste søk</numerusform>
+            <numerusform>%n enheter færre enn i siste søk</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPTable</name>
@@ -4132,16 +4347,16 @@ Fil: </translation>
         <translation>Handlinger</translation>
     </message>
     <message>
-        <source>已初始化</source>
-        <translation>Initialisert</translation>
-    </message>
-    <message>
-        <source>未初始化</source>
-        <translation>Ikke initialisert</translation>
-    </message>
-    <message>
         <source>备注</source>
         <translation>Notat</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>新</source>
+        <translation>Ny</translation>
     </message>
 </context>
 <context>
@@ -4641,6 +4856,10 @@ Fil: </translation>
         <source>展开</source>
         <translation>Utvid</translation>
     </message>
+    <message>
+        <source>新</source>
+        <translation>Ny</translation>
+    </message>
 </context>
 <context>
     <name>OV_MediaPlayer</name>
@@ -4891,17 +5110,6 @@ Fil: </translation>
         <translation>Eksporter</translation>
     </message>
     <message>
-        <source>查看原因</source>
-        <translation>Vis årsaker</translation>
-    </message>
-    <message numerus="yes">
-        <source>找到的设备比上次搜索少 %n 台</source>
-        <translation>
-            <numerusform>%n enhet færre enn i siste søk</numerusform>
-            <numerusform>%n enheter færre enn i siste søk</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>修改IP地址</source>
         <translation>Endre IP-adresser</translation>
     </message>
@@ -4912,14 +5120,6 @@ Fil: </translation>
     <message>
         <source>查看勾选设备的图像</source>
         <translation>Bilder fra de valgte enhetene</translation>
-    </message>
-    <message>
-        <source>重新搜索</source>
-        <translation>Søk på nytt</translation>
-    </message>
-    <message>
-        <source>搜索已停止，列表不完整。</source>
-        <translation>Søket ble stoppet; listen er ufullstendig.</translation>
     </message>
 </context>
 <context>
@@ -4985,6 +5185,17 @@ Fil: </translation>
     <message>
         <source>；</source>
         <translation>; </translation>
+    </message>
+</context>
+<context>
+    <name>PassphraseDialog</name>
+    <message>
+        <source>加密的设备列表</source>
+        <translation>Kryptert enhetsliste</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Passfrase</translation>
     </message>
 </context>
 <context>
@@ -5464,6 +5675,110 @@ Fil: </translation>
     <message>
         <source>无法打开模拟站点：</source>
         <translation>Demoanlegget kunne ikke åpnes:</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFile</name>
+    <message>
+        <source>文件不是现场文件，或者已损坏</source>
+        <translation>Filen er ikke en anleggsfil, eller den er skadet</translation>
+    </message>
+    <message>
+        <source>现场文件由更新的版本保存，无法读取</source>
+        <translation>Anleggsfilen er fra en nyere versjon og kan ikke leses</translation>
+    </message>
+    <message>
+        <source>现场文件的设备超过 %1 台</source>
+        <translation>Anleggsfilen har mer enn %1 enheter</translation>
+    </message>
+    <message>
+        <source>现场文件中的名称无效</source>
+        <translation>Navnet i anleggsfilen er ugyldig</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备的 %2 无效</source>
+        <translation>Enhet %1 i anleggsfilen: %2 er ugyldig</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备重复</source>
+        <translation>Enhet %1 i anleggsfilen er et duplikat</translation>
+    </message>
+    <message>
+        <source>无法打开文件</source>
+        <translation>Filen kunne ikke åpnes</translation>
+    </message>
+    <message>
+        <source>文件过大</source>
+        <translation>Filen er for stor</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFiles</name>
+    <message>
+        <source>现场文件 (*.site)</source>
+        <translation>Anleggsfiler (*.site)</translation>
+    </message>
+    <message>
+        <source>打开现场</source>
+        <translation>Åpne anlegg</translation>
+    </message>
+    <message numerus="yes">
+        <source>已打开现场“%1”，共 %n 台设备</source>
+        <translation>
+            <numerusform>Anlegget «%1» er åpnet, med %n enhet</numerusform>
+            <numerusform>Anlegget «%1» er åpnet, med %n enheter</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>无法打开现场 %1：%2</source>
+        <translation>Anlegget %1 kan ikke åpnes: %2</translation>
+    </message>
+    <message>
+        <source>现场</source>
+        <translation>Anlegg</translation>
+    </message>
+    <message>
+        <source>现场另存为</source>
+        <translation>Lagre anlegg som</translation>
+    </message>
+    <message>
+        <source>现场已保存到 %1</source>
+        <translation>Anlegget er lagret i %1</translation>
+    </message>
+    <message>
+        <source>文件不含密码。</source>
+        <translation>Filen inneholder ingen passord.</translation>
+    </message>
+    <message>
+        <source>新建现场后，已知设备和分组从列表中清除。未保存的更改会保留在最近的现场中。</source>
+        <translation>Et nytt anlegg fjerner kjente enheter og grupper fra listen. Ulagrede endringer beholdes i de siste anleggene.</translation>
+    </message>
+    <message>
+        <source>新建</source>
+        <translation>Nytt</translation>
+    </message>
+    <message>
+        <source>新建现场</source>
+        <translation>Nytt anlegg</translation>
+    </message>
+</context>
+<context>
+    <name>SiteMenu</name>
+    <message>
+        <source>现场</source>
+        <translation>Anlegg</translation>
+    </message>
+    <message>
+        <source>打开现场…</source>
+        <translation>Åpne anlegg…</translation>
+    </message>
+    <message>
+        <source>现场另存为…</source>
+        <translation>Lagre anlegg som…</translation>
+    </message>
+    <message>
+        <source>新建现场…</source>
+        <translation>Nytt anlegg…</translation>
     </message>
 </context>
 <context>

@@ -2101,6 +2101,30 @@ Clique com o botão direito para copiar o resultado</translation>
         <source>字符 %1 在此格式中无法读回</source>
         <translation>O carácter %1 não pode ser lido de volta deste formato</translation>
     </message>
+    <message>
+        <source>加密列表的内容无效</source>
+        <translation>O conteúdo da lista cifrada não é válido</translation>
+    </message>
+    <message>
+        <source>文件不是加密的设备列表，或者不完整</source>
+        <translation>O ficheiro não é uma lista de dispositivos cifrada ou está incompleto</translation>
+    </message>
+    <message>
+        <source>加密列表的版本不受支持</source>
+        <translation>Esta versão das listas cifradas não é suportada</translation>
+    </message>
+    <message>
+        <source>加密列表的参数无效</source>
+        <translation>Os parâmetros da lista cifrada não são válidos</translation>
+    </message>
+    <message>
+        <source>列表已加密，需要密码短语</source>
+        <translation>A lista está cifrada: é necessária uma frase-passe</translation>
+    </message>
+    <message>
+        <source>密码短语错误，或者文件已损坏</source>
+        <translation>Frase-passe errada, ou o ficheiro está danificado</translation>
+    </message>
 </context>
 <context>
     <name>DeviceMenu</name>
@@ -2238,6 +2262,52 @@ Clique com o botão direito para copiar o resultado</translation>
     <message>
         <source>正在升级</source>
         <translation>Atualização em curso</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceStateCell</name>
+    <message>
+        <source>未找到</source>
+        <translation>Não encontrado</translation>
+    </message>
+    <message>
+        <source>待确认</source>
+        <translation>Por confirmar</translation>
+    </message>
+    <message>
+        <source>已初始化</source>
+        <translation>Inicializado</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>Não inicializado</translation>
+    </message>
+    <message>
+        <source>最近一次搜索没有找到该设备</source>
+        <translation>Não encontrado na última pesquisa</translation>
+    </message>
+    <message>
+        <source>上次的列表中的设备，尚未找到</source>
+        <translation>Dispositivo da última lista, ainda não encontrado</translation>
+    </message>
+    <message>
+        <source>最后一次找到：%1</source>
+        <translation>Encontrado pela última vez: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DroppedFiles</name>
+    <message>
+        <source>一次只能拖入一个文件</source>
+        <translation>Só é possível arrastar um ficheiro de cada vez para a janela</translation>
+    </message>
+    <message>
+        <source>拖入的不是本机上的文件</source>
+        <translation>Não é um ficheiro deste computador</translation>
+    </message>
+    <message>
+        <source>不支持的文件：%1。可以拖入设备列表（.xlsx、.csv、.xml、.devlist）或现场文件（.site）</source>
+        <translation>Ficheiro não suportado: %1. Arraste para a janela uma lista de dispositivos (.xlsx, .csv, .xml, .devlist) ou um ficheiro de local (.site)</translation>
     </message>
 </context>
 <context>
@@ -2559,6 +2629,42 @@ Clique com o botão direito para copiar o resultado</translation>
         <source>文件中的密码是明文。已保存账号的密码不导出。</source>
         <translation>As palavras-passe no ficheiro estão em texto simples. As palavras-passe das contas guardadas não são exportadas.</translation>
     </message>
+    <message>
+        <source>文件不含密码。导入前须在文件中填写密码。</source>
+        <translation>O ficheiro não contém palavras-passe. Preencha-as antes da importação.</translation>
+    </message>
+    <message>
+        <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
+        <translation>Toda a lista é cifrada com a frase-passe e só esta ferramenta a pode ler. Não pode ser recuperada sem a frase-passe. As palavras-passe das contas guardadas não são exportadas.</translation>
+    </message>
+    <message>
+        <source>完整列表</source>
+        <translation>Lista completa</translation>
+    </message>
+    <message>
+        <source>不含密码</source>
+        <translation>Sem palavras-passe</translation>
+    </message>
+    <message>
+        <source>加密（.devlist）</source>
+        <translation>Cifrada (.devlist)</translation>
+    </message>
+    <message>
+        <source>密码短语至少 %1 个字符</source>
+        <translation>A frase-passe precisa de pelo menos %1 caracteres</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Frase-passe</translation>
+    </message>
+    <message>
+        <source>两次输入不一致</source>
+        <translation>Os dois textos são diferentes</translation>
+    </message>
+    <message>
+        <source>再次输入密码短语</source>
+        <translation>Repita a frase-passe</translation>
+    </message>
 </context>
 <context>
     <name>FailedMarks</name>
@@ -2623,6 +2729,17 @@ Clique com o botão direito para copiar o resultado</translation>
     <message>
         <source>从收藏夹中删除</source>
         <translation>Remove este dispositivo dos favoritos</translation>
+    </message>
+</context>
+<context>
+    <name>FileDrop</name>
+    <message>
+        <source>请先关闭对话框，再拖入文件</source>
+        <translation>Feche a caixa de diálogo antes de arrastar um ficheiro para a janela</translation>
+    </message>
+    <message>
+        <source>松开鼠标，导入设备列表或打开现场</source>
+        <translation>Largue para importar uma lista de dispositivos ou abrir um local</translation>
     </message>
 </context>
 <context>
@@ -2833,6 +2950,28 @@ Clique com o botão direito para copiar o resultado</translation>
     <message>
         <source>没有设备</source>
         <translation>Sem dispositivos</translation>
+    </message>
+</context>
+<context>
+    <name>GroupDialog</name>
+    <message>
+        <source>保存</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Grupo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备</source>
+        <translation>
+            <numerusform>%n dispositivo</numerusform>
+            <numerusform>%n dispositivos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>不属于任何分组</source>
+        <translation>Nenhum grupo</translation>
     </message>
 </context>
 <context>
@@ -3347,6 +3486,41 @@ Clique com o botão direito para copiar o resultado</translation>
     <message>
         <source>提示</source>
         <translation>Notas</translation>
+    </message>
+</context>
+<context>
+    <name>KnownDevices</name>
+    <message>
+        <source>上次的设备列表 %1 无法读取：%2</source>
+        <translation>A última lista de dispositivos %1 não pode ser lida: %2</translation>
+    </message>
+    <message>
+        <source>分组名称最多 %1 个字符</source>
+        <translation>O nome de um grupo tem no máximo %1 caracteres</translation>
+    </message>
+    <message>
+        <source>P2P设备不能分组</source>
+        <translation>Os dispositivos P2P não podem pertencer a um grupo</translation>
+    </message>
+    <message>
+        <source>现场最多 %1 台设备</source>
+        <translation>Um local tem no máximo %1 dispositivos</translation>
+    </message>
+    <message>
+        <source>现场无法保存：%1</source>
+        <translation>O local não pode ser guardado: %1</translation>
+    </message>
+    <message>
+        <source>设备列表无法保存：%1</source>
+        <translation>A lista de dispositivos não pode ser guardada: %1</translation>
+    </message>
+    <message>
+        <source>未保存的现场</source>
+        <translation>Local não guardado</translation>
+    </message>
+    <message>
+        <source>原现场无法保存：%1</source>
+        <translation>O local anterior não pode ser guardado: %1</translation>
     </message>
 </context>
 <context>
@@ -4092,6 +4266,47 @@ Ficheiro: </translation>
         <source>覆盖文件</source>
         <translation>Substituir ficheiro</translation>
     </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Listas de dispositivos cifradas (*.devlist)</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPGroups</name>
+    <message>
+        <source>分组…</source>
+        <translation>Grupo…</translation>
+    </message>
+    <message>
+        <source>从现场中移除</source>
+        <translation>Remover do local</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPNotice</name>
+    <message>
+        <source>重新搜索</source>
+        <translation>Pesquisar novamente</translation>
+    </message>
+    <message>
+        <source>查看原因</source>
+        <translation>Mostrar motivos</translation>
+    </message>
+    <message>
+        <source>搜索已停止，列表不完整。</source>
+        <translation>A pesquisa foi parada; a lista está incompleta.</translation>
+    </message>
+    <message>
+        <source>没有找到设备，灰色的是以前找到的设备</source>
+        <translation>Nenhum dispositivo encontrado. Os cinzentos foram encontrados antes.</translation>
+    </message>
+    <message numerus="yes">
+        <source>找到的设备比上次搜索少 %n 台</source>
+        <translation>
+            <numerusform>%n dispositivo a menos do que na última pesquisa</numerusform>
+            <numerusform>%n dispositivos a menos do que na última pesquisa</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPTable</name>
@@ -4132,16 +4347,16 @@ Ficheiro: </translation>
         <translation>Ações</translation>
     </message>
     <message>
-        <source>已初始化</source>
-        <translation>Inicializado</translation>
-    </message>
-    <message>
-        <source>未初始化</source>
-        <translation>Não inicializado</translation>
-    </message>
-    <message>
         <source>备注</source>
         <translation>Nota</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Grupo</translation>
+    </message>
+    <message>
+        <source>新</source>
+        <translation>Novo</translation>
     </message>
 </context>
 <context>
@@ -4641,6 +4856,10 @@ Ficheiro: </translation>
         <source>展开</source>
         <translation>Expandir</translation>
     </message>
+    <message>
+        <source>新</source>
+        <translation>Novo</translation>
+    </message>
 </context>
 <context>
     <name>OV_MediaPlayer</name>
@@ -4891,17 +5110,6 @@ Ficheiro: </translation>
         <translation>Exportar</translation>
     </message>
     <message>
-        <source>查看原因</source>
-        <translation>Mostrar motivos</translation>
-    </message>
-    <message numerus="yes">
-        <source>找到的设备比上次搜索少 %n 台</source>
-        <translation>
-            <numerusform>%n dispositivo a menos do que na última pesquisa</numerusform>
-            <numerusform>%n dispositivos a menos do que na última pesquisa</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>修改IP地址</source>
         <translation>Alterar endereços IP</translation>
     </message>
@@ -4912,14 +5120,6 @@ Ficheiro: </translation>
     <message>
         <source>查看勾选设备的图像</source>
         <translation>Imagens dos dispositivos selecionados</translation>
-    </message>
-    <message>
-        <source>重新搜索</source>
-        <translation>Pesquisar novamente</translation>
-    </message>
-    <message>
-        <source>搜索已停止，列表不完整。</source>
-        <translation>A pesquisa foi parada; a lista está incompleta.</translation>
     </message>
 </context>
 <context>
@@ -4985,6 +5185,17 @@ Ficheiro: </translation>
     <message>
         <source>；</source>
         <translation>; </translation>
+    </message>
+</context>
+<context>
+    <name>PassphraseDialog</name>
+    <message>
+        <source>加密的设备列表</source>
+        <translation>Lista de dispositivos cifrada</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Frase-passe</translation>
     </message>
 </context>
 <context>
@@ -5464,6 +5675,110 @@ Ficheiro: </translation>
     <message>
         <source>无法打开模拟站点：</source>
         <translation>Não foi possível abrir o local de demo:</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFile</name>
+    <message>
+        <source>文件不是现场文件，或者已损坏</source>
+        <translation>O ficheiro não é um ficheiro de local ou está danificado</translation>
+    </message>
+    <message>
+        <source>现场文件由更新的版本保存，无法读取</source>
+        <translation>O ficheiro de local é de uma versão mais recente e não pode ser lido</translation>
+    </message>
+    <message>
+        <source>现场文件的设备超过 %1 台</source>
+        <translation>O ficheiro de local tem mais de %1 dispositivos</translation>
+    </message>
+    <message>
+        <source>现场文件中的名称无效</source>
+        <translation>O nome no ficheiro de local não é válido</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备的 %2 无效</source>
+        <translation>Dispositivo %1 do ficheiro de local: %2 não é válido</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备重复</source>
+        <translation>O dispositivo %1 do ficheiro de local está repetido</translation>
+    </message>
+    <message>
+        <source>无法打开文件</source>
+        <translation>Não foi possível abrir o ficheiro</translation>
+    </message>
+    <message>
+        <source>文件过大</source>
+        <translation>O ficheiro é demasiado grande</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFiles</name>
+    <message>
+        <source>现场文件 (*.site)</source>
+        <translation>Ficheiros de local (*.site)</translation>
+    </message>
+    <message>
+        <source>打开现场</source>
+        <translation>Abrir local</translation>
+    </message>
+    <message numerus="yes">
+        <source>已打开现场“%1”，共 %n 台设备</source>
+        <translation>
+            <numerusform>Local «%1» aberto, com %n dispositivo</numerusform>
+            <numerusform>Local «%1» aberto, com %n dispositivos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>无法打开现场 %1：%2</source>
+        <translation>O local %1 não pode ser aberto: %2</translation>
+    </message>
+    <message>
+        <source>现场</source>
+        <translation>Local</translation>
+    </message>
+    <message>
+        <source>现场另存为</source>
+        <translation>Guardar local como</translation>
+    </message>
+    <message>
+        <source>现场已保存到 %1</source>
+        <translation>O local foi guardado em %1</translation>
+    </message>
+    <message>
+        <source>文件不含密码。</source>
+        <translation>O ficheiro não contém palavras-passe.</translation>
+    </message>
+    <message>
+        <source>新建现场后，已知设备和分组从列表中清除。未保存的更改会保留在最近的现场中。</source>
+        <translation>Um novo local remove da lista os dispositivos conhecidos e os grupos. As alterações não guardadas ficam nos locais recentes.</translation>
+    </message>
+    <message>
+        <source>新建</source>
+        <translation>Novo</translation>
+    </message>
+    <message>
+        <source>新建现场</source>
+        <translation>Novo local</translation>
+    </message>
+</context>
+<context>
+    <name>SiteMenu</name>
+    <message>
+        <source>现场</source>
+        <translation>Local</translation>
+    </message>
+    <message>
+        <source>打开现场…</source>
+        <translation>Abrir local…</translation>
+    </message>
+    <message>
+        <source>现场另存为…</source>
+        <translation>Guardar local como…</translation>
+    </message>
+    <message>
+        <source>新建现场…</source>
+        <translation>Novo local…</translation>
     </message>
 </context>
 <context>

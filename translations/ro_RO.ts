@@ -2138,6 +2138,30 @@ Clic dreapta pentru a copia rezultatul</translation>
         <source>字符 %1 在此格式中无法读回</source>
         <translation>Caracterul %1 nu poate fi recitit din acest format</translation>
     </message>
+    <message>
+        <source>加密列表的内容无效</source>
+        <translation>Conținutul listei criptate nu este valid</translation>
+    </message>
+    <message>
+        <source>文件不是加密的设备列表，或者不完整</source>
+        <translation>Fișierul nu este o listă de dispozitive criptată sau este incomplet</translation>
+    </message>
+    <message>
+        <source>加密列表的版本不受支持</source>
+        <translation>Această versiune a listelor criptate nu este acceptată</translation>
+    </message>
+    <message>
+        <source>加密列表的参数无效</source>
+        <translation>Parametrii listei criptate nu sunt valizi</translation>
+    </message>
+    <message>
+        <source>列表已加密，需要密码短语</source>
+        <translation>Lista este criptată: este necesară o frază de acces</translation>
+    </message>
+    <message>
+        <source>密码短语错误，或者文件已损坏</source>
+        <translation>Frază de acces greșită sau fișier deteriorat</translation>
+    </message>
 </context>
 <context>
     <name>DeviceMenu</name>
@@ -2276,6 +2300,52 @@ Clic dreapta pentru a copia rezultatul</translation>
     <message>
         <source>正在升级</source>
         <translation>Actualizare în curs</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceStateCell</name>
+    <message>
+        <source>未找到</source>
+        <translation>Negăsit</translation>
+    </message>
+    <message>
+        <source>待确认</source>
+        <translation>De confirmat</translation>
+    </message>
+    <message>
+        <source>已初始化</source>
+        <translation>Inițializat</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>Neinițializat</translation>
+    </message>
+    <message>
+        <source>最近一次搜索没有找到该设备</source>
+        <translation>Negăsit la ultima căutare</translation>
+    </message>
+    <message>
+        <source>上次的列表中的设备，尚未找到</source>
+        <translation>Dispozitiv din ultima listă, încă negăsit</translation>
+    </message>
+    <message>
+        <source>最后一次找到：%1</source>
+        <translation>Găsit ultima dată: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DroppedFiles</name>
+    <message>
+        <source>一次只能拖入一个文件</source>
+        <translation>În fereastră se poate trage un singur fișier odată</translation>
+    </message>
+    <message>
+        <source>拖入的不是本机上的文件</source>
+        <translation>Acesta nu este un fișier de pe acest calculator</translation>
+    </message>
+    <message>
+        <source>不支持的文件：%1。可以拖入设备列表（.xlsx、.csv、.xml、.devlist）或现场文件（.site）</source>
+        <translation>Fișier neacceptat: %1. Trageți în fereastră o listă de dispozitive (.xlsx, .csv, .xml, .devlist) sau un fișier de locație (.site)</translation>
     </message>
 </context>
 <context>
@@ -2599,6 +2669,42 @@ Clic dreapta pentru a copia rezultatul</translation>
         <source>文件中的密码是明文。已保存账号的密码不导出。</source>
         <translation>Parolele din fișier sunt în text simplu. Parolele conturilor stocate nu se exportă.</translation>
     </message>
+    <message>
+        <source>文件不含密码。导入前须在文件中填写密码。</source>
+        <translation>Fișierul nu conține parole. Completați-le înainte de import.</translation>
+    </message>
+    <message>
+        <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
+        <translation>Întreaga listă este criptată cu fraza de acces și poate fi citită numai de acest program. Nu poate fi recuperată fără fraza de acces. Parolele conturilor stocate nu se exportă.</translation>
+    </message>
+    <message>
+        <source>完整列表</source>
+        <translation>Listă completă</translation>
+    </message>
+    <message>
+        <source>不含密码</source>
+        <translation>Fără parole</translation>
+    </message>
+    <message>
+        <source>加密（.devlist）</source>
+        <translation>Criptată (.devlist)</translation>
+    </message>
+    <message>
+        <source>密码短语至少 %1 个字符</source>
+        <translation>Fraza de acces necesită cel puțin %1 caractere</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Frază de acces</translation>
+    </message>
+    <message>
+        <source>两次输入不一致</source>
+        <translation>Cele două texte sunt diferite</translation>
+    </message>
+    <message>
+        <source>再次输入密码短语</source>
+        <translation>Repetați fraza de acces</translation>
+    </message>
 </context>
 <context>
     <name>FailedMarks</name>
@@ -2663,6 +2769,17 @@ Clic dreapta pentru a copia rezultatul</translation>
     <message>
         <source>从收藏夹中删除</source>
         <translation>Elimină acest dispozitiv din favorite</translation>
+    </message>
+</context>
+<context>
+    <name>FileDrop</name>
+    <message>
+        <source>请先关闭对话框，再拖入文件</source>
+        <translation>Închideți dialogul înainte de a trage un fișier în fereastră</translation>
+    </message>
+    <message>
+        <source>松开鼠标，导入设备列表或打开现场</source>
+        <translation>Eliberați pentru a importa o listă de dispozitive sau a deschide o locație</translation>
     </message>
 </context>
 <context>
@@ -2878,6 +2995,29 @@ Clic dreapta pentru a copia rezultatul</translation>
     <message>
         <source>没有设备</source>
         <translation>Niciun dispozitiv</translation>
+    </message>
+</context>
+<context>
+    <name>GroupDialog</name>
+    <message>
+        <source>保存</source>
+        <translation>Salvare</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Grup</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备</source>
+        <translation>
+            <numerusform>%n dispozitiv</numerusform>
+            <numerusform>%n dispozitive</numerusform>
+            <numerusform>%n de dispozitive</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>不属于任何分组</source>
+        <translation>Niciun grup</translation>
     </message>
 </context>
 <context>
@@ -3394,6 +3534,41 @@ Clic dreapta pentru a copia rezultatul</translation>
     <message>
         <source>提示</source>
         <translation>Observații</translation>
+    </message>
+</context>
+<context>
+    <name>KnownDevices</name>
+    <message>
+        <source>上次的设备列表 %1 无法读取：%2</source>
+        <translation>Ultima listă de dispozitive %1 nu poate fi citită: %2</translation>
+    </message>
+    <message>
+        <source>分组名称最多 %1 个字符</source>
+        <translation>Numele unui grup are cel mult %1 caractere</translation>
+    </message>
+    <message>
+        <source>P2P设备不能分组</source>
+        <translation>Dispozitivele P2P nu pot fi într-un grup</translation>
+    </message>
+    <message>
+        <source>现场最多 %1 台设备</source>
+        <translation>O locație are cel mult %1 dispozitive</translation>
+    </message>
+    <message>
+        <source>现场无法保存：%1</source>
+        <translation>Locația nu poate fi salvată: %1</translation>
+    </message>
+    <message>
+        <source>设备列表无法保存：%1</source>
+        <translation>Lista de dispozitive nu poate fi salvată: %1</translation>
+    </message>
+    <message>
+        <source>未保存的现场</source>
+        <translation>Locație nesalvată</translation>
+    </message>
+    <message>
+        <source>原现场无法保存：%1</source>
+        <translation>Locația anterioară nu poate fi salvată: %1</translation>
     </message>
 </context>
 <context>
@@ -4146,6 +4321,48 @@ Fișier: </translation>
         <source>覆盖文件</source>
         <translation>Înlocuire fișier</translation>
     </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Liste de dispozitive criptate (*.devlist)</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPGroups</name>
+    <message>
+        <source>分组…</source>
+        <translation>Grup…</translation>
+    </message>
+    <message>
+        <source>从现场中移除</source>
+        <translation>Eliminare din locație</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPNotice</name>
+    <message>
+        <source>重新搜索</source>
+        <translation>Căutare din nou</translation>
+    </message>
+    <message>
+        <source>查看原因</source>
+        <translation>Afișare motive</translation>
+    </message>
+    <message>
+        <source>搜索已停止，列表不完整。</source>
+        <translation>Căutarea a fost oprită; lista este incompletă.</translation>
+    </message>
+    <message>
+        <source>没有找到设备，灰色的是以前找到的设备</source>
+        <translation>Nu s-a găsit niciun dispozitiv. Cele gri au fost găsite anterior.</translation>
+    </message>
+    <message numerus="yes">
+        <source>找到的设备比上次搜索少 %n 台</source>
+        <translation>
+            <numerusform>%n dispozitiv mai puțin decât la ultima căutare</numerusform>
+            <numerusform>%n dispozitive mai puțin decât la ultima căutare</numerusform>
+            <numerusform>%n de dispozitive mai puțin decât la ultima căutare</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPTable</name>
@@ -4186,16 +4403,16 @@ Fișier: </translation>
         <translation>Acțiuni</translation>
     </message>
     <message>
-        <source>已初始化</source>
-        <translation>Inițializat</translation>
-    </message>
-    <message>
-        <source>未初始化</source>
-        <translation>Neinițializat</translation>
-    </message>
-    <message>
         <source>备注</source>
         <translation>Notă</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Grup</translation>
+    </message>
+    <message>
+        <source>新</source>
+        <translation>Nou</translation>
     </message>
 </context>
 <context>
@@ -4705,6 +4922,10 @@ Fișier: </translation>
         <source>展开</source>
         <translation>Extindere</translation>
     </message>
+    <message>
+        <source>新</source>
+        <translation>Nou</translation>
+    </message>
 </context>
 <context>
     <name>OV_MediaPlayer</name>
@@ -4963,18 +5184,6 @@ Fișier: </translation>
         <translation>Export</translation>
     </message>
     <message>
-        <source>查看原因</source>
-        <translation>Afișare motive</translation>
-    </message>
-    <message numerus="yes">
-        <source>找到的设备比上次搜索少 %n 台</source>
-        <translation>
-            <numerusform>%n dispozitiv mai puțin decât la ultima căutare</numerusform>
-            <numerusform>%n dispozitive mai puțin decât la ultima căutare</numerusform>
-            <numerusform>%n de dispozitive mai puțin decât la ultima căutare</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>修改IP地址</source>
         <translation>Modificare adrese IP</translation>
     </message>
@@ -4985,14 +5194,6 @@ Fișier: </translation>
     <message>
         <source>查看勾选设备的图像</source>
         <translation>Imaginile dispozitivelor selectate</translation>
-    </message>
-    <message>
-        <source>重新搜索</source>
-        <translation>Căutare din nou</translation>
-    </message>
-    <message>
-        <source>搜索已停止，列表不完整。</source>
-        <translation>Căutarea a fost oprită; lista este incompletă.</translation>
     </message>
 </context>
 <context>
@@ -5062,6 +5263,17 @@ Fișier: </translation>
     <message>
         <source>；</source>
         <translation>; </translation>
+    </message>
+</context>
+<context>
+    <name>PassphraseDialog</name>
+    <message>
+        <source>加密的设备列表</source>
+        <translation>Listă de dispozitive criptată</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Frază de acces</translation>
     </message>
 </context>
 <context>
@@ -5542,6 +5754,111 @@ Fișier: </translation>
     <message>
         <source>无法打开模拟站点：</source>
         <translation>Site-ul demo nu a putut fi deschis:</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFile</name>
+    <message>
+        <source>文件不是现场文件，或者已损坏</source>
+        <translation>Fișierul nu este un fișier de locație sau este deteriorat</translation>
+    </message>
+    <message>
+        <source>现场文件由更新的版本保存，无法读取</source>
+        <translation>Fișierul de locație provine dintr-o versiune mai nouă și nu poate fi citit</translation>
+    </message>
+    <message>
+        <source>现场文件的设备超过 %1 台</source>
+        <translation>Fișierul de locație are peste %1 dispozitive</translation>
+    </message>
+    <message>
+        <source>现场文件中的名称无效</source>
+        <translation>Numele din fișierul de locație nu este valid</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备的 %2 无效</source>
+        <translation>Dispozitivul %1 din fișierul de locație: %2 nu este valid</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备重复</source>
+        <translation>Dispozitivul %1 din fișierul de locație este duplicat</translation>
+    </message>
+    <message>
+        <source>无法打开文件</source>
+        <translation>Fișierul nu a putut fi deschis</translation>
+    </message>
+    <message>
+        <source>文件过大</source>
+        <translation>Fișierul este prea mare</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFiles</name>
+    <message>
+        <source>现场文件 (*.site)</source>
+        <translation>Fișiere de locație (*.site)</translation>
+    </message>
+    <message>
+        <source>打开现场</source>
+        <translation>Deschidere locație</translation>
+    </message>
+    <message numerus="yes">
+        <source>已打开现场“%1”，共 %n 台设备</source>
+        <translation>
+            <numerusform>Locația „%1” este deschisă, cu %n dispozitiv</numerusform>
+            <numerusform>Locația „%1” este deschisă, cu %n dispozitive</numerusform>
+            <numerusform>Locația „%1” este deschisă, cu %n de dispozitive</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>无法打开现场 %1：%2</source>
+        <translation>Locația %1 nu poate fi deschisă: %2</translation>
+    </message>
+    <message>
+        <source>现场</source>
+        <translation>Locație</translation>
+    </message>
+    <message>
+        <source>现场另存为</source>
+        <translation>Salvare locație ca</translation>
+    </message>
+    <message>
+        <source>现场已保存到 %1</source>
+        <translation>Locația a fost salvată în %1</translation>
+    </message>
+    <message>
+        <source>文件不含密码。</source>
+        <translation>Fișierul nu conține parole.</translation>
+    </message>
+    <message>
+        <source>新建现场后，已知设备和分组从列表中清除。未保存的更改会保留在最近的现场中。</source>
+        <translation>O locație nouă elimină din listă dispozitivele cunoscute și grupurile. Modificările nesalvate se păstrează în locațiile recente.</translation>
+    </message>
+    <message>
+        <source>新建</source>
+        <translation>Nouă</translation>
+    </message>
+    <message>
+        <source>新建现场</source>
+        <translation>Locație nouă</translation>
+    </message>
+</context>
+<context>
+    <name>SiteMenu</name>
+    <message>
+        <source>现场</source>
+        <translation>Locație</translation>
+    </message>
+    <message>
+        <source>打开现场…</source>
+        <translation>Deschidere locație…</translation>
+    </message>
+    <message>
+        <source>现场另存为…</source>
+        <translation>Salvare locație ca…</translation>
+    </message>
+    <message>
+        <source>新建现场…</source>
+        <translation>Locație nouă…</translation>
     </message>
 </context>
 <context>

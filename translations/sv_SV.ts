@@ -2101,6 +2101,30 @@ Högerklicka för att kopiera resultatet</translation>
         <source>字符 %1 在此格式中无法读回</source>
         <translation>Tecknet %1 kan inte läsas tillbaka från det här formatet</translation>
     </message>
+    <message>
+        <source>加密列表的内容无效</source>
+        <translation>Innehållet i den krypterade listan är ogiltigt</translation>
+    </message>
+    <message>
+        <source>文件不是加密的设备列表，或者不完整</source>
+        <translation>Filen är inte en krypterad enhetslista eller är ofullständig</translation>
+    </message>
+    <message>
+        <source>加密列表的版本不受支持</source>
+        <translation>Den här versionen av krypterade listor stöds inte</translation>
+    </message>
+    <message>
+        <source>加密列表的参数无效</source>
+        <translation>Parametrarna i den krypterade listan är ogiltiga</translation>
+    </message>
+    <message>
+        <source>列表已加密，需要密码短语</source>
+        <translation>Listan är krypterad: en lösenfras krävs</translation>
+    </message>
+    <message>
+        <source>密码短语错误，或者文件已损坏</source>
+        <translation>Fel lösenfras, eller så är filen skadad</translation>
+    </message>
 </context>
 <context>
     <name>DeviceMenu</name>
@@ -2238,6 +2262,52 @@ Högerklicka för att kopiera resultatet</translation>
     <message>
         <source>正在升级</source>
         <translation>Uppgradering pågår</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceStateCell</name>
+    <message>
+        <source>未找到</source>
+        <translation>Hittades inte</translation>
+    </message>
+    <message>
+        <source>待确认</source>
+        <translation>Obekräftad</translation>
+    </message>
+    <message>
+        <source>已初始化</source>
+        <translation>Initierad</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>Ej initierad</translation>
+    </message>
+    <message>
+        <source>最近一次搜索没有找到该设备</source>
+        <translation>Hittades inte vid den senaste sökningen</translation>
+    </message>
+    <message>
+        <source>上次的列表中的设备，尚未找到</source>
+        <translation>Enhet från den senaste listan, ännu inte hittad</translation>
+    </message>
+    <message>
+        <source>最后一次找到：%1</source>
+        <translation>Hittades senast: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DroppedFiles</name>
+    <message>
+        <source>一次只能拖入一个文件</source>
+        <translation>Endast en fil i taget kan dras till fönstret</translation>
+    </message>
+    <message>
+        <source>拖入的不是本机上的文件</source>
+        <translation>Detta är inte en fil på den här datorn</translation>
+    </message>
+    <message>
+        <source>不支持的文件：%1。可以拖入设备列表（.xlsx、.csv、.xml、.devlist）或现场文件（.site）</source>
+        <translation>Filen stöds inte: %1. Dra en enhetslista (.xlsx, .csv, .xml, .devlist) eller en anläggningsfil (.site) till fönstret</translation>
     </message>
 </context>
 <context>
@@ -2559,6 +2629,42 @@ Högerklicka för att kopiera resultatet</translation>
         <source>文件中的密码是明文。已保存账号的密码不导出。</source>
         <translation>Lösenorden i filen är i klartext. Lösenord för sparade konton exporteras inte.</translation>
     </message>
+    <message>
+        <source>文件不含密码。导入前须在文件中填写密码。</source>
+        <translation>Filen innehåller inga lösenord. Fyll i dem innan filen importeras.</translation>
+    </message>
+    <message>
+        <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
+        <translation>Hela listan krypteras med lösenfrasen och endast det här verktyget kan läsa den. Den kan inte återställas utan lösenfrasen. Lösenord för sparade konton exporteras inte.</translation>
+    </message>
+    <message>
+        <source>完整列表</source>
+        <translation>Fullständig lista</translation>
+    </message>
+    <message>
+        <source>不含密码</source>
+        <translation>Utan lösenord</translation>
+    </message>
+    <message>
+        <source>加密（.devlist）</source>
+        <translation>Krypterad (.devlist)</translation>
+    </message>
+    <message>
+        <source>密码短语至少 %1 个字符</source>
+        <translation>Lösenfrasen måste ha minst %1 tecken</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Lösenfras</translation>
+    </message>
+    <message>
+        <source>两次输入不一致</source>
+        <translation>De två texterna är olika</translation>
+    </message>
+    <message>
+        <source>再次输入密码短语</source>
+        <translation>Upprepa lösenfrasen</translation>
+    </message>
 </context>
 <context>
     <name>FailedMarks</name>
@@ -2623,6 +2729,17 @@ Högerklicka för att kopiera resultatet</translation>
     <message>
         <source>从收藏夹中删除</source>
         <translation>Tar bort den här enheten från favoriterna</translation>
+    </message>
+</context>
+<context>
+    <name>FileDrop</name>
+    <message>
+        <source>请先关闭对话框，再拖入文件</source>
+        <translation>Stäng dialogrutan innan du drar en fil till fönstret</translation>
+    </message>
+    <message>
+        <source>松开鼠标，导入设备列表或打开现场</source>
+        <translation>Släpp för att importera en enhetslista eller öppna en anläggning</translation>
     </message>
 </context>
 <context>
@@ -2833,6 +2950,28 @@ Högerklicka för att kopiera resultatet</translation>
     <message>
         <source>没有设备</source>
         <translation>Inga enheter</translation>
+    </message>
+</context>
+<context>
+    <name>GroupDialog</name>
+    <message>
+        <source>保存</source>
+        <translation>Spara</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Grupp</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备</source>
+        <translation>
+            <numerusform>%n enhet</numerusform>
+            <numerusform>%n enheter</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>不属于任何分组</source>
+        <translation>Ingen grupp</translation>
     </message>
 </context>
 <context>
@@ -3347,6 +3486,41 @@ Högerklicka för att kopiera resultatet</translation>
     <message>
         <source>提示</source>
         <translation>Anmärkning</translation>
+    </message>
+</context>
+<context>
+    <name>KnownDevices</name>
+    <message>
+        <source>上次的设备列表 %1 无法读取：%2</source>
+        <translation>Den senaste enhetslistan %1 kan inte läsas: %2</translation>
+    </message>
+    <message>
+        <source>分组名称最多 %1 个字符</source>
+        <translation>Namnet på en grupp har högst %1 tecken</translation>
+    </message>
+    <message>
+        <source>P2P设备不能分组</source>
+        <translation>P2P-enheter kan inte tillhöra en grupp</translation>
+    </message>
+    <message>
+        <source>现场最多 %1 台设备</source>
+        <translation>En anläggning har högst %1 enheter</translation>
+    </message>
+    <message>
+        <source>现场无法保存：%1</source>
+        <translation>Anläggningen kan inte sparas: %1</translation>
+    </message>
+    <message>
+        <source>设备列表无法保存：%1</source>
+        <translation>Enhetslistan kan inte sparas: %1</translation>
+    </message>
+    <message>
+        <source>未保存的现场</source>
+        <translation>Osparad anläggning</translation>
+    </message>
+    <message>
+        <source>原现场无法保存：%1</source>
+        <translation>Den föregående anläggningen kan inte sparas: %1</translation>
     </message>
 </context>
 <context>
@@ -4092,6 +4266,47 @@ Fil: </translation>
         <source>覆盖文件</source>
         <translation>Ersätt fil</translation>
     </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Krypterade enhetslistor (*.devlist)</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPGroups</name>
+    <message>
+        <source>分组…</source>
+        <translation>Grupp…</translation>
+    </message>
+    <message>
+        <source>从现场中移除</source>
+        <translation>Ta bort från anläggningen</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPNotice</name>
+    <message>
+        <source>重新搜索</source>
+        <translation>Sök igen</translation>
+    </message>
+    <message>
+        <source>查看原因</source>
+        <translation>Visa orsaker</translation>
+    </message>
+    <message>
+        <source>搜索已停止，列表不完整。</source>
+        <translation>Sökningen stoppades; listan är ofullständig.</translation>
+    </message>
+    <message>
+        <source>没有找到设备，灰色的是以前找到的设备</source>
+        <translation>Ingen enhet hittades. De grå enheterna hittades tidigare.</translation>
+    </message>
+    <message numerus="yes">
+        <source>找到的设备比上次搜索少 %n 台</source>
+        <translation>
+            <numerusform>%n enhet färre än vid senaste sökningen</numerusform>
+            <numerusform>%n enheter färre än vid senaste sökningen</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPTable</name>
@@ -4132,16 +4347,16 @@ Fil: </translation>
         <translation>Åtgärder</translation>
     </message>
     <message>
-        <source>已初始化</source>
-        <translation>Initierad</translation>
-    </message>
-    <message>
-        <source>未初始化</source>
-        <translation>Ej initierad</translation>
-    </message>
-    <message>
         <source>备注</source>
         <translation>Anteckning</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>Grupp</translation>
+    </message>
+    <message>
+        <source>新</source>
+        <translation>Ny</translation>
     </message>
 </context>
 <context>
@@ -4641,6 +4856,10 @@ Fil: </translation>
         <source>展开</source>
         <translation>Expandera</translation>
     </message>
+    <message>
+        <source>新</source>
+        <translation>Ny</translation>
+    </message>
 </context>
 <context>
     <name>OV_MediaPlayer</name>
@@ -4891,17 +5110,6 @@ Fil: </translation>
         <translation>Exportera</translation>
     </message>
     <message>
-        <source>查看原因</source>
-        <translation>Visa orsaker</translation>
-    </message>
-    <message numerus="yes">
-        <source>找到的设备比上次搜索少 %n 台</source>
-        <translation>
-            <numerusform>%n enhet färre än vid senaste sökningen</numerusform>
-            <numerusform>%n enheter färre än vid senaste sökningen</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>修改IP地址</source>
         <translation>Ändra IP-adresser</translation>
     </message>
@@ -4912,14 +5120,6 @@ Fil: </translation>
     <message>
         <source>查看勾选设备的图像</source>
         <translation>Bilder från de valda enheterna</translation>
-    </message>
-    <message>
-        <source>重新搜索</source>
-        <translation>Sök igen</translation>
-    </message>
-    <message>
-        <source>搜索已停止，列表不完整。</source>
-        <translation>Sökningen stoppades; listan är ofullständig.</translation>
     </message>
 </context>
 <context>
@@ -4985,6 +5185,17 @@ Fil: </translation>
     <message>
         <source>；</source>
         <translation>; </translation>
+    </message>
+</context>
+<context>
+    <name>PassphraseDialog</name>
+    <message>
+        <source>加密的设备列表</source>
+        <translation>Krypterad enhetslista</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>Lösenfras</translation>
     </message>
 </context>
 <context>
@@ -5464,6 +5675,110 @@ Fil: </translation>
     <message>
         <source>无法打开模拟站点：</source>
         <translation>Demoanläggningen kunde inte öppnas:</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFile</name>
+    <message>
+        <source>文件不是现场文件，或者已损坏</source>
+        <translation>Filen är inte en anläggningsfil eller är skadad</translation>
+    </message>
+    <message>
+        <source>现场文件由更新的版本保存，无法读取</source>
+        <translation>Anläggningsfilen är från en nyare version och kan inte läsas</translation>
+    </message>
+    <message>
+        <source>现场文件的设备超过 %1 台</source>
+        <translation>Anläggningsfilen har fler än %1 enheter</translation>
+    </message>
+    <message>
+        <source>现场文件中的名称无效</source>
+        <translation>Namnet i anläggningsfilen är ogiltigt</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备的 %2 无效</source>
+        <translation>Enhet %1 i anläggningsfilen: %2 är ogiltig</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备重复</source>
+        <translation>Enhet %1 i anläggningsfilen är en dubblett</translation>
+    </message>
+    <message>
+        <source>无法打开文件</source>
+        <translation>Filen kunde inte öppnas</translation>
+    </message>
+    <message>
+        <source>文件过大</source>
+        <translation>Filen är för stor</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFiles</name>
+    <message>
+        <source>现场文件 (*.site)</source>
+        <translation>Anläggningsfiler (*.site)</translation>
+    </message>
+    <message>
+        <source>打开现场</source>
+        <translation>Öppna anläggning</translation>
+    </message>
+    <message numerus="yes">
+        <source>已打开现场“%1”，共 %n 台设备</source>
+        <translation>
+            <numerusform>Anläggningen ”%1” är öppen, med %n enhet</numerusform>
+            <numerusform>Anläggningen ”%1” är öppen, med %n enheter</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>无法打开现场 %1：%2</source>
+        <translation>Anläggningen %1 kan inte öppnas: %2</translation>
+    </message>
+    <message>
+        <source>现场</source>
+        <translation>Anläggning</translation>
+    </message>
+    <message>
+        <source>现场另存为</source>
+        <translation>Spara anläggning som</translation>
+    </message>
+    <message>
+        <source>现场已保存到 %1</source>
+        <translation>Anläggningen sparades i %1</translation>
+    </message>
+    <message>
+        <source>文件不含密码。</source>
+        <translation>Filen innehåller inga lösenord.</translation>
+    </message>
+    <message>
+        <source>新建现场后，已知设备和分组从列表中清除。未保存的更改会保留在最近的现场中。</source>
+        <translation>En ny anläggning tar bort kända enheter och grupper från listan. Osparade ändringar finns kvar bland de senaste anläggningarna.</translation>
+    </message>
+    <message>
+        <source>新建</source>
+        <translation>Ny</translation>
+    </message>
+    <message>
+        <source>新建现场</source>
+        <translation>Ny anläggning</translation>
+    </message>
+</context>
+<context>
+    <name>SiteMenu</name>
+    <message>
+        <source>现场</source>
+        <translation>Anläggning</translation>
+    </message>
+    <message>
+        <source>打开现场…</source>
+        <translation>Öppna anläggning…</translation>
+    </message>
+    <message>
+        <source>现场另存为…</source>
+        <translation>Spara anläggning som…</translation>
+    </message>
+    <message>
+        <source>新建现场…</source>
+        <translation>Ny anläggning…</translation>
     </message>
 </context>
 <context>

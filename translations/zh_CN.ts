@@ -2064,6 +2064,30 @@
         <source>字符 %1 在此格式中无法读回</source>
         <translation>字符 %1 在此格式中无法读回</translation>
     </message>
+    <message>
+        <source>加密列表的内容无效</source>
+        <translation>加密列表的内容无效</translation>
+    </message>
+    <message>
+        <source>文件不是加密的设备列表，或者不完整</source>
+        <translation>文件不是加密的设备列表，或者不完整</translation>
+    </message>
+    <message>
+        <source>加密列表的版本不受支持</source>
+        <translation>加密列表的版本不受支持</translation>
+    </message>
+    <message>
+        <source>加密列表的参数无效</source>
+        <translation>加密列表的参数无效</translation>
+    </message>
+    <message>
+        <source>列表已加密，需要密码短语</source>
+        <translation>列表已加密，需要密码短语</translation>
+    </message>
+    <message>
+        <source>密码短语错误，或者文件已损坏</source>
+        <translation>密码短语错误，或者文件已损坏</translation>
+    </message>
 </context>
 <context>
     <name>DeviceMenu</name>
@@ -2200,6 +2224,52 @@
     <message>
         <source>正在升级</source>
         <translation>正在升级</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceStateCell</name>
+    <message>
+        <source>未找到</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>待确认</source>
+        <translation>待确认</translation>
+    </message>
+    <message>
+        <source>已初始化</source>
+        <translation>已初始化</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>未初始化</translation>
+    </message>
+    <message>
+        <source>最近一次搜索没有找到该设备</source>
+        <translation>最近一次搜索没有找到该设备</translation>
+    </message>
+    <message>
+        <source>上次的列表中的设备，尚未找到</source>
+        <translation>上次的列表中的设备，尚未找到</translation>
+    </message>
+    <message>
+        <source>最后一次找到：%1</source>
+        <translation>最后一次找到：%1</translation>
+    </message>
+</context>
+<context>
+    <name>DroppedFiles</name>
+    <message>
+        <source>一次只能拖入一个文件</source>
+        <translation>一次只能拖入一个文件</translation>
+    </message>
+    <message>
+        <source>拖入的不是本机上的文件</source>
+        <translation>拖入的不是本机上的文件</translation>
+    </message>
+    <message>
+        <source>不支持的文件：%1。可以拖入设备列表（.xlsx、.csv、.xml、.devlist）或现场文件（.site）</source>
+        <translation>不支持的文件：%1。可以拖入设备列表（.xlsx、.csv、.xml、.devlist）或现场文件（.site）</translation>
     </message>
 </context>
 <context>
@@ -2519,6 +2589,42 @@
         <source>文件中的密码是明文。已保存账号的密码不导出。</source>
         <translation>文件中的密码是明文。已保存账号的密码不导出。</translation>
     </message>
+    <message>
+        <source>文件不含密码。导入前须在文件中填写密码。</source>
+        <translation>文件不含密码。导入前须在文件中填写密码。</translation>
+    </message>
+    <message>
+        <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
+        <translation>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</translation>
+    </message>
+    <message>
+        <source>完整列表</source>
+        <translation>完整列表</translation>
+    </message>
+    <message>
+        <source>不含密码</source>
+        <translation>不含密码</translation>
+    </message>
+    <message>
+        <source>加密（.devlist）</source>
+        <translation>加密（.devlist）</translation>
+    </message>
+    <message>
+        <source>密码短语至少 %1 个字符</source>
+        <translation>密码短语至少 %1 个字符</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>密码短语</translation>
+    </message>
+    <message>
+        <source>两次输入不一致</source>
+        <translation>两次输入不一致</translation>
+    </message>
+    <message>
+        <source>再次输入密码短语</source>
+        <translation>再次输入密码短语</translation>
+    </message>
 </context>
 <context>
     <name>FailedMarks</name>
@@ -2583,6 +2689,17 @@
     <message>
         <source>从收藏夹中删除</source>
         <translation>从收藏夹中删除</translation>
+    </message>
+</context>
+<context>
+    <name>FileDrop</name>
+    <message>
+        <source>请先关闭对话框，再拖入文件</source>
+        <translation>请先关闭对话框，再拖入文件</translation>
+    </message>
+    <message>
+        <source>松开鼠标，导入设备列表或打开现场</source>
+        <translation>松开鼠标，导入设备列表或打开现场</translation>
     </message>
 </context>
 <context>
@@ -2788,6 +2905,27 @@
     <message>
         <source>没有设备</source>
         <translation>没有设备</translation>
+    </message>
+</context>
+<context>
+    <name>GroupDialog</name>
+    <message>
+        <source>保存</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>分组</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 台设备</source>
+        <translation>
+            <numerusform>%n 台设备</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>不属于任何分组</source>
+        <translation>不属于任何分组</translation>
     </message>
 </context>
 <context>
@@ -3300,6 +3438,41 @@
     <message>
         <source>提示</source>
         <translation>提示</translation>
+    </message>
+</context>
+<context>
+    <name>KnownDevices</name>
+    <message>
+        <source>上次的设备列表 %1 无法读取：%2</source>
+        <translation>上次的设备列表 %1 无法读取：%2</translation>
+    </message>
+    <message>
+        <source>分组名称最多 %1 个字符</source>
+        <translation>分组名称最多 %1 个字符</translation>
+    </message>
+    <message>
+        <source>P2P设备不能分组</source>
+        <translation>P2P设备不能分组</translation>
+    </message>
+    <message>
+        <source>现场最多 %1 台设备</source>
+        <translation>现场最多 %1 台设备</translation>
+    </message>
+    <message>
+        <source>现场无法保存：%1</source>
+        <translation>现场无法保存：%1</translation>
+    </message>
+    <message>
+        <source>设备列表无法保存：%1</source>
+        <translation>设备列表无法保存：%1</translation>
+    </message>
+    <message>
+        <source>未保存的现场</source>
+        <translation>未保存的现场</translation>
+    </message>
+    <message>
+        <source>原现场无法保存：%1</source>
+        <translation>原现场无法保存：%1</translation>
     </message>
 </context>
 <context>
@@ -4038,6 +4211,46 @@
         <source>覆盖文件</source>
         <translation>覆盖文件</translation>
     </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>加密的设备列表 (*.devlist)</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPGroups</name>
+    <message>
+        <source>分组…</source>
+        <translation>分组…</translation>
+    </message>
+    <message>
+        <source>从现场中移除</source>
+        <translation>从现场中移除</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPNotice</name>
+    <message>
+        <source>重新搜索</source>
+        <translation>重新搜索</translation>
+    </message>
+    <message>
+        <source>查看原因</source>
+        <translation>查看原因</translation>
+    </message>
+    <message>
+        <source>搜索已停止，列表不完整。</source>
+        <translation>搜索已停止，列表不完整。</translation>
+    </message>
+    <message>
+        <source>没有找到设备，灰色的是以前找到的设备</source>
+        <translation>没有找到设备，灰色的是以前找到的设备</translation>
+    </message>
+    <message numerus="yes">
+        <source>找到的设备比上次搜索少 %n 台</source>
+        <translation>
+            <numerusform>找到的设备比上次搜索少 %n 台</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ModifyIPTable</name>
@@ -4078,16 +4291,16 @@
         <translation>操作</translation>
     </message>
     <message>
-        <source>已初始化</source>
-        <translation>已初始化</translation>
-    </message>
-    <message>
-        <source>未初始化</source>
-        <translation>未初始化</translation>
-    </message>
-    <message>
         <source>备注</source>
         <translation>备注</translation>
+    </message>
+    <message>
+        <source>分组</source>
+        <translation>分组</translation>
+    </message>
+    <message>
+        <source>新</source>
+        <translation>新</translation>
     </message>
 </context>
 <context>
@@ -4577,6 +4790,10 @@
         <source>展开</source>
         <translation>展开</translation>
     </message>
+    <message>
+        <source>新</source>
+        <translation>新</translation>
+    </message>
 </context>
 <context>
     <name>OV_MediaPlayer</name>
@@ -4819,16 +5036,6 @@
         <translation>导出</translation>
     </message>
     <message>
-        <source>查看原因</source>
-        <translation>查看原因</translation>
-    </message>
-    <message numerus="yes">
-        <source>找到的设备比上次搜索少 %n 台</source>
-        <translation>
-            <numerusform>找到的设备比上次搜索少 %n 台</numerusform>
-        </translation>
-    </message>
-    <message>
         <source>修改IP地址</source>
         <translation>修改IP地址</translation>
     </message>
@@ -4839,14 +5046,6 @@
     <message>
         <source>查看勾选设备的图像</source>
         <translation>查看勾选设备的图像</translation>
-    </message>
-    <message>
-        <source>重新搜索</source>
-        <translation>重新搜索</translation>
-    </message>
-    <message>
-        <source>搜索已停止，列表不完整。</source>
-        <translation>搜索已停止，列表不完整。</translation>
     </message>
 </context>
 <context>
@@ -4908,6 +5107,17 @@
     <message>
         <source>；</source>
         <translation>；</translation>
+    </message>
+</context>
+<context>
+    <name>PassphraseDialog</name>
+    <message>
+        <source>加密的设备列表</source>
+        <translation>加密的设备列表</translation>
+    </message>
+    <message>
+        <source>密码短语</source>
+        <translation>密码短语</translation>
     </message>
 </context>
 <context>
@@ -5386,6 +5596,109 @@
     <message>
         <source>无法打开模拟站点：</source>
         <translation>无法打开模拟站点：</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFile</name>
+    <message>
+        <source>文件不是现场文件，或者已损坏</source>
+        <translation>文件不是现场文件，或者已损坏</translation>
+    </message>
+    <message>
+        <source>现场文件由更新的版本保存，无法读取</source>
+        <translation>现场文件由更新的版本保存，无法读取</translation>
+    </message>
+    <message>
+        <source>现场文件的设备超过 %1 台</source>
+        <translation>现场文件的设备超过 %1 台</translation>
+    </message>
+    <message>
+        <source>现场文件中的名称无效</source>
+        <translation>现场文件中的名称无效</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备的 %2 无效</source>
+        <translation>现场文件中第 %1 台设备的 %2 无效</translation>
+    </message>
+    <message>
+        <source>现场文件中第 %1 台设备重复</source>
+        <translation>现场文件中第 %1 台设备重复</translation>
+    </message>
+    <message>
+        <source>无法打开文件</source>
+        <translation>无法打开文件</translation>
+    </message>
+    <message>
+        <source>文件过大</source>
+        <translation>文件过大</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFiles</name>
+    <message>
+        <source>现场文件 (*.site)</source>
+        <translation>现场文件 (*.site)</translation>
+    </message>
+    <message>
+        <source>打开现场</source>
+        <translation>打开现场</translation>
+    </message>
+    <message numerus="yes">
+        <source>已打开现场“%1”，共 %n 台设备</source>
+        <translation>
+            <numerusform>已打开现场“%1”，共 %n 台设备</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>无法打开现场 %1：%2</source>
+        <translation>无法打开现场 %1：%2</translation>
+    </message>
+    <message>
+        <source>现场</source>
+        <translation>现场</translation>
+    </message>
+    <message>
+        <source>现场另存为</source>
+        <translation>现场另存为</translation>
+    </message>
+    <message>
+        <source>现场已保存到 %1</source>
+        <translation>现场已保存到 %1</translation>
+    </message>
+    <message>
+        <source>文件不含密码。</source>
+        <translation>文件不含密码。</translation>
+    </message>
+    <message>
+        <source>新建现场后，已知设备和分组从列表中清除。未保存的更改会保留在最近的现场中。</source>
+        <translation>新建现场后，已知设备和分组从列表中清除。未保存的更改会保留在最近的现场中。</translation>
+    </message>
+    <message>
+        <source>新建</source>
+        <translation>新建</translation>
+    </message>
+    <message>
+        <source>新建现场</source>
+        <translation>新建现场</translation>
+    </message>
+</context>
+<context>
+    <name>SiteMenu</name>
+    <message>
+        <source>现场</source>
+        <translation>现场</translation>
+    </message>
+    <message>
+        <source>打开现场…</source>
+        <translation>打开现场…</translation>
+    </message>
+    <message>
+        <source>现场另存为…</source>
+        <translation>现场另存为…</translation>
+    </message>
+    <message>
+        <source>新建现场…</source>
+        <translation>新建现场…</translation>
     </message>
 </context>
 <context>

@@ -36,23 +36,24 @@ AddingBatches::~AddingBatches()
     m_readers.waitForDone();
 }
 
-void AddingBatches::importList(const QString &title, const QString &path)
+void AddingBatches::importList(const QString &title, const QString &path, const QString &passphrase)
 {
     if (isReading())
         return;
     m_work = m_factory.busyState()->begin(title, BusyState::Rows);
     Q_EMIT readingChanged();
-    m_readers.start([this, title, path] {
+    m_readers.start([this, title, path, passphrase] {
         sdk::giveWayToWindow();
-        const auto list = std::make_shared<List>(readList(title, path));
+        const auto list = std::make_shared<List>(readList(title, path, passphrase));
         QMetaObject::invokeMethod(
             this, [this, list] { takeList(*list); }, Qt::QueuedConnection);
     });
 }
 
-AddingBatches::List AddingBatches::readList(const QString &title, const QString &path) const
+AddingBatches::List AddingBatches::readList(const QString &title, const QString &path,
+                                            const QString &passphrase) const
 {
-    const ImportPlan read = m_factory.backEnd(dhFamily)->importPlan(path);
+    const ImportPlan read = m_factory.backEnd(dhFamily)->importPlan(path, passphrase);
     List list = {.refusal = read.refusal, .plan = {.family = dhFamily, .title = title}, .positions = {}};
     QHash<QString, DeviceStep> steps; // by the names of the lines
     list.plan.devices.reserve(static_cast<qsizetype>(read.lines.size()));

@@ -27,7 +27,8 @@ public:
     /// title that logs in to the devices of the list and adds their rows. `path` is a path or a "file:///"
     /// URL. importBegan() or importRefused() follows; if another batch is running when the file is read,
     /// Batches::refused() follows instead, and nothing is imported. Does nothing while a list is being read.
-    Q_INVOKABLE void importList(const QString &title, const QString &path);
+    /// `passphrase` is that of an encrypted list.
+    Q_INVOKABLE void importList(const QString &title, const QString &path, const QString &passphrase = {});
 
     /// The lines without success of a batch of importBegan(), or of its retry, as maps made by
     /// importFailure(): "line", "address", "code" and "reason". The batch must be that of the latest list:
@@ -60,7 +61,8 @@ private:
         QHash<QString, ImportPosition> positions; ///< position in the file, by the name of the line
     };
 
-    [[nodiscard]] List readList(const QString &title, const QString &path) const; ///< on any thread
+    [[nodiscard]] List readList(const QString &title, const QString &path,
+                                const QString &passphrase) const; ///< on any thread
     void takeList(List &list);
     /// Notifies pages of new rows at most once a second: they read the complete list then.
     void noteRows(const QList<BatchOutcome> &outcomes);

@@ -177,9 +177,15 @@ QVariantList CDeviceDH::exportFaults()
     return m_lists->exportFaults();
 }
 
-ImportPlan CDeviceDH::importPlan(const QString &path)
+bool CDeviceDH::exportProtected(const QString &folder, const QStringList &macs, const QString &fileName,
+                                const ListProtection &protection)
 {
-    return m_lists->importPlan(path, p2pPorts());
+    return m_lists->exportDevices(folder, macs, fileName, protection);
+}
+
+ImportPlan CDeviceDH::importPlan(const QString &path, const QString &passphrase)
+{
+    return m_lists->importPlan(path, passphrase, p2pPorts());
 }
 
 bool CDeviceDH::importDevice(const QString &path, ImportSummary &summary)

@@ -116,7 +116,9 @@ public:
     QVariantList exportFaults() override;
     QVariantList importFailures() override;
     QString importError() override;
-    ImportPlan importPlan(const QString &path) override;
+    ImportPlan importPlan(const QString &path, const QString &passphrase) override;
+    bool exportProtected(const QString &folder, const QStringList &macs, const QString &fileName,
+                         const ListProtection &protection) override;
 
     // SystemOperations: maintenance commands of the system page.
     void systemConfig(const QString &command, const QVariantMap &data, const QStringList &ipports) override;

@@ -19,6 +19,7 @@ enum Role
     NumRole,
     ConflictRole,
     RowIdentityRole,
+    AbsentRole,
     FirstKeyRole, ///< FirstKeyRole + n is rowKeys[n]
 };
 
@@ -41,6 +42,7 @@ constexpr std::array rowKeys = {
     DeviceRowKey::httpport,
     DeviceRowKey::upgradetext,
     noteKey,
+    SiteKey::group,
 };
 
 } // namespace
@@ -66,6 +68,8 @@ QVariant DeviceTableModel::data(const QModelIndex &index, int role) const
         return row.conflict;
     case RowIdentityRole:
         return row.identity;
+    case AbsentRole:
+        return row.isAbsent;
     default:
         break;
     }
@@ -84,10 +88,8 @@ bool DeviceTableModel::setData(const QModelIndex &index, const QVariant &value, 
 QHash<int, QByteArray> DeviceTableModel::roleNames() const
 {
     QHash<int, QByteArray> names = {
-        {CheckedRole, "checked"},
-        {NumRole, "num"},
-        {ConflictRole, "conflict"},
-        {RowIdentityRole, "identity"},
+        {CheckedRole, "checked"},      {NumRole, "num"},       {ConflictRole, "conflict"},
+        {RowIdentityRole, "identity"}, {AbsentRole, "absent"},
     };
     for (std::size_t key = 0; key < rowKeys.size(); ++key)
         names.insert(FirstKeyRole + static_cast<int>(key),
@@ -157,6 +159,19 @@ void DeviceTableModel::setNotes(DeviceNotes *notes)
     refresh();
 }
 
+void DeviceTableModel::setKnownDevices(KnownDevices *known)
+{
+    if (m_known == known)
+        return;
+    if (m_known)
+        m_known->disconnect(this);
+    m_known = known;
+    if (m_known)
+        connect(m_known, &KnownDevices::changed, this, &DeviceTableModel::refresh);
+    Q_EMIT knownDevicesChanged();
+    refresh();
+}
+
 void DeviceTableModel::addNotes(QVariantList &list) const
 {
     if (!m_notes || m_notes->count() == 0)
@@ -216,10 +231,13 @@ QList<DeviceTableRow> DeviceTableModel::readRows()
 {
     // One read for all values: rows may be added or changed between two reads.
     QVariantList list = readList();
-    addNotes(list);
-    m_totalCount = static_cast<int>(list.size());
     uncheckRemoved(list);
     countFailed(list);
+    m_listedCount = static_cast<int>(list.size());
+    if (m_known)
+        m_known->complete(list, m_ipv6);
+    addNotes(list);
+    m_totalCount = static_cast<int>(list.size());
     QList<DeviceTableRow> rows =
         deviceTableRows(list,
                         {.showInitialised = m_showInitialised,
@@ -320,7 +338,10 @@ void DeviceTableModel::refreshDevices(const QStringList &macs)
         const int position = rowOf(mac);
         if (position < 0 || !m_deviceFactory)
             continue;
-        QVariantList read = {m_deviceFactory->backEnd(dhFamily)->deviceRow(mac)};
+        QJsonObject row = m_deviceFactory->backEnd(dhFamily)->deviceRow(mac);
+        if (m_known && !row.isEmpty())
+            m_known->addValues(row, m_ipv6);
+        QVariantList read = {row};
         addNotes(read);
         const QJsonObject values = read.constFirst().toJsonObject();
         if (!values.isEmpty()) // otherwise the device was deleted; the next refresh() removes the row
@@ -364,6 +385,8 @@ void DeviceTableModel::setRangeChecked(int first, int last, bool checked)
     if (first > last)
         return;
     for (int row = first; row <= last; ++row) {
+        if (checked && m_rows.at(row).isAbsent)
+            continue;
         if (checked)
             checkedIdentities().insert(m_rows.at(row).identity);
         else
@@ -381,6 +404,10 @@ void DeviceTableModel::setAllChecked(bool checked)
 void DeviceTableModel::setCheckedDevices(const QStringList &identities)
 {
     checkedIdentities() = QSet<QString>(identities.cbegin(), identities.cend());
+    for (const DeviceTableRow &row : std::as_const(m_rows)) {
+        if (row.isAbsent)
+            checkedIdentities().remove(row.identity);
+    }
     if (!m_rows.isEmpty())
         Q_EMIT dataChanged(index(0), index(rowCount() - 1), {CheckedRole});
     countChecked();
@@ -406,7 +433,13 @@ Qt::CheckState DeviceTableModel::checkState() const
 {
     if (m_checkedCount == 0)
         return Qt::Unchecked;
-    return m_checkedCount == m_rows.size() ? Qt::Checked : Qt::PartiallyChecked;
+    return m_checkedCount == presentCount() ? Qt::Checked : Qt::PartiallyChecked;
+}
+
+qsizetype DeviceTableModel::presentCount() const
+{
+    return std::count_if(m_rows.cbegin(), m_rows.cend(),
+                         [](const DeviceTableRow &row) { return !row.isAbsent; });
 }
 
 QVariantMap DeviceTableModel::get(int row) const
@@ -419,6 +452,7 @@ QVariantMap DeviceTableModel::get(int row) const
     values.insert(RowKey::identity, m_rows.at(row).identity);
     const bool isLost = m_rows.at(row).values.value(DeviceRowKey::lost).toBool();
     values.insert(RowKey::failure, m_failedMarks.messagesOf(m_rows.at(row).identity, isLost));
+    values.insert(RowKey::absent, m_rows.at(row).isAbsent);
     values.insert(RowKey::onlyNotDone, m_failedMarks.isOnlyNotDone(m_rows.at(row).identity));
     return values;
 }
@@ -488,6 +522,13 @@ int DeviceTableModel::deleteChecked()
     const QStringList names = checkedMacs();
     if (!m_deviceFactory)
         return 0;
+    QList<QJsonObject> rows;
+    for (const DeviceTableRow &row : std::as_const(m_rows)) {
+        if (checkedIdentities().contains(row.identity))
+            rows.append(row.values);
+    }
+    if (m_known)
+        m_known->hide(rows, m_ipv6);
     QVariantMap deleted;
     for (const QString &name : names)
         deleted.insert(name, true);

@@ -3,6 +3,7 @@
 
 #include "device/models/devicetablerows.h"
 #include "device/models/followedmarks.h"
+#include "device/sites/knowndevices.h"
 #include "device/store/devicenotes.h"
 
 #include <QAbstractListModel>
@@ -19,11 +20,16 @@ class CDeviceFactory;
 ///  - "checked" (bool), "num" (number of the row as shown, from 1, as text)
 ///  - "conflict": another row has the same "ipport". Rows that a filter hides count; offline devices do not.
 ///  - "identity": the name of the row, see rowName()
-///  - "note": the user's note about the device, which the text search includes
+///  - "absent" (bool, see below)
+///  - "note" and "group": the user's note about the device, and the group of the device in its site, which
+///    the text search includes
 ///
 /// get() returns all keys of the row, also "username" and "password", and in addition "checked", "num",
-/// "identity", "failure" (see FollowedMarks::messagesOf()), "onlyNotDone" (see FailedMarks) and, if the
-/// device has one, "note", but not "conflict".
+/// "identity", "failure" (see FollowedMarks::messagesOf()), "onlyNotDone" (see FailedMarks), "absent" and, if
+/// the device has them, "note" and "group", but not "conflict".
+///
+/// With `knownDevices`, the rows of known devices that are not in the list follow those of the list. They are
+/// "absent": they cannot be checked, and no count of checked rows includes them.
 ///
 /// refresh() reads all rows with one call of the factory's filterData() or filterDataIPV6(); the model then
 /// filters and orders them, so that rows, counts and conflicts are consistent. Check marks belong to the
@@ -50,6 +56,8 @@ class DeviceTableModel : public QAbstractListModel
     /// The marks and the notes are not owned. Null: no device has one.
     Q_PROPERTY(FailedMarks *failedMarks READ failedMarks WRITE setFailedMarks NOTIFY failedMarksChanged)
     Q_PROPERTY(DeviceNotes *notes READ notes WRITE setNotes NOTIFY notesChanged)
+    /// Not owned. Null: only devices of the list are shown.
+    Q_PROPERTY(KnownDevices *knownDevices READ knownDevices WRITE setKnownDevices NOTIFY knownDevicesChanged)
     /// Whether only marked devices are shown, ordered by reason and then by address unless the user has
     /// chosen another order. Becomes false when no mark is left. A change clears failedOperation.
     Q_PROPERTY(bool onlyFailed READ onlyFailed WRITE setOnlyFailed NOTIFY filterChanged)
@@ -61,6 +69,7 @@ class DeviceTableModel : public QAbstractListModel
     Q_PROPERTY(Qt::SortOrder sortOrder READ sortOrder NOTIFY sortChanged)
     Q_PROPERTY(int count READ rowCount NOTIFY countChanged)
     Q_PROPERTY(int totalCount READ totalCount NOTIFY countChanged)
+    Q_PROPERTY(int listedCount READ listedCount NOTIFY countChanged)
     Q_PROPERTY(int failedCount READ failedCount NOTIFY failedCountChanged)
     Q_PROPERTY(int checkedCount READ checkedCount NOTIFY checkedCountChanged)
     Q_PROPERTY(int checkedUpgradingCount READ checkedUpgradingCount NOTIFY checkedCountChanged)
@@ -90,6 +99,8 @@ public:
     void setFailedMarks(FailedMarks *marks);
     [[nodiscard]] DeviceNotes *notes() const { return m_notes; }
     void setNotes(DeviceNotes *notes);
+    [[nodiscard]] KnownDevices *knownDevices() const { return m_known; }
+    void setKnownDevices(KnownDevices *known);
     [[nodiscard]] bool onlyFailed() const { return m_onlyFailed; }
     /// Title of the work to whose marks onlyFailed and failedCount are restricted; empty: all marks. Becomes
     /// empty when that work has no mark left.
@@ -99,7 +110,8 @@ public:
     [[nodiscard]] QString sortKey() const { return m_sortKey; }
     [[nodiscard]] Qt::SortOrder sortOrder() const { return m_sortOrder; }
 
-    [[nodiscard]] int totalCount() const { return m_totalCount; } ///< rows of the list before any filter
+    [[nodiscard]] int totalCount() const { return m_totalCount; }   ///< rows before any filter, also absent
+    [[nodiscard]] int listedCount() const { return m_listedCount; } ///< rows of the list before any filter
     /// Rows of the list with a mark of failedOperation, also those that a filter hides.
     [[nodiscard]] int failedCount() const { return m_failedCount; }
     [[nodiscard]] int checkedCount() const { return m_checkedCount; } ///< shown rows that are checked
@@ -108,7 +120,8 @@ public:
         return m_checkedUpgradingCount;
     }                                                                   ///< checked rows being upgraded
     [[nodiscard]] int conflictCount() const { return m_conflictCount; } ///< shown rows in conflict
-    [[nodiscard]] Qt::CheckState checkState() const; ///< of all shown rows, for the check box of the header
+    [[nodiscard]] Qt::CheckState
+    checkState() const; ///< of the shown rows that can be checked, for the check box of the header
 
     /// Reads the rows again; does nothing without a factory. The page calls it on the factory's
     /// signalAddDeviceToTable.
@@ -174,6 +187,7 @@ Q_SIGNALS:
     void filterChanged();
     void failedMarksChanged();
     void notesChanged();
+    void knownDevicesChanged();
     void sortChanged();
     void countChanged();
     void failedCountChanged();
@@ -184,6 +198,7 @@ private:
     [[nodiscard]] QList<DeviceTableRow> readRows();
     void updateMarks();
     void addNotes(QVariantList &list) const;
+    [[nodiscard]] qsizetype presentCount() const;
     void uncheckRemoved(const QVariantList &list);
     [[nodiscard]] QSet<QString> &checkedIdentities() { return m_ipv6 ? m_checkedIPv6 : m_checkedIPv4; }
     [[nodiscard]] const QSet<QString> &checkedIdentities() const
@@ -202,7 +217,8 @@ private:
     bool m_ipv6 = false;
     QString m_searchText;
     FollowedMarks m_failedMarks;
-    QPointer<DeviceNotes> m_notes; ///< not owned; null without notes
+    QPointer<DeviceNotes> m_notes;  ///< not owned; null without notes
+    QPointer<KnownDevices> m_known; ///< not owned; null without known devices
     bool m_onlyFailed = false;
     bool m_oddAddressesFirst = false;
     QString m_sortKey; ///< empty: the order of the list
@@ -214,6 +230,7 @@ private:
     QSet<QString> m_checkedIPv4;
     QSet<QString> m_checkedIPv6;
     int m_totalCount = 0;
+    int m_listedCount = 0;
     int m_failedCount = 0;
     int m_checkedCount = 0;
     int m_checkedUpgradingCount = 0;

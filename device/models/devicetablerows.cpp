@@ -1,6 +1,7 @@
 #include "device/models/devicetablerows.h"
 
 #include "device/models/followedmarks.h"
+#include "device/sites/knowndevice.h"
 #include "device/store/devicefilter.h"
 #include "device/store/devicenotes.h"
 #include "device/store/devicerow.h"
@@ -18,8 +19,10 @@ bool isShown(const QJsonObject &row, const DeviceTableFilter &filter)
 {
     const bool isWanted =
         row.value(DeviceRowKey::state).toBool() ? filter.showInitialised : filter.showUninitialised;
-    return isWanted && (filter.searchText.isEmpty() || containsText(row, filter.searchText) ||
-                        row.value(noteKey).toString().contains(filter.searchText, Qt::CaseInsensitive));
+    return isWanted &&
+           (filter.searchText.isEmpty() || containsText(row, filter.searchText) ||
+            row.value(noteKey).toString().contains(filter.searchText, Qt::CaseInsensitive) ||
+            row.value(SiteKey::group).toString().contains(filter.searchText, Qt::CaseInsensitive));
 }
 
 QList<DeviceTableRow> ordered(QList<DeviceTableRow> rows, const DeviceTableOrder &wanted, bool isByReason)
@@ -88,7 +91,8 @@ QList<DeviceTableRow> deviceTableRows(const QVariantList &list, const DeviceTabl
         const QJsonObject values = value.toJsonObject();
         const QString ipport = values.value(DeviceRowKey::ipport).toString();
         // The address of an offline device may be used by another device now.
-        const bool isLost = values.value(DeviceRowKey::lost).toBool();
+        const bool isKnownOnly = isAbsent(values);
+        const bool isLost = isKnownOnly || values.value(DeviceRowKey::lost).toBool();
         rowsOfAddress[ipport] += isLost ? 0 : 1;
         if (!isShown(values, filter))
             continue;
@@ -96,15 +100,15 @@ QList<DeviceTableRow> deviceTableRows(const QVariantList &list, const DeviceTabl
         const QString reason = filter.onlyThose ? filter.onlyThose->reasonOf(identity) : QString();
         if (filter.onlyThose && reason.isEmpty())
             continue;
-        shown.append({.values = values, .identity = identity, .reason = reason});
+        shown.append({.values = values, .identity = identity, .isAbsent = isKnownOnly, .reason = reason});
         addresses.append(ipport);
     }
     for (qsizetype index = 0; index < shown.size(); ++index) {
         // A device without an address (waiting for DHCP) has ":port" only and cannot be in conflict.
         const QString &ipport = addresses.at(index);
         const bool isLost = shown.at(index).values.value(DeviceRowKey::lost).toBool();
-        shown[index].conflict =
-            !ipport.startsWith(QLatin1Char(':')) && rowsOfAddress.value(ipport) > (isLost ? 0 : 1);
+        shown[index].conflict = !shown.at(index).isAbsent && !ipport.startsWith(QLatin1Char(':')) &&
+                                rowsOfAddress.value(ipport) > (isLost ? 0 : 1);
     }
     const bool isByReason = order.key.isEmpty() && filter.onlyThose;
     return order.key.isEmpty() && !isByReason ? shown : ordered(std::move(shown), order, isByReason);

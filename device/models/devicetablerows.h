@@ -17,6 +17,7 @@ struct DeviceTableRow
     QJsonObject values;
     QString identity;      ///< see rowName()
     bool conflict = false; ///< another row of a device that is not offline has the same "ipport"
+    bool isAbsent = false; ///< the device is known, but not in the list: nothing can be done with it
     QString reason = {};   ///< FollowedMarks::reasonOf(); empty unless only marked devices are shown
 
     /// The value of a key. A missing key (IPv6 rows lack some) gives the initial value of new rows.
@@ -33,7 +34,8 @@ struct DeviceTableFilter
 {
     bool showInitialised = true;
     bool showUninitialised = true;
-    /// A text in the values (see containsText()) or the note of a row, ignoring the case; empty: all rows.
+    /// A text in the values (see containsText()), the note or the group of a row, ignoring the case; empty:
+    /// all rows.
     QString searchText = {};
     const FollowedMarks *onlyThose = nullptr; ///< not null: rows with a mark for its operation() only
 };

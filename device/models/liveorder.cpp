@@ -1,6 +1,7 @@
 #include "device/models/liveorder.h"
 
 #include "device/models/devicetablemodel.h"
+#include "device/models/modelkeys.h"
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
 #include "device/store/devicerow.h"
@@ -9,12 +10,12 @@
 
 namespace {
 
-/// A device can be watched if it is initialised and has an address.
+/// A device can be watched if it is listed, initialised, and has an address.
 bool canBeWatched(const QVariantMap &row)
 {
     const QString ipport = row.value(DeviceRowKey::ipport).toString();
-    return row.value(DeviceRowKey::state, true).toBool() && !ipport.isEmpty() &&
-           !ipport.startsWith(QLatin1Char(':'));
+    return !row.value(RowKey::absent).toBool() && row.value(DeviceRowKey::state, true).toBool() &&
+           !ipport.isEmpty() && !ipport.startsWith(QLatin1Char(':'));
 }
 
 QString addressOf(const QVariant &row)

@@ -18,6 +18,8 @@ inline constexpr QLatin1StringView changed("changed"); ///< bool: differs from t
 inline constexpr QLatin1StringView failure("failure");
 /// Bool: all marks of the device are from batches that did not reach it; true without marks.
 inline constexpr QLatin1StringView onlyNotDone("onlyNotDone");
+/// Bool: the device is known from an earlier search, but not in the list, see KnownDevices.
+inline constexpr QLatin1StringView absent("absent");
 
 // Devices of batches, their previews and their results.
 inline constexpr QLatin1StringView device("device");         ///< "address:port", or another name for the user

@@ -97,6 +97,8 @@ QVariant OVTreeModel::deviceData(const Device &device, int role) const
         return m_failedMarks.messagesOf(device.identity, device.isLost);
     case OnlyNotDoneRole:
         return m_failedMarks.isOnlyNotDone(device.identity);
+    case NewRole:
+        return device.isNew;
     case Qt::ToolTipRole:
         return device.detail;
     default:
@@ -254,6 +256,23 @@ void OVTreeModel::setFailedMarks(FailedMarks *marks)
     m_failedMarks.follow(marks, this, &OVTreeModel::failedMarksChanged, &OVTreeModel::updateMarks);
 }
 
+void OVTreeModel::setKnownDevices(KnownDevices *known)
+{
+    if (m_known == known)
+        return;
+    if (m_known)
+        m_known->disconnect(this);
+    m_known = known;
+    const auto readAgain = [this] {
+        if (!m_filterType.isEmpty()) // the tree was filled before
+            resetItems(m_filterType, m_searchText);
+    };
+    if (m_known)
+        connect(m_known, &KnownDevices::changed, this, readAgain);
+    Q_EMIT knownDevicesChanged();
+    readAgain();
+}
+
 void OVTreeModel::setShown(Shown shown)
 {
     if (std::exchange(m_shown, shown) == shown)
@@ -402,6 +421,10 @@ OVTreeModel::Device OVTreeModel::deviceOf(const QString &identity, const QJsonOb
     device.isUpgrading =
         UpgradeTools::isRunning(row.value(DeviceRowKey::upgraderes).toInt(UpgradeTools::None));
     device.isLost = row.value(DeviceRowKey::lost).toBool();
+    QJsonObject values = row;
+    if (m_known)
+        m_known->addValues(values, false);
+    device.isNew = values.value(SiteKey::presence).toInt() == int(Presence::New);
     return device;
 }
 

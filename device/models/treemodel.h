@@ -2,6 +2,7 @@
 #pragma once
 
 #include "device/models/followedmarks.h"
+#include "device/sites/knowndevices.h"
 
 #include <QAbstractItemModel>
 #include <QHash>
@@ -34,6 +35,8 @@ class OVTreeModel : public QAbstractItemModel
         CDeviceFactory *deviceFactory READ deviceFactory WRITE setDeviceFactory NOTIFY deviceFactoryChanged)
     /// Not owned. Null: no device is marked.
     Q_PROPERTY(FailedMarks *failedMarks READ failedMarks WRITE setFailedMarks NOTIFY failedMarksChanged)
+    /// Not owned. Null: no device is marked as new.
+    Q_PROPERTY(KnownDevices *knownDevices READ knownDevices WRITE setKnownDevices NOTIFY knownDevicesChanged)
     Q_PROPERTY(Shown shown READ shown WRITE setShown NOTIFY shownChanged)
     Q_PROPERTY(QString failedOperation READ failedOperation WRITE setFailedOperation NOTIFY shownChanged)
     Q_PROPERTY(int loggedOutCount READ loggedOutCount NOTIFY checkedDevicesChanged)
@@ -74,6 +77,7 @@ public:
         IdentityRole,    ///< not in roleNames(): unique string of a device, or of a group among the groups
         FailureRole,     ///< not in roleNames(): see FollowedMarks::messagesOf()
         OnlyNotDoneRole, ///< not in roleNames(): see FailedMarks::isOnlyNotDone()
+        NewRole,         ///< not in roleNames(): the device is Presence::New
         LabelRole,       ///< not in roleNames(): the address, without the port that most devices have
     };
 
@@ -95,6 +99,8 @@ public:
     void setDeviceFactory(CDeviceFactory *deviceFactory);
     [[nodiscard]] FailedMarks *failedMarks() const { return m_failedMarks.get(); }
     void setFailedMarks(FailedMarks *marks);
+    [[nodiscard]] KnownDevices *knownDevices() const { return m_known; }
+    void setKnownDevices(KnownDevices *known);
     [[nodiscard]] Shown shown() const { return m_shown; }
     void setShown(Shown shown);
     /// Title of the work to whose marks Shown::Failed and the counts are restricted; empty: all marks.
@@ -170,6 +176,7 @@ public:
 Q_SIGNALS:
     void deviceFactoryChanged();
     void failedMarksChanged();
+    void knownDevicesChanged();
     void shownChanged();          ///< `shown` or `failedOperation` has changed
     void checkedDevicesChanged(); ///< check marks, marks or the devices of the tree may have changed
 
@@ -183,6 +190,7 @@ private:
         QString detail = {}; ///< tool tip: name and model
         bool isUpgrading = false;
         bool isLost = false;
+        bool isNew = false;
     };
     struct Group
     {
@@ -210,6 +218,7 @@ private:
 
     QPointer<CDeviceFactory> m_deviceFactory; ///< not owned; may be destroyed before this object
     FollowedMarks m_failedMarks;
+    QPointer<KnownDevices> m_known; ///< not owned; null without known devices
     Shown m_shown = All;
     int m_loggedOutCount = 0;
     int m_failedCount = 0;

@@ -95,6 +95,8 @@ QVariant DeviceTreeRows::data(const QModelIndex &index, int role) const
         return isGroup ? QString() : fromTree(OVTreeModel::FailureRole);
     case OnlyNotDoneRole:
         return !isGroup && fromTree(OVTreeModel::OnlyNotDoneRole).toBool();
+    case IsNewRole:
+        return !isGroup && fromTree(OVTreeModel::NewRole).toBool();
     default:
         return {};
     }
@@ -112,7 +114,8 @@ QHash<int, QByteArray> DeviceTreeRows::roleNames() const
             {CountRole, "deviceCount"},
             {IdentityRole, "identity"},
             {FailureRole, "failure"},
-            {OnlyNotDoneRole, "onlyNotDone"}};
+            {OnlyNotDoneRole, "onlyNotDone"},
+            {IsNewRole, "isNew"}};
 }
 
 void DeviceTreeRows::setOpen(int row, bool open)

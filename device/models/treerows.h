@@ -31,6 +31,7 @@ public:
         IdentityRole,             ///< "identity": unique string, for rowOf()
         FailureRole,              ///< "failure": see FollowedMarks::messagesOf(); empty for a group
         OnlyNotDoneRole,          ///< "onlyNotDone": see FailedMarks::isOnlyNotDone(); false for a group
+        IsNewRole,                ///< "isNew": of a device, see OVTreeModel::NewRole
     };
 
     explicit DeviceTreeRows(QObject *parent = nullptr) : QAbstractListModel(parent) {}

@@ -3,6 +3,7 @@
 #include "device/registry/deviceimages.h"
 #include "device/registry/deviceimport.h"
 #include "device/registry/deviceinspection.h"
+#include "device/registry/listprotection.h"
 #include "device/registry/ownsession.h"
 #include "device/registry/pagestep.h"
 #include "device/registry/upgradeplan.h"
@@ -309,8 +310,17 @@ public:
     virtual DeviceStep addingStep(const DeviceToAdd &device);
 
     /// Reads a device list and returns the steps of importDevice(), without running them. Any thread; blocks
-    /// it while reading the file. `path` is a path or "file:///" URL.
-    virtual ImportPlan importPlan(const QString & /*path*/) { return {}; }
+    /// it while reading the file. `path` is a path or "file:///" URL. `passphrase` is that of an encrypted
+    /// list; empty for other lists.
+    virtual ImportPlan importPlan(const QString & /*path*/, const QString & /*passphrase*/) { return {}; }
+
+    /// For exportDevice(), with passwords protected as `protection` states. Returns false if the passphrase
+    /// does not fit the format of `fileName`.
+    virtual bool exportProtected(const QString & /*folder*/, const QStringList & /*macs*/,
+                                 const QString & /*fileName*/, const ListProtection & /*protection*/)
+    {
+        return {};
+    }
 
     /// The row of this name, of either list; empty if there is none. It may contain the password. The default
     /// converts getDeviceDetail().

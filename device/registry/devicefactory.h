@@ -290,6 +290,14 @@ public:
     /// The reason why setAddDevice() fails for every device, in the user's language, see
     /// P2PPorts::faultText(). Otherwise empty.
     Q_INVOKABLE QString p2pFault();
+    /// CDeviceBase::exportProtected(). An empty `passphrase` means a list that is not encrypted.
+    Q_INVOKABLE bool exportProtected(const QString &family, const QString &folder, const QStringList &macs,
+                                     const QString &fileName, bool leavesOutPasswords,
+                                     const QString &passphrase)
+    {
+        return backEnd(family)->exportProtected(
+            folder, macs, fileName, {.leavesOutPasswords = leavesOutPasswords, .passphrase = passphrase});
+    }
     /// Strings that the format of the last exported list cannot keep: maps with the keys of ExportFaultKey.
     Q_INVOKABLE QVariantList exportFaults(const QString &family) { return backEnd(family)->exportFaults(); }
     /// The lines of the last imported list that failed: maps with the keys of ListLineKey.

@@ -137,6 +137,28 @@ QString DeviceNotes::setNote(const QVariantMap &row, const QString &note)
             return tr("最多可以保存 %1 条备注").arg(mostNotes);
         notes.insert(identities.constFirst(), text);
     }
+    return replace(std::move(notes));
+}
+
+QString DeviceNotes::addMissing(const QList<std::pair<QJsonObject, QString>> &added)
+{
+    QHash<QString, QString> notes = m_notes;
+    for (const auto &[row, note] : added) {
+        const QStringList identities = identitiesOf(row.value(DeviceRowKey::mac).toString(),
+                                                    row.value(DeviceRowKey::identity).toString());
+        const QString text = note.simplified().left(longestNote());
+        if (!identities.isEmpty() && !text.isEmpty() && firstNote(notes, identities).isEmpty() &&
+            notes.size() < mostNotes)
+            notes.insert(identities.constFirst(), text);
+    }
+    if (notes.size() == m_notes.size())
+        return {};
+    return m_state == State::Unopened ? m_problem : replace(std::move(notes));
+}
+
+/// Writes the notes and uses them from now on. Returns the reason of a failure in the user's language.
+QString DeviceNotes::replace(QHash<QString, QString> notes)
+{
     const QString failure = write(notes);
     if (!failure.isEmpty()) {
         qCWarning(logDevice).noquote() << "cannot write" << m_path << "-" << failure;

@@ -2,9 +2,12 @@
 #pragma once
 
 #include <QHash>
+#include <QList>
 #include <QObject>
 #include <QString>
 #include <QVariantMap>
+
+#include <utility>
 
 class QJsonObject;
 
@@ -59,6 +62,10 @@ public:
     /// is written. A note that is equal to the earlier one is not written.
     Q_INVOKABLE [[nodiscard]] QString setNote(const QVariantMap &row, const QString &note);
 
+    /// Adds notes to devices that have none, in one write. Each note belongs to the device of its row.
+    /// Devices without MAC and UUID, and notes beyond the limits, are left out. Returns as setNote().
+    [[nodiscard]] QString addMissing(const QList<std::pair<QJsonObject, QString>> &notes);
+
 Q_SIGNALS:
     /// A note was stored or removed, or setNote() has tried again to read a file that could not be opened
     /// before.
@@ -74,6 +81,7 @@ private:
     };
 
     void read();
+    [[nodiscard]] QString replace(QHash<QString, QString> notes);
     [[nodiscard]] QString write(const QHash<QString, QString> &notes) const;
 
     const QString m_path;

@@ -19,6 +19,7 @@ T.ApplicationWindow {
     readonly property SiteReport siteReport: SiteReportApi
     readonly property var colourScheme: ColourSchemeApi  // a ColourScheme, which stores the choice of colours
     readonly property DeviceNotes notes: DeviceNotesApi  // notes of the user about devices
+    readonly property KnownDevices knownDevices: KnownDevicesApi  // devices of earlier searches
     readonly property var memory: ViewMemoryApi  // a ViewMemory: named texts in the settings, such as "tab"
     readonly property var crashReports: CrashReportsApi  // a CrashReports
     readonly property var cgiManager: CGIConfigManageApi  // a CGIConfigManage
@@ -132,6 +133,8 @@ T.ApplicationWindow {
         languageList.remove(localConfig.getRemoveLanguageList());
         if (notes.problem !== "")
             popups.notify(notes.problem, OVToast.Error);
+        if (knownDevices.problem !== "")
+            popups.notify(knownDevices.problem, OVToast.Error);
     }
 
     // Qt loses the maximised state of a window when it is minimised: the window restores it.
@@ -200,6 +203,7 @@ T.ApplicationWindow {
         id: search
         busyState: window.busyState
         deviceFactory: window.deviceFactory
+        knownDevices: window.knownDevices
         searchReports: window.searchReports
         onLimited: (rows, leftOut) => popups.showMessage(
             qsTr("搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。").arg(rows).arg(leftOut))
@@ -280,6 +284,7 @@ T.ApplicationWindow {
             batches: window.batches
             busyState: window.busyState
             currentIndex: window.currentTab
+            knownDevices: window.knownDevices
             libraryInstalled: window.libraryInstalled
             memory: window.memory
             notes: window.notes
@@ -291,6 +296,16 @@ T.ApplicationWindow {
             onSearchRequested: window.requestSearch()
             onSettingsRequested: popups.openSearchSettings(searchSettings.read())
         }
+    }
+
+    FileDrop {
+        anchors.fill: parent
+        onListDropped: path => {
+            window.showTab(0);
+            pages.importList(path);
+        }
+        onNotify: (message, severity) => popups.notify(message, severity)
+        onSiteDropped: path => popups.openSite(path)
     }
 
     Rectangle {  // border, as drawn by a window manager for other windows
@@ -316,6 +331,7 @@ T.ApplicationWindow {
         currentLanguage: window.chosenLanguage
         deviceFactory: window.deviceFactory
         fileDialogs: window.fileDialogs
+        knownDevices: window.knownDevices
         languages: languageList.entries
         localConfig: window.localConfig
         logoName: window.title

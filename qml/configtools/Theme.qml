@@ -200,6 +200,7 @@ QtObject {
     // and Chinese characters alike; the metrics of the fonts differ by a pixel.
     readonly property real baselineShift: 0.37
     readonly property real lineRatio: 1.5
+    readonly property real absentOpacity: 0.6  // of rows with nothing to do
     /// The renderType of texts. MainWindow sets it: native rendering only at an integer scale of the screen. Native
     /// rendering aligns glyphs to whole pixels of the window, which are not whole pixels of the screen at a scale such
     /// as 1.5: distances and weights would differ.

@@ -36,6 +36,7 @@
 #include "device/registry/upgradetools.h"
 #include "device/search/addresstools.h"
 #include "device/search/searchreports.h"
+#include "device/sites/knowndevices.h"
 #include "device/store/devicenotes.h"
 #include "device/work/devicework.h"
 #include "device/work/livesession.h"
@@ -65,6 +66,14 @@ struct DeviceNotesForeign
     Q_GADGET
     QML_FOREIGN(DeviceNotes)
     QML_NAMED_ELEMENT(DeviceNotes)
+    QML_UNCREATABLE("there is one instance per application")
+};
+
+struct KnownDevicesForeign
+{
+    Q_GADGET
+    QML_FOREIGN(KnownDevices)
+    QML_NAMED_ELEMENT(KnownDevices)
     QML_UNCREATABLE("there is one instance per application")
 };
 

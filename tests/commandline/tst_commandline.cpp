@@ -180,6 +180,11 @@ private Q_SLOTS:
         row("damaged file of a visit", {"report", "--visit", file("{}\n", "visit.txt"), "--devices", "all"},
             "--visit");
         row("list format", {"export", "site.txt", "--devices", "all"}, ".csv");
+        row("passphrase", {"export", "site.devlist", "--devices", "all", "--passphrase", "long enough"},
+            "--passphrase-file");
+        row("short passphrase",
+            {"export", "site.devlist", "--devices", "all", "--passphrase-file", file("1234567", "short.txt")},
+            "8 characters");
         row("password as an argument", {"get", "encode", "--password", "secret7"}, "is not accepted");
         row("password as an argument with =", {"get", "encode", "--password=secret7"}, "is not accepted");
     }
@@ -404,6 +409,38 @@ private Q_SLOTS:
         QVERIFY(m_site->site->requests().of("NetStartSearchDevicesEx").isEmpty());
         const Outcome absent = run({"import", m_folder.filePath("absent.csv")});
         QCOMPARE(absent.exitCode, int(NothingDone));
+    }
+
+    void listsAreProtected()
+    {
+        const QString list = m_folder.filePath("site.devlist");
+        m_answers = {"long enough", "long enougH"};
+        const QStringList exporting = {"export",          list,      "--devices", "192.168.1.1",
+                                       "--password-file", password()};
+        QCOMPARE(run(exporting).exitCode, int(UsageError)); // the answers differ
+        QVERIFY(!QFile::exists(list));
+        m_answers = {"long enough", "long enough"};
+        const Outcome exported = run(exporting);
+        QCOMPARE(exported.exitCode, 0);
+        QVERIFY(exported.messages.contains("encrypted"));
+        m_site->factory->setDefaultAccount("dh", {}, {});
+        m_answers = {"wrong one"};
+        QCOMPARE(run({"import", list}).exitCode, int(NothingDone));
+        m_answers = {"long enough"};
+        QCOMPARE(fieldsOf(run({"import", list, "--format", "json"}).results, "result"), QStringList{"done"});
+        m_answers.clear();
+        const QString phrase = file("long enough\n", "phrase.txt");
+        QCOMPARE(run({"import", list, "--passphrase-file", phrase}).exitCode, 0);
+
+        const QString readable = m_folder.filePath("readable.xml");
+        QCOMPARE(run({"export", readable, "--devices", "192.168.1.1", "--password-file", password(),
+                      "--without-passwords"})
+                     .exitCode,
+                 0);
+        QFile xml(readable);
+        QVERIFY(xml.open(QIODevice::ReadOnly));
+        const QByteArray text = xml.readAll();
+        QVERIFY(text.contains("admin") && !text.contains("secret1"));
     }
 };
 

@@ -81,6 +81,9 @@ void removeEarlierSettings(const QString &stage, const QString &language)
     QDir(QCoreApplication::applicationDirPath() + u"/snap"_s).removeRecursively();
     QFile::remove(QCoreApplication::applicationDirPath() + u"/cgicommands.json"_s);
     QFile::remove(QCoreApplication::applicationDirPath() + u"/notes-demo.json"_s);
+    QDir folder(QCoreApplication::applicationDirPath());
+    for (const QFileInfo &file : folder.entryInfoList({u"site*"_s}, QDir::Files | QDir::Dirs))
+        file.isDir() ? QDir(file.filePath()).removeRecursively() : QFile::remove(file.filePath());
     CLocalConfig localConfig(QCoreApplication::applicationDirPath());
     localConfig.setLanguage(language);
     localConfig.setColourScheme(u"light"_s); // regardless of the desktop

@@ -1,6 +1,7 @@
 #include "sdk/clock.h"
 #include "sdk/demo/demosite.h"
 #include "tests/tour/driver/commonsteps.h"
+#include "tests/tour/driver/rows.h"
 #include "tests/tour/steps.h"
 
 using namespace Qt::StringLiterals;
@@ -25,9 +26,10 @@ int counter(const Driver &driver)
     return driver.text(u"counterNumber"_s).toInt();
 }
 
+/// Devices of the list, without those that are known only.
 int rows(const Driver &driver)
 {
-    return driver.require(u"deviceTable"_s)->property("count").toInt();
+    return Rows(driver).countOf("absent", false);
 }
 
 /// The settings stay open and show the reason of the refusal.

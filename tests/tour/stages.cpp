@@ -80,6 +80,13 @@ const QList<Stage> &stagesOfTour()
              [](Driver &driver, DemoSite *) {
                  walkRestoredAgain(driver);
              }},
+        {.name = u"known"_s,
+         .scene = u"office"_s,
+         .continues = true,
+         .drive =
+             [](Driver &driver, DemoSite *site) {
+                 walkKnown(driver, *site, driver.imageFolder() + u"/sites"_s);
+             }},
         {.name = u"gallery"_s,
          .scene = u"office"_s,
          .password = u"Office-2024"_s,

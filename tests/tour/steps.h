@@ -69,6 +69,9 @@ void walkColumns(Driver &driver);
 void walkRestored(Driver &driver);
 /// After walkRestored() and another restart: checks the default columns, the notes and the maximised window.
 void walkRestoredAgain(Driver &driver);
+/// A later start with the devices of the last list: greyed, found again, missing. Groups and sites in
+/// `folder`.
+void walkKnown(Driver &driver, sdk::demo::DemoSite &site, const QString &folder);
 /// Starts a second instance of the application, which must end with a message that the application runs
 /// already. `imageFolder` receives an image of the message.
 void walkSecondStart(Driver &driver, const QString &imageFolder);

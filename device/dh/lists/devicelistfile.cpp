@@ -1,8 +1,10 @@
 #include "device/dh/lists/devicelistfile.h"
 
 #include "device/dh/lists/csvdevicelist.h"
+#include "device/dh/lists/encryptedlist.h"
 #include "device/dh/lists/xlsxdevicelist.h"
 #include "device/dh/lists/xmldevicelist.h"
+#include "device/registry/listprotection.h"
 #include "device/store/logging.h"
 #include "files/filereplacement.h"
 
@@ -21,6 +23,7 @@ enum class ListFormat
 {
     Xlsx,
     Csv,
+    Encrypted,
     Xml,
 };
 
@@ -29,6 +32,8 @@ ListFormat formatOf(const QString &path)
     const QString suffix = QFileInfo(path).suffix().toLower();
     if (suffix == QLatin1String("xlsx"))
         return ListFormat::Xlsx;
+    if (suffix == encryptedListSuffix)
+        return ListFormat::Encrypted;
     return suffix == QLatin1String("csv") ? ListFormat::Csv : ListFormat::Xml;
 }
 
@@ -47,7 +52,8 @@ DeviceListContents readBack(ListFormat format, const std::vector<DeviceListLine>
     QBuffer file;
     switch (format) {
     case ListFormat::Xlsx:
-        // Workbook cells keep every character. Truncation and trimming are the same in all formats.
+    case ListFormat::Encrypted:
+        // Both keep every character. Truncation and trimming are the same in all formats.
         for (const DeviceListLine &line : lines)
             contents.add(line);
         for (DeviceListLine &line : contents.lines) {
@@ -110,9 +116,21 @@ DeviceListContents refusal(const QString &reason)
 
 } // namespace
 
-bool writeDeviceList(const QString &path, const std::vector<DeviceListLine> &lines)
+bool writeDeviceList(const QString &path, const std::vector<DeviceListLine> &lines, const QString &passphrase)
 {
-    switch (formatOf(path)) {
+    const ListFormat format = formatOf(path);
+    // An encrypted list in a readable format, or the reverse, would not protect the passwords.
+    const bool isProtected =
+        format == ListFormat::Encrypted ? passphrase.size() >= shortestPassphrase : passphrase.isEmpty();
+    if (!isProtected) {
+        qCWarning(logDevice).noquote() << "the passphrase does not fit the format of" << path;
+        return false;
+    }
+    switch (format) {
+    case ListFormat::Encrypted: {
+        const QByteArray file = encryptedListOf(lines, passphrase);
+        return !file.isEmpty() && writeText(path, file);
+    }
     case ListFormat::Xlsx:
         return writeXlsx(path, lines);
     case ListFormat::Csv:
@@ -146,7 +164,7 @@ std::vector<UnreadableText> unreadableTexts(const QString &fileName, const std::
     return lost;
 }
 
-DeviceListContents readDeviceList(const QString &path)
+DeviceListContents readDeviceList(const QString &path, const QString &passphrase)
 {
     QFile file(path);
     // A folder or a pipe can be opened as well; reading a pipe would not end.
@@ -161,6 +179,8 @@ DeviceListContents readDeviceList(const QString &path)
         return readXlsx(path);
     case ListFormat::Csv:
         return readCsv(file);
+    case ListFormat::Encrypted:
+        return readEncryptedList(file.read(maximumFileSize), passphrase);
     case ListFormat::Xml:
         break;
     }

@@ -3,10 +3,12 @@
 
 #include "device/dh/lists/devicelistline.h"
 
-/// Writes a list to a file: ".xlsx" as workbook, ".csv" as comma-separated text, any other suffix as XML.
-/// The file is replaced atomically. Returns false on failure: an existing file is unchanged, and the reason
-/// is logged.
-[[nodiscard]] bool writeDeviceList(const QString &path, const std::vector<DeviceListLine> &lines);
+/// Writes a list to a file: ".xlsx" as workbook, ".csv" as comma-separated text, ".devlist" encrypted with
+/// `passphrase`, any other suffix as XML. The file is replaced atomically. Returns false on failure: an
+/// existing file is unchanged, and the reason is logged. Fails if `passphrase` is shorter than
+/// shortestPassphrase for an encrypted list, or not empty for another format.
+[[nodiscard]] bool writeDeviceList(const QString &path, const std::vector<DeviceListLine> &lines,
+                                   const QString &passphrase = {});
 
 /// A field that an import of the file would not read back unchanged, or a missing address.
 struct UnreadableText
@@ -24,10 +26,10 @@ constexpr std::size_t maximumUnreadableTexts = 1000;
 /// The fields that an import of a file with this name and these lines would not read back unchanged, in
 /// their order, at most maximumUnreadableTexts. Includes missing addresses (of a device that waits for DHCP),
 /// since an import rejects such a line. Accesses no file: CSV and XML text is formatted and parsed in memory.
-/// Workbooks keep every character, so that only the rules for fields apply.
+/// Workbooks and encrypted lists keep every character, so that only the rules for fields apply.
 [[nodiscard]] std::vector<UnreadableText> unreadableTexts(const QString &fileName,
                                                           const std::vector<DeviceListLine> &lines);
 
-/// Reads a list from a file of at most 128 MiB; the suffix selects the format. Errors are in
-/// DeviceListContents::refusal.
-[[nodiscard]] DeviceListContents readDeviceList(const QString &path);
+/// Reads a list from a file of at most 128 MiB; the suffix selects the format. `passphrase` is that of an
+/// encrypted list; other formats ignore it. Errors are in DeviceListContents::refusal.
+[[nodiscard]] DeviceListContents readDeviceList(const QString &path, const QString &passphrase = {});

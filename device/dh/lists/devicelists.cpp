@@ -57,7 +57,8 @@ DeviceLists::DeviceLists(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries l
 {
 }
 
-bool DeviceLists::exportDevices(const QString &folder, const QStringList &macs, const QString &fileName)
+bool DeviceLists::exportDevices(const QString &folder, const QStringList &macs, const QString &fileName,
+                                const ListProtection &protection)
 {
     std::vector<DeviceListLine> lines;
     lines.reserve(static_cast<std::size_t>(macs.size()));
@@ -69,19 +70,23 @@ bool DeviceLists::exportDevices(const QString &folder, const QStringList &macs, 
             continue;
         }
         lines.push_back(listLineOf(device, listedAccount(m_logins.accounts(), device.row)));
+        if (protection.leavesOutPasswords)
+            lines.back()[ListColumn::Password].clear();
     }
     m_exportFaults.clear();
     // No device left: a file without devices would look like a successful export.
-    if (lines.empty() || !writeDeviceList(localPath(folder) + QLatin1Char('/') + fileName, lines))
+    if (lines.empty() ||
+        !writeDeviceList(localPath(folder) + QLatin1Char('/') + fileName, lines, protection.passphrase))
         return false;
     for (const UnreadableText &fault : unreadableTexts(fileName, lines))
         m_exportFaults.append(faultMap(lines.at(fault.line), fault));
     return true;
 }
 
-ImportPlan DeviceLists::importPlan(const QString &path, const std::shared_ptr<P2PPorts> &ports) const
+ImportPlan DeviceLists::importPlan(const QString &path, const QString &passphrase,
+                                   const std::shared_ptr<P2PPorts> &ports) const
 {
-    DeviceListContents contents = readDeviceList(localPath(path));
+    DeviceListContents contents = readDeviceList(localPath(path), passphrase);
     const QString refusal =
         contents.refusal.isEmpty() ? DeviceListImport::refusalOf(contents.lines) : contents.refusal;
     if (!refusal.isEmpty())
@@ -96,7 +101,7 @@ QString DeviceLists::importDevices(const QString &path, const std::shared_ptr<P2
 {
     summary = {};
     m_importFailures.clear();
-    const ImportPlan plan = importPlan(path, ports);
+    const ImportPlan plan = importPlan(path, {}, ports);
     if (!plan.refusal.isEmpty())
         return plan.refusal;
     const int total = static_cast<int>(plan.lines.size());

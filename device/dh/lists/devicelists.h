@@ -3,6 +3,7 @@
 
 #include "device/registry/backendsignals.h"
 #include "device/registry/deviceimport.h"
+#include "device/registry/listprotection.h"
 #include "sdk/sdklibraries.h"
 
 #include <QStringList>
@@ -24,11 +25,13 @@ public:
                 BackEndSignals &backEndSignals);
 
     /// Writes the devices with these row names to a file in `folder` (a path or "file:///" URL), replacing
-    /// an existing file. The suffix of `fileName` selects the format: "xlsx", "csv", otherwise XML. Writes
-    /// the passwords of rows and of the default account in plain text, but not those of stored accounts.
-    /// Skips devices that are no longer in the list. Returns false if none is left or the file cannot be
-    /// written; an existing file is unchanged then.
-    bool exportDevices(const QString &folder, const QStringList &macs, const QString &fileName);
+    /// an existing file. The suffix of `fileName` selects the format: "xlsx", "csv", "devlist" for an
+    /// encrypted list, otherwise XML. Writes the passwords of rows and of the default account, unless
+    /// `protection` leaves them out, but not those of stored accounts. Skips devices that are no longer in
+    /// the list. Returns false if none is left, if the file cannot be written, or if the passphrase does not
+    /// fit the format; an existing file is unchanged then.
+    bool exportDevices(const QString &folder, const QStringList &macs, const QString &fileName,
+                       const ListProtection &protection = {});
 
     /// Fields of the last exported list that an import would not read back unchanged, maps with the keys of
     /// ExportFaultKey. Empty after a failed export.
@@ -36,8 +39,10 @@ public:
 
     /// Reads a list file and makes its import; adds no device. The reason of a refused list is in the
     /// result. `path` may be a "file:///" URL. Any thread; blocks for the file. `ports` opens local ports to
-    /// devices behind NAT; may be null, then the steps of such devices fail.
-    [[nodiscard]] ImportPlan importPlan(const QString &path, const std::shared_ptr<P2PPorts> &ports) const;
+    /// devices behind NAT; may be null, then the steps of such devices fail. `passphrase` is that of an
+    /// encrypted list.
+    [[nodiscard]] ImportPlan importPlan(const QString &path, const QString &passphrase,
+                                        const std::shared_ptr<P2PPorts> &ports) const;
 
     /// Logs in to all devices of a list file, adds their rows and blocks until that is done. Sets `summary`,
     /// emits signalCDeviceImportProgress after each line, and signalCDeviceAddSingleDeviceToTable at the end

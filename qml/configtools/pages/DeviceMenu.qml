@@ -26,17 +26,18 @@ Item {
     /// The entries after those of the page. `startsGroup`: a line separates them from the entries before.
     function commonEntries(startsGroup) {
         const address = actions.addressOf(values);
-        const isInitialised = values.state ?? true;
+        const isPresent = !(values.absent ?? false);  // otherwise known from an earlier search only
+        const isInitialised = isPresent && (values.state ?? true);
         const isP2p = (values.loginType ?? "") === "P2P";
         const similar = [
             {key: "similarType", startsGroup: true, text: qsTr("只勾选同类型设备（%1）").arg(values.type),
-                enabled: (values.type ?? "") !== ""},
+                enabled: isPresent && (values.type ?? "") !== ""},
             {key: "similarModel", text: qsTr("只勾选同型号设备（%1）").arg(values.model),
-                enabled: (values.model ?? "") !== ""}
+                enabled: isPresent && (values.model ?? "") !== ""}
         ];
         return [
-            {key: "detail", startsGroup: startsGroup, text: qsTr("详情")},
-            {key: "web", text: qsTr("打开设备网页"), enabled: address !== ""},
+            {key: "detail", startsGroup: startsGroup, text: qsTr("详情"), enabled: isPresent},
+            {key: "web", text: qsTr("打开设备网页"), enabled: isPresent && address !== ""},
             {key: "live", text: qsTr("查看实时画面"), enabled: isInitialised && address !== ""},
             {key: "copyAddress", startsGroup: true, text: qsTr("复制地址"), enabled: address !== ""},
             {key: "copyMac", text: qsTr("复制MAC"), enabled: (values.mac ?? "") !== ""},

@@ -7,6 +7,7 @@ OVTableCell {
     id: root
 
     property bool editable: true  // false: IPv6 devices, whose address cannot be changed
+    readonly property bool absent: row?.absent ?? false  // not in the list: nothing can be done
     readonly property bool initialised: row?.state ?? true  // otherwise the device has no live view
     readonly property bool upgrading: UpgradeTools.isRunning(row?.upgraderes ?? UpgradeTools.None)
     // In the signals, a row is the index in the table.
@@ -22,7 +23,7 @@ OVTableCell {
         spacing: Theme.controlGap
 
         OVLinkButton {
-            enabled: root.editable && !root.upgrading
+            enabled: root.editable && !root.upgrading && !root.absent
             focusPolicy: root.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
             objectName: "edit" + root.rowIndex
             text: qsTr("编辑")
@@ -30,6 +31,7 @@ OVTableCell {
             onClicked: root.editRequested(root.rowIndex)
         }
         OVLinkButton {
+            enabled: !root.absent
             focusPolicy: root.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
             objectName: "detail" + root.rowIndex
             text: qsTr("详情")
@@ -37,6 +39,7 @@ OVTableCell {
             onClicked: root.detailRequested(root.rowIndex)
         }
         OVLinkButton {
+            enabled: !root.absent
             focusPolicy: root.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
             objectName: "web" + root.rowIndex
             text: qsTr("web")
@@ -44,7 +47,7 @@ OVTableCell {
             onClicked: root.webRequested(root.rowIndex)
         }
         OVLinkButton {
-            enabled: root.initialised
+            enabled: root.initialised && !root.absent
             focusPolicy: root.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
             objectName: "live" + root.rowIndex
             text: qsTr("live")

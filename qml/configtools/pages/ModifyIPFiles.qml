@@ -17,6 +17,7 @@ Item {
     readonly property bool running: addingBatches.reading || writing
     property bool writing: false  // a list is being written: the window is blocked
     readonly property string runningText: addingBatches.reading ? qsTr("正在读取设备列表…") : qsTr("正在导出设备…")
+    property string encryptedPath  // the encrypted list that is being imported; "" for none
     property Batch batch: null  // batch of the last import or of its retry; null before
     /// The import has ended with failed lines that were not shown yet, as the page is hidden.
     property bool reportPending: false
@@ -31,26 +32,30 @@ Item {
     }
 
     /// Writes the ticked devices; asks before it replaces an existing file. `folder`: a path. The suffix of `fileName`
-    /// is the format.
-    function exportTo(folder, fileName) {
+    /// is the format. `protection`: see writeList().
+    function exportTo(folder, fileName, protection) {
         if (!fileDialogs.exists(folder + "/" + fileName)) {
-            writeList(folder, fileName);
+            writeList(folder, fileName, protection);
             return;
         }
         const asked = question.instance();
         asked.folder = folder;
         asked.fileName = fileName;
+        asked.protection = protection;
         asked.show(qsTr("%1 已存在，是否覆盖？").arg(folder + "/" + fileName), OVMessageBox.DangerQuestion);
     }
 
     /// Writes the ticked devices and replaces an existing file. The window is blocked meanwhile; writing begins after
-    /// the progress text is painted.
-    function writeList(folder, fileName) {
+    /// the progress text is painted. `protection`: "passwords" (of ExportDialog) and "passphrase" ("" for none).
+    function writeList(folder, fileName, protection) {
         const macs = deviceTable.checkedMacs();
         writing = true;
         blocker.block();
         paint.run(() => {
-            const written = deviceFactory.exportDevice("dh", folder, macs, fileName);
+            const written = protection.passwords === ExportDialog.Readable
+                ? deviceFactory.exportDevice("dh", folder, macs, fileName)
+                : deviceFactory.exportProtected("dh", folder, macs, fileName,
+                                                protection.passwords === ExportDialog.LeftOut, protection.passphrase);
             writing = false;
             blocker.release();
             if (written)
@@ -77,14 +82,25 @@ Item {
     /// device may replace its row and change account and address.
     function startImport() {
         fileDialogs.chooseFile(qsTr("打开excel文件"),
-                               ["Excel Files (*.xlsx)", "CSV Files (*.csv)", "XML Files (*.xml)"], path => {
-            const refusal = busyState.refusal(BusyState.ChangeAddress);
-            if (refusal !== "") {
-                notify(refusal, OVToast.Refusal);
-                return;
-            }
-            addingBatches.importList(qsTr("导入"), path);
-        });
+                               ["Excel Files (*.xlsx)", "CSV Files (*.csv)", "XML Files (*.xml)", qsTr("加密的设备列表 (*.devlist)")],
+                               path => importFile(path));
+    }
+
+    /// Imports a list file; asks for the passphrase of an encrypted one first. Refused as startImport().
+    function importFile(path) {
+        const refusal = busyState.refusal(BusyState.ChangeAddress);
+        if (refusal !== "")
+            notify(refusal, OVToast.Refusal);
+        else if (DroppedFiles.kindOf(path) === DroppedFiles.EncryptedList)
+            passphrase.instance().ask(path, "");
+        else
+            importWith(path, "");
+    }
+
+    /// Reads the list and starts the import.
+    function importWith(path, phrase) {
+        encryptedPath = phrase === "" ? "" : path;
+        addingBatches.importList(qsTr("导入"), path, phrase);
     }
 
     /// The numbers of successful and of all devices of the import, as text.
@@ -125,6 +141,10 @@ Item {
             root.batch = batch;
         }
         function onImportRefused(reason) {
+            if (root.encryptedPath !== "") {  // another passphrase may be the right one
+                passphrase.instance().ask(root.encryptedPath, reason);
+                return;
+            }
             root.notify(qsTr("导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！") + "\n" + reason, OVToast.Error);
         }
     }
@@ -158,8 +178,10 @@ Item {
             id: formats
             onAccepted: {
                 const fileName = formats.fileName;
+                const protection = {passwords: formats.passwords, passphrase: formats.passphrase};
                 formats.close();
-                root.fileDialogs.chooseFolder(qsTr("请选择文件夹"), folder => root.exportTo(folder, fileName));
+                root.fileDialogs.chooseFolder(qsTr("请选择文件夹"),
+                                              folder => root.exportTo(folder, fileName, protection));
             }
         }
     }
@@ -169,10 +191,23 @@ Item {
         sourceComponent: OVMessageBox {
             property string folder
             property string fileName
+            property var protection: ({})
             objectName: "overwriteQuestion"
             okText: qsTr("覆盖")
             title: qsTr("覆盖文件")
-            onAccepted: root.writeList(folder, fileName)
+            onAccepted: root.writeList(folder, fileName, protection)
+        }
+    }
+    OVOnDemand {
+        id: passphrase
+        visible: false
+        sourceComponent: PassphraseDialog {
+            id: phrases
+            onAccepted: {
+                const phrase = phrases.passphrase;
+                phrases.close();
+                root.importWith(phrases.path, phrase);
+            }
         }
     }
     OVOnDemand {

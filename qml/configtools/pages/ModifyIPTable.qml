@@ -49,6 +49,7 @@ OVTable {
             key: "vision", title: qsTr("版本号"), width: Theme.columnVersion, stretch: 1,
             sortable: true, cell: figureCell
         },
+        {key: "group", title: qsTr("分组"), width: Theme.columnType, stretch: 1, sortable: true, hidden: true},
         {key: "note", title: qsTr("备注"), width: Theme.columnNote, stretch: 1, sortable: true, hidden: true},
         {
             key: "res", title: qsTr("修改结果"), width: Theme.columnResult, leastWidth: Theme.columnResultLeast,
@@ -79,15 +80,25 @@ OVTable {
             }
             OVLabel {
                 id: nameText
-                readonly property int signRoom: noteSign.visible ? noteSign.width + Theme.signGap : 0
+                readonly property int signRoom: (noteSign.visible ? noteSign.width + Theme.signGap : 0)
+                    + (newTag.visible ? newTag.width + Theme.signGap : 0)
                 x: failedSign.visible ? failedSign.width + Theme.signGap : 0
                 width: Math.min(implicitWidth, parent.width - x - Theme.unit - signRoom)
                 height: parent.height
                 text: name.value ?? ""
             }
+            OVTag {
+                id: newTag
+                anchors.left: nameText.right
+                anchors.leftMargin: Theme.signGap
+                anchors.verticalCenter: parent.verticalCenter
+                objectName: "newTag" + name.rowIndex
+                text: qsTr("新")
+                visible: name.row?.presence === KnownDevices.New
+            }
             OVIcon {
                 id: noteSign
-                anchors.left: nameText.right
+                anchors.left: newTag.visible ? newTag.right : nameText.right
                 anchors.leftMargin: Theme.signGap
                 anchors.verticalCenter: parent.verticalCenter
                 color: Theme.colours.faint
@@ -130,27 +141,7 @@ OVTable {
 
     Component {
         id: stateCell
-        OVTableCell {
-            id: state
-
-            Rectangle {
-                id: dot
-                anchors.verticalCenter: parent.verticalCenter
-                width: Theme.unit
-                height: Theme.unit
-                color: state.value ? Theme.colours.ok : Theme.colours.warn
-                radius: Theme.half
-            }
-            OVLabel {
-                anchors.left: dot.right
-                anchors.leftMargin: Theme.signGap
-                anchors.right: parent.right
-                anchors.rightMargin: Theme.half
-                height: parent.height
-                opacity: truncated ? 0 : 1  // only the dot; the tool tip has the text
-                text: state.value ? qsTr("已初始化") : qsTr("未初始化")
-            }
-        }
+        DeviceStateCell {}
     }
 
     Component {

@@ -11,6 +11,7 @@ FocusScope {
     property DeviceSearch search: null  // null: no search is shown
     readonly property bool searching: search?.running ?? false
     required property bool libraryInstalled  // false: there is no device library, so no device can be reached
+    property KnownDevices knownDevices: null  // null: no device is marked as new
     property DeviceNotes notes: null  // null: devices have no notes
     signal searchRequested  // start a search
     signal liveRequested(string ipport)  // open the live window of the device; ipport: "address:port"
@@ -125,6 +126,7 @@ FocusScope {
         id: devices
         deviceFactory: page.deviceFactory
         failedMarks: page.batches.failedMarks
+        knownDevices: page.knownDevices
     }
 
     DeviceListChanges {

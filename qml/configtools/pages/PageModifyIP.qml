@@ -12,6 +12,7 @@ FocusScope {
     required property bool libraryInstalled  // false: there is no device library, so no device can be reached
     property bool simulated: false  // the application shows the demo site
     required property var memory  // a ViewMemory that stores columns and order of the table; null: not stored
+    property KnownDevices knownDevices: null  // null: only listed devices are shown
     property DeviceNotes notes: null  // null: devices have no notes
     required property SearchReports searchReports  // report of the last search, and the number of missing devices
     signal searchRequested  // start a search
@@ -46,6 +47,11 @@ FocusScope {
             galleryRequested(devices.checkedRows());
     }
 
+    /// Imports a device list.
+    function importList(path) {
+        files.importFile(path);
+    }
+
     /// Focuses the table without a focus ring.
     function focusTable() {
         table.takeFocus();
@@ -66,6 +72,7 @@ FocusScope {
         id: devices
         deviceFactory: page.deviceFactory
         failedMarks: page.batches.failedMarks
+        knownDevices: page.knownDevices
         notes: page.notes
         searchText: toolBar.searchText.trim()
     }
@@ -123,6 +130,12 @@ FocusScope {
         onNotify: (message, severity) => page.notify(message, severity)
     }
 
+    ModifyIPGroups {
+        id: groups
+        deviceTable: devices
+        knownDevices: page.knownDevices
+    }
+
     ModifyIPDevices {
         id: removal
         busyState: page.busyState
@@ -148,7 +161,7 @@ FocusScope {
         onOwnChosen: (key, values) => {
             if (key === "gallery")
                 page.openGallery();
-            else
+            else if (!groups.take(key, values))
                 changes.modifyRow(devices.rowOf(values.identity));
         }
         tickedDevices: () => devices.checkedMacs()
@@ -190,25 +203,18 @@ FocusScope {
         onUninitialisedToggled: shown => devices.showUninitialised = shown
     }
 
-    OVBanner {
+    ModifyIPNotice {
         id: notice
         x: Theme.pageMargin
         y: toolBar.height
         width: parent.width - 2 * Theme.pageMargin
-        closable: true
-        iconName: "alert"
-        linkText: page.searchReports.incomplete ? qsTr("重新搜索") : qsTr("查看原因")
-        objectName: "missingNotice"
-        text: page.searchReports.incomplete ? qsTr("搜索已停止，列表不完整。")
-            : qsTr("找到的设备比上次搜索少 %n 台", "", page.searchReports.missing)
-        visible: (page.searchReports.incomplete || page.searchReports.missing > 0) && table.count > 0
-        onClosed: page.searchReports.dismiss()
-        onLinkActivated: {
-            if (page.searchReports.incomplete)
-                page.searchRequested();
-            else
-                page.reportRequested();
-        }
+        listedCount: devices.listedCount
+        searchReports: page.searchReports
+        searching: page.search.running
+        totalCount: devices.totalCount
+        visible: applies && table.count > 0
+        onReportRequested: page.reportRequested()
+        onSearchRequested: page.searchRequested()
     }
 
     ModifyIPTable {
@@ -234,14 +240,17 @@ FocusScope {
             const values = devices.get(row);
             menu.openAt(position, values, [{
                 key: "edit", text: qsTr("修改IP地址"),
-                enabled: !devices.ipv6 && !UpgradeTools.isRunning(values.upgraderes ?? UpgradeTools.None)
+                enabled: !values.absent && !devices.ipv6 && !UpgradeTools.isRunning(values.upgraderes ?? UpgradeTools.None)
             }, {
                 key: "gallery", text: qsTr("查看勾选设备的图像"), enabled: devices.checkedCount > 0
-            }]);
+            }].concat(groups.entriesFor(values)));
         }
         onNoteRequested: row => deviceActions.editNote(devices.get(row))
         onRangeToggled: (first, last, checked) => devices.setRangeChecked(first, last, checked)
-        onRowActivated: row => deviceActions.showDetail(devices.get(row))
+        onRowActivated: row => {
+            if (!devices.get(row).absent)
+                deviceActions.showDetail(devices.get(row));
+        }
         onSortRequested: key => devices.toggleSort(key)
         onWebRequested: row => deviceActions.openWebPage(devices.get(row))
 

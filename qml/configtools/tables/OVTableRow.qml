@@ -16,6 +16,7 @@ Rectangle {
     required property bool checkable
     required property int checkWidth
     required property bool current
+    readonly property bool absent: values.absent ?? false  // greyed, without a check box
     property string pressedIdentity  // identity at the press of a mouse button, "" without a press
     property int readings: 0  // incremented by read()
     property int pooledIndex: -1  // index when the view put the item aside
@@ -51,7 +52,7 @@ Rectangle {
     Accessible.role: Accessible.Row
     Accessible.name: values.ipport ?? values.name ?? columns.map(column => values[column.key] ?? "").join(" ")
     Accessible.selected: current
-    Accessible.checkable: checkable
+    Accessible.checkable: checkable && !absent
     Accessible.checked: checked
 
     ListView.onPooled: {
@@ -88,7 +89,7 @@ Rectangle {
         width: root.checkWidth
         height: parent.height
         objectName: "check" + root.index
-        visible: root.checkable
+        visible: root.checkable && !root.absent
         onPressed: root.pressedIdentity = root.identity
         onClicked: mouse => root.tickToggled(root.takePressed(), mouse.modifiers)
 
@@ -113,6 +114,7 @@ Rectangle {
     Row {
         x: root.checkWidth
         height: parent.height
+        opacity: root.absent ? Theme.absentOpacity : 1
 
         // qmllint disable unqualified
         Repeater {

@@ -18,6 +18,7 @@ Rectangle {
     required property int deviceCount  // of a group
     required property string failure  // see OVFailedSign
     required property bool onlyNotDone  // see OVFailedSign
+    required property bool isNew  // the last search found the device for the first time
     property var describer  // see OVTree
     property bool current: false  // row of the keyboard
     property bool busy: false  // a spinner replaces the result
@@ -44,7 +45,7 @@ Rectangle {
     // A failed result is already shown by the result icon.
     readonly property bool marked: failure !== "" && !busy && !(hasResult && result > 0)
     readonly property int signsWidth: (busy || hasResult ? Theme.boxSize + Theme.unit : 0)
-        + (marked ? Theme.boxSize + Theme.unit : 0)
+        + (marked ? Theme.boxSize + Theme.unit : 0) + (isNew ? newTag.width + Theme.unit : 0)
 
     height: Theme.controlHeight
     color: chosen || (current && !choosing) ? Theme.colours.rowSelected
@@ -170,6 +171,15 @@ Rectangle {
             shown: signPointer.hovered
             text: signPointer.hovered ? root.describer.resultText(root.result, root.title) : ""
         }
+    }
+    OVTag {
+        id: newTag
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.pageMargin + root.signsWidth - width - Theme.unit
+        anchors.verticalCenter: parent.verticalCenter
+        objectName: "newTag"
+        text: qsTr("新")
+        visible: root.isNew
     }
     OVFailedSign {
         anchors.right: sign.visible ? sign.left : parent.right

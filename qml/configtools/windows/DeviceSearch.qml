@@ -9,6 +9,7 @@ QtObject {
     required property BusyState busyState  // the search is registered there while it runs
     required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     required property SearchReports searchReports  // gets the start and the end of each search
+    property KnownDevices knownDevices: null  // null: no devices are known from earlier searches
     property int count: 0  // number of IPv4 devices found by the running or last search
     property bool running: false  // a search runs
     property bool searchedNothing: false  // the settings of the last search select no network
@@ -41,6 +42,7 @@ QtObject {
         searchesLocal = settings.localDomain;
         searchedRange = settings.otherDomain ? settings.startIP + " - " + settings.endIP : "";
         searchReports.begin(searchesLocal, searchedRange);
+        knownDevices?.beginSearch();
         deviceFactory.setDefaultAccount("dh", settings.userName, settings.password);
         if (settings.otherDomain)
             deviceFactory.setSearchByIPInfo("dh", AddressTools.toNumber(settings.startIP),
@@ -111,6 +113,7 @@ QtObject {
         function onSignalSearchDone() {
             root.running = false;
             root.searchReports.end(root.count, root.stopping);
+            root.knownDevices?.endSearch(root.stopping);
             root.startNext();
         }
     }

@@ -8,9 +8,14 @@ OVMenu {
 
     required property var languages  // objects with "code" and "label"
     required property string currentLanguage  // code of the chosen language
+    required property var recentSites  // see SiteMenu
     required property string colourChoice  // "desktop", "light" or "dark"
     signal accountsRequested  // manage the stored accounts
     signal siteReportRequested
+    signal openSiteRequested
+    signal saveSiteRequested
+    signal newSiteRequested
+    signal recentSiteRequested(string path)
     signal helpRequested  // open the manual
     signal questionsRequested  // open the questions and answers
     signal aboutRequested
@@ -19,6 +24,13 @@ OVMenu {
 
     objectName: "mainMenu"
 
+    SiteMenu {
+        recentSites: root.recentSites
+        onNewRequested: root.newSiteRequested()
+        onOpenRequested: root.openSiteRequested()
+        onRecentRequested: path => root.recentSiteRequested(path)
+        onSaveRequested: root.saveSiteRequested()
+    }
     OVMenuItem {
         iconName: "note"
         objectName: "siteReportItem"

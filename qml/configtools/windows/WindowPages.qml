@@ -10,6 +10,7 @@ StackLayout {
     required property Batches batches  // starts batches for all pages; one batch runs at a time
     required property BusyState busyState  // running work of all pages, and the actions that it blocks
     required property bool libraryInstalled  // false: there is no device library, so no device can be reached
+    required property KnownDevices knownDevices
     required property var memory  // a ViewMemory that stores columns and order of the tables
     required property DeviceNotes notes  // notes of the user about devices
     required property WindowPopups popups  // messages, live window and gallery
@@ -50,6 +51,11 @@ StackLayout {
         modifyIpPage.focusTable();
     }
 
+    /// Imports a device list on the main page.
+    function importList(path) {
+        modifyIpPage.importList(path);
+    }
+
     /// Opens the images of the devices that are ticked on the main page, whichever page is shown.
     function openGallery() {
         modifyIpPage.openGallery();
@@ -70,6 +76,7 @@ StackLayout {
         id: modifyIpPage
         batches: root.batches
         busyState: root.busyState
+        knownDevices: root.knownDevices
         libraryInstalled: root.libraryInstalled
         memory: root.memory
         notes: root.notes
@@ -114,6 +121,7 @@ StackLayout {
                 id: configs
                 batches: root.batches
                 busyState: root.busyState
+                knownDevices: root.knownDevices
                 libraryInstalled: root.libraryInstalled
                 notes: root.notes
                 search: root.search
@@ -133,6 +141,7 @@ StackLayout {
             PageSystemConfig {
                 id: systems
                 batches: root.batches
+                knownDevices: root.knownDevices
                 libraryInstalled: root.libraryInstalled
                 notes: root.notes
                 search: root.search

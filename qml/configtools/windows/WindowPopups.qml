@@ -10,6 +10,8 @@ Item {
     required property BusyState busyState  // running work of all pages, and the actions that it blocks
     required property CertificateList certificates  // refused certificates of devices
     required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
+    required property var fileDialogs  // a FileDialogs
+    required property KnownDevices knownDevices  // devices of earlier searches
     required property var localConfig  // a CLocalConfig: the settings of the application
     required property SearchReports searchReports  // report of the last search
     required property var languages  // entries of the menu, see MainMenu
@@ -79,6 +81,11 @@ Item {
         window.open(rows);
     }
 
+    /// Opens a site file.
+    function openSite(path) {
+        siteFiles.openSite(path);
+    }
+
     /// Closes the live window and the images.
     function closeLive() {
         live.item?.close();
@@ -127,6 +134,23 @@ Item {
         function onRunningChanged() {
             if (root.batches.running)
                 root.clearNotices();  // they concern earlier work
+        }
+    }
+
+    SiteFiles {
+        id: siteFiles
+        busyState: root.busyState
+        fileDialogs: root.fileDialogs
+        knownDevices: root.knownDevices
+        onNotify: (message, severity) => root.notify(message, severity)
+    }
+
+    Connections {
+        target: root.knownDevices
+
+        function onProblemChanged() {
+            if (root.knownDevices.problem !== "")
+                root.notify(root.knownDevices.problem, OVToast.Error);
         }
     }
 
@@ -184,7 +208,12 @@ Item {
             onAboutRequested: about.instance().open()
             onAccountsRequested: accounts.instance().manage()
             onColoursChosen: choice => root.coloursChosen(choice)
+            recentSites: root.knownDevices.recentSites
             onHelpRequested: root.helpRequested()
+            onNewSiteRequested: siteFiles.startNew()
+            onOpenSiteRequested: siteFiles.chooseSite()
+            onRecentSiteRequested: path => siteFiles.openSite(path)
+            onSaveSiteRequested: siteFiles.saveSite()
             onLanguageChosen: code => root.languageChosen(code)
             onQuestionsRequested: root.questionsRequested()
             onSiteReportRequested: root.siteReportRequested()

@@ -29,7 +29,7 @@ public:
     std::mutex mutex;
     QHash<QString, QList<int>> done; ///< completed lines by device, in order
 
-    ImportPlan importPlan(const QString &) override
+    ImportPlan importPlan(const QString &, const QString &) override
     {
         ImportPlan plan;
         for (int line = 1; line <= lines; ++line) {

@@ -219,6 +219,30 @@ private Q_SLOTS:
         QVERIFY(read("again.csv").contains("Encoder," + QByteArray(32, 'T') + ",General"));
     }
 
+    void passwordsCanBeLeftOut_data() { aFullDiskKeepsTheExistingList_data(); }
+
+    void passwordsCanBeLeftOut()
+    {
+        QFETCH(const QString, name);
+        search();
+        QVERIFY(m_factory->exportProtected("dh", m_folder->path(), {camera}, name, true, ""));
+        QVERIFY(m_factory->exportProtected("dh", m_folder->path(), {camera}, "secret.devlist", false,
+                                           "long enough"));
+        QByteArray bytes = read(name);
+        if (name.endsWith("xlsx")) { // its parts are compressed
+            QExcel workbook;
+            QVERIFY(workbook.open(m_folder->filePath(name)));
+            bytes.clear();
+            for (int row = 1; row <= workbook.usedRowCount(); ++row) {
+                for (int column = 1; column <= 19; ++column)
+                    bytes += workbook.cellText(row, column).value_or(QString()).toUtf8();
+            }
+        }
+        QVERIFY(bytes.contains("admin"));
+        QVERIFY(!bytes.contains("secret1"));
+        QVERIFY(!read("secret.devlist").contains("secret1"));
+    }
+
     void aTunnelIsOpenWhileItIsNeeded()
     {
         int port = 0;
