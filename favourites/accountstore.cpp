@@ -79,13 +79,18 @@ AccountStore::AccountStore(const QString &path) : m_path(path)
 void AccountStore::read()
 {
     QFile file(m_path);
-    if (!file.exists())
+    const bool exists = file.exists();
+    m_isUnopened = exists && !file.open(QIODevice::ReadOnly);
+    const QByteArray text = file.isOpen() ? file.read(maximumFileSize + 1) : QByteArray();
+    std::optional<Contents> found = text.size() > maximumFileSize ? std::nullopt : parsed(text);
+    const std::scoped_lock lock(m_mutex);
+    m_problem.clear();
+    if (!exists)
         return;
-    std::optional<Contents> found;
-    if (file.open(QIODevice::ReadOnly)) {
-        const QByteArray text = file.read(maximumFileSize + 1);
-        if (text.size() <= maximumFileSize)
-            found = parsed(text);
+    if (m_isUnopened) {
+        m_problem = tr("账号文件 %1 无法读取：%2").arg(m_path, file.errorString());
+        qCWarning(logFavourites).noquote() << "cannot read" << m_path << "-" << file.errorString();
+        return;
     }
     if (found) {
         m_contents = *std::move(found);
@@ -203,7 +208,7 @@ QString AccountStore::put(const QString &before, const StoredAccount &account)
     if (!refusal.isEmpty())
         return refusal;
     const std::scoped_lock writing(m_writing);
-    Contents changed = contents();
+    Contents changed = contentsToChange();
     if (account.name != before && changed.find(account.name))
         return tr("已有名为“%1”的账号").arg(account.name);
     const qsizetype known = changed.accounts.removeIf(
@@ -219,7 +224,7 @@ QString AccountStore::put(const QString &before, const StoredAccount &account)
 QString AccountStore::remove(const QString &name)
 {
     const std::scoped_lock writing(m_writing);
-    Contents changed = contents();
+    Contents changed = contentsToChange();
     changed.accounts.removeIf([&name](const StoredAccount &account) { return account.name == name; });
     changed.devices.removeIf(
         [&name](QHash<QString, QString>::iterator device) { return device.value() == name; });
@@ -229,7 +234,7 @@ QString AccountStore::remove(const QString &name)
 QString AccountStore::assign(const QList<Device> &devices, const QString &name)
 {
     const std::scoped_lock writing(m_writing);
-    Contents changed = contents();
+    Contents changed = contentsToChange();
     if (!name.isEmpty() && !changed.find(name))
         return tr("没有名为“%1”的账号").arg(name);
     const QHash<QString, QString> before = changed.devices;
@@ -240,7 +245,7 @@ QString AccountStore::assign(const QList<Device> &devices, const QString &name)
 QString AccountStore::keep(const QList<Device> &devices, const QString &account, const QString &password)
 {
     const std::scoped_lock writing(m_writing);
-    Contents changed = contents();
+    Contents changed = contentsToChange();
     const auto known =
         std::ranges::find_if(std::as_const(changed.accounts), [&](const StoredAccount &stored) {
             return stored.account == account && stored.password == password;
@@ -257,8 +262,17 @@ QString AccountStore::keep(const QList<Device> &devices, const QString &account,
     return write(std::move(changed));
 }
 
+AccountStore::Contents AccountStore::contentsToChange()
+{
+    if (m_isUnopened)
+        read(); // the file may be readable now
+    return contents();
+}
+
 QString AccountStore::write(Contents contents)
 {
+    if (m_isUnopened)
+        return problem();
     if (contents.accounts.size() > maximumAccounts || contents.devices.size() > maximumDevices)
         return tr("账号已满：最多 %1 个账号和 %2 台设备").arg(maximumAccounts).arg(maximumDevices);
     std::ranges::sort(contents.accounts, isBefore);

@@ -31,7 +31,7 @@ struct StoredAccount
 ///
 /// Thread-safe. Only the constructor and the changes (put(), remove(), assign(), keep()) wait for the disk. A
 /// change writes the file before it returns. It returns an empty string on success. Otherwise it changes
-/// nothing and returns the reason: a sentence in the user's language or, for a file that cannot be written,
+/// nothing and returns the reason: a sentence in the user's language or, if the file cannot be written,
 /// the error text of the system. A change beyond maximumAccounts or maximumDevices fails.
 class AccountStore
 {
@@ -96,7 +96,10 @@ private:
         void assign(const QList<Device> &changed, const QString &name);
     };
 
+    // m_writing must be locked, except in the constructor.
     void read();
+    [[nodiscard]] Contents contentsToChange();
+
     [[nodiscard]] static std::optional<Contents> parsed(const QByteArray &text);
     [[nodiscard]] static QByteArray textOf(const Contents &contents);
     [[nodiscard]] static QString refusalOf(const StoredAccount &account);
@@ -104,7 +107,9 @@ private:
     [[nodiscard]] QString write(Contents contents);
 
     const QString m_path;
-    std::mutex m_writing; ///< held from reading the entries to change until they are written
+    std::mutex
+        m_writing; ///< held from reading the entries to change until they are written; guards m_isUnopened
+    bool m_isUnopened = false; ///< the file exists, but could not be opened
 
     mutable std::mutex m_mutex; ///< guards the members below
     QString m_problem;

@@ -64,6 +64,8 @@ QString renameOver(const QString &from, const QString &to)
 
 QString setDamagedFileAside(const QString &path)
 {
+    if (!QFileInfo::exists(path))
+        return {};
     const QString ending = QStringLiteral(".damaged");
     QString kept = path + ending;
     for (int number = 2; QFileInfo::exists(kept); ++number)

@@ -26,5 +26,5 @@ class QFileDevice;
 [[nodiscard]] QString renameOver(const QString &from, const QString &to);
 
 /// Renames the damaged file `path` to a free name in its folder: with the ending ".damaged", ".damaged2" and
-/// so on. Returns the error text of the system on failure; empty on success.
+/// so on. Returns the error text of the system on failure; empty on success, and if the file is missing.
 [[nodiscard]] QString setDamagedFileAside(const QString &path);

@@ -105,6 +105,10 @@
 <context>
     <name>AccountStore</name>
     <message>
+        <source>账号文件 %1 无法读取：%2</source>
+        <translation>アカウントファイル %1 を読み込めません: %2</translation>
+    </message>
+    <message>
         <source>账号文件已损坏，其中的账号均未使用：%1</source>
         <translation>アカウントファイルが破損しているため、どのアカウントも使用されません: %1</translation>
     </message>
@@ -1051,6 +1055,10 @@
 </context>
 <context>
     <name>CertificateStore</name>
+    <message>
+        <source>证书文件 %1 无法读取：%2</source>
+        <translation>証明書ファイル %1 を読み込めません: %2</translation>
+    </message>
     <message>
         <source>证书文件已损坏，其中的证书均不再信任，请重新确认：%1</source>
         <translation>証明書ファイルが破損しています。どの証明書も信頼されません。もう一度確認してください: %1</translation>

@@ -106,6 +106,10 @@
 <context>
     <name>AccountStore</name>
     <message>
+        <source>账号文件 %1 无法读取：%2</source>
+        <translation>No es pot llegir el fitxer de comptes, %1: %2</translation>
+    </message>
+    <message>
         <source>账号文件已损坏，其中的账号均未使用：%1</source>
         <translation>El fitxer de comptes està malmès i no se n’usa cap compte: %1</translation>
     </message>
@@ -1077,6 +1081,10 @@
 </context>
 <context>
     <name>CertificateStore</name>
+    <message>
+        <source>证书文件 %1 无法读取：%2</source>
+        <translation>No es pot llegir el fitxer de certificats, %1: %2</translation>
+    </message>
     <message>
         <source>证书文件已损坏，其中的证书均不再信任，请重新确认：%1</source>
         <translation>El fitxer de certificats està malmès. No es confia en cap certificat. Torneu-los a confirmar: %1</translation>

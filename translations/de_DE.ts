@@ -106,6 +106,10 @@
 <context>
     <name>AccountStore</name>
     <message>
+        <source>账号文件 %1 无法读取：%2</source>
+        <translation>Die Kontendatei %1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
         <source>账号文件已损坏，其中的账号均未使用：%1</source>
         <translation>Die Kontendatei ist beschädigt, keines ihrer Konten wird verwendet: %1</translation>
     </message>
@@ -1077,6 +1081,10 @@
 </context>
 <context>
     <name>CertificateStore</name>
+    <message>
+        <source>证书文件 %1 无法读取：%2</source>
+        <translation>Die Zertifikatsdatei %1 kann nicht gelesen werden: %2</translation>
+    </message>
     <message>
         <source>证书文件已损坏，其中的证书均不再信任，请重新确认：%1</source>
         <translation>Die Zertifikatsdatei ist beschädigt. Keinem Zertifikat wird vertraut. Bestätigen Sie sie erneut: %1</translation>

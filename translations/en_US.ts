@@ -106,6 +106,10 @@
 <context>
     <name>AccountStore</name>
     <message>
+        <source>账号文件 %1 无法读取：%2</source>
+        <translation>The file of accounts, %1, cannot be read: %2</translation>
+    </message>
+    <message>
         <source>账号文件已损坏，其中的账号均未使用：%1</source>
         <translation>The file of accounts is damaged, and none of its accounts is used: %1</translation>
     </message>
@@ -1077,6 +1081,10 @@
 </context>
 <context>
     <name>CertificateStore</name>
+    <message>
+        <source>证书文件 %1 无法读取：%2</source>
+        <translation>The certificate file %1 cannot be read: %2</translation>
+    </message>
     <message>
         <source>证书文件已损坏，其中的证书均不再信任，请重新确认：%1</source>
         <translation>The certificate file is damaged. No certificate is trusted. Confirm them again: %1</translation>

@@ -106,6 +106,10 @@
 <context>
     <name>AccountStore</name>
     <message>
+        <source>账号文件 %1 无法读取：%2</source>
+        <translation>No se puede leer el archivo de cuentas, %1: %2</translation>
+    </message>
+    <message>
         <source>账号文件已损坏，其中的账号均未使用：%1</source>
         <translation>El archivo de cuentas está dañado y no se usa ninguna de sus cuentas: %1</translation>
     </message>
@@ -1077,6 +1081,10 @@
 </context>
 <context>
     <name>CertificateStore</name>
+    <message>
+        <source>证书文件 %1 无法读取：%2</source>
+        <translation>No se puede leer el archivo de certificados, %1: %2</translation>
+    </message>
     <message>
         <source>证书文件已损坏，其中的证书均不再信任，请重新确认：%1</source>
         <translation>El archivo de certificados está dañado. No se confía en ningún certificado. Confírmelos de nuevo: %1</translation>

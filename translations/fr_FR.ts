@@ -106,6 +106,10 @@
 <context>
     <name>AccountStore</name>
     <message>
+        <source>账号文件 %1 无法读取：%2</source>
+        <translation>Le fichier des comptes, %1, ne peut pas être lu : %2</translation>
+    </message>
+    <message>
         <source>账号文件已损坏，其中的账号均未使用：%1</source>
         <translation>Le fichier des comptes est endommagé et aucun de ses comptes n&apos;est utilisé&#xa0;: %1</translation>
     </message>
@@ -1077,6 +1081,10 @@
 </context>
 <context>
     <name>CertificateStore</name>
+    <message>
+        <source>证书文件 %1 无法读取：%2</source>
+        <translation>Le fichier des certificats, %1, ne peut pas être lu : %2</translation>
+    </message>
     <message>
         <source>证书文件已损坏，其中的证书均不再信任，请重新确认：%1</source>
         <translation>Le fichier des certificats est endommagé. Aucun certificat n&apos;est approuvé. Confirmez-les à nouveau&#xa0;: %1</translation>

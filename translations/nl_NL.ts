@@ -106,6 +106,10 @@
 <context>
     <name>AccountStore</name>
     <message>
+        <source>账号文件 %1 无法读取：%2</source>
+        <translation>Het accountbestand %1 kan niet worden gelezen: %2</translation>
+    </message>
+    <message>
         <source>账号文件已损坏，其中的账号均未使用：%1</source>
         <translation>Het accountbestand is beschadigd en geen van de accounts wordt gebruikt: %1</translation>
     </message>
@@ -1077,6 +1081,10 @@
 </context>
 <context>
     <name>CertificateStore</name>
+    <message>
+        <source>证书文件 %1 无法读取：%2</source>
+        <translation>Het certificatenbestand %1 kan niet worden gelezen: %2</translation>
+    </message>
     <message>
         <source>证书文件已损坏，其中的证书均不再信任，请重新确认：%1</source>
         <translation>Het certificatenbestand is beschadigd. Geen certificaat wordt vertrouwd. Bevestig ze opnieuw: %1</translation>

@@ -107,6 +107,10 @@
 <context>
     <name>AccountStore</name>
     <message>
+        <source>账号文件 %1 无法读取：%2</source>
+        <translation>Fișierul de conturi, %1, nu poate fi citit: %2</translation>
+    </message>
+    <message>
         <source>账号文件已损坏，其中的账号均未使用：%1</source>
         <translation>Fișierul de conturi este deteriorat și niciun cont din el nu se folosește: %1</translation>
     </message>
@@ -1103,6 +1107,10 @@
 </context>
 <context>
     <name>CertificateStore</name>
+    <message>
+        <source>证书文件 %1 无法读取：%2</source>
+        <translation>Fișierul de certificate, %1, nu poate fi citit: %2</translation>
+    </message>
     <message>
         <source>证书文件已损坏，其中的证书均不再信任，请重新确认：%1</source>
         <translation>Fișierul de certificate este deteriorat. Niciun certificat nu este de încredere. Confirmați-le din nou: %1</translation>

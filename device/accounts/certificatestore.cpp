@@ -95,11 +95,19 @@ CertificateStore::Accepted CertificateStore::Accepted::withoutReplaced() const
 void CertificateStore::read()
 {
     QFile file(m_path);
-    if (!file.exists())
+    const bool exists = file.exists();
+    m_isUnopened = exists && !file.open(QIODevice::ReadOnly);
+    const std::scoped_lock lock(m_mutex);
+    m_problem.clear();
+    if (!exists)
         return;
+    if (m_isUnopened) {
+        m_problem = tr("证书文件 %1 无法读取：%2").arg(m_path, file.errorString());
+        qCWarning(logDevice).noquote() << "cannot read" << m_path << "-" << file.errorString();
+        return;
+    }
     constexpr qint64 largest = 64LL * 1024 * 1024;
-    const bool isOpen = file.open(QIODevice::ReadOnly);
-    const QByteArray text = isOpen && file.size() <= largest ? file.readAll() : QByteArray();
+    const QByteArray text = file.size() <= largest ? file.readAll() : QByteArray();
     const QJsonValue list = QJsonDocument::fromJson(text).object().value(listKey);
     Accepted accepted;
     bool isValid = list.isArray();
@@ -189,6 +197,10 @@ QString CertificateStore::write(const QList<Entry> &entries)
 QString CertificateStore::agree(const QList<RefusedCertificate> &certificates)
 {
     const std::scoped_lock writing(m_writing);
+    if (m_isUnopened)
+        read(); // the file may be readable now
+    if (m_isUnopened)
+        return problem();
     Accepted accepted;
     {
         const std::scoped_lock lock(m_mutex);

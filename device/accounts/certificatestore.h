@@ -67,9 +67,9 @@ public:
     [[nodiscard]] QList<RefusedCertificate> refused() const;
 
     /// Accepts the keys of these certificates and removes the certificates from refused(). A device that has
-    /// presented another key in the meantime stays in refused(). Returns an empty string on success,
-    /// otherwise the error text of the system: the file could not be written, and nothing is accepted. Blocks
-    /// until the file is written.
+    /// presented another key in the meantime stays in refused(). Returns an empty string on success.
+    /// Otherwise nothing is accepted, and the string is problem() if the file cannot be opened, or the error
+    /// text of the system if it cannot be written. Blocks until the file is written.
     [[nodiscard]] QString agree(const QList<RefusedCertificate> &certificates);
 
     /// Sets the function that is called after each refusal, on the thread of the request; empty for none.
@@ -99,12 +99,13 @@ private:
         [[nodiscard]] Accepted withoutReplaced() const;
     };
 
-    void read();
+    void read(); ///< m_writing must be locked, except in the constructor
     [[nodiscard]] QString write(const QList<Entry> &entries);
     void refuse(const RefusedCertificate &shown); ///< m_mutex must be locked
 
     const QString m_path;
-    std::mutex m_writing; ///< locked during agree()
+    std::mutex m_writing;      ///< locked during agree(); guards m_isUnopened
+    bool m_isUnopened = false; ///< the file exists, but could not be opened
 
     mutable std::mutex m_mutex; ///< guards the members below
     QString m_problem;

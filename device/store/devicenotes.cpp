@@ -82,8 +82,9 @@ void DeviceNotes::read()
         const QJsonObject object = value.toObject();
         const QString device = object.value(deviceKey).toString();
         const QString note = object.value(textKey).toString();
-        isValid = isValid && !device.isEmpty() && !note.isEmpty();
-        if (!device.isEmpty() && !note.isEmpty() && m_notes.size() < mostNotes)
+        const bool isUsed = !device.isEmpty() && !note.isEmpty() && m_notes.size() < mostNotes;
+        isValid = isValid && isUsed;
+        if (isUsed)
             m_notes.insert(device, note.simplified());
     }
     if (isValid)
@@ -178,7 +179,7 @@ QString DeviceNotes::write(const QHash<QString, QString> &notes) const
     QJsonArray list;
     for (const QString &device : std::as_const(devices))
         list.append(QJsonObject{{deviceKey, device}, {textKey, notes.value(device)}});
-    if (m_state == State::Damaged && QFileInfo::exists(m_path)) {
+    if (m_state == State::Damaged) {
         QString failure = setDamagedFileAside(m_path);
         if (!failure.isEmpty())
             return failure;

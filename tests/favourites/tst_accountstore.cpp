@@ -134,6 +134,36 @@ private Q_SLOTS:
         QCOMPARE(nameOf(AccountStore(m_path), {"m1"}), "admin");
     }
 
+    /// The user may delete the damaged file.
+    void aDamagedFileThatIsRemovedIsReplaced()
+    {
+        QCOMPARE(replaceFile(m_path, "{"), "");
+        AccountStore store(m_path);
+        QVERIFY(!store.problem().isEmpty() && QFile::remove(m_path));
+        QCOMPARE(store.put({}, gate), "");
+        QCOMPARE(listed(AccountStore(m_path)), "Gate admin gate-1");
+    }
+
+    /// The file may contain accounts, so it is not replaced.
+    void aFileThatCannotBeOpenedIsNotWritten()
+    {
+        QCOMPARE(AccountStore(m_path).put({}, gate), "");
+        const QByteArray stored = fileContents(m_path);
+        QVERIFY(QFile::remove(m_path) && QDir().mkpath(m_path)); // also for an administrator
+        AccountStore store(m_path);
+        QVERIFY(store.problem().contains(m_path));
+        QCOMPARE(store.put({}, hall), store.problem());
+        QCOMPARE(store.keep({{"m1"}}, "admin", "first-1"), store.problem());
+        QVERIFY(store.accounts().isEmpty());
+        QVERIFY(QDir(m_folder.path()).entryList({"*.damaged*"}).isEmpty());
+
+        QVERIFY(QDir().rmdir(m_path));
+        QCOMPARE(replaceFile(m_path, stored), ""); // it can be read again
+        QCOMPARE(store.put({}, hall), "");
+        QCOMPARE(store.problem(), "");
+        QCOMPARE(listed(AccountStore(m_path)), "Gate admin gate-1, Hall operator hall-1");
+    }
+
     void aFullDiskChangesNothing()
     {
         AccountStore store(m_path);

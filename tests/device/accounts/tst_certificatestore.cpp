@@ -135,6 +135,31 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(m_folder.filePath(kept.constFirst())));
     }
 
+    /// The file may contain accepted keys, so it is not replaced.
+    void aFileThatCannotBeOpenedIsNotWritten()
+    {
+        const QByteArray accepted = [this] {
+            CertificateStore store(m_path);
+            (void)store.verdictOn(shown(mac, "10.0.0.5", 1));
+            return store.agree(store.refused()).isEmpty() ? fileContents(m_path) : QByteArray();
+        }();
+        QVERIFY(!accepted.isEmpty() && QFile::remove(m_path) &&
+                QDir().mkpath(m_path)); // also for an administrator
+        CertificateStore store(m_path);
+        QVERIFY(store.problem().contains(m_path));
+        QCOMPARE(store.verdictOn(shown("", "10.0.0.6", 2)), CertificateVerdict::Unknown);
+        QCOMPARE(store.agree(store.refused()), store.problem());
+        QCOMPARE(store.verdictOn(shown("", "10.0.0.6", 2)), CertificateVerdict::Unknown);
+        QVERIFY(QDir(m_folder.path()).entryList({"*.damaged*"}).isEmpty());
+
+        QVERIFY(QDir().rmdir(m_path));
+        QCOMPARE(replaceFile(m_path, accepted), ""); // it can be read again
+        QCOMPARE(store.agree(store.refused()), "");
+        QCOMPARE(store.problem(), "");
+        for (const auto &certificate : {shown(mac, "10.0.0.5", 1), shown("", "10.0.0.6", 2)})
+            QCOMPARE(CertificateStore(m_path).verdictOn(certificate), CertificateVerdict::Trusted);
+    }
+
     void aKeyThatCannotBeStoredIsNotTrusted()
     {
         CertificateStore store(m_path);

@@ -138,6 +138,23 @@ private Q_SLOTS:
         QCOMPARE(DeviceNotes(path()).noteOf(device("m2")), "second");
     }
 
+    void aFileWithTooManyNotesIsKept()
+    {
+        QByteArray contents = "{'notes': [{'device': 'm1', 'text': 'first'}";
+        for (int number = 0; number < DeviceNotes::mostNotes; ++number)
+            contents += ", {'device': 'n" + QByteArray::number(number) + "', 'text': 't'}";
+        contents += "]}";
+        contents.replace('\'', '"');
+        QVERIFY(writeFile(path(), contents));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("contains invalid notes"));
+        DeviceNotes notes(path());
+        QCOMPARE(notes.count(), DeviceNotes::mostNotes);
+        QVERIFY(notes.problem().contains("notes.json"));
+        QCOMPARE(notes.setNote(device("m1"), "changed"), "");
+        QCOMPARE(fileContents(path() + ".damaged"), contents);
+        QCOMPARE(DeviceNotes(path()).noteOf(device("m1")), "changed");
+    }
+
     /// The file may contain notes, so it is not overwritten.
     void aFileThatCannotBeOpenedIsNotWritten()
     {
