@@ -65,12 +65,18 @@ void CommandMemory::setFavourite(const QString &command, bool isFavourite)
 void CommandMemory::read()
 {
     QFile file(m_path);
-    if (!file.open(QIODevice::ReadOnly))
-        return; // nothing has been stored yet
+    if (!file.exists())
+        return;
+    if (!file.open(QIODevice::ReadOnly)) {
+        m_state = State::Unopened;
+        qCWarning(logCgi).noquote() << "cannot read" << m_path << "-" << file.errorString();
+        return;
+    }
     constexpr qint64 largest = 4LL * 1024 * 1024;
     const QByteArray text = file.read(largest + 1);
     const QJsonDocument document = QJsonDocument::fromJson(text.size() > largest ? QByteArray() : text);
     if (!document.isObject()) {
+        m_state = State::Damaged;
         qCWarning(logCgi).noquote() << m_path << "contains no valid list of commands";
         return;
     }
@@ -78,12 +84,18 @@ void CommandMemory::read()
     m_favourites = commandsOf(document.object().value(favouritesKey), mostFavourites);
 }
 
-void CommandMemory::write() const
+void CommandMemory::write()
 {
+    if (m_state == State::Unopened)
+        return;
     const QJsonObject object = {{recentKey, QJsonArray::fromStringList(m_recent)},
                                 {favouritesKey, QJsonArray::fromStringList(m_favourites)}};
     const QByteArray text = QJsonDocument(object).toJson();
-    const QString failure = replaceFile(m_path, text);
+    QString failure = m_state == State::Damaged ? setDamagedFileAside(m_path) : QString();
+    if (failure.isEmpty()) {
+        m_state = State::Valid;
+        failure = replaceFile(m_path, text);
+    }
     if (!failure.isEmpty())
         qCWarning(logCgi).noquote() << "cannot write" << m_path << "-" << failure;
 }

@@ -13,7 +13,8 @@ public:
     static constexpr qsizetype longestCommand = 2048; ///< characters; longer commands are not stored
 
     /// Reads the file, if it exists. Entries beyond the limits are ignored. A file of more than 4 MiB and an
-    /// invalid one count as empty, a warning is logged, and the next change replaces the file.
+    /// invalid one count as empty, a warning is logged, and the next change renames the file and writes a new
+    /// one. A file that cannot be opened counts as empty, a warning is logged, and it is never written.
     explicit CommandMemory(const QString &path);
 
     /// The recent commands, the latest first, without duplicates. At most mostRecent.
@@ -29,10 +30,19 @@ public:
     void setFavourite(const QString &command, bool isFavourite);
 
 private:
+    /// State of the file.
+    enum class State
+    {
+        Valid,    ///< read, or missing
+        Unopened, ///< exists, but cannot be opened
+        Damaged,  ///< opened, but contains no commands
+    };
+
     void read();
-    void write() const;
+    void write();
 
     const QString m_path;
+    State m_state = State::Valid;
     QStringList m_recent;
     QStringList m_favourites;
 };

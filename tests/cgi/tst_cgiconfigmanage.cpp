@@ -149,6 +149,20 @@ private Q_SLOTS:
         QCOMPARE(m_manager->favouriteCommands(), next.favourites());
     }
 
+    void aDamagedFileOfCommandsIsKept()
+    {
+        const QString path = m_folder->filePath("cgicommands.json");
+        const QByteArray contents = "{\"favourites\": [\"/cgi-bin/a\"";
+        QVERIFY(writeFile(path, contents));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("no valid list of commands"));
+        CommandMemory memory(path);
+        memory.remember("/cgi-bin/b");
+        memory.remember("/cgi-bin/c");
+        QCOMPARE(fileContents(path + ".damaged"), contents);
+        QVERIFY(!QFile::exists(path + ".damaged2"));
+        QCOMPARE(CommandMemory(path).recent(), QStringList({"/cgi-bin/c", "/cgi-bin/b"}));
+    }
+
     /// The template of each language is a valid workbook of commands with the file name that the page opens.
     void templatesCanBeUsed_data()
     {
