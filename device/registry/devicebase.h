@@ -244,13 +244,13 @@ public:
     /// Progress of the latest documents, a map with the keys of ProgressKey: numbers of lines.
     virtual QVariantMap upgradeDocumentProgress() { return {}; }
 
-    /// Makes the current session one with this device. A session with this device is kept if the device
-    /// responds in it. Otherwise logs in, which signalCDeviceHighLevelLoginRet reports as well; the earlier
-    /// session is kept after a failure. Returns immediately; signalCDeviceSessionOpened reports the end,
-    /// unless openSession() or stopOpeningSession() is called before, or another page logs in to another
-    /// device. `readsChannels`: the channels are also read if the session is kept. `isGivenNow`: the user has
-    /// just entered the account. Without it, an account that the device no longer accepts in the session is
-    /// not tried again in a new login.
+    /// Makes the current session one with this device. A session in which the device responds is kept, unless
+    /// `isGivenNow` is set: the user has just entered the account. Otherwise logs in, which
+    /// signalCDeviceHighLevelLoginRet reports as well; the earlier session is kept after a failure. Returns
+    /// immediately; signalCDeviceSessionOpened reports the end, unless openSession() or stopOpeningSession()
+    /// is called before, or another page logs in to another device. `readsChannels`: the channels are also
+    /// read if the session is kept. Without `isGivenNow`, an account that the device no longer accepts in the
+    /// session is not tried again in a new login.
     virtual void openSession(const QString & /*ipport*/, const QString & /*account*/,
                              const QString & /*password*/, bool /*readsChannels*/, bool /*isGivenNow*/)
     {

@@ -174,6 +174,7 @@ void SessionLogins::openSession(const QString &ipport, const QString &account, c
                                 .channelCount = isCurrent ? m_session.channelCount() : 0,
                                 .isNewLogin = isGivenNow || account != m_session.account() ||
                                               password != m_session.password(),
+                                .isGivenNow = isGivenNow,
                                 .readsChannels = readsChannels};
     const Request request = {.number = ++m_lastRequest, .sessionBefore = m_session.handle()};
     m_threads->start([this, order, request] {

@@ -46,7 +46,7 @@ SessionOffer offerSession(const sdk::SdkLibraries &libraries, const SessionOrder
         const SessionResponse response = checkSession(present);
         if (response == SessionResponse::Refused && !order.isNewLogin)
             return {.result = loginResultOf(present.lastError()), .login = {}, .channels = {}};
-        if (response == SessionResponse::Responds) {
+        if (response == SessionResponse::Responds && !order.isGivenNow) {
             return {.result = LoginResult::Success,
                     .login = {},
                     .channels =

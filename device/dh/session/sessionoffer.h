@@ -17,6 +17,7 @@ struct SessionOrder
     int channelCount = 0;    ///< of the present session's device
     /// The account differs from that of the present session, or the user has just entered it.
     bool isNewLogin = true;
+    bool isGivenNow = false;   ///< the user has just entered the account: it is checked by a login
     bool readsChannels = true; ///< read the channels also if the present session is kept
 };
 
@@ -36,8 +37,8 @@ struct SessionOffer
 [[nodiscard]] bool respondsInSession(const ConfigSession &session);
 
 /// Checks the present session, and logs in with the account of the order if there is none or the device does
-/// not respond in it, for example after a restart. A session in which the device responds is kept, also with
-/// isNewLogin; the account of the order is not checked then. If the device no longer accepts the present
-/// login and the order has no new one, no login is sent: the result is SessionEnded or the refusal. Logs out
-/// nothing; the caller owns a new login. Blocks for the timeouts of the library; any thread.
+/// not respond in it, for example after a restart. A session in which the device responds is kept unless
+/// isGivenNow is set; the account of the order is not checked then. If the device no longer accepts the
+/// present login and the order has no new one, no login is sent: the result is SessionEnded or the refusal.
+/// Logs out nothing; the caller owns a new login. Blocks for the timeouts of the library; any thread.
 [[nodiscard]] SessionOffer offerSession(const sdk::SdkLibraries &libraries, const SessionOrder &order);

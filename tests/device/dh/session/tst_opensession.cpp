@@ -135,6 +135,22 @@ private Q_SLOTS:
         QCOMPARE(m_opened->last().at(1).toInt(), 0);
     }
 
+    /// The rights of the session are those of its account, and a wrong password must not remain unnoticed.
+    void anEnteredAccountIsCheckedInAnAliveSession()
+    {
+        QCOMPARE(m_site->login(m_recorder), 0);
+        const QVariant before = m_site->get("loginHandle");
+        const auto enter = [this](const QString &password) {
+            m_site->factory->openSession("dh", ipportOf(m_recorder), "admin", password, true, true);
+            return m_opened->wait() ? m_opened->last().at(1).toInt() : -1;
+        };
+        QCOMPARE(enter("secret9"), 2);
+        QCOMPARE(m_site->get("loginHandle"), before);
+        QCOMPARE(enter("secret1"), 0);
+        QVERIFY(m_site->get("loginHandle") != before);
+        QCOMPARE(m_opened->last().at(2).toList().size(), 3);
+    }
+
     void aCancelledLoginLeavesNoSession()
     {
         open(ipportOf(m_recorder));
