@@ -6,7 +6,8 @@
 
 namespace sdk {
 
-/// The phases of an upgrade, in the order Sending, Writing, Done. Failed may come instead of any of them.
+/// The phases of an upgrade, in the order Sending, Writing, Done. Failed may come instead of any of them. If
+/// the device requests the complete file once more, Sending and Writing follow again.
 enum class UpgradePhase : std::int32_t
 {
     Sending = 1, ///< the file is sent to the device; the upgrade can be cancelled

@@ -98,10 +98,14 @@ private:
 
     void takeProgress(std::int64_t sent)
     {
-        if (m_size <= 0 || isWriting())
+        if (m_size <= 0)
             return;
+        // After a request for the login, which may follow the complete file, all of it is sent again.
+        if (sent < std::exchange(m_sent, sent))
+            m_percent = -1;
         if (sent >= m_size) {
-            report(UpgradePhase::Writing, 0);
+            if (!isWriting())
+                report(UpgradePhase::Writing, 0);
             return;
         }
         const int percent = static_cast<int>(sent * fullPercent / m_size);
@@ -131,8 +135,9 @@ private:
     std::condition_variable_any m_wake;
     std::atomic<UpgradePhase> m_phase = UpgradePhase::Sending;
     std::int64_t m_size = 0;
-    int m_percent = -1;
-    std::jthread m_thread; ///< the last member: it uses the others
+    std::int64_t m_sent = 0; ///< bytes
+    int m_percent = -1;      ///< of the phase, as reported; -1 before the first byte of a transmission
+    std::jthread m_thread;   ///< the last member: it uses the others
 };
 
 FirmwareUploads::FirmwareUploads(std::shared_ptr<const CertificateDecision> decision)

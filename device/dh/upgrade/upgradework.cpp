@@ -228,16 +228,16 @@ UpgradeState UpgradeWork::follow(std::int64_t upgradeHandle, const UpgradeProgre
         if (now.phase != seen.phase || now.percent != seen.percent)
             lastChange = clock.now();
         seen = now;
-        if (!m_stopRefused && shouldStop(control)) {
+        const bool isWriting = now.phase == sdk::UpgradePhase::Writing;
+        if (!(m_stopRefused && isWriting) && shouldStop(control)) {
             if (m_libraries.net->NetStopUpgrade(upgradeHandle))
                 return ended(UpgradeTools::Stopped);
             // A device that writes its firmware continues. Before that, the stop is requested again.
-            m_stopRefused = now.phase == sdk::UpgradePhase::Writing;
+            m_stopRefused = isWriting;
             m_stopRemark = m_stopRefused ? UpgradeTexts::cannotStop() : UpgradeTexts::stopFails();
         }
         reportProgress(now);
-        const auto longest = now.phase == sdk::UpgradePhase::Writing ? m_limits.writingStandsStill
-                                                                     : m_limits.sendingStandsStill;
+        const auto longest = isWriting ? m_limits.writingStandsStill : m_limits.sendingStandsStill;
         if (clock.now() - lastChange > longest.count() || clock.now() - start > m_limits.whole.count())
             return ended(UpgradeTools::Stuck);
     }

@@ -105,6 +105,6 @@ private:
     const Report m_report;
     QString m_oldVersion;
     UpgradeState m_state;
-    bool m_stopRefused = false; ///< no further stop requests: the device writes its firmware
+    bool m_stopRefused = false; ///< no further stop requests in the phase Writing
     QString m_stopRemark;       ///< message why the upgrade has not stopped
 };

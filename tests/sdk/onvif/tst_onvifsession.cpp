@@ -3,6 +3,7 @@
 #include "sdk/callstop.h"
 #include "sdk/onvif/addresschange.h"
 #include "sdk/onvif/deviceinitialisation.h"
+#include "sdk/onvif/firmwareupload.h"
 #include "sdk/onvif/livestreams.h"
 #include "sdk/onvif/session/onvifsession.h"
 #include "tests/cgi/rawserver.h"
@@ -12,6 +13,7 @@
 
 #include <QHash>
 #include <QRegularExpression>
+#include <QTemporaryFile>
 
 #include <future>
 
@@ -329,6 +331,47 @@ private Q_SLOTS:
         QCOMPARE(result.wait_for(5s), std::future_status::ready);
         QCOMPARE(code(result.get()), code(NetError::Unconfirmed));
         QCOMPARE(device.requestsWith("SetNetworkDefaultGateway"), 1);
+    }
+
+    /// The device requests the login only when it has the complete file.
+    void aFileThatIsSentAgainIsReportedAgain()
+    {
+        QTemporaryFile file;
+        QVERIFY(file.open() && file.write(QByteArray(200'000, 'x')) > 0 && file.flush());
+        const RawServer device([](const RawExchange &exchange) {
+            if (exchange.request().contains("Authorization: Digest"))
+                exchange.respond("200 OK", {}, {});
+            else
+                exchange.respond("401 Unauthorized",
+                                 "WWW-Authenticate: Digest realm=\"r\", nonce=\"n\", qop=\"auth\"\r\n", {});
+        });
+        FirmwareUpload upload;
+        upload.address.host = oldAddress;
+        upload.address.port = device.address().section(u':', 1).toInt();
+        struct Progress
+        {
+            std::mutex mutex;
+            QList<QList<int>> phases; // each with its first percentage
+        } progress;
+        const auto take = [](std::int64_t, const sdk::UpgradeProgress *report, void *user) {
+            auto *seen = static_cast<Progress *>(user);
+            const std::scoped_lock lock(seen->mutex);
+            const int phase = static_cast<int>(report->phase);
+            if (seen->phases.isEmpty() || seen->phases.last().first() != phase)
+                seen->phases.append({phase, report->percent});
+        };
+        FirmwareUploads uploads(nullptr);
+        const std::int64_t handle =
+            uploads.open(1, upload, {.account = "admin", .password = "secret1"},
+                         file.fileName().toLocal8Bit().toStdString(), take, &progress, [] {});
+        QVERIFY(handle > 0);
+        const auto hasEnded = [&progress] {
+            const std::scoped_lock lock(progress.mutex);
+            return !progress.phases.isEmpty() && progress.phases.last().first() > 2; // Done or Failed
+        };
+        QTRY_VERIFY(hasEnded());
+        QCOMPARE(progress.phases, (QList<QList<int>>{{1, 0}, {2, 0}, {1, 0}, {2, 0}, {3, 100}}));
+        QCOMPARE(uploads.close(handle), NetError::None);
     }
 
     void anEndBeforeTheFirstHandlerIsReported()
