@@ -29,13 +29,11 @@ std::string packed(std::string_view name, Record record)
     return text ? text->toStdString() : std::string();
 }
 
+/// Reads the keys of `text` into `record`. Returns false for an invalid text.
 template<typename Record>
-std::optional<Record> unpacked(std::string_view name, std::string_view text)
+bool unpack(std::string_view name, std::string_view text, Record &record)
 {
-    Record record{};
-    if (!unpackConfigText(name, text, &record, sizeof(record)))
-        return std::nullopt;
-    return record;
+    return unpackConfigText(name, text, &record, sizeof(record)).has_value();
 }
 
 std::string networkText(OnvifSession &session, Deadline deadline, NetError &error)
@@ -93,20 +91,33 @@ std::string ntpText(OnvifSession &session, Deadline deadline, NetError &error)
     return packed("NTP", record);
 }
 
+LocalesRecord localesOf(const DeviceClock &clock)
+{
+    LocalesRecord record{};
+    if (const std::optional<PosixTimeZone> zone = readPosixTimeZone(clock.timeZone)) {
+        record.daylightSavingEnabled = clock.daylightSaving && zone->hasDaylightSaving() ? 1 : 0;
+        record.begin = zone->begin;
+        record.end = zone->end;
+    }
+    setBlockText(record.timeFormat, "yyyy-MM-dd HH:mm:ss");
+    return record;
+}
+
+/// False for a point that was never set, and for a weekday that does not exist.
+bool isUsable(const DaylightSavingPoint &point)
+{
+    constexpr int saturday = 6;
+    return point.month > 0 &&
+           (point.week == DaylightSavingPoint::byDate ? point.day > 0 : point.day <= saturday);
+}
+
 std::string localesText(OnvifSession &session, Deadline deadline, NetError &error)
 {
     const auto clock = session.device(deadline).clock();
     error = clock.error;
     if (!clock.isOk())
         return {};
-    LocalesRecord record{};
-    if (const std::optional<PosixTimeZone> zone = readPosixTimeZone(clock.value.timeZone)) {
-        record.daylightSavingEnabled = clock.value.daylightSaving && zone->hasDaylightSaving() ? 1 : 0;
-        record.begin = zone->begin;
-        record.end = zone->end;
-    }
-    setBlockText(record.timeFormat, "yyyy-MM-dd HH:mm:ss");
-    return packed("Locales", record);
+    return packed("Locales", localesOf(clock.value));
 }
 
 /// The zone `text` with another offset and the same rule of daylight saving.
@@ -119,13 +130,18 @@ std::string movedZone(const std::string &text, int offset)
     return zone.text();
 }
 
-NetError setNtp(OnvifSession &session, const NtpRecord &record, Deadline deadline)
+NetError setNtp(OnvifSession &session, std::string_view text, Deadline deadline)
 {
     DeviceService device = session.device(deadline);
     const auto clock = device.clock();
     if (!clock.isOk())
         return clock.error;
-    if (record.enabled != 0) {
+    NtpRecord record{};
+    record.enabled = clock.value.followsNtp ? 1 : 0;
+    record.timeZone = shownTimeZone(clock.value);
+    if (!unpack("NTP", text, record))
+        return NetError::InvalidValue;
+    if (record.enabled != 0 && !blockText(record.address).empty()) {
         const NtpSettings settings = {.fromDhcp = false, .server = std::string(blockText(record.address))};
         if (const ServiceOutcome outcome = device.setNtp(settings); !outcome.isOk())
             return outcome.error;
@@ -137,12 +153,16 @@ NetError setNtp(OnvifSession &session, const NtpRecord &record, Deadline deadlin
     return device.setClock(changed).error;
 }
 
-NetError setLocales(OnvifSession &session, const LocalesRecord &record, Deadline deadline)
+NetError setLocales(OnvifSession &session, std::string_view text, Deadline deadline)
 {
     DeviceService device = session.device(deadline);
     const auto clock = device.clock();
     if (!clock.isOk())
         return clock.error;
+    LocalesRecord record = localesOf(clock.value);
+    if (!unpack("Locales", text, record) ||
+        (record.daylightSavingEnabled != 0 && !(isUsable(record.begin) && isUsable(record.end))))
+        return NetError::InvalidValue;
     DeviceClock changed = clock.value;
     PosixTimeZone zone = readPosixTimeZone(clock.value.timeZone).value_or(PosixTimeZone{.name = "UTC"});
     changed.daylightSaving = record.daylightSavingEnabled != 0;
@@ -222,14 +242,10 @@ std::string systemConfiguration(OnvifSession &session, std::string_view name, De
 NetError setSystemConfiguration(OnvifSession &session, std::string_view name, std::string_view text,
                                 Deadline deadline)
 {
-    if (name == "NTP") {
-        const std::optional<NtpRecord> record = unpacked<NtpRecord>(name, text);
-        return record ? setNtp(session, *record, deadline) : NetError::InvalidValue;
-    }
-    if (name == "Locales") {
-        const std::optional<LocalesRecord> record = unpacked<LocalesRecord>(name, text);
-        return record ? setLocales(session, *record, deadline) : NetError::InvalidValue;
-    }
+    if (name == "NTP")
+        return setNtp(session, text, deadline);
+    if (name == "Locales")
+        return setLocales(session, text, deadline);
     return NetError::NotSupported;
 }
 

@@ -112,9 +112,14 @@ private:
     bool setConfiguration(LLONG handle, const char *name, const Record &record, int channel = -1)
     {
         const auto text = packConfigText(name, &record, sizeof(record));
+        return text && setConfigurationText(handle, name, *text, channel);
+    }
+
+    bool setConfigurationText(LLONG handle, const char *name, const QByteArray &text, int channel = -1)
+    {
         std::int32_t error = 0;
-        return text && m_net.NetSetNewConfig(handle, name, channel, text->constData(),
-                                             static_cast<std::uint32_t>(text->size()), error, 5000ms);
+        return m_net.NetSetNewConfig(handle, name, channel, text.constData(),
+                                     static_cast<std::uint32_t>(text.size()), error, 5000ms);
     }
 
 private Q_SLOTS:
@@ -182,6 +187,18 @@ private Q_SLOTS:
         QVERIFY(rule && rule->daylightSavingEnabled == 1 && rule->begin.month == 3 && rule->begin.week == 2 &&
                 rule->begin.minute == 30 && rule->end.week == DaylightSavingPoint::lastWeek &&
                 rule->end.day == 6);
+
+        // A text without all keys leaves the other settings as they are.
+        QVERIFY(!setConfigurationText(handle, "Locales", R"({"Locales": {"endMonth": 0}})"));
+        QCOMPARE(m_net.NetGetLastError(), code(NetError::InvalidValue));
+        QVERIFY(setConfigurationText(handle, "Locales", R"({"Locales": {"endMonth": 10}})"));
+        QVERIFY(setConfigurationText(handle, "NTP", R"({"NTP": {"enabled": true}})"));
+        const auto changed = configuration<LocalesRecord>(handle, "Locales");
+        QVERIFY(changed && changed->daylightSavingEnabled == 1 && changed->begin.month == 3 &&
+                changed->end.month == 10 && changed->end.day == 6);
+        const auto kept = configuration<NtpRecord>(handle, "NTP");
+        QVERIFY(kept && kept->enabled == 1 && kept->timeZone == 13);
+        QCOMPARE(SearchResponses::textOf(kept->address), u"192.168.1.1"_s);
 
         const TimeRecord wanted = {.year = 2031, .month = 5, .day = 6, .hour = 7, .minute = 8, .second = 9};
         QVERIFY(m_net.NetSetDeviceSetting(handle, DeviceSetting::Time, -1, &wanted, sizeof(wanted), 3000ms));
