@@ -65,6 +65,7 @@ DemoNetLibrary::~DemoNetLibrary()
 bool DemoNetLibrary::NetInit()
 {
     record("NetInit");
+    m_searchTally.clear();
     m_gate.open();
     return true;
 }

@@ -25,19 +25,19 @@ bool OnvifNetLibrary::NetInit()
 
 void OnvifNetLibrary::NetCleanup()
 {
-    // Running calls end immediately: their requests are cancelled.
     if (m_discovery)
         m_discovery->cancel();
+    // First the calls, which end immediately: a running one may still open a session, a stream or an upload.
+    m_gate.close();
     std::map<LLONG, std::shared_ptr<OnvifSession>> sessions;
     {
         const std::scoped_lock lock(m_mutex);
         sessions.swap(m_sessions);
     }
     for (const auto &[handle, session] : sessions)
-        session->cancel();
+        session->cancel(); // requests for key frames still use it
     m_streams.closeAll();
     m_uploads.closeAll();
-    m_gate.close();
     m_discovery.reset();
 }
 
@@ -145,7 +145,10 @@ void OnvifNetLibrary::NetSearchDeviceByIp(const SearchByAddressesRequest &reques
                                           SearchResponseHandler handler, void *user,
                                           std::chrono::milliseconds wait)
 {
-    searchByAddresses(request, handler, user, wait);
+    if (request.count == 1)
+        searchByAddresses(request, handler, user, wait);
+    else
+        m_error.fail(NetError::InvalidValue);
 }
 
 } // namespace sdk::onvif

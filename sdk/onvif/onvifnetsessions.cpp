@@ -184,6 +184,7 @@ bool OnvifNetLibrary::onSession(LLONG loginHandle, std::chrono::milliseconds wai
     if (!call.isAllowed() || !session)
         return m_error.fail(NetError::SessionEnded);
     const std::stop_token stop = session->calls().stop();
+    const std::stop_callback cancelOnCleanup(call.stop(), [&session] { session->cancel(); });
     NetError error = NetError::None;
     {
         const RunningCall running(stop);
@@ -191,7 +192,8 @@ bool OnvifNetLibrary::onSession(LLONG loginHandle, std::chrono::milliseconds wai
         error = session->hasEnded() ? errorOfEnded(*session, deadline) : work(*session, deadline);
     }
     if (stop.stop_requested())
-        error = this->session(loginHandle) ? NetError::Cancelled : NetError::SessionEnded;
+        error = !call.stop().stop_requested() && this->session(loginHandle) ? NetError::Cancelled
+                                                                            : NetError::SessionEnded;
     return error == NetError::None || m_error.fail(error);
 }
 

@@ -43,6 +43,7 @@ std::string reachedUrl(const std::string &url, const ServiceAddress &reached)
 std::int64_t OnvifNetLibrary::NetStartRealStream(LLONG loginHandle, std::int32_t channel, std::uintptr_t,
                                                  LiveStreamKind kind)
 {
+    const CallGate::Call call(m_gate); // lasts until the stream of a failed start is closed
     std::int64_t handle = 0;
     const bool isStarted =
         onSession(loginHandle, longestStreamStart, [&](OnvifSession &session, Deadline deadline) {
@@ -119,6 +120,7 @@ std::int64_t OnvifNetLibrary::NetStartUpgrade(LLONG loginHandle, const char *fil
                                               UpgradeProgressHandler handler, void *user,
                                               std::chrono::milliseconds wait)
 {
+    const CallGate::Call call(m_gate); // lasts until the upload of a failed start is closed
     std::int64_t handle = 0;
     const bool isStarted = onSession(loginHandle, wait, [&](OnvifSession &session, Deadline deadline) {
         if (!FirmwareUploads::isReadable(fileName))

@@ -121,6 +121,16 @@ private:
         });
     }
 
+    /// The numbers of the queried and of the responding addresses.
+    [[nodiscard]] QList<std::uint32_t> countersOfSearches() const
+    {
+        SearchReport report{};
+        report.size = sizeof(report);
+        return m_net->NetGetSearchReport(report)
+                   ? QList<std::uint32_t>{report.addressesAsked, report.addressesResponding}
+                   : QList<std::uint32_t>();
+    }
+
 private Q_SLOTS:
     void initTestCase()
     {
@@ -506,6 +516,15 @@ private Q_SLOTS:
         m_net->NetSearchDeviceByIp(request, &SearchCounter::take, &single, 3000ms);
         QCOMPARE(single.count.load(), 1);
         QCOMPARE(first.late + second.late, 0);
+        QCOMPARE(countersOfSearches(), QList<std::uint32_t>({1, 1}));
+
+        m_net->NetCleanup();
+        QVERIFY(m_net->NetInit());
+        QCOMPARE(countersOfSearches(), QList<std::uint32_t>({0, 0}));
+        request.count = 2; // the operation is for one address
+        setBlockText(request.addresses[1], slow);
+        m_net->NetSearchDeviceByIp(request, &SearchCounter::take, &single, 3000ms);
+        QCOMPARE(single.count.load(), 1);
     }
 };
 
