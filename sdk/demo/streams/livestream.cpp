@@ -18,6 +18,7 @@ void LiveStream::setHandler(RealDataHandler handler, void *user)
     m_handler = handler;
     m_user = user;
     m_hasHandler = handler != nullptr;
+    reportEnd();
 }
 
 bool LiveStream::isInsideHandler()
@@ -53,8 +54,18 @@ void LiveStream::send(const EncodedPackets &packets)
 void LiveStream::end(StreamEndReason reason)
 {
     const std::lock_guard lock(m_mutex);
-    if (!m_hasEnded.exchange(true) && m_handler)
-        call(RealDataType::End, {}, static_cast<std::int64_t>(reason));
+    if (!m_hasEnded.exchange(true))
+        m_end = reason;
+    reportEnd();
+}
+
+void LiveStream::reportEnd()
+{
+    if (!m_end || !m_handler)
+        return;
+    const StreamEndReason reason = *m_end;
+    m_end.reset();
+    call(RealDataType::End, {}, static_cast<std::int64_t>(reason));
 }
 
 void LiveStream::deliver(std::span<const std::uint8_t> bytes)

@@ -10,6 +10,7 @@
 #include <atomic>
 #include <cstdint>
 #include <mutex>
+#include <optional>
 #include <span>
 
 namespace sdk::demo {
@@ -42,7 +43,8 @@ public:
 
     /// Sets the handler; null removes it. The previous handler is not running after the return, so this must
     /// not be called from a handler. A handler that replaces another one continues its stream. A handler that
-    /// replaces null gets a new header and a key frame first.
+    /// replaces null gets a new header and a key frame first. If the stream has ended while no handler was
+    /// set, `handler` is called with RealDataType::End during this call.
     void setHandler(RealDataHandler handler, void *user);
 
     /// Whether a handler is set and the stream has not ended. The data may start later, at the start time.
@@ -73,12 +75,14 @@ public:
     /// Makes the next frame start with a new header and be a key frame.
     void restart() { m_writer.reset(); }
 
-    /// Ends the stream and calls the handler, if one is set, with RealDataType::End. No effect on a stream
-    /// that has ended. The handle stays valid until it is closed.
+    /// Ends the stream and calls the handler with RealDataType::End; without a handler, the next one that is
+    /// set. No effect on a stream that has ended. The handle stays valid until it is closed.
     void end(StreamEndReason reason);
 
 private:
     void deliver(std::span<const std::uint8_t> bytes);
+    /// Passes the end to the handler, if both exist. The caller holds the mutex.
+    void reportEnd();
     /// Calls the handler. The caller holds the mutex.
     void call(RealDataType type, std::span<const std::uint8_t> bytes, std::int64_t parameter) const;
 
@@ -91,7 +95,8 @@ private:
     std::mutex m_mutex; // held while the handler runs
     RealDataHandler m_handler = nullptr;
     void *m_user = nullptr;
-    std::int64_t m_restarts = 0; // counts the handlers that have replaced null
+    std::int64_t m_restarts = 0;          // counts the handlers that have replaced null
+    std::optional<StreamEndReason> m_end; // an end that no handler has received yet
 
     // members of the source's thread
     std::unique_ptr<streams::MatroskaWriter> m_writer;

@@ -1,6 +1,7 @@
 // How the streams of simulated channels end.
 #include "sdk/demo/demosite.h"
 #include "sdk/demo/steppableclock.h"
+#include "sdk/demo/streams/livestream.h"
 #include "sdk/netlibrary.h"
 #include "sdk/streamblocks.h"
 #include "tests/datatable.h"
@@ -131,6 +132,20 @@ private Q_SLOTS:
         QCOMPARE(watcher.ends(), reason == 0 ? QList<int>() : QList<int>{reason});
         QCOMPARE(site.net->NetStopRealStream(handle), handleStays);
         QVERIFY(!site.net->NetStopRealStream(handle));
+    }
+
+    void anEndWithoutAHandlerIsReportedToTheNextOne()
+    {
+        LiveStream stream(7, {});
+        RealDataWatcher first;
+        RealDataWatcher second;
+        stream.setHandler(&RealDataWatcher::take, &first);
+        stream.setHandler(nullptr, nullptr);
+        stream.end(StreamEndReason::ConnectionLost);
+        stream.setHandler(&RealDataWatcher::take, &second);
+        stream.setHandler(&RealDataWatcher::take, &second);
+        QCOMPARE(first.ends(), QList<int>());
+        QCOMPARE(second.ends(), QList{static_cast<int>(StreamEndReason::ConnectionLost)});
     }
 };
 
