@@ -24,17 +24,25 @@ bool holdsNames(pugi::xml_node element)
     return name == "env:Value" || name == "d:Types";
 }
 
-void collectPrefixes(pugi::xml_node node, std::set<std::string> &prefixes)
+/// The prefixes in a message.
+struct Prefixes
 {
-    prefixes.insert(std::string(prefixOf(node.name())));
+    std::set<std::string> all = {};
+    std::set<std::string, std::less<>> inTexts = {};
+};
+
+void collectPrefixes(pugi::xml_node node, Prefixes &prefixes)
+{
+    prefixes.all.insert(std::string(prefixOf(node.name())));
     if (holdsNames(node)) {
         std::string_view text = node.text().get();
         for (std::size_t colon = text.find(':'); colon != std::string_view::npos; colon = text.find(':')) {
             const std::size_t space = text.substr(0, colon).rfind(' ');
             const std::size_t begin = space == std::string_view::npos ? 0 : space + 1;
-            prefixes.insert(std::string(text.substr(begin, colon - begin)));
+            prefixes.inTexts.emplace(text.substr(begin, colon - begin));
             text.remove_prefix(colon + 1);
         }
+        prefixes.all.insert(prefixes.inTexts.begin(), prefixes.inTexts.end());
     }
     for (const pugi::xml_node child : node.children())
         collectPrefixes(child, prefixes);
@@ -43,13 +51,12 @@ void collectPrefixes(pugi::xml_node node, std::set<std::string> &prefixes)
 using Names = std::map<std::string, std::string, std::less<>>;
 
 /// The device's name of each prefix; an empty name stands for the default namespace.
-Names namesOf(const std::set<std::string> &prefixes, XmlManner manner)
+Names namesOf(const Prefixes &prefixes, XmlManner manner)
 {
-    // Prefixes in texts always need a name.
-    const std::set<std::string_view> named = {"env", "ter", "dn", "d", "wsa"};
+    const std::set<std::string_view> named = {"env", "d", "wsa"};
     Names names;
     int number = 0;
-    for (const std::string &prefix : prefixes) {
+    for (const std::string &prefix : prefixes.all) {
         if (prefix.empty())
             continue;
         if (manner == XmlManner::UsualPrefixes)
@@ -57,7 +64,9 @@ Names namesOf(const std::set<std::string> &prefixes, XmlManner manner)
         else if (manner == XmlManner::OwnPrefixes)
             names[prefix] = prefix == envelopePrefix ? "s" : "ns" + std::to_string(++number);
         else
-            names[prefix] = named.contains(prefix) ? prefix : std::string();
+            // The default namespace does not apply to names in texts.
+            names[prefix] =
+                named.contains(prefix) || prefixes.inTexts.contains(prefix) ? prefix : std::string();
     }
     return names;
 }
@@ -153,7 +162,7 @@ XmlElement SoapMessage::header()
 
 QByteArray SoapMessage::bytes(XmlManner manner)
 {
-    std::set<std::string> prefixes;
+    Prefixes prefixes;
     collectPrefixes(m_envelope, prefixes);
     const Names names = namesOf(prefixes, manner);
     for (const auto &[prefix, name] : names) {

@@ -50,7 +50,8 @@ enum class XmlManner
     UsualPrefixes, ///< the prefixes of soap/namespaces.h, but "SOAP-ENV" for the envelope
     OwnPrefixes,   ///< "ns1", "ns2" and so on, "s" for the envelope
     Defaults,      ///< most elements have no prefix and declare their namespace as the default one; those of
-                   ///< the envelope, faults, addressing and discovery have the prefixes of soap/namespaces.h
+                   ///< the envelope, addressing and discovery, and names in texts, have the prefixes of
+                   ///< soap/namespaces.h
 };
 
 /// A SOAP 1.2 message that is being written. Not thread-safe.

@@ -24,7 +24,19 @@ Response describe(const QString &address, const QByteArray &path, const QString 
     return exchange(address, 554, request(digestHeader(refusal, password, "DESCRIBE", uri)));
 }
 
-/// The addresses in the responses to a probe, until `count` have arrived or the timeout has passed.
+/// True if the types in a response contain that of a device, whose prefix is declared.
+bool hasDeviceType(const Response &response)
+{
+    const QStringList types = response.text(u"Types"_s).split(u' ');
+    return std::any_of(types.begin(), types.end(), [&response](const QString &type) {
+        const QByteArray prefix = type.section(u':', 0, 0).toUtf8();
+        return type == QString::fromUtf8(prefix + ":Device") &&
+               response.body.contains("xmlns:" + prefix + "=\"http://www.onvif.org/ver10/device/wsdl\"");
+    });
+}
+
+/// The addresses in the responses to a probe, until `count` have arrived or the timeout has passed. Responses
+/// without the type of a device do not count.
 QStringList probe(const QString &group, const QByteArray &types, int count, int patience = 3000)
 {
     QUdpSocket socket;
@@ -46,7 +58,8 @@ QStringList probe(const QString &group, const QByteArray &types, int count, int 
             Response response;
             response.body.resize(socket.pendingDatagramSize());
             socket.readDatagram(response.body.data(), response.body.size());
-            found.append(response.text(u"XAddrs"_s));
+            if (hasDeviceType(response))
+                found.append(response.text(u"XAddrs"_s));
         }
     }
     found.sort();
