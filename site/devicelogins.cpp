@@ -79,7 +79,6 @@ LoginOutcome DeviceLogins::outcome(const SceneDevice &device, const QString &use
     const sdk::NetError error = m_guard.check(device, user, password, LoginKind::Secure);
     LoginOutcome outcome;
     outcome.user = user;
-    outcome.wasTried = true;
     if (error == sdk::NetError::None)
         outcome.level = userLevelOf(device, user);
     else
