@@ -342,7 +342,7 @@ private:
         });
         measure(u"CGI command"_s, commandPage, [this] {
             return m_window.commands().send(u"Command"_s, m_window.initialised(),
-                                            u"/cgi-bin/magicBox.cgi?action=getDeviceType"_s);
+                                            u"/cgi-bin/device?get=type"_s);
         });
         QString workbook;
         measure(
