@@ -82,8 +82,10 @@ bool ApplicationSheetEngine::open(const QString &path)
     if (!isAvailable() && !start())
         return false;
     m_workbooks = object(m_application.get(), "Workbooks");
-    return m_workbooks && call(m_workbooks.get(), "Open(const QString&)", QDir::toNativeSeparators(path)) &&
-           selectActive() && selectSheet(1);
+    m_hasFile = m_workbooks &&
+                call(m_workbooks.get(), "Open(const QString&)", QDir::toNativeSeparators(path)) &&
+                selectActive() && selectSheet(1);
+    return m_hasFile;
 }
 
 /// Selects the workbook that the application has just created or opened, and its sheet.
@@ -168,12 +170,16 @@ bool ApplicationSheetEngine::setRowHeight(int row, double points)
 
 bool ApplicationSheetEngine::save()
 {
-    return call(m_workbook.get(), "Save()");
+    // The application would choose a file of its own for a new workbook.
+    return m_hasFile ? call(m_workbook.get(), "Save()")
+                     : fail(QStringLiteral("the workbook has no file yet"));
 }
 
 bool ApplicationSheetEngine::saveAs(const QString &path)
 {
-    return call(m_workbook.get(), "SaveAs(const QString&)", QDir::toNativeSeparators(path));
+    const bool isSaved = call(m_workbook.get(), "SaveAs(const QString&)", QDir::toNativeSeparators(path));
+    m_hasFile = m_hasFile || isSaved;
+    return isSaved;
 }
 
 void ApplicationSheetEngine::quit()
@@ -183,6 +189,7 @@ void ApplicationSheetEngine::quit()
     m_sheets.reset();
     m_workbook.reset();
     m_workbooks.reset();
+    m_hasFile = false;
     if (m_application)
         call(m_application.get(), "Quit()");
     m_application.reset();

@@ -63,7 +63,8 @@ private:
     Object m_workbook;
     Object m_sheets;
     Object m_sheet;
-    QString m_exception; ///< the application's error in the running operation
+    bool m_hasFile = false; ///< the workbook was opened from a file or saved to one
+    QString m_exception;    ///< the application's error in the running operation
 };
 
 } // namespace sheets

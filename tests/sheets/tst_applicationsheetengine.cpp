@@ -43,6 +43,7 @@ private Q_SLOTS:
         QVERIFY(excel.setFontSize(CellRange::cell(2, 1), 12));
         QVERIFY(excel.setBold(CellRange::cell(2, 1), true));
         QVERIFY(excel.setRowHeight(1, 160));
+        QVERIFY(!excel.save()); // the application would choose a file
         QVERIFY(excel.saveAs("/folder/device.xlsx"));
         QVERIFY(excel.save());
         excel.quit();
