@@ -69,12 +69,15 @@ Item {
     }
 
     /// Shows these channels after the present ones, with more cells if necessary; those beyond the ninth are not shown.
+    /// With more cells, the page becomes the one with the first channel of the present page.
     function include(wanted) {
         const shown = shownChannels.filter(channel => channel >= 0);
         const together = shown.concat(wanted.filter(channel => !shown.includes(channel)));
         const count = together.length <= 1 ? 1 : together.length <= 4 ? 4 : 9;
         enlargedCell = -1;
+        const first = page * cellCount;
         cellCount = Math.max(cellCount, count);
+        page = Math.min(pages - 1, Math.floor(first / cellCount));
         show(Array.from({length: cellCount}, (_, cell) => together[cell] ?? -1));
     }
 

@@ -327,6 +327,23 @@ private Q_SLOTS:
         QCOMPARE(textIn(2, "liveChannelName"), "D23");
     }
 
+    void thePageFollowsTheNumberOfCells()
+    {
+        m_devices->channels = {{20, 9}};
+        openLive(20);
+        click("liveOneButton");
+        for (int page = 1; page < 6; ++page)
+            click("liveNextButton");
+        QTRY_COMPARE(text("livePage"), "6 / 9");
+        tick({1});
+        click("liveAddButton"); // two views need four cells
+        QTRY_COMPARE(text("livePage"), "2 / 3");
+        QCOMPARE(textIn(0, "liveChannelName"), "D20 · C5");
+        click("livePreviousButton");
+        QCOMPARE(text("livePage"), "1 / 3");
+        QCOMPARE(textIn(0, "liveChannelName"), "D20 · C0");
+    }
+
     /// The image is taken in the device's own session. A removed device gets no request.
     void aSnapshotOfAnAddedDeviceIsTaken()
     {
