@@ -212,8 +212,12 @@ QtObject {
     readonly property int turn: 1000  // one rotation of a spinner
     readonly property int toolTipDelay: 500  // from the entry of the pointer to the tip
     readonly property int toolTipTime: 8000  // after which a tip closes
-    readonly property int toastDuration: 4000  // of information and success
-    readonly property int errorToastDuration: 9000  // of errors and refusals
+    readonly property int toastDuration: 4000  // minimum of information and success
+    readonly property int errorToastDuration: 9000  // minimum of errors and refusals
+    readonly property int longestToastDuration: 20000  // of a long text
+    readonly property int toastNoticed: 1500  // until the user starts to read
+    readonly property int letterReading: 60  // of one letter
+    readonly property int ideographReading: 170  // of one Chinese or Japanese character
 
     // Code points of the icon font by the name of the icon (OVIcon.name), see fonts/make-fonts.py.
     readonly property var icons: ({

@@ -20,8 +20,15 @@ T.Popup {
     readonly property real mostWidth: Math.min(Theme.toastMost, Math.max(area.width, Theme.toastLeast))
     readonly property Item newest: toasts.newest(toasts.revision)
 
+    /// The time to read a text, in ms; Theme.longestToastDuration at most.
+    function readingTime(text) {
+        const firstIdeograph = "\u2e80";
+        const times = Array.from(text, character => character < firstIdeograph ? Theme.letterReading : Theme.ideographReading);
+        return Math.min(Theme.longestToastDuration, times.reduce((sum, time) => sum + time, Theme.toastNoticed));
+    }
+
     /// Shows a message. `severity` is a Severity, Information by default; `duration` is in ms, the default depends on
-    /// the severity. A message with the same text is replaced.
+    /// the severity. A longer text stays for its readingTime(). A message with the same text is replaced.
     function show(text, severity, duration) {
         for (let i = messages.count - 1; i >= 0; --i) {
             if (messages.get(i).message === text)
@@ -30,7 +37,10 @@ T.Popup {
         if (messages.count === maximumCount)
             messages.remove(0);
         const defaultDuration = severity === OVToast.Error || severity === OVToast.Refusal ? Theme.errorToastDuration : Theme.toastDuration;
-        messages.append({message: text, severity: severity ?? OVToast.Information, duration: duration ?? defaultDuration});
+        messages.append({
+            message: text, severity: severity ?? OVToast.Information,
+            duration: Math.max(duration ?? defaultDuration, readingTime(text))
+        });
         open();
     }
 

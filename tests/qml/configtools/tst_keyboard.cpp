@@ -62,7 +62,11 @@ const char *const scene =
     "            OVTextField { objectName: 'faulty'; width: 300; errorText: dialog.fault }\n"
     "        }\n"
     "    }\n"
-    "    OVToast { objectName: 'notices' }\n";
+    "    OVToast { objectName: 'notices' }\n"; y: 600; to: 10; value: 12; onCommitted: value => done = 'set ' + "
+    "value }\n"
+    "    OVSlider { objectName: 'single'; y: 640; from: 3; to: 3; value: 3; onCommitted: value => done = "
+    "'set ' + value "
+    "}\n";
 
 } // namespace
 
@@ -411,6 +415,26 @@ private Q_SLOTS:
         QTRY_COMPARE(findAll("toastText"), QStringList("saved"));
         QMetaObject::invokeMethod(notices, "clear");
         QTRY_VERIFY(!find("toastText"));
+    }
+
+    void aLongMessageStaysLonger_data()
+    {
+        const auto row = dataTable<QString, int>({"message", "seconds"});
+        row("short", "saved", 4);
+        row("long", QString(150, 'x'), 10);
+        row("long, in Chinese", QString(50, u'设'), 10);
+        row("very long", QString(2000, 'x'), 20);
+    }
+
+    void aLongMessageStaysLonger()
+    {
+        QFETCH(const QString, message);
+        QFETCH(const int, seconds);
+        QObject *notices = m_window->findChild<QObject *>("notices");
+        QMetaObject::invokeMethod(notices, "show", Q_ARG(QVariant, message), Q_ARG(QVariant, 1),
+                                  Q_ARG(QVariant, QVariant()));
+        QTRY_VERIFY(find("toast"));
+        QCOMPARE(find("toast")->property("duration").toInt() / 1000, seconds);
     }
 
 private:
