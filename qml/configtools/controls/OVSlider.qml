@@ -9,8 +9,8 @@ Item {
     id: root
 
     property int from: 0
-    property int to: 100  // counts as from + 1 if it is not above `from`
-    property int value: 0  // not changed by the slider
+    property int to: 100  // the slider is disabled if it is not above `from`
+    property int value: 0  // not changed by the slider; outside the range, the handle is at the nearer end
     property string accessibleName
     property bool unknown: false  // no handle, and a dash instead of the number
     /// The object from which the owner reads `value`, such as a map of values. When it is replaced, the slider shows
@@ -18,7 +18,8 @@ Item {
     property var source: null
     /// False while the user moves the slider: it then ignores a change of `value`.
     readonly property bool rested: !slider.pressed && !rest.running
-    signal committed(int value)  // only a number other than `value`
+    readonly property int bounded: Math.max(from, Math.min(to, value))  // position of the handle for `value`
+    signal committed(int value)  // only after a move of the handle, with a number other than `value`
 
     /// Shows `value`, unless the user moves the slider.
     function follow() {
@@ -30,7 +31,7 @@ Item {
     function commit() {
         rest.stop();
         const chosen = Math.round(slider.value);
-        if (chosen !== value)
+        if (chosen !== (unknown ? value : bounded))
             committed(chosen);
     }
 
@@ -46,7 +47,7 @@ Item {
 
         width: root.width - number.width - Theme.unit
         height: root.height
-        enabled: root.enabled
+        enabled: root.enabled && root.to > root.from
         focusPolicy: Qt.StrongFocus
         from: root.from
         hoverEnabled: true
@@ -114,7 +115,7 @@ Item {
         font: Theme.figureFont
         horizontalAlignment: Text.AlignRight
         objectName: "sliderNumber"
-        text: root.unknown ? "—" : Math.round(slider.value)
+        text: root.unknown ? "—" : Math.round(slider.value) === root.bounded ? root.value : Math.round(slider.value)
     }
 
     Timer {

@@ -62,7 +62,8 @@ const char *const scene =
     "            OVTextField { objectName: 'faulty'; width: 300; errorText: dialog.fault }\n"
     "        }\n"
     "    }\n"
-    "    OVToast { objectName: 'notices' }\n"; y: 600; to: 10; value: 12; onCommitted: value => done = 'set ' + "
+    "    OVToast { objectName: 'notices' }\n"
+    "    OVSlider { objectName: 'beyond'; y: 600; to: 10; value: 12; onCommitted: value => done = 'set ' + "
     "value }\n"
     "    OVSlider { objectName: 'single'; y: 640; from: 3; to: 3; value: 3; onCommitted: value => done = "
     "'set ' + value "
@@ -435,6 +436,32 @@ private Q_SLOTS:
                                   Q_ARG(QVariant, QVariant()));
         QTRY_VERIFY(find("toast"));
         QCOMPARE(find("toast")->property("duration").toInt() / 1000, seconds);
+    }
+
+    /// A click without a move writes nothing to the device, although the value is outside the range.
+    void aSliderKeepsAValueOutsideItsRange()
+    {
+        const QQuickItem *beyond = find("beyond");
+        const auto number = [](const QQuickItem *slider) {
+            return findBelow(const_cast<QQuickItem *>(slider), "sliderNumber", Sight::Visible)
+                ->property("text")
+                .toString();
+        };
+        QCOMPARE(number(beyond), "12");
+        const QQuickItem *label = findBelow(find("beyond"), "sliderNumber", Sight::Visible);
+        const QPointF handle = beyond->mapToScene({label->x() - 12, beyond->height() / 2});
+        QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, handle.toPoint());
+        QCOMPARE(done(), "");
+        QCOMPARE(number(beyond), "12");
+        press(Qt::Key_Left);
+        QTRY_COMPARE(done(), "set 9");
+        m_window->setProperty("done", "");
+
+        const QQuickItem *single = find("single"); // it has one value only
+        QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, single->mapToScene({100, 10}).toPoint());
+        press(Qt::Key_Right);
+        QCOMPARE(number(single), "3");
+        QCOMPARE(done(), "");
     }
 
 private:
