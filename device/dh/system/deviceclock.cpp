@@ -62,12 +62,13 @@ std::optional<QDateTime> readDeviceClock(sdk::NetLibrary &net, std::int64_t logi
         return static_cast<int>(std::min<std::uint32_t>(number, 9999));
     };
     const QDateTime time(QDate(part(record.year), part(record.month), part(record.day)),
-                         QTime(part(record.hour), part(record.minute), part(record.second)));
+                         QTime(part(record.hour), part(record.minute), part(record.second)), Qt::UTC);
     return time.isValid() ? std::optional(time) : std::nullopt;
 }
 
 QString deviceClockText(const QDateTime &device, const QDateTime &here)
 {
+    const QDateTime shownHere(here.date(), here.time(), Qt::UTC);
     return ClockTexts::whole().arg(device.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")),
-                                   ClockTexts::difference(here.secsTo(device)));
+                                   ClockTexts::difference(shownHere.secsTo(device)));
 }

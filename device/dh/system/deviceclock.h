@@ -13,11 +13,12 @@ namespace sdk {
 class NetLibrary;
 } // namespace sdk
 
-/// The time of a device, in its local time without a zone. On failure nullopt: `error` is the library's
-/// error, or 0 if the response is not a valid time. `net` must not be null. Blocks for up to 3 s; any
-/// thread.
+/// The date and time that a device shows, as a QDateTime in UTC: daylight saving of the host does not apply
+/// to it. On failure nullopt: `error` is the library's error, or 0 if the response is not a valid time. `net`
+/// must not be null. Blocks for up to 3 s; any thread.
 [[nodiscard]] std::optional<QDateTime> readDeviceClock(sdk::NetLibrary &net, std::int64_t loginHandle,
                                                        std::uint32_t &error);
 
-/// Text with the device's time and its difference to `here`, the host's local time, in the user's language.
+/// Text with the time of readDeviceClock() and its difference to `here`, the host's local time, in the user's
+/// language. The dates and times that both show are compared.
 [[nodiscard]] QString deviceClockText(const QDateTime &device, const QDateTime &here);

@@ -1,6 +1,9 @@
 // System configuration: requests to devices, their effects, and the results in the rows.
+#include "device/dh/system/deviceclock.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/factorysite.h"
+
+#include <QScopeGuard>
 
 using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
@@ -194,6 +197,21 @@ private Q_SLOTS:
         QVERIFY2(text.match(outcome.text).hasMatch(), qPrintable(outcome.text));
         QCOMPARE(read(absent), (StepOutcome{.result = 5, .text = {}}));
         QCOMPARE(asked("NetLogout"), asked("NetLoginSecure") - 1);
+    }
+
+    /// The host's daylight saving begins on 29 March: the time from 02:00 to 03:00 does not exist there.
+    void aClockIsComparedWithoutDaylightSaving()
+    {
+        const QByteArray zone = qgetenv("TZ");
+        const auto restore = qScopeGuard([&zone] { zone.isEmpty() ? qunsetenv("TZ") : qputenv("TZ", zone); });
+        qputenv("TZ", "CET-1CEST,M3.5.0,M10.5.0/3");
+        run("setTimeByManual", {{"time", "2026-03-29 02:30:00"}});
+        const StepOutcome outcome =
+            m_factory->backEnd("dh")->systemStep("readTime", {}, camera)(StepControl());
+        QCOMPARE(outcome.result, 0);
+        QVERIFY2(outcome.text.startsWith("2026-03-29 02:30:"), qPrintable(outcome.text));
+        QCOMPARE(deviceClockText(QDateTime({2026, 7, 1}, {12, 0}, Qt::UTC), QDateTime({2026, 1, 1}, {12, 0})),
+                 "2026-07-01 12:00:00，快 181 天 0 小时");
     }
 
     void aResetMakesTheDeviceFactoryNew()
