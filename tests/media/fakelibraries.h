@@ -13,6 +13,7 @@
 
 #include <atomic>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <vector>
 
@@ -55,6 +56,7 @@ class FakeDecoder : public sdk::DecoderLibrary
 public:
     static constexpr std::int32_t firstPort = 3; ///< the number of the port
 
+    explicit FakeDecoder(std::shared_ptr<LibraryCalls> calls) : m_ownedCalls(std::move(calls)) {}
     /// `calls` must outlive the object.
     explicit FakeDecoder(LibraryCalls &calls) : m_calls(calls) {}
 
@@ -137,7 +139,8 @@ public:
     std::function<void()> beforeRemoval; ///< called when the handler is about to be removed
 
 private:
-    LibraryCalls &m_calls;
+    const std::shared_ptr<LibraryCalls> m_ownedCalls; // threads may still call the library after the test
+    LibraryCalls &m_calls = *m_ownedCalls;
     std::mutex m_handlerMutex; ///< held during a call of the handler
     sdk::DecodeHandler m_handler = nullptr;
     void *m_user = nullptr;
@@ -149,6 +152,7 @@ class FakeNet : public QuietNetLibrary
 public:
     static constexpr std::int64_t stream = 77; ///< the handle of the stream
 
+    explicit FakeNet(std::shared_ptr<LibraryCalls> calls) : m_ownedCalls(std::move(calls)) {}
     /// `calls` must outlive the object.
     explicit FakeNet(LibraryCalls &calls) : m_calls(calls) {}
 
@@ -201,7 +205,8 @@ public:
     }
 
 private:
-    LibraryCalls &m_calls;
+    const std::shared_ptr<LibraryCalls> m_ownedCalls; // threads may still call the library after the test
+    LibraryCalls &m_calls = *m_ownedCalls;
     std::mutex m_handlerMutex;
     sdk::RealDataHandler m_handler = nullptr;
     void *m_user = nullptr;
@@ -237,9 +242,10 @@ public:
 /// The libraries of one test, with the record of their calls.
 struct FakeLibraries
 {
-    LibraryCalls calls;
-    std::shared_ptr<FakeNet> net = std::make_shared<FakeNet>(calls);
-    std::shared_ptr<FakeDecoder> decoder = std::make_shared<FakeDecoder>(calls);
+    std::shared_ptr<LibraryCalls> ownedCalls = std::make_shared<LibraryCalls>();
+    LibraryCalls &calls = *ownedCalls;
+    std::shared_ptr<FakeNet> net = std::make_shared<FakeNet>(ownedCalls);
+    std::shared_ptr<FakeDecoder> decoder = std::make_shared<FakeDecoder>(ownedCalls);
     std::shared_ptr<WatchedClock> clock = std::make_shared<WatchedClock>();
 
     /// The libraries for the code under test, which shares them with this object.

@@ -316,7 +316,9 @@ private Q_SLOTS:
         click("liveChannel2"); // the second channel of D21 replaces D20
         QTRY_COMPARE(startedStreams(),
                      (QStringList{"1000 of 0", "1000 of 0", "21 of 0", "21 of 1", "24 of 0"}));
-        QCOMPARE(*m_devices->open, (QStringList{ipportOf(21), ipportOf(24)}));
+        QStringList open = *m_devices->open; // several threads open them
+        open.sort();
+        QCOMPARE(open, (QStringList{ipportOf(21), ipportOf(24)}));
         QCOMPARE(m_devices->asked.size(), 3); // a refused password is not sent again
         click("liveAddButton");               // all devices are shown
         QCOMPARE(m_devices->asked.size(), 3);

@@ -88,7 +88,7 @@ private Q_SLOTS:
     void init()
     {
         m_fake = std::make_unique<FakeLibraries>();
-        m_net = std::make_shared<PickyNet>(m_fake->calls);
+        m_net = std::make_shared<PickyNet>(m_fake->ownedCalls);
         sdk::SdkLibraries libraries = m_fake->libraries();
         libraries.net = m_net;
         VideoItem::registerLibraries(libraries);
