@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 
 namespace sdk::onvif {
 
@@ -167,7 +168,7 @@ std::chrono::seconds xmlDuration(std::string_view text)
         }
         double number = 0;
         const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-        if (error != std::errc() || end == text.data() + text.size() || number < 0)
+        if (error != std::errc() || end == text.data() + text.size() || !std::isfinite(number) || number < 0)
             return std::chrono::seconds(0);
         const char unit = *end;
         text.remove_prefix(static_cast<std::size_t>(end - text.data()) + 1);

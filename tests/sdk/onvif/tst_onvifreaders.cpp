@@ -257,6 +257,9 @@ private Q_SLOTS:
         row("minutes", "PT1M30S", 90);
         row("for ever", "P99999D", 24 * 3600);
         row("no number", "PTxS", 0);
+        row("not a number", "PTnanS", 0);
+        row("infinite", "PTinfS", 0);
+        row("infinite in an unknown unit", "PinfY", 0);
         row("no unit", "PT5", 0);
     }
 
