@@ -13,6 +13,7 @@ namespace sdk::onvif {
 namespace {
 
 constexpr std::size_t maximumOptions = 64;
+constexpr std::size_t maximumWords = 1024; ///< of a list in an attribute, such as all frame rates
 constexpr int largestValue = 1'000'000;
 
 std::vector<std::string_view> words(std::string_view text)
@@ -20,7 +21,7 @@ std::vector<std::string_view> words(std::string_view text)
     constexpr std::string_view separators = " \t\r\n,";
     std::vector<std::string_view> found;
     for (std::size_t begin = text.find_first_not_of(separators);
-         begin != std::string_view::npos && found.size() < maximumOptions;) {
+         begin != std::string_view::npos && found.size() < maximumWords;) {
         const std::size_t end = std::min(text.find_first_of(separators, begin), text.size());
         found.push_back(text.substr(begin, end - begin));
         begin = text.find_first_not_of(separators, end);
@@ -105,8 +106,10 @@ std::vector<VideoEncodingOptions> readSecondOptions(const XmlElement &response)
             options.minimumKeyInterval = integerOf(interval.front());
             options.maximumKeyInterval = integerOf(interval.back());
         }
-        for (const std::string_view profile : words(element.attribute("ProfilesSupported")))
-            options.profiles.emplace_back(profile);
+        for (const std::string_view profile : words(element.attribute("ProfilesSupported"))) {
+            if (options.profiles.size() < maximumOptions)
+                options.profiles.emplace_back(profile);
+        }
         options.offersConstantBitRate = element.attribute("ConstantBitRateSupported") == "true";
         found.push_back(std::move(options));
     }

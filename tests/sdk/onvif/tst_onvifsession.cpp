@@ -333,6 +333,29 @@ private Q_SLOTS:
         QCOMPARE(device.requestsWith("SetNetworkDefaultGateway"), 1);
     }
 
+    void theHighestOfManyFrameRatesIsRead()
+    {
+        constexpr int highest = 120;
+        QByteArray rates;
+        for (int rate = 1; rate <= highest; ++rate)
+            rates += QByteArray::number(rate) + ' ';
+        const QByteArray response =
+            "<x:Envelope xmlns:x='http://www.w3.org/2003/05/soap-envelope'><x:Body>"
+            "<m:GetVideoEncoderConfigurationOptionsResponse xmlns:m='http://www.onvif.org/ver20/media/wsdl'>"
+            "<m:Options FrameRatesSupported='" +
+            rates + "'/></m:GetVideoEncoderConfigurationOptionsResponse></x:Body></x:Envelope>";
+        const RawServer device(
+            [&response](const RawExchange &exchange) { exchange.respond("200 OK", {}, response); });
+        ServiceAddress address;
+        address.host = oldAddress;
+        address.port = device.address().section(u':', 1).toInt();
+        SoapClient client({.account = "admin", .password = "secret1"}, std::make_shared<HttpClient>());
+        MediaService media(client, address, MediaVersion::Second, std::chrono::steady_clock::now() + 5s);
+        const auto options = media.videoOptions("encoder", "profile");
+        QVERIFY(options.isOk() && options.value.size() == 1);
+        QCOMPARE(options.value.front().maximumFrameRate, double(highest));
+    }
+
     /// The device requests the login only when it has the complete file.
     void aFileThatIsSentAgainIsReportedAgain()
     {
