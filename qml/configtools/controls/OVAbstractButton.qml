@@ -23,7 +23,8 @@ T.AbstractButton {
             press();
     }
 
-    /// Acts like a click: toggles a checkable button, then emits clicked().
+    /// Acts like a click, also if the button is disabled: toggles a checkable button, then emits clicked(), but not
+    /// toggled().
     function press() {
         if (checkable)
             toggle();

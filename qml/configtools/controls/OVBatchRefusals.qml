@@ -1,5 +1,6 @@
-// Emits notify() with the reason when Batches refuses to start a batch, as while another one runs, but only for the
-// page that is visible: all pages share one Batches.
+// Forwards Batches.refused() as notify() while the page is visible: all pages share one Batches. The message is the
+// reason why a batch was not started, or a hint about devices that were left out of a retry. In the second case the
+// batch may run for the others.
 import QtQml
 import configtools
 

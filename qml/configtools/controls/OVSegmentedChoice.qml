@@ -1,5 +1,5 @@
-// A choice of a few options in a row. It is one stop of the Tab key: Left and Right choose. A choice of the user is
-// only requested by activated(): the owner sets `currentIndex`.
+// A choice of a few options in a row. It is one stop of the Tab key: Left and Right choose the next enabled option. A
+// choice of the user is only requested by activated(): the owner sets `currentIndex`.
 import QtQuick
 import configtools
 import "keygroups.js" as KeyGroups
@@ -7,8 +7,10 @@ import "keygroups.js" as KeyGroups
 Rectangle {
     id: root
 
-    required property var options  // array of objects with "text", "objectName" and optionally "enabled" and "toolTip"
-    required property int currentIndex  // from 0; set by the owner
+    /// Array of objects with "text", "objectName" and optionally "enabled" (true by default) and "toolTip". Another
+    /// array creates the segments again, which takes the keyboard focus from them.
+    required property var options
+    required property int currentIndex  // from 0; set by the owner. -1: no option is current, and no Tab stop
     property real room: Infinity  // maximum width in pixels: the segments get narrower, then elide their texts
     signal activated(int index)  // also for the current option
 
@@ -17,12 +19,12 @@ Rectangle {
     readonly property int padding: Math.max(2, Math.min(Theme.controlGap, Math.floor(gaps / options.length / 2)))
     readonly property real shownPart: Math.min(1, 1 + (gaps - 2 * padding * options.length) / textsWidth)  // of the texts
 
-    /// The option that the Tab key reaches: the current one, or the first enabled one if that is disabled.
+    /// The option that the Tab key reaches: the current one, or the first enabled one if that is disabled. -1 for none.
     readonly property int stop: options[currentIndex]?.enabled ?? true ? currentIndex
         : options.findIndex(option => option.enabled ?? true)
 
-    /// Requests the next enabled option in the direction `by` (1 or -1). After the last one, moves the keyboard focus
-    /// on in the key group that contains this choice.
+    /// Requests the next enabled option in the direction `by` (1 or -1). If there is none, as at either end, moves the
+    /// keyboard focus on in the key group that contains this choice.
     function step(event, by) {
         let next = currentIndex + by;
         while (options[next] && !(options[next].enabled ?? true))

@@ -6,7 +6,9 @@ import configtools
 Item {
     id: root
 
-    property int depth: 16  // distance in pixels that the shadow reaches; also the number of layers
+    /// Distance in pixels that the shadow reaches at the sides; also the number of layers. The shadow is moved down by
+    /// a third of it, so that it reaches less far above and farther below.
+    property int depth: 16
     property int around: Theme.paneRadius  // corner radius of the popup
 
     anchors.fill: parent

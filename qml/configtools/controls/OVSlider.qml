@@ -12,7 +12,7 @@ Item {
     property int to: 100  // the slider is disabled if it is not above `from`
     property int value: 0  // not changed by the slider; outside the range, the handle is at the nearer end
     property string accessibleName
-    property bool unknown: false  // no handle, and a dash instead of the number
+    property bool unknown: false  // no handle, and a dash instead of the number; the slider can still be operated
     /// The object from which the owner reads `value`, such as a map of values. When it is replaced, the slider shows
     /// `value` again, also if that is the same number; the slider does not use its content.
     property var source: null

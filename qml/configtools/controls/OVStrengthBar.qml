@@ -5,8 +5,8 @@ import configtools
 Row {
     id: root
 
-    /// Number of kinds of characters in the password (digits, letters, others): 1 (weak) to 3 (strong). 0, as for an
-    /// empty password: no step is lit.
+    /// Number of kinds of characters in the password: 1 (weak) to 3 (strong). The kinds are digits, Latin letters and
+    /// others; the underscore is of no kind. 0, as for "" or "___": no step is lit.
     required property int grade
     readonly property var steps: [
         {word: qsTr("弱"), lit: Theme.colours.passwordWeak},
