@@ -52,7 +52,7 @@ T.ApplicationWindow {
     }
 
     /// Saves all images in the background, as "<address>_<port>/<channel>.jpg" in the folder of snapshots, replacing
-    /// existing files; the bar then shows the result. Ignored without images and while images are fetched.
+    /// existing files; the bar then shows the result. Ignored without images, and while images are fetched or saved.
     function saveAll() {
         bar.outcome = "";
         if (gallery.images > 0 && gallery.batch === null)

@@ -9,11 +9,11 @@
 // - "hidden": bool, not shown by default
 // - "fixed": bool, always shown, after all others
 // A column whose width the user has set keeps it. The user chooses and moves columns only in an `arrangeable` table.
-// The model has the roles "checked", "conflict" (bool, highlights the row) and "identity" (a unique string), get(row),
-// which returns the values of a row by key, and rowOf(identity), which returns -1 for an unknown row and restores the
-// current row after a reset. Values are read by get(), as role names such as "model" are reserved in delegates. If the
-// model has rowStarting(text, from), typed text selects a row. The model owns check states and order: the table only
-// requests changes of both.
+// The model has the roles "checked" (bool), "conflict" (bool, highlights the row) and "identity" (a unique string),
+// get(row), which returns the values of a row by key, and rowOf(identity), which returns -1 for an unknown row; the
+// table uses it to restore the current row after a reset. Values are read by get(), as role names such as "model" are
+// reserved in delegates. If the model has rowStarting(text, from), typed text selects the row that it returns (-1 for
+// none). The model owns check states and order: the table only requests changes of both.
 import QtQuick
 import configtools
 
@@ -33,7 +33,7 @@ FocusScope {
     property alias currentIndex: body.currentIndex  // row, -1 for none; use show() to set it
     readonly property alias count: body.count  // number of rows
     default property alias emptyState: emptySlot.data  // shown while the table has no rows
-    signal sortRequested(string key)  // by a click on the title, also of the sorted column
+    signal sortRequested(string key)  // by a click on the title of a sortable column, also of the sorted one
     signal allToggled(bool checked)  // the requested check state of all rows
     signal rangeToggled(int first, int last, bool checked)  // the rows from first to last, both included
     signal copyRequested(int row)  // Ctrl+C in the current row

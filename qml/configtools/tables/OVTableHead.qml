@@ -18,13 +18,13 @@ Rectangle {
     required property int sortOrder  // a Qt::SortOrder
     required property real scrolled  // contentX of the rows, in pixels
     readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
-    signal sortRequested(string key)  // by a click on a title
+    signal sortRequested(string key)  // by a click on the title of a sortable column
     signal allToggled  // a click on the check box; its state does not change
     signal widthChosen(int column, real width)  // in pixels, not limited yet
     signal fitRequested(int column)  // by a double click on the right edge of the title
     signal columnReached(int column)  // got the keyboard focus
     signal columnMoved(string key, int index)  // to this index in `columns`, counted without the moved one
-    signal menuRequested(int column, var position)  // see OVEntryMenu.openAt(); column is -1 next to the columns
+    signal menuRequested(int column, var position)  // position: see OVEntryMenu.openAt(); column: -1 for none
 
     property int draggedColumn: -1  // index of the dragged column, -1 for none
     property int dropIndex: -1  // index before which it would be dropped, -1 for none

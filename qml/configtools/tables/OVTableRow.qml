@@ -20,7 +20,7 @@ Rectangle {
     property string pressedIdentity  // identity at the press of a mouse button, "" without a press
     property int readings: 0  // incremented by read()
     property int pooledIndex: -1  // index when the view put the item aside
-    signal clicked(string identity, int modifiers)  // outside of the check box
+    signal clicked(string identity, int modifiers)  // outside of the check column; modifiers: Qt::KeyboardModifiers
     signal tickToggled(string identity, int modifiers)  // a click in the check column; the check state does not change
     signal doubleClicked(string identity)  // after clicked()
     signal menuRequested(string identity, real x, real y)  // in coordinates of the view's content

@@ -1,6 +1,7 @@
-// Devices in groups, each with a check box and its last result. A click on a check box and the space key tick the row
-// in the model (`rows`). If `choosing`, a click or Enter requests a device by deviceChosen(); otherwise a click only
-// makes it current and Enter requests its details. A double click opens or closes a group.
+// Devices in groups. Groups and devices have check boxes, devices also their last result. A click on a check box and
+// the space key tick or untick the row in the model (`rows`). If `choosing`, a click or Enter requests a device by
+// deviceChosen(); otherwise a click only makes it current and Enter requests its details. A double click opens or
+// closes a group.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
