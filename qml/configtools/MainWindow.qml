@@ -46,8 +46,8 @@ T.ApplicationWindow {
     /// Whether the window fills the screen, also in full screen.
     readonly property bool maximised: visibility === Window.Maximized || visibility === Window.FullScreen
 
-    /// Starts a search requested by the user, in place of a running one. A search removes all rows without a failed mark
-    /// (see OVFailedFilter): while work needs the rows, a message box shows the refusal of BusyState instead.
+    /// Starts a search requested by the user, in place of a running one. A search removes all rows without a failed
+    /// mark (see OVFailedFilter): while work needs the rows, a message box shows the refusal of BusyState instead.
     function requestSearch() {
         const refusal = busyState.refusal(BusyState.Search);
         if (refusal !== "")

@@ -15,7 +15,8 @@ Item {
     property string failure  // why an account could not be stored, "" if all were
     readonly property var accounts: LoginMemory.accounts  // the AccountList; null: nothing is stored
 
-    /// Result for the user; "" if the account was not to be stored, or no device has accepted it.
+    /// Result for the user; "" if the account was not to be stored, or if no device of `batch` has accepted it (devices
+    /// of batches before a retry do not count).
     readonly property string message: failure !== "" ? qsTr("账号无法保存，只用到下次搜索：%1").arg(failure)
         : keptCount === keptBefore || keeping === AccountList.Unkept ? ""
         : keeping === AccountList.AsDefault ? qsTr("新账号已设为默认账号")

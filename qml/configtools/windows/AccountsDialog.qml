@@ -8,7 +8,8 @@ OVDialog {
 
     required property AccountList accounts  // the stored accounts, and the default account in row 0
     property var devices: []  // identities or "address:port" of the devices to assign an account to; empty: manage only
-    /// Names of the accounts that these devices have refused, before a retry; "" for another reason.
+    /// Before a retry: user names of the accounts that these devices have refused, as one text for the user; otherwise
+    /// "".
     property string refused
     property string edited  // name of the account that was added or changed since the dialog was opened; "" for none
     readonly property bool choosing: devices.length > 0  // an account is assigned
@@ -30,7 +31,8 @@ OVDialog {
         choose([]);
     }
 
-    /// Opens the dialog for devices and selects the account that the first one uses. `devices`: see the property.
+    /// Opens the dialog for devices and selects the account that the first one uses; the default account if that one is
+    /// only in its row and not stored. `devices`: see the property.
     function choose(devices) {
         refused = "";
         openFor(devices);
@@ -54,8 +56,8 @@ OVDialog {
         table.forceActiveFocus();
     }
 
-    /// Assigns the selected account to the devices and closes the dialog. Refuses an account that they have refused,
-    /// unless it was edited since.
+    /// Assigns the selected account to the devices and closes the dialog. For a retry it does not accept the account
+    /// that the first device uses, unless that was edited since.
     function use() {
         const name = current.name ?? "";
         if (refused !== "" && table.currentIndex === accounts.rowOfDevice(devices[0]) && (name === "" || name !== edited)) {

@@ -11,8 +11,8 @@ OVDialog {
     property bool danger: false  // a dangerous change: the primary button is red, and "cancel" has the focus
     property bool listed: false  // the list cannot be hidden
     property bool expanded: false  // the list is shown
-    /// Function of the caller, called with two lists: the ticked devices, see `byAddress`, and the unticked ones,
-    /// always as "address:port". Null while the dialog is closed.
+    /// Function of the caller, called with two lists: the ticked devices, also those that the batch will skip, see
+    /// `byAddress`, and the unticked ones, always as "address:port". Null while the dialog is closed.
     property var action: null
     property bool byAddress: true  // the ticked devices are passed as "address:port", otherwise by identity
     property string subject  // identifies the question for withdraw(); "" for none

@@ -1,5 +1,5 @@
-// The device search of the window: start, stop, state and number of devices found. A search replaces the device list,
-// so the caller of start() asks BusyState before.
+// The device search of the window: start, stop, state and number of devices found. A search removes all rows of the
+// device list without a failed mark, so the caller of start() asks BusyState before.
 import QtQml
 import configtools
 

@@ -11,8 +11,8 @@ OVDialog {
     readonly property alias account: accountField.text  // user name
     readonly property alias password: passwordField.text
     readonly property alias keeping: keepingChoice.keeping  // an AccountList.Keeping
-    /// Strength of the password: number of kinds of characters in it (digits, letters, others), 0 to 3; at least 2 is
-    /// needed.
+    /// Strength of the password: number of kinds of characters in it, 0 to 3; at least 2 is needed. The kinds are
+    /// digits, Latin letters and others; the underscore is of no kind.
     readonly property int grade: deviceFactory.getPassWordType(passwordField.text)
     property bool tried: false  // OK was pressed: incomplete fields show errors
     readonly property int mostCharacters: 32  // of the password
