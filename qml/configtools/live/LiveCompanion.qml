@@ -45,7 +45,8 @@ Item {
     }
 
     /// Logs in with the account that is chosen for the device, see account(). If there is a session already and the
-    /// device responds in it, the session is kept. checked() follows.
+    /// device responds in it, the session is kept. If the device no longer accepts the login of that session, no login
+    /// is made and `result` is the reason. checked() follows.
     function ask() {
         const known = account();
         login(known.user, known.password, false);
@@ -79,9 +80,9 @@ Item {
     }
 
     /// Checks whether the device is reachable, with one request for all of its streams. checked() follows: immediately
-    /// without a session (false), or if the device responded within `responseValidity` (true); otherwise after the
-    /// request, which opens a new session if the present one has ended. While a login or check runs, no further request
-    /// is sent; its end is the result.
+    /// without a session (false), or if the device responded within `responseValidity` (true); otherwise after ask(),
+    /// which opens a new session if the device does not respond in the present one, as after a restart. While a login
+    /// or check runs, no further request is sent; its end is the result.
     function check() {
         if (checking)
             return;

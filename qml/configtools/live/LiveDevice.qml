@@ -92,8 +92,8 @@ Item {
 
     /// Checks whether the device is reachable, with one request for all of its streams. checked() follows: immediately
     /// without a session (false), or if the device responded within `responseValidity` (true); otherwise after the
-    /// request, which opens a new session if a restart of the device has ended the present one. While a check runs, no
-    /// further request is sent; its end is the result.
+    /// request, which opens a new session if the device does not respond in the present one, as after a restart. While
+    /// a check runs, no further request is sent; its end is the result.
     function check() {
         if (checking)
             return;

@@ -27,7 +27,7 @@ Item {
     property int page: 0  // from 0; as chosen by showPage()
     /// Before a stream of the first device starts: the owner checks the device, then calls takeCheckResult(null, ...).
     signal checkRequested
-    signal failed  // a stream of the first device failed
+    signal failed  // a stream of the first device failed, or could not start as the device does not respond
     signal frameReceived  // the first frame of a stream of the first device
 
     /// Replaces `channels` and adjusts the page. Its elements are maps with "ipport", "channel" (of the device, from
