@@ -27,8 +27,9 @@ Item {
         wantedRow = row;
     }
 
-    /// Handles Enter in a row: moves to the next row. In the last row it saves the changes and then opens the next
-    /// device; after a failed save it stays.
+    /// Handles Enter in a row: moves to the next row. In the last row it saves the changes, then requests the next
+    /// device; after a failed save it stays. Without changes, and while the device is being upgraded, it requests the
+    /// next device immediately.
     function confirm(row) {
         if (row + 1 < form.count) {
             edit(row + 1);

@@ -23,7 +23,7 @@ Item {
     property bool taken: false       // the live window has logged in to another device: this session has ended
     property bool lost: false        // the device has stopped responding, or no longer accepts the login
     property bool upgrading: false   // a firmware upgrade runs: no settings can be written
-    property string failure          // why the session is not logged in, for the user; "" if it is
+    property string failure          // error text of the last failed login or of lose(); "" from the start of a login
     readonly property alias work: sessionWork  // runs the operations
     readonly property alias busy: sessionWork.busy  // an operation runs whose text is shown; the panel is blocked
     readonly property alias busyText: sessionWork.text
@@ -34,7 +34,7 @@ Item {
     readonly property alias names: namesWork  // channel names
     /// Number of changed encode settings and channel names that are not written.
     readonly property int unsaved: encodeWork.unsaved + namesWork.unsaved
-    signal renewed  // the live window has logged in: the settings of the shown tab must be read again
+    signal renewed  // the live window has logged in: unless `taken`, the settings of the shown tab must be read again
     signal notify(string message, int severity, int duration)  // show this message; severity: of OVToast; duration in ms
 
     readonly property int shortDuration: 3000  // of messages, ms
@@ -122,7 +122,7 @@ Item {
         relogin.instance().ask(row.mac ?? "", device, account, loginResult);
     }
 
-    /// Logs in again. Asks for an account if another one may help, otherwise uses the same one.
+    /// Logs in again. Asks for an account if another one may help and the session is not `taken`; otherwise as open().
     function tryAgain() {
         if (canLoginAgain() && !taken)
             askAgain(LoginMemory.accountFor(device, deviceFactory).user);

@@ -7,14 +7,15 @@ Column {
 
     required property string title
     required property string namePrefix  // prefix of the object names
-    /// mainStream or subStream of EncodeForm: a map with a map for each setting, with "key", "changed" (bool), "usable"
-    /// (bool: can be set), "choices", "names" (the choices for the user) and "index", or "value", "minimum" and
-    /// "maximum".
+    /// mainStream or subStream of EncodeForm: a map with "hasAudio" (bool) and a map for each setting, with "key",
+    /// "changed" (bool), "usable" (bool: can be set), "choices", "names" (the choices for the user) and "index" (-1:
+    /// unknown), or "value", "minimum" and "maximum".
     required property var stream
     required property var streamTypes  // names of the types of this stream; may be empty
     property int streamType: 0  // index in streamTypes
     property bool isSub: false  // the sub stream: it can be switched off
-    /// Set the setting with this "key". `value`: an element of its "choices", or a number (a switch: 0 or 1).
+    /// Set the setting with this "key". `value`: an element of its "choices", a number (a switch: 0 or 1), or for the
+    /// bit rate a text in kbit/s.
     signal changeRequested(string key, var value)
     signal streamTypeRequested(int index)  // select the type with this index
 

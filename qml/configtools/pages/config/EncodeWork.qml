@@ -73,8 +73,8 @@ Item {
                          session.longDuration);
     }
 
-    /// Writes all changed values, then reads the channel again. Values that the device refused stay unsaved and are
-    /// notified.
+    /// Writes all changed values. If the device has accepted all of them, reads the channel again; otherwise the others
+    /// stay unsaved and are notified.
     function save() {
         unsavedItems = "";
         session.work.write(qsTr("正在保存编码配置…"), () => session.work.saveEncoding(), () => {

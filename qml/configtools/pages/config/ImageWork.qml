@@ -9,8 +9,9 @@ Item {
     required property var session  // a ConfigSession: the login to the device; runs the operations
     required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     property bool read: false  // the form has the values of the current device
-    property int refusal: 0  // error of the network library for the last change, 0 for none
-    property var connectedChannels: []  // list of bool: whether each channel has a camera
+    /// The last result of CDeviceFactory.signalGetDeviceCapRet() since the last call of set(); 0 for none or a success.
+    property int refusal: 0
+    property var connectedChannels: []  // list of bool: whether each channel has a camera; [] if unknown
     readonly property alias form: cameraForm
 
     /// The settings are read again when the tab is next shown.
@@ -41,9 +42,10 @@ Item {
                          () => read = session.loggedIn);
     }
 
-    /// Writes values of the group `key` in the background: pairs [sub-key, value]. Then the form shows the values that
-    /// the device has; a refusal or a missing response is notified. "curChannelName" (the name of the channel) and
-    /// "setDefault" (default picture settings) are keys without sub-keys.
+    /// Writes values of the group `key` (see ImageGroup.key) in the background. `values` is an array of pairs [sub-key,
+    /// value]. Then the form shows the values that the device has; a refusal or a missing response is notified. Two
+    /// keys have no sub-keys: "curChannelName" with [["", name]] renames the channel; "setDefault" with [["", ""]]
+    /// restores the default picture settings.
     function set(key, values) {
         refusal = 0;
         session.work.write(qsTr("正在写入图像配置…"), () => session.work.writeImage(key, values), () => {
