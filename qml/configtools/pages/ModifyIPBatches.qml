@@ -10,7 +10,8 @@ Item {
     required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     required property var deviceTable  // a DeviceTableModel: the rows of the page, with their ticks
     required property Batches batches  // starts batches for all pages; one batch runs at a time
-    property Batch batch: null  // the latest batch of this page, also one that restores addresses; null for none
+    /// The latest batch of this page, also one that restores addresses. Null before the first, and after a refused one.
+    property Batch batch: null
     signal notify(string message, int severity)  // show this message; severity: an OVToast.Severity
     signal batchStarted  // a dialog has closed while a batch runs: the page moves the keyboard focus
 

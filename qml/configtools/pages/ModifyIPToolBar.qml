@@ -13,7 +13,7 @@ Item {
     required property DeviceTableModel devices  // the rows of the page, with filters and ticks
     required property int upgradingCount  // number of ticked devices that are being upgraded
     property alias searchText: searchField.text
-    property int tipDrop: Theme.toolTipDrop  // vertical distance in pixels from a button to its tool tip, see OVToolTip
+    property int tipDrop: Theme.toolTipDrop  // further distance in pixels from a button to its tool tip, see OVToolTip
     readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
     signal initialisedToggled(bool shown)  // show or hide the initialised devices
     signal uninitialisedToggled(bool shown)  // show or hide the uninitialised devices

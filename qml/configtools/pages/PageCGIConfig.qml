@@ -198,7 +198,7 @@ FocusScope {
     RowLayout {
         id: toolBar
 
-        readonly property int tipDrop: Theme.toolTipDrop  // from a button to its tool tip, see OVToolTip
+        readonly property int tipDrop: Theme.toolTipDrop  // further distance from a button to its tip, see OVToolTip
         readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
 
         x: Theme.pageMargin

@@ -40,8 +40,8 @@ FocusScope {
         return Object.assign({}, deviceFactory.getDeviceDetail("dh", name), {identity: name});
     }
 
-    /// Rebuilds the tree from the device list: with the devices that contain the search text, without one with the
-    /// initialised devices.
+    /// Rebuilds the tree from the device list: the devices that contain the search text, also uninitialised ones;
+    /// without a search text, the initialised devices.
     function refresh() {
         devices.resetItems(deviceTree.searchText === "" ? "removeuninit" : "search", deviceTree.searchText);
     }

@@ -23,9 +23,9 @@ FocusScope {
     // qmllint disable unqualified
     readonly property var deviceFactory: CDeviceFactoryApi  // access to the device list and the devices
     readonly property var fileDialogs: FileDialogsApi  // the desktop's dialogs for files and folders
-    readonly property var localConfig: LocalConfigApi
+    readonly property var localConfig: LocalConfigApi  // a CLocalConfig: the settings of the application
     readonly property var webPages: WebPagesApi  // opens web pages of devices in the browser
-    readonly property var upgradeBatches: UpgradeBatchesApi
+    readonly property var upgradeBatches: UpgradeBatchesApi  // an UpgradeBatches, which runs the upgrades
     // qmllint enable unqualified
 
     /// Focuses the search field and selects its text.

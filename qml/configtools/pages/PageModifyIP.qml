@@ -28,7 +28,7 @@ FocusScope {
     readonly property alias deviceTable: devices  // the DeviceTableModel of the table
 
     // qmllint disable unqualified
-    readonly property var addingBatches: AddingBatchesApi
+    readonly property var addingBatches: AddingBatchesApi  // an AddingBatches: starts batches that add devices
     readonly property var deviceFactory: CDeviceFactoryApi  // access to the device list and the devices
     readonly property var fileDialogs: FileDialogsApi  // the desktop's dialogs for files and folders
     readonly property var webPages: WebPagesApi  // opens web pages of devices in the browser

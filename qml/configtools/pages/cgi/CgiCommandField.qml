@@ -1,5 +1,5 @@
-// A field for a CGI command. While the field has the keyboard focus, it suggests earlier commands that contain its
-// text. The star adds the command to the stored favourite commands or removes it.
+// A field for a CGI command. After each typed change, and on the Down key, it suggests recent and favourite commands
+// that contain its text. The star adds the command to the stored favourite commands or removes it.
 import QtQuick
 import configtools
 

@@ -15,8 +15,8 @@ Item {
     property Batch batch: null  // the latest batch of this object or its retry; null before
     property string singleRow  // identity of the row for a single command, "" for several devices
     signal notify(string message, int severity)  // show this message; severity: an OVToast.Severity
-    /// A batch for several devices has ended, and devices failed or were skipped. `lines`: one text for each of these
-    /// devices ("address:port" and the reason), grouped by result.
+    /// A batch for several devices has ended, and devices failed, were skipped or were not reached. `lines`: one text
+    /// for each of these devices ("address:port" and the reason), grouped by result.
     signal failed(var lines)
     /// The device has refused the account of a single command. `result`: unknown account or wrong password, a
     /// LoginResult.

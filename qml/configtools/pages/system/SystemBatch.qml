@@ -11,7 +11,8 @@ QtObject {
     readonly property BatchReport report: batch?.report ?? none  // of the batch; empty before the first
     readonly property bool running: batch?.running ?? false
     readonly property string device: batch?.device ?? ""  // "address:port" of a device being processed, "" for none
-    /// New results. devices: "address:port"; results: a result code (LoginResult) for each of them, 0 for a success.
+    /// New results. devices: "address:port"; results: a LoginResult for each of them, 0 for a success. Some have names
+    /// in BatchReport.Result, such as Waiting (for the new password) and NotDone (not reached, at the end).
     signal resulted(var devices, var results)
     signal retried  // `batch` is now the retry
     signal finished  // the batch has ended or was stopped
