@@ -19,7 +19,7 @@ public:
     ApacheServer(const ApacheServer &) = delete;
     ApacheServer &operator=(const ApacheServer &) = delete;
 
-    /// The reason why the server does not run; empty if it runs.
+    /// The reason why the constructor could not start the server; empty if it accepts connections.
     [[nodiscard]] const QString &failure() const { return m_failure; }
 
     /// The complete URL of `path`, which starts with "/", such as "/digest/text".

@@ -37,7 +37,8 @@ class NumberedStream;
 /// compared with the same page without a batch.
 [[nodiscard]] QList<BenchmarkResult> measureBatchFrames();
 
-/// Decoding of a live stream, compared with ffmpeg on one thread.
+/// Decoding of a live stream, compared with ffmpeg on one thread. Empty if this host cannot create the
+/// stream, as without ffmpeg.
 [[nodiscard]] QList<BenchmarkResult> measureDecoding();
 
 /// Nine copies of a live stream in real time: the delay of their decoded frames. `stream.isValid()` must be
@@ -65,5 +66,5 @@ class NumberedStream;
 /// is no such process. Not a measurement: used by several of them.
 [[nodiscard]] double residentMegabytes(qint64 process);
 
-/// The memory of the application with 10,000 rows.
+/// The memory of the application with 10,000 rows; 0 if it does not start.
 [[nodiscard]] BenchmarkResult measureMemory();
