@@ -1,7 +1,7 @@
 // QML names of types from other folders, which do not use QML. Each structure registers the type of
 // QML_FOREIGN under the name of QML_NAMED_ELEMENT. A type with QML_ANONYMOUS has no name: QML only gets
 // objects of it. Objects of a type with QML_UNCREATABLE are published as context properties ("...Api") or
-// returned by other objects.
+// returned by other objects. QML creates the only object of a type with QML_SINGLETON.
 #pragma once
 
 #include "device/batch/addressplan.h"

@@ -1,5 +1,6 @@
-// The channels of the watched devices, with marks for channels without a camera. With several devices, the name of each
-// device is above its first channel. The list only requests changes by its signals.
+// The channels of the watched devices, with marks for channels without a camera or of a device that cannot be watched.
+// With several devices, the name of each device is above its first channel. The list only requests changes by its
+// signals.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
