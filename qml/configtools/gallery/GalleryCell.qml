@@ -14,7 +14,7 @@ Item {
     /// An ImageGallery.State: Waiting, Fetching, Taken, Failed, or Skipped (no request, because of the device's state).
     required property int stage
     required property string image  // URL of the file, of the older image while another one is fetched; "" for none
-    required property string message  // reason of Failed or Skipped, otherwise ""
+    required property string message  // reason of Failed or Skipped; without meaning in other states
     required property string takenAt  // local time of the image as "HH:mm:ss"; "" for none
     required property string note  // number of channels that are not shown, in the last cell of a device; "" for none
     property bool current: false  // the current cell of the view
