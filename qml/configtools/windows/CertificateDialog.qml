@@ -1,5 +1,5 @@
-// Lists the device certificates that were refused, and stores those that the user ticks as trusted. Requests that were
-// refused before are not repeated.
+// Lists the device certificates that were refused, and stores those that the user ticks as trusted. A certificate that
+// differs from the trusted one is ticked only alone, not with all or a range. Refused requests are not repeated.
 import QtQuick
 import configtools
 
