@@ -24,8 +24,8 @@ OVDialog {
         open();
     }
 
-    /// Starts a batch that adds the favourites with these identities (file names). Does nothing while the batch runs,
-    /// or if another batch runs.
+    /// Starts a batch that adds the favourites with these identities (file names). Does nothing while the batch of this
+    /// window runs. If another batch runs, Batches emits refused() and nothing starts.
     function addThese(identities) {
         if (running || identities.length === 0)
             return;

@@ -15,7 +15,7 @@ Item {
     readonly property int abilitiesUnknown: 10  // the device did not report the possible values; choices may be empty
     readonly property bool failed: isFailure(result)  // the last read has failed: the page shows no values
     /// Names of the settings that the last save did not write, one per line, or the error of the save. "" after
-    /// success.
+    /// success, and from the next change, read or save.
     property string unsavedItems
     readonly property alias form: encodeForm
     readonly property var subStream: encodeForm.subStream  // see EncodeStream.stream; also "exists" (bool)
