@@ -25,9 +25,10 @@ struct StoredAccount
 /// completely or not at all. A device is identified by a string that does not depend on its address, such as
 /// its MAC, and has one account or none.
 ///
-/// If the file cannot be read or has one invalid entry, the store has no account, and problem() has the
-/// reason. The next change that is written renames that file to the ending ".damaged" and writes another one.
-/// No password reaches the log.
+/// If the file cannot be opened or has one invalid entry, the store has no account, and problem() has the
+/// reason. The next successful change keeps an invalid file with the ending ".damaged" and writes another
+/// one. While the file exists but cannot be opened, changes fail and it is not written. No password reaches
+/// the log.
 ///
 /// Thread-safe. Only the constructor and the changes (put(), remove(), assign(), keep()) wait for the disk. A
 /// change writes the file before it returns. It returns an empty string on success. Otherwise it changes

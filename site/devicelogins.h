@@ -17,11 +17,9 @@ namespace site {
 struct LoginOutcome
 {
     UserLevel level = UserLevel::Anonymous; ///< of the client; Anonymous if the login is missing or refused
-    QString user;          ///< the requested user, also if it is refused; empty if no password was checked
-    bool wasTried = false; ///< a user name and a password were checked
-    bool isStale = false;  ///< the nonce has expired: no password was checked
-    QString reason = QStringLiteral("A user and a password are required"); ///< why `level` is Anonymous;
-                                                                           ///< else without a meaning
+    QString user;         ///< the requested user, also if it is refused; empty if no password was checked
+    bool isStale = false; ///< the nonce has expired: no password was checked
+    QString reason = QStringLiteral("A user and a password are required"); ///< why `level` is Anonymous
 };
 
 /// Checks the logins of SOAP requests, by token or HTTP Digest, and of RTSP requests to the devices of a

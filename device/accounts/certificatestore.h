@@ -34,9 +34,9 @@ struct RefusedCertificate
 /// whatever the identity of that key is. A certificate is trusted if the keys are equal, "changed" if they
 /// differ, and "unknown" if there is no accepted key. Dates and names of certificates are not checked.
 ///
-/// If the file cannot be read or contains an invalid entry, no certificate is trusted until the user accepts
-/// it again. When the user then accepts a certificate, the unreadable file is renamed and a new one is
-/// written.
+/// If the file exists but cannot be opened, or is damaged, no certificate is trusted. A damaged file is
+/// renamed when the user accepts a certificate, and a new one is written. While the file cannot be opened, no
+/// certificate can be accepted, and the file is not changed.
 ///
 /// Refused certificates are in memory only. Thread-safe. verdictOn() does not access the disk.
 class CertificateStore

@@ -28,8 +28,7 @@ class DeviceNotes : public QObject
     Q_PROPERTY(QString problem READ problem NOTIFY changed)
     Q_PROPERTY(int longestNote READ longestNote CONSTANT)
 public:
-    /// Maximum number of notes; setNote() refuses a further one. Further notes in the file are ignored, and
-    /// are lost when the next note is written.
+    /// Maximum number of notes. A file with more counts as damaged; setNote() refuses a further one.
     static constexpr qsizetype mostNotes = 20'000;
     static constexpr qint64 largestFile = 64LL * 1024 * 1024; ///< bytes; a longer file counts as damaged
 

@@ -20,8 +20,8 @@ class FirmwareTransfer;
 /// The uploads of the firmware files of all sessions, by handle, each with a thread. Thread-safe.
 ///
 /// A device responds to the upload after it has received the complete file. It does not report the progress
-/// of writing. So the phase Writing starts when the last byte is sent and ends with the response. A device
-/// that requests the login only then gets the file a second time in the phase Writing.
+/// of writing. So the phase Writing starts when the last byte is sent and ends with the response. If the
+/// device then requests the login, the file is sent again, and Sending follows.
 ///
 /// A handle stays valid after Done or Failed, until it is closed. The functions that close uploads block
 /// until the threads of the uploads have ended, so handlers and `accepted` must not call them.

@@ -56,6 +56,7 @@ class FakeDecoder : public sdk::DecoderLibrary
 public:
     static constexpr std::int32_t firstPort = 3; ///< the number of the port
 
+    /// The object keeps `calls`.
     explicit FakeDecoder(std::shared_ptr<LibraryCalls> calls) : m_ownedCalls(std::move(calls)) {}
     /// `calls` must outlive the object.
     explicit FakeDecoder(LibraryCalls &calls) : m_calls(calls) {}
@@ -152,6 +153,7 @@ class FakeNet : public QuietNetLibrary
 public:
     static constexpr std::int64_t stream = 77; ///< the handle of the stream
 
+    /// The object keeps `calls`.
     explicit FakeNet(std::shared_ptr<LibraryCalls> calls) : m_ownedCalls(std::move(calls)) {}
     /// `calls` must outlive the object.
     explicit FakeNet(LibraryCalls &calls) : m_calls(calls) {}

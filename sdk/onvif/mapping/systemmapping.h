@@ -19,13 +19,12 @@ namespace sdk::onvif {
 [[nodiscard]] std::string systemConfiguration(OnvifSession &session, std::string_view name,
                                               OnvifSession::Deadline deadline, NetError &error);
 
-/// Writes "NTP" or "Locales". NotSupported for any other name, InvalidValue for an invalid text. `text` has
-/// all keys of its configuration; a missing one counts as 0. The request contains all settings of the clock:
-/// those that the configuration does not have are read from the device first and sent back. So a clock that
-/// does not follow NTP is set to the time that was just read. "NTP" writes the time server before the clock,
-/// and only if NTP is enabled in `text`; after an error of the clock, the server stays written. The port of
-/// the time server and the period of its requests have no counterpart in the standard and are not sent.
-/// "Locales" without daylight saving removes its rule from the zone of the device.
+/// Writes "NTP" or "Locales". NotSupported for any other name. InvalidValue for an invalid text, and for
+/// daylight saving that is enabled without a begin or an end. The request contains all settings of the clock:
+/// those that `text` lacks are read from the device first and sent back. So a clock that does not follow NTP
+/// is set to the time that was just read. "NTP" writes the time server before the clock, and only if NTP is
+/// enabled and `text` has a server; after an error of the clock, the server stays written. The port of the
+/// time server and the period of its requests have no counterpart in the standard and are not sent.
 [[nodiscard]] NetError setSystemConfiguration(OnvifSession &session, std::string_view name,
                                               std::string_view text, OnvifSession::Deadline deadline);
 

@@ -30,7 +30,8 @@ Item {
         return command !== "" && command.length <= longestKept;
     }
 
-    /// Stores a sent command as the latest one in `recent`. One that cannot be stored, see canBeKept(), is ignored.
+    /// Stores a command, which may have been refused, as the latest one in `recent`. One that cannot be stored, see
+    /// canBeKept(), is ignored.
     function remember(command) {
         cgiManager.rememberCommand(command);
         read();
