@@ -4,17 +4,17 @@
 # _configtools_options COMMAND: sets `options` to those of a command.
 _configtools_options() {
     case $1 in
-        search) options='--devices --filter --list --format --quiet --range --no-local --demo --no-demo --help' ;;
+        search) options='--devices --filter --list --passphrase-file --format --quiet --range --no-local --demo --no-demo --help' ;;
         init) options='--devices --filter --user --password-file --visit --dry-run --format --quiet --range --no-local --demo --no-demo --help' ;;
-        set-address) options='--start --map --dhcp --mask --gateway --force --visit --dry-run --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
-        get) options='--channel --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
-        set) options='--channel --visit --dry-run --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
-        cgi) options='--workbook --output --visit --dry-run --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
-        snapshot) options='--channel --output --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
-        export) options='--devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
-        import) options='--format --quiet --range --no-local --demo --no-demo --help' ;;
-        upgrade) options='--file --document --visit --dry-run --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
-        report) options='--output --name --installer --files --visit --devices --filter --list --user --password-file --format --quiet --range --no-local --demo --no-demo --help' ;;
+        set-address) options='--start --map --dhcp --mask --gateway --force --visit --dry-run --devices --filter --list --user --password-file --passphrase-file --format --quiet --range --no-local --demo --no-demo --help' ;;
+        get) options='--channel --devices --filter --list --user --password-file --passphrase-file --format --quiet --range --no-local --demo --no-demo --help' ;;
+        set) options='--channel --visit --dry-run --devices --filter --list --user --password-file --passphrase-file --format --quiet --range --no-local --demo --no-demo --help' ;;
+        cgi) options='--workbook --output --visit --dry-run --devices --filter --list --user --password-file --passphrase-file --format --quiet --range --no-local --demo --no-demo --help' ;;
+        snapshot) options='--channel --output --devices --filter --list --user --password-file --passphrase-file --format --quiet --range --no-local --demo --no-demo --help' ;;
+        export) options='--without-passwords --devices --filter --list --user --password-file --passphrase-file --format --quiet --range --no-local --demo --no-demo --help' ;;
+        import) options='--passphrase-file --format --quiet --range --no-local --demo --no-demo --help' ;;
+        upgrade) options='--file --document --visit --dry-run --devices --filter --list --user --password-file --passphrase-file --format --quiet --range --no-local --demo --no-demo --help' ;;
+        report) options='--output --name --installer --files --visit --devices --filter --list --user --password-file --passphrase-file --format --quiet --range --no-local --demo --no-demo --help' ;;
         *) options='--demo --no-demo --version --help' ;;
     esac
 }
@@ -28,8 +28,8 @@ _configtools() {
     _configtools_options "$command"
     case $previous in
         --demo) words='office factory faulty fleet:' ;;
-        --format) options='table json csv' ;;
-        --list | --password-file | --map | --file | --document | --workbook | --output | --visit)
+        --passphrase-file --format) options='table json csv' ;;
+        --list | --password-file | --passphrase-file | --map | --file | --document | --workbook | --output | --visit)
             compopt -o filenames
             mapfile -t COMPREPLY < <(compgen -f -- "$current")
             return
