@@ -16,7 +16,7 @@ T.ApplicationWindow {
     readonly property SearchReports searchReports: SearchReportsApi  // why the last search found few devices
     readonly property CertificateList certificates: CertificatesApi  // refused certificates of devices
     readonly property var webPages: WebPagesApi  // a WebPages, which opens web pages of devices in the browser
-    readonly property SiteReport siteReport: SiteReportApi
+    readonly property SiteReport siteReport: SiteReportApi  // collects and writes a site report
     readonly property var colourScheme: ColourSchemeApi  // a ColourScheme, which stores the choice of colours
     readonly property DeviceNotes notes: DeviceNotesApi  // notes of the user about devices
     readonly property KnownDevices knownDevices: KnownDevicesApi  // devices of earlier searches

@@ -11,7 +11,7 @@ OVMenu {
     required property var recentSites  // see SiteMenu
     required property string colourChoice  // "desktop", "light" or "dark"
     signal accountsRequested  // manage the stored accounts
-    signal siteReportRequested
+    signal siteReportRequested  // open the dialog of the site report
     signal openSiteRequested
     signal saveSiteRequested
     signal newSiteRequested

@@ -23,10 +23,9 @@ Item {
     required property bool searching  // a search runs
     required property rect toastArea  // see OVToast.area; in pixels, in window coordinates
     required property var webPages  // a WebPages: opens web pages of devices in the browser
-    required property SiteReport siteReport
-    required property var fileDialogs  // a FileDialogs
-    required property var memory  // a ViewMemory
-    signal siteReportRequested  // by the menu
+    required property SiteReport siteReport  // collects the values and images of a site report, and writes its files
+    required property var memory  // a ViewMemory: named texts in the settings
+    signal siteReportRequested  // by the menu: open the dialog with the ticked rows, see openSiteReport()
     signal helpRequested  // open the manual
     signal questionsRequested  // open the questions and answers
     signal languageChosen(string code)
