@@ -3767,6 +3767,10 @@
         <source>深色</source>
         <translation>ダーク</translation>
     </message>
+    <message>
+        <source>现场报告（Ctrl+R）</source>
+        <translation>現場レポート (Ctrl+R)</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -5197,6 +5201,359 @@
     </message>
 </context>
 <context>
+    <name>ReportTexts</name>
+    <message>
+        <source>锐度</source>
+        <translation>シャープネス</translation>
+    </message>
+    <message>
+        <source>镜像</source>
+        <translation>ミラー</translation>
+    </message>
+    <message>
+        <source>防抖</source>
+        <translation>手ぶれ補正</translation>
+    </message>
+    <message>
+        <source>曝光</source>
+        <translation>露出</translation>
+    </message>
+    <message>
+        <source>背光</source>
+        <translation>逆光</translation>
+    </message>
+    <message>
+        <source>白平衡</source>
+        <translation>ホワイトバランス</translation>
+    </message>
+    <message>
+        <source>日夜模式</source>
+        <translation>デイ/ナイトモード</translation>
+    </message>
+    <message>
+        <source>透雾</source>
+        <translation>霧補正</translation>
+    </message>
+    <message>
+        <source>补光灯</source>
+        <translation>照明</translation>
+    </message>
+    <message>
+        <source>亮度</source>
+        <translation>明るさ</translation>
+    </message>
+    <message>
+        <source>对比度</source>
+        <translation>コントラスト</translation>
+    </message>
+    <message>
+        <source>饱和度</source>
+        <translation>彩度</translation>
+    </message>
+    <message>
+        <source>色调</source>
+        <translation>色相</translation>
+    </message>
+    <message>
+        <source>伽马</source>
+        <translation>ガンマ</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>未初期化</translation>
+    </message>
+    <message>
+        <source>地址重复</source>
+        <translation>アドレスの重複</translation>
+    </message>
+    <message>
+        <source>登录被拒绝</source>
+        <translation>ログイン拒否</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>読み込み不可</translation>
+    </message>
+    <message>
+        <source>时间不准</source>
+        <translation>時刻のずれ</translation>
+    </message>
+    <message>
+        <source>固件较旧</source>
+        <translation>古いファームウェア</translation>
+    </message>
+    <message>
+        <source>未使用时间服务器</source>
+        <translation>タイムサーバー未使用</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <extracomment>A line of the site report. %1 is a title, such as the kind of a finding, %2 its text.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 秒</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>%1 分 %2 秒</source>
+        <translation>%1 分 %2 秒</translation>
+    </message>
+    <message>
+        <source>%1 小时 %2 分</source>
+        <translation>%1 時間 %2 分</translation>
+    </message>
+    <message>
+        <source>%1 天 %2 小时</source>
+        <translation>%1 日 %2 時間</translation>
+    </message>
+    <message>
+        <source>一致</source>
+        <translation>一致</translation>
+    </message>
+    <message>
+        <source>快 %1</source>
+        <extracomment>The clock of a device against that of the computer. %1 is a span of time.</extracomment>
+        <translation>%1 進み</translation>
+    </message>
+    <message>
+        <source>慢 %1</source>
+        <translation>%1 遅れ</translation>
+    </message>
+    <message>
+        <source>%1，同型号设备为 %2</source>
+        <extracomment>%1 is the firmware version of a device, %2 the newer version of another device of the same model.</extracomment>
+        <translation>%1、同じ型番の別のデバイスは %2</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>开启</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>通道名称</source>
+        <translation>チャンネル名</translation>
+    </message>
+    <message>
+        <source>编码设置</source>
+        <translation>エンコード設定</translation>
+    </message>
+    <message>
+        <source>图像设置</source>
+        <extracomment>An image setting of a device was changed. %1 is the setting.</extracomment>
+        <translation>画像設定</translation>
+    </message>
+    <message>
+        <source>图像设置：%1</source>
+        <translation>画像設定: %1</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>現場レポート</translation>
+    </message>
+    <message>
+        <source>异常项</source>
+        <translation>異常項目</translation>
+    </message>
+    <message>
+        <source>本次更改</source>
+        <translation>今回の変更</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>型番</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>アドレス</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>ポート</translation>
+    </message>
+    <message>
+        <source>固件版本</source>
+        <translation>ファームウェア</translation>
+    </message>
+    <message>
+        <source>序列号</source>
+        <translation>シリアル番号</translation>
+    </message>
+    <message>
+        <source>时间偏差</source>
+        <translation>時刻の差</translation>
+    </message>
+    <message>
+        <source>时间偏差（秒）</source>
+        <translation>時刻の差 (秒)</translation>
+    </message>
+    <message>
+        <source>时间服务器</source>
+        <translation>タイムサーバー</translation>
+    </message>
+    <message>
+        <source>通道数</source>
+        <translation>チャンネル数</translation>
+    </message>
+    <message>
+        <source>主码流</source>
+        <translation>メインストリーム</translation>
+    </message>
+    <message>
+        <source>通道</source>
+        <translation>チャンネル</translation>
+    </message>
+    <message>
+        <source>宽度（像素）</source>
+        <translation>幅 (px)</translation>
+    </message>
+    <message>
+        <source>高度（像素）</source>
+        <translation>高さ (px)</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>图像</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>更改前</source>
+        <translation>変更前</translation>
+    </message>
+    <message>
+        <source>当前</source>
+        <translation>現在</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>新值</source>
+        <translation>新しい値</translation>
+    </message>
+    <message>
+        <source>说明</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>設置担当者</translation>
+    </message>
+    <message>
+        <source>未报告</source>
+        <translation>通知なし</translation>
+    </message>
+    <message>
+        <source>无图像</source>
+        <translation>画像なし</translation>
+    </message>
+    <message>
+        <source>没有异常项。</source>
+        <translation>異常項目はありません。</translation>
+    </message>
+    <message>
+        <source>程序启动以来没有更改设备。</source>
+        <translation>プログラムの起動後に変更されたデバイスはありません。</translation>
+    </message>
+    <message>
+        <source>已读取</source>
+        <translation>読み込み済み</translation>
+    </message>
+    <message>
+        <source>有异常</source>
+        <translation>異常あり</translation>
+    </message>
+    <message>
+        <source>PDF文件无法生成</source>
+        <translation>PDFファイルを作成できません</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>フォルダー %1 を作成できません</translation>
+    </message>
+    <message>
+        <source>%1 无法写入：%2</source>
+        <extracomment>%1 is the path of a file, %2 the reason why it cannot be written.</extracomment>
+        <translation>%1 に書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>较早的 %1 项更改未保留。</source>
+        <translation>以前の変更 %1 件は記載されていません。</translation>
+    </message>
+    <message>
+        <source>另有 %1 个通道</source>
+        <translation>他 %1 チャンネル</translation>
+    </message>
+    <message>
+        <source>通道 %1</source>
+        <extracomment>A channel of a recorder. %1 is its number.</extracomment>
+        <translation>チャンネル %1</translation>
+    </message>
+    <message>
+        <source>修改IP地址</source>
+        <translation>IPアドレスの変更</translation>
+    </message>
+    <message>
+        <source>设置时间</source>
+        <translation>時刻の設定</translation>
+    </message>
+    <message>
+        <source>固件升级</source>
+        <translation>ファームウェアのアップグレード</translation>
+    </message>
+    <message>
+        <source>时间服务器和时区</source>
+        <translation>タイムサーバーとタイムゾーン</translation>
+    </message>
+    <message>
+        <source>夏令时</source>
+        <translation>サマータイム</translation>
+    </message>
+    <message>
+        <source>自动维护</source>
+        <translation>自動メンテナンス</translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>再起動</translation>
+    </message>
+    <message>
+        <source>恢复默认设置</source>
+        <translation>既定値に戻す</translation>
+    </message>
+    <message>
+        <source>视频制式</source>
+        <translation>映像方式</translation>
+    </message>
+    <message>
+        <source>修改密码</source>
+        <translation>パスワード変更</translation>
+    </message>
+</context>
+<context>
     <name>RestartDialog</name>
     <message>
         <source>重启</source>
@@ -5707,6 +6064,100 @@
     <message>
         <source>新建现场…</source>
         <translation>新しい現場…</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportDialog</name>
+    <message>
+        <source>请输入现场名称</source>
+        <translation>現場名を入力してください</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>フォルダーの選択</translation>
+    </message>
+    <message>
+        <source>请至少选择一种文件</source>
+        <translation>ファイルを 1 つ以上選択してください</translation>
+    </message>
+    <message>
+        <source>列表中没有设备</source>
+        <translation>リストにデバイスがありません</translation>
+    </message>
+    <message>
+        <source>生成报告</source>
+        <translation>レポートを作成</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>現場レポート</translation>
+    </message>
+    <message>
+        <source>报告正在生成</source>
+        <translation>レポートを作成中です</translation>
+    </message>
+    <message>
+        <source>现场名称</source>
+        <translation>現場名</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>設置担当者</translation>
+    </message>
+    <message>
+        <source>保存到</source>
+        <translation>保存先</translation>
+    </message>
+    <message>
+        <source>选择…</source>
+        <translation>選択…</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>全部（%1）</source>
+        <translation>すべて (%1)</translation>
+    </message>
+    <message>
+        <source>勾选的（%1）</source>
+        <translation>選択済み (%1)</translation>
+    </message>
+    <message>
+        <source>文件</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>将登录每台设备，读取信息并获取图像。报告包含程序启动以来的更改，不含密码。</source>
+        <translation>各デバイスにログインし、設定を読み込んで画像を取得します。レポートにはプログラムの起動後の変更が記載され、パスワードは含まれません。</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportResult</name>
+    <message>
+        <source>无法打开 %1</source>
+        <translation>%1 を開けません</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>打开PDF</source>
+        <translation>PDFを開く</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>現場レポート</translation>
+    </message>
+    <message>
+        <source>打开文件夹</source>
+        <translation>フォルダーを開く</translation>
+    </message>
+    <message>
+        <source>报告已生成</source>
+        <translation>レポートを作成しました</translation>
     </message>
 </context>
 <context>
@@ -7329,6 +7780,10 @@
     <message>
         <source>“%1”正在进行。退出后，其余设备不会更改。</source>
         <translation>「%1」を実行中です。終了すると、残りのデバイスは変更されません。</translation>
+    </message>
+    <message>
+        <source>报告已停止，没有生成文件</source>
+        <translation>レポートを停止しました。ファイルは作成されていません</translation>
     </message>
 </context>
 <context>

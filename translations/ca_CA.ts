@@ -3817,6 +3817,10 @@ Feu clic amb el botó dret per copiar el resultat</translation>
         <source>深色</source>
         <translation>Fosc</translation>
     </message>
+    <message>
+        <source>现场报告（Ctrl+R）</source>
+        <translation>Informe del lloc (Ctrl+R)</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -5276,6 +5280,359 @@ Fitxer: </translation>
     </message>
 </context>
 <context>
+    <name>ReportTexts</name>
+    <message>
+        <source>锐度</source>
+        <translation>nitidesa</translation>
+    </message>
+    <message>
+        <source>镜像</source>
+        <translation>mirall</translation>
+    </message>
+    <message>
+        <source>防抖</source>
+        <translation>estabilització</translation>
+    </message>
+    <message>
+        <source>曝光</source>
+        <translation>exposició</translation>
+    </message>
+    <message>
+        <source>背光</source>
+        <translation>contrallum</translation>
+    </message>
+    <message>
+        <source>白平衡</source>
+        <translation>balanç de blancs</translation>
+    </message>
+    <message>
+        <source>日夜模式</source>
+        <translation>mode dia/nit</translation>
+    </message>
+    <message>
+        <source>透雾</source>
+        <translation>antiboira</translation>
+    </message>
+    <message>
+        <source>补光灯</source>
+        <translation>il·luminador</translation>
+    </message>
+    <message>
+        <source>亮度</source>
+        <translation>brillantor</translation>
+    </message>
+    <message>
+        <source>对比度</source>
+        <translation>contrast</translation>
+    </message>
+    <message>
+        <source>饱和度</source>
+        <translation>saturació</translation>
+    </message>
+    <message>
+        <source>色调</source>
+        <translation>to</translation>
+    </message>
+    <message>
+        <source>伽马</source>
+        <translation>gamma</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>No inicialitzat</translation>
+    </message>
+    <message>
+        <source>地址重复</source>
+        <translation>Adreça duplicada</translation>
+    </message>
+    <message>
+        <source>登录被拒绝</source>
+        <translation>Inici de sessió rebutjat</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>No es pot llegir</translation>
+    </message>
+    <message>
+        <source>时间不准</source>
+        <translation>Rellotge inexacte</translation>
+    </message>
+    <message>
+        <source>固件较旧</source>
+        <translation>Firmware més antic</translation>
+    </message>
+    <message>
+        <source>未使用时间服务器</source>
+        <translation>Sense servidor horari</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <extracomment>A line of the site report. %1 is a title, such as the kind of a finding, %2 its text.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 秒</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 分 %2 秒</source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message>
+        <source>%1 小时 %2 分</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1 天 %2 小时</source>
+        <translation>%1 d %2 h</translation>
+    </message>
+    <message>
+        <source>一致</source>
+        <translation>Exacta</translation>
+    </message>
+    <message>
+        <source>快 %1</source>
+        <extracomment>The clock of a device against that of the computer. %1 is a span of time.</extracomment>
+        <translation>%1 avançat</translation>
+    </message>
+    <message>
+        <source>慢 %1</source>
+        <translation>%1 endarrerit</translation>
+    </message>
+    <message>
+        <source>%1，同型号设备为 %2</source>
+        <extracomment>%1 is the firmware version of a device, %2 the newer version of another device of the same model.</extracomment>
+        <translation>%1; un altre dispositiu d’aquest model té %2</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Desactivat</translation>
+    </message>
+    <message>
+        <source>开启</source>
+        <translation>Activat</translation>
+    </message>
+    <message>
+        <source>通道名称</source>
+        <translation>Nom del canal</translation>
+    </message>
+    <message>
+        <source>编码设置</source>
+        <translation>Configuració de codificació</translation>
+    </message>
+    <message>
+        <source>图像设置</source>
+        <extracomment>An image setting of a device was changed. %1 is the setting.</extracomment>
+        <translation>Configuració d’imatge</translation>
+    </message>
+    <message>
+        <source>图像设置：%1</source>
+        <translation>Configuració d’imatge: %1</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Informe del lloc</translation>
+    </message>
+    <message>
+        <source>异常项</source>
+        <translation>Anomalies</translation>
+    </message>
+    <message>
+        <source>本次更改</source>
+        <translation>Canvis d’aquesta visita</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Dispositius</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Tipus</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Adreça</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>固件版本</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>序列号</source>
+        <translation>Número de sèrie</translation>
+    </message>
+    <message>
+        <source>时间偏差</source>
+        <translation>Desfasament horari</translation>
+    </message>
+    <message>
+        <source>时间偏差（秒）</source>
+        <translation>Desfasament horari (s)</translation>
+    </message>
+    <message>
+        <source>时间服务器</source>
+        <translation>Servidor horari</translation>
+    </message>
+    <message>
+        <source>通道数</source>
+        <translation>Canals</translation>
+    </message>
+    <message>
+        <source>主码流</source>
+        <translation>Flux principal</translation>
+    </message>
+    <message>
+        <source>通道</source>
+        <translation>Canal</translation>
+    </message>
+    <message>
+        <source>宽度（像素）</source>
+        <translation>Amplada (px)</translation>
+    </message>
+    <message>
+        <source>高度（像素）</source>
+        <translation>Alçada (px)</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>Resultat</translation>
+    </message>
+    <message>
+        <source>图像</source>
+        <translation>Imatge</translation>
+    </message>
+    <message>
+        <source>更改前</source>
+        <translation>Abans</translation>
+    </message>
+    <message>
+        <source>当前</source>
+        <translation>Ara</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>Operació</translation>
+    </message>
+    <message>
+        <source>新值</source>
+        <translation>Valor nou</translation>
+    </message>
+    <message>
+        <source>说明</source>
+        <translation>Detalls</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>Instal·lador</translation>
+    </message>
+    <message>
+        <source>未报告</source>
+        <translation>No comunicat</translation>
+    </message>
+    <message>
+        <source>无图像</source>
+        <translation>Sense imatge</translation>
+    </message>
+    <message>
+        <source>没有异常项。</source>
+        <translation>Cap anomalia.</translation>
+    </message>
+    <message>
+        <source>程序启动以来没有更改设备。</source>
+        <translation>No s’ha canviat cap dispositiu des de l’inici del programa.</translation>
+    </message>
+    <message>
+        <source>已读取</source>
+        <translation>Llegits</translation>
+    </message>
+    <message>
+        <source>有异常</source>
+        <translation>Amb anomalies</translation>
+    </message>
+    <message>
+        <source>PDF文件无法生成</source>
+        <translation>No es pot crear el fitxer PDF</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>No es pot crear la carpeta %1</translation>
+    </message>
+    <message>
+        <source>%1 无法写入：%2</source>
+        <extracomment>%1 is the path of a file, %2 the reason why it cannot be written.</extracomment>
+        <translation>No es pot escriure %1: %2</translation>
+    </message>
+    <message>
+        <source>较早的 %1 项更改未保留。</source>
+        <translation>%1 canvis anteriors no figuren a la llista.</translation>
+    </message>
+    <message>
+        <source>另有 %1 个通道</source>
+        <translation>%1 canals més</translation>
+    </message>
+    <message>
+        <source>通道 %1</source>
+        <extracomment>A channel of a recorder. %1 is its number.</extracomment>
+        <translation>Canal %1</translation>
+    </message>
+    <message>
+        <source>修改IP地址</source>
+        <translation>Canvia l’adreça IP</translation>
+    </message>
+    <message>
+        <source>设置时间</source>
+        <translation>Ajusta l’hora</translation>
+    </message>
+    <message>
+        <source>固件升级</source>
+        <translation>Actualitza el firmware</translation>
+    </message>
+    <message>
+        <source>时间服务器和时区</source>
+        <translation>Servidor horari i zona horària</translation>
+    </message>
+    <message>
+        <source>夏令时</source>
+        <translation>Horari d’estiu</translation>
+    </message>
+    <message>
+        <source>自动维护</source>
+        <translation>Manteniment automàtic</translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>Reinicia</translation>
+    </message>
+    <message>
+        <source>恢复默认设置</source>
+        <translation>Restaura predeterminats</translation>
+    </message>
+    <message>
+        <source>视频制式</source>
+        <translation>Estàndard de vídeo</translation>
+    </message>
+    <message>
+        <source>修改密码</source>
+        <translation>Canvia la contrasenya</translation>
+    </message>
+</context>
+<context>
     <name>RestartDialog</name>
     <message>
         <source>重启</source>
@@ -5787,6 +6144,100 @@ Fitxer: </translation>
     <message>
         <source>新建现场…</source>
         <translation>Lloc nou…</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportDialog</name>
+    <message>
+        <source>请输入现场名称</source>
+        <translation>Introduïu el nom del lloc</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>Seleccioneu una carpeta</translation>
+    </message>
+    <message>
+        <source>请至少选择一种文件</source>
+        <translation>Seleccioneu com a mínim un fitxer</translation>
+    </message>
+    <message>
+        <source>列表中没有设备</source>
+        <translation>No hi ha dispositius a la llista</translation>
+    </message>
+    <message>
+        <source>生成报告</source>
+        <translation>Crea l’informe</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Informe del lloc</translation>
+    </message>
+    <message>
+        <source>报告正在生成</source>
+        <translation>Ja s’està creant un informe</translation>
+    </message>
+    <message>
+        <source>现场名称</source>
+        <translation>Nom del lloc</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>Instal·lador</translation>
+    </message>
+    <message>
+        <source>保存到</source>
+        <translation>Desa a</translation>
+    </message>
+    <message>
+        <source>选择…</source>
+        <translation>Tria…</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Dispositius</translation>
+    </message>
+    <message>
+        <source>全部（%1）</source>
+        <translation>Tots (%1)</translation>
+    </message>
+    <message>
+        <source>勾选的（%1）</source>
+        <translation>Seleccionats (%1)</translation>
+    </message>
+    <message>
+        <source>文件</source>
+        <translation>Fitxers</translation>
+    </message>
+    <message>
+        <source>将登录每台设备，读取信息并获取图像。报告包含程序启动以来的更改，不含密码。</source>
+        <translation>El programa inicia la sessió a cada dispositiu, en llegeix la configuració i n’obté una imatge. L’informe inclou els canvis des de l’inici del programa i no conté contrasenyes.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportResult</name>
+    <message>
+        <source>无法打开 %1</source>
+        <translation>No es pot obrir %1</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Tanca</translation>
+    </message>
+    <message>
+        <source>打开PDF</source>
+        <translation>Obre el PDF</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Informe del lloc</translation>
+    </message>
+    <message>
+        <source>打开文件夹</source>
+        <translation>Obre la carpeta</translation>
+    </message>
+    <message>
+        <source>报告已生成</source>
+        <translation>L’informe és a punt</translation>
     </message>
 </context>
 <context>
@@ -7423,6 +7874,10 @@ Fitxer: </translation>
     <message>
         <source>“%1”正在进行。退出后，其余设备不会更改。</source>
         <translation>«%1» s’està executant. Si sortiu, els dispositius restants no es canviaran.</translation>
+    </message>
+    <message>
+        <source>报告已停止，没有生成文件</source>
+        <translation>S’ha aturat l’informe; no s’ha escrit cap fitxer</translation>
     </message>
 </context>
 <context>

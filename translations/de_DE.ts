@@ -3817,6 +3817,10 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
         <source>深色</source>
         <translation>Dunkel</translation>
     </message>
+    <message>
+        <source>现场报告（Ctrl+R）</source>
+        <translation>Standortbericht (Ctrl+R)</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -5276,6 +5280,359 @@ Datei: </translation>
     </message>
 </context>
 <context>
+    <name>ReportTexts</name>
+    <message>
+        <source>锐度</source>
+        <translation>Schärfe</translation>
+    </message>
+    <message>
+        <source>镜像</source>
+        <translation>Spiegeln</translation>
+    </message>
+    <message>
+        <source>防抖</source>
+        <translation>Stabilisierung</translation>
+    </message>
+    <message>
+        <source>曝光</source>
+        <translation>Belichtung</translation>
+    </message>
+    <message>
+        <source>背光</source>
+        <translation>Gegenlicht</translation>
+    </message>
+    <message>
+        <source>白平衡</source>
+        <translation>Weißabgleich</translation>
+    </message>
+    <message>
+        <source>日夜模式</source>
+        <translation>Tag/Nacht-Modus</translation>
+    </message>
+    <message>
+        <source>透雾</source>
+        <translation>Entnebeln</translation>
+    </message>
+    <message>
+        <source>补光灯</source>
+        <translation>Beleuchtung</translation>
+    </message>
+    <message>
+        <source>亮度</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>对比度</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>饱和度</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>色调</source>
+        <translation>Farbton</translation>
+    </message>
+    <message>
+        <source>伽马</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>Nicht initialisiert</translation>
+    </message>
+    <message>
+        <source>地址重复</source>
+        <translation>Doppelte Adresse</translation>
+    </message>
+    <message>
+        <source>登录被拒绝</source>
+        <translation>Anmeldung abgelehnt</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>Nicht lesbar</translation>
+    </message>
+    <message>
+        <source>时间不准</source>
+        <translation>Uhr geht falsch</translation>
+    </message>
+    <message>
+        <source>固件较旧</source>
+        <translation>Ältere Firmware</translation>
+    </message>
+    <message>
+        <source>未使用时间服务器</source>
+        <translation>Kein Zeitserver</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <extracomment>A line of the site report. %1 is a title, such as the kind of a finding, %2 its text.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 秒</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 分 %2 秒</source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message>
+        <source>%1 小时 %2 分</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1 天 %2 小时</source>
+        <translation>%1 d %2 h</translation>
+    </message>
+    <message>
+        <source>一致</source>
+        <translation>Genau</translation>
+    </message>
+    <message>
+        <source>快 %1</source>
+        <extracomment>The clock of a device against that of the computer. %1 is a span of time.</extracomment>
+        <translation>geht %1 vor</translation>
+    </message>
+    <message>
+        <source>慢 %1</source>
+        <translation>geht %1 nach</translation>
+    </message>
+    <message>
+        <source>%1，同型号设备为 %2</source>
+        <extracomment>%1 is the firmware version of a device, %2 the newer version of another device of the same model.</extracomment>
+        <translation>%1; ein anderes Gerät dieses Modells hat %2</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>开启</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>通道名称</source>
+        <translation>Kanalname</translation>
+    </message>
+    <message>
+        <source>编码设置</source>
+        <translation>Kodierung</translation>
+    </message>
+    <message>
+        <source>图像设置</source>
+        <extracomment>An image setting of a device was changed. %1 is the setting.</extracomment>
+        <translation>Bildeinstellungen</translation>
+    </message>
+    <message>
+        <source>图像设置：%1</source>
+        <translation>Bildeinstellungen: %1</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Standortbericht</translation>
+    </message>
+    <message>
+        <source>异常项</source>
+        <translation>Auffälligkeiten</translation>
+    </message>
+    <message>
+        <source>本次更改</source>
+        <translation>Änderungen dieses Einsatzes</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Geräte</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>Modell</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>固件版本</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>序列号</source>
+        <translation>Seriennummer</translation>
+    </message>
+    <message>
+        <source>时间偏差</source>
+        <translation>Zeitabweichung</translation>
+    </message>
+    <message>
+        <source>时间偏差（秒）</source>
+        <translation>Zeitabweichung (s)</translation>
+    </message>
+    <message>
+        <source>时间服务器</source>
+        <translation>Zeitserver</translation>
+    </message>
+    <message>
+        <source>通道数</source>
+        <translation>Kanäle</translation>
+    </message>
+    <message>
+        <source>主码流</source>
+        <translation>Hauptstream</translation>
+    </message>
+    <message>
+        <source>通道</source>
+        <translation>Kanal</translation>
+    </message>
+    <message>
+        <source>宽度（像素）</source>
+        <translation>Breite (px)</translation>
+    </message>
+    <message>
+        <source>高度（像素）</source>
+        <translation>Höhe (px)</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>图像</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>更改前</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>当前</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>Vorgang</translation>
+    </message>
+    <message>
+        <source>新值</source>
+        <translation>Neuer Wert</translation>
+    </message>
+    <message>
+        <source>说明</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>Installateur</translation>
+    </message>
+    <message>
+        <source>未报告</source>
+        <translation>Nicht gemeldet</translation>
+    </message>
+    <message>
+        <source>无图像</source>
+        <translation>Kein Bild</translation>
+    </message>
+    <message>
+        <source>没有异常项。</source>
+        <translation>Keine Auffälligkeiten.</translation>
+    </message>
+    <message>
+        <source>程序启动以来没有更改设备。</source>
+        <translation>Seit dem Start des Programms wurde kein Gerät geändert.</translation>
+    </message>
+    <message>
+        <source>已读取</source>
+        <translation>Gelesen</translation>
+    </message>
+    <message>
+        <source>有异常</source>
+        <translation>Mit Auffälligkeiten</translation>
+    </message>
+    <message>
+        <source>PDF文件无法生成</source>
+        <translation>Die PDF-Datei kann nicht erstellt werden</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>Der Ordner %1 kann nicht erstellt werden</translation>
+    </message>
+    <message>
+        <source>%1 无法写入：%2</source>
+        <extracomment>%1 is the path of a file, %2 the reason why it cannot be written.</extracomment>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>较早的 %1 项更改未保留。</source>
+        <translation>%1 frühere Änderungen sind nicht aufgeführt.</translation>
+    </message>
+    <message>
+        <source>另有 %1 个通道</source>
+        <translation>%1 weitere Kanäle</translation>
+    </message>
+    <message>
+        <source>通道 %1</source>
+        <extracomment>A channel of a recorder. %1 is its number.</extracomment>
+        <translation>Kanal %1</translation>
+    </message>
+    <message>
+        <source>修改IP地址</source>
+        <translation>IP-Adresse ändern</translation>
+    </message>
+    <message>
+        <source>设置时间</source>
+        <translation>Zeit einstellen</translation>
+    </message>
+    <message>
+        <source>固件升级</source>
+        <translation>Firmware-Update</translation>
+    </message>
+    <message>
+        <source>时间服务器和时区</source>
+        <translation>Zeitserver und Zeitzone</translation>
+    </message>
+    <message>
+        <source>夏令时</source>
+        <translation>Sommerzeit</translation>
+    </message>
+    <message>
+        <source>自动维护</source>
+        <translation>Automatische Wartung</translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>Neu starten</translation>
+    </message>
+    <message>
+        <source>恢复默认设置</source>
+        <translation>Standardwerte wiederherstellen</translation>
+    </message>
+    <message>
+        <source>视频制式</source>
+        <translation>Videonorm</translation>
+    </message>
+    <message>
+        <source>修改密码</source>
+        <translation>Passwort ändern</translation>
+    </message>
+</context>
+<context>
     <name>RestartDialog</name>
     <message>
         <source>重启</source>
@@ -5787,6 +6144,100 @@ Datei: </translation>
     <message>
         <source>新建现场…</source>
         <translation>Neuer Standort…</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportDialog</name>
+    <message>
+        <source>请输入现场名称</source>
+        <translation>Geben Sie den Namen des Standorts ein</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>Ordner auswählen</translation>
+    </message>
+    <message>
+        <source>请至少选择一种文件</source>
+        <translation>Wählen Sie mindestens eine Datei aus</translation>
+    </message>
+    <message>
+        <source>列表中没有设备</source>
+        <translation>Die Liste enthält keine Geräte</translation>
+    </message>
+    <message>
+        <source>生成报告</source>
+        <translation>Bericht erstellen</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Standortbericht</translation>
+    </message>
+    <message>
+        <source>报告正在生成</source>
+        <translation>Ein Bericht wird gerade erstellt</translation>
+    </message>
+    <message>
+        <source>现场名称</source>
+        <translation>Standortname</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>Installateur</translation>
+    </message>
+    <message>
+        <source>保存到</source>
+        <translation>Speichern in</translation>
+    </message>
+    <message>
+        <source>选择…</source>
+        <translation>Auswählen…</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Geräte</translation>
+    </message>
+    <message>
+        <source>全部（%1）</source>
+        <translation>Alle (%1)</translation>
+    </message>
+    <message>
+        <source>勾选的（%1）</source>
+        <translation>Ausgewählte (%1)</translation>
+    </message>
+    <message>
+        <source>文件</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>将登录每台设备，读取信息并获取图像。报告包含程序启动以来的更改，不含密码。</source>
+        <translation>Das Programm meldet sich an jedem Gerät an, liest die Einstellungen und ruft ein Bild ab. Der Bericht enthält die Änderungen seit dem Start des Programms und keine Passwörter.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportResult</name>
+    <message>
+        <source>无法打开 %1</source>
+        <translation>%1 kann nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>打开PDF</source>
+        <translation>PDF öffnen</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Standortbericht</translation>
+    </message>
+    <message>
+        <source>打开文件夹</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>报告已生成</source>
+        <translation>Der Bericht ist fertig</translation>
     </message>
 </context>
 <context>
@@ -7423,6 +7874,10 @@ Datei: </translation>
     <message>
         <source>“%1”正在进行。退出后，其余设备不会更改。</source>
         <translation>„%1“ läuft. Wenn Sie beenden, werden die übrigen Geräte nicht geändert.</translation>
+    </message>
+    <message>
+        <source>报告已停止，没有生成文件</source>
+        <translation>Der Bericht wurde gestoppt; es wurde keine Datei geschrieben</translation>
     </message>
 </context>
 <context>

@@ -6043,100 +6043,6 @@ File: </translation>
     </message>
 </context>
 <context>
-    <name>SiteReportDialog</name>
-    <message>
-        <source>请输入现场名称</source>
-        <translation>Enter the name of the site</translation>
-    </message>
-    <message>
-        <source>请选择文件夹</source>
-        <translation>Choose a folder</translation>
-    </message>
-    <message>
-        <source>请至少选择一种文件</source>
-        <translation>Choose at least one file</translation>
-    </message>
-    <message>
-        <source>列表中没有设备</source>
-        <translation>There are no devices in the list</translation>
-    </message>
-    <message>
-        <source>生成报告</source>
-        <translation>Make report</translation>
-    </message>
-    <message>
-        <source>现场报告</source>
-        <translation>Site report</translation>
-    </message>
-    <message>
-        <source>报告正在生成</source>
-        <translation>A report is being made</translation>
-    </message>
-    <message>
-        <source>现场名称</source>
-        <translation>Site name</translation>
-    </message>
-    <message>
-        <source>安装人员</source>
-        <translation>Installer</translation>
-    </message>
-    <message>
-        <source>保存到</source>
-        <translation>Save to</translation>
-    </message>
-    <message>
-        <source>选择…</source>
-        <translation>Choose…</translation>
-    </message>
-    <message>
-        <source>设备</source>
-        <translation>Devices</translation>
-    </message>
-    <message>
-        <source>全部（%1）</source>
-        <translation>All (%1)</translation>
-    </message>
-    <message>
-        <source>勾选的（%1）</source>
-        <translation>Selected (%1)</translation>
-    </message>
-    <message>
-        <source>文件</source>
-        <translation>Files</translation>
-    </message>
-    <message>
-        <source>将登录每台设备，读取信息并获取图像。报告包含程序启动以来的更改，不含密码。</source>
-        <translation>The program logs in to each device, reads its settings and takes an image. The report lists the changes since the start of the program and contains no passwords.</translation>
-    </message>
-</context>
-<context>
-    <name>SiteReportResult</name>
-    <message>
-        <source>无法打开 %1</source>
-        <translation>%1 cannot be opened</translation>
-    </message>
-    <message>
-        <source>关闭</source>
-        <translation>Close</translation>
-    </message>
-    <message>
-        <source>打开PDF</source>
-        <translation>Open PDF</translation>
-    </message>
-    <message>
-        <source>现场报告</source>
-        <translation>Site report</translation>
-    </message>
-    <message>
-        <source>打开文件夹</source>
-        <translation>Open folder</translation>
-    </message>
-    <message>
-        <source>报告已生成</source>
-        <translation>The report is complete</translation>
-    </message>
-</context>
-<context>
     <name>SiteFile</name>
     <message>
         <source>文件不是现场文件，或者已损坏</source>
@@ -6238,6 +6144,100 @@ File: </translation>
     <message>
         <source>新建现场…</source>
         <translation>New site…</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportDialog</name>
+    <message>
+        <source>请输入现场名称</source>
+        <translation>Enter the name of the site</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>Choose a folder</translation>
+    </message>
+    <message>
+        <source>请至少选择一种文件</source>
+        <translation>Choose at least one file</translation>
+    </message>
+    <message>
+        <source>列表中没有设备</source>
+        <translation>There are no devices in the list</translation>
+    </message>
+    <message>
+        <source>生成报告</source>
+        <translation>Make report</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Site report</translation>
+    </message>
+    <message>
+        <source>报告正在生成</source>
+        <translation>A report is being made</translation>
+    </message>
+    <message>
+        <source>现场名称</source>
+        <translation>Site name</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>Installer</translation>
+    </message>
+    <message>
+        <source>保存到</source>
+        <translation>Save to</translation>
+    </message>
+    <message>
+        <source>选择…</source>
+        <translation>Choose…</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Devices</translation>
+    </message>
+    <message>
+        <source>全部（%1）</source>
+        <translation>All (%1)</translation>
+    </message>
+    <message>
+        <source>勾选的（%1）</source>
+        <translation>Selected (%1)</translation>
+    </message>
+    <message>
+        <source>文件</source>
+        <translation>Files</translation>
+    </message>
+    <message>
+        <source>将登录每台设备，读取信息并获取图像。报告包含程序启动以来的更改，不含密码。</source>
+        <translation>The program logs in to each device, reads its settings and takes an image. The report lists the changes since the start of the program and contains no passwords.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportResult</name>
+    <message>
+        <source>无法打开 %1</source>
+        <translation>%1 cannot be opened</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>打开PDF</source>
+        <translation>Open PDF</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Site report</translation>
+    </message>
+    <message>
+        <source>打开文件夹</source>
+        <translation>Open folder</translation>
+    </message>
+    <message>
+        <source>报告已生成</source>
+        <translation>The report is complete</translation>
     </message>
 </context>
 <context>

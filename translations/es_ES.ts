@@ -3817,6 +3817,10 @@ Clic derecho para copiar el resultado</translation>
         <source>深色</source>
         <translation>Oscuro</translation>
     </message>
+    <message>
+        <source>现场报告（Ctrl+R）</source>
+        <translation>Informe del sitio (Ctrl+R)</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -5276,6 +5280,359 @@ Archivo: </translation>
     </message>
 </context>
 <context>
+    <name>ReportTexts</name>
+    <message>
+        <source>锐度</source>
+        <translation>nitidez</translation>
+    </message>
+    <message>
+        <source>镜像</source>
+        <translation>espejo</translation>
+    </message>
+    <message>
+        <source>防抖</source>
+        <translation>estabilización</translation>
+    </message>
+    <message>
+        <source>曝光</source>
+        <translation>exposición</translation>
+    </message>
+    <message>
+        <source>背光</source>
+        <translation>contraluz</translation>
+    </message>
+    <message>
+        <source>白平衡</source>
+        <translation>balance de blancos</translation>
+    </message>
+    <message>
+        <source>日夜模式</source>
+        <translation>modo día/noche</translation>
+    </message>
+    <message>
+        <source>透雾</source>
+        <translation>antiniebla</translation>
+    </message>
+    <message>
+        <source>补光灯</source>
+        <translation>iluminador</translation>
+    </message>
+    <message>
+        <source>亮度</source>
+        <translation>brillo</translation>
+    </message>
+    <message>
+        <source>对比度</source>
+        <translation>contraste</translation>
+    </message>
+    <message>
+        <source>饱和度</source>
+        <translation>saturación</translation>
+    </message>
+    <message>
+        <source>色调</source>
+        <translation>tono</translation>
+    </message>
+    <message>
+        <source>伽马</source>
+        <translation>gamma</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>No inicializado</translation>
+    </message>
+    <message>
+        <source>地址重复</source>
+        <translation>Dirección duplicada</translation>
+    </message>
+    <message>
+        <source>登录被拒绝</source>
+        <translation>Inicio de sesión rechazado</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>No se puede leer</translation>
+    </message>
+    <message>
+        <source>时间不准</source>
+        <translation>Reloj inexacto</translation>
+    </message>
+    <message>
+        <source>固件较旧</source>
+        <translation>Firmware más antiguo</translation>
+    </message>
+    <message>
+        <source>未使用时间服务器</source>
+        <translation>Sin servidor de hora</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <extracomment>A line of the site report. %1 is a title, such as the kind of a finding, %2 its text.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 秒</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 分 %2 秒</source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message>
+        <source>%1 小时 %2 分</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1 天 %2 小时</source>
+        <translation>%1 d %2 h</translation>
+    </message>
+    <message>
+        <source>一致</source>
+        <translation>Exacta</translation>
+    </message>
+    <message>
+        <source>快 %1</source>
+        <extracomment>The clock of a device against that of the computer. %1 is a span of time.</extracomment>
+        <translation>%1 de adelanto</translation>
+    </message>
+    <message>
+        <source>慢 %1</source>
+        <translation>%1 de retraso</translation>
+    </message>
+    <message>
+        <source>%1，同型号设备为 %2</source>
+        <extracomment>%1 is the firmware version of a device, %2 the newer version of another device of the same model.</extracomment>
+        <translation>%1; otro dispositivo de este modelo tiene %2</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Desactivado</translation>
+    </message>
+    <message>
+        <source>开启</source>
+        <translation>Activado</translation>
+    </message>
+    <message>
+        <source>通道名称</source>
+        <translation>Nombre del canal</translation>
+    </message>
+    <message>
+        <source>编码设置</source>
+        <translation>Ajustes de codificación</translation>
+    </message>
+    <message>
+        <source>图像设置</source>
+        <extracomment>An image setting of a device was changed. %1 is the setting.</extracomment>
+        <translation>Ajustes de imagen</translation>
+    </message>
+    <message>
+        <source>图像设置：%1</source>
+        <translation>Ajustes de imagen: %1</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Informe del sitio</translation>
+    </message>
+    <message>
+        <source>异常项</source>
+        <translation>Anomalías</translation>
+    </message>
+    <message>
+        <source>本次更改</source>
+        <translation>Cambios de esta visita</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Dispositivos</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>Modelo</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Dirección</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>Puerto</translation>
+    </message>
+    <message>
+        <source>固件版本</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>序列号</source>
+        <translation>Número de serie</translation>
+    </message>
+    <message>
+        <source>时间偏差</source>
+        <translation>Desfase horario</translation>
+    </message>
+    <message>
+        <source>时间偏差（秒）</source>
+        <translation>Desfase horario (s)</translation>
+    </message>
+    <message>
+        <source>时间服务器</source>
+        <translation>Servidor de hora</translation>
+    </message>
+    <message>
+        <source>通道数</source>
+        <translation>Canales</translation>
+    </message>
+    <message>
+        <source>主码流</source>
+        <translation>Flujo principal</translation>
+    </message>
+    <message>
+        <source>通道</source>
+        <translation>Canal</translation>
+    </message>
+    <message>
+        <source>宽度（像素）</source>
+        <translation>Anchura (px)</translation>
+    </message>
+    <message>
+        <source>高度（像素）</source>
+        <translation>Altura (px)</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>图像</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>更改前</source>
+        <translation>Antes</translation>
+    </message>
+    <message>
+        <source>当前</source>
+        <translation>Ahora</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>Operación</translation>
+    </message>
+    <message>
+        <source>新值</source>
+        <translation>Valor nuevo</translation>
+    </message>
+    <message>
+        <source>说明</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>Instalador</translation>
+    </message>
+    <message>
+        <source>未报告</source>
+        <translation>No comunicado</translation>
+    </message>
+    <message>
+        <source>无图像</source>
+        <translation>Sin imagen</translation>
+    </message>
+    <message>
+        <source>没有异常项。</source>
+        <translation>Sin anomalías.</translation>
+    </message>
+    <message>
+        <source>程序启动以来没有更改设备。</source>
+        <translation>No se ha cambiado ningún dispositivo desde el inicio del programa.</translation>
+    </message>
+    <message>
+        <source>已读取</source>
+        <translation>Leídos</translation>
+    </message>
+    <message>
+        <source>有异常</source>
+        <translation>Con anomalías</translation>
+    </message>
+    <message>
+        <source>PDF文件无法生成</source>
+        <translation>No se puede crear el archivo PDF</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>No se puede crear la carpeta %1</translation>
+    </message>
+    <message>
+        <source>%1 无法写入：%2</source>
+        <extracomment>%1 is the path of a file, %2 the reason why it cannot be written.</extracomment>
+        <translation>No se puede escribir %1: %2</translation>
+    </message>
+    <message>
+        <source>较早的 %1 项更改未保留。</source>
+        <translation>%1 cambios anteriores no figuran en la lista.</translation>
+    </message>
+    <message>
+        <source>另有 %1 个通道</source>
+        <translation>%1 canales más</translation>
+    </message>
+    <message>
+        <source>通道 %1</source>
+        <extracomment>A channel of a recorder. %1 is its number.</extracomment>
+        <translation>Canal %1</translation>
+    </message>
+    <message>
+        <source>修改IP地址</source>
+        <translation>Modificar dirección IP</translation>
+    </message>
+    <message>
+        <source>设置时间</source>
+        <translation>Ajustar hora</translation>
+    </message>
+    <message>
+        <source>固件升级</source>
+        <translation>Actualizar firmware</translation>
+    </message>
+    <message>
+        <source>时间服务器和时区</source>
+        <translation>Servidor de hora y zona horaria</translation>
+    </message>
+    <message>
+        <source>夏令时</source>
+        <translation>Horario de verano</translation>
+    </message>
+    <message>
+        <source>自动维护</source>
+        <translation>Mantenimiento automático</translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>Reiniciar</translation>
+    </message>
+    <message>
+        <source>恢复默认设置</source>
+        <translation>Restaurar valores predeterminados</translation>
+    </message>
+    <message>
+        <source>视频制式</source>
+        <translation>Norma de vídeo</translation>
+    </message>
+    <message>
+        <source>修改密码</source>
+        <translation>Cambiar contraseña</translation>
+    </message>
+</context>
+<context>
     <name>RestartDialog</name>
     <message>
         <source>重启</source>
@@ -5787,6 +6144,100 @@ Archivo: </translation>
     <message>
         <source>新建现场…</source>
         <translation>Sitio nuevo…</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportDialog</name>
+    <message>
+        <source>请输入现场名称</source>
+        <translation>Introduzca el nombre del sitio</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>Seleccione una carpeta</translation>
+    </message>
+    <message>
+        <source>请至少选择一种文件</source>
+        <translation>Seleccione al menos un archivo</translation>
+    </message>
+    <message>
+        <source>列表中没有设备</source>
+        <translation>No hay dispositivos en la lista</translation>
+    </message>
+    <message>
+        <source>生成报告</source>
+        <translation>Crear informe</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Informe del sitio</translation>
+    </message>
+    <message>
+        <source>报告正在生成</source>
+        <translation>Ya se está creando un informe</translation>
+    </message>
+    <message>
+        <source>现场名称</source>
+        <translation>Nombre del sitio</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>Instalador</translation>
+    </message>
+    <message>
+        <source>保存到</source>
+        <translation>Guardar en</translation>
+    </message>
+    <message>
+        <source>选择…</source>
+        <translation>Elegir…</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Dispositivos</translation>
+    </message>
+    <message>
+        <source>全部（%1）</source>
+        <translation>Todos (%1)</translation>
+    </message>
+    <message>
+        <source>勾选的（%1）</source>
+        <translation>Seleccionados (%1)</translation>
+    </message>
+    <message>
+        <source>文件</source>
+        <translation>Archivos</translation>
+    </message>
+    <message>
+        <source>将登录每台设备，读取信息并获取图像。报告包含程序启动以来的更改，不含密码。</source>
+        <translation>El programa inicia sesión en cada dispositivo, lee sus ajustes y obtiene una imagen. El informe incluye los cambios desde el inicio del programa y no contiene contraseñas.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportResult</name>
+    <message>
+        <source>无法打开 %1</source>
+        <translation>No se puede abrir %1</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>打开PDF</source>
+        <translation>Abrir PDF</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Informe del sitio</translation>
+    </message>
+    <message>
+        <source>打开文件夹</source>
+        <translation>Abrir carpeta</translation>
+    </message>
+    <message>
+        <source>报告已生成</source>
+        <translation>El informe está listo</translation>
     </message>
 </context>
 <context>
@@ -7423,6 +7874,10 @@ Archivo: </translation>
     <message>
         <source>“%1”正在进行。退出后，其余设备不会更改。</source>
         <translation>«%1» está en curso. Si sale, los dispositivos restantes no se modificarán.</translation>
+    </message>
+    <message>
+        <source>报告已停止，没有生成文件</source>
+        <translation>El informe se detuvo; no se escribió ningún archivo</translation>
     </message>
 </context>
 <context>

@@ -3817,6 +3817,10 @@ Clic droit pour copier le résultat</translation>
         <source>深色</source>
         <translation>Sombre</translation>
     </message>
+    <message>
+        <source>现场报告（Ctrl+R）</source>
+        <translation>Rapport de site (Ctrl+R)</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -4302,7 +4306,7 @@ Fichier&#xa0;: </translation>
     </message>
     <message>
         <source>搜索已停止，列表不完整。</source>
-        <translation>La recherche a été arrêtée ; la liste est incomplète.</translation>
+        <translation>La recherche a été arrêtée&#xa0;; la liste est incomplète.</translation>
     </message>
     <message>
         <source>没有找到设备，灰色的是以前找到的设备</source>
@@ -5276,6 +5280,359 @@ Fichier&#xa0;: </translation>
     </message>
 </context>
 <context>
+    <name>ReportTexts</name>
+    <message>
+        <source>锐度</source>
+        <translation>netteté</translation>
+    </message>
+    <message>
+        <source>镜像</source>
+        <translation>miroir</translation>
+    </message>
+    <message>
+        <source>防抖</source>
+        <translation>stabilisation</translation>
+    </message>
+    <message>
+        <source>曝光</source>
+        <translation>exposition</translation>
+    </message>
+    <message>
+        <source>背光</source>
+        <translation>contre-jour</translation>
+    </message>
+    <message>
+        <source>白平衡</source>
+        <translation>balance des blancs</translation>
+    </message>
+    <message>
+        <source>日夜模式</source>
+        <translation>mode jour/nuit</translation>
+    </message>
+    <message>
+        <source>透雾</source>
+        <translation>anti-brume</translation>
+    </message>
+    <message>
+        <source>补光灯</source>
+        <translation>éclairage</translation>
+    </message>
+    <message>
+        <source>亮度</source>
+        <translation>luminosité</translation>
+    </message>
+    <message>
+        <source>对比度</source>
+        <translation>contraste</translation>
+    </message>
+    <message>
+        <source>饱和度</source>
+        <translation>saturation</translation>
+    </message>
+    <message>
+        <source>色调</source>
+        <translation>teinte</translation>
+    </message>
+    <message>
+        <source>伽马</source>
+        <translation>gamma</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>Non initialisé</translation>
+    </message>
+    <message>
+        <source>地址重复</source>
+        <translation>Adresse en double</translation>
+    </message>
+    <message>
+        <source>登录被拒绝</source>
+        <translation>Identification refusée</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>Lecture impossible</translation>
+    </message>
+    <message>
+        <source>时间不准</source>
+        <translation>Horloge inexacte</translation>
+    </message>
+    <message>
+        <source>固件较旧</source>
+        <translation>Firmware plus ancien</translation>
+    </message>
+    <message>
+        <source>未使用时间服务器</source>
+        <translation>Pas de serveur de temps</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <extracomment>A line of the site report. %1 is a title, such as the kind of a finding, %2 its text.</extracomment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 秒</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 分 %2 秒</source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message>
+        <source>%1 小时 %2 分</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1 天 %2 小时</source>
+        <translation>%1 j %2 h</translation>
+    </message>
+    <message>
+        <source>一致</source>
+        <translation>Exacte</translation>
+    </message>
+    <message>
+        <source>快 %1</source>
+        <extracomment>The clock of a device against that of the computer. %1 is a span of time.</extracomment>
+        <translation>avance de %1</translation>
+    </message>
+    <message>
+        <source>慢 %1</source>
+        <translation>retard de %1</translation>
+    </message>
+    <message>
+        <source>%1，同型号设备为 %2</source>
+        <extracomment>%1 is the firmware version of a device, %2 the newer version of another device of the same model.</extracomment>
+        <translation>%1&#xa0;; un autre appareil de ce modèle a %2</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>开启</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>通道名称</source>
+        <translation>Nom du canal</translation>
+    </message>
+    <message>
+        <source>编码设置</source>
+        <translation>Paramètres d&apos;encodage</translation>
+    </message>
+    <message>
+        <source>图像设置</source>
+        <extracomment>An image setting of a device was changed. %1 is the setting.</extracomment>
+        <translation>Paramètres d&apos;image</translation>
+    </message>
+    <message>
+        <source>图像设置：%1</source>
+        <translation>Paramètres d&apos;image&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Rapport de site</translation>
+    </message>
+    <message>
+        <source>异常项</source>
+        <translation>Anomalies</translation>
+    </message>
+    <message>
+        <source>本次更改</source>
+        <translation>Modifications de cette visite</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Appareils</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>Modèle</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>固件版本</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>序列号</source>
+        <translation>Numéro de série</translation>
+    </message>
+    <message>
+        <source>时间偏差</source>
+        <translation>Écart d&apos;heure</translation>
+    </message>
+    <message>
+        <source>时间偏差（秒）</source>
+        <translation>Écart d&apos;heure (s)</translation>
+    </message>
+    <message>
+        <source>时间服务器</source>
+        <translation>Serveur de temps</translation>
+    </message>
+    <message>
+        <source>通道数</source>
+        <translation>Canaux</translation>
+    </message>
+    <message>
+        <source>主码流</source>
+        <translation>Flux principal</translation>
+    </message>
+    <message>
+        <source>通道</source>
+        <translation>Canal</translation>
+    </message>
+    <message>
+        <source>宽度（像素）</source>
+        <translation>Largeur (px)</translation>
+    </message>
+    <message>
+        <source>高度（像素）</source>
+        <translation>Hauteur (px)</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>图像</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>更改前</source>
+        <translation>Avant</translation>
+    </message>
+    <message>
+        <source>当前</source>
+        <translation>Actuellement</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>Opération</translation>
+    </message>
+    <message>
+        <source>新值</source>
+        <translation>Nouvelle valeur</translation>
+    </message>
+    <message>
+        <source>说明</source>
+        <translation>Détails</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>Installateur</translation>
+    </message>
+    <message>
+        <source>未报告</source>
+        <translation>Non communiqué</translation>
+    </message>
+    <message>
+        <source>无图像</source>
+        <translation>Pas d&apos;image</translation>
+    </message>
+    <message>
+        <source>没有异常项。</source>
+        <translation>Aucune anomalie.</translation>
+    </message>
+    <message>
+        <source>程序启动以来没有更改设备。</source>
+        <translation>Aucun appareil n&apos;a été modifié depuis le démarrage du programme.</translation>
+    </message>
+    <message>
+        <source>已读取</source>
+        <translation>Lus</translation>
+    </message>
+    <message>
+        <source>有异常</source>
+        <translation>Avec anomalies</translation>
+    </message>
+    <message>
+        <source>PDF文件无法生成</source>
+        <translation>Impossible de créer le fichier PDF</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>Impossible de créer le dossier %1</translation>
+    </message>
+    <message>
+        <source>%1 无法写入：%2</source>
+        <extracomment>%1 is the path of a file, %2 the reason why it cannot be written.</extracomment>
+        <translation>Impossible d&apos;écrire %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>较早的 %1 项更改未保留。</source>
+        <translation>%1 modifications antérieures ne figurent pas dans la liste.</translation>
+    </message>
+    <message>
+        <source>另有 %1 个通道</source>
+        <translation>%1 autres canaux</translation>
+    </message>
+    <message>
+        <source>通道 %1</source>
+        <extracomment>A channel of a recorder. %1 is its number.</extracomment>
+        <translation>Canal %1</translation>
+    </message>
+    <message>
+        <source>修改IP地址</source>
+        <translation>Modifier l&apos;adresse IP</translation>
+    </message>
+    <message>
+        <source>设置时间</source>
+        <translation>Régler l&apos;heure</translation>
+    </message>
+    <message>
+        <source>固件升级</source>
+        <translation>Mise à jour du firmware</translation>
+    </message>
+    <message>
+        <source>时间服务器和时区</source>
+        <translation>Serveur de temps et fuseau horaire</translation>
+    </message>
+    <message>
+        <source>夏令时</source>
+        <translation>Heure d&apos;été</translation>
+    </message>
+    <message>
+        <source>自动维护</source>
+        <translation>Maintenance automatique</translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>Redémarrer</translation>
+    </message>
+    <message>
+        <source>恢复默认设置</source>
+        <translation>Rétablir les valeurs par défaut</translation>
+    </message>
+    <message>
+        <source>视频制式</source>
+        <translation>Norme vidéo</translation>
+    </message>
+    <message>
+        <source>修改密码</source>
+        <translation>Changer de mot de passe</translation>
+    </message>
+</context>
+<context>
     <name>RestartDialog</name>
     <message>
         <source>重启</source>
@@ -5787,6 +6144,100 @@ Fichier&#xa0;: </translation>
     <message>
         <source>新建现场…</source>
         <translation>Nouveau site…</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportDialog</name>
+    <message>
+        <source>请输入现场名称</source>
+        <translation>Saisissez le nom du site</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>Choisir un dossier</translation>
+    </message>
+    <message>
+        <source>请至少选择一种文件</source>
+        <translation>Choisissez au moins un fichier</translation>
+    </message>
+    <message>
+        <source>列表中没有设备</source>
+        <translation>La liste ne contient aucun appareil</translation>
+    </message>
+    <message>
+        <source>生成报告</source>
+        <translation>Créer le rapport</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Rapport de site</translation>
+    </message>
+    <message>
+        <source>报告正在生成</source>
+        <translation>Un rapport est en cours de création</translation>
+    </message>
+    <message>
+        <source>现场名称</source>
+        <translation>Nom du site</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>Installateur</translation>
+    </message>
+    <message>
+        <source>保存到</source>
+        <translation>Enregistrer dans</translation>
+    </message>
+    <message>
+        <source>选择…</source>
+        <translation>Choisir…</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Appareils</translation>
+    </message>
+    <message>
+        <source>全部（%1）</source>
+        <translation>Tous (%1)</translation>
+    </message>
+    <message>
+        <source>勾选的（%1）</source>
+        <translation>Sélectionnés (%1)</translation>
+    </message>
+    <message>
+        <source>文件</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>将登录每台设备，读取信息并获取图像。报告包含程序启动以来的更改，不含密码。</source>
+        <translation>Le programme s&apos;identifie à chaque appareil, lit ses paramètres et récupère une image. Le rapport indique les modifications depuis le démarrage du programme et ne contient aucun mot de passe.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportResult</name>
+    <message>
+        <source>无法打开 %1</source>
+        <translation>Impossible d&apos;ouvrir %1</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>打开PDF</source>
+        <translation>Ouvrir le PDF</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Rapport de site</translation>
+    </message>
+    <message>
+        <source>打开文件夹</source>
+        <translation>Ouvrir le dossier</translation>
+    </message>
+    <message>
+        <source>报告已生成</source>
+        <translation>Le rapport est terminé</translation>
     </message>
 </context>
 <context>
@@ -7423,6 +7874,10 @@ Fichier&#xa0;: </translation>
     <message>
         <source>“%1”正在进行。退出后，其余设备不会更改。</source>
         <translation>«&#xa0;%1&#xa0;» est en cours. Si vous quittez, les appareils restants ne seront pas modifiés.</translation>
+    </message>
+    <message>
+        <source>报告已停止，没有生成文件</source>
+        <translation>Le rapport a été arrêté&#xa0;; aucun fichier n&apos;a été écrit</translation>
     </message>
 </context>
 <context>

@@ -3817,6 +3817,10 @@ Clic destro per copiare il risultato</translation>
         <source>深色</source>
         <translation>Scuro</translation>
     </message>
+    <message>
+        <source>现场报告（Ctrl+R）</source>
+        <translation>Rapporto del sito (Ctrl+R)</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -5276,6 +5280,359 @@ File: </translation>
     </message>
 </context>
 <context>
+    <name>ReportTexts</name>
+    <message>
+        <source>锐度</source>
+        <translation>nitidezza</translation>
+    </message>
+    <message>
+        <source>镜像</source>
+        <translation>specchio</translation>
+    </message>
+    <message>
+        <source>防抖</source>
+        <translation>stabilizzazione</translation>
+    </message>
+    <message>
+        <source>曝光</source>
+        <translation>esposizione</translation>
+    </message>
+    <message>
+        <source>背光</source>
+        <translation>controluce</translation>
+    </message>
+    <message>
+        <source>白平衡</source>
+        <translation>bilanciamento del bianco</translation>
+    </message>
+    <message>
+        <source>日夜模式</source>
+        <translation>modalità giorno/notte</translation>
+    </message>
+    <message>
+        <source>透雾</source>
+        <translation>antinebbia</translation>
+    </message>
+    <message>
+        <source>补光灯</source>
+        <translation>illuminatore</translation>
+    </message>
+    <message>
+        <source>亮度</source>
+        <translation>luminosità</translation>
+    </message>
+    <message>
+        <source>对比度</source>
+        <translation>contrasto</translation>
+    </message>
+    <message>
+        <source>饱和度</source>
+        <translation>saturazione</translation>
+    </message>
+    <message>
+        <source>色调</source>
+        <translation>tonalità</translation>
+    </message>
+    <message>
+        <source>伽马</source>
+        <translation>gamma</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>Non inizializzato</translation>
+    </message>
+    <message>
+        <source>地址重复</source>
+        <translation>Indirizzo duplicato</translation>
+    </message>
+    <message>
+        <source>登录被拒绝</source>
+        <translation>Accesso rifiutato</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>Lettura impossibile</translation>
+    </message>
+    <message>
+        <source>时间不准</source>
+        <translation>Orologio impreciso</translation>
+    </message>
+    <message>
+        <source>固件较旧</source>
+        <translation>Firmware meno recente</translation>
+    </message>
+    <message>
+        <source>未使用时间服务器</source>
+        <translation>Nessun server orario</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <extracomment>A line of the site report. %1 is a title, such as the kind of a finding, %2 its text.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 秒</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 分 %2 秒</source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message>
+        <source>%1 小时 %2 分</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1 天 %2 小时</source>
+        <translation>%1 g %2 h</translation>
+    </message>
+    <message>
+        <source>一致</source>
+        <translation>Esatta</translation>
+    </message>
+    <message>
+        <source>快 %1</source>
+        <extracomment>The clock of a device against that of the computer. %1 is a span of time.</extracomment>
+        <translation>avanti di %1</translation>
+    </message>
+    <message>
+        <source>慢 %1</source>
+        <translation>indietro di %1</translation>
+    </message>
+    <message>
+        <source>%1，同型号设备为 %2</source>
+        <extracomment>%1 is the firmware version of a device, %2 the newer version of another device of the same model.</extracomment>
+        <translation>%1; un altro dispositivo di questo modello ha %2</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Disattivato</translation>
+    </message>
+    <message>
+        <source>开启</source>
+        <translation>Attivato</translation>
+    </message>
+    <message>
+        <source>通道名称</source>
+        <translation>Nome canale</translation>
+    </message>
+    <message>
+        <source>编码设置</source>
+        <translation>Impostazioni di codifica</translation>
+    </message>
+    <message>
+        <source>图像设置</source>
+        <extracomment>An image setting of a device was changed. %1 is the setting.</extracomment>
+        <translation>Impostazioni immagine</translation>
+    </message>
+    <message>
+        <source>图像设置：%1</source>
+        <translation>Impostazioni immagine: %1</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Rapporto del sito</translation>
+    </message>
+    <message>
+        <source>异常项</source>
+        <translation>Anomalie</translation>
+    </message>
+    <message>
+        <source>本次更改</source>
+        <translation>Modifiche di questa visita</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Dispositivi</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>Modello</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Indirizzo</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>Porta</translation>
+    </message>
+    <message>
+        <source>固件版本</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>序列号</source>
+        <translation>Numero di serie</translation>
+    </message>
+    <message>
+        <source>时间偏差</source>
+        <translation>Scarto orario</translation>
+    </message>
+    <message>
+        <source>时间偏差（秒）</source>
+        <translation>Scarto orario (s)</translation>
+    </message>
+    <message>
+        <source>时间服务器</source>
+        <translation>Server orario</translation>
+    </message>
+    <message>
+        <source>通道数</source>
+        <translation>Canali</translation>
+    </message>
+    <message>
+        <source>主码流</source>
+        <translation>Stream principale</translation>
+    </message>
+    <message>
+        <source>通道</source>
+        <translation>Canale</translation>
+    </message>
+    <message>
+        <source>宽度（像素）</source>
+        <translation>Larghezza (px)</translation>
+    </message>
+    <message>
+        <source>高度（像素）</source>
+        <translation>Altezza (px)</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>Risultato</translation>
+    </message>
+    <message>
+        <source>图像</source>
+        <translation>Immagine</translation>
+    </message>
+    <message>
+        <source>更改前</source>
+        <translation>Prima</translation>
+    </message>
+    <message>
+        <source>当前</source>
+        <translation>Adesso</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>Operazione</translation>
+    </message>
+    <message>
+        <source>新值</source>
+        <translation>Nuovo valore</translation>
+    </message>
+    <message>
+        <source>说明</source>
+        <translation>Dettagli</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>Installatore</translation>
+    </message>
+    <message>
+        <source>未报告</source>
+        <translation>Non comunicato</translation>
+    </message>
+    <message>
+        <source>无图像</source>
+        <translation>Nessuna immagine</translation>
+    </message>
+    <message>
+        <source>没有异常项。</source>
+        <translation>Nessuna anomalia.</translation>
+    </message>
+    <message>
+        <source>程序启动以来没有更改设备。</source>
+        <translation>Nessun dispositivo è stato modificato dall&apos;avvio del programma.</translation>
+    </message>
+    <message>
+        <source>已读取</source>
+        <translation>Letti</translation>
+    </message>
+    <message>
+        <source>有异常</source>
+        <translation>Con anomalie</translation>
+    </message>
+    <message>
+        <source>PDF文件无法生成</source>
+        <translation>Impossibile creare il file PDF</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>Impossibile creare la cartella %1</translation>
+    </message>
+    <message>
+        <source>%1 无法写入：%2</source>
+        <extracomment>%1 is the path of a file, %2 the reason why it cannot be written.</extracomment>
+        <translation>Impossibile scrivere %1: %2</translation>
+    </message>
+    <message>
+        <source>较早的 %1 项更改未保留。</source>
+        <translation>%1 modifiche precedenti non sono elencate.</translation>
+    </message>
+    <message>
+        <source>另有 %1 个通道</source>
+        <translation>Altri %1 canali</translation>
+    </message>
+    <message>
+        <source>通道 %1</source>
+        <extracomment>A channel of a recorder. %1 is its number.</extracomment>
+        <translation>Canale %1</translation>
+    </message>
+    <message>
+        <source>修改IP地址</source>
+        <translation>Modifica indirizzo IP</translation>
+    </message>
+    <message>
+        <source>设置时间</source>
+        <translation>Imposta ora</translation>
+    </message>
+    <message>
+        <source>固件升级</source>
+        <translation>Aggiorna firmware</translation>
+    </message>
+    <message>
+        <source>时间服务器和时区</source>
+        <translation>Server orario e fuso orario</translation>
+    </message>
+    <message>
+        <source>夏令时</source>
+        <translation>Ora legale</translation>
+    </message>
+    <message>
+        <source>自动维护</source>
+        <translation>Manutenzione automatica</translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>Riavvia</translation>
+    </message>
+    <message>
+        <source>恢复默认设置</source>
+        <translation>Ripristina predefiniti</translation>
+    </message>
+    <message>
+        <source>视频制式</source>
+        <translation>Standard video</translation>
+    </message>
+    <message>
+        <source>修改密码</source>
+        <translation>Cambia password</translation>
+    </message>
+</context>
+<context>
     <name>RestartDialog</name>
     <message>
         <source>重启</source>
@@ -5787,6 +6144,100 @@ File: </translation>
     <message>
         <source>新建现场…</source>
         <translation>Nuovo sito…</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportDialog</name>
+    <message>
+        <source>请输入现场名称</source>
+        <translation>Inserire il nome del sito</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>Selezionare una cartella</translation>
+    </message>
+    <message>
+        <source>请至少选择一种文件</source>
+        <translation>Selezionare almeno un file</translation>
+    </message>
+    <message>
+        <source>列表中没有设备</source>
+        <translation>L&apos;elenco non contiene dispositivi</translation>
+    </message>
+    <message>
+        <source>生成报告</source>
+        <translation>Crea rapporto</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Rapporto del sito</translation>
+    </message>
+    <message>
+        <source>报告正在生成</source>
+        <translation>È già in corso la creazione di un rapporto</translation>
+    </message>
+    <message>
+        <source>现场名称</source>
+        <translation>Nome del sito</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>Installatore</translation>
+    </message>
+    <message>
+        <source>保存到</source>
+        <translation>Salva in</translation>
+    </message>
+    <message>
+        <source>选择…</source>
+        <translation>Scegli…</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Dispositivi</translation>
+    </message>
+    <message>
+        <source>全部（%1）</source>
+        <translation>Tutti (%1)</translation>
+    </message>
+    <message>
+        <source>勾选的（%1）</source>
+        <translation>Selezionati (%1)</translation>
+    </message>
+    <message>
+        <source>文件</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>将登录每台设备，读取信息并获取图像。报告包含程序启动以来的更改，不含密码。</source>
+        <translation>Il programma accede a ogni dispositivo, ne legge le impostazioni e acquisisce un&apos;immagine. Il rapporto elenca le modifiche dall&apos;avvio del programma e non contiene password.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportResult</name>
+    <message>
+        <source>无法打开 %1</source>
+        <translation>Impossibile aprire %1</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>打开PDF</source>
+        <translation>Apri PDF</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Rapporto del sito</translation>
+    </message>
+    <message>
+        <source>打开文件夹</source>
+        <translation>Apri cartella</translation>
+    </message>
+    <message>
+        <source>报告已生成</source>
+        <translation>Il rapporto è pronto</translation>
     </message>
 </context>
 <context>
@@ -7423,6 +7874,10 @@ File: </translation>
     <message>
         <source>“%1”正在进行。退出后，其余设备不会更改。</source>
         <translation>“%1” è in corso. Uscendo, i dispositivi restanti non verranno modificati.</translation>
+    </message>
+    <message>
+        <source>报告已停止，没有生成文件</source>
+        <translation>Il rapporto è stato interrotto; nessun file è stato scritto</translation>
     </message>
 </context>
 <context>

@@ -3817,6 +3817,10 @@ Klik met rechts om het resultaat te kopiëren</translation>
         <source>深色</source>
         <translation>Donker</translation>
     </message>
+    <message>
+        <source>现场报告（Ctrl+R）</source>
+        <translation>Locatierapport (Ctrl+R)</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -5276,6 +5280,359 @@ Bestand: </translation>
     </message>
 </context>
 <context>
+    <name>ReportTexts</name>
+    <message>
+        <source>锐度</source>
+        <translation>scherpte</translation>
+    </message>
+    <message>
+        <source>镜像</source>
+        <translation>spiegelen</translation>
+    </message>
+    <message>
+        <source>防抖</source>
+        <translation>stabilisatie</translation>
+    </message>
+    <message>
+        <source>曝光</source>
+        <translation>belichting</translation>
+    </message>
+    <message>
+        <source>背光</source>
+        <translation>tegenlicht</translation>
+    </message>
+    <message>
+        <source>白平衡</source>
+        <translation>witbalans</translation>
+    </message>
+    <message>
+        <source>日夜模式</source>
+        <translation>dag/nacht-modus</translation>
+    </message>
+    <message>
+        <source>透雾</source>
+        <translation>ontnevelen</translation>
+    </message>
+    <message>
+        <source>补光灯</source>
+        <translation>verlichting</translation>
+    </message>
+    <message>
+        <source>亮度</source>
+        <translation>helderheid</translation>
+    </message>
+    <message>
+        <source>对比度</source>
+        <translation>contrast</translation>
+    </message>
+    <message>
+        <source>饱和度</source>
+        <translation>verzadiging</translation>
+    </message>
+    <message>
+        <source>色调</source>
+        <translation>tint</translation>
+    </message>
+    <message>
+        <source>伽马</source>
+        <translation>gamma</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>Niet geïnitialiseerd</translation>
+    </message>
+    <message>
+        <source>地址重复</source>
+        <translation>Dubbel adres</translation>
+    </message>
+    <message>
+        <source>登录被拒绝</source>
+        <translation>Aanmelding geweigerd</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>Kan niet worden gelezen</translation>
+    </message>
+    <message>
+        <source>时间不准</source>
+        <translation>Klok loopt niet gelijk</translation>
+    </message>
+    <message>
+        <source>固件较旧</source>
+        <translation>Oudere firmware</translation>
+    </message>
+    <message>
+        <source>未使用时间服务器</source>
+        <translation>Geen tijdserver</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <extracomment>A line of the site report. %1 is a title, such as the kind of a finding, %2 its text.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 秒</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 分 %2 秒</source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message>
+        <source>%1 小时 %2 分</source>
+        <translation>%1 u %2 min</translation>
+    </message>
+    <message>
+        <source>%1 天 %2 小时</source>
+        <translation>%1 d %2 u</translation>
+    </message>
+    <message>
+        <source>一致</source>
+        <translation>Gelijk</translation>
+    </message>
+    <message>
+        <source>快 %1</source>
+        <extracomment>The clock of a device against that of the computer. %1 is a span of time.</extracomment>
+        <translation>loopt %1 voor</translation>
+    </message>
+    <message>
+        <source>慢 %1</source>
+        <translation>loopt %1 achter</translation>
+    </message>
+    <message>
+        <source>%1，同型号设备为 %2</source>
+        <extracomment>%1 is the firmware version of a device, %2 the newer version of another device of the same model.</extracomment>
+        <translation>%1; een ander apparaat van dit model heeft %2</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Uit</translation>
+    </message>
+    <message>
+        <source>开启</source>
+        <translation>Aan</translation>
+    </message>
+    <message>
+        <source>通道名称</source>
+        <translation>Kanaalnaam</translation>
+    </message>
+    <message>
+        <source>编码设置</source>
+        <translation>Coderingsinstellingen</translation>
+    </message>
+    <message>
+        <source>图像设置</source>
+        <extracomment>An image setting of a device was changed. %1 is the setting.</extracomment>
+        <translation>Beeldinstellingen</translation>
+    </message>
+    <message>
+        <source>图像设置：%1</source>
+        <translation>Beeldinstellingen: %1</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Locatierapport</translation>
+    </message>
+    <message>
+        <source>异常项</source>
+        <translation>Bevindingen</translation>
+    </message>
+    <message>
+        <source>本次更改</source>
+        <translation>Wijzigingen tijdens dit bezoek</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Apparaten</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Adres</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>Poort</translation>
+    </message>
+    <message>
+        <source>固件版本</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>序列号</source>
+        <translation>Serienummer</translation>
+    </message>
+    <message>
+        <source>时间偏差</source>
+        <translation>Tijdafwijking</translation>
+    </message>
+    <message>
+        <source>时间偏差（秒）</source>
+        <translation>Tijdafwijking (s)</translation>
+    </message>
+    <message>
+        <source>时间服务器</source>
+        <translation>Tijdserver</translation>
+    </message>
+    <message>
+        <source>通道数</source>
+        <translation>Kanalen</translation>
+    </message>
+    <message>
+        <source>主码流</source>
+        <translation>Hoofdstream</translation>
+    </message>
+    <message>
+        <source>通道</source>
+        <translation>Kanaal</translation>
+    </message>
+    <message>
+        <source>宽度（像素）</source>
+        <translation>Breedte (px)</translation>
+    </message>
+    <message>
+        <source>高度（像素）</source>
+        <translation>Hoogte (px)</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>Resultaat</translation>
+    </message>
+    <message>
+        <source>图像</source>
+        <translation>Beeld</translation>
+    </message>
+    <message>
+        <source>更改前</source>
+        <translation>Voorheen</translation>
+    </message>
+    <message>
+        <source>当前</source>
+        <translation>Nu</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>Tijd</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>Bewerking</translation>
+    </message>
+    <message>
+        <source>新值</source>
+        <translation>Nieuwe waarde</translation>
+    </message>
+    <message>
+        <source>说明</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>Installateur</translation>
+    </message>
+    <message>
+        <source>未报告</source>
+        <translation>Niet gemeld</translation>
+    </message>
+    <message>
+        <source>无图像</source>
+        <translation>Geen beeld</translation>
+    </message>
+    <message>
+        <source>没有异常项。</source>
+        <translation>Geen bevindingen.</translation>
+    </message>
+    <message>
+        <source>程序启动以来没有更改设备。</source>
+        <translation>Er is geen apparaat gewijzigd sinds de start van het programma.</translation>
+    </message>
+    <message>
+        <source>已读取</source>
+        <translation>Gelezen</translation>
+    </message>
+    <message>
+        <source>有异常</source>
+        <translation>Met bevindingen</translation>
+    </message>
+    <message>
+        <source>PDF文件无法生成</source>
+        <translation>Het PDF-bestand kan niet worden gemaakt</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>De map %1 kan niet worden gemaakt</translation>
+    </message>
+    <message>
+        <source>%1 无法写入：%2</source>
+        <extracomment>%1 is the path of a file, %2 the reason why it cannot be written.</extracomment>
+        <translation>%1 kan niet worden geschreven: %2</translation>
+    </message>
+    <message>
+        <source>较早的 %1 项更改未保留。</source>
+        <translation>%1 eerdere wijzigingen zijn niet vermeld.</translation>
+    </message>
+    <message>
+        <source>另有 %1 个通道</source>
+        <translation>Nog %1 kanalen</translation>
+    </message>
+    <message>
+        <source>通道 %1</source>
+        <extracomment>A channel of a recorder. %1 is its number.</extracomment>
+        <translation>Kanaal %1</translation>
+    </message>
+    <message>
+        <source>修改IP地址</source>
+        <translation>IP-adres wijzigen</translation>
+    </message>
+    <message>
+        <source>设置时间</source>
+        <translation>Tijd instellen</translation>
+    </message>
+    <message>
+        <source>固件升级</source>
+        <translation>Firmware upgraden</translation>
+    </message>
+    <message>
+        <source>时间服务器和时区</source>
+        <translation>Tijdserver en tijdzone</translation>
+    </message>
+    <message>
+        <source>夏令时</source>
+        <translation>Zomertijd</translation>
+    </message>
+    <message>
+        <source>自动维护</source>
+        <translation>Automatisch onderhoud</translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>Herstarten</translation>
+    </message>
+    <message>
+        <source>恢复默认设置</source>
+        <translation>Standaardwaarden herstellen</translation>
+    </message>
+    <message>
+        <source>视频制式</source>
+        <translation>Videonorm</translation>
+    </message>
+    <message>
+        <source>修改密码</source>
+        <translation>Wachtwoord wijzigen</translation>
+    </message>
+</context>
+<context>
     <name>RestartDialog</name>
     <message>
         <source>重启</source>
@@ -5787,6 +6144,100 @@ Bestand: </translation>
     <message>
         <source>新建现场…</source>
         <translation>Nieuwe locatie…</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportDialog</name>
+    <message>
+        <source>请输入现场名称</source>
+        <translation>Voer de naam van de locatie in</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>Selecteer een map</translation>
+    </message>
+    <message>
+        <source>请至少选择一种文件</source>
+        <translation>Selecteer minstens één bestand</translation>
+    </message>
+    <message>
+        <source>列表中没有设备</source>
+        <translation>De lijst bevat geen apparaten</translation>
+    </message>
+    <message>
+        <source>生成报告</source>
+        <translation>Rapport maken</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Locatierapport</translation>
+    </message>
+    <message>
+        <source>报告正在生成</source>
+        <translation>Er wordt al een rapport gemaakt</translation>
+    </message>
+    <message>
+        <source>现场名称</source>
+        <translation>Locatienaam</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>Installateur</translation>
+    </message>
+    <message>
+        <source>保存到</source>
+        <translation>Opslaan in</translation>
+    </message>
+    <message>
+        <source>选择…</source>
+        <translation>Kiezen…</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Apparaten</translation>
+    </message>
+    <message>
+        <source>全部（%1）</source>
+        <translation>Alle (%1)</translation>
+    </message>
+    <message>
+        <source>勾选的（%1）</source>
+        <translation>Geselecteerd (%1)</translation>
+    </message>
+    <message>
+        <source>文件</source>
+        <translation>Bestanden</translation>
+    </message>
+    <message>
+        <source>将登录每台设备，读取信息并获取图像。报告包含程序启动以来的更改，不含密码。</source>
+        <translation>Het programma meldt zich aan bij elk apparaat, leest de instellingen en haalt een beeld op. Het rapport vermeldt de wijzigingen sinds de start van het programma en bevat geen wachtwoorden.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportResult</name>
+    <message>
+        <source>无法打开 %1</source>
+        <translation>Kan %1 niet openen</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>打开PDF</source>
+        <translation>PDF openen</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Locatierapport</translation>
+    </message>
+    <message>
+        <source>打开文件夹</source>
+        <translation>Map openen</translation>
+    </message>
+    <message>
+        <source>报告已生成</source>
+        <translation>Het rapport is klaar</translation>
     </message>
 </context>
 <context>
@@ -7423,6 +7874,10 @@ Bestand: </translation>
     <message>
         <source>“%1”正在进行。退出后，其余设备不会更改。</source>
         <translation>“%1” is bezig. Als u afsluit, worden de overige apparaten niet gewijzigd.</translation>
+    </message>
+    <message>
+        <source>报告已停止，没有生成文件</source>
+        <translation>Het rapport is gestopt; er is geen bestand geschreven</translation>
     </message>
 </context>
 <context>

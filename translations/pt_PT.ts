@@ -3817,6 +3817,10 @@ Clique com o botão direito para copiar o resultado</translation>
         <source>深色</source>
         <translation>Escuro</translation>
     </message>
+    <message>
+        <source>现场报告（Ctrl+R）</source>
+        <translation>Relatório do local (Ctrl+R)</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -5276,6 +5280,359 @@ Ficheiro: </translation>
     </message>
 </context>
 <context>
+    <name>ReportTexts</name>
+    <message>
+        <source>锐度</source>
+        <translation>nitidez</translation>
+    </message>
+    <message>
+        <source>镜像</source>
+        <translation>espelho</translation>
+    </message>
+    <message>
+        <source>防抖</source>
+        <translation>estabilização</translation>
+    </message>
+    <message>
+        <source>曝光</source>
+        <translation>exposição</translation>
+    </message>
+    <message>
+        <source>背光</source>
+        <translation>contraluz</translation>
+    </message>
+    <message>
+        <source>白平衡</source>
+        <translation>balanço de brancos</translation>
+    </message>
+    <message>
+        <source>日夜模式</source>
+        <translation>modo dia/noite</translation>
+    </message>
+    <message>
+        <source>透雾</source>
+        <translation>antinevoeiro</translation>
+    </message>
+    <message>
+        <source>补光灯</source>
+        <translation>iluminador</translation>
+    </message>
+    <message>
+        <source>亮度</source>
+        <translation>brilho</translation>
+    </message>
+    <message>
+        <source>对比度</source>
+        <translation>contraste</translation>
+    </message>
+    <message>
+        <source>饱和度</source>
+        <translation>saturação</translation>
+    </message>
+    <message>
+        <source>色调</source>
+        <translation>tonalidade</translation>
+    </message>
+    <message>
+        <source>伽马</source>
+        <translation>gama</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>Não inicializado</translation>
+    </message>
+    <message>
+        <source>地址重复</source>
+        <translation>Endereço duplicado</translation>
+    </message>
+    <message>
+        <source>登录被拒绝</source>
+        <translation>Início de sessão recusado</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>Não é possível ler</translation>
+    </message>
+    <message>
+        <source>时间不准</source>
+        <translation>Relógio incorreto</translation>
+    </message>
+    <message>
+        <source>固件较旧</source>
+        <translation>Firmware mais antigo</translation>
+    </message>
+    <message>
+        <source>未使用时间服务器</source>
+        <translation>Sem servidor de hora</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <extracomment>A line of the site report. %1 is a title, such as the kind of a finding, %2 its text.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 秒</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 分 %2 秒</source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message>
+        <source>%1 小时 %2 分</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1 天 %2 小时</source>
+        <translation>%1 d %2 h</translation>
+    </message>
+    <message>
+        <source>一致</source>
+        <translation>Exata</translation>
+    </message>
+    <message>
+        <source>快 %1</source>
+        <extracomment>The clock of a device against that of the computer. %1 is a span of time.</extracomment>
+        <translation>%1 adiantado</translation>
+    </message>
+    <message>
+        <source>慢 %1</source>
+        <translation>%1 atrasado</translation>
+    </message>
+    <message>
+        <source>%1，同型号设备为 %2</source>
+        <extracomment>%1 is the firmware version of a device, %2 the newer version of another device of the same model.</extracomment>
+        <translation>%1; outro dispositivo deste modelo tem %2</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Desligado</translation>
+    </message>
+    <message>
+        <source>开启</source>
+        <translation>Ligado</translation>
+    </message>
+    <message>
+        <source>通道名称</source>
+        <translation>Nome do canal</translation>
+    </message>
+    <message>
+        <source>编码设置</source>
+        <translation>Definições de codificação</translation>
+    </message>
+    <message>
+        <source>图像设置</source>
+        <extracomment>An image setting of a device was changed. %1 is the setting.</extracomment>
+        <translation>Definições de imagem</translation>
+    </message>
+    <message>
+        <source>图像设置：%1</source>
+        <translation>Definições de imagem: %1</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Relatório do local</translation>
+    </message>
+    <message>
+        <source>异常项</source>
+        <translation>Anomalias</translation>
+    </message>
+    <message>
+        <source>本次更改</source>
+        <translation>Alterações desta visita</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Dispositivos</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>Modelo</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Endereço</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>Porta</translation>
+    </message>
+    <message>
+        <source>固件版本</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>序列号</source>
+        <translation>Número de série</translation>
+    </message>
+    <message>
+        <source>时间偏差</source>
+        <translation>Desvio da hora</translation>
+    </message>
+    <message>
+        <source>时间偏差（秒）</source>
+        <translation>Desvio da hora (s)</translation>
+    </message>
+    <message>
+        <source>时间服务器</source>
+        <translation>Servidor de hora</translation>
+    </message>
+    <message>
+        <source>通道数</source>
+        <translation>Canais</translation>
+    </message>
+    <message>
+        <source>主码流</source>
+        <translation>Fluxo principal</translation>
+    </message>
+    <message>
+        <source>通道</source>
+        <translation>Canal</translation>
+    </message>
+    <message>
+        <source>宽度（像素）</source>
+        <translation>Largura (px)</translation>
+    </message>
+    <message>
+        <source>高度（像素）</source>
+        <translation>Altura (px)</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>图像</source>
+        <translation>Imagem</translation>
+    </message>
+    <message>
+        <source>更改前</source>
+        <translation>Antes</translation>
+    </message>
+    <message>
+        <source>当前</source>
+        <translation>Agora</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>Operação</translation>
+    </message>
+    <message>
+        <source>新值</source>
+        <translation>Novo valor</translation>
+    </message>
+    <message>
+        <source>说明</source>
+        <translation>Detalhes</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>Instalador</translation>
+    </message>
+    <message>
+        <source>未报告</source>
+        <translation>Não comunicado</translation>
+    </message>
+    <message>
+        <source>无图像</source>
+        <translation>Sem imagem</translation>
+    </message>
+    <message>
+        <source>没有异常项。</source>
+        <translation>Sem anomalias.</translation>
+    </message>
+    <message>
+        <source>程序启动以来没有更改设备。</source>
+        <translation>Nenhum dispositivo foi alterado desde o início do programa.</translation>
+    </message>
+    <message>
+        <source>已读取</source>
+        <translation>Lidos</translation>
+    </message>
+    <message>
+        <source>有异常</source>
+        <translation>Com anomalias</translation>
+    </message>
+    <message>
+        <source>PDF文件无法生成</source>
+        <translation>Não é possível criar o ficheiro PDF</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>Não é possível criar a pasta %1</translation>
+    </message>
+    <message>
+        <source>%1 无法写入：%2</source>
+        <extracomment>%1 is the path of a file, %2 the reason why it cannot be written.</extracomment>
+        <translation>Não é possível escrever %1: %2</translation>
+    </message>
+    <message>
+        <source>较早的 %1 项更改未保留。</source>
+        <translation>%1 alterações anteriores não são apresentadas.</translation>
+    </message>
+    <message>
+        <source>另有 %1 个通道</source>
+        <translation>Mais %1 canais</translation>
+    </message>
+    <message>
+        <source>通道 %1</source>
+        <extracomment>A channel of a recorder. %1 is its number.</extracomment>
+        <translation>Canal %1</translation>
+    </message>
+    <message>
+        <source>修改IP地址</source>
+        <translation>Alterar endereço IP</translation>
+    </message>
+    <message>
+        <source>设置时间</source>
+        <translation>Acertar hora</translation>
+    </message>
+    <message>
+        <source>固件升级</source>
+        <translation>Atualizar firmware</translation>
+    </message>
+    <message>
+        <source>时间服务器和时区</source>
+        <translation>Servidor de hora e fuso horário</translation>
+    </message>
+    <message>
+        <source>夏令时</source>
+        <translation>Hora de verão</translation>
+    </message>
+    <message>
+        <source>自动维护</source>
+        <translation>Manutenção automática</translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>Reiniciar</translation>
+    </message>
+    <message>
+        <source>恢复默认设置</source>
+        <translation>Repor predefinições</translation>
+    </message>
+    <message>
+        <source>视频制式</source>
+        <translation>Norma de vídeo</translation>
+    </message>
+    <message>
+        <source>修改密码</source>
+        <translation>Alterar palavra-passe</translation>
+    </message>
+</context>
+<context>
     <name>RestartDialog</name>
     <message>
         <source>重启</source>
@@ -5787,6 +6144,100 @@ Ficheiro: </translation>
     <message>
         <source>新建现场…</source>
         <translation>Novo local…</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportDialog</name>
+    <message>
+        <source>请输入现场名称</source>
+        <translation>Introduza o nome do local</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>Selecione uma pasta</translation>
+    </message>
+    <message>
+        <source>请至少选择一种文件</source>
+        <translation>Selecione pelo menos um ficheiro</translation>
+    </message>
+    <message>
+        <source>列表中没有设备</source>
+        <translation>Não há dispositivos na lista</translation>
+    </message>
+    <message>
+        <source>生成报告</source>
+        <translation>Criar relatório</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Relatório do local</translation>
+    </message>
+    <message>
+        <source>报告正在生成</source>
+        <translation>Já está a ser criado um relatório</translation>
+    </message>
+    <message>
+        <source>现场名称</source>
+        <translation>Nome do local</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>Instalador</translation>
+    </message>
+    <message>
+        <source>保存到</source>
+        <translation>Guardar em</translation>
+    </message>
+    <message>
+        <source>选择…</source>
+        <translation>Escolher…</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Dispositivos</translation>
+    </message>
+    <message>
+        <source>全部（%1）</source>
+        <translation>Todos (%1)</translation>
+    </message>
+    <message>
+        <source>勾选的（%1）</source>
+        <translation>Selecionados (%1)</translation>
+    </message>
+    <message>
+        <source>文件</source>
+        <translation>Ficheiros</translation>
+    </message>
+    <message>
+        <source>将登录每台设备，读取信息并获取图像。报告包含程序启动以来的更改，不含密码。</source>
+        <translation>O programa inicia sessão em cada dispositivo, lê as suas definições e obtém uma imagem. O relatório apresenta as alterações desde o início do programa e não contém palavras-passe.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportResult</name>
+    <message>
+        <source>无法打开 %1</source>
+        <translation>Não é possível abrir %1</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>打开PDF</source>
+        <translation>Abrir PDF</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Relatório do local</translation>
+    </message>
+    <message>
+        <source>打开文件夹</source>
+        <translation>Abrir pasta</translation>
+    </message>
+    <message>
+        <source>报告已生成</source>
+        <translation>O relatório está concluído</translation>
     </message>
 </context>
 <context>
@@ -7423,6 +7874,10 @@ Ficheiro: </translation>
     <message>
         <source>“%1”正在进行。退出后，其余设备不会更改。</source>
         <translation>“%1” está em curso. Se sair, os restantes dispositivos não serão alterados.</translation>
+    </message>
+    <message>
+        <source>报告已停止，没有生成文件</source>
+        <translation>O relatório foi interrompido; nenhum ficheiro foi escrito</translation>
     </message>
 </context>
 <context>

@@ -3867,6 +3867,10 @@ Clic dreapta pentru a copia rezultatul</translation>
         <source>深色</source>
         <translation>Întunecat</translation>
     </message>
+    <message>
+        <source>现场报告（Ctrl+R）</source>
+        <translation>Raportul locației (Ctrl+R)</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -5355,6 +5359,359 @@ Fișier: </translation>
     </message>
 </context>
 <context>
+    <name>ReportTexts</name>
+    <message>
+        <source>锐度</source>
+        <translation>claritate</translation>
+    </message>
+    <message>
+        <source>镜像</source>
+        <translation>oglindire</translation>
+    </message>
+    <message>
+        <source>防抖</source>
+        <translation>stabilizare</translation>
+    </message>
+    <message>
+        <source>曝光</source>
+        <translation>expunere</translation>
+    </message>
+    <message>
+        <source>背光</source>
+        <translation>contralumină</translation>
+    </message>
+    <message>
+        <source>白平衡</source>
+        <translation>balans de alb</translation>
+    </message>
+    <message>
+        <source>日夜模式</source>
+        <translation>mod zi/noapte</translation>
+    </message>
+    <message>
+        <source>透雾</source>
+        <translation>anticeață</translation>
+    </message>
+    <message>
+        <source>补光灯</source>
+        <translation>iluminator</translation>
+    </message>
+    <message>
+        <source>亮度</source>
+        <translation>luminozitate</translation>
+    </message>
+    <message>
+        <source>对比度</source>
+        <translation>contrast</translation>
+    </message>
+    <message>
+        <source>饱和度</source>
+        <translation>saturație</translation>
+    </message>
+    <message>
+        <source>色调</source>
+        <translation>nuanță</translation>
+    </message>
+    <message>
+        <source>伽马</source>
+        <translation>gamma</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>Neinițializat</translation>
+    </message>
+    <message>
+        <source>地址重复</source>
+        <translation>Adresă duplicată</translation>
+    </message>
+    <message>
+        <source>登录被拒绝</source>
+        <translation>Autentificare refuzată</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>Nu poate fi citit</translation>
+    </message>
+    <message>
+        <source>时间不准</source>
+        <translation>Ceas inexact</translation>
+    </message>
+    <message>
+        <source>固件较旧</source>
+        <translation>Firmware mai vechi</translation>
+    </message>
+    <message>
+        <source>未使用时间服务器</source>
+        <translation>Fără server de timp</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <extracomment>A line of the site report. %1 is a title, such as the kind of a finding, %2 its text.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 秒</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 分 %2 秒</source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message>
+        <source>%1 小时 %2 分</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1 天 %2 小时</source>
+        <translation>%1 z %2 h</translation>
+    </message>
+    <message>
+        <source>一致</source>
+        <translation>Exactă</translation>
+    </message>
+    <message>
+        <source>快 %1</source>
+        <extracomment>The clock of a device against that of the computer. %1 is a span of time.</extracomment>
+        <translation>înainte cu %1</translation>
+    </message>
+    <message>
+        <source>慢 %1</source>
+        <translation>în urmă cu %1</translation>
+    </message>
+    <message>
+        <source>%1，同型号设备为 %2</source>
+        <extracomment>%1 is the firmware version of a device, %2 the newer version of another device of the same model.</extracomment>
+        <translation>%1; alt dispozitiv de acest model are %2</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Oprit</translation>
+    </message>
+    <message>
+        <source>开启</source>
+        <translation>Pornit</translation>
+    </message>
+    <message>
+        <source>通道名称</source>
+        <translation>Nume canal</translation>
+    </message>
+    <message>
+        <source>编码设置</source>
+        <translation>Setări de codare</translation>
+    </message>
+    <message>
+        <source>图像设置</source>
+        <extracomment>An image setting of a device was changed. %1 is the setting.</extracomment>
+        <translation>Setări de imagine</translation>
+    </message>
+    <message>
+        <source>图像设置：%1</source>
+        <translation>Setări de imagine: %1</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Raportul locației</translation>
+    </message>
+    <message>
+        <source>异常项</source>
+        <translation>Anomalii</translation>
+    </message>
+    <message>
+        <source>本次更改</source>
+        <translation>Modificările acestei vizite</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Dispozitive</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Nume</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Tip</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Adresă</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>固件版本</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>序列号</source>
+        <translation>Număr de serie</translation>
+    </message>
+    <message>
+        <source>时间偏差</source>
+        <translation>Abatere de timp</translation>
+    </message>
+    <message>
+        <source>时间偏差（秒）</source>
+        <translation>Abatere de timp (s)</translation>
+    </message>
+    <message>
+        <source>时间服务器</source>
+        <translation>Server de timp</translation>
+    </message>
+    <message>
+        <source>通道数</source>
+        <translation>Canale</translation>
+    </message>
+    <message>
+        <source>主码流</source>
+        <translation>Flux principal</translation>
+    </message>
+    <message>
+        <source>通道</source>
+        <translation>Canal</translation>
+    </message>
+    <message>
+        <source>宽度（像素）</source>
+        <translation>Lățime (px)</translation>
+    </message>
+    <message>
+        <source>高度（像素）</source>
+        <translation>Înălțime (px)</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>Rezultat</translation>
+    </message>
+    <message>
+        <source>图像</source>
+        <translation>Imagine</translation>
+    </message>
+    <message>
+        <source>更改前</source>
+        <translation>Înainte</translation>
+    </message>
+    <message>
+        <source>当前</source>
+        <translation>Acum</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>Operație</translation>
+    </message>
+    <message>
+        <source>新值</source>
+        <translation>Valoare nouă</translation>
+    </message>
+    <message>
+        <source>说明</source>
+        <translation>Detalii</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>Instalator</translation>
+    </message>
+    <message>
+        <source>未报告</source>
+        <translation>Neraportat</translation>
+    </message>
+    <message>
+        <source>无图像</source>
+        <translation>Fără imagine</translation>
+    </message>
+    <message>
+        <source>没有异常项。</source>
+        <translation>Nicio anomalie.</translation>
+    </message>
+    <message>
+        <source>程序启动以来没有更改设备。</source>
+        <translation>Niciun dispozitiv nu a fost modificat de la pornirea programului.</translation>
+    </message>
+    <message>
+        <source>已读取</source>
+        <translation>Citite</translation>
+    </message>
+    <message>
+        <source>有异常</source>
+        <translation>Cu anomalii</translation>
+    </message>
+    <message>
+        <source>PDF文件无法生成</source>
+        <translation>Fișierul PDF nu poate fi creat</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>Folderul %1 nu poate fi creat</translation>
+    </message>
+    <message>
+        <source>%1 无法写入：%2</source>
+        <extracomment>%1 is the path of a file, %2 the reason why it cannot be written.</extracomment>
+        <translation>%1 nu poate fi scris: %2</translation>
+    </message>
+    <message>
+        <source>较早的 %1 项更改未保留。</source>
+        <translation>Modificări anterioare care nu apar în listă: %1.</translation>
+    </message>
+    <message>
+        <source>另有 %1 个通道</source>
+        <translation>Alte canale: %1</translation>
+    </message>
+    <message>
+        <source>通道 %1</source>
+        <extracomment>A channel of a recorder. %1 is its number.</extracomment>
+        <translation>Canalul %1</translation>
+    </message>
+    <message>
+        <source>修改IP地址</source>
+        <translation>Modificare adresă IP</translation>
+    </message>
+    <message>
+        <source>设置时间</source>
+        <translation>Setare oră</translation>
+    </message>
+    <message>
+        <source>固件升级</source>
+        <translation>Actualizare firmware</translation>
+    </message>
+    <message>
+        <source>时间服务器和时区</source>
+        <translation>Server de timp și fus orar</translation>
+    </message>
+    <message>
+        <source>夏令时</source>
+        <translation>Ora de vară</translation>
+    </message>
+    <message>
+        <source>自动维护</source>
+        <translation>Întreținere automată</translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>Repornire</translation>
+    </message>
+    <message>
+        <source>恢复默认设置</source>
+        <translation>Restaurare valori implicite</translation>
+    </message>
+    <message>
+        <source>视频制式</source>
+        <translation>Standard video</translation>
+    </message>
+    <message>
+        <source>修改密码</source>
+        <translation>Modificare parolă</translation>
+    </message>
+</context>
+<context>
     <name>RestartDialog</name>
     <message>
         <source>重启</source>
@@ -5867,6 +6224,100 @@ Fișier: </translation>
     <message>
         <source>新建现场…</source>
         <translation>Locație nouă…</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportDialog</name>
+    <message>
+        <source>请输入现场名称</source>
+        <translation>Introduceți numele locației</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>Selectați un folder</translation>
+    </message>
+    <message>
+        <source>请至少选择一种文件</source>
+        <translation>Selectați cel puțin un fișier</translation>
+    </message>
+    <message>
+        <source>列表中没有设备</source>
+        <translation>Nu există dispozitive în listă</translation>
+    </message>
+    <message>
+        <source>生成报告</source>
+        <translation>Creare raport</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Raportul locației</translation>
+    </message>
+    <message>
+        <source>报告正在生成</source>
+        <translation>Un raport este deja în curs de creare</translation>
+    </message>
+    <message>
+        <source>现场名称</source>
+        <translation>Numele locației</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>Instalator</translation>
+    </message>
+    <message>
+        <source>保存到</source>
+        <translation>Salvare în</translation>
+    </message>
+    <message>
+        <source>选择…</source>
+        <translation>Alegere…</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Dispozitive</translation>
+    </message>
+    <message>
+        <source>全部（%1）</source>
+        <translation>Toate (%1)</translation>
+    </message>
+    <message>
+        <source>勾选的（%1）</source>
+        <translation>Selectate (%1)</translation>
+    </message>
+    <message>
+        <source>文件</source>
+        <translation>Fișiere</translation>
+    </message>
+    <message>
+        <source>将登录每台设备，读取信息并获取图像。报告包含程序启动以来的更改，不含密码。</source>
+        <translation>Programul se autentifică la fiecare dispozitiv, îi citește setările și preia o imagine. Raportul cuprinde modificările de la pornirea programului și nu conține parole.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportResult</name>
+    <message>
+        <source>无法打开 %1</source>
+        <translation>%1 nu poate fi deschis</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Închidere</translation>
+    </message>
+    <message>
+        <source>打开PDF</source>
+        <translation>Deschidere PDF</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Raportul locației</translation>
+    </message>
+    <message>
+        <source>打开文件夹</source>
+        <translation>Deschidere folder</translation>
+    </message>
+    <message>
+        <source>报告已生成</source>
+        <translation>Raportul este gata</translation>
     </message>
 </context>
 <context>
@@ -7517,6 +7968,10 @@ Fișier: </translation>
     <message>
         <source>“%1”正在进行。退出后，其余设备不会更改。</source>
         <translation>„%1” este în curs. Dacă ieșiți, celelalte dispozitive nu vor fi modificate.</translation>
+    </message>
+    <message>
+        <source>报告已停止，没有生成文件</source>
+        <translation>Raportul a fost oprit; nu a fost scris niciun fișier</translation>
     </message>
 </context>
 <context>

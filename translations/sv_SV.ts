@@ -3817,6 +3817,10 @@ Högerklicka för att kopiera resultatet</translation>
         <source>深色</source>
         <translation>Mörkt</translation>
     </message>
+    <message>
+        <source>现场报告（Ctrl+R）</source>
+        <translation>Anläggningsrapport (Ctrl+R)</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -5276,6 +5280,359 @@ Fil: </translation>
     </message>
 </context>
 <context>
+    <name>ReportTexts</name>
+    <message>
+        <source>锐度</source>
+        <translation>skärpa</translation>
+    </message>
+    <message>
+        <source>镜像</source>
+        <translation>spegling</translation>
+    </message>
+    <message>
+        <source>防抖</source>
+        <translation>stabilisering</translation>
+    </message>
+    <message>
+        <source>曝光</source>
+        <translation>exponering</translation>
+    </message>
+    <message>
+        <source>背光</source>
+        <translation>motljus</translation>
+    </message>
+    <message>
+        <source>白平衡</source>
+        <translation>vitbalans</translation>
+    </message>
+    <message>
+        <source>日夜模式</source>
+        <translation>dag/natt-läge</translation>
+    </message>
+    <message>
+        <source>透雾</source>
+        <translation>dimreducering</translation>
+    </message>
+    <message>
+        <source>补光灯</source>
+        <translation>belysning</translation>
+    </message>
+    <message>
+        <source>亮度</source>
+        <translation>ljusstyrka</translation>
+    </message>
+    <message>
+        <source>对比度</source>
+        <translation>kontrast</translation>
+    </message>
+    <message>
+        <source>饱和度</source>
+        <translation>mättnad</translation>
+    </message>
+    <message>
+        <source>色调</source>
+        <translation>nyans</translation>
+    </message>
+    <message>
+        <source>伽马</source>
+        <translation>gamma</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>Ej initierad</translation>
+    </message>
+    <message>
+        <source>地址重复</source>
+        <translation>Dubblerad adress</translation>
+    </message>
+    <message>
+        <source>登录被拒绝</source>
+        <translation>Inloggning nekad</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>Kan inte läsas</translation>
+    </message>
+    <message>
+        <source>时间不准</source>
+        <translation>Klockan går fel</translation>
+    </message>
+    <message>
+        <source>固件较旧</source>
+        <translation>Äldre firmware</translation>
+    </message>
+    <message>
+        <source>未使用时间服务器</source>
+        <translation>Ingen tidsserver</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <extracomment>A line of the site report. %1 is a title, such as the kind of a finding, %2 its text.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 秒</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 分 %2 秒</source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message>
+        <source>%1 小时 %2 分</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1 天 %2 小时</source>
+        <translation>%1 d %2 h</translation>
+    </message>
+    <message>
+        <source>一致</source>
+        <translation>Exakt</translation>
+    </message>
+    <message>
+        <source>快 %1</source>
+        <extracomment>The clock of a device against that of the computer. %1 is a span of time.</extracomment>
+        <translation>%1 före</translation>
+    </message>
+    <message>
+        <source>慢 %1</source>
+        <translation>%1 efter</translation>
+    </message>
+    <message>
+        <source>%1，同型号设备为 %2</source>
+        <extracomment>%1 is the firmware version of a device, %2 the newer version of another device of the same model.</extracomment>
+        <translation>%1; en annan enhet av samma modell har %2</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Av</translation>
+    </message>
+    <message>
+        <source>开启</source>
+        <translation>På</translation>
+    </message>
+    <message>
+        <source>通道名称</source>
+        <translation>Kanalnamn</translation>
+    </message>
+    <message>
+        <source>编码设置</source>
+        <translation>Kodningsinställningar</translation>
+    </message>
+    <message>
+        <source>图像设置</source>
+        <extracomment>An image setting of a device was changed. %1 is the setting.</extracomment>
+        <translation>Bildinställningar</translation>
+    </message>
+    <message>
+        <source>图像设置：%1</source>
+        <translation>Bildinställningar: %1</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Anläggningsrapport</translation>
+    </message>
+    <message>
+        <source>异常项</source>
+        <translation>Avvikelser</translation>
+    </message>
+    <message>
+        <source>本次更改</source>
+        <translation>Ändringar under detta besök</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Enheter</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Namn</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>Modell</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Adress</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>固件版本</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>序列号</source>
+        <translation>Serienummer</translation>
+    </message>
+    <message>
+        <source>时间偏差</source>
+        <translation>Tidsavvikelse</translation>
+    </message>
+    <message>
+        <source>时间偏差（秒）</source>
+        <translation>Tidsavvikelse (s)</translation>
+    </message>
+    <message>
+        <source>时间服务器</source>
+        <translation>Tidsserver</translation>
+    </message>
+    <message>
+        <source>通道数</source>
+        <translation>Kanaler</translation>
+    </message>
+    <message>
+        <source>主码流</source>
+        <translation>Huvudström</translation>
+    </message>
+    <message>
+        <source>通道</source>
+        <translation>Kanal</translation>
+    </message>
+    <message>
+        <source>宽度（像素）</source>
+        <translation>Bredd (px)</translation>
+    </message>
+    <message>
+        <source>高度（像素）</source>
+        <translation>Höjd (px)</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>Resultat</translation>
+    </message>
+    <message>
+        <source>图像</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>更改前</source>
+        <translation>Före</translation>
+    </message>
+    <message>
+        <source>当前</source>
+        <translation>Nu</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>Tid</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>Åtgärd</translation>
+    </message>
+    <message>
+        <source>新值</source>
+        <translation>Nytt värde</translation>
+    </message>
+    <message>
+        <source>说明</source>
+        <translation>Detaljer</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>Installatör</translation>
+    </message>
+    <message>
+        <source>未报告</source>
+        <translation>Rapporteras ej</translation>
+    </message>
+    <message>
+        <source>无图像</source>
+        <translation>Ingen bild</translation>
+    </message>
+    <message>
+        <source>没有异常项。</source>
+        <translation>Inga avvikelser.</translation>
+    </message>
+    <message>
+        <source>程序启动以来没有更改设备。</source>
+        <translation>Ingen enhet har ändrats sedan programmet startades.</translation>
+    </message>
+    <message>
+        <source>已读取</source>
+        <translation>Lästa</translation>
+    </message>
+    <message>
+        <source>有异常</source>
+        <translation>Med avvikelser</translation>
+    </message>
+    <message>
+        <source>PDF文件无法生成</source>
+        <translation>PDF-filen kan inte skapas</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>Mappen %1 kan inte skapas</translation>
+    </message>
+    <message>
+        <source>%1 无法写入：%2</source>
+        <extracomment>%1 is the path of a file, %2 the reason why it cannot be written.</extracomment>
+        <translation>%1 kan inte skrivas: %2</translation>
+    </message>
+    <message>
+        <source>较早的 %1 项更改未保留。</source>
+        <translation>%1 tidigare ändringar visas inte.</translation>
+    </message>
+    <message>
+        <source>另有 %1 个通道</source>
+        <translation>%1 kanaler till</translation>
+    </message>
+    <message>
+        <source>通道 %1</source>
+        <extracomment>A channel of a recorder. %1 is its number.</extracomment>
+        <translation>Kanal %1</translation>
+    </message>
+    <message>
+        <source>修改IP地址</source>
+        <translation>Ändra IP-adress</translation>
+    </message>
+    <message>
+        <source>设置时间</source>
+        <translation>Ställ in tid</translation>
+    </message>
+    <message>
+        <source>固件升级</source>
+        <translation>Uppgradera firmware</translation>
+    </message>
+    <message>
+        <source>时间服务器和时区</source>
+        <translation>Tidsserver och tidszon</translation>
+    </message>
+    <message>
+        <source>夏令时</source>
+        <translation>Sommartid</translation>
+    </message>
+    <message>
+        <source>自动维护</source>
+        <translation>Automatiskt underhåll</translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>Starta om</translation>
+    </message>
+    <message>
+        <source>恢复默认设置</source>
+        <translation>Återställ standard</translation>
+    </message>
+    <message>
+        <source>视频制式</source>
+        <translation>Videostandard</translation>
+    </message>
+    <message>
+        <source>修改密码</source>
+        <translation>Ändra lösenord</translation>
+    </message>
+</context>
+<context>
     <name>RestartDialog</name>
     <message>
         <source>重启</source>
@@ -5787,6 +6144,100 @@ Fil: </translation>
     <message>
         <source>新建现场…</source>
         <translation>Ny anläggning…</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportDialog</name>
+    <message>
+        <source>请输入现场名称</source>
+        <translation>Ange anläggningens namn</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>Välj en mapp</translation>
+    </message>
+    <message>
+        <source>请至少选择一种文件</source>
+        <translation>Välj minst en fil</translation>
+    </message>
+    <message>
+        <source>列表中没有设备</source>
+        <translation>Listan innehåller inga enheter</translation>
+    </message>
+    <message>
+        <source>生成报告</source>
+        <translation>Skapa rapport</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Anläggningsrapport</translation>
+    </message>
+    <message>
+        <source>报告正在生成</source>
+        <translation>En rapport håller på att skapas</translation>
+    </message>
+    <message>
+        <source>现场名称</source>
+        <translation>Anläggningens namn</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>Installatör</translation>
+    </message>
+    <message>
+        <source>保存到</source>
+        <translation>Spara i</translation>
+    </message>
+    <message>
+        <source>选择…</source>
+        <translation>Välj…</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>Enheter</translation>
+    </message>
+    <message>
+        <source>全部（%1）</source>
+        <translation>Alla (%1)</translation>
+    </message>
+    <message>
+        <source>勾选的（%1）</source>
+        <translation>Valda (%1)</translation>
+    </message>
+    <message>
+        <source>文件</source>
+        <translation>Filer</translation>
+    </message>
+    <message>
+        <source>将登录每台设备，读取信息并获取图像。报告包含程序启动以来的更改，不含密码。</source>
+        <translation>Programmet loggar in på varje enhet, läser inställningarna och hämtar en bild. Rapporten visar ändringarna sedan programmet startades och innehåller inga lösenord.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportResult</name>
+    <message>
+        <source>无法打开 %1</source>
+        <translation>Kan inte öppna %1</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Stäng</translation>
+    </message>
+    <message>
+        <source>打开PDF</source>
+        <translation>Öppna PDF</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>Anläggningsrapport</translation>
+    </message>
+    <message>
+        <source>打开文件夹</source>
+        <translation>Öppna mapp</translation>
+    </message>
+    <message>
+        <source>报告已生成</source>
+        <translation>Rapporten är klar</translation>
     </message>
 </context>
 <context>
@@ -7423,6 +7874,10 @@ Fil: </translation>
     <message>
         <source>“%1”正在进行。退出后，其余设备不会更改。</source>
         <translation>”%1” pågår. Om du avslutar ändras inte de återstående enheterna.</translation>
+    </message>
+    <message>
+        <source>报告已停止，没有生成文件</source>
+        <translation>Rapporten stoppades; ingen fil skrevs</translation>
     </message>
 </context>
 <context>

@@ -3767,6 +3767,10 @@
         <source>深色</source>
         <translation>深色</translation>
     </message>
+    <message>
+        <source>现场报告（Ctrl+R）</source>
+        <translation>现场报告（Ctrl+R）</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -5197,6 +5201,359 @@
     </message>
 </context>
 <context>
+    <name>ReportTexts</name>
+    <message>
+        <source>锐度</source>
+        <translation>锐度</translation>
+    </message>
+    <message>
+        <source>镜像</source>
+        <translation>镜像</translation>
+    </message>
+    <message>
+        <source>防抖</source>
+        <translation>防抖</translation>
+    </message>
+    <message>
+        <source>曝光</source>
+        <translation>曝光</translation>
+    </message>
+    <message>
+        <source>背光</source>
+        <translation>背光</translation>
+    </message>
+    <message>
+        <source>白平衡</source>
+        <translation>白平衡</translation>
+    </message>
+    <message>
+        <source>日夜模式</source>
+        <translation>日夜模式</translation>
+    </message>
+    <message>
+        <source>透雾</source>
+        <translation>透雾</translation>
+    </message>
+    <message>
+        <source>补光灯</source>
+        <translation>补光灯</translation>
+    </message>
+    <message>
+        <source>亮度</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>对比度</source>
+        <translation>对比度</translation>
+    </message>
+    <message>
+        <source>饱和度</source>
+        <translation>饱和度</translation>
+    </message>
+    <message>
+        <source>色调</source>
+        <translation>色调</translation>
+    </message>
+    <message>
+        <source>伽马</source>
+        <translation>伽马</translation>
+    </message>
+    <message>
+        <source>未初始化</source>
+        <translation>未初始化</translation>
+    </message>
+    <message>
+        <source>地址重复</source>
+        <translation>地址重复</translation>
+    </message>
+    <message>
+        <source>登录被拒绝</source>
+        <translation>登录被拒绝</translation>
+    </message>
+    <message>
+        <source>无法读取</source>
+        <translation>无法读取</translation>
+    </message>
+    <message>
+        <source>时间不准</source>
+        <translation>时间不准</translation>
+    </message>
+    <message>
+        <source>固件较旧</source>
+        <translation>固件较旧</translation>
+    </message>
+    <message>
+        <source>未使用时间服务器</source>
+        <translation>未使用时间服务器</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <extracomment>A line of the site report. %1 is a title, such as the kind of a finding, %2 its text.</extracomment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1 秒</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>%1 分 %2 秒</source>
+        <translation>%1 分 %2 秒</translation>
+    </message>
+    <message>
+        <source>%1 小时 %2 分</source>
+        <translation>%1 小时 %2 分</translation>
+    </message>
+    <message>
+        <source>%1 天 %2 小时</source>
+        <translation>%1 天 %2 小时</translation>
+    </message>
+    <message>
+        <source>一致</source>
+        <translation>一致</translation>
+    </message>
+    <message>
+        <source>快 %1</source>
+        <extracomment>The clock of a device against that of the computer. %1 is a span of time.</extracomment>
+        <translation>快 %1</translation>
+    </message>
+    <message>
+        <source>慢 %1</source>
+        <translation>慢 %1</translation>
+    </message>
+    <message>
+        <source>%1，同型号设备为 %2</source>
+        <extracomment>%1 is the firmware version of a device, %2 the newer version of another device of the same model.</extracomment>
+        <translation>%1，同型号设备为 %2</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>开启</source>
+        <translation>开启</translation>
+    </message>
+    <message>
+        <source>通道名称</source>
+        <translation>通道名称</translation>
+    </message>
+    <message>
+        <source>编码设置</source>
+        <translation>编码设置</translation>
+    </message>
+    <message>
+        <source>图像设置</source>
+        <extracomment>An image setting of a device was changed. %1 is the setting.</extracomment>
+        <translation>图像设置</translation>
+    </message>
+    <message>
+        <source>图像设置：%1</source>
+        <translation>图像设置：%1</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>现场报告</translation>
+    </message>
+    <message>
+        <source>异常项</source>
+        <translation>异常项</translation>
+    </message>
+    <message>
+        <source>本次更改</source>
+        <translation>本次更改</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>型号</source>
+        <translation>型号</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>地址</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>端口</translation>
+    </message>
+    <message>
+        <source>固件版本</source>
+        <translation>固件版本</translation>
+    </message>
+    <message>
+        <source>序列号</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <source>时间偏差</source>
+        <translation>时间偏差</translation>
+    </message>
+    <message>
+        <source>时间偏差（秒）</source>
+        <translation>时间偏差（秒）</translation>
+    </message>
+    <message>
+        <source>时间服务器</source>
+        <translation>时间服务器</translation>
+    </message>
+    <message>
+        <source>通道数</source>
+        <translation>通道数</translation>
+    </message>
+    <message>
+        <source>主码流</source>
+        <translation>主码流</translation>
+    </message>
+    <message>
+        <source>通道</source>
+        <translation>通道</translation>
+    </message>
+    <message>
+        <source>宽度（像素）</source>
+        <translation>宽度（像素）</translation>
+    </message>
+    <message>
+        <source>高度（像素）</source>
+        <translation>高度（像素）</translation>
+    </message>
+    <message>
+        <source>结果</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>图像</source>
+        <translation>图像</translation>
+    </message>
+    <message>
+        <source>更改前</source>
+        <translation>更改前</translation>
+    </message>
+    <message>
+        <source>当前</source>
+        <translation>当前</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>操作</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>新值</source>
+        <translation>新值</translation>
+    </message>
+    <message>
+        <source>说明</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>安装人员</translation>
+    </message>
+    <message>
+        <source>未报告</source>
+        <translation>未报告</translation>
+    </message>
+    <message>
+        <source>无图像</source>
+        <translation>无图像</translation>
+    </message>
+    <message>
+        <source>没有异常项。</source>
+        <translation>没有异常项。</translation>
+    </message>
+    <message>
+        <source>程序启动以来没有更改设备。</source>
+        <translation>程序启动以来没有更改设备。</translation>
+    </message>
+    <message>
+        <source>已读取</source>
+        <translation>已读取</translation>
+    </message>
+    <message>
+        <source>有异常</source>
+        <translation>有异常</translation>
+    </message>
+    <message>
+        <source>PDF文件无法生成</source>
+        <translation>PDF文件无法生成</translation>
+    </message>
+    <message>
+        <source>无法建立文件夹 %1</source>
+        <translation>无法建立文件夹 %1</translation>
+    </message>
+    <message>
+        <source>%1 无法写入：%2</source>
+        <extracomment>%1 is the path of a file, %2 the reason why it cannot be written.</extracomment>
+        <translation>%1 无法写入：%2</translation>
+    </message>
+    <message>
+        <source>较早的 %1 项更改未保留。</source>
+        <translation>较早的 %1 项更改未保留。</translation>
+    </message>
+    <message>
+        <source>另有 %1 个通道</source>
+        <translation>另有 %1 个通道</translation>
+    </message>
+    <message>
+        <source>通道 %1</source>
+        <extracomment>A channel of a recorder. %1 is its number.</extracomment>
+        <translation>通道 %1</translation>
+    </message>
+    <message>
+        <source>修改IP地址</source>
+        <translation>修改IP地址</translation>
+    </message>
+    <message>
+        <source>设置时间</source>
+        <translation>设置时间</translation>
+    </message>
+    <message>
+        <source>固件升级</source>
+        <translation>固件升级</translation>
+    </message>
+    <message>
+        <source>时间服务器和时区</source>
+        <translation>时间服务器和时区</translation>
+    </message>
+    <message>
+        <source>夏令时</source>
+        <translation>夏令时</translation>
+    </message>
+    <message>
+        <source>自动维护</source>
+        <translation>自动维护</translation>
+    </message>
+    <message>
+        <source>重启</source>
+        <translation>重启</translation>
+    </message>
+    <message>
+        <source>恢复默认设置</source>
+        <translation>恢复默认设置</translation>
+    </message>
+    <message>
+        <source>视频制式</source>
+        <translation>视频制式</translation>
+    </message>
+    <message>
+        <source>修改密码</source>
+        <translation>修改密码</translation>
+    </message>
+</context>
+<context>
     <name>RestartDialog</name>
     <message>
         <source>重启</source>
@@ -5707,6 +6064,100 @@
     <message>
         <source>新建现场…</source>
         <translation>新建现场…</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportDialog</name>
+    <message>
+        <source>请输入现场名称</source>
+        <translation>请输入现场名称</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>请选择文件夹</translation>
+    </message>
+    <message>
+        <source>请至少选择一种文件</source>
+        <translation>请至少选择一种文件</translation>
+    </message>
+    <message>
+        <source>列表中没有设备</source>
+        <translation>列表中没有设备</translation>
+    </message>
+    <message>
+        <source>生成报告</source>
+        <translation>生成报告</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>现场报告</translation>
+    </message>
+    <message>
+        <source>报告正在生成</source>
+        <translation>报告正在生成</translation>
+    </message>
+    <message>
+        <source>现场名称</source>
+        <translation>现场名称</translation>
+    </message>
+    <message>
+        <source>安装人员</source>
+        <translation>安装人员</translation>
+    </message>
+    <message>
+        <source>保存到</source>
+        <translation>保存到</translation>
+    </message>
+    <message>
+        <source>选择…</source>
+        <translation>选择…</translation>
+    </message>
+    <message>
+        <source>设备</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>全部（%1）</source>
+        <translation>全部（%1）</translation>
+    </message>
+    <message>
+        <source>勾选的（%1）</source>
+        <translation>勾选的（%1）</translation>
+    </message>
+    <message>
+        <source>文件</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>将登录每台设备，读取信息并获取图像。报告包含程序启动以来的更改，不含密码。</source>
+        <translation>将登录每台设备，读取信息并获取图像。报告包含程序启动以来的更改，不含密码。</translation>
+    </message>
+</context>
+<context>
+    <name>SiteReportResult</name>
+    <message>
+        <source>无法打开 %1</source>
+        <translation>无法打开 %1</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>打开PDF</source>
+        <translation>打开PDF</translation>
+    </message>
+    <message>
+        <source>现场报告</source>
+        <translation>现场报告</translation>
+    </message>
+    <message>
+        <source>打开文件夹</source>
+        <translation>打开文件夹</translation>
+    </message>
+    <message>
+        <source>报告已生成</source>
+        <translation>报告已生成</translation>
     </message>
 </context>
 <context>
@@ -7329,6 +7780,10 @@
     <message>
         <source>“%1”正在进行。退出后，其余设备不会更改。</source>
         <translation>“%1”正在进行。退出后，其余设备不会更改。</translation>
+    </message>
+    <message>
+        <source>报告已停止，没有生成文件</source>
+        <translation>报告已停止，没有生成文件</translation>
     </message>
 </context>
 <context>

@@ -121,7 +121,8 @@ private Q_SLOTS:
     {
         const QDir sources(QStringLiteral(SOURCES));
         QStringList arguments = {"-silent", "-locations", "none", "-extensions", "cpp,h,qml"};
-        for (const char *folder : {"app", "cgi", "device", "favourites", "gallery", "media", "qml", "sdk"})
+        for (const char *folder :
+             {"app", "cgi", "device", "favourites", "gallery", "media", "qml", "report", "sdk"})
             arguments.append(sources.filePath(QString::fromLatin1(folder)));
         arguments.append(u"-ts"_s);
         for (const QLatin1StringView code : languageCodes) {
