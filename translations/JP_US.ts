@@ -2078,11 +2078,11 @@
     </message>
     <message>
         <source>文件不是加密的设备列表，或者不完整</source>
-        <translation>ファイルは暗号化されたデバイスリストではないか、不完全です</translation>
+        <translation>ファイルが暗号化されたデバイスリストではないか、不完全です</translation>
     </message>
     <message>
         <source>加密列表的版本不受支持</source>
-        <translation>このバージョンの暗号化リストには対応していません</translation>
+        <translation>このバージョンの暗号化されたリストには対応していません</translation>
     </message>
     <message>
         <source>加密列表的参数无效</source>
@@ -2262,7 +2262,7 @@
     </message>
     <message>
         <source>最后一次找到：%1</source>
-        <translation>最後に見つかった日時：%1</translation>
+        <translation>最後に見つかった日時: %1</translation>
     </message>
 </context>
 <context>
@@ -2277,7 +2277,7 @@
     </message>
     <message>
         <source>不支持的文件：%1。可以拖入设备列表（.xlsx、.csv、.xml、.devlist）或现场文件（.site）</source>
-        <translation>対応していないファイル：%1。デバイスリスト（.xlsx、.csv、.xml、.devlist）または現場ファイル（.site）をウィンドウにドラッグしてください</translation>
+        <translation>対応していないファイルです: %1。デバイスリスト (.xlsx、.csv、.xml、.devlist) または現場ファイル (.site) をウィンドウにドラッグしてください</translation>
     </message>
 </context>
 <context>
@@ -2603,7 +2603,7 @@
     </message>
     <message>
         <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
-        <translation>リスト全体をパスフレーズで暗号化します。読み取れるのは本ツールだけです。パスフレーズを失うと復元できません。保存済みアカウントのパスワードはエクスポートされません。</translation>
+        <translation>リスト全体をパスフレーズで暗号化します。読み込めるのはこのプログラムだけです。パスフレーズを失うと復元できません。保存済みアカウントのパスワードはエクスポートされません。</translation>
     </message>
     <message>
         <source>完整列表</source>
@@ -2615,7 +2615,7 @@
     </message>
     <message>
         <source>加密（.devlist）</source>
-        <translation>暗号化（.devlist）</translation>
+        <translation>暗号化 (.devlist)</translation>
     </message>
     <message>
         <source>密码短语至少 %1 个字符</source>
@@ -2707,7 +2707,7 @@
     </message>
     <message>
         <source>松开鼠标，导入设备列表或打开现场</source>
-        <translation>離すとデバイスリストのインポートまたは現場を開く操作を行います</translation>
+        <translation>マウスのボタンを離すと、デバイスリストをインポートするか現場を開きます</translation>
     </message>
 </context>
 <context>
@@ -3452,7 +3452,7 @@
     <name>KnownDevices</name>
     <message>
         <source>上次的设备列表 %1 无法读取：%2</source>
-        <translation>前回のデバイスリスト %1 を読み取れません：%2</translation>
+        <translation>前回のデバイスリスト %1 を読み込めません: %2</translation>
     </message>
     <message>
         <source>分组名称最多 %1 个字符</source>
@@ -3468,11 +3468,11 @@
     </message>
     <message>
         <source>现场无法保存：%1</source>
-        <translation>現場を保存できません：%1</translation>
+        <translation>現場を保存できません: %1</translation>
     </message>
     <message>
         <source>设备列表无法保存：%1</source>
-        <translation>デバイスリストを保存できません：%1</translation>
+        <translation>デバイスリストを保存できません: %1</translation>
     </message>
     <message>
         <source>未保存的现场</source>
@@ -3480,7 +3480,7 @@
     </message>
     <message>
         <source>原现场无法保存：%1</source>
-        <translation>元の現場を保存できません：%1</translation>
+        <translation>以前の現場を保存できません: %1</translation>
     </message>
 </context>
 <context>
@@ -5967,11 +5967,11 @@
     <name>SiteFile</name>
     <message>
         <source>文件不是现场文件，或者已损坏</source>
-        <translation>ファイルは現場ファイルではないか、破損しています</translation>
+        <translation>ファイルが現場ファイルではないか、破損しています</translation>
     </message>
     <message>
         <source>现场文件由更新的版本保存，无法读取</source>
-        <translation>現場ファイルは新しいバージョンで保存されたため、読み取れません</translation>
+        <translation>現場ファイルは新しいバージョンで保存されたため、読み込めません</translation>
     </message>
     <message>
         <source>现场文件的设备超过 %1 台</source>
@@ -6011,12 +6011,12 @@
     <message numerus="yes">
         <source>已打开现场“%1”，共 %n 台设备</source>
         <translation>
-            <numerusform>現場「%1」を開きました（%n 台）</numerusform>
+            <numerusform>現場「%1」を開きました (%n 台)</numerusform>
         </translation>
     </message>
     <message>
         <source>无法打开现场 %1：%2</source>
-        <translation>現場 %1 を開けません：%2</translation>
+        <translation>現場 %1 を開けません: %2</translation>
     </message>
     <message>
         <source>现场</source>
@@ -6036,7 +6036,7 @@
     </message>
     <message>
         <source>新建现场后，已知设备和分组从列表中清除。未保存的更改会保留在最近的现场中。</source>
-        <translation>新しい現場にすると、既知のデバイスとグループがリストから消えます。未保存の変更は最近の現場に残ります。</translation>
+        <translation>新しい現場を作成すると、既知のデバイスとグループがリストから削除されます。未保存の変更は最近の現場に残ります。</translation>
     </message>
     <message>
         <source>新建</source>

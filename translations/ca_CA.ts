@@ -2296,7 +2296,7 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     </message>
     <message>
         <source>上次的列表中的设备，尚未找到</source>
-        <translation>Dispositiu de l&apos;última llista, encara no trobat</translation>
+        <translation>Dispositiu de l’última llista, encara no trobat</translation>
     </message>
     <message>
         <source>最后一次找到：%1</source>
@@ -2311,7 +2311,7 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     </message>
     <message>
         <source>拖入的不是本机上的文件</source>
-        <translation>No és un fitxer d&apos;aquest ordinador</translation>
+        <translation>No és un fitxer d’aquest ordinador</translation>
     </message>
     <message>
         <source>不支持的文件：%1。可以拖入设备列表（.xlsx、.csv、.xml、.devlist）或现场文件（.site）</source>
@@ -2639,11 +2639,11 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     </message>
     <message>
         <source>文件不含密码。导入前须在文件中填写密码。</source>
-        <translation>El fitxer no conté contrasenyes. Introduïu-les abans d&apos;importar-lo.</translation>
+        <translation>El fitxer no conté contrasenyes. Introduïu-les abans d’importar-lo.</translation>
     </message>
     <message>
         <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
-        <translation>Tota la llista es xifra amb la frase de contrasenya i només aquesta eina la pot llegir. No es pot recuperar sense la frase de contrasenya. Les contrasenyes dels comptes desats no s&apos;exporten.</translation>
+        <translation>Tota la llista es xifra amb la frase de contrasenya i només aquest programa la pot llegir. No es pot recuperar sense la frase de contrasenya. Les contrasenyes dels comptes desats no s’exporten.</translation>
     </message>
     <message>
         <source>完整列表</source>
@@ -2659,7 +2659,7 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     </message>
     <message>
         <source>密码短语至少 %1 个字符</source>
-        <translation>La frase de contrasenya necessita com a mínim %1 caràcters</translation>
+        <translation>La frase de contrasenya ha de tenir com a mínim %1 caràcters</translation>
     </message>
     <message>
         <source>密码短语</source>
@@ -2667,7 +2667,7 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     </message>
     <message>
         <source>两次输入不一致</source>
-        <translation>Els dos textos són diferents</translation>
+        <translation>Les dues frases de contrasenya no coincideixen</translation>
     </message>
     <message>
         <source>再次输入密码短语</source>
@@ -2743,7 +2743,7 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     <name>FileDrop</name>
     <message>
         <source>请先关闭对话框，再拖入文件</source>
-        <translation>Tanqueu el quadre de diàleg abans d&apos;arrossegar un fitxer a la finestra</translation>
+        <translation>Tanqueu el quadre de diàleg abans d’arrossegar un fitxer a la finestra</translation>
     </message>
     <message>
         <source>松开鼠标，导入设备列表或打开现场</source>
@@ -3500,19 +3500,19 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     <name>KnownDevices</name>
     <message>
         <source>上次的设备列表 %1 无法读取：%2</source>
-        <translation>No es pot llegir l&apos;última llista de dispositius %1: %2</translation>
+        <translation>No es pot llegir l’última llista de dispositius %1: %2</translation>
     </message>
     <message>
         <source>分组名称最多 %1 个字符</source>
-        <translation>El nom d&apos;un grup té com a màxim %1 caràcters</translation>
+        <translation>El nom d’un grup pot tenir com a màxim %1 caràcters</translation>
     </message>
     <message>
         <source>P2P设备不能分组</source>
-        <translation>Els dispositius P2P no poden ser en un grup</translation>
+        <translation>Els dispositius P2P no poden pertànyer a un grup</translation>
     </message>
     <message>
         <source>现场最多 %1 台设备</source>
-        <translation>Un lloc té com a màxim %1 dispositius</translation>
+        <translation>Un lloc pot tenir com a màxim %1 dispositius</translation>
     </message>
     <message>
         <source>现场无法保存：%1</source>
@@ -4310,7 +4310,7 @@ Fitxer: </translation>
     </message>
     <message>
         <source>没有找到设备，灰色的是以前找到的设备</source>
-        <translation>No s&apos;ha trobat cap dispositiu. Els de color gris s&apos;havien trobat abans.</translation>
+        <translation>No s’ha trobat cap dispositiu. Els que apareixen en gris s’havien trobat abans.</translation>
     </message>
     <message numerus="yes">
         <source>找到的设备比上次搜索少 %n 台</source>
@@ -6050,7 +6050,7 @@ Fitxer: </translation>
     </message>
     <message>
         <source>现场文件由更新的版本保存，无法读取</source>
-        <translation>El fitxer de lloc és d&apos;una versió més nova i no es pot llegir</translation>
+        <translation>El fitxer de lloc és d’una versió més nova i no es pot llegir</translation>
     </message>
     <message>
         <source>现场文件的设备超过 %1 台</source>
@@ -6108,7 +6108,7 @@ Fitxer: </translation>
     </message>
     <message>
         <source>现场已保存到 %1</source>
-        <translation>El lloc s&apos;ha desat a %1</translation>
+        <translation>El lloc s’ha desat a %1</translation>
     </message>
     <message>
         <source>文件不含密码。</source>

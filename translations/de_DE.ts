@@ -2115,7 +2115,7 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
     </message>
     <message>
         <source>文件不是加密的设备列表，或者不完整</source>
-        <translation>Die Datei ist keine verschlüsselte Geräteliste oder unvollständig</translation>
+        <translation>Die Datei ist keine verschlüsselte Geräteliste oder sie ist unvollständig</translation>
     </message>
     <message>
         <source>加密列表的版本不受支持</source>
@@ -2643,7 +2643,7 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
     </message>
     <message>
         <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
-        <translation>Die gesamte Liste wird mit der Passphrase verschlüsselt, nur dieses Programm kann sie lesen. Ohne Passphrase kann sie nicht wiederhergestellt werden. Passwörter gespeicherter Konten werden nicht exportiert.</translation>
+        <translation>Die gesamte Liste wird mit der Passphrase verschlüsselt, und nur dieses Programm kann sie lesen. Ohne Passphrase kann sie nicht wiederhergestellt werden. Passwörter gespeicherter Konten werden nicht exportiert.</translation>
     </message>
     <message>
         <source>完整列表</source>
@@ -2659,7 +2659,7 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
     </message>
     <message>
         <source>密码短语至少 %1 个字符</source>
-        <translation>Die Passphrase braucht mindestens %1 Zeichen</translation>
+        <translation>Die Passphrase muss mindestens %1 Zeichen haben</translation>
     </message>
     <message>
         <source>密码短语</source>
@@ -2667,7 +2667,7 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
     </message>
     <message>
         <source>两次输入不一致</source>
-        <translation>Die Eingaben stimmen nicht überein</translation>
+        <translation>Die beiden Passphrasen stimmen nicht überein</translation>
     </message>
     <message>
         <source>再次输入密码短语</source>
@@ -3504,7 +3504,7 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
     </message>
     <message>
         <source>分组名称最多 %1 个字符</source>
-        <translation>Der Name einer Gruppe hat höchstens %1 Zeichen</translation>
+        <translation>Der Name einer Gruppe darf höchstens %1 Zeichen haben</translation>
     </message>
     <message>
         <source>P2P设备不能分组</source>
@@ -3512,7 +3512,7 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
     </message>
     <message>
         <source>现场最多 %1 台设备</source>
-        <translation>Ein Standort hat höchstens %1 Geräte</translation>
+        <translation>Ein Standort darf höchstens %1 Geräte haben</translation>
     </message>
     <message>
         <source>现场无法保存：%1</source>
@@ -6046,7 +6046,7 @@ Datei: </translation>
     <name>SiteFile</name>
     <message>
         <source>文件不是现场文件，或者已损坏</source>
-        <translation>Die Datei ist keine Standortdatei oder beschädigt</translation>
+        <translation>Die Datei ist keine Standortdatei oder sie ist beschädigt</translation>
     </message>
     <message>
         <source>现场文件由更新的版本保存，无法读取</source>

@@ -1666,7 +1666,7 @@ Right-click to copy the result</translation>
     </message>
     <message>
         <source>程序上次异常退出，已写入报告</source>
-        <translation>The tool ended unexpectedly. A report has been written</translation>
+        <translation>The program ended unexpectedly. A report was written</translation>
     </message>
     <message>
         <source>异常退出报告</source>
@@ -2643,7 +2643,7 @@ Right-click to copy the result</translation>
     </message>
     <message>
         <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
-        <translation>The complete list is encrypted with the passphrase, and only this tool can read it. It cannot be recovered without the passphrase. Passwords of stored accounts are not exported.</translation>
+        <translation>The complete list is encrypted with the passphrase, and only this program can read it. It cannot be recovered without the passphrase. Passwords of stored accounts are not exported.</translation>
     </message>
     <message>
         <source>完整列表</source>
@@ -6154,11 +6154,11 @@ File: </translation>
     </message>
     <message>
         <source>请选择文件夹</source>
-        <translation>Choose a folder</translation>
+        <translation>Select a folder</translation>
     </message>
     <message>
         <source>请至少选择一种文件</source>
-        <translation>Choose at least one file</translation>
+        <translation>Select at least one file</translation>
     </message>
     <message>
         <source>列表中没有设备</source>
@@ -6190,7 +6190,7 @@ File: </translation>
     </message>
     <message>
         <source>选择…</source>
-        <translation>Choose…</translation>
+        <translation>Select…</translation>
     </message>
     <message>
         <source>设备</source>

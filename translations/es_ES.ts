@@ -2643,7 +2643,7 @@ Clic derecho para copiar el resultado</translation>
     </message>
     <message>
         <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
-        <translation>Toda la lista se cifra con la frase de contraseña y solo esta herramienta puede leerla. No se puede recuperar sin la frase de contraseña. Las contraseñas de las cuentas guardadas no se exportan.</translation>
+        <translation>Toda la lista se cifra con la frase de contraseña y solo este programa puede leerla. No se puede recuperar sin la frase de contraseña. Las contraseñas de las cuentas guardadas no se exportan.</translation>
     </message>
     <message>
         <source>完整列表</source>
@@ -2659,7 +2659,7 @@ Clic derecho para copiar el resultado</translation>
     </message>
     <message>
         <source>密码短语至少 %1 个字符</source>
-        <translation>La frase de contraseña necesita al menos %1 caracteres</translation>
+        <translation>La frase de contraseña debe tener al menos %1 caracteres</translation>
     </message>
     <message>
         <source>密码短语</source>
@@ -2667,7 +2667,7 @@ Clic derecho para copiar el resultado</translation>
     </message>
     <message>
         <source>两次输入不一致</source>
-        <translation>Las dos entradas son distintas</translation>
+        <translation>Las dos frases de contraseña no coinciden</translation>
     </message>
     <message>
         <source>再次输入密码短语</source>
@@ -3504,7 +3504,7 @@ Clic derecho para copiar el resultado</translation>
     </message>
     <message>
         <source>分组名称最多 %1 个字符</source>
-        <translation>El nombre de un grupo tiene como máximo %1 caracteres</translation>
+        <translation>El nombre de un grupo puede tener como máximo %1 caracteres</translation>
     </message>
     <message>
         <source>P2P设备不能分组</source>
@@ -3512,7 +3512,7 @@ Clic derecho para copiar el resultado</translation>
     </message>
     <message>
         <source>现场最多 %1 台设备</source>
-        <translation>Un sitio tiene como máximo %1 dispositivos</translation>
+        <translation>Un sitio puede tener como máximo %1 dispositivos</translation>
     </message>
     <message>
         <source>现场无法保存：%1</source>
@@ -4310,7 +4310,7 @@ Archivo: </translation>
     </message>
     <message>
         <source>没有找到设备，灰色的是以前找到的设备</source>
-        <translation>No se encontró ningún dispositivo. Los de color gris se encontraron antes.</translation>
+        <translation>No se encontró ningún dispositivo. Los que aparecen en gris se encontraron antes.</translation>
     </message>
     <message numerus="yes">
         <source>找到的设备比上次搜索少 %n 台</source>

@@ -107,7 +107,7 @@
     <name>AccountStore</name>
     <message>
         <source>账号文件 %1 无法读取：%2</source>
-        <translation>Le fichier des comptes, %1, ne peut pas être lu : %2</translation>
+        <translation>Le fichier des comptes, %1, ne peut pas être lu&#xa0;: %2</translation>
     </message>
     <message>
         <source>账号文件已损坏，其中的账号均未使用：%1</source>
@@ -1083,7 +1083,7 @@
     <name>CertificateStore</name>
     <message>
         <source>证书文件 %1 无法读取：%2</source>
-        <translation>Le fichier des certificats, %1, ne peut pas être lu : %2</translation>
+        <translation>Le fichier des certificats, %1, ne peut pas être lu&#xa0;: %2</translation>
     </message>
     <message>
         <source>证书文件已损坏，其中的证书均不再信任，请重新确认：%1</source>
@@ -1666,11 +1666,11 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>程序上次异常退出，已写入报告</source>
-        <translation>Le programme s’est arrêté de façon inattendue. Un rapport a été écrit</translation>
+        <translation>Le programme s&apos;est arrêté de façon inattendue. Un rapport a été écrit</translation>
     </message>
     <message>
         <source>异常退出报告</source>
-        <translation>Rapport d’incident</translation>
+        <translation>Rapport de plantage</translation>
     </message>
 </context>
 <context>
@@ -2127,7 +2127,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>列表已加密，需要密码短语</source>
-        <translation>La liste est chiffrée : une phrase secrète est nécessaire</translation>
+        <translation>La liste est chiffrée&#xa0;: une phrase secrète est nécessaire</translation>
     </message>
     <message>
         <source>密码短语错误，或者文件已损坏</source>
@@ -2300,7 +2300,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>最后一次找到：%1</source>
-        <translation>Trouvé pour la dernière fois : %1</translation>
+        <translation>Trouvé pour la dernière fois&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -2315,7 +2315,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>不支持的文件：%1。可以拖入设备列表（.xlsx、.csv、.xml、.devlist）或现场文件（.site）</source>
-        <translation>Fichier non pris en charge : %1. Glissez une liste d&apos;appareils (.xlsx, .csv, .xml, .devlist) ou un fichier de site (.site) dans la fenêtre</translation>
+        <translation>Fichier non pris en charge&#xa0;: %1. Glissez une liste d&apos;appareils (.xlsx, .csv, .xml, .devlist) ou un fichier de site (.site) dans la fenêtre</translation>
     </message>
 </context>
 <context>
@@ -2643,7 +2643,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
-        <translation>Toute la liste est chiffrée avec la phrase secrète, et seul cet outil peut la lire. Elle ne peut pas être récupérée sans la phrase secrète. Les mots de passe des comptes enregistrés ne sont pas exportés.</translation>
+        <translation>Toute la liste est chiffrée avec la phrase secrète, et seul ce programme peut la lire. Elle ne peut pas être récupérée sans la phrase secrète. Les mots de passe des comptes enregistrés ne sont pas exportés.</translation>
     </message>
     <message>
         <source>完整列表</source>
@@ -2667,7 +2667,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>两次输入不一致</source>
-        <translation>Les deux saisies sont différentes</translation>
+        <translation>Les deux phrases secrètes sont différentes</translation>
     </message>
     <message>
         <source>再次输入密码短语</source>
@@ -3500,11 +3500,11 @@ Clic droit pour copier le résultat</translation>
     <name>KnownDevices</name>
     <message>
         <source>上次的设备列表 %1 无法读取：%2</source>
-        <translation>La dernière liste d&apos;appareils %1 ne peut pas être lue : %2</translation>
+        <translation>La dernière liste d&apos;appareils %1 ne peut pas être lue&#xa0;: %2</translation>
     </message>
     <message>
         <source>分组名称最多 %1 个字符</source>
-        <translation>Le nom d&apos;un groupe a au plus %1 caractères</translation>
+        <translation>Le nom d&apos;un groupe ne peut pas dépasser %1 caractères</translation>
     </message>
     <message>
         <source>P2P设备不能分组</source>
@@ -3512,15 +3512,15 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>现场最多 %1 台设备</source>
-        <translation>Un site a au plus %1 appareils</translation>
+        <translation>Un site ne peut pas contenir plus de %1 appareils</translation>
     </message>
     <message>
         <source>现场无法保存：%1</source>
-        <translation>Le site ne peut pas être enregistré : %1</translation>
+        <translation>Le site ne peut pas être enregistré&#xa0;: %1</translation>
     </message>
     <message>
         <source>设备列表无法保存：%1</source>
-        <translation>La liste d&apos;appareils ne peut pas être enregistrée : %1</translation>
+        <translation>La liste d&apos;appareils ne peut pas être enregistrée&#xa0;: %1</translation>
     </message>
     <message>
         <source>未保存的现场</source>
@@ -3528,7 +3528,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>原现场无法保存：%1</source>
-        <translation>Le site précédent ne peut pas être enregistré : %1</translation>
+        <translation>Le site précédent ne peut pas être enregistré&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -6054,7 +6054,7 @@ Fichier&#xa0;: </translation>
     </message>
     <message>
         <source>现场文件的设备超过 %1 台</source>
-        <translation>Le fichier de site a plus de %1 appareils</translation>
+        <translation>Le fichier de site contient plus de %1 appareils</translation>
     </message>
     <message>
         <source>现场文件中的名称无效</source>
@@ -6062,7 +6062,7 @@ Fichier&#xa0;: </translation>
     </message>
     <message>
         <source>现场文件中第 %1 台设备的 %2 无效</source>
-        <translation>Appareil %1 du fichier de site : %2 n&apos;est pas valide</translation>
+        <translation>Appareil %1 du fichier de site&#xa0;: %2 n&apos;est pas valide</translation>
     </message>
     <message>
         <source>现场文件中第 %1 台设备重复</source>
@@ -6090,13 +6090,13 @@ Fichier&#xa0;: </translation>
     <message numerus="yes">
         <source>已打开现场“%1”，共 %n 台设备</source>
         <translation>
-            <numerusform>Site « %1 » ouvert, avec %n appareil</numerusform>
-            <numerusform>Site « %1 » ouvert, avec %n appareils</numerusform>
+            <numerusform>Site «&#xa0;%1&#xa0;» ouvert, avec %n appareil</numerusform>
+            <numerusform>Site «&#xa0;%1&#xa0;» ouvert, avec %n appareils</numerusform>
         </translation>
     </message>
     <message>
         <source>无法打开现场 %1：%2</source>
-        <translation>Le site %1 ne peut pas être ouvert : %2</translation>
+        <translation>Le site %1 ne peut pas être ouvert&#xa0;: %2</translation>
     </message>
     <message>
         <source>现场</source>

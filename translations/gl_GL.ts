@@ -1662,7 +1662,7 @@ Prema co botón dereito para copiar o resultado</translation>
     <name>CrashReportNotice</name>
     <message>
         <source>显示报告</source>
-        <translation>Amosar o informe</translation>
+        <translation>Mostrar informe</translation>
     </message>
     <message>
         <source>程序上次异常退出，已写入报告</source>
@@ -2643,7 +2643,7 @@ Prema co botón dereito para copiar o resultado</translation>
     </message>
     <message>
         <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
-        <translation>Toda a lista cífrase coa frase de contrasinal e só esta ferramenta pode lela. Non se pode recuperar sen a frase de contrasinal. Os contrasinais das contas gardadas non se exportan.</translation>
+        <translation>Toda a lista cífrase coa frase de contrasinal e só este programa pode lela. Non se pode recuperar sen a frase de contrasinal. Os contrasinais das contas gardadas non se exportan.</translation>
     </message>
     <message>
         <source>完整列表</source>
@@ -2659,7 +2659,7 @@ Prema co botón dereito para copiar o resultado</translation>
     </message>
     <message>
         <source>密码短语至少 %1 个字符</source>
-        <translation>A frase de contrasinal precisa polo menos %1 caracteres</translation>
+        <translation>A frase de contrasinal debe ter polo menos %1 caracteres</translation>
     </message>
     <message>
         <source>密码短语</source>
@@ -2667,7 +2667,7 @@ Prema co botón dereito para copiar o resultado</translation>
     </message>
     <message>
         <source>两次输入不一致</source>
-        <translation>Os dous textos son distintos</translation>
+        <translation>As dúas frases de contrasinal non coinciden</translation>
     </message>
     <message>
         <source>再次输入密码短语</source>
@@ -3504,7 +3504,7 @@ Prema co botón dereito para copiar o resultado</translation>
     </message>
     <message>
         <source>分组名称最多 %1 个字符</source>
-        <translation>O nome dun grupo ten como máximo %1 caracteres</translation>
+        <translation>O nome dun grupo pode ter como máximo %1 caracteres</translation>
     </message>
     <message>
         <source>P2P设备不能分组</source>
@@ -3512,7 +3512,7 @@ Prema co botón dereito para copiar o resultado</translation>
     </message>
     <message>
         <source>现场最多 %1 台设备</source>
-        <translation>Un sitio ten como máximo %1 dispositivos</translation>
+        <translation>Un sitio pode ter como máximo %1 dispositivos</translation>
     </message>
     <message>
         <source>现场无法保存：%1</source>
@@ -4310,7 +4310,7 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>没有找到设备，灰色的是以前找到的设备</source>
-        <translation>Non se atopou ningún dispositivo. Os de cor gris atopáronse antes.</translation>
+        <translation>Non se atopou ningún dispositivo. Os que aparecen en gris atopáronse antes.</translation>
     </message>
     <message numerus="yes">
         <source>找到的设备比上次搜索少 %n 台</source>

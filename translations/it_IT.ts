@@ -2643,7 +2643,7 @@ Clic destro per copiare il risultato</translation>
     </message>
     <message>
         <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
-        <translation>L&apos;intero elenco è cifrato con la passphrase e può essere letto solo da questo strumento. Senza la passphrase non può essere recuperato. Le password degli account salvati non vengono esportate.</translation>
+        <translation>L&apos;intero elenco è cifrato con la passphrase e può essere letto solo da questo programma. Senza la passphrase non può essere recuperato. Le password degli account salvati non vengono esportate.</translation>
     </message>
     <message>
         <source>完整列表</source>
@@ -2667,7 +2667,7 @@ Clic destro per copiare il risultato</translation>
     </message>
     <message>
         <source>两次输入不一致</source>
-        <translation>I due testi sono diversi</translation>
+        <translation>Le due passphrase non coincidono</translation>
     </message>
     <message>
         <source>再次输入密码短语</source>
@@ -3504,7 +3504,7 @@ Clic destro per copiare il risultato</translation>
     </message>
     <message>
         <source>分组名称最多 %1 个字符</source>
-        <translation>Il nome di un gruppo ha al massimo %1 caratteri</translation>
+        <translation>Il nome di un gruppo può avere al massimo %1 caratteri</translation>
     </message>
     <message>
         <source>P2P设备不能分组</source>
@@ -3512,7 +3512,7 @@ Clic destro per copiare il risultato</translation>
     </message>
     <message>
         <source>现场最多 %1 台设备</source>
-        <translation>Un sito ha al massimo %1 dispositivi</translation>
+        <translation>Un sito può avere al massimo %1 dispositivi</translation>
     </message>
     <message>
         <source>现场无法保存：%1</source>
@@ -6054,7 +6054,7 @@ File: </translation>
     </message>
     <message>
         <source>现场文件的设备超过 %1 台</source>
-        <translation>Il file di sito ha più di %1 dispositivi</translation>
+        <translation>Il file di sito contiene più di %1 dispositivi</translation>
     </message>
     <message>
         <source>现场文件中的名称无效</source>

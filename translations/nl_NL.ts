@@ -2643,7 +2643,7 @@ Klik met rechts om het resultaat te kopiëren</translation>
     </message>
     <message>
         <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
-        <translation>De hele lijst wordt versleuteld met de wachtwoordzin en alleen dit programma kan haar lezen. Zonder de wachtwoordzin kan de lijst niet worden hersteld. Wachtwoorden van opgeslagen accounts worden niet geëxporteerd.</translation>
+        <translation>De hele lijst wordt versleuteld met de wachtwoordzin en alleen dit programma kan de lijst lezen. Zonder de wachtwoordzin kan de lijst niet worden hersteld. Wachtwoorden van opgeslagen accounts worden niet geëxporteerd.</translation>
     </message>
     <message>
         <source>完整列表</source>
@@ -2667,7 +2667,7 @@ Klik met rechts om het resultaat te kopiëren</translation>
     </message>
     <message>
         <source>两次输入不一致</source>
-        <translation>De twee invoeren verschillen</translation>
+        <translation>De twee wachtwoordzinnen verschillen</translation>
     </message>
     <message>
         <source>再次输入密码短语</source>
@@ -3504,15 +3504,15 @@ Klik met rechts om het resultaat te kopiëren</translation>
     </message>
     <message>
         <source>分组名称最多 %1 个字符</source>
-        <translation>De naam van een groep heeft hoogstens %1 tekens</translation>
+        <translation>De naam van een groep mag hoogstens %1 tekens hebben</translation>
     </message>
     <message>
         <source>P2P设备不能分组</source>
-        <translation>P2P-apparaten kunnen niet in een groep zitten</translation>
+        <translation>P2P-apparaten kunnen niet tot een groep behoren</translation>
     </message>
     <message>
         <source>现场最多 %1 台设备</source>
-        <translation>Een locatie heeft hoogstens %1 apparaten</translation>
+        <translation>Een locatie mag hoogstens %1 apparaten hebben</translation>
     </message>
     <message>
         <source>现场无法保存：%1</source>
@@ -6054,7 +6054,7 @@ Bestand: </translation>
     </message>
     <message>
         <source>现场文件的设备超过 %1 台</source>
-        <translation>Het locatiebestand heeft meer dan %1 apparaten</translation>
+        <translation>Het locatiebestand bevat meer dan %1 apparaten</translation>
     </message>
     <message>
         <source>现场文件中的名称无效</source>
@@ -6090,8 +6090,8 @@ Bestand: </translation>
     <message numerus="yes">
         <source>已打开现场“%1”，共 %n 台设备</source>
         <translation>
-            <numerusform>Locatie ‘%1’ geopend, met %n apparaat</numerusform>
-            <numerusform>Locatie ‘%1’ geopend, met %n apparaten</numerusform>
+            <numerusform>Locatie “%1” geopend, met %n apparaat</numerusform>
+            <numerusform>Locatie “%1” geopend, met %n apparaten</numerusform>
         </translation>
     </message>
     <message>

@@ -2643,7 +2643,7 @@ Høyreklikk for å kopiere resultatet</translation>
     </message>
     <message>
         <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
-        <translation>Hele listen krypteres med passfrasen, og bare dette verktøyet kan lese den. Den kan ikke gjenopprettes uten passfrasen. Passord for lagrede kontoer eksporteres ikke.</translation>
+        <translation>Hele listen krypteres med passfrasen, og bare dette programmet kan lese den. Den kan ikke gjenopprettes uten passfrasen. Passord for lagrede kontoer eksporteres ikke.</translation>
     </message>
     <message>
         <source>完整列表</source>
@@ -2667,7 +2667,7 @@ Høyreklikk for å kopiere resultatet</translation>
     </message>
     <message>
         <source>两次输入不一致</source>
-        <translation>De to tekstene er forskjellige</translation>
+        <translation>Passfrasene stemmer ikke overens</translation>
     </message>
     <message>
         <source>再次输入密码短语</source>
@@ -3504,7 +3504,7 @@ Høyreklikk for å kopiere resultatet</translation>
     </message>
     <message>
         <source>分组名称最多 %1 个字符</source>
-        <translation>Navnet på en gruppe har høyst %1 tegn</translation>
+        <translation>Navnet på en gruppe kan ha høyst %1 tegn</translation>
     </message>
     <message>
         <source>P2P设备不能分组</source>
@@ -3512,7 +3512,7 @@ Høyreklikk for å kopiere resultatet</translation>
     </message>
     <message>
         <source>现场最多 %1 台设备</source>
-        <translation>Et anlegg har høyst %1 enheter</translation>
+        <translation>Et anlegg kan ha høyst %1 enheter</translation>
     </message>
     <message>
         <source>现场无法保存：%1</source>

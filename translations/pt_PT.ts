@@ -2643,7 +2643,7 @@ Clique com o botão direito para copiar o resultado</translation>
     </message>
     <message>
         <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
-        <translation>Toda a lista é cifrada com a frase-passe e só esta ferramenta a pode ler. Não pode ser recuperada sem a frase-passe. As palavras-passe das contas guardadas não são exportadas.</translation>
+        <translation>Toda a lista é cifrada com a frase-passe e só este programa a pode ler. Não pode ser recuperada sem a frase-passe. As palavras-passe das contas guardadas não são exportadas.</translation>
     </message>
     <message>
         <source>完整列表</source>
@@ -2659,7 +2659,7 @@ Clique com o botão direito para copiar o resultado</translation>
     </message>
     <message>
         <source>密码短语至少 %1 个字符</source>
-        <translation>A frase-passe precisa de pelo menos %1 caracteres</translation>
+        <translation>A frase-passe deve ter pelo menos %1 caracteres</translation>
     </message>
     <message>
         <source>密码短语</source>
@@ -2667,7 +2667,7 @@ Clique com o botão direito para copiar o resultado</translation>
     </message>
     <message>
         <source>两次输入不一致</source>
-        <translation>Os dois textos são diferentes</translation>
+        <translation>As duas frases-passe não coincidem</translation>
     </message>
     <message>
         <source>再次输入密码短语</source>
@@ -3504,7 +3504,7 @@ Clique com o botão direito para copiar o resultado</translation>
     </message>
     <message>
         <source>分组名称最多 %1 个字符</source>
-        <translation>O nome de um grupo tem no máximo %1 caracteres</translation>
+        <translation>O nome de um grupo pode ter no máximo %1 caracteres</translation>
     </message>
     <message>
         <source>P2P设备不能分组</source>
@@ -3512,7 +3512,7 @@ Clique com o botão direito para copiar o resultado</translation>
     </message>
     <message>
         <source>现场最多 %1 台设备</source>
-        <translation>Um local tem no máximo %1 dispositivos</translation>
+        <translation>Um local pode ter no máximo %1 dispositivos</translation>
     </message>
     <message>
         <source>现场无法保存：%1</source>
@@ -4306,11 +4306,11 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>搜索已停止，列表不完整。</source>
-        <translation>A pesquisa foi parada; a lista está incompleta.</translation>
+        <translation>A pesquisa foi interrompida; a lista está incompleta.</translation>
     </message>
     <message>
         <source>没有找到设备，灰色的是以前找到的设备</source>
-        <translation>Nenhum dispositivo encontrado. Os cinzentos foram encontrados antes.</translation>
+        <translation>Nenhum dispositivo encontrado. Os que aparecem a cinzento foram encontrados antes.</translation>
     </message>
     <message numerus="yes">
         <source>找到的设备比上次搜索少 %n 台</source>

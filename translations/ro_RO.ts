@@ -1699,7 +1699,7 @@ Clic dreapta pentru a copia rezultatul</translation>
     <name>CrashReportNotice</name>
     <message>
         <source>显示报告</source>
-        <translation>Afișați raportul</translation>
+        <translation>Afișare raport</translation>
     </message>
     <message>
         <source>程序上次异常退出，已写入报告</source>
@@ -1707,7 +1707,7 @@ Clic dreapta pentru a copia rezultatul</translation>
     </message>
     <message>
         <source>异常退出报告</source>
-        <translation>Raport de eroare</translation>
+        <translation>Raport de defecțiune</translation>
     </message>
 </context>
 <context>
@@ -2345,7 +2345,7 @@ Clic dreapta pentru a copia rezultatul</translation>
     <name>DroppedFiles</name>
     <message>
         <source>一次只能拖入一个文件</source>
-        <translation>În fereastră se poate trage un singur fișier odată</translation>
+        <translation>În fereastră se poate trage câte un singur fișier</translation>
     </message>
     <message>
         <source>拖入的不是本机上的文件</source>
@@ -2699,7 +2699,7 @@ Clic dreapta pentru a copia rezultatul</translation>
     </message>
     <message>
         <source>密码短语至少 %1 个字符</source>
-        <translation>Fraza de acces necesită cel puțin %1 caractere</translation>
+        <translation>Fraza de acces trebuie să aibă cel puțin %1 caractere</translation>
     </message>
     <message>
         <source>密码短语</source>
@@ -2707,7 +2707,7 @@ Clic dreapta pentru a copia rezultatul</translation>
     </message>
     <message>
         <source>两次输入不一致</source>
-        <translation>Cele două texte sunt diferite</translation>
+        <translation>Cele două fraze de acces nu coincid</translation>
     </message>
     <message>
         <source>再次输入密码短语</source>
@@ -3552,15 +3552,15 @@ Clic dreapta pentru a copia rezultatul</translation>
     </message>
     <message>
         <source>分组名称最多 %1 个字符</source>
-        <translation>Numele unui grup are cel mult %1 caractere</translation>
+        <translation>Numele unui grup poate avea cel mult %1 de caractere</translation>
     </message>
     <message>
         <source>P2P设备不能分组</source>
-        <translation>Dispozitivele P2P nu pot fi într-un grup</translation>
+        <translation>Dispozitivele P2P nu pot face parte dintr-un grup</translation>
     </message>
     <message>
         <source>现场最多 %1 台设备</source>
-        <translation>O locație are cel mult %1 dispozitive</translation>
+        <translation>O locație poate avea cel mult %1 de dispozitive</translation>
     </message>
     <message>
         <source>现场无法保存：%1</source>
@@ -6133,7 +6133,7 @@ Fișier: </translation>
     </message>
     <message>
         <source>现场文件的设备超过 %1 台</source>
-        <translation>Fișierul de locație are peste %1 dispozitive</translation>
+        <translation>Fișierul de locație conține peste %1 de dispozitive</translation>
     </message>
     <message>
         <source>现场文件中的名称无效</source>

@@ -2115,7 +2115,7 @@ Högerklicka för att kopiera resultatet</translation>
     </message>
     <message>
         <source>文件不是加密的设备列表，或者不完整</source>
-        <translation>Filen är inte en krypterad enhetslista eller är ofullständig</translation>
+        <translation>Filen är inte en krypterad enhetslista, eller så är den ofullständig</translation>
     </message>
     <message>
         <source>加密列表的版本不受支持</source>
@@ -2643,7 +2643,7 @@ Högerklicka för att kopiera resultatet</translation>
     </message>
     <message>
         <source>整个列表用密码短语加密，只有本程序能读取。密码短语丢失后无法恢复。已保存账号的密码不导出。</source>
-        <translation>Hela listan krypteras med lösenfrasen och endast det här verktyget kan läsa den. Den kan inte återställas utan lösenfrasen. Lösenord för sparade konton exporteras inte.</translation>
+        <translation>Hela listan krypteras med lösenfrasen och endast det här programmet kan läsa den. Den kan inte återställas utan lösenfrasen. Lösenord för sparade konton exporteras inte.</translation>
     </message>
     <message>
         <source>完整列表</source>
@@ -2667,7 +2667,7 @@ Högerklicka för att kopiera resultatet</translation>
     </message>
     <message>
         <source>两次输入不一致</source>
-        <translation>De två texterna är olika</translation>
+        <translation>Lösenfraserna stämmer inte överens</translation>
     </message>
     <message>
         <source>再次输入密码短语</source>
@@ -3504,7 +3504,7 @@ Högerklicka för att kopiera resultatet</translation>
     </message>
     <message>
         <source>分组名称最多 %1 个字符</source>
-        <translation>Namnet på en grupp har högst %1 tecken</translation>
+        <translation>Namnet på en grupp får ha högst %1 tecken</translation>
     </message>
     <message>
         <source>P2P设备不能分组</source>
@@ -3512,7 +3512,7 @@ Högerklicka för att kopiera resultatet</translation>
     </message>
     <message>
         <source>现场最多 %1 台设备</source>
-        <translation>En anläggning har högst %1 enheter</translation>
+        <translation>En anläggning får ha högst %1 enheter</translation>
     </message>
     <message>
         <source>现场无法保存：%1</source>
@@ -6046,7 +6046,7 @@ Fil: </translation>
     <name>SiteFile</name>
     <message>
         <source>文件不是现场文件，或者已损坏</source>
-        <translation>Filen är inte en anläggningsfil eller är skadad</translation>
+        <translation>Filen är inte en anläggningsfil, eller så är den skadad</translation>
     </message>
     <message>
         <source>现场文件由更新的版本保存，无法读取</source>
