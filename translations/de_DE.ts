@@ -5439,7 +5439,7 @@ Datei: </translation>
     </message>
     <message>
         <source>本次更改</source>
-        <translation>Änderungen dieses Einsatzes</translation>
+        <translation>Änderungen vor Ort</translation>
     </message>
     <message>
         <source>设备</source>

@@ -5439,7 +5439,7 @@ Fichier&#xa0;: </translation>
     </message>
     <message>
         <source>本次更改</source>
-        <translation>Modifications de cette visite</translation>
+        <translation>Modifications sur site</translation>
     </message>
     <message>
         <source>设备</source>

@@ -5439,7 +5439,7 @@ File: </translation>
     </message>
     <message>
         <source>本次更改</source>
-        <translation>Modifiche di questa visita</translation>
+        <translation>Modifiche in loco</translation>
     </message>
     <message>
         <source>设备</source>

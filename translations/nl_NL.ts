@@ -5439,7 +5439,7 @@ Bestand: </translation>
     </message>
     <message>
         <source>本次更改</source>
-        <translation>Wijzigingen tijdens dit bezoek</translation>
+        <translation>Wijzigingen bij bezoek</translation>
     </message>
     <message>
         <source>设备</source>

@@ -5439,7 +5439,7 @@ Fil: </translation>
     </message>
     <message>
         <source>本次更改</source>
-        <translation>Endringer under dette besøket</translation>
+        <translation>Endringer på stedet</translation>
     </message>
     <message>
         <source>设备</source>

@@ -5518,7 +5518,7 @@ Fișier: </translation>
     </message>
     <message>
         <source>本次更改</source>
-        <translation>Modificările acestei vizite</translation>
+        <translation>Modificări la vizită</translation>
     </message>
     <message>
         <source>设备</source>

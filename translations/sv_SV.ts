@@ -5439,7 +5439,7 @@ Fil: </translation>
     </message>
     <message>
         <source>本次更改</source>
-        <translation>Ändringar under detta besök</translation>
+        <translation>Ändringar på plats</translation>
     </message>
     <message>
         <source>设备</source>
@@ -6178,7 +6178,7 @@ Fil: </translation>
     </message>
     <message>
         <source>现场名称</source>
-        <translation>Anläggningens namn</translation>
+        <translation>Anläggningsnamn</translation>
     </message>
     <message>
         <source>安装人员</source>
