@@ -46,6 +46,7 @@ void walkFilter(Driver &driver)
 /// A search and closing are refused during a batch. The message names the batch.
 void expectBatchUndisturbed(Driver &driver, const QString &name)
 {
+    driver.await(u"the preview is closed"_s, [&] { return !driver.find(u"previewTable"_s); });
     driver.key(Qt::Key_F5);
     driver.await(u"the search is refused"_s, [&] { return driver.find(u"messageText"_s) != nullptr; });
     driver.check(driver.text(u"messageText"_s).contains(name) && !isSearching(driver),
