@@ -23,7 +23,9 @@ QString readCommand(const CommandContext &context, QString &error)
     QString command = context.arguments.operands.value(0);
     if (command == "-"_L1) {
         const TextLines input = readTextLines(command);
-        error = input.lines.size() == 1 ? input.error : u"standard input has to contain one command"_s;
+        error = input.error;
+        if (error.isEmpty() && input.lines.size() != 1)
+            error = u"standard input has to contain one command"_s;
         command = input.lines.isEmpty() ? QString() : input.lines.constFirst().text;
     }
     if (error.isEmpty() && !command.startsWith(u'/'))

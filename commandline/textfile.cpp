@@ -28,7 +28,9 @@ TextLines readTextLines(const QString &path)
     const QByteArray bytes = file.read(largestFile + 1);
     QStringDecoder decoder(QStringDecoder::Utf8);
     const QString text = decoder(bytes);
-    if (bytes.size() > largestFile)
+    if (file.error() != QFileDevice::NoError)
+        read.error = u"%1 cannot be read: %2"_s.arg(path, file.errorString());
+    else if (bytes.size() > largestFile)
         read.error = u"%1 is larger than 4 MiB"_s.arg(path);
     else if (decoder.hasError())
         read.error = u"%1 is not UTF-8 text"_s.arg(path);
