@@ -163,20 +163,27 @@ int readDeviceList(CommandContext &context, const QString &path, Batch *&batch)
         refusal = reason;
         loop.quit();
     });
+    QObject::connect(&context.batches, &Batches::refused, &loop, [&](const QString &reason) {
+        refusal = reason;
+        loop.quit();
+    });
+    adding.importList(u"import"_s, path);
     adding.importList(u"import"_s, path, passphrase);
     loop.exec();
     if (!batch)
         return context.fail(NothingDone, refusal);
-    awaitBatch(context, *batch);
-    return AllDone;
+    return awaitBatch(context, *batch) ? AllDone : SomeFailed;
 }
 
 int fillDeviceList(CommandContext &context)
 {
+    if (!context.arguments.has("list"_L1))
+        return search(context);
     Batch *batch = nullptr;
-    return context.arguments.has("list"_L1)
-               ? readDeviceList(context, context.arguments.value("list"_L1), batch)
-               : search(context);
+    const int exitCode = readDeviceList(context, context.arguments.value("list"_L1), batch);
+    if (exitCode == SomeFailed)
+        return context.fail(NothingDone, u"The devices of the list were not read completely."_s);
+    return exitCode;
 }
 
 DeviceChoice chooseDevices(const CommandContext &context, QString &error)
@@ -211,14 +218,18 @@ int findDevices(CommandContext &context, DeviceChoice &choice)
     // Before the search, which takes seconds.
     if (!context.arguments.has("devices"_L1))
         return context.fail(UsageError, u"--devices is missing: name devices, or \"all\""_s);
+    const QString which = context.arguments.value("devices"_L1);
+    const bool hasNames = which != "all"_L1;
     QString error;
-    if (context.arguments.value("devices"_L1) != "all"_L1)
-        static_cast<void>(namesIn(context.arguments.value("devices"_L1), error));
+    QStringList names;
+    if (hasNames) // standard input and pipes can be read once only
+        names = namesIn(which, error);
     if (!error.isEmpty())
         return context.fail(UsageError, error);
     if (const int exitCode = fillDeviceList(context); exitCode != AllDone)
         return exitCode;
-    choice = chooseDevices(context, error);
+    choice =
+        hasNames ? devicesNamed(context, names) : DeviceChoice{.rows = listedRows(context), .missing = {}};
     if (!choice.rows.isEmpty())
         return AllDone;
     for (const QString &name : std::as_const(choice.missing))

@@ -63,8 +63,8 @@ int runExport(CommandContext &context)
 int runImport(CommandContext &context)
 {
     Batch *batch = nullptr;
-    if (const int exitCode = readDeviceList(context, context.arguments.operands.constFirst(), batch);
-        exitCode != AllDone)
+    const int exitCode = readDeviceList(context, context.arguments.operands.constFirst(), batch);
+    if (!batch)
         return exitCode;
     ResultTable results({u"line"_s});
     results.add(*batch, [](const BatchDevice &line) { return QVariantList{line.name}; });

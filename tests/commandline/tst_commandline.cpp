@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 
 #include <csignal>
+#include <cstdio>
 
 using namespace commandline;
 
@@ -339,6 +340,72 @@ private Q_SLOTS:
                  outcome.messages.constData());
         QVERIFY2(outcome.results.contains("192.168.1.1:37777"), outcome.results.constData());
         QVERIFY2(!outcome.results.contains("videoStandard"), outcome.results.constData());
+    }
+
+    void aStoppedListEndsTheCommand_data()
+    {
+        const auto row = dataTable<bool, QByteArray>({"isInterrupted", "reason"});
+        row("interrupted", true, "Stopping");
+        row("refused accounts", false, "Stopped: 5 devices");
+    }
+
+    /// The command would change only some of the devices, without the knowledge of the user.
+    void aStoppedListEndsTheCommand()
+    {
+        QFETCH(const QByteArray, reason);
+        QFETCH(const bool, isInterrupted);
+        QByteArray lines = "添加模式,IP地址/域名/注册ID/设备序列号,设备端口,用户名,密码,设备名称\n"
+                           "IpAddress,192.168.1.1,37777,admin,secret1,\n";
+        for (int number = 1; number <= 4; ++number) {
+            for (const char *wrong : {"wrong7", "wrong8"})
+                lines += "IpAddress,192.168.1." + QByteArray::number(number % 2 + 2) + ",37777,user" +
+                         QByteArray::number(number) + ',' + wrong + ",\n";
+        }
+        const QString list = file(lines, "site.csv");
+        m_isInterrupted = isInterrupted;
+        const Outcome outcome = run({"set", "system", "name=Gate", "--list", list, "--devices", "all"});
+        QCOMPARE(outcome.exitCode, int(NothingDone));
+        QVERIFY2(outcome.messages.contains(reason) && outcome.messages.contains("list were not read"),
+                 outcome.messages.constData());
+        QCOMPARE(numbersOf("NetSetItem"), QString());
+        // An import has results nevertheless.
+        const Outcome imported = run({"import", list, "--format", "json"});
+        QCOMPARE(imported.exitCode, int(SomeFailed));
+        QVERIFY(fieldsOf(imported.results, "result").contains("not done"));
+    }
+
+    void aListThatCannotStartIsReported()
+    {
+        m_site->engine->end();
+        const Outcome outcome = run({"import", file("添加模式,IP地址/域名/注册ID/设备序列号,设备端口,用户名,"
+                                                    "密码\nIpAddress,192.168.1.1,37777,admin,secret1\n",
+                                                    "site.csv")});
+        QCOMPARE(outcome.exitCode, int(NothingDone));
+        QVERIFY(!outcome.messages.isEmpty());
+    }
+
+    void standardInputIsRead_data()
+    {
+        const auto row =
+            dataTable<QByteArray, QStringList, int, QString>({"input", "arguments", "exitCode", "message"});
+        row("names of devices", "192.168.1.2\n# gate\n192.168.1.1\n",
+            {"get", "encode", "main.quality", "--devices", "@-", "--format", "json"}, AllDone, "2/2");
+        row("invalid names", "\xff", {"get", "encode", "main.quality", "--devices", "@-"}, UsageError,
+            "UTF-8");
+        row("two commands", "/cgi-bin/a\n/cgi-bin/b\n", {"cgi", "-", "--devices", "all"}, UsageError,
+            "one command");
+        row("invalid command", "/\xff", {"cgi", "-", "--devices", "all"}, UsageError, "UTF-8");
+    }
+
+    void standardInputIsRead()
+    {
+        QFETCH(const QByteArray, input);
+        QFETCH(const QStringList, arguments);
+        QFETCH(const QString, message);
+        QVERIFY(std::freopen(file(input).toLocal8Bit().constData(), "r", stdin));
+        const Outcome outcome = run(arguments + QStringList{"--password-file", password()});
+        QTEST(outcome.exitCode, "exitCode");
+        QVERIFY2(outcome.messages.contains(message.toUtf8()), outcome.messages.constData());
     }
 
     void aMissingChannelIsNotReplacedByAnotherOne()
