@@ -6,6 +6,8 @@
 #include "device/registry/devicefamily.h"
 #include "device/store/devicerow.h"
 
+#include <QJsonObject>
+
 #include <algorithm>
 
 namespace {
@@ -90,8 +92,15 @@ int LiveOrder::positionOf(const QString &ipport) const
     if (!m_table || !m_deviceFactory)
         return -1;
     const QVariantMap row = m_deviceFactory->getDeviceInfo(dhFamily, ipport);
-    const int position = m_table->rowOf(row.value(DeviceRowKey::mac).toString());
-    return position >= 0 ? position : m_table->rowOf(ipport);
+    const int position = m_table->rowOf(rowName(QJsonObject::fromVariantMap(row)));
+    if (position >= 0)
+        return position;
+    // The table may show another row with the same address.
+    for (int other = 0; other < m_table->rowCount(); ++other) {
+        if (addressOf(m_table->get(other)) == ipport)
+            return other;
+    }
+    return -1;
 }
 
 QVariantMap LiveOrder::at(int position) const

@@ -126,6 +126,7 @@ private Q_SLOTS:
         row("the last one", false, 24, 1, QString());
         row("backwards", false, 21, -1, ipportOf(20));
         row("from an unlisted device", false, 90, 1, ipportOf(20));
+        row("from a row that is named by its UUID", false, 23, 1, ipportOf(24));
         row("among the selected devices", true, 20, 1, ipportOf(24));
     }
 
@@ -140,6 +141,9 @@ private Q_SLOTS:
                           .mac = numberedMac(number),
                           .state = number == 22 ? sdk::InitialisationBits::Uninitialised
                                                 : sdk::InitialisationBits::Initialised});
+        QJsonObject named = devices->ipv4.at(3).toJsonObject();
+        named.insert("identity", "uuid:23");
+        devices->ipv4[3] = named;
         CDeviceFactory::registerBackEnd("dh", [devices] { return devices; });
         const auto end = qScopeGuard([] { CDeviceFactory::deleteInstance(); });
         DeviceTableModel table;
