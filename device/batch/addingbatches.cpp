@@ -3,6 +3,7 @@
 #include "device/registry/devicefactory.h"
 #include "device/registry/devicefamily.h"
 #include "device/registry/mapkeys.h"
+#include "device/store/devicerow.h"
 #include "sdk/threadpriority.h"
 
 #include <algorithm>
@@ -63,7 +64,7 @@ AddingBatches::List AddingBatches::readList(const QString &title, const QString 
         steps.insert(name, line.step);
         list.plan.devices.append({.name = name,
                                   .identity = line.device,
-                                  .ipport = line.position.address,
+                                  .ipport = line.device, // of a listed device: set by takeList()
                                   .title = line.title,
                                   .login = line.login});
     }
@@ -80,6 +81,10 @@ void AddingBatches::takeList(List &list)
     if (!list.refusal.isEmpty()) {
         Q_EMIT importRefused(list.refusal);
         return;
+    }
+    for (BatchDevice &device : list.plan.devices) {
+        const QJsonObject row = m_factory.backEnd(dhFamily)->deviceRow(device.identity);
+        device.ipport = row.value(DeviceRowKey::ipport).toString(device.ipport);
     }
     list.plan.policy = m_batches.usualPolicy();
     list.plan.changesDevices = false;

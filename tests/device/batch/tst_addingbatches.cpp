@@ -154,6 +154,10 @@ private Q_SLOTS:
                  (QStringList{"2|2", "3|2", "5|13", "6|-1", "7|5", "8|2", "10|5"}));
         QCOMPARE(batch->report()->succeeded(), 2);
         QCOMPARE(batch->report()->failed(), 7);
+        // Pages and other batches use the same key for the device.
+        QCOMPARE(batch->entries().first().device.ipport, "192.168.1.10:37777");
+        QCOMPARE(batch->entries().first().device.key, "192.168.1.10:37777");
+        QCOMPARE(batch->entries().at(6).device.ipport, "OV7QK2M4:8800");
         QCOMPARE(loginsOf(camera), 2);
         QCOMPARE(row(camera).value("password").toString(), "secret1");
         const int port = row(recorder).value("ipport").toString().section(':', 1).toInt();
@@ -169,6 +173,11 @@ private Q_SLOTS:
         QCOMPARE(failuresOf(*m_adding, again), QStringList("10|5"));
         QVERIFY(!row(quietCamera).isEmpty());
         QCOMPARE(listChanged.size(), 1);
+
+        import("IpAddress,192.168.1.11,37777,admin,secret1,\n");
+        QTRY_VERIFY(m_batches->current() != again && !m_batches->isRunning());
+        QCOMPARE(m_batches->current()->entries().first().device.ipport, "192.168.1.11:37777");
+        QCOMPARE(m_batches->current()->entries().first().device.key, quietCamera);
     }
 
     void anInvalidListIsRefused()
