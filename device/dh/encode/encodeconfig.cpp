@@ -148,13 +148,15 @@ EncodeConfig::Outcome EncodeConfig::confirm(const ChannelChoice &channels)
         writing = writeEncodeItems(m_session, channels.curChannel, *m_state,
                                    m_state->missingItems(channels.curStreamType));
     const int error = writing.isDeviceAway ? static_cast<int>(m_session.lastError()) : 0;
-    const QList<int> unread = (m_state ? *m_state : unreadState()).withheldItems(channels.curStreamType);
+    const EncodeState &state = m_state ? *m_state : unreadState();
+    const QList<int> unread = state.withheldItems(channels.curStreamType);
+    const QList<int> missing = state.missingItems(channels.curStreamType);
     QList<int> notWritten;
     m_takenItems.clear();
     for (int index = 0; index < allItems; ++index) {
         if (unread.contains(index) || writing.notTaken.contains(index))
             notWritten.append(index);
-        else
+        else if (!missing.contains(index))
             m_takenItems.append(index);
     }
     return {.notWritten = linesOf(notWritten), .result = error};

@@ -243,6 +243,7 @@ private Q_SLOTS:
         QCOMPARE(form.unreadItems(), QStringList());
         QCOMPARE(confirm(), "");
         QTEST(requestedItems("NetSetItem"), "writes");
+        QCOMPARE(m_site->get("takenItems").toList().size(), m_site->asked("NetSetItem").size());
     }
 
     void aSamplingFrequencyFollowsItsFormat()
