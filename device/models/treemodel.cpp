@@ -483,8 +483,10 @@ QStringList OVTreeModel::checkedDevices() const
 
 QVariantList OVTreeModel::devicesToWatch() const
 {
-    const bool isAny = checkedCount() > 0;
     QVariantList devices;
+    if (!m_deviceFactory)
+        return devices;
+    const bool isAny = checkedCount() > 0;
     for (const Group &group : m_groups) {
         for (const Device &device : group.devices) {
             if (isAny && !device.checked)
