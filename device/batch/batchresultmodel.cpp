@@ -12,7 +12,8 @@ constexpr int reloadPause = 250; // milliseconds
 
 BatchResultModel::State stateOf(const Batch &batch, qsizetype entryIndex)
 {
-    const int result = batch.entries().at(entryIndex).outcome.result;
+    const Batch::Entry &entry = batch.entries().at(entryIndex);
+    const int result = entry.outcome.result;
     if (BatchReport::isSkipped(result))
         return BatchResultModel::Skipped;
     switch (result) {
@@ -21,7 +22,9 @@ BatchResultModel::State stateOf(const Batch &batch, qsizetype entryIndex)
     case BatchReport::Waiting:
         return BatchResultModel::Waiting;
     case BatchReport::NotDone:
-        return batch.isRunning() ? BatchResultModel::ToCome : BatchResultModel::NotDone;
+        // A step may end without having done its work while the batch runs.
+        return batch.isRunning() && !entry.time.isValid() ? BatchResultModel::ToCome
+                                                          : BatchResultModel::NotDone;
     default:
         return BatchResultModel::Failed;
     }

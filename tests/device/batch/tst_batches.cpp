@@ -1,3 +1,4 @@
+#include "device/batch/batchresultmodel.h"
 #include "device/models/devicetablemodel.h"
 #include "device/registry/upgradetools.h"
 #include "tests/datatable.h"
@@ -51,6 +52,37 @@ private:
 private Q_SLOTS:
     void init() { open(); }
     void cleanup() { close(); }
+
+    /// Its reason would only be shown at the end.
+    void aStepThatEndsWithoutItsWorkIsShown()
+    {
+        QSemaphore gate;
+        const auto end = qScopeGuard([&gate] { gate.release(); });
+        Batch *batch =
+            m_batches->start({.family = "dh",
+                              .title = "Work",
+                              .devices = {{.name = "a", .identity = "a", .ipport = "a", .title = ""},
+                                          {.name = "b", .identity = "b", .ipport = "b", .title = ""}},
+                              .policy = {.maximumParallel = 1},
+                              .stepOf = [&gate](const BatchDevice &device) -> DeviceStep {
+                                  if (device.name == "a")
+                                      return [](const StepControl &) {
+                                          return StepOutcome{.result = notDone, .text = "no session"};
+                                      };
+                                  return [&gate](const StepControl &) {
+                                      gate.acquire();
+                                      return StepOutcome();
+                                  };
+                              }});
+        QTRY_COMPARE(batch->done(), 1);
+        BatchResultModel model;
+        model.setBatch(batch);
+        QCOMPARE(model.get(0).value("device").toString(), "a");
+        QVERIFY(model.get(0).value("result").toString().contains("no session"));
+        QCOMPARE(model.get(1).value("state").toInt(), int(BatchResultModel::ToCome));
+        gate.release();
+        QTRY_VERIFY(!batch->isRunning());
+    }
 
     void everyDeviceIsReported_data()
     {
