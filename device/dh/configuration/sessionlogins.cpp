@@ -62,8 +62,11 @@ SessionLogins::SessionLogins(std::shared_ptr<DeviceStore> store, sdk::SdkLibrari
 
 int SessionLogins::findAndLogin(const QString &ipport, const QString &account, const QString &password)
 {
-    if (!m_libraries.net)
-        return resultCode(LoginResult::NetworkFailure);
+    if (!m_libraries.net) {
+        const int result = resultCode(LoginResult::NetworkFailure);
+        m_signals.emitNow<&CDeviceBase::signalCDeviceHighLevelLoginRet>(result);
+        return result;
+    }
     const PageOutcome outcome = loginStep(ipport, account, password)(StepControl());
     outcome.take();
     return outcome.value.toInt();

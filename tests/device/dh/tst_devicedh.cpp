@@ -59,6 +59,15 @@ private Q_SLOTS:
         QCOMPARE(m_factory->getDeviceDetail("dh", recorder).value("submask").toString(), "255.255.255.0");
     }
 
+    void aLoginWithoutALibraryIsReported()
+    {
+        CDeviceDH backEnd(m_store, {}, [] { return SearchSettings(); });
+        const QSignalSpy reported(&backEnd, &CDeviceBase::signalCDeviceHighLevelLoginRet);
+        QCOMPARE(backEnd.findAndLoginDevice("192.168.1.12:37777", "admin", "secret1"), 5);
+        QCOMPARE(reported.size(), 1);
+        QCOMPARE(reported.first().first().toInt(), 5);
+    }
+
     void typeCodesHaveTheirNames()
     {
         const QMap<int, QString> names = {{19, "SD"},  {20, "IPC"},  {29, "SVR"},   {30, "SVR"},
