@@ -105,7 +105,7 @@ SnapTask ImageOperations::snapTask(const QString &kind, int onlyChannel, const Q
             .sessionHandle = [this] { return m_session.sharedHandle(); },
             .channels =
                 [libraries = m_libraries, handle = m_session.handle(),
-                 channelCount = m_session.channelCount(), onlyChannel] {
+                 channelCount = std::max(1, m_session.channelCount()), onlyChannel] {
                     const QList<bool> connected =
                         connectedChannels(ConfigSession(libraries, handle), channelCount);
                     if (onlyChannel >= 0)
@@ -129,7 +129,8 @@ QList<DeviceStep> ImageOperations::snapshotSteps(const QString &address)
     };
     const auto channels = std::make_shared<Channels>();
     QList<DeviceStep> steps;
-    for (int number = 0; number < m_session.channelCount(); ++number) {
+    const int channelCount = std::max(1, m_session.channelCount()); // a device that reports none has one
+    for (int number = 0; number < channelCount; ++number) {
         steps.append(
             [this, channels, number, task = snapTask(allChannels, -1, address)](const StepControl &control) {
                 std::call_once(channels->asked, [&] { channels->list = task.channels(); });

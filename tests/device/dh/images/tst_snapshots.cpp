@@ -201,6 +201,20 @@ private Q_SLOTS:
         QCOMPARE(batches.failedMarks()->count(), 0); // a channel without a camera is no fault of the device
     }
 
+    void aDeviceWithoutChannelsHasOneSnapshot()
+    {
+        m_site->changeDevice(recorder,
+                             [](sdk::demo::SceneDevice &device, const auto &) { device.channels.clear(); });
+        QCOMPARE(factory()->findAndLoginDevice("dh", recorderPort, "admin", "secret1"), 0);
+        BatchEngine engine(nullptr);
+        Batches batches(*factory(), engine, [] { return 8; });
+        Batch *batch = batches.takeSnapshots("dh", "Snapshots", recorderPort, {"A"}, "rec");
+        QVERIFY(batch);
+        QCOMPARE(batch->total(), 1);
+        batch->stop();
+        QTRY_VERIFY_WITH_TIMEOUT(!batch->isRunning(), longWait);
+    }
+
     void closingCancelsSnapshots()
     {
         QVERIFY(m_site->setFault(recorder, {.fault = sdk::demo::Fault::FirstPictureLate, .number = 60000}));
