@@ -135,11 +135,10 @@ StepOutcome SystemOperations::performOn(const QString &ipport, const DeviceAccou
 StepOutcome SystemOperations::readClock(const QString &ipport, const DeviceAccount &credentials,
                                         const StepControl &control)
 {
-    sdk::NetLibrary &net = *m_libraries.net;
-    return m_logins.inLogin(ipport, credentials, control, [&net](sdk::LLONG loginHandle) {
+    return m_logins.inLogin(ipport, credentials, control, [this](sdk::LLONG loginHandle) {
         StepOutcome outcome = {.result = resultCode(LoginResult::Success), .text = {}};
         std::uint32_t error = 0;
-        if (const std::optional<QDateTime> time = readDeviceClock(net, loginHandle, error)) {
+        if (const std::optional<QDateTime> time = readDeviceClock(*m_libraries.net, loginHandle, error)) {
             outcome.text = deviceClockText(*time, QDateTime::currentDateTime());
         } else {
             outcome.result = refusedByDevice;
