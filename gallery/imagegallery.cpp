@@ -286,10 +286,12 @@ bool ImageGallery::start(const QStringList &identities, int onlyChannel)
         });
     };
     const QSet<QString> wanted(identities.cbegin(), identities.cend());
-    m_round = round;
+    const int roundBefore = std::exchange(m_round, round);
     Batch *batch = m_batches->start(std::move(plan));
-    if (!batch)
+    if (!batch) {
+        m_round = roundBefore; // updates of the previous batch may still be queued
         return false;
+    }
     for (Cell &cell : m_cells) {
         if (wanted.contains(cell.identity) && (onlyChannel < 0 || cell.channel == onlyChannel))
             cell.state = Waiting;

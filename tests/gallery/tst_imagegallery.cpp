@@ -220,6 +220,30 @@ private Q_SLOTS:
         QTRY_COMPARE(temporaryFolders(), before); // including files that were written meanwhile
     }
 
+    /// The results of the previous batch are still on their way when another page starts a batch.
+    void aRefusedFetchKeepsEarlierResults()
+    {
+        devices().addDevice(20, "gate", {});
+        bool isRefused = false;
+        connect(m_gallery.get(), &ImageGallery::batchChanged, this, [&] {
+            if (m_gallery->batch())
+                return;
+            QVERIFY(m_batches->start({.family = "dh",
+                                      .title = "Other",
+                                      .devices = {{.name = "x", .identity = "x", .ipport = "", .title = ""}},
+                                      .stepOf = [](const BatchDevice &) -> DeviceStep {
+                                          return [](const StepControl &) {
+                                              return StepOutcome();
+                                          };
+                                      }}));
+            isRefused = !m_gallery->fetchAll();
+        });
+        m_gallery->show(m_site->rows());
+        QTRY_VERIFY(isRefused);
+        QTRY_VERIFY(!m_batches->isRunning());
+        QCOMPARE(cells(), QStringList("gate: taken"));
+    }
+
     void furtherDevicesAreOmitted()
     {
         for (int number = 0; number < ImageGallery::maximumDevices + 3; ++number)
