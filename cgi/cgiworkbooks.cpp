@@ -123,7 +123,7 @@ void CgiWorkbooks::takeRead(std::shared_ptr<Workbook> workbook, const QString &r
 
 Batch *CgiWorkbooks::run(const QString &title, const QStringList &lines)
 {
-    if (!m_workbook || m_isRunning)
+    if (!m_workbook || m_isRunning || m_work != 0)
         return nullptr;
     if (m_workbook->isOutdated()) {
         m_workbook.reset();

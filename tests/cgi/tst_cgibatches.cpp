@@ -262,6 +262,20 @@ private Q_SLOTS:
         QVERIFY(m_site->transport->urls.isEmpty());
     }
 
+    /// The lines of the earlier workbook must not be sent while another one replaces it.
+    void nothingIsRunWhileAWorkbookIsRead()
+    {
+        QVERIFY(writeCommandWorkbook(path(), {{"10.0.0.a", "37777", "admin", "s", "/cgi-bin/1"}}));
+        CgiWorkbooks *workbooks = m_site->commands.workbooks();
+        QSignalSpy wasRead(workbooks, &CgiWorkbooks::wasRead);
+        workbooks->read(path());
+        QTRY_COMPARE(wasRead.size(), 1);
+        workbooks->read(path());
+        QCOMPARE(workbooks->run("Title", {"第2行 10.0.0.a:37777"}), nullptr);
+        QTRY_COMPARE(wasRead.size(), 2);
+        QVERIFY(m_site->transport->urls.isEmpty());
+    }
+
     void anInvalidFileIsRefused()
     {
         const QSignalSpy ended(m_site->commands.workbooks(), &CgiWorkbooks::ended);
