@@ -109,7 +109,9 @@ public:
         set(CURLOPT_URL, request.url().constData());
         // Digest in the form of older browsers, which omits the query: the devices require that.
         set(CURLOPT_HTTPAUTH, static_cast<long>(CURLAUTH_DIGEST_IE));
-        set(CURLOPT_USERPWD, request.userPassword().constData());
+        // Without an account a challenge is not responded to: an empty account would count as a failed login.
+        if (request.userPassword() != ":")
+            set(CURLOPT_USERPWD, request.userPassword().constData());
         set(CURLOPT_HEADERFUNCTION, &CurlHttpRequest::takeHeader);
         set(CURLOPT_HEADERDATA, static_cast<void *>(this));
         set(CURLOPT_CONNECTTIMEOUT, static_cast<long>(connectLimit.count()));
