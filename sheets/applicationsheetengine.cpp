@@ -57,7 +57,10 @@ bool ApplicationSheetEngine::start()
                          m_exception =
                              description.isEmpty() ? QStringLiteral("error %1").arg(code) : description;
                      });
-    return set(m_application.get(), "DisplayAlerts", false);
+    if (set(m_application.get(), "DisplayAlerts", false))
+        return true;
+    quit(); // its questions would block the caller
+    return false;
 }
 
 bool ApplicationSheetEngine::isAvailable() const

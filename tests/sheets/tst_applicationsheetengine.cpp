@@ -87,9 +87,19 @@ private Q_SLOTS:
         QCOMPARE(record.alive, 0); // the first file is no longer open in the application
     }
 
+    void reportsAMissingApplication_data()
+    {
+        const auto row = dataTable<bool, QString>({"isInstalled", "refused"});
+        row("not installed", false, QString());
+        row("asks questions", true, QStringLiteral("DisplayAlerts")); // a dialog would block the caller
+    }
+
     void reportsAMissingApplication()
     {
-        AxRecord::instance().isInstalled = false;
+        QFETCH(const bool, isInstalled);
+        QFETCH(const QString, refused);
+        AxRecord::instance().isInstalled = isInstalled;
+        AxRecord::instance().refused = refused;
         auto engine = std::make_unique<ApplicationSheetEngine>();
         QVERIFY(!engine->isAvailable());
         QVERIFY(!engine->errorText().isEmpty());

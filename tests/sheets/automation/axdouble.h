@@ -16,6 +16,7 @@ struct AxRecord
     QStringList calls;
     QHash<QString, QVariant> responses; ///< values of properties by "path.name"; others are invalid
     bool isInstalled = true;            ///< false: the application cannot be started
+    QString refused; ///< name of a property that cannot be set; empty for none
     int alive = 0;                      ///< number of existing objects
 
     /// The only object of the process. A test resets it.
@@ -57,7 +58,10 @@ public:
     bool setProperty(const char *name, const QVariant &value)
     {
         note(QString("%1 = %2").arg(name, value.toString()));
-        return true;
+        const bool isRefused = AxRecord::instance().refused == QLatin1String(name);
+        if (isRefused)
+            Q_EMIT exception(1, {}, QStringLiteral("refused"), {});
+        return !isRefused;
     }
 
     [[nodiscard]] QVariant property(const char *name)
