@@ -251,7 +251,8 @@ SoapResponse SoapClient::call(const ServiceAddress &service, const SoapRequest &
     if (m_method == LoginMethod::Unknown) {
         LoginMethod offered = LoginMethod::Unknown;
         SoapResponse response = send(service, request, LoginMethod::Unknown, deadline, offered, {});
-        if (response.error != NetError::WrongPassword)
+        // The device would count an empty account as a failed login.
+        if (response.error != NetError::WrongPassword || login().account.empty())
             return response;
         m_method = offered;
     }

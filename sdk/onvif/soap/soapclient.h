@@ -46,6 +46,8 @@ struct SoapResponse
 
 /// Calls operations of one device with one account. Thread-safe, except setClockReader().
 ///
+/// With an empty account no login is sent: a call fails with WrongPassword if the device requires one.
+///
 /// Every request is sent without the login until the device refuses one: the refusal contains the device's
 /// login method. So a wrong password is sent once, not once for each method. Until the device has accepted
 /// the password, one call at a time runs. After the device has refused the password, no further call sends

@@ -182,6 +182,18 @@ private Q_SLOTS:
             QVERIFY(!request.contains("Basic"));
     }
 
+    void noLoginIsSentWithoutAnAccount()
+    {
+        const RawServer server([](const RawExchange &exchange) { respondAs(DigestRefusing, exchange); });
+        SoapClient client({}, std::make_shared<HttpClient>());
+        const auto deadline = std::chrono::steady_clock::now() + 5s;
+        const SoapResponse response =
+            client.call(addressOf(server), SoapRequest("tds:GetDeviceInformation"), deadline);
+        QVERIFY(response.error == sdk::NetError::WrongPassword);
+        QCOMPARE(server.requests().size(), 1);
+        QVERIFY(!server.requests().constFirst().contains("Authorization"));
+    }
+
     void aRefusedPasswordIsNotSentAgain()
     {
         const RawServer server([](const RawExchange &exchange) { respondAs(DigestRefusing, exchange); });
