@@ -41,9 +41,10 @@ LoginOutcome DeviceLogins::check(const SceneDevice &device, const DeviceManner &
     const std::optional<DigestResponse> response = readDigestResponse(authorization);
     if (!response)
         return {};
-    const bool isOffered = response->algorithm == "sha-256"
-                               ? manner.offersSha256 || device.hasFault(Fault::Sha256Last)
-                               : manner.offersMd5;
+    const bool isMd5 = response->algorithm.isEmpty() || response->algorithm == "md5";
+    const bool isSha256 = response->algorithm == "sha-256";
+    const bool isOffered = (isSha256 && (manner.offersSha256 || device.hasFault(Fault::Sha256Last))) ||
+                           (isMd5 && manner.offersMd5);
     const DigestNonces::State nonce = m_nonces.check(response->nonce, device.mac, now);
     if (nonce != DigestNonces::State::Good || !isOffered) {
         // No password was tried: the client gets another challenge.

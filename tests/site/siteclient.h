@@ -102,6 +102,7 @@ struct Login
     Kind kind = Kind::None;
     QString password;
     int minutesOff = 0; ///< by which the client's clock is ahead of the real time; for a token
+    QByteArray algorithmSuffix = {}; ///< added to the name of the digest algorithm
 };
 
 /// The hash of a text in hexadecimal digits, by "SHA-256" or, for any other algorithm, by MD5.
@@ -115,7 +116,7 @@ inline QByteArray hashed(const QByteArray &text, const QByteArray &algorithm)
 /// The header line Authorization, with CRLF, for a Digest of the user "admin": the response to the first
 /// challenge of `refusal`, a response with status 401.
 inline QByteArray digestHeader(const Response &refusal, const QString &password, const QByteArray &method,
-                               const QByteArray &uri)
+                               const QByteArray &uri, const QByteArray &suffix = {})
 {
     const QByteArray challenge = refusal.fields("WWW-Authenticate").value(0);
     const auto parameter = [&challenge](const char *name) {
@@ -135,8 +136,8 @@ inline QByteArray digestHeader(const Response &refusal, const QString &password,
         hashed(who + ':' + parameter("nonce") + ":00000001:client:auth:" + what, algorithm);
     return "Authorization: Digest username=\"admin\", realm=\"" + parameter("realm") + "\", nonce=\"" +
            parameter("nonce") + "\", uri=\"" + uri +
-           "\", qop=auth, nc=00000001, cnonce=\"client\", algorithm=" + algorithm + ", response=\"" + proof +
-           "\"\r\n";
+           "\", qop=auth, nc=00000001, cnonce=\"client\", algorithm=" + algorithm + suffix + ", response=\"" +
+           proof + "\"\r\n";
 }
 
 /// The SOAP header with the user name token of a login.
@@ -176,7 +177,8 @@ inline Response ask(const QString &address, const QByteArray &operation, const L
     const Response response = exchange(address, port, request({}));
     if (login.kind != Login::Kind::Digest || response.status != 401)
         return response;
-    return exchange(address, port, request(digestHeader(response, login.password, "POST", path)));
+    return exchange(address, port,
+                    request(digestHeader(response, login.password, "POST", path, login.algorithmSuffix)));
 }
 
 /// The XML element of an operation of the device service; `content` are its child elements.

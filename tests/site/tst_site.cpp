@@ -167,6 +167,10 @@ void TestSite::accountLocksAcrossServices()
     const QByteArray media = mediaOperation("GetProfiles");
     // Prefixes depend on the make: this one declares none.
     QVERIFY(!ask(address, deviceOperation("GetHostname")).body.contains("tds:"));
+    // An algorithm that was not offered proves no password, neither a right nor a wrong one.
+    const Login unknown = {Login::Kind::Digest, u"Right-5"_s, 0, "-sess"};
+    for (int login = 0; login < 3; ++login)
+        QVERIFY(ask(address, media, unknown, "media2").status != 200);
     QStringList outcomes;
     for (const Login &login : {right, wrong})
         outcomes << ask(address, deviceOperation("GetUsers"), login).outcome();
