@@ -42,8 +42,10 @@ bool DemoNetLibrary::responds(const CallGate::Call &call, const QString &mac, bo
             return m_error.fail(NetError::ConnectFailed);
         return waitForResponse(stop.get_token(), *device, wait) || m_error.fail(NetError::ConnectTimeout);
     }
-    const bool isFullWait = waitUnlessStopped(bounded(wait), stop.get_token());
-    return m_error.fail(isFullWait ? NetError::ConnectTimeout : NetError::NetworkFailure);
+    if (waitUnlessStopped(bounded(wait), stop.get_token()))
+        return m_error.fail(NetError::ConnectTimeout);
+    // Without a connection nothing was sent.
+    return m_error.fail(CallStop::isRequested() ? NetError::Cancelled : NetError::NetworkFailure);
 }
 
 bool DemoNetLibrary::NetInitDeviceAccount(const InitDeviceAccountInput &input, DeviceRequestOutput &output,
