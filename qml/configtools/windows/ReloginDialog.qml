@@ -70,6 +70,7 @@ OVDialog {
     objectName: "reloginDialog"
     title: qsTr("重新登录")
     onOpened: (accountField.text === "" ? accountField : passwordField).forceActiveFocus()
+    onClosed: finish("", "")  // the owner has closed it; the password is kept no longer than needed
     onRejected: finish("", "")
     onAccepted: {
         if (!check()) {
@@ -78,11 +79,13 @@ OVDialog {
         }
         const account = accountField.text;
         const password = passwordField.text;
+        waiting = false;  // responded() follows below, after the dialog has closed
+        passwordField.text = "";
         close();
         if (followingBox.checked || keepBox.checked)
             LoginMemory.setPendingAccount(ipport, account, password, followingBox.checked, keepBox.checked, deviceFactory);
         const kept = deviceFactory.updataDeviceInfo("dh", "password", password, mac, ipport);
-        finish(kept ? account : "", kept ? password : "");
+        responded(kept ? account : "", kept ? password : "");
     }
 
     Column {

@@ -270,6 +270,23 @@ private Q_SLOTS:
         QCOMPARE(passwordOf(m_other), "secret1");
     }
 
+    /// The next question would otherwise be taken for the earlier one, and the password would stay in the
+    /// field.
+    void aClosedLoginDialogForgetsThePassword()
+    {
+        listWithWrongPassword();
+        QObject *details = detailsOf(m_recorder);
+        QVERIFY(QMetaObject::invokeMethod(details, "ask"));
+        QVERIFY(!choiceInDialog().isEmpty());
+        const QQuickItem *field = dialogItem("devicePasswordField");
+        dialogItem("devicePasswordField")->setProperty("text", "typed7");
+        const auto *dialog = m_window->findChild<QObject *>("reloginDialog");
+        QVERIFY(dialog->property("waiting").toBool());
+        QVERIFY(QMetaObject::invokeMethod(details, "close"));
+        QTRY_VERIFY(!dialog->property("waiting").toBool());
+        QCOMPARE(field->property("text").toString(), QString());
+    }
+
     /// An account is stored for its device after the device has accepted it.
     void anAcceptedAccountIsStored()
     {
