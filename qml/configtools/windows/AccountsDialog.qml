@@ -60,7 +60,8 @@ OVDialog {
     /// that the first device uses, unless that was edited since.
     function use() {
         const name = current.name ?? "";
-        if (refused !== "" && table.currentIndex === accounts.rowOfDevice(devices[0]) && (name === "" || name !== edited)) {
+        const isRefused = refused !== "" && devices.some(device => accounts.rowOfDevice(device) === table.currentIndex);
+        if (isRefused && (name === "" || name !== edited)) {
             refuse(qsTr("设备已拒绝此账号，请选择或添加另一个账号"));
             return;
         }

@@ -29,6 +29,8 @@ const char *const scene = "    width: 1280; height: 720; visible: true\n"
                           "    QtObject { id: store; function keepNew(devices, keeping) { return ''; } }\n"
                           "    OVFailedOperation { y: 100; devices: deviceTable }\n"
                           "    AccountKeeper { id: keeper; objectName: 'keeper'; batches: works }\n"
+                          "    AccountsDialog { id: dialog; accounts: deviceAccounts }\n"
+                          "    function chooseOther(devices) { dialog.chooseOther(devices, 'admin'); }\n"
                           "    Component.onCompleted: LoginMemory.accounts = store\n"
                           "    function keepAccounts() { LoginMemory.accounts = deviceAccounts; }\n"
                           "    function keepNew() {\n"
@@ -229,6 +231,21 @@ private Q_SLOTS:
         QCOMPARE(m_batches->kept().size(), 2);
         QCOMPARE(notices.size(), 1);
         QVERIFY(notices.first().first().toString().contains(QStringLiteral("3 台设备使用账号“Hall”")));
+    }
+
+    void noRefusedAccountIsSelectedAgain()
+    {
+        m_site->rows->add({.address = "10.0.0.4", .mac = numberedMac(4), .type = "IPC"});
+        const QString other = "10.0.0.4:37777";
+        QCOMPARE(m_accounts->put("", "Hall", "root", "new"), QString());
+        QCOMPARE(m_accounts->select({other}, "Hall"), QString());
+        const QVariantList refusing = {"10.0.0.1:37777", other};
+        QVERIFY(QMetaObject::invokeMethod(m_window.get(), "chooseOther", Q_ARG(QVariant, refusing)));
+        QTRY_VERIFY(find("accountsTable"));
+        find("accountsTable")->setProperty("currentIndex", 1); // the account of the second device
+        press("okButton");
+        QVERIFY(find("dialogNotice"));
+        QCOMPARE(m_accounts->rowOfDevice("10.0.0.1:37777"), 0);
     }
 
     /// The choice of an operation follows the model when operations come and go.
