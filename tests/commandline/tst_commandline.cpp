@@ -356,7 +356,7 @@ private Q_SLOTS:
         QFETCH(const bool, isInterrupted);
         QByteArray lines = "添加模式,IP地址/域名/注册ID/设备序列号,设备端口,用户名,密码,设备名称\n"
                            "IpAddress,192.168.1.1,37777,admin,secret1,\n";
-        for (int number = 1; number <= 4; ++number) {
+        for (int number = 1; number <= 10; ++number) {
             for (const char *wrong : {"wrong7", "wrong8"})
                 lines += "IpAddress,192.168.1." + QByteArray::number(number % 2 + 2) + ",37777,user" +
                          QByteArray::number(number) + ',' + wrong + ",\n";
@@ -371,7 +371,10 @@ private Q_SLOTS:
         // An import has results nevertheless.
         const Outcome imported = run({"import", list, "--format", "json"});
         QCOMPARE(imported.exitCode, int(SomeFailed));
-        QVERIFY(fieldsOf(imported.results, "result").contains("not done"));
+        const QStringList results = fieldsOf(imported.results, "result");
+        QCOMPARE(results.size(), 21);
+        if (!isInterrupted) // the devices may respond before the interruption
+            QVERIFY(results.contains("not done"));
     }
 
     void aListThatCannotStartIsReported()
