@@ -223,7 +223,7 @@ private Q_SLOTS:
     /// The results of the previous batch are still on their way when another page starts a batch.
     void aRefusedFetchKeepsEarlierResults()
     {
-        devices().addDevice(20, "gate", {});
+        devices().addDevice(20, "gate", {.result = 2});
         bool isRefused = false;
         connect(m_gallery.get(), &ImageGallery::batchChanged, this, [&] {
             if (m_gallery->batch())
@@ -241,7 +241,7 @@ private Q_SLOTS:
         m_gallery->show(m_site->rows());
         QTRY_VERIFY(isRefused);
         QTRY_VERIFY(!m_batches->isRunning());
-        QCOMPARE(cells(), QStringList("gate: taken"));
+        QTRY_COMPARE(cells(), QStringList(QStringLiteral("gate: failed 密码错误")));
     }
 
     void furtherDevicesAreOmitted()
