@@ -163,11 +163,11 @@ int readDeviceList(CommandContext &context, const QString &path, Batch *&batch)
         refusal = reason;
         loop.quit();
     });
+    // Emitted instead of the two signals above if the batch cannot start.
     QObject::connect(&context.batches, &Batches::refused, &loop, [&](const QString &reason) {
         refusal = reason;
         loop.quit();
     });
-    adding.importList(u"import"_s, path);
     adding.importList(u"import"_s, path, passphrase);
     loop.exec();
     if (!batch)

@@ -26,16 +26,16 @@ struct DeviceChoice
 // The functions below that return an exit code return AllDone on success. Otherwise they write the reason to
 // standard error and return the stated code; the command ends with it.
 
-/// Fills the device list by a search ("--range" adds a range of addresses), or by the list file of "--list"
-/// with readDeviceList(). Waits for the end. Returns UsageError for an invalid "--range", NothingDone after a
-/// search that the user interrupted, or the code of readDeviceList(). Runs the event loop.
+/// Fills the device list by a search, or by the list file of "--list" with readDeviceList(). Waits for the
+/// end. Returns UsageError for an invalid "--range", NothingDone after an interrupted search or a stopped
+/// list, or the code of readDeviceList(). Runs the event loop.
 [[nodiscard]] int fillDeviceList(CommandContext &context);
 
 /// Logs in to the devices of the list file `path` with the accounts of its lines. The devices that accept the
-/// account get rows in the device list. `batch` must be null; it is set to the ended batch with the result of
-/// each line, which Batches owns. Returns AllDone also if devices refused their account, and if the batch was
-/// stopped. Returns NothingDone if the file cannot be read or is refused; `batch` is null then. Runs the
-/// event loop.
+/// account get rows in the device list. Sets `batch` to the ended batch, which has the results; Batches owns
+/// it. Returns AllDone also if devices refused their account, and SomeFailed if the batch was stopped, see
+/// awaitBatch(). Returns NothingDone if the list is refused or the batch cannot start; `batch` is unchanged
+/// then. Runs the event loop.
 [[nodiscard]] int readDeviceList(CommandContext &context, const QString &path, Batch *&batch);
 
 /// The rows of the device list that "--devices" (by default "all") names and "--filter" accepts. If a file of
@@ -47,10 +47,9 @@ struct DeviceChoice
 /// identities. An address may name several rows. A row that "--filter" does not accept counts as missing.
 [[nodiscard]] DeviceChoice devicesNamed(const CommandContext &context, const QStringList &names);
 
-/// Fills the device list with fillDeviceList(), then sets `choice` with chooseDevices(). Returns UsageError
-/// without "--devices" or with an invalid one, before the search; the code of fillDeviceList(); or
-/// NothingDone if no device is found. If only some devices are found, returns AllDone, and `choice` has the
-/// missing names. Runs the event loop.
+/// Sets `choice` as chooseDevices() does, after fillDeviceList(). Returns UsageError without "--devices" or
+/// with an invalid one, before the search; the code of fillDeviceList(); or NothingDone if no device is
+/// found. If only some devices are found, returns AllDone, and `choice` has the missing names.
 [[nodiscard]] int findDevices(CommandContext &context, DeviceChoice &choice);
 
 /// Sets the account for logins to devices without a stored account: the user name of "--user" (default

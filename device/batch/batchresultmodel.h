@@ -22,7 +22,7 @@ public:
     enum State
     {
         Failed,  ///< a result that belongs to no other state
-        NotDone, ///< the batch has ended; the step of the device was not run or was ended early
+        NotDone, ///< the step ended without having done its work, or the batch ended before the device's turn
         Skipped, ///< no request was sent because of the device's state
         Waiting, ///< the first step of the work has succeeded; the user must start a further one
         Succeeded,

@@ -65,8 +65,7 @@ inline constexpr QLatin1StringView curStreamType("curStreamType");
 inline constexpr QLatin1StringView offeredStreamTypes("offeredStreamTypes"); ///< int: number of main streams
 // An item is the int of its EncodeItemIndex, plus itemsOfStream for the sub stream.
 
-/// List of int: items that the device accepted in the last write, and after confirmConfigData() also those
-/// that it does not have. Empty after a read.
+/// List of int: items that the device accepted in the last write. Empty after a read.
 inline constexpr QLatin1StringView takenItems("takenItems");
 inline constexpr QLatin1StringView unreadIndexes("unreadIndexes"); ///< list of int: items that were not read
 inline constexpr QLatin1StringView unreadItems("unreadItems");     ///< list of strings: names of these items

@@ -101,7 +101,7 @@ struct Login
     };
     Kind kind = Kind::None;
     QString password;
-    int minutesOff = 0; ///< by which the client's clock is ahead of the real time; for a token
+    int minutesOff = 0;              ///< by which the client's clock is ahead of the real time; for a token
     QByteArray algorithmSuffix = {}; ///< added to the name of the digest algorithm
 };
 
@@ -114,7 +114,7 @@ inline QByteArray hashed(const QByteArray &text, const QByteArray &algorithm)
 }
 
 /// The header line Authorization, with CRLF, for a Digest of the user "admin": the response to the first
-/// challenge of `refusal`, a response with status 401.
+/// challenge of `refusal`, a response with status 401. `suffix` is added to the name of the algorithm.
 inline QByteArray digestHeader(const Response &refusal, const QString &password, const QByteArray &method,
                                const QByteArray &uri, const QByteArray &suffix = {})
 {

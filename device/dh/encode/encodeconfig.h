@@ -34,9 +34,8 @@ public:
     /// A value by key, see EncodeValues::value(); sends no request. Additional keys:
     ///
     ///  - "takenItems": indexes of the items that are not unsaved any more. After confirm(): those that the
-    ///    device accepted, and those that it does not have. After setValue(): the item that was written
-    ///    immediately and accepted, if any, and only if the channel of the image page is that of the encode
-    ///    page. Empty after read().
+    ///    device accepted. After setValue(): the item that was written immediately and accepted, if any.
+    ///    Empty after read().
     ///  - "unreadItems" and "unreadIndexes": names and indexes of the items that the device has but that
     ///    were not read
     ///

@@ -7,9 +7,8 @@ OVDialog {
     id: root
 
     required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
-    /// Emitted once for each ask(): on OK with the typed account, otherwise with two empty texts: the user has
-    /// cancelled, the device has no row any more, or another ask() followed. If the owner closes the dialog, it is
-    /// emitted by the next ask().
+    /// Emitted once for each ask(). Two empty texts: the dialog was cancelled or closed, the device has no row any more,
+    /// or another ask() followed.
     signal responded(string account, string password)
 
     property string mac  // of the row, "" if unknown

@@ -16,7 +16,7 @@ struct AxRecord
     QStringList calls;
     QHash<QString, QVariant> responses; ///< values of properties by "path.name"; others are invalid
     bool isInstalled = true;            ///< false: the application cannot be started
-    QString refused; ///< name of a property that cannot be set; empty for none
+    QString refused;                    ///< name of a property that cannot be set; empty for none
     int alive = 0;                      ///< number of existing objects
 
     /// The only object of the process. A test resets it.
