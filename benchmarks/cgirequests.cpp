@@ -16,7 +16,8 @@ const QString user = QStringLiteral("admin");
 const QString password = QStringLiteral("secret1");
 
 /// Runs one process of the peer, which sends the same requests: each twice, with Digest.
-void runPeer(const QString &url)
+/// Returns false if the program cannot be started.
+bool runPeer(const QString &url)
 {
     QProcess peer;
     QStringList arguments = {QStringLiteral("--silent"), QStringLiteral("--noproxy"),
@@ -26,7 +27,7 @@ void runPeer(const QString &url)
         arguments.append({QStringLiteral("--output"), QStringLiteral("/dev/null"), url});
     peer.start(QStringLiteral("curl"), arguments);
     constexpr int patience = 60000;
-    peer.waitForFinished(patience);
+    return peer.waitForStarted(patience) && peer.waitForFinished(patience);
 }
 
 } // namespace
@@ -64,6 +65,7 @@ BenchmarkResult measureCgiRequests()
     QLoggingCategory::setFilterRules({});
     if (failed > 0)
         result.subject += QStringLiteral(" (%1 failed)").arg(failed);
-    result.peer = medianMilliseconds(runs, [&] { runPeer(url); });
+    if (runPeer(url))
+        result.peer = medianMilliseconds(runs, [&] { runPeer(url); });
     return result;
 }

@@ -9,8 +9,8 @@
 #include <span>
 
 /// Opens and plays a port of a separate decoder library, with a buffer of 8 MiB for bytes that are not
-/// decoded yet. The destructor frees the port. push() and waitFor() are used on one thread; frames are
-/// decoded on another one.
+/// decoded yet. The destructor frees the port. One thread calls push(), the same or another one waitFor();
+/// frames are decoded and counted on a thread of the port.
 class DecodingPort
 {
 public:
@@ -19,7 +19,8 @@ public:
     DecodingPort(const DecodingPort &) = delete;
     DecodingPort &operator=(const DecodingPort &) = delete;
 
-    /// Adds the next bytes of the stream, less than the buffer. Blocks while the port's buffer is full.
+    /// Adds the next bytes of the stream, not more than the buffer. Blocks while the port's buffer is full,
+    /// and without end if the port could not be opened.
     void push(std::span<const std::uint8_t> bytes);
 
     /// Blocks until at least `frames` frames were decoded since the construction, up to two minutes. Returns

@@ -11,8 +11,8 @@
 /// Opens web pages of devices in the browser of the desktop. The browser does not know the keys that the user
 /// has accepted, and the user enters the password there: so the key of a device is checked first, with the
 /// certificate handler of the transport. The check is a GET of the page on a thread of the global pool. It
-/// sends no account; a device that requests Digest gets an empty user name. The user is not asked about a
-/// refused key. Lives on the main thread.
+/// sends no account, and does not respond to a request for authentication: an empty user name would count as
+/// a failed login on the device. The user is not asked about a refused key. Lives on the main thread.
 class WebPages : public QObject
 {
     Q_OBJECT

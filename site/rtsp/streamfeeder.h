@@ -23,9 +23,10 @@ class KeyFrames;
 /// Generates the video and the sound of one stream on a separate thread and pushes them to a pipeline. It
 /// starts with the frames that the pipeline needs for the description of the stream (SDP). The others follow
 /// at the times of the site's clock from the next KeyFrames::request() for the stream on, as when a client
-/// plays. It ends the stream of the pipeline when the device goes offline, is reset or changes the codec or
-/// the sound of the stream, and when the stream cannot be encoded. Other changes of the settings apply to the
-/// next frame. Used by one thread at a time.
+/// plays. It ends the stream of the pipeline when the device goes offline, is reset, drops the stream or
+/// changes the codec or the sound of the stream, when the stream cannot be encoded, and when the pipeline
+/// refuses data. It does not check the device before the first request. Other changes of the settings apply
+/// to the next frame. Used by one thread at a time.
 class StreamFeeder
 {
 public:
@@ -37,8 +38,9 @@ public:
         sdk::demo::StreamSettings settings; ///< with which the pipeline was created
         GstAppSrc *video = nullptr;         ///< takes a reference
         GstAppSrc *sound = nullptr;         ///< null for a stream without sound; takes a reference
-        /// Called on the feeder's thread when the device drops the stream (Fault::DropsStreamAfter). Not
-        /// empty.
+        /// Called on the feeder's thread when the device drops the stream (Fault::DropsStreamAfter). After
+        /// the call the feeder feeds nothing more and ends the stream of the pipeline. Must not call stop()
+        /// or delete the feeder. Not empty.
         std::function<void()> dropped;
     };
 

@@ -8,6 +8,7 @@ using namespace Qt::StringLiterals;
 
 void walkSiteReport(Driver &driver, const QString &folder)
 {
+    driver.activate();
     driver.key(Qt::Key_R, Qt::ControlModifier);
     driver.await(u"the dialog for the report is open"_s,
                  [&] { return driver.find(u"reportSiteField"_s) != nullptr; });
