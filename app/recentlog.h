@@ -24,7 +24,9 @@ public:
     /// that a line that another thread is adding may be incomplete.
     void writeTo(int descriptor) const;
 
-    /// The message without the values of passwords: in "password=...", "password": "..." and "//user:...@".
+    /// The message with "***" in place of passwords: of the value after "=" or ":" and a name that ends in
+    /// password, passwd, pass, pwd or secret (in any case), and of the password in "//user:password@". An
+    /// unquoted value ends at a space, "&", ",", ";" or a quotation mark.
     [[nodiscard]] static QString withoutPasswords(QStringView message);
 
 private:

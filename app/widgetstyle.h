@@ -2,6 +2,6 @@
 
 #include <QString>
 
-/// The Qt style sheet for all widgets of the application, OMessageBox and OPressButton, with the colours of
-/// the light or (if `dark`) dark theme of QML.
+/// The Qt style sheet for the only widgets of the application, OMessageBox and OPressButton, with the colours
+/// of the light or (if `dark`) dark theme of QML.
 [[nodiscard]] QString widgetStyle(bool dark);

@@ -34,10 +34,10 @@ public:
     /// are sent in their order. When the results are in the file, ended() is emitted with a message for the
     /// user, and the workbook is released.
     ///
-    /// Returns the batch, which QML does not own. Returns null without a workbook, while a workbook runs or is
-    /// read, and after Batches::refused() if the batch was not
-    /// started. Also returns null if the file has been changed since it was read: then the workbook is
-    /// released, and ended() is emitted with the reason during this call.
+    /// Returns the batch, which QML does not own. Returns null without a workbook, while a workbook runs or
+    /// is read, and after Batches::refused() if the batch was not started. Also returns null if the file has
+    /// been changed since it was read: then the workbook is released, and ended() is emitted with the reason
+    /// during this call.
     Q_INVOKABLE Batch *run(const QString &title, const QStringList &lines);
 
 Q_SIGNALS:

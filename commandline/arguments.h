@@ -60,11 +60,11 @@ struct Arguments
     }
 
     /// Splits `arguments`, those after the name of `command`. A value is given as "--name value", if it does
-    /// not start with "-", or as "--name=value"; an option may also start with one "-", and "-h" is "--help".
-    /// "-" alone, and everything after "--", is an operand. An option that the command does not accept is an
-    /// error, and so is a wrong number of operands, except with "--help". Values are not checked. An error
-    /// never quotes a value, which may be a password in the wrong place. With an error, the other members are
-    /// incomplete.
+    /// not start with "-" or is "-" alone, or as "--name=value"; an option may also start with one "-", and
+    /// "-h" is "--help". "-" where no value is expected, and everything after "--", is an operand. An option
+    /// that the command does not accept is an error, and so is a wrong number of operands, except with
+    /// "--help". Values are not checked. An error never quotes a value, which may be a password in the wrong
+    /// place. With an error, the other members are incomplete.
     [[nodiscard]] static Arguments parse(const Command &command, const QStringList &arguments);
 };
 

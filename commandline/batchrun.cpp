@@ -21,7 +21,8 @@ QStringList resultColumns(const QStringList &furtherColumns)
 /// The address of a device, or its name without one.
 QString shownAddress(const BatchDevice &device)
 {
-    return device.ipport.isEmpty() ? device.name : device.ipport;
+    const bool hasAddress = !device.ipport.isEmpty() && !device.ipport.startsWith(u':');
+    return hasAddress ? device.ipport : device.name;
 }
 
 } // namespace

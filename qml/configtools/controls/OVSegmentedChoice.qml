@@ -30,7 +30,7 @@ Rectangle {
         while (options[next] && !(options[next].enabled ?? true))
             next += by;
         if (!options[next]) {
-            event.accepted = KeyGroups.stepPlainly(choices.itemAt(stop), event, by);
+            event.accepted = currentIndex >= 0 && KeyGroups.stepPlainly(choices.itemAt(stop), event, by);
             return;
         }
         activated(next);
