@@ -105,6 +105,7 @@ int runCommand(const QStringList &arguments)
         terminal.writeError(u"Try \"%1 help %2\"."_s.arg(program, name));
         return commandline::UsageError;
     }
+    CrashReport::install(ApplicationFolders::current().crashReports());
     // English for scripts, independent of the language of the window.
     QTranslator translator;
     if (loadTranslation(translator, ApplicationFolders::current().program() + u"/language/en_US.qm"_s))

@@ -10,7 +10,7 @@ class CrashReports : public QObject
     Q_PROPERTY(int count READ count NOTIFY changed)
 public:
     static constexpr int maximumReports = 5;
-    static constexpr qint64 maximumBytes = 256 * 1024; ///< of a report that is read
+    static constexpr qint64 maximumBytes = qint64{256} * 1024; ///< of a report that is read
 
     /// Lists the reports in `folder` and deletes all but the latest maximumReports. The folder need not
     /// exist.

@@ -33,7 +33,8 @@ namespace {
 QString siteFileOf(const QString &scene)
 {
     QString name = QFileInfo(scene.isEmpty() ? QStringLiteral("office") : scene).completeBaseName().left(60);
-    name.replace(QRegularExpression(QStringLiteral("[^A-Za-z0-9]+")), QStringLiteral("-"));
+    static const QRegularExpression others(QStringLiteral("[^A-Za-z0-9]+"));
+    name.replace(others, QStringLiteral("-"));
     return QStringLiteral("site-demo-") + name;
 }
 

@@ -37,9 +37,18 @@ void RecentLog::writeTo(int descriptor) const
 
 QString RecentLog::withoutPasswords(QStringView message)
 {
+    // Responses of devices have passwords under any name.
+    static const QRegularExpression response(u"(Response Body: ).+"_s,
+                                             QRegularExpression::DotMatchesEverythingOption);
     static const QRegularExpression named(
-        uR"(((?:password|passwd|pass|pwd|secret)["']?\s*[=:]\s*)("(?:[^"\\]|\\.)*"?|'[^']*'?|[^\s&,;"']+))"_s,
+        uR"(((?:pass|pwd|secret)\w*["']?\s*[=:>]\s*)("(?:[^"\\]|\\.)*"?|'[^']*'?|[^\s&<"']+))"_s,
         QRegularExpression::CaseInsensitiveOption);
-    static const QRegularExpression inAddress(u"(//[^/@\\s:]*:)[^/@\\s]+@"_s);
-    return message.toString().replace(named, u"\\1***"_s).replace(inAddress, u"\\1***@"_s);
+    static const QRegularExpression header(u"(Authorization:\\s*\\w+\\s+).+"_s,
+                                           QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression inAddress(u"(//[^/@\\s:]*:)[^/\\s]+@"_s);
+    return message.toString()
+        .replace(response, u"\\1***"_s)
+        .replace(named, u"\\1***"_s)
+        .replace(header, u"\\1***"_s)
+        .replace(inAddress, u"\\1***@"_s);
 }

@@ -24,9 +24,9 @@ public:
     /// that a line that another thread is adding may be incomplete.
     void writeTo(int descriptor) const;
 
-    /// The message with "***" in place of passwords: of the value after "=" or ":" and a name that ends in
-    /// password, passwd, pass, pwd or secret (in any case), and of the password in "//user:password@". An
-    /// unquoted value ends at a space, "&", ",", ";" or a quotation mark.
+    /// The message with "***" in place of secrets: the value after a name that contains pass, pwd or secret
+    /// (in any case) and "=", ":" or ">", up to a space, "&", "<" or a quotation mark; the password in
+    /// "//user:password@"; the content of a header "Authorization" and of a response ("Response Body: ").
     [[nodiscard]] static QString withoutPasswords(QStringView message);
 
 private:

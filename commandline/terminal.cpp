@@ -3,6 +3,7 @@
 #include <QFile>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <utility>
 
@@ -28,6 +29,7 @@ std::unique_ptr<QIODevice> openStream(FILE *stream)
 #ifdef Q_OS_UNIX
 
 constexpr qsizetype longestSecret = 1024;
+constexpr char interruption = '\3'; // the character of Ctrl+C
 
 /// Reads a line of the terminal of the process with the echo switched off.
 std::optional<QString> readHiddenLine(const QString &prompt)
@@ -42,8 +44,10 @@ std::optional<QString> readHiddenLine(const QString &prompt)
         ::close(file);
         return std::nullopt;
     }
+    // Ctrl+C ends the line instead of the process, which would leave the echo switched off.
     termios hidden = shown;
-    hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+    hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO | ISIG);
+    hidden.c_cc[VEOL] = interruption;
     if (tcsetattr(file, TCSAFLUSH, &hidden) != 0)
         return std::nullopt;
     terminal.write(prompt.toLocal8Bit());
@@ -52,11 +56,15 @@ std::optional<QString> readHiddenLine(const QString &prompt)
     bool isComplete = false;
     while (!isComplete && ::read(file, &character, 1) == 1) {
         isComplete = character == '\n';
+        if (character == interruption)
+            break;
         if (!isComplete && line.size() < longestSecret)
             line.append(character);
     }
     tcsetattr(file, TCSAFLUSH, &shown);
     terminal.write("\n");
+    if (character == interruption)
+        std::raise(SIGINT);
     return isComplete ? std::optional(QString::fromLocal8Bit(line)) : std::nullopt;
 }
 

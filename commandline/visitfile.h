@@ -15,10 +15,11 @@ public:
 
     explicit VisitFile(const QString &path) : m_path(path) {}
 
-    /// Reads the changes; a missing file has none. Returns false if the file cannot be read or is not such a
-    /// file, see error().
+    /// Reads the changes; a missing file has none. An incomplete line after the first one is skipped. Returns
+    /// false if the file cannot be read or is not such a file, see error().
     [[nodiscard]] bool read();
-    /// Whether changes can be appended, see error() if not. Creates a missing file.
+    /// Whether changes can be appended, see error() if not: the file cannot be written, or is not such a
+    /// file. Creates a missing file.
     [[nodiscard]] bool isWritable();
     /// Appends changes. Returns false on failure, see error(); the earlier changes are kept.
     [[nodiscard]] bool append(const QList<VisitChange> &changes);

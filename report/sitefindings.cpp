@@ -8,6 +8,8 @@
 
 namespace {
 
+constexpr qsizetype mostOthers = 5; // devices that a finding about a shared address names
+
 bool isAccountRefused(int result)
 {
     switch (static_cast<LoginResult>(result)) {
@@ -99,8 +101,13 @@ QList<Finding> siteFindings(const QList<ReportDevice> &devices)
             add(FindingKind::NotInitialised, {});
         QStringList others;
         for (const qsizetype other : byAddress.value(device.ipport)) {
-            if (other != index)
-                others.append(ReportTexts::deviceName(devices.at(other)));
+            if (other == index)
+                continue;
+            if (others.size() == mostOthers) {
+                others.append(QStringLiteral("…"));
+                break;
+            }
+            others.append(ReportTexts::deviceName(devices.at(other)));
         }
         if (!others.isEmpty() && !device.isLost)
             add(FindingKind::DuplicateAddress, others.join(QStringLiteral(", ")));

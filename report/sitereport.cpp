@@ -26,6 +26,7 @@
 namespace {
 
 constexpr qsizetype longestStem = 80;
+constexpr qsizetype mostStemBytes = 180; // file systems limit names to 255 bytes
 constexpr int imageQuality = 80;
 
 /// The name of the files of a report without their suffix.
@@ -38,8 +39,10 @@ QString fileStem(const QString &site, const QDateTime &time)
     }
     while (name.startsWith(u'.'))
         name.remove(0, 1);
+    while (!name.isEmpty() && (name.toUtf8().size() > mostStemBytes || name.back().isHighSurrogate()))
+        name.chop(1);
     return QStringLiteral("%1-%2").arg(name.isEmpty() ? QStringLiteral("site") : name,
-                                       time.toString(QStringLiteral("yyyyMMdd-HHmm")));
+                                       time.toString(QStringLiteral("yyyyMMdd-HHmmss")));
 }
 
 /// Scales a large image file down in place. On failure the file is unchanged.
@@ -69,11 +72,10 @@ public:
         QHash<int, QString> channelNames;
     };
 
-    [[nodiscard]] QString folderOf(const QString &device)
+    [[nodiscard]] QString newFolder()
     {
         const std::lock_guard lock(m_mutex);
-        return m_folder.filePath(QString::number(++m_folders)) + QLatin1String("-") +
-               QString::number(qHash(device) % 1000);
+        return m_folder.filePath(QString::number(++m_folders));
     }
     [[nodiscard]] bool isValid() const { return m_folder.isValid(); }
 
@@ -185,7 +187,7 @@ DeviceStep SiteReport::stepOf(const BatchDevice &device) const
          }});
     const DeviceStep images = backEnd.imageStep(
         {.ipport = device.ipport,
-         .folder = collection->folderOf(name),
+         .folder = collection->newFolder(),
          .mostChannels = mostImages,
          .found =
              [collection, name](const QVariantList &channels, int channelCount) {

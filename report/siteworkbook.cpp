@@ -23,13 +23,14 @@ constexpr int largestImageCount = 1000; // of a workbook
 /// A text as libxlsxwriter expects it: it does not escape the sequences that the format reads as characters.
 QByteArray cellText(const QString &text)
 {
-    static const QRegularExpression escaped(QStringLiteral("_(x[0-9A-Fa-f]{4}_)"));
+    static const QRegularExpression escaped(QStringLiteral("_(?=x[0-9A-Fa-f]{4}_)"));
     QString plain = text.left(longestCellText);
     for (QChar &character : plain) {
-        if (character.unicode() < 0x20 && character != u'\n')
+        // XML cannot contain the two last characters of the plane.
+        if ((character.unicode() < 0x20 && character != u'\n') || character.unicode() >= 0xFFFE)
             character = u' ';
     }
-    return plain.replace(escaped, QStringLiteral("_x005F_\\1")).toUtf8();
+    return plain.replace(escaped, QStringLiteral("_x005F_")).left(longestCellText).toUtf8();
 }
 
 /// Writes the cells of one sheet, row by row.

@@ -507,7 +507,7 @@ void Batches::addStepBefore(BatchPlan &plan) const
     plan.stepOf = [stepOf = plan.stepOf, before = m_stepBefore, work = plan.work,
                    usesRowAccount = static_cast<bool>(plan.accountOf)](const BatchDevice &device) {
         const DeviceStep first = before(work, usesRowAccount, device);
-        const DeviceStep step = stepOf(device);
+        DeviceStep step = stepOf(device);
         if (!first || !step)
             return step;
         return DeviceStep([first, step](const StepControl &control) {

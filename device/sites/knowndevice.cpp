@@ -24,7 +24,7 @@ QString keyOf(const QString &mac, const QString &name, bool isIPv6)
 
 QString KnownDevice::key() const
 {
-    return keyOf(mac, identity, isIPv6);
+    return keyOf(mac, identity.isEmpty() ? mac : identity, isIPv6);
 }
 
 QJsonObject KnownDevice::row(Presence presence) const

@@ -345,17 +345,20 @@ QString KnownDevices::startNew()
 /// Stores the current site on the writing thread.
 void KnownDevices::store()
 {
-    m_recent.setModified(m_isModified);
-    if (m_isUnopened || (m_site.devices.isEmpty() && !QFileInfo::exists(currentFile())))
+    if (m_isUnopened) // its state is kept as well
         return;
-    m_writers.start(
-        [this, site = m_site, path = currentFile(), isDamaged = std::exchange(m_isDamaged, false)] {
-            QString failure = isDamaged ? setDamagedFileAside(path) : QString();
-            if (failure.isEmpty())
-                failure = replaceFile(path, SiteFile::text(site));
-            QMetaObject::invokeMethod(
-                this, [this, failure] { takeResult(failure); }, Qt::QueuedConnection);
-        });
+    m_recent.setModified(m_isModified);
+    if (m_site.devices.isEmpty() && !QFileInfo::exists(currentFile()))
+        return;
+    m_writers.start([this, site = m_site, path = currentFile()] {
+        QString failure = m_isDamaged ? setDamagedFileAside(path) : QString();
+        if (failure.isEmpty()) {
+            m_isDamaged = false;
+            failure = replaceFile(path, SiteFile::text(site));
+        }
+        QMetaObject::invokeMethod(
+            this, [this, failure] { takeResult(failure); }, Qt::QueuedConnection);
+    });
 }
 
 void KnownDevices::takeResult(const QString &failure)

@@ -154,7 +154,8 @@ private:
     bool m_isComplete = false; ///< the last search has ended without being stopped
     bool m_isModified = false; ///< since the site was opened or saved
     bool m_isUnopened = false; ///< the file exists but cannot be opened: it is not replaced
-    bool m_isDamaged = false;  ///< the file is renamed before it is replaced
+    bool m_isDamaged =
+        false; ///< the file is renamed before it is replaced; of the writing thread after read()
     QString m_problem;
     QThreadPool m_writers; ///< one thread
 };

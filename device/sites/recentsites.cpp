@@ -16,7 +16,7 @@ namespace {
 const QString pathsKey = QStringLiteral("paths");
 const QString currentKey = QStringLiteral("current");
 const QString modifiedKey = QStringLiteral("modified");
-constexpr qint64 largestPathsFile = 1024 * 1024; ///< bytes
+constexpr qint64 largestPathsFile = qint64{1024} * 1024; ///< bytes
 
 } // namespace
 

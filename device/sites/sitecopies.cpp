@@ -14,7 +14,10 @@ SiteCopies::Copy SiteCopies::keep(const Site &site, const QString &title) const
     QString name = title.left(longestTitle) + QLatin1Char(' ') +
                    QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH.mm.ss.zzz"));
     name.replace(QLatin1Char('/'), QLatin1Char('-'));
-    const QString path = folder.filePath(name + QLatin1Char('.') + SiteFile::suffix);
+    // A file ".name" is hidden, and ":name" is a path of a resource.
+    if (name.startsWith(QLatin1Char('.')) || name.startsWith(QLatin1Char(':')))
+        name.front() = QLatin1Char('_');
+    const QString path = m_folder + QLatin1Char('/') + name + QLatin1Char('.') + SiteFile::suffix;
     const QString failure = replaceFile(path, SiteFile::text(site));
     if (failure.isEmpty())
         removeOld();

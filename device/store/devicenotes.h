@@ -63,7 +63,7 @@ public:
 
     /// Adds notes to devices that have none, in one write. Each note belongs to the device of its row.
     /// Devices without MAC and UUID, and notes beyond the limits, are left out. Returns as setNote().
-    [[nodiscard]] QString addMissing(const QList<std::pair<QJsonObject, QString>> &notes);
+    [[nodiscard]] QString addMissing(const QList<std::pair<QJsonObject, QString>> &added);
 
 Q_SIGNALS:
     /// A note was stored or removed, or setNote() has tried again to read a file that could not be opened

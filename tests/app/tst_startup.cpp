@@ -139,7 +139,7 @@ private Q_SLOTS:
         const QString completion = QString::fromUtf8(fileContents(PACKAGING_DIRECTORY "/completion.bash"));
         const QRegularExpression options("\n +" + command + "\\) options='([^']*)' ;;\n");
         QCOMPARE(optionsIn(options.match(completion).captured(1)), expected);
-        const QRegularExpression commands("local commands='([^']*)'");
+        static const QRegularExpression commands("local commands='([^']*)'");
         QVERIFY(commands.match(completion).captured(1).split(u' ').contains(command));
     }
 

@@ -1,4 +1,5 @@
 #include "commandline/commands.h"
+#include "commandline/visitfile.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/configsite.h"
 
@@ -445,6 +446,23 @@ private Q_SLOTS:
         QTEST(numbersOf("NetStartUpgrade"), "upgraded");
         if (arguments.isEmpty())
             QCOMPARE(fieldsOf(outcome.results, "result"), QStringList({"done", "failed"}));
+    }
+
+    /// A command that is killed may leave an incomplete line.
+    void anIncompleteLineOfAVisitIsSkipped()
+    {
+        const QString path =
+            file("{\"time\":\"2026-01-02T03:04:05\",\"value\":\"a\"}\n{\"time\":\"2026-01", "visit.txt");
+        commandline::VisitFile visit(path);
+        QVERIFY2(visit.isWritable(), qPrintable(visit.error()));
+        VisitChange change;
+        change.time = QDateTime::currentDateTime();
+        QVERIFY(visit.append({change, change}));
+        commandline::VisitFile later(path);
+        QVERIFY2(later.read(), qPrintable(later.error()));
+        QCOMPARE(later.changes().size(), 3);
+        for (const QString &other : {file("192.168.1.1,80\n", "list.csv"), m_folder.path()})
+            QVERIFY(!commandline::VisitFile(other).isWritable());
     }
 
     void refusedAccountsEndTheWork()

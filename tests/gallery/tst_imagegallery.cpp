@@ -224,8 +224,8 @@ private Q_SLOTS:
     void aRefusedFetchKeepsEarlierResults()
     {
         devices().addDevice(20, "gate", {.result = 2});
-        bool isRefused = false;
-        connect(m_gallery.get(), &ImageGallery::batchChanged, this, [&] {
+        const auto isRefused = std::make_shared<bool>(false);
+        connect(m_gallery.get(), &ImageGallery::batchChanged, this, [this, isRefused] {
             if (m_gallery->batch())
                 return;
             QVERIFY(m_batches->start({.family = "dh",
@@ -236,10 +236,10 @@ private Q_SLOTS:
                                               return StepOutcome();
                                           };
                                       }}));
-            isRefused = !m_gallery->fetchAll();
+            *isRefused = !m_gallery->fetchAll();
         });
         m_gallery->show(m_site->rows());
-        QTRY_VERIFY(isRefused);
+        QTRY_VERIFY(*isRefused);
         QTRY_VERIFY(!m_batches->isRunning());
         QTRY_COMPARE(cells(), QStringList(QStringLiteral("gate: failed 密码错误")));
     }

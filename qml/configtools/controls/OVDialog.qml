@@ -112,6 +112,7 @@ T.Popup {
     modal: true
 
     T.Overlay.modal: Rectangle {
+        objectName: "dialogDim"  // FileDrop finds an open dialog by it
         color: Theme.colours.scrim
         Behavior on opacity { NumberAnimation { duration: Theme.quick } }
     }

@@ -117,7 +117,7 @@ T.ApplicationWindow {
         otherBatch: window.batches.running && !gallery.batch ? window.batches.current.title : ""
         onAgainRequested: window.fetchAll()
         onFolderRequested: {
-            if (!Qt.openUrlExternally("file:///" + window.folder)) {
+            if (!Qt.openUrlExternally("file:///" + window.folder.split("/").map(encodeURIComponent).join("/"))) {
                 outcomeIsBad = true;
                 outcome = qsTr("无法打开文件夹：%1").arg(window.folder);
             }

@@ -11,13 +11,14 @@ DropArea {
     signal siteDropped(string path)
     signal notify(string message, int severity)  // severity: of OVToast
 
-    /// Whether a modal dialog has the keyboard focus.
+    /// Whether a modal dialog is open. The window is inactive during a drag, so that no item has the keyboard focus.
     function hasDialog() {
-        const overlay = T.Overlay.overlay;
-        let item = Window.activeFocusItem;
-        while (item && item !== overlay)
-            item = item.parent;
-        return overlay !== null && item === overlay;
+        const items = T.Overlay.overlay?.children ?? [];
+        for (let index = 0; index < items.length; ++index) {
+            if (items[index].objectName === "dialogDim" && items[index].visible)
+                return true;
+        }
+        return false;
     }
 
     /// Requests what the dropped files are for, or notifies why they are refused.

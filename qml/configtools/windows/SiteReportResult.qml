@@ -18,7 +18,7 @@ OVDialog {
 
     /// Opens a file or folder with the desktop; reports a failure.
     function openPath(path) {
-        if (!Qt.openUrlExternally("file:///" + path.replace(/^\//, "")))
+        if (!Qt.openUrlExternally("file:///" + path.replace(/^\//, "").split("/").map(encodeURIComponent).join("/")))
             inform(qsTr("无法打开 %1").arg(path), OVToast.Error);
     }
 

@@ -290,7 +290,8 @@ private Q_SLOTS:
     void aFileKeepsEveryValue()
     {
         Site site = {.name = "现场 \"1\"", .devices = {}};
-        for (int number = 0; number < 3; ++number) {
+        constexpr int devices = 5; // the last two: IPv6 devices that are named by their MACs
+        for (int number = 0; number < devices; ++number) {
             site.devices.append({.identity = number == 1 ? "uuid:7" : "",
                                  .mac = number == 1 ? QString() : QString::number(number),
                                  .ipport = "10.0.0.1:80",
@@ -303,16 +304,32 @@ private Q_SLOTS:
                                  .note = "note",
                                  .httpPort = 65535,
                                  .isInitialised = number != 2,
-                                 .isIPv6 = number == 1,
+                                 .isIPv6 = number == 1 || number > 2,
                                  .lastSeen = QDateTime::fromSecsSinceEpoch(1'700'000'000, Qt::UTC)});
         }
         const SiteFile::Contents contents = SiteFile::read(SiteFile::text(site));
         QCOMPARE(contents.refusal, "");
         QCOMPARE(contents.site.name, site.name);
-        QCOMPARE(contents.site.devices.size(), 3);
-        for (int number = 0; number < 3; ++number) {
+        QCOMPARE(contents.site.devices.size(), devices);
+        for (int number = 0; number < devices; ++number) {
             QVERIFY(contents.site.devices.at(number).isSameAs(site.devices.at(number)));
             QCOMPARE(contents.site.devices.at(number).lastSeen, site.devices.at(number).lastSeen);
+        }
+    }
+
+    /// A name that begins with ":" or "." would be a path of a resource or a hidden file.
+    void copiesAreInTheirFolder()
+    {
+        openDevices({east});
+        start();
+        searchKnown();
+        for (const QString name : {":yard", ".yard"}) {
+            QCOMPARE(m_known->saveAs(m_folder->path() + '/' + name + ".site"), "");
+            QCOMPARE(m_known->setGroup({QVariantMap{{"mac", east}}}, name, false), "");
+            QCOMPARE(m_known->open(m_folder->path() + '/' + name + ".site"), "");
+            const QString copy = m_known->recentSites().at(1).toMap().value("path").toString();
+            QVERIFY2(copy.startsWith(m_folder->path()) && !QFileInfo(copy).isHidden(), qPrintable(copy));
+            QCOMPARE(SiteFile::readFile(copy).site.devices.size(), 1);
         }
     }
 

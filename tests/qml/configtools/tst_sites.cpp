@@ -158,8 +158,15 @@ private Q_SLOTS:
         QVERIFY(writeFile(m_folder.filePath("a.csv"), "x"));
         QMetaObject::invokeMethod(object("files"), "startExport");
         QTRY_VERIFY(object("exportDialog")->property("opened").toBool());
+        QWindow files; // as a drag begins: the window of the file manager is active
+        files.show();
+        files.requestActivate();
+        QTRY_VERIFY(!m_window->isActive());
         drop({QUrl::fromLocalFile(m_folder.filePath("a.csv"))});
         QVERIFY(object("fileDrop")->property("taken").toString().contains("请先关闭对话框"));
+        files.close();
+        m_window->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
         QTest::keyClick(m_window.get(), Qt::Key_Escape);
         QTRY_VERIFY(!object("exportDialog")->property("visible").toBool());
     }
