@@ -28,7 +28,7 @@ _configtools() {
     _configtools_options "$command"
     case $previous in
         --demo) words='office factory faulty fleet:' ;;
-        --passphrase-file --format) options='table json csv' ;;
+        --format) options='table json csv' ;;
         --list | --password-file | --passphrase-file | --map | --file | --document | --workbook | --output | --visit)
             compopt -o filenames
             mapfile -t COMPREPLY < <(compgen -f -- "$current")

@@ -143,6 +143,14 @@ private Q_SLOTS:
         QVERIFY(commands.match(completion).captured(1).split(u' ').contains(command));
     }
 
+    void theCompletionIsAValidScript()
+    {
+        QProcess shell;
+        shell.start("bash", {"-n", PACKAGING_DIRECTORY "/completion.bash"});
+        QVERIFY(shell.waitForFinished());
+        QVERIFY2(shell.exitCode() == 0, shell.readAllStandardError().constData());
+    }
+
     void aSecondInstanceShowsAMessageAndEndsWith0()
     {
         const QTemporaryDir directory;
