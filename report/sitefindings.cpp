@@ -10,7 +10,8 @@ namespace {
 
 constexpr qsizetype mostOthers = 5; // devices that a finding about a shared address names
 
-bool isAccountRefused(int result)
+/// Whether the device has refused the login, also because the account has a session already.
+bool isLoginRefused(int result)
 {
     switch (static_cast<LoginResult>(result)) {
     case LoginResult::NoSuchAccount:
@@ -113,7 +114,7 @@ QList<Finding> siteFindings(const QList<ReportDevice> &devices)
             add(FindingKind::DuplicateAddress, others.join(QStringLiteral(", ")));
         const int result = device.outcome.result;
         if (device.isInitialised && isFailure(result))
-            add(isAccountRefused(result) ? FindingKind::LoginRefused : FindingKind::NotReached,
+            add(isLoginRefused(result) ? FindingKind::LoginRefused : FindingKind::NotReached,
                 ReportTexts::outcome(device.outcome));
         if (device.isRead && device.inspection.clockOffset &&
             std::abs(*device.inspection.clockOffset) > clockTolerance)
