@@ -10,7 +10,7 @@ class CrashReports : public QObject
     Q_PROPERTY(int count READ count NOTIFY changed)
 public:
     static constexpr int maximumReports = 5;
-    static constexpr qint64 maximumBytes = qint64{256} * 1024; ///< of a report that is read
+    static constexpr qint64 maximumBytes = qint64{256} * 1024; ///< of a report in text(); the rest is cut
 
     /// Lists the reports in `folder` and deletes all but the latest maximumReports. The folder need not
     /// exist.
@@ -22,11 +22,12 @@ public:
     /// replaced by the reason.
     Q_INVOKABLE [[nodiscard]] QString text() const;
 
-    /// Deletes the listed reports. A report that cannot be deleted is listed again at the next start.
+    /// Deletes the listed reports; the list is empty then. A report that cannot be deleted is listed again at
+    /// the next start.
     Q_INVOKABLE void remove();
 
 Q_SIGNALS:
-    void changed();
+    void changed(); ///< remove() was called
 
 private:
     QStringList m_paths; ///< the latest first

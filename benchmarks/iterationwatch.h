@@ -3,8 +3,9 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
-/// Measures how long the event loop of the main thread is blocked, from start() to stop(): a timer of 5 ms
-/// expires late if work blocks the loop. Used once. Main thread only.
+/// Measures how long the event loop of the main thread is blocked: from start() to stop(), a timer of 5 ms
+/// runs, which expires late if work blocks the loop. Work before the first or after the last expiration is
+/// not measured. Used once. Main thread only.
 class IterationWatch
 {
 public:

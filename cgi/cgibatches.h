@@ -5,8 +5,8 @@
 class LongResponses;
 
 /// Batches of commands to devices over HTTP, for QML: one command is sent to several devices of the back end
-/// "dh", to each with the account of its row. The responses are written to the rows. workbooks() sends the
-/// commands of workbooks.
+/// "dh", to each with the account of CDeviceFactory::accountOf(). The responses are written to the rows.
+/// workbooks() sends the commands of workbooks.
 ///
 /// Lives on the main thread.
 class CgiBatches : public QObject

@@ -28,6 +28,7 @@ struct CommandContext;
 [[nodiscard]] int runImport(CommandContext &context);
 /// "upgrade": upgrades the firmware of devices.
 [[nodiscard]] int runUpgrade(CommandContext &context);
+/// "report": writes the site report.
 [[nodiscard]] int runReport(CommandContext &context);
 
 } // namespace commandline

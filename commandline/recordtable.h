@@ -20,7 +20,8 @@ enum class RecordFormat
 /// The format with the name "table", "json" or "csv"; nullopt for another name.
 [[nodiscard]] std::optional<RecordFormat> recordFormat(QStringView name);
 
-/// Records with the same columns. Values are texts, numbers, bool, or invalid for an empty value.
+/// Records with the same columns. Values are texts, numbers, bool, or invalid for an empty field (null in
+/// JSON).
 class RecordTable
 {
 public:

@@ -1,4 +1,5 @@
-// Settings of the subject "system" of the command "set": time, time server, video standard, reboot and name.
+// Settings of the subject "system" of the command "set": time, time server, video standard, automatic reboot
+// and name.
 #pragma once
 
 #include "commandline/settings.h"
@@ -19,8 +20,8 @@ struct SystemPlan
 
     /// The name of channel 1 of cameras, with placeholders such as "{n}" for a number; empty: not changed.
     QString name;
-    QList<Step> steps; ///< one batch each, in this order: time, time server, video standard, reboot
-    QString error;     ///< describes the first invalid value in English; empty on success
+    QList<Step> steps; ///< one batch each: time, time server, video standard, automatic reboot, in this order
+    QString error;     ///< describes one invalid value in English; empty on success
 };
 
 /// The work for these assignments, whose names are those of systemSettings(). Settings of one command become

@@ -62,7 +62,9 @@ public:
         ImageRole,                 ///< "image": URL of the file, of the older one during a repetition
         MessageRole,               ///< "message": reason of a missing image, in the user's language
         TimeRole,                  ///< "takenAt": local "HH:mm:ss"; empty without an image
-        NoteRole, ///< "note": number of omitted channels, in the user's language; last cell of a device only
+        /// "note": in the last cell of a device with omitted channels, a text with its number of channels and of
+        /// cells, in the user's language; otherwise empty.
+        NoteRole,
     };
 
     explicit ImageGallery(QObject *parent = nullptr);

@@ -10,12 +10,13 @@ class ResponsePaths
 {
 public:
     /// Returns `path` at the first call with this path, then "<name>_2.<suffix>", "<name>_3.<suffix>" and so
-    /// on. `path` has a suffix. Existing files are not checked: only the paths of this object differ. The
-    /// last 100 paths are remembered.
+    /// on. `path` has a suffix. Existing files are not checked: only the paths of this object differ. The 100
+    /// last paths in alphabetical order are remembered, which are the newest, since a name begins with the
+    /// time.
     [[nodiscard]] QString own(const QString &path);
 
 private:
     std::mutex m_mutex;
     QMap<QString, int>
-        m_counts; ///< of the last paths; the names begin with the time, the oldest is the first
+        m_counts; ///< number of calls by remembered path; the first path is the oldest
 };

@@ -67,7 +67,7 @@ public:
     [[nodiscard]] QString messagesOf(const QString &identity) const;
 
 Q_SIGNALS:
-    void changed();
+    void changed(); ///< marks were added, replaced or removed
 
 private:
     struct Failure

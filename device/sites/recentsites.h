@@ -5,7 +5,8 @@
 #include <QStringList>
 
 /// Remembers the paths of site files, and the path and state of the current one, in a JSON file. An
-/// unreadable file counts as empty: it only has paths. Lives on the main thread.
+/// unreadable file counts as empty, since a loss of the paths does no harm. Each change of a value is written
+/// to the file before the call returns. Lives on the main thread.
 class RecentSites
 {
 public:
@@ -24,7 +25,7 @@ public:
     /// Puts `path` at the front of the list, and drops the last one beyond `most`.
     void add(const QString &path);
     void remove(const QString &path);
-    void setCurrent(const QString &path); ///< empty for none
+    void setCurrent(const QString &path); ///< empty for none; paths() and isModified() do not change
     void setModified(bool isModified);
 
 private:

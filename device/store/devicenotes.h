@@ -61,8 +61,9 @@ public:
     /// is written. A note that is equal to the earlier one is not written.
     Q_INVOKABLE [[nodiscard]] QString setNote(const QVariantMap &row, const QString &note);
 
-    /// Adds notes to devices that have none, in one write. Each note belongs to the device of its row.
-    /// Devices without MAC and UUID, and notes beyond the limits, are left out. Returns as setNote().
+    /// Adds notes to devices that have none, in one write. Each note belongs to the device of its row. A
+    /// longer note is cut to longestNote(). Devices without MAC and UUID, and notes beyond mostNotes, are
+    /// left out. Returns as setNote(), but does not try again to read a file that could not be opened.
     [[nodiscard]] QString addMissing(const QList<std::pair<QJsonObject, QString>> &added);
 
 Q_SIGNALS:

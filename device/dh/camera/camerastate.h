@@ -78,9 +78,10 @@ enum class CameraReading
 CameraReading readVideoColor(const ConfigSession &session, int channel, CameraState &state);
 
 /// Reads the capabilities, the configurations that belong to them and the channel name; items and mode are
-/// unchanged. Refused: the device does not report its capabilities; no group is supported then. A refused
-/// configuration or name is marked as unknown, and the result is Done. NoResponse: `state` contains the
-/// responses received before; capabilities that were not received are empty.
+/// unchanged. Refused: the device does not report its capabilities; no group is supported then, and the
+/// earlier configurations and name stay. A refused configuration or name is marked as unknown, and the result
+/// is Done. NoResponse: `state` contains the responses received before; capabilities that were not received
+/// are empty.
 [[nodiscard]] CameraReading readCameraCapabilities(const ConfigSession &session, int channel,
                                                    CameraState &state);
 

@@ -32,7 +32,8 @@ public:
     /// The number of columns of the headers; 0 before they are found.
     [[nodiscard]] qsizetype width() const { return m_columns.size(); }
 
-    /// Whether the column at this index is used; true for all before the headers are found.
+    /// Whether the column at this index is used. Also true before the headers are found, and for an index
+    /// from width().
     [[nodiscard]] bool isRead(qsizetype index) const { return m_columns.value(index, 0) >= 0; }
 
 private:

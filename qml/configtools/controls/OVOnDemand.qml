@@ -1,6 +1,6 @@
-// Creates its component on first use: many runs never show a page or dialog. A page is created when this loader becomes
-// visible. The loader of a dialog has `visible: false`, and instance() creates the dialog. The object remains until the
-// loader is destroyed. `item` is null before the first use.
+// Creates its component on first use: many runs never show a page or dialog. The owner sets `visible: false`. A page is
+// created when its layout makes the loader visible, a dialog by instance(). The object remains until the loader is
+// destroyed. `item` is null before the first use.
 import QtQuick
 
 Loader {

@@ -16,7 +16,8 @@ Item {
     required property string image  // URL of the file, of the older image while another one is fetched; "" for none
     required property string message  // reason of Failed or Skipped; without meaning in other states
     required property string takenAt  // local time of the image as "HH:mm:ss"; "" for none
-    required property string note  // number of channels that are not shown, in the last cell of a device; "" for none
+    /// States that not all channels of the device are shown, in its last cell only; "" if all are shown.
+    required property string note
     property bool current: false  // the current cell of the view
     property bool canFetch: true  // the button that fetches the image again is enabled
     readonly property bool skipped: stage === ImageGallery.Skipped

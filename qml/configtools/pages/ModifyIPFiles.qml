@@ -1,5 +1,5 @@
-// Exports the ticked devices to a list file (.xlsx, .csv or .xml), and imports devices from such a file in a batch that
-// logs in to each device and adds its row.
+// Exports the ticked devices to a list file (.xlsx, .csv, .xml or encrypted .devlist), and imports devices from such a
+// file in a batch that logs in to each device and adds its row.
 import QtQuick
 import configtools
 

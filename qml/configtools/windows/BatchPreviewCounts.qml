@@ -1,5 +1,5 @@
 // Numbers of devices of a planned batch: all ticked ones, those to be processed, those with warnings, and skipped ones,
-// which get no request.
+// which get no request. The owner sets `height`.
 import QtQuick
 import configtools
 

@@ -1,5 +1,5 @@
-// Asks for the passphrase of an encrypted device list that is imported. The owner reads `path` and `passphrase` on
-// accepted().
+// Asks for the passphrase of an encrypted device list that is imported. On accepted(), the owner reads `path` and
+// `passphrase`, then closes the dialog.
 import QtQuick
 import configtools
 

@@ -1,5 +1,5 @@
 // The bit rate of a stream in kbit/s: a choice of fixed rates, whose last entry is "custom" with a field for a number.
-// It writes nothing.
+// It writes nothing. The owner sets `width`.
 import QtQuick
 import configtools
 
