@@ -62,8 +62,8 @@ public:
         ImageRole,                 ///< "image": URL of the file, of the older one during a repetition
         MessageRole,               ///< "message": reason of a missing image, in the user's language
         TimeRole,                  ///< "takenAt": local "HH:mm:ss"; empty without an image
-        /// "note": in the last cell of a device with omitted channels, a text with its number of channels and of
-        /// cells, in the user's language; otherwise empty.
+        /// "note": the numbers of channels and of cells, in the user's language, in the last cell of a device
+        /// with omitted channels; otherwise empty.
         NoteRole,
     };
 

@@ -33,13 +33,14 @@ struct ReportDevice
     bool isInitialised = true;
     bool isLost = false; ///< the last search has not found the device
 
+    /// Of the login and of the requests for values.
     StepOutcome outcome = {.result = resultCode(LoginResult::NotDone), .text = {}};
     bool isRead = false; ///< the login succeeded: `inspection` has the values of the device
     DeviceInspection inspection = {};
 
     QList<ReportImage> images = {}; ///< by channel
     int channelCount = 0;           ///< channels of the device; images are taken of the first ones only
-    QList<BeforeImages::Image> imagesBefore = {};
+    QList<BeforeImages::Image> imagesBefore = {}; ///< from before its first change, by channel
 
     /// The title of the device for the user: its name, or its model without a name.
     [[nodiscard]] const QString &title() const { return name.isEmpty() ? model : name; }
@@ -48,12 +49,12 @@ struct ReportDevice
 enum class FindingKind
 {
     NotInitialised,
-    DuplicateAddress,
+    DuplicateAddress, ///< another device of the report has the same address and port
     LoginRefused,
-    NotReached,
-    ClockOff,
-    OldFirmware,
-    NoTimeServer,
+    NotReached,   ///< any other failure
+    ClockOff,     ///< by more than clockTolerance
+    OldFirmware,  ///< older than that of another device of the same model in the report
+    NoTimeServer, ///< the device does not use a time server
 };
 
 /// A conspicuous state of a device.
@@ -66,7 +67,7 @@ struct Finding
     bool operator==(const Finding &) const = default;
 };
 
-/// A change of a device since the start of the application.
+/// A change of a device since the start of the application, or by an earlier command of the same visit.
 struct VisitChange
 {
     QDateTime time;

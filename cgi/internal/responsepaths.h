@@ -17,6 +17,5 @@ public:
 
 private:
     std::mutex m_mutex;
-    QMap<QString, int>
-        m_counts; ///< number of calls by remembered path; the first path is the oldest
+    QMap<QString, int> m_counts; ///< number of calls by remembered path; the first path is the oldest
 };

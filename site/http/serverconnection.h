@@ -32,8 +32,9 @@ public:
 
     /// Responds on the calling thread, and returns when the connection is over: the client has closed it or
     /// does not keep it, a request is invalid or too long (the client gets an error response), a timeout has
-    /// expired, the service gives no response, or HttpReceiver::stop is requested and shutdown() was called
-    /// for the socket. The caller closes the stream. To be called once.
+    /// expired, the service gives no response or refuses the body, or HttpReceiver::stop is requested and
+    /// shutdown() was called for the socket. It is also over after a response to HEAD, and after one with
+    /// HttpResponse::isBroken or hasNoHead. The caller closes the stream. To be called once.
     void serve();
 
 private:

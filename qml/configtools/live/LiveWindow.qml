@@ -30,8 +30,8 @@ T.ApplicationWindow {
         openDevice(ipport, channel ?? -1);
     }
 
-    /// Logs in to the device as the first one and removes the added ones. If it is open already, only shows the channel;
-    /// if its login runs, only activates the window. Parameters: see open().
+    /// Logs in to the device as the first one and removes the added ones. If it is open already, only shows the
+    /// channel; if its login runs, only activates the window. Parameters: see open().
     function openDevice(ipport, channel) {
         if (visible && device.ipport === ipport && (device.loggedIn || device.busy)) {
             if (channel >= 0 && channel < device.channels.length)

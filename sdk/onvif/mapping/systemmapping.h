@@ -14,8 +14,9 @@ namespace sdk::onvif {
 
 /// The configuration text of a device: "Network", "DVRIP", "Https", "NTP" or "Locales". On failure `error` is
 /// set and the text is empty: NotSupported for any other name, and for "Network" of a device without an
-/// interface. "NTP" has the constant port 123 and period 1440, and the zone 0 (UTC) for an offset without a
-/// number and for an unreadable zone.
+/// interface. The gateway and the host name of "Network" and the server of "NTP" are empty if only their
+/// requests fail. "NTP" has the constant port 123 and period 1440, and the zone 0 (UTC) for an offset without
+/// a number and for an unreadable zone. "Locales" has a constant time format.
 [[nodiscard]] std::string systemConfiguration(OnvifSession &session, std::string_view name,
                                               OnvifSession::Deadline deadline, NetError &error);
 
@@ -24,7 +25,8 @@ namespace sdk::onvif {
 /// those that `text` lacks are read from the device first and sent back. So a clock that does not follow NTP
 /// is set to the time that was just read. "NTP" writes the time server before the clock, and only if NTP is
 /// enabled and `text` has a server; after an error of the clock, the server stays written. The port of the
-/// time server and the period of its requests have no counterpart in the standard and are not sent.
+/// time server, the period of its requests and the time format have no counterpart in the standard and are
+/// not sent. "Locales" without daylight saving removes its rule from the zone of the device.
 [[nodiscard]] NetError setSystemConfiguration(OnvifSession &session, std::string_view name,
                                               std::string_view text, OnvifSession::Deadline deadline);
 
