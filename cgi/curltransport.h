@@ -6,7 +6,7 @@
 #include <mutex>
 
 /// Requests by libcurl, each with a separate easy handle. HTTP and HTTPS only. A failure is also printed to
-/// the standard error.
+/// the standard error. Thread-safe.
 class CurlTransport : public HttpTransport
 {
 public:

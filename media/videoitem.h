@@ -125,7 +125,7 @@ Q_SIGNALS:
     void videoInfoChangedSig(); ///< frameSize() or hasFrame() has changed
     void fillModeChanged();
     void channelIdChanged();
-    void videoErrorSig(); ///< no frame for 8 s since the start, or for 4 s since the last one
+    void videoErrorSig(); ///< no frame for 8 s since the start, or for 4 s since the last one; once each
     void urlChanged();
     void sigVideoDataChanged(); ///< emitted on the decoder's thread: a frame has arrived
     /// Emitted on the decoder's thread, with the audio buffer locked: audio has arrived. A connection must be

@@ -98,8 +98,9 @@ inline constexpr QLatin1StringView gain("gain");       ///< in `missing` only: a
 
 // backMode
 inline constexpr QLatin1StringView allBackModeType("allBackModeType");
-inline constexpr QLatin1StringView backmode("backmode");           ///< index in allBackModeType
-inline constexpr QLatin1StringView backlightmode("backlightmode"); ///< 0 complete image, 1 the region
+inline constexpr QLatin1StringView backmode("backmode"); ///< index in allBackModeType
+/// 0 complete image, 1 the region. In `missing` it stands for backlightRegion as well.
+inline constexpr QLatin1StringView backlightmode("backlightmode");
 inline constexpr QLatin1StringView wideDynamic("WideDynamic");
 inline constexpr QLatin1StringView glareInhibition("GlareInhibition");
 inline constexpr QLatin1StringView backlightRegion("BacklightRegion"); ///< map of the four sides, 0 to 8192

@@ -43,8 +43,8 @@ class SearchReports : public QObject
     /// user's language; also after dismiss(). It states that no device was found during a search and before
     /// the first one.
     Q_PROPERTY(QString summary READ summary NOTIFY changed)
-    /// The IPv4 networks of the host that were searched, "192.168.1.0/24, 10.0.0.0/8"; empty without a
-    /// report.
+    /// The IPv4 networks of the host to which requests can be sent, "192.168.1.0/24, 10.0.0.0/8", also if
+    /// only an address range was searched; empty without a report.
     Q_PROPERTY(QString networks READ networks NOTIFY changed)
     /// The blocks of the report as maps with the keys of SearchReportKey: "title", "lines" and "obstacles".
     /// Empty without a report.

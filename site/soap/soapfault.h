@@ -11,7 +11,8 @@ namespace site {
 /// soap/namespaces.h, and are string literals.
 struct SoapFault
 {
-    bool isSender = true; ///< fault code Sender, with HTTP status 400; otherwise Receiver, with 500
+    bool isSender = true; ///< fault code Sender, with HTTP status 400, or 401 with a challenge; otherwise
+                          ///< Receiver, with 500
     const char *subcode = "ter:InvalidArgVal";
     const char *detail = nullptr; ///< the subcode below `subcode`: "ter:NoProfile"; null for none
     QString reason;               ///< an English sentence

@@ -34,8 +34,8 @@ public:
     /// A value by key, see EncodeValues::value(); sends no request. Additional keys:
     ///
     ///  - "takenItems": indexes of the items that are not unsaved any more. After confirm(): those that the
-    ///    device accepted. After setValue(): the item that was written immediately and accepted, if any.
-    ///    Empty after read().
+    ///    device accepted. After setValue(): the item that was written immediately to the selected channel
+    ///    and accepted, if any. Empty after read().
     ///  - "unreadItems" and "unreadIndexes": names and indexes of the items that the device has but that
     ///    were not read
     ///

@@ -33,7 +33,8 @@ struct RowLoginRequest
 struct RowLoginOutcome
 {
     LoginResult result = LoginResult::Unknown;
-    QJsonObject row; ///< with account and password; empty unless `result` is Success; the store sets "num"
+    /// By DeviceRowKey, with account and password; empty unless `result` is Success. The store sets "num".
+    QJsonObject row;
     std::optional<sdk::SearchResponse> record; ///< response to a directed search of the address; not with P2P
 };
 

@@ -1,14 +1,14 @@
-// Icon of a device with a failed mark: a batch has failed for it or has not reached it. The tool tip has the batches
-// and reasons. Hidden for a device without a mark.
+// Icon of a device with a failed mark (a batch has failed for it or has not reached it), or of one that the last search
+// did not find. The tool tip has the reasons. Hidden for any other device.
 import QtQuick
 import configtools
 
 OVIcon {
     id: root
 
-    required property string failure  // batches and reasons, one for each line; "" without a mark
+    required property string failure  // batches and reasons, one for each line; "" hides the icon
 
-    property bool onlyNotDone: false  // no batch failed, but some did not reach the device: another icon
+    property bool onlyNotDone: false  // no batch has failed for the device: another icon
 
     color: onlyNotDone ? Theme.colours.warn : Theme.colours.bad
     name: onlyNotDone ? "alert" : "error"

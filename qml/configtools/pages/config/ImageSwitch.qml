@@ -1,4 +1,5 @@
-// A row of an image setting that is on or off. A change is written to the device immediately.
+// A row of an image setting that is on or off. A change is written to the device immediately. The row is hidden if the
+// camera does not have the setting.
 import QtQuick
 import configtools
 
