@@ -17,5 +17,6 @@ public:
 
 private:
     std::mutex m_mutex;
-    QMap<QString, int> m_counts; ///< number of calls by remembered path; the first path is the oldest
+    QMap<QString, int>
+        m_counts; ///< of the last paths; the names begin with the time, the oldest is the first
 };

@@ -45,6 +45,6 @@ struct InspectionOrder
     QString ipport; ///< "address:port" of the device
 
     /// Called once on the thread of the step, after a successful login, also if the device stops responding
-    /// during the session: the values are those read before.
+    /// or the step is ended during the session: the values are those read before.
     std::function<void(const DeviceInspection &inspection)> inspected = {};
 };

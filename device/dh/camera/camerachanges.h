@@ -34,11 +34,11 @@ enum class CameraWrite
 [[nodiscard]] bool changesColor(const QString &key);
 
 /// Applies a change to `state` and returns the writes that send it to the device, in their order; sends
-/// nothing. `key` is a CameraKey and `subKey` a CameraSetting; an empty sub-key means "value", the main
-/// value of a group. Keys without sub-keys ignore it. Returns an empty list and leaves `state` unchanged for
-/// an unknown key or sub-key, a group that the camera does not support or that was not read, or an invalid
-/// value. Numbers are clamped to their range, those of sliders to the camera's. A channel name is truncated
-/// to the bytes that a device can store.
+/// nothing. `key` is a CameraKey and `subKey` a CameraSetting, which state the type of `value`; an empty
+/// sub-key means "value", the main value of a group. Keys without sub-keys ignore it. Returns an empty list
+/// and leaves `state` unchanged for an unknown key or sub-key, a group that the camera does not support or
+/// that was not read, or an invalid value. Numbers are clamped to their range, those of sliders to the
+/// camera's. A channel name is truncated to the bytes that a device can store.
 [[nodiscard]] QList<CameraWrite> changeCamera(const QString &key, const QString &subKey,
                                               const QVariant &value, const ValueTables &tables,
                                               CameraState &state);

@@ -29,7 +29,7 @@ struct UpgradeOrder
 struct UpgradeState
 {
     UpgradeTools::Result result = UpgradeTools::Waiting;
-    int percent = 0;  ///< progress of the complete upgrade, 0 to 100
+    int percent = 0;  ///< of the complete upgrade, 0 to 100; decreases if the device requests the file again
     QString text;     ///< in the user's language
     QString version;  ///< reported by the device after the upgrade; empty before and if unknown
     QString versions; ///< old and new version, for the user; only on success
