@@ -17,9 +17,10 @@ namespace commandline {
 /// The help of a command in English: its operands, options and exit codes.
 [[nodiscard]] QString helpOf(const Command &command, const QString &program);
 
-/// Runs a command to its end and returns its ExitCode. `arguments` have no error; an invalid value gives
-/// UsageError. Returns SomeFailed instead if results could not be written completely. The arguments, the
-/// terminal and the surroundings must outlive the call. Main thread; blocks, and runs the event loop.
+/// Runs a command to its end and returns its ExitCode. `arguments` have no error and no "--help"; an invalid
+/// value gives UsageError. Returns SomeFailed instead if results, or the changes for the file of "--visit",
+/// could not be written completely. The arguments, the terminal and the surroundings must outlive the call.
+/// Main thread; blocks, and runs the event loop.
 [[nodiscard]] int run(const Command &command, const Arguments &arguments, Terminal &terminal,
                       const Surroundings &surroundings);
 

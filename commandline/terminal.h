@@ -21,7 +21,8 @@ public:
     using SecretReader = std::function<std::optional<QString>(const QString &prompt)>;
 
     /// Uses the streams of the process. Secrets are read from the terminal of the process (/dev/tty), also if
-    /// standard input is redirected; on Unix only.
+    /// standard input is redirected; on Unix only. Bytes of a secret after 1,024 are dropped. Ctrl+C at the
+    /// prompt gives nullopt and raises SIGINT.
     Terminal();
 
     /// Uses other streams, which must be open and outlive this object. `readSecret` may be empty.

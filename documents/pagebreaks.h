@@ -1,4 +1,4 @@
-// The page breaks of a document.
+// The page breaks of a document, whose page size must be set.
 #pragma once
 
 #include <QtGlobal>

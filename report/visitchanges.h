@@ -12,9 +12,10 @@ class Batch;
 class Batches;
 class CDeviceFactory;
 
-/// Records each successful change of a device: of batches, and of the configuration pages. Also requests the
-/// image of a device before its firmware is upgraded. Repeated writes of one setting, such as those of a
-/// slider, are one change with the last value. Lives on the main thread.
+/// Records each successful change of a device: those of a batch at its end, and those of the configuration
+/// pages. Consecutive writes of one setting of one device, such as those of a slider, are one change with the
+/// last value. With ImagesBefore::Taken, the image of a device is taken before its image settings change and
+/// before its firmware is upgraded. Lives on the main thread.
 class VisitChanges : public QObject
 {
     Q_OBJECT

@@ -36,10 +36,9 @@ public:
                                      std::int64_t utc);
 
     /// Checks the value of the header "Authorization" (may be empty) of a request of that HTTP or RTSP
-    /// method. No password is checked for another scheme than Digest, for MD5 or SHA-256 if challenges() does
-    /// not offer it, and for a nonce that is not valid: the client may try again with a new challenge. Any
-    /// other algorithm counts as a wrong password if MD5 is offered. `now` is the time on the site's clock,
-    /// in ms since 1970.
+    /// method. No password is checked for another scheme than Digest, for an algorithm that challenges() does
+    /// not offer, and for a nonce that is not valid: the client may try again with a new challenge. `now` is
+    /// the time on the site's clock, in ms since 1970.
     [[nodiscard]] LoginOutcome check(const sdk::demo::SceneDevice &device, const DeviceManner &manner,
                                      const QByteArray &authorization, const QByteArray &method,
                                      std::int64_t now);

@@ -5,8 +5,8 @@
 #include <QElapsedTimer>
 
 /// Writes the results of the commands to the rows of their workbook. Saves the workbook's file in finish(),
-/// and in take() if the last save or the construction was more than 30 s ago, so that few results are lost in
-/// a crash. Not thread-safe.
+/// and in take() if the last save or the construction was more than 30 s ago and further results are to come,
+/// so that few results are lost in a crash. Not thread-safe.
 class WorkbookResults
 {
     Q_DECLARE_TR_FUNCTIONS(WorkbookResults)

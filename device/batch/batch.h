@@ -47,9 +47,10 @@ public:
     struct Entry
     {
         BatchDevice device;
+        /// StepOutcome::response is empty here: only BatchPlan::takeOutcomes receives it.
         StepOutcome outcome = {.result = BatchReport::NotDone, .text = {}};
         QDateTime time;        ///< of the outcome; invalid before it, and for a device that was not reached
-        QString account = {};  ///< account of the step; empty if the plan has no accountOf
+        QString account = {};  ///< user name for the step; empty if the plan has no accountOf
         QByteArray login = {}; ///< hash of account and password of the step, compared for a retry
     };
 
@@ -98,7 +99,7 @@ public:
     [[nodiscard]] int failedBefore() const;
 
     /// Estimated remaining seconds. -1 if the batch does not run, in its first two seconds, without progress,
-    /// and when the estimate has passed without further progress.
+    /// and when the estimate has passed without further progress. Also changes with time, without changed().
     [[nodiscard]] int secondsLeft() const;
     /// The results and their numbers by state. Owned by this object.
     [[nodiscard]] BatchReport *report() { return &m_report; }
@@ -112,8 +113,8 @@ public:
     [[nodiscard]] const QList<Entry> &entries() const { return m_entries; }
     [[nodiscard]] const BatchPlan &plan() const { return m_plan; }
 
-    /// Whether a retry of any device may succeed, now or after a change of its account. False after
-    /// releaseSteps() and if the plan cannot be retried.
+    /// Whether a retry of any device, also of the batches that this one retries, may succeed, now or after a
+    /// change of its account. False after releaseSteps() and if the plan cannot be retried.
     [[nodiscard]] bool hasRetryable() const;
 
     /// Releases the step maker of the plan, which may hold a password. The batch cannot be retried

@@ -58,8 +58,9 @@ struct BatchPlan
     QList<BatchDevice> devices = {};
     BatchPolicy policy = {};
 
-    /// Makes the step of a device. Called on the main thread for each device, at the start and at each retry.
-    /// Must not be empty at the start; it is released when the batch cannot be retried any more.
+    /// Makes the step of a device. Called on the main thread for each device that is not being upgraded, at
+    /// the start and at each retry. Must not be empty at the start; it is released when the batch cannot be
+    /// retried any more.
     std::function<DeviceStep(const BatchDevice &device)> stepOf = {};
 
     /// The account that the step of a device uses now. After a refused login, a device is retried only if

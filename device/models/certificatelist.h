@@ -30,7 +30,8 @@ public:
     explicit CertificateList(std::shared_ptr<CertificateStore> store, QObject *parent = nullptr);
     ~CertificateList() override;
 
-    /// Whether a certificate was refused since the last load(). The rows do not contain it then.
+    /// Whether a certificate was refused since the last load(): one that the rows do not contain, or again
+    /// one of the rows. Set by an event of the main thread after the refusal.
     [[nodiscard]] bool hasNewRefusals() const { return m_hasNewRefusals; }
 
     /// Replaces the rows by the certificates that are refused now, and clears hasNewRefusals.

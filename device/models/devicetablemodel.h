@@ -37,7 +37,8 @@ class CDeviceFactory;
 /// the list. The two lists have separate check marks. Functions about checked rows consider shown rows only,
 /// unless they say otherwise.
 ///
-/// Lives on the main thread. A change of a property reads the rows again.
+/// Lives on the main thread. A change of a property reads the rows again, except that of `failedMarks`, which
+/// does so only with `onlyFailed`.
 ///
 /// Qt's TableModel is not used because it reads its rows through JavaScript objects: with 10,000 devices
 /// each refresh would block the window for a quarter of a second, once a second during a search.
@@ -51,7 +52,7 @@ class DeviceTableModel : public QAbstractListModel
     Q_PROPERTY(bool showUninitialised READ showUninitialised WRITE setShowUninitialised NOTIFY filterChanged)
     /// Whether the rows are those of the IPv6 list.
     Q_PROPERTY(bool ipv6 READ ipv6 WRITE setIpv6 NOTIFY filterChanged)
-    /// A text in the values or the note of a shown row; the case is ignored. Empty: all rows.
+    /// A text in the values, the note or the group of a shown row; the case is ignored. Empty: all rows.
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY filterChanged)
     /// The marks and the notes are not owned. Null: no device has one.
     Q_PROPERTY(FailedMarks *failedMarks READ failedMarks WRITE setFailedMarks NOTIFY failedMarksChanged)
@@ -176,7 +177,8 @@ public:
     Q_INVOKABLE [[nodiscard]] QVariantList checkedRowsWith(bool initialised) const;
 
     /// Removes the checked rows from the device list and reads the rows again. A row whose device is being
-    /// upgraded stays. Returns the number of checked rows that stay; 0 without a factory.
+    /// upgraded stays. The removed devices are not shown as absent until the next search. Returns the number
+    /// of checked rows that stay; 0 without a factory.
     Q_INVOKABLE int deleteChecked();
 
     /// The given rows as lines for the clipboard, see DeviceTableRow::text(). Rows out of range are ignored.

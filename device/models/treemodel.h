@@ -113,8 +113,8 @@ public:
     [[nodiscard]] int loggedOutCount() const { return m_loggedOutCount; } ///< without a successful last login
     [[nodiscard]] int failedCount() const { return m_failedCount; }       ///< with a mark
 
-    /// The number of marked devices that did not pass the filter of the last resetItems(); 0 while there is
-    /// a search text.
+    /// The number of marked devices that are not in failedCount(): they did not pass the filter of the last
+    /// resetItems(), or have no address. 0 while there is a search text.
     [[nodiscard]] int failedElsewhereCount() const;
 
     /// The number of devices that passed the filter of the last resetItems() and have no address yet
@@ -143,7 +143,7 @@ public:
     Q_INVOKABLE [[nodiscard]] static QStringList without(const QStringList &devices, const QString &device);
 
     /// Maps of "ipport" and "name" of the checked devices, or of all devices of the tree if none is checked,
-    /// in tree order.
+    /// in tree order. Empty without a factory.
     Q_INVOKABLE [[nodiscard]] QVariantList devicesToWatch() const;
 
     /// The state of the check box for the complete tree.
@@ -151,11 +151,13 @@ public:
     /// Checks or unchecks the devices of the tree. Hidden devices keep their check marks.
     Q_INVOKABLE void setAllChecked(bool checked);
 
-    /// Checks the devices with these identities and unchecks all others, in the tree and hidden.
+    /// Checks the devices with these identities and unchecks all others, in the tree and hidden. A device
+    /// that is not listed yet is checked when it appears in the tree.
     Q_INVOKABLE void setCheckedDevices(const QStringList &identities);
 
     /// Checks the devices of the tree whose rows have the same text under `key` as the device `identity`,
-    /// and unchecks all others, also hidden ones. Does nothing if that device is not listed.
+    /// and unchecks all others, also hidden ones. Does nothing if that device does not pass the filter of the
+    /// last resetItems(), and without a factory.
     Q_INVOKABLE void checkSimilar(const QString &identity, const QString &key);
 
     /// Sets "copyRet" of the devices with this address and port. Does nothing if the tree has none.

@@ -17,7 +17,7 @@
 class BeforeImages
 {
 public:
-    /// Maximum number of images. Later changes have no image from before.
+    /// Maximum number of requested images, successful or not. Later changes have no image from before.
     static constexpr qsizetype maximumImages = 200;
     /// Maximum number of bytes of all files. No further image is requested once they are exceeded.
     static constexpr qint64 maximumBytes = qint64{128} * 1024 * 1024;
@@ -34,7 +34,7 @@ public:
     /// Requests the image of a channel (from 0). Returns the absolute path of the folder for the file
     /// "<channel>.jpg"; the caller must create it. Empty if the image was requested before, successfully or
     /// not: after the first change there is no image from before any more. Also empty if a maximum is
-    /// reached.
+    /// reached, or the temporary folder could not be created.
     [[nodiscard]] QString claim(const QString &device, int channel);
 
     /// The requested image was written to the file `path`.

@@ -218,8 +218,8 @@ public:
     /// user's language; empty if it was not.
     virtual QString importError() { return {}; }
 
-    /// Logs in to the device and out again, and returns a LoginResult. The current session is not affected.
-    /// Any thread; blocks it.
+    /// Logs in to the device and out again, and returns a LoginResult; Upgrading, without a request, during
+    /// an upgrade of the device. The current session is not affected. Any thread; blocks it.
     virtual int checkLogin(const QString & /*ipport*/, const QString & /*account*/,
                            const QString & /*password*/)
     {

@@ -42,8 +42,8 @@ struct P2PSettings
 class P2PPorts
 {
 public:
-    /// Starts the agent, which calls `handler` with its events. Without a library (null), or if the agent
-    /// does not start, every request for a port fails, see faultText().
+    /// Starts the agent, which calls `handler` with its events, on its threads. Without a library (null), or
+    /// if the agent does not start, every request for a port fails, see faultText().
     P2PPorts(std::shared_ptr<sdk::P2PAgentLibrary> library, const P2PSettings &settings,
              sdk::P2PAgentMessageHandler handler);
     ~P2PPorts();

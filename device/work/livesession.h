@@ -40,9 +40,10 @@ public:
     [[nodiscard]] double handleNumber() const { return static_cast<double>(handle()); }
 
     /// Logs in to the device at `ipport` ("address:port"). If there is a session already, it must be with
-    /// this device; it is kept if the device responds in it, and `account` and `password` are not used then.
-    /// If the device no longer accepts its login, no login is made, and ended() reports that. ended()
-    /// follows, unless open() or close() is called before.
+    /// this device. It is kept if the device responds in it, and `account` and `password` are not used then.
+    /// If the device no longer accepts its login, no login is made, and ended() reports that. If the device
+    /// does not respond in it, a new login replaces it. ended() follows, unless open() or close() is called
+    /// before.
     Q_INVOKABLE void open(const QString &ipport, const QString &account, const QString &password);
 
     /// Saves an image of a channel (from 0) to the folder `folder` in the folder of snapshots, see

@@ -31,7 +31,7 @@ struct CameraOptions
 ///
 /// The key of a group returns a map with "support" (bool), "unread" (bool: the camera has the group but it
 /// could not be read), the values by sub-key, the lists ("allExposureType", ...), "ranges" (map of {"min",
-/// "max"} by sub-key of each slider) and "missing" (sub-keys that the camera lacks; only if there are any).
-/// A value that is chosen from a list is an index, -1 if it is not in the list. The values of a group
-/// without "support" have no meaning.
+/// "max"} by sub-key of each slider; only if there are any) and "missing" (sub-keys that the camera lacks;
+/// only if there are any). A value that is chosen from one of the lists is an index, -1 if it is not in the
+/// list; other values are those of the device. The values of a group without "support" have no meaning.
 [[nodiscard]] QVariant cameraValue(const QString &key, const CameraState &state, const ValueTables &tables);

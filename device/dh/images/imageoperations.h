@@ -55,11 +55,16 @@ public:
     [[nodiscard]] static OwnImage takeOwnImage(const sdk::SdkLibraries &libraries, const OwnImageOrder &order,
                                                const StepControl &control);
 
+    /// Saves the image of a channel (from 0) as "<channel>.jpg" in `folder` (absolute path; created if
+    /// missing) with the login `handle`, which must stay open until the return. Makes up to `tries` attempts
+    /// to get a frame, one every 100 ms. Returns the path of the file; empty on failure. Any thread; blocks.
     [[nodiscard]] static QString takeQuickImage(const sdk::SdkLibraries &libraries, qint64 handle,
                                                 int channel, const QString &folder, int tries);
-    /// A step that logs in to the device with its account, saves the images of its channels one after
-    /// another, and logs out. Without a request: NotInitialised for such a device, Upgrading during an
-    /// upgrade. NotDone if it is ended between two channels, otherwise a failure only if no image was taken.
+    /// A step that logs in to the device with the account that it has at this call, saves the images of its
+    /// channels one after another, and logs out. Without a request: NotInitialised for such a device,
+    /// Upgrading during an upgrade, except with ImageOrder::isBeforeUpgrade. NotDone if it is ended between
+    /// two channels, otherwise a failure (that of the first channel) only if no image was taken. The text of
+    /// a success is the number of missing images.
     [[nodiscard]] DeviceStep imageStep(const ImageOrder &order);
 
     /// Cancels the snapshots of takeSnapshots() and waits for their thread. Steps are not affected.

@@ -16,9 +16,10 @@ struct ListedDevice
     std::optional<sdk::SearchResponse> record; ///< nullopt if no search has found the device
 };
 
-/// The line of a device for an export. Values come from the row, which the user sees; the search record
-/// provides what rows do not have. A device without an account in its row gets `usual`, the account that
-/// would be used to log in, if it is initialised; otherwise user name and password are empty.
+/// The line of a device for an export. Type, version, serial number, mask and gateway are those of the search
+/// record, if there is one; the other values come from the row. The address of a device behind a tunnel is
+/// its P2P ID with its own port. A device without an account in its row gets `usual`, the account that would
+/// be used to log in, if it is initialised; otherwise user name and password are empty.
 [[nodiscard]] DeviceListLine listLineOf(const ListedDevice &device, const DeviceAccount &usual);
 
 /// The device type, as devices report it, of a line that was read. Exported lists have other words for some

@@ -14,9 +14,9 @@ class DeviceLogins;
 class DeviceStore;
 
 /// Sends requests to devices that a search has found, using their search records (the stored search
-/// responses, see DeviceStore::record()). Writes the result of each, a LoginResult, to "res" of the row
-/// `mac`. Functions that return a StepOutcome also return it. Lives on the main thread; its steps run on any
-/// thread.
+/// responses, see DeviceStore::record()). `mac` is the name of an IPv4 row, see rowName(). Writes the result
+/// of each request, a LoginResult, to "res" of that row. Functions that return a StepOutcome also return it.
+/// Lives on the main thread; its steps run on any thread.
 class FoundDevices
 {
     Q_DECLARE_TR_FUNCTIONS(FoundDevices)
@@ -39,9 +39,9 @@ public:
     /// Changes the address of a device. The row then has the new address, with DHCP an empty one, even if
     /// the device refuses the request or does not respond: "unconfirmed" of the row is true then. Without a
     /// request, and with an unchanged address, the result is Upgrading during an upgrade and NotInitialised
-    /// for a device that is not initialised. For a device without a search record, no request is sent, and
-    /// the row and the result are as after a success. The texts are ignored with `dhcpON`. Blocks for the
-    /// device.
+    /// for a device that is not initialised. For a device without a search record, and without a network
+    /// library, no request is sent, and the row and the result are as after a success. The texts are ignored
+    /// with `dhcpON`. Blocks for the device.
     void changeAddress(const QString &mac, const QString &newip, const QString &newsubmask,
                        const QString &newgateway, bool dhcpON);
 

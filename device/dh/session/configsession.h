@@ -120,7 +120,8 @@ public:
                filled == sizeof(block);
     }
 
-    /// The library's error of the last failure on this thread; never 0.
+    /// The library's error of the last failure on this thread; NetworkFailure if it has none or there is no
+    /// library, so never 0. A record that cannot be packed, and a block that is not filled, set no error.
     [[nodiscard]] std::uint32_t lastError() const;
 
     /// Whether the last failure on this thread means a lost session (see isSessionLost()) and not a refusal.

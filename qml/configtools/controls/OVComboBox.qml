@@ -1,5 +1,5 @@
-// A combo box without text input. The model is an array of texts or numbers. activated(index), with the index from 0,
-// reports a choice of the user; the mouse wheel does not change the choice.
+// A combo box without text input. The model is an array of texts or numbers. A choice of the user sets `currentIndex`
+// and then emits activated(index), with the index from 0; the mouse wheel does not change the choice.
 import QtQuick
 import QtQuick.Templates as T
 import configtools

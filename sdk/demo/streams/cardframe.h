@@ -13,8 +13,9 @@ namespace sdk::demo {
 class CardFrame
 {
 public:
-    /// A frame with the size, format and colour space of `encoder` (used during the call only), whose content
-    /// is undefined until the complete card is painted. Returns null if there is no memory.
+    /// A frame with the size, format (planar 4:2:0) and colour space of `encoder` (used during the call
+    /// only), whose content is undefined until the complete card is painted. Returns null if there is no
+    /// memory.
     [[nodiscard]] static std::unique_ptr<CardFrame> create(const AVCodecContext &encoder);
 
     /// Replaces a region of the frame, which must be inside the frame. Returns false if it cannot be

@@ -39,7 +39,8 @@ class HttpClient;
 /// before it take too long, its announcement decides. If an announced service has the address that the
 /// announcement came from, the device is reported with the state NotReported. Otherwise it is not reported.
 /// Devices in the networks of this host are inspected first, since devices of foreign networks often cannot
-/// respond. A device is inspected and reported once in the running searches, regardless of their number.
+/// respond. A device is inspected and reported once in the running searches, regardless of their number. A
+/// device that was not reported is inspected again when it announces a service at its own address.
 class DeviceDiscovery
 {
 public:

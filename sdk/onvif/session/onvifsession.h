@@ -34,12 +34,12 @@ public:
     using Deadline = SoapClient::Deadline;
 
     /// Logs in to the device service `service` and reads the properties of the device. `http` sends the
-    /// requests of the session. Blocks until `deadline` at most. `error` is set in either case, to None on
-    /// success; on failure the result is null. SoapResponse and SoapClient state the errors: WrongPassword,
-    /// for instance. NotSupported for a device without an administrator, and for a device that returns
-    /// everything, including its users, without a login: the password cannot be checked there. A device
-    /// that requires no login and has no operation for users accepts any password. A device without media
-    /// services has a session without channels.
+    /// requests of the session; cancel() also cancels it for other users. Blocks until `deadline` at most.
+    /// `error` is set in either case, to None on success; on failure the result is null. SoapResponse and
+    /// SoapClient state the errors: WrongPassword, for instance. NotSupported for a device without an
+    /// administrator, and for a device that returns everything, including its users, without a login: the
+    /// password cannot be checked there. A device that requires no login and has no operation for users
+    /// accepts any password. A device without media services has a session without channels.
     [[nodiscard]] static std::shared_ptr<OnvifSession> open(const ServiceAddress &service,
                                                             const HttpLogin &login,
                                                             const std::shared_ptr<HttpClient> &http,

@@ -58,8 +58,8 @@ struct SoapResponse
 /// repeated. If the password was accepted before, two other causes are excluded first. The clock of the
 /// device may have been set, which invalidates tokens: the clock is read again, and the call is repeated if
 /// the clock differs. The account may lack the right for the operation: the operation that first succeeded
-/// with the password is then repeated. If the device still accepts it, the call fails with Refused, and later
-/// calls send the password.
+/// with the password is then repeated, if it is a reading one without parameters. If the device still accepts
+/// it, the call fails with Refused, and later calls send the password.
 class SoapClient
 {
 public:

@@ -9,7 +9,7 @@ Item {
 
     readonly property BatchReport report: batch?.report ?? none  // numbers of devices by result
     readonly property BatchReport none: BatchReport {}
-    /// Number of devices with a result; devices that were not reached do not count.
+    /// Number of finished devices: Batch.done while the batch runs, afterwards without those that are not done.
     readonly property int done: batch?.running ? batch.done : report.total - report.notDone
     /// Numbers of devices by result, as text.
     readonly property string outcome: {
