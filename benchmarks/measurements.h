@@ -26,7 +26,8 @@ class NumberedStream;
 /// A live stream over RTSP: processor time, and time to the first frame. Compared with ffmpeg.
 [[nodiscard]] QList<BenchmarkResult> measureRtspStream();
 
-/// The time of a search until all 200 devices of a simulated site on real sockets are listed.
+/// The time of a search until all 200 devices of a simulated site on real sockets are listed, compared with
+/// their responses to a probe.
 [[nodiscard]] QList<BenchmarkResult> measureDiscovery();
 
 /// A command to 200 devices in parallel, compared with one after another, and the longest time that it blocks

@@ -132,7 +132,8 @@ struct BatchPlan
 /// The MAC of a device, if its row is named by it; otherwise empty.
 [[nodiscard]] QString macOf(const BatchDevice &device);
 
-/// The result of a device and the text of its outcome as one text, in the user's language.
+/// The result of a device and the text of its outcome as one text, in the user's language. For a skipped
+/// device only the result, with a note that it was skipped.
 [[nodiscard]] QString outcomeText(const StepOutcome &outcome);
 
 /// Whether a retry with the same data and account may succeed. True for LoginResult::NotDone.

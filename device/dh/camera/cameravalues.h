@@ -33,5 +33,6 @@ struct CameraOptions
 /// could not be read), the values by sub-key, the lists ("allExposureType", ...), "ranges" (map of {"min",
 /// "max"} by sub-key of each slider; only if there are any) and "missing" (sub-keys that the camera lacks;
 /// only if there are any). A value that is chosen from one of the lists is an index, -1 if it is not in the
-/// list; other values are those of the device. The values of a group without "support" have no meaning.
+/// list; CameraSetting states the types of the other values. The values of a group without "support" have no
+/// meaning.
 [[nodiscard]] QVariant cameraValue(const QString &key, const CameraState &state, const ValueTables &tables);

@@ -16,10 +16,10 @@ struct RtspAddress
     std::string url;  ///< with account and password: must never reach a log
 };
 
-/// Checks the URL and the account of an order against the rules of RtspOrder (rtsp:// with a numeric address;
-/// an account without special characters and of limited length), and fills `address`. Returns
-/// StreamEnd::BadUrl or BadAccount on an error, otherwise nothing. On an error, `address` is set as far as
-/// the URL could be read.
+/// Checks the URL and the account of an order against the rules of RtspOrder: rtsp:// with a numeric address
+/// and without an account; no control characters; no colon, quotation mark or backslash in the account;
+/// limited lengths. Fills `address`. Returns StreamEnd::BadUrl or BadAccount on an error, otherwise nothing.
+/// On an error, `address` is set as far as the URL could be read.
 [[nodiscard]] std::optional<StreamEnd> readAddress(const RtspOrder &order, RtspAddress &address);
 
 /// True if both strings are the same numeric address, regardless of its spelling and of an interface behind
