@@ -178,7 +178,8 @@ public:
     /// Keeps its position in the order of the operations. Nothing calls it.
     virtual void unusedOperation() {}
     /// Runs a command of SystemCommand on each device. Blocks. signalCDeviceRetToSystemConfig reports the
-    /// result of each. `data` has the keys of SystemDataKey.
+    /// result of each, except for "cancelLogin", and for "modifyPassword" on a device whose login
+    /// "loginCheck" has not kept. `data` has the keys of SystemDataKey.
     virtual void systemConfig(const QString & /*command*/, const QVariantMap & /*data*/,
                               const QStringList & /*ipports*/)
     {
@@ -449,8 +450,9 @@ Q_SIGNALS:
     void signalSnapPictureToFile(int channel, const QString &path, const QString &message);
     /// The same for a snapshot of the kind "againCapture".
     void signalSnapPictureToFileAgain(int channel, const QString &path, const QString &message);
-    /// The tunnel behind a local port to the device with this P2P ID is broken. If `deviceId` is empty, the
-    /// tunnels of all devices are broken, and `localPort` has no meaning.
+    /// The tunnel behind a local port to the device with this P2P ID is broken; emitted only if a row uses
+    /// the port. If `deviceId` is empty, the tunnels of all devices are broken, and `localPort` has no
+    /// meaning.
     void signalCDeviceTunnelBroken(const QString &deviceId, int localPort);
     void signalCDeviceImportProgress(int done, int total); ///< numbers of devices of the list
     /// openSession() has ended. `result` is a LoginResult. `channels` are maps with the keys of ChannelKey;
