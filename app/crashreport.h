@@ -13,9 +13,9 @@ inline constexpr const char *nameFilter = "crash-*.txt";
 /// written. A report has the version, the time, the reason, the thread, its stack and the latest lines of the
 /// log, without passwords. It is readable by the user only.
 ///
-/// Stack overflows are reported for the calling thread only. Messages are forwarded to the previous message
-/// handler. Called once, on the main thread. No effect on systems other than Linux, and in a build with
-/// sanitizers, which have their own reports.
+/// A stack overflow is reported only on the thread that called install(). Messages are forwarded to the
+/// previous message handler. Called once, on the main thread. No effect on systems other than Linux, in a
+/// build with sanitizers, which have their own reports, and if the path of a report exceeds 1023 bytes.
 void install(const QString &folder);
 
 } // namespace CrashReport

@@ -11,19 +11,22 @@
 struct WorkbookCommand
 {
     int row = 0;     ///< in the sheet, from 2; 1 is the row of titles
-    QString command; ///< the text of the cell; if it does not start with "/", `refusal` is set
+    QString command; ///< the text of the cell without spaces at its ends
     QString url;     ///< scheme, address (with a web port, if the cell has one) and command
-    QString ipport;  ///< "address:port" of the login, without the web port
+    QString ipport;  ///< "address:port" of the login, without the web port; the port is not checked
     QString user;
     QString password;
-    QString refusal; ///< reason why it must not be sent, in the user's language; usually empty
+    /// Reason why it must not be sent, in the user's language: the command does not start with "/", or the
+    /// address is empty or has characters that no host has. Empty for a command that can be sent.
+    QString refusal;
 };
 
 /// A workbook of commands, whose results are written to its rows. The first row contains the titles, each
 /// other row a command. The columns are address (also "address:web port"), port of the login, user name,
 /// password, command, scheme (an integer other than 0 for HTTPS, anything else for HTTP) and result.
 ///
-/// Not thread-safe: several threads may use an object only one after another. Operations block.
+/// Not thread-safe: several threads may use an object only one after another. With an engine that drives a
+/// spreadsheet application, only the thread that created it may. Operations block.
 class CommandWorkbook
 {
     Q_DECLARE_TR_FUNCTIONS(CommandWorkbook)

@@ -38,7 +38,7 @@ public:
 
     /// Runs `work` for each row in order. After each device, calls `take` with the outcome and writes the
     /// outcome as progress. After an early end, `work` is not run for the remaining rows; `take` gets an
-    /// outcome with LoginResult::NotDone for each of them. Blocks; processes events between two devices.
+    /// outcome with BatchReport::NotDone for each of them. Blocks; processes events between two devices.
     void run(const QList<QJsonObject> &rows, const std::function<StepOutcome(const QJsonObject &row)> &work,
              const std::function<void(const QJsonObject &row, const StepOutcome &outcome)> &take) const;
 

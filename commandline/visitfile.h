@@ -15,11 +15,12 @@ public:
 
     explicit VisitFile(const QString &path) : m_path(path) {}
 
-    /// Reads the changes; a missing file has none. An incomplete line after the first one is skipped. Returns
-    /// false if the file cannot be read or is not such a file, see error().
+    /// Reads the changes; a missing file has none. A line without a valid time is skipped. Returns false if
+    /// the file cannot be read, is larger than maximumSize, or is not such a file (the first line has no
+    /// valid time), see error(). Called once.
     [[nodiscard]] bool read();
-    /// Whether changes can be appended, see error() if not: the file cannot be written, or is not such a
-    /// file. Creates a missing file.
+    /// Whether changes can be appended, see error() if not: the file cannot be written, or read() would fail.
+    /// Creates a missing file. changes() is empty afterwards.
     [[nodiscard]] bool isWritable();
     /// Appends changes. Returns false on failure, see error(); the earlier changes are kept.
     [[nodiscard]] bool append(const QList<VisitChange> &changes);

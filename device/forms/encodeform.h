@@ -39,7 +39,8 @@ class EncodeForm : public QObject
     ///  - "value", "minimum", "maximum": for a number or switch (0 or 1); an unknown value is below
     ///    "minimum". "bitRate" has choices and a value: set() takes the value, and the last choice means any
     ///    other value.
-    ///  - "usable": whether the value was read and another one can be set
+    ///  - "usable": whether the value was read and another one can be set; without meaning for "videoEnable"
+    ///    of the main stream, whose numbers are 0
     ///
     /// The keys "exists" and "hasAudio" (bool) of the map say whether the device has this stream, and audio
     /// in it. The map is empty before a factory is set.
@@ -96,7 +97,7 @@ public:
 
 Q_SIGNALS:
     void deviceFactoryChanged();
-    void changed();
+    void changed(); ///< at the end of read(), takeSaved() and set(), also if all values are equal
 
 private:
     void fetch(); ///< copies all values of the back end; with m_isReading also to m_read

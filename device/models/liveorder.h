@@ -9,8 +9,8 @@ class CDeviceFactory;
 class DeviceTableModel;
 
 /// The order of the devices in the live window: the chosen devices, or the rows of the table if none was
-/// chosen. A device can be watched if it is initialised and has an address; the others are in the order, but
-/// are skipped. Lives on the main thread.
+/// chosen. A device can be watched if it is in the device list, is initialised and has an address; the others
+/// are in the order, but are skipped. Lives on the main thread.
 class LiveOrder : public QObject
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ class LiveOrder : public QObject
     /// The table that the window was opened from; may be null, then there is no device without chosen ones.
     Q_PROPERTY(DeviceTableModel *table READ table WRITE setTable NOTIFY tableChanged)
     /// The devices that were chosen when the window was opened: maps with "ipport" and "name". A map without
-    /// "state" counts as initialised. Empty: the rows of the table are used.
+    /// "state" counts as initialised, one without "absent" as listed. Empty: the rows of the table are used.
     Q_PROPERTY(QVariantList chosen READ chosen WRITE setChosen NOTIFY chosenChanged)
     /// The number of devices in the order, with those that cannot be watched.
     Q_PROPERTY(int count READ count NOTIFY countChanged)
@@ -39,8 +39,8 @@ public:
     [[nodiscard]] int ticked() const;
 
     /// The index (from 0) of the device with this address and port; -1 if it is not in the order. For the
-    /// rows of the table, also -1 without a factory, and for a row whose name is neither its MAC nor its
-    /// address and port.
+    /// rows of the table also -1 without a factory. If several rows have this address, that of
+    /// CDeviceFactory::getDeviceInfo() is preferred.
     Q_INVOKABLE [[nodiscard]] int positionOf(const QString &ipport) const;
 
     /// Address and port of the nearest device after `ipport` (direction 1) or before it (direction -1) that

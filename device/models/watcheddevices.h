@@ -16,6 +16,7 @@ class WatchedDevices : public QAbstractListModel
 {
     Q_OBJECT
     Q_MOC_INCLUDE("device/registry/devicefactory.h")
+    /// Used by readNames() only.
     Q_PROPERTY(CDeviceFactory *deviceFactory MEMBER m_deviceFactory NOTIFY deviceFactoryChanged)
     /// The channels of all devices, in the order in which the devices were added: maps of "ipport", "channel"
     /// (from 0), "connected", "name" (never empty: without a reported name it is made of the channel number),
@@ -45,7 +46,7 @@ public:
     Q_INVOKABLE void setFirst(const QString &ipport, const QString &name, const QVariantList &channels);
 
     /// Adds the devices (maps of "ipport", "name" and "model") that are neither a row nor the first device,
-    /// up to most() rows. A device without a name gets its model as its name, or its "ipport" if the model
+    /// up to most() rows. `rows` must not contain an "ipport" twice. A device without a name gets its model as its name, or its "ipport" if the model
     /// is empty, too. Returns the index in `channels` of the first channel of each added device; a device
     /// whose channels are not known yet has none.
     Q_INVOKABLE QVariantList add(const QVariantList &rows);

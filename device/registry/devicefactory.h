@@ -409,6 +409,7 @@ Q_SIGNALS:
     /// A search has ended with `rows` rows, the maximum; `leftOut` responses were dropped.
     void signalSearchLimited(int rows, int leftOut);
     void signalSearchProgress(int percent); ///< of the running search, 0 to 100
+    /// An operation of the configuration pages has changed a setting (of WrittenSetting) of a device.
     void signalSettingWritten(const QString &ipport, const QString &setting, int channel,
                               const QString &value);
 

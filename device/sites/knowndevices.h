@@ -25,8 +25,8 @@ class DeviceStore;
 ///
 /// The current site is stored in the folder of the user's data, at the end of each search, after a change by
 /// the user, and in the destructor. A listed device is added at the end of a search, when it gets a group,
-/// and when the site is saved as a file. A device that was added by hand is not expected in other searches.
-/// It stays known until the user removes it from the site. Devices behind NAT are not known, since their
+/// and when the site is saved as a file; until then, a device that was added by hand is not known. A device
+/// stays known until the user removes it from the site. Devices behind NAT are not known, since their
 /// addresses are local ports. Lives on the main thread; the file is written on a separate one.
 class KnownDevices : public QObject
 {
@@ -68,7 +68,8 @@ public:
     [[nodiscard]] const QString &siteName() const { return m_site.name; }
     [[nodiscard]] const QString &sitePath() const { return m_recent.current(); }
     [[nodiscard]] QVariantList recentSites() const;
-    [[nodiscard]] QStringList groups() const; ///< names of the groups that have devices, in the user's order
+    /// Names of the groups that have devices, sorted as in the user's locale, numbers by their value.
+    [[nodiscard]] QStringList groups() const;
     [[nodiscard]] int count() const { return static_cast<int>(m_site.devices.size()); } ///< known devices
     [[nodiscard]] static int longestGroup() { return KnownDevice::longestGroup; }
     /// Why the site cannot be read or stored, in the user's language; empty if it can.
@@ -94,10 +95,12 @@ public:
     void hide(const QList<QJsonObject> &rows, bool isIPv6);
 
     // The following functions are for QML. `rows` are maps from get() of a table model. They return an empty
-    // string on success, otherwise the reason in the user's language; nothing has changed then.
+    // string on success, otherwise the reason in the user's language; the site is unchanged then, unless
+    // stated otherwise.
 
     /// Puts devices into the group; an empty name removes them from their groups. Spaces at the ends are
-    /// removed. Fails for a name that is too long, and for devices behind NAT.
+    /// removed. Fails for a name that is too long, for devices behind NAT, and if the site has the maximum
+    /// number of devices; in the last case the devices before the refused one have the group.
     Q_INVOKABLE [[nodiscard]] QString setGroup(const QVariantList &rows, const QString &group, bool isIPv6);
 
     /// Removes a device from the site. Does nothing for a device that is not known.
@@ -117,7 +120,7 @@ public:
 
 Q_SIGNALS:
     void changed(); ///< known devices, their groups or the presence of devices have changed
-    void siteChanged();
+    void siteChanged(); ///< the site was replaced or saved, or a site was removed from recentSites
     void problemChanged();
 
 private:

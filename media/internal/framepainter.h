@@ -12,8 +12,9 @@
 
 #include <array>
 
-/// Draws frames in planar YUV 4:2:0 with OpenGL. All functions and the destructor require the same current
-/// context, which may be of desktop OpenGL, its core profile or ES. They do not restore the OpenGL state. The
+/// Draws frames in planar YUV 4:2:0 with OpenGL. The shaders are files in the folder "Shaders" of the working
+/// directory or, if missing there, of the application. All functions and the destructor require the same
+/// current context, which may be of desktop OpenGL, its core profile or ES. They do not restore the OpenGL state. The
 /// order is setFrameSize() for the first frame and after a change of the size, upload() for each frame, then
 /// clear() and draw() for each repaint.
 class FramePainter : protected QOpenGLFunctions
@@ -41,7 +42,8 @@ public:
     /// Sets the viewport to `view`, in device pixels, and makes it transparent.
     void clear(const QSize &view);
 
-    /// Draws the last uploaded frame into the viewport of clear(). No effect without valid shaders.
+    /// Draws the last uploaded frame into the viewport of clear(). No effect without valid shaders. Requires
+    /// an uploaded frame.
     void draw(const ViewMatrices &matrices);
 
 private:

@@ -44,8 +44,8 @@ public:
     /// handle(); any thread.
     [[nodiscard]] std::int64_t sharedHandle() const { return m_sharedHandle; }
 
-    /// Counter that is incremented by a login at another address and port. A snapshot uses it to detect that
-    /// the session is no longer with its device. Any thread.
+    /// Counter that begin() increments if the session had another address and port, or if there was none. A
+    /// snapshot uses it to detect that the session is no longer with its device. Any thread.
     [[nodiscard]] int deviceGeneration() const { return m_deviceGeneration; }
 
     /// The state read from the device. The reference is valid until setState().

@@ -47,7 +47,7 @@ public:
     /// Logs in to all devices of a list file, adds their rows and blocks until that is done. Sets `summary`,
     /// emits signalCDeviceImportProgress after each line, and signalCDeviceAddSingleDeviceToTable at the end
     /// if a device was added. Returns why the list was refused as a whole, in the user's language; otherwise
-    /// empty, also if lines failed.
+    /// empty, also if lines failed. An encrypted list is refused: only importPlan() decrypts.
     [[nodiscard]] QString importDevices(const QString &path, const std::shared_ptr<P2PPorts> &ports,
                                         ImportSummary &summary);
 

@@ -25,7 +25,8 @@ struct UpgradeDocumentLine
 
 /// An upgrade document: a workbook of devices and firmware files, to which the results are written. Row 1
 /// contains the titles. Each other row is a device: address, port, user name, password, file (absolute, or
-/// relative to the folder of the workbook) and result. open() is called first. Not thread-safe.
+/// relative to the folder of the workbook) and result. open() is called first. Not thread-safe; if QExcel
+/// drives a spreadsheet application, used only on the thread that created the object.
 class UpgradeDocument
 {
     Q_DECLARE_TR_FUNCTIONS(UpgradeDocument)
@@ -74,7 +75,7 @@ private:
 struct OpenedUpgradeDocument
 {
     QString path;                                   ///< local path
-    QString refusal = {};                           ///< why it cannot be used, in the user's language
+    QString refusal = {}; ///< why it cannot be used, in the user's language; empty if it can
     QDateTime changed = {};                         ///< modification time of the file
     std::unique_ptr<UpgradeDocument> document = {}; ///< null if it is refused
     std::vector<UpgradeDocumentLine> lines = {};
@@ -83,6 +84,6 @@ struct OpenedUpgradeDocument
     [[nodiscard]] bool isCurrent(const QString &localPath) const;
 };
 
-/// Opens a document and reads its lines. Blocks for the file. Any thread; the result is used by one thread
-/// at a time.
+/// Opens a document and reads its lines. Blocks for the file. Any thread; for the thread of the result see
+/// UpgradeDocument.
 [[nodiscard]] OpenedUpgradeDocument openUpgradeDocument(const QString &localPath);

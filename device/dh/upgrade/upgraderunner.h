@@ -16,11 +16,12 @@
 class UpgradeRunner
 {
 public:
-    /// Callbacks; both must be set. Called on threads of the engine, inside step(), start(), stop(),
+    /// Callbacks; both must be set. Called on the threads that run steps, inside step(), start(), stop(),
     /// requestEnd() and end(), and where a step is destroyed. Must not call end().
     struct Watchers
     {
-        std::function<void(const UpgradeOrder &order, const UpgradeState &state)> changed; ///< each state
+        /// Called with each state of an upgrade, from waiting to its result.
+        std::function<void(const UpgradeOrder &order, const UpgradeState &state)> changed;
         std::function<void()> roundEnded; ///< after `changed` of the last upgrade
     };
 

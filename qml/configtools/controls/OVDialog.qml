@@ -31,7 +31,7 @@ T.Popup {
     readonly property int contentRoom: mostHeight - head.height - strip.height - foot.height - 2 * contentMargin
     default property alias content: body.data
     signal accepted  // by the primary button; the dialog stays open: the owner closes it
-    signal rejected  // by the cancel button, the close button or Escape; the dialog has closed. Not by close()
+    signal rejected  // by the cancel button, the close button or Escape; the dialog is closing. Not by close()
 
     // The dialog ignores input while it closes: a second click must not count.
     property bool leaving: false

@@ -19,7 +19,7 @@ Item {
     /// False while the user moves the slider: it then ignores a change of `value`.
     readonly property bool rested: !slider.pressed && !rest.running
     readonly property int bounded: Math.max(from, Math.min(to, value))  // position of the handle for `value`
-    signal committed(int value)  // only after a move of the handle, with a number other than `value`
+    signal committed(int value)  // with a number other than `bounded`; while `unknown`, other than `value`
 
     /// Shows `value`, unless the user moves the slider.
     function follow() {
@@ -27,7 +27,7 @@ Item {
             slider.value = value;
     }
 
-    /// Reports the shown number if it differs from `value`.
+    /// Reports the number at the handle, see committed().
     function commit() {
         rest.stop();
         const chosen = Math.round(slider.value);

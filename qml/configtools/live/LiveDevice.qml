@@ -21,8 +21,8 @@ Item {
     readonly property alias retrySeconds: backoff.secondsLeft
     property var channels: []  // maps with "channel" (from 0), "name", "connected" (bool: has a camera); [] if unknown
     signal opened                      // logged in, after open() or a retry; `channels` is [] if they were not read
-    signal lost                        // a page has logged in to another device, which ended this session
-    signal renewed                     // a new session with the same device: streams must start again
+    signal lost                        // a page has logged in to another device: the owner calls close()
+    signal renewed                     // a new session replaced that of the same device: streams must start again
     signal checked(bool isReachable)  // the result of check(); also emitted, with false, after a failed login
 
     /// Whether another account or password may help: NoSuchAccount, WrongPassword, AccountLoggedIn or SessionEnded.

@@ -1,7 +1,8 @@
 // Sends one command to one device or to several, as a batch. The batch writes the command ("url") and the start of the
-// response, or "Error:" and the reason ("result"), to the rows; the result is notified at the end. Every command
-// is remembered as recent, also if it is not sent because another batch runs. A row is an index in `deviceTable`, an
-// identity the unique name of a row.
+// response, or "Error:" and the reason ("result"), to the rows. At the end, the numbers of successes and failures are
+// notified for several devices; for a single command only that the response is empty. Every command is remembered as
+// recent, also if it is not sent because another batch runs. A row is an index in `deviceTable`, an identity the unique
+// name of a row.
 import QtQuick
 import configtools
 
