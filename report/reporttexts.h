@@ -62,22 +62,25 @@ public:
     static QString finding(FindingKind kind);
     /// The kind of a finding and its details as one line.
     static QString finding(const Finding &finding);
-    /// The result of the work with a device, as far as it is a failure; otherwise an empty text.
+    /// The outcome of the work with a device; empty for a success.
     static QString outcome(const StepOutcome &outcome);
-    /// By how much the clock of a device is ahead of or behind the host.
+    /// By how much the clock of a device is ahead of (above 0) or behind the host.
     static QString clockOffset(qint64 seconds);
     /// The version of a device and the newer one of a device of the same model.
     static QString versions(const QString &version, const QString &newest);
-    /// Name and address of a device.
+    /// ReportDevice::title(), followed by the MAC in parentheses, or by address and port if the MAC is
+    /// unknown; without a title only the latter.
     static QString deviceName(const ReportDevice &device);
     /// The time server of a device that was read: its address, on, off, or not reported.
     static QString timeServerOf(const DeviceInspection &inspection);
-    /// "H.265 1920×1080 25 fps 4096 kbit/s"
+    /// "H.265 1920×1080 25 fps 4096 kbit/s VBR", without the values that are not reported; notReported() if
+    /// none is.
     static QString streamOf(const StreamSettings &stream);
     /// The operation of a batch by BatchPlan::work, which commands and the window share. `title` for other
     /// work.
     static QString batchOperation(const QString &work, const QString &title);
-    /// The operation of a setting (WrittenSetting) of the configuration pages. `channel` is from 0.
+    /// The operation of a setting (WrittenSetting) of the configuration pages. `channel` is from 0; it is
+    /// named unless it is the first one.
     static QString writtenSetting(const QString &setting, int channel);
     /// The value of such a setting: that of a switch in the user's language.
     static QString writtenValue(const QString &value);

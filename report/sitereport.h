@@ -79,9 +79,10 @@ public:
     [[nodiscard]] static QString suggestedFolder();
 
 Q_SIGNALS:
-    void stateChanged();
-    /// A report has ended. `paths` are the written files. `reason` is empty on success, otherwise why a file
-    /// is missing. Both are empty if the batch was stopped.
+    void stateChanged(); ///< a batch has started or ended, or the writing of files has ended
+    /// A report has ended. `paths` are the written files, the document first. `reason` is empty on success,
+    /// otherwise why a file is missing; no further file is written then. Both are empty if the batch was
+    /// stopped.
     void finished(const QStringList &paths, const QString &reason);
 
 private:

@@ -20,8 +20,9 @@ public:
     /// "size" of the record, and `returnedSize`, to the size of the configuration's struct. The fields of
     /// keys that the text lacks are not changed; keys without a field are ignored; strings that are longer
     /// than their field are truncated. Returns false, with the record unchanged and a `returnedSize` of 0,
-    /// when the name is unknown, the record is smaller than the struct, the text is not JSON or of another
-    /// configuration, or a value has the wrong type or is out of range.
+    /// when the name is unknown, the record is smaller than the struct, the text is too long (depending on
+    /// the implementation), not JSON or of another configuration, or a value has the wrong type or is out of
+    /// range.
     virtual bool ConfigParseData(std::string_view name, std::string_view text, void *record,
                                  std::uint32_t recordSize, std::uint32_t &returnedSize) = 0;
 

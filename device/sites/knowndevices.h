@@ -119,7 +119,7 @@ public:
     Q_INVOKABLE [[nodiscard]] QString startNew();
 
 Q_SIGNALS:
-    void changed(); ///< known devices, their groups or the presence of devices have changed
+    void changed();     ///< known devices, their groups or the presence of devices have changed
     void siteChanged(); ///< the site was replaced or saved, or a site was removed from recentSites
     void problemChanged();
 

@@ -14,9 +14,9 @@
 
 /// Draws frames in planar YUV 4:2:0 with OpenGL. The shaders are files in the folder "Shaders" of the working
 /// directory or, if missing there, of the application. All functions and the destructor require the same
-/// current context, which may be of desktop OpenGL, its core profile or ES. They do not restore the OpenGL state. The
-/// order is setFrameSize() for the first frame and after a change of the size, upload() for each frame, then
-/// clear() and draw() for each repaint.
+/// current context, which may be of desktop OpenGL, its core profile or ES. They do not restore the OpenGL
+/// state. The order is setFrameSize() for the first frame and after a change of the size, upload() for each
+/// frame, then clear() and draw() for each repaint.
 class FramePainter : protected QOpenGLFunctions
 {
 public:

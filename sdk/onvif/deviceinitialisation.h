@@ -20,7 +20,8 @@ namespace sdk::onvif {
 /// has an administrator; AddressInUse if the device reports the MACs of all its interfaces and `mac` is not
 /// among them; otherwise the error of the first request. Errors after the device has accepted the account:
 /// Refused if it still responds to requests without a login, Unconfirmed if it does not respond to the check.
-/// Any other error is the device's reason to refuse the account.
+/// Any other error is that of the request for the account: after a timeout or a broken connection, the device
+/// may have created it.
 [[nodiscard]] NetError initialiseDevice(const ServiceAddress &service,
                                         const std::shared_ptr<HttpClient> &http, const HttpLogin &account,
                                         const std::string &mac, SoapClient::Deadline deadline);

@@ -42,9 +42,11 @@ public:
     /// has requested, 60 s at most, and the upload fails after 30 min. The progress is passed to `handler`
     /// (null for none) on the thread of the upload, possibly before the return: Sending with the percentage
     /// of the sent bytes, Writing with 0, and at last Done or Failed. Failed has the error: WrongPassword for
-    /// a refused login, FirmwareRefused for another refusal, or the failure of the connection. `accepted`
-    /// must not be empty. It is called on that thread when the device has accepted the file, before Done is
-    /// reported. Returns the handle, above 0; 0 when no thread can be created.
+    /// a refused login, FirmwareRefused for another refusal, ConnectTimeout if the device does not respond,
+    /// UnknownCertificate, ChangedCertificate, or NetworkFailure for another failure of the connection and
+    /// for an unreadable file. `accepted` must not be empty. It is called on that thread when the device has
+    /// accepted the file, before Done is reported. Returns the handle, above 0; 0 when no thread can be
+    /// created.
     [[nodiscard]] std::int64_t open(LLONG loginHandle, const FirmwareUpload &upload, const HttpLogin &login,
                                     const std::string &fileName, UpgradeProgressHandler handler, void *user,
                                     const std::function<void()> &accepted);

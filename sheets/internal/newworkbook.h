@@ -44,9 +44,9 @@ public:
     /// Sets the text of a cell, with the number format "text".
     void setCellText(CellPosition position, const QString &text);
 
-    /// Merges a range. The text of its first cell is kept, the other texts are removed. Returns true without
-    /// a change for a range that is merged already. Returns false when the range overlaps a different merged
-    /// range of its row; nothing is changed then.
+    /// Merges a range of more than one cell. The text of its first cell is kept, the other texts are removed.
+    /// Returns true without a change for a range that is merged already. Returns false when the range
+    /// overlaps a different merged range of its row; nothing is changed then.
     bool mergeCells(const CellRange &range);
     /// Changes the formats of all cells of the range, also of empty ones.
     void changeFormat(const CellRange &range, const FormatChange &change);

@@ -32,9 +32,9 @@ public:
     HttpServer(const HttpServer &) = delete;
     HttpServer &operator=(const HttpServer &) = delete;
 
-    /// Accepts the pending connection of `listener`, the number of a listening socket of the device, and
-    /// serves it on a thread. With `key`, the connection uses TLS. No effect if no connection is pending. A
-    /// connection over the limit, or without a thread, is closed at once.
+    /// Accepts the pending connection of `listener`, the number of a non-blocking listening socket of the
+    /// device, and serves it on a thread. With `key`, the connection uses TLS. No effect if no connection is
+    /// pending. A connection over the limit, or without a thread, is closed at once.
     void accept(int listener, const QString &mac,
                 const std::shared_ptr<const sdk::demo::DeviceKey> &key = {});
 

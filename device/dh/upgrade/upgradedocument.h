@@ -74,9 +74,9 @@ private:
 /// An opened upgrade document with the state of its file.
 struct OpenedUpgradeDocument
 {
-    QString path;                                   ///< local path
-    QString refusal = {}; ///< why it cannot be used, in the user's language; empty if it can
-    QDateTime changed = {};                         ///< modification time of the file
+    QString path;           ///< local path
+    QString refusal = {};   ///< why it cannot be used, in the user's language; empty if it can
+    QDateTime changed = {}; ///< modification time of the file
     std::unique_ptr<UpgradeDocument> document = {}; ///< null if it is refused
     std::vector<UpgradeDocumentLine> lines = {};
 

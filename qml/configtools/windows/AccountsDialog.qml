@@ -56,8 +56,8 @@ OVDialog {
         table.forceActiveFocus();
     }
 
-    /// Assigns the selected account to the devices and closes the dialog. For a retry it does not accept the account
-    /// that the first device uses, unless that was edited since.
+    /// Assigns the selected account to the devices and closes the dialog. For a retry it does not accept an account
+    /// that one of the devices uses, unless that was edited since the dialog was opened.
     function use() {
         const name = current.name ?? "";
         const isRefused = refused !== "" && devices.some(device => accounts.rowOfDevice(device) === table.currentIndex);

@@ -8,10 +8,10 @@ OVMenu {
 
     required property var recentSites  // maps of "name" and "path"
     readonly property int ownEntries: 3
-    signal openRequested
-    signal saveRequested
-    signal newRequested
-    signal recentRequested(string path)
+    signal openRequested  // choose a site file and open it
+    signal saveRequested  // save the site as a file
+    signal newRequested  // start an empty site
+    signal recentRequested(string path)  // open this site file
 
     iconName: "history"
     objectName: "siteMenu"

@@ -40,7 +40,7 @@ public:
     /// Encodes the frame with the index `number` and the audio up to it, and appends both to `packets`.
     /// Indexes count frame durations since the start of the production; they increase, and skip dropped
     /// frames. `deviceTime` is the time of the device's clock that the card shows, in ms since 1970. With
-    /// `isKey` the frame is a key frame. Returns false if an encoder fails.
+    /// `isKey` the frame is a key frame. Returns false if the frame cannot be drawn or an encoder fails.
     [[nodiscard]] bool encodeFrame(std::int64_t number, std::int64_t deviceTime, bool isKey,
                                    EncodedPackets &packets);
 

@@ -56,10 +56,11 @@ struct DeviceInterface
     std::string mac = {}; ///< "02:1a:c5:00:40:17"; empty if unknown
     bool hasIPv4 = false; ///< IPv4 is configured and enabled
     bool dhcp = false;
-    /// The IPv4 address in use: with DHCP the leased one, otherwise the manual or the link-local one. Empty
-    /// if there is none.
+    /// The IPv4 address in use: with DHCP the leased one, if it is reported, otherwise the manual or the
+    /// link-local one. Empty if there is none.
     std::string address = {};
     int prefixLength = 0; ///< of `address`; 0 if not reported
+    /// Up to 64 of each origin, in this order: manual, link-local, from DHCP, from router advertisements.
     std::vector<std::string> ipv6Addresses = {};
 };
 
@@ -125,8 +126,9 @@ public:
     /// Sends whether the clock follows NTP, and the switch of daylight saving. Sends `utc` only if it is set
     /// and the clock does not follow NTP. Sends the zone only if it is not empty. `local` is not sent.
     [[nodiscard]] ServiceOutcome setClock(const DeviceClock &clock);
-    /// The URLs of the services, as the device knows them, by namespace. If the request fails for another
-    /// reason than the login or a timeout, an older operation is requested, which some devices have instead.
+    /// The URLs of the services, as the device knows them, by namespace. If the request fails with another
+    /// error than WrongPassword, SessionEnded or ConnectTimeout, an older operation is requested, which some
+    /// devices have instead; its response has the device, media, imaging and device IO services only.
     [[nodiscard]] ServiceResult<std::map<std::string, std::string>> services();
     [[nodiscard]] ServiceResult<std::vector<DeviceInterface>> interfaces();
     /// The first IPv4 gateway; empty if the device has none.

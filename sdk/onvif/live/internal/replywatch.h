@@ -27,7 +27,8 @@ public:
     /// `host` is the numeric address of the device, without brackets.
     explicit ReplyWatch(std::string host);
 
-    /// The reason to end the session; nothing while there is none. The first reason remains.
+    /// The reason to end the session: Oversized, Redirected, Unsupported or, after notePlaying(), Refused.
+    /// Nothing while there is none. The first reason remains.
     [[nodiscard]] std::optional<StreamEnd> objection() const { return m_objection; }
 
     /// A description of the objection in English, for logs; empty without an objection.
