@@ -20,9 +20,9 @@ namespace commandline {
 /// main thread, each time the number is needed.
 struct Surroundings
 {
-    CDeviceFactory &factory;               ///< access to the device list and to the operations on devices
-    BatchEngine &engine;                   ///< worker threads of the batches
-    CgiSurroundings cgi;                   ///< for HTTP commands; its folder is not used, see "--output"
+    CDeviceFactory &factory; ///< access to the device list and to the operations on devices
+    BatchEngine &engine;     ///< worker threads of the batches
+    CgiSurroundings cgi;     ///< for HTTP commands; the folder of outputFolder() replaces its own
     std::function<int()> parallelDevices;  ///< returns the maximum number of devices at the same time
     std::function<int()> parallelUpgrades; ///< returns the maximum number of upgrades at the same time
 

@@ -43,7 +43,8 @@ public:
     /// deleteInstance().
     static CDeviceFactory *getinstance();
 
-    /// Deletes the process-wide factory with its back ends and clears the registered families.
+    /// Deletes the process-wide factory with its back ends and clears the registered families and port
+    /// agent.
     static void deleteInstance();
 
     /// Creates the back ends, and starts the port agent with the settings of
@@ -271,7 +272,8 @@ public:
     /// The days of a month (1 to 12) of the current year, as a list of numbers from 1. Empty for other
     /// months.
     Q_INVOKABLE QVariantList getDays(int month);
-    /// Whether a device of any family is being upgraded.
+    /// Whether a device of any family is being upgraded, or results of an upgrade document are not written
+    /// yet.
     Q_INVOKABLE bool hasDeviceUpgrading();
     /// Takes snapshots in the current session into the folder `address` in the folder of snapshots: of all
     /// channels (`kind` "liveCapture") or of one ("againCapture"). Returns immediately.
@@ -389,7 +391,7 @@ Q_SIGNALS:
     /// The result of an operation on the current session: 0, 1 (unreadable configuration), 10 (unknown
     /// capabilities), LoginResult::Upgrading, or an error of the network library.
     void signalGetDeviceCapRet(int GetDeviceCapRet);
-    void signalChangeVideoType();     ///< the image settings have changed or were read again
+    void signalChangeVideoType();     ///< the image settings were read, or a change of one has failed
     void signalChangeVideoChannel();  ///< those of another channel were read
     void signalChangeEncodeChannel(); ///< the encode values were read
     /// The names of the encode values that the device has refused, one line for each; empty on success.

@@ -12,13 +12,14 @@ inline constexpr QLatin1StringView loginHandle("loginHandle"); ///< qint64: of t
 inline constexpr QLatin1StringView sessionDevice("sessionDevice");
 inline constexpr QLatin1StringView library("library"); ///< map with the keys of LibraryKey
 /// String, read and write: name of the channel in the argument `channel` or `otype`. A read sends a request;
-/// it returns null if the device reports no name.
+/// it returns null if the request fails.
 inline constexpr QLatin1StringView channelName("channelName");
 /// Int: the result of the last write of the channel's name. 0 on success, LoginResult::Refused,
 /// LoginResult::Upgrading, or an error of the network library if the device did not respond; -1 if there was
 /// none.
 inline constexpr QLatin1StringView channelNameResult("channelNameResult");
-/// Write only, after the last of several names: emits signalCDeviceSetChannelNameFinished.
+/// Write only, after the last of several names: emits signalCDeviceSetChannelNameFinished, unless no name was
+/// written since the last one.
 inline constexpr QLatin1StringView channelNamesSaved("channelNamesSaved");
 /// Int: the combined result of the writes before the last channelNamesSaved: 0 if all succeeded, otherwise
 /// the result of the last failed one, see channelNameResult; -1 if there was none.
@@ -32,7 +33,7 @@ inline constexpr QLatin1StringView connectedChannels("connectedChannels");
 } // namespace SessionKey
 
 /// Settings of signalCDeviceSettingWritten. Those of the image page are "image.", the group (a key of
-/// CameraKey), and "." with the key of CameraSetting if the group has several.
+/// CameraKey), and "." with the key of CameraSetting unless that is CameraSetting::value or empty.
 namespace WrittenSetting {
 inline constexpr QLatin1StringView channelName("channelName");
 inline constexpr QLatin1StringView encode("encode");

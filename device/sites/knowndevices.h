@@ -26,8 +26,9 @@ class DeviceStore;
 /// The current site is stored in the folder of the user's data, at the end of each search, after a change by
 /// the user, and in the destructor. A listed device is added at the end of a search, when it gets a group,
 /// and when the site is saved as a file; until then, a device that was added by hand is not known. A device
-/// stays known until the user removes it from the site. Devices behind NAT are not known, since their
-/// addresses are local ports. Lives on the main thread; the file is written on a separate one.
+/// stays known until the user removes it from the site. While the stored file exists but could not be opened,
+/// the current site is not stored. Devices behind NAT are not known, since their addresses are local ports.
+/// Lives on the main thread; the file is written on a separate one.
 class KnownDevices : public QObject
 {
     Q_OBJECT
@@ -83,11 +84,12 @@ public:
     /// Missing; after a search that was stopped they stay Waiting.
     Q_INVOKABLE void endSearch(bool isStopped);
 
-    /// Adds the values with the keys of SiteKey to the rows of a list, `list`, and appends a row for each
-    /// known device that is not in the list.
+    /// Adds the values of addValues() to the rows (QJsonObjects) of the list `list`, and appends a row for
+    /// each known device that is not in it, with "presence" Waiting or Missing and "lastSeen".
     void complete(QVariantList &list, bool isIPv6) const;
 
-    /// Adds the values with the keys of SiteKey to a row of the list.
+    /// Adds "group" and "presence" (see SiteKey) to a row of the list: the group, if the device has one, and
+    /// Presence::New for a device that was not known before the last search.
     void addValues(QJsonObject &row, bool isIPv6) const;
 
     /// Leaves the devices of these rows out of complete() until the next search begins. Called before the

@@ -40,7 +40,7 @@ public:
     SearchOperations &operator=(const SearchOperations &) = delete;
 
     /// Removes the rows, except those of DeviceStore::setKept(), and starts a search in the background, with
-    /// the settings and accounts at this time.
+    /// the settings and accounts at this time. A search that is still running continues beside it.
     void start();
 
     /// Sets the address range of the next search: first and last address in host byte order, 0 in either for

@@ -38,7 +38,7 @@ FocusScope {
     signal rangeToggled(int first, int last, bool checked)  // the rows from first to last, both included
     signal copyRequested(int row)  // Ctrl+C in the current row
     signal rowActivated(int row)  // by a double click or Enter
-    signal menuRequested(int row, var position)  // open the menu of the row; position: see OVEntryMenu.openAt()
+    signal menuRequested(int row, var position)  // open the menu of the row; position: for OVEntryMenu.openAt()
 
     /// Makes a row current and scrolls to it; ignores a negative row. A row after the last one means the last one.
     function show(row) {

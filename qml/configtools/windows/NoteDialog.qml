@@ -6,7 +6,7 @@ OVDialog {
     id: root
 
     required property DeviceNotes notes  // notes of the user about devices
-    property var values: ({})  // values of the device's row, as in DeviceActions
+    property var values: ({})  // values of the device's row, by key, as get() of a table model returns them
 
     /// Opens the dialog for the device of a row. Shows why the stored notes could not be read, if so.
     function edit(values) {

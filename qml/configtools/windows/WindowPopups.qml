@@ -14,9 +14,9 @@ Item {
     required property KnownDevices knownDevices  // devices of earlier searches
     required property var localConfig  // a CLocalConfig: the settings of the application
     required property SearchReports searchReports  // report of the last search
-    required property var languages  // entries of the menu, see MainMenu
+    required property var languages  // entries of the menu: objects with "code" and "label"
     required property string currentLanguage  // code of the chosen language
-    required property string colourChoice  // see MainMenu
+    required property string colourChoice  // "desktop", "light" or "dark"
     required property string logoName  // name of the product, in the about box
     required property string softwareName  // title of the about box
     required property string version
@@ -28,9 +28,9 @@ Item {
     signal siteReportRequested  // by the menu: open the dialog with the ticked rows, see openSiteReport()
     signal helpRequested  // open the manual
     signal questionsRequested  // open the questions and answers
-    signal languageChosen(string code)
-    signal coloursChosen(string choice)  // see MainMenu
-    signal restartRequested
+    signal languageChosen(string code)  // code of an element of `languages`
+    signal coloursChosen(string choice)  // as colourChoice
+    signal restartRequested  // restart the application
     signal settingsAccepted(var values)  // store the search settings and search; values: see SearchSettings.read()
     signal endConfirmed  // stop the running batch and exit
 
