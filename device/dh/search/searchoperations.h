@@ -20,7 +20,8 @@ class FoundLogins;
 struct SearchSettings
 {
     bool localDomain = true; ///< search the local segment; the range of setRange() is searched in any case
-    bool logsIn = false;     ///< log in to found devices; ignored without a default account
+    /// Log in to found devices whose model, version or MAC is missing; ignored without a default account.
+    bool logsIn = false;
 };
 
 /// Implements the search operations of CDeviceBase. Lives on the main thread. Signals of the back end are

@@ -12,7 +12,7 @@ Column {
     required property bool hasServerDetails
     required property string timeZone  // of this computer, as "UTC+08:00" or "UTC-5:00"
     required property var deviceFactory  // a CDeviceFactory; provides the days of a month
-    /// Run this command of the back end on the ticked devices. `title`: name for the user. `data`: its parameters, a map.
+    /// Run this command of the back end on the ticked devices. `title`: name for the user. `data`: map of parameters.
     signal actionRequested(string command, string title, var data)
     signal refused(string message)  // the input is invalid; nothing was requested
 
