@@ -62,7 +62,7 @@ inline constexpr QLatin1StringView connected("connected"); ///< list of bool
 } // namespace ChannelListKey
 
 /// Properties of a device in addition to those of its row. Strings, unless stated otherwise; ports and counts
-/// are int. Unknown ones are missing.
+/// are int. Unknown ones are missing or empty.
 namespace DeviceDetailKey {
 inline constexpr QLatin1StringView loginResult("loginResult"); ///< int: a LoginResult
 inline constexpr QLatin1StringView serial("serial");

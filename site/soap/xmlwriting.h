@@ -19,7 +19,7 @@ public:
     explicit XmlElement(pugi::xml_node node) : m_node(node) {}
 
     // Append a child element with that name and text, and return the child. The text of a double has up to
-    // six digits, and an exponent from 1e+06 on.
+    // six digits, and an exponent from 1e+06 on and below 0.0001.
     XmlElement add(const char *name) { return XmlElement(m_node.append_child(name)); }
     XmlElement add(const char *name, const char *text) { return add(name, std::string_view(text)); }
     XmlElement add(const char *name, std::string_view text);

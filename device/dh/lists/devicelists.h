@@ -33,8 +33,8 @@ public:
     bool exportDevices(const QString &folder, const QStringList &macs, const QString &fileName,
                        const ListProtection &protection = {});
 
-    /// Fields of the last exported list that an import would not read back unchanged, maps with the keys of
-    /// ExportFaultKey. Empty after a failed export.
+    /// Fields of the last exported list that an import would not read back unchanged, and missing addresses:
+    /// maps with the keys of ExportFaultKey, at most 1000. Empty after a failed export.
     [[nodiscard]] QVariantList exportFaults() const { return m_exportFaults; }
 
     /// Reads a list file and makes its import; adds no device. The reason of a refused list is in the
