@@ -20,13 +20,15 @@ public:
     /// Adds the first line of a message, in UTF-8, with passwords replaced. Any thread.
     void add(QStringView message);
 
-    /// Writes the lines in the order of their arrival into an open file. Async-signal-safe: takes no lock, so
-    /// that a line that another thread is adding may be incomplete.
+    /// Writes the lines in the order of their arrival, each with "\n" at its end, into an open file. Failed
+    /// writes are ignored. Async-signal-safe: takes no lock, so that a line that another thread is adding may
+    /// be incomplete.
     void writeTo(int descriptor) const;
 
     /// The message with "***" in place of secrets: the value after a name that contains pass, pwd or secret
-    /// (in any case) and "=", ":" or ">", up to a space, "&", "<" or a quotation mark; the password in
-    /// "//user:password@"; the content of a header "Authorization" and of a response ("Response Body: ").
+    /// (in any case) and "=", ":" or ">"; the password in "//user:password@"; the rest of the line after
+    /// "Authorization:" and its scheme; everything after "Response Body: ". A value in quotation marks ends
+    /// with its quotation mark, any other value before a space, "&", "<" or a quotation mark.
     [[nodiscard]] static QString withoutPasswords(QStringView message);
 
 private:

@@ -36,7 +36,7 @@ public:
 
     /// Sends `streams` copies of the stream in real time; the first one starts at `begin`, see startOf().
     /// Calls `send` on this thread with each chunk when it is due, and with the number of its copy, from 0. A
-    /// chunk is the header of the container, or one frame. Blocks until the end of the last copy.
+    /// chunk is the header of the container, or one frame. Blocks until all copies are sent completely.
     void send(int streams, Time begin,
               const std::function<void(int stream, const QByteArray &chunk)> &send) const;
 

@@ -52,7 +52,9 @@ struct CgiResponse
     QString text; ///< see CgiProcedure::run()
     /// Failed without a complete response, also because of a stop: another attempt may succeed.
     bool hasNoResponse = false;
-    bool isLoginRefused = false; ///< the web service refuses the account or its password (status 401)
+    /// The web service refuses the account or its password: the response to the first request has status 401
+    /// (to the repeated one, if it was repeated with Basic).
+    bool isLoginRefused = false;
 
     /// The verdict on the device's certificate, if it prevented a request over HTTPS.
     std::optional<sdk::CertificateVerdict> certificateRefusal = {};
@@ -78,12 +80,13 @@ public:
     /// Blocks. `url` is complete, with its scheme; `ipport` is the "address:port" of the login. Returns the
     /// text of a text response, the path of the file of an image or a recording, or "Error:" and the reason.
     /// When the file cannot be created, a warning is logged, and the result depends on the first response: an
-    /// empty text if it was complete, otherwise "Error:" and the reason why it was not. An incomplete
-    /// recording is kept in a file, whose path follows the reason.
+    /// empty text if it was complete, otherwise "Error:" and the reason why it was not. The received part of
+    /// an incomplete recording is kept in a file, whose path follows the reason on a new line.
     [[nodiscard]] QString run(const QString &url, const QString &user, const QString &password,
                               const QString &ipport) const;
 
-    /// The same without the check of the login. Sends nothing if CgiRequest::refusal() is not empty.
+    /// The same without the check of the login. Sends nothing if CgiRequest::refusal() is not empty, which is
+    /// the reason then.
     [[nodiscard]] CgiResponse exchange(const QString &url, const QString &user,
                                        const QString &password) const;
 

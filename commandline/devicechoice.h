@@ -32,10 +32,11 @@ struct DeviceChoice
 [[nodiscard]] int fillDeviceList(CommandContext &context);
 
 /// Logs in to the devices of the list file `path` with the accounts of its lines. The devices that accept the
-/// account get rows in the device list. Sets `batch` to the ended batch, which has the results; Batches owns
-/// it. Returns AllDone also if devices refused their account, and SomeFailed if the batch was stopped, see
-/// awaitBatch(). Returns NothingDone if the list is refused or the batch cannot start; `batch` is unchanged
-/// then. Runs the event loop.
+/// account get rows in the device list. Sets `batch`, which must be null, to the ended batch, which has the
+/// results; Batches owns it. Returns AllDone also if devices refused their account, and SomeFailed if the
+/// batch was stopped, see awaitBatch(). `batch` stays null with these codes: UsageError if the passphrase of
+/// an encrypted list cannot be read, NothingDone if the list is refused or the batch cannot start. Runs the
+/// event loop.
 [[nodiscard]] int readDeviceList(CommandContext &context, const QString &path, Batch *&batch);
 
 /// The rows of the device list that "--devices" (by default "all") names and "--filter" accepts. If a file of

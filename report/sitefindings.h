@@ -8,7 +8,8 @@ inline constexpr qint64 clockTolerance = 30;
 
 /// The findings of the devices, in the order of FindingKind and, for one kind, of the devices. A value that a
 /// device has not reported causes no finding. Two devices have the same address if the ports are the same as
-/// well, as in the device table: devices behind a router share its address.
+/// well, as in the device table: devices behind a router share its address. A device that the last search has
+/// not found (ReportDevice::isLost) does not count for this finding.
 [[nodiscard]] QList<Finding> siteFindings(const QList<ReportDevice> &devices);
 
 /// Compares two versions by their numbers, from left to right: negative if `left` is older, 0 if all numbers

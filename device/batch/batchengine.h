@@ -31,7 +31,9 @@ struct BatchPolicy
     /// least 1 is used; with 1, steps start in the order of the items.
     int maximumParallel = 8;
     std::chrono::milliseconds deadline{0}; ///< of each step, see StepControl::noteProgress(); 0: none
-    int wrongPasswordsInARow = 0;          ///< refused passwords in a row that pause the batch; 0: never
+    /// Number of refused accounts or passwords in a row that pauses the batch, if steps are left; 0: never.
+    /// An accepted login sets the count to 0; a step without a login, as of an offline device, does not.
+    int wrongPasswordsInARow = 0;
 };
 
 /// Receives the events of a batch, on the engine's threads. The engine holds no lock during a call. Calls for

@@ -24,8 +24,9 @@ public:
     AgentListener(const AgentListener &) = delete;
     AgentListener &operator=(const AgentListener &) = delete;
 
-    /// Logs an event and queues it for the current listener; without a listener it is only logged. Returns
-    /// immediately; the text `deviceId` (a P2P ID) is copied. Called on a thread of the agent.
+    /// Logs an event. Also queues it for the current listener, if there is one, if the service is lost or a
+    /// tunnel is broken. Returns immediately; the text `deviceId` (a P2P ID) is copied. Called on a thread of
+    /// the agent.
     static void take(sdk::P2PAgentEvent event, const char *deviceId, std::int32_t localPort);
 
 private:

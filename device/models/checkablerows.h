@@ -30,6 +30,7 @@ public:
 
 Q_SIGNALS:
     void rowsChanged();
+    /// Check marks were set; also emitted if the number of checked rows is the same.
     void checkedCountChanged();
 
 protected:

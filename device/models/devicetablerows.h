@@ -15,12 +15,15 @@ class FollowedMarks;
 struct DeviceTableRow
 {
     QJsonObject values;
-    QString identity;      ///< see rowName()
-    bool conflict = false; ///< another row of a device that is not offline has the same "ipport"
+    QString identity; ///< see rowName()
+    /// Another row of a device that is not offline has the same "ipport". Always false if `isAbsent` is true
+    /// or the row has no address (":port").
+    bool conflict = false;
     bool isAbsent = false; ///< the device is known, but not in the list: nothing can be done with it
     QString reason = {};   ///< FollowedMarks::reasonOf(); empty unless only marked devices are shown
 
-    /// The value of a key. A missing key (IPv6 rows lack some) gives the initial value of new rows.
+    /// The value of a key. A missing key (IPv6 rows lack some) gives -1 for "res" and "upgraderes", 0 for
+    /// "upgrade" and otherwise an empty string.
     [[nodiscard]] QVariant value(QLatin1StringView key) const;
 
     /// Name, type, model, address and port, MAC and version, separated by tabs, for the clipboard.
@@ -43,7 +46,9 @@ struct DeviceTableFilter
 /// The order of the rows.
 struct DeviceTableOrder
 {
-    QString key = {}; ///< empty: the order of the list; with `onlyThose`, by reason and then by address
+    /// Key of the rows. Empty: the order of the list; with `onlyThose`, by reason (ascending) and then by
+    /// address.
+    QString key = {};
     Qt::SortOrder direction = Qt::AscendingOrder;
     DeviceOrder::OddAddresses oddAddresses = DeviceOrder::OddAddresses::Last;
 };

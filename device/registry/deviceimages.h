@@ -17,8 +17,10 @@ struct ImageOrder
     QString folder;       ///< absolute path, for "<channel>.jpg" (from 0); created if missing
     int onlyChannel = -1; ///< the only channel, from 0; negative: the first maximumChannels channels
     int mostChannels = maximumChannels; ///< 1 to maximumChannels
+    /// Maximum number of attempts for an image; 0: four times the usual number, and the usual number after
+    /// the first channel without an image.
     int tries = 0;
-    bool isBeforeUpgrade = false;
+    bool isBeforeUpgrade = false; ///< take images also while the device is registered as being upgraded
 
     /// Called before the first image. `channels` are the channels of which images are taken, maps with the
     /// keys of ChannelKey; `channelCount` is the number of all channels of the device. Not called with

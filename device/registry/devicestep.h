@@ -60,7 +60,8 @@ public:
     }
 
     /// Called by a step that from now on only waits for its device. It no longer counts towards the maximum
-    /// number of parallel steps of its batch (BatchPolicy::maximumParallel).
+    /// number of parallel steps of its batch (BatchPolicy::maximumParallel), unless no thread is left for
+    /// another step.
     void releaseSlot() const
     {
         if (m_releaseSlot)

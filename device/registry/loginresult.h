@@ -8,7 +8,7 @@
 /// The result of a request to a device.
 enum class LoginResult : int
 {
-    Unknown = -1, ///< no request yet; also the code of an unusable line of a list
+    Unknown = -1, ///< no request yet; also the code of an unusable line in the list of failures of an import
     Success = 0,
     NoSuchAccount = 1,
     WrongPassword = 2,
@@ -17,7 +17,7 @@ enum class LoginResult : int
     NetworkFailure = 5,  ///< no response, and every failure without another code
     ProtocolMismatch = 6,
     NotInitialised = 7,
-    NotSupported = 12,       ///< the dialog for adding devices shows no message for it
+    NotSupported = 12,       ///< not supported by the device or the back end, or refused without a reason
     AlreadyListed = 13,      ///< no request: the list has a row with this address and port
     Upgrading = 14,          ///< no request: the firmware of the device is being upgraded
     NotDone = 15,            ///< the work ended before the turn of the device, or between two requests

@@ -11,7 +11,7 @@ struct PlannedUpgrade
 {
     UpgradeTools::Result refusal =
         UpgradeTools::NoFile; ///< reason why the device is not upgraded; None if it is
-    QString file;             ///< path of the firmware file
+    QString file;             ///< path of the firmware file; empty if none is chosen
     QString version;          ///< firmware version in the file; empty if unknown
 };
 

@@ -4,7 +4,9 @@
 #include "device/sites/knowndevice.h"
 
 /// A site file is a JSON object with "format" ("configtools-site"), "version" (1), "name" and "devices", a
-/// list of objects. It contains no passwords.
+/// list of objects with the keys "identity", "mac", "address" (KnownDevice::ipport), "name", "type", "model",
+/// "firmware", "serial", "group", "note", "httpPort", "initialised", "ipv6" and "lastSeen" (ISO 8601). It
+/// contains no passwords.
 namespace SiteFile {
 
 inline constexpr int version = 1;
@@ -21,11 +23,13 @@ struct Contents
     bool isUnopened = false; ///< the file cannot be opened, so that its contents are unknown
 };
 
-/// Reads a site from text. A single invalid value refuses the complete text, so that no device is lost
-/// unnoticed. Any thread.
+/// Reads a site from text. A single invalid text value (too long, with control characters or not a string) or
+/// port, a device without MAC and identity, and a second device with the same KnownDevice::key() refuse the
+/// complete text, so that no device is lost unnoticed. Other values of a wrong type count as missing. Any
+/// thread.
 [[nodiscard]] Contents read(const QByteArray &text);
 
-/// Reads a site file. `path` must be a regular file. Any thread.
+/// Reads a site file. A path that is not a regular file is refused (isUnopened). Any thread.
 [[nodiscard]] Contents readFile(const QString &path);
 
 /// The site as text for read(). Texts that read() would refuse are shortened, and control characters become

@@ -4,10 +4,11 @@
 #include "device/work/devicework.h"
 
 /// Work of the configuration page on the current session, the one login that CDeviceBase keeps for this page.
-/// Each function returns immediately and runs the operations of CDeviceFactory with the same purpose on
-/// another thread. Before ended(), the factory emits the signals of these operations, which also report
-/// failures: signalHighLevelLoginRet, signalGetDeviceCapRet, signalConfirmEncodeConfig. The value of ended()
-/// is invalid unless a function states it. Lives on the main thread.
+/// Each function cancels the running work, returns immediately and runs the operations of CDeviceFactory with
+/// the same purpose on another thread; it does nothing without a factory. Before ended(), the factory emits
+/// the signals of these operations, which also report failures: signalHighLevelLoginRet,
+/// signalGetDeviceCapRet, signalConfirmEncodeConfig. The value of ended() is invalid unless a function states
+/// it. Lives on the main thread.
 class SessionWork : public DeviceWork
 {
     Q_OBJECT

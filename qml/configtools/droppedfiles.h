@@ -17,17 +17,17 @@ public:
     enum Kind
     {
         Refused,
-        List,          ///< a device list that can be read without a passphrase
-        EncryptedList, ///< a device list that needs a passphrase
-        SiteFile,
+        List,          ///< "xlsx", "csv" or "xml": a device list that can be read without a passphrase
+        EncryptedList, ///< "devlist": a device list that needs a passphrase
+        SiteFile,      ///< "site"
     };
     Q_ENUM(Kind)
 
     /// The kind of a file with this path, by its suffix. The file need not exist.
     Q_INVOKABLE [[nodiscard]] static Kind kindOf(const QString &path);
 
-    /// Why the window does not take the files, in the user's language; empty if it does. Refuses several
-    /// files, files that are not local, folders, missing files, and files of another kind.
+    /// Why the window does not take the files, in the user's language; empty if it does. Refuses none and
+    /// several files, files that are not local, folders, missing files, and files of another kind.
     Q_INVOKABLE [[nodiscard]] static QString refusalOf(const QList<QUrl> &urls);
 
     /// The local path of the first file; empty if it is not local or there is none.

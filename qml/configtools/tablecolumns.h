@@ -71,7 +71,8 @@ public:
     Q_INVOKABLE void reset();
 
 Q_SIGNALS:
-    void keysChanged();  ///< `keys`, `hiddenKeys` or `fixedKeys` has changed
+    /// `keys`, `hiddenKeys` or `fixedKeys` has changed. `shown` and `widths` change after this signal.
+    void keysChanged();
     void shownChanged(); ///< the shown columns or their order
     void widthsChanged();
     void textChanged();

@@ -57,15 +57,15 @@ public:
     void moveTo(qreal y) { m_y = y; }
     void space(qreal height) { m_y += height; }
 
-    /// Begins a new page unless `height` fits on this one.
+    /// Begins a new page unless `height` fits on this one or this page is empty.
     void need(qreal height);
-    void newPage();
+    void newPage(); ///< draws the foot of this page and begins the next one
     /// Draws the foot of the last page.
     void end();
 
     /// The height of a text in this width.
     [[nodiscard]] qreal textHeight(const QString &text, const TextStyle &style, qreal width) const;
-    /// Draws a text at this position; returns its height. Does not move y().
+    /// Draws a text with its upper left corner at this position; returns its height. Does not move y().
     qreal drawText(QPointF position, qreal width, const QString &text, const TextStyle &style);
 
     /// A heading that stays on the page of the following content of at least `following` units.
@@ -76,11 +76,12 @@ public:
         QString title;
         qreal width = 0;
     };
-    /// The head is repeated on each page. `rows` have a text for each column. A row with a mark has a dot in
-    /// the colour of a warning.
+    /// Draws a table below y() and moves y() below it. The widths of the columns add up to width(). The head
+    /// is repeated on each page; without rows nothing is drawn. `rows` have a text for each column, of which
+    /// up to six lines are shown. If `marksRows`, each row has a dot in the colour of a warning.
     void table(const QList<Column> &columns, const QList<QStringList> &rows, bool marksRows);
 
-    /// All texts that were drawn, for withSearchableText().
+    /// All texts that were drawn, or would be drawn when measuring, for withSearchableText().
     [[nodiscard]] const QString &allText() const { return m_allText; }
 
 private:

@@ -4,7 +4,7 @@
 #include "device/dh/camera/camerachanges.h"
 
 /// Sends write requests with the values of a CameraState to one channel. Temporary object for the writes of
-/// one change. Blocks for the timeout of the device library.
+/// one change.
 class CameraJob
 {
 public:
@@ -14,8 +14,9 @@ public:
     {
     }
 
-    /// Sends one write. Returns false, and logs the error, if the device refuses it or does not respond: see
-    /// ConfigSession::isDeviceAway() and lastError().
+    /// Sends one write and blocks until the response, at most for the timeout of the request. If the device
+    /// refuses it or does not respond, logs the error and returns false: see ConfigSession::isDeviceAway()
+    /// and lastError().
     [[nodiscard]] bool run(CameraWrite write) const;
 
 private:

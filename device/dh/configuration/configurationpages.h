@@ -30,15 +30,17 @@ public:
     void perform(const std::function<void(SessionOperations &operations)> &operations);
 
     /// A step that runs `job` on a copy of the state of the session that is current at this call, after the
-    /// running batch step of the device has ended. When its outcome is taken, the copy replaces the state and
-    /// the signals of the operations are emitted, unless another session is current then.
+    /// running batch step of the device has ended. A stop before that gives an empty outcome. When the
+    /// outcome is taken, the copy replaces the state and the signals of the operations are emitted, unless
+    /// another session is current then.
     [[nodiscard]] PageStep step(const SessionJob &job);
 
-    /// The value of a key of SessionKey, EncodeKey or CameraKey. A channel name and
-    /// SessionKey::connectedChannels are requested from the device, which blocks; other values are those that
-    /// were read. Additional keys: "loginHandle" (handle of the current session, or 0), "sessionDevice" (its
-    /// address and port, empty without a session) and "library" (a map of the capabilities of the network
-    /// library, see LibraryKey). Main thread, except for "loginHandle", which may be read on any thread.
+    /// The value of a key of SessionKey, EncodeKey or CameraKey. `channel` (from 0) is used for the names of
+    /// channels only. A channel name and SessionKey::connectedChannels are requested from the device, which
+    /// blocks; other values are those that were read. Additional keys: "loginHandle" (handle of the current
+    /// session, or 0), "sessionDevice" (its address and port, empty without a session) and "library" (a map
+    /// of the capabilities of the network library, see LibraryKey). Main thread, except for "loginHandle",
+    /// which may be read on any thread.
     [[nodiscard]] QVariant value(const QString &key, const QVariant &channel) const;
 
 private:

@@ -29,11 +29,12 @@ public:
                   const DeviceReservations &reservations, CurrentSession &session,
                   BackEndSignals &backEndSignals);
 
-    /// Logs in for the current session and emits signalCDeviceHighLevelLoginRet. Returns a LoginResult;
-    /// NetworkFailure, without a signal, if there is no network library. After a failure the earlier session
-    /// is kept. Blocks for the device, and before that until its running batch step has ended.
+    /// Logs in for the current session. Returns a LoginResult and emits signalCDeviceHighLevelLoginRet with
+    /// it; NetworkFailure if there is no network library. After a failure the earlier session is kept. Blocks
+    /// for the device, and before that until its running batch step has ended.
     int findAndLogin(const QString &ipport, const QString &account, const QString &password);
-    /// The step of findAndLogin(). The session begins when the outcome is taken.
+    /// The step of findAndLogin(). Its value is the LoginResult. The session begins and the signal is emitted
+    /// when the outcome is taken.
     [[nodiscard]] PageStep loginStep(const QString &ipport, const QString &account, const QString &password);
 
     /// Logs in and out to check an account; the current session is not affected. Any thread; blocks for the
@@ -42,7 +43,8 @@ public:
     [[nodiscard]] int check(const QString &ipport, const QString &account, const QString &password) const;
 
     /// Logs in with the account of the device, reads its details, and logs out. Returns the map of
-    /// loginDetail() with "loginResult" (a LoginResult). Blocks for the device.
+    /// loginDetail() with "loginResult" (a LoginResult), which is the only key after a failed login. Blocks
+    /// for the device.
     [[nodiscard]] QVariantMap readDetail(const QString &ipport);
     /// The step of readDetail(). Its value is the map; taking the outcome also sets the MAC of a row without
     /// one.
@@ -53,14 +55,15 @@ public:
     [[nodiscard]] OwnSessionStep ownSessionStep(const OwnSessionOrder &order);
 
     /// Makes the current session one with this device: keeps it if the device responds in it, otherwise logs
-    /// in. Returns immediately; signalCDeviceSessionOpened follows, unless the request is replaced or stopped
-    /// before. See CDeviceBase::openSession() for the parameters.
+    /// in. Returns immediately; signalCDeviceSessionOpened follows, after signalCDeviceHighLevelLoginRet
+    /// unless the session is kept. No signal follows if the request is replaced or stopped before, or if
+    /// another page logs in to another device. See CDeviceBase::openSession() for the parameters.
     void openSession(const QString &ipport, const QString &account, const QString &password,
                      bool readsChannels, bool isGivenNow);
     /// Drops the result of a pending openSession(): its login is logged out, and no signal is emitted.
     void stopOpeningSession() { ++m_lastRequest; }
     /// Requests a response in the current session; signalCDeviceSessionChecked reports later whether there
-    /// was one.
+    /// was one (false without a session).
     void checkSession();
 
 private:

@@ -16,11 +16,14 @@ class DeviceStore;
 class InspectionOperations
 {
 public:
-    /// `logins` must outlive this object, which must outlive its steps.
+    /// `logins` must outlive this object, which must outlive its steps. `isUpgradingAt` takes "address:port".
     InspectionOperations(std::shared_ptr<DeviceStore> store, sdk::SdkLibraries libraries,
                          const DeviceLogins &logins, UpgradeCheck isUpgradingAt);
 
-    /// See CDeviceBase::inspectionStep().
+    /// A step that logs in to the device with its account, reads its state, passes it to `order.inspected`
+    /// (also if it is incomplete) and logs out. Its result is NotInitialised or Upgrading, without a request,
+    /// the result of a failed login, NotDone after a stop or a deadline before the login, or NetworkFailure
+    /// if the device stops responding or the deadline passes later.
     [[nodiscard]] DeviceStep step(const InspectionOrder &order) const;
 
 private:

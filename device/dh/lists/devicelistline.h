@@ -63,7 +63,7 @@ inline constexpr QLatin1StringView notInitialised("NOT INITIALIZED");
 /// One device of a list file. The values are as in the file: they may be too long or invalid.
 struct DeviceListLine
 {
-    int number = 0;                ///< line or row number in the file, from 1
+    int number = 0;                ///< number of the line, row or device in the file, from 1
     bool hasTooManyFields = false; ///< more fields than headers: the fields are ambiguous and not kept
     std::array<QString, listColumnCount> values; ///< by ListColumn; empty for a missing field
 

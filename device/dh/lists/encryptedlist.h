@@ -29,7 +29,8 @@ inline constexpr qsizetype tagSize = 16;
 
 /// The list as an encrypted file with a new random salt and nonce. The passphrase is normalised (NFC), so
 /// that it may be typed on different systems. The plain text is {"devices": [[field, ...], ...]} with the
-/// fields in the order of ListColumn. Empty if the cipher fails. Takes about half a second.
+/// fields in the order of ListColumn. Empty if the cipher or the generation of random bytes fails. Takes
+/// about half a second.
 [[nodiscard]] QByteArray encryptedListOf(const std::vector<DeviceListLine> &lines, const QString &passphrase);
 
 /// Reads an encrypted list. Errors are in DeviceListContents::refusal. The header is checked before the key

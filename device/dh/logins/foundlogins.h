@@ -18,8 +18,8 @@
 class DeviceStore;
 
 /// Logs in to the devices that a search finds, sets "loggedIn" of their rows after a success and fills empty
-/// fields: model, version, MAC (unless another row has it), and the serial number of the search record.
-/// Existing values are kept. The logins are logged out again.
+/// fields: model, version and MAC (unless another row has it). If one of these was filled, it also fills the
+/// serial number of the search record. Existing values are kept. The logins are logged out again.
 ///
 /// A device gets one login in a search. The account that a device refused last is not sent to it again, also
 /// not in later searches, since wrong passwords lock accounts. Logins run on up to 8 threads of this object.
@@ -53,7 +53,8 @@ public:
     void requestStop();
 
 Q_SIGNALS:
-    /// A login has filled fields of a row. Emitted on a thread of this object.
+    /// A login has filled fields of a row; not emitted if only "loggedIn" was set. Emitted on a thread of
+    /// this object.
     void rowsChanged();
 
 private:

@@ -31,8 +31,10 @@ public:
     /// signalCDeviceAddSingleDeviceToTable after a success. Returns a LoginResult. Blocks for the device.
     [[nodiscard]] int add(const RowLoginRequest &request);
 
-    /// A step that logs in to the device and adds its row, see RowAdding::addNew(). `ports` opens local ports
-    /// to devices behind NAT; null: such devices cannot be added.
+    /// A step that logs in to the device and adds its row. The result is a LoginResult: AlreadyListed,
+    /// without a request, if a row has the address and port of the device. `ports` opens local ports to
+    /// devices behind NAT; null: such devices cannot be added (NetworkFailure). The store must outlive the
+    /// step.
     [[nodiscard]] DeviceStep addingStep(const DeviceToAdd &device,
                                         const std::shared_ptr<P2PPorts> &ports) const;
 
@@ -48,7 +50,8 @@ public:
     [[nodiscard]] QVariantMap rowAt(const QString &ipport) const;
     /// The row of this name, of either list; empty if there is none (deviceRow).
     [[nodiscard]] QJsonObject rowNamed(const QString &name) const;
-    /// The row of this name with values of its search record, without its password (getDeviceDetail).
+    /// The row of this name with values of its search record, without its password; empty if there is none
+    /// (getDeviceDetail).
     [[nodiscard]] QVariantMap detail(const QString &mac) const;
     /// The same for the IPv4 row at an address (getDeviceDetailByAddress).
     [[nodiscard]] QVariantMap detailAt(const QString &ipport) const;

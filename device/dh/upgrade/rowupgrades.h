@@ -46,8 +46,9 @@ public:
     /// file as well, unless another document is open.
     [[nodiscard]] DeviceStep repeatedDocumentStep(const QString &mac);
 
-    /// The file and version that step() would use for each of these rows, and why it would refuse. Reads the
-    /// headers of the files.
+    /// The file and version that step() would use for each of these rows, and why it would refuse the file
+    /// (NoFile also for a name without a row). Running upgrades are not considered. Reads the headers of the
+    /// files.
     [[nodiscard]] QList<PlannedUpgrade> planned(const QStringList &macs) const;
 
     /// Names of the rows (IPv4 and IPv6) whose upgrade failed and may succeed if repeated.

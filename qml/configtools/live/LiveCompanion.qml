@@ -29,8 +29,8 @@ Item {
 
     /// Whether another account or password may help: NoSuchAccount, WrongPassword, AccountLoggedIn or SessionEnded.
     readonly property bool accountRefused: result === 1 || result === 2 || result === 4 || result === 16
-    /// NetworkFailure: the login is retried with growing delays. After other failures it is not, as repeated wrong
-    /// passwords lock the account.
+    /// NetworkFailure: without a session, the login is retried with growing delays. After other failures it is not, as
+    /// repeated wrong passwords lock the account.
     readonly property bool unreachable: result === 5
 
     property double lastResponse: 0  // time of the last response, in ms since 1970

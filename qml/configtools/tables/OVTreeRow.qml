@@ -16,13 +16,13 @@ Rectangle {
     required property bool isGroup
     required property bool isOpen  // of a group: its devices are shown
     required property int deviceCount  // of a group
-    required property string failure  // see OVFailedSign
-    required property bool onlyNotDone  // see OVFailedSign
+    required property string failure  // failed batches of the device and reasons, one for each line; "" for none
+    required property bool onlyNotDone  // no batch failed, but some did not reach the device
     required property bool isNew  // the last search found the device for the first time
-    property var describer  // see OVTree
+    property var describer  // object with resultText(result, ipport), which returns the text of the tool tip
     property bool current: false  // row of the keyboard
     property bool busy: false  // a spinner replaces the result
-    property bool choosing: false  // see OVTree
+    property bool choosing: false  // a click on a device chooses it: only `chosen` colours the row
     property bool chosen: false  // the device is the chosen one
     property string pressedIdentity  // identity at the press of a mouse button, "" without a press
     signal clicked(string identity)  // outside of the check box

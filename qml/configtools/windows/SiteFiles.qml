@@ -1,4 +1,5 @@
-// Opens and saves sites: file dialogs, questions and messages. Refused while work needs the device list.
+// Opens and saves sites: file dialogs, questions and messages. While work needs the device list or an upgrade runs, a
+// site can be saved, but not opened or replaced.
 import QtQuick
 import configtools
 

@@ -61,13 +61,14 @@ public:
     /// Checks the credentials of a request over `route`, runs its command, applies the HTTP faults of the
     /// device to the response, and adds the request to the site's log as "HTTP". Returns the response:
     /// Unauthorized with a challenge for invalid credentials, MethodNotAllowed for a method other than GET
-    /// and POST, BadGateway if nothing listens at the address and port, BadRequest or NotImplemented for an
-    /// address that the proxy does not support. Its status is None if the device is silent.
+    /// and POST, BadGateway if nothing listens at the address and port, BadRequest for an invalid address,
+    /// BadRequest or NotImplemented for one that the proxy does not support, otherwise that of
+    /// runHttpCommand(). Its status is None if the device is silent.
     [[nodiscard]] HttpResponse respond(const HttpRoute &route, const HttpRequest &request) const;
 
     /// Decides about a request "CONNECT" to the proxy and adds it to the site's log as "HTTP". A tunnel leads
-    /// to the HTTPS port of a device. It is refused for any other destination. The first tunnel to a device
-    /// generates its key.
+    /// to the HTTPS port of a device. It is refused for any other destination, and if the device cannot get a
+    /// key. The first tunnel to a device generates its key.
     [[nodiscard]] HttpTunnel openTunnel(const HttpRequest &request);
 
 private:

@@ -12,7 +12,8 @@
 namespace sdk::demo {
 
 /// Thread-safe. Handles are not reused. Streams of the same channel and kind share a source, which ends with
-/// the last stream.
+/// the last stream. Handlers run on the thread of the source, unless setHandler() states
+/// otherwise.
 class LiveStreams
 {
 public:
@@ -29,7 +30,9 @@ public:
 
     // Those that return a bool return false for an unknown handle.
 
-    /// As LiveStream::setHandler().
+    /// Sets the handler; null removes it. Waits for a running call of the previous handler, so it must not be
+    /// called from a handler. If the stream has ended while it had no handler, `handler` is called with
+    /// RealDataType::End during this call.
     bool setHandler(std::int64_t handle, RealDataHandler handler, void *user);
 
     /// Makes the next frame of the stream a key frame.

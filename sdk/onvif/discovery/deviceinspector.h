@@ -9,9 +9,8 @@
 
 namespace sdk::onvif {
 
-/// Completes `device` by requests without a login to `FoundDevice::service`, and blocks up to `wait`. If the
-/// device returns its users and refuses its information, that request is repeated once with an empty login.
-/// `http` sends the requests; HttpClient::cancel() ends them. Any thread may call it. Sets `state`:
+/// Completes `device` by requests without a login to `FoundDevice::service`, and blocks up to `wait`. `http`
+/// sends the requests; HttpClient::cancel() ends them. Any thread may call it. Sets `state`:
 /// Uninitialised if the device returns both its users and its information without a login, otherwise
 /// Initialised. Sets FoundDevice::model and the fields after it for an uninitialised device only. Sets an
 /// empty `mac` and `isNeighbour` from the neighbour table of this host; if the table lacks the address, `mac`

@@ -36,7 +36,8 @@ public:
     /// Counts a message or an announcement that did not lead to a reported device.
     void noteDiscarded(const std::string &localAddress, SearchDiscard reason);
 
-    /// Counts a request to a single address. `error` is the system's error number, 0 if the request was sent.
+    /// Counts a request to a single address, also one that was not sent. `error` is the system's error
+    /// number, 0 if the request was sent. Errors that mean "no route" are counted in addition.
     void noteAskedAddress(int error);
     /// Counts a device that was reported by a search of single addresses.
     void noteRespondingAddress();

@@ -123,7 +123,8 @@ public:
 
     /// Changes the encoder `encoder.token` to the values of `encoder`. An empty profile and a key interval of
     /// 0 are not written; in the older service, a codec that the encoder has no settings of gets "Main" and
-    /// 1. The frame rate and the bit rate are not written to a device that does not report a rate control.
+    /// 1. In the newer service, both are removed for JPEG. The frame rate and the bit rate are not written to
+    /// a device that does not report a rate control; the older service gets a whole frame rate.
     [[nodiscard]] ServiceOutcome setVideoEncoder(const VideoEncoder &encoder);
     /// Changes the encoder `encoder.token` to the values of `encoder`.
     [[nodiscard]] ServiceOutcome setAudioEncoder(const AudioEncoder &encoder);

@@ -1,5 +1,5 @@
-// Shows the complete response of a device, or another long text. The text can be copied, as a whole or by line, and
-// saved to a file. The list shows long lines in parts and at most 100,000 lines; copy and save use the complete text.
+// Shows the complete response of a device, or another long text. The list shows long lines in parts and at most 100,000
+// lines. Ctrl+C copies the current entry of the list. The buttons copy the complete text and save it to a file.
 import QtQuick
 import QtQuick.Templates as T
 import configtools

@@ -1,5 +1,5 @@
 // The section for daylight saving of the ticked devices: switched on or off, start and end. It shows no values of
-// devices and requests the command "dstConfig".
+// devices and requests the command "dstConfig" with the keys of daylightSavingFrom().
 import QtQuick
 import configtools
 

@@ -1,4 +1,5 @@
-// The tab that sets the video standard of the ticked devices. It does not show their current standard.
+// The tab that sets the video standard of the ticked devices (command "videoStandard"). It does not show their current
+// standard.
 import QtQuick
 import configtools
 
