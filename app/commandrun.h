@@ -12,8 +12,7 @@
 /// the settings of the application, and with the standard streams. Returns the exit code of the process: 0
 /// all done; 1 at least one device failed, was skipped or was not found, or a result was not written; 2
 /// unknown command, invalid arguments or no password; 3 the work could not start. Also runs "help". Texts are
-/// in English, for scripts. Requires a QCoreApplication. Main thread; blocks, and runs the event loop. Called
-/// once in a process.
+/// in English, for scripts. Requires a QCoreApplication. Main thread; blocks, and runs the event loop.
 [[nodiscard]] int runCommand(const QStringList &arguments);
 
 /// Whether the command in the arguments of the process draws text: runCommand() then requires a

@@ -25,9 +25,9 @@ public:
 
     /// Reads a device list file on a separate thread and returns immediately. Then starts a batch with this
     /// title that logs in to the devices of the list and adds their rows. `path` is a path or a "file:///"
-    /// URL. importBegan() or importRefused() follows; if another batch is running when the file is read,
-    /// Batches::refused() follows instead, and nothing is imported. Does nothing while a list is being read.
-    /// `passphrase` is that of an encrypted list.
+    /// URL. importBegan() or importRefused() follows. If the batch cannot start, such as while another one is
+    /// running, Batches::refused() follows instead, and nothing is imported. Does nothing while a list is
+    /// being read. `passphrase` is that of an encrypted list.
     Q_INVOKABLE void importList(const QString &title, const QString &path, const QString &passphrase = {});
 
     /// The lines without success of a batch of importBegan(), or of its retry, as maps made by

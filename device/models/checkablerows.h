@@ -25,7 +25,7 @@ public:
     Q_INVOKABLE void setRangeChecked(int first, int last, bool checked);
     Q_INVOKABLE void setAllChecked(bool checked); ///< checks or unchecks all rows
 
-    /// The identities (see identityOf()) of the checked rows, in the order of the rows.
+    /// The identities of the checked rows ("identity", or "mac" if that is empty), in the order of the rows.
     Q_INVOKABLE [[nodiscard]] QStringList checkedIdentities() const;
 
 Q_SIGNALS:

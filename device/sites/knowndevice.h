@@ -11,7 +11,9 @@
 namespace SiteKey {
 inline constexpr QLatin1StringView group("group");       ///< text: group of the device; missing for none
 inline constexpr QLatin1StringView presence("presence"); ///< int: Presence; missing for Presence::Listed
-inline constexpr QLatin1StringView lastSeen("lastSeen"); ///< text: last time a search found an absent device
+/// Text in the user's format, of absent devices only: the last time that a search has found the device.
+/// Missing if unknown.
+inline constexpr QLatin1StringView lastSeen("lastSeen");
 } // namespace SiteKey
 
 /// The relation between the last list of the site and the present one.

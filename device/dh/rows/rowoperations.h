@@ -43,8 +43,9 @@ public:
     /// Sets a value of the row `mac`, of either list, or without such a row of the first row at `ipport`.
     /// Returns whether there is such a row. A new "name" is signalled later (updataDeviceInfo).
     bool update(const QString &key, const QVariant &newValue, const QString &mac, const QString &ipport);
-    /// The account that a login would use, a map with the keys of AccountKey. `name` is the name of a row or
-    /// an "address:port"; without a row the default account is returned (accountOf).
+    /// The account that a login would use, a map of "account", "password", and the bools "isStored",
+    /// "isDefault" and "isFollowing" (see AccountKey). `name` is the name of a row or an "address:port";
+    /// without a row the default account is returned (accountOf).
     [[nodiscard]] QVariantMap accountOf(const QString &name) const;
     /// The IPv4 row at an address, with its password; empty if there is none (getDeviceInfo).
     [[nodiscard]] QVariantMap rowAt(const QString &ipport) const;

@@ -37,9 +37,10 @@ public:
     /// version).
     void start(const QStringList &macs);
 
-    /// The step of an upgrade, see UpgradeRunner::step(). `mac` is the name of a row, or the address and
-    /// port of a document line without a row. The row shows immediately that it is waiting. For an unknown
-    /// name the step returns NotDone.
+    /// The step of an upgrade. `mac` is the name of a row, or the address and port of a document line without
+    /// a row. The row shows immediately that it is waiting. The result is that of
+    /// UpgradeTools::batchResult(): a LoginResult or a code of an upgrade in loginresult.h. Upgrading, with
+    /// the row unchanged, if the device is being upgraded already; NotDone for an unknown name.
     [[nodiscard]] DeviceStep step(const QString &mac);
 
     /// step() for a device that was upgraded from a document before: the result is written to the document's

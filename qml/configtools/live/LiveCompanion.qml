@@ -95,7 +95,7 @@ Item {
     }
 
     /// Saves a snapshot of a channel (from 0) to the folder `folder` in the folder of snapshots. snapshotTaken()
-    /// follows, unless the session ends before.
+    /// follows, unless the session ends before. Does nothing without a session.
     function takeSnapshot(channel, folder) {
         session.takeImage(channel, folder);
     }

@@ -10,7 +10,7 @@ OVBanner {
     required property int totalCount  // the same with known devices that are not listed
     required property SearchReports searchReports
     required property bool searching  // a search runs
-    /// Whether there is a reason for the notice.
+    /// Whether there is a reason for the notice: the owner shows it then. The close button removes the reason.
     readonly property bool applies: searchReports.incomplete || searchReports.missing > 0 || nothingFound
     /// The last search has found nothing, so that all rows are those of known devices.
     readonly property bool nothingFound: listedCount === 0 && totalCount > 0 && searchReports.available && !searching
