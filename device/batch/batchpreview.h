@@ -16,8 +16,9 @@ class CDeviceFactory;
 ///
 /// Keys of a row: "num" (int from 1), "title" (name and model), "mac", "ipport", "identity", "checked"
 /// (bool), "action" (empty if the row is skipped or unchecked), "note" (in the user's language) and "kind" (a
-/// Kind; Planned if unchecked). "identity" is the name of the device's row unless a function states
-/// otherwise.
+/// Kind; Planned if unchecked); as far as they are known also "type", "model", "vision" (version), "state"
+/// (bool: initialised), "upgraderes" and "lost" of the device's row. "identity" is the name of the device's
+/// row unless a function states otherwise.
 class BatchPreview : public DeviceSelection
 {
     Q_OBJECT

@@ -36,7 +36,7 @@ struct DeviceTableRow
 struct DeviceTableFilter
 {
     bool showInitialised = true;
-    bool showUninitialised = true;
+    bool showUninitialised = true; ///< also rows without a "state"
     /// A text in the values (see containsText()), the note or the group of a row, ignoring the case; empty:
     /// all rows.
     QString searchText = {};
@@ -50,6 +50,7 @@ struct DeviceTableOrder
     /// address.
     QString key = {};
     Qt::SortOrder direction = Qt::AscendingOrder;
+    /// The position of rows without an IPv4 address in an order by "ipport".
     DeviceOrder::OddAddresses oddAddresses = DeviceOrder::OddAddresses::Last;
 };
 

@@ -58,7 +58,8 @@ public:
 
     /// Replaces the marks; null for none. Emits the signal `replaced` of `model` and calls its function
     /// `read`. From then on, `read` is called at each change of the marks, until the next follow(). Does
-    /// nothing if the object is the same. `model` owns this object.
+    /// nothing if the object is the same. `model` owns this object. If the marks are destroyed, there are
+    /// none any more; `read` is not called then.
     template<typename Model>
     void follow(FailedMarks *marks, Model *model, void (Model::*replaced)(), void (Model::*read)())
     {

@@ -15,8 +15,8 @@ struct ImageOrder
 
     QString ipport;       ///< "address:port" of the device
     QString folder;       ///< absolute path, for "<channel>.jpg" (from 0); created if missing
-    int onlyChannel = -1; ///< the only channel, from 0; negative: the first maximumChannels channels
-    int mostChannels = maximumChannels; ///< 1 to maximumChannels
+    int onlyChannel = -1; ///< the only channel, from 0; negative: the first mostChannels channels
+    int mostChannels = maximumChannels; ///< 1 to maximumChannels; without effect with `onlyChannel`
     /// Maximum number of attempts for an image; 0: four times the usual number, and the usual number after
     /// the first channel without an image.
     int tries = 0;

@@ -6,8 +6,8 @@ import configtools
 OVTableCell {
     id: root
 
-    readonly property bool absent: row?.absent ?? false
-    readonly property bool missing: absent && row.presence === KnownDevices.Missing
+    readonly property bool absent: row?.absent ?? false  // the device is known but not in the list
+    readonly property bool missing: absent && row.presence === KnownDevices.Missing  // a complete search did not find it
 
     Rectangle {
         id: dot

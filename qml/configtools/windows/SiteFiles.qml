@@ -6,9 +6,9 @@ import configtools
 Item {
     id: root
 
-    required property BusyState busyState
-    required property var fileDialogs  // a FileDialogs
-    required property KnownDevices knownDevices
+    required property BusyState busyState  // running work of all pages, and the actions that it blocks
+    required property var fileDialogs  // a FileDialogs: the desktop's dialogs for files and folders
+    required property KnownDevices knownDevices  // the present site; opens and saves the files
     readonly property var nameFilters: [qsTr("现场文件 (*.site)")]
     signal notify(string message, int severity)  // severity: of OVToast
 

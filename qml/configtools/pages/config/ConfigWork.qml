@@ -27,7 +27,8 @@ SessionWork {
         run(text, begin, next);
     }
 
-    /// Marks the operation as ended without calling `next`, after SessionWork has dropped it.
+    /// Marks the operation as ended without calling `next`, after SessionWork has dropped it, and runs a postponed
+    /// action.
     function abandon() {
         next = null;
         finish();
