@@ -26,8 +26,8 @@ public:
     /// The kind of a file with this path, by its suffix. The file need not exist.
     Q_INVOKABLE [[nodiscard]] static Kind kindOf(const QString &path);
 
-    /// Why the window does not take the files, in the user's language; empty if it does. Refuses none and
-    /// several files, files that are not local, folders, missing files, and files of another kind.
+    /// Why the window does not take the files, in the user's language; empty if it does. It takes exactly one
+    /// file, which must be local, exist, not be a folder, and have a kind other than Refused.
     Q_INVOKABLE [[nodiscard]] static QString refusalOf(const QList<QUrl> &urls);
 
     /// The local path of the first file; empty if it is not local or there is none.

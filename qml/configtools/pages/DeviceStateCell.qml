@@ -7,7 +7,7 @@ OVTableCell {
     id: root
 
     readonly property bool absent: row?.absent ?? false  // the device is known but not in the list
-    readonly property bool missing: absent && row.presence === KnownDevices.Missing  // a complete search did not find it
+    readonly property bool missing: absent && row.presence === KnownDevices.Missing  // not found by a complete search
 
     Rectangle {
         id: dot

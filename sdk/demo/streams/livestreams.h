@@ -12,8 +12,7 @@
 namespace sdk::demo {
 
 /// Thread-safe. Handles are not reused. Streams of the same channel and kind share a source, which ends with
-/// the last stream. Handlers run on the thread of the source, unless setHandler() states
-/// otherwise.
+/// the last stream. Handlers run on the thread of the source, unless setHandler() states otherwise.
 class LiveStreams
 {
 public:
