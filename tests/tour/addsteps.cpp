@@ -152,6 +152,8 @@ void walkChangingFavourites(Driver &driver)
     driver.key(Qt::Key_Escape);
     driver.check(favourites(driver) == 2, u"nothing is deleted without confirmation"_s);
     for (int left = 1; left >= 0; --left) {
+        driver.await(u"favourites can be deleted"_s,
+                     [&] { return driver.require(u"deleteFavourite0"_s)->isEnabled(); });
         driver.click(u"deleteFavourite0"_s);
         driver.require(u"messageText"_s);
         driver.click(u"okButton"_s);

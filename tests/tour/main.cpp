@@ -1,6 +1,9 @@
-// ConfigTools LANGUAGE FOLDER [STAGE]: plays the tour, or one stage of it, in a language and saves its images
-// in a folder. Two stages are not part of the tour: "lab" runs on the devices of the current network
-// (scripts/lab), without the simulated site, and "soak" repeats its work for hours (scripts/soak).
+// ConfigTools LANGUAGE FOLDER [STAGE...]: plays the tour, or these stages of it, in a language and saves the
+// images of each stage in FOLDER/STAGE. Two stages are not part of the tour: "lab" runs on the devices of the
+// current network (scripts/lab), without the simulated site, and "soak" repeats its work for hours
+// (scripts/soak).
+//
+// ConfigTools --check-stages STAGE...: fails unless these are all stages of the tour.
 //
 // Several processes take part: the supervisor, the driven application, a second instance of it, and the
 // instance that replaces the application after a change of the language or on opening the demo site.
@@ -29,6 +32,7 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstdlib>
 
 using namespace Qt::StringLiterals;
@@ -58,20 +62,10 @@ void countWarnings(QtMsgType type, const QMessageLogContext &context, const QStr
     previousHandler(type, context, message);
 }
 
-QString otherLanguage(const QString &language)
-{
-    return language == QLatin1String("zh_CN") ? u"en_US"_s : u"zh_CN"_s;
-}
-
 /// Written by the last process for the supervisor.
 QString resultFile(const QString &folder)
 {
     return folder + u"/result.txt"_s;
-}
-
-QString restartFile(const QString &folder)
-{
-    return folder + u"/restarted.txt"_s;
 }
 
 void removeEarlierSettings(const QString &stage, const QString &language)
@@ -133,12 +127,16 @@ bool followed(const QString &folder)
     return !result.startsWith("FAILED");
 }
 
+/// Plays a stage and prints its duration. Its images are in `folder`.
 bool playStage(const QString &stage, const QString &language, const QString &folder)
 {
+    QDir(folder).removeRecursively();
+    QDir().mkpath(folder);
     QElapsedTimer timer;
     timer.start();
-    const bool isFollowed = stage == u"program" || stage == u"nodevices";
-    const bool succeeded = runStage(stage, language, folder) && (!isFollowed || followed(folder));
+    const Stage *known = stageOfTour(stage);
+    const bool isReplaced = known && known->isReplaced;
+    const bool succeeded = runStage(stage, language, folder) && (!isReplaced || followed(folder));
     if (succeeded)
         QTextStream(stdout) << "Stage " << stage << ": " << timer.elapsed() / 1000 << " s" << Qt::endl;
     else
@@ -146,19 +144,33 @@ bool playStage(const QString &stage, const QString &language, const QString &fol
     return succeeded;
 }
 
-/// Plays the stages, then the remaining subjects. At the end of these the application restarts in another
-/// language.
-int watch(const QString &language, const QString &folder)
+/// Plays stages until one fails.
+int watch(const QStringList &stages, const QString &language, const QString &folder)
 {
-    QDir(folder).removeRecursively();
-    QDir().mkpath(folder);
-    for (const Stage &stage : stagesOfTour()) {
-        if (!playStage(stage.name, language, folder + u'/' + stage.name))
-            return EXIT_FAILURE;
-    }
-    const bool succeeded = playStage(u"program"_s, language, folder);
-    QFile::remove(restartFile(folder));
+    const bool succeeded = std::ranges::all_of(
+        stages, [&](const QString &stage) { return playStage(stage, language, folder + u'/' + stage); });
     return succeeded ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+QStringList namesOfStages()
+{
+    QStringList names;
+    for (const Stage &stage : stagesOfTour())
+        names.append(stage.name);
+    return names;
+}
+
+/// The tests of the build list the stages again, divided into runs that take place in parallel.
+int checkStages(QStringList stages)
+{
+    QStringList expected = namesOfStages();
+    stages.sort();
+    expected.sort();
+    if (stages == expected)
+        return EXIT_SUCCESS;
+    QTextStream(stderr) << "These stages are played: " << stages.join(u' ')
+                        << "\nThe tour has these stages: " << expected.join(u' ') << Qt::endl;
+    return EXIT_FAILURE;
 }
 
 /// In a second instance: prints the text of its message box and closes it.
@@ -175,27 +187,6 @@ void closeMessageBox(const QString &folder)
         QTest::mouseClick(box->findChild<QPushButton *>(), Qt::LeftButton);
     });
     closer->start(100);
-}
-
-void drive(Driver &driver, sdk::demo::DemoSite &site, const QString &language, const QString &folder)
-{
-    walkFirstSearch(driver);
-    walkTable(driver);
-    walkWindow(driver);
-    walkConfiguration(driver, site);
-    walkChannelNames(driver, site, folder + u"/details"_s);
-    walkLive(driver, site, folder + u"/live"_s);
-    walkCommands(driver, folder + u"/commands"_s);
-    walkAdding(driver);
-    walkSearchSettings(driver);
-    walkDevices(driver);
-    walkLists(driver, folder + u"/lists"_s);
-    walkUpgrade(driver, site, folder + u"/upgrade"_s);
-    walkSystem(driver, site);
-    walkSecondStart(driver, folder);
-    driver.check(warnings == 0, u"no warning was logged"_s);
-    driver.check(writeFile(restartFile(folder), "restarted"), u"the restart is noted"_s);
-    walkLanguageChange(driver, otherLanguage(language));
 }
 
 void driveStage(Driver &driver, sdk::demo::DemoSite *site, const Stage &stage)
@@ -247,12 +238,13 @@ QByteArray driveDemoSite(Driver &driver)
 /// The application's arguments for a stage.
 QStringList argumentsFor(const QByteArray &stage, const QString &folder)
 {
-    QString scene = u"office"_s;
-    if (const Stage *known = stageOfTour(QString::fromLatin1(stage)))
-        scene = known->scene == emptyScene() ? writeEmptyScene(folder) : known->scene;
     QStringList arguments = {u"ConfigTools"_s};
-    if (stage != "lab" && !scene.isEmpty())
-        arguments.append(u"--demo="_s + scene);
+    if (stage == demoSiteStage)
+        arguments.append(u"--demo=office"_s);
+    const Stage *known = stageOfTour(QString::fromLatin1(stage));
+    if (known && !known->scene.isEmpty())
+        arguments.append(u"--demo="_s +
+                         (known->scene == emptyScene() ? writeEmptyScene(folder) : known->scene));
     return arguments;
 }
 
@@ -275,12 +267,10 @@ int runProgram(const QByteArray &stage, const QString &language, const QString &
             driveLab(driver);
         else if (stage == demoSiteStage)
             result = driveDemoSite(driver);
-        else if (const Stage *known = stageOfTour(QString::fromLatin1(stage)))
-            driveStage(driver, site, *known);
         else if (QFile::exists(restartFile(folder)))
             result = driveRestarted(driver, language, folder);
-        else
-            drive(driver, *site, language, folder);
+        else if (const Stage *known = stageOfTour(QString::fromLatin1(stage)))
+            driveStage(driver, site, *known);
     });
     return QApplication::exec();
 }
@@ -298,19 +288,16 @@ int main(int argc, char *argv[])
         stage = demoSiteStage;
         arguments = {arguments.at(0), QString(), qEnvironmentVariable(folderVariable)};
     }
-    if (arguments.size() != 3 && arguments.size() != 4) {
-        QTextStream(stderr) << "usage: ConfigTools LANGUAGE FOLDER [STAGE]\n";
+    if (arguments.value(1) == u"--check-stages")
+        return checkStages(arguments.sliced(2));
+    if (arguments.size() < 3) {
+        QTextStream(stderr) << "usage: ConfigTools LANGUAGE FOLDER [STAGE...]\n";
         return 2;
     }
     const QString &language = arguments.at(1);
     const QString folder = QDir(arguments.at(2)).absolutePath();
-    if (stage.isEmpty() && arguments.size() == 4)
-        return QDir(folder).removeRecursively() && QDir().mkpath(folder) &&
-                       playStage(arguments.at(3), language, folder)
-                   ? EXIT_SUCCESS
-                   : EXIT_FAILURE;
     if (stage.isEmpty())
-        return watch(language, folder);
+        return watch(arguments.size() == 3 ? namesOfStages() : arguments.sliced(3), language, folder);
     if (stage == "second")
         closeMessageBox(folder);
     qputenv(folderVariable, folder.toLocal8Bit());

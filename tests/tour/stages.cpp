@@ -1,5 +1,7 @@
 #include "tests/tour/stages.h"
 
+#include "app/localconfig.h"
+#include "tests/files/filecontents.h"
 #include "tests/tour/driver/driver.h"
 #include "tests/tour/steps.h"
 #include "tests/tour/users/usersteps.h"
@@ -8,6 +10,16 @@
 
 using namespace Qt::StringLiterals;
 using sdk::demo::DemoSite;
+
+namespace {
+
+void leaveForOtherLanguage(Driver &driver)
+{
+    driver.check(writeFile(restartFile(driver.imageFolder()), "restarted"), u"the restart is noted"_s);
+    walkLanguageChange(driver, otherLanguage(CLocalConfig::getinstance()->getLanguage()));
+}
+
+} // namespace
 
 const QList<Stage> &stagesOfTour()
 {
@@ -34,7 +46,8 @@ const QList<Stage> &stagesOfTour()
              }},
         {.name = u"nodevices"_s,
          .drive = [](Driver &driver, DemoSite *) { walkNoDevices(driver); },
-         .leave = walkToDemoSite},
+         .leave = walkToDemoSite,
+         .isReplaced = true},
         {.name = u"impatient"_s,
          .scene = u"office"_s,
          .drive =
@@ -103,8 +116,71 @@ const QList<Stage> &stagesOfTour()
              [](Driver &driver, DemoSite *site) {
                  takeManualImages(driver, *site);
              }},
+        {.name = u"table"_s,
+         .scene = u"office"_s,
+         .drive =
+             [](Driver &driver, DemoSite *) {
+                 walkFirstSearch(driver);
+                 walkTable(driver);
+                 walkWindow(driver);
+             }},
+        {.name = u"configuration"_s,
+         .scene = u"office"_s,
+         .drive =
+             [](Driver &driver, DemoSite *site) {
+                 walkFirstSearch(driver);
+                 walkConfiguration(driver, *site);
+                 walkChannelNames(driver, *site, driver.imageFolder() + u"/details"_s);
+             }},
+        {.name = u"live"_s,
+         .scene = u"office"_s,
+         .password = u"Office-2024"_s,
+         .drive =
+             [](Driver &driver, DemoSite *site) {
+                 walkFirstSearch(driver);
+                 walkLive(driver, *site, driver.imageFolder() + u"/windows"_s);
+                 walkCommands(driver, driver.imageFolder() + u"/commands"_s);
+             }},
+        {.name = u"devices"_s,
+         .scene = u"office"_s,
+         .password = u"Office-2024"_s,
+         .drive =
+             [](Driver &driver, DemoSite *) {
+                 walkFirstSearch(driver);
+                 walkAdding(driver);
+                 walkSearchSettings(driver);
+                 walkDevices(driver);
+                 walkLists(driver, driver.imageFolder() + u"/lists"_s);
+             }},
+        {.name = u"upgrade"_s,
+         .scene = u"office"_s,
+         .drive =
+             [](Driver &driver, DemoSite *site) {
+                 walkFirstSearch(driver);
+                 walkUpgrade(driver, *site, driver.imageFolder() + u"/files"_s);
+             }},
+        {.name = u"system"_s,
+         .scene = u"office"_s,
+         .drive =
+             [](Driver &driver, DemoSite *site) {
+                 walkFirstSearch(driver);
+                 walkSystem(driver, *site);
+                 walkSecondStart(driver, driver.imageFolder());
+             },
+         .leave = leaveForOtherLanguage,
+         .isReplaced = true},
     };
     return stages;
+}
+
+QString otherLanguage(const QString &language)
+{
+    return language == u"zh_CN" ? u"en_US"_s : u"zh_CN"_s;
+}
+
+QString restartFile(const QString &folder)
+{
+    return folder + u"/restarted.txt"_s;
 }
 
 namespace {

@@ -16,7 +16,7 @@ constexpr int wrongPassword = 2;
 constexpr int unreachable = 5;
 
 const QString first = u"192.168.1.104:8800"_s;
-const QString second = u"192.168.2.0:8800"_s;
+const QString second = u"192.168.1.106:8800"_s;
 const QString third = u"192.168.1.105:8800"_s;
 const QString password = u"Office-2024"_s;
 
