@@ -5,6 +5,7 @@
 #include "app/logging.h"
 #include "app/messagebox.h"
 #include "app/publication.h"
+#include "app/renderloop.h"
 #include "app/translationfile.h"
 #include "cgi/cgiconfigmanage.h"
 #include "device/registry/devicefactory.h"
@@ -72,6 +73,7 @@ std::optional<int> Shell::begin()
 {
     // Live video is drawn into framebuffer objects of OpenGL.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
+    avoidRenderThreadsInSoftware();
 
     m_desktopScheme = std::make_unique<DesktopScheme>(DesktopScheme::sessionBus());
     m_colourScheme = std::make_unique<ColourScheme>(*m_desktopScheme, *CLocalConfig::getinstance());

@@ -1,0 +1,11 @@
+// The thread on which the windows are drawn.
+#pragma once
+
+/// Draws all windows on the main thread if OpenGL is rendered in software by Mesa's llvmpipe (no graphics
+/// card, virtual machines). Otherwise each window has its own render thread, and two of them crash in Mesa
+/// 22.3: an upload to a texture (FramePainter::upload()) reads the unprotected scenes of the other windows'
+/// contexts. Qt contains the same exception, but compares the vendor, which Mesa has renamed meanwhile.
+///
+/// Requires the application object. Must be called before the first QQuickWindow is created, on the main
+/// thread. Does nothing if the environment selects a render loop (QSG_RENDER_LOOP), or without OpenGL.
+void avoidRenderThreadsInSoftware();
