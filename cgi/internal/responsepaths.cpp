@@ -2,13 +2,15 @@
 
 QString ResponsePaths::own(const QString &path)
 {
-    constexpr qsizetype remembered = 100; // responses that end together have similar times
+    constexpr qsizetype remembered = 100; // responses of the same second end within seconds
     int number = 0;
     {
         const std::lock_guard lock(m_mutex);
         number = ++m_counts[path];
-        if (m_counts.size() > remembered)
-            m_counts.erase(m_counts.cbegin());
+        if (number == 1)
+            m_order.enqueue(path);
+        if (m_order.size() > remembered)
+            m_counts.remove(m_order.dequeue());
     }
     if (number == 1)
         return path;

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QMap>
+#include <QHash>
+#include <QQueue>
 #include <QString>
 
 #include <mutex>
@@ -11,12 +12,12 @@ class ResponsePaths
 public:
     /// Returns `path` at the first call with this path, then "<name>_2.<suffix>", "<name>_3.<suffix>" and so
     /// on. `path` has a suffix. Existing files are not checked: only the paths of this object differ. The 100
-    /// last paths in alphabetical order are remembered, which are the newest, since a name begins with the
-    /// time.
+    /// paths that were passed last for the first time are remembered, whatever their times: the clock may
+    /// have been set back.
     [[nodiscard]] QString own(const QString &path);
 
 private:
     std::mutex m_mutex;
-    QMap<QString, int>
-        m_counts; ///< of the last paths; the names begin with the time, the oldest is the first
+    QHash<QString, int> m_counts; ///< calls with each remembered path
+    QQueue<QString> m_order;      ///< the remembered paths, the oldest one first
 };

@@ -1,6 +1,7 @@
 // Commands as batches: to listed devices, and from a workbook.
 #include "cgi/cgistep.h"
 #include "cgi/internal/longresponses.h"
+#include "cgi/internal/responsepaths.h"
 #include "tests/cgi/commandsite.h"
 #include "tests/cgi/commandworkbooks.h"
 #include "tests/datatable.h"
@@ -179,6 +180,16 @@ private Q_SLOTS:
             QCOMPARE(file.readAll(), QStringLiteral("http://10.0.0.%1:80/cgi-bin/a").arg(name).toUtf8());
         }
         QVERIFY(QFile::exists(m_site->folder.filePath("20260309070501.png")));
+    }
+
+    /// The clock may be set back between two responses.
+    void imagesOfAnEarlierTimeHaveSeparateFiles()
+    {
+        ResponsePaths paths;
+        for (int second = 0; second < 100; ++second)
+            QVERIFY(!paths.own(QStringLiteral("/202603090705%1.png").arg(second)).contains('_'));
+        QCOMPARE(paths.own("/20260101000000.png"), "/20260101000000.png");
+        QCOMPARE(paths.own("/20260101000000.png"), "/20260101000000_2.png");
     }
 
     void aWorkbookGetsItsResults()
