@@ -143,10 +143,13 @@ WorksheetRows::Row &WorksheetRows::madeRow(int number)
 pugi::xml_node WorksheetRows::makeCell(CellPosition position)
 {
     Row &row = madeRow(position.row);
-    pugi::xml_node node = row.node;
     const auto next = positionOf(row.cells, position.column);
     if (next != row.cells.end() && next->first == position.column)
         return next->second;
+    // A neighbour may be in another element with the number of this row.
+    pugi::xml_node node = row.cells.empty()         ? row.node
+                          : next == row.cells.end() ? row.cells.back().second.parent()
+                                                    : next->second.parent();
     const std::string name = nameLike(node, "c");
     pugi::xml_node cell;
     if (next == row.cells.end()) {

@@ -40,7 +40,8 @@ public:
     /// The row's element, which is inserted when it is missing.
     pugi::xml_node makeRow(int number);
 
-    /// The cell's element, which is inserted when it is missing.
+    /// The cell's element, which is inserted when it is missing: next to the cell before or after it, in the
+    /// row element of that cell.
     pugi::xml_node makeCell(CellPosition position);
 
     /// Calls `visit` for each existing cell of the range, with its position and element.

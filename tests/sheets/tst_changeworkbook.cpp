@@ -7,6 +7,9 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include <algorithm>
+#include <map>
+
 using sheets::CellRange;
 
 namespace {
@@ -98,6 +101,24 @@ private Q_SLOTS:
             if (name != sheetPart && name != stylesPart)
                 QCOMPARE(after[name], bytes);
         }
+    }
+
+    void writesToARowOfSeveralElements()
+    {
+        const std::map<int, QString> texts = {{1, "a"}, {3, "c"}, {5, "e"}};
+        const Parts parts = styledWorkbook("<row r=\"2\"><c r=\"B2\"><v>1</v></c></row>"
+                                           "<row r=\"2\"><c r=\"D2\"><v>2</v></c></row>");
+        changed(parts, [&](QExcel &excel) {
+            return std::all_of(texts.begin(), texts.end(), [&excel](const auto &text) {
+                return excel.setCellText(2, text.first, text.second);
+            });
+        });
+        QExcel excel(std::make_unique<sheets::FileSheetEngine>());
+        QVERIFY(excel.open(m_path));
+        for (const auto &[column, text] : texts)
+            QCOMPARE(excel.cellText(2, column), text);
+        QCOMPARE(excel.cellText(2, 2), "1");
+        QCOMPARE(excel.cellText(2, 4), "2");
     }
 
     void keepsOtherPartsPacked()
