@@ -108,13 +108,14 @@ FocusScope {
         devices.resetItems(deviceTree.searchText === "" ? "removeuninit" : "search", deviceTree.searchText);
     }
 
-    /// Starts a command without a question and clears the results in the tree. Does nothing after a refusal, which is
-    /// notified. `targets` are "address:port"; the other parameters: see SystemBatch.run().
+    /// Starts a command without a question and clears the results in the tree. Returns false, and does nothing else,
+    /// after a refusal, which is notified. `targets` are "address:port"; the other parameters: see SystemBatch.run().
     function run(command, title, targets, data) {
         if (!batch.run(command, title, targets, data))
-            return;
+            return false;
         checkedWhenAsked = targets;
         devices.clearResults();
+        return true;
     }
 
     /// Confirms a command for the ticked devices and starts it. A started command ends the time for the new password.
@@ -128,11 +129,13 @@ FocusScope {
     }
 
     /// Confirms and starts the password change of the devices that have accepted the old password. Devices that the
-    /// user unticks there keep waiting for their new password. `keeping`: an AccountList.Keeping.
+    /// user unticks there keep waiting for their new password. After a refusal of the start, all devices keep waiting.
+    /// `keeping`: an AccountList.Keeping.
     function changePasswords(password, keeping) {
         preview.ask("modifyPassword", qsTr("修改密码"), {}, passwordTime.devices, (chosen, others) => {
+            if (!run("modifyPassword", qsTr("修改密码"), chosen, {password: password}))
+                return;
             leftOut = others;
-            run("modifyPassword", qsTr("修改密码"), chosen, {password: password});
             keeper.follow(batch.batch, keeping);
             devices.setResultOfAll(leftOut, OVTreeModel.WaitsForPassword);
         });

@@ -169,6 +169,36 @@ private Q_SLOTS:
         QCOMPARE(kept ? kept->password : QString(), devices > 0 ? QString("Better-2025") : QString());
     }
 
+    /// The accounts of an earlier password change stay as the user has chosen them.
+    void aRefusedStartStoresNothing()
+    {
+        press("keepNot");
+        const QModelIndex group = m_tree->index(0, 0);
+        QStringList refusing;
+        for (int row = 0; row < 2; ++row) {
+            refusing.append(m_tree->index(row, 0, group).data(OVTreeModel::IdentityRole).toString());
+            m_site->site->setFault(refusing.last(), {.fault = sdk::demo::Fault::RefusesPasswordChange});
+        }
+        sendNewPassword();
+        QTRY_VERIFY(!isRunning());
+
+        press("keepForDevices");
+        press("modifyPasswordButton");
+        m_site->site->setFault(refusing.first(),
+                               {.fault = sdk::demo::Fault::SlowAnswers, .number = 500, .text = {}});
+        m_site->stopTime();
+        const QStringList waiting = m_time->property("devices").toStringList();
+        QCOMPARE(waiting.size(), 2);
+        QVERIFY(m_batches->configureSystem("dh", "readTime", "other work", {}, waiting));
+        press("okButton"); // of the preview
+        m_site->letTimePass();
+        QTRY_VERIFY(!isRunning());
+        QCOMPARE(m_site->site->requests().of("NetModifyPassword").size(), 4);
+        QCOMPARE(m_time->property("devices").toStringList(), waiting);
+        m_window.reset();
+        QCOMPARE(m_accounts->deviceCounts().value("admin"), 0);
+    }
+
     void unselectingADeviceKeepsTheTimeLimit()
     {
         type("newPasswordField", "Better-2025");
