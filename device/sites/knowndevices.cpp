@@ -250,11 +250,18 @@ QString KnownDevices::setGroup(const QVariantList &rows, const QString &group, b
         if (isBehindNat(devices.last()))
             return tr("P2P设备不能分组");
     }
+    QSet<QString> added;
+    for (const QJsonObject &row : std::as_const(devices)) {
+        if (indexOf(knownKeys(row, isIPv6)) < 0)
+            added.insert(knownDevice(row, isIPv6).key());
+    }
+    if (m_site.devices.size() + added.size() > SiteFile::mostDevices)
+        return tr("现场最多 %1 台设备").arg(SiteFile::mostDevices);
     for (const QJsonObject &row : std::as_const(devices)) {
         const qsizetype index = indexOf(knownKeys(row, isIPv6));
         KnownDevice *device = index >= 0 ? &m_site.devices[index] : take(row, isIPv6);
-        if (!device)
-            return tr("现场最多 %1 台设备").arg(SiteFile::mostDevices);
+        if (!device) // an empty row
+            continue;
         m_isModified = m_isModified || device->group != name;
         device->group = name;
     }

@@ -101,8 +101,8 @@ public:
     // stated otherwise.
 
     /// Puts devices into the group; an empty name removes them from their groups. Spaces at the ends are
-    /// removed. Fails for a name that is too long, for devices behind NAT, and if the site has the maximum
-    /// number of devices; in the last case the devices before the refused one have the group.
+    /// removed. Fails for a name that is too long, for devices behind NAT, and if the site would get more
+    /// than the maximum number of devices.
     Q_INVOKABLE [[nodiscard]] QString setGroup(const QVariantList &rows, const QString &group, bool isIPv6);
 
     /// Removes a device from the site. Does nothing for a device that is not known.

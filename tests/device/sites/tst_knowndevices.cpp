@@ -202,6 +202,26 @@ private Q_SLOTS:
         QCOMPARE(m_known->groups(), QStringList());
     }
 
+    void aFullSiteGetsNoGroup()
+    {
+        openDevices({});
+        start();
+        Site site;
+        for (qsizetype number = 1; number < SiteFile::mostDevices; ++number) {
+            KnownDevice &device = site.devices.emplaceBack();
+            device.mac = QString::number(number);
+        }
+        QVERIFY(writeFile(path("full.site"), SiteFile::text(site)));
+        QCOMPARE(m_known->open(path("full.site")), "");
+        const QVariantMap known = {{"mac", "1"}};
+        const QVariantList rows = {known, QVariantMap{{"mac", east}}, QVariantMap{{"mac", west}}};
+        QVERIFY(!m_known->setGroup(rows, "yard", false).isEmpty());
+        QCOMPARE(m_known->groups(), QStringList());
+        QCOMPARE(m_known->count(), SiteFile::mostDevices - 1);
+        QCOMPARE(m_known->setGroup(rows.first(2), "yard", false), "");
+        QCOMPARE(m_known->count(), SiteFile::mostDevices);
+    }
+
     void sitesAreSavedAndOpened()
     {
         openDevices({east, west});
