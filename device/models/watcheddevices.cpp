@@ -51,7 +51,9 @@ QVariantList WatchedDevices::add(const QVariantList &rows)
     for (const QVariant &value : rows) {
         const QVariantMap row = value.toMap();
         const QString ipport = row.value(DeviceRowKey::ipport).toString();
-        if (ipport == m_first.ipport || positionOf(ipport) >= 0)
+        const bool isAdded = std::any_of(added.cbegin(), added.cend(),
+                                         [&](const Device &device) { return device.ipport == ipport; });
+        if (ipport == m_first.ipport || positionOf(ipport) >= 0 || isAdded)
             continue;
         if (m_further.size() + added.size() >= most()) {
             ++m_leftOut;

@@ -46,9 +46,10 @@ public:
     Q_INVOKABLE void setFirst(const QString &ipport, const QString &name, const QVariantList &channels);
 
     /// Adds the devices (maps of "ipport", "name" and "model") that are neither a row nor the first device,
-    /// up to most() rows. `rows` must not contain an "ipport" twice. A device without a name gets its model
-    /// as its name, or its "ipport" if the model is empty, too. Returns the index in `channels` of the first
-    /// channel of each added device; a device whose channels are not known yet has none.
+    /// up to most() rows. Of several devices with the same "ipport" (an address conflict), only the first one
+    /// is added. A device without a name gets its model as its name, or its "ipport" if the model is empty,
+    /// too. Returns the index in `channels` of the first channel of each added device; a device whose
+    /// channels are not known yet has none.
     Q_INVOKABLE QVariantList add(const QVariantList &rows);
 
     /// Sets the companion of a row and the channels that it has read, in the format of setFirst(). The

@@ -91,7 +91,8 @@ private Q_SLOTS:
                         m_watched->setChannels(ipport, &m_companion, channelsNamed({"C0"}));
                     }
                 });
-        QCOMPARE(m_watched->add({rowOf(0), rowOf(1), rowOf(2)}), (QVariantList{2, 3}));
+        QCOMPARE(m_watched->add({rowOf(0), rowOf(1), rowOf(2), rowOf(1)}), (QVariantList{2, 3}));
+        QCOMPARE(m_watched->rowCount(), 2); // of two devices with the same address, one
         QVariantList rows;
         for (int number = 0; number < 20; ++number)
             rows.append(rowOf(number));
