@@ -8,10 +8,12 @@
 #include "device/registry/devicefamily.h"
 #include "device/registry/deviceimport.h"
 #include "sdk/threadpriority.h"
+#include "sheets/filesheetengine.h"
 
 #include <QFileInfo>
 #include <QSet>
 
+#include <memory>
 #include <optional>
 #include <utility>
 
@@ -65,7 +67,9 @@ public:
     [[nodiscard]] QString finish() { return m_results->finish(); }
 
 private:
-    CommandWorkbook m_workbook;
+    /// Not with a spreadsheet application, which only the thread that has started it may use: the file thread
+    /// ends after some time without work, and the destructor of CgiWorkbooks saves the results.
+    CommandWorkbook m_workbook{std::make_unique<sheets::FileSheetEngine>()};
     QDateTime m_changed; ///< time of the file's last change
     std::optional<WorkbookResults> m_results;
     QHash<QString, std::size_t> m_indices; ///< indices of commands, by the names of their lines

@@ -22,6 +22,8 @@ class Workbook;
 /// open() fails for a file of more than 128 MiB or more than 10,000 parts, or with a suspicious compression
 /// ratio. An operation fails if a part that it reads has more than 192 MiB of text, or would take more than 1
 /// GiB of memory as a document.
+///
+/// An object may be used on any thread, by one thread at a time.
 class FileSheetEngine : public SheetEngine
 {
 public:

@@ -22,7 +22,7 @@ struct UsedRows
 /// that there is a workbook, except for createWorkbook(), open() and quit().
 ///
 /// On failure an operation returns false or nullopt, and errorText() has the reason. Not thread-safe; an
-/// object is used on the thread that created it. Operations block.
+/// object is used on the thread that created it, unless its class permits other threads. Operations block.
 class SheetEngine : public LastError
 {
 public:
