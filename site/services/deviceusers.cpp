@@ -76,14 +76,17 @@ ServiceResult createUsers(ServiceCall &call)
 {
     const std::vector<RequestedUser> users = readUsers(call.request);
     std::set<QString> names;
-    for (const SceneAccount &account : call.device.accounts)
-        names.insert(account.user);
+    // The first user replaces the accounts of a device that is not initialised.
+    if (!call.device.isUninitialised()) {
+        for (const SceneAccount &account : call.device.accounts)
+            names.insert(account.user);
+    }
     for (const RequestedUser &user : users) {
         if (ServiceResult objection = objectionTo(user))
             return objection;
         if (!user.level)
             return SoapFault::invalid("ter:AnonymousNotAllowed", u"The user level is unknown"_s);
-        if (!names.insert(user.account.user).second && !call.device.isUninitialised())
+        if (!names.insert(user.account.user).second)
             return SoapFault{true, "ter:OperationProhibited", "ter:UsernameClash",
                              u"The user already exists"_s};
     }

@@ -187,14 +187,14 @@ void TestSite::accountLocksAcrossServices()
 void TestSite::initialisation()
 {
     const QString address = u"192.168.7.13"_s;
-    const auto create = [&address](const QByteArray &level) {
-        return ask(address,
-                   deviceOperation("CreateUsers", "<User><tt:Username>admin</tt:Username><tt:Password>"
-                                                  "First-1</tt:Password><tt:UserLevel>" +
-                                                      level + "</tt:UserLevel></User>"))
-            .outcome();
+    const auto create = [&address](const QByteArray &level, qsizetype count = 1) {
+        const QByteArray user = "<User><tt:Username>admin</tt:Username><tt:Password>First-1</tt:Password>"
+                                "<tt:UserLevel>" +
+                                level + "</tt:UserLevel></User>";
+        return ask(address, deviceOperation("CreateUsers", user.repeated(count))).outcome();
     };
     QCOMPARE(ask(address, deviceOperation("GetUsers")).outcome(), u"200"_s);
+    QCOMPARE(create("Administrator", 2), u"400 UsernameClash"_s);
     QCOMPARE(create("User"), u"400 AnonymousNotAllowed"_s);
     QCOMPARE(create("Administrator"), u"200"_s);
     QCOMPARE(create("Administrator"), u"401 NotAuthorized"_s);
