@@ -108,7 +108,9 @@ void ChannelNameForm::requestNext()
     if (row != savingRow()) // a receiver of savingChanged() stopped the save
         return;
     m_isWriting = true;
-    Q_EMIT writeRequested(row, m_rows.at(row).name.trimmed());
+    const QString name = m_rows.at(row).name.trimmed();
+    m_rows[row].sent = name;
+    Q_EMIT writeRequested(row, name);
 }
 
 void ChannelNameForm::takeWritten(int row, int result, const QVariant &name)
@@ -117,10 +119,14 @@ void ChannelNameForm::takeWritten(int row, int result, const QVariant &name)
         return;
     Row &written = m_rows[row];
     if (result == resultCode(LoginResult::Success)) {
-        const QString wanted = written.name.trimmed();
-        written.saved = written.name = name.isValid() ? name.toString() : wanted;
+        const QString present = written.name.trimmed();
+        const QString sent = written.sent.value_or(present); // none if load() has replaced the rows
+        written.saved = name.isValid() ? name.toString() : sent;
         written.isReported = true;
-        written.lastWrite = written.saved == wanted ? None : Different;
+        const bool isEdited = present != sent; // while the request was under way
+        if (!isEdited)
+            written.name = written.saved;
+        written.lastWrite = isEdited || written.saved == sent ? None : Different;
     } else if (result == resultCode(LoginResult::Upgrading)) {
         written.lastWrite = Upgrading;
     } else {

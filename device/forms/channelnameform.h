@@ -6,6 +6,8 @@
 #include <QList>
 #include <QVariantList>
 
+#include <optional>
+
 /// One row for each channel; the index of a row is the number of its channel (from 0). An edited name stays
 /// in this model until it is written. The roles are those of DialogRows; "identity" is the channel number
 /// from 0 as text. The role "conflict" is true for a row whose changed name is empty or too long, or whose
@@ -76,7 +78,8 @@ public:
 
     /// Sets the result of a write. `result` is 0, a LoginResult, or an error code of the device library.
     /// `name` is the name that the device reports after a success, null if it reports none. It becomes the
-    /// name of the row; for null the written name does. After a failure the edited name stays. If `row` is
+    /// name of the row; for null the written name does. A name that was edited after writeRequested() stays
+    /// in the row as a change, also after a success. After a failure the edited name stays. If `row` is
     /// savingRow, the save continues with the next row.
     Q_INVOKABLE void takeWritten(int row, int result, const QVariant &name);
 
@@ -115,6 +118,7 @@ private:
     {
         QString saved;
         QString name;
+        std::optional<QString> sent = {}; ///< name of the last writeRequested()
         bool isReported = false;
         bool isConnected = true;
         Trouble lastWrite = None;

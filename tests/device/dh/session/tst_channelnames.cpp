@@ -180,6 +180,19 @@ private Q_SLOTS:
         QCOMPARE(troubleOf(*names, 3), ChannelNameForm::None);
     }
 
+    void aNameTypedDuringItsWriteIsKept()
+    {
+        open(recorder());
+        const auto names = form();
+        names->set(3, "Hof");
+        connect(names.get(), &ChannelNameForm::writeRequested, names.get(),
+                [form = names.get()](int row) { form->set(row, "Tor"); });
+        QCOMPARE(saved(*names, 3), ChannelNameForm::None);
+        const QVariantMap row = names->get(3);
+        QCOMPARE(row.value("saved").toString() + ", now " + row.value("name").toString(), "Hof, now Tor");
+        QCOMPARE(names->changedCount(), 1);
+    }
+
     void anUnreadNameCanBeSet()
     {
         open(recorder());
