@@ -11,7 +11,7 @@ OVDialog {
     required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     property string ipport  // "address:port"
     property string mac  // "" if unknown
-    property bool isLent: false  // the row has its account only for the running login; it is removed after a failure
+    property bool isLent: false  // the row has its account only for the running login, see ask()
     readonly property alias asking: work.running  // the login or reading runs
     property string loginError  // error of the last login, "" for none
     signal copyRequested(string text)
@@ -20,7 +20,7 @@ OVDialog {
     /// Shows known values of a device and clears the search text. `detail`: map of the values of its row ("ipport",
     /// "mac" and others), and optionally further ones. Cancels running work. The caller opens the dialog.
     function load(detail) {
-        work.cancel();
+        cancel();
         loginError = "";
         ipport = detail.ipport ?? "";
         mac = detail.mac ?? "";
@@ -34,7 +34,8 @@ OVDialog {
     }
 
     /// Logs in with the account of LoginMemory.accountFor() and reads further values. If that is an account for all
-    /// following devices, the row has it for this login, and keeps it if the device accepts it.
+    /// following devices, the row has it for this login, and keeps it if the device accepts it. A failure or a
+    /// cancellation removes it.
     function ask() {
         loginError = "";
         notice = "";
@@ -43,6 +44,13 @@ OVDialog {
         if (isLent)
             setAccount(known.user, known.password);
         work.readDetail(ipport);
+    }
+
+    /// Cancels running work.
+    function cancel() {
+        if (asking && isLent)
+            setAccount("", "");
+        work.cancel();
     }
 
     /// Sets the account of the row; two empty texts remove it.
@@ -75,7 +83,7 @@ OVDialog {
     title: qsTr("设备详情")
     onAccepted: copyRequested(lines.text)
     onAboutToHide: {
-        work.cancel();
+        cancel();
         relogin.item?.close();
     }
     onOpened: list.forceActiveFocus()

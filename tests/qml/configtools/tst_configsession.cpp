@@ -270,6 +270,22 @@ private Q_SLOTS:
         QCOMPARE(passwordOf(m_other), "secret1");
     }
 
+    /// The account of the following devices is in the row only during the login.
+    void closedDetailsLeaveNoAccount()
+    {
+        listWithWrongPassword();
+        m_site->factory->setFollowingAccount("dh", "admin", "secret1");
+        for (const char *key : {"username", "password"})
+            m_site->factory->updataDeviceInfo("dh", key, "", m_other.mac, ipportOf(m_other));
+        QObject *details = detailsOf(m_other);
+        QVERIFY(QMetaObject::invokeMethod(details, "ask"));
+        QVERIFY(details->property("asking").toBool());
+        QCOMPARE(passwordOf(m_other), "secret1");
+        QVERIFY(QMetaObject::invokeMethod(details, "close"));
+        QTRY_VERIFY(!details->property("asking").toBool());
+        QCOMPARE(passwordOf(m_other), "");
+    }
+
     /// The next question would otherwise be taken for the earlier one, and the password would stay in the
     /// field.
     void aClosedLoginDialogForgetsThePassword()
