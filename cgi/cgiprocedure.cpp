@@ -95,9 +95,9 @@ CgiProcedure::CgiProcedure(const CgiSurroundings &surroundings, const CgiLimits 
 
 QString CgiProcedure::loginRefusal(int loginResult)
 {
-    // The only code that is not a LoginResult: an error that is unknown to all back ends.
     constexpr int unknownCertificate = 18;
     constexpr int changedCertificate = 19;
+    // The only code that is not a LoginResult: an error that is unknown to all back ends.
     constexpr int unknownError = 99;
     constexpr int noSuchAccount = 1;
     constexpr int wrongPassword = 2;
@@ -151,19 +151,16 @@ CgiResponse CgiProcedure::exchange(const QString &url, const QString &user, cons
         prepared->useBasic();
         first = perform(*prepared, m_limits.first, {});
     }
-    Received received = {.text = {}, .failure = failureOf(first)};
+    Received received = ended(first, failureOrStatusOf(first, m_surroundings.explainsFailures));
     if (first.status == accepted && !first.isStopped) {
         received = receive(*prepared, first);
         noteResult(received.text);
     }
     if (!received.failure.isEmpty())
         return {.text = failedResult + received.failure,
-                .hasNoResponse = received.isIncomplete || isIncomplete(first),
-                .certificateRefusal = first.certificateRefusal};
-    if (first.status != accepted)
-        return {.text = failedResult + tr("服务器连接失败") +
-                        (m_surroundings.explainsFailures ? statusText(first.status) : QString()),
-                .isLoginRefused = first.status == statusUnauthorized};
+                .hasNoResponse = received.isIncomplete,
+                .isLoginRefused = received.isLoginRefused,
+                .certificateRefusal = received.certificateRefusal};
     return {.text = received.text};
 }
 
@@ -183,12 +180,26 @@ QString CgiProcedure::failureOf(const HttpOutcome &outcome) const
     return tr("%1（%2）").arg(failureText(outcome.failureKind), outcome.failure);
 }
 
-QString CgiProcedure::secondFailureOf(const HttpOutcome &outcome) const
+QString CgiProcedure::failureOrStatusOf(const HttpOutcome &outcome, bool statesStatus) const
 {
     QString failure = failureOf(outcome);
     if (!failure.isEmpty() || outcome.status == accepted)
         return failure;
-    return tr("服务器连接失败") + statusText(outcome.status);
+    return tr("服务器连接失败") + (statesStatus ? statusText(outcome.status) : QString());
+}
+
+QString CgiProcedure::secondFailureOf(const HttpOutcome &outcome) const
+{
+    return failureOrStatusOf(outcome, true);
+}
+
+CgiProcedure::Received CgiProcedure::ended(const HttpOutcome &outcome, const QString &failure) const
+{
+    return {.text = {},
+            .failure = failure,
+            .isIncomplete = isIncomplete(outcome),
+            .isLoginRefused = failureOf(outcome).isEmpty() && outcome.status == statusUnauthorized,
+            .certificateRefusal = outcome.certificateRefusal};
 }
 
 HttpOutcome CgiProcedure::perform(PreparedHttpRequest &prepared, const HttpLimits &limits,
@@ -232,9 +243,9 @@ CgiProcedure::Received CgiProcedure::receiveText(PreparedHttpRequest &prepared) 
     });
     if (isTooLong)
         return {.text = {}, .failure = tr("应答内容过大。")};
-    return {.text = responseText(prepared.headerText(), body),
-            .failure = secondFailureOf(outcome),
-            .isIncomplete = isIncomplete(outcome)};
+    Received received = ended(outcome, secondFailureOf(outcome));
+    received.text = responseText(prepared.headerText(), body);
+    return received;
 }
 
 /// A partial image is useless: the file is only created when it is complete.
@@ -245,7 +256,7 @@ CgiProcedure::Received CgiProcedure::receiveImage(PreparedHttpRequest &prepared,
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         noteCannotWrite(path, file.errorString());
-        return {.text = {}, .failure = failureOf(first)}; // only the status of the response decides
+        return ended(first, failureOf(first)); // only the status of the response decides
     }
     qint64 room = m_limits.largestImage;
     bool isWritten = true;
@@ -258,7 +269,7 @@ CgiProcedure::Received CgiProcedure::receiveImage(PreparedHttpRequest &prepared,
         return {.text = {}, .failure = tr("应答内容过大。")};
     const QString failure = isWritten ? secondFailureOf(outcome) : QString();
     if (!failure.isEmpty())
-        return {.text = {}, .failure = failure, .isIncomplete = isIncomplete(outcome)};
+        return ended(outcome, failure);
     if (!isWritten || !file.commit())
         return {.text = {}, .failure = tr("文件写入失败：") + file.errorString()};
     return {.text = path, .failure = {}};
@@ -270,7 +281,7 @@ CgiProcedure::Received CgiProcedure::receiveRecording(PreparedHttpRequest &prepa
     PartialFile file(path);
     if (!file.open()) {
         noteCannotWrite(path, file.failure());
-        return {.text = {}, .failure = failureOf(first)}; // only the status of the response decides
+        return ended(first, failureOf(first)); // only the status of the response decides
     }
     const HttpOutcome outcome =
         perform(prepared, m_limits.recording, [&file](QByteArrayView chunk) { return file.write(chunk); });
@@ -281,10 +292,12 @@ CgiProcedure::Received CgiProcedure::receiveRecording(PreparedHttpRequest &prepa
         failure = tr("文件写入失败：") + file.failure();
     if (outcome.status != accepted) {
         file.remove();
-        return {.text = {}, .failure = failure, .isIncomplete = isIncomplete(outcome)};
+        return ended(outcome, failure);
     }
     const QString kept = file.keepPartial();
     if (!kept.isEmpty())
         failure += QLatin1Char('\n') + tr("已收到的部分录像保存在：%1").arg(kept);
-    return {.text = {}, .failure = failure, .isIncomplete = isIncomplete(outcome) && !file.hasFailed()};
+    Received received = ended(outcome, failure);
+    received.isIncomplete = received.isIncomplete && !file.hasFailed();
+    return received;
 }

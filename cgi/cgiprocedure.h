@@ -50,13 +50,17 @@ inline const QString failedResult = QStringLiteral("Error:");
 struct CgiResponse
 {
     QString text; ///< see CgiProcedure::run()
+    // The following members describe the request that decided about the failure: the second one if it was
+    // sent, otherwise the first one.
+
     /// Failed without a complete response, also because of a stop: another attempt may succeed.
     bool hasNoResponse = false;
-    /// The web service refuses the account or its password: the response to the first request has status 401
-    /// (to the repeated one, if it was repeated with Basic).
+    /// The web service refuses the account or its password: the response has status 401 (the response to the
+    /// repeated request, if the first one was repeated with Basic). A command that changes the password of
+    /// its account has this result, since it is sent twice.
     bool isLoginRefused = false;
 
-    /// The verdict on the device's certificate, if it prevented a request over HTTPS.
+    /// The verdict on the device's certificate, if it prevented the request over HTTPS.
     std::optional<sdk::CertificateVerdict> certificateRefusal = {};
 };
 
@@ -97,18 +101,24 @@ public:
     [[nodiscard]] static QString loginRefusal(int loginResult);
 
 private:
-    /// A received response.
+    /// The result of the requests, with the members of CgiResponse.
     struct Received
     {
         QString text;
-        QString failure;
-        bool isIncomplete = false; ///< the response is incomplete
+        QString failure; ///< empty on success
+        bool isIncomplete = false;
+        bool isLoginRefused = false;
+        std::optional<sdk::CertificateVerdict> certificateRefusal = {};
     };
 
     /// The reason why an exchange failed; empty on success.
     [[nodiscard]] QString failureOf(const HttpOutcome &outcome) const;
+    /// The same, also for a status other than 200. The reason contains the status if `statesStatus`.
+    [[nodiscard]] QString failureOrStatusOf(const HttpOutcome &outcome, bool statesStatus) const;
     /// The same for the second exchange, in which the device may respond with an error page.
     [[nodiscard]] QString secondFailureOf(const HttpOutcome &outcome) const;
+    /// The result of an exchange without a text; `failure` is empty on success.
+    [[nodiscard]] Received ended(const HttpOutcome &outcome, const QString &failure) const;
     [[nodiscard]] Received receive(PreparedHttpRequest &prepared, const HttpOutcome &first) const;
     [[nodiscard]] Received receiveText(PreparedHttpRequest &prepared) const;
     [[nodiscard]] Received receiveImage(PreparedHttpRequest &prepared, const QString &path,

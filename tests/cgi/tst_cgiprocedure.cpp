@@ -312,6 +312,58 @@ private Q_SLOTS:
         QCOMPARE(savedFiles(), QStringList()); // no file that looks complete
     }
 
+    void aFailureDescribesTheSecondRequest_data()
+    {
+        // second: the response to each request after the first one
+        const auto row = dataTable<QByteArray, QByteArray, QString, bool, bool>(
+            {"first", "second", "result", "hasNoResponse", "isLoginRefused"});
+        const QByteArray ok = "HTTP/1.1 200 OK\r\nConnection: close\r\n";
+        const QByteArray complete = ok + "Content-Length: 2\r\n\r\nOK";
+        const QByteArray cut = ok + "Content-Length: 9\r\n\r\ncut";
+        row("cut, then too large", cut, ok + "Content-Length: 6\r\n\r\nlarger", "Error:应答内容过大。", false,
+            false);
+        row("cut, then refused", cut, "HTTP/1.1 403 Forbidden\r\nContent-Length: 0\r\n\r\n",
+            "Error:服务器连接失败 (HTTP 403)", false, false);
+        row("complete, then cut", complete, cut, "Error:", true, false);
+        // As after a command that changes the password.
+        row("complete, then another password", complete,
+            "HTTP/1.1 401 Unauthorized\r\nConnection: close\r\nContent-Length: 0\r\n\r\n",
+            "Error:服务器连接失败 (HTTP 401)", false, true);
+    }
+
+    void aFailureDescribesTheSecondRequest()
+    {
+        QFETCH(const QByteArray, first);
+        QFETCH(const QByteArray, second);
+        QFETCH(const QString, result);
+        RawServer server(
+            [&](const RawExchange &exchange) { exchange.send(exchange.number() == 1 ? first : second); });
+        CgiLimits limits = shortLimits();
+        limits.longestText = 4;
+        const CgiResponse response =
+            CgiProcedure(m_surroundings, limits).exchange(server.url("/cgi-bin/a"), user, password);
+        QVERIFY2(response.text.startsWith(result), qPrintable(response.text));
+        QTEST(response.hasNoResponse, "hasNoResponse");
+        QTEST(response.isLoginRefused, "isLoginRefused");
+    }
+
+    void aCertificateThatChangesBetweenTheRequestsIsReported()
+    {
+        TlsServer server("HTTP/1.1 200 OK\r\nConnection: close\r\nContent-Length: 2\r\n\r\nOK");
+        int asked = 0;
+        m_surroundings.transport->setCertificateHandler(
+            [](const sdk::DeviceCertificate *, void *count) {
+                return ++*static_cast<int *>(count) == 1 ? sdk::CertificateVerdict::Trusted
+                                                         : sdk::CertificateVerdict::Changed;
+            },
+            &asked);
+        const CgiResponse response =
+            CgiProcedure(m_surroundings, {})
+                .exchange(QStringLiteral("https://127.0.0.1:%1/text").arg(server.port()), user, password);
+        QVERIFY(response.certificateRefusal == sdk::CertificateVerdict::Changed);
+        QCOMPARE(server.requests().size(), 1);
+    }
+
     /// The results of rows name the kind of failure in the user's language, before the words of the library.
     void aRowExplainsItsFailure_data()
     {
