@@ -69,6 +69,12 @@ QString validText(const QString &text, qsizetype longest)
     return valid;
 }
 
+/// Whether a member is missing or has this type.
+bool isMissingOr(QJsonValue::Type type, const QJsonValue &member)
+{
+    return member.isUndefined() || member.type() == type;
+}
+
 /// Reads a device. Returns the name of the first invalid key; empty on success.
 QString readDevice(const QJsonValue &value, KnownDevice &device)
 {
@@ -76,15 +82,22 @@ QString readDevice(const QJsonValue &value, KnownDevice &device)
     for (const DeviceText &text : deviceTexts) {
         const QJsonValue member = object.value(text.key);
         device.*text.member = member.toString();
-        if (!(member.isUndefined() || member.isString()) || !isTextValid(device.*text.member, text.longest))
+        if (!isMissingOr(QJsonValue::String, member) || !isTextValid(device.*text.member, text.longest))
             return text.key;
     }
-    device.httpPort = object.value(httpPortKey).toInt(0);
+    constexpr int invalidPort = -1; // also of a text and of a fraction
+    device.httpPort = object.contains(httpPortKey) ? object.value(httpPortKey).toInt(invalidPort) : 0;
     if (device.httpPort < 0 || device.httpPort > highestHttpPort)
         return httpPortKey;
+    for (const QString &key : {initialisedKey, ipv6Key}) {
+        if (!isMissingOr(QJsonValue::Bool, object.value(key)))
+            return key;
+    }
     device.isInitialised = object.value(initialisedKey).toBool(true);
     device.isIPv6 = object.value(ipv6Key).toBool(false);
     device.lastSeen = QDateTime::fromString(object.value(lastSeenKey).toString(), Qt::ISODate);
+    if (object.contains(lastSeenKey) && !device.lastSeen.isValid())
+        return lastSeenKey;
     return device.mac.isEmpty() && device.identity.isEmpty() ? QStringLiteral("mac") : QString();
 }
 
@@ -108,7 +121,8 @@ SiteFile::Contents SiteFile::read(const QByteArray &text)
             siteText(QT_TRANSLATE_NOOP("SiteFile", "现场文件的设备超过 %1 台")).arg(mostDevices));
     Contents contents;
     contents.site.name = file.value(siteNameKey).toString();
-    if (!isTextValid(contents.site.name, longestText))
+    if (!isMissingOr(QJsonValue::String, file.value(siteNameKey)) ||
+        !isTextValid(contents.site.name, longestText))
         return refusedSite(siteText(QT_TRANSLATE_NOOP("SiteFile", "现场文件中的名称无效")));
     QSet<QString> keys;
     for (const auto &value : devices) {

@@ -23,10 +23,10 @@ struct Contents
     bool isUnopened = false; ///< the file cannot be opened, so that its contents are unknown
 };
 
-/// Reads a site from text. A single invalid text value (too long, with control characters or not a string),
-/// HTTP port out of range, device without MAC and identity, or second device with the same KnownDevice::key()
-/// refuses the complete text, so that no device is lost unnoticed. Other values of a wrong type count as
-/// missing. Any thread.
+/// Reads a site from text. A single value of a wrong type, text that is too long or has control characters,
+/// HTTP port out of range, invalid time, device without MAC and identity, or second device with the same
+/// KnownDevice::key() refuses the complete text, so that no device and no value is lost unnoticed. A missing
+/// value is that of a new KnownDevice. Any thread.
 [[nodiscard]] Contents read(const QByteArray &text);
 
 /// Reads a site file. A path that is not a regular file is refused (isUnopened). Any thread.

@@ -276,6 +276,11 @@ private Q_SLOTS:
         row("long name", head + "{'mac':'a','name':'" + QByteArray(257, 'n') + "'}]}", "name");
         row("line break", head + "{'mac':'a','note':'b\\nc'}]}", "note");
         row("port", head + "{'mac':'a','httpPort':65536}]}", "httpPort");
+        row("port as text", head + "{'mac':'a','httpPort':'80'}]}", "httpPort");
+        row("list as text", head + "{'mac':'a','ipv6':'true'}]}", "ipv6");
+        row("state as number", head + "{'mac':'a','initialised':0}]}", "initialised");
+        row("no time", head + "{'mac':'a','lastSeen':'yesterday'}]}", "lastSeen");
+        row("site without a text", "{'format':'configtools-site','version':1,'name':5,'devices':[]}", "名称");
         row("twice", head + device + ',' + sameDevice + "]}", "第 2 台设备重复");
         row("too many", head + QByteArray("{},").repeated(40'000) + "{}]}", "40000");
         row("deep", QByteArray(100'000, '['), "不是现场文件");
