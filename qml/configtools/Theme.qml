@@ -43,7 +43,7 @@ QtObject {
     readonly property int smallRadius: 4
     readonly property int logoSize: 24
     readonly property int largeLogoSize: 40
-    readonly property int formLabelWidth: 100
+    readonly property int formLabelWidth: 120
     readonly property int searchFieldWidth: 240
     readonly property int searchFieldMinimum: 104  // width if room is short
     readonly property int windowWidth: 1280  // minimum width of the main window; windowHeight: minimum height
@@ -59,7 +59,7 @@ QtObject {
     readonly property int batchPreviewHeight: 240
     readonly property int initialiseWidth: 904
     readonly property int initialiseListHeight: 300
-    readonly property int firstPasswordWidth: 440
+    readonly property int firstPasswordWidth: 520
     readonly property int firstPasswordHeight: 400
     readonly property int detailWidth: 600
     readonly property int detailHeight: 420
@@ -89,10 +89,11 @@ QtObject {
     readonly property int treeIndent: 22
     readonly property int panelWidth: 640
     readonly property int clockListHeight: 210  // maximum
-    readonly property int panelLabelWidth: 116
+    readonly property int panelLabelWidth: 144
+    readonly property int wideLabelWidth: 192  // of labels with longer terms
     readonly property int choiceWidth: 200
     readonly property int operationWidth: 152
-    readonly property int shortChoiceWidth: 104
+    readonly property int shortChoiceWidth: 120
     readonly property int momentFieldWidth: 200  // for a date with its time
     readonly property int passwordFieldWidth: 260
     readonly property int hourFieldWidth: 84
@@ -105,11 +106,11 @@ QtObject {
     readonly property int switchWidth: 36
     readonly property int switchHeight: 20
     readonly property int changeMark: 6  // size of the mark of a value that is not saved
-    readonly property int encodeLabelWidth: 104
+    readonly property int encodeLabelWidth: 136
     readonly property int imageLabelWidth: 156
     readonly property int imageWidth: 640  // maximum width of the image settings
     readonly property int encodeWidth: 900
-    readonly property int encodeColumnWidth: 260  // minimum width of a stream next to the other one
+    readonly property int encodeColumnWidth: 292  // minimum width of a stream next to the other one
     readonly property int imageSideWidth: 272
     readonly property real imageSideShare: 0.4  // maximum of imageSideWidth, of the width of the panel
     readonly property int sideLabelWidth: 88
@@ -130,7 +131,7 @@ QtObject {
 
     // Widths of table columns, by content. "Least": the "leastWidth" of an OVTable column.
     readonly property int columnNumber: 56
-    readonly property int columnState: 114
+    readonly property int columnState: 114  // minimum; more in languages with longer texts
     readonly property int columnStateMinimum: 32  // only the dot of the state
     readonly property int columnName: 136
     readonly property int columnNameField: 160  // minimum of a column with fields for names
@@ -143,7 +144,7 @@ QtObject {
     readonly property int columnVersion: 114
     readonly property int columnResult: 92
     readonly property int columnResultLeast: 60  // only its icons
-    readonly property int columnActions: 168
+    readonly property int columnActions: 168  // minimum; more in languages with longer texts
     readonly property int columnPlanAddress: 128
     readonly property int columnPlanAction: 184
     readonly property int columnPlanMark: 256
@@ -157,9 +158,9 @@ QtObject {
     readonly property int columnResponse: 240
     readonly property int columnCommand: 320
     readonly property int columnFile: 132
-    readonly property int columnProgress: 172
-    readonly property int columnProgressLeast: 152
-    readonly property int columnUpgradeActions: 148
+    readonly property int columnProgress: 180
+    readonly property int columnProgressLeast: 160
+    readonly property int columnUpgradeActions: 148  // minimum; more in languages with longer texts
     readonly property int columnUpgradeNumber: 44
     readonly property int columnUpgradeName: 128
     readonly property int columnUpgradeModel: 100
@@ -195,6 +196,10 @@ QtObject {
         Qt.font({family: Typefaces.figures, pixelSize: clockSize, weight: Font.DemiBold})
     readonly property font counterFont:
         Qt.font({family: Typefaces.figures, pixelSize: counterSize, weight: Font.DemiBold})
+    /// Measures texts in the body font, for widths that depend on the language.
+    readonly property FontMetrics bodyMetrics: FontMetrics {
+        font: theme.bodyFont
+    }
     readonly property string iconFamily: Typefaces.icons
     // Distance of the baseline below the middle of a line, as a fraction of the font size. It centres Latin capitals
     // and Chinese characters alike; the metrics of the fonts differ by a pixel.

@@ -9,6 +9,13 @@ OVTableCell {
     readonly property bool absent: row?.absent ?? false  // the device is known but not in the list
     readonly property bool missing: absent && row.presence === KnownDevices.Missing  // not found by a complete search
 
+    /// The width in pixels of the column that shows the words of all states.
+    function neededWidth() {
+        const texts = [qsTr("未找到"), qsTr("待确认"), qsTr("已初始化"), qsTr("未初始化")];
+        return dot.width + Theme.signGap + Theme.half
+            + Math.ceil(Math.max(...texts.map(text => Theme.bodyMetrics.advanceWidth(text))));
+    }
+
     Rectangle {
         id: dot
         anchors.verticalCenter: parent.verticalCenter

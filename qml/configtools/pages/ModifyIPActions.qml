@@ -16,13 +16,22 @@ OVTableCell {
     signal webRequested(int row)  // open the web page of the device
     signal liveRequested(int row)  // open the live window
 
+    /// The width in pixels of the column that shows all buttons.
+    function neededWidth() {
+        const buttons = [editButton, detailButton, webButton, liveButton];
+        return buttons.reduce((sum, button) => sum + button.implicitWidth, 0) + (buttons.length - 1) * actions.spacing
+            + Theme.unit;
+    }
+
     OVActionRow {
+        id: actions
         readonly property bool keyGroup: true  // one stop of the Tab key, see keygroups.js
 
         anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.controlGap
 
         OVLinkButton {
+            id: editButton
             enabled: root.editable && !root.upgrading && !root.absent
             focusPolicy: root.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
             objectName: "edit" + root.rowIndex
@@ -31,6 +40,7 @@ OVTableCell {
             onClicked: root.editRequested(root.rowIndex)
         }
         OVLinkButton {
+            id: detailButton
             enabled: !root.absent
             focusPolicy: root.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
             objectName: "detail" + root.rowIndex
@@ -39,6 +49,7 @@ OVTableCell {
             onClicked: root.detailRequested(root.rowIndex)
         }
         OVLinkButton {
+            id: webButton
             enabled: !root.absent
             focusPolicy: root.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
             objectName: "web" + root.rowIndex
@@ -47,6 +58,7 @@ OVTableCell {
             onClicked: root.webRequested(root.rowIndex)
         }
         OVLinkButton {
+            id: liveButton
             enabled: root.initialised && !root.absent
             focusPolicy: root.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
             objectName: "live" + root.rowIndex

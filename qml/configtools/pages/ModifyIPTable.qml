@@ -30,8 +30,8 @@ OVTable {
             cell: numberCell
         },
         {
-            key: "state", title: qsTr("状态"), width: Theme.columnState, minimumWidth: Theme.columnStateMinimum,
-            leastWidth: Theme.columnStateMinimum, sortable: true, cell: stateCell
+            key: "state", title: qsTr("状态"), width: Math.max(Theme.columnState, sampleState.neededWidth()),
+            minimumWidth: Theme.columnStateMinimum, leastWidth: Theme.columnStateMinimum, sortable: true, cell: stateCell
         },
         {key: "name", title: qsTr("名称"), width: Theme.columnName, mostWidth: Theme.columnNameMost, stretch: 2, sortable: true, cell: nameCell},
         {key: "type", title: qsTr("类型"), width: Theme.columnType, sortable: true},
@@ -55,8 +55,21 @@ OVTable {
             key: "res", title: qsTr("修改结果"), width: Theme.columnResult, leastWidth: Theme.columnResultLeast,
             sortable: true, cell: resultCell
         },
-        {key: "operate", title: qsTr("操作"), width: Theme.columnActions, fixed: true, cell: actionCell}
+        {
+            key: "operate", title: qsTr("操作"), width: Math.max(Theme.columnActions, sampleActions.neededWidth()),
+            fixed: true, cell: actionCell
+        }
     ]
+
+    // Not shown: these cells measure the texts of the language.
+    DeviceStateCell {
+        id: sampleState
+        visible: false
+    }
+    ModifyIPActions {
+        id: sampleActions
+        visible: false
+    }
 
     Component {
         id: numberCell

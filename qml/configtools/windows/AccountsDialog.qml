@@ -138,7 +138,7 @@ OVDialog {
             columns: [
                 {key: "name", title: qsTr("名称"), width: Theme.columnModel, stretch: 1, cell: nameCell},
                 {key: "account", title: qsTr("账号"), width: Theme.columnModel, stretch: 1},
-                {key: "deviceCount", title: qsTr("设备数"), width: Theme.columnType, cell: countCell}
+                {key: "deviceCount", title: qsTr("设备数"), width: Theme.columnAccount, cell: countCell}
             ]
             focus: true
             model: root.accounts

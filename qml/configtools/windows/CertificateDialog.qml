@@ -100,7 +100,7 @@ OVDialog {
         OVFormRow {
             width: parent.width
             label: qsTr("指纹（SHA-256）")
-            labelWidth: Theme.panelLabelWidth
+            labelWidth: Theme.wideLabelWidth
             OVLabel {
                 height: Theme.controlHeight
                 font: Theme.figureFont
@@ -111,7 +111,7 @@ OVDialog {
         OVFormRow {
             width: parent.width
             label: qsTr("已确认的指纹")
-            labelWidth: Theme.panelLabelWidth
+            labelWidth: Theme.wideLabelWidth
             visible: root.warns
             OVLabel {
                 height: Theme.controlHeight

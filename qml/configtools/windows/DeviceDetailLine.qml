@@ -27,7 +27,7 @@ Rectangle {
 
     OVLabel {
         x: Theme.unit
-        width: Theme.panelLabelWidth
+        width: Theme.wideLabelWidth
         height: Theme.rowHeight
         color: Theme.colours.sub
         text: root.label
@@ -45,7 +45,7 @@ Rectangle {
     }
     TextEdit {
         id: valueText
-        x: Theme.panelLabelWidth + 2 * Theme.unit
+        x: Theme.wideLabelWidth + 2 * Theme.unit
         y: Math.round(Theme.rowHeight / 2 + font.pixelSize * Theme.baselineShift - baseline.baselineOffset)
         width: copy.x - x - Theme.unit
         color: Theme.colours.text

@@ -19,6 +19,12 @@ OVTable {
         [UpgradeTools.Restarting]: qsTr("重启")
     })
 
+    // The buttons of a row while no upgrade runs, and the width in pixels of the column that shows them.
+    readonly property string fileText: qsTr("选择文件")
+    readonly property string startText: qsTr("升级")
+    readonly property int neededForActions: Math.ceil(Theme.bodyMetrics.advanceWidth(fileText))
+        + Math.ceil(Theme.bodyMetrics.advanceWidth(startText)) + Theme.controlGap + Theme.unit
+
     arrangeable: true
     Keys.onPressed: event => {
         event.accepted = event.key === Qt.Key_F2 && currentIndex >= 0;
@@ -47,7 +53,10 @@ OVTable {
             cell: progressCell
         },
         {key: "upgraderes", title: qsTr("结果"), width: Theme.columnUpgradeResult, stretch: 2, sortable: true, cell: resultCell},
-        {key: "operate", title: qsTr("操作"), width: Theme.columnUpgradeActions, fixed: true, cell: actionCell}
+        {
+            key: "operate", title: qsTr("操作"), width: Math.max(Theme.columnUpgradeActions, neededForActions),
+            fixed: true, cell: actionCell
+        }
     ]
 
     Component {
@@ -207,14 +216,14 @@ OVTable {
                 OVLinkButton {
                     focusPolicy: action.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
                     objectName: "upgradeFile" + action.rowIndex
-                    text: qsTr("选择文件")
+                    text: root.fileText
                     visible: !action.running
                     onClicked: root.fileRequested(action.rowIndex)
                 }
                 OVLinkButton {
                     focusPolicy: action.current || activeFocus ? Qt.StrongFocus : Qt.NoFocus
                     objectName: "upgradeStart" + action.rowIndex
-                    text: qsTr("升级")
+                    text: root.startText
                     visible: !action.running
                     onClicked: root.startRequested(action.rowIndex)
                 }
