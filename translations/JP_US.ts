@@ -1319,6 +1319,10 @@
         <source>备注</source>
         <translation>備考</translation>
     </message>
+    <message>
+        <source>No.</source>
+        <translation>No.</translation>
+    </message>
 </context>
 <context>
     <name>CgiWorkbook</name>
@@ -6213,20 +6217,28 @@
         <translation>スナップショットを撮影中: %1 / %2</translation>
     </message>
     <message>
-        <source>成功 %1，失败 %2</source>
-        <translation>成功 %1、失敗 %2</translation>
-    </message>
-    <message>
-        <source>成功 %1</source>
-        <translation>成功 %1</translation>
-    </message>
-    <message>
         <source>停止</source>
         <translation>停止</translation>
     </message>
     <message>
         <source>正在停止…</source>
         <translation>停止中…</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>成功 %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>失敗 %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>、</translation>
     </message>
 </context>
 <context>
@@ -7117,14 +7129,6 @@
 <context>
     <name>UpgradeSummary</name>
     <message>
-        <source>成功 %1</source>
-        <translation>成功 %1</translation>
-    </message>
-    <message>
-        <source>失败 %1</source>
-        <translation>失敗 %1</translation>
-    </message>
-    <message>
         <source>，</source>
         <translation>, </translation>
     </message>
@@ -7132,6 +7136,18 @@
         <source>升级：%1 / %2</source>
         <extracomment>Finished devices of an upgrade, and all of them.</extracomment>
         <translation>アップグレード: %1 / %2 完了</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>成功 %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>失敗 %n</numerusform>
+        </translation>
     </message>
 </context>
 <context>

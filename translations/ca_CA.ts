@@ -1347,6 +1347,10 @@ Feu clic amb el botó dret per copiar el resultat</translation>
         <source>备注</source>
         <translation>Nota</translation>
     </message>
+    <message>
+        <source>No.</source>
+        <translation>Núm.</translation>
+    </message>
 </context>
 <context>
     <name>CgiWorkbook</name>
@@ -6293,20 +6297,30 @@ Fitxer: </translation>
         <translation>S’està fent la instantània %1 de %2</translation>
     </message>
     <message>
-        <source>成功 %1，失败 %2</source>
-        <translation>%1 fetes, %2 fallides</translation>
-    </message>
-    <message>
-        <source>成功 %1</source>
-        <translation>%1 fetes</translation>
-    </message>
-    <message>
         <source>停止</source>
         <translation>Atura</translation>
     </message>
     <message>
         <source>正在停止…</source>
         <translation>S’està aturant…</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>%n feta</numerusform>
+            <numerusform>%n fetes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>%n fallida</numerusform>
+            <numerusform>%n fallides</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -7208,14 +7222,6 @@ Fitxer: </translation>
 <context>
     <name>UpgradeSummary</name>
     <message>
-        <source>成功 %1</source>
-        <translation>%1 correctes</translation>
-    </message>
-    <message>
-        <source>失败 %1</source>
-        <translation>%1 fallits</translation>
-    </message>
-    <message>
         <source>，</source>
         <translation>, </translation>
     </message>
@@ -7223,6 +7229,20 @@ Fitxer: </translation>
         <source>升级：%1 / %2</source>
         <extracomment>Finished devices of an upgrade, and all of them.</extracomment>
         <translation>Actualització: %1 de %2 fets</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>%n correcte</numerusform>
+            <numerusform>%n correctes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>%n fallit</numerusform>
+            <numerusform>%n fallits</numerusform>
+        </translation>
     </message>
 </context>
 <context>

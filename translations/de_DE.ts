@@ -1347,6 +1347,10 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
         <source>备注</source>
         <translation>Notiz</translation>
     </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
 </context>
 <context>
     <name>CgiWorkbook</name>
@@ -6293,20 +6297,30 @@ Datei: </translation>
         <translation>Schnappschuss %1 von %2 wird aufgenommen</translation>
     </message>
     <message>
-        <source>成功 %1，失败 %2</source>
-        <translation>%1 aufgenommen, %2 fehlgeschlagen</translation>
-    </message>
-    <message>
-        <source>成功 %1</source>
-        <translation>%1 aufgenommen</translation>
-    </message>
-    <message>
         <source>停止</source>
         <translation>Stoppen</translation>
     </message>
     <message>
         <source>正在停止…</source>
         <translation>Wird gestoppt…</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>%n aufgenommen</numerusform>
+            <numerusform>%n aufgenommen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>%n fehlgeschlagen</numerusform>
+            <numerusform>%n fehlgeschlagen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -7208,14 +7222,6 @@ Datei: </translation>
 <context>
     <name>UpgradeSummary</name>
     <message>
-        <source>成功 %1</source>
-        <translation>%1 erfolgreich</translation>
-    </message>
-    <message>
-        <source>失败 %1</source>
-        <translation>%1 fehlgeschlagen</translation>
-    </message>
-    <message>
         <source>，</source>
         <translation>, </translation>
     </message>
@@ -7223,6 +7229,20 @@ Datei: </translation>
         <source>升级：%1 / %2</source>
         <extracomment>Finished devices of an upgrade, and all of them.</extracomment>
         <translation>Update: %1 von %2 erledigt</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>%n erfolgreich</numerusform>
+            <numerusform>%n erfolgreich</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>%n fehlgeschlagen</numerusform>
+            <numerusform>%n fehlgeschlagen</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -1347,6 +1347,10 @@ Right-click to copy the result</translation>
         <source>备注</source>
         <translation>Note</translation>
     </message>
+    <message>
+        <source>No.</source>
+        <translation>No.</translation>
+    </message>
 </context>
 <context>
     <name>CgiWorkbook</name>
@@ -6293,20 +6297,30 @@ File: </translation>
         <translation>Taking snapshot %1 of %2</translation>
     </message>
     <message>
-        <source>成功 %1，失败 %2</source>
-        <translation>%1 taken, %2 failed</translation>
-    </message>
-    <message>
-        <source>成功 %1</source>
-        <translation>%1 taken</translation>
-    </message>
-    <message>
         <source>停止</source>
         <translation>Stop</translation>
     </message>
     <message>
         <source>正在停止…</source>
         <translation>Stopping…</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>%n taken</numerusform>
+            <numerusform>%n taken</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>%n failed</numerusform>
+            <numerusform>%n failed</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -7208,14 +7222,6 @@ File: </translation>
 <context>
     <name>UpgradeSummary</name>
     <message>
-        <source>成功 %1</source>
-        <translation>%1 succeeded</translation>
-    </message>
-    <message>
-        <source>失败 %1</source>
-        <translation>%1 failed</translation>
-    </message>
-    <message>
         <source>，</source>
         <translation>, </translation>
     </message>
@@ -7223,6 +7229,20 @@ File: </translation>
         <source>升级：%1 / %2</source>
         <extracomment>Finished devices of an upgrade, and all of them.</extracomment>
         <translation>Upgrade: %1 of %2 done</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>%n succeeded</numerusform>
+            <numerusform>%n succeeded</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>%n failed</numerusform>
+            <numerusform>%n failed</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -1347,6 +1347,10 @@ Clic droit pour copier le résultat</translation>
         <source>备注</source>
         <translation>Remarque</translation>
     </message>
+    <message>
+        <source>No.</source>
+        <translation>N°</translation>
+    </message>
 </context>
 <context>
     <name>CgiWorkbook</name>
@@ -6293,20 +6297,30 @@ Fichier&#xa0;: </translation>
         <translation>Capture %1 sur %2 en cours</translation>
     </message>
     <message>
-        <source>成功 %1，失败 %2</source>
-        <translation>%1 prises, %2 échecs</translation>
-    </message>
-    <message>
-        <source>成功 %1</source>
-        <translation>%1 prises</translation>
-    </message>
-    <message>
         <source>停止</source>
         <translation>Arrêter</translation>
     </message>
     <message>
         <source>正在停止…</source>
         <translation>Arrêt…</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>%n prise</numerusform>
+            <numerusform>%n prises</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>%n échec</numerusform>
+            <numerusform>%n échecs</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -7208,14 +7222,6 @@ Fichier&#xa0;: </translation>
 <context>
     <name>UpgradeSummary</name>
     <message>
-        <source>成功 %1</source>
-        <translation>%1 réussis</translation>
-    </message>
-    <message>
-        <source>失败 %1</source>
-        <translation>%1 échecs</translation>
-    </message>
-    <message>
         <source>，</source>
         <translation>, </translation>
     </message>
@@ -7223,6 +7229,20 @@ Fichier&#xa0;: </translation>
         <source>升级：%1 / %2</source>
         <extracomment>Finished devices of an upgrade, and all of them.</extracomment>
         <translation>Mise à jour&#xa0;: %1 sur %2 traités</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>%n réussi</numerusform>
+            <numerusform>%n réussis</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>%n échec</numerusform>
+            <numerusform>%n échecs</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -1347,6 +1347,10 @@ Prema co botón dereito para copiar o resultado</translation>
         <source>备注</source>
         <translation>Nota</translation>
     </message>
+    <message>
+        <source>No.</source>
+        <translation>N.º</translation>
+    </message>
 </context>
 <context>
     <name>CgiWorkbook</name>
@@ -6293,20 +6297,30 @@ Ficheiro: </translation>
         <translation>Facendo a instantánea %1 de %2</translation>
     </message>
     <message>
-        <source>成功 %1，失败 %2</source>
-        <translation>%1 feitas, %2 fallidas</translation>
-    </message>
-    <message>
-        <source>成功 %1</source>
-        <translation>%1 feitas</translation>
-    </message>
-    <message>
         <source>停止</source>
         <translation>Deter</translation>
     </message>
     <message>
         <source>正在停止…</source>
         <translation>Detendo…</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>%n feita</numerusform>
+            <numerusform>%n feitas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>%n fallida</numerusform>
+            <numerusform>%n fallidas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -7208,14 +7222,6 @@ Ficheiro: </translation>
 <context>
     <name>UpgradeSummary</name>
     <message>
-        <source>成功 %1</source>
-        <translation>%1 correctos</translation>
-    </message>
-    <message>
-        <source>失败 %1</source>
-        <translation>%1 fallidos</translation>
-    </message>
-    <message>
         <source>，</source>
         <translation>, </translation>
     </message>
@@ -7223,6 +7229,20 @@ Ficheiro: </translation>
         <source>升级：%1 / %2</source>
         <extracomment>Finished devices of an upgrade, and all of them.</extracomment>
         <translation>Actualización: %1 de %2 feitos</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>%n correcto</numerusform>
+            <numerusform>%n correctos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>%n fallido</numerusform>
+            <numerusform>%n fallidos</numerusform>
+        </translation>
     </message>
 </context>
 <context>

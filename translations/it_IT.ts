@@ -1347,6 +1347,10 @@ Clic destro per copiare il risultato</translation>
         <source>备注</source>
         <translation>Nota</translation>
     </message>
+    <message>
+        <source>No.</source>
+        <translation>N.</translation>
+    </message>
 </context>
 <context>
     <name>CgiWorkbook</name>
@@ -6293,20 +6297,30 @@ File: </translation>
         <translation>Acquisizione istantanea %1 di %2</translation>
     </message>
     <message>
-        <source>成功 %1，失败 %2</source>
-        <translation>%1 acquisite, %2 fallite</translation>
-    </message>
-    <message>
-        <source>成功 %1</source>
-        <translation>%1 acquisite</translation>
-    </message>
-    <message>
         <source>停止</source>
         <translation>Ferma</translation>
     </message>
     <message>
         <source>正在停止…</source>
         <translation>Interruzione…</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>%n acquisita</numerusform>
+            <numerusform>%n acquisite</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>%n fallita</numerusform>
+            <numerusform>%n fallite</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -7208,14 +7222,6 @@ File: </translation>
 <context>
     <name>UpgradeSummary</name>
     <message>
-        <source>成功 %1</source>
-        <translation>%1 riusciti</translation>
-    </message>
-    <message>
-        <source>失败 %1</source>
-        <translation>%1 falliti</translation>
-    </message>
-    <message>
         <source>，</source>
         <translation>, </translation>
     </message>
@@ -7223,6 +7229,20 @@ File: </translation>
         <source>升级：%1 / %2</source>
         <extracomment>Finished devices of an upgrade, and all of them.</extracomment>
         <translation>Aggiornamento: %1 di %2 completati</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>%n riuscito</numerusform>
+            <numerusform>%n riusciti</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>%n fallito</numerusform>
+            <numerusform>%n falliti</numerusform>
+        </translation>
     </message>
 </context>
 <context>

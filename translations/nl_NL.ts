@@ -1347,6 +1347,10 @@ Klik met rechts om het resultaat te kopiëren</translation>
         <source>备注</source>
         <translation>Notitie</translation>
     </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
 </context>
 <context>
     <name>CgiWorkbook</name>
@@ -6293,20 +6297,30 @@ Bestand: </translation>
         <translation>Snapshot %1 van %2 maken</translation>
     </message>
     <message>
-        <source>成功 %1，失败 %2</source>
-        <translation>%1 gemaakt, %2 mislukt</translation>
-    </message>
-    <message>
-        <source>成功 %1</source>
-        <translation>%1 gemaakt</translation>
-    </message>
-    <message>
         <source>停止</source>
         <translation>Stoppen</translation>
     </message>
     <message>
         <source>正在停止…</source>
         <translation>Stoppen…</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>%n gemaakt</numerusform>
+            <numerusform>%n gemaakt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>%n mislukt</numerusform>
+            <numerusform>%n mislukt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -7208,14 +7222,6 @@ Bestand: </translation>
 <context>
     <name>UpgradeSummary</name>
     <message>
-        <source>成功 %1</source>
-        <translation>%1 geslaagd</translation>
-    </message>
-    <message>
-        <source>失败 %1</source>
-        <translation>%1 mislukt</translation>
-    </message>
-    <message>
         <source>，</source>
         <translation>, </translation>
     </message>
@@ -7223,6 +7229,20 @@ Bestand: </translation>
         <source>升级：%1 / %2</source>
         <extracomment>Finished devices of an upgrade, and all of them.</extracomment>
         <translation>Upgrade: %1 van %2 gedaan</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>%n geslaagd</numerusform>
+            <numerusform>%n geslaagd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>%n mislukt</numerusform>
+            <numerusform>%n mislukt</numerusform>
+        </translation>
     </message>
 </context>
 <context>

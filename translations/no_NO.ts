@@ -1347,6 +1347,10 @@ Høyreklikk for å kopiere resultatet</translation>
         <source>备注</source>
         <translation>Notat</translation>
     </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
 </context>
 <context>
     <name>CgiWorkbook</name>
@@ -6293,20 +6297,30 @@ Fil: </translation>
         <translation>Tar stillbilde %1 av %2</translation>
     </message>
     <message>
-        <source>成功 %1，失败 %2</source>
-        <translation>%1 tatt, %2 mislyktes</translation>
-    </message>
-    <message>
-        <source>成功 %1</source>
-        <translation>%1 tatt</translation>
-    </message>
-    <message>
         <source>停止</source>
         <translation>Stopp</translation>
     </message>
     <message>
         <source>正在停止…</source>
         <translation>Stopper…</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>%n tatt</numerusform>
+            <numerusform>%n tatt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>%n mislyktes</numerusform>
+            <numerusform>%n mislyktes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -7208,14 +7222,6 @@ Fil: </translation>
 <context>
     <name>UpgradeSummary</name>
     <message>
-        <source>成功 %1</source>
-        <translation>%1 vellykket</translation>
-    </message>
-    <message>
-        <source>失败 %1</source>
-        <translation>%1 mislyktes</translation>
-    </message>
-    <message>
         <source>，</source>
         <translation>, </translation>
     </message>
@@ -7223,6 +7229,20 @@ Fil: </translation>
         <source>升级：%1 / %2</source>
         <extracomment>Finished devices of an upgrade, and all of them.</extracomment>
         <translation>Oppgradering: %1 av %2 ferdig</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>%n vellykket</numerusform>
+            <numerusform>%n vellykkede</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>%n mislyktes</numerusform>
+            <numerusform>%n mislyktes</numerusform>
+        </translation>
     </message>
 </context>
 <context>

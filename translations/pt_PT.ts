@@ -1347,6 +1347,10 @@ Clique com o botão direito para copiar o resultado</translation>
         <source>备注</source>
         <translation>Nota</translation>
     </message>
+    <message>
+        <source>No.</source>
+        <translation>N.º</translation>
+    </message>
 </context>
 <context>
     <name>CgiWorkbook</name>
@@ -6293,20 +6297,30 @@ Ficheiro: </translation>
         <translation>A fazer a captura %1 de %2</translation>
     </message>
     <message>
-        <source>成功 %1，失败 %2</source>
-        <translation>%1 feitas, %2 falhadas</translation>
-    </message>
-    <message>
-        <source>成功 %1</source>
-        <translation>%1 feitas</translation>
-    </message>
-    <message>
         <source>停止</source>
         <translation>Parar</translation>
     </message>
     <message>
         <source>正在停止…</source>
         <translation>A parar…</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>%n feita</numerusform>
+            <numerusform>%n feitas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>%n falhada</numerusform>
+            <numerusform>%n falhadas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -7208,14 +7222,6 @@ Ficheiro: </translation>
 <context>
     <name>UpgradeSummary</name>
     <message>
-        <source>成功 %1</source>
-        <translation>%1 com êxito</translation>
-    </message>
-    <message>
-        <source>失败 %1</source>
-        <translation>%1 falhados</translation>
-    </message>
-    <message>
         <source>，</source>
         <translation>, </translation>
     </message>
@@ -7223,6 +7229,20 @@ Ficheiro: </translation>
         <source>升级：%1 / %2</source>
         <extracomment>Finished devices of an upgrade, and all of them.</extracomment>
         <translation>Atualização: %1 de %2 concluídos</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>%n com êxito</numerusform>
+            <numerusform>%n com êxito</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>%n falhado</numerusform>
+            <numerusform>%n falhados</numerusform>
+        </translation>
     </message>
 </context>
 <context>

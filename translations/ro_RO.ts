@@ -1375,6 +1375,10 @@ Clic dreapta pentru a copia rezultatul</translation>
         <source>备注</source>
         <translation>Notă</translation>
     </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
 </context>
 <context>
     <name>CgiWorkbook</name>
@@ -6373,20 +6377,32 @@ Fișier: </translation>
         <translation>Se face instantaneul %1 din %2</translation>
     </message>
     <message>
-        <source>成功 %1，失败 %2</source>
-        <translation>%1 realizate, %2 eșuate</translation>
-    </message>
-    <message>
-        <source>成功 %1</source>
-        <translation>%1 realizate</translation>
-    </message>
-    <message>
         <source>停止</source>
         <translation>Oprire</translation>
     </message>
     <message>
         <source>正在停止…</source>
         <translation>Se oprește…</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>%n realizat</numerusform>
+            <numerusform>%n realizate</numerusform>
+            <numerusform>%n realizate</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>%n eșuat</numerusform>
+            <numerusform>%n eșuate</numerusform>
+            <numerusform>%n eșuate</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -7299,14 +7315,6 @@ Fișier: </translation>
 <context>
     <name>UpgradeSummary</name>
     <message>
-        <source>成功 %1</source>
-        <translation>%1 reușite</translation>
-    </message>
-    <message>
-        <source>失败 %1</source>
-        <translation>%1 eșuate</translation>
-    </message>
-    <message>
         <source>，</source>
         <translation>, </translation>
     </message>
@@ -7314,6 +7322,22 @@ Fișier: </translation>
         <source>升级：%1 / %2</source>
         <extracomment>Finished devices of an upgrade, and all of them.</extracomment>
         <translation>Actualizare: %1 din %2 terminate</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>%n reușit</numerusform>
+            <numerusform>%n reușite</numerusform>
+            <numerusform>%n reușite</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>%n eșuat</numerusform>
+            <numerusform>%n eșuate</numerusform>
+            <numerusform>%n eșuate</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -1347,6 +1347,10 @@ Högerklicka för att kopiera resultatet</translation>
         <source>备注</source>
         <translation>Anteckning</translation>
     </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr</translation>
+    </message>
 </context>
 <context>
     <name>CgiWorkbook</name>
@@ -6293,20 +6297,30 @@ Fil: </translation>
         <translation>Tar stillbild %1 av %2</translation>
     </message>
     <message>
-        <source>成功 %1，失败 %2</source>
-        <translation>%1 tagna, %2 misslyckades</translation>
-    </message>
-    <message>
-        <source>成功 %1</source>
-        <translation>%1 tagna</translation>
-    </message>
-    <message>
         <source>停止</source>
         <translation>Stoppa</translation>
     </message>
     <message>
         <source>正在停止…</source>
         <translation>Stoppar…</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>%n tagen</numerusform>
+            <numerusform>%n tagna</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>%n misslyckades</numerusform>
+            <numerusform>%n misslyckades</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>，</source>
+        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -7208,14 +7222,6 @@ Fil: </translation>
 <context>
     <name>UpgradeSummary</name>
     <message>
-        <source>成功 %1</source>
-        <translation>%1 lyckades</translation>
-    </message>
-    <message>
-        <source>失败 %1</source>
-        <translation>%1 misslyckades</translation>
-    </message>
-    <message>
         <source>，</source>
         <translation>, </translation>
     </message>
@@ -7223,6 +7229,20 @@ Fil: </translation>
         <source>升级：%1 / %2</source>
         <extracomment>Finished devices of an upgrade, and all of them.</extracomment>
         <translation>Uppgradering: %1 av %2 klara</translation>
+    </message>
+    <message numerus="yes">
+        <source>成功 %n</source>
+        <translation>
+            <numerusform>%n lyckades</numerusform>
+            <numerusform>%n lyckades</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>失败 %n</source>
+        <translation>
+            <numerusform>%n misslyckades</numerusform>
+            <numerusform>%n misslyckades</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -155,7 +155,9 @@ void walkSnapshots(Driver &live)
     live.click(u"liveSnapAllButton"_s);
     live.await(u"the first snapshot is shown"_s, [&] { return live.find(u"snapshotImage"_s) != nullptr; });
     live.report(u"snapshots-running"_s, live.text(u"snapshotSummary"_s));
-    const QString expected = QCoreApplication::translate("SnapshotDialog", "成功 %1，失败 %2").arg(11).arg(5);
+    const QString expected = QCoreApplication::translate("SnapshotDialog", "成功 %n", nullptr, 11) +
+                             translated("SnapshotDialog", "，") +
+                             QCoreApplication::translate("SnapshotDialog", "失败 %n", nullptr, 5);
     live.await(
         u"every channel has a snapshot or a reason"_s,
         [&] { return live.text(u"snapshotSummary"_s) == expected; }, 90);

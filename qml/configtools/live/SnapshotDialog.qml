@@ -39,9 +39,9 @@ OVDialog {
         text: root.snapshots.busy
             ? qsTr("正在抓图 %1 / %2").arg(Math.min(root.snapshots.done + 1, root.snapshots.results.length))
                                       .arg(root.snapshots.results.length)
-            : root.failures > 0 ? qsTr("成功 %1，失败 %2").arg(root.snapshots.results.length - root.failures)
-                                                          .arg(root.failures)
-            : qsTr("成功 %1").arg(root.snapshots.results.length)
+            : [qsTr("成功 %n", "", root.snapshots.results.length - root.failures),
+               root.failures > 0 ? qsTr("失败 %n", "", root.failures) : ""]
+                .filter(part => part !== "").join(qsTr("，"))
     }]
 
     GridView {

@@ -38,7 +38,7 @@ OVTable {
     // The keys are those of the rows of the device list. "result": start of the last response, or "Error:" and the
     // reason. "url": the command.
     columns: [
-        {key: "num", title: "No.", width: Theme.columnNumber, cell: numberCell},
+        {key: "num", title: qsTr("No."), width: Theme.columnNumber, cell: numberCell},
         {key: "model", title: qsTr("型号"), width: Theme.columnModel, stretch: 1, sortable: true, cell: modelCell},
         {key: "ipport", title: qsTr("IP:端口"), width: Theme.columnAddress, sortable: true, cell: addressCell},
         {key: "note", title: qsTr("备注"), width: Theme.columnNote, stretch: 1, sortable: true, hidden: true},

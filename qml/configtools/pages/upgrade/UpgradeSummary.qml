@@ -14,8 +14,8 @@ Item {
     /// Numbers of devices by result, as text.
     readonly property string outcome: {
         if (batch?.running)  // the remaining ones are still in progress
-            return [report.succeeded > 0 ? qsTr("成功 %1").arg(report.succeeded) : "",
-                    report.failed > 0 ? qsTr("失败 %1").arg(report.failed) : ""]
+            return [report.succeeded > 0 ? qsTr("成功 %n", "", report.succeeded) : "",
+                    report.failed > 0 ? qsTr("失败 %n", "", report.failed) : ""]
                 .filter(part => part !== "").join(qsTr("，"));
         return report.summary;
     }
