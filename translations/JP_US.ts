@@ -3391,7 +3391,7 @@
     <name>InitialisationPreview</name>
     <message>
         <source>已初始化，不会执行</source>
-        <translation>初期化済み: スキップ</translation>
+        <translation>初期化済み</translation>
     </message>
     <message>
         <source>正在升级，不会执行</source>
@@ -4883,7 +4883,7 @@
     </message>
     <message>
         <source>搜索...</source>
-        <translation>検索...</translation>
+        <translation>検索…</translation>
     </message>
     <message>
         <source>复制成功</source>
@@ -7190,7 +7190,7 @@
     </message>
     <message>
         <source>升级文件</source>
-        <translation>ファームウェアファイル</translation>
+        <translation>ファームウェア</translation>
     </message>
     <message>
         <source>进度</source>
@@ -7375,7 +7375,7 @@
     </message>
     <message>
         <source>搜索...</source>
-        <translation>検索...</translation>
+        <translation>検索…</translation>
     </message>
     <message>
         <source>IPV4</source>

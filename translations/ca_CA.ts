@@ -743,8 +743,8 @@
     <message numerus="yes">
         <source>%n 台设备失败</source>
         <translation>
-            <numerusform>%n amb error</numerusform>
-            <numerusform>%n amb error</numerusform>
+            <numerusform>%n fallit</numerusform>
+            <numerusform>%n fallits</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2558,7 +2558,7 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     </message>
     <message>
         <source>码流控制</source>
-        <translation>Control de la taxa de bits</translation>
+        <translation>Control de la taxa</translation>
     </message>
     <message>
         <source>固定码流</source>
@@ -2574,7 +2574,7 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     </message>
     <message>
         <source>帧率(FPS)</source>
-        <translation>Taxa de fotogrames (fps)</translation>
+        <translation>Fotogrames (fps)</translation>
     </message>
     <message>
         <source>画质</source>
@@ -2859,8 +2859,8 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     <message numerus="yes">
         <source>%n 幅失败</source>
         <translation>
-            <numerusform>%n amb error</numerusform>
-            <numerusform>%n amb error</numerusform>
+            <numerusform>%n fallida</numerusform>
+            <numerusform>%n fallides</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3058,7 +3058,7 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     </message>
     <message>
         <source>强光抑制</source>
-        <translation>Compensació de llums altes</translation>
+        <translation>Comp. de llums altes</translation>
     </message>
     <message>
         <source>白平衡</source>
@@ -3159,11 +3159,11 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     </message>
     <message>
         <source>近光亮度</source>
-        <translation>Brillantor de la llum propera</translation>
+        <translation>Brillantor propera</translation>
     </message>
     <message>
         <source>远光亮度</source>
-        <translation>Brillantor de la llum llunyana</translation>
+        <translation>Brillantor llunyana</translation>
     </message>
     <message>
         <source>灯光校正</source>
@@ -3404,7 +3404,7 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     </message>
     <message>
         <source>恢复默认</source>
-        <translation>Restaura predeterminats</translation>
+        <translation>Predeterminats</translation>
     </message>
     <message>
         <source>名称过长，最多 %1 字节</source>
@@ -3438,7 +3438,7 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     <name>InitialisationPreview</name>
     <message>
         <source>已初始化，不会执行</source>
-        <translation>Ja inicialitzat: s’omet</translation>
+        <translation>Ja inicialitzat</translation>
     </message>
     <message>
         <source>正在升级，不会执行</source>
@@ -4075,7 +4075,7 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     </message>
     <message>
         <source>子网掩码</source>
-        <translation>Màscara de subxarxa</translation>
+        <translation>Màscara</translation>
     </message>
     <message>
         <source>网关</source>
@@ -4664,8 +4664,8 @@ Fitxer: </translation>
         <source>%n 台失败</source>
         <extracomment>Devices of a running batch.</extracomment>
         <translation>
-            <numerusform>%n amb error</numerusform>
-            <numerusform>%n amb error</numerusform>
+            <numerusform>%n fallit</numerusform>
+            <numerusform>%n fallits</numerusform>
         </translation>
     </message>
     <message>
@@ -4950,7 +4950,7 @@ Fitxer: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Cerca...</translation>
+        <translation>Cerca…</translation>
     </message>
     <message>
         <source>复制成功</source>
@@ -6530,23 +6530,23 @@ Fitxer: </translation>
     </message>
     <message>
         <source>第一周</source>
-        <translation>Primera setmana</translation>
+        <translation>Primera</translation>
     </message>
     <message>
         <source>第二周</source>
-        <translation>Segona setmana</translation>
+        <translation>Segona</translation>
     </message>
     <message>
         <source>第三周</source>
-        <translation>Tercera setmana</translation>
+        <translation>Tercera</translation>
     </message>
     <message>
         <source>第四周</source>
-        <translation>Quarta setmana</translation>
+        <translation>Quarta</translation>
     </message>
     <message>
         <source>最后一周</source>
-        <translation>Última setmana</translation>
+        <translation>Última</translation>
     </message>
     <message>
         <source>周日</source>
@@ -6736,7 +6736,7 @@ Fitxer: </translation>
     </message>
     <message>
         <source>确认密码</source>
-        <translation>Confirma la contrasenya</translation>
+        <translation>Confirma</translation>
     </message>
     <message>
         <source>密码8~32位,且至少包含数字、字母和常用字符中的两种(字符为除&apos;&quot;:;&amp;这五个字符以外的任意可见字符)</source>
@@ -7470,7 +7470,7 @@ Fitxer: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Cerca...</translation>
+        <translation>Cerca…</translation>
     </message>
     <message>
         <source>IPV4</source>

@@ -252,7 +252,7 @@
     </message>
     <message>
         <source>未使用</source>
-        <translation>Nicht verwendet</translation>
+        <translation>Unbenutzt</translation>
     </message>
     <message>
         <source>设备已拒绝此账号，请选择或添加另一个账号</source>
@@ -511,7 +511,7 @@
     </message>
     <message>
         <source>重试失败</source>
-        <translation>Fehlgeschl. wiederholen</translation>
+        <translation>Erneut versuchen</translation>
     </message>
     <message>
         <source>对失败和未执行的设备再试一次</source>
@@ -3026,7 +3026,7 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
     </message>
     <message>
         <source>3D降噪</source>
-        <translation>3D-Rauschunterdrückung</translation>
+        <translation>3D-Rauschminderung</translation>
     </message>
     <message>
         <source>降噪等级</source>
@@ -3303,7 +3303,7 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
     </message>
     <message>
         <source>电子防抖</source>
-        <translation>Elektronische Stabilisierung</translation>
+        <translation>Bildstabilisierung</translation>
     </message>
     <message>
         <source>透雾</source>
@@ -3438,7 +3438,7 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
     <name>InitialisationPreview</name>
     <message>
         <source>已初始化，不会执行</source>
-        <translation>Bereits initialisiert: übersprungen</translation>
+        <translation>Bereits initialisiert</translation>
     </message>
     <message>
         <source>正在升级，不会执行</source>
@@ -4683,7 +4683,7 @@ Datei: </translation>
     <message>
         <source>重试失败</source>
         <extracomment>%1 is the title of the batch. The page may have a separate retry button.</extracomment>
-        <translation>Fehlgeschl. wiederholen</translation>
+        <translation>Erneut versuchen</translation>
     </message>
     <message>
         <source>在本页只勾选失败和未执行的设备</source>
@@ -4738,7 +4738,7 @@ Datei: </translation>
     </message>
     <message>
         <source>重试失败：%1</source>
-        <translation>Fehlgeschl. wiederholen: %1</translation>
+        <translation>Erneut versuchen: %1</translation>
     </message>
     <message>
         <source>对“%1”中失败和未执行的设备再试一次，密码错误等不会因重试而成功的除外</source>
@@ -4950,7 +4950,7 @@ Datei: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Suchen...</translation>
+        <translation>Suchen…</translation>
     </message>
     <message>
         <source>复制成功</source>
@@ -6530,23 +6530,23 @@ Datei: </translation>
     </message>
     <message>
         <source>第一周</source>
-        <translation>Erste Woche</translation>
+        <translation>Erste</translation>
     </message>
     <message>
         <source>第二周</source>
-        <translation>Zweite Woche</translation>
+        <translation>Zweite</translation>
     </message>
     <message>
         <source>第三周</source>
-        <translation>Dritte Woche</translation>
+        <translation>Dritte</translation>
     </message>
     <message>
         <source>第四周</source>
-        <translation>Vierte Woche</translation>
+        <translation>Vierte</translation>
     </message>
     <message>
         <source>最后一周</source>
-        <translation>Letzte Woche</translation>
+        <translation>Letzte</translation>
     </message>
     <message>
         <source>周日</source>
@@ -7446,7 +7446,7 @@ Datei: </translation>
     </message>
     <message>
         <source>重试失败项</source>
-        <translation>Fehlgeschl. wiederholen</translation>
+        <translation>Erneut versuchen</translation>
     </message>
     <message>
         <source>再次升级重试可能成功的设备，例如无应答的设备</source>
@@ -7470,7 +7470,7 @@ Datei: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Suchen...</translation>
+        <translation>Suchen…</translation>
     </message>
     <message>
         <source>IPV4</source>

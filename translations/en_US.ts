@@ -3438,7 +3438,7 @@ Right-click to copy the result</translation>
     <name>InitialisationPreview</name>
     <message>
         <source>已初始化，不会执行</source>
-        <translation>Already initialised: skipped</translation>
+        <translation>Already initialised</translation>
     </message>
     <message>
         <source>正在升级，不会执行</source>
@@ -4950,7 +4950,7 @@ File: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Search...</translation>
+        <translation>Search…</translation>
     </message>
     <message>
         <source>复制成功</source>
@@ -7470,7 +7470,7 @@ File: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Search...</translation>
+        <translation>Search…</translation>
     </message>
     <message>
         <source>IPV4</source>

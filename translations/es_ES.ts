@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>设为默认账号，用于搜索和所有设备</source>
-        <translation>Convertirla en la cuenta predeterminada de todos los dispositivos</translation>
+        <translation>Usar como cuenta predeterminada de todos</translation>
     </message>
     <message>
         <source>不保存，只用到下次搜索</source>
@@ -1875,7 +1875,7 @@ Clic derecho para copiar el resultado</translation>
     </message>
     <message>
         <source>设备服务端口</source>
-        <translation>Puerto de servicio del dispositivo</translation>
+        <translation>Puerto de servicio</translation>
     </message>
     <message>
         <source>HTTP端口</source>
@@ -2558,7 +2558,7 @@ Clic derecho para copiar el resultado</translation>
     </message>
     <message>
         <source>码流控制</source>
-        <translation>Control de tasa de bits</translation>
+        <translation>Control de tasa</translation>
     </message>
     <message>
         <source>固定码流</source>
@@ -2859,8 +2859,8 @@ Clic derecho para copiar el resultado</translation>
     <message numerus="yes">
         <source>%n 幅失败</source>
         <translation>
-            <numerusform>%n fallido</numerusform>
-            <numerusform>%n fallidos</numerusform>
+            <numerusform>%n fallida</numerusform>
+            <numerusform>%n fallidas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3361,7 +3361,7 @@ Clic derecho para copiar el resultado</translation>
     </message>
     <message>
         <source>快门范围(ms)</source>
-        <translation>Rango del obturador (ms)</translation>
+        <translation>Rango de obturador (ms)</translation>
     </message>
     <message>
         <source>最短快门</source>
@@ -3404,7 +3404,7 @@ Clic derecho para copiar el resultado</translation>
     </message>
     <message>
         <source>恢复默认</source>
-        <translation>Valores predeterminados</translation>
+        <translation>Predeterminados</translation>
     </message>
     <message>
         <source>名称过长，最多 %1 字节</source>
@@ -3438,7 +3438,7 @@ Clic derecho para copiar el resultado</translation>
     <name>InitialisationPreview</name>
     <message>
         <source>已初始化，不会执行</source>
-        <translation>Ya inicializado: omitido</translation>
+        <translation>Ya inicializado</translation>
     </message>
     <message>
         <source>正在升级，不会执行</source>
@@ -3838,7 +3838,7 @@ Clic derecho para copiar el resultado</translation>
     </message>
     <message>
         <source>设备配置</source>
-        <translation>Config. de dispositivos</translation>
+        <translation>Configuración de dispositivos</translation>
     </message>
     <message>
         <source>系统配置</source>
@@ -4950,7 +4950,7 @@ Archivo: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Buscar...</translation>
+        <translation>Buscar…</translation>
     </message>
     <message>
         <source>复制成功</source>
@@ -5036,7 +5036,7 @@ Archivo: </translation>
     </message>
     <message>
         <source>设备配置</source>
-        <translation>Config. de dispositivos</translation>
+        <translation>Configuración de dispositivos</translation>
     </message>
     <message>
         <source>写入通道 %1 的编码配置</source>
@@ -6032,7 +6032,7 @@ Archivo: </translation>
     </message>
     <message>
         <source>搜索时用此账号登录设备</source>
-        <translation>Iniciar sesión en los dispositivos durante la búsqueda</translation>
+        <translation>Iniciar sesión durante la búsqueda</translation>
     </message>
     <message>
         <source>读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。</source>
@@ -6530,23 +6530,23 @@ Archivo: </translation>
     </message>
     <message>
         <source>第一周</source>
-        <translation>Primera semana</translation>
+        <translation>Primera</translation>
     </message>
     <message>
         <source>第二周</source>
-        <translation>Segunda semana</translation>
+        <translation>Segunda</translation>
     </message>
     <message>
         <source>第三周</source>
-        <translation>Tercera semana</translation>
+        <translation>Tercera</translation>
     </message>
     <message>
         <source>第四周</source>
-        <translation>Cuarta semana</translation>
+        <translation>Cuarta</translation>
     </message>
     <message>
         <source>最后一周</source>
-        <translation>Última semana</translation>
+        <translation>Última</translation>
     </message>
     <message>
         <source>周日</source>
@@ -6998,7 +6998,7 @@ Archivo: </translation>
     </message>
     <message>
         <source>地址或域名</source>
-        <translation>Dirección IP o nombre de host</translation>
+        <translation>IP o nombre de host</translation>
     </message>
     <message>
         <source>NTP端口</source>
@@ -7261,7 +7261,7 @@ Archivo: </translation>
     </message>
     <message>
         <source>写入</source>
-        <translation>Escribiendo</translation>
+        <translation>Grabando</translation>
     </message>
     <message>
         <source>重启</source>
@@ -7470,7 +7470,7 @@ Archivo: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Buscar...</translation>
+        <translation>Buscar…</translation>
     </message>
     <message>
         <source>IPV4</source>

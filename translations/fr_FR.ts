@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>不保存，只用到下次搜索</source>
-        <translation>Ne pas enregistrer&#xa0;; utiliser jusqu&apos;à la prochaine recherche</translation>
+        <translation>Seulement jusqu&apos;à la prochaine recherche</translation>
     </message>
 </context>
 <context>
@@ -2797,7 +2797,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>新密码</source>
-        <translation>Nouveau mot de passe</translation>
+        <translation>Mot de passe</translation>
     </message>
     <message>
         <source>确认密码</source>
@@ -3404,7 +3404,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>恢复默认</source>
-        <translation>Valeurs par défaut</translation>
+        <translation>Par défaut</translation>
     </message>
     <message>
         <source>名称过长，最多 %1 字节</source>
@@ -3438,7 +3438,7 @@ Clic droit pour copier le résultat</translation>
     <name>InitialisationPreview</name>
     <message>
         <source>已初始化，不会执行</source>
-        <translation>Déjà initialisé&#xa0;: ignoré</translation>
+        <translation>Déjà initialisé</translation>
     </message>
     <message>
         <source>正在升级，不会执行</source>
@@ -4075,7 +4075,7 @@ Clic droit pour copier le résultat</translation>
     </message>
     <message>
         <source>子网掩码</source>
-        <translation>Masque de sous-réseau</translation>
+        <translation>Masque</translation>
     </message>
     <message>
         <source>网关</source>
@@ -4950,7 +4950,7 @@ Fichier&#xa0;: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Rechercher...</translation>
+        <translation>Rechercher…</translation>
     </message>
     <message>
         <source>复制成功</source>
@@ -6032,7 +6032,7 @@ Fichier&#xa0;: </translation>
     </message>
     <message>
         <source>搜索时用此账号登录设备</source>
-        <translation>S&apos;identifier aux appareils pendant la recherche</translation>
+        <translation>S&apos;identifier pendant la recherche</translation>
     </message>
     <message>
         <source>读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。</source>
@@ -6530,23 +6530,23 @@ Fichier&#xa0;: </translation>
     </message>
     <message>
         <source>第一周</source>
-        <translation>Première semaine</translation>
+        <translation>Première</translation>
     </message>
     <message>
         <source>第二周</source>
-        <translation>Deuxième semaine</translation>
+        <translation>Deuxième</translation>
     </message>
     <message>
         <source>第三周</source>
-        <translation>Troisième semaine</translation>
+        <translation>Troisième</translation>
     </message>
     <message>
         <source>第四周</source>
-        <translation>Quatrième semaine</translation>
+        <translation>Quatrième</translation>
     </message>
     <message>
         <source>最后一周</source>
-        <translation>Dernière semaine</translation>
+        <translation>Dernière</translation>
     </message>
     <message>
         <source>周日</source>
@@ -6736,7 +6736,7 @@ Fichier&#xa0;: </translation>
     </message>
     <message>
         <source>确认密码</source>
-        <translation>Confirmer le mot de passe</translation>
+        <translation>Confirmer</translation>
     </message>
     <message>
         <source>密码8~32位,且至少包含数字、字母和常用字符中的两种(字符为除&apos;&quot;:;&amp;这五个字符以外的任意可见字符)</source>
@@ -7470,7 +7470,7 @@ Fichier&#xa0;: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Rechercher...</translation>
+        <translation>Rechercher…</translation>
     </message>
     <message>
         <source>IPV4</source>

@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>设为默认账号，用于搜索和所有设备</source>
-        <translation>Facela a conta predeterminada de todos os dispositivos</translation>
+        <translation>Usar como conta predeterminada de todos</translation>
     </message>
     <message>
         <source>不保存，只用到下次搜索</source>
@@ -743,8 +743,8 @@
     <message numerus="yes">
         <source>%n 台设备失败</source>
         <translation>
-            <numerusform>%n con erro</numerusform>
-            <numerusform>%n con erro</numerusform>
+            <numerusform>%n fallido</numerusform>
+            <numerusform>%n fallidos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2558,7 +2558,7 @@ Prema co botón dereito para copiar o resultado</translation>
     </message>
     <message>
         <source>码流控制</source>
-        <translation>Control da taxa de bits</translation>
+        <translation>Control da taxa</translation>
     </message>
     <message>
         <source>固定码流</source>
@@ -2574,7 +2574,7 @@ Prema co botón dereito para copiar o resultado</translation>
     </message>
     <message>
         <source>帧率(FPS)</source>
-        <translation>Taxa de fotogramas (fps)</translation>
+        <translation>Fotogramas (fps)</translation>
     </message>
     <message>
         <source>画质</source>
@@ -2859,8 +2859,8 @@ Prema co botón dereito para copiar o resultado</translation>
     <message numerus="yes">
         <source>%n 幅失败</source>
         <translation>
-            <numerusform>%n con erro</numerusform>
-            <numerusform>%n con erro</numerusform>
+            <numerusform>%n fallida</numerusform>
+            <numerusform>%n fallidas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3058,7 +3058,7 @@ Prema co botón dereito para copiar o resultado</translation>
     </message>
     <message>
         <source>强光抑制</source>
-        <translation>Compensación de luces altas</translation>
+        <translation>Comp. de luces altas</translation>
     </message>
     <message>
         <source>白平衡</source>
@@ -3404,7 +3404,7 @@ Prema co botón dereito para copiar o resultado</translation>
     </message>
     <message>
         <source>恢复默认</source>
-        <translation>Restaurar predeterminados</translation>
+        <translation>Predeterminados</translation>
     </message>
     <message>
         <source>名称过长，最多 %1 字节</source>
@@ -3438,7 +3438,7 @@ Prema co botón dereito para copiar o resultado</translation>
     <name>InitialisationPreview</name>
     <message>
         <source>已初始化，不会执行</source>
-        <translation>Xa inicializado: omítese</translation>
+        <translation>Xa inicializado</translation>
     </message>
     <message>
         <source>正在升级，不会执行</source>
@@ -4075,7 +4075,7 @@ Prema co botón dereito para copiar o resultado</translation>
     </message>
     <message>
         <source>子网掩码</source>
-        <translation>Máscara de subrede</translation>
+        <translation>Máscara</translation>
     </message>
     <message>
         <source>网关</source>
@@ -4664,8 +4664,8 @@ Ficheiro: </translation>
         <source>%n 台失败</source>
         <extracomment>Devices of a running batch.</extracomment>
         <translation>
-            <numerusform>%n con erro</numerusform>
-            <numerusform>%n con erro</numerusform>
+            <numerusform>%n fallido</numerusform>
+            <numerusform>%n fallidos</numerusform>
         </translation>
     </message>
     <message>
@@ -4950,7 +4950,7 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Buscar...</translation>
+        <translation>Buscar…</translation>
     </message>
     <message>
         <source>复制成功</source>
@@ -6032,7 +6032,7 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>搜索时用此账号登录设备</source>
-        <translation>Iniciar sesión nos dispositivos durante a busca</translation>
+        <translation>Iniciar sesión durante a busca</translation>
     </message>
     <message>
         <source>读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。</source>
@@ -6530,23 +6530,23 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>第一周</source>
-        <translation>Primeira semana</translation>
+        <translation>Primeira</translation>
     </message>
     <message>
         <source>第二周</source>
-        <translation>Segunda semana</translation>
+        <translation>Segunda</translation>
     </message>
     <message>
         <source>第三周</source>
-        <translation>Terceira semana</translation>
+        <translation>Terceira</translation>
     </message>
     <message>
         <source>第四周</source>
-        <translation>Cuarta semana</translation>
+        <translation>Cuarta</translation>
     </message>
     <message>
         <source>最后一周</source>
-        <translation>Última semana</translation>
+        <translation>Última</translation>
     </message>
     <message>
         <source>周日</source>
@@ -6606,7 +6606,7 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>每天</source>
-        <translation>Todos os días</translation>
+        <translation>A diario</translation>
     </message>
 </context>
 <context>
@@ -6998,7 +6998,7 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>地址或域名</source>
-        <translation>Enderezo IP ou nome do servidor</translation>
+        <translation>IP ou nome do servidor</translation>
     </message>
     <message>
         <source>NTP端口</source>
@@ -7470,7 +7470,7 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Buscar...</translation>
+        <translation>Buscar…</translation>
     </message>
     <message>
         <source>IPV4</source>

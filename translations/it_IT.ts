@@ -2859,8 +2859,8 @@ Clic destro per copiare il risultato</translation>
     <message numerus="yes">
         <source>%n 幅失败</source>
         <translation>
-            <numerusform>%n fallito</numerusform>
-            <numerusform>%n falliti</numerusform>
+            <numerusform>%n fallita</numerusform>
+            <numerusform>%n fallite</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3303,7 +3303,7 @@ Clic destro per copiare il risultato</translation>
     </message>
     <message>
         <source>电子防抖</source>
-        <translation>Stabilizzazione elettronica</translation>
+        <translation>Stabilizzatore elettronico</translation>
     </message>
     <message>
         <source>透雾</source>
@@ -3404,7 +3404,7 @@ Clic destro per copiare il risultato</translation>
     </message>
     <message>
         <source>恢复默认</source>
-        <translation>Ripristina predefiniti</translation>
+        <translation>Predefiniti</translation>
     </message>
     <message>
         <source>名称过长，最多 %1 字节</source>
@@ -3438,7 +3438,7 @@ Clic destro per copiare il risultato</translation>
     <name>InitialisationPreview</name>
     <message>
         <source>已初始化，不会执行</source>
-        <translation>Già inizializzato: ignorato</translation>
+        <translation>Già inizializzato</translation>
     </message>
     <message>
         <source>正在升级，不会执行</source>
@@ -3838,11 +3838,11 @@ Clic destro per copiare il risultato</translation>
     </message>
     <message>
         <source>设备配置</source>
-        <translation>Config. dispositivi</translation>
+        <translation>Configurazione dispositivi</translation>
     </message>
     <message>
         <source>系统配置</source>
-        <translation>Config. di sistema</translation>
+        <translation>Configurazione sistema</translation>
     </message>
     <message>
         <source>CGI协议</source>
@@ -4950,7 +4950,7 @@ File: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Cerca...</translation>
+        <translation>Cerca…</translation>
     </message>
     <message>
         <source>复制成功</source>
@@ -5036,7 +5036,7 @@ File: </translation>
     </message>
     <message>
         <source>设备配置</source>
-        <translation>Config. dispositivi</translation>
+        <translation>Configurazione dispositivi</translation>
     </message>
     <message>
         <source>写入通道 %1 的编码配置</source>
@@ -6530,23 +6530,23 @@ File: </translation>
     </message>
     <message>
         <source>第一周</source>
-        <translation>Prima settimana</translation>
+        <translation>Prima</translation>
     </message>
     <message>
         <source>第二周</source>
-        <translation>Seconda settimana</translation>
+        <translation>Seconda</translation>
     </message>
     <message>
         <source>第三周</source>
-        <translation>Terza settimana</translation>
+        <translation>Terza</translation>
     </message>
     <message>
         <source>第四周</source>
-        <translation>Quarta settimana</translation>
+        <translation>Quarta</translation>
     </message>
     <message>
         <source>最后一周</source>
-        <translation>Ultima settimana</translation>
+        <translation>Ultima</translation>
     </message>
     <message>
         <source>周日</source>
@@ -7470,7 +7470,7 @@ File: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Cerca...</translation>
+        <translation>Cerca…</translation>
     </message>
     <message>
         <source>IPV4</source>

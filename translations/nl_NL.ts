@@ -2590,7 +2590,7 @@ Klik met rechts om het resultaat te kopiëren</translation>
     </message>
     <message>
         <source>采样率(Hz)</source>
-        <translation>Samplefrequentie (Hz)</translation>
+        <translation>Sampling (Hz)</translation>
     </message>
 </context>
 <context>
@@ -3404,7 +3404,7 @@ Klik met rechts om het resultaat te kopiëren</translation>
     </message>
     <message>
         <source>恢复默认</source>
-        <translation>Standaardwaarden</translation>
+        <translation>Standaard</translation>
     </message>
     <message>
         <source>名称过长，最多 %1 字节</source>
@@ -3438,7 +3438,7 @@ Klik met rechts om het resultaat te kopiëren</translation>
     <name>InitialisationPreview</name>
     <message>
         <source>已初始化，不会执行</source>
-        <translation>Al geïnitialiseerd: overgeslagen</translation>
+        <translation>Al geïnitialiseerd</translation>
     </message>
     <message>
         <source>正在升级，不会执行</source>
@@ -4950,7 +4950,7 @@ Bestand: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Zoeken...</translation>
+        <translation>Zoeken…</translation>
     </message>
     <message>
         <source>复制成功</source>
@@ -6530,23 +6530,23 @@ Bestand: </translation>
     </message>
     <message>
         <source>第一周</source>
-        <translation>Eerste week</translation>
+        <translation>Eerste</translation>
     </message>
     <message>
         <source>第二周</source>
-        <translation>Tweede week</translation>
+        <translation>Tweede</translation>
     </message>
     <message>
         <source>第三周</source>
-        <translation>Derde week</translation>
+        <translation>Derde</translation>
     </message>
     <message>
         <source>第四周</source>
-        <translation>Vierde week</translation>
+        <translation>Vierde</translation>
     </message>
     <message>
         <source>最后一周</source>
-        <translation>Laatste week</translation>
+        <translation>Laatste</translation>
     </message>
     <message>
         <source>周日</source>
@@ -6736,7 +6736,7 @@ Bestand: </translation>
     </message>
     <message>
         <source>确认密码</source>
-        <translation>Wachtwoord bevestigen</translation>
+        <translation>Bevestigen</translation>
     </message>
     <message>
         <source>密码8~32位,且至少包含数字、字母和常用字符中的两种(字符为除&apos;&quot;:;&amp;这五个字符以外的任意可见字符)</source>
@@ -7470,7 +7470,7 @@ Bestand: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Zoeken...</translation>
+        <translation>Zoeken…</translation>
     </message>
     <message>
         <source>IPV4</source>

@@ -3404,7 +3404,7 @@ Høyreklikk for å kopiere resultatet</translation>
     </message>
     <message>
         <source>恢复默认</source>
-        <translation>Gjenopprett standard</translation>
+        <translation>Standardverdier</translation>
     </message>
     <message>
         <source>名称过长，最多 %1 字节</source>
@@ -3438,7 +3438,7 @@ Høyreklikk for å kopiere resultatet</translation>
     <name>InitialisationPreview</name>
     <message>
         <source>已初始化，不会执行</source>
-        <translation>Allerede initialisert: hoppes over</translation>
+        <translation>Allerede initialisert</translation>
     </message>
     <message>
         <source>正在升级，不会执行</source>
@@ -4950,7 +4950,7 @@ Fil: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Søk...</translation>
+        <translation>Søk…</translation>
     </message>
     <message>
         <source>复制成功</source>
@@ -7470,7 +7470,7 @@ Fil: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Søk...</translation>
+        <translation>Søk…</translation>
     </message>
     <message>
         <source>IPV4</source>

@@ -2558,7 +2558,7 @@ Clique com o botão direito para copiar o resultado</translation>
     </message>
     <message>
         <source>码流控制</source>
-        <translation>Controlo da taxa de bits</translation>
+        <translation>Controlo da taxa</translation>
     </message>
     <message>
         <source>固定码流</source>
@@ -2797,7 +2797,7 @@ Clique com o botão direito para copiar o resultado</translation>
     </message>
     <message>
         <source>新密码</source>
-        <translation>Nova palavra-passe</translation>
+        <translation>Palavra-passe</translation>
     </message>
     <message>
         <source>确认密码</source>
@@ -2859,8 +2859,8 @@ Clique com o botão direito para copiar o resultado</translation>
     <message numerus="yes">
         <source>%n 幅失败</source>
         <translation>
-            <numerusform>%n falhado</numerusform>
-            <numerusform>%n falhados</numerusform>
+            <numerusform>%n falhada</numerusform>
+            <numerusform>%n falhadas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3404,7 +3404,7 @@ Clique com o botão direito para copiar o resultado</translation>
     </message>
     <message>
         <source>恢复默认</source>
-        <translation>Repor predefinições</translation>
+        <translation>Predefinições</translation>
     </message>
     <message>
         <source>名称过长，最多 %1 字节</source>
@@ -3438,7 +3438,7 @@ Clique com o botão direito para copiar o resultado</translation>
     <name>InitialisationPreview</name>
     <message>
         <source>已初始化，不会执行</source>
-        <translation>Já inicializado: ignorado</translation>
+        <translation>Já inicializado</translation>
     </message>
     <message>
         <source>正在升级，不会执行</source>
@@ -3838,11 +3838,11 @@ Clique com o botão direito para copiar o resultado</translation>
     </message>
     <message>
         <source>设备配置</source>
-        <translation>Config. de dispositivos</translation>
+        <translation>Configuração de dispositivos</translation>
     </message>
     <message>
         <source>系统配置</source>
-        <translation>Config. do sistema</translation>
+        <translation>Configuração do sistema</translation>
     </message>
     <message>
         <source>CGI协议</source>
@@ -4075,7 +4075,7 @@ Clique com o botão direito para copiar o resultado</translation>
     </message>
     <message>
         <source>子网掩码</source>
-        <translation>Máscara de sub-rede</translation>
+        <translation>Máscara</translation>
     </message>
     <message>
         <source>网关</source>
@@ -4950,7 +4950,7 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Pesquisar...</translation>
+        <translation>Pesquisar…</translation>
     </message>
     <message>
         <source>复制成功</source>
@@ -5036,7 +5036,7 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>设备配置</source>
-        <translation>Config. de dispositivos</translation>
+        <translation>Configuração de dispositivos</translation>
     </message>
     <message>
         <source>写入通道 %1 的编码配置</source>
@@ -6032,7 +6032,7 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>搜索时用此账号登录设备</source>
-        <translation>Iniciar sessão nos dispositivos durante a pesquisa</translation>
+        <translation>Iniciar sessão durante a pesquisa</translation>
     </message>
     <message>
         <source>读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。</source>
@@ -6530,23 +6530,23 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>第一周</source>
-        <translation>Primeira semana</translation>
+        <translation>Primeira</translation>
     </message>
     <message>
         <source>第二周</source>
-        <translation>Segunda semana</translation>
+        <translation>Segunda</translation>
     </message>
     <message>
         <source>第三周</source>
-        <translation>Terceira semana</translation>
+        <translation>Terceira</translation>
     </message>
     <message>
         <source>第四周</source>
-        <translation>Quarta semana</translation>
+        <translation>Quarta</translation>
     </message>
     <message>
         <source>最后一周</source>
-        <translation>Última semana</translation>
+        <translation>Última</translation>
     </message>
     <message>
         <source>周日</source>
@@ -6554,23 +6554,23 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>周一</source>
-        <translation>Segunda-feira</translation>
+        <translation>Segunda</translation>
     </message>
     <message>
         <source>周二</source>
-        <translation>Terça-feira</translation>
+        <translation>Terça</translation>
     </message>
     <message>
         <source>周三</source>
-        <translation>Quarta-feira</translation>
+        <translation>Quarta</translation>
     </message>
     <message>
         <source>周四</source>
-        <translation>Quinta-feira</translation>
+        <translation>Quinta</translation>
     </message>
     <message>
         <source>周五</source>
-        <translation>Sexta-feira</translation>
+        <translation>Sexta</translation>
     </message>
     <message>
         <source>周六</source>
@@ -6582,23 +6582,23 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>星期一</source>
-        <translation>Segunda-feira</translation>
+        <translation>Segunda</translation>
     </message>
     <message>
         <source>星期二</source>
-        <translation>Terça-feira</translation>
+        <translation>Terça</translation>
     </message>
     <message>
         <source>星期三</source>
-        <translation>Quarta-feira</translation>
+        <translation>Quarta</translation>
     </message>
     <message>
         <source>星期四</source>
-        <translation>Quinta-feira</translation>
+        <translation>Quinta</translation>
     </message>
     <message>
         <source>星期五</source>
-        <translation>Sexta-feira</translation>
+        <translation>Sexta</translation>
     </message>
     <message>
         <source>星期六</source>
@@ -6606,7 +6606,7 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>每天</source>
-        <translation>Todos os dias</translation>
+        <translation>Diariamente</translation>
     </message>
 </context>
 <context>
@@ -6736,7 +6736,7 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>确认密码</source>
-        <translation>Confirmar palavra-passe</translation>
+        <translation>Confirmar</translation>
     </message>
     <message>
         <source>密码8~32位,且至少包含数字、字母和常用字符中的两种(字符为除&apos;&quot;:;&amp;这五个字符以外的任意可见字符)</source>
@@ -6998,7 +6998,7 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>地址或域名</source>
-        <translation>Endereço IP ou nome do anfitrião</translation>
+        <translation>IP ou nome do anfitrião</translation>
     </message>
     <message>
         <source>NTP端口</source>
@@ -7470,7 +7470,7 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Pesquisar...</translation>
+        <translation>Pesquisar…</translation>
     </message>
     <message>
         <source>IPV4</source>

@@ -762,9 +762,9 @@
     <message numerus="yes">
         <source>%n 台设备失败</source>
         <translation>
-            <numerusform>%n cu eroare</numerusform>
-            <numerusform>%n cu eroare</numerusform>
-            <numerusform>%n cu eroare</numerusform>
+            <numerusform>%n eșuat</numerusform>
+            <numerusform>%n eșuate</numerusform>
+            <numerusform>%n eșuate</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2901,9 +2901,9 @@ Clic dreapta pentru a copia rezultatul</translation>
     <message numerus="yes">
         <source>%n 幅失败</source>
         <translation>
-            <numerusform>%n cu eroare</numerusform>
-            <numerusform>%n cu eroare</numerusform>
-            <numerusform>%n cu eroare</numerusform>
+            <numerusform>%n eșuat</numerusform>
+            <numerusform>%n eșuate</numerusform>
+            <numerusform>%n eșuate</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3104,7 +3104,7 @@ Clic dreapta pentru a copia rezultatul</translation>
     </message>
     <message>
         <source>强光抑制</source>
-        <translation>Compensare lumini puternice</translation>
+        <translation>Comp. lumini puternice</translation>
     </message>
     <message>
         <source>白平衡</source>
@@ -3205,11 +3205,11 @@ Clic dreapta pentru a copia rezultatul</translation>
     </message>
     <message>
         <source>近光亮度</source>
-        <translation>Luminozitate lumină apropiată</translation>
+        <translation>Luminozitate apropiată</translation>
     </message>
     <message>
         <source>远光亮度</source>
-        <translation>Luminozitate lumină îndepărtată</translation>
+        <translation>Luminozitate îndepărtată</translation>
     </message>
     <message>
         <source>灯光校正</source>
@@ -3451,7 +3451,7 @@ Clic dreapta pentru a copia rezultatul</translation>
     </message>
     <message>
         <source>恢复默认</source>
-        <translation>Restaurare valori implicite</translation>
+        <translation>Valori implicite</translation>
     </message>
     <message>
         <source>名称过长，最多 %1 字节</source>
@@ -3485,7 +3485,7 @@ Clic dreapta pentru a copia rezultatul</translation>
     <name>InitialisationPreview</name>
     <message>
         <source>已初始化，不会执行</source>
-        <translation>Deja inițializat: omis</translation>
+        <translation>Deja inițializat</translation>
     </message>
     <message>
         <source>正在升级，不会执行</source>
@@ -4725,9 +4725,9 @@ Fișier: </translation>
         <source>%n 台失败</source>
         <extracomment>Devices of a running batch.</extracomment>
         <translation>
-            <numerusform>%n cu eroare</numerusform>
-            <numerusform>%n cu eroare</numerusform>
-            <numerusform>%n cu eroare</numerusform>
+            <numerusform>%n eșuat</numerusform>
+            <numerusform>%n eșuate</numerusform>
+            <numerusform>%n eșuate</numerusform>
         </translation>
     </message>
     <message>
@@ -5017,7 +5017,7 @@ Fișier: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Căutare...</translation>
+        <translation>Căutare…</translation>
     </message>
     <message>
         <source>复制成功</source>
@@ -6613,23 +6613,23 @@ Fișier: </translation>
     </message>
     <message>
         <source>第一周</source>
-        <translation>Prima săptămână</translation>
+        <translation>Prima</translation>
     </message>
     <message>
         <source>第二周</source>
-        <translation>A doua săptămână</translation>
+        <translation>A doua</translation>
     </message>
     <message>
         <source>第三周</source>
-        <translation>A treia săptămână</translation>
+        <translation>A treia</translation>
     </message>
     <message>
         <source>第四周</source>
-        <translation>A patra săptămână</translation>
+        <translation>A patra</translation>
     </message>
     <message>
         <source>最后一周</source>
-        <translation>Ultima săptămână</translation>
+        <translation>Ultima</translation>
     </message>
     <message>
         <source>周日</source>
@@ -7565,7 +7565,7 @@ Fișier: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Căutare...</translation>
+        <translation>Căutare…</translation>
     </message>
     <message>
         <source>IPV4</source>

@@ -3404,7 +3404,7 @@ Högerklicka för att kopiera resultatet</translation>
     </message>
     <message>
         <source>恢复默认</source>
-        <translation>Återställ standard</translation>
+        <translation>Standardvärden</translation>
     </message>
     <message>
         <source>名称过长，最多 %1 字节</source>
@@ -3438,7 +3438,7 @@ Högerklicka för att kopiera resultatet</translation>
     <name>InitialisationPreview</name>
     <message>
         <source>已初始化，不会执行</source>
-        <translation>Redan initierad: hoppas över</translation>
+        <translation>Redan initierad</translation>
     </message>
     <message>
         <source>正在升级，不会执行</source>
@@ -4950,7 +4950,7 @@ Fil: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Sök...</translation>
+        <translation>Sök…</translation>
     </message>
     <message>
         <source>复制成功</source>
@@ -6530,23 +6530,23 @@ Fil: </translation>
     </message>
     <message>
         <source>第一周</source>
-        <translation>Första veckan</translation>
+        <translation>Första</translation>
     </message>
     <message>
         <source>第二周</source>
-        <translation>Andra veckan</translation>
+        <translation>Andra</translation>
     </message>
     <message>
         <source>第三周</source>
-        <translation>Tredje veckan</translation>
+        <translation>Tredje</translation>
     </message>
     <message>
         <source>第四周</source>
-        <translation>Fjärde veckan</translation>
+        <translation>Fjärde</translation>
     </message>
     <message>
         <source>最后一周</source>
-        <translation>Sista veckan</translation>
+        <translation>Sista</translation>
     </message>
     <message>
         <source>周日</source>
@@ -7470,7 +7470,7 @@ Fil: </translation>
     </message>
     <message>
         <source>搜索...</source>
-        <translation>Sök...</translation>
+        <translation>Sök…</translation>
     </message>
     <message>
         <source>IPV4</source>
