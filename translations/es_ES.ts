@@ -7285,7 +7285,7 @@ Archivo: </translation>
     </message>
     <message>
         <source>升级文件</source>
-        <translation>Archivo de firmware</translation>
+        <translation>Firmware</translation>
     </message>
     <message>
         <source>进度</source>

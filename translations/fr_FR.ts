@@ -5268,7 +5268,7 @@ Fichier&#xa0;: </translation>
     </message>
     <message>
         <source>保存为此设备的账号</source>
-        <translation>Enregistrer comme compte de cet appareil</translation>
+        <translation>Enregistrer pour cet appareil</translation>
     </message>
     <message>
         <source>登录成功后，以后登录这台设备都使用此账号</source>
@@ -7285,7 +7285,7 @@ Fichier&#xa0;: </translation>
     </message>
     <message>
         <source>升级文件</source>
-        <translation>Fichier firmware</translation>
+        <translation>Firmware</translation>
     </message>
     <message>
         <source>进度</source>

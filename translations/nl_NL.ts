@@ -7285,7 +7285,7 @@ Bestand: </translation>
     </message>
     <message>
         <source>升级文件</source>
-        <translation>Firmwarebestand</translation>
+        <translation>Firmware</translation>
     </message>
     <message>
         <source>进度</source>

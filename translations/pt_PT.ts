@@ -7285,7 +7285,7 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>升级文件</source>
-        <translation>Ficheiro de firmware</translation>
+        <translation>Firmware</translation>
     </message>
     <message>
         <source>进度</source>

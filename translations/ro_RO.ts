@@ -3909,11 +3909,11 @@ Clic dreapta pentru a copia rezultatul</translation>
     <message>
         <source>演示站点</source>
         <extracomment>In the title bar. %1 is a user name and a password.</extracomment>
-        <translation>Site demo</translation>
+        <translation>Locație demo</translation>
     </message>
     <message>
         <source>演示站点：%1</source>
-        <translation>Site demo: %1</translation>
+        <translation>Locație demo: %1</translation>
     </message>
     <message>
         <source>模拟设备，不连接网络。账号为登录设备的用户名和密码；新设备须先初始化。</source>
@@ -3921,7 +3921,7 @@ Clic dreapta pentru a copia rezultatul</translation>
     </message>
     <message>
         <source>打开演示站点</source>
-        <translation>Deschidere site demo</translation>
+        <translation>Deschidere locație demo</translation>
     </message>
     <message>
         <source>未安装设备库，无法与设备通信</source>
@@ -4226,11 +4226,11 @@ Clic dreapta pentru a copia rezultatul</translation>
     </message>
     <message>
         <source>程序无法与设备通信，因此找不到设备，也不能修改设备。演示站点不需要设备，可以试用全部功能。</source>
-        <translation>Programul nu poate comunica cu dispozitivele: niciunul nu poate fi găsit sau modificat. Site-ul demo nu are nevoie de dispozitive și prezintă toate funcțiile.</translation>
+        <translation>Programul nu poate comunica cu dispozitivele: niciunul nu poate fi găsit sau modificat. Locația demo nu are nevoie de dispozitive și prezintă toate funcțiile.</translation>
     </message>
     <message>
         <source>打开演示站点</source>
-        <translation>Deschidere site demo</translation>
+        <translation>Deschidere locație demo</translation>
     </message>
     <message>
         <source>已搜索：%1</source>
@@ -6122,7 +6122,7 @@ Fișier: </translation>
     <name>Shell</name>
     <message>
         <source>无法打开模拟站点：</source>
-        <translation>Site-ul demo nu a putut fi deschis:</translation>
+        <translation>Locația demo nu a putut fi deschisă:</translation>
     </message>
 </context>
 <context>
@@ -6534,7 +6534,7 @@ Fișier: </translation>
     </message>
     <message>
         <source>程序无法与设备通信。可在“修改IP”页打开演示站点。</source>
-        <translation>Programul nu poate comunica cu dispozitivele. Deschideți site-ul demo pe pagina „Modificare IP”.</translation>
+        <translation>Programul nu poate comunica cu dispozitivele. Deschideți locația demo pe pagina „Modificare IP”.</translation>
     </message>
     <message>
         <source>清除失败标记</source>
@@ -7380,7 +7380,7 @@ Fișier: </translation>
     </message>
     <message>
         <source>升级文件</source>
-        <translation>Fișier firmware</translation>
+        <translation>Firmware</translation>
     </message>
     <message>
         <source>进度</source>

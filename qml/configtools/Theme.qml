@@ -59,7 +59,7 @@ QtObject {
     readonly property int batchPreviewHeight: 240
     readonly property int initialiseWidth: 904
     readonly property int initialiseListHeight: 300
-    readonly property int firstPasswordWidth: 520
+    readonly property int firstPasswordWidth: 440  // minimum; more in languages with longer texts
     readonly property int firstPasswordHeight: 400
     readonly property int detailWidth: 600
     readonly property int detailHeight: 420

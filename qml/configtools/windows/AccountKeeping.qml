@@ -7,17 +7,22 @@ Column {
     id: root
 
     property int keeping: AccountList.ForDevices  // the chosen AccountList.Keeping
+    /// The width in pixels that shows all texts.
+    readonly property int neededWidth: Theme.boxSize + Theme.unit
+        + Math.ceil(Math.max(...choices.map(choice => Theme.bodyMetrics.advanceWidth(choice.text))))
+    readonly property var choices: [
+        {keeping: AccountList.ForDevices, objectName: "keepForDevices", text: qsTr("保存为这些设备的账号（推荐）")},
+        {keeping: AccountList.AsDefault, objectName: "keepAsDefault", text: qsTr("设为默认账号，用于搜索和所有设备")},
+        {keeping: AccountList.Unkept, objectName: "keepNot", text: qsTr("不保存，只用到下次搜索")}
+    ]
+
     topPadding: Theme.half
 
     Accessible.role: Accessible.Grouping
 
     // qmllint disable unqualified
     Repeater {
-        model: [
-            {keeping: AccountList.ForDevices, objectName: "keepForDevices", text: qsTr("保存为这些设备的账号（推荐）")},
-            {keeping: AccountList.AsDefault, objectName: "keepAsDefault", text: qsTr("设为默认账号，用于搜索和所有设备")},
-            {keeping: AccountList.Unkept, objectName: "keepNot", text: qsTr("不保存，只用到下次搜索")}
-        ]
+        model: root.choices
 
         OVRadioButton {
             required property var modelData

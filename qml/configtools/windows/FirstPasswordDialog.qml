@@ -52,7 +52,8 @@ OVDialog {
     readonly property string faultField: fault === "" ? "" : fault === noAccount ? "account"
         : fault === noConfirmation || fault === different ? "confirmation" : "password"
 
-    wantedWidth: Theme.firstPasswordWidth
+    wantedWidth: Math.max(Theme.firstPasswordWidth,
+                          Theme.formLabelWidth + Theme.unit + keepingChoice.neededWidth + 2 * contentMargin)
     leastHeight: Theme.firstPasswordHeight
     objectName: "firstPasswordDialog"
     title: qsTr("初始化设置")

@@ -65,7 +65,8 @@ OVDialog {
         return fault === "";
     }
 
-    wantedWidth: Theme.addDeviceWidth
+    wantedWidth: Math.max(Theme.addDeviceWidth,
+                          keepBox.x + Math.max(keepBox.implicitWidth, followingBox.implicitWidth) + 2 * contentMargin)
     objectName: "reloginDialog"
     title: qsTr("重新登录")
     onOpened: (accountField.text === "" ? accountField : passwordField).forceActiveFocus()
