@@ -2919,11 +2919,11 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
     </message>
     <message>
         <source>失败</source>
-        <translation>Fehlgeschlagen</translation>
+        <translation>Fehler</translation>
     </message>
     <message>
         <source>获取中</source>
-        <translation>Wird abgerufen</translation>
+        <translation>Abruf läuft</translation>
     </message>
     <message>
         <source>已跳过</source>

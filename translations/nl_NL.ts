@@ -4387,7 +4387,7 @@ Bestand: </translation>
     </message>
     <message>
         <source>批量修改IP</source>
-        <translation>IP&apos;s in batch wijzigen</translation>
+        <translation>IP&apos;s wijzigen</translation>
     </message>
     <message>
         <source>为勾选的设备依次分配地址</source>
@@ -4411,7 +4411,7 @@ Bestand: </translation>
     </message>
     <message>
         <source>手动添加</source>
-        <translation>Handmatig toevoegen</translation>
+        <translation>Toevoegen</translation>
     </message>
     <message>
         <source>添加搜索不到的设备：按IP、按P2P或从收藏夹</source>

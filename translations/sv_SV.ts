@@ -2919,7 +2919,7 @@ Högerklicka för att kopiera resultatet</translation>
     </message>
     <message>
         <source>失败</source>
-        <translation>Misslyckades</translation>
+        <translation>Fel</translation>
     </message>
     <message>
         <source>获取中</source>
@@ -2927,7 +2927,7 @@ Högerklicka för att kopiera resultatet</translation>
     </message>
     <message>
         <source>已跳过</source>
-        <translation>Hoppades över</translation>
+        <translation>Överhoppad</translation>
     </message>
 </context>
 <context>

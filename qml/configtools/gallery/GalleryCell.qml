@@ -156,7 +156,7 @@ Item {
     OVLabel {
         x: Theme.unit
         y: titleLabel.y + titleLabel.height
-        width: state.x - x - Theme.unit
+        width: (sign.visible ? sign.x : state.x) - x - Theme.half
         height: Theme.unit * 2 + Theme.half
         color: Theme.colours.sub
         font: Theme.smallFigureFont
@@ -164,6 +164,7 @@ Item {
         text: root.ipport
     }
     OVIcon {
+        id: sign
         x: state.x - width - Theme.half
         anchors.verticalCenter: state.verticalCenter
         color: root.failed ? Theme.colours.bad : root.skipped ? Theme.colours.sub : Theme.colours.ok

@@ -12,7 +12,7 @@ OVTableCell {
     /// The width in pixels of the column that shows the words of all states.
     function neededWidth() {
         const texts = [qsTr("未找到"), qsTr("待确认"), qsTr("已初始化"), qsTr("未初始化")];
-        return dot.width + Theme.signGap + Theme.half
+        return dot.width + Theme.signGap + Theme.unit + Theme.half
             + Math.ceil(Math.max(...texts.map(text => Theme.bodyMetrics.advanceWidth(text))));
     }
 
