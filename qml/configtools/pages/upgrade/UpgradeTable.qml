@@ -52,7 +52,10 @@ OVTable {
             key: "upgrade", title: qsTr("进度"), width: Theme.columnProgress, leastWidth: Theme.columnProgressLeast,
             cell: progressCell
         },
-        {key: "upgraderes", title: qsTr("结果"), width: Theme.columnUpgradeResult, stretch: 2, sortable: true, cell: resultCell},
+        {
+            key: "upgraderes", title: qsTr("结果"), width: Theme.columnUpgradeResult,
+            leastWidth: Theme.columnUpgradeResultLeast, stretch: 2, sortable: true, cell: resultCell
+        },
         {
             key: "operate", title: qsTr("操作"), width: Math.max(Theme.columnUpgradeActions, neededForActions),
             fixed: true, cell: actionCell
