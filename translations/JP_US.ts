@@ -7320,7 +7320,7 @@
     </message>
     <message>
         <source>升级成功：%1</source>
-        <translation>アップグレードしました: %1</translation>
+        <translation>成功: %1</translation>
     </message>
     <message>
         <source>%1：未读到版本号</source>

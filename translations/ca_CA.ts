@@ -7301,7 +7301,7 @@ Fitxer: </translation>
     </message>
     <message>
         <source>未选择</source>
-        <translation>No seleccionat</translation>
+        <translation>Cap</translation>
     </message>
     <message>
         <source>可以重试</source>

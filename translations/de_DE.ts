@@ -7301,7 +7301,7 @@ Datei: </translation>
     </message>
     <message>
         <source>未选择</source>
-        <translation>Nicht ausgewählt</translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>可以重试</source>

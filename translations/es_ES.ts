@@ -7301,7 +7301,7 @@ Archivo: </translation>
     </message>
     <message>
         <source>未选择</source>
-        <translation>No seleccionado</translation>
+        <translation>Ninguno</translation>
     </message>
     <message>
         <source>可以重试</source>

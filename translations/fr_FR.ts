@@ -7301,7 +7301,7 @@ Fichier&#xa0;: </translation>
     </message>
     <message>
         <source>未选择</source>
-        <translation>Non sélectionné</translation>
+        <translation>Aucun</translation>
     </message>
     <message>
         <source>可以重试</source>

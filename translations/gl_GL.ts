@@ -7301,7 +7301,7 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>未选择</source>
-        <translation>Non seleccionado</translation>
+        <translation>Ningún</translation>
     </message>
     <message>
         <source>可以重试</source>

@@ -7301,7 +7301,7 @@ File: </translation>
     </message>
     <message>
         <source>未选择</source>
-        <translation>Non selezionato</translation>
+        <translation>Nessuno</translation>
     </message>
     <message>
         <source>可以重试</source>

@@ -7257,7 +7257,7 @@ Bestand: </translation>
     </message>
     <message>
         <source>发送</source>
-        <translation>Verzenden</translation>
+        <translation>Zenden</translation>
     </message>
     <message>
         <source>写入</source>
@@ -7301,7 +7301,7 @@ Bestand: </translation>
     </message>
     <message>
         <source>未选择</source>
-        <translation>Niet geselecteerd</translation>
+        <translation>Geen</translation>
     </message>
     <message>
         <source>可以重试</source>

@@ -7301,7 +7301,7 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>未选择</source>
-        <translation>Não selecionado</translation>
+        <translation>Nenhum</translation>
     </message>
     <message>
         <source>可以重试</source>

@@ -169,7 +169,7 @@ QtObject {
     readonly property int columnUpgradeVersion: 96
     readonly property int columnUpgradeVersionLeast: 84
     readonly property int columnUpgradeResult: 224
-    readonly property int columnUpgradeResultLeast: 208
+    readonly property int columnUpgradeResultLeast: 220
     readonly property int columnNote: 128
     readonly property int columnLeast: 88  // of a column with "stretch" but without "leastWidth"
     readonly property int columnNameMost: 400  // maximum of names and models that spare room enlarges
