@@ -6787,7 +6787,7 @@ Ficheiro: </translation>
     </message>
     <message>
         <source>重启</source>
-        <translation>Reinício</translation>
+        <translation>Reiniciar</translation>
     </message>
     <message numerus="yes">
         <source>确定要将选中的 %n 台设备恢复出厂设置吗？</source>
