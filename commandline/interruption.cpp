@@ -18,6 +18,7 @@ namespace commandline {
 namespace {
 
 std::array<int, 2> signalPipe = {-1, -1}; // read end, write end
+Interruption *innermost = nullptr;        // receives the signals
 
 extern "C" void noteInterruption(int signal)
 {
@@ -32,26 +33,49 @@ Interruption::Interruption(std::function<void()> requested) : m_requested(std::m
 {
     if (signalPipe[0] < 0 && pipe2(signalPipe.data(), O_CLOEXEC | O_NONBLOCK) != 0)
         return;
+    m_outer = std::exchange(innermost, this);
+    if (m_outer)
+        m_outer->m_notifier->setEnabled(false);
     m_notifier = std::make_unique<QSocketNotifier>(signalPipe[0], QSocketNotifier::Read);
     QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [this] {
-        const bool wasRequested = m_isRequested;
-        if (isRequested() && !wasRequested)
-            m_requested();
+        char byte = 0;
+        if (read(signalPipe[0], &byte, 1) == 1)
+            request();
     });
-    std::signal(SIGINT, &noteInterruption);
-    std::signal(SIGTERM, &noteInterruption);
+    if (!m_outer) {
+        std::signal(SIGINT, &noteInterruption);
+        std::signal(SIGTERM, &noteInterruption);
+    }
+}
+
+void Interruption::request()
+{
+    if (!std::exchange(m_isRequested, true))
+        m_requested();
+    if (m_outer)
+        m_outer->request();
 }
 
 bool Interruption::isRequested()
 {
     char byte = 0;
-    if (read(signalPipe[0], &byte, 1) == 1)
+    if (innermost == this && read(signalPipe[0], &byte, 1) == 1) {
         m_isRequested = true;
+        if (m_outer)
+            m_outer->request();
+    }
     return m_isRequested;
 }
 
 Interruption::~Interruption()
 {
+    if (innermost != this) // without a pipe
+        return;
+    innermost = m_outer;
+    if (m_outer) {
+        m_outer->m_notifier->setEnabled(true);
+        return;
+    }
     std::signal(SIGINT, SIG_DFL);
     std::signal(SIGTERM, SIG_DFL);
 }
@@ -60,6 +84,8 @@ Interruption::~Interruption()
 
 Interruption::Interruption(std::function<void()> requested) : m_requested(std::move(requested)) {}
 Interruption::~Interruption() = default;
+
+void Interruption::request() {}
 
 bool Interruption::isRequested()
 {

@@ -1,6 +1,7 @@
 #include "commandline/batchrun.h"
 #include "commandline/commandfunctions.h"
 #include "commandline/devicechoice.h"
+#include "commandline/interruption.h"
 #include "commandline/outputfolder.h"
 #include "commandline/visitfile.h"
 #include "report/reporttexts.h"
@@ -50,6 +51,8 @@ int runReport(CommandContext &context)
     const OutputFolder folder = outputFolder(context);
     if (!folder.error.isEmpty())
         return context.fail(NothingDone, folder.error);
+    if (const QString problem = SiteReport::folderProblem(folder.path); !problem.isEmpty())
+        return context.fail(NothingDone, problem);
     order.folder = folder.path;
     DeviceChoice choice;
     if (const int exitCode = findDevices(context, choice); exitCode != AllDone)
@@ -68,6 +71,13 @@ int runReport(CommandContext &context)
                          failure = reason;
                          loop.quit();
                      });
+    // The files are written after the batch: a signal must not leave one of them, or the images.
+    Interruption interruption([&] {
+        if (report.isWriting())
+            context.terminal.writeError(u"Stopping; the report is not written. A further signal ends the "
+                                        "program immediately."_s);
+        report.stop();
+    });
     ResultTable results({u"findings"_s});
     const int exitCode = runBatch(
         context, [&] { return report.start(order); }, results,
@@ -81,7 +91,7 @@ int runReport(CommandContext &context)
     results.addMissing(choice.missing);
     const int outcome = results.print(context);
     if (!failure.isEmpty())
-        return context.fail(NothingDone, failure);
+        return context.fail(SomeFailed, failure);
     return written.isEmpty() ? context.fail(SomeFailed, u"No report was written."_s) : outcome;
 }
 

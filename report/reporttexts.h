@@ -47,7 +47,12 @@ public:
     static QString conspicuous() { return tr("有异常"); }
     static QString notWritten() { return tr("PDF文件无法生成"); }
     static QString noFolder(const QString &folder) { return tr("无法建立文件夹 %1").arg(folder); }
-    //: %1 is the path of a file, %2 the reason why it cannot be written.
+    //: %1 is the path of the folder for temporary files, %2 the reason why it cannot be used.
+    static QString noTemporaryFolder(const QString &folder, const QString &reason)
+    {
+        return tr("临时文件夹 %1 无法使用：%2").arg(folder, reason);
+    }
+    //: %1 is the path of a file or folder, %2 the reason why it cannot be written.
     static QString fileFailed(const QString &path, const QString &reason)
     {
         return tr("%1 无法写入：%2").arg(path, reason);

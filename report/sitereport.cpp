@@ -6,14 +6,13 @@
 #include "device/registry/mapkeys.h"
 #include "device/store/devicefilter.h"
 #include "device/store/devicerow.h"
+#include "report/internal/reportfiles.h"
 #include "report/reporttexts.h"
-#include "report/sitedocument.h"
 #include "report/sitefindings.h"
-#include "report/siteworkbook.h"
 #include "sdk/threadpriority.h"
 
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
 #include <QImageReader>
 #include <QSet>
 #include <QStandardPaths>
@@ -25,25 +24,7 @@
 
 namespace {
 
-constexpr qsizetype longestStem = 80;
-constexpr qsizetype mostStemBytes = 180; // file systems limit names to 255 bytes
 constexpr int imageQuality = 80;
-
-/// The name of the files of a report without their suffix.
-QString fileStem(const QString &site, const QDateTime &time)
-{
-    QString name = site.left(longestStem).simplified();
-    for (QChar &character : name) {
-        if (character.unicode() < 0x20 || QStringLiteral("/\\:*?\"<>|").contains(character))
-            character = u'_';
-    }
-    while (name.startsWith(u'.'))
-        name.remove(0, 1);
-    while (!name.isEmpty() && (name.toUtf8().size() > mostStemBytes || name.back().isHighSurrogate()))
-        name.chop(1);
-    return QStringLiteral("%1-%2").arg(name.isEmpty() ? QStringLiteral("site") : name,
-                                       time.toString(QStringLiteral("yyyyMMdd-HHmmss")));
-}
 
 /// Scales a large image file down in place. On failure the file is unchanged.
 void limitImage(const QString &path)
@@ -56,6 +37,19 @@ void limitImage(const QString &path)
     const QImage image = reader.read();
     if (!image.isNull())
         image.save(path, "JPG", imageQuality);
+}
+
+/// Why the folder for temporary files cannot be used, in the user's language; empty if it can.
+QString problemOf(const QTemporaryDir &folder)
+{
+    return folder.isValid() ? QString()
+                            : ReportTexts::noTemporaryFolder(QDir::tempPath(), folder.errorString());
+}
+
+/// Whether a device has no outcome because the batch was stopped. A device that exceeded its time has a text.
+bool isLeftOut(const Batch::Entry &entry)
+{
+    return entry.outcome.result == BatchReport::NotDone && entry.outcome.text.isEmpty();
 }
 
 } // namespace
@@ -77,7 +71,8 @@ public:
         const std::lock_guard lock(m_mutex);
         return m_folder.filePath(QString::number(++m_folders));
     }
-    [[nodiscard]] bool isValid() const { return m_folder.isValid(); }
+    /// Why there is no folder for the images, in the user's language; empty if there is one.
+    [[nodiscard]] QString problem() const { return problemOf(m_folder); }
 
     template<typename Change>
     void change(const QString &device, Change change)
@@ -115,6 +110,12 @@ QString SiteReport::suggestedFolder()
     return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
+QString SiteReport::folderProblem(const QString &folder)
+{
+    const QString problem = problemOf(QTemporaryDir());
+    return problem.isEmpty() ? reportFolderProblem(folder) : problem;
+}
+
 QStringList SiteReport::allDevices() const
 {
     CDeviceBase &backEnd = *m_factory.backEnd(dhFamily);
@@ -138,16 +139,38 @@ bool SiteReport::begin(const QVariantMap &order)
 
 Batch *SiteReport::start(const ReportOrder &order)
 {
+    m_problem.clear();
     if (isRunning() || order.identities.isEmpty())
         return nullptr;
-    const auto collection = std::make_shared<Collection>();
+    m_isNewFolder = !QFileInfo::exists(order.folder);
     m_order = order;
     m_data = {};
-    m_collection = collection;
+    m_paths.clear();
+    m_isCancelled = false;
+    m_collection = std::make_shared<Collection>();
+    m_problem = m_collection->problem();
+    if (m_problem.isEmpty())
+        m_problem = reportFolderProblem(order.folder);
+    Batch *batch = m_problem.isEmpty() ? m_batches.start(plan()) : nullptr;
+    if (!batch) {
+        m_collection.reset();
+        removeNewFolder();
+        return nullptr;
+    }
+    m_batch = batch;
+    connect(batch, &Batch::finished, this, &SiteReport::takeResults);
+    Q_EMIT stateChanged();
+    if (!batch->isRunning())
+        takeResults();
+    return batch;
+}
+
+BatchPlan SiteReport::plan()
+{
     BatchPlan plan = {.family = dhFamily,
                       .title = ReportTexts::report(),
                       .work = QStringLiteral("report"),
-                      .devices = batchDevices(m_factory, dhFamily, order.identities),
+                      .devices = batchDevices(m_factory, dhFamily, m_order.identities),
                       .policy = m_batches.usualPolicy(),
                       .accountOf = m_batches.rowAccounts(dhFamily),
                       .isByAddress = true,
@@ -157,20 +180,38 @@ Batch *SiteReport::start(const ReportOrder &order)
     plan.stepOf = [this](const BatchDevice &device) {
         return stepOf(device);
     };
-    m_batch = m_batches.start(std::move(plan));
-    if (!m_batch)
-        return nullptr;
-    connect(m_batch, &Batch::finished, this, &SiteReport::takeResults);
-    Q_EMIT stateChanged();
-    if (!m_batch->isRunning())
-        takeResults();
-    return m_batch;
+    return plan;
 }
 
 void SiteReport::stop()
 {
+    m_isCancelled = true;
     if (m_batch)
         m_batch->stop();
+}
+
+bool SiteReport::writeAgain(const QString &folder)
+{
+    m_problem.clear();
+    if (!canWriteAgain())
+        return false;
+    const bool isNewFolder = !QFileInfo::exists(folder);
+    m_problem = folderProblem(folder);
+    if (!m_problem.isEmpty())
+        return false;
+    m_order.folder = folder;
+    m_isNewFolder = isNewFolder;
+    m_isCancelled = false;
+    write();
+    return true;
+}
+
+void SiteReport::discard()
+{
+    if (!canWriteAgain())
+        return;
+    m_collection.reset(); // removes the images
+    Q_EMIT stateChanged();
 }
 
 DeviceStep SiteReport::stepOf(const BatchDevice &device) const
@@ -228,10 +269,9 @@ void SiteReport::takeResults()
         return;
     const Batch &batch = *m_batch;
     const bool isStopped =
-        std::any_of(batch.entries().cbegin(), batch.entries().cend(),
-                    [](const Batch::Entry &entry) { return entry.outcome.result == BatchReport::NotDone; });
-    if (isStopped) {
-        end({}, {});
+        std::any_of(batch.entries().cbegin(), batch.entries().cend(), &isLeftOut);
+    if (m_isCancelled || isStopped) {
+        end({});
         return;
     }
     m_data = dataOf(batch);
@@ -314,37 +354,34 @@ void SiteReport::write()
     // The collection keeps the images until the files are written.
     m_files.start([this, data = m_data, work, order = m_order, kept = m_collection] {
         sdk::giveWayToWindow();
-        QStringList paths;
-        QString reason;
-        const QString stem = QDir(order.folder).filePath(fileStem(order.site, data.time));
-        if (!QDir().mkpath(order.folder))
-            reason = ReportTexts::noFolder(order.folder);
-        const auto save = [&](const QString &path, QString (*saveFile)(const SiteData &, const QString &)) {
-            const QString failure = saveFile(data, path);
-            if (failure.isEmpty())
-                paths.append(path);
-            else if (reason.isEmpty())
-                reason = ReportTexts::fileFailed(path, failure);
-        };
-        if (reason.isEmpty() && order.wantsDocument)
-            save(stem + QLatin1String(".pdf"), &saveSiteDocument);
-        if (reason.isEmpty() && order.wantsWorkbook)
-            save(stem + QLatin1String(".xlsx"), &saveSiteWorkbook);
+        const ReportFiles files = writeReportFiles(data, order, m_isCancelled);
         QMetaObject::invokeMethod(
             this,
-            [this, work, paths, reason] {
+            [this, work, files] {
                 m_factory.busyState()->end(work);
-                end(paths, reason);
+                m_paths += files.paths;
+                m_order.wantsDocument = files.lacksDocument;
+                m_order.wantsWorkbook = files.lacksWorkbook;
+                end(files.failures);
             },
             Qt::QueuedConnection);
     });
 }
 
-void SiteReport::end(const QStringList &paths, const QString &reason)
+void SiteReport::end(const QStringList &failures)
 {
     m_batch = nullptr;
     m_isWriting = false;
-    m_collection.reset(); // removes the images
+    if (failures.isEmpty())
+        m_collection.reset(); // removes the images
+    removeNewFolder();
     Q_EMIT stateChanged();
-    Q_EMIT finished(paths, reason);
+    Q_EMIT finished(m_paths, failures.join(u'\n'));
+}
+
+void SiteReport::removeNewFolder()
+{
+    if (m_isNewFolder)
+        QDir().rmdir(m_order.folder); // fails if the folder has a file
+    m_isNewFolder = false;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "device/batch/batch.h"
+#include "report/reportorder.h"
 #include "report/visitchanges.h"
 
 #include <QObject>
@@ -9,21 +10,12 @@
 #include <QThreadPool>
 #include <QVariantMap>
 
+#include <atomic>
 #include <memory>
 
 class Batches;
+struct BatchPlan;
 class CDeviceFactory;
-
-/// The wanted report.
-struct ReportOrder
-{
-    QString site;           ///< name of the site; must not be empty
-    QString installer;      ///< may be empty
-    QString folder;         ///< absolute path; created if it is missing
-    QStringList identities; ///< names of the rows of the devices, in the order of the report
-    bool wantsDocument = true;
-    bool wantsWorkbook = true;
-};
 
 /// Keys of the map of SiteReport::begin().
 namespace ReportKey {
@@ -37,13 +29,14 @@ inline constexpr QLatin1StringView workbook("workbook");     ///< bool
 
 /// Makes reports, one at a time: a batch reads each device and takes its images, then a separate thread
 /// writes the files "<site>-<date>-<time>.pdf" and ".xlsx". Images are in a temporary folder until the files
-/// are written. A stopped batch writes no file. Lives on the main thread.
+/// are written. A stopped report has no file. Lives on the main thread.
 class SiteReport : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(Batch *batch READ batch NOTIFY stateChanged)
     Q_PROPERTY(bool running READ isRunning NOTIFY stateChanged)
     Q_PROPERTY(bool writing READ isWriting NOTIFY stateChanged)
+    Q_PROPERTY(bool canWriteAgain READ canWriteAgain NOTIFY stateChanged)
     Q_PROPERTY(QString suggestedFolder READ suggestedFolder CONSTANT)
 public:
     /// Images of a device that are part of a report; those of further channels are left out.
@@ -58,13 +51,21 @@ public:
     ~SiteReport() override;
 
     /// Starts a report. Returns its batch, or null if nothing was started: without a device, while another
-    /// report is made, or after Batches::refused().
+    /// report is made, after Batches::refused(), or because of problem().
     Batch *start(const ReportOrder &order);
 
     /// start() for QML with the keys of ReportKey. Returns whether a batch was started.
     Q_INVOKABLE bool begin(const QVariantMap &order);
-    /// Stops the batch; no file is written. Has no effect while files are written.
+    /// Stops the report: the batch, or the writing after the current file. No file is left.
     Q_INVOKABLE void stop();
+    /// Writes the missing files of a report to another folder, without reading the devices again. Returns
+    /// whether writing was started; finished() follows. See canWriteAgain() and problem().
+    Q_INVOKABLE bool writeAgain(const QString &folder);
+    /// Removes the images of a report with missing files. They cannot be written again afterwards.
+    Q_INVOKABLE void discard();
+    /// Why the last start(), begin() or writeAgain() did not start: the folder of the report, or that for
+    /// temporary files, cannot be used. In the user's language; empty for another reason.
+    Q_INVOKABLE [[nodiscard]] QString problem() const { return m_problem; }
     /// The names of all rows, those of the IPv4 list first. An IPv6 row is left out of the report if its
     /// device has reported the MAC of another row.
     Q_INVOKABLE [[nodiscard]] QStringList allDevices() const;
@@ -73,28 +74,35 @@ public:
     [[nodiscard]] Batch *batch() const { return m_batch; }
     [[nodiscard]] bool isWriting() const { return m_isWriting; }
     [[nodiscard]] bool isRunning() const { return m_batch || m_isWriting; }
+    /// Whether files of the latest report are missing and its images still exist.
+    [[nodiscard]] bool canWriteAgain() const { return m_collection && !isRunning(); }
     /// The contents of the latest report, from the end of its batch on. Empty after a stopped batch.
     [[nodiscard]] const SiteData &data() const { return m_data; }
     /// The folder of documents of the user.
     [[nodiscard]] static QString suggestedFolder();
+    /// Why no report can be written to a folder, in the user's language: the folder, or that for temporary
+    /// files, cannot be used. Empty if both can. Creates the folder if it is missing.
+    [[nodiscard]] static QString folderProblem(const QString &folder);
 
 Q_SIGNALS:
     void stateChanged(); ///< a batch has started or ended, or the writing of files has ended
-    /// A report has ended. `paths` are the written files, the document first. `reason` is empty on success,
-    /// otherwise why a file is missing; no further file is written then. Both are empty if the batch was
-    /// stopped.
+    /// A report has ended. `paths` are its written files, also those of earlier folders. `reason` is empty on
+    /// success, otherwise it has a line for each missing file. Both are empty if the report was stopped.
     void finished(const QStringList &paths, const QString &reason);
 
 private:
     class Collection;
 
+    [[nodiscard]] BatchPlan plan();
     [[nodiscard]] DeviceStep stepOf(const BatchDevice &device) const;
     void takeResults();
     [[nodiscard]] SiteData dataOf(const Batch &batch) const;
     /// `isAddressShared`: another device of the batch has the same address and port.
     [[nodiscard]] ReportDevice deviceOf(const Batch::Entry &entry, bool isAddressShared) const;
     void write();
-    void end(const QStringList &paths, const QString &reason);
+    void end(const QStringList &failures);
+    /// Removes the folder of a report without a file if the report has created it.
+    void removeNewFolder();
 
     CDeviceFactory &m_factory;
     Batches &m_batches;
@@ -102,7 +110,11 @@ private:
     QPointer<Batch> m_batch;
     ReportOrder m_order;
     SiteData m_data;
+    QStringList m_paths; ///< of the written files
+    QString m_problem;
     std::shared_ptr<Collection> m_collection; ///< shared with the steps
-    QThreadPool m_files;                      ///< one thread, which writes the files
+    bool m_isNewFolder = false;               ///< the report has created its folder
     bool m_isWriting = false;
+    std::atomic<bool> m_isCancelled = false; ///< read by the thread of `m_files`
+    QThreadPool m_files;                     ///< one thread, which writes the files
 };

@@ -5579,7 +5579,7 @@ File: </translation>
     </message>
     <message>
         <source>%1 无法写入：%2</source>
-        <extracomment>%1 is the path of a file, %2 the reason why it cannot be written.</extracomment>
+        <extracomment>%1 is the path of a file or folder, %2 the reason why it cannot be written.</extracomment>
         <translation>%1 cannot be written: %2</translation>
     </message>
     <message>
@@ -5634,6 +5634,11 @@ File: </translation>
     <message>
         <source>修改密码</source>
         <translation>Change password</translation>
+    </message>
+    <message>
+        <source>临时文件夹 %1 无法使用：%2</source>
+        <extracomment>%1 is the path of the folder for temporary files, %2 the reason why it cannot be used.</extracomment>
+        <translation>The folder for temporary files %1 cannot be used: %2</translation>
     </message>
 </context>
 <context>
@@ -6242,6 +6247,14 @@ File: </translation>
     <message>
         <source>报告已生成</source>
         <translation>The report is complete</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>Select a folder</translation>
+    </message>
+    <message>
+        <source>换一个文件夹…</source>
+        <translation>Other folder…</translation>
     </message>
 </context>
 <context>

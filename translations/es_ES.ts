@@ -5579,7 +5579,7 @@ Archivo: </translation>
     </message>
     <message>
         <source>%1 无法写入：%2</source>
-        <extracomment>%1 is the path of a file, %2 the reason why it cannot be written.</extracomment>
+        <extracomment>%1 is the path of a file or folder, %2 the reason why it cannot be written.</extracomment>
         <translation>No se puede escribir %1: %2</translation>
     </message>
     <message>
@@ -5634,6 +5634,11 @@ Archivo: </translation>
     <message>
         <source>修改密码</source>
         <translation>Cambiar contraseña</translation>
+    </message>
+    <message>
+        <source>临时文件夹 %1 无法使用：%2</source>
+        <extracomment>%1 is the path of the folder for temporary files, %2 the reason why it cannot be used.</extracomment>
+        <translation>No se puede usar la carpeta de archivos temporales %1: %2</translation>
     </message>
 </context>
 <context>
@@ -6242,6 +6247,14 @@ Archivo: </translation>
     <message>
         <source>报告已生成</source>
         <translation>El informe está listo</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>Seleccione una carpeta</translation>
+    </message>
+    <message>
+        <source>换一个文件夹…</source>
+        <translation>Otra carpeta…</translation>
     </message>
 </context>
 <context>

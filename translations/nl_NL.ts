@@ -5579,7 +5579,7 @@ Bestand: </translation>
     </message>
     <message>
         <source>%1 无法写入：%2</source>
-        <extracomment>%1 is the path of a file, %2 the reason why it cannot be written.</extracomment>
+        <extracomment>%1 is the path of a file or folder, %2 the reason why it cannot be written.</extracomment>
         <translation>%1 kan niet worden geschreven: %2</translation>
     </message>
     <message>
@@ -5634,6 +5634,11 @@ Bestand: </translation>
     <message>
         <source>修改密码</source>
         <translation>Wachtwoord wijzigen</translation>
+    </message>
+    <message>
+        <source>临时文件夹 %1 无法使用：%2</source>
+        <extracomment>%1 is the path of the folder for temporary files, %2 the reason why it cannot be used.</extracomment>
+        <translation>De map voor tijdelijke bestanden %1 kan niet worden gebruikt: %2</translation>
     </message>
 </context>
 <context>
@@ -6242,6 +6247,14 @@ Bestand: </translation>
     <message>
         <source>报告已生成</source>
         <translation>Het rapport is klaar</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>Selecteer een map</translation>
+    </message>
+    <message>
+        <source>换一个文件夹…</source>
+        <translation>Andere map…</translation>
     </message>
 </context>
 <context>

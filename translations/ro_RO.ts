@@ -5658,7 +5658,7 @@ Fișier: </translation>
     </message>
     <message>
         <source>%1 无法写入：%2</source>
-        <extracomment>%1 is the path of a file, %2 the reason why it cannot be written.</extracomment>
+        <extracomment>%1 is the path of a file or folder, %2 the reason why it cannot be written.</extracomment>
         <translation>%1 nu poate fi scris: %2</translation>
     </message>
     <message>
@@ -5713,6 +5713,11 @@ Fișier: </translation>
     <message>
         <source>修改密码</source>
         <translation>Modificare parolă</translation>
+    </message>
+    <message>
+        <source>临时文件夹 %1 无法使用：%2</source>
+        <extracomment>%1 is the path of the folder for temporary files, %2 the reason why it cannot be used.</extracomment>
+        <translation>Folderul pentru fișiere temporare %1 nu poate fi folosit: %2</translation>
     </message>
 </context>
 <context>
@@ -6322,6 +6327,14 @@ Fișier: </translation>
     <message>
         <source>报告已生成</source>
         <translation>Raportul este gata</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>Selectați un folder</translation>
+    </message>
+    <message>
+        <source>换一个文件夹…</source>
+        <translation>Alt folder…</translation>
     </message>
 </context>
 <context>

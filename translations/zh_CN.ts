@@ -5500,7 +5500,7 @@
     </message>
     <message>
         <source>%1 无法写入：%2</source>
-        <extracomment>%1 is the path of a file, %2 the reason why it cannot be written.</extracomment>
+        <extracomment>%1 is the path of a file or folder, %2 the reason why it cannot be written.</extracomment>
         <translation>%1 无法写入：%2</translation>
     </message>
     <message>
@@ -5555,6 +5555,11 @@
     <message>
         <source>修改密码</source>
         <translation>修改密码</translation>
+    </message>
+    <message>
+        <source>临时文件夹 %1 无法使用：%2</source>
+        <extracomment>%1 is the path of the folder for temporary files, %2 the reason why it cannot be used.</extracomment>
+        <translation>临时文件夹 %1 无法使用：%2</translation>
     </message>
 </context>
 <context>
@@ -6162,6 +6167,14 @@
     <message>
         <source>报告已生成</source>
         <translation>报告已生成</translation>
+    </message>
+    <message>
+        <source>请选择文件夹</source>
+        <translation>请选择文件夹</translation>
+    </message>
+    <message>
+        <source>换一个文件夹…</source>
+        <translation>换一个文件夹…</translation>
     </message>
 </context>
 <context>

@@ -9,11 +9,12 @@
 #include <QTemporaryDir>
 
 #include <mutex>
+#include <optional>
 #include <utility>
 
 /// Images of channels as they were before the first change since the start of the application. The files are
-/// in a temporary folder, which the destructor removes. A device is identified by the name of its row.
-/// Thread-safe.
+/// in a temporary folder, which the first claim() creates and the destructor removes. A device is identified
+/// by the name of its row. Thread-safe.
 class BeforeImages
 {
 public:
@@ -45,7 +46,7 @@ public:
 
 private:
     mutable std::mutex m_mutex;
-    QTemporaryDir m_folder;
+    std::optional<QTemporaryDir> m_folder; ///< nullopt before the first image
     QSet<std::pair<QString, int>> m_claimed;
     QHash<QString, int> m_folderNumbers; ///< by device
     QHash<QString, QList<Image>> m_images;

@@ -1,6 +1,7 @@
 #include "sheets/qexcel.h"
 #include "tests/datatable.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -9,6 +10,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <csignal>
 #include <unistd.h>
 
 /// Processes of the application that run a command, without a display.
@@ -80,6 +82,8 @@ private Q_SLOTS:
             {"snapshot", "--demo", "--devices", "192.168.1.120", "--output", "images"}, 0, "skipped", "done");
         row("no firmware file", {"upgrade", "--demo", "--devices", "all", "--file", "absent.bin"}, 3, "",
             "absent.bin");
+        row("unusable folder of a report", {"report", "--demo", "--devices", "all", "--output", "/proc"}, 3,
+            "", "/proc cannot be written");
         row("no password", {"get", "image", "--devices", "all"}, 2, "", "CONFIGTOOLS_PASSWORD");
     }
 
@@ -99,6 +103,34 @@ private Q_SLOTS:
         QVERIFY2(isHelp || !(outcome.messages + outcome.results).contains("Office-2024"),
                  outcome.messages.constData());
         QCOMPARE(outcome.results.isEmpty(), results.isEmpty());
+    }
+
+    /// One signal, when the first file is being written, leaves both files or none, and no temporary file.
+    void anInterruptedReportLeavesNothing()
+    {
+        const QString output = m_folder.filePath("interrupted");
+        const QString temporary = m_folder.filePath("temporary");
+        QVERIFY(QDir().mkpath(output) && QDir().mkpath(temporary));
+        QProcess process;
+        QProcessEnvironment environment = serverEnvironment();
+        environment.insert("TMPDIR", temporary);
+        process.setProcessEnvironment(environment);
+        process.start(PROGRAM, {"report", "--demo", "--devices", "all", "--output", output});
+        const auto entries = [](const QString &folder, QDir::Filters kinds = QDir::AllEntries) {
+            return QDir(folder).entryList(kinds | QDir::Hidden | QDir::NoDotAndDotDot);
+        };
+        const QDeadlineTimer limit(100'000);
+        while (entries(output, QDir::Dirs).isEmpty() && process.state() != QProcess::NotRunning &&
+               !limit.hasExpired())
+            process.waitForFinished(1);
+        QVERIFY(process.state() == QProcess::Running);
+        ::kill(static_cast<pid_t>(process.processId()), SIGINT);
+        QVERIFY(process.waitForFinished(60'000));
+        const QByteArray messages = process.readAllStandardError();
+        const QStringList files = entries(output);
+        QVERIFY2(files.isEmpty() || files.size() == 2, (messages + files.join(u' ').toUtf8()).constData());
+        QVERIFY2(!files.isEmpty() || messages.contains("No report was written"), messages.constData());
+        QCOMPARE(entries(temporary), QStringList());
     }
 
     void aSiteIsChangedByAScript()

@@ -91,6 +91,8 @@ private:
     std::unique_ptr<SiteReport> m_report;
     QStringList m_paths;
     QString m_reason;
+    QString m_temporary; ///< the folder for temporary files
+    const QByteArray m_temporaryBefore = qgetenv("TMPDIR");
 
     [[nodiscard]] ReportOrder order() const
     {
@@ -142,6 +144,9 @@ private Q_SLOTS:
     void init()
     {
         m_folder = std::make_unique<QTemporaryDir>();
+        m_temporary = m_folder->filePath("temporary");
+        QVERIFY(QDir().mkpath(m_temporary));
+        qputenv("TMPDIR", m_temporary.toUtf8());
         m_devices = std::make_shared<ReportBackEnd>();
         m_factory =
             std::make_unique<CDeviceFactory>(CDeviceFactory::BackEndCreators{{QStringLiteral("dh"), [this] {
@@ -161,6 +166,7 @@ private Q_SLOTS:
         m_engine.reset();
         m_factory.reset();
         m_devices.reset();
+        m_temporaryBefore.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", m_temporaryBefore);
     }
 
     void aReportHasEachDevice()
@@ -286,14 +292,84 @@ private Q_SLOTS:
         QVERIFY(!m_report->isRunning());
     }
 
-    void anUnusableFolderIsReported()
+    void anUnusableFolderStartsNothing_data()
+    {
+        const auto row = dataTable<QString, QString, QString>({"folder", "temporary", "named"});
+        row("no folder can be created", "occupied/reports", {}, "occupied/reports");
+        row("no file can be created", "/proc", {}, "/proc");
+        row("no temporary folder", "reports", "/proc", "/proc");
+    }
+
+    void anUnusableFolderStartsNothing()
+    {
+        QFETCH(QString, folder);
+        QFETCH(QString, temporary);
+        QFETCH(QString, named);
+        m_devices->addReportDevice(20, "gate");
+        QFile file(m_folder->filePath("occupied"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        ReportOrder unusable = order();
+        unusable.folder = QDir(m_folder->path()).filePath(folder);
+        if (!temporary.isEmpty())
+            qputenv("TMPDIR", temporary.toUtf8());
+        QVERIFY(!m_report->start(unusable));
+        QVERIFY2(m_report->problem().contains(named), qPrintable(m_report->problem()));
+        QVERIFY(!SiteReport::folderProblem(unusable.folder).isEmpty()); // as the command checks it
+        QVERIFY(!m_batches->current());
+        QVERIFY(!QFileInfo::exists(m_folder->filePath("reports")) || !temporary.isEmpty());
+        qputenv("TMPDIR", m_temporary.toUtf8());
+        QVERIFY(m_report->start(order()));
+        QCOMPARE(m_report->problem(), QString());
+        QTRY_VERIFY(!m_report->isRunning());
+    }
+
+    /// One file fails, and is written to another folder without reading the device again.
+    void aFailedFileDoesNotPreventTheOther()
     {
         m_devices->addReportDevice(20, "gate");
-        QFile file(m_folder->filePath("reports")); // no folder can be created here
-        QVERIFY(file.open(QIODevice::WriteOnly));
+        m_devices->change(20, {.waits = true});
+        QSignalSpy finished(m_report.get(), &SiteReport::finished);
+        QVERIFY(m_report->start(order()));
+        QTRY_COMPARE(m_devices->mostParallel(), 1);
+        qputenv("TMPDIR", "/proc"); // of the workbook
+        m_devices->release();
+        QTRY_COMPARE(finished.size(), 1);
+        QStringList paths = finished.at(0).at(0).toStringList();
+        QCOMPARE(paths.size(), 1);
+        QVERIFY(paths.at(0).endsWith(".pdf"));
+        const QString reason = finished.at(0).at(1).toString();
+        QVERIFY2(reason.contains(".xlsx") && !reason.contains(".pdf"), qPrintable(reason));
+        QVERIFY(m_report->canWriteAgain());
+
+        QVERIFY(!m_report->writeAgain(m_folder->filePath("other")));
+        QVERIFY(m_report->problem().contains("/proc"));
+        qputenv("TMPDIR", m_temporary.toUtf8());
+        QCOMPARE(m_devices->takeOrders().size(), 1);
+        QVERIFY(m_report->writeAgain(m_folder->filePath("other")));
+        QTRY_COMPARE(finished.size(), 2);
+        QCOMPARE(finished.at(1).at(1).toString(), QString());
+        paths = finished.at(1).at(0).toStringList();
+        QCOMPARE(paths.size(), 2);
+        QVERIFY2(paths.at(1).startsWith(m_folder->filePath("other/")), qPrintable(paths.at(1)));
+        QVERIFY(!outputOf("unzip", {"-p", paths.at(1), "xl/media/image1.jpeg"}).isEmpty());
+        QCOMPARE(m_devices->takeOrders(), QStringList());
+        QVERIFY(!m_report->canWriteAgain());
+    }
+
+    void aReportThatIsStoppedWhileItIsWrittenLeavesNothing()
+    {
+        m_devices->addReportDevice(20, "gate");
+        connect(m_report.get(), &SiteReport::stateChanged, m_report.get(), [this] {
+            if (m_report->isWriting())
+                m_report->stop();
+        });
         QVERIFY(make(order()));
         QCOMPARE(m_paths, QStringList());
-        QVERIFY2(m_reason.contains(file.fileName()), qPrintable(m_reason));
+        QCOMPARE(m_reason, QString());
+        QVERIFY(!QFileInfo::exists(m_folder->filePath("reports")));
+        m_report.reset();
+        m_changes.reset();
+        QCOMPARE(QDir(m_temporary).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
     }
 
     void oneFileIsEnough()

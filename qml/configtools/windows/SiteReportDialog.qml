@@ -82,6 +82,10 @@ OVDialog {
             close();
         else if (siteReport.running)
             refuse(qsTr("报告正在生成"));
+        else if (siteReport.problem() !== "") {
+            note("folder", siteReport.problem());
+            refuse(fault);
+        }
     }
 
     Column {

@@ -1,10 +1,13 @@
-// The result of a site report: its files, which can be opened, or why a file is missing.
+// The result of a site report: its files, which can be opened, and why a file is missing. Missing files can be written
+// to another folder.
 import QtQuick
 import configtools
 
 OVDialog {
     id: root
 
+    required property SiteReport siteReport
+    required property var fileDialogs  // a FileDialogs
     property var paths: []  // of the written files
     property string reason  // why a file is missing, "" if none is
     readonly property string documentPath: paths.find(path => path.endsWith(".pdf")) ?? ""
@@ -22,6 +25,16 @@ OVDialog {
             inform(qsTr("无法打开 %1").arg(path), OVToast.Error);
     }
 
+    /// Asks for another folder and writes the missing files there; the result is shown again.
+    function chooseFolder() {
+        fileDialogs.chooseFolder(qsTr("请选择文件夹"), folder => {
+            if (siteReport.writeAgain(folder))
+                close();
+            else
+                inform(siteReport.problem(), OVToast.Error);
+        });
+    }
+
     wantedWidth: Theme.dialogWidth
     hasCancel: documentPath !== ""
     objectName: "siteReportResult"
@@ -34,6 +47,7 @@ OVDialog {
         else
             close();
     }
+    onClosed: siteReport.discard()
 
     footContent: OVButton {
         anchors.verticalCenter: parent?.verticalCenter
@@ -54,6 +68,12 @@ OVDialog {
             messageName: "reportReason"
             text: root.reason
             visible: root.reason !== ""
+        }
+        OVButton {
+            objectName: "otherReportFolder"
+            text: qsTr("换一个文件夹…")
+            visible: root.siteReport.canWriteAgain
+            onClicked: root.chooseFolder()
         }
         OVNotice {
             width: parent.width

@@ -256,7 +256,10 @@ Item {
     OVOnDemand {
         id: siteReportResult
         visible: false
-        sourceComponent: SiteReportResult {}
+        sourceComponent: SiteReportResult {
+            fileDialogs: root.fileDialogs
+            siteReport: root.siteReport
+        }
     }
     OVOnDemand {
         id: restart

@@ -17,6 +17,19 @@ public:
     QHash<QString, QString> texts;
 };
 
+/// Chooses a folder in place of the user.
+class FolderChoice : public QObject
+{
+    Q_OBJECT
+public:
+    Q_INVOKABLE void chooseFolder(const QString & /*title*/, const QJSValue &chosen)
+    {
+        chosen.call({folder});
+    }
+
+    QString folder;
+};
+
 class TestSiteReportDialog : public QObject
 {
     Q_OBJECT
@@ -60,6 +73,15 @@ private Q_SLOTS:
         QVERIFY(findBelow(content, "dialogNotice", Sight::Visible));
 
         findBelow(content, "reportWorkbookBox", Sight::Any)->setProperty("checked", true);
+        findBelow(content, "reportFolderField", Sight::Any)->setProperty("text", "/proc");
+        QTest::keyClick(window.get(), Qt::Key_Return); // no file can be written
+        QVERIFY(!batches.current());
+        QVERIFY(findBelow(content, "reportFolderField", Sight::Any)
+                    ->property("errorText")
+                    .toString()
+                    .contains("/proc"));
+
+        findBelow(content, "reportFolderField", Sight::Any)->setProperty("text", folder.path());
         QSignalSpy finished(&report, &SiteReport::finished);
         QTest::keyClick(window.get(), Qt::Key_Return);
         QVERIFY(batches.current());
@@ -70,6 +92,56 @@ private Q_SLOTS:
         QCOMPARE(paths.size(), 1);
         QVERIFY2(paths.at(0).startsWith(folder.filePath("Head office-")), qPrintable(paths.at(0)));
         QCOMPARE(memory.texts.value("reportSite"), "Head office");
+    }
+
+    /// The workbook could not be written: the user chooses another folder for it.
+    void aMissingFileIsWrittenToAnotherFolder()
+    {
+        RowsFactory site;
+        site.rows->add({.address = "192.168.1.20", .mac = numberedMac(20)});
+        BatchEngine batchEngine(nullptr);
+        Batches batches(site.factory, batchEngine, [] { return 2; });
+        SiteReport report(site.factory, batches, nullptr);
+        const QTemporaryDir folder;
+        FolderChoice dialogs;
+        QQmlEngine engine;
+        const auto window =
+            openScene(engine,
+                      "    width: 1280; height: 720; visible: true\n"
+                      "    SiteReportResult { id: result; siteReport: report; fileDialogs: dialogs }\n"
+                      "    Connections { target: report\n"
+                      "        function onFinished(paths, reason) { result.show(paths, reason); } }\n",
+                      {{"report", &report}, {"dialogs", &dialogs}});
+        QVERIFY(window && QTest::qWaitForWindowExposed(window.get()));
+        QTest::failOnWarning(QRegularExpression(".*"));
+        const auto item = [&](const QString &name) {
+            return findBelow(window->contentItem(), name, Sight::Visible);
+        };
+        const auto click = [&](const QString &name) {
+            const QQuickItem *button = item(name);
+            QVERIFY2(button, qPrintable(name));
+            QTest::mouseClick(window.get(), Qt::LeftButton, {},
+                              button->mapToScene(button->boundingRect().center()).toPoint());
+        };
+
+        QVERIFY(report.start({.site = "North",
+                              .installer = {},
+                              .folder = folder.filePath("first"),
+                              .identities = report.allDevices()}));
+        const QByteArray temporary = qgetenv("TMPDIR");
+        qputenv("TMPDIR", "/proc");
+        QTRY_VERIFY(item("reportReason"));
+        temporary.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", temporary);
+
+        dialogs.folder = "/proc";
+        click("otherReportFolder");
+        QTRY_VERIFY(item("dialogNotice"));
+        dialogs.folder = folder.filePath("second");
+        click("otherReportFolder");
+        QTRY_VERIFY(item("reportDone"));
+        QVERIFY2(item("reportPath0")->property("text").toString().contains("/first/"), "the PDF file");
+        QVERIFY2(item("reportPath1")->property("text").toString().contains("/second/"), "the workbook");
+        QVERIFY(!item("otherReportFolder"));
     }
 };
 
