@@ -52,6 +52,8 @@ public:
     {
         return tr("临时文件夹 %1 无法使用：%2").arg(folder, reason);
     }
+    //: The reason why a device is not part of a report.
+    static QString refusalsInARow(int count) { return tr("连续 %1 台设备拒绝登录").arg(count); }
     //: %1 is the path of a file or folder, %2 the reason why it cannot be written.
     static QString fileFailed(const QString &path, const QString &reason)
     {

@@ -24,12 +24,14 @@ bool isLoginRefused(int result)
     }
 }
 
-/// Whether the step of a device has failed for a reason that says something about the device: it was not left
-/// out by a stop of the report.
-bool isFailure(int result)
+/// Whether the values of a device are missing: its step has failed, or was not done for the reason in its
+/// text.
+bool isFailure(const StepOutcome &outcome)
 {
-    return result != resultCode(LoginResult::Success) && result != resultCode(LoginResult::NotDone) &&
-           result != resultCode(LoginResult::Upgrading);
+    return outcome.result == resultCode(LoginResult::NotDone)
+               ? !outcome.text.isEmpty()
+               : outcome.result != resultCode(LoginResult::Success) &&
+                     outcome.result != resultCode(LoginResult::Upgrading);
 }
 
 /// The indexes of the devices at each address and port. Devices that were not found do not count.
@@ -113,7 +115,7 @@ QList<Finding> siteFindings(const QList<ReportDevice> &devices)
         if (!others.isEmpty() && !device.isLost)
             add(FindingKind::DuplicateAddress, others.join(QStringLiteral(", ")));
         const int result = device.outcome.result;
-        if (device.isInitialised && isFailure(result))
+        if (device.isInitialised && isFailure(device.outcome))
             add(isLoginRefused(result) ? FindingKind::LoginRefused : FindingKind::NotReached,
                 ReportTexts::outcome(device.outcome));
         if (device.isRead && device.inspection.clockOffset &&

@@ -147,6 +147,7 @@ Batch *SiteReport::start(const ReportOrder &order)
     m_data = {};
     m_paths.clear();
     m_isCancelled = false;
+    m_isPaused = false;
     m_collection = std::make_shared<Collection>();
     m_problem = m_collection->problem();
     if (m_problem.isEmpty())
@@ -158,6 +159,7 @@ Batch *SiteReport::start(const ReportOrder &order)
         return nullptr;
     }
     m_batch = batch;
+    connect(batch, &Batch::changed, this, &SiteReport::notePause);
     connect(batch, &Batch::finished, this, &SiteReport::takeResults);
     Q_EMIT stateChanged();
     if (!batch->isRunning())
@@ -212,6 +214,13 @@ void SiteReport::discard()
         return;
     m_collection.reset(); // removes the images
     Q_EMIT stateChanged();
+}
+
+void SiteReport::notePause()
+{
+    // A stop ends the pause, but not the reason for the missing devices.
+    if (m_batch && m_batch->isRunning() && !m_batch->isStopping())
+        m_isPaused = m_batch->isPaused();
 }
 
 DeviceStep SiteReport::stepOf(const BatchDevice &device) const
@@ -269,7 +278,7 @@ void SiteReport::takeResults()
         return;
     const Batch &batch = *m_batch;
     const bool isStopped =
-        std::any_of(batch.entries().cbegin(), batch.entries().cend(), &isLeftOut);
+        !m_isPaused && std::any_of(batch.entries().cbegin(), batch.entries().cend(), &isLeftOut);
     if (m_isCancelled || isStopped) {
         end({});
         return;
@@ -311,6 +320,8 @@ ReportDevice SiteReport::deviceOf(const Batch::Entry &entry, bool isAddressShare
                            .inspection = result.inspection,
                            .images = result.images,
                            .channelCount = std::max(result.inspection.channelCount, 0)};
+    if (isLeftOut(entry))
+        device.outcome.text = ReportTexts::refusalsInARow(m_batches.usualPolicy().wrongPasswordsInARow);
     if (device.serial.isEmpty())
         device.serial =
             m_factory.getDeviceDetail(dhFamily, device.identity).value(DeviceDetailKey::serial).toString();

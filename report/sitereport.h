@@ -29,7 +29,9 @@ inline constexpr QLatin1StringView workbook("workbook");     ///< bool
 
 /// Makes reports, one at a time: a batch reads each device and takes its images, then a separate thread
 /// writes the files "<site>-<date>-<time>.pdf" and ".xlsx". Images are in a temporary folder until the files
-/// are written. A stopped report has no file. Lives on the main thread.
+/// are written. A stopped report has no file. A batch that is stopped while it is paused, since devices have
+/// refused their accounts, still has a report: it states the reason for the devices that were not read. Lives
+/// on the main thread.
 class SiteReport : public QObject
 {
     Q_OBJECT
@@ -95,6 +97,7 @@ private:
 
     [[nodiscard]] BatchPlan plan();
     [[nodiscard]] DeviceStep stepOf(const BatchDevice &device) const;
+    void notePause();
     void takeResults();
     [[nodiscard]] SiteData dataOf(const Batch &batch) const;
     /// `isAddressShared`: another device of the batch has the same address and port.
@@ -114,6 +117,7 @@ private:
     QString m_problem;
     std::shared_ptr<Collection> m_collection; ///< shared with the steps
     bool m_isNewFolder = false;               ///< the report has created its folder
+    bool m_isPaused = false;                  ///< the batch is paused, or was stopped while it was paused
     bool m_isWriting = false;
     std::atomic<bool> m_isCancelled = false; ///< read by the thread of `m_files`
     QThreadPool m_files;                     ///< one thread, which writes the files

@@ -5640,6 +5640,11 @@ Archivo: </translation>
         <extracomment>%1 is the path of the folder for temporary files, %2 the reason why it cannot be used.</extracomment>
         <translation>No se puede usar la carpeta de archivos temporales %1: %2</translation>
     </message>
+    <message>
+        <source>连续 %1 台设备拒绝登录</source>
+        <extracomment>The reason why a device is not part of a report.</extracomment>
+        <translation>%1 dispositivos seguidos rechazaron el inicio de sesión</translation>
+    </message>
 </context>
 <context>
     <name>RestartDialog</name>

@@ -5640,6 +5640,11 @@ Fichier&#xa0;: </translation>
         <extracomment>%1 is the path of the folder for temporary files, %2 the reason why it cannot be used.</extracomment>
         <translation>Impossible d&apos;utiliser le dossier des fichiers temporaires %1 : %2</translation>
     </message>
+    <message>
+        <source>连续 %1 台设备拒绝登录</source>
+        <extracomment>The reason why a device is not part of a report.</extracomment>
+        <translation>%1 appareils de suite ont refusé la connexion</translation>
+    </message>
 </context>
 <context>
     <name>RestartDialog</name>

@@ -5640,6 +5640,11 @@ Bestand: </translation>
         <extracomment>%1 is the path of the folder for temporary files, %2 the reason why it cannot be used.</extracomment>
         <translation>De map voor tijdelijke bestanden %1 kan niet worden gebruikt: %2</translation>
     </message>
+    <message>
+        <source>连续 %1 台设备拒绝登录</source>
+        <extracomment>The reason why a device is not part of a report.</extracomment>
+        <translation>%1 apparaten achter elkaar hebben de aanmelding geweigerd</translation>
+    </message>
 </context>
 <context>
     <name>RestartDialog</name>

@@ -5719,6 +5719,11 @@ Fișier: </translation>
         <extracomment>%1 is the path of the folder for temporary files, %2 the reason why it cannot be used.</extracomment>
         <translation>Folderul pentru fișiere temporare %1 nu poate fi folosit: %2</translation>
     </message>
+    <message>
+        <source>连续 %1 台设备拒绝登录</source>
+        <extracomment>The reason why a device is not part of a report.</extracomment>
+        <translation>%1 dispozitive la rând au refuzat autentificarea</translation>
+    </message>
 </context>
 <context>
     <name>RestartDialog</name>

@@ -5561,6 +5561,11 @@
         <extracomment>%1 is the path of the folder for temporary files, %2 the reason why it cannot be used.</extracomment>
         <translation>临时文件夹 %1 无法使用：%2</translation>
     </message>
+    <message>
+        <source>连续 %1 台设备拒绝登录</source>
+        <extracomment>The reason why a device is not part of a report.</extracomment>
+        <translation>连续 %1 台设备拒绝登录</translation>
+    </message>
 </context>
 <context>
     <name>RestartDialog</name>

@@ -372,6 +372,30 @@ private Q_SLOTS:
         QCOMPARE(QDir(m_temporary).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
     }
 
+    /// The batch is paused by refused accounts and ended by the user.
+    void refusedAccountsDoNotPreventAReport()
+    {
+        constexpr int count = 12;
+        for (int number = 0; number < count; ++number)
+            m_devices->addReportDevice(20 + number, "gate", 0,
+                                       number < 2 ? 0 : resultCode(LoginResult::WrongPassword));
+        QSignalSpy finished(m_report.get(), &SiteReport::finished);
+        Batch *batch = m_report->start(order());
+        QVERIFY(batch);
+        QTRY_VERIFY(batch->isPaused());
+        batch->stop();
+        QTRY_COMPARE(finished.size(), 1);
+        m_paths = finished.at(0).at(0).toStringList();
+        QCOMPARE(m_paths.size(), 2);
+        const QList<ReportDevice> &devices = m_report->data().devices;
+        QCOMPARE(devices.size(), count);
+        QVERIFY(devices.at(0).isRead && devices.at(1).isRead);
+        QCOMPARE(m_report->data().findings.size(), count - 2); // each of the others has its reason
+        const QString text = documentText();
+        QVERIFY(text.contains(QStringLiteral("登录被拒绝")));
+        QVERIFY2(text.contains(QStringLiteral("连续 5 台设备拒绝登录")), qPrintable(text));
+    }
+
     void oneFileIsEnough()
     {
         m_devices->addReportDevice(20, "gate");
