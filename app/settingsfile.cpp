@@ -71,7 +71,7 @@ QString SettingsFile::change(const QList<QPair<QString, QString>> &values) const
     if (valuesOf(QSettings(written, QSettings::IniFormat)) != valuesOf(settings))
         return QStringLiteral("the draft is incomplete, the disk may be full");
     const QDateTime before = QFileInfo(m_path).lastModified();
-    QString error = replaceFile(m_path, text.readAll());
+    QString error = replaceFile(m_path, text.readAll(), FileReaders::Owner);
     if (error.isEmpty())
         makeNewer(m_path, before);
     return error;

@@ -94,7 +94,7 @@ void CommandMemory::write()
     QString failure = m_state == State::Damaged ? setDamagedFileAside(m_path) : QString();
     if (failure.isEmpty()) {
         m_state = State::Valid;
-        failure = replaceFile(m_path, text);
+        failure = replaceFile(m_path, text, FileReaders::Owner);
     }
     if (!failure.isEmpty())
         qCWarning(logCgi).noquote() << "cannot write" << m_path << "-" << failure;

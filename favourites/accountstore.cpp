@@ -279,7 +279,7 @@ QString AccountStore::write(Contents contents)
     if (!m_path.isEmpty()) {
         QString failure = problem().isEmpty() ? QString() : setDamagedFileAside(m_path);
         if (failure.isEmpty())
-            failure = replaceFile(m_path, textOf(contents));
+            failure = replaceFile(m_path, textOf(contents), FileReaders::Owner);
         if (!failure.isEmpty())
             return failure;
     }

@@ -165,7 +165,7 @@ void CAuthor::saveTextAsJson(const QString &inputPath, const QString &type, cons
         {"original_path", inputPath},
     });
     const QString file = QDir(folder).filePath(fileNameFor(addr, port));
-    const QString failure = replaceFile(file, text);
+    const QString failure = replaceFile(file, text, FileReaders::Owner);
     if (!failure.isEmpty()) {
         qCWarning(logFavourites) << "无法打开文件:" << file << "-" << failure;
         return;

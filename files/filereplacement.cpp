@@ -1,5 +1,6 @@
 #include "files/filereplacement.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 
@@ -25,21 +26,44 @@ QString storeOnDisk([[maybe_unused]] const QFileDevice &file)
     return {};
 }
 
+/// Removes the permissions of all except the owner. A file system without permissions is not an error.
+void limitToOwner(QFileDevice &file)
+{
+    constexpr QFileDevice::Permissions ofOthers = QFileDevice::ReadGroup | QFileDevice::WriteGroup |
+                                                  QFileDevice::ExeGroup | QFileDevice::ReadOther |
+                                                  QFileDevice::WriteOther | QFileDevice::ExeOther;
+    file.setPermissions(file.permissions() & ~ofOthers);
+}
+
 } // namespace
 
-QString replaceFile(const QString &path, const QByteArray &contents)
+QString replaceFile(const QString &path, const QByteArray &contents, FileReaders readers)
 {
     const QFileInfo existing(path);
     if (existing.exists() && !existing.isFile())
         return QStringLiteral("Not a regular file");
     QSaveFile file(path);
     // Unbuffered: Qt does not detect a partially written buffer.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !writeCompletely(file, contents))
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        return file.errorString();
+    if (readers == FileReaders::Owner)
+        limitToOwner(file);
+    if (!writeCompletely(file, contents))
         return file.errorString();
     QString failure = storeOnDisk(file);
     if (!failure.isEmpty())
         return failure;
     return file.commit() ? QString() : file.errorString();
+}
+
+QString reserveForOwner(const QString &path)
+{
+    QFile file(path);
+    // Append: the contents of an existing file are kept.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Append, QFile::ReadOwner | QFile::WriteOwner))
+        return file.errorString();
+    limitToOwner(file);
+    return {};
 }
 
 bool writeCompletely(QFileDevice &file, QByteArrayView bytes)

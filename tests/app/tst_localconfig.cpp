@@ -78,6 +78,8 @@ private Q_SLOTS:
         QCOMPARE(settingsOf(other), "de_DE|0|1|10.0.0.1|10.0.0.9|root|" + password + "|1");
         other.setLanguage("fr_FR");
         QCOMPARE(config.getLanguage(), "fr_FR");
+        QVERIFY(!QFile::permissions(path("LocalConfig.ini"))
+                     .testAnyFlags(QFile::ReadGroup | QFile::ReadOther)); // it has a password
     }
 
     /// In a memory file system two changes can have the same modification time.

@@ -61,6 +61,7 @@ private Q_SLOTS:
         QCOMPARE(store.deviceCounts(), (QHash<QString, int>{{"West", 2}, {"Hall", 1}}));
         const QByteArray text = fileContents(m_path);
         QVERIFY(!text.contains("hall-1") && !text.contains("gate-"));
+        QVERIFY(!QFile::permissions(m_path).testAnyFlags(QFile::ReadGroup | QFile::ReadOther));
 
         QCOMPARE(store.assign({{"m2"}}, {}), "");
         QCOMPARE(store.remove("Hall"), "");

@@ -74,6 +74,8 @@ private Q_SLOTS:
             QDateTime::fromString(QDateTime::currentDateTime().toString(Qt::ISODate), Qt::ISODate);
         m_author.saveTextAsJson(path(), "1", "10.0.0.1", "37777", "admin", password, "front door, \"密\"");
 
+        QVERIFY(!QFile::permissions(path("10.0.0.1_37777.json"))
+                     .testAnyFlags(QFile::ReadGroup | QFile::ReadOther));
         const QString text = QString::fromUtf8(read("10.0.0.1_37777.json"));
         static const QRegularExpression creation("\"created\": \"([^\"]+)\"");
         const QString created = creation.match(text).captured(1);

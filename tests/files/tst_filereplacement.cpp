@@ -65,6 +65,12 @@ private Q_SLOTS:
         QCOMPARE(fileContents(path), "new");
         QVERIFY(!QFile::permissions(path).testAnyFlags(QFile::ReadGroup | QFile::ReadOther));
 
+        QVERIFY(QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup));
+        QCOMPARE(replaceFile(link, "secret", FileReaders::Owner), "");
+        QCOMPARE(replaceFile(m_folder.filePath("new"), "secret", FileReaders::Owner), "");
+        for (const QString &file : {path, m_folder.filePath("new")})
+            QVERIFY(!QFile::permissions(file).testAnyFlags(QFile::ReadGroup | QFile::ReadOther));
+
         QVERIFY(!replaceFile(m_folder.path(), "x").isEmpty());
         QVERIFY(QFile::link("/dev/null", m_folder.filePath("device")));
         QVERIFY(!replaceFile(m_folder.filePath("device"), "x").isEmpty());

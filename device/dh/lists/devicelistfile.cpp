@@ -37,9 +37,27 @@ ListFormat formatOf(const QString &path)
     return suffix == QLatin1String("csv") ? ListFormat::Csv : ListFormat::Xml;
 }
 
-bool writeText(const QString &path, const QByteArray &text)
+bool hasPassword(const std::vector<DeviceListLine> &lines)
 {
-    const QString failure = replaceFile(path, text);
+    return std::any_of(lines.begin(), lines.end(),
+                       [](const DeviceListLine &line) { return !line[ListColumn::Password].isEmpty(); });
+}
+
+bool writeWorkbook(const QString &path, const std::vector<DeviceListLine> &lines)
+{
+    const bool isNew = !QFileInfo::exists(path);
+    const QString failure = hasPassword(lines) ? reserveForOwner(path) : QString();
+    if (!failure.isEmpty())
+        qCWarning(logDevice).noquote() << "cannot write the device list" << path << '-' << failure;
+    const bool isWritten = failure.isEmpty() && writeXlsx(path, lines);
+    if (!isWritten && isNew)
+        QFile::remove(path);
+    return isWritten;
+}
+
+bool writeText(const QString &path, const QByteArray &text, FileReaders readers)
+{
+    const QString failure = replaceFile(path, text, readers);
     if (!failure.isEmpty())
         qCWarning(logDevice).noquote() << "cannot write the device list" << path << '-' << failure;
     return failure.isEmpty();
@@ -126,17 +144,18 @@ bool writeDeviceList(const QString &path, const std::vector<DeviceListLine> &lin
         qCWarning(logDevice).noquote() << "the passphrase does not fit the format of" << path;
         return false;
     }
+    const FileReaders readers = hasPassword(lines) ? FileReaders::Owner : FileReaders::System;
     switch (format) {
     case ListFormat::Encrypted: {
         const QByteArray file = encryptedListOf(lines, passphrase);
-        return !file.isEmpty() && writeText(path, file);
+        return !file.isEmpty() && writeText(path, file, FileReaders::System);
     }
     case ListFormat::Xlsx:
-        return writeXlsx(path, lines);
+        return writeWorkbook(path, lines);
     case ListFormat::Csv:
-        return writeText(path, csvOf(lines));
+        return writeText(path, csvOf(lines), readers);
     case ListFormat::Xml:
-        return writeText(path, xmlOf(lines));
+        return writeText(path, xmlOf(lines), readers);
     }
     return false;
 }

@@ -243,6 +243,24 @@ private Q_SLOTS:
         QVERIFY(!read("secret.devlist").contains("secret1"));
     }
 
+    void passwordsAreReadableByTheOwnerOnly_data() { aFullDiskKeepsTheExistingList_data(); }
+
+    void passwordsAreReadableByTheOwnerOnly()
+    {
+        QFETCH(const QString, name);
+        constexpr QFile::Permissions ofOthers = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther;
+        const QString path = m_folder->filePath(name);
+        search();
+        QVERIFY(m_factory->exportProtected("dh", m_folder->path(), {camera}, name, true, ""));
+        QVERIFY(QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther));
+        QVERIFY(exported({camera}, name)); // replaces a file without passwords
+        QVERIFY(!(QFile::permissions(path) & ofOthers));
+        QVERIFY(QFile::remove(path));
+        QVERIFY(exported({camera}, name));
+        QVERIFY(!(QFile::permissions(path) & ofOthers));
+        QVERIFY(QFile::permissions(path) & QFile::WriteOwner);
+    }
+
     void aTunnelIsOpenWhileItIsNeeded()
     {
         int port = 0;
