@@ -9,6 +9,7 @@
 #include <limits>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include <openssl/crypto.h>
 #include <openssl/evp.h>
@@ -45,27 +46,40 @@ const unsigned char *bytesOf(QByteArrayView bytes)
     return reinterpret_cast<const unsigned char *>(bytes.data());
 }
 
-/// A derived key. Its bytes are cleared at the end.
+/// Secret bytes, which are cleared at the end. No other QByteArray may share them.
+class SecretBytes
+{
+public:
+    explicit SecretBytes(QByteArray &&bytes) : m_bytes(std::move(bytes)) {}
+    explicit SecretBytes(qsizetype size) : m_bytes(size, Qt::Uninitialized) {}
+    ~SecretBytes() { OPENSSL_cleanse(m_bytes.data(), static_cast<std::size_t>(m_bytes.size())); }
+    Q_DISABLE_COPY_MOVE(SecretBytes)
+
+    [[nodiscard]] const QByteArray &bytes() const { return m_bytes; }
+    [[nodiscard]] QByteArray &bytes() { return m_bytes; }
+
+private:
+    QByteArray m_bytes;
+};
+
+/// A derived key.
 class ListKey
 {
 public:
-    ListKey(const QString &passphrase, QByteArrayView salt, std::uint32_t iterations)
-        : m_key(keySize, Qt::Uninitialized)
+    ListKey(const QString &passphrase, QByteArrayView salt, std::uint32_t iterations) : m_key(keySize)
     {
-        QByteArray text = passphrase.normalized(QString::NormalizationForm_C).toUtf8();
+        const SecretBytes secret(passphrase.normalized(QString::NormalizationForm_C).toUtf8());
+        const QByteArray &text = secret.bytes();
         m_isValid = PKCS5_PBKDF2_HMAC(text.constData(), static_cast<int>(text.size()), bytesOf(salt),
                                       static_cast<int>(salt.size()), static_cast<int>(iterations),
-                                      EVP_sha256(), static_cast<int>(keySize), bytesOf(m_key)) == 1;
-        OPENSSL_cleanse(text.data(), static_cast<std::size_t>(text.size()));
+                                      EVP_sha256(), static_cast<int>(keySize), bytesOf(m_key.bytes())) == 1;
     }
-    ~ListKey() { OPENSSL_cleanse(m_key.data(), static_cast<std::size_t>(m_key.size())); }
-    Q_DISABLE_COPY_MOVE(ListKey)
 
     [[nodiscard]] bool isValid() const { return m_isValid; }
-    [[nodiscard]] const unsigned char *bytes() const { return bytesOf(QByteArrayView(m_key)); }
+    [[nodiscard]] const unsigned char *bytes() const { return bytesOf(QByteArrayView(m_key.bytes())); }
 
 private:
-    QByteArray m_key;
+    SecretBytes m_key;
     bool m_isValid = false;
 };
 
@@ -89,25 +103,23 @@ std::optional<QByteArray> sealed(const QByteArray &header, const QByteArray &tex
     return isDone ? std::optional(result) : std::nullopt;
 }
 
-/// The plain text; nullopt if the tag does not match.
-std::optional<QByteArray> opened(QByteArrayView header, QByteArrayView cipher, QByteArray tag,
-                                 const ListKey &key)
+/// Decrypts to `text`, which has the size of `cipher`. Returns false if the tag does not match: the text must
+/// then not be used.
+bool open(QByteArrayView header, QByteArrayView cipher, QByteArray tag, const ListKey &key, QByteArray &text)
 {
     const CipherContext context(EVP_CIPHER_CTX_new());
-    QByteArray text(cipher.size(), Qt::Uninitialized);
     int length = 0;
     int rest = 0;
-    const bool isDone = context && key.isValid() &&
-                        EVP_DecryptInit_ex2(context.get(), EVP_aes_256_gcm(), key.bytes(),
-                                            bytesOf(header.sliced(nonceOffset)), nullptr) == 1 &&
-                        EVP_DecryptUpdate(context.get(), nullptr, &length, bytesOf(header),
-                                          static_cast<int>(header.size())) == 1 &&
-                        EVP_DecryptUpdate(context.get(), bytesOf(text), &length, bytesOf(cipher),
-                                          static_cast<int>(cipher.size())) == 1 &&
-                        EVP_CIPHER_CTX_ctrl(context.get(), EVP_CTRL_GCM_SET_TAG, static_cast<int>(tag.size()),
-                                            tag.data()) == 1 &&
-                        EVP_DecryptFinal_ex(context.get(), bytesOf(text) + length, &rest) == 1;
-    return isDone ? std::optional(text) : std::nullopt;
+    return context && key.isValid() &&
+           EVP_DecryptInit_ex2(context.get(), EVP_aes_256_gcm(), key.bytes(),
+                               bytesOf(header.sliced(nonceOffset)), nullptr) == 1 &&
+           EVP_DecryptUpdate(context.get(), nullptr, &length, bytesOf(header),
+                             static_cast<int>(header.size())) == 1 &&
+           EVP_DecryptUpdate(context.get(), bytesOf(text), &length, bytesOf(cipher),
+                             static_cast<int>(cipher.size())) == 1 &&
+           EVP_CIPHER_CTX_ctrl(context.get(), EVP_CTRL_GCM_SET_TAG, static_cast<int>(tag.size()),
+                               tag.data()) == 1 &&
+           EVP_DecryptFinal_ex(context.get(), bytesOf(text) + length, &rest) == 1;
 }
 
 /// Returns false, with a refusal, if the text is not that of encryptedListOf().
@@ -153,8 +165,8 @@ QByteArray encryptedListOf(const std::vector<DeviceListLine> &lines, const QStri
         return {};
     const ListKey key(passphrase, QByteArrayView(header).sliced(saltOffset, saltSize),
                       EncryptedList::iterations);
-    const std::optional<QByteArray> lineBytes =
-        sealed(header, QJsonDocument(QJsonObject{{devicesKey, devices}}).toJson(QJsonDocument::Compact), key);
+    const SecretBytes text(QJsonDocument(QJsonObject{{devicesKey, devices}}).toJson(QJsonDocument::Compact));
+    const std::optional<QByteArray> lineBytes = sealed(header, text.bytes(), key);
     return lineBytes ? header + *lineBytes : QByteArray();
 }
 
@@ -179,9 +191,9 @@ DeviceListContents readEncryptedList(const QByteArray &file, const QString &pass
     const ListKey key(passphrase, header.sliced(saltOffset, saltSize), iterations);
     const QByteArrayView cipher =
         QByteArrayView(file).sliced(EncryptedList::headerSize).chopped(EncryptedList::tagSize);
-    const std::optional<QByteArray> text = opened(header, cipher, file.last(EncryptedList::tagSize), key);
-    if (!text)
+    SecretBytes text(cipher.size());
+    if (!open(header, cipher, file.last(EncryptedList::tagSize), key, text.bytes()))
         return refuse(QT_TRANSLATE_NOOP("DeviceList", "密码短语错误，或者文件已损坏"));
-    addLines(contents, *text);
+    addLines(contents, text.bytes());
     return contents;
 }

@@ -195,7 +195,12 @@ Item {
             objectName: "overwriteQuestion"
             okText: qsTr("覆盖")
             title: qsTr("覆盖文件")
-            onAccepted: root.writeList(folder, fileName, protection)
+            onAccepted: {
+                const chosen = protection;
+                protection = {};  // it may have a passphrase
+                root.writeList(folder, fileName, chosen);
+            }
+            onRejected: protection = {}
         }
     }
     OVOnDemand {

@@ -55,6 +55,7 @@ OVDialog {
     okText: qsTr("搜索")
     title: qsTr("搜索设置")
     onAccepted: fault === AddressTools.NoFault ? confirmed() : refuse(textOf(fault))
+    onClosed: passwordField.text = ""
     onOpened: localBox.forceActiveFocus()
 
     Column {

@@ -29,6 +29,7 @@ const char *const scene = "    width: 1280; height: 720; visible: true\n"
                           "            function exportFaults(family) { return faults; }\n"
                           "        }\n"
                           "    }\n"
+                          "    SearchSettingsDialog { objectName: 'settings' }\n"
                           "    CertificateDialog { certificates: shownCertificates }\n"
                           "    AboutDialog { productName: 'Tool'; version: 'V1' }\n"
                           "    OVTable {\n"
@@ -163,6 +164,29 @@ private Q_SLOTS:
     }
 
     /// The licences of the typefaces require that users can read them in the application.
+    void theSearchSettingsForgetThePassword()
+    {
+        auto *dialog = m_window->findChild<QObject *>("settings");
+        QVERIFY(QMetaObject::invokeMethod(dialog, "load",
+                                          Q_ARG(QVariant, QVariantMap({{"localDomain", true},
+                                                                       {"otherDomain", false},
+                                                                       {"logsIn", false},
+                                                                       {"password", "secret7"},
+                                                                       {"startIP", ""},
+                                                                       {"endIP", ""},
+                                                                       {"userName", "admin"}}))));
+        QMetaObject::invokeMethod(dialog, "open");
+        QTRY_VERIFY(dialog->property("opened").toBool());
+        auto *field = dialog->property("contentItem").value<QQuickItem *>();
+        const auto text = [field] {
+            return findBelow(field, "passwordField", Sight::Any)->property("text").toString();
+        };
+        QCOMPARE(text(), "secret7");
+        QMetaObject::invokeMethod(dialog, "reject");
+        QTRY_VERIFY(!dialog->property("visible").toBool());
+        QCOMPARE(text(), "");
+    }
+
     void theAboutBoxShowsLicences()
     {
         auto *dialog = m_window->findChild<QObject *>("aboutDialog");

@@ -30,7 +30,8 @@ const char *const scene =
     "            function checkedMacs() { return ['m1']; }\n"
     "        }\n"
     "        fileDialogs: QtObject {\n"
-    "            function exists(path) { return false; }\n"
+    "            property bool hasFile: false; objectName: 'fileDialogs'\n"
+    "            function exists(path) { return hasFile; }\n"
     "            function chooseFolder(title, chosen) { chosen('/folder'); }\n"
     "        }\n"
     "        addingBatches: QtObject {\n"
@@ -213,6 +214,27 @@ private Q_SLOTS:
         QMetaObject::invokeMethod(object("files"), "importFile", Q_ARG(QVariant, "/folder/a.csv"));
         QTRY_COMPARE(object("adding")->property("read").toStringList().mid(2),
                      QStringList({"/folder/a.csv", ""}));
+    }
+
+    /// The question about an existing file has the passphrase only until it is answered.
+    void theQuestionForgetsThePassphrase()
+    {
+        object("fileDialogs")->setProperty("hasFile", true);
+        const auto ask = [&] {
+            QMetaObject::invokeMethod(
+                object("files"), "exportTo", Q_ARG(QVariant, "/folder"), Q_ARG(QVariant, "a.devlist"),
+                Q_ARG(QVariant, QVariantMap({{"passwords", 2}, {"passphrase", "long enough"}})));
+            QTRY_VERIFY(object("overwriteQuestion")->property("opened").toBool());
+        };
+        for (const char *answer : {"accept", "reject"}) {
+            ask();
+            QMetaObject::invokeMethod(object("overwriteQuestion"), answer);
+            QCOMPARE(object("overwriteQuestion")->property("protection").toMap(), QVariantMap());
+            QTRY_VERIFY(!object("overwriteQuestion")->property("visible").toBool());
+        }
+        QTRY_COMPARE(object("factory")->property("written").toList(),
+                     (QVariantList{"/folder", "a.devlist", false, "long enough"}));
+        object("fileDialogs")->setProperty("hasFile", false);
     }
 
     void rowsAreMarked()
