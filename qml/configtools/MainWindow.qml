@@ -300,6 +300,7 @@ T.ApplicationWindow {
 
     FileDrop {
         anchors.fill: parent
+        leavePage: action => window.leavePage(action)
         onListDropped: path => {
             window.showTab(0);
             pages.importList(path);

@@ -7,7 +7,8 @@ import configtools
 DropArea {
     id: root
 
-    signal listDropped(string path)  // a device list, also an encrypted one
+    required property var leavePage  // a function: runs an action unless the user keeps unsaved settings of the page
+    signal listDropped(string path)  // a device list, also an encrypted one; the page can be left
     signal siteDropped(string path)
     signal notify(string message, int severity)  // severity: of OVToast
 
@@ -32,7 +33,7 @@ DropArea {
         else if (DroppedFiles.kindOf(path) === DroppedFiles.SiteFile)
             siteDropped(path);
         else
-            listDropped(path);
+            leavePage(() => listDropped(path));
     }
 
     keys: ["text/uri-list"]

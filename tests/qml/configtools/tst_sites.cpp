@@ -17,7 +17,10 @@ namespace {
 
 const char *const scene =
     "    width: 1280; height: 720; visible: true\n"
-    "    FileDrop { anchors.fill: parent; property string taken\n"
+    "    FileDrop { anchors.fill: parent; property string taken; property var leave: null\n"
+    "        property bool hasEdits: false\n"
+    "        function discardEdits() { leave(); }\n"
+    "        leavePage: action => { if (hasEdits) leave = action; else action(); }\n"
     "        onListDropped: path => taken = 'list ' + path\n"
     "        onSiteDropped: path => taken = 'site ' + path\n"
     "        onNotify: (message, severity) => taken = message\n"
@@ -146,6 +149,19 @@ private Q_SLOTS:
         const QString result = object("fileDrop")->property("taken").toString();
         QVERIFY2(result.startsWith(taken.replace("%", m_folder.filePath(names.constFirst()))),
                  qPrintable(result));
+    }
+
+    /// The page has unsaved settings: the list is imported when the user has discarded them.
+    void aListWaitsForTheConsentToLeaveThePage()
+    {
+        QVERIFY(writeFile(m_folder.filePath("a.csv"), "x"));
+        object("fileDrop")->setProperty("taken", "");
+        object("fileDrop")->setProperty("hasEdits", true);
+        drop({QUrl::fromLocalFile(m_folder.filePath("a.csv"))});
+        QCOMPARE(object("fileDrop")->property("taken").toString(), "");
+        QMetaObject::invokeMethod(object("fileDrop"), "discardEdits");
+        QVERIFY(object("fileDrop")->property("taken").toString().startsWith("list "));
+        object("fileDrop")->setProperty("hasEdits", false);
     }
 
     void aFileOnTheWebIsRefused()
