@@ -55,7 +55,10 @@ AddingBatches::List AddingBatches::readList(const QString &title, const QString 
                                             const QString &passphrase) const
 {
     const ImportPlan read = m_factory.backEnd(dhFamily)->importPlan(path, passphrase);
-    List list = {.refusal = read.refusal, .plan = {.family = dhFamily, .title = title}, .positions = {}};
+    List list = {.refusal = read.refusal,
+                 .isPassphraseRefused = read.isPassphraseRefused,
+                 .plan = {.family = dhFamily, .title = title},
+                 .positions = {}};
     QHash<QString, DeviceStep> steps; // by the names of the lines
     list.plan.devices.reserve(static_cast<qsizetype>(read.lines.size()));
     for (const ImportLine &line : read.lines) {
@@ -79,7 +82,7 @@ void AddingBatches::takeList(List &list)
     m_factory.busyState()->end(std::exchange(m_work, 0));
     Q_EMIT readingChanged();
     if (!list.refusal.isEmpty()) {
-        Q_EMIT importRefused(list.refusal);
+        Q_EMIT importRefused(list.refusal, list.isPassphraseRefused);
         return;
     }
     for (BatchDevice &device : list.plan.devices) {

@@ -44,8 +44,9 @@ public:
 Q_SIGNALS:
     void readingChanged();
     void importBegan(Batch *batch); ///< the file is read, and the batch has started
-    /// The file cannot be imported, for this reason in the user's language.
-    void importRefused(const QString &reason);
+    /// The file cannot be imported, for this reason in the user's language. `mayAskAgain`: it is encrypted,
+    /// and another passphrase may be the right one.
+    void importRefused(const QString &reason, bool mayAskAgain);
 
     /// Results of devices of addDevices() or of its retry, in groups while the batch runs: maps of
     /// "identity", "result" (a LoginResult or another code of resultName()) and "message" (in the user's
@@ -57,6 +58,7 @@ private:
     struct List
     {
         QString refusal; ///< why the file cannot be imported, in the user's language; empty on success
+        bool isPassphraseRefused = false;
         BatchPlan plan;
         QHash<QString, ImportPosition> positions; ///< position in the file, by the name of the line
     };

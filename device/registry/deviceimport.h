@@ -49,6 +49,8 @@ struct ImportPlan
 {
     QString refusal; ///< why the complete list is refused, in the user's language; otherwise empty
     std::vector<ImportLine> lines; ///< in the order of the file; empty if the list is refused
+    /// The refused list is encrypted, and another passphrase may be the right one.
+    bool isPassphraseRefused = false;
 };
 
 /// StepOutcome::result of a line with invalid values. No request was sent. The text of the outcome is the

@@ -89,6 +89,9 @@ struct DeviceListContents
     std::vector<DeviceListLine> lines;
     QString refusal; ///< why the file cannot be used, in the user's language; empty on success
     QString detail;  ///< technical reason for the log; may be empty
+    /// The list is refused because its passphrase is missing, or does not fit its contents: another
+    /// passphrase may.
+    bool isPassphraseRefused = false;
 
     /// Appends a line. If there are too many, clears the lines, sets `refusal` and returns false.
     bool add(DeviceListLine line);

@@ -90,7 +90,7 @@ ImportPlan DeviceLists::importPlan(const QString &path, const QString &passphras
     const QString refusal =
         contents.refusal.isEmpty() ? DeviceListImport::refusalOf(contents.lines) : contents.refusal;
     if (!refusal.isEmpty())
-        return {.refusal = refusal, .lines = {}};
+        return {.refusal = refusal, .lines = {}, .isPassphraseRefused = contents.isPassphraseRefused};
     return {.refusal = {},
             .lines = DeviceListImport::plan(std::make_shared<DeviceListImport>(
                 RowAdding(*m_store, m_libraries, ports), std::move(contents.lines)))};

@@ -186,14 +186,17 @@ DeviceListContents readEncryptedList(const QByteArray &file, const QString &pass
     const auto iterations = qFromBigEndian<std::uint32_t>(header.data() + iterationsOffset);
     if (iterations < EncryptedList::leastIterations || iterations > EncryptedList::mostIterations)
         return refuse(QT_TRANSLATE_NOOP("DeviceList", "加密列表的参数无效"));
+    contents.isPassphraseRefused = passphrase.isEmpty();
     if (passphrase.isEmpty())
         return refuse(QT_TRANSLATE_NOOP("DeviceList", "列表已加密，需要密码短语"));
     const ListKey key(passphrase, header.sliced(saltOffset, saltSize), iterations);
     const QByteArrayView cipher =
         QByteArrayView(file).sliced(EncryptedList::headerSize).chopped(EncryptedList::tagSize);
     SecretBytes text(cipher.size());
-    if (!open(header, cipher, file.last(EncryptedList::tagSize), key, text.bytes()))
+    if (!open(header, cipher, file.last(EncryptedList::tagSize), key, text.bytes())) {
+        contents.isPassphraseRefused = true;
         return refuse(QT_TRANSLATE_NOOP("DeviceList", "密码短语错误，或者文件已损坏"));
+    }
     addLines(contents, text.bytes());
     return contents;
 }

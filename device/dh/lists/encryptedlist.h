@@ -34,5 +34,6 @@ inline constexpr qsizetype tagSize = 16;
 [[nodiscard]] QByteArray encryptedListOf(const std::vector<DeviceListLine> &lines, const QString &passphrase);
 
 /// Reads an encrypted list. Errors are in DeviceListContents::refusal. The header is checked before the key
-/// is derived. A wrong passphrase cannot be distinguished from a changed file: both have the same refusal.
+/// is derived. A wrong passphrase cannot be distinguished from changed encrypted lines: both have the same
+/// refusal and set DeviceListContents::isPassphraseRefused.
 [[nodiscard]] DeviceListContents readEncryptedList(const QByteArray &file, const QString &passphrase);

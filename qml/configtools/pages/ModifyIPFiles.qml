@@ -140,8 +140,8 @@ Item {
         function onImportBegan(batch) {
             root.batch = batch;
         }
-        function onImportRefused(reason) {
-            if (root.encryptedPath !== "") {  // another passphrase may be the right one
+        function onImportRefused(reason, mayAskAgain) {
+            if (mayAskAgain && root.encryptedPath !== "") {
                 passphrase.instance().ask(root.encryptedPath, reason);
                 return;
             }

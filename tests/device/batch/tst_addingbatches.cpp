@@ -1,5 +1,6 @@
 // Adding devices in batches: the lines of a device list, and favourites.
 #include "device/batch/addingbatches.h"
+#include "device/dh/lists/encryptedlist.h"
 #include "sdk/demo/demop2pagentlibrary.h"
 #include "tests/datatable.h"
 #include "tests/device/dh/factorysite.h"
@@ -186,6 +187,12 @@ private Q_SLOTS:
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^Failed to open file: .*/"));
         m_adding->importList("Import", m_folder.filePath("none.csv"));
         QTRY_COMPARE(refused.size(), 1);
+        QVERIFY(!refused.at(0).at(1).toBool());
+        QVERIFY(writeFile(m_folder.filePath("list.devlist"),
+                          encryptedListOf({DeviceListLine()}, "grüne Türe 7")));
+        m_adding->importList("Import", m_folder.filePath("list.devlist"), "grüne Türe 8");
+        QTRY_COMPARE(refused.size(), 2);
+        QVERIFY(refused.at(1).at(1).toBool()); // another passphrase may be the right one
         QVERIFY(!m_batches->current() && !m_factory->busyState()->areRowsInUse());
     }
 

@@ -79,14 +79,19 @@ private Q_SLOTS:
         const DeviceListContents contents = readEncryptedList(changed, phrase);
         QVERIFY2(contents.refusal.contains(reason), qPrintable(contents.refusal));
         QVERIFY(contents.lines.empty());
+        // Only the passphrase, or the encrypted lines, may be wrong.
+        QCOMPARE(contents.isPassphraseRefused, reason.contains("密码短语错误"));
     }
 
     void refusesOtherInput()
     {
         QVERIFY(readEncryptedList(m_file, "grüne Türe 8").refusal.contains("密码短语错误"));
         QVERIFY(readEncryptedList(m_file, "").refusal.contains("需要密码短语"));
-        for (const qsizetype size : {0, 8, 59})
+        QVERIFY(readEncryptedList(m_file, "").isPassphraseRefused);
+        for (const qsizetype size : {0, 8, 59}) {
             QVERIFY(readEncryptedList(m_file.first(size), phrase).refusal.contains("不完整"));
+            QVERIFY(!readEncryptedList(m_file.first(size), phrase).isPassphraseRefused);
+        }
         QVERIFY(readEncryptedList(m_file.chopped(1), phrase).refusal.contains("密码短语错误"));
 
         // Iterations that would take hours, and none, are refused before the derivation.
