@@ -58,6 +58,7 @@ struct State
     QtMessageHandler previousHandler = nullptr;
     std::terminate_handler previousTerminate = nullptr;
     std::atomic<pid_t> reportingThread = 0;
+    std::atomic<bool> isWritten = false; ///< the report is complete
 };
 
 State &state()
@@ -160,18 +161,36 @@ void writeReport(const State &state, int signal)
     ::close(file);
 }
 
+/// Waits until another thread has written the report, at most 10 s: the fault may prevent its end.
+void awaitReport(const State &state)
+{
+    constexpr timespec interval = {.tv_sec = 0, .tv_nsec = 10'000'000};
+    for (int count = 0; count < 1000 && !state.isWritten; ++count)
+        ::nanosleep(&interval, nullptr);
+}
+
+/// Sets the default action of all reported signals: each of them then ends the process.
+void setDefaultActions()
+{
+    struct sigaction action = {};
+    action.sa_handler = SIG_DFL;
+    ::sigemptyset(&action.sa_mask);
+    for (const Signal &reported : reportedSignals)
+        ::sigaction(reported.number, &action, nullptr);
+}
+
 void handleSignal(int signal, siginfo_t *information, void * /*context*/)
 {
     const pid_t thread = static_cast<pid_t>(::syscall(SYS_gettid));
     pid_t none = 0;
     if (installed->reportingThread.compare_exchange_strong(none, thread)) {
         writeReport(*installed, signal);
+        installed->isWritten = true;
     } else if (none != thread) {
-        for (;;) // the first thread ends the process
-            ::pause();
-    }
-    // The default action is set again. A fault repeats itself with the original stack, a sent signal does
-    // not.
+        awaitReport(*installed);
+    } // otherwise the report itself has caused a fault
+    setDefaultActions();
+    // A fault repeats itself with the original stack, a sent signal does not.
     constexpr int isSent = 0;
     if (information->si_code <= isSent)
         ::raise(signal);
@@ -245,7 +264,8 @@ void CrashReport::install(const QString &folder)
     ::sigaltstack(&stack, nullptr);
     struct sigaction action = {};
     action.sa_sigaction = &handleSignal;
-    action.sa_flags = SA_SIGINFO | SA_ONSTACK | static_cast<int>(SA_RESETHAND) | SA_NODEFER;
+    // Without SA_RESETHAND: a fault of another thread must not end the process while the report is written.
+    action.sa_flags = SA_SIGINFO | SA_ONSTACK | SA_NODEFER;
     ::sigemptyset(&action.sa_mask);
     for (const Signal &reported : reportedSignals)
         ::sigaction(reported.number, &action, nullptr);

@@ -16,9 +16,11 @@
 #include <array>
 #include <csignal>
 #include <cstdint>
+#include <latch>
 #include <stdexcept>
 #include <sys/resource.h>
 #include <thread>
+#include <vector>
 
 namespace {
 
@@ -57,6 +59,19 @@ int crash(const QByteArray &fault, const QString &folder)
         return descend(0);
     if (fault == "thread")
         std::thread([] { std::raise(SIGSEGV); }).join();
+    if (fault == "together") {
+        constexpr int count = 16;
+        std::latch start(count);
+        std::vector<std::thread> threads;
+        for (int number = 0; number < count; ++number) {
+            threads.emplace_back([&start, &nearNull] {
+                start.arrive_and_wait();
+                *reinterpret_cast<volatile int *>(nearNull) = 0;
+            });
+        }
+        for (std::thread &thread : threads)
+            thread.join();
+    }
     if (fault == "address")
         *reinterpret_cast<volatile int *>(nearNull) = 0;
     if (fault == "abort")
@@ -86,6 +101,7 @@ private Q_SLOTS:
         row("null pointer", "address", SIGSEGV, "Signal: SIGSEGV");
         row("stack overflow", "overflow", SIGSEGV, "Signal: SIGSEGV");
         row("on another thread", "thread", SIGSEGV, "Signal: SIGSEGV");
+        row("on several threads", "together", SIGSEGV, "Signal: SIGSEGV");
         row("abort", "abort", SIGABRT, "Signal: SIGABRT");
         row("exception", "terminate", SIGABRT, "std::runtime_error: password: *** lost");
         row("fatal message", "fatal", SIGABRT, "Reason: fatal message: no more pages");
