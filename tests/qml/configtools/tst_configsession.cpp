@@ -8,19 +8,25 @@
 
 namespace {
 
-const char *const scene = "    visible: true\n"
+const char *const scene = "    visible: true; width: 900; height: 600\n"
                           "    ConfigSession {\n"
-                          "        objectName: 'session'; deviceFactory: factory\n"
+                          "        id: session; objectName: 'session'; deviceFactory: factory\n"
                           "        Component.onCompleted: LoginMemory.accounts = deviceAccounts\n"
                           "        function choose(ipport) { work.afterWriting(() => open(ipport)); }\n"
                           "        function readNames() { names.load(); }\n"
-                          "        function saveNames() {\n"
+                          "        function changeNames() {\n"
                           "            names.form.set(0, 'west');\n"
                           "            names.form.set(1, 'east');\n"
-                          "            names.save();\n"
                           "        }\n"
+                          "        function saveNames() { changeNames(); names.save(); }\n"
+                          "        function stopNames() { names.stop(); }\n"
                           "        function saveEncoding() { encoding.save(); }\n"
                           "        function setImage() { image.set('curChannelName', [['', 'west']]); }\n"
+                          "    }\n"
+                          "    ChannelNamesPanel {\n"
+                          "        objectName: 'namesPanel'; width: 900; height: 400; work: session.names\n"
+                          "        property int nextDevices: 0\n"
+                          "        onNextDeviceRequested: ++nextDevices\n"
                           "    }\n"
                           "    DeviceDetailDialog { objectName: 'details'; deviceFactory: factory }\n";
 
@@ -206,6 +212,31 @@ private Q_SLOTS:
         QTRY_VERIFY(m_session->property("loggedIn").toBool() && !isBusy());
         QCOMPARE(writesTo(m_recorder), 8);
         QCOMPARE(writesTo(m_other), 0);
+    }
+
+    /// Enter in the last row saves and opens the next device. A stop of that save does not apply to a later
+    /// one.
+    void aStoppedSaveOpensNoOtherDevice()
+    {
+        auto *panel = m_window->findChild<QObject *>("namesPanel");
+        const auto confirmLastRow = [panel] {
+            QVERIFY(QMetaObject::invokeMethod(panel, "confirm", Q_ARG(QVariant, 1)));
+        };
+        const auto isSaved = [this](int unsaved) {
+            return !m_session->property("writing").toBool() &&
+                   m_session->property("unsaved").toInt() == unsaved;
+        };
+        call("readNames");
+        QTRY_VERIFY(!isBusy());
+        call("changeNames");
+        confirmLastRow();
+        call("stopNames");
+        QTRY_VERIFY(isSaved(1)); // the name that was being written is saved
+        call("saveNames");
+        QTRY_VERIFY(isSaved(0));
+        QCOMPARE(panel->property("nextDevices").toInt(), 0);
+        confirmLastRow();
+        QCOMPARE(panel->property("nextDevices").toInt(), 1);
     }
 
     /// The details ask for another account like the page, and continue counting attempts.

@@ -64,11 +64,15 @@ Item {
             root.advancing = false;
             root.edit(row);
         }
+        function onNotAllSaved() {
+            root.advancing = false;
+        }
         function onAllSaved() {
             if (root.advancing)
                 root.advance();
         }
         function onReadChanged() {
+            root.advancing = false;  // another device is shown
             root.arrive();
         }
     }

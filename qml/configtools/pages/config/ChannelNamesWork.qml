@@ -21,6 +21,7 @@ Item {
     readonly property int unsaved: read ? nameForm.changedCount : 0  // number of changed names
     signal rowWanted(int row)  // this row has an error and should get the keyboard focus
     signal allSaved  // a save has written all changed names
+    signal notAllSaved  // a save has ended with unsaved names: it has failed or was stopped
 
     /// Drops unsaved names and ends a running save; the request that was sent may still take effect. The names are read
     /// again when the tab is next shown.
@@ -91,6 +92,7 @@ Item {
         const parts = Array.from([written > 0 ? qsTr("%n 个通道名称已保存", "", written) : "",
                                   qsTr("%n 个通道名称未保存", "", left)]).filter(part => part !== "");
         session.notify(parts.join(qsTr("，")), OVToast.Error, session.longDuration);
+        notAllSaved();
         if (failedRow >= 0)
             rowWanted(failedRow);
     }
