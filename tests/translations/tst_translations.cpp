@@ -121,9 +121,9 @@ private Q_SLOTS:
     {
         const QDir sources(QStringLiteral(SOURCES));
         QStringList arguments = {"-silent", "-locations", "none", "-extensions", "cpp,h,qml"};
-        for (const char *folder :
-             {"app", "cgi", "device", "favourites", "gallery", "media", "qml", "report", "sdk"})
-            arguments.append(sources.filePath(QString::fromLatin1(folder)));
+        const QStringList folders = QStringLiteral(STRING_FOLDERS).split(u' ');
+        for (const QString &folder : folders)
+            arguments.append(sources.filePath(folder));
         arguments.append(u"-ts"_s);
         for (const QLatin1StringView code : languageCodes) {
             QVERIFY2(QFile::copy(sources.filePath("translations/"_L1 + code + ".ts"_L1), copyOf(code)),
