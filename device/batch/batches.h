@@ -1,14 +1,13 @@
 #pragma once
 
 #include "device/batch/batch.h"
-#include "device/batch/batchresultsfile.h"
 #include "device/models/failedmarks.h"
 
-#include <QThreadPool>
 #include <QVariantMap>
 
-#include <optional>
+#include <memory>
 
+class BatchResultsWriter;
 class CDeviceFactory;
 class DeviceStore;
 
@@ -162,29 +161,14 @@ Q_SIGNALS:
     void resultsSaved(const QString &path, const QString &reason);
 
 private:
-    /// Whether the devices are searched by MAC before their addresses are changed.
-    enum class Locating
-    {
-        None,
-        Before,
-    };
-
-    /// `targets` are the new settings by identity.
-    Batch *startAddresses(BatchPlan plan, const QHash<QString, AddressSettings> &targets,
-                          Locating locating = Locating::None);
-    /// The current row of a device of an ended batch; without a row, its state after the batch.
-    [[nodiscard]] BatchDevice deviceNow(const BatchPlan &plan, const Batch::Entry &entry) const;
-    /// The settings before the last address change of a device, if that failed. Its row shows the new address
-    /// since then.
-    [[nodiscard]] std::optional<AddressSettings> settingsBeforeFailure(const QString &identity) const;
+    /// A plan without devices and steps: the usual policy and the accounts of the rows.
+    [[nodiscard]] BatchPlan usualPlan(const QString &family, const QString &title) const;
     /// Retries the device with this identity, or all devices if it is empty.
     Batch *retryWhere(Batch *batch, const QString &identity);
+    /// Removes devices whose row has another address now: another device may have the old address.
     void removeMoved(BatchPlan &plan);
     /// Adds the steps of m_stepBefore to those of the plan.
     void addStepBefore(BatchPlan &plan) const;
-    /// Updates the row of a camera. A recorder's name is separate from the name of its channel 1.
-    void noteCameraName(const QString &family, const BatchDevice &device, const QString &name);
-    void saveRecords(const QList<BatchRecord> &records, const QString &path);
     void finish(Batch *batch, int work);
     void markFailed(const Batch &batch);
     /// Whether BusyState allows address changes now. If not, emits refused() with the reason.
@@ -196,5 +180,5 @@ private:
     StepBefore m_stepBefore;
     QList<Batch *> m_kept; ///< owned, oldest first
     FailedMarks m_failedMarks;
-    QThreadPool m_files; ///< one thread, which writes results
+    const std::unique_ptr<BatchResultsWriter> m_results;
 };
