@@ -3799,14 +3799,6 @@
         <translation>CGIプロトコル</translation>
     </message>
     <message>
-        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
-        <translation>設定を保存できませんでした。プログラムフォルダーへの書き込み権限を確認してください。</translation>
-    </message>
-    <message>
-        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
-        <translation>%1 台を超えるデバイスが応答しました。残りの %2 件の応答は表示されません。検索範囲を狭めてください。</translation>
-    </message>
-    <message>
         <source>演示站点</source>
         <extracomment>In the title bar. %1 is a user name and a password.</extracomment>
         <translation>デモサイト</translation>
@@ -4160,36 +4152,12 @@
         <translation>ファイルに書き込めませんでした。フォルダーと、ファイルがほかのプログラムで開かれていないかを確認してください。</translation>
     </message>
     <message>
-        <source>打开excel文件</source>
-        <translation>デバイス一覧を開く</translation>
-    </message>
-    <message>
-        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
-        <translation>インポートできませんでした。ファイルがほかのプログラムで開かれている、形式が異なる、またはMACアドレスが重複しています。</translation>
-    </message>
-    <message>
-        <source>批量导入设备：</source>
-        <translation>インポート完了: </translation>
-    </message>
-    <message>
-        <source>台已完成</source>
-        <translation>台</translation>
-    </message>
-    <message>
         <source>请选择文件夹</source>
         <translation>フォルダーの選択</translation>
     </message>
     <message>
-        <source>导入</source>
-        <translation>インポート</translation>
-    </message>
-    <message>
         <source>以下内容无法从该文件正确导入：</source>
         <translation>次の値はファイルから読み戻せません:</translation>
-    </message>
-    <message>
-        <source>行</source>
-        <translation>行</translation>
     </message>
     <message>
         <source>地址</source>
@@ -4198,10 +4166,6 @@
     <message>
         <source>原因</source>
         <translation>理由</translation>
-    </message>
-    <message>
-        <source>导入结果</source>
-        <translation>インポート結果</translation>
     </message>
     <message>
         <source>名称</source>
@@ -4227,10 +4191,6 @@
         <source>覆盖文件</source>
         <translation>ファイルの置き換え</translation>
     </message>
-    <message>
-        <source>加密的设备列表 (*.devlist)</source>
-        <translation>暗号化されたデバイスリスト (*.devlist)</translation>
-    </message>
 </context>
 <context>
     <name>ModifyIPGroups</name>
@@ -4241,6 +4201,49 @@
     <message>
         <source>从现场中移除</source>
         <translation>現場から削除</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPImport</name>
+    <message>
+        <source>打开excel文件</source>
+        <translation>デバイス一覧を開く</translation>
+    </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>暗号化されたデバイスリスト (*.devlist)</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>インポート</translation>
+    </message>
+    <message>
+        <source>批量导入设备：</source>
+        <translation>インポート完了: </translation>
+    </message>
+    <message>
+        <source>台已完成</source>
+        <translation>台</translation>
+    </message>
+    <message>
+        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
+        <translation>インポートできませんでした。ファイルがほかのプログラムで開かれている、形式が異なる、またはMACアドレスが重複しています。</translation>
+    </message>
+    <message>
+        <source>行</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>アドレス</translation>
+    </message>
+    <message>
+        <source>原因</source>
+        <translation>理由</translation>
+    </message>
+    <message>
+        <source>导入结果</source>
+        <translation>インポート結果</translation>
     </message>
 </context>
 <context>
@@ -7788,6 +7791,13 @@
     </message>
 </context>
 <context>
+    <name>WindowChoices</name>
+    <message>
+        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>設定を保存できませんでした。プログラムフォルダーへの書き込み権限を確認してください。</translation>
+    </message>
+</context>
+<context>
     <name>WindowPopups</name>
     <message>
         <source>停止并退出</source>
@@ -7818,6 +7828,13 @@
     <message>
         <source>报告已停止，没有生成文件</source>
         <translation>レポートを停止しました。ファイルは作成されていません</translation>
+    </message>
+</context>
+<context>
+    <name>WindowSearch</name>
+    <message>
+        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
+        <translation>%1 台を超えるデバイスが応答しました。残りの %2 件の応答は表示されません。検索範囲を狭めてください。</translation>
     </message>
 </context>
 <context>

@@ -3849,14 +3849,6 @@ Feu clic amb el botó dret per copiar el resultat</translation>
         <translation>Protocol CGI</translation>
     </message>
     <message>
-        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
-        <translation>No s’ha pogut desar la configuració. Comproveu que podeu escriure a la carpeta del programa.</translation>
-    </message>
-    <message>
-        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
-        <translation>Han respost més de %1 dispositius. No es mostren %2 respostes més. Cerqueu en un interval més petit.</translation>
-    </message>
-    <message>
         <source>演示站点</source>
         <extracomment>In the title bar. %1 is a user name and a password.</extracomment>
         <translation>Lloc de demo</translation>
@@ -4215,36 +4207,12 @@ Fitxer: </translation>
         <translation>No s’ha pogut escriure el fitxer. Comproveu la carpeta i si un altre programa té el fitxer obert.</translation>
     </message>
     <message>
-        <source>打开excel文件</source>
-        <translation>Obre una llista de dispositius</translation>
-    </message>
-    <message>
-        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
-        <translation>No importat. El fitxer està obert en un altre programa, té un altre format o conté una adreça MAC dues vegades.</translation>
-    </message>
-    <message>
-        <source>批量导入设备：</source>
-        <translation>Importats: </translation>
-    </message>
-    <message>
-        <source>台已完成</source>
-        <translation>dispositius</translation>
-    </message>
-    <message>
         <source>请选择文件夹</source>
         <translation>Seleccioneu una carpeta</translation>
     </message>
     <message>
-        <source>导入</source>
-        <translation>Importa</translation>
-    </message>
-    <message>
         <source>以下内容无法从该文件正确导入：</source>
         <translation>Aquests valors no es poden tornar a llegir del fitxer:</translation>
-    </message>
-    <message>
-        <source>行</source>
-        <translation>Línia</translation>
     </message>
     <message>
         <source>地址</source>
@@ -4253,10 +4221,6 @@ Fitxer: </translation>
     <message>
         <source>原因</source>
         <translation>Motiu</translation>
-    </message>
-    <message>
-        <source>导入结果</source>
-        <translation>Resultat de la importació</translation>
     </message>
     <message>
         <source>名称</source>
@@ -4282,10 +4246,6 @@ Fitxer: </translation>
         <source>覆盖文件</source>
         <translation>Substitueix el fitxer</translation>
     </message>
-    <message>
-        <source>加密的设备列表 (*.devlist)</source>
-        <translation>Llistes de dispositius xifrades (*.devlist)</translation>
-    </message>
 </context>
 <context>
     <name>ModifyIPGroups</name>
@@ -4296,6 +4256,49 @@ Fitxer: </translation>
     <message>
         <source>从现场中移除</source>
         <translation>Treu del lloc</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPImport</name>
+    <message>
+        <source>打开excel文件</source>
+        <translation>Obre una llista de dispositius</translation>
+    </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Llistes de dispositius xifrades (*.devlist)</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>Importa</translation>
+    </message>
+    <message>
+        <source>批量导入设备：</source>
+        <translation>Importats: </translation>
+    </message>
+    <message>
+        <source>台已完成</source>
+        <translation>dispositius</translation>
+    </message>
+    <message>
+        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
+        <translation>No importat. El fitxer està obert en un altre programa, té un altre format o conté una adreça MAC dues vegades.</translation>
+    </message>
+    <message>
+        <source>行</source>
+        <translation>Línia</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Adreça</translation>
+    </message>
+    <message>
+        <source>原因</source>
+        <translation>Motiu</translation>
+    </message>
+    <message>
+        <source>导入结果</source>
+        <translation>Resultat de la importació</translation>
     </message>
 </context>
 <context>
@@ -7885,6 +7888,13 @@ Fitxer: </translation>
     </message>
 </context>
 <context>
+    <name>WindowChoices</name>
+    <message>
+        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>No s’ha pogut desar la configuració. Comproveu que podeu escriure a la carpeta del programa.</translation>
+    </message>
+</context>
+<context>
     <name>WindowPopups</name>
     <message>
         <source>停止并退出</source>
@@ -7916,6 +7926,13 @@ Fitxer: </translation>
     <message>
         <source>报告已停止，没有生成文件</source>
         <translation>S’ha aturat l’informe; no s’ha escrit cap fitxer</translation>
+    </message>
+</context>
+<context>
+    <name>WindowSearch</name>
+    <message>
+        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
+        <translation>Han respost més de %1 dispositius. No es mostren %2 respostes més. Cerqueu en un interval més petit.</translation>
     </message>
 </context>
 <context>

@@ -3849,14 +3849,6 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
         <translation>CGI-Protokoll</translation>
     </message>
     <message>
-        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
-        <translation>Die Einstellungen konnten nicht gespeichert werden. Prüfen Sie Ihre Schreibrechte im Programmordner.</translation>
-    </message>
-    <message>
-        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
-        <translation>Mehr als %1 Geräte haben geantwortet. %2 weitere Antworten sind nicht aufgelistet. Durchsuchen Sie einen kleineren Bereich.</translation>
-    </message>
-    <message>
         <source>演示站点</source>
         <extracomment>In the title bar. %1 is a user name and a password.</extracomment>
         <translation>Demo-Standort</translation>
@@ -4215,36 +4207,12 @@ Datei: </translation>
         <translation>Die Datei konnte nicht geschrieben werden. Prüfen Sie den Ordner und ob ein anderes Programm die Datei geöffnet hat.</translation>
     </message>
     <message>
-        <source>打开excel文件</source>
-        <translation>Geräteliste öffnen</translation>
-    </message>
-    <message>
-        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
-        <translation>Nicht importiert. Die Datei ist in einem anderen Programm geöffnet, hat ein anderes Format oder enthält eine MAC-Adresse doppelt.</translation>
-    </message>
-    <message>
-        <source>批量导入设备：</source>
-        <translation>Importiert: </translation>
-    </message>
-    <message>
-        <source>台已完成</source>
-        <translation>Geräte</translation>
-    </message>
-    <message>
         <source>请选择文件夹</source>
         <translation>Ordner auswählen</translation>
     </message>
     <message>
-        <source>导入</source>
-        <translation>Importieren</translation>
-    </message>
-    <message>
         <source>以下内容无法从该文件正确导入：</source>
         <translation>Diese Werte können aus der Datei nicht zurückgelesen werden:</translation>
-    </message>
-    <message>
-        <source>行</source>
-        <translation>Zeile</translation>
     </message>
     <message>
         <source>地址</source>
@@ -4253,10 +4221,6 @@ Datei: </translation>
     <message>
         <source>原因</source>
         <translation>Grund</translation>
-    </message>
-    <message>
-        <source>导入结果</source>
-        <translation>Importergebnis</translation>
     </message>
     <message>
         <source>名称</source>
@@ -4282,10 +4246,6 @@ Datei: </translation>
         <source>覆盖文件</source>
         <translation>Datei ersetzen</translation>
     </message>
-    <message>
-        <source>加密的设备列表 (*.devlist)</source>
-        <translation>Verschlüsselte Gerätelisten (*.devlist)</translation>
-    </message>
 </context>
 <context>
     <name>ModifyIPGroups</name>
@@ -4296,6 +4256,49 @@ Datei: </translation>
     <message>
         <source>从现场中移除</source>
         <translation>Aus dem Standort entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPImport</name>
+    <message>
+        <source>打开excel文件</source>
+        <translation>Geräteliste öffnen</translation>
+    </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Verschlüsselte Gerätelisten (*.devlist)</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>批量导入设备：</source>
+        <translation>Importiert: </translation>
+    </message>
+    <message>
+        <source>台已完成</source>
+        <translation>Geräte</translation>
+    </message>
+    <message>
+        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
+        <translation>Nicht importiert. Die Datei ist in einem anderen Programm geöffnet, hat ein anderes Format oder enthält eine MAC-Adresse doppelt.</translation>
+    </message>
+    <message>
+        <source>行</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>原因</source>
+        <translation>Grund</translation>
+    </message>
+    <message>
+        <source>导入结果</source>
+        <translation>Importergebnis</translation>
     </message>
 </context>
 <context>
@@ -7885,6 +7888,13 @@ Datei: </translation>
     </message>
 </context>
 <context>
+    <name>WindowChoices</name>
+    <message>
+        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>Die Einstellungen konnten nicht gespeichert werden. Prüfen Sie Ihre Schreibrechte im Programmordner.</translation>
+    </message>
+</context>
+<context>
     <name>WindowPopups</name>
     <message>
         <source>停止并退出</source>
@@ -7916,6 +7926,13 @@ Datei: </translation>
     <message>
         <source>报告已停止，没有生成文件</source>
         <translation>Der Bericht wurde gestoppt; es wurde keine Datei geschrieben</translation>
+    </message>
+</context>
+<context>
+    <name>WindowSearch</name>
+    <message>
+        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
+        <translation>Mehr als %1 Geräte haben geantwortet. %2 weitere Antworten sind nicht aufgelistet. Durchsuchen Sie einen kleineren Bereich.</translation>
     </message>
 </context>
 <context>

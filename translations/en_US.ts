@@ -3849,14 +3849,6 @@ Right-click to copy the result</translation>
         <translation>CGI protocol</translation>
     </message>
     <message>
-        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
-        <translation>The settings could not be saved. Check that you may write to the program folder.</translation>
-    </message>
-    <message>
-        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
-        <translation>More than %1 devices responded. %2 further responses are not listed. Search a smaller range.</translation>
-    </message>
-    <message>
         <source>演示站点</source>
         <extracomment>In the title bar. %1 is a user name and a password.</extracomment>
         <translation>Demo site</translation>
@@ -4215,36 +4207,12 @@ File: </translation>
         <translation>The file could not be written. Check the folder and whether another program has the file open.</translation>
     </message>
     <message>
-        <source>打开excel文件</source>
-        <translation>Open a device list</translation>
-    </message>
-    <message>
-        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
-        <translation>Not imported. The file is open in another program, has another format, or contains a MAC address twice.</translation>
-    </message>
-    <message>
-        <source>批量导入设备：</source>
-        <translation>Imported: </translation>
-    </message>
-    <message>
-        <source>台已完成</source>
-        <translation>devices</translation>
-    </message>
-    <message>
         <source>请选择文件夹</source>
         <translation>Select a folder</translation>
     </message>
     <message>
-        <source>导入</source>
-        <translation>Import</translation>
-    </message>
-    <message>
         <source>以下内容无法从该文件正确导入：</source>
         <translation>These values cannot be read back from the file:</translation>
-    </message>
-    <message>
-        <source>行</source>
-        <translation>Line</translation>
     </message>
     <message>
         <source>地址</source>
@@ -4253,10 +4221,6 @@ File: </translation>
     <message>
         <source>原因</source>
         <translation>Reason</translation>
-    </message>
-    <message>
-        <source>导入结果</source>
-        <translation>Import result</translation>
     </message>
     <message>
         <source>名称</source>
@@ -4282,10 +4246,6 @@ File: </translation>
         <source>覆盖文件</source>
         <translation>Replace file</translation>
     </message>
-    <message>
-        <source>加密的设备列表 (*.devlist)</source>
-        <translation>Encrypted device lists (*.devlist)</translation>
-    </message>
 </context>
 <context>
     <name>ModifyIPGroups</name>
@@ -4296,6 +4256,49 @@ File: </translation>
     <message>
         <source>从现场中移除</source>
         <translation>Remove from site</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPImport</name>
+    <message>
+        <source>打开excel文件</source>
+        <translation>Open a device list</translation>
+    </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Encrypted device lists (*.devlist)</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>批量导入设备：</source>
+        <translation>Imported: </translation>
+    </message>
+    <message>
+        <source>台已完成</source>
+        <translation>devices</translation>
+    </message>
+    <message>
+        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
+        <translation>Not imported. The file is open in another program, has another format, or contains a MAC address twice.</translation>
+    </message>
+    <message>
+        <source>行</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Address</translation>
+    </message>
+    <message>
+        <source>原因</source>
+        <translation>Reason</translation>
+    </message>
+    <message>
+        <source>导入结果</source>
+        <translation>Import result</translation>
     </message>
 </context>
 <context>
@@ -7885,6 +7888,13 @@ File: </translation>
     </message>
 </context>
 <context>
+    <name>WindowChoices</name>
+    <message>
+        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>The settings could not be saved. Check that you may write to the program folder.</translation>
+    </message>
+</context>
+<context>
     <name>WindowPopups</name>
     <message>
         <source>停止并退出</source>
@@ -7916,6 +7926,13 @@ File: </translation>
     <message>
         <source>报告已停止，没有生成文件</source>
         <translation>The report was stopped; no file was written</translation>
+    </message>
+</context>
+<context>
+    <name>WindowSearch</name>
+    <message>
+        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
+        <translation>More than %1 devices responded. %2 further responses are not listed. Search a smaller range.</translation>
     </message>
 </context>
 <context>

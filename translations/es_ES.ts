@@ -3849,14 +3849,6 @@ Clic derecho para copiar el resultado</translation>
         <translation>Protocolo CGI</translation>
     </message>
     <message>
-        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
-        <translation>No se pudieron guardar los ajustes. Compruebe que puede escribir en la carpeta del programa.</translation>
-    </message>
-    <message>
-        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
-        <translation>Respondieron más de %1 dispositivos. %2 respuestas más no se muestran. Busque en un rango menor.</translation>
-    </message>
-    <message>
         <source>演示站点</source>
         <extracomment>In the title bar. %1 is a user name and a password.</extracomment>
         <translation>Sitio de demo</translation>
@@ -4215,36 +4207,12 @@ Archivo: </translation>
         <translation>No se pudo escribir el archivo. Compruebe la carpeta y si otro programa tiene abierto el archivo.</translation>
     </message>
     <message>
-        <source>打开excel文件</source>
-        <translation>Abrir una lista de dispositivos</translation>
-    </message>
-    <message>
-        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
-        <translation>No importado. El archivo está abierto en otro programa, tiene otro formato o contiene una dirección MAC dos veces.</translation>
-    </message>
-    <message>
-        <source>批量导入设备：</source>
-        <translation>Importado: </translation>
-    </message>
-    <message>
-        <source>台已完成</source>
-        <translation>dispositivos</translation>
-    </message>
-    <message>
         <source>请选择文件夹</source>
         <translation>Seleccione una carpeta</translation>
     </message>
     <message>
-        <source>导入</source>
-        <translation>Importar</translation>
-    </message>
-    <message>
         <source>以下内容无法从该文件正确导入：</source>
         <translation>Estos valores no se pueden volver a leer del archivo:</translation>
-    </message>
-    <message>
-        <source>行</source>
-        <translation>Línea</translation>
     </message>
     <message>
         <source>地址</source>
@@ -4253,10 +4221,6 @@ Archivo: </translation>
     <message>
         <source>原因</source>
         <translation>Motivo</translation>
-    </message>
-    <message>
-        <source>导入结果</source>
-        <translation>Resultado de importación</translation>
     </message>
     <message>
         <source>名称</source>
@@ -4282,10 +4246,6 @@ Archivo: </translation>
         <source>覆盖文件</source>
         <translation>Reemplazar archivo</translation>
     </message>
-    <message>
-        <source>加密的设备列表 (*.devlist)</source>
-        <translation>Listas de dispositivos cifradas (*.devlist)</translation>
-    </message>
 </context>
 <context>
     <name>ModifyIPGroups</name>
@@ -4296,6 +4256,49 @@ Archivo: </translation>
     <message>
         <source>从现场中移除</source>
         <translation>Quitar del sitio</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPImport</name>
+    <message>
+        <source>打开excel文件</source>
+        <translation>Abrir una lista de dispositivos</translation>
+    </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Listas de dispositivos cifradas (*.devlist)</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>批量导入设备：</source>
+        <translation>Importado: </translation>
+    </message>
+    <message>
+        <source>台已完成</source>
+        <translation>dispositivos</translation>
+    </message>
+    <message>
+        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
+        <translation>No importado. El archivo está abierto en otro programa, tiene otro formato o contiene una dirección MAC dos veces.</translation>
+    </message>
+    <message>
+        <source>行</source>
+        <translation>Línea</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Dirección</translation>
+    </message>
+    <message>
+        <source>原因</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>导入结果</source>
+        <translation>Resultado de importación</translation>
     </message>
 </context>
 <context>
@@ -7885,6 +7888,13 @@ Archivo: </translation>
     </message>
 </context>
 <context>
+    <name>WindowChoices</name>
+    <message>
+        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>No se pudieron guardar los ajustes. Compruebe que puede escribir en la carpeta del programa.</translation>
+    </message>
+</context>
+<context>
     <name>WindowPopups</name>
     <message>
         <source>停止并退出</source>
@@ -7916,6 +7926,13 @@ Archivo: </translation>
     <message>
         <source>报告已停止，没有生成文件</source>
         <translation>El informe se detuvo; no se escribió ningún archivo</translation>
+    </message>
+</context>
+<context>
+    <name>WindowSearch</name>
+    <message>
+        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
+        <translation>Respondieron más de %1 dispositivos. %2 respuestas más no se muestran. Busque en un rango menor.</translation>
     </message>
 </context>
 <context>

@@ -3849,14 +3849,6 @@ Clic droit pour copier le résultat</translation>
         <translation>Protocole CGI</translation>
     </message>
     <message>
-        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
-        <translation>Les paramètres n&apos;ont pas pu être enregistrés. Vérifiez que vous pouvez écrire dans le dossier du programme.</translation>
-    </message>
-    <message>
-        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
-        <translation>Plus de %1 appareils ont répondu. %2 autres réponses ne sont pas affichées. Recherchez dans une plage plus petite.</translation>
-    </message>
-    <message>
         <source>演示站点</source>
         <extracomment>In the title bar. %1 is a user name and a password.</extracomment>
         <translation>Site de démo</translation>
@@ -4215,36 +4207,12 @@ Fichier&#xa0;: </translation>
         <translation>Le fichier n&apos;a pas pu être écrit. Vérifiez le dossier et si un autre programme a ouvert le fichier.</translation>
     </message>
     <message>
-        <source>打开excel文件</source>
-        <translation>Ouvrir une liste d&apos;appareils</translation>
-    </message>
-    <message>
-        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
-        <translation>Non importé. Le fichier est ouvert dans un autre programme, a un autre format ou contient deux fois une adresse MAC.</translation>
-    </message>
-    <message>
-        <source>批量导入设备：</source>
-        <translation>Importé&#xa0;: </translation>
-    </message>
-    <message>
-        <source>台已完成</source>
-        <translation>appareils</translation>
-    </message>
-    <message>
         <source>请选择文件夹</source>
         <translation>Choisir un dossier</translation>
     </message>
     <message>
-        <source>导入</source>
-        <translation>Importer</translation>
-    </message>
-    <message>
         <source>以下内容无法从该文件正确导入：</source>
         <translation>Ces valeurs ne peuvent pas être relues depuis le fichier&#xa0;:</translation>
-    </message>
-    <message>
-        <source>行</source>
-        <translation>Ligne</translation>
     </message>
     <message>
         <source>地址</source>
@@ -4253,10 +4221,6 @@ Fichier&#xa0;: </translation>
     <message>
         <source>原因</source>
         <translation>Raison</translation>
-    </message>
-    <message>
-        <source>导入结果</source>
-        <translation>Résultat de l&apos;importation</translation>
     </message>
     <message>
         <source>名称</source>
@@ -4282,10 +4246,6 @@ Fichier&#xa0;: </translation>
         <source>覆盖文件</source>
         <translation>Remplacer le fichier</translation>
     </message>
-    <message>
-        <source>加密的设备列表 (*.devlist)</source>
-        <translation>Listes d&apos;appareils chiffrées (*.devlist)</translation>
-    </message>
 </context>
 <context>
     <name>ModifyIPGroups</name>
@@ -4296,6 +4256,49 @@ Fichier&#xa0;: </translation>
     <message>
         <source>从现场中移除</source>
         <translation>Retirer du site</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPImport</name>
+    <message>
+        <source>打开excel文件</source>
+        <translation>Ouvrir une liste d&apos;appareils</translation>
+    </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Listes d&apos;appareils chiffrées (*.devlist)</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <source>批量导入设备：</source>
+        <translation>Importé&#xa0;: </translation>
+    </message>
+    <message>
+        <source>台已完成</source>
+        <translation>appareils</translation>
+    </message>
+    <message>
+        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
+        <translation>Non importé. Le fichier est ouvert dans un autre programme, a un autre format ou contient deux fois une adresse MAC.</translation>
+    </message>
+    <message>
+        <source>行</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>原因</source>
+        <translation>Raison</translation>
+    </message>
+    <message>
+        <source>导入结果</source>
+        <translation>Résultat de l&apos;importation</translation>
     </message>
 </context>
 <context>
@@ -7885,6 +7888,13 @@ Fichier&#xa0;: </translation>
     </message>
 </context>
 <context>
+    <name>WindowChoices</name>
+    <message>
+        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>Les paramètres n&apos;ont pas pu être enregistrés. Vérifiez que vous pouvez écrire dans le dossier du programme.</translation>
+    </message>
+</context>
+<context>
     <name>WindowPopups</name>
     <message>
         <source>停止并退出</source>
@@ -7916,6 +7926,13 @@ Fichier&#xa0;: </translation>
     <message>
         <source>报告已停止，没有生成文件</source>
         <translation>Le rapport a été arrêté&#xa0;; aucun fichier n&apos;a été écrit</translation>
+    </message>
+</context>
+<context>
+    <name>WindowSearch</name>
+    <message>
+        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
+        <translation>Plus de %1 appareils ont répondu. %2 autres réponses ne sont pas affichées. Recherchez dans une plage plus petite.</translation>
     </message>
 </context>
 <context>

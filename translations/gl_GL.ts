@@ -3849,14 +3849,6 @@ Prema co botón dereito para copiar o resultado</translation>
         <translation>Protocolo CGI</translation>
     </message>
     <message>
-        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
-        <translation>Non se puido gardar a configuración. Comprobe que pode escribir no cartafol do programa.</translation>
-    </message>
-    <message>
-        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
-        <translation>Responderon máis de %1 dispositivos. Non se mostran outras %2 respostas. Busque nun rango menor.</translation>
-    </message>
-    <message>
         <source>演示站点</source>
         <extracomment>In the title bar. %1 is a user name and a password.</extracomment>
         <translation>Sitio de demo</translation>
@@ -4215,36 +4207,12 @@ Ficheiro: </translation>
         <translation>Non se puido escribir o ficheiro. Comprobe o cartafol e se outro programa ten o ficheiro aberto.</translation>
     </message>
     <message>
-        <source>打开excel文件</source>
-        <translation>Abrir unha lista de dispositivos</translation>
-    </message>
-    <message>
-        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
-        <translation>Non importado. O ficheiro está aberto noutro programa, ten outro formato ou contén un enderezo MAC dúas veces.</translation>
-    </message>
-    <message>
-        <source>批量导入设备：</source>
-        <translation>Importados: </translation>
-    </message>
-    <message>
-        <source>台已完成</source>
-        <translation>dispositivos</translation>
-    </message>
-    <message>
         <source>请选择文件夹</source>
         <translation>Seleccione un cartafol</translation>
     </message>
     <message>
-        <source>导入</source>
-        <translation>Importar</translation>
-    </message>
-    <message>
         <source>以下内容无法从该文件正确导入：</source>
         <translation>Estes valores non se poden volver ler do ficheiro:</translation>
-    </message>
-    <message>
-        <source>行</source>
-        <translation>Liña</translation>
     </message>
     <message>
         <source>地址</source>
@@ -4253,10 +4221,6 @@ Ficheiro: </translation>
     <message>
         <source>原因</source>
         <translation>Motivo</translation>
-    </message>
-    <message>
-        <source>导入结果</source>
-        <translation>Resultado da importación</translation>
     </message>
     <message>
         <source>名称</source>
@@ -4282,10 +4246,6 @@ Ficheiro: </translation>
         <source>覆盖文件</source>
         <translation>Substituír ficheiro</translation>
     </message>
-    <message>
-        <source>加密的设备列表 (*.devlist)</source>
-        <translation>Listas de dispositivos cifradas (*.devlist)</translation>
-    </message>
 </context>
 <context>
     <name>ModifyIPGroups</name>
@@ -4296,6 +4256,49 @@ Ficheiro: </translation>
     <message>
         <source>从现场中移除</source>
         <translation>Retirar do sitio</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPImport</name>
+    <message>
+        <source>打开excel文件</source>
+        <translation>Abrir unha lista de dispositivos</translation>
+    </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Listas de dispositivos cifradas (*.devlist)</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>批量导入设备：</source>
+        <translation>Importados: </translation>
+    </message>
+    <message>
+        <source>台已完成</source>
+        <translation>dispositivos</translation>
+    </message>
+    <message>
+        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
+        <translation>Non importado. O ficheiro está aberto noutro programa, ten outro formato ou contén un enderezo MAC dúas veces.</translation>
+    </message>
+    <message>
+        <source>行</source>
+        <translation>Liña</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Enderezo</translation>
+    </message>
+    <message>
+        <source>原因</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>导入结果</source>
+        <translation>Resultado da importación</translation>
     </message>
 </context>
 <context>
@@ -7885,6 +7888,13 @@ Ficheiro: </translation>
     </message>
 </context>
 <context>
+    <name>WindowChoices</name>
+    <message>
+        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>Non se puido gardar a configuración. Comprobe que pode escribir no cartafol do programa.</translation>
+    </message>
+</context>
+<context>
     <name>WindowPopups</name>
     <message>
         <source>停止并退出</source>
@@ -7916,6 +7926,13 @@ Ficheiro: </translation>
     <message>
         <source>报告已停止，没有生成文件</source>
         <translation>Detívose o informe; non se escribiu ningún ficheiro</translation>
+    </message>
+</context>
+<context>
+    <name>WindowSearch</name>
+    <message>
+        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
+        <translation>Responderon máis de %1 dispositivos. Non se mostran outras %2 respostas. Busque nun rango menor.</translation>
     </message>
 </context>
 <context>

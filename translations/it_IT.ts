@@ -3849,14 +3849,6 @@ Clic destro per copiare il risultato</translation>
         <translation>Protocollo CGI</translation>
     </message>
     <message>
-        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
-        <translation>Impossibile salvare le impostazioni. Verificare di poter scrivere nella cartella del programma.</translation>
-    </message>
-    <message>
-        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
-        <translation>Hanno risposto più di %1 dispositivi. Altre %2 risposte non sono elencate. Cercare in un intervallo più piccolo.</translation>
-    </message>
-    <message>
         <source>演示站点</source>
         <extracomment>In the title bar. %1 is a user name and a password.</extracomment>
         <translation>Sito demo</translation>
@@ -4215,36 +4207,12 @@ File: </translation>
         <translation>Impossibile scrivere il file. Controllare la cartella e se un altro programma ha aperto il file.</translation>
     </message>
     <message>
-        <source>打开excel文件</source>
-        <translation>Apri un elenco dispositivi</translation>
-    </message>
-    <message>
-        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
-        <translation>Non importato. Il file è aperto in un altro programma, ha un altro formato o contiene due volte un indirizzo MAC.</translation>
-    </message>
-    <message>
-        <source>批量导入设备：</source>
-        <translation>Importati: </translation>
-    </message>
-    <message>
-        <source>台已完成</source>
-        <translation>dispositivi</translation>
-    </message>
-    <message>
         <source>请选择文件夹</source>
         <translation>Selezionare una cartella</translation>
     </message>
     <message>
-        <source>导入</source>
-        <translation>Importa</translation>
-    </message>
-    <message>
         <source>以下内容无法从该文件正确导入：</source>
         <translation>Questi valori non possono essere riletti dal file:</translation>
-    </message>
-    <message>
-        <source>行</source>
-        <translation>Riga</translation>
     </message>
     <message>
         <source>地址</source>
@@ -4253,10 +4221,6 @@ File: </translation>
     <message>
         <source>原因</source>
         <translation>Motivo</translation>
-    </message>
-    <message>
-        <source>导入结果</source>
-        <translation>Risultato importazione</translation>
     </message>
     <message>
         <source>名称</source>
@@ -4282,10 +4246,6 @@ File: </translation>
         <source>覆盖文件</source>
         <translation>Sostituisci file</translation>
     </message>
-    <message>
-        <source>加密的设备列表 (*.devlist)</source>
-        <translation>Elenchi di dispositivi cifrati (*.devlist)</translation>
-    </message>
 </context>
 <context>
     <name>ModifyIPGroups</name>
@@ -4296,6 +4256,49 @@ File: </translation>
     <message>
         <source>从现场中移除</source>
         <translation>Rimuovi dal sito</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPImport</name>
+    <message>
+        <source>打开excel文件</source>
+        <translation>Apri un elenco dispositivi</translation>
+    </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Elenchi di dispositivi cifrati (*.devlist)</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>Importa</translation>
+    </message>
+    <message>
+        <source>批量导入设备：</source>
+        <translation>Importati: </translation>
+    </message>
+    <message>
+        <source>台已完成</source>
+        <translation>dispositivi</translation>
+    </message>
+    <message>
+        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
+        <translation>Non importato. Il file è aperto in un altro programma, ha un altro formato o contiene due volte un indirizzo MAC.</translation>
+    </message>
+    <message>
+        <source>行</source>
+        <translation>Riga</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Indirizzo</translation>
+    </message>
+    <message>
+        <source>原因</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>导入结果</source>
+        <translation>Risultato importazione</translation>
     </message>
 </context>
 <context>
@@ -7885,6 +7888,13 @@ File: </translation>
     </message>
 </context>
 <context>
+    <name>WindowChoices</name>
+    <message>
+        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>Impossibile salvare le impostazioni. Verificare di poter scrivere nella cartella del programma.</translation>
+    </message>
+</context>
+<context>
     <name>WindowPopups</name>
     <message>
         <source>停止并退出</source>
@@ -7916,6 +7926,13 @@ File: </translation>
     <message>
         <source>报告已停止，没有生成文件</source>
         <translation>Il rapporto è stato interrotto; nessun file è stato scritto</translation>
+    </message>
+</context>
+<context>
+    <name>WindowSearch</name>
+    <message>
+        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
+        <translation>Hanno risposto più di %1 dispositivi. Altre %2 risposte non sono elencate. Cercare in un intervallo più piccolo.</translation>
     </message>
 </context>
 <context>

@@ -3849,14 +3849,6 @@ Klik met rechts om het resultaat te kopiëren</translation>
         <translation>CGI-protocol</translation>
     </message>
     <message>
-        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
-        <translation>De instellingen konden niet worden opgeslagen. Controleer of u in de programmamap mag schrijven.</translation>
-    </message>
-    <message>
-        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
-        <translation>Meer dan %1 apparaten hebben geantwoord. %2 verdere antwoorden staan niet in de lijst. Doorzoek een kleiner bereik.</translation>
-    </message>
-    <message>
         <source>演示站点</source>
         <extracomment>In the title bar. %1 is a user name and a password.</extracomment>
         <translation>Demolocatie</translation>
@@ -4215,36 +4207,12 @@ Bestand: </translation>
         <translation>Het bestand kon niet worden geschreven. Controleer de map en of een ander programma het bestand heeft geopend.</translation>
     </message>
     <message>
-        <source>打开excel文件</source>
-        <translation>Een apparaatlijst openen</translation>
-    </message>
-    <message>
-        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
-        <translation>Niet geïmporteerd. Het bestand is geopend in een ander programma, heeft een andere indeling of bevat een MAC-adres dubbel.</translation>
-    </message>
-    <message>
-        <source>批量导入设备：</source>
-        <translation>Geïmporteerd: </translation>
-    </message>
-    <message>
-        <source>台已完成</source>
-        <translation>apparaten</translation>
-    </message>
-    <message>
         <source>请选择文件夹</source>
         <translation>Selecteer een map</translation>
     </message>
     <message>
-        <source>导入</source>
-        <translation>Importeren</translation>
-    </message>
-    <message>
         <source>以下内容无法从该文件正确导入：</source>
         <translation>Deze waarden kunnen niet uit het bestand worden teruggelezen:</translation>
-    </message>
-    <message>
-        <source>行</source>
-        <translation>Regel</translation>
     </message>
     <message>
         <source>地址</source>
@@ -4253,10 +4221,6 @@ Bestand: </translation>
     <message>
         <source>原因</source>
         <translation>Reden</translation>
-    </message>
-    <message>
-        <source>导入结果</source>
-        <translation>Importresultaat</translation>
     </message>
     <message>
         <source>名称</source>
@@ -4282,10 +4246,6 @@ Bestand: </translation>
         <source>覆盖文件</source>
         <translation>Bestand vervangen</translation>
     </message>
-    <message>
-        <source>加密的设备列表 (*.devlist)</source>
-        <translation>Versleutelde apparatenlijsten (*.devlist)</translation>
-    </message>
 </context>
 <context>
     <name>ModifyIPGroups</name>
@@ -4296,6 +4256,49 @@ Bestand: </translation>
     <message>
         <source>从现场中移除</source>
         <translation>Uit locatie verwijderen</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPImport</name>
+    <message>
+        <source>打开excel文件</source>
+        <translation>Een apparaatlijst openen</translation>
+    </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Versleutelde apparatenlijsten (*.devlist)</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>Importeren</translation>
+    </message>
+    <message>
+        <source>批量导入设备：</source>
+        <translation>Geïmporteerd: </translation>
+    </message>
+    <message>
+        <source>台已完成</source>
+        <translation>apparaten</translation>
+    </message>
+    <message>
+        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
+        <translation>Niet geïmporteerd. Het bestand is geopend in een ander programma, heeft een andere indeling of bevat een MAC-adres dubbel.</translation>
+    </message>
+    <message>
+        <source>行</source>
+        <translation>Regel</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Adres</translation>
+    </message>
+    <message>
+        <source>原因</source>
+        <translation>Reden</translation>
+    </message>
+    <message>
+        <source>导入结果</source>
+        <translation>Importresultaat</translation>
     </message>
 </context>
 <context>
@@ -7885,6 +7888,13 @@ Bestand: </translation>
     </message>
 </context>
 <context>
+    <name>WindowChoices</name>
+    <message>
+        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>De instellingen konden niet worden opgeslagen. Controleer of u in de programmamap mag schrijven.</translation>
+    </message>
+</context>
+<context>
     <name>WindowPopups</name>
     <message>
         <source>停止并退出</source>
@@ -7916,6 +7926,13 @@ Bestand: </translation>
     <message>
         <source>报告已停止，没有生成文件</source>
         <translation>Het rapport is gestopt; er is geen bestand geschreven</translation>
+    </message>
+</context>
+<context>
+    <name>WindowSearch</name>
+    <message>
+        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
+        <translation>Meer dan %1 apparaten hebben geantwoord. %2 verdere antwoorden staan niet in de lijst. Doorzoek een kleiner bereik.</translation>
     </message>
 </context>
 <context>

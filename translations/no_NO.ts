@@ -3849,14 +3849,6 @@ Høyreklikk for å kopiere resultatet</translation>
         <translation>CGI-protokoll</translation>
     </message>
     <message>
-        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
-        <translation>Innstillingene kunne ikke lagres. Kontroller skrivetilgangen til programmappen.</translation>
-    </message>
-    <message>
-        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
-        <translation>Mer enn %1 enheter svarte. Ytterligere %2 svar vises ikke. Søk i et mindre område.</translation>
-    </message>
-    <message>
         <source>演示站点</source>
         <extracomment>In the title bar. %1 is a user name and a password.</extracomment>
         <translation>Demoanlegg</translation>
@@ -4215,36 +4207,12 @@ Fil: </translation>
         <translation>Filen kunne ikke skrives. Kontroller mappen og om filen er åpen i et annet program.</translation>
     </message>
     <message>
-        <source>打开excel文件</source>
-        <translation>Åpne en enhetsliste</translation>
-    </message>
-    <message>
-        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
-        <translation>Ikke importert. Filen er åpen i et annet program, har et annet format eller inneholder en MAC-adresse to ganger.</translation>
-    </message>
-    <message>
-        <source>批量导入设备：</source>
-        <translation>Importert: </translation>
-    </message>
-    <message>
-        <source>台已完成</source>
-        <translation>enheter</translation>
-    </message>
-    <message>
         <source>请选择文件夹</source>
         <translation>Velg en mappe</translation>
     </message>
     <message>
-        <source>导入</source>
-        <translation>Importer</translation>
-    </message>
-    <message>
         <source>以下内容无法从该文件正确导入：</source>
         <translation>Disse verdiene kan ikke leses tilbake fra filen:</translation>
-    </message>
-    <message>
-        <source>行</source>
-        <translation>Linje</translation>
     </message>
     <message>
         <source>地址</source>
@@ -4253,10 +4221,6 @@ Fil: </translation>
     <message>
         <source>原因</source>
         <translation>Årsak</translation>
-    </message>
-    <message>
-        <source>导入结果</source>
-        <translation>Importresultat</translation>
     </message>
     <message>
         <source>名称</source>
@@ -4282,10 +4246,6 @@ Fil: </translation>
         <source>覆盖文件</source>
         <translation>Erstatt fil</translation>
     </message>
-    <message>
-        <source>加密的设备列表 (*.devlist)</source>
-        <translation>Krypterte enhetslister (*.devlist)</translation>
-    </message>
 </context>
 <context>
     <name>ModifyIPGroups</name>
@@ -4296,6 +4256,49 @@ Fil: </translation>
     <message>
         <source>从现场中移除</source>
         <translation>Fjern fra anlegget</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPImport</name>
+    <message>
+        <source>打开excel文件</source>
+        <translation>Åpne en enhetsliste</translation>
+    </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Krypterte enhetslister (*.devlist)</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <source>批量导入设备：</source>
+        <translation>Importert: </translation>
+    </message>
+    <message>
+        <source>台已完成</source>
+        <translation>enheter</translation>
+    </message>
+    <message>
+        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
+        <translation>Ikke importert. Filen er åpen i et annet program, har et annet format eller inneholder en MAC-adresse to ganger.</translation>
+    </message>
+    <message>
+        <source>行</source>
+        <translation>Linje</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>原因</source>
+        <translation>Årsak</translation>
+    </message>
+    <message>
+        <source>导入结果</source>
+        <translation>Importresultat</translation>
     </message>
 </context>
 <context>
@@ -7885,6 +7888,13 @@ Fil: </translation>
     </message>
 </context>
 <context>
+    <name>WindowChoices</name>
+    <message>
+        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>Innstillingene kunne ikke lagres. Kontroller skrivetilgangen til programmappen.</translation>
+    </message>
+</context>
+<context>
     <name>WindowPopups</name>
     <message>
         <source>停止并退出</source>
@@ -7916,6 +7926,13 @@ Fil: </translation>
     <message>
         <source>报告已停止，没有生成文件</source>
         <translation>Rapporten ble stoppet; ingen fil ble skrevet</translation>
+    </message>
+</context>
+<context>
+    <name>WindowSearch</name>
+    <message>
+        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
+        <translation>Mer enn %1 enheter svarte. Ytterligere %2 svar vises ikke. Søk i et mindre område.</translation>
     </message>
 </context>
 <context>

@@ -3849,14 +3849,6 @@ Clique com o botão direito para copiar o resultado</translation>
         <translation>Protocolo CGI</translation>
     </message>
     <message>
-        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
-        <translation>Não foi possível guardar as definições. Verifique se pode escrever na pasta do programa.</translation>
-    </message>
-    <message>
-        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
-        <translation>Responderam mais de %1 dispositivos. Mais %2 respostas não são listadas. Pesquise uma gama mais pequena.</translation>
-    </message>
-    <message>
         <source>演示站点</source>
         <extracomment>In the title bar. %1 is a user name and a password.</extracomment>
         <translation>Local de demo</translation>
@@ -4215,36 +4207,12 @@ Ficheiro: </translation>
         <translation>Não foi possível escrever o ficheiro. Verifique a pasta e se outro programa tem o ficheiro aberto.</translation>
     </message>
     <message>
-        <source>打开excel文件</source>
-        <translation>Abrir uma lista de dispositivos</translation>
-    </message>
-    <message>
-        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
-        <translation>Não importado. O ficheiro está aberto noutro programa, tem outro formato ou contém um endereço MAC duas vezes.</translation>
-    </message>
-    <message>
-        <source>批量导入设备：</source>
-        <translation>Importados: </translation>
-    </message>
-    <message>
-        <source>台已完成</source>
-        <translation>dispositivos</translation>
-    </message>
-    <message>
         <source>请选择文件夹</source>
         <translation>Selecione uma pasta</translation>
     </message>
     <message>
-        <source>导入</source>
-        <translation>Importar</translation>
-    </message>
-    <message>
         <source>以下内容无法从该文件正确导入：</source>
         <translation>Estes valores não podem ser lidos de volta do ficheiro:</translation>
-    </message>
-    <message>
-        <source>行</source>
-        <translation>Linha</translation>
     </message>
     <message>
         <source>地址</source>
@@ -4253,10 +4221,6 @@ Ficheiro: </translation>
     <message>
         <source>原因</source>
         <translation>Motivo</translation>
-    </message>
-    <message>
-        <source>导入结果</source>
-        <translation>Resultado da importação</translation>
     </message>
     <message>
         <source>名称</source>
@@ -4282,10 +4246,6 @@ Ficheiro: </translation>
         <source>覆盖文件</source>
         <translation>Substituir ficheiro</translation>
     </message>
-    <message>
-        <source>加密的设备列表 (*.devlist)</source>
-        <translation>Listas de dispositivos cifradas (*.devlist)</translation>
-    </message>
 </context>
 <context>
     <name>ModifyIPGroups</name>
@@ -4296,6 +4256,49 @@ Ficheiro: </translation>
     <message>
         <source>从现场中移除</source>
         <translation>Remover do local</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPImport</name>
+    <message>
+        <source>打开excel文件</source>
+        <translation>Abrir uma lista de dispositivos</translation>
+    </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Listas de dispositivos cifradas (*.devlist)</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>批量导入设备：</source>
+        <translation>Importados: </translation>
+    </message>
+    <message>
+        <source>台已完成</source>
+        <translation>dispositivos</translation>
+    </message>
+    <message>
+        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
+        <translation>Não importado. O ficheiro está aberto noutro programa, tem outro formato ou contém um endereço MAC duas vezes.</translation>
+    </message>
+    <message>
+        <source>行</source>
+        <translation>Linha</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Endereço</translation>
+    </message>
+    <message>
+        <source>原因</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>导入结果</source>
+        <translation>Resultado da importação</translation>
     </message>
 </context>
 <context>
@@ -7885,6 +7888,13 @@ Ficheiro: </translation>
     </message>
 </context>
 <context>
+    <name>WindowChoices</name>
+    <message>
+        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>Não foi possível guardar as definições. Verifique se pode escrever na pasta do programa.</translation>
+    </message>
+</context>
+<context>
     <name>WindowPopups</name>
     <message>
         <source>停止并退出</source>
@@ -7916,6 +7926,13 @@ Ficheiro: </translation>
     <message>
         <source>报告已停止，没有生成文件</source>
         <translation>O relatório foi interrompido; nenhum ficheiro foi escrito</translation>
+    </message>
+</context>
+<context>
+    <name>WindowSearch</name>
+    <message>
+        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
+        <translation>Responderam mais de %1 dispositivos. Mais %2 respostas não são listadas. Pesquise uma gama mais pequena.</translation>
     </message>
 </context>
 <context>

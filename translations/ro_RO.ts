@@ -3899,14 +3899,6 @@ Clic dreapta pentru a copia rezultatul</translation>
         <translation>Protocol CGI</translation>
     </message>
     <message>
-        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
-        <translation>Setările nu au putut fi salvate. Verificați permisiunea de scriere în folderul programului.</translation>
-    </message>
-    <message>
-        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
-        <translation>Au răspuns mai mult de %1 dispozitive. Alte %2 răspunsuri nu sunt listate. Căutați într-un interval mai mic.</translation>
-    </message>
-    <message>
         <source>演示站点</source>
         <extracomment>In the title bar. %1 is a user name and a password.</extracomment>
         <translation>Locație demo</translation>
@@ -4270,36 +4262,12 @@ Fișier: </translation>
         <translation>Fișierul nu a putut fi scris. Verificați folderul și dacă fișierul este deschis în alt program.</translation>
     </message>
     <message>
-        <source>打开excel文件</source>
-        <translation>Deschiderea unei liste de dispozitive</translation>
-    </message>
-    <message>
-        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
-        <translation>Neimportat. Fișierul este deschis în alt program, are alt format sau conține o adresă MAC de două ori.</translation>
-    </message>
-    <message>
-        <source>批量导入设备：</source>
-        <translation>Importat: </translation>
-    </message>
-    <message>
-        <source>台已完成</source>
-        <translation>dispozitive</translation>
-    </message>
-    <message>
         <source>请选择文件夹</source>
         <translation>Selectați un folder</translation>
     </message>
     <message>
-        <source>导入</source>
-        <translation>Import</translation>
-    </message>
-    <message>
         <source>以下内容无法从该文件正确导入：</source>
         <translation>Aceste valori nu pot fi recitite din fișier:</translation>
-    </message>
-    <message>
-        <source>行</source>
-        <translation>Linie</translation>
     </message>
     <message>
         <source>地址</source>
@@ -4308,10 +4276,6 @@ Fișier: </translation>
     <message>
         <source>原因</source>
         <translation>Motiv</translation>
-    </message>
-    <message>
-        <source>导入结果</source>
-        <translation>Rezultatul importului</translation>
     </message>
     <message>
         <source>名称</source>
@@ -4337,10 +4301,6 @@ Fișier: </translation>
         <source>覆盖文件</source>
         <translation>Înlocuire fișier</translation>
     </message>
-    <message>
-        <source>加密的设备列表 (*.devlist)</source>
-        <translation>Liste de dispozitive criptate (*.devlist)</translation>
-    </message>
 </context>
 <context>
     <name>ModifyIPGroups</name>
@@ -4351,6 +4311,49 @@ Fișier: </translation>
     <message>
         <source>从现场中移除</source>
         <translation>Eliminare din locație</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPImport</name>
+    <message>
+        <source>打开excel文件</source>
+        <translation>Deschiderea unei liste de dispozitive</translation>
+    </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>Liste de dispozitive criptate (*.devlist)</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>批量导入设备：</source>
+        <translation>Importat: </translation>
+    </message>
+    <message>
+        <source>台已完成</source>
+        <translation>dispozitive</translation>
+    </message>
+    <message>
+        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
+        <translation>Neimportat. Fișierul este deschis în alt program, are alt format sau conține o adresă MAC de două ori.</translation>
+    </message>
+    <message>
+        <source>行</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>Adresă</translation>
+    </message>
+    <message>
+        <source>原因</source>
+        <translation>Motiv</translation>
+    </message>
+    <message>
+        <source>导入结果</source>
+        <translation>Rezultatul importului</translation>
     </message>
 </context>
 <context>
@@ -7982,6 +7985,13 @@ Fișier: </translation>
     </message>
 </context>
 <context>
+    <name>WindowChoices</name>
+    <message>
+        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>Setările nu au putut fi salvate. Verificați permisiunea de scriere în folderul programului.</translation>
+    </message>
+</context>
+<context>
     <name>WindowPopups</name>
     <message>
         <source>停止并退出</source>
@@ -8014,6 +8024,13 @@ Fișier: </translation>
     <message>
         <source>报告已停止，没有生成文件</source>
         <translation>Raportul a fost oprit; nu a fost scris niciun fișier</translation>
+    </message>
+</context>
+<context>
+    <name>WindowSearch</name>
+    <message>
+        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
+        <translation>Au răspuns mai mult de %1 dispozitive. Alte %2 răspunsuri nu sunt listate. Căutați într-un interval mai mic.</translation>
     </message>
 </context>
 <context>

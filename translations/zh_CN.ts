@@ -3799,14 +3799,6 @@
         <translation>CGI协议</translation>
     </message>
     <message>
-        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
-        <translation>设置无法保存，请检查程序所在文件夹的写入权限</translation>
-    </message>
-    <message>
-        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
-        <translation>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</translation>
-    </message>
-    <message>
         <source>演示站点</source>
         <extracomment>In the title bar. %1 is a user name and a password.</extracomment>
         <translation>演示站点</translation>
@@ -4160,36 +4152,12 @@
         <translation>导出设备失败，请检查本机是否已经安装了Office</translation>
     </message>
     <message>
-        <source>打开excel文件</source>
-        <translation>打开excel文件</translation>
-    </message>
-    <message>
-        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
-        <translation>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</translation>
-    </message>
-    <message>
-        <source>批量导入设备：</source>
-        <translation>批量导入设备：</translation>
-    </message>
-    <message>
-        <source>台已完成</source>
-        <translation>台已完成</translation>
-    </message>
-    <message>
         <source>请选择文件夹</source>
         <translation>请选择文件夹</translation>
     </message>
     <message>
-        <source>导入</source>
-        <translation>导入</translation>
-    </message>
-    <message>
         <source>以下内容无法从该文件正确导入：</source>
         <translation>以下内容无法从该文件正确导入：</translation>
-    </message>
-    <message>
-        <source>行</source>
-        <translation>行</translation>
     </message>
     <message>
         <source>地址</source>
@@ -4198,10 +4166,6 @@
     <message>
         <source>原因</source>
         <translation>原因</translation>
-    </message>
-    <message>
-        <source>导入结果</source>
-        <translation>导入结果</translation>
     </message>
     <message>
         <source>名称</source>
@@ -4227,10 +4191,6 @@
         <source>覆盖文件</source>
         <translation>覆盖文件</translation>
     </message>
-    <message>
-        <source>加密的设备列表 (*.devlist)</source>
-        <translation>加密的设备列表 (*.devlist)</translation>
-    </message>
 </context>
 <context>
     <name>ModifyIPGroups</name>
@@ -4241,6 +4201,49 @@
     <message>
         <source>从现场中移除</source>
         <translation>从现场中移除</translation>
+    </message>
+</context>
+<context>
+    <name>ModifyIPImport</name>
+    <message>
+        <source>打开excel文件</source>
+        <translation>打开excel文件</translation>
+    </message>
+    <message>
+        <source>加密的设备列表 (*.devlist)</source>
+        <translation>加密的设备列表 (*.devlist)</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>导入</translation>
+    </message>
+    <message>
+        <source>批量导入设备：</source>
+        <translation>批量导入设备：</translation>
+    </message>
+    <message>
+        <source>台已完成</source>
+        <translation>台已完成</translation>
+    </message>
+    <message>
+        <source>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</source>
+        <translation>导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！</translation>
+    </message>
+    <message>
+        <source>行</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>地址</source>
+        <translation>地址</translation>
+    </message>
+    <message>
+        <source>原因</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>导入结果</source>
+        <translation>导入结果</translation>
     </message>
 </context>
 <context>
@@ -7788,6 +7791,13 @@
     </message>
 </context>
 <context>
+    <name>WindowChoices</name>
+    <message>
+        <source>设置无法保存，请检查程序所在文件夹的写入权限</source>
+        <translation>设置无法保存，请检查程序所在文件夹的写入权限</translation>
+    </message>
+</context>
+<context>
     <name>WindowPopups</name>
     <message>
         <source>停止并退出</source>
@@ -7818,6 +7828,13 @@
     <message>
         <source>报告已停止，没有生成文件</source>
         <translation>报告已停止，没有生成文件</translation>
+    </message>
+</context>
+<context>
+    <name>WindowSearch</name>
+    <message>
+        <source>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</source>
+        <translation>搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。</translation>
     </message>
 </context>
 <context>

@@ -30,11 +30,10 @@ T.ApplicationWindow {
     readonly property string demoAccount: demoSiteAccount  // "user / password" of most demo devices; "" for none
     // qmllint enable unqualified
 
-    readonly property alias count: search.count  // IPv4 devices found by the running or last search
-    readonly property alias deviceSearch: search
-    readonly property alias searching: search.running
+    readonly property alias deviceSearch: search.deviceSearch
+    readonly property int count: search.deviceSearch.count  // IPv4 devices found by the running or last search
+    readonly property bool searching: search.deviceSearch.running
     property int currentTab: 0  // index from 0; set by showTab() only
-    property string chosenLanguage: localConfig.getLanguage()  // such as "en_US"; used after a restart
     /// Area of toasts, in window coordinates: next to the tabs, between the buttons of the title bar and those of the
     /// tool bars.
     readonly property rect toastArea: {
@@ -42,36 +41,6 @@ T.ApplicationWindow {
         const top = (Theme.titleBarHeight + Theme.controlHeight) / 2 + 2;
         const bottom = titleBar.height + tabBar.height + (Theme.toolBarHeight - Theme.controlHeight) / 2 - 2;
         return Qt.rect(left, top, width - left - Theme.pageMargin, bottom - top);
-    }
-    /// Whether the window fills the screen, also in full screen.
-    readonly property bool maximised: visibility === Window.Maximized || visibility === Window.FullScreen
-
-    /// Starts a search requested by the user, in place of a running one. A search removes all rows without a failed
-    /// mark (see OVFailedFilter): while work needs the rows, a message box shows the refusal of BusyState instead.
-    function requestSearch() {
-        const refusal = busyState.refusal(BusyState.Search);
-        if (refusal !== "")
-            popups.showMessage(refusal);
-        else
-            search.start(searchSettings.read());
-    }
-
-    /// Stores the language and offers a restart. If it cannot be stored, a toast reports that and nothing changes.
-    function chooseLanguage(code) {
-        localConfig.setLanguage(code);
-        if (localConfig.getLanguage() !== code) {
-            popups.notify(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
-            return;
-        }
-        chosenLanguage = code;
-        popups.openRestartPrompt();
-    }
-
-    /// Applies a choice ("desktop", "light" or "dark") and stores it. A toast reports a failure to store it; the
-    /// colours then apply until the application ends.
-    function chooseColours(choice) {
-        if (!colourScheme.choose(choice))
-            popups.notify(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
     }
 
     /// Shows a tab and removes all toasts. Asks about unsaved settings first: the tab is then shown after the user's
@@ -101,17 +70,10 @@ T.ApplicationWindow {
         return pages.leave(action);
     }
 
-    /// Writes the current tab and the geometry of the window to the settings. Called before the application exits.
-    function rememberView() {
-        memory.keep("tab", String(currentTab));
-        memory.keep("window", savedGeometry.text());
-        memory.write();
-    }
-
     /// Shows the stored tab, the first one if there is none, and gives its page the keyboard focus.
     function restoreTab() {
-        const tab = Number(memory.text("tab"));
-        if (Number.isInteger(tab) && tab > 0 && tab < tabBar.tabs.length)
+        const tab = view.tab(tabBar.tabs.length);
+        if (tab > 0)
             turnTo(tab);
         else
             pages.focusTable();
@@ -128,25 +90,12 @@ T.ApplicationWindow {
 
     Component.onCompleted: {
         LoginMemory.accounts = accounts;
-        search.start(searchSettings.read());
+        search.start();
         restoreTab();
-        languageList.remove(localConfig.getRemoveLanguageList());
         if (notes.problem !== "")
             popups.notify(notes.problem, OVToast.Error);
         if (knownDevices.problem !== "")
             popups.notify(knownDevices.problem, OVToast.Error);
-    }
-
-    // Qt loses the maximised state of a window when it is minimised: the window restores it.
-    property int lastVisibility: Window.Windowed
-    property bool maximisedBefore: false
-    onVisibilityChanged: {
-        const now = window.visibility;
-        if (now === Window.Minimized)
-            maximisedBefore = lastVisibility === Window.Maximized;
-        else if (now === Window.Windowed && lastVisibility === Window.Minimized && maximisedBefore)
-            showMaximized();
-        lastVisibility = now;
     }
 
     onClosing: close => {
@@ -155,19 +104,14 @@ T.ApplicationWindow {
     }
 
     Binding {
-        property: "dark"
-        target: Theme
-        value: window.colourScheme.dark
-    }
-    Binding {
         property: "textRendering"
         target: Theme
         value: Number.isInteger(window.Screen.devicePixelRatio) ? Text.NativeRendering : Text.QtRendering
     }
-    WindowGeometry {
-        id: savedGeometry
-        stored: window.memory.text("window")
-        window: window
+    WindowMemory {
+        id: view
+        host: window
+        memory: window.memory
     }
     Connections {
         target: window.localConfig
@@ -182,7 +126,7 @@ T.ApplicationWindow {
         target: window.memory
 
         function onFailed() {
-            popups.notify(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
+            choices.notifyUnsaved();
         }
     }
     ApplicationExit {
@@ -193,43 +137,40 @@ T.ApplicationWindow {
         host: window
         localConfig: window.localConfig
         popups: popups
-        onLeaving: window.rememberView()
+        onLeaving: view.write(window.currentTab)
     }
-    SearchSettings {
-        id: searchSettings
-        localConfig: window.localConfig
-    }
-    DeviceSearch {
+    WindowSearch {
         id: search
         busyState: window.busyState
         deviceFactory: window.deviceFactory
         knownDevices: window.knownDevices
+        localConfig: window.localConfig
+        popups: popups
         searchReports: window.searchReports
-        onLimited: (rows, leftOut) => popups.showMessage(
-            qsTr("搜索到的设备超过 %1 台，其余 %2 个应答未列入列表。请缩小搜索范围。").arg(rows).arg(leftOut))
+        onUnsaved: choices.notifyUnsaved()
     }
-    LanguageList {
-        id: languageList
-    }
-    Shortcut {
-        enabled: window.batches.running || search.running
-        sequence: "Escape"
-        onActivated: {
-            if (window.batches.running)
-                window.batches.current.stop();
-            else
-                search.stop();
-        }
+    WindowChoices {
+        id: choices
+        colourScheme: window.colourScheme
+        localConfig: window.localConfig
+        popups: popups
     }
     WindowShortcuts {
         currentTab: window.currentTab
+        stoppable: window.batches.running || window.searching
         tabCount: tabBar.tabs.length
         onFindRequested: pages.focusSearch()
         onGalleryRequested: if (window.currentTab === 0) pages.openGallery()
         onHelpRequested: window.localConfig.OpenHelpFile()
-        onSearchRequested: if (!window.searching) window.requestSearch()
-        onSettingsRequested: popups.openSearchSettings(searchSettings.read())
+        onSearchRequested: if (!window.searching) search.request()
+        onSettingsRequested: search.openSettings()
         onSiteReportRequested: popups.openSiteReport(pages.tickedDevices())
+        onStopRequested: {
+            if (window.batches.running)
+                window.batches.current.stop();
+            else
+                window.deviceSearch.stop();
+        }
         onTabRequested: index => window.turnTo(index)
     }
 
@@ -246,16 +187,16 @@ T.ApplicationWindow {
             remark: !window.simulated ? "" : window.demoAccount === "" ? qsTr("演示站点")
                 : qsTr("演示站点：%1").arg(window.demoAccount)
             remarkTip: qsTr("模拟设备，不连接网络。账号为登录设备的用户名和密码；新设备须先初始化。")
-            maximised: window.maximised
+            maximised: frame.maximised
             searching: window.searching
             title: window.title
             version: popups.softwareName + " " + popups.version
             onCloseRequested: applicationExit.requestEnd()
-            onMaximiseRequested: window.maximised ? window.showNormal() : window.showMaximized()
+            onMaximiseRequested: frame.maximised ? window.showNormal() : window.showMaximized()
             onMenuRequested: popups.openMenu(titleBar.menuButton)
             onMinimiseRequested: window.showMinimized()
-            onSearchRequested: if (!window.searching) window.requestSearch()
-            onSettingsRequested: popups.openSearchSettings(searchSettings.read())
+            onSearchRequested: if (!window.searching) search.request()
+            onSettingsRequested: search.openSettings()
         }
         OVTabBar {
             id: tabBar
@@ -293,8 +234,8 @@ T.ApplicationWindow {
             searchReports: window.searchReports
             simulated: window.simulated
             onDemoRequested: applicationExit.requestDemo()
-            onSearchRequested: window.requestSearch()
-            onSettingsRequested: popups.openSearchSettings(searchSettings.read())
+            onSearchRequested: search.request()
+            onSettingsRequested: search.openSettings()
         }
     }
 
@@ -309,18 +250,10 @@ T.ApplicationWindow {
         onSiteDropped: path => popups.openSite(path)
     }
 
-    Rectangle {  // border, as drawn by a window manager for other windows
+    WindowFrame {
+        id: frame
         anchors.fill: parent
-        border.color: Theme.colours.barLine
-        border.width: Theme.line
-        color: Theme.colours.clear
-        visible: !window.maximised
-    }
-
-    OVResizeFrame {
-        anchors.fill: parent
-        active: !window.maximised
-        onResizeRequested: edges => window.startSystemResize(edges)
+        host: window
     }
 
     WindowPopups {
@@ -329,11 +262,11 @@ T.ApplicationWindow {
         busyState: window.busyState
         certificates: window.certificates
         colourChoice: window.colourScheme.choice
-        currentLanguage: window.chosenLanguage
+        currentLanguage: choices.language
         deviceFactory: window.deviceFactory
         fileDialogs: window.fileDialogs
         knownDevices: window.knownDevices
-        languages: languageList.entries
+        languages: choices.languages
         localConfig: window.localConfig
         logoName: window.title
         memory: window.memory
@@ -344,17 +277,13 @@ T.ApplicationWindow {
         softwareName: window.localConfig.getSoftwareName()
         version: window.localConfig.getVersion()
         webPages: window.webPages
-        onColoursChosen: choice => window.chooseColours(choice)
+        onColoursChosen: choice => choices.chooseColours(choice)
         onEndConfirmed: applicationExit.endBatch()
         onHelpRequested: window.localConfig.OpenHelpFile()
-        onLanguageChosen: code => window.chooseLanguage(code)
+        onLanguageChosen: code => choices.chooseLanguage(code)
         onQuestionsRequested: window.localConfig.OpenQAFile()
         onRestartRequested: applicationExit.requestRestart()
         onSiteReportRequested: popups.openSiteReport(pages.tickedDevices())
-        onSettingsAccepted: values => {
-            if (!searchSettings.write(values))
-                popups.notify(qsTr("设置无法保存，请检查程序所在文件夹的写入权限"), OVToast.Error);
-            window.requestSearch();
-        }
+        onSettingsAccepted: values => search.applySettings(values)
     }
 }

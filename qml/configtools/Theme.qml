@@ -6,7 +6,7 @@ import configtools
 QtObject {
     id: theme
 
-    /// Whether `colours` is the dark theme. MainWindow sets it from ColourScheme, which has the choice of the user.
+    /// Whether `colours` is the dark theme. WindowChoices sets it from ColourScheme, which has the choice of the user.
     property bool dark: false
     readonly property ThemeColours colours: dark ? darkColours : lightColours
     readonly property ThemeColours lightColours: ThemeColours {}

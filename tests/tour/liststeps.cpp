@@ -1,8 +1,8 @@
+#include "tests/tour/driver/commonsteps.h"
 #include "tests/tour/driver/driver.h"
 #include "tests/tour/driver/rows.h"
 #include "tests/tour/steps.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
@@ -21,11 +21,6 @@ void expectMessage(const Driver &driver, const QString &expected)
     });
 }
 
-QString translated(const char *message)
-{
-    return QCoreApplication::translate("ModifyIPFiles", message);
-}
-
 void writeList(Driver &driver, const QString &format, const QString &folder)
 {
     driver.click(u"exportButton"_s);
@@ -33,7 +28,8 @@ void writeList(Driver &driver, const QString &format, const QString &folder)
     driver.report(u"export"_s + format, u"the format is chosen"_s);
     driver.click(u"okButton"_s);
     driver.acceptFileBox(folder);
-    expectMessage(driver, translated("导出设备成功\n文件路径:") + folder + u"/device"_s + format);
+    expectMessage(driver,
+                  translated("ModifyIPFiles", "导出设备成功\n文件路径:") + folder + u"/device"_s + format);
     driver.check(QFile::exists(folder + u"/device"_s + format), u"the list is written"_s);
 }
 
@@ -103,6 +99,7 @@ void walkLists(Driver &driver, const QString &folder)
     noList.close();
     readList(driver, noList.fileName());
     expectMessage(driver,
-                  translated("导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！"));
+                  translated("ModifyIPImport",
+                             "导入失败，可能格式不准确、文件内存在重复的MAC地址设备或者文件已经被打开！"));
     driver.report(u"import-refused"_s, u"an invalid file is refused"_s);
 }

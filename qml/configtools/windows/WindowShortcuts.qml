@@ -7,12 +7,14 @@ Item {
 
     required property int tabCount  // number of tabs; Ctrl+1 is the first
     required property int currentTab  // index
+    required property bool stoppable  // a batch or a search runs
     signal searchRequested  // F5: start a search
     signal helpRequested  // F1: open the manual
     signal settingsRequested  // open the search settings
     signal findRequested  // focus the search field
     signal galleryRequested  // open the images of the ticked devices
     signal siteReportRequested
+    signal stopRequested  // Escape: stop the running work
     signal tabRequested(int index)  // show the tab with this index
 
     /// Requests the tab that is `steps` (1 or -1) further; after the last one the first follows.
@@ -20,6 +22,7 @@ Item {
         tabRequested((currentTab + tabCount + steps) % tabCount);
     }
 
+    Shortcut { sequence: "Escape"; enabled: root.stoppable; onActivated: root.stopRequested() }
     Shortcut { sequence: "F5"; onActivated: root.searchRequested() }
     Shortcut { sequence: "F1"; onActivated: root.helpRequested() }
     Shortcut { sequence: "Ctrl+,"; onActivated: root.settingsRequested() }
