@@ -6745,7 +6745,7 @@ Bestand: </translation>
     </message>
     <message>
         <source>验证</source>
-        <translation>Controle</translation>
+        <translation>Controleren</translation>
     </message>
     <message>
         <source>第二步：设置新密码</source>
