@@ -142,6 +142,7 @@ QtObject {
     readonly property int columnMac: 146
     readonly property int columnShortMac: 76
     readonly property int columnVersion: 114
+    readonly property int columnConnection: 128
     readonly property int columnResult: 92
     readonly property int columnResultLeast: 60  // only its icons
     readonly property int columnActions: 168  // minimum; more in languages with longer texts

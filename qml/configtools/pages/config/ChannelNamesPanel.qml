@@ -86,7 +86,7 @@ Item {
         checkable: false
         columns: [
             {key: "num", title: qsTr("通道"), width: Theme.columnShortActions, cell: numberCell},
-            {key: "connected", title: qsTr("连接"), width: Theme.columnVersion, cell: connectionCell},
+            {key: "connected", title: qsTr("连接"), width: Theme.columnConnection, cell: connectionCell},
             {
                 key: "name", title: qsTr("名称"), width: Theme.columnCommand, leastWidth: Theme.columnNameField,
                 mostWidth: Theme.columnMost, stretch: 1, cell: nameCell
