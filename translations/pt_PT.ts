@@ -6107,8 +6107,8 @@ Ficheiro: </translation>
     <message numerus="yes">
         <source>已打开现场“%1”，共 %n 台设备</source>
         <translation>
-            <numerusform>Local «%1» aberto, com %n dispositivo</numerusform>
-            <numerusform>Local «%1» aberto, com %n dispositivos</numerusform>
+            <numerusform>Local “%1” aberto, com %n dispositivo</numerusform>
+            <numerusform>Local “%1” aberto, com %n dispositivos</numerusform>
         </translation>
     </message>
     <message>

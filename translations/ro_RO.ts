@@ -2846,7 +2846,7 @@ Clic dreapta pentru a copia rezultatul</translation>
     </message>
     <message>
         <source>密码8~32位,且至少包含数字、字母和常用字符中的两种(字符为除</source>
-        <translation>8 - 32 de caractere, cu cel puțin două dintre cifre, litere și simboluri (toate caracterele vizibile, cu excepția </translation>
+        <translation>8–32 de caractere, cu cel puțin două dintre cifre, litere și simboluri (toate caracterele vizibile, cu excepția </translation>
     </message>
     <message>
         <source>这五个字符以外的任意可见字符)</source>
@@ -6846,7 +6846,7 @@ Fișier: </translation>
     </message>
     <message>
         <source>密码8~32位,且至少包含数字、字母和常用字符中的两种(字符为除&apos;&quot;:;&amp;这五个字符以外的任意可见字符)</source>
-        <translation>8 - 32 de caractere, cu cel puțin două dintre cifre, litere și simboluri (toate caracterele vizibile, cu excepția &apos;&quot;:;&amp;)</translation>
+        <translation>8–32 de caractere, cu cel puțin două dintre cifre, litere și simboluri (toate caracterele vizibile, cu excepția &apos;&quot;:;&amp;)</translation>
     </message>
     <message>
         <source>修改密码</source>
