@@ -67,6 +67,7 @@ const std::vector<Folder> &folders()
         {"device/forms", {"device/models", "device/registry", "device/store", "sdk"}},
         {"media", {"device/registry", "sdk"}},
         {"sheets", {"files"}},
+        {"secrets", {}},
         {"favourites", {"files"}},
         {"device/batch",
          {"device/accounts", "device/models", "device/registry", "device/store", "files", "sdk", "sheets"}},
