@@ -5,6 +5,7 @@
 #include "app/product.h"
 #include "app/settingsfile.h"
 #include "files/applicationfolders.h"
+#include "secrets/secretvault.h"
 
 #include <QCoreApplication>
 #include <QCursor>
@@ -145,12 +146,47 @@ void CLocalConfig::setSearchConfigUsername(const QString &user)
 
 QString CLocalConfig::getSearchConfigPass() const
 {
-    return value(passKey).toString();
+    const QString inFile = value(passKey).toString();
+    return inFile.isEmpty() && m_vault ? m_vault->value(m_settingsPath) : inFile;
 }
 
 void CLocalConfig::setSearchConfigPass(const QString &pass)
 {
+    if (!m_vault) {
+        setValue(passKey, pass);
+        return;
+    }
+    if (pass == getSearchConfigPass())
+        return;
     setValue(passKey, pass);
+    if (pass.isEmpty())
+        m_vault->remove(m_settingsPath);
+    keepPassword();
+}
+
+void CLocalConfig::setVault(SecretVault &vault)
+{
+    m_vault = &vault;
+    connect(&vault, &SecretVault::loaded, this, [this] {
+        if (value(passKey).toString().isEmpty())
+            m_vault->reportMissing();
+        keepPassword();
+    });
+    connect(&vault, &SecretVault::kept, this, [this](const QString &file, const QString &password) {
+        if (file == m_settingsPath && value(passKey).toString() == password)
+            setValue(passKey, QString());
+    });
+}
+
+bool CLocalConfig::lacksPassword() const
+{
+    return m_vault && m_vault->state() != SecretVault::State::Ready && getSearchConfigPass().isEmpty();
+}
+
+void CLocalConfig::keepPassword()
+{
+    m_vault->keep(
+        {.file = m_settingsPath, .title = tr("默认账号的密码"), .value = value(passKey).toString()});
 }
 
 int CLocalConfig::getSearchConfigLocalDomain() const

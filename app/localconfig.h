@@ -2,12 +2,14 @@
 
 #include <QObject>
 #include <QPoint>
+#include <QPointer>
 #include <QStringList>
 #include <QVariantList>
 
 #include <memory>
 
 class QSharedMemory;
+class SecretVault;
 
 /// The user's local settings, the interface language, the product name, the help documents and the
 /// single-instance lock.
@@ -50,9 +52,17 @@ public:
     /// User name of the default account, which devices without another account use. QML uses this spelling.
     Q_INVOKABLE [[nodiscard]] QString getSearchConfigUsrename() const;
     Q_INVOKABLE void setSearchConfigUsername(const QString &user);
-    /// Password of the default account. The file contains it as plain text.
+    /// Password of the default account. The file contains it as plain text, unless setVault() was called.
     Q_INVOKABLE [[nodiscard]] QString getSearchConfigPass() const;
+    /// With a vault, an empty password removes that of the vault, but only if that could be read.
     Q_INVOKABLE void setSearchConfigPass(const QString &pass);
+
+    /// Moves the password of the default account to `vault`: that of the file when `vault` is loaded, and
+    /// each one that is set later. It leaves the file when the service has confirmed it. A file without a
+    /// password then has that of `vault`. `vault` may be destroyed before this object.
+    void setVault(SecretVault &vault);
+    /// Whether the password is empty because the vault has not been read yet, or cannot be read.
+    [[nodiscard]] bool lacksPassword() const;
     /// 1 if a search includes the networks of this host, 0 if not.
     Q_INVOKABLE [[nodiscard]] int getSearchConfigLocalDomain() const;
     Q_INVOKABLE void setSearchConfigLocalDomain(int check);
@@ -122,6 +132,7 @@ private:
     void setValue(const QString &key, const QString &value) { setValues({{key, value}}); }
     void setValues(const QList<QPair<QString, QString>> &values);
     void writeDefaults();
+    void keepPassword();
     [[nodiscard]] QString translationFile(const QString &code) const;
     void openDocument(const QString &name);
     void restart(const QStringList &arguments);
@@ -129,6 +140,7 @@ private:
     QString m_currentLanguage;
     const QString m_directory;
     const QString m_settingsPath;
+    QPointer<SecretVault> m_vault;                 ///< null: the password stays in the file
     std::unique_ptr<QSharedMemory> m_instanceLock; ///< null unless acquired
     QVariantList m_removedLanguages; ///< indexes of the languageCodes without a translation file
     QStringList m_languageFiles;

@@ -20,6 +20,7 @@
 #include "device/store/devicenotes.h"
 #include "files/applicationfolders.h"
 #include "report/sitereport.h"
+#include "secrets/secretvault.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -44,7 +45,7 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
                     const std::shared_ptr<DeviceStore> &store,
                     const std::shared_ptr<CertificateStore> &certificates,
                     const std::shared_ptr<AccountStore> &accounts, ColourScheme &colourScheme,
-                    const std::shared_ptr<sdk::NetLibrary> &net, const DemoNotice &demo)
+                    const std::shared_ptr<sdk::NetLibrary> &net, const DemoNotice &demo, SecretVault *vault)
 {
     // Shell deletes the singletons, after the engine.
     QQmlContext *context = engine.rootContext();
@@ -95,6 +96,15 @@ void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
                                 new CrashReports(ApplicationFolders::current().crashReports(), &engine));
     context->setContextProperty(QStringLiteral("FileDialogsApi"), new FileDialogs(&engine));
     context->setContextProperty(QStringLiteral("LocalConfigApi"), CLocalConfig::getinstance());
+    context->setContextProperty(QStringLiteral("SecretVaultApi"), vault);
+    if (vault) {
+        // The user has unlocked the service after the first search has begun.
+        QObject::connect(vault, &SecretVault::loaded, accountList, [read = defaults.read] {
+            const DeviceAccount account = read();
+            CDeviceFactory::getinstance()->setDefaultAccount(QStringLiteral("dh"), account.account,
+                                                             account.password);
+        });
+    }
     context->setContextProperty(QStringLiteral("SearchReportsApi"), new SearchReports(net, &engine));
     context->setContextProperty(
         QStringLiteral("WebPagesApi"),

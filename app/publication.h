@@ -11,6 +11,7 @@ class CertificateStore;
 class ColourScheme;
 class DeviceStore;
 class QQmlApplicationEngine;
+class SecretVault;
 
 namespace sdk {
 class NetLibrary;
@@ -33,9 +34,11 @@ struct DemoNotice
 /// Creates the objects that only QML uses; the engine owns them. `batchEngine`, `colourScheme` and the
 /// process-wide objects (CDeviceFactory, CGIConfigManage, CLocalConfig), which this call creates if they are
 /// missing, must outlive the engine. `net` may be null: the window then states that no device library is
-/// installed. From then on a search keeps the rows of `store` whose devices failed in a batch.
+/// installed. `vault` outlives the engine; null: passwords are in the files. From then on a search keeps the
+/// rows of `store` whose devices failed in a batch.
 void publishToScene(QQmlApplicationEngine &engine, BatchEngine &batchEngine,
                     const std::shared_ptr<DeviceStore> &store,
                     const std::shared_ptr<CertificateStore> &certificates,
                     const std::shared_ptr<AccountStore> &accounts, ColourScheme &colourScheme,
-                    const std::shared_ptr<sdk::NetLibrary> &net, const DemoNotice &demo = {});
+                    const std::shared_ptr<sdk::NetLibrary> &net, const DemoNotice &demo = {},
+                    SecretVault *vault = nullptr);

@@ -4,16 +4,22 @@
 #include "app/localconfig.h"
 #include "app/logging.h"
 #include "app/messagebox.h"
+#include "app/product.h"
 #include "app/publication.h"
 #include "app/renderloop.h"
 #include "app/translationfile.h"
 #include "cgi/cgiconfigmanage.h"
 #include "device/registry/devicefactory.h"
+#include "favourites/passwordmove.h"
 #include "files/applicationfolders.h"
 #include "media/audiooutput.h"
 #include "media/freedmemory.h"
 #include "media/videoitem.h"
 #include "sdk/threadpriority.h"
+#include "secrets/secretvault.h"
+#ifdef CONFIGTOOLS_SECRET_SERVICE
+#include "secrets/desktopsecretstore.h"
+#endif
 
 #include <QApplication>
 #include <QFile>
@@ -22,6 +28,7 @@
 #include <QQuickWindow>
 #include <QtQml/QQmlExtensionPlugin>
 
+#include <chrono>
 #include <utility>
 
 Q_IMPORT_QML_PLUGIN(AuthorPlugin)
@@ -63,6 +70,10 @@ Shell::~Shell()
     m_engine.reset();
     AudioOutput::awaitRelease();
     m_colourScheme.reset();
+    if (m_vault)
+        m_vault->finish(); // passwords that the service has stored leave their files
+    m_passwordMove.reset();
+    m_vault.reset();
     CLocalConfig::deleteInstance();
     CGIConfigManage::deleteInstance(); // uses the factory
     CDeviceFactory::deleteInstance();
@@ -83,18 +94,38 @@ std::optional<int> Shell::begin()
         QCoreApplication::exit(0);
         return 0;
     }
+    openVault();
     if (!openDevices())
         return startFailed;
     m_devices.registerBackEnds(
         [] {
             const CLocalConfig &config = *CLocalConfig::getinstance();
             return SearchSettings{.localDomain = config.getSearchConfigLocalDomain() != 0,
-                                  .logsIn = config.searchLogsIn()};
+                                  .logsIn = config.searchLogsIn() && !config.lacksPassword()};
         },
         {.maximumParallel = CLocalConfig::getinstance()->parallelUpgrades()});
     VideoItem::registerLibraries(m_devices.libraries());
+    // The first search needs the password of the default account. A service usually responds in milliseconds,
+    // but may ask the user.
+    constexpr std::chrono::milliseconds longestWait(500);
+    if (m_vault)
+        m_vault->awaitLoaded(longestWait);
     loadQml();
     return std::nullopt;
+}
+
+void Shell::openVault()
+{
+#ifdef CONFIGTOOLS_SECRET_SERVICE
+    // A portable copy keeps passwords in its files, since it moves between hosts.
+    const ApplicationFolders &folders = ApplicationFolders::current();
+    if (folders.isPortable() || m_commandLine.demo)
+        return;
+    m_vault = std::make_unique<SecretVault>(std::make_shared<DesktopSecretStore>(DesktopSecretStore::Options{
+        .product = Product::logoName, .hasBus = !DesktopScheme::sessionBus().isEmpty()}));
+    CLocalConfig::getinstance()->setVault(*m_vault);
+    m_passwordMove = std::make_unique<PasswordMove>(*m_vault, folders.favourites());
+#endif
 }
 
 void Shell::loadTranslators()
@@ -138,7 +169,7 @@ void Shell::loadQml()
                              .account = account ? account->account + QLatin1String(" / ") + account->password
                                                 : QString()};
     publishToScene(*m_engine, *m_devices.batchEngine(), m_devices.deviceStore(), m_devices.certificates(),
-                   m_devices.accounts(), *m_colourScheme, m_devices.libraries().net, demo);
+                   m_devices.accounts(), *m_colourScheme, m_devices.libraries().net, demo, m_vault.get());
     // Responses of a search leave fragmented free memory.
     QObject::connect(CDeviceFactory::getinstance(), &CDeviceFactory::signalSearchDone,
                      CDeviceFactory::getinstance(), &returnFreedMemory);

@@ -11,7 +11,9 @@
 #include <memory>
 #include <optional>
 
+class PasswordMove;
 class QQmlApplicationEngine;
+class SecretVault;
 
 /// Start-up of the application with its window, and clean-up after the event loop, which main() runs.
 /// Requires the application object, except prepareApplication(). Main thread only.
@@ -50,6 +52,7 @@ public:
 
 private:
     void loadTranslators();
+    void openVault();
     [[nodiscard]] bool openDevices();
     void loadQml();
 
@@ -59,5 +62,7 @@ private:
     std::unique_ptr<DesktopScheme> m_desktopScheme;
     std::unique_ptr<ColourScheme> m_colourScheme;
     DeviceSetup m_devices;
+    std::unique_ptr<SecretVault> m_vault;         ///< null: passwords are in the files
+    std::unique_ptr<PasswordMove> m_passwordMove; ///< null without m_vault
     std::unique_ptr<QQmlApplicationEngine> m_engine;
 };

@@ -38,7 +38,7 @@ endfunction()
 set(configtools_languages zh_CN en_US ro_RO JP_US de_DE es_ES fr_FR it_IT nl_NL no_NO pt_PT sv_SV gl_GL ca_CA)
 
 # The folders of the sources with strings of the window.
-set(configtools_string_folders app cgi device favourites gallery media qml report sdk)
+set(configtools_string_folders app cgi device favourites gallery media qml report sdk secrets)
 
 # A template workbook for users, in each language: a build tool writes it into the folder template/ of the application.
 # The file names are translated and so unknown here; a stamp file represents each of them.

@@ -1,8 +1,10 @@
 #include "favourites/author.h"
 
 #include "favourites/aesencryption.h"
+#include "favourites/favouritefile.h"
 #include "favourites/logging.h"
 #include "files/filereplacement.h"
+#include "secrets/secretvault.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -21,6 +23,9 @@ namespace {
 
 // The values of a favourite for QML, in this order.
 constexpr std::array listedKeys = {"type", "addr", "port", "username", "password", "note"};
+constexpr qsizetype passwordIndex = 4;
+
+SecretVault *passwordVault = nullptr;
 
 struct KeyMaterial
 {
@@ -88,46 +93,20 @@ QByteArray objectText(const std::vector<std::pair<const char *, QString>> &entri
     return text + "\n}\n";
 }
 
-/// The contents of a file of the folder, if it may be a favourite.
-std::optional<QByteArray> readFile(const QDir &folder, const QString &name)
-{
-    QFile file(folder.filePath(name));
-    if (!file.open(QIODevice::ReadOnly)) {
-        qCWarning(logFavourites) << "无法打开文件:" << name << "-" << file.errorString();
-        return std::nullopt;
-    }
-    // The size on disk is not used: a file may grow while it is read, and special files have no size.
-    QByteArray text = file.read(CAuthor::maximumFileSize + 1);
-    if (text.size() > CAuthor::maximumFileSize) {
-        qCWarning(logFavourites) << "文件过大:" << name;
-        return std::nullopt;
-    }
-    if (text.isEmpty()) {
-        qCWarning(logFavourites) << "文件为空:" << name;
-        return std::nullopt;
-    }
-    return text;
-}
-
-std::optional<QJsonObject> parseObject(const QByteArray &text, const QString &name)
-{
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(text, &error);
-    if (error.error != QJsonParseError::NoError) {
-        qCWarning(logFavourites) << "JSON解析错误 (" << name << "):" << error.errorString() << "at offset"
-                                 << error.offset;
-        return std::nullopt;
-    }
-    if (!document.isObject()) {
-        qCWarning(logFavourites) << "JSON根元素不是对象:" << name;
-        return std::nullopt;
-    }
-    return document.object();
-}
-
 } // namespace
 
 CAuthor::CAuthor(QObject *parent) : QObject(parent) {}
+
+void CAuthor::setVault(SecretVault *vault)
+{
+    passwordVault = vault;
+}
+
+QString CAuthor::vaultCipher(const QString &path) const
+{
+    const QString password = passwordVault ? passwordVault->value(secretFileOf(path)) : QString();
+    return password.isEmpty() ? QString() : AesEncrypt(password);
+}
 
 QString CAuthor::AesEncrypt(const QString &input) const
 {
@@ -154,17 +133,19 @@ void CAuthor::saveTextAsJson(const QString &inputPath, const QString &type, cons
         return;
     }
 
+    const QString file = QDir(folder).filePath(fileNameFor(addr, port));
+    // A file with a password is newer than the vault.
+    const bool isInVault = password == vaultCipher(file) && QFile::exists(file) && cipherIn(file).isEmpty();
     const QByteArray text = objectText({
         {"type", type},
         {"addr", addr},
         {"port", port},
         {"username", username},
-        {"password", password},
+        {"password", isInVault ? QString() : password},
         {"note", note},
         {"created", QDateTime::currentDateTime().toString(Qt::ISODate)},
         {"original_path", inputPath},
     });
-    const QString file = QDir(folder).filePath(fileNameFor(addr, port));
     const QString failure = replaceFile(file, text, FileReaders::Owner);
     if (!failure.isEmpty()) {
         qCWarning(logFavourites) << "无法打开文件:" << file << "-" << failure;
@@ -173,6 +154,11 @@ void CAuthor::saveTextAsJson(const QString &inputPath, const QString &type, cons
     qCDebug(logFavourites) << "文件已保存到:" << file;
     qCDebug(logFavourites) << "原始输入路径:" << inputPath;
     qCDebug(logFavourites) << "清理后路径:" << path;
+    if (passwordVault && !isInVault && !password.isEmpty()) {
+        passwordVault->keep({.file = secretFileOf(file),
+                             .title = addr + QLatin1Char(':') + port,
+                             .value = AesDecrypt(password)});
+    }
 }
 
 QVariantMap CAuthor::readJsonFilesFromFolder(const QString &folderPath) const
@@ -194,13 +180,14 @@ QVariantMap CAuthor::readJsonFilesFromFolder(const QString &folderPath) const
     QVariantMap favourites;
     for (const QString &name : names) {
         qCDebug(logFavourites) << "处理文件:" << name;
-        const std::optional<QByteArray> text = readFile(folder, name);
-        const std::optional<QJsonObject> favourite = text ? parseObject(*text, name) : std::nullopt;
+        const std::optional<QJsonObject> favourite = readFavourite(folder.filePath(name));
         if (!favourite)
             continue;
         QStringList values;
         for (const char *key : listedKeys)
             values.append(favourite->value(QLatin1String(key)).toString());
+        if (values.at(passwordIndex).isEmpty())
+            values.replace(passwordIndex, vaultCipher(folder.filePath(name)));
         favourites.insert(name, values);
     }
     return favourites;
@@ -212,5 +199,10 @@ bool CAuthor::deleteFile(const QString &filePath) const
     if (!QFile::exists(path))
         return false;
     qCDebug(logFavourites) << "删除";
-    return QFile::remove(path);
+    const bool isInVault = passwordVault && cipherIn(path).isEmpty();
+    if (!QFile::remove(path))
+        return false;
+    if (passwordVault && (isInVault || passwordVault->state() != SecretVault::State::Unavailable))
+        passwordVault->remove(secretFileOf(path));
+    return true;
 }

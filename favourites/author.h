@@ -4,21 +4,25 @@
 #include <QVariantMap>
 #include <QtQml/qqmlregistration.h>
 
+class SecretVault;
+
 /// Favourites, the devices that the user has saved: a folder with one JSON file for each of them, with an
 /// encrypted password. Also has the encryption of stored passwords. Its key is part of the application, so it
 /// protects against casual reading, not against a user of the application.
 ///
 /// Paths may be "file:///" URLs. File errors are logged and not shown to the user; no password reaches the
-/// log. The object is stateless; operations access the disk on the caller's thread, which may be any.
+/// log. The object is stateless; operations access the disk on the caller's thread, which may be any, but is
+/// the main thread while setVault() is in use.
 class CAuthor : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
 public:
-    /// In bytes. Longer files are not favourites and are ignored.
-    static constexpr qint64 maximumFileSize = 1'048'576;
-
     explicit CAuthor(QObject *parent = nullptr);
+
+    /// Moves the passwords of favourites that are saved from now on to `vault`, for all objects; null: they
+    /// stay in the files. A file without a password then has that of `vault`. `vault` must outlive its use.
+    static void setVault(SecretVault *vault);
 
     /// The cipher text of a password, in Base64.
     Q_INVOKABLE [[nodiscard]] QString AesEncrypt(const QString &input) const;
@@ -31,8 +35,9 @@ public:
     /// missing. An existing file of the device is replaced. When the file cannot be written completely, the
     /// existing file is unchanged, and a warning is logged: the caller is not informed. An empty path writes
     /// nothing. `type` is "0" for a device at an address, "1" for a device behind NAT, whose `addr` is its
-    /// identifier. `password` is written as given: the caller passes the result of AesEncrypt(). The file
-    /// also contains the current time and `inputPath`.
+    /// identifier. `password` is written as given: the caller passes the result of AesEncrypt(). It is not
+    /// written if the file has no password and the vault has this one. The file also contains the current
+    /// time and `inputPath`.
     ///
     /// The file name consists of the address and the port. Characters that would lead out of the folder or
     /// hide the file from the list are written as "%" and two hexadecimal digits: the identifier of a device
@@ -47,6 +52,10 @@ public:
     /// the folder is missing.
     Q_INVOKABLE [[nodiscard]] QVariantMap readJsonFilesFromFolder(const QString &folderPath) const;
 
-    /// Deletes the file of a favourite. True when the file existed and is deleted.
+    /// Deletes the file of a favourite, and its password in the vault. True when the file existed and is
+    /// deleted.
     Q_INVOKABLE bool deleteFile(const QString &filePath) const;
+
+private:
+    [[nodiscard]] QString vaultCipher(const QString &path) const; ///< empty if the vault has no password
 };

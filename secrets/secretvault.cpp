@@ -31,15 +31,28 @@ SecretVault::SecretVault(std::shared_ptr<SecretStore> store, QObject *parent)
 
 SecretVault::~SecretVault()
 {
+    finish();
+}
+
+void SecretVault::finish()
+{
+    if (!m_thread)
+        return;
     if (m_state == State::Loading)
         m_store->interrupt();
     // After the calls that wait.
     QMetaObject::invokeMethod(m_worker, [thread = m_thread.get()] { thread->quit(); });
-    if (m_thread->wait(longestEnd))
-        return;
-    m_store->interrupt();
-    if (!m_thread->wait(longestInterruption))
+    bool hasEnded = m_thread->wait(longestEnd);
+    if (!hasEnded) {
+        m_store->interrupt();
+        hasEnded = m_thread->wait(longestInterruption);
+    }
+    if (hasEnded)
+        m_thread.reset();
+    else
         static_cast<void>(m_thread.release()); // a thread must not be destroyed while it runs
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+    m_state = State::Unavailable;
 }
 
 void SecretVault::awaitLoaded(std::chrono::milliseconds limit)

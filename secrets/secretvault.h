@@ -41,9 +41,12 @@ public:
     /// Starts to read the passwords. `store` must not be null.
     explicit SecretVault(std::shared_ptr<SecretStore> store, QObject *parent = nullptr);
 
-    /// Waits until the service has done the work of earlier calls, up to two seconds. Work that has not begun
-    /// is then given up.
+    /// Calls finish().
     ~SecretVault() override;
+
+    /// Waits until the service has done the work of earlier calls, up to two seconds, and emits the signals
+    /// of that work. Other work is given up. Called at the end of the application; later calls do nothing.
+    void finish();
 
     [[nodiscard]] State state() const { return m_state; }
     [[nodiscard]] QString problem() const { return m_problem; }
@@ -79,8 +82,8 @@ private:
 
     const std::shared_ptr<SecretStore> m_store;
     const std::shared_ptr<QSemaphore> m_loadings; ///< released when the worker has read the passwords
-    std::unique_ptr<QThread> m_thread;
-    SecretWorker *m_worker; ///< lives on m_thread, which deletes it
+    std::unique_ptr<QThread> m_thread;            ///< null after finish()
+    SecretWorker *m_worker;                       ///< lives on m_thread, which deletes it
     State m_state = State::Loading;
     QHash<QString, QString> m_values; ///< by file
     SecretProblem m_loadingProblem;

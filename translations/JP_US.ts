@@ -920,6 +920,13 @@
     </message>
 </context>
 <context>
+    <name>CLocalConfig</name>
+    <message>
+        <source>默认账号的密码</source>
+        <translation>既定のアカウントのパスワード</translation>
+    </message>
+</context>
+<context>
     <name>CameraOptions</name>
     <message>
         <source>室外</source>
@@ -5971,6 +5978,40 @@
     <message>
         <source>读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。</source>
         <translation>型番、バージョン、MACアドレスを読み込みます。このアカウントはすべてのデバイスに送信されます。パスワードが違ったデバイスには再試行しません。</translation>
+    </message>
+</context>
+<context>
+    <name>SecretProblem</name>
+    <message>
+        <source>没有密钥服务</source>
+        <translation>キーリングサービスがありません</translation>
+    </message>
+    <message>
+        <source>密钥服务已锁定</source>
+        <translation>キーリングサービスがロックされています</translation>
+    </message>
+    <message>
+        <source>密钥服务没有响应</source>
+        <translation>キーリングサービスが応答しません</translation>
+    </message>
+</context>
+<context>
+    <name>SecretVault</name>
+    <message>
+        <source>部分密码保存在桌面的密钥服务中，目前无法读取（%1）。请重新输入密码</source>
+        <translation>一部のパスワードはデスクトップのキーリングサービスにあり、読み取れません（%1）。もう一度入力してください。</translation>
+    </message>
+    <message>
+        <source>无法使用桌面的密钥服务（%1）。密码保存在文件中</source>
+        <translation>デスクトップのキーリングサービスを使用できません（%1）。パスワードはファイルに保存されます。</translation>
+    </message>
+    <message>
+        <source>密码无法存入桌面的密钥服务（%1），保存在文件中</source>
+        <translation>パスワードをデスクトップのキーリングサービスに保存できませんでした（%1）。ファイルに保存されます。</translation>
+    </message>
+    <message>
+        <source>密码无法从桌面的密钥服务中删除（%1），请在系统的密钥管理程序中删除</source>
+        <translation>パスワードをデスクトップのキーリングサービスから削除できませんでした（%1）。システムの鍵管理プログラムで削除してください。</translation>
     </message>
 </context>
 <context>

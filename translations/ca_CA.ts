@@ -945,6 +945,13 @@
     </message>
 </context>
 <context>
+    <name>CLocalConfig</name>
+    <message>
+        <source>默认账号的密码</source>
+        <translation>contrasenya del compte predeterminat</translation>
+    </message>
+</context>
+<context>
     <name>CameraOptions</name>
     <message>
         <source>室外</source>
@@ -6050,6 +6057,40 @@ Fitxer: </translation>
     <message>
         <source>读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。</source>
         <translation>Llegeix el model, la versió i l’adreça MAC. Tots els dispositius reben aquest compte. Després d’una contrasenya incorrecta, el dispositiu no es torna a provar.</translation>
+    </message>
+</context>
+<context>
+    <name>SecretProblem</name>
+    <message>
+        <source>没有密钥服务</source>
+        <translation>no hi ha cap servei de claus</translation>
+    </message>
+    <message>
+        <source>密钥服务已锁定</source>
+        <translation>el servei de claus està bloquejat</translation>
+    </message>
+    <message>
+        <source>密钥服务没有响应</source>
+        <translation>el servei de claus no respon</translation>
+    </message>
+</context>
+<context>
+    <name>SecretVault</name>
+    <message>
+        <source>部分密码保存在桌面的密钥服务中，目前无法读取（%1）。请重新输入密码</source>
+        <translation>Algunes contrasenyes són al servei de claus de l’escriptori i no es poden llegir (%1). Introduïu-les de nou.</translation>
+    </message>
+    <message>
+        <source>无法使用桌面的密钥服务（%1）。密码保存在文件中</source>
+        <translation>No es pot fer servir el servei de claus de l’escriptori (%1). Les contrasenyes es desen en fitxers.</translation>
+    </message>
+    <message>
+        <source>密码无法存入桌面的密钥服务（%1），保存在文件中</source>
+        <translation>No s’ha pogut desar la contrasenya al servei de claus de l’escriptori (%1). Es desa en un fitxer.</translation>
+    </message>
+    <message>
+        <source>密码无法从桌面的密钥服务中删除（%1），请在系统的密钥管理程序中删除</source>
+        <translation>No s’ha pogut eliminar la contrasenya del servei de claus de l’escriptori (%1). Elimineu-la al gestor de claus del sistema.</translation>
     </message>
 </context>
 <context>

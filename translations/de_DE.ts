@@ -945,6 +945,13 @@
     </message>
 </context>
 <context>
+    <name>CLocalConfig</name>
+    <message>
+        <source>默认账号的密码</source>
+        <translation>Passwort des Standardkontos</translation>
+    </message>
+</context>
+<context>
     <name>CameraOptions</name>
     <message>
         <source>室外</source>
@@ -6050,6 +6057,40 @@ Datei: </translation>
     <message>
         <source>读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。</source>
         <translation>Liest Modell, Version und MAC-Adresse. Jedes Gerät erhält dieses Konto. Nach einem falschen Passwort wird ein Gerät nicht erneut versucht.</translation>
+    </message>
+</context>
+<context>
+    <name>SecretProblem</name>
+    <message>
+        <source>没有密钥服务</source>
+        <translation>es gibt keinen Schlüsselbunddienst</translation>
+    </message>
+    <message>
+        <source>密钥服务已锁定</source>
+        <translation>der Schlüsselbunddienst ist gesperrt</translation>
+    </message>
+    <message>
+        <source>密钥服务没有响应</source>
+        <translation>der Schlüsselbunddienst antwortet nicht</translation>
+    </message>
+</context>
+<context>
+    <name>SecretVault</name>
+    <message>
+        <source>部分密码保存在桌面的密钥服务中，目前无法读取（%1）。请重新输入密码</source>
+        <translation>Einige Passwörter sind im Schlüsselbunddienst des Desktops und können nicht gelesen werden (%1). Geben Sie sie erneut ein.</translation>
+    </message>
+    <message>
+        <source>无法使用桌面的密钥服务（%1）。密码保存在文件中</source>
+        <translation>Der Schlüsselbunddienst des Desktops kann nicht verwendet werden (%1). Passwörter werden in Dateien gespeichert.</translation>
+    </message>
+    <message>
+        <source>密码无法存入桌面的密钥服务（%1），保存在文件中</source>
+        <translation>Das Passwort konnte nicht im Schlüsselbunddienst des Desktops gespeichert werden (%1). Es wird in einer Datei gespeichert.</translation>
+    </message>
+    <message>
+        <source>密码无法从桌面的密钥服务中删除（%1），请在系统的密钥管理程序中删除</source>
+        <translation>Das Passwort konnte nicht aus dem Schlüsselbunddienst des Desktops entfernt werden (%1). Entfernen Sie es in der Schlüsselverwaltung des Systems.</translation>
     </message>
 </context>
 <context>

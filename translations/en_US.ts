@@ -945,6 +945,13 @@
     </message>
 </context>
 <context>
+    <name>CLocalConfig</name>
+    <message>
+        <source>默认账号的密码</source>
+        <translation>password of the default account</translation>
+    </message>
+</context>
+<context>
     <name>CameraOptions</name>
     <message>
         <source>室外</source>
@@ -6050,6 +6057,40 @@ File: </translation>
     <message>
         <source>读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。</source>
         <translation>Reads the model, version and MAC address. Every device receives this account. After a wrong password, a device is not tried again.</translation>
+    </message>
+</context>
+<context>
+    <name>SecretProblem</name>
+    <message>
+        <source>没有密钥服务</source>
+        <translation>there is no secret service</translation>
+    </message>
+    <message>
+        <source>密钥服务已锁定</source>
+        <translation>the secret service is locked</translation>
+    </message>
+    <message>
+        <source>密钥服务没有响应</source>
+        <translation>the secret service does not respond</translation>
+    </message>
+</context>
+<context>
+    <name>SecretVault</name>
+    <message>
+        <source>部分密码保存在桌面的密钥服务中，目前无法读取（%1）。请重新输入密码</source>
+        <translation>Some passwords are in the secret service of the desktop and cannot be read (%1). Enter them again.</translation>
+    </message>
+    <message>
+        <source>无法使用桌面的密钥服务（%1）。密码保存在文件中</source>
+        <translation>The secret service of the desktop cannot be used (%1). Passwords are stored in files.</translation>
+    </message>
+    <message>
+        <source>密码无法存入桌面的密钥服务（%1），保存在文件中</source>
+        <translation>The password could not be stored in the secret service of the desktop (%1). It is stored in a file.</translation>
+    </message>
+    <message>
+        <source>密码无法从桌面的密钥服务中删除（%1），请在系统的密钥管理程序中删除</source>
+        <translation>The password could not be removed from the secret service of the desktop (%1). Remove it in the key manager of the system.</translation>
     </message>
 </context>
 <context>

@@ -945,6 +945,13 @@
     </message>
 </context>
 <context>
+    <name>CLocalConfig</name>
+    <message>
+        <source>默认账号的密码</source>
+        <translation>contraseña de la cuenta predeterminada</translation>
+    </message>
+</context>
+<context>
     <name>CameraOptions</name>
     <message>
         <source>室外</source>
@@ -6050,6 +6057,40 @@ Archivo: </translation>
     <message>
         <source>读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。</source>
         <translation>Lee el modelo, la versión y la dirección MAC. Cada dispositivo recibe esta cuenta. Tras una contraseña incorrecta, no se vuelve a probar el dispositivo.</translation>
+    </message>
+</context>
+<context>
+    <name>SecretProblem</name>
+    <message>
+        <source>没有密钥服务</source>
+        <translation>no hay servicio de claves</translation>
+    </message>
+    <message>
+        <source>密钥服务已锁定</source>
+        <translation>el servicio de claves está bloqueado</translation>
+    </message>
+    <message>
+        <source>密钥服务没有响应</source>
+        <translation>el servicio de claves no responde</translation>
+    </message>
+</context>
+<context>
+    <name>SecretVault</name>
+    <message>
+        <source>部分密码保存在桌面的密钥服务中，目前无法读取（%1）。请重新输入密码</source>
+        <translation>Algunas contraseñas están en el servicio de claves del escritorio y no se pueden leer (%1). Introdúzcalas de nuevo.</translation>
+    </message>
+    <message>
+        <source>无法使用桌面的密钥服务（%1）。密码保存在文件中</source>
+        <translation>No se puede usar el servicio de claves del escritorio (%1). Las contraseñas se guardan en archivos.</translation>
+    </message>
+    <message>
+        <source>密码无法存入桌面的密钥服务（%1），保存在文件中</source>
+        <translation>No se pudo guardar la contraseña en el servicio de claves del escritorio (%1). Se guarda en un archivo.</translation>
+    </message>
+    <message>
+        <source>密码无法从桌面的密钥服务中删除（%1），请在系统的密钥管理程序中删除</source>
+        <translation>No se pudo eliminar la contraseña del servicio de claves del escritorio (%1). Elimínela en el gestor de claves del sistema.</translation>
     </message>
 </context>
 <context>

@@ -945,6 +945,13 @@
     </message>
 </context>
 <context>
+    <name>CLocalConfig</name>
+    <message>
+        <source>默认账号的密码</source>
+        <translation>mot de passe du compte par défaut</translation>
+    </message>
+</context>
+<context>
     <name>CameraOptions</name>
     <message>
         <source>室外</source>
@@ -6050,6 +6057,40 @@ Fichier&#xa0;: </translation>
     <message>
         <source>读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。</source>
         <translation>Lit le modèle, la version et l&apos;adresse MAC. Chaque appareil reçoit ce compte. Après un mot de passe incorrect, un appareil n&apos;est pas réessayé.</translation>
+    </message>
+</context>
+<context>
+    <name>SecretProblem</name>
+    <message>
+        <source>没有密钥服务</source>
+        <translation>il n’y a pas de service de trousseau</translation>
+    </message>
+    <message>
+        <source>密钥服务已锁定</source>
+        <translation>le service de trousseau est verrouillé</translation>
+    </message>
+    <message>
+        <source>密钥服务没有响应</source>
+        <translation>le service de trousseau ne répond pas</translation>
+    </message>
+</context>
+<context>
+    <name>SecretVault</name>
+    <message>
+        <source>部分密码保存在桌面的密钥服务中，目前无法读取（%1）。请重新输入密码</source>
+        <translation>Certains mots de passe sont dans le service de trousseau du bureau et ne peuvent pas être lus (%1). Saisissez-les à nouveau.</translation>
+    </message>
+    <message>
+        <source>无法使用桌面的密钥服务（%1）。密码保存在文件中</source>
+        <translation>Le service de trousseau du bureau ne peut pas être utilisé (%1). Les mots de passe sont enregistrés dans des fichiers.</translation>
+    </message>
+    <message>
+        <source>密码无法存入桌面的密钥服务（%1），保存在文件中</source>
+        <translation>Le mot de passe n’a pas pu être enregistré dans le service de trousseau du bureau (%1). Il est enregistré dans un fichier.</translation>
+    </message>
+    <message>
+        <source>密码无法从桌面的密钥服务中删除（%1），请在系统的密钥管理程序中删除</source>
+        <translation>Le mot de passe n’a pas pu être supprimé du service de trousseau du bureau (%1). Supprimez-le dans le gestionnaire de clés du système.</translation>
     </message>
 </context>
 <context>

@@ -945,6 +945,13 @@
     </message>
 </context>
 <context>
+    <name>CLocalConfig</name>
+    <message>
+        <source>默认账号的密码</source>
+        <translation>contrasinal da conta predeterminada</translation>
+    </message>
+</context>
+<context>
     <name>CameraOptions</name>
     <message>
         <source>室外</source>
@@ -6050,6 +6057,40 @@ Ficheiro: </translation>
     <message>
         <source>读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。</source>
         <translation>Le o modelo, a versión e o enderezo MAC. Todos os dispositivos reciben esta conta. Despois dun contrasinal incorrecto, o dispositivo non se proba de novo.</translation>
+    </message>
+</context>
+<context>
+    <name>SecretProblem</name>
+    <message>
+        <source>没有密钥服务</source>
+        <translation>non hai servizo de chaves</translation>
+    </message>
+    <message>
+        <source>密钥服务已锁定</source>
+        <translation>o servizo de chaves está bloqueado</translation>
+    </message>
+    <message>
+        <source>密钥服务没有响应</source>
+        <translation>o servizo de chaves non responde</translation>
+    </message>
+</context>
+<context>
+    <name>SecretVault</name>
+    <message>
+        <source>部分密码保存在桌面的密钥服务中，目前无法读取（%1）。请重新输入密码</source>
+        <translation>Algúns contrasinais están no servizo de chaves do escritorio e non se poden ler (%1). Introdúzaos de novo.</translation>
+    </message>
+    <message>
+        <source>无法使用桌面的密钥服务（%1）。密码保存在文件中</source>
+        <translation>Non se pode usar o servizo de chaves do escritorio (%1). Os contrasinais gárdanse en ficheiros.</translation>
+    </message>
+    <message>
+        <source>密码无法存入桌面的密钥服务（%1），保存在文件中</source>
+        <translation>Non se puido gardar o contrasinal no servizo de chaves do escritorio (%1). Gárdase nun ficheiro.</translation>
+    </message>
+    <message>
+        <source>密码无法从桌面的密钥服务中删除（%1），请在系统的密钥管理程序中删除</source>
+        <translation>Non se puido eliminar o contrasinal do servizo de chaves do escritorio (%1). Elimíneo no xestor de chaves do sistema.</translation>
     </message>
 </context>
 <context>

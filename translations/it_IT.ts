@@ -945,6 +945,13 @@
     </message>
 </context>
 <context>
+    <name>CLocalConfig</name>
+    <message>
+        <source>默认账号的密码</source>
+        <translation>password dell’account predefinito</translation>
+    </message>
+</context>
+<context>
     <name>CameraOptions</name>
     <message>
         <source>室外</source>
@@ -6050,6 +6057,40 @@ File: </translation>
     <message>
         <source>读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。</source>
         <translation>Legge modello, versione e indirizzo MAC. Ogni dispositivo riceve questo account. Dopo una password errata, un dispositivo non viene riprovato.</translation>
+    </message>
+</context>
+<context>
+    <name>SecretProblem</name>
+    <message>
+        <source>没有密钥服务</source>
+        <translation>non c’è un servizio portachiavi</translation>
+    </message>
+    <message>
+        <source>密钥服务已锁定</source>
+        <translation>il servizio portachiavi è bloccato</translation>
+    </message>
+    <message>
+        <source>密钥服务没有响应</source>
+        <translation>il servizio portachiavi non risponde</translation>
+    </message>
+</context>
+<context>
+    <name>SecretVault</name>
+    <message>
+        <source>部分密码保存在桌面的密钥服务中，目前无法读取（%1）。请重新输入密码</source>
+        <translation>Alcune password sono nel servizio portachiavi del desktop e non possono essere lette (%1). Inserirle di nuovo.</translation>
+    </message>
+    <message>
+        <source>无法使用桌面的密钥服务（%1）。密码保存在文件中</source>
+        <translation>Il servizio portachiavi del desktop non può essere usato (%1). Le password vengono salvate in file.</translation>
+    </message>
+    <message>
+        <source>密码无法存入桌面的密钥服务（%1），保存在文件中</source>
+        <translation>Impossibile salvare la password nel servizio portachiavi del desktop (%1). Viene salvata in un file.</translation>
+    </message>
+    <message>
+        <source>密码无法从桌面的密钥服务中删除（%1），请在系统的密钥管理程序中删除</source>
+        <translation>Impossibile rimuovere la password dal servizio portachiavi del desktop (%1). Rimuoverla nel gestore delle chiavi del sistema.</translation>
     </message>
 </context>
 <context>

@@ -945,6 +945,13 @@
     </message>
 </context>
 <context>
+    <name>CLocalConfig</name>
+    <message>
+        <source>默认账号的密码</source>
+        <translation>wachtwoord van het standaardaccount</translation>
+    </message>
+</context>
+<context>
     <name>CameraOptions</name>
     <message>
         <source>室外</source>
@@ -6050,6 +6057,40 @@ Bestand: </translation>
     <message>
         <source>读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。</source>
         <translation>Leest model, versie en MAC-adres. Elk apparaat ontvangt dit account. Na een onjuist wachtwoord wordt een apparaat niet opnieuw geprobeerd.</translation>
+    </message>
+</context>
+<context>
+    <name>SecretProblem</name>
+    <message>
+        <source>没有密钥服务</source>
+        <translation>er is geen sleutelbosdienst</translation>
+    </message>
+    <message>
+        <source>密钥服务已锁定</source>
+        <translation>de sleutelbosdienst is vergrendeld</translation>
+    </message>
+    <message>
+        <source>密钥服务没有响应</source>
+        <translation>de sleutelbosdienst reageert niet</translation>
+    </message>
+</context>
+<context>
+    <name>SecretVault</name>
+    <message>
+        <source>部分密码保存在桌面的密钥服务中，目前无法读取（%1）。请重新输入密码</source>
+        <translation>Sommige wachtwoorden staan in de sleutelbosdienst van het bureaublad en kunnen niet worden gelezen (%1). Voer ze opnieuw in.</translation>
+    </message>
+    <message>
+        <source>无法使用桌面的密钥服务（%1）。密码保存在文件中</source>
+        <translation>De sleutelbosdienst van het bureaublad kan niet worden gebruikt (%1). Wachtwoorden worden in bestanden opgeslagen.</translation>
+    </message>
+    <message>
+        <source>密码无法存入桌面的密钥服务（%1），保存在文件中</source>
+        <translation>Het wachtwoord kon niet in de sleutelbosdienst van het bureaublad worden opgeslagen (%1). Het wordt in een bestand opgeslagen.</translation>
+    </message>
+    <message>
+        <source>密码无法从桌面的密钥服务中删除（%1），请在系统的密钥管理程序中删除</source>
+        <translation>Het wachtwoord kon niet uit de sleutelbosdienst van het bureaublad worden verwijderd (%1). Verwijder het in het sleutelbeheer van het systeem.</translation>
     </message>
 </context>
 <context>

@@ -945,6 +945,13 @@
     </message>
 </context>
 <context>
+    <name>CLocalConfig</name>
+    <message>
+        <source>默认账号的密码</source>
+        <translation>passord for standardkontoen</translation>
+    </message>
+</context>
+<context>
     <name>CameraOptions</name>
     <message>
         <source>室外</source>
@@ -6050,6 +6057,40 @@ Fil: </translation>
     <message>
         <source>读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。</source>
         <translation>Leser modell, versjon og MAC-adresse. Hver enhet mottar denne kontoen. Etter feil passord prøves ikke en enhet igjen.</translation>
+    </message>
+</context>
+<context>
+    <name>SecretProblem</name>
+    <message>
+        <source>没有密钥服务</source>
+        <translation>det finnes ingen nøkkelringtjeneste</translation>
+    </message>
+    <message>
+        <source>密钥服务已锁定</source>
+        <translation>nøkkelringtjenesten er låst</translation>
+    </message>
+    <message>
+        <source>密钥服务没有响应</source>
+        <translation>nøkkelringtjenesten svarer ikke</translation>
+    </message>
+</context>
+<context>
+    <name>SecretVault</name>
+    <message>
+        <source>部分密码保存在桌面的密钥服务中，目前无法读取（%1）。请重新输入密码</source>
+        <translation>Noen passord er i skrivebordets nøkkelringtjeneste og kan ikke leses (%1). Skriv dem inn på nytt.</translation>
+    </message>
+    <message>
+        <source>无法使用桌面的密钥服务（%1）。密码保存在文件中</source>
+        <translation>Skrivebordets nøkkelringtjeneste kan ikke brukes (%1). Passord lagres i filer.</translation>
+    </message>
+    <message>
+        <source>密码无法存入桌面的密钥服务（%1），保存在文件中</source>
+        <translation>Passordet kunne ikke lagres i skrivebordets nøkkelringtjeneste (%1). Det lagres i en fil.</translation>
+    </message>
+    <message>
+        <source>密码无法从桌面的密钥服务中删除（%1），请在系统的密钥管理程序中删除</source>
+        <translation>Passordet kunne ikke fjernes fra skrivebordets nøkkelringtjeneste (%1). Fjern det i systemets nøkkelbehandling.</translation>
     </message>
 </context>
 <context>

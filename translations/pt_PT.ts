@@ -945,6 +945,13 @@
     </message>
 </context>
 <context>
+    <name>CLocalConfig</name>
+    <message>
+        <source>默认账号的密码</source>
+        <translation>palavra-passe da conta predefinida</translation>
+    </message>
+</context>
+<context>
     <name>CameraOptions</name>
     <message>
         <source>室外</source>
@@ -6050,6 +6057,40 @@ Ficheiro: </translation>
     <message>
         <source>读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。</source>
         <translation>Lê o modelo, a versão e o endereço MAC. Cada dispositivo recebe esta conta. Depois de uma palavra-passe incorreta, um dispositivo não é tentado novamente.</translation>
+    </message>
+</context>
+<context>
+    <name>SecretProblem</name>
+    <message>
+        <source>没有密钥服务</source>
+        <translation>não há serviço de chaves</translation>
+    </message>
+    <message>
+        <source>密钥服务已锁定</source>
+        <translation>o serviço de chaves está bloqueado</translation>
+    </message>
+    <message>
+        <source>密钥服务没有响应</source>
+        <translation>o serviço de chaves não responde</translation>
+    </message>
+</context>
+<context>
+    <name>SecretVault</name>
+    <message>
+        <source>部分密码保存在桌面的密钥服务中，目前无法读取（%1）。请重新输入密码</source>
+        <translation>Algumas palavras-passe estão no serviço de chaves do ambiente de trabalho e não podem ser lidas (%1). Introduza-as novamente.</translation>
+    </message>
+    <message>
+        <source>无法使用桌面的密钥服务（%1）。密码保存在文件中</source>
+        <translation>Não é possível usar o serviço de chaves do ambiente de trabalho (%1). As palavras-passe são guardadas em ficheiros.</translation>
+    </message>
+    <message>
+        <source>密码无法存入桌面的密钥服务（%1），保存在文件中</source>
+        <translation>Não foi possível guardar a palavra-passe no serviço de chaves do ambiente de trabalho (%1). É guardada num ficheiro.</translation>
+    </message>
+    <message>
+        <source>密码无法从桌面的密钥服务中删除（%1），请在系统的密钥管理程序中删除</source>
+        <translation>Não foi possível remover a palavra-passe do serviço de chaves do ambiente de trabalho (%1). Remova-a no gestor de chaves do sistema.</translation>
     </message>
 </context>
 <context>

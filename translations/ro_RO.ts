@@ -970,6 +970,13 @@
     </message>
 </context>
 <context>
+    <name>CLocalConfig</name>
+    <message>
+        <source>默认账号的密码</source>
+        <translation>parola contului implicit</translation>
+    </message>
+</context>
+<context>
     <name>CameraOptions</name>
     <message>
         <source>室外</source>
@@ -6129,6 +6136,40 @@ Fișier: </translation>
     <message>
         <source>读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。</source>
         <translation>Citește modelul, versiunea și adresa MAC. Fiecare dispozitiv primește acest cont. După o parolă greșită, dispozitivul nu se mai încearcă.</translation>
+    </message>
+</context>
+<context>
+    <name>SecretProblem</name>
+    <message>
+        <source>没有密钥服务</source>
+        <translation>nu există niciun serviciu de chei</translation>
+    </message>
+    <message>
+        <source>密钥服务已锁定</source>
+        <translation>serviciul de chei este blocat</translation>
+    </message>
+    <message>
+        <source>密钥服务没有响应</source>
+        <translation>serviciul de chei nu răspunde</translation>
+    </message>
+</context>
+<context>
+    <name>SecretVault</name>
+    <message>
+        <source>部分密码保存在桌面的密钥服务中，目前无法读取（%1）。请重新输入密码</source>
+        <translation>Unele parole se află în serviciul de chei al desktopului și nu pot fi citite (%1). Introduceți-le din nou.</translation>
+    </message>
+    <message>
+        <source>无法使用桌面的密钥服务（%1）。密码保存在文件中</source>
+        <translation>Serviciul de chei al desktopului nu poate fi folosit (%1). Parolele sunt salvate în fișiere.</translation>
+    </message>
+    <message>
+        <source>密码无法存入桌面的密钥服务（%1），保存在文件中</source>
+        <translation>Parola nu a putut fi salvată în serviciul de chei al desktopului (%1). Este salvată într-un fișier.</translation>
+    </message>
+    <message>
+        <source>密码无法从桌面的密钥服务中删除（%1），请在系统的密钥管理程序中删除</source>
+        <translation>Parola nu a putut fi eliminată din serviciul de chei al desktopului (%1). Eliminați-o în managerul de chei al sistemului.</translation>
     </message>
 </context>
 <context>

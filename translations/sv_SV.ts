@@ -945,6 +945,13 @@
     </message>
 </context>
 <context>
+    <name>CLocalConfig</name>
+    <message>
+        <source>默认账号的密码</source>
+        <translation>lösenord för standardkontot</translation>
+    </message>
+</context>
+<context>
     <name>CameraOptions</name>
     <message>
         <source>室外</source>
@@ -6050,6 +6057,40 @@ Fil: </translation>
     <message>
         <source>读取型号、版本号和MAC。每台设备都会收到此账号；密码错误的设备不会再次尝试。</source>
         <translation>Läser modell, version och MAC-adress. Varje enhet tar emot detta konto. Efter fel lösenord provas enheten inte igen.</translation>
+    </message>
+</context>
+<context>
+    <name>SecretProblem</name>
+    <message>
+        <source>没有密钥服务</source>
+        <translation>det finns ingen nyckelringstjänst</translation>
+    </message>
+    <message>
+        <source>密钥服务已锁定</source>
+        <translation>nyckelringstjänsten är låst</translation>
+    </message>
+    <message>
+        <source>密钥服务没有响应</source>
+        <translation>nyckelringstjänsten svarar inte</translation>
+    </message>
+</context>
+<context>
+    <name>SecretVault</name>
+    <message>
+        <source>部分密码保存在桌面的密钥服务中，目前无法读取（%1）。请重新输入密码</source>
+        <translation>Vissa lösenord finns i skrivbordets nyckelringstjänst och kan inte läsas (%1). Ange dem igen.</translation>
+    </message>
+    <message>
+        <source>无法使用桌面的密钥服务（%1）。密码保存在文件中</source>
+        <translation>Skrivbordets nyckelringstjänst kan inte användas (%1). Lösenord sparas i filer.</translation>
+    </message>
+    <message>
+        <source>密码无法存入桌面的密钥服务（%1），保存在文件中</source>
+        <translation>Lösenordet kunde inte sparas i skrivbordets nyckelringstjänst (%1). Det sparas i en fil.</translation>
+    </message>
+    <message>
+        <source>密码无法从桌面的密钥服务中删除（%1），请在系统的密钥管理程序中删除</source>
+        <translation>Lösenordet kunde inte tas bort från skrivbordets nyckelringstjänst (%1). Ta bort det i systemets nyckelhanterare.</translation>
     </message>
 </context>
 <context>

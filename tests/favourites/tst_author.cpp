@@ -1,4 +1,5 @@
 #include "favourites/author.h"
+#include "favourites/favouritefile.h"
 #include "tests/datatable.h"
 #include "tests/files/filecontents.h"
 #include "tests/files/filesizelimit.h"
@@ -174,7 +175,7 @@ private Q_SLOTS:
         // warning: empty: the file is listed
         const auto row = dataTable<QByteArray, QString, QStringList>({"text", "warning", "values"});
         const QStringList nothing = {"", "", "", "", "", ""};
-        const QByteArray longest = "{" + QByteArray(CAuthor::maximumFileSize - 2, ' ') + "}";
+        const QByteArray longest = "{" + QByteArray(maximumFavouriteSize - 2, ' ') + "}";
         row("lacks keys", QByteArray("{}"), QString(), nothing);
         row("longest", longest, QString(), nothing);
         row("other types and keys",

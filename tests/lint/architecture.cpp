@@ -68,7 +68,7 @@ const std::vector<Folder> &folders()
         {"media", {"device/registry", "sdk"}},
         {"sheets", {"files"}},
         {"secrets", {}},
-        {"favourites", {"files"}},
+        {"favourites", {"files", "secrets"}},
         {"device/batch",
          {"device/accounts", "device/models", "device/registry", "device/store", "files", "sdk", "sheets"}},
         {"device/dh/session", {"device/registry", "device/store", "sdk"}},
