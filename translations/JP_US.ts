@@ -410,6 +410,10 @@
         <source>删除收藏</source>
         <translation>お気に入りの削除</translation>
     </message>
+    <message>
+        <source>密码无法读取，双击该行输入密码</source>
+        <translation>パスワードを読み取れません。ダブルクリックして入力してください</translation>
+    </message>
 </context>
 <context>
     <name>AddingBatches</name>

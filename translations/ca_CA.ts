@@ -419,6 +419,10 @@
         <source>删除收藏</source>
         <translation>Elimina el preferit</translation>
     </message>
+    <message>
+        <source>密码无法读取，双击该行输入密码</source>
+        <translation>No es pot llegir la contrasenya: feu doble clic per introduir-la</translation>
+    </message>
 </context>
 <context>
     <name>AddingBatches</name>

@@ -419,6 +419,10 @@
         <source>删除收藏</source>
         <translation>Favorit entfernen</translation>
     </message>
+    <message>
+        <source>密码无法读取，双击该行输入密码</source>
+        <translation>Das Passwort ist nicht lesbar: zum Eingeben doppelklicken</translation>
+    </message>
 </context>
 <context>
     <name>AddingBatches</name>

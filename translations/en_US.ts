@@ -419,6 +419,10 @@
         <source>删除收藏</source>
         <translation>Remove favourite</translation>
     </message>
+    <message>
+        <source>密码无法读取，双击该行输入密码</source>
+        <translation>The password cannot be read: double-click to enter it</translation>
+    </message>
 </context>
 <context>
     <name>AddingBatches</name>

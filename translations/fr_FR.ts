@@ -419,6 +419,10 @@
         <source>删除收藏</source>
         <translation>Supprimer le favori</translation>
     </message>
+    <message>
+        <source>密码无法读取，双击该行输入密码</source>
+        <translation>Le mot de passe est illisible : double-cliquez pour le saisir</translation>
+    </message>
 </context>
 <context>
     <name>AddingBatches</name>

@@ -419,6 +419,10 @@
         <source>删除收藏</source>
         <translation>Eliminar favorito</translation>
     </message>
+    <message>
+        <source>密码无法读取，双击该行输入密码</source>
+        <translation>Non se pode ler o contrasinal: faga dobre clic para introducilo</translation>
+    </message>
 </context>
 <context>
     <name>AddingBatches</name>

@@ -419,6 +419,10 @@
         <source>删除收藏</source>
         <translation>Rimuovi preferito</translation>
     </message>
+    <message>
+        <source>密码无法读取，双击该行输入密码</source>
+        <translation>La password non è leggibile: fare doppio clic per inserirla</translation>
+    </message>
 </context>
 <context>
     <name>AddingBatches</name>

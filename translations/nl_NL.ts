@@ -419,6 +419,10 @@
         <source>删除收藏</source>
         <translation>Favoriet verwijderen</translation>
     </message>
+    <message>
+        <source>密码无法读取，双击该行输入密码</source>
+        <translation>Het wachtwoord kan niet worden gelezen: dubbelklik om het in te voeren</translation>
+    </message>
 </context>
 <context>
     <name>AddingBatches</name>

@@ -419,6 +419,10 @@
         <source>删除收藏</source>
         <translation>Fjern favoritt</translation>
     </message>
+    <message>
+        <source>密码无法读取，双击该行输入密码</source>
+        <translation>Passordet kan ikke leses: dobbeltklikk for å skrive det inn</translation>
+    </message>
 </context>
 <context>
     <name>AddingBatches</name>

@@ -419,6 +419,10 @@
         <source>删除收藏</source>
         <translation>Remover favorito</translation>
     </message>
+    <message>
+        <source>密码无法读取，双击该行输入密码</source>
+        <translation>Não é possível ler a palavra-passe: faça duplo clique para a introduzir</translation>
+    </message>
 </context>
 <context>
     <name>AddingBatches</name>

@@ -428,6 +428,10 @@
         <source>删除收藏</source>
         <translation>Eliminare favorit</translation>
     </message>
+    <message>
+        <source>密码无法读取，双击该行输入密码</source>
+        <translation>Parola nu poate fi citită: faceți dublu clic pentru a o introduce</translation>
+    </message>
 </context>
 <context>
     <name>AddingBatches</name>

@@ -419,6 +419,10 @@
         <source>删除收藏</source>
         <translation>Ta bort favorit</translation>
     </message>
+    <message>
+        <source>密码无法读取，双击该行输入密码</source>
+        <translation>Lösenordet kan inte läsas: dubbelklicka för att ange det</translation>
+    </message>
 </context>
 <context>
     <name>AddingBatches</name>

@@ -410,6 +410,10 @@
         <source>删除收藏</source>
         <translation>删除收藏</translation>
     </message>
+    <message>
+        <source>密码无法读取，双击该行输入密码</source>
+        <translation>密码无法读取，双击该行输入密码</translation>
+    </message>
 </context>
 <context>
     <name>AddingBatches</name>

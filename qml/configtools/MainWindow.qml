@@ -22,6 +22,7 @@ T.ApplicationWindow {
     readonly property KnownDevices knownDevices: KnownDevicesApi  // devices of earlier searches
     readonly property var memory: ViewMemoryApi  // a ViewMemory: named texts in the settings, such as "tab"
     readonly property var crashReports: CrashReportsApi  // a CrashReports
+    readonly property var secretVault: SecretVaultApi  // a SecretVault; null: passwords are in the files
     readonly property var cgiManager: CGIConfigManageApi  // a CGIConfigManage
     readonly property var fileDialogs: FileDialogsApi  // a FileDialogs
     readonly property bool libraryInstalled: deviceLibraryInstalled  // false: no device responds
@@ -88,6 +89,12 @@ T.ApplicationWindow {
            | Qt.WindowMaximizeButtonHint
     title: localConfig.getLogoSoftwareName()
 
+    /// Reports that a password cannot be moved to the secret service, or not be read from it.
+    function reportSecrets() {
+        if (secretVault && secretVault.problem !== "")
+            popups.notify(secretVault.problem, OVToast.Error);
+    }
+
     Component.onCompleted: {
         LoginMemory.accounts = accounts;
         search.start();
@@ -96,6 +103,7 @@ T.ApplicationWindow {
             popups.notify(notes.problem, OVToast.Error);
         if (knownDevices.problem !== "")
             popups.notify(knownDevices.problem, OVToast.Error);
+        reportSecrets();
     }
 
     onClosing: close => {
@@ -120,6 +128,16 @@ T.ApplicationWindow {
         function onDocumentRequested(path, isHandedOver) {
             popups.notify(isHandedOver ? qsTr("正在用系统的PDF程序打开 %1").arg(path) : qsTr("无法打开 %1").arg(path),
                        isHandedOver ? OVToast.Information : OVToast.Error);
+        }
+    }
+    Connections {
+        target: window.secretVault
+
+        function onLoaded() {
+            popups.supplyPassword(window.localConfig.getSearchConfigPass());
+        }
+        function onProblemChanged() {
+            window.reportSecrets();
         }
     }
     Connections {

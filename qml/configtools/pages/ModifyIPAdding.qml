@@ -96,6 +96,7 @@ Item {
             batches: root.batches
             favourites: savedDevices
             onByHandRequested: root.openIp()
+            onPasswordRequested: device => byHand.instance().beginFavourite(device)
         }
     }
     // qmllint enable unqualified

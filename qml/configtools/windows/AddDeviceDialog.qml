@@ -32,6 +32,17 @@ OVDialog {
         open();
     }
 
+    /// Opens the dialog for a favourite (see FavouriteListModel.device()) whose password is asked for and saved.
+    function beginFavourite(device) {
+        begin(device.mode);
+        addressField.text = p2p ? "" : device.address;
+        idField.text = p2p ? device.address : "";
+        accountField.text = device.account;
+        portField.text = device.port;
+        noteField.text = device.note;
+        favouriteBox.checked = true;
+    }
+
     /// Removes the error from its field.
     function clearError() {
         faultKind = "";
@@ -80,7 +91,10 @@ OVDialog {
     objectName: "addDeviceDialog"
     title: qsTr("手动添加设备")
     onClosed: passwordField.text = ""  // keeps the password no longer than needed
-    onOpened: (p2p ? idField : addressField).forceActiveFocus()
+    onOpened: {
+        const first = p2p ? idField : addressField;
+        (first.text !== "" ? passwordField : first).forceActiveFocus();
+    }
     onAccepted: {
         check();
         if (fault !== "") {

@@ -12,6 +12,8 @@ OVDialog {
     readonly property bool running: batch?.running ?? false  // its batch runs: favourites cannot be edited
     property Batch batch: null  // last batch started here or its retry; null before
     signal byHandRequested  // open the dialog for a device by hand; the window has closed
+    /// Ask for the password of this favourite (see FavouriteListModel.device()) and add it; the window has closed.
+    signal passwordRequested(var device)
 
     /// Reads the favourites and opens the window. Ticks and results of an ended batch are cleared.
     function begin() {
@@ -24,21 +26,37 @@ OVDialog {
         open();
     }
 
-    /// Starts a batch that adds the favourites with these identities (file names). Does nothing while the batch of this
+    /// Starts a batch that adds the favourites with these identities (file names). Those whose password is not
+    /// available are left out; for a single one, passwordRequested() is emitted. Does nothing while the batch of this
     /// window runs. If another batch runs, Batches emits refused() and nothing starts.
     function addThese(identities) {
         if (running || identities.length === 0)
             return;
-        const begun = addingBatches.addDevices(qsTr("添加收藏设备"), saved.devicesToAdd(identities));
+        const isUsable = identity => saved.device(identity).cipher !== "";
+        if (!identities.every(isUsable))
+            saved.load(favourites.list());  // the service with the passwords may have been unlocked meanwhile
+        const usable = identities.filter(isUsable);
+        if (usable.length === 0 && identities.length === 1) {
+            close();
+            passwordRequested(saved.device(identities[0]));
+            return;
+        }
+        const left = identities.filter(identity => !usable.includes(identity));
+        saved.takeResults(left.map(identity => ({
+            identity: identity, result: -1, message: qsTr("密码无法读取，双击该行输入密码")
+        })), "");
+        if (usable.length === 0)
+            return;
+        const begun = addingBatches.addDevices(qsTr("添加收藏设备"), saved.devicesToAdd(usable));
         if (begun === null)
             return;
         batch = begun;
-        saved.setRunning(identities, qsTr("正在添加…"));
+        saved.setRunning(usable, qsTr("正在添加…"));
     }
 
     /// Stores the note of a favourite (`identity`: its file name). After a failure the earlier note is shown.
     function changeNote(identity, note) {
-        const device = favourites.deviceOf(saved.device(identity));
+        const device = saved.device(identity);
         device.note = note;
         const fileName = favourites.save(device);
         if (fileName === "")

@@ -1,5 +1,5 @@
-// The favourites (saved devices): a file for each in one folder. Passwords are encrypted in the files. list(), save()
-// and remove() access files on the main thread.
+// The favourites (saved devices): a file for each in one folder. Passwords are encrypted in the files, or in the secret
+// service of the desktop (see CAuthor). list(), save() and remove() access files on the main thread.
 import QtQuick
 import Author 1.0
 import configtools
@@ -11,16 +11,17 @@ QtObject {
     readonly property CAuthor author: CAuthor {}
 
     /// Returns a map of the favourites by file name (without folder). Each is a list of six texts: mode ("0" by
-    /// address, "1" by P2P ID), address, port, account, encrypted password, note. Empty without a folder.
+    /// address, "1" by P2P ID), address, port, account, encrypted password ("": not available), note. Empty without a
+    /// folder.
     function list() {
         return author.readJsonFilesFromFolder(folder);
     }
 
-    /// Saves a device: a map of "mode" (DeviceAdding.Mode), "address", "port", "account", "password" and "note".
-    /// Replaces the favourite with the same address and port. Returns the file name, "" on failure. saveTextAsJson()
+    /// Saves a device: a map of "mode" (DeviceAdding.Mode), "address", "port", "account", "password" or its "cipher", and
+    /// "note". Replaces the favourite with the same address and port. Returns the file name, "" on failure. saveTextAsJson()
     /// reports no failure, so the file is read back.
     function save(device) {
-        const cipher = author.AesEncrypt(device.password);
+        const cipher = device.cipher ?? author.AesEncrypt(device.password);
         const values = [String(device.mode), device.address, device.port, device.account, cipher, device.note];
         author.saveTextAsJson(folder, device.mode, device.address, device.port, device.account, cipher, device.note);
         const files = list();
@@ -34,13 +35,5 @@ QtObject {
     /// Deletes the file of a favourite. Returns false if it does not exist or cannot be removed.
     function remove(fileName) {
         return author.deleteFile(folder + fileName);
-    }
-
-    /// Converts a favourite of FavouriteListModel.device() to the form of save(), with the decrypted password.
-    function deviceOf(favourite) {
-        return {
-            mode: favourite.mode, address: favourite.address, port: favourite.port, account: favourite.account,
-            password: author.AesDecrypt(favourite.cipher), note: favourite.note
-        };
     }
 }

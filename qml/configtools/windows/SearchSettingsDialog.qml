@@ -22,6 +22,12 @@ OVDialog {
         loginBox.checked = settings.logsIn;
     }
 
+    /// Fills in the stored password, which was not available at load(). A typed password is kept.
+    function supplyPassword(password) {
+        if (passwordField.text === "")
+            passwordField.text = password;
+    }
+
     /// Returns the settings of the fields, in the form of SearchSettings.read().
     function values() {
         return {

@@ -47,6 +47,12 @@ Item {
         dialog.open();
     }
 
+    /// Passes the stored password to the open search settings, see SearchSettingsDialog.supplyPassword().
+    function supplyPassword(password) {
+        if (searchSettings.item?.visible)
+            searchSettings.item.supplyPassword(password);
+    }
+
     /// Opens the report of the last search.
     function openSearchReport() {
         searchReport.instance().open();

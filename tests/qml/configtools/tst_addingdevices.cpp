@@ -280,6 +280,36 @@ private Q_SLOTS:
         QVERIFY(!m_site->busyState()->areRowsInUse());
     }
 
+    /// The secret service has its password, but cannot be read. No login with an empty password is sent,
+    /// since the device would count it.
+    void aFavouriteWithoutAPasswordAsksForIt()
+    {
+        const CAuthor author;
+        author.saveTextAsJson(favouritesFolder(), "1", "OV1", "8800", "root", "", "gate");
+        author.saveTextAsJson(favouritesFolder(), "1", "OV2", "8800", "admin", author.AesEncrypt("p"), "");
+        QMetaObject::invokeMethod(m_adding, "openFavourites");
+        auto *model = item("favouriteTable")->property("model").value<FavouriteListModel *>();
+        model->setAllChecked(true);
+        QMetaObject::invokeMethod(m_window->findChild<QObject *>("favouritesWindow"), "accept");
+        m_devices->gate.release();
+        QTRY_COMPARE(model->get(1).value("message").toString(), "已添加");
+        QCOMPARE(model->get(0).value("message").toString(), "密码无法读取，双击该行输入密码");
+        QCOMPARE(m_devices->asked, QStringList("OV2 p"));
+
+        QTRY_VERIFY(!m_window->findChild<QObject *>("favouritesWindow")->property("running").toBool());
+        QMetaObject::invokeMethod(item("favouriteTable"), "rowActivated", Q_ARG(int, 0));
+        QTRY_VERIFY(item("devicePasswordField")->hasActiveFocus());
+        item("devicePasswordField")->setProperty("text", "p1");
+        press("accept");
+        QCOMPARE(m_devices->asked.last(), "OV1 p1");
+        QCOMPARE(m_devices->last.account, "root");
+        m_devices->gate.release();
+        QTRY_COMPARE(argumentsOf(*m_notices), QStringList("设备已添加，并保存到收藏夹/1"));
+        const QVariantMap favourites = author.readJsonFilesFromFolder(favouritesFolder());
+        QCOMPARE(favourites.value("OV1_8800.json").toStringList(),
+                 (QStringList{"1", "OV1", "8800", "root", author.AesEncrypt("p1"), "gate"}));
+    }
+
     /// Typed notes are limited in length; notes from other sources are not.
     void aLongNoteIsNotTruncated()
     {
