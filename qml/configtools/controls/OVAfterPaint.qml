@@ -4,11 +4,13 @@ import QtQuick
 Item {
     id: root
 
-    property var work: null  // a function
+    // Internal state. The owner calls run() only.
+    property var work: null  // the function that waits; null for none
     property int frames: 0  // frames of the window since run()
 
     /// Calls the function `work` once, two frames later, as the next frame may already be in progress, or after a
-    /// second if the window renders no frames. Work that still waits from an earlier call is dropped.
+    /// second if the window renders no frames. Work that still waits from an earlier call is dropped. If the second
+    /// frame of that call is already shown, the new work runs in its place, without waiting for further frames.
     function run(work) {
         root.work = work;
         frames = 0;
@@ -16,7 +18,7 @@ Item {
         Window.window?.update();
     }
 
-    /// Runs the work that still waits.
+    /// Runs the work that still waits, if there is any.
     function finish() {
         timeout.stop();
         const work = root.work;

@@ -15,7 +15,8 @@ OVDialog {
     property string otherText  // text of the third button; without a text it is hidden
     signal otherChosen  // by the third button
 
-    /// Opens the box with this message. Without `ofKind` it is an Information.
+    /// Opens the box with this message. Without `ofKind` it is an Information. `title` and `otherText` keep their
+    /// values.
     function show(text, ofKind) {
         message = text;
         kind = ofKind ?? OVMessageBox.Information;

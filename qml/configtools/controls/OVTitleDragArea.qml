@@ -8,7 +8,7 @@ MouseArea {
 
     required property var cursor  // a CLocalConfig; its cursorPos() returns the pointer's screen position
     property point start  // of the press, in the area
-    property bool moving: false  // dragged by at least Theme.unit since the press
+    property bool moving: false  // dragged by at least Theme.unit since the last press; stays true after the release
     property bool bySystem: false  // the window system moves the window
     property point grip  // offset from the pointer to the window's corner
     readonly property var target: Window.window  // the window that is moved

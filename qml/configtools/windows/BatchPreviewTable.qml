@@ -6,6 +6,7 @@ OVTable {
     id: root
 
     required property BatchPreview preview  // the model; also stores the ticks
+    // At most one of these is true.
     property bool givesAddresses: false  // the change is a new address
     property bool givesFirmware: false   // the change is a firmware upgrade
     property bool givesNames: false      // the change is a new name of a camera or channel

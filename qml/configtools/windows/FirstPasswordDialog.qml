@@ -12,11 +12,14 @@ OVDialog {
     readonly property alias password: passwordField.text
     readonly property alias keeping: keepingChoice.keeping  // an AccountList.Keeping
     /// Strength of the password: number of kinds of characters in it, 0 to 3; at least 2 is needed. The kinds are
-    /// digits, Latin letters and others; the underscore is of no kind.
+    /// digits, letters (A to Z in both cases), and all other characters. The underscore is of no kind. Characters that
+    /// the hint excludes are not refused: they count as others.
     readonly property int grade: deviceFactory.getPassWordType(passwordField.text)
     property bool tried: false  // OK was pressed: incomplete fields show errors
     readonly property int mostCharacters: 32  // of the password
-    signal confirmed  // the input is valid
+    /// OK was pressed and `fault` is "": a user name and a password are given, the confirmation is equal, and the
+    /// password has 8 to 32 characters of at least two kinds.
+    signal confirmed
 
     /// Resets the input; the caller opens the dialog. `count`: number of devices.
     function load(count) {
@@ -40,7 +43,7 @@ OVDialog {
     readonly property string different: qsTr("请输入相同的密码")
     readonly property string wrongLength: qsTr("密码长度应当在8到32个字符范围内")
 
-    /// The first error, "" if there is none. It is shown below its field.
+    /// The first error, in the user's language; "" if there is none. It is shown below its field.
     readonly property string fault: {
         const length = confirmationField.text.length;
         return grade <= 1 ? weak : account === "" ? noAccount : password === "" ? noPassword

@@ -1,4 +1,5 @@
-// The report of the last search: packets of each network interface, and problems with advice. It can be copied as text.
+// The report of the last search: packets of each network interface, and problems with advice. It can be copied as text;
+// the dialog stays open then.
 import QtQuick
 import QtQuick.Templates as T
 import configtools

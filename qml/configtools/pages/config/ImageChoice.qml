@@ -1,5 +1,5 @@
 // A row of an image setting with several values. The choice with index 0 has the number `first` on the device, unless
-// `numbers` is given.
+// `numbers` is given. For another number the row shows a dash. It is hidden if the device lacks the setting.
 import QtQuick
 import configtools
 
