@@ -12,8 +12,9 @@ class ApacheServer
 {
 public:
     /// Starts the server with one account, and blocks until it accepts connections, up to 20 s. After an
-    /// error failure() has the reason and the other functions are useless. Requires an installed Apache and
-    /// the permission to create user namespaces.
+    /// error failure() has the reason and the other functions are useless. Requires an Apache that is
+    /// installed in the folders of Debian, the program `unshare`, and the permission to create user
+    /// namespaces.
     ApacheServer(const QString &user, const QString &password);
     ~ApacheServer(); ///< ends the server; blocks for up to 10 s
     ApacheServer(const ApacheServer &) = delete;

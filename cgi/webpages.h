@@ -9,11 +9,11 @@
 #include <memory>
 
 /// Opens web pages of devices in the browser of the desktop. The browser does not know the keys that the user
-/// has accepted, and the user enters the password there: so the key of a device is checked first, with the
-/// certificate handler of the transport. The check is a GET of the page on a thread of the global pool. It
-/// sends no account, and does not respond to a request for authentication: an empty user name would count as
-/// a failed login on the device. The page of a refused key is not opened; the handler may offer the key to
-/// the user, who then opens the page again. Lives on the main thread.
+/// has accepted, and the user enters the password there: so the key of the certificate of a device is checked
+/// first, with the certificate handler of the transport. The check is a GET of the page on a thread of the
+/// global pool. It sends no account, and does not respond to a request for authentication: an empty user name
+/// would count as a failed login on the device. The page of a refused key is not opened; the handler may
+/// offer the key to the user, who then opens the page again. Lives on the main thread.
 class WebPages : public QObject
 {
     Q_OBJECT

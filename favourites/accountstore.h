@@ -26,9 +26,9 @@ struct StoredAccount
 /// its MAC, and has one account or none.
 ///
 /// If the file cannot be opened or has one invalid entry, the store has no account, and problem() has the
-/// reason. The next successful change keeps an invalid file with the ending ".damaged" and writes another
-/// one. While the file exists but cannot be opened, changes fail and it is not written. No password reaches
-/// the log.
+/// reason. The next change that is written keeps an invalid file with the ending ".damaged" (".damaged2" and
+/// so on if that exists) and writes another one. While the file exists but cannot be opened, changes fail and
+/// it is not written. No password reaches the log.
 ///
 /// Thread-safe. Only the constructor and the changes (put(), remove(), assign(), keep()) wait for the disk. A
 /// change writes the file before it returns. It returns an empty string on success. Otherwise it changes
@@ -40,8 +40,10 @@ class AccountStore
 public:
     static constexpr qsizetype maximumAccounts = 500;
     static constexpr qsizetype maximumDevices = 50'000;
-    static constexpr qsizetype maximumText = 63;     ///< characters of a name, an account or a password
-    static constexpr qsizetype maximumIdentity = 80; ///< characters of a device identity; checked when read
+    static constexpr qsizetype maximumText = 63; ///< characters of a name, an account or a password
+    /// Characters of a device identity. A file with a longer one is invalid. assign() and keep() do not check
+    /// it: the caller must not pass a longer or an empty one.
+    static constexpr qsizetype maximumIdentity = 80;
     static constexpr qint64 maximumFileSize = 16'777'216; ///< bytes
 
     /// Reads the file, which may be missing. With an empty path, accounts are stored in memory only.
@@ -77,7 +79,8 @@ public:
 
     /// Assigns the account of this name to the devices, in place of their earlier accounts. The assignment is
     /// stored under the first identity of each device; a device without identities is ignored. An empty name
-    /// removes the accounts of the devices. Fails if there is no account of this name.
+    /// removes the accounts of the devices. Succeeds without writing the file if no assignment changes. Fails
+    /// if there is no account of this name.
     [[nodiscard]] QString assign(const QList<Device> &devices, const QString &name);
 
     /// Assigns an account that may not be stored yet. If a stored account has this user name and password, it

@@ -16,7 +16,7 @@ struct LoginDeviceInformation
 {
     std::array<char, 48> serialNumber;
     std::array<char, 32> model;
-    std::int32_t loginKind;  ///< 0 direct, 1 through a tunnel of the port agent
+    std::int32_t loginKind;  ///< 0 direct, 1 through a tunnel of the port agent; the ONVIF library sets 0
     std::uint8_t deviceType; ///< one of DeviceTypeCode, others exist; 0 if unknown
     std::uint8_t reserved1;
     std::uint16_t channelCount; ///< number of video inputs
@@ -38,14 +38,15 @@ enum class DeviceTypeCode : std::uint8_t
     ComputerRecorder = 42,
 };
 
-/// The connection of a session that NetLoginSecure opens.
+/// The connection of a session that NetLoginSecure opens. The demo and ONVIF libraries ignore it: the address
+/// and the port determine the connection.
 enum class LoginMode : std::int32_t
 {
     Direct = 0,
     Tunnel = 19, ///< to 127.0.0.1 and a local port of the port agent, which forwards it to the device
 };
 
-/// Given to NetLoginSecure.
+/// Given to NetLoginSecure, which fails if this `size` or that of the output is wrong.
 struct LoginSecureInput
 {
     std::uint32_t size;           ///< sizeof(LoginSecureInput)
@@ -62,7 +63,7 @@ static_assert(sizeof(LoginSecureInput) == 264);
 struct LoginSecureOutput
 {
     std::uint32_t size;            ///< sizeof(LoginSecureOutput), set by the caller
-    std::uint32_t error;           ///< that of NetGetLastError; 0 on success
+    std::uint32_t error;           ///< that of NetGetLastError, 0 on success; may be unset for a wrong size
     LoginDeviceInformation device; ///< valid after a successful login only
 };
 static_assert(sizeof(LoginSecureOutput) == 136);

@@ -111,10 +111,10 @@ public:
     /// Returns false for a handle that is not a running search.
     virtual bool NetStopSearchDevices(std::int64_t searchHandle) = 0;
 
-    /// Sends a search to the one address of `request` (its count is 1) and blocks until a response has
-    /// arrived or none is expected any more, `wait` has passed or NetCleanup is called. Responses are passed
-    /// to `handler` (not null) on a thread of the library during the call, never after it. A failure is
-    /// visible only as a missing response, and in NetGetLastError.
+    /// Sends a search to the one address of `request` and blocks until a response has arrived or none is
+    /// expected any more, `wait` has passed or NetCleanup is called. Fails if the count of `request` is
+    /// not 1. Responses are passed to `handler` (not null) on a thread of the library during the call, never
+    /// after it. A failure is visible only as a missing response, and in NetGetLastError.
     virtual void NetSearchDeviceByIp(const SearchByAddressesRequest &request, SearchResponseHandler handler,
                                      void *user, std::chrono::milliseconds wait) = 0;
 

@@ -67,9 +67,11 @@ struct SearchResponse
 static_assert(sizeof(SearchResponse) == 3304);
 static_assert(offsetof(SearchResponse, device) == 72);
 
-/// Receives responses on threads of the network library; several calls may run at the same time. `response`
-/// is valid during the call only. `searchHandle` is the handle of the local search; it is 0 for responses to
-/// NetSearchDevicesByIPs, NetSearchDevicesByIPsEx and NetSearchDeviceByIp. `user` is that of the search.
+/// Receives responses on threads of the network library; several calls may run at the same time. It may also
+/// be called on the calling thread of NetStartSearchDevices and NetStartSearchDevicesEx, before they return.
+/// `response` is valid during the call only. `searchHandle` is the handle of the local search; it is 0 for
+/// responses to NetSearchDevicesByIPs, NetSearchDevicesByIPsEx and NetSearchDeviceByIp. `user` is that of the
+/// search.
 using SearchResponseHandler = void (*)(std::int64_t searchHandle, const SearchResponse *response, void *user);
 
 /// Given to NetStartSearchDevices.
@@ -77,8 +79,8 @@ struct SearchParameter
 {
     std::uint32_t size; ///< sizeof(SearchParameter)
     std::uint32_t reserved;
-    SearchResponseHandler handler;
-    void *user;
+    SearchResponseHandler handler; ///< not null
+    void *user;                    ///< passed to the handler
 };
 static_assert(sizeof(SearchParameter) == 24);
 
@@ -87,8 +89,8 @@ struct SearchParameterEx
 {
     std::uint32_t size; ///< sizeof(SearchParameterEx)
     std::uint32_t reserved;
-    SearchResponseHandler handler;
-    void *user;
+    SearchResponseHandler handler;     ///< not null
+    void *user;                        ///< passed to the handler
     std::array<char, 64> localAddress; ///< source address of the search, empty for every address of the host
 };
 static_assert(sizeof(SearchParameterEx) == 88);
@@ -100,7 +102,8 @@ inline constexpr int maximumSearchAddresses = 256; ///< of one request
 struct SearchByAddressesRequest
 {
     std::uint32_t size; ///< sizeof(SearchByAddressesRequest)
-    std::int32_t count; ///< used entries of `addresses`, 0 to maximumSearchAddresses
+    std::int32_t count; ///< used entries of `addresses`, 0 to maximumSearchAddresses; exactly 1 for
+                        ///< NetSearchDeviceByIp, which fails otherwise
     std::array<std::array<char, 64>, maximumSearchAddresses>
         addresses; ///< dotted IPv4 addresses or IPv6 addresses
 };

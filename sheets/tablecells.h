@@ -15,8 +15,9 @@ namespace sheets {
 /// ignored. False also when a cell cannot be read.
 [[nodiscard]] bool beginsWithTitles(QExcel &excel, const QStringList &titles);
 
-/// The number of the last non-empty row, from 1. Below 1 on failure and for an empty sheet; with the
-/// spreadsheet application 1 for an empty sheet.
+/// The number of the last non-empty row, from 1. For an empty sheet it is below 1, with the spreadsheet
+/// application 1. It is below 1 if both the first row and the number of rows of the used range cannot be
+/// read, and too small if one of them cannot be read.
 [[nodiscard]] int lastUsedRow(QExcel &excel);
 
 /// The text of a cell without spaces at its ends; empty also when the cell cannot be read.

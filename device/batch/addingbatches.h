@@ -37,13 +37,15 @@ public:
 
     /// Starts a batch that logs in to these devices and adds their rows. `devices` are maps of "identity" (a
     /// text that tried() returns), "mode" (0 by address, 1 by P2P ID), "address" (or the P2P ID), "port"
-    /// (int, of the device itself), "account" and "password". Returns the batch; null after
-    /// Batches::refused(). QML does not own it.
+    /// (int or its text, of the device itself), "account" and "password". A device by address whose address
+    /// and port are listed gets LoginResult::AlreadyListed, without a request. Returns the batch, which
+    /// Batches owns; null after Batches::refused().
     Q_INVOKABLE Batch *addDevices(const QString &title, const QVariantList &devices);
 
 Q_SIGNALS:
     void readingChanged();
-    void importBegan(Batch *batch); ///< the file is read, and the batch has started
+    /// The file is read, and the batch has started. Batches owns the batch.
+    void importBegan(Batch *batch);
     /// The file cannot be imported, for this reason in the user's language. `mayAskAgain`: it is encrypted,
     /// and another passphrase may be the right one.
     void importRefused(const QString &reason, bool mayAskAgain);

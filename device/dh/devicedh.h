@@ -136,8 +136,9 @@ public:
     /// emitted once, and getConfigData("channelNamesResult") returns the combined result.
     void setConfigData(const QString &key, const QVariant &value, const QString &otype) override;
     /// `key` "channelNames" returns the names in channel order, null for a name that the device does not
-    /// report; "channelsConnected" returns a bool for each channel. Covers the first `channelNum` channels of
-    /// the current session, all of them for 0 or less. Blocks for one request for each name.
+    /// report; "channelsConnected" returns a bool for each channel, see SessionKey::channelsConnected. Covers
+    /// the first `channelNum` channels of the current session, all of them for 0 or less. Blocks for one
+    /// request for each name, or for one request for "channelsConnected".
     QVariantList getDeviceChannelData(const QString &key, int channelNum) override;
     void confirmConfigData() override;
     PageStep sessionStep(const SessionJob &job) override;

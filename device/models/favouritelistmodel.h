@@ -60,8 +60,9 @@ public:
     /// Sets the progress of all favourites to Untried and clears their messages.
     Q_INVOKABLE void forgetProgress();
 
-    /// A favourite, shown or not, for a login: "mode" (0 by address, 1 by P2P ID), "address", "port",
-    /// "account", "cipher" (its encrypted password) and "note". Empty for an unknown identity.
+    /// A favourite, shown or not, for a login: "mode" (0 by address, 1 by P2P ID), "address" (or the P2P ID),
+    /// "port" (text), "account", "cipher" (its encrypted password) and "note". Its values are not truncated.
+    /// Empty for an unknown identity.
     Q_INVOKABLE [[nodiscard]] QVariantMap device(const QString &identity) const;
 
     /// Favourites to be added, in the form of AddingBatches::addDevices(): as device(), with "identity", and
@@ -69,8 +70,8 @@ public:
     /// undefined, often empty, if "cipher" was not encrypted by CAuthor.
     Q_INVOKABLE [[nodiscard]] QVariantList devicesToAdd(const QStringList &identities) const;
 
-    /// Type, address, port, user name and note of a row, separated by tabs, for the clipboard; empty if
-    /// `row` is out of range.
+    /// Type, address, port, user name and note of a row, separated by tabs, for the clipboard. Each value is
+    /// cut to 200 characters. Empty if `row` is out of range.
     Q_INVOKABLE [[nodiscard]] QString textOf(int row) const;
 
 Q_SIGNALS:

@@ -50,11 +50,13 @@ public:
     // The order of the virtual operations is part of the interface, since back ends may be compiled
     // separately. New operations are added at the end.
 
-    /// Removes the rows, except those of devices with failed operations (DeviceStore::setKept()), and
-    /// searches for devices. Returns immediately; signalCDeviceSearchDone reports the end.
+    /// Starts a search for devices in the background. The search first removes the rows, except those of
+    /// devices with failed operations (DeviceStore::setKept()). Returns immediately; signalCDeviceSearchDone
+    /// reports the end.
     virtual void startSearch() {}
     /// Sets the range that the next startSearch() searches; later searches have no range unless it is set
-    /// again. Addresses in host byte order; 0 in either for no range.
+    /// again. Addresses in host byte order; 0 in either for no range. The range must have passed
+    /// searchRangeError().
     virtual void setSearchByIPInfo(quint32 /*beginip*/, quint32 /*endip*/) {}
     /// The IPv4 rows (JSON objects) that pass a filter of RowFilter, see filteredRows().
     virtual QVariantList filterData(const QString & /*filtertype*/, const QString & /*searchtext*/)
@@ -160,7 +162,7 @@ public:
     }
     /// Reads a value of each channel from the device: SessionKey::channelNames or
     /// SessionKey::channelsConnected. The list covers the first `channelNum` channels, all of them for 0 or
-    /// less.
+    /// less. Empty without a session, and for another key.
     virtual QVariantList getDeviceChannelData(const QString & /*key*/, int /*channelNum*/) { return {}; }
     /// Writes the encode values of the selected channel to the device; signalCDeviceConfirmEncodeConfig
     /// reports which values the device has refused.
@@ -435,7 +437,7 @@ Q_SIGNALS:
     /// The result of an operation on the current session: 0 on success, 1 for an unreadable configuration, 10
     /// for unknown capabilities, LoginResult::Upgrading, or an error of the network library.
     void signalCDeviceGetDeviceCapRet(int GetDeviceCapRet);
-    void signalCDeviceChangeVideoType();     ///< the image settings have changed or were read again
+    void signalCDeviceChangeVideoType();     ///< the image settings were read, or a change of one has failed
     void signalCDeviceChangeVideoChannel();  ///< those of another channel were read
     void signalCDeviceChangeEncodeChannel(); ///< the encode values were read
     /// The names of the refused values, one line for each, in the user's language; empty on success. During

@@ -73,7 +73,8 @@ public:
     /// CDeviceBase::startSearch(). While running work needs the rows (BusyState::areRowsInUse()), no search
     /// is started and the rows stay; signalSearchDone is emitted in this call.
     Q_INVOKABLE void startSearch(const QString &family);
-    /// Sets the IPv4 range of the next startSearch(): addresses in host byte order, 0 for none.
+    /// Sets the IPv4 range of the next startSearch(): first and last address in host byte order, 0 in either
+    /// for no range. The range must have passed searchRangeError().
     Q_INVOKABLE void setSearchByIPInfo(const QString &family, quint32 beginip, quint32 endip)
     {
         backEnd(family)->setSearchByIPInfo(beginip, endip);
@@ -153,7 +154,8 @@ public:
     /// numbers in this order.
     Q_INVOKABLE bool importDevice(const QString &family, const QString &path, QJSValue msg);
     /// Writes the IPv4 rows of these names to the list file `fileName` in `folder`; the suffix selects the
-    /// format. False if no row is left or the file cannot be written.
+    /// format. The file contains passwords in plain text, but not those of stored accounts. False if no row
+    /// is left or the file cannot be written.
     Q_INVOKABLE bool exportDevice(const QString &family, const QString &folder, const QStringList &macs,
                                   const QString &fileName)
     {
@@ -217,9 +219,10 @@ public:
 
     /// Reads the capabilities of the camera of the image page.
     Q_INVOKABLE void getCameraConfig(const QString &family) { backEnd(family)->getCameraConfig(); }
-    /// The value of a key of SessionKey, EncodeKey or CameraKey in the state of the session; invalid if it
-    /// was not read. `channel` (from 0) is used for the names of channels. With the key "loginHandle": any
-    /// thread.
+    /// The value of a key of SessionKey, EncodeKey or CameraKey in the state of the session; invalid if the
+    /// key is unknown or the value was not read. `channel` (from 0) is used for the names of channels only.
+    /// Only SessionKey::channelName and SessionKey::connectedChannels send a request, and block. With the key
+    /// "loginHandle": any thread.
     Q_INVOKABLE QVariant getConfigData(const QString &family, const QString &key,
                                        const QVariant &channel = QVariant())
     {
@@ -227,15 +230,17 @@ public:
     }
     /// Reads the choices and the values of the encode page, and the colours of its channel.
     Q_INVOKABLE void getEncodeCaps(const QString &family) { backEnd(family)->getEncodeCaps(); }
-    /// Sets a value: values of the image page and names of channels are written to the device immediately,
-    /// encode values by confirmConfigData(). `otype` is the setting of an image group, or the channel of a
-    /// name.
+    /// Sets a value. Values of the image page, names of channels and EncodeKey::subCurResolution are written
+    /// to the device immediately. Other encode values are only stored, until confirmConfigData(). The
+    /// selected channels, stream type and image mode are not sent. `otype` is the setting of an image group,
+    /// or the channel (from 0) of a name; otherwise it is ignored.
     Q_INVOKABLE void setConfigData(const QString &family, const QString &key, const QVariant &value,
                                    const QString &otype = QString())
     {
         backEnd(family)->setConfigData(key, value, otype);
     }
-    /// Reads SessionKey::channelNames or channelsConnected from the device; `channelNum` 0: of all channels.
+    /// Reads SessionKey::channelNames or SessionKey::channelsConnected from the device, of the first
+    /// `channelNum` channels, of all for 0 or less. Empty without a session.
     Q_INVOKABLE QVariantList getDeviceChannelData(const QString &family, const QString &key, int channelNum)
     {
         return backEnd(family)->getDeviceChannelData(key, channelNum);
@@ -339,7 +344,10 @@ public:
         return backEnd(family)->upgradeDocumentProgress();
     }
 
-    /// Makes the current session one with this device. Returns immediately; signalSessionOpened follows.
+    /// Makes the current session one with this device. A session in which the device responds is kept, unless
+    /// `isGivenNow` is set: the user has just entered the account. `readsChannels`: the channels are also
+    /// read if the session is kept. Returns immediately; signalSessionOpened follows, unless openSession() or
+    /// stopOpeningSession() is called before, or another page logs in to another device.
     Q_INVOKABLE void openSession(const QString &family, const QString &ipport, const QString &account,
                                  const QString &password, bool readsChannels, bool isGivenNow = false)
     {

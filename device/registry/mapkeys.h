@@ -14,9 +14,9 @@ inline constexpr QLatin1StringView library("library"); ///< map with the keys of
 /// String, read and write: name of the channel in the argument `channel` or `otype`. A read sends a request;
 /// it returns null if the request fails.
 inline constexpr QLatin1StringView channelName("channelName");
-/// Int: the result of the last write of the channel's name. 0 on success, LoginResult::Refused,
-/// LoginResult::Upgrading, or an error of the network library if the device did not respond; -1 if there was
-/// none.
+/// Int: the result of the last write of the name of the channel in the argument `channel`. 0 on success,
+/// LoginResult::Refused, LoginResult::Upgrading, or an error of the network library if the device did not
+/// respond; -1 if there was none.
 inline constexpr QLatin1StringView channelNameResult("channelNameResult");
 /// Write only, after the last of several names: emits signalCDeviceSetChannelNameFinished, unless no name was
 /// written since the last one.
@@ -24,11 +24,12 @@ inline constexpr QLatin1StringView channelNamesSaved("channelNamesSaved");
 /// Int: the combined result of the writes before the last channelNamesSaved: 0 if all succeeded, otherwise
 /// the result of the last failed one, see channelNameResult; -1 if there was none.
 inline constexpr QLatin1StringView channelNamesResult("channelNamesResult");
-// Of getDeviceChannelData(). An unread name is null.
-inline constexpr QLatin1StringView channelNames("channelNames");           ///< list of strings
-inline constexpr QLatin1StringView channelsConnected("channelsConnected"); ///< list of bool: has a camera
-/// Of getConfigData(), list of bool for all channels: has a camera. A read sends a request. Empty without a
-/// session.
+/// Of getDeviceChannelData(): list of strings. An unread name is null.
+inline constexpr QLatin1StringView channelNames("channelNames");
+/// Of getDeviceChannelData(): list of bool. A value is false only if the device reports that the channel has
+/// no camera. It is true for a channel without a reported state, and for all channels if the request fails.
+inline constexpr QLatin1StringView channelsConnected("channelsConnected");
+/// Of getConfigData(): the same for all channels. A read sends a request. Empty without a session.
 inline constexpr QLatin1StringView connectedChannels("connectedChannels");
 } // namespace SessionKey
 
@@ -51,14 +52,15 @@ inline constexpr QLatin1StringView timeServerDetails("timeServerDetails");      
 /// A channel of a device. `channel` is an int, counted from 0.
 namespace ChannelKey {
 inline constexpr QLatin1StringView channel("channel");
-inline constexpr QLatin1StringView name("name");           ///< string
-inline constexpr QLatin1StringView connected("connected"); ///< bool: a camera is connected
+inline constexpr QLatin1StringView name("name"); ///< string
+/// Bool: a camera is connected. True also if the device does not report the state of the channel.
+inline constexpr QLatin1StringView connected("connected");
 } // namespace ChannelKey
 
 /// The channels of a device, as lists in the order of the channels.
 namespace ChannelListKey {
 inline constexpr QLatin1StringView names("names");         ///< list of strings, null if unread
-inline constexpr QLatin1StringView connected("connected"); ///< list of bool
+inline constexpr QLatin1StringView connected("connected"); ///< list of bool, see ChannelKey::connected
 } // namespace ChannelListKey
 
 /// Properties of a device in addition to those of its row. Strings, unless stated otherwise; ports and counts
@@ -85,7 +87,7 @@ inline constexpr QLatin1StringView alarmInputs("alarmInputs");
 inline constexpr QLatin1StringView disks("disks");
 } // namespace DeviceDetailKey
 
-/// The account of a device, see CDeviceBase::accountOf().
+/// The account of a device, see CDeviceBase::accountOf(). Values are strings, unless stated otherwise.
 namespace AccountKey {
 inline constexpr QLatin1StringView account("account");
 inline constexpr QLatin1StringView password("password");
@@ -96,17 +98,18 @@ inline constexpr QLatin1StringView isDefault("isDefault");
 inline constexpr QLatin1StringView isFollowing("isFollowing");
 } // namespace AccountKey
 
-/// A device to add, see DeviceToAdd.
+/// A device to add, see DeviceToAdd. Values are strings, unless stated otherwise.
 namespace DeviceToAddKey {
-inline constexpr QLatin1StringView identity("identity"); ///< string of the caller, returned with the result
+inline constexpr QLatin1StringView identity("identity"); ///< text of the caller, returned with the result
 inline constexpr QLatin1StringView mode("mode");         ///< int: 0 by address, 1 by P2P ID
-inline constexpr QLatin1StringView address("address");
-inline constexpr QLatin1StringView port("port");
+inline constexpr QLatin1StringView address("address");   ///< or the P2P ID
+inline constexpr QLatin1StringView port("port");         ///< int or its text: service port of the device
 inline constexpr QLatin1StringView account("account");
 inline constexpr QLatin1StringView password("password");
 } // namespace DeviceToAddKey
 
-/// The result of an operation with a device. A map has only those keys that its function states.
+/// The result of an operation with a device. A map has only those keys that its function states. Values are
+/// strings, unless stated otherwise.
 namespace ResultKey {
 inline constexpr QLatin1StringView identity("identity"); ///< DeviceToAddKey::identity
 inline constexpr QLatin1StringView result("result");   ///< int: a LoginResult or another code of resultName()
@@ -115,7 +118,7 @@ inline constexpr QLatin1StringView text("text");       ///< more than the result
 inline constexpr QLatin1StringView name("name");       ///< the name of a channel after it was written
 } // namespace ResultKey
 
-/// A line of a device list or an upgrade document.
+/// A line of a device list or an upgrade document. Values are strings, unless stated otherwise.
 namespace ListLineKey {
 inline constexpr QLatin1StringView line("line");       ///< int: its number in the file, from 1
 inline constexpr QLatin1StringView address("address"); ///< in the line; of a document "address:port"
@@ -130,8 +133,9 @@ inline constexpr QLatin1StringView device("device");   ///< map: the row; of upg
 
 /// An upgrade document.
 namespace UpgradeDocumentKey {
-inline constexpr QLatin1StringView refusal("refusal"); ///< why it cannot be used, in the user's language
-inline constexpr QLatin1StringView lines("lines");     ///< list of maps with the keys of ListLineKey
+/// String: why the document cannot be used, in the user's language; empty if it can.
+inline constexpr QLatin1StringView refusal("refusal");
+inline constexpr QLatin1StringView lines("lines"); ///< list of maps with the keys of ListLineKey
 } // namespace UpgradeDocumentKey
 
 /// Progress: int, numbers of lines or devices.
@@ -141,6 +145,7 @@ inline constexpr QLatin1StringView done("done"); ///< finished, with or without 
 } // namespace ProgressKey
 
 /// A string of an exported list that the file format cannot keep: it differs when the file is read again.
+/// Values are strings.
 namespace ExportFaultKey {
 inline constexpr QLatin1StringView address("address");
 inline constexpr QLatin1StringView name("name");     ///< of the device

@@ -49,8 +49,8 @@ public:
     // Names of channels.
 
     /// Reads the names of all channels. The value of ended() is a map of two lists with an entry for each
-    /// channel: "names" (strings, null for a name that was not read) and "connected" (bool: has a camera),
-    /// which is empty if the device did not respond.
+    /// channel: "names" (strings, null for a name that was not read) and "connected" (bool, see
+    /// ChannelListKey), which is empty if the device did not respond.
     Q_INVOKABLE void readNames();
     /// Writes the name of a channel (from 0) and reads it back. The value of ended() is a map of "result" and
     /// "name", which is null after a failure or if the device does not report it. "result" is 0 on success,

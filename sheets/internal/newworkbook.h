@@ -19,7 +19,7 @@ namespace sheets {
 
 /// A new workbook with one sheet, whose rows are written in ascending order. The memory does not grow with
 /// the number of rows: the current row is in memory, and the rows before it are in temporary files of
-/// libxlsxwriter.
+/// libxlsxwriter. Only build() reads the complete file into memory, which keeps it.
 ///
 /// Order of calls: create(), any number of the four writing operations, build(). The caller checks that rows
 /// and cells are in a sheet. An error of a temporary file is reported by build(). The temporary files are
@@ -41,7 +41,8 @@ public:
     /// ranges only. They make the range's row the current one, after which earlier rows cannot be written.
     [[nodiscard]] bool accepts(const CellRange &range) const;
 
-    /// Sets the text of a cell, with the number format "text".
+    /// Sets the text of a cell, with the number format "text". Also writes the text of a cell that is covered
+    /// by a merged range.
     void setCellText(CellPosition position, const QString &text);
 
     /// Merges a range of more than one cell. The text of its first cell is kept, the other texts are removed.

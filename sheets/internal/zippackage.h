@@ -40,7 +40,8 @@ public:
     void remove(const QString &name);
 
     /// Sets `file` to the bytes of a file with all changes; without changes, the bytes of load(). Fails when
-    /// the archive cannot be written in memory. The package can be changed further.
+    /// the archive cannot be written in memory; the value of `file` is then undefined. The package can be
+    /// changed further.
     bool build(QByteArray &file);
 
 private:

@@ -30,11 +30,17 @@ public:
     ServerConnection(HttpService &service, sdk::Clock &clock, sdk::demo::ByteStream &stream,
                      HttpReceiver receiver);
 
-    /// Responds on the calling thread, and returns when the connection is over: the client has closed it or
-    /// does not keep it, a request is invalid or too long (the client gets an error response), a timeout has
-    /// expired, the service gives no response or refuses the body, or HttpReceiver::stop is requested and
-    /// shutdown() was called for the socket. It is also over after a response to HEAD, and after one with
-    /// HttpResponse::isBroken or hasNoHead. The caller closes the stream. To be called once.
+    /// Responds on the calling thread, and returns when the connection is over:
+    /// - The client has closed it or does not keep it.
+    /// - A request is invalid or too long: the client gets an error response.
+    /// - A timeout expires, or the stream of the client ends, in the middle of a request: the client gets the
+    ///   status 408. Before the first byte of a request it gets no response.
+    /// - The service gives no response, or refuses the body: the client gets no response.
+    /// - The response was to HEAD, or had HttpResponse::isBroken or hasNoHead.
+    /// - HttpReceiver::stop is requested. This ends the delay of a response. Other waits end only when
+    ///   shutdown() is called for the socket.
+    ///
+    /// The caller closes the stream. To be called once.
     void serve();
 
 private:
@@ -45,7 +51,8 @@ private:
     /// Returns false at the end of the connection and after `patience` without data.
     bool receiveMore(std::chrono::milliseconds patience);
 
-    /// Returns false when the connection is unusable.
+    // These return false when the connection must end: it is unusable, or HttpReceiver::stop is requested
+    // during a delay. sendResponse() does so also after a response with HttpResponse::isBroken or hasNoHead.
     bool sendResponse(const sdk::demo::HttpResponse &response, bool hasBody, bool keepsConnection) const;
     bool sendBody(const sdk::demo::HttpResponse &response) const;
     bool send(QByteArrayView bytes) const;

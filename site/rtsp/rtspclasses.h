@@ -17,8 +17,11 @@ struct RtspDevice
 {
     RtspContext &context;
     QString mac;
-    const NetworkSpace &space;              ///< of the device
-    std::function<void()> closeClientsSoon; ///< returns at once; the poller's thread closes the clients
+    const NetworkSpace &space; ///< of the device
+    /// Closes all clients of the server of this device. Called on the thread of a StreamFeeder when the
+    /// device drops a stream. Returns immediately; the poller's thread closes the clients. Not empty: it must
+    /// be set before a client connects.
+    std::function<void()> closeClientsSoon;
 };
 
 // Each function returns a reference that the caller owns. The library calls the objects on its threads.
@@ -31,7 +34,8 @@ struct RtspDevice
 [[nodiscard]] GstRTSPThreadPool *newThreadPool(RtspDevice &device);
 
 /// Creates the pipeline and the StreamFeeder of the stream with the path of the URL. The clients of a stream
-/// share them. Creates nothing for an unknown path.
+/// share them. Creates nothing for an unknown path. When the device drops the stream, the feeder calls
+/// RtspDevice::closeClientsSoon.
 [[nodiscard]] GstRTSPMediaFactory *newMediaFactory(RtspDevice &device);
 
 /// A factory at the path of each stream that the device has at the call.

@@ -1,4 +1,5 @@
-// The encoder options of a stream, its valid codecs, sizes and ranges, for the media services.
+// The encoder options of a stream, for the media services: valid codecs, sizes and ranges of video, and
+// formats, bit rates and sampling rates of sound.
 #pragma once
 
 #include "site/services/mediatokens.h"

@@ -11,8 +11,9 @@
 
 namespace site {
 
-/// An element that is being written. A copy refers to the same element, which the SoapMessage owns. Names
-/// have the prefixes of soap/namespaces.h. Texts are UTF-8 and are escaped.
+/// An element that is being written. A copy refers to the same element, which the SoapMessage owns. Names of
+/// elements have the prefixes of soap/namespaces.h, such as "tt:Width". Names of attributes have no prefix,
+/// except "xml:". Texts are UTF-8 and are escaped.
 class XmlElement
 {
 public:
@@ -64,8 +65,10 @@ public:
     [[nodiscard]] XmlElement header();
     [[nodiscard]] XmlElement body() const { return XmlElement(m_body); }
 
-    /// The bytes of the message as UTF-8. It replaces the prefixes by those of `manner`, also in the elements
-    /// of the message. To be called once, when the message is complete.
+    /// The bytes of the message as UTF-8. Declares the namespaces in use. Replaces the prefixes of the names
+    /// of elements by those of `manner`, also those of the names in the texts of "env:Value" and "d:Types".
+    /// Other texts are not changed. This changes the elements themselves. To be called once, when the message
+    /// is complete.
     [[nodiscard]] QByteArray bytes(XmlManner manner);
 
 private:

@@ -21,7 +21,7 @@ struct SessionState
     ConfigSession session; ///< does not own the login, see CurrentSession
     QString ipport;        ///< address and port of the device; empty without a session
     ChannelChoice channels;
-    ChannelNames names;
+    ChannelNames names; ///< the results of writes of channel names, not the names
     EncodeConfig encode;
     CameraConfig camera;
 };

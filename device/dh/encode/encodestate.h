@@ -58,8 +58,10 @@ inline constexpr int capabilitiesUnknown = 10;    ///< the device refused the ca
 /// Result of a read.
 struct EncodeReading
 {
-    int result = 0;         ///< 0, configurationUnreadable, capabilitiesUnknown, or an error of the library
-    bool isFetched = false; ///< the device returned its configuration, which replaced `record`
+    int result = 0; ///< 0, configurationUnreadable, capabilitiesUnknown, or an error of the library
+    /// The device returned its configuration. `record` has its values, or is empty after
+    /// configurationUnreadable.
+    bool isFetched = false;
     bool isQueried = false; ///< the capabilities were requested, with or without success
 };
 
@@ -73,7 +75,8 @@ struct EncodeReading
 /// unchanged. If the configuration cannot be fetched, the result is the library's error and the state is
 /// unchanged. The capabilities are requested also after configurationUnreadable. If they cannot be read,
 /// they are empty; the result is capabilitiesUnknown, or the library's error if the device does not respond.
-/// Blocks.
+/// If the record cannot be packed as text, the capabilities are not requested (`isQueried` is false) and stay
+/// unchanged, and the result may be 0. Blocks.
 [[nodiscard]] EncodeReading readEncodeCapabilities(const ConfigSession &session, int channel,
                                                    EncodeState &state);
 

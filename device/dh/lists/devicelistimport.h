@@ -22,9 +22,10 @@ public:
 
     /// The lines with their steps, which share ownership of the import. A step logs in to the device of its
     /// line and adds its row, completed with the fields of the line (see completeFrom()), replacing an
-    /// existing row of the device. The step of an invalid line returns unusableLine without a request. If
-    /// another line of this import has added the device, the result is AlreadyListed: without a request for
-    /// the same address and port, after the login for the same MAC.
+    /// existing row of the device. A device that reports no MAC does not replace the row with the MAC of the
+    /// line. The step of an invalid line returns unusableLine without a request. If another line of this
+    /// import has added the device, the result is AlreadyListed: without a request for the same address and
+    /// port, after the login for the same MAC.
     [[nodiscard]] static std::vector<ImportLine> plan(const std::shared_ptr<DeviceListImport> &import);
 
 private:

@@ -40,16 +40,18 @@ public:
     SearchOperations(const SearchOperations &) = delete;
     SearchOperations &operator=(const SearchOperations &) = delete;
 
-    /// Removes the rows, except those of DeviceStore::setKept(), and starts a search in the background, with
-    /// the settings and accounts at this time. A search that is still running continues beside it.
+    /// Starts a search in the background, with the settings and accounts at this time. The search first
+    /// removes the rows, except those of DeviceStore::setKept(). A search that is still running continues
+    /// beside it. Logins of the earlier search that have not started are dropped.
     void start();
 
     /// Sets the address range of the next search: first and last address in host byte order, 0 in either for
-    /// no range. Later searches have no range unless it is set again.
+    /// no range. The range must have passed searchRangeError(). Later searches have no range unless it is
+    /// set again.
     void setRange(quint32 begin, quint32 end);
 
-    /// Stops the running search and drops logins that have not started. The rows stay, and running logins
-    /// continue.
+    /// Stops running searches at their next step, without waiting, and drops logins that have not started.
+    /// The rows stay, and running logins continue.
     void stop();
 
     /// Queries the devices of these rows again in the background, see DeviceRefresh::start().
@@ -59,9 +61,9 @@ public:
     /// 6 s for up to 4096 devices; its outcome is always a success.
     [[nodiscard]] DeviceStep locationStep(const QStringList &macs);
 
-    /// Stops everything at its next step, without waiting; no search or login starts afterwards. The
-    /// progress and the end of a search are not signalled any more. Late responses, running logins and
-    /// queries may still report changed rows.
+    /// Stops running searches, refreshes and logins at their next step, without waiting. Location steps end
+    /// only by their StepControl. start() must not be called afterwards. The progress and the end of a search
+    /// are not signalled any more. Late responses, running logins and queries may still report changed rows.
     void requestEnd();
 
 private:

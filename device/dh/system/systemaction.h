@@ -17,6 +17,6 @@ using SystemAction = std::function<std::uint32_t(std::int64_t loginHandle)>;
 /// The action of a SystemCommand with its data (keys of SystemDataKey); sends nothing. nullopt for a command
 /// without an action, also those that SystemOperations executes itself ("loginCheck", "modifyPassword",
 /// "cancelLogin", "readTime"), and for data that the command does not accept. `libraries.net` must not be
-/// null.
+/// null. The action shares the ownership of the libraries.
 [[nodiscard]] std::optional<SystemAction> systemAction(const sdk::SdkLibraries &libraries,
                                                        const QString &command, const QVariantMap &data);

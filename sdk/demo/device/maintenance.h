@@ -22,11 +22,13 @@ inline constexpr std::chrono::seconds usualReboot{20};
 /// Any value but Pal and Ntsc is invalid.
 [[nodiscard]] NetError setVideoStandard(SceneDevice &device, VideoStandard standard);
 
-/// Stores the keys in `text` (JSON) of the configuration `name` of the device itself, not of a channel; its
-/// other keys keep their values. An unknown name, and a text that unpackConfigText() refuses, are refused.
+/// Stores the keys in `text`, which is JSON of the form {"<name>": {...}}, of the configuration `name` of the
+/// device itself, not of a channel; its other keys keep their values. An unknown name, and a text that
+/// unpackConfigText() refuses, are refused.
 [[nodiscard]] NetError setConfiguration(SceneDevice &device, const QString &name, const QByteArray &text);
 
-/// The device is offline from `now` on, for usualReboot or the time of Fault::RebootTakes.
+/// The device is offline from `now` on, for usualReboot or the time of Fault::RebootTakes. Refused with
+/// Fault::RefusesReboot.
 [[nodiscard]] NetError reboot(SceneDevice &device, std::int64_t now);
 
 /// The same two seconds later, so that the client still receives the response. A repeated request before that
@@ -36,11 +38,12 @@ inline constexpr std::chrono::seconds usualReboot{20};
 /// The device deletes its accounts, its configuration and the settings of its channels, sets the video
 /// standard to PAL, and reboots. It keeps its address, its name, its version, its clock and its faults. It is
 /// uninitialised afterwards. A device without initialisation (NotReported) has the account "admin" with the
-/// password "admin" instead.
+/// password "admin" instead. It reboots also with Fault::RefusesReboot.
 [[nodiscard]] NetError resetToFactory(SceneDevice &device, std::int64_t now);
 
-/// The device has the version of the firmware and reboots, as by reboot(). With Fault::UpgradeKeepsVersion it
-/// keeps its version, with Fault::UpgradeNeverReturns it stays offline.
+/// The device has the version of the firmware and reboots, as by reboot(), but also with
+/// Fault::RefusesReboot. With Fault::UpgradeKeepsVersion it keeps its version, with
+/// Fault::UpgradeNeverReturns it stays offline.
 void installFirmware(SceneDevice &device, const FirmwareHead &firmware, std::int64_t now);
 
 /// Changes the password of the account `user`. A wrong old password, an unknown user and an empty new

@@ -23,12 +23,13 @@ class StreamObserver
 public:
     virtual ~StreamObserver() = default;
 
-    /// Called once, when the head of the stream was read. The names are those of DecoderStatus, and empty for
-    /// a track that is missing or cannot be decoded.
+    /// Called once, when the head of the stream was read; not called for an invalid head. The names are those
+    /// of DecoderStatus, and empty for a track that is missing or cannot be decoded.
     virtual void codecsFound(std::string_view video, std::string_view audio) = 0;
 
-    /// A frame of video or a chunk of audio. The bytes of video are in the FrameRing, and valid until two
-    /// more frames of video were delivered. The bytes of audio are valid during the call.
+    /// A frame of video or a chunk of audio, in the format that DecodedFrameType states. The bytes of video
+    /// are in the FrameRing, and valid until two more frames of video were delivered. The bytes of audio are
+    /// valid during the call.
     virtual void decoded(std::span<const std::uint8_t> bytes, const DecodedFrameInformation &information) = 0;
 
     /// A part of the stream could not be decoded, converted or kept in memory. Called once for each part.
