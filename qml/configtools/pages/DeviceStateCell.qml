@@ -11,9 +11,10 @@ OVTableCell {
 
     /// The width in pixels of the column that shows the words of all states.
     function neededWidth() {
-        const texts = [qsTr("未找到"), qsTr("待确认"), qsTr("已初始化"), qsTr("未初始化")];
-        return dot.width + Theme.signGap + Theme.unit + Theme.half
-            + Math.ceil(Math.max(...texts.map(text => Theme.bodyMetrics.advanceWidth(text))));
+        let widest = 0;
+        for (const text of [qsTr("未找到"), qsTr("待确认"), qsTr("已初始化"), qsTr("未初始化")])
+            widest = Math.max(widest, Theme.bodyMetrics.advanceWidth(text));
+        return dot.width + Theme.signGap + Theme.unit + Theme.half + Math.ceil(widest);
     }
 
     Rectangle {

@@ -19,8 +19,10 @@ OVTableCell {
     /// The width in pixels of the column that shows all buttons.
     function neededWidth() {
         const buttons = [editButton, detailButton, webButton, liveButton];
-        return buttons.reduce((sum, button) => sum + button.implicitWidth, 0) + (buttons.length - 1) * actions.spacing
-            + Theme.unit;
+        let width = (buttons.length - 1) * actions.spacing + Theme.unit;
+        for (const button of buttons)
+            width += button.implicitWidth;
+        return width;
     }
 
     OVActionRow {
