@@ -310,13 +310,17 @@ void Driver::checkNames(QQuickItem *item) const
 
 void Driver::atRest() const
 {
-    // Animations have ended when two successive images are equal except for live video. The wait is limited,
-    // because a running search never comes to rest.
+    // Animations have ended when three successive images are equal except for live video: on a busy machine,
+    // the first two can be equal because an animation has not begun. The wait is limited, because a running
+    // search never comes to rest.
     constexpr int tries = 12;
+    constexpr int enough = 2;
+    int equal = 0;
     QImage before;
     for (int attempt = 0; attempt < tries; ++attempt) {
         const QImage now = withoutVideo(m_window);
-        if (now == before)
+        equal = now == before ? equal + 1 : 0;
+        if (equal == enough)
             return;
         before = now;
         QTest::qWait(60);
