@@ -6,9 +6,10 @@
 /// 22.3: an upload to a texture (FramePainter::upload()) reads the unprotected scenes of the other windows'
 /// contexts. Qt contains the same exception, but compares the vendor, which Mesa has renamed meanwhile.
 ///
-/// One thread has one OpenGL context, which keeps textures of closed windows: the process grows by some MB
-/// with each closed live window. A lock around the frames of render threads is no alternative: a grabbed
-/// frame has no signal after its end.
+/// Qt then deletes the textures of removed images only while no window has pending updates. A hidden window
+/// with pending updates prevents this for all windows, so closed windows must be destroyed
+/// (OVWindowOnDemand). A lock around the frames of render threads is no alternative: a grabbed frame has no
+/// signal after its end.
 ///
 /// Requires the application object. Must be called before the first QQuickWindow is created, on the main
 /// thread. Does nothing if the environment selects a render loop (QSG_RENDER_LOOP), or without OpenGL.

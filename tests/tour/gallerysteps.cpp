@@ -97,6 +97,6 @@ void walkGallery(Driver &driver, sdk::demo::DemoSite &site, const QString &folde
     closeLive(driver, live);
     gallery.activate();
     gallery.key(Qt::Key_Escape);
-    driver.await(u"the gallery is closed"_s, [&] { return !gallery.window()->isVisible(); });
+    awaitClosed(driver, gallery);
     site.clearFault(refusingMac, sdk::demo::Fault::WrongPassword);
 }

@@ -178,11 +178,11 @@ void restartRecorder(const Driver &driver, sdk::demo::DemoSite &site, int second
 }
 
 /// The window is opened while its device restarts. The stream starts without a user action.
-void walkRestart(Driver &driver, Driver &live, sdk::demo::DemoSite &site)
+void walkRestart(const Driver &driver, sdk::demo::DemoSite &site, const QString &folder)
 {
     constexpr int longerThanALogin = 8;
     restartRecorder(driver, site, longerThanALogin);
-    openLive(driver, recorder);
+    Driver live(openLive(driver, recorder), folder);
     const QString failure = QCoreApplication::translate("LoginMemory", "%1 没有应答").arg(recorder);
     live.await(u"the time of the next attempt is shown"_s, [&] {
         const QString hint = live.text(u"emptyHint"_s);
@@ -199,6 +199,7 @@ void walkRestart(Driver &driver, Driver &live, sdk::demo::DemoSite &site)
     awaitFrames(live, 4);
     live.report(u"device-restarted-while-shown"_s, live.text(u"liveTitle"_s));
     site.clearFault(recorderMac, sdk::demo::Fault::RebootTakes);
+    closeLive(driver, live);
 }
 
 } // namespace
@@ -213,8 +214,7 @@ void walkLive(Driver &driver, sdk::demo::DemoSite &site, const QString &folder)
     walkRecorder(live);
     walkSnapshots(live);
     closeLive(driver, live);
-    walkRestart(driver, live, site);
-    closeLive(driver, live);
+    walkRestart(driver, site, folder + u"/restart"_s);
     driver.activate();
     driver.fill(u"searchField"_s, QString());
     driver.key(Qt::Key_Escape);

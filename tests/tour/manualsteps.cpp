@@ -378,7 +378,7 @@ void showGallery(const Driver &driver, const QString &folder)
         u"all images are fetched"_s, [&] { return gallery.find(u"galleryAgainButton"_s) != nullptr; }, 60);
     gallery.save(u"gallery"_s);
     gallery.key(Qt::Key_Escape);
-    driver.await(u"the gallery is closed"_s, [&] { return !gallery.window()->isVisible(); });
+    awaitClosed(driver, gallery);
     driver.activate();
 }
 

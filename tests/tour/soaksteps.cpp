@@ -224,7 +224,7 @@ void workOnImages(const Driver &driver)
     gallery.await(
         u"the images are saved"_s, [&] { return gallery.find(u"galleryFolder"_s) != nullptr; }, 60);
     gallery.click(u"liveCloseButton"_s);
-    driver.await(u"the gallery is closed"_s, [&] { return !gallery.window()->isVisible(); });
+    awaitClosed(driver, gallery);
     driver.activate();
 }
 

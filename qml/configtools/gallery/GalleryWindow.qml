@@ -10,6 +10,7 @@ T.ApplicationWindow {
     required property Batches batches  // starts batches for all pages; one batch runs at a time
     required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     required property var localConfig  // a CLocalConfig: the settings of the application
+    property string storedGeometry  // see WindowGeometry.stored
     readonly property bool maximised: visibility === Window.Maximized
     readonly property alias gallery: gallery
     property string folder  // path of the folder of the last save
@@ -28,6 +29,11 @@ T.ApplicationWindow {
         grid.currentIndex = 0;
         grid.positionViewAtBeginning();
         grid.forceActiveFocus();
+    }
+
+    /// See WindowGeometry.text().
+    function geometryText() {
+        return geometry.text();
     }
 
     /// Requests the live view of the channel of a cell. Ignores an invalid index.
@@ -69,6 +75,11 @@ T.ApplicationWindow {
     title: qsTr("设备图像")
     onClosing: gallery.clear()
 
+    WindowGeometry {
+        id: geometry
+        stored: window.storedGeometry
+        window: window
+    }
     ImageGallery {
         id: gallery
         batches: window.batches

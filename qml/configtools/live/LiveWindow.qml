@@ -12,8 +12,11 @@ T.ApplicationWindow {
     required property BusyState busyState  // running work of all pages, and the actions that it blocks
     required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     required property var localConfig  // a CLocalConfig: the settings of the application
+    property string storedGeometry  // see WindowGeometry.stored
     readonly property bool fullScreen: visibility === Window.FullScreen
     readonly property bool maximised: visibility === Window.Maximized
+    property alias figuresShown: grid.figuresShown
+    property alias stretched: grid.stretched
     property int visibilityBefore: Window.Windowed  // before the full screen
     property int firstChannel: 0   // channel of the first device to show after the login; 0 or less: the first ones
     property string earlier        // "address:port" of the previous and the next device, "" for none
@@ -51,6 +54,11 @@ T.ApplicationWindow {
         requestActivate();
         device.open(ipport);
         findNeighbours();
+    }
+
+    /// See WindowGeometry.text().
+    function geometryText() {
+        return geometry.text();
     }
 
     /// Updates `earlier` and `later` from the order of the devices; both are "" while the window is closed.
@@ -167,6 +175,11 @@ T.ApplicationWindow {
         device.close();
     }
 
+    WindowGeometry {
+        id: geometry
+        stored: window.storedGeometry
+        window: window
+    }
     LiveDevice {
         id: device
         deviceFactory: window.deviceFactory

@@ -63,7 +63,7 @@ Item {
     /// Exits without a question.
     function end() {
         leaving();
-        popups.closeLive();
+        popups.media.close();
         deviceFactory.exitProgram();
     }
 

@@ -84,8 +84,8 @@ StackLayout {
         search: root.search
         searchReports: root.searchReports
         onDemoRequested: root.demoRequested()
-        onGalleryRequested: rows => root.popups.openGallery(rows, modifyIpPage.deviceTable)
-        onLiveRequested: ipport => root.popups.openLive(ipport, modifyIpPage.deviceTable)
+        onGalleryRequested: rows => root.popups.media.openGallery(rows, modifyIpPage.deviceTable)
+        onLiveRequested: ipport => root.popups.media.openLive(ipport, modifyIpPage.deviceTable)
         onReportRequested: root.popups.openSearchReport()
         onNotify: (message, severity) => root.popups.notify(message, severity)
         onSearchRequested: root.searchRequested()
@@ -104,7 +104,7 @@ StackLayout {
                 memory: root.memory
                 notes: root.notes
                 search: root.search
-                onLiveRequested: ipport => root.popups.openLive(ipport, upgrades.deviceTable)
+                onLiveRequested: ipport => root.popups.media.openLive(ipport, upgrades.deviceTable)
                 onNotify: (message, severity) => root.popups.notify(message, severity)
                 onSearchRequested: root.searchRequested()
                 onSelectionChanged: root.popups.removeRefusals()
@@ -125,7 +125,7 @@ StackLayout {
                 libraryInstalled: root.libraryInstalled
                 notes: root.notes
                 search: root.search
-                onLiveRequested: ipport => root.popups.openLiveOfTree(ipport, configs.treeDevices)
+                onLiveRequested: ipport => root.popups.media.openLiveOfTree(ipport, configs.treeDevices)
                 onNotify: (message, severity, duration) => root.popups.notify(message, severity, duration)
                 onSearchRequested: root.searchRequested()
                 onSelectionChanged: root.popups.removeRefusals()
@@ -145,7 +145,7 @@ StackLayout {
                 libraryInstalled: root.libraryInstalled
                 notes: root.notes
                 search: root.search
-                onLiveRequested: ipport => root.popups.openLiveOfTree(ipport, systems.treeDevices)
+                onLiveRequested: ipport => root.popups.media.openLiveOfTree(ipport, systems.treeDevices)
                 onNotify: (message, severity) => root.popups.notify(message, severity)
                 onSearchRequested: root.searchRequested()
                 onSelectionChanged: root.popups.removeRefusals()
@@ -165,7 +165,7 @@ StackLayout {
                 memory: root.memory
                 notes: root.notes
                 search: root.search
-                onLiveRequested: ipport => root.popups.openLive(ipport, commands.deviceTable)
+                onLiveRequested: ipport => root.popups.media.openLive(ipport, commands.deviceTable)
                 onNotify: (message, severity) => root.popups.notify(message, severity)
                 onSearchRequested: root.searchRequested()
                 onSelectionChanged: root.popups.removeRefusals()

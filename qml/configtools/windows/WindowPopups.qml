@@ -25,6 +25,7 @@ Item {
     required property var webPages  // a WebPages: opens web pages of devices in the browser
     required property SiteReport siteReport  // collects the values and images of a site report, and writes its files
     required property var memory  // a ViewMemory: named texts in the settings
+    readonly property alias media: media  // live window and gallery
     signal siteReportRequested  // by the menu: open the dialog with the ticked rows, see openSiteReport()
     signal helpRequested  // open the manual
     signal questionsRequested  // open the questions and answers
@@ -68,33 +69,9 @@ Item {
         restart.instance().open();
     }
 
-    /// Opens the live window with the device at `ipport`. `table` is the list of the device, a DeviceTableModel. The
-    /// buttons for the previous and the next device step through its ticked devices, or all rows if none is ticked.
-    function openLive(ipport, table) {
-        live.instance().open(ipport, -1, table, table.checkedCount > 0 ? table.checkedRows() : []);
-    }
-
-    /// Like openLive() for a device of a tree, an OVTreeModel. No devices can be added to the live window then.
-    function openLiveOfTree(ipport, tree) {
-        live.instance().open(ipport, -1, null, tree.devicesToWatch());
-    }
-
-    /// Opens the gallery with images of devices. `rows`: values of rows of `table`, a DeviceTableModel.
-    function openGallery(rows, table) {
-        const window = gallery.instance();
-        window.table = table;
-        window.open(rows);
-    }
-
     /// Opens a site file.
     function openSite(path) {
         siteFiles.openSite(path);
-    }
-
-    /// Closes the live window and the images.
-    function closeLive() {
-        live.item?.close();
-        gallery.item?.close();
     }
 
     /// Shows a message that the user must confirm.
@@ -283,28 +260,13 @@ Item {
             version: root.version
         }
     }
-    OVOnDemand {
-        id: live
-        visible: false
-        sourceComponent: LiveWindow {
-            batches: root.batches
-            busyState: root.busyState
-            deviceFactory: root.deviceFactory
-            localConfig: root.localConfig
-            onNotify: (message, severity) => root.notify(message, severity)
-        }
-    }
-    OVOnDemand {
-        id: gallery
-        visible: false
-        sourceComponent: GalleryWindow {
-            id: images
-            property DeviceTableModel table: null
-            batches: root.batches
-            deviceFactory: root.deviceFactory
-            localConfig: root.localConfig
-            onLiveRequested: (ipport, channel) => live.instance().open(ipport, channel, table, images.gallery.devices())
-        }
+    MediaWindows {
+        id: media
+        batches: root.batches
+        busyState: root.busyState
+        deviceFactory: root.deviceFactory
+        localConfig: root.localConfig
+        onNotify: (message, severity) => root.notify(message, severity)
     }
     OVOnDemand {
         id: messageBox

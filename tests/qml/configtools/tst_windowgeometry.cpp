@@ -112,6 +112,54 @@ private Q_SLOTS:
         window->showNormal();
         QTRY_COMPARE(textOf(*window), "20 30 420 310");
     }
+
+    /// A closed window is destroyed when its work has ended. The next one has its position and size.
+    void aClosedWindowIsCreatedAgain()
+    {
+        QQmlEngine engine;
+        const auto scene =
+            openScene(engine, "    OVWindowOnDemand {\n"
+                              "        id: loader; objectName: 'loader'\n"
+                              "        sourceComponent: T.ApplicationWindow {\n"
+                              "            id: window; width: 300; height: 200\n"
+                              "            property string storedGeometry: loader.geometry\n"
+                              "            function geometryText() { return geometry.text(); }\n"
+                              "            WindowGeometry {\n"
+                              "                id: geometry; objectName: 'geometry'; window: window\n"
+                              "                stored: window.storedGeometry\n"
+                              "            }\n"
+                              "        }\n"
+                              "    }\n");
+        QVERIFY(scene);
+        auto *loader = scene->findChild<QQuickItem *>("loader");
+        const auto open = [loader] {
+            QMetaObject::invokeMethod(loader, "instance");
+            const QPointer<QQuickWindow> window(
+                qobject_cast<QQuickWindow *>(loader->property("item").value<QObject *>()));
+            if (window)
+                window->show();
+            return window;
+        };
+        const QPointer<QQuickWindow> first = open();
+        QVERIFY(first && QTest::qWaitForWindowExposed(first));
+        first->setGeometry(20, 30, 420, 310);
+        QTRY_COMPARE(textOf(*first), "20 30 420 310");
+        loader->setProperty("kept", true);
+        first->close();
+        QCoreApplication::processEvents();
+        QVERIFY(first);
+        QCOMPARE(open(), first); // opened again before its work has ended
+        loader->setProperty("kept", false);
+        QCoreApplication::processEvents();
+        QVERIFY(first);
+        loader->setProperty("kept", true);
+        first->close();
+        loader->setProperty("kept", false);
+        QTRY_VERIFY(!first);
+        const QPointer<QQuickWindow> second = open();
+        QVERIFY(second);
+        QCOMPARE(second->geometry(), QRect(20, 30, 420, 310));
+    }
 };
 
 QTEST_MAIN(TestWindowGeometry)

@@ -44,9 +44,9 @@ inline void closeSnapshots(const Driver &live, const QString &folder, int count)
                [&] { return !live.find(QStringLiteral("snapshotGrid")); });
 }
 
-/// Closes the live window and waits until it is hidden.
+/// Closes the live window, whose driver cannot be used any longer.
 inline void closeLive(const Driver &driver, const Driver &live)
 {
     live.click(QStringLiteral("liveCloseButton"));
-    driver.await(QStringLiteral("the live window is closed"), [&] { return !live.window()->isVisible(); });
+    awaitClosed(driver, live);
 }

@@ -25,3 +25,10 @@ inline QQuickWindow *awaitWindow(const Driver &driver, const QString &name)
     });
     return visibleWindow(name);
 }
+
+/// Waits until the window of `other` is closed. The application destroys it then.
+inline void awaitClosed(const Driver &driver, const Driver &other)
+{
+    driver.await(QStringLiteral("the window is closed"),
+                 [&] { return !other.window() || !other.window()->isVisible(); });
+}

@@ -196,7 +196,7 @@ void walkImages(Driver &driver, const QString &folder)
     for (const QString &path : std::as_const(images))
         gallery.check(!QImage(path).isNull(), u"%1 is an image"_s.arg(path));
     gallery.click(u"liveCloseButton"_s);
-    driver.await(u"the gallery is closed"_s, [&] { return !gallery.window()->isVisible(); });
+    awaitClosed(driver, gallery);
     driver.activate();
 }
 
