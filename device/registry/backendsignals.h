@@ -6,25 +6,26 @@
 #include <QObject>
 
 #include <atomic>
+#include <cstddef>
 #include <functional>
 #include <tuple>
 #include <type_traits>
 #include <utility>
 
+/// A pointer to a signal as a type. GCC cannot compare the pointers in a constant expression with sanitizers.
+template<auto signal>
+struct SignalType
+{
+};
+
 /// Whether `signal`, a pointer to a signal of CDeviceBase, is in the list forwardedSignals, whose signals the
 /// factory forwards.
 template<auto signal>
-inline constexpr bool isForwarded = std::apply(
-    [](auto... forwarded) {
-        const auto isSame = [](auto other) {
-            if constexpr (std::is_same_v<decltype(other), decltype(signal)>)
-                return other == signal;
-            else
-                return false;
-        };
-        return (isSame(forwarded) || ...);
-    },
-    forwardedSignals);
+inline constexpr bool isForwarded = []<std::size_t... index>(std::index_sequence<index...>)
+{
+    return (std::is_same_v<SignalType<signal>, SignalType<std::get<index>(forwardedSignals)>> || ...);
+}
+(std::make_index_sequence<std::tuple_size_v<decltype(forwardedSignals)>>());
 
 /// Emits the signals of one back end for its components. The back end owns this object. Functions may be
 /// called on any thread unless stated otherwise.
