@@ -18,8 +18,9 @@ struct SettingSubject
 /// The subject with the name "encode", "image" or "system"; nullopt for another name.
 [[nodiscard]] std::optional<SettingSubject> subjectNamed(const QString &name);
 
-/// The channel of "--channel", converted to count from 0; 0 without that option. nullopt if its value is not
-/// an integer of at least 1. Whether a device has the channel is not known here.
+/// The channel of "--channel", also of the command "snapshot", converted to count from 0; 0 without that
+/// option. nullopt if its value is not an integer of at least 1. Whether a device has the channel is not
+/// known here.
 [[nodiscard]] std::optional<int> channelOf(const Arguments &arguments);
 
 } // namespace commandline

@@ -15,9 +15,10 @@ namespace sheets {
 /// ignored. False also when a cell cannot be read.
 [[nodiscard]] bool beginsWithTitles(QExcel &excel, const QStringList &titles);
 
-/// The number of the last non-empty row, from 1. For an empty sheet it is below 1, with the spreadsheet
-/// application 1. It is below 1 if both the first row and the number of rows of the used range cannot be
-/// read, and too small if one of them cannot be read.
+/// The number of the last non-empty row, from 1; the spreadsheet application also counts rows that have only
+/// formats. For an empty sheet it is below 1, with the spreadsheet application 1. It is below 1 if both the
+/// first row and the number of rows of the used range cannot be read, and too small if one of them cannot be
+/// read.
 [[nodiscard]] int lastUsedRow(QExcel &excel);
 
 /// The text of a cell without spaces at its ends; empty also when the cell cannot be read.

@@ -32,7 +32,7 @@ public:
     /// Removes the incomplete file.
     void remove();
 
-    /// Whether open(), write() or complete() has failed.
+    /// Whether open() or write() has failed, until complete(), or complete() has failed.
     [[nodiscard]] bool hasFailed() const { return !m_failure.isEmpty(); }
     /// The error text of the system for that failure; empty without one.
     [[nodiscard]] const QString &failure() const { return m_failure; }

@@ -2,6 +2,6 @@
 
 #include <QString>
 
-/// The name of the only device family that the window uses: the first argument of the operations of
-/// CDeviceFactory.
+/// The name of the device family, which is the name of a back end in CDeviceFactory: the first argument of
+/// its operations. The other families have no operations.
 inline const QString dhFamily = QStringLiteral("dh");

@@ -41,11 +41,12 @@ public:
     MatroskaWriter &operator=(const MatroskaWriter &) = delete;
 
     /// Writes a packet, which stays the caller's. It has `pts`, `time_base` and the `stream_index` of a track
-    /// of the writer (videoTrack, or soundTrack if it has sound); `dts` is not used. Frames are in decoding
-    /// order. The time of a frame may be up to `longestReordering` before that of an earlier packet of its
-    /// track; an even earlier time is raised to that limit. The stream starts with the first key frame of
-    /// video, at time 0. Packets of both tracks before it, and packets with an earlier time, are dropped with
-    /// the result true. Returns false if there is no memory or FFmpeg refuses the packet.
+    /// of the writer (videoTrack, or soundTrack if it has sound), and `duration` and the flag of key frames;
+    /// `dts` is not used. Frames are in decoding order. The time of a frame may be up to `longestReordering`
+    /// before that of an earlier packet of its track; an even earlier time is raised to that limit. The
+    /// stream starts with the first key frame of video, at time 0. Packets of both tracks before it, and
+    /// packets with an earlier time, are dropped with the result true. Returns false if there is no memory or
+    /// FFmpeg refuses the packet.
     [[nodiscard]] bool write(const AVPacket &packet);
 
     /// Removes and returns the bytes that were written since the last call; empty if there are none.

@@ -13,6 +13,7 @@
 [[nodiscard]] QList<bool> connectedChannels(const ConfigSession &session, int count);
 
 /// Maps of "channel" (from 0), "name" (reported by the device; without one made of the number from 1) and
-/// "connected" for the channels of connectedChannels(). Sends one request for each channel. If the device
-/// stops responding, the remaining channels have no reported name. Blocks; any thread.
+/// "connected" for the channels of connectedChannels(). After the requests of connectedChannels(), sends one
+/// request for each channel. If the device stops responding, the remaining channels have no reported name.
+/// Blocks; any thread.
 [[nodiscard]] QVariantList liveChannels(const ConfigSession &session, int count);

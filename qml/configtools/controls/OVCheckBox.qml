@@ -1,5 +1,6 @@
 // A check box, with or without text. A click changes its state, unless the owner sets `nextCheckState`. With `tristate`
-// it can also show a partial selection. In a key group (keygroups.js), Left and Right move to the neighbouring
+// it can also show a partial selection; the owner then sets `nextCheckState`, otherwise a click also sets the partial one.
+// In a key group (keygroups.js), Left and Right move to the neighbouring
 // controls, and Tab leaves the group.
 import QtQuick
 import QtQuick.Templates as T

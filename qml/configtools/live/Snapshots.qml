@@ -1,6 +1,7 @@
 // Takes snapshots of channels of the live window and keeps the results. They are written to files, in a folder for each
 // device in the folder of snapshots. takeAll() takes all channels of the first device as a batch, then those of the
-// added devices one after another, each in the session of its device. take() takes a single channel without a batch.
+// added devices one after another, each in the session of its device. take() takes a single channel without a batch. Both
+// may only be called while `busy` is false.
 import QtQuick
 import configtools
 
@@ -41,7 +42,8 @@ Item {
                 caption: caption, image: "", message: "", state: Snapshots.Waiting};
     }
 
-    /// Takes snapshots of `channels`, elements of LiveGrid.channels: those of the first device first, at least one.
+    /// Takes snapshots of `channels`, elements of LiveGrid.channels: all channels of the first device from 0 on, then any
+    /// channels of added devices. The batch takes every channel of its session and finds the names by these positions.
     /// Returns false and keeps the results if the batch is refused (reported by Batches) or there is no session.
     function takeAll(channels) {
         const own = channels.filter(entry => !entry.companion);

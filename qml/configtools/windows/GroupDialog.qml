@@ -6,7 +6,7 @@ OVDialog {
     id: root
 
     required property KnownDevices knownDevices
-    property var rows: []  // values of the rows of the devices: "group", "name", "ipport"; not empty while open
+    property var rows: []  // complete rows of the device list, see KnownDevices.setGroup(); not empty while open
     property bool ipv6: false  // the rows are those of IPv6 devices
     readonly property int mostChoices: 12  // shown names of existing groups
 

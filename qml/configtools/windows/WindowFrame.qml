@@ -9,8 +9,8 @@ Item {
     required property Window host
     /// Whether the window fills the screen, also in full screen.
     readonly property bool maximised: host.visibility === Window.Maximized || host.visibility === Window.FullScreen
-    property int lastVisibility: Window.Windowed
-    property bool maximisedBefore: false  // before the window was minimised
+    property int lastVisibility: Window.Windowed  // internal
+    property bool maximisedBefore: false  // internal: before the window was minimised
 
     Connections {
         target: root.host

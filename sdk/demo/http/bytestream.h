@@ -45,8 +45,8 @@ private:
     const int m_socket;
 };
 
-/// Whether bytes, or the end of the stream, can be received within `patience` of real time. Blocks until
-/// then.
+/// Whether receive() does not block within `patience` of real time: there are bytes, the end of the stream or
+/// an error. Blocks until then.
 [[nodiscard]] bool isReadable(int socket, std::chrono::milliseconds patience);
 
 } // namespace sdk::demo

@@ -1,5 +1,6 @@
 // A table cell with the problem of a channel name and, for an unsaved name, a button that requests a correction: a name
-// that is too long is truncated, any other one is reverted.
+// that is too long is truncated, any other one is reverted. The table has the roles of ChannelNameForm, and the column of
+// the cell is "trouble".
 import QtQuick
 import configtools
 
