@@ -65,7 +65,8 @@ public:
     void end();
 
     // The results.
-    double longestGap = 0; ///< between two frames, or the last one and the end, in milliseconds
+    double longestGap =
+        0; ///< between two frames, or the last one and the end, in milliseconds; 0 without a frame
     double longestLag = 0; ///< from the due time of sending a frame to its display, in milliseconds
     double lastLag = 0;    ///< the longest lag of the frames of the last four seconds, in milliseconds
     int shown = 0;         ///< number of displayed frames

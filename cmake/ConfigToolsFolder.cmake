@@ -79,7 +79,7 @@ function(configtools_add_test name)
         math(EXPR TEST_TIMEOUT "3 * ${TEST_TIMEOUT}") # every access is checked
     endif()
     if(CONFIGTOOLS_SANITIZER STREQUAL "thread")
-        list(APPEND TEST_SOURCES ${PROJECT_SOURCE_DIR}/scripts/sanitizer/threadpool.cpp)
+        list(APPEND TEST_SOURCES ${PROJECT_SOURCE_DIR}/tests/sanitizer/threadpool.cpp)
     endif()
     add_executable(${name} ${TEST_SOURCES})
     set_target_properties(${name} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)

@@ -19,9 +19,9 @@ class Workbook;
 /// row, or any change after saveAs(), loads the workbook like one from a file. save() fails for a new
 /// workbook until saveAs() has succeeded.
 ///
-/// open() fails for a file of more than 128 MiB or more than 10,000 parts, or with a suspicious compression
-/// ratio. An operation fails if a part that it reads has more than 192 MiB of text, or would take more than 1
-/// GiB of memory as a document.
+/// open() fails for a file of more than 128 MiB or more than 10,000 parts, or with a compression
+/// ratio that only damaged or hostile files have. An operation fails if a part that it reads has more than
+/// 192 MiB of text, or would take more than 1 GiB of memory as a document.
 ///
 /// An object may be used on any thread, by one thread at a time.
 class FileSheetEngine : public SheetEngine

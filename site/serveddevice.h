@@ -20,8 +20,9 @@ class HttpServer;
 class Poller;
 
 /// The interface and the sockets of one device of the scene. follow() adapts them to the state of the device.
-/// Used by one thread. Messages and new connections are handled on the poller's thread, requests on threads
-/// of the servers.
+/// Used by one thread, which is neither the poller's nor a thread of a server. Messages and new connections
+/// are handled on the poller's thread, requests on threads of the servers. follow() and leave() wait for a
+/// running handler of the poller and for the threads of the HTTP connections of the device.
 class ServedDevice
 {
 public:
@@ -86,7 +87,7 @@ private:
     RtspPort m_rtsp;
     FileDescriptor m_httpListener;
     FileDescriptor m_httpsListener;
-    std::shared_ptr<const sdk::demo::DeviceKey> m_key; // created at the first start with HTTPS
+    std::shared_ptr<const sdk::demo::DeviceKey> m_key; // of HTTPS; see SiteOptions::newKeys
     FileDescriptor m_rtspListener;
 };
 

@@ -37,7 +37,7 @@ struct ServiceCall
     ServiceContext &context;
     const HttpReceiver &receiver;        ///< the MAC of the device, and its end of the connection
     const sdk::demo::SceneDevice device; ///< its state at the arrival of the request
-    const DeviceManner manner;           ///< of the device
+    const DeviceManner manner;           ///< variants of the protocol that the device uses
     const LoginOutcome login;            ///< Anonymous if the operation needs no login
     const pugi::xml_node request;        ///< the operation's element of the request
     XmlElement response;                 ///< the operation's element of the response; not sent after a fault

@@ -13,7 +13,7 @@ Item {
     /// The device being added: "dialog" (an AddDeviceDialog), "device" (see AddDeviceDialog.confirmed) and
     /// "isFavourite" (save it as a favourite after success). Null for none.
     property var pending: null
-    property alias favouritesFolder: savedDevices.folder  // path of the folder of the favourites
+    property alias favouritesFolder: savedDevices.folder  // path of the folder of the favourites, with "/" at the end
     signal notify(string message, int severity)  // show this message; severity: an OVToast.Severity
     signal added  // a device was added by hand: the page reads the list again
 

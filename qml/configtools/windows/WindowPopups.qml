@@ -1,5 +1,6 @@
-// Dialogs, menus, messages and further windows of the main window, created on first use. Settings are not changed here:
-// the window handles the signals.
+// Dialogs, menus, messages and further windows of the main window, created on first use. Language, colours and search
+// settings are not changed here: the window handles the signals. The dialog of the site report stores its input in
+// `memory`, and the dialog of accounts changes the stored accounts.
 import QtQuick
 import configtools
 
@@ -24,7 +25,7 @@ Item {
     required property rect toastArea  // see OVToast.area; in pixels, in window coordinates
     required property var webPages  // a WebPages: opens web pages of devices in the browser
     required property SiteReport siteReport  // collects the values and images of a site report, and writes its files
-    required property var memory  // a ViewMemory: named texts in the settings
+    required property var memory  // a ViewMemory: keeps the input of the dialog of the site report
     readonly property alias media: media  // live window and gallery
     signal siteReportRequested  // by the menu: open the dialog with the ticked rows, see openSiteReport()
     signal helpRequested  // open the manual

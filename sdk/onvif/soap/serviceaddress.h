@@ -25,7 +25,7 @@ struct ServiceAddress
 inline constexpr int httpPort = 80;
 inline constexpr int httpsPort = 443;
 
-/// True if HTTPS is used at a port whose protocol is unknown.
+/// Whether HTTPS is assumed at a port whose protocol is unknown.
 [[nodiscard]] constexpr bool isHttpsPort(int port)
 {
     constexpr int otherHttpsPort = 8443;

@@ -16,7 +16,7 @@ OVDialog {
     /// Error of the pattern or a number, "" for none.
     readonly property string fault: plan.fault !== "" ? plan.fault
         : !startField.acceptable || !digitsField.acceptable ? startField.invalidText : ""
-    property bool tried: false  // OK was pressed: the field shows its error
+    property bool tried: false  // OK was pressed: the field also shows the errors of an incomplete pattern
     signal channelsNamed(var channels, var names)  // channels: numbers from 0, as texts; names: in the same order
     signal camerasNamed(var ipports, var names)  // ipports: of the ticked cameras; names: in the same order
 
