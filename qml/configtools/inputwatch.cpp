@@ -18,8 +18,10 @@ void InputWatch::setWindow(QQuickWindow *window)
 
 bool InputWatch::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_window &&
-        (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress))
+    // The type is checked first: a window that is being destroyed, which gets no presses, is no QQuickWindow
+    // any longer.
+    if ((event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress) &&
+        watched == m_window)
         Q_EMIT pressed();
     return false;
 }

@@ -44,7 +44,12 @@ public:
         stream->time_base = track.time_base;
         require(avformat_write_header(m_format, nullptr) >= 0, "header");
     }
-    ~Packetizer() { avformat_free_context(m_format); }
+    ~Packetizer()
+    {
+        m_isEnding = true;
+        av_write_trailer(m_format); // frees the buffer of the muxer
+        avformat_free_context(m_format);
+    }
     Packetizer(const Packetizer &) = delete;
     Packetizer &operator=(const Packetizer &) = delete;
 
@@ -65,6 +70,8 @@ private:
         constexpr int firstReport = 200;
         constexpr int lastReport = 204;
         auto *self = static_cast<Packetizer *>(packetizer);
+        if (self->m_isEnding)
+            return size;
         const bool isControl = size > 1 && bytes[1] >= firstReport && bytes[1] <= lastReport;
         self->m_packets.append({self->m_number * 2 + (isControl ? 1 : 0),
                                 QByteArray(reinterpret_cast<const char *>(bytes), size)});
@@ -76,6 +83,7 @@ private:
     AVFormatContext *m_format = nullptr;
     AvPointer<AVIOContext> m_output;
     std::int64_t m_decoding = -1;
+    bool m_isEnding = false; ///< the message at the end of the stream is not kept
 };
 
 struct Input

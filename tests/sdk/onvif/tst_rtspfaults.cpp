@@ -21,6 +21,12 @@ namespace sdk::onvif {
 
 namespace {
 
+#ifdef __SANITIZE_ADDRESS__
+constexpr bool keepsFreedMemory = true; // to find accesses to it
+#else
+constexpr bool keepsFreedMemory = false;
+#endif
+
 const QByteArray okay = "RTSP/1.0 200 OK\r\nCSeq: CSEQ\r\n";
 
 /// Nine small frames; the first one and every fifth are key frames.
@@ -207,7 +213,7 @@ void TestRtspFaults::faultEndsTheStream()
     QTRY_VERIFY(!watcher.end().isEmpty());
     QTEST(watcher.end(), "end");
     QVERIFY2(time.elapsed() < longest, QByteArray::number(time.elapsed()).constData());
-    QVERIFY(ffmpeg::processMegabytes("VmHWM:") - before < mostMegabytes);
+    QVERIFY(keepsFreedMemory || ffmpeg::processMegabytes("VmHWM:") - before < mostMegabytes);
 }
 
 void TestRtspFaults::passwordIsTriedOnce_data()
