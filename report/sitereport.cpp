@@ -262,7 +262,7 @@ DeviceStep SiteReport::stepOf(const BatchDevice &device) const
                  });
              }});
     return [inspection, images](const StepControl &control) {
-        const StepOutcome outcome = inspection(control);
+        StepOutcome outcome = inspection(control);
         if (outcome.result != resultCode(LoginResult::Success))
             return outcome;
         control.noteProgress();
