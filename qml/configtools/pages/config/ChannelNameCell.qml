@@ -72,8 +72,9 @@ OVTableCell {
         Keys.onDownPressed: root.leftFor(root.rowIndex + 1)
         Keys.onEnterPressed: root.confirmed()
         Keys.onEscapePressed: event => {
-            event.accepted = root.row.changed;
+            event.accepted = root.row.changed || field.text !== root.name;
             root.reverted();
+            field.text = root.name;  // input that the table has not read yet never becomes the name
         }
         Keys.onReturnPressed: root.confirmed()
         Keys.onUpPressed: root.leftFor(root.rowIndex - 1)
