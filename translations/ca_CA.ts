@@ -3612,6 +3612,21 @@ Feu clic amb el botó dret per copiar el resultat</translation>
     </message>
 </context>
 <context>
+    <name>LiveSnapshots</name>
+    <message>
+        <source>无法打开文件夹：%1</source>
+        <translation>No s’ha pogut obrir la carpeta: %1</translation>
+    </message>
+    <message>
+        <source>抓图</source>
+        <translation>Instantànies</translation>
+    </message>
+    <message>
+        <source>设备已移出画面</source>
+        <translation>El dispositiu ja no es mostra</translation>
+    </message>
+</context>
+<context>
     <name>LiveTitleBar</name>
     <message>
         <source>实时画面</source>
@@ -3759,10 +3774,6 @@ Feu clic amb el botó dret per copiar el resultat</translation>
         <source>登录失败</source>
         <translation>Inici de sessió fallit</translation>
     </message>
-    <message>
-        <source>无法打开文件夹：%1</source>
-        <translation>No s’ha pogut obrir la carpeta: %1</translation>
-    </message>
     <message numerus="yes">
         <source>%1，%n 秒后重试</source>
         <translation>
@@ -3771,20 +3782,12 @@ Feu clic amb el botó dret per copiar el resultat</translation>
         </translation>
     </message>
     <message>
-        <source>抓图</source>
-        <translation>Instantànies</translation>
-    </message>
-    <message>
         <source>勾选的设备都已在画面中</source>
         <translation>Tots els dispositius seleccionats ja es mostren</translation>
     </message>
     <message>
         <source>最多加入 %1 台设备，其余 %2 台没有加入</source>
         <translation>Es poden afegir com a màxim %1 dispositius. %2 no s’han afegit.</translation>
-    </message>
-    <message>
-        <source>设备已移出画面</source>
-        <translation>El dispositiu ja no es mostra</translation>
     </message>
 </context>
 <context>

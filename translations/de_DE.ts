@@ -3612,6 +3612,21 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
     </message>
 </context>
 <context>
+    <name>LiveSnapshots</name>
+    <message>
+        <source>无法打开文件夹：%1</source>
+        <translation>Der Ordner konnte nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>抓图</source>
+        <translation>Schnappschüsse</translation>
+    </message>
+    <message>
+        <source>设备已移出画面</source>
+        <translation>Das Gerät wird nicht mehr angezeigt</translation>
+    </message>
+</context>
+<context>
     <name>LiveTitleBar</name>
     <message>
         <source>实时画面</source>
@@ -3759,10 +3774,6 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
         <source>登录失败</source>
         <translation>Anmeldung fehlgeschlagen</translation>
     </message>
-    <message>
-        <source>无法打开文件夹：%1</source>
-        <translation>Der Ordner konnte nicht geöffnet werden: %1</translation>
-    </message>
     <message numerus="yes">
         <source>%1，%n 秒后重试</source>
         <translation>
@@ -3771,20 +3782,12 @@ Rechtsklick, um das Ergebnis zu kopieren</translation>
         </translation>
     </message>
     <message>
-        <source>抓图</source>
-        <translation>Schnappschüsse</translation>
-    </message>
-    <message>
         <source>勾选的设备都已在画面中</source>
         <translation>Alle ausgewählten Geräte werden bereits angezeigt</translation>
     </message>
     <message>
         <source>最多加入 %1 台设备，其余 %2 台没有加入</source>
         <translation>Es können höchstens %1 Geräte hinzugefügt werden. %2 wurden nicht hinzugefügt.</translation>
-    </message>
-    <message>
-        <source>设备已移出画面</source>
-        <translation>Das Gerät wird nicht mehr angezeigt</translation>
     </message>
 </context>
 <context>

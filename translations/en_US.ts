@@ -3612,6 +3612,21 @@ Right-click to copy the result</translation>
     </message>
 </context>
 <context>
+    <name>LiveSnapshots</name>
+    <message>
+        <source>无法打开文件夹：%1</source>
+        <translation>The folder could not be opened: %1</translation>
+    </message>
+    <message>
+        <source>抓图</source>
+        <translation>Snapshots</translation>
+    </message>
+    <message>
+        <source>设备已移出画面</source>
+        <translation>The device is no longer shown</translation>
+    </message>
+</context>
+<context>
     <name>LiveTitleBar</name>
     <message>
         <source>实时画面</source>
@@ -3759,10 +3774,6 @@ Right-click to copy the result</translation>
         <source>登录失败</source>
         <translation>Login failed</translation>
     </message>
-    <message>
-        <source>无法打开文件夹：%1</source>
-        <translation>The folder could not be opened: %1</translation>
-    </message>
     <message numerus="yes">
         <source>%1，%n 秒后重试</source>
         <translation>
@@ -3771,20 +3782,12 @@ Right-click to copy the result</translation>
         </translation>
     </message>
     <message>
-        <source>抓图</source>
-        <translation>Snapshots</translation>
-    </message>
-    <message>
         <source>勾选的设备都已在画面中</source>
         <translation>All selected devices are shown already</translation>
     </message>
     <message>
         <source>最多加入 %1 台设备，其余 %2 台没有加入</source>
         <translation>At most %1 devices can be added. %2 were not added.</translation>
-    </message>
-    <message>
-        <source>设备已移出画面</source>
-        <translation>The device is no longer shown</translation>
     </message>
 </context>
 <context>

@@ -3612,6 +3612,21 @@ Clic derecho para copiar el resultado</translation>
     </message>
 </context>
 <context>
+    <name>LiveSnapshots</name>
+    <message>
+        <source>无法打开文件夹：%1</source>
+        <translation>No se pudo abrir la carpeta: %1</translation>
+    </message>
+    <message>
+        <source>抓图</source>
+        <translation>Capturas</translation>
+    </message>
+    <message>
+        <source>设备已移出画面</source>
+        <translation>El dispositivo ya no se muestra</translation>
+    </message>
+</context>
+<context>
     <name>LiveTitleBar</name>
     <message>
         <source>实时画面</source>
@@ -3759,10 +3774,6 @@ Clic derecho para copiar el resultado</translation>
         <source>登录失败</source>
         <translation>Error de inicio de sesión</translation>
     </message>
-    <message>
-        <source>无法打开文件夹：%1</source>
-        <translation>No se pudo abrir la carpeta: %1</translation>
-    </message>
     <message numerus="yes">
         <source>%1，%n 秒后重试</source>
         <translation>
@@ -3771,20 +3782,12 @@ Clic derecho para copiar el resultado</translation>
         </translation>
     </message>
     <message>
-        <source>抓图</source>
-        <translation>Capturas</translation>
-    </message>
-    <message>
         <source>勾选的设备都已在画面中</source>
         <translation>Todos los dispositivos seleccionados ya se muestran</translation>
     </message>
     <message>
         <source>最多加入 %1 台设备，其余 %2 台没有加入</source>
         <translation>Se pueden añadir como máximo %1 dispositivos. No se añadieron %2.</translation>
-    </message>
-    <message>
-        <source>设备已移出画面</source>
-        <translation>El dispositivo ya no se muestra</translation>
     </message>
 </context>
 <context>

@@ -3612,6 +3612,21 @@ Clic droit pour copier le résultat</translation>
     </message>
 </context>
 <context>
+    <name>LiveSnapshots</name>
+    <message>
+        <source>无法打开文件夹：%1</source>
+        <translation>Le dossier n&apos;a pas pu être ouvert&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>抓图</source>
+        <translation>Captures</translation>
+    </message>
+    <message>
+        <source>设备已移出画面</source>
+        <translation>L&apos;appareil n&apos;est plus affiché</translation>
+    </message>
+</context>
+<context>
     <name>LiveTitleBar</name>
     <message>
         <source>实时画面</source>
@@ -3759,10 +3774,6 @@ Clic droit pour copier le résultat</translation>
         <source>登录失败</source>
         <translation>Échec de l&apos;identification</translation>
     </message>
-    <message>
-        <source>无法打开文件夹：%1</source>
-        <translation>Le dossier n&apos;a pas pu être ouvert&#xa0;: %1</translation>
-    </message>
     <message numerus="yes">
         <source>%1，%n 秒后重试</source>
         <translation>
@@ -3771,20 +3782,12 @@ Clic droit pour copier le résultat</translation>
         </translation>
     </message>
     <message>
-        <source>抓图</source>
-        <translation>Captures</translation>
-    </message>
-    <message>
         <source>勾选的设备都已在画面中</source>
         <translation>Tous les appareils sélectionnés sont déjà affichés</translation>
     </message>
     <message>
         <source>最多加入 %1 台设备，其余 %2 台没有加入</source>
         <translation>%1 appareils au maximum peuvent être ajoutés. %2 n&apos;ont pas été ajoutés.</translation>
-    </message>
-    <message>
-        <source>设备已移出画面</source>
-        <translation>L&apos;appareil n&apos;est plus affiché</translation>
     </message>
 </context>
 <context>

@@ -3612,6 +3612,21 @@ Prema co botón dereito para copiar o resultado</translation>
     </message>
 </context>
 <context>
+    <name>LiveSnapshots</name>
+    <message>
+        <source>无法打开文件夹：%1</source>
+        <translation>Non se puido abrir o cartafol: %1</translation>
+    </message>
+    <message>
+        <source>抓图</source>
+        <translation>Instantáneas</translation>
+    </message>
+    <message>
+        <source>设备已移出画面</source>
+        <translation>O dispositivo xa non se mostra</translation>
+    </message>
+</context>
+<context>
     <name>LiveTitleBar</name>
     <message>
         <source>实时画面</source>
@@ -3759,10 +3774,6 @@ Prema co botón dereito para copiar o resultado</translation>
         <source>登录失败</source>
         <translation>Fallou o inicio de sesión</translation>
     </message>
-    <message>
-        <source>无法打开文件夹：%1</source>
-        <translation>Non se puido abrir o cartafol: %1</translation>
-    </message>
     <message numerus="yes">
         <source>%1，%n 秒后重试</source>
         <translation>
@@ -3771,20 +3782,12 @@ Prema co botón dereito para copiar o resultado</translation>
         </translation>
     </message>
     <message>
-        <source>抓图</source>
-        <translation>Instantáneas</translation>
-    </message>
-    <message>
         <source>勾选的设备都已在画面中</source>
         <translation>Todos os dispositivos seleccionados xa se mostran</translation>
     </message>
     <message>
         <source>最多加入 %1 台设备，其余 %2 台没有加入</source>
         <translation>Pódense engadir como máximo %1 dispositivos. %2 non se engadiron.</translation>
-    </message>
-    <message>
-        <source>设备已移出画面</source>
-        <translation>O dispositivo xa non se mostra</translation>
     </message>
 </context>
 <context>

@@ -3612,6 +3612,21 @@ Clic destro per copiare il risultato</translation>
     </message>
 </context>
 <context>
+    <name>LiveSnapshots</name>
+    <message>
+        <source>无法打开文件夹：%1</source>
+        <translation>Impossibile aprire la cartella: %1</translation>
+    </message>
+    <message>
+        <source>抓图</source>
+        <translation>Istantanee</translation>
+    </message>
+    <message>
+        <source>设备已移出画面</source>
+        <translation>Il dispositivo non è più mostrato</translation>
+    </message>
+</context>
+<context>
     <name>LiveTitleBar</name>
     <message>
         <source>实时画面</source>
@@ -3759,10 +3774,6 @@ Clic destro per copiare il risultato</translation>
         <source>登录失败</source>
         <translation>Accesso non riuscito</translation>
     </message>
-    <message>
-        <source>无法打开文件夹：%1</source>
-        <translation>Impossibile aprire la cartella: %1</translation>
-    </message>
     <message numerus="yes">
         <source>%1，%n 秒后重试</source>
         <translation>
@@ -3771,20 +3782,12 @@ Clic destro per copiare il risultato</translation>
         </translation>
     </message>
     <message>
-        <source>抓图</source>
-        <translation>Istantanee</translation>
-    </message>
-    <message>
         <source>勾选的设备都已在画面中</source>
         <translation>Tutti i dispositivi selezionati sono già mostrati</translation>
     </message>
     <message>
         <source>最多加入 %1 台设备，其余 %2 台没有加入</source>
         <translation>È possibile aggiungere al massimo %1 dispositivi. %2 non sono stati aggiunti.</translation>
-    </message>
-    <message>
-        <source>设备已移出画面</source>
-        <translation>Il dispositivo non è più mostrato</translation>
     </message>
 </context>
 <context>

@@ -3612,6 +3612,21 @@ Klik met rechts om het resultaat te kopiëren</translation>
     </message>
 </context>
 <context>
+    <name>LiveSnapshots</name>
+    <message>
+        <source>无法打开文件夹：%1</source>
+        <translation>De map kon niet worden geopend: %1</translation>
+    </message>
+    <message>
+        <source>抓图</source>
+        <translation>Snapshots</translation>
+    </message>
+    <message>
+        <source>设备已移出画面</source>
+        <translation>Het apparaat wordt niet meer getoond</translation>
+    </message>
+</context>
+<context>
     <name>LiveTitleBar</name>
     <message>
         <source>实时画面</source>
@@ -3759,10 +3774,6 @@ Klik met rechts om het resultaat te kopiëren</translation>
         <source>登录失败</source>
         <translation>Aanmelden mislukt</translation>
     </message>
-    <message>
-        <source>无法打开文件夹：%1</source>
-        <translation>De map kon niet worden geopend: %1</translation>
-    </message>
     <message numerus="yes">
         <source>%1，%n 秒后重试</source>
         <translation>
@@ -3771,20 +3782,12 @@ Klik met rechts om het resultaat te kopiëren</translation>
         </translation>
     </message>
     <message>
-        <source>抓图</source>
-        <translation>Snapshots</translation>
-    </message>
-    <message>
         <source>勾选的设备都已在画面中</source>
         <translation>Alle geselecteerde apparaten worden al getoond</translation>
     </message>
     <message>
         <source>最多加入 %1 台设备，其余 %2 台没有加入</source>
         <translation>Er kunnen maximaal %1 apparaten worden toegevoegd. %2 zijn niet toegevoegd.</translation>
-    </message>
-    <message>
-        <source>设备已移出画面</source>
-        <translation>Het apparaat wordt niet meer getoond</translation>
     </message>
 </context>
 <context>

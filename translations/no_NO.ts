@@ -3612,6 +3612,21 @@ Høyreklikk for å kopiere resultatet</translation>
     </message>
 </context>
 <context>
+    <name>LiveSnapshots</name>
+    <message>
+        <source>无法打开文件夹：%1</source>
+        <translation>Mappen kunne ikke åpnes: %1</translation>
+    </message>
+    <message>
+        <source>抓图</source>
+        <translation>Stillbilder</translation>
+    </message>
+    <message>
+        <source>设备已移出画面</source>
+        <translation>Enheten vises ikke lenger</translation>
+    </message>
+</context>
+<context>
     <name>LiveTitleBar</name>
     <message>
         <source>实时画面</source>
@@ -3759,10 +3774,6 @@ Høyreklikk for å kopiere resultatet</translation>
         <source>登录失败</source>
         <translation>Innlogging mislyktes</translation>
     </message>
-    <message>
-        <source>无法打开文件夹：%1</source>
-        <translation>Mappen kunne ikke åpnes: %1</translation>
-    </message>
     <message numerus="yes">
         <source>%1，%n 秒后重试</source>
         <translation>
@@ -3771,20 +3782,12 @@ Høyreklikk for å kopiere resultatet</translation>
         </translation>
     </message>
     <message>
-        <source>抓图</source>
-        <translation>Stillbilder</translation>
-    </message>
-    <message>
         <source>勾选的设备都已在画面中</source>
         <translation>Alle valgte enheter vises allerede</translation>
     </message>
     <message>
         <source>最多加入 %1 台设备，其余 %2 台没有加入</source>
         <translation>Høyst %1 enheter kan legges til. %2 ble ikke lagt til.</translation>
-    </message>
-    <message>
-        <source>设备已移出画面</source>
-        <translation>Enheten vises ikke lenger</translation>
     </message>
 </context>
 <context>

@@ -3612,6 +3612,21 @@ Clique com o botão direito para copiar o resultado</translation>
     </message>
 </context>
 <context>
+    <name>LiveSnapshots</name>
+    <message>
+        <source>无法打开文件夹：%1</source>
+        <translation>Não foi possível abrir a pasta: %1</translation>
+    </message>
+    <message>
+        <source>抓图</source>
+        <translation>Capturas</translation>
+    </message>
+    <message>
+        <source>设备已移出画面</source>
+        <translation>O dispositivo já não é mostrado</translation>
+    </message>
+</context>
+<context>
     <name>LiveTitleBar</name>
     <message>
         <source>实时画面</source>
@@ -3759,10 +3774,6 @@ Clique com o botão direito para copiar o resultado</translation>
         <source>登录失败</source>
         <translation>Falha ao iniciar sessão</translation>
     </message>
-    <message>
-        <source>无法打开文件夹：%1</source>
-        <translation>Não foi possível abrir a pasta: %1</translation>
-    </message>
     <message numerus="yes">
         <source>%1，%n 秒后重试</source>
         <translation>
@@ -3771,20 +3782,12 @@ Clique com o botão direito para copiar o resultado</translation>
         </translation>
     </message>
     <message>
-        <source>抓图</source>
-        <translation>Capturas</translation>
-    </message>
-    <message>
         <source>勾选的设备都已在画面中</source>
         <translation>Todos os dispositivos selecionados já são mostrados</translation>
     </message>
     <message>
         <source>最多加入 %1 台设备，其余 %2 台没有加入</source>
         <translation>Podem ser adicionados no máximo %1 dispositivos. %2 não foram adicionados.</translation>
-    </message>
-    <message>
-        <source>设备已移出画面</source>
-        <translation>O dispositivo já não é mostrado</translation>
     </message>
 </context>
 <context>

@@ -3661,6 +3661,21 @@ Clic dreapta pentru a copia rezultatul</translation>
     </message>
 </context>
 <context>
+    <name>LiveSnapshots</name>
+    <message>
+        <source>无法打开文件夹：%1</source>
+        <translation>Folderul nu a putut fi deschis: %1</translation>
+    </message>
+    <message>
+        <source>抓图</source>
+        <translation>Instantanee</translation>
+    </message>
+    <message>
+        <source>设备已移出画面</source>
+        <translation>Dispozitivul nu mai este afișat</translation>
+    </message>
+</context>
+<context>
     <name>LiveTitleBar</name>
     <message>
         <source>实时画面</source>
@@ -3808,10 +3823,6 @@ Clic dreapta pentru a copia rezultatul</translation>
         <source>登录失败</source>
         <translation>Autentificare eșuată</translation>
     </message>
-    <message>
-        <source>无法打开文件夹：%1</source>
-        <translation>Folderul nu a putut fi deschis: %1</translation>
-    </message>
     <message numerus="yes">
         <source>%1，%n 秒后重试</source>
         <translation>
@@ -3821,20 +3832,12 @@ Clic dreapta pentru a copia rezultatul</translation>
         </translation>
     </message>
     <message>
-        <source>抓图</source>
-        <translation>Instantanee</translation>
-    </message>
-    <message>
         <source>勾选的设备都已在画面中</source>
         <translation>Toate dispozitivele selectate sunt deja afișate</translation>
     </message>
     <message>
         <source>最多加入 %1 台设备，其余 %2 台没有加入</source>
         <translation>Se pot adăuga cel mult %1 dispozitive. %2 nu au fost adăugate.</translation>
-    </message>
-    <message>
-        <source>设备已移出画面</source>
-        <translation>Dispozitivul nu mai este afișat</translation>
     </message>
 </context>
 <context>

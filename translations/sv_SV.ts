@@ -3612,6 +3612,21 @@ Högerklicka för att kopiera resultatet</translation>
     </message>
 </context>
 <context>
+    <name>LiveSnapshots</name>
+    <message>
+        <source>无法打开文件夹：%1</source>
+        <translation>Mappen kunde inte öppnas: %1</translation>
+    </message>
+    <message>
+        <source>抓图</source>
+        <translation>Stillbilder</translation>
+    </message>
+    <message>
+        <source>设备已移出画面</source>
+        <translation>Enheten visas inte längre</translation>
+    </message>
+</context>
+<context>
     <name>LiveTitleBar</name>
     <message>
         <source>实时画面</source>
@@ -3759,10 +3774,6 @@ Högerklicka för att kopiera resultatet</translation>
         <source>登录失败</source>
         <translation>Inloggning misslyckades</translation>
     </message>
-    <message>
-        <source>无法打开文件夹：%1</source>
-        <translation>Mappen kunde inte öppnas: %1</translation>
-    </message>
     <message numerus="yes">
         <source>%1，%n 秒后重试</source>
         <translation>
@@ -3771,20 +3782,12 @@ Högerklicka för att kopiera resultatet</translation>
         </translation>
     </message>
     <message>
-        <source>抓图</source>
-        <translation>Stillbilder</translation>
-    </message>
-    <message>
         <source>勾选的设备都已在画面中</source>
         <translation>Alla valda enheter visas redan</translation>
     </message>
     <message>
         <source>最多加入 %1 台设备，其余 %2 台没有加入</source>
         <translation>Högst %1 enheter kan läggas till. %2 lades inte till.</translation>
-    </message>
-    <message>
-        <source>设备已移出画面</source>
-        <translation>Enheten visas inte längre</translation>
     </message>
 </context>
 <context>

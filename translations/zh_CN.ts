@@ -3563,6 +3563,21 @@
     </message>
 </context>
 <context>
+    <name>LiveSnapshots</name>
+    <message>
+        <source>无法打开文件夹：%1</source>
+        <translation>无法打开文件夹：%1</translation>
+    </message>
+    <message>
+        <source>抓图</source>
+        <translation>抓图</translation>
+    </message>
+    <message>
+        <source>设备已移出画面</source>
+        <translation>设备已移出画面</translation>
+    </message>
+</context>
+<context>
     <name>LiveTitleBar</name>
     <message>
         <source>实时画面</source>
@@ -3710,19 +3725,11 @@
         <source>登录失败</source>
         <translation>登录失败</translation>
     </message>
-    <message>
-        <source>无法打开文件夹：%1</source>
-        <translation>无法打开文件夹：%1</translation>
-    </message>
     <message numerus="yes">
         <source>%1，%n 秒后重试</source>
         <translation>
             <numerusform>%1，%n 秒后重试</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>抓图</source>
-        <translation>抓图</translation>
     </message>
     <message>
         <source>勾选的设备都已在画面中</source>
@@ -3731,10 +3738,6 @@
     <message>
         <source>最多加入 %1 台设备，其余 %2 台没有加入</source>
         <translation>最多加入 %1 台设备，其余 %2 台没有加入</translation>
-    </message>
-    <message>
-        <source>设备已移出画面</source>
-        <translation>设备已移出画面</translation>
     </message>
 </context>
 <context>

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Runs a task of another owner in the pool, after the hand-over.
+/// Runs a task in the pool, after the hand-over.
 class HandedOverTask final : public QRunnable
 {
 public:

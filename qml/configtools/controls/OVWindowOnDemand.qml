@@ -1,22 +1,17 @@
-// Creates its window on first use and destroys it after it was closed. A hidden window would keep its images. With
+// Creates its window by instance() and destroys it after it was closed; the caller shows it. A hidden window would keep its images. With
 // pending updates it would also keep the textures of the other windows, if all are drawn on one thread.
 //
 // The owner sets `sourceComponent` to a window that has the function geometryText(), see WindowGeometry.text(), and
 // restores `geometry` by a WindowGeometry. This component only stores the geometry before it destroys the window.
 import QtQuick
+import configtools
 
-Loader {
+OVOnDemand {
     id: root
 
     property bool kept: false  // the closed window still has work; it is destroyed when this becomes false
     property string geometry  // position and size of the last window; "" before the first one was closed
     readonly property var window: item  // null before the first use, and after it was closed
-
-    /// The window, created if necessary. The caller shows it.
-    function instance() {
-        active = true;
-        return item;
-    }
 
     /// Destroys the window unless it is shown again or `kept`.
     function release() {
@@ -26,7 +21,6 @@ Loader {
         active = false;
     }
 
-    active: false
     visible: false
     onKeptChanged: releasing.restart()
 

@@ -43,7 +43,7 @@ T.ApplicationWindow {
             requestActivate();
             return;
         }
-        results.item?.close();  // snapshots of another device
+        snapshots.hide();  // those of another device
         toasts.item?.clear();
         removeAll();
         grid.sounding = false;
@@ -89,13 +89,13 @@ T.ApplicationWindow {
 
     /// Removes an added device and ends its session. Its snapshots end first, as they use the session.
     function remove(ipport) {
-        taking.leave(ipport);
+        snapshots.leave(ipport);
         watched.remove(ipport);
     }
 
     /// Same for all added devices.
     function removeAll() {
-        taking.leaveAll();
+        snapshots.leaveAll();
         watched.clear();
     }
 
@@ -128,38 +128,6 @@ T.ApplicationWindow {
             toggleFullScreen();
     }
 
-    /// Takes a snapshot of a channel, an element of LiveGrid.channels, and shows the results.
-    function snap(entry) {
-        taking.take(entry);
-        results.instance().open();
-    }
-
-    /// Repeats the snapshot of a channel (from 0) of a device. If the device was removed, the dialog shows a refusal.
-    function snapAgain(ipport, channel) {
-        const entry = grid.channels.find(shown => shown.ipport === ipport && shown.channel === channel);
-        if (entry)
-            snap(entry);
-        else
-            results.instance().refuse(qsTr("设备已移出画面"));
-    }
-
-    /// Takes snapshots of all channels of all devices and shows the results; nothing if takeAll() returns
-    /// false.
-    function snapAll() {
-        if (taking.takeAll(grid.channels))
-            results.instance().open();
-    }
-
-    /// Opens the folder of the snapshots in the system's file manager. For snapshots of several devices it is the one
-    /// that contains their folders. There must be a snapshot.
-    function openFolder() {
-        const folderOf = path => path.slice(0, path.lastIndexOf("/"));
-        const folders = taking.results.filter(entry => entry.image !== "").map(entry => folderOf(entry.image));
-        const folder = folders.every(other => other === folders[0]) ? folders[0] : folderOf(folders[0]);
-        if (!Qt.openUrlExternally(folder))
-            notify(qsTr("无法打开文件夹：%1").arg(folder), OVToast.Error);
-    }
-
     width: Math.min(Theme.liveWidth, Screen.desktopAvailableWidth)
     height: Math.min(Theme.liveHeight, Screen.desktopAvailableHeight)
     minimumWidth: Math.min(Theme.liveMinimumWidth, Screen.desktopAvailableWidth)
@@ -169,8 +137,8 @@ T.ApplicationWindow {
     objectName: "liveWindow"
     title: device.name !== "" ? device.name : device.ipport
     onClosing: {
-        results.item?.close();
-        taking.stop();
+        snapshots.hide();
+        snapshots.stop();
         removeAll();
         device.close();
     }
@@ -225,16 +193,14 @@ T.ApplicationWindow {
         }
     }
     // qmllint enable unqualified
-    Snapshots {
-        id: taking
+    LiveSnapshots {
+        id: snapshots
         batches: window.batches
+        busyState: window.busyState
+        channels: grid.channels
         deviceFactory: window.deviceFactory
-    }
-    BusyReport {
-        active: taking.busy && !taking.batch && window.visible
-        need: BusyState.Program
-        state: window.busyState
-        title: qsTr("抓图")
+        shown: window.visible
+        onNotify: (message, severity) => window.notify(message, severity)
     }
 
     Shortcut { sequence: "Esc"; onActivated: window.goBack() }
@@ -301,14 +267,14 @@ T.ApplicationWindow {
         full: watched.full
         fullScreen: window.fullScreen
         grid: grid
-        otherBatch: window.batches.running && !taking.batch ? window.batches.current.title : ""
+        otherBatch: window.batches.running && !snapshots.batch ? window.batches.current.title : ""
         several: grid.channels.some(entry => entry.companion)
-        snapping: taking.busy
+        snapping: snapshots.busy
         ticked: order.ticked
         onAdditionRequested: window.addTicked()
         onFullScreenRequested: window.toggleFullScreen()
-        onSnapAllRequested: window.snapAll()
-        onSnapRequested: window.snap(grid.currentEntry)
+        onSnapAllRequested: snapshots.takeAll()
+        onSnapRequested: snapshots.take(grid.currentEntry)
     }
     Rectangle {
         y: titleBar.height
@@ -344,15 +310,6 @@ T.ApplicationWindow {
         sourceComponent: OVToast {
             area: Qt.rect((window.width - Theme.toastWidth) / 2, titleBar.height + Theme.unit, Theme.toastWidth, 0)
             objectName: "liveToasts"
-        }
-    }
-    OVOnDemand {
-        id: results
-        visible: false
-        sourceComponent: SnapshotDialog {
-            snapshots: taking
-            onAgainRequested: (ipport, channel) => window.snapAgain(ipport, channel)
-            onFolderRequested: window.openFolder()
         }
     }
     // qmllint enable unqualified

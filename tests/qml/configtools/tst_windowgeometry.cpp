@@ -118,7 +118,8 @@ private Q_SLOTS:
     {
         QQmlEngine engine;
         const auto scene =
-            openScene(engine, "    OVWindowOnDemand {\n"
+            openScene(engine, "    Timer { objectName: 'later'; interval: 0 }\n"
+                              "    OVWindowOnDemand {\n"
                               "        id: loader; objectName: 'loader'\n"
                               "        sourceComponent: T.ApplicationWindow {\n"
                               "            id: window; width: 300; height: 200\n"
@@ -140,17 +141,22 @@ private Q_SLOTS:
                 window->show();
             return window;
         };
+        auto *later = scene->findChild<QObject *>("later");
+        const auto awaitRelease = [later] { // a timer that starts later ends later
+            QMetaObject::invokeMethod(later, "restart");
+            QTRY_VERIFY(!later->property("running").toBool());
+        };
         const QPointer<QQuickWindow> first = open();
         QVERIFY(first && QTest::qWaitForWindowExposed(first));
         first->setGeometry(20, 30, 420, 310);
         QTRY_COMPARE(textOf(*first), "20 30 420 310");
         loader->setProperty("kept", true);
         first->close();
-        QCoreApplication::processEvents();
+        awaitRelease();
         QVERIFY(first);
         QCOMPARE(open(), first); // opened again before its work has ended
         loader->setProperty("kept", false);
-        QCoreApplication::processEvents();
+        awaitRelease();
         QVERIFY(first);
         loader->setProperty("kept", true);
         first->close();
