@@ -1,8 +1,8 @@
 // The functions of the commands, for the table of commands(). Each function checks the values of its
 // arguments, runs its command to the end, writes results and errors to the terminal of the context, and
-// returns the exit code: 0 all done, 1 some devices failed, were skipped or were not found, 2 invalid
-// arguments or no password, 3 the work could not start, or the file of the export or report could not be
-// written. Main thread; blocks, and runs the event loop.
+// returns the exit code: 0 all done, 1 some devices failed, were skipped or were not found, or the files of
+// the report could not be written, 2 invalid arguments or no password, 3 the work could not start, or the
+// file of the export could not be written. Main thread; blocks, and runs the event loop.
 #pragma once
 
 namespace commandline {

@@ -23,8 +23,8 @@ public:
     /// was requested before the call.
     virtual bool wait(std::chrono::milliseconds duration, const std::stop_token &stop) = 0;
 
-    /// As wait(), until now() has reached `time`, in milliseconds since 1970. A clock that can be stepped
-    /// overrides this function: in this implementation, a step between now() and wait() would be lost.
+    /// As wait(), until now() has reached `time`, in milliseconds since 1970. This implementation ignores
+    /// steps of the clock after the call. A clock whose steps must end the wait overrides it.
     virtual bool waitUntil(std::int64_t time, const std::stop_token &stop)
     {
         return wait(std::chrono::milliseconds(time - now()), stop);

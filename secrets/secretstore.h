@@ -66,6 +66,6 @@ public:
     /// Removes the secret of a file. Success if there is none.
     [[nodiscard]] virtual SecretProblem remove(const QString &file) = 0;
 
-    /// Ends a running function soon, and each later one. Any thread.
+    /// Ends a running function soon, and each later one, which then return a problem. Any thread.
     virtual void interrupt() = 0;
 };

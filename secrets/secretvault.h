@@ -44,8 +44,10 @@ public:
     /// Calls finish().
     ~SecretVault() override;
 
-    /// Waits until the service has done the work of earlier calls, up to two seconds, and emits the signals
-    /// of that work. Other work is given up. Called at the end of the application; later calls do nothing.
+    /// Waits until the service has done the work of earlier calls, up to 2 s, then interrupts it and waits up
+    /// to 3 s more. While Loading, it is interrupted at once. Emits the signals of the work that has ended;
+    /// other work is cancelled. Called at the end of the application: the state is Unavailable afterwards,
+    /// value() keeps its results, and no other function may be called.
     void finish();
 
     [[nodiscard]] State state() const { return m_state; }
@@ -54,15 +56,16 @@ public:
     /// Waits until the passwords are read, up to `limit`, and emits loaded() in that case.
     void awaitLoaded(std::chrono::milliseconds limit);
 
-    /// The password of a file. Empty if the service has none, or is not Ready.
+    /// The password of a file. Empty if the service has none, and before the passwords have been read.
     [[nodiscard]] QString value(const QString &file) const { return m_values.value(file); }
 
     /// Passes a password to the service. kept() follows on success, otherwise problem() changes. Does nothing
     /// while the service is not Ready.
     void keep(const Secret &secret);
 
-    /// Removes the password of a file from the service, if it has one. problem() changes if the password
-    /// stays there, also while the service is Unavailable.
+    /// Removes the password of a file from the service, if it has one. value() is empty then; a removal while
+    /// the service is Loading takes effect after loaded(). problem() changes if the password stays there,
+    /// also while the service is Unavailable.
     void remove(const QString &file);
 
     /// Reports that a password is needed which the service has, but cannot return: problem() changes if the

@@ -45,7 +45,9 @@ struct TextStyle
 class PageWriter
 {
 public:
-    /// `device` must outlive this object. `pageCount` is shown in the foot.
+    /// `device` must have the resolution `unitsPerInch` and no page margins. `painter` must be active on
+    /// `device`, without a transformation; null: only measure. Both must outlive this object. `pageCount` is
+    /// shown in the foot.
     PageWriter(QPdfWriter &device, QPainter *painter, const QString &footText, int pageCount);
 
     [[nodiscard]] bool isMeasuring() const { return !m_painter; }
@@ -81,7 +83,8 @@ public:
     /// up to six lines are shown. If `marksRows`, each row has a dot in the colour of a warning.
     void table(const QList<Column> &columns, const QList<QStringList> &rows, bool marksRows);
 
-    /// All texts that were drawn, or would be drawn when measuring, for withSearchableText().
+    /// All texts that were drawn, also those that were shortened, in full; without the foot when measuring.
+    /// For withSearchableText().
     [[nodiscard]] const QString &allText() const { return m_allText; }
 
 private:

@@ -24,10 +24,12 @@ public:
     bool load(const QByteArray &file);
 
     /// Stores the changes of the selected sheet in the package, and selects another sheet. `index` is from 1;
-    /// sheets without cells, such as chart sheets, are not counted. On failure the selection is unchanged.
+    /// sheets that cannot have cells, such as chart sheets, are not counted. On failure the selection is
+    /// unchanged.
     bool selectSheet(int index);
 
-    // The operations below require a selected sheet. They are those of Worksheet on it.
+    // The operations below, up to setRowHeight(), require a selected sheet. They are those of Worksheet on
+    // it.
 
     /// From the first to the last row with a value or a formula; both numbers are 0 for an empty sheet.
     [[nodiscard]] UsedRows usedRows() const;

@@ -19,9 +19,9 @@ struct DeviceAccount;
 
 /// Copies the encode settings of the current channel to the channel with the same number of each device. The
 /// settings are those that the current session has read at the time of the call, with changes of the page
-/// that are not written yet. Settings that a device does not support are skipped. "result" of the device's
-/// row lists them, and is empty otherwise. Nothing is sent to a device that is being upgraded. Lives on the
-/// main thread; its steps run on any thread.
+/// that are not written yet: those of the selected kind of main stream, and of the sub stream. Settings that
+/// a device does not support are skipped. "result" of the device's row lists them, and is empty otherwise.
+/// Nothing is sent to a device that is being upgraded. Lives on the main thread; its steps run on any thread.
 class EncodeCopies
 {
     Q_DECLARE_TR_FUNCTIONS(EncodeCopies)
@@ -32,11 +32,11 @@ public:
 
     /// Copies to devices by address and port, one after another. Blocks for the devices. Emits
     /// signalCDeviceRetToCopyConfig with the result of each: that of a failed login, Upgrading, or that of
-    /// copyEncodeSettings(); 10 also if the current session has read no settings.
+    /// copyEncodeSettings(); `capabilitiesUnknown` also if the current session has read no settings.
     void copyTo(const QStringList &devices);
 
-    /// Makes the steps of copyTo() for single devices; they share the settings of this call. The text of an
-    /// outcome lists the skipped settings.
+    /// Makes the steps of copyTo() for single devices; they share the settings of this call. A step emits no
+    /// signal: the text of its outcome lists the skipped settings.
     [[nodiscard]] DeviceStepMaker steps();
 
 private:

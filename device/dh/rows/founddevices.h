@@ -27,7 +27,7 @@ public:
                  UpgradeCheck isUpgrading);
 
     /// Initialises a device: creates its first account. After a success the account is set in the device's
-    /// row. Any thread; blocks for the device. For a device without a search record, and without a network
+    /// row. Any thread; blocks for the device. If the device has no search record, or there is no network
     /// library, no request is sent and the result is Success.
     StepOutcome initialise(const QString &mac, const QString &account, const QString &password);
 
@@ -39,9 +39,9 @@ public:
     /// Changes the address of a device. The row then has the new address, with DHCP an empty one, even if
     /// the device refuses the request or does not respond: "unconfirmed" of the row is true then. Without a
     /// request, and with an unchanged address, the result is Upgrading during an upgrade and NotInitialised
-    /// for a device that is not initialised. For a device without a search record, and without a network
+    /// for a device that is not initialised. If the device has no search record, or there is no network
     /// library, no request is sent, and the row and the result are as after a success. The texts are ignored
-    /// with `dhcpON`. Blocks for the device.
+    /// with `dhcpON`. Any thread; blocks for the device.
     void changeAddress(const QString &mac, const QString &newip, const QString &newsubmask,
                        const QString &newgateway, bool dhcpON);
 

@@ -45,7 +45,7 @@ OVTableCell {
         anchors.rightMargin: Theme.half
         height: parent.height
         objectName: "stateText" + root.rowIndex
-        opacity: truncated ? 0 : 1  // only the sign; the tool tip has the text
+        opacity: truncated ? 0 : 1  // only the sign; the label's tool tip has the text
         text: root.missing ? qsTr("未找到") : root.absent ? qsTr("待确认")
             : root.value ? qsTr("已初始化") : qsTr("未初始化")
     }

@@ -26,9 +26,10 @@ QtObject {
     property bool stopping: false  // the running search was asked to stop; after its end: it was stopped
     property var next: null  // settings of the search to start after the running one; null for none
 
-    /// Starts a search of the networks in `settings`, see SearchSettings.read(); also sets its default account. A
-    /// running search is stopped first, and the new one starts after its end: two searches would fill the same list and
-    /// report one end.
+    /// Starts a search of the networks in `settings`, which must be the stored ones, see SearchSettings.read(): their
+    /// range and default account are passed to the back end, which reads from the settings file when the search starts
+    /// whether the local network is searched and whether devices are logged in to. A running search is stopped first,
+    /// and the new one starts after its end: two searches would fill the same list and report one end.
     function start(settings) {
         if (running) {
             next = settings;

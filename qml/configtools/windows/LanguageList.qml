@@ -1,4 +1,4 @@
-// The languages of the menu: the code of each, and its name. The order is that of the language codes of CLocalConfig.
+// The languages of the menu: the code of each, and its name. The order is that of languageCodes in app/languages.h.
 import QtQml
 
 QtObject {
@@ -14,7 +14,7 @@ QtObject {
     ]
 
     /// Removes the entries with these indexes, which are in ascending order: languages without a translation file. The
-    /// last one is removed first, so that the other indexes stay valid.
+    /// last one is removed first, so that the other indexes stay valid. Called once: the indexes are of all languages.
     function remove(indexes) {
         const kept = entries.slice();
         for (let i = indexes.length - 1; i >= 0; --i)

@@ -1,6 +1,7 @@
 // Input of new addresses, for one device or for a batch. The dialog changes nothing: the owner reads the input on
-// `confirmed` and closes the dialog. Warnings of one device are shown at the fields, and a second OK confirms them.
-// Warnings of a batch are confirmed by a question. For a batch, the preview opens when the addresses are known.
+// `confirmed` and closes the dialog. Warnings of one device are shown at the fields, and a second OK confirms them; a
+// device that cannot be changed is then skipped by the owner. Warnings of a batch are confirmed by a question. For a
+// batch, the preview opens when the addresses are known.
 import QtQuick
 import configtools
 

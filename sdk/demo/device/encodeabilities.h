@@ -27,7 +27,7 @@ struct StreamAbilities
         return sizesByCompression.isEmpty() ? sizes : sizesByCompression.value(compression);
     }
 
-    /// The encoder's highest bit rate in kbit/s for a frame size in pixels: proportional to the size, between
+    /// The encoder's highest bit rate in kbit/s for a frame size in pixels: 1 for each 50 pixels, between
     /// minimumBitRate and maximumBitRate. maximumBitRate for a side of 0 or less.
     [[nodiscard]] int maximumBitRateOf(int width, int height) const;
 };

@@ -19,8 +19,9 @@ public:
     /// Removes the device. Its addresses must be those with which it was added.
     void remove(const SceneDevice &device);
 
-    /// MACs of the devices with an IPv4 or IPv6 address, in any order; empty without such a device. There are
-    /// several in an address conflict, and for "0.0.0.0".
+    /// MACs of the devices whose IPv4 or IPv6 address is `address`, in any order; empty without such a
+    /// device. There are several in an address conflict, and for "0.0.0.0". Texts are compared: an IPv6
+    /// address must be in canonical form.
     [[nodiscard]] QStringList macsAt(const QString &address) const { return m_macs.value(address); }
 
     /// Whether a device with another MAC than `device` has the address.

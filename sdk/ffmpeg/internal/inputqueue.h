@@ -29,7 +29,7 @@ public:
     [[nodiscard]] std::size_t waitingBytes() const;
 
     /// Waits for unused bytes and returns them, perhaps not all. They are valid until the next call of
-    /// next(). Returns an empty span after a request to stop.
+    /// next(). Returns an empty span after a request to stop, also if there are unused bytes.
     [[nodiscard]] std::span<const std::uint8_t> next(const std::stop_token &stop);
 
     /// Marks the first `count` unused bytes of the last next() as used. `count` must not exceed their number.

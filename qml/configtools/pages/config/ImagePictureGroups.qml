@@ -1,5 +1,5 @@
-// The image settings of the first subject of ImagePanel: colours, sharpness, mirroring, stabilisation, defog. Each
-// change is written to the device immediately.
+// The image settings of the first subject of ImagePanel: colours, sharpness, mirroring, rotation, stabilisation,
+// defog. Each change is written to the device immediately, that of a slider on release.
 import QtQuick
 import configtools
 

@@ -24,18 +24,26 @@ public:
     static constexpr long mostContentBytes = 65536; ///< announced by one response
     static constexpr int mostTracks = 32;           ///< of the session
 
-    /// `host` is the numeric address of the device, without brackets.
+    /// `host` is the numeric address of the device, without brackets, from which its datagrams must come.
     explicit ReplyWatch(std::string host);
 
-    /// The reason to end the session: Oversized, Redirected, Unsupported or, after notePlaying(), Refused.
-    /// Nothing while there is none. The first reason remains.
+    /// The reason to end the session; nothing while there is none. The first reason remains.
+    ///
+    ///  - Oversized: a limit above is exceeded.
+    ///  - Redirected: a response has a status from 300 to 399, with any target, or announces a transport
+    ///  other
+    ///    than TCP with a source address that differs from `host`.
+    ///  - Unsupported: a response requests a login with Basic only, which sends the password in plain text,
+    ///    or with an unsupported Digest only.
+    ///  - Refused: see notePlaying().
     [[nodiscard]] std::optional<StreamEnd> objection() const { return m_objection; }
 
     /// A description of the objection in English, for logs; empty without an objection.
     [[nodiscard]] const std::string &text() const { return m_text; }
 
     /// To be called when the device plays. From then on, a response with the status 401 to a request with the
-    /// login is a refusal. One 401 because of an expired nonce is accepted: FFmpeg repeats the request.
+    /// login is a refusal. The first of consecutive 401 because of an expired nonce is accepted: FFmpeg
+    /// repeats the request.
     void notePlaying() { m_isPlaying = true; }
 
     /// The RTSP status of the last response, 0 before the first one.
