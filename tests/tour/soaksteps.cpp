@@ -437,8 +437,8 @@ void walkSoak(Driver &driver, sdk::demo::DemoSite &site)
             out << cell.rightJustified(13);
         out << Qt::endl;
     };
-    line({u"round"_s, u"seconds"_s, u"memory MB"_s, u"threads"_s, u"descriptors"_s, u"objects"_s,
-          u"event ms"_s});
+    line({u"round"_s, u"seconds"_s, u"memory MB"_s, u"heap MB"_s, u"threads"_s, u"descriptors"_s,
+          u"objects"_s, u"event ms"_s});
     driver.activate();
     awaitSearchEnd(driver);
     QList<ProcessFigures> rounds;
@@ -453,9 +453,9 @@ void walkSoak(Driver &driver, sdk::demo::DemoSite &site)
         rounds.append(processFigures());
         const ProcessFigures &figures = rounds.constLast();
         line({QString::number(round), QString::number(timer.elapsed() / 1000),
-              QString::number(figures.megabytes, 'f', 1), QString::number(figures.threads),
-              QString::number(figures.descriptors), QString::number(figures.objects),
-              QString::number(longest)});
+              QString::number(figures.megabytes, 'f', 1), QString::number(figures.heapMegabytes, 'f', 1),
+              QString::number(figures.threads), QString::number(figures.descriptors),
+              QString::number(figures.objects), QString::number(longest)});
     }
     const QStringList growth = growthOf(rounds);
     for (const QString &figure : growth)

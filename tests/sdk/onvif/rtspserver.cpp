@@ -151,8 +151,11 @@ void RtspServer::serve(int connection, const std::stop_token &stop)
     QByteArray received;
     std::array<char, 4096> buffer{};
     while (const int possible = waitFor(connection, m_isFlooding ? POLLIN | POLLOUT : POLLIN, stop)) {
-        if ((possible & POLLOUT) != 0 && !send(connection, m_script.endless, stop))
-            return;
+        if ((possible & POLLOUT) != 0) {
+            if (!send(connection, m_script.endless, stop))
+                return;
+            waitUntil(std::chrono::steady_clock::now() + m_script.endlessPause);
+        }
         if ((possible & ~POLLOUT) == 0)
             continue;
         const ssize_t size = recv(connection, buffer.data(), buffer.size(), 0);

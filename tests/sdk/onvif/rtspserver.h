@@ -32,6 +32,7 @@ struct RtspScript
     QHash<QByteArray, QByteArray> responses = {};
     /// Bytes that are sent repeatedly after one of `responses`, or after the packets; empty: none.
     QByteArray endless;
+    std::chrono::milliseconds endlessPause{0}; ///< after each repetition; 0: as fast as the client reads
 
     bool onlyDatagrams = false; ///< true: the server supports UDP only; false: the interleaved transport only
     QByteArray dataSource;      ///< announced source address of the datagrams; empty: not announced

@@ -104,6 +104,15 @@ void leaveOutKeyFrames(RtspScript &script)
     }
 }
 
+/// Sends them at the speed of a device, and requests a keep-alive request every second. Without a pause,
+/// responses arrive behind megabytes of packets.
+void playSlowly(RtspScript &script)
+{
+    leaveOutKeyFrames(script);
+    script.endlessPause = std::chrono::milliseconds{20};
+    script.sessionTimeout = 2;
+}
+
 } // namespace
 
 class TestRtspFaults : public QObject
@@ -354,8 +363,7 @@ void TestRtspFaults::stopEndsImmediately()
 void TestRtspFaults::sessionIsKeptAlive()
 {
     RtspScript script = usualScript();
-    script.sessionTimeout = 2;
-    leaveOutKeyFrames(script);
+    playSlowly(script);
     const RtspServer server(script);
     RtspOrder order = orderOf(server);
     order.timeouts = {};
@@ -379,8 +387,7 @@ void TestRtspFaults::refusedLoginEndsARunningStream()
     RtspScript script = usualScript();
     script.account = "admin";
     script.password = "secret1";
-    script.sessionTimeout = 2;
-    leaveOutKeyFrames(script);
+    playSlowly(script);
     script.responses["GET_PARAMETER"] =
         "RTSP/1.0 401 Unauthorized\r\nCSeq: CSEQ\r\nWWW-Authenticate: " + challenge + "\r\n\r\n";
     const RtspServer server(script);

@@ -88,11 +88,13 @@ ProcessFigures processFigures()
     }
     // Objects without a reference in QML are deleted later.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-#ifdef __GLIBC__
-    malloc_trim(0);
-#endif
     ProcessFigures figures = processCounts();
     constexpr double kilo = 1024;
+#ifdef __GLIBC__
+    malloc_trim(0);
+    const struct mallinfo2 heap = mallinfo2(); // of all arenas, and of allocations with their own mapping
+    figures.heapMegabytes = double(heap.uordblks + heap.hblkhd) / (kilo * kilo);
+#endif
     figures.megabytes = statusNumber("RssAnon:") / kilo;
     figures.objects = objectCount();
     return figures;

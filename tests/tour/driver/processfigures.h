@@ -7,7 +7,8 @@
 
 struct ProcessFigures
 {
-    double megabytes = 0; ///< resident private memory, after free memory has been returned to the system
+    double megabytes = 0;     ///< resident private memory, after free memory has been returned to the system
+    double heapMegabytes = 0; ///< memory that the C library has allocated; 0 with another one than glibc
     int threads = 0;
     int descriptors = 0; ///< open file descriptors
     int objects = 0;     ///< QObjects, including items, of the windows and of the application
