@@ -3,7 +3,7 @@ import QtQuick
 import configtools
 
 OVMessageBox {
-    /// Opens the question. `warnings` is the number of warnings; `descriptions` is a string with their texts, one per line.
+    /// Opens the question. `warnings` is the number of warnings; `descriptions` is a string with a line for each.
     function ask(warnings, descriptions) {
         okText = qsTr("继续");
         show(qsTr("有 %n 个警告，仍要继续吗？", "", warnings) + "\n" + descriptions, OVMessageBox.DangerQuestion);
