@@ -19,7 +19,7 @@ inline constexpr int commandFailed = 998;
 
 /// Receives the text of CgiProcedure::exchange(): the complete response, or "Error:" and the reason. Called
 /// once, on the step's thread, before the step ends. Not called if the login check prevents the command, or
-/// if the batch is stopped before it.
+/// if a stop or the deadline prevents it.
 using ResponseSink = std::function<void(const QString &response)>;
 
 /// Checks the login, then sends the command. `surroundings` is copied; its watch is not used. The result of

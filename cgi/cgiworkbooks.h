@@ -31,8 +31,9 @@ public:
 
     /// Starts a batch that sends the commands of the chosen lines of the last read workbook. `lines` has
     /// values "name" of wasRead(); `title` is displayed as the name of the batch. The commands for one device
-    /// are sent in their order. When the results are in the file, ended() is emitted with a message for the
-    /// user, and the workbook is released.
+    /// are sent in their order. A line with a hindrance is not sent: its result is "Error:" and the
+    /// hindrance. When the results are in the file, ended() is emitted with a message for the user, and the
+    /// workbook is released. The batch cannot be retried.
     ///
     /// Returns the batch, which QML does not own. Returns null without a workbook, while a workbook runs or
     /// is read, and after Batches::refused() if the batch was not started. Also returns null if the file has

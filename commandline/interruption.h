@@ -23,7 +23,9 @@ public:
     Interruption &operator=(const Interruption &) = delete;
 
     /// Whether a signal was received, also if the event loop has not processed it yet. In that case
-    /// `requested` of this object is no longer called for it.
+    /// `requested` of this object is no longer called for it; those of the outer objects are called in this
+    /// call. While an object that was created later exists, true only after that object or the event loop
+    /// has processed the signal.
     [[nodiscard]] bool isRequested();
 
 private:

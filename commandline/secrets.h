@@ -21,15 +21,15 @@ enum class SecretPurpose
 
 /// Reads the password from the first source that exists: with "--password-file" the first line of that file
 /// (UTF-8, up to 1,024 bytes), otherwise the environment variable CONFIGTOOLS_PASSWORD if it is not empty,
-/// otherwise a prompt on the terminal. An unreadable file, an empty first line or input, and a process
-/// without a terminal are errors. A password is never an argument: all users of the host can read the
-/// arguments of a process. The prompt blocks.
+/// otherwise a prompt on the terminal. An unreadable file, an empty or longer first line, an empty input, and
+/// a process without a terminal are errors. A password is never an argument: all users of the host can read
+/// the arguments of a process. The prompt blocks.
 [[nodiscard]] Secret readPassword(const Arguments &arguments, const Terminal &terminal,
                                   SecretPurpose purpose);
 
 /// Reads the passphrase of an encrypted device list in the same way: with "--passphrase-file", otherwise from
 /// the environment variable CONFIGTOOLS_PASSPHRASE, and if that is empty from a prompt. A new one
-/// (SecretPurpose::NewSecret) has at least shortestPassphrase characters.
+/// (SecretPurpose::NewSecret) with fewer than shortestPassphrase characters is an error.
 [[nodiscard]] Secret readPassphrase(const Arguments &arguments, const Terminal &terminal,
                                     SecretPurpose purpose);
 

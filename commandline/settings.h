@@ -26,7 +26,7 @@ struct Assignment
 struct SettingValue
 {
     QString name;
-    QVariant value;
+    QVariant value; ///< a number or a text; a flag is "on" or "off"
 };
 
 /// The name of a setting and a description of its values, for the help.

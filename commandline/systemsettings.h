@@ -21,7 +21,7 @@ struct SystemPlan
     /// The name of channel 1 of cameras, with placeholders such as "{n}" for a number; empty: not changed.
     QString name;
     QList<Step> steps; ///< one batch each: time, time server, video standard, automatic reboot, in this order
-    QString error;     ///< describes one invalid value in English; empty on success
+    QString error;     ///< describes one invalid or missing value in English; empty on success
 };
 
 /// The work for these assignments, whose names are those of systemSettings(). Settings of one command become

@@ -38,7 +38,8 @@ struct RefusedCertificate
 /// renamed when the user accepts a certificate, and a new one is written. While the file cannot be opened, no
 /// certificate can be accepted, and the file is not changed.
 ///
-/// Refused certificates are in memory only. Thread-safe. verdictOn() does not access the disk.
+/// A device without an identity is identified by its address and port. Refused certificates are in memory
+/// only. Thread-safe. verdictOn() does not access the disk.
 class CertificateStore
 {
     Q_DECLARE_TR_FUNCTIONS(CertificateStore)

@@ -142,7 +142,8 @@ public:
 
     /// The devices of this batch, and of the batches that it retries, that have not succeeded and for which a
     /// retry may succeed now. A device of several of these batches is returned if its latest outcome permits
-    /// it. Empty after releaseSteps().
+    /// it. Includes devices without an outcome while the batch runs. Empty after releaseSteps() and if the
+    /// plan cannot be retried.
     [[nodiscard]] QList<BatchDevice> devicesToRetry() const;
 
     /// Identities of the devices of this batch, and of the batches that it retries, that have failed or are

@@ -26,7 +26,7 @@ public:
         Skipped, ///< no request was sent because of the device's state
         Waiting, ///< the first step of the work has succeeded; the user must start a further one
         Succeeded,
-        ToCome, ///< as NotDone while the batch runs: usually there is no result yet
+        ToCome, ///< the batch runs, and the device has no result yet
     };
     Q_ENUM(State)
 

@@ -11,7 +11,7 @@
 class UpgradeBatches : public QObject
 {
     Q_OBJECT
-    /// The latest upgrade batch; null before the first.
+    /// The latest upgrade batch; null before the first, and after its deletion by Batches.
     Q_PROPERTY(Batch *last READ last NOTIFY lastChanged)
 public:
     /// `factory` and `batches` must outlive this object. `maximumParallel` returns the maximum number of

@@ -137,8 +137,9 @@ public:
     void setConfigData(const QString &key, const QVariant &value, const QString &otype) override;
     /// `key` "channelNames" returns the names in channel order, null for a name that the device does not
     /// report; "channelsConnected" returns a bool for each channel, see SessionKey::channelsConnected. Covers
-    /// the first `channelNum` channels of the current session, all of them for 0 or less. Blocks for one
-    /// request for each name, or for one request for "channelsConnected".
+    /// the first `channelNum` channels of the current session, all of them for 0 or less. Empty for other
+    /// keys and without a session. Blocks for one request for each name, or for one request for
+    /// "channelsConnected".
     QVariantList getDeviceChannelData(const QString &key, int channelNum) override;
     void confirmConfigData() override;
     PageStep sessionStep(const SessionJob &job) override;

@@ -38,7 +38,9 @@ enum class CameraWrite
 /// sub-key means "value", the main value of a group. Keys without sub-keys ignore it. Returns an empty list
 /// and leaves `state` unchanged for an unknown key or sub-key, a group that the camera does not support or
 /// that was not read, or an invalid value. Numbers are clamped to their range, those of sliders to the
-/// camera's. A channel name is truncated to the bytes that a device can store.
+/// camera's. An exposure time outside 0 to 100000 ms and a sensitivity of the mixed light other than 1, 3 and
+/// 5 are not clamped, but invalid. A channel name is stored without invisible characters and surrounding
+/// spaces, and truncated to the bytes that a device can store; an empty one is invalid.
 [[nodiscard]] QList<CameraWrite> changeCamera(const QString &key, const QString &subKey,
                                               const QVariant &value, const ValueTables &tables,
                                               CameraState &state);

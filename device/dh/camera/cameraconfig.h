@@ -9,7 +9,7 @@
 /// The image settings of one channel of the current session's device. setValue() writes a change to the
 /// device immediately. The order of calls for a channel is readCapabilities(), then readItems(), then
 /// setValue(). A value type; a copy has its own values and works on the same device. Reading and setting
-/// block for the timeouts of the device library. Not thread-safe.
+/// block for the timeouts of the device library. Channels are counted from 0. Not thread-safe.
 class CameraConfig
 {
 public:

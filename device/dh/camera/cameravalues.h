@@ -29,8 +29,8 @@ struct CameraOptions
 /// The value of a key of the image page, see CameraKey; sends no request. Invalid for an unknown key, and
 /// for a channel name that was not read.
 ///
-/// The key of a group returns a map with "support" (bool), "unread" (bool: the camera has the group but it
-/// could not be read), the values by sub-key, the lists ("allExposureType", ...), "ranges" (map of {"min",
+/// The key of a group returns a map with "support" (bool), "unread" (bool: the camera has the group but its
+/// item was not read), the values by sub-key, the lists ("allExposureType", ...), "ranges" (map of {"min",
 /// "max"} by sub-key of each slider; only if there are any) and "missing" (sub-keys that the camera lacks;
 /// only if there are any). A value that is chosen from one of the lists is an index, -1 if it is not in the
 /// list; CameraSetting states the types of the other values. The values of a group without "support" have no

@@ -34,7 +34,7 @@ public:
     /// for the device, and before that until its running batch step has ended.
     int findAndLogin(const QString &ipport, const QString &account, const QString &password);
     /// The step of findAndLogin(). Its value is the LoginResult. The session begins and the signal is emitted
-    /// when the outcome is taken.
+    /// when the outcome is taken. A stop before the login gives an empty outcome.
     [[nodiscard]] PageStep loginStep(const QString &ipport, const QString &account, const QString &password);
 
     /// Logs in and out to check an account; the current session is not affected. Any thread; blocks for the
@@ -47,7 +47,7 @@ public:
     /// for the device.
     [[nodiscard]] QVariantMap readDetail(const QString &ipport);
     /// The step of readDetail(). Its value is the map; taking the outcome also sets the MAC of a row without
-    /// one.
+    /// one. A stop before the login gives an empty outcome.
     [[nodiscard]] PageStep detailStep(const QString &ipport);
 
     /// Logs in for a separate session, or keeps `order.present`. The session that the step returns logs out

@@ -18,8 +18,9 @@ class SessionRun final : public SessionOperations
 public:
     /// `isUpgrading` returns whether the firmware of the device is being upgraded; it must be callable on
     /// the thread of the operations, and may be empty if only getConfigData() is called. `beforeImageChange`
-    /// is called before each write of an image setting with its channel (from 0); it may be empty. `state`
-    /// must outlive this object.
+    /// is called with the channel (from 0) before each change of an image setting, except of the mode and of
+    /// the channel name, also if the change is then ignored or refused; it may be empty. `state` must outlive
+    /// this object.
     SessionRun(SessionState &state, std::function<bool()> isUpgrading,
                std::function<void(int channel)> beforeImageChange = {});
 

@@ -14,8 +14,8 @@ struct ChannelChoice
     /// "channelNum".
     [[nodiscard]] static bool isKey(const QString &key);
 
-    /// A selection by key (the names of the members above). "channelNum" is the list of channel numbers as
-    /// strings from "1"; empty if the device reports no channels.
+    /// A selection by a key that isKey() accepts (the names of the members above). "channelNum" is the list
+    /// of channel numbers as strings from "1"; empty if the device reports no channels.
     [[nodiscard]] QVariant value(const QString &key) const;
 
     /// Sets a selection by key. An index out of range is logged and ignored; other keys are ignored. A

@@ -28,7 +28,7 @@ public:
     [[nodiscard]] bool offersCompression(int code, int profile) const;
 
     /// Names of the sizes, see resolutionName(). If the sizes depend on the compression, those of all
-    /// compressions, so that a size may be in the list more than once.
+    /// offered compressions, so that a size may be in the list more than once.
     [[nodiscard]] QStringList resolutions() const;
 
     /// Whether this size (in pixels) is offered with a compression (by code).

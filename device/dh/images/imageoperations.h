@@ -46,8 +46,9 @@ public:
     void takeSnapshots(const QString &kind, int channel, const QString &address);
 
     /// A step for each channel of the current session, in their order; none without a session. A step saves a
-    /// snapshot in the folder `address` and emits CDeviceBase::signalSnapPictureToFile on its thread, unless
-    /// it is ended early (NotDone).
+    /// snapshot in the folder `address` (see takeSnapshots()) and emits CDeviceBase::signalSnapPictureToFile
+    /// on its thread, unless it is ended early (NotDone). After a failure its result is NetworkFailure if the
+    /// device sends no frame, otherwise snapshotFailed.
     [[nodiscard]] QList<DeviceStep> snapshotSteps(const QString &address);
 
     /// Takes a snapshot with the login of a live view, which must stay open until the return, see
@@ -64,7 +65,7 @@ public:
     /// channels one after another, and logs out. Without a request: NotInitialised for such a device,
     /// Upgrading during an upgrade, except with ImageOrder::isBeforeUpgrade. NotDone if it is ended between
     /// two channels, otherwise a failure (that of the first channel) only if no image was taken. The text of
-    /// a success is the number of missing images.
+    /// a success states the number of missing images in the user's language; empty if there are none.
     [[nodiscard]] DeviceStep imageStep(const ImageOrder &order);
 
     /// Cancels the snapshots of takeSnapshots() and waits for their thread. Steps are not affected.

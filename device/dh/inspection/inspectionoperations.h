@@ -22,8 +22,8 @@ public:
 
     /// A step that logs in to the device with its account, reads its state, passes it to `order.inspected`
     /// (also if it is incomplete) and logs out. Its result is NotInitialised or Upgrading, without a request,
-    /// the result of a failed login, NotDone after a stop or a deadline before the login, or NetworkFailure
-    /// if the device stops responding or the deadline passes later.
+    /// the result of a failed login, NotDone after a stop at any time or a deadline before the login, or
+    /// NetworkFailure if the device stops responding or the deadline passes later.
     [[nodiscard]] DeviceStep step(const InspectionOrder &order) const;
 
 private:

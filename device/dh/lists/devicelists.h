@@ -40,7 +40,7 @@ public:
     /// Reads a list file and makes its import; adds no device. The reason of a refused list is in the
     /// result. `path` may be a "file:///" URL. Any thread; blocks for the file. `ports` opens local ports to
     /// devices behind NAT; may be null, then the steps of such devices fail. `passphrase` is that of an
-    /// encrypted list.
+    /// encrypted list. The store must outlive the steps.
     [[nodiscard]] ImportPlan importPlan(const QString &path, const QString &passphrase,
                                         const std::shared_ptr<P2PPorts> &ports) const;
 

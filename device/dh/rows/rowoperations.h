@@ -52,7 +52,7 @@ public:
     /// The row of this name, of either list; empty if there is none (deviceRow).
     [[nodiscard]] QJsonObject rowNamed(const QString &name) const;
     /// The row of this name with values of its search record, without its password; empty if there is none
-    /// (getDeviceDetail).
+    /// (getDeviceDetail). The user name is that of the stored account if a login would use it.
     [[nodiscard]] QVariantMap detail(const QString &mac) const;
     /// The same for the IPv4 row at an address (getDeviceDetailByAddress).
     [[nodiscard]] QVariantMap detailAt(const QString &ipport) const;
