@@ -47,18 +47,19 @@ public:
 
     /// A step for each channel of the current session, in their order; none without a session. A step saves a
     /// snapshot in the folder `address` (see takeSnapshots()) and emits CDeviceBase::signalSnapPictureToFile
-    /// on its thread, unless it is ended early (NotDone). After a failure its result is NetworkFailure if the
-    /// device sends no frame, otherwise snapshotFailed.
+    /// on its thread, unless it is ended early (NotDone). After a failure its result is NetworkFailure if
+    /// there is no frame or the session is with another device, otherwise snapshotFailed.
     [[nodiscard]] QList<DeviceStep> snapshotSteps(const QString &address);
 
     /// Takes a snapshot with the login of a live view, which must stay open until the return, see
-    /// OwnSession::takeImage(). Any thread; blocks.
+    /// OwnSession::takeImage(). Any thread except the main thread; blocks.
     [[nodiscard]] static OwnImage takeOwnImage(const sdk::SdkLibraries &libraries, const OwnImageOrder &order,
                                                const StepControl &control);
 
     /// Saves the image of a channel (from 0) as "<channel>.jpg" in `folder` (absolute path; created if
     /// missing) with the login `handle`, which must stay open until the return. Makes up to `tries` attempts
-    /// to get a frame, one every 100 ms. Returns the path of the file; empty on failure. Any thread; blocks.
+    /// to get a frame, one every 100 ms. Returns the path of the file; empty on failure. Any thread except
+    /// the main thread; blocks.
     [[nodiscard]] static QString takeQuickImage(const sdk::SdkLibraries &libraries, qint64 handle,
                                                 int channel, const QString &folder, int tries);
     /// A step that logs in to the device with the account that it has at this call, saves the images of its

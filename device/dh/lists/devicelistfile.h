@@ -4,8 +4,9 @@
 #include "device/dh/lists/devicelistline.h"
 
 /// Writes a list to a file: ".xlsx" as workbook, ".csv" as comma-separated text, ".devlist" encrypted with
-/// `passphrase`, any other suffix as XML. The file is replaced atomically. Returns false on failure: an
-/// existing file is unchanged, and the reason is logged. Fails if `passphrase` is shorter than
+/// `passphrase`, any other suffix as XML. The file is replaced atomically. If lines have passwords and
+/// the format is not the encrypted one, only the owner can read it. Returns false on failure: an existing
+/// file keeps its contents, and the reason is logged. Fails if `passphrase` is shorter than
 /// shortestPassphrase for an encrypted list, or not empty for another format.
 [[nodiscard]] bool writeDeviceList(const QString &path, const std::vector<DeviceListLine> &lines,
                                    const QString &passphrase = {});

@@ -29,7 +29,7 @@ public:
     /// encrypted list, otherwise XML. Writes the passwords of rows and of the default account, unless
     /// `protection` leaves them out, but not those of stored accounts. Skips devices that are no longer in
     /// the list. Returns false if none is left, if the file cannot be written, or if the passphrase does not
-    /// fit the format; an existing file is unchanged then.
+    /// fit the format; an existing file keeps its contents then.
     bool exportDevices(const QString &folder, const QStringList &macs, const QString &fileName,
                        const ListProtection &protection = {});
 

@@ -37,8 +37,8 @@ public:
     void begin(const std::optional<AccountChoice> &accounts);
 
     /// Starts logins to the listed IPv4 devices that are initialised, have not had one in this search and
-    /// lack model, version or MAC, with the accounts of begin(). Returns immediately. Does nothing before
-    /// begin() and after stop().
+    /// lack model, version or MAC, with the accounts of begin(). Leaves out devices whose account has neither
+    /// user name nor password. Returns immediately. Does nothing before begin() and after stop().
     void logInToNew();
 
     /// Drops logins that have not started, and starts no further ones until the next begin(). Running logins
