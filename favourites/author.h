@@ -20,8 +20,9 @@ class CAuthor : public QObject
 public:
     explicit CAuthor(QObject *parent = nullptr);
 
-    /// Moves the passwords of favourites that are saved from now on to `vault`, for all objects; null: they
-    /// stay in the files. A file without a password then has that of `vault`. `vault` must outlive its use.
+    /// From now on, saveTextAsJson() also passes the password to `vault`, for all objects; null: it is only
+    /// in the file. PasswordMove removes the password from the file when the vault has stored it. A file
+    /// without a password then has that of `vault`. `vault` must outlive its use.
     static void setVault(SecretVault *vault);
 
     /// The cipher text of a password, in Base64.
@@ -39,7 +40,7 @@ public:
     /// written if the file has no password and the vault has this one. The file also contains the current
     /// time and `inputPath`.
     ///
-    /// The file name consists of the address and the port. Characters that would lead out of the folder or
+    /// The file name is "<addr>_<port>.json". Characters that would lead out of the folder or
     /// hide the file from the list are written as "%" and two hexadecimal digits: the identifier of a device
     /// behind NAT is free text.
     Q_INVOKABLE void saveTextAsJson(const QString &inputPath, const QString &type, const QString &addr,

@@ -12,7 +12,7 @@ class PasswordMove : public QObject
 {
     Q_OBJECT
 public:
-    /// `vault` must outlive this object. CAuthor uses it until the destructor.
+    /// `folder` is a local path. `vault` must outlive this object. CAuthor uses it until the destructor.
     PasswordMove(SecretVault &vault, const QString &folder, QObject *parent = nullptr);
     ~PasswordMove() override;
 

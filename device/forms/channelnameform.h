@@ -108,8 +108,8 @@ Q_SIGNALS:
     void saved(int rows, int written, int failedRow);
 
 protected:
-    /// Keys: "num" (from 1), "connected", "name" (edited), "saved" (on the device), "changed", "bytes",
-    /// "trouble" (a Trouble) and "identity".
+    /// Keys: "num" (from 1), "connected", "name" (edited), "saved" (on the device), "changed", "bytes" (of
+    /// the edited name in UTF-8, without spaces at its ends), "trouble" (a Trouble) and "identity".
     [[nodiscard]] QVariantMap valuesOf(int row) const override;
     [[nodiscard]] bool isInConflict(int row) const override;
 

@@ -38,7 +38,7 @@ class CDeviceFactory;
 /// unless they say otherwise.
 ///
 /// Lives on the main thread. A change of a property reads the rows again, except that of `failedMarks`, which
-/// does so only with `onlyFailed`.
+/// does so only with `onlyFailed`, or if it clears `failedOperation`.
 ///
 /// Qt's TableModel is not used because it reads its rows through JavaScript objects: with 10,000 devices
 /// each refresh would block the window for a quarter of a second, once a second during a search.
@@ -130,7 +130,7 @@ public:
 
     /// Reads the values of one row again, by its identity. Ignores a row that is not shown or was deleted.
     /// Used for the results of a batch: reading all rows for each result would take longer than the batch.
-    /// Filters, order and "conflict" are updated by refresh() only.
+    /// Filters, order, counts and "conflict" are updated by refresh() only.
     Q_INVOKABLE void refreshDevice(const QString &mac);
     /// Same for several rows, with one signal for all.
     Q_INVOKABLE void refreshDevices(const QStringList &macs);

@@ -53,7 +53,7 @@ inline constexpr QLatin1StringView stored("stored"); ///< fingerprint of the sto
 
 // ChannelNameForm
 inline constexpr QLatin1StringView saved("saved");     ///< the name on the device
-inline constexpr QLatin1StringView bytes("bytes");     ///< int: length of the name in UTF-8
+inline constexpr QLatin1StringView bytes("bytes");     ///< int: length in UTF-8, without spaces at the ends
 inline constexpr QLatin1StringView trouble("trouble"); ///< int: see ChannelNameForm
 
 // WatchedDevices

@@ -29,7 +29,7 @@ public:
     {
         int channel = 0; ///< from 0
         QString path;
-        QDateTime time;
+        QDateTime time; ///< local time of add()
     };
 
     /// Requests the image of a channel (from 0). Returns the absolute path of the folder for the file

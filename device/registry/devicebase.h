@@ -70,7 +70,8 @@ public:
     }
     /// Changes the address of the device of an IPv4 row; the texts are ignored with `dhcpON`. Blocks. The
     /// LoginResult is written to "res" of the row. Once the request was sent, the row shows the new address
-    /// (an empty one with `dhcpON`), also after a failure; "unconfirmed" is true then.
+    /// (an empty one with `dhcpON`), also after a failure; "unconfirmed" is true then. Without a search
+    /// record nothing is sent, but the row is changed as after a success: the record must exist.
     virtual void modifyIP(const QString & /*mac*/, const QString & /*newip*/, const QString & /*newsubmask*/,
                           const QString & /*newgateway*/, bool /*dhcpON*/)
     {
@@ -79,7 +80,8 @@ public:
     /// AccountChoice.
     virtual void setDefaultAccount(const QString & /*account*/, const QString & /*password*/) {}
     /// Initialises the device of an IPv4 row: creates its first account. Blocks. The LoginResult is written
-    /// to "res" of the row.
+    /// to "res" of the row. After a successful request, the row also gets the account. Without a search
+    /// record nothing is sent, but the result is a success: the record must exist.
     virtual void setInitAccount(const QString & /*mac*/, const QString & /*account*/,
                                 const QString & /*password*/)
     {
@@ -156,7 +158,8 @@ public:
     /// Sets a value. Values of the image page, names of channels and EncodeKey::subCurResolution are written
     /// to the device immediately. Other encode values are only stored, until confirmConfigData(). The
     /// selected channels, stream type and image mode (CameraKey::curSwitchMode) are not sent. `otype` is the
-    /// setting of an image group, or the channel (from 0) of a name; otherwise it is ignored.
+    /// setting of an image group, or the channel (from 0) of a name; otherwise it is ignored. Unknown keys
+    /// and invalid values have no effect.
     virtual void setConfigData(const QString & /*key*/, const QVariant & /*value*/, const QString & /*otype*/)
     {
     }
@@ -165,7 +168,7 @@ public:
     /// less. Empty without a session, and for another key.
     virtual QVariantList getDeviceChannelData(const QString & /*key*/, int /*channelNum*/) { return {}; }
     /// Writes the encode values of the selected channel to the device; signalCDeviceConfirmEncodeConfig
-    /// reports which values the device has refused.
+    /// reports which of them were not written.
     virtual void confirmConfigData() {}
     /// Reads the image settings of the selected channel; emits signalCDeviceChangeVideoType.
     virtual void getVideoIn() {}
@@ -203,9 +206,9 @@ public:
     /// added are in importFailures() and are no reason for false.
     virtual bool importDevice(const QString & /*path*/, ImportSummary & /*summary*/) { return {}; }
     /// Writes the IPv4 rows of these names to a list file, replacing an existing one; the suffix of
-    /// `fileName` selects the format. `folder` is a path or "file:///" URL. Names without a row are left out.
-    /// The file contains passwords in plain text, but not those of stored accounts. Returns false if no
-    /// device is left or the file cannot be written.
+    /// `fileName` selects the format. `folder` is a path or "file:///" URL. Names with neither an IPv4 row
+    /// nor a search record are left out. The file contains passwords in plain text, but not those of stored
+    /// accounts. Returns false if no device is left or the file cannot be written.
     virtual bool exportDevice(const QString & /*folder*/, const QStringList & /*macs*/,
                               const QString & /*fileName*/)
     {
@@ -294,10 +297,11 @@ public:
     /// For systemConfig(), `command` and `data` as there. In addition, the command "readTime" reads the
     /// device's clock: the text of the outcome is its time, compared with the host's.
     virtual DeviceStep systemStep(const QString &command, const QVariantMap &data, const QString &ipport);
-    /// For setInitAccount().
+    /// For setInitAccount(). NotSupported, without a request, if there is no search record, or if the record
+    /// has neither a MAC nor a UUID.
     virtual DeviceStep initialisationStep(const QString &mac, const QString &account,
                                           const QString &password);
-    /// For modifyIP().
+    /// For modifyIP(). NotSupported as in initialisationStep(); the address of the row is unchanged then.
     virtual DeviceStep addressStep(const QString &mac, const QString &newip, const QString &newsubmask,
                                    const QString &newgateway, bool dhcpON);
     /// For copyConfigToDevice(). Copies the values that the current session has read before this call. The
@@ -440,9 +444,10 @@ Q_SIGNALS:
     void signalCDeviceChangeVideoType();     ///< the image settings were read, or a change of one has failed
     void signalCDeviceChangeVideoChannel();  ///< those of another channel were read
     void signalCDeviceChangeEncodeChannel(); ///< the encode values were read
-    /// The names of the refused values, one line for each, in the user's language; empty on success. During
-    /// an upgrade of the device the text of LoginResult::Upgrading. Also emitted for values that
-    /// setConfigData() wrote immediately and the device refused.
+    /// The names of the items (groups of encode values, see EncodeItemIndex) that were not written, one line
+    /// for each, in the user's language: the device has refused them, or they were not read before. Empty on
+    /// success. During an upgrade of the device the text of LoginResult::Upgrading. Also emitted for values
+    /// that setConfigData() wrote immediately and the device refused.
     void signalCDeviceConfirmEncodeConfig(const QString &resStr);
     /// A series of channel names was written (see SessionKey::channelNamesSaved), with or without failures,
     /// or the name of the image page's channel was written with success.

@@ -17,8 +17,8 @@ struct ImageOrder
     QString folder;       ///< absolute path, for "<channel>.jpg" (from 0); created if missing
     int onlyChannel = -1; ///< the only channel, from 0; negative: the first mostChannels channels
     int mostChannels = maximumChannels; ///< 1 to maximumChannels; without effect with `onlyChannel`
-    /// Maximum number of attempts for an image; 0: four times the usual number, and the usual number after
-    /// the first channel without an image.
+    /// Maximum number of attempts for an image; 0: four times the usual number. After the first channel from
+    /// which no image was received, at most the usual number (snapTries in media/snapshot.h).
     int tries = 0;
     bool isBeforeUpgrade = false; ///< take images also while the device is registered as being upgraded
 

@@ -11,13 +11,13 @@
 /// The settings of the main stream of one channel.
 struct StreamSettings
 {
-    int channel = 0;     ///< from 0
-    QString compression; ///< name of the video compression; empty if the code is unknown
-    int width = 0;       ///< in pixels
-    int height = 0;      ///< in pixels
-    double frameRate = 0;
-    int bitRate = 0; ///< kbit/s
-    bool isVariable = false;
+    int channel = 0;         ///< from 0
+    QString compression;     ///< name of the video compression; empty if the code is unknown
+    int width = 0;           ///< in pixels
+    int height = 0;          ///< in pixels
+    double frameRate = 0;    ///< frames per second
+    int bitRate = 0;         ///< kbit/s
+    bool isVariable = false; ///< the bit rate is variable
 
     bool operator==(const StreamSettings &) const = default;
 };

@@ -25,7 +25,9 @@ inline constexpr int itemsOfStream = 4; ///< number of values of EncodeItemIndex
 namespace EncodeKey {
 inline constexpr QLatin1StringView allStreamType("allStreamType"); ///< list of strings: of curStreamType
 inline constexpr QLatin1StringView encodeMode("encodeMode");       ///< list of strings: video compressions
-inline constexpr QLatin1StringView curEncodeMode("curEncodeMode"); ///< string of encodeMode
+/// String of encodeMode. Writing it for the sub stream sets the compression of the main stream; only the
+/// profile is set for the sub stream.
+inline constexpr QLatin1StringView curEncodeMode("curEncodeMode");
 inline constexpr QLatin1StringView resolution("resolution");       ///< list of strings
 inline constexpr QLatin1StringView curResolution("curResolution"); ///< string of resolution
 /// Int: 0 constant, 1 variable bit rate.
@@ -50,7 +52,8 @@ inline constexpr QLatin1StringView missingSettings("missingSettings");
 /// StreamKey::field of subVideoEnable; no key of getConfigData() itself.
 inline constexpr QLatin1StringView videoEnable("videoEnable");
 inline constexpr QLatin1StringView subVideoEnable("subVideoEnable"); ///< int: 0 or 1, the sub stream is on
-/// curResolution of the sub stream; setConfigData() writes it to the device immediately.
+/// curResolution of the sub stream; setConfigData() writes it to the device immediately, to the channel
+/// curVideoChannel.
 inline constexpr QLatin1StringView subCurResolution("subCurResolution");
 
 // Keys that have no stream.

@@ -36,7 +36,7 @@ enum class LoginResult : int
 [[nodiscard]] LoginResult loginResultOf(std::uint32_t libraryError);
 
 /// Whether an error of the network library, with or without its high bit, means that the device is offline:
-/// it did not respond.
+/// it did not respond. A refused connection does not count.
 [[nodiscard]] bool isDeviceAway(std::uint32_t libraryError);
 
 /// Whether such an error means that the session cannot be used any more: the device is offline, or it no

@@ -52,7 +52,8 @@ public:
     void locate(const QStringList &names, const std::stop_token &stop);
 
 Q_SIGNALS:
-    void rowsChanged(); ///< emitted on threads of the network library, for each response that changed a row
+    /// Emitted on threads of the network library, for each response that updated or added a row.
+    void rowsChanged();
 
 private:
     /// The IPv4 addresses of the rows that can be queried, by name.

@@ -101,8 +101,8 @@ public:
     // stated otherwise.
 
     /// Puts devices into the group; an empty name removes them from their groups. Spaces at the ends are
-    /// removed. Fails for a name that is too long, for devices behind NAT, and if the site would get more
-    /// than the maximum number of devices.
+    /// removed, several spaces become one. Fails for a name that is too long, for devices behind NAT, and if
+    /// the site would get more than the maximum number of devices.
     Q_INVOKABLE [[nodiscard]] QString setGroup(const QVariantList &rows, const QString &group, bool isIPv6);
 
     /// Removes a device from the site. Does nothing for a device that is not known.
@@ -113,8 +113,9 @@ public:
     /// listed in recentSites. A file that cannot be read is removed from recentSites.
     Q_INVOKABLE [[nodiscard]] QString open(const QString &path);
 
-    /// Writes the site, with the notes of its devices, and replaces an existing file. The name of the file
-    /// becomes the name of the site.
+    /// Adds the listed devices to the site, also if the file cannot be written. Writes the site, with the
+    /// notes of its devices, and replaces an existing file. The name of the file becomes the name of the
+    /// site.
     Q_INVOKABLE [[nodiscard]] QString saveAs(const QString &path);
 
     /// Replaces the site by an empty one. A copy is kept as in open().

@@ -42,10 +42,10 @@ public:
     void run(const QString &command, const QVariantMap &data, const QStringList &ipports);
 
     /// The step of a command for one device, with the results of run(), and NotDone if its StepControl ends
-    /// it before the command is sent. It uses the account that the device has at this call. "readTime" reads
-    /// the clock of the device: the text of the outcome is its time, compared with the host's.
-    /// "modifyPassword" without an open login of "loginCheck" returns NotDone. "cancelLogin" has no step: it
-    /// counts as an unknown command.
+    /// it before the command is sent; "loginCheck" and "modifyPassword" ignore the StepControl. It uses the
+    /// account that the device has at this call. "readTime" reads the clock of the device: the text of the
+    /// outcome is its time, compared with the host's. "modifyPassword" without an open login of "loginCheck"
+    /// returns NotDone. "cancelLogin" has no step: it counts as an unknown command.
     [[nodiscard]] DeviceStep step(const QString &command, const QVariantMap &data, const QString &ipport);
 
     /// Closes the logins that "loginCheck" has kept open. Blocks for the devices.

@@ -71,9 +71,9 @@ public:
 
     /// Runs the upgrade and returns its final state. A stop by the user or of the batch (`control`) ends an
     /// upgrade before and while the file is sent. Once the device writes its firmware, the upgrade continues
-    /// to its end, and the reported text says that it cannot be stopped. UpgradeStop::end aborts it at any
-    /// time with the result Cut. Calls control.releaseSlot() when the device restarts. The deadline of
-    /// `control` has no effect.
+    /// to its end, and the reported text says that it cannot be stopped. UpgradeStop::end aborts it in every
+    /// phase after the running request; the result is Cut, or the failure of that request. Calls
+    /// control.releaseSlot() when the device restarts. The deadline of `control` has no effect.
     [[nodiscard]] UpgradeState run(const StepControl &control);
 
 private:
