@@ -52,7 +52,8 @@ public:
 
     /// Starts a search for devices in the background. The search first removes the rows, except those of
     /// devices with failed operations (DeviceStore::setKept()). Returns immediately; signalCDeviceSearchDone
-    /// reports the end.
+    /// reports the end. The back end reads its settings itself: whether the local segment is
+    /// searched, and whether the search logs in to found devices that lack model, version or MAC.
     virtual void startSearch() {}
     /// Sets the range that the next startSearch() searches; later searches have no range unless it is set
     /// again. Addresses in host byte order; 0 in either for no range. The range must have passed
