@@ -35,11 +35,13 @@ struct ReportDevice
 
     /// Of the login and of the requests for values.
     StepOutcome outcome = {.result = resultCode(LoginResult::NotDone), .text = {}};
-    bool isRead = false; ///< the login succeeded: `inspection` has the values of the device
+    /// The login succeeded: `inspection` has the values of the device. False also if a different device has
+    /// responded at a shared address; the results are then left out.
+    bool isRead = false;
     DeviceInspection inspection = {};
 
     QList<ReportImage> images = {}; ///< by channel
-    int channelCount = 0;           ///< channels of the device; images are taken of the first ones only
+    int channelCount = 0; ///< channels of the device, 0 if unknown; images are taken of the first ones only
     QList<BeforeImages::Image> imagesBefore = {}; ///< from before its first change, by channel
 
     /// The title of the device for the user: its name, or its model without a name.
@@ -50,8 +52,8 @@ enum class FindingKind
 {
     NotInitialised,
     DuplicateAddress, ///< another device of the report has the same address and port
-    LoginRefused,
-    NotReached,   ///< any other failure
+    LoginRefused,     ///< wrong account or password, account locked or in use
+    NotReached,   ///< any other failure, except a running upgrade; not for a device that is not initialised
     ClockOff,     ///< by more than clockTolerance
     OldFirmware,  ///< older than that of another device of the same model in the report
     NoTimeServer, ///< the device does not use a time server

@@ -29,9 +29,9 @@ inline constexpr QLatin1StringView workbook("workbook");     ///< bool
 
 /// Makes reports, one at a time: a batch reads each device and takes its images, then a separate thread
 /// writes the files "<site>-<date>-<time>.pdf" and ".xlsx". Images are in a temporary folder until the files
-/// are written. A stopped report has no file. A batch that is stopped while it is paused, since devices have
-/// refused their accounts, still has a report: it states the reason for the devices that were not read. Lives
-/// on the main thread.
+/// are written. A report that is stopped by stop() has no file. A batch that is stopped by Batch::stop() has
+/// no report either if devices are left out, unless it was paused since devices have refused their accounts:
+/// the report then states the reason for the devices that were not read. Lives on the main thread.
 class SiteReport : public QObject
 {
     Q_OBJECT
@@ -58,7 +58,8 @@ public:
 
     /// start() for QML with the keys of ReportKey. Returns whether a batch was started.
     Q_INVOKABLE bool begin(const QVariantMap &order);
-    /// Stops the report: the batch, or the writing after the current file. No file is left.
+    /// Stops the report: the batch, or the writing after the current file. No file is left, except those that
+    /// were written before writeAgain(). No effect once all files are complete.
     Q_INVOKABLE void stop();
     /// Writes the missing files of a report to another folder, without reading the devices again. Returns
     /// whether writing was started; finished() follows. See canWriteAgain() and problem().
@@ -87,9 +88,10 @@ public:
     [[nodiscard]] static QString folderProblem(const QString &folder);
 
 Q_SIGNALS:
-    void stateChanged(); ///< a batch has started or ended, or the writing of files has ended
+    void stateChanged(); ///< a batch or the writing of files has started or ended, or discard() was called
     /// A report has ended. `paths` are its written files, also those of earlier folders. `reason` is empty on
-    /// success, otherwise it has a line for each missing file. Both are empty if the report was stopped.
+    /// success, otherwise it has a line for each missing file. If the report was stopped, `reason` is empty
+    /// and `paths` has only files that were written before writeAgain().
     void finished(const QStringList &paths, const QString &reason);
 
 private:

@@ -6,8 +6,8 @@
 
 #include <qqmlregistration.h>
 
-/// Decides what the window does with files that are dragged into it. The suffix decides, as for files that
-/// the user chooses. Main thread.
+/// Decides what the window does with files that are dragged into it. The suffix (in upper or lower case)
+/// decides, as for files that the user chooses. Main thread.
 class DroppedFiles : public QObject
 {
     Q_OBJECT
