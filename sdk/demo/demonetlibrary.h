@@ -46,7 +46,7 @@ public:
     /// `site` must outlive the library.
     explicit DemoNetLibrary(SiteState &site);
 
-    /// As NetCleanup().
+    /// As NetCleanup(), but it is not added to the log. Must not run in a handler.
     ~DemoNetLibrary() override;
 
     /// The site of the library, not owned.

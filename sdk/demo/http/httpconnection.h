@@ -13,8 +13,8 @@
 namespace sdk::demo {
 
 /// Responds to the requests of a connection, one after another, on the calling thread. The connection ends
-/// when the client closes it, after an invalid request, after a timeout, and soon after a stop that is
-/// followed by shutdown(socket).
+/// when the client closes it, after a request that does not keep it (HttpRequest::keepsConnection), after
+/// HEAD and an invalid request, after a timeout, and soon after a stop that is followed by shutdown(socket).
 class HttpConnection
 {
 public:

@@ -34,7 +34,8 @@ public:
 
     /// Replaces `report` by one of a single interface, "demo0", which has `localAddress` (IPv4) with a prefix
     /// length of 24. Found devices with an IPv4 address outside this network are counted as foreign, except
-    /// for 0.0.0.0 and loopback addresses.
+    /// for 0.0.0.0 and loopback addresses. Without a response to a local search it has the obstacle
+    /// NoResponse.
     void fill(SearchReport &report, const QString &localAddress) const;
 
 private:

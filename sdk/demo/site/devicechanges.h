@@ -22,8 +22,8 @@ class SiteState;
 /// device that has an address by DHCP already keeps all settings.
 ///
 /// Returns None on success, NotSupported for an uninitialised device, a device without IPv4, a request of
-/// IPv6 and an invalid address, mask or gateway, Refused for a device with Fault::RefusesAddressChange,
-/// ConnectTimeout for an unknown MAC.
+/// IPv6 and an invalid address, mask or gateway (an empty gateway is valid), Refused for a device with
+/// Fault::RefusesAddressChange, ConnectTimeout for an unknown MAC.
 [[nodiscard]] NetError changeDeviceAddress(SiteState &site, const QString &mac,
                                            const SearchDeviceInformation &requested);
 

@@ -19,8 +19,9 @@ class SiteState;
 /// One kind of stream (main or sub) of one channel. A separate thread generates the frames at the times of
 /// the site's clock, encodes them once and passes them to each viewer (a LiveStream), on this thread. It
 /// sleeps without viewers: while no stream has a handler. Of the streams with a handler it ends those whose
-/// session has ended or does not reach the device, and all when the device stops sending or the host cannot
-/// encode. A change of the channel's settings restarts the streams with the new encoding. Thread-safe.
+/// session has ended or does not reach the device, those with the frames of Fault::DropsStreamAfter, and all
+/// when the device stops sending or the host cannot encode. A change of the channel's settings restarts the
+/// streams with the new encoding. Thread-safe.
 class LiveSource
 {
 public:
