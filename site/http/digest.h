@@ -19,7 +19,7 @@ struct DigestResponse
     QByteArray uri;
     QByteArray response;  ///< lower case
     QByteArray algorithm; ///< lower case; empty stands for MD5
-    QByteArray quality;   ///< qop: "auth", or empty
+    QByteArray quality;   ///< qop; any value but "auth" counts as none
     QByteArray clientNonce;
     QByteArray nonceCount;
 };

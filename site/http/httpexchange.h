@@ -35,7 +35,8 @@ public:
 
     /// Called before the body of a request is read, also for a request without a body. Returns a function for
     /// a body that may be too large to keep; respond() gets an empty body then. Returns an empty function for
-    /// a body that is passed to respond(); a longer one than 128 KiB is refused then.
+    /// a body that is passed to respond(); a longer one than 128 KiB is refused then. A body longer than
+    /// 512 MiB is refused in any case, without a call.
     [[nodiscard]] virtual BodyReceiver bodyReceiver(const HttpReceiver &receiver,
                                                     const sdk::demo::HttpRequest &head) = 0;
 

@@ -8,7 +8,8 @@
 namespace site {
 
 /// The description of a pipeline for gst_parse_launch_full(). It has the sources (elements "appsrc") "video"
-/// and, for a stream with sound, "sound", into which the program pushes encoded frames with times.
+/// and, for a stream with sound, "sound", into which the program pushes encoded frames with times. Their
+/// payloaders have the names that the RTSP server expects: "pay0" for the video, "pay1" for the sound.
 [[nodiscard]] QByteArray pipelineText(const sdk::demo::StreamSettings &settings);
 
 /// Whether the stream has sound. All sound codecs of StreamSettings can be streamed.

@@ -13,9 +13,9 @@ namespace site {
 [[nodiscard]] std::int64_t utcOf(const sdk::demo::SceneDevice &device, std::int64_t now);
 
 ServiceResult getSystemDateAndTime(ServiceCall &call);
-/// Stores the zone, the switch of daylight saving, and whether the clock follows NTP. The UTC time is set
-/// only with the type "Manual" and a time in the request; otherwise it is kept. An unknown type, an invalid
-/// time or an invalid zone changes nothing.
+/// Stores the zone (kept if it is missing in the request), the switch of daylight saving (off if it is
+/// missing), and whether the clock follows NTP. The UTC time is set only with the type "Manual" and a time in
+/// the request; otherwise it is kept. An unknown type, an invalid time or an invalid zone changes nothing.
 ServiceResult setSystemDateAndTime(ServiceCall &call);
 ServiceResult getNtp(ServiceCall &call);
 /// Stores whether the server comes from DHCP, and the server of the request otherwise. The clock of the

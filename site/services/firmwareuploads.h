@@ -44,7 +44,8 @@ public:
                                             qint64 size);
 
     /// The response to a complete file: Ok if the device accepts it, NotFound for an unknown path and for a
-    /// device that has left the site, InternalServerError for a file that is refused, which ends the upload.
+    /// device that has left the site, InternalServerError for a file that is refused, which ends the upload:
+    /// no firmware for the model of the device, or any file with Fault::UpgradeFailsAt 100.
     /// After Ok, the device writes the file for DeviceUpgrade::writing and reboots; with
     /// Fault::UpgradeHangsAt 100 it writes forever.
     [[nodiscard]] sdk::demo::HttpResponse finish(const HttpReceiver &receiver, const QByteArray &path);

@@ -50,7 +50,8 @@ enum class MediaObject
 
 /// The number of channels of a device, connected or not; 1 for a device that reports none.
 [[nodiscard]] int channelCount(const sdk::demo::SceneDevice &device);
-/// Whether the channel (from 0) has a camera; false for a channel that the device does not have.
+/// Whether the channel (from 0) has a camera; false for a channel that the device does not have, true for the
+/// only channel of a device that reports none.
 [[nodiscard]] bool isConnected(const sdk::demo::SceneDevice &device, int channel);
 
 /// The main and the sub stream of each channel that has a camera, in the order of the channels.

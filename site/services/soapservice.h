@@ -14,11 +14,11 @@ public:
     explicit SoapService(ServiceContext &context) : m_context(context) {}
 
     /// The response to a request with the text `body`; `head` has the login by Digest. HttpStatus::None while
-    /// the device is offline. A fault is a response with an HTTP error status. A missing or refused login
-    /// gets a challenge as well, if the device accepts Digest and the request contains no token. Blocks for
-    /// the delay of a device with Fault::SlowAnswers, until HttpReceiver::stop. Adds a readable request to
-    /// the site's log as "SOAP", and writes the request and the response to SiteOptions::recordFolder, if it
-    /// is set.
+    /// the device is offline, with Fault::NoAnswer, and if the device has left the site. A fault is a
+    /// response with an HTTP error status. A missing or refused login gets a challenge as well, if the device
+    /// accepts Digest and the request contains no token. Blocks for the delay of a device with
+    /// Fault::SlowAnswers, until HttpReceiver::stop. Adds a readable request to the site's log as "SOAP", and
+    /// writes the request and the response to SiteOptions::recordFolder, if it is set.
     [[nodiscard]] sdk::demo::HttpResponse respond(const HttpReceiver &receiver,
                                                   const sdk::demo::HttpRequest &head, const QByteArray &body);
 
