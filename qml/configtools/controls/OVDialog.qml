@@ -1,6 +1,6 @@
-// A modal dialog in the window: title, content, buttons. Enter acts like the primary button, Escape and the close
-// button like the cancel button, also if that is hidden. The keyboard focus stays inside. It is limited to the size of
-// the window; larger content scrolls.
+// A modal dialog in the window: title, content, buttons. Enter acts like the primary button, unless the item with the
+// keyboard focus uses the key itself, as buttons do. Escape and the close button act like the cancel button, also if
+// that is hidden. The keyboard focus stays inside. It is limited to the size of the window; larger content scrolls.
 import QtQuick
 import QtQuick.Templates as T
 import configtools
@@ -64,8 +64,8 @@ T.Popup {
             accept();
     }
 
-    /// Reports that the input is not accepted; the dialog stays open. The first visible field with an `errorText` gets
-    /// the keyboard focus. The message is shown above the buttons only if no field has an error.
+    /// Reports that the input is not accepted; the dialog stays open. The first visible and enabled field with an
+    /// `errorText` gets the keyboard focus. The message is shown above the buttons only if no field has an error.
     function refuse(message) {
         const field = faultyField(body);
         if (field)

@@ -1,6 +1,6 @@
 // A filter that shows only the failed devices of a table: those with a failed mark, optionally of one operation. A
 // device is marked when a batch has failed for it or has not reached it, until a later batch of the same work succeeds
-// for it. Batches that only read images set no marks.
+// for it. Batches that only take images, and those of the site report, set no marks.
 // The link of the filter clears all marks, also those of devices and operations that are not shown, in all pages.
 // Hidden while there is no mark.
 import QtQuick

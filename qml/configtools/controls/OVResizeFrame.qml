@@ -6,7 +6,7 @@ import configtools
 Item {
     id: root
 
-    required property bool active  // false: the window cannot be resized, as it is maximised
+    required property bool active  // false: the window cannot be resized, as it is maximised or in full screen
     signal resizeRequested(int edges)  // a combination of Qt::Edge, for Window.startSystemResize()
 
     // qmllint disable unqualified

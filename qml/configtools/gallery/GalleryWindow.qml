@@ -57,8 +57,9 @@ T.ApplicationWindow {
             gallery.fetch(row);
     }
 
-    /// Saves all images in the background, as "<address>_<port>/<channel>.jpg" in the folder of snapshots, replacing
-    /// existing files; the bar then shows the result. Ignored without images, and while images are fetched or saved.
+    /// Saves all images in the background, as "<address>_<port>/<channel>.jpg" (channel from 0) in the folder of
+    /// snapshots, replacing existing files; the bar then shows the result. Ignored without images, and while images are
+    /// fetched or saved.
     function saveAll() {
         bar.outcome = "";
         if (gallery.images > 0 && gallery.batch === null)

@@ -29,8 +29,8 @@ Item {
     readonly property bool accountRefused: result === 1 || result === 2 || result === 4
         || result === 16
 
-    /// NetworkFailure: the login is retried with growing delays. After other failures it is not, as repeated wrong
-    /// passwords lock the account.
+    /// NetworkFailure: without a session, the login is retried with growing delays. After other failures it is not, as
+    /// repeated wrong passwords lock the account.
     readonly property bool unreachable: result === 5
 
     property double lastResponse: 0  // time of the last response, in ms since 1970; 0: none
@@ -62,8 +62,9 @@ Item {
         login(known.user, known.password, false);
     }
 
-    /// Same with this account. `given`: the user has just entered it. Otherwise, if the device refuses the account in
-    /// the current session, the back end reports that and does not log in with it again.
+    /// Same with this account. `given`: the user has just entered it. A login is then made in any case, and a refusal
+    /// opens the login dialog again. Otherwise, if the device no longer accepts the account in the current session, no
+    /// login is made and `result` is the reason.
     function login(user, password, given) {
         backoff.stop();
         checking = true;

@@ -14,7 +14,7 @@ Item {
     readonly property bool busy: taking.busy  // snapshots are waiting or being taken
     signal notify(string message, int severity)  // the main window shows this message; severity: of OVToast
 
-    // take() and takeAll() may only be called while `busy` is false.
+    // take(), takeAgain() and takeAll() may only be called while `busy` is false.
 
     /// Takes a snapshot of a channel, an element of `channels`, and shows the results.
     function take(entry) {
@@ -32,7 +32,7 @@ Item {
     }
 
     /// Takes snapshots of all channels of all devices and shows the results; nothing if Snapshots.takeAll() returns
-    /// false.
+    /// false. `channels` must contain a channel of the first device.
     function takeAll() {
         if (taking.takeAll(channels))
             results.instance().open();

@@ -1,6 +1,7 @@
 // The live view of a channel, with its state as text. The stream starts when `wanted` becomes true and ends when it
 // becomes false or the item is destroyed. A failed or broken stream is retried with growing delays, see
-// ExponentialBackoff. Before each start the owner checks the device, see checkRequested().
+// ExponentialBackoff. Before each start the owner checks the device, see checkRequested(). The mouse wheel zooms, and
+// a drag moves the zoomed image; another channel is shown without zoom.
 import QtQuick
 import VideoItem 1.0
 import configtools
@@ -18,7 +19,9 @@ FocusScope {
     property bool sounding: false  // plays the sound
     property bool figuresShown: false  // shows LiveFigures while playing
     property bool compact: false          // small view: no mouse input, no button for a retry
-    property double session: 0            // handle of a separate session, 0 for the session of the configuration pages
+    /// Handle of a separate session, 0 for the session of the configuration pages. The next start uses it: a running
+    /// stream is not affected.
+    property double session: 0
     property string sessionText           // why there is no session, "" if there is one
     property string sessionAction         // text of the button that emits sessionActivated(), "" for none
     property bool sessionBusy: false      // the session is being opened
