@@ -12,8 +12,10 @@
 // The model has the roles "checked" (bool), "conflict" (bool, highlights the row) and "identity" (a unique string),
 // get(row), which returns the values of a row by key, and rowOf(identity), which returns -1 for an unknown row; the
 // table uses it to restore the current row after a reset. Values are read by get(), as role names such as "model" are
-// reserved in delegates. If the model has rowStarting(text, from), typed text selects the row that it returns (-1 for
-// none). The model owns check states and order: the table only requests changes of both.
+// reserved in delegates. In a checkable table they include "checked", and optionally "absent" (bool: the row is greyed
+// and has no check box). If the model has rowStarting(text, from), typed text selects the row that it returns (-1 for
+// none): the first match from the row `from` on, then from the first row on. The model owns check states and order: the
+// table only requests changes of both.
 import QtQuick
 import configtools
 
@@ -29,7 +31,7 @@ FocusScope {
     property bool checkable: true  // the rows have check boxes
     property int checkState: Qt.Unchecked  // a Qt::CheckState for all rows, set by the owner
     property string sortKey  // key of the sorted column, set by the owner; "" for none
-    property int sortOrder: Qt.AscendingOrder
+    property int sortOrder: Qt.AscendingOrder  // a Qt::SortOrder, set by the owner
     property alias currentIndex: body.currentIndex  // row, -1 for none; use show() to set it
     readonly property alias count: body.count  // number of rows
     default property alias emptyState: emptySlot.data  // shown while the table has no rows

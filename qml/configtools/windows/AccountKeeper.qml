@@ -12,11 +12,11 @@ Item {
     property int takenCount: 0  // number of succeeded devices of the batch whose accounts were processed
     property int keptCount: 0   // number of devices processed without an error, including batches before a retry
     property int keptBefore: 0  // of these, devices of batches before the retry
-    property string failure  // why an account could not be stored, "" if all were
+    property string failure  // the latest reason why an account could not be stored, "" if all were
     readonly property var accounts: LoginMemory.accounts  // the AccountList; null: nothing is stored
 
-    /// Result for the user; "" if the account was not to be stored, or if no device of `batch` has accepted it (devices
-    /// of batches before a retry do not count).
+    /// Result for the user: the reason in `failure`, if there is one. Otherwise "" if the account was not to be stored,
+    /// or if no device of `batch` has accepted it (devices of batches before a retry do not count).
     readonly property string message: failure !== "" ? qsTr("账号无法保存，只用到下次搜索：%1").arg(failure)
         : keptCount === keptBefore || keeping === AccountList.Unkept ? ""
         : keeping === AccountList.AsDefault ? qsTr("新账号已设为默认账号")

@@ -11,7 +11,7 @@ OVDialog {
     /// Before a retry: user names of the accounts that these devices have refused, as one text for the user; otherwise
     /// "".
     property string refused
-    property string edited  // name of the account that was added or changed since the dialog was opened; "" for none
+    property string edited  // name of the last account added or changed since the dialog was opened; "" for none
     readonly property bool choosing: devices.length > 0  // an account is assigned
     /// Values of the selected row: "identity", "name" ("" for the default account), "account" (user name),
     /// "deviceCount" and "isDefault"; empty for none.
@@ -57,7 +57,7 @@ OVDialog {
     }
 
     /// Assigns the selected account to the devices and closes the dialog. For a retry it does not accept an account
-    /// that one of the devices uses, unless that was edited since the dialog was opened.
+    /// that one of the devices uses, unless that is `edited`.
     function use() {
         const name = current.name ?? "";
         const isRefused = refused !== "" && devices.some(device => accounts.rowOfDevice(device) === table.currentIndex);

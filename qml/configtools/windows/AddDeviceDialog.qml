@@ -17,7 +17,7 @@ OVDialog {
     property string faultKind  // field of the error: "id", "address", "account", "password" or "port"; "" for none
     property string fault  // error text, "" for none
 
-    /// Clears the fields and opens the dialog in this mode.
+    /// Opens the dialog in this mode with empty fields, except the user name "admin" and the port `defaultPort`.
     function begin(mode) {
         root.mode = mode;
         busy = false;

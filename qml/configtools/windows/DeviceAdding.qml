@@ -10,8 +10,8 @@ DeviceWork {
     /// Result codes of a login that are handled here.
     enum Result { Added = 0, NoSuchAccount = 1, WrongPassword = 2, NotSupported = 12, AlreadyListed = 13 }
 
-    /// Error text for an outcome. "" for a device that was added or supports no login, and for an outcome with its own
-    /// "text": nothing is shown then.
+    /// Error text for an outcome of ended(). "" for a device that was added or supports no login, and for an outcome
+    /// with its own "text" (no local port to a P2P device can be opened): nothing is shown then.
     function errorText(outcome) {
         return outcome.result === DeviceAdding.Added || outcome.result === DeviceAdding.NotSupported
             || outcome.text !== "" ? "" : deviceFactory.getErrorName(outcome.result);

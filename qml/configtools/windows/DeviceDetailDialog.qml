@@ -11,7 +11,7 @@ OVDialog {
     required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     property string ipport  // "address:port"
     property string mac  // "" if unknown
-    property bool isLent: false  // the row has its account only for the running login, see ask()
+    property bool isLent: false  // the last ask() has written its account to the row for the login
     readonly property alias asking: work.running  // the login or reading runs
     property string loginError  // error of the last login, "" for none
     signal copyRequested(string text)

@@ -6,6 +6,8 @@ import configtools
 OVDialog {
     id: root
 
+    /// How the file protects the passwords. Readable: they are plain text. LeftOut: it has none. Encrypted: the entire
+    /// list is encrypted with `passphrase`. Passwords of stored accounts are never exported.
     enum Passwords { Readable, LeftOut, Encrypted }
 
     /// Name of the file without folder: "device.xlsx", "device.csv", "device.xml" or "device.devlist", as chosen.
@@ -13,7 +15,7 @@ OVDialog {
     readonly property var suffixes: [".xlsx", ".csv", ".xml"]
     readonly property alias passwords: protections.chosen  // a value of Passwords
     readonly property bool encrypts: passwords === ExportDialog.Encrypted
-    readonly property string passphrase: encrypts ? phrase.text : ""
+    readonly property string passphrase: encrypts ? phrase.text : ""  // cleared when the dialog has closed
     readonly property int shortestPassphrase: 8  // characters
     /// In the order of Passwords.
     readonly property var hints: [

@@ -9,7 +9,7 @@ DropArea {
 
     required property var leavePage  // a function: runs an action unless the user keeps unsaved settings of the page
     signal listDropped(string path)  // a device list, also an encrypted one; the page can be left
-    signal siteDropped(string path)
+    signal siteDropped(string path)  // a site file; `leavePage` is not called
     signal notify(string message, int severity)  // severity: of OVToast
 
     /// Whether a modal dialog is open. The window is inactive during a drag, so that no item has the keyboard focus.

@@ -7,16 +7,16 @@ QtObject {
     id: root
 
     readonly property int wrongPassword: 2  // a LoginResult
-    property var wrongTimes: ({})  // number of refused passwords, by address and port
+    property var wrongTimes: ({})  // number of refused passwords, by "address:port"; see timesWrong()
     /// An account entered by the user and not tried yet: "ipport", "account", "password", "isForAll" (use it for all
     /// later devices), "isKept" (store it for the device), "deviceFactory". Null for none.
     property var pendingAccount: null
     property var accounts: null  // the AccountList of the application; null before the main window sets it
     signal unkept(string reason)  // an accepted account could not be stored; reason: for the user
 
-    /// Records the result of a login, a LoginResult. A success clears the count of wrong passwords. An account that the
-    /// user has entered for this device is then used for all following devices or stored for the device, as chosen.
-    /// After any other result it is dropped.
+    /// Records the result of a login, a LoginResult. A success clears the count of wrong passwords. A `pendingAccount`
+    /// for this device is then used for all following devices, or stored for the device, or both, as chosen. After any
+    /// other result it is dropped. It is null afterwards in each case.
     function note(ipport, result) {
         if (result === wrongPassword)
             wrongTimes = Object.assign({}, wrongTimes, {[ipport]: timesWrong(ipport) + 1});

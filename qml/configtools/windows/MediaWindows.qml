@@ -1,4 +1,5 @@
-// The live window and the gallery. Both are created when they are opened, and destroyed after they were closed.
+// The live window and the gallery. Both are created when they are opened, and destroyed after they were closed; the
+// gallery not before its images are saved.
 import QtQuick
 import configtools
 

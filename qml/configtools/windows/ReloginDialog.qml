@@ -1,5 +1,6 @@
 // Asks for another account after a refused login and shows the device's response. On OK it sets the password of the
-// row; the owner sets the user name of the row and logs in again.
+// row; the owner sets the user name of the row, logs in again and reports the result to LoginMemory.note(), which
+// stores the account if the user has chosen that.
 import QtQuick
 import configtools
 
@@ -17,7 +18,7 @@ OVDialog {
     property string faultKind  // field of the error: "account" or "password"; "" for none
     property string fault  // error text, "" for none
     property int result: 0  // of the refused login, a LoginResult
-    property int wrongTimes: 0  // number of wrong passwords sent to this device
+    property int wrongTimes: 0  // number of passwords refused by this device since its last successful login
 
     /// Opens the dialog. `account` is the refused user name, `result` the LoginResult of the refused login.
     function ask(mac, ipport, account, result) {

@@ -1,4 +1,5 @@
-// Reads the search settings from the settings file as one map, and writes them there.
+// Reads the stored search settings as one map, and writes them. With the secret service the password is stored there,
+// the other settings in the settings file.
 import QtQml
 
 QtObject {
@@ -6,7 +7,7 @@ QtObject {
 
     /// Returns a map of the stored settings: "localDomain" (bool: search the networks of this computer), "otherDomain"
     /// (bool: search the address range), "startIP", "endIP", "userName", "password" (the default account) and "logsIn"
-    /// (bool: log in to found devices).
+    /// (bool: log in to found devices). The password is "" while the secret service has not supplied it yet.
     function read() {
         return {
             localDomain: localConfig.getSearchConfigLocalDomain() !== 0,

@@ -1,11 +1,12 @@
 // Asks for the data of a site report and starts it. The batch of the report runs as every other one: the dialog closes.
+// If nothing was started, the dialog stays open; it shows the reason, except that of Batches.refused().
 import QtQuick
 import configtools
 
 OVDialog {
     id: root
 
-    required property SiteReport siteReport
+    required property SiteReport siteReport  // makes the report
     required property var fileDialogs  // a FileDialogs
     required property var memory  // a ViewMemory that stores the input
     property var ticked: []  // names of the ticked rows

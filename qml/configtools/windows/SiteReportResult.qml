@@ -1,5 +1,5 @@
-// The result of a site report: its files, which can be opened, and why a file is missing. Missing files can be written
-// to another folder.
+// The result of a site report: the paths of its files, and why a file is missing. The PDF file and the folder can be
+// opened. Missing files can be written to another folder until the dialog is closed.
 import QtQuick
 import configtools
 
@@ -9,10 +9,10 @@ OVDialog {
     required property SiteReport siteReport
     required property var fileDialogs  // a FileDialogs
     property var paths: []  // of the written files
-    property string reason  // why a file is missing, "" if none is
+    property string reason  // why files are missing, a line for each; "" if none is
     readonly property string documentPath: paths.find(path => path.endsWith(".pdf")) ?? ""
 
-    /// Shows the result of SiteReport::finished().
+    /// Opens the dialog with the result of SiteReport::finished(), see `paths` and `reason`.
     function show(paths, reason) {
         root.paths = paths;
         root.reason = reason;
@@ -25,7 +25,8 @@ OVDialog {
             inform(qsTr("无法打开 %1").arg(path), OVToast.Error);
     }
 
-    /// Asks for another folder and writes the missing files there; the result is shown again.
+    /// Asks for another folder, then closes the dialog and writes the missing files there. The owner shows the result
+    /// of the following SiteReport::finished(). If writing cannot start, the dialog stays open and shows the reason.
     function chooseFolder() {
         fileDialogs.chooseFolder(qsTr("请选择文件夹"), folder => {
             if (siteReport.writeAgain(folder))

@@ -7,12 +7,14 @@ QtObject {
     id: root
 
     required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
-    required property bool changing  // the batch that sends the new password runs; the time does not run out meanwhile
+    /// The batch that sends the new password runs. The seconds are counted down meanwhile, but at 0 the time ends only
+    /// after the batch, see takeResults().
+    required property bool changing
     property bool open: false        // the new password can be entered
     property int secondsLeft: 0  // 0 to 60
     property list<string> devices    // "address:port" of the logged-in devices that still have the old password
     property int ending: SystemPasswordTime.Regular  // reason of the last end, an Ending
-    property int leftCount: 0        // number of devices with the old password at the end
+    property int leftCount: 0        // number of devices with the old password at close()
     property int second: 1000        // length of a second in ms; tests set a shorter one
     property bool endsLater: false  // the logins end after the running batch
     signal ended  // the logins are being closed; after close(), or after the batch that uses them
@@ -46,7 +48,8 @@ QtObject {
     }
 
     /// Called at the end of a batch of new passwords. `left`: "address:port" of the devices that still have the old
-    /// password. Without such a device, or when no time is left, the time ends.
+    /// password. Without such a device, or when no time is left, the time ends. If close() was called during the batch,
+    /// the kept logins are closed now.
     function takeResults(left) {
         devices = left;
         if (endsLater)

@@ -20,7 +20,7 @@ OVDialog {
     }
 
     /// Reads a document (the path of a workbook) in the background. Then the dialog opens, or documentRefused is
-    /// emitted.
+    /// emitted. A later ask() or askDocument() cancels the reading: neither happens then.
     function askDocument(file) {
         path = file;
         preview.readDocument(file);

@@ -33,7 +33,8 @@ OVTable {
     }
 
     // The keys are those of the rows of the device list. "vision": current firmware version. "filepath": firmware file.
-    // "upgrade": progress in percent. "upgraderes": an UpgradeTools.Result.
+    // "upgrade": progress in percent. "upgraderes": an UpgradeTools.Result; "upgradetext" (no column): its text, which
+    // is shown instead of the general text of the result.
     columns: [
         {key: "num", title: qsTr("No."), width: Theme.columnUpgradeNumber, cell: numberCell},
         {key: "name", title: qsTr("名称"), width: Theme.columnUpgradeName, stretch: 1, sortable: true, cell: nameCell},

@@ -1,5 +1,5 @@
-// The upgrades of the upgrade page: choice of files, confirmation, start, refresh of rows and messages. Refusals are
-// notified.
+// The upgrades of the upgrade page: choice of files, confirmation, start, refresh of rows and messages. While another
+// batch runs, Batches refuses a start by its signal refused(); all other refusals are notified here.
 import QtQuick
 import configtools
 
@@ -11,8 +11,8 @@ Item {
     required property var deviceTable  // a DeviceTableModel: the rows of the page, with their ticks
     required property var fileDialogs  // a FileDialogs: the desktop's dialogs for files and folders
     required property var upgradeBatches  // an UpgradeBatches, which runs the upgrades
-    required property bool shown  // the page is visible; changed rows of a hidden page are read when it is shown
-    signal changed  // any row may have changed: the page reads the list again
+    required property bool shown  // the page is visible: changed rows are read immediately, otherwise see changed()
+    signal changed  // any row may have changed: the page reads the list again, a hidden page when it is shown
     signal notify(string message, int severity)  // show this message; severity: an OVToast.Severity
 
     /// Sets one firmware file for all ticked devices. Refused if none is ticked.
@@ -23,8 +23,8 @@ Item {
             chooseFile(deviceTable.checkedMacs());
     }
 
-    /// Asks for a firmware file and sets it for the devices with these identities. Notifies if a device cannot be
-    /// upgraded with it.
+    /// Asks for a firmware file and sets it for the devices with these identities, except for those that are being
+    /// upgraded. Notifies if a device cannot be upgraded with it; the file is set nevertheless.
     function chooseFile(identities) {
         fileDialogs.chooseFile(qsTr("选择升级文件"),
                                [qsTr("升级文件") + " (*.bin *.img *.upg)", qsTr("所有文件") + " (*)"], path => {
@@ -59,7 +59,7 @@ Item {
             question.instance().ask(identities);
     }
 
-    /// Confirms and starts the upgrades of a document. `path`: of a workbook.
+    /// Reads a document, then confirms and starts its upgrades. Notifies if it cannot be used. `path`: of a workbook.
     function startDocument(path) {
         question.instance().askDocument(path);
     }
