@@ -211,7 +211,7 @@ static_assert(sizeof(EncodeStreamRecord) == 64);
 /// Configuration "Encode": the streams of a channel.
 struct EncodeRecord
 {
-    std::uint32_t size;
+    std::uint32_t size; ///< sizeof(EncodeRecord)
     std::int32_t reserved1;
     std::array<EncodeStreamRecord, streamKindCount> streams; ///< indexed by StreamKind
     std::array<std::uint8_t, 2568> reserved2;

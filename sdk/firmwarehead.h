@@ -47,7 +47,7 @@ struct FirmwareHeadReading
 ///
 /// Other keys are ignored. The key "model" may be missing, the key "version" not. A line may end with CR LF.
 /// A value of "version" ends at the first space or comma; the text after it, such as a build date, is
-/// ignored.
+/// ignored, and so is a leading "v".
 [[nodiscard]] FirmwareHeadReading readFirmwareHead(std::string_view bytes);
 
 /// True if two versions, from files or devices, are the same firmware: if their numbers ("2.900.0") are
@@ -57,8 +57,9 @@ struct FirmwareHeadReading
 [[nodiscard]] bool isSameVersion(std::string_view one, std::string_view other);
 
 /// The models and the version in a file name without its folder: "B-2230-IR,B-2231-IR_2.900.0.bin". The
-/// version may have a leading "v", and may be followed by "_" and any text. Every model must contain a digit,
-/// which distinguishes it from a word. Returns nullopt for a name of any other form.
+/// last dot and the part after it are ignored, unless that part starts with a digit. The version may have a
+/// leading "v", and may be followed by "_" and any text. Every model must contain a digit, which
+/// distinguishes it from a word. Returns nullopt for a name of any other form.
 [[nodiscard]] std::optional<FirmwareHead> firmwareHeadOfName(std::string_view fileName);
 
 } // namespace sdk

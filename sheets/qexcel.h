@@ -67,8 +67,9 @@ public:
     bool setCellText(int row, int column, const QString &text);
 
     /// Merges a range. The text of its first cell is kept, the other texts are removed. Fails when the range
-    /// overlaps a different merged range. Returns true without a change for a single cell, and for a range
-    /// that is merged already.
+    /// overlaps a different merged range, and, without the spreadsheet application, if a cell other than the
+    /// first has the definition of a formula that other cells share. Returns true without a change for a
+    /// single cell, and for a range that is merged already.
     bool mergeCells(const sheets::CellRange &range);
 
     // The formats of cells; the other formats and the texts are kept. Without the spreadsheet application, a

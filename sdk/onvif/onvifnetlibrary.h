@@ -21,7 +21,8 @@ namespace sdk::onvif {
 
 /// Accesses devices by the ONVIF services and RTSP (docs/onvif.md). netlibrary.h states the effect, the
 /// threads and the lifetimes of each operation. NetGetLastError() returns values of NetError: InvalidValue
-/// for malformed arguments and before NetInit, SessionEnded for an invalid handle of a session.
+/// for malformed arguments, for an invalid handle of a search, stream or upgrade, and before NetInit;
+/// SessionEnded for an invalid handle of a session, also before NetInit.
 ///
 /// These parameters have no effect: the local address of a search and of an initialisation, the `wait` of a
 /// local search, `unused1`, `unused2`, `window`, `flag` and `reserved`, and the channel of NetQueryConfig,

@@ -23,8 +23,8 @@ struct ErrorRelease
 using ErrorOwner = std::unique_ptr<GError, ErrorRelease>;
 
 /// Runs asynchronous operations of GLib one after another and waits for each of them. A service that does not
-/// respond cannot block the caller longer than the limit, not even one that ignores a cancellation. All
-/// functions except interrupt() are called on one thread.
+/// respond blocks the caller at most one second longer than the limit, even if it ignores the cancellation.
+/// All functions except interrupt() are called on one thread.
 class BusCalls
 {
 public:
@@ -40,7 +40,7 @@ public:
     /// interrupt(): the operation is cancelled, which also closes a prompt.
     [[nodiscard]] ObjectOwner<GAsyncResult> run(std::chrono::milliseconds limit, const Start &start);
 
-    /// Ends run() soon, and each later one. Any thread.
+    /// Ends run() within about a second. Each later one returns null immediately. Any thread.
     void interrupt();
 
 private:

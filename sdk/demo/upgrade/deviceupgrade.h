@@ -37,7 +37,7 @@ class DeviceUpgrade
 {
 public:
     // Durations of the phases, on the site's clock.
-    static constexpr std::chrono::milliseconds usualSending{8000}; ///< unless the device has UpgradeTakes
+    static constexpr std::chrono::milliseconds usualSending{8000}; ///< without Fault::UpgradeTakes
     static constexpr std::chrono::milliseconds writing{5000};
 
     /// Starts the upgrade. `handle` is passed to the handler. `site` and `sessions` must outlive the object.

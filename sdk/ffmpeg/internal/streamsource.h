@@ -33,7 +33,8 @@ public:
     /// The reader has completed a packet: the limit of 8 MB applies to the bytes after it.
     void notePacket() { m_bytesOfPacket = 0; }
 
-    /// True from the end of the current stream until start(): the header of the next stream was found.
+    /// True from the header of the next stream, which ends the current one, until start(). False for a stream
+    /// that ended by the limit of 8 MB: no next header is known then.
     [[nodiscard]] bool hasNext() const { return m_hasNext; }
 
     /// Whether read() has returned the start of the next stream's header as bytes of the current stream. That

@@ -58,7 +58,7 @@ public:
     [[nodiscard]] AVCodecID codec() const { return m_context->codec_id; }
 
     /// The rounded frame rate of the container, or of the codec if the container has none, in frames per
-    /// second; 0 if unknown or over 1000.
+    /// second. A rate over 1000 counts as missing. 0 if there is none.
     [[nodiscard]] int frameRate() const;
 
 private:

@@ -46,7 +46,7 @@ struct DiscoveryMessage
     enum class Kind
     {
         Unreadable,   ///< not a message of WS-Discovery, or a document beyond the bounds
-        Request,      ///< of another searching application
+        Request,      ///< a Probe or Resolve message, of this or another searching application
         Announcement, ///< a ProbeMatches, ResolveMatches, Hello or Bye message
     };
 

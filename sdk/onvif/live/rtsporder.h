@@ -17,8 +17,9 @@ struct RtspTimeouts
 /// The parameters of a stream.
 struct RtspOrder
 {
-    /// rtsp://ADDRESS[:PORT][/PATH][?QUERY]. The address is numeric: host names are not resolved. An account
-    /// in it is an error. The path with the query has up to 1000 bytes. The port is 554 if the URL has none.
+    /// rtsp://ADDRESS[:PORT][/PATH][?QUERY]. The address is numeric, IPv6 in brackets: host names are not
+    /// resolved. An account in it is an error. The path with the query has up to 1000 bytes. The port is 554
+    /// if the URL has none.
     std::string url;
     std::string account;  ///< UTF-8, without colons, quotation marks, backslashes and control characters;
                           ///< empty for no login

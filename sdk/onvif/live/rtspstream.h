@@ -18,9 +18,10 @@
 namespace sdk::onvif {
 
 /// One live stream with its thread, on which both handlers run. The first video track in H.264, H.265 or
-/// MJPEG and the first sound track in G.711, AAC or PCM are written without re-encoding to the container of
-/// streams::MatroskaWriter (endless Matroska). Other tracks are dropped. The data start with a header and a
-/// key frame. They start again, with another header, when the size or the parameters of the frames change.
+/// MJPEG and the first sound track in G.711, AAC or 16-bit PCM are written without re-encoding to the
+/// container of streams::MatroskaWriter (endless Matroska). Other tracks are dropped. The data start with a
+/// header and a key frame. They start again, with another header, when the size or the parameters of the
+/// frames change.
 ///
 /// A refused password is not sent again. The RTP transport is interleaved in the connection of the session,
 /// or UDP for a device that does not support interleaved transport.

@@ -3,9 +3,9 @@
 // Channels are counted from 0. A channel has the streams StreamKind::MainNormal and Sub; Sub may be missing.
 // The functions send requests to the device, and block until `deadline` at most. They return NetError::None
 // on success. They fail with NotSupported for a channel or stream that the device does not have, with
-// InvalidValue for a block of another size or a value that the standard cannot express, and with the errors
-// of the requests. Reading may use profiles of up to OnvifSession::recently ago. Writing reads the present
-// profiles, and clears the cache of the session.
+// InvalidValue for a block of another size, for a value that the standard cannot express and for an audio
+// format that the device does not offer, and with the errors of the requests. Reading may use profiles of up
+// to OnvifSession::recently ago. Writing reads the present profiles, and clears the cache of the session.
 #pragma once
 
 #include "sdk/encodeblocks.h"

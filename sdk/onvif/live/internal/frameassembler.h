@@ -36,8 +36,9 @@ public:
     /// True if finish() would deliver a frame.
     [[nodiscard]] bool hasFrame() const { return m_hasSlices; }
 
-    /// Delivers the received fragments as a complete frame, if they contain a slice. The rest of an
-    /// incomplete unit is dropped when it arrives; later slices of the frame become a separate frame.
+    /// Delivers the received fragments as a complete frame, if they contain a slice; otherwise they
+    /// are dropped. The rest of an incomplete unit is dropped when it arrives; later slices of the frame
+    /// become a separate frame.
     void finish();
 
 private:

@@ -16,7 +16,8 @@ namespace sdk::onvif {
 
 /// Assembles the frames of a video track, and writes them and the packets of a sound track, with continuous
 /// timestamps, to the container of live streams (Matroska). Everything before the first key frame is dropped.
-/// Used by one thread, except `mustRestart`.
+/// A header is written before the first key frame, before each key frame with another size or other parameter
+/// sets, and on `mustRestart`. Used by one thread, except `mustRestart`.
 class Remuxer
 {
 public:
