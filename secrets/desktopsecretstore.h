@@ -19,7 +19,7 @@ public:
     struct Options
     {
         QString product;     ///< name in the labels
-        bool hasBus = false; ///< without a session bus, the service is absent
+        bool hasBus = false; ///< a session bus exists; otherwise the service is absent
         std::chrono::milliseconds responseLimit = std::chrono::seconds(10); ///< of a request
         std::chrono::milliseconds promptLimit = std::chrono::minutes(2); ///< of a request that asks the user
     };

@@ -3,10 +3,11 @@
 // Channels are counted from 0. The functions send requests to the device, and block until `deadline` at most.
 // They return NetError::None on success. They fail with NotSupported for a device without the imaging service
 // and for a channel, item or group that the device does not have, with InvalidValue for a block of another
-// size or a mode that the device does not offer, and with the errors of the requests. Levels of the device
-// are percentages in the blocks; the level of noise reduction is 0 to 4 there. A written number outside its
-// range is limited to the range; a value that the source lacks is not written. A failed reading leaves
-// `block` and `output` unchanged.
+// size or a mode that the device does not offer, and with the errors of the requests. The modes of
+// CameraItem::Stable are not checked; those of CameraItem::BackLight need only be among the settings of the
+// source. Levels of the device are percentages in the blocks; the level of noise reduction is 0 to 4 there. A
+// written number outside its range is limited to the range; a value that the source lacks is not written. A
+// failed reading leaves `block` and `output` unchanged.
 #pragma once
 
 #include "sdk/camerablocks.h"
