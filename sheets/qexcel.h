@@ -56,8 +56,9 @@ public:
     [[nodiscard]] int firstUsedRow();
 
     /// The content of a cell as text: numbers with up to 15 digits, "TRUE" or "FALSE", a date as its number
-    /// of days since 1899-12-30, the stored result of a formula, an empty text for an empty cell. nullopt on
-    /// failure.
+    /// of days since 1899-12-30, the stored result of a formula, an empty text for an empty cell. Without the
+    /// spreadsheet application, a date that the file contains in ISO 8601 form is returned in this form.
+    /// nullopt on failure.
     [[nodiscard]] std::optional<QString> cellText(int row, int column);
 
     /// Replaces the content of a cell by a text, so that "007" is not converted to a number. The cell keeps

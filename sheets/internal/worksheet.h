@@ -21,7 +21,8 @@ public:
     /// From the first to the last row with a value or a formula; both numbers are 0 if there is none.
     [[nodiscard]] UsedRows usedRows() const { return m_rows.usedRows(); }
     /// The content of a cell as text: a number with up to 15 digits, "TRUE" or "FALSE", the stored result of
-    /// a formula; empty for an empty or missing cell. `strings` are those of the workbook.
+    /// a formula, an error or an ISO 8601 date as in the file; empty for an empty or missing cell. `strings`
+    /// are those of the workbook.
     [[nodiscard]] QString cellText(CellPosition position, const SharedStrings &strings) const;
 
     /// Writes a text into a cell, which keeps its format except the number format; an empty text empties the
