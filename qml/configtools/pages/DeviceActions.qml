@@ -12,8 +12,8 @@ Item {
     required property var fileDialogs  // a FileDialogs: the desktop's dialogs for files and folders
     required property var webPages  // a WebPages: opens web pages of devices in the browser
     property DeviceNotes notes: null  // null: devices have no notes
-    property bool ipv6: false  // the list shows IPv6 devices, which have no details in the back end
-    property alias favouritesFolder: favourites.folder  // path of the folder of the favourites
+    property bool ipv6: false  // the list shows IPv6 devices: no values besides those of the row are read
+    property alias favouritesFolder: favourites.folder  // path of the folder of the favourites, with "/" at the end
     signal notify(string message, int severity)  // show this message; severity: an OVToast.Severity
 
     /// The values of the row, with those that the device reported to the search; empty for an IPv6 device.

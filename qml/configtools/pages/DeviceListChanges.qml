@@ -7,7 +7,7 @@ QtObject {
 
     required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     required property bool shown  // the page is visible
-    property bool outdated: true  // the list changed since the last read
+    property bool outdated: true  // the list changed since the last read, or was not read yet
     property bool complete: false  // this object is created; before that, the properties of the page may not be set
     signal readingRequested  // the page reads its model again
 
@@ -18,7 +18,7 @@ QtObject {
         turn.start();
     }
 
-    /// Requests a read now if the page is shown and the list has changed since the last read; otherwise does nothing.
+    /// Requests a read now if the page is shown and the list is `outdated`; otherwise does nothing.
     function read() {
         if (!complete || !shown || !outdated)
             return;

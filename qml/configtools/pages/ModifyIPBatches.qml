@@ -46,7 +46,8 @@ Item {
             askForAddresses(rows, true);
     }
 
-    /// Opens the address dialog for the device of one row. Refused while its firmware is being upgraded.
+    /// Opens the address dialog for the device of one row (index in `deviceTable`). Refused while its firmware is being
+    /// upgraded.
     function modifyRow(row) {
         const values = deviceTable.get(row);
         if (UpgradeTools.isRunning(values.upgraderes ?? UpgradeTools.None))

@@ -9,6 +9,7 @@ Item {
     required property KnownDevices knownDevices  // null: there are no entries
 
     /// The entries of the menu of a row: its group, and for a device that was not found its removal from the site.
+    /// `values`: of the row, see DeviceActions.
     function entriesFor(values) {
         if (!knownDevices)
             return [];

@@ -10,9 +10,10 @@ OVBanner {
     required property int totalCount  // the same with known devices that are not listed
     required property SearchReports searchReports
     required property bool searching  // a search runs
-    /// Whether there is a reason for the notice: the owner shows it then. The close button removes the reason.
+    /// Whether there is a reason for the notice: the owner shows it then, if the table has rows. The close button removes
+    /// the reason; there is none for `nothingFound`.
     readonly property bool applies: searchReports.incomplete || searchReports.missing > 0 || nothingFound
-    /// The last search has found nothing, so that all rows are those of known devices.
+    /// No device is listed after the last search, so that all rows are those of known devices.
     readonly property bool nothingFound: listedCount === 0 && totalCount > 0 && searchReports.available && !searching
     signal searchRequested
     signal reportRequested  // open the report of the last search

@@ -1,5 +1,5 @@
-// The tool bar of the main page: actions on the ticked devices that the filters show, and the filters. It only
-// requests; the page acts. In a narrow window the filters are in a second line.
+// The tool bar of the main page: actions on the ticked devices that the filters show, import and adding of devices, and
+// the filters. It only requests; the page acts. In a narrow window the filters are in a second line.
 import QtQuick
 import QtQuick.Layouts
 import configtools

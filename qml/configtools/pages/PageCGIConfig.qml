@@ -43,8 +43,8 @@ FocusScope {
             batchWindow.instance().ask(devices.checkedCount);
     }
 
-    /// Sends a command to the ticked devices after a confirmation that lists them. A single device without a warning
-    /// gets the command without a question.
+    /// Sends a command to the ticked devices after a confirmation that lists them. A single device that has no
+    /// warning and is not skipped gets the command without a question.
     function askToSend(command) {
         preview.instance().askRows(qsTr("将向下列设备发送命令："), command, devices.checkedRows(), {
             title: qsTr("批量配置CGI"), okText: qsTr("执行"), listed: true, quick: true,

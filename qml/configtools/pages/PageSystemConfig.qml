@@ -30,7 +30,7 @@ FocusScope {
     // qmllint enable unqualified
 
     property list<string> passwordTicks  // devices ("address:port") that were ticked when the old password was accepted
-    property list<string> checkedWhenAsked  // devices ("address:port") of the last command
+    property list<string> checkedWhenAsked  // devices ("address:port") of the last command, or ticked at its retry
     property list<string> leftOut  // devices ("address:port") that the user unticked in the last "modifyPassword"
 
     /// A command can start: devices are ticked and no batch runs.
@@ -118,8 +118,8 @@ FocusScope {
         return true;
     }
 
-    /// Confirms a command for the ticked devices and starts it. A started command ends the time for the new password.
-    /// Parameters: see SystemBatch.run().
+    /// Confirms a command for the ticked devices and starts it; see SystemPreview.ask() for commands without a question. A
+    /// started command ends the time for the new password. Parameters: see SystemBatch.run().
     function runOnTicked(command, title, data) {
         preview.ask(command, title, data, devices.tickedNow(), chosen => {
             if (passwordTime.open && !batches.running)  // otherwise the command is refused

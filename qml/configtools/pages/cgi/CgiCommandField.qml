@@ -16,7 +16,7 @@ FocusScope {
     signal edited  // the text was changed by typing or by a suggestion
     signal accepted  // Enter was pressed without a selected suggestion
 
-    /// Shows the suggestions for the text, or closes the list if there are none.
+    /// Shows the suggestions for the text. Closes the list if there are none or the field has no keyboard focus.
     function suggest() {
         suggestions = field.activeFocus ? commands.matching(field.text) : [];
         marked = -1;

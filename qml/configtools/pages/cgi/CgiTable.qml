@@ -9,7 +9,7 @@ OVTable {
 
     required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     required property CgiCommands commands  // recent and favourite commands
-    property int editRow: -1  // row whose field gets the keyboard focus when it is created
+    property int editRow: -1  // row whose field gets the keyboard focus when it is created; -1 for none
     signal sendRequested(int row)  // send the command of the row
     signal responseCopyRequested(int row)  // copy the complete response
     signal responseOpenRequested(int row)  // show the complete response

@@ -35,7 +35,8 @@ Item {
         nameForm.stopSaving();
     }
 
-    /// Reads the names. If the login was lost, logs in again instead; the names are read after that.
+    /// Reads the names. Unsaved names are lost: the page asks before. If the login was lost, logs in again instead; the
+    /// names are read after that.
     function load() {
         if (!session.loggedIn) {
             session.tryAgain();

@@ -68,7 +68,7 @@ Item {
 
     /// Logs in to `device`, then reads the settings of the shown tab. With `keeps`, an account that the device accepts
     /// becomes the account of its row; otherwise the row is not changed. After a refusal of the account the user is
-    /// asked for another one.
+    /// asked for another one if `shown`.
     function login(account, password, keeps) {
         loggedIn = taken = lost = false;
         failure = "";

@@ -1,5 +1,6 @@
 // A group of image settings. It is hidden if the camera does not have it, and shows a note if its values could not be
-// read. Its child rows read values here and report changes to change(), which writes to the device immediately.
+// read. It is disabled while the device is being upgraded. Its child rows read values here and report changes to
+// change(), which writes to the device immediately.
 import QtQuick
 import configtools
 

@@ -1,5 +1,5 @@
 // A row of an image setting with a slider. The value is written to the device when the slider is released, or shortly
-// after the last step by a key.
+// after the last step by a key. The row is hidden if the camera does not have the setting.
 import QtQuick
 import configtools
 

@@ -14,7 +14,7 @@ Rectangle {
     required property string timeZone  // of this computer, as "UTC+08:00" or "UTC-5:00"
     required property var deviceFactory  // a CDeviceFactory: access to the device list and the devices
     required property SystemPasswordTime passwordTime  // the time in which a new password can be entered
-    property int currentPanel: 0  // index of the tab
+    property int currentPanel: 0  // tab: 0 time, 1 time zone, 2 reboot, 3 reset, 4 password, 5 video standard
 
     /// Functions of the network library, as a map of bool: "timeServerDetails", "automaticMaintenance" and
     /// "videoStandard" are used here.

@@ -1,4 +1,5 @@
-// A line with the remaining time for the new password or, after its end, the reason of the end.
+// A line with the remaining time for the new password or, after its end, the reason of the end. Hidden while the new
+// password is being sent, and without a text.
 import QtQuick
 import configtools
 
@@ -16,7 +17,7 @@ Row {
                  : qsTr("%1 秒后失效").arg(time.secondsLeft))
         + " · " + qsTr("%n 台设备等待新密码", "", time.devices.length)
         + (restored ? " · " + qsTr("已恢复之前输入的新密码") : "")
-    /// Why the time has ended; "" after a regular end.
+    /// Why the time has ended; "" after a regular end, and after OtherWork, which the page notifies.
     readonly property string reason: {
         const next = qsTr("请重新验证旧密码。") + (keeps ? qsTr("已输入的新密码届时会恢复。") : "");
         switch (time.ending) {
