@@ -10,8 +10,8 @@ OVBanner {
     required property int totalCount  // the same with known devices that are not listed
     required property SearchReports searchReports
     required property bool searching  // a search runs
-    /// Whether there is a reason for the notice: the owner shows it then, if the table has rows. The close button removes
-    /// the reason; there is none for `nothingFound`.
+    /// Whether there is a reason for the notice: the owner shows it then, if the table has rows. The close button
+    /// removes the reason; there is no close button for `nothingFound`.
     readonly property bool applies: searchReports.incomplete || searchReports.missing > 0 || nothingFound
     /// No device is listed after the last search, so that all rows are those of known devices.
     readonly property bool nothingFound: listedCount === 0 && totalCount > 0 && searchReports.available && !searching

@@ -25,7 +25,8 @@ Item {
     }
 
     /// The text of a result in the tree, for its tool tip. `result`: a LoginResult or OVTreeModel.PartlyDone, whose
-    /// text is the list of settings that the device did not take. `ipport`: "address:port" of the device.
+    /// text is the list of settings that the device did not take. `ipport`: "address:port" of the device. The text of a
+    /// LoginResult is its name and, in a second line, the text from the batch, if any.
     function resultText(result, ipport) {
         if (result === BatchReport.NotDone)
             return deviceFactory.getErrorName(result);

@@ -35,8 +35,8 @@ Item {
         result = 0;
     }
 
-    /// Reads the settings of the current channel. Unsaved changes are lost: the page asks before. If the login was lost,
-    /// logs in again instead; the settings are read after that.
+    /// Reads the settings of the current channel. Unsaved changes are lost: the page asks before. If the login was
+    /// lost, logs in again instead; the settings are read after that.
     function load() {
         if (!session.loggedIn) {
             session.tryAgain();

@@ -1,5 +1,6 @@
 // The section for daylight saving of the ticked devices: switched on or off, start and end. It shows no values of
-// devices and requests the command "dstConfig" with the keys of daylightSavingFrom().
+// devices. It requests the command "dstConfig" with "dstEnable" (bool), "dstMode" (0 by date, 1 by week) and the values
+// of both SystemDaylightPoint.
 import QtQuick
 import configtools
 
