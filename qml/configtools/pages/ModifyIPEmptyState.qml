@@ -8,7 +8,8 @@ OVEmptyState {
 
     required property bool searching  // a search runs
     required property bool libraryInstalled  // false: there is no device library, so no device can be reached
-    /// Number of devices before the filters, see DeviceTableModel.totalCount. As no row is shown, filters hide all of them.
+    /// Number of devices before the filters, see DeviceTableModel.totalCount. As no row is shown, filters hide all of
+    /// them.
     required property int hiddenCount
     required property bool searchesNothing  // the settings of the last search selected no network
     property bool hasReport: false  // a report of the last search can be opened

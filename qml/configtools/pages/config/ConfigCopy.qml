@@ -13,7 +13,7 @@ Item {
     readonly property bool running: batch?.running ?? false
     /// "address:port" of a device that is being written; "" for none.
     readonly property string current: running ? batch.device : ""
-    signal notify(string message, int severity, int duration)  // show this message; severity: of OVToast; duration in ms
+    signal notify(string message, int severity, int duration)  // shows a toast; severity: of OVToast; duration in ms
 
     /// Starts the copy to these devices ("address:port"). Does nothing after a refusal, which Batches reports.
     function start(targets) {

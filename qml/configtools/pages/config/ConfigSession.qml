@@ -35,7 +35,7 @@ Item {
     /// Number of changed encode settings and channel names that are not written.
     readonly property int unsaved: encodeWork.unsaved + namesWork.unsaved
     signal renewed  // the live window has logged in: unless `taken`, the settings of the shown tab must be read again
-    signal notify(string message, int severity, int duration)  // show this message; severity: of OVToast; duration in ms
+    signal notify(string message, int severity, int duration)  // shows a toast; severity: of OVToast; duration in ms
 
     readonly property int shortDuration: 3000  // of messages, ms
     readonly property int longDuration: 5000  // of error messages, ms

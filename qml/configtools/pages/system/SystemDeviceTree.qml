@@ -27,7 +27,8 @@ Rectangle {
         searchField.selectAll();
     }
 
-    /// Requests the device below the chosen one, also in a later group, by deviceChosen(). Returns false if there is none.
+    /// Requests the device below the chosen one, also in a later group, by deviceChosen(). Returns false if there is
+    /// none.
     function chooseNext() {
         const row = treeRows.deviceAfter(chosenDevice);
         if (row >= 0) {
