@@ -118,8 +118,8 @@ FocusScope {
         return true;
     }
 
-    /// Confirms a command for the ticked devices, see SystemPreview.ask(), and starts it. A started command ends the time
-    /// for the new password. Parameters: see SystemBatch.run().
+    /// Confirms a command for the ticked devices, see SystemPreview.ask(), and starts it. A started command ends the
+    /// time for the new password. Parameters: see SystemBatch.run().
     function runOnTicked(command, title, data) {
         preview.ask(command, title, data, devices.tickedNow(), chosen => {
             if (passwordTime.open && !batches.running)  // otherwise the command is refused
