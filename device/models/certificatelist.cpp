@@ -122,6 +122,7 @@ QVariantMap CertificateList::valuesOf(int row) const
     const QString begin = certificate.validFrom.section(QLatin1Char(' '), 0, 0);
     const QString end = certificate.validUntil.section(QLatin1Char(' '), 0, 0);
     return {{RowKey::identity, device + certificate.identity},
+            {DeviceRowKey::checked, m_rows.at(row).isChecked},
             {RowKey::device, device},
             {DeviceRowKey::mac, certificate.identity},
             {RowKey::subject, certificate.subject},

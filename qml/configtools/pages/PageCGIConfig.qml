@@ -55,6 +55,8 @@ FocusScope {
     /// Runs an entry of entriesOf() for a row: "send" (its command), "response" (show the complete response) or
     /// "copyResponse".
     function actOn(key, row) {
+        if (row < 0)
+            return;  // the device was hidden or removed while the menu was open
         const values = Object.assign({}, devices.get(row));
         if (key === "send") {
             cgiSender.send(row);

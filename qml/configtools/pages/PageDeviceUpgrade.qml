@@ -47,6 +47,8 @@ FocusScope {
 
     /// Runs an entry of entriesOf() for the device of a row: "file" (choose its file), "start" or "stop" (its upgrade).
     function actOn(key, row) {
+        if (row < 0)
+            return;  // the device was hidden or removed while the menu was open
         const identity = Object.assign({}, devices.get(row)).identity;
         if (key === "file")
             work.chooseFile([identity]);

@@ -161,7 +161,7 @@ FocusScope {
         onOwnChosen: (key, values) => {
             if (key === "gallery")
                 page.openGallery();
-            else if (!groups.take(key, values))
+            else if (!groups.take(key, values) && devices.rowOf(values.identity) >= 0)  // the row may be gone
                 changes.modifyRow(devices.rowOf(values.identity));
         }
         tickedDevices: () => devices.checkedMacs()

@@ -29,7 +29,7 @@ OVDialog {
         passwordField.text = "";
         followingBox.checked = false;
         // A stored account that was refused would be refused again after the next search.
-        keepBox.checked = keepBox.visible && deviceFactory.accountOf("dh", ipport).isStored;
+        keepBox.checked = LoginMemory.accounts !== null && deviceFactory.accountOf("dh", ipport).isStored;
         root.result = result;
         wrongTimes = LoginMemory.timesWrong(ipport);
         showResponse();

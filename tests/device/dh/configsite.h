@@ -120,8 +120,12 @@ public:
             {QStringLiteral("dh"), [this] {
                  sdk::SdkLibraries libraries = site->libraries();
                  libraries.net = net;
-                 return std::make_shared<CDeviceDH>(
+                 auto dh = std::make_shared<CDeviceDH>(
                      store, libraries, [] { return SearchSettings(); }, UpgradeLimits(), engine);
+                 dh->setStoredAccounts([this](const QStringList &identities) {
+                     return storedAccounts ? storedAccounts(identities) : std::nullopt;
+                 });
+                 return dh;
              }}});
         factory->setDefaultAccount(QStringLiteral("dh"), QStringLiteral("admin"), QStringLiteral("secret1"));
     }
@@ -197,6 +201,7 @@ private:
 public:
     std::shared_ptr<sdk::demo::DemoSite> site;
     std::shared_ptr<SilentNetLibrary> net; ///< of the factory; uses the site
+    AccountChoice::Stored storedAccounts;  ///< finds the stored account of a device; empty: there is none
     std::shared_ptr<DeviceStore> store;
     std::shared_ptr<BatchEngine> engine; ///< of the back end
     std::unique_ptr<CDeviceFactory> factory;

@@ -344,6 +344,7 @@ private Q_SLOTS:
         for (const char *password : {"another", "secret1"}) {
             QVERIFY(!choiceInDialog().isEmpty());
             QVERIFY(!m_accounts->accountOf({m_other.mac}));
+            QVERIFY(!dialogItem("keepBox")->property("checked").toBool());
             dialogItem("keepBox")->setProperty("checked", true);
             dialogItem("devicePasswordField")->setProperty("text", password);
             QMetaObject::invokeMethod(m_window->findChild<QObject *>("reloginDialog"), "accept");
@@ -352,6 +353,20 @@ private Q_SLOTS:
         QTRY_VERIFY(m_session->property("loggedIn").toBool());
         QCOMPARE(m_accounts->accountOf({m_other.mac})->password, "secret1");
         QVERIFY(!m_accounts->accountOf({m_recorder.mac}));
+    }
+
+    /// It would be refused again after the next search.
+    void aRefusedStoredAccountIsToBeReplaced()
+    {
+        const QSignalSpy found(m_site->factory.get(), &CDeviceFactory::signalSearchDone);
+        m_site->factory->startSearch("dh");
+        QTRY_VERIFY_WITH_TIMEOUT(!found.isEmpty(), 30000);
+        m_site->storedAccounts = [](const QStringList &) {
+            return DeviceAccount{.account = "admin", .password = "wrong"};
+        };
+        choose(m_other);
+        QVERIFY(!choiceInDialog().isEmpty());
+        QVERIFY(dialogItem("keepBox")->property("checked").toBool());
     }
 
     void inputIsBlockedWhereAnOperationRuns()

@@ -232,6 +232,17 @@ private Q_SLOTS:
         QCOMPARE(m_store->refused().size(), 2);
 
         open();
+        const int fresh = m_certificates.get(0).value("changed").toBool() ? 1 : 0;
+        QVERIFY(m_certificates.get(fresh).value("checked").toBool());
+        for (const int ticked : {0, 1}) { // a click changes the tick of one row
+            const QQuickItem *box =
+                findBelow(findBelow(m_window->contentItem(), "certificateTable", Sight::Visible),
+                          QStringLiteral("check%1").arg(fresh), Sight::Visible);
+            QVERIFY(box);
+            const QPointF middle = box->mapToScene(QPointF(box->width() / 2, box->height() / 2));
+            QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, middle.toPoint());
+            QCOMPARE(m_certificates.checkedCount(), ticked);
+        }
         QMetaObject::invokeMethod(dialog, "accept");
         QTRY_VERIFY(!dialog->property("visible").toBool());
         QCOMPARE(agreed.count(), 1);
