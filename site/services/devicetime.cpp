@@ -173,7 +173,6 @@ ServiceResult setSystemDateAndTime(ServiceCall &call)
     if (!offsetOf(zone, withDaylightSaving, newUtc))
         return SoapFault::invalid("ter:InvalidTimeZone", u"The time zone is invalid"_s);
     const sdk::NetError error = call.change([&](SceneDevice &device) {
-        // The clock is set first: if the device refuses it, no setting is changed.
         const std::int64_t ahead =
             std::chrono::milliseconds(*offsetOf(zone, withDaylightSaving, newUtc)).count();
         const QDateTime shown = QDateTime::fromMSecsSinceEpoch(newUtc + ahead, Qt::UTC);

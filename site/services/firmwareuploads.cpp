@@ -58,7 +58,7 @@ BodyReceiver FirmwareUploads::bodyReceiver(const HttpReceiver &receiver, const Q
             return true; // the body is discarded; the response is a refusal
         const bool goesOn = take(receiver, *upload, chunk, size);
         if (!goesOn)
-            end(receiver.mac);
+            end(receiver.mac, *upload);
         return goesOn;
     };
 }
@@ -82,7 +82,7 @@ bool FirmwareUploads::take(const HttpReceiver &receiver, Upload &upload, QByteAr
     }
     const int hang = percentOf(device->fault(Fault::UpgradeHangsAt));
     if (hang < all && percent >= hang) {
-        // Waits until the client disconnects.
+        // Waits until the connection ends.
         m_site.clock().wait(24h, receiver.stop);
         return false;
     }
@@ -100,38 +100,40 @@ HttpResponse FirmwareUploads::finish(const HttpReceiver &receiver, const QByteAr
         sdk::readFirmwareHead({upload->head.constData(), static_cast<std::size_t>(upload->head.size())});
     if (reading.kind != sdk::FirmwareHeadReading::Kind::Known ||
         !reading.head.fits(device->model.toStdString()))
-        return refuse(receiver.mac, u"This is not a firmware of the device"_s);
+        return refuse(receiver.mac, *upload, u"This is not a firmware of the device"_s);
     if (percentOf(device->fault(Fault::UpgradeFailsAt)) == all)
-        return refuse(receiver.mac, u"The firmware cannot be written"_s);
+        return refuse(receiver.mac, *upload, u"The firmware cannot be written"_s);
     {
         const std::lock_guard lock(m_mutex);
         upload->isWriting = true;
     }
     if (percentOf(device->fault(Fault::UpgradeHangsAt)) != all) {
-        m_poller.after(DeviceUpgrade::writing,
-                       [this, mac = receiver.mac, firmware = reading.head] { write(mac, firmware); });
+        m_poller.after(DeviceUpgrade::writing, [this, mac = receiver.mac, upload, firmware = reading.head] {
+            write(mac, *upload, firmware);
+        });
     }
     return HttpResponse::line(HttpStatus::Ok, u"The device writes the firmware and reboots"_s);
 }
 
-HttpResponse FirmwareUploads::refuse(const QString &mac, const QString &sentence)
+HttpResponse FirmwareUploads::refuse(const QString &mac, const Upload &upload, const QString &sentence)
 {
-    end(mac);
+    end(mac, upload);
     return HttpResponse::line(HttpStatus::InternalServerError, sentence);
 }
 
-void FirmwareUploads::write(const QString &mac, const sdk::FirmwareHead &firmware)
+void FirmwareUploads::write(const QString &mac, const Upload &upload, const sdk::FirmwareHead &firmware)
 {
     m_site.changeDevice(mac, [&](SceneDevice &device, const DeviceAddresses &) {
         installFirmware(device, firmware, m_site.clock().now());
     });
-    end(mac);
+    end(mac, upload);
 }
 
-void FirmwareUploads::end(const QString &mac)
+void FirmwareUploads::end(const QString &mac, const Upload &upload)
 {
     const std::lock_guard lock(m_mutex);
-    m_uploads.remove(mac);
+    if (m_uploads.value(mac).get() == &upload)
+        m_uploads.remove(mac);
 }
 
 } // namespace site

@@ -62,9 +62,11 @@ private:
 
     [[nodiscard]] UploadPointer uploadOf(const HttpReceiver &receiver, const QByteArray &path) const;
     bool take(const HttpReceiver &receiver, Upload &upload, QByteArrayView chunk, qint64 size) const;
-    [[nodiscard]] sdk::demo::HttpResponse refuse(const QString &mac, const QString &sentence);
-    void write(const QString &mac, const sdk::FirmwareHead &firmware);
-    void end(const QString &mac);
+    [[nodiscard]] sdk::demo::HttpResponse refuse(const QString &mac, const Upload &upload,
+                                                 const QString &sentence);
+    void write(const QString &mac, const Upload &upload, const sdk::FirmwareHead &firmware);
+    /// Removes the upload, unless begin() has replaced it.
+    void end(const QString &mac, const Upload &upload);
 
     sdk::demo::DemoSite &m_site;
     Poller &m_poller;

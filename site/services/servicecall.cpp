@@ -2,6 +2,8 @@
 
 #include "site/deviceidentity.h"
 
+#include <utility>
+
 namespace site {
 
 QString ServiceCall::root() const
@@ -14,8 +16,11 @@ ServiceCall::change(const std::function<sdk::NetError(sdk::demo::SceneDevice &de
 {
     sdk::NetError error = sdk::NetError::ConnectTimeout;
     context.site.changeDevice(device.mac,
-                              [&](sdk::demo::SceneDevice &changed, const sdk::demo::DeviceAddresses &) {
+                              [&](sdk::demo::SceneDevice &present, const sdk::demo::DeviceAddresses &) {
+                                  sdk::demo::SceneDevice changed = present;
                                   error = change(changed);
+                                  if (error == sdk::NetError::None)
+                                      present = std::move(changed);
                               });
     return error;
 }

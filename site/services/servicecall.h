@@ -48,7 +48,7 @@ struct ServiceCall
     [[nodiscard]] QString root() const;
 
     /// Applies `change` to the present state of the device, which may differ from `device`, and returns its
-    /// result. `change` must leave the device unchanged if it returns an error. ConnectTimeout, without a
+    /// result. The device stays unchanged if `change` returns an error. ConnectTimeout, without a
     /// call of `change`, if the device has left the site. The site is locked during `change`, which must not
     /// use it. The member `device` does not change.
     sdk::NetError change(const std::function<sdk::NetError(sdk::demo::SceneDevice &device)> &change) const;

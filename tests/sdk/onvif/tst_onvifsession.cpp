@@ -409,6 +409,7 @@ private Q_SLOTS:
         for (const char *const packet :
              {"80e0000100000e1000000007419a0010", "80e0000200001c2000000007419a0020"})
             script.endless += framed({0, QByteArray::fromHex(packet)});
+        script.endlessPause = std::chrono::milliseconds{20};
         const RtspServer server(script);
         RtspOrder order = {.url = server.url(), .account = "admin", .password = "secret1", .timeouts = {}};
         std::atomic_bool isRefused = false;
