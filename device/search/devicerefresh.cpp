@@ -116,7 +116,8 @@ struct ResponseReceiver
     void takeUnlisted(const sdk::SearchResponse &response) const
     {
         for (const QString &name : {macText(response), uuidName(response)}) {
-            if (name.isEmpty() || !waiting.addressOf(name))
+            // A listed device with this UUID is another one, which has another MAC.
+            if (name.isEmpty() || !waiting.addressOf(name) || !store.rowNamed(name).isEmpty())
                 continue;
             QJsonObject row = ipv4Row(response);
             if (rowName(row) != name)

@@ -390,7 +390,9 @@ void DeviceStore::upsertRow(QJsonObject row, const std::optional<sdk::SearchResp
     // changed.
     const auto isOfOther = [this, &row] {
         const QJsonObject kept = m_ipv4.row(rowName(row));
-        return row.value(DeviceRowKey::mac).toString().isEmpty() && !kept.isEmpty() &&
+        const bool hasIdentity = !row.value(DeviceRowKey::identity).toString().isEmpty() ||
+                                 !row.value(DeviceRowKey::mac).toString().isEmpty();
+        return !hasIdentity && !kept.isEmpty() &&
                kept.value(DeviceRowKey::ipport) != row.value(DeviceRowKey::ipport);
     };
     for (int before = 1; isOfOther(); ++before)

@@ -118,9 +118,9 @@ public:
 
     /// Adds an IPv4 row that does not come from a search. `response` becomes its search record; without a
     /// response, an existing record is kept. The row replaces the row of the same name in its position,
-    /// otherwise it is appended. A row without a MAC whose name belongs to a row at another address gets
-    /// another name (key "duplicate") and is appended. "num" of the row becomes the number of IPv4 rows
-    /// before this call plus 1.
+    /// otherwise it is appended. A row without identity and MAC whose name belongs to a row at another
+    /// address gets another name (key "duplicate") and is appended. "num" of the row becomes the number of
+    /// IPv4 rows before this call plus 1.
     void upsertRow(QJsonObject row, const std::optional<sdk::SearchResponse> &response = {});
 
     // Remove rows by name. Names without a row are ignored.

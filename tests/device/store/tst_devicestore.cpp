@@ -276,6 +276,8 @@ private Q_SLOTS:
         m_store->upsertRow({{"ipport", "192.168.1.66:37777"}});
         const ResponseTexts listed = {.address = "192.168.1.66", .mac = "", .uuid = "5f5a"};
         QCOMPARE(m_store->nameOf(searchResponse(listed)), "192.168.1.66:37777");
+        m_store->upsertRow({{"identity", name}, {"ipport", "192.168.1.67:37777"}});
+        QCOMPARE(valuesOf(m_store->rowNamed(name), "ipport mac"), "192.168.1.67:37777|");
     }
 
     void concurrentChangesOfARowAreKept()
