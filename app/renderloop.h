@@ -11,6 +11,7 @@
 /// (OVWindowOnDemand). A lock around the frames of render threads is no alternative: a grabbed frame has no
 /// signal after its end.
 ///
-/// Requires the application object. Must be called before the first QQuickWindow is created, on the main
+/// Sets QSG_RENDER_LOOP in the environment, which processes that are started later inherit. Requires the
+/// application object. Must be called before the first QQuickWindow is created, on the main
 /// thread. Does nothing if the environment selects a render loop (QSG_RENDER_LOOP), or without OpenGL.
 void avoidRenderThreadsInSoftware();

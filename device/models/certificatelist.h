@@ -10,8 +10,8 @@
 /// unknown (no certificate of the device was accepted before) or changed (it differs from the accepted one).
 /// Changed certificates are the first rows. Keys of a row: "identity", "device" (address and port), "mac"
 /// (or UUID; empty if unknown), "subject", "validity" (first and last day), "fingerprint", "stored" (the
-/// previously accepted fingerprint; empty for an unknown certificate) and "changed" (bool). load() checks
-/// the unknown certificates and unchecks the changed ones.
+/// previously accepted fingerprint; empty for an unknown certificate), "changed" and "checked" (bool). load()
+/// checks the unknown certificates and unchecks the changed ones.
 ///
 /// The listener of the store belongs to this object: a store must not have two CertificateList objects.
 /// Lives on the main thread.

@@ -52,7 +52,7 @@ public:
     void locate(const QStringList &names, const std::stop_token &stop);
 
 Q_SIGNALS:
-    /// Emitted on threads of the network library, for each response that updated or added a row.
+    /// Emitted on any thread, for each response that updated or added a row.
     void rowsChanged();
 
 private:

@@ -12,7 +12,7 @@ enum class DemoError : std::uint32_t
 {
     None = 0,
     NotPrepared = 0x1001, ///< the library is not initialised, or was released by NetCleanup
-    WrongSize,     ///< the size field of a block is not the size of the block, or a buffer is too small
+    WrongSize,     ///< the size field of a block is not the size of the block; a missing or too small buffer
     WrongCount,    ///< a count of addresses beyond the limit or below 0; NetSearchDeviceByIp: other than 1
     NoHandler,     ///< search or upgrade without a handler
     InsideHandler, ///< called from a handler, for whose end the operation would wait

@@ -21,12 +21,15 @@ public:
     /// The plan, or why there is none.
     struct Planned
     {
-        BatchPlan plan;  ///< without devices if none of the devices has to be changed, or if refused
+        /// Without devices if none was given, if the ended batch has none of them, or if refused. Devices
+        /// that have the new settings already are included, and get a request as well.
+        BatchPlan plan;
         QString refusal; ///< in the user's language; empty if the batch can start
     };
 
-    /// `earlier` are the batches since the start of the application, oldest first. Both must outlive this
-    /// object. `factory` must also outlive the batches that are started with the plans.
+    /// `earlier` are the batches that are kept, see Batches::kept(), oldest first. After a failed change, the
+    /// settings before it are known only while its batch is kept; then those of the row are used. Both must
+    /// outlive this object. `factory` must also outlive the batches that are started with the plans.
     AddressChanges(CDeviceFactory &factory, const QList<Batch *> &earlier)
         : m_factory(factory), m_earlier(earlier)
     {

@@ -27,7 +27,9 @@ public:
                  const UpgradeLimits &limits, const std::shared_ptr<BatchEngine> &engine,
                  BackEndSignals &backEndSignals);
 
-    /// Waits for documents that are being written, and ends the upgrades, see UpgradeRunner::end().
+    /// Calls end() and waits for documents that are being written. The threads of the engine must have ended
+    /// before: a step that still runs uses this object. Queued signals of the back end use it as well, so no
+    /// event may be processed between its destruction and that of the back end.
     ~UpgradeRound();
     UpgradeRound(const UpgradeRound &) = delete;
     UpgradeRound &operator=(const UpgradeRound &) = delete;
@@ -84,5 +86,6 @@ private:
     std::mutex m_changedMutex;
     QSet<QString> m_changed; ///< row names; guarded by m_changedMutex
     std::atomic<bool> m_scheduleNoted = false;
-    const std::unique_ptr<UpgradeRunner> m_runner; ///< declared last: its threads use the other members
+    const std::unique_ptr<UpgradeRunner>
+        m_runner; ///< declared last: it reports to the other members until its end
 };

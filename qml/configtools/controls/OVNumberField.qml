@@ -8,7 +8,7 @@ OVTextField {
 
     property int largest: 65535  // at most 999999999
     property string invalidText: qsTr("请输入数字")  // error text of an empty field
-    readonly property bool acceptable: text !== ""  // the field has a number
+    readonly property bool acceptable: text !== ""  // the field is not empty
 
     errorText: acceptable ? "" : invalidText
     textFont: Theme.figureFont

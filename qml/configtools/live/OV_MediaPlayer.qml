@@ -18,7 +18,7 @@ FocusScope {
     property bool stretched: false  // the video fills the view, without its aspect ratio
     property bool sounding: false  // plays the sound
     property bool figuresShown: false  // shows LiveFigures while playing
-    property bool compact: false          // small view: no mouse input, no button for a retry
+    property bool compact: false          // small view: no mouse input, no button for a retry of the stream
     /// Handle of a separate session, 0 for the session of the configuration pages. The next start uses it: a running
     /// stream is not affected.
     property double session: 0

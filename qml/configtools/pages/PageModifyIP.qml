@@ -47,7 +47,8 @@ FocusScope {
             galleryRequested(devices.checkedRows());
     }
 
-    /// Imports a device list.
+    /// Imports the device list at the local `path`, whose suffix is its format; asks for a passphrase first if the list
+    /// is encrypted. Refused while other work needs the rows. The result is shown by notify() or a dialog.
     function importList(path) {
         files.importFile(path);
     }

@@ -1,6 +1,6 @@
 // Input of one device to add, by IP address or P2P ID. The dialog adds nothing: after `confirmed` the owner sets `busy`
-// and adds the device, then closes the dialog or calls showResult(). The user may close the dialog before that, which
-// the owner treats as a cancellation.
+// and adds the device, then sets `busy` to false and closes the dialog or calls showResult(). The user may close the
+// dialog before that, which the owner treats as a cancellation.
 import QtQuick
 import configtools
 
@@ -49,8 +49,9 @@ OVDialog {
         fault = "";
     }
 
-    /// Shows why the device was not added, at the field that it concerns. `code`: a LoginResult. `error`: its text;
-    /// with "" the dialog shows nothing and stays open.
+    /// Shows why the device was not added: an unknown account, a wrong password and a listed address at the field,
+    /// another reason above the buttons. `code`: a LoginResult. `error`: its text; with "" the dialog shows nothing and
+    /// stays open. Requires that `busy` is false.
     function showResult(code, error) {
         faultKind = code === DeviceAdding.NoSuchAccount ? "account" : code === DeviceAdding.WrongPassword ? "password"
             : code === DeviceAdding.AlreadyListed ? "address" : "";

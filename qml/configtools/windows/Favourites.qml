@@ -17,9 +17,9 @@ QtObject {
         return author.readJsonFilesFromFolder(folder);
     }
 
-    /// Saves a device: a map of "mode" (DeviceAdding.Mode), "address", "port", "account", "password" or its "cipher", and
-    /// "note". Replaces the favourite with the same address and port. Returns the file name, "" on failure. saveTextAsJson()
-    /// reports no failure, so the file is read back.
+    /// Saves a device: a map of "mode" (DeviceAdding.Mode), "address", "port", "account", "password" or its "cipher",
+    /// and "note"; all but the mode are texts. Replaces the favourite with the same address and port. Returns the file
+    /// name, "" on failure. saveTextAsJson() reports no failure, so the file is read back.
     function save(device) {
         const cipher = device.cipher ?? author.AesEncrypt(device.password);
         const values = [String(device.mode), device.address, device.port, device.account, cipher, device.note];

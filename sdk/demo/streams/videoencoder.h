@@ -22,8 +22,9 @@ public:
 
     /// Encodes `frame`, which has the size and format of context(), and appends it to `packets`. `number` is
     /// the time of the frame, in frame durations since the start of the stream; it increases from call to
-    /// call. With `isKey` the frame is a key frame. Without `isKey` the encoder makes key frames at its own
-    /// interval, of 2 s at the frame rate of the settings. Returns false on failure.
+    /// call. Overwrites `pts` and `pict_type` of the frame. With `isKey` the frame is a key frame. Without
+    /// `isKey` the encoder makes key frames at its own interval, of 2 s at the frame rate of the settings.
+    /// Returns false on failure.
     [[nodiscard]] bool encode(AVFrame &frame, std::int64_t number, bool isKey, EncodedPackets &packets);
 
 private:

@@ -18,8 +18,8 @@ public:
 
     /// The colour space of the bytes that write() writes: that of the frame, or usualFrameColour() of its
     /// height for an RGB frame. A frame that reports no matrix or another one than those of BT.601, BT.709
-    /// and BT.2020 has that of usualFrameColour(); one that reports no range has the limited range. BT.2020
-    /// counts as BT.709.
+    /// and BT.2020 has that of usualFrameColour(); one that reports no range has the limited range, except in
+    /// the formats "YUVJ". BT.2020 counts as BT.709, FCC as BT.601.
     [[nodiscard]] static FrameColour colourOf(const AVFrame &frame);
 
 private:

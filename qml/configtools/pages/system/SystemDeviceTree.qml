@@ -7,7 +7,9 @@ Rectangle {
     id: root
 
     required property OVTreeModel devices  // owns the ticks; its `shown` is the filter
-    required property var describer  // its function resultText(result, ipport) returns the tool tip of a result
+    /// An object whose function resultText(result, ipport) returns the tool tip for the last result of the device at
+    /// `ipport` ("address:port"): a LoginResult, or an OVTreeModel.Result other than NoResult.
+    required property var describer
     required property string busyDevice  // "address:port" of a device with a running request; "" for none
     required property bool searching  // a search runs
     required property bool libraryInstalled  // false: there is no device library, so no device can be reached
