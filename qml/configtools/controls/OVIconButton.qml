@@ -26,14 +26,9 @@ OVAbstractButton {
             name: root.iconName
             size: root.iconSize
 
-            RotationAnimator on rotation {
-                id: turn
-                duration: Theme.turn
-                from: 0
-                to: 360
-                loops: Animation.Infinite
+            OVTurning {
                 running: root.turning
-                onStopped: sign.rotation = 0
+                target: sign
             }
         }
     }

@@ -10,11 +10,8 @@ OVIcon {
     name: "spinner"
     color: Theme.colours.accent
 
-    RotationAnimator on rotation {
-        duration: Theme.turn
-        from: 0
-        to: 360
-        loops: Animation.Infinite
+    OVTurning {
         running: root.running && root.visible
+        target: root
     }
 }
