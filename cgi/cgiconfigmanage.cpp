@@ -103,16 +103,6 @@ bool CGIConfigManage::passEvents()
     return !m_isStopped;
 }
 
-void CGIConfigManage::setProxy(const QString &proxy)
-{
-    m_surroundings.transport->setProxy(proxy);
-}
-
-void CGIConfigManage::setCertificateHandler(sdk::CertificateHandler handler, void *user)
-{
-    m_surroundings.transport->setCertificateHandler(handler, user);
-}
-
 QString CGIConfigManage::singleCGIConfig(const QString &url, const QString &user, const QString &pass,
                                          const QString &ipport)
 {

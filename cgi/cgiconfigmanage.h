@@ -36,14 +36,6 @@ public:
     /// The context that this object sends its commands with.
     [[nodiscard]] const CgiSurroundings &surroundings() const { return m_surroundings; }
 
-    /// Sets the proxy of later requests, "http://host:port" or empty for none, for all users of the transport
-    /// of surroundings().
-    void setProxy(const QString &proxy);
-
-    /// Sets the handler that decides about the certificates of devices, for all users of the transport of
-    /// surroundings(). Without a handler no request is sent over HTTPS.
-    void setCertificateHandler(sdk::CertificateHandler handler, void *user);
-
     /// Checks the login and sends one command, see CgiProcedure::run(). `url` is complete, with its scheme;
     /// `ipport` is the "address:port" of the login. Returns the text of the response, the path of the file of
     /// an image or a recording, or "Error:" and the reason. While another command or a workbook runs, nothing

@@ -98,6 +98,8 @@ void ChannelNameForm::save()
     if (!isSaving())
         return;
     m_finishedRows = 0;
+    m_writtenRows = 0;
+    m_failedRow = -1;
     requestNext();
 }
 
@@ -138,6 +140,10 @@ void ChannelNameForm::takeWritten(int row, int result, const QVariant &name)
         return;
     m_isWriting = false;
     ++m_finishedRows;
+    if (!hasFailed(trouble))
+        ++m_writtenRows;
+    else if (m_failedRow < 0)
+        m_failedRow = row;
     if (m_isStopping || trouble == NoResponse || trouble == Upgrading ||
         m_finishedRows == m_rowsToSave.size())
         finishSaving();
@@ -162,15 +168,8 @@ void ChannelNameForm::finishSaving()
 {
     m_isWriting = m_isStopping = false;
     const QList<int> rows = std::exchange(m_rowsToSave, {});
-    const auto tried = rows.first(m_finishedRows);
-    const auto isWritten = [this](int row) {
-        return !hasFailed(m_rows.at(row).lastWrite);
-    };
-    const auto failed = std::find_if_not(tried.cbegin(), tried.cend(), isWritten);
     Q_EMIT savingChanged();
-    Q_EMIT saved(static_cast<int>(rows.size()),
-                 static_cast<int>(std::count_if(tried.cbegin(), tried.cend(), isWritten)),
-                 failed == tried.cend() ? -1 : *failed);
+    Q_EMIT saved(static_cast<int>(rows.size()), m_writtenRows, m_failedRow);
 }
 
 int ChannelNameForm::savingRow() const

@@ -76,7 +76,8 @@ public:
     /// Does nothing while saving, or if no name is changed.
     Q_INVOKABLE void save();
 
-    /// Sets the result of a write. `result` is 0, a LoginResult, or an error code of the device library.
+    /// Sets the result of a write. `result` is 0, LoginResult::Upgrading (trouble Upgrading), or an error
+    /// code of the device library: NoResponse if isDeviceAway(), otherwise Refused; no other LoginResult.
     /// `name` is the name that the device reports after a success, null if it reports none. It becomes the
     /// name of the row; for null the written name does. A name that was edited after writeRequested() stays
     /// in the row as a change, also after a success. After a failure the edited name stays. If `row` is
@@ -104,7 +105,7 @@ Q_SIGNALS:
 
     /// A save has ended. `rows` names were to be written, and the device accepted `written` of them, also
     /// those with the trouble Different. `failedRow` is the first row with the trouble Refused, NoResponse
-    /// or Upgrading after its write; -1 if there is none.
+    /// or Upgrading after its write, also if its name was edited since; -1 if there is none.
     void saved(int rows, int written, int failedRow);
 
 protected:
@@ -140,6 +141,8 @@ private:
     QList<Row> m_rows;            ///< by channel
     QList<int> m_rowsToSave;      ///< of the running save; empty while not saving
     qsizetype m_finishedRows = 0; ///< rows of m_rowsToSave that are finished
+    int m_writtenRows = 0;        ///< of them, those that the device has accepted
+    int m_failedRow = -1;         ///< first of them with a failure; -1 for none
     bool m_isWriting = false;     ///< the save waits for takeWritten()
     bool m_isStopping = false;    ///< the save ends with the next takeWritten()
 };

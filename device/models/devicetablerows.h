@@ -19,8 +19,10 @@ struct DeviceTableRow
     /// Another row of a device that is not offline has the same "ipport". Always false if `isAbsent` is true
     /// or the row has no address (":port").
     bool conflict = false;
-    bool isAbsent = false; ///< the device is known, but not in the list: nothing can be done with it
-    QString reason = {};   ///< FollowedMarks::reasonOf(); empty unless only marked devices are shown
+    /// By SiteKey::presence: an earlier search has found the device, but it is not in the present device
+    /// list. Nothing can be done with it.
+    bool isAbsent = false;
+    QString reason = {}; ///< FollowedMarks::reasonOf(); empty unless only marked devices are shown
 
     /// The value of a key. A missing key (IPv6 rows lack some) gives -1 for "res" and "upgraderes", 0 for
     /// "upgrade" and otherwise an empty string.
@@ -57,7 +59,8 @@ struct DeviceTableOrder
 /// The names of all rows of `list`, see rowName().
 [[nodiscard]] QSet<QString> namesOf(const QVariantList &list);
 
-/// The filtered and ordered rows of `list`, which contains JSON objects as filterData() returns them.
+/// The filtered and ordered rows of `list`: JSON objects as filterData() returns them, with the group, the
+/// presence and the absent devices of KnownDevices::complete() and the notes of the devices.
 /// Conflicts are those of the whole list, before the filter.
 [[nodiscard]] QList<DeviceTableRow> deviceTableRows(const QVariantList &list, const DeviceTableFilter &filter,
                                                     const DeviceTableOrder &order);

@@ -28,7 +28,7 @@ OVDialog {
         lines.load(detail);
     }
 
-    /// Writes all values to a text file, without a question. Returns false on failure.
+    /// Writes all values to a text file at the local `path`, replacing an existing one. Returns false on failure.
     function write(path) {
         return lines.write(path);
     }
@@ -230,6 +230,7 @@ OVDialog {
             onResponded: (account, password) => {
                 if (account === "" && password === "")
                     return;
+                // ReloginDialog has set the password of the row.
                 root.deviceFactory.updataDeviceInfo("dh", "username", account, mac, ipport);
                 root.ask();
             }

@@ -17,7 +17,9 @@ namespace sdk::onvif {
 struct VideoEncoder
 {
     std::string token = {};
-    std::string encoding = {}; ///< "JPEG", "H264", "H265", "MPEG4"
+    /// As the device names it: "JPEG", "H264" and "MPEG4" in the older service; "JPEG", "H264", "H265",
+    /// "MPV4-ES" and others in the newer one.
+    std::string encoding = {};
     int width = 0;
     int height = 0;
     double frameRate = 0;         ///< frames per second
@@ -32,9 +34,10 @@ struct VideoEncoder
 struct AudioEncoder
 {
     std::string token = {};
-    std::string encoding =
-        {};          ///< "G711", "G726", "AAC" of the older service; "PCMU", "G726", "MP4A-LATM" of the newer
-    int bitRate = 0; ///< kbit/s
+    /// As the device names it: "G711", "G726" and "AAC" in the older service; "PCMU", "PCMA", "G726",
+    /// "MP4A-LATM" and others in the newer one.
+    std::string encoding = {};
+    int bitRate = 0;    ///< kbit/s
     int sampleRate = 0; ///< kHz
 };
 
@@ -60,7 +63,7 @@ enum class MediaVersion
 /// The options of a video encoder for one encoding. Numbers that the device does not report are 0.
 struct VideoEncodingOptions
 {
-    std::string encoding = {};
+    std::string encoding = {};                   ///< as VideoEncoder::encoding
     std::vector<std::pair<int, int>> sizes = {}; ///< width, height
     int minimumBitRate = 0;                      ///< kbit/s
     int maximumBitRate = 0;                      ///< kbit/s
@@ -76,7 +79,7 @@ struct VideoEncodingOptions
 /// The options of an audio encoder for one encoding.
 struct AudioEncodingOptions
 {
-    std::string encoding = {};
+    std::string encoding = {};         ///< as AudioEncoder::encoding
     std::vector<int> bitRates = {};    ///< kbit/s
     std::vector<int> sampleRates = {}; ///< kHz
 };
@@ -121,12 +124,14 @@ public:
     // settings are kept, except settings outside the standard, which are not sent. They fail with
     // ProtocolMismatch, without writing, if the device does not return the settings of the token.
 
-    /// Changes the encoder `encoder.token` to the values of `encoder`. An empty profile and a key interval of
-    /// 0 are not written; in the older service, a codec that the encoder has no settings of gets "Main" and
-    /// 1. In the newer service, both are removed for JPEG. The frame rate and the bit rate are not written to
-    /// a device that does not report a rate control; the older service gets a whole frame rate.
+    /// Changes the encoder `encoder.token` to the values of `encoder`. A value that the device does not
+    /// report, such as those of the rate control, is not written, without an error. An empty profile and a
+    /// key interval of 0 are not written. The older service gets a whole frame rate and no `constantBitRate`;
+    /// the settings of other codecs than the chosen one are removed, and a codec without settings gets "Main"
+    /// and 1. In the newer service, profile and key interval are removed for JPEG.
     [[nodiscard]] ServiceOutcome setVideoEncoder(const VideoEncoder &encoder);
-    /// Changes the encoder `encoder.token` to the values of `encoder`.
+    /// Changes the encoder `encoder.token` to the values of `encoder`. As above, a value that the device does
+    /// not report is not written.
     [[nodiscard]] ServiceOutcome setAudioEncoder(const AudioEncoder &encoder);
 
     /// Changes MediaProfile::sourceName. `configurationToken` is MediaProfile::sourceConfiguration.

@@ -193,6 +193,19 @@ private Q_SLOTS:
         QCOMPARE(names->changedCount(), 1);
     }
 
+    void aRefusedNameThatIsEditedMeanwhileIsReported()
+    {
+        open(recorder());
+        setFault(Fault::RefusesItem, 1108);
+        const auto names = form();
+        connect(names.get(), &ChannelNameForm::savingChanged, names.get(), [form = names.get()] {
+            if (form->savingRow() == 4)
+                form->set(3, "Tor");
+        });
+        QCOMPARE(resultOfSaving(*names, "Hof "), QVariantList({3, 0, 3}));
+        QCOMPARE(names->get(3).value("name").toString(), "Tor");
+    }
+
     void anUnreadNameCanBeSet()
     {
         open(recorder());
