@@ -91,3 +91,13 @@ function(configtools_add_test name)
         FAIL_REGULAR_EXPRESSION "${configtools_qml_errors}"
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
 endfunction()
+
+# For tests in which libraries leak. The check for leaks excludes their allocations by the names of functions
+# (scripts/sanitizer/lsan.supp), and gets the complete stack of each allocation in these tests, which takes ten times longer.
+# configtools_name_allocations(<test>...)
+function(configtools_name_allocations)
+    if(CONFIGTOOLS_SANITIZER MATCHES "address")
+        set_tests_properties(${ARGV} PROPERTIES
+            ENVIRONMENT_MODIFICATION "ASAN_OPTIONS=string_append::fast_unwind_on_malloc=0")
+    endif()
+endfunction()

@@ -42,7 +42,7 @@ use_folders_of_tests() {
     export PULSE_SERVER=unix:$directory/no-sound # tests play no sound, and do not start a sound server
     unset LANGUAGE
     export QT_QUICK_CONTROLS_STYLE=Basic
-    export ASAN_OPTIONS=detect_leaks=1:fast_unwind_on_malloc=0 # names of functions in libraries without frame pointers
+    export ASAN_OPTIONS=detect_leaks=1
     export LSAN_OPTIONS=suppressions=$root/scripts/sanitizer/lsan.supp:print_suppressions=0
     # Libraries that are not built with the sanitizer are ignored: their synchronisation is invisible to it.
     export TSAN_OPTIONS=suppressions=$root/scripts/sanitizer/tsan.supp:print_suppressions=0:ignore_noninstrumented_modules=1
