@@ -1,5 +1,5 @@
-// Turns an item clockwise while `running`, in steps: each step draws the whole window, which 60 times per second takes a
-// complete processor if there is no graphics card. The item is upright at the start and after the end.
+// Turns an item clockwise while `running`, in steps: each step draws the whole window, which 60 times per second takes
+// a complete processor if there is no graphics card. The item is upright at the start and after the end.
 import QtQuick
 import configtools
 

@@ -47,8 +47,10 @@ Item {
     }
 
     /// Opens the address dialog for the device of one row (index in `deviceTable`). Refused while its firmware is being
-    /// upgraded.
+    /// upgraded. Does nothing for -1.
     function modifyRow(row) {
+        if (row < 0)
+            return;  // the device was hidden or removed while its menu was open
         const values = deviceTable.get(row);
         if (UpgradeTools.isRunning(values.upgraderes ?? UpgradeTools.None))
             notify(qsTr("设备正在升级，不能修改IP地址"), OVToast.Refusal);

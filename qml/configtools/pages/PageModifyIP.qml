@@ -162,7 +162,7 @@ FocusScope {
         onOwnChosen: (key, values) => {
             if (key === "gallery")
                 page.openGallery();
-            else if (!groups.take(key, values) && devices.rowOf(values.identity) >= 0)  // the row may be gone
+            else if (!groups.take(key, values))
                 changes.modifyRow(devices.rowOf(values.identity));
         }
         tickedDevices: () => devices.checkedMacs()
