@@ -135,9 +135,7 @@ void walkSnapshots(Driver &driver)
     Driver live(openLive(driver, recorder), driver.imageFolder() + u"/recorder"_s);
     live.click(u"liveSnapAllButton"_s);
     const QString expected = QCoreApplication::translate("SnapshotDialog", "成功 %n", nullptr, 11);
-    live.await(
-        u"each channel with a camera has a snapshot"_s,
-        [&] { return live.find(u"snapshotSummary"_s) && live.text(u"snapshotSummary"_s) == expected; }, 90);
+    awaitSnapshots(live, expected);
     live.report(u"snapshots"_s, live.text(u"snapshotSummary"_s));
     closeSnapshots(live, u"snap/192.168.1.120_80"_s, 11);
     closeLive(driver, live);

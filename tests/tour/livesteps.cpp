@@ -158,12 +158,10 @@ void walkSnapshots(Driver &live)
     const QString expected = QCoreApplication::translate("SnapshotDialog", "成功 %n", nullptr, 11) +
                              translated("SnapshotDialog", "，") +
                              QCoreApplication::translate("SnapshotDialog", "失败 %n", nullptr, 5);
-    live.await(
-        u"every channel has a snapshot or a reason"_s,
-        [&] { return live.text(u"snapshotSummary"_s) == expected; }, 90);
+    awaitSnapshots(live, expected);
     live.report(u"snapshots"_s, live.text(u"snapshotSummary"_s));
     live.click(u"snapshotAgain0"_s);
-    live.await(u"the retry ends"_s, [&] { return live.text(u"snapshotSummary"_s) == expected; });
+    awaitSnapshots(live, expected);
 
     closeSnapshots(live, u"snap/192.168.1.120_8800"_s, 11);
 }

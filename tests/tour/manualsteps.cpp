@@ -354,11 +354,7 @@ void showLive(const Driver &driver, const QString &folder)
     awaitFrames(live, 4);
     live.save(u"live"_s);
     live.click(u"liveSnapAllButton"_s);
-    const QString running = translated("SnapshotDialog", "正在抓图 %1 / %2").section(u'%', 0, 0);
-    live.await(
-        u"all channels have a snapshot or a reason"_s,
-        [&] { return live.find(u"snapshotImage"_s) && !live.text(u"snapshotSummary"_s).startsWith(running); },
-        60);
+    awaitSnapshotsEnd(live);
     live.save(u"snapshots"_s);
     live.key(Qt::Key_Escape);
     live.awaitGone(u"snapshotGrid"_s);
