@@ -52,7 +52,8 @@ public:
     {
         return tr("临时文件夹 %1 无法使用：%2").arg(folder, reason);
     }
-    //: The reason why a device is not part of a report.
+    //: Why a device of a report was not read: %1 devices in a row refused the login, and the report was
+    //: stopped.
     static QString refusalsInARow(int count) { return tr("连续 %1 台设备拒绝登录").arg(count); }
     //: %1 is the path of a file or folder, %2 the reason why it cannot be written.
     static QString fileFailed(const QString &path, const QString &reason)
@@ -61,7 +62,7 @@ public:
     }
     static QString droppedChanges(qsizetype count) { return tr("较早的 %1 项更改未保留。").arg(count); }
     static QString moreChannels(qsizetype count) { return tr("另有 %1 个通道").arg(count); }
-    //: A channel of a recorder. %1 is its number.
+    //: A channel of a recorder. %1 is its number, from 1.
     static QString channel(int number) { return tr("通道 %1").arg(number); }
 
     /// A title and its text as one line.
@@ -75,8 +76,8 @@ public:
     static QString clockOffset(qint64 seconds);
     /// The version of a device and the newer one of a device of the same model.
     static QString versions(const QString &version, const QString &newest);
-    /// ReportDevice::title(), followed by the MAC in parentheses, or by address and port if the MAC is
-    /// unknown; without a title only the latter.
+    /// ReportDevice::title(), followed in parentheses by the MAC, or by address and port if the MAC is
+    /// unknown. Without a title: the MAC or, if it is unknown, address and port, without parentheses.
     static QString deviceName(const ReportDevice &device);
     /// The time server of a device that was read: its address, on, off, or not reported.
     static QString timeServerOf(const DeviceInspection &inspection);
@@ -89,6 +90,7 @@ public:
     /// The operation of a setting (WrittenSetting) of the configuration pages. `channel` is from 0; it is
     /// named unless it is the first one.
     static QString writtenSetting(const QString &setting, int channel);
-    /// The value of such a setting: that of a switch in the user's language.
+    /// The value of such a setting: of a switch ("true" or "false") in the user's language, of another
+    /// setting unchanged.
     static QString writtenValue(const QString &value);
 };

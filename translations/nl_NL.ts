@@ -5609,7 +5609,7 @@ Bestand: </translation>
     </message>
     <message>
         <source>通道 %1</source>
-        <extracomment>A channel of a recorder. %1 is its number.</extracomment>
+        <extracomment>A channel of a recorder. %1 is its number, from 1.</extracomment>
         <translation>Kanaal %1</translation>
     </message>
     <message>
@@ -5659,7 +5659,7 @@ Bestand: </translation>
     </message>
     <message>
         <source>连续 %1 台设备拒绝登录</source>
-        <extracomment>The reason why a device is not part of a report.</extracomment>
+        <extracomment>Why a device of a report was not read: %1 devices in a row refused the login, and the report was stopped.</extracomment>
         <translation>%1 apparaten achter elkaar hebben de aanmelding geweigerd</translation>
     </message>
 </context>

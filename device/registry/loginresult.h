@@ -8,7 +8,10 @@
 /// The result of a request to a device.
 enum class LoginResult : int
 {
-    Unknown = -1, ///< no request yet; also the code of an unusable line in the list of failures of an import
+    /// No request yet. As the outcome of a batch step: the device has accepted the login and waits for a
+    /// further step (BatchReport::Waiting). Also the code of an unusable line in the list of failures of an
+    /// import.
+    Unknown = -1,
     Success = 0,
     NoSuchAccount = 1,
     WrongPassword = 2,
@@ -27,12 +30,15 @@ enum class LoginResult : int
     ChangedCertificate = 19, ///< no request: the certificate of the device differs from the accepted one
     Cancelled = 20,          ///< the request was cancelled
     AddressInUse = 21,       ///< another device responds at the address
-    Unconfirmed = 22,        ///< the device has accepted the request, but its effect is not confirmed
-    Refused = 999,           ///< the device has refused the request
+                       /// The device has accepted the request, or may have received it (its response was
+                       /// lost). The effect could not be confirmed.
+    Unconfirmed = 22,
+    Refused = 999, ///< the device has refused the request
 };
 
 /// The result of a failed operation of the network library. `libraryError` is its last error, with or without
-/// its high bit. Never Success; NetworkFailure for an unknown error.
+/// its high bit. Never Success; NetworkFailure for every error without a LoginResult, also for a busy device,
+/// a refused firmware and a failed upgrade.
 [[nodiscard]] LoginResult loginResultOf(std::uint32_t libraryError);
 
 /// Whether an error of the network library, with or without its high bit, means that the device is offline:
@@ -54,12 +60,15 @@ enum class LoginResult : int
 }
 
 // More result codes of operations, which are used in the same place as a LoginResult. Further codes are
-// unusableLine (997) in deviceimport.h, commandFailed (998) of CGI commands, and 10 of an encode page whose
-// capabilities are unknown.
+// unusableLine (997) in deviceimport.h, commandFailed (998) of CGI commands, and 10 of encode and image
+// settings whose capabilities are unknown.
 
-inline constexpr int upgradeFileUnusable = 992; ///< no request was sent
-inline constexpr int upgradeFailed =
-    993; ///< aborted by the device, not restarted, or the version is the old one
+/// The firmware file is missing, unreadable, damaged or for another model. No firmware was sent. For another
+/// model, a login may have been made to read the model of the device.
+inline constexpr int upgradeFileUnusable = 992;
+/// Aborted by the device, without progress for too long, no response after the restart, or the version is the
+/// old one.
+inline constexpr int upgradeFailed = 993;
 inline constexpr int upgradeUnconfirmed =
     994;                               ///< the device has restarted; its version does not prove the upgrade
 inline constexpr int deviceBusy = 995; ///< the device refuses for now; a retry may succeed

@@ -46,17 +46,18 @@ public:
     void setRange(SearchRange range);
 
     /// Starts a search: first of the local segment (5 s) if `localSegment` is true, then of the range, if one
-    /// is set (6 s for each /24 block). Returns immediately; done() reports the end. The task clears the
-    /// store first, see DeviceStore::clear(). Without a network library, nothing is found. A search that is
+    /// is set (6 s for each /24 block). Returns immediately; done() reports the end. The task first removes
+    /// the rows of the store, except those of DeviceStore::setKept(): they stay and are lost until this
+    /// search finds their devices. Without a network library, nothing is found. A search that is
     /// still running continues: both searches fill the same store.
     void start(bool localSegment);
 
 Q_SIGNALS:
-    /// Rows were added or removed. Emitted at the beginning and at the end of a search, and at most once a
-    /// second between them.
+    /// Rows were added or removed, or a row has got its MAC. Emitted at the beginning and at the end of a
+    /// search, and at most once a second between them.
     void rowsAdded();
-    /// Number of IPv4 rows that are not lost. Emitted after each rowsAdded(), except the one at the
-    /// beginning.
+    /// Number of IPv4 rows, without kept rows whose devices the search has not found yet. Emitted after each
+    /// rowsAdded(), except the one at the beginning.
     void counted(int ipv4Rows);
     /// At the end of a search: `leftOut` responses were dropped because the search had added `rows` rows, the
     /// maximum. Not emitted if none was dropped.

@@ -84,21 +84,24 @@ public:
     /// Missing; after a search that was stopped they stay Waiting.
     Q_INVOKABLE void endSearch(bool isStopped);
 
+    // `isIPv6` selects the list of the devices: the IPv6 list, or that of IPv4.
+
     /// Adds the values of addValues() to the rows (QJsonObjects) of the list `list`, and appends a row for
-    /// each known device that is not in it, with "presence" Waiting or Missing and "lastSeen".
+    /// each known device of this list that is not in it, with "presence" Waiting or Missing and "lastSeen".
     void complete(QVariantList &list, bool isIPv6) const;
 
     /// Adds "group" and "presence" (see SiteKey) to a row of the list: the group, if the device has one, and
-    /// Presence::New for a device that was not known before the last search.
+    /// Presence::New for a device that was not known before the last search. Rows that are lost or behind NAT
+    /// are not New.
     void addValues(QJsonObject &row, bool isIPv6) const;
 
     /// Leaves the devices of these rows out of complete() until the next search begins. Called before the
     /// user removes them from the list. They stay known.
     void hide(const QList<QJsonObject> &rows, bool isIPv6);
 
-    // The following functions are for QML. `rows` are maps from get() of a table model. They return an empty
-    // string on success, otherwise the reason in the user's language; the site is unchanged then, unless
-    // stated otherwise.
+    // The following functions are for QML. `rows` are maps from get() of a table model. Those with a
+    // result return an empty string on success, otherwise the reason in the user's language; the site is
+    // unchanged then, unless stated otherwise.
 
     /// Puts devices into the group; an empty name removes them from their groups. Spaces at the ends are
     /// removed, several spaces become one. Fails for a name that is too long, for devices behind NAT, and if

@@ -17,6 +17,12 @@ void appendNumber(Bytes &bytes, std::uint32_t number, int size)
         bytes.push_back(static_cast<std::uint8_t>(number >> shift));
 }
 
+bool isHexDigit(QChar character)
+{
+    const char16_t lower = character.toLower().unicode();
+    return (lower >= u'0' && lower <= u'9') || (lower >= u'a' && lower <= u'f');
+}
+
 /// The bytes of groups separated by single colons. Empty bytes for an empty text. The last group may be an
 /// IPv4 address if `atEnd`.
 std::optional<Bytes> groupBytes(QStringView text, bool atEnd)
@@ -34,7 +40,8 @@ std::optional<Bytes> groupBytes(QStringView text, bool atEnd)
         }
         bool isNumber = false;
         const ushort number = group.toUShort(&isNumber, 16);
-        if (!isNumber || group.size() > longestGroup)
+        // The conversion also accepts "+1" and "0x1".
+        if (!isNumber || group.size() > longestGroup || !std::ranges::all_of(group, &isHexDigit))
             return std::nullopt;
         appendNumber(bytes, number, 2);
     }

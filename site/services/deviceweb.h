@@ -6,9 +6,9 @@
 
 namespace site {
 
-/// Responds to the HTTP requests to the simulated devices by their path: SOAP services, firmware uploads, and
-/// the web service of the demo site (/cgi-bin/) for all other paths. Thread-safe: used by the threads of
-/// connections.
+/// Responds to the HTTP requests to the simulated devices. Paths of services go to the SOAP services, a POST
+/// to an upload path to the firmware uploads, all other requests (for example /cgi-bin/) to the web service
+/// of the demo site. Thread-safe: used by the threads of connections.
 class DeviceWeb : public HttpService
 {
 public:
@@ -18,7 +18,8 @@ public:
     /// A receiver for a POST to an upload path; empty for other requests.
     [[nodiscard]] BodyReceiver bodyReceiver(const HttpReceiver &receiver,
                                             const sdk::demo::HttpRequest &head) override;
-    /// Services take POST only. NotFound for other paths of a device without a web page.
+    /// MethodNotAllowed for a request to a service that is not a POST. NotFound for a request to the web
+    /// service, also /cgi-bin/, if the device has no HTTP port or has left the site.
     [[nodiscard]] sdk::demo::HttpResponse respond(const HttpReceiver &receiver,
                                                   const sdk::demo::HttpRequest &head,
                                                   const QByteArray &body) override;

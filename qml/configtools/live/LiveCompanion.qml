@@ -20,7 +20,7 @@ Item {
     readonly property alias handle: session.handle  // handle of the session in the device library, 0 without one
     readonly property bool busy: checking && !loggedIn  // a login runs
 
-    /// Why the device cannot be watched now, also that the login runs; "" if it can.
+    /// Why there is no session now, also that the login runs; "" with a session, also while its device is offline.
     readonly property string failure: loggedIn ? "" : busy ? qsTr("正在登录…")
         : backoff.running ? qsTr("%1，%n 秒后重试", "", backoff.secondsLeft).arg(deviceFactory.getErrorName(result))
         : deviceFactory.getErrorName(result)

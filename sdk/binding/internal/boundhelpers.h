@@ -2,9 +2,9 @@
 // functions of closed libraries.
 //
 // Each operation calls the C function of the same name on the calling thread, with its parameters translated
-// as entrypoints.h states: for instance a reference to a pointer, a bool to an integer. Nothing else is done:
-// the closed library defines its threads and errors. The constructors copy the entries, whose pointers must
-// all be set.
+// as entrypoints.h states: for instance a reference to a pointer, a bool to an integer. Nothing is added:
+// the closed library must meet the contract of the interface (threads, failures, lifetimes). The constructors
+// copy the entries. All pointers must be set, and the library must stay loaded while the object is used.
 #pragma once
 
 #include "sdk/binding/entrypoints.h"

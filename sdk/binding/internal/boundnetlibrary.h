@@ -7,8 +7,9 @@ namespace sdk::binding {
 
 /// Each operation calls the C function of the same name on the calling thread, with its parameters translated
 /// as entrypoints.h states: for instance a reference to a pointer, a time to milliseconds as a number.
-/// Nothing else is done: the closed library defines its threads and error codes. The constructor copies the
-/// entries, whose pointers must all be set.
+/// Nothing is added: the closed library must meet the contract of the interface (threads, error codes,
+/// lifetimes). The constructor copies the entries. All pointers must be set, and the library must stay loaded
+/// while the object is used.
 class BoundNetLibrary : public NetLibrary
 {
 public:

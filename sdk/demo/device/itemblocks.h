@@ -13,11 +13,12 @@ namespace sdk::demo {
 /// The block of an item as a list of words of 32 bits. Entries of a constant table.
 struct ItemBlock
 {
-    std::uint32_t number;               ///< of the item
-    std::uint32_t size;                 ///< of the block, in bytes
-    std::span<const char *const> words; ///< names, null for reserved words; empty for CameraItem::ChannelName
-    std::size_t selectorWord = 0;       ///< index of the stream or mode, 0 without one
-    std::uint32_t floatWords = 0;       ///< bit N: word N is a float
+    std::uint32_t number; ///< of the item
+    std::uint32_t size;   ///< of the block, in bytes
+    std::span<const char *const>
+        words; ///< names, of word 0 "size"; null if reserved; none for CameraItem::ChannelName
+    std::size_t selectorWord = 0; ///< index of the stream or mode, 0 without one
+    std::uint32_t floatWords = 0; ///< bit N: word N is a float
 };
 
 /// The layout of the item, a constant; null for an unknown number.

@@ -44,8 +44,8 @@ public:
     /// Whether bytes are available: read() would return without waiting.
     [[nodiscard]] bool hasBytes() const { return m_headerPosition < m_header.size() || m_queue.hasNext(); }
 
-    /// The time of InputQueue::put() of the bytes that read() has returned last, without headers; 0 before
-    /// the first ones.
+    /// The time, in milliseconds of InputQueue::put(), of the bytes that read() has returned last, without
+    /// headers; 0 before the first ones.
     [[nodiscard]] std::int64_t arrival() const { return m_arrival; }
 
     /// Sets the number of bytes that the reader keeps and has not processed. They count against the limit of

@@ -55,7 +55,7 @@ public:
     {
         if (node.type() != pugi::node_element)
             return true;
-        if (++m_elements > XmlDocument::maximumElements || depth() > XmlDocument::maximumDepth)
+        if (++m_elements > XmlDocument::maximumElements || depth() >= XmlDocument::maximumDepth)
             return false;
         int attributes = 0;
         for (pugi::xml_attribute attribute = node.first_attribute(); attribute;
