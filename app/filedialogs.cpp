@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QPixmapCache>
 #include <QRegularExpression>
 #include <QWindow>
 
@@ -58,6 +59,8 @@ QFileDialog *FileDialogs::newDialog(const QString &title) const
     auto *dialog = new QFileDialog(nullptr, title, m_folder);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowModality(Qt::ApplicationModal);
+    // Each dialog adds its icons to the cache under new keys, up to 10 MB. Nothing else uses the cache.
+    connect(dialog, &QObject::destroyed, &QPixmapCache::clear);
     return dialog;
 }
 
