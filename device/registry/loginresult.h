@@ -30,8 +30,9 @@ enum class LoginResult : int
     ChangedCertificate = 19, ///< no request: the certificate of the device differs from the accepted one
     Cancelled = 20,          ///< the request was cancelled
     AddressInUse = 21,       ///< another device responds at the address
-                       /// The device has accepted the request, or may have received it (its response was
-                       /// lost). The effect could not be confirmed.
+
+    /// The device has accepted the request, or may have received it (its response was lost). The effect could
+    /// not be confirmed.
     Unconfirmed = 22,
     Refused = 999, ///< the device has refused the request
 };
